@@ -1,0 +1,49 @@
+# What holds for every target of the project: language level, warnings, symbol visibility, the build cache,
+# and the instrumentation that the presets sanitize, coverage and fuzz switch on.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(VX_BUILD_TESTS "Build the tests" ON)
+option(VX_BUILD_BENCH "Build the speed measurements" ON)
+option(VX_WARNINGS_AS_ERRORS "Stop the build at the first compiler warning" ON)
+set(VX_INSTRUMENT "" CACHE STRING "Instrumentation: empty, sanitize, coverage or fuzz")
+
+find_program(VX_CCACHE ccache)
+if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${VX_CCACHE})
+endif()
+
+# One directory for programs and libraries, so that a program finds its libraries wherever the tree stands.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+include(GNUInstallDirs)
+file(RELATIVE_PATH VX_LIB_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${VX_LIB_FROM_BIN}")
+
+add_library(vx_options INTERFACE)
+target_compile_options(vx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(VX_WARNINGS_AS_ERRORS)
+    target_compile_options(vx_options INTERFACE -Werror)
+endif()
+
+if(VX_INSTRUMENT STREQUAL "sanitize")
+    # GCC takes the instrumented standard library for uninitialised; the other presets keep that warning.
+    target_compile_options(vx_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+    target_link_options(vx_options INTERFACE -fsanitize=address,undefined)
+elseif(VX_INSTRUMENT STREQUAL "coverage")
+    target_compile_options(vx_options INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(vx_options INTERFACE --coverage)
+elseif(VX_INSTRUMENT STREQUAL "fuzz")
+    target_compile_options(vx_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                                -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(vx_options INTERFACE -fsanitize=address,undefined)
+elseif(VX_INSTRUMENT)
+    message(FATAL_ERROR "VX_INSTRUMENT is \"${VX_INSTRUMENT}\"; it may be empty, sanitize, coverage or fuzz")
+endif()

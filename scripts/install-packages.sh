@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs the Debian packages of packaging/debian-packages.txt that are missing, through sudo where not root.
+# Asks nothing itself; ends at once when all are there.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+list=packaging/debian-packages.txt
+mapfile -t packages < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$list")
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "This system has no apt-get, so missing packages cannot be installed here." >&2
+    echo "Install what $list names (Debian's names), by the means of your system; building goes on." >&2
+    exit 0
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    if ! dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed; then
+        missing+=("$package")
+    fi
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "Packages are missing and there is no sudo. Run as root: apt-get install ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}" >&2
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get -q update >&2
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get -q -y install --no-install-recommends "${missing[@]}" >&2

@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Builds everything with AddressSanitizer and UndefinedBehaviorSanitizer and runs all tests, leak detection on.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/build.sh sanitize
+ctest --preset sanitize "$@"

@@ -1,0 +1,115 @@
+#include "vxMaterial/model/MaterialProperty.h"
+
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <array>
+#include <utility>
+
+namespace vxMat {
+
+eValueKind getValueKind(std::int32_t id)
+{
+    switch (id) {
+    case PropertyId::NeoHooke:
+    case PropertyId::MooneyRivlin:
+    case PropertyId::ArrudaBoyce:
+    case PropertyId::IsotropicElasticity:
+    case PropertyId::Plasticity:
+        return eValueKind::ModelSwitch;
+    case PropertyId::PlasticYieldType:
+    case PropertyId::PlasticHardeningType:
+        return eValueKind::Word;
+    case PropertyId::PlasticYieldStress:
+    case PropertyId::PlasticStrain:
+        return eValueKind::NumberList;
+    default:
+        return eValueKind::Number;
+    }
+}
+
+const char* getPropertyCategoryName(std::int32_t category)
+{
+    static constexpr std::array names{"Basic",        "Linear Elastic", "Hyperelastic", "Plastic", "Creep",
+                                      "Viscoelastic", "Thermal",        "Electric",     "Acoustic"};
+    if (category < 0 || static_cast<std::size_t>(category) >= names.size())
+        return "Undefined";
+    return names[static_cast<std::size_t>(category)];
+}
+
+const char* getPropertyTypeName(std::int32_t id)
+{
+    constexpr std::int32_t thermalExpansion = 201;
+    switch (id) {
+    case PropertyId::Density:
+        return "Density";
+    case thermalExpansion:
+        return "Thermal Expansion";
+    case PropertyId::ElectricalConductivity:
+        return "Electrical Conductivity";
+    case PropertyId::RelativePermittivity:
+        return "Relative Permittivity";
+    case PropertyId::RelativePermeability:
+        return "Relative Permeability";
+    default:
+        return "";
+    }
+}
+
+ObjectBase::~ObjectBase() = default;
+
+MaterialProperty::MaterialProperty(std::int32_t propertyId, std::string displayName, const std::string& valueText,
+                                   std::string shortKey, std::string hint)
+    : id(propertyId), name(std::move(displayName)), key(std::move(shortKey)), description(std::move(hint))
+{
+    switch (getValueKind(propertyId)) {
+    case eValueKind::ModelSwitch:
+        value = 1.0;
+        break;
+    case eValueKind::Word:
+        text = valueText;
+        break;
+    case eValueKind::NumberList:
+        values = readNumberList(valueText);
+        break;
+    case eValueKind::Number:
+        value = readNumber(valueText);
+        break;
+    }
+}
+
+MaterialProperty::MaterialProperty(std::int32_t propertyId, std::string displayName, std::string shortKey,
+                                   double number)
+    : id(propertyId), name(std::move(displayName)), key(std::move(shortKey)), value(number), unit("-")
+{}
+
+MaterialProperty::MaterialProperty(const MaterialProperty& other)
+    : ObjectBase(),
+      id(other.id),
+      name(other.name),
+      key(other.key),
+      value(other.value),
+      text(other.text),
+      values(other.values),
+      description(other.description),
+      unit(other.unit),
+      category(other.category)
+{}
+
+MaterialProperty::~MaterialProperty() = default;
+
+void MaterialProperty::initProperty() {}
+
+std::string formatValue(const MaterialProperty& property)
+{
+    switch (getValueKind(property.id)) {
+    case eValueKind::Word:
+        return property.text;
+    case eValueKind::NumberList:
+        return formatNumberList(property.values);
+    default:
+        return formatNumber(property.value);
+    }
+}
+
+} // namespace vxMat

@@ -1,0 +1,7 @@
+#include "vxMaterial/exchange/CAEBase.h"
+
+namespace vxCAE {
+
+CAEBase::~CAEBase() = default;
+
+} // namespace vxCAE

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "vxMaterial/exchange/CAEBase.h"
+#include "vxMaterial/exchange/ExchangeExport.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vxCAE {
+
+/// Where and how the solver writes results and logs. A field bears the name of its JSON member. Result formats are
+/// numbered by the solver and carried unchanged.
+class VXCAE_EXPORT CAEResult : public CAEBase
+{
+public:
+    const char* typeName() const override;
+    void writeJson(Json::Value& document) const override;
+    void readJson(const Json::Value& document) override;
+
+    std::int32_t rst_format = 4;
+    std::string rst_fname = "noname_rst.dat";
+    std::string rst_path;
+    bool output_iter_log = false;
+    bool output_time_log = false;
+    std::uint32_t output_freq = 1; ///< output frequency
+    bool monitor_trans = false;
+};
+
+} // namespace vxCAE

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "vxMaterial/exchange/CAEBase.h"
+#include "vxMaterial/exchange/ExchangeExport.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vxCAE {
+
+/// What an analysis solves. A field bears the name of its JSON member. The numbers of solver form and dimension mean
+/// what the solver makes of them; they are carried unchanged.
+///
+/// Two members travel one way only. The deform type is written as "deform_type" and read as "defrom_type". The
+/// settings of modal and spectrum analyses are read but never written. The format has it so.
+class VXCAE_EXPORT CAESystem : public CAEBase
+{
+public:
+    const char* typeName() const override;
+    void writeJson(Json::Value& document) const override;
+    void readJson(const Json::Value& document) override;
+
+    void setPhysicsType(std::int32_t type);
+    /// Sets the physics by its word, "structural" or "THERMAL"; the case does not matter. An unknown word changes
+    /// nothing.
+    void setPhysicsType(std::string word);
+    void setAnalysisType(std::int32_t type);
+    void setPhysicsAndAnalysis(std::int32_t physics, std::int32_t analysis);
+    std::int32_t getDimension() const;
+    void setDimension(std::int32_t dimension);
+    /// Whether the system alone makes the analysis nonlinear: by contact or large deformation.
+    bool isNonlinear() const;
+
+    std::int32_t physics_type = PhysicsType::NotSet;
+    std::int32_t analysis_type = AnalysisType::NotSet;
+    std::int32_t solver_form = 0;
+    std::int32_t deform_type = 0; ///< 1: large deformation
+    std::int32_t dim = 0;
+    bool has_contact = false;
+    bool cal_stress = false;
+    double ambient_temp = 22.3; ///< ambient temperature
+    std::uint32_t study_id = 0;
+    std::uint32_t solution_id = 0;
+    std::string time_inte; ///< time integration, "Explicit"
+
+    // Modal analysis: number of eigenvalues, tolerance and iteration limit of the eigensolver
+    std::uint32_t n_eigens = 5;
+    double lcz_tol = 1e-8;
+    std::uint32_t lcz_max = 60;
+
+    // Spectrum response: the modes from first to last
+    std::uint32_t start_mode = 1;
+    std::uint32_t end_mode = 5;
+};
+
+} // namespace vxCAE

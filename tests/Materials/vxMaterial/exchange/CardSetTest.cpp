@@ -1,0 +1,121 @@
+#include "vxMaterial/exchange/CardSet.h"
+
+#include "ExchangeTesting.h"
+
+#include "vxMaterial/model/MaterialLibrary.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using vxCAE::CardSet;
+using vxCAE::makeCardSet;
+using vxCAE::MaterialEntry;
+using vxCAE::MaterialSource;
+using vxtest::makeEntry;
+
+std::vector<std::string> namesOf(const CardSet& set)
+{
+    std::vector<std::string> names;
+    for (const auto& card : set.cards)
+        names.push_back(card.name);
+    return names;
+}
+
+CardSet libraryCards(const vxMat::MaterialBase& material)
+{
+    MaterialEntry entry;
+    entry.material->copyFrom(material);
+    entry.classifyKind();
+    return makeCardSet(entry, MaterialSource::Complete);
+}
+
+CardSet cardsOf(const std::unique_ptr<MaterialEntry>& entry)
+{
+    return makeCardSet(*entry, MaterialSource::Complete);
+}
+
+TEST(CardSet, HoldsTheCardsThatApplyAndNoOthers)
+{
+    EXPECT_THAT(namesOf(libraryCards(vxMat::StructuralSteel())),
+                ElementsAre("elasticity", "density", "specific heat", "thermal conductivity"));
+    EXPECT_THAT(namesOf(libraryCards(vxMat::PlasticMaterial1())), ElementsAre("elasticity", "plasticity", "density"));
+    EXPECT_THAT(namesOf(libraryCards(vxMat::CreepMaterial1())), ElementsAre("elasticity", "creep", "density"));
+    EXPECT_THAT(namesOf(libraryCards(vxMat::ViscoElasticMaterial1())),
+                ElementsAre("elasticity", "visco-elasticity", "density"));
+    EXPECT_THAT(namesOf(libraryCards(vxMat::EMMaterial1())), IsEmpty());
+}
+
+TEST(CardSet, HasNoDoubtsAboutTheLibrary)
+{
+    for (const auto& entry : vxMat::libraryEntries())
+        EXPECT_THAT(libraryCards(*entry.create()).doubts, IsEmpty()) << entry.create()->name;
+}
+
+TEST(CardSet, DoubtsACardThatLacksAValue)
+{
+    const CardSet elasticity = cardsOf(makeEntry({{5, 1.0}}));
+    EXPECT_THAT(elasticity.doubts,
+                ElementsAre("the elasticity card lacks a value: \"Invalid young_modulus or poisson_ratio.\""));
+    const CardSet creep = cardsOf(makeEntry({{45, 1.0}}));
+    EXPECT_THAT(namesOf(creep), ElementsAre("creep"));
+    EXPECT_THAT(creep.doubts, ElementsAre(HasSubstr("Invalid dModulusA, dModulusN, or dModulusM.")));
+}
+
+TEST(CardSet, DoubtsAPlasticityThatTheSolverDoesNotKnow)
+{
+    auto entry = makeEntry({{32, 1.0}, {33, 0.0}});
+    entry->material->setProperty(37, std::make_unique<vxMat::PlasticHardeningType>("Swift"));
+    const CardSet set = cardsOf(entry);
+    EXPECT_THAT(namesOf(set), IsEmpty());
+    EXPECT_THAT(set.doubts,
+                ElementsAre("no plasticity card is written for yield type \"Mises\" with hardening type \"Swift\""));
+}
+
+TEST(CardSet, DoubtsACurveWithMoreStressesThanStrains)
+{
+    auto entry = makeEntry({{32, 1.0}, {33, 0.0}});
+    entry->material->setProperty(37, std::make_unique<vxMat::PlasticHardeningType>("Multilinear"));
+    entry->material->setProperty(38, std::make_unique<vxMat::PlasticYieldStress>(std::vector{1.0, 2.0, 3.0}));
+    entry->material->setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0}));
+    EXPECT_THAT(cardsOf(entry).doubts,
+                ElementsAre("the plasticity card leaves out 2 of 3 yield stresses, which have no plastic strain"));
+}
+
+TEST(CardSet, DoubtsTheModelsThatAnotherTakesPrecedenceOver)
+{
+    EXPECT_THAT(cardsOf(makeEntry({{42, 1.0}, {43, 1.0}, {44, 1.0}, {45, 1.0}})).doubts,
+                ElementsAre(HasSubstr("\"Creep\": another model")));
+}
+
+TEST(CardSet, DoubtsThePlasticityOfADocumentThatNamesNoWordOrList)
+{
+    const auto set = makeCardSet(*makeEntry({{32, 1.0}}), MaterialSource::Document);
+    EXPECT_THAT(set.doubts,
+                ElementsAre("the plasticity card cannot be complete: exchange documents carry no words and lists"));
+}
+
+TEST(CardSet, DoubtsThePlasticityOfADocumentForItsLostWordsAndLists)
+{
+    MaterialEntry entry;
+    entry.material->copyFrom(vxMat::PlasticMaterial1());
+    Json::Value document;
+    vxCAE::CAEMaterials section;
+    section.addMaterial(1, std::make_unique<MaterialEntry>());
+    section.getMaterial(1)->material->copyFrom(vxMat::PlasticMaterial1());
+    section.writeJson(document);
+    vxCAE::CAEMaterials read;
+    read.readJson(document);
+    read.getMaterial(1)->classifyKind();
+    const CardSet set = makeCardSet(*read.getMaterial(1), MaterialSource::Document);
+    EXPECT_THAT(set.doubts,
+                ElementsAre("the plasticity card cannot be complete: exchange documents carry no words and "
+                            "lists (\"Yield type\", \"Hardening type\", \"Yield stress\", \"Plastic strain\")"));
+    EXPECT_THAT(namesOf(set), ElementsAre("elasticity", "density"));
+}
+
+} // namespace

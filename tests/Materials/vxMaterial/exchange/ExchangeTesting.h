@@ -1,0 +1,46 @@
+#pragma once
+
+#include "vxMaterial/exchange/CAEMaterials.h"
+#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace vxtest {
+
+/// The document that a JSON text describes; the test fails when it is none.
+inline Json::Value json(const std::string& text)
+{
+    auto reading = vxCAE::readJsonText(text);
+    EXPECT_FALSE(reading.error) << text;
+    return std::move(reading.document);
+}
+
+/// What a section writes into an empty document.
+template <class Section>
+Json::Value written(const Section& section)
+{
+    Json::Value document;
+    section.writeJson(document);
+    return document;
+}
+
+/// A material entry with numbers under ids, classified.
+inline std::unique_ptr<vxCAE::MaterialEntry> makeEntry(std::initializer_list<std::pair<int, double>> numbers)
+{
+    auto entry = std::make_unique<vxCAE::MaterialEntry>();
+    for (const auto& [id, number] : numbers) {
+        auto property = vxMat::findPropertyRecord(id)->create();
+        property->value = number;
+        entry->material->setProperty(id, std::move(property));
+    }
+    entry->classifyKind();
+    return entry;
+}
+
+} // namespace vxtest

@@ -1,0 +1,201 @@
+#include "vxMaterial/exchange/JsonText.h"
+
+#include "CommaLocale.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <locale>
+#include <string>
+
+namespace {
+
+using testing::HasSubstr;
+using vxCAE::JsonError;
+using vxCAE::readJsonText;
+
+JsonError errorOf(const std::string& text)
+{
+    const auto reading = readJsonText(text);
+    EXPECT_TRUE(reading.error) << text.substr(0, 80);
+    EXPECT_TRUE(reading.document.isNull());
+    return reading.error.value_or(JsonError());
+}
+
+TEST(ReadJsonText, GivesTheDocument)
+{
+    const auto reading = readJsonText(R"({"a": [1, 2.5, "x"]} // a comment)");
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.document["a"][1], 2.5);
+}
+
+TEST(ReadJsonText, NamesLineAndColumnOfAnError)
+{
+    const JsonError error = errorOf("{\n  \"a\": 1,\n  \"b\": }");
+    EXPECT_EQ(error.line, 3);
+    EXPECT_EQ(error.column, 8);
+    EXPECT_THAT(error.message, HasSubstr("Syntax error"));
+}
+
+TEST(ReadJsonText, RefusesTruncatedEmptyAndForeignTexts)
+{
+    for (const char* const text : {"", " ", "{", "{\"a\": [1, 2", "{\"a\"", "\"open", "steel", "<xml/>", "{} x"})
+        EXPECT_NE(errorOf(text).line, 0) << text;
+}
+
+TEST(ReadJsonText, RefusesANumberBeyondADouble)
+{
+    for (const char* const number : {"1e999", "-1e999", "1e-999", "0.1e-400"}) {
+        const JsonError error = errorOf("{\"a\": " + std::string(number) + "}");
+        EXPECT_EQ(error.line, 1);
+        EXPECT_EQ(error.column, 7);
+        EXPECT_EQ(error.message, "'" + std::string(number) + "' is beyond the range of a double");
+    }
+    EXPECT_FALSE(readJsonText("[0e999, 0.0e-999, -0, 5e-324, 1.7976931348623157e308, 12345678901234567890123]").error);
+}
+
+TEST(ReadJsonText, RefusesWhatIsNoNumberInJson)
+{
+    for (const char* const number : {"-", "+1", "01", "1.", ".5", "1e", "1e+", "0x10", "1.5.2", "--1", "1a"}) {
+        const JsonError error = errorOf("[1,\n " + std::string(number) + "]");
+        EXPECT_EQ(error.line, 2) << number;
+        EXPECT_EQ(error.column, 2) << number;
+        EXPECT_EQ(error.message, "'" + std::string(number) + "' is not a number");
+    }
+    for (const char* const word : {"nan", "NaN", "Infinity", "-Infinity", "nul", "True"})
+        EXPECT_NE(errorOf("[" + std::string(word) + "]").message, "") << word;
+}
+
+TEST(ReadJsonText, RefusesTrailingCommas)
+{
+    EXPECT_NE(errorOf("[1,]").line, 0);
+    EXPECT_NE(errorOf("{\"a\": 1,}").line, 0);
+}
+
+TEST(ReadJsonText, RefusesBytesThatAreNotUtf8)
+{
+    const char* const bad[] = {"\xff",
+                               "\xc3",
+                               "\xc3(",
+                               "\xc0\x80",
+                               "\xe2\x82",
+                               "\xe0\x80\x80",
+                               "\xed\xa0\x80",
+                               "\xf0\x80\x80\x80",
+                               "\xf4\x90\x80\x80",
+                               "\xf8\x88\x80\x80\x80"};
+    for (const char* const bytes : bad) {
+        const JsonError error = errorOf("{\n\"a\": \"" + std::string(bytes) + "\"}");
+        EXPECT_EQ(error.line, 2);
+        EXPECT_EQ(error.column, 7);
+        EXPECT_EQ(error.message, "the text is not UTF-8");
+    }
+    const auto reading = readJsonText("{\"a\": \"\xc3\xa4\xe6\x9d\x90\xf0\x9f\x94\xa9\"}");
+    ASSERT_FALSE(reading.error);
+    EXPECT_EQ(reading.document["a"].asString(), "\xc3\xa4\xe6\x9d\x90\xf0\x9f\x94\xa9");
+}
+
+TEST(ReadJsonText, RefusesAZeroByteAndWhatStandsBehindIt)
+{
+    const JsonError error = errorOf(std::string("{}\0garbage", 10));
+    EXPECT_EQ(error.column, 3);
+    EXPECT_EQ(error.message, "a zero byte");
+}
+
+TEST(ReadJsonText, PassesOverAByteOrderMark)
+{
+    EXPECT_FALSE(readJsonText("\xef\xbb\xbf{\"a\": 1}").error);
+}
+
+TEST(ReadJsonText, ShortensTheMessageAboutAVeryLongNumber)
+{
+    const JsonError error = errorOf("{\"a\": " + std::string(200000, '9') + "}");
+    EXPECT_LT(error.message.size(), 250U);
+    EXPECT_THAT(error.message, HasSubstr("9...9"));
+    EXPECT_THAT(error.message, HasSubstr("beyond the range"));
+}
+
+TEST(ReadJsonText, TakesATextOfAnyLengthInAValue)
+{
+    const std::string digits(200000, '7');
+    const auto reading = readJsonText("{\"a\": \"" + digits + "\"}");
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.document["a"].asString(), digits);
+}
+
+TEST(ReadJsonText, TellsWhereADocumentIsNestedTooDeep)
+{
+    // What looks like nesting in texts and comments is none.
+    const std::string start = "/* [[ */ {\"]\\\"[\": 0, // [\n\"a\": ";
+    const JsonError arrays = errorOf(start + std::string(100000, '['));
+    EXPECT_EQ(arrays.line, 2);
+    EXPECT_EQ(arrays.column, 5 + 1000) << "the 1000th array, in the object, is the 1001st level";
+    EXPECT_EQ(arrays.message, "nested more than 1000 levels deep");
+
+    std::string objects = start;
+    for (int level = 0; level < 100000; ++level)
+        objects += "{\"b\":";
+    EXPECT_EQ(errorOf(objects).line, 2);
+    EXPECT_EQ(errorOf(objects).message, "nested more than 1000 levels deep");
+}
+
+TEST(ReadJsonText, CountsAValueAsALevelOfItsOwn)
+{
+    const auto nested = [](const std::string& value) {
+        return std::string(1000, '[') + value + std::string(1000, ']');
+    };
+    EXPECT_FALSE(readJsonText(nested("")).error);
+    const JsonError error = errorOf(nested("5"));
+    EXPECT_EQ(error.line, 1);
+    EXPECT_EQ(error.column, 1001);
+    EXPECT_EQ(error.message, "nested more than 1000 levels deep");
+}
+
+TEST(ReadJsonText, ReadsPointsUnderACommaLocale)
+{
+    const vxtest::CommaLocale comma;
+    const auto reading = readJsonText(R"({"a": 0.3, "b": 1234567.25})");
+    ASSERT_FALSE(reading.error);
+    EXPECT_EQ(reading.document["a"].asDouble(), 0.3);
+    EXPECT_EQ(reading.document["b"].asDouble(), 1234567.25);
+}
+
+TEST(ReadJsonText, LeavesBothLocalesOfTheProcessAsTheyWere)
+{
+    const vxtest::CommaLocale comma;
+    // A program may well have commas in C++ and points in C, or the other way round.
+    std::setlocale(LC_NUMERIC, "C");
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    EXPECT_FALSE(readJsonText("{}").error);
+    EXPECT_EQ(std::locale().name(), "de_DE.UTF-8");
+    EXPECT_EQ(std::setlocale(LC_ALL, nullptr), before);
+}
+
+TEST(StyledText, HasNoWordForWhatIsNotFinite)
+{
+    Json::Value document;
+    document["a"] = std::numeric_limits<double>::infinity();
+    document["b"] = std::nan("");
+    EXPECT_EQ(vxCAE::toStyledText(document), "{\n   \"a\" : 1e+9999,\n   \"b\" : null\n}\n");
+}
+
+TEST(StyledText, IndentsByThreeBlanksAndSortsMembers)
+{
+    Json::Value document;
+    document["b"] = 0.5;
+    document["a"] = Json::arrayValue;
+    EXPECT_EQ(vxCAE::toStyledText(document), "{\n   \"a\" : [],\n   \"b\" : 0.5\n}\n");
+}
+
+TEST(StyledText, KeepsThePointUnderACommaLocale)
+{
+    const vxtest::CommaLocale comma;
+    Json::Value document;
+    document["b"] = 1234.5;
+    EXPECT_EQ(vxCAE::toStyledText(document), "{\n   \"b\" : 1234.5\n}\n");
+}
+
+} // namespace

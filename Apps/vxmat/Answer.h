@@ -1,0 +1,39 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace vxmat {
+
+/// The exit statuses of the program.
+enum class Status : int
+{
+    Clean = 0,    ///< done, nothing to object to
+    Findings = 1, ///< done, but something is wrong with what was read
+    Error = 2,    ///< not done: a wrong command line, an unreadable file, a failed write
+};
+
+/// What a subcommand has to say.
+struct Answer
+{
+    std::string text;                  ///< for standard output
+    std::vector<std::string> messages; ///< for standard error, a line each
+    Status status = Status::Clean;
+};
+
+/// A reason why a subcommand could not do its work. The text names the file or argument first.
+class Failure : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The form in which a listing is wanted.
+enum class Form
+{
+    Text,
+    Json
+};
+
+} // namespace vxmat

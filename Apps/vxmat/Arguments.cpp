@@ -1,0 +1,20 @@
+#include "Arguments.h"
+
+#include "Answer.h"
+
+#include <charconv>
+#include <system_error>
+
+namespace vxmat {
+
+std::uint32_t parseNumber(const std::string& argument, const std::string& text)
+{
+    std::uint32_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number);
+    if (read.ec != std::errc() || read.ptr != end)
+        throw Failure(argument + ": \"" + text + "\" is no number; a whole number from 0 to 4294967295 is needed");
+    return number;
+}
+
+} // namespace vxmat

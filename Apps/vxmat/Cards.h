@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Answer.h"
+
+#include <string>
+#include <vector>
+
+namespace vxmat {
+
+/// `vxmat cards NAME|FILE...`: the solver cards of library materials and of the materials of documents. A name of the
+/// library wins over a file of that name. Doubts about cards go to standard error and make findings.
+/// \throws Failure for what is neither a material nor a readable material document
+Answer printCards(const std::vector<std::string>& sources, Form form);
+
+} // namespace vxmat

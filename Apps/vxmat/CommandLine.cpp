@@ -1,0 +1,215 @@
+#include "CommandLine.h"
+
+#include "Answer.h"
+#include "Arguments.h"
+#include "Cards.h"
+#include "Check.h"
+#include "Export.h"
+#include "Files.h"
+#include "Listings.h"
+#include "Query.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <iostream>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace vxmat {
+
+namespace {
+
+void complain(const std::string& message)
+{
+    std::cerr << "vxmat: " << printable(message) << '\n';
+}
+
+/// The subcommands, their arguments, and what they call.
+class CommandLine
+{
+public:
+    CommandLine();
+    int run(int argc, char** argv);
+
+private:
+    CLI::App* addCommand(const std::string& name, const std::string& description, const std::string& example,
+                         std::function<Answer()> action);
+    void addForm(CLI::App* command);
+    void addMaterialsFile(CLI::App* command);
+
+    void addLibrary();
+    void addCatalogue();
+    void addShow();
+    void addExport();
+    void addCards();
+    void addCheck();
+    void addQuery();
+
+    Form form() const { return m_json ? Form::Json : Form::Text; }
+
+    CLI::App m_app{"Materials for finite-element simulation: the library, exchange documents and solver cards.",
+                   "vxmat"};
+    std::function<Answer()> m_action;
+
+    bool m_json = false;
+    std::string m_name;
+    std::vector<std::string> m_names;
+    std::string m_file;
+    std::optional<std::string> m_materialsFile;
+    std::string m_project = "0";
+    std::string m_examples;
+};
+
+CommandLine::CommandLine()
+{
+    m_app.require_subcommand(1);
+    m_app.set_version_flag("--version", std::string("vxmat ") + VXMAT_VERSION);
+    m_app.set_help_all_flag("--help-all", "Print the help of every subcommand and exit");
+    addLibrary();
+    addCatalogue();
+    addShow();
+    addExport();
+    addCards();
+    addCheck();
+    addQuery();
+    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 done and clean, 1 findings, 2 error.");
+}
+
+CLI::App* CommandLine::addCommand(const std::string& name, const std::string& description, const std::string& example,
+                                  std::function<Answer()> action)
+{
+    CLI::App* const command = m_app.add_subcommand(name, description);
+    command->footer("Example:\n  " + example);
+    m_examples += "\n  " + example;
+    command->callback([this, action = std::move(action)] { m_action = action; });
+    return command;
+}
+
+void CommandLine::addForm(CLI::App* command)
+{
+    command->add_flag("--json", m_json, "Print JSON in place of text");
+}
+
+void CommandLine::addMaterialsFile(CLI::App* command)
+{
+    command->add_option("--materials", m_materialsFile, "The material document that the analysis goes with")
+        ->type_name("FILE");
+}
+
+void CommandLine::addLibrary()
+{
+    addForm(addCommand("library", "List the built-in materials: name, group, number of quantities",
+                       "vxmat library --json", [this] { return listLibrary(form()); }));
+}
+
+void CommandLine::addCatalogue()
+{
+    addForm(addCommand("catalogue", "List the quantities that materials are made of", "vxmat catalogue",
+                       [this] { return listCatalogue(form()); }));
+}
+
+void CommandLine::addShow()
+{
+    CLI::App* const command =
+        addCommand("show", "Show a built-in material: name, value, unit, description",
+                   R"(vxmat show "structural steel")", [this] { return showMaterial(m_name, form()); });
+    command->add_option("NAME", m_name, "A material of the library; case does not matter")->required();
+    addForm(command);
+}
+
+void CommandLine::addExport()
+{
+    CLI::App* const command = addCommand("export", "Write built-in materials as a material document for the solver",
+                                         R"(vxmat export "Structural Steel" "Air=20" -o materials.json)",
+                                         [this] { return exportMaterials(m_names, m_file); });
+    command->add_option("NAME", m_names, "Materials of the library, numbered 1, 2, ... or by NAME=NUMBER")->required();
+    command->add_option("-o,--output", m_file, "The file to write; - is standard output")
+        ->type_name("FILE")
+        ->required();
+}
+
+void CommandLine::addCards()
+{
+    CLI::App* const command =
+        addCommand("cards", "Print the solver cards of built-in materials and of material documents",
+                   R"(vxmat cards "Plastic Example 1" materials.json)", [this] { return printCards(m_names, form()); });
+    command->add_option("NAME|FILE", m_names, "Materials of the library, or documents; - is standard input")
+        ->required();
+    addForm(command);
+}
+
+void CommandLine::addCheck()
+{
+    CLI::App* const command =
+        addCommand("check", "Report everything wrong with an exchange document, with its JSON path",
+                   "vxmat check analysis.json --materials materials.json",
+                   [this] { return checkFile(m_file, m_materialsFile, form()); });
+    command->add_option("FILE", m_file, "An exchange document of either kind; - is standard input")->required();
+    addMaterialsFile(command);
+    addForm(command);
+}
+
+void CommandLine::addQuery()
+{
+    CLI::App* const command =
+        addCommand("query", "Print what the solver side asks of an analysis document",
+                   "vxmat query analysis.json --materials materials.json --project 3",
+                   [this] { return queryFile(m_file, m_materialsFile, parseNumber("--project", m_project), form()); });
+    command->add_option("FILE", m_file, "An analysis document; - is standard input")->required();
+    command->add_option("--project", m_project, "The number of the project, for the tags")->type_name("NUMBER");
+    addMaterialsFile(command);
+    addForm(command);
+}
+
+/// What to say of a command line that cannot be understood.
+std::string explain(const CLI::ParseError& error, int argc, char** argv)
+{
+    const bool named = argc > 1 && argv[1][0] != '-';
+    const bool lacksCommand = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+    const std::string reason =
+        lacksCommand && named && std::string(error.what()).find("subcommand") != std::string::npos
+            ? "there is no subcommand \"" + std::string(argv[1]) + "\""
+            : error.what();
+    return reason + "; \"vxmat --help\" shows what there is";
+}
+
+int CommandLine::run(int argc, char** argv)
+{
+    try {
+        m_app.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        std::ostringstream text;
+        m_app.exit(help, text, std::cerr);
+        writeStandardOutput(text.str());
+        return static_cast<int>(Status::Clean);
+    } catch (const CLI::ParseError& error) {
+        complain(explain(error, argc, argv));
+        return static_cast<int>(Status::Error);
+    }
+    const Answer answer = m_action();
+    writeStandardOutput(answer.text);
+    for (const std::string& message : answer.messages)
+        complain(message);
+    return static_cast<int>(answer.status);
+}
+
+} // namespace
+
+int run(int argc, char** argv) noexcept
+{
+    try {
+        try {
+            return CommandLine().run(argc, argv);
+        } catch (const std::exception& error) {
+            complain(error.what());
+        }
+    } catch (...) {
+        // Not even the complaint could be made; the status still tells.
+    }
+    return static_cast<int>(Status::Error);
+}
+
+} // namespace vxmat

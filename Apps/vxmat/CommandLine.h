@@ -1,0 +1,9 @@
+#pragma once
+
+namespace vxmat {
+
+/// Carries out a command line and answers the exit status. Results go to standard output, all else to standard error;
+/// nothing is thrown.
+int run(int argc, char** argv) noexcept;
+
+} // namespace vxmat

@@ -1,0 +1,184 @@
+#include "Files.h"
+
+#include "Answer.h"
+
+#include "vxMaterial/exchange/JsonText.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <json/writer.h>
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace vxmat {
+
+namespace {
+
+[[noreturn]] void fail(const std::string& path, const QString& reason)
+{
+    throw Failure(path + ": " + reason.toStdString());
+}
+
+/// A file name as Qt takes it. A name that it cannot keep would be read or written under another one, and one that
+/// begins with a colon it would take for a resource.
+QString toQString(const std::string& path)
+{
+    if (path.empty())
+        throw Failure("the name of a file is empty");
+    const QString name = QFile::decodeName(path.c_str());
+    if (QFile::encodeName(name).toStdString() != path)
+        fail(path, QStringLiteral("the name is not a UTF-8 text"));
+    return name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name;
+}
+
+std::string readAll(const std::string& path, QFile& file)
+{
+    constexpr qint64 blockSize = 1 << 20;
+    std::string content;
+    std::string block(blockSize, '\0');
+    qint64 count = 0;
+    while ((count = file.read(block.data(), blockSize)) > 0)
+        content.append(block, 0, static_cast<std::size_t>(count));
+    if (count < 0)
+        fail(path, file.errorString());
+    return content;
+}
+
+/// The open file of this process that a path such as /dev/stdout or /dev/fd/3 means. To write such a file anew by its
+/// name would throw away what stands in it.
+std::optional<int> descriptorOf(const std::string& path)
+{
+    static constexpr std::array<std::pair<std::string_view, int>, 3> names{
+        {{"/dev/stdin", 0}, {"/dev/stdout", 1}, {"/dev/stderr", 2}}};
+    for (const auto& [name, descriptor] : names) {
+        if (path == name)
+            return descriptor;
+    }
+    for (const std::string_view folder : {"/dev/fd/", "/proc/self/fd/"}) {
+        int descriptor = 0;
+        const char* const end = path.data() + path.size();
+        if (path.rfind(folder, 0) == 0 && std::from_chars(path.data() + folder.size(), end, descriptor).ptr == end)
+            return descriptor;
+    }
+    return std::nullopt;
+}
+
+/// Writes to a file that is open already.
+void writeToOpen(const std::string& path, int descriptor, const std::string& text)
+{
+    const auto size = static_cast<qint64>(text.size());
+    QFile file;
+    if (!file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(text.data(), size) != size)
+        fail(path, file.errorString());
+}
+
+} // namespace
+
+std::string readFile(const std::string& path)
+{
+    if (path == standardStream) {
+        QFile input;
+        if (!input.open(stdin, QIODevice::ReadOnly))
+            fail("standard input", input.errorString());
+        return readAll("standard input", input);
+    }
+    QFile file(toQString(path));
+    if (QFileInfo(file).isDir())
+        fail(path, QStringLiteral("Is a directory"));
+    if (!file.open(QIODevice::ReadOnly))
+        fail(path, file.errorString());
+    return readAll(path, file);
+}
+
+Json::Value parseDocument(const std::string& path, const std::string& text)
+{
+    if (text.find_first_not_of(" \t\r\n") == std::string::npos)
+        throw Failure(path + ": the file is empty; a JSON document is needed");
+    auto reading = vxCAE::readJsonText(text);
+    if (reading.error) {
+        const auto& [line, column, message] = *reading.error;
+        const std::string place =
+            line > 0 ? "line " + std::to_string(line) + ", column " + std::to_string(column) + ": " : "";
+        throw Failure(path + ": " + place + message);
+    }
+    if (!reading.document.isObject())
+        throw Failure(path + ": not an exchange document: a JSON object is needed");
+    return std::move(reading.document);
+}
+
+Json::Value readDocument(const std::string& path)
+{
+    return parseDocument(path, readFile(path));
+}
+
+void writeFile(const std::string& path, const std::string& text)
+{
+    if (path == standardStream) {
+        writeStandardOutput(text);
+        return;
+    }
+    if (const auto descriptor = descriptorOf(path)) {
+        writeToOpen(path, *descriptor, text);
+        return;
+    }
+    const QString name = toQString(path);
+    const QFileInfo info(name);
+    if (info.isDir())
+        fail(path, QStringLiteral("Is a directory"));
+
+    const auto size = static_cast<qint64>(text.size());
+    if (info.exists() && !info.isFile()) {
+        QFile device(name);
+        if (!device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || device.write(text.data(), size) != size)
+            fail(path, device.errorString());
+        return;
+    }
+    // commit() does not notice that the last of the text could not be written; flush() does.
+    QSaveFile file(name);
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size && file.flush() && file.commit();
+    if (!written)
+        fail(path, file.errorString());
+}
+
+void writeStandardOutput(const std::string& text)
+{
+    const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (!written || std::fflush(stdout) != 0)
+        throw Failure(std::string("standard output: ") + std::strerror(errno));
+}
+
+std::string printable(const std::string& text)
+{
+    static constexpr std::string_view digits = "0123456789abcdef";
+    std::string shown;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= 0x20U && byte != 0x7FU) {
+            shown += c;
+        } else {
+            shown += "\\u00";
+            shown += digits[byte >> 4U];
+            shown += digits[byte & 0xFU];
+        }
+    }
+    return shown;
+}
+
+std::string toJsonText(const Json::Value& document)
+{
+    Json::StreamWriterBuilder builder;
+    builder["indentation"] = "  ";
+    builder["emitUTF8"] = true;
+    return Json::writeString(builder, document) + "\n";
+}
+
+} // namespace vxmat

@@ -1,0 +1,89 @@
+#include "DataFile.h"
+#include "VxmatTesting.h"
+
+#include "vxMaterial/exchange/JsonText.h"
+
+#include <QDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+using vxtest::dataPath;
+using vxtest::Outcome;
+using vxtest::vxmat;
+
+std::vector<std::string> corpus()
+{
+    std::vector<std::string> names;
+    const QDir folder(QString::fromStdString(dataPath("documents")));
+    for (const QString& name : folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name))
+        names.push_back(name.toStdString());
+    return names;
+}
+
+/// The documents of tests/data/documents. Beside each stands what checking it must print: the exit status, then
+/// standard output and standard error, the name of the file in place of its path.
+class Corpus : public testing::TestWithParam<std::string>
+{};
+
+TEST_P(Corpus, IsJudgedAsExpected)
+{
+    const std::string file = dataPath("documents/" + GetParam());
+    Outcome run = vxmat({"check", file});
+    std::string said = std::to_string(run.status) + "\n" + run.out + run.err;
+    for (std::size_t at = said.find(file); at != std::string::npos; at = said.find(file))
+        said.replace(at, file.size(), GetParam());
+    EXPECT_EQ(said, vxtest::readText(file.substr(0, file.size() - 5) + ".expected"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, Corpus, testing::ValuesIn(corpus()), [](const auto& document) {
+    std::string name = document.param.substr(0, document.param.size() - 5);
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
+    return name;
+});
+
+TEST(CheckCorpus, IsThere)
+{
+    EXPECT_GE(corpus().size(), 15U);
+}
+
+TEST(Check, SaysNothingAboutASoundDocument)
+{
+    const Outcome run = vxmat({"check", "-"}, vxmat({"export", "Air", "-o", "-"}).out);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "");
+}
+
+TEST(Check, PrintsFindingsAndNotesAsJson)
+{
+    const Outcome run = vxmat({"check", "-", "--json"},
+                              R"({"proj_type": 2, "material": [{"mat_id": 1, "mat_name": "m", "Props": [
+                              {"prop_type": 4, "prop_key": "rho", "prop_name": "Density", "prop_value": 0}]},
+                              {"mat_id": 2, "mat_name": "empty"}]})");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "");
+    const auto reading = vxCAE::readJsonText(run.out);
+    ASSERT_FALSE(reading.error);
+    EXPECT_EQ(reading.document["file"], "-");
+    ASSERT_EQ(reading.document["findings"].size(), 1U);
+    EXPECT_EQ(reading.document["findings"][0]["path"], "$.material[0].Props[0].prop_value");
+    EXPECT_EQ(reading.document["findings"][0]["message"], "is 0: Mass density must be positive!");
+    EXPECT_EQ(reading.document["notes"].size(), 1U);
+}
+
+TEST(Check, TakesTheMaterialsOfAnAnalysisFromAnotherDocument)
+{
+    const std::string analysis = dataPath("documents/03-analysis.json");
+    EXPECT_EQ(vxmat({"check", analysis}).status, 1);
+    const Outcome run = vxmat({"check", analysis, "--materials", dataPath("documents/02-two-materials.json")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(vxmat({"check", analysis, "--materials", "/no/such/file"}).status, 2);
+}
+
+} // namespace

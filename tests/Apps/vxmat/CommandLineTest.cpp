@@ -1,0 +1,70 @@
+#include "VxmatTesting.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+using vxtest::Outcome;
+using vxtest::shell;
+using vxtest::vxmat;
+
+TEST(CommandLine, TellsItsVersion)
+{
+    const Outcome run = vxmat({"--version"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, StartsWith("vxmat "));
+}
+
+TEST(CommandLine, ShowsAnExampleOfEverySubcommand)
+{
+    for (const char* const command : {"library", "catalogue", "show", "export", "cards", "check", "query"}) {
+        EXPECT_THAT(vxmat({"--help"}).out, HasSubstr("\n  vxmat " + std::string(command)));
+        const Outcome run = vxmat({command, "--help"});
+        EXPECT_EQ(run.status, 0);
+        EXPECT_THAT(run.out, HasSubstr("Example:\n  vxmat " + std::string(command)));
+        EXPECT_EQ(run.err, "");
+    }
+}
+
+TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
+{
+    const Outcome unknown = vxmat({"frobnicate"});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_EQ(unknown.out, "");
+    EXPECT_EQ(unknown.err, "vxmat: there is no subcommand \"frobnicate\"; \"vxmat --help\" shows what there is\n");
+    for (const auto& arguments : std::vector<std::vector<std::string>>{{},
+                                                                       {"library", "--frob"},
+                                                                       {"show"},
+                                                                       {"export", "Air"},
+                                                                       {"check"},
+                                                                       {"query", "a", "b"},
+                                                                       {"query", "a", "--project", "x"}})
+    {
+        const Outcome run = vxmat(arguments);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, StartsWith("vxmat: "));
+    }
+}
+
+TEST(CommandLine, SaysThatStandardOutputIsFull)
+{
+    const Outcome run = shell("\"$VXMAT\" library > /dev/full");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "vxmat: standard output: No space left on device\n");
+    for (const char* const arguments : {"--help", "--version", "show --help"})
+        EXPECT_EQ(shell("\"$VXMAT\" " + std::string(arguments) + " > /dev/full").status, 2) << arguments;
+}
+
+TEST(CommandLine, WritesPointsWhateverTheUsersLocale)
+{
+    const Outcome run = shell("LC_ALL=de_DE.UTF-8 \"$VXMAT\" show air && LC_ALL=de_DE.UTF-8 \"$VXMAT\" cards air");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, HasSubstr(" 1.225 "));
+    EXPECT_THAT(run.out, HasSubstr(" 0.0242, 1e+06\n"));
+}
+
+} // namespace

@@ -1,0 +1,118 @@
+#include "DataFile.h"
+#include "VxmatTesting.h"
+
+#include "vxMaterial/exchange/JsonText.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using vxtest::Folder;
+using vxtest::Outcome;
+using vxtest::shell;
+using vxtest::vxmat;
+
+std::map<unsigned, std::string> numbersAndNames(const std::string& text)
+{
+    std::map<unsigned, std::string> materials;
+    const auto reading = vxCAE::readJsonText(text);
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.document["proj_type"], 2);
+    for (const Json::Value& material : reading.document["material"])
+        materials[material["mat_id"].asUInt()] = material["mat_name"].asString();
+    return materials;
+}
+
+using Materials = std::map<unsigned, std::string>;
+
+TEST(Export, NumbersMaterialsFromOne)
+{
+    const Folder folder;
+    const Outcome run = vxmat({"export", "air", "Water", "-o", folder.path("out.json")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(numbersAndNames(vxtest::readText(folder.path("out.json"))), (Materials{{1, "Air"}, {2, "Water"}}));
+}
+
+TEST(Export, TakesNumbersAndPassesOverThoseTaken)
+{
+    const Outcome run = vxmat({"export", "Air", "Water=1", "Concrete", "Cast Iron=4294967295", "Air=0", "-o", "-"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(numbersAndNames(run.out),
+              (Materials{{0, "Air"}, {1, "Water"}, {2, "Air"}, {3, "Concrete"}, {4294967295U, "Cast Iron"}}));
+}
+
+TEST(Export, WritesWhatTheStyledWriterWrites)
+{
+    const std::string text = vxmat({"export", "Air", "Acoustic Material 2=9", "-o", "-"}).out;
+    EXPECT_EQ(text, vxCAE::toStyledText(vxCAE::readJsonText(text).document));
+    EXPECT_EQ(text.substr(0, 49), "{\n   \"material\" : [\n      {\n         \"Props\" : [\n");
+}
+
+TEST(Export, RefusesNumbersThatAreNoneOrGivenTwice)
+{
+    for (const char* const argument : {"Air=x", "Air=", "Air=-1", "Air=4294967296", "Air=1.5", "Air= 1"}) {
+        const Outcome run = vxmat({"export", argument, "-o", "-"});
+        EXPECT_EQ(run.status, 2) << argument;
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, HasSubstr("a whole number from 0 to 4294967295 is needed"));
+    }
+    const Outcome twice = vxmat({"export", "Air=1", "Water=1", "-o", "-"});
+    EXPECT_EQ(twice.status, 2);
+    EXPECT_EQ(twice.err, "vxmat: Water=1: another material has this number already\n");
+}
+
+TEST(Export, WritesNothingForAnUnknownName)
+{
+    const Folder folder;
+    const Outcome run = vxmat({"export", "Air", "Wather", "-o", folder.path("out.json")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("did you mean \"Water\"?"));
+    EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST(Export, NotesTheWordsAndListsThatStayBehind)
+{
+    const Outcome run = vxmat({"export", "Plastic Example 1", "-o", "-"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err,
+              "vxmat: note: Plastic Example 1: exchange documents carry no words and lists; lost: \"Yield type\", "
+              "\"Hardening type\", \"Yield stress\", \"Plastic strain\"\n");
+}
+
+TEST(Export, KeepsTheOldFileWhenItCannotWrite)
+{
+    const Folder folder;
+    const std::string file = folder.file("old.json", "old");
+    // A folder that refuses new files also refuses root when the file system is full: a file size limit of
+    // one block is a full disk for this process.
+    const Outcome run =
+        shell("ulimit -f 1; trap '' XFSZ; \"$VXMAT\" export 'Structural Steel' Air Water Concrete -o '" + file + "'");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("vxmat: " + file + ": "));
+    EXPECT_EQ(vxtest::readText(file), "old");
+    EXPECT_THAT(folder.names(), ElementsAre("old.json"));
+}
+
+TEST(Export, SaysWhyAFileCannotBeWritten)
+{
+    const Folder folder;
+    const Outcome missing = vxmat({"export", "Air", "-o", folder.path("no/such/folder.json")});
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_THAT(missing.err, HasSubstr("folder.json: No such file or directory"));
+    const Outcome isFolder = vxmat({"export", "Air", "-o", folder.path("")});
+    EXPECT_EQ(isFolder.status, 2);
+    EXPECT_THAT(isFolder.err, HasSubstr(": Is a directory"));
+    const Outcome full = vxmat({"export", "Air", "-o", "/dev/full"});
+    EXPECT_EQ(full.status, 2);
+    EXPECT_THAT(full.err, HasSubstr("vxmat: /dev/full: No space left on device"));
+}
+
+} // namespace

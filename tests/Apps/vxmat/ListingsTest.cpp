@@ -1,0 +1,146 @@
+#include "DataFile.h"
+#include "VxmatTesting.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+namespace {
+
+using testing::AllOf;
+using testing::ContainsRegex;
+using testing::HasSubstr;
+using vxtest::Outcome;
+using vxtest::vxmat;
+using vxtest::vxmatJson;
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+TEST(Library, ListsTheMaterialsWithGroupAndCount)
+{
+    const Outcome run = vxmat({"library"});
+    EXPECT_EQ(run.status, 0);
+    const auto lines = linesOf(run.out);
+    ASSERT_EQ(lines.size(), 27U);
+    EXPECT_EQ(lines[1], "Structural Steel             General Materials          9");
+    for (const std::string& line : lines)
+        EXPECT_NE(line.back(), ' ') << line;
+}
+
+TEST(Library, ListsThemAsJsonWithTheirNumbers)
+{
+    const Json::Value materials = vxmatJson({"library", "--json"})["materials"];
+    ASSERT_EQ(materials.size(), 26U);
+    std::set<std::string> expected;
+    for (const auto& row : vxtest::readTable("library.tsv"))
+        expected.insert(row[1] + row[2] + row[3]);
+    for (const Json::Value& material : materials)
+        EXPECT_EQ(
+            expected.count(material["type"].asString() + material["name"].asString() + material["group"].asString()),
+            1U)
+            << material["name"].asString();
+    EXPECT_EQ(materials[0]["name"], "Structural Steel");
+    EXPECT_EQ(materials[0]["group_name"], "General Materials");
+    EXPECT_EQ(materials[0]["quantities"], 9);
+}
+
+TEST(Catalogue, ListsTheQuantitiesById)
+{
+    const Outcome run = vxmat({"catalogue"});
+    EXPECT_EQ(run.status, 0);
+    const auto lines = linesOf(run.out);
+    ASSERT_EQ(lines.size(), 37U);
+    EXPECT_THAT(lines[1], ContainsRegex("^4 +Density +rho +kg/m3 +Basic +1 +Mass density$"));
+    EXPECT_THAT(run.out, HasSubstr("Mises, Mohr-Coulomb, Drucker-Prager"));
+}
+
+TEST(Catalogue, ListsEveryColumnAsJson)
+{
+    const Json::Value quantities = vxmatJson({"catalogue", "--json"})["quantities"];
+    const auto rows = vxtest::readTable("catalogue.tsv");
+    ASSERT_EQ(quantities.size(), rows.size());
+    for (Json::ArrayIndex i = 0; i < quantities.size(); ++i) {
+        const Json::Value& quantity = quantities[i];
+        EXPECT_EQ(quantity["id"].asString(), rows[i][1]);
+        EXPECT_EQ(quantity["name"].asString(), rows[i][2]);
+        EXPECT_EQ(quantity["key"].asString(), rows[i][3]);
+        EXPECT_EQ(quantity["unit"].asString(), rows[i][4]);
+        EXPECT_EQ(quantity["description"].asString(), rows[i][5]);
+        EXPECT_NE(quantity["category"].asString(), "");
+        EXPECT_TRUE(quantity["words"].isArray());
+    }
+    EXPECT_EQ(quantities[1]["default"], 1.0);
+    EXPECT_EQ(quantities[13]["name"], "Yield type");
+    EXPECT_EQ(quantities[13]["kind"], "word");
+    EXPECT_EQ(quantities[13]["default"], "Mises");
+    EXPECT_EQ(quantities[13]["words"].size(), 3U);
+    EXPECT_EQ(quantities[18]["kind"], "list");
+    EXPECT_EQ(quantities[18]["default"][0], 1.0);
+    EXPECT_EQ(quantities[11]["kind"], "switch");
+    EXPECT_EQ(quantities[0]["kind"], "number");
+}
+
+TEST(Show, PrintsATableOfOneMaterial)
+{
+    const Outcome run = vxmat({"show", "Plastic Example 1"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, AllOf(HasSubstr("Plastic Example 1\n\nName "), HasSubstr("Yield type            Mises "),
+                               HasSubstr("Yield stress          450, 608, 679, 732, 752, 766, 780 "),
+                               ContainsRegex("\nDensity +7850 +kg/m3  Mass density\n")));
+}
+
+TEST(Show, TakesANameInAnyCase)
+{
+    EXPECT_EQ(vxmat({"show", "STRUCTURAL steel"}).out, vxmat({"show", "Structural Steel"}).out);
+}
+
+TEST(Show, SuggestsTheNearestNames)
+{
+    const Outcome run = vxmat({"show", "Watr"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "vxmat: no material is called \"Watr\"; did you mean \"Water\"?\n");
+    EXPECT_THAT(vxmat({"show", "steel"}).err, HasSubstr("\"Stainless Steel\", \"Structural Steel\" or"));
+    EXPECT_THAT(vxmat({"show", "stel"}).err, HasSubstr("\"Stainless Steel\""));
+    EXPECT_THAT(vxmat({"show", "aluminium"}).err, HasSubstr("did you mean \"Aluminum Alloy\""));
+    EXPECT_THAT(vxmat({"show", "elasto"}).err, HasSubstr("\"Elastomer 1 (Neo-Hookean)\""));
+    for (const char* const name : {"", "qqqqqq"})
+        EXPECT_THAT(vxmat({"show", name}).err, HasSubstr("\"vxmat library\" lists them"));
+    EXPECT_EQ(vxmat({"show", std::string(100000, 'x')}).status, 2);
+}
+
+TEST(Show, PrintsNumbersWordsAndListsAsJson)
+{
+    const Json::Value material = vxmatJson({"show", "plastic example 1", "--json"});
+    EXPECT_EQ(material["name"], "Plastic Example 1");
+    EXPECT_EQ(material["type"], 32);
+    const Json::Value& properties = material["properties"];
+    ASSERT_EQ(properties.size(), 9U);
+    EXPECT_EQ(properties[0]["name"], "Density");
+    EXPECT_EQ(properties[0]["value"], 7850.0);
+    EXPECT_EQ(properties[0]["unit"], "kg/m3");
+    EXPECT_EQ(properties[5]["value"], "Mises");
+    EXPECT_EQ(properties[7]["value"].size(), 7U);
+    EXPECT_EQ(properties[7]["value"][6], 780.0);
+    EXPECT_EQ(properties[1]["value"].asDouble(), 1.7976931348623157e308);
+}
+
+TEST(Show, NotesAPropertyThatIsKeptUnderAnotherKey)
+{
+    const Outcome run = vxmat({"show", "acoustic material 2"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err,
+              "vxmat: note: Acoustic Material 2 keeps its \"Speed of sound\" as a property named \"Density\"\n");
+}
+
+} // namespace

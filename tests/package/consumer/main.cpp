@@ -1,0 +1,39 @@
+#include "vxMaterial/exchange/CAEBCS.h"
+#include "vxMaterial/exchange/CAEBase.h"
+#include "vxMaterial/exchange/CAEDCS.h"
+#include "vxMaterial/exchange/CAEICS.h"
+#include "vxMaterial/exchange/CAEMaterials.h"
+#include "vxMaterial/exchange/CAEMesh.h"
+#include "vxMaterial/exchange/CAEResult.h"
+#include "vxMaterial/exchange/CAESet.h"
+#include "vxMaterial/exchange/CAESolve.h"
+#include "vxMaterial/exchange/CAESystem.h"
+#include "vxMaterial/exchange/CardSet.h"
+#include "vxMaterial/exchange/DocumentCheck.h"
+#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/model/MatDBManager.h"
+#include "vxMaterial/model/Material.h"
+#include "vxMaterial/model/MaterialLibrary.h"
+#include "vxMaterial/model/MaterialProperty.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
+#include "vxMaterial/model/PropertyRules.h"
+
+#include <iostream>
+#include <memory>
+
+/// What a program outside does, with every header there is: take a material of the library, ask for a card, write a document.
+int main()
+{
+    auto entry = std::make_unique<vxCAE::MaterialEntry>();
+    entry->material->copyFrom(vxMat::StructuralSteel());
+    entry->classifyKind();
+    std::cout << entry->getElasticLine();
+
+    vxCAE::CAESet set(1, vxCAE::ProjectKind::Material);
+    set.materials->addMaterial(1, std::move(entry));
+    Json::Value document;
+    set.writeJson(document);
+    std::cout << ' ' << document["material"].size() << '\n';
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Obj/ObjExport.h"
+
+#include <deque>
+#include <string>
+#include <string_view>
+
+namespace Obj {
+
+/// What a class says of one of its properties.
+struct PropertyDescription
+{
+    std::string name;
+    std::string group;       ///< heading under which the property panel shows it
+    short attributes = 0;    ///< PropertyType
+    std::string description; ///< a hint for the user
+};
+
+/// What a class says of its properties, in the order of their registration, and where its parent class says the same.
+/// A class has one, static; it is filled when the first object is made.
+class OBJ_EXPORT PropertyCoreData
+{
+public:
+    /// Adds a description. One that the class has under this name already stays as it is.
+    const PropertyDescription& register_property(const char* name, const char* group, short attributes,
+                                                 const char* description);
+
+    /// The description that the class itself registered under `name`, null when there is none.
+    const PropertyDescription* find(std::string_view name) const;
+
+    const std::deque<PropertyDescription>& descriptions() const { return m_descriptions; }
+
+    /// The descriptions of the parent class; null for a root.
+    const PropertyCoreData* parent() const { return m_parent; }
+    void set_parent(const PropertyCoreData* parent) { m_parent = parent; }
+
+private:
+    // Sets of properties point at their descriptions, which must not move.
+    std::deque<PropertyDescription> m_descriptions;
+    const PropertyCoreData* m_parent = nullptr;
+};
+
+} // namespace Obj

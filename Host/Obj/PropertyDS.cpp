@@ -1,0 +1,190 @@
+#include "Obj/PropertyDS.h"
+
+#include "Kelta/FileWriter.h"
+#include "Kelta/MessageLog.h"
+#include "Kelta/XMLFileReader.h"
+#include "Obj/PropertyType.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace Obj {
+
+Kelta::TypeInfo PropertyDS::classTypeId;
+PropertyCoreData PropertyDS::propertyData;
+
+PropertyDS::PropertyDS()
+{
+    // Most objects have a label, an id, a class label and little more.
+    constexpr std::size_t usualCount = 4;
+    m_entries.reserve(usualCount);
+}
+
+PropertyDS::~PropertyDS() = default;
+
+Kelta::TypeInfo PropertyDS::getClassTypeId()
+{
+    return classTypeId;
+}
+
+Kelta::TypeInfo PropertyDS::getTypeId() const
+{
+    return classTypeId;
+}
+
+void PropertyDS::init()
+{
+    initSubclass(classTypeId, "Obj::PropertyDS", "Kelta::DataPersistence", nullptr);
+}
+
+void PropertyDS::save(Kelta::FileWriter& writer) const
+{
+    for (const Entry& entry : m_entries) {
+        writer.beginElement(QStringLiteral("property"));
+        writer.writeAttribute(QStringLiteral("name"), QString::fromStdString(entry.description->name));
+        writer.writeAttribute(QStringLiteral("value"), QString::fromStdString(entry.property->to_text()));
+        writer.endElement();
+    }
+}
+
+void PropertyDS::load(Kelta::XMLFileReader& reader)
+{
+    while (reader.nextElement(QStringLiteral("property"))) {
+        const QString name = reader.attribute(QStringLiteral("name"));
+        const QString value = reader.attribute(QStringLiteral("value"));
+        Property* const property = get_property_by_name(name.toUtf8().constData());
+        if (property == nullptr)
+            Kelta::MessageLog::warning(
+                QStringLiteral("The property \"%1\" is not known and was passed over.").arg(name));
+        else if (!is_read_only(property) && !property->from_text(value.toStdString()))
+            Kelta::MessageLog::warning(
+                QStringLiteral("The property \"%1\" cannot be \"%2\" and was left as it was.").arg(name, value));
+        reader.leaveElement();
+    }
+}
+
+Property* PropertyDS::get_property_by_name(const char* name) const
+{
+    const Entry* const entry = find(name);
+    return entry != nullptr ? entry->property : nullptr;
+}
+
+const char* PropertyDS::get_property_name(const Property* property) const
+{
+    const Entry* const entry = find(property);
+    return entry != nullptr ? entry->description->name.c_str() : nullptr;
+}
+
+void PropertyDS::get_property_dataset(std::map<std::string, Property*>& properties) const
+{
+    for (const Entry& entry : m_entries)
+        properties[entry.description->name] = entry.property;
+}
+
+void PropertyDS::get_property_array(std::vector<Property*>& properties) const
+{
+    for (const Entry& entry : m_entries)
+        properties.push_back(entry.property);
+}
+
+short PropertyDS::get_property_type(const char* name) const
+{
+    const Entry* const entry = find(name);
+    return entry != nullptr ? entry->description->attributes : PropertyType::None;
+}
+
+short PropertyDS::get_property_type(const Property* property) const
+{
+    const Entry* const entry = find(property);
+    return entry != nullptr ? entry->description->attributes : PropertyType::None;
+}
+
+const char* PropertyDS::get_property_group(const char* name) const
+{
+    const Entry* const entry = find(name);
+    return entry != nullptr ? entry->description->group.c_str() : "";
+}
+
+const char* PropertyDS::get_property_group(const Property* property) const
+{
+    const Entry* const entry = find(property);
+    return entry != nullptr ? entry->description->group.c_str() : "";
+}
+
+const char* PropertyDS::get_property_description(const char* name) const
+{
+    const Entry* const entry = find(name);
+    return entry != nullptr ? entry->description->description.c_str() : "";
+}
+
+const char* PropertyDS::get_property_description(const Property* property) const
+{
+    const Entry* const entry = find(property);
+    return entry != nullptr ? entry->description->description.c_str() : "";
+}
+
+bool PropertyDS::is_read_only(const char* name) const
+{
+    return (get_property_type(name) & PropertyType::ReadOnly) != 0;
+}
+
+bool PropertyDS::is_read_only(const Property* property) const
+{
+    return (get_property_type(property) & PropertyType::ReadOnly) != 0;
+}
+
+bool PropertyDS::is_hidden(const char* name) const
+{
+    return (get_property_type(name) & PropertyType::Hidden) != 0;
+}
+
+bool PropertyDS::is_hidden(const Property* property) const
+{
+    return (get_property_type(property) & PropertyType::Hidden) != 0;
+}
+
+void PropertyDS::on_changed(const Property*) {}
+
+void PropertyDS::on_change_before(const Property*) {}
+
+const PropertyCoreData& PropertyDS::get_property_data() const
+{
+    return propertyData;
+}
+
+const PropertyCoreData* PropertyDS::get_property_data_ref()
+{
+    return &propertyData;
+}
+
+void PropertyDS::register_property(PropertyCoreData& data, Property& property, const char* name, const char* group,
+                                   short attributes, const char* description)
+{
+    const PropertyDescription& described = data.register_property(name, group, attributes, description);
+    const auto known = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&property](const Entry& entry) { return entry.property == &property; });
+    if (known != m_entries.end())
+        known->description = &described;
+    else
+        m_entries.push_back({&property, &described});
+    property.m_owner = this;
+}
+
+const PropertyDS::Entry* PropertyDS::find(const char* name) const
+{
+    if (name == nullptr)
+        return nullptr;
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [name](const Entry& entry) { return entry.description->name == name; });
+    return found != m_entries.end() ? &*found : nullptr;
+}
+
+const PropertyDS::Entry* PropertyDS::find(const Property* property) const
+{
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [property](const Entry& entry) { return entry.property == property; });
+    return found != m_entries.end() ? &*found : nullptr;
+}
+
+} // namespace Obj

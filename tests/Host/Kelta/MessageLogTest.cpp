@@ -1,0 +1,66 @@
+#include "Kelta/MessageLog.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using Kelta::LogMessage;
+using Kelta::MessageLog;
+using Severity = LogMessage::Severity;
+
+TEST(MessageLog, KeepsMessagesInTheirOrderWithTheirSeverity)
+{
+    MessageLog& log = MessageLog::instance();
+    log.clear();
+    MessageLog::information(QStringLiteral("one"));
+    MessageLog::warning(QStringLiteral("two"));
+    MessageLog::error(QStringLiteral("three"));
+    ASSERT_EQ(log.messages().size(), 3U);
+    EXPECT_EQ(log.messages()[0].text, QStringLiteral("one"));
+    EXPECT_EQ(log.messages()[0].severity, Severity::Information);
+    EXPECT_EQ(log.messages()[1].severity, Severity::Warning);
+    EXPECT_EQ(log.messages()[2].severity, Severity::Error);
+    EXPECT_EQ(log.messages()[2].text, QStringLiteral("three"));
+}
+
+TEST(MessageLog, CountsErrorsAlone)
+{
+    const std::size_t before = MessageLog::instance().errorCount();
+    MessageLog::information(QStringLiteral("one"));
+    MessageLog::warning(QStringLiteral("two"));
+    EXPECT_EQ(MessageLog::instance().errorCount(), before);
+    MessageLog::error(QStringLiteral("three"));
+    EXPECT_EQ(MessageLog::instance().errorCount(), before + 1);
+    MessageLog::instance().clear();
+    EXPECT_EQ(MessageLog::instance().errorCount(), before + 1) << "what happened stays counted";
+    EXPECT_TRUE(MessageLog::instance().messages().empty());
+}
+
+TEST(MessageLog, LetsGoOfTheOldestWhenItIsFull)
+{
+    MessageLog& log = MessageLog::instance();
+    log.clear();
+    for (std::size_t i = 0; i < MessageLog::capacity + 5; ++i)
+        MessageLog::information(QString::number(i));
+    EXPECT_EQ(log.messages().size(), 10000U);
+    EXPECT_EQ(log.messages().front().text, QStringLiteral("5"));
+    EXPECT_EQ(log.messages().back().text, QStringLiteral("10004"));
+}
+
+TEST(MessageLog, TellsListenersWhoMayReportAndClearThemselves)
+{
+    MessageLog& log = MessageLog::instance();
+    log.clear();
+    QStringList heard;
+    const auto listening = QObject::connect(&log, &MessageLog::reported, [&](const LogMessage& message) {
+        log.clear();
+        if (message.text == QStringLiteral("first"))
+            MessageLog::information(QStringLiteral("second"));
+        heard << message.text;
+    });
+    MessageLog::information(QStringLiteral("first"));
+    QObject::disconnect(listening);
+    EXPECT_EQ(heard, QStringList({"second", "first"}));
+}
+
+} // namespace

@@ -1,0 +1,9 @@
+extern "C" {
+
+void nobodyHasThisFunction();
+
+__attribute__((visibility("default"))) void enter()
+{
+    nobodyHasThisFunction();
+}
+}

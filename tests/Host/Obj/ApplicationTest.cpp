@@ -1,0 +1,252 @@
+#include "Obj/Application.h"
+
+#include "HostTesting.h"
+#include "ObjTesting.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+using Obj::Application;
+using Obj::Project;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using vxtest::Assembly;
+
+using ApplicationTest = vxtest::ObjTest;
+
+std::vector<std::string> openProjects()
+{
+    std::vector<std::string> names;
+    for (const Project* const project : Application::get_projects())
+        names.emplace_back(project->get_name());
+    return names;
+}
+
+TEST_F(ApplicationTest, MakesAProjectByItsRegisteredClassAndMakesItCurrent)
+{
+    EXPECT_EQ(Application::get_current_project(), nullptr);
+    Assembly& a = addAssembly("a");
+    EXPECT_STREQ(a.get_name(), "a");
+    EXPECT_EQ(a.id.getValue(), a.getProjectId());
+    EXPECT_GE(a.getProjectId(), 1U);
+    EXPECT_EQ(Application::get_current_project(), &a);
+    Assembly& b = addAssembly("b");
+    EXPECT_EQ(b.getProjectId(), a.getProjectId() + 1);
+    EXPECT_EQ(Application::get_current_project(), &b);
+    EXPECT_THAT(openProjects(), ElementsAre("a", "b"));
+}
+
+TEST_F(ApplicationTest, MakesNothingOfAClassThatIsNotRegisteredOrNoProject)
+{
+    const vxtest::Reports reports;
+    EXPECT_EQ(application().create_project("Test::Nobody", "a"), nullptr);
+    EXPECT_EQ(application().create_project(nullptr, "a"), nullptr);
+    EXPECT_EQ(application().create_project("Test::Part", "a"), nullptr);
+    EXPECT_EQ(application().create_project("Obj::Project", "a"), nullptr);
+    EXPECT_EQ(reports.errors(), 4);
+    EXPECT_THAT(reports.text(), HasSubstr("No project of class \"Test::Nobody\" was made: this class is not known."));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Test::Part\" was made: this class is not one of projects."));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Obj::Project\" was made: the class made none."));
+    EXPECT_THAT(openProjects(), IsEmpty());
+}
+
+TEST_F(ApplicationTest, IsUnchangedWhenTheConstructorOfAProjectThrows)
+{
+    Assembly& a = addAssembly("a");
+    Assembly::constructorThrows() = true;
+    EXPECT_THROW(application().create_project("Test::Assembly", "b"), std::runtime_error);
+    EXPECT_THAT(openProjects(), ElementsAre("a"));
+    EXPECT_EQ(Application::get_current_project(), &a);
+}
+
+TEST_F(ApplicationTest, FindsProjectsByNameIdAndTag)
+{
+    Assembly& a = addAssembly("钢 %1");
+    EXPECT_EQ(application().get_project("钢 %1"), &a);
+    EXPECT_EQ(application().get_project(""), nullptr);
+    EXPECT_EQ(application().get_project(a.getProjectId()), &a);
+    EXPECT_EQ(application().get_project(0U), nullptr);
+    EXPECT_THAT(Application::get_projects(Kelta::eDocumentTag::Analysis), ElementsAre(&a));
+    EXPECT_THAT(Application::get_projects(1), ElementsAre(&a));
+    EXPECT_THAT(Application::get_projects(2), IsEmpty());
+}
+
+TEST_F(ApplicationTest, MakesNamesUniqueThatAreTakenOrEmpty)
+{
+    const std::string first = Application::get_unique_project_name("Thing");
+    EXPECT_EQ(first, "Thing");
+    EXPECT_NE(Application::get_unique_project_name("Thing"), first);
+    addAssembly("Machine");
+    Assembly& second = addAssembly("Machine");
+    EXPECT_THAT(second.get_name(), HasSubstr("Machine"));
+    EXPECT_STRNE(second.get_name(), "Machine");
+    EXPECT_THAT(addAssembly("").get_name(), HasSubstr("Project"));
+}
+
+TEST_F(ApplicationTest, ChoosesTheCurrentProjectAmongThoseThatAreOpen)
+{
+    Assembly& a = addAssembly("a");
+    addAssembly("b");
+    std::vector<Project*> told;
+    const boost::signals2::scoped_connection connection =
+        application().currentProjectChanged.connect([&told](Project* project) { told.push_back(project); });
+    application().set_current_project(a);
+    application().set_current_project(a);
+    EXPECT_EQ(Application::get_current_project(), &a);
+    EXPECT_THAT(told, ElementsAre(&a));
+    Assembly closed;
+    application().set_current_project(closed);
+    EXPECT_EQ(Application::get_current_project(), &a);
+}
+
+TEST_F(ApplicationTest, MakesTheLastOneCurrentWhenTheCurrentOneIsClosed)
+{
+    Assembly& a = addAssembly("a");
+    Assembly& b = addAssembly("b");
+    Assembly& c = addAssembly("c");
+    application().set_current_project(b);
+    EXPECT_TRUE(application().close_project(b));
+    EXPECT_EQ(Application::get_current_project(), &c);
+    EXPECT_TRUE(application().close_project(a));
+    EXPECT_EQ(Application::get_current_project(), &c) << "the current one stays it";
+    EXPECT_TRUE(application().close_project(c));
+    EXPECT_EQ(Application::get_current_project(), nullptr);
+}
+
+TEST_F(ApplicationTest, GivesAProjectAwayAndOpensItAgainAtItsPlace)
+{
+    Assembly& a = addAssembly("a");
+    a.addPart("part");
+    addAssembly("b");
+    std::unique_ptr<Project> away = application().take_project(a);
+    EXPECT_EQ(away.get(), &a);
+    EXPECT_THAT(openProjects(), ElementsAre("b"));
+    EXPECT_EQ(application().take_project(a), nullptr);
+    EXPECT_FALSE(application().close_project(a));
+    EXPECT_EQ(application().restore_project(std::move(away)), &a);
+    EXPECT_THAT(openProjects(), ElementsAre("a", "b"));
+    EXPECT_EQ(Application::get_current_project(), &a);
+    EXPECT_NE(a.get_object("part"), nullptr);
+    EXPECT_EQ(application().restore_project(nullptr), nullptr);
+}
+
+TEST_F(ApplicationTest, GivesAProjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
+{
+    Assembly& first = addAssembly("Twin");
+    std::unique_ptr<Project> away = application().take_project(first);
+    Assembly& second = addAssembly("Twin");
+    const vxtest::Reports reports;
+    application().restore_project(std::move(away));
+    EXPECT_EQ(reports.warnings(), 1);
+    EXPECT_STREQ(second.get_name(), "Twin");
+    EXPECT_EQ(application().get_project("Twin"), &second);
+    EXPECT_EQ(application().get_project(first.get_name()), &first);
+}
+
+TEST_F(ApplicationTest, TellsOfProjectsThatComeAndGo)
+{
+    std::vector<std::string> told;
+    const boost::signals2::scoped_connection added = application().projectAdded.connect(
+        [&told](Project& project) { told.push_back(std::string("added ") + project.get_name()); });
+    const boost::signals2::scoped_connection removed = application().projectRemoved.connect([&told](Project& project) {
+        told.push_back(std::string("removed ") + project.get_name());
+        EXPECT_EQ(Obj::Application::instance().get_project(project.getProjectId()), nullptr);
+    });
+    addAssembly("a");
+    addAssembly("b");
+    application().close_all_projects();
+    EXPECT_THAT(told, ElementsAre("added a", "added b", "removed b", "removed a"));
+}
+
+TEST_F(ApplicationTest, SurvivesAListenerThatClosesAProjectAtOnce)
+{
+    int told = 0;
+    const boost::signals2::scoped_connection added = application().projectAdded.connect([&told](Project& project) {
+        ++told;
+        application().close_project(project);
+    });
+    EXPECT_EQ(application().create_project("Test::Assembly", "a"), nullptr);
+    EXPECT_EQ(Application::get_current_project(), nullptr);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(ApplicationTest, GathersTheRecordsOfAllProjectsInOneDocument)
+{
+    EXPECT_TRUE(application().save_jsonDB()["projects"].isArray());
+    EXPECT_TRUE(application().save_jsonDB()["projects"].empty());
+    addAssembly("a").addPart("part");
+    addAssembly("b");
+    const Json::Value database = application().save_jsonDB();
+    ASSERT_EQ(database["projects"].size(), 2U);
+    EXPECT_EQ(database["projects"][0]["name"], "a");
+    EXPECT_EQ(database["projects"][0]["objects"][0]["label"], "part");
+    EXPECT_EQ(database["projects"][1]["name"], "b");
+    EXPECT_EQ(database.size(), 1U);
+}
+
+class ProjectFileTest : public ApplicationTest
+{
+protected:
+    QTemporaryDir m_place;
+    QString m_path = m_place.filePath(QStringLiteral("projects.xml"));
+};
+
+TEST_F(ProjectFileTest, HoldsAllProjects)
+{
+    addAssembly("a").addPart("part");
+    addAssembly("b & c");
+    ASSERT_TRUE(application().save_projects(m_path));
+    EXPECT_EQ(vxtest::readFile(m_path), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                        "<projects>\n"
+                                        "    <project class=\"Test::Assembly\" name=\"a\">\n"
+                                        "        <object class=\"Test::Part\" name=\"part\" id=\"1\">\n"
+                                        "            <property name=\"Label\" value=\"part\"/>\n"
+                                        "            <property name=\"ID\" value=\"1\"/>\n"
+                                        "            <property name=\"ClassLabel\" value=\"Part\"/>\n"
+                                        "            <property name=\"Width\" value=\"7\"/>\n"
+                                        "            <property name=\"Secret\" value=\"none\"/>\n"
+                                        "        </object>\n"
+                                        "    </project>\n"
+                                        "    <project class=\"Test::Assembly\" name=\"b &amp; c\"/>\n"
+                                        "</projects>\n");
+}
+
+TEST_F(ProjectFileTest, IsWrittenWholeOrNotAtAll)
+{
+    vxtest::writeFile(m_path, "earlier");
+    Assembly& assembly = addAssembly("a");
+    for (int i = 0; i < 100; ++i)
+        assembly.addPart();
+    const vxtest::Reports reports;
+    {
+        const vxtest::FullDisk disk(1000);
+        EXPECT_FALSE(application().save_projects(m_path));
+    }
+    EXPECT_EQ(reports.errors(), 1);
+    EXPECT_EQ(vxtest::readFile(m_path), "earlier");
+    EXPECT_TRUE(application().save_projects(m_path));
+}
+
+TEST_F(ProjectFileTest, CannotBeWrittenIntoAFolderThatIsMissingNorIntoADevice)
+{
+    addAssembly("a");
+    const vxtest::Reports reports;
+    EXPECT_FALSE(application().save_projects(m_place.filePath(QStringLiteral("missing/projects.xml"))));
+    EXPECT_FALSE(application().save_projects(m_place.path()));
+    EXPECT_FALSE(application().save_projects(QStringLiteral("/dev/full")));
+    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_THAT(reports.text(), HasSubstr("missing/projects.xml: No such file or directory"));
+}
+
+TEST(InitObj, ChangesNothingWhenItIsCalledAgain)
+{
+    Obj::initObj();
+    const vxtest::Reports reports;
+    Obj::initObj();
+    EXPECT_EQ(reports.text(), "");
+    EXPECT_TRUE(Kelta::TypeInfo::find("Obj::ProjectObjectGroup").names_a_type());
+}
+
+} // namespace

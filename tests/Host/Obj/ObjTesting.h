@@ -1,0 +1,115 @@
+#pragma once
+
+#include "Obj/Application.h"
+#include "Obj/ProjectObject.h"
+
+#include <gmock/gmock.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace vxtest {
+
+/// What the operations that the host calls on its own do to a Part, and what they did.
+struct PartHooks
+{
+    std::vector<std::string> calls;
+    bool constructorThrows = false;
+    bool configuringThrows = false;
+    bool restoredThrows = false;
+    bool breakThrows = false;
+    bool removesItselfWithWhatItNeeds = false;
+};
+
+/// An object of a project, which notes what happens to it. Two further properties: "Width" can be edited, "Secret" is
+/// hidden and only read.
+class Part : public Obj::ProjectObject
+{
+public:
+    Part();
+    ~Part() override;
+
+    static void* create() { return static_cast<Kelta::RootClass*>(new Part); }
+    static void init();
+    static Kelta::TypeInfo getClassTypeId() { return classTypeId; }
+    Kelta::TypeInfo getTypeId() const override { return classTypeId; }
+
+    void on_break_object_link(Obj::ProjectObject* linked) override;
+    void on_project_restored() override;
+    Obj::eVXObjectState check_input() override;
+
+    /// The class's own notes, cleared for each test.
+    static PartHooks& hooks();
+    static int count();
+
+    Obj::PropertyInteger width{7};
+    Obj::PropertyString secret{"none"};
+
+protected:
+    void on_configuring_project() override;
+    void on_changed(const Obj::Property* property) override;
+    void on_change_before(const Obj::Property* property) override;
+    const Obj::PropertyCoreData& get_property_data() const override { return propertyData; }
+
+private:
+    void note(const char* what, const std::string& about);
+
+    static inline Kelta::TypeInfo classTypeId;
+    static inline Obj::PropertyCoreData propertyData;
+};
+
+/// A project of Parts.
+class Assembly : public Obj::Project
+{
+public:
+    Assembly();
+
+    static void* create() { return static_cast<Kelta::RootClass*>(new Assembly); }
+    static void init();
+    Kelta::TypeInfo getTypeId() const override { return classTypeId; }
+
+    /// Adds a Part, which must succeed.
+    Part& addPart(const std::string& name = "Part");
+
+    static bool& constructorThrows();
+
+private:
+    static inline Kelta::TypeInfo classTypeId;
+    static inline Obj::PropertyCoreData propertyData;
+};
+
+/// Classes registered, no project open, before and after each test.
+class ObjTest : public testing::Test
+{
+protected:
+    ObjTest();
+    ~ObjTest() override;
+
+    static Obj::Application& application() { return Obj::Application::instance(); }
+    static Assembly& addAssembly(const std::string& name = "Assembly");
+};
+
+/// Names of objects, in order.
+std::vector<std::string> namesOf(const std::vector<Obj::ProjectObject*>& objects);
+
+/// The place in the table of virtual operations that a pointer to a virtual member stands for, as the C++ ABI of this
+/// machine writes such pointers: one more than the offset into the table.
+template <typename Member>
+std::ptrdiff_t slotOf(Member member)
+{
+    std::ptrdiff_t offset = 0;
+    static_assert(sizeof member >= sizeof offset);
+    std::memcpy(&offset, &member, sizeof offset);
+    EXPECT_EQ(offset % static_cast<std::ptrdiff_t>(sizeof(void*)), 1) << "not a virtual operation";
+    return (offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
+}
+
+#if defined(__x86_64__) && !defined(_WIN32)
+constexpr bool slotsCanBeRead = true;
+#else
+constexpr bool slotsCanBeRead = false;
+#endif
+
+} // namespace vxtest

@@ -1,0 +1,278 @@
+#include "Obj/ProjectObject.h"
+
+#include "HostTesting.h"
+#include "ObjTesting.h"
+
+#include "Obj/ProjectObjectExecReturn.h"
+
+#include <stdexcept>
+
+namespace {
+
+using Obj::eVXObjectState;
+using Obj::ProjectObject;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using vxtest::Assembly;
+using vxtest::namesOf;
+using vxtest::Part;
+using vxtest::slotOf;
+
+using ProjectObjectTest = vxtest::ObjTest;
+
+/// The bare class.
+class BareObject : public ProjectObject
+{
+public:
+    using ProjectObject::get_property_data;
+    using ProjectObject::get_property_data_ref;
+    using ProjectObject::on_configuring_project;
+};
+
+TEST_F(ProjectObjectTest, IsInNoProjectAtFirst)
+{
+    BareObject object;
+    EXPECT_EQ(object.getObjectId(), 0U);
+    EXPECT_STREQ(object.get_name_in_project(), "");
+    EXPECT_EQ(object.get_project(), nullptr);
+    EXPECT_EQ(object.getObjectState(), eVXObjectState::Initial);
+    EXPECT_FALSE(object.isSuppressed());
+    EXPECT_THAT(object.get_linked_objects(), IsEmpty());
+    EXPECT_EQ(object.label.getValue(), "");
+}
+
+TEST_F(ProjectObjectTest, DoesNothingOfItsOwn)
+{
+    BareObject object;
+    EXPECT_STREQ(object.get_viewfeeder_name(), "");
+    EXPECT_STREQ(object.getCoreEditor(), "");
+    EXPECT_EQ(object.always_run(), 0);
+    EXPECT_EQ(object.execute(), nullptr);
+    EXPECT_EQ(object.check_input(), eVXObjectState::Initial);
+    object.refresh();
+    object.refreshProperties(true);
+    object.on_break_object_link(nullptr);
+    object.on_project_restored();
+    object.on_configuring_project();
+    Json::Value record;
+    object.load_jsonDB(record);
+    EXPECT_TRUE(record.isNull());
+    EXPECT_STREQ(object.getTypeId().get_name(), "Obj::ProjectObject");
+    EXPECT_STREQ(object.getTypeId().get_parent().get_name(), "Obj::PropertyDS");
+    EXPECT_EQ(&object.get_property_data(), BareObject::get_property_data_ref());
+    EXPECT_NE(object.get_property_data().parent(), nullptr);
+}
+
+TEST_F(ProjectObjectTest, DescribesItselfInARecord)
+{
+    addAssembly().skip_object_ids(4);
+    Part& part = static_cast<Assembly*>(Obj::Application::get_current_project())->addPart("Bolt");
+    part.label.setValue("钢 %1");
+    Json::Value record;
+    part.save_jsonDB(record);
+    EXPECT_EQ(record["obj_id"], Json::Value(4U));
+    EXPECT_TRUE(record["obj_id"].isUInt());
+    EXPECT_EQ(record["class"], "Test::Part");
+    EXPECT_EQ(record["name_internal"], "Bolt");
+    EXPECT_EQ(record["label"], "钢 %1");
+    EXPECT_EQ(record.size(), 4U);
+}
+
+TEST_F(ProjectObjectTest, TellsItsProjectWhatChanges)
+{
+    Assembly& assembly = addAssembly();
+    Part& part = assembly.addPart();
+    std::vector<std::pair<ProjectObject*, const Obj::Property*>> changes;
+    assembly.objectChanged.connect(
+        [&changes](ProjectObject& object, const Obj::Property* property) { changes.emplace_back(&object, property); });
+    const auto changesNow = [&changes] { return std::exchange(changes, {}); };
+    const std::pair<ProjectObject*, const Obj::Property*> otherChange{&part, nullptr};
+
+    part.width.setValue(3);
+    EXPECT_THAT(changesNow(), ElementsAre(std::pair(&part, &part.width)));
+    part.setObjectState(eVXObjectState::Ready);
+    EXPECT_THAT(changesNow(), ElementsAre(otherChange));
+    part.setObjectState(eVXObjectState::Ready);
+    EXPECT_THAT(changesNow(), IsEmpty());
+    part.setSuppressed(true);
+    EXPECT_THAT(changesNow(), ElementsAre(otherChange));
+    part.setSuppressed(true);
+    EXPECT_THAT(changesNow(), IsEmpty());
+    part.refreshProperties(false);
+    EXPECT_THAT(changesNow(), ElementsAre(otherChange));
+    part.notifyChange();
+    EXPECT_THAT(changesNow(), ElementsAre(otherChange));
+}
+
+TEST_F(ProjectObjectTest, FindsItsStateWhenItIsRefreshed)
+{
+    Part& part = addAssembly().addPart();
+    EXPECT_EQ(part.getObjectState(), eVXObjectState::Initial);
+    part.refresh();
+    EXPECT_EQ(part.getObjectState(), eVXObjectState::Ready);
+    part.width.setValue(0);
+    part.refreshProperties(false);
+    EXPECT_EQ(part.getObjectState(), eVXObjectState::Ready) << "only the properties";
+    part.refreshProperties(true);
+    EXPECT_EQ(part.getObjectState(), eVXObjectState::Initial);
+    EXPECT_EQ(static_cast<int>(eVXObjectState::Initial), 0);
+    EXPECT_EQ(static_cast<int>(eVXObjectState::Ready), 3);
+}
+
+TEST_F(ProjectObjectTest, IsSuppressedWithoutBeingDeleted)
+{
+    Assembly& assembly = addAssembly();
+    Part& part = assembly.addPart();
+    part.setSuppressed(true);
+    EXPECT_TRUE(part.isSuppressed());
+    EXPECT_EQ(assembly.get_object(part.getObjectId()), &part);
+    const std::uint32_t id = part.getObjectId();
+    assembly.restore_object(assembly.take_object(id));
+    EXPECT_TRUE(part.isSuppressed()) << "also after an undo";
+    part.setSuppressed(false);
+    EXPECT_FALSE(part.isSuppressed());
+}
+
+TEST_F(ProjectObjectTest, KnowsWhoIsLinkedWithItInEitherDirection)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    Part& c = assembly.addPart("c");
+    a.link_to(b);
+    a.link_to(b);
+    a.link_to(a);
+    c.link_to(a);
+    EXPECT_THAT(namesOf(a.get_linked_objects()), ElementsAre("b", "c"));
+    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+    EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
+    EXPECT_THAT(b.get_needed_objects(), IsEmpty());
+}
+
+TEST_F(ProjectObjectTest, UnlinksOneDirectionAndLeavesTheOther)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    a.link_to(b);
+    b.link_to(a);
+    EXPECT_THAT(namesOf(a.get_linked_objects()), ElementsAre("b")) << "once, though each needs the other";
+    Part::hooks().calls.clear();
+    a.unlink_from(b);
+    EXPECT_THAT(Part::hooks().calls, ElementsAre("break b"));
+    EXPECT_THAT(a.get_needed_objects(), IsEmpty());
+    EXPECT_THAT(namesOf(b.get_needed_objects()), ElementsAre("a"));
+    a.unlink_from(b);
+    EXPECT_EQ(Part::hooks().calls.size(), 1U) << "there is no link any more to be broken";
+}
+
+TEST_F(ProjectObjectTest, KeepsItsLinksWhileOneOfTheTwoIsAwayForUndo)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    a.link_to(b);
+    Part::hooks().calls.clear();
+    std::unique_ptr<ProjectObject> away = assembly.take_object(b.getObjectId());
+    EXPECT_THAT(Part::hooks().calls, ElementsAre("break b"));
+    EXPECT_THAT(a.get_linked_objects(), IsEmpty());
+    EXPECT_THAT(a.get_needed_objects(), IsEmpty());
+    assembly.restore_object(std::move(away));
+    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+
+    away = assembly.take_object(a.getObjectId());
+    EXPECT_EQ(Part::hooks().calls.back(), "restored b") << "who needs nobody is not told";
+    EXPECT_THAT(b.get_linked_objects(), IsEmpty());
+    assembly.restore_object(std::move(away));
+    EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
+}
+
+TEST_F(ProjectObjectTest, IsForgottenByOthersWhenItIsDestroyed)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    a.link_to(b);
+    b.link_to(a);
+    assembly.remove_object(b.getObjectId());
+    EXPECT_THAT(a.get_linked_objects(), IsEmpty());
+    EXPECT_THAT(a.get_needed_objects(), IsEmpty());
+}
+
+TEST_F(ProjectObjectTest, MayOutliveTheProjectThatItIsLinkedInto)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    a.link_to(b);
+    b.link_to(a);
+    const std::unique_ptr<ProjectObject> away = assembly.take_object(b.getObjectId());
+    EXPECT_TRUE(application().close_project(assembly));
+    EXPECT_THAT(away->get_linked_objects(), IsEmpty());
+}
+
+TEST_F(ProjectObjectTest, MayGoWithWhatItNeeds)
+{
+    Assembly& assembly = addAssembly();
+    Part& needed = assembly.addPart("needed");
+    for (int i = 0; i < 4; ++i)
+        assembly.addPart("dependent").link_to(needed);
+    Part::hooks().removesItselfWithWhatItNeeds = true;
+    EXPECT_TRUE(assembly.remove_object(needed.getObjectId()));
+    EXPECT_EQ(assembly.get_object_count(), 0U);
+}
+
+TEST_F(ProjectObjectTest, ThatFailsWhenALinkBreaksDoesNotKeepOthersFromBeingTold)
+{
+    Assembly& assembly = addAssembly();
+    Part& needed = assembly.addPart("needed");
+    assembly.addPart("a").link_to(needed);
+    assembly.addPart("b").link_to(needed);
+    Part::hooks().calls.clear();
+    Part::hooks().breakThrows = true;
+    const vxtest::Reports reports;
+    EXPECT_TRUE(assembly.remove_object(needed.getObjectId()));
+    EXPECT_THAT(Part::hooks().calls, ElementsAre("break needed", "break needed"));
+    EXPECT_EQ(reports.errors(), 2);
+    EXPECT_THAT(reports.text(), HasSubstr("a link cannot be broken"));
+}
+
+TEST_F(ProjectObjectTest, NamesItselfInTheResultOfAnExecution)
+{
+    Part part;
+    const Obj::ProjectObjectExecReturn result("done", &part);
+    EXPECT_EQ(result.text, "done");
+    EXPECT_EQ(result.object, &part);
+    EXPECT_EQ(Obj::ProjectObjectExecReturn("nothing").object, nullptr);
+}
+
+struct Slots : ProjectObject
+{
+    static std::ptrdiff_t configuring() { return slotOf(&Slots::on_configuring_project); }
+};
+
+TEST_F(ProjectObjectTest, HasItsVirtualOperationsBehindThoseOfASetOfProperties)
+{
+    if (!vxtest::slotsCanBeRead)
+        GTEST_SKIP() << "pointers to members are written differently here";
+    const std::vector<std::ptrdiff_t> places{
+        slotOf(&ProjectObject::get_viewfeeder_name),
+        slotOf(&ProjectObject::refresh),
+        slotOf(&ProjectObject::refreshProperties),
+        slotOf(&ProjectObject::always_run),
+        slotOf(&ProjectObject::on_break_object_link),
+        slotOf(&ProjectObject::save_jsonDB),
+        slotOf(&ProjectObject::load_jsonDB),
+        slotOf(&ProjectObject::check_input),
+        slotOf(&ProjectObject::setObjectState),
+        slotOf(&ProjectObject::getCoreEditor),
+        slotOf(&ProjectObject::execute),
+        slotOf(&ProjectObject::notifyChange),
+        slotOf(&ProjectObject::on_project_restored),
+        Slots::configuring(),
+    };
+    EXPECT_THAT(places, ElementsAre(25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38));
+}
+
+} // namespace

@@ -1,0 +1,158 @@
+#include "vxMaterial/project/DocumentMaterial.h"
+
+#include "vxCAE/CaeManager.h"
+#include "vxMaterial/exchange/CAESet.h"
+#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/project/MaterialObject.h"
+
+#include <algorithm>
+#include <fstream>
+#include <new>
+#include <utility>
+#include <vector>
+
+namespace Mat {
+
+namespace {
+
+std::vector<MaterialObject*> materialObjects(const Obj::Project& project)
+{
+    std::vector<MaterialObject*> materials;
+    for (Obj::ProjectObject* const object : project.get_objects_of_type(MaterialObject::getClassTypeId()))
+        if (object != nullptr)
+            materials.push_back(static_cast<MaterialObject*>(object));
+    return materials;
+}
+
+} // namespace
+
+Kelta::TypeInfo DocumentMaterial::classTypeId;
+Obj::PropertyCoreData DocumentMaterial::propertyData;
+
+DocumentMaterial::DocumentMaterial()
+{
+    documentTag = Kelta::eDocumentTag::Material;
+    id.setValue(0);
+    classLabel.setValue("Material Project");
+    physicsType.setValue("Structural");
+    register_property(propertyData, id, "ID", "Info", 1, "Identity of the tree object");
+    register_property(propertyData, classLabel, "ClassLabel", "Info", 1, "class name");
+    register_property(propertyData, physicsType, "PhysicsType", "Definition", 9,
+                      "Physics type simulated in this project");
+    matMgr.initMaterialLibrary();
+    matMgr.initPropertyCatalogue();
+}
+
+DocumentMaterial::~DocumentMaterial() = default;
+
+void* DocumentMaterial::create()
+{
+    return static_cast<Kelta::RootClass*>(new (std::nothrow) DocumentMaterial);
+}
+
+void DocumentMaterial::init()
+{
+    initSubclass(classTypeId, "Mat::DocumentMaterial", "Obj::Project", &DocumentMaterial::create);
+    propertyData.set_parent(Obj::Project::get_property_data_ref());
+}
+
+Kelta::TypeInfo DocumentMaterial::getClassTypeId()
+{
+    return classTypeId;
+}
+
+Kelta::TypeInfo DocumentMaterial::getTypeId() const
+{
+    return classTypeId;
+}
+
+const char* DocumentMaterial::get_viewfeeder_name() const
+{
+    return "MatGui::ViewFeederDocumentMaterial";
+}
+
+Obj::eVXObjectState DocumentMaterial::check_input()
+{
+    return Obj::eVXObjectState::Initial;
+}
+
+void DocumentMaterial::collect_frontend_data()
+{
+    vxCAE::GetCaeManager().setCAE(getProjectId(), makeCAESet().release());
+}
+
+void DocumentMaterial::save_jsonDB(Json::Value& record)
+{
+    record["proj_tag"] = "Material";
+    record["proj_id"] = Json::Value::UInt(getProjectId());
+    // Readers of the database expect the kind of project here, not the physics that the property names.
+    record["physics_type"] = "Material";
+    Json::Value objects;
+    for (MaterialObject* const material : materialObjects(*this))
+        material->save_jsonDB(objects["object"].append(Json::Value()));
+    record["objects"] = std::move(objects);
+}
+
+void DocumentMaterial::load_jsonDB(Json::Value&) {}
+
+void DocumentMaterial::Save(Kelta::FileWriter&) const {}
+
+void DocumentMaterial::Load(Kelta::XMLFileReader&) {}
+
+bool DocumentMaterial::check_all_materials()
+{
+    const std::vector<MaterialObject*> materials = materialObjects(*this);
+    return std::all_of(materials.begin(), materials.end(),
+                       [](MaterialObject* material) { return material->check_input_data(); });
+}
+
+bool DocumentMaterial::check_material_input(unsigned int objectId)
+{
+    Obj::ProjectObject* const object = get_object(objectId);
+    return object != nullptr && static_cast<MaterialObject*>(object)->check_input_data();
+}
+
+bool DocumentMaterial::exportToFile(const std::string& path, char, char, char)
+{
+    const std::unique_ptr<vxCAE::CAESet> set = makeCAESet();
+    std::ofstream file(path);
+    Json::Value document;
+    set->writeJson(document);
+    file << vxCAE::toStyledText(document);
+    return true;
+}
+
+const Obj::PropertyCoreData& DocumentMaterial::get_property_data() const
+{
+    return propertyData;
+}
+
+const Obj::PropertyCoreData* DocumentMaterial::get_property_data_ref()
+{
+    return &propertyData;
+}
+
+std::unique_ptr<vxCAE::CAESet> DocumentMaterial::makeCAESet()
+{
+    auto set = std::make_unique<vxCAE::CAESet>(getProjectId(), vxCAE::ProjectKind::Material);
+    load_cae_set(set.get());
+    return set;
+}
+
+void DocumentMaterial::load_cae_set(vxCAE::CAESet* set)
+{
+    auto* const materials = static_cast<vxCAE::CAEMaterials*>(set->getSection(vxCAE::SectionIndex::Materials));
+    if (materials == nullptr)
+        return;
+    for (const MaterialObject* const object : materialObjects(*this)) {
+        vxMat::CMaterial* const material = object->getCMaterial();
+        if (material == nullptr)
+            continue;
+        material->name = object->label.getValue();
+        auto entry = std::make_unique<vxCAE::MaterialEntry>();
+        material->copyTo(entry->material.get());
+        materials->addMaterial(object->getObjectId(), std::move(entry));
+    }
+}
+
+} // namespace Mat

@@ -1,0 +1,150 @@
+#include "vxMaterial/project/MaterialObject.h"
+
+#include "vxMaterial/model/MaterialLibrary.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MessageBox.h"
+
+#include <QObject>
+
+#include <algorithm>
+#include <new>
+
+namespace Mat {
+
+Kelta::TypeInfo MaterialObject::classTypeId;
+Obj::PropertyCoreData MaterialObject::propertyData;
+
+MaterialObject::MaterialObject() : material(std::make_unique<vxMat::CMaterial>("MaterialObject"))
+{
+    id.setValue(0);
+    classLabel.setValue("Material");
+    register_property(propertyData, id, "ID", "Info", 1, "Identity of the tree object");
+    register_property(propertyData, classLabel, "ClassLabel", "Info", 1, "class name");
+    MaterialObject::setObjectState(Obj::eVXObjectState::Initial);
+}
+
+MaterialObject::~MaterialObject() = default;
+
+void* MaterialObject::create()
+{
+    return static_cast<Kelta::RootClass*>(new (std::nothrow) MaterialObject);
+}
+
+void MaterialObject::init()
+{
+    initSubclass(classTypeId, "Mat::MaterialObject", "Obj::ProjectObject", &MaterialObject::create);
+    propertyData.set_parent(Obj::ProjectObject::get_property_data_ref());
+}
+
+Kelta::TypeInfo MaterialObject::getClassTypeId()
+{
+    return classTypeId;
+}
+
+Kelta::TypeInfo MaterialObject::getTypeId() const
+{
+    return classTypeId;
+}
+
+const char* MaterialObject::get_viewfeeder_name() const
+{
+    return "MatGui::ViewFeederMaterialObject";
+}
+
+void MaterialObject::refreshProperties(bool stateToo)
+{
+    Obj::ProjectObject::refreshProperties(stateToo);
+}
+
+short MaterialObject::always_run() const
+{
+    return -1;
+}
+
+void MaterialObject::save_jsonDB(Json::Value& record)
+{
+    record["obj_id"] = Json::Value::UInt(getObjectId());
+    record["class"] = getClassTypeId().get_name();
+    record["name_internal"] = get_name_in_project();
+    record["label"] = label.getValue();
+}
+
+void MaterialObject::load_jsonDB(Json::Value&) {}
+
+Obj::eVXObjectState MaterialObject::check_input()
+{
+    const auto state = material->properties.empty() ? Obj::eVXObjectState::Initial : Obj::eVXObjectState::Ready;
+    setObjectState(state);
+    return state;
+}
+
+Obj::ProjectObjectExecReturn* MaterialObject::execute()
+{
+    return new (std::nothrow) Obj::ProjectObjectExecReturn("MaterialObject::execute().", this);
+}
+
+void MaterialObject::setCMaterial(const vxMat::MaterialBase* source)
+{
+    material->copyFrom(*source);
+}
+
+void MaterialObject::initCMaterial(vxMat::eMaterialType type)
+{
+    if (type == vxMat::eMaterialType::StructuralSteel) {
+        const vxMat::StructuralSteel steel;
+        setCMaterial(&steel);
+    }
+    check_input();
+}
+
+vxMat::MatDBManager& MaterialObject::getMatMgr() const
+{
+    return static_cast<DocumentMaterial*>(get_project())->getMatMgr();
+}
+
+bool MaterialObject::check_input_data()
+{
+    const QString name = QObject::tr(label.getValue().c_str());
+    const QString title = QObject::tr("Input check");
+    if (material->properties.empty()) {
+        showCritical(title, QObject::tr("No property is defined in '%1'.").arg(name));
+        return false;
+    }
+    const auto isRefused = [](const auto& entry) { return entry.second->value <= 0.0; };
+    if (std::any_of(material->properties.begin(), material->properties.end(), isRefused)) {
+        showWarning(title,
+                    QObject::tr("Material property defined in '%1' has value equal or less than zero.").arg(name));
+        return false;
+    }
+    return true;
+}
+
+bool MaterialObject::exportToFile(const std::string&, char, char, char) const
+{
+    return true;
+}
+
+bool MaterialObject::importFromFile(const std::string&, char, char, char)
+{
+    return false;
+}
+
+void MaterialObject::on_configuring_project() {}
+
+void MaterialObject::on_changed(const Obj::Property* changed)
+{
+    check_input();
+    Obj::ProjectObject::on_changed(changed);
+}
+
+const Obj::PropertyCoreData& MaterialObject::get_property_data() const
+{
+    return propertyData;
+}
+
+const Obj::PropertyCoreData* MaterialObject::get_property_data_ref()
+{
+    return &propertyData;
+}
+
+} // namespace Mat

@@ -1,0 +1,89 @@
+#include "Kelta/PluginLoader.h"
+#include "Kelta/RootClass.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::IsEmpty;
+
+QString folderOfPlugin()
+{
+    return QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath();
+}
+
+QStringList exportedSymbols()
+{
+    QProcess nm;
+    nm.start(QStringLiteral(VX_NM), {"--dynamic", "--defined-only", "--demangle", "--format=posix", VX_PLUGIN});
+    nm.waitForFinished();
+    QStringList names;
+    for (const QString& line : QString::fromUtf8(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts))
+        names << line.section(QRegularExpression(" [A-Za-z]( |$)"), 0, 0);
+    return names;
+}
+
+QStringList missingIcons()
+{
+    QStringList missing;
+    for (const char* name : {"importmaterial", "materialproject", "materialobject", "exportmaterial"}) {
+        const QString path = QStringLiteral(":icons/norvex_%1.svg").arg(QLatin1String(name));
+        if (!QFile::exists(path))
+            missing << path;
+    }
+    return missing;
+}
+
+TEST(Plugin, BringsItsIconsOnlyWhenTheUserInterfaceIsInitialised)
+{
+    EXPECT_EQ(missingIcons().size(), 4);
+    Kelta::PluginLoader loader({folderOfPlugin()});
+    ASSERT_TRUE(loader.load("vxMaterial", {"initMat"})) << loader.errorText().toStdString();
+    EXPECT_EQ(missingIcons().size(), 4);
+    ASSERT_TRUE(loader.load("vxMaterial", {"initMatGui"})) << loader.errorText().toStdString();
+    EXPECT_EQ(missingIcons(), QStringList());
+}
+
+TEST(Plugin, IsFoundInTheBuildTreeByItsName)
+{
+    Kelta::PluginLoader loader;
+    EXPECT_TRUE(loader.load("vxMaterial", {"initMat", "initMatGui"})) << loader.errorText().toStdString();
+    EXPECT_NE(Kelta::RootClass::create_by_name("Mat::MaterialObject"), nullptr);
+}
+
+TEST(Plugin, MayBeLoadedTwice)
+{
+    Kelta::PluginLoader loader({folderOfPlugin()});
+    Kelta::PluginLoader other({folderOfPlugin()});
+    for (Kelta::PluginLoader* each : {&loader, &loader, &other})
+        EXPECT_TRUE(each->load("vxMaterial", {"initMat", "initMatGui"})) << each->errorText().toStdString();
+}
+
+TEST(Plugin, ExportsItsEntriesAndTheClassesOfItsLayersAlone)
+{
+    const QStringList symbols = exportedSymbols();
+    EXPECT_TRUE(symbols.contains("initMat"));
+    EXPECT_TRUE(symbols.contains("initMatGui"));
+    EXPECT_TRUE(symbols.contains("Mat::MaterialObject::check_input()"));
+    EXPECT_TRUE(symbols.contains("Mat::DocumentMaterial::check_all_materials()"));
+    EXPECT_TRUE(symbols.contains("vxMaterial::vxMaterial()"));
+
+    const QRegularExpression allowed("^(initMat|initMatGui|ComboBoxItemDelegate::.*|"
+                                     "((vtable|typeinfo|typeinfo name) for |non-virtual thunk to "
+                                     ")?(Mat|MatGui|vxMaterial|ComboBoxItemDelegate)(::.*)?)$");
+    for (const QString& symbol : symbols)
+        EXPECT_TRUE(allowed.match(symbol).hasMatch()) << symbol.toStdString();
+}
+
+TEST(Plugin, KeepsItsHelpersToItself)
+{
+    for (const QString& symbol : exportedSymbols())
+        for (const char* internal : {"showCritical", "showWarning", "registerIcons", "qInitResources"})
+            EXPECT_FALSE(symbol.contains(QLatin1String(internal))) << symbol.toStdString();
+}
+
+} // namespace

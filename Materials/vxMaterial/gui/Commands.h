@@ -1,0 +1,92 @@
+#pragma once
+
+#include "Gui/Command.h"
+#include "vxMaterial/project/PluginExport.h"
+
+namespace MatGui {
+
+/// What all commands of the module have in common: their fields stand in one table, by command name.
+class VXMATERIAL_EXPORT MaterialCommand : public Gui::Command
+{
+public:
+    explicit MaterialCommand(const char* name);
+    ~MaterialCommand() override;
+};
+
+/// "Mat_NewDoc": makes a material project, unless there is one.
+class VXMATERIAL_EXPORT MatCmdNewDoc final : public MaterialCommand
+{
+public:
+    MatCmdNewDoc();
+    ~MatCmdNewDoc() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+};
+
+/// "Mat_DelDoc": closes the material project that is selected in the tree; with several selected nothing.
+class VXMATERIAL_EXPORT MatCmdDelDoc final : public MaterialCommand
+{
+public:
+    MatCmdDelDoc();
+    ~MatCmdDelDoc() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+};
+
+/// "Mat_AddMaterial": adds a material to the material project.
+class VXMATERIAL_EXPORT MatCmdMaterial final : public MaterialCommand
+{
+public:
+    MatCmdMaterial();
+    ~MatCmdMaterial() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+    bool is_applicable() override;
+};
+
+/// "Mat_Delete": deletes the selected objects of all projects, after a question where others depend on them.
+class VXMATERIAL_EXPORT MatCmdDelete final : public MaterialCommand
+{
+public:
+    MatCmdDelete();
+    ~MatCmdDelete() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+    bool is_applicable() override;
+};
+
+/// "Mat_Edit": opens the editor of each selected material.
+class VXMATERIAL_EXPORT MatCmdEdit final : public MaterialCommand
+{
+public:
+    MatCmdEdit();
+    ~MatCmdEdit() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+    bool is_applicable() override;
+};
+
+/// "Mat_Import": asks for a file and adds an empty material to the current project. Files of single materials are not
+/// read yet, so whatever the file holds stays there.
+class VXMATERIAL_EXPORT CmdMatImport final : public MaterialCommand
+{
+public:
+    CmdMatImport();
+    ~CmdMatImport() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+    bool is_applicable() override;
+};
+
+/// "Mat_Export": asks for a file and writes the material project to it, unchecked.
+class VXMATERIAL_EXPORT CmdMatExport final : public MaterialCommand
+{
+public:
+    CmdMatExport();
+    ~CmdMatExport() override;
+    const char* get_class_name() const override;
+    void activated(int index) override;
+    bool is_applicable() override;
+};
+
+} // namespace MatGui

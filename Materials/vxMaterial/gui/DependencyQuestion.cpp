@@ -1,0 +1,47 @@
+#include "DependencyQuestion.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+namespace MatGui {
+
+namespace {
+
+/// A message box takes its only button for the answer to Escape and to its close button; here that would delete.
+class Question final : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->matches(QKeySequence::Cancel))
+            reject();
+        else
+            QMessageBox::keyPressEvent(event);
+    }
+
+    void closeEvent(QCloseEvent* event) override
+    {
+        event->accept();
+        reject();
+    }
+};
+
+} // namespace
+
+bool askAboutDependencies(QWidget* parent)
+{
+    Question question(QMessageBox::Question, QCoreApplication::translate("Mat_Delete", "Object dependencies"),
+                      QCoreApplication::translate("Mat_Delete", "This object is linked to other objects thus these "
+                                                                "objects might be broken.\nDo you want to continue?"),
+                      QMessageBox::Yes, parent);
+    // No is named as the default without being offered, so no button has the keyboard's Return.
+    question.setDefaultButton(QMessageBox::No);
+    return question.exec() == QMessageBox::Yes;
+}
+
+} // namespace MatGui

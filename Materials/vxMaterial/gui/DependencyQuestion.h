@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace MatGui {
+
+/// Asks whether to delete objects on which others depend. True for Yes alone: a question that is closed is answered with
+/// No, though it has no such button.
+bool askAboutDependencies(QWidget* parent);
+
+} // namespace MatGui

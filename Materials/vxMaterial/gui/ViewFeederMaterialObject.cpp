@@ -1,0 +1,171 @@
+#include "vxMaterial/gui/ViewFeederMaterialObject.h"
+
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
+#include "Gui/PictureFactory.h"
+#include "Obj/Project.h"
+#include "vxMaterial/gui/MaterialView.h"
+#include "vxMaterial/project/MaterialObject.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+
+#include <new>
+
+namespace MatGui {
+
+Kelta::TypeInfo ViewFeederMaterialObject::classTypeId;
+Obj::PropertyCoreData ViewFeederMaterialObject::propertyData;
+
+ViewFeederMaterialObject::ViewFeederMaterialObject()
+    : materialColor(Obj::Color{0.5058824F, 0.57254905F, 0.6431373F, 0.0F})
+{
+    pixmapName = "norvex_materialobject";
+    register_property(propertyData, materialColor, "MaterialColor", "Definition", 8, "Color of material.");
+}
+
+ViewFeederMaterialObject::~ViewFeederMaterialObject()
+{
+    Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    if (materialView != nullptr && mainWindow != nullptr)
+        mainWindow->remove_mdi_window(materialView);
+}
+
+void* ViewFeederMaterialObject::create()
+{
+    return static_cast<Kelta::RootClass*>(new (std::nothrow) ViewFeederMaterialObject);
+}
+
+Kelta::TypeInfo ViewFeederMaterialObject::getClassTypeId()
+{
+    return classTypeId;
+}
+
+Kelta::TypeInfo ViewFeederMaterialObject::getTypeId() const
+{
+    return classTypeId;
+}
+
+void ViewFeederMaterialObject::init()
+{
+    initSubclass(classTypeId, "MatGui::ViewFeederMaterialObject", "Gui::ViewFeederProjectObject",
+                 &ViewFeederMaterialObject::create);
+    propertyData.set_parent(Gui::ViewFeederProjectObject::get_property_data_ref());
+}
+
+bool ViewFeederMaterialObject::useNewSelectionModel() const
+{
+    return false;
+}
+
+bool ViewFeederMaterialObject::onDelete(const std::vector<std::string>&)
+{
+    return true;
+}
+
+void ViewFeederMaterialObject::setDisplayMode(const char* mode)
+{
+    Gui::ViewFeeder::setDisplayMode(mode);
+}
+
+std::vector<std::string> ViewFeederMaterialObject::getDisplayModes() const
+{
+    return {"MaterialObject"};
+}
+
+bool ViewFeederMaterialObject::isShow() const
+{
+    return true;
+}
+
+bool ViewFeederMaterialObject::setEdit(int mode)
+{
+    if (mode == 0)
+        openEditor();
+    return false;
+}
+
+bool ViewFeederMaterialObject::on_double_clicked()
+{
+    openEditor();
+    return true;
+}
+
+void ViewFeederMaterialObject::build_context_menu(const char*, Gui::MenuItem* menu)
+{
+    for (const char* command : {"Mat_Edit", "Separator", "Mat_AddMaterial", "Std_Copy", "Std_Paste",
+                                "Std_DuplicateSelection", "Mat_Delete", "Separator"})
+        *menu << command;
+    const Mat::MaterialObject* const object = getMaterialObject();
+    *menu << (object != nullptr && object->isSuppressed() ? "Std_Unsuppress" : "Std_Suppress");
+}
+
+void ViewFeederMaterialObject::build_context_menu(QMenu* menu, QObject* receiver, const char* slot)
+{
+    QAction* const action =
+        menu->addAction(QCoreApplication::translate("MatGui::ViewFeederMaterialObject", "Show material"), receiver,
+                        slot, QKeySequence());
+    action->setData(0);
+}
+
+Mat::MaterialObject* ViewFeederMaterialObject::getMaterialObject() const
+{
+    Obj::ProjectObject* const object = getObject();
+    return object != nullptr && object->is_inherited_from(Mat::MaterialObject::getClassTypeId())
+               ? static_cast<Mat::MaterialObject*>(object)
+               : nullptr;
+}
+
+void ViewFeederMaterialObject::updateData(const Obj::Property* changed)
+{
+    if (materialView != nullptr)
+        materialView->updateCell(changed);
+}
+
+const Obj::PropertyCoreData& ViewFeederMaterialObject::get_property_data() const
+{
+    return propertyData;
+}
+
+const Obj::PropertyCoreData* ViewFeederMaterialObject::get_property_data_ref()
+{
+    return &propertyData;
+}
+
+MaterialView* ViewFeederMaterialObject::showMaterialView()
+{
+    if (materialView != nullptr)
+        return materialView;
+    Mat::MaterialObject* const object = getMaterialObject();
+    Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    if (object == nullptr || mainWindow == nullptr || Gui::GuiApplication::Instance == nullptr)
+        return nullptr;
+    materialView =
+        new MaterialView(Gui::GuiApplication::Instance->get_project(object->get_project()), object, mainWindow);
+    materialView->setWindowIcon(Gui::PictureFactory::get_pixmap(":icons/norvex_materialobject.svg"));
+    showLabel(*object);
+    m_labelChanged = object->get_project()->objectChanged.connect(
+        [this, object](Obj::ProjectObject& changed, const Obj::Property* property) {
+            if (&changed == object && property == &object->label)
+                showLabel(*object);
+        });
+    mainWindow->add_mdi_window(materialView);
+    return materialView;
+}
+
+void ViewFeederMaterialObject::showLabel(const Mat::MaterialObject& object)
+{
+    if (materialView != nullptr)
+        materialView->setWindowTitle(QString::fromStdString(object.label.getValue()) + QStringLiteral("[*]"));
+}
+
+void ViewFeederMaterialObject::openEditor()
+{
+    if (materialView == nullptr && showMaterialView() != nullptr)
+        materialView->viewAll();
+    if (materialView != nullptr)
+        Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(materialView);
+}
+
+} // namespace MatGui

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Gui/ViewFeeder.h"
+#include "vxMaterial/project/PluginExport.h"
+
+#include <QPointer>
+#include <boost/signals2/connection.hpp>
+
+namespace Mat {
+class MaterialObject;
+} // namespace Mat
+
+namespace MatGui {
+
+class MaterialView;
+
+/// The node of a material. It opens the material's editor, knows it while it lives, and closes it when the material
+/// leaves the tree.
+class VXMATERIAL_EXPORT ViewFeederMaterialObject : public Gui::ViewFeederProjectObject
+{
+public:
+    ViewFeederMaterialObject();
+    /// Removes the editor from the main window if it is open.
+    ~ViewFeederMaterialObject() override;
+
+    static void* create();
+    static Kelta::TypeInfo getClassTypeId();
+    Kelta::TypeInfo getTypeId() const override;
+    static void init();
+
+    bool useNewSelectionModel() const override; ///< false
+    /// Always true: materials can be deleted.
+    bool onDelete(const std::vector<std::string>& subElements) override;
+    void setDisplayMode(const char* mode) override;
+    std::vector<std::string> getDisplayModes() const override; ///< "MaterialObject" alone
+    bool isShow() const override;                              ///< true
+    /// Opens the editor for mode 0. The answer is false even then: the tree is not to wait for the end of the edit.
+    bool setEdit(int mode) override;
+    /// Opens the editor, or brings the open one to the front; true.
+    bool on_double_clicked() override;
+    void build_context_menu(const char* recipient, Gui::MenuItem* menu) override;
+    /// Adds "Show material".
+    void build_context_menu(QMenu* menu, QObject* receiver, const char* slot) override;
+
+    /// The material that the node shows; null when it shows none.
+    Mat::MaterialObject* getMaterialObject() const;
+
+    Obj::PropertyColor materialColor; ///< "MaterialColor"
+
+protected:
+    /// Passes the change on to the editor when it is open.
+    void updateData(const Obj::Property* changed) override;
+    const Obj::PropertyCoreData& get_property_data() const override;
+    static const Obj::PropertyCoreData* get_property_data_ref();
+    /// The open editor, or a new one in the main window; null when the node shows no material.
+    MaterialView* showMaterialView();
+
+private:
+    void openEditor();
+    void showLabel(const Mat::MaterialObject& object);
+
+    static Kelta::TypeInfo classTypeId;
+    static Obj::PropertyCoreData propertyData;
+
+    QPointer<MaterialView> materialView;
+    boost::signals2::scoped_connection m_labelChanged;
+};
+
+} // namespace MatGui

@@ -1,0 +1,815 @@
+#include "vxMaterial/gui/Commands.h"
+
+#include "TestObjects.h"
+#include "VirtualOrder.h"
+#include "WorkbenchTesting.h"
+
+#include "Gui/FileDialog.h"
+#include "Gui/GuiProject.h"
+
+#include <QAction>
+#include <QFile>
+#include <QFileDialog>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <json/reader.h>
+
+#include <functional>
+#include <type_traits>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using vxtest::MessageBoxes;
+using vxtest::slotOf;
+
+/// What the user and the host see of a command, written down by hand.
+struct Row
+{
+    const char* name;
+    const char* className;
+    const char* menuText;
+    const char* tip;
+    const char* whatsThis;
+    const char* pixmap;
+    const char* module;
+    const char* group;
+    QKeySequence shortcut;
+    int typeFlags;
+};
+
+// Where a command says nothing it has the host's default: no pixmap, no module, no shortcut, flags 0.
+const std::vector<Row>& expectedRows()
+{
+    static const std::vector<Row> rows = {
+        {"Mat_NewDoc",
+         "MatCmdNewDoc",
+         "&New material project",
+         "Create a new material project",
+         "Mat_NewDoc",
+         "norvex_materialproject",
+         "",
+         "File",
+         {},
+         0},
+        {"Mat_DelDoc",
+         "MatCmdDelDoc",
+         "Close project",
+         "Delete a material project",
+         "Mat_DelDoc",
+         "norvex_gui_closedoc",
+         "Mat",
+         "Mat",
+         {},
+         0},
+        {"Mat_AddMaterial",
+         "MatCmdMaterial",
+         "Add material",
+         "Add a new material",
+         "Mat_AddMaterial",
+         "norvex_materialobject",
+         "Mat",
+         "Mat",
+         {},
+         0},
+        {"Mat_Delete", "MatCmdDelete", "&Delete", "Deletes the selected material objects", "Mat_Delete", "", "", "Edit",
+         QKeySequence(QKeySequence::Delete), 8},
+        {"Mat_Edit", "MatCmdEdit", "Edit", "Edit current material", "Mat_Edit", "", "Mat", "Mat", {}, 0},
+        {"Mat_Import",
+         "CmdMatImport",
+         "Import materials",
+         "Import CSV file into material",
+         "Import CSV file into material",
+         "norvex_importmaterial",
+         "AppMaterial",
+         "AppMaterial",
+         {},
+         0},
+        {"Mat_Export",
+         "CmdMatExport",
+         "Export materials",
+         "Export materials to JSON file",
+         "Export materials to JSON file",
+         "norvex_exportmaterial",
+         "AppMaterial",
+         "AppMaterial",
+         {},
+         0},
+    };
+    return rows;
+}
+
+class Commands : public vxtest::Workbench
+{
+protected:
+    Commands() { vxtest::initForeignClasses(); }
+
+    static Obj::Project& makeAnalysis(const char* name = "Analysis")
+    {
+        return *Obj::Application::instance().create_project("Fem::FemProject", name);
+    }
+};
+
+TEST_F(Commands, AreRegisteredInTheirOrder)
+{
+    std::vector<std::string> names;
+    for (const Gui::Command* const command : commands().get_commands())
+        if (command->getName().rfind("Mat_", 0) == 0)
+            names.push_back(command->getName());
+    EXPECT_THAT(names, ElementsAre("Mat_NewDoc", "Mat_DelDoc", "Mat_AddMaterial", "Mat_Delete", "Mat_Edit",
+                                   "Mat_Import", "Mat_Export"));
+}
+
+TEST_F(Commands, HaveTheFieldsOfTheTable)
+{
+    for (const Row& row : expectedRows()) {
+        SCOPED_TRACE(row.name);
+        const Gui::Command* const command = commands().find_command(row.name);
+        ASSERT_NE(command, nullptr);
+        EXPECT_STREQ(command->get_class_name(), row.className);
+        EXPECT_EQ(command->get_menu_info(), row.menuText);
+        EXPECT_EQ(command->get_tooltip_info(), row.tip);
+        EXPECT_EQ(command->get_statustip(), row.tip);
+        EXPECT_STREQ(command->get_pixmap(), row.pixmap);
+        EXPECT_STREQ(command->getModule(), row.module);
+        EXPECT_STREQ(command->getGroup(), row.group);
+        EXPECT_EQ(command->get_shortcut(), row.shortcut);
+        EXPECT_EQ(command->getTypeFlags(), row.typeFlags);
+    }
+}
+
+TEST_F(Commands, ShowTheirFieldsInTheirActions)
+{
+    for (const Row& row : expectedRows()) {
+        SCOPED_TRACE(row.name);
+        const QAction* const action = commands().find_command(row.name)->action();
+        ASSERT_NE(action, nullptr);
+        EXPECT_EQ(action->objectName(), row.name);
+        EXPECT_EQ(action->text(), row.menuText);
+        EXPECT_EQ(action->toolTip(), row.tip);
+        EXPECT_EQ(action->statusTip(), row.tip);
+        EXPECT_EQ(action->whatsThis(), row.whatsThis);
+        EXPECT_EQ(action->icon().isNull(), *row.pixmap == '\0');
+        EXPECT_EQ(action->shortcut(), row.shortcut);
+    }
+}
+
+TEST(CommandClasses, HaveTheVirtualOperationsInTheOrderOfTheHost)
+{
+    using Gui::CommandBase;
+    const std::vector<std::size_t> places = {
+        slotOf(&CommandBase::new_action),       slotOf(&CommandBase::on_language_changed),
+        slotOf(&CommandBase::get_class_name),   slotOf(&CommandBase::get_menu_info),
+        slotOf(&CommandBase::get_tooltip_info), slotOf(&CommandBase::get_statustip),
+        slotOf(&CommandBase::get_pixmap),       slotOf(&CommandBase::get_shortcut),
+        slotOf(&CommandBase::activated),        slotOf(&CommandBase::is_applicable),
+    };
+    // The two destructors stand before them.
+    EXPECT_THAT(places, ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 11));
+    EXPECT_EQ(slotOf(&MatGui::MatCmdDelete::activated), slotOf(&CommandBase::activated));
+    EXPECT_EQ(slotOf(&MatGui::MatCmdDelete::is_applicable), slotOf(&CommandBase::is_applicable));
+    EXPECT_EQ(slotOf(&MatGui::CmdMatExport::get_class_name), slotOf(&CommandBase::get_class_name));
+}
+
+TEST_F(Commands, AreApplicableWithACurrentProjectOfWhateverKind)
+{
+    const std::vector<const char*> needProject = {"Mat_AddMaterial", "Mat_Delete", "Mat_Edit", "Mat_Import",
+                                                  "Mat_Export"};
+    for (const char* const name : needProject)
+        EXPECT_FALSE(isApplicable(name)) << name;
+    EXPECT_TRUE(isApplicable("Mat_NewDoc"));
+    EXPECT_TRUE(isApplicable("Mat_DelDoc"));
+    makeAnalysis();
+    for (const char* const name : needProject)
+        EXPECT_TRUE(isApplicable(name)) << name;
+}
+
+// --- New project ---
+
+TEST_F(Commands, NewDocMakesAMaterialProjectUndoably)
+{
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    const auto projects = Obj::Application::get_projects(2);
+    ASSERT_THAT(projects, SizeIs(1));
+    EXPECT_EQ(std::string(projects[0]->get_name()).rfind("Materials", 0), 0U);
+    EXPECT_STREQ(projects[0]->getTypeId().get_name(), "Mat::DocumentMaterial");
+    EXPECT_EQ(undoStack().index(), 1);
+    undoStack().undo();
+    EXPECT_THAT(Obj::Application::get_projects(), IsEmpty());
+}
+
+TEST_F(Commands, NewDocWarnsAndMakesNothingWhileThereIsAMaterialProject)
+{
+    makeProject();
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    ASSERT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_EQ(boxes.shown()[0].icon, QMessageBox::Warning);
+    EXPECT_EQ(boxes.shown()[0].title, "Material project");
+    EXPECT_EQ(boxes.shown()[0].text, "Material project is already presented in Project Explorer window.");
+    EXPECT_EQ(boxes.shown()[0].buttons, QMessageBox::Ok);
+    EXPECT_EQ(boxes.shown()[0].parent, window.get());
+    EXPECT_THAT(Obj::Application::get_projects(), SizeIs(1));
+}
+
+TEST_F(Commands, NewDocDoesNotMindProjectsOfOtherKinds)
+{
+    makeAnalysis();
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_THAT(Obj::Application::get_projects(2), SizeIs(1));
+}
+
+// --- Close project ---
+
+TEST_F(Commands, DelDocClosesTheSelectedMaterialProjectUndoably)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    selection().set_selection({&project}, {});
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    EXPECT_THAT(Obj::Application::get_projects(), IsEmpty());
+    undoStack().undo();
+    EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&project));
+}
+
+TEST_F(Commands, DelDocDoesNothingWithTwoMaterialProjectsSelected)
+{
+    Mat::DocumentMaterial& first = makeProject("First");
+    Mat::DocumentMaterial& second = makeProject("Second");
+    selection().set_selection({&first, &second}, {});
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&first, &second));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+}
+
+TEST_F(Commands, DelDocDoesNothingWithoutASelectedMaterialProject)
+{
+    makeProject();
+    Obj::Project& analysis = makeAnalysis();
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    selection().set_selection({&analysis}, {});
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    EXPECT_THAT(Obj::Application::get_projects(), SizeIs(2));
+}
+
+TEST_F(Commands, DelDocClosesTheMaterialProjectAmongOtherSelectedOnes)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Obj::Project& analysis = makeAnalysis();
+    selection().set_selection({&project, &analysis}, {});
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&analysis));
+}
+
+TEST_F(Commands, DelDocTakesTheOpenEditorsOfTheProjectWithIt)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    for (int i = 0; i < 3; ++i)
+        nodeOf(addMaterial(project)).on_double_clicked();
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(3));
+    selection().set_selection({&project}, {});
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    undoStack().undo();
+    EXPECT_TRUE(nodeOf(*project.get_objects()[1]).on_double_clicked());
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(1));
+}
+
+// --- Add ---
+
+TEST_F(Commands, AddMaterialAddsOneUndoably)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    EXPECT_TRUE(run("Mat_AddMaterial"));
+    ASSERT_THAT(project.get_objects(), SizeIs(1));
+    EXPECT_EQ(project.get_objects()[0]->label.getValue(), "Material");
+    EXPECT_STREQ(project.get_objects()[0]->getTypeId().get_name(), "Mat::MaterialObject");
+    undoStack().undo();
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+    undoStack().redo();
+    EXPECT_THAT(project.get_objects(), SizeIs(1));
+}
+
+TEST_F(Commands, AddMaterialSaysThatThereIsNoMaterialProject)
+{
+    makeAnalysis();
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_AddMaterial"));
+    ASSERT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_EQ(boxes.shown()[0].icon, QMessageBox::Critical);
+    EXPECT_EQ(boxes.shown()[0].title, "Invalid project");
+    EXPECT_EQ(boxes.shown()[0].text, "No material project.");
+    EXPECT_EQ(boxes.shown()[0].buttons, QMessageBox::Ok);
+    EXPECT_EQ(boxes.shown()[0].parent, window.get());
+}
+
+TEST_F(Commands, AddMaterialGoesToTheMaterialProjectWhateverTheCurrentOneIs)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Obj::Project& analysis = makeAnalysis();
+    ASSERT_EQ(Obj::Application::get_current_project(), &analysis);
+    EXPECT_TRUE(run("Mat_AddMaterial"));
+    EXPECT_THAT(project.get_objects(), SizeIs(1));
+    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+}
+
+TEST_F(Commands, AddMaterialGoesToTheFirstOfTwoMaterialProjects)
+{
+    Mat::DocumentMaterial& first = makeProject("First");
+    Mat::DocumentMaterial& second = makeProject("Second");
+    EXPECT_TRUE(run("Mat_AddMaterial"));
+    EXPECT_TRUE(run("Mat_AddMaterial"));
+    EXPECT_THAT(first.get_objects(), SizeIs(2));
+    EXPECT_THAT(second.get_objects(), IsEmpty());
+}
+
+TEST_F(Commands, AddMaterialDoesNothingWithoutACurrentProject)
+{
+    const MessageBoxes boxes;
+    EXPECT_FALSE(run("Mat_AddMaterial"));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+}
+
+// --- Edit ---
+
+TEST_F(Commands, EditOpensTheEditorsOfAllSelectedMaterials)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    std::vector<Obj::ProjectObject*> objects;
+    for (int i = 0; i < 10; ++i)
+        objects.push_back(&addMaterial(project));
+    select(objects);
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(10));
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(10));
+}
+
+TEST_F(Commands, EditOpensNothingWithoutASelection)
+{
+    addMaterial(makeProject());
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+}
+
+TEST_F(Commands, EditDoesNothingWithoutAMaterialProject)
+{
+    Obj::Project& analysis = makeAnalysis();
+    select({analysis.add_object("Fem::FemLoad", "Load")});
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+}
+
+TEST_F(Commands, EditPassesOverObjectsThatAreNoMaterials)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    select({&addMaterial(project), project.add_object("Fem::FemLoad", "Load")});
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(1));
+}
+
+TEST_F(Commands, EditLooksAtTheFirstMaterialProjectAlone)
+{
+    makeProject("First");
+    Mat::DocumentMaterial& second = makeProject("Second");
+    select({&addMaterial(second)});
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+}
+
+// --- Delete ---
+
+TEST_F(Commands, DeleteTakesAllSelectedObjectsInOneStep)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& first = addMaterial(project, "First");
+    Mat::MaterialObject& kept = addMaterial(project, "Kept");
+    Mat::MaterialObject& last = addMaterial(project, "Last");
+    undoStack().clear();
+    select({&first, &last});
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(project.get_objects(), ElementsAre(&kept));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_THAT(project.get_objects(), ElementsAre(&first, &kept, &last));
+}
+
+TEST_F(Commands, DeleteLeavesObjectsOfTheFiveProtectedClassesInPlace)
+{
+    Obj::Project& analysis = makeAnalysis();
+    std::vector<Obj::ProjectObject*> objects;
+    for (const char* const name : vxtest::protectedNames)
+        objects.push_back(analysis.add_object(name, "Frame"));
+    select(objects);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_EQ(analysis.get_objects(), objects);
+}
+
+TEST_F(Commands, DeleteLeavesAStudyOfAnotherProjectInPlace)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Obj::Project& analysis = makeAnalysis();
+    Obj::ProjectObject* const frame = analysis.add_object("Fem::FemStudy", "Study");
+    select({&addMaterial(project), frame, analysis.add_object("Fem::FemLoad", "Load")});
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(analysis.get_objects(), ElementsAre(frame));
+}
+
+TEST_F(Commands, DeleteAsksNothingAboutLinksToTheProtectedClasses)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& material = addMaterial(project);
+    for (const char* const name : vxtest::protectedNames)
+        project.add_object(name, "Frame")->link_to(material);
+    select({&material});
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_THAT(project.get_objects(), SizeIs(5));
+}
+
+TEST_F(Commands, DeleteAsksNothingAboutLinksToGroups)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& material = addMaterial(project);
+    project.add_object("Fem::FemLoadGroup", "Group")->link_to(material);
+    select({&material});
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_THAT(project.get_objects(), SizeIs(1));
+}
+
+TEST_F(Commands, DeleteAsksNothingAboutLinksAmongTheSelected)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& material = addMaterial(project);
+    Obj::ProjectObject* const load = project.add_object("Fem::FemLoad", "Load");
+    load->link_to(material);
+    select({&material, load});
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+}
+
+/// A material on which a load depends, selected.
+class DependencyQuestion : public Commands
+{
+protected:
+    DependencyQuestion() : project(makeProject()), material(addMaterial(project))
+    {
+        project.add_object("Fem::FemLoad", "Load")->link_to(material);
+        select({&material});
+    }
+
+    bool isDeleted() const { return project.get_objects().size() == 1; }
+
+    /// Runs the command and does `answer` to the box that comes up.
+    void deleteAnswering(const std::function<void(QMessageBox&)>& answer) const
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&answer] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                answer(*box);
+        });
+        timer.start(1);
+        EXPECT_TRUE(run("Mat_Delete"));
+    }
+
+    Mat::DocumentMaterial& project;
+    Mat::MaterialObject& material;
+};
+
+TEST_F(DependencyQuestion, OffersYesAlone)
+{
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Delete"));
+    ASSERT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_EQ(boxes.shown()[0].icon, QMessageBox::Question);
+    EXPECT_EQ(boxes.shown()[0].title, "Object dependencies");
+    EXPECT_EQ(boxes.shown()[0].text, "This object is linked to other objects thus these objects might be broken.\n"
+                                     "Do you want to continue?");
+    EXPECT_EQ(boxes.shown()[0].buttons, QMessageBox::Yes);
+    EXPECT_FALSE(boxes.shown()[0].hasDefaultButton);
+    EXPECT_EQ(boxes.shown()[0].parent, window.get());
+    EXPECT_TRUE(isDeleted());
+}
+
+TEST_F(DependencyQuestion, KeepsTheObjectWhenItIsAnsweredWithNo)
+{
+    deleteAnswering([](QMessageBox& box) { box.done(QMessageBox::No); });
+    EXPECT_FALSE(isDeleted());
+}
+
+TEST_F(DependencyQuestion, KeepsTheObjectWhenItIsClosed)
+{
+    deleteAnswering([](QMessageBox& box) { box.close(); });
+    EXPECT_FALSE(isDeleted());
+}
+
+TEST_F(DependencyQuestion, KeepsTheObjectOnEscape)
+{
+    deleteAnswering([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_FALSE(isDeleted());
+}
+
+TEST_F(DependencyQuestion, KeepsTheWholeSelectionOfTheProject)
+{
+    select({&material, &addMaterial(project, "Free")});
+    const MessageBoxes boxes(QMessageBox::No);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_THAT(project.get_objects(), SizeIs(3));
+}
+
+TEST_F(DependencyQuestion, IsAskedForEachProjectByItself)
+{
+    Mat::DocumentMaterial& other = makeProject("Other");
+    Mat::MaterialObject& second = addMaterial(other);
+    other.add_object("Fem::FemLoad", "Load")->link_to(second);
+    select({&material, &second});
+    int asked = 0;
+    deleteAnswering([&asked](QMessageBox& box) {
+        if (++asked == 1)
+            box.close();
+        else
+            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    EXPECT_EQ(asked, 2);
+    EXPECT_FALSE(isDeleted());
+    EXPECT_THAT(other.get_objects(), SizeIs(1));
+}
+
+TEST_F(DependencyQuestion, StopsNoOtherProject)
+{
+    Mat::DocumentMaterial& other = makeProject("Other");
+    select({&material, &addMaterial(other)});
+    const MessageBoxes boxes(QMessageBox::No);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_FALSE(isDeleted());
+    EXPECT_THAT(other.get_objects(), IsEmpty());
+}
+
+TEST_F(DependencyQuestion, IsAskedOnceForSeveralLinks)
+{
+    for (int i = 0; i < 3; ++i)
+        project.add_object("Fem::FemLoad", "Load")->link_to(material);
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), SizeIs(1));
+}
+
+TEST_F(Commands, DeleteKeepsTheWindowFromRepaintingMeanwhile)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    select({&addMaterial(project)});
+    bool repaints = true;
+    project.objectRemoved.connect([this, &repaints](Obj::ProjectObject&) { repaints = window->updatesEnabled(); });
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_FALSE(repaints);
+    EXPECT_TRUE(window->updatesEnabled());
+}
+
+TEST_F(Commands, DeleteDoesNothingWithoutASelection)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    addMaterial(project);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(project.get_objects(), SizeIs(1));
+    EXPECT_EQ(undoStack().count(), 1);
+}
+
+TEST_F(Commands, DeletePassesOverWhatHasLeftTheProjectMeanwhile)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& first = addMaterial(project, "First");
+    Mat::MaterialObject& second = addMaterial(project, "Second");
+    select({&first, &second});
+    // Deleting the first takes the second with it, as an object that owns others would.
+    const auto secondId = second.getObjectId();
+    boost::signals2::scoped_connection chain = project.objectRemoved.connect([&](Obj::ProjectObject& object) {
+        if (&object == &first)
+            project.remove_object(secondId);
+    });
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_EQ(selection().get_count(), 0U);
+}
+
+/// A node that does not let its object be deleted.
+class StubbornNode final : public Gui::ViewFeederProjectObject
+{
+public:
+    static void init()
+    {
+        initSubclass(type, "Test::StubbornNode", "Gui::ViewFeederProjectObject",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new StubbornNode); });
+    }
+    bool onDelete(const std::vector<std::string>& subElements) override
+    {
+        EXPECT_THAT(subElements, IsEmpty());
+        return false;
+    }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+class StubbornObject final : public Obj::ProjectObject
+{
+public:
+    static void init()
+    {
+        initSubclass(type, "Test::StubbornObject", "Obj::ProjectObject",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new StubbornObject); });
+    }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    const char* get_viewfeeder_name() const override { return "Test::StubbornNode"; }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+TEST_F(Commands, DeleteLeavesWhatItsNodeDoesNotLetGo)
+{
+    StubbornNode::init();
+    StubbornObject::init();
+    Mat::DocumentMaterial& project = makeProject();
+    Obj::ProjectObject* const kept = project.add_object("Test::StubbornObject", "Kept");
+    select({kept, &addMaterial(project)});
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(project.get_objects(), ElementsAre(kept));
+}
+
+TEST_F(Commands, DeleteOfAMaterialWithAnOpenEditorClosesItAndUndoBringsTheMaterialBackUnchanged)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& material = addMaterial(project);
+    const std::size_t properties = material.getCMaterial()->properties.size();
+    nodeOf(material).on_double_clicked();
+    // The table is emptied, and not applied.
+    QTest::mouseClick(activeEditor()->findChild<QPushButton*>(QStringLiteral("btnClear")), Qt::LeftButton);
+    select({&material});
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    undoStack().undo();
+    ASSERT_THAT(project.get_objects(), ElementsAre(&material));
+    EXPECT_EQ(material.getCMaterial()->properties.size(), properties);
+    EXPECT_TRUE(nodeOf(material).on_double_clicked());
+    EXPECT_NE(activeEditor(), nullptr);
+}
+
+// --- Import and export ---
+
+TEST_F(Commands, ImportAddsAnEmptyMaterialAndReadsNothing)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Gui::FileDialog::answer_next("/nowhere/steel.csv");
+    EXPECT_TRUE(run("Mat_Import"));
+    ASSERT_THAT(project.get_objects(), SizeIs(1));
+    const auto* const object = dynamic_cast<Mat::MaterialObject*>(project.get_objects()[0]);
+    ASSERT_NE(object, nullptr);
+    EXPECT_EQ(object->label.getValue(), "Material");
+    EXPECT_THAT(object->getCMaterial()->properties, IsEmpty());
+    EXPECT_EQ(object->getObjectState(), Obj::eVXObjectState::Initial);
+    undoStack().undo();
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+}
+
+TEST_F(Commands, ImportAddsNothingWhenNoFileIsChosen)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Gui::FileDialog::answer_next({});
+    EXPECT_TRUE(run("Mat_Import"));
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+}
+
+TEST_F(Commands, ImportAddsToTheCurrentProject)
+{
+    makeProject("First");
+    Mat::DocumentMaterial& second = makeProject("Second");
+    Gui::FileDialog::answer_next("steel.csv");
+    EXPECT_TRUE(run("Mat_Import"));
+    EXPECT_THAT(second.get_objects(), SizeIs(1));
+}
+
+/// What a file dialog showed before it was cancelled.
+struct ShownDialog
+{
+    int count = 0;
+    QString caption;
+    QStringList filters;
+    QWidget* parent = nullptr;
+    QFileDialog::AcceptMode mode = QFileDialog::AcceptOpen;
+};
+
+ShownDialog cancelDialogsOf(const std::function<void()>& action)
+{
+    ShownDialog shown;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&shown] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        shown = {shown.count + 1, dialog->windowTitle(), dialog->nameFilters(), dialog->parentWidget(),
+                 dialog->acceptMode()};
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    timer.start(1);
+    action();
+    return shown;
+}
+
+TEST_F(Commands, ImportAsksForAFile)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    const ShownDialog shown = cancelDialogsOf([] { EXPECT_TRUE(run("Mat_Import")); });
+    EXPECT_EQ(shown.count, 1);
+    EXPECT_EQ(shown.caption, "Import file");
+    EXPECT_EQ(shown.filters, QStringList("All (*)"));
+    EXPECT_EQ(shown.parent, window.get());
+    EXPECT_EQ(shown.mode, QFileDialog::AcceptOpen);
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+}
+
+TEST_F(Commands, ExportAsksForAFile)
+{
+    makeProject();
+    const ShownDialog shown = cancelDialogsOf([] { EXPECT_TRUE(run("Mat_Export")); });
+    EXPECT_EQ(shown.count, 1);
+    EXPECT_EQ(shown.caption, "Export materials");
+    EXPECT_EQ(shown.filters, QStringList({"JSON file(*.json)", "All files(*.*)"}));
+    EXPECT_EQ(shown.parent, window.get());
+    EXPECT_EQ(shown.mode, QFileDialog::AcceptSave);
+}
+
+TEST_F(Commands, ExportOpensNoDialogWithoutAMaterialProject)
+{
+    makeAnalysis();
+    const ShownDialog shown = cancelDialogsOf([] { EXPECT_TRUE(run("Mat_Export")); });
+    EXPECT_EQ(shown.count, 0);
+}
+
+TEST_F(Commands, ExportOpensNoDialogWithTwoMaterialProjects)
+{
+    makeProject("First");
+    makeProject("Second");
+    const ShownDialog shown = cancelDialogsOf([] { EXPECT_TRUE(run("Mat_Export")); });
+    EXPECT_EQ(shown.count, 0);
+}
+
+TEST_F(Commands, ExportWritesTheMaterialsUnchecked)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("materials.json"));
+    Mat::DocumentMaterial& project = makeProject();
+    addMaterial(project);
+    project.add_object("Mat::MaterialObject", "Empty");
+    Gui::FileDialog::answer_next(path);
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Export"));
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    Json::Value document;
+    ASSERT_TRUE(Json::Reader().parse(file.readAll().toStdString(), document));
+    EXPECT_EQ(document["proj_type"].asInt(), 2);
+    ASSERT_EQ(document["material"].size(), 2U);
+    EXPECT_EQ(document["material"][0]["mat_name"].asString(), "Material");
+    EXPECT_EQ(document["material"][0]["Props"].size(), 9U);
+    EXPECT_EQ(document["material"][1]["Props"].size(), 0U);
+}
+
+TEST_F(Commands, ExportWritesNothingWhenNoFileIsChosen)
+{
+    makeProject();
+    Gui::FileDialog::answer_next({});
+    EXPECT_TRUE(run("Mat_Export"));
+}
+
+// --- Many materials ---
+
+TEST_F(Commands, DeleteAndUndoWithTenThousandMaterials)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    for (int i = 0; i < 10000; ++i)
+        project.add_object("Mat::MaterialObject", "Material");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(run("Std_SelectAll"));
+    EXPECT_EQ(selection().get_count(), 10000U);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_TRUE(run("Std_Undo"));
+    EXPECT_THAT(project.get_objects(), SizeIs(10000));
+}
+
+} // namespace

@@ -1,0 +1,94 @@
+// Pictures of the material editor to look at: both tabs and a refused value, in one language and one scheme of colours.
+// Usage: editor_screenshots FOLDER LANGUAGE light|dark SUFFIX
+
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
+#include "Gui/Translator.h"
+#include "Obj/Application.h"
+#include "vxMaterial/gui/MaterialView.h"
+#include "vxMaterial/gui/SheetTableView.h"
+#include "vxMaterial/model/MatDBManager.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+#include "vxMaterial/project/Module.h"
+
+#include <QListWidget>
+#include <QPixmap>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QToolBox>
+#include <QtTest/QtTestGui>
+
+namespace {
+
+QPalette darkColours()
+{
+    QPalette colours(QColor(53, 53, 53));
+    colours.setColor(QPalette::Base, QColor(35, 35, 35));
+    colours.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    colours.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    return colours;
+}
+
+struct Shooting
+{
+    QString folder;
+    QString suffix;
+    QWidget& window;
+
+    void take(const char* name) const
+    {
+        QTest::qWait(50); // until the window is laid out and at rest: nothing tells
+        window.grab().save(QStringLiteral("%1/%2-%3.png").arg(folder, QLatin1String(name), suffix));
+    }
+};
+
+void shootAll(const Shooting& shooting, MatGui::MaterialView& view)
+{
+    auto& table = *view.findChild<MatGui::SheetTableView*>();
+    auto& library = *view.findChild<QToolBox*>(QStringLiteral("toolBoxLibrary"));
+    auto& nonlinear = *view.findChild<QListWidget*>(QStringLiteral("lw_lib_nonlinear"));
+    library.setCurrentIndex(1);
+    for (int row = 0; row < nonlinear.count(); ++row) {
+        nonlinear.setCurrentRow(row);
+        Q_EMIT nonlinear.itemDoubleClicked(nonlinear.item(row));
+        if (!table.model()->match(table.model()->index(0, 2), Qt::DisplayRole, ", ", 1, Qt::MatchContains).isEmpty())
+            break; // the example with lists
+    }
+    table.setCurrentIndex(table.model()->index(1, 2));
+    table.setFocus();
+    shooting.take("library");
+
+    view.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(1);
+    view.findChild<QToolBox*>(QStringLiteral("toolBoxBuild"))->setCurrentIndex(3);
+    table.edit(table.model()->index(2, 2));
+    shooting.take("build");
+    table.setEnabled(false);
+    shooting.take("disabled");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 5)
+        return 2;
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    Gui::GuiApplication application(argc, argv);
+    if (qstrcmp(argv[3], "dark") == 0)
+        QApplication::setPalette(darkColours());
+    initMat();
+    initMatGui();
+    Gui::Translator::instance()->setLanguage(QString::fromLocal8Bit(argv[2]));
+    auto* const project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials");
+    auto& object = *static_cast<Mat::MaterialObject*>(project->add_object("Mat::MaterialObject", "Steel"));
+    object.initCMaterial(vxMat::eMaterialType::StructuralSteel);
+    {
+        MatGui::MaterialView view(Gui::GuiApplication::Instance->get_project(project), &object, nullptr);
+        view.resize(960, 600);
+        view.show();
+        shootAll({QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[4]), view}, view);
+    }
+    Obj::Application::instance().close_all_projects();
+    return 0;
+}

@@ -1,0 +1,116 @@
+#include "Gui/Command.h"
+
+#include "Gui/PictureFactory.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Application.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QAction>
+#include <QIcon>
+
+#include <exception>
+
+namespace Gui {
+
+CommandBase::~CommandBase()
+{
+    delete m_action;
+}
+
+QAction* CommandBase::new_action(QObject* parent)
+{
+    m_action = new QAction(parent);
+    if (*get_pixmap() != '\0')
+        m_action->setIcon(PictureFactory::get_pixmap(get_pixmap()));
+    m_action->setShortcut(get_shortcut());
+    on_language_changed();
+    return m_action;
+}
+
+void CommandBase::on_language_changed()
+{
+    if (m_action == nullptr)
+        return;
+    m_action->setText(get_menu_info());
+    m_action->setToolTip(get_tooltip_info());
+    m_action->setStatusTip(get_statustip());
+    m_action->setWhatsThis(translated(whatsThis));
+}
+
+const char* CommandBase::get_class_name() const
+{
+    return "CommandBase";
+}
+
+QString CommandBase::get_menu_info() const
+{
+    return translated(menuText);
+}
+
+QString CommandBase::get_tooltip_info() const
+{
+    return translated(toolTip);
+}
+
+QString CommandBase::get_statustip() const
+{
+    return translated(statusTip);
+}
+
+const char* CommandBase::get_pixmap() const
+{
+    return pixmap;
+}
+
+QKeySequence CommandBase::get_shortcut() const
+{
+    return shortcut;
+}
+
+bool CommandBase::is_applicable()
+{
+    return true;
+}
+
+Command::~Command() = default;
+
+QAction* Command::new_action(QObject* parent)
+{
+    QAction* const action = CommandBase::new_action(parent);
+    action->setObjectName(QString::fromStdString(m_name));
+    QObject::connect(action, &QAction::triggered, action, [this] { invoke(); });
+    return action;
+}
+
+bool Command::invoke(int index)
+{
+    const auto report = [this](const QString& reason) {
+        Kelta::MessageLog::error(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed: %2")
+                                     .arg(get_menu_info().remove(QLatin1Char('&')), reason));
+        return false;
+    };
+    try {
+        if (!is_applicable())
+            return false;
+        const vxMsg::MessageProxy::Group oneStep(get_menu_info().remove(QLatin1Char('&')));
+        activated(index);
+        return true;
+    } catch (const std::exception& exception) {
+        return report(QString::fromUtf8(exception.what()));
+    } catch (...) {
+        return report(QCoreApplication::translate("Gui::Command", "the reason is not known"));
+    }
+}
+
+std::string Command::get_unique_object_name(const char* stem)
+{
+    Obj::Project* const project = Obj::Application::get_current_project();
+    return project != nullptr ? project->get_unique_object_name(stem) : std::string();
+}
+
+QKeySequence Command::get_shortcut_from_keys(QKeySequence::StandardKey key)
+{
+    return QKeySequence(key);
+}
+
+} // namespace Gui

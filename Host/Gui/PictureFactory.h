@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+
+#include <QPixmap>
+
+namespace Gui {
+
+/// Finds the pictures of commands, nodes and windows.
+class GUI_EXPORT PictureFactory
+{
+public:
+    /// The picture at a resource path, or under a bare name that of ":icons/<name>.svg", sharp at `size` by `size`
+    /// pixels. A plain grey square when there is none, so that what shows it keeps its place; reported once.
+    static QPixmap get_pixmap(const QString& nameOrPath, int size = 32);
+    static QPixmap get_pixmap(const char* nameOrPath) { return get_pixmap(QString::fromUtf8(nameOrPath)); }
+};
+
+} // namespace Gui

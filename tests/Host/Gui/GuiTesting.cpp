@@ -1,0 +1,140 @@
+#include "GuiTesting.h"
+
+#include <QMenu>
+
+namespace vxtest {
+
+void TestProject::init()
+{
+    initSubclass(type, "Test::Project", "Obj::Project",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestProject); });
+    data.set_parent(Obj::Project::get_property_data_ref());
+}
+
+TestObject::TestObject()
+{
+    register_property(data, count, "Count", "Values", Obj::PropertyType::None, "How many");
+    register_property(data, fixed, "Fixed", "Info", Obj::PropertyType::ReadOnly, "Cannot be changed");
+    register_property(data, hidden, "Secret", "Info", Obj::PropertyType::Hidden, "Nobody sees it");
+}
+
+void TestObject::init()
+{
+    initSubclass(type, "Test::Object", "Obj::ProjectObject",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestObject); });
+    data.set_parent(Obj::ProjectObject::get_property_data_ref());
+}
+
+TestNode::TestNode() : color(Obj::Color{0.5F, 0.25F, 1.0F, 0.0F})
+{
+    pixmapName = "kelta_paste";
+    register_property(data, color, "Color", "View", Obj::PropertyType::Passive, "How it looks");
+}
+
+void TestNode::init()
+{
+    initSubclass(type, "Test::Node", "Gui::ViewFeederProjectObject",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestNode); });
+    data.set_parent(Gui::ViewFeederProjectObject::get_property_data_ref());
+}
+
+bool TestNode::setEdit(int mode)
+{
+    editModes.push_back(mode);
+    return false;
+}
+
+void TestNode::build_context_menu(const char*, Gui::MenuItem* menu)
+{
+    *menu << "Std_Copy"
+          << "Separator"
+          << "Std_Suppress"
+          << "No_Such";
+}
+
+void TestNode::build_context_menu(QMenu* menu, QObject* receiver, const char* slot)
+{
+    menu->addAction(QStringLiteral("Show it"), receiver, slot)->setData(7);
+}
+
+void TestProjectNode::init()
+{
+    initSubclass(type, "Test::ProjectNode", "Gui::ViewFeederProject",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestProjectNode); });
+}
+
+TestCommand::TestCommand(const char* name, std::function<void()> action, int flags, const QKeySequence& keys)
+    : Command(name), m_action(std::move(action))
+{
+    menuText = "&Do it";
+    toolTip = "Does it";
+    statusTip = "Does it at once";
+    whatsThis = "What it does";
+    shortcut = keys;
+    typeFlags = flags;
+}
+
+TestCommand::~TestCommand() = default;
+
+void TestCommand::activated(int index)
+{
+    lastIndex = index;
+    if (m_action)
+        m_action();
+}
+
+Host::Host()
+{
+    TestProject::init();
+    TestObject::init();
+    TestNode::init();
+    TestProjectNode::init();
+    window = std::make_unique<Gui::MainWindow>();
+    window->set_workbench("Gui::StdSimModule");
+    window->show();
+}
+
+Host::~Host()
+{
+    undoStack().clear();
+    Obj::Application::instance().close_all_projects();
+    selection().clear();
+}
+
+std::string Host::lastMessage()
+{
+    const auto& messages = Kelta::MessageLog::instance().messages();
+    return messages.empty() ? std::string() : messages.back().text.toStdString();
+}
+
+TestProject& Host::makeProject(const char* name)
+{
+    return *static_cast<TestProject*>(Obj::Application::instance().create_project("Test::Project", name));
+}
+
+TestObject& Host::addObject(Obj::Project& project, const char* label)
+{
+    return *static_cast<TestObject*>(project.add_object("Test::Object", label));
+}
+
+TestNode& Host::nodeOf(Obj::ProjectObject& object)
+{
+    return dynamic_cast<TestNode&>(*Gui::GuiApplication::Instance->get_view_feeder(&object));
+}
+
+void Host::focusExplorer() const
+{
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    model().synchronize();
+    explorer().expandAll();
+    explorer().setFocus();
+}
+
+QString Host::shownText(const Obj::ProjectObject& object) const
+{
+    model().synchronize();
+    return model().indexOf(object).data().toString();
+}
+
+} // namespace vxtest

@@ -1,0 +1,150 @@
+#pragma once
+
+#include "MessageBoxes.h"
+
+#include "Gui/Command.h"
+#include "Gui/CommandController.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/GuiProject.h"
+#include "Gui/MDIWindow.h"
+#include "Gui/MainWindow.h"
+#include "Gui/ProjectExplorer.h"
+#include "Gui/PropertyPanel.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Gui/ViewFeeder.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Application.h"
+#include "Obj/PropertyType.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QUndoStack>
+#include <QtTest/QtTestGui>
+#include <QtTest/qtestcase.h>
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vxtest {
+
+/// A project class such as a module brings.
+class TestProject final : public Obj::Project
+{
+public:
+    TestProject() { register_property(data, count, "Count", "Values", Obj::PropertyType::None, "How many"); }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    const char* get_viewfeeder_name() const override { return "Test::ProjectNode"; }
+    static void init();
+
+    Obj::PropertyInteger count{3};
+
+private:
+    static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
+};
+
+/// An object class such as a module brings, with properties of all kinds.
+class TestObject final : public Obj::ProjectObject
+{
+public:
+    TestObject();
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    const char* get_viewfeeder_name() const override { return "Test::Node"; }
+    static void init();
+
+    Obj::PropertyInteger count{3};
+    Obj::PropertyString fixed{"as it is"};
+    Obj::PropertyString hidden{"unseen"};
+    std::string content;
+
+private:
+    static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
+};
+
+/// The node of a test object; it counts what is asked of it.
+class TestNode final : public Gui::ViewFeederProjectObject
+{
+public:
+    TestNode();
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+    bool on_double_clicked() override { return ++opened > 0; }
+    bool setEdit(int mode) override;
+    void updateData(const Obj::Property* changed) override { changes.push_back(changed); }
+    void build_context_menu(const char* recipient, Gui::MenuItem* menu) override;
+    void build_context_menu(QMenu* menu, QObject* receiver, const char* slot) override;
+
+    Obj::PropertyColor color;
+    int opened = 0;
+    std::vector<int> editModes;
+    std::vector<const Obj::Property*> changes;
+
+private:
+    static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
+};
+
+/// The node of a test project.
+class TestProjectNode final : public Gui::ViewFeederProject
+{
+public:
+    TestProjectNode() { pixmapName = "kelta_copy"; }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+/// A command that does what a test wants.
+class TestCommand : public Gui::Command
+{
+public:
+    TestCommand(const char* name, std::function<void()> action, int flags = Gui::CommandType::None,
+                const QKeySequence& keys = {});
+    ~TestCommand() override;
+    const char* get_class_name() const override { return "TestCommand"; }
+    void activated(int index) override;
+    bool is_applicable() override { return applicable; }
+
+    bool applicable = true;
+    int lastIndex = -1;
+
+private:
+    std::function<void()> m_action;
+};
+
+/// A test with a main window and the standard workbench.
+class Host : public testing::Test
+{
+protected:
+    Host();
+    ~Host() override;
+
+    static Gui::CommandController& commands() { return Gui::GuiApplication::Instance->get_command_manager(); }
+    static bool run(const char* command) { return commands().run_command(command); }
+    static bool isApplicable(const char* command) { return commands().find_command(command)->is_applicable(); }
+    static QUndoStack& undoStack() { return vxMsg::MessageProxy::instance().undoStack(); }
+    static Gui::TreeSelectionSingleton& selection() { return Gui::TreeSelectionSingleton::instance(); }
+    static void select(const std::vector<Obj::ProjectObject*>& objects) { selection().set_selection({}, objects); }
+    static std::string lastMessage();
+
+    static TestProject& makeProject(const char* name = "Project");
+    static TestObject& addObject(Obj::Project& project, const char* label = "Object");
+    static TestNode& nodeOf(Obj::ProjectObject& object);
+
+    Gui::ProjectExplorer& explorer() const { return window->get_project_explorer(); }
+    Gui::ProjectTreeModel& model() const { return explorer().treeModel(); }
+    /// Gives the explorer the keyboard, and shows all that there is.
+    void focusExplorer() const;
+    /// The text of a row, up to date.
+    QString shownText(const Obj::ProjectObject& object) const;
+
+    std::unique_ptr<Gui::MainWindow> window;
+};
+
+} // namespace vxtest

@@ -1,0 +1,50 @@
+#include "Gui/MDIWindow.h"
+
+#include "GuiTesting.h"
+
+namespace {
+
+using MDIWindowTest = vxtest::Host;
+
+TEST_F(MDIWindowTest, IsAWindowAndAView)
+{
+    Gui::MDIWindow document(nullptr, nullptr);
+    EXPECT_STREQ(document.getName(), "MDIWindow");
+    EXPECT_STREQ(document.getTypeId().get_name(), "Gui::MDIWindow");
+    EXPECT_TRUE(document.is_inherited_from(Gui::BaseView::getClassTypeId()));
+    EXPECT_EQ(document.get_gui_project(), nullptr);
+}
+
+TEST_F(MDIWindowTest, ShowsNothingByItself)
+{
+    Gui::MDIWindow document(nullptr, nullptr);
+    const char* answer = nullptr;
+    EXPECT_FALSE(document.has_message_handler("Undo"));
+    EXPECT_FALSE(document.message_handler("Undo", &answer));
+    EXPECT_FALSE(document.currentIndex().isValid());
+    EXPECT_TRUE(document.selectedIndexes().isEmpty());
+    document.viewAll();
+    document.resizeColumn(0, 10);
+    document.resizeRow(0, 10);
+    document.updateCell(nullptr);
+}
+
+TEST_F(MDIWindowTest, RemovesItself)
+{
+    const QPointer<Gui::MDIWindow> document = new Gui::MDIWindow(nullptr, window.get());
+    window->add_mdi_window(document);
+    document->remove_viewself();
+    EXPECT_EQ(document, nullptr);
+}
+
+TEST_F(MDIWindowTest, KnowsItsProjectWhileThatIsOpen)
+{
+    vxtest::TestProject& project = makeProject();
+    Gui::GuiProject* const side = Gui::GuiApplication::Instance->get_project(&project);
+    Gui::MDIWindow document(side, nullptr);
+    EXPECT_EQ(document.get_gui_project(), side);
+    Obj::Application::instance().close_project(project);
+    EXPECT_EQ(document.get_gui_project(), nullptr);
+}
+
+} // namespace

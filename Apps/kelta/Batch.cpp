@@ -1,0 +1,217 @@
+#include "kelta/Batch.h"
+
+#include "Gui/FileDialog.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Application.h"
+
+#include <QFile>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTextStream>
+#include <QTimer>
+
+#include <exception>
+#include <utility>
+
+namespace kelta {
+
+namespace {
+
+QTextStream& standardError()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("kelta::Batch", text);
+}
+
+/// Answers message boxes while it lives, since nobody else would.
+class BoxAnswers : public QObject
+{
+public:
+    BoxAnswers()
+    {
+        connect(&m_timer, &QTimer::timeout, this, &BoxAnswers::answer);
+        m_timer.start(0);
+    }
+
+    /// The text of the first box that told of a failure.
+    const QString& failure() const { return m_failure; }
+
+private:
+    void answer()
+    {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr)
+            return;
+        const QString text = box->windowTitle() + QStringLiteral(": ") + box->text();
+        standardError() << text << '\n';
+        standardError().flush();
+        const bool isFailure = box->icon() == QMessageBox::Critical || box->icon() == QMessageBox::Warning;
+        if (isFailure && m_failure.isEmpty())
+            m_failure = text;
+        for (const auto button : {QMessageBox::Yes, QMessageBox::Ok})
+            if (QAbstractButton* const found = box->button(button))
+                return found->click();
+        box->reject();
+    }
+
+    QTimer m_timer;
+    QString m_failure;
+};
+
+std::optional<QString> selectLabels(const QStringList& labels)
+{
+    std::vector<Obj::ProjectObject*> objects;
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    for (const QString& label : labels) {
+        const std::size_t before = objects.size();
+        if (project != nullptr)
+            for (Obj::ProjectObject* const object : project->get_objects())
+                if (object->label.getValue() == label.toStdString())
+                    objects.push_back(object);
+        if (objects.size() == before)
+            return tr("nothing in the current project is labelled \"%1\"").arg(label);
+    }
+    Gui::TreeSelectionSingleton::instance().set_selection({}, objects);
+    return std::nullopt;
+}
+
+std::optional<QString> selectProject(const QStringList& arguments)
+{
+    Obj::Project* const project = arguments.size() == 1
+                                      ? Obj::Application::instance().get_project(arguments[0].toStdString())
+                                      : Obj::Application::get_current_project();
+    if (project == nullptr)
+        return tr("there is no such project");
+    Gui::TreeSelectionSingleton::instance().set_selection({project}, {});
+    return std::nullopt;
+}
+
+std::optional<QString> labelSelected(const QStringList& arguments)
+{
+    const auto objects =
+        Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    if (arguments.size() != 1 || objects.size() != 1)
+        return tr("one label, and one selected object, are needed");
+    objects.front()->label.setValue(arguments[0].toStdString());
+    return std::nullopt;
+}
+
+std::optional<QString> takeScreenshot(const QStringList& arguments)
+{
+    Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
+    if (arguments.size() != 1 || window == nullptr)
+        return tr("one file name is needed");
+    QCoreApplication::processEvents();
+    window->update_commands();
+    QCoreApplication::processEvents();
+    if (!window->grab().save(arguments[0], "PNG"))
+        return tr("%1 cannot be written").arg(arguments[0]);
+    return std::nullopt;
+}
+
+std::optional<QString> saveDatabase(const QStringList& arguments)
+{
+    if (!arguments.isEmpty())
+        return tr("no argument is taken");
+    QTextStream(stdout) << QString::fromStdString(Obj::Application::instance().save_jsonDB().toStyledString());
+    return std::nullopt;
+}
+
+std::map<QString, Batch::Verb>& verbs()
+{
+    static std::map<QString, Batch::Verb> registered = {
+        {QStringLiteral("select"), selectLabels},   {QStringLiteral("select-project"), selectProject},
+        {QStringLiteral("label"), labelSelected},   {QStringLiteral("screenshot"), takeScreenshot},
+        {QStringLiteral("database"), saveDatabase},
+    };
+    return registered;
+}
+
+std::optional<QString> guarded(const std::function<std::optional<QString>()>& run)
+{
+    try {
+        return run();
+    } catch (const std::exception& exception) {
+        return QString::fromUtf8(exception.what());
+    }
+}
+
+} // namespace
+
+void Batch::register_verb(const QString& name, Verb verb)
+{
+    verbs()[name] = std::move(verb);
+}
+
+int Batch::run(const QString& text, const QString& fileName)
+{
+    int number = 0;
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        ++number;
+        if (const auto failure = guarded([&line] { return runLine(line); })) {
+            standardError() << fileName << ':' << number << ": " << *failure << '\n';
+            standardError().flush();
+            return 1;
+        }
+    }
+    return 0;
+}
+
+int Batch::run_file(const QString& path)
+{
+    QFile file(path);
+    const bool opened = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                   : file.open(QIODevice::ReadOnly | QIODevice::Text);
+    const QByteArray text = opened ? file.readAll() : QByteArray();
+    if (!opened || file.error() != QFileDevice::NoError) {
+        standardError() << path << ": " << file.errorString() << '\n';
+        standardError().flush();
+        return 2;
+    }
+    return run(QString::fromUtf8(text), path);
+}
+
+std::optional<QString> Batch::runLine(const QString& line)
+{
+    QStringList words = QProcess::splitCommand(line);
+    if (words.isEmpty() || line.trimmed().startsWith(QLatin1Char('#')))
+        return std::nullopt;
+    const QString name = words.takeFirst();
+    const BoxAnswers boxes;
+    const std::size_t errorsBefore = Kelta::MessageLog::instance().errorCount();
+    const auto verb = verbs().find(name);
+    std::optional<QString> failure = verb != verbs().end() ? verb->second(words) : runCommand(name, words);
+    QCoreApplication::processEvents();
+    // Windows that were closed go only now: no event loop runs.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (!failure && !boxes.failure().isEmpty())
+        failure = boxes.failure();
+    if (!failure && Kelta::MessageLog::instance().errorCount() != errorsBefore)
+        failure = Kelta::MessageLog::instance().messages().back().text;
+    return failure;
+}
+
+std::optional<QString> Batch::runCommand(const QString& name, const QStringList& arguments)
+{
+    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().find_command(name.toStdString());
+    if (command == nullptr)
+        return tr("there is no command \"%1\"").arg(name);
+    if (arguments.size() > 1)
+        return tr("%1 takes at most one argument, the file that it asks for").arg(name);
+    if (!command->is_applicable())
+        return tr("%1 cannot be done now").arg(name);
+    // Without an argument a command that asks for a file gets the answer that none was chosen.
+    Gui::FileDialog::answer_next(arguments.value(0));
+    return command->invoke() ? std::nullopt : std::optional(tr("%1 failed").arg(name));
+}
+
+} // namespace kelta

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "kelta/KeltaBatchExport.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <optional>
+
+namespace kelta {
+
+/// Runs lists of commands in the application, one a line, as a user would give them one after the other.
+///
+/// A line is the name of a command or verb and its arguments, separated by blanks; an argument with blanks stands in
+/// double quotes. Empty lines and lines that begin with "#" are passed over. Verbs are what has no command of its own;
+/// `kelta --help` and docs/kelta.md list them.
+///
+/// Message boxes that come up are answered with OK, or Yes, and written to standard error. A command fails when it does
+/// not exist, cannot be applied now, reports an error to the message log or shows a critical box or a warning.
+class KELTA_BATCH_EXPORT Batch
+{
+public:
+    /// Answers what went wrong, absent when nothing did.
+    using Verb = std::function<std::optional<QString>(const QStringList& arguments)>;
+
+    /// Adds a verb; one of the same name is replaced.
+    static void register_verb(const QString& name, Verb verb);
+
+    /// Runs the commands of a text that was read from `fileName`. Stops at the first line that fails and writes
+    /// "FILE:LINE: what is wrong" to standard error. Answers the exit status: 0 when all ran, 1 otherwise.
+    static int run(const QString& text, const QString& fileName);
+    /// Likewise for a file, or standard input for "-"; 2 when it cannot be read.
+    static int run_file(const QString& path);
+
+private:
+    static std::optional<QString> runLine(const QString& line);
+    static std::optional<QString> runCommand(const QString& name, const QStringList& arguments);
+};
+
+} // namespace kelta

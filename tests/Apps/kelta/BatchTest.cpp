@@ -1,0 +1,183 @@
+#include "KeltaTesting.h"
+
+#include <QDir>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+using vxtest::Outcome;
+
+using Batch = vxtest::Kelta;
+
+std::string errorsOf(const Outcome& outcome)
+{
+    return outcome.errors.toStdString();
+}
+
+TEST_F(Batch, DoesNothingWithAnEmptyList)
+{
+    const Outcome outcome = runBatch("\n   \n# a comment\n  # another\n");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(errorsOf(outcome), "");
+    EXPECT_EQ(outcome.output, "");
+}
+
+TEST_F(Batch, MakesAMaterialAndExportsIt)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\r\nMat_AddMaterial\r\nMat_Export \"a b.json\"\r\n");
+    ASSERT_EQ(outcome.status, 0) << errorsOf(outcome);
+    const QJsonObject document = QJsonDocument::fromJson(vxtest::readFile(path("a b.json"))).object();
+    EXPECT_EQ(document["proj_type"].toInt(), 2);
+    EXPECT_EQ(document["material"].toArray().size(), 1);
+}
+
+TEST_F(Batch, NamesFileAndLineOfAnUnknownCommand)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\n\nMat_Nowhere\nMat_AddMaterial\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(errorsOf(outcome), "list.batch:3: there is no command \"Mat_Nowhere\"\n");
+}
+
+TEST_F(Batch, SaysThatACommandCannotBeDoneNow)
+{
+    EXPECT_THAT(errorsOf(runBatch("Mat_AddMaterial\n")),
+                EndsWith("list.batch:1: Mat_AddMaterial cannot be done now\n"));
+    EXPECT_THAT(errorsOf(runBatch("Std_Undo\n")), EndsWith("list.batch:1: Std_Undo cannot be done now\n"));
+}
+
+TEST_F(Batch, CannotReadAFileThatIsNotThere)
+{
+    const Outcome outcome = run({"--batch", "missing.batch"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(errorsOf(outcome), StartsWith("missing.batch: "));
+}
+
+TEST_F(Batch, CannotReadAFolder)
+{
+    EXPECT_EQ(run({"--batch", "."}).status, 2);
+}
+
+TEST_F(Batch, ReadsStandardInput)
+{
+    // Which is closed.
+    EXPECT_EQ(run({"--batch", "-"}).status, 0);
+}
+
+TEST_F(Batch, AnswersBoxesAndFailsWhenTheyWarn)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_NewDoc\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(errorsOf(outcome),
+              "Material project: Material project is already presented in Project Explorer window.\n"
+              "list.batch:2: Material project: Material project is already presented in Project Explorer window.\n");
+}
+
+TEST_F(Batch, FailsWhenTheMaterialsAreNotReady)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nclear\ncheck\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(errorsOf(outcome), HasSubstr("No property is defined in 'Material'."));
+    EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:5: "));
+}
+
+TEST_F(Batch, RefusesWrongArguments)
+{
+    for (const auto& [line, reason] :
+         {std::pair("select Nobody", "nothing in the current project is labelled"),
+          std::pair("label", "one label, and one selected object, are needed"),
+          std::pair("label A B", "one label, and one selected object, are needed"),
+          std::pair("select-project Nowhere", "there is no such project"),
+          std::pair("use Unobtainium", "the library has no material \"Unobtainium\""),
+          std::pair("set Colour 7", "the catalogue has no quantity \"Colour\""),
+          std::pair("set Density", "a quantity and its value"),
+          std::pair("Mat_Export a b", "takes at most one argument"), std::pair("screenshot", "one file name is needed"),
+          std::pair("screenshot no/such/folder.png", "cannot be written"),
+          std::pair("database all", "no argument is taken")})
+    {
+        SCOPED_TRACE(line);
+        const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\nMat_AddMaterial\nselect Material\n") + line + "\n");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:4: "));
+        EXPECT_THAT(errorsOf(outcome), HasSubstr(reason));
+    }
+}
+
+TEST_F(Batch, RefusesAValueThatIsNone)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nset Density heavy\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:4: "));
+}
+
+TEST_F(Batch, CopiesAndPastesWordsAndLists)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nuse \"Plastic Example 1\"\n"
+                                     "Std_Copy\nStd_Paste\nlabel Copy\ncards\n");
+    ASSERT_EQ(outcome.status, 0) << errorsOf(outcome);
+    // The cards of the copy are those of the original.
+    const int copy = outcome.output.indexOf("\nCopy\n");
+    ASSERT_GT(copy, 0);
+    const QString original = outcome.output.mid(QString("Material\n").size(), copy + 1 - QString("Material\n").size());
+    EXPECT_EQ(original.trimmed(), outcome.output.mid(copy + QString("\nCopy\n").size()).trimmed());
+    EXPECT_THAT(original.toStdString(), HasSubstr(","));
+}
+
+TEST_F(Batch, OpensEditorsAgainAfterTheyWereClosed)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nMat_Edit\nStd_CloseWindow\n"
+                                     "Mat_Edit\nStd_CloseWindow\n");
+    EXPECT_EQ(outcome.status, 0) << errorsOf(outcome);
+}
+
+TEST_F(Batch, DeletesAndUndoes)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nMat_AddMaterial\nStd_SelectAll\nMat_Edit\n"
+                                     "Mat_Delete\nStd_Undo\nselect Material\nselect Material1\nselect-project\n"
+                                     "Mat_DelDoc\nStd_Undo\nselect Material\ndatabase\n");
+    ASSERT_EQ(outcome.status, 0) << errorsOf(outcome);
+    const QJsonObject database = QJsonDocument::fromJson(outcome.output.toUtf8()).object();
+    EXPECT_EQ(database["projects"].toArray().size(), 1);
+}
+
+TEST_F(Batch, DoesTheTour)
+{
+    QDir(path(".")).mkdir("out");
+    const Outcome outcome = run({"--batch", KELTA_TOUR});
+    ASSERT_EQ(outcome.status, 0) << errorsOf(outcome);
+    const QJsonObject document = QJsonDocument::fromJson(vxtest::readFile(path("out/tour.json"))).object();
+    EXPECT_EQ(document["material"].toArray().size(), 2);
+    EXPECT_EQ(document["material"].toArray()[0].toObject()["mat_name"].toString(), "Frame");
+    const QImage picture(path("out/tour.png"));
+    EXPECT_GE(picture.width(), 800);
+    EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Resin"));
+}
+
+TEST_F(Batch, TellsHowItIsUsed)
+{
+    EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_THAT(run({"--version"}).output.toStdString(), StartsWith("kelta "));
+    EXPECT_EQ(run({"--no-such-option"}).status, 2);
+    EXPECT_EQ(run({"--batch"}).status, 2);
+}
+
+TEST_F(Batch, SpeaksTheLanguageItIsAskedTo)
+{
+    vxtest::writeFile(path("list.batch"), "Mat_Nowhere\n");
+    const Outcome outcome = run({"--language", "de", "--batch", "list.batch"});
+    EXPECT_EQ(errorsOf(outcome), "list.batch:1: es gibt keinen Befehl „Mat_Nowhere“\n");
+}
+
+TEST_F(Batch, SavesAScreenshot)
+{
+    EXPECT_EQ(run({"--screenshot", "window.png"}).status, 0);
+    EXPECT_EQ(QImage(path("window.png")).size(), QSize(1180, 760));
+    EXPECT_EQ(run({"--screenshot", "no/such/window.png"}).status, 2);
+}
+
+} // namespace

@@ -1,0 +1,208 @@
+#include "KeltaTesting.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+#include <QtEndian>
+
+#include <functional>
+#include <thread>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr int patience = 60000;
+
+/// Asks again and again, until the answer is yes or patience ends.
+bool waitUntil(const std::function<bool()>& condition)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < patience) {
+        if (condition())
+            return true;
+        std::this_thread::yield();
+    }
+    return false;
+}
+
+/// A display of its own, with a picture that can be looked at.
+class Display
+{
+public:
+    explicit Display(const QString& folder) : m_folder(folder)
+    {
+        m_server.start(QStringLiteral("Xvfb"),
+                       {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-fbdir", folder});
+        QByteArray number;
+        while (!number.contains('\n') && m_server.waitForReadyRead(patience))
+            number += m_server.readAllStandardOutput();
+        m_name = QStringLiteral(":%1").arg(QString::fromLatin1(number.trimmed()));
+    }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+    ~Display()
+    {
+        m_server.terminate();
+        m_server.waitForFinished();
+    }
+
+    const QString& name() const { return m_name; }
+
+    /// Sends events as a keyboard and a mouse do; answers what is printed.
+    QString ask(const QStringList& arguments) const
+    {
+        QProcess tool;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DISPLAY"), m_name);
+        tool.setProcessEnvironment(environment);
+        tool.start(QStringLiteral("xdotool"), arguments);
+        tool.waitForFinished(patience);
+        return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
+    }
+
+    /// The windows of this title that can be seen.
+    QStringList windows(const QString& title) const
+    {
+        return ask({"search", "--onlyvisible", "--name", title}).split('\n', Qt::SkipEmptyParts);
+    }
+
+    /// Waits for a window and gives it the keyboard, as a window manager would.
+    bool focus(const QString& title) const
+    {
+        if (!waitUntil([&] { return !windows(title).isEmpty(); }))
+            return false;
+        const QString window = windows(title).last();
+        ask({"windowfocus", "--sync", window});
+        return waitUntil([&] { return ask({"getwindowfocus"}) == window; });
+    }
+
+    /// What the screen shows. The server keeps it as a file: a header of 32-bit numbers, colours, pixels.
+    QImage picture() const
+    {
+        const QByteArray data = vxtest::readFile(m_folder + QStringLiteral("/Xvfb_screen0"));
+        const auto number = [&data](int index) { return qFromBigEndian<quint32>(data.constData() + 4 * index); };
+        const auto begin = static_cast<int>(number(0) + number(19) * 12);
+        return QImage(reinterpret_cast<const uchar*>(data.constData()) + begin, static_cast<int>(number(4)),
+                      static_cast<int>(number(5)), static_cast<int>(number(12)), QImage::Format_RGB32)
+            .copy();
+    }
+
+private:
+    QString m_folder;
+    QProcess m_server;
+    QString m_name;
+};
+
+class EndToEnd : public testing::Test
+{
+protected:
+    EndToEnd() : display(screen.path()) {}
+
+    void install() const
+    {
+        QProcess cmake;
+        cmake.start(QStringLiteral(CMAKE_PROGRAM),
+                    {"--install", BUILD_FOLDER, "--prefix", installed.path(), "--config", BUILD_CONFIG});
+        ASSERT_TRUE(cmake.waitForFinished(patience));
+        ASSERT_EQ(cmake.exitCode(), 0) << cmake.readAllStandardError().toStdString();
+    }
+
+    void start()
+    {
+        QProcessEnvironment environment = vxtest::cleanEnvironment(home.path());
+        environment.insert(QStringLiteral("DISPLAY"), display.name());
+        kelta.setProcessEnvironment(environment);
+        kelta.setWorkingDirectory(home.path());
+        kelta.start(installed.filePath(QStringLiteral("bin/kelta")), QStringList());
+        ASSERT_TRUE(kelta.waitForStarted()) << kelta.errorString().toStdString();
+        ASSERT_TRUE(display.focus("^kelta$"));
+    }
+
+    void key(const char* keys) const { display.ask({"key", "--clearmodifiers", keys}); }
+
+    bool hasMenu() const { return display.ask({"search", "--onlyvisible", "--class", "kelta"}).split('\n').size() > 1; }
+
+    /// Opens a menu by its key and chooses the first entry.
+    void chooseFirst(const char* keys) const
+    {
+        key(keys);
+        ASSERT_TRUE(waitUntil([this] { return hasMenu(); })) << keys;
+        key("Return");
+    }
+
+    bool hasTitle(const QString& title) const { return !display.windows(title).isEmpty(); }
+
+    /// Double-clicks in the project explorer, row by row, until the editor is there.
+    bool doubleClickMaterial() const
+    {
+        int y = 60;
+        return waitUntil([this, &y] {
+            y = y > 300 ? 60 : y + 8;
+            display.ask({"mousemove", "80", QString::number(y), "click", "--repeat", "2", "--delay", "60", "1"});
+            return hasTitle("^Material - Materials - kelta$");
+        });
+    }
+
+    QTemporaryDir installed;
+    QTemporaryDir home;
+    QTemporaryDir screen;
+    Display display;
+    QProcess kelta;
+};
+
+/// How many colours a picture has.
+int countColours(const QImage& picture)
+{
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); y += 2)
+        for (int x = 0; x < picture.width(); x += 2)
+            colours.insert(picture.pixel(x, y));
+    return colours.size();
+}
+
+TEST_F(EndToEnd, AUserMakesAMaterialOpensItAndExportsIt)
+{
+    install();
+    start();
+    chooseFirst("alt+f");
+    ASSERT_TRUE(waitUntil([this] { return hasTitle("^Materials - kelta"); }));
+    ASSERT_TRUE(waitUntil([this] { return !hasMenu(); }));
+
+    chooseFirst("alt+p");
+    ASSERT_TRUE(waitUntil([this] { return !hasMenu(); }));
+    ASSERT_TRUE(doubleClickMaterial());
+    EXPECT_GT(countColours(display.picture()), 50);
+
+    chooseFirst("alt+m");
+    ASSERT_TRUE(display.focus("^Export materials$"));
+    const QString file = home.filePath(QStringLiteral("materials.json"));
+    display.ask({"type", "--delay", "5", file});
+    key("Return");
+    ASSERT_TRUE(waitUntil([&file] { return QFile::exists(file) && QFile(file).size() > 0; }));
+    ASSERT_TRUE(waitUntil([this] { return !hasTitle("^Export materials$"); }));
+    const QJsonObject document = QJsonDocument::fromJson(vxtest::readFile(file)).object();
+    EXPECT_EQ(document["proj_type"].toInt(), 2);
+    const QJsonArray materials = document["material"].toArray();
+    ASSERT_EQ(materials.size(), 1);
+    EXPECT_EQ(materials[0].toObject()["mat_name"].toString(), "Material");
+    EXPECT_EQ(materials[0].toObject()["Props"].toArray().size(), 9);
+
+    ASSERT_TRUE(display.focus("^Material - Materials - kelta$"));
+    key("ctrl+q");
+    ASSERT_TRUE(display.focus("^Close the program$"));
+    // From Cancel, which has the keyboard, to Close.
+    key("Tab");
+    key("space");
+    EXPECT_TRUE(kelta.waitForFinished(patience));
+    EXPECT_EQ(kelta.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(kelta.exitCode(), 0);
+}
+
+} // namespace

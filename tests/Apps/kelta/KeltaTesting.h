@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace vxtest {
+
+/// What a program printed, and how it ended.
+struct Outcome
+{
+    int status = -1;
+    QString output;
+    QString errors;
+};
+
+/// The environment of a program that runs as on a machine without a display: settings of its own, English texts.
+QProcessEnvironment cleanEnvironment(const QString& home);
+
+/// Runs the application without a display, from `folder`.
+Outcome runKelta(const QString& program, const QStringList& arguments, const QString& folder,
+                 const QProcessEnvironment& environment);
+
+/// Writes a text to a file.
+void writeFile(const QString& path, const QByteArray& text);
+QByteArray readFile(const QString& path);
+
+/// A test of the application in the build tree, with a folder of its own.
+class Kelta : public testing::Test
+{
+protected:
+    Outcome run(const QStringList& arguments) const;
+    /// Runs a list of commands, which is called list.batch.
+    Outcome runBatch(const QByteArray& commands) const;
+    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace vxtest

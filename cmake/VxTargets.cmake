@@ -111,8 +111,7 @@ function(vx_add_test name)
     target_link_libraries(${name} PRIVATE ${arg_LINKS} vx_test_support ${main} vx_options)
     target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
-    set(environment "LOCPATH=${VX_TEST_LOCALES}" "QT_QPA_PLATFORM=offscreen"
-        "XDG_CONFIG_HOME=${CMAKE_CURRENT_BINARY_DIR}/config")
+    set(environment "LOCPATH=${VX_TEST_LOCALES}" "QT_QPA_PLATFORM=offscreen")
     set_property(TARGET ${name} PROPERTY CROSSCOMPILING_EMULATOR
                  ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")

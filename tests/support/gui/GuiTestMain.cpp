@@ -3,7 +3,9 @@
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
 
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 #ifdef __SANITIZE_ADDRESS__
@@ -32,6 +34,9 @@ int main(int argc, char** argv)
     QStandardPaths::setTestModeEnabled(true);
     const std::unique_ptr<Gui::GuiApplication> application = makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("vxMaterial-tests"));
+    // Tests run side by side, each in a process of its own: none must read what another has written.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
     const int failed = RUN_ALL_TESTS();
     vxMsg::MessageProxy::instance().undoStack().clear();

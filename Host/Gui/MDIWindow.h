@@ -5,6 +5,10 @@
 
 #include <QMainWindow>
 
+namespace Obj {
+class ProjectObject;
+} // namespace Obj
+
 namespace Gui {
 
 /// A document window of the main window.
@@ -24,8 +28,14 @@ public:
     /// Takes the window out of the main window and destroys it.
     void remove_viewself() override;
 
+    /// The object that the user edits in the window, which outlives it; null when there is no such object. The window
+    /// says so itself.
+    Obj::ProjectObject* get_edited_object() const { return m_editedObject; }
+    void set_edited_object(Obj::ProjectObject* object) { m_editedObject = object; }
+
 private:
     static Kelta::TypeInfo classTypeId;
+    Obj::ProjectObject* m_editedObject = nullptr;
 };
 
 } // namespace Gui

@@ -88,6 +88,7 @@ void MainWindow::add_mdi_window(MDIWindow* window)
         frame->show();
     // A frame may be destroyed when no more of this window is left than its children.
     connect(frame, &QObject::destroyed, &m_update, [this] { m_update.start(0); });
+    Q_EMIT mdi_window_added(window);
     update_commands();
 }
 

@@ -74,6 +74,8 @@ public:
 Q_SIGNALS:
     /// update_commands has run: projects, selection or documents are not what they were.
     void updated();
+    /// The window has come among the document windows.
+    void mdi_window_added(Gui::MDIWindow* window);
     /// The user closes the program; a slot that sets `refused` keeps it open.
     void closing(bool& refused);
 

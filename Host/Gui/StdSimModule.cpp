@@ -68,7 +68,9 @@ void StdSimModule::deactivated() {}
 MenuItem* StdSimModule::build_menu_bar() const
 {
     return makeTree<MenuItem>({
-                                  {"&File", {"Mat_NewDoc", "Mat_DelDoc", "Separator", "Std_Quit"}},
+                                  {"&File",
+                                   {"Mat_NewDoc", "Std_Open", "Std_OpenRecent", "Separator", "Std_Save", "Std_SaveAs",
+                                    "Separator", "Std_ImportDocument", "Separator", "Mat_DelDoc", "Std_Quit"}},
                                   {"&Edit",
                                    {"Std_Undo", "Std_Redo", "Separator", "Std_Copy", "Std_Paste",
                                     "Std_DuplicateSelection", "Mat_Delete", "Separator", "Std_SelectAll", "Std_Rename",
@@ -86,7 +88,7 @@ MenuItem* StdSimModule::build_menu_bar() const
 ToolBarGadget* StdSimModule::build_toolbars() const
 {
     return makeTree<ToolBarGadget>({
-                                       {"File", {"Mat_NewDoc", "Mat_AddMaterial"}},
+                                       {"File", {"Mat_NewDoc", "Std_Open", "Std_Save", "Mat_AddMaterial"}},
                                        {"Edit", {"Std_Undo", "Std_Redo", "Separator", "Std_Copy", "Std_Paste"}},
                                    })
         .release();

@@ -1,5 +1,7 @@
 #include "Gui/ViewFeeder.h"
 
+#include "Obj/ProjectObject.h"
+
 #include <new>
 
 namespace Gui {
@@ -142,6 +144,13 @@ void ViewFeederProjectObject::init()
 {
     initSubclass(classTypeId, "Gui::ViewFeederProjectObject", "Gui::ViewFeeder", &ViewFeederProjectObject::create);
     propertyData.set_parent(ViewFeeder::get_property_data_ref());
+}
+
+void ViewFeederProjectObject::on_changed(const Obj::Property* property)
+{
+    ViewFeeder::on_changed(property);
+    if (m_object != nullptr)
+        m_object->notifyChange();
 }
 
 const Obj::PropertyCoreData& ViewFeederProjectObject::get_property_data() const

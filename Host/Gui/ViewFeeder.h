@@ -106,6 +106,8 @@ public:
     Obj::ProjectObject* getObject() const { return m_object; }
 
 protected:
+    /// Tells those who observe the project that the object is shown in another way.
+    void on_changed(const Obj::Property* property) override;
     const Obj::PropertyCoreData& get_property_data() const override;
     static const Obj::PropertyCoreData* get_property_data_ref();
 

@@ -133,6 +133,10 @@ bool MessageProxy::closeProject(const std::string& name)
     Obj::Project* const project = mayAct() ? findProject(name) : nullptr;
     if (project == nullptr)
         return false;
+    bool refused = false;
+    projectClosing(*project, refused);
+    if (refused)
+        return false;
     const Group group(tr("Close project \"%1\"").arg(shown(name)));
     const OwnDoing doing(project);
     pushDone(std::make_unique<ProjectCommand>(tr("Close project \"%1\"").arg(shown(name)),
@@ -168,6 +172,27 @@ bool MessageProxy::deleteObject(const std::string& projectName, const std::strin
     const OwnDoing doing(object);
     pushDone(std::make_unique<ObjectCommand>(text, *project, project->take_object(object->getObjectId())));
     return true;
+}
+
+Obj::Project* MessageProxy::openProject(const std::string& name, const std::function<void(Obj::Project&)>& fill)
+{
+    if (!mayAct())
+        return nullptr;
+    Obj::Application& application = Obj::Application::instance();
+    const OwnDoing doing(&application);
+    Obj::Project* const project = application.create_project(materialProjectClass, name);
+    if (project == nullptr)
+        return nullptr;
+    try {
+        fill(*project);
+    } catch (...) {
+        const OwnDoing closing(project);
+        m_watches.erase(project->getProjectId());
+        application.close_project(*project);
+        throw;
+    }
+    endHistory();
+    return project;
 }
 
 MessageProxy::Group::Group(QString text)

@@ -9,6 +9,7 @@
 #include <boost/signals2/connection.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -72,6 +73,11 @@ public:
     bool addMaterial(const std::string& projectName, const std::string& objectName);
     bool deleteObject(const std::string& projectName, const std::string& objectName);
 
+    /// Opens a material project that `fill` gives its content, as from a file: that cannot be undone, and a new history
+    /// begins. Null, with the reason in the message log, when there can be none. What `fill` throws passes through; the
+    /// project is then not there, and the history is as it was.
+    Obj::Project* openProject(const std::string& name, const std::function<void(Obj::Project&)>& fill);
+
     QUndoStack& undoStack() { return m_undoStack; }
 
     /// What is requested while a group lives is undone in one step, named by `text`, or as the first step in it when that
@@ -92,6 +98,8 @@ public:
     /// A request has made an object, which stands in its project: the application may give it content. Not sent when
     /// undo or redo bring an object back.
     Obj::Signal<void(Obj::ProjectObject&)> objectCreated;
+    /// A project is to be closed on request; who sets `refused` keeps it open.
+    Obj::Signal<void(Obj::Project&, bool& refused)> projectClosing;
 
 private:
     MessageProxy();

@@ -66,8 +66,8 @@ QListWidget* listAt(std::initializer_list<QListWidget*> lists, int index)
     return inside ? lists.begin()[index] : nullptr;
 }
 
-/// Lets the keyboard reach the pages of a tool box, whose buttons Qt leaves to the mouse, and not the frames around them. Each button comes before its
-/// page. Answers the last widget of the order that `before` begins.
+/// Lets the keyboard reach the pages of a tool box, whose buttons Qt leaves to the mouse, and not the frames around
+/// them. Each button comes before its page. Answers the last widget of the order that `before` begins.
 QWidget* makeReachable(const QToolBox& box, QWidget* before)
 {
     const QList<QAbstractButton*> buttons = box.findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
@@ -98,6 +98,7 @@ MaterialView::MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object,
     m_ui->tableView->loadMaterialObject();
     // Last, so that what was checked above adds no rows.
     connectSignals();
+    set_edited_object(object);
 }
 
 MaterialView::~MaterialView()

@@ -1,5 +1,7 @@
 #include "JsonScanner.h"
 
+#include "vxMaterial/exchange/JsonText.h"
+
 #include <algorithm>
 
 namespace vxCAE::detail {
@@ -147,11 +149,15 @@ bool isJsonNumber(std::string_view token)
     return token.empty();
 }
 
+} // namespace vxCAE::detail
+
+namespace vxCAE {
+
 std::size_t lengthOfUtf8(std::string_view text)
 {
     std::size_t length = 0;
     while (length < text.size()) {
-        const std::size_t character = lengthOfCharacter(text.substr(length));
+        const std::size_t character = detail::lengthOfCharacter(text.substr(length));
         if (character == 0)
             break;
         length += character;
@@ -159,4 +165,4 @@ std::size_t lengthOfUtf8(std::string_view text)
     return length;
 }
 
-} // namespace vxCAE::detail
+} // namespace vxCAE

@@ -46,7 +46,4 @@ private:
 /// Whether a token is a number by the grammar of JSON, which is narrower than what the JSON library takes.
 bool isJsonNumber(std::string_view token);
 
-/// The length of the longest start of `text` that is UTF-8.
-std::size_t lengthOfUtf8(std::string_view text);
-
 } // namespace vxCAE::detail

@@ -114,7 +114,7 @@ std::string faultOfNumber(std::string_view token)
 /// into others, nesting that it does not follow.
 std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text)
 {
-    const std::size_t utf8 = detail::lengthOfUtf8(text);
+    const std::size_t utf8 = lengthOfUtf8(text);
     if (utf8 < text.size())
         return errorAt(text, utf8, "the text is not UTF-8");
     if (const std::size_t zero = text.find('\0'); zero != std::string_view::npos)

@@ -4,6 +4,7 @@
 
 #include <json/value.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,5 +39,8 @@ struct JsonReading
 /// their keys. JSON has no word for what is not finite: an infinite number is written as 1e+9999, which readJsonText
 /// refuses, and what is not a number as null, which reads as 0.
 VXCAE_EXPORT std::string toStyledText(const Json::Value& document);
+
+/// The length of the longest start of `text` that is UTF-8.
+VXCAE_EXPORT std::size_t lengthOfUtf8(std::string_view text);
 
 } // namespace vxCAE

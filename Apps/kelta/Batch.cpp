@@ -126,12 +126,18 @@ std::optional<QString> saveDatabase(const QStringList& arguments)
     return std::nullopt;
 }
 
+std::optional<QString> say(const QStringList& arguments)
+{
+    QTextStream(stdout) << arguments.join(QLatin1Char(' ')) << '\n';
+    return std::nullopt;
+}
+
 std::map<QString, Batch::Verb>& verbs()
 {
     static std::map<QString, Batch::Verb> registered = {
         {QStringLiteral("select"), selectLabels},   {QStringLiteral("select-project"), selectProject},
         {QStringLiteral("label"), labelSelected},   {QStringLiteral("screenshot"), takeScreenshot},
-        {QStringLiteral("database"), saveDatabase},
+        {QStringLiteral("database"), saveDatabase}, {QStringLiteral("say"), say},
     };
     return registered;
 }

@@ -1,5 +1,7 @@
 #include "MaterialVerbs.h"
 
+#include "MaterialChange.h"
+
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "kelta/Batch.h"
@@ -13,6 +15,7 @@
 #include <QTextStream>
 
 #include <memory>
+#include <utility>
 
 namespace kelta {
 
@@ -31,12 +34,14 @@ Mat::DocumentMaterial* findProject()
     return projects.empty() ? nullptr : static_cast<Mat::DocumentMaterial*>(projects.front());
 }
 
-/// The one material that is selected; null otherwise.
+/// The one material that is selected, in a project of materials; null otherwise.
 Mat::MaterialObject* selectedMaterial()
 {
     const auto objects =
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Mat::MaterialObject::getClassTypeId());
-    return objects.size() == 1 ? static_cast<Mat::MaterialObject*>(objects.front()) : nullptr;
+    if (objects.size() != 1 || dynamic_cast<Mat::DocumentMaterial*>(objects.front()->get_project()) == nullptr)
+        return nullptr;
+    return static_cast<Mat::MaterialObject*>(objects.front());
 }
 
 bool isSame(const std::string& name, const QString& typed)
@@ -52,8 +57,9 @@ Failure useLibraryMaterial(const QStringList& arguments)
     for (const auto& [type, material] : object->getMatMgr().materials) {
         if (!isSame(material->name, arguments[0]))
             continue;
+        auto before = copyOf(*object->getCMaterial());
         object->setCMaterial(material.get());
-        object->check_input();
+        recordChange(*object, std::move(before));
         return std::nullopt;
     }
     return tr("the library has no material \"%1\"").arg(arguments[0]);
@@ -75,8 +81,9 @@ Failure setQuantity(const QStringList& arguments)
             std::make_unique<vxMat::MaterialProperty>(id, quantity->name, value, quantity->key, quantity->description);
         property->unit = quantity->unit;
         property->category = quantity->category;
+        auto before = copyOf(*object->getCMaterial());
         object->getCMaterial()->setProperty(id, std::move(property));
-        object->check_input();
+        recordChange(*object, std::move(before));
         return std::nullopt;
     }
     return tr("the catalogue has no quantity \"%1\"").arg(arguments[0]);
@@ -87,8 +94,9 @@ Failure clearMaterial(const QStringList&)
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr)
         return tr("one selected material is needed");
+    auto before = copyOf(*object->getCMaterial());
     object->getCMaterial()->clearProperties();
-    object->check_input();
+    recordChange(*object, std::move(before));
     return std::nullopt;
 }
 

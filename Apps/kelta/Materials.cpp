@@ -1,5 +1,11 @@
+#include "EditorWatch.h"
+#include "FileCommands.h"
+#include "FileDrops.h"
 #include "MaterialVerbs.h"
+#include "ProjectFiles.h"
 
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
 #include "Gui/ObjectClipboard.h"
 #include "Kelta/MessageLog.h"
 #include "kelta/KeltaBatchExport.h"
@@ -8,6 +14,8 @@
 #include "vxMsg/MessageProxy.h"
 
 #include <exception>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -28,6 +36,17 @@ void readContent(Obj::ProjectObject& object, const Json::Value& content)
     projectfile::readMaterial(*static_cast<Mat::MaterialObject&>(object).getCMaterial(), content);
 }
 
+/// Files, and a history of what is applied in editors, for as long as there is the main window.
+void addFiles(Gui::MainWindow& mainWindow)
+{
+    auto files = std::make_unique<kelta::ProjectFiles>(mainWindow);
+    kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    mainWindow.setAcceptDrops(true);
+    mainWindow.installEventFilter(new kelta::FileDrops(*files, mainWindow));
+    new kelta::EditorWatch(mainWindow); // the main window owns it
+    kelta::FileService::set_instance(std::move(files));
+}
+
 } // namespace
 
 /// The entry by which the program loads this side, after the plug-in. Again changes nothing. Throws nothing; what goes
@@ -35,14 +54,17 @@ void readContent(Obj::ProjectObject& object, const Json::Value& content)
 extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
 {
     static bool done = false;
-    if (done)
+    if (std::exchange(done, true))
         return;
     try {
-        vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
         Gui::ObjectClipboard::register_codec("Mat::MaterialObject", {writeContent, readContent});
         kelta::registerMaterialVerbs();
-        done = true;
+        if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
+            addFiles(*mainWindow);
+        vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
     } catch (const std::exception& exception) {
         Kelta::MessageLog::error(QString::fromUtf8(exception.what()));
+    } catch (...) {
+        Kelta::MessageLog::error(QStringLiteral("KeltaMaterials"));
     }
 }

@@ -5,6 +5,7 @@
 #include "Kelta/MessageLog.h"
 #include "Kelta/PluginLoader.h"
 #include "Obj/Application.h"
+#include "kelta/FileService.h"
 #include "vxMsg/MessageProxy.h"
 
 namespace kelta {
@@ -22,6 +23,7 @@ bool loadMaterials()
 
 void shutDown()
 {
+    FileService::set_instance(nullptr);
     vxMsg::MessageProxy::instance().undoStack().clear();
     Obj::Application::instance().close_all_projects();
     Gui::Translator::instance()->clear();

@@ -7,13 +7,16 @@
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "kelta/Batch.h"
+#include "kelta/FileService.h"
 
 #include <CLI/CLI.hpp>
-#include <QMessageBox>
+#include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 #include <QTimer>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -22,6 +25,7 @@ struct Options
     std::string batch;
     std::string screenshot;
     std::string language;
+    std::vector<std::string> files;
 };
 
 void describe(CLI::App& program, Options& options)
@@ -36,6 +40,7 @@ void describe(CLI::App& program, Options& options)
     program.add_option("--screenshot", options.screenshot, "save the main window as PNG, and end")->type_name("FILE");
     program.add_option("--language", options.language, "en, de or zh_CN; that of the system when it is not given")
         ->type_name("LANGUAGE");
+    program.add_option("files", options.files, "project files to open")->type_name("FILE");
     program.footer(
         "Example: kelta --batch examples/tour.batch\n"
         "Exit status: 0 when all went well, 1 when a command failed, 2 when a file cannot be read or written.");
@@ -78,48 +83,59 @@ int runAlone(Gui::MainWindow& window, const Options& options)
     return status;
 }
 
-/// What would be lost if the program ended now; empty for nothing.
-QString describeLoss(const Gui::MainWindow& window)
+void askBeforeClosing(const Gui::MainWindow& window, bool& refused)
 {
-    for (const Gui::MDIWindow* const document : window.get_mdi_windows())
-        if (document->isWindowModified())
-            return QCoreApplication::translate("kelta", "Changes in open editors have not been applied.");
-    for (const Obj::Project* const project : Obj::Application::get_projects())
-        if (project->get_object_count() != 0)
-            return QCoreApplication::translate("kelta", "The project \"%1\" and its materials are not kept.")
-                .arg(QString::fromUtf8(project->get_name()));
-    return {};
-}
-
-void askBeforeClosing(Gui::MainWindow& window, bool& refused)
-{
-    const QString loss = describeLoss(window);
-    if (!loss.isEmpty()) {
-        const auto answer = QMessageBox::question(
-            &window, QCoreApplication::translate("kelta", "Close the program"),
-            loss + QLatin1Char('\n') + QCoreApplication::translate("kelta", "Close the program all the same?"),
-            QMessageBox::Close | QMessageBox::Cancel, QMessageBox::Cancel);
-        refused = answer != QMessageBox::Close;
-    }
+    refused = kelta::FileService::instance() != nullptr && !kelta::FileService::instance()->may_end();
     if (!refused)
         window.save_layout();
 }
 
-/// The document in front, its project and the program.
-QString titleOf(const Gui::MainWindow& window)
+/// A project as the title names it: by its file, once it has one.
+QString nameOf(const Obj::Project& project)
+{
+    const kelta::FileService* const files = kelta::FileService::instance();
+    const QString file = files != nullptr ? files->get_file(project) : QString();
+    return file.isEmpty() ? QString::fromUtf8(project.get_name()) : QFileInfo(file).fileName();
+}
+
+/// Shows the document in front, its project and the program, and whether there is something to be saved.
+void updateTitle(Gui::MainWindow& window)
 {
     QStringList parts;
     if (const Gui::MDIWindow* const document = window.get_active_mdi_window())
         parts << document->windowTitle().remove(QStringLiteral("[*]"));
-    if (const Obj::Project* const project = Obj::Application::get_current_project())
-        parts << QString::fromUtf8(project->get_name());
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    if (project != nullptr)
+        parts << nameOf(*project) + QStringLiteral("[*]");
     parts << QCoreApplication::applicationName();
-    return parts.join(QStringLiteral(" - "));
+    window.setWindowTitle(parts.join(QStringLiteral(" - ")));
+    const kelta::FileService* const files = kelta::FileService::instance();
+    window.setWindowModified(files != nullptr && project != nullptr && files->is_modified(*project));
 }
 
-void keepTitle(Gui::MainWindow& window)
+/// Opens the files that the program was started with.
+bool openFiles(const std::vector<std::string>& paths)
 {
-    QObject::connect(&window, &Gui::MainWindow::updated, [&window] { window.setWindowTitle(titleOf(window)); });
+    kelta::FileService* const files = kelta::FileService::instance();
+    for (const std::string& path : paths) {
+        const QString file = QFile::decodeName(path.c_str());
+        if (files == nullptr)
+            Kelta::MessageLog::error(
+                QCoreApplication::translate("kelta", "\"%1\" cannot be opened without the materials module.").arg(file));
+        if (files == nullptr || !files->open(file))
+            return false;
+    }
+    return true;
+}
+
+/// Once the window is there, since questions may be asked: first about what an earlier run has left behind.
+void openLater(Gui::MainWindow& window, const std::vector<std::string>& files)
+{
+    QTimer::singleShot(0, &window, [files] {
+        if (kelta::FileService* const service = kelta::FileService::instance())
+            service->offer_recovery();
+        openFiles(files);
+    });
 }
 
 QtMessageHandler passOn = nullptr;
@@ -154,14 +170,19 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     int status = 0;
     {
         Gui::MainWindow window;
-        keepTitle(window);
+        QObject::connect(&window, &Gui::MainWindow::updated, [&window] { updateTitle(window); });
         const bool loaded = kelta::loadMaterials();
         QObject::connect(&window, &Gui::MainWindow::closing,
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
             window.restore_layout();
         window.show();
-        status = runsAlone(options) ? runAlone(window, options) : QApplication::exec();
+        if (runsAlone(options)) {
+            status = openFiles(options.files) ? runAlone(window, options) : 2;
+        } else {
+            openLater(window, options.files);
+            status = QApplication::exec();
+        }
         // What needs the module has not been done.
         if (runsAlone(options) && !loaded && status == 0)
             status = 1;

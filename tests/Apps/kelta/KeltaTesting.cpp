@@ -11,6 +11,7 @@ QProcessEnvironment cleanEnvironment(const QString& home)
         environment.remove(QLatin1String(name));
     environment.insert(QStringLiteral("HOME"), home);
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home);
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), home);
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home);
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     // Whole call stacks, by which the leaks of the offscreen platform are told from ours.

@@ -3,8 +3,7 @@
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
 
-#include <QSettings>
-#include <QStandardPaths>
+#include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
@@ -31,12 +30,12 @@ std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
+    // Tests run side by side, each in a process of its own: none must read what another has written.
+    const QTemporaryDir home;
+    for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        qputenv(variable, QFile::encodeName(home.path()));
     const std::unique_ptr<Gui::GuiApplication> application = makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("vxMaterial-tests"));
-    // Tests run side by side, each in a process of its own: none must read what another has written.
-    const QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
     const int failed = RUN_ALL_TESTS();
     vxMsg::MessageProxy::instance().undoStack().clear();

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace Gui {
+class CommandController;
+} // namespace Gui
+
+namespace kelta {
+
+class ProjectFiles;
+
+/// Gives the commands about project files to the command manager: "Std_Open", "Std_OpenRecent", "Std_Save",
+/// "Std_SaveAs" and "Std_ImportDocument". They need `files` for as long as they are run.
+void addFileCommands(Gui::CommandController& commands, ProjectFiles& files);
+
+} // namespace kelta

@@ -1,0 +1,49 @@
+#include "FileDrops.h"
+
+#include "ProjectFiles.h"
+
+#include "Gui/MainWindow.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
+
+namespace kelta {
+
+namespace {
+
+QStringList filesIn(const QMimeData* data)
+{
+    QStringList files;
+    for (const QUrl& url : data->urls())
+        if (url.isLocalFile())
+            files << url.toLocalFile();
+    return files;
+}
+
+} // namespace
+
+FileDrops::FileDrops(ProjectFiles& files, Gui::MainWindow& mainWindow) : QObject(&mainWindow), m_files(files) {}
+
+FileDrops::~FileDrops() = default;
+
+bool FileDrops::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
+        return QObject::eventFilter(watched, event);
+    auto* const drop = static_cast<QDropEvent*>(event);
+    const QStringList files = filesIn(drop->mimeData());
+    if (files.isEmpty())
+        return QObject::eventFilter(watched, event);
+    drop->acceptProposedAction();
+    // Later, since the program that the files come from waits for the end of the drop, and questions may be asked.
+    if (event->type() == QEvent::Drop)
+        QTimer::singleShot(0, this, [this, files] {
+            for (const QString& file : files)
+                m_files.open(file);
+        });
+    return true;
+}
+
+} // namespace kelta

@@ -1,0 +1,29 @@
+#include "kelta/FileService.h"
+
+#include <utility>
+
+namespace kelta {
+
+namespace {
+
+std::unique_ptr<FileService>& theService()
+{
+    static std::unique_ptr<FileService> service;
+    return service;
+}
+
+} // namespace
+
+FileService::~FileService() = default;
+
+FileService* FileService::instance()
+{
+    return theService().get();
+}
+
+void FileService::set_instance(std::unique_ptr<FileService> service)
+{
+    theService() = std::move(service);
+}
+
+} // namespace kelta

@@ -1,0 +1,140 @@
+#include "MaterialChange.h"
+
+#include "Gui/GuiApplication.h"
+#include "Gui/MDIWindow.h"
+#include "Gui/MainWindow.h"
+#include "Gui/ViewFeeder.h"
+#include "Obj/Application.h"
+#include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QCoreApplication>
+#include <QUndoCommand>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace kelta {
+
+namespace {
+
+bool areSameNumbers(const double& first, const double& second)
+{
+    return std::memcmp(&first, &second, sizeof first) == 0;
+}
+
+bool areSame(const vxMat::MaterialProperty& first, const vxMat::MaterialProperty& second)
+{
+    return first.id == second.id && first.name == second.name && first.key == second.key &&
+           areSameNumbers(first.value, second.value) && first.text == second.text &&
+           std::equal(first.values.begin(), first.values.end(), second.values.begin(), second.values.end(),
+                      areSameNumbers) &&
+           first.description == second.description && first.unit == second.unit && first.category == second.category;
+}
+
+Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectId)
+{
+    const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
+    return project != nullptr ? dynamic_cast<Mat::MaterialObject*>(project->get_object(objectId)) : nullptr;
+}
+
+/// An editor without changes of its own shows the material as it is now. One with changes keeps them.
+void reopenEditor(Mat::MaterialObject& object)
+{
+    Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    if (mainWindow == nullptr)
+        return;
+    for (Gui::MDIWindow* const window : mainWindow->get_mdi_windows()) {
+        if (window->get_edited_object() != &object || window->isWindowModified())
+            continue;
+        Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
+        const bool wasInFront = inFront == window;
+        window->remove_viewself();
+        Gui::GuiApplication::Instance->get_view_feeder(&object)->setEdit(0);
+        if (!wasInFront)
+            mainWindow->set_active_mdi_window(inFront);
+        return;
+    }
+}
+
+/// What the user has made of a material. It knows the object by its numbers, since that may be deleted and come back.
+class MaterialChange final : public QUndoCommand
+{
+public:
+    MaterialChange(const Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before)
+        : QUndoCommand(QCoreApplication::translate("kelta::MaterialChange", "Change \"%1\"")
+                           .arg(QString::fromStdString(object.label.getValue()))),
+          m_projectId(object.get_project()->getProjectId()),
+          m_objectId(object.getObjectId()),
+          m_other(std::move(before))
+    {}
+
+    void undo() override { swap(); }
+    void redo() override
+    {
+        if (std::exchange(m_done, true))
+            swap();
+    }
+
+private:
+    void swap()
+    {
+        Mat::MaterialObject* const object = findMaterial(m_projectId, m_objectId);
+        if (object == nullptr)
+            return;
+        vxMat::CMaterial& material = *object->getCMaterial();
+        std::swap(material.id, m_other->id);
+        std::swap(material.name, m_other->name);
+        std::swap(material.libraryGroup, m_other->libraryGroup);
+        std::swap(material.properties, m_other->properties);
+        object->refreshProperties(true);
+        materialChanged()(*object);
+        reopenEditor(*object);
+    }
+
+    std::uint32_t m_projectId;
+    std::uint32_t m_objectId;
+    std::unique_ptr<vxMat::CMaterial> m_other; ///< the material as it is not now
+    bool m_done = false;
+};
+
+} // namespace
+
+std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material)
+{
+    auto copy = std::make_unique<vxMat::CMaterial>();
+    copy->id = material.id;
+    copy->name = material.name;
+    copy->libraryGroup = material.libraryGroup;
+    copy->copyPropertiesFrom(material);
+    return copy;
+}
+
+bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second)
+{
+    return first.id == second.id && first.name == second.name && first.libraryGroup == second.libraryGroup &&
+           first.properties.size() == second.properties.size() &&
+           std::all_of(first.properties.begin(), first.properties.end(), [&second](const auto& held) {
+               const vxMat::MaterialProperty* const other = second.findProperty(held.first);
+               return other != nullptr && areSame(*held.second, *other);
+           });
+}
+
+Obj::Signal<void(Mat::MaterialObject&)>& materialChanged()
+{
+    static Obj::Signal<void(Mat::MaterialObject&)> signal;
+    return signal;
+}
+
+bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before)
+{
+    if (areSame(*object.getCMaterial(), *before))
+        return false;
+    object.refreshProperties(true);
+    vxMsg::MessageProxy::instance().pushDone(std::make_unique<MaterialChange>(object, std::move(before)));
+    materialChanged()(object);
+    return true;
+}
+
+} // namespace kelta

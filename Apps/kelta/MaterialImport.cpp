@@ -1,0 +1,68 @@
+#include "MaterialImport.h"
+
+#include "projectfile/ExchangeImport.h"
+#include "projectfile/ProjectStore.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <json/reader.h>
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <stdexcept>
+
+namespace kelta {
+
+namespace {
+
+Json::Value readDocument(const QString& path)
+{
+    const std::string text = projectfile::readFile(path);
+    Json::CharReaderBuilder builder;
+    Json::CharReaderBuilder::strictMode(&builder.settings_);
+    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    Json::Value document;
+    std::string errors;
+    if (!reader->parse(text.data(), text.data() + text.size(), &document, &errors))
+        throw std::runtime_error(path.toStdString() + ": " + errors);
+    return document;
+}
+
+} // namespace
+
+ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path)
+{
+    projectfile::ImportedMaterials imported;
+    try {
+        imported = projectfile::importExchange(readDocument(path));
+    } catch (const projectfile::ImportError& error) {
+        throw std::runtime_error(path.toStdString() + ": " + error.what());
+    }
+    constexpr std::uint64_t lastNumber = std::numeric_limits<std::uint32_t>::max();
+    if (project.get_next_object_id() + imported.materials.size() > lastNumber + 1)
+        throw std::runtime_error(
+            QCoreApplication::translate("kelta::ProjectFiles", "The project has no numbers left for so many materials.")
+                .toStdString());
+    ImportOutcome outcome;
+    const vxMsg::MessageProxy::Group group(
+        QCoreApplication::translate("kelta::ProjectFiles", "Import \"%1\"").arg(QFileInfo(path).fileName()));
+    for (projectfile::ImportedMaterial& entry : imported.materials) {
+        auto* const object =
+            static_cast<Mat::MaterialObject*>(project.add_object("Mat::MaterialObject", entry.label.c_str()));
+        object->label.setValue(entry.label);
+        vxMat::CMaterial& material = *object->getCMaterial();
+        material.name = entry.material->name;
+        material.properties = std::move(entry.material->properties);
+        object->refreshProperties(true);
+        outcome.objects.push_back(object);
+    }
+    for (const std::string& doubt : imported.doubts)
+        outcome.doubts << QString::fromStdString(doubt);
+    return outcome;
+}
+
+} // namespace kelta

@@ -1,0 +1,92 @@
+#include "ProjectRecords.h"
+
+#include "Gui/GuiApplication.h"
+#include "Gui/ViewFeeder.h"
+#include "Obj/Property.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace kelta {
+
+namespace {
+
+/// The colour of the node; null without one, as in a program without windows.
+Obj::PropertyColor* findColour(Obj::ProjectObject& object)
+{
+    Gui::ViewFeeder* const node =
+        Gui::GuiApplication::Instance != nullptr ? Gui::GuiApplication::Instance->get_view_feeder(&object) : nullptr;
+    return node != nullptr ? dynamic_cast<Obj::PropertyColor*>(node->get_property_by_name("MaterialColor")) : nullptr;
+}
+
+projectfile::ObjectRecord makeRecord(Mat::MaterialObject& object, const FurtherMembers& further)
+{
+    projectfile::ObjectRecord record;
+    record.objectId = object.getObjectId();
+    record.className = object.getTypeId().get_name();
+    record.internalName = object.get_name_in_project();
+    record.label = object.label.getValue();
+    record.suppressed = object.isSuppressed();
+    if (const Obj::PropertyColor* const property = findColour(object)) {
+        const Obj::Color& colour = property->getValue();
+        record.colour = {colour.red, colour.green, colour.blue, colour.alpha};
+    }
+    record.material = object.getCMaterial();
+    if (const auto found = further.objects.find(record.objectId); found != further.objects.end())
+        record.further = found->second;
+    return record;
+}
+
+void fillObject(Mat::MaterialObject& object, const projectfile::ObjectRecord& record, vxMat::MaterialBase& material)
+{
+    object.label.setValue(record.label);
+    vxMat::CMaterial& target = *object.getCMaterial();
+    target.id = material.id;
+    target.name = std::move(material.name);
+    target.libraryGroup = material.libraryGroup;
+    target.properties = std::move(material.properties);
+    object.setSuppressed(record.suppressed);
+    object.check_input();
+    Obj::PropertyColor* const colour = record.colour ? findColour(object) : nullptr;
+    if (colour != nullptr)
+        colour->setValue({(*record.colour)[0], (*record.colour)[1], (*record.colour)[2], (*record.colour)[3]});
+}
+
+} // namespace
+
+projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const FurtherMembers& further)
+{
+    projectfile::ProjectRecord record;
+    record.name = project.get_name();
+    record.nextObjectId = project.get_next_object_id();
+    project.save_jsonDB(record.database);
+    for (Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
+        record.objects.push_back(makeRecord(*static_cast<Mat::MaterialObject*>(object), further));
+    record.further = further.project;
+    return record;
+}
+
+void fillProject(Obj::Project& project, projectfile::ProjectRecord& record, FurtherMembers& further)
+{
+    for (std::size_t index = 0; index < record.objects.size(); ++index) {
+        projectfile::ObjectRecord& entry = record.objects[index];
+        auto* const object = dynamic_cast<Mat::MaterialObject*>(
+            project.add_object(entry.className.c_str(), entry.internalName, entry.objectId));
+        if (object == nullptr)
+            throw projectfile::ProjectFileError(
+                QCoreApplication::translate("kelta::ProjectFiles",
+                                            "The object \"%1\" is of the class \"%2\", which is none of a material")
+                    .arg(QString::fromStdString(entry.label), QString::fromStdString(entry.className))
+                    .toStdString());
+        fillObject(*object, entry, *record.materials[index]);
+        if (!entry.further.isNull())
+            further.objects[entry.objectId] = std::move(entry.further);
+    }
+    project.skip_object_ids(record.nextObjectId);
+    further.project = std::move(record.further);
+}
+
+} // namespace kelta

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "projectfile/ProjectFile.h"
+
+#include <json/value.h>
+
+#include <cstdint>
+#include <map>
+
+namespace Mat {
+class DocumentMaterial;
+} // namespace Mat
+
+namespace Obj {
+class Project;
+} // namespace Obj
+
+namespace kelta {
+
+/// What project files say beyond what this program knows, to be written back.
+struct FurtherMembers
+{
+    Json::Value project;
+    std::map<std::uint32_t, Json::Value> objects; ///< by number
+};
+
+/// What a project file is to say of a project. The materials stay those of the project.
+projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const FurtherMembers& further);
+
+/// Gives a project that is empty the objects of a record, and takes the materials and what is unknown out of that.
+/// \throws projectfile::ProjectFileError when there is an object of a class that is none of a material
+void fillProject(Obj::Project& project, projectfile::ProjectRecord& record, FurtherMembers& further);
+
+} // namespace kelta

@@ -1,0 +1,169 @@
+#include "FilesTesting.h"
+
+#include "vxMaterial/project/Module.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QTableView>
+
+#include <map>
+#include <utility>
+
+namespace vxtest {
+
+namespace {
+
+constexpr int nameColumn = 1;
+constexpr int valueColumn = 2;
+constexpr std::int32_t modulusId = 5;
+
+QDir recoveryFolder()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/recovery"));
+}
+
+} // namespace
+
+Answers::Answers(QStringList buttons) : m_buttons(std::move(buttons))
+{
+    connect(&m_timer, &QTimer::timeout, this, &Answers::answer);
+    m_timer.start(1);
+}
+
+Answers::~Answers()
+{
+    EXPECT_EQ(m_buttons.join(", ").toStdString(), "") << "not asked for";
+    EXPECT_EQ(m_unexpected, 0) << m_boxes.join("\n").toStdString();
+}
+
+void Answers::answer()
+{
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr || !box->isVisible())
+        return;
+    m_boxes << box->windowTitle() + QStringLiteral(": ") + box->text();
+    const QString wanted = m_buttons.isEmpty() ? QString() : m_buttons.takeFirst();
+    for (QAbstractButton* const button : box->buttons())
+        if (!wanted.isEmpty() && button->text().remove(QLatin1Char('&')) == wanted)
+            return button->click();
+    ++m_unexpected;
+    box->close();
+}
+
+Files::Files()
+{
+    initMat();
+    initMatGui();
+    window = std::make_unique<Gui::MainWindow>();
+    files = std::make_unique<kelta::ProjectFiles>(*window);
+    kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    new kelta::EditorWatch(*window);
+    window->set_workbench("MatGui::SimModule");
+    window->show();
+}
+
+Files::~Files()
+{
+    files.reset();
+    history().clear();
+    Obj::Application::instance().close_all_projects();
+    Gui::TreeSelectionSingleton::instance().clear();
+}
+
+bool Files::run(const char* command)
+{
+    return Gui::GuiApplication::Instance->get_command_manager().run_command(command);
+}
+
+bool Files::run(const char* command, const QString& file)
+{
+    Gui::FileDialog::answer_next(file);
+    return run(command);
+}
+
+Mat::DocumentMaterial& Files::newProject()
+{
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    return *currentProject();
+}
+
+Mat::MaterialObject& Files::addMaterial(const std::string& label)
+{
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().addMaterial(currentProject()->get_name(), label));
+    Mat::MaterialObject* const object = findMaterial(label);
+    object->initCMaterial(vxMat::eMaterialType::StructuralSteel);
+    return *object;
+}
+
+Mat::DocumentMaterial* Files::currentProject()
+{
+    return dynamic_cast<Mat::DocumentMaterial*>(Obj::Application::get_current_project());
+}
+
+Mat::MaterialObject* Files::findMaterial(const std::string& label)
+{
+    for (Obj::ProjectObject* const object : currentProject()->get_objects())
+        if (object->label.getValue() == label)
+            return dynamic_cast<Mat::MaterialObject*>(object);
+    return nullptr;
+}
+
+Gui::MDIWindow& Files::editModulus(Mat::MaterialObject& object, const QString& text)
+{
+    Gui::GuiApplication::Instance->get_view_feeder(&object)->setEdit(0);
+    Gui::MDIWindow& editor = *window->get_active_mdi_window();
+    QAbstractItemModel& rows = *editor.findChild<QTableView*>(QStringLiteral("tableView"))->model();
+    for (int row = 0; row < rows.rowCount(); ++row)
+        if (rows.index(row, nameColumn).data() == QStringLiteral("Young's modulus"))
+            rows.setData(rows.index(row, valueColumn), text);
+    return editor;
+}
+
+double Files::modulusOf(const Mat::MaterialObject& object)
+{
+    double number = 0;
+    EXPECT_TRUE(object.getCMaterial()->getPropertyValue(modulusId, number));
+    return number;
+}
+
+QByteArray Files::contentOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void Files::writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    file.write(content);
+}
+
+QStringList Files::copies()
+{
+    QStringList paths;
+    for (const QString& name : recoveryFolder().entryList({QStringLiteral("*.vxmat")}, QDir::Files))
+        paths << recoveryFolder().filePath(name);
+    return paths;
+}
+
+void Files::crash()
+{
+    std::map<QString, QByteArray> left;
+    for (const QString& copy : copies())
+        left[copy] = contentOf(copy);
+    window->close_all_windows();
+    files.reset();
+    history().clear();
+    Obj::Application::instance().close_all_projects();
+    for (const auto& [copy, content] : left)
+        writeFile(copy, content);
+    files = std::make_unique<kelta::ProjectFiles>(*window);
+}
+
+} // namespace vxtest

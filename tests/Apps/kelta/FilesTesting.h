@@ -1,0 +1,91 @@
+#pragma once
+
+#include "FileCommands.h"
+#include "ProjectFiles.h"
+
+#include "EditorWatch.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/FileDialog.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/MDIWindow.h"
+#include "Gui/MainWindow.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Gui/ViewFeeder.h"
+#include "Obj/Application.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUndoStack>
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vxtest {
+
+/// Presses the buttons of these texts, without their mnemonics, in the message boxes that come up while it lives, one
+/// after the other; keeps the texts of the boxes. A box that is not expected is closed by its frame.
+class Answers : public QObject
+{
+public:
+    explicit Answers(QStringList buttons = {});
+    /// All answers must have been asked for, and no more.
+    ~Answers() override;
+    Answers(const Answers&) = delete;
+    Answers& operator=(const Answers&) = delete;
+
+    /// "Title: text" of each box.
+    const QStringList& boxes() const { return m_boxes; }
+
+private:
+    void answer();
+
+    QStringList m_buttons;
+    QStringList m_boxes;
+    int m_unexpected = 0;
+    QTimer m_timer;
+};
+
+/// A test with the main window, the materials workbench and project files, as the application has them.
+class Files : public testing::Test
+{
+protected:
+    Files();
+    ~Files() override;
+
+    static bool run(const char* command);
+    /// Gives a command the file that it asks for.
+    static bool run(const char* command, const QString& file);
+    static QUndoStack& history() { return vxMsg::MessageProxy::instance().undoStack(); }
+
+    static Mat::DocumentMaterial& newProject();
+    static Mat::MaterialObject& addMaterial(const std::string& label = "Steel");
+    static Mat::DocumentMaterial* currentProject();
+    static Mat::MaterialObject* findMaterial(const std::string& label);
+    /// Gives the material another Young's modulus in its editor, in place of pressing keys, and leaves it open.
+    Gui::MDIWindow& editModulus(Mat::MaterialObject& object, const QString& text);
+    static double modulusOf(const Mat::MaterialObject& object);
+
+    QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
+    static QByteArray contentOf(const QString& path);
+    static void writeFile(const QString& path, const QByteArray& content);
+    bool isModified() const { return files->is_modified(*currentProject()); }
+    /// The copies for recovery that there are.
+    static QStringList copies();
+    /// Ends the program without asking, as a crash does, as far as its files are concerned; begins it anew.
+    void crash();
+
+    std::unique_ptr<Gui::MainWindow> window;
+    std::unique_ptr<kelta::ProjectFiles> files;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace vxtest

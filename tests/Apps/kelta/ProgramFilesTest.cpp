@@ -1,0 +1,62 @@
+#include "KeltaTesting.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+
+namespace {
+
+using testing::HasSubstr;
+using vxtest::Outcome;
+
+using ProgramFiles = vxtest::Kelta;
+
+TEST_F(ProgramFiles, AreSavedAndOpenedByLists)
+{
+    const Outcome saved = runBatch("Mat_NewDoc\nMat_AddMaterial\nset \"Young's modulus\" 7e10\nStd_SaveAs \"a b.vxmat\"\n"
+                                   "set Density 2700\nStd_Save\n");
+    ASSERT_EQ(saved.status, 0) << saved.errors.toStdString();
+    const Outcome opened = runBatch("Std_Open \"a b.vxmat\"\nselect Material\ncards\n");
+    ASSERT_EQ(opened.status, 0) << opened.errors.toStdString();
+    EXPECT_THAT(opened.output.toStdString(), HasSubstr("70000000000"));
+}
+
+TEST_F(ProgramFiles, AreOpenedFromTheCommandLine)
+{
+    ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs a.vxmat\n").status, 0);
+    vxtest::writeFile(path("list.batch"), "select Material\ncheck\n");
+    const Outcome outcome = run({"--batch", "list.batch", "a.vxmat"});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+}
+
+TEST_F(ProgramFiles, ThatCannotBeOpenedEndAProgramWithoutWindows)
+{
+    const Outcome outcome = run({"--screenshot", "a.png", "missing.vxmat"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("missing.vxmat"));
+    EXPECT_FALSE(QFileInfo::exists(path("a.png")));
+}
+
+TEST_F(ProgramFiles, LeaveNoCopiesAndNoLocksBehind)
+{
+    ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs a.vxmat\nset Density 1\n").status, 0);
+    EXPECT_EQ(QDir(path("vxMaterial/kelta/recovery")).entryList(QDir::Files | QDir::Hidden).size(), 0);
+    EXPECT_EQ(QDir(path("")).entryList({"*lock*"}, QDir::Files | QDir::Hidden).size(), 0);
+}
+
+TEST_F(ProgramFiles, ImportExchangeDocumentsCompletely)
+{
+    ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nMat_Export a.json\n").status, 0);
+    const Outcome outcome = runBatch("Mat_NewDoc\nStd_ImportDocument a.json\nselect Material\nStd_SaveAs a.vxmat\n");
+    ASSERT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+    EXPECT_THAT(vxtest::readFile(path("a.vxmat")).toStdString(), HasSubstr("\"unit\": \"Pa\""));
+}
+
+TEST_F(ProgramFiles, FailToBeSavedOnAFullDevice)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs /dev/full\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("/dev/full"));
+}
+
+} // namespace

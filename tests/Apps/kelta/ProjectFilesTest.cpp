@@ -1,0 +1,545 @@
+#include "FilesTesting.h"
+
+#include "Gui/EditCommands.h"
+#include "Kelta/MessageLog.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSettings>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+using vxtest::Answers;
+using vxtest::Files;
+
+std::string text(const QStringList& lines)
+{
+    return lines.join('\n').toStdString();
+}
+
+TEST_F(Files, GiveBackTheSameTreeWithNumbersNamesAndLabels)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial("Steel");
+    addMaterial("Gone");
+    Mat::MaterialObject& bolt = addMaterial("Bolt");
+    bolt.label.setValue("Bolz\xC3\xA9n \xE9\x92\xA2 %1");
+    const std::string boltName = bolt.get_name_in_project();
+    bolt.setSuppressed(true);
+    auto* const colour = dynamic_cast<Obj::PropertyColor*>(
+        Gui::GuiApplication::Instance->get_view_feeder(&steel)->get_property_by_name("MaterialColor"));
+    colour->setValue({0.25F, 0.5F, 0.75F, 1.0F});
+    ASSERT_TRUE(vxMsg::MessageProxy::instance().deleteObject(currentProject()->get_name(), "Gone"));
+    const std::string name = currentProject()->get_name();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(run("Mat_DelDoc"));
+    history().clear();
+    Obj::Application::instance().close_all_projects();
+
+    ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
+    ASSERT_NE(currentProject(), nullptr);
+    ASSERT_EQ(currentProject()->get_object_count(), 2U);
+    Mat::MaterialObject* const steelAgain = findMaterial("Steel");
+    const Mat::MaterialObject* const boltAgain = findMaterial("Bolz\xC3\xA9n \xE9\x92\xA2 %1");
+    ASSERT_NE(steelAgain, nullptr);
+    ASSERT_NE(boltAgain, nullptr);
+    EXPECT_EQ(steelAgain->getObjectId(), 1U);
+    EXPECT_EQ(boltAgain->getObjectId(), 3U);
+    EXPECT_EQ(boltAgain->get_name_in_project(), boltName);
+    EXPECT_TRUE(boltAgain->isSuppressed());
+    EXPECT_EQ(modulusOf(*steelAgain), 2e11);
+    EXPECT_EQ(steelAgain->getObjectState(), Obj::eVXObjectState::Ready);
+    const auto* const colourAgain = dynamic_cast<Obj::PropertyColor*>(
+        Gui::GuiApplication::Instance->get_view_feeder(steelAgain)->get_property_by_name("MaterialColor"));
+    EXPECT_EQ(colourAgain->getValue(), (Obj::Color{0.25F, 0.5F, 0.75F, 1.0F}));
+    EXPECT_FALSE(history().canUndo());
+    EXPECT_FALSE(isModified());
+    // Not even the number of the one that was deleted is used again.
+    EXPECT_EQ(addMaterial("Next").getObjectId(), 4U);
+    static_cast<void>(name);
+}
+
+TEST_F(Files, AreTheSameBytesWhenNothingHasChanged)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QByteArray before = contentOf(path("a.vxmat"));
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_EQ(contentOf(path("a.vxmat")), before);
+}
+
+TEST_F(Files, KeepMembersThatThisProgramDoesNotKnow)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    QByteArray content = contentOf(path("a.vxmat"));
+    content.replace("\"format_version\"", "\"plot\": {\"scale\": 2},\n\"format_version\"");
+    content.replace("\"suppressed\"", "\"supplier\": \"Mill 7\", \"suppressed\"");
+    writeFile(path("b.vxmat"), content);
+    ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
+    addMaterial("Another");
+    ASSERT_TRUE(run("Std_Save"));
+    const QByteArray saved = contentOf(path("b.vxmat"));
+    EXPECT_TRUE(saved.contains("\"plot\""));
+    EXPECT_TRUE(saved.contains("Mill 7"));
+    EXPECT_TRUE(saved.contains("Another"));
+}
+
+TEST_F(Files, MarkTheProjectThatHasChanges)
+{
+    newProject();
+    EXPECT_FALSE(isModified());
+    Mat::MaterialObject& steel = addMaterial();
+    EXPECT_TRUE(isModified());
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    EXPECT_FALSE(isModified());
+    steel.label.setValue("Other");
+    EXPECT_TRUE(isModified());
+    ASSERT_TRUE(run("Std_Save"));
+    steel.check_input();
+    steel.notifyChange();
+    EXPECT_FALSE(isModified()) << "the state is no part of the file";
+    steel.setSuppressed(true);
+    EXPECT_TRUE(isModified());
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_FALSE(isModified());
+    dynamic_cast<Obj::PropertyColor*>(
+        Gui::GuiApplication::Instance->get_view_feeder(&steel)->get_property_by_name("MaterialColor"))
+        ->setValue({1, 1, 1, 1});
+    EXPECT_TRUE(isModified());
+}
+
+TEST_F(Files, AreUnmodifiedAgainWhenTheChangeIsUndone)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    addMaterial("Another");
+    EXPECT_TRUE(isModified());
+    history().undo();
+    EXPECT_FALSE(isModified());
+    history().undo();
+    EXPECT_TRUE(isModified()) << "the file has the first material";
+}
+
+TEST_F(Files, StayModifiedWhenTheHistoryEnds)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(Gui::editProperty(steel, "Label", "Other"));
+    history().clear();
+    EXPECT_TRUE(isModified());
+}
+
+TEST_F(Files, MakeApplyInAnEditorUndoable)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    Gui::MDIWindow& editor = editModulus(steel, QStringLiteral("1e9"));
+    EXPECT_FALSE(isModified()) << "not applied yet";
+    editor.findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    EXPECT_EQ(modulusOf(steel), 1e9);
+    EXPECT_TRUE(isModified());
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_FALSE(isModified());
+    history().redo();
+    EXPECT_EQ(modulusOf(steel), 1e9);
+    EXPECT_TRUE(isModified());
+}
+
+TEST_F(Files, MakeOkInAnEditorUndoable)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    editModulus(steel, QStringLiteral("1e9")).findChild<QAbstractButton*>(QStringLiteral("btnOk"))->click();
+    EXPECT_EQ(window->get_active_mdi_window(), nullptr);
+    EXPECT_EQ(modulusOf(steel), 1e9);
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 2e11);
+}
+
+TEST_F(Files, ShowWhatWasUndoneInTheOpenEditor)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    editModulus(steel, QStringLiteral("1e9")).findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    history().undo();
+    Gui::MDIWindow* const editor = window->get_active_mdi_window();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_FALSE(editor->isWindowModified());
+    editor->findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    EXPECT_EQ(modulusOf(steel), 2e11) << "the editor shows the material as it is";
+}
+
+TEST_F(Files, MakeNoStepOfAnApplyThatChangesNothing)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    const int steps = history().count();
+    Gui::GuiApplication::Instance->get_view_feeder(&steel)->setEdit(0);
+    window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    EXPECT_EQ(history().count(), steps);
+}
+
+TEST_F(Files, TakeNoExportForAnApply)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    Gui::GuiApplication::Instance->get_view_feeder(&steel)->setEdit(0);
+    steel.label.setValue("Renamed");
+    const int steps = history().count();
+    ASSERT_TRUE(run("Mat_Export", path("a.json")));
+    window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    EXPECT_EQ(history().count(), steps);
+}
+
+TEST_F(Files, AskAboutChangesInEditorsBeforeSaving)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    editModulus(steel, QStringLiteral("1e9"));
+    {
+        const Answers answers({"Cancel"});
+        run("Std_SaveAs", path("a.vxmat"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("The changes of \"Steel\" in its editor have not been applied."));
+    }
+    EXPECT_FALSE(QFileInfo::exists(path("a.vxmat")));
+    {
+        const Answers answers({"Save without them"});
+        run("Std_SaveAs", path("a.vxmat"));
+    }
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_TRUE(contentOf(path("a.vxmat")).contains("200000000000") || contentOf(path("a.vxmat")).contains("2e+11"));
+    {
+        const Answers answers({"Apply"});
+        run("Std_Save");
+    }
+    EXPECT_EQ(modulusOf(steel), 1e9);
+    EXPECT_FALSE(isModified());
+    history().undo();
+    EXPECT_TRUE(isModified()) << "the file has what was applied";
+}
+
+TEST_F(Files, SaveNothingWhenAnEditorCannotApply)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    editModulus(steel, QStringLiteral("-1"));
+    const Answers answers({"Apply", "OK"});
+    run("Std_SaveAs", path("a.vxmat"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("Invalid material"));
+    EXPECT_FALSE(QFileInfo::exists(path("a.vxmat")));
+}
+
+TEST_F(Files, AskBeforeAProjectWithChangesIsClosed)
+{
+    newProject();
+    addMaterial();
+    {
+        const Answers answers({"Cancel"});
+        run("Mat_DelDoc");
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("have not been saved"));
+    }
+    ASSERT_NE(currentProject(), nullptr);
+    {
+        const Answers answers({"Discard"});
+        run("Mat_DelDoc");
+    }
+    EXPECT_EQ(currentProject(), nullptr);
+}
+
+TEST_F(Files, SaveAProjectThatIsClosedWhenAskedTo)
+{
+    newProject();
+    addMaterial();
+    Gui::FileDialog::answer_next(path("a.vxmat"));
+    const Answers answers({"Save"});
+    run("Mat_DelDoc");
+    EXPECT_EQ(currentProject(), nullptr);
+    EXPECT_TRUE(QFileInfo::exists(path("a.vxmat")));
+}
+
+TEST_F(Files, KeepAProjectThatCouldNotBeSavedOpen)
+{
+    newProject();
+    addMaterial();
+    Gui::FileDialog::answer_next(path("missing/a.vxmat"));
+    const Answers answers({"Save", "OK"});
+    run("Mat_DelDoc");
+    EXPECT_NE(currentProject(), nullptr);
+    EXPECT_TRUE(isModified());
+}
+
+TEST_F(Files, CloseAProjectWithoutChangesWithoutAsking)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const Answers answers;
+    run("Mat_DelDoc");
+    EXPECT_EQ(currentProject(), nullptr);
+}
+
+TEST_F(Files, KnowTheirProjectAgainWhenClosingIsUndone)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(run("Mat_DelDoc"));
+    history().undo();
+    ASSERT_NE(currentProject(), nullptr);
+    EXPECT_EQ(files->get_file(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
+}
+
+TEST_F(Files, AskAboutEveryProjectBeforeTheProgramEnds)
+{
+    newProject();
+    addMaterial();
+    newProject();
+    addMaterial();
+    {
+        const Answers answers({"Discard", "Cancel"});
+        EXPECT_FALSE(files->may_end());
+    }
+    {
+        const Answers answers({"Discard", "Discard"});
+        EXPECT_TRUE(files->may_end());
+    }
+}
+
+TEST_F(Files, OpenAFileOnceAlone)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const Mat::DocumentMaterial* const first = currentProject();
+    newProject();
+    ASSERT_TRUE(run("Std_Open", path("./a.vxmat")));
+    EXPECT_EQ(Obj::Application::get_projects().size(), 2U);
+    EXPECT_TRUE(Gui::TreeSelectionSingleton::instance().is_selected(first));
+}
+
+TEST_F(Files, DoNotTakeTheFileOfAnotherOpenProject)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QByteArray before = contentOf(path("a.vxmat"));
+    newProject();
+    const Answers answers({"OK"});
+    run("Std_SaveAs", path("a.vxmat"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("which is open"));
+    EXPECT_EQ(contentOf(path("a.vxmat")), before);
+}
+
+TEST_F(Files, SayWhatIsWrongWithAFileAndOpenNothing)
+{
+    const std::pair<const char*, const char*> wrong[] = {
+        {"", "cannot be opened"},
+        {"{", "cannot be opened"},
+        {"{\"a\": 1}", "cannot be opened"},
+        {"{\"format\": \"vxMaterial project\", \"format_version\": 99}", "99"},
+    };
+    for (const auto& [content, message] : wrong) {
+        writeFile(path("wrong.vxmat"), content);
+        const Answers answers({"OK"});
+        run("Std_Open", path("wrong.vxmat"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr(message)) << content;
+        EXPECT_EQ(currentProject(), nullptr);
+    }
+    const Answers answers({"OK", "OK"});
+    run("Std_Open", path("missing.vxmat"));
+    run("Std_Open", QFileInfo(path("wrong.vxmat")).absolutePath());
+    EXPECT_EQ(currentProject(), nullptr);
+}
+
+TEST_F(Files, LeaveTheOldFileWhenItCannotBeWritten)
+{
+    newProject();
+    addMaterial();
+    QDir().mkdir(path("folder.vxmat"));
+    const Answers answers({"OK"});
+    run("Std_SaveAs", path("folder.vxmat"));
+    EXPECT_TRUE(QFileInfo(path("folder.vxmat")).isDir());
+    EXPECT_TRUE(isModified());
+    EXPECT_EQ(files->get_file(*currentProject()), "");
+}
+
+TEST_F(Files, AskBeforeTheyReplaceWhatAnotherProgramWrote)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    addMaterial("Another");
+    writeFile(path("a.vxmat"), "of another program");
+    {
+        const Answers answers({"Cancel"});
+        run("Std_Save");
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("changed by another program"));
+    }
+    EXPECT_EQ(contentOf(path("a.vxmat")), "of another program");
+    EXPECT_TRUE(isModified());
+    {
+        const Answers answers({"Replace"});
+        run("Std_Save");
+    }
+    EXPECT_THAT(contentOf(path("a.vxmat")).toStdString(), HasSubstr("Another"));
+    const Answers none;
+    run("Std_Save");
+}
+
+TEST_F(Files, WarnOfASecondProgramOnTheSameFile)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(run("Mat_DelDoc"));
+    projectfile::FileLock other(path("a.vxmat"));
+    ASSERT_TRUE(other.tryLock());
+    {
+        const Answers answers({"Cancel"});
+        run("Std_Open", path("a.vxmat"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("is in use by"));
+    }
+    EXPECT_EQ(currentProject(), nullptr);
+    const Answers answers({"Use all the same"});
+    run("Std_Open", path("a.vxmat"));
+    EXPECT_NE(currentProject(), nullptr);
+}
+
+TEST_F(Files, AreListedTheLatestFirst)
+{
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(run("Std_SaveAs", path("b & c.vxmat")));
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QStringList recent = kelta::ProjectFiles::recentFiles();
+    ASSERT_EQ(recent.size(), 2);
+    EXPECT_THAT(recent[0].toStdString(), testing::EndsWith("a.vxmat"));
+    EXPECT_THAT(recent[1].toStdString(), testing::EndsWith("b & c.vxmat"));
+}
+
+TEST_F(Files, HavePathsWithBlanksQuotesAndChineseCharacters)
+{
+    newProject();
+    addMaterial();
+    const QString file = path("\xE6\x9D\x90 \"a'b\" %1.vxmat");
+    ASSERT_TRUE(run("Std_SaveAs", file));
+    ASSERT_TRUE(run("Mat_DelDoc"));
+    ASSERT_TRUE(run("Std_Open", file));
+    EXPECT_NE(findMaterial("Steel"), nullptr);
+}
+
+TEST_F(Files, KeepACopyAfterEveryApply)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    EXPECT_EQ(copies().size(), 0);
+    editModulus(steel, QStringLiteral("1e9")).findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    ASSERT_EQ(copies().size(), 1);
+    EXPECT_TRUE(contentOf(copies().front()).contains("1000000000") || contentOf(copies().front()).contains("1e+09"));
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    EXPECT_EQ(copies().size(), 0);
+}
+
+TEST_F(Files, KeepNoCopyOfWhatHasNotChanged)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    files->keepCopies();
+    EXPECT_EQ(copies().size(), 0);
+}
+
+TEST_F(Files, OfferWhatACrashLeftBehind)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QByteArray saved = contentOf(path("a.vxmat"));
+    addMaterial("Unsaved");
+    files->keepCopies();
+    crash();
+    {
+        const Answers answers({"Recover"});
+        files->offer_recovery();
+    }
+    ASSERT_NE(currentProject(), nullptr);
+    EXPECT_NE(findMaterial("Unsaved"), nullptr);
+    EXPECT_TRUE(isModified());
+    EXPECT_EQ(files->get_file(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
+    EXPECT_EQ(contentOf(path("a.vxmat")), saved);
+    EXPECT_EQ(copies().size(), 1) << "kept until it is saved";
+    {
+        const Answers answers({"Replace"});
+        run("Std_Save");
+    }
+    EXPECT_EQ(copies().size(), 0);
+    EXPECT_FALSE(contentOf(path("a.vxmat")).contains("recovered_file"));
+}
+
+TEST_F(Files, OfferACrashOfAProjectWithoutAFile)
+{
+    newProject();
+    addMaterial("Unsaved");
+    files->keepCopies();
+    crash();
+    const Answers answers({"Recover"});
+    files->offer_recovery();
+    EXPECT_NE(findMaterial("Unsaved"), nullptr);
+    EXPECT_EQ(files->get_file(*currentProject()), "");
+}
+
+TEST_F(Files, OfferACrashAgainLater)
+{
+    newProject();
+    addMaterial("Unsaved");
+    files->keepCopies();
+    crash();
+    {
+        const Answers answers({"Later"});
+        files->offer_recovery();
+    }
+    EXPECT_EQ(currentProject(), nullptr);
+    {
+        const Answers answers({"Discard"});
+        files->offer_recovery();
+    }
+    EXPECT_EQ(copies().size(), 0);
+    const Answers none;
+    files->offer_recovery();
+}
+
+TEST_F(Files, KeepACopyThatCannotBeRead)
+{
+    newProject();
+    addMaterial("Unsaved");
+    files->keepCopies();
+    crash();
+    const QString copy = copies().front();
+    writeFile(copy, "not JSON");
+    const Answers answers({"Recover", "OK"});
+    files->offer_recovery();
+    EXPECT_EQ(contentOf(copy), "not JSON");
+}
+
+TEST_F(Files, DoNotOfferTheCopyOfAProgramThatRuns)
+{
+    newProject();
+    addMaterial();
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 1);
+    const Answers none;
+    files->offer_recovery();
+}
+
+} // namespace

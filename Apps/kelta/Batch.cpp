@@ -60,6 +60,9 @@ private:
         for (const auto button : {QMessageBox::Yes, QMessageBox::Ok})
             if (QAbstractButton* const found = box->button(button))
                 return found->click();
+        for (QAbstractButton* const button : box->buttons())
+            if (box->buttonRole(button) == QMessageBox::DestructiveRole)
+                return button->click();
         box->reject();
     }
 
@@ -192,6 +195,11 @@ std::optional<QString> Batch::runLine(const QString& line)
     if (words.isEmpty() || line.trimmed().startsWith(QLatin1Char('#')))
         return std::nullopt;
     const QString name = words.takeFirst();
+    return run_command(name, words);
+}
+
+std::optional<QString> Batch::run_command(const QString& name, const QStringList& words)
+{
     const BoxAnswers boxes;
     const std::size_t errorsBefore = Kelta::MessageLog::instance().errorCount();
     const auto verb = verbs().find(name);

@@ -17,7 +17,8 @@ namespace kelta {
 /// double quotes. Empty lines and lines that begin with "#" are passed over. Verbs are what has no command of its own;
 /// `kelta --help` and docs/kelta.md list them.
 ///
-/// Message boxes that come up are answered with OK, or Yes, and written to standard error. A command fails when it does
+/// Message boxes that come up are written to standard error and answered with OK or Yes, or else, as a list says itself
+/// what is to be saved, with discarding; or else they are given up. A command fails when it does
 /// not exist, cannot be applied now, reports an error to the message log or shows a critical box or a warning.
 class KELTA_BATCH_EXPORT Batch
 {
@@ -33,6 +34,8 @@ public:
     static int run(const QString& text, const QString& fileName);
     /// Likewise for a file, or standard input for "-"; 2 when it cannot be read.
     static int run_file(const QString& path);
+    /// Runs one command or verb as a line of a list does. Answers what went wrong, absent when nothing did.
+    static std::optional<QString> run_command(const QString& name, const QStringList& arguments);
 
 private:
     static std::optional<QString> runLine(const QString& line);

@@ -24,7 +24,7 @@ Mat::MaterialObject* materialOf(const Gui::MDIWindow& window)
 
 } // namespace
 
-EditorWatch::EditorWatch(Gui::MainWindow& mainWindow) : m_mainWindow(mainWindow)
+EditorWatch::EditorWatch(Gui::MainWindow& mainWindow) : QObject(&mainWindow), m_mainWindow(mainWindow)
 {
     connect(&mainWindow, &Gui::MainWindow::mdi_window_added, this, &EditorWatch::watch);
     // What is undone or done by command while the editor is open is not the editor's doing.

@@ -23,6 +23,7 @@ class EditorWatch : public QObject
     Q_OBJECT
 
 public:
+    /// Belongs to the main window.
     explicit EditorWatch(Gui::MainWindow& mainWindow);
     ~EditorWatch() override;
 

@@ -398,7 +398,7 @@ bool ProjectFiles::mayClose(Obj::Project& project)
     const bool hasEditors = !changedEditors(project).empty();
     if (materials == nullptr || (!hasChanges && !hasEditors))
         return true;
-    const int choice = ask(m_mainWindow, QMessageBox::Warning, tr("Unsaved changes"),
+    const int choice = ask(m_mainWindow, QMessageBox::Question, tr("Unsaved changes"),
                            hasChanges ? tr("The changes of the project \"%1\" have not been saved.").arg(nameOf(project))
                                       : tr("Changes in open editors have not been applied."),
                            hasChanges && hasEditors ? tr("Changes in open editors have not been applied.") : QString(),

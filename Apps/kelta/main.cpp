@@ -113,29 +113,33 @@ void updateTitle(Gui::MainWindow& window)
     window.setWindowModified(files != nullptr && project != nullptr && files->is_modified(*project));
 }
 
-/// Opens the files that the program was started with.
-bool openFiles(const std::vector<std::string>& paths)
+/// Opens the files that the program was started with, and before them what an earlier run has left behind.
+void openFiles(const std::vector<std::string>& paths)
 {
     kelta::FileService* const files = kelta::FileService::instance();
+    if (files != nullptr)
+        files->offer_recovery();
     for (const std::string& path : paths) {
         const QString file = QFile::decodeName(path.c_str());
-        if (files == nullptr)
+        if (files != nullptr)
+            files->open(file);
+        else
             Kelta::MessageLog::error(
                 QCoreApplication::translate("kelta", "\"%1\" cannot be opened without the materials module.").arg(file));
-        if (files == nullptr || !files->open(file))
+    }
+}
+
+/// Likewise in a program that nobody watches: false when one cannot be opened, which standard error then says.
+bool openFilesAlone(const std::vector<std::string>& paths)
+{
+    for (const std::string& path : paths) {
+        const auto failure = kelta::Batch::run_command(QStringLiteral("Std_Open"), {QFile::decodeName(path.c_str())});
+        if (failure)
+            QTextStream(stderr) << "kelta: " << *failure << '\n';
+        if (failure)
             return false;
     }
     return true;
-}
-
-/// Once the window is there, since questions may be asked: first about what an earlier run has left behind.
-void openLater(Gui::MainWindow& window, const std::vector<std::string>& files)
-{
-    QTimer::singleShot(0, &window, [files] {
-        if (kelta::FileService* const service = kelta::FileService::instance())
-            service->offer_recovery();
-        openFiles(files);
-    });
 }
 
 QtMessageHandler passOn = nullptr;
@@ -178,9 +182,10 @@ int runWithWindows(int& argc, char** argv, const Options& options)
             window.restore_layout();
         window.show();
         if (runsAlone(options)) {
-            status = openFiles(options.files) ? runAlone(window, options) : 2;
+            status = openFilesAlone(options.files) ? runAlone(window, options) : 2;
         } else {
-            openLater(window, options.files);
+            // Once the window is there, since questions may be asked.
+            QTimer::singleShot(0, &window, [&options] { openFiles(options.files); });
             status = QApplication::exec();
         }
         // What needs the module has not been done.

@@ -91,6 +91,12 @@ Mat::DocumentMaterial& Files::newProject()
     return *currentProject();
 }
 
+bool Files::closeProject()
+{
+    Gui::TreeSelectionSingleton::instance().set_selection({currentProject()}, {});
+    return run("Mat_DelDoc");
+}
+
 Mat::MaterialObject& Files::addMaterial(const std::string& label)
 {
     EXPECT_TRUE(vxMsg::MessageProxy::instance().addMaterial(currentProject()->get_name(), label));

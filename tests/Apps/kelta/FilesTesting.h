@@ -65,6 +65,8 @@ protected:
     static QUndoStack& history() { return vxMsg::MessageProxy::instance().undoStack(); }
 
     static Mat::DocumentMaterial& newProject();
+    /// Closes the current project, as its menu entry does.
+    static bool closeProject();
     static Mat::MaterialObject& addMaterial(const std::string& label = "Steel");
     static Mat::DocumentMaterial* currentProject();
     static Mat::MaterialObject* findMaterial(const std::string& label);

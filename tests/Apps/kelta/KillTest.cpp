@@ -2,6 +2,7 @@
 
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/model/MaterialLibrary.h"
+#include "vxMaterial/model/PropertyId.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,17 +16,15 @@
 
 namespace {
 
-/// The density is the number of the change, so that a file tells how far the program had come.
-constexpr std::int32_t densityId = 1;
-
-/// The change that a project file holds. Fails the test when it is not whole.
+/// The change that a project file holds: its number is the density of the first material. Fails the test when the file
+/// is not whole.
 int changeIn(const QString& path)
 {
     try {
         const projectfile::ProjectRecord project = projectfile::readProject(vxtest::readFile(path).toStdString());
         EXPECT_EQ(project.objects.size(), 200U) << path.toStdString();
         double density = 0;
-        EXPECT_TRUE(project.objects.at(0).material->getPropertyValue(densityId, density));
+        EXPECT_TRUE(project.objects.at(0).material->getPropertyValue(vxMat::PropertyId::Density, density));
         return static_cast<int>(std::lround(density));
     } catch (const std::exception& error) {
         ADD_FAILURE() << path.toStdString() << ": " << error.what();

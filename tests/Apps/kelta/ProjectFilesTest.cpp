@@ -1,6 +1,5 @@
 #include "FilesTesting.h"
 
-#include "Gui/EditCommands.h"
 #include "Kelta/MessageLog.h"
 
 #include <QAbstractButton>
@@ -34,9 +33,8 @@ TEST_F(Files, GiveBackTheSameTreeWithNumbersNamesAndLabels)
         Gui::GuiApplication::Instance->get_view_feeder(&steel)->get_property_by_name("MaterialColor"));
     colour->setValue({0.25F, 0.5F, 0.75F, 1.0F});
     ASSERT_TRUE(vxMsg::MessageProxy::instance().deleteObject(currentProject()->get_name(), "Gone"));
-    const std::string name = currentProject()->get_name();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
-    ASSERT_TRUE(run("Mat_DelDoc"));
+    ASSERT_TRUE(closeProject());
     history().clear();
     Obj::Application::instance().close_all_projects();
 
@@ -60,7 +58,6 @@ TEST_F(Files, GiveBackTheSameTreeWithNumbersNamesAndLabels)
     EXPECT_FALSE(isModified());
     // Not even the number of the one that was deleted is used again.
     EXPECT_EQ(addMaterial("Next").getObjectId(), 4U);
-    static_cast<void>(name);
 }
 
 TEST_F(Files, AreTheSameBytesWhenNothingHasChanged)
@@ -131,9 +128,9 @@ TEST_F(Files, AreUnmodifiedAgainWhenTheChangeIsUndone)
 TEST_F(Files, StayModifiedWhenTheHistoryEnds)
 {
     newProject();
-    Mat::MaterialObject& steel = addMaterial();
+    addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
-    ASSERT_TRUE(Gui::editProperty(steel, "Label", "Other"));
+    addMaterial("Another");
     history().clear();
     EXPECT_TRUE(isModified());
 }
@@ -184,9 +181,12 @@ TEST_F(Files, MakeNoStepOfAnApplyThatChangesNothing)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
-    const int steps = history().count();
     Gui::GuiApplication::Instance->get_view_feeder(&steel)->setEdit(0);
-    window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    auto* const apply = window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"));
+    // The first time the properties lose their units and categories, which the table does not have.
+    apply->click();
+    const int steps = history().count();
+    apply->click();
     EXPECT_EQ(history().count(), steps);
 }
 
@@ -195,10 +195,12 @@ TEST_F(Files, TakeNoExportForAnApply)
     newProject();
     Mat::MaterialObject& steel = addMaterial();
     Gui::GuiApplication::Instance->get_view_feeder(&steel)->setEdit(0);
+    auto* const apply = window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"));
+    apply->click();
     steel.label.setValue("Renamed");
     const int steps = history().count();
     ASSERT_TRUE(run("Mat_Export", path("a.json")));
-    window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
+    apply->click();
     EXPECT_EQ(history().count(), steps);
 }
 
@@ -233,7 +235,7 @@ TEST_F(Files, SaveNothingWhenAnEditorCannotApply)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
-    editModulus(steel, QStringLiteral("-1"));
+    editModulus(steel, QStringLiteral("stiff"));
     const Answers answers({"Apply", "OK"});
     run("Std_SaveAs", path("a.vxmat"));
     EXPECT_THAT(text(answers.boxes()), HasSubstr("Invalid material"));
@@ -246,13 +248,13 @@ TEST_F(Files, AskBeforeAProjectWithChangesIsClosed)
     addMaterial();
     {
         const Answers answers({"Cancel"});
-        run("Mat_DelDoc");
+        closeProject();
         EXPECT_THAT(text(answers.boxes()), HasSubstr("have not been saved"));
     }
     ASSERT_NE(currentProject(), nullptr);
     {
         const Answers answers({"Discard"});
-        run("Mat_DelDoc");
+        closeProject();
     }
     EXPECT_EQ(currentProject(), nullptr);
 }
@@ -263,7 +265,7 @@ TEST_F(Files, SaveAProjectThatIsClosedWhenAskedTo)
     addMaterial();
     Gui::FileDialog::answer_next(path("a.vxmat"));
     const Answers answers({"Save"});
-    run("Mat_DelDoc");
+    closeProject();
     EXPECT_EQ(currentProject(), nullptr);
     EXPECT_TRUE(QFileInfo::exists(path("a.vxmat")));
 }
@@ -274,7 +276,7 @@ TEST_F(Files, KeepAProjectThatCouldNotBeSavedOpen)
     addMaterial();
     Gui::FileDialog::answer_next(path("missing/a.vxmat"));
     const Answers answers({"Save", "OK"});
-    run("Mat_DelDoc");
+    closeProject();
     EXPECT_NE(currentProject(), nullptr);
     EXPECT_TRUE(isModified());
 }
@@ -285,7 +287,7 @@ TEST_F(Files, CloseAProjectWithoutChangesWithoutAsking)
     addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     const Answers answers;
-    run("Mat_DelDoc");
+    closeProject();
     EXPECT_EQ(currentProject(), nullptr);
 }
 
@@ -294,7 +296,7 @@ TEST_F(Files, KnowTheirProjectAgainWhenClosingIsUndone)
     newProject();
     addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
-    ASSERT_TRUE(run("Mat_DelDoc"));
+    ASSERT_TRUE(closeProject());
     history().undo();
     ASSERT_NE(currentProject(), nullptr);
     EXPECT_EQ(files->get_file(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
@@ -402,7 +404,7 @@ TEST_F(Files, WarnOfASecondProgramOnTheSameFile)
     newProject();
     addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
-    ASSERT_TRUE(run("Mat_DelDoc"));
+    ASSERT_TRUE(closeProject());
     projectfile::FileLock other(path("a.vxmat"));
     ASSERT_TRUE(other.tryLock());
     {
@@ -434,7 +436,7 @@ TEST_F(Files, HavePathsWithBlanksQuotesAndChineseCharacters)
     addMaterial();
     const QString file = path("\xE6\x9D\x90 \"a'b\" %1.vxmat");
     ASSERT_TRUE(run("Std_SaveAs", file));
-    ASSERT_TRUE(run("Mat_DelDoc"));
+    ASSERT_TRUE(closeProject());
     ASSERT_TRUE(run("Std_Open", file));
     EXPECT_NE(findMaterial("Steel"), nullptr);
 }
@@ -481,7 +483,8 @@ TEST_F(Files, OfferWhatACrashLeftBehind)
     EXPECT_EQ(copies().size(), 1) << "kept until it is saved";
     {
         const Answers answers({"Replace"});
-        run("Std_Save");
+        EXPECT_TRUE(files->save(*currentProject()));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("before the project was recovered"));
     }
     EXPECT_EQ(copies().size(), 0);
     EXPECT_FALSE(contentOf(path("a.vxmat")).contains("recovered_file"));

@@ -2,56 +2,11 @@
 
 #include "RecordReading.h"
 #include "RecordWriting.h"
-#include "ValueSource.h"
-
-#include <json/writer.h>
 
 #include <algorithm>
 #include <utility>
 
 namespace projectfile {
-
-namespace detail {
-
-JsonKind ValueSource::kind() const
-{
-    switch (m_value->type()) {
-    case Json::nullValue:
-        break;
-    case Json::intValue:
-    case Json::uintValue:
-    case Json::realValue:
-        return JsonKind::Number;
-    case Json::stringValue:
-        return JsonKind::Text;
-    case Json::booleanValue:
-        return JsonKind::Boolean;
-    case Json::arrayValue:
-        return JsonKind::Array;
-    case Json::objectValue:
-        return JsonKind::Object;
-    }
-    return JsonKind::Null;
-}
-
-std::optional<std::int64_t> ValueSource::readWhole() const
-{
-    return m_value->isInt64() ? std::optional<std::int64_t>(m_value->asInt64()) : std::nullopt;
-}
-
-std::string ValueSource::shown() const
-{
-    if (m_value->isObject())
-        return "an object";
-    if (m_value->isArray())
-        return "an array";
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "";
-    builder["emitUTF8"] = true;
-    return shortened(Json::writeString(builder, *m_value));
-}
-
-} // namespace detail
 
 namespace {
 
@@ -121,8 +76,7 @@ Json::Value writeMaterial(const vxMat::MaterialBase& material)
 void readMaterial(vxMat::MaterialBase& material, const Json::Value& record)
 {
     vxMat::MaterialBase read;
-    detail::ValueSource source(record);
-    detail::readMaterialRecord(source, read, nullptr, nullptr);
+    detail::readMaterialRecord(record, read);
     material.id = read.id;
     material.name = std::move(read.name);
     material.libraryGroup = read.libraryGroup;

@@ -63,6 +63,8 @@ struct PROJECTFILE_EXPORT ProjectRecord
 };
 
 /// The text of a project file, in UTF-8. A property is a line, so that version control shows what changed.
+/// \throws ProjectFileError when it would not read back as the same: a text that is not UTF-8, or what readProject
+/// refuses
 PROJECTFILE_EXPORT std::string writeProject(const ProjectRecord& project);
 
 /// The project that a text describes.

@@ -140,7 +140,7 @@ std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text)
 
 } // namespace
 
-JsonReading readJsonText(std::string_view text)
+JsonReading readJsonText(std::string_view text, JsonDialect dialect)
 {
     JsonReading reading;
     reading.error = findWhatTheLibraryOverlooks(text);
@@ -148,6 +148,8 @@ JsonReading readJsonText(std::string_view text)
         return reading;
 
     Json::CharReaderBuilder builder;
+    if (dialect == JsonDialect::Strict)
+        Json::CharReaderBuilder::strictMode(&builder.settings_);
     builder["failIfExtra"] = true;
     builder["allowTrailingCommas"] = false;
     builder["stackLimit"] = deepestNesting;

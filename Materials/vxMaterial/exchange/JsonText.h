@@ -26,14 +26,22 @@ struct JsonReading
     std::optional<JsonError> error;
 };
 
-/// Reads a JSON text, UTF-8. Comments are accepted, text after the document is not. Whatever the text is, the answer is
+/// What a JSON text may hold beside what the standard says.
+enum class JsonDialect
+{
+    WithComments, ///< comments; of a member that stands twice the last counts
+    Strict,       ///< neither comments nor members that stand twice; the document is an object or an array
+};
+
+/// Reads a JSON text, UTF-8. Text after the document is not accepted. Whatever the text is, the answer is
 /// a document or an error. What the JSON library would take for something else is an error too: numbers that are none
 /// in JSON ("-", which it reads as 0, "01", "1.") or that a double cannot hold, nesting deeper than it follows (1000
 /// levels), bytes that are not UTF-8 or zero.
 ///
 /// The decimal point is a point in any locale. For that the global locale is the classic one while the text is read, so
 /// no other thread must depend on it meanwhile.
-[[nodiscard]] VXCAE_EXPORT JsonReading readJsonText(std::string_view text);
+[[nodiscard]] VXCAE_EXPORT JsonReading readJsonText(std::string_view text,
+                                                    JsonDialect dialect = JsonDialect::WithComments);
 
 /// A document as documents are kept in files: one member a line, indented by three blanks, members in the order of
 /// their keys. JSON has no word for what is not finite: an infinite number is written as 1e+9999, which readJsonText

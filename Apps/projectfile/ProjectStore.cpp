@@ -1,0 +1,299 @@
+#include "projectfile/ProjectStore.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
+#include <QSysInfo>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace projectfile {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("projectfile::ProjectStore", text);
+}
+
+QString reasonOf(int errorNumber)
+{
+    return QString::fromLocal8Bit(std::strerror(errorNumber));
+}
+
+[[noreturn]] void fail(const QString& path, const QString& reason)
+{
+    throw StoreError(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason).toStdString());
+}
+
+/// A name as the system has it. What Qt takes for a resource, or cannot keep, would be another file.
+QByteArray systemName(const QString& path)
+{
+    if (path.isEmpty())
+        throw StoreError(tr("The name of a file is empty.").toStdString());
+    return QFile::encodeName(path);
+}
+
+/// A path as Qt takes it for a file whatever it begins with.
+QString filePath(const QString& path)
+{
+    return path.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + path : path;
+}
+
+/// The file that a path leads to over symbolic links, whether it is there or not.
+QString targetOf(const QString& path)
+{
+    constexpr int mostLinks = 40; // as the system has it
+    QString target = filePath(path);
+    for (int links = 0; QFileInfo(target).isSymLink(); ++links) {
+        if (links == mostLinks)
+            fail(path, reasonOf(ELOOP));
+        target = QFileInfo(target).symLinkTarget();
+    }
+    return target;
+}
+
+/// An open file of the system, closed in the end.
+class Descriptor
+{
+public:
+    explicit Descriptor(int number) : m_number(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor()
+    {
+        if (m_number >= 0)
+            close(m_number);
+    }
+    int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+
+struct stat statusOf(int descriptor, const QString& path)
+{
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0)
+        fail(path, reasonOf(errno));
+    return status;
+}
+
+[[noreturn]] void refuseKind(const QString& path, mode_t mode)
+{
+    fail(path, S_ISDIR(mode) ? tr("This is a folder; a file is needed.")
+                             : tr("This is a device or a pipe; a file is needed."));
+}
+
+QDateTime timeOf(const struct stat& status)
+{
+    constexpr qint64 perSecond = 1000;
+    constexpr qint64 nanoseconds = 1000000;
+    return QDateTime::fromMSecsSinceEpoch(status.st_mtim.tv_sec * perSecond + status.st_mtim.tv_nsec / nanoseconds);
+}
+
+FileStamp stampOf(const struct stat& status, const std::string& content)
+{
+    // Against accidents, not against forgers; of what Qt has, it is the fastest.
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    constexpr std::size_t block = 1U << 30U; // the length is an int
+    for (std::size_t at = 0; at < content.size(); at += block)
+        hash.addData(content.data() + at, static_cast<int>(std::min(block, content.size() - at)));
+    return {static_cast<qint64>(status.st_size), timeOf(status), hash.result()};
+}
+
+/// Up to `size` bytes and one more, by which it shows that there are more.
+std::string readUpTo(std::size_t size, int descriptor, const QString& path)
+{
+    std::string content(size + 1, '\0');
+    std::size_t count = 0;
+    while (count < content.size()) {
+        const ssize_t got = read(descriptor, content.data() + count, content.size() - count);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            fail(path, reasonOf(errno));
+        if (got == 0)
+            break;
+        count += static_cast<std::size_t>(got);
+    }
+    content.resize(count);
+    return content;
+}
+
+bool isSame(const struct stat& before, const struct stat& after)
+{
+    return before.st_size == after.st_size && before.st_mtim.tv_sec == after.st_mtim.tv_sec &&
+           before.st_mtim.tv_nsec == after.st_mtim.tv_nsec;
+}
+
+/// Makes sure that the file may be replaced. Answers what it is now; absent when there is none.
+void checkTarget(const QString& path, const QString& target)
+{
+    struct stat status = {};
+    if (stat(systemName(target).constData(), &status) == 0) {
+        if (!S_ISREG(status.st_mode))
+            refuseKind(path, status.st_mode);
+        return;
+    }
+    if (errno != ENOENT && errno != ENOTDIR)
+        fail(path, reasonOf(errno));
+    const QFileInfo folder(QFileInfo(target).path());
+    if (!folder.exists())
+        fail(path, tr("The folder '%1' does not exist.").arg(QDir::toNativeSeparators(folder.filePath())));
+    if (!folder.isDir())
+        fail(path, tr("'%1' is a file; a folder is needed.").arg(QDir::toNativeSeparators(folder.filePath())));
+}
+
+/// A file of another user stays that user's, where the system allows that.
+void keepOwner(const QString& target, int descriptor)
+{
+    struct stat status = {};
+    struct stat ours = {};
+    if (stat(systemName(target).constData(), &status) != 0 || fstat(descriptor, &ours) != 0)
+        return;
+    if (status.st_uid == ours.st_uid && status.st_gid == ours.st_gid)
+        return;
+    // Changing the owner takes away permissions, which are those of the old file already.
+    if (fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
+        fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0)
+        static_cast<void>(fchmod(descriptor, status.st_mode & 07777U));
+}
+
+/// Waits until the disk has it. Some file systems cannot tell, which is no failure.
+bool reachesDisk(int descriptor)
+{
+    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOSYS;
+}
+
+void syncFolder(const QString& folder)
+{
+    const Descriptor opened(open(systemName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    // The file is safe, under its old name or the new one; that the folder is too cannot be had everywhere.
+    if (opened.number() >= 0)
+        static_cast<void>(fsync(opened.number()));
+}
+
+QString lockPathOf(const QString& path)
+{
+    const QFileInfo target(targetOf(path));
+    return QDir(target.path()).filePath(QStringLiteral(".%1.lock").arg(target.fileName()));
+}
+
+} // namespace
+
+StoreError::~StoreError() = default;
+
+std::string readFile(const QString& path, FileStamp* stamp)
+{
+    constexpr off_t most = off_t{1} << 31U;
+    // A pipe without a writer would have the opening wait for one.
+    const Descriptor file(open(systemName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (file.number() < 0)
+        fail(path, reasonOf(errno));
+    const struct stat before = statusOf(file.number(), path);
+    if (!S_ISREG(before.st_mode))
+        refuseKind(path, before.st_mode);
+    if (before.st_size > most)
+        fail(path, tr("The file is too large for a project."));
+
+    std::string content;
+    try {
+        content = readUpTo(static_cast<std::size_t>(before.st_size), file.number(), path);
+    } catch (const std::bad_alloc&) {
+        fail(path, tr("The file is too large for the memory."));
+    }
+    if (content.size() != static_cast<std::size_t>(before.st_size) || !isSame(before, statusOf(file.number(), path)))
+        fail(path, tr("Another program changed the file while it was read. Try again."));
+    if (stamp != nullptr)
+        *stamp = stampOf(before, content);
+    return content;
+}
+
+FileStamp writeFile(const QString& path, const std::string& text)
+{
+    static_cast<void>(systemName(path));
+    const QString target = targetOf(path);
+    checkTarget(path, target);
+
+    const auto size = static_cast<qint64>(text.size());
+    QSaveFile file(target);
+    file.setDirectWriteFallback(false);
+    if (!file.open(QIODevice::WriteOnly))
+        fail(path, file.errorString());
+    keepOwner(target, file.handle());
+    // commit() does not notice that the last of the text could not be written; flush() does.
+    if (file.write(text.data(), size) != size || !file.flush())
+        fail(path, file.errorString());
+    if (!reachesDisk(file.handle()))
+        fail(path, reasonOf(errno));
+    const FileStamp stamp = stampOf(statusOf(file.handle(), path), text);
+    if (!file.commit())
+        fail(path, file.errorString());
+    syncFolder(QFileInfo(target).path());
+    return stamp;
+}
+
+bool hasChanged(const QString& path, const FileStamp& stamp)
+{
+    struct stat status = {};
+    if (stat(systemName(path).constData(), &status) != 0)
+        return stamp.size >= 0;
+    if (stamp.size < 0 || stamp.size != static_cast<qint64>(status.st_size))
+        return true;
+    // The time says nothing: a file that was only touched has another, and one that was written right after the stamp
+    // may have the same.
+    try {
+        FileStamp now;
+        readFile(path, &now);
+        return now.checksum != stamp.checksum;
+    } catch (const StoreError&) {
+        return true;
+    }
+}
+
+FileLock::FileLock(const QString& path) : m_lock(std::make_unique<QLockFile>(lockPathOf(path)))
+{
+    // However old a lock is, its program may still be there.
+    m_lock->setStaleLockTime(0);
+}
+
+FileLock::~FileLock() = default;
+FileLock::FileLock(FileLock&&) noexcept = default;
+FileLock& FileLock::operator=(FileLock&&) noexcept = default;
+
+bool FileLock::tryLock()
+{
+    return m_lock->tryLock(0);
+}
+
+bool FileLock::isLocked() const
+{
+    return m_lock->isLocked();
+}
+
+QString FileLock::holder() const
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (!m_lock->getLockInfo(&process, &host, &program))
+        return {};
+    const bool isHere = host == QSysInfo::machineHostName();
+    if (isHere && kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH)
+        return {};
+    return QStringLiteral("%1 (%2 on %3)").arg(program, QString::number(process), host);
+}
+
+} // namespace projectfile

@@ -21,7 +21,7 @@ QAction* CommandBase::new_action(QObject* parent)
 {
     m_action = new QAction(parent);
     if (*get_pixmap() != '\0')
-        m_action->setIcon(PictureFactory::get_pixmap(get_pixmap()));
+        m_action->setIcon(PictureFactory::get_icon(QString::fromUtf8(get_pixmap())));
     m_action->setShortcut(get_shortcut());
     on_language_changed();
     return m_action;

@@ -1,5 +1,6 @@
 #include "Gui/GuiApplication.h"
 
+#include "HostStyle.h"
 #include "StandardCommands.h"
 
 #include "Gui/GuiProject.h"
@@ -31,6 +32,7 @@ void initGui()
 GuiApplication::GuiApplication(int& argc, char** argv) : QApplication(argc, argv)
 {
     Instance = this;
+    setStyle(new HostStyle);
     initGui();
     // Made now, so that it hears of all that happens to projects.
     vxMsg::MessageProxy::instance();

@@ -208,6 +208,10 @@ void MainWindow::createDocks()
     m_explorer = new ProjectExplorer;
     m_properties = new PropertyPanel;
     m_log = new MessageLogView;
+    // The edges of the docks are frame enough.
+    for (QFrame* const view :
+         {static_cast<QFrame*>(m_explorer), static_cast<QFrame*>(m_properties), static_cast<QFrame*>(m_log)})
+        view->setFrameShape(QFrame::NoFrame);
     addDock(Qt::LeftDockWidgetArea, "ProjectExplorer", tr("Project explorer"), m_explorer);
     addDock(Qt::LeftDockWidgetArea, "PropertyPanel", tr("Properties"), m_properties);
     addDock(Qt::BottomDockWidgetArea, "MessageLog", tr("Messages"), m_log);

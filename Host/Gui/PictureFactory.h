@@ -2,6 +2,7 @@
 
 #include "Gui/GuiExport.h"
 
+#include <QIcon>
 #include <QPixmap>
 
 namespace Gui {
@@ -14,6 +15,9 @@ public:
     /// pixels. A plain grey square when there is none, so that what shows it keeps its place; reported once.
     static QPixmap get_pixmap(const QString& nameOrPath, int size = 32);
     static QPixmap get_pixmap(const char* nameOrPath) { return get_pixmap(QString::fromUtf8(nameOrPath)); }
+
+    /// The same picture as an icon, which is drawn when it is first seen and sharp at every size.
+    static QIcon get_icon(const QString& nameOrPath);
 };
 
 } // namespace Gui

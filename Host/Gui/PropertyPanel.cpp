@@ -72,7 +72,6 @@ PropertyPanel::PropertyPanel(QWidget* parent) : QTreeWidget(parent)
     setObjectName(QStringLiteral("propertyPanel"));
     setColumnCount(2);
     retranslate();
-    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     setAlternatingRowColors(true);
     setItemDelegate(new ValueDelegate(this));
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
@@ -97,6 +96,9 @@ void PropertyPanel::showSelection()
         if (owner != nullptr)
             addProperties(*owner);
     const std::size_t count = TreeSelectionSingleton::instance().get_count();
+    // The columns are properties and values, not sentences.
+    setHeaderHidden(count != 1);
+    header()->setSectionResizeMode(0, count == 1 ? QHeaderView::ResizeToContents : QHeaderView::Fixed);
     if (count != 1) {
         const QString text = count == 0 ? tr("Nothing is selected.") : tr("%1 entries are selected.").arg(count);
         auto* const item = new QTreeWidgetItem(this, {text});

@@ -4,8 +4,12 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
+
+#include <algorithm>
+#include <iterator>
 
 namespace Gui {
 
@@ -17,13 +21,17 @@ QStringList endingsFor(const QString& language)
     return {language, language.section(QLatin1Char('_'), 0, 0)};
 }
 
-QStringList filesFor(const QString& language, const QString& folder, const QString& stem)
+/// The files of `names` that serve the language best. Names are compared as they are: patterns would have to be compiled,
+/// at each start of the program.
+QStringList filesFor(const QString& language, const QStringList& names)
 {
     for (const QString& ending : endingsFor(language)) {
-        QStringList names =
-            QDir(folder).entryList({QStringLiteral("%1_%2.qm").arg(stem, ending)}, QDir::Files, QDir::Name);
-        if (!names.isEmpty())
-            return names;
+        const QString end = QStringLiteral("_%1.qm").arg(ending);
+        QStringList files;
+        std::copy_if(names.begin(), names.end(), std::back_inserter(files),
+                     [&end](const QString& name) { return name.endsWith(end); });
+        if (!files.isEmpty())
+            return files;
     }
     return {};
 }
@@ -62,10 +70,16 @@ void Translator::refresh()
     clear();
     // The toolkit's own texts, such as those of the buttons of message boxes.
     const QString toolkitFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    for (const QString& name : filesFor(m_language, toolkitFolder, QStringLiteral("qtbase")))
-        load(toolkitFolder, name);
+    QStringList toolkitFiles;
+    for (const QString& ending : endingsFor(m_language))
+        toolkitFiles << QStringLiteral("qtbase_%1.qm").arg(ending);
+    const auto present = std::find_if(toolkitFiles.begin(), toolkitFiles.end(), [&toolkitFolder](const QString& name) {
+        return QFileInfo::exists(QDir(toolkitFolder).filePath(name));
+    });
+    if (present != toolkitFiles.end())
+        load(toolkitFolder, *present);
     for (const QString& folder : m_folders)
-        for (const QString& name : filesFor(m_language, folder, QStringLiteral("*")))
+        for (const QString& name : filesFor(m_language, QDir(folder).entryList(QDir::Files, QDir::Name)))
             load(folder, name);
     Q_EMIT languageChanged();
 }

@@ -2,18 +2,18 @@
 
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
+#include "vxMaterial/exchange/JsonText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <json/reader.h>
 
 #include <cstdint>
 #include <limits>
-#include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace kelta {
 
@@ -21,15 +21,10 @@ namespace {
 
 Json::Value readDocument(const QString& path)
 {
-    const std::string text = projectfile::readFile(path);
-    Json::CharReaderBuilder builder;
-    Json::CharReaderBuilder::strictMode(&builder.settings_);
-    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    Json::Value document;
-    std::string errors;
-    if (!reader->parse(text.data(), text.data() + text.size(), &document, &errors))
-        throw std::runtime_error(path.toStdString() + ": " + errors);
-    return document;
+    vxCAE::JsonReading reading = vxCAE::readJsonText(projectfile::readFile(path), vxCAE::JsonDialect::Strict);
+    if (reading.error)
+        throw std::runtime_error(path.toStdString() + ": " + reading.error->message);
+    return std::move(reading.document);
 }
 
 } // namespace

@@ -87,7 +87,7 @@ bool Files::run(const char* command, const QString& file)
 
 Mat::DocumentMaterial& Files::newProject()
 {
-    EXPECT_TRUE(run("Mat_NewDoc"));
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().newProject("Materials"));
     return *currentProject();
 }
 

@@ -13,14 +13,14 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 using vxtest::Answers;
-using vxtest::Files;
+using ProjectFiles = vxtest::Files;
 
 std::string text(const QStringList& lines)
 {
     return lines.join('\n').toStdString();
 }
 
-TEST_F(Files, GiveBackTheSameTreeWithNumbersNamesAndLabels)
+TEST_F(ProjectFiles, GiveBackTheSameTreeWithNumbersNamesAndLabels)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial("Steel");
@@ -60,7 +60,7 @@ TEST_F(Files, GiveBackTheSameTreeWithNumbersNamesAndLabels)
     EXPECT_EQ(addMaterial("Next").getObjectId(), 4U);
 }
 
-TEST_F(Files, AreTheSameBytesWhenNothingHasChanged)
+TEST_F(ProjectFiles, AreTheSameBytesWhenNothingHasChanged)
 {
     newProject();
     addMaterial();
@@ -70,7 +70,7 @@ TEST_F(Files, AreTheSameBytesWhenNothingHasChanged)
     EXPECT_EQ(contentOf(path("a.vxmat")), before);
 }
 
-TEST_F(Files, KeepMembersThatThisProgramDoesNotKnow)
+TEST_F(ProjectFiles, KeepMembersThatThisProgramDoesNotKnow)
 {
     newProject();
     addMaterial();
@@ -88,7 +88,7 @@ TEST_F(Files, KeepMembersThatThisProgramDoesNotKnow)
     EXPECT_TRUE(saved.contains("Another"));
 }
 
-TEST_F(Files, MarkTheProjectThatHasChanges)
+TEST_F(ProjectFiles, MarkTheProjectThatHasChanges)
 {
     newProject();
     EXPECT_FALSE(isModified());
@@ -112,7 +112,7 @@ TEST_F(Files, MarkTheProjectThatHasChanges)
     EXPECT_TRUE(isModified());
 }
 
-TEST_F(Files, AreUnmodifiedAgainWhenTheChangeIsUndone)
+TEST_F(ProjectFiles, AreUnmodifiedAgainWhenTheChangeIsUndone)
 {
     newProject();
     addMaterial();
@@ -125,7 +125,7 @@ TEST_F(Files, AreUnmodifiedAgainWhenTheChangeIsUndone)
     EXPECT_TRUE(isModified()) << "the file has the first material";
 }
 
-TEST_F(Files, StayModifiedWhenTheHistoryEnds)
+TEST_F(ProjectFiles, StayModifiedWhenTheHistoryEnds)
 {
     newProject();
     addMaterial();
@@ -135,7 +135,7 @@ TEST_F(Files, StayModifiedWhenTheHistoryEnds)
     EXPECT_TRUE(isModified());
 }
 
-TEST_F(Files, MakeApplyInAnEditorUndoable)
+TEST_F(ProjectFiles, MakeApplyInAnEditorUndoable)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -153,7 +153,7 @@ TEST_F(Files, MakeApplyInAnEditorUndoable)
     EXPECT_TRUE(isModified());
 }
 
-TEST_F(Files, MakeOkInAnEditorUndoable)
+TEST_F(ProjectFiles, MakeOkInAnEditorUndoable)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -164,7 +164,7 @@ TEST_F(Files, MakeOkInAnEditorUndoable)
     EXPECT_EQ(modulusOf(steel), 2e11);
 }
 
-TEST_F(Files, ShowWhatWasUndoneInTheOpenEditor)
+TEST_F(ProjectFiles, ShowWhatWasUndoneInTheOpenEditor)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -177,7 +177,7 @@ TEST_F(Files, ShowWhatWasUndoneInTheOpenEditor)
     EXPECT_EQ(modulusOf(steel), 2e11) << "the editor shows the material as it is";
 }
 
-TEST_F(Files, MakeNoStepOfAnApplyThatChangesNothing)
+TEST_F(ProjectFiles, MakeNoStepOfAnApplyThatChangesNothing)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -190,7 +190,7 @@ TEST_F(Files, MakeNoStepOfAnApplyThatChangesNothing)
     EXPECT_EQ(history().count(), steps);
 }
 
-TEST_F(Files, TakeNoExportForAnApply)
+TEST_F(ProjectFiles, TakeNoExportForAnApply)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -204,7 +204,7 @@ TEST_F(Files, TakeNoExportForAnApply)
     EXPECT_EQ(history().count(), steps);
 }
 
-TEST_F(Files, AskAboutChangesInEditorsBeforeSaving)
+TEST_F(ProjectFiles, AskAboutChangesInEditorsBeforeSaving)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -231,7 +231,7 @@ TEST_F(Files, AskAboutChangesInEditorsBeforeSaving)
     EXPECT_TRUE(isModified()) << "the file has what was applied";
 }
 
-TEST_F(Files, SaveNothingWhenAnEditorCannotApply)
+TEST_F(ProjectFiles, SaveNothingWhenAnEditorCannotApply)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -242,7 +242,7 @@ TEST_F(Files, SaveNothingWhenAnEditorCannotApply)
     EXPECT_FALSE(QFileInfo::exists(path("a.vxmat")));
 }
 
-TEST_F(Files, AskBeforeAProjectWithChangesIsClosed)
+TEST_F(ProjectFiles, AskBeforeAProjectWithChangesIsClosed)
 {
     newProject();
     addMaterial();
@@ -259,7 +259,7 @@ TEST_F(Files, AskBeforeAProjectWithChangesIsClosed)
     EXPECT_EQ(currentProject(), nullptr);
 }
 
-TEST_F(Files, SaveAProjectThatIsClosedWhenAskedTo)
+TEST_F(ProjectFiles, SaveAProjectThatIsClosedWhenAskedTo)
 {
     newProject();
     addMaterial();
@@ -270,7 +270,7 @@ TEST_F(Files, SaveAProjectThatIsClosedWhenAskedTo)
     EXPECT_TRUE(QFileInfo::exists(path("a.vxmat")));
 }
 
-TEST_F(Files, KeepAProjectThatCouldNotBeSavedOpen)
+TEST_F(ProjectFiles, KeepAProjectThatCouldNotBeSavedOpen)
 {
     newProject();
     addMaterial();
@@ -281,7 +281,7 @@ TEST_F(Files, KeepAProjectThatCouldNotBeSavedOpen)
     EXPECT_TRUE(isModified());
 }
 
-TEST_F(Files, CloseAProjectWithoutChangesWithoutAsking)
+TEST_F(ProjectFiles, CloseAProjectWithoutChangesWithoutAsking)
 {
     newProject();
     addMaterial();
@@ -291,7 +291,7 @@ TEST_F(Files, CloseAProjectWithoutChangesWithoutAsking)
     EXPECT_EQ(currentProject(), nullptr);
 }
 
-TEST_F(Files, KnowTheirProjectAgainWhenClosingIsUndone)
+TEST_F(ProjectFiles, KnowTheirProjectAgainWhenClosingIsUndone)
 {
     newProject();
     addMaterial();
@@ -302,7 +302,7 @@ TEST_F(Files, KnowTheirProjectAgainWhenClosingIsUndone)
     EXPECT_EQ(files->get_file(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
 }
 
-TEST_F(Files, AskAboutEveryProjectBeforeTheProgramEnds)
+TEST_F(ProjectFiles, AskAboutEveryProjectBeforeTheProgramEnds)
 {
     newProject();
     addMaterial();
@@ -318,7 +318,7 @@ TEST_F(Files, AskAboutEveryProjectBeforeTheProgramEnds)
     }
 }
 
-TEST_F(Files, OpenAFileOnceAlone)
+TEST_F(ProjectFiles, OpenAFileOnceAlone)
 {
     newProject();
     addMaterial();
@@ -330,7 +330,7 @@ TEST_F(Files, OpenAFileOnceAlone)
     EXPECT_TRUE(Gui::TreeSelectionSingleton::instance().is_selected(first));
 }
 
-TEST_F(Files, DoNotTakeTheFileOfAnotherOpenProject)
+TEST_F(ProjectFiles, DoNotTakeTheFileOfAnotherOpenProject)
 {
     newProject();
     addMaterial();
@@ -343,7 +343,7 @@ TEST_F(Files, DoNotTakeTheFileOfAnotherOpenProject)
     EXPECT_EQ(contentOf(path("a.vxmat")), before);
 }
 
-TEST_F(Files, SayWhatIsWrongWithAFileAndOpenNothing)
+TEST_F(ProjectFiles, SayWhatIsWrongWithAFileAndOpenNothing)
 {
     const std::pair<const char*, const char*> wrong[] = {
         {"", "cannot be opened"},
@@ -364,7 +364,7 @@ TEST_F(Files, SayWhatIsWrongWithAFileAndOpenNothing)
     EXPECT_EQ(currentProject(), nullptr);
 }
 
-TEST_F(Files, LeaveTheOldFileWhenItCannotBeWritten)
+TEST_F(ProjectFiles, LeaveTheOldFileWhenItCannotBeWritten)
 {
     newProject();
     addMaterial();
@@ -376,7 +376,7 @@ TEST_F(Files, LeaveTheOldFileWhenItCannotBeWritten)
     EXPECT_EQ(files->get_file(*currentProject()), "");
 }
 
-TEST_F(Files, AskBeforeTheyReplaceWhatAnotherProgramWrote)
+TEST_F(ProjectFiles, AskBeforeTheyReplaceWhatAnotherProgramWrote)
 {
     newProject();
     addMaterial();
@@ -399,7 +399,7 @@ TEST_F(Files, AskBeforeTheyReplaceWhatAnotherProgramWrote)
     run("Std_Save");
 }
 
-TEST_F(Files, WarnOfASecondProgramOnTheSameFile)
+TEST_F(ProjectFiles, WarnOfASecondProgramOnTheSameFile)
 {
     newProject();
     addMaterial();
@@ -418,7 +418,7 @@ TEST_F(Files, WarnOfASecondProgramOnTheSameFile)
     EXPECT_NE(currentProject(), nullptr);
 }
 
-TEST_F(Files, AreListedTheLatestFirst)
+TEST_F(ProjectFiles, AreListedTheLatestFirst)
 {
     newProject();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
@@ -430,7 +430,7 @@ TEST_F(Files, AreListedTheLatestFirst)
     EXPECT_THAT(recent[1].toStdString(), testing::EndsWith("b & c.vxmat"));
 }
 
-TEST_F(Files, HavePathsWithBlanksQuotesAndChineseCharacters)
+TEST_F(ProjectFiles, HavePathsWithBlanksQuotesAndChineseCharacters)
 {
     newProject();
     addMaterial();
@@ -441,7 +441,7 @@ TEST_F(Files, HavePathsWithBlanksQuotesAndChineseCharacters)
     EXPECT_NE(findMaterial("Steel"), nullptr);
 }
 
-TEST_F(Files, KeepACopyAfterEveryApply)
+TEST_F(ProjectFiles, KeepACopyAfterEveryApply)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -453,7 +453,7 @@ TEST_F(Files, KeepACopyAfterEveryApply)
     EXPECT_EQ(copies().size(), 0);
 }
 
-TEST_F(Files, KeepNoCopyOfWhatHasNotChanged)
+TEST_F(ProjectFiles, KeepNoCopyOfWhatHasNotChanged)
 {
     newProject();
     addMaterial();
@@ -462,7 +462,7 @@ TEST_F(Files, KeepNoCopyOfWhatHasNotChanged)
     EXPECT_EQ(copies().size(), 0);
 }
 
-TEST_F(Files, OfferWhatACrashLeftBehind)
+TEST_F(ProjectFiles, OfferWhatACrashLeftBehind)
 {
     newProject();
     addMaterial();
@@ -490,7 +490,7 @@ TEST_F(Files, OfferWhatACrashLeftBehind)
     EXPECT_FALSE(contentOf(path("a.vxmat")).contains("recovered_file"));
 }
 
-TEST_F(Files, OfferACrashOfAProjectWithoutAFile)
+TEST_F(ProjectFiles, OfferACrashOfAProjectWithoutAFile)
 {
     newProject();
     addMaterial("Unsaved");
@@ -502,7 +502,7 @@ TEST_F(Files, OfferACrashOfAProjectWithoutAFile)
     EXPECT_EQ(files->get_file(*currentProject()), "");
 }
 
-TEST_F(Files, OfferACrashAgainLater)
+TEST_F(ProjectFiles, OfferACrashAgainLater)
 {
     newProject();
     addMaterial("Unsaved");
@@ -522,7 +522,7 @@ TEST_F(Files, OfferACrashAgainLater)
     files->offer_recovery();
 }
 
-TEST_F(Files, KeepACopyThatCannotBeRead)
+TEST_F(ProjectFiles, KeepACopyThatCannotBeRead)
 {
     newProject();
     addMaterial("Unsaved");
@@ -535,7 +535,7 @@ TEST_F(Files, KeepACopyThatCannotBeRead)
     EXPECT_EQ(contentOf(copy), "not JSON");
 }
 
-TEST_F(Files, DoNotOfferTheCopyOfAProgramThatRuns)
+TEST_F(ProjectFiles, DoNotOfferTheCopyOfAProgramThatRuns)
 {
     newProject();
     addMaterial();

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,6 +10,7 @@
 #include <QSaveFile>
 #include <QSysInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -138,7 +140,7 @@ bool isSame(const struct stat& before, const struct stat& after)
            before.st_mtim.tv_nsec == after.st_mtim.tv_nsec;
 }
 
-/// Makes sure that the file may be replaced. Answers what it is now; absent when there is none.
+/// Makes sure that the file may be replaced, or made where there is none.
 void checkTarget(const QString& path, const QString& target)
 {
     struct stat status = {};
@@ -233,8 +235,15 @@ FileStamp writeFile(const QString& path, const std::string& text)
     if (!file.open(QIODevice::WriteOnly))
         fail(path, file.errorString());
     keepOwner(target, file.handle());
+    // A disk that is nearly full takes a part at first, and says why it takes no more when asked again.
+    for (qint64 at = 0; at < size;) {
+        const qint64 written = file.write(text.data() + at, size - at);
+        if (written <= 0)
+            fail(path, file.errorString());
+        at += written;
+    }
     // commit() does not notice that the last of the text could not be written; flush() does.
-    if (file.write(text.data(), size) != size || !file.flush())
+    if (!file.flush())
         fail(path, file.errorString());
     if (!reachesDisk(file.handle()))
         fail(path, reasonOf(errno));
@@ -263,7 +272,7 @@ bool hasChanged(const QString& path, const FileStamp& stamp)
     }
 }
 
-FileLock::FileLock(const QString& path) : m_lock(std::make_unique<QLockFile>(lockPathOf(path)))
+FileLock::FileLock(const QString& path) : m_lockPath(lockPathOf(path)), m_lock(std::make_unique<QLockFile>(m_lockPath))
 {
     // However old a lock is, its program may still be there.
     m_lock->setStaleLockTime(0);
@@ -275,7 +284,19 @@ FileLock& FileLock::operator=(FileLock&&) noexcept = default;
 
 bool FileLock::tryLock()
 {
-    return m_lock->tryLock(0);
+    if (m_lock->tryLock(0))
+        return true;
+    // A crash just after the lock file was made leaves one that names nobody. It is taken away only when nobody holds
+    // it open, and a program that is about to write its name into it has a moment to do so.
+    constexpr qint64 moment = 10000; // ms
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (m_lock->error() != QLockFile::LockFailedError || m_lock->getLockInfo(&process, &host, &program))
+        return false;
+    const QFileInfo file(m_lockPath);
+    const bool isOld = file.lastModified().msecsTo(QDateTime::currentDateTime()) > moment;
+    return isOld && m_lock->removeStaleLockFile() && m_lock->tryLock(0);
 }
 
 bool FileLock::isLocked() const

@@ -60,6 +60,7 @@ public:
     QString holder() const;
 
 private:
+    QString m_lockPath;
     std::unique_ptr<QLockFile> m_lock;
 };
 

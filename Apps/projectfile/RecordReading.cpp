@@ -4,7 +4,6 @@
 #include "RecordMembers.h"
 
 #include "projectfile/MaterialRecord.h"
-#include "vxMaterial/exchange/JsonText.h"
 
 #include <json/writer.h>
 
@@ -123,9 +122,6 @@ void readField(const Node& node, std::string& field)
 {
     demand(node, node.value.isString(), "a text");
     field = textOf(node.value);
-    // Half of a surrogate pair, written as an escape, is no character; the text could not be written again.
-    if (vxCAE::lengthOfUtf8(field) < field.size())
-        throw RecordError("\"" + pathOf(node) + "\" has a character that Unicode has not");
 }
 
 void readField(const Node& node, double& field)

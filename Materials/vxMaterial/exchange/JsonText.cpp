@@ -110,9 +110,36 @@ std::string faultOfNumber(std::string_view token)
     return {};
 }
 
+/// The code unit that an escape such as \u00e4 at `at` stands for; 0 when none is there.
+unsigned codeUnitAt(std::string_view token, std::size_t at)
+{
+    constexpr std::size_t length = 6;
+    const std::string_view escape = token.substr(std::min(at, token.size()), length);
+    unsigned unit = 0;
+    if (escape.size() == length && escape.substr(0, 2) == "\\u")
+        std::from_chars(escape.data() + 2, escape.data() + length, unit, 16);
+    return unit;
+}
+
+/// Whether a text value has an escape for half of a surrogate pair, which is no character. The library makes bytes of
+/// it that are not UTF-8.
+bool hasHalfOfPair(std::string_view token)
+{
+    constexpr std::size_t length = 6;
+    const auto isHigh = [](unsigned unit) { return unit >= 0xD800U && unit < 0xDC00U; };
+    const auto isLow = [](unsigned unit) { return unit >= 0xDC00U && unit < 0xE000U; };
+    for (std::size_t at = token.find('\\'); at != std::string_view::npos; at = token.find('\\', at)) {
+        const unsigned unit = codeUnitAt(token, at);
+        if (isLow(unit) || (isHigh(unit) && !isLow(codeUnitAt(token, at + length))))
+            return true;
+        at += isHigh(unit) ? 2 * length : 2;
+    }
+    return false;
+}
+
 /// What the JSON library would take or throw for: bytes that are not UTF-8 or end its reading, numbers that it turns
-/// into others, nesting that it does not follow.
-std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text)
+/// into others, halves of characters, nesting that it does not follow.
+std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text, JsonDialect dialect)
 {
     const std::size_t utf8 = lengthOfUtf8(text);
     if (utf8 < text.size())
@@ -121,9 +148,21 @@ std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text)
         return errorAt(text, zero, "a zero byte");
 
     int depth = 0;
+    std::size_t end = 0; // of the token before
+    // In some places the library takes comments though it was told not to.
+    const auto commentBefore = [&](std::size_t offset) {
+        const std::size_t at =
+            dialect == JsonDialect::Strict ? text.substr(0, offset).find('/', end) : std::string_view::npos;
+        return at != std::string_view::npos
+                   ? std::optional<JsonError>(errorAt(text, at, "a comment, which a file of this kind has not"))
+                   : std::nullopt;
+    };
     detail::JsonScanner scanner(text);
     while (const auto token = scanner.next()) {
         using detail::TokenKind;
+        if (auto comment = commentBefore(token->offset))
+            return comment;
+        end = token->offset + token->text.size();
         const bool ends = token->kind == TokenKind::EndArray || token->kind == TokenKind::EndObject;
         const bool begins = token->kind == TokenKind::BeginArray || token->kind == TokenKind::BeginObject;
         const bool separates = token->kind == TokenKind::Comma || token->kind == TokenKind::Colon;
@@ -134,8 +173,10 @@ std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text)
             if (std::string fault = faultOfNumber(token->text); !fault.empty())
                 return errorAt(text, token->offset, std::move(fault));
         }
+        if (dialect == JsonDialect::Strict && token->kind == TokenKind::Text && hasHalfOfPair(token->text))
+            return errorAt(text, token->offset, "an escape for half of a surrogate pair, which is no character");
     }
-    return std::nullopt;
+    return commentBefore(text.size());
 }
 
 } // namespace
@@ -143,7 +184,7 @@ std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text)
 JsonReading readJsonText(std::string_view text, JsonDialect dialect)
 {
     JsonReading reading;
-    reading.error = findWhatTheLibraryOverlooks(text);
+    reading.error = findWhatTheLibraryOverlooks(text, dialect);
     if (reading.error)
         return reading;
 

@@ -30,7 +30,7 @@ struct JsonReading
 enum class JsonDialect
 {
     WithComments, ///< comments; of a member that stands twice the last counts
-    Strict,       ///< neither comments nor members that stand twice; the document is an object or an array
+    Strict,       ///< no comments, no member twice, no escape for half a character; an object or an array
 };
 
 /// Reads a JSON text, UTF-8. Text after the document is not accepted. Whatever the text is, the answer is

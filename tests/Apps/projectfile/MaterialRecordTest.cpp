@@ -1,5 +1,7 @@
 #include "projectfile/MaterialRecord.h"
 
+#include "ProjectTesting.h"
+
 #include "vxMaterial/model/MatDBManager.h"
 
 #include <gmock/gmock.h>
@@ -9,7 +11,6 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <random>
 
 namespace {
 
@@ -17,6 +18,8 @@ using testing::HasSubstr;
 using testing::SizeIs;
 using vxMat::MaterialBase;
 using vxMat::MaterialProperty;
+using vxtest::Dice;
+using vxtest::expectSame;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
@@ -38,40 +41,6 @@ std::unique_ptr<MaterialBase> roundTrip(const MaterialBase& material)
     return read;
 }
 
-/// NaN is equal to NaN here, and 0 is not equal to -0.
-bool isSame(double a, double b)
-{
-    return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);
-}
-
-void expectSame(const MaterialProperty& a, const MaterialProperty& b)
-{
-    EXPECT_EQ(a.id, b.id);
-    EXPECT_EQ(a.name, b.name);
-    EXPECT_EQ(a.key, b.key);
-    EXPECT_TRUE(isSame(a.value, b.value)) << a.value << " and " << b.value;
-    EXPECT_EQ(a.text, b.text);
-    ASSERT_EQ(a.values.size(), b.values.size());
-    for (std::size_t i = 0; i < a.values.size(); ++i)
-        EXPECT_TRUE(isSame(a.values[i], b.values[i])) << a.values[i] << " and " << b.values[i];
-    EXPECT_EQ(a.description, b.description);
-    EXPECT_EQ(a.unit, b.unit);
-    EXPECT_EQ(a.category, b.category);
-}
-
-void expectSame(const MaterialBase& a, const MaterialBase& b)
-{
-    EXPECT_EQ(a.id, b.id);
-    EXPECT_EQ(a.name, b.name);
-    EXPECT_EQ(a.libraryGroup, b.libraryGroup);
-    ASSERT_EQ(a.properties.size(), b.properties.size());
-    for (const auto& [key, property] : a.properties) {
-        SCOPED_TRACE(key);
-        ASSERT_NE(b.findProperty(key), nullptr);
-        expectSame(*property, *b.findProperty(key));
-    }
-}
-
 TEST(MaterialRecord, CarriesEveryLibraryMaterialFieldByField)
 {
     vxMat::MatDBManager database;
@@ -82,74 +51,6 @@ TEST(MaterialRecord, CarriesEveryLibraryMaterialFieldByField)
         expectSame(*material, *roundTrip(*material));
     }
 }
-
-/// Materials with whatever a field can hold.
-class Dice
-{
-public:
-    std::unique_ptr<MaterialBase> makeMaterial()
-    {
-        auto material = std::make_unique<MaterialBase>();
-        material->id = whole();
-        material->name = text();
-        material->libraryGroup = whole();
-        for (int i = upTo(8); i > 0; --i)
-            material->setProperty(whole(), makeProperty());
-        return material;
-    }
-
-private:
-    int upTo(int most) { return std::uniform_int_distribution<int>(0, most)(m_engine); }
-    std::int32_t whole()
-    {
-        return std::uniform_int_distribution<std::int32_t>(std::numeric_limits<std::int32_t>::min(),
-                                                           std::numeric_limits<std::int32_t>::max())(m_engine);
-    }
-    double number()
-    {
-        using limits = std::numeric_limits<double>;
-        const double special[] = {0.0,
-                                  -0.0,
-                                  limits::max(),
-                                  limits::lowest(),
-                                  limits::min(),
-                                  limits::denorm_min(),
-                                  infinity,
-                                  -infinity,
-                                  limits::quiet_NaN(),
-                                  0.1};
-        if (upTo(1) == 0)
-            return special[upTo(9)];
-        return std::ldexp(std::uniform_real_distribution<double>(-1.0, 1.0)(m_engine), upTo(600) - 300);
-    }
-    std::string text()
-    {
-        static const std::string pieces[] = {
-            "a",    "\"", "\\",       "\n",           "\t",           std::string(1, '\0'), "\x01", "\x1f",
-            "\x7f", "/",  "\xC3\xA4", "\xE2\x82\xAC", "\xE9\x92\xA2", "\xF0\x9F\x94\xA9",   " "};
-        std::string made;
-        for (int i = upTo(12); i > 0; --i)
-            made += pieces[upTo(14)];
-        return made;
-    }
-    std::unique_ptr<MaterialProperty> makeProperty()
-    {
-        auto property = std::make_unique<MaterialProperty>();
-        property->id = whole();
-        property->name = text();
-        property->key = text();
-        property->value = number();
-        property->text = text();
-        for (int i = upTo(5); i > 0; --i)
-            property->values.push_back(number());
-        property->description = text();
-        property->unit = text();
-        property->category = static_cast<vxMat::ePropertyCategory>(upTo(9));
-        return property;
-    }
-
-    std::mt19937 m_engine{20240229};
-};
 
 TEST(MaterialRecord, CarriesAThousandMaterialsOfAllThatFieldsCanHold)
 {

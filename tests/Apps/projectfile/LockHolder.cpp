@@ -1,0 +1,27 @@
+#include "projectfile/ProjectStore.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+#include <exception>
+
+/// Locks a file and prints whether that went well, "yes" or "no"; gives it back when its standard input ends.
+///
+///     lock_holder FILE
+int main(int argc, char** argv)
+try {
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("lock_holder"));
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 2)
+        return 2;
+    projectfile::FileLock lock(arguments[1]);
+    std::puts(lock.tryLock() ? "yes" : "no");
+    std::fflush(stdout);
+    while (std::getchar() != EOF) {
+    }
+    return 0;
+} catch (const std::exception& error) {
+    std::fputs(error.what(), stderr);
+    return 1;
+}

@@ -1,0 +1,527 @@
+#include "projectfile/ProjectFile.h"
+
+#include "CommaLocale.h"
+#include "ProjectTesting.h"
+
+#include "vxMaterial/exchange/JsonText.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <utility>
+
+namespace {
+
+using projectfile::ProjectFileError;
+using projectfile::ProjectRecord;
+using projectfile::readProject;
+using projectfile::writeProject;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+using vxtest::Dice;
+using vxtest::expectSame;
+using vxtest::makeLibraryProject;
+using vxtest::makeSmallProject;
+
+/// What reading a text says is wrong; the test fails when it takes it for a project.
+std::string refusalOf(const std::string& text)
+{
+    try {
+        readProject(text);
+    } catch (const ProjectFileError& error) {
+        return error.what();
+    }
+    ADD_FAILURE() << "it was read";
+    return {};
+}
+
+/// What writing a project says is wrong; the test fails when it is written.
+std::string refusalOf(const ProjectRecord& project)
+{
+    try {
+        writeProject(project);
+    } catch (const ProjectFileError& error) {
+        return error.what();
+    }
+    ADD_FAILURE() << "it was written";
+    return {};
+}
+
+/// `text` with the first of `from` replaced, which must be there.
+std::string replaced(std::string text, const std::string& from, const std::string& to)
+{
+    const std::size_t at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
+std::string smallText()
+{
+    return writeProject(makeSmallProject());
+}
+
+// --- The text ---
+
+TEST(ProjectFile, IsLaidOutForVersionControl)
+{
+    EXPECT_EQ(smallText(), R"({
+  "format": "vxMaterial project",
+  "format_version": 1,
+  "name": "Small",
+  "next_object_id": 3,
+  "database": {
+    "objects": {
+      "object": [
+        {
+          "class": "Mat::MaterialObject",
+          "label": "Steel",
+          "name_internal": "Material1",
+          "obj_id": 1
+        },
+        {
+          "class": "Mat::MaterialObject",
+          "label": "钢",
+          "name_internal": "Material2",
+          "obj_id": 2
+        }
+      ]
+    },
+    "proj_tag": "Material"
+  },
+  "materials": [
+    {
+      "object_id": 1,
+      "class": "Mat::MaterialObject",
+      "name_internal": "Material1",
+      "label": "Steel",
+      "suppressed": false,
+      "colour": [0.5, 0.25, 0, 1],
+      "material": {
+        "id": 0,
+        "name": "Steel",
+        "library_group": 0,
+        "properties": [
+          {"held_as": 4, "id": 4, "name": "Density", "key": "rho", "value": 7850, "text": "", "values": [], "description": "", "unit": "kg/m3", "category": 0},
+          {"held_as": 401, "id": 4, "name": "Density", "key": "rho", "value": -0.0, "text": "", "values": [], "description": "", "unit": "kg/m3", "category": 0}
+        ]
+      }
+    },
+    {
+      "object_id": 2,
+      "class": "Mat::MaterialObject",
+      "name_internal": "Material2",
+      "label": "钢",
+      "suppressed": true,
+      "material": {
+        "id": 0,
+        "name": "钢",
+        "library_group": 0,
+        "properties": []
+      }
+    }
+  ]
+}
+)");
+}
+
+TEST(ProjectFile, CarriesEveryLibraryMaterialFieldByField)
+{
+    const ProjectRecord project = makeLibraryProject();
+    ASSERT_THAT(project.objects, SizeIs(26));
+    const std::string text = writeProject(project);
+    const ProjectRecord read = readProject(text);
+    expectSame(project, read);
+    EXPECT_THAT(read.doubts, IsEmpty());
+    EXPECT_EQ(writeProject(read), text);
+}
+
+TEST(ProjectFile, CarriesThousandsOfMaterialsOfAllThatFieldsCanHold)
+{
+    Dice dice;
+    for (int i = 0; i < 40; ++i) {
+        SCOPED_TRACE(i);
+        const ProjectRecord project = dice.makeProject(100);
+        const std::string text = writeProject(project);
+        const ProjectRecord read = readProject(text);
+        expectSame(project, read);
+        EXPECT_EQ(writeProject(read), text);
+        if (testing::Test::HasFailure())
+            return;
+    }
+}
+
+TEST(ProjectFile, CarriesNumbersUnderACommaLocale)
+{
+    const ProjectRecord project = makeLibraryProject();
+    const std::string text = writeProject(project);
+    const vxtest::CommaLocale comma;
+    EXPECT_EQ(writeProject(project), text);
+    expectSame(project, readProject(text));
+}
+
+TEST(ProjectFile, CarriesAProjectWithoutMaterialsOrDatabase)
+{
+    ProjectRecord project;
+    project.name = "Empty";
+    const std::string text = writeProject(project);
+    expectSame(project, readProject(text));
+    expectSame(project, readProject(replaced(text, "\"database\": null,", "")));
+}
+
+TEST(ProjectFile, CarriesTheFileThatARecoveryIsOf)
+{
+    ProjectRecord project = makeSmallProject();
+    EXPECT_EQ(writeProject(project).find("recovered_file"), std::string::npos);
+    project.recoveredFile = "/home/anna/\xE9\x92\xA2 \"1\".vxmat";
+    EXPECT_EQ(readProject(writeProject(project)).recoveredFile, project.recoveredFile);
+    project.recoveredFile = "";
+    EXPECT_EQ(readProject(writeProject(project)).recoveredFile, "");
+}
+
+TEST(ProjectFile, CarriesTheLargestNumberOfAnObject)
+{
+    ProjectRecord project = makeSmallProject();
+    project.database = Json::Value();
+    project.objects[1].objectId = 4294967295U;
+    project.nextObjectId = 4294967296U;
+    expectSame(project, readProject(writeProject(project)));
+}
+
+TEST(ProjectFile, ListsObjectsByTheirNumbersWhateverTheOrderOfTheFile)
+{
+    ProjectRecord project = makeSmallProject();
+    std::swap(project.objects[0], project.objects[1]);
+    const ProjectRecord read = readProject(writeProject(project));
+    EXPECT_EQ(read.objects[0].objectId, 1U);
+    EXPECT_EQ(read.objects[1].objectId, 2U);
+}
+
+TEST(ProjectFile, IsReadWithWindowsLineEndsAndAByteOrderMark)
+{
+    std::string text = "\xEF\xBB\xBF";
+    for (const char c : smallText())
+        text += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    expectSame(makeSmallProject(), readProject(text));
+}
+
+TEST(ProjectFile, TakesDefaultsForWhatIsNotThere)
+{
+    std::string text = replaced(smallText(), "      \"suppressed\": false,\n", "");
+    text = replaced(text, "      \"colour\": [0.5, 0.25, 0, 1],\n", "");
+    text = replaced(text, "\"held_as\": 4, ", "");
+    text = replaced(text, ", \"category\": 0", "");
+    const ProjectRecord read = readProject(text);
+    EXPECT_FALSE(read.objects[0].suppressed);
+    EXPECT_FALSE(read.objects[0].colour);
+    const auto* const density = read.objects[0].material->findProperty(4);
+    ASSERT_NE(density, nullptr);
+    EXPECT_EQ(density->category, vxMat::ePropertyCategory::Undefined);
+}
+
+// --- What is not known ---
+
+TEST(ProjectFile, WritesBackMembersThatItDoesNotKnow)
+{
+    std::string text = replaced(smallText(), "  \"name\": \"Small\",",
+                                "  \"origin\": {\"by\": [1, 0.1, null]},\n"
+                                "  \"name\": \"Small\",");
+    text = replaced(text, "\"suppressed\": false,", "\"suppressed\": false, \"locked\": true,");
+    text = replaced(text, "\"library_group\": 0,", "\"library_group\": 0, \"supplier\": \"\xE9\x92\xA2\",");
+    text = replaced(text, "\"held_as\": 401, ", "\"held_as\": 401, \"source\": \"table 3\", \"spread\": 2.0, ");
+
+    const ProjectRecord read = readProject(text);
+    EXPECT_EQ(read.further["origin"]["by"][1], Json::Value(0.1));
+    EXPECT_EQ(read.objects[0].further["object"]["locked"], Json::Value(true));
+    EXPECT_EQ(read.objects[0].further["material"]["supplier"], Json::Value("\xE9\x92\xA2"));
+    EXPECT_EQ(read.objects[0].further["properties"]["401"]["source"], Json::Value("table 3"));
+    EXPECT_TRUE(read.objects[1].further.isNull());
+
+    const std::string written = writeProject(read);
+    EXPECT_THAT(written,
+                HasSubstr("\"unit\": \"kg/m3\", \"category\": 0, \"source\": \"table 3\", \"spread\": 2.0}\n"));
+    EXPECT_THAT(written, HasSubstr("      },\n      \"locked\": true\n    },"));
+    EXPECT_THAT(written, HasSubstr("        ],\n        \"supplier\": \"\xE9\x92\xA2\"\n      }"));
+    EXPECT_THAT(written,
+                HasSubstr("  ],\n  \"origin\": {\n    \"by\": [\n      1,\n      0.1,\n      null\n    ]\n  }\n}"));
+    expectSame(read, readProject(written));
+    EXPECT_EQ(writeProject(readProject(written)), written);
+}
+
+TEST(ProjectFile, CarriesWhateverTheHostsRecordHolds)
+{
+    ProjectRecord project = makeSmallProject();
+    project.database["numbers"].append(Json::Value(-0.0));
+    project.database["numbers"].append(Json::Value(Json::Value::maxUInt64));
+    project.database["numbers"].append(Json::Value(Json::Value::minInt64));
+    project.database["numbers"].append(Json::Value(5e-324));
+    project.database["numbers"].append(Json::Value(2.0));
+    project.database["empty"][0] = Json::Value(Json::objectValue);
+    project.database["empty"][1] = Json::Value(Json::arrayValue);
+    project.database["line\nend"] = "\x01";
+    const ProjectRecord read = readProject(writeProject(project));
+    expectSame(project, read);
+    EXPECT_TRUE(std::signbit(read.database["numbers"][0].asDouble()));
+}
+
+TEST(ProjectFile, HasAWordForADocumentThatIsAProject)
+{
+    EXPECT_TRUE(projectfile::isProject(vxCAE::readJsonText(smallText()).document));
+    EXPECT_TRUE(projectfile::isProject(vxCAE::readJsonText(R"({"format": "vxMaterial project"})").document));
+    for (const char* const other : {"{}", "[]", R"({"format": 1})", R"({"format": "vxMaterial"})", R"(["format"])"})
+        EXPECT_FALSE(projectfile::isProject(vxCAE::readJsonText(other).document)) << other;
+    EXPECT_FALSE(projectfile::isProject(Json::Value()));
+    EXPECT_FALSE(projectfile::isProject(Json::Value("vxMaterial project")));
+}
+
+// --- What is refused ---
+
+TEST(ProjectFile, IsNeverReadUnlessItIsWhole)
+{
+    const std::string text = smallText();
+    for (std::size_t length = 0; length + 2 <= text.size(); ++length) {
+        SCOPED_TRACE(length);
+        EXPECT_THAT(refusalOf(text.substr(0, length)), testing::Not(IsEmpty()));
+    }
+    // The last is the end of the last line.
+    expectSame(makeSmallProject(), readProject(text.substr(0, text.size() - 1)));
+}
+
+TEST(ProjectFile, IsRefusedWhenABracketQuoteCommaOrColonIsLost)
+{
+    // The names of classes have colons, which are no part of the format.
+    const std::string marks = "{}[]\",:";
+    const std::string text = smallText();
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool isInName = text.compare(at, 2, "::") == 0 || (at > 0 && text.compare(at - 1, 2, "::") == 0);
+        if (isInName || marks.find(text[at]) == std::string::npos)
+            continue;
+        SCOPED_TRACE(at);
+        std::string damaged = text;
+        damaged.erase(at, 1);
+        EXPECT_THAT(refusalOf(damaged), testing::Not(IsEmpty()));
+    }
+}
+
+TEST(ProjectFile, NamesLineAndColumnOfAnError)
+{
+    EXPECT_THAT(refusalOf("{\n  \"format\": \"vxMaterial project\",\n  \"name\" 7\n}"), StartsWith("line 3, column "));
+    EXPECT_THAT(refusalOf(replaced(smallText(), "7850", "78,50")), StartsWith("line 38, column "));
+}
+
+TEST(ProjectFile, OfALaterVersionIsRefusedWhateverElseItHolds)
+{
+    const auto isLater = AllOf(HasSubstr("later version"), HasSubstr("up to version 1"));
+    EXPECT_THAT(refusalOf(replaced(smallText(), "\"format_version\": 1", "\"format_version\": 2")),
+                AllOf(isLater, HasSubstr("version 2")));
+    EXPECT_THAT(refusalOf(R"({"materials": {}, "format": "vxMaterial project", "format_version": 5000000000})"),
+                isLater);
+    EXPECT_THAT(refusalOf(replaced(smallText(), "\"format_version\": 1", "\"format_version\": 1.5")), isLater);
+}
+
+TEST(ProjectFile, OfAnotherProgramIsRefusedAsSuch)
+{
+    for (const char* const text : {"{}", "[]", R"({"format": "sketch", "format_version": 9})",
+                                   R"({"format": ["vxMaterial project"]})", R"({"proj_type": 2, "material": []})"})
+        EXPECT_THAT(refusalOf(text), HasSubstr("no project file")) << text;
+    for (const char* const text :
+         {"<?xml version=\"1.0\"?>\n<a/>", "PK\x03\x04", "7", "\"vxMaterial project\"", "null"})
+        EXPECT_THAT(refusalOf(text), StartsWith("line 1")) << text;
+}
+
+TEST(ProjectFile, ThatIsEmptyIsRefusedAsSuch)
+{
+    for (const char* const text : {"", " ", "\r\n\n", "\t"})
+        EXPECT_EQ(refusalOf(text), "the file is empty");
+    EXPECT_THAT(refusalOf("\xEF\xBB\xBF"), testing::Not(IsEmpty()));
+}
+
+TEST(ProjectFile, WithAHundredThousandBracketsIsRefused)
+{
+    const std::string brackets(100000, '[');
+    EXPECT_THAT(refusalOf(brackets), HasSubstr("nested more than"));
+    EXPECT_THAT(refusalOf(replaced(smallText(),
+                                   "\"name\":", "\"deep\": " + brackets + std::string(100000, ']') + ", \"name\":")),
+                HasSubstr("nested more than"));
+}
+
+TEST(ProjectFile, CarriesATextOfAHundredThousandDigitsButRefusesSuchANumber)
+{
+    const std::string digits(100000, '7');
+    ProjectRecord project = makeSmallProject();
+    project.name = digits;
+    EXPECT_EQ(readProject(writeProject(project)).name, digits);
+    const std::string refusal = refusalOf(replaced(smallText(), "7850", digits));
+    EXPECT_THAT(refusal, HasSubstr("beyond the range of a double"));
+    EXPECT_LT(refusal.size(), 500U);
+    const ProjectRecord read = readProject(replaced(smallText(), "7850", "0." + digits));
+    EXPECT_DOUBLE_EQ(read.objects[0].material->findProperty(4)->value, 7.0 / 9.0);
+}
+
+/// A change to the small project that makes it wrong, and what is said of it.
+struct Wrong
+{
+    const char* from;
+    const char* to;
+    const char* reason;
+};
+
+void PrintTo(const Wrong& wrong, std::ostream* out)
+{
+    *out << wrong.from << " -> " << wrong.to;
+}
+
+class WrongProject : public testing::TestWithParam<Wrong>
+{};
+
+TEST_P(WrongProject, IsRefusedWithTheReason)
+{
+    EXPECT_THAT(refusalOf(replaced(smallText(), GetParam().from, GetParam().to)), HasSubstr(GetParam().reason));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Syntax, WrongProject,
+    testing::Values(Wrong{"\"Small\",", "\"Small\", // a remark\n", "line 4, column 20: a comment"},
+                    Wrong{"{", "/* a remark */ {", "line 1, column 1: a comment"},
+                    Wrong{"  ]\n}\n", "  ]\n}\n// end", "line 58, column 1: a comment"},
+                    Wrong{"7850", "07850", "line 38"}, Wrong{"7850", "-", "line 38"},
+                    Wrong{"7850", "1e999", "beyond the range"}, Wrong{"7850", "1e-999", "beyond the range"},
+                    Wrong{"7850", "NaN", "line 38"}, Wrong{"7850", "Infinity", "line 38"},
+                    Wrong{"\"Small\"", "'Small'", "line 4"}, Wrong{"\"Small\"", "\"\xFF\"", "UTF-8"},
+                    Wrong{"\"Small\"", "\"\xC0\x80\"", "UTF-8"}, Wrong{"\"Small\"", "\"\xED\xA0\x80\"", "UTF-8"},
+                    Wrong{"\"Small\"", R"("\uD800")", "surrogate"}, Wrong{"\"Small\"", R"("\uDC00")", "surrogate"},
+                    Wrong{"\"Small\"", R"("\uD83D\u0041")", "surrogate"}, Wrong{"\"Small\"", R"("\x41")", "line 4"},
+                    Wrong{"\"Small\"", R"("\u12")", "line 4"}, Wrong{"  ]\n}\n", "  ]\n}\n}\n", "line 58"},
+                    Wrong{"  ]\n}\n", "  ],\n}\n", "line 57"},
+                    Wrong{"\"Small\",", "\"Small\", \"name\": \"Other\",", "name"},
+                    Wrong{"\"obj_id\": 1", "\"obj_id\": 1, \"obj_id\": 1", "obj_id"},
+                    Wrong{"\"unit\": \"kg/m3\"", "\"unit\": \"kg/m3\", \"unit\": \"kg/m3\"", "unit"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Content, WrongProject,
+    testing::Values(
+        Wrong{"\"format_version\": 1", "\"format_version\": 0", "\"format_version\" is 0"},
+        Wrong{"\"format_version\": 1", "\"format_version\": -1", "\"format_version\" is -1"},
+        Wrong{"\"format_version\": 1", "\"format_version\": \"1\"", "\"format_version\" is \"1\""},
+        Wrong{"  \"format_version\": 1,\n", "", "\"format_version\" is missing"},
+        Wrong{"  \"name\": \"Small\",\n", "", "\"name\" is missing"},
+        Wrong{"  \"next_object_id\": 3,\n", "", "\"next_object_id\" is missing"},
+        Wrong{"\"materials\"", "\"substances\"", "\"materials\" is missing"},
+        Wrong{"\"name\": \"Small\"", "\"name\": null", "\"name\" is null but must be a text"},
+        Wrong{"\"name\": \"Small\",", "\"name\": \"Small\", \"recovered_file\": 7,", "\"recovered_file\" is 7"},
+        Wrong{"      \"object_id\": 1,\n", "", "\"materials[0].object_id\" is missing"},
+        Wrong{"      \"label\": \"Steel\",\n      \"suppressed\"", "      \"suppressed\"",
+              "\"materials[0].label\" is missing"},
+        Wrong{"\"material\": {", "\"substance\": {", "\"materials[0].material\" is missing"},
+        Wrong{"\"suppressed\": false", "\"suppressed\": 0", "\"materials[0].suppressed\" is 0"},
+        Wrong{"[0.5, 0.25, 0, 1]", "[0.5, 0.25, 0]",
+              "\"materials[0].colour\" is an array but must be an array of four"},
+        Wrong{"[0.5, 0.25, 0, 1]", "[0.5, 0.25, 0, 1, 1]", "\"materials[0].colour\""},
+        Wrong{"[0.5, 0.25, 0, 1]", "[0.5, 1.25, 0, 1]", "\"materials[0].colour[1]\" is 1.25"},
+        Wrong{"[0.5, 0.25, 0, 1]", "[0.5, -1e-9, 0, 1]", "\"materials[0].colour[1]\""},
+        Wrong{"[0.5, 0.25, 0, 1]", "[0.5, \"NaN\", 0, 1]", "\"materials[0].colour[1]\" is \"NaN\""},
+        Wrong{"7850", "\"7850\"", "\"materials[0].material.properties[0].value\" is \"7850\" but must be a number"},
+        Wrong{"7850", "null", "\"materials[0].material.properties[0].value\" is null"},
+        Wrong{"\"values\": []", "\"values\": [1, \"x\"]", "\"materials[0].material.properties[0].values[1]\" is \"x\""},
+        Wrong{"\"category\": 0", "\"category\": 10", "\"materials[0].material.properties[0].category\" is 10"},
+        Wrong{"\"held_as\": 401", "\"held_as\": 2147483648",
+              "\"materials[0].material.properties[1].held_as\" is 2147483648"},
+        Wrong{"\"held_as\": 401", "\"held_as\": 4", "\"materials[0].material.properties[1].held_as\" 4 is there twice"},
+        Wrong{"\"properties\": []", "\"properties\": [7]", "\"materials[1].material.properties[0]\" is 7"},
+        Wrong{"\"properties\": []", "\"properties\": {}", "\"materials[1].material.properties\" is an object"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, WrongProject,
+    testing::Values(
+        Wrong{"\"object_id\": 1", "\"object_id\": 0", "\"materials[0].object_id\" is 0"},
+        Wrong{"\"object_id\": 1", "\"object_id\": -1", "\"materials[0].object_id\" is -1"},
+        Wrong{"\"object_id\": 1", "\"object_id\": 1.5", "\"materials[0].object_id\" is 1.5"},
+        Wrong{"\"object_id\": 1", "\"object_id\": 4294967296", "\"materials[0].object_id\" is 4294967296"},
+        Wrong{"\"object_id\": 1", "\"object_id\": 1e300", "\"materials[0].object_id\""},
+        Wrong{"\"object_id\": 1", "\"object_id\": 2", "\"materials[1].object_id\" is 2"},
+        Wrong{"\"next_object_id\": 3", "\"next_object_id\": 2", "\"next_object_id\" is 2 but must be from 3"},
+        Wrong{"\"next_object_id\": 3", "\"next_object_id\": 0", "\"next_object_id\" is 0"},
+        Wrong{"\"next_object_id\": 3", "\"next_object_id\": -3", "\"next_object_id\" is -3"},
+        Wrong{"\"next_object_id\": 3", "\"next_object_id\": 4294967297", "\"next_object_id\" is 4294967297"},
+        Wrong{"\"name_internal\": \"Material2\",\n      \"label\"",
+              "\"name_internal\": \"Material1\",\n      \"label\"",
+              "\"materials[1].name_internal\" is \"Material1\", as that of materials[0]"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Database, WrongProject,
+    testing::Values(
+        Wrong{"\"obj_id\": 2", "\"obj_id\": 7", "\"database.objects.object[1].obj_id\" is 7, but \"materials\" has no"},
+        Wrong{"\"obj_id\": 2", "\"obj_id\": 1", "\"database.objects.object[1].obj_id\" is 1, which stands there twice"},
+        Wrong{"\"obj_id\": 2", "\"obj_id\": -2", "\"database.objects.object[1].obj_id\" must be"},
+        Wrong{"\"obj_id\": 2", "\"obj_id\": \"2\"", "\"database.objects.object[1].obj_id\" must be"},
+        Wrong{"\"class\": \"Mat::MaterialObject\",\n          \"label\"",
+              "\"class\": \"Obj::Other\",\n          \"label\"",
+              "\"database.objects.object[0].class\" is \"Obj::Other\""},
+        Wrong{"\"name_internal\": \"Material2\",\n          \"obj_id\"",
+              "\"name_internal\": \"Stuff\",\n          \"obj_id\"",
+              "\"database.objects.object[1].name_internal\" is \"Stuff\" but \"Material2\" beside the material"},
+        Wrong{"\"name_internal\": \"Material2\",\n          \"obj_id\"", "\"obj_id\"",
+              "\"database.objects.object[1].name_internal\" must be a text"},
+        Wrong{"\"objects\": {", "\"object\": {", "\"materials[0]\" is object 1, which"},
+        Wrong{"\"object\": [", "\"object\": [7, ", "\"database.objects.object[0].obj_id\" must be"},
+        Wrong{"\"database\": {", "\"database\": 7, \"before\": {", "\"database\" must be an object"},
+        Wrong{"\"objects\": {", "\"objects\": [], \"before\": {", "\"database.objects\" must be an object"},
+        Wrong{"\"object\": [", "\"object\": {}, \"before\": [", "\"database.objects.object\" must be an array"}));
+
+TEST(ProjectFile, WithAMaterialThatTheDatabaseHasNotIsRefused)
+{
+    ProjectRecord project = makeSmallProject();
+    std::string text = writeProject(project);
+    const std::size_t begin = text.find(",\n        {\n          \"class\"");
+    text.erase(begin, text.find("        }\n      ]", begin) + 9 - begin);
+    EXPECT_THAT(refusalOf(text), HasSubstr("\"materials[1]\" is object 2, which \"database.objects.object\" has not"));
+}
+
+TEST(ProjectFile, WithAnotherLabelInTheDatabaseIsReadWithADoubt)
+{
+    const ProjectRecord read = readProject(replaced(smallText(), "\"label\": \"Steel\"", "\"label\": \"Iron\""));
+    EXPECT_EQ(read.objects[0].label, "Steel");
+    EXPECT_THAT(read.doubts, ElementsAre(AllOf(HasSubstr("\"Steel\""), HasSubstr("\"Iron\""))));
+}
+
+// --- What is not written ---
+
+TEST(ProjectFile, IsNotWrittenWithATextThatIsNotUtf8)
+{
+    for (const char* const text : {"\xFF", "a\xC3", "\xED\xA0\x80", "\xC0\x80", "\xF4\x90\x80\x80"}) {
+        ProjectRecord project = makeSmallProject();
+        project.objects[1].label = text;
+        EXPECT_THAT(refusalOf(project), AllOf(HasSubstr("\"materials[1].label\""), HasSubstr("UTF-8")));
+        project = makeSmallProject();
+        project.materials[0]->properties.at(401)->unit = text;
+        EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[0].material.properties[1].unit\""));
+        project = makeSmallProject();
+        project.database["a"][0] = "right";
+        project.database["a"][1] = text;
+        EXPECT_THAT(refusalOf(project), HasSubstr("\"database.a[1]\""));
+    }
+}
+
+TEST(ProjectFile, IsNotWrittenWhenItCouldNotBeReadAgain)
+{
+    ProjectRecord project = makeSmallProject();
+    project.objects[1].objectId = 1;
+    EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[1].object_id\" is 1"));
+    project = makeSmallProject();
+    project.nextObjectId = 2;
+    EXPECT_THAT(refusalOf(project), HasSubstr("\"next_object_id\""));
+    project = makeSmallProject();
+    project.objects.pop_back();
+    EXPECT_THAT(refusalOf(project), HasSubstr("\"database.objects.object[1].obj_id\" is 2"));
+    project = makeSmallProject();
+    project.objects[0].colour = {{0.0F, 0.0F, std::numeric_limits<float>::quiet_NaN(), 1.0F}};
+    EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[0].colour[2]\""));
+    project = makeSmallProject();
+    project.database["weight"] = std::numeric_limits<double>::infinity();
+    EXPECT_THAT(refusalOf(project), HasSubstr("\"database.weight\""));
+}
+
+} // namespace

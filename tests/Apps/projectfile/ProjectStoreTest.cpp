@@ -1,0 +1,582 @@
+#include "projectfile/ProjectStore.h"
+
+#include "ProjectTesting.h"
+
+#include "projectfile/ProjectFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <random>
+#include <string>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+using projectfile::FileLock;
+using projectfile::FileStamp;
+using projectfile::hasChanged;
+using projectfile::readFile;
+using projectfile::StoreError;
+using projectfile::writeFile;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class ProjectStore : public testing::Test
+{
+protected:
+    QString path(const QString& name) const { return m_folder.path() + QLatin1Char('/') + name; }
+    QDir folder() const { return {m_folder.path()}; }
+    /// All that is in the folder, hidden files too.
+    QStringList content() const
+    {
+        return folder().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+std::string nameOf(const QString& path)
+{
+    return path.toStdString();
+}
+
+/// What an action says is wrong; the test fails when nothing is.
+template <class Action>
+std::string refusalOf(const Action& action)
+{
+    try {
+        action();
+    } catch (const StoreError& error) {
+        return error.what();
+    }
+    ADD_FAILURE() << "nothing was said";
+    return {};
+}
+
+/// Writes as other programs do: in place.
+void scribble(const QString& path, const std::string& text)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << file.errorString().toStdString();
+    ASSERT_EQ(file.write(text.data(), static_cast<qint64>(text.size())), static_cast<qint64>(text.size()));
+}
+
+mode_t modeOf(const QString& path)
+{
+    struct stat status = {};
+    EXPECT_EQ(stat(QFile::encodeName(path).constData(), &status), 0);
+    return status.st_mode & 07777U;
+}
+
+// --- Reading and writing ---
+
+TEST_F(ProjectStore, GivesBackWhatWasWritten)
+{
+    std::string text = "a\r\n\xE9\x92\xA2";
+    text += '\0';
+    text += "\xFF end";
+    for (const QString& name : {QStringLiteral("a.vxmat"), QStringLiteral("with blanks and \"quotes\" 'here'.vxmat"),
+                                QStringLiteral("材料 钢.vxmat"), QStringLiteral(":colon.vxmat"),
+                                QStringLiteral("back\\slash\nline.vxmat"), QStringLiteral("-o")})
+    {
+        const FileStamp written = writeFile(path(name), text);
+        FileStamp read;
+        EXPECT_EQ(readFile(path(name), &read), text) << nameOf(name);
+        EXPECT_EQ(read.size, static_cast<qint64>(text.size()));
+        EXPECT_EQ(read.size, written.size);
+        EXPECT_EQ(read.modified, written.modified);
+        EXPECT_EQ(read.checksum, written.checksum);
+        EXPECT_FALSE(hasChanged(path(name), written));
+        ASSERT_TRUE(QFile::remove(path(name)));
+        EXPECT_THAT(content(), IsEmpty());
+    }
+}
+
+TEST_F(ProjectStore, TakesANameThatBeginsWithAColonForAFileOfTheCurrentFolder)
+{
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder().path()));
+    writeFile(QStringLiteral(":a.vxmat"), "text");
+    EXPECT_EQ(readFile(QStringLiteral(":a.vxmat")), "text");
+    ASSERT_TRUE(QDir::setCurrent(before));
+    EXPECT_EQ(content(), QStringList{QStringLiteral(":a.vxmat")});
+}
+
+TEST_F(ProjectStore, ReplacesAFileWholeByALongerOrShorterOne)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    for (const std::size_t size : {std::size_t{3000000}, std::size_t{10}, std::size_t{0}, std::size_t{100000}}) {
+        const std::string text(size, 'x');
+        writeFile(file, text);
+        EXPECT_EQ(readFile(file), text);
+    }
+    EXPECT_EQ(content(), QStringList{QStringLiteral("a.vxmat")});
+}
+
+TEST_F(ProjectStore, KeepsThePermissionsOfTheFile)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    writeFile(file, "old");
+    for (const mode_t mode : {mode_t{0600}, mode_t{0640}, mode_t{0664}, mode_t{0755}, mode_t{0666}}) {
+        ASSERT_EQ(chmod(QFile::encodeName(file).constData(), mode), 0);
+        writeFile(file, "new");
+        EXPECT_EQ(modeOf(file), mode);
+    }
+}
+
+TEST_F(ProjectStore, GivesANewFileTheUsualPermissions)
+{
+    const mode_t before = umask(027);
+    writeFile(path(QStringLiteral("a.vxmat")), "text");
+    umask(before);
+    EXPECT_EQ(modeOf(path(QStringLiteral("a.vxmat"))), mode_t{0640});
+}
+
+TEST_F(ProjectStore, KeepsTheOwnerOfTheFile)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make a file that belongs to somebody else";
+    const QString file = path(QStringLiteral("a.vxmat"));
+    writeFile(file, "old");
+    constexpr uid_t other = 12345;
+    ASSERT_EQ(chown(QFile::encodeName(file).constData(), other, other), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(file).constData(), 0640), 0);
+    writeFile(file, "new");
+    struct stat status = {};
+    ASSERT_EQ(stat(QFile::encodeName(file).constData(), &status), 0);
+    EXPECT_EQ(status.st_uid, other);
+    EXPECT_EQ(status.st_gid, other);
+    EXPECT_EQ(modeOf(file), mode_t{0640});
+}
+
+TEST_F(ProjectStore, WritesTheTargetOfAChainOfSymbolicLinks)
+{
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("deep")));
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("links")));
+    scribble(path(QStringLiteral("deep/target.vxmat")), "old");
+    ASSERT_TRUE(QFile::link(QStringLiteral("../deep/target.vxmat"), path(QStringLiteral("links/second.vxmat"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("links/second.vxmat"), path(QStringLiteral("first.vxmat"))));
+
+    const FileStamp stamp = writeFile(path(QStringLiteral("first.vxmat")), "new");
+    EXPECT_TRUE(QFileInfo(path(QStringLiteral("first.vxmat"))).isSymLink());
+    EXPECT_TRUE(QFileInfo(path(QStringLiteral("links/second.vxmat"))).isSymLink());
+    EXPECT_FALSE(QFileInfo(path(QStringLiteral("deep/target.vxmat"))).isSymLink());
+    EXPECT_EQ(readFile(path(QStringLiteral("deep/target.vxmat"))), "new");
+    EXPECT_FALSE(hasChanged(path(QStringLiteral("first.vxmat")), stamp));
+    EXPECT_FALSE(hasChanged(path(QStringLiteral("deep/target.vxmat")), stamp));
+}
+
+TEST_F(ProjectStore, MakesTheTargetOfASymbolicLinkThatIsNotThere)
+{
+    ASSERT_TRUE(QFile::link(QStringLiteral("target.vxmat"), path(QStringLiteral("link.vxmat"))));
+    writeFile(path(QStringLiteral("link.vxmat")), "text");
+    EXPECT_TRUE(QFileInfo(path(QStringLiteral("link.vxmat"))).isSymLink());
+    EXPECT_EQ(readFile(path(QStringLiteral("target.vxmat"))), "text");
+}
+
+TEST_F(ProjectStore, RefusesSymbolicLinksThatGoRoundInACircle)
+{
+    ASSERT_TRUE(QFile::link(QStringLiteral("b.vxmat"), path(QStringLiteral("a.vxmat"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("a.vxmat"), path(QStringLiteral("b.vxmat"))));
+    const QString file = path(QStringLiteral("a.vxmat"));
+    EXPECT_THAT(refusalOf([&] { writeFile(file, "text"); }), HasSubstr(nameOf(file)));
+    EXPECT_THAT(refusalOf([&] { readFile(file); }), HasSubstr(nameOf(file)));
+}
+
+// --- What is refused ---
+
+TEST_F(ProjectStore, RefusesAFolderInsteadOfAFile)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("a.vxmat")));
+    EXPECT_THAT(refusalOf([&] { readFile(file); }), AllOf(HasSubstr(nameOf(file)), HasSubstr("folder")));
+    EXPECT_THAT(refusalOf([&] { writeFile(file, "text"); }), AllOf(HasSubstr(nameOf(file)), HasSubstr("folder")));
+}
+
+TEST_F(ProjectStore, RefusesAFolderThatIsNotThereOrIsAFile)
+{
+    const QString missing = path(QStringLiteral("none/a.vxmat"));
+    EXPECT_THAT(refusalOf([&] { readFile(missing); }), HasSubstr(nameOf(missing)));
+    EXPECT_THAT(refusalOf([&] { writeFile(missing, "text"); }),
+                AllOf(HasSubstr(nameOf(missing)), HasSubstr("does not exist")));
+    scribble(path(QStringLiteral("file")), "text");
+    const QString inFile = path(QStringLiteral("file/a.vxmat"));
+    EXPECT_THAT(refusalOf([&] { readFile(inFile); }), HasSubstr(nameOf(inFile)));
+    EXPECT_THAT(refusalOf([&] { writeFile(inFile, "text"); }),
+                AllOf(HasSubstr(nameOf(inFile)), HasSubstr("is a file")));
+}
+
+TEST_F(ProjectStore, RefusesAMissingFileAndANameWithoutLetters)
+{
+    EXPECT_THAT(refusalOf([&] { readFile(path(QStringLiteral("none.vxmat"))); }),
+                AllOf(HasSubstr("none.vxmat"), HasSubstr("No such file")));
+    EXPECT_THAT(refusalOf([] { readFile(QString()); }), HasSubstr("empty"));
+    EXPECT_THAT(refusalOf([] { writeFile(QString(), "text"); }), HasSubstr("empty"));
+    const QString tooLong = path(QString(300, QLatin1Char('a')));
+    EXPECT_THAT(refusalOf([&] { writeFile(tooLong, "text"); }), HasSubstr("aaa"));
+}
+
+TEST_F(ProjectStore, RefusesDevicesAndPipesInsteadOfWaitingForTheirEnd)
+{
+    const QString pipe = path(QStringLiteral("pipe.vxmat"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& device : {QStringLiteral("/dev/zero"), QStringLiteral("/dev/full"), pipe}) {
+        EXPECT_THAT(refusalOf([&] { readFile(device); }),
+                    AllOf(HasSubstr(nameOf(device)), HasSubstr("device or a pipe")));
+        EXPECT_THAT(refusalOf([&] { writeFile(device, "text"); }),
+                    AllOf(HasSubstr(nameOf(device)), HasSubstr("device or a pipe")));
+    }
+    struct stat status = {};
+    ASSERT_EQ(stat("/dev/full", &status), 0);
+    EXPECT_TRUE(S_ISCHR(status.st_mode));
+}
+
+TEST_F(ProjectStore, RefusesAFileWhoseSizeTheSystemDoesNotTell)
+{
+    // These grow while they are read, as it were.
+    EXPECT_THAT(refusalOf([] { readFile(QStringLiteral("/proc/self/status")); }), HasSubstr("changed"));
+}
+
+TEST_F(ProjectStore, RefusesAFileThatIsLargerThanAnyProject)
+{
+    const QString file = path(QStringLiteral("large.vxmat"));
+    scribble(file, "");
+    ASSERT_EQ(truncate(QFile::encodeName(file).constData(), off_t{1} << 40U), 0);
+    EXPECT_THAT(refusalOf([&] { readFile(file); }), AllOf(HasSubstr("large.vxmat"), HasSubstr("too large")));
+}
+
+enum class Saving
+{
+    Succeeded,
+    Failed,        ///< with a message that names the file
+    FailedUnnamed, ///< with another message
+    NotTried,      ///< since the process could not be prepared for it
+};
+
+/// Saves in a process of its own, after `prepare` there has answered true.
+template <class Prepare>
+Saving saveElsewhere(const QString& file, const std::string& text, const Prepare& prepare)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        auto saving = Saving::NotTried;
+        try {
+            if (prepare()) {
+                writeFile(file, text);
+                saving = Saving::Succeeded;
+            }
+        } catch (const StoreError& error) {
+            const bool isNamed = std::string(error.what()).find(nameOf(file) + ": ") == 0;
+            saving = isNamed ? Saving::Failed : Saving::FailedUnnamed;
+        }
+        _exit(static_cast<int>(saving));
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status)) << status;
+    return static_cast<Saving>(WEXITSTATUS(status));
+}
+
+TEST_F(ProjectStore, LeavesTheFileAsItWasWhenItsFolderIsReadOnly)
+{
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("shut")));
+    const QString shut = path(QStringLiteral("shut"));
+    const QString file = path(QStringLiteral("shut/a.vxmat"));
+    scribble(file, "old");
+    ASSERT_EQ(chmod(QFile::encodeName(file).constData(), 0666), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(shut).constData(), 0555), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(folder().path()).constData(), 0755), 0);
+    // Permissions do not bind root.
+    constexpr uid_t nobody = 65534;
+    const auto becomeSomebody = [] { return geteuid() != 0 || setuid(nobody) == 0; };
+    EXPECT_EQ(saveElsewhere(file, "new", becomeSomebody), Saving::Failed);
+    EXPECT_EQ(readFile(file), "old");
+    ASSERT_EQ(chmod(QFile::encodeName(shut).constData(), 0755), 0);
+    EXPECT_EQ(QDir(shut).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("a.vxmat")});
+}
+
+TEST_F(ProjectStore, LeavesTheFileAsItWasWhenThereIsNoRoomForTheNewOne)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    writeFile(file, "old");
+    const auto limitFiles = [] {
+        const rlimit limit{8192, 8192};
+        return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && setrlimit(RLIMIT_FSIZE, &limit) == 0;
+    };
+    // Less and more than what is written in one go.
+    for (const std::size_t size : {std::size_t{9000}, std::size_t{3000000}}) {
+        EXPECT_EQ(saveElsewhere(file, std::string(size, 'x'), limitFiles), Saving::Failed);
+        EXPECT_EQ(readFile(file), "old");
+        EXPECT_EQ(content(), QStringList{QStringLiteral("a.vxmat")});
+    }
+    EXPECT_EQ(saveElsewhere(file, std::string(8000, 'x'), limitFiles), Saving::Succeeded);
+}
+
+TEST_F(ProjectStore, LeavesTheFileAsItWasWhenTheDiskIsFull)
+{
+    const QString disk = path(QStringLiteral("disk"));
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("disk")));
+    const QByteArray mountPoint = QFile::encodeName(disk);
+    if (mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
+        GTEST_SKIP() << "a small disk can only be made by root, and not everywhere";
+    const QString file = disk + QStringLiteral("/a.vxmat");
+    const std::string old(100000, 'o');
+    writeFile(file, old);
+    EXPECT_THAT(refusalOf([&] { writeFile(file, std::string(300000, 'n')); }),
+                AllOf(HasSubstr(nameOf(file)), HasSubstr("No space left")));
+    EXPECT_EQ(readFile(file), old);
+    EXPECT_EQ(QDir(disk).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("a.vxmat")});
+    EXPECT_EQ(umount(mountPoint.constData()), 0);
+}
+
+// --- Changes by others ---
+
+TEST_F(ProjectStore, NoticesWhatAnotherProgramWrote)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    const FileStamp stamp = writeFile(file, "one");
+    EXPECT_FALSE(hasChanged(file, stamp));
+    scribble(file, "two"); // of the same size, in the same instant
+    EXPECT_TRUE(hasChanged(file, stamp));
+    scribble(file, "three");
+    EXPECT_TRUE(hasChanged(file, stamp));
+    scribble(file, "one");
+    EXPECT_FALSE(hasChanged(file, stamp));
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_TRUE(hasChanged(file, stamp));
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("a.vxmat")));
+    EXPECT_TRUE(hasChanged(file, stamp));
+}
+
+TEST_F(ProjectStore, DoesNotTakeATouchForAChange)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    const FileStamp stamp = writeFile(file, "one");
+    const timeval times[] = {{1000000000, 0}, {1000000000, 0}};
+    ASSERT_EQ(utimes(QFile::encodeName(file).constData(), times), 0);
+    EXPECT_FALSE(hasChanged(file, stamp));
+}
+
+TEST_F(ProjectStore, NoticesAFileWhereThereWasNone)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    EXPECT_FALSE(hasChanged(file, FileStamp()));
+    scribble(file, "");
+    EXPECT_TRUE(hasChanged(file, FileStamp()));
+}
+
+TEST_F(ProjectStore, GivesAWholeFileOrAnErrorWhileAnotherProgramWritesIt)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    const std::string small(400000, 'a');
+    const std::string large(2000000, 'b');
+    scribble(file, small);
+    const pid_t writer = fork();
+    if (writer == 0) {
+        // In place: it shrinks to nothing and grows again.
+        while (true) {
+            for (const std::string* const text : {&large, &small}) {
+                std::FILE* const out = std::fopen(QFile::encodeName(file).constData(), "w");
+                std::fwrite(text->data(), 1, text->size(), out);
+                std::fclose(out);
+            }
+        }
+    }
+    int errors = 0;
+    int halves = 0;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    for (int i = 0; (i < 1000 || errors == 0) && std::chrono::steady_clock::now() < end; ++i) {
+        try {
+            const std::string text = readFile(file);
+            // What stood still half-way while it was read was whole by then; but never two contents in one.
+            halves += text.find_first_not_of(text.front()) != std::string::npos ? 1 : 0;
+        } catch (const StoreError& error) {
+            EXPECT_THAT(error.what(), HasSubstr("a.vxmat: "));
+            ++errors;
+        }
+    }
+    kill(writer, SIGKILL);
+    waitpid(writer, nullptr, 0);
+    EXPECT_EQ(halves, 0);
+    EXPECT_GT(errors, 0);
+}
+
+// --- The lock ---
+
+/// A program that holds the lock of a file, if it got it, until it is told to end.
+class LockHolder
+{
+public:
+    explicit LockHolder(const QString& file)
+    {
+        m_process.start(QStringLiteral(LOCK_HOLDER), {file});
+        EXPECT_TRUE(m_process.waitForReadyRead(30000)) << m_process.readAllStandardError().toStdString();
+        m_answer = m_process.readLine().trimmed();
+    }
+    LockHolder(const LockHolder&) = delete;
+    LockHolder& operator=(const LockHolder&) = delete;
+    ~LockHolder() { end(); }
+
+    bool hasLock() const { return m_answer == "yes"; }
+    qint64 processId() const { return m_process.processId(); }
+    void end()
+    {
+        m_process.closeWriteChannel();
+        m_process.waitForFinished();
+    }
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+    QByteArray m_answer;
+};
+
+TEST_F(ProjectStore, LockKeepsASecondProgramOutAndNamesTheFirst)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    LockHolder other(file);
+    ASSERT_TRUE(other.hasLock());
+    FileLock lock(file);
+    EXPECT_FALSE(lock.tryLock());
+    EXPECT_FALSE(lock.isLocked());
+    EXPECT_THAT(lock.holder().toStdString(),
+                testing::StartsWith("lock_holder (" + std::to_string(other.processId()) + " on "));
+    other.end();
+    EXPECT_EQ(lock.holder(), QString());
+    EXPECT_TRUE(lock.tryLock());
+    EXPECT_TRUE(lock.isLocked());
+    EXPECT_FALSE(LockHolder(file).hasLock());
+}
+
+TEST_F(ProjectStore, LockOfAProgramThatWasKilledDoesNotCount)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    LockHolder other(file);
+    ASSERT_TRUE(other.hasLock());
+    other.kill();
+    EXPECT_EQ(content(), QStringList{QStringLiteral(".a.vxmat.lock")});
+    FileLock lock(file);
+    EXPECT_EQ(lock.holder(), QString());
+    EXPECT_TRUE(lock.tryLock());
+}
+
+TEST_F(ProjectStore, LockOfALivingProgramCountsHoweverOldItIs)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    const LockHolder other(file);
+    ASSERT_TRUE(other.hasLock());
+    const timeval times[] = {{1000000000, 0}, {1000000000, 0}};
+    ASSERT_EQ(utimes(QFile::encodeName(path(QStringLiteral(".a.vxmat.lock"))).constData(), times), 0);
+    EXPECT_FALSE(FileLock(file).tryLock());
+}
+
+TEST_F(ProjectStore, LockThatSaysNothingDoesNotCountOnceItIsOld)
+{
+    // As a crash leaves it between making the file and writing to it.
+    const QString file = path(QStringLiteral("a.vxmat"));
+    const QString lockFile = path(QStringLiteral(".a.vxmat.lock"));
+    scribble(lockFile, "");
+    EXPECT_FALSE(FileLock(file).tryLock());
+    const timeval times[] = {{1000000000, 0}, {1000000000, 0}};
+    ASSERT_EQ(utimes(QFile::encodeName(lockFile).constData(), times), 0);
+    EXPECT_TRUE(FileLock(file).tryLock());
+}
+
+TEST_F(ProjectStore, LockIsTheSameForASymbolicLinkAndItsTarget)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    scribble(file, "text");
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("links")));
+    const QString link = path(QStringLiteral("links/b.vxmat"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("../a.vxmat"), link));
+    FileLock lock(link);
+    EXPECT_TRUE(lock.tryLock());
+    EXPECT_FALSE(FileLock(file).tryLock());
+    EXPECT_TRUE(QFileInfo::exists(path(QStringLiteral(".a.vxmat.lock"))));
+}
+
+TEST_F(ProjectStore, LockGoesWithItsOwnerAndLeavesNothing)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    {
+        FileLock first(file);
+        ASSERT_TRUE(first.tryLock());
+        FileLock second(std::move(first));
+        EXPECT_TRUE(second.isLocked());
+        first = FileLock(path(QStringLiteral("b.vxmat")));
+        EXPECT_TRUE(first.tryLock());
+        EXPECT_EQ(content().size(), 2);
+    }
+    EXPECT_THAT(content(), IsEmpty());
+}
+
+TEST_F(ProjectStore, LockCannotBeHadWhereNoFileCanBeMade)
+{
+    FileLock lock(path(QStringLiteral("none/a.vxmat")));
+    EXPECT_FALSE(lock.tryLock());
+    EXPECT_EQ(lock.holder(), QString());
+}
+
+// --- Killed while saving ---
+
+TEST_F(ProjectStore, LeavesOneOfTwoStatesWhateverMomentItIsKilledAt)
+{
+    constexpr int kills = 300;
+    vxtest::Dice dice;
+    const std::string first = projectfile::writeProject(dice.makeProject(1500));
+    const std::string second = projectfile::writeProject(dice.makeProject(900));
+    ASSERT_GT(second.size(), 1000000U);
+    ASSERT_GT(first.size(), second.size());
+    ASSERT_TRUE(folder().mkdir(QStringLiteral("saved")));
+    const QString file = path(QStringLiteral("saved/a.vxmat"));
+    const QStringList arguments{file, path(QStringLiteral("first")), path(QStringLiteral("second"))};
+    scribble(arguments[1], first);
+    scribble(arguments[2], second);
+    scribble(file, first);
+
+    std::mt19937 engine(7);
+    std::uniform_int_distribution<int> microseconds(0, 30000);
+    int firsts = 0;
+    int seconds = 0;
+    for (int i = 0; i < kills; ++i) {
+        QProcess saver;
+        saver.start(QStringLiteral(SAVE_LOOP), arguments);
+        ASSERT_TRUE(saver.waitForReadyRead(30000)) << saver.readAllStandardError().toStdString();
+        std::this_thread::sleep_for(std::chrono::microseconds(microseconds(engine)));
+        ASSERT_EQ(saver.state(), QProcess::Running) << saver.readAllStandardError().toStdString();
+        saver.kill();
+        saver.waitForFinished();
+        const std::string found = readFile(file);
+        firsts += found == first ? 1 : 0;
+        seconds += found == second ? 1 : 0;
+        ASSERT_EQ(firsts + seconds, i + 1) << "neither state, but " << found.size() << " bytes";
+    }
+    std::printf("killed %d times: %d times the first state, %d times the second\n", kills, firsts, seconds);
+    EXPECT_GT(firsts, 0);
+    EXPECT_GT(seconds, 0);
+    const QStringList projects =
+        QDir(path(QStringLiteral("saved"))).entryList({QStringLiteral("*.vxmat")}, QDir::Files | QDir::Hidden);
+    EXPECT_EQ(projects, QStringList{QStringLiteral("a.vxmat")});
+}
+
+} // namespace

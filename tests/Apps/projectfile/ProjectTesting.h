@@ -1,0 +1,45 @@
+#pragma once
+
+#include "projectfile/ProjectFile.h"
+
+#include <cstdint>
+#include <memory>
+#include <random>
+#include <string>
+
+namespace vxtest {
+
+/// Expects that two materials agree in every field. NaN is equal to NaN here, and 0 is not equal to -0.
+void expectSame(const vxMat::MaterialBase& a, const vxMat::MaterialBase& b);
+
+/// Expects that two projects agree in every field, those of their materials included.
+void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectRecord& b);
+
+/// Adds a material with the next number to a project, and its object to the database.
+projectfile::ObjectRecord& addMaterial(projectfile::ProjectRecord& project,
+                                       std::unique_ptr<vxMat::MaterialBase> material);
+
+/// A project with one material of each of the library's 26.
+projectfile::ProjectRecord makeLibraryProject();
+
+/// A project that fits on a page: two materials with a property or two.
+projectfile::ProjectRecord makeSmallProject();
+
+/// Materials, and projects, with whatever a field can hold; the same in each run.
+class Dice
+{
+public:
+    std::unique_ptr<vxMat::MaterialBase> makeMaterial();
+    projectfile::ProjectRecord makeProject(int materials);
+
+private:
+    int upTo(int most);
+    std::int32_t whole();
+    double number();
+    std::string text();
+    std::unique_ptr<vxMat::MaterialProperty> makeProperty();
+
+    std::mt19937 m_engine{20240229};
+};
+
+} // namespace vxtest

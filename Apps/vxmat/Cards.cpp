@@ -4,10 +4,7 @@
 #include "Files.h"
 #include "MaterialNames.h"
 
-#include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/CardSet.h"
-
-#include <QFile>
 
 #include <memory>
 #include <optional>
@@ -22,6 +19,7 @@ struct CardMaterial
 {
     std::string source; ///< file; empty for the library
     std::optional<std::uint32_t> number;
+    vxCAE::MaterialSource completeness = vxCAE::MaterialSource::Complete;
     std::unique_ptr<vxCAE::MaterialEntry> entry;
 };
 
@@ -36,27 +34,19 @@ CardMaterial fromLibrary(const vxMat::MaterialBase& material)
     auto entry = std::make_unique<vxCAE::MaterialEntry>();
     entry->material->copyFrom(material);
     entry->classifyKind();
-    return {"", std::nullopt, std::move(entry)};
+    return {"", std::nullopt, vxCAE::MaterialSource::Complete, std::move(entry)};
 }
 
-void addFromDocument(const std::string& path, std::vector<CardMaterial>& materials, Answer& answer)
+void addFromFile(const std::string& path, std::vector<CardMaterial>& materials, Answer& answer)
 {
-    vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
-    readInto(set, path, readMaterialDocument(path));
-    if (set.materials->entries.empty()) {
+    MaterialFile file = readMaterials(path);
+    answer.messages.insert(answer.messages.end(), file.doubts.begin(), file.doubts.end());
+    if (file.materials.empty()) {
         answer.messages.push_back(path + ": holds no materials");
         answer.status = Status::Findings;
     }
-    for (auto& [number, entry] : set.materials->entries) {
-        entry->classifyKind();
-        materials.push_back({path, number, std::move(entry)});
-    }
-}
-
-bool isFile(const std::string& argument)
-{
-    return argument == standardStream || argument.find_first_of("/.") != std::string::npos ||
-           QFile::exists(QFile::decodeName(argument.c_str()));
+    for (FileMaterial& material : file.materials)
+        materials.push_back({path, material.number, file.source, std::move(material.entry)});
 }
 
 std::vector<CardMaterial> collect(const std::vector<std::string>& sources, Answer& answer)
@@ -67,9 +57,9 @@ std::vector<CardMaterial> collect(const std::vector<std::string>& sources, Answe
         if (const auto type = names.find(source))
             materials.push_back(fromLibrary(names.get(*type)));
         else if (isFile(source))
-            addFromDocument(source, materials, answer);
+            addFromFile(source, materials, answer);
         else
-            throw Failure(names.unknown(source) + " There is no file of that name either.");
+            throw Failure(names.unknownNameOrFile(source));
     }
     return materials;
 }
@@ -115,11 +105,10 @@ Answer printCards(const std::vector<std::string>& sources, Form form)
     Json::Value document;
     document["materials"] = Json::arrayValue;
     for (const CardMaterial& material : collect(sources, answer)) {
-        const bool complete = material.source.empty();
-        const vxCAE::CardSet set =
-            makeCardSet(*material.entry, complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document);
+        const vxCAE::CardSet set = makeCardSet(*material.entry, material.completeness);
+        const std::string title = (material.source.empty() ? "" : material.source + ": ") + titleOf(material) + ": ";
         for (const std::string& doubt : set.doubts) {
-            answer.messages.push_back((complete ? "" : material.source + ": ") + titleOf(material) + ": " + doubt);
+            answer.messages.push_back(std::string(title).append(doubt));
             answer.status = Status::Findings;
         }
         if (form == Form::Json)

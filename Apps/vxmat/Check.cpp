@@ -2,6 +2,7 @@
 
 #include "Documents.h"
 #include "Files.h"
+#include "ProjectFindings.h"
 
 #include "vxMaterial/exchange/DocumentCheck.h"
 
@@ -23,14 +24,15 @@ Json::Value toJson(const std::vector<vxCAE::Finding>& findings)
 
 vxCAE::CheckReport check(const std::string& path, const std::optional<std::string>& materialsPath)
 {
-    const std::string text = readFile(path);
-    const Json::Value document = parseDocument(path, text);
+    const Input input = readInput(path);
+    if (input.project)
+        return checkProject(input);
     Json::Value materials;
     if (materialsPath)
         materials = readMaterialDocument(*materialsPath);
 
-    vxCAE::CheckReport report = vxCAE::checkDocument(document, materialsPath ? &materials : nullptr);
-    const auto repeated = vxCAE::findRepeatedMembers(text);
+    vxCAE::CheckReport report = vxCAE::checkDocument(input.document, materialsPath ? &materials : nullptr);
+    const auto repeated = vxCAE::findRepeatedMembers(input.text);
     report.findings.insert(report.findings.begin(), repeated.begin(), repeated.end());
     return report;
 }
@@ -51,7 +53,7 @@ Answer checkFile(const std::string& path, const std::optional<std::string>& mate
         return answer;
     }
     for (const vxCAE::Finding& finding : report.findings)
-        answer.text += path + ": " + printable(finding.path) + ": " + finding.message + "\n";
+        answer.text += path + ": " + printable(finding.path) + ": " + printable(finding.message) + "\n";
     for (const vxCAE::Finding& note : report.notes)
         answer.messages.push_back(path + ": note: " + note.path + ": " + note.message);
     return answer;

@@ -4,9 +4,11 @@
 #include "Arguments.h"
 #include "Cards.h"
 #include "Check.h"
+#include "Diff.h"
 #include "Export.h"
 #include "Files.h"
 #include "Listings.h"
+#include "NewProject.h"
 #include "Query.h"
 
 #include <CLI/CLI.hpp>
@@ -39,25 +41,32 @@ private:
                          std::function<Answer()> action);
     void addForm(CLI::App* command);
     void addMaterialsFile(CLI::App* command);
+    void addOutput(CLI::App* command);
 
     void addLibrary();
     void addCatalogue();
     void addShow();
+    void addNew();
+    void addImport();
     void addExport();
     void addCards();
     void addCheck();
+    void addDiff();
     void addQuery();
 
     Form form() const { return m_json ? Form::Json : Form::Text; }
 
-    CLI::App m_app{"Materials for finite-element simulation: the library, exchange documents and solver cards.",
-                   "vxmat"};
+    CLI::App m_app{
+        "Materials for finite-element simulation: the library, projects, exchange documents and solver cards.",
+        "vxmat"};
     std::function<Answer()> m_action;
 
     bool m_json = false;
     std::string m_name;
     std::vector<std::string> m_names;
     std::string m_file;
+    std::string m_otherFile;
+    std::string m_output;
     std::optional<std::string> m_materialsFile;
     std::string m_project = "0";
     std::string m_examples;
@@ -71,11 +80,14 @@ CommandLine::CommandLine()
     addLibrary();
     addCatalogue();
     addShow();
+    addNew();
+    addImport();
     addExport();
     addCards();
     addCheck();
+    addDiff();
     addQuery();
-    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 done and clean, 1 findings, 2 error.");
+    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 done and clean, 1 findings or differences, 2 error.");
 }
 
 CLI::App* CommandLine::addCommand(const std::string& name, const std::string& description, const std::string& example,
@@ -95,8 +107,15 @@ void CommandLine::addForm(CLI::App* command)
 
 void CommandLine::addMaterialsFile(CLI::App* command)
 {
-    command->add_option("--materials", m_materialsFile, "The material document that the analysis goes with")
+    command->add_option("--materials", m_materialsFile, "The material document or project that the analysis goes with")
         ->type_name("FILE");
+}
+
+void CommandLine::addOutput(CLI::App* command)
+{
+    command->add_option("-o,--output", m_output, "The file to write; - is standard output")
+        ->type_name("FILE")
+        ->required();
 }
 
 void CommandLine::addLibrary()
@@ -113,30 +132,57 @@ void CommandLine::addCatalogue()
 
 void CommandLine::addShow()
 {
-    CLI::App* const command =
-        addCommand("show", "Show a built-in material: name, value, unit, description",
-                   R"(vxmat show "structural steel")", [this] { return showMaterial(m_name, form()); });
-    command->add_option("NAME", m_name, "A material of the library; case does not matter")->required();
+    CLI::App* const command = addCommand(
+        "show", "Show a built-in material, or those of a project or document: name, value, unit, description",
+        R"(vxmat show "structural steel")", [this] { return showMaterial(m_name, form()); });
+    command
+        ->add_option("NAME|FILE", m_name,
+                     "A material of the library, case does not matter; or a project or document, - is standard input")
+        ->required();
     addForm(command);
+}
+
+void CommandLine::addNew()
+{
+    CLI::App* const command = addCommand("new", "Make a project file of built-in materials",
+                                         R"(vxmat new "Structural Steel=Frame" Air -o parts.vxmat)",
+                                         [this] { return newProject(m_names, m_output); });
+    command
+        ->add_option("NAME", m_names,
+                     "Materials of the library, which are labelled by their names or as NAME=LABEL says")
+        ->required();
+    addOutput(command);
+}
+
+void CommandLine::addImport()
+{
+    CLI::App* const command =
+        addCommand("import", "Make a project file of a material document, and restore what did not travel",
+                   "vxmat import materials.json -o parts.vxmat", [this] { return importDocument(m_file, m_output); });
+    command->add_option("DOC", m_file, "A material document; - is standard input")->required();
+    addOutput(command);
 }
 
 void CommandLine::addExport()
 {
-    CLI::App* const command = addCommand("export", "Write built-in materials as a material document for the solver",
-                                         R"(vxmat export "Structural Steel" "Air=20" -o materials.json)",
-                                         [this] { return exportMaterials(m_names, m_file); });
-    command->add_option("NAME", m_names, "Materials of the library, numbered 1, 2, ... or by NAME=NUMBER")->required();
-    command->add_option("-o,--output", m_file, "The file to write; - is standard output")
-        ->type_name("FILE")
+    CLI::App* const command =
+        addCommand("export", "Write built-in materials, and those of projects, as a material document for the solver",
+                   R"(vxmat export "Structural Steel" "Air=20" -o materials.json)",
+                   [this] { return exportMaterials(m_names, m_output); });
+    command
+        ->add_option("NAME|PROJECT", m_names,
+                     "Materials of the library, numbered 1, 2, ... or by NAME=NUMBER; or project files, whose "
+                     "materials keep their numbers")
         ->required();
+    addOutput(command);
 }
 
 void CommandLine::addCards()
 {
     CLI::App* const command =
-        addCommand("cards", "Print the solver cards of built-in materials and of material documents",
+        addCommand("cards", "Print the solver cards of built-in materials, of projects and of material documents",
                    R"(vxmat cards "Plastic Example 1" materials.json)", [this] { return printCards(m_names, form()); });
-    command->add_option("NAME|FILE", m_names, "Materials of the library, or documents; - is standard input")
+    command->add_option("NAME|FILE", m_names, "Materials of the library, projects or documents; - is standard input")
         ->required();
     addForm(command);
 }
@@ -144,11 +190,22 @@ void CommandLine::addCards()
 void CommandLine::addCheck()
 {
     CLI::App* const command =
-        addCommand("check", "Report everything wrong with an exchange document, with its JSON path",
+        addCommand("check", "Report everything wrong with an exchange document or a project, with its JSON path",
                    "vxmat check analysis.json --materials materials.json",
                    [this] { return checkFile(m_file, m_materialsFile, form()); });
-    command->add_option("FILE", m_file, "An exchange document of either kind; - is standard input")->required();
+    command->add_option("FILE", m_file, "An exchange document of either kind, or a project; - is standard input")
+        ->required();
     addMaterialsFile(command);
+    addForm(command);
+}
+
+void CommandLine::addDiff()
+{
+    CLI::App* const command =
+        addCommand("diff", "Print what distinguishes the materials of two projects or material documents, by label",
+                   "vxmat diff parts.vxmat materials.json", [this] { return diffFiles(m_file, m_otherFile, form()); });
+    command->add_option("A", m_file, "A project or material document; - is standard input")->required();
+    command->add_option("B", m_otherFile, "Another one")->required();
     addForm(command);
 }
 

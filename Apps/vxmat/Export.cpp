@@ -1,13 +1,16 @@
 #include "Export.h"
 
 #include "Arguments.h"
+#include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
+#include "Properties.h"
 
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/JsonText.h"
-#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/NumberText.h"
 
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <set>
@@ -17,29 +20,103 @@ namespace vxmat {
 
 namespace {
 
-/// One NAME or NAME=NUMBER of the command line.
+/// One material that is to be written.
 struct Wanted
 {
-    std::string name;
-    std::optional<std::uint32_t> number;
+    std::string argument;                ///< that asks for it
+    std::optional<std::uint32_t> number; ///< absent when any will do
+    std::unique_ptr<vxCAE::MaterialEntry> entry;
 };
 
-Wanted parseWanted(const std::string& argument)
+/// NAME or NAME=NUMBER.
+struct NameAndNumber
+{
+    std::string name;
+    std::optional<std::string> number;
+};
+
+NameAndNumber split(const std::string& argument)
 {
     const std::size_t sign = argument.rfind('=');
     if (sign == std::string::npos)
         return {argument, std::nullopt};
-    return {argument.substr(0, sign), parseNumber(argument, argument.substr(sign + 1))};
+    return {argument.substr(0, sign), argument.substr(sign + 1)};
 }
 
-std::vector<Wanted> parseAll(const std::vector<std::string>& arguments)
+/// What of a material the document does not carry, besides units and descriptions, which the catalogue knows.
+void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
 {
+    std::string lost;
+    for (const std::int32_t key : keysOf(material)) {
+        const vxMat::MaterialProperty& property = *material.findProperty(key);
+        const vxMat::eValueKind kind = kindOf(property);
+        const bool isNumber = kind == vxMat::eValueKind::Number || kind == vxMat::eValueKind::ModelSwitch;
+        if (!isNumber || !property.text.empty() || !property.values.empty())
+            lost += (lost.empty() ? "\"" : ", \"") + property.name + "\"";
+    }
+    if (!lost.empty())
+        answer.messages.push_back("note: " + material.name +
+                                  ": exchange documents carry no words and lists; lost: " + lost);
+}
+
+/// A document with a number that JSON has no word for, or an id below 0, would be refused where it is read.
+void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& material)
+{
+    for (const auto& [key, property] : material.properties) {
+        const std::string title =
+            path + ": " + material.name + ": property " + std::to_string(key) + " \"" + property->name + "\" ";
+        if (!std::isfinite(property->value))
+            throw Failure(title + "is " + vxMat::formatNumber(property->value) +
+                          "; exchange documents carry finite numbers alone");
+        if (key < 0)
+            throw Failure(title + "has an id below 0, which readers of exchange documents refuse");
+    }
+}
+
+void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answer)
+{
+    Input input = readInput(path);
+    if (!input.project)
+        throw Failure(path + ": not a project file; its materials are in a document already");
+    MaterialFile file = readMaterials(std::move(input));
+    answer.messages.insert(answer.messages.end(), file.doubts.begin(), file.doubts.end());
+    for (FileMaterial& material : file.materials) {
+        requireThatItTravels(path, *material.entry->material);
+        all.push_back({path + ": " + material.label, material.number, std::move(material.entry)});
+    }
+}
+
+std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std::string& output, Answer& answer)
+{
+    const MaterialNames names;
     std::vector<Wanted> all;
-    std::set<std::uint32_t> taken;
     for (const std::string& argument : arguments) {
-        all.push_back(parseWanted(argument));
-        if (all.back().number && !taken.insert(*all.back().number).second)
-            throw Failure(argument + ": another material has this number already");
+        const NameAndNumber wanted = split(argument);
+        const bool isName = names.find(argument).has_value() || names.find(wanted.name).has_value();
+        if (!isName && isFile(argument)) {
+            requireAnotherFile(argument, output);
+            addProject(argument, all, answer);
+            continue;
+        }
+        std::optional<std::uint32_t> number;
+        if (wanted.number)
+            number = parseNumber(argument, *wanted.number);
+        if (!isName)
+            throw Failure(names.unknownNameOrFile(wanted.name));
+        auto entry = std::make_unique<vxCAE::MaterialEntry>();
+        entry->material->copyFrom(names.get(wanted.name));
+        all.push_back({argument, number, std::move(entry)});
+    }
+    return all;
+}
+
+/// Gives numbers to the materials that have none: 1, 2, ..., passing over those that others have.
+void number(std::vector<Wanted>& all)
+{
+    std::set<std::uint32_t> taken;
+    for (const Wanted& wanted : all) {
+        if (wanted.number && !taken.insert(*wanted.number).second)
+            throw Failure(wanted.argument + ": another material has this number already");
     }
     std::uint32_t next = 1;
     for (Wanted& wanted : all) {
@@ -49,36 +126,19 @@ std::vector<Wanted> parseAll(const std::vector<std::string>& arguments)
             ++next;
         wanted.number = next++;
     }
-    return all;
-}
-
-/// What of a material the document does not carry, besides units and descriptions, which the catalogue knows.
-void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
-{
-    std::string lost;
-    for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
-        const bool isNumber = record.kind == vxMat::eValueKind::Number || record.kind == vxMat::eValueKind::ModelSwitch;
-        if (material.hasProperty(record.id) && !isNumber)
-            lost += (lost.empty() ? "\"" : ", \"") + std::string(record.name) + "\"";
-    }
-    if (!lost.empty())
-        answer.messages.push_back("note: " + material.name +
-                                  ": exchange documents carry no words and lists; lost: " + lost);
 }
 
 } // namespace
 
 Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path)
 {
-    const MaterialNames names;
     Answer answer;
+    std::vector<Wanted> all = collect(materials, path, answer);
+    number(all);
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
-    for (const Wanted& wanted : parseAll(materials)) {
-        const vxMat::MaterialBase& material = names.get(wanted.name);
-        noteWhatStaysBehind(material, answer);
-        auto entry = std::make_unique<vxCAE::MaterialEntry>();
-        entry->material->copyFrom(material);
-        set.materials->addMaterial(*wanted.number, std::move(entry));
+    for (Wanted& wanted : all) {
+        noteWhatStaysBehind(*wanted.entry->material, answer);
+        set.materials->addMaterial(*wanted.number, std::move(wanted.entry));
     }
     Json::Value document;
     set.writeJson(document);

@@ -2,16 +2,17 @@
 
 #include "Answer.h"
 
+#include "projectfile/ProjectStore.h"
 #include "vxMaterial/exchange/JsonText.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <json/writer.h>
 
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -80,7 +81,57 @@ void writeToOpen(const std::string& path, int descriptor, const std::string& tex
         fail(path, file.errorString());
 }
 
+void writeToDevice(const std::string& path, const QString& name, const std::string& text)
+{
+    const auto size = static_cast<qint64>(text.size());
+    QFile device(name);
+    if (!device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || device.write(text.data(), size) != size)
+        fail(path, device.errorString());
+}
+
+/// Writes to what is no file that could be replaced: what is open already, a device, a pipe. Answers false, with nothing
+/// written, when it is one, or will be.
+bool writeDirectly(const std::string& path, const std::string& text)
+{
+    if (path == standardStream) {
+        writeStandardOutput(text);
+        return true;
+    }
+    if (const auto descriptor = descriptorOf(path)) {
+        writeToOpen(path, *descriptor, text);
+        return true;
+    }
+    const QString name = toQString(path);
+    const QFileInfo info(name);
+    if (info.isDir())
+        fail(path, QStringLiteral("Is a directory"));
+    if (info.exists() && !info.isFile()) {
+        writeToDevice(path, name, text);
+        return true;
+    }
+    if (!QFileInfo(info.path()).exists())
+        fail(path, QStringLiteral("No such file or directory"));
+    return false;
+}
+
+/// Does what the store of projects does with files, whose messages name the file first as ours do.
+template <class Work>
+auto fromStore(const Work& work)
+{
+    try {
+        return work();
+    } catch (const projectfile::StoreError& error) {
+        throw Failure(error.what());
+    }
+}
+
 } // namespace
+
+bool isFile(const std::string& argument)
+{
+    return argument == standardStream || argument.find_first_of("/.") != std::string::npos ||
+           QFile::exists(QFile::decodeName(argument.c_str()));
+}
 
 std::string readFile(const std::string& path)
 {
@@ -90,12 +141,16 @@ std::string readFile(const std::string& path)
             fail("standard input", input.errorString());
         return readAll("standard input", input);
     }
-    QFile file(toQString(path));
-    if (QFileInfo(file).isDir())
+    const QString name = toQString(path);
+    const QFileInfo info(name);
+    if (info.isDir())
         fail(path, QStringLiteral("Is a directory"));
-    if (!file.open(QIODevice::ReadOnly))
-        fail(path, file.errorString());
-    return readAll(path, file);
+    if (!info.exists() || info.isFile())
+        return fromStore([&] { return projectfile::readFile(QFile::decodeName(path.c_str())); });
+    QFile device(name);
+    if (!device.open(QIODevice::ReadOnly))
+        fail(path, device.errorString());
+    return readAll(path, device);
 }
 
 Json::Value parseDocument(const std::string& path, const std::string& text)
@@ -114,39 +169,34 @@ Json::Value parseDocument(const std::string& path, const std::string& text)
     return std::move(reading.document);
 }
 
-Json::Value readDocument(const std::string& path)
-{
-    return parseDocument(path, readFile(path));
-}
-
 void writeFile(const std::string& path, const std::string& text)
 {
-    if (path == standardStream) {
-        writeStandardOutput(text);
-        return;
-    }
-    if (const auto descriptor = descriptorOf(path)) {
-        writeToOpen(path, *descriptor, text);
-        return;
-    }
-    const QString name = toQString(path);
-    const QFileInfo info(name);
-    if (info.isDir())
-        fail(path, QStringLiteral("Is a directory"));
+    if (!writeDirectly(path, text))
+        fromStore([&] { projectfile::writeFile(QFile::decodeName(path.c_str()), text); });
+}
 
-    const auto size = static_cast<qint64>(text.size());
-    if (info.exists() && !info.isFile()) {
-        QFile device(name);
-        if (!device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || device.write(text.data(), size) != size)
-            fail(path, device.errorString());
+void writeProjectFile(const std::string& path, const std::string& text)
+{
+    if (writeDirectly(path, text))
         return;
-    }
-    // commit() does not notice that the last of the text could not be written; flush() does.
-    QSaveFile file(name);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size && file.flush() && file.commit();
-    if (!written)
-        fail(path, file.errorString());
+    fromStore([&] {
+        const QString name = QFile::decodeName(path.c_str());
+        projectfile::FileLock lock(name);
+        // Where no lock file can be made, the project cannot be written either, which says why.
+        if (const QString holder = lock.tryLock() ? QString() : lock.holder(); !holder.isEmpty())
+            fail(path, QStringLiteral("another program has it open: %1").arg(holder));
+        projectfile::writeFile(name, text);
+    });
+}
+
+void requireAnotherFile(const std::string& input, const std::string& output)
+{
+    if (input == standardStream || output == standardStream)
+        return;
+    const QFileInfo read(toQString(input));
+    const QFileInfo written(toQString(output));
+    if (read.isFile() && read.canonicalFilePath() == written.canonicalFilePath())
+        throw Failure(output + ": this file is read here and would be lost; give another one to write");
 }
 
 void writeStandardOutput(const std::string& text)
@@ -171,6 +221,13 @@ std::string printable(const std::string& text)
         }
     }
     return shown;
+}
+
+Json::Value toJsonNumber(double number)
+{
+    if (std::isfinite(number))
+        return number;
+    return std::isnan(number) ? "NaN" : number > 0.0 ? "Infinity" : "-Infinity";
 }
 
 std::string toJsonText(const Json::Value& document)

@@ -1,7 +1,9 @@
 #include "Listings.h"
 
+#include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
+#include "Properties.h"
 #include "TextTable.h"
 
 #include "vxMaterial/model/MaterialLibrary.h"
@@ -42,11 +44,11 @@ Json::Value valueJson(const MaterialProperty& property)
     case eValueKind::NumberList: {
         Json::Value list(Json::arrayValue);
         for (const double number : property.values)
-            list.append(number);
+            list.append(toJsonNumber(number));
         return list;
     }
     default:
-        return property.value;
+        return toJsonNumber(property.value);
     }
 }
 
@@ -84,17 +86,6 @@ Json::Value toJson(const PropertyRecord& record)
     return json;
 }
 
-/// The keys of a material's properties in the order of the catalogue.
-std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& material)
-{
-    std::vector<std::int32_t> keys;
-    for (const PropertyRecord& record : vxMat::propertyRecords()) {
-        if (material.hasProperty(record.id))
-            keys.push_back(record.id);
-    }
-    return keys;
-}
-
 Json::Value toJson(std::int32_t key, const MaterialProperty& property)
 {
     Json::Value json;
@@ -102,11 +93,77 @@ Json::Value toJson(std::int32_t key, const MaterialProperty& property)
     json["id"] = property.id;
     json["name"] = property.name;
     json["key"] = property.key;
-    json["kind"] = kindName(vxMat::findPropertyRecord(property.id)->kind);
+    json["kind"] = kindName(kindOf(property));
     json["value"] = valueJson(property);
     json["unit"] = property.unit;
     json["description"] = property.description;
     return json;
+}
+
+/// The properties of a material, as rows of a table and as JSON.
+struct PropertyListing
+{
+    TextTable table{{"Name", "Value", "Unit", "Description"}};
+    Json::Value json{Json::arrayValue};
+};
+
+/// `title` is what notes about the material begin with.
+PropertyListing listProperties(const vxMat::MaterialBase& material, const std::string& title, Answer& answer)
+{
+    PropertyListing listing;
+    for (const std::int32_t key : keysOf(material)) {
+        const MaterialProperty& property = *material.findProperty(key);
+        listing.table.add({printable(property.name), printable(vxMat::formatValue(property)), printable(property.unit),
+                           printable(property.description)});
+        listing.json.append(toJson(key, property));
+        if (key == property.id)
+            continue;
+        const PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
+        answer.messages.push_back(
+            "note: " + title + " keeps its " +
+            (quantity != nullptr ? "\"" + std::string(quantity->name) + "\"" : "property " + std::to_string(key)) +
+            " as a property named \"" + property.name + "\"");
+    }
+    return listing;
+}
+
+Answer showLibraryMaterial(const vxMat::MaterialBase& material, vxMat::eMaterialType type, Form form)
+{
+    Answer answer;
+    const PropertyListing listing = listProperties(material, material.name, answer);
+    Json::Value document;
+    document["name"] = material.name;
+    document["type"] = static_cast<std::int32_t>(type);
+    document["group"] = material.libraryGroup;
+    document["group_name"] = vxMat::getLibraryGroupName(material.libraryGroup);
+    document["properties"] = listing.json;
+    answer.text = form == Form::Json ? toJsonText(document) : material.name + "\n\n" + listing.table.text();
+    return answer;
+}
+
+Answer showFile(const std::string& path, Form form)
+{
+    const MaterialFile file = readMaterials(path);
+    Answer answer;
+    answer.messages = file.doubts;
+    Json::Value document;
+    document["file"] = path;
+    document["materials"] = Json::arrayValue;
+    for (const FileMaterial& material : file.materials) {
+        const std::string title = std::to_string(material.number) + " " + printable(material.label);
+        const PropertyListing listing =
+            listProperties(*material.entry->material, std::string(path).append(": ").append(title), answer);
+        answer.text += (answer.text.empty() ? "" : "\n") + title + "\n\n" + listing.table.text();
+        Json::Value json;
+        json["number"] = material.number;
+        json["name"] = material.label;
+        json["suppressed"] = material.suppressed;
+        json["properties"] = listing.json;
+        document["materials"].append(std::move(json));
+    }
+    if (form == Form::Json)
+        answer.text = toJsonText(document);
+    return answer;
 }
 
 } // namespace
@@ -149,25 +206,11 @@ Answer listCatalogue(Form form)
 Answer showMaterial(const std::string& name, Form form)
 {
     const MaterialNames names;
-    const vxMat::MaterialBase& material = names.get(name);
-    Answer answer;
-    TextTable table({"Name", "Value", "Unit", "Description"});
-    Json::Value document;
-    document["name"] = material.name;
-    document["type"] = static_cast<std::int32_t>(*names.find(name));
-    document["group"] = material.libraryGroup;
-    document["group_name"] = vxMat::getLibraryGroupName(material.libraryGroup);
-    for (const std::int32_t key : keysOf(material)) {
-        const MaterialProperty& property = *material.findProperty(key);
-        table.add({property.name, vxMat::formatValue(property), property.unit, property.description});
-        document["properties"].append(toJson(key, property));
-        if (key != property.id)
-            answer.messages.push_back("note: " + material.name + " keeps its \"" +
-                                      vxMat::findPropertyRecord(key)->name + "\" as a property named \"" +
-                                      property.name + "\"");
-    }
-    answer.text = form == Form::Json ? toJsonText(document) : material.name + "\n\n" + table.text();
-    return answer;
+    if (const auto type = names.find(name))
+        return showLibraryMaterial(names.get(*type), *type, form);
+    if (isFile(name))
+        return showFile(name, form);
+    throw Failure(names.unknown(name));
 }
 
 } // namespace vxmat

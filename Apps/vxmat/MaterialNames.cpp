@@ -121,4 +121,9 @@ std::string MaterialNames::unknown(const std::string& name) const
     return text + (names.empty() ? "\"vxmat library\" lists them" : "?");
 }
 
+std::string MaterialNames::unknownNameOrFile(const std::string& name) const
+{
+    return unknown(name) + " There is no file of that name either.";
+}
+
 } // namespace vxmat

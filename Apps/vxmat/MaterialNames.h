@@ -27,6 +27,8 @@ public:
 
     /// What to say of a name that no material has: the names nearest to it.
     std::string unknown(const std::string& name) const;
+    /// The same where a file could have been meant as well.
+    std::string unknownNameOrFile(const std::string& name) const;
 
 private:
     std::vector<std::string> nearest(const std::string& name) const;

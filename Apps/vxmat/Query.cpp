@@ -8,6 +8,7 @@
 #include "vxMaterial/model/NumberText.h"
 
 #include <optional>
+#include <unordered_map>
 
 namespace vxmat {
 
@@ -16,17 +17,20 @@ namespace {
 /// Gives the domains of an analysis the materials of their numbers.
 void supplyMaterials(vxCAE::CAESet& analysis, const std::string& materialsPath, Answer& answer)
 {
-    vxCAE::CAESet materials(0, vxCAE::ProjectKind::Material);
-    readInto(materials, materialsPath, readMaterialDocument(materialsPath));
+    const MaterialFile file = readMaterials(materialsPath);
+    answer.messages = file.doubts;
+    std::unordered_map<std::uint32_t, const vxCAE::MaterialEntry*> materials;
+    for (const FileMaterial& material : file.materials)
+        materials[material.number] = material.entry.get();
     for (auto& [id, domain] : analysis.domainConditions->domains) {
-        const vxCAE::MaterialEntry* const found = materials.materials->getMaterial(domain->mat_id);
-        if (found == nullptr) {
+        const auto found = materials.find(domain->mat_id);
+        if (found == materials.end()) {
             answer.messages.push_back(materialsPath + ": has no material " + std::to_string(domain->mat_id) +
                                       ", which domain " + std::to_string(id) + " refers to");
             answer.status = Status::Findings;
             continue;
         }
-        domain->material->material->copyFrom(*found->material);
+        domain->material->material->copyFrom(*found->second->material);
         domain->material->classifyKind();
     }
 }
@@ -90,13 +94,15 @@ std::string toText(const Json::Value& json)
 Answer queryFile(const std::string& path, const std::optional<std::string>& materialsPath, std::uint32_t projectId,
                  Form form)
 {
-    const Json::Value document = readDocument(path);
-    if (vxCAE::readProjectKind(document) != vxCAE::ProjectKind::Analysis)
+    const Input input = readInput(path);
+    if (input.project)
+        throw Failure(path + ": not an analysis document but a project file");
+    if (vxCAE::readProjectKind(input.document) != vxCAE::ProjectKind::Analysis)
         throw Failure(path + ": not an analysis document: \"proj_type\" must be 1");
 
     Answer answer;
     vxCAE::CAESet set(projectId, vxCAE::ProjectKind::Analysis);
-    readInto(set, path, document);
+    readInto(set, path, input.document);
     if (materialsPath)
         supplyMaterials(set, *materialsPath, answer);
     else if (!set.domainConditions->domains.empty())

@@ -1,3 +1,4 @@
+#include "DataFile.h"
 #include "VxmatTesting.h"
 
 #include "vxMaterial/exchange/JsonText.h"
@@ -103,6 +104,33 @@ TEST(Cards, RefuseADocumentThatCannotBeConverted)
     EXPECT_EQ(run.status, 2);
     EXPECT_THAT(run.err, HasSubstr("Value is not convertible to UInt"));
     EXPECT_THAT(run.err, HasSubstr("'vxmat check' tells where"));
+}
+
+TEST(Cards, AreCompleteForAProject)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Plastic Example 1=Tough", "Air", "-o", project}).status, 0);
+    const Outcome run = vxmat({"cards", project});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, testing::StartsWith("== 1 Tough\n-- elasticity\n 206900.000000, 0.290000\n-- plasticity\n"
+                                             "!PLASTIC, YIELD=MISES, HARDEN=MULTILINEAR\n 450, 0\n 608, 0.05\n"));
+    EXPECT_THAT(run.out, HasSubstr("\n== 2 Air\n-- density\n 1.225, 0\n"));
+    EXPECT_EQ(vxmat({"cards", "-"}, vxtest::readText(project)).out, run.out);
+    const Json::Value json = vxtest::vxmatJson({"cards", project, "--json"})["materials"];
+    EXPECT_EQ(json[0]["source"], project);
+    EXPECT_EQ(json[0]["number"], 1);
+    EXPECT_EQ(json[0]["name"], "Tough");
+    EXPECT_TRUE(json[0]["doubts"].empty());
+}
+
+TEST(Cards, SayThatAProjectHoldsNoMaterials)
+{
+    const Outcome run = vxmat({"cards", "-"}, R"({"format": "vxMaterial project", "format_version": 1, "name": "p",
+                                              "next_object_id": 1, "materials": []})");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "vxmat: -: holds no materials\n");
 }
 
 } // namespace

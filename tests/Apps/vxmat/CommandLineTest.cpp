@@ -20,7 +20,9 @@ TEST(CommandLine, TellsItsVersion)
 
 TEST(CommandLine, ShowsAnExampleOfEverySubcommand)
 {
-    for (const char* const command : {"library", "catalogue", "show", "export", "cards", "check", "query"}) {
+    for (const char* const command :
+         {"library", "catalogue", "show", "new", "import", "export", "cards", "check", "diff", "query"})
+    {
         EXPECT_THAT(vxmat({"--help"}).out, HasSubstr("\n  vxmat " + std::string(command)));
         const Outcome run = vxmat({command, "--help"});
         EXPECT_EQ(run.status, 0);
@@ -40,6 +42,12 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
                                                                        {"show"},
                                                                        {"export", "Air"},
                                                                        {"check"},
+                                                                       {"new", "Air"},
+                                                                       {"new", "-o", "x"},
+                                                                       {"import", "x"},
+                                                                       {"import", "-o", "x"},
+                                                                       {"diff", "a"},
+                                                                       {"diff", "a", "b", "c"},
                                                                        {"query", "a", "b"},
                                                                        {"query", "a", "--project", "x"}})
     {

@@ -115,4 +115,96 @@ TEST(Export, SaysWhyAFileCannotBeWritten)
     EXPECT_THAT(full.err, HasSubstr("vxmat: /dev/full: No space left on device"));
 }
 
+TEST(Export, WritesTheMaterialsOfAProjectUnderTheirNumbersAndLabels)
+{
+    const Folder folder;
+    const std::string document = folder.path("d.json");
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"export", "Air=7", "Water=3", "-o", document}).status, 0);
+    ASSERT_EQ(vxmat({"import", document, "-o", project}).status, 0);
+    const Outcome again = vxmat({"export", project, "-o", "-"});
+    EXPECT_EQ(again.status, 0);
+    EXPECT_EQ(numbersAndNames(again.out), (Materials{{3, "Water"}, {7, "Air"}}));
+    // The order of the properties says nothing, so that the texts may differ.
+    EXPECT_EQ(vxmat({"diff", "-", document}, again.out).status, 0);
+    EXPECT_EQ(vxmat({"export", "-", "-o", "-"}, vxtest::readText(project)).out, again.out);
+
+    ASSERT_EQ(vxmat({"new", "Air=Wind", "-o", project}).status, 0);
+    const Outcome run = vxmat({"export", "Water", project, "Concrete=9", "-o", "-"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(numbersAndNames(run.out), (Materials{{1, "Wind"}, {2, "Water"}, {9, "Concrete"}}));
+    EXPECT_EQ(vxmat({"export", "Water=1", project, "-o", "-"}).err,
+              "vxmat: " + project + ": Wind: another material has this number already\n");
+}
+
+TEST(Export, NotesTheWordsAndListsOfAProjectThatStayBehind)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Plastic Example 2=Clay", "-o", project}).status, 0);
+    const Outcome run = vxmat({"export", project, "-o", "-"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "vxmat: note: Clay: exchange documents carry no words and lists; lost: \"Yield type\"\n");
+}
+
+TEST(Export, TakesANameOfTheLibraryBeforeAFileOfThatName)
+{
+    const Folder folder;
+    ASSERT_EQ(vxmat({"new", "Water", "-o", folder.path("Air")}).status, 0);
+    const Outcome name = shell("cd '" + folder.path("") + "' && \"$VXMAT\" export Air -o -");
+    EXPECT_EQ(numbersAndNames(name.out), (Materials{{1, "Air"}}));
+    const Outcome file = shell("cd '" + folder.path("") + "' && \"$VXMAT\" export ./Air -o -");
+    EXPECT_EQ(numbersAndNames(file.out), (Materials{{1, "Water"}}));
+}
+
+TEST(Export, TakesAProjectWithAnEqualsSignInItsName)
+{
+    const Folder folder;
+    const std::string project = folder.path("a=b=1.vxmat");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", project}).status, 0);
+    EXPECT_EQ(numbersAndNames(vxmat({"export", project, "-o", "-"}).out), (Materials{{1, "Air"}}));
+}
+
+TEST(Export, RefusesFilesThatAreNoProjects)
+{
+    const Folder folder;
+    const std::string document = folder.path("d.json");
+    ASSERT_EQ(vxmat({"export", "Air", "-o", document}).status, 0);
+    const Outcome run = vxmat({"export", document, "-o", folder.path("e.json")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "vxmat: " + document + ": not a project file; its materials are in a document already\n");
+    EXPECT_THAT(vxmat({"export", "./missing", "-o", "-"}).err, HasSubstr("vxmat: ./missing: No such file"));
+    EXPECT_THAT(vxmat({"export", "missing", "-o", "-"}).err, HasSubstr("There is no file of that name either."));
+    EXPECT_THAT(folder.names(), ElementsAre("d.json"));
+}
+
+TEST(Export, DoesNotWriteOverTheProjectThatItReads)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", project}).status, 0);
+    const std::string before = vxtest::readText(project);
+    const Outcome run = vxmat({"export", project, "-o", project});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("this file is read here and would be lost"));
+    EXPECT_EQ(vxtest::readText(project), before);
+}
+
+TEST(Export, RefusesValuesThatNoReaderWouldTake)
+{
+    const auto projectOf = [](const std::string& property) {
+        return R"({"format": "vxMaterial project", "format_version": 1, "name": "p", "next_object_id": 2, "materials":
+            [{"object_id": 1, "class": "Mat::MaterialObject", "name_internal": "m", "label": "M", "material":
+            {"properties": [)" +
+               property + "]}}]}";
+    };
+    const Outcome infinite = vxmat({"export", "-", "-o", "-"}, projectOf(R"({"id": 4, "value": "Infinity"})"));
+    EXPECT_EQ(infinite.status, 2);
+    EXPECT_EQ(infinite.out, "");
+    EXPECT_EQ(infinite.err, "vxmat: -: M: property 4 \"\" is inf; exchange documents carry finite numbers alone\n");
+    const Outcome below = vxmat({"export", "-", "-o", "-"}, projectOf(R"({"held_as": -1, "name": "x", "value": 1})"));
+    EXPECT_EQ(below.status, 2);
+    EXPECT_THAT(below.err, HasSubstr("property -1 \"x\" has an id below 0"));
+}
+
 } // namespace

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 using testing::HasSubstr;
@@ -13,9 +15,20 @@ using vxtest::Outcome;
 using vxtest::shell;
 using vxtest::vxmat;
 
+/// A sound project file, one thing changed.
+std::string projectWith(const std::string& what, const std::string& into)
+{
+    std::string text = vxmat({"new", "Air", "-o", "-"}).out;
+    const std::size_t at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    return at == std::string::npos ? text : text.replace(at, what.size(), into);
+}
+
 TEST(Files, SayWhatIsWrongWithWhatCannotBeRead)
 {
     const Folder folder;
+    const std::string sound = folder.file("sound.vxmat", projectWith("", ""));
+    const std::string project = vxtest::readText(sound);
     const std::pair<std::string, std::string> cases[] = {
         {folder.path("missing.json"), "No such file or directory"},
         {folder.path(""), "Is a directory"},
@@ -28,19 +41,54 @@ TEST(Files, SayWhatIsWrongWithWhatCannotBeRead)
         {folder.file("huge.json", "{\"a\": 1e999}"), "line 1, column 7: '1e999' is beyond the range of a double"},
         {folder.file("deep.json", std::string(100000, '[')), "nested more than 1000 levels deep"},
         {folder.file("bytes.json", std::string("\0\x01\xff", 3)), "line 1, column 3: the text is not UTF-8"},
+        {folder.file("image.json", std::string("\x89PNG\r\n\x1a\n\0\0", 10)),
+         "line 1, column 1: the text is not UTF-8"},
+        {folder.file("foreign.json", R"({"name": "package", "version": "1.0.0", "dependencies": {}})"),
+         "neither an exchange document nor a project file: it has none of their members"},
+        {folder.file("foreign.vxmat", R"({"format": "another program", "format_version": 1})"),
+         "neither an exchange document nor a project file: it has none of their members"},
+        {folder.file("cut.vxmat", project.substr(0, project.size() / 2)), "line "},
+        {folder.file("later.vxmat", projectWith("\"format_version\": 1", "\"format_version\": 2")), "later version"},
+        {folder.file("latin.vxmat", projectWith("\"label\": \"Air\"", "\"label\": \"L\xfc"
+                                                                      "ft\"")),
+         "the text is not UTF-8"},
+        {folder.file("deep.vxmat", projectWith("\"suppressed\": false", "\"new\": " + std::string(2000, '['))),
+         "nested more than 1000 levels deep"},
+        {folder.file("kind.vxmat", projectWith("\"value\": 1.225", "\"value\": \"many\"")), "value"},
+        {folder.file("twice.vxmat", projectWith("\"name\": \"Materials\"", "\"name\": \"a\", \"name\": \"b\"")),
+         "name"},
+        {folder.file("range.vxmat", projectWith("\"object_id\": 1", "\"object_id\": 4294967296")), "object_id"},
+        {folder.file("other.vxmat", projectWith("\"object_id\": 1", "\"object_id\": 3")), "object"},
         {"", "the name of a file is empty"},
     };
+    const std::vector<std::vector<std::string>> commands{
+        {"check", "FILE"},
+        {"check", vxtest::dataPath("documents/03-analysis.json"), "--materials", "FILE"},
+        {"query", "FILE"},
+        {"query", vxtest::dataPath("documents/03-analysis.json"), "--materials", "FILE"},
+        {"import", "FILE", "-o", folder.path("out")},
+        {"diff", "FILE", sound},
+        {"diff", sound, "FILE"},
+        {"cards", "FILE"},
+        {"show", "FILE"},
+        {"export", "FILE", "-o", folder.path("out")}};
     for (const auto& [file, reason] : cases) {
-        for (const char* const command : {"check", "query", "cards"}) {
-            if (file.empty() && std::string(command) == "cards")
+        for (std::vector<std::string> command : commands) {
+            if (file.empty() && (command[0] == "cards" || command[0] == "show" || command[0] == "export"))
                 continue; // an empty name of a material
-            const Outcome run = vxmat({command, file});
-            EXPECT_EQ(run.status, 2) << command << file;
+            std::replace(command.begin(), command.end(), std::string("FILE"), file);
+            const Outcome run = vxmat(command);
+            EXPECT_EQ(run.status, 2) << command[0] << " " << file;
             EXPECT_EQ(run.out, "");
-            EXPECT_THAT(run.err, StartsWith("vxmat: " + (file.empty() ? "" : file + ": ")));
-            EXPECT_THAT(run.err, HasSubstr(reason));
+            EXPECT_THAT(run.err, StartsWith("vxmat: " + (file.empty() ? "" : file + ": "))) << command[0];
+            // These want no project, whatever is wrong with it.
+            const bool wantsNone = command[0] == "import" || (command[0] == "query" && command.size() == 2);
+            if (!wantsNone || file.find(".vxmat") == std::string::npos) {
+                EXPECT_THAT(run.err, HasSubstr(reason)) << command[0];
+            }
         }
     }
+    EXPECT_THAT(folder.names(), testing::Not(testing::Contains("out")));
 }
 
 TEST(Files, SayThatAFileIsNotReadable)

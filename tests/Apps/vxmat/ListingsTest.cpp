@@ -12,6 +12,7 @@ namespace {
 using testing::AllOf;
 using testing::ContainsRegex;
 using testing::HasSubstr;
+using vxtest::Folder;
 using vxtest::Outcome;
 using vxtest::vxmat;
 using vxtest::vxmatJson;
@@ -141,6 +142,35 @@ TEST(Show, NotesAPropertyThatIsKeptUnderAnotherKey)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err,
               "vxmat: note: Acoustic Material 2 keeps its \"Speed of sound\" as a property named \"Density\"\n");
+}
+
+TEST(Show, PrintsTheMaterialsOfAProject)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Plastic Example 1=Tough", "Air", "-o", project}).status, 0);
+    const Outcome run = vxmat({"show", project});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, testing::StartsWith("1 Tough\n\nName "));
+    EXPECT_THAT(run.out, AllOf(HasSubstr("Yield stress          450, 608, 679, 732, 752, 766, 780 "),
+                               ContainsRegex("\n\n2 Air\n\nName +Value +Unit +Description\nDensity +1.225 +kg/m3")));
+    const Json::Value document = vxmatJson({"show", project, "--json"});
+    EXPECT_EQ(document["file"], project);
+    EXPECT_EQ(document["materials"][0]["number"], 1);
+    EXPECT_EQ(document["materials"][0]["name"], "Tough");
+    EXPECT_EQ(document["materials"][0]["suppressed"], false);
+    EXPECT_EQ(document["materials"][0]["properties"][5]["value"], "Mises");
+    EXPECT_EQ(document["materials"][1]["properties"][0]["held_under"], 4);
+}
+
+TEST(Show, PrintsTheMaterialsOfADocument)
+{
+    const Outcome run = vxmat({"show", "-"}, R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "a\nb", "Props":
+        [{"prop_type": 201, "prop_key": "alpha", "prop_name": "Thermal Expansion", "prop_value": 0.5}]}]})");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "7 a\\u000ab\n\nName               Value  Unit  Description\n"
+                       "Thermal Expansion  0.5    -\n");
 }
 
 } // namespace

@@ -101,4 +101,25 @@ TEST(Query, RefusesADocumentThatCannotBeConverted)
     EXPECT_THAT(run.err, HasSubstr("\"n_load_steps\" is 4294967295"));
 }
 
+TEST(Query, TakesTheModelsOfTheMaterialsOfAProject)
+{
+    const Folder folder;
+    const std::string document = folder.path("d.json");
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"export", "Creep Example=7", "Air=9", "-o", document}).status, 0);
+    ASSERT_EQ(vxmat({"import", document, "-o", project}).status, 0);
+    const Outcome run = vxmat({"query", analysisFile(), "--materials", project});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, vxmat({"query", analysisFile(), "--materials", document}).out);
+    EXPECT_THAT(run.out, HasSubstr("Creep or viscous material  yes"));
+}
+
+TEST(Query, RefusesAProject)
+{
+    const Outcome run = vxmat({"query", "-"}, vxmat({"new", "Air", "-o", "-"}).out);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "vxmat: -: not an analysis document but a project file\n");
+}
+
 } // namespace

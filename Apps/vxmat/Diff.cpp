@@ -1,0 +1,313 @@
+#include "Diff.h"
+
+#include "Documents.h"
+#include "Files.h"
+#include "Properties.h"
+
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace vxmat {
+
+namespace {
+
+using vxMat::MaterialProperty;
+
+/// What one of the files has.
+struct Side
+{
+    Json::Value json;
+    std::string text;
+};
+
+/// What distinguishes two things.
+struct Difference
+{
+    std::string material;            ///< its label, and its number where others have the label too
+    std::optional<std::int32_t> key; ///< of the property; absent for the material as a whole
+    std::string quantity;            ///< what the property is called
+    std::string field;               ///< empty when the material or property is in one file alone
+    Side one;
+    Side other;
+};
+
+/// Two materials of the same label; null for the one that is not there.
+struct Pair
+{
+    const FileMaterial* one = nullptr;
+    const FileMaterial* other = nullptr;
+    bool isAmbiguous = false; ///< others have the label too
+};
+
+/// The materials of a label, in both files, by number.
+struct Group
+{
+    std::map<std::uint32_t, const FileMaterial*> ones;
+    std::map<std::uint32_t, const FileMaterial*> others;
+};
+
+/// Those of the same number belong together; the rest in order.
+void pairUp(Group group, std::vector<Pair>& pairs)
+{
+    const bool isAmbiguous = group.ones.size() > 1 || group.others.size() > 1;
+    for (auto one = group.ones.begin(); one != group.ones.end();) {
+        const auto other = group.others.find(one->first);
+        if (other == group.others.end()) {
+            ++one;
+            continue;
+        }
+        pairs.push_back({one->second, other->second, isAmbiguous});
+        group.others.erase(other);
+        one = group.ones.erase(one);
+    }
+    auto other = group.others.begin();
+    for (const auto& [number, material] : group.ones)
+        pairs.push_back({material, other != group.others.end() ? (other++)->second : nullptr, isAmbiguous});
+    for (; other != group.others.end(); ++other)
+        pairs.push_back({nullptr, other->second, isAmbiguous});
+}
+
+/// In the order of the first file, then of the second.
+std::vector<Pair> pairUp(const MaterialFile& one, const MaterialFile& other)
+{
+    std::map<std::string, Group> groups;
+    for (const FileMaterial& material : one.materials)
+        groups[material.label].ones.emplace(material.number, &material);
+    for (const FileMaterial& material : other.materials)
+        groups[material.label].others.emplace(material.number, &material);
+    std::vector<Pair> pairs;
+    for (auto& [label, group] : groups)
+        pairUp(std::move(group), pairs);
+    const auto order = [](const Pair& pair) {
+        return std::pair(pair.one == nullptr, pair.one != nullptr ? pair.one->number : pair.other->number);
+    };
+    std::sort(pairs.begin(), pairs.end(), [&](const Pair& a, const Pair& b) { return order(a) < order(b); });
+    return pairs;
+}
+
+std::string titleOf(const Pair& pair)
+{
+    const FileMaterial& material = pair.one != nullptr ? *pair.one : *pair.other;
+    return material.label + (pair.isAmbiguous ? " [" + std::to_string(material.number) + "]" : "");
+}
+
+template <class Field>
+bool isSame(const Field& one, const Field& other)
+{
+    return one == other;
+}
+
+/// A number as it is compared: -0 is not 0, and what is no number is the same as itself.
+bool isSame(double one, double other)
+{
+    return std::isnan(one) ? std::isnan(other) : one == other && std::signbit(one) == std::signbit(other);
+}
+
+bool isSame(const std::vector<double>& one, const std::vector<double>& other)
+{
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](double a, double b) { return isSame(a, b); });
+}
+
+Side sideOf(bool value)
+{
+    return {value, value ? "yes" : "no"};
+}
+
+Side sideOf(std::uint32_t value)
+{
+    return {value, std::to_string(value)};
+}
+
+Side sideOf(std::int32_t value)
+{
+    return {value, std::to_string(value)};
+}
+
+Side sideOf(double value)
+{
+    return {toJsonNumber(value), vxMat::formatNumber(value)};
+}
+
+Side sideOf(const std::string& value)
+{
+    return {value, "\"" + printable(value) + "\""};
+}
+
+template <class Numbers>
+Side sideOfNumbers(const Numbers& numbers)
+{
+    Side side{Json::arrayValue, ""};
+    for (const auto number : numbers) {
+        side.json.append(toJsonNumber(static_cast<double>(number)));
+        side.text += (side.text.empty() ? "" : ", ") + vxMat::formatNumber(static_cast<double>(number));
+    }
+    side.text = "[" + side.text + "]";
+    return side;
+}
+
+Side sideOf(const std::vector<double>& values)
+{
+    return sideOfNumbers(values);
+}
+
+Side sideOf(const std::optional<std::array<float, 4>>& colour)
+{
+    return colour ? sideOfNumbers(*colour) : Side{Json::Value(), "none"};
+}
+
+Side sideOf(vxMat::ePropertyCategory category)
+{
+    return sideOf(std::string(vxMat::getPropertyCategoryName(static_cast<std::int32_t>(category))));
+}
+
+/// Compares the materials of two files.
+class Comparison
+{
+public:
+    explicit Comparison(vxCAE::MaterialSource extent) : m_extent(extent) {}
+
+    void compare(const Pair& pair);
+
+    std::vector<Difference> differences;
+
+private:
+    void add(const char* field, Side one, Side other);
+    template <class Field>
+    void compareField(const char* field, const Field& one, const Field& other)
+    {
+        if (!isSame(one, other))
+            add(field, sideOf(one), sideOf(other));
+    }
+    void compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
+    void compareProperty(const MaterialProperty& one, const MaterialProperty& other);
+    void compareWhatDocumentsLeaveBehind(const MaterialProperty& one, const MaterialProperty& other);
+    bool isComplete() const { return m_extent == vxCAE::MaterialSource::Complete; }
+
+    vxCAE::MaterialSource m_extent;
+    Difference m_place; ///< where the comparison is
+};
+
+void Comparison::add(const char* field, Side one, Side other)
+{
+    Difference difference = m_place;
+    difference.field = field;
+    difference.one = std::move(one);
+    difference.other = std::move(other);
+    differences.push_back(std::move(difference));
+}
+
+void Comparison::compare(const Pair& pair)
+{
+    m_place = Difference();
+    m_place.material = titleOf(pair);
+    if (pair.one == nullptr || pair.other == nullptr) {
+        add("", sideOf(pair.one != nullptr), sideOf(pair.other != nullptr));
+        return;
+    }
+    compareField("number", pair.one->number, pair.other->number);
+    if (isComplete()) {
+        compareField("suppressed", pair.one->suppressed, pair.other->suppressed);
+        compareField("colour", pair.one->colour, pair.other->colour);
+    }
+    compareProperties(*pair.one->entry->material, *pair.other->entry->material);
+}
+
+void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other)
+{
+    for (const std::int32_t key : keysOf(one, other)) {
+        const MaterialProperty* const left = one.findProperty(key);
+        const MaterialProperty* const right = other.findProperty(key);
+        m_place.key = key;
+        const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
+        m_place.quantity = quantity != nullptr ? quantity->name : (left != nullptr ? left : right)->name;
+        if (left == nullptr || right == nullptr)
+            add("", sideOf(left != nullptr), sideOf(right != nullptr));
+        else
+            compareProperty(*left, *right);
+    }
+}
+
+void Comparison::compareProperty(const MaterialProperty& one, const MaterialProperty& other)
+{
+    compareField("name", one.name, other.name);
+    compareField("key", one.key, other.key);
+    compareField("value", one.value, other.value);
+    if (isComplete())
+        compareWhatDocumentsLeaveBehind(one, other);
+}
+
+void Comparison::compareWhatDocumentsLeaveBehind(const MaterialProperty& one, const MaterialProperty& other)
+{
+    compareField("word", one.text, other.text);
+    compareField("list", one.values, other.values);
+    compareField("unit", one.unit, other.unit);
+    compareField("description", one.description, other.description);
+    compareField("id", one.id, other.id);
+    compareField("category", one.category, other.category);
+}
+
+std::string toText(const Difference& difference, const std::string& one, const std::string& other)
+{
+    std::string text = printable(difference.material) + ": ";
+    if (difference.key)
+        text += printable(difference.quantity) + " (" + std::to_string(*difference.key) + "): ";
+    if (difference.field.empty())
+        return text + "only in " + (difference.one.json.asBool() ? one : other) + "\n";
+    return text + difference.field + ": " + difference.one.text + " -> " + difference.other.text + "\n";
+}
+
+Json::Value toJson(const Difference& difference)
+{
+    Json::Value json;
+    json["material"] = difference.material;
+    json["property"] = difference.key ? Json::Value(*difference.key) : Json::Value();
+    json["property_name"] = difference.key ? Json::Value(difference.quantity) : Json::Value();
+    json["field"] = difference.field.empty() ? Json::Value() : Json::Value(difference.field);
+    json["a"] = difference.one.json;
+    json["b"] = difference.other.json;
+    return json;
+}
+
+} // namespace
+
+Answer diffFiles(const std::string& one, const std::string& other, Form form)
+{
+    const MaterialFile left = readMaterials(one);
+    const MaterialFile right = readMaterials(other);
+    Answer answer;
+    for (const MaterialFile* const file : {&left, &right})
+        answer.messages.insert(answer.messages.end(), file->doubts.begin(), file->doubts.end());
+    if (left.source != right.source)
+        answer.messages.push_back("note: " + (left.source == vxCAE::MaterialSource::Document ? one : other) +
+                                  " is an exchange document, which carries of a property its key, name and number "
+                                  "alone: words, lists, units, descriptions and categories are not compared, nor "
+                                  "colours and what is suppressed");
+
+    const bool complete = left.source == vxCAE::MaterialSource::Complete && right.source == left.source;
+    Comparison comparison(complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document);
+    for (const Pair& pair : pairUp(left, right))
+        comparison.compare(pair);
+
+    Json::Value document;
+    document["a"] = one;
+    document["b"] = other;
+    document["differences"] = Json::arrayValue;
+    for (const Difference& difference : comparison.differences) {
+        document["differences"].append(toJson(difference));
+        answer.text += toText(difference, one, other);
+    }
+    if (form == Form::Json)
+        answer.text = toJsonText(document);
+    answer.status = comparison.differences.empty() ? Status::Clean : Status::Findings;
+    return answer;
+}
+
+} // namespace vxmat

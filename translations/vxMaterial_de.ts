@@ -1112,6 +1112,10 @@ Unterdrückt</translation>
         <source>Close the program all the same?</source>
         <translation>Das Programm trotzdem schließen?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened without the materials module.</source>
+        <translation>„%1“ kann ohne das Materialmodul nicht geöffnet werden.</translation>
+    </message>
 </context>
 <context>
     <name>kelta::Batch</name>
@@ -1307,6 +1311,258 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Show material</source>
         <translation>Material anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommand</name>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Import exchange document</source>
+        <translation>Austauschdokument importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open a material project from a file</source>
+        <translation>Ein Materialprojekt aus einer Datei öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save the project in its file</source>
+        <translation>Das Projekt in seiner Datei speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Save the project in another file</source>
+        <translation>Das Projekt in einer anderen Datei speichern</translation>
+    </message>
+    <message>
+        <source>I&amp;mport exchange document...</source>
+        <translation>Austauschdokument i&amp;mportieren...</translation>
+    </message>
+    <message>
+        <source>Add the materials of an exchange document to the project</source>
+        <translation>Dem Projekt die Materialien eines Austauschdokuments hinzufügen</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Zuletzt &amp;verwendet</translation>
+    </message>
+    <message>
+        <source>Open one of the projects last used</source>
+        <translation>Eines der zuletzt verwendeten Projekte öffnen</translation>
+    </message>
+    <message>
+        <source>Material project (*.vxmat)</source>
+        <translation>Materialprojekt (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>Exchange document (*.json)</source>
+        <translation>Austauschdokument (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>kelta::MaterialChange</name>
+    <message>
+        <source>Change &quot;%1&quot;</source>
+        <translation>„%1“ ändern</translation>
+    </message>
+</context>
+<context>
+    <name>kelta::ProjectFiles</name>
+    <message>
+        <source>The project has no numbers left for so many materials.</source>
+        <translation>Das Projekt hat für so viele Materialien keine Nummern mehr.</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>„%1“ importieren</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in use by %2.</source>
+        <translation>„%1“ wird von %2 verwendet.</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened.</source>
+        <translation>„%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>File in use</source>
+        <translation>Datei in Verwendung</translation>
+    </message>
+    <message>
+        <source>What is saved by one of the programs replaces what the other one saved.</source>
+        <translation>Was eines der Programme speichert, ersetzt, was das andere gespeichert hat.</translation>
+    </message>
+    <message>
+        <source>&amp;Use all the same</source>
+        <translation>&amp;Trotzdem verwenden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Material project (*.vxmat)</source>
+        <translation>Materialprojekt (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the file of the project &quot;%2&quot;, which is open.</source>
+        <translation>„%1“ ist die Datei des Projekts „%2“, das geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been saved.</source>
+        <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been there since %2, before the project was recovered.</source>
+        <translation>„%1“ gibt es seit %2, von vor der Wiederherstellung des Projekts.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program, on %2.</source>
+        <translation>„%1“ wurde am %2 von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>What is in the file now is lost when it is replaced.</source>
+        <translation>Was jetzt in der Datei steht, geht verloren, wenn sie ersetzt wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
+        <translation>Die Änderungen von „%1“ im Editor wurden nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Only what has been applied is saved.</source>
+        <translation>Nur was angewendet wurde, wird gespeichert.</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>An&amp;wenden</translation>
+    </message>
+    <message>
+        <source>&amp;Save without them</source>
+        <translation>&amp;Ohne sie speichern</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The changes of the project &quot;%1&quot; have not been saved.</source>
+        <translation>Die Änderungen des Projekts „%1“ wurden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Changes in open editors have not been applied.</source>
+        <translation>Änderungen in geöffneten Editoren wurden nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>No copy for recovery could be kept: %1</source>
+        <translation>Es konnte keine Kopie zur Wiederherstellung angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>The program ended before projects were saved.</source>
+        <translation>Das Programm endete, bevor Projekte gespeichert waren.</translation>
+    </message>
+    <message>
+        <source>There are copies from %1.</source>
+        <translation>Es gibt Kopien vom %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be recovered.</source>
+        <translation>„%1“ kann nicht wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>Materials imported: %1</source>
+        <translation>Importierte Materialien: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is none of a material</source>
+        <translation>Das Objekt „%1“ gehört zur Klasse „%2“, die keine Materialklasse ist</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ProjectStore</name>
+    <message>
+        <source>The file is too large for a project.</source>
+        <translation>Die Datei ist für ein Projekt zu groß.</translation>
+    </message>
+    <message>
+        <source>The file is too large for the memory.</source>
+        <translation>Die Datei ist für den Speicher zu groß.</translation>
+    </message>
+    <message>
+        <source>Another program changed the file while it was read. Try again.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, während sie gelesen wurde. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>Der Name einer Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>This is a folder; a file is needed.</source>
+        <translation>Dies ist ein Ordner; gebraucht wird eine Datei.</translation>
+    </message>
+    <message>
+        <source>This is a device or a pipe; a file is needed.</source>
+        <translation>Dies ist ein Gerät oder eine Pipe; gebraucht wird eine Datei.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; does not exist.</source>
+        <translation>Der Ordner „%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a file; a folder is needed.</source>
+        <translation>„%1“ ist eine Datei; gebraucht wird ein Ordner.</translation>
     </message>
 </context>
 </TS>

@@ -1112,6 +1112,10 @@ Suppressed</source>
         <source>Close the program all the same?</source>
         <translation>仍要关闭程序吗？</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened without the materials module.</source>
+        <translation>没有材料模块，无法打开“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>kelta::Batch</name>
@@ -1307,6 +1311,258 @@ Do you want to continue?</source>
     <message>
         <source>Show material</source>
         <translation>显示材料</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommand</name>
+    <message>
+        <source>Open project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Import exchange document</source>
+        <translation>导入交换文档</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Open a material project from a file</source>
+        <translation>从文件打开材料项目</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save the project in its file</source>
+        <translation>将项目保存到其文件</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>另存为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Save the project in another file</source>
+        <translation>将项目保存到另一个文件</translation>
+    </message>
+    <message>
+        <source>I&amp;mport exchange document...</source>
+        <translation>导入交换文档(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Add the materials of an exchange document to the project</source>
+        <translation>将交换文档中的材料添加到项目</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>最近打开(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open one of the projects last used</source>
+        <translation>打开最近使用的项目之一</translation>
+    </message>
+    <message>
+        <source>Material project (*.vxmat)</source>
+        <translation>材料项目 (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>Exchange document (*.json)</source>
+        <translation>交换文档 (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>kelta::MaterialChange</name>
+    <message>
+        <source>Change &quot;%1&quot;</source>
+        <translation>更改“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>kelta::ProjectFiles</name>
+    <message>
+        <source>The project has no numbers left for so many materials.</source>
+        <translation>项目没有足够的编号容纳这么多材料。</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>导入“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in use by %2.</source>
+        <translation>“%1”正被 %2 使用。</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened.</source>
+        <translation>无法打开“%1”。</translation>
+    </message>
+    <message>
+        <source>File in use</source>
+        <translation>文件正在使用</translation>
+    </message>
+    <message>
+        <source>What is saved by one of the programs replaces what the other one saved.</source>
+        <translation>一个程序保存的内容会替换另一个程序保存的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Use all the same</source>
+        <translation>仍然使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>保存项目</translation>
+    </message>
+    <message>
+        <source>Material project (*.vxmat)</source>
+        <translation>材料项目 (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the file of the project &quot;%2&quot;, which is open.</source>
+        <translation>“%1”是已打开的项目“%2”的文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been saved.</source>
+        <translation>“%1”已保存。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been there since %2, before the project was recovered.</source>
+        <translation>“%1”自 %2 起就已存在，早于项目恢复。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program, on %2.</source>
+        <translation>“%1”已于 %2 被另一个程序更改。</translation>
+    </message>
+    <message>
+        <source>What is in the file now is lost when it is replaced.</source>
+        <translation>替换后，文件中现有的内容将丢失。</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
+        <translation>编辑器中对“%1”的更改尚未应用。</translation>
+    </message>
+    <message>
+        <source>Only what has been applied is saved.</source>
+        <translation>只保存已应用的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Save without them</source>
+        <translation>不含更改保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>The changes of the project &quot;%1&quot; have not been saved.</source>
+        <translation>项目“%1”的更改尚未保存。</translation>
+    </message>
+    <message>
+        <source>Changes in open editors have not been applied.</source>
+        <translation>打开的编辑器中的更改尚未应用。</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>No copy for recovery could be kept: %1</source>
+        <translation>无法保留用于恢复的副本：%1</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>The program ended before projects were saved.</source>
+        <translation>程序在保存项目之前结束。</translation>
+    </message>
+    <message>
+        <source>There are copies from %1.</source>
+        <translation>有来自 %1 的副本。</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>恢复(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>以后</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be recovered.</source>
+        <translation>无法恢复“%1”。</translation>
+    </message>
+    <message>
+        <source>Materials imported: %1</source>
+        <translation>已导入的材料：%1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is none of a material</source>
+        <translation>对象“%1”属于类“%2”，该类不是材料类</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ProjectStore</name>
+    <message>
+        <source>The file is too large for a project.</source>
+        <translation>文件过大，不可能是项目。</translation>
+    </message>
+    <message>
+        <source>The file is too large for the memory.</source>
+        <translation>文件过大，内存不足。</translation>
+    </message>
+    <message>
+        <source>Another program changed the file while it was read. Try again.</source>
+        <translation>读取文件时，另一个程序更改了它。请重试。</translation>
+    </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>文件名为空。</translation>
+    </message>
+    <message>
+        <source>This is a folder; a file is needed.</source>
+        <translation>这是文件夹；需要文件。</translation>
+    </message>
+    <message>
+        <source>This is a device or a pipe; a file is needed.</source>
+        <translation>这是设备或管道；需要文件。</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; does not exist.</source>
+        <translation>文件夹“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a file; a folder is needed.</source>
+        <translation>“%1”是文件；需要文件夹。</translation>
     </message>
 </context>
 </TS>

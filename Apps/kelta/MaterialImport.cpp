@@ -23,7 +23,7 @@ Json::Value readDocument(const QString& path)
 {
     vxCAE::JsonReading reading = vxCAE::readJsonText(projectfile::readFile(path), vxCAE::JsonDialect::Strict);
     if (reading.error)
-        throw std::runtime_error(path.toStdString() + ": " + reading.error->message);
+        throw std::runtime_error(path.toStdString() + ": " + describe(*reading.error));
     return std::move(reading.document);
 }
 

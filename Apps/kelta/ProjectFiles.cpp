@@ -452,8 +452,8 @@ void ProjectFiles::offer_recovery()
     for (const RecoveryCopy& copy : copies)
         times << QLocale().toString(copy.time(), QLocale::ShortFormat);
     const int choice = ask(m_mainWindow, QMessageBox::Question, tr("Recovery"),
-                           tr("The program ended without saving %n project(s).", nullptr, static_cast<int>(copies.size())),
-                           tr("Copies were kept on %1.").arg(times.join(QStringLiteral(", "))),
+                           tr("The program ended before projects were saved."),
+                           tr("There are copies from %1.").arg(times.join(QStringLiteral(", "))),
                            {{tr("&Recover"), QMessageBox::AcceptRole},
                             {tr("&Discard"), QMessageBox::DestructiveRole},
                             {tr("Later"), QMessageBox::RejectRole}});
@@ -500,7 +500,7 @@ bool ProjectFiles::importDocument(Mat::DocumentMaterial& project, const QString&
             Kelta::MessageLog::warning(shown(path) + QStringLiteral(": ") + doubt);
         Gui::TreeSelectionSingleton::instance().set_selection({}, outcome.objects);
         m_mainWindow.statusBar()->showMessage(
-            tr("%n material(s) have been imported.", nullptr, static_cast<int>(outcome.objects.size())), 5000);
+            tr("Materials imported: %1").arg(outcome.objects.size()), 5000);
         return true;
     } catch (const std::exception& error) {
         complain(tr("Import"), QString::fromUtf8(error.what()));

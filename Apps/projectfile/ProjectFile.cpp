@@ -24,10 +24,7 @@ Json::Value parse(const std::string& text)
     auto reading = vxCAE::readJsonText(text, vxCAE::JsonDialect::Strict);
     if (!reading.error)
         return std::move(reading.document);
-    const auto& [line, column, message] = *reading.error;
-    const std::string place =
-        line > 0 ? "line " + std::to_string(line) + ", column " + std::to_string(column) + ": " : "";
-    throw ProjectFileError(place + message);
+    throw ProjectFileError(describe(*reading.error));
 }
 
 void refuseOtherDocuments(const Json::Value& document)

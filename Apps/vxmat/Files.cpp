@@ -159,10 +159,7 @@ Json::Value parseDocument(const std::string& path, const std::string& text)
         throw Failure(path + ": the file is empty; a JSON document is needed");
     auto reading = vxCAE::readJsonText(text);
     if (reading.error) {
-        const auto& [line, column, message] = *reading.error;
-        const std::string place =
-            line > 0 ? "line " + std::to_string(line) + ", column " + std::to_string(column) + ": " : "";
-        throw Failure(path + ": " + place + message);
+        throw Failure(path + ": " + describe(*reading.error));
     }
     if (!reading.document.isObject())
         throw Failure(path + ": not an exchange document: a JSON object is needed");

@@ -181,6 +181,13 @@ std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text, Json
 
 } // namespace
 
+std::string describe(const JsonError& error)
+{
+    if (error.line == 0)
+        return error.message;
+    return "line " + std::to_string(error.line) + ", column " + std::to_string(error.column) + ": " + error.message;
+}
+
 JsonReading readJsonText(std::string_view text, JsonDialect dialect)
 {
     JsonReading reading;

@@ -19,6 +19,9 @@ struct JsonError
     std::string message;
 };
 
+/// "line 3, column 14: " and the message; the message alone where no place is known.
+VXCAE_EXPORT std::string describe(const JsonError& error);
+
 /// What a text held: the document, or why there is none.
 struct JsonReading
 {

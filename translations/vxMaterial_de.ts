@@ -1189,6 +1189,113 @@ Unterdrückt</translation>
     </message>
 </context>
 <context>
+    <name>projectfile::ExchangeImport</name>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>ein Feld</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a whole number from 0 to 4294967295</source>
+        <translation>eine ganze Zahl von 0 bis 4294967295</translation>
+    </message>
+    <message>
+        <source>%1: is %2; %3 is needed</source>
+        <translation>%1: ist %2; nötig ist %3</translation>
+    </message>
+    <message>
+        <source>material %1 &quot;%2&quot;: %3</source>
+        <translation>Material %1 „%2“: %3</translation>
+    </message>
+    <message>
+        <source>property %1: %2</source>
+        <translation>Eigenschaft %1: %2</translation>
+    </message>
+    <message>
+        <source>property %1 &quot;%2&quot;: %3</source>
+        <translation>Eigenschaft %1 „%2“: %3</translation>
+    </message>
+    <message>
+        <source>the document has no number for it, which is read as 0</source>
+        <translation>das Dokument hat keine Zahl dafür, was als 0 gelesen wird</translation>
+    </message>
+    <message>
+        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <translation>ihr Schlüssel ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
+    </message>
+    <message>
+        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <translation>ihr Name ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
+    </message>
+    <message>
+        <source>documents carry no words; &quot;%1&quot; of the catalogue was taken</source>
+        <translation>Dokumente übertragen keine Wörter; „%1“ aus dem Katalog wurde genommen</translation>
+    </message>
+    <message>
+        <source>documents carry no lists; it is empty</source>
+        <translation>Dokumente übertragen keine Listen; sie ist leer</translation>
+    </message>
+    <message>
+        <source>the catalogue does not know it; its unit, description and category are lost</source>
+        <translation>der Katalog kennt sie nicht; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
+    </message>
+    <message>
+        <source>it stands twice in the document; the last one was taken</source>
+        <translation>sie steht zweimal im Dokument; die letzte wurde genommen</translation>
+    </message>
+    <message>
+        <source>the document has no number for it; it was given the number %1</source>
+        <translation>das Dokument hat keine Nummer dafür; es bekam die Nummer %1</translation>
+    </message>
+    <message>
+        <source>its number in the document is %1, as that of a later material is; it was given the number %2</source>
+        <translation>seine Nummer im Dokument ist %1 wie die eines späteren Materials; es bekam die Nummer %2</translation>
+    </message>
+    <message>
+        <source>its number in the document is %1, which no object can have; it was given the number %2</source>
+        <translation>seine Nummer im Dokument ist %1, die kein Objekt haben kann; es bekam die Nummer %2</translation>
+    </message>
+    <message>
+        <source>the document has no name for it</source>
+        <translation>das Dokument hat keinen Namen dafür</translation>
+    </message>
+    <message>
+        <source>it is a project file, which needs no import</source>
+        <translation>das ist eine Projektdatei, die keinen Import braucht</translation>
+    </message>
+    <message>
+        <source>an analysis document holds no materials; give the material document</source>
+        <translation>ein Analysedokument enthält keine Materialien; nötig ist das Materialdokument</translation>
+    </message>
+    <message>
+        <source>it is no material document: &quot;proj_type&quot; must be 2</source>
+        <translation>das ist kein Materialdokument: „proj_type“ muss 2 sein</translation>
+    </message>
+    <message>
+        <source>the document holds no materials</source>
+        <translation>das Dokument enthält keine Materialien</translation>
+    </message>
+</context>
+<context>
     <name>MatCmdNewDoc</name>
     <message>
         <source>&amp;New material project</source>

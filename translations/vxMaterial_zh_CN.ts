@@ -1189,6 +1189,113 @@ Suppressed</source>
     </message>
 </context>
 <context>
+    <name>projectfile::ExchangeImport</name>
+    <message>
+        <source>null</source>
+        <translation>空值</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>真或假</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a whole number from 0 to 4294967295</source>
+        <translation>0 到 4294967295 的整数</translation>
+    </message>
+    <message>
+        <source>%1: is %2; %3 is needed</source>
+        <translation>%1：是%2；需要%3</translation>
+    </message>
+    <message>
+        <source>material %1 &quot;%2&quot;: %3</source>
+        <translation>材料 %1“%2”：%3</translation>
+    </message>
+    <message>
+        <source>property %1: %2</source>
+        <translation>属性 %1：%2</translation>
+    </message>
+    <message>
+        <source>property %1 &quot;%2&quot;: %3</source>
+        <translation>属性 %1“%2”：%3</translation>
+    </message>
+    <message>
+        <source>the document has no number for it, which is read as 0</source>
+        <translation>文档中没有它的数值，按 0 读取</translation>
+    </message>
+    <message>
+        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <translation>它的键在文档中是“%1”，在目录中是“%2”；保留了文档中的键</translation>
+    </message>
+    <message>
+        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <translation>它的名称在文档中是“%1”，在目录中是“%2”；保留了文档中的名称</translation>
+    </message>
+    <message>
+        <source>documents carry no words; &quot;%1&quot; of the catalogue was taken</source>
+        <translation>文档不传递文字；采用了目录中的“%1”</translation>
+    </message>
+    <message>
+        <source>documents carry no lists; it is empty</source>
+        <translation>文档不传递列表；它为空</translation>
+    </message>
+    <message>
+        <source>the catalogue does not know it; its unit, description and category are lost</source>
+        <translation>目录中没有它；它的单位、说明和类别已丢失</translation>
+    </message>
+    <message>
+        <source>it stands twice in the document; the last one was taken</source>
+        <translation>它在文档中出现两次；采用了最后一个</translation>
+    </message>
+    <message>
+        <source>the document has no number for it; it was given the number %1</source>
+        <translation>文档中没有它的编号；已赋予编号 %1</translation>
+    </message>
+    <message>
+        <source>its number in the document is %1, as that of a later material is; it was given the number %2</source>
+        <translation>它在文档中的编号 %1 与后面的材料相同；已赋予编号 %2</translation>
+    </message>
+    <message>
+        <source>its number in the document is %1, which no object can have; it was given the number %2</source>
+        <translation>它在文档中的编号是 %1，对象不能使用该编号；已赋予编号 %2</translation>
+    </message>
+    <message>
+        <source>the document has no name for it</source>
+        <translation>文档中没有它的名称</translation>
+    </message>
+    <message>
+        <source>it is a project file, which needs no import</source>
+        <translation>这是项目文件，无需导入</translation>
+    </message>
+    <message>
+        <source>an analysis document holds no materials; give the material document</source>
+        <translation>分析文档不包含材料；请提供材料文档</translation>
+    </message>
+    <message>
+        <source>it is no material document: &quot;proj_type&quot; must be 2</source>
+        <translation>这不是材料文档：“proj_type”必须为 2</translation>
+    </message>
+    <message>
+        <source>the document holds no materials</source>
+        <translation>文档不包含材料</translation>
+    </message>
+</context>
+<context>
     <name>MatCmdNewDoc</name>
     <message>
         <source>&amp;New material project</source>

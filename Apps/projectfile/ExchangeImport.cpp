@@ -3,6 +3,9 @@
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
+#include <QCoreApplication>
+#include <QString>
+
 #include <algorithm>
 #include <cstddef>
 #include <unordered_map>
@@ -14,32 +17,37 @@ namespace {
 
 constexpr const char* materialClass = "Mat::MaterialObject";
 
-std::string quoted(const std::string& text)
+QString tr(const char* source)
 {
-    return "\"" + text + "\"";
+    return QCoreApplication::translate("projectfile::ExchangeImport", source);
+}
+
+QString text(const std::string& utf8)
+{
+    return QString::fromStdString(utf8);
 }
 
 const char* kindName(const Json::Value& value)
 {
     switch (value.type()) {
     case Json::nullValue:
-        return "null";
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "null");
     case Json::stringValue:
-        return "a text";
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a text");
     case Json::booleanValue:
-        return "true or false";
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "true or false");
     case Json::arrayValue:
-        return "an array";
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "an array");
     case Json::objectValue:
-        return "an object";
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "an object");
     default:
-        return "a number";
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a number");
     }
 }
 
-[[noreturn]] void refuse(const std::string& path, const Json::Value& value, const char* needed)
+[[noreturn]] void refuse(const std::string& path, const Json::Value& value, const QString& needed)
 {
-    throw ImportError(path + ": is " + kindName(value) + "; " + needed + " is needed");
+    throw ImportError(tr("%1: is %2; %3 is needed").arg(text(path), tr(kindName(value)), needed).toStdString());
 }
 
 /// The element of an array that stands at `path`, which must be an object.
@@ -47,7 +55,7 @@ const Json::Value& objectAt(const Json::Value& array, Json::ArrayIndex index, co
 {
     const Json::Value& element = array[index];
     if (!element.isObject())
-        refuse(path, element, "an object");
+        refuse(path, element, tr("an object"));
     return element;
 }
 
@@ -56,18 +64,18 @@ const Json::Value& arrayUnder(const Json::Value& parent, const char* key, const 
 {
     const Json::Value& array = parent[key];
     if (!array.isArray() && !array.isNull())
-        refuse(parentPath + "." + key, array, "an array");
+        refuse(parentPath + "." + key, array, tr("an array"));
     return array;
 }
 
 std::string textUnder(const Json::Value& parent, const char* key, const std::string& parentPath)
 {
-    const Json::Value& text = parent[key];
-    if (text.isNull())
+    const Json::Value& value = parent[key];
+    if (value.isNull())
         return {};
-    if (!text.isString())
-        refuse(parentPath + "." + key, text, "a text");
-    return text.asString();
+    if (!value.isString())
+        refuse(parentPath + "." + key, value, tr("a text"));
+    return value.asString();
 }
 
 std::string pathOf(const std::string& parent, const char* key, Json::ArrayIndex index)
@@ -80,7 +88,7 @@ std::uint32_t numberOf(const Json::Value& material, const std::string& path)
 {
     const Json::Value& number = material["mat_id"];
     if (!number.isNumeric() && !number.isNull())
-        refuse(path + ".mat_id", number, "a number");
+        refuse(path + ".mat_id", number, tr("a number"));
     return number.isUInt() ? number.asUInt() : 0;
 }
 
@@ -93,31 +101,38 @@ std::int32_t keyOf(const Json::Value& property, const std::string& path)
     // Readers take the number for one with a sign, so that an id which has one comes back as it was.
     if (type.isUInt())
         return static_cast<std::int32_t>(type.asUInt());
-    refuse(path + ".prop_type", type, "a whole number from 0 to 4294967295");
+    refuse(path + ".prop_type", type, tr("a whole number from 0 to 4294967295"));
 }
 
 /// Makes one material, and says what is doubtful about it.
 class MaterialImport
 {
 public:
-    MaterialImport(std::string title, std::vector<std::string>& doubts) : m_title(std::move(title)), m_doubts(doubts) {}
+    MaterialImport(const ImportedMaterial& target, std::vector<std::string>& doubts)
+        : m_number(QString::number(target.objectId)), m_label(text(target.label)), m_doubts(doubts)
+    {}
 
-    void doubt(const std::string& about) { m_doubts.push_back(m_title + ": " + about); }
+    void doubt(const QString& about)
+    {
+        m_doubts.push_back(tr("material %1 \"%2\": %3").arg(m_number, m_label, about).toStdString());
+    }
     void addProperty(const Json::Value& json, const std::string& path);
 
     std::unique_ptr<vxMat::MaterialBase> material = std::make_unique<vxMat::CMaterial>();
 
 private:
-    void doubtProperty(const vxMat::MaterialProperty& property, const std::string& about)
+    void doubtProperty(const vxMat::MaterialProperty& property, const QString& about)
     {
-        const std::string name = property.name.empty() ? "" : " " + quoted(property.name);
-        doubt("property " + std::to_string(property.id) + name + ": " + about);
+        const QString id = QString::number(property.id);
+        doubt(property.name.empty() ? tr("property %1: %2").arg(id, about)
+                                    : tr("property %1 \"%2\": %3").arg(id, text(property.name), about));
     }
     void takeNumber(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path);
     void takeNameAndKey(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path);
     void restoreWordOrList(vxMat::MaterialProperty& property, const vxMat::PropertyRecord& quantity);
 
-    std::string m_title;
+    QString m_number;
+    QString m_label;
     std::vector<std::string>& m_doubts;
 };
 
@@ -125,35 +140,37 @@ void MaterialImport::takeNumber(vxMat::MaterialProperty& property, const Json::V
 {
     const Json::Value& number = json["prop_value"];
     if (!number.isNumeric() && !number.isNull())
-        refuse(path + ".prop_value", number, "a number");
+        refuse(path + ".prop_value", number, tr("a number"));
     if (number.isNull())
-        doubtProperty(property, "the document has no number for it, which is read as 0");
+        doubtProperty(property, tr("the document has no number for it, which is read as 0"));
     property.value = number.isNull() ? 0.0 : number.asDouble();
 }
 
 void MaterialImport::takeNameAndKey(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path)
 {
-    const auto take = [&](std::string& field, const char* key, const char* what) {
-        std::string text = textUnder(json, key, path);
-        if (text.empty() || text == field)
+    const auto take = [&](std::string& field, const char* key, const QString& doubt) {
+        std::string taken = textUnder(json, key, path);
+        if (taken.empty() || taken == field)
             return;
         if (!field.empty())
-            doubtProperty(property, std::string("its ") + what + " is " + quoted(text) + " in the document and " +
-                                        quoted(field) + " in the catalogue; that of the document was kept");
-        field = std::move(text);
+            doubtProperty(property, doubt.arg(text(taken), text(field)));
+        field = std::move(taken);
     };
     // The name last, as the doubts show the catalogue's.
-    take(property.key, "prop_key", "key");
-    take(property.name, "prop_name", "name");
+    take(property.key, "prop_key",
+         tr(R"(its key is "%1" in the document and "%2" in the catalogue; that of the document was kept)"));
+    take(property.name, "prop_name",
+         tr(R"(its name is "%1" in the document and "%2" in the catalogue; that of the document was kept)"));
 }
 
 void MaterialImport::restoreWordOrList(vxMat::MaterialProperty& property, const vxMat::PropertyRecord& quantity)
 {
     if (quantity.kind == vxMat::eValueKind::Word) {
-        doubtProperty(property, "documents carry no words; " + quoted(property.text) + " of the catalogue was taken");
+        doubtProperty(property,
+                      tr("documents carry no words; \"%1\" of the catalogue was taken").arg(text(property.text)));
     } else if (quantity.kind == vxMat::eValueKind::NumberList) {
         property.values.clear();
-        doubtProperty(property, "documents carry no lists; it is empty");
+        doubtProperty(property, tr("documents carry no lists; it is empty"));
     }
 }
 
@@ -168,9 +185,9 @@ void MaterialImport::addProperty(const Json::Value& json, const std::string& pat
     takeNameAndKey(*property, json, path);
     takeNumber(*property, json, path);
     if (quantity == nullptr)
-        doubtProperty(*property, "the catalogue does not know it; its unit, description and category are lost");
+        doubtProperty(*property, tr("the catalogue does not know it; its unit, description and category are lost"));
     if (material->hasProperty(key))
-        doubtProperty(*property, "it stands twice in the document; the last one was taken");
+        doubtProperty(*property, tr("it stands twice in the document; the last one was taken"));
     // A plain property, as every copy of a material has them.
     material->setProperty(key, std::make_unique<vxMat::MaterialProperty>(*property));
 }
@@ -204,29 +221,34 @@ private:
     std::uint32_t m_next = 1;
 };
 
-std::string titleOf(std::uint32_t objectId, const std::string& label)
-{
-    return "material " + std::to_string(objectId) + " " + quoted(label);
-}
-
-/// Why a material has got another number than the document says.
-std::string renumbered(const Json::Value& material, std::uint32_t stated)
+/// Why a material has got the number `objectId`, which is not what the document says.
+QString renumbered(const Json::Value& material, std::uint32_t stated, std::uint32_t objectId)
 {
     const Json::Value& number = material["mat_id"];
+    const QString given = QString::number(objectId);
     if (number.isNull())
-        return "the document has no number for it";
-    return "its number in the document is " + number.asString() +
-           (stated != 0 ? ", as that of a later material is" : ", which no object can have");
+        return tr("the document has no number for it; it was given the number %1").arg(given);
+    const QString said = text(number.asString());
+    if (stated != 0)
+        return tr("its number in the document is %1, as that of a later material is; it was given the number %2")
+            .arg(said, given);
+    return tr("its number in the document is %1, which no object can have; it was given the number %2")
+        .arg(said, given);
 }
 
-ImportedMaterial readMaterial(const Json::Value& json, const std::string& path, ImportedMaterial target,
-                              std::vector<std::string>& doubts)
+/// `stated` is the number in the document, 0 for none that an object can have.
+ImportedMaterial readMaterial(const Json::Value& json, const std::string& path, std::uint32_t stated,
+                              std::uint32_t objectId, std::vector<std::string>& doubts)
 {
+    ImportedMaterial target;
+    target.objectId = objectId;
     const std::string name = textUnder(json, "mat_name", path);
     target.label = name.empty() ? "Material" : name;
-    MaterialImport import(titleOf(target.objectId, target.label), doubts);
+    MaterialImport import(target, doubts);
+    if (target.objectId != stated)
+        import.doubt(renumbered(json, stated, target.objectId));
     if (name.empty())
-        import.doubt("the document has no name for it");
+        import.doubt(tr("the document has no name for it"));
     const Json::Value& properties = arrayUnder(json, "Props", path);
     for (Json::ArrayIndex i = 0; i < properties.size(); ++i) {
         const std::string propertyPath = pathOf(path, "Props", i);
@@ -241,14 +263,14 @@ ImportedMaterial readMaterial(const Json::Value& json, const std::string& path, 
 void requireMaterialDocument(const Json::Value& document)
 {
     if (!document.isObject())
-        refuse("$", document, "an object");
+        refuse("$", document, tr("an object"));
     if (isProject(document))
-        throw ImportError("it is a project file, which needs no import");
+        throw ImportError(tr("it is a project file, which needs no import").toStdString());
     const std::uint32_t kind = vxCAE::readProjectKind(document);
     if (kind == vxCAE::ProjectKind::Analysis)
-        throw ImportError("an analysis document holds no materials; give the material document");
+        throw ImportError(tr("an analysis document holds no materials; give the material document").toStdString());
     if (kind != vxCAE::ProjectKind::Material)
-        throw ImportError("it is no material document: \"proj_type\" must be 2");
+        throw ImportError(tr("it is no material document: \"proj_type\" must be 2").toStdString());
 }
 
 } // namespace
@@ -268,17 +290,11 @@ ImportedMaterials importExchange(const Json::Value& document)
     Numbers numbers(stated);
     ImportedMaterials imported;
     if (list.empty())
-        imported.doubts.emplace_back("the document holds no materials");
+        imported.doubts.push_back(tr("the document holds no materials").toStdString());
     for (Json::ArrayIndex i = 0; i < list.size(); ++i) {
-        const bool keeps = numbers.keeps(i, stated[i]);
-        ImportedMaterial target;
-        target.objectId = keeps ? stated[i] : numbers.next();
+        const std::uint32_t objectId = numbers.keeps(i, stated[i]) ? stated[i] : numbers.next();
         imported.materials.push_back(
-            readMaterial(list[i], pathOf("$", "material", i), std::move(target), imported.doubts));
-        const ImportedMaterial& made = imported.materials.back();
-        if (!keeps)
-            imported.doubts.push_back(titleOf(made.objectId, made.label) + ": " + renumbered(list[i], stated[i]) +
-                                      "; it was given the number " + std::to_string(made.objectId));
+            readMaterial(list[i], pathOf("$", "material", i), stated[i], objectId, imported.doubts));
     }
     std::sort(imported.materials.begin(), imported.materials.end(),
               [](const auto& one, const auto& other) { return one.objectId < other.objectId; });

@@ -15,7 +15,7 @@
 namespace projectfile {
 
 /// A document that is no material document, and what is wrong with it: the message names the member by its path
-/// ("$.material[2].Props[0].prop_value"), but not the file, which the caller knows.
+/// ("$.material[2].Props[0].prop_value"), but not the file, which the caller knows. It is in the user's language.
 class PROJECTFILE_EXPORT ImportError : public std::runtime_error
 {
 public:
@@ -36,7 +36,8 @@ struct PROJECTFILE_EXPORT ImportedMaterials
 {
     std::vector<ImportedMaterial> materials; ///< by objectId
     /// What the user has to look after, a sentence each that names the material and, where it is one of a property,
-    /// the property's id: what did not travel and is not known, and what the document says twice or not at all.
+    /// the property's id, in the user's language: what did not travel and is not known, and what the document says
+    /// twice or not at all.
     std::vector<std::string> doubts;
 };
 

@@ -77,19 +77,17 @@ MaterialFile readFromProject(Input input)
     return file;
 }
 
-/// The project in a text that may be one; absent when the text is something else.
+/// Reads the project in a text that may be one. Answers false when the text is something else.
 /// \throws Failure when it is one with which something is wrong
-std::optional<projectfile::ProjectRecord> readProject(const Input& input)
+bool readAsProject(Input& input)
 {
-    // Every project file says so; most others are told apart without being read for nothing.
-    if (input.text.find("\"format\"") == std::string::npos)
-        return std::nullopt;
     try {
-        return projectfile::readProject(input.text);
+        input.project = projectfile::readProject(input.text);
+        return true;
     } catch (const projectfile::ProjectFileError& error) {
         if (projectfile::isProject(parseDocument(input.path, input.text)))
             throw Failure(input.path + ": " + error.what());
-        return std::nullopt;
+        return false;
     }
 }
 
@@ -100,10 +98,14 @@ Input readInput(const std::string& path)
     Input input;
     input.path = path;
     input.text = readFile(path);
-    input.project = readProject(input);
-    if (input.project)
+    // What most probably is a project need not be read as a document first.
+    if (input.text.find("\"format\"") != std::string::npos && readAsProject(input))
         return input;
     input.document = parseDocument(path, input.text);
+    if (projectfile::isProject(input.document) && readAsProject(input)) {
+        input.document = Json::Value();
+        return input;
+    }
     if (isForeign(input.document))
         throw Failure(path + ": neither an exchange document nor a project file: it has none of their members");
     return input;

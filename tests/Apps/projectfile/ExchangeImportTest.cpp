@@ -4,6 +4,8 @@
 #include "vxMaterial/exchange/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -288,6 +290,62 @@ TEST(ExchangeImport, MakesProjectsThatAreReadBack)
     EXPECT_EQ(read.objects[0].objectId, 3U);
     EXPECT_EQ(read.objects[0].label, "Plastic Example 2");
     EXPECT_EQ(read.objects[0].material->getPropertyText(33), "Mises");
+}
+
+/// A document that gives reason for every doubt.
+constexpr const char* doubtful = R"({"proj_type": 2, "material": [
+    {"mat_name": "none"}, {"mat_id": 0, "mat_name": "zero"}, {"mat_id": 9, "mat_name": "earlier"}, {"mat_id": 9, "Props": [
+        {"prop_type": 4, "prop_name": "D", "prop_key": "d"}, {"prop_type": 4, "prop_value": 1},
+        {"prop_type": 33, "prop_value": 0}, {"prop_type": 38, "prop_value": 0}, {"prop_type": 77, "prop_value": 0},
+        {"prop_type": 78, "prop_name": "x", "prop_value": 0}]}]})";
+
+/// What is said of a document: its doubts, or why it is refused.
+std::vector<std::string> saidOf(const char* document)
+{
+    try {
+        return importExchange(parse(document)).doubts;
+    } catch (const projectfile::ImportError& error) {
+        return {error.what()};
+    }
+}
+
+TEST(ExchangeImport, SpeaksTheUsersLanguage)
+{
+    const char* const documents[] = {doubtful,
+                                     R"({"proj_type": 2})",
+                                     R"({"proj_type": 1})",
+                                     "{}",
+                                     R"({"format": "vxMaterial project"})",
+                                     "[]",
+                                     R"({"proj_type": 2, "material": {}})",
+                                     R"({"proj_type": 2, "material": [null]})",
+                                     R"({"proj_type": 2, "material": [{"mat_id": "1"}]})",
+                                     R"({"proj_type": 2, "material": [{"mat_name": true}]})",
+                                     R"({"proj_type": 2, "material": [{"Props": [{"prop_type": 0.5}]}]})"};
+    int count = 1;
+    char name[] = "test";
+    char* arguments[] = {name, nullptr};
+    const QCoreApplication application(count, arguments);
+    for (const char* const language : {"de", "zh_CN"}) {
+        for (const char* const document : documents) {
+            const auto english = saidOf(document);
+            QTranslator translator;
+            ASSERT_TRUE(
+                translator.load(QStringLiteral(VX_TRANSLATIONS "/vxMaterial_%1.qm").arg(QLatin1String(language))));
+            QCoreApplication::installTranslator(&translator);
+            const auto translated = saidOf(document);
+            QCoreApplication::removeTranslator(&translator);
+            ASSERT_THAT(english, testing::Not(IsEmpty()));
+            ASSERT_EQ(translated.size(), english.size());
+            // "null", "proj_type" and what the document says are the same in any language.
+            for (std::size_t i = 0; i < english.size(); ++i) {
+                EXPECT_NE(translated[i], english[i]);
+                for (const char* const word : {"document", "is needed", "catalogue", "property", "number"})
+                    EXPECT_THAT(translated[i], testing::Not(HasSubstr(word)));
+            }
+        }
+    }
+    EXPECT_EQ(saidOf(doubtful).size(), 12U);
 }
 
 /// A wrong document, and what is said of it.

@@ -104,6 +104,12 @@ TEST(Files, SayThatAFileIsNotReadable)
     EXPECT_THAT(run.err, HasSubstr("Permission denied"));
 }
 
+TEST(Files, AreProjectsByWhatTheySayHoweverTheySayIt)
+{
+    EXPECT_EQ(vxmat({"cards", "-"}, projectWith("\"format\"", "\"\\u0066ormat\"")).out,
+              vxmat({"cards", "-"}, projectWith("", "")).out);
+}
+
 TEST(Files, ReadStandardInput)
 {
     EXPECT_EQ(vxmat({"check", "-"}, R"({"proj_type": 2})").status, 0);

@@ -1,0 +1,70 @@
+#!/usr/bin/env bash
+# The pictures of the documentation, docs/images: the main window and both tabs of the material editor, light and dark.
+#
+#   docs/screenshots.sh             makes them anew
+#   docs/screenshots.sh all FOLDER  the editor in all languages, at 100 % and 200 %, to be looked at. Chinese needs a
+#                                   font that has it, such as Debian's fonts-wqy-zenhei.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/build.sh default editor_screenshots kelta KeltaMaterials vxMaterial vx_translations
+export QT_QPA_PLATFORM=offscreen
+bin=$PWD/build/default/bin
+
+# editor FOLDER LANGUAGE light|dark SCALE SUFFIX
+editor() {
+    QT_SCALE_FACTOR=$4 "$bin/editor_screenshots" "$1" "$2" "$3" "$5" 2>&1 |
+        { grep -v 'propagateSizeHints\|XDG_RUNTIME_DIR' || true; }
+}
+
+if [ "${1:-}" = all ]; then
+    folder=${2:-build/default/screenshots}
+    mkdir -p "$folder"
+    for language in en de zh_CN; do
+        for colours in light dark; do
+            for scale in 1 2; do
+                editor "$folder" "$language" "$colours" "$scale" "$language-$colours-${scale}00"
+            done
+        done
+    done
+    exit
+fi
+
+mkdir -p docs/images
+for colours in light dark; do
+    editor docs/images en "$colours" 1 "$colours"
+done
+rm docs/images/disabled-*.png
+
+# Without settings and projects of whoever runs this.
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+pictures=$PWD/docs/images
+cd "$home"
+HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8 \
+    "$bin/kelta" --batch - 2>/dev/null <<END
+screenshot $pictures/start.png
+Mat_NewDoc
+Mat_AddMaterial
+label Frame
+use "Nonlinear Structural Steel"
+Mat_AddMaterial
+label Resin
+clear
+set Density 1180
+set "Young's modulus" 3.2e9
+set "Poisson's ratio" 0.37
+Mat_AddMaterial
+label Spare
+Std_Suppress
+Mat_AddMaterial
+label "To be measured"
+clear
+select Frame
+Mat_Edit
+select Resin
+Mat_Edit
+Std_SaveAs beams.vxmat
+Mat_Export beams.json
+screenshot $pictures/window.png
+END

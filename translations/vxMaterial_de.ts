@@ -1309,4 +1309,54 @@ Möchten Sie fortfahren?</translation>
         <translation>Material anzeigen</translation>
     </message>
 </context>
+<context>
+    <name>projectfile::ProjectFile</name>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>This is no project file: its member &quot;format&quot; is not &quot;%1&quot;.</source>
+        <translation>Das ist keine Projektdatei: Ihr Eintrag „format“ ist nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>The file was written by a later version of the program, in version %1 of the format; this program reads up to version %2.</source>
+        <translation>Die Datei wurde von einer neueren Version des Programms geschrieben, in Version %1 des Formats; dieses Programm liest bis Version %2.</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ProjectStore</name>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>Der Name einer Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>This is a folder; a file is needed.</source>
+        <translation>Das ist ein Ordner; gebraucht wird eine Datei.</translation>
+    </message>
+    <message>
+        <source>This is a device or a pipe; a file is needed.</source>
+        <translation>Das ist ein Gerät oder eine Pipe; gebraucht wird eine Datei.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; does not exist.</source>
+        <translation>Den Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a file; a folder is needed.</source>
+        <translation>„%1“ ist eine Datei; gebraucht wird ein Ordner.</translation>
+    </message>
+    <message>
+        <source>The file is too large for a project.</source>
+        <translation>Die Datei ist zu groß für ein Projekt.</translation>
+    </message>
+    <message>
+        <source>The file is too large for the memory.</source>
+        <translation>Die Datei ist zu groß für den Arbeitsspeicher.</translation>
+    </message>
+    <message>
+        <source>Another program changed the file while it was read. Try again.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, während sie gelesen wurde. Versuchen Sie es noch einmal.</translation>
+    </message>
+</context>
 </TS>

@@ -1309,4 +1309,54 @@ Do you want to continue?</source>
         <translation>显示材料</translation>
     </message>
 </context>
+<context>
+    <name>projectfile::ProjectFile</name>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件是空的。</translation>
+    </message>
+    <message>
+        <source>This is no project file: its member &quot;format&quot; is not &quot;%1&quot;.</source>
+        <translation>这不是项目文件：其成员“format”不是“%1”。</translation>
+    </message>
+    <message>
+        <source>The file was written by a later version of the program, in version %1 of the format; this program reads up to version %2.</source>
+        <translation>该文件由更新版本的程序写入，格式版本为 %1；本程序最高可读取版本 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ProjectStore</name>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>文件名为空。</translation>
+    </message>
+    <message>
+        <source>This is a folder; a file is needed.</source>
+        <translation>这是一个文件夹；需要的是文件。</translation>
+    </message>
+    <message>
+        <source>This is a device or a pipe; a file is needed.</source>
+        <translation>这是设备或管道；需要的是文件。</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; does not exist.</source>
+        <translation>文件夹“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a file; a folder is needed.</source>
+        <translation>“%1”是文件；需要的是文件夹。</translation>
+    </message>
+    <message>
+        <source>The file is too large for a project.</source>
+        <translation>该文件作为项目过大。</translation>
+    </message>
+    <message>
+        <source>The file is too large for the memory.</source>
+        <translation>该文件过大，内存不足。</translation>
+    </message>
+    <message>
+        <source>Another program changed the file while it was read. Try again.</source>
+        <translation>读取文件时，另一个程序更改了它。请重试。</translation>
+    </message>
+</context>
 </TS>

@@ -1672,4 +1672,19 @@ Möchten Sie fortfahren?</translation>
         <translation>„%1“ ist eine Datei; gebraucht wird ein Ordner.</translation>
     </message>
 </context>
+<context>
+    <name>projectfile::ProjectFile</name>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>This is no project file: its member &quot;format&quot; is not &quot;%1&quot;.</source>
+        <translation>Das ist keine Projektdatei: Ihr Eintrag „format“ ist nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>The file was written by a later version of the program, in version %1 of the format; this program reads up to version %2.</source>
+        <translation>Die Datei wurde von einer neueren Version des Programms geschrieben, in Version %1 des Formats; dieses Programm liest bis Version %2.</translation>
+    </message>
+</context>
 </TS>

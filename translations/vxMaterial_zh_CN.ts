@@ -1672,4 +1672,19 @@ Do you want to continue?</source>
         <translation>“%1”是文件；需要文件夹。</translation>
     </message>
 </context>
+<context>
+    <name>projectfile::ProjectFile</name>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件是空的。</translation>
+    </message>
+    <message>
+        <source>This is no project file: its member &quot;format&quot; is not &quot;%1&quot;.</source>
+        <translation>这不是项目文件：其成员“format”不是“%1”。</translation>
+    </message>
+    <message>
+        <source>The file was written by a later version of the program, in version %1 of the format; this program reads up to version %2.</source>
+        <translation>该文件由更新版本的程序写入，格式版本为 %1；本程序最高可读取版本 %2。</translation>
+    </message>
+</context>
 </TS>

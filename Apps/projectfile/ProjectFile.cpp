@@ -9,6 +9,8 @@
 #include "projectfile/MaterialRecord.h"
 #include "vxMaterial/exchange/JsonText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -17,10 +19,15 @@ namespace projectfile {
 
 namespace {
 
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("projectfile::ProjectFile", text);
+}
+
 Json::Value parse(const std::string& text)
 {
     if (text.find_first_not_of(" \t\r\n") == std::string::npos)
-        throw ProjectFileError("the file is empty");
+        throw ProjectFileError(tr("The file is empty.").toStdString());
     auto reading = vxCAE::readJsonText(text, vxCAE::JsonDialect::Strict);
     if (!reading.error)
         return std::move(reading.document);
@@ -30,13 +37,16 @@ Json::Value parse(const std::string& text)
 void refuseOtherDocuments(const Json::Value& document)
 {
     if (!isProject(document))
-        throw ProjectFileError("this is no project file: its member \"format\" is not \"" +
-                               std::string(detail::projectFormat) + "\"");
+        throw ProjectFileError(tr(R"(This is no project file: its member "format" is not "%1".)")
+                                   .arg(QLatin1String(detail::projectFormat.data()))
+                                   .toStdString());
     const Json::Value& version = document["format_version"];
     if (version.isNumeric() && version.asDouble() > formatVersion)
-        throw ProjectFileError("the file was written by a later version of the program, in version " +
-                               version.asString() + " of the format; this program reads up to version " +
-                               std::to_string(formatVersion));
+        throw ProjectFileError(tr("The file was written by a later version of the program, in version %1 of the "
+                                  "format; this program reads up to version %2.")
+                                   .arg(QString::fromStdString(version.asString()))
+                                   .arg(formatVersion)
+                                   .toStdString());
 }
 
 } // namespace

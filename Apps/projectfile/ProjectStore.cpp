@@ -247,7 +247,7 @@ FileStamp writeFile(const QString& path, const std::string& text)
         fail(path, file.errorString());
     if (!reachesDisk(file.handle()))
         fail(path, reasonOf(errno));
-    const FileStamp stamp = stampOf(statusOf(file.handle(), path), text);
+    FileStamp stamp = stampOf(statusOf(file.handle(), path), text);
     if (!file.commit())
         fail(path, file.errorString());
     syncFolder(QFileInfo(target).path());

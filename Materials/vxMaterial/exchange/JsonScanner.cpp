@@ -8,8 +8,16 @@ namespace vxCAE::detail {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
-constexpr std::string_view delimiters = " \t\r\n,:[]{}\"/";
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+/// Whether a character ends a number or a word.
+bool isDelimiter(char c)
+{
+    return isBlank(c) || c == ',' || c == ':' || c == '[' || c == ']' || c == '{' || c == '}' || c == '"' || c == '/';
+}
 
 /// The length of the comment that `text` begins with; 0 when it begins with none.
 std::size_t lengthOfComment(std::string_view text)
@@ -26,9 +34,17 @@ std::size_t lengthOfComment(std::string_view text)
 std::size_t lengthOfText(std::string_view text)
 {
     std::size_t end = 1;
-    while (end < text.size() && text[end] != '"')
-        end += text[end] == '\\' ? 2 : 1;
-    return std::min(end + 1, text.size());
+    std::size_t quote = text.find('"', end);
+    while (quote != std::string_view::npos) {
+        // Most texts have no escapes, and are searched as a whole.
+        const std::size_t escape = text.substr(0, quote).find('\\', end);
+        if (escape == std::string_view::npos)
+            return quote + 1;
+        end = escape + 2;
+        if (end > quote)
+            quote = text.find('"', end);
+    }
+    return text.size();
 }
 
 TokenKind kindOf(char first)
@@ -79,6 +95,14 @@ bool isContinuation(char c)
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
+bool isAscii(std::string_view text)
+{
+    unsigned all = 0;
+    for (const char c : text)
+        all |= static_cast<unsigned char>(c);
+    return all < 0x80U;
+}
+
 /// The length of the UTF-8 character that `text` begins with; 0 when it begins with none.
 std::size_t lengthOfCharacter(std::string_view text)
 {
@@ -110,7 +134,8 @@ std::size_t lengthOfCharacter(std::string_view text)
 void JsonScanner::skipBlanksAndComments()
 {
     while (m_at < m_text.size()) {
-        m_at = std::min(m_text.find_first_not_of(blanks, m_at), m_text.size());
+        while (m_at < m_text.size() && isBlank(m_text[m_at]))
+            ++m_at;
         const std::size_t comment = lengthOfComment(m_text.substr(m_at));
         if (comment == 0)
             return;
@@ -129,7 +154,8 @@ std::optional<Token> JsonScanner::next()
     if (kind == TokenKind::Text)
         length = lengthOfText(m_text.substr(begin));
     else if (kind == TokenKind::Other)
-        length = std::min(m_text.find_first_of(delimiters, begin + 1), m_text.size()) - begin;
+        while (begin + length < m_text.size() && !isDelimiter(m_text[begin + length]))
+            ++length;
     m_at = begin + length;
     return Token{kind, begin, m_text.substr(begin, length)};
 }
@@ -155,12 +181,19 @@ namespace vxCAE {
 
 std::size_t lengthOfUtf8(std::string_view text)
 {
+    constexpr std::size_t block = 64;
     std::size_t length = 0;
     while (length < text.size()) {
-        const std::size_t character = detail::lengthOfCharacter(text.substr(length));
-        if (character == 0)
-            break;
-        length += character;
+        const std::size_t blockEnd = std::min(length + block, text.size());
+        // Most texts are ASCII for long stretches, which go by blocks.
+        if (detail::isAscii(text.substr(length, block)))
+            length = blockEnd;
+        while (length < blockEnd) {
+            const std::size_t character = detail::lengthOfCharacter(text.substr(length));
+            if (character == 0)
+                return length;
+            length += character;
+        }
     }
     return length;
 }

@@ -99,6 +99,9 @@ JsonError errorAt(std::string_view text, std::size_t offset, std::string message
 /// What is wrong with a token that begins like a number; empty when nothing is.
 std::string faultOfNumber(std::string_view token)
 {
+    constexpr std::size_t harmless = 15; // digits, which neither overflow nor lose anything
+    if (token.size() <= harmless && token[0] != '0' && token.find_first_not_of("0123456789") == std::string_view::npos)
+        return {};
     const std::string shown = "'" + shortened(token) + "'";
     if (!detail::isJsonNumber(token))
         return shown + " is not a number";
@@ -137,8 +140,53 @@ bool hasHalfOfPair(std::string_view token)
     return false;
 }
 
-/// What the JSON library would take or throw for: bytes that are not UTF-8 or end its reading, numbers that it turns
-/// into others, halves of characters, nesting that it does not follow.
+/// Looks at each token of a text for what the JSON library would take or throw for: numbers that it turns into others,
+/// nesting that it does not follow, and, in the strict dialect, comments, which it takes in some places though it was
+/// told not to, and halves of characters.
+class TokenCheck
+{
+public:
+    TokenCheck(std::string_view text, JsonDialect dialect) : m_text(text), m_isStrict(dialect == JsonDialect::Strict) {}
+
+    std::optional<JsonError> check(const detail::Token& token)
+    {
+        using detail::TokenKind;
+        if (auto comment = findComment(token.offset))
+            return comment;
+        m_end = token.offset + token.text.size();
+        const bool ends = token.kind == TokenKind::EndArray || token.kind == TokenKind::EndObject;
+        const bool begins = token.kind == TokenKind::BeginArray || token.kind == TokenKind::BeginObject;
+        const bool separates = token.kind == TokenKind::Comma || token.kind == TokenKind::Colon;
+        if (!ends && !separates && m_depth >= deepestNesting)
+            return errorAt(m_text, token.offset, "nested more than " + std::to_string(deepestNesting) + " levels deep");
+        m_depth += begins ? 1 : ends ? -1 : 0;
+        if (token.kind == TokenKind::Other && token.text.find_first_of("0123456789+-.") == 0) {
+            if (std::string fault = faultOfNumber(token.text); !fault.empty())
+                return errorAt(m_text, token.offset, std::move(fault));
+        }
+        if (m_isStrict && token.kind == TokenKind::Text && hasHalfOfPair(token.text))
+            return errorAt(m_text, token.offset, "an escape for half of a surrogate pair, which is no character");
+        return std::nullopt;
+    }
+
+    /// A comment between the last token and `offset`.
+    std::optional<JsonError> findComment(std::size_t offset) const
+    {
+        const std::size_t at = m_isStrict ? m_text.substr(0, offset).find('/', m_end) : std::string_view::npos;
+        if (at == std::string_view::npos)
+            return std::nullopt;
+        return errorAt(m_text, at, "a comment, which a file of this kind has not");
+    }
+
+private:
+    std::string_view m_text;
+    bool m_isStrict;
+    int m_depth = 0;
+    std::size_t m_end = 0; ///< of the token before
+};
+
+/// What the JSON library would take or throw for: bytes that are not UTF-8 or end its reading, and what TokenCheck
+/// finds.
 std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text, JsonDialect dialect)
 {
     const std::size_t utf8 = lengthOfUtf8(text);
@@ -147,36 +195,13 @@ std::optional<JsonError> findWhatTheLibraryOverlooks(std::string_view text, Json
     if (const std::size_t zero = text.find('\0'); zero != std::string_view::npos)
         return errorAt(text, zero, "a zero byte");
 
-    int depth = 0;
-    std::size_t end = 0; // of the token before
-    // In some places the library takes comments though it was told not to.
-    const auto commentBefore = [&](std::size_t offset) {
-        const std::size_t at =
-            dialect == JsonDialect::Strict ? text.substr(0, offset).find('/', end) : std::string_view::npos;
-        return at != std::string_view::npos
-                   ? std::optional<JsonError>(errorAt(text, at, "a comment, which a file of this kind has not"))
-                   : std::nullopt;
-    };
+    TokenCheck check(text, dialect);
     detail::JsonScanner scanner(text);
     while (const auto token = scanner.next()) {
-        using detail::TokenKind;
-        if (auto comment = commentBefore(token->offset))
-            return comment;
-        end = token->offset + token->text.size();
-        const bool ends = token->kind == TokenKind::EndArray || token->kind == TokenKind::EndObject;
-        const bool begins = token->kind == TokenKind::BeginArray || token->kind == TokenKind::BeginObject;
-        const bool separates = token->kind == TokenKind::Comma || token->kind == TokenKind::Colon;
-        if (!ends && !separates && depth >= deepestNesting)
-            return errorAt(text, token->offset, "nested more than " + std::to_string(deepestNesting) + " levels deep");
-        depth += begins ? 1 : ends ? -1 : 0;
-        if (token->kind == TokenKind::Other && token->text.find_first_of("0123456789+-.") == 0) {
-            if (std::string fault = faultOfNumber(token->text); !fault.empty())
-                return errorAt(text, token->offset, std::move(fault));
-        }
-        if (dialect == JsonDialect::Strict && token->kind == TokenKind::Text && hasHalfOfPair(token->text))
-            return errorAt(text, token->offset, "an escape for half of a surrogate pair, which is no character");
+        if (auto error = check.check(*token))
+            return error;
     }
-    return commentBefore(text.size());
+    return check.findComment(text.size());
 }
 
 } // namespace

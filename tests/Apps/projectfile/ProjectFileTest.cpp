@@ -1,6 +1,7 @@
 #include "projectfile/ProjectFile.h"
 
 #include "CommaLocale.h"
+#include "DataFile.h"
 #include "ProjectTesting.h"
 
 #include "vxMaterial/exchange/JsonText.h"
@@ -222,6 +223,14 @@ TEST(ProjectFile, TakesDefaultsForWhatIsNotThere)
     EXPECT_EQ(density->category, vxMat::ePropertyCategory::Undefined);
 }
 
+TEST(ProjectFile, IsReadAsItsGuideShowsIt)
+{
+    const std::string guide = vxtest::readText(PROJECT_FILE_GUIDE);
+    const std::size_t begin = guide.find("```json\n") + 8;
+    const std::string text = guide.substr(begin, guide.find("```", begin) - begin);
+    EXPECT_EQ(writeProject(readProject(text)), text);
+}
+
 // --- What is not known ---
 
 TEST(ProjectFile, WritesBackMembersThatItDoesNotKnow)
@@ -335,7 +344,7 @@ TEST(ProjectFile, OfAnotherProgramIsRefusedAsSuch)
 TEST(ProjectFile, ThatIsEmptyIsRefusedAsSuch)
 {
     for (const char* const text : {"", " ", "\r\n\n", "\t"})
-        EXPECT_EQ(refusalOf(text), "the file is empty");
+        EXPECT_EQ(refusalOf(text), "The file is empty.");
     EXPECT_THAT(refusalOf("\xEF\xBB\xBF"), testing::Not(IsEmpty()));
 }
 

@@ -14,6 +14,7 @@
 namespace {
 
 using testing::HasSubstr;
+using vxCAE::JsonDialect;
 using vxCAE::JsonError;
 using vxCAE::readJsonText;
 
@@ -38,6 +39,52 @@ TEST(ReadJsonText, NamesLineAndColumnOfAnError)
     EXPECT_EQ(error.line, 3);
     EXPECT_EQ(error.column, 8);
     EXPECT_THAT(error.message, HasSubstr("Syntax error"));
+}
+
+TEST(ReadJsonText, RefusesCommentsInTheStrictDialect)
+{
+    for (const char* const text : {"// a\n{}", "{/* a */}", "{\"a\": 1, // a\n\"b\": 2}", "{\"a\": /**/ 1}",
+                                   "[1, /* a */ 2]", "{} // a", "[] /", "[1 / 2]"})
+    {
+        const auto reading = readJsonText(text, JsonDialect::Strict);
+        ASSERT_TRUE(reading.error) << text;
+        EXPECT_EQ(reading.error->column, static_cast<int>(std::string(text).find('/')) + 1) << text;
+    }
+    EXPECT_FALSE(readJsonText(R"({"a": "// no comment", "/*": "*/"})", JsonDialect::Strict).error);
+}
+
+TEST(ReadJsonText, RefusesMembersThatStandTwiceInTheStrictDialect)
+{
+    const std::string text = R"({"a": 1, "b": {"a": 1, "a": 2}})";
+    EXPECT_TRUE(readJsonText(text, JsonDialect::Strict).error);
+    EXPECT_EQ(readJsonText(text).document["b"]["a"], 2);
+}
+
+TEST(ReadJsonText, RefusesHalvesOfCharactersInTheStrictDialect)
+{
+    for (const char* const text :
+         {R"("\uD800")", R"("\uDC00")", R"("\udfff\ud800")", R"("\uD800\uD800")", R"("\uD800\u0041")",
+          R"("\uD83Dx\uDE00")", R"("\\\uD800")", R"("\uD83D\uDE00\uDE00")"})
+        EXPECT_TRUE(readJsonText("[" + std::string(text) + "]", JsonDialect::Strict).error) << text;
+    const auto reading =
+        readJsonText(R"(["\uD83D\uDE00", "\\uD800", "\"\\\\uDC00", "\uD7FF\uE000"])", JsonDialect::Strict);
+    ASSERT_FALSE(reading.error);
+    EXPECT_EQ(reading.document[0], "\xF0\x9F\x98\x80");
+    EXPECT_EQ(reading.document[1], "\\uD800");
+}
+
+TEST(ReadJsonText, RefusesWhatIsNotUtf8WhereverItStands)
+{
+    for (std::size_t at = 0; at < 200; ++at) {
+        std::string text(200, 'a');
+        text[at] = '\xC3';
+        EXPECT_EQ(vxCAE::lengthOfUtf8(text), at);
+        EXPECT_EQ(errorOf("[\"" + text + "\"]").column, static_cast<int>(at) + 3);
+        if (at + 1 < text.size()) {
+            text[at + 1] = '\xA4';
+            EXPECT_EQ(vxCAE::lengthOfUtf8(text), text.size());
+        }
+    }
 }
 
 TEST(ReadJsonText, RefusesTruncatedEmptyAndForeignTexts)

@@ -720,7 +720,7 @@
         <translation>Die kopierten Materialien ins Projekt einfügen</translation>
     </message>
     <message>
-        <source>D&amp;uplicate</source>
+        <source>Dup&amp;licate</source>
         <translation>&amp;Duplizieren</translation>
     </message>
     <message>
@@ -1015,6 +1015,18 @@
     <message>
         <source>Double-click a material in the project explorer, or select one and choose Edit.</source>
         <translation>Doppelklicken Sie ein Material im Projektbaum, oder wählen Sie eines aus und dann Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>The materials module is missing</source>
+        <translation>Das Materialmodul fehlt</translation>
+    </message>
+    <message>
+        <source>The messages tell why it could not be loaded.</source>
+        <translation>Die Meldungen sagen, warum es nicht geladen werden konnte.</translation>
+    </message>
+    <message>
+        <source>A material project holds the materials of a model. Begin with a new one, or open a saved one.</source>
+        <translation>Ein Materialprojekt enthält die Materialien eines Modells. Beginnen Sie mit einem neuen, oder öffnen Sie ein gespeichertes.</translation>
     </message>
 </context>
 <context>

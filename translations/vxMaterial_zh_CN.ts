@@ -720,8 +720,8 @@
         <translation>将已复制的材料添加到项目</translation>
     </message>
     <message>
-        <source>D&amp;uplicate</source>
-        <translation>生成副本(&amp;U)</translation>
+        <source>Dup&amp;licate</source>
+        <translation>生成副本(&amp;L)</translation>
     </message>
     <message>
         <source>Add a copy of each selected material</source>
@@ -1015,6 +1015,18 @@
     <message>
         <source>Double-click a material in the project explorer, or select one and choose Edit.</source>
         <translation>在项目浏览器中双击一种材料，或选择一种后点击“编辑”。</translation>
+    </message>
+    <message>
+        <source>The materials module is missing</source>
+        <translation>缺少材料模块</translation>
+    </message>
+    <message>
+        <source>The messages tell why it could not be loaded.</source>
+        <translation>无法加载的原因见消息。</translation>
+    </message>
+    <message>
+        <source>A material project holds the materials of a model. Begin with a new one, or open a saved one.</source>
+        <translation>材料项目包含模型的材料。请新建一个，或打开已保存的项目。</translation>
     </message>
 </context>
 <context>

@@ -143,10 +143,15 @@ bool editProperty(Obj::PropertyDS& owner, const char* name, const std::string& t
     const auto* const object = dynamic_cast<Obj::ProjectObject*>(&owner);
     if (object != nullptr && property == &object->label && QString::fromStdString(text).trimmed().isEmpty())
         return false;
+    const Place place = placeOf(owner);
     if (!property->from_text(text))
         return false;
-    vxMsg::MessageProxy::instance().pushDone(std::make_unique<PropertyEdit>(
-        tr("Change \"%1\"").arg(QString::fromUtf8(name)), placeOf(owner), name, before, property->to_text()));
+    // Who hears of the change may have deleted what was changed.
+    const Obj::PropertyDS* const left = findOwner(place);
+    if (left != nullptr)
+        vxMsg::MessageProxy::instance().pushDone(
+            std::make_unique<PropertyEdit>(tr("Change \"%1\"").arg(QString::fromUtf8(name)), place, name, before,
+                                           left->get_property_by_name(name)->to_text()));
     return true;
 }
 
@@ -154,10 +159,13 @@ void setSuppressed(Obj::ProjectObject& object, bool suppressed)
 {
     if (object.isSuppressed() == suppressed)
         return;
+    const QString text = (suppressed ? tr("Suppress \"%1\"") : tr("Unsuppress \"%1\""))
+                             .arg(QString::fromStdString(object.label.getValue()));
+    const Place place = placeOf(object);
+    // Who hears of it may delete the object; nothing is left to undo then.
     object.setSuppressed(suppressed);
-    const QString text = suppressed ? tr("Suppress \"%1\"") : tr("Unsuppress \"%1\"");
-    vxMsg::MessageProxy::instance().pushDone(std::make_unique<SuppressionEdit>(
-        text.arg(QString::fromStdString(object.label.getValue())), placeOf(object), suppressed));
+    if (findObject(place) != nullptr)
+        vxMsg::MessageProxy::instance().pushDone(std::make_unique<SuppressionEdit>(text, place, suppressed));
 }
 
 } // namespace Gui

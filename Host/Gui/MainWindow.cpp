@@ -18,6 +18,7 @@
 #include <QDockWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
 #include <QStackedWidget>
@@ -81,6 +82,9 @@ void MainWindow::add_mdi_window(MDIWindow* window)
     QMdiSubWindow* const frame = m_area->addSubWindow(window);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setWindowIcon(window->windowIcon());
+    // The menu of the frame has the keys of the command that closes a document; with two owners they would do nothing.
+    for (QAction* const action : frame->systemMenu()->actions())
+        action->setShortcuts(QList<QKeySequence>());
     window->show();
     if (m_area->viewMode() == QMdiArea::TabbedView)
         frame->showMaximized();
@@ -160,6 +164,10 @@ bool MainWindow::set_workbench(const char* className)
         m_workbench->deactivated();
     m_workbench.reset(static_cast<StdSimModule*>(created.release()));
     buildBars();
+    const std::unique_ptr<ToolBarGadget> docks(m_workbench->build_docking_windows());
+    for (const auto& gadget : docks->items())
+        if (auto* const dock = findChild<QDockWidget*>(QString::fromStdString(gadget->command())))
+            dock->show();
     m_workbench->activated();
     update_commands();
     return true;
@@ -173,6 +181,27 @@ void MainWindow::update_commands()
     m_welcome->refresh();
     GuiApplication::Instance->get_command_manager().update_actions();
     Q_EMIT updated();
+}
+
+void MainWindow::show_messages()
+{
+    showDock("MessageLog");
+}
+
+void MainWindow::show_project_explorer()
+{
+    showDock("ProjectExplorer");
+}
+
+QMenu* MainWindow::createPopupMenu()
+{
+    QMenu* const menu = QMainWindow::createPopupMenu();
+    MenuItem items;
+    if (m_workbench != nullptr)
+        m_workbench->build_context_popup_menu(&items);
+    if (menu != nullptr)
+        fillMenu(*menu, items);
+    return menu;
 }
 
 void MainWindow::save_layout() const
@@ -229,6 +258,13 @@ void MainWindow::addDock(Qt::DockWidgetArea area, const char* name, const QStrin
     addDockWidget(area, dock);
 }
 
+void MainWindow::showDock(const char* name)
+{
+    auto* const dock = findChild<QDockWidget*>(QLatin1String(name));
+    dock->show();
+    dock->raise();
+}
+
 void MainWindow::watchChanges()
 {
     m_update.setSingleShot(true);
@@ -239,10 +275,13 @@ void MainWindow::watchChanges()
     m_connections.emplace_back(application.projectRemoved.connect(later));
     m_connections.emplace_back(application.currentProjectChanged.connect(later));
     // What has come new is what the next command is for.
-    m_connections.emplace_back(vxMsg::MessageProxy::instance().objectCreated.connect(
+    vxMsg::MessageProxy& proxy = vxMsg::MessageProxy::instance();
+    m_connections.emplace_back(proxy.objectCreated.connect(
         [](Obj::ProjectObject& object) { TreeSelectionSingleton::instance().set_selection({}, {&object}); }));
+    m_connections.emplace_back(proxy.projectCreated.connect(
+        [](Obj::Project& project) { TreeSelectionSingleton::instance().set_selection({&project}, {}); }));
     connect(&TreeSelectionSingleton::instance(), &TreeSelectionSingleton::selectionChanged, this, later);
-    connect(&vxMsg::MessageProxy::instance().undoStack(), &QUndoStack::indexChanged, this, later);
+    connect(&proxy.undoStack(), &QUndoStack::indexChanged, this, later);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, later);
     connect(m_area, &QMdiArea::subWindowActivated, this, later);
 }
@@ -261,7 +300,9 @@ void MainWindow::buildBars()
         for (const auto& gadget : root->items()) {
             const QString title = QCoreApplication::translate("Workbench", gadget->command().c_str());
             auto* const bar = new QToolBar(title, this);
-            bar->setObjectName(QString::fromStdString(gadget->command()));
+            // By these names the layout is kept: a bar above and one below of the same title are two.
+            bar->setObjectName(QLatin1String(area == Qt::BottomToolBarArea ? "Bottom" : "") +
+                               QString::fromStdString(gadget->command()));
             fillToolBar(*bar, *gadget);
             addToolBar(area, bar);
             bar->setVisible(!bar->actions().isEmpty());

@@ -63,6 +63,14 @@ public:
     PropertyPanel& get_property_panel() const { return *m_properties; }
     MessageLogView& get_message_log() const { return *m_log; }
 
+    /// Shows the message log, also when the user has hidden it, in front of what it is tabbed with; the same of the project
+    /// explorer. For what the user must see.
+    void show_messages();
+    void show_project_explorer();
+
+    /// What the context menu of bars and docks offers: to show and hide them, and what the workbench adds.
+    QMenu* createPopupMenu() override;
+
     /// Keeps place and size of the window and its docks in the settings, and takes them from there.
     void save_layout() const;
     void restore_layout();
@@ -85,6 +93,7 @@ protected:
 
 private:
     void createDocks();
+    void showDock(const char* name);
     void addDock(Qt::DockWidgetArea area, const char* name, const QString& title, QWidget* content);
     void watchChanges();
     void buildBars();

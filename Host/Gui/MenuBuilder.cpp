@@ -8,6 +8,8 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include <memory>
+
 namespace Gui {
 
 namespace {
@@ -25,7 +27,11 @@ QAction* actionOf(const std::string& commandName)
     return action;
 }
 
+template <typename Widget, typename Tree>
+QAction* actionOfItem(Widget& widget, const Tree& item);
+
 /// Separators stand between commands, never at the ends or side by side.
+// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 template <typename Widget, typename Tree>
 void addCommands(Widget& widget, const Tree& items)
 {
@@ -35,7 +41,7 @@ void addCommands(Widget& widget, const Tree& items)
             separatorIsDue = !widget.actions().isEmpty();
             continue;
         }
-        QAction* const action = actionOf(item->command());
+        QAction* const action = actionOfItem(widget, *item);
         if (action == nullptr)
             continue;
         if (separatorIsDue)
@@ -43,6 +49,18 @@ void addCommands(Widget& widget, const Tree& items)
         separatorIsDue = false;
         widget.addAction(action);
     }
+}
+
+/// Null for a command that there is not, and for a menu without commands.
+// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
+template <typename Widget, typename Tree>
+QAction* actionOfItem(Widget& widget, const Tree& item)
+{
+    if (!item.has_items())
+        return actionOf(item.command());
+    auto menu = std::make_unique<QMenu>(QCoreApplication::translate("Workbench", item.command().c_str()), &widget);
+    addCommands(*menu, item);
+    return menu->isEmpty() ? nullptr : menu.release()->menuAction();
 }
 
 } // namespace
@@ -69,6 +87,7 @@ void fillMenuBar(QMenuBar& bar, const MenuItem& menus)
 void fillToolBar(QToolBar& bar, const ToolBarGadget& items)
 {
     bar.clear();
+    qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     addCommands(bar, items);
 }
 

@@ -4,11 +4,12 @@
 
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
+#include "Gui/MainWindow.h"
+#include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
-#include "vxMsg/MessageProxy.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -58,9 +59,6 @@ ProjectExplorer::ProjectExplorer(QWidget* parent) : QTreeView(parent)
     });
     connect(&TreeSelectionSingleton::instance(), &TreeSelectionSingleton::selectionChanged, this,
             &ProjectExplorer::showSelection);
-    // What the user has just made is what comes next.
-    m_objectCreated = vxMsg::MessageProxy::instance().objectCreated.connect(
-        [](Obj::ProjectObject& object) { TreeSelectionSingleton::instance().set_selection({}, {&object}); });
 }
 
 ProjectExplorer::~ProjectExplorer() = default;
@@ -172,6 +170,9 @@ void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
     } else {
         items << "Mat_NewDoc";
     }
+    const MainWindow* const mainWindow = MainWindow::get_main_window_inst();
+    if (mainWindow != nullptr && mainWindow->get_workbench() != nullptr)
+        mainWindow->get_workbench()->build_context_menu("Tree", &items);
     fillMenu(menu, items);
     if (!menu.isEmpty())
         menu.exec(position);

@@ -4,7 +4,6 @@
 #include "Gui/ProjectTreeModel.h"
 
 #include <QTreeView>
-#include <boost/signals2/connection.hpp>
 
 namespace Gui {
 
@@ -42,7 +41,6 @@ private:
     ProjectTreeModel m_model;
     bool m_selecting = false;
     QPersistentModelIndex m_menuIndex;
-    boost::signals2::scoped_connection m_objectCreated;
 };
 
 } // namespace Gui

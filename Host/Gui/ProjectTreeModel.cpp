@@ -52,6 +52,9 @@ std::vector<Block> blocksMissingIn(const std::vector<std::uint32_t>& ids, const 
 /// A picture with a dot in its corner that tells the state.
 QIcon makeIcon(const QString& pixmapName, const QColor& dot)
 {
+    // A node without a picture is no mistake.
+    if (pixmapName.isEmpty())
+        return {};
     QPixmap pixmap = PictureFactory::get_pixmap(pixmapName, iconSize);
     if (dot.isValid()) {
         QPainter painter(&pixmap);

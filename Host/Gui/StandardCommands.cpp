@@ -32,6 +32,28 @@ std::vector<Obj::ProjectObject*> selectedObjects()
     return TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
 }
 
+/// Where an object is found again: those who hear of one change may delete what comes next.
+struct Place
+{
+    std::uint32_t projectId;
+    std::uint32_t objectId;
+};
+
+std::vector<Place> placesOf(const std::vector<Obj::ProjectObject*>& objects)
+{
+    std::vector<Place> places;
+    for (const Obj::ProjectObject* const object : objects)
+        places.push_back({object->get_project()->getProjectId(), object->getObjectId()});
+    return places;
+}
+
+/// Null when the object has gone.
+Obj::ProjectObject* find(const Place& place)
+{
+    const Obj::Project* const project = Obj::Application::instance().get_project(place.projectId);
+    return project != nullptr ? project->get_object(place.objectId) : nullptr;
+}
+
 MainWindow* mainWindow()
 {
     return MainWindow::get_main_window_inst();
@@ -72,24 +94,36 @@ void paste()
 
 void duplicate()
 {
-    std::vector<Obj::ProjectObject*> copies;
-    for (Obj::ProjectObject* const object : selectedObjects())
-        for (Obj::ProjectObject* const made :
-             ObjectClipboard::read(ObjectClipboard::write({object}), *object->get_project()))
-            copies.push_back(made);
-    selectAlone(copies);
+    std::vector<Place> copies;
+    for (const Place& place : placesOf(selectedObjects())) {
+        Obj::ProjectObject* const object = find(place);
+        if (object == nullptr)
+            continue;
+        const auto made = placesOf(ObjectClipboard::read(ObjectClipboard::write({object}), *object->get_project()));
+        copies.insert(copies.end(), made.begin(), made.end());
+    }
+    std::vector<Obj::ProjectObject*> left;
+    for (const Place& place : copies)
+        if (Obj::ProjectObject* const object = find(place))
+            left.push_back(object);
+    selectAlone(left);
+}
+
+void setSelectedSuppressed(bool suppressed)
+{
+    for (const Place& place : placesOf(selectedObjects()))
+        if (Obj::ProjectObject* const object = find(place))
+            setSuppressed(*object, suppressed);
 }
 
 void suppress()
 {
-    for (Obj::ProjectObject* const object : selectedObjects())
-        setSuppressed(*object, true);
+    setSelectedSuppressed(true);
 }
 
 void unsuppress()
 {
-    for (Obj::ProjectObject* const object : selectedObjects())
-        setSuppressed(*object, false);
+    setSelectedSuppressed(false);
 }
 
 bool canSuppress()
@@ -106,6 +140,8 @@ bool canUnsuppress()
 
 void rename()
 {
+    // The name is edited in the tree.
+    mainWindow()->show_project_explorer();
     mainWindow()->get_project_explorer().renameSelected();
 }
 
@@ -177,7 +213,7 @@ const Row rows[] = {
      QT_TRANSLATE_NOOP("StandardCommand", "Add the copied materials to the project"), "kelta_paste",
      QKeySequence::Paste, "", onTree, paste,
      [] { return Obj::Application::get_current_project() != nullptr && ObjectClipboard::holds_objects(); }},
-    {"Std_DuplicateSelection", QT_TRANSLATE_NOOP("StandardCommand", "D&uplicate"),
+    {"Std_DuplicateSelection", QT_TRANSLATE_NOOP("StandardCommand", "Dup&licate"),
      QT_TRANSLATE_NOOP("StandardCommand", "Add a copy of each selected material"), "", noKey, "Ctrl+D", onTree,
      duplicate, [] { return !selectedObjects().empty(); }},
     {"Std_Suppress", QT_TRANSLATE_NOOP("StandardCommand", "&Suppress"),
@@ -188,7 +224,9 @@ const Row rows[] = {
      unsuppress, canUnsuppress},
     {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
      QT_TRANSLATE_NOOP("StandardCommand", "Give the selected material another label"), "", noKey, "F2", onTree, rename,
-     [] { return selectedObjects().size() == 1 && hasWindow(); }},
+     [] {
+         return TreeSelectionSingleton::instance().get_count() == 1 && selectedObjects().size() == 1 && hasWindow();
+     }},
     {"Std_SelectAll", QT_TRANSLATE_NOOP("StandardCommand", "Select &all"),
      QT_TRANSLATE_NOOP("StandardCommand", "Select all materials of the project"), "", QKeySequence::SelectAll, "",
      onTree, selectAll,

@@ -67,21 +67,23 @@ void StdSimModule::deactivated() {}
 
 MenuItem* StdSimModule::build_menu_bar() const
 {
-    return makeTree<MenuItem>({
-                                  {"&File",
-                                   {"Mat_NewDoc", "Std_Open", "Std_OpenRecent", "Separator", "Std_Save", "Std_SaveAs",
-                                    "Separator", "Std_ImportDocument", "Separator", "Mat_DelDoc", "Std_Quit"}},
-                                  {"&Edit",
-                                   {"Std_Undo", "Std_Redo", "Separator", "Std_Copy", "Std_Paste",
-                                    "Std_DuplicateSelection", "Mat_Delete", "Separator", "Std_SelectAll", "Std_Rename",
-                                    "Separator", "Std_Suppress", "Std_Unsuppress"}},
-                                  {"&Project", {"Mat_AddMaterial", "Mat_Edit", "Separator", "Mat_Import"}},
-                                  {"&View", {"Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog"}},
-                                  {"&Windows",
-                                   {"Std_TabWindows", "Std_TileWindows", "Std_CascadeWindows", "Separator",
-                                    "Std_CloseWindow", "Std_CloseAllWindows"}},
-                                  {"&Help", {"Std_About"}},
-                              })
+    return makeTree<MenuItem>(
+               {
+                   {"&File",
+                    {"Mat_NewDoc", "Std_Open", "Std_OpenRecent", "Separator", "Std_Save", "Std_SaveAs", "Separator",
+                     "Std_ImportDocument", "Separator", "Mat_DelDoc", "Std_Quit"}},
+                   {"&Edit",
+                    {"Std_Undo", "Std_Redo", "Separator", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
+                     "Mat_Delete", "Separator", "Std_SelectAll", "Std_Rename", "Separator", "Std_Suppress",
+                     "Std_Unsuppress"}},
+                   {"&Project", {"Mat_AddMaterial", "Mat_Edit", "Separator", "Mat_Import"}},
+                   {"&View",
+                    {"Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "Separator", "Std_ClearMessages"}},
+                   {"&Windows",
+                    {"Std_TabWindows", "Std_TileWindows", "Std_CascadeWindows", "Separator", "Std_CloseWindow",
+                     "Std_CloseAllWindows"}},
+                   {"&Help", {"Std_About"}},
+               })
         .release();
 }
 

@@ -19,7 +19,8 @@ public:
     Kelta::TypeInfo getTypeId() const override;
     static void init();
 
-    /// Adds to the context menu of a part of the window: "Tree" or "View".
+    /// Adds to the context menu of a part of the window: "Tree", which the project explorer asks for, or "View", for
+    /// documents that ask for it.
     virtual void build_context_menu(const char* recipient, MenuItem* menu) const;
     /// Adds to the context menu of the main window's own bars.
     virtual void build_context_popup_menu(MenuItem* menu) const;
@@ -31,7 +32,8 @@ public:
     virtual ToolBarGadget* build_toolbars() const;
     /// The bars of the message log.
     virtual ToolBarGadget* build_message_bars() const;
-    /// The names of the docking windows that the workbench wants to see, as children of the root.
+    /// The names of the docking windows that the workbench wants to see, as children of the root. They are shown when it
+    /// becomes the active one; a layout that is restored afterwards has the last word.
     virtual ToolBarGadget* build_docking_windows() const;
 
 private:

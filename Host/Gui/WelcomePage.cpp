@@ -11,6 +11,24 @@
 
 namespace Gui {
 
+namespace {
+
+/// What can be done at one step; the first command of a step has the keyboard.
+struct Offer
+{
+    const char* command;
+    int step;
+};
+
+constexpr Offer offers[] = {{"Mat_NewDoc", 0}, {"Std_Open", 0}, {"Mat_AddMaterial", 1}, {"Mat_Edit", 2}};
+
+Command* findCommand(const char* name)
+{
+    return GuiApplication::Instance->get_command_manager().find_command(name);
+}
+
+} // namespace
+
 WelcomePage::WelcomePage(QWidget* parent) : QWidget(parent), m_title(new QLabel(this)), m_text(new QLabel(this))
 {
     setObjectName(QStringLiteral("welcomePage"));
@@ -28,8 +46,8 @@ WelcomePage::WelcomePage(QWidget* parent) : QWidget(parent), m_title(new QLabel(
     layout->addSpacing(12);
     auto* const buttons = new QHBoxLayout;
     buttons->addStretch();
-    for (const char* commandName : {"Mat_NewDoc", "Mat_AddMaterial", "Mat_Edit"}) {
-        addButton(commandName);
+    for (const Offer& offer : offers) {
+        addButton(offer.command);
         buttons->addWidget(m_buttons.last());
     }
     buttons->addStretch();
@@ -45,21 +63,27 @@ void WelcomePage::refresh()
     int step = 0;
     if (project != nullptr)
         step = project->get_object_count() == 0 ? 1 : 2;
-    const QString titles[] = {tr("No project is open"), tr("The project has no materials yet"),
-                              tr("No material is open")};
+    const bool canBegin = findCommand("Mat_NewDoc") != nullptr;
+    const bool canOpen = findCommand("Std_Open") != nullptr;
+    const QString titles[] = {canBegin ? tr("No project is open") : tr("The materials module is missing"),
+                              tr("The project has no materials yet"), tr("No material is open")};
+    const QString beginning =
+        canOpen ? tr("A material project holds the materials of a model. Begin with a new one, or open a saved one.")
+                : tr("A material project holds the materials of a model. Begin with a new one.");
     const QString texts[] = {
-        tr("A material project holds the materials of a model. Begin with a new one."),
+        canBegin ? beginning : tr("The messages tell why it could not be loaded."),
         tr("Add a material; it begins as structural steel, and the editor offers 25 others and every quantity."),
         tr("Double-click a material in the project explorer, or select one and choose Edit.")};
     m_title->setText(titles[step]);
     m_text->setText(texts[step]);
+    setFocusProxy(nullptr);
     for (int i = 0; i < m_buttons.size(); ++i) {
-        Command* const command =
-            GuiApplication::Instance->get_command_manager().find_command(m_buttons[i]->objectName().toStdString());
-        m_buttons[i]->setVisible(command != nullptr && i == step);
+        const Command* const command = findCommand(offers[i].command);
+        const bool isOffered = command != nullptr && offers[i].step == step;
+        m_buttons[i]->setVisible(isOffered);
         if (command != nullptr)
             m_buttons[i]->setText(command->get_menu_info());
-        if (i == step)
+        if (isOffered && focusProxy() == nullptr)
             setFocusProxy(m_buttons[i]);
     }
     // The command itself would do nothing then, and say nothing.

@@ -125,6 +125,7 @@ bool MessageProxy::newProject(const std::string& name)
         return false;
     pushDone(std::make_unique<ProjectCommand>(tr("New project \"%1\"").arg(QString::fromUtf8(project->get_name())),
                                               *project));
+    projectCreated(*project);
     return true;
 }
 

@@ -98,6 +98,8 @@ public:
     /// A request has made an object, which stands in its project: the application may give it content. Not sent when
     /// undo or redo bring an object back.
     Obj::Signal<void(Obj::ProjectObject&)> objectCreated;
+    /// A request has made a new project. Not sent for one that is opened, nor when undo or redo bring one back.
+    Obj::Signal<void(Obj::Project&)> projectCreated;
     /// A project is to be closed on request; who sets `refused` keeps it open.
     Obj::Signal<void(Obj::Project&, bool& refused)> projectClosing;
 

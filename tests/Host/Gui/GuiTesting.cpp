@@ -2,6 +2,8 @@
 
 #include <QMenu>
 
+#include <initializer_list>
+
 namespace vxtest {
 
 void TestProject::init()
@@ -83,12 +85,74 @@ void TestCommand::activated(int index)
         m_action();
 }
 
+void TestWorkbench::init()
+{
+    initSubclass(type, "Test::Workbench", "Gui::StdSimModule",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestWorkbench); });
+}
+
+namespace {
+
+/// A menu or bar of this text and these commands.
+template <typename Item>
+Item* makeItem(const char* text, std::initializer_list<const char*> itemCommands)
+{
+    auto item = std::make_unique<Item>();
+    item->set_command(text);
+    for (const char* const command : itemCommands)
+        *item << command;
+    return item.release();
+}
+
+} // namespace
+
+Gui::MenuItem* TestWorkbench::build_menu_bar() const
+{
+    auto root = std::make_unique<Gui::MenuItem>();
+    Gui::MenuItem* const test = makeItem<Gui::MenuItem>("&Test", {"Std_Copy", "Separator"});
+    *test << makeItem<Gui::MenuItem>("&More", {"Std_Undo", "Separator", "Std_Redo"});
+    Gui::MenuItem* const empty = makeItem<Gui::MenuItem>("&Empty", {"No_Such"});
+    *empty << makeItem<Gui::MenuItem>("Empty &too", {"Separator"});
+    *test << "Separator" << empty;
+    *root << test;
+    return root.release();
+}
+
+Gui::ToolBarGadget* TestWorkbench::build_toolbars() const
+{
+    auto root = std::make_unique<Gui::ToolBarGadget>();
+    Gui::ToolBarGadget* const test = makeItem<Gui::ToolBarGadget>("Test", {"Std_Copy"});
+    *test << makeItem<Gui::ToolBarGadget>("&More", {"Std_Undo"});
+    *root << test << makeItem<Gui::ToolBarGadget>("Messages", {"Std_Paste"});
+    return root.release();
+}
+
+void TestWorkbench::build_context_menu(const char* recipient, Gui::MenuItem* menu) const
+{
+    if (std::string(recipient) == "Tree")
+        *menu << "Std_SelectAll";
+}
+
+void TestWorkbench::build_context_popup_menu(Gui::MenuItem* menu) const
+{
+    *menu << "Std_About";
+}
+
+Gui::ToolBarGadget* TestWorkbench::build_docking_windows() const
+{
+    auto root = std::make_unique<Gui::ToolBarGadget>();
+    *root << "MessageLog"
+          << "NoSuchDock";
+    return root.release();
+}
+
 Host::Host()
 {
     TestProject::init();
     TestObject::init();
     TestNode::init();
     TestProjectNode::init();
+    TestWorkbench::init();
     window = std::make_unique<Gui::MainWindow>();
     window->set_workbench("Gui::StdSimModule");
     window->show();

@@ -10,6 +10,7 @@
 #include "Gui/MainWindow.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/PropertyPanel.h"
+#include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Kelta/MessageLog.h"
@@ -79,6 +80,8 @@ public:
     void build_context_menu(QMenu* menu, QObject* receiver, const char* slot) override;
 
     Obj::PropertyColor color;
+    void leaveOutPicture() { pixmapName = ""; }
+
     int opened = 0;
     std::vector<int> editModes;
     std::vector<const Obj::Property*> changes;
@@ -116,6 +119,29 @@ public:
 
 private:
     std::function<void()> m_action;
+};
+
+/// A workbench that uses all that one can say. What it is asked for is counted over all of its kind.
+class TestWorkbench final : public Gui::StdSimModule
+{
+public:
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+    /// "&Test" with "Std_Copy", a menu "&More" and two menus without commands, one in the other.
+    Gui::MenuItem* build_menu_bar() const override;
+    /// "Test" with "Std_Copy" and a menu "&More".
+    Gui::ToolBarGadget* build_toolbars() const override;
+    void build_context_menu(const char* recipient, Gui::MenuItem* menu) const override;
+    void build_context_popup_menu(Gui::MenuItem* menu) const override;
+    Gui::ToolBarGadget* build_docking_windows() const override;
+    void activated() override { ++activations; }
+    void deactivated() override { ++deactivations; }
+
+    static inline int activations = 0;
+    static inline int deactivations = 0;
+
+private:
+    static inline Kelta::TypeInfo type;
 };
 
 /// A test with a main window and the standard workbench.

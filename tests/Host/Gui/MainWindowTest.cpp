@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSettings>
 #include <QTabBar>
 #include <QToolBar>
 
@@ -175,6 +176,113 @@ TEST_F(MainWindowTest, BuildsItsBarsAnewWithoutKeepingOldOnes)
     EXPECT_EQ(window->findChildren<QToolBar*>().size(), bars);
     EXPECT_EQ(window->menuBar()->actions().size(), menus);
     EXPECT_EQ(window->menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly).size(), menus);
+}
+
+TEST_F(MainWindowTest, KeepsItsLayoutForTheNextStart)
+{
+    const auto dockOf = [this](const char* name) { return window->findChild<QDockWidget*>(QLatin1String(name)); };
+    const auto barOf = [this](const char* name) { return window->findChild<QToolBar*>(QLatin1String(name)); };
+    window->resize(900, 600);
+    dockOf("PropertyPanel")->hide();
+    barOf("Edit")->hide();
+    window->addDockWidget(Qt::RightDockWidgetArea, dockOf("MessageLog"));
+    window->save_layout();
+
+    window.reset();
+    window = std::make_unique<Gui::MainWindow>();
+    window->set_workbench("Gui::StdSimModule");
+    window->restore_layout();
+    window->show();
+    EXPECT_EQ(window->size(), QSize(900, 600));
+    EXPECT_FALSE(dockOf("PropertyPanel")->isVisible());
+    EXPECT_TRUE(dockOf("ProjectExplorer")->isVisible());
+    EXPECT_EQ(window->dockWidgetArea(dockOf("MessageLog")), Qt::RightDockWidgetArea);
+    EXPECT_FALSE(barOf("Edit")->isVisible());
+    EXPECT_TRUE(barOf("BottomMessages")->isVisible());
+}
+
+TEST_F(MainWindowTest, StartsAsItIsWithoutALayoutOfBefore)
+{
+    QSettings().clear();
+    const QSize size = window->size();
+    window->restore_layout();
+    EXPECT_EQ(window->size(), size);
+    EXPECT_TRUE(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->isVisible());
+}
+
+TEST_F(MainWindowTest, TellsWorkbenchesWhenTheyBecomeActiveAndNoLongerAre)
+{
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_EQ(vxtest::TestWorkbench::activations, 1);
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 0);
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_EQ(vxtest::TestWorkbench::activations, 2);
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 1);
+    EXPECT_FALSE(window->set_workbench("No::Such"));
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 1);
+    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_EQ(vxtest::TestWorkbench::activations, 2);
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 2);
+}
+
+TEST_F(MainWindowTest, ShowsTheDocksThatTheWorkbenchWants)
+{
+    auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
+    auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
+    messages->hide();
+    properties->hide();
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(messages->isVisible());
+    EXPECT_FALSE(properties->isVisible());
+}
+
+TEST_F(MainWindowTest, OffersWhatTheWorkbenchAddsInTheMenuOfItsBars)
+{
+    const auto offers = [this](const char* command) {
+        const std::unique_ptr<QMenu> menu(window->createPopupMenu());
+        return menu->actions().contains(commands().find_command(command)->action());
+    };
+    EXPECT_FALSE(offers("Std_About"));
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(offers("Std_About"));
+}
+
+TEST_F(MainWindowTest, ShowsTheMessagesInFrontWhateverTheUserDidWithThem)
+{
+    auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
+    messages->hide();
+    window->show_messages();
+    EXPECT_TRUE(messages->isVisible());
+    auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
+    window->tabifyDockWidget(messages, properties);
+    properties->raise();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return messages->visibleRegion().isEmpty(); }));
+    window->show_messages();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !messages->visibleRegion().isEmpty(); }));
+}
+
+TEST_F(MainWindowTest, SelectsAProjectThatTheUserMakes)
+{
+    vxtest::TestProject& other = makeProject("Other");
+    vxtest::TestProject& project = makeProject();
+    addObject(project);
+    Obj::Application::instance().set_current_project(other);
+    vxMsg::MessageProxy::instance().projectCreated(project);
+    EXPECT_THAT(selection().get_projects(), testing::ElementsAre(&project));
+    EXPECT_EQ(selection().get_count(), 1U);
+    EXPECT_EQ(Obj::Application::get_current_project(), &project);
+}
+
+TEST_F(MainWindowTest, SelectsAnObjectThatTheUserMakesOnce)
+{
+    vxtest::TestObject& object = addObject(makeProject());
+    int changes = 0;
+    const auto counting =
+        QObject::connect(&selection(), &Gui::TreeSelectionSingleton::selectionChanged, [&changes] { ++changes; });
+    vxMsg::MessageProxy::instance().objectCreated(object);
+    QObject::disconnect(counting);
+    EXPECT_EQ(changes, 1);
+    EXPECT_TRUE(selection().is_selected(&object, nullptr));
 }
 
 TEST_F(MainWindowTest, StaysOpenWhenClosingIsRefused)

@@ -95,6 +95,13 @@ TEST_F(Explorer, SelectsWhatIsClicked)
     EXPECT_THAT(selectedObjects(), ElementsAre(&second));
 }
 
+TEST_F(Explorer, OffersWhatTheWorkbenchAddsInItsContextMenu)
+{
+    EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
+}
+
 TEST_F(Explorer, MakesTheProjectOfWhatIsSelectedTheCurrentOne)
 {
     makeProject("Other");

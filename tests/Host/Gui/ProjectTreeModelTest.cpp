@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QFont>
+#include <QIcon>
 #include <QSignalSpy>
 
 namespace {
@@ -52,6 +53,17 @@ TEST_F(Tree, ShowsProjectsThatWereOpenBeforeIt)
     const ProjectTreeModel late;
     EXPECT_EQ(late.rowCount({}), 1);
     EXPECT_EQ(late.rowCount(late.indexOf(project)), 1);
+}
+
+TEST_F(Tree, ShowsANodeWithoutAPictureAndSaysNothing)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& object = addObject(project, "A");
+    nodeOf(object).leaveOutPicture();
+    tree.synchronize();
+    const std::size_t messages = Kelta::MessageLog::instance().messages().size();
+    EXPECT_TRUE(tree.indexOf(object).data(Qt::DecorationRole).value<QIcon>().isNull());
+    EXPECT_EQ(Kelta::MessageLog::instance().messages().size(), messages);
 }
 
 TEST_F(Tree, TakesChangesOverWhenTheEventLoopIsIdle)

@@ -1,11 +1,15 @@
 #include "GuiTesting.h"
+#include "Mnemonics.h"
 
 #include "Gui/ObjectClipboard.h"
+#include "Gui/Translator.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 
 namespace {
 
@@ -21,6 +25,12 @@ protected:
     {
         return selection().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
     }
+    /// Presses the keys of a command while the tree has the keyboard.
+    void press(const char* command) const
+    {
+        window->update_commands();
+        QTest::keySequence(&explorer(), commands().find_command(command)->get_shortcut());
+    }
     void addDocument() const { window->add_mdi_window(new Gui::MDIWindow(nullptr, nullptr)); }
 };
 
@@ -33,6 +43,7 @@ TEST_F(StandardCommands, HaveTheirStandardKeys)
     EXPECT_EQ(keyOf("Std_Paste"), QKeySequence(QKeySequence::Paste));
     EXPECT_EQ(keyOf("Std_SelectAll"), QKeySequence(QKeySequence::SelectAll));
     EXPECT_EQ(keyOf("Std_Rename"), QKeySequence(Qt::Key_F2));
+    EXPECT_EQ(keyOf("Std_DuplicateSelection"), QKeySequence(QStringLiteral("Ctrl+D")));
     EXPECT_EQ(keyOf("Std_Quit"), QKeySequence(QStringLiteral("Ctrl+Q")));
     EXPECT_EQ(keyOf("Std_CloseWindow"), QKeySequence(QStringLiteral("Ctrl+W")));
 }
@@ -41,9 +52,14 @@ TEST_F(StandardCommands, HaveDifferentKeysAndMnemonicsInEachMenu)
 {
     std::map<QKeySequence, std::string> users;
     for (const Gui::Command* const command : commands().get_commands()) {
-        if (command->getName().rfind("Std_", 0) != 0 || command->get_shortcut().isEmpty())
+        if (command->get_shortcut().isEmpty())
             continue;
         EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();
+    }
+    for (const char* const language : {"de", "zh_CN", "en"}) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(vxtest::mnemonicClashes(*window->menuBar()), QStringList()) << language;
     }
 }
 
@@ -91,6 +107,8 @@ TEST_F(StandardCommands, SuppressWhatIsSelectedUndoablyInOneStep)
     EXPECT_TRUE(a.isSuppressed());
     EXPECT_TRUE(run("Std_Unsuppress"));
     EXPECT_FALSE(a.isSuppressed() || b.isSuppressed());
+    undoStack().undo();
+    EXPECT_TRUE(a.isSuppressed() && b.isSuppressed() && !c.isSuppressed());
 }
 
 TEST_F(StandardCommands, CopyAndPasteInOneStep)
@@ -171,11 +189,19 @@ TEST_F(StandardCommands, ArrangeTheDocuments)
     const auto* const area = window->findChild<QMdiArea*>();
     addDocument();
     addDocument();
+    const auto overlap = [area] {
+        const QList<QMdiSubWindow*> frames = area->subWindowList();
+        return frames[0]->geometry().intersects(frames[1]->geometry());
+    };
     EXPECT_EQ(area->viewMode(), QMdiArea::TabbedView);
     EXPECT_TRUE(run("Std_TileWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::SubWindowView);
+    EXPECT_FALSE(overlap());
     EXPECT_TRUE(run("Std_CascadeWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::SubWindowView);
+    EXPECT_TRUE(overlap());
+    // Each shows its title.
+    EXPECT_NE(area->subWindowList()[0]->pos(), area->subWindowList()[1]->pos());
     EXPECT_TRUE(run("Std_TabWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::TabbedView);
 }
@@ -189,6 +215,71 @@ TEST_F(StandardCommands, CloseDocuments)
     EXPECT_TRUE(run("Std_CloseAllWindows"));
     EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().isEmpty(); }));
     EXPECT_FALSE(isApplicable("Std_CloseWindow"));
+}
+
+TEST_F(StandardCommands, RunByTheirKeys)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& object = addObject(project, "A");
+    focusExplorer();
+    select({&object});
+    press("Std_Copy");
+    press("Std_Paste");
+    EXPECT_EQ(project.get_object_count(), 2U);
+    press("Std_DuplicateSelection");
+    EXPECT_EQ(project.get_object_count(), 3U);
+    press("Std_Undo");
+    EXPECT_EQ(project.get_object_count(), 2U);
+    press("Std_Undo");
+    EXPECT_EQ(project.get_object_count(), 1U);
+    press("Std_Redo");
+    EXPECT_EQ(project.get_object_count(), 2U);
+    press("Std_SelectAll");
+    EXPECT_THAT(selected(), SizeIs(2));
+    addDocument();
+    press("Std_CloseWindow");
+    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+}
+
+TEST_F(StandardCommands, RenameOneObjectAlone)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& a = addObject(project, "A");
+    vxtest::TestObject& b = addObject(project, "B");
+    select({&a});
+    EXPECT_TRUE(isApplicable("Std_Rename"));
+    select({&a, &b});
+    EXPECT_FALSE(isApplicable("Std_Rename"));
+    selection().set_selection({&project}, {&a});
+    EXPECT_FALSE(isApplicable("Std_Rename"));
+    selection().set_selection({&project}, {});
+    EXPECT_FALSE(isApplicable("Std_Rename"));
+}
+
+TEST_F(StandardCommands, RenameInTheTreeAlsoWhenItIsHidden)
+{
+    select({&addObject(makeProject(), "A")});
+    auto* const dock = window->findChild<QDockWidget*>(QStringLiteral("ProjectExplorer"));
+    dock->hide();
+    EXPECT_TRUE(run("Std_Rename"));
+    EXPECT_TRUE(dock->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return explorer().viewport()->findChild<QLineEdit*>() != nullptr; }));
+}
+
+TEST_F(StandardCommands, DuplicatePassesOverWhatGoesBecauseOfIt)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& a = addObject(project, "A");
+    vxtest::TestObject& b = addObject(project, "B");
+    select({&a, &b});
+    bool isFirst = true;
+    const boost::signals2::scoped_connection connection = project.objectAdded.connect([&](Obj::ProjectObject&) {
+        if (std::exchange(isFirst, false))
+            vxMsg::MessageProxy::instance().deleteObject(project.get_name(), b.get_name_in_project());
+    });
+    EXPECT_TRUE(run("Std_DuplicateSelection"));
+    ASSERT_THAT(project.get_objects(), SizeIs(2));
+    EXPECT_THAT(selected(), ElementsAre(project.get_objects()[1]));
 }
 
 TEST_F(StandardCommands, Quit)

@@ -7,6 +7,20 @@
 
 namespace {
 
+using WithoutModule = vxtest::Host;
+
+TEST_F(WithoutModule, TheWelcomePageSaysWhatIsMissing)
+{
+    if (commands().find_command("Mat_NewDoc") != nullptr)
+        GTEST_SKIP() << "another test of this process has brought the commands";
+    window->update_commands();
+    const auto* const page = window->findChild<QWidget*>(QStringLiteral("welcomePage"));
+    EXPECT_EQ(page->findChildren<QLabel*>()[0]->text(), "The materials module is missing");
+    EXPECT_EQ(page->findChildren<QLabel*>()[1]->text(), "The messages tell why it could not be loaded.");
+    for (const QPushButton* const button : page->findChildren<QPushButton*>())
+        EXPECT_FALSE(button->isVisible());
+}
+
 /// The page offers commands that a module brings; here they are small ones.
 class Welcome : public vxtest::Host
 {
@@ -94,6 +108,22 @@ TEST_F(Welcome, OffersTheEditingOfWhatIsSelectedAlone)
     EXPECT_FALSE(button->isEnabled());
     select({project.get_objects()[0]});
     EXPECT_TRUE(QTest::qWaitFor([button] { return button->isEnabled(); }));
+}
+
+// The last one: the command stays in the program.
+TEST_F(Welcome, OffersToOpenAProjectWhereThereIsSuchACommand)
+{
+    ASSERT_TRUE(waitForButton("Mat_NewDoc"));
+    int opened = 0;
+    commands().new_command(new vxtest::TestCommand("Std_Open", [&opened] { ++opened; }));
+    window->update_commands();
+    EXPECT_EQ(visibleButtons(), QStringList({"Mat_NewDoc", "Std_Open"}));
+    EXPECT_EQ(page()->focusProxy()->objectName(), "Mat_NewDoc");
+    EXPECT_TRUE(page()->findChildren<QLabel*>()[1]->text().contains("open a saved one"));
+    click("Std_Open");
+    EXPECT_EQ(opened, 1);
+    makeProject();
+    EXPECT_TRUE(waitForButton("Mat_AddMaterial"));
 }
 
 } // namespace

@@ -310,6 +310,21 @@ TEST_F(MessageProxyTest, TellsOnceOfAnObjectThatARequestMade)
     EXPECT_EQ(made.size(), 1U) << "nobody requested it";
 }
 
+TEST_F(MessageProxyTest, TellsOnceOfAProjectThatARequestMade)
+{
+    std::vector<std::string> made;
+    const boost::signals2::scoped_connection connection = MessageProxy::instance().projectCreated.connect(
+        [&made](const Obj::Project& project) { made.emplace_back(project.get_name()); });
+    EXPECT_TRUE(MessageProxy::instance().newProject("Alloys"));
+    stack().undo();
+    stack().redo();
+    EXPECT_THAT(made, ElementsAre("Alloys"));
+    EXPECT_TRUE(MessageProxy::instance().closeProject("Alloys"));
+    stack().undo();
+    EXPECT_NE(MessageProxy::instance().openProject("Opened", [](Obj::Project&) {}), nullptr);
+    EXPECT_EQ(made.size(), 1U);
+}
+
 TEST_F(MessageProxyTest, DoesWhatIsRequestedThoughAListenerFails)
 {
     const boost::signals2::scoped_connection connection = MessageProxy::instance().objectCreated.connect(

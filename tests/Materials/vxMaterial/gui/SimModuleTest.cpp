@@ -1,10 +1,14 @@
 #include "vxMaterial/gui/SimModule.h"
 
+#include "Mnemonics.h"
 #include "VirtualOrder.h"
 #include "WorkbenchTesting.h"
 
+#include "Gui/Translator.h"
+
 #include <QMenuBar>
 #include <QMetaMethod>
+#include <QRegularExpression>
 #include <QToolBar>
 
 namespace {
@@ -110,10 +114,25 @@ TEST_F(SimModuleTest, ShowsItsMenuAndToolbarsInTheMainWindow)
         menus << action->text();
     EXPECT_EQ(menus.indexOf("&Material") + 1, menus.indexOf("&Windows"));
     EXPECT_GE(menus.indexOf("&Material"), 0);
-    const auto bars = window->findChildren<QToolBar*>(QStringLiteral("Material"));
+    const auto bars = window->findChildren<QToolBar*>(QRegularExpression(QStringLiteral("^(Bottom)?Material$")));
     ASSERT_EQ(bars.size(), 2);
     EXPECT_EQ(window->toolBarArea(bars[0]), Qt::TopToolBarArea);
     EXPECT_EQ(window->toolBarArea(bars[1]), Qt::BottomToolBarArea);
+}
+
+TEST_F(SimModuleTest, HasDifferentKeysAndMnemonicsInEachMenu)
+{
+    std::map<QKeySequence, std::string> users;
+    for (const Gui::Command* const command : Gui::GuiApplication::Instance->get_command_manager().get_commands()) {
+        if (command->get_shortcut().isEmpty())
+            continue;
+        EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();
+    }
+    for (const char* const language : {"de", "zh_CN", "en"}) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(vxtest::mnemonicClashes(*window->menuBar()), QStringList()) << language;
+    }
 }
 
 TEST_F(SimModuleTest, NeverFindsItsToolbar)

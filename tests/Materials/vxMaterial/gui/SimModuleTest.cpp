@@ -3,18 +3,21 @@
 #include "VirtualOrder.h"
 #include "WorkbenchTesting.h"
 
+#include "Gui/Translator.h"
+
+#include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMetaMethod>
 #include <QToolBar>
+
+#include <map>
 
 namespace {
 
 using MatGui::SimModule;
 using MatGui::WorkbenchHelper;
-using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
-using testing::SizeIs;
 using vxtest::slotOf;
 
 template <typename Item>
@@ -101,6 +104,68 @@ TEST_F(SimModuleTest, BuildsItsTreesAnewEachTime)
     const std::unique_ptr<Gui::MenuItem> second(module.build_menu_bar());
     EXPECT_NE(first, second);
     EXPECT_EQ(childrenOf(*first), childrenOf(*second));
+}
+
+TEST_F(SimModuleTest, SharesNoKeyWithAnotherCommand)
+{
+    std::map<QKeySequence, std::string> users;
+    for (const Gui::Command* const command : commands().get_commands())
+        if (const QKeySequence key = command->get_shortcut(); !key.isEmpty()) {
+            const auto [user, isNew] = users.emplace(key, command->getName());
+            EXPECT_TRUE(isNew) << user->second << " and " << command->getName();
+        }
+    EXPECT_EQ(users[QKeySequence(QKeySequence::Delete)], "Mat_Delete");
+}
+
+/// The letter that chooses an entry by the keyboard; null for none.
+QChar mnemonicOf(const QString& text)
+{
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    return key.isEmpty() ? QChar() : QChar(key[0] & 0xffff);
+}
+
+/// The commands of a menu by their letters, those of its parts included.
+void collectMnemonics(const QMenu& menu, std::multimap<QChar, QString>& users)
+{
+    for (const QAction* const action : menu.actions())
+        if (const QChar letter = mnemonicOf(action->text()); !letter.isNull())
+            users.emplace(letter, action->objectName());
+}
+
+TEST_F(SimModuleTest, SharesNoMnemonicWithAnotherEntryOfAMenuInAnyLanguage)
+{
+    for (const char* const language : {"en", "de", "zh_CN"}) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QCoreApplication::processEvents();
+        int seen = 0;
+        for (const QAction* const top : window->menuBar()->actions()) {
+            std::multimap<QChar, QString> users;
+            collectMnemonics(*top->menu(), users);
+            for (const auto& [letter, name] : users)
+                if (name.startsWith(QLatin1String("Mat_"))) {
+                    ++seen;
+                    EXPECT_EQ(users.count(letter), 1U)
+                        << language << ": " << name.toStdString() << " in " << top->text().toStdString();
+                }
+        }
+        EXPECT_GE(seen, 2) << language << ": new project and delete have one";
+    }
+    Gui::Translator::instance()->setLanguage("en");
+}
+
+TEST_F(SimModuleTest, GivesItsMenuAMnemonicOfItsOwnInEveryLanguage)
+{
+    for (const char* const language : {"en", "de", "zh_CN"}) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QCoreApplication::processEvents();
+        std::map<QChar, QString> users;
+        for (const QAction* const top : window->menuBar()->actions()) {
+            const QChar letter = mnemonicOf(top->text());
+            EXPECT_FALSE(letter.isNull()) << language << ": " << top->text().toStdString();
+            EXPECT_TRUE(users.emplace(letter, top->text()).second) << language << ": " << top->text().toStdString();
+        }
+    }
+    Gui::Translator::instance()->setLanguage("en");
 }
 
 TEST_F(SimModuleTest, ShowsItsMenuAndToolbarsInTheMainWindow)

@@ -9,8 +9,6 @@
 
 namespace {
 
-using testing::IsEmpty;
-
 QString folderOfPlugin()
 {
     return QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath();

@@ -238,6 +238,10 @@
         <source>the reason is not known</source>
         <translation>der Grund ist nicht bekannt</translation>
     </message>
+    <message>
+        <source>The changes of &quot;%1&quot; have not been applied.</source>
+        <translation>Die Änderungen an „%1“ wurden nicht angewendet.</translation>
+    </message>
 </context>
 <context>
     <name>MatGui::SheetTableView</name>

@@ -238,6 +238,10 @@
         <source>the reason is not known</source>
         <translation>原因未知</translation>
     </message>
+    <message>
+        <source>The changes of &quot;%1&quot; have not been applied.</source>
+        <translation>“%1”的更改尚未应用。</translation>
+    </message>
 </context>
 <context>
     <name>MatGui::SheetTableView</name>

@@ -23,12 +23,18 @@ QString quoted(std::string_view text)
     return QLatin1Char('"') + QString::fromUtf8(text.data(), static_cast<int>(text.size())) + QLatin1Char('"');
 }
 
+std::uint64_t nextSerial()
+{
+    static std::uint64_t last = 0;
+    return ++last;
+}
+
 } // namespace
 
 Kelta::TypeInfo Project::classTypeId;
 PropertyCoreData Project::propertyData;
 
-Project::Project() : m_objectsByName(std::make_unique<NameIndex>()) {}
+Project::Project() : m_serial(nextSerial()), m_objectsByName(std::make_unique<NameIndex>()) {}
 
 Project::~Project()
 {
@@ -193,7 +199,7 @@ std::unique_ptr<ProjectObject> Project::take_object(std::uint32_t objectId)
 
 ProjectObject* Project::restore_object(std::unique_ptr<ProjectObject> object)
 {
-    if (object == nullptr || m_objects.count(object->m_objectId) > 0 || object->m_objectId >= m_nextObjectId) {
+    if (object == nullptr || object->m_origin != m_serial) {
         Kelta::MessageLog::error(
             QStringLiteral("What is to come back to the project %1 has not come from it.").arg(quoted(m_name)));
         return nullptr;
@@ -261,6 +267,7 @@ std::unique_ptr<ProjectObject> Project::createObject(const char* className) cons
 
 ProjectObject* Project::insertNew(std::unique_ptr<ProjectObject> object, std::string name, std::uint32_t objectId)
 {
+    object->m_origin = m_serial;
     object->m_objectId = objectId;
     object->m_name = std::move(name);
     object->id.setValue(objectId);

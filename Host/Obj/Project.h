@@ -128,6 +128,8 @@ private:
     static Kelta::TypeInfo classTypeId;
     static PropertyCoreData propertyData;
 
+    /// Tells projects apart also after their end, when another one may stand at the same place in memory.
+    std::uint64_t m_serial;
     std::uint32_t m_projectId = 0;
     std::string m_name;
     // Ids grow, so that inserting at the end is the rule, which a map does in constant time.

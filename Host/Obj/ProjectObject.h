@@ -112,6 +112,7 @@ private:
 
     Project* m_project = nullptr;
     std::uint32_t m_objectId = 0;
+    std::uint64_t m_origin = 0; ///< the serial of the project that made it, also while it is away
     std::string m_name;
     std::vector<Link> m_links;
     eVXObjectState m_state = eVXObjectState::Initial;

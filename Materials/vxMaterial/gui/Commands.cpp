@@ -131,19 +131,34 @@ private:
     Gui::MainWindow* m_window;
 };
 
-void deleteEntries(const Obj::Project& project, const std::vector<Gui::CSelectionType>& entries)
+void deleteEntries(const std::vector<Gui::CSelectionType>& entries)
 {
-    Gui::GuiProject* const guiProject = Gui::GuiApplication::Instance->get_project(&project);
     const UpdatesOff quiet;
     for (const Gui::CSelectionType& entry : entries) {
-        // Deleting one entry may have taken another with it.
+        // Deleting one entry may have taken another with it, or the whole project.
         Obj::ProjectObject* const object = entry.get_object();
-        if (object == nullptr || isProtected(*object) || guiProject == nullptr)
+        if (object == nullptr || isProtected(*object))
             continue;
-        Gui::ViewFeeder* const node = guiProject->get_view_feeder(object);
+        Gui::GuiProject* const guiProject = Gui::GuiApplication::Instance->get_project(object->get_project());
+        Gui::ViewFeeder* const node = guiProject != nullptr ? guiProject->get_view_feeder(object) : nullptr;
         if (node != nullptr && node->onDelete(entry.get_subelement_names()))
             vxMsg::doCommand(vxMsg::MessageData(3, entry.get_project_name(), entry.get_object_name(), 0.0));
     }
+}
+
+bool isOpen(std::uint32_t projectId)
+{
+    return Obj::Application::instance().get_project(projectId) != nullptr;
+}
+
+/// The project that is to be exported, the only one of materials; null when there is none or several.
+Mat::DocumentMaterial* findProjectToExport()
+{
+    const std::vector<Obj::Project*> projects = Obj::Application::get_projects(materialProjectTag);
+    // Other modules may use the tag for projects of their own.
+    const bool isOne =
+        projects.size() == 1 && projects.front()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId());
+    return isOne ? static_cast<Mat::DocumentMaterial*>(projects.front()) : nullptr;
 }
 
 } // namespace
@@ -240,11 +255,18 @@ const char* MatCmdDelete::get_class_name() const
 
 void MatCmdDelete::activated(int)
 {
-    for (const Obj::Project* const project : Obj::Application::get_projects()) {
+    std::vector<std::uint32_t> projectIds;
+    for (const Obj::Project* const project : Obj::Application::get_projects())
+        projectIds.push_back(project->getProjectId());
+    for (const std::uint32_t projectId : projectIds) {
+        // Projects may go while the user is asked about another one, or about this one.
+        const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
+        if (project == nullptr)
+            continue;
         const auto entries = Gui::TreeSelectionSingleton::instance().get_selection2(
             project->get_name(), Obj::ProjectObject::getClassTypeId());
-        if (!entries.empty() && mayDelete(entries))
-            deleteEntries(*project, entries);
+        if (!entries.empty() && mayDelete(entries) && isOpen(projectId))
+            deleteEntries(entries);
     }
 }
 
@@ -295,8 +317,11 @@ void CmdMatImport::activated(int)
                                          translated("All (*)"), &selectedFilter);
     if (path.isEmpty())
         return;
-    Obj::ProjectObject* const added =
-        Obj::Application::get_current_project()->add_object("Mat::MaterialObject", get_unique_object_name("Material"));
+    // The project may have gone while the user was asked.
+    Obj::Project* const project = Obj::Application::get_current_project();
+    if (project == nullptr)
+        return;
+    Obj::ProjectObject* const added = project->add_object("Mat::MaterialObject", get_unique_object_name("Material"));
     auto* const object = dynamic_cast<Mat::MaterialObject*>(added);
     if (object == nullptr)
         return;
@@ -320,15 +345,19 @@ const char* CmdMatExport::get_class_name() const
 
 void CmdMatExport::activated(int)
 {
-    const std::vector<Obj::Project*> projects = Obj::Application::get_projects(materialProjectTag);
-    if (projects.size() != 1)
+    const Mat::DocumentMaterial* const chosen = findProjectToExport();
+    if (chosen == nullptr)
         return;
+    const std::uint32_t projectId = chosen->getProjectId();
     QString selectedFilter;
     const QString filter = translated("JSON file(*.json)") + QStringLiteral(";;") + QStringLiteral("All files(*.*)");
     const QString path = Gui::FileDialog::getSaveFileName(
         Gui::MainWindow::get_main_window_inst(), translated("Export materials"), QString(), filter, &selectedFilter);
-    if (!path.isEmpty())
-        static_cast<Mat::DocumentMaterial*>(projects.front())->exportToFile(path.toStdString(), '\t', '"', '\\');
+    if (path.isEmpty())
+        return;
+    // It may have gone while the user was asked.
+    if (Obj::Project* const project = Obj::Application::instance().get_project(projectId))
+        static_cast<Mat::DocumentMaterial*>(project)->exportToFile(path.toStdString(), '\t', '"', '\\');
 }
 
 bool CmdMatExport::is_applicable()

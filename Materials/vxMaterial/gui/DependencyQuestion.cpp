@@ -39,7 +39,8 @@ bool askAboutDependencies(QWidget* parent)
                       QCoreApplication::translate("Mat_Delete", "This object is linked to other objects thus these "
                                                                 "objects might be broken.\nDo you want to continue?"),
                       QMessageBox::Yes, parent);
-    // No is named as the default without being offered, so no button has the keyboard's Return.
+    // No is named as the default without being offered, so no button is marked as the default. Return confirms all the
+    // same: a dialog gives it to the button that has the keyboard, and there is only Yes.
     question.setDefaultButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }

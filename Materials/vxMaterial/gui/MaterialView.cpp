@@ -11,11 +11,17 @@
 #include "vxMaterial/project/MessageBox.h"
 
 #include <QAbstractButton>
+#include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSignalBlocker>
 
 #include <exception>
+#include <utility>
 
 namespace MatGui {
 
@@ -38,6 +44,19 @@ bool guarded(const Action& action)
         report(MaterialView::tr("the reason is not known"));
     }
     return false;
+}
+
+/// The windows that are to close and whose changes are not applied.
+struct Closing
+{
+    QPointer<MaterialView> asked; ///< whose question is open
+    std::vector<QPointer<MaterialView>> waiting;
+};
+
+Closing& closingWindows()
+{
+    static Closing windows;
+    return windows;
 }
 
 void closeCurrentWindow()
@@ -327,6 +346,8 @@ void MaterialView::on_btnOK_clicked()
 
 void MaterialView::on_btnCancel_clicked()
 {
+    // The button says by itself that the changes are not wanted.
+    const QScopedValueRollback<bool> unasked(m_closesUnasked, true);
     guarded(closeCurrentWindow);
 }
 
@@ -359,12 +380,89 @@ void MaterialView::keyPressEvent(QKeyEvent* event)
 
 bool MaterialView::event(QEvent* event)
 {
-    // A shortcut of the host on this key would come before the key press.
-    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
+    // A shortcut of the host on these keys would come before the key press.
+    if (event->type() == QEvent::ShortcutOverride && keepsFromHost(static_cast<QKeyEvent&>(*event))) {
         event->accept();
         return true;
     }
     return MDIWindow::event(event);
+}
+
+bool MaterialView::keepsFromHost(const QKeyEvent& key) const
+{
+    if (key.key() == Qt::Key_Delete)
+        return true;
+    // Who means a value may take back the creation of the material, and this window with all changes would go.
+    return isWindowModified() && (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
+}
+
+void MaterialView::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    if (m_closesUnasked)
+        return;
+    guarded([this, event] {
+        m_ui->tableView->finishEditing();
+        if (!isWindowModified())
+            return;
+        // The answer comes later: the frame that asks the window to close must not go while it waits.
+        event->ignore();
+        askAboutChanges();
+    });
+}
+
+void MaterialView::askAboutChanges()
+{
+    // When all windows are to close, the user answers for one after the other.
+    Closing& closing = closingWindows();
+    if (closing.asked == nullptr)
+        openQuestion();
+    else if (closing.asked != this)
+        closing.waiting.emplace_back(this);
+}
+
+void MaterialView::openQuestion()
+{
+    const QString text = tr("The changes of \"%1\" have not been applied.");
+    // A child of this window, with which it goes.
+    auto* const question = new QMessageBox(QMessageBox::Question, tr("Material editor"),
+                                           text.arg(QString::fromStdString(m_materialObject->label.getValue())),
+                                           QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question->setTextFormat(Qt::PlainText);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setDefaultButton(QMessageBox::Apply);
+    connect(question, &QDialog::finished, this, &MaterialView::answerQuestion, Qt::QueuedConnection);
+    closingWindows() = {this, {}};
+    question->open();
+}
+
+void MaterialView::answerQuestion(int answer)
+{
+    guarded([this, answer] {
+        const Closing closing = std::exchange(closingWindows(), {});
+        const bool closes = answer == QMessageBox::Discard || (answer == QMessageBox::Apply && apply());
+        // Whoever keeps one window open wants to look at it, and not to be asked about the next.
+        if (!closes)
+            return;
+        closeUnasked();
+        for (const QPointer<MaterialView>& other : closing.waiting)
+            if (other != nullptr)
+                other->requestClose();
+    });
+}
+
+void MaterialView::closeUnasked()
+{
+    const QScopedValueRollback<bool> unasked(m_closesUnasked, true);
+    requestClose();
+}
+
+void MaterialView::requestClose()
+{
+    if (auto* const frame = qobject_cast<QMdiSubWindow*>(parentWidget()))
+        frame->close();
+    else
+        close();
 }
 
 void MaterialView::changeEvent(QEvent* event)

@@ -33,7 +33,9 @@ namespace MatGui {
 /// The window in which the user gives a material object its material: picked from the library or put together from the
 /// catalogue, and its values edited in the table.
 ///
-/// The table is the working copy. Apply and OK alone write it into the material, wholly or not at all.
+/// The table is the working copy. Apply and OK alone write it into the material, wholly or not at all. Who closes the
+/// window otherwise than by Cancel while changes are not applied is asked what is to become of them, and it stays open
+/// until the answer; it goes without a question with its material.
 class VXMATERIAL_EXPORT MaterialView : public Gui::MDIWindow
 {
     Q_OBJECT
@@ -84,6 +86,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void initUI();
@@ -97,6 +100,12 @@ private:
     QListWidget* buildList(int category) const;
     bool apply();
     void clear();
+    bool keepsFromHost(const QKeyEvent& key) const;
+    void askAboutChanges();
+    void openQuestion();
+    void answerQuestion(int answer);
+    void closeUnasked();
+    void requestClose();
 
     static Kelta::TypeInfo classTypeId;
 
@@ -106,6 +115,7 @@ private:
     std::map<QListWidgetItem*, vxMat::MaterialBase*> m_libraryItems;
     std::map<QListWidgetItem*, vxMat::MaterialProperty*> m_propertyItems;
     std::vector<std::unique_ptr<QListWidgetItem>> m_itemsWithoutPage;
+    bool m_closesUnasked = false;
 };
 
 } // namespace MatGui

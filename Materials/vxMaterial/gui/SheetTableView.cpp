@@ -454,6 +454,14 @@ void SheetTableView::widenColumns()
     resizeRowsToContents();
 }
 
+void SheetTableView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    // A window is often shown small at first, and its names wrapped.
+    if (event->size().width() > event->oldSize().width())
+        widenColumns();
+}
+
 void SheetTableView::showEvent(QShowEvent* event)
 {
     QTableView::showEvent(event);

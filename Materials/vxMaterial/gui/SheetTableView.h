@@ -147,6 +147,7 @@ public Q_SLOTS:
 protected:
     int sizeHintForColumn(int column) const override;
     int sizeHintForRow(int row) const override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -5,6 +5,7 @@
 #include "Gui/PictureFactory.h"
 #include "Obj/Project.h"
 #include "vxMaterial/gui/MaterialView.h"
+#include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
 #include <QAction>
@@ -135,11 +136,15 @@ const Obj::PropertyCoreData* ViewFeederMaterialObject::get_property_data_ref()
 
 MaterialView* ViewFeederMaterialObject::showMaterialView()
 {
-    if (materialView != nullptr)
+    if (isOpen())
         return materialView;
+    materialView = nullptr;
     Mat::MaterialObject* const object = getMaterialObject();
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (object == nullptr || mainWindow == nullptr || Gui::GuiApplication::Instance == nullptr)
+        return nullptr;
+    // Projects of other kinds can have materials too, by import or paste, but no database that the editor could show.
+    if (!object->get_project()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId()))
         return nullptr;
     materialView =
         new MaterialView(Gui::GuiApplication::Instance->get_project(object->get_project()), object, mainWindow);
@@ -160,9 +165,16 @@ void ViewFeederMaterialObject::showLabel(const Mat::MaterialObject& object)
         materialView->setWindowTitle(QString::fromStdString(object.label.getValue()) + QStringLiteral("[*]"));
 }
 
+bool ViewFeederMaterialObject::isOpen() const
+{
+    // A window that the user has closed lives on until the event loop destroys it.
+    const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    return materialView != nullptr && mainWindow != nullptr && mainWindow->get_mdi_windows().contains(materialView);
+}
+
 void ViewFeederMaterialObject::openEditor()
 {
-    if (materialView == nullptr && showMaterialView() != nullptr)
+    if (!isOpen() && showMaterialView() != nullptr)
         materialView->viewAll();
     if (materialView != nullptr)
         Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(materialView);

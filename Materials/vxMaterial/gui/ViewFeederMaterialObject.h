@@ -52,10 +52,12 @@ protected:
     void updateData(const Obj::Property* changed) override;
     const Obj::PropertyCoreData& get_property_data() const override;
     static const Obj::PropertyCoreData* get_property_data_ref();
-    /// The open editor, or a new one in the main window; null when the node shows no material.
+    /// The open editor, or a new one in the main window; null when the node shows no material, or one that is in a
+    /// project of another kind than materials.
     MaterialView* showMaterialView();
 
 private:
+    bool isOpen() const;
     void openEditor();
     void showLabel(const Mat::MaterialObject& object);
 

@@ -79,8 +79,11 @@ Obj::eVXObjectState MaterialObject::check_input()
 }
 
 Obj::ProjectObjectExecReturn* MaterialObject::execute()
-{
-    return new (std::nothrow) Obj::ProjectObjectExecReturn("MaterialObject::execute().", this);
+try {
+    // The text needs memory as the result does.
+    return new Obj::ProjectObjectExecReturn("MaterialObject::execute().", this);
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 void MaterialObject::setCMaterial(const vxMat::MaterialBase* source)

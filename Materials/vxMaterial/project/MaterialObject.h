@@ -7,7 +7,7 @@
 
 #include <boost/any.hpp>
 #include <boost/signals2/connection.hpp>
-#include <boost/signals2/optional_last_value.hpp>
+#include <boost/signals2/last_value.hpp>
 #include <boost/signals2/signal.hpp>
 #include <json/value.h>
 
@@ -84,7 +84,7 @@ private:
     static Obj::PropertyCoreData propertyData;
 
     // What the host's extensions hang on to; nothing in the module uses it.
-    boost::signals2::signal<boost::any(), boost::signals2::optional_last_value<boost::any>> dataRequested;
+    boost::signals2::signal<boost::any(), boost::signals2::last_value<boost::any>> dataRequested;
     std::map<int, int> dataIndices;
 
     int rowCounts = 0;

@@ -1,5 +1,7 @@
 #include "FilesTesting.h"
+#include "Mnemonics.h"
 
+#include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
 
 #include <QAbstractButton>
@@ -7,6 +9,8 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
+
+#include <map>
 
 namespace {
 
@@ -18,6 +22,20 @@ using ProjectFiles = vxtest::Files;
 std::string text(const QStringList& lines)
 {
     return lines.join('\n').toStdString();
+}
+
+TEST_F(ProjectFiles, HaveKeysAndMnemonicsOfTheirOwnInEveryLanguage)
+{
+    std::map<QKeySequence, std::string> users;
+    for (const Gui::Command* const command : Gui::GuiApplication::Instance->get_command_manager().get_commands())
+        if (!command->get_shortcut().isEmpty()) {
+            EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();
+        }
+    for (const char* const language : {"de", "zh_CN", "en"}) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(vxtest::mnemonicClashes(*window->menuBar()), QStringList()) << language;
+    }
 }
 
 TEST_F(ProjectFiles, GiveBackTheSameTreeWithNumbersNamesAndLabels)

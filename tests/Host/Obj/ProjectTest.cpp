@@ -297,14 +297,18 @@ TEST_F(ProjectTest, GivesAnObjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
 TEST_F(ProjectTest, TakesBackOnlyWhatCameFromIt)
 {
     Assembly& other = addAssembly("other");
-    other.addPart("a");
-    other.addPart("b");
+    for (const char* const name : {"a", "b", "c"})
+        other.addPart(name);
     m_assembly.addPart("mine");
+    m_assembly.addPart("away");
+    const std::unique_ptr<ProjectObject> away = m_assembly.take_object(2);
     const vxtest::Reports reports;
     EXPECT_EQ(m_assembly.restore_object(other.take_object(1)), nullptr) << "its id is taken here";
-    EXPECT_EQ(m_assembly.restore_object(other.take_object(2)), nullptr) << "no object has had its id here";
+    EXPECT_EQ(m_assembly.restore_object(other.take_object(2)), nullptr) << "its id is free here";
+    EXPECT_EQ(m_assembly.restore_object(other.take_object(3)), nullptr) << "no object has had its id here";
+    EXPECT_EQ(m_assembly.restore_object(std::make_unique<Part>()), nullptr) << "it has never been in a project";
     EXPECT_EQ(m_assembly.restore_object(nullptr), nullptr);
-    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_EQ(reports.errors(), 5);
     EXPECT_THAT(names(), ElementsAre("mine"));
 }
 

@@ -6,16 +6,25 @@
 
 #include "Gui/FileDialog.h"
 #include "Gui/GuiProject.h"
+#include "Gui/Translator.h"
+#include "vxMaterial/gui/SheetTableView.h"
 
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QPointer>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <json/reader.h>
 
+#include <algorithm>
 #include <functional>
+#include <map>
 #include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -110,6 +119,45 @@ protected:
     {
         return *Obj::Application::instance().create_project("Fem::FemProject", name);
     }
+
+    /// Opens the editor of a material and changes a value in it, without applying that.
+    MatGui::MaterialView& editUnapplied(Mat::MaterialObject& material) const
+    {
+        nodeOf(material).on_double_clicked();
+        MatGui::MaterialView& editor = *activeEditor();
+        QAbstractItemModel& rows = *tableOf(editor).model();
+        EXPECT_TRUE(rows.setData(rows.index(0, MatGui::SheetTableView::Value), QStringLiteral("17")));
+        EXPECT_TRUE(editor.isWindowModified());
+        return editor;
+    }
+
+    static MatGui::SheetTableView& tableOf(const MatGui::MaterialView& editor)
+    {
+        return *editor.findChild<MatGui::SheetTableView*>();
+    }
+
+    /// Whether the editor that a double click opens shows what the material holds.
+    bool showsTheMaterial(Mat::MaterialObject& material) const
+    {
+        nodeOf(material).on_double_clicked();
+        const QAbstractItemModel& rows = *tableOf(*activeEditor()).model();
+        const auto& properties = material.getCMaterial()->properties;
+        bool same = rows.rowCount() == static_cast<int>(properties.size()) && !activeEditor()->isWindowModified();
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            const int id = rows.index(row, MatGui::SheetTableView::Id).data().toInt();
+            const double value = rows.index(row, MatGui::SheetTableView::Value).data().toDouble();
+            same = same && properties.count(id) == 1 && properties.at(id)->value == value;
+        }
+        return same;
+    }
+
+    static std::map<int, double> numbersOf(const Mat::MaterialObject& material)
+    {
+        std::map<int, double> numbers;
+        for (const auto& [id, property] : material.getCMaterial()->properties)
+            numbers[id] = property->value;
+        return numbers;
+    }
 };
 
 TEST_F(Commands, AreRegisteredInTheirOrder)
@@ -152,6 +200,9 @@ TEST_F(Commands, ShowTheirFieldsInTheirActions)
         EXPECT_EQ(action->statusTip(), row.tip);
         EXPECT_EQ(action->whatsThis(), row.whatsThis);
         EXPECT_EQ(action->icon().isNull(), *row.pixmap == '\0');
+        // A picture that is missing would be shown as a grey square.
+        EXPECT_TRUE(*row.pixmap == '\0' ||
+                    QFile::exists(QStringLiteral(":icons/%1.svg").arg(QLatin1String(row.pixmap))));
         EXPECT_EQ(action->shortcut(), row.shortcut);
     }
 }
@@ -265,6 +316,37 @@ TEST_F(Commands, DelDocClosesTheMaterialProjectAmongOtherSelectedOnes)
     EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&analysis));
 }
 
+TEST_F(Commands, DelDocFindsTheSelectedMaterialProjectWhateverTheCurrentOneIs)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Obj::Project& analysis = makeAnalysis();
+    selection().set_selection({&project}, {});
+    Obj::Application::instance().set_current_project(analysis);
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&analysis));
+}
+
+TEST_F(Commands, DelDocDropsUnappliedRowsWithoutAQuestionAndUndoBringsTheMaterialsBackUnchanged)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& first = addMaterial(project, "First");
+    Mat::MaterialObject& second = addMaterial(project, "Second");
+    const auto before = numbersOf(first);
+    editUnapplied(first);
+    editUnapplied(second);
+    selection().set_selection({&project}, {});
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_DelDoc"));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    undoStack().undo();
+    EXPECT_EQ(numbersOf(first), before);
+    EXPECT_EQ(numbersOf(second), before);
+    EXPECT_TRUE(showsTheMaterial(first));
+    EXPECT_TRUE(showsTheMaterial(second));
+}
+
 TEST_F(Commands, DelDocTakesTheOpenEditorsOfTheProjectWithIt)
 {
     Mat::DocumentMaterial& project = makeProject();
@@ -317,6 +399,20 @@ TEST_F(Commands, AddMaterialGoesToTheMaterialProjectWhateverTheCurrentOneIs)
     EXPECT_THAT(analysis.get_objects(), IsEmpty());
 }
 
+TEST_F(Commands, AddMaterialMakesTheNameUniqueInTheMaterialProject)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& taken = addMaterial(project, "Material");
+    makeAnalysis();
+    EXPECT_TRUE(run("Mat_AddMaterial"));
+    ASSERT_THAT(project.get_objects(), SizeIs(2));
+    const Obj::ProjectObject& added = *project.get_objects()[1];
+    EXPECT_STREQ(taken.get_name_in_project(), "Material");
+    EXPECT_STRNE(added.get_name_in_project(), "Material");
+    EXPECT_EQ(project.get_object(added.get_name_in_project()), &added);
+    EXPECT_EQ(added.label.getValue(), added.get_name_in_project());
+}
+
 TEST_F(Commands, AddMaterialGoesToTheFirstOfTwoMaterialProjects)
 {
     Mat::DocumentMaterial& first = makeProject("First");
@@ -347,6 +443,16 @@ TEST_F(Commands, EditOpensTheEditorsOfAllSelectedMaterials)
     EXPECT_THAT(window->get_mdi_windows(), SizeIs(10));
     EXPECT_TRUE(run("Mat_Edit"));
     EXPECT_THAT(window->get_mdi_windows(), SizeIs(10));
+}
+
+TEST_F(Commands, EditFindsTheMaterialProjectWhateverTheCurrentOneIs)
+{
+    Mat::MaterialObject& material = addMaterial(makeProject());
+    select({&material});
+    Obj::Application::instance().set_current_project(makeAnalysis());
+    EXPECT_TRUE(run("Mat_Edit"));
+    ASSERT_NE(activeEditor(), nullptr);
+    EXPECT_EQ(activeEditor()->getMaterialObject(), &material);
 }
 
 TEST_F(Commands, EditOpensNothingWithoutASelection)
@@ -460,6 +566,20 @@ TEST_F(Commands, DeleteAsksNothingAboutLinksAmongTheSelected)
     EXPECT_THAT(project.get_objects(), IsEmpty());
 }
 
+TEST_F(Commands, DeleteAsksForTheLinksOfASelectedProtectedObjectToo)
+{
+    Obj::Project& analysis = makeAnalysis();
+    Obj::ProjectObject* const study = analysis.add_object("Fem::FemStudy", "Study");
+    Obj::ProjectObject* const load = analysis.add_object("Fem::FemLoad", "Load");
+    Obj::ProjectObject* const other = analysis.add_object("Fem::FemLoad", "Other");
+    load->link_to(*study);
+    select({study, other});
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_THAT(analysis.get_objects(), ElementsAre(study, load));
+}
+
 /// A material on which a load depends, selected.
 class DependencyQuestion : public Commands
 {
@@ -519,6 +639,78 @@ TEST_F(DependencyQuestion, KeepsTheObjectOnEscape)
 {
     deleteAnswering([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_FALSE(isDeleted());
+}
+
+TEST_F(DependencyQuestion, IsAnsweredWithYesByReturnAndSpace)
+{
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        SCOPED_TRACE(key);
+        ASSERT_FALSE(isDeleted());
+        select({&material});
+        deleteAnswering([key](QMessageBox& box) {
+            // It gets the keyboard soon after it has been shown.
+            if (box.focusWidget() == nullptr)
+                return;
+            EXPECT_EQ(box.focusWidget(), box.button(QMessageBox::Yes));
+            QTest::keyClick(box.focusWidget(), key);
+        });
+        EXPECT_TRUE(isDeleted());
+        undoStack().undo();
+    }
+}
+
+/// A project whose memory is spoilt when it ends, so that nothing that looks at it later finds what it was.
+class ShortLivedProject final : public Obj::Project
+{
+public:
+    static void init()
+    {
+        initSubclass(type, "Test::ShortLivedProject", "Obj::Project",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new ShortLivedProject); });
+    }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+
+    static void operator delete(void* memory, std::size_t size)
+    {
+        // Volatile, as the compiler knows that nobody may look there.
+        auto* const bytes = static_cast<volatile unsigned char*>(memory);
+        std::fill(bytes, bytes + size, static_cast<unsigned char>(0xee));
+        ::operator delete(memory);
+    }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+TEST_F(DependencyQuestion, SurvivesThatObjectsAndProjectsGoWhileItIsOpen)
+{
+    ShortLivedProject::init();
+    Obj::Application& application = Obj::Application::instance();
+    Obj::Project& shortLived = *application.create_project("Test::ShortLivedProject", "Later");
+    Mat::DocumentMaterial& last = makeProject("Last");
+    Mat::MaterialObject& gone = addMaterial(project, "Gone");
+    select({&material, &gone, shortLived.add_object("Fem::FemLoad", "Load"), &addMaterial(last)});
+    const auto goneId = gone.getObjectId();
+    deleteAnswering([&](QMessageBox& box) {
+        project.remove_object(goneId);
+        application.close_project(shortLived);
+        QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    EXPECT_TRUE(isDeleted());
+    EXPECT_THAT(last.get_objects(), IsEmpty());
+}
+
+TEST_F(DependencyQuestion, SurvivesThatItsOwnProjectGoesWhileItIsOpen)
+{
+    Mat::DocumentMaterial& last = makeProject("Last");
+    select({&material, &addMaterial(last)});
+    deleteAnswering([this](QMessageBox& box) {
+        Obj::Application::instance().close_project(project);
+        QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&last));
+    EXPECT_THAT(last.get_objects(), IsEmpty());
+    EXPECT_TRUE(window->updatesEnabled());
 }
 
 TEST_F(DependencyQuestion, KeepsTheWholeSelectionOfTheProject)
@@ -664,8 +856,139 @@ TEST_F(Commands, DeleteOfAMaterialWithAnOpenEditorClosesItAndUndoBringsTheMateri
     undoStack().undo();
     ASSERT_THAT(project.get_objects(), ElementsAre(&material));
     EXPECT_EQ(material.getCMaterial()->properties.size(), properties);
-    EXPECT_TRUE(nodeOf(material).on_double_clicked());
-    EXPECT_NE(activeEditor(), nullptr);
+    EXPECT_TRUE(showsTheMaterial(material));
+}
+
+TEST_F(Commands, DeleteOfAMaterialWhoseCellIsBeingEditedClosesTheEditorAndDropsTheText)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& material = addMaterial(project);
+    const auto before = numbersOf(material);
+    nodeOf(material).on_double_clicked();
+    MatGui::SheetTableView& table = tableOf(*activeEditor());
+    const QModelIndex cell = table.model()->index(0, MatGui::SheetTableView::Value);
+    table.setCurrentIndex(cell);
+    table.edit(cell, QAbstractItemView::EditKeyPressed, nullptr);
+    auto* const line = qobject_cast<QLineEdit*>(table.indexWidget(cell));
+    ASSERT_NE(line, nullptr);
+    line->setText(QStringLiteral("17"));
+    select({&material});
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Delete"));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    undoStack().undo();
+    EXPECT_EQ(numbersOf(material), before);
+    EXPECT_TRUE(showsTheMaterial(material));
+}
+
+// --- Keys of the host in an editor ---
+
+TEST_F(Commands, UndoAndRedoByTheKeyboardLeaveAnEditorWithUnappliedRowsAlone)
+{
+    Mat::DocumentMaterial& project = makeProject();
+    Mat::MaterialObject& material = addMaterial(project);
+    addMaterial(project, "Other");
+    undoStack().undo();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const QPointer<MatGui::MaterialView> editor = &editUnapplied(material);
+    QCoreApplication::processEvents();
+    QWidget* const button = editor->findChild<QPushButton*>(QStringLiteral("btnApply"));
+    button->setFocus();
+    for (const auto key : {QKeySequence::Undo, QKeySequence::Redo}) {
+        QTest::keySequence(button, QKeySequence(key));
+        EXPECT_THAT(project.get_objects(), ElementsAre(&material)) << key;
+    }
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->isWindowModified());
+
+    QTest::mouseClick(button, Qt::LeftButton);
+    ASSERT_FALSE(editor->isWindowModified());
+    QTest::keySequence(button, QKeySequence(QKeySequence::Redo));
+    EXPECT_THAT(project.get_objects(), SizeIs(2));
+    QCoreApplication::processEvents();
+    QTest::keySequence(button, QKeySequence(QKeySequence::Undo));
+    QCoreApplication::processEvents();
+    QTest::keySequence(button, QKeySequence(QKeySequence::Undo));
+    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_EQ(editor, nullptr);
+}
+
+/// Three editors whose rows are not applied.
+class ClosingEditors : public Commands
+{
+protected:
+    ClosingEditors() : project(makeProject())
+    {
+        for (const char* const name : {"First", "Second", "Third"})
+            editUnapplied(addMaterial(project, name));
+        addMaterial(project, "Unchanged");
+        nodeOf(*project.get_objects()[3]).on_double_clicked();
+    }
+
+    Mat::DocumentMaterial& project;
+};
+
+TEST_F(ClosingEditors, AreAskedForOneByOneWhenAllAreToClose)
+{
+    const MessageBoxes boxes(QMessageBox::Discard);
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    ASSERT_THAT(boxes.shown(), SizeIs(3));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(
+            boxes.shown()[static_cast<std::size_t>(i)].text,
+            QStringLiteral("The changes of \"%1\" have not been applied.")
+                .arg(QString::fromStdString(project.get_objects()[static_cast<std::size_t>(i)]->label.getValue())));
+}
+
+TEST_F(ClosingEditors, HaveOneQuestionOpenAtATime)
+{
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(window->findChildren<QMessageBox*>(), SizeIs(1));
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(3)) << "the one without changes has gone";
+}
+
+TEST_F(ClosingEditors, StayOpenFromTheOneOnWhoseQuestionIsCancelled)
+{
+    const MessageBoxes boxes(QMessageBox::Cancel);
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    EXPECT_TRUE(QTest::qWaitFor([&boxes] { return !boxes.shown().empty(); }));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(3));
+}
+
+TEST_F(ClosingEditors, AskAgainAfterTheWindowThatWasAskedAboutHasGone)
+{
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    project.remove_object(project.get_objects()[0]->getObjectId());
+    QCoreApplication::processEvents();
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(2));
+    const MessageBoxes boxes(QMessageBox::Discard);
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_THAT(boxes.shown(), SizeIs(2));
+}
+
+TEST_F(ClosingEditors, AreAskedForByTheCommandAndByTheButtonOfTheTab)
+{
+    nodeOf(*project.get_objects()[1]).on_double_clicked();
+    QCoreApplication::processEvents();
+    const auto answers = [](const std::function<void()>& closing) {
+        const MessageBoxes boxes(QMessageBox::Cancel);
+        closing();
+        EXPECT_TRUE(QTest::qWaitFor([&boxes] { return !boxes.shown().empty(); }));
+        QCoreApplication::processEvents();
+        return boxes.shown().size();
+    };
+    EXPECT_EQ(answers([] { EXPECT_TRUE(run("Std_CloseWindow")); }), 1U);
+    auto* const tabs = window->findChild<QMdiArea*>()->findChild<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_NE(tabs, nullptr);
+    EXPECT_EQ(answers([tabs] { Q_EMIT tabs->tabCloseRequested(1); }), 1U);
+    EXPECT_THAT(window->get_mdi_windows(), SizeIs(4));
 }
 
 // --- Import and export ---
@@ -702,6 +1025,30 @@ TEST_F(Commands, ImportAddsToTheCurrentProject)
     EXPECT_THAT(second.get_objects(), SizeIs(1));
 }
 
+TEST_F(Commands, ImportIntoAProjectOfAnotherKindOpensNoEditor)
+{
+    makeProject();
+    Obj::Project& analysis = makeAnalysis();
+    Gui::FileDialog::answer_next("steel.csv");
+    EXPECT_TRUE(run("Mat_Import"));
+    ASSERT_THAT(analysis.get_objects(), SizeIs(1));
+    EXPECT_TRUE(nodeOf(*analysis.get_objects()[0]).on_double_clicked());
+    select(analysis.get_objects());
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+}
+
+TEST_F(Commands, PasteIntoAProjectOfAnotherKindOpensNoEditor)
+{
+    select({&addMaterial(makeProject())});
+    EXPECT_TRUE(run("Std_Copy"));
+    Obj::Project& analysis = makeAnalysis();
+    EXPECT_TRUE(run("Std_Paste"));
+    ASSERT_THAT(analysis.get_objects(), SizeIs(1));
+    EXPECT_TRUE(nodeOf(*analysis.get_objects()[0]).on_double_clicked());
+    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+}
+
 /// What a file dialog showed before it was cancelled.
 struct ShownDialog
 {
@@ -727,6 +1074,52 @@ ShownDialog cancelDialogsOf(const std::function<void()>& action)
     timer.start(1);
     action();
     return shown;
+}
+
+/// Chooses a file in the dialog that comes up, after something else has happened meanwhile.
+void chooseMeanwhile(const QString& path, const std::function<void()>& meanwhile, const std::function<void()>& action)
+{
+    bool done = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || std::exchange(done, true))
+            return;
+        meanwhile();
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    timer.start(1);
+    action();
+    EXPECT_TRUE(done);
+}
+
+TEST_F(Commands, ImportSurvivesThatTheProjectGoesWhileTheDialogIsOpen)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("steel.csv"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    makeProject();
+    chooseMeanwhile(
+        path, [] { Obj::Application::instance().close_all_projects(); }, [] { EXPECT_TRUE(run("Mat_Import")); });
+    EXPECT_THAT(Obj::Application::get_projects(), IsEmpty());
+}
+
+TEST_F(Commands, ExportSurvivesThatTheProjectGoesWhileTheDialogIsOpen)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("materials.json"));
+    addMaterial(makeProject());
+    chooseMeanwhile(
+        path,
+        [] {
+            Obj::Application::instance().close_all_projects();
+            makeProject("Other");
+        },
+        [] { EXPECT_TRUE(run("Mat_Export")); });
+    EXPECT_FALSE(QFile::exists(path)) << "the other project was not what the user exported";
 }
 
 TEST_F(Commands, ImportAsksForAFile)
@@ -767,6 +1160,41 @@ TEST_F(Commands, ExportOpensNoDialogWithTwoMaterialProjects)
     EXPECT_EQ(shown.count, 0);
 }
 
+/// A project of another module that uses the tag of material projects.
+class LookalikeProject final : public Obj::Project
+{
+public:
+    LookalikeProject() { documentTag = Kelta::eDocumentTag::Material; }
+    static void init()
+    {
+        initSubclass(type, "Test::LookalikeProject", "Obj::Project",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new LookalikeProject); });
+    }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+TEST_F(Commands, ExportOpensNoDialogForAProjectThatOnlyHasTheTag)
+{
+    LookalikeProject::init();
+    Obj::Application::instance().create_project("Test::LookalikeProject", "Lookalike");
+    const ShownDialog shown = cancelDialogsOf([] { EXPECT_TRUE(run("Mat_Export")); });
+    EXPECT_EQ(shown.count, 0);
+}
+
+TEST_F(Commands, ExportFindsTheMaterialProjectWhateverTheCurrentOneIs)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("materials.json"));
+    addMaterial(makeProject());
+    Obj::Application::instance().set_current_project(makeAnalysis());
+    Gui::FileDialog::answer_next(path);
+    EXPECT_TRUE(run("Mat_Export"));
+    EXPECT_TRUE(QFile::exists(path));
+}
+
 TEST_F(Commands, ExportWritesTheMaterialsUnchecked)
 {
     const QTemporaryDir folder;
@@ -791,9 +1219,64 @@ TEST_F(Commands, ExportWritesTheMaterialsUnchecked)
 
 TEST_F(Commands, ExportWritesNothingWhenNoFileIsChosen)
 {
-    makeProject();
+    const Mat::MaterialObject& material = addMaterial(makeProject(), "Frame");
+    ASSERT_EQ(material.getCMaterial()->name, "Structural Steel");
     Gui::FileDialog::answer_next({});
     EXPECT_TRUE(run("Mat_Export"));
+    // An export would have given it the label as its name.
+    EXPECT_EQ(material.getCMaterial()->name, "Structural Steel");
+}
+
+// --- Languages ---
+
+TEST_F(Commands, ShowTheirBoxesInTheLanguageOfTheUser)
+{
+    struct Texts
+    {
+        const char* language;
+        std::vector<std::pair<std::string, std::string>> boxes; ///< titles and what stands in their texts, in order
+        std::vector<std::string> captions;
+    };
+    const std::vector<Texts> expected = {
+        {"de",
+         {{"Ungültiges Projekt", "Kein Materialprojekt."},
+          {"Materialprojekt", "Im Projektbaum gibt es bereits ein Materialprojekt."},
+          {"Abhängigkeiten", "mit anderen verknüpft"},
+          {"Materialeditor", "Die Änderungen an „Material“ wurden nicht angewendet."}},
+         {"Datei importieren", "Materialien exportieren"}},
+        {"zh_CN",
+         {{"无效项目", "没有材料项目。"},
+          {"材料项目", "项目浏览器中已有材料项目。"},
+          {"对象依赖", "此对象与其他对象相关联，因此这些对象可能会损坏。\n是否继续？"},
+          {"材料编辑器", "“Material”的更改尚未应用。"}},
+         {"导入文件", "导出材料"}},
+    };
+    for (const Texts& texts : expected) {
+        SCOPED_TRACE(texts.language);
+        Gui::Translator::instance()->setLanguage(QLatin1String(texts.language));
+        makeAnalysis();
+        const MessageBoxes boxes(QMessageBox::Ok);
+        EXPECT_TRUE(run("Mat_AddMaterial"));
+        Mat::DocumentMaterial& project = makeProject();
+        EXPECT_TRUE(run("Mat_NewDoc"));
+        Mat::MaterialObject& material = addMaterial(project);
+        project.add_object("Fem::FemLoad", "Load")->link_to(material);
+        select({&material});
+        EXPECT_TRUE(run("Mat_Delete"));
+        editUnapplied(material).close();
+        EXPECT_TRUE(QTest::qWaitFor([&boxes] { return boxes.shown().size() >= 4; }));
+        ASSERT_THAT(boxes.shown(), SizeIs(texts.boxes.size()));
+        for (std::size_t i = 0; i < texts.boxes.size(); ++i) {
+            EXPECT_EQ(boxes.shown()[i].title.toStdString(), texts.boxes[i].first);
+            EXPECT_THAT(boxes.shown()[i].text.toStdString(), testing::HasSubstr(texts.boxes[i].second));
+        }
+        std::vector<std::string> captions;
+        for (const char* const command : {"Mat_Import", "Mat_Export"})
+            captions.push_back(cancelDialogsOf([command] { EXPECT_TRUE(run(command)); }).caption.toStdString());
+        EXPECT_EQ(captions, texts.captions);
+        Obj::Application::instance().close_all_projects();
+        Gui::Translator::instance()->setLanguage("en");
+    }
 }
 
 // --- Many materials ---

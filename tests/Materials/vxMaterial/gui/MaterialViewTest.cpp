@@ -573,4 +573,188 @@ TEST(MaterialView, IsMarkedAsModifiedUntilItsChangesAreApplied)
     EXPECT_FALSE(editor.view()->isWindowModified());
 }
 
+// --- Closing with changes that are not applied ---
+
+void close()
+{
+    Gui::MainWindow::get_main_window_inst()->close_current_window();
+}
+
+/// Closes the window and waits for `count` boxes, of which each is answered with `answer` if it has that button.
+std::vector<vxtest::ShownBox> closeAnswering(QMessageBox::StandardButton answer, std::size_t count = 1)
+{
+    const MessageBoxes boxes(answer);
+    close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return boxes.shown().size() >= count; }));
+    QCoreApplication::processEvents();
+    return boxes.shown();
+}
+
+TEST(MaterialView, AsksBeforeItClosesWhatIsToBecomeOfTheChanges)
+{
+    Editor editor;
+    editor.typeValue(4, "2700");
+    const auto boxes = closeAnswering(QMessageBox::Cancel);
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
+    EXPECT_EQ(boxes[0].title, "Material editor");
+    EXPECT_EQ(boxes[0].text, "The changes of \"Steel\" have not been applied.");
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel);
+    EXPECT_TRUE(boxes[0].hasDefaultButton);
+}
+
+TEST(MaterialView, ShowsTheLabelInItsQuestionAsItStands)
+{
+    for (const char* const label : {"<b>Steel</b>", "%1 %2", "结构钢", ""}) {
+        Editor editor([label](vxtest::MaterialProject& project) { project.object().label.setValue(label); });
+        editor.typeValue(4, "2700");
+        const auto boxes = closeAnswering(QMessageBox::Cancel);
+        ASSERT_EQ(boxes.size(), 1U);
+        EXPECT_EQ(boxes[0].text, QStringLiteral("The changes of \"%1\" have not been applied.").arg(QString(label)));
+    }
+}
+
+TEST(MaterialView, StaysOpenWithItsChangesWhenTheQuestionIsCancelledOrClosed)
+{
+    // A box without a No button is closed by its frame.
+    for (const auto answer : {QMessageBox::Cancel, QMessageBox::No}) {
+        Editor editor;
+        editor.typeValue(4, "2700");
+        EXPECT_EQ(closeAnswering(answer).size(), 1U);
+        ASSERT_NE(editor.view(), nullptr);
+        EXPECT_THAT(Gui::MainWindow::get_main_window_inst()->get_mdi_windows(), testing::SizeIs(1));
+        EXPECT_TRUE(editor.view()->isWindowModified());
+        EXPECT_EQ(editor.cell(editor.rowOf(4), 2), "2700");
+        EXPECT_EQ(editor.material().properties.at(4)->value, 7850.0);
+        EXPECT_EQ(closeAnswering(answer).size(), 1U) << "asked again";
+    }
+}
+
+TEST(MaterialView, DropsItsChangesOnDiscardAndCloses)
+{
+    Editor editor;
+    const auto before = vxtest::contents(editor.material());
+    editor.typeValue(4, "2700");
+    EXPECT_EQ(closeAnswering(QMessageBox::Discard).size(), 1U);
+    EXPECT_TRUE(editor.isClosed());
+    EXPECT_EQ(vxtest::contents(editor.material()), before);
+}
+
+TEST(MaterialView, WritesItsChangesWhenTheQuestionIsAnsweredWithApplyAndCloses)
+{
+    Editor editor;
+    editor.typeValue(4, "2700");
+    EXPECT_EQ(closeAnswering(QMessageBox::Apply).size(), 1U);
+    EXPECT_TRUE(editor.isClosed());
+    EXPECT_EQ(editor.material().properties.at(4)->value, 2700.0);
+}
+
+TEST(MaterialView, StaysOpenWhenItsChangesCannotBeApplied)
+{
+    Editor editor;
+    const auto before = vxtest::contents(editor.material());
+    editor.typeValue(4, "-1");
+    const auto boxes = closeAnswering(QMessageBox::Apply, 2);
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(boxes[1].title, "Invalid material");
+    ASSERT_NE(editor.view(), nullptr);
+    EXPECT_THAT(Gui::MainWindow::get_main_window_inst()->get_mdi_windows(), testing::SizeIs(1));
+    EXPECT_EQ(vxtest::contents(editor.material()), before);
+}
+
+TEST(MaterialView, AsksAboutTextThatIsStillBeingTyped)
+{
+    Editor editor;
+    editor.table().setFocus();
+    editor.table().setCurrentIndex(editor.table().model()->index(editor.rowOf(5), 2));
+    QTest::keyClick(&editor.table(), Qt::Key_F2);
+    vxtest::openEditor(editor.table())->setText("123");
+    EXPECT_EQ(closeAnswering(QMessageBox::Apply).size(), 1U);
+    EXPECT_TRUE(editor.isClosed());
+    EXPECT_EQ(editor.material().properties.at(5)->value, 123.0);
+}
+
+TEST(MaterialView, ClosesWithoutAQuestionWhenNothingIsLeftToApply)
+{
+    const MessageBoxes boxes;
+    {
+        Editor untouched;
+        untouched.table().setCurrentIndex(untouched.table().model()->index(0, 2));
+        QTest::keyClick(&untouched.table(), Qt::Key_F2);
+        close();
+        EXPECT_TRUE(untouched.isClosed());
+    }
+    {
+        Editor applied;
+        applied.typeValue(4, "2700");
+        applied.click("btnApply");
+        close();
+        EXPECT_TRUE(applied.isClosed());
+    }
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+}
+
+TEST(MaterialView, ClosesWithoutAQuestionByItsOwnButtons)
+{
+    for (const char* const button : {"btnOk", "btnCancel"}) {
+        Editor editor;
+        editor.typeValue(4, "2700");
+        const MessageBoxes boxes;
+        editor.click(button);
+        EXPECT_TRUE(editor.isClosed()) << button;
+        EXPECT_THAT(boxes.shown(), IsEmpty()) << button;
+    }
+}
+
+TEST(MaterialView, GoesWithItsMaterialWithoutAQuestionAndTakesAnOpenOneAlong)
+{
+    {
+        Editor editor;
+        editor.typeValue(4, "2700");
+        const MessageBoxes boxes;
+        Gui::MainWindow::get_main_window_inst()->remove_mdi_window(editor.view());
+        EXPECT_EQ(editor.view(), nullptr);
+        EXPECT_THAT(boxes.shown(), IsEmpty());
+    }
+    Editor editor;
+    editor.typeValue(4, "2700");
+    close();
+    const QPointer<QMessageBox> question = editor.view()->findChild<QMessageBox*>();
+    ASSERT_NE(question, nullptr);
+    Gui::MainWindow::get_main_window_inst()->remove_mdi_window(editor.view());
+    EXPECT_EQ(editor.view(), nullptr);
+    EXPECT_EQ(question, nullptr);
+    QCoreApplication::processEvents();
+}
+
+TEST(MaterialView, AsksAgainAfterApplyingHasThrown)
+{
+    Editor editor;
+    ThrowingTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::sendPostedEvents(); // the change of language
+    // The validation translates the allowed words.
+    editor.table().model()->setData(editor.table().model()->index(0, 0), "33");
+    translator.armed = true;
+    const auto boxes = closeAnswering(QMessageBox::Apply, 2);
+    translator.armed = false;
+    QCoreApplication::removeTranslator(&translator);
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(boxes[1].text, "Something went wrong: no memory");
+    ASSERT_NE(editor.view(), nullptr);
+    EXPECT_EQ(closeAnswering(QMessageBox::Discard).size(), 1U);
+    EXPECT_TRUE(editor.isClosed());
+}
+
+TEST(MaterialView, AsksOnceHoweverOftenItIsToClose)
+{
+    Editor editor;
+    editor.typeValue(4, "2700");
+    close();
+    const MessageBoxes boxes(QMessageBox::Discard);
+    close();
+    EXPECT_TRUE(editor.isClosed());
+    EXPECT_EQ(boxes.shown().size(), 1U);
+}
+
 } // namespace

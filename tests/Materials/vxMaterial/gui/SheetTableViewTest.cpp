@@ -126,6 +126,34 @@ TEST(SheetTableView, HasSixColumnsOfWhichThreeAreHidden)
     EXPECT_TRUE(table.horizontalHeader()->stretchLastSection());
 }
 
+TEST(SheetTableView, NeverShowsIdKeyAndUnit)
+{
+    Sheet sheet;
+    SheetTableView& table = sheet.table;
+    const auto hidden = [&table] {
+        std::vector<int> columns;
+        for (int column = 0; column < table.model()->columnCount(); ++column)
+            if (table.isColumnHidden(column) && table.columnWidth(column) == 0)
+                columns.push_back(column);
+        return columns;
+    };
+    const auto expected = ElementsAre(SheetTableView::Id, SheetTableView::Key, SheetTableView::Unit);
+    ASSERT_TRUE(sheet.show());
+    EXPECT_THAT(hidden(), expected);
+    table.loadMaterialObject();
+    EXPECT_THAT(hidden(), expected);
+    const auto& database = sheet.project.database();
+    table.showMaterial(database.materials.begin()->second.get());
+    table.togglePropertyRow(true, database.propertyCatalogue.at(33).get());
+    table.togglePropertyRow(false, database.propertyCatalogue.at(33).get());
+    EXPECT_THAT(hidden(), expected);
+    table.retranslate();
+    table.resize(400, 300);
+    table.resizeColumnsToContents();
+    table.applyToMaterial();
+    EXPECT_THAT(hidden(), expected);
+}
+
 TEST(SheetTableView, OwnsAStandardModelASelectionOnItAndItsHeaders)
 {
     const SheetTableView table;
@@ -618,6 +646,19 @@ TEST(SheetTableView, GrowsRowsInWhichALongTextWraps)
     vxtest::openEditor(sheet.table)->setText(list);
     sheet.table.finishEditing();
     EXPECT_GT(sheet.table.rowHeight(2), 3 * before);
+}
+
+TEST(SheetTableView, UnfoldsNamesWhenTheWindowGetsWider)
+{
+    Sheet sheet;
+    sheet.tick(6);
+    sheet.table.resize(260, 300);
+    ASSERT_TRUE(sheet.show());
+    const int narrow = sheet.table.columnWidth(1);
+    sheet.table.resize(1200, 300);
+    QTest::qWait(1);
+    EXPECT_GT(sheet.table.columnWidth(1), narrow);
+    EXPECT_GT(sheet.table.columnWidth(1), sheet.table.fontMetrics().horizontalAdvance("Poisson's ratio"));
 }
 
 // --- Apply ---

@@ -11,14 +11,13 @@
 #include <QRegularExpression>
 #include <QToolBar>
 
+#include <map>
+
 namespace {
 
 using MatGui::SimModule;
 using MatGui::WorkbenchHelper;
-using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
-using testing::SizeIs;
 using vxtest::slotOf;
 
 template <typename Item>

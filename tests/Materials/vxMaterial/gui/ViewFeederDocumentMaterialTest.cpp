@@ -35,6 +35,21 @@ TEST_F(DocumentNode, HasNoPropertiesOfItsOwn)
     EXPECT_THAT(properties, IsEmpty());
 }
 
+/// Lets the tests see what a node of a project says of its properties.
+class OpenProjectNode : public Gui::ViewFeederProject
+{
+public:
+    using ViewFeederProject::get_property_data;
+    using ViewFeederProject::get_property_data_ref;
+};
+
+TEST_F(DocumentNode, DescribesItsPropertiesBeforeThoseOfEveryProjectNode)
+{
+    const Obj::PropertyCoreData& data = (node().*&OpenProjectNode::get_property_data)();
+    EXPECT_NE(&data, OpenProjectNode::get_property_data_ref());
+    EXPECT_EQ(data.parent(), OpenProjectNode::get_property_data_ref());
+}
+
 TEST_F(DocumentNode, OffersItsCommandsInTheirOrder)
 {
     Gui::MenuItem menu;

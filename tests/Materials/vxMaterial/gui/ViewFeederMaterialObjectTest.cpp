@@ -6,6 +6,7 @@
 
 #include "Gui/PictureFactory.h"
 #include "Gui/ProjectExplorer.h"
+#include "Gui/Translator.h"
 
 #include <QMenu>
 
@@ -41,8 +42,15 @@ using vxtest::slotOf;
 class OpenNode : public ViewFeederMaterialObject
 {
 public:
+    using ViewFeederMaterialObject::get_property_data;
     using ViewFeederMaterialObject::showMaterialView;
     using ViewFeederMaterialObject::updateData;
+};
+
+class OpenObjectNode : public Gui::ViewFeederProjectObject
+{
+public:
+    using ViewFeederProjectObject::get_property_data_ref;
 };
 
 class MaterialNode : public vxtest::Workbench
@@ -131,6 +139,11 @@ TEST_F(MaterialNode, HasAColourThatTheUserSeesAndEdits)
     EXPECT_EQ(colour.alpha, 0.0F);
 }
 
+TEST_F(MaterialNode, DescribesItsPropertiesBeforeThoseOfEveryNode)
+{
+    EXPECT_EQ(OpenNode().get_property_data().parent(), OpenObjectNode::get_property_data_ref());
+}
+
 TEST_F(MaterialNode, AnswersTheHostWithFixedAnswers)
 {
     EXPECT_TRUE(node.isShow());
@@ -175,6 +188,19 @@ TEST_F(MaterialNode, AddsAnActionThatCarriesTheEditMode)
     EXPECT_EQ(action.data(), QVariant(0));
     menu.actions()[0]->trigger();
     EXPECT_EQ(receiver.data, QVariant(0));
+}
+
+TEST_F(MaterialNode, NamesItsActionInTheLanguageOfTheUser)
+{
+    const auto shown = [this](const char* language) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QMenu menu;
+        node.build_context_menu(&menu, window.get(), SLOT(close()));
+        Gui::Translator::instance()->setLanguage("en");
+        return menu.actions()[0]->text().toStdString();
+    };
+    EXPECT_EQ(shown("de"), "Material anzeigen");
+    EXPECT_EQ(shown("zh_CN"), "显示材料");
 }
 
 TEST_F(MaterialNode, OpensOneEditorAndActivatesItTheSecondTime)
@@ -249,6 +275,35 @@ TEST_F(MaterialNode, MakesANewEditorAfterTheUserHasClosedTheFirst)
     node.on_double_clicked();
     EXPECT_NE(activeEditor(), nullptr);
     EXPECT_EQ(window->get_mdi_windows().size(), 1);
+}
+
+TEST_F(MaterialNode, MakesANewEditorRightAfterTheUserHasClosedTheFirst)
+{
+    node.on_double_clicked();
+    const QPointer<MatGui::MaterialView> first = activeEditor();
+    window->close_current_window();
+    ASSERT_NE(first, nullptr) << "the event loop has not run";
+    EXPECT_TRUE(node.on_double_clicked());
+    const QPointer<MatGui::MaterialView> second = activeEditor();
+    ASSERT_NE(second, nullptr);
+    EXPECT_NE(second, first);
+    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(first, nullptr);
+    EXPECT_EQ(activeEditor(), second);
+    material.label.setValue("Beam");
+    EXPECT_EQ(second->windowTitle(), "Beam[*]");
+}
+
+TEST_F(MaterialNode, OpensNothingForAMaterialInAProjectOfAnotherKind)
+{
+    vxtest::initForeignClasses();
+    Obj::Project& analysis = *Obj::Application::instance().create_project("Fem::FemProject", "Analysis");
+    ViewFeederMaterialObject& foreign = feeder(addMaterial(analysis));
+    ASSERT_NE(foreign.getMaterialObject(), nullptr);
+    EXPECT_TRUE(foreign.on_double_clicked());
+    EXPECT_FALSE(foreign.setEdit(0));
+    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
 }
 
 TEST_F(MaterialNode, AnswersTheOpenEditor)

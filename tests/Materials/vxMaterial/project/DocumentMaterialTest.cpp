@@ -137,6 +137,7 @@ TEST_F(DocumentMaterialTest, HandsOverCopiesByObjectIdUnderTheLabels)
     EXPECT_EQ(materials.getMaterial(second.getObjectId())->material->name, "Bolt");
     EXPECT_NE(materials.getMaterial(first.getObjectId())->material.get(), first.getCMaterial());
     EXPECT_EQ(first.getCMaterial()->name, "Frame");
+    EXPECT_EQ(second.getCMaterial()->name, "Bolt");
 }
 
 TEST_F(DocumentMaterialTest, ReplacesTheSetWhenCollectedAgain)
@@ -147,6 +148,7 @@ TEST_F(DocumentMaterialTest, ReplacesTheSetWhenCollectedAgain)
     const vxCAE::CAEMaterials& materials = collected();
     EXPECT_THAT(materials.entries, SizeIs(1));
     EXPECT_EQ(materials.getMaterial(steel.getObjectId())->material->name, "New");
+    EXPECT_EQ(steel.getCMaterial()->name, "New");
 }
 
 TEST_F(DocumentMaterialTest, RecordsItsMaterialsByIdentityAlone)
@@ -173,6 +175,26 @@ TEST_F(DocumentMaterialTest, RecordsItsMaterialsByIdentityAlone)
                                                       "}\n");
 }
 
+TEST_F(DocumentMaterialTest, RecordsItsMaterialsInTheOrderOfTheProject)
+{
+    addSteel("Zinc");
+    MaterialObject& removed = addSteel("Lead");
+    addSteel("Air");
+    addMaterial("Middle");
+    project->remove_object(removed.getObjectId());
+    Json::Value record;
+    project->save_jsonDB(record);
+    const Json::Value& objects = record["objects"]["object"];
+    std::vector<std::string> labels;
+    std::vector<unsigned int> ids;
+    for (const Json::Value& object : objects) {
+        labels.push_back(object["label"].asString());
+        ids.push_back(object["obj_id"].asUInt());
+    }
+    EXPECT_THAT(labels, ElementsAre("Zinc", "Air", "Middle"));
+    EXPECT_THAT(ids, ElementsAre(1, 3, 4));
+}
+
 TEST_F(DocumentMaterialTest, RecordsNoMaterialsAsNull)
 {
     Json::Value record;
@@ -191,18 +213,43 @@ TEST_F(DocumentMaterialTest, RecordsTheKindOfProjectWhereThePropertyNamesThePhys
 
 TEST_F(DocumentMaterialTest, TakesNothingFromARecord)
 {
-    addSteel("Steel");
+    MaterialObject& steel = addSteel("Steel");
+    MaterialObject& empty = addMaterial("Empty");
     Json::Value before;
     project->save_jsonDB(before);
-    Json::Value nothing;
-    project->load_jsonDB(nothing);
-    Json::Value other = before;
-    other["proj_id"] = 99;
-    other["objects"] = Json::Value();
-    project->load_jsonDB(other);
-    Json::Value after;
-    project->save_jsonDB(after);
-    EXPECT_EQ(before, after);
+    for (Json::Value record : vxtest::recordsOfEveryKind()) {
+        SCOPED_TRACE(record.toStyledString());
+        const vxtest::Identity steelBefore(steel);
+        const vxtest::Identity emptyBefore(empty);
+        project->load_jsonDB(record);
+        Json::Value after;
+        project->save_jsonDB(after);
+        EXPECT_EQ(after, before);
+        EXPECT_THAT(project->get_objects(), ElementsAre(&steel, &empty));
+        EXPECT_EQ(vxtest::Identity(steel), steelBefore);
+        EXPECT_EQ(vxtest::Identity(empty), emptyBefore);
+        EXPECT_EQ(project->physicsType.getValue(), "Structural");
+        EXPECT_EQ(project->classLabel.getValue(), "Material Project");
+        EXPECT_EQ(project->get_document_tag(), Kelta::eDocumentTag::Material);
+    }
+}
+
+/// A project whose descriptions of its properties the tests see.
+class OpenDocument : public DocumentMaterial
+{
+public:
+    using DocumentMaterial::get_property_data;
+};
+
+class OpenProject : public Obj::Project
+{
+public:
+    using Project::get_property_data_ref;
+};
+
+TEST_F(DocumentMaterialTest, DescribesItsPropertiesBeforeThoseOfEveryProject)
+{
+    EXPECT_EQ(OpenDocument().get_property_data().parent(), OpenProject::get_property_data_ref());
 }
 
 TEST_F(DocumentMaterialTest, HasNoPartInTheXmlFile)
@@ -242,6 +289,19 @@ TEST_F(DocumentMaterialTest, ExportsTheSameFileTwice)
     exportTo(path("first.json"));
     exportTo(path("second.json"));
     EXPECT_EQ(vxtest::readText(path("first.json")), vxtest::readText(path("second.json")));
+}
+
+TEST_F(DocumentMaterialTest, ReplacesALongerFileWhole)
+{
+    addSteel("Steel");
+    exportTo(path("new.json"));
+    {
+        QFile longer(folder.filePath("old.json"));
+        ASSERT_TRUE(longer.open(QIODevice::WriteOnly));
+        longer.write(QByteArray(100000, 'x'));
+    }
+    exportTo(path("old.json"));
+    EXPECT_EQ(vxtest::readText(path("old.json")), vxtest::readText(path("new.json")));
 }
 
 TEST_F(DocumentMaterialTest, ExportsUnderThePresentLabel)

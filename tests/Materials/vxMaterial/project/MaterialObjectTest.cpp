@@ -12,6 +12,7 @@
 
 #include <limits>
 #include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -25,6 +26,28 @@ using vxtest::MessageBoxes;
 class MaterialObjectTest : public vxtest::MaterialProject
 {
 protected:
+    /// The warning that the check of a material gives whose only property has this number; nothing for none.
+    std::vector<vxtest::ShownBox> warningsFor(double number) const
+    {
+        MaterialObject& object = addMaterial("Steel");
+        setNumber(object, vxMat::PropertyId::Density, number);
+        const MessageBoxes boxes;
+        const bool passes = object.check_input_data();
+        EXPECT_EQ(passes, boxes.shown().empty());
+        return boxes.shown();
+    }
+
+    static void expectWarning(const std::vector<vxtest::ShownBox>& boxes)
+    {
+        ASSERT_THAT(boxes, SizeIs(1));
+        EXPECT_EQ(boxes[0].icon, QMessageBox::Warning);
+        EXPECT_EQ(boxes[0].title, "Input check");
+        EXPECT_EQ(boxes[0].text, "Material property defined in 'Steel' has value equal or less than zero.");
+        EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok);
+        EXPECT_FALSE(boxes[0].hasDefaultButton);
+        EXPECT_EQ(boxes[0].parent, Gui::MainWindow::get_main_window_inst());
+    }
+
     static void setNumber(MaterialObject& object, int id, double number)
     {
         object.getCMaterial()->setProperty(id, std::make_unique<vxMat::MaterialProperty>(id, "name", "key", number));
@@ -103,12 +126,19 @@ TEST_F(MaterialObjectTest, BecomesStructuralSteelForTypeZero)
 
 TEST_F(MaterialObjectTest, KeepsItsMaterialForEveryOtherTypeAndChecksItsState)
 {
-    MaterialObject& object = addMaterial("Air");
-    setNumber(object, vxMat::PropertyId::Density, 1.2);
-    object.initCMaterial(eMaterialType::Air);
-    EXPECT_THAT(object.getCMaterial()->properties, SizeIs(1));
-    EXPECT_EQ(object.getCMaterial()->name, "MaterialObject");
-    EXPECT_EQ(object.getObjectState(), Obj::eVXObjectState::Ready);
+    for (int type = -1; type < 100; ++type) {
+        if (type == static_cast<int>(eMaterialType::StructuralSteel))
+            continue;
+        SCOPED_TRACE(type);
+        MaterialObject& object = addMaterial("Mine");
+        setNumber(object, vxMat::PropertyId::Density, 1.2);
+        ASSERT_EQ(object.getObjectState(), Obj::eVXObjectState::Initial);
+        object.initCMaterial(static_cast<eMaterialType>(type));
+        ASSERT_THAT(object.getCMaterial()->properties, SizeIs(1));
+        EXPECT_EQ(object.getCMaterial()->findProperty(vxMat::PropertyId::Density)->value, 1.2);
+        EXPECT_EQ(object.getCMaterial()->name, "MaterialObject");
+        EXPECT_EQ(static_cast<int>(object.getObjectState()), 3);
+    }
 }
 
 TEST_F(MaterialObjectTest, CopiesAMaterialIntoItsOwn)
@@ -131,12 +161,18 @@ TEST_F(MaterialObjectTest, ReachesTheDatabaseOfItsProject)
 TEST_F(MaterialObjectTest, IsAlwaysToBeRunAndExecutesNothing)
 {
     MaterialObject& object = addMaterial("A");
+    // Past the object, which has not looked at its state since.
+    setNumber(object, vxMat::PropertyId::Density, 7850);
     EXPECT_EQ(object.always_run(), -1);
     const std::unique_ptr<Obj::ProjectObjectExecReturn> result(object.execute());
     ASSERT_NE(result, nullptr);
     EXPECT_EQ(result->text, "MaterialObject::execute().");
     EXPECT_EQ(result->object, &object);
-    EXPECT_THAT(object.getCMaterial()->properties, IsEmpty());
+    ASSERT_THAT(object.getCMaterial()->properties, SizeIs(1));
+    EXPECT_EQ(object.getCMaterial()->findProperty(vxMat::PropertyId::Density)->value, 7850);
+    EXPECT_EQ(object.getCMaterial()->name, "MaterialObject");
+    EXPECT_EQ(object.label.getValue(), "A");
+    EXPECT_EQ(object.getObjectState(), Obj::eVXObjectState::Initial);
 }
 
 TEST_F(MaterialObjectTest, NeitherImportsNorExportsItself)
@@ -169,19 +205,34 @@ TEST_F(MaterialObjectTest, TellsWithoutAMainWindowToo)
     EXPECT_EQ(boxes.shown()[0].parent, nullptr);
 }
 
-TEST_F(MaterialObjectTest, WarnsOfAValueOfZeroOnce)
+TEST_F(MaterialObjectTest, RefusesASingleZero)
 {
+    const Gui::MainWindow mainWindow;
+    expectWarning(warningsFor(0.0));
+    expectWarning(warningsFor(-0.0));
+}
+
+TEST_F(MaterialObjectTest, RefusesASingleNegativeNumber)
+{
+    const Gui::MainWindow mainWindow;
+    expectWarning(warningsFor(-1.0));
+    expectWarning(warningsFor(-1e-300));
+}
+
+TEST_F(MaterialObjectTest, AcceptsASingleNumberHoweverSmall)
+{
+    EXPECT_THAT(warningsFor(1e-300), IsEmpty());
+}
+
+TEST_F(MaterialObjectTest, WarnsOnceHoweverManyPropertiesFail)
+{
+    const Gui::MainWindow mainWindow;
     MaterialObject& object = addMaterial("Steel");
     setNumber(object, vxMat::PropertyId::Density, 0.0);
     setNumber(object, vxMat::PropertyId::YoungsModulus, -1.0);
     const MessageBoxes boxes;
     EXPECT_FALSE(object.check_input_data());
-    ASSERT_THAT(boxes.shown(), SizeIs(1));
-    EXPECT_EQ(boxes.shown()[0].icon, QMessageBox::Warning);
-    EXPECT_EQ(boxes.shown()[0].title, "Input check");
-    EXPECT_EQ(boxes.shown()[0].text, "Material property defined in 'Steel' has value equal or less than zero.");
-    EXPECT_EQ(boxes.shown()[0].buttons, QMessageBox::Ok);
-    EXPECT_FALSE(boxes.shown()[0].hasDefaultButton);
+    expectWarning(boxes.shown());
 }
 
 TEST_F(MaterialObjectTest, AcceptsTheSmallestPositiveValuesAndWhatIsNoNumber)
@@ -253,13 +304,50 @@ TEST_F(MaterialObjectTest, DescribesItselfInTheProjectDatabase)
 TEST_F(MaterialObjectTest, TakesNothingFromARecord)
 {
     MaterialObject& object = addSteel("Steel");
-    Json::Value record;
-    record["label"] = "Other";
-    object.load_jsonDB(record);
-    Json::Value nothing;
-    object.load_jsonDB(nothing);
-    EXPECT_EQ(object.label.getValue(), "Steel");
-    EXPECT_THAT(object.getCMaterial()->properties, SizeIs(vxMat::StructuralSteel().properties.size()));
+    for (Json::Value record : vxtest::recordsOfEveryKind()) {
+        SCOPED_TRACE(record.toStyledString());
+        const vxtest::Identity before(object);
+        object.load_jsonDB(record);
+        EXPECT_EQ(vxtest::Identity(object), before);
+        EXPECT_EQ(object.label.getValue(), "Steel");
+    }
+}
+
+// Nothing in the module sends this signal; what hangs on to it relies on its type.
+template <auto Member>
+struct SignalAccess
+{
+    friend auto& requestsOf(MaterialObject& object) { return object.*Member; }
+};
+auto& requestsOf(MaterialObject& object);
+template struct SignalAccess<&MaterialObject::dataRequested>;
+
+TEST_F(MaterialObjectTest, AnswersARequestForDataAsTheLastWhoListensDoes)
+{
+    auto& requests = requestsOf(addMaterial("Steel"));
+    requests.connect([] { return boost::any(1); });
+    requests.connect([] { return boost::any(std::string("last")); });
+    const auto answer = requests();
+    static_assert(std::is_same_v<decltype(answer), const boost::any>);
+    EXPECT_EQ(boost::any_cast<std::string>(answer), "last");
+}
+
+/// A material whose descriptions of its properties the tests see.
+class OpenMaterial : public MaterialObject
+{
+public:
+    using MaterialObject::get_property_data;
+};
+
+class OpenObject : public Obj::ProjectObject
+{
+public:
+    using ProjectObject::get_property_data_ref;
+};
+
+TEST_F(MaterialObjectTest, DescribesItsPropertiesBeforeThoseOfEveryProjectObject)
+{
+    EXPECT_EQ(OpenMaterial().get_property_data().parent(), OpenObject::get_property_data_ref());
 }
 
 TEST_F(MaterialObjectTest, TellsObserversToReadItsPropertiesAnew)

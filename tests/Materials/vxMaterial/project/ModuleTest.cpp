@@ -2,6 +2,13 @@
 
 #include "ProjectTesting.h"
 
+#include "Gui/CommandController.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/Translator.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
 #include <memory>
 #include <type_traits>
 
@@ -49,6 +56,22 @@ TEST(Module, MayBeInitialisedAgain)
     const auto before = Mat::MaterialObject::getClassTypeId();
     initMat();
     EXPECT_EQ(Mat::MaterialObject::getClassTypeId(), before);
+}
+
+TEST(Module, HasTheTranslationsLoadedAnewWhenEverythingElseIsThere)
+{
+    initMat();
+    QSignalSpy refreshed(Gui::Translator::instance(), &Gui::Translator::languageChanged);
+    bool complete = false;
+    QObject::connect(Gui::Translator::instance(), &Gui::Translator::languageChanged, [&complete] {
+        complete = Gui::GuiApplication::Instance->get_command_manager().find_command("Mat_Export") != nullptr &&
+                   Kelta::TypeInfo::find("MatGui::ViewFeederDocumentMaterial").names_a_type() &&
+                   QFile::exists(QStringLiteral(":icons/norvex_materialobject.svg"));
+    });
+    initMatGui();
+    EXPECT_EQ(refreshed.count(), 1);
+    EXPECT_TRUE(complete);
+    Gui::Translator::instance()->disconnect();
 }
 
 TEST(Module, HasAModuleClassThatDoesNothing)

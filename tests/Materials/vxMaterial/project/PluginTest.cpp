@@ -9,8 +9,6 @@
 
 namespace {
 
-using testing::IsEmpty;
-
 QString folderOfPlugin()
 {
     return QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath();
@@ -77,6 +75,21 @@ TEST(Plugin, ExportsItsEntriesAndTheClassesOfItsLayersAlone)
                                      ")?(Mat|MatGui|vxMaterial|ComboBoxItemDelegate)(::.*)?)$");
     for (const QString& symbol : symbols)
         EXPECT_TRUE(allowed.match(symbol).hasMatch()) << symbol.toStdString();
+}
+
+TEST(Plugin, ExportsHowFourOfItsClassesAreMadeAndKnownAndKeepsThatOfTheProjectNode)
+{
+    const QStringList symbols = exportedSymbols();
+    const QStringList operations = {"create()", "init()", "getClassTypeId()"};
+    for (const char* exported :
+         {"Mat::DocumentMaterial", "Mat::MaterialObject", "MatGui::SimModule", "MatGui::ViewFeederMaterialObject"})
+        for (const QString& operation : operations)
+            EXPECT_TRUE(symbols.contains(QStringLiteral("%1::%2").arg(QLatin1String(exported), operation)))
+                << exported << "::" << operation.toStdString();
+    EXPECT_TRUE(symbols.contains("MatGui::ViewFeederDocumentMaterial::ViewFeederDocumentMaterial()"));
+    for (const QString& kept : operations + QStringList("classTypeId"))
+        EXPECT_FALSE(symbols.contains(QStringLiteral("MatGui::ViewFeederDocumentMaterial::%1").arg(kept)))
+            << kept.toStdString();
 }
 
 TEST(Plugin, KeepsItsHelpersToItself)

@@ -7,7 +7,11 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
+#include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace vxtest {
 
@@ -38,6 +42,53 @@ protected:
     }
 
     Mat::DocumentMaterial* project = nullptr;
+};
+
+/// Records of the project database as no project writes them, of every kind of JSON.
+inline std::vector<Json::Value> recordsOfEveryKind()
+{
+    Json::Value record;
+    record["proj_tag"] = "Other";
+    record["proj_id"] = 99;
+    record["physics_type"] = "Thermal";
+    record["obj_id"] = 98;
+    record["class"] = "Obj::ProjectObject";
+    record["name_internal"] = "Other";
+    record["label"] = "Other";
+    record["PhysicsType"] = "Thermal";
+    record["objects"] = Json::Value();
+    return {Json::Value(), Json::Value(Json::arrayValue), Json::Value("x"), Json::Value(7), Json::Value(true), record};
+}
+
+/// What the host and the user know of a material, and all of its quantities.
+struct Identity
+{
+    explicit Identity(Mat::MaterialObject& object)
+        : objectId(object.getObjectId()),
+          name(object.get_name_in_project()),
+          label(object.label.getValue()),
+          classLabel(object.classLabel.getValue()),
+          state(object.getObjectState()),
+          materialName(object.getCMaterial()->name)
+    {
+        for (const auto& [id, property] : object.getCMaterial()->properties)
+            quantities[id] = {property->value, property->text};
+    }
+
+    bool operator==(const Identity& other) const
+    {
+        return objectId == other.objectId && name == other.name && label == other.label &&
+               classLabel == other.classLabel && state == other.state && materialName == other.materialName &&
+               quantities == other.quantities;
+    }
+
+    std::uint32_t objectId;
+    std::string name;
+    std::string label;
+    std::string classLabel;
+    Obj::eVXObjectState state;
+    std::string materialName;
+    std::map<int, std::pair<double, std::string>> quantities;
 };
 
 } // namespace vxtest

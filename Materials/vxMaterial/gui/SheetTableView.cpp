@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QStandardItemModel>
 
 #include <algorithm>

@@ -653,7 +653,8 @@ TEST(SheetTableView, UnfoldsNamesWhenTheWindowGetsWider)
     Sheet sheet;
     sheet.tick(6);
     sheet.table.resize(260, 300);
-    ASSERT_TRUE(sheet.show());
+    sheet.table.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&sheet.table));
     const int narrow = sheet.table.columnWidth(1);
     sheet.table.resize(1200, 300);
     QTest::qWait(1);

@@ -37,13 +37,14 @@ public:
     QIconEngine* clone() const override { return new LazyIconEngine(*this); }
 
 private:
-    QPixmap make(const QSize& size, QIcon::Mode mode)
+    QPixmap make(const QSize& size, QIcon::Mode mode) const
     {
+        QPixmap picture = m_makePicture(size);
         if (mode == QIcon::Normal)
-            return m_makePicture(size);
+            return picture;
         QStyleOption option;
         option.palette = QGuiApplication::palette();
-        return QApplication::style()->generatedIconPixmap(mode, pixmap(size, QIcon::Normal, QIcon::Off), &option);
+        return QApplication::style()->generatedIconPixmap(mode, picture, &option);
     }
 
     std::function<QPixmap(const QSize&)> m_makePicture;

@@ -28,11 +28,12 @@ QAction* actionOf(const std::string& commandName)
 }
 
 template <typename Widget, typename Tree>
+// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 QAction* actionOfItem(Widget& widget, const Tree& item);
 
 /// Separators stand between commands, never at the ends or side by side.
-// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 template <typename Widget, typename Tree>
+// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 void addCommands(Widget& widget, const Tree& items)
 {
     bool separatorIsDue = false;
@@ -52,8 +53,8 @@ void addCommands(Widget& widget, const Tree& items)
 }
 
 /// Null for a command that there is not, and for a menu without commands.
-// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 template <typename Widget, typename Tree>
+// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 QAction* actionOfItem(Widget& widget, const Tree& item)
 {
     if (!item.has_items())

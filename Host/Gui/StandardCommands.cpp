@@ -42,6 +42,7 @@ struct Place
 std::vector<Place> placesOf(const std::vector<Obj::ProjectObject*>& objects)
 {
     std::vector<Place> places;
+    places.reserve(objects.size());
     for (const Obj::ProjectObject* const object : objects)
         places.push_back({object->get_project()->getProjectId(), object->getObjectId()});
     return places;

@@ -109,9 +109,9 @@ Item* makeItem(const char* text, std::initializer_list<const char*> itemCommands
 Gui::MenuItem* TestWorkbench::build_menu_bar() const
 {
     auto root = std::make_unique<Gui::MenuItem>();
-    Gui::MenuItem* const test = makeItem<Gui::MenuItem>("&Test", {"Std_Copy", "Separator"});
+    auto* const test = makeItem<Gui::MenuItem>("&Test", {"Std_Copy", "Separator"});
     *test << makeItem<Gui::MenuItem>("&More", {"Std_Undo", "Separator", "Std_Redo"});
-    Gui::MenuItem* const empty = makeItem<Gui::MenuItem>("&Empty", {"No_Such"});
+    auto* const empty = makeItem<Gui::MenuItem>("&Empty", {"No_Such"});
     *empty << makeItem<Gui::MenuItem>("Empty &too", {"Separator"});
     *test << "Separator" << empty;
     *root << test;
@@ -121,7 +121,7 @@ Gui::MenuItem* TestWorkbench::build_menu_bar() const
 Gui::ToolBarGadget* TestWorkbench::build_toolbars() const
 {
     auto root = std::make_unique<Gui::ToolBarGadget>();
-    Gui::ToolBarGadget* const test = makeItem<Gui::ToolBarGadget>("Test", {"Std_Copy"});
+    auto* const test = makeItem<Gui::ToolBarGadget>("Test", {"Std_Copy"});
     *test << makeItem<Gui::ToolBarGadget>("&More", {"Std_Undo"});
     *root << test << makeItem<Gui::ToolBarGadget>("Messages", {"Std_Paste"});
     return root.release();

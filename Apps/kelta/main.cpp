@@ -180,6 +180,9 @@ int runWithWindows(int& argc, char** argv, const Options& options)
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
             window.restore_layout();
+        // Why nothing can be done stands in a dock that may have been hidden the last time.
+        if (!loaded)
+            window.show_messages();
         window.show();
         if (runsAlone(options)) {
             status = openFilesAlone(options.files) ? runAlone(window, options) : 2;

@@ -37,5 +37,6 @@ fi
 "$bin/kelta" --batch examples/tour.batch >out/tour.txt 2>out/tour-notes.txt || { cat out/tour-notes.txt >&2; exit 1; }
 echo
 echo "No display: examples/tour.batch made a material project, added and checked two materials, and wrote"
-echo "out/tour.json: the project as the solver gets it; out/tour.png: the main window; out/tour.txt: cards and record."
+echo "out/tour.vxmat: the project, which build/default/bin/kelta opens; out/tour.json: the same as the solver"
+echo "gets it; out/tour.png: the main window; out/tour.txt: cards and record."
 echo "\"./run.sh --help\" shows what else there is."

@@ -153,6 +153,7 @@ TEST_F(Batch, DoesTheTour)
     const QJsonObject document = QJsonDocument::fromJson(vxtest::readFile(path("out/tour.json"))).object();
     EXPECT_EQ(document["material"].toArray().size(), 2);
     EXPECT_EQ(document["material"].toArray()[0].toObject()["mat_name"].toString(), "Frame");
+    EXPECT_TRUE(vxtest::readFile(path("out/tour.vxmat")).contains("\"Resin\""));
     const QImage picture(path("out/tour.png"));
     EXPECT_GE(picture.width(), 800);
     EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Resin"));

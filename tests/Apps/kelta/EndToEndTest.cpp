@@ -114,7 +114,8 @@ protected:
         ASSERT_EQ(cmake.exitCode(), 0) << cmake.readAllStandardError().toStdString();
     }
 
-    void start()
+    /// Starts the program, and waits for its window, or for one of another title.
+    void start(const char* title = "^kelta$")
     {
         QProcessEnvironment environment = vxtest::cleanEnvironment(home.path());
         environment.insert(QStringLiteral("DISPLAY"), display.name());
@@ -122,7 +123,7 @@ protected:
         kelta.setWorkingDirectory(home.path());
         kelta.start(installed.filePath(QStringLiteral("bin/kelta")), QStringList());
         ASSERT_TRUE(kelta.waitForStarted()) << kelta.errorString().toStdString();
-        ASSERT_TRUE(display.focus("^kelta$"));
+        ASSERT_TRUE(display.focus(title));
     }
 
     void key(const char* keys) const { display.ask({"key", "--clearmodifiers", keys}); }
@@ -200,6 +201,38 @@ TEST_F(EndToEnd, AUserMakesAMaterialOpensItAndExportsIt)
     key("alt+d");
     EXPECT_TRUE(kelta.waitForFinished(patience));
     EXPECT_EQ(kelta.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(kelta.exitCode(), 0);
+}
+
+TEST_F(EndToEnd, AUserGetsBackWhatACrashLeftBehind)
+{
+    install();
+    const QString program = installed.filePath(QStringLiteral("bin/kelta"));
+    const QString work = home.filePath(QStringLiteral("beams.vxmat"));
+    QProcess crashing;
+    crashing.setProcessEnvironment(vxtest::cleanEnvironment(home.path()));
+    crashing.setWorkingDirectory(home.path());
+    vxtest::writeFile(home.filePath(QStringLiteral("list.batch")),
+                      "Mat_NewDoc\nMat_AddMaterial\nlabel Beam\nStd_SaveAs beams.vxmat\nset Density 4321\nsay kept\n" +
+                          QByteArray("screenshot a.png\n").repeated(1000));
+    crashing.start(program, {"--batch", "list.batch"});
+    ASSERT_TRUE(crashing.waitForReadyRead(patience)) << crashing.readAllStandardError().toStdString();
+    crashing.kill();
+    ASSERT_TRUE(crashing.waitForFinished(patience));
+    EXPECT_FALSE(vxtest::readFile(work).contains("4321"));
+
+    start("^Recovery$");
+    key("Return");
+    ASSERT_TRUE(waitUntil([this] { return hasTitle("^beams.vxmat\\* - kelta$"); }));
+    ASSERT_TRUE(display.focus("^beams.vxmat\\* - kelta$"));
+    key("ctrl+s");
+    ASSERT_TRUE(display.focus("^Save project$")); // the file is older than what was recovered
+    key("Return");
+    ASSERT_TRUE(waitUntil([this] { return hasTitle("^beams.vxmat - kelta$"); }));
+    EXPECT_TRUE(vxtest::readFile(work).contains("4321"));
+    ASSERT_TRUE(display.focus("^beams.vxmat - kelta$"));
+    key("ctrl+q");
+    EXPECT_TRUE(kelta.waitForFinished(patience));
     EXPECT_EQ(kelta.exitCode(), 0);
 }
 

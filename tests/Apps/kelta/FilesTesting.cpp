@@ -62,6 +62,8 @@ Files::Files()
     files = std::make_unique<kelta::ProjectFiles>(*window);
     kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
     new kelta::EditorWatch(*window);
+    window->setAcceptDrops(true);
+    window->installEventFilter(new kelta::FileDrops(*files, *window));
     window->set_workbench("MatGui::SimModule");
     window->show();
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileCommands.h"
-#include "ProjectFiles.h"
-
 #include "EditorWatch.h"
+#include "FileCommands.h"
+#include "FileDrops.h"
+#include "ProjectFiles.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"

@@ -5,10 +5,15 @@
 #include "Kelta/MessageLog.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
+#include <QMenu>
+#include <QMimeData>
 #include <QProcess>
 #include <QSettings>
+#include <QUrl>
 
 #include <map>
 
@@ -446,6 +451,77 @@ TEST_F(ProjectFiles, AreListedTheLatestFirst)
     ASSERT_EQ(recent.size(), 2);
     EXPECT_THAT(recent[0].toStdString(), testing::EndsWith("a.vxmat"));
     EXPECT_THAT(recent[1].toStdString(), testing::EndsWith("b & c.vxmat"));
+}
+
+TEST_F(ProjectFiles, AreOfferedInAMenu)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("b & c.vxmat")));
+    ASSERT_TRUE(closeProject());
+    QMenu& menu = *Gui::GuiApplication::Instance->get_command_manager().find_command("Std_OpenRecent")->action()->menu();
+    Q_EMIT menu.aboutToShow();
+    ASSERT_EQ(menu.actions().size(), 1);
+    EXPECT_THAT(menu.actions().front()->text().toStdString(), testing::EndsWith("b && c.vxmat"));
+    menu.actions().front()->trigger();
+    ASSERT_NE(currentProject(), nullptr);
+    EXPECT_NE(findMaterial("Steel"), nullptr);
+}
+
+TEST_F(ProjectFiles, AreOpenedWhenTheyAreDroppedOnTheWindow)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(closeProject());
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path("a.vxmat"))});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    QCoreApplication::processEvents();
+    ASSERT_NE(currentProject(), nullptr);
+    EXPECT_NE(findMaterial("Steel"), nullptr);
+}
+
+TEST_F(ProjectFiles, DoNotTakeTextThatIsDroppedOnTheWindow)
+{
+    QMimeData data;
+    data.setText(QStringLiteral("a.vxmat"));
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(ProjectFiles, TakeInExchangeDocumentsAsOneStep)
+{
+    newProject();
+    addMaterial("Steel");
+    ASSERT_TRUE(run("Mat_Export", path("a.json")));
+    const int steps = history().count();
+    ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
+    ASSERT_EQ(currentProject()->get_object_count(), 2U);
+    const auto* const copy = dynamic_cast<Mat::MaterialObject*>(currentProject()->get_objects().back());
+    EXPECT_EQ(copy->label.getValue(), "Steel");
+    EXPECT_EQ(modulusOf(*copy), 2e11);
+    EXPECT_EQ(copy->getCMaterial()->findProperty(5)->unit, "Pa");
+    EXPECT_EQ(copy->getObjectState(), Obj::eVXObjectState::Ready);
+    EXPECT_EQ(history().count(), steps + 1);
+    history().undo();
+    EXPECT_EQ(currentProject()->get_object_count(), 1U);
+}
+
+TEST_F(ProjectFiles, TakeInNothingOfAWrongDocument)
+{
+    newProject();
+    writeFile(path("a.json"), "{\"proj_type\": 2, \"material\": [{\"mat_id\": \"x\"}]}");
+    const Answers answers({"OK"});
+    run("Std_ImportDocument", path("a.json"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("a.json"));
+    EXPECT_EQ(currentProject()->get_object_count(), 0U);
 }
 
 TEST_F(ProjectFiles, HavePathsWithBlanksQuotesAndChineseCharacters)

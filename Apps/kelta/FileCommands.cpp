@@ -32,10 +32,9 @@ QString askForFile(const char* title, const QString& filter)
 
 void open(ProjectFiles& files)
 {
-    const QString path =
-        askForFile(QT_TRANSLATE_NOOP("FileCommand", "Open project"),
-                   QCoreApplication::translate(context, "Material project (*.vxmat)") + QStringLiteral(";;") +
-                       QCoreApplication::translate(context, "All files (*)"));
+    const QString path = askForFile(QT_TRANSLATE_NOOP("FileCommand", "Open project"),
+                                    QCoreApplication::translate(context, "Material project (*.vxmat)") +
+                                        QStringLiteral(";;") + QCoreApplication::translate(context, "All files (*)"));
     if (!path.isEmpty())
         files.open(path);
 }
@@ -154,7 +153,8 @@ private:
             QString text = QDir::toNativeSeparators(paths[index]);
             text.replace(QLatin1Char('&'), QStringLiteral("&&"));
             const QString number = index < 9 ? QStringLiteral("&%1 ").arg(index + 1) : QString();
-            QObject::connect(menu.addAction(number + text), &QAction::triggered, &menu, [this, index] { invoke(index); });
+            QObject::connect(menu.addAction(number + text), &QAction::triggered, &menu,
+                             [this, index] { invoke(index); });
         }
     }
 

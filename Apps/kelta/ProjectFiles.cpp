@@ -64,7 +64,8 @@ std::array<float, 4> colourOf(Obj::ProjectObject& object)
 {
     Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
     const auto* const colour =
-        node != nullptr ? dynamic_cast<const Obj::PropertyColor*>(node->get_property_by_name("MaterialColor")) : nullptr;
+        node != nullptr ? dynamic_cast<const Obj::PropertyColor*>(node->get_property_by_name("MaterialColor"))
+                        : nullptr;
     if (colour == nullptr)
         return {};
     const Obj::Color& value = colour->getValue();
@@ -144,8 +145,7 @@ void ProjectFiles::add(Obj::Project& project)
     if (!session.path.isEmpty() && !session.lock) {
         session.lock.emplace(session.path);
         if (!session.lock->tryLock())
-            Kelta::MessageLog::warning(
-                tr("\"%1\" is in use by %2.").arg(shown(session.path), session.lock->holder()));
+            Kelta::MessageLog::warning(tr("\"%1\" is in use by %2.").arg(shown(session.path), session.lock->holder()));
     }
     if (!session.connections.empty())
         return;
@@ -157,10 +157,8 @@ void ProjectFiles::add(Obj::Project& project)
     }));
     session.connections.emplace_back(project.objectRemoved.connect(changed));
     session.connections.emplace_back(project.changed.connect(changed));
-    session.connections.emplace_back(
-        project.objectChanged.connect([this](Obj::ProjectObject& object, const Obj::Property* property) {
-            objectChanged(object, property);
-        }));
+    session.connections.emplace_back(project.objectChanged.connect(
+        [this](Obj::ProjectObject& object, const Obj::Property* property) { objectChanged(object, property); }));
 }
 
 void ProjectFiles::remove(Obj::Project& project)
@@ -255,8 +253,8 @@ bool ProjectFiles::open(const QString& given)
     } catch (const projectfile::StoreError& error) {
         complain(tr("Open project"), QString::fromUtf8(error.what()));
     } catch (const std::exception& error) {
-        complain(tr("Open project"), tr("\"%1\" cannot be opened.").arg(shown(path)) + QLatin1Char('\n') +
-                                         QString::fromUtf8(error.what()));
+        complain(tr("Open project"),
+                 tr("\"%1\" cannot be opened.").arg(shown(path)) + QLatin1Char('\n') + QString::fromUtf8(error.what()));
     }
     return false;
 }
@@ -299,8 +297,8 @@ bool ProjectFiles::saveAs(Mat::DocumentMaterial& project)
     if (session == nullptr)
         return false;
     const QString start = session->path.isEmpty() ? QString() : session->path;
-    const QString chosen = Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), start,
-                                                            tr("Material project (*.vxmat)"));
+    const QString chosen =
+        Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), start, tr("Material project (*.vxmat)"));
     return !chosen.isEmpty() && saveTo(project, canonical(chosen));
 }
 
@@ -398,13 +396,14 @@ bool ProjectFiles::mayClose(Obj::Project& project)
     const bool hasEditors = !changedEditors(project).empty();
     if (materials == nullptr || (!hasChanges && !hasEditors))
         return true;
-    const int choice = ask(m_mainWindow, QMessageBox::Question, tr("Unsaved changes"),
-                           hasChanges ? tr("The changes of the project \"%1\" have not been saved.").arg(nameOf(project))
-                                      : tr("Changes in open editors have not been applied."),
-                           hasChanges && hasEditors ? tr("Changes in open editors have not been applied.") : QString(),
-                           {{tr("&Save"), QMessageBox::AcceptRole},
-                            {tr("&Discard"), QMessageBox::DestructiveRole},
-                            {tr("Cancel"), QMessageBox::RejectRole}});
+    const int choice =
+        ask(m_mainWindow, QMessageBox::Question, tr("Unsaved changes"),
+            hasChanges ? tr("The changes of the project \"%1\" have not been saved.").arg(nameOf(project))
+                       : tr("Changes in open editors have not been applied."),
+            hasChanges && hasEditors ? tr("Changes in open editors have not been applied.") : QString(),
+            {{tr("&Save"), QMessageBox::AcceptRole},
+             {tr("&Discard"), QMessageBox::DestructiveRole},
+             {tr("Cancel"), QMessageBox::RejectRole}});
     return choice == 0 ? save(*materials) : choice == 1;
 }
 
@@ -430,7 +429,8 @@ void ProjectFiles::keepCopies()
             session->isCopyDue = false;
         } catch (const std::exception& error) {
             // Asked for by nobody, so it does not interrupt either.
-            Kelta::MessageLog::warning(tr("No copy for recovery could be kept: %1").arg(QString::fromUtf8(error.what())));
+            Kelta::MessageLog::warning(
+                tr("No copy for recovery could be kept: %1").arg(QString::fromUtf8(error.what())));
         }
     }
 }
@@ -451,12 +451,12 @@ void ProjectFiles::offer_recovery()
     QStringList times;
     for (const RecoveryCopy& copy : copies)
         times << QLocale().toString(copy.time(), QLocale::ShortFormat);
-    const int choice = ask(m_mainWindow, QMessageBox::Question, tr("Recovery"),
-                           tr("The program ended before projects were saved."),
-                           tr("There are copies from %1.").arg(times.join(QStringLiteral(", "))),
-                           {{tr("&Recover"), QMessageBox::AcceptRole},
-                            {tr("&Discard"), QMessageBox::DestructiveRole},
-                            {tr("Later"), QMessageBox::RejectRole}});
+    const int choice =
+        ask(m_mainWindow, QMessageBox::Question, tr("Recovery"), tr("The program ended before projects were saved."),
+            tr("There are copies from %1.").arg(times.join(QStringLiteral(", "))),
+            {{tr("&Recover"), QMessageBox::AcceptRole},
+             {tr("&Discard"), QMessageBox::DestructiveRole},
+             {tr("Later"), QMessageBox::RejectRole}});
     for (RecoveryCopy& copy : copies)
         if (choice == 1 || (choice == 0 && recover(copy)))
             copy.remove();
@@ -499,8 +499,7 @@ bool ProjectFiles::importDocument(Mat::DocumentMaterial& project, const QString&
         for (const QString& doubt : outcome.doubts)
             Kelta::MessageLog::warning(shown(path) + QStringLiteral(": ") + doubt);
         Gui::TreeSelectionSingleton::instance().set_selection({}, outcome.objects);
-        m_mainWindow.statusBar()->showMessage(
-            tr("Materials imported: %1").arg(outcome.objects.size()), 5000);
+        m_mainWindow.statusBar()->showMessage(tr("Materials imported: %1").arg(outcome.objects.size()), 5000);
         return true;
     } catch (const std::exception& error) {
         complain(tr("Import"), QString::fromUtf8(error.what()));

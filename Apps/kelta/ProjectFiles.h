@@ -109,8 +109,9 @@ private:
     void complain(const QString& title, const QString& text);
 
     Gui::MainWindow& m_mainWindow;
-    std::map<std::uint32_t, Session> m_sessions; ///< by the number of the project, also of those that undo can bring back
-    std::uint32_t m_cleanProject = 0; ///< the one whose file agrees with the clean state of the history; 0 for none
+    std::map<std::uint32_t, Session>
+        m_sessions;                    ///< by the number of the project, also of those that undo can bring back
+    std::uint32_t m_cleanProject = 0;  ///< the one whose file agrees with the clean state of the history; 0 for none
     std::uint32_t m_openedProject = 0; ///< likewise, once the history before it has ended
     QTimer m_timer;
     std::vector<boost::signals2::scoped_connection> m_connections;

@@ -28,7 +28,8 @@ std::vector<RecoveryCopy> RecoveryCopy::findAbandoned()
 {
     std::vector<RecoveryCopy> copies;
     const QDir folder = recoveryFolder();
-    for (const QString& name : folder.entryList({QStringLiteral("*.vxmat")}, QDir::Files, QDir::Time | QDir::Reversed)) {
+    for (const QString& name : folder.entryList({QStringLiteral("*.vxmat")}, QDir::Files, QDir::Time | QDir::Reversed))
+    {
         RecoveryCopy copy(folder.filePath(name));
         if (copy.m_lock.tryLock())
             copies.push_back(std::move(copy));

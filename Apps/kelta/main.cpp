@@ -125,7 +125,8 @@ void openFiles(const std::vector<std::string>& paths)
             files->open(file);
         else
             Kelta::MessageLog::error(
-                QCoreApplication::translate("kelta", "\"%1\" cannot be opened without the materials module.").arg(file));
+                QCoreApplication::translate("kelta", "\"%1\" cannot be opened without the materials module.")
+                    .arg(file));
     }
 }
 

@@ -107,7 +107,8 @@ TEST_F(Kill, WhileSavingLeavesTheOldOrTheNewFile)
         QByteArray commands = "Std_Open p.vxmat\nselect Material1\nsay begin\n";
         for (int i = change + 1; i < change + 200; ++i) {
             const QByteArray number = QByteArray::number(i);
-            commands += "set Density " + number + "\nsay applied " + number + ".\nStd_Save\nsay saved " + number + ".\n";
+            commands +=
+                "set Density " + number + "\nsay applied " + number + ".\nStd_Save\nsay saved " + number + ".\n";
         }
         const QByteArray output = runAndKill(commands);
         const int inFile = changeIn(path("p.vxmat"));

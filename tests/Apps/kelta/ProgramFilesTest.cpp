@@ -1,4 +1,5 @@
 #include "KeltaTesting.h"
+#include "SchemaJudge.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,8 +14,9 @@ using ProgramFiles = vxtest::Kelta;
 
 TEST_F(ProgramFiles, AreSavedAndOpenedByLists)
 {
-    const Outcome saved = runBatch("Mat_NewDoc\nMat_AddMaterial\nset \"Young's modulus\" 7e10\nStd_SaveAs \"a b.vxmat\"\n"
-                                   "set Density 2700\nStd_Save\n");
+    const Outcome saved =
+        runBatch("Mat_NewDoc\nMat_AddMaterial\nset \"Young's modulus\" 7e10\nStd_SaveAs \"a b.vxmat\"\n"
+                 "set Density 2700\nStd_Save\n");
     ASSERT_EQ(saved.status, 0) << saved.errors.toStdString();
     const Outcome opened = runBatch("Std_Open \"a b.vxmat\"\nselect Material\ncards\n");
     ASSERT_EQ(opened.status, 0) << opened.errors.toStdString();
@@ -50,6 +52,15 @@ TEST_F(ProgramFiles, ImportExchangeDocumentsCompletely)
     const Outcome outcome = runBatch("Mat_NewDoc\nStd_ImportDocument a.json\nselect Material\nStd_SaveAs a.vxmat\n");
     ASSERT_EQ(outcome.status, 0) << outcome.errors.toStdString();
     EXPECT_THAT(vxtest::readFile(path("a.vxmat")).toStdString(), HasSubstr("\"unit\": \"Pa\""));
+}
+
+TEST_F(ProgramFiles, AreWhatTheirSchemasWant)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nuse \"Plastic Example 1\"\nMat_AddMaterial\nclear\n"
+                                     "Mat_AddMaterial\nStd_Suppress\nStd_SaveAs a.vxmat\nMat_Export a.json\n");
+    ASSERT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+    EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {path("a.vxmat").toStdString()}), "");
+    EXPECT_EQ(vxtest::faultsBySchema("exchange-document.schema.json", {path("a.json").toStdString()}), "");
 }
 
 TEST_F(ProgramFiles, FailToBeSavedOnAFullDevice)

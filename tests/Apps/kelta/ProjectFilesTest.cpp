@@ -1,5 +1,6 @@
 #include "FilesTesting.h"
 #include "Mnemonics.h"
+#include "SchemaJudge.h"
 
 #include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
@@ -459,7 +460,8 @@ TEST_F(ProjectFiles, AreOfferedInAMenu)
     addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("b & c.vxmat")));
     ASSERT_TRUE(closeProject());
-    QMenu& menu = *Gui::GuiApplication::Instance->get_command_manager().find_command("Std_OpenRecent")->action()->menu();
+    QMenu& menu =
+        *Gui::GuiApplication::Instance->get_command_manager().find_command("Std_OpenRecent")->action()->menu();
     Q_EMIT menu.aboutToShow();
     ASSERT_EQ(menu.actions().size(), 1);
     EXPECT_THAT(menu.actions().front()->text().toStdString(), testing::EndsWith("b && c.vxmat"));
@@ -542,6 +544,7 @@ TEST_F(ProjectFiles, KeepACopyAfterEveryApply)
     EXPECT_EQ(copies().size(), 0);
     editModulus(steel, QStringLiteral("1e9")).findChild<QAbstractButton*>(QStringLiteral("btnApply"))->click();
     ASSERT_EQ(copies().size(), 1);
+    EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {copies().front().toStdString()}), "");
     EXPECT_TRUE(contentOf(copies().front()).contains("1000000000") || contentOf(copies().front()).contains("1e+09"));
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     EXPECT_EQ(copies().size(), 0);

@@ -98,11 +98,11 @@ function(vx_install_host_library target)
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_SKIP)
 endfunction()
 
-# vx_add_test(<name> [GUI] SOURCES <file>... LINKS <target>...): a GoogleTest program; each of its tests is one of
+# vx_add_test(<name> [GUI] [ALONE] SOURCES <file>... LINKS <target>...): a GoogleTest program; each of its tests is one of
 # CTest's. All run in the C locale of the process but may switch to the comma-decimal one built for them. With GUI they
-# run inside a GUI application on the offscreen platform.
+# run inside a GUI application on the offscreen platform; ALONE, no other test runs beside them.
 function(vx_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "GUI" "" "SOURCES;LINKS;DEFINITIONS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "GUI;ALONE" "" "SOURCES;LINKS;DEFINITIONS")
     add_executable(${name} ${arg_SOURCES})
     set(main GTest::gmock_main)
     if(arg_GUI)
@@ -110,9 +110,16 @@ function(vx_add_test name)
     endif()
     target_link_libraries(${name} PRIVATE ${arg_LINKS} vx_test_support ${main} vx_options)
     target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
+    # The time that optimising tests takes is never won back by running them.
+    target_compile_options(${name} PRIVATE -O0)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     set(environment "LOCPATH=${VX_TEST_LOCALES}" "QT_QPA_PLATFORM=offscreen")
     set_property(TARGET ${name} PROPERTY CROSSCOMPILING_EMULATOR
                  ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen)
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
+    set(alone OFF)
+    if(arg_ALONE)
+        set(alone ON)
+    endif()
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+        PROPERTIES TIMEOUT 120 RUN_SERIAL ${alone} ENVIRONMENT "${environment}")
 endfunction()

@@ -1,5 +1,6 @@
 #include "kelta/Batch.h"
 
+#include "Gui/EditCommands.h"
 #include "Gui/FileDialog.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
@@ -104,7 +105,8 @@ std::optional<QString> labelSelected(const QStringList& arguments)
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
     if (arguments.size() != 1 || objects.size() != 1)
         return tr("one label, and one selected object, are needed");
-    objects.front()->label.setValue(arguments[0].toStdString());
+    if (!Gui::editProperty(*objects.front(), "Label", arguments[0].toStdString()))
+        return tr("a label that shows nothing cannot be given");
     return std::nullopt;
 }
 

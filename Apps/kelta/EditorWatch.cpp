@@ -9,6 +9,7 @@
 #include "vxMsg/MessageProxy.h"
 
 #include <QAbstractButton>
+#include <QEvent>
 
 #include <exception>
 #include <utility>
@@ -39,9 +40,18 @@ void EditorWatch::watch(Gui::MDIWindow* window)
     if (object == nullptr)
         return;
     m_known[window] = copyOf(*object->getCMaterial());
+    window->installEventFilter(this);
     connect(window, &QObject::destroyed, this, [this](QObject* gone) { m_known.erase(gone); });
     for (QAbstractButton* const button : window->findChildren<QAbstractButton*>())
         connect(button, &QAbstractButton::clicked, this, [this, window] { compare(window); });
+}
+
+bool EditorWatch::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* const window = qobject_cast<Gui::MDIWindow*>(watched);
+    if (event->type() == QEvent::ModifiedChange && window != nullptr && !window->isWindowModified())
+        compare(window);
+    return QObject::eventFilter(watched, event);
 }
 
 void EditorWatch::rememberAll()

@@ -16,8 +16,8 @@ namespace kelta {
 
 /// Makes a step of the history of what the user applies in a material editor.
 ///
-/// Editors write into the material themselves and tell nobody, so the material is compared with what it was whenever a
-/// button of its editor has been pressed.
+/// Editors write into the material themselves and tell nobody, so the material is compared with what it was whenever an
+/// editor has no changes of its own any more, or a button in it has been pressed.
 class EditorWatch : public QObject
 {
     Q_OBJECT
@@ -26,6 +26,9 @@ public:
     /// Belongs to the main window.
     explicit EditorWatch(Gui::MainWindow& mainWindow);
     ~EditorWatch() override;
+
+    /// Sees editors say that everything has been applied.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void watch(Gui::MDIWindow* window);

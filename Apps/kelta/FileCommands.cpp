@@ -154,7 +154,7 @@ private:
             text.replace(QLatin1Char('&'), QStringLiteral("&&"));
             const QString number = index < 9 ? QStringLiteral("&%1 ").arg(index + 1) : QString();
             QObject::connect(menu.addAction(number + text), &QAction::triggered, &menu,
-                             [this, index] { invoke(index); });
+                             [this, path = paths[index]] { m_files.open(path); });
         }
     }
 

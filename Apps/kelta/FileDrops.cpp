@@ -4,6 +4,7 @@
 
 #include "Gui/MainWindow.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTimer>
@@ -34,7 +35,8 @@ bool FileDrops::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     auto* const drop = static_cast<QDropEvent*>(event);
     const QStringList files = filesIn(drop->mimeData());
-    if (files.isEmpty())
+    // Nothing is opened behind a question.
+    if (files.isEmpty() || QApplication::activeModalWidget() != nullptr)
         return QObject::eventFilter(watched, event);
     drop->acceptProposedAction();
     // Later, since the program that the files come from waits for the end of the drop, and questions may be asked.

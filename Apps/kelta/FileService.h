@@ -31,6 +31,8 @@ public:
     virtual bool open(const QString& path) = 0;
     /// Asks about everything that has not been saved; false when the program is to go on.
     virtual bool may_end() = 0;
+    /// The program ends in order, and everybody has been asked: copies for recovery are destroyed.
+    virtual void end() = 0;
     /// Offers what a program that ended without saving has left behind.
     virtual void offer_recovery() = 0;
     /// The file of a project; empty before it is first saved.

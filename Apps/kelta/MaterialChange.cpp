@@ -12,7 +12,7 @@
 #include <QUndoCommand>
 
 #include <algorithm>
-#include <cstring>
+#include <cmath>
 #include <utility>
 
 namespace kelta {
@@ -21,7 +21,7 @@ namespace {
 
 bool areSameNumbers(const double& first, const double& second)
 {
-    return std::memcmp(&first, &second, sizeof first) == 0;
+    return first == second ? std::signbit(first) == std::signbit(second) : std::isnan(first) && std::isnan(second);
 }
 
 bool areSame(const vxMat::MaterialProperty& first, const vxMat::MaterialProperty& second)

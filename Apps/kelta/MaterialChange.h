@@ -14,8 +14,8 @@ namespace kelta {
 /// A copy of a material with every field, the library group and the keys of its properties included.
 std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
 
-/// Whether two materials have the same fields and properties. Numbers are compared by their bits: a zero is not a
-/// negative zero, and what is not a number is itself.
+/// Whether two materials have the same fields and properties. A zero is not a negative zero, and
+/// what is not a number is the same as what is none either.
 bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second);
 
 /// The material of an object is another than before: it has been changed by a step of the history, or one has been taken

@@ -33,7 +33,7 @@ ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path
 {
     projectfile::ImportedMaterials imported;
     try {
-        imported = projectfile::importExchange(readDocument(path));
+        imported = projectfile::importExchange(readDocument(path), projectfile::Numbering::Anew);
     } catch (const projectfile::ImportError& error) {
         throw std::runtime_error(path.toStdString() + ": " + error.what());
     }
@@ -55,8 +55,7 @@ ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path
         object->refreshProperties(true);
         outcome.objects.push_back(object);
     }
-    for (const std::string& doubt : imported.doubts)
-        outcome.doubts << QString::fromStdString(doubt);
+    outcome.doubts = std::move(imported.doubts);
     return outcome;
 }
 

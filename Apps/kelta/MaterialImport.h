@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
+#include <string>
 #include <vector>
 
 namespace Obj {
@@ -19,7 +19,7 @@ namespace kelta {
 struct ImportOutcome
 {
     std::vector<Obj::ProjectObject*> objects;
-    QStringList doubts;
+    std::vector<std::string> doubts;
 };
 
 /// Adds the materials of an exchange document to a project, under numbers of the project's own, as one step of the

@@ -18,6 +18,7 @@
 #include "vxMsg/MessageProxy.h"
 
 #include <QAbstractButton>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -28,6 +29,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <limits>
 #include <utility>
 
 namespace kelta {
@@ -41,8 +43,14 @@ constexpr int copyInterval = 60 * 1000;
 /// A file under the one name that all ways to it share.
 QString canonical(const QString& path)
 {
-    const QFileInfo info(path);
-    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    QFileInfo info(path);
+    // The end of a chain of links that lead nowhere yet; a circle has none.
+    for (int links = 0; !info.exists() && info.isSymLink() && links < 40; ++links)
+        info.setFile(info.symLinkTarget());
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
 }
 
 QString shown(const QString& path)
@@ -72,6 +80,17 @@ std::array<float, 4> colourOf(Obj::ProjectObject& object)
     return {value.red, value.green, value.blue, value.alpha};
 }
 
+/// What tells two contents of a project from each other. The host's record is left out, since it says which number the
+/// project has in this run, and so is the next number: one that was used and taken back is no change to be saved.
+QByteArray contentOf(projectfile::ProjectRecord record)
+{
+    record.database = Json::Value();
+    record.nextObjectId = std::uint64_t{std::numeric_limits<std::uint32_t>::max()} + 1;
+    const std::string text = projectfile::writeProject(record);
+    return QCryptographicHash::hash(QByteArray::fromRawData(text.data(), static_cast<int>(text.size())),
+                                    QCryptographicHash::Md5);
+}
+
 /// A question with buttons of their own texts; answers the number of the one that was chosen, the last one for none.
 int ask(QWidget& parent, QMessageBox::Icon icon, const QString& title, const QString& text, const QString& details,
         const std::vector<std::pair<QString, QMessageBox::ButtonRole>>& choices)
@@ -80,6 +99,7 @@ int ask(QWidget& parent, QMessageBox::Icon icon, const QString& title, const QSt
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(details);
     std::vector<QAbstractButton*> buttons;
+    buttons.reserve(choices.size());
     for (const auto& [label, role] : choices)
         buttons.push_back(box.addButton(label, role));
     box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
@@ -125,14 +145,15 @@ ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow) : m_mainWindow(mainWindo
         const auto session = m_sessions.find(m_cleanProject);
         if (!clean || history.count() == 0 || session == m_sessions.end())
             return;
-        session->second.isModified = false;
-        forgetCopy(session->second);
+        reconsider(session->second, m_cleanProject);
     });
     connect(&m_timer, &QTimer::timeout, this, &ProjectFiles::keepCopies);
     m_timer.start(copyInterval);
 }
 
-ProjectFiles::~ProjectFiles()
+ProjectFiles::~ProjectFiles() = default;
+
+void ProjectFiles::end()
 {
     for (auto& [id, session] : m_sessions)
         forgetCopy(session);
@@ -142,11 +163,9 @@ void ProjectFiles::add(Obj::Project& project)
 {
     // A project that undo brings back is known already; its file may have got another user meanwhile.
     Session& session = m_sessions[project.getProjectId()];
-    if (!session.path.isEmpty() && !session.lock) {
-        session.lock.emplace(session.path);
-        if (!session.lock->tryLock())
-            Kelta::MessageLog::warning(tr("\"%1\" is in use by %2.").arg(shown(session.path), session.lock->holder()));
-    }
+    session.isCopyDue = session.isModified;
+    if (!session.path.isEmpty() && !session.lock)
+        takeLock(session);
     if (!session.connections.empty())
         return;
     const auto changed = [this, &project](auto&&...) { markModified(project); };
@@ -159,6 +178,27 @@ void ProjectFiles::add(Obj::Project& project)
     session.connections.emplace_back(project.changed.connect(changed));
     session.connections.emplace_back(project.objectChanged.connect(
         [this](Obj::ProjectObject& object, const Obj::Property* property) { objectChanged(object, property); }));
+}
+
+void ProjectFiles::takeLock(Session& session)
+{
+    try {
+        session.lock.emplace(session.path);
+        if (!session.lock->tryLock() && !session.lock->holder().isEmpty())
+            Kelta::MessageLog::warning(tr("\"%1\" is in use by %2.").arg(shown(session.path), session.lock->holder()));
+    } catch (const projectfile::StoreError& error) {
+        Kelta::MessageLog::warning(QString::fromUtf8(error.what()));
+    }
+}
+
+void ProjectFiles::reconsider(Session& session, std::uint32_t projectId)
+{
+    // Not everything is a step of the history, so the content has the last word.
+    Mat::DocumentMaterial* const project = asMaterials(Obj::Application::instance().get_project(projectId));
+    if (project == nullptr || contentOf(makeRecord(*project, session.further)) != session.content)
+        return;
+    session.isModified = false;
+    forgetCopy(session);
 }
 
 void ProjectFiles::remove(Obj::Project& project)
@@ -187,10 +227,13 @@ void ProjectFiles::objectChanged(Obj::ProjectObject& object, const Obj::Property
 
 void ProjectFiles::markModified(const Obj::Project& project)
 {
-    if (Session* const session = find(project)) {
-        session->isModified = true;
-        session->isCopyDue = true;
-    }
+    Session* const session = find(project);
+    if (session == nullptr)
+        return;
+    // The title shows it, also of what is no step of the history.
+    if (!std::exchange(session->isModified, true))
+        QTimer::singleShot(0, &m_mainWindow, &Gui::MainWindow::update_commands);
+    session->isCopyDue = true;
 }
 
 ProjectFiles::Session* ProjectFiles::find(const Obj::Project& project)
@@ -217,9 +260,23 @@ bool ProjectFiles::is_modified(const Obj::Project& project) const
     return session != nullptr && session->isModified;
 }
 
-bool ProjectFiles::open(const QString& given)
+bool ProjectFiles::open(const QString& path)
 {
-    const QString path = canonical(given);
+    try {
+        return openFile(canonical(path));
+    } catch (const projectfile::StoreError& error) {
+        if (!QFileInfo::exists(path))
+            forget(path);
+        complain(tr("Open project"), QString::fromUtf8(error.what()));
+    } catch (const std::exception& error) {
+        complain(tr("Open project"),
+                 tr("\"%1\" cannot be opened.").arg(shown(path)) + QLatin1Char('\n') + QString::fromUtf8(error.what()));
+    }
+    return false;
+}
+
+bool ProjectFiles::openFile(const QString& path)
+{
     if (Mat::DocumentMaterial* const project = findOpen(path)) {
         Gui::TreeSelectionSingleton::instance().set_selection({project}, {});
         return true;
@@ -227,36 +284,36 @@ bool ProjectFiles::open(const QString& given)
     projectfile::FileLock lock(path);
     if (QFileInfo::exists(path) && !mayUse(lock, path))
         return false;
-    try {
-        const Busy busy;
-        projectfile::FileStamp stamp;
-        projectfile::ProjectRecord record = projectfile::readProject(projectfile::readFile(path, &stamp));
-        FurtherMembers further;
-        Obj::Project* const project = openRecord(record, further);
-        if (project == nullptr)
-            return false;
-        Session& session = *find(*project);
-        session.path = path;
-        session.stamp = stamp;
-        session.lock = std::move(lock);
-        session.further = std::move(further);
-        session.isModified = !record.doubts.empty();
-        session.isCopyDue = session.isModified;
-        // The history before ends with this command, if there is any.
-        const bool historyEnds = vxMsg::MessageProxy::instance().undoStack().count() != 0;
-        (historyEnds ? m_openedProject : m_cleanProject) = session.isModified ? 0 : project->getProjectId();
-        for (const std::string& doubt : record.doubts)
-            Kelta::MessageLog::warning(shown(path) + QStringLiteral(": ") + QString::fromStdString(doubt));
-        remember(path);
-        m_mainWindow.update_commands();
-        return true;
-    } catch (const projectfile::StoreError& error) {
-        complain(tr("Open project"), QString::fromUtf8(error.what()));
-    } catch (const std::exception& error) {
-        complain(tr("Open project"),
-                 tr("\"%1\" cannot be opened.").arg(shown(path)) + QLatin1Char('\n') + QString::fromUtf8(error.what()));
-    }
-    return false;
+    const Busy busy;
+    projectfile::FileStamp stamp;
+    projectfile::ProjectRecord record = projectfile::readProject(projectfile::readFile(path, &stamp));
+    FurtherMembers further;
+    Obj::Project* const project = openRecord(record, further);
+    if (project == nullptr)
+        return false;
+    Session& session = *find(*project);
+    session.path = path;
+    session.stamp = stamp;
+    session.lock = std::move(lock);
+    session.further = std::move(further);
+    session.content = contentOf(makeRecord(*asMaterials(project), session.further));
+    session.isModified = !record.doubts.empty();
+    session.isCopyDue = session.isModified;
+    // The history before ends with this command, if there is any.
+    const bool historyEnds = vxMsg::MessageProxy::instance().undoStack().count() != 0;
+    (historyEnds ? m_openedProject : m_cleanProject) = session.isModified ? 0 : project->getProjectId();
+    warn(path, record.doubts);
+    remember(path);
+    m_mainWindow.update_commands();
+    return true;
+}
+
+void ProjectFiles::warn(const QString& path, const std::vector<std::string>& doubts)
+{
+    for (const std::string& doubt : doubts)
+        Kelta::MessageLog::warning(shown(path) + QStringLiteral(": ") + QString::fromStdString(doubt));
+    if (!doubts.empty())
+        m_mainWindow.show_messages();
 }
 
 Obj::Project* ProjectFiles::openRecord(projectfile::ProjectRecord& record, FurtherMembers& further)
@@ -307,38 +364,49 @@ bool ProjectFiles::saveTo(Mat::DocumentMaterial& project, const QString& path)
     if (!applyEditors(project))
         return false;
     Session& session = *find(project);
-    std::optional<projectfile::FileLock> otherLock;
-    if (path != session.path) {
-        if (const Mat::DocumentMaterial* const other = findOpen(path)) {
-            complain(tr("Save project"),
-                     tr("\"%1\" is the file of the project \"%2\", which is open.").arg(shown(path), nameOf(*other)));
-            return false;
-        }
-        if (!mayUse(otherLock.emplace(path), path))
-            return false;
-    } else if (!mayReplace(session, path)) {
-        return false;
-    }
     try {
+        if (!mayWrite(session, path))
+            return false;
         const Busy busy;
-        session.stamp = projectfile::writeFile(path, projectfile::writeProject(makeRecord(project, session.further)));
+        projectfile::ProjectRecord record = makeRecord(project, session.further);
+        session.stamp = projectfile::writeFile(path, projectfile::writeProject(record));
+        session.content = contentOf(std::move(record));
+        session.path = canonical(path);
     } catch (const std::exception& error) {
         complain(tr("Save project"), QString::fromUtf8(error.what()));
         return false;
     }
-    session.path = path;
-    if (otherLock)
-        session.lock = std::move(*otherLock);
     session.isRecovered = false;
     session.isModified = false;
     // Not possible while a step of the history is being made, as when editors have been applied for this.
     QUndoStack& history = vxMsg::MessageProxy::instance().undoStack();
+    m_cleanProject = 0;
     history.setClean();
     m_cleanProject = history.isClean() ? project.getProjectId() : 0;
     forgetCopy(session);
-    remember(path);
-    m_mainWindow.statusBar()->showMessage(tr("\"%1\" has been saved.").arg(shown(path)), 5000);
+    remember(session.path);
+    m_mainWindow.statusBar()->showMessage(tr("\"%1\" has been saved.").arg(shown(session.path)), 5000);
     m_mainWindow.update_commands();
+    return true;
+}
+
+bool ProjectFiles::mayWrite(Session& session, const QString& path)
+{
+    if (path == session.path) {
+        // Another program that had it may have let go of it.
+        if (session.lock && !session.lock->isLocked())
+            static_cast<void>(session.lock->tryLock());
+        return mayReplace(session, path);
+    }
+    if (const Mat::DocumentMaterial* const other = findOpen(path)) {
+        complain(tr("Save project"),
+                 tr("\"%1\" is the file of the project \"%2\", which is open.").arg(shown(path), nameOf(*other)));
+        return false;
+    }
+    projectfile::FileLock lock(path);
+    if (!mayUse(lock, path))
+        return false;
+    session.lock = std::move(lock);
     return true;
 }
 
@@ -354,19 +422,22 @@ bool ProjectFiles::mayReplace(const Session& session, const QString& path)
                {{tr("&Replace"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
-std::vector<Gui::MDIWindow*> ProjectFiles::changedEditors(const Obj::Project& project) const
+std::vector<QPointer<Gui::MDIWindow>> ProjectFiles::changedEditors(const Obj::Project& project) const
 {
-    std::vector<Gui::MDIWindow*> editors;
+    std::vector<QPointer<Gui::MDIWindow>> editors;
     for (Gui::MDIWindow* const window : m_mainWindow.get_mdi_windows())
         if (window->isWindowModified() && window->get_gui_project() != nullptr &&
             &window->get_gui_project()->get_project() == &project)
-            editors.push_back(window);
+            editors.emplace_back(window);
     return editors;
 }
 
 bool ProjectFiles::applyEditors(const Obj::Project& project)
 {
-    for (Gui::MDIWindow* const editor : changedEditors(project)) {
+    // Each question runs the event loop, and an editor may go meanwhile.
+    for (const QPointer<Gui::MDIWindow>& editor : changedEditors(project)) {
+        if (editor == nullptr)
+            continue;
         m_mainWindow.set_active_mdi_window(editor);
         const QString title = editor->windowTitle().remove(QStringLiteral("[*]"));
         const int choice = ask(m_mainWindow, QMessageBox::Question, tr("Save project"),
@@ -380,10 +451,11 @@ bool ProjectFiles::applyEditors(const Obj::Project& project)
         if (choice == 1)
             continue;
         // The editor applies as if the user had pressed its button, and says itself what cannot be applied.
-        auto* const apply = editor->findChild<QAbstractButton*>(QStringLiteral("btnApply"));
+        auto* const apply =
+            editor != nullptr ? editor->findChild<QAbstractButton*>(QStringLiteral("btnApply")) : nullptr;
         if (apply != nullptr)
             apply->click();
-        if (editor->isWindowModified())
+        if (editor != nullptr && editor->isWindowModified())
             return false;
     }
     return true;
@@ -423,9 +495,11 @@ void ProjectFiles::keepCopies()
         try {
             projectfile::ProjectRecord record = makeRecord(*materials, session->further);
             record.recoveredFile = session->path.toStdString();
-            if (session->copy == nullptr)
-                session->copy = std::make_unique<RecoveryCopy>();
-            session->copy->write(projectfile::writeProject(record));
+            const std::string text = projectfile::writeProject(record);
+            auto first = session->copy == nullptr ? std::make_unique<RecoveryCopy>() : nullptr;
+            (first != nullptr ? *first : *session->copy).write(text);
+            if (first != nullptr)
+                session->copy = std::move(first);
             session->isCopyDue = false;
         } catch (const std::exception& error) {
             // Asked for by nobody, so it does not interrupt either.
@@ -471,10 +545,11 @@ bool ProjectFiles::recover(RecoveryCopy& copy)
         if (project == nullptr)
             return false;
         Session& session = *find(*project);
-        session.path = QString::fromStdString(record.recoveredFile.value_or(std::string()));
-        if (!session.path.isEmpty()) {
-            session.lock.emplace(session.path);
-            static_cast<void>(session.lock->tryLock());
+        const QString path = QString::fromStdString(record.recoveredFile.value_or(std::string()));
+        // Of two copies of a file one alone can go back into it.
+        if (!path.isEmpty() && findOpen(path) == nullptr) {
+            session.path = path;
+            takeLock(session);
         }
         session.further = std::move(further);
         session.isRecovered = true;
@@ -483,7 +558,7 @@ bool ProjectFiles::recover(RecoveryCopy& copy)
         // The old copy goes only when there is a new one.
         keepCopies();
         m_mainWindow.update_commands();
-        return find(*project)->copy != nullptr;
+        return !session.isCopyDue;
     } catch (const std::exception& error) {
         complain(tr("Recovery"), tr("\"%1\" cannot be recovered.").arg(shown(copy.path())) + QLatin1Char('\n') +
                                      QString::fromUtf8(error.what()));
@@ -496,8 +571,7 @@ bool ProjectFiles::importDocument(Mat::DocumentMaterial& project, const QString&
     try {
         const Busy busy;
         const ImportOutcome outcome = kelta::importDocument(project, path);
-        for (const QString& doubt : outcome.doubts)
-            Kelta::MessageLog::warning(shown(path) + QStringLiteral(": ") + doubt);
+        warn(path, outcome.doubts);
         Gui::TreeSelectionSingleton::instance().set_selection({}, outcome.objects);
         m_mainWindow.statusBar()->showMessage(tr("Materials imported: %1").arg(outcome.objects.size()), 5000);
         return true;
@@ -518,6 +592,13 @@ void ProjectFiles::remember(const QString& path)
     files.removeAll(path);
     files.prepend(path);
     QSettings().setValue(QLatin1String(recentKey), QStringList(files.mid(0, recentCount)));
+}
+
+void ProjectFiles::forget(const QString& path)
+{
+    QStringList files = recentFiles();
+    if (files.removeAll(path) != 0)
+        QSettings().setValue(QLatin1String(recentKey), files);
 }
 
 void ProjectFiles::complain(const QString& title, const QString& text)

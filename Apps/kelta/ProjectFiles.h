@@ -7,6 +7,7 @@
 #include "projectfile/ProjectStore.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <boost/signals2/connection.hpp>
 
@@ -43,11 +44,12 @@ class ProjectFiles final : public QObject, public FileService
 
 public:
     explicit ProjectFiles(Gui::MainWindow& mainWindow);
-    /// Destroys the copies for recovery: who ends the program in order has been asked.
+    /// Leaves the copies for recovery where they are.
     ~ProjectFiles() override;
 
     bool open(const QString& path) override;
     bool may_end() override;
+    void end() override;
     void offer_recovery() override;
     QString get_file(const Obj::Project& project) const override;
     bool is_modified(const Obj::Project& project) const override;
@@ -76,6 +78,7 @@ private:
     {
         QString path; ///< empty before it is first saved
         projectfile::FileStamp stamp;
+        QByteArray content; ///< of the file, as far as it does not depend on the run
         std::optional<projectfile::FileLock> lock;
         FurtherMembers further;
         bool isRecovered = false; ///< not saved since it was recovered: the file is older
@@ -90,22 +93,31 @@ private:
     void remove(Obj::Project& project);
     void objectChanged(Obj::ProjectObject& object, const Obj::Property* property);
     void markModified(const Obj::Project& project);
+    /// The history says that the project is as its file is: finds out whether that is so.
+    void reconsider(Session& session, std::uint32_t projectId);
     Session* find(const Obj::Project& project);
     const Session* find(const Obj::Project& project) const;
 
     Obj::Project* openRecord(projectfile::ProjectRecord& record, FurtherMembers& further);
     Mat::DocumentMaterial* findOpen(const QString& path);
     bool recover(RecoveryCopy& copy);
+    bool openFile(const QString& path);
     bool saveTo(Mat::DocumentMaterial& project, const QString& path);
+    /// Whether a project may be written to a file: asks about other programs and later changes, and takes its lock.
+    bool mayWrite(Session& session, const QString& path);
+    void takeLock(Session& session);
     bool mayReplace(const Session& session, const QString& path);
     /// Whether a project may go: asks when it has changes that are not saved, or editors that are not applied.
     bool mayClose(Obj::Project& project);
     bool applyEditors(const Obj::Project& project);
-    std::vector<Gui::MDIWindow*> changedEditors(const Obj::Project& project) const;
+    std::vector<QPointer<Gui::MDIWindow>> changedEditors(const Obj::Project& project) const;
     /// Takes the lock of a file, and asks when another program has it.
     bool mayUse(projectfile::FileLock& lock, const QString& path);
     void forgetCopy(Session& session);
+    /// Says what was doubted in a file, where the user sees it.
+    void warn(const QString& path, const std::vector<std::string>& doubts);
     static void remember(const QString& path);
+    static void forget(const QString& path);
     void complain(const QString& title, const QString& text);
 
     Gui::MainWindow& m_mainWindow;

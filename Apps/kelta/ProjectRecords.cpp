@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <cstdint>
+#include <unordered_map>
 #include <utility>
 
 namespace kelta {
@@ -55,6 +57,33 @@ void fillObject(Mat::MaterialObject& object, const projectfile::ObjectRecord& re
         colour->setValue({(*record.colour)[0], (*record.colour)[1], (*record.colour)[2], (*record.colour)[3]});
 }
 
+/// Gives a record the members that only an earlier one has.
+void addMissing(Json::Value& record, const Json::Value& earlier)
+{
+    for (const std::string& name : earlier.getMemberNames())
+        if (!record.isMember(name))
+            record[name] = earlier[name];
+}
+
+/// Writes back what the database of the file said beyond what this host knows, of the project and of each object.
+void addMissingFromDatabase(Json::Value& database, const Json::Value& earlier)
+{
+    if (!earlier.isObject())
+        return;
+    addMissing(database, earlier);
+    const Json::Value& earlierObjects = earlier["objects"];
+    // A project without objects has null there.
+    if (!earlierObjects.isObject() || !database["objects"].isObject())
+        return;
+    addMissing(database["objects"], earlierObjects);
+    std::unordered_map<std::uint64_t, const Json::Value*> byNumber;
+    for (const Json::Value& object : earlierObjects["object"])
+        byNumber[object["obj_id"].asUInt64()] = &object;
+    for (Json::Value& object : database["objects"]["object"])
+        if (const auto found = byNumber.find(object["obj_id"].asUInt64()); found != byNumber.end())
+            addMissing(object, *found->second);
+}
+
 } // namespace
 
 projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const FurtherMembers& further)
@@ -63,6 +92,7 @@ projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const Furt
     record.name = project.get_name();
     record.nextObjectId = project.get_next_object_id();
     project.save_jsonDB(record.database);
+    addMissingFromDatabase(record.database, further.database);
     for (Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
         record.objects.push_back(makeRecord(*static_cast<Mat::MaterialObject*>(object), further));
     record.further = further.project;
@@ -87,6 +117,7 @@ void fillProject(Obj::Project& project, projectfile::ProjectRecord& record, Furt
     }
     project.skip_object_ids(record.nextObjectId);
     further.project = std::move(record.further);
+    further.database = std::move(record.database);
 }
 
 } // namespace kelta

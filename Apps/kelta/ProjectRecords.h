@@ -21,6 +21,7 @@ namespace kelta {
 struct FurtherMembers
 {
     Json::Value project;
+    Json::Value database;                         ///< the record of the database as it was read
     std::map<std::uint32_t, Json::Value> objects; ///< by number
 };
 

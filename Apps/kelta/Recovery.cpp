@@ -31,7 +31,8 @@ std::vector<RecoveryCopy> RecoveryCopy::findAbandoned()
     for (const QString& name : folder.entryList({QStringLiteral("*.vxmat")}, QDir::Files, QDir::Time | QDir::Reversed))
     {
         RecoveryCopy copy(folder.filePath(name));
-        if (copy.m_lock.tryLock())
+        // It may have gone when the lock was free at last.
+        if (copy.m_lock.tryLock() && QFileInfo::exists(copy.m_path))
             copies.push_back(std::move(copy));
     }
     return copies;
@@ -44,7 +45,10 @@ QDateTime RecoveryCopy::time() const
 
 void RecoveryCopy::write(const std::string& text)
 {
-    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    const QString folder = QFileInfo(m_path).absolutePath();
+    QDir().mkpath(folder);
+    // The project's own file may be for nobody else's eyes.
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     // Locked before it is there: nobody is to take it for one that was left behind.
     if (!m_lock.isLocked())
         m_lock.tryLock();

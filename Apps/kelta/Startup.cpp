@@ -23,6 +23,8 @@ bool loadMaterials()
 
 void shutDown()
 {
+    if (FileService* const files = FileService::instance())
+        files->end();
     FileService::set_instance(nullptr);
     vxMsg::MessageProxy::instance().undoStack().clear();
     Obj::Application::instance().close_all_projects();

@@ -12,6 +12,8 @@
 #include <CLI/CLI.hpp>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
@@ -167,7 +169,10 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTA_VERSION));
     if (!options.language.empty())
         Gui::Translator::instance()->setLanguage(QString::fromStdString(options.language));
+    // What nobody watches leaves the user's settings alone.
+    const QTemporaryDir settings;
     if (runsAlone(options)) {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
         passOn = qInstallMessageHandler(leaveOutSizeHints);
         echoMessages();
     }

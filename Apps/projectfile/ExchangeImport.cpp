@@ -277,7 +277,7 @@ void requireMaterialDocument(const Json::Value& document)
 
 ImportError::~ImportError() = default;
 
-ImportedMaterials importExchange(const Json::Value& document)
+ImportedMaterials importExchange(const Json::Value& document, Numbering numbering)
 {
     requireMaterialDocument(document);
     const Json::Value& list = arrayUnder(document, "material", "$");
@@ -292,7 +292,10 @@ ImportedMaterials importExchange(const Json::Value& document)
     if (list.empty())
         imported.doubts.push_back(tr("the document holds no materials").toStdString());
     for (Json::ArrayIndex i = 0; i < list.size(); ++i) {
-        const std::uint32_t objectId = numbers.keeps(i, stated[i]) ? stated[i] : numbers.next();
+        if (numbering == Numbering::Anew)
+            stated[i] = i + 1;
+        const std::uint32_t objectId =
+            numbering == Numbering::Anew || numbers.keeps(i, stated[i]) ? stated[i] : numbers.next();
         imported.materials.push_back(
             readMaterial(list[i], pathOf("$", "material", i), stated[i], objectId, imported.doubts));
     }

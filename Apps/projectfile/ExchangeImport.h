@@ -41,6 +41,13 @@ struct PROJECTFILE_EXPORT ImportedMaterials
     std::vector<std::string> doubts;
 };
 
+/// Where the numbers of imported materials come from.
+enum class Numbering
+{
+    OfDocument, ///< the document's, as far as objects can have them
+    Anew,       ///< 1, 2, ... in the document's order, for a caller who gives them others
+};
+
 /// Turns a material document ("proj_type" 2) into complete materials.
 ///
 /// Documents carry of each property id, key, name and number. What did not travel comes from the catalogue of
@@ -52,7 +59,8 @@ struct PROJECTFILE_EXPORT ImportedMaterials
 /// replaced by the smallest that is free. So are numbers that repeat: the last material keeps its own, as it does where
 /// readers lose the others.
 /// \throws ImportError when the document is none of materials, or a member is of a kind that cannot be read
-PROJECTFILE_EXPORT ImportedMaterials importExchange(const Json::Value& document);
+PROJECTFILE_EXPORT ImportedMaterials importExchange(const Json::Value& document,
+                                                    Numbering numbering = Numbering::OfDocument);
 
 /// A project of the name with these materials, as the host makes them: its record, and an object for each. The
 /// materials move into it.

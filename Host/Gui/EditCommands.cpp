@@ -1,13 +1,16 @@
-#include "EditCommands.h"
+#include "Gui/EditCommands.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "Obj/Property.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QCoreApplication>
+#include <QUndoCommand>
 
+#include <cstdint>
 #include <memory>
 #include <utility>
 

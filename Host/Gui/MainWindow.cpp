@@ -4,12 +4,14 @@
 #include "WelcomePage.h"
 
 #include "Gui/GuiApplication.h"
+#include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MessageLogView.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/PropertyPanel.h"
 #include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QAction>
@@ -283,7 +285,13 @@ void MainWindow::watchChanges()
     connect(&TreeSelectionSingleton::instance(), &TreeSelectionSingleton::selectionChanged, this, later);
     connect(&proxy.undoStack(), &QUndoStack::indexChanged, this, later);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, later);
-    connect(m_area, &QMdiArea::subWindowActivated, this, later);
+    connect(m_area, &QMdiArea::subWindowActivated, this, [this, later](QMdiSubWindow* frame) {
+        // Commands act on the project that the user works in.
+        const MDIWindow* const window = windowIn(frame);
+        if (window != nullptr && window->get_gui_project() != nullptr)
+            Obj::Application::instance().set_current_project(window->get_gui_project()->get_project());
+        later();
+    });
 }
 
 void MainWindow::buildBars()

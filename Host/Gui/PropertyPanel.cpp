@@ -1,7 +1,6 @@
 #include "Gui/PropertyPanel.h"
 
-#include "EditCommands.h"
-
+#include "Gui/EditCommands.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/TreeSelectionSingleton.h"

@@ -1,8 +1,7 @@
 #include "StandardCommands.h"
 
-#include "EditCommands.h"
-
 #include "Gui/CommandController.h"
+#include "Gui/EditCommands.h"
 #include "Gui/MainWindow.h"
 #include "Gui/MessageLogView.h"
 #include "Gui/ObjectClipboard.h"

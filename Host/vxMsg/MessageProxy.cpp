@@ -181,6 +181,7 @@ Obj::Project* MessageProxy::openProject(const std::string& name, const std::func
         return nullptr;
     Obj::Application& application = Obj::Application::instance();
     const OwnDoing doing(&application);
+    Obj::Project* const before = Obj::Application::get_current_project();
     Obj::Project* const project = application.create_project(materialProjectClass, name);
     if (project == nullptr)
         return nullptr;
@@ -190,6 +191,8 @@ Obj::Project* MessageProxy::openProject(const std::string& name, const std::func
         const OwnDoing closing(project);
         m_watches.erase(project->getProjectId());
         application.close_project(*project);
+        if (before != nullptr)
+            application.set_current_project(*before);
         throw;
     }
     endHistory();

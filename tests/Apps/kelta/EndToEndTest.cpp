@@ -1,5 +1,6 @@
 #include "KeltaTesting.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
@@ -19,12 +20,12 @@ using testing::StartsWith;
 
 constexpr int patience = 60000;
 
-/// Asks again and again, until the answer is yes or patience ends.
-bool waitUntil(const std::function<bool()>& condition)
+/// Asks again and again, until the answer is yes or the time is over.
+bool waitUntil(const std::function<bool()>& condition, qint64 milliseconds = patience)
 {
     QElapsedTimer clock;
     clock.start();
-    while (clock.elapsed() < patience) {
+    while (clock.elapsed() < milliseconds) {
         if (condition())
             return true;
         std::this_thread::yield();
@@ -55,6 +56,13 @@ public:
 
     const QString& name() const { return m_name; }
 
+    /// The display is gone at once, as when a desktop dies.
+    void end()
+    {
+        m_server.kill();
+        m_server.waitForFinished();
+    }
+
     /// Sends events as a keyboard and a mouse do; answers what is printed.
     QString ask(const QStringList& arguments) const
     {
@@ -76,11 +84,14 @@ public:
     /// Waits for a window and gives it the keyboard, as a window manager would.
     bool focus(const QString& title) const
     {
-        if (!waitUntil([&] { return !windows(title).isEmpty(); }))
-            return false;
-        const QString window = windows(title).last();
-        ask({"windowfocus", "--sync", window});
-        return waitUntil([&] { return ask({"getwindowfocus"}) == window; });
+        // Windows change their titles, and take the keyboard when they are ready for it.
+        return waitUntil([&] {
+            const QStringList found = windows(title);
+            if (found.isEmpty())
+                return false;
+            ask({"windowfocus", found.last()});
+            return ask({"getwindowfocus"}) == found.last();
+        });
     }
 
     /// What the screen shows. The server keeps it as a file: a header of 32-bit numbers, colours, pixels.
@@ -115,18 +126,30 @@ protected:
     }
 
     /// Starts the program, and waits for its window, or for one of another title.
-    void start(const char* title = "^kelta$")
+    void start(const char* title = "^kelta$", const QStringList& files = {})
     {
         QProcessEnvironment environment = vxtest::cleanEnvironment(home.path());
         environment.insert(QStringLiteral("DISPLAY"), display.name());
         kelta.setProcessEnvironment(environment);
         kelta.setWorkingDirectory(home.path());
-        kelta.start(installed.filePath(QStringLiteral("bin/kelta")), QStringList());
+        kelta.start(installed.filePath(QStringLiteral("bin/kelta")), files);
         ASSERT_TRUE(kelta.waitForStarted()) << kelta.errorString().toStdString();
         ASSERT_TRUE(display.focus(title));
     }
 
     void key(const char* keys) const { display.ask({"key", "--clearmodifiers", keys}); }
+
+    /// Presses keys in a window, again when nothing comes of it: a window may not listen yet when it has the keyboard.
+    bool press(const char* title, const char* keys, const std::function<bool()>& effect) const
+    {
+        return waitUntil([&] {
+            if (effect())
+                return true;
+            if (!display.windows(title).isEmpty() && display.focus(title))
+                key(keys);
+            return waitUntil(effect, 3000);
+        });
+    }
 
     bool hasMenu() const { return display.ask({"search", "--onlyvisible", "--class", "kelta"}).split('\n').size() > 1; }
 
@@ -141,14 +164,22 @@ protected:
     bool hasTitle(const QString& title) const { return !display.windows(title).isEmpty(); }
 
     /// Double-clicks in the project explorer, row by row, until the editor is there.
-    bool doubleClickMaterial() const
+    bool doubleClickMaterial(const char* title = "^Material - Materials\\*? - kelta$") const
     {
         int y = 60;
-        return waitUntil([this, &y] {
+        return waitUntil([this, &y, title] {
             y = y > 300 ? 60 : y + 8;
             display.ask({"mousemove", "80", QString::number(y), "click", "--repeat", "2", "--delay", "60", "1"});
-            return hasTitle("^Material - Materials\\*? - kelta$");
+            return hasTitle(title);
         });
+    }
+
+    /// Double-clicks in the library, at the left of the document, row by row, and applies: alt+a has no button, so that
+    /// the apply button is clicked, below the table.
+    void applyAnotherMaterial() const
+    {
+        display.ask({"mousemove", "360", "190", "click", "--repeat", "2", "--delay", "60", "1"});
+        display.ask({"mousemove", "650", "580", "click", "1"});
     }
 
     QTemporaryDir installed;
@@ -195,11 +226,9 @@ TEST_F(EndToEnd, AUserMakesAMaterialOpensItAndExportsIt)
     EXPECT_EQ(materials[0].toObject()["mat_name"].toString(), "Material");
     EXPECT_EQ(materials[0].toObject()["Props"].toArray().size(), 9);
 
-    ASSERT_TRUE(display.focus("^Material - Materials\\*? - kelta$"));
-    key("ctrl+q");
-    ASSERT_TRUE(display.focus("^Unsaved changes$"));
-    key("alt+d");
-    EXPECT_TRUE(kelta.waitForFinished(patience));
+    ASSERT_TRUE(
+        press("^Material - Materials\\*? - kelta$", "ctrl+q", [this] { return hasTitle("^Unsaved changes$"); }));
+    EXPECT_TRUE(press("^Unsaved changes$", "alt+d", [this] { return kelta.waitForFinished(10); }));
     EXPECT_EQ(kelta.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(kelta.exitCode(), 0);
 }
@@ -222,18 +251,37 @@ TEST_F(EndToEnd, AUserGetsBackWhatACrashLeftBehind)
     EXPECT_FALSE(vxtest::readFile(work).contains("4321"));
 
     start("^Recovery$");
-    key("Return");
-    ASSERT_TRUE(waitUntil([this] { return hasTitle("^beams.vxmat\\* - kelta$"); }));
-    ASSERT_TRUE(display.focus("^beams.vxmat\\* - kelta$"));
-    key("ctrl+s");
-    ASSERT_TRUE(display.focus("^Save project$")); // the file is older than what was recovered
-    key("Return");
-    ASSERT_TRUE(waitUntil([this] { return hasTitle("^beams.vxmat - kelta$"); }));
+    ASSERT_TRUE(press("^Recovery$", "Return", [this] { return hasTitle("^beams.vxmat\\* - kelta$"); }));
+    // The file is older than what was recovered, so it is asked about.
+    ASSERT_TRUE(press("^beams.vxmat\\* - kelta$", "ctrl+s", [this] { return hasTitle("^Save project$"); }));
+    ASSERT_TRUE(press("^Save project$", "Return", [this] { return hasTitle("^beams.vxmat - kelta$"); }));
     EXPECT_TRUE(vxtest::readFile(work).contains("4321"));
-    ASSERT_TRUE(display.focus("^beams.vxmat - kelta$"));
-    key("ctrl+q");
-    EXPECT_TRUE(kelta.waitForFinished(patience));
+    EXPECT_TRUE(press("^beams.vxmat - kelta$", "ctrl+q", [this] { return kelta.waitForFinished(10); }));
     EXPECT_EQ(kelta.exitCode(), 0);
+}
+
+TEST_F(EndToEnd, AUserWhoseDesktopDiesFindsACopyTheNextTime)
+{
+    install();
+    vxtest::writeFile(home.filePath(QStringLiteral("list.batch")),
+                      "Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs beams.vxmat\n");
+    ASSERT_EQ(vxtest::runKelta(installed.filePath(QStringLiteral("bin/kelta")), {"--batch", "list.batch"}, home.path(),
+                               vxtest::cleanEnvironment(home.path()))
+                  .status,
+              0);
+    start("^kelta$", {"beams.vxmat"});
+    ASSERT_TRUE(doubleClickMaterial("^Material - beams.vxmat\\*? - kelta$"));
+    // Another library material, applied: a copy is kept at once.
+    ASSERT_TRUE(display.focus("^Material - beams.vxmat\\*? - kelta$"));
+    const QDir recovery(home.filePath(QStringLiteral("vxMaterial/kelta/recovery")));
+    const auto hasCopy = [&recovery] { return !recovery.entryList({"*.vxmat"}, QDir::Files).isEmpty(); };
+    ASSERT_TRUE(waitUntil([&] {
+        applyAnotherMaterial();
+        return waitUntil(hasCopy, 3000);
+    }));
+    display.end();
+    ASSERT_TRUE(kelta.waitForFinished(patience));
+    EXPECT_TRUE(hasCopy());
 }
 
 } // namespace

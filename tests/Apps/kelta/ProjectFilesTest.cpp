@@ -1,4 +1,5 @@
 #include "FilesTesting.h"
+#include "HostTesting.h"
 #include "Mnemonics.h"
 #include "SchemaJudge.h"
 
@@ -15,6 +16,7 @@
 #include <QProcess>
 #include <QSettings>
 #include <QUrl>
+#include <QtTest/QtTestGui>
 
 #include <map>
 
@@ -112,6 +114,110 @@ TEST_F(ProjectFiles, KeepMembersThatThisProgramDoesNotKnow)
     EXPECT_TRUE(saved.contains("Another"));
 }
 
+TEST_F(ProjectFiles, KeepMembersOfTheDatabaseThatThisHostDoesNotKnow)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    QByteArray content = contentOf(path("a.vxmat"));
+    content.replace("\"proj_tag\"", "\"proj_owner\": \"Ada\", \"proj_tag\"");
+    content.replace("\"obj_id\"", "\"obj_note\": \"thin\", \"obj_id\"");
+    writeFile(path("b.vxmat"), content);
+    ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
+    addMaterial("Another");
+    ASSERT_TRUE(run("Std_Save"));
+    const QByteArray saved = contentOf(path("b.vxmat"));
+    EXPECT_TRUE(saved.contains("\"proj_owner\": \"Ada\""));
+    EXPECT_EQ(saved.count("\"obj_note\": \"thin\""), 1);
+}
+
+TEST_F(ProjectFiles, AreModifiedEachByItself)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    Mat::DocumentMaterial& first = *currentProject();
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+    Mat::DocumentMaterial& second = *currentProject();
+    addMaterial();
+    Obj::Application::instance().set_current_project(first);
+    addMaterial("Another");
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 2);
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_FALSE(files->is_modified(first));
+    EXPECT_TRUE(files->is_modified(second));
+    EXPECT_EQ(copies().size(), 1);
+}
+
+TEST_F(ProjectFiles, StayModifiedByWhatIsNoStepOfTheHistory)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    steel.label.setValue("Other");
+    addMaterial("Another");
+    history().undo();
+    EXPECT_TRUE(isModified());
+}
+
+TEST_F(ProjectFiles, KeepACopyAgainWhenClosingIsUndone)
+{
+    newProject();
+    addMaterial();
+    {
+        const Answers answers({"Discard"});
+        ASSERT_TRUE(closeProject());
+    }
+    history().undo();
+    ASSERT_TRUE(isModified());
+    files->keepCopies();
+    EXPECT_EQ(copies().size(), 1);
+}
+
+TEST_F(ProjectFiles, AreOneByAllWaysThatLeadToThem)
+{
+    QDir().mkdir(path("real"));
+    ASSERT_TRUE(QFile::link(path("real"), path("link")));
+    ASSERT_TRUE(QFile::link(path("real/b.vxmat"), path("b.vxmat")));
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("link/a.vxmat")));
+    ASSERT_TRUE(run("Std_Open", path("real/a.vxmat")));
+    EXPECT_EQ(Obj::Application::get_projects().size(), 1U);
+    ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+    EXPECT_TRUE(QFileInfo(path("b.vxmat")).isSymLink());
+    ASSERT_TRUE(run("Std_Open", path("real/b.vxmat")));
+    EXPECT_EQ(Obj::Application::get_projects().size(), 1U);
+}
+
+TEST_F(ProjectFiles, SayThatACircleOfLinksIsNoFile)
+{
+    ASSERT_TRUE(QFile::link(path("b.vxmat"), path("a.vxmat")));
+    ASSERT_TRUE(QFile::link(path("a.vxmat"), path("b.vxmat")));
+    const Answers answers({"OK"});
+    run("Std_Open", path("a.vxmat"));
+    EXPECT_EQ(currentProject(), nullptr);
+}
+
+TEST_F(ProjectFiles, LeaveTheCurrentProjectWhenAnotherCannotBeOpened)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    QByteArray content = contentOf(path("a.vxmat"));
+    writeFile(path("b.vxmat"), content.replace("Mat::MaterialObject", "Obj::ProjectObject"));
+    newProject();
+    newProject();
+    Obj::Project* const current = Obj::Application::get_projects().front();
+    Obj::Application::instance().set_current_project(*current);
+    const Answers answers({"OK"});
+    run("Std_Open", path("b.vxmat"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("which is none of a material"));
+    EXPECT_EQ(Obj::Application::get_current_project(), current);
+    EXPECT_EQ(Obj::Application::get_projects().size(), 3U);
+}
+
 TEST_F(ProjectFiles, MarkTheProjectThatHasChanges)
 {
     newProject();
@@ -184,6 +290,21 @@ TEST_F(ProjectFiles, MakeOkInAnEditorUndoable)
     editModulus(steel, QStringLiteral("1e9")).findChild<QAbstractButton*>(QStringLiteral("btnOk"))->click();
     EXPECT_EQ(window->get_active_mdi_window(), nullptr);
     EXPECT_EQ(modulusOf(steel), 1e9);
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 2e11);
+}
+
+TEST_F(ProjectFiles, MakeWhatIsAppliedWhenAnEditorClosesUndoable)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    editModulus(steel, QStringLiteral("1e9"));
+    const Answers answers({"Apply"});
+    run("Std_CloseWindow");
+    EXPECT_TRUE(QTest::qWaitFor([&steel] { return modulusOf(steel) == 1e9; }));
+    EXPECT_TRUE(isModified());
+    EXPECT_EQ(copies().size(), 1);
     history().undo();
     EXPECT_EQ(modulusOf(steel), 2e11);
 }
@@ -617,6 +738,61 @@ TEST_F(ProjectFiles, OfferACrashAgainLater)
     EXPECT_EQ(copies().size(), 0);
     const Answers none;
     files->offer_recovery();
+}
+
+TEST_F(ProjectFiles, KeepTheOldCopyWhenNoNewOneCanBeWritten)
+{
+    newProject();
+    addMaterial("Unsaved");
+    files->keepCopies();
+    crash();
+    const QString copy = copies().front();
+    {
+        // Nothing as large can be written any more.
+        const vxtest::FullDisk full(100);
+        const Answers answers({"Recover"});
+        files->offer_recovery();
+    }
+    EXPECT_NE(findMaterial("Unsaved"), nullptr);
+    EXPECT_TRUE(QFileInfo::exists(copy));
+    EXPECT_GT(QFileInfo(copy).size(), 100);
+}
+
+TEST_F(ProjectFiles, LeaveFileAndProjectAsTheyWereOnAFullDisk)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QByteArray before = contentOf(path("a.vxmat"));
+    addMaterial("Another");
+    {
+        const vxtest::FullDisk full(100);
+        const Answers answers({"OK"});
+        run("Std_Save");
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("a.vxmat"));
+    }
+    EXPECT_EQ(contentOf(path("a.vxmat")), before);
+    EXPECT_TRUE(isModified());
+    ASSERT_TRUE(run("Std_SaveAs", path("elsewhere.vxmat")));
+    EXPECT_FALSE(isModified());
+    EXPECT_TRUE(contentOf(path("elsewhere.vxmat")).contains("Another"));
+}
+
+TEST_F(ProjectFiles, AreSavedElsewhereWhenTheirFolderHasGone)
+{
+    QDir().mkdir(path("gone"));
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("gone/a.vxmat")));
+    ASSERT_TRUE(QDir(path("gone")).removeRecursively());
+    addMaterial("Another");
+    {
+        const Answers answers({"OK"});
+        run("Std_Save");
+    }
+    EXPECT_TRUE(isModified());
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    EXPECT_FALSE(isModified());
 }
 
 TEST_F(ProjectFiles, KeepACopyThatCannotBeRead)

@@ -387,4 +387,22 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_name": []}]}]})", "prop_name: is an array; a text"},
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_key": {}}]}]})", "prop_key: is an object; a text"}));
 
+TEST(ExchangeImport, NumbersAnewWithoutDoubtsForACallerWhoGivesNumbersOfItsOwn)
+{
+    Json::Value document;
+    document["proj_type"] = 2;
+    for (const int number : {7, 7, 0}) {
+        Json::Value material;
+        material["mat_id"] = number;
+        material["mat_name"] = "Steel";
+        material["Props"] = Json::Value(Json::arrayValue);
+        document["material"].append(std::move(material));
+    }
+    const auto imported = importExchange(document, projectfile::Numbering::Anew);
+    ASSERT_EQ(imported.materials.size(), 3U);
+    EXPECT_EQ(imported.materials[0].objectId, 1U);
+    EXPECT_EQ(imported.materials[2].objectId, 3U);
+    EXPECT_TRUE(imported.doubts.empty()) << imported.doubts.front();
+}
+
 } // namespace

@@ -670,6 +670,7 @@ public:
     }
     Kelta::TypeInfo getTypeId() const override { return type; }
 
+    static void* operator new(std::size_t size) { return ::operator new(size); }
     static void operator delete(void* memory, std::size_t size)
     {
         // Volatile, as the compiler knows that nobody may look there.

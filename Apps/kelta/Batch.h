@@ -15,11 +15,11 @@ namespace kelta {
 ///
 /// A line is the name of a command or verb and its arguments, separated by blanks; an argument with blanks stands in
 /// double quotes. Empty lines and lines that begin with "#" are passed over. Verbs are what has no command of its own;
-/// `kelta --help` and docs/kelta.md list them.
+/// docs/kelta.md lists them.
 ///
-/// Message boxes that come up are written to standard error and answered with OK or Yes, or else, as a list says itself
-/// what is to be saved, with discarding; or else they are given up. A command fails when it does
-/// not exist, cannot be applied now, reports an error to the message log or shows a critical box or a warning.
+/// Message boxes that come up are written to standard error, and answered with OK or Yes; one that has neither with
+/// discarding, as a list says itself what is to be saved; and one without that either is closed. A command fails when it
+/// does not exist, cannot be applied now, reports an error to the message log or shows a critical box or a warning.
 class KELTA_BATCH_EXPORT Batch
 {
 public:

@@ -9,7 +9,6 @@
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
-#include "Gui/ViewFeeder.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "projectfile/ProjectFile.h"
@@ -66,18 +65,6 @@ QString nameOf(const Obj::Project& project)
 Mat::DocumentMaterial* asMaterials(Obj::Project* project)
 {
     return dynamic_cast<Mat::DocumentMaterial*>(project);
-}
-
-std::array<float, 4> colourOf(Obj::ProjectObject& object)
-{
-    Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
-    const auto* const colour =
-        node != nullptr ? dynamic_cast<const Obj::PropertyColor*>(node->get_property_by_name("MaterialColor"))
-                        : nullptr;
-    if (colour == nullptr)
-        return {};
-    const Obj::Color& value = colour->getValue();
-    return {value.red, value.green, value.blue, value.alpha};
 }
 
 /// What tells two contents of a project from each other. The host's record is left out, since it says which number the
@@ -171,7 +158,8 @@ void ProjectFiles::add(Obj::Project& project)
     const auto changed = [this, &project](auto&&...) { markModified(project); };
     session.connections.emplace_back(project.objectAdded.connect([this, &project](Obj::ProjectObject& object) {
         if (Session* const found = find(project))
-            found->looks[object.getObjectId()] = {object.isSuppressed(), colourOf(object)};
+            found->looks[object.getObjectId()] = {object.isSuppressed(),
+                                                  colourOf(object).value_or(std::array<float, 4>())};
         markModified(project);
     }));
     session.connections.emplace_back(project.objectRemoved.connect(changed));
@@ -217,7 +205,7 @@ void ProjectFiles::objectChanged(Obj::ProjectObject& object, const Obj::Property
     if (property != nullptr)
         return markModified(*object.get_project());
     // The state is no part of the file.
-    const Look look{object.isSuppressed(), colourOf(object)};
+    const Look look{object.isSuppressed(), colourOf(object).value_or(std::array<float, 4>())};
     Look& known = session->looks[object.getObjectId()];
     if (known.suppressed == look.suppressed && known.colour == look.colour)
         return;

@@ -125,7 +125,7 @@ private:
         m_sessions;                    ///< by the number of the project, also of those that undo can bring back
     std::uint32_t m_cleanProject = 0;  ///< the one whose file agrees with the clean state of the history; 0 for none
     std::uint32_t m_openedProject = 0; ///< likewise, once the history before it has ended
-    QTimer m_timer;
+    QTimer m_timer{this};
     std::vector<boost::signals2::scoped_connection> m_connections;
 };
 

@@ -32,10 +32,7 @@ projectfile::ObjectRecord makeRecord(Mat::MaterialObject& object, const FurtherM
     record.internalName = object.get_name_in_project();
     record.label = object.label.getValue();
     record.suppressed = object.isSuppressed();
-    if (const Obj::PropertyColor* const property = findColour(object)) {
-        const Obj::Color& colour = property->getValue();
-        record.colour = {colour.red, colour.green, colour.blue, colour.alpha};
-    }
+    record.colour = colourOf(object);
     record.material = object.getCMaterial();
     if (const auto found = further.objects.find(record.objectId); found != further.objects.end())
         record.further = found->second;
@@ -85,6 +82,15 @@ void addMissingFromDatabase(Json::Value& database, const Json::Value& earlier)
 }
 
 } // namespace
+
+std::optional<std::array<float, 4>> colourOf(Obj::ProjectObject& object)
+{
+    const Obj::PropertyColor* const property = findColour(object);
+    if (property == nullptr)
+        return std::nullopt;
+    const Obj::Color& colour = property->getValue();
+    return std::array<float, 4>{colour.red, colour.green, colour.blue, colour.alpha};
+}
 
 projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const FurtherMembers& further)
 {

@@ -4,8 +4,10 @@
 
 #include <json/value.h>
 
+#include <array>
 #include <cstdint>
 #include <map>
+#include <optional>
 
 namespace Mat {
 class DocumentMaterial;
@@ -13,6 +15,7 @@ class DocumentMaterial;
 
 namespace Obj {
 class Project;
+class ProjectObject;
 } // namespace Obj
 
 namespace kelta {
@@ -24,6 +27,9 @@ struct FurtherMembers
     Json::Value database;                         ///< the record of the database as it was read
     std::map<std::uint32_t, Json::Value> objects; ///< by number
 };
+
+/// The colour of the node of an object: red, green, blue, opacity; absent without one, as in a program without windows.
+std::optional<std::array<float, 4>> colourOf(Obj::ProjectObject& object);
 
 /// What a project file is to say of a project. The materials stay those of the project.
 projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const FurtherMembers& further);

@@ -671,6 +671,18 @@ TEST_F(ProjectFiles, KeepACopyAfterEveryApply)
     EXPECT_EQ(copies().size(), 0);
 }
 
+TEST_F(ProjectFiles, KeepACopyEveryMinute)
+{
+    newProject();
+    addMaterial();
+    auto* const timer = files->findChild<QTimer*>();
+    ASSERT_NE(timer, nullptr);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 60000);
+    QMetaObject::invokeMethod(timer, "timeout");
+    EXPECT_EQ(copies().size(), 1);
+}
+
 TEST_F(ProjectFiles, KeepNoCopyOfWhatHasNotChanged)
 {
     newProject();

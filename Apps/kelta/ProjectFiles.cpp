@@ -388,7 +388,7 @@ bool ProjectFiles::mayWrite(Session& session, const QString& path)
     }
     if (const Mat::DocumentMaterial* const other = findOpen(path)) {
         complain(tr("Save project"),
-                 tr("\"%1\" is the file of the project \"%2\", which is open.").arg(shown(path), nameOf(*other)));
+                 tr(R"("%1" is the file of the project "%2", which is open.)").arg(shown(path), nameOf(*other)));
         return false;
     }
     projectfile::FileLock lock(path);

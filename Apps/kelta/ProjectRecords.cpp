@@ -114,7 +114,7 @@ void fillProject(Obj::Project& project, projectfile::ProjectRecord& record, Furt
         if (object == nullptr)
             throw projectfile::ProjectFileError(
                 QCoreApplication::translate("kelta::ProjectFiles",
-                                            "The object \"%1\" is of the class \"%2\", which is none of a material")
+                                            R"(The object "%1" is of the class "%2", which is none of a material)")
                     .arg(QString::fromStdString(entry.label), QString::fromStdString(entry.className))
                     .toStdString());
         fillObject(*object, entry, *record.materials[index]);

@@ -200,12 +200,12 @@ std::optional<QString> Batch::runLine(const QString& line)
     return run_command(name, words);
 }
 
-std::optional<QString> Batch::run_command(const QString& name, const QStringList& words)
+std::optional<QString> Batch::run_command(const QString& name, const QStringList& arguments)
 {
     const BoxAnswers boxes;
     const std::size_t errorsBefore = Kelta::MessageLog::instance().errorCount();
     const auto verb = verbs().find(name);
-    std::optional<QString> failure = verb != verbs().end() ? verb->second(words) : runCommand(name, words);
+    std::optional<QString> failure = verb != verbs().end() ? verb->second(arguments) : runCommand(name, arguments);
     QCoreApplication::processEvents();
     // Windows that were closed go only now: no event loop runs.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

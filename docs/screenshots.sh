@@ -64,7 +64,6 @@ select Frame
 Mat_Edit
 select Resin
 Mat_Edit
-Std_SaveAs beams.vxmat
 Mat_Export beams.json
 screenshot $pictures/window.png
 END

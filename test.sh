@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs all tests. Arguments go to ctest: ./test.sh -R Cards
+# Builds the programs and the tests, and runs the tests. ctest gets the arguments: ./test.sh -R Cards
 set -euo pipefail
 cd "$(dirname "$0")"
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Configures and builds a preset (default: default): build.sh [PRESET [TARGET...]]. Standard output stays free for the
-# caller; nothing is said when nothing was to do.
+# Configures and builds a preset (default: default): build.sh [PRESET [TARGET...]]. Writes nothing to standard output, and
+# nothing at all if there is nothing to do.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -5,8 +5,9 @@
 
 namespace vxtest {
 
-/// What a validator of others says of JSON files by a schema of docs/ ("project-file.schema.json"), a line per fault;
-/// empty when they are as the schema wants them. The test fails when the validator cannot do its work.
+/// Validates JSON files by a schema of docs/ ("project-file.schema.json") with the validator of python3-jsonschema.
+/// Returns a line for each fault, an empty text if there is none. The first call starts the validator, which runs until
+/// the program ends. The test fails if the validator does not work or the schema is not a valid one.
 std::string faultsBySchema(const std::string& schema, const std::vector<std::string>& files);
 
 } // namespace vxtest

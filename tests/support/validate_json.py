@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
-"""validate_json.py SCHEMA FILE...: judges JSON documents by a JSON Schema, with a validator of others.
+"""Validates JSON documents by JSON Schemas.
 
-Prints what is wrong, a line each, and ends with 0 when nothing is, with 1 otherwise, with 2 when the schema is none.
-What readers of JSON disagree about is wrong too: members that stand twice, and numbers that a double cannot hold.
+Reads a question a line, "SCHEMA<tab>FILE", until the input ends. Writes a line for each fault of the file, and an empty
+line after the last one. Ends with an error if a schema is not a valid one.
+Members with the same name, and numbers that a double cannot hold, are faults too: readers of JSON disagree about them.
 """
+import functools
 import json
 import math
 import sys
@@ -11,10 +13,10 @@ import sys
 import jsonschema
 
 
-def once(pairs):
+def unique(pairs):
     members = dict(pairs)
     if len(members) != len(pairs):
-        raise ValueError("a member stands twice")
+        raise ValueError("two members have the same name")
     return members
 
 
@@ -31,32 +33,30 @@ def refuse(token):
 
 def read(path):
     with open(path, encoding="utf-8") as file:
-        return json.load(file, object_pairs_hook=once, parse_float=finite, parse_constant=refuse)
+        return json.load(file, object_pairs_hook=unique, parse_float=finite, parse_constant=refuse)
 
 
-def faults(validator, path):
+@functools.lru_cache
+def validator(schema_path):
+    schema = read(schema_path)
+    jsonschema.Draft202012Validator.check_schema(schema)
+    return jsonschema.Draft202012Validator(schema)
+
+
+def faults(schema_path, path):
     try:
         document = read(path)
     except ValueError as error:
         return [str(error)]
-    return [error.json_path + ": " + error.message[:200] for error in validator.iter_errors(document)]
+    return [error.json_path + ": " + error.message[:200] for error in validator(schema_path).iter_errors(document)]
 
 
-def main(schema_path, paths):
-    schema = read(schema_path)
-    try:
-        jsonschema.Draft202012Validator.check_schema(schema)
-    except jsonschema.SchemaError as error:
-        print(schema_path + ": " + error.message)
-        return 2
-    validator = jsonschema.Draft202012Validator(schema)
-    status = 0
-    for path in paths:
-        for fault in faults(validator, path):
-            print(path + ": " + fault)
-            status = 1
-    return status
+def main():
+    for question in iter(sys.stdin.readline, ""):
+        schema_path, path = question.rstrip("\n").split("\t")
+        for fault in faults(schema_path, path):
+            print(path + ": " + fault.replace("\n", " "))
+        print(flush=True)
 
 
-if __name__ == "__main__":
-    sys.exit(main(sys.argv[1], sys.argv[2:]))
+main()

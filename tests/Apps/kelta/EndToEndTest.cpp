@@ -18,9 +18,12 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-constexpr int patience = 60000;
+using vxtest::patience;
 
-/// Asks again and again, until the answer is yes or the time is over.
+/// How long to wait, in milliseconds, before a key or a click is repeated. It may be too short: no effect comes twice.
+constexpr int again = 3000;
+
+/// Asks again and again, until the condition holds or the time is over.
 bool waitUntil(const std::function<bool()>& condition, qint64 milliseconds = patience)
 {
     QElapsedTimer clock;
@@ -51,19 +54,19 @@ public:
     ~Display()
     {
         m_server.terminate();
-        m_server.waitForFinished();
+        m_server.waitForFinished(patience);
     }
 
     const QString& name() const { return m_name; }
 
-    /// The display is gone at once, as when a desktop dies.
+    /// Ends the display at once, as when a desktop dies.
     void end()
     {
         m_server.kill();
-        m_server.waitForFinished();
+        m_server.waitForFinished(patience);
     }
 
-    /// Sends events as a keyboard and a mouse do; answers what is printed.
+    /// Sends events as a keyboard and a mouse do. Returns what is printed.
     QString ask(const QStringList& arguments) const
     {
         QProcess tool;
@@ -133,13 +136,13 @@ protected:
         kelta.setProcessEnvironment(environment);
         kelta.setWorkingDirectory(home.path());
         kelta.start(installed.filePath(QStringLiteral("bin/kelta")), files);
-        ASSERT_TRUE(kelta.waitForStarted()) << kelta.errorString().toStdString();
+        ASSERT_TRUE(kelta.waitForStarted(patience)) << kelta.errorString().toStdString();
         ASSERT_TRUE(display.focus(title));
     }
 
     void key(const char* keys) const { display.ask({"key", "--clearmodifiers", keys}); }
 
-    /// Presses keys in a window, again when nothing comes of it: a window may not listen yet when it has the keyboard.
+    /// Presses keys in a window, again if they have no effect: a window may have the keyboard before it takes keys.
     bool press(const char* title, const char* keys, const std::function<bool()>& effect) const
     {
         return waitUntil([&] {
@@ -147,18 +150,32 @@ protected:
                 return true;
             if (!display.windows(title).isEmpty() && display.focus(title))
                 key(keys);
-            return waitUntil(effect, 3000);
+            return waitUntil(effect, again);
         });
     }
 
     bool hasMenu() const { return display.ask({"search", "--onlyvisible", "--class", "kelta"}).split('\n').size() > 1; }
 
-    /// Opens a menu by its key and chooses the first entry.
-    void chooseFirst(const char* keys) const
+    /// Opens a menu of the main window by its key and chooses the first entry.
+    bool chooseFirst(const char* title, const char* keys) const
     {
-        key(keys);
-        ASSERT_TRUE(waitUntil([this] { return hasMenu(); })) << keys;
+        if (!press(title, keys, [this] { return hasMenu(); }))
+            return false;
         key("Return");
+        return true;
+    }
+
+    /// Types the name of a file into a dialog, again if that has no effect.
+    bool answerWithFile(const char* title, const QString& file) const
+    {
+        return display.focus(title) && waitUntil([&] {
+                   if (!hasTitle(title))
+                       return true;
+                   key("ctrl+a");
+                   display.ask({"type", "--delay", "5", file});
+                   key("Return");
+                   return waitUntil([&] { return !hasTitle(title); }, again);
+               });
     }
 
     bool hasTitle(const QString& title) const { return !display.windows(title).isEmpty(); }
@@ -203,22 +220,19 @@ TEST_F(EndToEnd, AUserMakesAMaterialOpensItAndExportsIt)
 {
     install();
     start();
-    chooseFirst("alt+f");
+    ASSERT_TRUE(chooseFirst("^kelta$", "alt+f"));
     ASSERT_TRUE(waitUntil([this] { return hasTitle("^Materials - kelta"); }));
     ASSERT_TRUE(waitUntil([this] { return !hasMenu(); }));
 
-    chooseFirst("alt+p");
+    ASSERT_TRUE(chooseFirst("^Materials\\*? - kelta", "alt+p"));
     ASSERT_TRUE(waitUntil([this] { return !hasMenu(); }));
     ASSERT_TRUE(doubleClickMaterial());
     EXPECT_GT(countColours(display.picture()), 50);
 
-    chooseFirst("alt+m");
-    ASSERT_TRUE(display.focus("^Export materials$"));
+    ASSERT_TRUE(chooseFirst("^Material - Materials\\*? - kelta$", "alt+m"));
     const QString file = home.filePath(QStringLiteral("materials.json"));
-    display.ask({"type", "--delay", "5", file});
-    key("Return");
-    ASSERT_TRUE(waitUntil([&file] { return QFile::exists(file) && QFile(file).size() > 0; }));
-    ASSERT_TRUE(waitUntil([this] { return !hasTitle("^Export materials$"); }));
+    ASSERT_TRUE(answerWithFile("^Export materials$", file));
+    ASSERT_TRUE(waitUntil([&file] { return QFile(file).size() > 0; }));
     const QJsonObject document = QJsonDocument::fromJson(vxtest::readFile(file)).object();
     EXPECT_EQ(document["proj_type"].toInt(), 2);
     const QJsonArray materials = document["material"].toArray();
@@ -277,7 +291,7 @@ TEST_F(EndToEnd, AUserWhoseDesktopDiesFindsACopyTheNextTime)
     const auto hasCopy = [&recovery] { return !recovery.entryList({"*.vxmat"}, QDir::Files).isEmpty(); };
     ASSERT_TRUE(waitUntil([&] {
         applyAnotherMaterial();
-        return waitUntil(hasCopy, 3000);
+        return waitUntil(hasCopy, again);
     }));
     display.end();
     ASSERT_TRUE(kelta.waitForFinished(patience));

@@ -4,6 +4,7 @@
 #include "FileCommands.h"
 #include "FileDrops.h"
 #include "ProjectFiles.h"
+#include "Waiting.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"

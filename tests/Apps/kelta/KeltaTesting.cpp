@@ -28,7 +28,7 @@ Outcome runKelta(const QString& program, const QStringList& arguments, const QSt
     process.setWorkingDirectory(folder);
     process.start(program, arguments);
     process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished(90000)) << process.errorString().toStdString();
+    EXPECT_TRUE(process.waitForFinished(patience)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};

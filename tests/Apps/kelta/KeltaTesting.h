@@ -8,6 +8,9 @@
 
 namespace vxtest {
 
+/// The longest time to wait for another program, in milliseconds. Only a test that fails takes that long.
+constexpr int patience = 120000;
+
 /// What a program printed, and how it ended.
 struct Outcome
 {

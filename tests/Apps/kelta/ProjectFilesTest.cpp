@@ -302,7 +302,7 @@ TEST_F(ProjectFiles, MakeWhatIsAppliedWhenAnEditorClosesUndoable)
     editModulus(steel, QStringLiteral("1e9"));
     const Answers answers({"Apply"});
     run("Std_CloseWindow");
-    EXPECT_TRUE(QTest::qWaitFor([&steel] { return modulusOf(steel) == 1e9; }));
+    EXPECT_TRUE(vxtest::waitFor([&steel] { return modulusOf(steel) == 1e9; }));
     EXPECT_TRUE(isModified());
     EXPECT_EQ(copies().size(), 1);
     history().undo();

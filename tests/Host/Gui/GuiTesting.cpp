@@ -189,7 +189,7 @@ TestNode& Host::nodeOf(Obj::ProjectObject& object)
 void Host::focusExplorer() const
 {
     window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
     model().synchronize();
     explorer().expandAll();
     explorer().setFocus();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MessageBoxes.h"
+#include "Waiting.h"
 
 #include "Gui/Command.h"
 #include "Gui/CommandController.h"

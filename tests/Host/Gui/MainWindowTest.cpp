@@ -102,8 +102,8 @@ TEST_F(MainWindowTest, DestroysADocumentThatTheUserCloses)
     window->close_current_window();
     EXPECT_TRUE(window->get_mdi_windows().isEmpty());
     EXPECT_EQ(window->get_active_mdi_window(), nullptr);
-    EXPECT_TRUE(QTest::qWaitFor([&document] { return document == nullptr; }));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return showsWelcome(); }));
+    EXPECT_TRUE(vxtest::waitFor([&document] { return document == nullptr; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return showsWelcome(); }));
     window->close_current_window();
 }
 
@@ -115,7 +115,7 @@ TEST_F(MainWindowTest, ClosesADocumentByTheButtonOfItsTab)
                                 : tabs()->tabButton(0, QTabBar::LeftSide);
     ASSERT_NE(button, nullptr);
     QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_TRUE(QTest::qWaitFor([&document] { return document == nullptr; }));
+    EXPECT_TRUE(vxtest::waitFor([&document] { return document == nullptr; }));
 }
 
 /// A document that does not let itself be closed.
@@ -256,9 +256,9 @@ TEST_F(MainWindowTest, ShowsTheMessagesInFrontWhateverTheUserDidWithThem)
     auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
     window->tabifyDockWidget(messages, properties);
     properties->raise();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return messages->visibleRegion().isEmpty(); }));
+    ASSERT_TRUE(vxtest::waitFor([&] { return messages->visibleRegion().isEmpty(); }));
     window->show_messages();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !messages->visibleRegion().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([&] { return !messages->visibleRegion().isEmpty(); }));
 }
 
 TEST_F(MainWindowTest, SelectsAProjectThatTheUserMakes)

@@ -44,7 +44,7 @@ protected:
     /// Types into the editor that has the row, and ends it.
     void typeLabel(const QString& text) const
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return editor() != nullptr; }));
+        ASSERT_TRUE(vxtest::waitFor([this] { return editor() != nullptr; }));
         editor()->selectAll();
         QTest::keyClicks(editor(), text);
         QTest::keyClick(editor(), Qt::Key_Return);

@@ -71,7 +71,7 @@ TEST_F(Tree, TakesChangesOverWhenTheEventLoopIsIdle)
     vxtest::TestProject& project = makeProject();
     addObject(project, "A");
     EXPECT_EQ(tree.rowCount({}), 0);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return tree.rowCount({}) == 1; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return tree.rowCount({}) == 1; }));
     EXPECT_EQ(tree.rowCount(tree.indexOf(project)), 1);
 }
 

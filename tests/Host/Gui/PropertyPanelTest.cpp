@@ -12,7 +12,7 @@ protected:
     Panel() : project(makeProject()), object(addObject(project, "Beam"))
     {
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(vxtest::waitUntilActive(window.get()));
         undoStack().clear();
         show({&object});
     }
@@ -111,7 +111,7 @@ TEST_F(Panel, EditsUndoably)
     ASSERT_EQ(undoStack().count(), 1);
     undoStack().undo();
     EXPECT_EQ(object.count.getValue(), 3);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Count") == "3"; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return value("Count") == "3"; }));
     undoStack().redo();
     EXPECT_EQ(object.count.getValue(), 17);
 }
@@ -143,7 +143,7 @@ TEST_F(Panel, RefusesATextThatIsNoValueAndSaysSo)
     EXPECT_EQ(object.count.getValue(), 3);
     EXPECT_EQ(undoStack().count(), 0);
     EXPECT_EQ(lastMessage(), "\"Count\" cannot be \"many\"; it stays as it was.");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Count") == "3"; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return value("Count") == "3"; }));
 }
 
 TEST_F(Panel, RefusesAnEmptyLabel)
@@ -172,7 +172,7 @@ TEST_F(Panel, EditsPropertiesOfAProjectUndoably)
 TEST_F(Panel, FollowsChangesMadeElsewhere)
 {
     object.count.setValue(8);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Count") == "8"; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return value("Count") == "8"; }));
 }
 
 TEST_F(Panel, UndoesAnEditOfAnObjectThatWasDeletedAndBroughtBackMeanwhile)
@@ -203,7 +203,7 @@ TEST_F(Panel, SaysHowManyAreSelected)
 TEST_F(Panel, EmptiesWhenWhatItShowsGoes)
 {
     project.remove_object(object.getObjectId());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
 }
 
 TEST_F(Panel, SurvivesThatWhatItShowsGoesDuringAnEdit)
@@ -211,7 +211,7 @@ TEST_F(Panel, SurvivesThatWhatItShowsGoesDuringAnEdit)
     panel().editItem(row("Count"), 1);
     ASSERT_NE(panel().viewport()->findChild<QLineEdit*>(), nullptr);
     Obj::Application::instance().close_project(project);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
 }
 
 } // namespace

@@ -80,9 +80,9 @@ TEST_F(StandardCommands, AreEnabledInTheMenusAsTheyApply)
     const QAction* const undo = commands().find_command("Std_Undo")->action();
     EXPECT_FALSE(copy->isEnabled());
     select({&addObject(project)});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return copy->isEnabled() && undo->isEnabled(); }));
+    EXPECT_TRUE(vxtest::waitFor([&] { return copy->isEnabled() && undo->isEnabled(); }));
     undoStack().undo();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !copy->isEnabled() && !undo->isEnabled(); }));
+    EXPECT_TRUE(vxtest::waitFor([&] { return !copy->isEnabled() && !undo->isEnabled(); }));
 }
 
 TEST_F(StandardCommands, SuppressWhatIsSelectedUndoablyInOneStep)
@@ -122,12 +122,13 @@ TEST_F(StandardCommands, CopyAndPasteInOneStep)
     EXPECT_TRUE(run("Std_Paste"));
     ASSERT_THAT(project.get_objects(), SizeIs(4));
     EXPECT_EQ(project.get_objects()[2]->label.getValue(), "A");
-    EXPECT_THAT(selected(), ElementsAre(project.get_objects()[2], project.get_objects()[3]));
+    ASSERT_THAT(selected(), ElementsAre(project.get_objects()[2], project.get_objects()[3]));
     EXPECT_EQ(undoStack().count(), 1);
     const auto pasted = selected();
     undoStack().undo();
     EXPECT_THAT(project.get_objects(), SizeIs(2));
     undoStack().redo();
+    ASSERT_THAT(project.get_objects(), SizeIs(4));
     EXPECT_EQ(project.get_objects()[2], pasted[0]);
     EXPECT_EQ(project.get_objects()[3], pasted[1]);
 }
@@ -211,9 +212,9 @@ TEST_F(StandardCommands, CloseDocuments)
     for (int i = 0; i < 3; ++i)
         addDocument();
     EXPECT_TRUE(run("Std_CloseWindow"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().size() == 2; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().size() == 2; }));
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
     EXPECT_FALSE(isApplicable("Std_CloseWindow"));
 }
 
@@ -263,7 +264,7 @@ TEST_F(StandardCommands, RenameInTheTreeAlsoWhenItIsHidden)
     dock->hide();
     EXPECT_TRUE(run("Std_Rename"));
     EXPECT_TRUE(dock->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return explorer().viewport()->findChild<QLineEdit*>() != nullptr; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return explorer().viewport()->findChild<QLineEdit*>() != nullptr; }));
 }
 
 TEST_F(StandardCommands, DuplicatePassesOverWhatGoesBecauseOfIt)

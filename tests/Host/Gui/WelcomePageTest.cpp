@@ -49,7 +49,7 @@ protected:
     }
     bool waitForButton(const char* name) const
     {
-        return QTest::qWaitFor([&] { return visibleButtons() == QStringList(QLatin1String(name)); });
+        return vxtest::waitFor([&] { return visibleButtons() == QStringList(QLatin1String(name)); });
     }
     void click(const char* name) const
     {
@@ -72,11 +72,11 @@ TEST_F(Welcome, LeadsFromNothingToAnOpenDocument)
     const auto* const edit = page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"));
     EXPECT_FALSE(edit->isEnabled());
     Gui::TreeSelectionSingleton::instance().set_selection({}, Obj::Application::get_current_project()->get_objects());
-    ASSERT_TRUE(QTest::qWaitFor([edit] { return edit->isEnabled(); }));
+    ASSERT_TRUE(vxtest::waitFor([edit] { return edit->isEnabled(); }));
     click("Mat_Edit");
     EXPECT_FALSE(page()->isVisible());
     window->close_current_window();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return page()->isVisible(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return page()->isVisible(); }));
 }
 
 TEST_F(Welcome, FollowsUndo)
@@ -107,7 +107,7 @@ TEST_F(Welcome, OffersTheEditingOfWhatIsSelectedAlone)
     auto* const button = page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"));
     EXPECT_FALSE(button->isEnabled());
     select({project.get_objects()[0]});
-    EXPECT_TRUE(QTest::qWaitFor([button] { return button->isEnabled(); }));
+    EXPECT_TRUE(vxtest::waitFor([button] { return button->isEnabled(); }));
 }
 
 // The last one: the command stays in the program.

@@ -892,7 +892,7 @@ TEST_F(Commands, UndoAndRedoByTheKeyboardLeaveAnEditorWithUnappliedRowsAlone)
     Mat::MaterialObject& material = addMaterial(project);
     addMaterial(project, "Other");
     undoStack().undo();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
     const QPointer<MatGui::MaterialView> editor = &editUnapplied(material);
     QCoreApplication::processEvents();
     QWidget* const button = editor->findChild<QPushButton*>(QStringLiteral("btnApply"));
@@ -935,7 +935,7 @@ TEST_F(ClosingEditors, AreAskedForOneByOneWhenAllAreToClose)
 {
     const MessageBoxes boxes(QMessageBox::Discard);
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
     ASSERT_THAT(boxes.shown(), SizeIs(3));
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(
@@ -956,7 +956,7 @@ TEST_F(ClosingEditors, StayOpenFromTheOneOnWhoseQuestionIsCancelled)
 {
     const MessageBoxes boxes(QMessageBox::Cancel);
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(QTest::qWaitFor([&boxes] { return !boxes.shown().empty(); }));
+    EXPECT_TRUE(vxtest::waitFor([&boxes] { return !boxes.shown().empty(); }));
     QCoreApplication::processEvents();
     EXPECT_THAT(boxes.shown(), SizeIs(1));
     EXPECT_THAT(window->get_mdi_windows(), SizeIs(3));
@@ -970,7 +970,7 @@ TEST_F(ClosingEditors, AskAgainAfterTheWindowThatWasAskedAboutHasGone)
     EXPECT_THAT(window->get_mdi_windows(), SizeIs(2));
     const MessageBoxes boxes(QMessageBox::Discard);
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
     EXPECT_THAT(boxes.shown(), SizeIs(2));
 }
 
@@ -981,7 +981,7 @@ TEST_F(ClosingEditors, AreAskedForByTheCommandAndByTheButtonOfTheTab)
     const auto answers = [](const std::function<void()>& closing) {
         const MessageBoxes boxes(QMessageBox::Cancel);
         closing();
-        EXPECT_TRUE(QTest::qWaitFor([&boxes] { return !boxes.shown().empty(); }));
+        EXPECT_TRUE(vxtest::waitFor([&boxes] { return !boxes.shown().empty(); }));
         QCoreApplication::processEvents();
         return boxes.shown().size();
     };
@@ -1265,7 +1265,7 @@ TEST_F(Commands, ShowTheirBoxesInTheLanguageOfTheUser)
         select({&material});
         EXPECT_TRUE(run("Mat_Delete"));
         editUnapplied(material).close();
-        EXPECT_TRUE(QTest::qWaitFor([&boxes] { return boxes.shown().size() >= 4; }));
+        EXPECT_TRUE(vxtest::waitFor([&boxes] { return boxes.shown().size() >= 4; }));
         ASSERT_THAT(boxes.shown(), SizeIs(texts.boxes.size()));
         for (std::size_t i = 0; i < texts.boxes.size(); ++i) {
             EXPECT_EQ(boxes.shown()[i].title.toStdString(), texts.boxes[i].first);

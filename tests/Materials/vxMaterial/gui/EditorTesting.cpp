@@ -41,12 +41,12 @@ Editor::Editor(const std::function<void(MaterialProject&)>& prepare)
     m_mainWindow.add_mdi_window(m_view);
     m_view->parentWidget()->resize(1000, 700);
     m_mainWindow.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&m_mainWindow));
+    EXPECT_TRUE(vxtest::waitUntilActive(&m_mainWindow));
 }
 
 bool Editor::isClosed() const
 {
-    return QTest::qWaitFor([this] { return m_view == nullptr; });
+    return vxtest::waitFor([this] { return m_view == nullptr; });
 }
 
 QListWidgetItem* Editor::item(const QString& text) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Waiting.h"
+
 #include "Gui/MainWindow.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"

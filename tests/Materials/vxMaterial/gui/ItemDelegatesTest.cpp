@@ -119,7 +119,7 @@ TEST(NotEditableDelegate, OpensNoEditorOnDoubleClickOrKey)
     QTableView& view = cells.view();
     cells.model().setData(cells.index(0, 0), "fixed");
     view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    ASSERT_TRUE(vxtest::waitUntilActive(&view));
     const QPoint position = view.visualRect(cells.index(0, 0)).center();
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, position);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, position);
@@ -139,7 +139,7 @@ TEST(NotEditableDelegate, LetsNoEventTickACheckBox)
     model.item(0, 0)->setCheckable(true);
     cells.view().setModel(&model);
     cells.view().show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&cells.view()));
+    ASSERT_TRUE(vxtest::waitUntilActive(&cells.view()));
     cells.view().setCurrentIndex(model.index(0, 0));
     QTest::keyClick(&cells.view(), Qt::Key_Space);
     EXPECT_EQ(model.item(0, 0)->checkState(), Qt::Unchecked);

@@ -173,6 +173,7 @@ TEST(MaterialView, ShowsADoubleClickedLibraryMaterialAndLeavesTheMaterialUntilAp
     EXPECT_EQ(editor.cell(editor.rowOf(21), 2), "1.81e-05");
     EXPECT_EQ(vxtest::contents(editor.material()), before);
     editor.click("btnApply");
+    ASSERT_EQ(editor.material().properties.count(401), 1U);
     EXPECT_EQ(editor.material().properties.size(), 6U);
     EXPECT_EQ(editor.material().properties.at(401)->value, 343.0);
 }
@@ -585,7 +586,7 @@ std::vector<vxtest::ShownBox> closeAnswering(QMessageBox::StandardButton answer,
 {
     const MessageBoxes boxes(answer);
     close();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return boxes.shown().size() >= count; }));
+    EXPECT_TRUE(vxtest::waitFor([&] { return boxes.shown().size() >= count; }));
     QCoreApplication::processEvents();
     return boxes.shown();
 }

@@ -61,7 +61,7 @@ public:
     {
         table.resize(800, 400);
         table.show();
-        return QTest::qWaitForWindowActive(&table);
+        return vxtest::waitUntilActive(&table);
     }
 
     vxtest::MaterialProject project;
@@ -499,7 +499,7 @@ TEST(SheetTableView, CommitsTypedTextOnReturnAndClosesTheEditor)
         QTest::keyClick(editor, key);
         EXPECT_EQ(sheet.cell(0, 2), "1234.5");
         EXPECT_EQ(vxtest::openEditor(sheet.table), nullptr);
-        EXPECT_TRUE(QTest::qWaitFor([&editor] { return editor == nullptr; }));
+        EXPECT_TRUE(vxtest::waitFor([&editor] { return editor == nullptr; }));
         sheet.setValue(0, "1");
     }
 }
@@ -552,7 +552,7 @@ TEST(SheetTableView, LetsTabLeaveIt)
     sheet.table.setParent(&window);
     auto* const after = new QLineEdit(&window);
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(vxtest::waitUntilActive(&window));
     before->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &sheet.table);
@@ -654,12 +654,12 @@ TEST(SheetTableView, UnfoldsNamesWhenTheWindowGetsWider)
     sheet.tick(6);
     sheet.table.resize(260, 300);
     sheet.table.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&sheet.table));
+    ASSERT_TRUE(vxtest::waitUntilActive(&sheet.table));
     const int narrow = sheet.table.columnWidth(1);
     sheet.table.resize(1200, 300);
-    QTest::qWait(1);
+    EXPECT_TRUE(vxtest::waitFor(
+        [&] { return sheet.table.columnWidth(1) > sheet.table.fontMetrics().horizontalAdvance("Poisson's ratio"); }));
     EXPECT_GT(sheet.table.columnWidth(1), narrow);
-    EXPECT_GT(sheet.table.columnWidth(1), sheet.table.fontMetrics().horizontalAdvance("Poisson's ratio"));
 }
 
 // --- Apply ---

@@ -53,9 +53,13 @@ TEST(CAEMaterials, HasNoEntryForANumberThatItDoesNotHold)
 {
     CAEMaterials section;
     EXPECT_EQ(section.getMaterial(1), nullptr);
-    section.addMaterial(1, makeEntry({}));
-    EXPECT_NE(section.getMaterial(1), nullptr);
-    EXPECT_EQ(section.getMaterial(2), nullptr);
+    for (const unsigned number : {5U, 9U})
+        section.addMaterial(number, makeEntry({}));
+    for (const unsigned number : {5U, 9U})
+        EXPECT_NE(section.getMaterial(number), nullptr) << number;
+    // Below, between and above those that it holds.
+    for (const unsigned number : {0U, 4U, 6U, 8U, 10U, 4294967295U})
+        EXPECT_EQ(section.getMaterial(number), nullptr) << number;
 }
 
 TEST(CAEMaterials, WritesNothingAtAllWhenEmpty)

@@ -64,35 +64,91 @@ TEST(CAESet, HasNoSectionUnderZeroTwoAndOtherNumbers)
         EXPECT_EQ(set.getSection(index), nullptr) << index;
 }
 
-/// A section that tells of its destruction.
+/// What was done to the sections of a set, in order.
+struct Log
+{
+    std::vector<std::string> written;
+    std::vector<std::string> read;
+    std::vector<std::string> destroyed;
+};
+
+/// A section that logs what is done to it.
 template <class Section>
 class Watched : public Section
 {
 public:
-    Watched(std::vector<std::string>& log) : m_log(log) {}
+    Watched(Log& log) : m_log(log) {}
     Watched(const Watched&) = delete;
     Watched& operator=(const Watched&) = delete;
-    ~Watched() override { m_log.emplace_back(Section::typeName()); }
+    ~Watched() override { m_log.destroyed.emplace_back(Section::typeName()); }
+
+    void writeJson(Json::Value& document) const override
+    {
+        m_log.written.emplace_back(Section::typeName());
+        Section::writeJson(document);
+    }
+    void readJson(const Json::Value& document) override
+    {
+        m_log.read.emplace_back(Section::typeName());
+        Section::readJson(document);
+    }
 
 private:
-    std::vector<std::string>& m_log;
+    Log& m_log;
 };
+
+/// A set of a kind whose sections log what is done to them.
+std::unique_ptr<CAESet> watchedSet(unsigned kind, Log& log)
+{
+    auto set = std::make_unique<CAESet>(3, kind);
+    set->system = std::make_unique<Watched<vxCAE::CAESystem>>(log);
+    set->materials = std::make_unique<Watched<vxCAE::CAEMaterials>>(log);
+    set->mesh = std::make_unique<Watched<vxCAE::CAEMesh>>(log);
+    set->boundaryConditions = std::make_unique<Watched<vxCAE::CAEBCS>>(log);
+    set->domainConditions = std::make_unique<Watched<vxCAE::CAEDCS>>(log);
+    set->initialConditions = std::make_unique<Watched<vxCAE::CAEICS>>(log);
+    set->solve = std::make_unique<Watched<vxCAE::CAESolve>>(log);
+    set->result = std::make_unique<Watched<vxCAE::CAEResult>>(log);
+    return set;
+}
 
 TEST(CAESet, DestroysItsSectionsInTheOrderOfTheirMaking)
 {
-    std::vector<std::string> log;
-    {
-        CAESet set(3, 1);
-        set.result = std::make_unique<Watched<vxCAE::CAEResult>>(log);
-        set.solve = std::make_unique<Watched<vxCAE::CAESolve>>(log);
-        set.system = std::make_unique<Watched<vxCAE::CAESystem>>(log);
-        set.materials = std::make_unique<Watched<vxCAE::CAEMaterials>>(log);
-        set.mesh = nullptr;
-        set.boundaryConditions = std::make_unique<Watched<vxCAE::CAEBCS>>(log);
-        set.domainConditions = std::make_unique<Watched<vxCAE::CAEDCS>>(log);
-        set.initialConditions = std::make_unique<Watched<vxCAE::CAEICS>>(log);
-    }
-    EXPECT_THAT(log, ElementsAre("CAESystem", "CAEBCS", "CAEDCS", "CAEICS", "CAEMaterials", "CAESolve", "CAEResult"));
+    Log log;
+    watchedSet(1, log).reset();
+    EXPECT_THAT(log.destroyed, ElementsAre("CAESystem", "CAEMesh", "CAEBCS", "CAEDCS", "CAEICS", "CAEMaterials",
+                                           "CAESolve", "CAEResult"));
+}
+
+TEST(CAESet, DestroysTheOtherSectionsInOrderWhereOneIsMissing)
+{
+    Log log;
+    auto set = watchedSet(1, log);
+    set->mesh = nullptr;
+    log = {};
+    set.reset();
+    EXPECT_THAT(log.destroyed,
+                ElementsAre("CAESystem", "CAEBCS", "CAEDCS", "CAEICS", "CAEMaterials", "CAESolve", "CAEResult"));
+}
+
+TEST(CAESet, WritesAndReadsTheSectionsOfAnAnalysisInTheSameOrder)
+{
+    Log log;
+    const auto set = watchedSet(1, log);
+    const Json::Value document = written(*set);
+    set->readJson(document);
+    EXPECT_THAT(log.written,
+                ElementsAre("CAESystem", "CAEDCS", "CAEMesh", "CAEICS", "CAEBCS", "CAESolve", "CAEResult"));
+    EXPECT_EQ(log.read, log.written);
+}
+
+TEST(CAESet, WritesAndReadsNoOtherSectionOfAMaterialProject)
+{
+    Log log;
+    const auto set = watchedSet(2, log);
+    set->readJson(written(*set));
+    EXPECT_THAT(log.written, ElementsAre("CAEMaterials"));
+    EXPECT_THAT(log.read, ElementsAre("CAEMaterials"));
 }
 
 TEST(CAESet, WritesTheMaterialsOfAMaterialProjectAlone)

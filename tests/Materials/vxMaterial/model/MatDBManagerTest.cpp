@@ -29,7 +29,7 @@ TEST(MatDBManager, HoldsTheLibraryByTypeAndTheCatalogueById)
     MatDBManager manager;
     manager.initMaterialLibrary();
     manager.initPropertyCatalogue();
-    EXPECT_THAT(manager.materials, SizeIs(26));
+    ASSERT_THAT(manager.materials, SizeIs(26));
     EXPECT_THAT(manager.propertyCatalogue, SizeIs(36));
     EXPECT_EQ(manager.materials.at(53)->name, "Water");
     for (const auto& [id, property] : manager.propertyCatalogue)

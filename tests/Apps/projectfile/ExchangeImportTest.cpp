@@ -1,5 +1,7 @@
 #include "projectfile/ExchangeImport.h"
 
+#include "CaseName.h"
+
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
@@ -355,6 +357,11 @@ struct Wrong
     const char* reason;
 };
 
+void PrintTo(const Wrong& wrong, std::ostream* out)
+{
+    *out << wrong.text;
+}
+
 class WrongDocument : public testing::TestWithParam<Wrong>
 {};
 
@@ -385,7 +392,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_type": 4294967296}]}]})", "a whole number from 0 to"},
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_value": true}]}]})", "prop_value: is true or false"},
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_name": []}]}]})", "prop_name: is an array; a text"},
-        Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_key": {}}]}]})", "prop_key: is an object; a text"}));
+        Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_key": {}}]}]})", "prop_key: is an object; a text"}),
+    [](const auto& wrong) { return vxtest::caseName(wrong.index, wrong.param.text); });
 
 TEST(ExchangeImport, NumbersAnewWithoutDoubtsForACallerWhoGivesNumbersOfItsOwn)
 {

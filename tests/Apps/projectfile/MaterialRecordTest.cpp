@@ -1,5 +1,6 @@
 #include "projectfile/MaterialRecord.h"
 
+#include "CaseName.h"
 #include "ProjectTesting.h"
 
 #include "vxMaterial/model/MatDBManager.h"
@@ -115,6 +116,11 @@ struct Wrong
     const char* reason;
 };
 
+void PrintTo(const Wrong& wrong, std::ostream* out)
+{
+    *out << wrong.text;
+}
+
 class WrongRecord : public testing::TestWithParam<Wrong>
 {};
 
@@ -156,6 +162,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Wrong{R"({"properties": [{"category": 10}]})", "\"properties[0].category\""},
                     Wrong{R"({"properties": [{"category": -1}]})", "\"properties[0].category\""},
                     Wrong{R"({"properties": [{"held_as": 1.5}]})", "\"properties[0].held_as\""},
-                    Wrong{R"({"properties": [{"held_as": 4}, {"held_as": 4}]})", "is there twice"}));
+                    Wrong{R"({"properties": [{"held_as": 4}, {"held_as": 4}]})", "is there twice"}),
+    [](const auto& wrong) { return vxtest::caseName(wrong.index, wrong.param.text); });
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "projectfile/ProjectFile.h"
 
+#include "CaseName.h"
 #include "CommaLocale.h"
 #include "DataFile.h"
 #include "ProjectTesting.h"
@@ -380,7 +381,12 @@ struct Wrong
 
 void PrintTo(const Wrong& wrong, std::ostream* out)
 {
-    *out << wrong.from << " -> " << wrong.to;
+    *out << testing::PrintToString(wrong.from) << " -> " << testing::PrintToString(wrong.to);
+}
+
+std::string nameOfCase(const testing::TestParamInfo<Wrong>& wrong)
+{
+    return vxtest::caseName(wrong.index, std::string(wrong.param.from) + " becomes " + wrong.param.to);
 }
 
 class WrongProject : public testing::TestWithParam<Wrong>
@@ -407,7 +413,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Wrong{"  ]\n}\n", "  ],\n}\n", "line 57"},
                     Wrong{"\"Small\",", "\"Small\", \"name\": \"Other\",", "name"},
                     Wrong{"\"obj_id\": 1", "\"obj_id\": 1, \"obj_id\": 1", "obj_id"},
-                    Wrong{"\"unit\": \"kg/m3\"", "\"unit\": \"kg/m3\", \"unit\": \"kg/m3\"", "unit"}));
+                    Wrong{"\"unit\": \"kg/m3\"", "\"unit\": \"kg/m3\", \"unit\": \"kg/m3\"", "unit"}),
+    nameOfCase);
 
 INSTANTIATE_TEST_SUITE_P(
     Content, WrongProject,
@@ -440,7 +447,8 @@ INSTANTIATE_TEST_SUITE_P(
               "\"materials[0].material.properties[1].held_as\" is 2147483648"},
         Wrong{"\"held_as\": 401", "\"held_as\": 4", "\"materials[0].material.properties[1].held_as\" 4 is there twice"},
         Wrong{"\"properties\": []", "\"properties\": [7]", "\"materials[1].material.properties[0]\" is 7"},
-        Wrong{"\"properties\": []", "\"properties\": {}", "\"materials[1].material.properties\" is an object"}));
+        Wrong{"\"properties\": []", "\"properties\": {}", "\"materials[1].material.properties\" is an object"}),
+    nameOfCase);
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, WrongProject,
@@ -457,7 +465,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"next_object_id\": 3", "\"next_object_id\": 4294967297", "\"next_object_id\" is 4294967297"},
         Wrong{"\"name_internal\": \"Material2\",\n      \"label\"",
               "\"name_internal\": \"Material1\",\n      \"label\"",
-              "\"materials[1].name_internal\" is \"Material1\", as that of materials[0]"}));
+              "\"materials[1].name_internal\" is \"Material1\", as that of materials[0]"}),
+    nameOfCase);
 
 INSTANTIATE_TEST_SUITE_P(
     Database, WrongProject,
@@ -478,7 +487,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"object\": [", "\"object\": [7, ", "\"database.objects.object[0].obj_id\" must be"},
         Wrong{"\"database\": {", "\"database\": 7, \"before\": {", "\"database\" must be an object"},
         Wrong{"\"objects\": {", "\"objects\": [], \"before\": {", "\"database.objects\" must be an object"},
-        Wrong{"\"object\": [", "\"object\": {}, \"before\": [", "\"database.objects.object\" must be an array"}));
+        Wrong{"\"object\": [", "\"object\": {}, \"before\": [", "\"database.objects.object\" must be an array"}),
+    nameOfCase);
 
 TEST(ProjectFile, WithAMaterialThatTheDatabaseHasNotIsRefused)
 {

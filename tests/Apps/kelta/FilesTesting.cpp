@@ -11,6 +11,7 @@
 #include <QTableView>
 
 #include <map>
+#include <stdexcept>
 #include <utility>
 
 namespace vxtest {
@@ -89,7 +90,8 @@ bool Files::run(const char* command, const QString& file)
 
 Mat::DocumentMaterial& Files::newProject()
 {
-    EXPECT_TRUE(vxMsg::MessageProxy::instance().newProject("Materials"));
+    if (!vxMsg::MessageProxy::instance().newProject("Materials"))
+        throw std::logic_error("a project was not made");
     return *currentProject();
 }
 
@@ -101,7 +103,8 @@ bool Files::closeProject()
 
 Mat::MaterialObject& Files::addMaterial(const std::string& label)
 {
-    EXPECT_TRUE(vxMsg::MessageProxy::instance().addMaterial(currentProject()->get_name(), label));
+    if (!vxMsg::MessageProxy::instance().addMaterial(currentProject()->get_name(), label))
+        throw std::logic_error("a material was not added");
     Mat::MaterialObject* const object = findMaterial(label);
     object->initCMaterial(vxMat::eMaterialType::StructuralSteel);
     return *object;

@@ -1,4 +1,5 @@
 #include "KeltaTesting.h"
+#include "KillRounds.h"
 
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/model/MaterialLibrary.h"
@@ -8,16 +9,12 @@
 #include <QFile>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
-#include <iostream>
-#include <random>
-#include <thread>
 
 namespace {
 
-/// The change that a project file holds: its number is the density of the first material. Fails the test when the file
-/// is not whole.
+/// The change that a project file holds: its number is the density of the first material. The test fails if the file is
+/// not whole.
 int changeIn(const QString& path)
 {
     try {
@@ -32,24 +29,24 @@ int changeIn(const QString& path)
     }
 }
 
-/// The number behind the last line that begins with `word`; 0 when there is none.
+/// The number behind the last line that begins with `word`; 0 if there is none.
 int lastSaid(const QByteArray& output, const QByteArray& word)
 {
     int last = 0;
     for (const QByteArray& line : output.split('\n'))
-        // The last line may have been cut off.
-        if (line.startsWith(word + ' ') && line.endsWith('.'))
-            last = std::max(last, line.mid(word.size() + 1).chopped(1).toInt());
+        if (line.startsWith(word + ' '))
+            last = std::max(last, line.mid(word.size() + 1).toInt());
     return last;
 }
 
+/// A program that is killed while it changes and saves a project. It counts the calls by which it changes files and dies
+/// in the one that it is given, so that it is killed at each point of its work whatever else the machine does.
 class Kill : public vxtest::Kelta
 {
 protected:
     Kill()
     {
         first.copyFrom(vxMat::StructuralSteel());
-        first.properties.at(vxMat::PropertyId::Density)->value = 1;
         projectfile::ProjectRecord project;
         project.name = "Materials";
         for (std::uint32_t id = 1; id <= 200; ++id) {
@@ -61,6 +58,7 @@ protected:
             project.objects.push_back(std::move(object));
         }
         project.nextObjectId = 201;
+        first.properties.at(vxMat::PropertyId::Density)->value = change;
         vxtest::writeFile(path("p.vxmat"), QByteArray::fromStdString(projectfile::writeProject(project)));
     }
 
@@ -73,85 +71,91 @@ protected:
         return paths;
     }
 
-    /// Runs a list of commands, and kills the program a little after its first word.
-    QByteArray runAndKill(const QByteArray& commands)
+    /// Opens the project and makes the next three changes, each followed by `afterChange`, in which # is its number.
+    /// Dies in the call of this number; 0 for never. Returns what the program printed.
+    QByteArray change3Times(const QByteArray& afterChange, int lastCall)
     {
-        vxtest::writeFile(path("list.batch"), commands);
+        QByteArray commands = "Std_Open p.vxmat\nselect Material1\n";
+        for (int number = change + 1; number <= change + 3; ++number)
+            commands +=
+                QByteArray("set Density #\nsay applied #\n" + afterChange).replace('#', QByteArray::number(number));
+        vxtest::writeFile(path("list.batch"), commands + "Std_SaveAs end.vxmat\n");
+        QFile::remove(path("calls"));
+        QProcessEnvironment environment = vxtest::cleanEnvironment(path(""));
+        environment.insert(QStringLiteral("VX_DIE_IN_FILE_CALL"), QString::number(lastCall));
+        environment.insert(QStringLiteral("VX_FILE_CALLS"), path("calls"));
         QProcess program;
-        program.setProcessEnvironment(vxtest::cleanEnvironment(path("")));
+        program.setProcessEnvironment(environment);
         program.setWorkingDirectory(path(""));
-        program.start(QStringLiteral(KELTA_PROGRAM), {QStringLiteral("--batch"), QStringLiteral("list.batch")});
-        EXPECT_TRUE(program.waitForReadyRead(60000)) << program.readAllStandardError().toStdString();
-        std::this_thread::sleep_for(std::chrono::microseconds(delay(random)));
-        program.kill();
-        program.waitForFinished();
+        program.start(QStringLiteral(MORTAL_KELTA), {QStringLiteral("--batch"), QStringLiteral("list.batch")});
+        EXPECT_TRUE(program.waitForFinished(vxtest::patience)) << program.errorString().toStdString();
+        EXPECT_TRUE(lastCall > 0 || program.exitCode() == 0) << program.readAllStandardError().toStdString();
         return program.readAllStandardOutput();
     }
 
-    void report(const char* what) const
+    /// The calls of the last run, up to those of the last command.
+    QList<QByteArray> calls() const
     {
-        std::cout << rounds << " kills while " << what << ": " << killedWithCopy << " left a copy for recovery, "
-                  << fileBehind << " a file older than the last change, none lost a change\n";
+        QList<QByteArray> names;
+        for (const QByteArray& name : vxtest::readFile(path("calls")).split('\n')) {
+            if (name.contains("end.vxmat"))
+                break;
+            names << name;
+        }
+        return names;
     }
 
-    static constexpr int rounds = KILL_ROUNDS;
+    /// Calls `check` with what the program printed after it was killed, in calls from the first to the last one.
+    template <class Check>
+    void killInAllPartsOf(const QByteArray& afterChange, const Check& check)
+    {
+        EXPECT_EQ(lastSaid(change3Times(afterChange, 0), "applied"), change + 3);
+        const int last = calls().size();
+        EXPECT_GT(last, 20) << "calls are not counted";
+        change = changeIn(path("p.vxmat"));
+        const int rounds = vxtest::killRounds();
+        for (int round = 0; round < rounds && !HasFailure(); ++round) {
+            const QByteArray output = change3Times(afterChange, 1 + round * (last - 1) / std::max(1, rounds - 1));
+            SCOPED_TRACE("killed in the last of " + calls().join(", ").toStdString());
+            check(output);
+            for (const QString& copy : copies())
+                QFile::remove(copy);
+        }
+    }
+
     vxMat::CMaterial first;
-    std::mt19937 random{20250314};
-    std::uniform_int_distribution<int> delay{0, 40000};
-    int killedWithCopy = 0;
-    int fileBehind = 0;
+    int change = 1; ///< what the file holds
 };
 
 TEST_F(Kill, WhileSavingLeavesTheOldOrTheNewFile)
 {
-    int change = 1;
-    for (int round = 0; round < rounds && !HasFailure(); ++round) {
-        QByteArray commands = "Std_Open p.vxmat\nselect Material1\n";
-        for (int i = change + 1; i < change + 200; ++i) {
-            const QByteArray number = QByteArray::number(i);
-            commands +=
-                "set Density " + number + "\nsay applied " + number + ".\nStd_Save\nsay saved " + number + ".\n";
-        }
-        const QByteArray output = runAndKill(commands);
+    killInAllPartsOf("Std_Save\nsay saved #\n", [this](const QByteArray& output) {
         const int inFile = changeIn(path("p.vxmat"));
         const int applied = lastSaid(output, "applied");
-        EXPECT_GE(inFile, lastSaid(output, "saved")) << "round " << round;
+        EXPECT_GE(inFile, std::max(lastSaid(output, "saved"), change));
         int newest = inFile;
-        for (const QString& copy : copies()) {
+        for (const QString& copy : copies())
             newest = std::max(newest, changeIn(copy));
-            ++killedWithCopy;
-            QFile::remove(copy);
-        }
-        EXPECT_GE(newest, applied) << "round " << round;
-        EXPECT_LE(newest, std::max(applied, change) + 1) << "round " << round;
-        fileBehind += inFile < applied ? 1 : 0;
-        change = std::max(inFile, newest);
-    }
-    report("saving");
+        EXPECT_GE(newest, applied);
+        EXPECT_LE(newest, std::max(applied, change) + 1);
+        change = inFile;
+    });
 }
 
 TEST_F(Kill, WhileKeepingCopiesLosesNoChange)
 {
     const QByteArray before = vxtest::readFile(path("p.vxmat"));
-    for (int round = 0; round < rounds && !HasFailure(); ++round) {
-        QByteArray commands = "Std_Open p.vxmat\nselect Material1\n";
-        for (int i = 2; i < 200; ++i)
-            commands += "set Density " + QByteArray::number(i) + "\nsay applied " + QByteArray::number(i) + ".\n";
-        const int applied = lastSaid(runAndKill(commands), "applied");
+    killInAllPartsOf("", [&](const QByteArray& output) {
         EXPECT_EQ(vxtest::readFile(path("p.vxmat")), before);
+        const int applied = lastSaid(output, "applied");
         const QStringList kept = copies();
         EXPECT_LE(kept.size(), 1);
+        EXPECT_TRUE(!kept.isEmpty() || applied == 0) << "no copy of change " << applied;
         for (const QString& copy : kept) {
-            const int change = changeIn(copy);
-            EXPECT_GE(change, applied) << "round " << round;
-            EXPECT_LE(change, std::max(applied, 1) + 1) << "round " << round;
-            ++killedWithCopy;
-            QFile::remove(copy);
+            EXPECT_GE(changeIn(copy), applied);
+            EXPECT_LE(changeIn(copy), std::max(applied, change) + 1);
         }
-        EXPECT_TRUE(!kept.isEmpty() || applied == 0) << "round " << round << ": no copy of change " << applied;
-    }
-    EXPECT_EQ(killedWithCopy, rounds);
-    report("keeping copies");
+    });
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "projectfile/ProjectStore.h"
 
+#include "FileCalls.h"
+#include "KillRounds.h"
 #include "ProjectTesting.h"
 
 #include "projectfile/ProjectFile.h"
@@ -8,12 +10,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <csignal>
-#include <cstdio>
 #include <random>
 #include <string>
 #include <sys/mount.h>
@@ -21,7 +22,6 @@
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -35,6 +35,9 @@ using projectfile::writeFile;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
+
+/// The longest time to wait for another program, in milliseconds. Only a test that fails takes that long.
+constexpr int patience = 120000;
 
 class ProjectStore : public testing::Test
 {
@@ -83,6 +86,16 @@ mode_t modeOf(const QString& path)
     EXPECT_EQ(stat(QFile::encodeName(path).constData(), &status), 0);
     return status.st_mode & 07777U;
 }
+
+/// Sets when the file was changed last, in seconds since 1970.
+void setTime(const QString& path, time_t seconds)
+{
+    const timeval times[] = {{seconds, 0}, {seconds, 0}};
+    ASSERT_EQ(utimes(QFile::encodeName(path).constData(), times), 0);
+}
+
+constexpr time_t past = 1000000000;   // in 2001
+constexpr time_t future = 9000000000; // in 2255
 
 // --- Reading and writing ---
 
@@ -368,8 +381,7 @@ TEST_F(ProjectStore, DoesNotTakeATouchForAChange)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     const FileStamp stamp = writeFile(file, "one");
-    const timeval times[] = {{1000000000, 0}, {1000000000, 0}};
-    ASSERT_EQ(utimes(QFile::encodeName(file).constData(), times), 0);
+    setTime(file, past);
     EXPECT_FALSE(hasChanged(file, stamp));
 }
 
@@ -381,40 +393,40 @@ TEST_F(ProjectStore, NoticesAFileWhereThereWasNone)
     EXPECT_TRUE(hasChanged(file, FileStamp()));
 }
 
+/// Reads a file of which another program makes `content` before this program reads from it for the n-th time, and gives
+/// it another time of change. Returns whether that happened.
+bool readsWhileAnotherProgramWrites(const QString& file, int which, const std::string& content)
+{
+    const std::string before(400000, 'a');
+    scribble(file, before);
+    int readings = 0;
+    const vxtest::BeforeReading hook([&] {
+        if (++readings != which)
+            return;
+        scribble(file, content);
+        setTime(file, past);
+    });
+    std::string refusal;
+    try {
+        EXPECT_EQ(readFile(file), before);
+    } catch (const StoreError& error) {
+        refusal = error.what();
+    }
+    EXPECT_EQ(refusal, readings < which ? ""
+                                        : nameOf(file) + ": Another program changed the file while it was read. "
+                                                         "Try again.");
+    return readings >= which;
+}
+
 TEST_F(ProjectStore, GivesAWholeFileOrAnErrorWhileAnotherProgramWritesIt)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
-    const std::string small(400000, 'a');
-    const std::string large(2000000, 'b');
-    scribble(file, small);
-    const pid_t writer = fork();
-    if (writer == 0) {
-        // In place: it shrinks to nothing and grows again.
-        while (true) {
-            for (const std::string* const text : {&large, &small}) {
-                std::FILE* const out = std::fopen(QFile::encodeName(file).constData(), "w");
-                std::fwrite(text->data(), 1, text->size(), out);
-                std::fclose(out);
-            }
-        }
+    for (const std::size_t size : {0U, 1U, 399999U, 400000U, 400001U, 2000000U}) {
+        int which = 1;
+        while (readsWhileAnotherProgramWrites(file, which, std::string(size, 'b')))
+            ++which;
+        EXPECT_GT(which, 2) << "the file is read in one piece";
     }
-    int errors = 0;
-    int halves = 0;
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    for (int i = 0; (i < 1000 || errors == 0) && std::chrono::steady_clock::now() < end; ++i) {
-        try {
-            const std::string text = readFile(file);
-            // What stood still half-way while it was read was whole by then; but never two contents in one.
-            halves += text.find_first_not_of(text.front()) != std::string::npos ? 1 : 0;
-        } catch (const StoreError& error) {
-            EXPECT_THAT(error.what(), HasSubstr("a.vxmat: "));
-            ++errors;
-        }
-    }
-    kill(writer, SIGKILL);
-    waitpid(writer, nullptr, 0);
-    EXPECT_EQ(halves, 0);
-    EXPECT_GT(errors, 0);
 }
 
 // --- The lock ---
@@ -426,7 +438,7 @@ public:
     explicit LockHolder(const QString& file)
     {
         m_process.start(QStringLiteral(LOCK_HOLDER), {file});
-        EXPECT_TRUE(m_process.waitForReadyRead(30000)) << m_process.readAllStandardError().toStdString();
+        EXPECT_TRUE(m_process.waitForReadyRead(patience)) << m_process.readAllStandardError().toStdString();
         m_answer = m_process.readLine().trimmed();
     }
     LockHolder(const LockHolder&) = delete;
@@ -438,12 +450,12 @@ public:
     void end()
     {
         m_process.closeWriteChannel();
-        m_process.waitForFinished();
+        m_process.waitForFinished(patience);
     }
     void kill()
     {
         m_process.kill();
-        m_process.waitForFinished();
+        m_process.waitForFinished(patience);
     }
 
 private:
@@ -485,8 +497,7 @@ TEST_F(ProjectStore, LockOfALivingProgramCountsHoweverOldItIs)
     const QString file = path(QStringLiteral("a.vxmat"));
     const LockHolder other(file);
     ASSERT_TRUE(other.hasLock());
-    const timeval times[] = {{1000000000, 0}, {1000000000, 0}};
-    ASSERT_EQ(utimes(QFile::encodeName(path(QStringLiteral(".a.vxmat.lock"))).constData(), times), 0);
+    setTime(path(QStringLiteral(".a.vxmat.lock")), past);
     EXPECT_FALSE(FileLock(file).tryLock());
 }
 
@@ -496,9 +507,9 @@ TEST_F(ProjectStore, LockThatSaysNothingDoesNotCountOnceItIsOld)
     const QString file = path(QStringLiteral("a.vxmat"));
     const QString lockFile = path(QStringLiteral(".a.vxmat.lock"));
     scribble(lockFile, "");
+    setTime(lockFile, future);
     EXPECT_FALSE(FileLock(file).tryLock());
-    const timeval times[] = {{1000000000, 0}, {1000000000, 0}};
-    ASSERT_EQ(utimes(QFile::encodeName(lockFile).constData(), times), 0);
+    setTime(lockFile, past);
     EXPECT_TRUE(FileLock(file).tryLock());
 }
 
@@ -539,44 +550,101 @@ TEST_F(ProjectStore, LockCannotBeHadWhereNoFileCanBeMade)
 
 // --- Killed while saving ---
 
-TEST_F(ProjectStore, LeavesOneOfTwoStatesWhateverMomentItIsKilledAt)
+/// A file that another program saves to until it is killed.
+class KilledSaving : public ProjectStore
 {
-    constexpr int kills = 300;
-    vxtest::Dice dice;
-    const std::string first = projectfile::writeProject(dice.makeProject(1500));
-    const std::string second = projectfile::writeProject(dice.makeProject(900));
-    ASSERT_GT(second.size(), 1000000U);
-    ASSERT_GT(first.size(), second.size());
-    ASSERT_TRUE(folder().mkdir(QStringLiteral("saved")));
-    const QString file = path(QStringLiteral("saved/a.vxmat"));
-    const QStringList arguments{file, path(QStringLiteral("first")), path(QStringLiteral("second"))};
-    scribble(arguments[1], first);
-    scribble(arguments[2], second);
-    scribble(file, first);
+protected:
+    KilledSaving()
+    {
+        vxtest::Dice dice;
+        first = projectfile::writeProject(dice.makeProject(1500));
+        second = projectfile::writeProject(dice.makeProject(900));
+        EXPECT_GT(second.size(), 1000000U);
+        EXPECT_GT(first.size(), second.size());
+        EXPECT_TRUE(folder().mkdir(QStringLiteral("saved")));
+        scribble(path(QStringLiteral("first")), first);
+        scribble(path(QStringLiteral("second")), second);
+    }
 
+    /// Which state the file holds; the test fails if it is another one.
+    bool holdsSecond() const
+    {
+        const std::string found = readFile(file());
+        EXPECT_TRUE(found == first || found == second) << "neither state, but " << found.size() << " bytes";
+        return found == second;
+    }
+
+    /// Saves the second state over the first one, and dies in the n-th call that changes files. Returns whether it came
+    /// to that.
+    bool diesInCall(int number) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("VX_DIE_IN_FILE_CALL"), QString::number(number));
+        environment.insert(QStringLiteral("VX_FILE_CALLS"), path(QStringLiteral("calls")));
+        QFile::remove(path(QStringLiteral("calls")));
+        scribble(file(), first);
+        QProcess saver;
+        saver.setProcessEnvironment(environment);
+        saver.start(QStringLiteral(SAVE_LOOP), {file(), path(QStringLiteral("second"))});
+        EXPECT_TRUE(saver.waitForFinished(patience)) << saver.errorString().toStdString();
+        EXPECT_TRUE(saver.exitStatus() == QProcess::CrashExit || saver.exitCode() == 0)
+            << saver.readAllStandardError().toStdString();
+        return saver.exitStatus() == QProcess::CrashExit;
+    }
+
+    /// The calls up to the one that the program died in.
+    QStringList calls() const
+    {
+        return QString::fromStdString(readFile(path(QStringLiteral("calls")))).split('\n', Qt::SkipEmptyParts);
+    }
+
+    QString file() const { return path(QStringLiteral("saved/a.vxmat")); }
+    QStringList projects() const
+    {
+        return QDir(path(QStringLiteral("saved"))).entryList({QStringLiteral("*.vxmat")}, QDir::Files | QDir::Hidden);
+    }
+
+    std::string first;
+    std::string second;
+};
+
+TEST_F(KilledSaving, LeavesTheOldStateUpToOneCallAndTheNewOneFromThereOn)
+{
+    int dead = 0;
+    bool wasSecond = false;
+    while (diesInCall(dead + 1)) {
+        ++dead;
+        SCOPED_TRACE(calls().join(QStringLiteral(", ")).toStdString());
+        const bool isSecond = holdsSecond();
+        EXPECT_TRUE(isSecond || !wasSecond);
+        wasSecond = isSecond;
+        EXPECT_EQ(projects(), QStringList{QStringLiteral("a.vxmat")});
+    }
+    EXPECT_TRUE(holdsSecond());
+    const QStringList all = calls();
+    EXPECT_EQ(all.size(), dead);
+    // The text reaches the disk before it takes the place of the old one.
+    EXPECT_GT(all.indexOf(QStringLiteral("fsync")), all.lastIndexOf(QStringLiteral("write the rest")));
+    EXPECT_GT(all.indexOf(QRegularExpression(QStringLiteral("^rename.*"))), all.indexOf(QStringLiteral("fsync")));
+}
+
+TEST_F(KilledSaving, LeavesOneOfTwoStatesWhateverMomentItIsKilledAt)
+{
+    const QStringList arguments{file(), path(QStringLiteral("first")), path(QStringLiteral("second"))};
     std::mt19937 engine(7);
-    std::uniform_int_distribution<int> microseconds(0, 30000);
-    int firsts = 0;
-    int seconds = 0;
-    for (int i = 0; i < kills; ++i) {
+    std::uniform_int_distribution<int> savings(1, 5);
+    for (int round = 0; round < vxtest::killRounds() && !HasFailure(); ++round) {
         QProcess saver;
         saver.start(QStringLiteral(SAVE_LOOP), arguments);
-        ASSERT_TRUE(saver.waitForReadyRead(30000)) << saver.readAllStandardError().toStdString();
-        std::this_thread::sleep_for(std::chrono::microseconds(microseconds(engine)));
-        ASSERT_EQ(saver.state(), QProcess::Running) << saver.readAllStandardError().toStdString();
+        const int enough = savings(engine);
+        for (int saved = 0; saved < enough; saved += saver.readAllStandardOutput().size())
+            ASSERT_TRUE(saver.waitForReadyRead(patience)) << saver.readAllStandardError().toStdString();
         saver.kill();
-        saver.waitForFinished();
-        const std::string found = readFile(file);
-        firsts += found == first ? 1 : 0;
-        seconds += found == second ? 1 : 0;
-        ASSERT_EQ(firsts + seconds, i + 1) << "neither state, but " << found.size() << " bytes";
+        ASSERT_TRUE(saver.waitForFinished(patience));
+        EXPECT_EQ(saver.exitStatus(), QProcess::CrashExit) << saver.readAllStandardError().toStdString();
+        holdsSecond();
+        EXPECT_EQ(projects(), QStringList{QStringLiteral("a.vxmat")});
     }
-    std::printf("killed %d times: %d times the first state, %d times the second\n", kills, firsts, seconds);
-    EXPECT_GT(firsts, 0);
-    EXPECT_GT(seconds, 0);
-    const QStringList projects =
-        QDir(path(QStringLiteral("saved"))).entryList({QStringLiteral("*.vxmat")}, QDir::Files | QDir::Hidden);
-    EXPECT_EQ(projects, QStringList{QStringLiteral("a.vxmat")});
 }
 
 } // namespace

@@ -1,29 +1,37 @@
 #include "projectfile/ProjectStore.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <cstdio>
 #include <exception>
 #include <string>
 
-/// Saves the content of two files to a third in turns, until it is killed. It prints a letter when it has begun.
+namespace {
+
+void saveFrom(const QString& source, const QString& target)
+{
+    projectfile::writeFile(target, projectfile::readFile(source));
+    std::putchar('s');
+    std::fflush(stdout);
+}
+
+} // namespace
+
+/// Saves the content of one file to another; or that of two files in turns, until it is killed. It prints a letter after
+/// each time.
 ///
-///     save_loop TARGET FIRST SECOND
+///     save_loop TARGET SOURCE [SOURCE]
 int main(int argc, char** argv)
 try {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 4)
+    if (arguments.size() != 3 && arguments.size() != 4)
         return 2;
-    const std::string first = projectfile::readFile(arguments[2]);
-    const std::string second = projectfile::readFile(arguments[3]);
-    std::putchar('b');
-    std::fflush(stdout);
-    while (true) {
-        projectfile::writeFile(arguments[1], first);
-        projectfile::writeFile(arguments[1], second);
-    }
+    do {
+        for (int source = 2; source < arguments.size(); ++source)
+            saveFrom(arguments[source], arguments[1]);
+    } while (arguments.size() == 4);
+    return 0;
 } catch (const std::exception& error) {
     std::fputs(error.what(), stderr);
     return 1;

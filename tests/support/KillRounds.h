@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdlib>
+
+namespace vxtest {
+
+/// How often a test kills a program: 15 times, or as often as VX_KILL_ROUNDS says, which the test preset "kill" sets.
+inline int killRounds()
+{
+    constexpr int usual = 15;
+    const char* const wanted = std::getenv("VX_KILL_ROUNDS");
+    return wanted != nullptr ? std::atoi(wanted) : usual;
+}
+
+} // namespace vxtest

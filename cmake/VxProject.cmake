@@ -16,7 +16,10 @@ set(VX_INSTRUMENT "" CACHE STRING "Instrumentation: empty, sanitize, coverage or
 
 find_program(VX_CCACHE ccache)
 if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${VX_CCACHE})
+    # By default the cache serves nothing that is compiled with a precompiled header, since it cannot see which macros of
+    # the header depend on the time or on definitions. Here none does, and the compiler checks the definitions.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        ${VX_CCACHE})
 endif()
 
 # One directory for programs and libraries, so that a program finds its libraries wherever the tree stands.

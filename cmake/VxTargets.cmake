@@ -102,28 +102,55 @@ function(vx_install_host_library target)
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_SKIP)
 endfunction()
 
-# vx_add_test(<name> [GUI] [ALONE] SOURCES <file>... LINKS <target>...): a GoogleTest program; each of its tests is one of
-# CTest's. All run in the C locale of the process but may switch to the comma-decimal one built for them. With GUI they
-# run inside a GUI application on the offscreen platform; ALONE, no other test runs beside them.
+# vx_add_test(<name> [GUI] [ALONE] [ISOLATED]     ALONE: no other test runs beside its tests
+#     SOURCES <file>... LINKS <target>... DEFINITIONS <definition>...)
+# Adds a GoogleTest program. Each of its suites is a test of CTest; with ISOLATED, for tests that leave something behind
+# in their process, each of its tests is. The tests start in the C locale and may change to the comma-decimal one that is
+# built for them. With GUI they run inside a GUI application on the offscreen platform.
 function(vx_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "GUI;ALONE" "" "SOURCES;LINKS;DEFINITIONS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "GUI;ALONE;ISOLATED" "" "SOURCES;LINKS;DEFINITIONS")
     add_executable(${name} ${arg_SOURCES})
+    # What the tests share, their precompiled header with it.
+    set(support vx_test_support)
     set(main GTest::gmock_main)
     if(arg_GUI)
-        set(main vx_gui_test_support)
+        set(support vx_gui_test_support)
+        set(main)
+    elseif(vx_host_test_support IN_LIST arg_LINKS)
+        set(support vx_host_test_support)
     endif()
-    target_link_libraries(${name} PRIVATE ${arg_LINKS} vx_test_support ${main} vx_options)
+    target_link_libraries(${name} PRIVATE ${arg_LINKS} ${support} ${main} vx_options)
     target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
-    # The time that optimising tests takes is never won back by running them.
-    target_compile_options(${name} PRIVATE -O0 -g1)
+    vx_compile_as_test(${name})
+    target_precompile_headers(${name} REUSE_FROM ${support})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
-    set(environment "LOCPATH=${VX_TEST_LOCALES}" "QT_QPA_PLATFORM=offscreen")
-    set_property(TARGET ${name} PROPERTY CROSSCOMPILING_EMULATOR
-                 ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen)
-    set(alone OFF)
-    if(arg_ALONE)
-        set(alone ON)
-    endif()
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 120 RUN_SERIAL ${alone} ENVIRONMENT "${environment}")
+    vx_discover_tests(${name} ${arg_ISOLATED}
+        "TIMEOUT 600 RUN_SERIAL ${arg_ALONE} ENVIRONMENT [[LOCPATH=${VX_TEST_LOCALES};QT_QPA_PLATFORM=offscreen]]")
+endfunction()
+
+# The time that optimising tests takes is never won back by running them. What shares a precompiled header must be
+# compiled alike.
+function(vx_compile_as_test target)
+    target_compile_options(${target} PRIVATE -O0 -g1 -fPIC)
+endfunction()
+
+# vx_discover_tests(<target> <isolated> <properties>): asks the program for its tests each time it is built.
+function(vx_discover_tests target isolated properties)
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_discovered.cmake)
+    set(discover ${CMAKE_SOURCE_DIR}/cmake/DiscoverTests.cmake)
+    add_custom_command(TARGET ${target} POST_BUILD BYPRODUCTS ${script}
+        COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:${target}> -D SCRIPT=${script} -D ISOLATED=${isolated}
+                -D "PROPERTIES=${properties}" -P ${discover}
+        VERBATIM)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${discover})
+    # Until the program is built, its tests are one that fails.
+    set(include ${CMAKE_CURRENT_BINARY_DIR}/${target}_tests.cmake)
+    file(CONFIGURE OUTPUT ${include} @ONLY CONTENT
+"if(EXISTS [[@script@]])
+    include([[@script@]])
+else()
+    add_test(@target@_is_not_built NOT_BUILT)
+endif()
+")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${include})
 endfunction()

@@ -42,7 +42,7 @@ TEST(MessageLog, LetsGoOfTheOldestWhenItIsFull)
     log.clear();
     for (std::size_t i = 0; i < MessageLog::capacity + 5; ++i)
         MessageLog::information(QString::number(i));
-    EXPECT_EQ(log.messages().size(), 10000U);
+    ASSERT_EQ(log.messages().size(), 10000U);
     EXPECT_EQ(log.messages().front().text, QStringLiteral("5"));
     EXPECT_EQ(log.messages().back().text, QStringLiteral("10004"));
 }

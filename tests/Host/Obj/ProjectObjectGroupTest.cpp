@@ -17,7 +17,8 @@ protected:
     ProjectObjectGroup& addGroup(const char* name)
     {
         Obj::ProjectObject* const object = m_assembly.add_object("Obj::ProjectObjectGroup", name);
-        EXPECT_NE(object, nullptr);
+        if (object == nullptr)
+            throw std::logic_error("a group was not added");
         return static_cast<ProjectObjectGroup&>(*object);
     }
 

@@ -49,7 +49,8 @@ protected:
     /// Adds a material, which must succeed.
     MaterialObject& material(const std::string& name)
     {
-        EXPECT_TRUE(add(name));
+        if (!add(name))
+            throw std::logic_error("a material was not added");
         return static_cast<MaterialObject&>(*m_project->get_objects().back());
     }
 

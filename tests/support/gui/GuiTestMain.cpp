@@ -4,6 +4,7 @@
 #include "vxMsg/MessageProxy.h"
 
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
@@ -24,21 +25,42 @@ std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
     return std::make_unique<Gui::GuiApplication>(argc, argv);
 }
 
+/// Gives each test an empty folder for its settings and files, so that no test reads what another one wrote, and removes
+/// the projects and requests that a test left.
+class FreshStart : public testing::EmptyTestEventListener
+{
+private:
+    void OnTestStart(const testing::TestInfo& /*test*/) override
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+            qputenv(variable, QFile::encodeName(m_home->path()));
+        // Settings look at the environment only once.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home->path());
+        if (Gui::Translator::instance()->language() != QLatin1String("en"))
+            Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
+    }
+
+    void OnTestEnd(const testing::TestInfo& /*test*/) override
+    {
+        vxMsg::MessageProxy::instance().undoStack().clear();
+        Obj::Application::instance().close_all_projects();
+        m_home.reset();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
 } // namespace
 
-/// Runs the tests inside a real application on the offscreen platform, with settings of its own and English texts.
+/// Runs the tests inside a real application on the offscreen platform.
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    // Tests run side by side, each in a process of its own: none must read what another has written.
-    const QTemporaryDir home;
-    for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
-        qputenv(variable, QFile::encodeName(home.path()));
+    if (GTEST_FLAG_GET(list_tests))
+        return RUN_ALL_TESTS();
     const std::unique_ptr<Gui::GuiApplication> application = makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("vxMaterial-tests"));
-    Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
-    const int failed = RUN_ALL_TESTS();
-    vxMsg::MessageProxy::instance().undoStack().clear();
-    Obj::Application::instance().close_all_projects();
-    return failed;
+    testing::UnitTest::GetInstance()->listeners().Append(new FreshStart);
+    return RUN_ALL_TESTS();
 }

@@ -1,5 +1,5 @@
-# What holds for every target of the project: language level, warnings, symbol visibility, the build cache,
-# and the instrumentation that the presets sanitize, coverage and fuzz switch on.
+# Settings of all targets: language level, warnings, symbol visibility, the compiler's cache, and the instrumentation of
+# the presets sanitize, coverage and fuzz.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,13 +16,13 @@ set(VX_INSTRUMENT "" CACHE STRING "Instrumentation: empty, sanitize, coverage or
 
 find_program(VX_CCACHE ccache)
 if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # By default the cache serves nothing that is compiled with a precompiled header, since it cannot see which macros of
-    # the header depend on the time or on definitions. Here none does, and the compiler checks the definitions.
+    # By default the cache does not serve sources that use a precompiled header, because it cannot see whether the header
+    # depends on the time or on definitions. Here it does not depend on the time, and the compiler checks definitions.
     set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
         ${VX_CCACHE})
 endif()
 
-# One directory for programs and libraries, so that a program finds its libraries wherever the tree stands.
+# One folder for all programs and one for all libraries: programs find the libraries by a relative path.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 include(GNUInstallDirs)
@@ -36,7 +36,7 @@ if(VX_WARNINGS_AS_ERRORS)
 endif()
 
 if(VX_INSTRUMENT STREQUAL "sanitize")
-    # GCC takes the instrumented standard library for uninitialised; the other presets keep that warning.
+    # GCC reports false positives in the instrumented standard library; the other presets keep the warning.
     target_compile_options(vx_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                 -fno-omit-frame-pointer -Wno-maybe-uninitialized)
     target_link_options(vx_options INTERFACE -fsanitize=address,undefined)

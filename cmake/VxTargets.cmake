@@ -1,17 +1,17 @@
-# The functions that the target lists are written in.
+# The functions by which the folders define their targets.
 #
-# Layers are kept apart by what each target can include. Every library has an include root of its own in the
-# build tree, which holds nothing but forwards to its public headers; a target sees the roots of the libraries
-# that it links and no other. An include that points upwards, or to a private header, does not compile.
+# Includes keep the layers apart. Every library has its own include root in the build tree, with a forwarding header for
+# each of its public headers. A target has the roots of the libraries that it links and no others, so an include of a
+# higher layer, or of a private header, does not compile.
 
 include(GenerateExportHeader)
 
-# vx_add_library(<target> [SHARED | OBJECT]    OBJECT: a part of a library, kept apart from its other parts
+# vx_add_library(<target> [SHARED | OBJECT]    OBJECT: a part of a library
 #     ALIAS <namespaced alias>           what others link, e.g. vxMaterial::model
 #     INCLUDE_PATH <path>                how its headers are included, e.g. vxMaterial/model
-#     EXPORT_HEADER <name>               header with the export macro, made by CMake; none when not given
+#     EXPORT_HEADER <name>               the generated header with the export macro, if any
 #     EXPORT_MACRO <macro>
-#     FOLDER <folder>                    where headers and sources stand, when not in the current folder
+#     FOLDER <folder>                    the folder of headers and sources; default: this one
 #     PUBLIC_HEADERS <file>...           SOURCES <file>...
 #     PUBLIC_LINKS <target>...           PRIVATE_LINKS <target>...)
 function(vx_add_library target)
@@ -31,7 +31,7 @@ function(vx_add_library target)
     endif()
     target_link_libraries(${target} PUBLIC ${arg_PUBLIC_LINKS} PRIVATE ${arg_PRIVATE_LINKS} $<BUILD_INTERFACE:vx_options>)
     target_compile_features(${target} PUBLIC cxx_std_17)
-    # Before version 1 each minor version may break what is built against it, as the package's version file says too.
+    # Before version 1 each minor version may break dependents, as the package's version file says too.
     set_target_properties(${target} PROPERTIES AUTOMOC ON
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
@@ -47,12 +47,12 @@ function(vx_add_library target)
     vx_check_headers_alone(${target} ${arg_INCLUDE_PATH} ${arg_PUBLIC_HEADERS})
 endfunction()
 
-# Writes a header that includes another one, unless it stands already.
+# Writes a header that includes `header`. Leaves the file alone if it has this content already.
 function(vx_forward_header forward header)
     file(CONFIGURE OUTPUT ${forward} CONTENT "#include \"${header}\"\n")
 endfunction()
 
-# Every public header must compile without another one before it. Once is enough: not in the builds of sanitizers.
+# Checks that every public header compiles alone. Builds with instrumentation do not repeat the check.
 function(vx_check_headers_alone target include_path)
     if(VX_INSTRUMENT)
         return()
@@ -79,8 +79,8 @@ function(vx_install_library target)
 endfunction()
 
 # vx_add_resource(<name> <file.qrc>): sets <name>_source to a source file with int qInitResources_<name>() and
-# int qCleanupResources_<name>(). What the resource compiler makes registers itself when the library is loaded; here
-# that is cut off, so that the resource is there only after it has been asked for.
+# int qCleanupResources_<name>(). The generated source would register the resource when the library is loaded; that part
+# is cut off, so that only a call registers it.
 function(vx_add_resource name qrc)
     get_target_property(rcc Qt5::rcc IMPORTED_LOCATION)
     set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${name}.rcc.cpp)
@@ -97,7 +97,7 @@ function(vx_add_resource name qrc)
     set(${name}_source ${source} PARENT_SCOPE)
 endfunction()
 
-# vx_install_host_library(<target>): the library alone, for the programs that are installed beside it.
+# vx_install_host_library(<target>): installs the library, without headers, for the installed programs.
 function(vx_install_host_library target)
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_SKIP)
 endfunction()
@@ -110,7 +110,7 @@ endfunction()
 function(vx_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "GUI;ALONE;ISOLATED" "" "SOURCES;LINKS;DEFINITIONS")
     add_executable(${name} ${arg_SOURCES})
-    # What the tests share, their precompiled header with it.
+    # The library that the tests share; it owns their precompiled header.
     set(support vx_test_support)
     set(main GTest::gmock_main)
     if(arg_GUI)
@@ -128,13 +128,13 @@ function(vx_add_test name)
         "TIMEOUT 600 RUN_SERIAL ${arg_ALONE} ENVIRONMENT [[LOCPATH=${VX_TEST_LOCALES};QT_QPA_PLATFORM=offscreen]]")
 endfunction()
 
-# The time that optimising tests takes is never won back by running them. What shares a precompiled header must be
-# compiled alike.
+# Sets the compiler options of all that uses the precompiled headers of tests, which must be the same everywhere. Without
+# optimisation: it takes longer than it saves when the tests run.
 function(vx_compile_as_test target)
     target_compile_options(${target} PRIVATE -O0 -g1 -fPIC)
 endfunction()
 
-# vx_discover_tests(<target> <isolated> <properties>): asks the program for its tests each time it is built.
+# vx_discover_tests(<target> <isolated> <properties>): lists the tests of the program for CTest each time it is built.
 function(vx_discover_tests target isolated properties)
     set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_discovered.cmake)
     set(discover ${CMAKE_SOURCE_DIR}/cmake/DiscoverTests.cmake)
@@ -143,7 +143,7 @@ function(vx_discover_tests target isolated properties)
                 -D "PROPERTIES=${properties}" -P ${discover}
         VERBATIM)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${discover})
-    # Until the program is built, its tests are one that fails.
+    # Until the program is built, one test that fails takes the place of its tests.
     set(include ${CMAKE_CURRENT_BINARY_DIR}/${target}_tests.cmake)
     file(CONFIGURE OUTPUT ${include} @ONLY CONTENT
 "if(EXISTS [[@script@]])

@@ -12,7 +12,7 @@ bool isLetterOrDigit(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
 }
 
-/// What a name says in place of a character; a blank separates words.
+/// The spelling of a character in a name; a blank separates words.
 std::string spelled(char c)
 {
     if (isLetterOrDigit(c))

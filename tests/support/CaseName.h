@@ -4,8 +4,8 @@
 
 namespace vxtest {
 
-/// The name of a case of a parameterised test: its number, by which cases differ, and the words and numbers of `text`.
-/// GoogleTest takes letters, digits and underscores: "[-1, \"\xFF\"]" of number 4 is "04_list_minus1_xFF".
+/// Returns a name for a case of a parameterised test, in the characters that GoogleTest allows: the number of the case,
+/// which makes it unique, and the words and numbers of `text`. Case 4 with [-1, "\xFF"] is "04_list_minus1_xFF".
 std::string caseName(std::size_t number, const std::string& text);
 
 } // namespace vxtest

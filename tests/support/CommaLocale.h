@@ -5,8 +5,8 @@
 
 namespace vxtest {
 
-/// Puts the whole process, C and C++, under a locale with decimal commas while it lives. The test fails when the
-/// locale is not there: a test that runs under the C locale instead would show nothing.
+/// Sets a locale with decimal commas for the whole process, C and C++, and restores the one before in its destructor.
+/// The test fails if the locale does not exist, because it would prove nothing in the C locale.
 class CommaLocale
 {
 public:

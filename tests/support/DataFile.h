@@ -11,7 +11,7 @@ std::string dataPath(const std::string& name);
 /// The rows of a table under tests/data, cells separated by tabs. Lines that begin with '#' are skipped.
 std::vector<std::vector<std::string>> readTable(const std::string& name);
 
-/// The content of a file; the test fails when it cannot be read.
+/// The content of a file; the test fails if it cannot be read.
 std::string readText(const std::string& path);
 
 } // namespace vxtest

@@ -4,7 +4,7 @@
 
 namespace vxtest {
 
-/// How often a test kills a program: 15 times, or as often as VX_KILL_ROUNDS says, which the test preset "kill" sets.
+/// How often a test kills a program: 15 times, or VX_KILL_ROUNDS times. The test preset "kill" sets that variable.
 inline int killRounds()
 {
     constexpr int usual = 15;

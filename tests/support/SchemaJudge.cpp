@@ -11,8 +11,8 @@ namespace vxtest {
 
 namespace {
 
-/// The validator, a process that runs until the program of the tests ends. Each line that it reads asks it about a file;
-/// it writes a line for each fault, and an empty line at the end.
+/// The validator, a process that runs until the test program ends. It reads a line with a schema and a file, and writes
+/// a line for each fault of the file and an empty line at the end.
 class Validator
 {
 public:
@@ -21,7 +21,7 @@ public:
     Validator& operator=(const Validator&) = delete;
     ~Validator();
 
-    /// The faults, a line each; the test fails if the validator gives no answer.
+    /// Returns a line for each fault; the test fails if the validator does not say that these are all.
     std::string judge(const std::string& schema, const std::string& file);
 
 private:

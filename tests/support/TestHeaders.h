@@ -1,5 +1,5 @@
-// The headers that most tests include, precompiled: what changes seldom and takes long. A test includes what it uses all
-// the same.
+// The precompiled header of all tests: headers of other projects that many tests include. Tests include them as well, so
+// that they compile without this file.
 #pragma once
 
 #include <gmock/gmock.h>

@@ -20,7 +20,7 @@ using testing::StartsWith;
 
 using vxtest::patience;
 
-/// How long to wait, in milliseconds, before a key or a click is repeated. It may be too short: no effect comes twice.
+/// How long to wait, in milliseconds, before a key or a click is repeated. Repeating one too early does no harm.
 constexpr int again = 3000;
 
 /// Asks again and again, until the condition holds or the time is over.
@@ -36,7 +36,7 @@ bool waitUntil(const std::function<bool()>& condition, qint64 milliseconds = pat
     return false;
 }
 
-/// A display of its own, with a picture that can be looked at.
+/// A virtual display whose picture can be read.
 class Display
 {
 public:
@@ -191,8 +191,7 @@ protected:
         });
     }
 
-    /// Double-clicks in the library, at the left of the document, row by row, and applies: alt+a has no button, so that
-    /// the apply button is clicked, below the table.
+    /// Double-clicks a material of the library, left in the document, and clicks the apply button, below the table.
     void applyAnotherMaterial() const
     {
         display.ask({"mousemove", "360", "190", "click", "--repeat", "2", "--delay", "60", "1"});
@@ -266,7 +265,7 @@ TEST_F(EndToEnd, AUserGetsBackWhatACrashLeftBehind)
 
     start("^Recovery$");
     ASSERT_TRUE(press("^Recovery$", "Return", [this] { return hasTitle("^beams.vxmat\\* - kelta$"); }));
-    // The file is older than what was recovered, so it is asked about.
+    // The file is older than the recovered project, so the program asks.
     ASSERT_TRUE(press("^beams.vxmat\\* - kelta$", "ctrl+s", [this] { return hasTitle("^Save project$"); }));
     ASSERT_TRUE(press("^Save project$", "Return", [this] { return hasTitle("^beams.vxmat - kelta$"); }));
     EXPECT_TRUE(vxtest::readFile(work).contains("4321"));

@@ -39,8 +39,8 @@ int lastSaid(const QByteArray& output, const QByteArray& word)
     return last;
 }
 
-/// A program that is killed while it changes and saves a project. It counts the calls by which it changes files and dies
-/// in the one that it is given, so that it is killed at each point of its work whatever else the machine does.
+/// A program that is killed while it changes and saves a project: it dies in a given one of its calls that change files.
+/// So it is killed at each point of its work, however fast the machine is.
 class Kill : public vxtest::Kelta
 {
 protected:
@@ -71,8 +71,8 @@ protected:
         return paths;
     }
 
-    /// Opens the project and makes the next three changes, each followed by `afterChange`, in which # is its number.
-    /// Dies in the call of this number; 0 for never. Returns what the program printed.
+    /// Opens the project and makes the next three changes, each followed by the commands `afterChange`, in which # is the
+    /// number of the change. Dies in the call with the number `lastCall`; 0 for never. Returns what the program printed.
     QByteArray change3Times(const QByteArray& afterChange, int lastCall)
     {
         QByteArray commands = "Std_Open p.vxmat\nselect Material1\n";
@@ -93,7 +93,7 @@ protected:
         return program.readAllStandardOutput();
     }
 
-    /// The calls of the last run, up to those of the last command.
+    /// The calls of the last run, without those of the last command.
     QList<QByteArray> calls() const
     {
         QList<QByteArray> names;
@@ -105,7 +105,7 @@ protected:
         return names;
     }
 
-    /// Calls `check` with what the program printed after it was killed, in calls from the first to the last one.
+    /// Kills the program in calls from the first to the last one, and passes to `check` what it printed before.
     template <class Check>
     void killInAllPartsOf(const QByteArray& afterChange, const Check& check)
     {

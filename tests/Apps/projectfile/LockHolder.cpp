@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <exception>
 
-/// Locks a file and prints whether that went well, "yes" or "no"; gives it back when its standard input ends.
+/// Locks a file and prints "yes" if that succeeded, else "no". Unlocks it when the standard input ends.
 ///
 ///     lock_holder FILE
 int main(int argc, char** argv)

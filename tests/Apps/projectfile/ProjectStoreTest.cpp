@@ -44,7 +44,7 @@ class ProjectStore : public testing::Test
 protected:
     QString path(const QString& name) const { return m_folder.path() + QLatin1Char('/') + name; }
     QDir folder() const { return {m_folder.path()}; }
-    /// All that is in the folder, hidden files too.
+    /// The names of everything in the folder, hidden files too.
     QStringList content() const
     {
         return folder().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
@@ -59,7 +59,7 @@ std::string nameOf(const QString& path)
     return path.toStdString();
 }
 
-/// What an action says is wrong; the test fails when nothing is.
+/// The message of the error that an action throws; the test fails if there is none.
 template <class Action>
 std::string refusalOf(const Action& action)
 {
@@ -72,7 +72,7 @@ std::string refusalOf(const Action& action)
     return {};
 }
 
-/// Writes as other programs do: in place.
+/// Writes to a file in place, as other programs do.
 void scribble(const QString& path, const std::string& text)
 {
     QFile file(path);
@@ -262,7 +262,7 @@ TEST_F(ProjectStore, RefusesDevicesAndPipesInsteadOfWaitingForTheirEnd)
 
 TEST_F(ProjectStore, RefusesAFileWhoseSizeTheSystemDoesNotTell)
 {
-    // These grow while they are read, as it were.
+    // These have no size that could be known before.
     EXPECT_THAT(refusalOf([] { readFile(QStringLiteral("/proc/self/status")); }), HasSubstr("changed"));
 }
 
@@ -279,10 +279,10 @@ enum class Saving
     Succeeded,
     Failed,        ///< with a message that names the file
     FailedUnnamed, ///< with another message
-    NotTried,      ///< since the process could not be prepared for it
+    NotTried,      ///< because the process could not be prepared
 };
 
-/// Saves in a process of its own, after `prepare` there has answered true.
+/// Saves in another process, if `prepare` returns true in that process.
 template <class Prepare>
 Saving saveElsewhere(const QString& file, const std::string& text, const Prepare& prepare)
 {
@@ -332,7 +332,7 @@ TEST_F(ProjectStore, LeavesTheFileAsItWasWhenThereIsNoRoomForTheNewOne)
         const rlimit limit{8192, 8192};
         return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && setrlimit(RLIMIT_FSIZE, &limit) == 0;
     };
-    // Less and more than what is written in one go.
+    // Less and more than one call writes.
     for (const std::size_t size : {std::size_t{9000}, std::size_t{3000000}}) {
         EXPECT_EQ(saveElsewhere(file, std::string(size, 'x'), limitFiles), Saving::Failed);
         EXPECT_EQ(readFile(file), "old");
@@ -393,8 +393,8 @@ TEST_F(ProjectStore, NoticesAFileWhereThereWasNone)
     EXPECT_TRUE(hasChanged(file, FileStamp()));
 }
 
-/// Reads a file of which another program makes `content` before this program reads from it for the n-th time, and gives
-/// it another time of change. Returns whether that happened.
+/// Reads a file that another program replaces by `content`, with another time of change, just before the n-th reading
+/// from it. Returns whether there was an n-th reading.
 bool readsWhileAnotherProgramWrites(const QString& file, int which, const std::string& content)
 {
     const std::string before(400000, 'a');
@@ -431,7 +431,7 @@ TEST_F(ProjectStore, GivesAWholeFileOrAnErrorWhileAnotherProgramWritesIt)
 
 // --- The lock ---
 
-/// A program that holds the lock of a file, if it got it, until it is told to end.
+/// A program that tries to lock a file and holds the lock until it ends.
 class LockHolder
 {
 public:
@@ -503,7 +503,7 @@ TEST_F(ProjectStore, LockOfALivingProgramCountsHoweverOldItIs)
 
 TEST_F(ProjectStore, LockThatSaysNothingDoesNotCountOnceItIsOld)
 {
-    // As a crash leaves it between making the file and writing to it.
+    // A crash between making the lock file and writing to it leaves such a file.
     const QString file = path(QStringLiteral("a.vxmat"));
     const QString lockFile = path(QStringLiteral(".a.vxmat.lock"));
     scribble(lockFile, "");
@@ -566,7 +566,7 @@ protected:
         scribble(path(QStringLiteral("second")), second);
     }
 
-    /// Which state the file holds; the test fails if it is another one.
+    /// Whether the file holds the second state; the test fails if it holds neither.
     bool holdsSecond() const
     {
         const std::string found = readFile(file());
@@ -574,8 +574,8 @@ protected:
         return found == second;
     }
 
-    /// Saves the second state over the first one, and dies in the n-th call that changes files. Returns whether it came
-    /// to that.
+    /// Saves the second state over the first one in a program that dies in the n-th call that changes files. Returns
+    /// whether it died.
     bool diesInCall(int number) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

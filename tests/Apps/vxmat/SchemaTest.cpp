@@ -32,7 +32,7 @@ std::vector<std::string> libraryNames()
     return names;
 }
 
-/// vxmat with a subcommand for each material of the library, and for all of them at once.
+/// Runs a subcommand of vxmat for each material of the library, and for all of them at once. Returns the written files.
 std::vector<std::string> writeLibrary(const Folder& folder, const std::string& command, const std::string& suffix)
 {
     std::vector<std::string> files;
@@ -79,7 +79,7 @@ TEST(Schema, FitsEveryImport)
     EXPECT_EQ(faultsBySchema(projects, files), "");
 }
 
-/// A file that the writer of exchange sets makes.
+/// Writes an exchange set to a file.
 std::string writeSet(const Folder& folder, const std::string& name, const vxCAE::CAESet& set)
 {
     Json::Value document;
@@ -143,7 +143,7 @@ TEST(Schema, FitsProjectsWithAllThatTheFormatCanHold)
               "");
 }
 
-/// A sound file, one thing changed.
+/// `text` with the first `what` replaced, which must be there.
 std::string changed(std::string text, const std::string& what, const std::string& into)
 {
     const std::size_t at = text.find(what);

@@ -13,6 +13,9 @@ namespace vxtest {
 
 namespace {
 
+/// The longest time to wait for a program, in milliseconds. Only a test that fails takes that long.
+constexpr int patience = 120000;
+
 Outcome run(const QString& program, const QStringList& arguments, const std::string& input)
 {
     QProcess process;
@@ -22,7 +25,7 @@ Outcome run(const QString& program, const QStringList& arguments, const std::str
     process.start(program, arguments);
     process.write(input.data(), static_cast<qint64>(input.size()));
     process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished(60000)) << process.errorString().toStdString();
+    EXPECT_TRUE(process.waitForFinished(patience)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << "the program crashed";
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
             process.readAllStandardError().toStdString()};

@@ -8,7 +8,7 @@
 
 namespace vxtest {
 
-/// What a run of the program left behind.
+/// How a run of the program ended, and what it printed.
 struct Outcome
 {
     int status = -1;
@@ -16,13 +16,13 @@ struct Outcome
     std::string err;
 };
 
-/// Runs vxmat with arguments and something on its standard input.
+/// Runs vxmat with arguments and a standard input.
 Outcome vxmat(const std::vector<std::string>& arguments, const std::string& input = {});
 
 /// Runs a shell command line in which "$VXMAT" is the program.
 Outcome shell(const std::string& command);
 
-/// The standard output of a run that must end with status 0 and say nothing else, as JSON.
+/// The standard output as JSON, of a run that must end with status 0 and print no errors.
 Json::Value vxmatJson(const std::vector<std::string>& arguments);
 
 /// A folder that is removed with its files when the test ends.
@@ -30,9 +30,9 @@ class Folder
 {
 public:
     std::string path(const std::string& name) const;
-    /// Writes a file and answers its path.
+    /// Writes a file and returns its path.
     std::string file(const std::string& name, const std::string& text) const;
-    /// The names of what stands in the folder, hidden files included.
+    /// The names of all files in the folder, hidden files included.
     std::vector<std::string> names() const;
 
 private:

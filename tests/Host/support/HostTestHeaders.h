@@ -1,4 +1,4 @@
-// The headers that most tests of the host include, precompiled.
+// The precompiled header of the host's tests.
 #pragma once
 
 #include "TestHeaders.h"

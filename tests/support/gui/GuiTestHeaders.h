@@ -1,4 +1,4 @@
-// The headers that most tests with windows include, precompiled.
+// The precompiled header of tests with windows.
 #pragma once
 
 #include "TestHeaders.h"

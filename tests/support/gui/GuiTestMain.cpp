@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Qt's offscreen platform never frees its screen, which is no leak of the tests.
+/// Makes the application without leak detection: Qt's offscreen platform never frees its screen.
 std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -25,8 +25,7 @@ std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
     return std::make_unique<Gui::GuiApplication>(argc, argv);
 }
 
-/// Gives each test an empty folder for its settings and files, so that no test reads what another one wrote, and removes
-/// the projects and requests that a test left.
+/// Gives each test its own empty folder for settings and files, and removes the projects and requests that the test left.
 class FreshStart : public testing::EmptyTestEventListener
 {
 private:
@@ -35,7 +34,7 @@ private:
         m_home = std::make_unique<QTemporaryDir>();
         for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
             qputenv(variable, QFile::encodeName(m_home->path()));
-        // Settings look at the environment only once.
+        // QSettings reads the environment only once.
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home->path());
         if (Gui::Translator::instance()->language() != QLatin1String("en"))
             Gui::Translator::instance()->setLanguage(QStringLiteral("en"));

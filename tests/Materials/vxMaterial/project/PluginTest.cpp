@@ -18,7 +18,7 @@ QStringList exportedSymbols()
 {
     QProcess nm;
     nm.start(QStringLiteral(VX_NM), {"--dynamic", "--defined-only", "--demangle", "--format=posix", VX_PLUGIN});
-    nm.waitForFinished();
+    EXPECT_TRUE(nm.waitForFinished(120000)) << nm.errorString().toStdString();
     QStringList names;
     for (const QString& line : QString::fromUtf8(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts))
         names << line.section(QRegularExpression(" [A-Za-z]( |$)"), 0, 0);

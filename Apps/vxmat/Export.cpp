@@ -7,7 +7,7 @@
 #include "Properties.h"
 
 #include "vxMaterial/exchange/CAESet.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/NumberText.h"
 
 #include <cmath>
@@ -23,8 +23,8 @@ namespace {
 /// One material that is to be written.
 struct Wanted
 {
-    std::string argument;                ///< that asks for it
-    std::optional<std::uint32_t> number; ///< absent when any will do
+    std::string argument;                ///< which asks for it
+    std::optional<std::uint32_t> number; ///< absent if any number is right
     std::unique_ptr<vxCAE::MaterialEntry> entry;
 };
 
@@ -43,7 +43,7 @@ NameAndNumber split(const std::string& argument)
     return {argument.substr(0, sign), argument.substr(sign + 1)};
 }
 
-/// What of a material the document does not carry, besides units and descriptions, which the catalogue knows.
+/// Notes what the document does not carry of a material, besides units and descriptions, which the catalogue knows.
 void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
 {
     std::string lost;
@@ -59,7 +59,7 @@ void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
                                   ": exchange documents carry no words and lists; lost: " + lost);
 }
 
-/// A document with a number that JSON has no word for, or an id below 0, would be refused where it is read.
+/// Refuses what readers of documents refuse: a number that JSON cannot express, and an id below 0.
 void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& material)
 {
     for (const auto& [key, property] : material.properties) {
@@ -67,7 +67,7 @@ void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& ma
             path + ": " + material.name + ": property " + std::to_string(key) + " \"" + property->name + "\" ";
         if (!std::isfinite(property->value))
             throw Failure(title + "is " + vxMat::formatNumber(property->value) +
-                          "; exchange documents carry finite numbers alone");
+                          "; exchange documents carry only finite numbers");
         if (key < 0)
             throw Failure(title + "has an id below 0, which readers of exchange documents refuse");
     }
@@ -80,6 +80,9 @@ void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answe
         throw Failure(path + ": not a project file; its materials are in a document already");
     MaterialFile file = readMaterials(std::move(input));
     answer.messages.insert(answer.messages.end(), file.doubts.begin(), file.doubts.end());
+    if (!file.others.empty())
+        answer.messages.push_back("note: " + path + ": exchange documents carry only materials; left out: " +
+                                  std::to_string(file.others.size()) + " objects of other classes");
     for (FileMaterial& material : file.materials) {
         requireThatItTravels(path, *material.entry->material);
         all.push_back({path + ": " + material.label, material.number, std::move(material.entry)});
@@ -110,7 +113,7 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
     return all;
 }
 
-/// Gives numbers to the materials that have none: 1, 2, ..., passing over those that others have.
+/// Gives numbers to the materials that have none: 1, 2, ..., without those that others have.
 void number(std::vector<Wanted>& all)
 {
     std::set<std::uint32_t> taken;
@@ -142,7 +145,7 @@ Answer exportMaterials(const std::vector<std::string>& materials, const std::str
     }
     Json::Value document;
     set.writeJson(document);
-    const std::string text = vxCAE::toStyledText(document);
+    const std::string text = vxjson::toStyledText(document);
     if (path == standardStream)
         answer.text = text;
     else

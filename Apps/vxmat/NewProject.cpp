@@ -5,8 +5,7 @@
 #include "MaterialNames.h"
 
 #include "projectfile/ExchangeImport.h"
-#include "vxMaterial/exchange/DocumentCheck.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/Utf8.h"
 
 #include <QFileInfo>
 
@@ -38,7 +37,7 @@ void requireLabel(const std::string& argument, const std::string& label)
 {
     if (label.empty())
         throw Failure(argument + ": the label is empty");
-    if (vxCAE::lengthOfUtf8(label) != label.size())
+    if (vxjson::lengthOfUtf8(label) != label.size())
         throw Failure(argument + ": the label is not a UTF-8 text");
 }
 
@@ -57,7 +56,7 @@ void write(const std::string& path, std::vector<projectfile::ImportedMaterial> m
     std::string text;
     try {
         text = projectfile::writeProject(project);
-    } catch (const projectfile::ProjectFileError& error) {
+    } catch (const projectfile::ContentError& error) {
         throw Failure(path + ": " + error.what());
     }
     if (path == standardStream)
@@ -98,14 +97,12 @@ Answer importDocument(const std::string& document, const std::string& path)
         throw Failure(document + ": it is a project file, which needs no import");
     requireAnotherFile(document, path);
     Answer answer;
-    for (const vxCAE::Finding& repeated : vxCAE::findRepeatedMembers(input.text))
-        answer.messages.push_back(document + ": " + repeated.path + ": " + repeated.message);
     try {
-        projectfile::ImportedMaterials imported = projectfile::importExchange(input.document);
+        projectfile::ImportedMaterials imported = projectfile::importExchange(input.text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
         write(path, std::move(imported.materials), answer);
-    } catch (const projectfile::ImportError& error) {
+    } catch (const projectfile::ContentError& error) {
         throw Failure(document + ": " + error.what());
     }
     answer.status = answer.messages.empty() ? Status::Clean : Status::Findings;

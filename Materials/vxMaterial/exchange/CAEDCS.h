@@ -1,8 +1,8 @@
 #pragma once
 
 #include "vxMaterial/exchange/CAEBase.h"
-#include "vxMaterial/exchange/CAEMaterials.h"
 #include "vxMaterial/exchange/ExchangeExport.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
 
 #include <array>
 #include <cstdint>

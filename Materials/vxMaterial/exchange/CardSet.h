@@ -1,7 +1,7 @@
 #pragma once
 
-#include "vxMaterial/exchange/CAEMaterials.h"
 #include "vxMaterial/exchange/ExchangeExport.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
 
 #include <string>
 #include <vector>

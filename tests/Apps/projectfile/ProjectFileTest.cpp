@@ -4,7 +4,7 @@
 #include "DataFile.h"
 #include "ProjectTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <gmock/gmock.h>
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-using projectfile::ProjectFileError;
+using projectfile::ContentError;
 using projectfile::ProjectRecord;
 using projectfile::readProject;
 using projectfile::writeProject;
@@ -33,7 +33,7 @@ std::string refusalOf(const std::string& text)
 {
     try {
         readProject(text);
-    } catch (const ProjectFileError& error) {
+    } catch (const ContentError& error) {
         return error.what();
     }
     ADD_FAILURE() << "it was read";
@@ -45,7 +45,7 @@ std::string refusalOf(const ProjectRecord& project)
 {
     try {
         writeProject(project);
-    } catch (const ProjectFileError& error) {
+    } catch (const ContentError& error) {
         return error.what();
     }
     ADD_FAILURE() << "it was written";
@@ -276,14 +276,16 @@ TEST(ProjectFile, CarriesWhateverTheHostsRecordHolds)
     EXPECT_TRUE(std::signbit(read.database["numbers"][0].asDouble()));
 }
 
-TEST(ProjectFile, HasAWordForADocumentThatIsAProject)
+TEST(ProjectFile, IsKnownByItsFormat)
 {
-    EXPECT_TRUE(projectfile::isProject(vxCAE::readJsonText(smallText()).document));
-    EXPECT_TRUE(projectfile::isProject(vxCAE::readJsonText(R"({"format": "vxMaterial project"})").document));
-    for (const char* const other : {"{}", "[]", R"({"format": 1})", R"({"format": "vxMaterial"})", R"(["format"])"})
-        EXPECT_FALSE(projectfile::isProject(vxCAE::readJsonText(other).document)) << other;
-    EXPECT_FALSE(projectfile::isProject(Json::Value()));
-    EXPECT_FALSE(projectfile::isProject(Json::Value("vxMaterial project")));
+    const auto isProject = [](const std::string& text) {
+        return projectfile::isProject(vxjson::JsonTree::read(text, vxjson::JsonDialect::WithComments).root());
+    };
+    EXPECT_TRUE(isProject(smallText()));
+    EXPECT_TRUE(isProject(R"({"format": "vxMaterial project"})"));
+    for (const char* const other : {"{}", "[]", R"({"format": 1})", R"({"format": "vxMaterial"})", R"(["format"])",
+                                    "null", R"("vxMaterial project")"})
+        EXPECT_FALSE(isProject(other)) << other;
 }
 
 // --- What is refused ---
@@ -335,7 +337,7 @@ TEST(ProjectFile, OfAnotherProgramIsRefusedAsSuch)
 {
     for (const char* const text : {"{}", "[]", R"({"format": "sketch", "format_version": 9})",
                                    R"({"format": ["vxMaterial project"]})", R"({"proj_type": 2, "material": []})"})
-        EXPECT_THAT(refusalOf(text), HasSubstr("no project file")) << text;
+        EXPECT_THAT(refusalOf(text), HasSubstr("not a project file")) << text;
     for (const char* const text :
          {"<?xml version=\"1.0\"?>\n<a/>", "PK\x03\x04", "7", "\"vxMaterial project\"", "null"})
         EXPECT_THAT(refusalOf(text), StartsWith("line 1")) << text;
@@ -438,7 +440,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"category\": 0", "\"category\": 10", "\"materials[0].material.properties[0].category\" is 10"},
         Wrong{"\"held_as\": 401", "\"held_as\": 2147483648",
               "\"materials[0].material.properties[1].held_as\" is 2147483648"},
-        Wrong{"\"held_as\": 401", "\"held_as\": 4", "\"materials[0].material.properties[1].held_as\" 4 is there twice"},
+        Wrong{"\"held_as\": 401", "\"held_as\": 4",
+              "\"materials[0].material.properties[1].held_as\" is 4, which is there twice"},
         Wrong{"\"properties\": []", "\"properties\": [7]", "\"materials[1].material.properties[0]\" is 7"},
         Wrong{"\"properties\": []", "\"properties\": {}", "\"materials[1].material.properties\" is an object"}));
 
@@ -457,13 +460,14 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"next_object_id\": 3", "\"next_object_id\": 4294967297", "\"next_object_id\" is 4294967297"},
         Wrong{"\"name_internal\": \"Material2\",\n      \"label\"",
               "\"name_internal\": \"Material1\",\n      \"label\"",
-              "\"materials[1].name_internal\" is \"Material1\", as that of materials[0]"}));
+              "\"materials[1].name_internal\" is \"Material1\", which is the name of materials[0] too"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Database, WrongProject,
     testing::Values(
-        Wrong{"\"obj_id\": 2", "\"obj_id\": 7", "\"database.objects.object[1].obj_id\" is 7, but \"materials\" has no"},
-        Wrong{"\"obj_id\": 2", "\"obj_id\": 1", "\"database.objects.object[1].obj_id\" is 1, which stands there twice"},
+        Wrong{"\"obj_id\": 2", "\"obj_id\": 7",
+              "\"database.objects.object[1].obj_id\" is 7, but \"materials\" and \"objects\" have no such object"},
+        Wrong{"\"obj_id\": 2", "\"obj_id\": 1", "\"database.objects.object[1].obj_id\" is 1, which is there twice"},
         Wrong{"\"obj_id\": 2", "\"obj_id\": -2", "\"database.objects.object[1].obj_id\" must be"},
         Wrong{"\"obj_id\": 2", "\"obj_id\": \"2\"", "\"database.objects.object[1].obj_id\" must be"},
         Wrong{"\"class\": \"Mat::MaterialObject\",\n          \"label\"",
@@ -471,7 +475,7 @@ INSTANTIATE_TEST_SUITE_P(
               "\"database.objects.object[0].class\" is \"Obj::Other\""},
         Wrong{"\"name_internal\": \"Material2\",\n          \"obj_id\"",
               "\"name_internal\": \"Stuff\",\n          \"obj_id\"",
-              "\"database.objects.object[1].name_internal\" is \"Stuff\" but \"Material2\" beside the material"},
+              "\"database.objects.object[1].name_internal\" is \"Stuff\", but the object itself has \"Material2\""},
         Wrong{"\"name_internal\": \"Material2\",\n          \"obj_id\"", "\"obj_id\"",
               "\"database.objects.object[1].name_internal\" must be a text"},
         Wrong{"\"objects\": {", "\"object\": {", "\"materials[0]\" is object 1, which"},
@@ -480,13 +484,14 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"objects\": {", "\"objects\": [], \"before\": {", "\"database.objects\" must be an object"},
         Wrong{"\"object\": [", "\"object\": {}, \"before\": [", "\"database.objects.object\" must be an array"}));
 
-TEST(ProjectFile, WithAMaterialThatTheDatabaseHasNotIsRefused)
+TEST(ProjectFile, WithAMaterialThatIsNotInTheDatabaseIsRefused)
 {
     ProjectRecord project = makeSmallProject();
     std::string text = writeProject(project);
     const std::size_t begin = text.find(",\n        {\n          \"class\"");
     text.erase(begin, text.find("        }\n      ]", begin) + 9 - begin);
-    EXPECT_THAT(refusalOf(text), HasSubstr("\"materials[1]\" is object 2, which \"database.objects.object\" has not"));
+    EXPECT_THAT(refusalOf(text),
+                HasSubstr("\"materials[1]\" is object 2, which \"database.objects.object\" does not have"));
 }
 
 TEST(ProjectFile, WithAnotherLabelInTheDatabaseIsReadWithADoubt)
@@ -505,7 +510,7 @@ TEST(ProjectFile, IsNotWrittenWithATextThatIsNotUtf8)
         project.objects[1].label = text;
         EXPECT_THAT(refusalOf(project), AllOf(HasSubstr("\"materials[1].label\""), HasSubstr("UTF-8")));
         project = makeSmallProject();
-        project.materials[0]->properties.at(401)->unit = text;
+        project.objects[0].ownMaterial->properties.at(401)->unit = text;
         EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[0].material.properties[1].unit\""));
         project = makeSmallProject();
         project.database["a"][0] = "right";

@@ -1,7 +1,7 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <QDir>
 #include <gmock/gmock.h>
@@ -67,7 +67,7 @@ TEST(Check, PrintsFindingsAndNotesAsJson)
                               {"mat_id": 2, "mat_name": "empty"}]})");
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err, "");
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     EXPECT_EQ(reading.document["file"], "-");
     ASSERT_EQ(reading.document["findings"].size(), 1U);

@@ -184,15 +184,15 @@ TEST(Import, WritesNoTextThatIsNone)
         vxmat({"import", "-", "-o", file}, R"({"proj_type": 2, "material": [{"mat_id": 1, "mat_name": "\udc00"}]})");
     EXPECT_EQ(run.status, 2);
     EXPECT_THAT(run.err, StartsWith("vxmat: "));
-    EXPECT_THAT(run.err, HasSubstr("UTF-8"));
+    EXPECT_THAT(run.err, HasSubstr("half of a surrogate pair"));
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST(Import, DoubtsMembersThatStandTwice)
+TEST(Import, DoubtsMembersThatAreThereTwice)
 {
     const Outcome run = vxmat({"import", dataPath("documents/14-repeated-members.json"), "-o", "-"});
     EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.err, HasSubstr("14-repeated-members.json: $"));
+    EXPECT_THAT(run.err, HasSubstr("14-repeated-members.json: $.material[0].mat_name: is there more than once"));
 }
 
 TEST(Import, RefusesWhatIsNoMaterialDocument)

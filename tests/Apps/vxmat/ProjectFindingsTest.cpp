@@ -3,7 +3,7 @@
 
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectFile.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
@@ -169,7 +169,7 @@ TEST(CheckOfAProject, ComesAsJson)
 {
     const Outcome run = vxmat({"check", "-", "--json"}, projectOf(std::make_unique<vxMat::Density>(0.0)));
     EXPECT_EQ(run.status, 1);
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     EXPECT_EQ(reading.document["findings"][0]["path"], "$.materials[0].material.properties[0].value");
     EXPECT_TRUE(reading.document["notes"].empty());

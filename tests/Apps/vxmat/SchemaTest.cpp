@@ -5,7 +5,7 @@
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/exchange/CAESet.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 
 #include <gmock/gmock.h>
@@ -84,7 +84,7 @@ std::string writeSet(const Folder& folder, const std::string& name, const vxCAE:
 {
     Json::Value document;
     set.writeJson(document);
-    return folder.file(name, vxCAE::toStyledText(document));
+    return folder.file(name, vxjson::toStyledText(document));
 }
 
 TEST(Schema, FitsTheAnalysesThatTheWriterMakes)
@@ -95,7 +95,7 @@ TEST(Schema, FitsTheAnalysesThatTheWriterMakes)
     {
         vxCAE::CAESet set(1, vxCAE::ProjectKind::Analysis);
         set.readJson(
-            vxCAE::readJsonText(vxtest::readText(dataPath("documents/" + std::string(name) + ".json"))).document);
+            vxjson::readJsonText(vxtest::readText(dataPath("documents/" + std::string(name) + ".json"))).document);
         files.push_back(writeSet(folder, std::string(name) + ".json", set));
     }
     vxCAE::CAESet set(1, vxCAE::ProjectKind::Analysis);

@@ -1,7 +1,7 @@
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/exchange/DocumentCheck.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     vxCAE::findRepeatedMembers(text);
-    const vxCAE::JsonReading reading = vxCAE::readJsonText(text);
+    const vxjson::JsonReading reading = vxjson::readJsonText(text);
     if (reading.error)
         return 0;
     vxCAE::checkDocument(reading.document);

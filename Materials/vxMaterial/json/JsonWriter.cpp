@@ -1,21 +1,25 @@
-#include "JsonWriter.h"
+#include "vxMaterial/json/JsonWriter.h"
 
-#include "projectfile/ProjectFile.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "SyntaxFault.h"
+
+#include "vxMaterial/json/JsonTree.h"
+#include "vxMaterial/json/Utf8.h"
 
 #include <array>
-#include <cassert>
 #include <charconv>
 #include <cmath>
 #include <utility>
 
-namespace projectfile::detail {
+namespace vxjson {
 
 namespace {
 
 constexpr std::size_t indent = 2;
+/// Deeper arrays and objects are written in a line, since indenting each of their values would make the text many times
+/// as long as what it says.
+constexpr std::size_t deepestBlock = 32;
 
-/// Longer than the shortest text of any number.
+/// Longer than the text of any number.
 using NumberBuffer = std::array<char, 32>;
 
 template <class Number>
@@ -25,7 +29,8 @@ std::string_view shortest(NumberBuffer& buffer, Number number)
     return {buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())};
 }
 
-/// Whether a byte stands for itself in a JSON text. DEL would, but is as invisible as the other control characters.
+/// Whether a byte of a text must be written as an escape. DEL need not be, but is as invisible as the other control
+/// characters.
 bool needsEscape(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
@@ -41,10 +46,21 @@ bool isAscii(char c)
 
 void JsonWriter::begin(char bracket, JsonLayout layout)
 {
-    const bool isInLine = !m_levels.empty() && !m_levels.back().isBlock;
+    const bool isInLine = (!m_levels.empty() && !m_levels.back().isBlock) || m_levels.size() >= deepestBlock;
     m_text += bracket;
     m_levels.push_back({layout == JsonLayout::Block && !isInLine, 0});
     m_path.enter();
+    if (m_levels.size() > deepestNesting)
+        fail(QT_TRANSLATE_NOOP("vxjson::JsonError", "\"%1\" is nested more than 1000 levels deep"));
+}
+
+void JsonWriter::fail(const char* reason)
+{
+    if (m_fault)
+        return;
+    m_fault.emplace();
+    m_fault->reason = reason;
+    m_fault->shown = m_path.toText();
 }
 
 void JsonWriter::end(char bracket)
@@ -103,7 +119,8 @@ void JsonWriter::whole(std::uint64_t value)
 
 void JsonWriter::number(double value)
 {
-    assert(std::isfinite(value));
+    if (!std::isfinite(value))
+        return fail(QT_TRANSLATE_NOOP("vxjson::JsonError", "\"%1\" is not a finite number"));
     NumberBuffer buffer;
     m_text += shortest(buffer, value);
     // Many readers take -0 for the whole number 0.
@@ -113,13 +130,12 @@ void JsonWriter::number(double value)
 
 void JsonWriter::number(float value)
 {
-    assert(std::isfinite(value));
     NumberBuffer buffer;
     const std::string_view written = shortest(buffer, value);
     // Readers read a double and round it, which may give a neighbour of the number.
     double read = 0.0;
     std::from_chars(written.data(), written.data() + written.size(), read);
-    if (static_cast<float>(read) != value || value == 0.0F)
+    if (!std::isfinite(value) || static_cast<float>(read) != value || value == 0.0F)
         number(static_cast<double>(value));
     else
         m_text += written;
@@ -157,34 +173,45 @@ void JsonWriter::text(std::string_view value)
     }
     m_text += value.substr(begin);
     m_text += '"';
-    if (!isPlain && vxCAE::lengthOfUtf8(value) < value.size())
-        throw ProjectFileError("\"" + path() + "\" is not UTF-8, so that it cannot be written");
+    if (!isPlain && lengthOfUtf8(value) < value.size())
+        fail(QT_TRANSLATE_NOOP("vxjson::JsonError", "\"%1\" is not UTF-8"));
 }
 
 void JsonWriter::anyReal(double value)
 {
-    if (!std::isfinite(value))
-        throw ProjectFileError("\"" + path() + "\" is not a finite number, so that it cannot be written");
     const std::size_t begin = m_text.size();
     number(value);
-    // What is not a whole number to the JSON library shall not become one.
+    // A real number of jsoncpp does not become a whole one.
     if (m_text.find_first_of(".e", begin) == std::string::npos)
         m_text += ".0";
 }
 
-void JsonWriter::anyObject(const Json::Value& value) // NOLINT(misc-no-recursion): no deeper than a reader went
+void JsonWriter::anyArray(const Json::Value& value) // NOLINT(misc-no-recursion): no deeper than deepestNesting
+{
+    beginArray(JsonLayout::Block);
+    for (const Json::Value& one : value) {
+        element();
+        any(one);
+    }
+    endArray();
+}
+
+void JsonWriter::anyObject(const Json::Value& value) // NOLINT(misc-no-recursion): no deeper than deepestNesting
 {
     beginObject(JsonLayout::Block);
-    const Json::Value::Members names = value.getMemberNames();
-    for (const std::string& member : names) {
-        name(member);
-        any(value[member]);
+    for (auto member = value.begin(); member != value.end(); ++member) {
+        const char* end = nullptr;
+        const char* const begin = member.memberName(&end);
+        name({begin, static_cast<std::size_t>(end - begin)});
+        any(*member);
     }
     endObject();
 }
 
-void JsonWriter::any(const Json::Value& value) // NOLINT(misc-no-recursion): no deeper than a reader went
+void JsonWriter::any(const Json::Value& value) // NOLINT(misc-no-recursion): no deeper than deepestNesting
 {
+    if (m_levels.size() > deepestNesting)
+        return; // a fault already
     switch (value.type()) {
     case Json::nullValue:
         return null();
@@ -194,20 +221,19 @@ void JsonWriter::any(const Json::Value& value) // NOLINT(misc-no-recursion): no 
         return whole(std::uint64_t{value.asLargestUInt()});
     case Json::realValue:
         return anyReal(value.asDouble());
-    case Json::stringValue:
-        return text(value.asString());
+    case Json::stringValue: {
+        const char* begin = nullptr;
+        const char* end = nullptr;
+        value.getString(&begin, &end);
+        return text({begin, static_cast<std::size_t>(end - begin)});
+    }
     case Json::booleanValue:
         return boolean(value.asBool());
     case Json::arrayValue:
-        beginArray(JsonLayout::Block);
-        for (const Json::Value& one : value) {
-            element();
-            any(one);
-        }
-        return endArray();
+        return anyArray(value);
     case Json::objectValue:
         return anyObject(value);
     }
 }
 
-} // namespace projectfile::detail
+} // namespace vxjson

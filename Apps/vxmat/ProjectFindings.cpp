@@ -20,13 +20,13 @@ class ProjectCheck
 public:
     explicit ProjectCheck(const projectfile::ProjectRecord& project)
     {
-        std::size_t others = 0;
+        bool hasOthers = false;
         for (const projectfile::ObjectRecord& object : project.objects) {
             m_materials[object.objectId] = object.material;
-            others += object.material == nullptr ? 1 : 0;
+            hasOthers = hasOthers || object.material == nullptr;
         }
-        if (others > 0)
-            note("$.objects", "has " + std::to_string(others) + " objects of other classes, which are not checked");
+        if (hasOthers)
+            note("$.objects", "are of other classes than materials and not checked");
         for (const std::string& doubt : project.doubts)
             find("$", doubt);
     }
@@ -106,6 +106,9 @@ void ProjectCheck::checkMaterial(const vxMat::MaterialBase& material, const vxjs
     }
     if (const char* const fault = combination.result())
         find(path, fault);
+    if (const auto curve = vxMat::findUnequalCurve(material))
+        find(path, "has " + std::to_string(curve->yieldStresses) + " yield stresses and " +
+                       std::to_string(curve->plasticStrains) + " plastic strains; both must be of equal number");
 }
 
 void ProjectCheck::checkMaterials(const vxjson::JsonNode& materials)

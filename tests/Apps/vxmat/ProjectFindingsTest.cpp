@@ -116,6 +116,18 @@ TEST(CheckOfAProject, FindsCombinationsThatExcludeEachOther)
               "-: $.materials[0].material.properties: Elasticity and hyper-elasticy cannot be used togeter!\n");
 }
 
+TEST(CheckOfAProject, FindsYieldStressesAndPlasticStrainsOfUnequalNumber)
+{
+    std::vector<std::unique_ptr<vxMat::MaterialProperty>> properties;
+    properties.push_back(std::make_unique<vxMat::PlasticYieldStress>(std::vector<double>{450.0, 608.0, 679.0}));
+    properties.push_back(std::make_unique<vxMat::PlasticStrain>(std::vector<double>{0.0, 0.1}));
+    const Outcome run = check(projectOf(std::move(properties)));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out,
+              "-: $.materials[0].material.properties: has 3 yield stresses and 2 plastic strains; both must be "
+              "of equal number\n");
+}
+
 TEST(CheckOfAProject, JudgesAPropertyByWhatItIsHeldAsToo)
 {
     auto material = std::make_unique<vxMat::CMaterial>("M");

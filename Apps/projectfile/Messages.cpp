@@ -38,7 +38,9 @@ QString tr(const char* text)
 
 QString quoted(std::string_view utf8)
 {
-    return QStringLiteral("\"%1\"").arg(toQString(vxjson::shortened(utf8)));
+    vxjson::JsonWriter writer;
+    writer.text(vxjson::shortened(utf8));
+    return toQString(writer.take());
 }
 
 QString shown(const vxjson::JsonNode& value)

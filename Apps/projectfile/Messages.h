@@ -20,7 +20,7 @@ inline QString toQString(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-/// Returns a text in quotes, its middle left out if it is long.
+/// Returns a text in quotes, as JSON has it, its middle left out if it is long.
 QString quoted(std::string_view utf8);
 
 /// Returns a value as a message shows it: "an object", "an array", and all else as the text has it, shortened.

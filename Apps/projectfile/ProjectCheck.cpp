@@ -2,6 +2,8 @@
 
 #include "Messages.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -195,32 +197,42 @@ void doubtLabels(const ProjectRecord& project, std::vector<std::string>& doubts)
     }
 }
 
-/// A link of an object.
-struct LinkPlace
+/// A link that is wrong.
+struct FalseLink
 {
-    std::size_t object; ///< in the record
-    std::size_t link;   ///< in the object
+    std::size_t object; ///< its place in the record
+    std::size_t link;   ///< its place in the object
+    const char* reason; ///< to be translated; %1 is the path, %2 the number
 };
 
-std::vector<LinkPlace> falseLinks(const std::vector<ObjectRecord>& objects)
+std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
 {
     const ObjectIndex known = byNumber(objects);
-    std::vector<LinkPlace> places;
+    std::vector<FalseLink> found;
     for (std::size_t object = 0; object < objects.size(); ++object) {
-        std::unordered_set<std::uint32_t> seen{objects[object].objectId};
+        std::unordered_set<std::uint32_t> seen;
         for (std::size_t link = 0; link < objects[object].links.size(); ++link) {
             const std::uint32_t number = objects[object].links[link];
-            if (known.count(number) == 0 || !seen.insert(number).second)
-                places.push_back({object, link});
+            if (number == objects[object].objectId)
+                found.push_back(
+                    {object, link, QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, the object itself.)")});
+            else if (known.count(number) == 0)
+                found.push_back(
+                    {object, link,
+                     QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, but there is no such object.)")});
+            else if (!seen.insert(number).second)
+                found.push_back(
+                    {object, link,
+                     QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which is there twice.)")});
         }
     }
-    return places;
+    return found;
 }
 
 void removeFalseLinks(std::vector<ObjectRecord>& objects)
 {
-    for (const LinkPlace& place : falseLinks(objects))
-        objects[place.object].links[place.link] = 0;
+    for (const FalseLink& wrong : falseLinks(objects))
+        objects[wrong.object].links[wrong.link] = 0;
     for (ObjectRecord& object : objects)
         object.links.erase(std::remove(object.links.begin(), object.links.end(), 0U), object.links.end());
 }
@@ -240,12 +252,10 @@ std::vector<std::string> findFalseLinks(const ProjectRecord& project)
 {
     std::vector<std::string> doubts;
     const std::vector<std::string> paths = pathsOf(project.objects);
-    for (const LinkPlace& place : falseLinks(project.objects)) {
-        const std::string path = paths[place.object] + ".links[" + std::to_string(place.link) + "]";
-        const QString number = QString::number(project.objects[place.object].links[place.link]);
-        doubts.push_back(tr(R"("%1" is %2, which is not the number of another object, or is there twice.)")
-                             .arg(toQString(path), number)
-                             .toStdString());
+    for (const FalseLink& wrong : falseLinks(project.objects)) {
+        const std::string path = paths[wrong.object] + ".links[" + std::to_string(wrong.link) + "]";
+        const QString number = QString::number(project.objects[wrong.object].links[wrong.link]);
+        doubts.push_back(tr(wrong.reason).arg(toQString(path), number).toStdString());
     }
     return doubts;
 }

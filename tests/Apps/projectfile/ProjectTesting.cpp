@@ -157,6 +157,25 @@ projectfile::ProjectRecord makeSmallProject()
     return project;
 }
 
+projectfile::ProjectRecord makeMixedProject()
+{
+    projectfile::ProjectRecord project = makeSmallProject();
+    project.className = "Stub::Project";
+    project.properties["Temperature"] = 293.15;
+    project.record["runs"][0] = 7;
+    project.objects[0].properties["Batch"] = "B 12";
+    project.objects[0].node["Expanded"] = true;
+    projectfile::ObjectRecord& probe = addOther(project, "Stub::Probe", "Probe A");
+    probe.properties["Depth"] = 0.5;
+    probe.properties["Colour"][0] = 1;
+    probe.node["Expanded"] = false;
+    probe.content["samples"][0] = 1.5;
+    projectfile::ObjectRecord& group = addOther(project, "Obj::ProjectObjectGroup", "Group");
+    group.suppressed = true;
+    group.links = {3, 1};
+    return project;
+}
+
 std::unique_ptr<MaterialBase> Dice::makeMaterial()
 {
     auto material = std::make_unique<MaterialBase>();

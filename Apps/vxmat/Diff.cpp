@@ -23,7 +23,7 @@ namespace {
 
 using vxMat::MaterialProperty;
 
-/// What one of the files has.
+/// A value in one of the files.
 struct Side
 {
     Json::Value json;
@@ -37,7 +37,7 @@ struct Difference
     bool isMaterial = true; ///< false for an object of another class
     std::optional<std::int32_t> property{}; ///< the number under which it is held; absent for the material as a whole
     std::string quantity{};                 ///< the name of the property
-    std::string field{};                    ///< empty if the material, object or property is in one file alone
+    std::string field{};                    ///< empty if the material, object or property is only in one file
     Side one{};
     Side other{};
 };
@@ -341,12 +341,12 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form)
     const MaterialFile left = readMaterials(one);
     const MaterialFile right = readMaterials(other);
     Answer answer;
-    for (const MaterialFile* const file : {&left, &right})
-        answer.messages.insert(answer.messages.end(), file->doubts.begin(), file->doubts.end());
+    answer.add(left.doubts);
+    answer.add(right.doubts);
     if (left.source != right.source)
         answer.messages.push_back("note: " + (left.source == vxCAE::MaterialSource::Document ? one : other) +
-                                  " is an exchange document, which carries of a property its key, name and number "
-                                  "alone: words, lists, units, descriptions and categories are not compared, nor "
+                                  " is an exchange document, which carries of a property only its key, name and "
+                                  "number: words, lists, units, descriptions and categories are not compared, nor "
                                   "colours, what is suppressed and other objects");
 
     const bool complete = left.source == vxCAE::MaterialSource::Complete && right.source == left.source;

@@ -28,21 +28,6 @@ struct Wanted
     std::unique_ptr<vxCAE::MaterialEntry> entry;
 };
 
-/// NAME or NAME=NUMBER.
-struct NameAndNumber
-{
-    std::string name;
-    std::optional<std::string> number;
-};
-
-NameAndNumber split(const std::string& argument)
-{
-    const std::size_t sign = argument.rfind('=');
-    if (sign == std::string::npos)
-        return {argument, std::nullopt};
-    return {argument.substr(0, sign), argument.substr(sign + 1)};
-}
-
 /// Notes what the document does not carry of a material, besides units and descriptions, which the catalogue knows.
 void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
 {
@@ -79,10 +64,10 @@ void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answe
     if (!input.project)
         throw Failure(path + ": not a project file; its materials are in a document already");
     MaterialFile file = readMaterials(std::move(input));
-    answer.messages.insert(answer.messages.end(), file.doubts.begin(), file.doubts.end());
+    answer.add(file.doubts);
     if (!file.others.empty())
-        answer.messages.push_back("note: " + path + ": exchange documents carry only materials; left out: " +
-                                  std::to_string(file.others.size()) + " objects of other classes");
+        answer.messages.push_back("note: " + path +
+                                  ": exchange documents carry only materials; the other objects are left out");
     for (FileMaterial& material : file.materials) {
         requireThatItTravels(path, *material.entry->material);
         all.push_back({path + ": " + material.label, material.number, std::move(material.entry)});
@@ -94,7 +79,7 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
     const MaterialNames names;
     std::vector<Wanted> all;
     for (const std::string& argument : arguments) {
-        const NameAndNumber wanted = split(argument);
+        const NameAndValue wanted = splitAt(argument, argument.rfind('='));
         const bool isName = names.find(argument).has_value() || names.find(wanted.name).has_value();
         if (!isName && isFile(argument)) {
             requireAnotherFile(argument, output);
@@ -102,8 +87,8 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
             continue;
         }
         std::optional<std::uint32_t> number;
-        if (wanted.number)
-            number = parseNumber(argument, *wanted.number);
+        if (wanted.value)
+            number = parseNumber(argument, *wanted.value);
         if (!isName)
             throw Failure(names.unknownNameOrFile(wanted.name));
         auto entry = std::make_unique<vxCAE::MaterialEntry>();

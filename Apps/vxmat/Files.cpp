@@ -35,7 +35,7 @@ QString toQString(const std::string& path)
         throw Failure("the name of a file is empty");
     const QString name = QFile::decodeName(path.c_str());
     if (QFile::encodeName(name).toStdString() != path)
-        fail(path, QStringLiteral("the name is not a UTF-8 text"));
+        fail(path, QStringLiteral("the name is not UTF-8"));
     return name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name;
 }
 

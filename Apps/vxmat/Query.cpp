@@ -108,7 +108,7 @@ Answer queryFile(const std::string& path, const std::optional<std::string>& mate
         supplyMaterials(set, *materialsPath, answer);
     else if (!set.domainConditions->domains.empty())
         answer.messages.push_back(path + ": note: analysis documents do not say what models their materials use; "
-                                         "with --materials FILE the answers take them into account");
+                                         "with --materials FILE they are taken into account");
     const Json::Value json = answers(set);
     answer.text = form == Form::Json ? toJsonText(json) : toText(json);
     return answer;

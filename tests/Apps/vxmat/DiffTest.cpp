@@ -139,7 +139,7 @@ TEST(Diff, LeavesOutWhatADocumentCannotCarryAndSaysSoOnce)
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(run.err, "vxmat: note: " + document +
-                               " is an exchange document, which carries of a property its key, name and number alone: "
+                               " is an exchange document, which carries of a property only its key, name and number: "
                                "words, lists, units, descriptions and categories are not compared, nor colours, "
                                "what is suppressed and other objects\n");
     }

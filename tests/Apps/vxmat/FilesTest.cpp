@@ -139,7 +139,7 @@ TEST(Files, RefuseANameThatIsNotUtf8RatherThanUseAnother)
     const Folder folder;
     const Outcome run = shell("cd '" + folder.path("") + "' && \"$VXMAT\" export Air -o \"$(printf 'bad\\377.json')\"");
     EXPECT_EQ(run.status, 2);
-    EXPECT_THAT(run.err, HasSubstr("not a UTF-8 text"));
+    EXPECT_THAT(run.err, HasSubstr("the name is not UTF-8"));
     EXPECT_THAT(folder.names(), testing::IsEmpty());
 }
 

@@ -84,7 +84,7 @@ TEST(New, RefusesNamesAndLabelsThatAreNone)
     const std::string file = folder.path("x.vxmat");
     const std::pair<std::vector<std::string>, std::string> cases[] = {
         {{"Watr"}, "no material is called \"Watr\"; did you mean \"Water\"?"},
-        {{"Air="}, "Air=: the label is empty"},
+        {{"Air="}, "Air=: the label must not be empty"},
         {{"Air", "air"}, "air: another material has the label \"Air\" already; NAME=LABEL gives it another"},
         {{"Air=x", "Water=x"}, "Water=x: another material has the label \"x\" already"},
     };
@@ -97,7 +97,7 @@ TEST(New, RefusesNamesAndLabelsThatAreNone)
         EXPECT_EQ(run.out, "");
         EXPECT_THAT(run.err, StartsWith("vxmat: " + reason));
     }
-    EXPECT_THAT(shell("\"$VXMAT\" new \"$(printf 'Air=\\377')\" -o -").err, HasSubstr("the label is not a UTF-8 text"));
+    EXPECT_THAT(shell("\"$VXMAT\" new \"$(printf 'Air=\\377')\" -o -").err, HasSubstr("the label is not UTF-8"));
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 

@@ -25,16 +25,16 @@ struct MaterialKind
     };
 };
 
-/// One material of the section, which it owns, with its model kind and its solver cards.
+/// A material on its way to the solver, with its model kind and its solver cards. It owns the material.
 ///
-/// The cards are the solver's text form of nonlinear and thermal data. No writer fails: a model that does not
-/// apply gives the empty text, and a missing value one of the messages below in place of the data. Messages
-/// begin with "Invalid" and end with a line feed; whoever writes solver input decides what becomes of such a
-/// card. Numbers have six significant digits unless said otherwise.
+/// The cards are the solver's text form of nonlinear and thermal data. No operation fails: a model that does not apply
+/// gives the empty text, and a missing value one of the messages below in place of the data. Messages begin with
+/// "Invalid" and end with a line feed; the writer of solver input decides whether to use such a card. Numbers have six
+/// significant digits unless noted otherwise.
 class VXCAE_EXPORT MaterialEntry
 {
 public:
-    /// A number of a material, and whether it has it; 0.0 when it has not.
+    /// A number of a material, and whether the material has it; 0.0 if it does not.
     struct FoundValue
     {
         double value = 0.0;
@@ -50,26 +50,26 @@ public:
     std::string getPropertyText(std::int32_t propertyId) const;
 
     /// Sets `kind` by the first model switch that the material has, in this order: plasticity, Mooney-Rivlin,
-    /// Arruda-Boyce, Neo-Hooke, visco-elasticity, creep. Answers false, with the linear kind, when it has none.
+    /// Arruda-Boyce, Neo-Hooke, visco-elasticity, creep. Returns false, with the linear kind, if it has none.
     bool classifyKind();
 
     FoundValue getDensity() const;
     /// Whether the material has all of density, specific heat and thermal conductivity.
     bool hasThermalData() const;
 
-    /// Young's modulus and Poisson's ratio with six decimals and without a line end,
-    /// " 200000000000.000000, 0.300000"; when one is missing "Invalid young_modulus or poisson_ratio.\n".
+    /// Returns Young's modulus and Poisson's ratio with six decimals and without a line end,
+    /// " 200000000000.000000, 0.300000"; if one is missing, "Invalid young_modulus or poisson_ratio.\n".
     std::string getElasticLine() const;
 
-    /// `number` in fixed notation with six decimals, as the elasticity line has it.
+    /// Returns `number` in fixed notation with six decimals, as in the elasticity line.
     static std::string formatReal(double number);
 
-    /// The plasticity card, for the plastic kind and the yield and hardening types that the solver knows:
-    /// - Mises, bilinear (also when no hardening is said): initial yield stress and hardening factor, or "Invalid
+    /// Returns the plasticity card, for the plastic kind and the yield and hardening types that the solver knows:
+    /// - Mises, bilinear (also without a hardening type): initial yield stress and hardening factor, or "Invalid
     ///   dIniYStress and dHFactor\n";
     /// - Mises, multilinear: a line of yield stress and plastic strain for each pair of the two lists. Yield stresses
-    ///   without a strain at their position are left out; no strain is made up for them;
-    /// - Drucker-Prager and Mohr-Coulomb, bilinear (also when no hardening is said): viscosity, friction angle and
+    ///   without a strain at their position are left out;
+    /// - Drucker-Prager and Mohr-Coulomb, bilinear (also without a hardening type): viscosity, friction angle and
     ///   hardening factor, or "Invalid dViscosity, dFAI, and dHFactor.\n";
     /// - Drucker-Prager and Mohr-Coulomb, multilinear: friction angle, then plastic strain and viscosity line by line
     ///   under a header that says MISES, or "Invalid dFAI and dViscosity.\n". The solver expects this form.
@@ -77,20 +77,20 @@ public:
     /// Words are compared without regard to case.
     std::string getPlasticityCard() const;
 
-    /// The card of the visco-elastic kind: shear relaxation modulus and relaxation time, or "Invalid
+    /// Returns the card of the visco-elastic kind: shear relaxation modulus and relaxation time, or "Invalid
     /// dShearRelaxation or dRelaxationTime.\n".
     std::string getViscoElasticCard() const;
 
-    /// The card of the creep kind: A, N and M of Norton's law, or "Invalid dModulusA, dModulusN, or dModulusM.\n".
+    /// Returns the card of the creep kind: A, N and M of Norton's law, or "Invalid dModulusA, dModulusN, or dModulusM.\n".
     std::string getCreepCard() const;
 
-    // Tables over temperature: the constant value at 0 and at 1e+06. Any kind of material has them.
+    // Tables over temperature: the constant value at 0 and at 1e+06. Materials of every kind have them.
     std::string getDensityTable() const;             ///< a missing density is written as 0
-    std::string getSpecificHeatTable() const;        ///< "Invalid dSpecificHeat.\n" when missing
-    std::string getThermalConductivityTable() const; ///< "Invalid dThermalConduct.\n" when missing
+    std::string getSpecificHeatTable() const;        ///< "Invalid dSpecificHeat.\n" if it is missing
+    std::string getThermalConductivityTable() const; ///< "Invalid dThermalConduct.\n" if it is missing
 
     std::int32_t kind = MaterialKind::Linear;
-    std::unique_ptr<vxMat::CMaterial> material; ///< never null unless its owner takes it
+    std::unique_ptr<vxMat::CMaterial> material; ///< never null, unless its owner has moved it away
 };
 
 } // namespace vxCAE

@@ -200,7 +200,7 @@ void MaterialImport::addProperty(const JsonNode& json, const std::string& path)
     if (quantity == nullptr)
         doubtProperty(*property, tr("the catalogue does not know it; its unit, description and category are lost"));
     if (material->hasProperty(id))
-        doubtProperty(*property, tr("it stands twice in the document; the last one was taken"));
+        doubtProperty(*property, tr("it is there twice in the document; the last one was taken"));
     // As a plain property, which every copy of a material has.
     material->setProperty(id, std::make_unique<vxMat::MaterialProperty>(*property));
 }
@@ -283,7 +283,7 @@ void requireMaterialDocument(const JsonNode& document)
     if (kind == vxCAE::ProjectKind::Analysis)
         throw ContentError(tr("an analysis document holds no materials; give the material document").toStdString());
     if (kind != vxCAE::ProjectKind::Material)
-        throw ContentError(tr("it is no material document: \"proj_type\" must be 2").toStdString());
+        throw ContentError(tr("it is not a material document: \"proj_type\" must be 2").toStdString());
 }
 
 void doubtRepeatedMembers(const vxjson::JsonTree& tree, std::vector<std::string>& doubts)

@@ -224,7 +224,7 @@ TEST(ExchangeImport, TakesTheLastOfAPropertyThatRepeatsAndSaysSo)
                                                         "prop_value": 2})"));
     EXPECT_EQ(imported.materials[0].material->findProperty(4)->value, 2.0);
     EXPECT_THAT(imported.doubts,
-                ElementsAre(R"(material 7 "M": property 4 "Density": it stands twice in the document; )"
+                ElementsAre(R"(material 7 "M": property 4 "Density": it is there twice in the document; )"
                             "the last one was taken"));
 }
 

@@ -203,7 +203,7 @@ TEST(Import, RefusesWhatIsNoMaterialDocument)
     const std::pair<std::string, std::string> cases[] = {
         {project, "it is a project file, which needs no import"},
         {dataPath("documents/03-analysis.json"), "an analysis document holds no materials; give the material document"},
-        {dataPath("documents/18-unknown-project-type.json"), "it is no material document: \"proj_type\" must be 2"},
+        {dataPath("documents/18-unknown-project-type.json"), "it is not a material document: \"proj_type\" must be 2"},
         {dataPath("documents/10-wrong-kinds.json"), "$.material[0].mat_id: is a text; a number is needed"},
     };
     for (const auto& [file, reason] : cases) {

@@ -219,7 +219,16 @@ TEST(ReadJsonText, RefusesAZeroByteAndWhatFollowsIt)
     EXPECT_THAT(describe(error), HasSubstr("a zero byte"));
 }
 
-TEST(ReadJsonText, PassesOverAByteOrderMark)
+TEST(ReadJsonText, RefusesATextOfMoreThanTwoGibibytes)
+{
+    // Its length is enough to refuse it; no byte of it is read.
+    const char first = '[';
+    const auto reading = readJsonText({&first, vxjson::longestText + 1});
+    ASSERT_TRUE(reading.error);
+    EXPECT_EQ(describe(*reading.error), "the text is longer than 2 GiB");
+}
+
+TEST(ReadJsonText, SkipsAByteOrderMark)
 {
     EXPECT_FALSE(readJsonText("\xef\xbb\xbf{\"a\": 1}").error);
 }

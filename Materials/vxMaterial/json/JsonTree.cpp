@@ -29,8 +29,6 @@ using detail::Expected;
 /// RapidJSON does not check what malloc returns.
 struct ThrowingAllocator
 {
-    static constexpr bool kNeedFree = true;
-
     static void* Malloc(std::size_t size) { return size == 0 ? nullptr : checked(std::malloc(size)); }
     static void* Realloc(void* memory, std::size_t /*oldSize*/, std::size_t size)
     {

@@ -84,7 +84,7 @@ std::string pathOf(const std::string& parent, const char* key, std::size_t index
     return parent + "." + key + "[" + std::to_string(index) + "]";
 }
 
-/// The value as a number without a sign; absent if it is none.
+/// The value as a number without a sign; absent for all else.
 std::optional<std::uint32_t> unsignedNumber(const JsonNode& value)
 {
     const std::optional<std::int64_t> whole = value.whole();
@@ -333,7 +333,7 @@ ProjectRecord makeProject(const std::string& name, std::vector<ImportedMaterial>
     project.database["proj_tag"] = "Material";
     project.database["proj_id"] = 1U;
     project.database["physics_type"] = "Material";
-    Json::Value objects; // null, as the host has it, when there is none
+    Json::Value objects; // null, as in the host, if there are no materials
     for (ImportedMaterial& imported : materials) {
         ObjectRecord object;
         object.objectId = imported.objectId;

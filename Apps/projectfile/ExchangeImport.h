@@ -16,7 +16,7 @@ namespace projectfile {
 /// A material as an object of a project is to hold it.
 struct PROJECTFILE_EXPORT ImportedMaterial
 {
-    std::uint32_t objectId = 0;                    ///< of this material alone; never 0
+    std::uint32_t objectId = 0;                    ///< no other material has it; never 0
     std::string label;                             ///< what the user sees; never empty
     std::unique_ptr<vxMat::MaterialBase> material; ///< never null
 };

@@ -47,7 +47,7 @@ QByteArray systemName(const QString& path)
     return QFile::encodeName(path);
 }
 
-/// Returns a path that Qt takes for that of a file; one that begins with a colon would be a resource.
+/// Returns a path that means a file to Qt, for which one that begins with a colon is a resource.
 QString filePath(const QString& path)
 {
     return path.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + path : path;

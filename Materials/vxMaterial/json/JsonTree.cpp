@@ -5,6 +5,7 @@
 #include "vxMaterial/json/Utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -25,6 +26,10 @@ namespace {
 
 using detail::errorAt;
 using detail::Expected;
+
+constexpr const char* beyondRange = QT_TRANSLATE_NOOP("vxjson::JsonError", "'%1' is beyond the range of a double");
+constexpr const char* halfOfPair =
+    QT_TRANSLATE_NOOP("vxjson::JsonError", "an escape for half of a surrogate pair, which is not a character");
 
 /// RapidJSON does not check what malloc returns.
 struct ThrowingAllocator
@@ -167,10 +172,7 @@ private:
     {
         if (!m_mayHaveHalves || !hasHalfOfPair(characters))
             return true;
-        return fail(
-            characters.data() - 1,
-            QT_TRANSLATE_NOOP("vxjson::JsonError", "an escape for half of a surrogate pair, which is not a character"),
-            {});
+        return fail(characters.data() - 1, halfOfPair, {});
     }
     bool checkNames();
     std::string path(std::string_view lastName) const;
@@ -199,7 +201,7 @@ bool Builder::RawNumber(const char* begin, rapidjson::SizeType length, bool /*co
     double number = 0.0;
     if (std::from_chars(begin, end, number).ec == std::errc())
         return m_document->Double(number);
-    return fail(begin, QT_TRANSLATE_NOOP("vxjson::JsonError", "'%1' is beyond the range of a double"), {begin, length});
+    return fail(begin, beyondRange, {begin, length});
 }
 
 bool Builder::checkNames()
@@ -227,53 +229,71 @@ std::string Builder::path(std::string_view lastName) const
     return shortened(path.append(".").append(lastName));
 }
 
-JsonError explain(std::string_view text, const rapidjson::ParseResult& result)
+/// What the text lacks where RapidJSON stopped.
+struct Lack
 {
-    const std::size_t offset = std::min(result.Offset(), text.size());
-    switch (result.Code()) {
-    case rapidjson::kParseErrorDocumentEmpty:
-        return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "there is no value in the text"));
-    case rapidjson::kParseErrorDocumentRootNotSingular:
-        return explainSyntaxError(text, offset, Expected::End);
-    case rapidjson::kParseErrorObjectMissName:
-        return explainSyntaxError(text, offset, Expected::MemberName);
-    case rapidjson::kParseErrorObjectMissColon:
-        return explainSyntaxError(text, offset, Expected::Colon);
-    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
-        return explainSyntaxError(text, offset, Expected::CommaOrBrace);
-    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
-        return explainSyntaxError(text, offset, Expected::CommaOrBracket);
-    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
-        return errorAt(text, offset,
-                       QT_TRANSLATE_NOOP("vxjson::JsonError", "the escape \\u needs four hexadecimal digits"));
-    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
-        return errorAt(
-            text, offset,
-            QT_TRANSLATE_NOOP("vxjson::JsonError", "an escape for half of a surrogate pair, which is not a character"));
-    case rapidjson::kParseErrorStringEscapeInvalid:
-        if (text[offset] == '\\')
-            return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "'%1' is not an escape of JSON"),
-                           text.substr(offset, 2));
-        return errorAt(text, offset,
-                       QT_TRANSLATE_NOOP("vxjson::JsonError",
-                                         "a control character in a text, which must be written as an escape"));
-    case rapidjson::kParseErrorStringMissQuotationMark:
-        return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "the closing quote of a text is missing"));
-    case rapidjson::kParseErrorNumberTooBig: {
-        const std::size_t end = std::min(text.find_first_not_of("0123456789.eE+-", offset), text.size());
-        return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "'%1' is beyond the range of a double"),
-                       text.substr(offset, end - offset));
-    }
-    case rapidjson::kParseErrorTermination: // what has no message of its own is the depth
-        return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "nested more than 1000 levels deep"));
-    case rapidjson::kParseErrorUnspecificSyntaxError:
-        return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "a comment that does not end"));
-    default: // of values and parts of numbers
-        return explainSyntaxError(text, offset, Expected::Value);
-    }
+    rapidjson::ParseErrorCode code;
+    Expected expected;
+};
+
+constexpr std::array lacks{
+    Lack{rapidjson::kParseErrorDocumentRootNotSingular, Expected::End},
+    Lack{rapidjson::kParseErrorObjectMissName, Expected::MemberName},
+    Lack{rapidjson::kParseErrorObjectMissColon, Expected::Colon},
+    Lack{rapidjson::kParseErrorObjectMissCommaOrCurlyBracket, Expected::CommaOrBrace},
+    Lack{rapidjson::kParseErrorArrayMissCommaOrSquareBracket, Expected::CommaOrBracket},
+    Lack{rapidjson::kParseErrorValueInvalid, Expected::Value},
+    Lack{rapidjson::kParseErrorNumberMissFraction, Expected::Value},
+    Lack{rapidjson::kParseErrorNumberMissExponent, Expected::Value},
+};
+
+/// What is wrong where RapidJSON stopped.
+struct Fault
+{
+    rapidjson::ParseErrorCode code;
+    const char* reason;
+};
+
+constexpr std::array faults{
+    Fault{rapidjson::kParseErrorDocumentEmpty, QT_TRANSLATE_NOOP("vxjson::JsonError", "there is no value in the text")},
+    Fault{rapidjson::kParseErrorStringUnicodeEscapeInvalidHex,
+          QT_TRANSLATE_NOOP("vxjson::JsonError", "the escape \\u needs four hexadecimal digits")},
+    Fault{rapidjson::kParseErrorStringUnicodeSurrogateInvalid, halfOfPair},
+    Fault{rapidjson::kParseErrorStringMissQuotationMark,
+          QT_TRANSLATE_NOOP("vxjson::JsonError", "the closing quote of a text is missing")},
+    // The builder has a message for everything else that it refuses.
+    Fault{rapidjson::kParseErrorTermination,
+          QT_TRANSLATE_NOOP("vxjson::JsonError", "nested more than 1000 levels deep")},
+    Fault{rapidjson::kParseErrorUnspecificSyntaxError,
+          QT_TRANSLATE_NOOP("vxjson::JsonError", "a comment that does not end")},
+};
+
+/// Of an escape, or a character that needs one.
+JsonError explainEscape(std::string_view text, std::size_t offset)
+{
+    if (text[offset] == '\\')
+        return errorAt(text, offset, QT_TRANSLATE_NOOP("vxjson::JsonError", "'%1' is not an escape of JSON"),
+                       text.substr(offset, 2));
+    return errorAt(
+        text, offset,
+        QT_TRANSLATE_NOOP("vxjson::JsonError", "a control character in a text, which must be written as an escape"));
 }
 
-/// What no JSON text has, and RapidJSON does not find or takes for the end of the text.
+JsonError explain(std::string_view text, rapidjson::ParseErrorCode code, std::size_t offset)
+{
+    const auto isOfCode = [code](const auto& row) { return row.code == code; };
+    if (const auto* const lack = std::find_if(lacks.begin(), lacks.end(), isOfCode); lack != lacks.end())
+        return explainSyntaxError(text, offset, lack->expected);
+    if (const auto* const fault = std::find_if(faults.begin(), faults.end(), isOfCode); fault != faults.end())
+        return errorAt(text, offset, fault->reason);
+    if (code == rapidjson::kParseErrorStringEscapeInvalid)
+        return explainEscape(text, offset);
+    // The only other error: a number whose exponent, or digits before the point, are too large.
+    const std::size_t end = std::min(text.find_first_not_of("0123456789.eE+-", offset), text.size());
+    return errorAt(text, offset, beyondRange, text.substr(offset, end - offset));
+}
+
+/// Finds bytes that no JSON text has, and that RapidJSON does not refuse.
 std::optional<JsonError> findForeignBytes(std::string_view text)
 {
     if (text.size() > longestText) {
@@ -399,7 +419,7 @@ void JsonTree::Content::parse(std::string_view text, JsonDialect dialect)
     repeatedMembers = builder.takeRepeatedMembers();
     error = builder.takeError();
     if (result.IsError() && !error)
-        error = explain(text, rapidjson::ParseResult(result.Code(), result.Offset() + mark));
+        error = explain(text, result.Code(), std::min(result.Offset() + mark, text.size()));
     if (!error && dialect == JsonDialect::Strict && !document.IsObject() && !document.IsArray())
         error = errorAt(text, text.find_first_not_of(" \t\r\n", mark),
                         QT_TRANSLATE_NOOP("vxjson::JsonError", "an object or an array is needed"));

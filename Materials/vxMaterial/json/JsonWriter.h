@@ -19,7 +19,7 @@ namespace vxjson {
 /// How an array or object is laid out. Everything inside a Line is in that line too.
 enum class JsonLayout
 {
-    Block, ///< each element or member on a line of its own
+    Block, ///< each element or member on its own line
     Line,
 };
 

@@ -10,7 +10,7 @@
 
 namespace vxjson::detail {
 
-/// What a text is read for when reading stops.
+/// What the grammar wants where reading stops.
 enum class Expected
 {
     Value,

@@ -18,6 +18,7 @@
 namespace {
 
 using projectfile::ProjectRecord;
+using vxbench::lazily;
 using vxbench::timed;
 
 constexpr double limit = 0.6;
@@ -62,19 +63,6 @@ Json::Value parse(const std::string& text)
     const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
     reader->parse(text.data(), text.data() + text.size(), &document, nullptr);
     return document;
-}
-
-/// Returns a function that makes something when it is first called, so that a process that measures memory makes only
-/// what it needs.
-template <class Make>
-auto lazily(Make make)
-{
-    using Made = std::decay_t<decltype(make())>;
-    return [make, made = std::make_shared<std::unique_ptr<Made>>()]() -> const Made& {
-        if (!*made)
-            *made = std::make_unique<Made>(make());
-        return **made;
-    };
 }
 
 void addContests(std::uint32_t count)

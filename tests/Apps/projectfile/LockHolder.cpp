@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <exception>
 
-/// Locks a file and prints whether that went well, "yes" or "no"; gives it back when its standard input ends.
+/// Locks a file, prints whether that succeeded, "yes" or "no", and unlocks it when its standard input ends.
 ///
 ///     lock_holder FILE
 int main(int argc, char** argv)

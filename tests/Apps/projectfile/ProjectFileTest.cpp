@@ -29,7 +29,7 @@ using vxtest::makeLibraryProject;
 using vxtest::makeMixedProject;
 using vxtest::makeSmallProject;
 
-/// What reading a text says is wrong; the test fails when it takes it for a project.
+/// Returns what reading a text says is wrong. The test fails if the text is read.
 std::string refusalOf(const std::string& text)
 {
     try {
@@ -41,7 +41,7 @@ std::string refusalOf(const std::string& text)
     return {};
 }
 
-/// What writing a project says is wrong; the test fails when it is written.
+/// Returns what writing a project says is wrong. The test fails if the project is written.
 std::string refusalOf(const ProjectRecord& project)
 {
     try {

@@ -29,7 +29,7 @@ projectfile::ProjectRecord makeLibraryProject();
 /// A project that fits on a page: two materials with a property or two.
 projectfile::ProjectRecord makeSmallProject();
 
-/// A project that fits on a page, of a class of its own, with two materials and two objects of other classes: a probe,
+/// A project that fits on a page, of another class than a material project, with two materials and two objects of other classes: a probe,
 /// which has properties and content, and a group of the probe and a material.
 projectfile::ProjectRecord makeMixedProject();
 

@@ -7,7 +7,7 @@
 #include <exception>
 #include <string>
 
-/// Saves the content of two files to a third in turns, until it is killed. It prints a letter when it has begun.
+/// Saves the content of two files to a third in turns, until it is killed. It prints a letter after it has begun.
 ///
 ///     save_loop TARGET FIRST SECOND
 int main(int argc, char** argv)

@@ -155,7 +155,7 @@ TEST(Files, KeepPermissionsAndTheTargetOfALink)
     EXPECT_THAT(vxtest::readText(folder.path("target.json")), HasSubstr("\"Air\""));
 }
 
-TEST(Files, WriteIntoWhatIsOpenAlreadyWithoutThrowingAwayWhatStandsThere)
+TEST(Files, WriteIntoWhatIsOpenAlreadyWithoutDeletingItsContent)
 {
     const Folder folder;
     for (const char* const output : {"-", "/dev/stdout", "/dev/fd/1", "/proc/self/fd/1"}) {

@@ -143,9 +143,9 @@ TEST(CheckOfAProject, JudgesAPropertyByWhatItIsHeldAsToo)
                                    "as 6 \"Poisson's ratio\""));
 }
 
-TEST(CheckOfAProject, NamesValuesByWhereTheyStandInTheFile)
+TEST(CheckOfAProject, NamesValuesByTheirPlacesInTheFile)
 {
-    // Neither the materials nor the properties stand in order here.
+    // Neither the materials nor the properties are in order here.
     const Outcome run = check(R"({"format": "vxMaterial project", "format_version": 1, "name": "p",
         "next_object_id": 9, "materials": [
         {"object_id": 8, "class": "Mat::MaterialObject", "name_internal": "b", "label": "b", "material": {"properties": [

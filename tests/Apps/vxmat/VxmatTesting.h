@@ -30,9 +30,9 @@ class Folder
 {
 public:
     std::string path(const std::string& name) const;
-    /// Writes a file and answers its path.
+    /// Writes a file and returns its path.
     std::string file(const std::string& name, const std::string& text) const;
-    /// The names of what stands in the folder, hidden files included.
+    /// Returns the names of all files in the folder, hidden ones included.
     std::vector<std::string> names() const;
 
 private:

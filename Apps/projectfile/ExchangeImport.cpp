@@ -35,16 +35,20 @@ QString text(std::string_view utf8)
 
 const char* kindName(const JsonNode& value)
 {
-    if (value.isNull())
+    switch (value.kind()) {
+    case vxjson::JsonKind::Null:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "null");
-    if (value.isText())
-        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a text");
-    if (value.isBoolean())
+    case vxjson::JsonKind::Boolean:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "true or false");
-    if (value.isArray())
+    case vxjson::JsonKind::Text:
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a text");
+    case vxjson::JsonKind::Array:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "an array");
-    if (value.isObject())
+    case vxjson::JsonKind::Object:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "an object");
+    case vxjson::JsonKind::Number:
+        break;
+    }
     return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a number");
 }
 

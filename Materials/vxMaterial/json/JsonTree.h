@@ -31,16 +31,31 @@ enum class JsonDialect
     Strict,       ///< no comments, no member twice; an array or object as a whole
 };
 
+namespace detail {
+struct RapidTree;
+} // namespace detail
+
+enum class JsonKind
+{
+    Null,
+    Boolean,
+    Number,
+    Text,
+    Array,
+    Object,
+};
+
 /// A value in a JsonTree. A handle, as cheap as a pointer, which is valid as long as the tree is.
 class VXJSON_EXPORT JsonNode
 {
 public:
-    bool isNull() const;
-    bool isBoolean() const;
-    bool isNumber() const;
-    bool isText() const;
-    bool isArray() const;
-    bool isObject() const;
+    JsonKind kind() const;
+    bool isNull() const { return kind() == JsonKind::Null; }
+    bool isBoolean() const { return kind() == JsonKind::Boolean; }
+    bool isNumber() const { return kind() == JsonKind::Number; }
+    bool isText() const { return kind() == JsonKind::Text; }
+    bool isArray() const { return kind() == JsonKind::Array; }
+    bool isObject() const { return kind() == JsonKind::Object; }
 
     /// Returns the value of a boolean; false for all else.
     bool boolean() const;
@@ -96,10 +111,9 @@ public:
     const std::vector<std::string>& repeatedMembers() const;
 
 private:
-    struct Content;
-    explicit JsonTree(std::unique_ptr<Content> content);
+    explicit JsonTree(std::unique_ptr<detail::RapidTree> content);
 
-    std::unique_ptr<Content> m_content; ///< never null, except after a move
+    std::unique_ptr<detail::RapidTree> m_content; ///< never null, except after a move
 };
 
 } // namespace vxjson

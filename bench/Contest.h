@@ -2,27 +2,29 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 
-/// Speed is measured as a ratio: what the project does against the same done another way, in one run and in turns, so
+/// Speed is measured as a ratio: what the project does against the same done in another way, in one run and in turns, so
 /// that the speed of the machine cancels out.
 namespace vxbench {
 
-/// Does a thing once and answers the time that the measured part of it took.
+/// Does something once and returns the time of its measured part.
 using Measured = std::function<std::chrono::nanoseconds()>;
 
-/// Two ways to do one thing, and how much longer or larger than the second the first may be.
+/// Two ways to do the same, and how much longer or larger than the second the first may be.
 struct Contest
 {
     std::string name;
     Measured ours;
     Measured other;
-    double limit;             ///< of the ratio of times and of peak memories; 0 when the ratio is for information
-    bool limitsMemory = true; ///< false when the sides hold different things, and the limit is of times alone
+    double limit;             ///< of the ratio of times and of peak memories; 0 if the ratio is for information
+    bool limitsMemory = true; ///< false if the sides hold different things, so that the limit is only of times
 };
 
-/// The time that `action` takes; what it answers is destroyed after the clock has stopped.
+/// Returns the time that `action` takes; its result is destroyed after the clock has stopped.
 template <class Action>
 std::chrono::nanoseconds timed(Action action)
 {
@@ -31,11 +33,24 @@ std::chrono::nanoseconds timed(Action action)
     return std::chrono::steady_clock::now() - begin;
 }
 
+/// Returns a function that makes something when it is first called, so that a process that measures memory makes only
+/// what it needs.
+template <class Make>
+auto lazily(Make make)
+{
+    using Made = std::decay_t<decltype(make())>;
+    return [make, made = std::make_shared<std::unique_ptr<Made>>()]() -> const Made& {
+        if (!*made)
+            *made = std::make_unique<Made>(make());
+        return **made;
+    };
+}
+
 void addContest(Contest contest);
 
-/// Runs all contests, or those whose name contains the argument, each in a process of its own, and prints a table:
+/// Runs all contests, or those whose name contains the argument, each in its own process, and prints a table:
 /// the shortest time of each side over repetitions in turns, and the peak memory of a process that does the side
-/// once. Options of Google Benchmark are passed on. Answers 1 when a ratio is over its limit.
+/// once. Options of Google Benchmark are passed on. Returns 1 if a ratio is over its limit.
 int runContests(int argc, char** argv);
 
 } // namespace vxbench

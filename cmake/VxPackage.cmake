@@ -1,4 +1,4 @@
-# The CMake package of an installed copy: find_package(vxMaterial) offers vxMaterial::model and
+# The CMake package of an installed copy: find_package(vxMaterial) offers vxMaterial::model, vxMaterial::json and
 # vxMaterial::exchange.
 
 include(CMakePackageConfigHelpers)

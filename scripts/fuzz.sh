@@ -5,8 +5,8 @@ cd "$(dirname "$0")/.."
 
 seconds=${1:-60}
 scripts/build.sh fuzz
-for fuzzer in number_text_fuzzer document_fuzzer; do
+for fuzzer in number_text_fuzzer document_fuzzer project_file_fuzzer; do
     mkdir -p "build/fuzz/corpus/$fuzzer"
     "build/fuzz/bin/$fuzzer" -max_total_time="$seconds" -rss_limit_mb=4096 -artifact_prefix=build/fuzz/ \
-        "build/fuzz/corpus/$fuzzer" tests/data/documents
+        "build/fuzz/corpus/$fuzzer" tests/data/documents tests/data/projects
 done

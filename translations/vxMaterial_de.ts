@@ -1275,7 +1275,7 @@ Unterdrückt</translation>
         <translation>der Katalog kennt sie nicht; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
     </message>
     <message>
-        <source>it stands twice in the document; the last one was taken</source>
+        <source>it is there twice in the document; the last one was taken</source>
         <translation>sie steht zweimal im Dokument; die letzte wurde genommen</translation>
     </message>
     <message>
@@ -1303,7 +1303,7 @@ Unterdrückt</translation>
         <translation>ein Analysedokument enthält keine Materialien; nötig ist das Materialdokument</translation>
     </message>
     <message>
-        <source>it is no material document: &quot;proj_type&quot; must be 2</source>
+        <source>it is not a material document: &quot;proj_type&quot; must be 2</source>
         <translation>das ist kein Materialdokument: „proj_type“ muss 2 sein</translation>
     </message>
     <message>

@@ -1275,7 +1275,7 @@ Suppressed</source>
         <translation>目录中没有它；它的单位、说明和类别已丢失</translation>
     </message>
     <message>
-        <source>it stands twice in the document; the last one was taken</source>
+        <source>it is there twice in the document; the last one was taken</source>
         <translation>它在文档中出现两次；采用了最后一个</translation>
     </message>
     <message>
@@ -1303,7 +1303,7 @@ Suppressed</source>
         <translation>分析文档不包含材料；请提供材料文档</translation>
     </message>
     <message>
-        <source>it is no material document: &quot;proj_type&quot; must be 2</source>
+        <source>it is not a material document: &quot;proj_type&quot; must be 2</source>
         <translation>这不是材料文档：“proj_type”必须为 2</translation>
     </message>
     <message>

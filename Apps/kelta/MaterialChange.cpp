@@ -83,11 +83,7 @@ private:
         Mat::MaterialObject* const object = findMaterial(m_projectId, m_objectId);
         if (object == nullptr)
             return;
-        vxMat::CMaterial& material = *object->getCMaterial();
-        std::swap(material.id, m_other->id);
-        std::swap(material.name, m_other->name);
-        std::swap(material.libraryGroup, m_other->libraryGroup);
-        std::swap(material.properties, m_other->properties);
+        object->getCMaterial()->swap(*m_other);
         object->refreshProperties(true);
         materialChanged()(*object);
         reopenEditor(*object);
@@ -104,10 +100,7 @@ private:
 std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material)
 {
     auto copy = std::make_unique<vxMat::CMaterial>();
-    copy->id = material.id;
-    copy->name = material.name;
-    copy->libraryGroup = material.libraryGroup;
-    copy->copyPropertiesFrom(material);
+    copy->copyAllFrom(material);
     return copy;
 }
 

@@ -2,7 +2,6 @@
 
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
-#include "vxMaterial/exchange/JsonText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
@@ -17,24 +16,12 @@
 
 namespace kelta {
 
-namespace {
-
-Json::Value readDocument(const QString& path)
-{
-    vxCAE::JsonReading reading = vxCAE::readJsonText(projectfile::readFile(path), vxCAE::JsonDialect::Strict);
-    if (reading.error)
-        throw std::runtime_error(path.toStdString() + ": " + describe(*reading.error));
-    return std::move(reading.document);
-}
-
-} // namespace
-
 ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path)
 {
     projectfile::ImportedMaterials imported;
     try {
-        imported = projectfile::importExchange(readDocument(path), projectfile::Numbering::Anew);
-    } catch (const projectfile::ImportError& error) {
+        imported = projectfile::importExchange(projectfile::readFile(path), projectfile::Numbering::Anew);
+    } catch (const projectfile::ContentError& error) {
         throw std::runtime_error(path.toStdString() + ": " + error.what());
     }
     constexpr std::uint64_t lastNumber = std::numeric_limits<std::uint32_t>::max();

@@ -42,11 +42,7 @@ projectfile::ObjectRecord makeRecord(Mat::MaterialObject& object, const FurtherM
 void fillObject(Mat::MaterialObject& object, const projectfile::ObjectRecord& record, vxMat::MaterialBase& material)
 {
     object.label.setValue(record.label);
-    vxMat::CMaterial& target = *object.getCMaterial();
-    target.id = material.id;
-    target.name = std::move(material.name);
-    target.libraryGroup = material.libraryGroup;
-    target.properties = std::move(material.properties);
+    object.getCMaterial()->swap(material);
     object.setSuppressed(record.suppressed);
     object.check_input();
     Obj::PropertyColor* const colour = record.colour ? findColour(object) : nullptr;
@@ -107,17 +103,16 @@ projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const Furt
 
 void fillProject(Obj::Project& project, projectfile::ProjectRecord& record, FurtherMembers& further)
 {
-    for (std::size_t index = 0; index < record.objects.size(); ++index) {
-        projectfile::ObjectRecord& entry = record.objects[index];
+    for (projectfile::ObjectRecord& entry : record.objects) {
         auto* const object = dynamic_cast<Mat::MaterialObject*>(
             project.add_object(entry.className.c_str(), entry.internalName, entry.objectId));
-        if (object == nullptr)
-            throw projectfile::ProjectFileError(
+        if (object == nullptr || entry.ownMaterial == nullptr)
+            throw projectfile::ContentError(
                 QCoreApplication::translate("kelta::ProjectFiles",
                                             R"(The object "%1" is of the class "%2", which is none of a material)")
                     .arg(QString::fromStdString(entry.label), QString::fromStdString(entry.className))
                     .toStdString());
-        fillObject(*object, entry, *record.materials[index]);
+        fillObject(*object, entry, *entry.ownMaterial);
         if (!entry.further.isNull())
             further.objects[entry.objectId] = std::move(entry.further);
     }

@@ -35,7 +35,7 @@ std::optional<std::array<float, 4>> colourOf(Obj::ProjectObject& object);
 projectfile::ProjectRecord makeRecord(Mat::DocumentMaterial& project, const FurtherMembers& further);
 
 /// Gives a project that is empty the objects of a record, and takes the materials and what is unknown out of that.
-/// \throws projectfile::ProjectFileError when there is an object of a class that is none of a material
+/// \throws projectfile::ContentError when there is an object of a class that is none of a material
 void fillProject(Obj::Project& project, projectfile::ProjectRecord& record, FurtherMembers& further);
 
 } // namespace kelta

@@ -1,6 +1,9 @@
 #include "projectfile/ExchangeImport.h"
 
+#include "Messages.h"
+
 #include "vxMaterial/exchange/CAESet.h"
+#include "vxMaterial/json/JsonTree.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
 #include <QCoreApplication>
@@ -8,6 +11,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -15,96 +21,107 @@ namespace projectfile {
 
 namespace {
 
-constexpr const char* materialClass = "Mat::MaterialObject";
+using vxjson::JsonNode;
 
 QString tr(const char* source)
 {
     return QCoreApplication::translate("projectfile::ExchangeImport", source);
 }
 
-QString text(const std::string& utf8)
+QString text(std::string_view utf8)
 {
-    return QString::fromStdString(utf8);
+    return detail::toQString(utf8);
 }
 
-const char* kindName(const Json::Value& value)
+const char* kindName(const JsonNode& value)
 {
-    switch (value.type()) {
-    case Json::nullValue:
+    switch (value.kind()) {
+    case vxjson::JsonKind::Null:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "null");
-    case Json::stringValue:
-        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a text");
-    case Json::booleanValue:
+    case vxjson::JsonKind::Boolean:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "true or false");
-    case Json::arrayValue:
+    case vxjson::JsonKind::Text:
+        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a text");
+    case vxjson::JsonKind::Array:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "an array");
-    case Json::objectValue:
+    case vxjson::JsonKind::Object:
         return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "an object");
-    default:
-        return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a number");
+    case vxjson::JsonKind::Number:
+        break;
     }
+    return QT_TRANSLATE_NOOP("projectfile::ExchangeImport", "a number");
 }
 
-[[noreturn]] void refuse(const std::string& path, const Json::Value& value, const QString& needed)
+[[noreturn]] void refuse(const std::string& path, const JsonNode& value, const QString& needed)
 {
-    throw ImportError(tr("%1: is %2; %3 is needed").arg(text(path), tr(kindName(value)), needed).toStdString());
+    detail::refuseMember(path, tr("%1: is %2; %3 is needed"), tr(kindName(value)), needed);
 }
 
-/// The element of an array that stands at `path`, which must be an object.
-const Json::Value& objectAt(const Json::Value& array, Json::ArrayIndex index, const std::string& path)
+/// The element of an array, which must be an object. `path` is that of the element.
+JsonNode objectAt(const JsonNode& array, std::size_t index, const std::string& path)
 {
-    const Json::Value& element = array[index];
+    const JsonNode element = array.element(index);
     if (!element.isObject())
         refuse(path, element, tr("an object"));
     return element;
 }
 
-/// The array under `key`; null when there is none.
-const Json::Value& arrayUnder(const Json::Value& parent, const char* key, const std::string& parentPath)
+/// The array under `key`; null if there is none.
+JsonNode arrayUnder(const JsonNode& parent, const char* key, const std::string& parentPath)
 {
-    const Json::Value& array = parent[key];
+    const JsonNode array = parent[key];
     if (!array.isArray() && !array.isNull())
         refuse(parentPath + "." + key, array, tr("an array"));
     return array;
 }
 
-std::string textUnder(const Json::Value& parent, const char* key, const std::string& parentPath)
+std::string textUnder(const JsonNode& parent, const char* key, const std::string& parentPath)
 {
-    const Json::Value& value = parent[key];
-    if (value.isNull())
-        return {};
-    if (!value.isString())
+    const JsonNode value = parent[key];
+    if (!value.isText() && !value.isNull())
         refuse(parentPath + "." + key, value, tr("a text"));
-    return value.asString();
+    return std::string(value.text());
 }
 
-std::string pathOf(const std::string& parent, const char* key, Json::ArrayIndex index)
+std::string pathOf(const std::string& parent, const char* key, std::size_t index)
 {
     return parent + "." + key + "[" + std::to_string(index) + "]";
 }
 
-/// A number that the object of a material can have; 0 for every other, and for none.
-std::uint32_t numberOf(const Json::Value& material, const std::string& path)
+/// The value as a number without a sign; absent for all else.
+std::optional<std::uint32_t> unsignedNumber(const JsonNode& value)
 {
-    const Json::Value& number = material["mat_id"];
-    if (!number.isNumeric() && !number.isNull())
-        refuse(path + ".mat_id", number, tr("a number"));
-    return number.isUInt() ? number.asUInt() : 0;
+    const std::optional<std::int64_t> whole = value.whole();
+    if (!whole || *whole < 0 || *whole > std::numeric_limits<std::uint32_t>::max())
+        return std::nullopt;
+    return static_cast<std::uint32_t>(*whole);
 }
 
-/// The id under which a material keeps a property.
-std::int32_t keyOf(const Json::Value& property, const std::string& path)
+/// The number of a material as an object can have it; 0 for all others, and for none.
+std::uint32_t numberOf(const JsonNode& material, const std::string& path)
 {
-    const Json::Value& type = property["prop_type"];
-    if (type.isInt())
-        return type.asInt();
-    // Readers take the number for one with a sign, so that an id which has one comes back as it was.
-    if (type.isUInt())
-        return static_cast<std::int32_t>(type.asUInt());
+    const JsonNode number = material["mat_id"];
+    if (!number.isNumber() && !number.isNull())
+        refuse(path + ".mat_id", number, tr("a number"));
+    return unsignedNumber(number).value_or(0);
+}
+
+/// The id under which a material holds a property.
+std::int32_t idOf(const JsonNode& property, const std::string& path)
+{
+    const JsonNode type = property["prop_type"];
+    if (type.isNull())
+        return 0;
+    const std::optional<std::int64_t> whole = type.whole();
+    if (whole && *whole < 0 && *whole >= std::numeric_limits<std::int32_t>::min())
+        return static_cast<std::int32_t>(*whole);
+    // Readers of documents convert the number to one with a sign, so that an id below 0 comes back as it was.
+    if (const auto number = unsignedNumber(type))
+        return static_cast<std::int32_t>(*number);
     refuse(path + ".prop_type", type, tr("a whole number from 0 to 4294967295"));
 }
 
-/// Makes one material, and says what is doubtful about it.
+/// Makes one material, and collects what is doubtful about it.
 class MaterialImport
 {
 public:
@@ -116,7 +133,7 @@ public:
     {
         m_doubts.push_back(tr("material %1 \"%2\": %3").arg(m_number, m_label, about).toStdString());
     }
-    void addProperty(const Json::Value& json, const std::string& path);
+    void addProperty(const JsonNode& json, const std::string& path);
 
     std::unique_ptr<vxMat::MaterialBase> material = std::make_unique<vxMat::CMaterial>();
 
@@ -127,8 +144,8 @@ private:
         doubt(property.name.empty() ? tr("property %1: %2").arg(id, about)
                                     : tr("property %1 \"%2\": %3").arg(id, text(property.name), about));
     }
-    void takeNumber(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path);
-    void takeNameAndKey(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path);
+    void takeNumber(vxMat::MaterialProperty& property, const JsonNode& json, const std::string& path);
+    void takeNameAndKey(vxMat::MaterialProperty& property, const JsonNode& json, const std::string& path);
     void restoreWordOrList(vxMat::MaterialProperty& property, const vxMat::PropertyRecord& quantity);
 
     QString m_number;
@@ -136,17 +153,17 @@ private:
     std::vector<std::string>& m_doubts;
 };
 
-void MaterialImport::takeNumber(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path)
+void MaterialImport::takeNumber(vxMat::MaterialProperty& property, const JsonNode& json, const std::string& path)
 {
-    const Json::Value& number = json["prop_value"];
-    if (!number.isNumeric() && !number.isNull())
+    const JsonNode number = json["prop_value"];
+    if (!number.isNumber() && !number.isNull())
         refuse(path + ".prop_value", number, tr("a number"));
     if (number.isNull())
         doubtProperty(property, tr("the document has no number for it, which is read as 0"));
-    property.value = number.isNull() ? 0.0 : number.asDouble();
+    property.value = number.number();
 }
 
-void MaterialImport::takeNameAndKey(vxMat::MaterialProperty& property, const Json::Value& json, const std::string& path)
+void MaterialImport::takeNameAndKey(vxMat::MaterialProperty& property, const JsonNode& json, const std::string& path)
 {
     const auto take = [&](std::string& field, const char* key, const QString& doubt) {
         std::string taken = textUnder(json, key, path);
@@ -156,7 +173,7 @@ void MaterialImport::takeNameAndKey(vxMat::MaterialProperty& property, const Jso
             doubtProperty(property, doubt.arg(text(taken), text(field)));
         field = std::move(taken);
     };
-    // The name last, as the doubts show the catalogue's.
+    // The name comes last, since the doubts show the one of the catalogue.
     take(property.key, "prop_key",
          tr(R"(its key is "%1" in the document and "%2" in the catalogue; that of the document was kept)"));
     take(property.name, "prop_name",
@@ -174,29 +191,29 @@ void MaterialImport::restoreWordOrList(vxMat::MaterialProperty& property, const 
     }
 }
 
-void MaterialImport::addProperty(const Json::Value& json, const std::string& path)
+void MaterialImport::addProperty(const JsonNode& json, const std::string& path)
 {
-    const std::int32_t key = json["prop_type"].isNull() ? 0 : keyOf(json, path);
-    const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
+    const std::int32_t id = idOf(json, path);
+    const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
     auto property =
-        quantity != nullptr ? quantity->create() : std::make_unique<vxMat::MaterialProperty>(key, "", "", 0.0);
+        quantity != nullptr ? quantity->create() : std::make_unique<vxMat::MaterialProperty>(id, "", "", 0.0);
     if (quantity != nullptr)
         restoreWordOrList(*property, *quantity);
     takeNameAndKey(*property, json, path);
     takeNumber(*property, json, path);
     if (quantity == nullptr)
         doubtProperty(*property, tr("the catalogue does not know it; its unit, description and category are lost"));
-    if (material->hasProperty(key))
-        doubtProperty(*property, tr("it stands twice in the document; the last one was taken"));
-    // A plain property, as every copy of a material has them.
-    material->setProperty(key, std::make_unique<vxMat::MaterialProperty>(*property));
+    if (material->hasProperty(id))
+        doubtProperty(*property, tr("it is there twice in the document; the last one was taken"));
+    // As a plain property, which every copy of a material has.
+    material->setProperty(id, std::make_unique<vxMat::MaterialProperty>(*property));
 }
 
 /// The numbers that the objects of a document's materials get.
 class Numbers
 {
 public:
-    /// By the numbers that the document says, of which 0 is none.
+    /// `stated` has the numbers of the document, 0 for none.
     explicit Numbers(const std::vector<std::uint32_t>& stated)
     {
         for (std::size_t i = 0; i < stated.size(); ++i)
@@ -207,10 +224,10 @@ public:
     /// Whether the material at `index` keeps the number that it states.
     bool keeps(std::size_t index, std::uint32_t stated) const { return stated != 0 && m_last.at(stated) == index; }
 
-    /// A number that nobody has.
+    /// Returns a number that no material has.
     std::uint32_t next()
     {
-        // There is one: a document has fewer materials than there are numbers.
+        // There is always one: a document has fewer materials than there are numbers.
         while (m_last.count(m_next) != 0)
             ++m_next;
         return m_next++;
@@ -221,14 +238,14 @@ private:
     std::uint32_t m_next = 1;
 };
 
-/// Why a material has got the number `objectId`, which is not what the document says.
-QString renumbered(const Json::Value& material, std::uint32_t stated, std::uint32_t objectId)
+/// Why a material has the number `objectId`, which is not that of the document.
+QString renumbered(const JsonNode& material, std::uint32_t stated, std::uint32_t objectId)
 {
-    const Json::Value& number = material["mat_id"];
+    const JsonNode number = material["mat_id"];
     const QString given = QString::number(objectId);
     if (number.isNull())
         return tr("the document has no number for it; it was given the number %1").arg(given);
-    const QString said = text(number.asString());
+    const QString said = detail::shown(number);
     if (stated != 0)
         return tr("its number in the document is %1, as that of a later material is; it was given the number %2")
             .arg(said, given);
@@ -237,7 +254,7 @@ QString renumbered(const Json::Value& material, std::uint32_t stated, std::uint3
 }
 
 /// `stated` is the number in the document, 0 for none that an object can have.
-ImportedMaterial readMaterial(const Json::Value& json, const std::string& path, std::uint32_t stated,
+ImportedMaterial readMaterial(const JsonNode& json, const std::string& path, std::uint32_t stated,
                               std::uint32_t objectId, std::vector<std::string>& doubts)
 {
     ImportedMaterial target;
@@ -249,8 +266,8 @@ ImportedMaterial readMaterial(const Json::Value& json, const std::string& path, 
         import.doubt(renumbered(json, stated, target.objectId));
     if (name.empty())
         import.doubt(tr("the document has no name for it"));
-    const Json::Value& properties = arrayUnder(json, "Props", path);
-    for (Json::ArrayIndex i = 0; i < properties.size(); ++i) {
+    const JsonNode properties = arrayUnder(json, "Props", path);
+    for (std::size_t i = 0; i < properties.size(); ++i) {
         const std::string propertyPath = pathOf(path, "Props", i);
         import.addProperty(objectAt(properties, i, propertyPath), propertyPath);
     }
@@ -260,44 +277,53 @@ ImportedMaterial readMaterial(const Json::Value& json, const std::string& path, 
     return target;
 }
 
-void requireMaterialDocument(const Json::Value& document)
+void requireMaterialDocument(const JsonNode& document)
 {
     if (!document.isObject())
         refuse("$", document, tr("an object"));
     if (isProject(document))
-        throw ImportError(tr("it is a project file, which needs no import").toStdString());
-    const std::uint32_t kind = vxCAE::readProjectKind(document);
+        throw ContentError(tr("it is a project file, which needs no import").toStdString());
+    const std::uint32_t kind = unsignedNumber(document["proj_type"]).value_or(0);
     if (kind == vxCAE::ProjectKind::Analysis)
-        throw ImportError(tr("an analysis document holds no materials; give the material document").toStdString());
+        throw ContentError(tr("an analysis document holds no materials; give the material document").toStdString());
     if (kind != vxCAE::ProjectKind::Material)
-        throw ImportError(tr("it is no material document: \"proj_type\" must be 2").toStdString());
+        throw ContentError(tr("it is not a material document: \"proj_type\" must be 2").toStdString());
+}
+
+void doubtRepeatedMembers(const vxjson::JsonTree& tree, std::vector<std::string>& doubts)
+{
+    for (const std::string& path : tree.repeatedMembers())
+        doubts.push_back(tr("%1: is there more than once; the last one was taken").arg(text(path)).toStdString());
 }
 
 } // namespace
 
-ImportError::~ImportError() = default;
-
-ImportedMaterials importExchange(const Json::Value& document, Numbering numbering)
+ImportedMaterials importExchange(std::string_view text, Numbering numbering)
 {
+    const vxjson::JsonTree tree = vxjson::JsonTree::read(text, vxjson::JsonDialect::WithComments);
+    if (tree.error())
+        detail::refuseText(*tree.error());
+    const JsonNode document = tree.root();
     requireMaterialDocument(document);
-    const Json::Value& list = arrayUnder(document, "material", "$");
+    const JsonNode list = arrayUnder(document, "material", "$");
     std::vector<std::uint32_t> stated;
-    for (Json::ArrayIndex i = 0; i < list.size(); ++i) {
+    for (std::size_t i = 0; i < list.size(); ++i) {
         const std::string path = pathOf("$", "material", i);
         stated.push_back(numberOf(objectAt(list, i, path), path));
     }
 
     Numbers numbers(stated);
     ImportedMaterials imported;
-    if (list.empty())
+    doubtRepeatedMembers(tree, imported.doubts);
+    if (list.size() == 0)
         imported.doubts.push_back(tr("the document holds no materials").toStdString());
-    for (Json::ArrayIndex i = 0; i < list.size(); ++i) {
+    for (std::size_t i = 0; i < list.size(); ++i) {
         if (numbering == Numbering::Anew)
-            stated[i] = i + 1;
+            stated[i] = static_cast<std::uint32_t>(i + 1);
         const std::uint32_t objectId =
             numbering == Numbering::Anew || numbers.keeps(i, stated[i]) ? stated[i] : numbers.next();
         imported.materials.push_back(
-            readMaterial(list[i], pathOf("$", "material", i), stated[i], objectId, imported.doubts));
+            readMaterial(list.element(i), pathOf("$", "material", i), stated[i], objectId, imported.doubts));
     }
     std::sort(imported.materials.begin(), imported.materials.end(),
               [](const auto& one, const auto& other) { return one.objectId < other.objectId; });
@@ -311,15 +337,16 @@ ProjectRecord makeProject(const std::string& name, std::vector<ImportedMaterial>
     project.database["proj_tag"] = "Material";
     project.database["proj_id"] = 1U;
     project.database["physics_type"] = "Material";
-    Json::Value objects; // null, as the host has it, when there is none
+    Json::Value objects; // null, as in the host, if there are no materials
     for (ImportedMaterial& imported : materials) {
         ObjectRecord object;
         object.objectId = imported.objectId;
         object.className = materialClass;
-        // As the host names new materials, of which the user sees the label alone.
+        // As the host names new materials; the user sees only the label.
         object.internalName = "Material" + (project.objects.empty() ? "" : std::to_string(project.objects.size()));
         object.label = std::move(imported.label);
-        object.material = imported.material.get();
+        object.ownMaterial = std::move(imported.material);
+        object.material = object.ownMaterial.get();
 
         Json::Value& record = objects["object"].append(Json::Value());
         record["obj_id"] = object.objectId;
@@ -329,7 +356,6 @@ ProjectRecord makeProject(const std::string& name, std::vector<ImportedMaterial>
 
         project.nextObjectId = std::max(project.nextObjectId, std::uint64_t{object.objectId} + 1);
         project.objects.push_back(std::move(object));
-        project.materials.push_back(std::move(imported.material));
     }
     project.database["objects"] = std::move(objects);
     return project;

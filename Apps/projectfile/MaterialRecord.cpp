@@ -1,86 +1,47 @@
 #include "projectfile/MaterialRecord.h"
 
+#include "Messages.h"
 #include "RecordReading.h"
 #include "RecordWriting.h"
-
-#include <algorithm>
-#include <utility>
 
 namespace projectfile {
 
 namespace {
 
-Json::Value toJson(double number)
+std::string takeText(vxjson::JsonWriter& writer)
 {
-    const std::string_view word = detail::wordOfNumber(number);
-    return word.empty() ? Json::Value(number) : Json::Value(word.data(), word.data() + word.size());
+    if (writer.fault())
+        detail::refuseValue(*writer.fault());
+    return writer.take();
 }
 
-Json::Value toJson(std::int32_t number)
+/// The tree of a text that a writer has just made.
+vxjson::JsonTree parse(const std::string& text)
 {
-    return number;
-}
-
-Json::Value toJson(const std::string& text)
-{
-    return text;
-}
-
-Json::Value toJson(vxMat::ePropertyCategory category)
-{
-    return static_cast<std::int32_t>(category);
-}
-
-Json::Value toJson(const std::vector<double>& numbers)
-{
-    Json::Value array(Json::arrayValue);
-    for (const double number : numbers)
-        array.append(toJson(number));
-    return array;
-}
-
-Json::Value toJson(const detail::Properties<const vxMat::MaterialBase::PropertyMap, const Json::Value>& properties);
-
-/// Sets the members of a record.
-struct MemberSetter
-{
-    Json::Value& record;
-
-    template <class Field>
-    void operator()(const char* name, const Field& field) const
-    {
-        record[name] = toJson(field);
-    }
-};
-
-Json::Value toJson(const detail::Properties<const vxMat::MaterialBase::PropertyMap, const Json::Value>& properties)
-{
-    Json::Value array(Json::arrayValue);
-    for (const std::int32_t key : detail::sortedKeys(properties.map))
-        detail::visitPropertyMembers(key, std::as_const(*properties.map.at(key)),
-                                     MemberSetter{array.append(Json::Value())});
-    return array;
+    auto tree = vxjson::JsonTree::read(text, vxjson::JsonDialect::Strict);
+    if (tree.error())
+        detail::refuseText(*tree.error());
+    return tree;
 }
 
 } // namespace
 
-RecordError::~RecordError() = default;
+// Both go by way of the text, since files are what the one writer and the one reader of records are for.
 
 Json::Value writeMaterial(const vxMat::MaterialBase& material)
 {
-    Json::Value record;
-    detail::visitMaterialMembers(material, Json::Value::nullSingleton(), MemberSetter{record});
-    return record;
+    vxjson::JsonWriter writer;
+    detail::writeMaterialRecord(writer, material);
+    return parse(takeText(writer)).root().toJsonValue();
 }
 
 void readMaterial(vxMat::MaterialBase& material, const Json::Value& record)
 {
+    vxjson::JsonWriter writer;
+    writer.any(record);
     vxMat::MaterialBase read;
-    detail::readMaterialRecord(record, read);
-    material.id = read.id;
-    material.name = std::move(read.name);
-    material.libraryGroup = read.libraryGroup;
-    material.properties = std::move(read.properties);
+    detail::readMaterialRecord(parse(takeText(writer)).root(), read);
+    material.swap(read);
 }
 
 } // namespace projectfile

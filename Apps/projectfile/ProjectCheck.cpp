@@ -1,8 +1,8 @@
 #include "ProjectCheck.h"
 
-#include "JsonPath.h"
+#include "Messages.h"
 
-#include "projectfile/MaterialRecord.h"
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cstdint>
@@ -10,37 +10,52 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace projectfile::detail {
 
 namespace {
 
-std::string quoted(std::string_view text)
+/// Where the objects of a project are in the file: "materials[3]" or "objects[0]", by their places in the record.
+std::vector<std::string> pathsOf(const std::vector<ObjectRecord>& objects)
 {
-    return "\"" + shortened(text) + "\"";
+    std::size_t materials = 0;
+    std::size_t others = 0;
+    std::vector<std::string> paths;
+    paths.reserve(objects.size());
+    for (const ObjectRecord& object : objects) {
+        paths.push_back(object.material != nullptr ? "materials[" + std::to_string(materials++) + "]"
+                                                   : "objects[" + std::to_string(others++) + "]");
+    }
+    return paths;
 }
 
-std::string pathOfObject(std::size_t index)
+/// Refuses what no registered class and no object of the host can be called.
+void checkName(const std::string& path, const std::string& name)
 {
-    return "materials[" + std::to_string(index) + "]";
+    if (name.empty())
+        refuseMember(path, tr(R"("%1" must not be empty)"));
+    if (name.find('\0') != std::string::npos)
+        refuseMember(path, tr(R"("%1" is %2, which contains a zero character)"), quoted(name));
 }
 
 void checkNumbersAndNames(const std::vector<ObjectRecord>& objects)
 {
+    const std::vector<std::string> paths = pathsOf(objects);
     std::unordered_map<std::uint32_t, std::size_t> numbers;
     std::unordered_map<std::string_view, std::size_t> names;
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const ObjectRecord& object = objects[i];
+        checkName(paths[i] + ".class", object.className);
+        checkName(paths[i] + ".name_internal", object.internalName);
         if (object.objectId == 0)
-            throw RecordError("\"" + pathOfObject(i) + ".object_id\" is 0 but must be from 1 to 4294967295");
-        const auto number = numbers.emplace(object.objectId, i);
-        if (!number.second)
-            throw RecordError("\"" + pathOfObject(i) + ".object_id\" is " + std::to_string(object.objectId) +
-                              ", as that of " + pathOfObject(number.first->second) + " is");
-        const auto name = names.emplace(object.internalName, i);
-        if (!name.second)
-            throw RecordError("\"" + pathOfObject(i) + ".name_internal\" is " + quoted(object.internalName) +
-                              ", as that of " + pathOfObject(name.first->second) + " is");
+            refuseMember(paths[i] + ".object_id", tr(R"("%1" is 0 but must be from 1 to 4294967295)"));
+        if (const auto number = numbers.emplace(object.objectId, i); !number.second)
+            refuseMember(paths[i] + ".object_id", tr(R"("%1" is %2, which is the number of %3 too)"),
+                         QString::number(object.objectId), toQString(paths[number.first->second]));
+        if (const auto name = names.emplace(object.internalName, i); !name.second)
+            refuseMember(paths[i] + ".name_internal", tr(R"("%1" is %2, which is the name of %3 too)"),
+                         quoted(object.internalName), toQString(paths[name.first->second]));
     }
 }
 
@@ -51,44 +66,60 @@ void checkNextNumber(const ProjectRecord& project)
     for (const ObjectRecord& object : project.objects)
         largest = std::max(largest, object.objectId);
     if (project.nextObjectId <= largest || project.nextObjectId > most)
-        throw RecordError("\"next_object_id\" is " + std::to_string(project.nextObjectId) + " but must be from " +
-                          std::to_string(std::uint64_t{largest} + 1U) + " to " + std::to_string(most) +
-                          ", since no number of an object is used again");
+        refuseMember(
+            "next_object_id", tr(R"("%1" is %2 but must be from %3 to %4, since no number of an object is used again)"),
+            QString::number(project.nextObjectId), QString::number(std::uint64_t{largest} + 1U), QString::number(most));
 }
 
-/// A member of an object of the database; null when it is not there.
+void checkIsObject(const std::string& path, const Json::Value& value)
+{
+    if (!value.isNull() && !value.isObject())
+        refuseMember(path, tr(R"("%1" must be an object)"));
+}
+
+void checkProperties(const ProjectRecord& project)
+{
+    checkIsObject("properties", project.properties);
+    const std::vector<std::string> paths = pathsOf(project.objects);
+    for (std::size_t i = 0; i < project.objects.size(); ++i) {
+        checkIsObject(paths[i] + ".properties", project.objects[i].properties);
+        checkIsObject(paths[i] + ".node", project.objects[i].node);
+    }
+}
+
+// --- The database of the host ---
+
+/// A member of an object of the database; null if it is not there.
 const Json::Value& memberOf(const Json::Value& object, std::string_view name)
 {
     const Json::Value* const member = object.isObject() ? object.find(name.data(), name.data() + name.size()) : nullptr;
     return member != nullptr ? *member : Json::Value::nullSingleton();
 }
 
-/// The array of objects in the database of the host; null when it has none.
+/// The array of objects in the database of a material project; null if it has none.
 const Json::Value& objectsOf(const Json::Value& database)
 {
-    if (!database.isNull() && !database.isObject())
-        throw RecordError("\"database\" must be an object");
+    checkIsObject("database", database);
     const Json::Value& objects = memberOf(database, "objects");
-    if (!objects.isNull() && !objects.isObject())
-        throw RecordError("\"database.objects\" must be an object");
+    checkIsObject("database.objects", objects);
     const Json::Value& list = memberOf(objects, "object");
     if (!list.isNull() && !list.isArray())
-        throw RecordError("\"database.objects.object\" must be an array");
+        refuseMember("database.objects.object", tr(R"("%1" must be an array)"));
     return list;
 }
 
 std::string pathInDatabase(Json::ArrayIndex index, const char* member)
 {
-    return "\"database.objects.object[" + std::to_string(index) + "]." + member + "\"";
+    return "database.objects.object[" + std::to_string(index) + "]." + member;
 }
 
-void checkText(const Json::Value& found, const std::string& expected, Json::ArrayIndex index, const char* member)
+void checkText(const Json::Value& found, const std::string& expected, const std::string& path)
 {
     if (!found.isString())
-        throw RecordError(pathInDatabase(index, member) + " must be a text");
+        refuseMember(path, tr(R"("%1" must be a text)"));
     if (found.asString() != expected)
-        throw RecordError(pathInDatabase(index, member) + " is " + quoted(found.asString()) + " but " +
-                          quoted(expected) + " beside the material");
+        refuseMember(path, tr(R"("%1" is %2, but the object itself has %3)"), quoted(found.asString()),
+                     quoted(expected));
 }
 
 using ObjectIndex = std::unordered_map<std::uint32_t, const ObjectRecord*>;
@@ -101,60 +132,139 @@ ObjectIndex byNumber(const std::vector<ObjectRecord>& objects)
     return index;
 }
 
-/// Each object of the database has its material, once, and each material its object.
+/// The object of the project that a record of the database is of.
+const ObjectRecord& findObject(const ObjectIndex& objects, const Json::Value& record, Json::ArrayIndex index)
+{
+    const std::string path = pathInDatabase(index, "obj_id");
+    const Json::Value& number = memberOf(record, "obj_id");
+    if (!number.isUInt())
+        refuseMember(path, tr(R"("%1" must be the number of an object)"));
+    const auto object = objects.find(number.asUInt());
+    if (object == objects.end())
+        refuseMember(path, tr(R"("%1" is %2, but "materials" and "objects" have no such object)"),
+                     toQString(number.asString()));
+    return *object->second;
+}
+
+/// In a material project, each object of the database is an object of the project, and each material is in the
+/// database, once. The records of other projects are their own.
 void checkDatabase(const ProjectRecord& project)
 {
-    if (project.database.isNull())
+    if (project.database.isNull() || project.className != materialProjectClass)
         return;
-    ObjectIndex missing = byNumber(project.objects);
-    std::unordered_set<std::uint32_t> found;
-    const Json::Value& list = objectsOf(project.database);
-    for (Json::ArrayIndex i = 0; i < list.size(); ++i) {
-        const Json::Value& number = memberOf(list[i], "obj_id");
-        if (!number.isUInt())
-            throw RecordError(pathInDatabase(i, "obj_id") + " must be the number of an object");
-        if (!found.insert(number.asUInt()).second)
-            throw RecordError(pathInDatabase(i, "obj_id") + " is " + number.asString() + ", which stands there twice");
-        const auto object = missing.find(number.asUInt());
-        if (object == missing.end())
-            throw RecordError(pathInDatabase(i, "obj_id") + " is " + number.asString() +
-                              ", but \"materials\" has no such object");
-        checkText(memberOf(list[i], "class"), object->second->className, i, "class");
-        checkText(memberOf(list[i], "name_internal"), object->second->internalName, i, "name_internal");
-        missing.erase(object);
+    const ObjectIndex objects = byNumber(project.objects);
+    std::unordered_set<const ObjectRecord*> found;
+    Json::ArrayIndex index = 0;
+    for (const Json::Value& record : objectsOf(project.database)) {
+        const ObjectRecord& object = findObject(objects, record, index);
+        if (!found.insert(&object).second)
+            refuseMember(pathInDatabase(index, "obj_id"), tr(R"("%1" is %2, which is there twice)"),
+                         QString::number(object.objectId));
+        checkText(memberOf(record, "class"), object.className, pathInDatabase(index, "class"));
+        checkText(memberOf(record, "name_internal"), object.internalName, pathInDatabase(index, "name_internal"));
+        ++index;
     }
-    for (std::size_t i = 0; i < project.objects.size() && !missing.empty(); ++i) {
-        if (missing.count(project.objects[i].objectId) != 0)
-            throw RecordError("\"" + pathOfObject(i) + "\" is object " + std::to_string(project.objects[i].objectId) +
-                              ", which \"database.objects.object\" has not");
+    const std::vector<std::string> paths = pathsOf(project.objects);
+    for (std::size_t i = 0; i < project.objects.size(); ++i) {
+        const ObjectRecord& object = project.objects[i];
+        if (object.material != nullptr && found.count(&object) == 0)
+            refuseMember(paths[i], tr(R"("%1" is object %2, which "database.objects.object" does not have)"),
+                         QString::number(object.objectId));
     }
+}
+
+// --- Doubts ---
+
+void doubtLabels(const ProjectRecord& project, std::vector<std::string>& doubts)
+{
+    if (project.database.isNull() || project.className != materialProjectClass)
+        return;
+    std::unordered_map<std::uint32_t, const Json::Value*> inDatabase;
+    for (const Json::Value& object : objectsOf(project.database))
+        inDatabase.emplace(memberOf(object, "obj_id").asUInt(), &object);
+    const std::vector<std::string> paths = pathsOf(project.objects);
+    for (std::size_t i = 0; i < project.objects.size(); ++i) {
+        const ObjectRecord& object = project.objects[i];
+        const auto record = inDatabase.find(object.objectId);
+        if (record == inDatabase.end())
+            continue;
+        const Json::Value& label = memberOf(*record->second, "label");
+        if (!label.isString() || label.asString() != object.label)
+            doubts.push_back(tr(R"("%1" is %2 but in the database %3; the former counts.)")
+                                 .arg(toQString(paths[i] + ".label"), quoted(object.label),
+                                      label.isString() ? quoted(label.asString()) : tr("not a text"))
+                                 .toStdString());
+    }
+}
+
+/// A link that is wrong.
+struct FalseLink
+{
+    std::size_t object; ///< its place in the record
+    std::size_t link;   ///< its place in the object
+    const char* reason; ///< to be translated; %1 is the path, %2 the number
+};
+
+std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
+{
+    const ObjectIndex known = byNumber(objects);
+    std::vector<FalseLink> found;
+    for (std::size_t object = 0; object < objects.size(); ++object) {
+        std::unordered_set<std::uint32_t> seen;
+        for (std::size_t link = 0; link < objects[object].links.size(); ++link) {
+            const std::uint32_t number = objects[object].links[link];
+            if (number == objects[object].objectId)
+                found.push_back(
+                    {object, link, QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, the object itself.)")});
+            else if (known.count(number) == 0)
+                found.push_back(
+                    {object, link,
+                     QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, but there is no such object.)")});
+            else if (!seen.insert(number).second)
+                found.push_back(
+                    {object, link,
+                     QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which is there twice.)")});
+        }
+    }
+    return found;
+}
+
+void removeFalseLinks(std::vector<ObjectRecord>& objects)
+{
+    for (const FalseLink& wrong : falseLinks(objects))
+        objects[wrong.object].links[wrong.link] = 0;
+    for (ObjectRecord& object : objects)
+        object.links.erase(std::remove(object.links.begin(), object.links.end(), 0U), object.links.end());
 }
 
 } // namespace
 
 void checkProject(const ProjectRecord& project)
 {
+    checkName("class", project.className);
     checkNumbersAndNames(project.objects);
     checkNextNumber(project);
+    checkProperties(project);
     checkDatabase(project);
 }
 
-std::vector<std::string> findDoubts(const ProjectRecord& project)
+std::vector<std::string> findFalseLinks(const ProjectRecord& project)
 {
     std::vector<std::string> doubts;
-    const Json::Value& list = objectsOf(project.database);
-    if (list.empty())
-        return doubts;
-    std::unordered_map<std::uint32_t, const Json::Value*> inDatabase;
-    for (const Json::Value& object : list)
-        inDatabase.emplace(memberOf(object, "obj_id").asUInt(), &object);
-    for (std::size_t i = 0; i < project.objects.size(); ++i) {
-        const ObjectRecord& object = project.objects[i];
-        const Json::Value& label = memberOf(*inDatabase.at(object.objectId), "label");
-        if (!label.isString() || label.asString() != object.label)
-            doubts.push_back("\"" + pathOfObject(i) + ".label\" is " + quoted(object.label) + " but in the database " +
-                             (label.isString() ? quoted(label.asString()) : "no text") + "; the former counts.");
+    const std::vector<std::string> paths = pathsOf(project.objects);
+    for (const FalseLink& wrong : falseLinks(project.objects)) {
+        const std::string path = paths[wrong.object] + ".links[" + std::to_string(wrong.link) + "]";
+        const QString number = QString::number(project.objects[wrong.object].links[wrong.link]);
+        doubts.push_back(tr(wrong.reason).arg(toQString(path), number).toStdString());
     }
+    return doubts;
+}
+
+std::vector<std::string> takeDoubts(ProjectRecord& project)
+{
+    std::vector<std::string> doubts = findFalseLinks(project);
+    removeFalseLinks(project.objects);
+    doubtLabels(project, doubts);
     return doubts;
 }
 

@@ -7,12 +7,16 @@
 
 namespace projectfile::detail {
 
-/// Makes sure that a project does not contradict itself.
-/// \throws RecordError when it does
+/// Checks that a project does not contradict itself.
+/// \throws ContentError if it does
 void checkProject(const ProjectRecord& project);
 
-/// What in the project stands differently in two places, of which one counts. The project must have been checked, and
-/// its objects stand in the order of the file.
-std::vector<std::string> findDoubts(const ProjectRecord& project);
+/// Returns a sentence for each link that is wrong: to an object that is not there, to itself, or a second one to the
+/// same object.
+std::vector<std::string> findFalseLinks(const ProjectRecord& project);
+
+/// Removes links that are wrong, and returns what is doubtful about a project that has just been read and checked. The
+/// objects must be in the order of the file.
+std::vector<std::string> takeDoubts(ProjectRecord& project);
 
 } // namespace projectfile::detail

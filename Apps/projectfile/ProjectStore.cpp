@@ -39,7 +39,7 @@ QString reasonOf(int errorNumber)
     throw StoreError(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason).toStdString());
 }
 
-/// A name as the system has it. What Qt takes for a resource, or cannot keep, would be another file.
+/// Returns a name in the encoding of the system.
 QByteArray systemName(const QString& path)
 {
     if (path.isEmpty())
@@ -47,16 +47,16 @@ QByteArray systemName(const QString& path)
     return QFile::encodeName(path);
 }
 
-/// A path as Qt takes it for a file whatever it begins with.
+/// Returns a path that means a file to Qt, for which one that begins with a colon is a resource.
 QString filePath(const QString& path)
 {
     return path.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + path : path;
 }
 
-/// The file that a path leads to over symbolic links, whether it is there or not.
+/// Returns the file to which a path leads through symbolic links, whether it exists or not.
 QString targetOf(const QString& path)
 {
-    constexpr int mostLinks = 40; // as the system has it
+    constexpr int mostLinks = 40; // as in the system
     QString target = filePath(path);
     for (int links = 0; QFileInfo(target).isSymLink(); ++links) {
         if (links == mostLinks)
@@ -66,7 +66,7 @@ QString targetOf(const QString& path)
     return target;
 }
 
-/// An open file of the system, closed in the end.
+/// An open file of the system. It is closed by the destructor.
 class Descriptor
 {
 public:
@@ -107,7 +107,7 @@ QDateTime timeOf(const struct stat& status)
 
 FileStamp stampOf(const struct stat& status, const std::string& content)
 {
-    // Against accidents, not against forgers; of what Qt has, it is the fastest.
+    // The sum is to notice accidents, not forgeries; this one is the fastest that Qt has.
     QCryptographicHash hash(QCryptographicHash::Md5);
     constexpr std::size_t block = 1U << 30U; // the length is an int
     for (std::size_t at = 0; at < content.size(); at += block)
@@ -115,7 +115,7 @@ FileStamp stampOf(const struct stat& status, const std::string& content)
     return {static_cast<qint64>(status.st_size), timeOf(status), hash.result()};
 }
 
-/// Up to `size` bytes and one more, by which it shows that there are more.
+/// Reads up to `size` bytes, and one more if there are more.
 std::string readUpTo(std::size_t size, int descriptor, const QString& path)
 {
     std::string content(size + 1, '\0');
@@ -140,7 +140,7 @@ bool isSame(const struct stat& before, const struct stat& after)
            before.st_mtim.tv_nsec == after.st_mtim.tv_nsec;
 }
 
-/// Makes sure that the file may be replaced, or made where there is none.
+/// Checks that the file may be replaced, or created if there is none.
 void checkTarget(const QString& path, const QString& target)
 {
     struct stat status = {};
@@ -158,7 +158,7 @@ void checkTarget(const QString& path, const QString& target)
         fail(path, tr("'%1' is a file; a folder is needed.").arg(QDir::toNativeSeparators(folder.filePath())));
 }
 
-/// A file of another user stays that user's, where the system allows that.
+/// Gives a new file the owner of the old one, if the system allows that.
 void keepOwner(const QString& target, int descriptor)
 {
     struct stat status = {};
@@ -167,13 +167,13 @@ void keepOwner(const QString& target, int descriptor)
         return;
     if (status.st_uid == ours.st_uid && status.st_gid == ours.st_gid)
         return;
-    // Changing the owner takes away permissions, which are those of the old file already.
+    // Changing the owner removes some permissions, which were already those of the old file.
     if (fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
         fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0)
         static_cast<void>(fchmod(descriptor, status.st_mode & 07777U));
 }
 
-/// Waits until the disk has it. Some file systems cannot tell, which is no failure.
+/// Waits until the file is on the disk. A file system that cannot tell is not a failure.
 bool reachesDisk(int descriptor)
 {
     return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOSYS;
@@ -182,7 +182,7 @@ bool reachesDisk(int descriptor)
 void syncFolder(const QString& folder)
 {
     const Descriptor opened(open(systemName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // The file is safe, under its old name or the new one; that the folder is too cannot be had everywhere.
+    // The file is safe under its old name or the new one; not every system can make the folder safe too.
     if (opened.number() >= 0)
         static_cast<void>(fsync(opened.number()));
 }
@@ -200,7 +200,7 @@ StoreError::~StoreError() = default;
 std::string readFile(const QString& path, FileStamp* stamp)
 {
     constexpr off_t most = off_t{1} << 31U;
-    // A pipe without a writer would have the opening wait for one.
+    // Without O_NONBLOCK, opening a pipe would wait for a writer.
     const Descriptor file(open(systemName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (file.number() < 0)
         fail(path, reasonOf(errno));
@@ -235,14 +235,14 @@ FileStamp writeFile(const QString& path, const std::string& text)
     if (!file.open(QIODevice::WriteOnly))
         fail(path, file.errorString());
     keepOwner(target, file.handle());
-    // A disk that is nearly full takes a part at first, and says why it takes no more when asked again.
+    // A disk that is nearly full takes a part at first, and gives the reason at the next attempt.
     for (qint64 at = 0; at < size;) {
         const qint64 written = file.write(text.data() + at, size - at);
         if (written <= 0)
             fail(path, file.errorString());
         at += written;
     }
-    // commit() does not notice that the last of the text could not be written; flush() does.
+    // commit() does not notice if the end of the text could not be written; flush() does.
     if (!file.flush())
         fail(path, file.errorString());
     if (!reachesDisk(file.handle()))
@@ -261,8 +261,8 @@ bool hasChanged(const QString& path, const FileStamp& stamp)
         return stamp.size >= 0;
     if (stamp.size < 0 || stamp.size != static_cast<qint64>(status.st_size))
         return true;
-    // The time says nothing: a file that was only touched has another, and one that was written right after the stamp
-    // may have the same.
+    // The time does not tell: that of a file that was only touched differs, and that of a file that was written right
+    // after the stamp may be the same.
     try {
         FileStamp now;
         readFile(path, &now);
@@ -274,7 +274,7 @@ bool hasChanged(const QString& path, const FileStamp& stamp)
 
 FileLock::FileLock(const QString& path) : m_lockPath(lockPathOf(path)), m_lock(std::make_unique<QLockFile>(m_lockPath))
 {
-    // However old a lock is, its program may still be there.
+    // However old a lock is, its program may still run.
     m_lock->setStaleLockTime(0);
 }
 
@@ -286,8 +286,8 @@ bool FileLock::tryLock()
 {
     if (m_lock->tryLock(0))
         return true;
-    // A crash just after the lock file was made leaves one that names nobody. It is taken away only when nobody holds
-    // it open, and a program that is about to write its name into it has a moment to do so.
+    // A crash just after the lock file was created leaves one that names no program. It is removed only if no program
+    // has it open; a program that has just created it has a moment to write its name into it.
     constexpr qint64 moment = 10000; // ms
     qint64 process = 0;
     QString host;
@@ -314,7 +314,7 @@ QString FileLock::holder() const
     const bool isHere = host == QSysInfo::machineHostName();
     if (isHere && kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH)
         return {};
-    return QStringLiteral("%1 (%2 on %3)").arg(program, QString::number(process), host);
+    return tr("%1 (%2 on %3)").arg(program, QString::number(process), host);
 }
 
 } // namespace projectfile

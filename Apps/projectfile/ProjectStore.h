@@ -14,7 +14,7 @@ class QLockFile;
 
 namespace projectfile {
 
-/// A file that could not be read or written, and why, in the user's words. Its name is in the message.
+/// Why a file could not be read or written. The message begins with the name of the file and is in the user's language.
 class PROJECTFILE_EXPORT StoreError : public std::runtime_error
 {
 public:
@@ -22,29 +22,29 @@ public:
     ~StoreError() override;
 };
 
-/// What a file was when it was last read or written here, to notice that another program has changed it since.
+/// The state of a file when this program last read or wrote it, by which a change by another program is noticed.
 struct PROJECTFILE_EXPORT FileStamp
 {
-    qint64 size = -1; ///< -1 when there was no file
+    qint64 size = -1; ///< -1 if there was no file
     QDateTime modified;
     QByteArray checksum;
 };
 
-/// The whole content of a file, and what it was then.
-/// \throws StoreError when it cannot be read, is no regular file, or changes while it is read
+/// Returns the whole content of a file, and its state in `stamp` unless that is null.
+/// \throws StoreError if it cannot be read, is not a regular file, is larger than 2 GiB, or changes while it is read
 PROJECTFILE_EXPORT std::string readFile(const QString& path, FileStamp* stamp = nullptr);
 
-/// Replaces the file whole or not at all: beside it first, made safe on the disk, then by renaming. An existing file
-/// keeps its permissions; of a symbolic link the target is replaced. Answers what the file is then.
-/// \throws StoreError when that fails; an existing file is then as it was
+/// Replaces a file whole or not at all: the new file is written beside it, brought to the disk, and renamed. The
+/// permissions of an existing file stay; of a symbolic link the target is replaced. Returns the new state of the file.
+/// \throws StoreError if that fails; an existing file is then as it was
 PROJECTFILE_EXPORT FileStamp writeFile(const QString& path, const std::string& text);
 
-/// Whether the content of the file is another than when `stamp` was taken, or the file has gone. A file that was only
+/// Whether the content of the file has changed since `stamp` was taken, or the file was deleted. A file that was only
 /// touched has not changed.
 PROJECTFILE_EXPORT bool hasChanged(const QString& path, const FileStamp& stamp);
 
-/// Keeps other programs that ask for it from the same file, while it lives: a lock file beside the file (or beside the
-/// target of a symbolic link). One whose program has ended without taking it back does not count.
+/// Reserves a file, as long as this object lives, among the programs that use such locks: by a lock file beside the file
+/// (or beside the target of a symbolic link). The lock file of a program that ended without removing it does not count.
 class PROJECTFILE_EXPORT FileLock
 {
 public:
@@ -53,10 +53,10 @@ public:
     FileLock(FileLock&&) noexcept;
     FileLock& operator=(FileLock&&) noexcept;
 
-    /// False when another program has the file, which holder() then names, or when no lock file can be made.
+    /// Returns false if another program has the file, which holder() then names, or if no lock file can be made.
     bool tryLock();
     bool isLocked() const;
-    /// "kelta (1234 on host)" of the program that has the file; empty when none has, as far as can be told.
+    /// Returns the program that has the file, "kelta (1234 on host)"; empty if none has, as far as can be told.
     QString holder() const;
 
 private:

@@ -1,16 +1,9 @@
 #pragma once
 
-#include "vxMaterial/model/Material.h"
-
-#include <json/value.h>
-
-#include <cstdint>
-#include <string>
 #include <string_view>
-#include <type_traits>
 
-/// The members of the records, each with its name, once, in the order in which they are written. What writes, reads or
-/// compares a record walks these with a visitor: `visit(name, field)`.
+/// The members of the records, each with its name, once, in the order in which they are written. The writer and the
+/// reader of records walk these with a visitor: `visit(name, field)`.
 namespace projectfile::detail {
 
 /// What a project file says of itself under "format".
@@ -26,20 +19,40 @@ struct Required
 template <class Field>
 Required(Field&) -> Required<Field>;
 
+/// A value of any kind whose member is not written if the value is null.
+template <class Value>
+struct Optional
+{
+    Value& value;
+};
+
+template <class Value>
+Optional(Value&) -> Optional<Value>;
+
+/// The same for a value that must be an object.
+template <class Value>
+struct OptionalObject
+{
+    Value& value;
+};
+
+template <class Value>
+OptionalObject(Value&) -> OptionalObject<Value>;
+
 /// The properties of a material, and the members of their records that this program does not know.
 template <class Map, class Further>
 struct Properties
 {
     Map& map;
-    Further& further; ///< an object by the key of the property, or null
+    Further& further; ///< an object, by the number under which a property is held, or null
 };
 
 template <class Map, class Further>
 Properties(Map&, Further&) -> Properties<Map, Further>;
 
-/// `heldAs` is the key of the property in its material.
-template <class Key, class Property, class Visit>
-void visitPropertyMembers(Key& heldAs, Property& property, const Visit& visit)
+/// `heldAs` is the number under which the material holds the property.
+template <class HeldAs, class Property, class Visit>
+void visitPropertyMembers(HeldAs& heldAs, Property& property, const Visit& visit)
 {
     visit("held_as", heldAs);
     visit("id", property.id);
@@ -62,41 +75,65 @@ void visitMaterialMembers(Material& material, Further& furtherOfProperties, cons
     visit("properties", Properties{material.properties, furtherOfProperties});
 }
 
-/// `material` is what stands for the material on the side of the visitor.
-template <class Object, class MaterialField, class Visit>
-void visitObjectMembers(Object& object, MaterialField& material, const Visit& visit)
+/// What every object has. Not for use on its own.
+template <class Object, class Visit>
+void visitIdentity(Object& object, const Visit& visit)
 {
     visit("object_id", Required{object.objectId});
     visit("class", Required{object.className});
     visit("name_internal", Required{object.internalName});
     visit("label", Required{object.label});
     visit("suppressed", object.suppressed);
+}
+
+template <class Object, class Visit>
+void visitPropertiesAndLinks(Object& object, const Visit& visit)
+{
+    visit("properties", OptionalObject{object.properties});
+    visit("node", OptionalObject{object.node});
+    visit("links", object.links);
+}
+
+/// An object that is a material. `material` is the visitor's own representation of that.
+template <class Object, class MaterialField, class Visit>
+void visitMaterialObjectMembers(Object& object, MaterialField& material, const Visit& visit)
+{
+    visitIdentity(object, visit);
     visit("colour", object.colour);
+    visitPropertiesAndLinks(object, visit);
     visit("material", Required{material});
 }
 
-/// `format`, `version` and `materials` are what stands for these on the side of the visitor.
-template <class Text, class Version, class Project, class MaterialsField, class Visit>
-void visitProjectMembers(Text& format, Version& version, Project& project, MaterialsField& materials,
-                         const Visit& visit)
+/// An object of another class.
+template <class Object, class Visit>
+void visitOtherObjectMembers(Object& object, const Visit& visit)
+{
+    visitIdentity(object, visit);
+    visitPropertiesAndLinks(object, visit);
+    visit("content", Optional{object.content});
+}
+
+/// `format`, `version`, `className`, `materials` and `others` are the visitor's own representations of these.
+template <class Text, class Version, class ClassName, class Project, class Materials, class Others, class Visit>
+void visitProjectMembers(Text& format, Version& version, ClassName& className, Project& project, Materials& materials,
+                         Others& others, const Visit& visit)
 {
     visit("format", Required{format});
     visit("format_version", Required{version});
+    visit("class", className);
     visit("name", Required{project.name});
     visit("next_object_id", Required{project.nextObjectId});
     visit("recovered_file", project.recoveredFile);
+    visit("properties", OptionalObject{project.properties});
+    visit("record", Optional{project.record});
     visit("database", project.database);
     visit("materials", Required{materials});
+    visit("objects", others);
 }
 
 // The parts of ObjectRecord::further.
 inline constexpr const char* partOfObject = "object";
 inline constexpr const char* partOfMaterial = "material";
 inline constexpr const char* partOfProperties = "properties";
-
-/// The words for the numbers that JSON has not.
-inline constexpr std::string_view infinityWord = "Infinity";
-inline constexpr std::string_view minusInfinityWord = "-Infinity";
-inline constexpr std::string_view notANumberWord = "NaN";
 
 } // namespace projectfile::detail

@@ -1,11 +1,12 @@
 #include "RecordReading.h"
 
-#include "JsonPath.h"
+#include "Messages.h"
 #include "RecordMembers.h"
 
-#include "projectfile/MaterialRecord.h"
+#include "vxMaterial/json/NumberWords.h"
+#include "vxMaterial/json/Utf8.h"
 
-#include <json/writer.h>
+#include <QCoreApplication>
 
 #include <array>
 #include <cstdint>
@@ -22,13 +23,15 @@ namespace projectfile::detail {
 
 namespace {
 
+using vxjson::JsonNode;
+
 /// A value of a document and the way to it.
 struct Node
 {
-    const Json::Value& value;
+    JsonNode value;
     const Node* parent = nullptr; ///< null for the document
     std::string_view name{};      ///< of a member; empty in an array
-    Json::ArrayIndex index = 0;   ///< of an element
+    std::size_t index = 0;        ///< of an element
 };
 
 /// "materials[3].material.name"; empty for the document.
@@ -39,26 +42,35 @@ std::string pathOf(const Node& node) // NOLINT(misc-no-recursion): as deep as th
     const std::string path = pathOf(*node.parent);
     if (node.parent->value.isArray())
         return path + "[" + std::to_string(node.index) + "]";
-    return path + (path.empty() ? "" : ".") + shortened(node.name);
+    return path + (path.empty() ? "" : ".") + vxjson::shortened(node.name);
 }
 
-std::string shown(const Json::Value& value)
-{
-    if (value.isObject())
-        return "an object";
-    if (value.isArray())
-        return "an array";
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "";
-    builder["emitUTF8"] = true;
-    return shortened(Json::writeString(builder, value));
-}
+// What a value must be. Translated where it is shown.
+constexpr const char* anObject = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an object");
+constexpr const char* arrayOfObjects = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of objects");
+constexpr const char* arrayOfNumbers = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of numbers");
+constexpr const char* arrayOfObjectNumbers =
+    QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of the numbers of objects");
+constexpr const char* fourNumbers =
+    QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of four numbers: red, green, blue and opacity");
+constexpr const char* aText = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a text");
+constexpr const char* aNumber = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a number");
+constexpr const char* aFraction = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a number from 0 to 1");
+constexpr const char* trueOrFalse = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "true or false");
+constexpr const char* signedNumber = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a whole number of 32 bits");
+constexpr const char* objectNumber =
+    QT_TRANSLATE_NOOP("projectfile::ProjectFile", "the number of an object, from 1 to 4294967295");
+constexpr const char* nextObjectNumber =
+    QT_TRANSLATE_NOOP("projectfile::ProjectFile", "the number of the next object, from 1 to 4294967296");
+constexpr const char* aCategory = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "the number of a category, 0 to 9");
+constexpr const char* aVersion =
+    QT_TRANSLATE_NOOP("projectfile::ProjectFile", "the version of the format, a whole number from 1");
 
 [[noreturn]] void refuse(const Node& node, const char* needed)
 {
-    const std::string path = pathOf(node);
-    throw RecordError((path.empty() ? "the whole" : "\"" + path + "\"") + " is " + shown(node.value) + " but must be " +
-                      needed);
+    if (node.parent == nullptr)
+        throw ContentError(tr("The text is %1 but must be %2").arg(shown(node.value), tr(needed)).toStdString());
+    refuseMember(pathOf(node), tr(R"("%1" is %2 but must be %3)"), shown(node.value), tr(needed));
 }
 
 void demand(const Node& node, bool isRight, const char* needed)
@@ -69,93 +81,85 @@ void demand(const Node& node, bool isRight, const char* needed)
 
 std::int64_t readWholeBetween(const Node& node, std::int64_t least, std::int64_t most, const char* needed)
 {
-    demand(node, node.value.isInt64() && node.value.asInt64() >= least && node.value.asInt64() <= most, needed);
-    return node.value.asInt64();
-}
-
-/// The characters of a text, which belong to the value.
-std::string_view textOf(const Json::Value& value)
-{
-    const char* begin = nullptr;
-    const char* end = nullptr;
-    if (!value.getString(&begin, &end))
-        return {};
-    return {begin, static_cast<std::size_t>(end - begin)};
+    const std::optional<std::int64_t> whole = node.value.whole();
+    demand(node, whole && *whole >= least && *whole <= most, needed);
+    return *whole;
 }
 
 template <class OnElement>
 void forEachElement(const Node& array, const OnElement& onElement)
 {
-    Json::ArrayIndex index = 0;
-    for (const Json::Value& element : array.value)
-        onElement(Node{element, &array, {}, index++});
+    const std::size_t size = array.value.size();
+    for (std::size_t index = 0; index < size; ++index)
+        onElement(Node{array.value.element(index), &array, {}, index});
 }
 
 void readField(const Node& node, std::int32_t& field)
 {
     using limits = std::numeric_limits<std::int32_t>;
-    field =
-        static_cast<std::int32_t>(readWholeBetween(node, limits::min(), limits::max(), "a whole number of 32 bits"));
+    field = static_cast<std::int32_t>(readWholeBetween(node, limits::min(), limits::max(), signedNumber));
 }
 
 void readField(const Node& node, std::uint32_t& field)
 {
     constexpr std::int64_t most = std::numeric_limits<std::uint32_t>::max();
-    field =
-        static_cast<std::uint32_t>(readWholeBetween(node, 1, most, "the number of an object, from 1 to 4294967295"));
+    field = static_cast<std::uint32_t>(readWholeBetween(node, 1, most, objectNumber));
 }
 
 void readField(const Node& node, std::uint64_t& field)
 {
     constexpr std::int64_t most = std::int64_t{1} << 32U;
-    field = static_cast<std::uint64_t>(
-        readWholeBetween(node, 1, most, "the number of the next object, from 1 to 4294967296"));
+    field = static_cast<std::uint64_t>(readWholeBetween(node, 1, most, nextObjectNumber));
+}
+
+/// The version of the format, which is not above that of this program.
+struct Version
+{};
+
+void readField(const Node& node, const Version& /*version*/)
+{
+    readWholeBetween(node, 1, formatVersion, aVersion);
 }
 
 void readField(const Node& node, bool& field)
 {
-    demand(node, node.value.isBool(), "true or false");
-    field = node.value.asBool();
+    demand(node, node.value.isBoolean(), trueOrFalse);
+    field = node.value.boolean();
 }
 
 void readField(const Node& node, std::string& field)
 {
-    demand(node, node.value.isString(), "a text");
-    field = textOf(node.value);
+    demand(node, node.value.isText(), aText);
+    field = node.value.text();
 }
 
 void readField(const Node& node, double& field)
 {
-    if (node.value.isNumeric()) {
-        field = node.value.asDouble();
-        return;
-    }
-    const std::string_view word = textOf(node.value);
-    if (word == infinityWord)
-        field = std::numeric_limits<double>::infinity();
-    else if (word == minusInfinityWord)
-        field = -std::numeric_limits<double>::infinity();
-    else if (word == notANumberWord)
-        field = std::numeric_limits<double>::quiet_NaN();
-    else
-        refuse(node, "a number");
+    const auto word = vxjson::numberOfWord(node.value.text());
+    demand(node, node.value.isNumber() || word, aNumber);
+    field = word.value_or(node.value.number());
 }
 
 void readField(const Node& node, std::vector<double>& field)
 {
-    demand(node, node.value.isArray(), "an array of numbers");
+    demand(node, node.value.isArray(), arrayOfNumbers);
+    field.reserve(node.value.size());
+    forEachElement(node, [&field](const Node& element) { readField(element, field.emplace_back()); });
+}
+
+void readField(const Node& node, std::vector<std::uint32_t>& field)
+{
+    demand(node, node.value.isArray(), arrayOfObjectNumbers);
     field.reserve(node.value.size());
     forEachElement(node, [&field](const Node& element) { readField(element, field.emplace_back()); });
 }
 
 void readField(const Node& node, std::array<float, 4>& field)
 {
-    demand(node, node.value.isArray() && node.value.size() == field.size(),
-           "an array of four numbers: red, green, blue and opacity");
+    demand(node, node.value.isArray() && node.value.size() == field.size(), fourNumbers);
     forEachElement(node, [&field](const Node& element) {
-        const bool isNumber = element.value.isNumeric();
-        const double part = isNumber ? element.value.asDouble() : 0.0;
-        demand(element, isNumber && part >= 0.0 && part <= 1.0, "a number from 0 to 1");
+        const double part = element.value.number();
+        demand(element, element.value.isNumber() && part >= 0.0 && part <= 1.0, aFraction);
         field[element.index] = static_cast<float>(part);
     });
 }
@@ -163,12 +167,23 @@ void readField(const Node& node, std::array<float, 4>& field)
 void readField(const Node& node, vxMat::ePropertyCategory& field)
 {
     const auto last = static_cast<std::int64_t>(vxMat::ePropertyCategory::Undefined);
-    field = static_cast<vxMat::ePropertyCategory>(readWholeBetween(node, 0, last, "the number of a category, 0 to 9"));
+    field = static_cast<vxMat::ePropertyCategory>(readWholeBetween(node, 0, last, aCategory));
 }
 
 void readField(const Node& node, Json::Value& field)
 {
-    field = node.value;
+    field = node.value.toJsonValue();
+}
+
+void readField(const Node& node, const Optional<Json::Value>& field)
+{
+    field.value = node.value.toJsonValue();
+}
+
+void readField(const Node& node, const OptionalObject<Json::Value>& field)
+{
+    demand(node, node.value.isObject(), anObject);
+    field.value = node.value.toJsonValue();
 }
 
 template <class Field>
@@ -179,15 +194,20 @@ void readField(const Node& node, std::optional<Field>& field)
 
 using ReadProperties = Properties<vxMat::MaterialBase::PropertyMap, Json::Value*>;
 
-/// What stands for the material of an object while that is read.
+/// Where the material of an object is read to.
 struct MaterialOfObject
 {
-    ProjectRecord& project;
     ObjectRecord& object;
 };
 
-/// What stands for the array of materials while that is read.
+/// Where the objects that are materials are read to.
 struct Materials
+{
+    ProjectRecord& project;
+};
+
+/// Where the other objects are read to.
+struct OtherObjects
 {
     ProjectRecord& project;
 };
@@ -195,6 +215,7 @@ struct Materials
 void readField(const Node& node, const ReadProperties& properties);
 void readField(const Node& node, const MaterialOfObject& field);
 void readField(const Node& node, const Materials& field);
+void readField(const Node& node, const OtherObjects& field);
 
 template <class Field>
 void readField(const Node& node, const Required<Field>& required)
@@ -207,17 +228,16 @@ inline constexpr bool isRequired = false;
 template <class Field>
 inline constexpr bool isRequired<Required<Field>> = true;
 
-/// Reads the members of an object into the fields that `visitMembers(visit)` names, and others into `further`, when
-/// that is not null.
+/// Reads the members of an object into the fields that `visitMembers(visit)` names, and others into `further`, unless
+/// that is null.
 template <class VisitMembers>
 void readMembers(const Node& node, const VisitMembers& visitMembers, Json::Value* further)
 {
-    demand(node, node.value.isObject(), "an object");
+    demand(node, node.value.isObject(), anObject);
     std::uint32_t seen = 0;
-    for (auto member = node.value.begin(); member != node.value.end(); ++member) {
-        const char* end = nullptr;
-        const char* const begin = member.memberName(&end);
-        const Node child{*member, &node, {begin, static_cast<std::size_t>(end - begin)}};
+    const std::size_t size = node.value.size();
+    for (std::size_t index = 0; index < size; ++index) {
+        const Node child{node.value.member(index), &node, node.value.memberName(index)};
         const std::uint32_t before = seen;
         std::uint32_t bit = 1;
         visitMembers([&](std::string_view name, auto&& field) {
@@ -228,19 +248,19 @@ void readMembers(const Node& node, const VisitMembers& visitMembers, Json::Value
             bit <<= 1U;
         });
         if (seen == before && further != nullptr)
-            (*further)[std::string(child.name)] = child.value;
+            (*further)[std::string(child.name)] = child.value.toJsonValue();
     }
     std::uint32_t bit = 1;
     visitMembers([&](std::string_view name, auto&& field) {
         if (isRequired<std::decay_t<decltype(field)>> && (seen & bit) == 0U)
-            throw RecordError("\"" + pathOf(Node{Json::Value::nullSingleton(), &node, name}) + "\" is missing");
+            refuseMember(pathOf(Node{node.value[name], &node, name}), tr(R"("%1" is missing)"));
         bit <<= 1U;
     });
 }
 
 void readField(const Node& node, const ReadProperties& properties)
 {
-    demand(node, node.value.isArray(), "an array of objects");
+    demand(node, node.value.isArray(), arrayOfObjects);
     properties.map.reserve(node.value.size());
     forEachElement(node, [&](const Node& element) {
         auto property = std::make_unique<vxMat::MaterialProperty>();
@@ -249,15 +269,16 @@ void readField(const Node& node, const ReadProperties& properties)
         readMembers(
             element, [&](const auto& visit) { visitPropertyMembers(heldAs, *property, visit); },
             properties.further != nullptr ? &unknown : nullptr);
-        const std::int32_t key = heldAs.value_or(property->id);
-        if (!properties.map.emplace(key, std::move(property)).second)
-            throw RecordError("\"" + pathOf(element) + ".held_as\" " + std::to_string(key) + " is there twice");
+        const std::int32_t number = heldAs.value_or(property->id);
+        if (!properties.map.emplace(number, std::move(property)).second)
+            refuseMember(pathOf(element) + ".held_as", tr(R"("%1" is %2, which is there twice)"),
+                         QString::number(number));
         if (!unknown.isNull())
-            (*properties.further)[std::to_string(key)] = std::move(unknown);
+            (*properties.further)[std::to_string(number)] = std::move(unknown);
     });
 }
 
-/// The two objects take what is not known; null when that is not wanted.
+/// The two values take what is not known; null if that is not wanted.
 void readMaterial(const Node& node, vxMat::MaterialBase& material, Json::Value* further, Json::Value* ofProperties)
 {
     material.name.clear(); // which is the name of its class at first
@@ -265,53 +286,75 @@ void readMaterial(const Node& node, vxMat::MaterialBase& material, Json::Value* 
         node, [&](const auto& visit) { visitMaterialMembers(material, ofProperties, visit); }, further);
 }
 
+/// Keeps members that are not known, if there are any.
+void keep(ObjectRecord& object, const char* part, Json::Value further)
+{
+    if (!further.isNull())
+        object.further[part] = std::move(further);
+}
+
 void readField(const Node& node, const MaterialOfObject& field)
 {
     Json::Value further;
     Json::Value ofProperties;
-    auto material = std::make_unique<vxMat::MaterialBase>();
-    readMaterial(node, *material, &further, &ofProperties);
-    field.object.material = material.get();
-    field.project.materials.push_back(std::move(material));
-    if (!further.isNull())
-        field.object.further[partOfMaterial] = std::move(further);
-    if (!ofProperties.isNull())
-        field.object.further[partOfProperties] = std::move(ofProperties);
+    field.object.ownMaterial = std::make_unique<vxMat::MaterialBase>();
+    field.object.material = field.object.ownMaterial.get();
+    readMaterial(node, *field.object.ownMaterial, &further, &ofProperties);
+    keep(field.object, partOfMaterial, std::move(further));
+    keep(field.object, partOfProperties, std::move(ofProperties));
+}
+
+/// Reads an array of objects, each of whose members `visitMembers(object, visit)` names.
+template <class VisitMembers>
+void readObjects(const Node& node, std::vector<ObjectRecord>& objects, const VisitMembers& visitMembers)
+{
+    demand(node, node.value.isArray(), arrayOfObjects);
+    objects.reserve(objects.size() + node.value.size());
+    forEachElement(node, [&](const Node& element) {
+        ObjectRecord object;
+        Json::Value further;
+        readMembers(
+            element, [&](const auto& visit) { visitMembers(object, visit); }, &further);
+        keep(object, partOfObject, std::move(further));
+        objects.push_back(std::move(object));
+    });
 }
 
 void readField(const Node& node, const Materials& field)
 {
-    demand(node, node.value.isArray(), "an array of objects");
-    forEachElement(node, [&](const Node& element) {
-        ObjectRecord& object = field.project.objects.emplace_back();
-        const MaterialOfObject material{field.project, object};
-        Json::Value further;
-        readMembers(
-            element, [&](const auto& visit) { visitObjectMembers(object, material, visit); }, &further);
-        if (!further.isNull())
-            object.further[partOfObject] = std::move(further);
+    readObjects(node, field.project.objects, [](ObjectRecord& object, const auto& visit) {
+        const MaterialOfObject material{object};
+        visitMaterialObjectMembers(object, material, visit);
     });
+}
+
+void readField(const Node& node, const OtherObjects& field)
+{
+    readObjects(node, field.project.objects,
+                [](ObjectRecord& object, const auto& visit) { visitOtherObjectMembers(object, visit); });
 }
 
 } // namespace
 
-void readMaterialRecord(const Json::Value& record, vxMat::MaterialBase& material)
+void readMaterialRecord(const JsonNode& record, vxMat::MaterialBase& material)
 {
     readMaterial(Node{record}, material, nullptr, nullptr);
 }
 
-ProjectRecord readProjectRecord(const Json::Value& document)
+ProjectRecord readProjectRecord(const JsonNode& document)
 {
     ProjectRecord project;
     std::string format;
-    std::int32_t version = 0;
+    const Version version;
+    std::optional<std::string> className;
     const Materials materials{project};
+    const OtherObjects others{project};
     readMembers(
-        Node{document}, [&](const auto& visit) { visitProjectMembers(format, version, project, materials, visit); },
+        Node{document},
+        [&](const auto& visit) { visitProjectMembers(format, version, className, project, materials, others, visit); },
         &project.further);
-    if (version < 1)
-        throw RecordError("\"format_version\" is " + std::to_string(version) + " but must be from 1 to " +
-                          std::to_string(formatVersion));
+    if (className)
+        project.className = std::move(*className);
     return project;
 }
 

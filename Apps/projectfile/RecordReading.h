@@ -1,17 +1,16 @@
 #pragma once
 
 #include "projectfile/ProjectFile.h"
-
-#include <json/value.h>
+#include "vxMaterial/json/JsonTree.h"
 
 namespace projectfile::detail {
 
-/// Reads a material, which is new, from its record. What is not known is passed over.
-/// \throws RecordError when the record is none
-void readMaterialRecord(const Json::Value& record, vxMat::MaterialBase& material);
+/// Reads a material, which is new, from its record. Members that are not known are ignored.
+/// \throws ContentError if the record is wrong
+void readMaterialRecord(const vxjson::JsonNode& record, vxMat::MaterialBase& material);
 
-/// Reads a project, its objects in the order of the document. What is not known is kept.
-/// \throws RecordError when the document is none of a project of this version
-ProjectRecord readProjectRecord(const Json::Value& document);
+/// Reads a project, its objects in the order of the document, the materials first. Members that are not known are kept.
+/// \throws ContentError if a member is missing or of the wrong kind
+ProjectRecord readProjectRecord(const vxjson::JsonNode& document);
 
 } // namespace projectfile::detail

@@ -1,16 +1,26 @@
 #include "RecordWriting.h"
 
+#include "RecordMembers.h"
+
+#include "vxMaterial/json/NumberWords.h"
+
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
-#include <cassert>
-#include <cmath>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace projectfile::detail {
 
 namespace {
+
+using vxjson::JsonLayout;
+using vxjson::JsonWriter;
 
 void writeFurther(JsonWriter& writer, const Json::Value& further)
 {
@@ -23,7 +33,7 @@ void writeFurther(JsonWriter& writer, const Json::Value& further)
     }
 }
 
-/// What a record holds of members that are not known; null when it holds none.
+/// A part of the members that are not known; null if there are none.
 const Json::Value& partOf(const Json::Value& further, std::string_view name)
 {
     const Json::Value* const part = further.isObject() ? further.find(name.data(), name.data() + name.size()) : nullptr;
@@ -57,17 +67,18 @@ void writeField(JsonWriter& writer, const std::string& field)
 
 void writeField(JsonWriter& writer, double field)
 {
-    const std::string_view word = wordOfNumber(field);
+    const std::string_view word = vxjson::wordOfNumber(field);
     if (word.empty())
         writer.number(field);
     else
         writer.text(word);
 }
 
-void writeField(JsonWriter& writer, const std::vector<double>& field)
+template <class Number>
+void writeField(JsonWriter& writer, const std::vector<Number>& field)
 {
     writer.beginArray(JsonLayout::Line);
-    for (const double number : field) {
+    for (const Number number : field) {
         writer.element();
         writeField(writer, number);
     }
@@ -79,9 +90,9 @@ void writeField(JsonWriter& writer, const std::array<float, 4>& field)
     writer.beginArray(JsonLayout::Line);
     for (const float part : field) {
         writer.element();
-        // Not the other way round, since nothing is less than what is not a number.
+        // Not the opposite condition, which is false for what is not a number.
         if (!(part >= 0.0F && part <= 1.0F))
-            throw ProjectFileError("\"" + writer.path() + "\" is " + std::to_string(part) + " but must be from 0 to 1");
+            writer.fail(QT_TRANSLATE_NOOP("vxjson::JsonError", "\"%1\" must be a number from 0 to 1"));
         writer.number(part);
     }
     writer.endArray();
@@ -109,9 +120,45 @@ struct WrittenMaterial
     const ObjectRecord& object;
 };
 
+/// The objects of a project that are materials.
+struct Materials
+{
+    const ProjectRecord& project;
+};
+
+/// The other objects of a project.
+struct OtherObjects
+{
+    const ProjectRecord& project;
+};
+
 void writeField(JsonWriter& writer, const WrittenProperties& properties);
 void writeField(JsonWriter& writer, const WrittenMaterial& field);
-void writeField(JsonWriter& writer, const std::vector<ObjectRecord>& objects);
+void writeField(JsonWriter& writer, const Materials& field);
+void writeField(JsonWriter& writer, const OtherObjects& field);
+
+bool isMaterial(const ObjectRecord& object)
+{
+    return object.material != nullptr;
+}
+
+// Whether an optional member is written.
+
+bool isThere(const std::vector<std::uint32_t>& links)
+{
+    return !links.empty();
+}
+
+bool isThere(const OtherObjects& field)
+{
+    return !std::all_of(field.project.objects.begin(), field.project.objects.end(), isMaterial);
+}
+
+template <class Field>
+bool isThere(const Field& /*field*/)
+{
+    return true;
+}
 
 /// Writes members of a record.
 struct MemberWriter
@@ -121,6 +168,8 @@ struct MemberWriter
     template <class Field>
     void operator()(std::string_view name, const Field& field) const
     {
+        if (!isThere(field))
+            return;
         writer.name(name);
         writeField(writer, field);
     }
@@ -135,72 +184,106 @@ struct MemberWriter
         if (field)
             (*this)(name, *field);
     }
+    void operator()(std::string_view name, const Optional<const Json::Value>& field) const
+    {
+        if (!field.value.isNull())
+            (*this)(name, field.value);
+    }
+    void operator()(std::string_view name, const OptionalObject<const Json::Value>& field) const
+    {
+        if (!field.value.isNull())
+            (*this)(name, field.value);
+    }
 };
+
+std::vector<std::int32_t> sortedNumbers(const vxMat::MaterialBase::PropertyMap& properties)
+{
+    std::vector<std::int32_t> numbers;
+    numbers.reserve(properties.size());
+    for (const auto& [number, property] : properties)
+        numbers.push_back(number);
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
 
 void writeField(JsonWriter& writer, const WrittenProperties& properties)
 {
     writer.beginArray(JsonLayout::Block);
-    for (const std::int32_t key : sortedKeys(properties.map)) {
+    for (const std::int32_t heldAs : sortedNumbers(properties.map)) {
         writer.element();
         writer.beginObject(JsonLayout::Line);
-        visitPropertyMembers(key, std::as_const(*properties.map.at(key)), MemberWriter{writer});
+        visitPropertyMembers(heldAs, std::as_const(*properties.map.at(heldAs)), MemberWriter{writer});
         if (!properties.further.isNull())
-            writeFurther(writer, partOf(properties.further, std::to_string(key)));
+            writeFurther(writer, partOf(properties.further, std::to_string(heldAs)));
         writer.endObject();
     }
     writer.endArray();
 }
 
-void writeField(JsonWriter& writer, const WrittenMaterial& field)
+void writeMaterial(JsonWriter& writer, const vxMat::MaterialBase& material, const Json::Value& further)
 {
-    assert(field.object.material != nullptr);
     writer.beginObject(JsonLayout::Block);
-    visitMaterialMembers(*field.object.material, partOf(field.object.further, partOfProperties), MemberWriter{writer});
-    writeFurther(writer, partOf(field.object.further, partOfMaterial));
+    visitMaterialMembers(material, partOf(further, partOfProperties), MemberWriter{writer});
+    writeFurther(writer, partOf(further, partOfMaterial));
     writer.endObject();
 }
 
-void writeField(JsonWriter& writer, const std::vector<ObjectRecord>& objects)
+void writeField(JsonWriter& writer, const WrittenMaterial& field)
+{
+    writeMaterial(writer, *field.object.material, field.object.further);
+}
+
+/// Writes the objects for which `isOfKind` is true, each with the members that `visitMembers(object, visit)` names.
+template <class IsOfKind, class VisitMembers>
+void writeObjects(JsonWriter& writer, const std::vector<ObjectRecord>& objects, const IsOfKind& isOfKind,
+                  const VisitMembers& visitMembers)
 {
     writer.beginArray(JsonLayout::Block);
     for (const ObjectRecord& object : objects) {
+        if (!isOfKind(object))
+            continue;
         writer.element();
         writer.beginObject(JsonLayout::Block);
-        const WrittenMaterial material{object};
-        visitObjectMembers(object, material, MemberWriter{writer});
+        visitMembers(object, MemberWriter{writer});
         writeFurther(writer, partOf(object.further, partOfObject));
         writer.endObject();
     }
     writer.endArray();
 }
 
+void writeField(JsonWriter& writer, const Materials& field)
+{
+    writeObjects(writer, field.project.objects, isMaterial, [](const ObjectRecord& object, const auto& visit) {
+        const WrittenMaterial material{object};
+        visitMaterialObjectMembers(object, material, visit);
+    });
+}
+
+void writeField(JsonWriter& writer, const OtherObjects& field)
+{
+    const auto isOther = [](const ObjectRecord& object) { return !isMaterial(object); };
+    writeObjects(writer, field.project.objects, isOther,
+                 [](const ObjectRecord& object, const auto& visit) { visitOtherObjectMembers(object, visit); });
+}
+
 } // namespace
+
+void writeMaterialRecord(JsonWriter& writer, const vxMat::MaterialBase& material)
+{
+    writeMaterial(writer, material, Json::Value::nullSingleton());
+}
 
 void writeProjectRecord(JsonWriter& writer, const ProjectRecord& project)
 {
+    const Materials materials{project};
+    const OtherObjects others{project};
+    std::optional<std::string> className;
+    if (project.className != materialProjectClass)
+        className = project.className;
     writer.beginObject(JsonLayout::Block);
-    visitProjectMembers(projectFormat, formatVersion, project, project.objects, MemberWriter{writer});
+    visitProjectMembers(projectFormat, formatVersion, className, project, materials, others, MemberWriter{writer});
     writeFurther(writer, project.further);
     writer.endObject();
-}
-
-std::string_view wordOfNumber(double number)
-{
-    if (std::isfinite(number))
-        return {};
-    if (std::isnan(number))
-        return notANumberWord;
-    return number > 0.0 ? infinityWord : minusInfinityWord;
-}
-
-std::vector<std::int32_t> sortedKeys(const vxMat::MaterialBase::PropertyMap& properties)
-{
-    std::vector<std::int32_t> keys;
-    keys.reserve(properties.size());
-    for (const auto& [key, property] : properties)
-        keys.push_back(key);
-    std::sort(keys.begin(), keys.end());
-    return keys;
 }
 
 } // namespace projectfile::detail

@@ -14,7 +14,7 @@ namespace vxmat {
 
 namespace {
 
-/// A material whose cards are wanted.
+/// A material whose cards are printed.
 struct CardMaterial
 {
     std::string source; ///< file; empty for the library
@@ -40,7 +40,7 @@ CardMaterial fromLibrary(const vxMat::MaterialBase& material)
 void addFromFile(const std::string& path, std::vector<CardMaterial>& materials, Answer& answer)
 {
     MaterialFile file = readMaterials(path);
-    answer.messages.insert(answer.messages.end(), file.doubts.begin(), file.doubts.end());
+    answer.add(file.doubts);
     if (file.materials.empty()) {
         answer.messages.push_back(path + ": holds no materials");
         answer.status = Status::Findings;

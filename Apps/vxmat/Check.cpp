@@ -31,8 +31,9 @@ vxCAE::CheckReport check(const std::string& path, const std::optional<std::strin
     if (materialsPath)
         materials = readMaterialDocument(*materialsPath);
 
-    vxCAE::CheckReport report = vxCAE::checkDocument(input.document, materialsPath ? &materials : nullptr);
-    const auto repeated = vxCAE::findRepeatedMembers(input.text);
+    vxCAE::CheckReport report =
+        vxCAE::checkDocument(input.tree.root().toJsonValue(), materialsPath ? &materials : nullptr);
+    const auto repeated = findRepeatedMembers(input);
     report.findings.insert(report.findings.begin(), repeated.begin(), repeated.end());
     return report;
 }

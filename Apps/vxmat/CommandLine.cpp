@@ -29,7 +29,7 @@ void complain(const std::string& message)
     std::cerr << "vxmat: " << printable(message) << '\n';
 }
 
-/// The subcommands, their arguments, and what they call.
+/// The subcommands, their arguments, and the functions that they call.
 class CommandLine
 {
 public:
@@ -107,7 +107,7 @@ void CommandLine::addForm(CLI::App* command)
 
 void CommandLine::addMaterialsFile(CLI::App* command)
 {
-    command->add_option("--materials", m_materialsFile, "The material document or project that the analysis goes with")
+    command->add_option("--materials", m_materialsFile, "The material document or project that belongs to the analysis")
         ->type_name("FILE");
 }
 
@@ -221,7 +221,7 @@ void CommandLine::addQuery()
     addForm(command);
 }
 
-/// What to say of a command line that cannot be understood.
+/// Returns the message about a command line that cannot be understood.
 std::string explain(const CLI::ParseError& error, int argc, char** argv)
 {
     const bool named = argc > 1 && argv[1][0] != '-';
@@ -264,7 +264,7 @@ int run(int argc, char** argv) noexcept
             complain(error.what());
         }
     } catch (...) {
-        // Not even the complaint could be made; the status still tells.
+        // Not even the message could be written; the status still tells.
     }
     return static_cast<int>(Status::Error);
 }

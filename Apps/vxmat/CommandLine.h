@@ -2,8 +2,8 @@
 
 namespace vxmat {
 
-/// Carries out a command line and answers the exit status. Results go to standard output, all else to standard error;
-/// nothing is thrown.
+/// Carries out a command line and returns the exit status. Results are written to standard output, all else to standard
+/// error; nothing is thrown.
 int run(int argc, char** argv) noexcept;
 
 } // namespace vxmat

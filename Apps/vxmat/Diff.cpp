@@ -4,8 +4,11 @@
 #include "Files.h"
 #include "Properties.h"
 
+#include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+
+#include <json/writer.h>
 
 #include <algorithm>
 #include <array>
@@ -20,41 +23,57 @@ namespace {
 
 using vxMat::MaterialProperty;
 
-/// What one of the files has.
+/// A value in one of the files.
 struct Side
 {
     Json::Value json;
     std::string text;
 };
 
-/// What distinguishes two things.
+/// One difference between the files.
 struct Difference
 {
-    std::string material;            ///< its label, and its number where others have the label too
-    std::optional<std::int32_t> key; ///< of the property; absent for the material as a whole
-    std::string quantity;            ///< what the property is called
-    std::string field;               ///< empty when the material or property is in one file alone
-    Side one;
-    Side other;
+    std::string title;      ///< the label of the material or object, and its number if others have the label too
+    bool isMaterial = true; ///< false for an object of another class
+    std::optional<std::int32_t> property{}; ///< the number under which it is held; absent for the material as a whole
+    std::string quantity{};                 ///< the name of the property
+    std::string field{};                    ///< empty if the material, object or property is only in one file
+    Side one{};
+    Side other{};
 };
 
-/// Two materials of the same label; null for the one that is not there.
+using projectfile::ObjectRecord;
+
+std::uint32_t numberOf(const FileMaterial& material)
+{
+    return material.number;
+}
+
+std::uint32_t numberOf(const ObjectRecord& object)
+{
+    return object.objectId;
+}
+
+/// Two materials or objects of the same label; null for the one that is not there.
+template <class Item>
 struct Pair
 {
-    const FileMaterial* one = nullptr;
-    const FileMaterial* other = nullptr;
+    const Item* one = nullptr;
+    const Item* other = nullptr;
     bool isAmbiguous = false; ///< others have the label too
 };
 
-/// The materials of a label, in both files, by number.
+/// The materials or objects of a label, in both files, by number.
+template <class Item>
 struct Group
 {
-    std::map<std::uint32_t, const FileMaterial*> ones;
-    std::map<std::uint32_t, const FileMaterial*> others;
+    std::map<std::uint32_t, const Item*> ones;
+    std::map<std::uint32_t, const Item*> others;
 };
 
-/// Those of the same number belong together; the rest in order.
-void pairUp(Group group, std::vector<Pair>& pairs)
+/// Pairs those of the same number, and the rest in order.
+template <class Item>
+void pairUp(Group<Item> group, std::vector<Pair<Item>>& pairs)
 {
     const bool isAmbiguous = group.ones.size() > 1 || group.others.size() > 1;
     for (auto one = group.ones.begin(); one != group.ones.end();) {
@@ -68,34 +87,36 @@ void pairUp(Group group, std::vector<Pair>& pairs)
         one = group.ones.erase(one);
     }
     auto other = group.others.begin();
-    for (const auto& [number, material] : group.ones)
-        pairs.push_back({material, other != group.others.end() ? (other++)->second : nullptr, isAmbiguous});
+    for (const auto& [number, item] : group.ones)
+        pairs.push_back({item, other != group.others.end() ? (other++)->second : nullptr, isAmbiguous});
     for (; other != group.others.end(); ++other)
         pairs.push_back({nullptr, other->second, isAmbiguous});
 }
 
-/// In the order of the first file, then of the second.
-std::vector<Pair> pairUp(const MaterialFile& one, const MaterialFile& other)
+/// Returns the pairs in the order of the first file, then of the second.
+template <class Item>
+std::vector<Pair<Item>> pairUp(const std::vector<Item>& ones, const std::vector<Item>& others)
 {
-    std::map<std::string, Group> groups;
-    for (const FileMaterial& material : one.materials)
-        groups[material.label].ones.emplace(material.number, &material);
-    for (const FileMaterial& material : other.materials)
-        groups[material.label].others.emplace(material.number, &material);
-    std::vector<Pair> pairs;
+    std::map<std::string, Group<Item>> groups;
+    for (const Item& item : ones)
+        groups[item.label].ones.emplace(numberOf(item), &item);
+    for (const Item& item : others)
+        groups[item.label].others.emplace(numberOf(item), &item);
+    std::vector<Pair<Item>> pairs;
     for (auto& [label, group] : groups)
         pairUp(std::move(group), pairs);
-    const auto order = [](const Pair& pair) {
-        return std::pair(pair.one == nullptr, pair.one != nullptr ? pair.one->number : pair.other->number);
+    const auto order = [](const Pair<Item>& pair) {
+        return std::pair(pair.one == nullptr, numberOf(pair.one != nullptr ? *pair.one : *pair.other));
     };
-    std::sort(pairs.begin(), pairs.end(), [&](const Pair& a, const Pair& b) { return order(a) < order(b); });
+    std::sort(pairs.begin(), pairs.end(), [&](const auto& a, const auto& b) { return order(a) < order(b); });
     return pairs;
 }
 
-std::string titleOf(const Pair& pair)
+template <class Item>
+std::string titleOf(const Pair<Item>& pair)
 {
-    const FileMaterial& material = pair.one != nullptr ? *pair.one : *pair.other;
-    return material.label + (pair.isAmbiguous ? " [" + std::to_string(material.number) + "]" : "");
+    const Item& item = pair.one != nullptr ? *pair.one : *pair.other;
+    return item.label + (pair.isAmbiguous ? " [" + std::to_string(numberOf(item)) + "]" : "");
 }
 
 template <class Field>
@@ -104,7 +125,7 @@ bool isSame(const Field& one, const Field& other)
     return one == other;
 }
 
-/// A number as it is compared: -0 is not 0, and what is no number is the same as itself.
+/// Whether two numbers are the same: -0 is not 0, and what is not a number is the same as itself.
 bool isSame(double one, double other)
 {
     return std::isnan(one) ? std::isnan(other) : one == other && std::signbit(one) == std::signbit(other);
@@ -158,6 +179,20 @@ Side sideOf(const std::vector<double>& values)
     return sideOfNumbers(values);
 }
 
+Side sideOf(const std::vector<std::uint32_t>& numbers)
+{
+    return sideOfNumbers(numbers);
+}
+
+/// A value of any kind, on one line, shortened.
+Side sideOf(const Json::Value& value)
+{
+    Json::StreamWriterBuilder builder;
+    builder["indentation"] = "";
+    builder["emitUTF8"] = true;
+    return {value, value.isNull() ? "none" : printable(vxjson::shortened(Json::writeString(builder, value)))};
+}
+
 Side sideOf(const std::optional<std::array<float, 4>>& colour)
 {
     return colour ? sideOfNumbers(*colour) : Side{Json::Value(), "none"};
@@ -168,13 +203,14 @@ Side sideOf(vxMat::ePropertyCategory category)
     return sideOf(std::string(vxMat::getPropertyCategoryName(static_cast<std::int32_t>(category))));
 }
 
-/// Compares the materials of two files.
+/// Compares the materials and other objects of two files.
 class Comparison
 {
 public:
     explicit Comparison(vxCAE::MaterialSource extent) : m_extent(extent) {}
 
-    void compare(const Pair& pair);
+    void compare(const Pair<FileMaterial>& pair);
+    void compare(const Pair<ObjectRecord>& pair);
 
     std::vector<Difference> differences;
 
@@ -186,6 +222,7 @@ private:
         if (!isSame(one, other))
             add(field, sideOf(one), sideOf(other));
     }
+    void compareObjects(const ObjectRecord& one, const ObjectRecord& other);
     void compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
     void compareProperty(const MaterialProperty& one, const MaterialProperty& other);
     void compareWhatDocumentsLeaveBehind(const MaterialProperty& one, const MaterialProperty& other);
@@ -204,20 +241,40 @@ void Comparison::add(const char* field, Side one, Side other)
     differences.push_back(std::move(difference));
 }
 
-void Comparison::compare(const Pair& pair)
+void Comparison::compare(const Pair<FileMaterial>& pair)
 {
-    m_place = Difference();
-    m_place.material = titleOf(pair);
+    m_place = Difference{titleOf(pair)};
     if (pair.one == nullptr || pair.other == nullptr) {
         add("", sideOf(pair.one != nullptr), sideOf(pair.other != nullptr));
         return;
     }
     compareField("number", pair.one->number, pair.other->number);
-    if (isComplete()) {
-        compareField("suppressed", pair.one->suppressed, pair.other->suppressed);
-        compareField("colour", pair.one->colour, pair.other->colour);
-    }
+    if (isComplete())
+        compareObjects(pair.one->object, pair.other->object);
     compareProperties(*pair.one->entry->material, *pair.other->entry->material);
+}
+
+void Comparison::compare(const Pair<ObjectRecord>& pair)
+{
+    m_place = Difference{titleOf(pair), false};
+    if (pair.one == nullptr || pair.other == nullptr) {
+        add("", sideOf(pair.one != nullptr), sideOf(pair.other != nullptr));
+        return;
+    }
+    compareField("number", pair.one->objectId, pair.other->objectId);
+    compareField("class", pair.one->className, pair.other->className);
+    compareObjects(*pair.one, *pair.other);
+    compareField("content", pair.one->content, pair.other->content);
+}
+
+/// Compares what all objects have.
+void Comparison::compareObjects(const ObjectRecord& one, const ObjectRecord& other)
+{
+    compareField("suppressed", one.suppressed, other.suppressed);
+    compareField("colour", one.colour, other.colour);
+    compareField("properties", one.properties, other.properties);
+    compareField("node", one.node, other.node);
+    compareField("links", one.links, other.links);
 }
 
 void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other)
@@ -225,7 +282,7 @@ void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::
     for (const std::int32_t key : keysOf(one, other)) {
         const MaterialProperty* const left = one.findProperty(key);
         const MaterialProperty* const right = other.findProperty(key);
-        m_place.key = key;
+        m_place.property = key;
         const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
         m_place.quantity = quantity != nullptr ? quantity->name : (left != nullptr ? left : right)->name;
         if (left == nullptr || right == nullptr)
@@ -256,9 +313,9 @@ void Comparison::compareWhatDocumentsLeaveBehind(const MaterialProperty& one, co
 
 std::string toText(const Difference& difference, const std::string& one, const std::string& other)
 {
-    std::string text = printable(difference.material) + ": ";
-    if (difference.key)
-        text += printable(difference.quantity) + " (" + std::to_string(*difference.key) + "): ";
+    std::string text = printable(difference.title) + ": ";
+    if (difference.property)
+        text += printable(difference.quantity) + " (" + std::to_string(*difference.property) + "): ";
     if (difference.field.empty())
         return text + "only in " + (difference.one.json.asBool() ? one : other) + "\n";
     return text + difference.field + ": " + difference.one.text + " -> " + difference.other.text + "\n";
@@ -267,9 +324,10 @@ std::string toText(const Difference& difference, const std::string& one, const s
 Json::Value toJson(const Difference& difference)
 {
     Json::Value json;
-    json["material"] = difference.material;
-    json["property"] = difference.key ? Json::Value(*difference.key) : Json::Value();
-    json["property_name"] = difference.key ? Json::Value(difference.quantity) : Json::Value();
+    json["material"] = difference.isMaterial ? Json::Value(difference.title) : Json::Value();
+    json["object"] = difference.isMaterial ? Json::Value() : Json::Value(difference.title);
+    json["property"] = difference.property ? Json::Value(*difference.property) : Json::Value();
+    json["property_name"] = difference.property ? Json::Value(difference.quantity) : Json::Value();
     json["field"] = difference.field.empty() ? Json::Value() : Json::Value(difference.field);
     json["a"] = difference.one.json;
     json["b"] = difference.other.json;
@@ -283,18 +341,22 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form)
     const MaterialFile left = readMaterials(one);
     const MaterialFile right = readMaterials(other);
     Answer answer;
-    for (const MaterialFile* const file : {&left, &right})
-        answer.messages.insert(answer.messages.end(), file->doubts.begin(), file->doubts.end());
+    answer.add(left.doubts);
+    answer.add(right.doubts);
     if (left.source != right.source)
         answer.messages.push_back("note: " + (left.source == vxCAE::MaterialSource::Document ? one : other) +
-                                  " is an exchange document, which carries of a property its key, name and number "
-                                  "alone: words, lists, units, descriptions and categories are not compared, nor "
-                                  "colours and what is suppressed");
+                                  " is an exchange document, which carries of a property only its key, name and "
+                                  "number: words, lists, units, descriptions and categories are not compared, nor "
+                                  "colours, what is suppressed and other objects");
 
     const bool complete = left.source == vxCAE::MaterialSource::Complete && right.source == left.source;
     Comparison comparison(complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document);
-    for (const Pair& pair : pairUp(left, right))
+    for (const auto& pair : pairUp(left.materials, right.materials))
         comparison.compare(pair);
+    if (complete) {
+        for (const auto& pair : pairUp(left.others, right.others))
+            comparison.compare(pair);
+    }
 
     Json::Value document;
     document["a"] = one;

@@ -4,90 +4,89 @@
 #include "Files.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <array>
 #include <utility>
 
 namespace vxmat {
 
 namespace {
 
-/// Whether an object has nothing that an exchange document has, but has something: it is another program's.
-bool isForeign(const Json::Value& document)
+/// Whether an object belongs to another program: it has members, but none that an exchange document has.
+bool isForeign(const vxjson::JsonNode& document)
 {
-    static constexpr std::array members{
+    static constexpr std::array<std::string_view, 10> members{
         "proj_type", "material",          "system",           "solve",           "mesh",
         "result",    "boundarycondition", "initialcondition", "domaincondition", "connections"};
-    return !document.empty() &&
-           std::none_of(members.begin(), members.end(), [&](const char* member) { return document.isMember(member); });
+    for (std::size_t i = 0; i < document.size(); ++i) {
+        if (std::find(members.begin(), members.end(), document.memberName(i)) != members.end())
+            return false;
+    }
+    return document.size() > 0;
 }
 
-void requireMaterials(const Input& input)
+void requireMaterials(const std::string& path, const Json::Value& document)
 {
-    const Json::Value& materials = input.document["material"];
-    if (vxCAE::readProjectKind(input.document) == vxCAE::ProjectKind::Analysis && materials.isNull())
-        throw Failure(input.path + ": an analysis document holds no materials; give the material document");
+    const Json::Value& materials = document["material"];
+    if (vxCAE::readProjectKind(document) == vxCAE::ProjectKind::Analysis && materials.isNull())
+        throw Failure(path + ": an analysis document holds no materials; give the material document");
     if (!materials.isNull() && !materials.isArray())
-        throw Failure(input.path + ": \"material\" is not an array; 'vxmat check' tells more");
+        throw Failure(path + ": \"material\" is not an array; 'vxmat check' tells more");
 }
 
 MaterialFile readFromDocument(const Input& input)
 {
-    requireMaterials(input);
+    const Json::Value document = input.tree.root().toJsonValue();
+    requireMaterials(input.path, document);
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
-    readInto(set, input.path, input.document);
+    readInto(set, input.path, document);
     MaterialFile file;
     file.path = input.path;
     for (auto& [number, entry] : set.materials->entries) {
         entry->classifyKind();
-        FileMaterial material;
+        FileMaterial& material = file.materials.emplace_back();
         material.number = number;
         material.label = entry->material->name;
         material.entry = std::move(entry);
-        file.materials.push_back(std::move(material));
     }
     return file;
+}
+
+FileMaterial readFromObject(projectfile::ObjectRecord object)
+{
+    FileMaterial material;
+    material.number = object.objectId;
+    material.label = object.label;
+    material.entry = std::make_unique<vxCAE::MaterialEntry>();
+    material.entry->material->swap(*object.ownMaterial);
+    // A material leaves its project under the name that the user sees.
+    material.entry->material->name = material.label;
+    material.entry->classifyKind();
+    material.object = std::move(object);
+    return material;
 }
 
 MaterialFile readFromProject(Input input)
 {
-    projectfile::ProjectRecord& project = *input.project;
     MaterialFile file;
     file.path = input.path;
     file.source = vxCAE::MaterialSource::Complete;
-    for (const std::string& doubt : project.doubts)
+    for (const std::string& doubt : input.project->doubts)
         file.doubts.push_back(input.path + ": " + doubt);
-    // The materials need not stand in the order of their objects.
-    std::unordered_map<const vxMat::MaterialBase*, vxMat::MaterialBase*> materials;
-    for (const auto& material : project.materials)
-        materials.emplace(material.get(), material.get());
-    for (projectfile::ObjectRecord& object : project.objects) {
-        FileMaterial material;
-        material.number = object.objectId;
-        material.label = std::move(object.label);
-        material.suppressed = object.suppressed;
-        material.colour = object.colour;
-        material.entry = std::make_unique<vxCAE::MaterialEntry>();
-        material.entry->material->properties = std::move(materials.at(object.material)->properties);
-        material.entry->material->id = object.material->id;
-        // A material leaves its project under the name that the user sees.
-        material.entry->material->name = material.label;
-        material.entry->classifyKind();
-        file.materials.push_back(std::move(material));
+    for (projectfile::ObjectRecord& object : input.project->objects) {
+        if (object.material != nullptr)
+            file.materials.push_back(readFromObject(std::move(object)));
+        else
+            file.others.push_back(std::move(object));
     }
     return file;
 }
 
-/// Reads the project in a text that may be one. Answers false when the text is something else.
-/// \throws Failure when it is one with which something is wrong
-bool readAsProject(Input& input)
+projectfile::ProjectRecord readProject(const Input& input)
 {
     try {
-        input.project = projectfile::readProject(input.text);
-        return true;
-    } catch (const projectfile::ProjectFileError& error) {
-        if (projectfile::isProject(parseDocument(input.path, input.text)))
-            throw Failure(input.path + ": " + error.what());
-        return false;
+        return projectfile::readProject(input.text);
+    } catch (const projectfile::ContentError& error) {
+        throw Failure(input.path + ": " + error.what());
     }
 }
 
@@ -95,20 +94,22 @@ bool readAsProject(Input& input)
 
 Input readInput(const std::string& path)
 {
-    Input input;
-    input.path = path;
-    input.text = readFile(path);
-    // What most probably is a project need not be read as a document first.
-    if (input.text.find("\"format\"") != std::string::npos && readAsProject(input))
-        return input;
-    input.document = parseDocument(path, input.text);
-    if (projectfile::isProject(input.document) && readAsProject(input)) {
-        input.document = Json::Value();
-        return input;
-    }
-    if (isForeign(input.document))
+    std::string text = readFile(path);
+    vxjson::JsonTree tree = parseDocument(path, text);
+    Input input{path, std::move(text), std::move(tree), std::nullopt};
+    if (projectfile::isProject(input.tree.root()))
+        input.project = readProject(input);
+    else if (isForeign(input.tree.root()))
         throw Failure(path + ": neither an exchange document nor a project file: it has none of their members");
     return input;
+}
+
+std::vector<vxCAE::Finding> findRepeatedMembers(const Input& input)
+{
+    std::vector<vxCAE::Finding> findings;
+    for (const std::string& path : input.tree.repeatedMembers())
+        findings.push_back({path, "is there more than once; readers take the last one"});
+    return findings;
 }
 
 void readInto(vxCAE::CAESet& set, const std::string& path, const Json::Value& document)
@@ -133,14 +134,15 @@ MaterialFile readMaterials(const std::string& path)
 Json::Value readMaterialDocument(const std::string& path)
 {
     Input input = readInput(path);
+    Json::Value document;
     if (!input.project) {
-        requireMaterials(input);
-        return std::move(input.document);
+        document = input.tree.root().toJsonValue();
+        requireMaterials(path, document);
+        return document;
     }
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
     for (FileMaterial& material : readMaterials(std::move(input)).materials)
         set.materials->addMaterial(material.number, std::move(material.entry));
-    Json::Value document;
     set.writeJson(document);
     return document;
 }

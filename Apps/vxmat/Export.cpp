@@ -7,7 +7,7 @@
 #include "Properties.h"
 
 #include "vxMaterial/exchange/CAESet.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/NumberText.h"
 
 #include <cmath>
@@ -23,27 +23,12 @@ namespace {
 /// One material that is to be written.
 struct Wanted
 {
-    std::string argument;                ///< that asks for it
-    std::optional<std::uint32_t> number; ///< absent when any will do
+    std::string argument;                ///< which asks for it
+    std::optional<std::uint32_t> number; ///< absent if any number is right
     std::unique_ptr<vxCAE::MaterialEntry> entry;
 };
 
-/// NAME or NAME=NUMBER.
-struct NameAndNumber
-{
-    std::string name;
-    std::optional<std::string> number;
-};
-
-NameAndNumber split(const std::string& argument)
-{
-    const std::size_t sign = argument.rfind('=');
-    if (sign == std::string::npos)
-        return {argument, std::nullopt};
-    return {argument.substr(0, sign), argument.substr(sign + 1)};
-}
-
-/// What of a material the document does not carry, besides units and descriptions, which the catalogue knows.
+/// Notes what the document does not carry of a material, besides units and descriptions, which the catalogue knows.
 void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
 {
     std::string lost;
@@ -59,7 +44,7 @@ void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
                                   ": exchange documents carry no words and lists; lost: " + lost);
 }
 
-/// A document with a number that JSON has no word for, or an id below 0, would be refused where it is read.
+/// Refuses what readers of documents refuse: a number that JSON cannot express, and an id below 0.
 void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& material)
 {
     for (const auto& [key, property] : material.properties) {
@@ -67,7 +52,7 @@ void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& ma
             path + ": " + material.name + ": property " + std::to_string(key) + " \"" + property->name + "\" ";
         if (!std::isfinite(property->value))
             throw Failure(title + "is " + vxMat::formatNumber(property->value) +
-                          "; exchange documents carry finite numbers alone");
+                          "; exchange documents carry only finite numbers");
         if (key < 0)
             throw Failure(title + "has an id below 0, which readers of exchange documents refuse");
     }
@@ -79,7 +64,10 @@ void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answe
     if (!input.project)
         throw Failure(path + ": not a project file; its materials are in a document already");
     MaterialFile file = readMaterials(std::move(input));
-    answer.messages.insert(answer.messages.end(), file.doubts.begin(), file.doubts.end());
+    answer.add(file.doubts);
+    if (!file.others.empty())
+        answer.messages.push_back("note: " + path +
+                                  ": exchange documents carry only materials; the other objects are left out");
     for (FileMaterial& material : file.materials) {
         requireThatItTravels(path, *material.entry->material);
         all.push_back({path + ": " + material.label, material.number, std::move(material.entry)});
@@ -91,7 +79,7 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
     const MaterialNames names;
     std::vector<Wanted> all;
     for (const std::string& argument : arguments) {
-        const NameAndNumber wanted = split(argument);
+        const NameAndValue wanted = splitAt(argument, argument.rfind('='));
         const bool isName = names.find(argument).has_value() || names.find(wanted.name).has_value();
         if (!isName && isFile(argument)) {
             requireAnotherFile(argument, output);
@@ -99,8 +87,8 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
             continue;
         }
         std::optional<std::uint32_t> number;
-        if (wanted.number)
-            number = parseNumber(argument, *wanted.number);
+        if (wanted.value)
+            number = parseNumber(argument, *wanted.value);
         if (!isName)
             throw Failure(names.unknownNameOrFile(wanted.name));
         auto entry = std::make_unique<vxCAE::MaterialEntry>();
@@ -110,7 +98,7 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
     return all;
 }
 
-/// Gives numbers to the materials that have none: 1, 2, ..., passing over those that others have.
+/// Gives numbers to the materials that have none: 1, 2, ..., without those that others have.
 void number(std::vector<Wanted>& all)
 {
     std::set<std::uint32_t> taken;
@@ -142,7 +130,7 @@ Answer exportMaterials(const std::vector<std::string>& materials, const std::str
     }
     Json::Value document;
     set.writeJson(document);
-    const std::string text = vxCAE::toStyledText(document);
+    const std::string text = vxjson::toStyledText(document);
     if (path == standardStream)
         answer.text = text;
     else

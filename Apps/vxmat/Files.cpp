@@ -3,7 +3,7 @@
 #include "Answer.h"
 
 #include "projectfile/ProjectStore.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/NumberWords.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,7 +12,6 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -28,15 +27,15 @@ namespace {
     throw Failure(path + ": " + reason.toStdString());
 }
 
-/// A file name as Qt takes it. A name that it cannot keep would be read or written under another one, and one that
-/// begins with a colon it would take for a resource.
+/// A file name as Qt takes it. A name that Qt cannot represent would be read or written under another name, and one that
+/// begins with a colon would be a resource.
 QString toQString(const std::string& path)
 {
     if (path.empty())
         throw Failure("the name of a file is empty");
     const QString name = QFile::decodeName(path.c_str());
     if (QFile::encodeName(name).toStdString() != path)
-        fail(path, QStringLiteral("the name is not a UTF-8 text"));
+        fail(path, QStringLiteral("the name is not UTF-8"));
     return name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name;
 }
 
@@ -53,8 +52,8 @@ std::string readAll(const std::string& path, QFile& file)
     return content;
 }
 
-/// The open file of this process that a path such as /dev/stdout or /dev/fd/3 means. To write such a file anew by its
-/// name would throw away what stands in it.
+/// The open file of this process that a path such as /dev/stdout or /dev/fd/3 means. To open such a file again by its
+/// name would delete its content.
 std::optional<int> descriptorOf(const std::string& path)
 {
     static constexpr std::array<std::pair<std::string_view, int>, 3> names{
@@ -89,8 +88,8 @@ void writeToDevice(const std::string& path, const QString& name, const std::stri
         fail(path, device.errorString());
 }
 
-/// Writes to what is no file that could be replaced: what is open already, a device, a pipe. Answers false, with nothing
-/// written, when it is one, or will be.
+/// Writes to what cannot be replaced as a file can: what is open already, a device, a pipe. Returns false, with nothing
+/// written, for a file.
 bool writeDirectly(const std::string& path, const std::string& text)
 {
     if (path == standardStream) {
@@ -114,7 +113,7 @@ bool writeDirectly(const std::string& path, const std::string& text)
     return false;
 }
 
-/// Does what the store of projects does with files, whose messages name the file first as ours do.
+/// Calls a function of the store of projects, whose messages begin with the name of the file as those of this program.
 template <class Work>
 auto fromStore(const Work& work)
 {
@@ -153,17 +152,16 @@ std::string readFile(const std::string& path)
     return readAll(path, device);
 }
 
-Json::Value parseDocument(const std::string& path, const std::string& text)
+vxjson::JsonTree parseDocument(const std::string& path, const std::string& text)
 {
     if (text.find_first_not_of(" \t\r\n") == std::string::npos)
         throw Failure(path + ": the file is empty; a JSON document is needed");
-    auto reading = vxCAE::readJsonText(text);
-    if (reading.error) {
-        throw Failure(path + ": " + describe(*reading.error));
-    }
-    if (!reading.document.isObject())
+    auto tree = vxjson::JsonTree::read(text, vxjson::JsonDialect::WithComments);
+    if (tree.error())
+        throw Failure(path + ": " + describe(*tree.error()));
+    if (!tree.root().isObject())
         throw Failure(path + ": not an exchange document: a JSON object is needed");
-    return std::move(reading.document);
+    return tree;
 }
 
 void writeFile(const std::string& path, const std::string& text)
@@ -179,7 +177,7 @@ void writeProjectFile(const std::string& path, const std::string& text)
     fromStore([&] {
         const QString name = QFile::decodeName(path.c_str());
         projectfile::FileLock lock(name);
-        // Where no lock file can be made, the project cannot be written either, which says why.
+        // If no lock file can be made, the project cannot be written either, and the message about that says why.
         if (const QString holder = lock.tryLock() ? QString() : lock.holder(); !holder.isEmpty())
             fail(path, QStringLiteral("another program has it open: %1").arg(holder));
         projectfile::writeFile(name, text);
@@ -207,10 +205,13 @@ std::string printable(const std::string& text)
 {
     static constexpr std::string_view digits = "0123456789abcdef";
     std::string shown;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x20U && byte != 0x7FU) {
-            shown += c;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        // U+0080 to U+009F control terminals too. Their second byte is their number.
+        const bool isTwoBytes =
+            text[i] == '\xC2' && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) < 0xA0U;
+        const auto byte = static_cast<unsigned char>(text[isTwoBytes ? ++i : i]);
+        if (byte >= 0x20U && byte != 0x7FU && !isTwoBytes) {
+            shown += text[i];
         } else {
             shown += "\\u00";
             shown += digits[byte >> 4U];
@@ -222,9 +223,8 @@ std::string printable(const std::string& text)
 
 Json::Value toJsonNumber(double number)
 {
-    if (std::isfinite(number))
-        return number;
-    return std::isnan(number) ? "NaN" : number > 0.0 ? "Infinity" : "-Infinity";
+    const std::string_view word = vxjson::wordOfNumber(number);
+    return word.empty() ? Json::Value(number) : Json::Value(std::string(word));
 }
 
 std::string toJsonText(const Json::Value& document)

@@ -35,7 +35,7 @@ const char* kindName(eValueKind kind)
     }
 }
 
-/// The value of a property as the editor shows it.
+/// The value of a property, in the form that its quantity has.
 Json::Value valueJson(const MaterialProperty& property)
 {
     switch (vxMat::getValueKind(property.id)) {
@@ -107,7 +107,7 @@ struct PropertyListing
     Json::Value json{Json::arrayValue};
 };
 
-/// `title` is what notes about the material begin with.
+/// Notes about the material begin with `title`.
 PropertyListing listProperties(const vxMat::MaterialBase& material, const std::string& title, Answer& answer)
 {
     PropertyListing listing;
@@ -141,6 +141,32 @@ Answer showLibraryMaterial(const vxMat::MaterialBase& material, vxMat::eMaterial
     return answer;
 }
 
+Json::Value toJson(const projectfile::ObjectRecord& object)
+{
+    Json::Value json;
+    json["number"] = object.objectId;
+    json["name"] = object.label;
+    json["class"] = object.className;
+    json["suppressed"] = object.suppressed;
+    json["properties"] = object.properties;
+    json["links"] = Json::arrayValue;
+    for (const std::uint32_t number : object.links)
+        json["links"].append(number);
+    json["content"] = object.content;
+    return json;
+}
+
+/// The objects of a project that are not materials.
+std::string listOthers(const std::vector<projectfile::ObjectRecord>& objects)
+{
+    TextTable table({"Number", "Name", "Class", "Suppressed"});
+    for (const projectfile::ObjectRecord& object : objects) {
+        table.add({std::to_string(object.objectId), printable(object.label), printable(object.className),
+                   object.suppressed ? "yes" : "no"});
+    }
+    return "Objects of other classes\n\n" + table.text();
+}
+
 Answer showFile(const std::string& path, Form form)
 {
     const MaterialFile file = readMaterials(path);
@@ -157,10 +183,15 @@ Answer showFile(const std::string& path, Form form)
         Json::Value json;
         json["number"] = material.number;
         json["name"] = material.label;
-        json["suppressed"] = material.suppressed;
+        json["suppressed"] = material.object.suppressed;
         json["properties"] = listing.json;
         document["materials"].append(std::move(json));
     }
+    document["objects"] = Json::arrayValue;
+    for (const projectfile::ObjectRecord& object : file.others)
+        document["objects"].append(toJson(object));
+    if (!file.others.empty())
+        answer.text += (answer.text.empty() ? "" : "\n") + listOthers(file.others);
     if (form == Form::Json)
         answer.text = toJsonText(document);
     return answer;

@@ -14,7 +14,7 @@ namespace vxmat {
 
 namespace {
 
-/// The edit distance: how many letters must be added, dropped or changed to turn one text into the other.
+/// Returns the edit distance: the number of letters that are added, removed or changed to turn one text into the other.
 std::size_t distance(const std::string& one, const std::string& other)
 {
     std::vector<std::size_t> row(other.size() + 1);
@@ -31,8 +31,8 @@ std::size_t distance(const std::string& one, const std::string& other)
     return row.back();
 }
 
-/// How far a typed text is from a name, both in capitals: by typing errors, in the name or in its nearest word, then by
-/// what the name says besides.
+/// The distance of a typed text from a name, both in capitals: by typing errors, in the name or in its nearest word, then
+/// by the rest of the name.
 struct Distance
 {
     std::size_t errors;
@@ -101,8 +101,7 @@ std::vector<std::string> MaterialNames::nearest(const std::string& name) const
         candidates.emplace_back(distanceOfName(typed, vxMat::toUpperAscii(material->name)), material->name);
     std::sort(candidates.begin(), candidates.end());
 
-    // Names as near as the nearest are worth a line, others would only be noise; so would be a name of which hardly a
-    // letter was typed.
+    // Only names as near as the nearest one are suggested, and none of which hardly a letter was typed.
     const std::size_t errors = candidates.front().first.errors;
     std::vector<std::string> names;
     for (const auto& [far, candidate] : candidates) {

@@ -8,26 +8,26 @@
 
 namespace vxmat {
 
-/// The built-in materials as the command line knows them: by name, without regard to case.
+/// The built-in materials by name, without regard to case.
 class MaterialNames
 {
 public:
     MaterialNames();
 
-    /// The type of a material of the library; absent when none has the name.
+    /// Returns the type of a material of the library; absent if none has the name.
     std::optional<vxMat::eMaterialType> find(const std::string& name) const;
 
-    /// The material of that name, which the library keeps.
-    /// \throws Failure when there is none; the text suggests the nearest names
+    /// Returns the material of that name, which belongs to the library.
+    /// \throws Failure if there is none; the text suggests the nearest names
     const vxMat::MaterialBase& get(const std::string& name) const;
 
-    /// The materials in the order of their types.
+    /// Returns the types of all materials, in order.
     std::vector<vxMat::eMaterialType> types() const;
     const vxMat::MaterialBase& get(vxMat::eMaterialType type) const;
 
-    /// What to say of a name that no material has: the names nearest to it.
+    /// Returns the message about a name that no material has, with the nearest names.
     std::string unknown(const std::string& name) const;
-    /// The same where a file could have been meant as well.
+    /// The same for an argument that may also be the name of a file.
     std::string unknownNameOrFile(const std::string& name) const;
 
 private:

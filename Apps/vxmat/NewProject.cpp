@@ -1,17 +1,16 @@
 #include "NewProject.h"
 
+#include "Arguments.h"
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
 
 #include "projectfile/ExchangeImport.h"
-#include "vxMaterial/exchange/DocumentCheck.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/Utf8.h"
 
 #include <QFileInfo>
 
 #include <memory>
-#include <optional>
 #include <set>
 #include <utility>
 
@@ -19,30 +18,15 @@ namespace vxmat {
 
 namespace {
 
-/// NAME or NAME=LABEL. No name of the library has an equals sign, but a label may.
-struct NameAndLabel
-{
-    std::string name;
-    std::optional<std::string> label;
-};
-
-NameAndLabel split(const std::string& argument)
-{
-    const std::size_t sign = argument.find('=');
-    if (sign == std::string::npos)
-        return {argument, std::nullopt};
-    return {argument.substr(0, sign), argument.substr(sign + 1)};
-}
-
 void requireLabel(const std::string& argument, const std::string& label)
 {
     if (label.empty())
-        throw Failure(argument + ": the label is empty");
-    if (vxCAE::lengthOfUtf8(label) != label.size())
-        throw Failure(argument + ": the label is not a UTF-8 text");
+        throw Failure(argument + ": the label must not be empty");
+    if (vxjson::lengthOfUtf8(label) != label.size())
+        throw Failure(argument + ": the label is not UTF-8");
 }
 
-/// What the project in a file is called: as the file is; as the host calls its first one when there is no file.
+/// Returns the name of the project in a file: that of the file; without a file, that of the host's first project.
 std::string projectNameOf(const std::string& path)
 {
     if (path == standardStream)
@@ -57,7 +41,7 @@ void write(const std::string& path, std::vector<projectfile::ImportedMaterial> m
     std::string text;
     try {
         text = projectfile::writeProject(project);
-    } catch (const projectfile::ProjectFileError& error) {
+    } catch (const projectfile::ContentError& error) {
         throw Failure(path + ": " + error.what());
     }
     if (path == standardStream)
@@ -74,12 +58,13 @@ Answer newProject(const std::vector<std::string>& materials, const std::string& 
     std::set<std::string> labels;
     std::vector<projectfile::ImportedMaterial> made;
     for (const std::string& argument : materials) {
-        const NameAndLabel wanted = split(argument);
+        // No name of the library has an equals sign, but a label may have one.
+        const NameAndValue wanted = splitAt(argument, argument.find('='));
         auto material = std::make_unique<vxMat::CMaterial>();
         material->copyFrom(names.get(wanted.name));
         projectfile::ImportedMaterial& object = made.emplace_back();
         object.objectId = static_cast<std::uint32_t>(made.size());
-        object.label = wanted.label.value_or(material->name);
+        object.label = wanted.value.value_or(material->name);
         object.material = std::move(material);
         requireLabel(argument, object.label);
         if (!labels.insert(object.label).second)
@@ -98,14 +83,12 @@ Answer importDocument(const std::string& document, const std::string& path)
         throw Failure(document + ": it is a project file, which needs no import");
     requireAnotherFile(document, path);
     Answer answer;
-    for (const vxCAE::Finding& repeated : vxCAE::findRepeatedMembers(input.text))
-        answer.messages.push_back(document + ": " + repeated.path + ": " + repeated.message);
     try {
-        projectfile::ImportedMaterials imported = projectfile::importExchange(input.document);
+        projectfile::ImportedMaterials imported = projectfile::importExchange(input.text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
         write(path, std::move(imported.materials), answer);
-    } catch (const projectfile::ImportError& error) {
+    } catch (const projectfile::ContentError& error) {
         throw Failure(document + ": " + error.what());
     }
     answer.status = answer.messages.empty() ? Status::Clean : Status::Findings;

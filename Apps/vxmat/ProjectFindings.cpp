@@ -1,7 +1,5 @@
 #include "ProjectFindings.h"
 
-#include "Files.h"
-
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyRules.h"
@@ -16,32 +14,45 @@ namespace {
 
 using vxMat::MaterialProperty;
 
-/// The checks of one project, whose materials are walked as they stand in the file.
+/// The checks of one project, in the order of the file.
 class ProjectCheck
 {
 public:
     explicit ProjectCheck(const projectfile::ProjectRecord& project)
     {
-        for (const projectfile::ObjectRecord& object : project.objects)
-            m_objects[object.objectId] = object.material;
+        bool hasOthers = false;
+        for (const projectfile::ObjectRecord& object : project.objects) {
+            m_materials[object.objectId] = object.material;
+            hasOthers = hasOthers || object.material == nullptr;
+        }
+        if (hasOthers)
+            note("$.objects", "are of other classes than materials and not checked");
         for (const std::string& doubt : project.doubts)
             find("$", doubt);
     }
 
-    void checkMaterials(const Json::Value& materials);
+    void checkMaterials(const vxjson::JsonNode& materials);
 
     vxCAE::CheckReport report;
 
 private:
     void find(const std::string& path, const std::string& message) { report.findings.push_back({path, message}); }
     void note(const std::string& path, const std::string& message) { report.notes.push_back({path, message}); }
-    void checkMaterial(const vxMat::MaterialBase& material, const Json::Value& properties, const std::string& path);
-    void checkProperty(std::int32_t key, const MaterialProperty& property, const std::string& path);
+    void checkMaterial(const vxMat::MaterialBase& material, const vxjson::JsonNode& properties,
+                       const std::string& path);
+    void checkProperty(std::int32_t heldAs, const MaterialProperty& property, const std::string& path);
     void checkNumbers(const MaterialProperty& property, const std::string& path);
     void checkRules(std::int32_t id, const MaterialProperty& property, const std::string& path);
 
-    std::unordered_map<std::uint32_t, const vxMat::MaterialBase*> m_objects;
+    std::unordered_map<std::uint32_t, const vxMat::MaterialBase*> m_materials; ///< null for other objects
 };
+
+/// The number under which a material holds a property of the file.
+std::int32_t numberUnder(const vxjson::JsonNode& property)
+{
+    const vxjson::JsonNode heldAs = property["held_as"];
+    return static_cast<std::int32_t>((heldAs.isNull() ? property["id"] : heldAs).whole().value_or(0));
+}
 
 void ProjectCheck::checkNumbers(const MaterialProperty& property, const std::string& path)
 {
@@ -69,43 +80,46 @@ void ProjectCheck::checkRules(std::int32_t id, const MaterialProperty& property,
         find(path + ".values", "is empty; \"" + std::string(quantity->name) + "\" is a list of numbers");
 }
 
-void ProjectCheck::checkProperty(std::int32_t key, const MaterialProperty& property, const std::string& path)
+void ProjectCheck::checkProperty(std::int32_t heldAs, const MaterialProperty& property, const std::string& path)
 {
     checkNumbers(property, path);
     checkRules(property.id, property, path);
-    if (key == property.id)
+    if (heldAs == property.id)
         return;
-    // The solver takes it for what it is held under.
-    checkRules(key, property, path);
+    // The solver takes it for the quantity as which it is held.
+    checkRules(heldAs, property, path);
     const auto nameOf = [](std::int32_t id) {
         const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
         return std::to_string(id) + (quantity != nullptr ? " \"" + std::string(quantity->name) + "\"" : "");
     };
-    note(path, "is property " + nameOf(property.id) + " but held as " + nameOf(key));
+    note(path, "is property " + nameOf(property.id) + " but held as " + nameOf(heldAs));
 }
 
-void ProjectCheck::checkMaterial(const vxMat::MaterialBase& material, const Json::Value& properties,
+void ProjectCheck::checkMaterial(const vxMat::MaterialBase& material, const vxjson::JsonNode& properties,
                                  const std::string& path)
 {
     vxMat::CombinationCheck combination;
-    for (Json::ArrayIndex i = 0; i < properties.size(); ++i) {
-        const Json::Value& json = properties[i];
-        const std::int32_t key = (json.isMember("held_as") ? json["held_as"] : json["id"]).asInt();
-        checkProperty(key, *material.findProperty(key), path + "[" + std::to_string(i) + "]");
-        combination.note(key);
+    for (std::size_t i = 0; i < properties.size(); ++i) {
+        const std::int32_t heldAs = numberUnder(properties.element(i));
+        checkProperty(heldAs, *material.findProperty(heldAs), path + "[" + std::to_string(i) + "]");
+        combination.note(heldAs);
     }
     if (const char* const fault = combination.result())
         find(path, fault);
+    if (const auto curve = vxMat::findUnequalCurve(material))
+        find(path, "has " + std::to_string(curve->yieldStresses) + " yield stresses and " +
+                       std::to_string(curve->plasticStrains) + " plastic strains; both must be of equal number");
 }
 
-void ProjectCheck::checkMaterials(const Json::Value& materials)
+void ProjectCheck::checkMaterials(const vxjson::JsonNode& materials)
 {
-    for (Json::ArrayIndex i = 0; i < materials.size(); ++i) {
-        const Json::Value& object = materials[i];
+    for (std::size_t i = 0; i < materials.size(); ++i) {
+        const vxjson::JsonNode object = materials.element(i);
         const std::string path = "$.materials[" + std::to_string(i) + "].material";
-        const Json::Value& properties = object["material"]["properties"];
-        checkMaterial(*m_objects.at(object["object_id"].asUInt()), properties, path + ".properties");
-        if (properties.empty())
+        const vxjson::JsonNode properties = object["material"]["properties"];
+        const auto number = static_cast<std::uint32_t>(*object["object_id"].whole());
+        checkMaterial(*m_materials.at(number), properties, path + ".properties");
+        if (properties.size() == 0)
             note(path, "has no properties");
     }
 }
@@ -114,9 +128,9 @@ void ProjectCheck::checkMaterials(const Json::Value& materials)
 
 vxCAE::CheckReport checkProject(const Input& input)
 {
-    // The record has the materials by number; the document tells where each value stands.
+    // The record has the materials by number; the tree tells where each value is in the file.
     ProjectCheck check(*input.project);
-    check.checkMaterials(parseDocument(input.path, input.text)["materials"]);
+    check.checkMaterials(input.tree.root()["materials"]);
     return std::move(check.report);
 }
 

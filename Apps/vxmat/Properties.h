@@ -7,12 +7,12 @@
 
 namespace vxmat {
 
-/// The keys of a material's properties in the order of the catalogue; those that it does not know follow by number.
+/// Returns the keys of a material's properties in the order of the catalogue; then those that it does not know, by number.
 std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& material);
-/// The keys that at least one of two materials has.
+/// Returns the keys that at least one of two materials has.
 std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
 
-/// The form of a property's value: that of its quantity, a number when the catalogue does not know it.
+/// Returns the form of a property's value: that of its quantity, a number if the catalogue does not know it.
 vxMat::eValueKind kindOf(const vxMat::MaterialProperty& property);
 
 } // namespace vxmat

@@ -97,17 +97,18 @@ Answer queryFile(const std::string& path, const std::optional<std::string>& mate
     const Input input = readInput(path);
     if (input.project)
         throw Failure(path + ": not an analysis document but a project file");
-    if (vxCAE::readProjectKind(input.document) != vxCAE::ProjectKind::Analysis)
+    const Json::Value document = input.tree.root().toJsonValue();
+    if (vxCAE::readProjectKind(document) != vxCAE::ProjectKind::Analysis)
         throw Failure(path + ": not an analysis document: \"proj_type\" must be 1");
 
     Answer answer;
     vxCAE::CAESet set(projectId, vxCAE::ProjectKind::Analysis);
-    readInto(set, path, input.document);
+    readInto(set, path, document);
     if (materialsPath)
         supplyMaterials(set, *materialsPath, answer);
     else if (!set.domainConditions->domains.empty())
         answer.messages.push_back(path + ": note: analysis documents do not say what models their materials use; "
-                                         "with --materials FILE the answers take them into account");
+                                         "with --materials FILE they are taken into account");
     const Json::Value json = answers(set);
     answer.text = form == Form::Json ? toJsonText(json) : toText(json);
     return answer;

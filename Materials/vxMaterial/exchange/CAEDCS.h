@@ -1,8 +1,8 @@
 #pragma once
 
 #include "vxMaterial/exchange/CAEBase.h"
-#include "vxMaterial/exchange/CAEMaterials.h"
 #include "vxMaterial/exchange/ExchangeExport.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
 
 #include <array>
 #include <cstdint>
@@ -12,9 +12,9 @@
 
 namespace vxCAE {
 
-/// What holds for one body: its material, body force, topology and, for a shell, its section. A field bears the name
-/// of its JSON member. It owns its material entry, of whose material only the name is exchanged here: the materials
-/// travel in the materials section and are matched by `mat_id`.
+/// The conditions of one body: its material, body force, topology and, for a shell, its section. A field has the name of
+/// its JSON member. It owns its material entry, of whose material only the name is exchanged here: the materials travel
+/// in the materials section and are matched by `mat_id`.
 struct VXCAE_EXPORT DomainEntry
 {
     DomainEntry();
@@ -34,7 +34,7 @@ struct VXCAE_EXPORT DomainEntry
     std::uint32_t n_inte_points = 0;
 };
 
-/// A contact between bodies. A field bears the name of its JSON member.
+/// A contact between bodies. A field has the name of its JSON member.
 struct VXCAE_EXPORT ContactEntry
 {
     explicit ContactEntry(std::uint32_t objectId);
@@ -43,7 +43,7 @@ struct VXCAE_EXPORT ContactEntry
     const std::string& getFormulation() const { return formulation; }
     bool getFiniteSliding() const { return finite_sliding; }
     void setFiniteSliding(bool finite) { finite_sliding = finite; }
-    /// The solver's word for the sliding: "FSLID" when it is finite, else "SSLID".
+    /// Returns the solver's word for the sliding: "FSLID" if it is finite, else "SSLID".
     const char* getSlidingText() const;
 
     std::uint32_t obj_id;
@@ -68,12 +68,12 @@ public:
     void writeJson(Json::Value& document) const override;
     void readJson(const Json::Value& document) override;
 
-    /// Stores `domain`, not null, under `objectId`, destroying an earlier one.
+    /// Stores `domain`, not null, under `objectId`, and destroys an earlier one.
     void addDomain(std::uint32_t objectId, std::unique_ptr<DomainEntry> domain);
-    /// Stores `contact`, not null, under `objectId`, destroying an earlier one.
+    /// Stores `contact`, not null, under `objectId`, and destroys an earlier one.
     void addContact(std::uint32_t objectId, std::unique_ptr<ContactEntry> contact);
 
-    /// The material entry of a domain, which keeps it; null when the domain is unknown.
+    /// Returns the material entry of a domain, which belongs to that; null if the domain is unknown.
     MaterialEntry* getDomainMaterial(std::uint32_t objectId) const;
     /// Whether a domain has a material of any nonlinear kind.
     bool hasNonlinearMaterial() const;

@@ -2,103 +2,18 @@
 
 #include "vxMaterial/exchange/CAEBase.h"
 #include "vxMaterial/exchange/ExchangeExport.h"
-#include "vxMaterial/model/Material.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
 
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <string>
 
 namespace vxCAE {
 
-/// The material model that a material uses: MaterialEntry::kind. The solver relies on the numbers.
-struct MaterialKind
-{
-    enum : std::int32_t
-    {
-        Linear = 0,
-        CreepOrViscous = 2, ///< counts as creep or viscous; classifyKind never sets it
-        ArrudaBoyce = 11,
-        Plastic = 12,
-        MooneyRivlin = 15,
-        NeoHooke = 16,
-        ViscoElastic = 20,
-        Creep = 22,
-    };
-};
-
-/// One material of the section, which it owns, with its model kind and its solver cards.
-///
-/// The cards are the solver's text form of nonlinear and thermal data. No writer fails: a model that does not
-/// apply gives the empty text, and a missing value one of the messages below in place of the data. Messages
-/// begin with "Invalid" and end with a line feed; whoever writes solver input decides what becomes of such a
-/// card. Numbers have six significant digits unless said otherwise.
-class VXCAE_EXPORT MaterialEntry
-{
-public:
-    /// A number of a material, and whether it has it; 0.0 when it has not.
-    struct FoundValue
-    {
-        double value = 0.0;
-        bool found = false;
-    };
-
-    MaterialEntry();
-
-    std::int32_t getId() const;
-    void setId(std::int32_t id);
-    const char* getName() const;
-    void setName(const char* name); ///< not null
-    std::string getPropertyText(std::int32_t propertyId) const;
-
-    /// Sets `kind` by the first model switch that the material has, in this order: plasticity, Mooney-Rivlin,
-    /// Arruda-Boyce, Neo-Hooke, visco-elasticity, creep. Answers false, with the linear kind, when it has none.
-    bool classifyKind();
-
-    FoundValue getDensity() const;
-    /// Whether the material has all of density, specific heat and thermal conductivity.
-    bool hasThermalData() const;
-
-    /// Young's modulus and Poisson's ratio with six decimals and without a line end,
-    /// " 200000000000.000000, 0.300000"; when one is missing "Invalid young_modulus or poisson_ratio.\n".
-    std::string getElasticLine() const;
-
-    /// `number` in fixed notation with six decimals, as the elasticity line has it.
-    static std::string formatReal(double number);
-
-    /// The plasticity card, for the plastic kind and the yield and hardening types that the solver knows:
-    /// - Mises, bilinear (also when no hardening is said): initial yield stress and hardening factor, or "Invalid
-    ///   dIniYStress and dHFactor\n";
-    /// - Mises, multilinear: a line of yield stress and plastic strain for each pair of the two lists. Yield stresses
-    ///   without a strain at their position are left out; no strain is made up for them;
-    /// - Drucker-Prager and Mohr-Coulomb, bilinear (also when no hardening is said): viscosity, friction angle and
-    ///   hardening factor, or "Invalid dViscosity, dFAI, and dHFactor.\n";
-    /// - Drucker-Prager and Mohr-Coulomb, multilinear: friction angle, then plastic strain and viscosity line by line
-    ///   under a header that says MISES, or "Invalid dFAI and dViscosity.\n". The solver expects this form.
-    ///
-    /// Words are compared without regard to case.
-    std::string getPlasticityCard() const;
-
-    /// The card of the visco-elastic kind: shear relaxation modulus and relaxation time, or "Invalid
-    /// dShearRelaxation or dRelaxationTime.\n".
-    std::string getViscoElasticCard() const;
-
-    /// The card of the creep kind: A, N and M of Norton's law, or "Invalid dModulusA, dModulusN, or dModulusM.\n".
-    std::string getCreepCard() const;
-
-    // Tables over temperature: the constant value at 0 and at 1e+06. Any kind of material has them.
-    std::string getDensityTable() const;             ///< a missing density is written as 0
-    std::string getSpecificHeatTable() const;        ///< "Invalid dSpecificHeat.\n" when missing
-    std::string getThermalConductivityTable() const; ///< "Invalid dThermalConduct.\n" when missing
-
-    std::int32_t kind = MaterialKind::Linear;
-    std::unique_ptr<vxMat::CMaterial> material; ///< never null unless its owner takes it
-};
-
 /// The materials of a project on their way to the solver, by material number.
 ///
-/// Documents carry of each property the number alone: words, lists, units, descriptions and categories stay
-/// behind. The number of materials is nowhere written; it is the length of the array.
+/// Documents carry only the number of each property, not words, lists, units, descriptions and categories. The number of
+/// materials is not written; it is the length of the array.
 class VXCAE_EXPORT CAEMaterials : public CAEBase
 {
 public:
@@ -108,15 +23,15 @@ public:
     ~CAEMaterials() override = default;
 
     const char* typeName() const override;
-    /// Appends to "material"; an empty section adds no member at all.
+    /// Appends to "material"; an empty section adds no member.
     void writeJson(Json::Value& document) const override;
-    /// Adds the materials of the document to those held, replacing those with the same number. Entries read
-    /// keep the linear kind until their owner calls classifyKind.
+    /// Adds the materials of the document to those that the section holds, and replaces those with the same number.
+    /// Entries that were read keep the linear kind until their owner calls classifyKind.
     void readJson(const Json::Value& document) override;
 
-    /// Stores `entry`, not null, under `number`, destroying an earlier one with its material.
+    /// Stores `entry`, not null, under `number`, and destroys an earlier one with its material.
     void addMaterial(std::uint32_t number, std::unique_ptr<MaterialEntry> entry);
-    /// The entry under `number`, which the section keeps; null when there is none.
+    /// Returns the entry under `number`, which belongs to the section; null if there is none.
     MaterialEntry* getMaterial(std::uint32_t number) const;
 
     std::map<std::uint32_t, std::unique_ptr<MaterialEntry>> entries; ///< by material number

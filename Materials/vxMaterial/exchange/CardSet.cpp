@@ -1,9 +1,12 @@
 #include "vxMaterial/exchange/CardSet.h"
 
+#include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/MaterialProperty.h"
+#include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace vxCAE {
@@ -27,7 +30,7 @@ void addCard(CardSet& set, const char* name, std::string text)
     set.cards.push_back({name, std::move(text)});
 }
 
-/// The names of the words and lists that the material should have, which a document leaves behind.
+/// Returns the names of the words and lists that the material should have and a document does not carry.
 std::string lostWordsAndLists(const vxMat::CMaterial& material)
 {
     std::string names;
@@ -40,13 +43,31 @@ std::string lostWordsAndLists(const vxMat::CMaterial& material)
     return names;
 }
 
-void doubtUnequalLists(CardSet& set, const vxMat::CMaterial& material)
+/// Doubts that the numbers of a list from the place `first` on are not in the plasticity card.
+void doubtLeftOut(CardSet& set, const vxMat::CMaterial& material, std::int32_t id, std::size_t first,
+                  const std::string& reason)
 {
+    const std::vector<double>& all = material.getPropertyValues(id);
+    if (first >= all.size())
+        return;
+    const std::vector<double> leftOut(all.begin() + static_cast<std::ptrdiff_t>(first), all.end());
+    set.doubts.push_back("the plasticity card leaves out numbers of " + quoted(vxMat::findPropertyRecord(id)->name) +
+                         ", " + reason + ": " + vxjson::shortened(vxMat::formatNumberList(leftOut)));
+}
+
+/// Doubts the numbers of a hardening curve that a multilinear card leaves out.
+void doubtCurve(CardSet& set, const vxMat::CMaterial& material)
+{
+    const std::string yield = material.getPropertyText(PropertyId::PlasticYieldType);
+    if (!vxMat::equalIgnoringAsciiCase(yield, "Mises")) {
+        doubtLeftOut(set, material, PropertyId::PlasticYieldStress, 0,
+                     "which the solver does not use with yield type " + quoted(yield));
+        return;
+    }
     const std::size_t stresses = material.getPropertyValues(PropertyId::PlasticYieldStress).size();
     const std::size_t strains = material.getPropertyValues(PropertyId::PlasticStrain).size();
-    if (stresses > strains)
-        set.doubts.push_back("the plasticity card leaves out " + std::to_string(stresses - strains) + " of " +
-                             std::to_string(stresses) + " yield stresses, which have no plastic strain");
+    doubtLeftOut(set, material, PropertyId::PlasticYieldStress, strains, "which have no plastic strain");
+    doubtLeftOut(set, material, PropertyId::PlasticStrain, stresses, "which have no yield stress");
 }
 
 void addPlasticityCard(CardSet& set, const MaterialEntry& entry, MaterialSource source)
@@ -62,13 +83,13 @@ void addPlasticityCard(CardSet& set, const MaterialEntry& entry, MaterialSource 
                              quoted(material.getPropertyText(PropertyId::PlasticYieldType)) + " with hardening type " +
                              quoted(material.getPropertyText(PropertyId::PlasticHardeningType)));
     } else if (card.find("HARDEN=MULTILINEAR") != std::string::npos) {
-        doubtUnequalLists(set, material);
+        doubtCurve(set, material);
     }
     if (!card.empty())
         addCard(set, "plasticity", std::move(card));
 }
 
-/// A material has one kind; the models that its order of precedence passes over get no card.
+/// Doubts the models of the material that get no card, since a material has only one kind.
 void doubtPassedOverModels(CardSet& set, const MaterialEntry& entry)
 {
     for (const auto& [id, kind] : {std::pair(PropertyId::ViscoElasticity, MaterialKind::ViscoElastic),

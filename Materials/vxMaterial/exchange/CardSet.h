@@ -1,18 +1,18 @@
 #pragma once
 
-#include "vxMaterial/exchange/CAEMaterials.h"
 #include "vxMaterial/exchange/ExchangeExport.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
 
 #include <string>
 #include <vector>
 
 namespace vxCAE {
 
-/// Where a material comes from, which decides what can be missing in its cards.
+/// Where a material comes from, on which it depends what can be missing in its cards.
 enum class MaterialSource
 {
-    Complete, ///< the library or a project: words and lists are all there
-    Document, ///< an exchange document, which carries numbers alone
+    Complete, ///< the library or a project: with words and lists
+    Document, ///< an exchange document, which carries only numbers
 };
 
 /// One card of a material.
@@ -23,16 +23,16 @@ struct SolverCard
     std::string text; ///< as the solver reads it
 };
 
-/// The cards of a material and what the user should know of them before trusting them.
+/// The cards of a material, and what the user should know before using them.
 struct CardSet
 {
     std::vector<SolverCard> cards;   ///< every card that applies to the material, none of them empty
-    std::vector<std::string> doubts; ///< cards that are missing, hold a message, or lack what did not travel
+    std::vector<std::string> doubts; ///< cards that are missing, are a message, or lack numbers
 };
 
-/// Writes every card that applies to the material of a classified entry: the elasticity line when the material has
-/// elastic data, the card of its kind, and a table for each of density, specific heat and thermal conductivity that
-/// it has.
+/// Returns every card that applies to the material of a classified entry: the elasticity line if the material has
+/// elastic data, the card of its kind, and a table for each of density, specific heat and thermal conductivity that it
+/// has.
 VXCAE_EXPORT CardSet makeCardSet(const MaterialEntry& entry, MaterialSource source);
 
 } // namespace vxCAE

@@ -25,7 +25,7 @@ using Numbers = std::set<std::uint32_t>;
 
 // --- Materials ---
 
-/// Notes that of a quantity only the number travels, which is not where its data is.
+/// Notes that the word or list of a quantity does not travel.
 void noteWhatStaysBehind(MemberCheck& check, const vxMat::PropertyRecord& quantity, const std::string& path)
 {
     const std::string name = "\"" + std::string(quantity.name) + "\"";
@@ -90,7 +90,7 @@ void checkMaterials(MemberCheck& check, const Json::Value& document)
 
 // --- Sections that are one object ---
 
-/// The object under `key`; null, and a finding, when there is none.
+/// Returns the object under `key`; null, with a finding, if there is none.
 const Json::Value* checkObject(MemberCheck& check, const Json::Value& document, const char* key)
 {
     const Json::Value& section = document[key];
@@ -104,7 +104,7 @@ const Json::Value* checkObject(MemberCheck& check, const Json::Value& document, 
     return nullptr;
 }
 
-/// A member that is written under one key and read under another: what was written is lost unless it is what is read.
+/// Checks a member that is written under one key and read under another. What was written is lost unless it is the same.
 template <class Row>
 void checkOneWayMember(MemberCheck& check, const Json::Value& section, const Row& row, const std::string& path)
 {
@@ -199,7 +199,7 @@ void checkListSection(MemberCheck& check, const Json::Value& document, const cha
     });
 }
 
-/// Whether readers keep a step.
+/// Checks a step, and returns whether readers keep it.
 bool checkStep(MemberCheck& check, const Json::Value& step, const std::string& path)
 {
     check.checkValue(step, "set_id", Conversion::Count, path);

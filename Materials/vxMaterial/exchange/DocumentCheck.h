@@ -5,34 +5,33 @@
 #include <json/value.h>
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace vxCAE {
 
-/// One thing to say about a document, and where: "$.material[2].Props[0].prop_value".
+/// A message about a place in a document, and the path of that: "$.material[2].Props[0].prop_value".
 struct Finding
 {
     std::string path;
     std::string message;
 };
 
-/// What a check found, in the order of the document's sections.
+/// The result of a check, in the order of the document's sections. The messages are English: they are for the command
+/// line, whose output other programs read, and no program with a translator shows them.
 struct CheckReport
 {
     std::vector<Finding> findings; ///< what is wrong: lost, misread or refused by a reader, or out of its range
-    std::vector<Finding> notes;    ///< what is as it should be but worth knowing: words and lists do not travel
+    std::vector<Finding> notes;    ///< what is right but worth knowing: words and lists do not travel
 };
 
-/// Checks an exchange document of either kind against what its readers make of it and against the rules for property
-/// values (vxMat::checkNumber, vxMat::CombinationCheck). Nothing is thrown whatever the values are.
+/// Checks whether readers take an exchange document of either kind as it says, and whether it keeps the rules for property
+/// values (vxMat::checkNumber, vxMat::CombinationCheck). Nothing is thrown, whatever the values are.
 ///
-/// `materials` is the material document that belongs to an analysis document, when it is at hand: domains may refer
-/// to its materials as well as to those in `document` itself.
+/// `materials` is the material document that belongs to an analysis document, or null: domains may refer to its materials
+/// as well as to those in `document` itself.
+///
+/// Members that are there more than once are not found: a document has only the last of them. The reader of its text
+/// names them (vxjson::JsonReading::repeatedMembers).
 VXCAE_EXPORT CheckReport checkDocument(const Json::Value& document, const Json::Value* materials = nullptr);
-
-/// The members that stand twice or more in one object of a readable JSON text, each with its path. Readers take the
-/// last and lose the others without a word, so a document does not show them any more.
-VXCAE_EXPORT std::vector<Finding> findRepeatedMembers(std::string_view text);
 
 } // namespace vxCAE

@@ -1,4 +1,4 @@
-#include "vxMaterial/exchange/CAEMaterials.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
 
@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-/// The solver cards of a material: the members of MaterialEntry that write solver input.
+/// The members of MaterialEntry that write solver input.
 namespace vxCAE {
 
 using vxMat::formatGeneral;
@@ -15,7 +15,7 @@ using vxMat::PropertyId;
 
 namespace {
 
-/// The numbers of a material under some ids, in their order; absent when one is missing.
+/// The numbers of a material under some ids, in their order; absent if one is missing.
 std::optional<std::vector<double>> findNumbers(const vxMat::CMaterial& material,
                                                std::initializer_list<std::int32_t> ids)
 {
@@ -45,8 +45,8 @@ std::string dataLine(const std::vector<double>& numbers)
     return " " + joined(numbers) + "\n";
 }
 
-/// A card of one data line, or of a message in its place. A message of a plasticity card keeps the blank that begins
-/// the data line; the others have none.
+/// A card of one data line, or of a message in its place. A message of a plasticity card begins with the blank of the data
+/// line; the others do not.
 std::string oneLineCard(const std::string& header, const std::optional<std::vector<double>>& numbers,
                         const char* message)
 {
@@ -95,8 +95,8 @@ std::string pressureDependentBilinear(const vxMat::CMaterial& material, const st
                        " Invalid dViscosity, dFAI, and dHFactor.\n");
 }
 
-/// In the format of this card the header names MISES too, the friction angle stands in front of the first line, and
-/// the yield stresses are not used.
+/// The header of this card names MISES too, the friction angle is in front of the first line, and the yield stresses are
+/// not used.
 std::string pressureDependentMultilinear(const vxMat::CMaterial& material)
 {
     std::string card = "!PLASTIC, YIELD=MISES, HARDEN=MULTILINEAR\n";

@@ -1,4 +1,5 @@
-#include "vxMaterial/exchange/CAEMaterials.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
+
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
 

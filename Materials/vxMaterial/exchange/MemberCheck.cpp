@@ -6,7 +6,7 @@ namespace vxCAE::detail {
 
 namespace {
 
-/// The kind of a value that is neither a number nor a truth value.
+/// Returns the kind of a value that is neither a number nor a truth value.
 const char* kindName(const Json::Value& value)
 {
     switch (value.type()) {

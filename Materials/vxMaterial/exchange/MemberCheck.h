@@ -10,23 +10,23 @@
 
 namespace vxCAE::detail {
 
-/// The numbers of the elements of a list so far, each with the path of the element that has it.
+/// The numbers of the elements of a list so far, each with the path of its element.
 using SeenNumbers = std::map<std::uint32_t, std::string>;
 
-/// A value as a message shows it: numbers and truth values themselves, of the others the kind.
+/// Returns a value as a message shows it: a number or truth value itself, the kind of all others.
 std::string shown(const Json::Value& value);
 
-/// "is a text; a number is needed" and the like.
+/// Returns a message such as "is a text; a number is needed".
 std::string wrongKind(const Json::Value& value, const char* needed);
 
-/// The path of an element of the array at `path`.
+/// Returns the path of an element of the array at `path`.
 std::string elementPath(const std::string& path, Json::ArrayIndex index);
 
-/// What a reader makes of a member that is not there.
+/// Returns the value as which readers take a member that is missing.
 const char* fallbackName(Conversion conversion);
 
-/// The checks of which a section's check is made: whether values are there, and of the kind that the reader takes
-/// without loss. Each notes what it finds in the report.
+/// The parts of the check of a section: whether values are there, and of the kind that the reader takes without loss.
+/// What they find is added to the report.
 class MemberCheck
 {
 public:
@@ -35,13 +35,13 @@ public:
     void find(const std::string& path, const std::string& message);
     void note(const std::string& path, const std::string& message);
 
-    /// Whether the member `key` of `parent` is there and fits.
+    /// Returns whether the member `key` of `parent` is there and fits.
     bool checkValue(const Json::Value& parent, const char* key, Conversion conversion, const std::string& parentPath);
 
-    /// Whether the member `key` of `parent` is an array, or missing, and all its elements fit.
+    /// Returns whether the member `key` of `parent` is an array, or missing, and all its elements fit.
     bool checkArray(const Json::Value& parent, const char* key, Conversion conversion, const std::string& parentPath);
 
-    /// Reports that an element has the number of an earlier one, which readers drop for it.
+    /// Reports an element that has the number of an earlier one, which readers drop.
     void checkRepetition(const Json::Value& json, const char* key, const std::string& path, SeenNumbers& seen);
 
     /// Checks each member of a list as its reader takes it.
@@ -51,7 +51,7 @@ public:
         forEachMember(members, [&](const auto& member) { checkValue(json, member.readKey, member.conversion, path); });
     }
 
-    /// Visits the objects of the array under `key`, which may be missing, each with its path. What is no object is
+    /// Visits the objects of the array under `key`, which may be missing, each with its path. Other elements are
     /// reported.
     template <class Visit>
     void checkList(const Json::Value& parent, const char* key, const std::string& parentPath, Visit visit)

@@ -7,8 +7,8 @@
 #include <tuple>
 #include <type_traits>
 
-/// Member lists: which field of an object travels under which key of its JSON object, and by which conversion. A list
-/// stands once, as a tuple of rows (SectionMembers.h); writers, readers and the check of documents walk it.
+/// Member lists: which field of an object travels under which key of its JSON object, and by which conversion. Each list
+/// exists once, as a tuple of rows (SectionMembers.h), which writers, readers and the check of documents walk.
 namespace vxCAE::detail {
 
 /// The conversion by which a reader takes a value.
@@ -36,7 +36,7 @@ constexpr Conversion naturalConversion()
         return Conversion::Text;
 }
 
-/// One row. A field is written as the JSON kind that its type says.
+/// One row. A field is written as the JSON kind of its type.
 template <class Object, class Field>
 struct Member
 {
@@ -46,7 +46,7 @@ struct Member
     const char* readKey;
 };
 
-/// A row whose field is read by the conversion that its type says.
+/// A row whose field is read by the conversion of its type.
 template <class Object, class Field>
 constexpr Member<Object, Field> member(const char* key, Field Object::*field)
 {
@@ -107,9 +107,9 @@ void readMembers(Object& object, const Members& members, const Json::Value& json
     });
 }
 
-/// Calls `visit` with each element of an array in the order of the indices, as null where an index is not taken. Goes
-/// by iterator, since looking every index up would cost n log n. What is no array has no elements.
-/// \throws Json::LogicError when `array` is an object that is not empty
+/// Calls `visit` with each element of an array in the order of the indices, with null for an index that is not used. It
+/// uses an iterator, since looking up every index costs n log n. A value that is not an array has no elements.
+/// \throws Json::LogicError if `array` is an object that is not empty
 template <class Visit>
 void forEachElement(const Json::Value& array, Visit visit)
 {
@@ -125,7 +125,7 @@ void forEachElement(const Json::Value& array, Visit visit)
     }
 }
 
-/// A list as a JSON array; null when it is empty, as an array is that nothing was ever appended to.
+/// Returns a list as a JSON array; null if it is empty, as an array to which nothing was appended.
 template <class List>
 Json::Value toArray(const List& list)
 {

@@ -9,47 +9,49 @@
 #include <string_view>
 #include <vector>
 
-/// The rules by which a row of the property table is accepted: functions of id and value alone, which the table, the
-/// command line and the tests share.
+/// The rules by which a row of the property table is accepted: functions of id and value, which the table, the command
+/// line and the tests share.
 ///
-/// Failures are answered as message texts. In a text about a row, "%1" stands for the number of the row, which the
-/// caller puts in. The texts are sources of translation and stay as they are, misspellings and blanks included.
+/// Failures are returned as message texts. In a text about a row, "%1" is replaced by the caller with the number of the
+/// row. The texts are sources of translation and stay as they are, misspellings and blanks included.
 namespace vxMat {
 
-/// Whether the word that a user typed is meant by an allowed word. The default compares without regard to the case of
-/// a to z; a user interface passes one that translates the allowed word first.
+class MaterialBase;
+
+/// Whether the word that a user typed means an allowed word. The default compares without regard to the case of a to z;
+/// a user interface passes a function that translates the allowed word first.
 using WordMatch = std::function<bool(std::string_view allowedWord, std::string_view typed)>;
 
-/// What is wrong with a number of the quantity `id`; null when nothing is or no rule knows the quantity.
+/// Returns what is wrong with a number of the quantity `id`; null if nothing is, or if there is no rule for it.
 VXMAT_MODEL_EXPORT const char* checkNumber(std::int32_t id, double number);
 
-/// What is wrong with the word of the quantity `id`; null when nothing is or the quantity takes no word.
+/// Returns what is wrong with the word of the quantity `id`; null if nothing is, or if the quantity takes no word.
 VXMAT_MODEL_EXPORT const char* checkWord(std::int32_t id, std::string_view word, const WordMatch& matches = {});
 
-/// What is wrong with a row of the quantity `id` whose value reads `valueText`; null when nothing is. A text that
+/// Returns what is wrong with a row of the quantity `id` with the value `valueText`; null if nothing is. A text that
 /// readWholeNumber does not take counts as 0.
 VXMAT_MODEL_EXPORT const char* checkRow(std::int32_t id, std::string_view valueText, const WordMatch& matches = {});
 
-/// A row of the property table, as far as the rules look at it.
+/// The part of a row of the property table that the rules need.
 struct PropertyRow
 {
     std::int32_t id;
     std::string_view valueText;
 };
 
-/// What is wrong with a table: a message, and the row that its "%1" stands for.
+/// What is wrong with a table: a message, and the row for its "%1".
 struct RuleFailure
 {
     const char* message;
-    std::size_t row; ///< counted from 1; 0 when the message is about the combination of the rows
+    std::size_t row; ///< from 1; 0 if the message is about the combination of the rows
 };
 
-/// The first thing wrong with a table: the first row that breaks its rule, or, when none does, the combination of the
-/// rows. Absent when nothing is wrong, as with a table without rows.
+/// Returns the first fault of a table: the first row that breaks its rule, or, if none does, the combination of the
+/// rows. Absent if nothing is wrong, as with a table without rows.
 VXMAT_MODEL_EXPORT std::optional<RuleFailure> checkRows(const std::vector<PropertyRow>& rows,
                                                         const WordMatch& matches = {});
 
-/// The text of a failure without "Row %1: " in front, for what has no rows.
+/// Returns the text of a failure without "Row %1: " in front, for callers that have no rows.
 VXMAT_MODEL_EXPORT std::string_view withoutRowNumber(std::string_view message);
 
 /// Which of the quantities that depend on each other a material has, for the check after its rows.
@@ -59,8 +61,8 @@ public:
     /// Notes that the material has the quantity `id`.
     void note(std::int32_t id);
 
-    /// What is wrong with the combination of the quantities noted; null when nothing is. Elasticity needs Young's
-    /// modulus and Poisson's ratio and excludes the hyperelastic models; nothing else is asked for.
+    /// Returns what is wrong with the combination of the quantities noted; null if nothing is. Elasticity needs Young's
+    /// modulus and Poisson's ratio and excludes the hyperelastic models; there are no other rules.
     const char* result() const;
 
 private:
@@ -69,5 +71,15 @@ private:
     bool m_poissonsRatio = false;
     bool m_hyperelastic = false;
 };
+
+/// The lengths of the two lists of a hardening curve, of which each yield stress belongs to one plastic strain.
+struct CurveLengths
+{
+    std::size_t yieldStresses;
+    std::size_t plasticStrains;
+};
+
+/// Returns the lengths if the material holds both lists and they differ; absent otherwise.
+VXMAT_MODEL_EXPORT std::optional<CurveLengths> findUnequalCurve(const MaterialBase& material);
 
 } // namespace vxMat

@@ -2,7 +2,7 @@
 
 #include "vxCAE/CaeManager.h"
 #include "vxMaterial/exchange/CAESet.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/project/MaterialObject.h"
 
 #include <algorithm>
@@ -118,7 +118,7 @@ bool DocumentMaterial::exportToFile(const std::string& path, char, char, char)
     std::ofstream file(path);
     Json::Value document;
     set->writeJson(document);
-    file << vxCAE::toStyledText(document);
+    file << vxjson::toStyledText(document);
     return true;
 }
 

@@ -12,15 +12,16 @@
 #include <string>
 #include <utility>
 
-/// Opening and saving a project against what plain jsoncpp takes for the same text alone: to parse it into a tree of
-/// values, without looking at any, and to write that tree. The sides hold different things, a project with its
-/// materials or a tree, so that memory is for information.
+/// Opening and saving a project against what plain jsoncpp takes for the text alone: to parse it into a tree of values,
+/// without looking at any, and to write that tree. The sides hold different things, a project with its materials or a
+/// tree, so that memory is for information.
 namespace {
 
 using projectfile::ProjectRecord;
+using vxbench::lazily;
 using vxbench::timed;
 
-constexpr double limit = 1.25;
+constexpr double limit = 0.6;
 
 /// A project of the library's materials, over and over.
 ProjectRecord makeProject(std::uint32_t count)
@@ -43,6 +44,7 @@ ProjectRecord makeProject(std::uint32_t count)
         object.internalName = "Material" + std::to_string(number);
         object.label = material->name;
         object.material = material.get();
+        object.ownMaterial = std::move(material);
         Json::Value inDatabase;
         inDatabase["obj_id"] = Json::Value::UInt(number);
         inDatabase["class"] = object.className;
@@ -50,7 +52,6 @@ ProjectRecord makeProject(std::uint32_t count)
         inDatabase["label"] = object.label;
         project.database["objects"]["object"].append(std::move(inDatabase));
         project.objects.push_back(std::move(object));
-        project.materials.push_back(std::move(material));
     }
     project.nextObjectId = std::uint64_t{count} + 1U;
     return project;
@@ -64,30 +65,18 @@ Json::Value parse(const std::string& text)
     return document;
 }
 
-/// Something that is made when it is first needed, so that a process that measures memory makes only what it needs.
-template <class Make>
-auto lazily(Make make)
-{
-    using Made = std::decay_t<decltype(make())>;
-    return [make, made = std::make_shared<std::unique_ptr<Made>>()]() -> const Made& {
-        if (!*made)
-            *made = std::make_unique<Made>(make());
-        return **made;
-    };
-}
-
 void addContests(std::uint32_t count)
 {
     const std::string of = " " + std::to_string(count) + " materials";
     const auto text = lazily([count] { return projectfile::writeProject(makeProject(count)); });
     const auto project = lazily([count] { return makeProject(count); });
     const auto document = lazily([text] { return parse(text()); });
-    // Prepared before the clock starts, by asking for it once.
+    // The first call prepares it before the clock starts.
     const auto open = [=] {
         text();
         return timed([&] { return projectfile::readProject(text()); });
     };
-    // Whoever opens a project lets go of the tree.
+    // The tree is destroyed within the time, as it is when a project is opened.
     const auto parsing = [=] {
         text();
         return timed([&] { return parse(text()).size(); });
@@ -103,8 +92,8 @@ void addContests(std::uint32_t count)
     const auto both = [=] { return open() + save(); };
     const auto bothPlainly = [=] { return parsing() + writing(); };
     vxbench::addContest({"open and save" + of, both, bothPlainly, limit, false});
-    // The price of what opening alone does beyond parsing: every value checked, and every material made.
-    vxbench::addContest({"open" + of, open, parsing, 0, false});
+    // Opening checks every value and makes every material besides.
+    vxbench::addContest({"open" + of, open, parsing, limit, false});
     vxbench::addContest({"save" + of, save, writing, limit, false});
 }
 

@@ -1,7 +1,7 @@
 #include "Contest.h"
 
 #include "Obj/Application.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"

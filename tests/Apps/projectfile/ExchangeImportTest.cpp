@@ -3,7 +3,7 @@
 #include "CaseName.h"
 
 #include "vxMaterial/exchange/CAESet.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 
 #include <QCoreApplication>
@@ -24,21 +24,14 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using vxMat::MaterialProperty;
 
-Json::Value parse(const std::string& text)
-{
-    auto reading = vxCAE::readJsonText(text);
-    EXPECT_FALSE(reading.error) << reading.error->message;
-    return std::move(reading.document);
-}
-
 /// A document with one material of one property.
-Json::Value documentOf(const std::string& property)
+std::string documentOf(const std::string& property)
 {
-    return parse(R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "M", "Props": [)" + property + "]}]}");
+    return R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "M", "Props": [)" + property + "]}]}";
 }
 
 /// The document that the program writes of a material.
-Json::Value exported(const vxMat::MaterialBase& material)
+std::string exported(const vxMat::MaterialBase& material)
 {
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
     auto entry = std::make_unique<vxCAE::MaterialEntry>();
@@ -46,7 +39,7 @@ Json::Value exported(const vxMat::MaterialBase& material)
     set.materials->addMaterial(3, std::move(entry));
     Json::Value document;
     set.writeJson(document);
-    return parse(vxCAE::toStyledText(document));
+    return vxjson::toStyledText(document);
 }
 
 std::vector<std::uint32_t> numbersOf(const ImportedMaterials& imported)
@@ -191,7 +184,7 @@ TEST(ExchangeImport, NamesEveryWordAndListOfTheLibraryThatDidNotTravel)
 
 TEST(ExchangeImport, OrdersMaterialsByNumber)
 {
-    const auto imported = importExchange(parse(R"({"proj_type": 2, "material": [
+    const auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 4294967295, "mat_name": "a"}, {"mat_id": 9, "mat_name": "b"}, {"mat_id": 1, "mat_name": "c"}]})"));
     EXPECT_THAT(numbersOf(imported), ElementsAre(1U, 9U, 4294967295U));
     EXPECT_THAT(labelsOf(imported), ElementsAre("c", "b", "a"));
@@ -200,7 +193,7 @@ TEST(ExchangeImport, OrdersMaterialsByNumber)
 
 TEST(ExchangeImport, GivesFreeNumbersWhereADocumentHasNoneThatAnObjectCanHave)
 {
-    const auto imported = importExchange(parse(R"({"proj_type": 2, "material": [
+    const auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 0, "mat_name": "zero"}, {"mat_name": "none"}, {"mat_id": 2, "mat_name": "two"},
         {"mat_id": -1, "mat_name": "below"}, {"mat_id": 4294967296, "mat_name": "beyond"},
         {"mat_id": 1.5, "mat_name": "fraction"}]})"));
@@ -216,7 +209,7 @@ TEST(ExchangeImport, GivesFreeNumbersWhereADocumentHasNoneThatAnObjectCanHave)
 
 TEST(ExchangeImport, KeepsAllMaterialsOfANumberAndLeavesItToTheOneThatReadersTake)
 {
-    const auto imported = importExchange(parse(R"({"proj_type": 2, "material": [
+    const auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 1, "mat_name": "first"}, {"mat_id": 1, "mat_name": "second"}, {"mat_id": 1, "mat_name": "third"}]})"));
     EXPECT_THAT(numbersOf(imported), ElementsAre(1U, 2U, 3U));
     EXPECT_THAT(labelsOf(imported), ElementsAre("third", "first", "second"));
@@ -233,13 +226,13 @@ TEST(ExchangeImport, TakesTheLastOfAPropertyThatRepeatsAndSaysSo)
                                                         "prop_value": 2})"));
     EXPECT_EQ(imported.materials[0].material->findProperty(4)->value, 2.0);
     EXPECT_THAT(imported.doubts,
-                ElementsAre(R"(material 7 "M": property 4 "Density": it stands twice in the document; )"
+                ElementsAre(R"(material 7 "M": property 4 "Density": it is there twice in the document; )"
                             "the last one was taken"));
 }
 
 TEST(ExchangeImport, SaysWhatADocumentLacks)
 {
-    const auto imported = importExchange(parse(R"({"proj_type": 2, "material": [{"mat_id": 2, "Props": [
+    const auto imported = importExchange((R"({"proj_type": 2, "material": [{"mat_id": 2, "Props": [
         {"prop_type": 5, "prop_value": null}, {"prop_name": "x", "prop_value": 3}]}]})"));
     EXPECT_THAT(labelsOf(imported), ElementsAre("Material"));
     EXPECT_EQ(imported.materials[0].material->findProperty(5)->value, 0.0);
@@ -249,12 +242,12 @@ TEST(ExchangeImport, SaysWhatADocumentLacks)
         ElementsAre(HasSubstr("the document has no name for it"),
                     HasSubstr("property 5 \"Young's modulus\": the document has no number for it, which is read"),
                     HasSubstr("property 0 \"x\": the catalogue does not know it")));
-    EXPECT_THAT(importExchange(parse(R"({"proj_type": 2})")).doubts, ElementsAre("the document holds no materials"));
+    EXPECT_THAT(importExchange((R"({"proj_type": 2})")).doubts, ElementsAre("the document holds no materials"));
 }
 
 TEST(ExchangeImport, MakesAProjectAsTheHostDescribesIt)
 {
-    auto imported = importExchange(parse(R"({"proj_type": 2, "material": [
+    auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 9, "mat_name": "Steel"}, {"mat_id": 4, "mat_name": "Steel"}]})"));
     const auto project = projectfile::makeProject("Parts", std::move(imported.materials));
     EXPECT_EQ(project.name, "Parts");
@@ -264,7 +257,7 @@ TEST(ExchangeImport, MakesAProjectAsTheHostDescribesIt)
     EXPECT_EQ(project.objects[0].label, "Steel");
     EXPECT_EQ(project.objects[0].className, "Mat::MaterialObject");
     EXPECT_NE(project.objects[0].internalName, project.objects[1].internalName);
-    EXPECT_EQ(project.objects[1].material, project.materials[1].get());
+    EXPECT_EQ(project.objects[1].material, project.objects[1].ownMaterial.get());
     EXPECT_EQ(project.database["proj_tag"], "Material");
     EXPECT_EQ(project.database["physics_type"], "Material");
     const Json::Value& object = project.database["objects"]["object"][1];
@@ -305,8 +298,8 @@ constexpr const char* doubtful = R"({"proj_type": 2, "material": [
 std::vector<std::string> saidOf(const char* document)
 {
     try {
-        return importExchange(parse(document)).doubts;
-    } catch (const projectfile::ImportError& error) {
+        return importExchange(document).doubts;
+    } catch (const projectfile::ContentError& error) {
         return {error.what()};
     }
 }
@@ -368,9 +361,9 @@ class WrongDocument : public testing::TestWithParam<Wrong>
 TEST_P(WrongDocument, IsRefused)
 {
     try {
-        importExchange(parse(GetParam().text));
+        importExchange(GetParam().text);
         ADD_FAILURE() << "nothing was said";
-    } catch (const projectfile::ImportError& error) {
+    } catch (const projectfile::ContentError& error) {
         EXPECT_THAT(error.what(), HasSubstr(GetParam().reason));
     }
 }
@@ -395,6 +388,41 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_key": {}}]}]})", "prop_key: is an object; a text"}),
     [](const auto& wrong) { return vxtest::caseName(wrong.index, wrong.param.text); });
 
+TEST(ExchangeImport, RefusesATextThatIsNotJsonWithItsPlace)
+{
+    try {
+        importExchange("{\"proj_type\": 2,\n  \"material\": [}");
+        ADD_FAILURE() << "nothing was said";
+    } catch (const projectfile::ContentError& error) {
+        EXPECT_STREQ(error.what(), "line 2, column 16: a value is needed here");
+        EXPECT_EQ(error.line(), 2);
+        EXPECT_EQ(error.column(), 16);
+        EXPECT_EQ(error.member(), "");
+    }
+}
+
+TEST(ExchangeImport, NamesTheMemberThatIsWrong)
+{
+    try {
+        importExchange(R"({"proj_type": 2, "material": [{}, {"mat_name": 7}]})");
+        ADD_FAILURE() << "nothing was said";
+    } catch (const projectfile::ContentError& error) {
+        EXPECT_EQ(error.member(), "$.material[1].mat_name");
+        EXPECT_EQ(error.line(), 0);
+    }
+}
+
+TEST(ExchangeImport, TakesTheLastOfAMemberThatIsThereTwiceAndDoubtsIt)
+{
+    const auto imported = importExchange(documentOf(
+        R"({"prop_type": 4, "prop_value": 7850, "prop_v\u0061lue": 7, "prop_key": "rho", "prop_name": "Density"} // a)"
+        "\n"));
+    ASSERT_THAT(imported.materials, SizeIs(1));
+    EXPECT_EQ(imported.materials[0].material->findProperty(4)->value, 7.0);
+    EXPECT_THAT(imported.doubts,
+                ElementsAre("$.material[0].Props[0].prop_value: is there more than once; the last one was taken"));
+}
+
 TEST(ExchangeImport, NumbersAnewWithoutDoubtsForACallerWhoGivesNumbersOfItsOwn)
 {
     Json::Value document;
@@ -406,7 +434,7 @@ TEST(ExchangeImport, NumbersAnewWithoutDoubtsForACallerWhoGivesNumbersOfItsOwn)
         material["Props"] = Json::Value(Json::arrayValue);
         document["material"].append(std::move(material));
     }
-    const auto imported = importExchange(document, projectfile::Numbering::Anew);
+    const auto imported = importExchange(vxjson::toStyledText(document), projectfile::Numbering::Anew);
     ASSERT_EQ(imported.materials.size(), 3U);
     EXPECT_EQ(imported.materials[0].objectId, 1U);
     EXPECT_EQ(imported.materials[2].objectId, 3U);

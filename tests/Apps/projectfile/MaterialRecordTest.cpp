@@ -65,7 +65,7 @@ TEST(MaterialRecord, CarriesAThousandMaterialsOfAllThatFieldsCanHold)
     }
 }
 
-TEST(MaterialRecord, HasWordsForNumbersThatJsonHasNot)
+TEST(MaterialRecord, SpellsNumbersThatJsonCannotExpress)
 {
     MaterialBase material;
     auto property = std::make_unique<MaterialProperty>();
@@ -80,7 +80,7 @@ TEST(MaterialRecord, HasWordsForNumbersThatJsonHasNot)
     EXPECT_EQ(record["id"], Json::Value(0));
 }
 
-TEST(MaterialRecord, ListsPropertiesInTheOrderOfTheirKeys)
+TEST(MaterialRecord, ListsPropertiesByTheNumbersUnderWhichTheyAreHeld)
 {
     MaterialBase material;
     for (const int key : {401, -3, 6, 5})
@@ -135,7 +135,7 @@ TEST_P(WrongRecord, IsRefusedAndLeavesTheMaterialAsItWas)
     try {
         projectfile::readMaterial(material, record);
         ADD_FAILURE() << "nothing was said";
-    } catch (const projectfile::RecordError& error) {
+    } catch (const projectfile::ContentError& error) {
         EXPECT_THAT(error.what(), HasSubstr(GetParam().reason));
     }
     EXPECT_EQ(material.id, 7);

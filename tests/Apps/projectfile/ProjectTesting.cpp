@@ -67,11 +67,14 @@ void expectSame(const MaterialBase& a, const MaterialBase& b)
     }
 }
 
-// As texts, since to the JSON library a whole number without a sign is another than the same with one.
+// Compared as texts, since jsoncpp tells a whole number without a sign from the same number with one.
 void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectRecord& b)
 {
+    EXPECT_EQ(a.className, b.className);
     EXPECT_EQ(a.name, b.name);
     EXPECT_EQ(a.nextObjectId, b.nextObjectId);
+    EXPECT_EQ(a.properties.toStyledString(), b.properties.toStyledString());
+    EXPECT_EQ(a.record.toStyledString(), b.record.toStyledString());
     EXPECT_EQ(a.database.toStyledString(), b.database.toStyledString());
     EXPECT_EQ(a.recoveredFile, b.recoveredFile);
     EXPECT_EQ(a.further.toStyledString(), b.further.toStyledString());
@@ -86,19 +89,26 @@ void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectR
         EXPECT_EQ(one.label, other.label);
         EXPECT_EQ(one.suppressed, other.suppressed);
         EXPECT_EQ(one.colour, other.colour);
-        EXPECT_EQ(one.further, other.further);
-        expectSame(*one.material, *other.material);
+        EXPECT_EQ(one.properties.toStyledString(), other.properties.toStyledString());
+        EXPECT_EQ(one.node.toStyledString(), other.node.toStyledString());
+        EXPECT_EQ(one.links, other.links);
+        EXPECT_EQ(one.content.toStyledString(), other.content.toStyledString());
+        EXPECT_EQ(one.further.toStyledString(), other.further.toStyledString());
+        ASSERT_EQ(one.material == nullptr, other.material == nullptr);
+        if (one.material != nullptr)
+            expectSame(*one.material, *other.material);
     }
 }
 
 projectfile::ObjectRecord& addMaterial(projectfile::ProjectRecord& project, std::unique_ptr<MaterialBase> material)
 {
-    projectfile::ObjectRecord object;
+    projectfile::ObjectRecord& object = project.objects.emplace_back();
     object.objectId = static_cast<std::uint32_t>(project.nextObjectId++);
     object.className = "Mat::MaterialObject";
     object.internalName = "Material" + std::to_string(object.objectId);
     object.label = material->name;
     object.material = material.get();
+    object.ownMaterial = std::move(material);
     Json::Value inDatabase;
     inDatabase["obj_id"] = Json::Value::UInt(object.objectId);
     inDatabase["class"] = object.className;
@@ -106,15 +116,25 @@ projectfile::ObjectRecord& addMaterial(projectfile::ProjectRecord& project, std:
     inDatabase["label"] = object.label;
     project.database["proj_tag"] = "Material";
     project.database["objects"]["object"].append(inDatabase);
-    project.materials.push_back(std::move(material));
-    return project.objects.emplace_back(std::move(object));
+    return object;
+}
+
+projectfile::ObjectRecord& addOther(projectfile::ProjectRecord& project, const std::string& className,
+                                    const std::string& label)
+{
+    projectfile::ObjectRecord& object = project.objects.emplace_back();
+    object.objectId = static_cast<std::uint32_t>(project.nextObjectId++);
+    object.className = className;
+    object.internalName = "Other" + std::to_string(object.objectId);
+    object.label = label;
+    return object;
 }
 
 projectfile::ProjectRecord makeLibraryProject()
 {
     vxMat::MatDBManager library;
     library.initMaterialLibrary();
-    // The library's own order is another in each standard library.
+    // The order in the library differs between standard libraries.
     std::map<std::int32_t, std::unique_ptr<MaterialBase>> sorted;
     for (auto& [type, material] : library.materials)
         sorted[type] = std::move(material);
@@ -137,6 +157,25 @@ projectfile::ProjectRecord makeSmallProject()
     return project;
 }
 
+projectfile::ProjectRecord makeMixedProject()
+{
+    projectfile::ProjectRecord project = makeSmallProject();
+    project.className = "Stub::Project";
+    project.properties["Temperature"] = 293.15;
+    project.record["runs"][0] = 7;
+    project.objects[0].properties["Batch"] = "B 12";
+    project.objects[0].node["Expanded"] = true;
+    projectfile::ObjectRecord& probe = addOther(project, "Stub::Probe", "Probe A");
+    probe.properties["Depth"] = 0.5;
+    probe.properties["Colour"][0] = 1;
+    probe.node["Expanded"] = false;
+    probe.content["samples"][0] = 1.5;
+    projectfile::ObjectRecord& group = addOther(project, "Obj::ProjectObjectGroup", "Group");
+    group.suppressed = true;
+    group.links = {3, 1};
+    return project;
+}
+
 std::unique_ptr<MaterialBase> Dice::makeMaterial()
 {
     auto material = std::make_unique<MaterialBase>();
@@ -153,7 +192,7 @@ projectfile::ProjectRecord Dice::makeProject(int materials)
     projectfile::ProjectRecord project;
     project.name = text();
     for (int i = 0; i < materials; ++i) {
-        project.nextObjectId += static_cast<std::uint64_t>(upTo(3)); // numbers of objects that have gone
+        project.nextObjectId += static_cast<std::uint64_t>(upTo(3)); // numbers of objects that were deleted
         auto& object = addMaterial(project, makeMaterial());
         object.suppressed = upTo(1) == 1;
         const auto part = [this] { return std::uniform_real_distribution<float>(0.0F, 1.0F)(m_engine); };
@@ -161,6 +200,71 @@ projectfile::ProjectRecord Dice::makeProject(int materials)
             object.colour = {{part(), part(), part(), part()}};
     }
     return project;
+}
+
+projectfile::ProjectRecord Dice::makeMixedProject(int objects)
+{
+    projectfile::ProjectRecord project = makeProject(0);
+    if (upTo(1) == 1)
+        project.className = "Stub::Project";
+    project.properties = members();
+    project.record = anything(3);
+    for (int i = 0; i < objects; ++i) {
+        const bool isMaterial = upTo(1) == 1;
+        auto& object = isMaterial ? addMaterial(project, makeMaterial()) : addOther(project, "Stub::Object", text());
+        object.suppressed = upTo(1) == 1;
+        object.properties = members();
+        object.node = members();
+        if (!isMaterial)
+            object.content = anything(4);
+        if (upTo(3) == 0)
+            object.further["object"]["later"] = anything(2);
+        for (std::uint32_t other = 1; other < object.objectId; ++other) {
+            if (upTo(3) == 0)
+                object.links.push_back(other);
+        }
+    }
+    if (upTo(1) == 1)
+        project.further["later"] = anything(2);
+    return project;
+}
+
+Json::Value Dice::members()
+{
+    Json::Value made;
+    for (int i = upTo(3); i > 0; --i)
+        made[text()] = anything(2);
+    return made;
+}
+
+Json::Value Dice::anything(int depth) // NOLINT(misc-no-recursion): no deeper than `depth`
+{
+    switch (upTo(depth > 0 ? 6 : 4)) {
+    case 0:
+        return {};
+    case 1:
+        return upTo(1) == 1;
+    case 2:
+        return whole();
+    case 3: {
+        const double made = number();
+        return std::isfinite(made) ? Json::Value(made) : Json::Value("none");
+    }
+    case 4:
+        return text();
+    case 5: {
+        Json::Value array(Json::arrayValue);
+        for (int i = upTo(3); i > 0; --i)
+            array.append(anything(depth - 1));
+        return array;
+    }
+    default: {
+        Json::Value object(Json::objectValue);
+        for (int i = upTo(3); i > 0; --i)
+            object[text()] = anything(depth - 1);
+        return object;
+    }
+    }
 }
 
 int Dice::upTo(int most)
@@ -197,7 +301,7 @@ double Dice::number()
         return special[upTo(14)];
     if (kind == 1)
         return std::ldexp(std::uniform_real_distribution<double>(-1.0, 1.0)(m_engine), upTo(600) - 300);
-    // Any pattern of bits: mostly far from 1, some subnormal, some no number.
+    // Any pattern of bits: mostly far from 1, some subnormal, some not a number.
     const std::uint64_t bits = std::uniform_int_distribution<std::uint64_t>()(m_engine);
     double number = 0.0;
     static_assert(sizeof number == sizeof bits);
@@ -222,11 +326,11 @@ std::string Dice::text()
                                          "\\u00e4",
                                          "\xC2\x80",          // U+0080, a control character too
                                          "\xC3\xA4",          // a with two dots
-                                         "\xE2\x80\xA8",      // U+2028, the end of a line to some
+                                         "\xE2\x80\xA8",      // U+2028, the end of a line in some languages
                                          "\xE2\x82\xAC",      // the sign of the euro
                                          "\xE9\x92\xA2",      // steel in Chinese
                                          "\xEF\xBB\xBF",      // the byte order mark
-                                         "\xEF\xBF\xBF",      // U+FFFF, no character but Unicode
+                                         "\xEF\xBF\xBF",      // U+FFFF, which is not a character
                                          "\xF0\x9F\x94\xA9",  // nut and bolt
                                          "\xF4\x8F\xBF\xBF"}; // the last of Unicode
     constexpr int last = static_cast<int>(std::size(pieces)) - 1;

@@ -19,20 +19,32 @@ void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectR
 projectfile::ObjectRecord& addMaterial(projectfile::ProjectRecord& project,
                                        std::unique_ptr<vxMat::MaterialBase> material);
 
+/// Adds an object of another class with the next number to a project.
+projectfile::ObjectRecord& addOther(projectfile::ProjectRecord& project, const std::string& className,
+                                    const std::string& label);
+
 /// A project with one material of each of the library's 26.
 projectfile::ProjectRecord makeLibraryProject();
 
 /// A project that fits on a page: two materials with a property or two.
 projectfile::ProjectRecord makeSmallProject();
 
-/// Materials, and projects, with whatever a field can hold; the same in each run.
+/// A project that fits on a page, of another class than a material project, with two materials and two objects of other classes: a probe,
+/// which has properties and content, and a group of the probe and a material.
+projectfile::ProjectRecord makeMixedProject();
+
+/// Materials, and projects, with all that a field can hold; the same in each run.
 class Dice
 {
 public:
     std::unique_ptr<vxMat::MaterialBase> makeMaterial();
     projectfile::ProjectRecord makeProject(int materials);
+    /// A project of any class, with materials and objects of other classes.
+    projectfile::ProjectRecord makeMixedProject(int objects);
 
 private:
+    Json::Value members();
+    Json::Value anything(int depth);
     int upTo(int most);
     std::int32_t whole();
     double number();

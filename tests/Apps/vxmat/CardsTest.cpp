@@ -1,7 +1,7 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -57,7 +57,7 @@ TEST(Cards, ComeAsJsonWithTheirDoubts)
 {
     const Outcome run = vxmat({"cards", "Plastic Example 2", "--json"});
     EXPECT_EQ(run.status, 0);
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     const Json::Value& material = reading.document["materials"][0];
     EXPECT_TRUE(material["source"].isNull());

@@ -1,7 +1,7 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <QDir>
 #include <gmock/gmock.h>
@@ -15,40 +15,52 @@ using vxtest::dataPath;
 using vxtest::Outcome;
 using vxtest::vxmat;
 
-std::vector<std::string> corpus()
+std::vector<std::string> corpus(const std::string& folder)
 {
-    std::vector<std::string> names;
-    const QDir folder(QString::fromStdString(dataPath("documents")));
-    for (const QString& name : folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name))
-        names.push_back(name.toStdString());
-    return names;
+    std::vector<std::string> files;
+    const QDir documents(QString::fromStdString(dataPath(folder)));
+    const QStringList kinds{QStringLiteral("*.json"), QStringLiteral("*.vxmat")};
+    for (const QString& name : documents.entryList(kinds, QDir::Files, QDir::Name))
+        files.push_back(std::string(folder).append("/").append(name.toStdString()));
+    return files;
 }
 
-/// The documents of tests/data/documents. Beside each stands what checking it must print: the exit status, then
-/// standard output and standard error, the name of the file in place of its path.
+std::string stemOf(const std::string& file)
+{
+    return file.substr(0, file.rfind('.'));
+}
+
+/// The files of tests/data/documents and tests/data/projects. Beside each is a file with what checking it must print:
+/// the exit status, then standard output and standard error, the name of the file in place of its path.
 class Corpus : public testing::TestWithParam<std::string>
 {};
 
 TEST_P(Corpus, IsJudgedAsExpected)
 {
-    const std::string file = dataPath("documents/" + GetParam());
+    const std::string file = dataPath(GetParam());
+    const std::string name = GetParam().substr(GetParam().find('/') + 1);
     Outcome run = vxmat({"check", file});
     std::string said = std::to_string(run.status) + "\n" + run.out + run.err;
     for (std::size_t at = said.find(file); at != std::string::npos; at = said.find(file))
-        said.replace(at, file.size(), GetParam());
-    EXPECT_EQ(said, vxtest::readText(file.substr(0, file.size() - 5) + ".expected"));
+        said.replace(at, file.size(), name);
+    EXPECT_EQ(said, vxtest::readText(stemOf(file) + ".expected"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, Corpus, testing::ValuesIn(corpus()), [](const auto& document) {
-    std::string name = document.param.substr(0, document.param.size() - 5);
+std::string testName(const testing::TestParamInfo<std::string>& file)
+{
+    std::string name = stemOf(file.param).substr(file.param.find('/') + 1);
     std::replace_if(
         name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
     return name;
-});
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, Corpus, testing::ValuesIn(corpus("documents")), testName);
+INSTANTIATE_TEST_SUITE_P(Projects, Corpus, testing::ValuesIn(corpus("projects")), testName);
 
 TEST(CheckCorpus, IsThere)
 {
-    EXPECT_GE(corpus().size(), 15U);
+    EXPECT_GE(corpus("documents").size(), 15U);
+    EXPECT_GE(corpus("projects").size(), 15U);
 }
 
 TEST(Check, SaysNothingAboutASoundDocument)
@@ -67,7 +79,7 @@ TEST(Check, PrintsFindingsAndNotesAsJson)
                               {"mat_id": 2, "mat_name": "empty"}]})");
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err, "");
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     EXPECT_EQ(reading.document["file"], "-");
     ASSERT_EQ(reading.document["findings"].size(), 1U);

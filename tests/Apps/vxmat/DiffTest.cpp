@@ -2,7 +2,7 @@
 #include "VxmatTesting.h"
 
 #include "projectfile/ProjectFile.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -139,9 +139,9 @@ TEST(Diff, LeavesOutWhatADocumentCannotCarryAndSaysSoOnce)
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(run.err, "vxmat: note: " + document +
-                               " is an exchange document, which carries of a property its key, name and number alone: "
-                               "words, lists, units, descriptions and categories are not compared, nor colours and "
-                               "what is suppressed\n");
+                               " is an exchange document, which carries of a property only its key, name and number: "
+                               "words, lists, units, descriptions and categories are not compared, nor colours, "
+                               "what is suppressed and other objects\n");
     }
     const Outcome run = vxmat({"diff", changed(folder, project, "\"value\": 1.225", "\"value\": 1.2"), document});
     EXPECT_EQ(run.status, 1);
@@ -156,7 +156,7 @@ TEST(Diff, ComesAsJson)
     const Outcome run =
         vxmat({"diff", changed(folder, one, "\"value\": 1.225", "\"value\": \"Infinity\""), other, "--json"});
     EXPECT_EQ(run.status, 1);
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     EXPECT_EQ(reading.document["a"], folder.path("changed"));
     EXPECT_EQ(reading.document["b"], other);

@@ -1,7 +1,7 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ using vxtest::vxmat;
 std::map<unsigned, std::string> numbersAndNames(const std::string& text)
 {
     std::map<unsigned, std::string> materials;
-    const auto reading = vxCAE::readJsonText(text);
+    const auto reading = vxjson::readJsonText(text);
     EXPECT_FALSE(reading.error);
     EXPECT_EQ(reading.document["proj_type"], 2);
     for (const Json::Value& material : reading.document["material"])
@@ -52,7 +52,7 @@ TEST(Export, TakesNumbersAndPassesOverThoseTaken)
 TEST(Export, WritesWhatTheStyledWriterWrites)
 {
     const std::string text = vxmat({"export", "Air", "Acoustic Material 2=9", "-o", "-"}).out;
-    EXPECT_EQ(text, vxCAE::toStyledText(vxCAE::readJsonText(text).document));
+    EXPECT_EQ(text, vxjson::toStyledText(vxjson::readJsonText(text).document));
     EXPECT_EQ(text.substr(0, 49), "{\n   \"material\" : [\n      {\n         \"Props\" : [\n");
 }
 
@@ -201,7 +201,7 @@ TEST(Export, RefusesValuesThatNoReaderWouldTake)
     const Outcome infinite = vxmat({"export", "-", "-o", "-"}, projectOf(R"({"id": 4, "value": "Infinity"})"));
     EXPECT_EQ(infinite.status, 2);
     EXPECT_EQ(infinite.out, "");
-    EXPECT_EQ(infinite.err, "vxmat: -: M: property 4 \"\" is inf; exchange documents carry finite numbers alone\n");
+    EXPECT_EQ(infinite.err, "vxmat: -: M: property 4 \"\" is inf; exchange documents carry only finite numbers\n");
     const Outcome below = vxmat({"export", "-", "-o", "-"}, projectOf(R"({"held_as": -1, "name": "x", "value": 1})"));
     EXPECT_EQ(below.status, 2);
     EXPECT_THAT(below.err, HasSubstr("property -1 \"x\" has an id below 0"));

@@ -3,7 +3,7 @@
 
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectFile.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
@@ -116,6 +116,18 @@ TEST(CheckOfAProject, FindsCombinationsThatExcludeEachOther)
               "-: $.materials[0].material.properties: Elasticity and hyper-elasticy cannot be used togeter!\n");
 }
 
+TEST(CheckOfAProject, FindsYieldStressesAndPlasticStrainsOfUnequalNumber)
+{
+    std::vector<std::unique_ptr<vxMat::MaterialProperty>> properties;
+    properties.push_back(std::make_unique<vxMat::PlasticYieldStress>(std::vector<double>{450.0, 608.0, 679.0}));
+    properties.push_back(std::make_unique<vxMat::PlasticStrain>(std::vector<double>{0.0, 0.1}));
+    const Outcome run = check(projectOf(std::move(properties)));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out,
+              "-: $.materials[0].material.properties: has 3 yield stresses and 2 plastic strains; both must be "
+              "of equal number\n");
+}
+
 TEST(CheckOfAProject, JudgesAPropertyByWhatItIsHeldAsToo)
 {
     auto material = std::make_unique<vxMat::CMaterial>("M");
@@ -131,9 +143,9 @@ TEST(CheckOfAProject, JudgesAPropertyByWhatItIsHeldAsToo)
                                    "as 6 \"Poisson's ratio\""));
 }
 
-TEST(CheckOfAProject, NamesValuesByWhereTheyStandInTheFile)
+TEST(CheckOfAProject, NamesValuesByTheirPlacesInTheFile)
 {
-    // Neither the materials nor the properties stand in order here.
+    // Neither the materials nor the properties are in order here.
     const Outcome run = check(R"({"format": "vxMaterial project", "format_version": 1, "name": "p",
         "next_object_id": 9, "materials": [
         {"object_id": 8, "class": "Mat::MaterialObject", "name_internal": "b", "label": "b", "material": {"properties": [
@@ -169,7 +181,7 @@ TEST(CheckOfAProject, ComesAsJson)
 {
     const Outcome run = vxmat({"check", "-", "--json"}, projectOf(std::make_unique<vxMat::Density>(0.0)));
     EXPECT_EQ(run.status, 1);
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     EXPECT_EQ(reading.document["findings"][0]["path"], "$.materials[0].material.properties[0].value");
     EXPECT_TRUE(reading.document["notes"].empty());

@@ -1,7 +1,7 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ TEST(Query, TakesTheModelsOfTheMaterialsIntoAccount)
     const Outcome run = vxmat({"query", analysisFile(), "--materials", materials, "--json"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
-    const auto reading = vxCAE::readJsonText(run.out);
+    const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
     EXPECT_EQ(reading.document["analysis_label"], "NLSTATIC");
     EXPECT_EQ(reading.document["nonlinear"], true);

@@ -5,7 +5,7 @@
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/exchange/CAESet.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 
 #include <gmock/gmock.h>
@@ -84,7 +84,7 @@ std::string writeSet(const Folder& folder, const std::string& name, const vxCAE:
 {
     Json::Value document;
     set.writeJson(document);
-    return folder.file(name, vxCAE::toStyledText(document));
+    return folder.file(name, vxjson::toStyledText(document));
 }
 
 TEST(Schema, FitsTheAnalysesThatTheWriterMakes)
@@ -95,7 +95,7 @@ TEST(Schema, FitsTheAnalysesThatTheWriterMakes)
     {
         vxCAE::CAESet set(1, vxCAE::ProjectKind::Analysis);
         set.readJson(
-            vxCAE::readJsonText(vxtest::readText(dataPath("documents/" + std::string(name) + ".json"))).document);
+            vxjson::readJsonText(vxtest::readText(dataPath("documents/" + std::string(name) + ".json"))).document);
         files.push_back(writeSet(folder, std::string(name) + ".json", set));
     }
     vxCAE::CAESet set(1, vxCAE::ProjectKind::Analysis);
@@ -210,6 +210,53 @@ TEST(Schema, RefusesDocumentsThatAreWrong)
         EXPECT_THAT(faultsBySchema(documents, {folder.file("wrong", changed(sound, what, into))}),
                     HasSubstr("wrong: $"))
             << what << " into " << into;
+}
+
+/// A sound project of the corpus, "02-mixed".
+std::string projectFile(const std::string& name)
+{
+    return dataPath("projects/" + name + ".vxmat");
+}
+
+TEST(Schema, FitsProjectsWithObjectsOfOtherClasses)
+{
+    const Folder folder;
+    std::vector<std::string> files;
+    for (const char* const name :
+         {"01-materials", "02-mixed", "03-other-class", "04-any-order", "05-members-of-later-programs"})
+    {
+        const projectfile::ProjectRecord project = projectfile::readProject(vxtest::readText(projectFile(name)));
+        files.push_back(projectFile(name));
+        files.push_back(folder.file(name, projectfile::writeProject(project)));
+    }
+    EXPECT_EQ(faultsBySchema(projects, files), "");
+}
+
+TEST(Schema, RefusesObjectsOfOtherClassesThatAreWrong)
+{
+    const Folder folder;
+    const std::string sound = vxtest::readText(projectFile("02-mixed"));
+    const std::pair<std::string, std::string> changes[] = {
+        {"\"format_version\": 1,", "\"format_version\": 1, \"class\": \"\","},
+        {"\"format_version\": 1,", "\"format_version\": 1, \"properties\": [],"},
+        {"\"object_id\": 3", "\"object_id\": 0"},
+        {"\"class\": \"Stub::Probe\",", ""},
+        {"\"class\": \"Stub::Probe\"", R"("class": "Stub\u0000Probe")"},
+        {"\"name_internal\": \"Probe\"", "\"name_internal\": \"\""},
+        {"\"label\": \"Probe A\"", "\"label\": 7"},
+        {"\"properties\": {\n    \"Depth\": 0.5,", "\"properties\": [], \"more\": {"},
+        {"\"node\": {\n    \"Expanded\": false", "\"node\": null, \"more\": {\"a\": 1"},
+        {"    3,\n    1\n", "    3,\n    3\n"},
+        {"    3,\n    1\n", "    0\n"},
+        {"\"objects\": [\n  {\n   \"object_id\"", "\"objects\": [7,\n  {\n   \"object_id\""},
+    };
+    std::vector<std::string> files;
+    for (const auto& [what, into] : changes) {
+        files.push_back(folder.file("wrong" + std::to_string(files.size()), changed(sound, what, into)));
+    }
+    const std::string faults = faultsBySchema(projects, files);
+    for (const std::string& file : files)
+        EXPECT_THAT(faults, HasSubstr(file + ": $"));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "VxmatTesting.h"
 
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,7 +51,7 @@ Json::Value vxmatJson(const std::vector<std::string>& arguments)
     const Outcome result = vxmat(arguments);
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "");
-    auto reading = vxCAE::readJsonText(result.out);
+    auto reading = vxjson::readJsonText(result.out);
     EXPECT_FALSE(reading.error);
     return std::move(reading.document);
 }

@@ -32,7 +32,7 @@ public:
     std::string path(const std::string& name) const;
     /// Writes a file and returns its path.
     std::string file(const std::string& name, const std::string& text) const;
-    /// The names of all files in the folder, hidden files included.
+    /// Returns the names of all files in the folder, hidden ones included.
     std::vector<std::string> names() const;
 
 private:

@@ -10,7 +10,14 @@
 #include "vxMaterial/exchange/CAESystem.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/exchange/DocumentCheck.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/exchange/MaterialEntry.h"
+#include "vxMaterial/json/JsonError.h"
+#include "vxMaterial/json/JsonPath.h"
+#include "vxMaterial/json/JsonText.h"
+#include "vxMaterial/json/JsonTree.h"
+#include "vxMaterial/json/JsonWriter.h"
+#include "vxMaterial/json/NumberWords.h"
+#include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/Material.h"
 #include "vxMaterial/model/MaterialLibrary.h"
@@ -23,7 +30,8 @@
 #include <iostream>
 #include <memory>
 
-/// What a program outside does, with every header there is: take a material of the library, ask for a card, write a document.
+/// Does what a program outside the tree does, with every header that is installed: takes a material of the library,
+/// asks for a card, writes a document and reads its text.
 int main()
 {
     auto entry = std::make_unique<vxCAE::MaterialEntry>();
@@ -35,5 +43,6 @@ int main()
     set.materials->addMaterial(1, std::move(entry));
     Json::Value document;
     set.writeJson(document);
-    std::cout << ' ' << document["material"].size() << '\n';
+    const auto reading = vxjson::readJsonText(vxjson::toStyledText(document), vxjson::JsonDialect::Strict);
+    std::cout << ' ' << reading.document["material"].size() << '\n';
 }

@@ -17,6 +17,7 @@
 /// needs them; "bare walk" is a reader that looks at every value and keeps none.
 namespace {
 
+using vxbench::lazily;
 using vxbench::timed;
 using vxCAE::CAEBCS;
 using vxCAE::CAEMaterials;
@@ -215,18 +216,6 @@ Conditions readConditionsByHand(const Json::Value& document)
 }
 
 // --- The contests ---
-
-/// Something that is made when it is first needed, so that a process that measures memory makes only what it needs.
-template <class Make>
-auto lazily(Make make)
-{
-    using Made = std::decay_t<decltype(make())>;
-    return [make, made = std::make_shared<std::unique_ptr<Made>>()]() -> const Made& {
-        if (!*made)
-            *made = std::make_unique<Made>(make());
-        return **made;
-    };
-}
 
 void addMaterialContests(std::uint32_t count)
 {

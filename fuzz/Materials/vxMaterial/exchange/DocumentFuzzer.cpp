@@ -1,10 +1,12 @@
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/exchange/DocumentCheck.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
+#include "vxMaterial/json/JsonWriter.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string_view>
 
 /// Any bytes are a document or an error. Any document is read or refused by an exception of the JSON library, is
@@ -12,10 +14,14 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    vxCAE::findRepeatedMembers(text);
-    const vxCAE::JsonReading reading = vxCAE::readJsonText(text);
+    const vxjson::JsonReading reading = vxjson::readJsonText(text);
     if (reading.error)
         return 0;
+    // What can be read can be written, and is read back as the same.
+    vxjson::JsonWriter writer;
+    writer.any(reading.document);
+    if (writer.fault() || vxjson::readJsonText(writer.take()).document != reading.document)
+        std::abort();
     vxCAE::checkDocument(reading.document);
 
     for (const std::uint32_t kind : {vxCAE::ProjectKind::Analysis, vxCAE::ProjectKind::Material}) {

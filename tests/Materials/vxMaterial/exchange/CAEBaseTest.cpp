@@ -105,14 +105,14 @@ TEST(Section, SetsEachSingleValueToZeroOrEmptyFromADocumentWithoutItsMember)
             "output_time_log": false, "output_freq": 0, "monitor_trans": false}})");
     for (const auto& section : allSections()) {
         section->readJson(fullDocument());
-        const std::string before = vxCAE::toStyledText(vxtest::written(*section));
+        const std::string before = vxjson::toStyledText(vxtest::written(*section));
         section->readJson(json("{}"));
         const Json::Value after = vxtest::written(*section);
         const std::string member = after.getMemberNames().front();
         if (zeros.isMember(member)) {
-            EXPECT_EQ(vxCAE::toStyledText(after[member]), vxCAE::toStyledText(zeros[member])) << section->typeName();
+            EXPECT_EQ(vxjson::toStyledText(after[member]), vxjson::toStyledText(zeros[member])) << section->typeName();
         } else {
-            EXPECT_EQ(vxCAE::toStyledText(after), before) << "lists keep what they hold: " << section->typeName();
+            EXPECT_EQ(vxjson::toStyledText(after), before) << "lists keep what they hold: " << section->typeName();
         }
     }
 }

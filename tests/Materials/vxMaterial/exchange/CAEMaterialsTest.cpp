@@ -76,7 +76,7 @@ TEST(CAEMaterials, WritesAMaterialToTheLetter)
     Json::Value document;
     document["proj_type"] = 2;
     section.writeJson(document);
-    EXPECT_EQ(vxCAE::toStyledText(document), R"({
+    EXPECT_EQ(vxjson::toStyledText(document), R"({
    "material" : [
       {
          "Props" : [
@@ -316,7 +316,7 @@ TEST(CAEMaterials, CarriesAllMaterialsOfTheLibraryNumberByNumber)
         section.addMaterial(++number, std::move(entry));
     }
     CAEMaterials read;
-    read.readJson(json(vxCAE::toStyledText(written(section))));
+    read.readJson(json(vxjson::toStyledText(written(section))));
     ASSERT_THAT(read.entries, SizeIs(26));
     for (const auto& [id, entry] : section.entries) {
         const MaterialEntry& copy = *read.getMaterial(id);

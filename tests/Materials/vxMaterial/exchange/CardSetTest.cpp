@@ -83,7 +83,31 @@ TEST(CardSet, DoubtsACurveWithMoreStressesThanStrains)
     entry->material->setProperty(38, std::make_unique<vxMat::PlasticYieldStress>(std::vector{1.0, 2.0, 3.0}));
     entry->material->setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0}));
     EXPECT_THAT(cardsOf(entry).doubts,
-                ElementsAre("the plasticity card leaves out 2 of 3 yield stresses, which have no plastic strain"));
+                ElementsAre("the plasticity card leaves out numbers of \"Yield stress\", which have no plastic strain: "
+                            "2, 3"));
+}
+
+TEST(CardSet, DoubtsACurveWithMoreStrainsThanStresses)
+{
+    auto entry = makeEntry({{32, 1.0}, {33, 0.0}});
+    entry->material->setProperty(37, std::make_unique<vxMat::PlasticHardeningType>("Multilinear"));
+    entry->material->setProperty(38, std::make_unique<vxMat::PlasticYieldStress>(std::vector{1.0}));
+    entry->material->setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0, 0.25}));
+    EXPECT_THAT(cardsOf(entry).doubts,
+                ElementsAre("the plasticity card leaves out numbers of \"Plastic strain\", which have no yield stress: "
+                            "0.25"));
+}
+
+TEST(CardSet, DoubtsYieldStressesThatACardHasNoPlaceFor)
+{
+    auto entry = makeEntry({{32, 1.0}, {34, 2.0}, {35, 30.0}});
+    entry->material->setProperty(33, std::make_unique<vxMat::PlasticYieldType>("Drucker-Prager"));
+    entry->material->setProperty(37, std::make_unique<vxMat::PlasticHardeningType>("Multilinear"));
+    entry->material->setProperty(38, std::make_unique<vxMat::PlasticYieldStress>(std::vector{450.0, 608.0}));
+    entry->material->setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0, 0.1}));
+    EXPECT_THAT(cardsOf(entry).doubts,
+                ElementsAre("the plasticity card leaves out numbers of \"Yield stress\", which the solver does not use "
+                            "with yield type \"Drucker-Prager\": 450, 608"));
 }
 
 TEST(CardSet, DoubtsTheModelsThatAnotherTakesPrecedenceOver)

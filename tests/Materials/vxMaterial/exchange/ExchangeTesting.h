@@ -1,7 +1,7 @@
 #pragma once
 
 #include "vxMaterial/exchange/CAEMaterials.h"
-#include "vxMaterial/exchange/JsonText.h"
+#include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ namespace vxtest {
 /// The document that a JSON text describes; the test fails when it is none.
 inline Json::Value json(const std::string& text)
 {
-    auto reading = vxCAE::readJsonText(text);
+    auto reading = vxjson::readJsonText(text);
     EXPECT_FALSE(reading.error) << text;
     return std::move(reading.document);
 }

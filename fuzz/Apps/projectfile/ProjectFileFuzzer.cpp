@@ -1,0 +1,36 @@
+#include "projectfile/ExchangeImport.h"
+#include "projectfile/MaterialRecord.h"
+#include "projectfile/ProjectFile.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+/// Any bytes are a project or are refused with a ContentError, and so are they as a document to be imported. What was
+/// read can be written, and is written the same after it was read again.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    try {
+        projectfile::importExchange(text);
+    } catch (const projectfile::ContentError&) {
+    }
+    projectfile::ProjectRecord project;
+    try {
+        project = projectfile::readProject(text);
+    } catch (const projectfile::ContentError&) {
+        return 0;
+    }
+    const std::string written = projectfile::writeProject(project);
+    if (projectfile::writeProject(projectfile::readProject(written)) != written)
+        std::abort();
+    for (const projectfile::ObjectRecord& object : project.objects) {
+        if (object.material == nullptr)
+            continue;
+        vxMat::MaterialBase copy;
+        projectfile::readMaterial(copy, projectfile::writeMaterial(*object.material));
+    }
+    return 0;
+}

@@ -30,22 +30,7 @@ QString reasonNotToLoad(const QString& path, const QString& className)
 
 } // namespace
 
-TypeInfo DataPersistence::classTypeId;
-
-TypeInfo DataPersistence::getClassTypeId()
-{
-    return classTypeId;
-}
-
-TypeInfo DataPersistence::getTypeId() const
-{
-    return classTypeId;
-}
-
-void DataPersistence::init()
-{
-    initSubclass(classTypeId, "Kelta::DataPersistence", "Kelta::RootClass", nullptr);
-}
+KELTA_REGISTER_ABSTRACT_CLASS(Kelta::DataPersistence, Kelta::RootClass)
 
 std::size_t DataPersistence::get_memory_usage() const
 {

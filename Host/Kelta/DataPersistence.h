@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Kelta/ClassRegistration.h"
 #include "Kelta/KeltaExport.h"
-#include "Kelta/RootClass.h"
 
 #include <cstddef>
 
@@ -15,11 +15,9 @@ class XMLFileReader;
 /// What can be written into the host's XML files and read back.
 class KELTA_EXPORT DataPersistence : public RootClass
 {
-public:
-    static TypeInfo getClassTypeId();
-    TypeInfo getTypeId() const override;
-    static void init();
+    KELTA_ABSTRACT_CLASS;
 
+public:
     /// The bytes that the object itself takes, an estimate for the user.
     virtual std::size_t get_memory_usage() const;
     /// Writes the object inside the element that the caller has begun; nothing here.
@@ -32,9 +30,6 @@ public:
     /// Reads what save_to_file wrote of an object of the same class. False, with the reason in the message log, when it
     /// cannot be read: a file that is cut off or of something else changes nothing.
     virtual bool load_from_file(const QString& path);
-
-private:
-    static TypeInfo classTypeId;
 };
 
 } // namespace Kelta

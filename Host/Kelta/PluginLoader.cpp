@@ -1,5 +1,6 @@
 #include "Kelta/PluginLoader.h"
 
+#include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 
 #include <QCoreApplication>
@@ -7,7 +8,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 namespace Kelta {
@@ -28,11 +28,8 @@ QString whatItThrows(Entry entry)
     try {
         entry();
         return {};
-    } catch (const std::exception& exception) {
-        const QString text = QString::fromUtf8(exception.what());
-        return text.isEmpty() ? QStringLiteral("an exception without a text") : text;
     } catch (...) {
-        return QStringLiteral("an exception of an unknown kind");
+        return currentExceptionText();
     }
 }
 

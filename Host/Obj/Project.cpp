@@ -2,10 +2,12 @@
 
 #include "NameIndex.h"
 
+#include "Kelta/Exceptions.h"
 #include "Kelta/FileWriter.h"
 #include "Kelta/MessageLog.h"
 #include "Kelta/XMLFileReader.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <iterator>
@@ -31,8 +33,7 @@ std::uint64_t nextSerial()
 
 } // namespace
 
-Kelta::TypeInfo Project::classTypeId;
-PropertyCoreData Project::propertyData;
+OBJ_REGISTER_ABSTRACT_CLASS(Obj::Project, Obj::PropertyDS)
 
 Project::Project() : m_serial(nextSerial()), m_objectsByName(std::make_unique<NameIndex>()) {}
 
@@ -47,22 +48,6 @@ Project::~Project()
     m_objectsByName->clear();
     m_objectsById.clear();
     m_objects.clear();
-}
-
-Kelta::TypeInfo Project::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo Project::getTypeId() const
-{
-    return classTypeId;
-}
-
-void Project::init()
-{
-    initSubclass(classTypeId, "Obj::Project", "Obj::PropertyDS", nullptr);
-    propertyData.set_parent(PropertyDS::get_property_data_ref());
 }
 
 const char* Project::get_viewfeeder_name() const
@@ -211,11 +196,8 @@ ProjectObject* Project::restore_object(std::unique_ptr<ProjectObject> object)
         object->m_name = name;
     }
     ProjectObject* const restored = insert(std::move(object));
-    try {
-        restored->on_project_restored();
-    } catch (...) {
-        reportException("bringing an object back");
-    }
+    Kelta::guarded(QCoreApplication::translate("Obj", "An object failed when it came back"),
+                   [restored] { restored->on_project_restored(); });
     objectAdded(*restored);
     return restored;
 }
@@ -236,16 +218,6 @@ void Project::skip_object_ids(std::uint64_t nextId)
 void Project::on_changed(const Property* property)
 {
     changed(property);
-}
-
-const PropertyCoreData& Project::get_property_data() const
-{
-    return propertyData;
-}
-
-const PropertyCoreData* Project::get_property_data_ref()
-{
-    return &propertyData;
 }
 
 std::unique_ptr<ProjectObject> Project::createObject(const char* className) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Kelta/DocumentTag.h"
+#include "Obj/ClassRegistration.h"
 #include "Obj/ObjExport.h"
 #include "Obj/ObjectState.h"
 #include "Obj/ProjectObject.h"
@@ -28,13 +29,11 @@ class NameIndex;
 /// does not walk the project.
 class OBJ_EXPORT Project : public PropertyDS
 {
+    OBJ_ABSTRACT_CLASS;
+
 public:
     Project();
     ~Project() override;
-
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// The registered class of the node that shows the project in the tree; empty for none.
     virtual const char* get_viewfeeder_name() const;
@@ -108,8 +107,6 @@ public:
 
 protected:
     void on_changed(const Property* property) override;
-    const PropertyCoreData& get_property_data() const override;
-    static const PropertyCoreData* get_property_data_ref();
 
     Kelta::eDocumentTag documentTag = Kelta::eDocumentTag::Undefined;
 
@@ -124,9 +121,6 @@ private:
     void unlistById(std::uint32_t objectId);
     bool isUnused(std::uint64_t objectId) const;
     void useId(std::uint64_t objectId);
-
-    static Kelta::TypeInfo classTypeId;
-    static PropertyCoreData propertyData;
 
     /// Tells projects apart also after their end, when another one may stand at the same place in memory.
     std::uint64_t m_serial;

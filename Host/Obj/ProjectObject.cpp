@@ -1,15 +1,16 @@
 #include "Obj/ProjectObject.h"
 
+#include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
 #include "Obj/PropertyType.h"
-#include "Obj/Signal.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace Obj {
 
-Kelta::TypeInfo ProjectObject::classTypeId;
-PropertyCoreData ProjectObject::propertyData;
+OBJ_REGISTER_ABSTRACT_CLASS(Obj::ProjectObject, Obj::PropertyDS)
 
 ProjectObject::ProjectObject()
 {
@@ -20,22 +21,6 @@ ProjectObject::~ProjectObject()
 {
     for (const Link& link : m_links)
         link.other->eraseLink(this, !link.needsOther);
-}
-
-Kelta::TypeInfo ProjectObject::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo ProjectObject::getTypeId() const
-{
-    return classTypeId;
-}
-
-void ProjectObject::init()
-{
-    initSubclass(classTypeId, "Obj::ProjectObject", "Obj::PropertyDS", nullptr);
-    propertyData.set_parent(PropertyDS::get_property_data_ref());
 }
 
 const char* ProjectObject::get_viewfeeder_name() const
@@ -109,16 +94,6 @@ void ProjectObject::on_changed(const Property* property)
 {
     if (m_project != nullptr)
         m_project->objectChanged(*this, property);
-}
-
-const PropertyCoreData& ProjectObject::get_property_data() const
-{
-    return propertyData;
-}
-
-const PropertyCoreData* ProjectObject::get_property_data_ref()
-{
-    return &propertyData;
 }
 
 void ProjectObject::link_to(ProjectObject& other)
@@ -209,11 +184,8 @@ void ProjectObject::breakLinks()
     for (const Link& link : links) {
         if (link.needsOther || !hasLink(link.other, false))
             continue;
-        try {
-            link.other->on_break_object_link(this);
-        } catch (...) {
-            reportException("breaking a link");
-        }
+        Kelta::guarded(QCoreApplication::translate("Obj", "An object failed when its link was broken"),
+                       [&] { link.other->on_break_object_link(this); });
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Obj/ClassRegistration.h"
 #include "Obj/ObjExport.h"
 #include "Obj/ObjectState.h"
 #include "Obj/PropertyDS.h"
@@ -22,13 +23,11 @@ struct ProjectObjectExecReturn;
 /// own.
 class OBJ_EXPORT ProjectObject : public PropertyDS
 {
+    OBJ_ABSTRACT_CLASS;
+
 public:
     ProjectObject();
     ~ProjectObject() override;
-
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// The registered class of the node that shows the object in the tree; empty for none.
     virtual const char* get_viewfeeder_name() const;
@@ -63,8 +62,6 @@ protected:
     virtual void on_configuring_project();
 
     void on_changed(const Property* property) override;
-    const PropertyCoreData& get_property_data() const override;
-    static const PropertyCoreData* get_property_data_ref();
 
 public:
     /// The number under which the project has the object; 0 before it is in one.
@@ -106,9 +103,6 @@ private:
     void breakLinks();
     /// Of an object whose project ends: the others of the project forget theirs too.
     void forgetLinks();
-
-    static Kelta::TypeInfo classTypeId;
-    static PropertyCoreData propertyData;
 
     Project* m_project = nullptr;
     std::uint32_t m_objectId = 0;

@@ -2,12 +2,9 @@
 
 #include "Obj/PropertyType.h"
 
-#include <new>
-
 namespace Obj {
 
-Kelta::TypeInfo ProjectObjectGroup::classTypeId;
-PropertyCoreData ProjectObjectGroup::propertyData;
+OBJ_REGISTER_CLASS(Obj::ProjectObjectGroup, Obj::ProjectObject)
 
 ProjectObjectGroup::ProjectObjectGroup()
 {
@@ -18,27 +15,6 @@ ProjectObjectGroup::ProjectObjectGroup()
 
 ProjectObjectGroup::~ProjectObjectGroup() = default;
 
-void* ProjectObjectGroup::create()
-{
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) ProjectObjectGroup);
-}
-
-Kelta::TypeInfo ProjectObjectGroup::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo ProjectObjectGroup::getTypeId() const
-{
-    return classTypeId;
-}
-
-void ProjectObjectGroup::init()
-{
-    initSubclass(classTypeId, "Obj::ProjectObjectGroup", "Obj::ProjectObject", &ProjectObjectGroup::create);
-    propertyData.set_parent(ProjectObject::get_property_data_ref());
-}
-
 void ProjectObjectGroup::add_member(ProjectObject& object)
 {
     link_to(object);
@@ -47,16 +23,6 @@ void ProjectObjectGroup::add_member(ProjectObject& object)
 void ProjectObjectGroup::remove_member(ProjectObject& object)
 {
     unlink_from(object);
-}
-
-const PropertyCoreData& ProjectObjectGroup::get_property_data() const
-{
-    return propertyData;
-}
-
-const PropertyCoreData* ProjectObjectGroup::get_property_data_ref()
-{
-    return &propertyData;
 }
 
 } // namespace Obj

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Obj/ClassRegistration.h"
 #include "Obj/ObjExport.h"
 #include "Obj/ProjectObject.h"
 
@@ -10,14 +11,11 @@ namespace Obj {
 /// An object that gathers others of its project under one node. It owns none of them.
 class OBJ_EXPORT ProjectObjectGroup : public ProjectObject
 {
+    OBJ_CLASS;
+
 public:
     ProjectObjectGroup();
     ~ProjectObjectGroup() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Puts `object` into the group; one that is in it stays once.
     void add_member(ProjectObject& object);
@@ -25,13 +23,7 @@ public:
     /// The members that are in the project, in the order in which they came.
     std::vector<ProjectObject*> get_members() const { return get_needed_objects(); }
 
-protected:
-    const PropertyCoreData& get_property_data() const override;
-    static const PropertyCoreData* get_property_data_ref();
-
 private:
-    static Kelta::TypeInfo classTypeId;
-    static PropertyCoreData propertyData;
 };
 
 } // namespace Obj

@@ -11,7 +11,7 @@
 
 namespace Obj {
 
-Kelta::TypeInfo PropertyDS::classTypeId;
+KELTA_REGISTER_ABSTRACT_CLASS(Obj::PropertyDS, Kelta::DataPersistence)
 PropertyCoreData PropertyDS::propertyData;
 
 PropertyDS::PropertyDS()
@@ -22,21 +22,6 @@ PropertyDS::PropertyDS()
 }
 
 PropertyDS::~PropertyDS() = default;
-
-Kelta::TypeInfo PropertyDS::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo PropertyDS::getTypeId() const
-{
-    return classTypeId;
-}
-
-void PropertyDS::init()
-{
-    initSubclass(classTypeId, "Obj::PropertyDS", "Kelta::DataPersistence", nullptr);
-}
 
 void PropertyDS::save(Kelta::FileWriter& writer) const
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Kelta/ClassRegistration.h"
 #include "Kelta/DataPersistence.h"
 #include "Obj/ObjExport.h"
 #include "Obj/Property.h"
@@ -18,13 +19,11 @@ namespace Obj {
 /// empty text, 0 or false.
 class OBJ_EXPORT PropertyDS : public Kelta::DataPersistence
 {
+    KELTA_ABSTRACT_CLASS;
+
 public:
     PropertyDS();
     ~PropertyDS() override;
-
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Writes every property as text.
     void save(Kelta::FileWriter& writer) const override;
@@ -75,7 +74,6 @@ private:
     const Entry* find(const char* name) const;
     const Entry* find(const Property* property) const;
 
-    static Kelta::TypeInfo classTypeId;
     static PropertyCoreData propertyData;
     std::vector<Entry> m_entries;
 };

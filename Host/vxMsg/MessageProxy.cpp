@@ -2,11 +2,11 @@
 
 #include "UndoCommands.h"
 
+#include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 
 #include <QCoreApplication>
 
-#include <exception>
 #include <utility>
 
 namespace vxMsg {
@@ -52,24 +52,19 @@ bool mayAct()
            report(tr("Nothing can be requested while something is undone or redone; nothing was done."));
 }
 
-/// The boundary of the requests: whatever is thrown inside is reported, and the request counts as not done.
+/// The boundary of the requests: what is thrown inside is reported, and the request counts as not done.
 template <typename Request>
-bool guarded(const Request& request)
+bool isDone(const Request& request)
 {
-    try {
-        return request();
-    } catch (const std::exception& exception) {
-        return report(tr("A request failed: %1").arg(QString::fromUtf8(exception.what())));
-    } catch (...) {
-        return report(tr("A request failed for a reason that is not known."));
-    }
+    bool done = false;
+    return Kelta::guarded(tr("A request failed"), [&] { done = request(); }) && done;
 }
 
 } // namespace
 
 bool runCommand(int code, int count, const std::vector<std::string>& names)
 {
-    return guarded([&] {
+    return isDone([&] {
         if (code != vxCommand::NewMaterialProject && code != vxCommand::CloseProject)
             return reportUnknownCode(code);
         if (count != 1 || names.size() != 1)
@@ -81,7 +76,7 @@ bool runCommand(int code, int count, const std::vector<std::string>& names)
 
 bool doCommand(const MessageData& message)
 {
-    return guarded([&] {
+    return isDone([&] {
         MessageProxy& proxy = MessageProxy::instance();
         if (message.code == vxCommand::AddMaterial)
             return proxy.addMaterial(message.projectName, message.objectName);

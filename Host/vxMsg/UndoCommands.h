@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
-#include "Obj/Signal.h"
 
+#include <QCoreApplication>
 #include <QUndoCommand>
 
 #include <cstdint>
@@ -72,15 +73,13 @@ private:
     void set(Presence presence)
     {
         const Undoing undoing;
-        try {
+        // The stack expects that commands throw nothing.
+        Kelta::guarded(QCoreApplication::translate("vxMsg", "An undo or redo failed"), [&] {
             if (presence == Presence::Gone)
                 m_kept = take();
             else if (m_kept != nullptr)
                 restore(std::move(m_kept));
-        } catch (...) {
-            // The stack takes for granted that commands succeed.
-            Obj::reportException("an undo or redo");
-        }
+        });
     }
 
     Presence m_presence;

@@ -109,7 +109,7 @@ TEST_F(FailingClassTest, WhatIsThrownWithoutATextIsReportedToo)
     configuringThrows = true;
     const vxtest::Reports reports;
     EXPECT_FALSE(vxMsg::doCommand({1027, "Project", "a", 0.0}));
-    EXPECT_THAT(reports.text(), HasSubstr("A request failed for a reason that is not known."));
+    EXPECT_THAT(reports.text(), HasSubstr("A request failed: an exception of an unknown kind"));
     EXPECT_EQ(m_project->get_object_count(), 0U);
     EXPECT_EQ(stack().count(), 1);
     configuringThrows = false;

@@ -40,7 +40,7 @@ public:                                                                         
     KELTA_DEFINE_TYPE_ID(Class)                                                                                        \
     void Class::init()                                                                                                 \
     {                                                                                                                  \
-        initSubclass(classTypeId, #Class, #Parent, nullptr);                                                           \
+        initSubclass(classTypeId, #Class, #Parent, nullptr, sizeof(Class));                                            \
     }
 
 /// Defines what KELTA_CLASS declares.
@@ -48,7 +48,7 @@ public:                                                                         
     KELTA_DEFINE_TYPE_ID_AND_CREATE(Class)                                                                             \
     void Class::init()                                                                                                 \
     {                                                                                                                  \
-        initSubclass(classTypeId, #Class, #Parent, &Class::create);                                                    \
+        initSubclass(classTypeId, #Class, #Parent, &Class::create, sizeof(Class));                                     \
     }
 
 // Parts of the macros above and of those in Obj.

@@ -1,6 +1,5 @@
 #include "Obj/Application.h"
 
-#include "Kelta/FileWriter.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/ProjectObjectGroup.h"
 
@@ -170,24 +169,6 @@ Json::Value Application::save_jsonDB() const
     for (const auto& project : m_projects)
         project->save_jsonDB(records.append(Json::Value()));
     return database;
-}
-
-bool Application::save_projects(const QString& path) const
-{
-    Kelta::FileWriter writer(path);
-    writer.beginElement(QStringLiteral("projects"));
-    for (const auto& project : m_projects) {
-        writer.beginElement(QStringLiteral("project"));
-        writer.writeAttribute(QStringLiteral("class"), QString::fromUtf8(project->getTypeId().get_name()));
-        writer.writeAttribute(QStringLiteral("name"), QString::fromStdString(project->m_name));
-        project->Save(writer);
-        writer.endElement();
-    }
-    writer.endElement();
-    if (writer.commit())
-        return true;
-    Kelta::MessageLog::error(writer.errorText());
-    return false;
 }
 
 void Application::makeCurrent(Project* project)

@@ -14,8 +14,6 @@
 #include <string_view>
 #include <vector>
 
-class QString;
-
 namespace Obj {
 
 /// Registers the classes of this library. Called once, before anything else of it; again changes nothing.
@@ -66,9 +64,6 @@ public:
 
     /// The project database: "projects", an array with a record of each, in order.
     Json::Value save_jsonDB() const;
-    /// Writes the host's XML file of all projects. False, with the reason in the message log, when that fails; an
-    /// earlier file then stays.
-    bool save_projects(const QString& path) const;
 
     /// A project is there when it is opened and still there when it has been closed.
     Signal<void(Project&)> projectAdded;

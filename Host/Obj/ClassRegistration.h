@@ -30,7 +30,7 @@
     OBJ_DEFINE_PROPERTY_DATA(Class)                                                                                    \
     void Class::init()                                                                                                 \
     {                                                                                                                  \
-        initSubclass(classTypeId, #Class, #Parent, nullptr);                                                           \
+        initSubclass(classTypeId, #Class, #Parent, nullptr, sizeof(Class));                                            \
         propertyData.set_parent(Parent::get_property_data_ref());                                                      \
     }
 
@@ -40,7 +40,7 @@
     OBJ_DEFINE_PROPERTY_DATA(Class)                                                                                    \
     void Class::init()                                                                                                 \
     {                                                                                                                  \
-        initSubclass(classTypeId, #Class, #Parent, &Class::create);                                                    \
+        initSubclass(classTypeId, #Class, #Parent, &Class::create, sizeof(Class));                                     \
         propertyData.set_parent(Parent::get_property_data_ref());                                                      \
     }
 

@@ -3,9 +3,7 @@
 #include "NameIndex.h"
 
 #include "Kelta/Exceptions.h"
-#include "Kelta/FileWriter.h"
 #include "Kelta/MessageLog.h"
-#include "Kelta/XMLFileReader.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -80,30 +78,9 @@ void Project::save_jsonDB(Json::Value& record)
 
 void Project::load_jsonDB(Json::Value&) {}
 
-void Project::Save(Kelta::FileWriter& writer) const // NOLINT(bugprone-virtual-near-miss): see the header
-{
-    for (const auto& [objectId, object] : m_objects) {
-        writer.beginElement(QStringLiteral("object"));
-        writer.writeAttribute(QStringLiteral("class"), QString::fromUtf8(object->getTypeId().get_name()));
-        writer.writeAttribute(QStringLiteral("name"), QString::fromUtf8(object->get_name_in_project()));
-        writer.writeAttribute(QStringLiteral("id"), QString::number(objectId));
-        object->save(writer);
-        writer.endElement();
-    }
-}
+void Project::Save(Kelta::FileWriter&) const {} // NOLINT(bugprone-virtual-near-miss): see the header
 
-void Project::Load(Kelta::XMLFileReader& reader) // NOLINT(bugprone-virtual-near-miss): see the header
-{
-    const int depth = reader.depth();
-    while (reader.nextElement(QStringLiteral("object"))) {
-        const QByteArray className = reader.attribute(QStringLiteral("class")).toUtf8();
-        const std::string name = reader.attribute(QStringLiteral("name")).toStdString();
-        const qulonglong objectId = reader.attribute(QStringLiteral("id")).toULongLong();
-        if (ProjectObject* const object = add_object(className.constData(), name, objectId))
-            object->load(reader);
-        reader.leaveTo(depth);
-    }
-}
+void Project::Load(Kelta::XMLFileReader&) {} // NOLINT(bugprone-virtual-near-miss): see the header
 
 ProjectObject* Project::get_object(std::uint32_t objectId) const
 {

@@ -45,7 +45,7 @@ public:
     /// Describes the project and its objects in a record of the project database.
     virtual void save_jsonDB(Json::Value& record);
     virtual void load_jsonDB(Json::Value& record);
-    /// Writes the objects of the project, inside its element of the host's XML file; adds what was written there.
+    /// Hooks of modules for an XML file, by names that modules know. Here nothing: projects are kept in JSON files.
     // NOLINTBEGIN(bugprone-virtual-near-miss): modules know these names, beside save and load of the properties.
     virtual void Save(Kelta::FileWriter& writer) const;
     virtual void Load(Kelta::XMLFileReader& reader);

@@ -25,12 +25,6 @@ public:
     PropertyDS();
     ~PropertyDS() override;
 
-    /// Writes every property as text.
-    void save(Kelta::FileWriter& writer) const override;
-    /// Sets the properties that the file has. Those that the set lacks, or whose text cannot be read, are reported to
-    /// the message log and left alone; those that are only read say what the object knows itself, and are passed over.
-    void load(Kelta::XMLFileReader& reader) override;
-
     virtual Property* get_property_by_name(const char* name) const;
     virtual const char* get_property_name(const Property* property) const;
     /// All properties by name.

@@ -186,60 +186,6 @@ TEST_F(ApplicationTest, GathersTheRecordsOfAllProjectsInOneDocument)
     EXPECT_EQ(database.size(), 1U);
 }
 
-class ProjectFileTest : public ApplicationTest
-{
-protected:
-    QTemporaryDir m_place;
-    QString m_path = m_place.filePath(QStringLiteral("projects.xml"));
-};
-
-TEST_F(ProjectFileTest, HoldsAllProjects)
-{
-    addAssembly("a").addPart("part");
-    addAssembly("b & c");
-    ASSERT_TRUE(application().save_projects(m_path));
-    EXPECT_EQ(vxtest::readFile(m_path), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                                        "<projects>\n"
-                                        "    <project class=\"Test::Assembly\" name=\"a\">\n"
-                                        "        <object class=\"Test::Part\" name=\"part\" id=\"1\">\n"
-                                        "            <property name=\"Label\" value=\"part\"/>\n"
-                                        "            <property name=\"ID\" value=\"1\"/>\n"
-                                        "            <property name=\"ClassLabel\" value=\"Part\"/>\n"
-                                        "            <property name=\"Width\" value=\"7\"/>\n"
-                                        "            <property name=\"Secret\" value=\"none\"/>\n"
-                                        "        </object>\n"
-                                        "    </project>\n"
-                                        "    <project class=\"Test::Assembly\" name=\"b &amp; c\"/>\n"
-                                        "</projects>\n");
-}
-
-TEST_F(ProjectFileTest, IsWrittenWholeOrNotAtAll)
-{
-    vxtest::writeFile(m_path, "earlier");
-    Assembly& assembly = addAssembly("a");
-    for (int i = 0; i < 100; ++i)
-        assembly.addPart();
-    const vxtest::Reports reports;
-    {
-        const vxtest::FullDisk disk(1000);
-        EXPECT_FALSE(application().save_projects(m_path));
-    }
-    EXPECT_EQ(reports.errors(), 1);
-    EXPECT_EQ(vxtest::readFile(m_path), "earlier");
-    EXPECT_TRUE(application().save_projects(m_path));
-}
-
-TEST_F(ProjectFileTest, CannotBeWrittenIntoAFolderThatIsMissingNorIntoADevice)
-{
-    addAssembly("a");
-    const vxtest::Reports reports;
-    EXPECT_FALSE(application().save_projects(m_place.filePath(QStringLiteral("missing/projects.xml"))));
-    EXPECT_FALSE(application().save_projects(m_place.path()));
-    EXPECT_FALSE(application().save_projects(QStringLiteral("/dev/full")));
-    EXPECT_EQ(reports.errors(), 3);
-    EXPECT_THAT(reports.text(), HasSubstr("missing/projects.xml: No such file or directory"));
-}
-
 TEST(InitObj, ChangesNothingWhenItIsCalledAgain)
 {
     Obj::initObj();

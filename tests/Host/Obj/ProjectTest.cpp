@@ -3,9 +3,6 @@
 #include "HostTesting.h"
 #include "ObjTesting.h"
 
-#include "Kelta/FileWriter.h"
-#include "Kelta/XMLFileReader.h"
-
 #include <QTemporaryDir>
 #include <boost/signals2/connection.hpp>
 
@@ -459,60 +456,6 @@ TEST_F(ProjectTest, DescribesItselfAndItsObjectsInARecord)
     EXPECT_EQ(record["objects"][1]["name_internal"], "b");
     m_assembly.load_jsonDB(record);
     EXPECT_THAT(names(), ElementsAre("a", "b"));
-}
-
-TEST_F(ProjectTest, ReadsTheObjectsThatItWroteWithIdsNamesAndProperties)
-{
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("project.xml"));
-    m_assembly.addPart("gone");
-    m_assembly.addPart("a").width.setValue(22);
-    m_assembly.addPart("钢").label.setValue("%1");
-    m_assembly.remove_object(1);
-    Kelta::FileWriter writer(path);
-    writer.beginElement(QStringLiteral("project"));
-    m_assembly.Save(writer);
-    ASSERT_TRUE(writer.commit());
-
-    Assembly& other = addAssembly("other");
-    Kelta::XMLFileReader reader(path);
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("project")));
-    other.Load(reader);
-    EXPECT_FALSE(reader.failed());
-    EXPECT_THAT(namesOf(other.get_objects()), ElementsAre("a", "钢"));
-    ASSERT_NE(other.get_object(3U), nullptr);
-    EXPECT_EQ(other.get_object(3U)->label.getValue(), "%1");
-    EXPECT_EQ(static_cast<Part*>(other.get_object(2U))->width.getValue(), 22);
-    EXPECT_EQ(other.addPart("next").getObjectId(), 4U);
-}
-
-/// An object that reads no further than its own element.
-class LazyPart : public ProjectObject
-{
-public:
-    static void* create() { return static_cast<Kelta::RootClass*>(new LazyPart); }
-    static inline Kelta::TypeInfo type;
-    Kelta::TypeInfo getTypeId() const override { return type; }
-    void load(Kelta::XMLFileReader&) override {}
-};
-
-TEST_F(ProjectTest, ReadsOnBehindObjectsThatAreUnknownOrDoNotReadTheirPart)
-{
-    Kelta::RootClass::initSubclass(LazyPart::type, "Test::LazyPart", "Obj::ProjectObject", &LazyPart::create);
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("project.xml"));
-    vxtest::writeFile(path, "<project><object class='Test::LazyPart' name='a' id='1'><property name='Label' value='x'/>"
-                            "</object><object class='Test::Nobody' name='b' id='2'><object/></object>"
-                            "<object class='Test::Part' name='c' id='many'/>"
-                            "<object class='Test::Part' name='d' id='4294967296'/>"
-                            "<object class='Test::Part' name='e' id='5'/></project>");
-    const vxtest::Reports reports;
-    Kelta::XMLFileReader reader(path);
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("project")));
-    m_assembly.Load(reader);
-    EXPECT_FALSE(reader.failed());
-    EXPECT_THAT(names(), ElementsAre("a", "e"));
-    EXPECT_EQ(reports.errors(), 3);
 }
 
 /// The bare class.

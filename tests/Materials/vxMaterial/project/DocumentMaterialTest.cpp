@@ -255,14 +255,16 @@ TEST_F(DocumentMaterialTest, DescribesItsPropertiesBeforeThoseOfEveryProject)
 TEST_F(DocumentMaterialTest, HasNoPartInTheXmlFile)
 {
     addSteel("Steel");
-    const QString file = folder.filePath("projects.xml");
-    ASSERT_TRUE(Obj::Application::instance().save_projects(file));
-    EXPECT_THAT(vxtest::readText(file.toStdString()), testing::Not(testing::HasSubstr("<object")));
+    const QString file = folder.filePath("project.xml");
+    Kelta::FileWriter writer(file);
+    writer.xml().writeStartElement("project");
+    project->Save(writer);
+    ASSERT_TRUE(writer.commit());
+    EXPECT_THAT(vxtest::readText(file.toStdString()), testing::HasSubstr("<project/>"));
 
     Kelta::XMLFileReader reader(file);
-    ASSERT_TRUE(reader.nextElement("projects"));
+    ASSERT_TRUE(reader.xml().readNextStartElement());
     project->Load(reader);
-    EXPECT_TRUE(reader.nextElement("project"));
     EXPECT_EQ(project->get_object_count(), 1U);
 }
 

@@ -11,6 +11,7 @@
 #include "kelta/KeltaBatchExport.h"
 #include "projectfile/MaterialRecord.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <memory>
@@ -56,6 +57,7 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
     if (std::exchange(done, true))
         return;
     Kelta::guarded(QStringLiteral("initKeltaMaterials"), [] {
+        Mat::registerRequests();
         Gui::ObjectClipboard::register_codec("Mat::MaterialObject", {writeContent, readContent});
         kelta::registerMaterialVerbs();
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())

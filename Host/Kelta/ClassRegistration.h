@@ -8,13 +8,13 @@
 /// source file. That line is the only place that tells the name of the class, its parent, and whether an object can be
 /// created by the name. `Obj/ClassRegistration.h` does the same for classes with host properties.
 ///
-///     class SimModule : public Gui::StdSimModule          // header
+///     class Workbench : public Gui::StdSimModule          // header
 ///     {
 ///         KELTA_CLASS;
 ///         ...
 ///     };
 ///
-///     KELTA_REGISTER_CLASS(MatGui::SimModule, Gui::StdSimModule)          // source file
+///     KELTA_REGISTER_CLASS(Fastening::Workbench, Gui::StdSimModule)          // source file
 ///
 /// Both arguments are written with all their namespaces: their spelling is the registered name. The class is known once
 /// its static `init()` has been called.

@@ -12,8 +12,8 @@ namespace Kelta {
 
 /// What a module says about itself in the file `<name>.module.json` beside its library:
 ///
-///     {"module": "vxMaterial", "version": "0.1.0", "host": "0.1", "library": "libvxMaterial.so",
-///      "entries": ["initMat", "initMatGui"], "needs": {"OtherModule": "0.1"}}
+///     {"module": "Fastening", "version": "1.2.0", "host": "0.1", "library": "libFastening.so",
+///      "entries": ["initFastening", "initFasteningGui"], "needs": {"Geometry": "0.4"}}
 ///
 /// "module", "version" and "entries" are required. Versions are numbers separated by points.
 struct ModuleDescriptor

@@ -206,7 +206,8 @@ QStringList PluginLoader::standardFolders()
     const QString paths = qEnvironmentVariable("KELTA_PLUGIN_PATH");
     QStringList folders = paths.split(QDir::listSeparator(), Qt::SkipEmptyParts);
     if (QCoreApplication::instance() != nullptr)
-        for (const char* folder : {"../lib/vxMaterial", "../" KELTA_LIBRARY_FOLDER "/vxMaterial", "../lib", "."})
+        for (const char* folder :
+             {"../lib/" KELTA_PACKAGE, "../" KELTA_LIBRARY_FOLDER "/" KELTA_PACKAGE, "../lib", "."})
             folders << QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(folder)));
     folders.removeDuplicates();
     return folders;

@@ -11,7 +11,7 @@ struct TypeRecord;
 /// A registered class. Objects are found, compared and created by it. A handle of the size of a pointer, to be copied
 /// freely; the registration that it refers to lives as long as the program.
 ///
-///     Kelta::TypeInfo type = Kelta::TypeInfo::find("Mat::MaterialObject");
+///     Kelta::TypeInfo type = Kelta::TypeInfo::find("Fastening::Bolt");
 ///     if (type.is_inherited_from(Obj::ProjectObject::getClassTypeId())) ...
 class KELTA_EXPORT TypeInfo
 {

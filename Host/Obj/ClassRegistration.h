@@ -6,13 +6,13 @@
 /// The registration of classes with host properties: the members of `Kelta/ClassRegistration.h`, and the class's record
 /// of its properties, which links to that of the parent class.
 ///
-///     class MaterialObject : public Obj::ProjectObject          // header
+///     class Bolt : public Obj::ProjectObject          // header
 ///     {
 ///         OBJ_CLASS;
 ///         ...
 ///     };
 ///
-///     OBJ_REGISTER_CLASS(Mat::MaterialObject, Obj::ProjectObject)          // source file
+///     OBJ_REGISTER_CLASS(Fastening::Bolt, Obj::ProjectObject)          // source file
 
 /// Declares the members of a class that is not created by its name. Ends in a private section.
 #define OBJ_ABSTRACT_CLASS                                                                                             \

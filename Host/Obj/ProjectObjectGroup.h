@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Obj/ClassRegistration.h"
 #include "Obj/ObjExport.h"
 #include "Obj/ProjectObject.h"
 
@@ -8,7 +7,8 @@
 
 namespace Obj {
 
-/// An object that gathers others of its project under one node. It owns none of them.
+/// An object that gathers others of its project under one node. It owns none of them: its members stay in the project if
+/// it is deleted. An object is a member of at most one group.
 class OBJ_EXPORT ProjectObjectGroup : public ProjectObject
 {
     OBJ_CLASS;
@@ -17,13 +17,17 @@ public:
     ProjectObjectGroup();
     ~ProjectObjectGroup() override;
 
-    /// Puts `object` into the group; one that is in it stays once.
-    void add_member(ProjectObject& object);
+    /// Puts `object` into the group, and takes it out of another one. The listeners of the project are told that the
+    /// object has changed. False, with a report, if `object` belongs to another project, or is this group or a group
+    /// around it.
+    bool add_member(ProjectObject& object);
+    /// Takes `object` out of the group, and tells the listeners; nothing if it is not a member.
     void remove_member(ProjectObject& object);
-    /// The members that are in the project, in the order in which they came.
-    std::vector<ProjectObject*> get_members() const { return get_needed_objects(); }
+    /// Returns the members that are in the project, in the order in which they came.
+    std::vector<ProjectObject*> get_members() const;
 
 private:
+    bool isInside(const ProjectObject& object) const;
 };
 
 } // namespace Obj

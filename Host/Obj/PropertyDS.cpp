@@ -18,6 +18,14 @@ PropertyDS::PropertyDS()
 
 PropertyDS::~PropertyDS() = default;
 
+std::size_t PropertyDS::get_memory_usage() const
+{
+    std::size_t bytes = DataPersistence::get_memory_usage() + m_entries.capacity() * sizeof(Entry);
+    for (const Entry& entry : m_entries)
+        bytes += entry.property->get_memory_usage();
+    return bytes;
+}
+
 Property* PropertyDS::get_property_by_name(const char* name) const
 {
     const Entry* const entry = find(name);

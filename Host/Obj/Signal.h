@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Obj/ObjExport.h"
+#include "Obj/Removal.h"
 
 #include <boost/signals2/signal.hpp>
 
@@ -10,7 +11,8 @@ namespace Obj {
 OBJ_EXPORT void reportListenerFailure() noexcept;
 
 /// Calls listeners one after another. What one throws is reported to the message log, and the next one is called: a
-/// listener that fails does not undo what has happened.
+/// listener that fails does not undo what has happened. What a listener removes stays in memory until all have been
+/// called.
 struct ReportingCombiner
 {
     using result_type = void;
@@ -18,6 +20,7 @@ struct ReportingCombiner
     template <typename Iterator>
     void operator()(Iterator listener, Iterator end) const
     {
+        const RemovalGuard guard;
         for (; listener != end; ++listener) {
             try {
                 *listener;

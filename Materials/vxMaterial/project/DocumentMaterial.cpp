@@ -29,7 +29,7 @@ OBJ_REGISTER_CLASS(Mat::DocumentMaterial, Obj::Project)
 
 DocumentMaterial::DocumentMaterial()
 {
-    documentTag = Kelta::eDocumentTag::Material;
+    documentTag = materialProjectTag;
     id.setValue(0);
     classLabel.setValue("Material Project");
     physicsType.setValue("Structural");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Kelta/DocumentTag.h"
 #include "Obj/ClassRegistration.h"
 #include "Obj/Project.h"
 #include "vxMaterial/model/MatDBManager.h"
@@ -15,6 +16,9 @@ class CAESet;
 } // namespace vxCAE
 
 namespace Mat {
+
+/// The document tag of material projects.
+inline constexpr Kelta::eDocumentTag materialProjectTag{2};
 
 /// The material project: its objects are materials, and all of them share its database of library and catalogue.
 class VXMATERIAL_EXPORT DocumentMaterial : public Obj::Project

@@ -44,7 +44,7 @@ protected:
 
 TEST_F(DocumentMaterialTest, IsAMaterialProjectWithAFilledDatabase)
 {
-    EXPECT_EQ(project->get_document_tag(), Kelta::eDocumentTag::Material);
+    EXPECT_EQ(project->get_document_tag(), Mat::materialProjectTag);
     EXPECT_EQ(static_cast<int>(project->get_document_tag()), 2);
     EXPECT_THAT(project->getMatMgr().materials, SizeIs(26));
     EXPECT_THAT(project->getMatMgr().propertyCatalogue, SizeIs(36));
@@ -230,7 +230,7 @@ TEST_F(DocumentMaterialTest, TakesNothingFromARecord)
         EXPECT_EQ(vxtest::Identity(empty), emptyBefore);
         EXPECT_EQ(project->physicsType.getValue(), "Structural");
         EXPECT_EQ(project->classLabel.getValue(), "Material Project");
-        EXPECT_EQ(project->get_document_tag(), Kelta::eDocumentTag::Material);
+        EXPECT_EQ(project->get_document_tag(), Mat::materialProjectTag);
     }
 }
 

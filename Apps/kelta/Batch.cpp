@@ -5,6 +5,7 @@
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 
@@ -15,7 +16,6 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include <exception>
 #include <utility>
 
 namespace kelta {
@@ -151,8 +151,8 @@ std::optional<QString> guarded(const std::function<std::optional<QString>()>& ru
 {
     try {
         return run();
-    } catch (const std::exception& exception) {
-        return QString::fromUtf8(exception.what());
+    } catch (...) {
+        return Kelta::currentExceptionText();
     }
 }
 

@@ -4,14 +4,13 @@
 
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QAbstractButton>
 #include <QEvent>
 
-#include <exception>
 #include <utility>
 
 namespace kelta {
@@ -66,7 +65,7 @@ void EditorWatch::rememberAll()
 
 void EditorWatch::compare(Gui::MDIWindow* window)
 {
-    try {
+    Kelta::guarded(tr("What was changed in an editor cannot be recorded"), [&] {
         const auto known = m_known.find(window);
         Mat::MaterialObject* const object = known != m_known.end() ? materialOf(*window) : nullptr;
         if (object == nullptr || object->get_project() == nullptr)
@@ -75,9 +74,7 @@ void EditorWatch::compare(Gui::MDIWindow* window)
         auto before = copyOf(*known->second);
         before->name = object->getCMaterial()->name;
         recordChange(*object, std::move(before));
-    } catch (const std::exception& exception) {
-        Kelta::MessageLog::error(QString::fromUtf8(exception.what()));
-    }
+    });
 }
 
 } // namespace kelta

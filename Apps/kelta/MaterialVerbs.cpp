@@ -30,7 +30,7 @@ QString tr(const char* text)
 
 Mat::DocumentMaterial* findProject()
 {
-    const auto projects = Obj::Application::get_projects(Kelta::eDocumentTag::Material);
+    const auto projects = Obj::Application::get_projects(Mat::materialProjectTag);
     return projects.empty() ? nullptr : static_cast<Mat::DocumentMaterial*>(projects.front());
 }
 

@@ -7,13 +7,13 @@
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/ObjectClipboard.h"
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 #include "kelta/KeltaBatchExport.h"
 #include "projectfile/MaterialRecord.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
-#include <exception>
 #include <memory>
 #include <utility>
 
@@ -56,15 +56,12 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
     static bool done = false;
     if (std::exchange(done, true))
         return;
-    try {
+    Kelta::guarded(QStringLiteral("initKeltaMaterials"), [] {
+        Mat::registerRequests();
         Gui::ObjectClipboard::register_codec("Mat::MaterialObject", {writeContent, readContent});
         kelta::registerMaterialVerbs();
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
             addFiles(*mainWindow);
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
-    } catch (const std::exception& exception) {
-        Kelta::MessageLog::error(QString::fromUtf8(exception.what()));
-    } catch (...) {
-        Kelta::MessageLog::error(QStringLiteral("KeltaMaterials"));
-    }
+    });
 }

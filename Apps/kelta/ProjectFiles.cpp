@@ -307,7 +307,7 @@ void ProjectFiles::warn(const QString& path, const std::vector<std::string>& dou
 Obj::Project* ProjectFiles::openRecord(projectfile::ProjectRecord& record, FurtherMembers& further)
 {
     return vxMsg::MessageProxy::instance().openProject(
-        record.name, [&](Obj::Project& project) { fillProject(project, record, further); });
+        "Mat::DocumentMaterial", record.name, [&](Obj::Project& project) { fillProject(project, record, further); });
 }
 
 Mat::DocumentMaterial* ProjectFiles::findOpen(const QString& path)

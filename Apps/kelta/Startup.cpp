@@ -8,16 +8,19 @@
 #include "kelta/FileService.h"
 #include "vxMsg/MessageProxy.h"
 
+#include <QCoreApplication>
+
 namespace kelta {
 
 bool loadMaterials()
 {
     static Kelta::PluginLoader loader;
     Gui::MainWindow& window = *Gui::MainWindow::get_main_window_inst();
-    const bool loaded = loader.load(QStringLiteral("vxMaterial"), {"initMat", "initMatGui"}) &&
-                        loader.load(QStringLiteral("KeltaMaterials"), {"initKeltaMaterials"});
-    if (!loaded)
-        Kelta::MessageLog::error(loader.errorText());
+    const Kelta::PluginLoader::Outcome modules = loader.loadAll();
+    const bool loaded = modules.loaded.contains(QStringLiteral("KeltaMaterials"));
+    if (modules.loaded.isEmpty() && modules.failed.empty())
+        Kelta::MessageLog::error(QCoreApplication::translate("kelta", "No module was found in %1.")
+                                     .arg(Kelta::PluginLoader::standardFolders().join(QStringLiteral(", "))));
     return window.set_workbench(loaded ? "MatGui::SimModule" : "Gui::StdSimModule") && loaded;
 }
 

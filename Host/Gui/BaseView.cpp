@@ -4,7 +4,7 @@
 
 namespace Gui {
 
-Kelta::TypeInfo BaseView::classTypeId;
+KELTA_REGISTER_ABSTRACT_CLASS(Gui::BaseView, Kelta::RootClass)
 
 BaseView::BaseView(GuiProject* project) : m_project(project)
 {
@@ -16,21 +16,6 @@ BaseView::~BaseView()
 {
     if (m_project != nullptr)
         m_project->disconnect_view(this);
-}
-
-Kelta::TypeInfo BaseView::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo BaseView::getTypeId() const
-{
-    return classTypeId;
-}
-
-void BaseView::init()
-{
-    initSubclass(classTypeId, "Gui::BaseView", "Kelta::RootClass", nullptr);
 }
 
 GuiProject* BaseView::get_gui_project() const

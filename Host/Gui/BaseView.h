@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Gui/GuiExport.h"
-#include "Kelta/RootClass.h"
+#include "Kelta/ClassRegistration.h"
 
 #include <QModelIndexList>
 #include <QPointer>
@@ -17,14 +17,12 @@ class GuiProject;
 /// A view of something in a project. Derived classes answer for what they show; here everything is empty.
 class GUI_EXPORT BaseView : public Kelta::RootClass
 {
+    KELTA_ABSTRACT_CLASS;
+
 public:
     /// A view of `project`, which may be null: then it belongs to none.
     explicit BaseView(GuiProject* project);
     ~BaseView() override;
-
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Null when the view belongs to no project, or the project has been closed.
     GuiProject* get_gui_project() const;
@@ -46,7 +44,6 @@ public:
     virtual void updateCell(const Obj::Property* property);
 
 private:
-    static Kelta::TypeInfo classTypeId;
     QPointer<GuiProject> m_project;
 };
 

@@ -1,14 +1,12 @@
 #include "Gui/Command.h"
 
 #include "Gui/PictureFactory.h"
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QAction>
 #include <QIcon>
-
-#include <exception>
 
 namespace Gui {
 
@@ -84,22 +82,16 @@ QAction* Command::new_action(QObject* parent)
 
 bool Command::invoke(int index)
 {
-    const auto report = [this](const QString& reason) {
-        Kelta::MessageLog::error(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed: %2")
-                                     .arg(get_menu_info().remove(QLatin1Char('&')), reason));
-        return false;
-    };
-    try {
+    const QString name = get_menu_info().remove(QLatin1Char('&'));
+    bool done = false;
+    Kelta::guarded(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed").arg(name), [&] {
         if (!is_applicable())
-            return false;
-        const vxMsg::MessageProxy::Group oneStep(get_menu_info().remove(QLatin1Char('&')));
+            return;
+        const vxMsg::MessageProxy::Group oneStep(name);
         activated(index);
-        return true;
-    } catch (const std::exception& exception) {
-        return report(QString::fromUtf8(exception.what()));
-    } catch (...) {
-        return report(QCoreApplication::translate("Gui::Command", "the reason is not known"));
-    }
+        done = true;
+    });
+    return done;
 }
 
 std::string Command::get_unique_object_name(const char* stem)

@@ -8,11 +8,9 @@
 #include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
-
-#include <exception>
 
 namespace Gui {
 
@@ -74,14 +72,9 @@ void GuiApplication::disconnect_view(BaseView* view)
 
 bool GuiApplication::notify(QObject* receiver, QEvent* event)
 {
-    try {
-        return QApplication::notify(receiver, event);
-    } catch (const std::exception& exception) {
-        Kelta::MessageLog::error(tr("Something went wrong: %1").arg(QString::fromUtf8(exception.what())));
-    } catch (...) {
-        Kelta::MessageLog::error(tr("Something went wrong for a reason that is not known."));
-    }
-    return false;
+    bool handled = false;
+    Kelta::guarded(tr("Something went wrong"), [&] { handled = QApplication::notify(receiver, event); });
+    return handled;
 }
 
 void GuiApplication::addProject(Obj::Project& project)

@@ -4,28 +4,13 @@
 
 namespace Gui {
 
-Kelta::TypeInfo MDIWindow::classTypeId;
+KELTA_REGISTER_ABSTRACT_CLASS(Gui::MDIWindow, Gui::BaseView)
 
 MDIWindow::MDIWindow(GuiProject* project, QWidget* parent, Qt::WindowFlags flags)
     : QMainWindow(parent, flags), BaseView(project)
 {}
 
 MDIWindow::~MDIWindow() = default;
-
-Kelta::TypeInfo MDIWindow::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo MDIWindow::getTypeId() const
-{
-    return classTypeId;
-}
-
-void MDIWindow::init()
-{
-    initSubclass(classTypeId, "Gui::MDIWindow", "Gui::BaseView", nullptr);
-}
 
 const char* MDIWindow::getName() const
 {

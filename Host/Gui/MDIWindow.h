@@ -2,6 +2,7 @@
 
 #include "Gui/BaseView.h"
 #include "Gui/GuiExport.h"
+#include "Kelta/ClassRegistration.h"
 
 #include <QMainWindow>
 
@@ -15,14 +16,11 @@ namespace Gui {
 class GUI_EXPORT MDIWindow : public QMainWindow, public BaseView
 {
     Q_OBJECT
+    KELTA_ABSTRACT_CLASS;
 
 public:
     MDIWindow(GuiProject* project, QWidget* parent, Qt::WindowFlags flags = {});
     ~MDIWindow() override;
-
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     const char* getName() const override;
     /// Takes the window out of the main window and destroys it.
@@ -34,7 +32,6 @@ public:
     void set_edited_object(Obj::ProjectObject* object) { m_editedObject = object; }
 
 private:
-    static Kelta::TypeInfo classTypeId;
     Obj::ProjectObject* m_editedObject = nullptr;
 };
 

@@ -1,6 +1,6 @@
 #include "Gui/ObjectClipboard.h"
 
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
 
 #include <QClipboard>
@@ -124,8 +124,8 @@ std::vector<Obj::ProjectObject*> ObjectClipboard::read(const QByteArray& text, O
         try {
             if (Obj::ProjectObject* const object = addDescribed(description, project))
                 added.push_back(object);
-        } catch (const std::exception& exception) {
-            Kelta::MessageLog::error(tr("An object cannot be pasted: %1").arg(QString::fromUtf8(exception.what())));
+        } catch (...) {
+            Kelta::reportException(tr("An object cannot be pasted"));
         }
     }
     return added;

@@ -2,7 +2,6 @@
 
 #include <initializer_list>
 #include <memory>
-#include <new>
 
 namespace Gui {
 
@@ -31,31 +30,11 @@ std::unique_ptr<Item> makeTree(std::initializer_list<Branch<Item>> branches)
 
 } // namespace
 
-Kelta::TypeInfo StdSimModule::classTypeId;
+KELTA_REGISTER_CLASS(Gui::StdSimModule, Kelta::RootClass)
 
 StdSimModule::StdSimModule() = default;
 
 StdSimModule::~StdSimModule() = default;
-
-void* StdSimModule::create()
-{
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) StdSimModule);
-}
-
-Kelta::TypeInfo StdSimModule::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo StdSimModule::getTypeId() const
-{
-    return classTypeId;
-}
-
-void StdSimModule::init()
-{
-    initSubclass(classTypeId, "Gui::StdSimModule", "Kelta::RootClass", &StdSimModule::create);
-}
 
 void StdSimModule::build_context_menu(const char*, MenuItem*) const {}
 

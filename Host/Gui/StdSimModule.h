@@ -2,7 +2,7 @@
 
 #include "Gui/CommandTree.h"
 #include "Gui/GuiExport.h"
-#include "Kelta/RootClass.h"
+#include "Kelta/ClassRegistration.h"
 
 namespace Gui {
 
@@ -10,14 +10,11 @@ namespace Gui {
 /// shows while it is the active one. Trees are built anew each time; the caller owns them.
 class GUI_EXPORT StdSimModule : public Kelta::RootClass
 {
+    KELTA_CLASS;
+
 public:
     StdSimModule();
     ~StdSimModule() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Adds to the context menu of a part of the window: "Tree", which the project explorer asks for, or "View", for
     /// documents that ask for it.
@@ -35,9 +32,6 @@ public:
     /// The names of the docking windows that the workbench wants to see, as children of the root. They are shown when it
     /// becomes the active one; a layout that is restored afterwards has the last word.
     virtual ToolBarGadget* build_docking_windows() const;
-
-private:
-    static Kelta::TypeInfo classTypeId;
 };
 
 } // namespace Gui

@@ -2,6 +2,7 @@
 
 #include "Gui/CommandTree.h"
 #include "Gui/GuiExport.h"
+#include "Obj/ClassRegistration.h"
 #include "Obj/PropertyDS.h"
 
 #include <string>
@@ -21,13 +22,11 @@ namespace Gui {
 /// the registered name that its project or object gives, and attached to that; its properties say how it is shown.
 class GUI_EXPORT ViewFeeder : public Obj::PropertyDS
 {
+    OBJ_ABSTRACT_CLASS;
+
 public:
     ViewFeeder();
     ~ViewFeeder() override;
-
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Whether the node selects in a way of its own, instead of that of the tree.
     virtual bool useNewSelectionModel() const;
@@ -52,54 +51,37 @@ public:
     const std::string& getDisplayMode() const { return m_displayMode; }
 
 protected:
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
-
     const char* pixmapName = "";
 
 private:
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
     std::string m_displayMode;
 };
 
 /// The node of a project.
 class GUI_EXPORT ViewFeederProject : public ViewFeeder
 {
+    OBJ_CLASS;
+
 public:
     ViewFeederProject();
     ~ViewFeederProject() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     void attach(Obj::Project& project) { m_project = &project; }
     /// The project that the node shows; null before it is attached.
     Obj::Project* getProject() const { return m_project; }
 
-protected:
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
-
 private:
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
     Obj::Project* m_project = nullptr;
 };
 
 /// The node of an object.
 class GUI_EXPORT ViewFeederProjectObject : public ViewFeeder
 {
+    OBJ_CLASS;
+
 public:
     ViewFeederProjectObject();
     ~ViewFeederProjectObject() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     void attach(Obj::ProjectObject& object) { m_object = &object; }
     /// The object that the node shows; null before it is attached.
@@ -108,12 +90,8 @@ public:
 protected:
     /// Tells those who observe the project that the object is shown in another way.
     void on_changed(const Obj::Property* property) override;
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
 
 private:
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
     Obj::ProjectObject* m_object = nullptr;
 };
 

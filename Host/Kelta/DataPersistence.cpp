@@ -4,52 +4,48 @@
 #include "Kelta/MessageLog.h"
 #include "Kelta/XMLFileReader.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
+
 namespace Kelta {
 
 namespace {
 
 const QString objectElement = QStringLiteral("object");
+const QString classAttribute = QStringLiteral("class");
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Kelta::DataPersistence", text);
+}
 
 /// Reads the file to its end, so that one that is cut off is found before anything is set from it.
 QString reasonNotToLoad(const QString& path, const QString& className)
 {
     XMLFileReader reader(path);
-    const bool hasObject = reader.nextElement(objectElement);
-    const QString itsClass = reader.attribute(QStringLiteral("class"));
-    reader.leaveTo(0);
-    const bool hasFurther = hasObject && reader.nextElement(objectElement);
-    if (reader.failed())
+    QXmlStreamReader& xml = reader.xml();
+    const bool hasObject = xml.readNextStartElement() && xml.name() == objectElement;
+    const QString foundClass = xml.attributes().value(classAttribute).toString();
+    while (!xml.atEnd())
+        xml.readNext();
+    if (xml.hasError())
         return reader.errorText();
-    if (!hasObject || hasFurther)
-        return QStringLiteral("%1: this file holds no object of the application").arg(path);
-    if (itsClass != className)
-        return QStringLiteral("%1: this file holds an object of class \"%2\"; one of \"%3\" is needed")
-            .arg(path, itsClass, className);
+    if (!hasObject)
+        return tr("%1: this file does not hold an object of the application").arg(path);
+    if (foundClass != className)
+        return tr(R"(%1: this file holds an object of class "%2"; one of "%3" is needed)")
+            .arg(path, foundClass, className);
     return {};
 }
 
 } // namespace
 
-TypeInfo DataPersistence::classTypeId;
-
-TypeInfo DataPersistence::getClassTypeId()
-{
-    return classTypeId;
-}
-
-TypeInfo DataPersistence::getTypeId() const
-{
-    return classTypeId;
-}
-
-void DataPersistence::init()
-{
-    initSubclass(classTypeId, "Kelta::DataPersistence", "Kelta::RootClass", nullptr);
-}
+KELTA_REGISTER_ABSTRACT_CLASS(Kelta::DataPersistence, Kelta::RootClass)
 
 std::size_t DataPersistence::get_memory_usage() const
 {
-    return sizeof(*this);
+    return std::max(sizeof(*this), getTypeId().get_object_size());
 }
 
 void DataPersistence::save(FileWriter&) const {}
@@ -59,10 +55,9 @@ void DataPersistence::load(XMLFileReader&) {}
 bool DataPersistence::save_to_file(const QString& path) const
 {
     FileWriter writer(path);
-    writer.beginElement(objectElement);
-    writer.writeAttribute(QStringLiteral("class"), QString::fromUtf8(getTypeId().get_name()));
+    writer.xml().writeStartElement(objectElement);
+    writer.xml().writeAttribute(classAttribute, QString::fromUtf8(getTypeId().get_name()));
     save(writer);
-    writer.endElement();
     if (writer.commit())
         return true;
     MessageLog::error(writer.errorText());
@@ -77,7 +72,7 @@ bool DataPersistence::load_from_file(const QString& path)
         return false;
     }
     XMLFileReader reader(path);
-    if (reader.nextElement(objectElement))
+    if (reader.xml().readNextStartElement())
         load(reader);
     return true;
 }

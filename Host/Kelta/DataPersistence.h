@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Kelta/ClassRegistration.h"
 #include "Kelta/KeltaExport.h"
-#include "Kelta/RootClass.h"
 
 #include <cstddef>
 
@@ -12,29 +12,28 @@ namespace Kelta {
 class FileWriter;
 class XMLFileReader;
 
-/// What can be written into the host's XML files and read back.
+/// What knows its size in memory and can be written into an XML file of its own.
+///
+/// The XML operations are hooks for modules: projects are kept in JSON files by the application, so the host classes
+/// write nothing.
 class KELTA_EXPORT DataPersistence : public RootClass
 {
+    KELTA_ABSTRACT_CLASS;
+
 public:
-    static TypeInfo getClassTypeId();
-    TypeInfo getTypeId() const override;
-    static void init();
-
-    /// The bytes that the object itself takes, an estimate for the user.
+    /// The bytes that the object takes with all that it owns, an estimate for the user. Here the size of its registered
+    /// class; classes add what their members hold.
     virtual std::size_t get_memory_usage() const;
-    /// Writes the object inside the element that the caller has begun; nothing here.
+    /// Writes the content of the object inside the element that the caller has begun. Here nothing.
     virtual void save(FileWriter& writer) const;
-    /// Reads what save wrote from the element at which the reader stands, which it may leave; nothing here.
+    /// Reads what save wrote, inside the element that the reader has just entered. Here nothing.
     virtual void load(XMLFileReader& reader);
-    /// Writes a file of the object alone. False, with the reason in the message log, when it cannot be written; an
-    /// earlier file then stays.
+    /// Writes a file of the object alone, as save says. False, with the reason in the message log, if it cannot be
+    /// written; an earlier file then stays.
     virtual bool save_to_file(const QString& path) const;
-    /// Reads what save_to_file wrote of an object of the same class. False, with the reason in the message log, when it
-    /// cannot be read: a file that is cut off or of something else changes nothing.
+    /// Reads what save_to_file wrote of an object of the same class. False, with the reason in the message log, if it
+    /// cannot be read; a file that is cut off, or of another class, changes nothing.
     virtual bool load_from_file(const QString& path);
-
-private:
-    static TypeInfo classTypeId;
 };
 
 } // namespace Kelta

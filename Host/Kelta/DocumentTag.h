@@ -4,13 +4,12 @@
 
 namespace Kelta {
 
-/// What kind of project a document is. The number is part of saved records; modules may use numbers that have no name
-/// here.
+/// The kind of a project. The number is part of saved records; each module has a number for its projects.
+///
+///     constexpr Kelta::eDocumentTag assemblyTag{4711};
 enum class eDocumentTag : std::uint32_t
 {
     Undefined = 0,
-    Analysis = 1,
-    Material = 2,
 };
 
 } // namespace Kelta

@@ -1,93 +1,49 @@
 #include "Kelta/FileWriter.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QSaveFile>
 
-#include <algorithm>
 #include <cerrno>
 
 namespace Kelta {
 
-namespace {
-
-/// What an XML document cannot hold, not even in an escaped form.
-bool hasForbiddenCharacter(const QString& text)
+FileWriter::FileWriter(const QString& path) : m_path(path), m_xml(&m_document)
 {
-    return std::any_of(text.begin(), text.end(), [](QChar c) {
-        const bool isControl =
-            c < QLatin1Char(' ') && c != QLatin1Char('\t') && c != QLatin1Char('\n') && c != QLatin1Char('\r');
-        return isControl || c == QChar(0xFFFE) || c == QChar(0xFFFF);
-    });
-}
-
-} // namespace
-
-FileWriter::FileWriter(const QString& path) : m_file(path)
-{
-    const QFileInfo target(path);
-    // A device or a pipe would be replaced by a file of its name.
-    if (target.exists() && !target.isFile())
-        fail(QStringLiteral("this is not a file"));
-    else if (!m_file.open(QIODevice::WriteOnly))
-        fail(m_file.errorString());
-    else
-        beginDocument();
-}
-
-FileWriter::~FileWriter() = default;
-
-void FileWriter::beginElement(const QString& name)
-{
-    if (m_xml.device() != nullptr)
-        m_xml.writeStartElement(name);
-}
-
-void FileWriter::writeAttribute(const QString& name, const QString& value)
-{
-    if (m_xml.device() == nullptr)
-        return;
-    if (hasForbiddenCharacter(value))
-        return fail(
-            QStringLiteral("the value of \"%1\" has a control character, which no XML file can hold").arg(name));
-    m_xml.writeAttribute(name, value);
-}
-
-void FileWriter::endElement()
-{
-    if (m_xml.device() != nullptr)
-        m_xml.writeEndElement();
-}
-
-bool FileWriter::commit()
-{
-    if (m_xml.device() == nullptr)
-        return false;
-    m_xml.writeEndDocument();
-    // A write that falls short is only found by flushing; commit alone would miss it.
-    errno = 0;
-    const bool written = !m_xml.hasError() && m_file.flush() && m_file.commit();
-    // Of a flush that fails the file itself does not say why.
-    if (!written)
-        fail(errno != 0 ? qt_error_string(errno) : m_file.errorString());
-    m_xml.setDevice(nullptr);
-    return written;
-}
-
-void FileWriter::beginDocument()
-{
-    m_xml.setDevice(&m_file);
     m_xml.setAutoFormatting(true);
     m_xml.writeStartDocument();
 }
 
-void FileWriter::fail(const QString& reason)
+FileWriter::~FileWriter() = default;
+
+bool FileWriter::commit()
 {
-    m_reason = reason;
-    m_xml.setDevice(nullptr);
+    m_xml.writeEndDocument();
+    m_reason = m_xml.hasError() ? QCoreApplication::translate("Kelta", "a text has a character that XML cannot hold")
+                                : write();
+    return m_reason.isEmpty();
+}
+
+/// Returns the reason why the file cannot be written; empty if it was.
+QString FileWriter::write() const
+{
+    // A device or a pipe would be replaced by a file of its name.
+    const QFileInfo target(m_path);
+    if (target.exists() && !target.isFile())
+        return QCoreApplication::translate("Kelta", "this is not a file");
+    QSaveFile file(m_path);
+    errno = 0;
+    // A disk that is full is found by flushing; commit alone would miss it, and the file then does not tell the reason.
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(m_document) == m_document.size() && file.flush() && file.commit();
+    if (written)
+        return {};
+    return errno != 0 ? qt_error_string(errno) : file.errorString();
 }
 
 QString FileWriter::errorText() const
 {
-    return QStringLiteral("%1: %2").arg(m_file.fileName(), m_reason);
+    return QStringLiteral("%1: %2").arg(m_path, m_reason);
 }
 
 } // namespace Kelta

@@ -2,15 +2,16 @@
 
 #include "Kelta/KeltaExport.h"
 
-#include <QSaveFile>
+#include <QByteArray>
 #include <QString>
 #include <QXmlStreamWriter>
 
 namespace Kelta {
 
-/// The host's XML file while it is written. The file changes only at commit, and whole; a writer that is destroyed
-/// before leaves an earlier file as it was. Once something failed, nothing more is written, and commit says so: the
-/// place is no file and cannot become one, the disk is full, a text has a control character.
+/// An XML file that is being written. The hooks `Save` of a project and `save` of an object take one; the host itself
+/// keeps projects in JSON files and writes nothing here.
+///
+/// The document is made in memory. The file changes only in commit, and as a whole.
 class KELTA_EXPORT FileWriter
 {
 public:
@@ -19,21 +20,20 @@ public:
     FileWriter& operator=(const FileWriter&) = delete;
     ~FileWriter();
 
-    void beginElement(const QString& name);
-    void writeAttribute(const QString& name, const QString& value);
-    void endElement();
+    /// Writes the elements of the document.
+    QXmlStreamWriter& xml() { return m_xml; }
 
-    /// Ends the document, with the elements that are open, and puts it in its place; false when that cannot be done. The
-    /// writer is then done with, and a second commit answers false.
+    /// Ends the elements that are open and writes the file. False, with the reason in errorText, if a text has a
+    /// character that XML cannot hold, or if the file cannot be written; an earlier file then stays.
     [[nodiscard]] bool commit();
-    /// Why commit failed, with the path.
+    /// Why commit failed: "PATH: reason".
     QString errorText() const;
 
 private:
-    void beginDocument();
-    void fail(const QString& reason);
+    QString write() const;
 
-    QSaveFile m_file;
+    QString m_path;
+    QByteArray m_document;
     QXmlStreamWriter m_xml;
     QString m_reason;
 };

@@ -1,5 +1,9 @@
 #include "Kelta/MessageLog.h"
 
+#include "Kelta/Exceptions.h"
+
+#include <QCoreApplication>
+
 namespace Kelta {
 
 MessageLog& MessageLog::instance()
@@ -10,14 +14,25 @@ MessageLog& MessageLog::instance()
 
 void MessageLog::report(LogMessage::Severity severity, const QString& text)
 {
+    add(severity, text);
+    try {
+        // A message of its own: a listener may report too, or clear the log.
+        Q_EMIT reported({severity, text});
+    } catch (...) {
+        // Listeners are not told of this message, since one of them fails.
+        add(LogMessage::Severity::Error,
+            QCoreApplication::translate("Kelta", "A listener of the message log failed: %1")
+                .arg(currentExceptionText()));
+    }
+}
+
+void MessageLog::add(LogMessage::Severity severity, const QString& text)
+{
     if (m_messages.size() == capacity)
         m_messages.pop_front();
     m_messages.push_back({severity, text});
     if (severity == LogMessage::Severity::Error)
         ++m_errorCount;
-    // A copy: who listens may report too, and the log may then let go of this message.
-    const LogMessage message = m_messages.back();
-    Q_EMIT reported(message);
 }
 
 } // namespace Kelta

@@ -22,8 +22,8 @@ struct LogMessage
     QString text;
 };
 
-/// What the program has to say without asking: the user reads it in the log window, a program without windows on
-/// standard error, for as long as somebody listens to reported().
+/// The messages of the program that need no answer. The log window shows them; a program without windows writes them to
+/// standard error. Both listen to reported().
 ///
 ///     Kelta::MessageLog::error(tr("The class \"%1\" is not known.").arg(name));
 class KELTA_EXPORT MessageLog : public QObject
@@ -37,13 +37,15 @@ public:
     static void warning(const QString& text) { instance().report(LogMessage::Severity::Warning, text); }
     static void error(const QString& text) { instance().report(LogMessage::Severity::Error, text); }
 
+    /// Adds a message and tells the listeners. What a listener throws does not pass through: it becomes an error in the
+    /// log, of which nobody is told.
     void report(LogMessage::Severity severity, const QString& text);
 
-    /// The latest messages, the oldest first; at most `capacity`.
+    /// The latest messages, the oldest first, at most `capacity` of them.
     const std::deque<LogMessage>& messages() const { return m_messages; }
     static constexpr std::size_t capacity = 10000;
 
-    /// How many errors have been reported since the program began; what starts something compares before and after.
+    /// The number of errors since the program began, so that a caller can compare it before and after an operation.
     std::size_t errorCount() const { return m_errorCount; }
     void clear() { m_messages.clear(); }
 
@@ -51,6 +53,8 @@ Q_SIGNALS:
     void reported(const Kelta::LogMessage& message);
 
 private:
+    void add(LogMessage::Severity severity, const QString& text);
+
     std::deque<LogMessage> m_messages;
     std::size_t m_errorCount = 0;
 };

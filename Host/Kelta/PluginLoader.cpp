@@ -1,13 +1,14 @@
 #include "Kelta/PluginLoader.h"
 
+#include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
+#include "Kelta/ModuleDescriptor.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
+#include <QLibrary>
 
-#include <algorithm>
-#include <exception>
+#include <stdexcept>
 #include <utility>
 
 namespace Kelta {
@@ -16,34 +17,36 @@ namespace {
 
 using Entry = void (*)();
 
-QString fileNameOf(const QString& plugin)
+QString tr(const char* text)
 {
-    return QStringLiteral("lib%1.so").arg(plugin);
+    return QCoreApplication::translate("Kelta::PluginLoader", text);
 }
 
-/// What an entry threw, empty when it returned. A plug-in should let nothing out, but a broken one must not end the
-/// program that loads it.
+[[noreturn]] void fail(const QString& reason)
+{
+    throw std::runtime_error(reason.toStdString());
+}
+
+/// What an entry threw; empty if it returned. A module should let nothing out, but a broken one must not end the program
+/// that loads it.
 QString whatItThrows(Entry entry)
 {
     try {
         entry();
         return {};
-    } catch (const std::exception& exception) {
-        const QString text = QString::fromUtf8(exception.what());
-        return text.isEmpty() ? QStringLiteral("an exception without a text") : text;
     } catch (...) {
-        return QStringLiteral("an exception of an unknown kind");
+        return currentExceptionText();
     }
 }
 
-/// Why an entry failed, empty when it did not: what it threw, or the first error that it reported.
+/// Why an entry failed, empty if it did not: what it threw, or the first error that it reported.
 QString whyItFails(Entry entry)
 {
     QString firstError;
     const QMetaObject::Connection listening =
         QObject::connect(&MessageLog::instance(), &MessageLog::reported, [&firstError](const LogMessage& message) {
             if (message.severity == LogMessage::Severity::Error && firstError.isNull())
-                firstError = message.text.isEmpty() ? QStringLiteral("an error without a text") : message.text;
+                firstError = message.text.isEmpty() ? tr("an error without a text") : message.text;
         });
     const QString thrown = whatItThrows(entry);
     QObject::disconnect(listening);
@@ -51,6 +54,148 @@ QString whyItFails(Entry entry)
 }
 
 } // namespace
+
+struct PluginLoader::Library
+{
+    Entry resolve(const QString& entry) { return reinterpret_cast<Entry>(file.resolve(entry.toLatin1().constData())); }
+
+    QLibrary file;
+    QStringList calledEntries;
+};
+
+/// Loads modules and those that they need, each once.
+class PluginLoader::Run
+{
+public:
+    explicit Run(PluginLoader& loader) : m_loader(loader) { findModules(); }
+
+    void loadAll();
+    void load(const QString& name);
+    Outcome takeOutcome() { return std::move(m_outcome); }
+
+private:
+    void findModules();
+    void tryToLoad(const QString& name, const QString& file);
+    void loadNeeds(const ModuleDescriptor& descriptor);
+    void refuseCircle(const QString& need);
+    void enter(const ModuleDescriptor& descriptor);
+    Library& openLibrary(const QString& path);
+    static void callEntry(Library& library, const QString& entry);
+
+    PluginLoader& m_loader;
+    std::map<QString, QString> m_files;           ///< descriptors by module
+    std::map<QString, QVersionNumber> m_versions; ///< of the modules that are loaded
+    QStringList m_chain;                          ///< the modules that are being loaded, each for the one before it
+    Outcome m_outcome;
+};
+
+void PluginLoader::Run::findModules()
+{
+    const QString suffix = QLatin1String(descriptorSuffix);
+    for (const QString& folder : m_loader.m_folders)
+        // A folder or a pipe of this name is a broken descriptor, which is to be named.
+        for (const QString& file : QDir(folder).entryList({QLatin1Char('*') + suffix},
+                                                          QDir::AllEntries | QDir::System | QDir::Hidden, QDir::Name))
+            m_files.emplace(file.chopped(suffix.size()), QDir(folder).absoluteFilePath(file));
+}
+
+void PluginLoader::Run::loadAll()
+{
+    for (const auto& [name, file] : m_files)
+        load(name);
+}
+
+void PluginLoader::Run::load(const QString& name)
+{
+    if (m_versions.count(name) != 0 || m_outcome.failed.count(name) != 0)
+        return;
+    const auto found = m_files.find(name);
+    if (found == m_files.end()) {
+        m_outcome.failed[name] =
+            tr("there is no %1 in %2")
+                .arg(name + QLatin1String(descriptorSuffix), m_loader.m_folders.join(QStringLiteral(", ")));
+        return;
+    }
+    m_chain << name;
+    tryToLoad(name, found->second);
+    m_chain.removeLast();
+}
+
+void PluginLoader::Run::tryToLoad(const QString& name, const QString& file)
+{
+    try {
+        const ModuleDescriptor descriptor = readModuleDescriptor(file);
+        loadNeeds(descriptor);
+        enter(descriptor);
+        m_versions[name] = descriptor.version;
+        m_outcome.loaded << name;
+    } catch (...) {
+        // A circle has been told of already.
+        m_outcome.failed.emplace(name, tr("%1 (%2)").arg(currentExceptionText(), QDir::toNativeSeparators(file)));
+    }
+}
+
+void PluginLoader::Run::loadNeeds(const ModuleDescriptor& descriptor)
+{
+    for (const auto& [need, version] : descriptor.needs) {
+        refuseCircle(need);
+        if (m_files.count(need) == 0)
+            fail(tr("it needs the module \"%1\", which is missing").arg(need));
+        load(need);
+        if (m_outcome.failed.count(need) != 0)
+            fail(tr("it needs the module \"%1\", which was not loaded").arg(need));
+        if (isOlder(m_versions[need], version))
+            fail(tr("it needs version %1 of the module \"%2\", which has version %3")
+                     .arg(version.toString(), need, m_versions[need].toString()));
+    }
+}
+
+/// Every module of the circle gets the same reason.
+void PluginLoader::Run::refuseCircle(const QString& need)
+{
+    const int begin = m_chain.indexOf(need);
+    if (begin < 0)
+        return;
+    const QStringList circle = m_chain.mid(begin);
+    const QString reason = tr("it needs itself: %1").arg((circle + QStringList(need)).join(QStringLiteral(" > ")));
+    for (const QString& module : circle)
+        m_outcome.failed.emplace(module, reason);
+    fail(reason);
+}
+
+void PluginLoader::Run::enter(const ModuleDescriptor& descriptor)
+{
+    Library& library = openLibrary(descriptor.library);
+    for (const QString& entry : descriptor.entries)
+        if (library.resolve(entry) == nullptr)
+            fail(tr("its library %1 has no function \"%2\"").arg(descriptor.library, entry));
+    for (const QString& entry : descriptor.entries)
+        callEntry(library, entry);
+}
+
+PluginLoader::Library& PluginLoader::Run::openLibrary(const QString& path)
+{
+    const auto loaded = m_loader.m_libraries.find(path);
+    if (loaded != m_loader.m_libraries.end())
+        return *loaded->second;
+    auto library = std::make_unique<Library>();
+    library->file.setFileName(path);
+    // Whole and at once: a symbol that is missing is found now, not in the middle of the work.
+    library->file.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    if (!library->file.load())
+        fail(tr("its library cannot be loaded: %1").arg(library->file.errorString()));
+    return *m_loader.m_libraries.emplace(path, std::move(library)).first->second;
+}
+
+void PluginLoader::Run::callEntry(Library& library, const QString& entry)
+{
+    if (library.calledEntries.contains(entry))
+        return;
+    const QString why = whyItFails(library.resolve(entry));
+    if (!why.isEmpty())
+        fail(tr("\"%1\" of its library failed: %2").arg(entry, why));
+    library.calledEntries << entry;
+}
 
 PluginLoader::PluginLoader(QStringList folders) : m_folders(std::move(folders)) {}
 
@@ -61,75 +206,33 @@ QStringList PluginLoader::standardFolders()
     const QString paths = qEnvironmentVariable("KELTA_PLUGIN_PATH");
     QStringList folders = paths.split(QDir::listSeparator(), Qt::SkipEmptyParts);
     if (QCoreApplication::instance() != nullptr)
-        for (const char* folder : {"../lib/vxMaterial", "../" KELTA_LIBRARY_FOLDER "/vxMaterial", "../lib", "."})
+        for (const char* folder :
+             {"../lib/" KELTA_PACKAGE, "../" KELTA_LIBRARY_FOLDER "/" KELTA_PACKAGE, "../lib", "."})
             folders << QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(folder)));
     folders.removeDuplicates();
     return folders;
 }
 
-bool PluginLoader::load(const QString& name, const QStringList& entries)
+PluginLoader::Outcome PluginLoader::loadAll()
 {
-    m_errorText.clear();
-    Plugin* const plugin = openPlugin(name);
-    if (plugin == nullptr)
-        return false;
-    for (const QString& entry : entries)
-        if (plugin->library.resolve(entry.toLatin1().constData()) == nullptr)
-            return fail(
-                QStringLiteral("The plug-in \"%1\" (%2) has no entry \"%3\"; it is not a plug-in of this program.")
-                    .arg(name, plugin->library.fileName(), entry));
-    return std::all_of(entries.begin(), entries.end(),
-                       [&](const QString& entry) { return callEntry(name, *plugin, entry); });
+    Run run(*this);
+    run.loadAll();
+    Outcome outcome = run.takeOutcome();
+    for (const auto& [name, reason] : outcome.failed)
+        MessageLog::error(tr("The module \"%1\" was not loaded: %2").arg(name, reason));
+    return outcome;
 }
 
-QString PluginLoader::findFile(const QString& name) const
+bool PluginLoader::load(const QString& name)
 {
-    for (const QString& folder : m_folders) {
-        QString path = QDir(folder).filePath(fileNameOf(name));
-        if (QFileInfo::exists(path))
-            return path;
-    }
-    return {};
-}
-
-PluginLoader::Plugin* PluginLoader::openPlugin(const QString& name)
-{
-    const auto loaded = m_plugins.find(name);
-    if (loaded != m_plugins.end())
-        return loaded->second.get();
-    const QString path = findFile(name);
-    if (path.isEmpty()) {
-        fail(QStringLiteral("The plug-in \"%1\" is not there: no %2 in %3.")
-                 .arg(name, fileNameOf(name), m_folders.join(QStringLiteral(", "))));
-        return nullptr;
-    }
-    auto plugin = std::make_unique<Plugin>();
-    plugin->library.setFileName(path);
-    // Whole and at once: a symbol that is missing is found now, not in the middle of the work.
-    plugin->library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    if (!plugin->library.load()) {
-        fail(QStringLiteral("The plug-in \"%1\" cannot be loaded: %2").arg(name, plugin->library.errorString()));
-        return nullptr;
-    }
-    return m_plugins.emplace(name, std::move(plugin)).first->second.get();
-}
-
-bool PluginLoader::callEntry(const QString& name, Plugin& plugin, const QString& entry)
-{
-    if (plugin.calledEntries.contains(entry))
-        return true;
-    const QString why = whyItFails(reinterpret_cast<Entry>(plugin.library.resolve(entry.toLatin1().constData())));
-    if (!why.isEmpty())
-        return fail(QStringLiteral("The plug-in \"%1\" (%2) failed in \"%3\": %4")
-                        .arg(name, plugin.library.fileName(), entry, why));
-    plugin.calledEntries << entry;
-    return true;
-}
-
-bool PluginLoader::fail(const QString& text)
-{
-    m_errorText = text;
-    return false;
+    Run run(*this);
+    run.load(name);
+    const Outcome outcome = run.takeOutcome();
+    const auto failure = outcome.failed.find(name);
+    m_errorText = failure == outcome.failed.end()
+                      ? QString()
+                      : tr("The module \"%1\" was not loaded: %2").arg(name, failure->second);
+    return m_errorText.isEmpty();
 }
 
 } // namespace Kelta

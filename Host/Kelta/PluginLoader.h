@@ -2,7 +2,6 @@
 
 #include "Kelta/KeltaExport.h"
 
-#include <QLibrary>
 #include <QString>
 #include <QStringList>
 
@@ -11,44 +10,50 @@
 
 namespace Kelta {
 
-/// Loads plug-in libraries by name and calls their entry functions, which have C linkage, take nothing and answer
-/// nothing.
+/// Finds modules by their descriptors, loads their libraries in the order of dependence, and calls their entry functions,
+/// which have C linkage, take nothing and return nothing.
 ///
-/// A library that is loaded stays so until the program ends: objects, types and texts point into it.
+///     Kelta::PluginLoader loader;
+///     const Kelta::LoadedModules modules = loader.loadAll();   // what fails is in the message log
+///
+/// A library that is loaded stays loaded until the program ends, because objects, types and texts point into it.
 class KELTA_EXPORT PluginLoader
 {
 public:
-    /// Looks for plug-ins in these folders, in their order.
+    /// Looks for descriptors in these folders. If several folders have a descriptor of one name, the first folder counts,
+    /// even if its descriptor is broken.
     explicit PluginLoader(QStringList folders = standardFolders());
     PluginLoader(const PluginLoader&) = delete;
     PluginLoader& operator=(const PluginLoader&) = delete;
     ~PluginLoader();
 
-    /// The folders of the environment variable KELTA_PLUGIN_PATH, separated as in PATH; then those beside the
+    /// The folders of the environment variable KELTA_PLUGIN_PATH, separated as in PATH, and then those beside the
     /// program, as a build tree and an installation have them.
     static QStringList standardFolders();
 
-    /// Loads the plug-in "vxMaterial" from libvxMaterial.so and calls its entries, in the order given. Entries that
-    /// succeeded before are not called again.
-    ///
-    /// False when the file is missing or no library, when one of the entries is not in it (then none is called), or
-    /// when an entry fails: it reports errors to the message log, or throws. errorText then tells which.
-    [[nodiscard]] bool load(const QString& name, const QStringList& entries);
+    /// What became of the modules of the folders.
+    struct Outcome
+    {
+        QStringList loaded;                ///< names, in the order of loading
+        std::map<QString, QString> failed; ///< translated reasons by name
+    };
+
+    /// Loads every module of the folders, each behind those that it needs. A module that fails is reported to the message
+    /// log by its name with the reason, and the others are loaded: its descriptor or library is broken, an entry is
+    /// missing (then none is called), an entry throws or reports an error, it needs a newer host, or it needs a module
+    /// that is missing, too old, failed, or needs it in turn. Entries that succeeded before are not called again.
+    Outcome loadAll();
+
+    /// Loads one module by its name, and those that it needs. False, with the reason in errorText, if it fails.
+    [[nodiscard]] bool load(const QString& name);
     QString errorText() const { return m_errorText; }
 
 private:
-    struct Plugin
-    {
-        QLibrary library;
-        QStringList calledEntries;
-    };
-    QString findFile(const QString& name) const;
-    Plugin* openPlugin(const QString& name);
-    bool callEntry(const QString& name, Plugin& plugin, const QString& entry);
-    bool fail(const QString& text);
+    class Run;
+    struct Library;
 
     QStringList m_folders;
-    std::map<QString, std::unique_ptr<Plugin>> m_plugins;
+    std::map<QString, std::unique_ptr<Library>> m_libraries; ///< those that are loaded, by path
     QString m_errorText;
 };
 

@@ -4,6 +4,8 @@
 
 #include "Kelta/MessageLog.h"
 
+#include <QCoreApplication>
+
 #include <map>
 
 namespace Kelta {
@@ -11,6 +13,11 @@ namespace Kelta {
 namespace {
 
 constexpr const char* rootName = "Kelta::RootClass";
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Kelta::RootClass", text);
+}
 
 using TypeRegistry = std::map<std::string, TypeRecord, std::less<>>;
 
@@ -31,7 +38,7 @@ bool descendsFrom(std::string_view name, std::string_view ancestor)
 
 void refuse(const QString& name, const QString& reason)
 {
-    MessageLog::error(QStringLiteral("The class \"%1\" cannot be registered: %2").arg(name, reason));
+    MessageLog::error(tr("The class \"%1\" cannot be registered: %2").arg(name, reason));
 }
 
 } // namespace
@@ -61,19 +68,20 @@ TypeInfo RootClass::getTypeId() const
 
 RootClass::~RootClass() = default;
 
-void RootClass::initSubclass(TypeInfo& classTypeId, const char* name, const char* parentName, void* (*create)())
+void RootClass::initSubclass(TypeInfo& classTypeId, const char* name, const char* parentName, void* (*create)(),
+                             std::size_t objectSize)
 {
     const std::string_view parent = parentName != nullptr ? parentName : "";
     if (name == nullptr || *name == '\0')
-        return refuse(QString(), QStringLiteral("it has no name"));
+        return refuse(QString(), tr("it has no name"));
     const TypeRecord* record = findTypeRecord(name);
     if (record == nullptr && descendsFrom(parent, name))
-        return refuse(QString::fromUtf8(name), QStringLiteral("it would descend from itself"));
+        return refuse(QString::fromUtf8(name), tr("it would descend from itself"));
 
     if (record == nullptr)
-        record = addTypeRecord({name, std::string(parent), create});
+        record = addTypeRecord({name, std::string(parent), create, objectSize});
     else if (record->parentName != parent || record->create != create)
-        return refuse(QString::fromUtf8(name), QStringLiteral("another class has this name"));
+        return refuse(QString::fromUtf8(name), tr("another class has this name"));
     classTypeId.m_record = record;
 }
 

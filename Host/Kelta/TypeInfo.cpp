@@ -35,6 +35,11 @@ bool TypeInfo::is_inherited_from(TypeInfo ancestor) const
     return false;
 }
 
+std::size_t TypeInfo::get_object_size() const
+{
+    return m_record != nullptr ? m_record->objectSize : 0;
+}
+
 void* TypeInfo::create() const
 {
     return m_record != nullptr && m_record->create != nullptr ? m_record->create() : nullptr;

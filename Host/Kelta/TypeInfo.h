@@ -2,14 +2,16 @@
 
 #include "Kelta/KeltaExport.h"
 
+#include <cstddef>
+
 namespace Kelta {
 
 struct TypeRecord;
 
-/// A registered class: what objects are asked for by, compared with and created from. A handle of the size of a
-/// pointer, copied freely; what it refers to lives as long as the program.
+/// A registered class. Objects are found, compared and created by it. A handle of the size of a pointer, to be copied
+/// freely; the registration that it refers to lives as long as the program.
 ///
-///     Kelta::TypeInfo type = Kelta::TypeInfo::find("Mat::MaterialObject");
+///     Kelta::TypeInfo type = Kelta::TypeInfo::find("Fastening::Bolt");
 ///     if (type.is_inherited_from(Obj::ProjectObject::getClassTypeId())) ...
 class KELTA_EXPORT TypeInfo
 {
@@ -17,18 +19,21 @@ public:
     /// Names no type: its name is empty, it has no parent, and it creates nothing.
     TypeInfo() = default;
 
-    /// The type registered under `name`, which may be null; one that names no type when there is none.
+    /// Returns the type registered under `name`, which may be null; one that names no type if there is none.
     static TypeInfo find(const char* name);
 
     const char* get_name() const;
-    /// The type that it was registered under; names no type for a root, and while the parent is not registered.
+    /// The type of the parent class; names no type for a root, and as long as the parent is not registered.
     TypeInfo get_parent() const;
-    /// Whether it is `ancestor` or descends from it. False when either names no type.
+    /// Whether it is `ancestor` or descends from it. False if either names no type.
     bool is_inherited_from(TypeInfo ancestor) const;
     bool names_a_type() const { return m_record != nullptr; }
 
-    /// A new object, as the address of its RootClass; null when the class is abstract or memory runs out. The caller
-    /// owns it. What the constructor throws passes through.
+    /// The size of an object in bytes, without what it holds elsewhere; 0 if it is not known.
+    std::size_t get_object_size() const;
+
+    /// Returns a new object, as the address of its RootClass; null if the class is not created by its name or memory is
+    /// exhausted. The caller owns the object. What the constructor throws passes through.
     void* create() const;
 
     friend bool operator==(TypeInfo a, TypeInfo b) { return a.m_record == b.m_record; }

@@ -2,6 +2,7 @@
 
 #include "Kelta/TypeInfo.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,11 +14,12 @@ struct TypeRecord
     std::string name;
     std::string parentName;
     void* (*create)() = nullptr;
-    /// Filled when it is first asked for: a module may register a class before the parent is there.
+    std::size_t objectSize = 0; ///< 0 if it is not known
+    /// Filled when it is first asked for, because a module may register a class before its parent.
     mutable const TypeRecord* parent = nullptr;
 };
 
-/// Null when the name is not registered.
+/// Returns null if the name is not registered.
 const TypeRecord* findTypeRecord(std::string_view name);
 
 /// Adds a record whose name is free, and whose line of parents does not come back to it.

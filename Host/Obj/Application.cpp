@@ -1,32 +1,38 @@
 #include "Obj/Application.h"
 
-#include "Kelta/FileWriter.h"
 #include "Kelta/MessageLog.h"
+#include "Obj/Placeholder.h"
 #include "Obj/ProjectObjectGroup.h"
 
-#include <QString>
+#include <QCoreApplication>
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace Obj {
 
 namespace {
 
-/// A new project of a registered class; null, with the reason in the message log, when there is none.
-std::unique_ptr<Project> createProject(const char* className)
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Obj::Application", text);
+}
+
+/// Returns a new project of a registered class; null, with the reason in the message log, if there is none.
+OwnedProject createProject(const char* className)
 {
     const Kelta::TypeInfo type = Kelta::TypeInfo::find(className);
     QString reason;
     if (!type.names_a_type())
-        reason = QStringLiteral("this class is not known");
+        reason = tr("this class is not known");
     else if (!type.is_inherited_from(Project::getClassTypeId()))
-        reason = QStringLiteral("this class is not one of projects");
+        reason = tr("this is not a class of projects");
     else if (void* const created = type.create())
-        return std::unique_ptr<Project>(static_cast<Project*>(static_cast<Kelta::RootClass*>(created)));
+        return OwnedProject(static_cast<Project*>(static_cast<Kelta::RootClass*>(created)));
     else
-        reason = QStringLiteral("the class made none");
-    Kelta::MessageLog::error(QStringLiteral("No project of class \"%1\" was made: %2.")
+        reason = tr("the class created none");
+    Kelta::MessageLog::error(tr("No project of class \"%1\" was made: %2.")
                                  .arg(QString::fromUtf8(className != nullptr ? className : ""), reason));
     return nullptr;
 }
@@ -39,7 +45,9 @@ void initObj()
     PropertyDS::init();
     ProjectObject::init();
     ProjectObjectGroup::init();
+    PlaceholderObject::init();
     Project::init();
+    PlaceholderProject::init();
 }
 
 Application& Application::instance()
@@ -78,8 +86,9 @@ Project* Application::get_current_project()
 std::string Application::get_unique_project_name(std::string_view stem)
 {
     Application& application = instance();
-    return application.m_names.make(
-        stem, [&application](const std::string& name) { return application.get_project(name) != nullptr; });
+    return application.m_names.make(stem, [&application](const std::string& name) {
+        return application.get_project(name) != nullptr || application.m_goneNames.count(name) != 0;
+    });
 }
 
 Project* Application::get_project(std::string_view name) const
@@ -98,11 +107,15 @@ Project* Application::get_project(std::uint32_t projectId) const
 
 Project* Application::create_project(const char* className, std::string_view name)
 {
-    std::unique_ptr<Project> project = createProject(className);
-    if (project == nullptr)
-        return nullptr;
-    const bool free = !name.empty() && get_project(name) == nullptr;
-    project->m_name = free ? std::string(name) : get_unique_project_name(name.empty() ? "Project" : name);
+    OwnedProject project = createProject(className);
+    return project != nullptr ? add_project(std::move(project), name) : nullptr;
+}
+
+Project* Application::add_project(OwnedProject project, std::string_view name)
+{
+    assert(project->m_projectId == 0);
+    const bool isFree = !name.empty() && get_project(name) == nullptr;
+    project->m_name = isFree ? std::string(name) : get_unique_project_name(name.empty() ? "Project" : name);
     project->m_projectId = m_nextProjectId++;
     project->id.setValue(project->m_projectId);
     return restore_project(std::move(project));
@@ -114,13 +127,15 @@ void Application::set_current_project(Project& project)
         makeCurrent(&project);
 }
 
-std::unique_ptr<Project> Application::take_project(const Project& project)
+OwnedProject Application::take_project(const Project& project)
 {
+    const RemovalGuard guard;
     const auto found = std::find_if(m_projects.begin(), m_projects.end(),
                                     [&project](const auto& candidate) { return candidate.get() == &project; });
     if (found == m_projects.end())
         return nullptr;
-    std::unique_ptr<Project> taken = std::move(*found);
+    m_goneNames.insert(project.m_name);
+    OwnedProject taken(found->release());
     m_projects.erase(found);
     if (m_current == taken.get())
         makeCurrent(m_projects.empty() ? nullptr : m_projects.back().get());
@@ -128,28 +143,38 @@ std::unique_ptr<Project> Application::take_project(const Project& project)
     return taken;
 }
 
-Project* Application::restore_project(std::unique_ptr<Project> project)
+Project* Application::restore_project(OwnedProject project)
 {
-    Project* const restored = project.get();
-    if (restored == nullptr)
+    if (project == nullptr)
         return nullptr;
-    if (get_project(restored->m_name) != nullptr) {
-        const std::string name = get_unique_project_name(restored->m_name);
-        Kelta::MessageLog::warning(QStringLiteral("The project \"%1\" came back as \"%2\": another one has its name.")
-                                       .arg(QString::fromStdString(restored->m_name), QString::fromStdString(name)));
-        restored->m_name = name;
-    }
-    const std::uint32_t projectId = restored->m_projectId;
-    const auto place = std::find_if(m_projects.begin(), m_projects.end(), [restored](const auto& other) {
-        return other->m_projectId > restored->m_projectId;
+    const RemovalGuard guard;
+    Project& restored = *project;
+    giveFreeName(restored);
+    insert(std::move(project));
+    m_goneNames.erase(restored.m_name);
+    projectAdded(restored);
+    set_current_project(restored);
+    // A listener may have closed it.
+    return get_project(restored.m_projectId);
+}
+
+void Application::giveFreeName(Project& project)
+{
+    if (get_project(project.m_name) == nullptr)
+        return;
+    std::string name = get_unique_project_name(project.m_name);
+    Kelta::MessageLog::warning(tr(R"(The project "%1" came back as "%2": another one has its name.)")
+                                   .arg(QString::fromStdString(project.m_name), QString::fromStdString(name)));
+    project.m_name = std::move(name);
+}
+
+void Application::insert(OwnedProject project)
+{
+    const auto place = std::find_if(m_projects.begin(), m_projects.end(), [&project](const auto& other) {
+        return other->m_projectId > project->m_projectId;
     });
-    m_projects.insert(place, std::move(project));
-    projectAdded(*restored);
-    // Who was told may have closed it.
-    if (get_project(projectId) != restored)
-        return nullptr;
-    makeCurrent(restored);
-    return restored;
+    // First the place, which may need memory, then the project.
+    m_projects.insert(place, nullptr)->reset(project.release());
 }
 
 bool Application::close_project(const Project& project)
@@ -170,24 +195,6 @@ Json::Value Application::save_jsonDB() const
     for (const auto& project : m_projects)
         project->save_jsonDB(records.append(Json::Value()));
     return database;
-}
-
-bool Application::save_projects(const QString& path) const
-{
-    Kelta::FileWriter writer(path);
-    writer.beginElement(QStringLiteral("projects"));
-    for (const auto& project : m_projects) {
-        writer.beginElement(QStringLiteral("project"));
-        writer.writeAttribute(QStringLiteral("class"), QString::fromUtf8(project->getTypeId().get_name()));
-        writer.writeAttribute(QStringLiteral("name"), QString::fromStdString(project->m_name));
-        project->Save(writer);
-        writer.endElement();
-    }
-    writer.endElement();
-    if (writer.commit())
-        return true;
-    Kelta::MessageLog::error(writer.errorText());
-    return false;
 }
 
 void Application::makeCurrent(Project* project)

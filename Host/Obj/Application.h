@@ -3,6 +3,7 @@
 #include "Kelta/DocumentTag.h"
 #include "Obj/ObjExport.h"
 #include "Obj/Project.h"
+#include "Obj/Removal.h"
 #include "Obj/Signal.h"
 #include "Obj/UniqueNames.h"
 
@@ -12,18 +13,17 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
-
-class QString;
 
 namespace Obj {
 
-/// Registers the classes of this library. Called once, before anything else of it; again changes nothing.
+/// Registers the classes of this library. To be called before anything else of it. Safe to call more than once.
 OBJ_EXPORT void initObj();
 
-/// All projects that are open, which it owns. One of them is the current one, to which what the user does applies.
+/// Owns all projects that are open. One of them is the current one, to which the commands of the user apply.
 ///
-/// Projects are made and closed here without undo; what the user asks for goes through the message proxy.
+/// Projects are made and closed here without undo; requests of the user are sent to the message proxy.
 class OBJ_EXPORT Application
 {
 public:
@@ -32,45 +32,47 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    /// In the order in which they were first opened.
+    /// Returns the open projects in the order in which they were first opened.
     static std::vector<Project*> get_projects();
     static std::vector<Project*> get_projects(Kelta::eDocumentTag tag);
     static std::vector<Project*> get_projects(std::uint32_t tag);
-    /// Null when no project is open.
+    /// Null if no project is open.
     static Project* get_current_project();
-    /// A name that no project has, and that was not answered before.
+    /// Returns a name from `stem` that no project has or had, another one at each call.
     static std::string get_unique_project_name(std::string_view stem);
 
+    /// Null if no open project has the name or the id.
     Project* get_project(std::string_view name) const;
     Project* get_project(std::uint32_t projectId) const;
 
-    /// Makes a project of a registered class and makes it the current one. When a project has the name, a unique one is
-    /// made from it. Null, with the reason in the message log, when the class is not registered, is no Project or makes
-    /// none. What the project's constructor throws passes through.
+    /// Makes a project of a registered class and makes it the current one. If a project has the name, a unique one is made
+    /// from it. Returns null, with the reason in the message log, if the class is not registered, is not a Project or
+    /// cannot be created; and null if a listener has closed the project at once. What the project's constructor throws
+    /// passes through.
     Project* create_project(const char* className, std::string_view name);
-    /// Makes a project that is open the current one.
+    /// Adds a project that code has made, not null and never in the application before, in the same way.
+    Project* add_project(OwnedProject project, std::string_view name);
+    /// Makes an open project the current one.
     void set_current_project(Project& project);
 
-    /// Closes a project, and answers it to be kept for undo or destroyed; null when it is not open. The last of those
-    /// that stay becomes the current one if it was.
-    [[nodiscard]] std::unique_ptr<Project> take_project(const Project& project);
-    /// Opens again what take_project answered, at its place and under its name, and makes it the current one. When
-    /// another project has got its name meanwhile, it comes back under a unique one, and the message log says so. Null
-    /// when there is nothing to open, or when somebody who was told has closed it at once.
-    Project* restore_project(std::unique_ptr<Project> project);
-    /// Destroys a project; false when it is not open.
+    /// Closes a project and returns it, to be kept for undo or destroyed; null if it is not open. If it was the current
+    /// one, the last of the others becomes it.
+    [[nodiscard]] OwnedProject take_project(const Project& project);
+    /// Opens again a project that take_project returned, at its place and under its name, and makes it the current one. If
+    /// another project has its name meanwhile, it gets a unique one, and the message log says so. Returns null if there is
+    /// nothing to open, or if a listener has closed the project at once.
+    Project* restore_project(OwnedProject project);
+    /// Destroys a project; false if it is not open.
     bool close_project(const Project& project);
-    /// Destroys all projects, the last first. To be called before the program ends: objects of plug-ins must not outlive
-    /// them.
+    /// Destroys all projects, the last one first. To be called before the program ends, since objects of modules must not
+    /// outlive their libraries.
     void close_all_projects();
 
-    /// The project database: "projects", an array with a record of each, in order.
+    /// Returns the project database: "projects", an array with a record of each, in order.
     Json::Value save_jsonDB() const;
-    /// Writes the host's XML file of all projects. False, with the reason in the message log, when that fails; an
-    /// earlier file then stays.
-    bool save_projects(const QString& path) const;
 
-    /// A project is there when it is opened and still there when it has been closed.
+    /// A project is open when it is added, and whole, but not open, when it has been removed. Listeners may change
+    /// everything, even close the project that they are told of; listeners after them are told all the same.
     Signal<void(Project&)> projectAdded;
     Signal<void(Project&)> projectRemoved;
     Signal<void(Project*)> currentProjectChanged;
@@ -78,11 +80,14 @@ public:
 private:
     Application() = default;
     ~Application() = default;
+    void giveFreeName(Project& project);
+    void insert(OwnedProject project);
     void makeCurrent(Project* project);
 
-    std::vector<std::unique_ptr<Project>> m_projects; ///< by id
+    std::vector<std::unique_ptr<Project>> m_projects; ///< by id; so few that finding walks them
     Project* m_current = nullptr;
     std::uint32_t m_nextProjectId = 1;
+    std::unordered_set<std::string> m_goneNames; ///< of projects that may be opened again
     UniqueNames m_names;
 };
 

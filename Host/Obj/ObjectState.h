@@ -2,10 +2,10 @@
 
 namespace Obj {
 
-/// How far an object has come. The numbers are part of the interface to modules.
+/// Whether an object can be used. The numbers are part of the interface to modules.
 enum class eVXObjectState : int
 {
-    Initial = 0, ///< nothing has been defined
+    Initial = 0, ///< not defined yet
     Ready = 3,   ///< can be used
 };
 

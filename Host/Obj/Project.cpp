@@ -1,14 +1,14 @@
 #include "Obj/Project.h"
 
-#include "NameIndex.h"
-
-#include "Kelta/FileWriter.h"
+#include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
-#include "Kelta/XMLFileReader.h"
+#include "Obj/ObjectHomes.h"
 
-#include <QString>
+#include <QCoreApplication>
 
-#include <iterator>
+#include <algorithm>
+#include <cassert>
+#include <functional>
 #include <limits>
 #include <utility>
 
@@ -18,9 +18,14 @@ namespace {
 
 constexpr std::uint64_t lastObjectId = std::numeric_limits<std::uint32_t>::max();
 
-QString quoted(std::string_view text)
+QString tr(const char* text)
 {
-    return QLatin1Char('"') + QString::fromUtf8(text.data(), static_cast<int>(text.size())) + QLatin1Char('"');
+    return QCoreApplication::translate("Obj::Project", text);
+}
+
+QString shown(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
 std::uint64_t nextSerial()
@@ -29,40 +34,44 @@ std::uint64_t nextSerial()
     return ++last;
 }
 
+std::vector<std::uint32_t> idsOf(const std::vector<ProjectObject*>& objects)
+{
+    std::vector<std::uint32_t> ids;
+    ids.reserve(objects.size());
+    for (const ProjectObject* const object : objects)
+        ids.push_back(object->getObjectId());
+    return ids;
+}
+
 } // namespace
 
-Kelta::TypeInfo Project::classTypeId;
-PropertyCoreData Project::propertyData;
+OBJ_REGISTER_ABSTRACT_CLASS(Obj::Project, Obj::PropertyDS)
 
-Project::Project() : m_serial(nextSerial()), m_objectsByName(std::make_unique<NameIndex>()) {}
+Project::Project() : m_serial(nextSerial()) {}
 
 Project::~Project()
 {
-    // While objects are destroyed one by one, none of them may find a project that is half gone, nor a neighbour that
-    // is.
+    // While objects are destroyed one by one, none of them may find a project that is half destroyed, nor such a
+    // neighbour.
     for (const auto& [objectId, object] : m_objects)
         object->forgetLinks();
     for (const auto& [objectId, object] : m_objects)
         object->m_project = nullptr;
-    m_objectsByName->clear();
-    m_objectsById.clear();
+    m_objectsByName.clear();
     m_objects.clear();
 }
 
-Kelta::TypeInfo Project::getClassTypeId()
+std::size_t Project::get_memory_usage() const
 {
-    return classTypeId;
-}
-
-Kelta::TypeInfo Project::getTypeId() const
-{
-    return classTypeId;
-}
-
-void Project::init()
-{
-    initSubclass(classTypeId, "Obj::Project", "Obj::PropertyDS", nullptr);
-    propertyData.set_parent(PropertyDS::get_property_data_ref());
+    // Each entry of the tables costs about three pointers beside its content.
+    constexpr std::size_t perEntry = 3 * sizeof(void*);
+    std::size_t bytes = PropertyDS::get_memory_usage() + heapSizeOf(m_name);
+    bytes += m_objects.size() * (perEntry + sizeof(Objects::value_type));
+    bytes += m_objectsByName.size() * (perEntry + sizeof(std::string_view));
+    bytes += m_goneObjects.size() * perEntry + m_goneNames.size() * (perEntry + sizeof(std::string));
+    for (const auto& [objectId, object] : m_objects)
+        bytes += object->get_memory_usage();
+    return bytes;
 }
 
 const char* Project::get_viewfeeder_name() const
@@ -79,8 +88,10 @@ void Project::collect_frontend_data() {}
 
 void Project::update()
 {
-    for (const auto& [objectId, object] : m_objects)
-        object->check_input();
+    const RemovalGuard guard;
+    for (const std::uint32_t objectId : idsOf(get_objects()))
+        if (ProjectObject* const object = get_object(objectId))
+            object->check_input();
 }
 
 void Project::save_jsonDB(Json::Value& record)
@@ -95,42 +106,27 @@ void Project::save_jsonDB(Json::Value& record)
 
 void Project::load_jsonDB(Json::Value&) {}
 
-void Project::Save(Kelta::FileWriter& writer) const // NOLINT(bugprone-virtual-near-miss): see the header
+void Project::Save(Kelta::FileWriter&) const {} // NOLINT(bugprone-virtual-near-miss): see the header
+
+void Project::Load(Kelta::XMLFileReader&) {} // NOLINT(bugprone-virtual-near-miss): see the header
+
+void Project::on_changed(const Property* property)
 {
-    for (const auto& [objectId, object] : m_objects) {
-        writer.beginElement(QStringLiteral("object"));
-        writer.writeAttribute(QStringLiteral("class"), QString::fromUtf8(object->getTypeId().get_name()));
-        writer.writeAttribute(QStringLiteral("name"), QString::fromUtf8(object->get_name_in_project()));
-        writer.writeAttribute(QStringLiteral("id"), QString::number(objectId));
-        object->save(writer);
-        writer.endElement();
-    }
+    changed(property);
 }
 
-void Project::Load(Kelta::XMLFileReader& reader) // NOLINT(bugprone-virtual-near-miss): see the header
-{
-    const int depth = reader.depth();
-    while (reader.nextElement(QStringLiteral("object"))) {
-        const QByteArray className = reader.attribute(QStringLiteral("class")).toUtf8();
-        const std::string name = reader.attribute(QStringLiteral("name")).toStdString();
-        const qulonglong objectId = reader.attribute(QStringLiteral("id")).toULongLong();
-        if (ProjectObject* const object = add_object(className.constData(), name, objectId))
-            object->load(reader);
-        reader.leaveTo(depth);
-    }
-}
+// --- Finding objects ---
 
 ProjectObject* Project::get_object(std::uint32_t objectId) const
 {
-    if (objectId < m_objectsById.size())
-        return m_objectsById[objectId];
     const auto found = m_objects.find(objectId);
     return found != m_objects.end() ? found->second.get() : nullptr;
 }
 
 ProjectObject* Project::get_object(std::string_view name) const
 {
-    return m_objectsByName->find(name);
+    const auto found = m_objectsByName.find(name);
+    return found != m_objectsByName.end() ? found->second : nullptr;
 }
 
 std::vector<ProjectObject*> Project::get_objects() const
@@ -151,73 +147,217 @@ std::vector<ProjectObject*> Project::get_objects_of_type(Kelta::TypeInfo type) c
     return objects;
 }
 
+/// Names that are numbered one after the other, as those of most objects are, get places side by side. With the plain hash
+/// each object of 100,000 costs 0.6 us instead of 0.4 us, because the table is larger than the processor's cache.
+std::size_t Project::NameHash::operator()(std::string_view name) const
+{
+    std::size_t number = 0;
+    for (int digits = 0; digits < 2 && !name.empty() && name.back() >= '0' && name.back() <= '9'; ++digits) {
+        number = 10 * number + static_cast<std::size_t>(name.back() - '0');
+        name.remove_suffix(1);
+    }
+    return std::hash<std::string_view>()(name) + number;
+}
+
+// --- Adding objects ---
+
 std::string Project::get_unique_object_name(std::string_view stem)
 {
-    return m_names.make(stem, [this](const std::string& name) { return get_object(name) != nullptr; });
+    return m_names.make(
+        stem, [this](const std::string& name) { return get_object(name) != nullptr || m_goneNames.count(name) != 0; });
+}
+
+bool Project::can_take(Kelta::TypeInfo objectType) const
+{
+    return isHome(getTypeId(), objectType);
 }
 
 ProjectObject* Project::add_object(const char* className, std::string_view name)
 {
-    if (m_nextObjectId > lastObjectId) {
-        Kelta::MessageLog::error(
-            QStringLiteral("No object can be added to the project %1: all ids are used up.").arg(quoted(m_name)));
-        return nullptr;
-    }
-    std::unique_ptr<ProjectObject> object = createObject(className);
-    if (object == nullptr)
-        return nullptr;
-    const bool free = !name.empty() && get_object(name) == nullptr;
-    return insertNew(std::move(object), free ? std::string(name) : get_unique_object_name(name),
-                     static_cast<std::uint32_t>(m_nextObjectId));
+    OwnedObject object = hasFreeId() ? createObject(className) : nullptr;
+    return object != nullptr ? add_object(std::move(object), name) : nullptr;
 }
 
 ProjectObject* Project::add_object(const char* className, std::string_view name, std::uint64_t objectId)
 {
-    if (!isUnused(objectId) || name.empty() || get_object(name) != nullptr) {
-        Kelta::MessageLog::error(
-            QStringLiteral("The object %1 cannot be added to the project %2 under the id %3: ids are "
-                           "whole numbers from 1 to 4294967295 that no object of the project has or "
-                           "had, and the name must be one that no object has.")
-                .arg(quoted(name), quoted(m_name), QString::number(objectId)));
-        return nullptr;
-    }
-    std::unique_ptr<ProjectObject> object = createObject(className);
-    return object != nullptr ? insertNew(std::move(object), std::string(name), static_cast<std::uint32_t>(objectId))
-                             : nullptr;
+    OwnedObject object = mayUse(name, objectId) ? createObject(className) : nullptr;
+    return object != nullptr ? add_object(std::move(object), name, objectId) : nullptr;
 }
 
-std::unique_ptr<ProjectObject> Project::take_object(std::uint32_t objectId)
+ProjectObject* Project::add_object(OwnedObject object, std::string_view name)
 {
+    if (!hasFreeId() || !mayTake(*object))
+        return nullptr;
+    return insertNew(std::move(object), freeName(name), static_cast<std::uint32_t>(m_nextObjectId));
+}
+
+ProjectObject* Project::add_object(OwnedObject object, std::string_view name, std::uint64_t objectId)
+{
+    if (!mayUse(name, objectId) || !mayTake(*object))
+        return nullptr;
+    return insertNew(std::move(object), std::string(name), static_cast<std::uint32_t>(objectId));
+}
+
+void Project::skip_object_ids(std::uint64_t nextId)
+{
+    m_nextObjectId = std::max(m_nextObjectId, nextId);
+}
+
+OwnedObject Project::createObject(const char* className) const
+{
+    const Kelta::TypeInfo type = Kelta::TypeInfo::find(className);
+    QString reason;
+    if (!type.names_a_type())
+        reason = tr("this class is not known");
+    else if (!type.is_inherited_from(ProjectObject::getClassTypeId()))
+        reason = tr("this is not a class of objects of a project");
+    else if (void* const created = type.create())
+        return OwnedObject(static_cast<ProjectObject*>(static_cast<Kelta::RootClass*>(created)));
+    else
+        reason = tr("the class created none");
+    Kelta::MessageLog::error(tr(R"(No object of class "%1" was added to the project "%2": %3.)")
+                                 .arg(shown(className != nullptr ? className : ""), shown(m_name), reason));
+    return nullptr;
+}
+
+bool Project::mayTake(const ProjectObject& object) const
+{
+    if (can_take(object.getTypeId()))
+        return true;
+    Kelta::MessageLog::error(
+        tr(R"(No object of class "%1" was added to the project "%2": projects of class "%3" do )"
+           "not take such objects.")
+            .arg(shown(object.getTypeId().get_name()), shown(m_name), shown(getTypeId().get_name())));
+    return false;
+}
+
+bool Project::mayUse(std::string_view name, std::uint64_t objectId) const
+{
+    const auto key = static_cast<std::uint32_t>(objectId);
+    const bool isUnused =
+        objectId != 0 && objectId <= lastObjectId && m_objects.count(key) == 0 && m_goneObjects.count(key) == 0;
+    if (isUnused && !name.empty() && get_object(name) == nullptr)
+        return true;
+    Kelta::MessageLog::error(
+        tr("The object \"%1\" cannot be added to the project \"%2\" under the id %3: ids are whole numbers from 1 to "
+           "4294967295 that no object of the project has or had, and the name must be one that no object has.")
+            .arg(shown(name), shown(m_name), QString::number(objectId)));
+    return false;
+}
+
+bool Project::hasFreeId() const
+{
+    if (m_nextObjectId <= lastObjectId)
+        return true;
+    Kelta::MessageLog::error(
+        tr("No object can be added to the project \"%1\": all ids are used up.").arg(shown(m_name)));
+    return false;
+}
+
+std::string Project::freeName(std::string_view name)
+{
+    return name.empty() || get_object(name) != nullptr ? get_unique_object_name(name) : std::string(name);
+}
+
+ProjectObject* Project::insertNew(OwnedObject object, std::string name, std::uint32_t objectId)
+{
+    assert(object->m_origin == 0);
+    const RemovalGuard guard;
+    object->m_origin = m_serial;
+    object->m_objectId = objectId;
+    object->m_name = std::move(name);
+    object->id.setValue(objectId);
+    object->label.setValue(object->m_name);
+    ProjectObject* const inserted = insert(std::move(object));
+    skip_object_ids(std::uint64_t{objectId} + 1);
+    try {
+        inserted->on_configuring_project();
+    } catch (...) {
+        if (inserted->m_project == this)
+            withdraw(m_objects.find(objectId));
+        throw;
+    }
+    if (inserted->m_project == this)
+        objectAdded(*inserted);
+    return ifStillThere(objectId);
+}
+
+ProjectObject* Project::insert(OwnedObject object)
+{
+    ProjectObject* const inserted = object.get();
+    const auto place = m_objects.emplace_hint(m_objects.end(), inserted->m_objectId, nullptr);
+    try {
+        m_objectsByName.emplace(inserted->m_name, inserted);
+    } catch (...) {
+        m_objects.erase(place);
+        throw;
+    }
+    place->second.reset(object.release());
+    inserted->m_project = this;
+    return inserted;
+}
+
+/// Null also if the project itself is about to be destroyed: the object is then destroyed with it.
+ProjectObject* Project::ifStillThere(std::uint32_t objectId) const
+{
+    return RemovalGuard::isDoomed(*this) ? nullptr : get_object(objectId);
+}
+
+// --- Removing objects and having them back ---
+
+OwnedObject Project::take_object(std::uint32_t objectId)
+{
+    const RemovalGuard guard;
     const auto found = m_objects.find(objectId);
     if (found == m_objects.end())
         return nullptr;
-    std::unique_ptr<ProjectObject> object = withdraw(found);
-    object->breakLinks();
+    OwnedObject object = withdraw(found);
+    m_goneObjects[objectId] = object->breakLinks();
     objectRemoved(*object);
     return object;
 }
 
-ProjectObject* Project::restore_object(std::unique_ptr<ProjectObject> object)
+OwnedObject Project::withdraw(Objects::iterator place)
 {
+    m_goneObjects[place->first];
+    m_goneNames.insert(place->second->m_name);
+    OwnedObject object(place->second.release());
+    m_objects.erase(place);
+    m_objectsByName.erase(object->m_name);
+    object->m_project = nullptr;
+    return object;
+}
+
+ProjectObject* Project::restore_object(OwnedObject object)
+{
+    const RemovalGuard guard;
     if (object == nullptr || object->m_origin != m_serial) {
         Kelta::MessageLog::error(
-            QStringLiteral("What is to come back to the project %1 has not come from it.").arg(quoted(m_name)));
+            tr("The object that is to come back to the project \"%1\" does not come from it.").arg(shown(m_name)));
         return nullptr;
     }
-    if (get_object(object->m_name) != nullptr) {
-        const std::string name = get_unique_object_name(object->m_name);
-        Kelta::MessageLog::warning(QStringLiteral("The object %1 came back as %2: another one has its name.")
-                                       .arg(quoted(object->m_name), quoted(name)));
-        object->m_name = name;
-    }
+    const std::uint32_t objectId = object->m_objectId;
+    giveFreeName(*object);
     ProjectObject* const restored = insert(std::move(object));
-    try {
-        restored->on_project_restored();
-    } catch (...) {
-        reportException("bringing an object back");
-    }
-    objectAdded(*restored);
-    return restored;
+    const std::vector<ProjectObject::Dependent> dependents = std::move(m_goneObjects[objectId]);
+    m_goneObjects.erase(objectId);
+    m_goneNames.erase(restored->m_name);
+    restored->mendLinks(dependents);
+    if (restored->m_project == this)
+        Kelta::guarded(tr("An object failed when it came back"), [restored] { restored->on_project_restored(); });
+    if (restored->m_project == this)
+        objectAdded(*restored);
+    return ifStillThere(objectId);
+}
+
+void Project::giveFreeName(ProjectObject& object)
+{
+    if (get_object(object.m_name) == nullptr)
+        return;
+    std::string name = get_unique_object_name(object.m_name);
+    Kelta::MessageLog::warning(
+        tr(R"(The object "%1" came back as "%2": another one has its name.)").arg(shown(object.m_name), shown(name)));
+    object.m_name = std::move(name);
 }
 
 bool Project::remove_object(std::uint32_t objectId)
@@ -225,136 +365,70 @@ bool Project::remove_object(std::uint32_t objectId)
     return take_object(objectId) != nullptr;
 }
 
-void Project::skip_object_ids(std::uint64_t nextId)
+void Project::notify_restored()
 {
-    if (nextId <= m_nextObjectId)
-        return;
-    m_unusedIds.emplace_hint(m_unusedIds.end(), m_nextObjectId, nextId);
-    m_nextObjectId = nextId;
+    const RemovalGuard guard;
+    for (const std::uint32_t objectId : idsOf(get_objects()))
+        if (ProjectObject* const object = get_object(objectId))
+            Kelta::guarded(tr("An object failed after its project had been read"),
+                           [object] { object->on_project_restored(); });
 }
 
-void Project::on_changed(const Property* property)
+// --- Executing objects ---
+
+/// One pass over the objects of a project.
+class Project::Execution
 {
-    changed(property);
+public:
+    explicit Execution(const Project& project) : m_project(project) {}
+
+    /// Executes the object if it is due, behind those that it needs. Returns whether it was executed in this pass.
+    bool visit(ProjectObject& object);
+    std::vector<std::unique_ptr<ProjectObjectExecReturn>> results;
+
+private:
+    bool isDue(ProjectObject& object);
+    bool execute(ProjectObject& object);
+
+    const Project& m_project;
+    std::unordered_map<const ProjectObject*, bool> m_executed; ///< of the objects that have been visited
+};
+
+bool Project::Execution::visit(ProjectObject& object)
+{
+    // An object of a circle counts as not executed while the circle is followed.
+    if (const auto [visited, isNew] = m_executed.emplace(&object, false); !isNew)
+        return visited->second;
+    const bool executed = isDue(object) && execute(object);
+    m_executed[&object] = executed;
+    return executed;
 }
 
-const PropertyCoreData& Project::get_property_data() const
+bool Project::Execution::isDue(ProjectObject& object)
 {
-    return propertyData;
+    bool due = object.m_isDue || object.always_run() != 0;
+    for (ProjectObject* const needed : object.get_needed_objects())
+        due = visit(*needed) || due;
+    return due && !object.isSuppressed() && object.m_project == &m_project;
 }
 
-const PropertyCoreData* Project::get_property_data_ref()
+bool Project::Execution::execute(ProjectObject& object)
 {
-    return &propertyData;
+    return Kelta::guarded(tr("The execution of an object failed"), [&] {
+        std::unique_ptr<ProjectObjectExecReturn> result(object.execute());
+        if (result != nullptr)
+            results.push_back(std::move(result));
+        object.m_isDue = false;
+    });
 }
 
-std::unique_ptr<ProjectObject> Project::createObject(const char* className) const
+std::vector<std::unique_ptr<ProjectObjectExecReturn>> Project::execute_due()
 {
-    const Kelta::TypeInfo type = Kelta::TypeInfo::find(className);
-    QString reason;
-    if (!type.names_a_type())
-        reason = QStringLiteral("this class is not known");
-    else if (!type.is_inherited_from(ProjectObject::getClassTypeId()))
-        reason = QStringLiteral("this class is not one of objects of a project");
-    else if (void* const created = type.create())
-        return std::unique_ptr<ProjectObject>(static_cast<ProjectObject*>(static_cast<Kelta::RootClass*>(created)));
-    else
-        reason = QStringLiteral("the class made none");
-    Kelta::MessageLog::error(QStringLiteral("No object of class %1 was added to the project %2: %3.")
-                                 .arg(quoted(className != nullptr ? className : ""), quoted(m_name), reason));
-    return nullptr;
-}
-
-ProjectObject* Project::insertNew(std::unique_ptr<ProjectObject> object, std::string name, std::uint32_t objectId)
-{
-    object->m_origin = m_serial;
-    object->m_objectId = objectId;
-    object->m_name = std::move(name);
-    object->id.setValue(objectId);
-    object->label.setValue(object->m_name);
-    ProjectObject* const inserted = insert(std::move(object));
-    useId(objectId);
-    try {
-        inserted->on_configuring_project();
-    } catch (...) {
-        withdraw(m_objects.find(objectId));
-        throw;
-    }
-    objectAdded(*inserted);
-    return inserted;
-}
-
-ProjectObject* Project::insert(std::unique_ptr<ProjectObject> object)
-{
-    ProjectObject* const inserted = object.get();
-    const auto place = m_objects.emplace_hint(m_objects.end(), inserted->m_objectId, std::move(object));
-    try {
-        listById(*inserted);
-        m_objectsByName->insert(inserted->m_name, inserted);
-    } catch (...) {
-        unlistById(inserted->m_objectId);
-        m_objects.erase(place);
-        throw;
-    }
-    inserted->m_project = this;
-    return inserted;
-}
-
-void Project::listById(ProjectObject& object)
-{
-    // Ids that leave a wide gap are not worth the room.
-    constexpr std::size_t widestGap = 1000;
-    const std::size_t listed = m_objectsById.size();
-    if (object.m_objectId > 2 * listed + widestGap)
-        return;
-    if (object.m_objectId >= listed) {
-        m_objectsById.resize(std::size_t{object.m_objectId} + 1);
-        for (auto other = m_objects.lower_bound(static_cast<std::uint32_t>(listed));
-             other != m_objects.end() && other->first < object.m_objectId; ++other)
-            m_objectsById[other->first] = other->second.get();
-    }
-    m_objectsById[object.m_objectId] = &object;
-}
-
-void Project::unlistById(std::uint32_t objectId)
-{
-    if (objectId < m_objectsById.size())
-        m_objectsById[objectId] = nullptr;
-}
-
-std::unique_ptr<ProjectObject> Project::withdraw(Objects::iterator place)
-{
-    std::unique_ptr<ProjectObject> object = std::move(place->second);
-    m_objects.erase(place);
-    m_objectsByName->erase(object->m_name);
-    unlistById(object->m_objectId);
-    object->m_project = nullptr;
-    return object;
-}
-
-bool Project::isUnused(std::uint64_t objectId) const
-{
-    if (objectId == 0 || objectId > lastObjectId)
-        return false;
-    if (objectId >= m_nextObjectId)
-        return true;
-    const auto after = m_unusedIds.upper_bound(objectId);
-    return after != m_unusedIds.begin() && objectId < std::prev(after)->second;
-}
-
-void Project::useId(std::uint64_t objectId)
-{
-    if (objectId >= m_nextObjectId) {
-        skip_object_ids(objectId);
-        m_nextObjectId = objectId + 1;
-        return;
-    }
-    const auto range = std::prev(m_unusedIds.upper_bound(objectId));
-    const std::uint64_t end = std::exchange(range->second, objectId);
-    if (range->first == objectId)
-        m_unusedIds.erase(range);
-    if (objectId + 1 < end)
-        m_unusedIds.emplace(objectId + 1, end);
+    const RemovalGuard guard;
+    Execution execution(*this);
+    for (ProjectObject* const object : get_objects())
+        execution.visit(*object);
+    return std::move(execution.results);
 }
 
 } // namespace Obj

@@ -1,15 +1,29 @@
 #include "Obj/ProjectObject.h"
 
+#include "Kelta/Exceptions.h"
+#include "Kelta/MessageLog.h"
 #include "Obj/Project.h"
+#include "Obj/ProjectObjectGroup.h"
+#include "Obj/PropertyReference.h"
 #include "Obj/PropertyType.h"
-#include "Obj/Signal.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Obj {
 
-Kelta::TypeInfo ProjectObject::classTypeId;
-PropertyCoreData ProjectObject::propertyData;
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Obj::ProjectObject", text);
+}
+
+} // namespace
+
+OBJ_REGISTER_ABSTRACT_CLASS(Obj::ProjectObject, Obj::PropertyDS)
 
 ProjectObject::ProjectObject()
 {
@@ -19,23 +33,12 @@ ProjectObject::ProjectObject()
 ProjectObject::~ProjectObject()
 {
     for (const Link& link : m_links)
-        link.other->eraseLink(this, !link.needsOther);
+        link.other->eraseLink(*this, link.direction == Direction::Needs ? Direction::IsNeededBy : Direction::Needs);
 }
 
-Kelta::TypeInfo ProjectObject::getClassTypeId()
+std::size_t ProjectObject::get_memory_usage() const
 {
-    return classTypeId;
-}
-
-Kelta::TypeInfo ProjectObject::getTypeId() const
-{
-    return classTypeId;
-}
-
-void ProjectObject::init()
-{
-    initSubclass(classTypeId, "Obj::ProjectObject", "Obj::PropertyDS", nullptr);
-    propertyData.set_parent(PropertyDS::get_property_data_ref());
+    return PropertyDS::get_memory_usage() + heapSizeOf(m_name) + m_links.capacity() * sizeof(Link);
 }
 
 const char* ProjectObject::get_viewfeeder_name() const
@@ -50,6 +53,7 @@ void ProjectObject::refresh()
 
 void ProjectObject::refreshProperties(bool stateToo)
 {
+    const RemovalGuard guard;
     if (stateToo)
         check_input();
     notifyChange();
@@ -97,6 +101,7 @@ ProjectObjectExecReturn* ProjectObject::execute()
 
 void ProjectObject::notifyChange()
 {
+    m_isDue = true;
     if (m_project != nullptr)
         m_project->objectChanged(*this, nullptr);
 }
@@ -107,40 +112,44 @@ void ProjectObject::on_configuring_project() {}
 
 void ProjectObject::on_changed(const Property* property)
 {
+    m_isDue = true;
     if (m_project != nullptr)
         m_project->objectChanged(*this, property);
 }
 
-const PropertyCoreData& ProjectObject::get_property_data() const
+void ProjectObject::setSuppressed(bool suppressed)
 {
-    return propertyData;
-}
-
-const PropertyCoreData* ProjectObject::get_property_data_ref()
-{
-    return &propertyData;
-}
-
-void ProjectObject::link_to(ProjectObject& other)
-{
-    if (needs(other) || &other == this)
+    if (m_suppressed == suppressed)
         return;
-    m_links.push_back({&other, true});
-    try {
-        other.m_links.push_back({this, false});
-    } catch (...) {
-        m_links.pop_back();
-        throw;
+    m_suppressed = suppressed;
+    notifyChange();
+}
+
+// --- Links ---
+
+bool ProjectObject::link_to(ProjectObject& other)
+{
+    if (&other == this)
+        return false;
+    if (!isOfSameProject(other)) {
+        Kelta::MessageLog::error(
+            tr("\"%1\" cannot be linked to \"%2\": they are not in one project.")
+                .arg(QString::fromStdString(label.getValue()), QString::fromStdString(other.label.getValue())));
+        return false;
     }
+    needLink(other);
+    setDeclared(other, true);
+    return true;
 }
 
 void ProjectObject::unlink_from(ProjectObject& other)
 {
-    if (!needs(other))
+    const auto link = findLink(other, Direction::Needs);
+    if (link == m_links.end() || !link->isDeclared)
         return;
-    eraseLink(&other, true);
-    other.eraseLink(this, false);
-    on_break_object_link(&other);
+    setDeclared(other, false);
+    if (dropIfUnused(link))
+        on_break_object_link(&other);
 }
 
 std::vector<ProjectObject*> ProjectObject::get_linked_objects() const
@@ -160,61 +169,190 @@ std::vector<ProjectObject*> ProjectObject::get_needed_objects() const
 {
     std::vector<ProjectObject*> objects;
     for (const Link& link : m_links)
-        if (link.needsOther && link.other->m_project != nullptr)
+        if (link.direction == Direction::Needs && link.other->m_project != nullptr)
             objects.push_back(link.other);
     return objects;
 }
 
-void ProjectObject::setSuppressed(bool suppressed)
+std::vector<ProjectObject*> ProjectObject::get_links() const
 {
-    if (m_suppressed == suppressed)
-        return;
-    m_suppressed = suppressed;
-    notifyChange();
+    std::vector<ProjectObject*> objects;
+    for (const Link& link : m_links)
+        if (link.direction == Direction::Needs && link.isDeclared && link.other->m_project != nullptr)
+            objects.push_back(link.other);
+    return objects;
+}
+
+ProjectObjectGroup* ProjectObject::get_parent_group() const
+{
+    // The latest link counts: a group that comes back after an undo may have lost the member to another group.
+    for (auto link = m_links.rbegin(); link != m_links.rend(); ++link) {
+        const bool isNeeded =
+            link->direction == Direction::IsNeededBy && link->isDeclared && link->other->m_project != nullptr;
+        if (auto* const group = isNeeded ? dynamic_cast<ProjectObjectGroup*>(link->other) : nullptr)
+            return group;
+    }
+    return nullptr;
+}
+
+ProjectObject::Links::iterator ProjectObject::findLink(const ProjectObject& other, Direction direction)
+{
+    // From the end, where the newest links are.
+    const auto found = std::find_if(m_links.rbegin(), m_links.rend(), [&other, direction](const Link& link) {
+        return link.other == &other && link.direction == direction;
+    });
+    return found != m_links.rend() ? std::prev(found.base()) : m_links.end();
+}
+
+bool ProjectObject::hasLink(const ProjectObject& other, Direction direction) const
+{
+    return std::any_of(m_links.begin(), m_links.end(), [&other, direction](const Link& link) {
+        return link.other == &other && link.direction == direction;
+    });
 }
 
 bool ProjectObject::needs(const ProjectObject& other) const
 {
     // Both know of it; one of the two may have very many links.
-    return m_links.size() <= other.m_links.size() ? hasLink(&other, true) : other.hasLink(this, false);
+    return m_links.size() <= other.m_links.size() ? hasLink(other, Direction::Needs)
+                                                  : other.hasLink(*this, Direction::IsNeededBy);
 }
 
-bool ProjectObject::hasLink(const ProjectObject* other, bool needsOther) const
+bool ProjectObject::isOfSameProject(const ProjectObject& other) const
 {
-    return std::any_of(m_links.begin(), m_links.end(), [other, needsOther](const Link& link) {
-        return link.other == other && link.needsOther == needsOther;
+    return m_origin != 0 && m_origin == other.m_origin;
+}
+
+/// Returns the link by which this object needs `other`, a new one if there is none.
+ProjectObject::Link& ProjectObject::needLink(ProjectObject& other)
+{
+    if (needs(other))
+        return *findLink(other, Direction::Needs);
+    other.m_links.push_back({this, Direction::IsNeededBy});
+    try {
+        return m_links.emplace_back(Link{&other, Direction::Needs});
+    } catch (...) {
+        other.m_links.pop_back();
+        throw;
+    }
+}
+
+/// Both ends of the link say it, so that a member of a large group need not search the group.
+void ProjectObject::setDeclared(ProjectObject& other, bool declared)
+{
+    findLink(other, Direction::Needs)->isDeclared = declared;
+    other.findLink(*this, Direction::IsNeededBy)->isDeclared = declared;
+}
+
+/// Returns whether the link was removed.
+bool ProjectObject::dropIfUnused(Links::iterator link)
+{
+    if (link->isDeclared || link->references > 0)
+        return false;
+    link->other->eraseLink(*this, Direction::IsNeededBy);
+    m_links.erase(link);
+    return true;
+}
+
+void ProjectObject::eraseLink(const ProjectObject& other, Direction direction)
+{
+    const auto link = findLink(other, direction);
+    if (link != m_links.end())
+        m_links.erase(link);
+}
+
+void ProjectObject::addReference(ProjectObject& target)
+{
+    if (&target != this)
+        ++needLink(target).references;
+}
+
+void ProjectObject::removeReference(std::uint32_t targetId)
+{
+    const auto link = std::find_if(m_links.begin(), m_links.end(), [targetId](const Link& candidate) {
+        return candidate.references > 0 && candidate.other->m_objectId == targetId;
     });
+    if (link == m_links.end())
+        return;
+    --link->references;
+    dropIfUnused(link);
 }
 
-void ProjectObject::eraseLink(const ProjectObject* other, bool needsOther)
+std::vector<PropertyReference*> ProjectObject::findReferences(std::uint32_t targetId) const
 {
-    const auto isIt = [other, needsOther](const Link& link) {
-        return link.other == other && link.needsOther == needsOther;
-    };
-    m_links.erase(std::remove_if(m_links.begin(), m_links.end(), isIt), m_links.end());
+    std::vector<Property*> properties;
+    get_property_array(properties);
+    std::vector<PropertyReference*> references;
+    for (Property* const property : properties)
+        if (auto* const reference = dynamic_cast<PropertyReference*>(property);
+            reference != nullptr && reference->m_objectId == targetId)
+            references.push_back(reference);
+    return references;
+}
+
+void ProjectObject::notifyReferences(std::uint32_t targetId) const
+{
+    for (const PropertyReference* const reference : findReferences(targetId))
+        reference->notifyAfter();
+}
+
+// --- Links of an object that leaves and comes back ---
+
+std::vector<ProjectObject::Dependent> ProjectObject::breakLinks()
+{
+    // A dependent that is told may link anew, or leave with this object.
+    const Links links = m_links;
+    std::vector<Dependent> dependents;
+    for (const Link& link : links) {
+        if (link.direction == Direction::Needs || link.other->m_project == nullptr ||
+            !hasLink(*link.other, Direction::IsNeededBy))
+            continue;
+        dependents.push_back(describeDependent(link));
+        Kelta::guarded(tr("An object failed when its link was broken"), [&] {
+            link.other->on_break_object_link(this);
+            link.other->notifyReferences(m_objectId);
+        });
+    }
+    return dependents;
+}
+
+ProjectObject::Dependent ProjectObject::describeDependent(const Link& link) const
+{
+    Dependent dependent{link.other->m_objectId, link.isDeclared, {}};
+    for (const PropertyReference* const reference : link.other->findReferences(m_objectId))
+        dependent.references.emplace_back(link.other->get_property_name(reference));
+    return dependent;
+}
+
+void ProjectObject::mendLinks(const std::vector<Dependent>& dependents)
+{
+    for (const Dependent& before : dependents) {
+        ProjectObject* const dependent = m_project != nullptr ? m_project->get_object(before.objectId) : nullptr;
+        if (dependent != nullptr)
+            Kelta::guarded(tr("An object failed when its link came back"),
+                           [&] { mendLink(*dependent, *this, before); });
+    }
+}
+
+void ProjectObject::mendLink(ProjectObject& dependent, ProjectObject& target, const Dependent& before)
+{
+    if (before.isDeclared)
+        dependent.link_to(target);
+    for (const std::string& name : before.references) {
+        auto* const reference = dynamic_cast<PropertyReference*>(dependent.get_property_by_name(name.c_str()));
+        if (reference != nullptr && reference->m_objectId == 0)
+            reference->setValue(&target);
+        else if (reference != nullptr && reference->m_objectId == target.m_objectId)
+            reference->notifyAfter();
+    }
 }
 
 void ProjectObject::forgetLinks()
 {
     for (const Link& link : m_links)
         if (link.other->m_project != m_project)
-            link.other->eraseLink(this, !link.needsOther);
+            link.other->eraseLink(*this, link.direction == Direction::Needs ? Direction::IsNeededBy : Direction::Needs);
     m_links.clear();
-}
-
-void ProjectObject::breakLinks()
-{
-    // Who is told may link anew, or be gone with this one.
-    const std::vector<Link> links = m_links;
-    for (const Link& link : links) {
-        if (link.needsOther || !hasLink(link.other, false))
-            continue;
-        try {
-            link.other->on_break_object_link(this);
-        } catch (...) {
-            reportException("breaking a link");
-        }
-    }
 }
 
 } // namespace Obj

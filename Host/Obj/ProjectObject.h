@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Obj/ClassRegistration.h"
 #include "Obj/ObjExport.h"
 #include "Obj/ObjectState.h"
 #include "Obj/PropertyDS.h"
@@ -13,76 +14,84 @@
 namespace Obj {
 
 class Project;
+class ProjectObjectGroup;
+class PropertyReference;
 struct ProjectObjectExecReturn;
 
-/// An object of a project: a node of the project tree. Its project owns it, under an id that no other object of the
-/// project ever has and an internal name that no other one has; the user knows it by its label.
+/// An object of a project: a node of the project tree. Its project owns it. The id of the object is used for no other
+/// object of the project, even after the object is deleted, and no other object has its internal name. The user knows the
+/// object by its label.
 ///
-/// Derived classes register the inherited "ID" and "ClassLabel" in their constructors, with a class label of their
-/// own.
+/// Derived classes register the inherited "ID" and "ClassLabel" in their constructors, with a class label of their own.
 class OBJ_EXPORT ProjectObject : public PropertyDS
 {
+    OBJ_ABSTRACT_CLASS;
+
 public:
     ProjectObject();
     ~ProjectObject() override;
 
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
+    std::size_t get_memory_usage() const override;
 
-    /// The registered class of the node that shows the object in the tree; empty for none.
+    /// The registered class of the node that shows the object in the tree; empty for the standard node.
     virtual const char* get_viewfeeder_name() const;
-    /// Looks anew how far the object has come.
+    /// Determines the state anew.
     virtual void refresh();
-    /// Has those who show the object read all its properties anew; with `stateToo`, its state as well.
+    /// Makes views of the object read all its properties again. Determines the state anew first if `stateToo`.
     virtual void refreshProperties(bool stateToo);
-    /// Not 0 when the object is to be executed even if nothing it depends on has changed.
+    /// Not 0 if Project::execute_due executes the object even if neither the object nor what it needs has changed.
     virtual short always_run() const;
-    /// `linked`, to which this object links, has left the project, or the link to it has been taken back. What is thrown
-    /// is reported to the message log.
+    /// Called when `linked`, which this object needs, has left the project, or when unlink_from has removed the link. If
+    /// `linked` comes back, links to it and references that this operation has removed are there again. What is thrown
+    /// when `linked` leaves is reported to the message log.
     virtual void on_break_object_link(ProjectObject* linked);
     /// Describes the object in a record of the project database: "obj_id", "class", "name_internal", "label".
     virtual void save_jsonDB(Json::Value& record);
+    /// Reads nothing: the application restores projects.
     virtual void load_jsonDB(Json::Value& record);
-    /// Finds out how far the object has come, and says so to setObjectState.
+    /// Determines the state, passes it to setObjectState and returns it.
     virtual eVXObjectState check_input();
     virtual void setObjectState(eVXObjectState state);
-    /// The registered class of the window that edits the object; empty when the node knows.
+    /// The registered class of the window that edits the object; empty if the node opens it.
     virtual const char* getCoreEditor() const;
-    /// Executes the object. The caller owns the result; null when there is none.
+    /// Executes the object. The caller owns the result; null if there is none.
     virtual ProjectObjectExecReturn* execute();
-    /// Tells those who observe the project that the object is not what it was.
+    /// Tells the listeners of the project that the object has changed.
     virtual void notifyChange();
-    /// The object is in its project again, after an undo or when a file is opened. What is thrown is reported to the
-    /// message log.
+    /// Called when the object is in its project again after an undo, and when it has been read from a file. What is
+    /// thrown is reported to the message log.
     virtual void on_project_restored();
 
 protected:
-    /// The object has just been made for the project, in which it stands, and nobody has been told yet. What is thrown
-    /// passes through to whoever asked for the object, and there is then none.
+    /// Called when the object has been made for the project and is in it, before any listener is told. If it throws, the
+    /// exception passes through to the caller who adds the object, and the project does not keep the object.
     virtual void on_configuring_project();
 
     void on_changed(const Property* property) override;
-    const PropertyCoreData& get_property_data() const override;
-    static const PropertyCoreData* get_property_data_ref();
 
 public:
-    /// The number under which the project has the object; 0 before it is in one.
+    /// The number of the object in its project; 0 before it is in one.
     std::uint32_t getObjectId() const { return m_objectId; }
     /// The internal name; empty before the object is in a project.
     const char* get_name_in_project() const { return m_name.c_str(); }
-    /// The project that has the object; null before it is in one and while a deleted object waits for undo.
+    /// The project that holds the object; null before it is in one and while it is kept for undo.
     Project* get_project() const { return m_project; }
     eVXObjectState getObjectState() const { return m_state; }
 
-    /// Says that this object needs `other`, of the same project. A link stays while one of the two is away for undo.
-    void link_to(ProjectObject& other);
-    /// Takes back that it does; a link in the other direction stays. Nothing when there is none.
+    /// Says that this object needs `other`. The link stays while one of the two is kept for undo. False if there can be no
+    /// link: `other` is this object itself, or belongs to another project, which is reported to the message log.
+    bool link_to(ProjectObject& other);
+    /// Removes such a link; a link in the other direction stays. Nothing if there is none.
     void unlink_from(ProjectObject& other);
-    /// The objects of the project that this one needs, in the order of linking.
+    /// The objects of the project that this one needs, by a link or by a PropertyReference, in the order of linking.
     std::vector<ProjectObject*> get_needed_objects() const;
-    /// The objects of the project that are linked with this one, whichever needs the other, in the order of linking.
+    /// The objects of the project that this one needs by link_to, in the order of linking.
+    std::vector<ProjectObject*> get_links() const;
+    /// The objects of the project that need this one or that this one needs, in the order of linking.
     std::vector<ProjectObject*> get_linked_objects() const;
+
+    /// The group of the project that this object is a member of; null for none.
+    ProjectObjectGroup* get_parent_group() const;
 
     /// Whether the user has taken the object out of use without deleting it.
     bool isSuppressed() const { return m_suppressed; }
@@ -94,29 +103,60 @@ public:
 
 private:
     friend class Project;
+    friend class PropertyReference;
+
+    enum class Direction
+    {
+        Needs,
+        IsNeededBy
+    };
+    /// One end of a link; both objects keep one.
     struct Link
     {
         ProjectObject* other;
-        bool needsOther;
+        Direction direction;
+        bool isDeclared = false; ///< by link_to
+        int references = 0;      ///< properties that refer to `other`; counted by the object that needs `other` alone
     };
-    bool needs(const ProjectObject& other) const;
-    bool hasLink(const ProjectObject* other, bool needsOther) const;
-    void eraseLink(const ProjectObject* other, bool needsOther);
-    /// Tells those that need this object that it has gone.
-    void breakLinks();
-    /// Of an object whose project ends: the others of the project forget theirs too.
-    void forgetLinks();
+    using Links = std::vector<Link>;
 
-    static Kelta::TypeInfo classTypeId;
-    static PropertyCoreData propertyData;
+    /// What another object has for this one, to be had again if this one comes back.
+    struct Dependent
+    {
+        std::uint32_t objectId;
+        bool isDeclared;
+        std::vector<std::string> references; ///< names of properties
+    };
+
+    Links::iterator findLink(const ProjectObject& other, Direction direction);
+    bool hasLink(const ProjectObject& other, Direction direction) const;
+    bool needs(const ProjectObject& other) const;
+    bool isOfSameProject(const ProjectObject& other) const;
+    Link& needLink(ProjectObject& other);
+    void setDeclared(ProjectObject& other, bool declared);
+    bool dropIfUnused(Links::iterator link);
+    void eraseLink(const ProjectObject& other, Direction direction);
+    void addReference(ProjectObject& target);
+    void removeReference(std::uint32_t targetId);
+    std::vector<PropertyReference*> findReferences(std::uint32_t targetId) const;
+    void notifyReferences(std::uint32_t targetId) const;
+
+    /// Notes what others have for this object, and tells them that it has left.
+    std::vector<Dependent> breakLinks();
+    void mendLinks(const std::vector<Dependent>& dependents);
+    static void mendLink(ProjectObject& dependent, ProjectObject& target, const Dependent& before);
+    Dependent describeDependent(const Link& link) const;
+    /// Called when the project ends: objects that are kept elsewhere forget this one.
+    void forgetLinks();
 
     Project* m_project = nullptr;
     std::uint32_t m_objectId = 0;
-    std::uint64_t m_origin = 0; ///< the serial of the project that made it, also while it is away
+    std::uint64_t m_origin = 0; ///< the serial of the project that holds or held it
     std::string m_name;
-    std::vector<Link> m_links;
+    Links m_links;
     eVXObjectState m_state = eVXObjectState::Initial;
     bool m_suppressed = false;
+    bool m_isDue = true; ///< to be executed
 };
 
 } // namespace Obj

@@ -7,7 +7,7 @@ namespace Obj {
 
 class ProjectObject;
 
-/// What executing an object came to: a text for the user, and the object, which its project keeps.
+/// The result of the execution of an object: a text for the user, and the object, which its project owns.
 struct ProjectObjectExecReturn
 {
     explicit ProjectObjectExecReturn(std::string message, ProjectObject* executed = nullptr)

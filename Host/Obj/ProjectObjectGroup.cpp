@@ -1,13 +1,13 @@
 #include "Obj/ProjectObjectGroup.h"
 
+#include "Kelta/MessageLog.h"
 #include "Obj/PropertyType.h"
 
-#include <new>
+#include <QCoreApplication>
 
 namespace Obj {
 
-Kelta::TypeInfo ProjectObjectGroup::classTypeId;
-PropertyCoreData ProjectObjectGroup::propertyData;
+OBJ_REGISTER_CLASS(Obj::ProjectObjectGroup, Obj::ProjectObject)
 
 ProjectObjectGroup::ProjectObjectGroup()
 {
@@ -18,45 +18,52 @@ ProjectObjectGroup::ProjectObjectGroup()
 
 ProjectObjectGroup::~ProjectObjectGroup() = default;
 
-void* ProjectObjectGroup::create()
+bool ProjectObjectGroup::add_member(ProjectObject& object)
 {
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) ProjectObjectGroup);
-}
-
-Kelta::TypeInfo ProjectObjectGroup::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo ProjectObjectGroup::getTypeId() const
-{
-    return classTypeId;
-}
-
-void ProjectObjectGroup::init()
-{
-    initSubclass(classTypeId, "Obj::ProjectObjectGroup", "Obj::ProjectObject", &ProjectObjectGroup::create);
-    propertyData.set_parent(ProjectObject::get_property_data_ref());
-}
-
-void ProjectObjectGroup::add_member(ProjectObject& object)
-{
-    link_to(object);
+    const RemovalGuard guard;
+    if (isInside(object)) {
+        Kelta::MessageLog::error(
+            QCoreApplication::translate("Obj::ProjectObjectGroup",
+                                        R"("%1" cannot be put into "%2", which is a part of it.)")
+                .arg(QString::fromStdString(object.label.getValue()), QString::fromStdString(label.getValue())));
+        return false;
+    }
+    ProjectObjectGroup* const former = object.get_parent_group();
+    if (former == this)
+        return true;
+    if (!link_to(object))
+        return false;
+    if (former != nullptr)
+        former->unlink_from(object);
+    object.notifyChange();
+    return true;
 }
 
 void ProjectObjectGroup::remove_member(ProjectObject& object)
 {
+    if (object.get_parent_group() != this)
+        return;
+    const RemovalGuard guard;
     unlink_from(object);
+    object.notifyChange();
 }
 
-const PropertyCoreData& ProjectObjectGroup::get_property_data() const
+std::vector<ProjectObject*> ProjectObjectGroup::get_members() const
 {
-    return propertyData;
+    std::vector<ProjectObject*> members;
+    for (ProjectObject* const object : get_links())
+        if (object->get_parent_group() == this)
+            members.push_back(object);
+    return members;
 }
 
-const PropertyCoreData* ProjectObjectGroup::get_property_data_ref()
+/// Whether this group is `object` or one of its members, at any depth.
+bool ProjectObjectGroup::isInside(const ProjectObject& object) const
 {
-    return &propertyData;
+    const ProjectObject* around = this;
+    while (around != nullptr && around != &object)
+        around = around->get_parent_group();
+    return around != nullptr;
 }
 
 } // namespace Obj

@@ -7,31 +7,27 @@
 
 namespace Obj {
 
-/// An object that gathers others of its project under one node. It owns none of them.
+/// An object that gathers others of its project under one node. It owns none of them: its members stay in the project if
+/// it is deleted. An object is a member of at most one group.
 class OBJ_EXPORT ProjectObjectGroup : public ProjectObject
 {
+    OBJ_CLASS;
+
 public:
     ProjectObjectGroup();
     ~ProjectObjectGroup() override;
 
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
-
-    /// Puts `object` into the group; one that is in it stays once.
-    void add_member(ProjectObject& object);
+    /// Puts `object` into the group, and takes it out of another one. The listeners of the project are told that the
+    /// object has changed. False, with a report, if `object` belongs to another project, or is this group or a group
+    /// around it.
+    bool add_member(ProjectObject& object);
+    /// Takes `object` out of the group, and tells the listeners; nothing if it is not a member.
     void remove_member(ProjectObject& object);
-    /// The members that are in the project, in the order in which they came.
-    std::vector<ProjectObject*> get_members() const { return get_needed_objects(); }
-
-protected:
-    const PropertyCoreData& get_property_data() const override;
-    static const PropertyCoreData* get_property_data_ref();
+    /// Returns the members that are in the project, in the order in which they came.
+    std::vector<ProjectObject*> get_members() const;
 
 private:
-    static Kelta::TypeInfo classTypeId;
-    static PropertyCoreData propertyData;
+    bool isInside(const ProjectObject& object) const;
 };
 
 } // namespace Obj

@@ -6,8 +6,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
+#include <set>
+#include <stdexcept>
 
 namespace Obj {
 
@@ -19,10 +23,9 @@ QString toQString(std::string_view text)
 }
 
 /// The shortest text that reads back to the same number.
-template <typename Number>
-QString toShortestText(Number number)
+QString toShortestText(double number)
 {
-    return QString::number(static_cast<double>(number), 'g', QLocale::FloatingPointShortest);
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
 }
 
 QString toShortestText(float number)
@@ -36,25 +39,121 @@ QString toShortestText(float number)
     return QString::number(static_cast<double>(number), 'g', 9);
 }
 
-/// The numbers of "1, 2.5, 3"; absent when one is none or their count is another.
-std::optional<std::vector<double>> readNumbers(const QString& text, int count)
+std::optional<double> readNumber(const QString& text)
 {
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (parts.size() != count)
-        return std::nullopt;
+    bool ok = false;
+    const double number = QLocale::c().toDouble(text.trimmed(), &ok);
+    return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> readNumber(const Json::Value& json)
+{
+    return json.isNumeric() && std::isfinite(json.asDouble()) ? std::optional(json.asDouble()) : std::nullopt;
+}
+
+using Numbers = std::optional<std::vector<double>>;
+
+/// Reads `count` numbers from a list of texts or of JSON values; absent if one is not a number or their count differs.
+template <typename List>
+Numbers readAll(const List& list, std::size_t count)
+{
     std::vector<double> numbers;
-    for (const QString& part : parts) {
-        bool ok = false;
-        numbers.push_back(QLocale::c().toDouble(part.trimmed(), &ok));
-        if (!ok || !std::isfinite(numbers.back()))
+    for (const auto& element : list)
+        if (const auto number = readNumber(element))
+            numbers.push_back(*number);
+    return numbers.size() == count && static_cast<std::size_t>(list.size()) == count ? Numbers(numbers) : std::nullopt;
+}
+
+/// Reads "1, 2.5, 3".
+Numbers readNumbers(const QString& text, std::size_t count)
+{
+    return readAll(text.split(QLatin1Char(',')), count);
+}
+
+Numbers readNumbers(const Json::Value& json, std::size_t count)
+{
+    return json.isArray() ? readAll(json, count) : std::nullopt;
+}
+
+std::optional<Color> toColor(const Numbers& numbers)
+{
+    const auto isOutside = [](double number) { return number < 0.0 || number > 1.0; };
+    if (!numbers || std::any_of(numbers->begin(), numbers->end(), isOutside))
+        return std::nullopt;
+    const auto component = [&numbers](std::size_t index) { return static_cast<float>((*numbers)[index]); };
+    return Color{component(0), component(1), component(2), component(3)};
+}
+
+/// Reads couples from a list of texts or of JSON values; absent if one of them is not a couple.
+template <typename List>
+std::optional<PropertyCoupleArray::Couples> readCouples(const List& list)
+{
+    PropertyCoupleArray::Couples couples;
+    for (const auto& element : list) {
+        const Numbers numbers = readNumbers(element, 2);
+        if (!numbers)
             return std::nullopt;
+        couples.emplace_back((*numbers)[0], (*numbers)[1]);
     }
-    return numbers;
+    return couples;
+}
+
+double checkedFinite(double value)
+{
+    if (!std::isfinite(value))
+        throw std::invalid_argument("a real property must be finite");
+    return value;
+}
+
+std::vector<std::string> checkedWords(std::vector<std::string> words)
+{
+    if (words.empty() || std::set<std::string>(words.begin(), words.end()).size() != words.size())
+        throw std::invalid_argument("the words of a choice must be there, each once");
+    return words;
+}
+
+std::size_t checkedIndex(std::size_t index, std::size_t count)
+{
+    if (index >= count)
+        throw std::out_of_range("a choice has no word of this index");
+    return index;
+}
+
+/// Sets a property from what has been read, if it could be read.
+template <typename Typed, typename Value>
+bool setRead(Typed& property, std::optional<Value> value)
+{
+    if (value)
+        property.setValue(std::move(*value));
+    return value.has_value();
 }
 
 } // namespace
 
+std::size_t heapSizeOf(const std::string& text)
+{
+    // Short texts are kept in the string itself.
+    const auto* const object = reinterpret_cast<const char*>(&text);
+    const bool isInside = text.data() >= object && text.data() < object + sizeof(text);
+    return isInside ? 0 : text.capacity() + 1;
+}
+
 Property::~Property() = default;
+
+Json::Value Property::to_json() const
+{
+    return to_text();
+}
+
+bool Property::from_json(const Json::Value& json)
+{
+    return json.isString() && from_text(json.asString());
+}
+
+std::size_t Property::get_memory_usage() const
+{
+    return 0;
+}
 
 void Property::notifyBefore() const
 {
@@ -68,11 +167,20 @@ void Property::notifyAfter() const
         m_owner->on_changed(this);
 }
 
+// --- Text ---
+
 bool PropertyString::from_text(std::string_view text)
 {
     setValue(std::string(text));
     return true;
 }
+
+std::size_t PropertyString::get_memory_usage() const
+{
+    return heapSizeOf(m_value);
+}
+
+// --- Whole number ---
 
 std::string PropertyInteger::to_text() const
 {
@@ -88,6 +196,98 @@ bool PropertyInteger::from_text(std::string_view text)
     return ok;
 }
 
+Json::Value PropertyInteger::to_json() const
+{
+    return Json::Value::Int64(m_value);
+}
+
+bool PropertyInteger::from_json(const Json::Value& json)
+{
+    return setRead(*this, json.isInt64() ? std::optional(json.asInt64()) : std::nullopt);
+}
+
+// --- Real number ---
+
+PropertyReal::PropertyReal(double value) : m_value(checkedFinite(value)) {}
+
+void PropertyReal::setValue(double value)
+{
+    change(m_value, checkedFinite(value));
+}
+
+std::string PropertyReal::to_text() const
+{
+    return toShortestText(m_value).toStdString();
+}
+
+bool PropertyReal::from_text(std::string_view text)
+{
+    return setRead(*this, readNumber(toQString(text)));
+}
+
+Json::Value PropertyReal::to_json() const
+{
+    return m_value;
+}
+
+bool PropertyReal::from_json(const Json::Value& json)
+{
+    return setRead(*this, readNumber(json));
+}
+
+// --- Yes or no ---
+
+std::string PropertyBool::to_text() const
+{
+    return m_value ? "true" : "false";
+}
+
+bool PropertyBool::from_text(std::string_view text)
+{
+    const bool isTrue = text == "true";
+    return setRead(*this, isTrue || text == "false" ? std::optional(isTrue) : std::nullopt);
+}
+
+Json::Value PropertyBool::to_json() const
+{
+    return m_value;
+}
+
+bool PropertyBool::from_json(const Json::Value& json)
+{
+    return setRead(*this, json.isBool() ? std::optional(json.asBool()) : std::nullopt);
+}
+
+// --- Choice ---
+
+PropertyChoice::PropertyChoice(std::vector<std::string> words, std::size_t index)
+    : m_words(checkedWords(std::move(words))), m_index(checkedIndex(index, m_words.size()))
+{}
+
+void PropertyChoice::setValue(std::size_t index)
+{
+    change(m_index, checkedIndex(index, m_words.size()));
+}
+
+bool PropertyChoice::from_text(std::string_view text)
+{
+    const auto found = std::find(m_words.begin(), m_words.end(), text);
+    if (found == m_words.end())
+        return false;
+    setValue(static_cast<std::size_t>(found - m_words.begin()));
+    return true;
+}
+
+std::size_t PropertyChoice::get_memory_usage() const
+{
+    std::size_t bytes = m_words.capacity() * sizeof(std::string);
+    for (const std::string& word : m_words)
+        bytes += heapSizeOf(word);
+    return bytes;
+}
+
+// --- Colour ---
+
 std::string PropertyColor::to_text() const
 {
     QStringList parts;
@@ -98,16 +298,23 @@ std::string PropertyColor::to_text() const
 
 bool PropertyColor::from_text(std::string_view text)
 {
-    const auto numbers = readNumbers(toQString(text), 4);
-    if (!numbers)
-        return false;
-    for (const double number : *numbers)
-        if (number < 0.0 || number > 1.0)
-            return false;
-    const auto component = [&numbers](std::size_t index) { return static_cast<float>((*numbers)[index]); };
-    setValue({component(0), component(1), component(2), component(3)});
-    return true;
+    return setRead(*this, toColor(readNumbers(toQString(text), 4)));
 }
+
+Json::Value PropertyColor::to_json() const
+{
+    Json::Value json(Json::arrayValue);
+    for (const float component : {m_value.red, m_value.green, m_value.blue, m_value.alpha})
+        json.append(toShortestText(component).toDouble());
+    return json;
+}
+
+bool PropertyColor::from_json(const Json::Value& json)
+{
+    return setRead(*this, toColor(readNumbers(json, 4)));
+}
+
+// --- Couples ---
 
 std::string PropertyCoupleArray::to_text() const
 {
@@ -119,16 +326,29 @@ std::string PropertyCoupleArray::to_text() const
 
 bool PropertyCoupleArray::from_text(std::string_view text)
 {
-    Couples couples;
     const QString all = toQString(text).trimmed();
-    for (const QString& part : all.isEmpty() ? QStringList() : all.split(QLatin1Char(';'))) {
-        const auto numbers = readNumbers(part, 2);
-        if (!numbers)
-            return false;
-        couples.emplace_back((*numbers)[0], (*numbers)[1]);
+    return setRead(*this, readCouples(all.isEmpty() ? QStringList() : all.split(QLatin1Char(';'))));
+}
+
+Json::Value PropertyCoupleArray::to_json() const
+{
+    Json::Value json(Json::arrayValue);
+    for (const auto& [first, second] : m_value) {
+        Json::Value& couple = json.append(Json::Value(Json::arrayValue));
+        couple.append(first);
+        couple.append(second);
     }
-    setValue(std::move(couples));
-    return true;
+    return json;
+}
+
+bool PropertyCoupleArray::from_json(const Json::Value& json)
+{
+    return json.isArray() && setRead(*this, readCouples(json));
+}
+
+std::size_t PropertyCoupleArray::get_memory_usage() const
+{
+    return m_value.capacity() * sizeof(Couples::value_type);
 }
 
 } // namespace Obj

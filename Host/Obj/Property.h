@@ -1,7 +1,11 @@
 #pragma once
 
 #include "Obj/ObjExport.h"
+#include "Obj/Removal.h"
 
+#include <json/value.h>
+
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -12,11 +16,11 @@ namespace Obj {
 
 class PropertyDS;
 
-/// A typed value of a property set, which the user sees in the property panel. It belongs to the object of which it
-/// is a member.
+/// A typed value of a property set, which the user sees in the property panel. It is a member of the object that owns
+/// it.
 ///
-/// Once it is registered with its owner, setting it calls the owner's on_change_before and then, with the new value in
-/// place, on_changed; also when the value is the one it had. Before that it is set in silence.
+/// Once a property is registered with its owner, each new value calls the owner's on_change_before and then, with the new
+/// value in place, on_changed, also if the value is the one it had. Before that nobody is told.
 class OBJ_EXPORT Property
 {
 public:
@@ -25,29 +29,38 @@ public:
     Property& operator=(const Property&) = delete;
     virtual ~Property();
 
-    /// The set that it is registered with; null before.
+    /// The set that the property is registered with; null before.
     PropertyDS* get_owner() const { return m_owner; }
 
-    /// The value as text, in UTF-8 and with decimal points in every locale.
+    /// Returns the value as text, in UTF-8 and with decimal points in every locale.
     virtual std::string to_text() const = 0;
-    /// Sets the value from such a text. False when it cannot be read; the value is then as it was.
+    /// Sets the value from such a text. False if it cannot be read; the value is then as it was.
     [[nodiscard]] virtual bool from_text(std::string_view text) = 0;
+
+    /// Returns the value as project files keep it. Here the text.
+    virtual Json::Value to_json() const;
+    /// Sets the value from such JSON. False if it cannot be read; the value is then as it was.
+    [[nodiscard]] virtual bool from_json(const Json::Value& json);
+
+    /// The bytes that the value takes outside the property itself, an estimate.
+    virtual std::size_t get_memory_usage() const;
 
 protected:
     /// Sets `target` to `value` between the two notifications.
     template <typename Value>
     void change(Value& target, Value value)
     {
+        // A listener may remove the owner, whose operations are still at work.
+        const RemovalGuard guard;
         notifyBefore();
         target = std::move(value);
         notifyAfter();
     }
-
-private:
-    friend class PropertyDS;
     void notifyBefore() const;
     void notifyAfter() const;
 
+private:
+    friend class PropertyDS;
     PropertyDS* m_owner = nullptr;
 };
 
@@ -62,12 +75,13 @@ public:
 
     std::string to_text() const override { return m_value; }
     bool from_text(std::string_view text) override;
+    std::size_t get_memory_usage() const override;
 
 private:
     std::string m_value;
 };
 
-/// A whole number, wide enough for every id.
+/// A whole number, wide enough for every id. A number in JSON.
 class OBJ_EXPORT PropertyInteger : public Property
 {
 public:
@@ -78,12 +92,76 @@ public:
 
     std::string to_text() const override;
     bool from_text(std::string_view text) override;
+    Json::Value to_json() const override;
+    bool from_json(const Json::Value& json) override;
 
 private:
     std::int64_t m_value;
 };
 
-/// Four components, which as a rule are between 0 and 1.
+/// A real number, always finite. As text the shortest one that reads back to the same number; a number in JSON.
+class OBJ_EXPORT PropertyReal : public Property
+{
+public:
+    /// \throws std::invalid_argument if `value` is not finite; so does setValue
+    explicit PropertyReal(double value = 0.0);
+
+    double getValue() const { return m_value; }
+    void setValue(double value);
+
+    std::string to_text() const override;
+    /// Refuses words for infinity and for what is not a number.
+    bool from_text(std::string_view text) override;
+    Json::Value to_json() const override;
+    bool from_json(const Json::Value& json) override;
+
+private:
+    double m_value;
+};
+
+/// Yes or no; "true" or "false" as text, and a boolean in JSON.
+class OBJ_EXPORT PropertyBool : public Property
+{
+public:
+    explicit PropertyBool(bool value = false) : m_value(value) {}
+
+    bool getValue() const { return m_value; }
+    void setValue(bool value) { change(m_value, value); }
+
+    std::string to_text() const override;
+    bool from_text(std::string_view text) override;
+    Json::Value to_json() const override;
+    bool from_json(const Json::Value& json) override;
+
+private:
+    bool m_value;
+};
+
+/// One word of a fixed list; the word as text and in JSON, so that files outlive a list that gets further words.
+class OBJ_EXPORT PropertyChoice : public Property
+{
+public:
+    /// \throws std::invalid_argument if there are no words or one of them is there twice
+    /// \throws std::out_of_range if there is no word of this index; so does setValue
+    explicit PropertyChoice(std::vector<std::string> words, std::size_t index = 0);
+
+    /// The index of the word in the list.
+    std::size_t getValue() const { return m_index; }
+    void setValue(std::size_t index);
+    const std::string& get_word() const { return m_words[m_index]; }
+    /// The list to choose from.
+    const std::vector<std::string>& get_words() const { return m_words; }
+
+    std::string to_text() const override { return get_word(); }
+    bool from_text(std::string_view text) override;
+    std::size_t get_memory_usage() const override;
+
+private:
+    std::vector<std::string> m_words;
+    std::size_t m_index;
+};
+
+/// Four components, usually between 0 and 1.
 struct Color
 {
     float red = 0.0F;
@@ -98,7 +176,7 @@ struct Color
     friend bool operator!=(const Color& a, const Color& b) { return !(a == b); }
 };
 
-/// A colour; as text "0.5, 0.25, 1, 0", each component between 0 and 1.
+/// A colour. As text "0.5, 0.25, 1, 0", each component between 0 and 1; an array of the four numbers in JSON.
 class OBJ_EXPORT PropertyColor : public Property
 {
 public:
@@ -109,12 +187,14 @@ public:
 
     std::string to_text() const override;
     bool from_text(std::string_view text) override;
+    Json::Value to_json() const override;
+    bool from_json(const Json::Value& json) override;
 
 private:
     Color m_value;
 };
 
-/// Pairs of numbers, a curve point by point; as text "0, 1; 0.5, 2".
+/// Pairs of numbers, a curve point by point. As text "0, 1; 0.5, 2"; an array of arrays of two numbers in JSON.
 class OBJ_EXPORT PropertyCoupleArray : public Property
 {
 public:
@@ -125,9 +205,15 @@ public:
 
     std::string to_text() const override;
     bool from_text(std::string_view text) override;
+    Json::Value to_json() const override;
+    bool from_json(const Json::Value& json) override;
+    std::size_t get_memory_usage() const override;
 
 private:
     Couples m_value;
 };
+
+/// The bytes that a text takes outside the string itself.
+OBJ_EXPORT std::size_t heapSizeOf(const std::string& text);
 
 } // namespace Obj

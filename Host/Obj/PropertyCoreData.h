@@ -8,7 +8,7 @@
 
 namespace Obj {
 
-/// What a class says of one of its properties.
+/// The description of one property of a class.
 struct PropertyDescription
 {
     std::string name;
@@ -17,16 +17,16 @@ struct PropertyDescription
     std::string description; ///< a hint for the user
 };
 
-/// What a class says of its properties, in the order of their registration, and where its parent class says the same.
-/// A class has one, static; it is filled when the first object is made.
+/// The descriptions of the properties of a class, in the order of their registration, with a link to those of its parent
+/// class. A class has one, static; it is filled when the first object is made.
 class OBJ_EXPORT PropertyCoreData
 {
 public:
-    /// Adds a description. One that the class has under this name already stays as it is.
+    /// Adds a description and returns it. A description that the class has under this name stays as it is.
     const PropertyDescription& register_property(const char* name, const char* group, short attributes,
                                                  const char* description);
 
-    /// The description that the class itself registered under `name`, null when there is none.
+    /// Returns the description that the class itself registered under `name`; null if there is none.
     const PropertyDescription* find(std::string_view name) const;
 
     const std::deque<PropertyDescription>& descriptions() const { return m_descriptions; }
@@ -36,7 +36,7 @@ public:
     void set_parent(const PropertyCoreData* parent) { m_parent = parent; }
 
 private:
-    // Sets of properties point at their descriptions, which must not move.
+    // Sets of properties point to their descriptions, which must not move.
     std::deque<PropertyDescription> m_descriptions;
     const PropertyCoreData* m_parent = nullptr;
 };

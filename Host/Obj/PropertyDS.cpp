@@ -1,17 +1,12 @@
 #include "Obj/PropertyDS.h"
 
-#include "Kelta/FileWriter.h"
-#include "Kelta/MessageLog.h"
-#include "Kelta/XMLFileReader.h"
 #include "Obj/PropertyType.h"
-
-#include <QString>
 
 #include <algorithm>
 
 namespace Obj {
 
-Kelta::TypeInfo PropertyDS::classTypeId;
+KELTA_REGISTER_ABSTRACT_CLASS(Obj::PropertyDS, Kelta::DataPersistence)
 PropertyCoreData PropertyDS::propertyData;
 
 PropertyDS::PropertyDS()
@@ -23,45 +18,12 @@ PropertyDS::PropertyDS()
 
 PropertyDS::~PropertyDS() = default;
 
-Kelta::TypeInfo PropertyDS::getClassTypeId()
+std::size_t PropertyDS::get_memory_usage() const
 {
-    return classTypeId;
-}
-
-Kelta::TypeInfo PropertyDS::getTypeId() const
-{
-    return classTypeId;
-}
-
-void PropertyDS::init()
-{
-    initSubclass(classTypeId, "Obj::PropertyDS", "Kelta::DataPersistence", nullptr);
-}
-
-void PropertyDS::save(Kelta::FileWriter& writer) const
-{
-    for (const Entry& entry : m_entries) {
-        writer.beginElement(QStringLiteral("property"));
-        writer.writeAttribute(QStringLiteral("name"), QString::fromStdString(entry.description->name));
-        writer.writeAttribute(QStringLiteral("value"), QString::fromStdString(entry.property->to_text()));
-        writer.endElement();
-    }
-}
-
-void PropertyDS::load(Kelta::XMLFileReader& reader)
-{
-    while (reader.nextElement(QStringLiteral("property"))) {
-        const QString name = reader.attribute(QStringLiteral("name"));
-        const QString value = reader.attribute(QStringLiteral("value"));
-        Property* const property = get_property_by_name(name.toUtf8().constData());
-        if (property == nullptr)
-            Kelta::MessageLog::warning(
-                QStringLiteral("The property \"%1\" is not known and was passed over.").arg(name));
-        else if (!is_read_only(property) && !property->from_text(value.toStdString()))
-            Kelta::MessageLog::warning(
-                QStringLiteral("The property \"%1\" cannot be \"%2\" and was left as it was.").arg(name, value));
-        reader.leaveElement();
-    }
+    std::size_t bytes = DataPersistence::get_memory_usage() + m_entries.capacity() * sizeof(Entry);
+    for (const Entry& entry : m_entries)
+        bytes += entry.property->get_memory_usage();
+    return bytes;
 }
 
 Property* PropertyDS::get_property_by_name(const char* name) const

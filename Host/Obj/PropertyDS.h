@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Kelta/ClassRegistration.h"
 #include "Kelta/DataPersistence.h"
 #include "Obj/ObjExport.h"
 #include "Obj/Property.h"
@@ -11,26 +12,21 @@
 
 namespace Obj {
 
-/// A set of properties, which belong to it as members. The classes of a line register theirs in their constructors,
-/// the base class first; that order is the one in which the user sees them.
+/// A set of properties, which are its members. Each class registers its properties in its constructor, a base class before
+/// the classes that derive from it; the user sees the properties in that order.
 ///
-/// Operations "by property" answer for a property of another set, as those "by name" do for an unknown name: null, an
+/// Operations "by property" return for a property of another set what those "by name" return for an unknown name: null, an
 /// empty text, 0 or false.
 class OBJ_EXPORT PropertyDS : public Kelta::DataPersistence
 {
+    KELTA_ABSTRACT_CLASS;
+
 public:
     PropertyDS();
     ~PropertyDS() override;
 
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
-
-    /// Writes every property as text.
-    void save(Kelta::FileWriter& writer) const override;
-    /// Sets the properties that the file has. Those that the set lacks, or whose text cannot be read, are reported to
-    /// the message log and left alone; those that are only read say what the object knows itself, and are passed over.
-    void load(Kelta::XMLFileReader& reader) override;
+    /// The size of an object of the class, and what the values of the properties take beside it.
+    std::size_t get_memory_usage() const override;
 
     virtual Property* get_property_by_name(const char* name) const;
     virtual const char* get_property_name(const Property* property) const;
@@ -54,13 +50,14 @@ protected:
     virtual void on_changed(const Property* property);
     /// A registered property is about to get one.
     virtual void on_change_before(const Property* property);
-    /// What the class of the object says of its own properties; those of its parents follow by the parent link.
+    /// The descriptions of the properties that the object's class itself registers; the parent link leads to those of its
+    /// parent class.
     virtual const PropertyCoreData& get_property_data() const;
     static const PropertyCoreData* get_property_data_ref();
 
-    /// Makes `property`, a member of this object, known under `name` and notifying from now on, and describes it in
-    /// `data`, the record of the class that registers. A property that a base class has registered already is known as
-    /// the derived class says from then on, at its old place.
+    /// Makes `property`, a member of this object, known under `name`, and describes it in `data`, the record of the class
+    /// that registers it. From now on the property notifies this object. A property that a base class has registered gets
+    /// the name and description of the derived class, and keeps its place in the order.
     void register_property(PropertyCoreData& data, Property& property, const char* name, const char* group,
                            short attributes, const char* description);
 
@@ -75,7 +72,6 @@ private:
     const Entry* find(const char* name) const;
     const Entry* find(const Property* property) const;
 
-    static Kelta::TypeInfo classTypeId;
     static PropertyCoreData propertyData;
     std::vector<Entry> m_entries;
 };

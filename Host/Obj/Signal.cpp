@@ -1,24 +1,14 @@
 #include "Obj/Signal.h"
 
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 
-#include <QString>
-
-#include <exception>
+#include <QCoreApplication>
 
 namespace Obj {
 
-void reportException(const char* where)
+void reportListenerFailure() noexcept
 {
-    QString reason;
-    try {
-        throw;
-    } catch (const std::exception& exception) {
-        reason = QString::fromUtf8(exception.what());
-    } catch (...) {
-        reason = QStringLiteral("an exception of an unknown kind");
-    }
-    Kelta::MessageLog::error(QStringLiteral("Something went wrong in %1: %2").arg(QString::fromUtf8(where), reason));
+    Kelta::reportException(QCoreApplication::translate("Obj", "A listener failed"));
 }
 
 } // namespace Obj

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "Obj/ObjExport.h"
+#include "Obj/Removal.h"
 
 #include <boost/signals2/signal.hpp>
 
 namespace Obj {
 
-/// Reports the exception that is being handled to the message log; `where` says what it interrupted.
-OBJ_EXPORT void reportException(const char* where);
+/// Reports the exception that a listener threw, and that is being handled, to the message log.
+OBJ_EXPORT void reportListenerFailure() noexcept;
 
-/// Calls listeners one after the other. What one throws is reported to the message log, and the next one is called: what
-/// happens to a project is not undone because somebody who watches it fails.
+/// Calls listeners one after another. What one throws is reported to the message log, and the next one is called: a
+/// listener that fails does not undo what has happened. What a listener removes stays in memory until all have been
+/// called.
 struct ReportingCombiner
 {
     using result_type = void;
@@ -18,20 +20,21 @@ struct ReportingCombiner
     template <typename Iterator>
     void operator()(Iterator listener, Iterator end) const
     {
+        const RemovalGuard guard;
         for (; listener != end; ++listener) {
             try {
                 *listener;
             } catch (const boost::signals2::expired_slot&) {
-                // Its owner went while the others were being called.
+                // Its owner was destroyed while other listeners were called.
                 continue;
             } catch (...) {
-                reportException("a listener");
+                reportListenerFailure();
             }
         }
     }
 };
 
-/// What the host tells others; connecting is as with any signal of Boost.
+/// A signal of the host. Listeners connect as to any signal of Boost.
 template <typename Signature>
 using Signal = boost::signals2::signal<Signature, ReportingCombiner>;
 

@@ -9,13 +9,12 @@
 
 namespace Obj {
 
-/// Makes names that nobody has: "Material", "Material1", "Material2". A name that was made once is not made again, so
-/// that what is deleted and brought back meets nobody of its name. Each name takes constant time on average, however
-/// many there are.
+/// Makes names that are not taken: "Part", "Part1", "Part2". No name is made twice from one stem. Each name takes constant
+/// time on average, however many there are.
 class OBJ_EXPORT UniqueNames
 {
 public:
-    /// A name from `stem`, "Object" when that is empty, for which `isTaken` answers false.
+    /// Returns a name from `stem`, "Object" if that is empty, for which `isTaken` is false.
     template <typename IsTaken>
     std::string make(std::string_view stem, const IsTaken& isTaken)
     {
@@ -28,7 +27,6 @@ public:
 
 private:
     std::string next(std::string_view stem);
-    bool wasMade(const std::string& name) const;
 
     std::unordered_map<std::string, std::size_t> m_counts; ///< names made from each stem
 };

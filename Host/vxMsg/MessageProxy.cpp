@@ -1,20 +1,18 @@
 #include "vxMsg/MessageProxy.h"
 
+#include "History.h"
 #include "UndoCommands.h"
 
+#include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 
 #include <QCoreApplication>
 
-#include <exception>
 #include <utility>
 
 namespace vxMsg {
 
 namespace {
-
-constexpr const char* materialProjectClass = "Mat::DocumentMaterial";
-constexpr const char* materialObjectClass = "Mat::MaterialObject";
 
 QString tr(const char* text)
 {
@@ -32,11 +30,6 @@ bool report(const QString& text)
     return false;
 }
 
-bool reportUnknownCode(int code)
-{
-    return report(tr("The request %1 is not known; nothing was done.").arg(code));
-}
-
 Obj::Project* findProject(const std::string& name)
 {
     Obj::Project* const project = Obj::Application::instance().get_project(name);
@@ -45,51 +38,83 @@ Obj::Project* findProject(const std::string& name)
     return project;
 }
 
-/// A request that a listener makes while a command of the stack is at work would pull the stack from under it.
+bool isOpen(const Obj::Project& project)
+{
+    return Obj::Application::instance().get_project(project.getProjectId()) == &project;
+}
+
+/// A request that a listener makes while a step is undone or redone would change the stack that is at work.
 bool mayAct()
 {
-    return !Undoing::underWay() ||
+    return !History::isUndoing() ||
            report(tr("Nothing can be requested while something is undone or redone; nothing was done."));
 }
 
-/// The boundary of the requests: whatever is thrown inside is reported, and the request counts as not done.
-template <typename Request>
-bool guarded(const Request& request)
+QString labelOf(const Obj::ProjectObject& object)
 {
-    try {
-        return request();
-    } catch (const std::exception& exception) {
-        return report(tr("A request failed: %1").arg(QString::fromUtf8(exception.what())));
-    } catch (...) {
-        return report(tr("A request failed for a reason that is not known."));
-    }
+    return shown(object.label.getValue());
+}
+
+/// An object with a blank label could not be found again in the tree.
+bool isBlankLabel(const Obj::PropertyDS& owner, const Obj::Property& property, const std::string& text)
+{
+    const auto* const object = dynamic_cast<const Obj::ProjectObject*>(&owner);
+    return object != nullptr && &property == &object->label && shown(text).trimmed().isEmpty();
+}
+
+/// Returns a property that can be set to the text; null, with a report, if there is none.
+Obj::Property* findSettable(const PropertyPlace& place, const std::string& name, const std::string& text)
+{
+    const Obj::PropertyDS* const owner = place.find();
+    Obj::Property* const property = owner != nullptr ? owner->get_property_by_name(name.c_str()) : nullptr;
+    if (property == nullptr)
+        report(tr("There is no property \"%1\"; nothing was changed.").arg(shown(name)));
+    else if (owner->is_read_only(property))
+        report(tr("The property \"%1\" is read-only; nothing was changed.").arg(shown(name)));
+    else if (isBlankLabel(*owner, *property, text))
+        report(tr("The label must not be empty; nothing was changed."));
+    else
+        return property;
+    return nullptr;
+}
+
+/// Sets the property and returns whether it can read the text. What listeners throw is reported; the value is set then.
+bool setText(Obj::Property& property, const std::string& name, const std::string& text)
+{
+    bool isRead = true;
+    Kelta::guarded(tr("An object failed when its property \"%1\" was changed").arg(shown(name)),
+                   [&] { isRead = property.from_text(text); });
+    return isRead ||
+           report(tr(R"(The property "%1" cannot be "%2"; nothing was changed.)").arg(shown(name), shown(text)));
 }
 
 } // namespace
 
-bool runCommand(int code, int count, const std::vector<std::string>& names)
+/// While one lives, a project is being opened, and what comes with it is not to be undone.
+class MessageProxy::Opening
 {
-    return guarded([&] {
-        if (code != vxCommand::NewMaterialProject && code != vxCommand::CloseProject)
-            return reportUnknownCode(code);
-        if (count != 1 || names.size() != 1)
-            return report(tr("The request %1 takes one name; nothing was done.").arg(code));
-        MessageProxy& proxy = MessageProxy::instance();
-        return code == vxCommand::NewMaterialProject ? proxy.newProject(names[0]) : proxy.closeProject(names[0]);
-    });
-}
+public:
+    explicit Opening(MessageProxy& proxy) : m_proxy(proxy), m_outer(std::exchange(proxy.m_opening, this)) {}
+    Opening(const Opening&) = delete;
+    Opening& operator=(const Opening&) = delete;
+    ~Opening() { m_proxy.m_opening = m_outer; }
 
-bool doCommand(const MessageData& message)
-{
-    return guarded([&] {
-        MessageProxy& proxy = MessageProxy::instance();
-        if (message.code == vxCommand::AddMaterial)
-            return proxy.addMaterial(message.projectName, message.objectName);
-        if (message.code == vxCommand::DeleteObject)
-            return proxy.deleteObject(message.projectName, message.objectName);
-        return reportUnknownCode(message.code);
-    });
-}
+    /// The first project that is added belongs to the opening.
+    void claim(const Obj::Project& project)
+    {
+        if (m_projectId == 0)
+            m_projectId = project.getProjectId();
+    }
+    bool concerns(const Obj::Project& project) const
+    {
+        return m_projectId == project.getProjectId() || (m_outer != nullptr && m_outer->concerns(project));
+    }
+
+private:
+    MessageProxy& m_proxy;
+    Opening* m_outer;
+    std::uint32_t m_projectId = 0;
+};
 
 MessageProxy& MessageProxy::instance()
 {
@@ -97,62 +122,90 @@ MessageProxy& MessageProxy::instance()
     return proxy;
 }
 
-MessageProxy::MessageProxy()
+MessageProxy::MessageProxy() : m_history(std::make_unique<History>())
 {
     Obj::Application& application = Obj::Application::instance();
     for (Obj::Project* const project : Obj::Application::get_projects())
-        watchProject(*project);
-    m_connections.emplace_back(
-        application.projectAdded.connect([this](Obj::Project& project) { watchProject(project); }));
-    m_connections.emplace_back(
-        application.projectRemoved.connect([this](Obj::Project& project) { projectWasRemoved(project); }));
-    QObject::connect(&m_undoStack, &QUndoStack::indexChanged, [this] { endHistoryIfDue(); });
+        projectWasAdded(*project);
+    // Before other listeners, whose own changes follow in the history.
+    m_connections.emplace_back(application.projectAdded.connect(
+        [this](Obj::Project& project) { projectWasAdded(project); }, boost::signals2::at_front));
+    m_connections.emplace_back(application.projectRemoved.connect(
+        [this](Obj::Project& project) { projectWasRemoved(project); }, boost::signals2::at_front));
 }
 
 MessageProxy::~MessageProxy() = default;
 
-bool MessageProxy::newProject(const std::string& name)
+QUndoStack& MessageProxy::undoStack()
+{
+    return m_history->stack();
+}
+
+// --- Requests ---
+
+/// Makes one step of an act and of all that listeners do because of it. The command of the act, null if nothing was done,
+/// comes before theirs, since they followed it.
+bool MessageProxy::carryOut(const QString& text, const Act& act)
+{
+    const Group group(text);
+    const History::Place place = m_history->place();
+    std::unique_ptr<QUndoCommand> command = act();
+    if (command == nullptr)
+        return false;
+    m_history->record(std::move(command), place);
+    return true;
+}
+
+bool MessageProxy::newProject(const std::string& className, const std::string& name)
 {
     if (!mayAct())
         return false;
-    Obj::Project* project = nullptr;
-    {
-        // Objects that come with the project belong to its creation.
-        const OwnDoing doing(&Obj::Application::instance());
-        project = Obj::Application::instance().create_project(materialProjectClass, name);
-    }
+    // The project is noticed as any that is added during a request.
+    const Group group{QString()};
+    Obj::Project* const project = Obj::Application::instance().create_project(className.c_str(), name);
     if (project == nullptr)
         return false;
-    pushDone(std::make_unique<ProjectCommand>(tr("New project \"%1\"").arg(QString::fromUtf8(project->get_name())),
-                                              *project));
     projectCreated(*project);
     return true;
 }
 
 bool MessageProxy::closeProject(const std::string& name)
 {
+    const Obj::RemovalGuard guard;
     Obj::Project* const project = mayAct() ? findProject(name) : nullptr;
-    if (project == nullptr)
+    if (project == nullptr || !mayClose(*project))
         return false;
-    bool refused = false;
-    projectClosing(*project, refused);
-    if (refused)
-        return false;
-    const Group group(tr("Close project \"%1\"").arg(shown(name)));
-    const OwnDoing doing(project);
-    pushDone(std::make_unique<ProjectCommand>(tr("Close project \"%1\"").arg(shown(name)),
-                                              Obj::Application::instance().take_project(*project)));
-    return true;
+    const QString text = tr("Close project \"%1\"").arg(shown(name));
+    return carryOut(text, [&]() -> std::unique_ptr<QUndoCommand> {
+        const OwnDoing doing(project);
+        Obj::OwnedProject closed = Obj::Application::instance().take_project(*project);
+        return closed != nullptr ? std::make_unique<ProjectCommand>(text, std::move(closed)) : nullptr;
+    });
 }
 
-bool MessageProxy::addMaterial(const std::string& projectName, const std::string& objectName)
+bool MessageProxy::mayClose(Obj::Project& project)
+{
+    const QString name = QString::fromUtf8(project.get_name());
+    // A listener that requests it again would be asked again.
+    if (!m_closingProjects.insert(project.getProjectId()).second)
+        return report(tr("The project \"%1\" is being closed already; nothing was done.").arg(name));
+    bool refused = false;
+    projectClosing(project, refused);
+    m_closingProjects.erase(project.getProjectId());
+    if (!refused && !isOpen(project))
+        return report(tr("The project \"%1\" was closed while its listeners were asked.").arg(name));
+    return !refused;
+}
+
+bool MessageProxy::addObject(const std::string& projectName, const std::string& className,
+                             const std::string& objectName)
 {
     Obj::Project* const project = mayAct() ? findProject(projectName) : nullptr;
     if (project == nullptr)
         return false;
-    // The addition is noticed as any other; what listeners make of it is part of the same step.
+    // The addition is noticed as any other.
     const Group group{QString()};
-    Obj::ProjectObject* const object = project->add_object(materialObjectClass, objectName);
+    Obj::ProjectObject* const object = project->add_object(className.c_str(), objectName);
     if (object == nullptr)
         return false;
     objectCreated(*object);
@@ -168,69 +221,144 @@ bool MessageProxy::deleteObject(const std::string& projectName, const std::strin
     if (object == nullptr)
         return report(
             tr(R"(The project "%1" has no object "%2"; nothing was done.)").arg(shown(projectName), shown(objectName)));
-    const QString text = tr("Delete \"%1\"").arg(shown(object->label.getValue()));
-    const Group group(text);
-    const OwnDoing doing(object);
-    pushDone(std::make_unique<ObjectCommand>(text, *project, project->take_object(object->getObjectId())));
+    const QString text = tr("Delete \"%1\"").arg(labelOf(*object));
+    return carryOut(text, [&] {
+        const OwnDoing doing(object);
+        return std::make_unique<ObjectCommand>(text, *project, project->take_object(object->getObjectId()));
+    });
+}
+
+bool MessageProxy::setProperty(const PropertyPlace& place, const std::string& propertyName, const std::string& text)
+{
+    Obj::Property* const property = mayAct() ? findSettable(place, propertyName, text) : nullptr;
+    if (property == nullptr)
+        return false;
+    if (property->to_text() == text)
+        return true;
+    bool isRead = false;
+    const QString stepText = tr("Change \"%1\"").arg(shown(propertyName));
+    carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
+        Json::Value before = property->to_json();
+        isRead = setText(*property, propertyName, text);
+        // A listener may have deleted what was changed; nothing can be undone then.
+        const Obj::PropertyDS* const owner = isRead ? place.find() : nullptr;
+        if (owner == nullptr)
+            return nullptr;
+        Json::Value after = owner->get_property_by_name(propertyName.c_str())->to_json();
+        return std::make_unique<PropertyCommand>(stepText, place, propertyName, std::move(before), std::move(after));
+    });
+    return isRead;
+}
+
+bool MessageProxy::setSuppressed(Obj::ProjectObject& object, bool suppressed)
+{
+    if (!mayAct() || object.get_project() == nullptr)
+        return false;
+    if (object.isSuppressed() == suppressed)
+        return true;
+    const PropertyPlace place(object);
+    const QString text = (suppressed ? tr("Suppress \"%1\"") : tr("Unsuppress \"%1\"")).arg(labelOf(object));
+    carryOut(text, [&]() -> std::unique_ptr<QUndoCommand> {
+        object.setSuppressed(suppressed);
+        // A listener may have deleted the object; nothing can be undone then.
+        return place.findObject() != nullptr ? std::make_unique<SuppressionCommand>(text, place, suppressed) : nullptr;
+    });
     return true;
 }
 
-Obj::Project* MessageProxy::openProject(const std::string& name, const std::function<void(Obj::Project&)>& fill)
+bool MessageProxy::handOver(const std::string& projectName)
+{
+    Obj::Project* const project = mayAct() ? findProject(projectName) : nullptr;
+    if (project == nullptr)
+        return false;
+    const Group group(tr("Hand over \"%1\"").arg(shown(projectName)));
+    return Kelta::guarded(tr("The project \"%1\" cannot be handed over").arg(shown(projectName)), [project] {
+        project->execute_due();
+        project->collect_frontend_data();
+    });
+}
+
+// --- Opening ---
+
+Obj::Project* MessageProxy::openProject(const std::string& className, const std::string& name,
+                                        const std::function<void(Obj::Project&)>& fill)
+{
+    return open([&] { return Obj::Application::instance().create_project(className.c_str(), name); }, fill);
+}
+
+Obj::Project* MessageProxy::openProject(Obj::OwnedProject project, const std::string& name,
+                                        const std::function<void(Obj::Project&)>& fill)
+{
+    return open([&] { return Obj::Application::instance().add_project(std::move(project), name); }, fill);
+}
+
+Obj::Project* MessageProxy::open(const std::function<Obj::Project*()>& make,
+                                 const std::function<void(Obj::Project&)>& fill)
 {
     if (!mayAct())
         return nullptr;
-    Obj::Application& application = Obj::Application::instance();
-    const OwnDoing doing(&application);
+    const Group group{QString()};
+    const History::Place place = m_history->place();
+    const Opening opening(*this);
     Obj::Project* const before = Obj::Application::get_current_project();
-    Obj::Project* const project = application.create_project(materialProjectClass, name);
+    Obj::Project* const project = make();
     if (project == nullptr)
         return nullptr;
     try {
         fill(*project);
     } catch (...) {
-        const OwnDoing closing(project);
-        m_watches.erase(project->getProjectId());
-        application.close_project(*project);
-        if (before != nullptr)
-            application.set_current_project(*before);
+        takeBack(*project, before);
         throw;
     }
-    endHistory();
+    project->notify_restored();
+    if (!isOpen(*project))
+        return nullptr;
+    // What listeners have added to other projects meanwhile can still be undone.
+    m_history->end(place);
     return project;
 }
 
-MessageProxy::Group::Group(QString text)
+void MessageProxy::takeBack(const Obj::Project& opened, Obj::Project* before)
 {
-    MessageProxy& proxy = instance();
-    if (proxy.m_groupDepth++ == 0)
-        proxy.m_groupText = std::move(text);
+    const OwnDoing closing(&opened);
+    m_watches.erase(opened.getProjectId());
+    Obj::Application::instance().close_project(opened);
+    if (before != nullptr)
+        Obj::Application::instance().set_current_project(*before);
+}
+
+// --- Groups ---
+
+MessageProxy::Group::Group(const QString& text)
+{
+    instance().m_history->beginGroup(text);
 }
 
 MessageProxy::Group::~Group()
 {
-    MessageProxy& proxy = instance();
-    if (--proxy.m_groupDepth > 0)
-        return;
-    if (std::exchange(proxy.m_groupBegun, false))
-        proxy.m_undoStack.endMacro();
-    proxy.endHistoryIfDue();
+    instance().m_history->endGroup();
 }
 
 void MessageProxy::pushDone(std::unique_ptr<QUndoCommand> command)
 {
-    if (Undoing::underWay())
-        return endHistory();
-    if (m_groupDepth > 0 && !std::exchange(m_groupBegun, true))
-        m_undoStack.beginMacro(m_groupText.isEmpty() ? command->text() : m_groupText);
-    m_undoStack.push(command.release());
+    m_history->record(std::move(command));
 }
 
-void MessageProxy::watchProject(Obj::Project& project)
+// --- What happens without a request ---
+
+void MessageProxy::projectWasAdded(Obj::Project& project)
 {
     // A project that comes back is watched once all the same.
     Watch& watch = m_watches[project.getProjectId()];
-    watch.added = project.objectAdded.connect([this](Obj::ProjectObject& object) { objectWasAdded(object); });
-    watch.removed = project.objectRemoved.connect([this](Obj::ProjectObject& object) { objectWasRemoved(object); });
+    watch.added = project.objectAdded.connect([this](Obj::ProjectObject& object) { objectWasAdded(object); },
+                                              boost::signals2::at_front);
+    watch.removed = project.objectRemoved.connect([this](Obj::ProjectObject& object) { objectWasRemoved(object); },
+                                                  boost::signals2::at_front);
+    if (m_opening != nullptr)
+        return m_opening->claim(project);
+    if (m_history->isInGroup() && !History::isUndoing() && isOpen(project))
+        pushDone(std::make_unique<ProjectCommand>(tr("New project \"%1\"").arg(QString::fromUtf8(project.get_name())),
+                                                  project));
 }
 
 void MessageProxy::projectWasRemoved(Obj::Project& project)
@@ -238,33 +366,22 @@ void MessageProxy::projectWasRemoved(Obj::Project& project)
     if (OwnDoing::concerns(&project))
         return;
     m_watches.erase(project.getProjectId());
-    endHistory();
+    m_history->end();
 }
 
 void MessageProxy::objectWasAdded(Obj::ProjectObject& object)
 {
-    // What undo brings back is history already, and what somebody adds meanwhile is not to be undone.
-    if (!Undoing::underWay() && !OwnDoing::concerns(&Obj::Application::instance()))
-        pushDone(std::make_unique<ObjectCommand>(tr("Add \"%1\"").arg(shown(object.label.getValue())), object));
+    // What undo brings back is in the history already, and what listeners add because of an undo is not to be undone.
+    const Obj::Project* const project = object.get_project();
+    const bool isOpened = project == nullptr || (m_opening != nullptr && m_opening->concerns(*project));
+    if (!History::isUndoing() && !isOpened)
+        pushDone(std::make_unique<ObjectCommand>(tr("Add \"%1\"").arg(labelOf(object)), object));
 }
 
 void MessageProxy::objectWasRemoved(Obj::ProjectObject& object)
 {
     if (!OwnDoing::concerns(&object))
-        endHistory();
-}
-
-void MessageProxy::endHistory()
-{
-    m_historyEnds = true;
-    endHistoryIfDue();
-}
-
-void MessageProxy::endHistoryIfDue()
-{
-    // Neither a macro that is being made nor a command that is at work can be cleared.
-    if (m_groupDepth == 0 && !Undoing::underWay() && std::exchange(m_historyEnds, false))
-        m_undoStack.clear();
+        m_history->end();
 }
 
 } // namespace vxMsg

@@ -1,23 +1,22 @@
 #include "UndoCommands.h"
 
-#include <utility>
+#include "Obj/Property.h"
 
 namespace vxMsg {
 
 const void* OwnDoing::current = nullptr;
-int Undoing::depth = 0;
 
 ProjectCommand::ProjectCommand(const QString& text, const Obj::Project& project)
     : PresenceCommand(text, Presence::Here), m_projectId(project.getProjectId())
 {}
 
-ProjectCommand::ProjectCommand(const QString& text, std::unique_ptr<Obj::Project> closed)
+ProjectCommand::ProjectCommand(const QString& text, Obj::OwnedProject closed)
     : PresenceCommand(text, Presence::Gone), m_projectId(closed->getProjectId())
 {
     keep(std::move(closed));
 }
 
-std::unique_ptr<Obj::Project> ProjectCommand::take()
+Obj::OwnedProject ProjectCommand::take()
 {
     Obj::Application& application = Obj::Application::instance();
     const Obj::Project* const project = application.get_project(m_projectId);
@@ -25,7 +24,7 @@ std::unique_ptr<Obj::Project> ProjectCommand::take()
     return project != nullptr ? application.take_project(*project) : nullptr;
 }
 
-void ProjectCommand::restore(std::unique_ptr<Obj::Project> project)
+void ProjectCommand::putBack(Obj::OwnedProject project)
 {
     Obj::Application::instance().restore_project(std::move(project));
 }
@@ -36,14 +35,13 @@ ObjectCommand::ObjectCommand(const QString& text, const Obj::ProjectObject& obje
       m_objectId(object.getObjectId())
 {}
 
-ObjectCommand::ObjectCommand(const QString& text, const Obj::Project& project,
-                             std::unique_ptr<Obj::ProjectObject> deleted)
+ObjectCommand::ObjectCommand(const QString& text, const Obj::Project& project, Obj::OwnedObject deleted)
     : PresenceCommand(text, Presence::Gone), m_projectId(project.getProjectId()), m_objectId(deleted->getObjectId())
 {
     keep(std::move(deleted));
 }
 
-std::unique_ptr<Obj::ProjectObject> ObjectCommand::take()
+Obj::OwnedObject ObjectCommand::take()
 {
     Obj::Project* const project = Obj::Application::instance().get_project(m_projectId);
     if (project == nullptr)
@@ -52,10 +50,38 @@ std::unique_ptr<Obj::ProjectObject> ObjectCommand::take()
     return project->take_object(m_objectId);
 }
 
-void ObjectCommand::restore(std::unique_ptr<Obj::ProjectObject> object)
+void ObjectCommand::putBack(Obj::OwnedObject object)
 {
     if (Obj::Project* const project = Obj::Application::instance().get_project(m_projectId))
         project->restore_object(std::move(object));
+}
+
+PropertyCommand::PropertyCommand(const QString& text, PropertyPlace place, std::string name, Json::Value before,
+                                 Json::Value after)
+    : DoneCommand(text),
+      m_place(std::move(place)),
+      m_name(std::move(name)),
+      m_before(std::move(before)),
+      m_after(std::move(after))
+{}
+
+void PropertyCommand::set(const Json::Value& value) const
+{
+    const Obj::PropertyDS* const owner = m_place.find();
+    Obj::Property* const property = owner != nullptr ? owner->get_property_by_name(m_name.c_str()) : nullptr;
+    // Every value that is kept here was the property's own.
+    if (property != nullptr)
+        static_cast<void>(property->from_json(value));
+}
+
+SuppressionCommand::SuppressionCommand(const QString& text, PropertyPlace place, bool suppressed)
+    : DoneCommand(text), m_place(std::move(place)), m_suppressed(suppressed)
+{}
+
+void SuppressionCommand::set(bool suppressed) const
+{
+    if (Obj::ProjectObject* const object = m_place.findObject())
+        object->setSuppressed(suppressed);
 }
 
 } // namespace vxMsg

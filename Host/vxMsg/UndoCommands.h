@@ -1,20 +1,23 @@
 #pragma once
 
 #include "Obj/Application.h"
-#include "Obj/Signal.h"
+#include "vxMsg/PropertyPlace.h"
 
 #include <QUndoCommand>
+#include <json/value.h>
 
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <utility>
 
 namespace vxMsg {
 
-/// While one lives, what happens to one project or object happens on behalf of the proxy, and is not history of its own.
+/// While one lives, the proxy itself removes a project or an object, which it records itself.
 class OwnDoing
 {
 public:
-    explicit OwnDoing(const void* thing) : m_before(current) { current = thing; }
+    explicit OwnDoing(const void* thing) : m_before(std::exchange(current, thing)) {}
     OwnDoing(const OwnDoing&) = delete;
     OwnDoing& operator=(const OwnDoing&) = delete;
     ~OwnDoing() { current = m_before; }
@@ -26,99 +29,127 @@ private:
     const void* m_before;
 };
 
-/// While one lives, a command of the stack is undone or redone, and the stack must be left alone.
-class Undoing
+/// A command that is made after it has been carried out: its first redo does nothing.
+class DoneCommand : public QUndoCommand
 {
 public:
-    Undoing() { ++depth; }
-    Undoing(const Undoing&) = delete;
-    Undoing& operator=(const Undoing&) = delete;
-    ~Undoing() { --depth; }
+    using QUndoCommand::QUndoCommand;
 
-    static bool underWay() { return depth > 0; }
+    void redo() final
+    {
+        if (std::exchange(m_isRecorded, true))
+            doAgain();
+    }
+
+protected:
+    virtual void doAgain() = 0;
 
 private:
-    static int depth;
+    bool m_isRecorded = false;
 };
 
 enum class Presence
 {
-    Here, ///< the command brought it here; undo takes it away
-    Gone, ///< the command took it away; undo brings it back
+    Here, ///< the command added it; undo takes it away
+    Gone, ///< the command removed it; undo brings it back
 };
 
-/// That something came or went, and the thing itself while it is away. Made when that has happened. Commands know
-/// projects and objects by their ids: what was destroyed past the proxy is then simply not found.
-template <typename Thing>
-class PresenceCommand : public QUndoCommand
+/// The addition or removal of a project or an object, which the command owns while it is away. Commands know projects and
+/// objects by their ids, so that one that was destroyed past the proxy is simply not found.
+template <typename Owned>
+class PresenceCommand : public DoneCommand
 {
 public:
-    PresenceCommand(const QString& text, Presence presence) : QUndoCommand(text), m_presence(presence) {}
+    PresenceCommand(const QString& text, Presence presence) : DoneCommand(text), m_presence(presence) {}
 
-    void undo() override { set(m_presence == Presence::Here ? Presence::Gone : Presence::Here); }
-    void redo() override
-    {
-        if (m_done)
-            set(m_presence);
-        m_done = true;
-    }
+    void undo() override { m_presence == Presence::Here ? remove() : restore(); }
 
 protected:
-    virtual std::unique_ptr<Thing> take() = 0;
-    virtual void restore(std::unique_ptr<Thing> thing) = 0;
-    void keep(std::unique_ptr<Thing> thing) { m_kept = std::move(thing); }
+    void doAgain() override { m_presence == Presence::Here ? restore() : remove(); }
+    virtual Owned take() = 0;
+    virtual void putBack(Owned thing) = 0;
+    void keep(Owned thing) { m_kept = std::move(thing); }
 
 private:
-    void set(Presence presence)
+    void remove() { m_kept = take(); }
+    void restore()
     {
-        const Undoing undoing;
-        try {
-            if (presence == Presence::Gone)
-                m_kept = take();
-            else if (m_kept != nullptr)
-                restore(std::move(m_kept));
-        } catch (...) {
-            // The stack takes for granted that commands succeed.
-            Obj::reportException("an undo or redo");
-        }
+        if (m_kept != nullptr)
+            putBack(std::move(m_kept));
     }
 
     Presence m_presence;
-    bool m_done = false;
-    std::unique_ptr<Thing> m_kept;
+    Owned m_kept;
 };
 
-class ProjectCommand final : public PresenceCommand<Obj::Project>
+class ProjectCommand final : public PresenceCommand<Obj::OwnedProject>
 {
 public:
     /// The project has been made.
     ProjectCommand(const QString& text, const Obj::Project& project);
     /// The project has been closed.
-    ProjectCommand(const QString& text, std::unique_ptr<Obj::Project> closed);
+    ProjectCommand(const QString& text, Obj::OwnedProject closed);
 
 protected:
-    std::unique_ptr<Obj::Project> take() override;
-    void restore(std::unique_ptr<Obj::Project> project) override;
+    Obj::OwnedProject take() override;
+    void putBack(Obj::OwnedProject project) override;
 
 private:
     std::uint32_t m_projectId;
 };
 
-class ObjectCommand final : public PresenceCommand<Obj::ProjectObject>
+class ObjectCommand final : public PresenceCommand<Obj::OwnedObject>
 {
 public:
     /// The object has been added to its project.
     ObjectCommand(const QString& text, const Obj::ProjectObject& object);
     /// The object has been taken out of `project`.
-    ObjectCommand(const QString& text, const Obj::Project& project, std::unique_ptr<Obj::ProjectObject> deleted);
+    ObjectCommand(const QString& text, const Obj::Project& project, Obj::OwnedObject deleted);
 
 protected:
-    std::unique_ptr<Obj::ProjectObject> take() override;
-    void restore(std::unique_ptr<Obj::ProjectObject> object) override;
+    Obj::OwnedObject take() override;
+    void putBack(Obj::OwnedObject object) override;
 
 private:
     std::uint32_t m_projectId;
     std::uint32_t m_objectId;
+};
+
+/// A new value of a property. The values are kept as project files keep them: a reference finds its object by the id.
+class PropertyCommand final : public DoneCommand
+{
+public:
+    PropertyCommand(const QString& text, PropertyPlace place, std::string name, Json::Value before, Json::Value after);
+
+    void undo() override { set(m_before); }
+
+protected:
+    void doAgain() override { set(m_after); }
+
+private:
+    void set(const Json::Value& value) const;
+
+    PropertyPlace m_place;
+    std::string m_name;
+    Json::Value m_before;
+    Json::Value m_after;
+};
+
+class SuppressionCommand final : public DoneCommand
+{
+public:
+    SuppressionCommand(const QString& text, PropertyPlace place, bool suppressed);
+
+    void undo() override { set(!m_suppressed); }
+
+protected:
+    void doAgain() override { set(m_suppressed); }
+
+private:
+    void set(bool suppressed) const;
+
+    PropertyPlace m_place;
+    bool m_suppressed;
 };
 
 } // namespace vxMsg

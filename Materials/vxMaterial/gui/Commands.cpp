@@ -12,6 +12,7 @@
 #include "Obj/ProjectObjectGroup.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QMessageBox>
@@ -28,7 +29,7 @@ namespace MatGui {
 
 namespace {
 
-constexpr std::uint32_t materialProjectTag = 2;
+constexpr auto materialProjectTag = static_cast<std::uint32_t>(Mat::materialProjectTag);
 
 /// The fields of one command; absent ones keep the host's default.
 struct Row
@@ -142,7 +143,8 @@ void deleteEntries(const std::vector<Gui::CSelectionType>& entries)
         Gui::GuiProject* const guiProject = Gui::GuiApplication::Instance->get_project(object->get_project());
         Gui::ViewFeeder* const node = guiProject != nullptr ? guiProject->get_view_feeder(object) : nullptr;
         if (node != nullptr && node->onDelete(entry.get_subelement_names()))
-            vxMsg::doCommand(vxMsg::MessageData(3, entry.get_project_name(), entry.get_object_name(), 0.0));
+            vxMsg::doCommand(vxMsg::MessageData(vxMsg::vxCommand::DeleteObject, entry.get_project_name(),
+                                                entry.get_object_name(), 0.0));
     }
 }
 
@@ -198,7 +200,7 @@ void MatCmdNewDoc::activated(int)
                              QMessageBox::Ok);
         return;
     }
-    vxMsg::runCommand(1030, 1, {Obj::Application::get_unique_project_name("Materials")});
+    vxMsg::runCommand(Mat::Request::NewMaterialProject, 1, {Obj::Application::get_unique_project_name("Materials")});
 }
 
 MatCmdDelDoc::MatCmdDelDoc() : MaterialCommand("Mat_DelDoc") {}
@@ -214,7 +216,7 @@ void MatCmdDelDoc::activated(int)
 {
     const auto projects = Gui::TreeSelectionSingleton::instance().get_projects(materialProjectTag);
     if (projects.size() == 1)
-        vxMsg::runCommand(22, 1, {projects.front()->get_name()});
+        vxMsg::runCommand(vxMsg::vxCommand::CloseProject, 1, {projects.front()->get_name()});
 }
 
 MatCmdMaterial::MatCmdMaterial() : MaterialCommand("Mat_AddMaterial") {}
@@ -236,7 +238,7 @@ void MatCmdMaterial::activated(int)
     }
     const std::string name = get_unique_object_name("Material");
     if (!name.empty())
-        vxMsg::doCommand(vxMsg::MessageData(1027, project->get_name(), name, 0.0));
+        vxMsg::doCommand(vxMsg::MessageData(Mat::Request::AddMaterial, project->get_name(), name, 0.0));
 }
 
 bool MatCmdMaterial::is_applicable()

@@ -6,6 +6,7 @@
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MainWindow.h"
+#include "Kelta/Exceptions.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/MessageBox.h"
@@ -20,7 +21,6 @@
 #include <QScrollArea>
 #include <QSignalBlocker>
 
-#include <exception>
 #include <utility>
 
 namespace MatGui {
@@ -31,19 +31,14 @@ namespace {
 template <class Action>
 bool guarded(const Action& action)
 {
-    const auto report = [](const QString& reason) {
-        Mat::showCritical(MaterialView::tr("Material editor"),
-                          MaterialView::tr("Something went wrong: %1").arg(reason));
-    };
     try {
         action();
         return true;
-    } catch (const std::exception& exception) {
-        report(QString::fromUtf8(exception.what()));
     } catch (...) {
-        report(MaterialView::tr("the reason is not known"));
+        Mat::showCritical(MaterialView::tr("Material editor"),
+                          MaterialView::tr("Something went wrong: %1").arg(Kelta::currentExceptionText()));
+        return false;
     }
-    return false;
 }
 
 /// The windows that are to close and whose changes are not applied.
@@ -105,7 +100,7 @@ QWidget* makeReachable(const QToolBox& box, QWidget* before)
 
 } // namespace
 
-Kelta::TypeInfo MaterialView::classTypeId;
+KELTA_REGISTER_ABSTRACT_CLASS(MatGui::MaterialView, Gui::MDIWindow)
 
 MaterialView::MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object, QWidget* parent)
     : MDIWindow(project, parent), m_materialObject(static_cast<Mat::MaterialObject*>(object))
@@ -133,21 +128,6 @@ MaterialView::~MaterialView()
 void* MaterialView::create()
 {
     return nullptr;
-}
-
-void MaterialView::init()
-{
-    initSubclass(classTypeId, "MatGui::MaterialView", "Gui::MDIWindow", &MaterialView::create);
-}
-
-Kelta::TypeInfo MaterialView::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo MaterialView::getTypeId() const
-{
-    return classTypeId;
 }
 
 void MaterialView::initUI()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Gui/MDIWindow.h"
+#include "Kelta/ClassRegistration.h"
 #include "vxMaterial/project/PluginExport.h"
 
 #include <QListWidgetItem>
@@ -39,6 +40,7 @@ namespace MatGui {
 class VXMATERIAL_EXPORT MaterialView : public Gui::MDIWindow
 {
     Q_OBJECT
+    KELTA_ABSTRACT_CLASS;
 
 public:
     /// The window for `object`, which must be a Mat::MaterialObject in a material project and outlive the window.
@@ -47,9 +49,6 @@ public:
 
     /// Null: windows are made by their constructor alone.
     static void* create();
-    static void init();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
 
     Mat::MaterialObject* getMaterialObject() const { return m_materialObject; }
 
@@ -106,8 +105,6 @@ private:
     void answerQuestion(int answer);
     void closeUnasked();
     void requestClose();
-
-    static Kelta::TypeInfo classTypeId;
 
     std::unique_ptr<Ui::MaterialWidget> m_ui;
     Mat::MaterialObject* m_materialObject;

@@ -10,7 +10,6 @@
 #include <QToolBar>
 
 #include <memory>
-#include <new>
 #include <utility>
 
 namespace MatGui {
@@ -54,7 +53,7 @@ void WorkbenchHelper::setBackgroundColor(const QColor&)
     static_cast<void>(isMaterialEditorActive());
 }
 
-Kelta::TypeInfo SimModule::classTypeId;
+KELTA_REGISTER_CLASS(MatGui::SimModule, Gui::StdSimModule)
 
 SimModule::SimModule() : workbenchHelper(new WorkbenchHelper) {}
 
@@ -76,26 +75,6 @@ SimModule& SimModule::operator=(SimModule& other)
 SimModule::~SimModule()
 {
     delete workbenchHelper;
-}
-
-void* SimModule::create()
-{
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) SimModule);
-}
-
-Kelta::TypeInfo SimModule::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo SimModule::getTypeId() const
-{
-    return classTypeId;
-}
-
-void SimModule::init()
-{
-    initSubclass(classTypeId, "MatGui::SimModule", "Gui::StdSimModule", &SimModule::create);
 }
 
 void SimModule::activated()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Gui/StdSimModule.h"
+#include "Kelta/ClassRegistration.h"
 #include "vxMaterial/project/PluginExport.h"
 
 #include <QObject>
@@ -26,17 +27,14 @@ public Q_SLOTS:
 /// The materials workbench: the standard one with a menu, a toolbar and a message bar for materials.
 class VXMATERIAL_EXPORT SimModule : public Gui::StdSimModule
 {
+    KELTA_CLASS;
+
 public:
     SimModule();
     /// Takes the helper over from `other`, which is left without one.
     SimModule(SimModule& other);
     SimModule& operator=(SimModule& other); // NOLINT(misc-unconventional-assign-operator): as the copy above
     ~SimModule() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Looks for the toolbar "MaterialGUI" of the main window; nothing the user sees comes of it.
     void activated() override;
@@ -52,8 +50,6 @@ public:
     WorkbenchHelper* getWorkbenchHelper() const { return workbenchHelper; }
 
 private:
-    static Kelta::TypeInfo classTypeId;
-
     bool toolbarFound = false;
     WorkbenchHelper* workbenchHelper; ///< owned
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Gui/ViewFeeder.h"
+#include "Obj/ClassRegistration.h"
 #include "vxMaterial/project/PluginExport.h"
 
 namespace MatGui {
@@ -8,14 +9,11 @@ namespace MatGui {
 /// The node of a material project. It is made by its registered name alone, so create and init stay inside the module.
 class ViewFeederDocumentMaterial : public Gui::ViewFeederProject
 {
+    OBJ_CLASS;
+
 public:
     VXMATERIAL_EXPORT ViewFeederDocumentMaterial();
     VXMATERIAL_EXPORT ~ViewFeederDocumentMaterial() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     /// Always true.
     VXMATERIAL_EXPORT bool onDelete(const std::vector<std::string>& subElements) override;
@@ -25,13 +23,7 @@ public:
     /// Adds nothing.
     VXMATERIAL_EXPORT void build_context_menu(QMenu* menu, QObject* receiver, const char* slot) override;
 
-protected:
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
-
 private:
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
 };
 
 } // namespace MatGui

@@ -12,12 +12,9 @@
 #include <QCoreApplication>
 #include <QMenu>
 
-#include <new>
-
 namespace MatGui {
 
-Kelta::TypeInfo ViewFeederMaterialObject::classTypeId;
-Obj::PropertyCoreData ViewFeederMaterialObject::propertyData;
+OBJ_REGISTER_CLASS(MatGui::ViewFeederMaterialObject, Gui::ViewFeederProjectObject)
 
 ViewFeederMaterialObject::ViewFeederMaterialObject()
     : materialColor(Obj::Color{0.5058824F, 0.57254905F, 0.6431373F, 0.0F})
@@ -31,28 +28,6 @@ ViewFeederMaterialObject::~ViewFeederMaterialObject()
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (materialView != nullptr && mainWindow != nullptr)
         mainWindow->remove_mdi_window(materialView);
-}
-
-void* ViewFeederMaterialObject::create()
-{
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) ViewFeederMaterialObject);
-}
-
-Kelta::TypeInfo ViewFeederMaterialObject::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo ViewFeederMaterialObject::getTypeId() const
-{
-    return classTypeId;
-}
-
-void ViewFeederMaterialObject::init()
-{
-    initSubclass(classTypeId, "MatGui::ViewFeederMaterialObject", "Gui::ViewFeederProjectObject",
-                 &ViewFeederMaterialObject::create);
-    propertyData.set_parent(Gui::ViewFeederProjectObject::get_property_data_ref());
 }
 
 bool ViewFeederMaterialObject::useNewSelectionModel() const
@@ -122,16 +97,6 @@ void ViewFeederMaterialObject::updateData(const Obj::Property* changed)
 {
     if (materialView != nullptr)
         materialView->updateCell(changed);
-}
-
-const Obj::PropertyCoreData& ViewFeederMaterialObject::get_property_data() const
-{
-    return propertyData;
-}
-
-const Obj::PropertyCoreData* ViewFeederMaterialObject::get_property_data_ref()
-{
-    return &propertyData;
 }
 
 MaterialView* ViewFeederMaterialObject::showMaterialView()

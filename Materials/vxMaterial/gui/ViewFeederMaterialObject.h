@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Gui/ViewFeeder.h"
+#include "Obj/ClassRegistration.h"
 #include "vxMaterial/project/PluginExport.h"
 
 #include <QPointer>
@@ -18,15 +19,12 @@ class MaterialView;
 /// leaves the tree.
 class VXMATERIAL_EXPORT ViewFeederMaterialObject : public Gui::ViewFeederProjectObject
 {
+    OBJ_CLASS;
+
 public:
     ViewFeederMaterialObject();
     /// Removes the editor from the main window if it is open.
     ~ViewFeederMaterialObject() override;
-
-    static void* create();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
-    static void init();
 
     bool useNewSelectionModel() const override; ///< false
     /// Always true: materials can be deleted.
@@ -50,8 +48,6 @@ public:
 protected:
     /// Passes the change on to the editor when it is open.
     void updateData(const Obj::Property* changed) override;
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
     /// The open editor, or a new one in the main window; null when the node shows no material, or one that is in a
     /// project of another kind than materials.
     MaterialView* showMaterialView();
@@ -60,9 +56,6 @@ private:
     bool isOpen() const;
     void openEditor();
     void showLabel(const Mat::MaterialObject& object);
-
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
 
     QPointer<MaterialView> materialView;
     boost::signals2::scoped_connection m_labelChanged;

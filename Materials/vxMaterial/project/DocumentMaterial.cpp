@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <new>
 #include <utility>
 #include <vector>
 
@@ -26,12 +25,11 @@ std::vector<MaterialObject*> materialObjects(const Obj::Project& project)
 
 } // namespace
 
-Kelta::TypeInfo DocumentMaterial::classTypeId;
-Obj::PropertyCoreData DocumentMaterial::propertyData;
+OBJ_REGISTER_CLASS(Mat::DocumentMaterial, Obj::Project)
 
 DocumentMaterial::DocumentMaterial()
 {
-    documentTag = Kelta::eDocumentTag::Material;
+    documentTag = materialProjectTag;
     id.setValue(0);
     classLabel.setValue("Material Project");
     physicsType.setValue("Structural");
@@ -44,27 +42,6 @@ DocumentMaterial::DocumentMaterial()
 }
 
 DocumentMaterial::~DocumentMaterial() = default;
-
-void* DocumentMaterial::create()
-{
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) DocumentMaterial);
-}
-
-void DocumentMaterial::init()
-{
-    initSubclass(classTypeId, "Mat::DocumentMaterial", "Obj::Project", &DocumentMaterial::create);
-    propertyData.set_parent(Obj::Project::get_property_data_ref());
-}
-
-Kelta::TypeInfo DocumentMaterial::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo DocumentMaterial::getTypeId() const
-{
-    return classTypeId;
-}
 
 const char* DocumentMaterial::get_viewfeeder_name() const
 {
@@ -120,16 +97,6 @@ bool DocumentMaterial::exportToFile(const std::string& path, char, char, char)
     set->writeJson(document);
     file << vxjson::toStyledText(document);
     return true;
-}
-
-const Obj::PropertyCoreData& DocumentMaterial::get_property_data() const
-{
-    return propertyData;
-}
-
-const Obj::PropertyCoreData* DocumentMaterial::get_property_data_ref()
-{
-    return &propertyData;
 }
 
 std::unique_ptr<vxCAE::CAESet> DocumentMaterial::makeCAESet()

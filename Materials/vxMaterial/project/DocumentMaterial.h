@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Kelta/DocumentTag.h"
+#include "Obj/ClassRegistration.h"
 #include "Obj/Project.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/project/PluginExport.h"
@@ -15,18 +17,18 @@ class CAESet;
 
 namespace Mat {
 
+/// The document tag of material projects.
+inline constexpr Kelta::eDocumentTag materialProjectTag{2};
+
 /// The material project: its objects are materials, and all of them share its database of library and catalogue.
 class VXMATERIAL_EXPORT DocumentMaterial : public Obj::Project
 {
+    OBJ_CLASS;
+
 public:
     /// A project with the tag of material projects and a filled database.
     DocumentMaterial();
     ~DocumentMaterial() override;
-
-    static void* create();
-    static void init();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
 
     const char* get_viewfeeder_name() const override; ///< "MatGui::ViewFeederDocumentMaterial"
     /// Always state 0: a project as a whole is never ready or not.
@@ -59,16 +61,9 @@ public:
 
     Obj::PropertyString physicsType; ///< "PhysicsType"
 
-protected:
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
-
 private:
     std::unique_ptr<vxCAE::CAESet> makeCAESet();
     void load_cae_set(vxCAE::CAESet* set);
-
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
 
     vxMat::MatDBManager matMgr;
 };

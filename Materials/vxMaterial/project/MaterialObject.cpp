@@ -11,8 +11,7 @@
 
 namespace Mat {
 
-Kelta::TypeInfo MaterialObject::classTypeId;
-Obj::PropertyCoreData MaterialObject::propertyData;
+OBJ_REGISTER_CLASS(Mat::MaterialObject, Obj::ProjectObject)
 
 MaterialObject::MaterialObject() : material(std::make_unique<vxMat::CMaterial>("MaterialObject"))
 {
@@ -24,27 +23,6 @@ MaterialObject::MaterialObject() : material(std::make_unique<vxMat::CMaterial>("
 }
 
 MaterialObject::~MaterialObject() = default;
-
-void* MaterialObject::create()
-{
-    return static_cast<Kelta::RootClass*>(new (std::nothrow) MaterialObject);
-}
-
-void MaterialObject::init()
-{
-    initSubclass(classTypeId, "Mat::MaterialObject", "Obj::ProjectObject", &MaterialObject::create);
-    propertyData.set_parent(Obj::ProjectObject::get_property_data_ref());
-}
-
-Kelta::TypeInfo MaterialObject::getClassTypeId()
-{
-    return classTypeId;
-}
-
-Kelta::TypeInfo MaterialObject::getTypeId() const
-{
-    return classTypeId;
-}
 
 const char* MaterialObject::get_viewfeeder_name() const
 {
@@ -138,16 +116,6 @@ void MaterialObject::on_changed(const Obj::Property* changed)
 {
     check_input();
     Obj::ProjectObject::on_changed(changed);
-}
-
-const Obj::PropertyCoreData& MaterialObject::get_property_data() const
-{
-    return propertyData;
-}
-
-const Obj::PropertyCoreData* MaterialObject::get_property_data_ref()
-{
-    return &propertyData;
 }
 
 } // namespace Mat

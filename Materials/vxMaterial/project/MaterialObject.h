@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Obj/ClassRegistration.h"
 #include "Obj/ProjectObject.h"
 #include "Obj/ProjectObjectExecReturn.h"
 #include "vxMaterial/model/Material.h"
@@ -27,15 +28,12 @@ namespace Mat {
 /// properties are not host properties.
 class VXMATERIAL_EXPORT MaterialObject : public Obj::ProjectObject
 {
+    OBJ_CLASS;
+
 public:
     /// An object without properties, state 0.
     MaterialObject();
     ~MaterialObject() override;
-
-    static void* create();
-    static void init();
-    static Kelta::TypeInfo getClassTypeId();
-    Kelta::TypeInfo getTypeId() const override;
 
     const char* get_viewfeeder_name() const override; ///< "MatGui::ViewFeederMaterialObject"
     void refreshProperties(bool stateToo) override;
@@ -76,13 +74,8 @@ public:
 protected:
     void on_configuring_project() override;
     void on_changed(const Obj::Property* changed) override;
-    const Obj::PropertyCoreData& get_property_data() const override;
-    static const Obj::PropertyCoreData* get_property_data_ref();
 
 private:
-    static Kelta::TypeInfo classTypeId;
-    static Obj::PropertyCoreData propertyData;
-
     // What the host's extensions hang on to; nothing in the module uses it.
     boost::signals2::signal<boost::any(), boost::signals2::last_value<boost::any>> dataRequested;
     std::map<int, int> dataIndices;

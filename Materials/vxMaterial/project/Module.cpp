@@ -4,7 +4,7 @@
 
 #include "Gui/GuiApplication.h"
 #include "Gui/Translator.h"
-#include "Kelta/MessageLog.h"
+#include "Kelta/Exceptions.h"
 #include "vxMaterial/gui/Commands.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SimModule.h"
@@ -13,26 +13,9 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
-#include <exception>
 #include <new>
 
 namespace {
-
-/// The boundary to the host, which nothing thrown may cross.
-template <typename Entry>
-void guarded(const char* name, const Entry& entry)
-{
-    const auto report = [name](const char* reason) {
-        Kelta::MessageLog::error(QStringLiteral("%1: %2").arg(QLatin1String(name), QString::fromUtf8(reason)));
-    };
-    try {
-        entry();
-    } catch (const std::exception& exception) {
-        report(exception.what());
-    } catch (...) {
-        report("an exception of an unknown kind");
-    }
-}
 
 /// The manager takes the commands over; it ignores one for which there was no memory.
 template <typename... Commands>
@@ -52,7 +35,7 @@ void registerCommands(Gui::CommandController& manager)
 
 void initMat()
 {
-    guarded("initMat", [] {
+    Kelta::guarded(QStringLiteral("initMat"), [] {
         Mat::DocumentMaterial::init();
         Mat::MaterialObject::init();
     });
@@ -62,7 +45,7 @@ void initMatGui()
 {
     if (Gui::GuiApplication::Instance == nullptr)
         return;
-    guarded("initMatGui", [] {
+    Kelta::guarded(QStringLiteral("initMatGui"), [] {
         registerCommands(Gui::GuiApplication::Instance->get_command_manager());
         MatGui::SimModule::init();
         MatGui::ViewFeederMaterialObject::init();

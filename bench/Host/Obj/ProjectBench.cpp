@@ -5,6 +5,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <json/value.h>
@@ -56,6 +57,7 @@ void registerClasses()
 {
     Obj::initObj();
     initMat();
+    Mat::registerRequests();
     // What contests keep is destroyed before the application that way.
     Obj::Application::instance();
     Kelta::RootClass::initSubclass(Thing::type, "Bench::Thing", "Obj::ProjectObject", &Thing::create);
@@ -118,7 +120,7 @@ nanoseconds addInPortions(const char* projectClass, std::size_t count, const Add
 
 nanoseconds addThings(std::size_t count)
 {
-    std::vector<std::unique_ptr<Obj::Project>> full;
+    std::vector<Obj::OwnedProject> full;
     return addInPortions(
         "Bench::ThingProject", count, [](Obj::Project& project) { project.add_object("Bench::Thing", "Thing"); },
         [&full](const Obj::Project& project) { full.push_back(Obj::Application::instance().take_project(project)); });
@@ -129,7 +131,7 @@ nanoseconds addMaterials(std::size_t count)
     const nanoseconds time = addInPortions(
         "Mat::DocumentMaterial", count,
         [](const Obj::Project& project) {
-            vxMsg::doCommand({vxMsg::vxCommand::AddMaterial, project.get_name(), "Material", 0.0});
+            vxMsg::doCommand({Mat::Request::AddMaterial, project.get_name(), "Material", 0.0});
         },
         [](const Obj::Project& project) {
             vxMsg::runCommand(vxMsg::vxCommand::CloseProject, 1, {project.get_name()});

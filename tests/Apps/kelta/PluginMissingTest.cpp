@@ -36,13 +36,15 @@ protected:
 TEST_F(PluginMissing, StartsAndSaysSo)
 {
     const Outcome outcome = run({"--screenshot", "window.png"});
-    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("libvxMaterial.so"));
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("No module was found in"));
     EXPECT_EQ(QImage(folder.filePath(QStringLiteral("window.png"))).size(), QSize(1180, 760));
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST_F(PluginMissing, StartsAndSaysSoWhenItIsBroken)
 {
+    vxtest::writeFile(folder.filePath(QStringLiteral("plugins/vxMaterial.module.json")),
+                      R"({"module": "vxMaterial", "version": "0.1", "entries": ["initMat"]})");
     vxtest::writeFile(folder.filePath(QStringLiteral("plugins/libvxMaterial.so")), "this is no library");
     const Outcome outcome = run({"--screenshot", "window.png"});
     EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("libvxMaterial.so"));

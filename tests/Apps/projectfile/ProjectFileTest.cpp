@@ -72,7 +72,12 @@ struct Wrong
 
 void PrintTo(const Wrong& wrong, std::ostream* out)
 {
-    *out << wrong.from << " -> " << wrong.to;
+    *out << testing::PrintToString(wrong.from) << " -> " << testing::PrintToString(wrong.to);
+}
+
+std::string nameOfCase(const testing::TestParamInfo<Wrong>& wrong)
+{
+    return vxtest::caseName(wrong.index, std::string(wrong.param.from) + " becomes " + wrong.param.to);
 }
 
 std::string smallText()
@@ -479,7 +484,7 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"links\": [3, 1]", "\"links\": 3", "\"objects[1].links\" is 3 but must be an array"},
         Wrong{"\"links\": [3, 1]", "\"links\": [3, \"x\"]", "\"objects[1].links[1]\" is \"x\""},
         Wrong{"\"links\": [3, 1]", "\"links\": [-1]", "\"objects[1].links[0]\" is -1"}),
-    [](const auto& wrong) { return "Case" + std::to_string(wrong.index); });
+    nameOfCase);
 
 TEST(MixedProject, IsNotWrittenWithAClassOrNameThatNoHostTakes)
 {
@@ -658,27 +663,6 @@ TEST(ProjectFile, CarriesATextOfAHundredThousandDigitsButRefusesSuchANumber)
     EXPECT_DOUBLE_EQ(read.objects[0].material->findProperty(4)->value, 7.0 / 9.0);
 }
 
-<<<<<<< HEAD
-/// A change to the small project that makes it wrong, and what is said of it.
-struct Wrong
-{
-    const char* from;
-    const char* to;
-    const char* reason;
-};
-
-void PrintTo(const Wrong& wrong, std::ostream* out)
-{
-    *out << testing::PrintToString(wrong.from) << " -> " << testing::PrintToString(wrong.to);
-}
-
-std::string nameOfCase(const testing::TestParamInfo<Wrong>& wrong)
-{
-    return vxtest::caseName(wrong.index, std::string(wrong.param.from) + " becomes " + wrong.param.to);
-}
-
-=======
->>>>>>> p3
 class WrongProject : public testing::TestWithParam<Wrong>
 {};
 

@@ -55,7 +55,7 @@ TEST_F(CommandTest, ReportsWhatIsNoExceptionOfTheStandardLibrary)
 {
     TestCommand command("Test_Run", [] { throw 42; });
     EXPECT_FALSE(command.invoke());
-    EXPECT_THAT(lastMessage(), HasSubstr("the reason is not known"));
+    EXPECT_THAT(lastMessage(), HasSubstr("an exception of an unknown kind"));
 }
 
 TEST_F(CommandTest, IsUndoneInOneStepThatHasItsName)

@@ -40,7 +40,7 @@ TEST_F(Application, DoesNotEndByWhatReachesItsEventLoop)
     Thrower other([] { throw 42; });
     QCoreApplication::postEvent(&other, new QEvent(QEvent::User));
     QCoreApplication::processEvents();
-    EXPECT_THAT(lastMessage(), HasSubstr("for a reason that is not known"));
+    EXPECT_THAT(lastMessage(), HasSubstr("an exception of an unknown kind"));
 }
 
 TEST_F(Application, HasTheUsersSideOfEachOpenProject)

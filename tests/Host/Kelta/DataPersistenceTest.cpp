@@ -21,17 +21,17 @@ public:
     void save(Kelta::FileWriter& writer) const override
     {
         for (const QString& line : lines) {
-            writer.beginElement(QStringLiteral("line"));
-            writer.writeAttribute(QStringLiteral("text"), line);
-            writer.endElement();
+            writer.xml().writeStartElement(QStringLiteral("line"));
+            writer.xml().writeAttribute(QStringLiteral("text"), line);
+            writer.xml().writeEndElement();
         }
     }
 
     void load(Kelta::XMLFileReader& reader) override
     {
-        while (reader.nextElement(QStringLiteral("line"))) {
-            lines << reader.attribute(QStringLiteral("text"));
-            reader.leaveElement();
+        while (reader.xml().readNextStartElement()) {
+            lines << reader.xml().attributes().value(QStringLiteral("text")).toString();
+            reader.xml().skipCurrentElement();
         }
     }
 
@@ -86,7 +86,25 @@ TEST_F(DataPersistenceTest, OfABareObjectIsAnEmptyElement)
     ASSERT_TRUE(bare.save_to_file(m_path));
     EXPECT_TRUE(bare.load_from_file(m_path));
     EXPECT_EQ(bare.getTypeId(), Kelta::TypeInfo::find("Kelta::DataPersistence"));
-    EXPECT_GE(bare.get_memory_usage(), sizeof(void*));
+}
+
+/// A class that is registered with what its objects take.
+class Ledger : public DataPersistence
+{
+    KELTA_CLASS;
+
+public:
+    char pages[1000] = {};
+};
+KELTA_REGISTER_CLASS(Ledger, Kelta::DataPersistence)
+
+TEST_F(DataPersistenceTest, KnowsWhatAnObjectOfItsClassTakes)
+{
+    Ledger::init();
+    const Ledger ledger;
+    EXPECT_EQ(Ledger::getClassTypeId().get_object_size(), sizeof(Ledger));
+    EXPECT_EQ(ledger.get_memory_usage(), sizeof(Ledger));
+    EXPECT_EQ(Note().get_memory_usage(), sizeof(DataPersistence)) << "its class is registered without a size";
 }
 
 TEST_F(DataPersistenceTest, ReportsAFolderThatIsMissing)
@@ -137,7 +155,7 @@ TEST_F(DataPersistenceTest, SetsNothingFromAFileWithMoreBehindItsEnd)
 TEST_F(DataPersistenceTest, RefusesAFileOfAnotherRoot)
 {
     EXPECT_THAT(whyNotLoaded("<projects><object class=\"Test::Note\"/></projects>"),
-                HasSubstr("note.xml: this file holds no object of the application"));
+                HasSubstr("note.xml: this file does not hold an object of the application"));
 }
 
 TEST_F(DataPersistenceTest, RefusesAFileOfAnotherClass)

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <stdexcept>
+
 namespace {
 
 using Kelta::LogMessage;
@@ -61,6 +63,23 @@ TEST(MessageLog, TellsListenersWhoMayReportAndClearThemselves)
     MessageLog::information(QStringLiteral("first"));
     QObject::disconnect(listening);
     EXPECT_EQ(heard, QStringList({"second", "first"}));
+}
+
+TEST(MessageLog, LetsNothingOutThatAListenerThrows)
+{
+    MessageLog& log = MessageLog::instance();
+    log.clear();
+    const std::size_t before = log.errorCount();
+    const auto listening = QObject::connect(&log, &MessageLog::reported, [](const LogMessage&) {
+        throw std::runtime_error("the printer of the log is out of paper");
+    });
+    EXPECT_NO_THROW(MessageLog::information(QStringLiteral("one")));
+    QObject::disconnect(listening);
+    ASSERT_EQ(log.messages().size(), 2U);
+    EXPECT_EQ(log.messages()[0].text, QStringLiteral("one"));
+    EXPECT_EQ(log.messages()[1].text,
+              QStringLiteral("A listener of the message log failed: the printer of the log is out of paper"));
+    EXPECT_EQ(log.errorCount(), before + 1);
 }
 
 } // namespace

@@ -1,143 +1,318 @@
 #include "Kelta/PluginLoader.h"
 
-#include "HostTesting.h"
+#include "ModuleFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibrary>
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 namespace {
 
 using Kelta::PluginLoader;
 using testing::AllOf;
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
+using vxtest::ModuleFolder;
 
-const QString folder = QStringLiteral(VX_PLUGIN_FOLDER);
-
-/// What the counter of a fixture plug-in says.
-int callsIn(const QString& plugin)
+/// What the counter of a copy of a counting library says.
+int callsIn(const ModuleFolder& folder, const QString& module)
 {
-    const auto count =
-        reinterpret_cast<int (*)()>(QLibrary::resolve(folder + QStringLiteral("/lib%1.so").arg(plugin), "callCount"));
+    const auto count = reinterpret_cast<int (*)()>(
+        QLibrary::resolve(folder.path(QStringLiteral("lib%1.so").arg(module)), "callCount"));
     return count != nullptr ? count() : -1;
 }
 
-/// Why loading fails; empty when it does not.
-std::string whyNot(PluginLoader& loader, const char* plugin, const QStringList& entries)
+/// Why loading fails; empty if it does not.
+std::string whyNot(PluginLoader& loader, const char* module)
 {
-    return loader.load(QString::fromLatin1(plugin), entries) ? std::string() : loader.errorText().toStdString();
+    return loader.load(QString::fromLatin1(module)) ? std::string() : loader.errorText().toStdString();
 }
 
-TEST(PluginLoader, LoadsAPluginByNameAndCallsItsEntriesOnce)
+std::vector<std::string> toStrings(const QStringList& names)
 {
-    PluginLoader loader({QStringLiteral("/nowhere"), folder});
-    const int before = callsIn(QStringLiteral("GoodPlugin"));
-    EXPECT_EQ(whyNot(loader, "GoodPlugin", {"enter"}), "");
-    EXPECT_EQ(callsIn(QStringLiteral("GoodPlugin")), before + 1);
-    EXPECT_EQ(whyNot(loader, "GoodPlugin", {"enter", "enterGui"}), "");
-    EXPECT_EQ(callsIn(QStringLiteral("GoodPlugin")), before + 101) << "each entry once";
-    EXPECT_EQ(whyNot(loader, "GoodPlugin", {}), "");
+    std::vector<std::string> strings;
+    for (const QString& name : names)
+        strings.push_back(name.toStdString());
+    return strings;
 }
 
-TEST(PluginLoader, TellsThatAPluginIsMissingAndWhereItLooked)
+class PluginLoaderTest : public testing::Test
 {
-    PluginLoader loader({QStringLiteral("/first/%1"), QStringLiteral("/second")});
-    EXPECT_THAT(whyNot(loader, "AbsentPlugin", {"enter"}),
-                AllOf(HasSubstr("\"AbsentPlugin\""), HasSubstr("libAbsentPlugin.so"), HasSubstr("/first/%1, /second")));
+protected:
+    ModuleFolder folder;
+    PluginLoader loader{{QStringLiteral("/nowhere"), folder.path()}};
+    vxtest::Reports reports;
+};
+
+TEST_F(PluginLoaderTest, LoadsAModuleByNameAndCallsItsEntriesOnce)
+{
+    folder.add("Good", "GoodPlugin", R"(["enter", "enterGui"])");
+    EXPECT_EQ(whyNot(loader, "Good"), "");
+    EXPECT_EQ(callsIn(folder, "Good"), 101) << "each entry once";
+    EXPECT_EQ(whyNot(loader, "Good"), "");
+    EXPECT_EQ(callsIn(folder, "Good"), 101);
 }
 
-TEST(PluginLoader, RefusesAFileThatIsNoLibrary)
+TEST_F(PluginLoaderTest, LoadsAllModulesInTheOrderOfDependence)
 {
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("libTextPlugin.so"));
-    vxtest::writeFile(path, "Dear linker,\nthis is a letter.\n");
-    PluginLoader loader({place.path()});
-    EXPECT_THAT(whyNot(loader, "TextPlugin", {"enter"}),
-                AllOf(HasSubstr("\"TextPlugin\""), HasSubstr(path.toStdString())));
+    folder.add("A", "AnnouncingPlugin", R"(["enterThird"])", R"(, "needs": {"B": "1", "C": "1.0"})");
+    folder.add("B", "AnnouncingPlugin", R"(["enterSecond"])", R"(, "needs": {"C": "0.9"}, "host": "0.1")");
+    folder.add("C", "AnnouncingPlugin", R"(["enterFirst"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("C", "B", "A"));
+    EXPECT_EQ(reports.text(), "first\nsecond\nthird\n");
+    EXPECT_THAT(outcome.failed, IsEmpty());
 }
 
-TEST(PluginLoader, RefusesAFolderOfTheNameOfALibrary)
+TEST_F(PluginLoaderTest, LoadsWhatAModuleNeedsBeforeIt)
 {
-    const QTemporaryDir place;
-    ASSERT_TRUE(QDir(place.path()).mkdir(QStringLiteral("libFolderPlugin.so")));
-    PluginLoader loader({place.path()});
-    EXPECT_THAT(whyNot(loader, "FolderPlugin", {"enter"}),
-                AllOf(HasSubstr("\"FolderPlugin\""), HasSubstr("libFolderPlugin.so")));
+    folder.add("A", "AnnouncingPlugin", R"(["enterSecond"])", R"(, "needs": {"B": "1"})");
+    folder.add("B", "AnnouncingPlugin", R"(["enterFirst"])");
+    EXPECT_EQ(whyNot(loader, "A"), "");
+    EXPECT_EQ(reports.text(), "first\nsecond\n");
 }
 
-TEST(PluginLoader, TakesAFileThatWasMendedAtTheNextAttempt)
+TEST_F(PluginLoaderTest, FindsNoModulesInEmptyOrMissingFolders)
 {
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("libMendedPlugin.so"));
-    vxtest::writeFile(path, "");
-    PluginLoader loader({place.path()});
-    EXPECT_NE(whyNot(loader, "MendedPlugin", {"enter"}), "");
-    ASSERT_TRUE(QFile::remove(path));
-    ASSERT_TRUE(QFile::copy(folder + QStringLiteral("/libGoodPlugin.so"), path));
-    EXPECT_EQ(whyNot(loader, "MendedPlugin", {"enter"}), "");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(outcome.loaded, IsEmpty());
+    EXPECT_THAT(outcome.failed, IsEmpty());
+    EXPECT_EQ(reports.text(), "");
+}
+
+TEST_F(PluginLoaderTest, TellsThatAModuleIsMissingAndWhereItLooked)
+{
+    PluginLoader other({QStringLiteral("/first/%1"), QStringLiteral("/second")});
+    EXPECT_THAT(whyNot(other, "Absent"),
+                AllOf(HasSubstr("\"Absent\""), HasSubstr("Absent.module.json"), HasSubstr("/first/%1, /second")));
+}
+
+// --- One module that fails, and the others that work ---
+
+TEST_F(PluginLoaderTest, NamesABrokenDescriptorAndLoadsTheRest)
+{
+    folder.addDescriptor("Torn", R"({"module": "Torn", )");
+    folder.add("Whole", "GoodPlugin", R"(["enter"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("Whole"));
+    EXPECT_EQ(outcome.failed.size(), 1U);
+    EXPECT_EQ(reports.errors(), 1);
+    EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Torn\""), HasSubstr("not JSON"),
+                                      HasSubstr(folder.path("Torn.module.json").toStdString())));
+}
+
+TEST_F(PluginLoaderTest, NamesAMissingLibraryAndLoadsTheRest)
+{
+    folder.addDescriptor("Hollow", R"({"module": "Hollow", "version": "1", "entries": ["enter"]})");
+    folder.add("Whole", "GoodPlugin", R"(["enter"])");
+    EXPECT_THAT(toStrings(loader.loadAll().loaded), ElementsAre("Whole"));
+    EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Hollow\""), HasSubstr(folder.path("libHollow.so").toStdString())));
+}
+
+TEST_F(PluginLoaderTest, TakesNoLibraryFromTheCurrentFolderOrThatOfTheSystem)
+{
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QStringLiteral(VX_PLUGIN_FOLDER)));
+    folder.addDescriptor("Good", R"({"module": "Good", "version": "1", "entries": ["enter"],
+                                     "library": "libGoodPlugin.so"})");
+    EXPECT_THAT(whyNot(loader, "Good"), HasSubstr(folder.path("libGoodPlugin.so").toStdString()));
+    QDir::setCurrent(before);
+}
+
+TEST_F(PluginLoaderTest, RefusesAFileThatIsNotALibrary)
+{
+    folder.addDescriptor("Text", R"({"module": "Text", "version": "1", "entries": ["enter"]})");
+    vxtest::writeFile(folder.path("libText.so"), "Dear linker,\nthis is a letter.\n");
+    EXPECT_THAT(whyNot(loader, "Text"),
+                AllOf(HasSubstr("\"Text\""), HasSubstr(folder.path("libText.so").toStdString())));
+}
+
+TEST_F(PluginLoaderTest, RefusesAFolderOfTheNameOfALibrary)
+{
+    folder.addDescriptor("Folder", R"({"module": "Folder", "version": "1", "entries": ["enter"]})");
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("libFolder.so")));
+    EXPECT_THAT(whyNot(loader, "Folder"), AllOf(HasSubstr("\"Folder\""), HasSubstr("libFolder.so")));
+}
+
+TEST_F(PluginLoaderTest, TakesAModuleThatWasMendedAtTheNextAttempt)
+{
+    folder.addDescriptor("Mended", R"({"module": "Mended", "version": "1", "entries": ["enter"]})");
+    vxtest::writeFile(folder.path("libMended.so"), "");
+    EXPECT_NE(whyNot(loader, "Mended"), "");
+    ASSERT_TRUE(QFile::remove(folder.path("libMended.so")));
+    folder.addLibrary("Mended", "GoodPlugin");
+    EXPECT_EQ(whyNot(loader, "Mended"), "");
     EXPECT_TRUE(loader.errorText().isEmpty());
 }
 
-TEST(PluginLoader, FindsAMissingSymbolWhenLoadingAndNotLater)
+TEST_F(PluginLoaderTest, FindsAMissingSymbolWhenLoadingAndNotLater)
 {
-    PluginLoader loader({folder});
-    EXPECT_THAT(whyNot(loader, "UnresolvedPlugin", {"enter"}),
-                AllOf(HasSubstr("\"UnresolvedPlugin\""), HasSubstr("libUnresolvedPlugin.so"),
-                      HasSubstr("nobodyHasThisFunction")));
+    folder.add("Unresolved", "UnresolvedPlugin", R"(["enter"])");
+    EXPECT_THAT(whyNot(loader, "Unresolved"),
+                AllOf(HasSubstr("\"Unresolved\""), HasSubstr("libUnresolved.so"), HasSubstr("nobodyHasThisFunction")));
 }
 
-TEST(PluginLoader, CallsNoEntryWhenOneIsMissing)
+TEST_F(PluginLoaderTest, CallsNoEntryIfOneIsMissing)
 {
-    PluginLoader loader({folder});
-    EXPECT_THAT(
-        whyNot(loader, "WithoutEntryPlugin", {"enter", "enterGui"}),
-        AllOf(HasSubstr("\"WithoutEntryPlugin\""), HasSubstr("libWithoutEntryPlugin.so"), HasSubstr("\"enterGui\"")));
-    EXPECT_EQ(callsIn(QStringLiteral("WithoutEntryPlugin")), 0);
+    folder.add("Partial", "WithoutEntryPlugin", R"(["enter", "enterGui"])");
+    EXPECT_THAT(whyNot(loader, "Partial"),
+                AllOf(HasSubstr("\"Partial\""), HasSubstr("libPartial.so"), HasSubstr("\"enterGui\"")));
+    EXPECT_EQ(callsIn(folder, "Partial"), 0);
 }
 
-TEST(PluginLoader, CatchesWhatAnEntryThrows)
+TEST_F(PluginLoaderTest, CatchesWhatAnEntryThrows)
 {
-    PluginLoader loader({folder});
-    EXPECT_THAT(whyNot(loader, "ThrowingPlugin", {"throwError"}),
-                AllOf(HasSubstr("\"ThrowingPlugin\""), HasSubstr("libThrowingPlugin.so"), HasSubstr("\"throwError\""),
-                      HasSubstr("the licence of the week has run out")));
-    EXPECT_THAT(whyNot(loader, "ThrowingPlugin", {"throwNumber"}),
+    folder.add("Error", "ThrowingPlugin", R"(["throwError"])");
+    folder.add("Number", "ThrowingPlugin", R"(["throwNumber"])");
+    folder.add("Silent", "ThrowingPlugin", R"(["throwNothingToRead"])");
+    folder.add("Whole", "GoodPlugin", R"(["enter"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("Whole"));
+    EXPECT_THAT(outcome.failed.at("Error").toStdString(),
+                AllOf(HasSubstr("\"throwError\""), HasSubstr("the licence of the week has run out")));
+    EXPECT_THAT(outcome.failed.at("Number").toStdString(),
                 AllOf(HasSubstr("\"throwNumber\""), HasSubstr("an exception of an unknown kind")));
-    EXPECT_THAT(whyNot(loader, "ThrowingPlugin", {"throwNothingToRead"}), HasSubstr("an exception without a text"));
+    EXPECT_THAT(outcome.failed.at("Silent").toStdString(), HasSubstr("an exception without a text"));
 }
 
-TEST(PluginLoader, TakesTheFirstErrorThatAnEntryReportsForItsFailure)
+TEST_F(PluginLoaderTest, TakesTheFirstErrorThatAnEntryReportsForItsFailure)
 {
-    PluginLoader loader({folder});
-    EXPECT_THAT(whyNot(loader, "ReportingPlugin", {"reportErrors"}),
-                AllOf(HasSubstr("\"ReportingPlugin\""), HasSubstr("\"reportErrors\""),
-                      HasSubstr("first: %1 of 3 tables"), Not(HasSubstr("second")), Not(HasSubstr("information"))));
-    EXPECT_THAT(whyNot(loader, "ReportingPlugin", {"reportWithoutText"}), HasSubstr("an error without a text"));
-    EXPECT_EQ(whyNot(loader, "ReportingPlugin", {"warn"}), "") << "a warning is no failure";
+    folder.add("Errors", "ReportingPlugin", R"(["reportErrors"])");
+    folder.add("Blank", "ReportingPlugin", R"(["reportWithoutText"])");
+    folder.add("Warns", "ReportingPlugin", R"(["warn"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(outcome.failed.at("Errors").toStdString(),
+                AllOf(HasSubstr("\"reportErrors\""), HasSubstr("first: %1 of 3 tables"), Not(HasSubstr("second")),
+                      Not(HasSubstr("information"))));
+    EXPECT_THAT(outcome.failed.at("Blank").toStdString(), HasSubstr("an error without a text"));
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("Warns")) << "a warning is no failure";
 }
 
-TEST(PluginLoader, StopsAtTheEntryThatFailsAndCallsItAgainTheNextTime)
+TEST_F(PluginLoaderTest, StopsAtTheEntryThatFailsAndCallsItAgainTheNextTime)
 {
-    PluginLoader loader({folder});
-    const QStringList entries{"reportErrors", "warn"};
-    const vxtest::Reports reports;
-    EXPECT_NE(whyNot(loader, "ReportingPlugin", entries), "");
-    EXPECT_NE(whyNot(loader, "ReportingPlugin", entries), "");
+    folder.add("Errors", "ReportingPlugin", R"(["reportErrors", "warn"])");
+    EXPECT_NE(whyNot(loader, "Errors"), "");
+    EXPECT_NE(whyNot(loader, "Errors"), "");
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_EQ(reports.warnings(), 0);
 }
 
-TEST(PluginLoader, SurvivesAListenerThatClearsTheLog)
+TEST_F(PluginLoaderTest, SurvivesAListenerThatClearsTheLog)
 {
     auto& log = Kelta::MessageLog::instance();
     const auto clearing =
         QObject::connect(&log, &Kelta::MessageLog::reported, [&log](const Kelta::LogMessage&) { log.clear(); });
-    PluginLoader loader({folder});
-    EXPECT_THAT(whyNot(loader, "ReportingPlugin", {"reportErrors"}), HasSubstr("first"));
+    folder.add("Errors", "ReportingPlugin", R"(["reportErrors"])");
+    EXPECT_THAT(whyNot(loader, "Errors"), HasSubstr("first"));
     QObject::disconnect(clearing);
+}
+
+// --- What modules need ---
+
+TEST_F(PluginLoaderTest, NamesWhatNeedsAModuleThatIsMissing)
+{
+    folder.add("Plain", "GoodPlugin", R"(["enter"])");
+    folder.add("Lonely", "GoodPlugin", R"(["enter"])", R"(, "needs": {"Friend": "1"})");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("Plain"));
+    EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Lonely\""), HasSubstr("\"Friend\", which is missing")));
+    EXPECT_EQ(reports.errors(), 1);
+}
+
+TEST_F(PluginLoaderTest, DoesNotLoadWhatNeedsAModuleThatFailed)
+{
+    folder.add("A", "GoodPlugin", R"(["enter"])", R"(, "needs": {"B": "1"})");
+    folder.add("B", "GoodPlugin", R"(["enter"])", R"(, "needs": {"C": "1"})");
+    folder.add("C", "ThrowingPlugin", R"(["throwError"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(outcome.loaded, IsEmpty());
+    EXPECT_THAT(outcome.failed.at("A").toStdString(), HasSubstr("\"B\", which was not loaded"));
+    EXPECT_THAT(outcome.failed.at("B").toStdString(), HasSubstr("\"C\", which was not loaded"));
+    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_EQ(callsIn(folder, "A"), 0);
+}
+
+TEST_F(PluginLoaderTest, RefusesANeedThatIsTooOld)
+{
+    folder.add("A", "GoodPlugin", R"(["enter"])", R"(, "needs": {"B": "1.0.1"})");
+    folder.add("B", "GoodPlugin", R"(["enter"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("B"));
+    EXPECT_THAT(outcome.failed.at("A").toStdString(),
+                AllOf(HasSubstr("needs version 1.0.1 of the module \"B\""), HasSubstr("1.0")));
+}
+
+TEST_F(PluginLoaderTest, RefusesAModuleThatNeedsANewerHost)
+{
+    folder.add("Future", "GoodPlugin", R"(["enter"])", R"(, "host": "99.0")");
+    folder.add("Present", "GoodPlugin", R"(["enter"])", R"(, "host": "0.1.0")");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("Present"));
+    EXPECT_THAT(outcome.failed.at("Future").toStdString(), HasSubstr("needs version 99.0 of the program"));
+    EXPECT_EQ(callsIn(folder, "Future"), 0);
+}
+
+TEST_F(PluginLoaderTest, RefusesAModuleThatNeedsItself)
+{
+    folder.add("Self", "GoodPlugin", R"(["enter"])", R"(, "needs": {"Self": "1"})");
+    EXPECT_THAT(loader.loadAll().failed.at("Self").toStdString(), HasSubstr("it needs itself: Self > Self"));
+}
+
+TEST_F(PluginLoaderTest, RefusesACircleOfTwoAndLoadsTheRest)
+{
+    folder.add("A", "GoodPlugin", R"(["enter"])", R"(, "needs": {"B": "1"})");
+    folder.add("B", "GoodPlugin", R"(["enter"])", R"(, "needs": {"A": "1"})");
+    folder.add("C", "GoodPlugin", R"(["enter"])");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(toStrings(outcome.loaded), ElementsAre("C"));
+    for (const char* const module : {"A", "B"})
+        EXPECT_THAT(outcome.failed.at(module).toStdString(), HasSubstr("it needs itself: A > B > A")) << module;
+    EXPECT_EQ(reports.errors(), 2);
+}
+
+TEST_F(PluginLoaderTest, RefusesACircleOfThreeAndWhatNeedsIt)
+{
+    folder.add("A", "GoodPlugin", R"(["enter"])", R"(, "needs": {"B": "1"})");
+    folder.add("B", "GoodPlugin", R"(["enter"])", R"(, "needs": {"C": "1"})");
+    folder.add("C", "GoodPlugin", R"(["enter"])", R"(, "needs": {"D": "1"})");
+    folder.add("D", "GoodPlugin", R"(["enter"])", R"(, "needs": {"B": "1"})");
+    const PluginLoader::Outcome outcome = loader.loadAll();
+    EXPECT_THAT(outcome.loaded, IsEmpty());
+    for (const char* const module : {"B", "C", "D"})
+        EXPECT_THAT(outcome.failed.at(module).toStdString(), HasSubstr("it needs itself: B > C > D > B")) << module;
+    EXPECT_THAT(outcome.failed.at("A").toStdString(), HasSubstr("\"B\", which was not loaded"));
+}
+
+// --- Folders ---
+
+TEST_F(PluginLoaderTest, TakesAModuleFromTheFirstFolderThatHasIt)
+{
+    const ModuleFolder second;
+    folder.add("Good", "GoodPlugin", R"(["enter"])");
+    second.add("Good", "GoodPlugin", R"(["enter"])");
+    PluginLoader both({folder.path(), second.path()});
+    EXPECT_THAT(toStrings(both.loadAll().loaded), ElementsAre("Good"));
+    EXPECT_EQ(callsIn(folder, "Good"), 1);
+    EXPECT_EQ(callsIn(second, "Good"), 0);
+}
+
+TEST_F(PluginLoaderTest, DoesNotHideABrokenModuleBehindOneOfALaterFolder)
+{
+    const ModuleFolder second;
+    folder.addDescriptor("Good", "no descriptor");
+    second.add("Good", "GoodPlugin", R"(["enter"])");
+    PluginLoader both({folder.path(), second.path()});
+    EXPECT_THAT(both.loadAll().loaded, IsEmpty());
+    EXPECT_EQ(reports.errors(), 1);
+}
+
+TEST_F(PluginLoaderTest, NamesAFolderThatIsCalledLikeADescriptor)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Odd.module.json")));
+    EXPECT_THAT(loader.loadAll().failed.at("Odd").toStdString(), HasSubstr("is not a file"));
 }
 
 TEST(PluginLoader, LooksInTheFoldersOfTheEnvironmentAndBesideTheProgram)

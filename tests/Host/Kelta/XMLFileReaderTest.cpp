@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 namespace {
 
 using Kelta::XMLFileReader;
@@ -29,108 +31,52 @@ protected:
     QString m_path = m_place.filePath(QStringLiteral("in.xml"));
 };
 
-TEST_F(XMLFileReaderTest, GoesThroughElementsAndPassesOverOthers)
-{
-    XMLFileReader reader(
-        file("<root><other><item name='deep'/></other><item name='a'/><item name='b'><x/></item></root>"));
-    ASSERT_TRUE(reader.nextElement(root));
-    ASSERT_TRUE(reader.nextElement(item));
-    EXPECT_EQ(reader.attribute(name), QStringLiteral("a"));
-    EXPECT_EQ(reader.attribute(QStringLiteral("absent")), QString());
-    reader.leaveElement();
-    ASSERT_TRUE(reader.nextElement(item));
-    EXPECT_EQ(reader.attribute(name), QStringLiteral("b"));
-    reader.leaveElement();
-    EXPECT_FALSE(reader.nextElement(item));
-    EXPECT_FALSE(reader.failed());
-}
-
-TEST_F(XMLFileReaderTest, LeavesTheElementAroundWhenThereIsNoNext)
-{
-    XMLFileReader reader(file("<root><list><item/></list><after/></root>"));
-    ASSERT_TRUE(reader.nextElement(root));
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("list")));
-    ASSERT_TRUE(reader.nextElement(item));
-    EXPECT_EQ(reader.depth(), 3);
-    reader.leaveElement();
-    EXPECT_FALSE(reader.nextElement(item));
-    EXPECT_EQ(reader.depth(), 1);
-    EXPECT_TRUE(reader.nextElement(QStringLiteral("after")));
-}
-
-TEST_F(XMLFileReaderTest, LeavesAllElementsDownToADepth)
-{
-    XMLFileReader reader(file("<root><item><x><y/></x><z/></item><item name='second'/></root>"));
-    ASSERT_TRUE(reader.nextElement(root));
-    const int depth = reader.depth();
-    ASSERT_TRUE(reader.nextElement(item));
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("x")));
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("y")));
-    reader.leaveTo(depth);
-    EXPECT_EQ(reader.depth(), depth);
-    ASSERT_TRUE(reader.nextElement(item));
-    EXPECT_EQ(reader.attribute(name), QStringLiteral("second"));
-}
-
-TEST_F(XMLFileReaderTest, StandsNowhereBehindTheRoot)
-{
-    XMLFileReader reader(file("<root/>"));
-    ASSERT_TRUE(reader.nextElement(root));
-    EXPECT_FALSE(reader.nextElement(item));
-    EXPECT_FALSE(reader.nextElement(item));
-    reader.leaveElement();
-    EXPECT_EQ(reader.depth(), 0);
-    EXPECT_FALSE(reader.failed());
-}
-
 TEST_F(XMLFileReaderTest, ReadsBackEveryTextThatTheWriterTakes)
 {
     const QStringList texts{
         "", " a  b ", "line\nline\ttab\r", "<&\"'>", "钢 ü", "%1", QString(10000, QLatin1Char('x'))};
     Kelta::FileWriter writer(m_path);
-    writer.beginElement(root);
+    writer.xml().writeStartElement(root);
     for (const QString& text : texts) {
-        writer.beginElement(item);
-        writer.writeAttribute(name, text);
-        writer.endElement();
+        writer.xml().writeEmptyElement(item);
+        writer.xml().writeAttribute(name, text);
     }
     ASSERT_TRUE(writer.commit()) << writer.errorText().toStdString();
     XMLFileReader reader(m_path);
-    ASSERT_TRUE(reader.nextElement(root));
+    ASSERT_TRUE(reader.xml().readNextStartElement());
     for (const QString& text : texts) {
-        ASSERT_TRUE(reader.nextElement(item));
-        EXPECT_EQ(reader.attribute(name), text);
-        reader.leaveElement();
+        ASSERT_TRUE(reader.xml().readNextStartElement());
+        EXPECT_EQ(reader.xml().attributes().value(name), text);
+        reader.xml().skipCurrentElement();
     }
-    EXPECT_FALSE(reader.nextElement(item));
-    EXPECT_FALSE(reader.failed());
+    EXPECT_FALSE(reader.xml().readNextStartElement());
+    EXPECT_EQ(reader.errorText(), QString());
 }
 
 TEST_F(XMLFileReaderTest, TellsWhyAFileCannotBeOpened)
 {
     XMLFileReader reader(m_path);
-    EXPECT_TRUE(reader.failed());
-    EXPECT_FALSE(reader.nextElement(root));
+    EXPECT_FALSE(reader.xml().readNextStartElement());
     EXPECT_EQ(reader.errorText().toStdString(), m_path.toStdString() + ": No such file or directory");
+}
+
+TEST_F(XMLFileReaderTest, DoesNotWaitForTheWriterOfAPipe)
+{
+    ASSERT_EQ(mkfifo(m_path.toUtf8().constData(), S_IRUSR | S_IWUSR), 0);
+    for (const QString& path : {m_path, m_place.path()}) {
+        XMLFileReader reader(path);
+        EXPECT_FALSE(reader.xml().readNextStartElement());
+        EXPECT_EQ(reader.errorText().toStdString(), path.toStdString() + ": this is not a file");
+    }
 }
 
 TEST_F(XMLFileReaderTest, TellsTheLineWhereAFileIsCutOff)
 {
     XMLFileReader reader(file("<root>\n<item>\n<item name='a"));
-    ASSERT_TRUE(reader.nextElement(root));
-    ASSERT_TRUE(reader.nextElement(item));
-    EXPECT_FALSE(reader.nextElement(item));
-    EXPECT_TRUE(reader.failed());
+    ASSERT_TRUE(reader.xml().readNextStartElement());
+    ASSERT_TRUE(reader.xml().readNextStartElement());
+    EXPECT_FALSE(reader.xml().readNextStartElement());
     EXPECT_THAT(reader.errorText().toStdString(), HasSubstr(m_path.toStdString() + ":3: "));
-    reader.leaveTo(0);
-    EXPECT_EQ(reader.depth(), 0);
-}
-
-TEST_F(XMLFileReaderTest, FindsNothingInAFileOfAnotherRoot)
-{
-    XMLFileReader reader(file("<letter><root/></letter>"));
-    EXPECT_FALSE(reader.nextElement(root));
-    EXPECT_FALSE(reader.failed());
 }
 
 } // namespace

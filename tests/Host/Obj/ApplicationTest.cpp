@@ -43,12 +43,12 @@ TEST_F(ApplicationTest, MakesNothingOfAClassThatIsNotRegisteredOrNoProject)
     const vxtest::Reports reports;
     EXPECT_EQ(application().create_project("Test::Nobody", "a"), nullptr);
     EXPECT_EQ(application().create_project(nullptr, "a"), nullptr);
-    EXPECT_EQ(application().create_project("Test::Part", "a"), nullptr);
+    EXPECT_EQ(application().create_project("vxtest::Part", "a"), nullptr);
     EXPECT_EQ(application().create_project("Obj::Project", "a"), nullptr);
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_THAT(reports.text(), HasSubstr("No project of class \"Test::Nobody\" was made: this class is not known."));
-    EXPECT_THAT(reports.text(), HasSubstr("\"Test::Part\" was made: this class is not one of projects."));
-    EXPECT_THAT(reports.text(), HasSubstr("\"Obj::Project\" was made: the class made none."));
+    EXPECT_THAT(reports.text(), HasSubstr("\"vxtest::Part\" was made: this is not a class of projects."));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Obj::Project\" was made: the class created none."));
     EXPECT_THAT(openProjects(), IsEmpty());
 }
 
@@ -56,7 +56,7 @@ TEST_F(ApplicationTest, IsUnchangedWhenTheConstructorOfAProjectThrows)
 {
     Assembly& a = addAssembly("a");
     Assembly::constructorThrows() = true;
-    EXPECT_THROW(application().create_project("Test::Assembly", "b"), std::runtime_error);
+    EXPECT_THROW(application().create_project("vxtest::Assembly", "b"), std::runtime_error);
     EXPECT_THAT(openProjects(), ElementsAre("a"));
     EXPECT_EQ(Application::get_current_project(), &a);
 }
@@ -68,7 +68,7 @@ TEST_F(ApplicationTest, FindsProjectsByNameIdAndTag)
     EXPECT_EQ(application().get_project(""), nullptr);
     EXPECT_EQ(application().get_project(a.getProjectId()), &a);
     EXPECT_EQ(application().get_project(0U), nullptr);
-    EXPECT_THAT(Application::get_projects(Kelta::eDocumentTag::Analysis), ElementsAre(&a));
+    EXPECT_THAT(Application::get_projects(vxtest::assemblyTag), ElementsAre(&a));
     EXPECT_THAT(Application::get_projects(1), ElementsAre(&a));
     EXPECT_THAT(Application::get_projects(2), IsEmpty());
 }
@@ -83,6 +83,36 @@ TEST_F(ApplicationTest, MakesNamesUniqueThatAreTakenOrEmpty)
     EXPECT_THAT(second.get_name(), HasSubstr("Machine"));
     EXPECT_STRNE(second.get_name(), "Machine");
     EXPECT_THAT(addAssembly("").get_name(), HasSubstr("Project"));
+}
+
+TEST_F(ApplicationTest, MakesNoNameOfAProjectThatMayComeBack)
+{
+    Obj::OwnedProject away = application().take_project(addAssembly("Machine1"));
+    addAssembly("Machine");
+    EXPECT_STREQ(addAssembly("Machine").get_name(), "Machine2");
+    const vxtest::Reports reports;
+    application().restore_project(std::move(away));
+    EXPECT_EQ(reports.warnings(), 0);
+}
+
+TEST_F(ApplicationTest, AddsAProjectThatCodeHasMade)
+{
+    Obj::Project* const project = application().add_project(std::make_unique<vxtest::Assembly>(), "Machine");
+    ASSERT_NE(project, nullptr);
+    EXPECT_STREQ(project->get_name(), "Machine");
+    EXPECT_EQ(application().get_project(project->getProjectId()), project);
+    EXPECT_EQ(Application::get_current_project(), project);
+}
+
+TEST_F(ApplicationTest, TellsAllListenersThoughOneClosesTheProject)
+{
+    std::vector<std::string> told;
+    application().projectAdded.connect([](Obj::Project& project) { application().close_project(project); });
+    application().projectAdded.connect([&told](Obj::Project& project) { told.emplace_back(project.get_name()); });
+    EXPECT_EQ(application().create_project("vxtest::Assembly", "short-lived"), nullptr);
+    EXPECT_THAT(told, ElementsAre("short-lived"));
+    EXPECT_EQ(Application::get_current_project(), nullptr);
+    application().projectAdded.disconnect_all_slots();
 }
 
 TEST_F(ApplicationTest, ChoosesTheCurrentProjectAmongThoseThatAreOpen)
@@ -120,7 +150,7 @@ TEST_F(ApplicationTest, GivesAProjectAwayAndOpensItAgainAtItsPlace)
     Assembly& a = addAssembly("a");
     a.addPart("part");
     addAssembly("b");
-    std::unique_ptr<Project> away = application().take_project(a);
+    Obj::OwnedProject away = application().take_project(a);
     EXPECT_EQ(away.get(), &a);
     EXPECT_THAT(openProjects(), ElementsAre("b"));
     EXPECT_EQ(application().take_project(a), nullptr);
@@ -135,7 +165,7 @@ TEST_F(ApplicationTest, GivesAProjectAwayAndOpensItAgainAtItsPlace)
 TEST_F(ApplicationTest, GivesAProjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
 {
     Assembly& first = addAssembly("Twin");
-    std::unique_ptr<Project> away = application().take_project(first);
+    Obj::OwnedProject away = application().take_project(first);
     Assembly& second = addAssembly("Twin");
     const vxtest::Reports reports;
     application().restore_project(std::move(away));
@@ -167,7 +197,7 @@ TEST_F(ApplicationTest, SurvivesAListenerThatClosesAProjectAtOnce)
         ++told;
         application().close_project(project);
     });
-    EXPECT_EQ(application().create_project("Test::Assembly", "a"), nullptr);
+    EXPECT_EQ(application().create_project("vxtest::Assembly", "a"), nullptr);
     EXPECT_EQ(Application::get_current_project(), nullptr);
     EXPECT_EQ(told, 1);
 }
@@ -184,60 +214,6 @@ TEST_F(ApplicationTest, GathersTheRecordsOfAllProjectsInOneDocument)
     EXPECT_EQ(database["projects"][0]["objects"][0]["label"], "part");
     EXPECT_EQ(database["projects"][1]["name"], "b");
     EXPECT_EQ(database.size(), 1U);
-}
-
-class ProjectFileTest : public ApplicationTest
-{
-protected:
-    QTemporaryDir m_place;
-    QString m_path = m_place.filePath(QStringLiteral("projects.xml"));
-};
-
-TEST_F(ProjectFileTest, HoldsAllProjects)
-{
-    addAssembly("a").addPart("part");
-    addAssembly("b & c");
-    ASSERT_TRUE(application().save_projects(m_path));
-    EXPECT_EQ(vxtest::readFile(m_path), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                                        "<projects>\n"
-                                        "    <project class=\"Test::Assembly\" name=\"a\">\n"
-                                        "        <object class=\"Test::Part\" name=\"part\" id=\"1\">\n"
-                                        "            <property name=\"Label\" value=\"part\"/>\n"
-                                        "            <property name=\"ID\" value=\"1\"/>\n"
-                                        "            <property name=\"ClassLabel\" value=\"Part\"/>\n"
-                                        "            <property name=\"Width\" value=\"7\"/>\n"
-                                        "            <property name=\"Secret\" value=\"none\"/>\n"
-                                        "        </object>\n"
-                                        "    </project>\n"
-                                        "    <project class=\"Test::Assembly\" name=\"b &amp; c\"/>\n"
-                                        "</projects>\n");
-}
-
-TEST_F(ProjectFileTest, IsWrittenWholeOrNotAtAll)
-{
-    vxtest::writeFile(m_path, "earlier");
-    Assembly& assembly = addAssembly("a");
-    for (int i = 0; i < 100; ++i)
-        assembly.addPart();
-    const vxtest::Reports reports;
-    {
-        const vxtest::FullDisk disk(1000);
-        EXPECT_FALSE(application().save_projects(m_path));
-    }
-    EXPECT_EQ(reports.errors(), 1);
-    EXPECT_EQ(vxtest::readFile(m_path), "earlier");
-    EXPECT_TRUE(application().save_projects(m_path));
-}
-
-TEST_F(ProjectFileTest, CannotBeWrittenIntoAFolderThatIsMissingNorIntoADevice)
-{
-    addAssembly("a");
-    const vxtest::Reports reports;
-    EXPECT_FALSE(application().save_projects(m_place.filePath(QStringLiteral("missing/projects.xml"))));
-    EXPECT_FALSE(application().save_projects(m_place.path()));
-    EXPECT_FALSE(application().save_projects(QStringLiteral("/dev/full")));
-    EXPECT_EQ(reports.errors(), 3);
-    EXPECT_THAT(reports.text(), HasSubstr("missing/projects.xml: No such file or directory"));
 }
 
 TEST(InitObj, ChangesNothingWhenItIsCalledAgain)

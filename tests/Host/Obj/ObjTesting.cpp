@@ -12,6 +12,10 @@ int partCount = 0;
 
 } // namespace
 
+OBJ_REGISTER_CLASS(vxtest::Part, Obj::ProjectObject)
+OBJ_REGISTER_CLASS(vxtest::Joint, vxtest::Part)
+OBJ_REGISTER_CLASS(vxtest::Assembly, Obj::Project)
+
 Part::Part()
 {
     if (hooks().constructorThrows)
@@ -30,17 +34,13 @@ Part::~Part()
     --partCount;
 }
 
-void Part::init()
-{
-    initSubclass(classTypeId, "Test::Part", "Obj::ProjectObject", &Part::create);
-    propertyData.set_parent(Obj::ProjectObject::get_property_data_ref());
-}
-
 void Part::on_break_object_link(Obj::ProjectObject* linked)
 {
     note("break", linked->get_name_in_project());
     if (hooks().breakThrows)
         throw std::runtime_error("a link cannot be broken");
+    if (hooks().unlinksWhatLeaves)
+        unlink_from(*linked);
     if (hooks().removesItselfWithWhatItNeeds)
         get_project()->remove_object(getObjectId());
 }
@@ -56,7 +56,22 @@ Obj::eVXObjectState Part::check_input()
 {
     const auto state = width.getValue() > 0 ? Obj::eVXObjectState::Ready : Obj::eVXObjectState::Initial;
     setObjectState(state);
+    if (hooks().action)
+        hooks().action(*this, "checking");
     return state;
+}
+
+short Part::always_run() const
+{
+    return hooks().alwaysRuns ? -1 : 0;
+}
+
+Obj::ProjectObjectExecReturn* Part::execute()
+{
+    note("executed", get_name_in_project());
+    if (hooks().executionThrows)
+        throw std::runtime_error("a part cannot be executed");
+    return new Obj::ProjectObjectExecReturn(get_name_in_project(), this);
 }
 
 PartHooks& Part::hooks()
@@ -75,12 +90,16 @@ void Part::on_configuring_project()
     note("configuring", get_name_in_project());
     if (hooks().configuringThrows)
         throw std::runtime_error("a part cannot be configured");
+    if (hooks().action)
+        hooks().action(*this, "configuring");
 }
 
 void Part::on_changed(const Obj::Property* property)
 {
     note("changed", property->to_text());
     Obj::ProjectObject::on_changed(property);
+    if (hooks().action)
+        hooks().action(*this, "changing");
 }
 
 void Part::on_change_before(const Obj::Property* property)
@@ -93,26 +112,57 @@ void Part::note(const char* what, const std::string& about)
     hooks().calls.push_back(what + (" " + about));
 }
 
+Joint::Joint()
+{
+    constexpr short editable = Obj::PropertyType::None;
+    register_property(propertyData, first, "First", "Parts", editable, "");
+    register_property(propertyData, second, "Second", "Parts", editable, "");
+    register_property(propertyData, torque, "Torque", "Size", editable, "in Nm");
+    register_property(propertyData, locked, "Locked", "Size", editable, "");
+    register_property(propertyData, kind, "Kind", "Size", editable, "");
+    register_property(propertyData, color, "Color", "Look", editable, "");
+    register_property(propertyData, curve, "Curve", "Size", editable, "");
+}
+
+Joint::~Joint() = default;
+
 Assembly::Assembly()
 {
     if (constructorThrows())
         throw std::runtime_error("an assembly cannot be made today");
     register_property(propertyData, classLabel, "ClassLabel", "Info", Obj::PropertyType::None, "class name");
-    documentTag = Kelta::eDocumentTag::Analysis;
+    documentTag = assemblyTag;
 }
 
-void Assembly::init()
+Assembly::~Assembly() = default;
+
+void Assembly::collect_frontend_data()
 {
-    initSubclass(classTypeId, "Test::Assembly", "Obj::Project", &Assembly::create);
-    propertyData.set_parent(Obj::Project::get_property_data_ref());
+    if (collectingThrows())
+        throw std::runtime_error("nothing can be collected");
+    Part::hooks().calls.emplace_back("collected");
 }
 
 Part& Assembly::addPart(const std::string& name)
 {
-    Obj::ProjectObject* const object = add_object("Test::Part", name);
+    Obj::ProjectObject* const object = add_object("vxtest::Part", name);
     if (object == nullptr)
         throw std::logic_error("a part was not added");
     return static_cast<Part&>(*object);
+}
+
+Joint& Assembly::addJoint(const std::string& name)
+{
+    Obj::ProjectObject* const object = add_object("vxtest::Joint", name);
+    if (object == nullptr)
+        throw std::logic_error("a joint was not added");
+    return static_cast<Joint&>(*object);
+}
+
+bool& Assembly::collectingThrows()
+{
+    static bool throws = false;
+    return throws;
 }
 
 bool& Assembly::constructorThrows()
@@ -125,9 +175,11 @@ ObjTest::ObjTest()
 {
     Obj::initObj();
     Part::init();
+    Joint::init();
     Assembly::init();
     Part::hooks() = {};
     Assembly::constructorThrows() = false;
+    Assembly::collectingThrows() = false;
 }
 
 ObjTest::~ObjTest()
@@ -138,7 +190,7 @@ ObjTest::~ObjTest()
 
 Assembly& ObjTest::addAssembly(const std::string& name)
 {
-    Obj::Project* const project = application().create_project("Test::Assembly", name);
+    Obj::Project* const project = application().create_project("vxtest::Assembly", name);
     if (project == nullptr)
         throw std::logic_error("a project was not made");
     return static_cast<Assembly&>(*project);

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "Obj/Application.h"
+#include "Obj/ClassRegistration.h"
 #include "Obj/ProjectObject.h"
+#include "Obj/PropertyReference.h"
 
 #include <gmock/gmock.h>
 
 #include <cstddef>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,21 +24,25 @@ struct PartHooks
     bool restoredThrows = false;
     bool breakThrows = false;
     bool removesItselfWithWhatItNeeds = false;
+    bool unlinksWhatLeaves = false;
+    bool executionThrows = false;
+    bool alwaysRuns = false;
+    /// Called at the end of on_configuring_project, on_changed and check_input, with the name of the operation.
+    std::function<void(Obj::ProjectObject&, const std::string&)> action;
 };
 
 /// An object of a project, which notes what happens to it. Two further properties: "Width" can be edited, "Secret" is
 /// hidden and only read.
 class Part : public Obj::ProjectObject
 {
+    OBJ_CLASS;
+
 public:
     Part();
     ~Part() override;
 
-    static void* create() { return static_cast<Kelta::RootClass*>(new Part); }
-    static void init();
-    static Kelta::TypeInfo getClassTypeId() { return classTypeId; }
-    Kelta::TypeInfo getTypeId() const override { return classTypeId; }
-
+    short always_run() const override;
+    Obj::ProjectObjectExecReturn* execute() override;
     void on_break_object_link(Obj::ProjectObject* linked) override;
     void on_project_restored() override;
     Obj::eVXObjectState check_input() override;
@@ -51,33 +58,50 @@ protected:
     void on_configuring_project() override;
     void on_changed(const Obj::Property* property) override;
     void on_change_before(const Obj::Property* property) override;
-    const Obj::PropertyCoreData& get_property_data() const override { return propertyData; }
 
 private:
     void note(const char* what, const std::string& about);
-
-    static inline Kelta::TypeInfo classTypeId;
-    static inline Obj::PropertyCoreData propertyData;
 };
+
+/// A Part of a class that descends from it, which joins two others. It has a property of each type.
+class Joint : public Part
+{
+    OBJ_CLASS;
+
+public:
+    Joint();
+    ~Joint() override;
+
+    Obj::PropertyReference first;
+    Obj::PropertyReference second;
+    Obj::PropertyReal torque{12.5};
+    Obj::PropertyBool locked{true};
+    Obj::PropertyChoice kind{{"rigid", "hinged", "sliding"}};
+    Obj::PropertyColor color;
+    Obj::PropertyCoupleArray curve;
+};
+
+/// The document tag of Assemblies.
+constexpr Kelta::eDocumentTag assemblyTag{1};
 
 /// A project of Parts.
 class Assembly : public Obj::Project
 {
+    OBJ_CLASS;
+
 public:
     Assembly();
+    ~Assembly() override;
 
-    static void* create() { return static_cast<Kelta::RootClass*>(new Assembly); }
-    static void init();
-    Kelta::TypeInfo getTypeId() const override { return classTypeId; }
+    /// Notes "collected", or throws.
+    void collect_frontend_data() override;
 
-    /// Adds a Part, which must succeed.
+    /// Adds a Part or a Joint, which must succeed.
     Part& addPart(const std::string& name = "Part");
+    Joint& addJoint(const std::string& name = "Joint");
 
     static bool& constructorThrows();
-
-private:
-    static inline Kelta::TypeInfo classTypeId;
-    static inline Obj::PropertyCoreData propertyData;
+    static bool& collectingThrows();
 };
 
 /// Classes registered, no project open, before and after each test.

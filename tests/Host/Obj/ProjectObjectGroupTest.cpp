@@ -1,6 +1,9 @@
 #include "Obj/ProjectObjectGroup.h"
 
+#include "HostTesting.h"
 #include "ObjTesting.h"
+
+#include <utility>
 
 namespace {
 
@@ -94,6 +97,91 @@ TEST_F(ProjectObjectGroupTest, LeavesItsMembersWhenItGoes)
     m_assembly.remove_object(group.getObjectId());
     EXPECT_THAT(part.get_linked_objects(), IsEmpty());
     EXPECT_EQ(m_assembly.get_object("a"), &part);
+}
+
+TEST_F(ProjectObjectGroupTest, IsTheParentOfItsMembers)
+{
+    ProjectObjectGroup& group = addGroup("Group");
+    Part& part = m_assembly.addPart("a");
+    EXPECT_EQ(part.get_parent_group(), nullptr);
+    EXPECT_TRUE(group.add_member(part));
+    EXPECT_EQ(part.get_parent_group(), &group);
+    group.remove_member(part);
+    EXPECT_EQ(part.get_parent_group(), nullptr);
+    part.link_to(group);
+    EXPECT_EQ(part.get_parent_group(), nullptr) << "an object that needs a group is not its member";
+}
+
+TEST_F(ProjectObjectGroupTest, TakesAMemberFromTheGroupThatHadIt)
+{
+    ProjectObjectGroup& first = addGroup("first");
+    ProjectObjectGroup& second = addGroup("second");
+    Part& part = m_assembly.addPart("a");
+    first.add_member(part);
+    EXPECT_TRUE(second.add_member(part));
+    EXPECT_EQ(part.get_parent_group(), &second);
+    EXPECT_THAT(first.get_members(), IsEmpty());
+    EXPECT_THAT(namesOf(second.get_members()), ElementsAre("a"));
+}
+
+TEST_F(ProjectObjectGroupTest, CannotBeInsideItselfOrItsMembers)
+{
+    ProjectObjectGroup& outer = addGroup("outer");
+    ProjectObjectGroup& middle = addGroup("middle");
+    ProjectObjectGroup& inner = addGroup("inner");
+    EXPECT_TRUE(outer.add_member(middle));
+    EXPECT_TRUE(middle.add_member(inner));
+    const vxtest::Reports reports;
+    EXPECT_FALSE(outer.add_member(outer));
+    EXPECT_FALSE(inner.add_member(outer));
+    EXPECT_FALSE(inner.add_member(middle));
+    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_THAT(reports.text(), testing::HasSubstr("\"outer\" cannot be put into \"inner\", which is a part of it"));
+    EXPECT_EQ(outer.get_parent_group(), nullptr);
+    EXPECT_THAT(inner.get_members(), IsEmpty());
+}
+
+TEST_F(ProjectObjectGroupTest, RefusesMembersOfOtherProjects)
+{
+    ProjectObjectGroup& group = addGroup("Group");
+    Part& stranger = addAssembly("other").addPart("a");
+    const vxtest::Reports reports;
+    EXPECT_FALSE(group.add_member(stranger));
+    EXPECT_EQ(reports.errors(), 1);
+    EXPECT_THAT(group.get_members(), IsEmpty());
+}
+
+TEST_F(ProjectObjectGroupTest, TellsThatAMemberCameOrLeft)
+{
+    ProjectObjectGroup& group = addGroup("Group");
+    Part& part = m_assembly.addPart("a");
+    std::vector<std::pair<std::string, bool>> told;
+    m_assembly.objectChanged.connect([&told](Obj::ProjectObject& object, const Obj::Property* property) {
+        EXPECT_EQ(property, nullptr);
+        told.emplace_back(object.get_name_in_project(), object.get_parent_group() != nullptr);
+    });
+    group.add_member(part);
+    group.add_member(part);
+    group.remove_member(part);
+    group.remove_member(part);
+    EXPECT_THAT(told, ElementsAre(std::pair("a", true), std::pair("a", false)));
+}
+
+TEST_F(ProjectObjectGroupTest, HasItsMembersBackWhenItComesBack)
+{
+    ProjectObjectGroup& group = addGroup("Group");
+    Part& a = m_assembly.addPart("a");
+    Part& b = m_assembly.addPart("b");
+    group.add_member(a);
+    group.add_member(b);
+    Obj::OwnedObject away = m_assembly.take_object(group.getObjectId());
+    EXPECT_EQ(a.get_parent_group(), nullptr);
+    ProjectObjectGroup& other = addGroup("other");
+    other.add_member(b);
+    m_assembly.restore_object(std::move(away));
+    EXPECT_EQ(a.get_parent_group(), &group);
+    EXPECT_EQ(b.get_parent_group(), &other) << "it is in the group that took it last";
+    EXPECT_THAT(namesOf(group.get_members()), ElementsAre("a"));
 }
 
 } // namespace

@@ -73,7 +73,7 @@ TEST_F(ProjectObjectTest, DescribesItselfInARecord)
     part.save_jsonDB(record);
     EXPECT_EQ(record["obj_id"], Json::Value(4U));
     EXPECT_TRUE(record["obj_id"].isUInt());
-    EXPECT_EQ(record["class"], "Test::Part");
+    EXPECT_EQ(record["class"], "vxtest::Part");
     EXPECT_EQ(record["name_internal"], "Bolt");
     EXPECT_EQ(record["label"], "钢 %1");
     EXPECT_EQ(record.size(), 4U);
@@ -174,7 +174,7 @@ TEST_F(ProjectObjectTest, KeepsItsLinksWhileOneOfTheTwoIsAwayForUndo)
     Part& b = assembly.addPart("b");
     a.link_to(b);
     Part::hooks().calls.clear();
-    std::unique_ptr<ProjectObject> away = assembly.take_object(b.getObjectId());
+    Obj::OwnedObject away = assembly.take_object(b.getObjectId());
     EXPECT_THAT(Part::hooks().calls, ElementsAre("break b"));
     EXPECT_THAT(a.get_linked_objects(), IsEmpty());
     EXPECT_THAT(a.get_needed_objects(), IsEmpty());
@@ -207,7 +207,7 @@ TEST_F(ProjectObjectTest, MayOutliveTheProjectThatItIsLinkedInto)
     Part& b = assembly.addPart("b");
     a.link_to(b);
     b.link_to(a);
-    const std::unique_ptr<ProjectObject> away = assembly.take_object(b.getObjectId());
+    const Obj::OwnedObject away = assembly.take_object(b.getObjectId());
     EXPECT_TRUE(application().close_project(assembly));
     EXPECT_THAT(away->get_linked_objects(), IsEmpty());
 }
@@ -273,6 +273,61 @@ TEST_F(ProjectObjectTest, HasItsVirtualOperationsBehindThoseOfASetOfProperties)
         Slots::configuring(),
     };
     EXPECT_THAT(places, ElementsAre(25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38));
+}
+
+TEST_F(ProjectObjectTest, RefusesLinksToOtherProjectsAndToItself)
+{
+    Part& here = addAssembly("here").addPart("a");
+    Part& there = addAssembly("there").addPart("b");
+    Part loose;
+    const vxtest::Reports reports;
+    EXPECT_FALSE(here.link_to(there));
+    EXPECT_FALSE(here.link_to(loose));
+    EXPECT_FALSE(loose.link_to(here));
+    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_THAT(reports.text(), HasSubstr("\"a\" cannot be linked to \"b\": they are not in one project"));
+    EXPECT_FALSE(here.link_to(here));
+    EXPECT_THAT(here.get_linked_objects(), IsEmpty());
+    EXPECT_THAT(there.get_linked_objects(), IsEmpty());
+}
+
+TEST_F(ProjectObjectTest, HasLinksBackThatItGaveUpWhenTheOtherLeft)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    a.link_to(b);
+    Part::hooks().unlinksWhatLeaves = true;
+    Obj::OwnedObject away = assembly.take_object(b.getObjectId());
+    assembly.restore_object(std::move(away));
+    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+    EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
+}
+
+TEST_F(ProjectObjectTest, IsNotToldOfWhatLeavesWhileItIsAwayItself)
+{
+    Assembly& assembly = addAssembly();
+    Part& a = assembly.addPart("a");
+    Part& b = assembly.addPart("b");
+    a.link_to(b);
+    Obj::OwnedObject awayA = assembly.take_object(a.getObjectId());
+    Part::hooks().calls.clear();
+    Obj::OwnedObject awayB = assembly.take_object(b.getObjectId());
+    EXPECT_THAT(Part::hooks().calls, IsEmpty());
+    assembly.restore_object(std::move(awayB));
+    assembly.restore_object(std::move(awayA));
+    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+}
+
+TEST_F(ProjectObjectTest, TakesTheMemoryOfItsClassAndOfItsTexts)
+{
+    Part& part = addAssembly().addPart();
+    const std::size_t before = part.get_memory_usage();
+    EXPECT_GE(before, sizeof(Part));
+    EXPECT_LT(before, 2 * sizeof(Part));
+    part.label.setValue(std::string(100000, 'x'));
+    EXPECT_GT(part.get_memory_usage(), before + 100000);
+    EXPECT_LT(part.get_memory_usage(), before + 250000);
 }
 
 } // namespace

@@ -3,9 +3,6 @@
 #include "HostTesting.h"
 #include "ObjTesting.h"
 
-#include "Kelta/FileWriter.h"
-#include "Kelta/XMLFileReader.h"
-
 #include <QTemporaryDir>
 #include <boost/signals2/connection.hpp>
 
@@ -103,13 +100,13 @@ TEST_F(ProjectTest, AddsNothingOfAClassThatIsNotRegisteredOrNoObject)
     const vxtest::Reports reports;
     EXPECT_EQ(m_assembly.add_object("Test::Nobody", "a"), nullptr);
     EXPECT_EQ(m_assembly.add_object(nullptr, "a"), nullptr);
-    EXPECT_EQ(m_assembly.add_object("Test::Assembly", "a"), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Assembly", "a"), nullptr);
     EXPECT_EQ(m_assembly.add_object("Obj::ProjectObject", "a"), nullptr) << "a class that makes none";
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_THAT(reports.text(), HasSubstr("No object of class \"Test::Nobody\" was added to the project \"Assembly\": "
                                           "this class is not known."));
-    EXPECT_THAT(reports.text(), HasSubstr("this class is not one of objects of a project"));
-    EXPECT_THAT(reports.text(), HasSubstr("the class made none"));
+    EXPECT_THAT(reports.text(), HasSubstr("this is not a class of objects of a project"));
+    EXPECT_THAT(reports.text(), HasSubstr("the class created none"));
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_EQ(m_assembly.addPart().getObjectId(), 1U);
 }
@@ -117,8 +114,8 @@ TEST_F(ProjectTest, AddsNothingOfAClassThatIsNotRegisteredOrNoObject)
 TEST_F(ProjectTest, IsUnchangedWhenAConstructorThrows)
 {
     Part::hooks().constructorThrows = true;
-    EXPECT_THROW(m_assembly.add_object("Test::Part", "a"), std::runtime_error);
-    EXPECT_THROW(m_assembly.add_object("Test::Part", "a", 5), std::runtime_error);
+    EXPECT_THROW(m_assembly.add_object("vxtest::Part", "a"), std::runtime_error);
+    EXPECT_THROW(m_assembly.add_object("vxtest::Part", "a", 5), std::runtime_error);
     Part::hooks().constructorThrows = false;
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 1U);
@@ -129,7 +126,7 @@ TEST_F(ProjectTest, TakesAnObjectBackThatCannotBeConfigured)
     int told = 0;
     m_assembly.objectAdded.connect([&told](ProjectObject&) { ++told; });
     Part::hooks().configuringThrows = true;
-    EXPECT_THROW(m_assembly.add_object("Test::Part", "a"), std::runtime_error);
+    EXPECT_THROW(m_assembly.add_object("vxtest::Part", "a"), std::runtime_error);
     EXPECT_EQ(told, 0);
     EXPECT_EQ(Part::count(), 0);
     EXPECT_EQ(m_assembly.get_object("a"), nullptr);
@@ -152,8 +149,8 @@ TEST_F(ProjectTest, NeverGivesTheIdOfAnObjectThatIsGoneToAnother)
     EXPECT_TRUE(m_assembly.remove_object(2));
     EXPECT_EQ(m_assembly.addPart("c").getObjectId(), 3U);
     const vxtest::Reports reports;
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "d", 2), nullptr) << "not even by number";
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "d", 1), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "d", 2), nullptr) << "not even by number";
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "d", 1), nullptr);
     EXPECT_EQ(reports.errors(), 2);
     EXPECT_EQ(m_assembly.get_next_object_id(), 4U);
 }
@@ -161,13 +158,13 @@ TEST_F(ProjectTest, NeverGivesTheIdOfAnObjectThatIsGoneToAnother)
 TEST_F(ProjectTest, TakesIdsThatNoObjectHadInAnyOrder)
 {
     for (const std::uint64_t id : {7U, 3U, 5U, 1U, 6U, 4U, 2U, 20U, 19U, 9U}) {
-        ASSERT_NE(m_assembly.add_object("Test::Part", std::to_string(id), id), nullptr) << id;
-        EXPECT_EQ(m_assembly.add_object("Test::Part", "again" + std::to_string(id), id), nullptr) << id;
+        ASSERT_NE(m_assembly.add_object("vxtest::Part", std::to_string(id), id), nullptr) << id;
+        EXPECT_EQ(m_assembly.add_object("vxtest::Part", "again" + std::to_string(id), id), nullptr) << id;
     }
     EXPECT_THAT(ids(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 9, 19, 20)) << "in the order of their ids";
     EXPECT_EQ(m_assembly.addPart("next").getObjectId(), 21U);
     for (const std::uint64_t id : {8U, 10U, 14U, 18U})
-        EXPECT_NE(m_assembly.add_object("Test::Part", std::to_string(id), id), nullptr) << id;
+        EXPECT_NE(m_assembly.add_object("vxtest::Part", std::to_string(id), id), nullptr) << id;
 }
 
 TEST_F(ProjectTest, TakesEachIdOnceHoweverTheyComeAndGo)
@@ -178,7 +175,7 @@ TEST_F(ProjectTest, TakesEachIdOnceHoweverTheyComeAndGo)
     const vxtest::Reports reports;
     for (int i = 0; i < 2000; ++i) {
         const std::uint64_t id = someId(random);
-        const bool added = m_assembly.add_object("Test::Part", "p" + std::to_string(i), id) != nullptr;
+        const bool added = m_assembly.add_object("vxtest::Part", "p" + std::to_string(i), id) != nullptr;
         EXPECT_EQ(added, used.insert(id).second) << id;
         if (added && i % 3 == 0)
             m_assembly.remove_object(static_cast<std::uint32_t>(id));
@@ -191,7 +188,7 @@ TEST_F(ProjectTest, FindsObjectsByIdsThatLeaveGapsOfEveryWidth)
 {
     std::vector<std::uint64_t> given{4294967295, 1, 5000, 900, 2900, 4000, 5500, 1000000, 20000, 7};
     for (const std::uint64_t id : given)
-        ASSERT_NE(m_assembly.add_object("Test::Part", std::to_string(id), id), nullptr);
+        ASSERT_NE(m_assembly.add_object("vxtest::Part", std::to_string(id), id), nullptr);
     for (const std::uint64_t id : given) {
         const ProjectObject* const object = m_assembly.get_object(static_cast<std::uint32_t>(id));
         ASSERT_NE(object, nullptr) << id;
@@ -206,14 +203,14 @@ TEST_F(ProjectTest, FindsObjectsByIdsThatLeaveGapsOfEveryWidth)
 TEST_F(ProjectTest, RefusesIdsBeyond32Bits)
 {
     const vxtest::Reports reports;
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "a", 4294967296), nullptr);
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "a", 4294967297), nullptr) << "it must not pass for 1";
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "a", 0), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 4294967296), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 4294967297), nullptr) << "it must not pass for 1";
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 0), nullptr);
     EXPECT_EQ(reports.errors(), 3);
     EXPECT_THAT(reports.text(), HasSubstr("\"a\""));
     EXPECT_THAT(reports.text(), HasSubstr("4294967296"));
     EXPECT_THAT(names(), IsEmpty());
-    const ProjectObject* const last = m_assembly.add_object("Test::Part", "last", lastId);
+    const ProjectObject* const last = m_assembly.add_object("vxtest::Part", "last", lastId);
     ASSERT_NE(last, nullptr);
     EXPECT_EQ(last->getObjectId(), 4294967295U);
     EXPECT_EQ(last->id.getValue(), 4294967295);
@@ -224,11 +221,11 @@ TEST_F(ProjectTest, AddsNothingWhenAllIdsAreUsedUp)
     m_assembly.skip_object_ids(lastId);
     EXPECT_EQ(m_assembly.addPart("last").getObjectId(), lastId);
     const vxtest::Reports reports;
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "more"), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr);
     EXPECT_THAT(reports.text(), HasSubstr("all ids are used up"));
     EXPECT_TRUE(m_assembly.remove_object(4294967295U));
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "more"), nullptr) << "also when there is room again";
-    EXPECT_NE(m_assembly.add_object("Test::Part", "more", 17), nullptr) << "one that was left out may be asked for";
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr) << "also when there is room again";
+    EXPECT_NE(m_assembly.add_object("vxtest::Part", "more", 17), nullptr) << "one that was left out may be asked for";
 }
 
 TEST_F(ProjectTest, LeavesOutIds)
@@ -237,18 +234,18 @@ TEST_F(ProjectTest, LeavesOutIds)
     m_assembly.skip_object_ids(5);
     EXPECT_EQ(m_assembly.get_next_object_id(), 10U);
     EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 10U);
-    EXPECT_NE(m_assembly.add_object("Test::Part", "b", 9), nullptr) << "it comes from a file";
+    EXPECT_NE(m_assembly.add_object("vxtest::Part", "b", 9), nullptr) << "it comes from a file";
 }
 
 TEST_F(ProjectTest, RefusesANameThatIsTakenOrEmptyForAnObjectWithAnId)
 {
     m_assembly.addPart("a");
     const vxtest::Reports reports;
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "a", 5), nullptr);
-    EXPECT_EQ(m_assembly.add_object("Test::Part", "", 5), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 5), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "", 5), nullptr);
     EXPECT_EQ(m_assembly.add_object("Test::Nobody", "b", 5), nullptr);
     EXPECT_EQ(reports.errors(), 3);
-    EXPECT_NE(m_assembly.add_object("Test::Part", "b", 5), nullptr) << "the id is still free";
+    EXPECT_NE(m_assembly.add_object("vxtest::Part", "b", 5), nullptr) << "the id is still free";
 }
 
 TEST_F(ProjectTest, GivesAnObjectAwayAndTakesItBackAtItsPlace)
@@ -263,7 +260,7 @@ TEST_F(ProjectTest, GivesAnObjectAwayAndTakesItBackAtItsPlace)
         EXPECT_EQ(object.get_project(), nullptr);
         EXPECT_EQ(m_assembly.get_object(2U), nullptr);
     });
-    std::unique_ptr<ProjectObject> away = m_assembly.take_object(2);
+    Obj::OwnedObject away = m_assembly.take_object(2);
     EXPECT_EQ(away.get(), &b);
     EXPECT_THAT(told, ElementsAre("b"));
     EXPECT_THAT(names(), ElementsAre("a", "c"));
@@ -282,7 +279,7 @@ TEST_F(ProjectTest, GivesAnObjectAwayAndTakesItBackAtItsPlace)
 TEST_F(ProjectTest, GivesAnObjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
 {
     Part& first = m_assembly.addPart("Bolt");
-    std::unique_ptr<ProjectObject> away = m_assembly.take_object(1);
+    Obj::OwnedObject away = m_assembly.take_object(1);
     Part& second = m_assembly.addPart("Bolt");
     const vxtest::Reports reports;
     ASSERT_EQ(m_assembly.restore_object(std::move(away)), &first);
@@ -301,7 +298,7 @@ TEST_F(ProjectTest, TakesBackOnlyWhatCameFromIt)
         other.addPart(name);
     m_assembly.addPart("mine");
     m_assembly.addPart("away");
-    const std::unique_ptr<ProjectObject> away = m_assembly.take_object(2);
+    const Obj::OwnedObject away = m_assembly.take_object(2);
     const vxtest::Reports reports;
     EXPECT_EQ(m_assembly.restore_object(other.take_object(1)), nullptr) << "its id is taken here";
     EXPECT_EQ(m_assembly.restore_object(other.take_object(2)), nullptr) << "its id is free here";
@@ -315,7 +312,7 @@ TEST_F(ProjectTest, TakesBackOnlyWhatCameFromIt)
 TEST_F(ProjectTest, HasAnObjectBackThatFailsWhenItComes)
 {
     Part& part = m_assembly.addPart("a");
-    std::unique_ptr<ProjectObject> away = m_assembly.take_object(1);
+    Obj::OwnedObject away = m_assembly.take_object(1);
     int told = 0;
     m_assembly.objectAdded.connect([&told](ProjectObject&) { ++told; });
     Part::hooks().restoredThrows = true;
@@ -416,7 +413,7 @@ TEST_F(ProjectTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndBrought
     std::vector<std::uint32_t> order = ids();
     std::mt19937 random(2);
     std::shuffle(order.begin(), order.end(), random);
-    std::vector<std::unique_ptr<ProjectObject>> away;
+    std::vector<Obj::OwnedObject> away;
     away.reserve(order.size());
     for (const std::uint32_t id : order)
         away.push_back(m_assembly.take_object(id));
@@ -461,58 +458,222 @@ TEST_F(ProjectTest, DescribesItselfAndItsObjectsInARecord)
     EXPECT_THAT(names(), ElementsAre("a", "b"));
 }
 
-TEST_F(ProjectTest, ReadsTheObjectsThatItWroteWithIdsNamesAndProperties)
-{
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("project.xml"));
-    m_assembly.addPart("gone");
-    m_assembly.addPart("a").width.setValue(22);
-    m_assembly.addPart("钢").label.setValue("%1");
-    m_assembly.remove_object(1);
-    Kelta::FileWriter writer(path);
-    writer.beginElement(QStringLiteral("project"));
-    m_assembly.Save(writer);
-    ASSERT_TRUE(writer.commit());
+// --- Listeners that remove what they are told of ---
 
-    Assembly& other = addAssembly("other");
-    Kelta::XMLFileReader reader(path);
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("project")));
-    other.Load(reader);
-    EXPECT_FALSE(reader.failed());
-    EXPECT_THAT(namesOf(other.get_objects()), ElementsAre("a", "钢"));
-    ASSERT_NE(other.get_object(3U), nullptr);
-    EXPECT_EQ(other.get_object(3U)->label.getValue(), "%1");
-    EXPECT_EQ(static_cast<Part*>(other.get_object(2U))->width.getValue(), 22);
-    EXPECT_EQ(other.addPart("next").getObjectId(), 4U);
+TEST_F(ProjectTest, ReturnsNoObjectThatAListenerHasRemoved)
+{
+    std::vector<std::string> told;
+    m_assembly.objectAdded.connect([this](ProjectObject& object) { m_assembly.remove_object(object.getObjectId()); });
+    m_assembly.objectAdded.connect([&told](ProjectObject& object) { told.emplace_back(object.get_name_in_project()); });
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a"), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "b", 7), nullptr);
+    EXPECT_THAT(told, ElementsAre("a", "b")) << "the next listener is told of an object that is still whole";
+    EXPECT_EQ(m_assembly.get_object_count(), 0U);
+    EXPECT_EQ(Part::count(), 0);
 }
 
-/// An object that reads no further than its own element.
-class LazyPart : public ProjectObject
+TEST_F(ProjectTest, ReturnsNoObjectIfAListenerHasClosedIt)
 {
-public:
-    static void* create() { return static_cast<Kelta::RootClass*>(new LazyPart); }
-    static inline Kelta::TypeInfo type;
-    Kelta::TypeInfo getTypeId() const override { return type; }
-    void load(Kelta::XMLFileReader&) override {}
+    m_assembly.objectAdded.connect([this](ProjectObject&) { application().close_project(m_assembly); });
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a"), nullptr);
+    EXPECT_EQ(Part::count(), 0);
+}
+
+TEST_F(ProjectTest, ReturnsNoObjectThatAListenerRemovesWhenItComesBack)
+{
+    m_assembly.addPart("a");
+    Obj::OwnedObject away = m_assembly.take_object(1);
+    m_assembly.objectAdded.connect([this](ProjectObject& object) { m_assembly.remove_object(object.getObjectId()); });
+    EXPECT_EQ(m_assembly.restore_object(std::move(away)), nullptr);
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "b", 1), nullptr) << "its id is still not free";
+    EXPECT_EQ(Part::count(), 0);
+}
+
+/// Makes every object remove itself in one of its operations.
+void removeThemselvesWhen(const std::string& operation)
+{
+    Part::hooks().action = [operation](ProjectObject& object, const std::string& current) {
+        if (current == operation && object.get_project() != nullptr)
+            object.get_project()->remove_object(object.getObjectId());
+    };
+}
+
+TEST_F(ProjectTest, SurvivesObjectsThatRemoveThemselvesInTheirOwnOperations)
+{
+    Part& changed = m_assembly.addPart("changed");
+    Part& refreshed = m_assembly.addPart("refreshed");
+    m_assembly.addPart("checked");
+    removeThemselvesWhen("changing");
+    changed.width.setValue(0);
+    EXPECT_THAT(names(), ElementsAre("refreshed", "checked"));
+    removeThemselvesWhen("checking");
+    refreshed.refreshProperties(true);
+    EXPECT_THAT(names(), ElementsAre("checked"));
+    m_assembly.update();
+    EXPECT_THAT(names(), IsEmpty());
+    removeThemselvesWhen("configuring");
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "configured"), nullptr);
+    EXPECT_EQ(Part::count(), 0);
+}
+
+TEST_F(ProjectTest, LooksAnewAtTheObjectsThatAreLeftWhenOneRemovesOthers)
+{
+    std::vector<std::string> checked;
+    for (const char* const name : {"a", "b", "c", "d"})
+        m_assembly.addPart(name);
+    Part::hooks().action = [&](ProjectObject& object, const std::string& operation) {
+        if (operation != "checking")
+            return;
+        checked.emplace_back(object.get_name_in_project());
+        if (checked.size() == 1) {
+            m_assembly.remove_object(1);
+            m_assembly.remove_object(2);
+            m_assembly.addPart("e");
+        }
+    };
+    m_assembly.update();
+    Part::hooks().action = nullptr;
+    EXPECT_THAT(checked, ElementsAre("a", "c", "d"));
+    EXPECT_THAT(names(), ElementsAre("c", "d", "e"));
+}
+
+TEST_F(ProjectTest, MayBeClosedWhileItLooksAnew)
+{
+    m_assembly.addPart("a");
+    m_assembly.addPart("b");
+    m_assembly.objectChanged.connect(
+        [this](ProjectObject&, const Obj::Property*) { application().close_project(m_assembly); });
+    m_assembly.update();
+    EXPECT_TRUE(Obj::Application::get_projects().empty());
+}
+
+TEST_F(ProjectTest, MakesNoNameOfAnObjectThatMayComeBack)
+{
+    m_assembly.addPart("Bolt");
+    m_assembly.addPart("Bolt1");
+    Obj::OwnedObject away = m_assembly.take_object(2);
+    EXPECT_STREQ(m_assembly.addPart("Bolt").get_name_in_project(), "Bolt2");
+    const vxtest::Reports reports;
+    m_assembly.restore_object(std::move(away));
+    EXPECT_EQ(reports.text(), "");
+    EXPECT_THAT(names(), ElementsAre("Bolt", "Bolt1", "Bolt2"));
+}
+
+TEST_F(ProjectTest, AddsAnObjectThatCodeHasMade)
+{
+    auto part = std::make_unique<Part>();
+    part->width.setValue(4);
+    const Part& added = *part;
+    EXPECT_EQ(m_assembly.add_object(std::move(part), "a"), &added);
+    EXPECT_EQ(added.getObjectId(), 1U);
+    const vxtest::Reports reports;
+    EXPECT_EQ(m_assembly.add_object(std::make_unique<Part>(), "a", 5), nullptr) << "the name is taken";
+    EXPECT_EQ(m_assembly.add_object(std::make_unique<Part>(), "b", 1), nullptr) << "the id is taken";
+    EXPECT_EQ(reports.errors(), 2);
+    EXPECT_EQ(Part::count(), 1);
+}
+
+TEST_F(ProjectTest, TellsItsObjectsThatTheyHaveBeenRead)
+{
+    m_assembly.addPart("a");
+    m_assembly.addPart("b");
+    Part::hooks().calls.clear();
+    Part::hooks().restoredThrows = true;
+    const vxtest::Reports reports;
+    m_assembly.notify_restored();
+    EXPECT_THAT(Part::hooks().calls, ElementsAre("restored a", "restored b"));
+    EXPECT_EQ(reports.errors(), 2);
+}
+
+TEST_F(ProjectTest, TakesTheMemoryOfItsObjectsToo)
+{
+    const std::size_t empty = m_assembly.get_memory_usage();
+    EXPECT_GE(empty, sizeof(Assembly));
+    std::size_t objects = 0;
+    for (int i = 0; i < 100; ++i)
+        objects += m_assembly.addPart().get_memory_usage();
+    EXPECT_GE(m_assembly.get_memory_usage(), empty + objects);
+    EXPECT_LT(m_assembly.get_memory_usage(), empty + 2 * objects);
+}
+
+// --- Executing objects ---
+
+class ExecutionTest : public ProjectTest
+{
+protected:
+    /// The names of the objects that are executed now, in order.
+    std::vector<std::string> executed()
+    {
+        std::vector<std::string> names;
+        for (const auto& result : m_assembly.execute_due())
+            names.push_back(result->text);
+        return names;
+    }
 };
 
-TEST_F(ProjectTest, ReadsOnBehindObjectsThatAreUnknownOrDoNotReadTheirPart)
+TEST_F(ExecutionTest, ExecutesAnObjectWhenItIsNewAndWhenItHasChanged)
 {
-    Kelta::RootClass::initSubclass(LazyPart::type, "Test::LazyPart", "Obj::ProjectObject", &LazyPart::create);
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("project.xml"));
-    vxtest::writeFile(path, "<project><object class='Test::LazyPart' name='a' id='1'><property name='Label' value='x'/>"
-                            "</object><object class='Test::Nobody' name='b' id='2'><object/></object>"
-                            "<object class='Test::Part' name='c' id='many'/>"
-                            "<object class='Test::Part' name='d' id='4294967296'/>"
-                            "<object class='Test::Part' name='e' id='5'/></project>");
+    Part& a = m_assembly.addPart("a");
+    m_assembly.addPart("b");
+    EXPECT_THAT(executed(), ElementsAre("a", "b"));
+    EXPECT_THAT(executed(), IsEmpty()) << "nothing has changed";
+    a.width.setValue(9);
+    EXPECT_THAT(executed(), ElementsAre("a"));
+    a.notifyChange();
+    EXPECT_THAT(executed(), ElementsAre("a"));
+}
+
+TEST_F(ExecutionTest, ExecutesAnObjectThatAlwaysRuns)
+{
+    m_assembly.addPart("a");
+    Part::hooks().alwaysRuns = true;
+    EXPECT_THAT(executed(), ElementsAre("a"));
+    EXPECT_THAT(executed(), ElementsAre("a"));
+}
+
+TEST_F(ExecutionTest, ExecutesWhatAnObjectNeedsBeforeItAndTheObjectAfterIt)
+{
+    Part& a = m_assembly.addPart("a");
+    Part& b = m_assembly.addPart("b");
+    Part& c = m_assembly.addPart("c");
+    a.link_to(b);
+    b.link_to(c);
+    EXPECT_THAT(executed(), ElementsAre("c", "b", "a"));
+    c.width.setValue(1);
+    EXPECT_THAT(executed(), ElementsAre("c", "b", "a"));
+    b.width.setValue(1);
+    EXPECT_THAT(executed(), ElementsAre("b", "a"));
+}
+
+TEST_F(ExecutionTest, FollowsACircleOfNeedsOnce)
+{
+    Part& a = m_assembly.addPart("a");
+    Part& b = m_assembly.addPart("b");
+    a.link_to(b);
+    b.link_to(a);
+    EXPECT_THAT(executed(), testing::UnorderedElementsAre("a", "b"));
+    EXPECT_THAT(executed(), IsEmpty());
+}
+
+TEST_F(ExecutionTest, LeavesOutWhatIsSuppressed)
+{
+    m_assembly.addPart("a").setSuppressed(true);
+    EXPECT_THAT(executed(), IsEmpty());
+    m_assembly.get_object("a")->setSuppressed(false);
+    EXPECT_THAT(executed(), ElementsAre("a"));
+}
+
+TEST_F(ExecutionTest, ReportsWhatAnObjectThrowsAndTriesItAgain)
+{
+    m_assembly.addPart("a");
+    m_assembly.addPart("b");
+    Part::hooks().executionThrows = true;
     const vxtest::Reports reports;
-    Kelta::XMLFileReader reader(path);
-    ASSERT_TRUE(reader.nextElement(QStringLiteral("project")));
-    m_assembly.Load(reader);
-    EXPECT_FALSE(reader.failed());
-    EXPECT_THAT(names(), ElementsAre("a", "e"));
-    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_THAT(executed(), IsEmpty());
+    EXPECT_EQ(reports.errors(), 2);
+    EXPECT_THAT(reports.text(), HasSubstr("The execution of an object failed: a part cannot be executed"));
+    Part::hooks().executionThrows = false;
+    EXPECT_THAT(executed(), ElementsAre("a", "b"));
 }
 
 /// The bare class.

@@ -3,9 +3,6 @@
 #include "HostTesting.h"
 #include "ObjTesting.h"
 
-#include "Kelta/FileWriter.h"
-#include "Kelta/XMLFileReader.h"
-
 #include <QTemporaryDir>
 
 namespace {
@@ -118,39 +115,6 @@ TEST_F(PropertyDSTest, IsARootOfDescriptions)
     set.register_property(data, set.number, "Number", "", 0, "");
     set.number.setValue(4);
     EXPECT_EQ(set.number.getValue(), 4);
-}
-
-TEST_F(PropertyDSTest, ReadsFromAFileWhatItWroteAndLeavesWhatIsOnlyRead)
-{
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("part.xml"));
-    m_part.label.setValue("钢 <%1>\n");
-    m_part.width.setValue(12);
-    m_part.secret.setValue("told");
-    m_part.id.setValue(5);
-    ASSERT_TRUE(m_part.save_to_file(path));
-    const vxtest::Reports reports;
-    ASSERT_TRUE(m_other.load_from_file(path));
-    EXPECT_EQ(m_other.label.getValue(), "钢 <%1>\n");
-    EXPECT_EQ(m_other.width.getValue(), 12);
-    EXPECT_EQ(m_other.secret.getValue(), "none");
-    EXPECT_EQ(m_other.id.getValue(), 0);
-    EXPECT_EQ(reports.text(), "");
-}
-
-TEST_F(PropertyDSTest, ReportsPropertiesThatItLacksOrCannotSet)
-{
-    const QTemporaryDir place;
-    const QString path = place.filePath(QStringLiteral("part.xml"));
-    vxtest::writeFile(path, "<object class='Test::Part'><property name='Depth' value='1'/>"
-                            "<property name='Width' value='wide'/><property name='Label' value='last'/></object>");
-    const vxtest::Reports reports;
-    ASSERT_TRUE(m_part.load_from_file(path));
-    EXPECT_EQ(reports.warnings(), 2);
-    EXPECT_THAT(reports.text(), HasSubstr("\"Depth\" is not known"));
-    EXPECT_THAT(reports.text(), HasSubstr("\"Width\" cannot be \"wide\""));
-    EXPECT_EQ(m_part.width.getValue(), 7);
-    EXPECT_EQ(m_part.label.getValue(), "last") << "the others are read";
 }
 
 /// Reaches the protected operations.

@@ -3,7 +3,10 @@
 #include "CommaLocale.h"
 #include "ObjTesting.h"
 
+#include <json/writer.h>
+
 #include <limits>
+#include <stdexcept>
 
 namespace {
 
@@ -160,6 +163,154 @@ TEST(Property, HasItsTextInTheCLocaleWhateverTheLocaleOfTheUser)
     EXPECT_TRUE(couples.from_text("0.5, 1234.25"));
     EXPECT_EQ(couples.getValue(), (Couples{{0.5, 1234.25}}));
     EXPECT_EQ(couples.to_text(), "0.5, 1234.25");
+}
+
+// --- Real numbers, yes or no, choices ---
+
+TEST_F(PropertyTest, OfARealNumberReadsBackTheVeryNumber)
+{
+    Obj::PropertyReal property;
+    EXPECT_EQ(property.getValue(), 0.0);
+    for (const double number : {0.1, -0.5, 1.0 / 3.0, 1e-300, 5e-324, 1.7976931348623157e308, 210000.0}) {
+        property.setValue(number);
+        Obj::PropertyReal other(1.0);
+        ASSERT_TRUE(other.from_text(property.to_text())) << property.to_text();
+        EXPECT_EQ(other.getValue(), number);
+        other.setValue(1.0);
+        ASSERT_TRUE(other.from_json(property.to_json()));
+        EXPECT_EQ(other.getValue(), number);
+    }
+    property.setValue(0.1);
+    EXPECT_EQ(property.to_text(), "0.1");
+    EXPECT_TRUE(property.from_text("  2.5e3 "));
+    EXPECT_EQ(property.getValue(), 2500.0);
+}
+
+TEST_F(PropertyTest, OfARealNumberHasItsTextInTheCLocale)
+{
+    const vxtest::CommaLocale locale;
+    Obj::PropertyReal property(1234.5);
+    EXPECT_EQ(property.to_text(), "1234.5");
+    EXPECT_TRUE(property.from_text("0.25"));
+    EXPECT_EQ(property.getValue(), 0.25);
+    EXPECT_TRUE(refuses(property, "0,25"));
+}
+
+TEST_F(PropertyTest, OfARealNumberIsAlwaysFinite)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    Obj::PropertyReal property(3.0);
+    for (const char* const text : {"inf", "-inf", "nan", "NaN", "Infinity", "1e999", "", "three", "1 2"})
+        EXPECT_TRUE(refuses(property, text)) << text;
+    for (const Json::Value& json : {Json::Value("3"), Json::Value(), Json::Value(true), Json::Value(infinity)})
+        EXPECT_FALSE(property.from_json(json)) << json;
+    EXPECT_THROW(property.setValue(infinity), std::invalid_argument);
+    EXPECT_THROW(property.setValue(std::numeric_limits<double>::quiet_NaN()), std::invalid_argument);
+    EXPECT_THROW(Obj::PropertyReal{infinity}, std::invalid_argument);
+    EXPECT_EQ(property.getValue(), 3.0);
+    EXPECT_TRUE(property.from_json(Json::Value(4)));
+    EXPECT_EQ(property.getValue(), 4.0) << "a whole number is a real number too";
+}
+
+TEST_F(PropertyTest, OfYesOrNoIsTrueOrFalse)
+{
+    Obj::PropertyBool property;
+    EXPECT_FALSE(property.getValue());
+    EXPECT_TRUE(property.from_text("true"));
+    EXPECT_TRUE(property.getValue());
+    EXPECT_EQ(property.to_text(), "true");
+    EXPECT_EQ(property.to_json(), Json::Value(true));
+    for (const char* const text : {"", "yes", "True", "1", "falsetrue"})
+        EXPECT_TRUE(refuses(property, text)) << text;
+    EXPECT_FALSE(property.from_json(Json::Value(0)));
+    EXPECT_FALSE(property.from_json(Json::Value("false")));
+    EXPECT_TRUE(property.from_json(Json::Value(false)));
+    EXPECT_EQ(property.to_text(), "false");
+}
+
+TEST_F(PropertyTest, OfAChoiceIsOneOfItsWords)
+{
+    Obj::PropertyChoice property({"coarse", "fine", "钢"}, 1);
+    EXPECT_EQ(property.getValue(), 1U);
+    EXPECT_EQ(property.get_word(), "fine");
+    EXPECT_THAT(property.get_words(), ElementsAre("coarse", "fine", "钢"));
+    EXPECT_TRUE(property.from_text("钢"));
+    EXPECT_EQ(property.getValue(), 2U);
+    EXPECT_EQ(property.to_json(), Json::Value("钢"));
+    EXPECT_TRUE(property.from_json(Json::Value("coarse")));
+    EXPECT_EQ(property.to_text(), "coarse");
+    for (const char* const text : {"", "Fine", "fine ", "1"})
+        EXPECT_TRUE(refuses(property, text)) << text;
+    EXPECT_FALSE(property.from_json(Json::Value(1)));
+    EXPECT_THROW(property.setValue(3), std::out_of_range);
+    EXPECT_EQ(property.getValue(), 0U);
+}
+
+TEST_F(PropertyTest, OfAChoiceNeedsWordsThatDiffer)
+{
+    EXPECT_THROW(Obj::PropertyChoice({}), std::invalid_argument);
+    EXPECT_THROW(Obj::PropertyChoice({"a", "b", "a"}), std::invalid_argument);
+    EXPECT_THROW(Obj::PropertyChoice({"a", "b"}, 2), std::out_of_range);
+}
+
+// --- JSON of the others ---
+
+TEST_F(PropertyTest, KeepsWholeNumbersOfEverySizeInJson)
+{
+    PropertyInteger property;
+    for (const std::int64_t number : {std::int64_t{0}, std::numeric_limits<std::int64_t>::max(),
+                                      std::numeric_limits<std::int64_t>::min(), std::int64_t{4294967295}})
+    {
+        property.setValue(number);
+        const Json::Value json = property.to_json();
+        property.setValue(1);
+        EXPECT_TRUE(property.from_json(json));
+        EXPECT_EQ(property.getValue(), number);
+    }
+    for (const Json::Value& json : {Json::Value(1.5), Json::Value("1"), Json::Value(1e30), Json::Value()})
+        EXPECT_FALSE(property.from_json(json)) << json;
+}
+
+TEST_F(PropertyTest, WritesAColourInJsonWithTheDigitsThatItNeeds)
+{
+    PropertyColor property({0.5058824F, 0.1F, 1.0F, 0.0F});
+    EXPECT_EQ(property.to_json()[0].asDouble(), 0.5058824);
+    EXPECT_EQ(property.to_json()[1].asDouble(), 0.1);
+    PropertyColor other;
+    EXPECT_TRUE(other.from_json(property.to_json()));
+    EXPECT_TRUE(other.getValue() == property.getValue());
+    Json::Value wrong(Json::arrayValue);
+    EXPECT_FALSE(other.from_json(wrong));
+    for (int i = 0; i < 4; ++i)
+        wrong.append(i == 3 ? Json::Value("0") : Json::Value(0));
+    EXPECT_FALSE(other.from_json(wrong));
+    EXPECT_FALSE(other.from_json(Json::Value(1)));
+}
+
+TEST_F(PropertyTest, WritesCouplesInJson)
+{
+    PropertyCoupleArray property;
+    EXPECT_EQ(property.to_json(), Json::Value(Json::arrayValue));
+    property.setValue({{0.0, 0.1}, {1.0, -2.0}});
+    PropertyCoupleArray other;
+    EXPECT_TRUE(other.from_json(property.to_json()));
+    EXPECT_EQ(other.getValue(), property.getValue());
+    Json::Value wrong(Json::arrayValue);
+    wrong.append(1.0);
+    EXPECT_FALSE(other.from_json(wrong));
+    EXPECT_FALSE(other.from_json(Json::Value("0, 1")));
+    EXPECT_EQ(other.getValue(), property.getValue());
+}
+
+TEST_F(PropertyTest, KnowsWhatItsValueTakes)
+{
+    EXPECT_EQ(PropertyString("short").get_memory_usage(), 0U) << "a short text is kept in the property itself";
+    EXPECT_GT(PropertyString(std::string(1000, 'x')).get_memory_usage(), 1000U);
+    EXPECT_EQ(PropertyInteger(7).get_memory_usage(), 0U);
+    PropertyCoupleArray couples;
+    couples.setValue(Couples(100));
+    EXPECT_GE(couples.get_memory_usage(), 100 * 2 * sizeof(double));
+    EXPECT_GT(Obj::PropertyChoice({"a", "b"}).get_memory_usage(), 0U);
 }
 
 } // namespace

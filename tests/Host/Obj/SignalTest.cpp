@@ -23,7 +23,7 @@ TEST(Signal, TellsTheOthersWhenAListenerThrows)
     signal(5);
     EXPECT_EQ(sum, 5);
     EXPECT_EQ(reports.errors(), 2);
-    EXPECT_THAT(reports.text(), HasSubstr("Something went wrong in a listener: I am not well"));
+    EXPECT_THAT(reports.text(), HasSubstr("A listener failed: I am not well"));
     EXPECT_THAT(reports.text(), HasSubstr("an exception of an unknown kind"));
 }
 

@@ -1,13 +1,12 @@
 #include "vxMsg/MessageProxy.h"
 
 #include "HostTesting.h"
+#include "ProxyTesting.h"
 
-#include "vxMaterial/project/DocumentMaterial.h"
-#include "vxMaterial/project/MaterialObject.h"
-#include "vxMaterial/project/Module.h"
+#include "Obj/Placeholder.h"
+#include "Obj/ProjectObjectGroup.h"
 
 #include <boost/signals2/connection.hpp>
-#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <random>
@@ -15,100 +14,54 @@
 
 namespace {
 
-using Mat::MaterialObject;
 using Obj::Application;
 using Obj::ProjectObject;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using vxMsg::MessageProxy;
-
-class MessageProxyTest : public testing::Test
-{
-protected:
-    MessageProxyTest()
-    {
-        Obj::initObj();
-        initMat();
-        EXPECT_TRUE(vxMsg::runCommand(1030, 1, {"Materials"}));
-        m_project = application().get_project("Materials");
-        stack().clear();
-    }
-    ~MessageProxyTest() override
-    {
-        stack().clear();
-        application().close_all_projects();
-    }
-
-    static Application& application() { return Application::instance(); }
-    static QUndoStack& stack() { return MessageProxy::instance().undoStack(); }
-
-    static bool add(const std::string& name) { return vxMsg::doCommand({1027, "Materials", name, 0.0}); }
-    static bool remove(const std::string& name) { return vxMsg::doCommand({3, "Materials", name, 0.0}); }
-
-    /// Adds a material, which must succeed.
-    MaterialObject& material(const std::string& name)
-    {
-        if (!add(name))
-            throw std::logic_error("a material was not added");
-        return static_cast<MaterialObject&>(*m_project->get_objects().back());
-    }
-
-    std::vector<std::string> names() const
-    {
-        std::vector<std::string> names;
-        for (const ProjectObject* const object : m_project->get_objects())
-            names.emplace_back(object->get_name_in_project());
-        return names;
-    }
-
-    static std::vector<std::string> projects()
-    {
-        std::vector<std::string> names;
-        for (const Obj::Project* const project : Application::get_projects())
-            names.emplace_back(project->get_name());
-        return names;
-    }
-
-    Obj::Project* m_project = nullptr;
-};
+using vxMsg::PropertyPlace;
+using vxtest::Assembly;
+using vxtest::Joint;
+using vxtest::MessageProxyTest;
+using vxtest::Part;
 
 // --- Projects ---
 
-TEST_F(MessageProxyTest, MakesAMaterialProject)
+TEST_F(MessageProxyTest, MakesAProjectOfARegisteredClass)
 {
-    EXPECT_EQ(Application::get_projects(2).size(), 1U);
-    EXPECT_STREQ(m_project->getTypeId().get_name(), "Mat::DocumentMaterial");
+    EXPECT_EQ(Application::get_projects(vxtest::assemblyTag).size(), 1U);
+    EXPECT_STREQ(m_project->getTypeId().get_name(), "vxtest::Assembly");
     EXPECT_EQ(Application::get_current_project(), m_project);
 }
 
 TEST_F(MessageProxyTest, KeepsAProjectForRedoWhenItsCreationIsUndone)
 {
-    EXPECT_TRUE(vxMsg::runCommand(1030, 1, {"Second"}));
+    EXPECT_TRUE(makeProject("Second"));
     Obj::Project* const second = application().get_project("Second");
     const std::uint32_t id = second->getProjectId();
     EXPECT_EQ(stack().undoText(), QStringLiteral("New project \"Second\""));
-    EXPECT_TRUE(vxMsg::doCommand({1027, "Second", "Steel", 0.0}));
+    EXPECT_TRUE(add("Bolt", "Second"));
     stack().undo();
     stack().undo();
-    EXPECT_THAT(projects(), ElementsAre("Materials"));
+    EXPECT_THAT(projects(), ElementsAre("Machine"));
     EXPECT_EQ(Application::get_current_project(), m_project);
     stack().redo();
     stack().redo();
     EXPECT_EQ(application().get_project("Second"), second);
     EXPECT_EQ(second->getProjectId(), id);
-    EXPECT_NE(second->get_object("Steel"), nullptr);
+    EXPECT_NE(second->get_object("Bolt"), nullptr);
 }
 
 TEST_F(MessageProxyTest, BringsBackTheVeryProjectWhenItsClosingIsUndone)
 {
-    const MaterialObject& steel = material("Steel");
-    EXPECT_TRUE(vxMsg::runCommand(22, 1, {"Materials"}));
+    const Part& bolt = part("Bolt");
+    EXPECT_TRUE(closeProject("Machine"));
     EXPECT_THAT(projects(), IsEmpty());
-    EXPECT_EQ(stack().undoText(), QStringLiteral("Close project \"Materials\""));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Close project \"Machine\""));
     stack().undo();
-    EXPECT_EQ(application().get_project("Materials"), m_project);
-    EXPECT_EQ(m_project->get_object("Steel"), &steel);
+    EXPECT_EQ(application().get_project("Machine"), m_project);
+    EXPECT_EQ(m_project->get_object("Bolt"), &bolt);
     stack().undo();
     EXPECT_THAT(names(), IsEmpty()) << "what was before can be undone too";
     stack().redo();
@@ -118,55 +71,26 @@ TEST_F(MessageProxyTest, BringsBackTheVeryProjectWhenItsClosingIsUndone)
 
 TEST_F(MessageProxyTest, MakesANameUniqueThatAProjectHas)
 {
-    EXPECT_TRUE(vxMsg::runCommand(1030, 1, {"Materials"}));
+    EXPECT_TRUE(makeProject("Machine"));
     ASSERT_EQ(projects().size(), 2U);
-    EXPECT_THAT(projects()[1], testing::StartsWith("Materials"));
-    EXPECT_NE(projects()[1], "Materials");
+    EXPECT_THAT(projects()[1], testing::StartsWith("Machine"));
+    EXPECT_NE(projects()[1], "Machine");
 }
 
 // --- What is not known ---
 
-TEST_F(MessageProxyTest, ReportsCodesThatItDoesNotKnow)
-{
-    const vxtest::Reports reports;
-    for (const int code : {0, -1, 3, 1027, 1028, 4711})
-        EXPECT_FALSE(vxMsg::runCommand(code, 1, {"Materials"})) << code;
-    for (const int code : {0, -1, 22, 1030, 1028, 4711})
-        EXPECT_FALSE(vxMsg::doCommand({code, "Materials", "Steel", 0.0})) << code;
-    EXPECT_EQ(reports.errors(), 12);
-    EXPECT_THAT(reports.text(), HasSubstr("The request 4711 is not known; nothing was done."));
-    EXPECT_THAT(names(), IsEmpty());
-    EXPECT_THAT(projects(), ElementsAre("Materials"));
-    EXPECT_EQ(stack().count(), 0);
-}
-
 TEST_F(MessageProxyTest, ReportsNamesThatItDoesNotKnow)
 {
     const vxtest::Reports reports;
-    EXPECT_FALSE(vxMsg::runCommand(22, 1, {"Others"}));
-    EXPECT_FALSE(vxMsg::doCommand({1027, "Others %1", "Steel", 0.0}));
-    EXPECT_FALSE(vxMsg::doCommand({3, "Others", "Steel", 0.0}));
-    EXPECT_FALSE(vxMsg::doCommand({3, "Materials", "%1 %2", 0.0}));
-    EXPECT_FALSE(vxMsg::doCommand({3, "Materials", "", 0.0}));
+    EXPECT_FALSE(closeProject("Others"));
+    EXPECT_FALSE(add("Bolt", "Others %1"));
+    EXPECT_FALSE(remove("Bolt", "Others"));
+    EXPECT_FALSE(remove("%1 %2", "Machine"));
+    EXPECT_FALSE(remove("", "Machine"));
     EXPECT_EQ(reports.errors(), 5);
     EXPECT_THAT(reports.text(), HasSubstr("There is no project \"Others %1\"; nothing was done."));
-    EXPECT_THAT(reports.text(), HasSubstr("The project \"Materials\" has no object \"%1 %2\"; nothing was done."));
-    EXPECT_THAT(projects(), ElementsAre("Materials"));
-    EXPECT_EQ(stack().count(), 0);
-}
-
-TEST_F(MessageProxyTest, ReportsCountsThatAreNotThoseOfTheNames)
-{
-    const vxtest::Reports reports;
-    EXPECT_FALSE(vxMsg::runCommand(1030, 2, {"a"}));
-    EXPECT_FALSE(vxMsg::runCommand(1030, 1, {"a", "b"}));
-    EXPECT_FALSE(vxMsg::runCommand(1030, 2, {"a", "b"}));
-    EXPECT_FALSE(vxMsg::runCommand(22, 0, {}));
-    EXPECT_FALSE(vxMsg::runCommand(22, 1, {}));
-    EXPECT_FALSE(vxMsg::runCommand(22, -1, {"Materials"}));
-    EXPECT_EQ(reports.errors(), 6);
-    EXPECT_THAT(reports.text(), HasSubstr("The request 1030 takes one name; nothing was done."));
-    EXPECT_THAT(projects(), ElementsAre("Materials"));
+    EXPECT_THAT(reports.text(), HasSubstr("The project \"Machine\" has no object \"%1 %2\"; nothing was done."));
+    EXPECT_THAT(projects(), ElementsAre("Machine"));
     EXPECT_EQ(stack().count(), 0);
 }
 
@@ -174,72 +98,71 @@ TEST_F(MessageProxyTest, ReportsThatAllIdsAreUsedUp)
 {
     m_project->skip_object_ids(4294967296);
     const vxtest::Reports reports;
-    EXPECT_FALSE(add("Steel"));
+    EXPECT_FALSE(add("Bolt"));
     EXPECT_EQ(reports.errors(), 1);
     EXPECT_EQ(stack().count(), 0);
 }
 
 // --- Objects ---
 
-TEST_F(MessageProxyTest, AddsAMaterialThatUndoTakesAwayAndRedoBringsBack)
+TEST_F(MessageProxyTest, AddsAnObjectThatUndoTakesAwayAndRedoBringsBack)
 {
-    MaterialObject& steel = material("Steel");
-    EXPECT_EQ(steel.getObjectId(), 1U);
-    EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"Steel\""));
-    steel.initCMaterial(vxMat::eMaterialType::StructuralSteel);
+    Part& bolt = part("Bolt");
+    EXPECT_EQ(bolt.getObjectId(), 1U);
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"Bolt\""));
+    bolt.width.setValue(21);
     stack().undo();
     EXPECT_THAT(names(), IsEmpty());
-    EXPECT_EQ(steel.get_project(), nullptr) << "it is kept";
+    EXPECT_EQ(bolt.get_project(), nullptr) << "it is kept";
     stack().redo();
-    EXPECT_EQ(m_project->get_object("Steel"), &steel);
-    EXPECT_EQ(steel.getObjectId(), 1U);
-    EXPECT_EQ(steel.getCMaterial()->properties.size(), 9U) << "with what it had become";
+    EXPECT_EQ(m_project->get_object("Bolt"), &bolt);
+    EXPECT_EQ(bolt.getObjectId(), 1U);
+    EXPECT_EQ(bolt.width.getValue(), 21) << "with what it had become";
 }
 
-TEST_F(MessageProxyTest, BringsBackTheVeryObjectWithItsMaterialWhenADeletionIsUndone)
+TEST_F(MessageProxyTest, BringsBackTheVeryObjectWhenADeletionIsUndone)
 {
-    material("Air");
-    MaterialObject& steel = material("Steel");
-    material("Water");
-    steel.initCMaterial(vxMat::eMaterialType::StructuralSteel);
-    steel.label.setValue("Baustahl");
-    const vxMat::CMaterial* const content = steel.getCMaterial();
-    EXPECT_TRUE(remove("Steel"));
-    EXPECT_THAT(names(), ElementsAre("Air", "Water"));
-    EXPECT_EQ(stack().undoText(), QStringLiteral("Delete \"Baustahl\""));
+    part("Nut");
+    Part& bolt = part("Bolt");
+    part("Washer");
+    bolt.width.setValue(21);
+    bolt.refresh();
+    bolt.label.setValue("Schraube");
+    EXPECT_TRUE(remove("Bolt"));
+    EXPECT_THAT(names(), ElementsAre("Nut", "Washer"));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Delete \"Schraube\""));
     stack().undo();
-    EXPECT_THAT(names(), ElementsAre("Air", "Steel", "Water"));
-    EXPECT_EQ(m_project->get_object("Steel"), &steel);
-    EXPECT_EQ(m_project->get_object(2U), &steel);
-    EXPECT_EQ(steel.label.getValue(), "Baustahl");
-    EXPECT_EQ(steel.getCMaterial(), content);
-    EXPECT_EQ(content->properties.size(), 9U);
-    EXPECT_EQ(steel.getObjectState(), Obj::eVXObjectState::Ready);
+    EXPECT_THAT(names(), ElementsAre("Nut", "Bolt", "Washer"));
+    EXPECT_EQ(m_project->get_object("Bolt"), &bolt);
+    EXPECT_EQ(m_project->get_object(2U), &bolt);
+    EXPECT_EQ(bolt.label.getValue(), "Schraube");
+    EXPECT_EQ(bolt.width.getValue(), 21);
+    EXPECT_EQ(bolt.getObjectState(), Obj::eVXObjectState::Ready);
     stack().redo();
-    EXPECT_THAT(names(), ElementsAre("Air", "Water"));
+    EXPECT_THAT(names(), ElementsAre("Nut", "Washer"));
 }
 
 TEST_F(MessageProxyTest, NeverGivesAnIdTwiceThroughUndoAndRedo)
 {
-    material("a");
-    material("b");
+    part("a");
+    part("b");
     stack().undo();
-    EXPECT_EQ(material("c").getObjectId(), 3U) << "the redo of b is gone, but not its id";
+    EXPECT_EQ(part("c").getObjectId(), 3U) << "the redo of b is gone, but not its id";
     EXPECT_TRUE(remove("c"));
     stack().undo();
     stack().redo();
-    EXPECT_EQ(material("d").getObjectId(), 4U);
+    EXPECT_EQ(part("d").getObjectId(), 4U);
     stack().undo();
     stack().undo();
-    EXPECT_EQ(material("e").getObjectId(), 5U);
+    EXPECT_EQ(part("e").getObjectId(), 5U);
     EXPECT_THAT(names(), ElementsAre("a", "c", "e"));
 }
 
-TEST_F(MessageProxyTest, ComesThroughTenThousandMaterialsDeletedInRandomOrderAndAllUndone)
+TEST_F(MessageProxyTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndAllUndone)
 {
     constexpr int count = 10000;
     for (int i = 0; i < count; ++i)
-        ASSERT_TRUE(add("Material"));
+        ASSERT_TRUE(add("Part"));
     const std::vector<ProjectObject*> objects = m_project->get_objects();
     const std::vector<std::string> namesBefore = names();
     ASSERT_EQ(objects.size(), 10000U);
@@ -264,14 +187,14 @@ TEST_F(MessageProxyTest, ComesThroughTenThousandMaterialsDeletedInRandomOrderAnd
     }
     stack().setIndex(0);
     EXPECT_EQ(m_project->get_object_count(), 0U) << "their creation undone too";
-    EXPECT_EQ(material("next").getObjectId(), 10001U);
+    EXPECT_EQ(part("next").getObjectId(), 10001U);
 }
 
 TEST_F(MessageProxyTest, TakesLabelsOfEveryKind)
 {
     for (const std::string& label :
          {std::string(), std::string(10000, 'x'), std::string("结构钢"), std::string("%1 %2")}) {
-        MaterialObject& object = material("Material");
+        Part& object = part("Part");
         const std::string name = object.get_name_in_project();
         object.label.setValue(label);
         EXPECT_TRUE(remove(name));
@@ -285,54 +208,53 @@ TEST_F(MessageProxyTest, TakesLabelsOfEveryKind)
 TEST_F(MessageProxyTest, TakesNamesOfEveryKind)
 {
     for (const std::string& name : {std::string(10000, 'x'), std::string("结构钢"), std::string("%1 %2")}) {
-        EXPECT_EQ(material(name).get_name_in_project(), name);
+        EXPECT_EQ(part(name).get_name_in_project(), name);
         EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"") + QString::fromStdString(name) + QLatin1Char('"'));
         EXPECT_TRUE(remove(name));
     }
-    EXPECT_STREQ(material("").get_name_in_project(), "Object");
+    EXPECT_STREQ(part("").get_name_in_project(), "Object");
 }
 
 TEST_F(MessageProxyTest, TellsOnceOfAnObjectThatARequestMade)
 {
     std::vector<const ProjectObject*> made;
-    const boost::signals2::scoped_connection connection =
-        MessageProxy::instance().objectCreated.connect([&](ProjectObject& object) {
-            EXPECT_EQ(object.get_project(), m_project);
-            made.push_back(&object);
-        });
-    const MaterialObject& steel = material("Steel");
-    EXPECT_THAT(made, ElementsAre(&steel));
+    const boost::signals2::scoped_connection connection = proxy().objectCreated.connect([&](ProjectObject& object) {
+        EXPECT_EQ(object.get_project(), m_project);
+        made.push_back(&object);
+    });
+    const Part& bolt = part("Bolt");
+    EXPECT_THAT(made, ElementsAre(&bolt));
     stack().undo();
     stack().redo();
-    EXPECT_TRUE(remove("Steel"));
+    EXPECT_TRUE(remove("Bolt"));
     stack().undo();
     EXPECT_EQ(made.size(), 1U);
-    m_project->add_object("Mat::MaterialObject", "direct");
+    m_project->add_object("vxtest::Part", "direct");
     EXPECT_EQ(made.size(), 1U) << "nobody requested it";
 }
 
 TEST_F(MessageProxyTest, TellsOnceOfAProjectThatARequestMade)
 {
     std::vector<std::string> made;
-    const boost::signals2::scoped_connection connection = MessageProxy::instance().projectCreated.connect(
-        [&made](const Obj::Project& project) { made.emplace_back(project.get_name()); });
-    EXPECT_TRUE(MessageProxy::instance().newProject("Alloys"));
+    const boost::signals2::scoped_connection connection =
+        proxy().projectCreated.connect([&made](const Obj::Project& project) { made.emplace_back(project.get_name()); });
+    EXPECT_TRUE(proxy().newProject("vxtest::Assembly", "Alloys"));
     stack().undo();
     stack().redo();
     EXPECT_THAT(made, ElementsAre("Alloys"));
-    EXPECT_TRUE(MessageProxy::instance().closeProject("Alloys"));
+    EXPECT_TRUE(proxy().closeProject("Alloys"));
     stack().undo();
-    EXPECT_NE(MessageProxy::instance().openProject("Opened", [](Obj::Project&) {}), nullptr);
+    EXPECT_NE(proxy().openProject("vxtest::Assembly", "Opened", [](Obj::Project&) {}), nullptr);
     EXPECT_EQ(made.size(), 1U);
 }
 
 TEST_F(MessageProxyTest, DoesWhatIsRequestedThoughAListenerFails)
 {
-    const boost::signals2::scoped_connection connection = MessageProxy::instance().objectCreated.connect(
+    const boost::signals2::scoped_connection connection = proxy().objectCreated.connect(
         [this](ProjectObject&) { throw std::runtime_error("I cannot fill " + names().back()); });
     const vxtest::Reports reports;
-    EXPECT_TRUE(add("Steel"));
-    EXPECT_THAT(reports.text(), HasSubstr("I cannot fill Steel"));
+    EXPECT_TRUE(add("Bolt"));
+    EXPECT_THAT(reports.text(), HasSubstr("I cannot fill Bolt"));
     EXPECT_EQ(stack().count(), 1);
     stack().undo();
     EXPECT_THAT(names(), IsEmpty());
@@ -342,7 +264,7 @@ TEST_F(MessageProxyTest, DoesWhatIsRequestedThoughAListenerFails)
 
 TEST_F(MessageProxyTest, MakesObjectsUndoableThatAreAddedWithoutARequest)
 {
-    const ProjectObject* const object = m_project->add_object("Mat::MaterialObject", "Imported");
+    const ProjectObject* const object = m_project->add_object("vxtest::Part", "Imported");
     EXPECT_EQ(stack().count(), 1);
     EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"Imported\""));
     stack().undo();
@@ -353,20 +275,20 @@ TEST_F(MessageProxyTest, MakesObjectsUndoableThatAreAddedWithoutARequest)
 
 TEST_F(MessageProxyTest, WatchesProjectsThatWereMadeWithoutARequest)
 {
-    Obj::Project* const project = application().create_project("Mat::DocumentMaterial", "Direct");
+    Obj::Project* const project = application().create_project("vxtest::Assembly", "Direct");
     ASSERT_NE(project, nullptr);
-    project->add_object("Mat::MaterialObject", "Imported");
+    project->add_object("vxtest::Part", "Imported");
     EXPECT_EQ(stack().count(), 1);
 }
 
 TEST_F(MessageProxyTest, WatchesAProjectOnceThatWasAwayAndCameBack)
 {
     application().restore_project(application().take_project(*m_project));
-    m_project->add_object("Mat::MaterialObject", "a");
+    m_project->add_object("vxtest::Part", "a");
     EXPECT_EQ(stack().count(), 1);
-    EXPECT_TRUE(vxMsg::runCommand(22, 1, {"Materials"}));
+    EXPECT_TRUE(closeProject("Machine"));
     stack().undo();
-    m_project->add_object("Mat::MaterialObject", "b");
+    m_project->add_object("vxtest::Part", "b");
     EXPECT_EQ(stack().count(), 2) << "the closing can be redone no more";
     stack().undo();
     EXPECT_THAT(names(), ElementsAre("a"));
@@ -374,7 +296,7 @@ TEST_F(MessageProxyTest, WatchesAProjectOnceThatWasAwayAndCameBack)
 
 TEST_F(MessageProxyTest, EndsTheHistoryWhenAProjectIsClosedDirectly)
 {
-    material("Steel");
+    part("Bolt");
     EXPECT_TRUE(application().close_project(*m_project));
     EXPECT_EQ(stack().count(), 0);
     EXPECT_FALSE(stack().canUndo());
@@ -382,47 +304,46 @@ TEST_F(MessageProxyTest, EndsTheHistoryWhenAProjectIsClosedDirectly)
 
 TEST_F(MessageProxyTest, EndsTheHistoryWhenAnObjectIsDestroyedDirectly)
 {
-    material("Steel");
-    material("Air");
+    part("Bolt");
+    part("Nut");
     EXPECT_TRUE(m_project->remove_object(1));
     EXPECT_EQ(stack().count(), 0);
-    EXPECT_THAT(names(), ElementsAre("Air"));
+    EXPECT_THAT(names(), ElementsAre("Nut"));
 }
 
 TEST_F(MessageProxyTest, LetsObjectsOfAClosedProjectGoWithItsHistory)
 {
-    MaterialObject& steel = material("Steel");
-    MaterialObject& air = material("Air");
-    air.link_to(steel);
-    EXPECT_TRUE(remove("Steel"));
-    EXPECT_TRUE(vxMsg::runCommand(22, 1, {"Materials"}));
+    Part& bolt = part("Bolt");
+    Part& nut = part("Nut");
+    nut.link_to(bolt);
+    EXPECT_TRUE(remove("Bolt"));
+    EXPECT_TRUE(closeProject("Machine"));
     stack().clear(); // the deleted object first, then the project
     EXPECT_THAT(projects(), IsEmpty());
 }
 
 TEST_F(MessageProxyTest, LeavesTheStackWholeWhenAListenerAddsAnObjectDuringAnUndo)
 {
-    material("Steel");
+    part("Bolt");
     int calls = 0;
     m_project->objectRemoved.connect([&](ProjectObject&) {
         ++calls;
-        m_project->add_object("Mat::MaterialObject", "Substitute");
+        m_project->add_object("vxtest::Part", "Substitute");
     });
     stack().undo();
     EXPECT_EQ(calls, 1);
     EXPECT_THAT(names(), ElementsAre("Substitute"));
     EXPECT_EQ(stack().count(), 1);
     stack().redo();
-    EXPECT_THAT(names(), ElementsAre("Steel", "Substitute"));
+    EXPECT_THAT(names(), ElementsAre("Bolt", "Substitute"));
 }
 
 TEST_F(MessageProxyTest, RefusesRequestsOfListenersDuringAnUndo)
 {
-    material("Steel");
+    part("Bolt");
     std::vector<bool> answers;
     m_project->objectAdded.connect([&answers](ProjectObject&) {
-        answers = {add("a"), remove("Steel"), vxMsg::runCommand(22, 1, {"Materials"}),
-                   vxMsg::runCommand(1030, 1, {"Second"})};
+        answers = {add("a"), remove("Bolt"), closeProject("Machine"), makeProject("Second")};
     });
     stack().undo();
     const vxtest::Reports reports;
@@ -430,8 +351,8 @@ TEST_F(MessageProxyTest, RefusesRequestsOfListenersDuringAnUndo)
     EXPECT_THAT(answers, ElementsAre(false, false, false, false));
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_THAT(reports.text(), HasSubstr("Nothing can be requested while something is undone or redone"));
-    EXPECT_THAT(names(), ElementsAre("Steel"));
-    EXPECT_THAT(projects(), ElementsAre("Materials"));
+    EXPECT_THAT(names(), ElementsAre("Bolt"));
+    EXPECT_THAT(projects(), ElementsAre("Machine"));
     EXPECT_EQ(stack().count(), 1);
 }
 
@@ -450,7 +371,7 @@ private:
 TEST_F(MessageProxyTest, TakesStepsOfOthers)
 {
     std::vector<std::string> notes;
-    MessageProxy::instance().pushDone(std::make_unique<OtherCommand>(QStringLiteral("edit"), notes));
+    proxy().pushDone(std::make_unique<OtherCommand>(QStringLiteral("edit"), notes));
     EXPECT_EQ(stack().undoText(), QStringLiteral("edit"));
     stack().undo();
     EXPECT_THAT(notes, ElementsAre("redo edit", "undo edit"));
@@ -458,11 +379,10 @@ TEST_F(MessageProxyTest, TakesStepsOfOthers)
 
 TEST_F(MessageProxyTest, EndsTheHistoryWhenOthersPushAStepDuringAnUndo)
 {
-    material("Steel");
+    part("Bolt");
     std::vector<std::string> notes;
-    m_project->objectRemoved.connect([&notes](ProjectObject&) {
-        MessageProxy::instance().pushDone(std::make_unique<OtherCommand>(QStringLiteral("edit"), notes));
-    });
+    m_project->objectRemoved.connect(
+        [&notes](ProjectObject&) { proxy().pushDone(std::make_unique<OtherCommand>(QStringLiteral("edit"), notes)); });
     stack().undo();
     EXPECT_EQ(stack().count(), 0);
     EXPECT_THAT(notes, IsEmpty());
@@ -473,26 +393,26 @@ TEST_F(MessageProxyTest, EndsTheHistoryWhenOthersPushAStepDuringAnUndo)
 
 TEST_F(MessageProxyTest, UndoesAGroupInOneStep)
 {
-    material("Air");
+    part("Nut");
     {
         const MessageProxy::Group group(QStringLiteral("Three changes"));
-        material("Steel");
-        m_project->add_object("Mat::MaterialObject", "Imported");
-        EXPECT_TRUE(remove("Air"));
+        part("Bolt");
+        m_project->add_object("vxtest::Part", "Imported");
+        EXPECT_TRUE(remove("Nut"));
     }
     EXPECT_EQ(stack().count(), 2);
     EXPECT_EQ(stack().undoText(), QStringLiteral("Three changes"));
-    EXPECT_THAT(names(), ElementsAre("Steel", "Imported"));
+    EXPECT_THAT(names(), ElementsAre("Bolt", "Imported"));
     stack().undo();
-    EXPECT_THAT(names(), ElementsAre("Air"));
+    EXPECT_THAT(names(), ElementsAre("Nut"));
     stack().redo();
-    EXPECT_THAT(names(), ElementsAre("Steel", "Imported"));
+    EXPECT_THAT(names(), ElementsAre("Bolt", "Imported"));
 }
 
 TEST_F(MessageProxyTest, LeavesNoTraceOfAGroupInWhichNothingHappens)
 {
     const vxtest::Reports reports;
-    material("Air");
+    part("Nut");
     stack().undo();
     {
         const MessageProxy::Group group(QStringLiteral("Nothing"));
@@ -508,9 +428,9 @@ TEST_F(MessageProxyTest, NamesNestedGroupsByTheOutermost)
         const MessageProxy::Group outer(QStringLiteral("Outer"));
         {
             const MessageProxy::Group inner(QStringLiteral("Inner"));
-            material("a");
+            part("a");
         }
-        material("b");
+        part("b");
         const MessageProxy::Group second(QStringLiteral("Second"));
     }
     EXPECT_EQ(stack().count(), 1);
@@ -523,8 +443,8 @@ TEST_F(MessageProxyTest, NamesAGroupWithoutATextByItsFirstStep)
 {
     {
         const MessageProxy::Group group{QString()};
-        material("a");
-        material("b");
+        part("a");
+        part("b");
     }
     EXPECT_EQ(stack().count(), 1);
     EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"a\""));
@@ -532,31 +452,309 @@ TEST_F(MessageProxyTest, NamesAGroupWithoutATextByItsFirstStep)
 
 TEST_F(MessageProxyTest, EndsTheHistoryBehindAGroupInWhichAnObjectIsDestroyed)
 {
-    material("Air");
+    part("Nut");
     {
         const MessageProxy::Group group(QStringLiteral("Group"));
-        material("Steel");
+        part("Bolt");
         EXPECT_TRUE(m_project->remove_object(1));
     }
     EXPECT_EQ(stack().count(), 0);
-    EXPECT_THAT(names(), ElementsAre("Steel"));
-    material("Water");
+    EXPECT_THAT(names(), ElementsAre("Bolt"));
+    part("Washer");
     EXPECT_EQ(stack().count(), 1) << "and begins anew";
 }
 
 TEST_F(MessageProxyTest, UndoesWhatListenersAddBecauseOfARequestWithIt)
 {
     boost::signals2::scoped_connection connection = m_project->objectAdded.connect([this](ProjectObject& object) {
-        if (object.label.getValue() == "Steel" && m_project->get_object("Coating") == nullptr)
-            m_project->add_object("Mat::MaterialObject", "Coating");
+        if (object.label.getValue() == "Bolt" && m_project->get_object("Coating") == nullptr)
+            m_project->add_object("vxtest::Part", "Coating");
     });
-    material("Steel");
+    part("Bolt");
     EXPECT_EQ(stack().count(), 1);
     connection.disconnect();
     stack().undo();
     EXPECT_THAT(names(), IsEmpty());
     stack().redo();
-    EXPECT_THAT(names(), ElementsAre("Steel", "Coating"));
+    EXPECT_THAT(names(), ElementsAre("Bolt", "Coating"));
+}
+
+// --- Requests for objects of any class ---
+
+TEST_F(MessageProxyTest, AddsObjectsOfAnyRegisteredClass)
+{
+    EXPECT_TRUE(proxy().addObject("Machine", "Obj::ProjectObjectGroup", "Group"));
+    EXPECT_TRUE(proxy().addObject("Machine", "vxtest::Joint", "Hinge"));
+    EXPECT_THAT(names(), ElementsAre("Group", "Hinge"));
+    stack().undo();
+    stack().undo();
+    EXPECT_THAT(names(), IsEmpty());
+    const vxtest::Reports reports;
+    EXPECT_FALSE(proxy().addObject("Machine", "Nobody", "a"));
+    EXPECT_FALSE(proxy().addObject("Nowhere", "vxtest::Part", "a"));
+    EXPECT_FALSE(proxy().newProject("Nobody", "a"));
+    EXPECT_EQ(reports.errors(), 3);
+    EXPECT_EQ(stack().count(), 2);
+}
+
+TEST_F(MessageProxyTest, HasLinksReferencesAndMembersBackWhenADeletionIsUndone)
+{
+    auto* const group =
+        static_cast<Obj::ProjectObjectGroup*>(m_project->add_object("Obj::ProjectObjectGroup", "Group"));
+    Part& bolt = part("Bolt");
+    Joint& joint = m_project->addJoint();
+    group->add_member(bolt);
+    joint.link_to(bolt);
+    joint.first.setValue(&bolt);
+    Part::hooks().unlinksWhatLeaves = true;
+    EXPECT_TRUE(remove("Bolt"));
+    EXPECT_EQ(joint.first.getValue(), nullptr);
+    EXPECT_THAT(joint.get_needed_objects(), IsEmpty());
+    stack().undo();
+    EXPECT_EQ(joint.first.getValue(), &bolt);
+    EXPECT_THAT(vxtest::namesOf(joint.get_links()), ElementsAre("Bolt"));
+    EXPECT_EQ(bolt.get_parent_group(), group);
+    EXPECT_TRUE(remove("Group"));
+    EXPECT_EQ(bolt.get_parent_group(), nullptr);
+    stack().undo();
+    EXPECT_EQ(bolt.get_parent_group(), group);
+}
+
+// --- Properties ---
+
+TEST_F(MessageProxyTest, ChangesAPropertyInOneStep)
+{
+    Part& bolt = part("Bolt");
+    EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Width", "12"));
+    EXPECT_EQ(bolt.width.getValue(), 12);
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Width\""));
+    stack().undo();
+    EXPECT_EQ(bolt.width.getValue(), 7);
+    stack().redo();
+    EXPECT_EQ(bolt.width.getValue(), 12);
+}
+
+TEST_F(MessageProxyTest, ChangesPropertiesOfEveryTypeAndBack)
+{
+    part("Bolt");
+    Joint& joint = m_project->addJoint();
+    stack().clear();
+    const std::vector<std::pair<std::string, std::string>> edits{
+        {"First", "Bolt"},         {"Torque", "0.1"},       {"Locked", "false"}, {"Kind", "sliding"},
+        {"Color", "1, 0, 0.5, 0"}, {"Curve", "0, 1; 2, 3"}, {"Label", "钢"}};
+    std::vector<std::string> before;
+    for (const auto& [name, text] : edits) {
+        before.push_back(joint.get_property_by_name(name.c_str())->to_text());
+        EXPECT_TRUE(proxy().setProperty(PropertyPlace(joint), name, text)) << name;
+        EXPECT_EQ(joint.get_property_by_name(name.c_str())->to_text(), text);
+    }
+    EXPECT_EQ(stack().count(), 7);
+    stack().setIndex(0);
+    for (std::size_t i = 0; i < edits.size(); ++i)
+        EXPECT_EQ(joint.get_property_by_name(edits[i].first.c_str())->to_text(), before[i]) << edits[i].first;
+    stack().setIndex(7);
+    EXPECT_EQ(joint.first.getValue(), m_project->get_object("Bolt"));
+}
+
+TEST_F(MessageProxyTest, ChangesAPropertyOfAProject)
+{
+    EXPECT_TRUE(proxy().setProperty(PropertyPlace(*m_project), "ClassLabel", "Engine"));
+    EXPECT_EQ(m_project->classLabel.getValue(), "Engine");
+    stack().undo();
+    EXPECT_EQ(m_project->classLabel.getValue(), "");
+}
+
+TEST_F(MessageProxyTest, MakesNoStepOfTheValueThatAPropertyHas)
+{
+    Part& bolt = part("Bolt");
+    EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Width", "7"));
+    EXPECT_EQ(stack().count(), 1);
+}
+
+TEST_F(MessageProxyTest, RefusesPropertiesThatCannotBeSet)
+{
+    Part& bolt = part("Bolt");
+    const PropertyPlace place(bolt);
+    const vxtest::Reports reports;
+    EXPECT_FALSE(proxy().setProperty(place, "Depth", "1"));
+    EXPECT_FALSE(proxy().setProperty(place, "ID", "9"));
+    EXPECT_FALSE(proxy().setProperty(place, "Width", "wide %1"));
+    EXPECT_FALSE(proxy().setProperty(place, "Label", ""));
+    EXPECT_FALSE(proxy().setProperty(place, "Label", " \t"));
+    EXPECT_EQ(reports.errors(), 5);
+    EXPECT_THAT(reports.text(), HasSubstr("There is no property \"Depth\"; nothing was changed."));
+    EXPECT_THAT(reports.text(), HasSubstr("The property \"ID\" is read-only; nothing was changed."));
+    EXPECT_THAT(reports.text(), HasSubstr("The property \"Width\" cannot be \"wide %1\"; nothing was changed."));
+    EXPECT_THAT(reports.text(), HasSubstr("The label must not be empty; nothing was changed."));
+    EXPECT_EQ(bolt.label.getValue(), "Bolt");
+    EXPECT_EQ(stack().count(), 1);
+}
+
+TEST_F(MessageProxyTest, FindsTheOwnerOfAPropertyAgainWhateverIsDeletedAndBroughtBack)
+{
+    Part& bolt = part("Bolt");
+    EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Width", "12"));
+    EXPECT_TRUE(remove("Bolt"));
+    const PropertyPlace lost(*m_project->get_object(m_project->addPart("Nut").getObjectId()));
+    EXPECT_TRUE(closeProject("Machine"));
+    EXPECT_EQ(lost.find(), nullptr);
+    EXPECT_EQ(lost.findObject(), nullptr);
+    stack().setIndex(1);
+    EXPECT_EQ(bolt.width.getValue(), 7);
+    stack().redo();
+    EXPECT_EQ(bolt.width.getValue(), 12);
+}
+
+TEST_F(MessageProxyTest, FindsNodesByTheirFinder)
+{
+    Part& bolt = part("Bolt");
+    Part node;
+    const auto finder = [&node](Obj::Project&, ProjectObject* object) -> Obj::PropertyDS* {
+        return object != nullptr ? &node : nullptr;
+    };
+    EXPECT_EQ(PropertyPlace(*m_project, finder).find(), nullptr);
+    const PropertyPlace place(bolt, finder);
+    EXPECT_EQ(place.find(), &node);
+    EXPECT_EQ(place.findObject(), &bolt);
+    EXPECT_TRUE(proxy().setProperty(place, "Width", "3"));
+    EXPECT_EQ(node.width.getValue(), 3);
+    stack().undo();
+    EXPECT_EQ(node.width.getValue(), 7);
+    EXPECT_TRUE(remove("Bolt"));
+    EXPECT_EQ(place.find(), nullptr) << "a node goes with its object";
+}
+
+TEST_F(MessageProxyTest, RecordsAChangeThoughTheObjectFailsAtIt)
+{
+    Part& bolt = part("Bolt");
+    Part::hooks().action = [](ProjectObject&, const std::string& operation) {
+        if (operation == "changing")
+            throw std::runtime_error("no such width in the shop");
+    };
+    const vxtest::Reports reports;
+    EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Width", "12"));
+    Part::hooks().action = nullptr;
+    EXPECT_THAT(reports.text(), HasSubstr("\"Width\" was changed: no such width in the shop"));
+    EXPECT_EQ(bolt.width.getValue(), 12);
+    stack().undo();
+    EXPECT_EQ(bolt.width.getValue(), 7);
+}
+
+TEST_F(MessageProxyTest, SuppressesAnObjectInOneStep)
+{
+    Part& bolt = part("Bolt");
+    EXPECT_TRUE(proxy().setSuppressed(bolt, true));
+    EXPECT_TRUE(bolt.isSuppressed());
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Suppress \"Bolt\""));
+    EXPECT_TRUE(proxy().setSuppressed(bolt, true));
+    EXPECT_EQ(stack().count(), 2) << "it was so already";
+    stack().undo();
+    EXPECT_FALSE(bolt.isSuppressed());
+    stack().redo();
+    EXPECT_TRUE(bolt.isSuppressed());
+    EXPECT_TRUE(proxy().setSuppressed(bolt, false));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Unsuppress \"Bolt\""));
+    Part loose;
+    EXPECT_FALSE(proxy().setSuppressed(loose, true)) << "it is in no project";
+}
+
+// --- Handing over ---
+
+TEST_F(MessageProxyTest, HandsAProjectOverBehindTheExecutionOfWhatIsDue)
+{
+    part("Bolt");
+    Part::hooks().calls.clear();
+    EXPECT_TRUE(proxy().handOver("Machine"));
+    EXPECT_TRUE(proxy().handOver("Machine"));
+    EXPECT_THAT(Part::hooks().calls, ElementsAre("executed Bolt", "collected", "collected"));
+    EXPECT_EQ(stack().count(), 1) << "this is no step";
+}
+
+TEST_F(MessageProxyTest, ReportsAProjectThatCannotBeHandedOver)
+{
+    Assembly::collectingThrows() = true;
+    const vxtest::Reports reports;
+    EXPECT_FALSE(proxy().handOver("Machine"));
+    EXPECT_FALSE(proxy().handOver("Nowhere"));
+    EXPECT_EQ(reports.errors(), 2);
+    EXPECT_THAT(reports.text(), HasSubstr("\"Machine\" cannot be handed over: nothing can be collected"));
+}
+
+// --- Opening ---
+
+TEST_F(MessageProxyTest, OpensAProjectWithANewHistoryAndTellsItsObjects)
+{
+    part("Bolt");
+    Part::hooks().calls.clear();
+    Obj::Project* const opened = proxy().openProject("vxtest::Assembly", "Opened", [](Obj::Project& project) {
+        project.add_object("vxtest::Part", "a", 3);
+        project.add_object("vxtest::Part", "b", 5);
+    });
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->get_object_count(), 2U);
+    EXPECT_EQ(stack().count(), 0);
+    EXPECT_EQ(Part::hooks().calls.back(), "restored b");
+    EXPECT_EQ(*(Part::hooks().calls.end() - 2), "restored a");
+    EXPECT_TRUE(add("c", "Opened"));
+    EXPECT_EQ(stack().count(), 1) << "it is watched from now on";
+}
+
+TEST_F(MessageProxyTest, LeavesTheHistoryAndTheCurrentProjectWhenAProjectCannotBeFilled)
+{
+    makeProject("Last");
+    Application::instance().set_current_project(*m_project);
+    part("Bolt");
+    EXPECT_THROW(proxy().openProject("vxtest::Assembly", "Opened",
+                                     [](Obj::Project& project) {
+                                         project.add_object("vxtest::Part", "a");
+                                         throw std::runtime_error("the file is cut off");
+                                     }),
+                 std::runtime_error);
+    EXPECT_THAT(projects(), ElementsAre("Machine", "Last"));
+    EXPECT_EQ(Application::get_current_project(), m_project);
+    EXPECT_EQ(stack().count(), 2);
+    stack().undo();
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(MessageProxyTest, OpensAProjectThatCodeHasMade)
+{
+    Obj::Project* const opened =
+        proxy().openProject(std::make_unique<Obj::PlaceholderProject>("Fastening::Assembly", Json::Value()), "Kept",
+                            [](Obj::Project& project) {
+                                project.add_object(std::make_unique<Obj::PlaceholderObject>("Any", Json::Value()), "a");
+                            });
+    ASSERT_NE(opened, nullptr);
+    EXPECT_STREQ(opened->get_name(), "Kept");
+    EXPECT_EQ(opened->get_object_count(), 1U);
+    EXPECT_TRUE(remove("a", "Kept"));
+    stack().undo();
+    EXPECT_EQ(opened->get_object_count(), 1U);
+}
+
+TEST_F(MessageProxyTest, OpensNothingOfAClassThatIsNotRegistered)
+{
+    part("Bolt");
+    const vxtest::Reports reports;
+    EXPECT_EQ(proxy().openProject("Nobody", "Opened", [](Obj::Project&) { FAIL(); }), nullptr);
+    EXPECT_EQ(reports.errors(), 1);
+    EXPECT_EQ(stack().count(), 1);
+}
+
+TEST_F(MessageProxyTest, CanStillUndoWhatIsAddedElsewhereWhileAProjectIsOpened)
+{
+    part("Bolt");
+    const boost::signals2::scoped_connection listening =
+        application().projectAdded.connect([this](Obj::Project& opened) {
+            m_project->addPart("Elsewhere");
+            opened.add_object("vxtest::Part", "Inside");
+        });
+    Obj::Project* const opened = proxy().openProject("vxtest::Assembly", "Opened", [](Obj::Project&) {});
+    EXPECT_EQ(stack().count(), 1);
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"Elsewhere\""));
+    stack().undo();
+    EXPECT_THAT(names(), ElementsAre("Bolt")) << "the history before has ended";
+    EXPECT_EQ(opened->get_object_count(), 1U) << "what came with the project stays";
 }
 
 } // namespace

@@ -1165,7 +1165,7 @@ TEST_F(Commands, ExportOpensNoDialogWithTwoMaterialProjects)
 class LookalikeProject final : public Obj::Project
 {
 public:
-    LookalikeProject() { documentTag = Kelta::eDocumentTag::Material; }
+    LookalikeProject() { documentTag = Mat::materialProjectTag; }
     static void init()
     {
         initSubclass(type, "Test::LookalikeProject", "Obj::Project",

@@ -44,7 +44,7 @@ protected:
 
 TEST_F(DocumentMaterialTest, IsAMaterialProjectWithAFilledDatabase)
 {
-    EXPECT_EQ(project->get_document_tag(), Kelta::eDocumentTag::Material);
+    EXPECT_EQ(project->get_document_tag(), Mat::materialProjectTag);
     EXPECT_EQ(static_cast<int>(project->get_document_tag()), 2);
     EXPECT_THAT(project->getMatMgr().materials, SizeIs(26));
     EXPECT_THAT(project->getMatMgr().propertyCatalogue, SizeIs(36));
@@ -230,7 +230,7 @@ TEST_F(DocumentMaterialTest, TakesNothingFromARecord)
         EXPECT_EQ(vxtest::Identity(empty), emptyBefore);
         EXPECT_EQ(project->physicsType.getValue(), "Structural");
         EXPECT_EQ(project->classLabel.getValue(), "Material Project");
-        EXPECT_EQ(project->get_document_tag(), Kelta::eDocumentTag::Material);
+        EXPECT_EQ(project->get_document_tag(), Mat::materialProjectTag);
     }
 }
 
@@ -255,14 +255,16 @@ TEST_F(DocumentMaterialTest, DescribesItsPropertiesBeforeThoseOfEveryProject)
 TEST_F(DocumentMaterialTest, HasNoPartInTheXmlFile)
 {
     addSteel("Steel");
-    const QString file = folder.filePath("projects.xml");
-    ASSERT_TRUE(Obj::Application::instance().save_projects(file));
-    EXPECT_THAT(vxtest::readText(file.toStdString()), testing::Not(testing::HasSubstr("<object")));
+    const QString file = folder.filePath("project.xml");
+    Kelta::FileWriter writer(file);
+    writer.xml().writeStartElement("project");
+    project->Save(writer);
+    ASSERT_TRUE(writer.commit());
+    EXPECT_THAT(vxtest::readText(file.toStdString()), testing::HasSubstr("<project/>"));
 
     Kelta::XMLFileReader reader(file);
-    ASSERT_TRUE(reader.nextElement("projects"));
+    ASSERT_TRUE(reader.xml().readNextStartElement());
     project->Load(reader);
-    EXPECT_TRUE(reader.nextElement("project"));
     EXPECT_EQ(project->get_object_count(), 1U);
 }
 

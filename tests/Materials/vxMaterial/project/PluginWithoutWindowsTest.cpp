@@ -12,7 +12,7 @@ TEST(PluginWithoutWindows, BringsTheProjectClassesAndNothingForTheUserInterface)
 {
     Obj::initObj();
     Kelta::PluginLoader loader({QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath()});
-    ASSERT_TRUE(loader.load("vxMaterial", {"initMat", "initMatGui"})) << loader.errorText().toStdString();
+    ASSERT_TRUE(loader.load("vxMaterial")) << loader.errorText().toStdString();
 
     EXPECT_TRUE(Kelta::TypeInfo::find("Mat::MaterialObject").names_a_type());
     for (const char* name : {"MatGui::SimModule", "MatGui::ViewFeederMaterialObject",
@@ -26,7 +26,7 @@ TEST(PluginWithoutWindows, MakesProjectsAndMaterials)
 {
     Obj::initObj();
     Kelta::PluginLoader loader({QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath()});
-    ASSERT_TRUE(loader.load("vxMaterial", {"initMat"})) << loader.errorText().toStdString();
+    ASSERT_TRUE(loader.load("vxMaterial")) << loader.errorText().toStdString();
     Obj::Project* const project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials");
     ASSERT_NE(project, nullptr);
     EXPECT_NE(project->add_object("Mat::MaterialObject", "Material"), nullptr);

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Obj/ObjExport.h"
+#include "Obj/Project.h"
+#include "Obj/ProjectObject.h"
+
+#include <json/value.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Obj {
+
+/// What a placeholder keeps of an object or project of a file whose module is missing: the name of its class, and its
+/// record as it is in the file, to be written back unchanged.
+class OBJ_EXPORT Placeholder
+{
+public:
+    Placeholder(std::string className, Json::Value record);
+    ~Placeholder();
+
+    const std::string& get_original_class() const { return m_className; }
+    const Json::Value& get_record() const { return m_record; }
+
+protected:
+    /// A property of the record, shown but not edited.
+    struct ShownProperty
+    {
+        std::string name;
+        PropertyString value;
+    };
+    /// Those of the member "properties" of the record, an object of names and values.
+    const std::vector<std::unique_ptr<ShownProperty>>& shownProperties() const { return m_shown; }
+
+private:
+    std::string m_className;
+    Json::Value m_record;
+    std::vector<std::unique_ptr<ShownProperty>> m_shown;
+};
+
+/// An object of a class that is not registered. It can be deleted, copied, pasted and saved, but its properties are only
+/// read, and it is never executed or checked.
+///
+///     project.add_object(std::make_unique<Obj::PlaceholderObject>("Fastening::Bolt", record), "Bolt", 7);
+class OBJ_EXPORT PlaceholderObject : public ProjectObject, public Placeholder
+{
+    OBJ_ABSTRACT_CLASS;
+
+public:
+    PlaceholderObject(std::string className, Json::Value record);
+    ~PlaceholderObject() override;
+
+    std::size_t get_memory_usage() const override;
+    /// Describes the object under its original class.
+    void save_jsonDB(Json::Value& record) override;
+
+private:
+    PropertyCoreData m_ownData; ///< describes the properties of the record
+};
+
+/// A project of a class that is not registered. Its objects are placeholders too.
+class OBJ_EXPORT PlaceholderProject : public Project, public Placeholder
+{
+    OBJ_ABSTRACT_CLASS;
+
+public:
+    PlaceholderProject(std::string className, Json::Value record);
+    ~PlaceholderProject() override;
+
+    std::size_t get_memory_usage() const override;
+
+private:
+    PropertyCoreData m_ownData; ///< describes the properties of the record
+};
+
+} // namespace Obj

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Obj/Property.h"
+
+namespace Obj {
+
+class Project;
+class ProjectObject;
+
+/// A reference to an object of the owner's project, or to none. The owner is an object of the project or the project
+/// itself.
+///
+/// The reference knows the object by its id. It is none while the object is deleted, and is back if that is undone; the
+/// owner is told of both by on_changed. An object that owns the property needs the object that it refers to, as after
+/// ProjectObject::link_to. As text the internal name of the object, empty for none; its id in JSON, null for none.
+class OBJ_EXPORT PropertyReference : public Property
+{
+public:
+    PropertyReference() = default;
+
+    /// Null for none.
+    ProjectObject* getValue() const;
+    /// Refers to `object`; null for none. False, and nothing changes, if the object is not in the owner's project.
+    bool setValue(ProjectObject* object);
+
+    /// The id that is kept, also while the object is deleted; 0 for none.
+    std::uint32_t get_id() const { return m_objectId; }
+
+    std::string to_text() const override;
+    bool from_text(std::string_view text) override;
+    Json::Value to_json() const override;
+    bool from_json(const Json::Value& json) override;
+
+private:
+    friend class ProjectObject;
+    const Project* findProject() const;
+
+    std::uint32_t m_objectId = 0;
+};
+
+} // namespace Obj

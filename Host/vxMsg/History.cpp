@@ -1,0 +1,149 @@
+#include "History.h"
+
+#include "Kelta/Exceptions.h"
+#include "Obj/Removal.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace vxMsg {
+
+namespace {
+
+using Commands = std::vector<std::unique_ptr<QUndoCommand>>;
+
+int undoingDepth = 0;
+
+/// While one lives, a step is being undone or redone.
+class Undoing
+{
+public:
+    Undoing() { ++undoingDepth; }
+    Undoing(const Undoing&) = delete;
+    Undoing& operator=(const Undoing&) = delete;
+    ~Undoing() { --undoingDepth; }
+};
+
+/// Commands that the user undoes and redoes together.
+class Step final : public QUndoCommand
+{
+public:
+    Step(const QString& text, Commands commands) : QUndoCommand(text), m_commands(std::move(commands)) {}
+
+    void undo() override
+    {
+        forEach(m_commands.rbegin(), m_commands.rend(), [](QUndoCommand& command) { command.undo(); });
+    }
+
+    void redo() override
+    {
+        // The stack redoes what is pushed, which has been carried out already.
+        if (std::exchange(m_isPushed, true))
+            forEach(m_commands.begin(), m_commands.end(), [](QUndoCommand& command) { command.redo(); });
+    }
+
+private:
+    template <typename Iterator, typename Action>
+    static void forEach(Iterator command, Iterator end, const Action& action)
+    {
+        // A listener may call the stack while it is at work.
+        if (undoingDepth > 0)
+            return;
+        const Undoing undoing;
+        const Obj::RemovalGuard guard;
+        // The stack expects that nothing is thrown.
+        for (; command != end; ++command)
+            Kelta::guarded(QCoreApplication::translate("vxMsg", "An undo or redo failed"), [&] { action(**command); });
+    }
+
+    Commands m_commands;
+    bool m_isPushed = false;
+};
+
+} // namespace
+
+History::History()
+{
+    QObject::connect(&m_stack, &QUndoStack::indexChanged, [this](int index) { indexChanged(index); });
+}
+
+History::~History()
+{
+    m_stack.disconnect();
+}
+
+bool History::isUndoing()
+{
+    return undoingDepth > 0;
+}
+
+void History::beginGroup(const QString& text)
+{
+    if (m_groupDepth++ == 0)
+        m_text = text;
+}
+
+void History::endGroup()
+{
+    if (--m_groupDepth > 0)
+        return;
+    finish();
+    m_text.clear();
+}
+
+void History::record(std::unique_ptr<QUndoCommand> command)
+{
+    record(std::move(command), place());
+}
+
+void History::record(std::unique_ptr<QUndoCommand> command, Place place)
+{
+    if (isUndoing())
+        return end();
+    // By agreement the first redo of a command that has been carried out does nothing.
+    command->redo();
+    const std::size_t index = std::min(place.index, m_commands.size());
+    m_commands.insert(m_commands.begin() + static_cast<std::ptrdiff_t>(index), std::move(command));
+    if (m_ends && place.endCount != m_endCount)
+        ++m_endIndex;
+    finish();
+}
+
+void History::end(Place place)
+{
+    m_endIndex = m_ends ? std::max(m_endIndex, place.index) : place.index;
+    m_ends = true;
+    ++m_endCount;
+    finish();
+}
+
+void History::indexChanged(int index)
+{
+    if (!isUndoing()) {
+        m_index = index;
+        finish();
+    } else if (index != m_index) {
+        // A listener has moved the stack that is at work. Steps ignore that, and the stack must too.
+        m_stack.setIndex(m_index);
+    }
+}
+
+/// Brings the stack up to date, unless a group or a step is under way.
+void History::finish()
+{
+    if (m_groupDepth > 0 || isUndoing())
+        return;
+    Commands commands = std::exchange(m_commands, {});
+    if (std::exchange(m_ends, false)) {
+        commands.erase(commands.begin(), commands.begin() + static_cast<std::ptrdiff_t>(m_endIndex));
+        m_stack.clear();
+    }
+    if (commands.empty())
+        return;
+    const QString text = m_text.isEmpty() ? commands.front()->text() : m_text;
+    m_stack.push(new Step(text, std::move(commands))); // takes ownership
+}
+
+} // namespace vxMsg

@@ -1,4 +1,4 @@
-#include "StandardCommands.h"
+#include "commands/StandardCommands.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/EditCommands.h"

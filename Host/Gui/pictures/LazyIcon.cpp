@@ -1,4 +1,4 @@
-#include "LazyIcon.h"
+#include "pictures/LazyIcon.h"
 
 #include <QApplication>
 #include <QIconEngine>

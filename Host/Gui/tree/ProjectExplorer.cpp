@@ -1,6 +1,6 @@
 #include "Gui/ProjectExplorer.h"
 
-#include "MenuBuilder.h"
+#include "workbench/MenuBuilder.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"

@@ -1,6 +1,6 @@
 #include "Gui/PictureFactory.h"
 
-#include "LazyIcon.h"
+#include "pictures/LazyIcon.h"
 
 #include "Kelta/MessageLog.h"
 

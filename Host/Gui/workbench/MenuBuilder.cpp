@@ -1,4 +1,4 @@
-#include "MenuBuilder.h"
+#include "workbench/MenuBuilder.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"

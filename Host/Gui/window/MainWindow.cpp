@@ -1,7 +1,7 @@
 #include "Gui/MainWindow.h"
 
-#include "MenuBuilder.h"
-#include "WelcomePage.h"
+#include "workbench/MenuBuilder.h"
+#include "window/WelcomePage.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"

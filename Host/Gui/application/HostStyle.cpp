@@ -1,6 +1,6 @@
-#include "HostStyle.h"
+#include "application/HostStyle.h"
 
-#include "LazyIcon.h"
+#include "pictures/LazyIcon.h"
 
 #include <QPointer>
 

@@ -1,7 +1,7 @@
 #include "Gui/GuiApplication.h"
 
-#include "HostStyle.h"
-#include "StandardCommands.h"
+#include "application/HostStyle.h"
+#include "commands/StandardCommands.h"
 
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"

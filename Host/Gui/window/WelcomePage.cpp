@@ -1,4 +1,4 @@
-#include "WelcomePage.h"
+#include "window/WelcomePage.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/TreeSelectionSingleton.h"

@@ -18,11 +18,13 @@ ProjectObjectGroup::~ProjectObjectGroup() = default;
 void ProjectObjectGroup::add_member(ProjectObject& object)
 {
     link_to(object);
+    notifyChange();
 }
 
 void ProjectObjectGroup::remove_member(ProjectObject& object)
 {
     unlink_from(object);
+    notifyChange();
 }
 
 } // namespace Obj

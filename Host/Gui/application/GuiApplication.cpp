@@ -1,8 +1,6 @@
 #include "Gui/GuiApplication.h"
 
-#include "application/HostStyle.h"
-#include "commands/StandardCommands.h"
-
+#include "Gui/Contributions.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/StdSimModule.h"
@@ -10,6 +8,8 @@
 #include "Gui/ViewFeeder.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
+#include "application/HostStyle.h"
+#include "commands/StandardCommands.h"
 #include "vxMsg/MessageProxy.h"
 
 namespace Gui {
@@ -27,14 +27,15 @@ void initGui()
     ViewFeederProjectObject::init();
 }
 
-GuiApplication::GuiApplication(int& argc, char** argv) : QApplication(argc, argv)
+GuiApplication::GuiApplication(int& argc, char** argv)
+    : QApplication(argc, argv), m_contributions(std::make_unique<Contributions>())
 {
     Instance = this;
     setStyle(new HostStyle);
     initGui();
-    // Made now, so that it hears of all that happens to projects.
+    // Made now, so that it is told of everything that happens to projects.
     vxMsg::MessageProxy::instance();
-    addStandardCommands(m_commands);
+    addStandardCommands(m_commands, TreeSelectionSingleton::instance());
     Obj::Application& application = Obj::Application::instance();
     for (Obj::Project* const project : Obj::Application::get_projects())
         addProject(*project);
@@ -88,7 +89,7 @@ void GuiApplication::removeProject(Obj::Project& project)
     selection.forget(project);
     for (const Obj::ProjectObject* const object : project.get_objects())
         selection.forget(*object);
-    // Taken out first: what goes with it must not find a project that is half gone.
+    // Taken out first: what is destroyed with it must not find a project that is partly destroyed.
     const auto found = m_projects.find(&project);
     if (found == m_projects.end())
         return;

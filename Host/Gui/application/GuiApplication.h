@@ -17,20 +17,21 @@ class ProjectObject;
 namespace Gui {
 
 class BaseView;
+class Contributions;
 class GuiProject;
 class ViewFeederProjectObject;
 
-/// Registers the classes of this library, and those of the libraries below it. Again changes nothing.
+/// Registers the classes of this library, and those of the libraries below it. Safe to call more than once.
 GUI_EXPORT void initGui();
 
-/// The program with its windows. Nothing that a window throws ends it: what reaches the event loop is reported to the
-/// message log.
+/// The program with its windows. No exception that a window throws ends it: one that reaches the event loop is reported
+/// to the message log.
 class GUI_EXPORT GuiApplication : public QApplication
 {
     Q_OBJECT
 
 public:
-    /// As QApplication: `argc` and `argv` must live as long as the application. Has the commands of the host.
+    /// As for QApplication, `argc` and `argv` must live as long as the application. Adds the commands of the host.
     GuiApplication(int& argc, char** argv);
     ~GuiApplication() override;
 
@@ -38,14 +39,16 @@ public:
     static GuiApplication* Instance;
 
     CommandController& get_command_manager() { return m_commands; }
+    /// What modules add to the window.
+    Contributions& contributions() { return *m_contributions; }
 
-    /// The side that the user sees of a project, and of the current one; null when it is not open.
+    /// The GUI side of a project, and of the current one; null if it is not open.
     GuiProject* get_project(const Obj::Project* project) const;
     GuiProject* get_current_project() const;
-    /// The tree node of an object; null when its project is not open.
+    /// The tree node of an object; null if its project is not open.
     ViewFeederProjectObject* get_view_feeder(Obj::ProjectObject* object) const;
 
-    /// A view is about to go; nothing refers to it any more.
+    /// Removes all references to a view, which is about to be destroyed.
     void disconnect_view(BaseView* view);
 
     bool notify(QObject* receiver, QEvent* event) override;
@@ -55,6 +58,7 @@ private:
     void removeProject(Obj::Project& project);
 
     CommandController m_commands;
+    std::unique_ptr<Contributions> m_contributions;
     std::map<const Obj::Project*, std::unique_ptr<GuiProject>> m_projects;
     boost::signals2::scoped_connection m_projectAdded;
     boost::signals2::scoped_connection m_projectRemoved;

@@ -35,6 +35,15 @@ void CommandBase::on_language_changed()
     m_action->setWhatsThis(translated(whatsThis));
 }
 
+void CommandBase::updateAction()
+{
+    if (m_action == nullptr)
+        return;
+    m_action->setEnabled(is_applicable());
+    m_action->setCheckable(static_cast<bool>(isChecked));
+    m_action->setChecked(isChecked && isChecked());
+}
+
 const char* CommandBase::get_class_name() const
 {
     return "CommandBase";

@@ -8,15 +8,16 @@
 #include <QPointer>
 #include <QString>
 
+#include <functional>
 #include <string>
 
 namespace Gui {
 
-/// Flags of commands, added up.
+/// Flags of commands; a command may have several.
 struct CommandType
 {
     static constexpr int None = 0;
-    /// Acts on what is selected in the project tree; its shortcut is heard there alone.
+    /// The command acts on what is selected in the project tree. Its shortcut works only while the tree has the keyboard.
     static constexpr int OnTree = 8;
 };
 
@@ -32,7 +33,7 @@ public:
 
     /// Makes the action that menus and toolbars share. The parent owns it.
     virtual QAction* new_action(QObject* parent);
-    /// Puts the texts of the action into the language of the user.
+    /// Sets the texts of the action in the language of the user.
     virtual void on_language_changed();
     virtual const char* get_class_name() const;
     virtual QString get_menu_info() const;    ///< translated menu text
@@ -40,13 +41,15 @@ public:
     virtual QString get_statustip() const;    ///< translated status tip
     virtual const char* get_pixmap() const;   ///< name for the picture factory; empty for none
     virtual QKeySequence get_shortcut() const;
-    /// Does what the command is for; `index` is the entry of commands with several.
+    /// Carries the command out. `index` is the chosen entry of a command that has several.
     virtual void activated(int index) = 0;
-    /// Whether it can be asked for now.
+    /// Returns whether the command can be run now.
     virtual bool is_applicable();
 
-    /// The action; null before new_action, and after its parent is gone.
+    /// The action; null before new_action, and after its parent was destroyed.
     QAction* action() const { return m_action; }
+    /// Enables the action if the command is applicable now, and sets its check mark. Does nothing without an action.
+    void updateAction();
     const char* getGroup() const { return group; }
     const char* getModule() const { return module; }
     int getTypeFlags() const { return typeFlags; }
@@ -63,6 +66,8 @@ protected:
     const char* group = "Standard";
     QKeySequence shortcut;
     int typeFlags = CommandType::None;
+    /// Whether the entry of the command has a check mark now. An entry without this function never has one.
+    std::function<bool()> isChecked;
 
 private:
     QPointer<QAction> m_action;
@@ -78,11 +83,11 @@ public:
     const std::string& getName() const { return m_name; }
     QAction* new_action(QObject* parent) override;
 
-    /// Runs the command if it is applicable. All that it requests is undone in one step. The boundary of what commands
-    /// do: what they throw is reported to the message log. Answers whether it ran to its end.
+    /// Runs the command if it is applicable. All that it requests is undone in one step. Nothing is thrown: an exception
+    /// is reported to the message log. Returns whether the command ran to its end.
     bool invoke(int index = 0);
 
-    /// A name that no object of the current project has or had; empty without a project.
+    /// Returns a name that no object of the current project has or had; an empty text without a project.
     static std::string get_unique_object_name(const char* stem);
     static QKeySequence get_shortcut_from_keys(QKeySequence::StandardKey key);
 

@@ -2,8 +2,6 @@
 
 #include "Kelta/MessageLog.h"
 
-#include <QAction>
-
 namespace Gui {
 
 CommandController::CommandController() = default;
@@ -38,8 +36,7 @@ bool CommandController::run_command(std::string_view name)
 void CommandController::update_actions()
 {
     for (Command* const command : m_order)
-        if (QAction* const action = command->action())
-            action->setEnabled(command->is_applicable());
+        command->updateAction();
 }
 
 void CommandController::on_language_changed()

@@ -11,7 +11,7 @@
 
 namespace Gui {
 
-/// All commands of the program, host's and modules', by their names. It owns them.
+/// All commands of the program, those of the host and of modules, by their names. The controller owns them.
 class GUI_EXPORT CommandController
 {
 public:
@@ -20,18 +20,21 @@ public:
     CommandController& operator=(const CommandController&) = delete;
     ~CommandController();
 
-    /// Takes ownership of `command`; null is ignored. A command whose name is taken is destroyed: the first one stays.
+    /// Takes ownership of `command`; null is ignored. If another command has the name, that one stays and `command` is
+    /// destroyed.
     void new_command(Command* command);
 
-    /// Null when there is none; the controller keeps what it answers.
+    /// Returns the command with this name, which the controller owns; null if there is none.
     Command* find_command(std::string_view name) const;
-    /// Runs a command as Command::invoke does; false also when there is none of this name, which is reported.
+    /// Runs a command as Command::invoke does. If there is no command with this name, reports that to the message log
+    /// and returns false.
     bool run_command(std::string_view name);
-    /// In the order in which they came.
+    /// Returns all commands in the order of their registration.
     const std::vector<Command*>& get_commands() const { return m_order; }
 
-    /// Enables the actions of the commands that are applicable now, and disables the others.
+    /// Updates the actions of all commands: enables those that are applicable now, and sets the check marks.
     void update_actions();
+    /// Sets the texts of all actions in the language of the user.
     void on_language_changed();
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -8,9 +10,19 @@
 
 namespace Gui {
 
-/// A tree of command names, from which menus or toolbars are built. An item without children stands for the command of
-/// its text, or, as "Separator", for a line between commands; one with children is a menu or a toolbar of that text.
+/// Whether a line separates a section of a menu or bar from the commands before it.
+enum class SectionLine
+{
+    Shown,
+    Hidden,
+};
+
+/// A tree of command names, from which menus or toolbars are built. An item without children names a command, or, as
+/// "Separator", a line between commands. An item with children is a menu or a toolbar with the item's text as its title.
 /// An item owns its children.
+///
+/// The children of a menu or toolbar can be divided into named sections, so that modules can add commands at the end of
+/// one. The items of a section are those between its beginning and the next section or separator.
 template <typename Item>
 class CommandTree
 {
@@ -24,11 +36,14 @@ public:
     void set_command(std::string text) { m_text = std::move(text); }
     const std::string& command() const { return m_text; }
     bool is_separator() const { return m_text == separator; }
+    /// Whether the item names no command but begins a section.
+    bool isSection() const { return !m_section.empty(); }
+    const std::string& section() const { return m_section; }
 
     bool has_items() const { return !m_items.empty(); }
     const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
 
-    /// The item of this text among this one and all below it; null when there is none.
+    /// Returns the item with this text among this item and all items below it; null if there is none.
     // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
     Item* look_for_item(std::string_view text)
     {
@@ -40,8 +55,8 @@ public:
         return nullptr;
     }
 
-    /// Inserts `item` in front of the child `before`, at the end when that is null or no child. Takes ownership of
-    /// `item`; null is ignored.
+    /// Inserts `item` in front of the child `before`, or at the end if `before` is null or not a child. Takes ownership
+    /// of `item`; null is ignored.
     void insert_item(const Item* before, Item* item)
     {
         std::unique_ptr<Item> owned(item);
@@ -63,14 +78,46 @@ public:
     /// Adds a child for the command `text`, or a "Separator".
     CommandTree& operator<<(const char* text)
     {
-        auto item = std::make_unique<Item>();
-        item->set_command(text);
-        m_items.push_back(std::move(item));
+        m_items.push_back(makeItem(text));
         return *this;
     }
 
+    /// Begins a section at the end: what is added next belongs to it.
+    void beginSection(std::string name, SectionLine line)
+    {
+        std::unique_ptr<Item> item = makeItem(line == SectionLine::Shown ? separator : "");
+        item->m_section = std::move(name);
+        m_items.push_back(std::move(item));
+    }
+
+    /// Adds a child at the end of a section. A section that does not exist is begun at the end, behind a line. Takes
+    /// ownership of `item`; null is ignored.
+    void addToSection(std::string_view name, Item* item)
+    {
+        std::unique_ptr<Item> owned(item);
+        if (owned == nullptr)
+            return;
+        auto place = std::find_if(m_items.begin(), m_items.end(),
+                                  [name](const auto& child) { return child->isSection() && child->section() == name; });
+        if (place == m_items.end()) {
+            beginSection(std::string(name), SectionLine::Shown);
+            place = std::prev(m_items.end());
+        }
+        place = std::find_if(std::next(place), m_items.end(),
+                             [](const auto& child) { return child->isSection() || child->is_separator(); });
+        m_items.insert(place, std::move(owned));
+    }
+
 private:
+    static std::unique_ptr<Item> makeItem(const char* text)
+    {
+        auto item = std::make_unique<Item>();
+        item->set_command(text);
+        return item;
+    }
+
     std::string m_text;
+    std::string m_section;
     std::vector<std::unique_ptr<Item>> m_items;
 };
 
@@ -78,7 +125,7 @@ private:
 class MenuItem final : public CommandTree<MenuItem>
 {};
 
-/// A set of toolbars, a toolbar, or an entry of one.
+/// A set of toolbars, a toolbar, or an entry of a toolbar.
 class ToolBarGadget final : public CommandTree<ToolBarGadget>
 {};
 

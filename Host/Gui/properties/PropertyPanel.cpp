@@ -66,7 +66,8 @@ QColor swatchOf(const Obj::Property& property)
 
 } // namespace
 
-PropertyPanel::PropertyPanel(QWidget* parent) : QTreeWidget(parent)
+PropertyPanel::PropertyPanel(GuiApplication& application, TreeSelectionSingleton& selection, QWidget* parent)
+    : QTreeWidget(parent), m_application(application), m_selection(selection)
 {
     setObjectName(QStringLiteral("propertyPanel"));
     setColumnCount(2);

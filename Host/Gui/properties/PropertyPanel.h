@@ -14,6 +14,9 @@ class PropertyDS;
 
 namespace Gui {
 
+class GuiApplication;
+class TreeSelectionSingleton;
+
 /// The properties of what is selected in the project tree, by group: those of the project or object and those of its
 /// node. Editable ones are edited in place, undoably. With several selected it says how many.
 class GUI_EXPORT PropertyPanel : public QTreeWidget
@@ -21,7 +24,7 @@ class GUI_EXPORT PropertyPanel : public QTreeWidget
     Q_OBJECT
 
 public:
-    explicit PropertyPanel(QWidget* parent = nullptr);
+    PropertyPanel(GuiApplication& application, TreeSelectionSingleton& selection, QWidget* parent = nullptr);
     ~PropertyPanel() override;
 
     /// Shows at once what is selected now.
@@ -38,6 +41,8 @@ private:
     Obj::PropertyDS* ownerOf(const QTreeWidgetItem* item) const;
     void watch();
 
+    GuiApplication& m_application;
+    TreeSelectionSingleton& m_selection;
     QTimer m_refresh;
     bool m_filling = false;
     std::vector<boost::signals2::scoped_connection> m_connections;

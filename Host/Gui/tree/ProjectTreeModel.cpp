@@ -3,66 +3,63 @@
 #include "Gui/EditCommands.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
-#include "Gui/PictureFactory.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "Obj/ProjectObjectGroup.h"
+#include "tree/NodeIcons.h"
+#include "tree/TreeShape.h"
 
 #include <QBrush>
 #include <QFont>
 #include <QGuiApplication>
-#include <QPainter>
 #include <QPalette>
 
 #include <algorithm>
-#include <utility>
 
 namespace Gui {
 
 namespace {
 
-constexpr quintptr projectLevel = 0;
-constexpr int iconSize = 32;
+using Key = quintptr;
+static_assert(sizeof(Key) == 2 * sizeof(std::uint32_t), "the number of a row must hold two ids");
 
-/// A block of neighbouring rows, [first, last].
-struct Block
-{
-    int first;
-    int last;
-};
+constexpr Key root = 0;
 
-/// The rows of `ids` that are not among `others`; both in order.
-std::vector<Block> blocksMissingIn(const std::vector<std::uint32_t>& ids, const std::vector<std::uint32_t>& others)
+constexpr Key keyOf(std::uint32_t projectId, std::uint32_t objectId)
 {
-    std::vector<Block> blocks;
-    auto other = others.begin();
-    for (int row = 0; row < static_cast<int>(ids.size()); ++row) {
-        const std::uint32_t id = ids[static_cast<std::size_t>(row)];
-        other = std::lower_bound(other, others.end(), id);
-        if (other != others.end() && *other == id)
-            continue;
-        if (!blocks.empty() && blocks.back().last == row - 1)
-            blocks.back().last = row;
-        else
-            blocks.push_back({row, row});
-    }
-    return blocks;
+    return (Key{projectId} << 32U) | objectId;
 }
 
-/// A picture with a dot in its corner that tells the state.
-QIcon makeIcon(const QString& pixmapName, const QColor& dot)
+constexpr std::uint32_t projectIdOf(Key key)
 {
-    // A node without a picture is no mistake.
-    if (pixmapName.isEmpty())
-        return {};
-    QPixmap pixmap = PictureFactory::get_pixmap(pixmapName, iconSize);
-    if (dot.isValid()) {
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::white);
-        painter.setBrush(dot);
-        painter.drawEllipse(QRectF(iconSize * 0.58, iconSize * 0.58, iconSize * 0.38, iconSize * 0.38));
-    }
-    return QIcon(pixmap);
+    return static_cast<std::uint32_t>(key >> 32U);
+}
+
+constexpr std::uint32_t objectIdOf(Key key)
+{
+    return static_cast<std::uint32_t>(key);
+}
+
+/// The id under which the parent of a node lists it.
+constexpr std::uint32_t idInParent(Key key)
+{
+    return objectIdOf(key) != 0 ? objectIdOf(key) : projectIdOf(key);
+}
+
+/// The node that `parent` lists under `id`.
+constexpr Key childOf(Key parent, std::uint32_t id)
+{
+    return parent == root ? keyOf(id, 0) : keyOf(projectIdOf(parent), id);
+}
+
+Key keyOf(const QModelIndex& index)
+{
+    return index.isValid() ? index.internalId() : root;
+}
+
+Obj::Project* findProject(Key key)
+{
+    return key != root ? Obj::Application::instance().get_project(projectIdOf(key)) : nullptr;
 }
 
 QColor dotOf(const Obj::ProjectObject& object)
@@ -81,17 +78,36 @@ QString toolTipOf(const Obj::ProjectObject& object)
     return QString::fromStdString(object.label.getValue()) + QLatin1Char('\n') + state + suppressed;
 }
 
+bool isGroup(const Obj::ProjectObject& object)
+{
+    return object.is_inherited_from(Obj::ProjectObjectGroup::getClassTypeId());
+}
+
+QVariant fontOf(const Obj::ProjectObject& object)
+{
+    QFont font;
+    font.setStrikeOut(object.isSuppressed());
+    return font;
+}
+
+QVariant colourOf(const Obj::ProjectObject& object)
+{
+    return object.isSuppressed() ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
+}
+
 } // namespace
 
-ProjectTreeModel::ProjectTreeModel(QObject* parent) : QAbstractItemModel(parent)
+ProjectTreeModel::ProjectTreeModel(GuiApplication& application, QObject* parent)
+    : QAbstractItemModel(parent), m_application(application), m_icons(std::make_unique<NodeIcons>())
 {
+    m_nodes[root] = {root, {}};
     m_synchronization.setSingleShot(true);
     connect(&m_synchronization, &QTimer::timeout, this, &ProjectTreeModel::synchronize);
-    Obj::Application& application = Obj::Application::instance();
+    Obj::Application& projects = Obj::Application::instance();
     for (Obj::Project* const project : Obj::Application::get_projects())
         watch(*project);
-    m_connections.emplace_back(application.projectAdded.connect([this](Obj::Project& project) { watch(project); }));
-    m_connections.emplace_back(application.projectRemoved.connect([this](Obj::Project& project) {
+    m_connections.emplace_back(projects.projectAdded.connect([this](Obj::Project& project) { watch(project); }));
+    m_connections.emplace_back(projects.projectRemoved.connect([this](const Obj::Project& project) {
         m_projectConnections.erase(project.getProjectId());
         m_synchronization.start(0);
     }));
@@ -102,66 +118,46 @@ ProjectTreeModel::~ProjectTreeModel() = default;
 
 Obj::Project* ProjectTreeModel::projectAt(const QModelIndex& index) const
 {
-    if (!index.isValid() || index.internalId() != projectLevel)
-        return nullptr;
-    return Obj::Application::instance().get_project(m_rows[static_cast<std::size_t>(index.row())].projectId);
+    const Key key = keyOf(index);
+    return objectIdOf(key) == 0 ? findProject(key) : nullptr;
 }
 
 Obj::ProjectObject* ProjectTreeModel::objectAt(const QModelIndex& index) const
 {
-    if (!index.isValid() || index.internalId() == projectLevel)
-        return nullptr;
-    const auto projectId = static_cast<std::uint32_t>(index.internalId());
-    const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
-    const int projectRow = rowOfProject(projectId);
-    if (project == nullptr || projectRow < 0)
-        return nullptr;
-    const std::vector<std::uint32_t>& ids = m_rows[static_cast<std::size_t>(projectRow)].objectIds;
-    return project->get_object(ids[static_cast<std::size_t>(index.row())]);
+    const Key key = keyOf(index);
+    const Obj::Project* const project = objectIdOf(key) != 0 ? findProject(key) : nullptr;
+    return project != nullptr ? project->get_object(objectIdOf(key)) : nullptr;
 }
 
 QModelIndex ProjectTreeModel::indexOf(const Obj::Project& project) const
 {
-    const int row = rowOfProject(project.getProjectId());
-    return row >= 0 ? createIndex(row, 0, projectLevel) : QModelIndex();
+    return indexOf(keyOf(project.getProjectId(), 0));
 }
 
 QModelIndex ProjectTreeModel::indexOf(const Obj::ProjectObject& object) const
 {
-    const int projectRow = object.get_project() != nullptr ? rowOfProject(object.get_project()->getProjectId()) : -1;
-    if (projectRow < 0)
-        return {};
-    const Rows& rows = m_rows[static_cast<std::size_t>(projectRow)];
-    const auto found = std::lower_bound(rows.objectIds.begin(), rows.objectIds.end(), object.getObjectId());
-    if (found == rows.objectIds.end() || *found != object.getObjectId())
-        return {};
-    return createIndex(static_cast<int>(found - rows.objectIds.begin()), 0, quintptr{rows.projectId});
+    const Obj::Project* const project = object.get_project();
+    return project != nullptr ? indexOf(keyOf(project->getProjectId(), object.getObjectId())) : QModelIndex();
 }
 
 QModelIndex ProjectTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
     if (!hasIndex(row, column, parent))
         return {};
-    if (!parent.isValid())
-        return createIndex(row, column, projectLevel);
-    return createIndex(row, column, quintptr{m_rows[static_cast<std::size_t>(parent.row())].projectId});
+    const Key key = keyOf(parent);
+    return createIndex(row, column, childOf(key, childrenOf(key)[static_cast<std::size_t>(row)]));
 }
 
 QModelIndex ProjectTreeModel::parent(const QModelIndex& child) const
 {
-    if (!child.isValid() || child.internalId() == projectLevel)
-        return {};
-    const int row = rowOfProject(static_cast<std::uint32_t>(child.internalId()));
-    return row >= 0 ? createIndex(row, 0, projectLevel) : QModelIndex();
+    const auto node = m_nodes.find(keyOf(child));
+    return node != m_nodes.end() ? indexOf(node->second.parent) : QModelIndex();
 }
 
 int ProjectTreeModel::rowCount(const QModelIndex& parent) const
 {
-    if (!parent.isValid())
-        return static_cast<int>(m_rows.size());
-    if (parent.internalId() != projectLevel)
-        return 0;
-    return static_cast<int>(m_rows[static_cast<std::size_t>(parent.row())].objectIds.size());
+    const auto node = m_nodes.find(keyOf(parent));
+    return node != m_nodes.end() ? static_cast<int>(node->second.children.size()) : 0;
 }
 
 int ProjectTreeModel::columnCount(const QModelIndex&) const
@@ -189,8 +185,13 @@ bool ProjectTreeModel::setData(const QModelIndex& index, const QVariant& value, 
 Qt::ItemFlags ProjectTreeModel::flags(const QModelIndex& index) const
 {
     Qt::ItemFlags flags = QAbstractItemModel::flags(index);
-    if (objectAt(index) != nullptr)
-        flags |= Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+    Obj::ProjectObject* const object = objectAt(index);
+    if (object == nullptr)
+        return flags;
+    flags |= Qt::ItemIsEditable;
+    flags.setFlag(Qt::ItemNeverHasChildren, !isGroup(*object));
+    const ViewFeeder* const node = m_application.get_view_feeder(object);
+    flags.setFlag(Qt::ItemIsSelectable, node == nullptr || !node->useNewSelectionModel());
     return flags;
 }
 
@@ -198,8 +199,8 @@ void ProjectTreeModel::synchronize()
 {
     m_synchronization.stop();
     synchronizeProjects();
-    for (int row = 0; row < static_cast<int>(m_rows.size()); ++row)
-        synchronizeObjects(row);
+    for (const Obj::Project* const project : Obj::Application::get_projects())
+        synchronizeObjects(*project);
 }
 
 void ProjectTreeModel::watch(Obj::Project& project)
@@ -214,77 +215,154 @@ void ProjectTreeModel::watch(Obj::Project& project)
     m_synchronization.start(0);
 }
 
-void ProjectTreeModel::synchronizeProjects()
-{
-    std::vector<std::uint32_t> present;
-    for (const Obj::Project* const project : Obj::Application::get_projects())
-        present.push_back(project->getProjectId());
-    for (int row = static_cast<int>(m_rows.size()) - 1; row >= 0; --row) {
-        if (std::binary_search(present.begin(), present.end(), m_rows[static_cast<std::size_t>(row)].projectId))
-            continue;
-        beginRemoveRows({}, row, row);
-        m_rows.erase(m_rows.begin() + row);
-        endRemoveRows();
-    }
-    for (int row = 0; row < static_cast<int>(present.size()); ++row) {
-        const std::uint32_t projectId = present[static_cast<std::size_t>(row)];
-        if (row < static_cast<int>(m_rows.size()) && m_rows[static_cast<std::size_t>(row)].projectId == projectId)
-            continue;
-        beginInsertRows({}, row, row);
-        m_rows.insert(m_rows.begin() + row, Rows{projectId, {}});
-        endInsertRows();
-    }
-}
-
-void ProjectTreeModel::synchronizeObjects(int projectRow)
-{
-    std::vector<std::uint32_t>& shown = m_rows[static_cast<std::size_t>(projectRow)].objectIds;
-    const QModelIndex parent = createIndex(projectRow, 0, projectLevel);
-    std::vector<std::uint32_t> present;
-    for (const Obj::ProjectObject* const object : projectAt(parent)->get_objects())
-        present.push_back(object->getObjectId());
-
-    // From the end, so that the rows in front keep their numbers.
-    const std::vector<Block> gone = blocksMissingIn(shown, present);
-    for (auto block = gone.rbegin(); block != gone.rend(); ++block) {
-        beginRemoveRows(parent, block->first, block->last);
-        shown.erase(shown.begin() + block->first, shown.begin() + block->last + 1);
-        endRemoveRows();
-    }
-    // From the front: each block then stands where it belongs in the end.
-    for (const Block& block : blocksMissingIn(present, shown)) {
-        beginInsertRows(parent, block.first, block.last);
-        shown.insert(shown.begin() + block.first, present.begin() + block.first, present.begin() + block.last + 1);
-        endInsertRows();
-    }
-}
-
-int ProjectTreeModel::rowOfProject(std::uint32_t projectId) const
-{
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
-                                    [projectId](const Rows& rows) { return rows.projectId == projectId; });
-    return found != m_rows.end() ? static_cast<int>(found - m_rows.begin()) : -1;
-}
-
-void ProjectTreeModel::objectChanged(const Obj::ProjectObject& object)
+void ProjectTreeModel::objectChanged(Obj::ProjectObject& object)
 {
     const QModelIndex index = indexOf(object);
     if (index.isValid())
         Q_EMIT dataChanged(index, index);
+    // The members of a group may be others now.
+    if (isGroup(object) || index.isValid() != isShown(object))
+        m_synchronization.start(0);
+}
+
+bool ProjectTreeModel::isShown(Obj::ProjectObject& object) const
+{
+    const ViewFeeder* const node = m_application.get_view_feeder(&object);
+    return node == nullptr || node->isShow();
+}
+
+void ProjectTreeModel::synchronizeProjects()
+{
+    Ids wanted;
+    for (const Obj::Project* const project : Obj::Application::get_projects())
+        wanted.push_back(project->getProjectId());
+    removeSurplus(root, wanted);
+    addMissing(root, wanted);
+}
+
+/// Nodes are moved before others are removed, so that nothing that stays loses its selection. A parent is at its place
+/// before its children are moved there, so that no node is moved under itself.
+void ProjectTreeModel::synchronizeObjects(const Obj::Project& project)
+{
+    const std::uint32_t id = project.getProjectId();
+    const TreeShape shape(project, [this](Obj::ProjectObject& object) { return isShown(object); });
+    const Ids parents = shape.parentsFromTop();
+    for (const std::uint32_t parent : parents)
+        addMissing(keyOf(id, parent), shape.childrenOf(parent));
+    removeSurplusBelow(keyOf(id, 0), shape);
+}
+
+// NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
+void ProjectTreeModel::removeSurplusBelow(Key node, const TreeShape& shape)
+{
+    removeSurplus(node, shape.childrenOf(objectIdOf(node)));
+    for (const std::uint32_t id : childrenOf(node))
+        if (const Key child = childOf(node, id); !childrenOf(child).empty())
+            removeSurplusBelow(child, shape);
+}
+
+void ProjectTreeModel::addMissing(Key parent, const Ids& wanted)
+{
+    for (auto id = wanted.begin(); id != wanted.end();) {
+        const auto node = m_nodes.find(childOf(parent, *id));
+        if (node == m_nodes.end()) {
+            const auto begin = id;
+            const Ids& present = childrenOf(parent);
+            const auto next = std::lower_bound(present.begin(), present.end(), *id);
+            while (id != wanted.end() && !has(childOf(parent, *id)) && (next == present.end() || *id < *next))
+                ++id;
+            insert(parent, begin, id);
+            continue;
+        }
+        if (node->second.parent != parent)
+            move(node->first, parent);
+        ++id;
+    }
+}
+
+void ProjectTreeModel::removeSurplus(Key parent, const Ids& wanted)
+{
+    const auto isWanted = [&wanted](std::uint32_t id) { return std::binary_search(wanted.begin(), wanted.end(), id); };
+    const Ids& present = childrenOf(parent);
+    // From the end, so that the rows in front keep their numbers.
+    for (std::size_t end = present.size(); end > 0;) {
+        std::size_t first = end;
+        while (first > 0 && !isWanted(present[first - 1]))
+            --first;
+        if (first < end)
+            removeBlock(parent, static_cast<int>(first), static_cast<int>(end) - 1);
+        end = first;
+        while (end > 0 && isWanted(present[end - 1]))
+            --end;
+    }
+}
+
+void ProjectTreeModel::insert(Key parent, Ids::const_iterator begin, Ids::const_iterator end)
+{
+    Ids& children = m_nodes.at(parent).children;
+    const auto place = std::lower_bound(children.begin(), children.end(), *begin);
+    const int row = static_cast<int>(place - children.begin());
+    beginInsertRows(indexOf(parent), row, row + static_cast<int>(end - begin) - 1);
+    children.insert(place, begin, end);
+    for (auto id = begin; id != end; ++id)
+        m_nodes[childOf(parent, *id)] = {parent, {}};
+    endInsertRows();
+}
+
+void ProjectTreeModel::move(Key node, Key parent)
+{
+    const Key before = m_nodes.at(node).parent;
+    Ids& source = m_nodes.at(before).children;
+    Ids& target = m_nodes.at(parent).children;
+    const std::uint32_t id = idInParent(node);
+    const int row = rowOf(node);
+    const auto place = std::lower_bound(target.begin(), target.end(), id);
+    beginMoveRows(indexOf(before), row, row, indexOf(parent), static_cast<int>(place - target.begin()));
+    target.insert(place, id);
+    source.erase(source.begin() + row);
+    m_nodes.at(node).parent = parent;
+    endMoveRows();
+}
+
+void ProjectTreeModel::removeBlock(Key parent, int first, int last)
+{
+    beginRemoveRows(indexOf(parent), first, last);
+    Ids& children = m_nodes.at(parent).children;
+    for (int row = first; row <= last; ++row)
+        erase(childOf(parent, children[static_cast<std::size_t>(row)]));
+    children.erase(children.begin() + first, children.begin() + last + 1);
+    endRemoveRows();
+}
+
+// NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
+void ProjectTreeModel::erase(Key node)
+{
+    const auto found = m_nodes.find(node);
+    const Ids children = std::move(found->second.children);
+    m_nodes.erase(found);
+    for (const std::uint32_t id : children)
+        erase(childOf(node, id));
+}
+
+int ProjectTreeModel::rowOf(Key node) const
+{
+    const Ids& siblings = childrenOf(m_nodes.at(node).parent);
+    return static_cast<int>(std::lower_bound(siblings.begin(), siblings.end(), idInParent(node)) - siblings.begin());
+}
+
+QModelIndex ProjectTreeModel::indexOf(Key node) const
+{
+    return node != root && has(node) ? createIndex(rowOf(node), 0, node) : QModelIndex();
 }
 
 QVariant ProjectTreeModel::dataOf(Obj::Project& project, int role) const
 {
     if (role == Qt::DisplayRole)
         return QString::fromUtf8(project.get_name());
-    GuiProject* const guiProject =
-        role == Qt::DecorationRole ? GuiApplication::Instance->get_project(&project) : nullptr;
+    GuiProject* const guiProject = role == Qt::DecorationRole ? m_application.get_project(&project) : nullptr;
     if (guiProject == nullptr)
         return {};
-    const QString name = QString::fromUtf8(guiProject->get_view_feeder()->getPixmapName());
-    if (!m_icons.contains(name))
-        m_icons.insert(name, makeIcon(name, {}));
-    return m_icons.value(name);
+    return m_icons->get(QString::fromUtf8(guiProject->get_view_feeder()->getPixmapName()));
 }
 
 QVariant ProjectTreeModel::dataOf(Obj::ProjectObject& object, int role) const
@@ -296,29 +374,16 @@ QVariant ProjectTreeModel::dataOf(Obj::ProjectObject& object, int role) const
     case Qt::ToolTipRole:
         return toolTipOf(object);
     case Qt::DecorationRole:
-        if (const ViewFeeder* const feeder = GuiApplication::Instance->get_view_feeder(&object))
-            return iconOf(object, QString::fromUtf8(feeder->getPixmapName()));
+        if (const ViewFeeder* const node = m_application.get_view_feeder(&object))
+            return m_icons->get(QString::fromUtf8(node->getPixmapName()), dotOf(object));
         return {};
-    case Qt::FontRole: {
-        QFont font;
-        font.setStrikeOut(object.isSuppressed());
-        return font;
-    }
+    case Qt::FontRole:
+        return fontOf(object);
     case Qt::ForegroundRole:
-        return object.isSuppressed() ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text)
-                                     : QVariant();
+        return colourOf(object);
     default:
         return {};
     }
-}
-
-QIcon ProjectTreeModel::iconOf(const Obj::ProjectObject& object, const QString& pixmapName) const
-{
-    const QColor dot = dotOf(object);
-    const QString key = pixmapName + dot.name();
-    if (!m_icons.contains(key))
-        m_icons.insert(key, makeIcon(pixmapName, dot));
-    return m_icons.value(key);
 }
 
 } // namespace Gui

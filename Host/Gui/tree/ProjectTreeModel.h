@@ -1,16 +1,15 @@
 #pragma once
 
 #include "Gui/GuiExport.h"
-#include "Kelta/TypeInfo.h"
 
 #include <QAbstractItemModel>
-#include <QHash>
-#include <QIcon>
 #include <QTimer>
 #include <boost/signals2/connection.hpp>
 
 #include <cstdint>
 #include <map>
+#include <memory>
+#include <unordered_map>
 #include <vector>
 
 namespace Obj {
@@ -20,22 +19,29 @@ class ProjectObject;
 
 namespace Gui {
 
-/// Projects and their objects as a tree of two levels.
+class GuiApplication;
+class NodeIcons;
+class TreeShape;
+
+/// Projects and their objects as a tree. Members of a group are under the group; an object whose node says that it is not
+/// shown has no row.
 ///
-/// It keeps ids, not objects, and takes over what was added and removed when the event loop is next idle: thousands of
-/// changes in one command become a few blocks of rows, and a row whose object has gone meanwhile shows nothing.
+/// The model keeps ids instead of objects, and takes over what was added and removed when the event loop is next idle:
+/// thousands of changes in one command become a few blocks of rows, and a row whose object was removed meanwhile shows
+/// nothing.
 class GUI_EXPORT ProjectTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
 public:
-    explicit ProjectTreeModel(QObject* parent = nullptr);
+    /// Nodes come from `application`, which must outlive the model.
+    explicit ProjectTreeModel(GuiApplication& application, QObject* parent = nullptr);
     ~ProjectTreeModel() override;
 
-    /// What a row stands for; null when it stands for the other, or its thing has gone.
+    /// The project or the object that a row shows; null if the row shows the other kind, or if what it shows was removed.
     Obj::Project* projectAt(const QModelIndex& index) const;
     Obj::ProjectObject* objectAt(const QModelIndex& index) const;
-    /// The row of a project or object; an invalid index when the tree does not have it yet.
+    /// The row of a project or object; an invalid index if the tree has no row for it, or not yet.
     QModelIndex indexOf(const Obj::Project& project) const;
     QModelIndex indexOf(const Obj::ProjectObject& object) const;
 
@@ -46,29 +52,49 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     /// Gives an object a new label, undoably.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    /// A node that has a selection of its own is not selected by the tree.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
     /// Takes over at once what has changed.
     void synchronize();
 
 private:
-    struct Rows
+    /// The ids of a project and of one of its objects, 0 for the project itself, in one number. The key of all projects
+    /// together, which no row has, is 0.
+    using Key = quintptr;
+    using Ids = std::vector<std::uint32_t>;
+    struct Node
     {
-        std::uint32_t projectId;
-        std::vector<std::uint32_t> objectIds; ///< in their order
+        Key parent;
+        Ids children; ///< in ascending order; those of the root are projects
     };
+
     void watch(Obj::Project& project);
+    void objectChanged(Obj::ProjectObject& object);
+    bool isShown(Obj::ProjectObject& object) const;
+
     void synchronizeProjects();
-    void synchronizeObjects(int projectRow);
-    int rowOfProject(std::uint32_t projectId) const;
-    void objectChanged(const Obj::ProjectObject& object);
+    void synchronizeObjects(const Obj::Project& project);
+    void addMissing(Key parent, const Ids& wanted);
+    void removeSurplus(Key parent, const Ids& wanted);
+    void removeSurplusBelow(Key node, const TreeShape& shape);
+    void insert(Key parent, Ids::const_iterator begin, Ids::const_iterator end);
+    void move(Key node, Key parent);
+    void removeBlock(Key parent, int first, int last);
+    void erase(Key node);
+
+    bool has(Key node) const { return m_nodes.count(node) != 0; }
+    const Ids& childrenOf(Key node) const { return m_nodes.at(node).children; }
+    int rowOf(Key node) const;
+    QModelIndex indexOf(Key node) const;
+
     QVariant dataOf(Obj::Project& project, int role) const;
     QVariant dataOf(Obj::ProjectObject& object, int role) const;
-    QIcon iconOf(const Obj::ProjectObject& object, const QString& pixmapName) const;
 
-    std::vector<Rows> m_rows;
+    GuiApplication& m_application;
+    std::unordered_map<Key, Node> m_nodes;
     QTimer m_synchronization;
-    mutable QHash<QString, QIcon> m_icons;
+    std::unique_ptr<NodeIcons> m_icons;
     std::map<std::uint32_t, std::vector<boost::signals2::scoped_connection>> m_projectConnections;
     std::vector<boost::signals2::scoped_connection> m_connections;
 };

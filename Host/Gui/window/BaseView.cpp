@@ -58,4 +58,10 @@ void BaseView::resizeRow(int, int) {}
 
 void BaseView::updateCell(const Obj::Property*) {}
 
+void BaseView::attach(GuiProject& project)
+{
+    m_project = &project;
+    project.connect_view(this);
+}
+
 } // namespace Gui

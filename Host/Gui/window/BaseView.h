@@ -14,24 +14,25 @@ namespace Gui {
 
 class GuiProject;
 
-/// A view of something in a project. Derived classes answer for what they show; here everything is empty.
+/// A view of something in a project. Derived classes override what they support; by default every operation does nothing
+/// and returns nothing.
 class GUI_EXPORT BaseView : public Kelta::RootClass
 {
     KELTA_ABSTRACT_CLASS;
 
 public:
-    /// A view of `project`, which may be null: then it belongs to none.
+    /// A view of `project`; null if it belongs to no project.
     explicit BaseView(GuiProject* project);
     ~BaseView() override;
 
-    /// Null when the view belongs to no project, or the project has been closed.
+    /// The project of the view; null if it has none, or if the project has been closed.
     GuiProject* get_gui_project() const;
 
     /// The name of the kind of view.
     virtual const char* getName() const;
     /// Shows all that there is to see.
     virtual void viewAll();
-    /// Whether the view carries out messages of this name itself; then message_handler does.
+    /// Returns whether message_handler carries out messages with this name.
     virtual bool has_message_handler(const char* message) const;
     virtual bool message_handler(const char* message, const char** answer);
     /// Takes the view out of the main window.
@@ -42,6 +43,10 @@ public:
     virtual void resizeRow(int row, int height);
     /// A property of what the view shows has changed.
     virtual void updateCell(const Obj::Property* property);
+
+protected:
+    /// Makes the view, which belongs to no project yet, one of `project`.
+    void attach(GuiProject& project);
 
 private:
     QPointer<GuiProject> m_project;

@@ -1,8 +1,6 @@
 #include "Gui/MainWindow.h"
 
-#include "workbench/MenuBuilder.h"
-#include "window/WelcomePage.h"
-
+#include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
@@ -11,21 +9,27 @@
 #include "Gui/PropertyPanel.h"
 #include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
+#include "window/DockSet.h"
+#include "window/DocumentArea.h"
+#include "window/WelcomePage.h"
+#include "workbench/MenuBuilder.h"
+#include "workbench/WorkbenchBars.h"
+#include "workbench/WorkbenchSwitch.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QToolBar>
+
+#include <utility>
 
 namespace Gui {
 
@@ -36,41 +40,38 @@ MainWindow* theMainWindow = nullptr;
 constexpr const char* geometryKey = "window/geometry";
 constexpr const char* stateKey = "window/state";
 
-/// A window that was closed stays among the others until the event loop destroys it.
-bool isClosed(const MDIWindow& window)
-{
-    return window.isHidden() && window.testAttribute(Qt::WA_WState_ExplicitShowHide);
-}
+/// How long a result stays in the status bar.
+constexpr int statusMilliseconds = 10000;
 
-MDIWindow* windowIn(const QMdiSubWindow* frame)
-{
-    return frame != nullptr ? qobject_cast<MDIWindow*>(frame->widget()) : nullptr;
-}
+constexpr const char* explorerDock = "ProjectExplorer";
+constexpr const char* propertiesDock = "PropertyPanel";
+constexpr const char* messagesDock = "MessageLog";
 
 } // namespace
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_center(new QStackedWidget(this)), m_welcome(new WelcomePage), m_area(new QMdiArea)
+MainWindow::MainWindow(QWidget* parent) : MainWindow(GuiApplication::Instance->contributions(), parent) {}
+
+MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
+    : QMainWindow(parent),
+      m_application(*GuiApplication::Instance),
+      m_contributions(contributions),
+      m_selection(TreeSelectionSingleton::instance())
 {
     theMainWindow = this;
     setObjectName(QStringLiteral("mainWindow"));
-    m_center->addWidget(m_welcome);
-    m_center->addWidget(m_area);
-    setCentralWidget(m_center);
-    m_area->setViewMode(QMdiArea::TabbedView);
-    m_area->setTabsClosable(true);
-    m_area->setTabsMovable(true);
-    m_area->setDocumentMode(true);
+    createCenter();
     createDocks();
     statusBar();
-    watchChanges();
+    watchProjects();
+    watchRequests();
+    watchWindow();
     resize(1180, 760);
 }
 
 MainWindow::~MainWindow()
 {
-    // The document windows go while the main window can still be asked for.
-    qDeleteAll(m_area->subWindowList());
+    // The document windows are destroyed while the main window can still be asked for.
+    m_documents->removeAll();
     theMainWindow = nullptr;
 }
 
@@ -81,78 +82,55 @@ MainWindow* MainWindow::get_main_window_inst()
 
 void MainWindow::add_mdi_window(MDIWindow* window)
 {
-    QMdiSubWindow* const frame = m_area->addSubWindow(window);
-    frame->setAttribute(Qt::WA_DeleteOnClose);
-    frame->setWindowIcon(window->windowIcon());
-    // The menu of the frame has the keys of the command that closes a document; with two owners they would do nothing.
-    for (QAction* const action : frame->systemMenu()->actions())
-        action->setShortcuts(QList<QKeySequence>());
-    window->show();
-    if (m_area->viewMode() == QMdiArea::TabbedView)
-        frame->showMaximized();
-    else
-        frame->show();
-    // A frame may be destroyed when no more of this window is left than its children.
-    connect(frame, &QObject::destroyed, &m_update, [this] { m_update.start(0); });
+    m_documents->add(window);
     Q_EMIT mdi_window_added(window);
     update_commands();
 }
 
 void MainWindow::remove_mdi_window(MDIWindow* window)
 {
-    delete frameOf(window);
-    m_update.start(0);
+    m_documents->remove(window);
+    updateLater();
 }
 
 void MainWindow::set_active_mdi_window(MDIWindow* window)
 {
-    if (QMdiSubWindow* const frame = frameOf(window)) {
-        m_area->setActiveSubWindow(frame);
-        window->setFocus();
-    }
+    m_documents->activate(window);
 }
 
 MDIWindow* MainWindow::get_active_mdi_window() const
 {
-    MDIWindow* const window = windowIn(frontFrame());
-    return window != nullptr && !isClosed(*window) ? window : nullptr;
+    return m_documents->activeWindow();
 }
 
 QList<MDIWindow*> MainWindow::get_mdi_windows() const
 {
-    QList<MDIWindow*> windows;
-    for (const QMdiSubWindow* const frame : m_area->subWindowList())
-        if (MDIWindow* const window = windowIn(frame); window != nullptr && !isClosed(*window))
-            windows << window;
-    return windows;
+    return m_documents->windows();
 }
 
 void MainWindow::close_current_window()
 {
-    if (QMdiSubWindow* const frame = frontFrame())
-        frame->close();
+    m_documents->closeActive();
 }
 
 void MainWindow::close_all_windows()
 {
-    m_area->closeAllSubWindows();
+    m_documents->closeAllSubWindows();
 }
 
 void MainWindow::tile_windows()
 {
-    m_area->setViewMode(QMdiArea::SubWindowView);
-    m_area->tileSubWindows();
+    m_documents->tile();
 }
 
 void MainWindow::tab_windows()
 {
-    m_area->setViewMode(QMdiArea::TabbedView);
+    m_documents->showAsTabs();
 }
 
 void MainWindow::cascade_windows()
 {
-    m_area->setViewMode(QMdiArea::SubWindowView);
-    m_area->cascadeSubWindows();
+    m_documents->cascade();
 }
 
 bool MainWindow::set_workbench(const char* className)
@@ -162,37 +140,51 @@ bool MainWindow::set_workbench(const char* className)
         Kelta::MessageLog::error(tr("There is no workbench \"%1\".").arg(QString::fromUtf8(className)));
         return false;
     }
-    if (m_workbench != nullptr)
-        m_workbench->deactivated();
-    m_workbench.reset(static_cast<StdSimModule*>(created.release()));
-    buildBars();
-    const std::unique_ptr<ToolBarGadget> docks(m_workbench->build_docking_windows());
-    for (const auto& gadget : docks->items())
-        if (auto* const dock = findChild<QDockWidget*>(QString::fromStdString(gadget->command())))
-            dock->show();
-    m_workbench->activated();
-    update_commands();
+    replaceWorkbench(std::unique_ptr<StdSimModule>(static_cast<StdSimModule*>(created.release())));
     return true;
 }
 
-void MainWindow::update_commands()
+bool MainWindow::setDefaultWorkbench()
 {
-    m_update.stop();
-    const bool hasDocuments = !get_mdi_windows().isEmpty();
-    m_center->setCurrentWidget(hasDocuments ? static_cast<QWidget*>(m_area) : m_welcome);
-    m_welcome->refresh();
-    GuiApplication::Instance->get_command_manager().update_actions();
-    Q_EMIT updated();
+    const std::vector<WorkbenchEntry>& entries = m_contributions.workbenches();
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    const WorkbenchEntry* const own = project != nullptr ? workbenchOf(*project, m_contributions) : nullptr;
+    if (own != nullptr)
+        return set_workbench(own->className.c_str());
+    return set_workbench(entries.empty() ? "Gui::StdSimModule" : entries.front().className.c_str());
+}
+
+void MainWindow::chooseWorkbench(const std::string& className)
+{
+    m_chosenWorkbench = className;
+    updateLater();
+}
+
+void MainWindow::announce(const QString& text, Kelta::LogMessage::Severity severity)
+{
+    Kelta::MessageLog::instance().report(severity, text);
+    if (theMainWindow != nullptr)
+        theMainWindow->statusBar()->showMessage(text, statusMilliseconds);
 }
 
 void MainWindow::show_messages()
 {
-    showDock("MessageLog");
+    m_docks->show(messagesDock);
 }
 
 void MainWindow::show_project_explorer()
 {
-    showDock("ProjectExplorer");
+    m_docks->show(explorerDock);
+}
+
+void MainWindow::toggleDock(const std::string& name)
+{
+    m_docks->toggle(name);
+}
+
+bool MainWindow::hasDock(const std::string& name) const
+{
+    return m_docks->find(name) != nullptr;
 }
 
 QMenu* MainWindow::createPopupMenu()
@@ -202,7 +194,7 @@ QMenu* MainWindow::createPopupMenu()
     if (m_workbench != nullptr)
         m_workbench->build_context_popup_menu(&items);
     if (menu != nullptr)
-        fillMenu(*menu, items);
+        MenuBuilder(m_application.get_command_manager(), *this).fillMenu(*menu, items);
     return menu;
 }
 
@@ -220,6 +212,16 @@ void MainWindow::restore_layout()
     restoreState(settings.value(QLatin1String(stateKey)).toByteArray());
 }
 
+void MainWindow::update_commands()
+{
+    m_update.stop();
+    const bool hasDocuments = !get_mdi_windows().isEmpty();
+    m_center->setCurrentWidget(hasDocuments ? static_cast<QWidget*>(m_documents) : m_welcome);
+    m_welcome->refresh(Obj::Application::get_current_project());
+    m_application.get_command_manager().update_actions();
+    Q_EMIT updated();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     bool refused = false;
@@ -234,99 +236,160 @@ void MainWindow::changeEvent(QEvent* event)
         retranslate();
 }
 
+void MainWindow::createCenter()
+{
+    m_center = new QStackedWidget(this);
+    m_welcome = new WelcomePage(m_application.get_command_manager(), m_contributions);
+    m_documents = new DocumentArea;
+    m_center->addWidget(m_welcome);
+    m_center->addWidget(m_documents);
+    setCentralWidget(m_center);
+}
+
 void MainWindow::createDocks()
 {
-    m_explorer = new ProjectExplorer;
-    m_properties = new PropertyPanel;
+    m_explorer = new ProjectExplorer(*this, m_application, m_selection);
+    m_properties = new PropertyPanel(m_application, m_selection);
     m_log = new MessageLogView;
+    m_docks = std::make_unique<DockSet>(*this);
+    for (const DockEntry& entry : hostDocks())
+        m_docks->add(entry);
+    resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
+    resizeDocks({m_docks->find(explorerDock)}, {290}, Qt::Horizontal);
+    resizeDocks({m_docks->find(messagesDock)}, {110}, Qt::Vertical);
+    m_bars = std::make_unique<WorkbenchBars>(*this, m_application.get_command_manager(), m_contributions);
+}
+
+std::vector<DockEntry> MainWindow::hostDocks()
+{
     // The edges of the docks are frame enough.
-    for (QFrame* const view :
-         {static_cast<QFrame*>(m_explorer), static_cast<QFrame*>(m_properties), static_cast<QFrame*>(m_log)})
+    const auto frameless = [](QFrame* view) {
         view->setFrameShape(QFrame::NoFrame);
-    addDock(Qt::LeftDockWidgetArea, "ProjectExplorer", tr("Project explorer"), m_explorer);
-    addDock(Qt::LeftDockWidgetArea, "PropertyPanel", tr("Properties"), m_properties);
-    addDock(Qt::BottomDockWidgetArea, "MessageLog", tr("Messages"), m_log);
-    const QList<QDockWidget*> docks = findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    resizeDocks({docks[0], docks[1]}, {320, 220}, Qt::Vertical);
-    resizeDocks({docks[0]}, {290}, Qt::Horizontal);
-    resizeDocks({docks[2]}, {110}, Qt::Vertical);
+        return view;
+    };
+    constexpr const char* context = "Gui::MainWindow";
+    return {{explorerDock,
+             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Project explorer")},
+             DockArea::Left,
+             [=] { return frameless(m_explorer); }},
+            {propertiesDock,
+             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Properties")},
+             DockArea::Left,
+             [=] { return frameless(m_properties); }},
+            {messagesDock, {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Messages")}, DockArea::Bottom, [=] {
+                 return frameless(m_log);
+             }}};
 }
 
-void MainWindow::addDock(Qt::DockWidgetArea area, const char* name, const QString& title, QWidget* content)
+void MainWindow::watchProjects()
 {
-    auto* const dock = new QDockWidget(title, this);
-    dock->setObjectName(QLatin1String(name));
-    dock->setWidget(content);
-    addDockWidget(area, dock);
+    Obj::Application& application = Obj::Application::instance();
+    m_connections.emplace_back(application.projectAdded.connect([this](Obj::Project&) { updateLater(); }));
+    m_connections.emplace_back(application.projectRemoved.connect([this](Obj::Project&) { updateLater(); }));
+    m_connections.emplace_back(
+        application.currentProjectChanged.connect([this](const Obj::Project* project) { followProject(project); }));
 }
 
-void MainWindow::showDock(const char* name)
+void MainWindow::watchRequests()
 {
-    auto* const dock = findChild<QDockWidget*>(QLatin1String(name));
-    dock->show();
-    dock->raise();
+    // The next command applies to what was added.
+    vxMsg::MessageProxy& proxy = vxMsg::MessageProxy::instance();
+    m_connections.emplace_back(
+        proxy.objectCreated.connect([this](Obj::ProjectObject& object) { m_selection.set_selection({}, {&object}); }));
+    m_connections.emplace_back(
+        proxy.projectCreated.connect([this](Obj::Project& project) { m_selection.set_selection({&project}, {}); }));
+    connect(&proxy.undoStack(), &QUndoStack::indexChanged, this, &MainWindow::updateLater);
 }
 
-void MainWindow::watchChanges()
+void MainWindow::watchWindow()
 {
     m_update.setSingleShot(true);
-    connect(&m_update, &QTimer::timeout, this, &MainWindow::update_commands);
-    const auto later = [this](auto&&...) { m_update.start(0); };
-    Obj::Application& application = Obj::Application::instance();
-    m_connections.emplace_back(application.projectAdded.connect(later));
-    m_connections.emplace_back(application.projectRemoved.connect(later));
-    m_connections.emplace_back(application.currentProjectChanged.connect(later));
-    // What has come new is what the next command is for.
-    vxMsg::MessageProxy& proxy = vxMsg::MessageProxy::instance();
-    m_connections.emplace_back(proxy.objectCreated.connect(
-        [](Obj::ProjectObject& object) { TreeSelectionSingleton::instance().set_selection({}, {&object}); }));
-    m_connections.emplace_back(proxy.projectCreated.connect(
-        [](Obj::Project& project) { TreeSelectionSingleton::instance().set_selection({&project}, {}); }));
-    connect(&TreeSelectionSingleton::instance(), &TreeSelectionSingleton::selectionChanged, this, later);
-    connect(&proxy.undoStack(), &QUndoStack::indexChanged, this, later);
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, later);
-    connect(m_area, &QMdiArea::subWindowActivated, this, [this, later](QMdiSubWindow* frame) {
-        // Commands act on the project that the user works in.
-        const MDIWindow* const window = windowIn(frame);
-        if (window != nullptr && window->get_gui_project() != nullptr)
-            Obj::Application::instance().set_current_project(window->get_gui_project()->get_project());
-        later();
+    connect(&m_update, &QTimer::timeout, this, &MainWindow::updateNow);
+    connect(&m_selection, &TreeSelectionSingleton::selectionChanged, this, &MainWindow::updateLater);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MainWindow::updateLater);
+    connect(m_documents, &DocumentArea::windowActivated, this, &MainWindow::followDocument);
+    connect(m_documents, &DocumentArea::windowDestroyed, this, &MainWindow::updateLater);
+    connect(&m_contributions, &Contributions::changed, this, [this] {
+        m_barsAreOutdated = true;
+        updateLater();
     });
+}
+
+void MainWindow::updateLater()
+{
+    m_update.start(0);
+}
+
+/// Menus and toolbars are replaced here alone, when none of them runs a command.
+void MainWindow::updateNow()
+{
+    const std::string chosen = std::exchange(m_chosenWorkbench, {});
+    if (!chosen.empty() && set_workbench(chosen.c_str()))
+        return;
+    if (m_barsAreOutdated && m_workbench != nullptr)
+        buildBars();
+    update_commands();
+}
+
+void MainWindow::followProject(const Obj::Project* project)
+{
+    const WorkbenchEntry* const own = project != nullptr ? workbenchOf(*project, m_contributions) : nullptr;
+    const bool isActive =
+        own != nullptr && m_workbench != nullptr && own->className == m_workbench->getTypeId().get_name();
+    if (own != nullptr)
+        m_chosenWorkbench = isActive ? std::string() : own->className;
+    updateLater();
+}
+
+void MainWindow::followDocument(const MDIWindow* window)
+{
+    // Commands act on the project in which the user works.
+    if (window != nullptr && window->get_gui_project() != nullptr)
+        Obj::Application::instance().set_current_project(window->get_gui_project()->get_project());
+    updateLater();
+}
+
+void MainWindow::replaceWorkbench(std::unique_ptr<StdSimModule> workbench)
+{
+    if (m_workbench != nullptr)
+        m_workbench->deactivated();
+    m_workbench = std::move(workbench);
+    m_chosenWorkbench.clear();
+    buildBars();
+    showWantedDocks();
+    m_workbench->activated();
+    update_commands();
 }
 
 void MainWindow::buildBars()
 {
-    const std::unique_ptr<MenuItem> menus(m_workbench->build_menu_bar());
-    fillMenuBar(*menuBar(), *menus);
-
-    // Document windows have toolbars of their own.
-    qDeleteAll(findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly));
-    const std::unique_ptr<ToolBarGadget> bars(m_workbench->build_toolbars());
-    const std::unique_ptr<ToolBarGadget> messageBars(m_workbench->build_message_bars());
-    for (const auto& [root, area] :
-         {std::pair(bars.get(), Qt::TopToolBarArea), std::pair(messageBars.get(), Qt::BottomToolBarArea)})
-        for (const auto& gadget : root->items()) {
-            const QString title = QCoreApplication::translate("Workbench", gadget->command().c_str());
-            auto* const bar = new QToolBar(title, this);
-            // By these names the layout is kept: a bar above and one below of the same title are two.
-            bar->setObjectName(QLatin1String(area == Qt::BottomToolBarArea ? "Bottom" : "") +
-                               QString::fromStdString(gadget->command()));
-            fillToolBar(*bar, *gadget);
-            addToolBar(area, bar);
-            bar->setVisible(!bar->actions().isEmpty());
-        }
-    addTreeShortcuts();
+    m_barsAreOutdated = false;
+    CommandController& commands = m_application.get_command_manager();
+    m_docks->addContributed(m_contributions, commands);
+    addWorkbenchCommands(m_contributions, commands);
+    m_bars->build(*m_workbench);
+    addShortcuts();
 }
 
-void MainWindow::addTreeShortcuts()
+void MainWindow::showWantedDocks()
 {
-    // A key that acts on the tree must not do so while the user types into an editor.
-    for (Command* const command : GuiApplication::Instance->get_command_manager().get_commands()) {
+    if (!m_knownWorkbenches.insert(m_workbench->getTypeId().get_name()).second)
+        return;
+    const std::unique_ptr<ToolBarGadget> wanted(m_workbench->build_docking_windows());
+    for (const auto& gadget : wanted->items())
+        if (QDockWidget* const dock = m_docks->find(gadget->command()))
+            dock->show();
+}
+
+void MainWindow::addShortcuts()
+{
+    for (Command* const command : m_application.get_command_manager().get_commands()) {
         QAction* const action = command->action() != nullptr ? command->action() : command->new_action(this);
         if ((command->getTypeFlags() & CommandType::OnTree) == 0) {
             addAction(action);
             continue;
         }
+        // A key that acts on the tree must not do so while the user types into an editor.
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         m_explorer->addAction(action);
     }
@@ -334,33 +397,11 @@ void MainWindow::addTreeShortcuts()
 
 void MainWindow::retranslate()
 {
-    GuiApplication::Instance->get_command_manager().on_language_changed();
-    const auto setTitle = [this](const char* name, const QString& title) {
-        findChild<QDockWidget*>(QLatin1String(name))->setWindowTitle(title);
-    };
-    setTitle("ProjectExplorer", tr("Project explorer"));
-    setTitle("PropertyPanel", tr("Properties"));
-    setTitle("MessageLog", tr("Messages"));
+    m_application.get_command_manager().on_language_changed();
+    m_docks->retranslate();
     if (m_workbench != nullptr)
         buildBars();
-    m_update.start(0);
-}
-
-QMdiSubWindow* MainWindow::frontFrame() const
-{
-    if (QMdiSubWindow* const current = m_area->currentSubWindow())
-        return current;
-    // None is current before the main window has been shown.
-    const QList<QMdiSubWindow*> frames = m_area->subWindowList(QMdiArea::ActivationHistoryOrder);
-    return frames.isEmpty() ? nullptr : frames.last();
-}
-
-QMdiSubWindow* MainWindow::frameOf(const MDIWindow* window) const
-{
-    for (QMdiSubWindow* const frame : m_area->subWindowList())
-        if (window != nullptr && windowIn(frame) == window)
-            return frame;
-    return nullptr;
+    updateLater();
 }
 
 } // namespace Gui

@@ -1,7 +1,6 @@
 #include "workbench/MenuBuilder.h"
 
-#include "Gui/GuiApplication.h"
-#include "Gui/MainWindow.h"
+#include "Gui/CommandController.h"
 
 #include <QAction>
 #include <QMenu>
@@ -14,27 +13,49 @@ namespace Gui {
 
 namespace {
 
-QAction* actionOf(const std::string& commandName)
+/// The title of a menu in the language of the user.
+QString titleOf(const MenuItem& item)
 {
-    Command* const command = GuiApplication::Instance->get_command_manager().find_command(commandName);
-    if (command == nullptr)
-        return nullptr;
-    QObject* const parent = MainWindow::get_main_window_inst();
-    QAction* const action =
-        command->action() != nullptr || parent == nullptr ? command->action() : command->new_action(parent);
-    if (action != nullptr)
-        action->setEnabled(command->is_applicable());
-    return action;
+    return QCoreApplication::translate("Workbench", item.command().c_str());
 }
 
-template <typename Widget, typename Tree>
-// NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
-QAction* actionOfItem(Widget& widget, const Tree& item);
+QString titleOf(const ToolBarGadget& item)
+{
+    return QCoreApplication::translate("Workbench", item.command().c_str());
+}
+
+} // namespace
+
+void MenuBuilder::fillMenu(QMenu& menu, const MenuItem& items) const
+{
+    if (!menu.isEmpty())
+        menu.addSeparator();
+    addCommands(menu, items);
+}
+
+void MenuBuilder::fillMenuBar(QMenuBar& bar, const MenuItem& menus) const
+{
+    bar.clear();
+    // The bar owns menus that it no longer shows.
+    qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    for (const auto& item : menus.items()) {
+        QMenu* const menu = bar.addMenu(titleOf(*item));
+        addCommands(*menu, *item);
+        menu->menuAction()->setVisible(!menu->isEmpty());
+    }
+}
+
+void MenuBuilder::fillToolBar(QToolBar& bar, const ToolBarGadget& items) const
+{
+    bar.clear();
+    qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    addCommands(bar, items);
+}
 
 /// Separators stand between commands, never at the ends or side by side.
 template <typename Widget, typename Tree>
 // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
-void addCommands(Widget& widget, const Tree& items)
+void MenuBuilder::addCommands(Widget& widget, const Tree& items) const
 {
     bool separatorIsDue = false;
     for (const auto& item : items.items()) {
@@ -52,44 +73,26 @@ void addCommands(Widget& widget, const Tree& items)
     }
 }
 
-/// Null for a command that there is not, and for a menu without commands.
+/// Returns null for the beginning of a section, a name without a command, and a menu without commands.
 template <typename Widget, typename Tree>
 // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
-QAction* actionOfItem(Widget& widget, const Tree& item)
+QAction* MenuBuilder::actionOfItem(Widget& widget, const Tree& item) const
 {
     if (!item.has_items())
         return actionOf(item.command());
-    auto menu = std::make_unique<QMenu>(QCoreApplication::translate("Workbench", item.command().c_str()), &widget);
+    auto menu = std::make_unique<QMenu>(titleOf(item), &widget);
     addCommands(*menu, item);
     return menu->isEmpty() ? nullptr : menu.release()->menuAction();
 }
 
-} // namespace
-
-void fillMenu(QMenu& menu, const MenuItem& items)
+QAction* MenuBuilder::actionOf(const std::string& commandName) const
 {
-    if (!menu.isEmpty())
-        menu.addSeparator();
-    addCommands(menu, items);
-}
-
-void fillMenuBar(QMenuBar& bar, const MenuItem& menus)
-{
-    bar.clear();
-    // The bar owns menus that it no longer shows.
-    qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
-    for (const auto& item : menus.items()) {
-        QMenu* const menu = bar.addMenu(QCoreApplication::translate("Workbench", item->command().c_str()));
-        addCommands(*menu, *item);
-        menu->menuAction()->setVisible(!menu->isEmpty());
-    }
-}
-
-void fillToolBar(QToolBar& bar, const ToolBarGadget& items)
-{
-    bar.clear();
-    qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
-    addCommands(bar, items);
+    Command* const command = m_commands.find_command(commandName);
+    if (command == nullptr)
+        return nullptr;
+    QAction* const action = command->action() != nullptr ? command->action() : command->new_action(&m_actionOwner);
+    command->updateAction();
+    return action;
 }
 
 } // namespace Gui

@@ -7,25 +7,72 @@ namespace Gui {
 
 namespace {
 
-template <typename Item>
-struct Branch
+/// A section of a menu or toolbar. Sections without commands are places for those of modules.
+struct Section
 {
-    const char* text = "";
+    const char* name;
+    SectionLine line;
     std::initializer_list<const char*> commands;
 };
 
+constexpr SectionLine line = SectionLine::Shown;
+constexpr SectionLine noLine = SectionLine::Hidden;
+
+/// A menu or toolbar.
 template <typename Item>
-std::unique_ptr<Item> makeTree(std::initializer_list<Branch<Item>> branches)
+Item* makeGroup(const char* text, std::initializer_list<Section> sections)
 {
-    auto root = std::make_unique<Item>();
-    for (const Branch<Item>& branch : branches) {
-        auto item = std::make_unique<Item>();
-        item->set_command(branch.text);
-        for (const char* command : branch.commands)
-            *item << command;
-        *root << item.release();
+    auto group = std::make_unique<Item>();
+    group->set_command(text);
+    for (const Section& section : sections) {
+        group->beginSection(section.name, section.line);
+        for (const char* const command : section.commands)
+            *group << command;
     }
-    return root;
+    return group.release();
+}
+
+MenuItem* makeFileMenu()
+{
+    return makeGroup<MenuItem>("&File", {{"New", noLine, {}},
+                                         {"Open", noLine, {"Std_Open", "Std_OpenRecent"}},
+                                         {"Save", line, {"Std_Save", "Std_SaveAs"}},
+                                         {"Import", line, {}},
+                                         {"Close", line, {}},
+                                         {"Quit", noLine, {"Std_Quit"}}});
+}
+
+MenuItem* makeEditMenu()
+{
+    return makeGroup<MenuItem>("&Edit", {{"Undo", line, {"Std_Undo", "Std_Redo"}},
+                                         {"Clipboard", line, {"Std_Copy", "Std_Paste", "Std_DuplicateSelection"}},
+                                         {"Select", line, {"Std_SelectAll", "Std_Rename"}},
+                                         {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}}});
+}
+
+MenuItem* makeProjectMenu()
+{
+    return makeGroup<MenuItem>("&Project", {{"Add", line, {}}, {"Import", line, {}}, {"Solve", line, {"Std_Collect"}}});
+}
+
+MenuItem* makeViewMenu()
+{
+    return makeGroup<MenuItem>("&View",
+                               {{"Docks", line, {"Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog"}},
+                                {"Messages", line, {"Std_ClearMessages"}},
+                                {"Workbench", line, {}}});
+}
+
+MenuItem* makeWindowsMenu()
+{
+    return makeGroup<MenuItem>("&Windows",
+                               {{"Arrange", line, {"Std_TabWindows", "Std_TileWindows", "Std_CascadeWindows"}},
+                                {"Close", line, {"Std_CloseWindow", "Std_CloseAllWindows"}}});
+}
+
+MenuItem* makeHelpMenu()
+{
+    return makeGroup<MenuItem>("&Help", {{"About", line, {"Std_About"}}});
 }
 
 } // namespace
@@ -46,43 +93,36 @@ void StdSimModule::deactivated() {}
 
 MenuItem* StdSimModule::build_menu_bar() const
 {
-    return makeTree<MenuItem>(
-               {
-                   {"&File",
-                    {"Mat_NewDoc", "Std_Open", "Std_OpenRecent", "Separator", "Std_Save", "Std_SaveAs", "Separator",
-                     "Std_ImportDocument", "Separator", "Mat_DelDoc", "Std_Quit"}},
-                   {"&Edit",
-                    {"Std_Undo", "Std_Redo", "Separator", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
-                     "Mat_Delete", "Separator", "Std_SelectAll", "Std_Rename", "Separator", "Std_Suppress",
-                     "Std_Unsuppress"}},
-                   {"&Project", {"Mat_AddMaterial", "Mat_Edit", "Separator", "Mat_Import"}},
-                   {"&View",
-                    {"Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "Separator", "Std_ClearMessages"}},
-                   {"&Windows",
-                    {"Std_TabWindows", "Std_TileWindows", "Std_CascadeWindows", "Separator", "Std_CloseWindow",
-                     "Std_CloseAllWindows"}},
-                   {"&Help", {"Std_About"}},
-               })
-        .release();
+    auto menus = std::make_unique<MenuItem>();
+    *menus << makeFileMenu() << makeEditMenu() << makeProjectMenu() << makeViewMenu() << makeWindowsMenu()
+           << makeHelpMenu();
+    return menus.release();
 }
 
 ToolBarGadget* StdSimModule::build_toolbars() const
 {
-    return makeTree<ToolBarGadget>({
-                                       {"File", {"Mat_NewDoc", "Std_Open", "Std_Save", "Mat_AddMaterial"}},
-                                       {"Edit", {"Std_Undo", "Std_Redo", "Separator", "Std_Copy", "Std_Paste"}},
-                                   })
-        .release();
+    auto bars = std::make_unique<ToolBarGadget>();
+    *bars << makeGroup<ToolBarGadget>(
+        "File", {{"New", noLine, {}}, {"Open", noLine, {"Std_Open", "Std_Save"}}, {"Add", noLine, {}}});
+    *bars << makeGroup<ToolBarGadget>(
+        "Edit", {{"Undo", line, {"Std_Undo", "Std_Redo"}}, {"Clipboard", line, {"Std_Copy", "Std_Paste"}}});
+    return bars.release();
 }
 
 ToolBarGadget* StdSimModule::build_message_bars() const
 {
-    return makeTree<ToolBarGadget>({{"Messages", {"Std_ClearMessages"}}}).release();
+    auto bars = std::make_unique<ToolBarGadget>();
+    *bars << makeGroup<ToolBarGadget>("Messages", {{"Messages", line, {"Std_ClearMessages"}}});
+    return bars.release();
 }
 
 ToolBarGadget* StdSimModule::build_docking_windows() const
 {
-    return makeTree<ToolBarGadget>({{"ProjectExplorer", {}}, {"PropertyPanel", {}}, {"MessageLog", {}}}).release();
+    auto docks = std::make_unique<ToolBarGadget>();
+    *docks << "ProjectExplorer"
+           << "PropertyPanel"
+           << "MessageLog";
+    return docks.release();
 }
 
 } // namespace Gui

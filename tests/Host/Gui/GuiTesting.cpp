@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include <initializer_list>
+#include <stdexcept>
 
 namespace vxtest {
 
@@ -11,6 +12,19 @@ void TestProject::init()
     initSubclass(type, "Test::Project", "Obj::Project",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProject); });
     data.set_parent(Obj::Project::get_property_data_ref());
+}
+
+void TestProject::collect_frontend_data()
+{
+    if (collectFails)
+        throw std::runtime_error("no solver");
+    ++collections;
+}
+
+void OtherProject::init()
+{
+    initSubclass(type, "Test::OtherProject", "Obj::Project",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new OtherProject); });
 }
 
 TestObject::TestObject()
@@ -63,6 +77,18 @@ void TestProjectNode::init()
 {
     initSubclass(type, "Test::ProjectNode", "Gui::ViewFeederProject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProjectNode); });
+}
+
+void TestEditor::init()
+{
+    initSubclass(type, "Test::Editor", "Gui::MDIWindow",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestEditor); });
+}
+
+void TestEditor::editObject(Gui::GuiProject& project, Obj::ProjectObject& object)
+{
+    MDIWindow::editObject(project, object);
+    shownLabel = object.label.getValue();
 }
 
 TestCommand::TestCommand(const char* name, std::function<void()> action, int flags, const QKeySequence& keys)
@@ -148,12 +174,16 @@ Gui::ToolBarGadget* TestWorkbench::build_docking_windows() const
 
 Host::Host()
 {
+    TestWorkbench::activations = 0;
+    TestWorkbench::deactivations = 0;
     TestProject::init();
+    OtherProject::init();
+    TestEditor::init();
     TestObject::init();
     TestNode::init();
     TestProjectNode::init();
     TestWorkbench::init();
-    window = std::make_unique<Gui::MainWindow>();
+    window = std::make_unique<Gui::MainWindow>(contributions);
     window->set_workbench("Gui::StdSimModule");
     window->show();
 }

@@ -4,6 +4,7 @@
 
 #include "Gui/Command.h"
 #include "Gui/CommandController.h"
+#include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
@@ -38,13 +39,27 @@ public:
     TestProject() { register_property(data, count, "Count", "Values", Obj::PropertyType::None, "How many"); }
     Kelta::TypeInfo getTypeId() const override { return type; }
     const char* get_viewfeeder_name() const override { return "Test::ProjectNode"; }
+    void collect_frontend_data() override;
     static void init();
 
     Obj::PropertyInteger count{3};
+    int collections = 0;
+    bool collectFails = false;
 
 private:
     static inline Kelta::TypeInfo type;
     static inline Obj::PropertyCoreData data;
+};
+
+/// A project class of another module, for which nothing is contributed.
+class OtherProject final : public Obj::Project
+{
+public:
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+
+private:
+    static inline Kelta::TypeInfo type;
 };
 
 /// An object class such as a module brings, with properties of all kinds.
@@ -56,10 +71,13 @@ public:
     const char* get_viewfeeder_name() const override { return "Test::Node"; }
     static void init();
 
+    const char* getCoreEditor() const override { return coreEditor.c_str(); }
+
     Obj::PropertyInteger count{3};
     Obj::PropertyString fixed{"as it is"};
     Obj::PropertyString hidden{"unseen"};
     std::string content;
+    std::string coreEditor;
 
 private:
     static inline Kelta::TypeInfo type;
@@ -73,7 +91,6 @@ public:
     TestNode();
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init();
-    bool on_double_clicked() override { return ++opened > 0; }
     bool setEdit(int mode) override;
     void updateData(const Obj::Property* changed) override { changes.push_back(changed); }
     void build_context_menu(const char* recipient, Gui::MenuItem* menu) override;
@@ -81,6 +98,15 @@ public:
 
     Obj::PropertyColor color;
     void leaveOutPicture() { pixmapName = ""; }
+    bool isShow() const override { return shown; }
+    bool useNewSelectionModel() const override { return selectsItself; }
+    std::vector<std::string> getDisplayModes() const override { return displayModes; }
+    bool on_double_clicked() override { return ++opened > 0 && opensItself; }
+
+    bool shown = true;
+    bool selectsItself = false;
+    bool opensItself = true;
+    std::vector<std::string> displayModes;
 
     int opened = 0;
     std::vector<int> editModes;
@@ -98,6 +124,21 @@ public:
     TestProjectNode() { pixmapName = "kelta_copy"; }
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init();
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+/// A document window that an object can name as its editor.
+class TestEditor final : public Gui::MDIWindow
+{
+public:
+    TestEditor() : MDIWindow(nullptr, nullptr) {}
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+    void editObject(Gui::GuiProject& project, Obj::ProjectObject& object) override;
+
+    std::string shownLabel;
 
 private:
     static inline Kelta::TypeInfo type;
@@ -170,6 +211,7 @@ protected:
     /// The text of a row, up to date.
     QString shownText(const Obj::ProjectObject& object) const;
 
+    Gui::Contributions contributions; ///< what modules add to the window
     std::unique_ptr<Gui::MainWindow> window;
 };
 

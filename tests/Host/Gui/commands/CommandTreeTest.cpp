@@ -71,4 +71,43 @@ TEST(CommandTree, FindsItemsAtAnyDepth)
     EXPECT_EQ(root.look_for_item("Paste"), nullptr);
 }
 
+TEST(CommandTree, DividesItsChildrenIntoSections)
+{
+    MenuItem menu;
+    menu.beginSection("New", Gui::SectionLine::Hidden);
+    menu.beginSection("Open", Gui::SectionLine::Shown);
+    menu << "Open";
+    EXPECT_THAT(childrenOf(menu), ElementsAre("", "Separator", "Open"));
+    EXPECT_TRUE(menu.items()[0]->isSection());
+    EXPECT_FALSE(menu.items()[0]->is_separator());
+    EXPECT_TRUE(menu.items()[1]->is_separator());
+    EXPECT_EQ(menu.items()[1]->section(), "Open");
+    EXPECT_FALSE(menu.items()[2]->isSection());
+}
+
+TEST(CommandTree, AddsAtTheEndOfASection)
+{
+    MenuItem menu;
+    menu.beginSection("New", Gui::SectionLine::Hidden);
+    menu.beginSection("Open", Gui::SectionLine::Hidden);
+    menu << "Open"
+         << "Separator"
+         << "After";
+    menu.addToSection("New", makeItem("New"));
+    menu.addToSection("Open", makeItem("Second"));
+    menu.addToSection("New", makeItem("Third"));
+    menu.addToSection("New", nullptr);
+    EXPECT_THAT(childrenOf(menu), ElementsAre("", "New", "Third", "", "Open", "Second", "Separator", "After"));
+}
+
+TEST(CommandTree, BeginsASectionThatDoesNotExistAtTheEnd)
+{
+    MenuItem menu;
+    menu << "A";
+    menu.addToSection("Own", makeItem("B"));
+    menu.addToSection("Own", makeItem("C"));
+    EXPECT_THAT(childrenOf(menu), ElementsAre("A", "Separator", "B", "C"));
+    EXPECT_EQ(menu.items()[1]->section(), "Own");
+}
+
 } // namespace

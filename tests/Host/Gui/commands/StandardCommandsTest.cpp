@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QStatusBar>
 
 namespace {
 
@@ -294,7 +295,35 @@ TEST_F(StandardCommands, TellWhatTheProgramIs)
     EXPECT_TRUE(run("Std_About"));
     ASSERT_THAT(boxes.shown(), SizeIs(1));
     EXPECT_EQ(boxes.shown()[0].title, "About");
-    EXPECT_TRUE(boxes.shown()[0].text.contains("26 ready-made materials"));
+    EXPECT_TRUE(boxes.shown()[0].text.startsWith("<h3>" + QCoreApplication::applicationName()));
+}
+
+TEST_F(StandardCommands, HandTheCurrentProjectOverToTheSolver)
+{
+    EXPECT_FALSE(isApplicable("Std_Collect"));
+    vxtest::TestProject& other = makeProject("Other");
+    vxtest::TestProject& project = makeProject("Bridge");
+    EXPECT_TRUE(run("Std_Collect"));
+    EXPECT_EQ(project.collections, 1);
+    EXPECT_EQ(other.collections, 0);
+    EXPECT_EQ(lastMessage(), "\"Bridge\" was handed over to the solver.");
+    EXPECT_EQ(window->statusBar()->currentMessage(), "\"Bridge\" was handed over to the solver.");
+}
+
+TEST_F(StandardCommands, HandAProjectOverWithoutAWindowToo)
+{
+    window.reset();
+    vxtest::TestProject& project = makeProject();
+    EXPECT_TRUE(run("Std_Collect"));
+    EXPECT_EQ(project.collections, 1);
+}
+
+TEST_F(StandardCommands, SayThatHandingOverFailed)
+{
+    vxtest::TestProject& project = makeProject();
+    project.collectFails = true;
+    EXPECT_FALSE(run("Std_Collect"));
+    EXPECT_EQ(lastMessage(), "The command \"Hand over to the solver\" failed: no solver");
 }
 
 TEST_F(StandardCommands, ClearTheMessages)

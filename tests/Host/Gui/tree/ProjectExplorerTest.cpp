@@ -2,6 +2,8 @@
 
 #include "GuiTesting.h"
 
+#include "Obj/ProjectObjectGroup.h"
+
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
@@ -73,6 +75,29 @@ protected:
         QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
         QApplication::sendEvent(explorer().viewport(), &event);
         return offered;
+    }
+
+    /// Chooses an entry of the menu "Display as" of the first object.
+    void chooseDisplayMode(const QString& mode) const
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            timer.stop();
+            for (const QMenu* const choices : menu->findChildren<QMenu*>())
+                for (QAction* const action : choices->actions()) {
+                    EXPECT_EQ(action->isChecked(), action->text() == QStringLiteral("Shaded"));
+                    if (action->text() == mode)
+                        action->trigger();
+                }
+            menu->close();
+        });
+        timer.start(1);
+        const QPoint place = placeOf(first);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(explorer().viewport(), &event);
     }
 
     std::vector<Obj::ProjectObject*> selectedObjects() const
@@ -289,6 +314,56 @@ TEST_F(Explorer, ExpandsAProjectWhenObjectsCome)
     QCoreApplication::processEvents();
     model().synchronize();
     EXPECT_TRUE(explorer().isExpanded(model().indexOf(other)));
+}
+
+TEST_F(Explorer, SelectsTheMembersOfGroupsToo)
+{
+    auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
+    group->add_member(first);
+    explorer().selectAllObjects();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second, group));
+}
+
+TEST_F(Explorer, KeepsTheSelectionOfWhatAGroupTakesIn)
+{
+    auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
+    click(first);
+    group->add_member(first);
+    model().synchronize();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first));
+    EXPECT_TRUE(explorer().isExpanded(model().indexOf(*group)));
+    EXPECT_TRUE(explorer().selectionModel()->isSelected(model().indexOf(first)));
+}
+
+TEST_F(Explorer, LeavesTheSelectionOfNodesWithTheirOwnAlone)
+{
+    nodeOf(first).selectsItself = true;
+    click(second);
+    click(first);
+    EXPECT_THAT(selectedObjects(), testing::IsEmpty());
+    explorer().selectAllObjects();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&second));
+}
+
+TEST_F(Explorer, OffersTheDisplayModesOfANodeThatHasSeveral)
+{
+    nodeOf(first).displayModes = {"Shaded"};
+    EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Display as")));
+    nodeOf(first).displayModes = {"Shaded", "Wireframe"};
+    EXPECT_TRUE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Display as")));
+    nodeOf(first).setDisplayMode("Shaded");
+    chooseDisplayMode("Wireframe");
+    EXPECT_EQ(nodeOf(first).getDisplayMode(), "Wireframe");
+    EXPECT_EQ(nodeOf(second).getDisplayMode(), "");
+}
+
+TEST_F(Explorer, OffersInItsEmptyAreaWhatModulesContribute)
+{
+    const QPoint corner = explorer().viewport()->rect().bottomRight() - QPoint(2, 2);
+    EXPECT_FALSE(contextMenuAt(corner).contains(QStringLiteral("Select &all")));
+    contributions.addToTreeMenu("Std_SelectAll");
+    EXPECT_TRUE(contextMenuAt(corner).contains(QStringLiteral("Select &all")));
+    EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
 }
 
 } // namespace

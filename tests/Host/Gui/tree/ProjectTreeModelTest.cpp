@@ -2,10 +2,14 @@
 
 #include "GuiTesting.h"
 
+#include "Obj/ProjectObjectGroup.h"
+
 #include <QAbstractItemModelTester>
 #include <QFont>
 #include <QIcon>
 #include <QSignalSpy>
+
+#include <random>
 
 namespace {
 
@@ -27,7 +31,7 @@ protected:
         return labels;
     }
 
-    ProjectTreeModel tree;
+    ProjectTreeModel tree{*Gui::GuiApplication::Instance};
     QAbstractItemModelTester tester;
 };
 
@@ -50,7 +54,7 @@ TEST_F(Tree, ShowsProjectsThatWereOpenBeforeIt)
 {
     vxtest::TestProject& project = makeProject();
     addObject(project, "A");
-    const ProjectTreeModel late;
+    const ProjectTreeModel late(*Gui::GuiApplication::Instance);
     EXPECT_EQ(late.rowCount({}), 1);
     EXPECT_EQ(late.rowCount(late.indexOf(project)), 1);
 }
@@ -202,6 +206,224 @@ TEST_F(Tree, HoldsTenThousandObjects)
     const QModelIndex parent = tree.indexOf(project);
     ASSERT_EQ(tree.rowCount(parent), 10000);
     EXPECT_EQ(tree.objectAt(tree.index(9999, 0, parent)), project.get_object(10000U));
+}
+
+/// A tree of groups and their members: "Group[A, Inner[B]], C".
+class Groups : public Tree
+{
+protected:
+    Groups() : project(makeProject()) { undoStack().clear(); }
+
+    Obj::ProjectObjectGroup& addGroup(const char* label)
+    {
+        return *static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", label));
+    }
+    std::string shape()
+    {
+        tree.synchronize();
+        return below(tree.indexOf(project));
+    }
+    // NOLINTNEXTLINE(misc-no-recursion): a few levels
+    std::string below(const QModelIndex& parent) const
+    {
+        std::string text;
+        for (int row = 0; row < tree.rowCount(parent); ++row) {
+            const QModelIndex index = tree.index(row, 0, parent);
+            text += (row > 0 ? ", " : "") + index.data().toString().toStdString();
+            if (tree.rowCount(index) > 0)
+                text += "[" + below(index) + "]";
+        }
+        return text;
+    }
+
+    vxtest::TestProject& project;
+};
+
+TEST_F(Groups, HaveTheirMembersUnderThem)
+{
+    Obj::ProjectObjectGroup& group = addGroup("Group");
+    vxtest::TestObject& a = addObject(project, "A");
+    vxtest::TestObject& b = addObject(project, "B");
+    addObject(project, "C");
+    EXPECT_EQ(shape(), "Group, A, B, C");
+    group.add_member(b);
+    group.add_member(a);
+    EXPECT_EQ(shape(), "Group[A, B], C");
+    EXPECT_EQ(tree.parent(tree.indexOf(a)), tree.indexOf(group));
+    EXPECT_EQ(tree.objectAt(tree.index(1, 0, tree.indexOf(group))), &b);
+}
+
+TEST_F(Groups, TakeMembersInAndLetThemGoWhenTheEventLoopIsIdle)
+{
+    Obj::ProjectObjectGroup& group = addGroup("Group");
+    vxtest::TestObject& a = addObject(project, "A");
+    EXPECT_EQ(shape(), "Group, A");
+    group.add_member(a);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree.rowCount(tree.indexOf(group)) == 1; }));
+    group.remove_member(a);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree.rowCount(tree.indexOf(group)) == 0; }));
+    EXPECT_EQ(shape(), "Group, A");
+}
+
+TEST_F(Groups, MoveRowsThatKeepTheirIdentity)
+{
+    Obj::ProjectObjectGroup& group = addGroup("Group");
+    vxtest::TestObject& a = addObject(project, "A");
+    tree.synchronize();
+    const QPersistentModelIndex index = tree.indexOf(a);
+    QSignalSpy moved(&tree, &ProjectTreeModel::rowsMoved);
+    QSignalSpy removed(&tree, &ProjectTreeModel::rowsRemoved);
+    group.add_member(a);
+    tree.synchronize();
+    EXPECT_EQ(moved.count(), 1);
+    EXPECT_EQ(removed.count(), 0);
+    EXPECT_EQ(index, tree.indexOf(a));
+}
+
+TEST_F(Groups, CanBeInGroups)
+{
+    Obj::ProjectObjectGroup& inner = addGroup("Inner");
+    vxtest::TestObject& a = addObject(project, "A");
+    Obj::ProjectObjectGroup& outer = addGroup("Outer");
+    inner.add_member(a);
+    outer.add_member(inner);
+    EXPECT_EQ(shape(), "Outer[Inner[A]]");
+    // The other way round.
+    outer.remove_member(inner);
+    inner.add_member(outer);
+    EXPECT_EQ(shape(), "Inner[A, Outer]");
+}
+
+TEST_F(Groups, ThatContainEachOtherAreBrokenUpAtTheFirst)
+{
+    Obj::ProjectObjectGroup& first = addGroup("First");
+    Obj::ProjectObjectGroup& second = addGroup("Second");
+    first.add_member(second);
+    second.add_member(first);
+    EXPECT_EQ(shape(), "First[Second]");
+    vxtest::TestObject& a = addObject(project, "A");
+    second.add_member(a);
+    EXPECT_EQ(shape(), "First[Second[A]]");
+}
+
+TEST_F(Groups, ShowAMemberOfSeveralUnderTheFirst)
+{
+    Obj::ProjectObjectGroup& first = addGroup("First");
+    Obj::ProjectObjectGroup& second = addGroup("Second");
+    vxtest::TestObject& a = addObject(project, "A");
+    second.add_member(a);
+    first.add_member(a);
+    EXPECT_EQ(shape(), "First[A], Second");
+    first.remove_member(a);
+    EXPECT_EQ(shape(), "First, Second[A]");
+}
+
+TEST_F(Groups, GiveTheirMembersBackWhenTheyAreDeleted)
+{
+    Obj::ProjectObjectGroup& outer = addGroup("Outer");
+    Obj::ProjectObjectGroup& inner = addGroup("Inner");
+    vxtest::TestObject& a = addObject(project, "A");
+    vxtest::TestObject& b = addObject(project, "B");
+    outer.add_member(inner);
+    inner.add_member(a);
+    inner.add_member(b);
+    EXPECT_EQ(shape(), "Outer[Inner[A, B]]");
+    auto taken = project.take_object(inner.getObjectId());
+    EXPECT_EQ(shape(), "Outer, A, B");
+    project.restore_object(std::move(taken));
+    EXPECT_EQ(shape(), "Outer[Inner[A, B]]");
+    project.remove_object(b.getObjectId());
+    EXPECT_EQ(shape(), "Outer[Inner[A]]");
+    project.remove_object(a.getObjectId());
+    EXPECT_EQ(shape(), "Outer[Inner]");
+    project.remove_object(outer.getObjectId());
+    EXPECT_EQ(shape(), "Inner");
+}
+
+TEST_F(Groups, LoseMembersThatAreDeletedWithThem)
+{
+    Obj::ProjectObjectGroup& group = addGroup("Group");
+    vxtest::TestObject& a = addObject(project, "A");
+    addObject(project, "B");
+    group.add_member(a);
+    EXPECT_EQ(shape(), "Group[A], B");
+    project.remove_object(group.getObjectId());
+    project.remove_object(a.getObjectId());
+    EXPECT_EQ(shape(), "B");
+}
+
+TEST_F(Groups, FollowRandomChanges)
+{
+    std::vector<Obj::ProjectObjectGroup*> groups;
+    std::vector<Obj::ProjectObject*> objects;
+    for (int i = 0; i < 5; ++i)
+        objects.push_back(groups.emplace_back(&addGroup("Group")));
+    for (int i = 0; i < 20; ++i)
+        objects.push_back(&addObject(project));
+    std::mt19937 random(7);
+    std::vector<std::unique_ptr<Obj::ProjectObject>> away;
+    for (int round = 0; round < 500; ++round) {
+        Obj::ProjectObjectGroup& group = *groups[random() % groups.size()];
+        Obj::ProjectObject& object = *objects[random() % objects.size()];
+        switch (random() % 4) {
+        case 0:
+            group.add_member(object);
+            break;
+        case 1:
+            group.remove_member(object);
+            break;
+        case 2:
+            if (object.get_project() != nullptr)
+                away.push_back(project.take_object(object.getObjectId()));
+            break;
+        default:
+            if (!away.empty()) {
+                project.restore_object(std::move(away.back()));
+                away.pop_back();
+            }
+        }
+        // A model that is made anew shows the same, and the tester has seen every step.
+        const ProjectTreeModel fresh(*Gui::GuiApplication::Instance);
+        tree.synchronize();
+        for (const Obj::ProjectObject* const present : project.get_objects()) {
+            EXPECT_TRUE(tree.indexOf(*present).isValid());
+            EXPECT_EQ(tree.objectAt(tree.indexOf(*present).parent()), fresh.objectAt(fresh.indexOf(*present).parent()));
+            EXPECT_EQ(tree.indexOf(*present).row(), fresh.indexOf(*present).row());
+        }
+    }
+}
+
+TEST_F(Groups, OfTenThousandAreMovedInOneTurn)
+{
+    Obj::ProjectObjectGroup& group = addGroup("Group");
+    for (int i = 0; i < 10000; ++i)
+        group.add_member(addObject(project));
+    tree.synchronize();
+    EXPECT_EQ(tree.rowCount(tree.indexOf(group)), 10000);
+    EXPECT_EQ(tree.rowCount(tree.indexOf(project)), 1);
+}
+
+TEST_F(Tree, LeavesOutNodesThatAreNotShown)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& hidden = addObject(project, "Hidden");
+    addObject(project, "Shown");
+    nodeOf(hidden).shown = false;
+    EXPECT_EQ(labelsOf(project), QStringList({"Shown"}));
+    EXPECT_FALSE(tree.indexOf(hidden).isValid());
+    nodeOf(hidden).shown = true;
+    hidden.notifyChange();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree.indexOf(hidden).isValid(); }));
+    EXPECT_EQ(labelsOf(project), QStringList({"Hidden", "Shown"}));
+}
+
+TEST_F(Tree, DoesNotSelectNodesThatHaveASelectionOfTheirOwn)
+{
+    vxtest::TestObject& object = addObject(makeProject(), "A");
+    tree.synchronize();
+    EXPECT_TRUE((tree.flags(tree.indexOf(object)) & Qt::ItemIsSelectable) != 0);
+    nodeOf(object).selectsItself = true;
+    EXPECT_TRUE((tree.flags(tree.indexOf(object)) & Qt::ItemIsSelectable) == 0);
 }
 
 } // namespace

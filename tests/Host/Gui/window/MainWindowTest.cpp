@@ -189,7 +189,7 @@ TEST_F(MainWindowTest, KeepsItsLayoutForTheNextStart)
     window->save_layout();
 
     window.reset();
-    window = std::make_unique<Gui::MainWindow>();
+    window = std::make_unique<Gui::MainWindow>(contributions);
     window->set_workbench("Gui::StdSimModule");
     window->restore_layout();
     window->show();

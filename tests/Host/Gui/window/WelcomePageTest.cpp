@@ -1,79 +1,102 @@
 #include "GuiTesting.h"
 
-#include "Gui/TreeSelectionSingleton.h"
+#include "Gui/Contributions.h"
 
 #include <QLabel>
 #include <QPushButton>
 
 namespace {
 
-using WithoutModule = vxtest::Host;
+using Gui::WelcomeStep;
+
+/// The page as the user sees it.
+class Page : public vxtest::Host
+{
+protected:
+    QWidget* page() const { return window->findChild<QWidget*>(QStringLiteral("welcomePage")); }
+    QString title() const { return page()->findChildren<QLabel*>()[0]->text(); }
+    QString text() const { return page()->findChildren<QLabel*>()[1]->text(); }
+    QPushButton* button(const char* name) const { return page()->findChild<QPushButton*>(QLatin1String(name)); }
+    QStringList visibleButtons() const
+    {
+        QStringList names;
+        for (const QPushButton* const shown : page()->findChildren<QPushButton*>())
+            if (shown->isVisible())
+                names << shown->objectName();
+        return names;
+    }
+    bool waitForButtons(const QStringList& names) const
+    {
+        return QTest::qWaitFor([&] { return visibleButtons() == names; });
+    }
+    void click(const char* name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+};
+
+using WithoutModule = Page;
 
 TEST_F(WithoutModule, TheWelcomePageSaysWhatIsMissing)
 {
-    if (commands().find_command("Mat_NewDoc") != nullptr)
-        GTEST_SKIP() << "another test of this process has brought the commands";
     window->update_commands();
-    const auto* const page = window->findChild<QWidget*>(QStringLiteral("welcomePage"));
-    EXPECT_EQ(page->findChildren<QLabel*>()[0]->text(), "The materials module is missing");
-    EXPECT_EQ(page->findChildren<QLabel*>()[1]->text(), "The messages tell why it could not be loaded.");
-    for (const QPushButton* const button : page->findChildren<QPushButton*>())
-        EXPECT_FALSE(button->isVisible());
+    EXPECT_EQ(title(), "No module is loaded");
+    EXPECT_EQ(text(), "The messages say which modules could not be loaded, and why.");
+    EXPECT_EQ(visibleButtons(), QStringList());
 }
 
-/// The page offers commands that a module brings; here they are small ones.
-class Welcome : public vxtest::Host
+/// A module that offers a first step for every project, and further ones for its own class of projects.
+class Welcome : public Page
 {
 protected:
     Welcome()
     {
-        if (commands().find_command("Mat_NewDoc") == nullptr) {
-            commands().new_command(new vxtest::TestCommand("Mat_NewDoc", [] { makeProject(); }));
-            commands().new_command(new vxtest::TestCommand(
-                "Mat_AddMaterial", [] { addObject(*Obj::Application::get_current_project()); }));
-            commands().new_command(new vxtest::TestCommand("Mat_Edit", [] {
-                Gui::MainWindow::get_main_window_inst()->add_mdi_window(new Gui::MDIWindow(nullptr, nullptr));
-            }));
-        }
+        addCommand("Test_New", [] { makeProject(); });
+        addCommand("Test_Add", [] { addObject(*Obj::Application::get_current_project()); });
+        addCommand("Test_Edit", [] {
+            Gui::MainWindow::get_main_window_inst()->add_mdi_window(new Gui::MDIWindow(nullptr, nullptr));
+        });
+        const auto hasSelection = [] { return selection().get_count() != 0; };
+        contributions.addWelcomeEntry({WelcomeStep::NoProject,
+                                       "",
+                                       {"Test", "No probes yet"},
+                                       {"Test", "Begin with a project of probes."},
+                                       {"Test_New", "No_Such"}});
+        contributions.addWelcomeEntry({WelcomeStep::EmptyProject,
+                                       "Test::Project",
+                                       {"Test", "The project has no probes"},
+                                       {"Test", "Add one."},
+                                       {"Test_Add"}});
+        contributions.addWelcomeEntry({WelcomeStep::NoDocument,
+                                       "Test::Project",
+                                       {"Test", "No probe is open"},
+                                       {"Test", "Select one & open it."},
+                                       {"Test_Edit"},
+                                       hasSelection});
         window->set_workbench("Gui::StdSimModule");
     }
 
-    QWidget* page() const { return window->findChild<QWidget*>(QStringLiteral("welcomePage")); }
-    QStringList visibleButtons() const
+    static void addCommand(const char* name, std::function<void()> action)
     {
-        QStringList names;
-        for (const QPushButton* const button : page()->findChildren<QPushButton*>())
-            if (button->isVisible())
-                names << button->objectName();
-        return names;
+        if (commands().find_command(name) == nullptr)
+            commands().new_command(new vxtest::TestCommand(name, std::move(action)));
     }
-    bool waitForButton(const char* name) const
-    {
-        return QTest::qWaitFor([&] { return visibleButtons() == QStringList(QLatin1String(name)); });
-    }
-    void click(const char* name) const
-    {
-        QTest::mouseClick(page()->findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
-    }
-    QString title() const { return page()->findChild<QLabel*>()->text(); }
 };
 
 TEST_F(Welcome, LeadsFromNothingToAnOpenDocument)
 {
-    ASSERT_TRUE(waitForButton("Mat_NewDoc"));
-    EXPECT_EQ(title(), "No project is open");
-    click("Mat_NewDoc");
-    ASSERT_TRUE(waitForButton("Mat_AddMaterial"));
-    EXPECT_EQ(title(), "The project has no materials yet");
-    click("Mat_AddMaterial");
-    ASSERT_TRUE(waitForButton("Mat_Edit"));
-    EXPECT_EQ(title(), "No material is open");
+    ASSERT_TRUE(waitForButtons({"Test_New"}));
+    EXPECT_EQ(title(), "No probes yet");
+    EXPECT_EQ(text(), "Begin with a project of probes.");
+    click("Test_New");
+    ASSERT_TRUE(waitForButtons({"Test_Add"}));
+    EXPECT_EQ(title(), "The project has no probes");
+    click("Test_Add");
+    ASSERT_TRUE(waitForButtons({"Test_Edit"}));
+    EXPECT_EQ(title(), "No probe is open");
+    EXPECT_EQ(text(), "Select one & open it.");
 
-    const auto* const edit = page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"));
-    EXPECT_FALSE(edit->isEnabled());
-    Gui::TreeSelectionSingleton::instance().set_selection({}, Obj::Application::get_current_project()->get_objects());
-    ASSERT_TRUE(QTest::qWaitFor([edit] { return edit->isEnabled(); }));
-    click("Mat_Edit");
+    EXPECT_FALSE(button("Test_Edit")->isEnabled());
+    selection().set_selection({}, Obj::Application::get_current_project()->get_objects());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return button("Test_Edit")->isEnabled(); }));
+    click("Test_Edit");
     EXPECT_FALSE(page()->isVisible());
     window->close_current_window();
     EXPECT_TRUE(QTest::qWaitFor([this] { return page()->isVisible(); }));
@@ -81,21 +104,21 @@ TEST_F(Welcome, LeadsFromNothingToAnOpenDocument)
 
 TEST_F(Welcome, FollowsUndo)
 {
-    ASSERT_TRUE(waitForButton("Mat_NewDoc"));
-    click("Mat_NewDoc");
-    ASSERT_TRUE(waitForButton("Mat_AddMaterial"));
-    click("Mat_AddMaterial");
-    ASSERT_TRUE(waitForButton("Mat_Edit"));
+    ASSERT_TRUE(waitForButtons({"Test_New"}));
+    click("Test_New");
+    ASSERT_TRUE(waitForButtons({"Test_Add"}));
+    click("Test_Add");
+    ASSERT_TRUE(waitForButtons({"Test_Edit"}));
     undoStack().undo();
-    EXPECT_TRUE(waitForButton("Mat_AddMaterial"));
+    EXPECT_TRUE(waitForButtons({"Test_Add"}));
 }
 
 TEST_F(Welcome, HasTheKeyboardOnItsButton)
 {
-    ASSERT_TRUE(waitForButton("Mat_NewDoc"));
-    auto* const button = page()->findChild<QPushButton*>(QStringLiteral("Mat_NewDoc"));
-    button->setFocus();
-    QTest::keyClick(button, Qt::Key_Space);
+    ASSERT_TRUE(waitForButtons({"Test_New"}));
+    EXPECT_EQ(page()->focusProxy(), button("Test_New"));
+    button("Test_New")->setFocus();
+    QTest::keyClick(button("Test_New"), Qt::Key_Space);
     EXPECT_EQ(Obj::Application::get_projects().size(), 1U);
 }
 
@@ -103,27 +126,51 @@ TEST_F(Welcome, OffersTheEditingOfWhatIsSelectedAlone)
 {
     vxtest::TestProject& project = makeProject();
     addObject(project);
-    ASSERT_TRUE(waitForButton("Mat_Edit"));
-    auto* const button = page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"));
-    EXPECT_FALSE(button->isEnabled());
+    ASSERT_TRUE(waitForButtons({"Test_Edit"}));
+    EXPECT_FALSE(button("Test_Edit")->isEnabled());
     select({project.get_objects()[0]});
-    EXPECT_TRUE(QTest::qWaitFor([button] { return button->isEnabled(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return button("Test_Edit")->isEnabled(); }));
 }
 
-// The last one: the command stays in the program.
+TEST_F(Welcome, SaysWhatTheHostCanSayOfProjectsOfOtherClasses)
+{
+    Obj::Project* const project = Obj::Application::instance().create_project("Test::OtherProject", "Other");
+    ASSERT_NE(project, nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return title() == "The project is empty"; }));
+    EXPECT_EQ(visibleButtons(), QStringList());
+    addObject(*project);
+    window->update_commands();
+    EXPECT_EQ(title(), "No document is open");
+    EXPECT_EQ(text(), "Double-click an object in the project explorer.");
+}
+
+// The last ones: what they add stays in the program.
 TEST_F(Welcome, OffersToOpenAProjectWhereThereIsSuchACommand)
 {
-    ASSERT_TRUE(waitForButton("Mat_NewDoc"));
+    ASSERT_TRUE(waitForButtons({"Test_New"}));
     int opened = 0;
     commands().new_command(new vxtest::TestCommand("Std_Open", [&opened] { ++opened; }));
     window->update_commands();
-    EXPECT_EQ(visibleButtons(), QStringList({"Mat_NewDoc", "Std_Open"}));
-    EXPECT_EQ(page()->focusProxy()->objectName(), "Mat_NewDoc");
-    EXPECT_TRUE(page()->findChildren<QLabel*>()[1]->text().contains("open a saved one"));
+    EXPECT_EQ(visibleButtons(), QStringList({"Test_New", "Std_Open"}));
+    EXPECT_EQ(page()->focusProxy(), button("Test_New"));
     click("Std_Open");
     EXPECT_EQ(opened, 1);
     makeProject();
-    EXPECT_TRUE(waitForButton("Mat_AddMaterial"));
+    EXPECT_TRUE(waitForButtons({"Test_Add"}));
+}
+
+TEST_F(Welcome, OffersWhatSeveralModulesOfferUnderATitleOfItsOwn)
+{
+    addCommand("Test_NewOther", [] {});
+    contributions.addWelcomeEntry({WelcomeStep::NoProject,
+                                   "",
+                                   {"Test", "No sensors yet"},
+                                   {"Test", "Or with sensors."},
+                                   {"Test_NewOther", "Test_New"}});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return visibleButtons().contains(QStringLiteral("Test_NewOther")); }));
+    EXPECT_EQ(visibleButtons().count(QStringLiteral("Test_New")), 1);
+    EXPECT_EQ(title(), "No project is open");
+    EXPECT_EQ(text(), "Begin with a project of probes.\nOr with sensors.");
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "application/HostStyle.h"
 
-#include "pictures/LazyIcon.h"
-
-#include <QPointer>
+#include "Gui/PictureFactory.h"
 
 namespace Gui {
 
@@ -14,18 +12,9 @@ QIcon HostStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* o
 {
     switch (standardIcon) {
     case SP_ToolBarHorizontalExtensionButton:
+        return PictureFactory::get_icon(QStringLiteral("kelta_more_right"));
     case SP_ToolBarVerticalExtensionButton:
-        return makeLazyIcon([style = QPointer<const HostStyle>(this), standardIcon](const QSize& size) {
-            return style != nullptr ? style->QProxyStyle::standardIcon(standardIcon).pixmap(size) : QPixmap();
-        });
-    case SP_TitleBarNormalButton:
-    case SP_TitleBarCloseButton:
-    case SP_DockWidgetCloseButton: {
-        QIcon& icon = m_titleIcons[standardIcon];
-        if (icon.isNull())
-            icon = QProxyStyle::standardIcon(standardIcon, option, widget);
-        return icon;
-    }
+        return PictureFactory::get_icon(QStringLiteral("kelta_more_below"));
     default:
         return QProxyStyle::standardIcon(standardIcon, option, widget);
     }

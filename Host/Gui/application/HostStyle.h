@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QHash>
 #include <QIcon>
 #include <QProxyStyle>
 
 namespace Gui {
 
-/// The style of the platform, with its icons at less expense: bars ask for the icon of a button that only too narrow a
-/// window has, and each dock reads the same pictures again for its title.
+/// The style of the platform, with own icons for the buttons that toolbars show if the window is too narrow. The icons of
+/// the platform are read from files as soon as a toolbar is made, which makes the start 6 % longer (gui_bench).
 class HostStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -18,9 +17,6 @@ public:
 
     QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
-
-private:
-    mutable QHash<int, QIcon> m_titleIcons;
 };
 
 } // namespace Gui

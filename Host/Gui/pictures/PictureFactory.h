@@ -11,12 +11,12 @@ namespace Gui {
 class GUI_EXPORT PictureFactory
 {
 public:
-    /// The picture at a resource path, or under a bare name that of ":icons/<name>.svg", sharp at `size` by `size`
-    /// pixels. A plain grey square when there is none, so that what shows it keeps its place; reported once.
+    /// Returns the picture at a resource path, or, for a bare name, that of ":icons/<name>.svg", sharp at `size` by `size`
+    /// pixels. If there is none, returns a plain grey square, so that the layout stays as it is, and reports it once.
     static QPixmap get_pixmap(const QString& nameOrPath, int size = 32);
     static QPixmap get_pixmap(const char* nameOrPath) { return get_pixmap(QString::fromUtf8(nameOrPath)); }
 
-    /// The same picture as an icon, which is drawn when it is first seen and sharp at every size.
+    /// Returns the same picture as an icon, which is sharp at every size.
     static QIcon get_icon(const QString& nameOrPath);
 };
 

@@ -69,7 +69,10 @@ void DockSet::add(const DockEntry& entry)
     if (m_window.restoreDockWidget(dock))
         return;
     m_window.addDockWidget(areaOf(entry.area), dock);
-    dock->setVisible(entry.visibility == DockVisibility::ShownAtFirst);
+    if (entry.visibility == DockVisibility::HiddenAtFirst)
+        dock->hide();
+    else if (m_window.isVisible())
+        dock->show();
 }
 
 void DockSet::addContributed(const Contributions& contributions, CommandController& commands)

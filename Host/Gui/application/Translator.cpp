@@ -15,13 +15,13 @@ namespace Gui {
 
 namespace {
 
-/// What ends the names of the files that may serve a language: "zh_CN", then "zh".
+/// The endings of the names of files that can serve a language, the best first: "zh_CN", then "zh".
 QStringList endingsFor(const QString& language)
 {
     return {language, language.section(QLatin1Char('_'), 0, 0)};
 }
 
-/// The files of `names` that serve the language best. Names are compared as they are: patterns would have to be compiled,
+/// The files of `names` that serve the language best. Names are compared as they are: patterns would have to be compiled
 /// at each start of the program.
 QStringList filesFor(const QString& language, const QStringList& names)
 {
@@ -36,6 +36,16 @@ QStringList filesFor(const QString& language, const QStringList& names)
     return {};
 }
 
+/// The file with Qt's own texts, such as those of the buttons of message boxes; none if Qt's translations are not
+/// installed. The folder of Qt's translations may hold thousands of files, so that it is not listed.
+QStringList toolkitFilesFor(const QString& language, const QString& folder)
+{
+    for (const QString& ending : endingsFor(language))
+        if (const QString name = QStringLiteral("qtbase_%1.qm").arg(ending); QFileInfo::exists(QDir(folder).filePath(name)))
+            return {name};
+    return {};
+}
+
 } // namespace
 
 Translator* Translator::instance()
@@ -47,8 +57,7 @@ Translator* Translator::instance()
 Translator::Translator() : m_language(QLocale::system().name())
 {
     if (QCoreApplication::instance() != nullptr)
-        addFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                  QStringLiteral("/../share/vxMaterial/translations")));
+        addFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" GUI_TRANSLATIONS_FOLDER)));
 }
 
 Translator::~Translator() = default;
@@ -68,16 +77,9 @@ void Translator::addFolder(const QString& folder)
 void Translator::refresh()
 {
     clear();
-    // The toolkit's own texts, such as those of the buttons of message boxes.
     const QString toolkitFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    QStringList toolkitFiles;
-    for (const QString& ending : endingsFor(m_language))
-        toolkitFiles << QStringLiteral("qtbase_%1.qm").arg(ending);
-    const auto present = std::find_if(toolkitFiles.begin(), toolkitFiles.end(), [&toolkitFolder](const QString& name) {
-        return QFileInfo::exists(QDir(toolkitFolder).filePath(name));
-    });
-    if (present != toolkitFiles.end())
-        load(toolkitFolder, *present);
+    for (const QString& name : toolkitFilesFor(m_language, toolkitFolder))
+        load(toolkitFolder, name);
     for (const QString& folder : m_folders)
         for (const QString& name : filesFor(m_language, QDir(folder).entryList(QDir::Files, QDir::Name)))
             load(folder, name);
@@ -88,7 +90,8 @@ void Translator::load(const QString& folder, const QString& name)
 {
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(name, folder)) {
-        Kelta::MessageLog::warning(tr("The translation %1 cannot be read.").arg(QDir(folder).filePath(name)));
+        Kelta::MessageLog::warning(
+            tr("The translation %1 cannot be read; its texts are shown in English.").arg(QDir(folder).filePath(name)));
         return;
     }
     QCoreApplication::installTranslator(translator.get());

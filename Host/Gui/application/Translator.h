@@ -13,8 +13,9 @@
 namespace Gui {
 
 /// The language of the program's texts. Translations are files "<anything>_<language>.qm" in the folders of
-/// translations; all of the current language are used at once, those of modules included.
-// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): there is one, and nobody else ends its life
+/// translations; all of the current language are used at once, those of modules included, and Qt's own if they are
+/// installed.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): there is one, which only the program's end destroys
 class GUI_EXPORT Translator final : public QObject
 {
     Q_OBJECT
@@ -22,18 +23,18 @@ class GUI_EXPORT Translator final : public QObject
 public:
     static Translator* instance();
 
-    /// "de" or "zh_CN"; "en" for the texts as they stand in the program. The language of the system at first.
+    /// "de" or "zh_CN"; "en" for the texts of the program itself. At first it is the language of the system.
     const QString& language() const { return m_language; }
     void setLanguage(const QString& language);
 
-    /// The folders beside the program, as a build tree and an installation have them; more can be added.
+    /// The folders with translations: at first the one beside the program, in a build tree as in an installation.
     const QStringList& folders() const { return m_folders; }
     void addFolder(const QString& folder);
 
-    /// Loads the translations of the current language anew, as when a module has come with more. What cannot be read is
-    /// reported to the message log.
+    /// Loads the translations of the current language again, as needed after a module has brought more. Files that cannot
+    /// be read are reported to the message log.
     void refresh();
-    /// Takes all translations out, as the program's end asks for.
+    /// Removes all translations. To be called before the program ends.
     void clear();
 
 Q_SIGNALS:

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -80,8 +81,22 @@ TEST_F(Language, ReportsATranslationThatCannotBeRead)
     Translator::instance()->addFolder(folder.path());
     EXPECT_EQ(Translator::instance()->folders().count(folder.path()), 1);
     Translator::instance()->setLanguage(QStringLiteral("yy"));
-    EXPECT_THAT(lastMessage(), HasSubstr("broken_yy.qm cannot be read."));
+    EXPECT_THAT(lastMessage(), HasSubstr("broken_yy.qm cannot be read;"));
     EXPECT_EQ(menus().first(), "&File");
+}
+
+TEST_F(Language, IsThatOfQtsOwnTextsToo)
+{
+    const QDir folder(QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    if (!folder.exists(QStringLiteral("qtbase_de.qm")))
+        GTEST_SKIP() << "Qt's translations are not installed (Debian's qttranslations5-l10n)";
+    const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+    Translator::instance()->setLanguage(QStringLiteral("de_AT"));
+    EXPECT_EQ(cancel(), "Abbrechen");
+    Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
+    EXPECT_EQ(cancel(), QStringLiteral("取消"));
+    Translator::instance()->setLanguage(QStringLiteral("xx"));
+    EXPECT_EQ(cancel(), "Cancel");
 }
 
 TEST_F(Language, SaysWhenItChanges)

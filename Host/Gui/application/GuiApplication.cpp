@@ -3,6 +3,7 @@
 #include "Gui/Contributions.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
+#include "Gui/ObjectClipboard.h"
 #include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
@@ -16,6 +17,21 @@ namespace Gui {
 
 GuiApplication* GuiApplication::Instance = nullptr;
 
+namespace {
+
+/// The node of an object, or of the project if the object is null. The history may ask while the program ends.
+Obj::PropertyDS* findNode(const Obj::Project& project, Obj::ProjectObject* object)
+{
+    GuiProject* const guiProject =
+        GuiApplication::Instance != nullptr ? GuiApplication::Instance->get_project(&project) : nullptr;
+    if (guiProject == nullptr)
+        return nullptr;
+    return object != nullptr ? static_cast<Obj::PropertyDS*>(guiProject->get_view_feeder(object))
+                             : guiProject->get_view_feeder();
+}
+
+} // namespace
+
 void initGui()
 {
     Obj::initObj();
@@ -28,14 +44,15 @@ void initGui()
 }
 
 GuiApplication::GuiApplication(int& argc, char** argv)
-    : QApplication(argc, argv), m_contributions(std::make_unique<Contributions>())
+    : QApplication(argc, argv),
+      m_contributions(std::make_unique<Contributions>()),
+      m_requests(vxMsg::MessageProxy::instance()),
+      m_clipboard(std::make_unique<ObjectClipboard>(*this))
 {
     Instance = this;
     setStyle(new HostStyle);
     initGui();
-    // Made now, so that it is told of everything that happens to projects.
-    vxMsg::MessageProxy::instance();
-    addStandardCommands(m_commands, TreeSelectionSingleton::instance());
+    addStandardCommands(*this, TreeSelectionSingleton::instance());
     Obj::Application& application = Obj::Application::instance();
     for (Obj::Project* const project : Obj::Application::get_projects())
         addProject(*project);
@@ -63,6 +80,17 @@ ViewFeederProjectObject* GuiApplication::get_view_feeder(Obj::ProjectObject* obj
 {
     GuiProject* const project = object != nullptr ? get_project(object->get_project()) : nullptr;
     return project != nullptr ? project->get_view_feeder(object) : nullptr;
+}
+
+vxMsg::PropertyPlace GuiApplication::placeOf(const Obj::PropertyDS& owner) const
+{
+    if (const auto* const object = dynamic_cast<const Obj::ProjectObject*>(&owner))
+        return vxMsg::PropertyPlace(*object);
+    if (const auto* const project = dynamic_cast<const Obj::Project*>(&owner))
+        return vxMsg::PropertyPlace(*project);
+    if (const auto* const node = dynamic_cast<const ViewFeederProjectObject*>(&owner))
+        return vxMsg::PropertyPlace(*node->getObject(), findNode);
+    return vxMsg::PropertyPlace(*dynamic_cast<const ViewFeederProject&>(owner).getProject(), findNode);
 }
 
 void GuiApplication::disconnect_view(BaseView* view)

@@ -3,7 +3,10 @@
 #include "Gui/BaseView.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
+#include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -11,11 +14,14 @@ namespace Gui {
 
 namespace {
 
-/// A node of a registered class, or a plain one when the class is not known or of another kind.
+/// Returns a node of a registered class, or a plain node if the class is unknown, of another kind or cannot be made.
 template <typename Feeder>
 std::unique_ptr<Feeder> makeFeeder(const char* className)
 {
-    std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::create_by_name(className);
+    std::unique_ptr<Kelta::RootClass> created;
+    Kelta::guarded(QCoreApplication::translate("Gui::GuiProject", "The tree node \"%1\" cannot be made")
+                       .arg(QString::fromUtf8(className)),
+                   [&] { created = Kelta::RootClass::create_by_name(className); });
     if (auto* const feeder = dynamic_cast<Feeder*>(created.get())) {
         created.release(); // NOLINT(bugprone-unused-return-value): the pointer below owns it
         return std::unique_ptr<Feeder>(feeder);

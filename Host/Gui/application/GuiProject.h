@@ -21,8 +21,7 @@ class BaseView;
 class ViewFeederProject;
 class ViewFeederProjectObject;
 
-/// The side of a project that the user sees: its tree nodes and views. The GUI application makes one for each project
-/// that is open.
+/// The GUI side of a project: its tree nodes and views. The GUI application makes one for each project that is open.
 class GUI_EXPORT GuiProject : public QObject
 {
     Q_OBJECT
@@ -36,8 +35,9 @@ public:
 
     /// The node of the project.
     ViewFeederProject* get_view_feeder();
-    /// The node of an object of the project, of the class that the object names; null for an object of another project.
-    /// It is made when it is first asked for, and lives as long as the object is in the project.
+    /// Returns the node of an object of the project; null for an object of another project. The node is made when it is
+    /// first asked for, and lives as long as the object is in the project. It is of the class that the object names, or a
+    /// plain node if that class is unknown or cannot be made.
     ViewFeederProjectObject* get_view_feeder(Obj::ProjectObject* object);
 
     /// The views of the project that are open.

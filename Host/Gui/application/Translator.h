@@ -15,13 +15,13 @@ namespace Gui {
 /// The language of the program's texts. Translations are files "<anything>_<language>.qm" in the folders of
 /// translations; all of the current language are used at once, those of modules included, and Qt's own if they are
 /// installed.
-// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): there is one, which only the program's end destroys
 class GUI_EXPORT Translator final : public QObject
 {
     Q_OBJECT
 
 public:
     static Translator* instance();
+    ~Translator() override;
 
     /// "de" or "zh_CN"; "en" for the texts of the program itself. At first it is the language of the system.
     const QString& language() const { return m_language; }
@@ -42,7 +42,6 @@ Q_SIGNALS:
 
 private:
     Translator();
-    ~Translator() override;
     void load(const QString& folder, const QString& name);
 
     QString m_language;

@@ -1,94 +1,47 @@
 #include "Gui/ObjectClipboard.h"
 
+#include "Gui/GuiApplication.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+#include "clipboard/ObjectDescription.h"
+#include "clipboard/Pasting.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
-#include <QGuiApplication>
-#include <QLocale>
 #include <QMimeData>
 #include <json/reader.h>
 #include <json/writer.h>
 
-#include <locale>
-#include <map>
+#include <algorithm>
 #include <memory>
-#include <sstream>
 #include <utility>
 
 namespace Gui {
 
 namespace {
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("Gui::ObjectClipboard", text);
 }
 
-std::map<std::string, ObjectCodec>& codecs()
+bool holdsObjects(const Json::Value& root)
 {
-    static std::map<std::string, ObjectCodec> registered;
-    return registered;
+    return root.isObject() && root["kelta_objects"] == Json::Value(1) && root["objects"].isArray();
 }
 
-Json::Value describe(const Obj::ProjectObject& object)
-{
-    const std::string className = object.getTypeId().get_name();
-    Json::Value description;
-    description["class"] = className;
-    description["label"] = object.label.getValue();
-    description["suppressed"] = object.isSuppressed();
-    const auto codec = codecs().find(className);
-    if (codec != codecs().end())
-        description["content"] = codec->second.write(object);
-    return description;
-}
-
-/// Null for a text that is none of ours.
+/// Null for a text of another kind.
 Json::Value parse(const QByteArray& text)
 try {
     const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
     Json::Value root;
     std::string errors;
-    const bool ok = reader->parse(text.constData(), text.constData() + text.size(), &root, &errors);
-    return ok && root.isObject() && root["kelta_objects"] == Json::Value(1) && root["objects"].isArray()
-               ? root
-               : Json::Value();
+    const bool isJson = reader->parse(text.constData(), text.constData() + text.size(), &root, &errors);
+    return isJson && holdsObjects(root) ? root : Json::Value();
 } catch (const Json::Exception&) {
-    // Nested deeper than the reader goes along with.
+    // Nested too deeply for the reader.
     return {};
-}
-
-/// Throws when the content cannot be read. Tried on an object of its own, since one that is in a project would leave its
-/// traces in the history.
-void checkContent(const std::string& className, const ObjectCodec& codec, const Json::Value& content)
-{
-    const std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::create_by_name(className.c_str());
-    if (auto* const object = dynamic_cast<Obj::ProjectObject*>(created.get()))
-        codec.read(*object, content);
-}
-
-/// Null when the class is not known or the content cannot be read; nothing has been added then.
-Obj::ProjectObject* addDescribed(const Json::Value& description, Obj::Project& project)
-{
-    const std::string className = description.get("class", "").asString();
-    const std::string label = description.get("label", "").asString();
-    const bool suppressed = description.get("suppressed", false).asBool();
-    const auto codec = codecs().find(className);
-    const bool hasContent = codec != codecs().end() && description.isMember("content");
-    if (hasContent)
-        checkContent(className, codec->second, description["content"]);
-    Obj::ProjectObject* const object =
-        project.add_object(className.c_str(), project.get_unique_object_name("Material"));
-    if (object == nullptr)
-        return nullptr;
-    object->label.setValue(label);
-    if (hasContent)
-        codec->second.read(*object, description["content"]);
-    object->setSuppressed(suppressed);
-    object->check_input();
-    return object;
 }
 
 QByteArray textOf(const QMimeData* data)
@@ -99,39 +52,66 @@ QByteArray textOf(const QMimeData* data)
     return data->hasFormat(type) ? data->data(type) : data->text().toUtf8();
 }
 
-} // namespace
-
-void ObjectClipboard::register_codec(const std::string& className, ObjectCodec codec)
+void addTo(Pasting& pasting, const Json::Value& description)
 {
-    codecs()[className] = std::move(codec);
+    Kelta::guarded(translated("An object cannot be pasted"), [&] { pasting.add(description); });
 }
 
-QByteArray ObjectClipboard::write(const std::vector<Obj::ProjectObject*>& objects)
+} // namespace
+
+ObjectClipboard::ObjectClipboard(GuiApplication& application) : m_application(application)
+{
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] { m_isKnown = false; });
+}
+
+ObjectClipboard::~ObjectClipboard() = default;
+
+QByteArray ObjectClipboard::write(const std::vector<Obj::ProjectObject*>& objects) const
 {
     Json::Value root;
     root["kelta_objects"] = 1;
     Json::Value& descriptions = root["objects"] = Json::Value(Json::arrayValue);
-    for (const Obj::ProjectObject* const object : objects)
-        descriptions.append(describe(*object));
+    for (Obj::ProjectObject* const object : objects)
+        descriptions.append(describeObject(m_application, *object));
     return QByteArray::fromStdString(Json::writeString(Json::StreamWriterBuilder(), root));
 }
 
-std::vector<Obj::ProjectObject*> ObjectClipboard::read(const QByteArray& text, Obj::Project& project)
+std::vector<Obj::ProjectObject*> ObjectClipboard::read(const QByteArray& text, Obj::Project& project) const
 {
-    std::vector<Obj::ProjectObject*> added;
     const Json::Value root = parse(text);
-    for (const Json::Value& description : root["objects"]) {
-        try {
-            if (Obj::ProjectObject* const object = addDescribed(description, project))
-                added.push_back(object);
-        } catch (...) {
-            Kelta::reportException(tr("An object cannot be pasted"));
-        }
-    }
-    return added;
+    const vxMsg::MessageProxy::Group oneStep(translated("Paste"));
+    Pasting pasting(m_application, project);
+    if (root.isNull() || !pasting.takesAll(root["objects"]))
+        return {};
+    for (const Json::Value& description : root["objects"])
+        addTo(pasting, description);
+    return pasting.finish();
 }
 
-void ObjectClipboard::copy(const std::vector<Obj::ProjectObject*>& objects)
+std::vector<Obj::ProjectObject*> ObjectClipboard::duplicate(const std::vector<Obj::ProjectObject*>& objects) const
+{
+    const vxMsg::MessageProxy::Group oneStep(translated("Duplicate"));
+    std::vector<std::pair<Obj::Project*, Pasting>> pastings;
+    for (Obj::ProjectObject* const object : objects) {
+        // Listeners of one copy may delete the next object.
+        if (object->get_project() == nullptr)
+            continue;
+        if (pastings.empty() || pastings.back().first != object->get_project())
+            pastings.emplace_back(object->get_project(), Pasting(m_application, *object->get_project()));
+        addTo(pastings.back().second, describeObject(m_application, *object));
+    }
+    std::vector<Obj::ProjectObject*> copies;
+    for (auto& [project, pasting] : pastings) {
+        const std::vector<Obj::ProjectObject*> added = pasting.finish();
+        copies.insert(copies.end(), added.begin(), added.end());
+    }
+    copies.erase(std::remove_if(copies.begin(), copies.end(),
+                                [](const Obj::ProjectObject* copy) { return copy->get_project() == nullptr; }),
+                 copies.end());
+    return copies;
+}
+
+void ObjectClipboard::copy(const std::vector<Obj::ProjectObject*>& objects) const
 {
     const QByteArray text = write(objects);
     auto data = std::make_unique<QMimeData>();
@@ -143,17 +123,13 @@ void ObjectClipboard::copy(const std::vector<Obj::ProjectObject*>& objects)
 bool ObjectClipboard::holds_objects()
 {
     // Asked after every change in the program, and the text may be long.
-    static bool known = false;
-    static bool holds = false;
-    static const QMetaObject::Connection forgetting =
-        QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, [] { known = false; });
-    if (!known)
-        holds = !parse(textOf(QGuiApplication::clipboard()->mimeData())).isNull();
-    known = true;
-    return holds;
+    if (!m_isKnown)
+        m_holdsObjects = !parse(textOf(QGuiApplication::clipboard()->mimeData())).isNull();
+    m_isKnown = true;
+    return m_holdsObjects;
 }
 
-std::vector<Obj::ProjectObject*> ObjectClipboard::paste(Obj::Project& project)
+std::vector<Obj::ProjectObject*> ObjectClipboard::paste(Obj::Project& project) const
 {
     return read(textOf(QGuiApplication::clipboard()->mimeData()), project);
 }

@@ -83,10 +83,10 @@ public:
     }
 
     /// Begins a section at the end: what is added next belongs to it.
-    void beginSection(std::string name, SectionLine line)
+    void beginSection(std::string_view name, SectionLine line)
     {
         std::unique_ptr<Item> item = makeItem(line == SectionLine::Shown ? separator : "");
-        item->m_section = std::move(name);
+        item->m_section = name;
         m_items.push_back(std::move(item));
     }
 
@@ -100,7 +100,7 @@ public:
         auto place = std::find_if(m_items.begin(), m_items.end(),
                                   [name](const auto& child) { return child->isSection() && child->section() == name; });
         if (place == m_items.end()) {
-            beginSection(std::string(name), SectionLine::Shown);
+            beginSection(name, SectionLine::Shown);
             place = std::prev(m_items.end());
         }
         place = std::find_if(std::next(place), m_items.end(),

@@ -2,7 +2,7 @@
 
 #include "Gui/CommandController.h"
 #include "Gui/CommandTable.h"
-#include "Gui/EditCommands.h"
+#include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/ObjectClipboard.h"
 #include "Gui/ProjectExplorer.h"
@@ -22,37 +22,9 @@ constexpr const char* context = "StandardCommand";
 
 using Objects = std::vector<Obj::ProjectObject*>;
 
-/// Where an object is found again: listeners of one change may delete the next object.
-struct Place
+bool hasProject()
 {
-    std::uint32_t projectId;
-    std::uint32_t objectId;
-};
-
-std::vector<Place> placesOf(const Objects& objects)
-{
-    std::vector<Place> places;
-    places.reserve(objects.size());
-    for (const Obj::ProjectObject* const object : objects)
-        places.push_back({object->get_project()->getProjectId(), object->getObjectId()});
-    return places;
-}
-
-/// The objects that still exist.
-Objects find(const std::vector<Place>& places)
-{
-    Objects objects;
-    for (const Place& place : places) {
-        const Obj::Project* const project = Obj::Application::instance().get_project(place.projectId);
-        if (Obj::ProjectObject* const object = project != nullptr ? project->get_object(place.objectId) : nullptr)
-            objects.push_back(object);
-    }
-    return objects;
-}
-
-QUndoStack& undoStack()
-{
-    return vxMsg::MessageProxy::instance().undoStack();
+    return Obj::Application::get_current_project() != nullptr;
 }
 
 Objects selectedIn(const TreeSelectionSingleton& selection)
@@ -67,33 +39,18 @@ void selectAlone(TreeSelectionSingleton& selection, const Objects& objects)
         selection.set_selection({}, objects);
 }
 
-void paste(TreeSelectionSingleton& selection)
+void paste(const ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
 {
     if (Obj::Project* const project = Obj::Application::get_current_project())
-        selectAlone(selection, ObjectClipboard::paste(*project));
+        selectAlone(selection, clipboard.paste(*project));
 }
 
-bool canPaste()
+/// Listeners of one change may delete the next object.
+void suppress(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection, bool suppressed)
 {
-    return Obj::Application::get_current_project() != nullptr && ObjectClipboard::holds_objects();
-}
-
-void duplicate(TreeSelectionSingleton& selection)
-{
-    std::vector<Place> copies;
-    for (const Place& place : placesOf(selectedIn(selection)))
-        for (Obj::ProjectObject* const object : find({place})) {
-            const auto made = placesOf(ObjectClipboard::read(ObjectClipboard::write({object}), *object->get_project()));
-            copies.insert(copies.end(), made.begin(), made.end());
-        }
-    selectAlone(selection, find(copies));
-}
-
-void suppress(const TreeSelectionSingleton& selection, bool suppressed)
-{
-    for (const Place& place : placesOf(selectedIn(selection)))
-        for (Obj::ProjectObject* const object : find({place}))
-            setSuppressed(*object, suppressed);
+    for (Obj::ProjectObject* const object : selectedIn(selection))
+        if (object->get_project() != nullptr)
+            requests.setSuppressed(*object, suppressed);
 }
 
 bool canSuppress(const TreeSelectionSingleton& selection, bool suppressed)
@@ -123,48 +80,46 @@ bool canSelectAll()
     return MainWindow::get_main_window_inst() != nullptr && project != nullptr && project->get_object_count() != 0;
 }
 
-bool hasProject()
+void collect(vxMsg::MessageProxy& requests)
 {
-    return Obj::Application::get_current_project() != nullptr;
+    const std::string name = Obj::Application::get_current_project()->get_name();
+    if (requests.handOver(name))
+        MainWindow::announce(QCoreApplication::translate(context, "\"%1\" was handed over to the solver.")
+                                 .arg(QString::fromStdString(name)));
 }
 
-void collect()
-{
-    Obj::Project& project = *Obj::Application::get_current_project();
-    const QString name = QString::fromUtf8(project.get_name());
-    project.collect_frontend_data();
-    MainWindow::announce(QCoreApplication::translate(context, "\"%1\" was handed over to the solver.").arg(name));
-}
-
-std::vector<CommandRow> historyRows()
+std::vector<CommandRow> historyRows(QUndoStack& history)
 {
     return {
         {"Std_Undo", QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
          QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"), "kelta_undo", QKeySequence::Undo,
-         CommandType::None, [] { undoStack().undo(); }, [] { return undoStack().canUndo(); }},
+         CommandType::None, [&history] { history.undo(); }, [&history] { return history.canUndo(); }},
         {"Std_Redo", QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
          QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"), "kelta_redo",
-         QKeySequence::Redo, CommandType::None, [] { undoStack().redo(); }, [] { return undoStack().canRedo(); }},
+         QKeySequence::Redo, CommandType::None, [&history] { history.redo(); },
+         [&history] { return history.canRedo(); }},
     };
 }
 
-std::vector<CommandRow> clipboardRows(TreeSelectionSingleton& selection)
+std::vector<CommandRow> clipboardRows(ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
 {
     const auto hasObjects = [&selection] { return !selectedIn(selection).empty(); };
     return {
         {"Std_Copy", QT_TRANSLATE_NOOP("StandardCommand", "&Copy"),
          QT_TRANSLATE_NOOP("StandardCommand", "Copy the selected objects"), "kelta_copy", QKeySequence::Copy,
-         CommandType::OnTree, [&selection] { ObjectClipboard::copy(selectedIn(selection)); }, hasObjects},
+         CommandType::OnTree, [&clipboard, &selection] { clipboard.copy(selectedIn(selection)); }, hasObjects},
         {"Std_Paste", QT_TRANSLATE_NOOP("StandardCommand", "&Paste"),
          QT_TRANSLATE_NOOP("StandardCommand", "Add the copied objects to the project"), "kelta_paste",
-         QKeySequence::Paste, CommandType::OnTree, [&selection] { paste(selection); }, canPaste},
+         QKeySequence::Paste, CommandType::OnTree, [&clipboard, &selection] { paste(clipboard, selection); },
+         [&clipboard] { return hasProject() && clipboard.holds_objects(); }},
         {"Std_DuplicateSelection", QT_TRANSLATE_NOOP("StandardCommand", "Dup&licate"),
          QT_TRANSLATE_NOOP("StandardCommand", "Add a copy of each selected object"), "", Qt::CTRL + Qt::Key_D,
-         CommandType::OnTree, [&selection] { duplicate(selection); }, hasObjects},
+         CommandType::OnTree,
+         [&clipboard, &selection] { selectAlone(selection, clipboard.duplicate(selectedIn(selection))); }, hasObjects},
     };
 }
 
-std::vector<CommandRow> objectRows(TreeSelectionSingleton& selection)
+std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection)
 {
     return {
         {"Std_Suppress",
@@ -173,7 +128,7 @@ std::vector<CommandRow> objectRows(TreeSelectionSingleton& selection)
          "",
          {},
          CommandType::OnTree,
-         [&selection] { suppress(selection, true); },
+         [&requests, &selection] { suppress(requests, selection, true); },
          [&selection] { return canSuppress(selection, true); }},
         {"Std_Unsuppress",
          QT_TRANSLATE_NOOP("StandardCommand", "U&nsuppress"),
@@ -181,8 +136,14 @@ std::vector<CommandRow> objectRows(TreeSelectionSingleton& selection)
          "",
          {},
          CommandType::OnTree,
-         [&selection] { suppress(selection, false); },
+         [&requests, &selection] { suppress(requests, selection, false); },
          [&selection] { return canSuppress(selection, false); }},
+    };
+}
+
+std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection)
+{
+    return {
         {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
          QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object another label"), "", Qt::Key_F2,
          CommandType::OnTree, rename, [&selection] { return canRename(selection); }},
@@ -196,18 +157,20 @@ std::vector<CommandRow> objectRows(TreeSelectionSingleton& selection)
          "",
          {},
          CommandType::None,
-         collect,
+         [&requests] { collect(requests); },
          hasProject},
     };
 }
 
 } // namespace
 
-void addEditingCommands(CommandController& commands, TreeSelectionSingleton& selection)
+void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& selection)
 {
-    addCommands(commands, context, historyRows());
-    addCommands(commands, context, clipboardRows(selection));
-    addCommands(commands, context, objectRows(selection));
+    CommandController& commands = application.get_command_manager();
+    addCommands(commands, context, historyRows(application.requests().undoStack()));
+    addCommands(commands, context, clipboardRows(application.objectClipboard(), selection));
+    addCommands(commands, context, suppressionRows(application.requests(), selection));
+    addCommands(commands, context, projectRows(application.requests(), selection));
 }
 
 } // namespace Gui

@@ -2,11 +2,11 @@
 
 namespace Gui {
 
-class CommandController;
+class GuiApplication;
 class TreeSelectionSingleton;
 
-/// Gives the standard commands about projects and objects to the command manager: undo and redo, the clipboard,
-/// suppression, labels, the hand-over to the solver. They act on `selection`, which must outlive them.
-void addEditingCommands(CommandController& commands, TreeSelectionSingleton& selection);
+/// Gives the standard commands about projects and objects to the command manager of `application`: undo and redo, the
+/// clipboard, suppression, labels, the hand-over to the solver. They act on `selection`, which must outlive them.
+void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& selection);
 
 } // namespace Gui

@@ -1,14 +1,15 @@
 #include "commands/StandardCommands.h"
 
+#include "Gui/GuiApplication.h"
 #include "commands/EditingCommands.h"
 #include "commands/WindowCommands.h"
 
 namespace Gui {
 
-void addStandardCommands(CommandController& commands, TreeSelectionSingleton& selection)
+void addStandardCommands(GuiApplication& application, TreeSelectionSingleton& selection)
 {
-    addEditingCommands(commands, selection);
-    addWindowCommands(commands);
+    addEditingCommands(application, selection);
+    addWindowCommands(application.get_command_manager());
 }
 
 } // namespace Gui

@@ -2,11 +2,11 @@
 
 namespace Gui {
 
-class CommandController;
+class GuiApplication;
 class TreeSelectionSingleton;
 
-/// Gives the commands of the host, "Std_...", to the command manager. Those that act on a selection act on `selection`,
-/// which must outlive them.
-void addStandardCommands(CommandController& commands, TreeSelectionSingleton& selection);
+/// Gives the commands of the host, "Std_...", to the command manager of `application`. Those that act on a selection act
+/// on `selection`, which must outlive them.
+void addStandardCommands(GuiApplication& application, TreeSelectionSingleton& selection);
 
 } // namespace Gui

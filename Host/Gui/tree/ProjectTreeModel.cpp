@@ -1,13 +1,14 @@
 #include "Gui/ProjectTreeModel.h"
 
-#include "Gui/EditCommands.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "Obj/Placeholder.h"
 #include "Obj/ProjectObjectGroup.h"
 #include "tree/NodeIcons.h"
 #include "tree/TreeShape.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <QBrush>
 #include <QFont>
@@ -69,13 +70,30 @@ QColor dotOf(const Obj::ProjectObject& object)
     return object.getObjectState() == Obj::eVXObjectState::Ready ? QColor(0x2e, 0x9e, 0x4f) : QColor(0xe0, 0x8a, 0x1e);
 }
 
+/// Null if the class of the object or project is registered.
+const Obj::Placeholder* placeholderOf(const Kelta::RootClass& thing)
+{
+    return dynamic_cast<const Obj::Placeholder*>(&thing);
+}
+
+QString missingClassText(const Obj::Placeholder& placeholder)
+{
+    return ProjectTreeModel::tr(
+               "The module for \"%1\" is not loaded. The data are kept as they are and saved again, but "
+               "cannot be edited.")
+        .arg(QString::fromStdString(placeholder.get_original_class()));
+}
+
 QString toolTipOf(const Obj::ProjectObject& object)
 {
+    const QString label = QString::fromStdString(object.label.getValue());
+    if (const Obj::Placeholder* const placeholder = placeholderOf(object))
+        return label + QLatin1Char('\n') + missingClassText(*placeholder);
     const QString state = object.getObjectState() == Obj::eVXObjectState::Ready
                               ? ProjectTreeModel::tr("Ready")
                               : ProjectTreeModel::tr("Empty: nothing is defined yet");
     const QString suppressed = object.isSuppressed() ? ProjectTreeModel::tr("\nSuppressed") : QString();
-    return QString::fromStdString(object.label.getValue()) + QLatin1Char('\n') + state + suppressed;
+    return label + QLatin1Char('\n') + state + suppressed;
 }
 
 bool isGroup(const Obj::ProjectObject& object)
@@ -90,9 +108,10 @@ QVariant fontOf(const Obj::ProjectObject& object)
     return font;
 }
 
-QVariant colourOf(const Obj::ProjectObject& object)
+/// Grey, or the usual colour.
+QVariant textColour(bool isGrey)
 {
-    return object.isSuppressed() ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
+    return isGrey ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
 }
 
 } // namespace
@@ -179,7 +198,7 @@ bool ProjectTreeModel::setData(const QModelIndex& index, const QVariant& value, 
     Obj::ProjectObject* const object = objectAt(index);
     if (object == nullptr || role != Qt::EditRole)
         return false;
-    return editProperty(*object, "Label", value.toString().toStdString());
+    return m_application.requests().setProperty(vxMsg::PropertyPlace(*object), "Label", value.toString().toStdString());
 }
 
 Qt::ItemFlags ProjectTreeModel::flags(const QModelIndex& index) const
@@ -212,6 +231,11 @@ void ProjectTreeModel::watch(Obj::Project& project)
     connections.emplace_back(project.objectRemoved.connect(later));
     connections.emplace_back(project.objectChanged.connect(
         [this](Obj::ProjectObject& object, const Obj::Property*) { objectChanged(object); }));
+    connections.emplace_back(project.changed.connect([this, &project](const Obj::Property*) {
+        const QModelIndex index = indexOf(project);
+        if (index.isValid())
+            Q_EMIT dataChanged(index, index);
+    }));
     m_synchronization.start(0);
 }
 
@@ -220,8 +244,8 @@ void ProjectTreeModel::objectChanged(Obj::ProjectObject& object)
     const QModelIndex index = indexOf(object);
     if (index.isValid())
         Q_EMIT dataChanged(index, index);
-    // The members of a group may be others now.
-    if (isGroup(object) || index.isValid() != isShown(object))
+    // It may have been put into a group, or be shown or hidden now; a group takes its members with it.
+    if (index.isValid() != isShown(object) || objectAt(index.parent()) != object.get_parent_group())
         m_synchronization.start(0);
 }
 
@@ -357,12 +381,21 @@ QModelIndex ProjectTreeModel::indexOf(Key node) const
 
 QVariant ProjectTreeModel::dataOf(Obj::Project& project, int role) const
 {
-    if (role == Qt::DisplayRole)
+    const Obj::Placeholder* const placeholder = placeholderOf(project);
+    switch (role) {
+    case Qt::DisplayRole:
         return QString::fromUtf8(project.get_name());
-    GuiProject* const guiProject = role == Qt::DecorationRole ? m_application.get_project(&project) : nullptr;
-    if (guiProject == nullptr)
+    case Qt::ToolTipRole:
+        return placeholder != nullptr ? missingClassText(*placeholder) : QVariant();
+    case Qt::ForegroundRole:
+        return textColour(placeholder != nullptr);
+    case Qt::DecorationRole:
+        if (GuiProject* const guiProject = m_application.get_project(&project))
+            return m_icons->get(QString::fromUtf8(guiProject->get_view_feeder()->getPixmapName()));
         return {};
-    return m_icons->get(QString::fromUtf8(guiProject->get_view_feeder()->getPixmapName()));
+    default:
+        return {};
+    }
 }
 
 QVariant ProjectTreeModel::dataOf(Obj::ProjectObject& object, int role) const
@@ -380,7 +413,7 @@ QVariant ProjectTreeModel::dataOf(Obj::ProjectObject& object, int role) const
     case Qt::FontRole:
         return fontOf(object);
     case Qt::ForegroundRole:
-        return colourOf(object);
+        return textColour(object.isSuppressed() || placeholderOf(object) != nullptr);
     default:
         return {};
     }

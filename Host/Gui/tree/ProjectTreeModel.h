@@ -65,7 +65,7 @@ private:
     using Ids = std::vector<std::uint32_t>;
     struct Node
     {
-        Key parent;
+        Key parent = 0;
         Ids children; ///< in ascending order; those of the root are projects
     };
 

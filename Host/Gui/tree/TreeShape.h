@@ -17,10 +17,8 @@ namespace Gui {
 class TreeShape
 {
 public:
-    /// The members of a group are shown under the group; an object that is in several groups, under the one with the
-    /// smallest id. Groups that contain each other are broken up at the one with the smallest id, which is not shown
-    /// under the others. Objects for which `isShown` returns false have no node; their members are shown as if they
-    /// were in no group.
+    /// The members of a group are shown under the group. Objects for which `isShown` returns false have no node; their
+    /// members are shown as if they were in no group.
     TreeShape(const Obj::Project& project, const std::function<bool(Obj::ProjectObject&)>& isShown);
 
     /// The children of a node; none if the tree does not have it.

@@ -1,6 +1,6 @@
 #include "Gui/ViewFeeder.h"
 
-#include "Obj/ProjectObject.h"
+#include "Obj/Project.h"
 
 namespace Gui {
 
@@ -56,6 +56,13 @@ OBJ_REGISTER_CLASS(Gui::ViewFeederProject, Gui::ViewFeeder)
 ViewFeederProject::ViewFeederProject() = default;
 
 ViewFeederProject::~ViewFeederProject() = default;
+
+void ViewFeederProject::on_changed(const Obj::Property* property)
+{
+    ViewFeeder::on_changed(property);
+    if (m_project != nullptr)
+        m_project->changed(nullptr);
+}
 
 OBJ_REGISTER_CLASS(Gui::ViewFeederProjectObject, Gui::ViewFeeder)
 

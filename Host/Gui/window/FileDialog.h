@@ -7,21 +7,22 @@
 
 namespace Gui {
 
-/// Asks the user for files. The folder last used is remembered from one time to the next.
+/// Asks the user for files. The folder last used is kept in the settings.
 class GUI_EXPORT FileDialog
 {
 public:
-    /// The path that the user chose; empty when the user chose none. An empty `folder` is the one last used.
+    /// Returns the path that the user chose; an empty text if the user cancelled. An empty `folder` means the folder last
+    /// used.
     static QString getOpenFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});
-    /// Likewise for a file to write. Asks before one that is there is replaced; a name without an ending gets that of
+    /// Likewise for a file to write. Asks before an existing file is replaced. A name without an ending gets the ending of
     /// the filter.
     static QString getSaveFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});
 
-    /// Answers the next request without asking, as a program run by a script does.
+    /// Sets the result of the next call, which then does not ask the user; for programs that a script runs.
     static void answer_next(const QString& path);
 
 private:

@@ -293,7 +293,7 @@ void MainWindow::watchProjects()
 void MainWindow::watchRequests()
 {
     // The next command applies to what was added.
-    vxMsg::MessageProxy& proxy = vxMsg::MessageProxy::instance();
+    vxMsg::MessageProxy& proxy = m_application.requests();
     m_connections.emplace_back(
         proxy.objectCreated.connect([this](Obj::ProjectObject& object) { m_selection.set_selection({}, {&object}); }));
     m_connections.emplace_back(

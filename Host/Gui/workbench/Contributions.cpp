@@ -29,17 +29,17 @@ Contributions::~Contributions() = default;
 
 void Contributions::addToMenu(const char* menu, const char* section, const char* command, const char* workbench)
 {
-    add(m_menuPlaces, {menu, section, command, workbench}, std::equal_to<CommandPlace>());
+    add(m_menuPlaces, {menu, section, command, workbench}, std::equal_to<>());
 }
 
 void Contributions::addToToolBar(const char* bar, const char* section, const char* command, const char* workbench)
 {
-    add(m_toolBarPlaces, {bar, section, command, workbench}, std::equal_to<CommandPlace>());
+    add(m_toolBarPlaces, {bar, section, command, workbench}, std::equal_to<>());
 }
 
 void Contributions::addToTreeMenu(const char* command)
 {
-    add(m_treeMenu, std::string(command), std::equal_to<std::string>());
+    add(m_treeMenu, std::string(command), std::equal_to<>());
 }
 
 void Contributions::addWelcomeEntry(WelcomeEntry entry)
@@ -49,7 +49,7 @@ void Contributions::addWelcomeEntry(WelcomeEntry entry)
 
 void Contributions::addAboutText(TranslatableText text)
 {
-    add(m_aboutTexts, text, std::equal_to<TranslatableText>());
+    add(m_aboutTexts, text, std::equal_to<>());
 }
 
 void Contributions::addDock(DockEntry entry)

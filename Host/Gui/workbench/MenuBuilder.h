@@ -31,8 +31,10 @@ public:
 
 private:
     template <typename Widget, typename Tree>
+    // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
     void addCommands(Widget& widget, const Tree& items) const;
     template <typename Widget, typename Tree>
+    // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
     QAction* actionOfItem(Widget& widget, const Tree& item) const;
     QAction* actionOf(const std::string& commandName) const;
 

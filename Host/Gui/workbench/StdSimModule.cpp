@@ -10,8 +10,8 @@ namespace {
 /// A section of a menu or toolbar. Sections without commands are places for those of modules.
 struct Section
 {
-    const char* name;
-    SectionLine line;
+    const char* name = "";
+    SectionLine line = SectionLine::Shown;
     std::initializer_list<const char*> commands;
 };
 

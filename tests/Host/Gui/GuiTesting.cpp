@@ -41,6 +41,22 @@ void TestObject::init()
     data.set_parent(Obj::ProjectObject::get_property_data_ref());
 }
 
+TypedObject::TypedObject()
+{
+    register_property(data, length, "Length", "Values", Obj::PropertyType::None, "How long");
+    register_property(data, active, "Active", "Values", Obj::PropertyType::None, "Whether it works");
+    register_property(data, locked, "Locked", "Values", Obj::PropertyType::ReadOnly, "Whether it is locked");
+    register_property(data, kind, "Kind", "Values", Obj::PropertyType::None, "What it is");
+    register_property(data, partner, "Partner", "Values", Obj::PropertyType::None, "What it works with");
+}
+
+void TypedObject::init()
+{
+    initSubclass(type, "Test::Typed", "Obj::ProjectObject",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TypedObject); });
+    data.set_parent(Obj::ProjectObject::get_property_data_ref());
+}
+
 TestNode::TestNode() : color(Obj::Color{0.5F, 0.25F, 1.0F, 0.0F})
 {
     pixmapName = "kelta_paste";
@@ -73,10 +89,17 @@ void TestNode::build_context_menu(QMenu* menu, QObject* receiver, const char* sl
     menu->addAction(QStringLiteral("Show it"), receiver, slot)->setData(7);
 }
 
+TestProjectNode::TestProjectNode()
+{
+    pixmapName = "kelta_copy";
+    register_property(data, order, "Order", "View", Obj::PropertyType::Passive, "Where it is");
+}
+
 void TestProjectNode::init()
 {
     initSubclass(type, "Test::ProjectNode", "Gui::ViewFeederProject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProjectNode); });
+    data.set_parent(Gui::ViewFeederProject::get_property_data_ref());
 }
 
 void TestEditor::init()
@@ -119,7 +142,7 @@ void TestWorkbench::init()
 
 namespace {
 
-/// A menu or bar of this text and these commands.
+/// Makes a menu or bar with this text and these commands.
 template <typename Item>
 Item* makeItem(const char* text, std::initializer_list<const char*> itemCommands)
 {
@@ -180,6 +203,7 @@ Host::Host()
     OtherProject::init();
     TestEditor::init();
     TestObject::init();
+    TypedObject::init();
     TestNode::init();
     TestProjectNode::init();
     TestWorkbench::init();
@@ -209,6 +233,11 @@ TestProject& Host::makeProject(const char* name)
 TestObject& Host::addObject(Obj::Project& project, const char* label)
 {
     return *static_cast<TestObject*>(project.add_object("Test::Object", label));
+}
+
+TypedObject& Host::addTyped(Obj::Project& project, const char* label)
+{
+    return *static_cast<TypedObject*>(project.add_object("Test::Typed", label));
 }
 
 TestNode& Host::nodeOf(Obj::ProjectObject& object)

@@ -16,6 +16,7 @@
 #include "Gui/ViewFeeder.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
+#include "Obj/PropertyReference.h"
 #include "Obj/PropertyType.h"
 #include "vxMsg/MessageProxy.h"
 
@@ -32,7 +33,7 @@
 
 namespace vxtest {
 
-/// A project class such as a module brings.
+/// A project class of a module.
 class TestProject final : public Obj::Project
 {
 public:
@@ -62,7 +63,7 @@ private:
     static inline Kelta::TypeInfo type;
 };
 
-/// An object class such as a module brings, with properties of all kinds.
+/// An object class of a module, with properties that can be edited, only be read, and not be seen.
 class TestObject final : public Obj::ProjectObject
 {
 public:
@@ -84,7 +85,27 @@ private:
     static inline Obj::PropertyCoreData data;
 };
 
-/// The node of a test object; it counts what is asked of it.
+/// An object class with a property of each type that has an editor of its own.
+class TypedObject final : public Obj::ProjectObject
+{
+public:
+    TypedObject();
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    const char* get_viewfeeder_name() const override { return "Test::Node"; }
+    static void init();
+
+    Obj::PropertyReal length{1.5};
+    Obj::PropertyBool active;
+    Obj::PropertyBool locked{true};
+    Obj::PropertyChoice kind{{"Solid", "Hollow"}};
+    Obj::PropertyReference partner;
+
+private:
+    static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
+};
+
+/// The node of a test object. It counts the calls of its operations.
 class TestNode final : public Gui::ViewFeederProjectObject
 {
 public:
@@ -121,12 +142,15 @@ private:
 class TestProjectNode final : public Gui::ViewFeederProject
 {
 public:
-    TestProjectNode() { pixmapName = "kelta_copy"; }
+    TestProjectNode();
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init();
 
+    Obj::PropertyInteger order{1};
+
 private:
     static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
 };
 
 /// A document window that an object can name as its editor.
@@ -144,7 +168,7 @@ private:
     static inline Kelta::TypeInfo type;
 };
 
-/// A command that does what a test wants.
+/// A command that runs a function of the test.
 class TestCommand : public Gui::Command
 {
 public:
@@ -162,7 +186,7 @@ private:
     std::function<void()> m_action;
 };
 
-/// A workbench that uses all that one can say. What it is asked for is counted over all of its kind.
+/// A workbench that overrides every operation. Activations are counted over all workbenches of the class.
 class TestWorkbench final : public Gui::StdSimModule
 {
 public:
@@ -202,13 +226,14 @@ protected:
 
     static TestProject& makeProject(const char* name = "Project");
     static TestObject& addObject(Obj::Project& project, const char* label = "Object");
+    static TypedObject& addTyped(Obj::Project& project, const char* label = "Typed");
     static TestNode& nodeOf(Obj::ProjectObject& object);
 
     Gui::ProjectExplorer& explorer() const { return window->get_project_explorer(); }
     Gui::ProjectTreeModel& model() const { return explorer().treeModel(); }
-    /// Gives the explorer the keyboard, and shows all that there is.
+    /// Gives the explorer the keyboard, and expands all of it.
     void focusExplorer() const;
-    /// The text of a row, up to date.
+    /// The present text of a row.
     QString shownText(const Obj::ProjectObject& object) const;
 
     Gui::Contributions contributions; ///< what modules add to the window

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Qt's offscreen platform never frees its screen, which is no leak of the tests.
+/// Qt's offscreen platform never frees its screen; that leak is not one of the tests.
 std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -26,11 +26,11 @@ std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
 
 } // namespace
 
-/// Runs the tests inside a real application on the offscreen platform, with settings of its own and English texts.
+/// Runs the tests inside a real application on the offscreen platform, with its own settings and English texts.
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    // Tests run side by side, each in a process of its own: none must read what another has written.
+    // Tests run side by side, each in its own process; none must read what another one has written.
     const QTemporaryDir home;
     for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
         qputenv(variable, QFile::encodeName(home.path()));

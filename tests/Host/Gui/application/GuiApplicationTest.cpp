@@ -8,7 +8,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Throws when it is sent an event.
+/// Runs a function, which throws, when it receives an event.
 class Thrower : public QObject
 {
 public:

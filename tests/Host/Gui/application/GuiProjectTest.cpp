@@ -2,6 +2,8 @@
 
 #include "GuiTesting.h"
 
+#include <stdexcept>
+
 namespace {
 
 using testing::ElementsAre;
@@ -39,7 +41,7 @@ TEST_F(GuiProjectTest, HasNoNodeForWhatIsNotInTheProject)
     EXPECT_EQ(side.get_view_feeder(&addObject(makeProject("Other"))), nullptr);
 }
 
-/// An object whose node is of a class that nobody has registered, or of the wrong kind.
+/// An object whose node is of an unregistered class, or of the wrong kind.
 template <const char* NodeName>
 class OddObject final : public Obj::ProjectObject
 {
@@ -71,6 +73,36 @@ TEST_F(GuiProjectTest, MakesAPlainNodeWhenThereIsNoneOfTheName)
     }
 }
 
+/// A node that cannot be made.
+class FailingNode final : public Gui::ViewFeederProjectObject
+{
+public:
+    FailingNode() { throw std::runtime_error("no node today"); }
+    static void init()
+    {
+        initSubclass(type, "Test::FailingNode", "Gui::ViewFeederProjectObject",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new FailingNode); });
+    }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+constexpr char failingNode[] = "Test::FailingNode";
+
+TEST_F(GuiProjectTest, MakesAPlainNodeInPlaceOfOneThatFailsAndSaysSoOnce)
+{
+    FailingNode::init();
+    OddObject<failingNode>::init("Test::Failing");
+    Obj::ProjectObject* const object = project.add_object("Test::Failing", "Odd");
+    const std::size_t errors = Kelta::MessageLog::instance().errorCount();
+    const Gui::ViewFeederProjectObject* const node = side.get_view_feeder(object);
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(side.get_view_feeder(object), node);
+    EXPECT_EQ(lastMessage(), "The tree node \"Test::FailingNode\" cannot be made: no node today");
+    EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), errors + 1);
+}
+
 TEST_F(GuiProjectTest, PassesChangesOfPropertiesToTheNode)
 {
     vxtest::TestObject& object = addObject(project);
@@ -88,7 +120,7 @@ TEST_F(GuiProjectTest, MakesANewNodeAfterUndo)
     EXPECT_EQ(nodeOf(object).opened, 0);
 }
 
-TEST_F(GuiProjectTest, TakesItsViewsOutWhenItGoes)
+TEST_F(GuiProjectTest, RemovesItsViewsWhenItIsClosed)
 {
     const QPointer<Gui::MDIWindow> shown = new Gui::MDIWindow(&side, window.get());
     window->add_mdi_window(shown);

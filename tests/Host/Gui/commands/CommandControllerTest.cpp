@@ -28,7 +28,7 @@ TEST_F(CommandControllerTest, IgnoresNull)
     EXPECT_TRUE(controller.get_commands().empty());
 }
 
-/// Says when it is destroyed.
+/// Sets a flag when it is destroyed.
 class Mortal final : public TestCommand
 {
 public:

@@ -102,7 +102,7 @@ TEST_F(StandardCommands, SuppressWhatIsSelectedUndoablyInOneStep)
     EXPECT_FALSE(isApplicable("Std_Suppress"));
     EXPECT_EQ(undoStack().count(), 1);
     undoStack().undo();
-    // What was suppressed before stays so.
+    // An object that was suppressed before stays suppressed.
     EXPECT_TRUE(!a.isSuppressed() && b.isSuppressed());
     undoStack().redo();
     EXPECT_TRUE(a.isSuppressed());
@@ -201,7 +201,7 @@ TEST_F(StandardCommands, ArrangeTheDocuments)
     EXPECT_TRUE(run("Std_CascadeWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::SubWindowView);
     EXPECT_TRUE(overlap());
-    // Each shows its title.
+    // The title of each can be seen.
     EXPECT_NE(area->subWindowList()[0]->pos(), area->subWindowList()[1]->pos());
     EXPECT_TRUE(run("Std_TabWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::TabbedView);
@@ -267,7 +267,7 @@ TEST_F(StandardCommands, RenameInTheTreeAlsoWhenItIsHidden)
     EXPECT_TRUE(QTest::qWaitFor([this] { return explorer().viewport()->findChild<QLineEdit*>() != nullptr; }));
 }
 
-TEST_F(StandardCommands, DuplicatePassesOverWhatGoesBecauseOfIt)
+TEST_F(StandardCommands, DuplicatePassesOverObjectsThatAListenerDeletes)
 {
     vxtest::TestProject& project = makeProject();
     vxtest::TestObject& a = addObject(project, "A");

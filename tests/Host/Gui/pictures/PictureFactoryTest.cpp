@@ -107,7 +107,7 @@ TEST_F(Pictures, OfAllCommandsAreThere)
     };
     for (const Gui::Command* const command : commands().get_commands())
         EXPECT_TRUE(*command->get_pixmap() == '\0' || isThere(command->get_pixmap())) << command->getName();
-    // What commands of the program's own have.
+    // The pictures of commands of the program.
     for (const char* const name : {"kelta_open", "kelta_save"})
         EXPECT_TRUE(isThere(name)) << name;
 }

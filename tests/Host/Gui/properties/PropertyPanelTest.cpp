@@ -2,6 +2,8 @@
 
 #include "GuiTesting.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLineEdit>
 
 namespace {
@@ -51,7 +53,7 @@ protected:
         return item != nullptr ? item->text(1) : QStringLiteral("(none)");
     }
 
-    /// Edits a value as the user does: a double click, typing, Return. Without an editor nothing is typed.
+    /// Edits a value as the user does: a double click, typing, Return. Returns false if no editor opens.
     bool edit(const QString& name, const QString& text) const
     {
         const QRect place = panel().visualItemRect(row(name));
@@ -59,7 +61,7 @@ protected:
         QTest::mouseClick(panel().viewport(), Qt::LeftButton, {}, point);
         QTest::mouseDClick(panel().viewport(), Qt::LeftButton, {}, point);
         QLineEdit* editor = nullptr;
-        // One of an earlier edit may still wait to be destroyed.
+        // An earlier editor may not be destroyed yet.
         for (QLineEdit* const line : panel().viewport()->findChildren<QLineEdit*>())
             editor = line->isVisible() ? line : editor;
         if (editor == nullptr)
@@ -200,18 +202,158 @@ TEST_F(Panel, SaysHowManyAreSelected)
     EXPECT_EQ(rows(), QStringList({"2 entries are selected."}));
 }
 
-TEST_F(Panel, EmptiesWhenWhatItShowsGoes)
+TEST_F(Panel, EmptiesWhenTheObjectIsRemoved)
 {
     project.remove_object(object.getObjectId());
     EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
 }
 
-TEST_F(Panel, SurvivesThatWhatItShowsGoesDuringAnEdit)
+TEST_F(Panel, SurvivesTheEndOfTheProjectDuringAnEdit)
 {
     panel().editItem(row("Count"), 1);
     ASSERT_NE(panel().viewport()->findChild<QLineEdit*>(), nullptr);
     Obj::Application::instance().close_project(project);
     EXPECT_TRUE(QTest::qWaitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
+}
+
+TEST_F(Panel, EditsPropertiesOfTheNodeOfAProjectUndoably)
+{
+    auto& node = dynamic_cast<vxtest::TestProjectNode&>(
+        *Gui::GuiApplication::Instance->get_project(&project)->get_view_feeder());
+    selection().set_selection({&project}, {});
+    panel().showSelection();
+    ASSERT_TRUE(edit("Order", "5"));
+    EXPECT_EQ(node.order.getValue(), 5);
+    undoStack().undo();
+    EXPECT_EQ(node.order.getValue(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Order") == "1"; }));
+}
+
+/// The editors for the types of properties.
+class TypedPanel : public Panel
+{
+protected:
+    TypedPanel() : typed(addTyped(project, "Typed"))
+    {
+        undoStack().clear();
+        show({&typed});
+    }
+
+    QPoint placeOf(const QString& name) const
+    {
+        const QRect place = panel().visualItemRect(row(name));
+        return {panel().columnViewportPosition(1) + 8, place.center().y()};
+    }
+    /// The list that a double click on a value opens; null if it opens none.
+    QComboBox* openList(const QString& name) const
+    {
+        panel().scrollToItem(row(name));
+        QTest::mouseClick(panel().viewport(), Qt::LeftButton, {}, placeOf(name));
+        QTest::mouseDClick(panel().viewport(), Qt::LeftButton, {}, placeOf(name));
+        for (QComboBox* const list : panel().viewport()->findChildren<QComboBox*>())
+            if (list->isVisible())
+                return list;
+        return nullptr;
+    }
+    static QStringList entriesOf(const QComboBox& list)
+    {
+        QStringList texts;
+        for (int i = 0; i < list.count(); ++i)
+            texts << list.itemText(i);
+        return texts;
+    }
+    /// Chooses an entry as the user does with the keyboard: arrows, then Return.
+    static void choose(QComboBox& list, int index)
+    {
+        list.showPopup();
+        list.view()->setCurrentIndex(list.model()->index(index, 0));
+        QTest::keyClick(list.view(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+
+    vxtest::TypedObject& typed;
+};
+
+TEST_F(TypedPanel, ShowsAYesOrNoAsACheckBox)
+{
+    EXPECT_EQ(row("Active")->checkState(1), Qt::Unchecked);
+    EXPECT_EQ(row("Locked")->checkState(1), Qt::Checked);
+    typed.active.setValue(true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return row("Active")->checkState(1) == Qt::Checked; }));
+}
+
+TEST_F(TypedPanel, TicksAndUnticksUndoably)
+{
+    QTest::mouseClick(panel().viewport(), Qt::LeftButton, {}, placeOf("Active"));
+    EXPECT_TRUE(typed.active.getValue());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_FALSE(typed.active.getValue());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return row("Active")->checkState(1) == Qt::Unchecked; }));
+    panel().setCurrentItem(row("Active"), 1);
+    panel().setFocus();
+    QTest::keyClick(&panel(), Qt::Key_Space);
+    EXPECT_TRUE(typed.active.getValue());
+}
+
+TEST_F(TypedPanel, DoesNotTickWhatIsOnlyRead)
+{
+    QTest::mouseClick(panel().viewport(), Qt::LeftButton, {}, placeOf("Locked"));
+    EXPECT_TRUE(typed.locked.getValue());
+    EXPECT_EQ(row("Locked")->checkState(1), Qt::Checked);
+    EXPECT_EQ(undoStack().count(), 0);
+}
+
+TEST_F(TypedPanel, OffersTheWordsOfAChoiceUndoably)
+{
+    EXPECT_EQ(value("Kind"), "Solid");
+    QComboBox* const list = openList("Kind");
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(entriesOf(*list), QStringList({"Solid", "Hollow"}));
+    EXPECT_EQ(list->currentIndex(), 0);
+    choose(*list, 1);
+    EXPECT_EQ(typed.kind.get_word(), "Hollow");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Kind") == "Hollow"; }));
+    ASSERT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_EQ(typed.kind.get_word(), "Solid");
+}
+
+TEST_F(TypedPanel, OffersTheOtherObjectsForAReferenceUndoably)
+{
+    EXPECT_EQ(value("Partner"), "None");
+    QComboBox* const list = openList("Partner");
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(entriesOf(*list), QStringList({"None", "Beam"}));
+    choose(*list, 1);
+    EXPECT_EQ(typed.partner.getValue(), &object);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Partner") == "Beam"; }));
+    ASSERT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_EQ(typed.partner.getValue(), nullptr);
+}
+
+TEST_F(TypedPanel, FollowsTheLabelOfTheObjectThatIsReferredTo)
+{
+    typed.partner.setValue(&object);
+    object.label.setValue("Girder");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Partner") == "Girder"; }));
+    project.remove_object(object.getObjectId());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Partner") == "None"; }));
+}
+
+TEST_F(TypedPanel, TakesNumbersAloneForARealNumber)
+{
+    ASSERT_TRUE(edit("Length", "2.5e-3"));
+    EXPECT_EQ(typed.length.getValue(), 2.5e-3);
+    ASSERT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_EQ(typed.length.getValue(), 1.5);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return value("Length") == "1.5"; }));
+    // The line accepts neither letters nor decimal commas.
+    ASSERT_TRUE(edit("Length", "7,x5"));
+    EXPECT_EQ(typed.length.getValue(), 75.0);
 }
 
 } // namespace

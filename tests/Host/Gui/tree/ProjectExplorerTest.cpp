@@ -43,18 +43,18 @@ protected:
         return nullptr;
     }
 
-    /// Types into the editor that has the row, and ends it.
+    /// Types a label into the editor of the row, and presses Return.
     void typeLabel(const QString& text) const
     {
         ASSERT_TRUE(QTest::qWaitFor([this] { return editor() != nullptr; }));
         editor()->selectAll();
         QTest::keyClicks(editor(), text);
         QTest::keyClick(editor(), Qt::Key_Return);
-        // The editor hands its text over when the event loop runs.
+        // The editor passes its text on when the event loop runs.
         QCoreApplication::processEvents();
     }
 
-    /// What the context menu at a place offers; it is closed again, after `choose` has been triggered.
+    /// Returns the entries of the context menu at a place. Triggers the entry `choose`, and closes the menu.
     QStringList contextMenuAt(const QPoint& place, const QString& choose = {}) const
     {
         QStringList offered;
@@ -149,7 +149,7 @@ TEST_F(Explorer, ShowsThatNothingIsSelectedAnyMore)
     EXPECT_TRUE(explorer().selectionModel()->selectedIndexes().isEmpty());
 }
 
-TEST_F(Explorer, ForgetsWhatHasGone)
+TEST_F(Explorer, DeselectsWhatIsRemoved)
 {
     click(first);
     project.remove_object(first.getObjectId());
@@ -251,7 +251,7 @@ TEST_F(Explorer, RenamesOneObjectAlone)
     EXPECT_TRUE(explorer().renameSelected());
 }
 
-TEST_F(Explorer, SurvivesThatTheRowGoesWhileItIsRenamed)
+TEST_F(Explorer, SurvivesTheRemovalOfTheRowThatIsRenamed)
 {
     click(first);
     ASSERT_TRUE(explorer().renameSelected());
@@ -286,7 +286,7 @@ TEST_F(Explorer, SelectsTheRowOnWhichTheMenuOpens)
 
 TEST_F(Explorer, HearsTreeKeysWhenItHasTheKeyboardAlone)
 {
-    // The first test makes the command, which the program keeps.
+    // The application keeps the command.
     static int deleted;
     static auto* const command = new vxtest::TestCommand(
         "Test_Delete", [] { ++deleted; }, Gui::CommandType::OnTree, QKeySequence(QKeySequence::Delete));

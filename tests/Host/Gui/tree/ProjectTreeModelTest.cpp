@@ -2,11 +2,14 @@
 
 #include "GuiTesting.h"
 
+#include "Obj/Placeholder.h"
 #include "Obj/ProjectObjectGroup.h"
 
 #include <QAbstractItemModelTester>
+#include <QBrush>
 #include <QFont>
 #include <QIcon>
+#include <QPalette>
 #include <QSignalSpy>
 
 #include <random>
@@ -15,7 +18,7 @@ namespace {
 
 using Gui::ProjectTreeModel;
 
-/// A model of its own, watched by Qt's tester, which ends the test program when the model breaks the rules.
+/// A model watched by Qt's tester, which ends the test program if the model breaks the rules.
 class Tree : public vxtest::Host
 {
 protected:
@@ -89,7 +92,7 @@ TEST_F(Tree, MakesFewBlocksOfManyChanges)
         addObject(project);
     tree.synchronize();
     EXPECT_EQ(inserted.count(), 1);
-    // Every second one of the first ten, and all from there on.
+    // Every second one of the first ten, and all others.
     for (std::uint32_t id = 1; id <= 10; id += 2)
         project.remove_object(id);
     for (std::uint32_t id = 11; id <= 1000; ++id)
@@ -114,7 +117,7 @@ TEST_F(Tree, PutsWhatUndoBringsBackWhereItWas)
     EXPECT_EQ(labelsOf(project), QStringList({"A", "B", "C", "D"}));
 }
 
-TEST_F(Tree, ShowsNothingForARowWhoseObjectHasGoneMeanwhile)
+TEST_F(Tree, ShowsNothingForARowWhoseObjectWasRemoved)
 {
     vxtest::TestProject& project = makeProject();
     vxtest::TestObject& object = addObject(project, "A");
@@ -294,28 +297,55 @@ TEST_F(Groups, CanBeInGroups)
     EXPECT_EQ(shape(), "Inner[A, Outer]");
 }
 
-TEST_F(Groups, ThatContainEachOtherAreBrokenUpAtTheFirst)
+TEST_F(Groups, ShowAMemberThatIsPutIntoAnotherGroupThere)
 {
     Obj::ProjectObjectGroup& first = addGroup("First");
     Obj::ProjectObjectGroup& second = addGroup("Second");
-    first.add_member(second);
-    second.add_member(first);
-    EXPECT_EQ(shape(), "First[Second]");
     vxtest::TestObject& a = addObject(project, "A");
     second.add_member(a);
-    EXPECT_EQ(shape(), "First[Second[A]]");
+    EXPECT_EQ(shape(), "First, Second[A]");
+    first.add_member(a);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree.parent(tree.indexOf(a)) == tree.indexOf(first); }));
+    EXPECT_EQ(shape(), "First[A], Second");
 }
 
-TEST_F(Groups, ShowAMemberOfSeveralUnderTheFirst)
+TEST_F(Groups, LeaveOutMembersThatAreNotShown)
 {
-    Obj::ProjectObjectGroup& first = addGroup("First");
-    Obj::ProjectObjectGroup& second = addGroup("Second");
+    Obj::ProjectObjectGroup& group = addGroup("Group");
     vxtest::TestObject& a = addObject(project, "A");
-    second.add_member(a);
-    first.add_member(a);
-    EXPECT_EQ(shape(), "First[A], Second");
-    first.remove_member(a);
-    EXPECT_EQ(shape(), "First, Second[A]");
+    vxtest::TestObject& b = addObject(project, "B");
+    group.add_member(a);
+    group.add_member(b);
+    nodeOf(a).shown = false;
+    EXPECT_EQ(shape(), "Group[B]");
+}
+
+/// A group whose node can be hidden.
+class GroupWithNode final : public Obj::ProjectObjectGroup
+{
+public:
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    const char* get_viewfeeder_name() const override { return "Test::Node"; }
+    static void init()
+    {
+        initSubclass(type, "Test::GroupWithNode", "Obj::ProjectObjectGroup",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new GroupWithNode); });
+    }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+TEST_F(Groups, ThatAreNotShownLeaveTheirMembersWhereTheyAreThemselves)
+{
+    GroupWithNode::init();
+    auto& group = static_cast<GroupWithNode&>(*project.add_object("Test::GroupWithNode", "Group"));
+    group.add_member(addObject(project, "A"));
+    EXPECT_EQ(shape(), "Group[A]");
+    nodeOf(group).shown = false;
+    group.notifyChange();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tree.indexOf(group).isValid(); }));
+    EXPECT_EQ(shape(), "A");
 }
 
 TEST_F(Groups, GiveTheirMembersBackWhenTheyAreDeleted)
@@ -361,7 +391,7 @@ TEST_F(Groups, FollowRandomChanges)
     for (int i = 0; i < 20; ++i)
         objects.push_back(&addObject(project));
     std::mt19937 random(7);
-    std::vector<std::unique_ptr<Obj::ProjectObject>> away;
+    std::vector<Obj::OwnedObject> away;
     for (int round = 0; round < 500; ++round) {
         Obj::ProjectObjectGroup& group = *groups[random() % groups.size()];
         Obj::ProjectObject& object = *objects[random() % objects.size()];
@@ -382,7 +412,7 @@ TEST_F(Groups, FollowRandomChanges)
                 away.pop_back();
             }
         }
-        // A model that is made anew shows the same, and the tester has seen every step.
+        // A new model shows the same, and the tester has checked every step.
         const ProjectTreeModel fresh(*Gui::GuiApplication::Instance);
         tree.synchronize();
         for (const Obj::ProjectObject* const present : project.get_objects()) {
@@ -424,6 +454,31 @@ TEST_F(Tree, DoesNotSelectNodesThatHaveASelectionOfTheirOwn)
     EXPECT_TRUE((tree.flags(tree.indexOf(object)) & Qt::ItemIsSelectable) != 0);
     nodeOf(object).selectsItself = true;
     EXPECT_TRUE((tree.flags(tree.indexOf(object)) & Qt::ItemIsSelectable) == 0);
+}
+
+TEST_F(Tree, ShowsWhatBelongsToAMissingModuleGreyedAndSaysWhy)
+{
+    const auto isGrey = [](const QModelIndex& index) {
+        return index.data(Qt::ForegroundRole).value<QBrush>() ==
+               QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+    };
+    vxtest::TestProject& project = makeProject();
+    Obj::ProjectObject& object =
+        *project.add_object(std::make_unique<Obj::PlaceholderObject>("Lost::Bolt", Json::Value()), "Bolt");
+    tree.synchronize();
+    EXPECT_EQ(tree.indexOf(object).data().toString(), "Bolt");
+    EXPECT_TRUE(isGrey(tree.indexOf(object)));
+    EXPECT_EQ(tree.indexOf(object).data(Qt::ToolTipRole).toString(),
+              "Bolt\nThe module for \"Lost::Bolt\" is not loaded. The data are kept as they are and saved again, but "
+              "cannot be edited.");
+    EXPECT_FALSE(isGrey(tree.indexOf(project)));
+    const Obj::Project* const lost = Gui::GuiApplication::Instance->requests().openProject(
+        Obj::OwnedProject(new Obj::PlaceholderProject("Lost::Assembly", Json::Value())), "Assembly",
+        [](Obj::Project&) {});
+    ASSERT_NE(lost, nullptr);
+    tree.synchronize();
+    EXPECT_TRUE(isGrey(tree.indexOf(*lost)));
+    EXPECT_TRUE(tree.indexOf(*lost).data(Qt::ToolTipRole).toString().contains("\"Lost::Assembly\""));
 }
 
 } // namespace

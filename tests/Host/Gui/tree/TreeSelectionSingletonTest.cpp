@@ -12,7 +12,7 @@ using testing::SizeIs;
 
 using Selection = vxtest::Host;
 
-TEST_F(Selection, AnswersProjectsAndObjectsInTheOrderOfTheTree)
+TEST_F(Selection, ListsProjectsAndObjectsInTheOrderOfTheTree)
 {
     vxtest::TestProject& first = makeProject("First");
     vxtest::TestProject& second = makeProject("Second");
@@ -30,7 +30,7 @@ TEST_F(Selection, AnswersProjectsAndObjectsInTheOrderOfTheTree)
     EXPECT_EQ(selection().get_count(), 5U);
 }
 
-TEST_F(Selection, AnswersProjectsByTheirTag)
+TEST_F(Selection, ListsProjectsByTheirTag)
 {
     vxtest::TestProject& project = makeProject();
     selection().select(project);

@@ -40,7 +40,7 @@ TEST_F(BaseViewTest, ForgetsAProjectThatIsClosed)
     EXPECT_EQ(view.get_gui_project(), nullptr);
 }
 
-/// Counts how often it is taken out.
+/// Counts how often it is removed from the window.
 class RemovedView final : public BaseView
 {
 public:

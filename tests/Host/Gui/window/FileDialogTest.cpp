@@ -38,7 +38,7 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(FileDialogTest, AnswersWhatWasPreparedOnce)
+TEST_F(FileDialogTest, ReturnsThePreparedPathOnce)
 {
     FileDialog::answer_next(QStringLiteral("/a/b.json"));
     EXPECT_EQ(FileDialog::getSaveFileName(nullptr, {}, {}, {}), "/a/b.json");

@@ -118,7 +118,7 @@ TEST_F(MainWindowTest, ClosesADocumentByTheButtonOfItsTab)
     EXPECT_TRUE(QTest::qWaitFor([&document] { return document == nullptr; }));
 }
 
-/// A document that does not let itself be closed.
+/// A document that refuses to be closed.
 class Stubborn final : public MDIWindow
 {
 public:

@@ -144,7 +144,7 @@ TEST_F(Welcome, SaysWhatTheHostCanSayOfProjectsOfOtherClasses)
     EXPECT_EQ(text(), "Double-click an object in the project explorer.");
 }
 
-// The last ones: what they add stays in the program.
+// The application keeps the commands of these tests, which are therefore the last.
 TEST_F(Welcome, OffersToOpenAProjectWhereThereIsSuchACommand)
 {
     ASSERT_TRUE(waitForButtons({"Test_New"}));

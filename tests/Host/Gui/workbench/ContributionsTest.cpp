@@ -225,7 +225,7 @@ TEST_F(Contributed, AboutTextsAreParagraphsOfTheBox)
     EXPECT_TRUE(boxes.shown()[0].text.contains("<p>Probes for every purpose.</p>"));
 }
 
-/// A second workbench, and projects that have it as theirs.
+/// Two workbenches. Test projects have the second one as their own.
 class Workbenches : public Contributed
 {
 protected:
@@ -301,7 +301,7 @@ TEST_F(Workbenches, StayWhenTheCurrentProjectHasNone)
 
 TEST_F(Workbenches, AreNotReplacedWhileTheirOwnCommandRuns)
 {
-    // The command stands in a menu of the workbench that its project replaces.
+    // The command is in a menu of the workbench that its project replaces.
     if (commands().find_command("L_New") == nullptr)
         commands().new_command(new vxtest::TestCommand("L_New", [] { makeProject(); }));
     contributions.addToMenu("&File", "New", "L_New", "Gui::StdSimModule");

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// How trees of command names become menus and bars, shown by a workbench that has all kinds of them.
+/// Menus and bars made from trees of command names. The workbench has all kinds of items.
 class Bars : public vxtest::Host
 {
 protected:

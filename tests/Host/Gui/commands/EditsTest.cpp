@@ -69,7 +69,7 @@ TEST_F(Edits, FindAnObjectThatWasDeletedAndBroughtBack)
     EXPECT_FALSE(object.isSuppressed());
 }
 
-TEST_F(Edits, AreNoStepWhenTheObjectGoesBecauseOfThem)
+TEST_F(Edits, AreNoStepIfAListenerDeletesTheObject)
 {
     const boost::signals2::scoped_connection connection =
         project.objectChanged.connect([this](Obj::ProjectObject& changed, const Obj::Property* property) {
@@ -82,7 +82,7 @@ TEST_F(Edits, AreNoStepWhenTheObjectGoesBecauseOfThem)
     EXPECT_EQ(undoStack().text(0), "Delete \"Beam\"");
 }
 
-TEST_F(Edits, OfSuppressionAreNoStepWhenTheObjectGoesBecauseOfThem)
+TEST_F(Edits, OfSuppressionAreNoStepIfAListenerDeletesTheObject)
 {
     const boost::signals2::scoped_connection connection =
         project.objectChanged.connect([this](Obj::ProjectObject& changed, const Obj::Property*) {
@@ -97,7 +97,7 @@ TEST_F(Edits, OfSuppressionAreNoStepWhenTheObjectGoesBecauseOfThem)
     EXPECT_TRUE(object.isSuppressed());
 }
 
-TEST_F(Edits, OfSuppressionPassOverWhatGoesBecauseOfThem)
+TEST_F(Edits, OfSuppressionPassOverObjectsThatAListenerDeletes)
 {
     vxtest::TestObject& second = addObject(project, "Second");
     vxtest::TestObject& third = addObject(project, "Third");

@@ -12,7 +12,8 @@ include(GenerateExportHeader)
 #     EXPORT_HEADER <name>               the generated header with the export macro, if any
 #     EXPORT_MACRO <macro>
 #     FOLDER <folder>                    the folder of headers and sources; default: this one
-#     PUBLIC_HEADERS <file>...           SOURCES <file>...
+#     PUBLIC_HEADERS <file>...           subfolders are not part of the path by which a header is included
+#     SOURCES <file>...
 #     PUBLIC_LINKS <target>...           PRIVATE_LINKS <target>...)
 function(vx_add_library target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "OBJECT;SHARED" "ALIAS;INCLUDE_PATH;FOLDER;EXPORT_HEADER;EXPORT_MACRO"
@@ -38,7 +39,8 @@ function(vx_add_library target)
     set(root ${CMAKE_BINARY_DIR}/include/${target})
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     foreach(header IN LISTS arg_PUBLIC_HEADERS)
-        vx_forward_header(${root}/${arg_INCLUDE_PATH}/${header} ${folder}${header})
+        cmake_path(GET header FILENAME name)
+        vx_forward_header(${root}/${arg_INCLUDE_PATH}/${name} ${folder}${header})
     endforeach()
     if(arg_EXPORT_HEADER)
         generate_export_header(${target} EXPORT_MACRO_NAME ${arg_EXPORT_MACRO}
@@ -59,8 +61,9 @@ function(vx_check_headers_alone target include_path)
     endif()
     set(checks)
     foreach(header IN LISTS ARGN)
-        set(check ${CMAKE_BINARY_DIR}/header_checks/${target}/${header}.cpp)
-        file(CONFIGURE OUTPUT ${check} CONTENT "#include \"${include_path}/${header}\"\n")
+        cmake_path(GET header FILENAME name)
+        set(check ${CMAKE_BINARY_DIR}/header_checks/${target}/${name}.cpp)
+        file(CONFIGURE OUTPUT ${check} CONTENT "#include \"${include_path}/${name}\"\n")
         list(APPEND checks ${check})
     endforeach()
     add_library(${target}_headers_alone OBJECT ${checks})

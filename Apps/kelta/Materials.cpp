@@ -1,6 +1,7 @@
 #include "EditorWatch.h"
 #include "FileCommands.h"
 #include "FileDrops.h"
+#include "MaterialContributions.h"
 #include "MaterialVerbs.h"
 #include "ProjectFiles.h"
 
@@ -49,8 +50,8 @@ void addFiles(Gui::MainWindow& mainWindow)
 
 } // namespace
 
-/// The entry by which the program loads this side, after the plug-in. Again changes nothing. Throws nothing; what goes
-/// wrong is reported to the message log.
+/// The entry by which the program loads this side, after the plug-in. Safe to call more than once. Throws nothing; errors
+/// are reported to the message log.
 extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
 {
     static bool done = false;
@@ -60,6 +61,8 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         Mat::registerRequests();
         Gui::ObjectClipboard::register_codec("Mat::MaterialObject", {writeContent, readContent});
         kelta::registerMaterialVerbs();
+        if (Gui::GuiApplication::Instance != nullptr)
+            kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
             addFiles(*mainWindow);
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);

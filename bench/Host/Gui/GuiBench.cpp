@@ -1,3 +1,5 @@
+#include "MaterialContributions.h"
+
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/ProjectExplorer.h"
@@ -17,8 +19,8 @@
 #include <string>
 #include <vector>
 
-/// What the user waits for: commands on 10,000 materials, by the longest time in which the interface does not answer;
-/// and the start of the program until its window is painted, beside that of an empty window.
+/// What the user waits for: commands on 10,000 materials, measured by the longest time in which the interface does not
+/// react, and the start of the program until its window is painted, beside that of an empty window.
 namespace {
 
 constexpr int materialCount = 10000;
@@ -33,11 +35,11 @@ double millisecondsOf(const std::function<void()>& action)
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-/// Runs a command, and then the event loop until nothing is left to do; answers the longest of these turns.
+/// Runs a command, and then the event loop until nothing is left to do. Returns the time of the longest of these turns.
 double longestTurn(const std::function<void()>& command)
 {
     double longest = millisecondsOf(command);
-    // What is delayed is delayed by timers without a wait, so a few turns see the end of it.
+    // Work is only delayed by timers without a wait, so that a few turns do all of it.
     for (int turn = 0; turn < 50; ++turn)
         longest = std::max(longest, millisecondsOf([] { QCoreApplication::processEvents(); }));
     return longest;
@@ -48,8 +50,8 @@ void run(const char* command)
     Gui::GuiApplication::Instance->get_command_manager().run_command(command);
 }
 
-/// A project of many materials on the screen, and the commands on them. A command that did not do its work would look
-/// quick: the longest turn counts only with what is left afterwards.
+/// A project with many materials on the screen, and commands on them. A command that does nothing would be quick, so that
+/// each measurement also checks the result.
 class Commands
 {
 public:
@@ -62,7 +64,7 @@ public:
         longestTurn([] {});
     }
 
-    /// Runs the command; then so many materials must be there, in the tree, selected and suppressed.
+    /// Runs a command. Afterwards this many materials must be in the tree, be selected and be suppressed.
     void measure(const char* name, const char* command, int present, int selected, int suppressed)
     {
         const double longest = longestTurn([command] { run(command); });
@@ -91,7 +93,7 @@ private:
     {
         const auto objects =
             Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
-        // What the commands act on and what the user sees marked.
+        // The commands must act on what the user sees marked.
         return objects.size() == static_cast<std::size_t>(m_tree.selectionModel()->selectedIndexes().size())
                    ? static_cast<int>(objects.size())
                    : -1;
@@ -154,6 +156,7 @@ int startOurs(int& argc, char** argv)
     Gui::MainWindow window;
     initMat();
     initMatGui();
+    kelta::registerMaterialContributions(application);
     window.set_workbench("MatGui::SimModule");
     return paintOnce(window);
 }

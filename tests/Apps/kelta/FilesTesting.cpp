@@ -62,6 +62,7 @@ Files::Files()
     window = std::make_unique<Gui::MainWindow>();
     files = std::make_unique<kelta::ProjectFiles>(*window);
     kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
     new kelta::EditorWatch(*window);
     window->setAcceptDrops(true);
     window->installEventFilter(new kelta::FileDrops(*files, *window));

@@ -3,6 +3,7 @@
 #include "EditorWatch.h"
 #include "FileCommands.h"
 #include "FileDrops.h"
+#include "MaterialContributions.h"
 #include "ProjectFiles.h"
 #include "Waiting.h"
 

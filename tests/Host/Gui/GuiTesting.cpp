@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include <initializer_list>
+#include <stdexcept>
 
 namespace vxtest {
 
@@ -11,6 +12,19 @@ void TestProject::init()
     initSubclass(type, "Test::Project", "Obj::Project",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProject); });
     data.set_parent(Obj::Project::get_property_data_ref());
+}
+
+void TestProject::collect_frontend_data()
+{
+    if (collectFails)
+        throw std::runtime_error("no solver");
+    ++collections;
+}
+
+void OtherProject::init()
+{
+    initSubclass(type, "Test::OtherProject", "Obj::Project",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new OtherProject); });
 }
 
 TestObject::TestObject()
@@ -24,6 +38,22 @@ void TestObject::init()
 {
     initSubclass(type, "Test::Object", "Obj::ProjectObject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestObject); });
+    data.set_parent(Obj::ProjectObject::get_property_data_ref());
+}
+
+TypedObject::TypedObject()
+{
+    register_property(data, length, "Length", "Values", Obj::PropertyType::None, "How long");
+    register_property(data, active, "Active", "Values", Obj::PropertyType::None, "Whether it works");
+    register_property(data, locked, "Locked", "Values", Obj::PropertyType::ReadOnly, "Whether it is locked");
+    register_property(data, kind, "Kind", "Values", Obj::PropertyType::None, "What it is");
+    register_property(data, partner, "Partner", "Values", Obj::PropertyType::None, "What it works with");
+}
+
+void TypedObject::init()
+{
+    initSubclass(type, "Test::Typed", "Obj::ProjectObject",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TypedObject); });
     data.set_parent(Obj::ProjectObject::get_property_data_ref());
 }
 
@@ -59,10 +89,29 @@ void TestNode::build_context_menu(QMenu* menu, QObject* receiver, const char* sl
     menu->addAction(QStringLiteral("Show it"), receiver, slot)->setData(7);
 }
 
+TestProjectNode::TestProjectNode()
+{
+    pixmapName = "kelta_copy";
+    register_property(data, order, "Order", "View", Obj::PropertyType::Passive, "Where it is");
+}
+
 void TestProjectNode::init()
 {
     initSubclass(type, "Test::ProjectNode", "Gui::ViewFeederProject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProjectNode); });
+    data.set_parent(Gui::ViewFeederProject::get_property_data_ref());
+}
+
+void TestEditor::init()
+{
+    initSubclass(type, "Test::Editor", "Gui::MDIWindow",
+                 []() -> void* { return static_cast<Kelta::RootClass*>(new TestEditor); });
+}
+
+void TestEditor::editObject(Gui::GuiProject& project, Obj::ProjectObject& object)
+{
+    MDIWindow::editObject(project, object);
+    shownLabel = object.label.getValue();
 }
 
 TestCommand::TestCommand(const char* name, std::function<void()> action, int flags, const QKeySequence& keys)
@@ -93,7 +142,7 @@ void TestWorkbench::init()
 
 namespace {
 
-/// A menu or bar of this text and these commands.
+/// Makes a menu or bar with this text and these commands.
 template <typename Item>
 Item* makeItem(const char* text, std::initializer_list<const char*> itemCommands)
 {
@@ -148,12 +197,17 @@ Gui::ToolBarGadget* TestWorkbench::build_docking_windows() const
 
 Host::Host()
 {
+    TestWorkbench::activations = 0;
+    TestWorkbench::deactivations = 0;
     TestProject::init();
+    OtherProject::init();
+    TestEditor::init();
     TestObject::init();
+    TypedObject::init();
     TestNode::init();
     TestProjectNode::init();
     TestWorkbench::init();
-    window = std::make_unique<Gui::MainWindow>();
+    window = std::make_unique<Gui::MainWindow>(contributions);
     window->set_workbench("Gui::StdSimModule");
     window->show();
 }
@@ -179,6 +233,11 @@ TestProject& Host::makeProject(const char* name)
 TestObject& Host::addObject(Obj::Project& project, const char* label)
 {
     return *static_cast<TestObject*>(project.add_object("Test::Object", label));
+}
+
+TypedObject& Host::addTyped(Obj::Project& project, const char* label)
+{
+    return *static_cast<TypedObject*>(project.add_object("Test::Typed", label));
 }
 
 TestNode& Host::nodeOf(Obj::ProjectObject& object)

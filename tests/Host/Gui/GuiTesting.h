@@ -5,6 +5,7 @@
 
 #include "Gui/Command.h"
 #include "Gui/CommandController.h"
+#include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
@@ -16,6 +17,7 @@
 #include "Gui/ViewFeeder.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
+#include "Obj/PropertyReference.h"
 #include "Obj/PropertyType.h"
 #include "vxMsg/MessageProxy.h"
 
@@ -32,23 +34,37 @@
 
 namespace vxtest {
 
-/// A project class such as a module brings.
+/// A project class of a module.
 class TestProject final : public Obj::Project
 {
 public:
     TestProject() { register_property(data, count, "Count", "Values", Obj::PropertyType::None, "How many"); }
     Kelta::TypeInfo getTypeId() const override { return type; }
     const char* get_viewfeeder_name() const override { return "Test::ProjectNode"; }
+    void collect_frontend_data() override;
     static void init();
 
     Obj::PropertyInteger count{3};
+    int collections = 0;
+    bool collectFails = false;
 
 private:
     static inline Kelta::TypeInfo type;
     static inline Obj::PropertyCoreData data;
 };
 
-/// An object class such as a module brings, with properties of all kinds.
+/// A project class of another module, for which nothing is contributed.
+class OtherProject final : public Obj::Project
+{
+public:
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+/// An object class of a module, with properties that can be edited, only be read, and not be seen.
 class TestObject final : public Obj::ProjectObject
 {
 public:
@@ -57,24 +73,46 @@ public:
     const char* get_viewfeeder_name() const override { return "Test::Node"; }
     static void init();
 
+    const char* getCoreEditor() const override { return coreEditor.c_str(); }
+
     Obj::PropertyInteger count{3};
     Obj::PropertyString fixed{"as it is"};
     Obj::PropertyString hidden{"unseen"};
     std::string content;
+    std::string coreEditor;
 
 private:
     static inline Kelta::TypeInfo type;
     static inline Obj::PropertyCoreData data;
 };
 
-/// The node of a test object; it counts what is asked of it.
+/// An object class with a property of each type that has an editor of its own.
+class TypedObject final : public Obj::ProjectObject
+{
+public:
+    TypedObject();
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    const char* get_viewfeeder_name() const override { return "Test::Node"; }
+    static void init();
+
+    Obj::PropertyReal length{1.5};
+    Obj::PropertyBool active;
+    Obj::PropertyBool locked{true};
+    Obj::PropertyChoice kind{{"Solid", "Hollow"}};
+    Obj::PropertyReference partner;
+
+private:
+    static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
+};
+
+/// The node of a test object. It counts the calls of its operations.
 class TestNode final : public Gui::ViewFeederProjectObject
 {
 public:
     TestNode();
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init();
-    bool on_double_clicked() override { return ++opened > 0; }
     bool setEdit(int mode) override;
     void updateData(const Obj::Property* changed) override { changes.push_back(changed); }
     void build_context_menu(const char* recipient, Gui::MenuItem* menu) override;
@@ -82,6 +120,15 @@ public:
 
     Obj::PropertyColor color;
     void leaveOutPicture() { pixmapName = ""; }
+    bool isShow() const override { return shown; }
+    bool useNewSelectionModel() const override { return selectsItself; }
+    std::vector<std::string> getDisplayModes() const override { return displayModes; }
+    bool on_double_clicked() override { return ++opened > 0 && opensItself; }
+
+    bool shown = true;
+    bool selectsItself = false;
+    bool opensItself = true;
+    std::vector<std::string> displayModes;
 
     int opened = 0;
     std::vector<int> editModes;
@@ -96,15 +143,33 @@ private:
 class TestProjectNode final : public Gui::ViewFeederProject
 {
 public:
-    TestProjectNode() { pixmapName = "kelta_copy"; }
+    TestProjectNode();
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init();
+
+    Obj::PropertyInteger order{1};
+
+private:
+    static inline Kelta::TypeInfo type;
+    static inline Obj::PropertyCoreData data;
+};
+
+/// A document window that an object can name as its editor.
+class TestEditor final : public Gui::MDIWindow
+{
+public:
+    TestEditor() : MDIWindow(nullptr, nullptr) {}
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init();
+    void editObject(Gui::GuiProject& project, Obj::ProjectObject& object) override;
+
+    std::string shownLabel;
 
 private:
     static inline Kelta::TypeInfo type;
 };
 
-/// A command that does what a test wants.
+/// A command that runs a function of the test.
 class TestCommand : public Gui::Command
 {
 public:
@@ -122,7 +187,7 @@ private:
     std::function<void()> m_action;
 };
 
-/// A workbench that uses all that one can say. What it is asked for is counted over all of its kind.
+/// A workbench that overrides every operation. Activations are counted over all workbenches of the class.
 class TestWorkbench final : public Gui::StdSimModule
 {
 public:
@@ -162,15 +227,17 @@ protected:
 
     static TestProject& makeProject(const char* name = "Project");
     static TestObject& addObject(Obj::Project& project, const char* label = "Object");
+    static TypedObject& addTyped(Obj::Project& project, const char* label = "Typed");
     static TestNode& nodeOf(Obj::ProjectObject& object);
 
     Gui::ProjectExplorer& explorer() const { return window->get_project_explorer(); }
     Gui::ProjectTreeModel& model() const { return explorer().treeModel(); }
-    /// Gives the explorer the keyboard, and shows all that there is.
+    /// Gives the explorer the keyboard, and expands all of it.
     void focusExplorer() const;
-    /// The text of a row, up to date.
+    /// The present text of a row.
     QString shownText(const Obj::ProjectObject& object) const;
 
+    Gui::Contributions contributions; ///< what modules add to the window
     std::unique_ptr<Gui::MainWindow> window;
 };
 

@@ -9,7 +9,7 @@
 
 namespace vxtest {
 
-/// What a message box that a test answered showed to the user.
+/// What a message box showed to the user.
 struct ShownBox
 {
     QMessageBox::Icon icon;
@@ -20,8 +20,8 @@ struct ShownBox
     const QWidget* parent;
 };
 
-/// Answers every message box that comes up while it lives, by a click on one of its buttons, or on the close button of
-/// its frame when it has no such button; and keeps what they showed.
+/// While it lives, clicks one button in every message box that opens, or closes the box if it has no such button. Keeps
+/// what the boxes showed.
 class MessageBoxes : public QObject
 {
 public:

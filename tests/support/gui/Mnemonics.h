@@ -8,7 +8,7 @@
 
 namespace vxtest {
 
-/// The letter that the text offers to the keyboard; null for none.
+/// Returns the mnemonic letter of a text; a null letter if it has none.
 inline QChar mnemonicOf(const QString& text)
 {
     for (int i = 0; i + 1 < text.size(); ++i)
@@ -20,7 +20,7 @@ inline QChar mnemonicOf(const QString& text)
     return {};
 }
 
-/// The pairs of entries of a menu bar, and of each of its menus, that offer the same letter.
+/// Returns the pairs of entries of a menu bar, and of each of its menus, that have the same mnemonic.
 inline QStringList mnemonicClashes(const QMenuBar& bar)
 {
     QStringList clashes;

@@ -5,8 +5,8 @@
 
 namespace vxtest {
 
-/// The place of a virtual operation in the table of its class. The common C++ ABI keeps it in the pointer to the member:
-/// one more than the offset in bytes.
+/// Returns the place of a virtual operation in the table of its class. In the common C++ ABI, the pointer to the member
+/// contains the offset in bytes plus one.
 template <typename Class, typename Function>
 std::size_t slotOf(Function Class::*member)
 {

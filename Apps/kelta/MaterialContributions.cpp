@@ -1,0 +1,110 @@
+#include "MaterialContributions.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/CommandTable.h"
+#include "Gui/Contributions.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Obj/Application.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+
+namespace kelta {
+
+namespace {
+
+constexpr const char* commandContext = "MaterialCommand";
+constexpr const char* projectClass = "Mat::DocumentMaterial";
+constexpr const char* workbenchClass = "MatGui::SimModule";
+
+/// The project that is checked: the current one, if it holds materials.
+Mat::DocumentMaterial* currentProject()
+{
+    return dynamic_cast<Mat::DocumentMaterial*>(Obj::Application::get_current_project());
+}
+
+void checkMaterials()
+{
+    Mat::DocumentMaterial& project = *currentProject();
+    const QString name = QString::fromUtf8(project.get_name());
+    using Severity = Kelta::LogMessage::Severity;
+    if (project.check_all_materials())
+        Gui::MainWindow::announce(
+            QCoreApplication::translate(commandContext, "All materials of \"%1\" are ready.").arg(name),
+            Severity::Information);
+    else
+        Gui::MainWindow::announce(
+            QCoreApplication::translate(commandContext, "The materials of \"%1\" are not all ready.").arg(name),
+            Severity::Warning);
+}
+
+void addMaterialCommands(Gui::CommandController& commands)
+{
+    Gui::addCommands(
+        commands, commandContext,
+        {{"Mat_Check", QT_TRANSLATE_NOOP("MaterialCommand", "&Check materials"),
+          QT_TRANSLATE_NOOP("MaterialCommand", "Check whether all materials of the project are ready"), "", Qt::Key_F7,
+          Gui::CommandType::None, checkMaterials, [] { return currentProject() != nullptr; }}});
+}
+
+void addToBars(Gui::Contributions& contributions)
+{
+    contributions.addToMenu("&File", "New", "Mat_NewDoc");
+    contributions.addToMenu("&File", "Import", "Std_ImportDocument");
+    contributions.addToMenu("&File", "Close", "Mat_DelDoc");
+    contributions.addToMenu("&Edit", "Clipboard", "Mat_Delete");
+    contributions.addToMenu("&Project", "Add", "Mat_AddMaterial");
+    contributions.addToMenu("&Project", "Add", "Mat_Edit");
+    contributions.addToMenu("&Project", "Import", "Mat_Import");
+    contributions.addToMenu("&Material", "Check", "Mat_Check", workbenchClass);
+    contributions.addToToolBar("File", "New", "Mat_NewDoc");
+    contributions.addToToolBar("File", "Add", "Mat_AddMaterial");
+    contributions.addToTreeMenu("Mat_NewDoc");
+}
+
+constexpr const char* welcomeContext = "MaterialWelcome";
+
+void addWelcome(Gui::Contributions& contributions)
+{
+    using Gui::WelcomeStep;
+    contributions.addWelcomeEntry(
+        {WelcomeStep::NoProject,
+         "",
+         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "No project is open")},
+         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "A material project holds the materials of a model. "
+                                                               "Begin with a new one, or open a saved one.")},
+         {"Mat_NewDoc"}});
+    contributions.addWelcomeEntry(
+        {WelcomeStep::EmptyProject,
+         projectClass,
+         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "The project has no materials yet")},
+         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "Add a material; it begins as structural steel, and the "
+                                                               "editor offers 25 others and every quantity.")},
+         {"Mat_AddMaterial"}});
+    contributions.addWelcomeEntry(
+        {WelcomeStep::NoDocument,
+         projectClass,
+         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "No material is open")},
+         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "Double-click a material in the project explorer, or "
+                                                               "select one and choose Edit.")},
+         {"Mat_Edit"},
+         [] { return Gui::TreeSelectionSingleton::instance().get_count() != 0; }});
+}
+
+} // namespace
+
+void registerMaterialContributions(Gui::GuiApplication& application)
+{
+    addMaterialCommands(application.get_command_manager());
+    Gui::Contributions& contributions = application.contributions();
+    addToBars(contributions);
+    addWelcome(contributions);
+    contributions.addAboutText(
+        {"MaterialAbout",
+         QT_TRANSLATE_NOOP("MaterialAbout", "Materials for finite-element simulation: 26 ready-made materials, 36 "
+                                            "quantities, and the documents and cards that the solver reads.")});
+    contributions.addWorkbench(
+        {workbenchClass, {"Workbench", QT_TRANSLATE_NOOP("Workbench", "Material")}, projectClass});
+}
+
+} // namespace kelta

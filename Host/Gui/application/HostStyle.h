@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QIcon>
+#include <QProxyStyle>
+
+namespace Gui {
+
+/// The style of the platform, with own icons for the buttons that toolbars show if the window is too narrow. The icons of
+/// the platform are read from files as soon as a toolbar is made, which makes the start 6 % longer (gui_bench).
+class HostStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    HostStyle();
+    ~HostStyle() override;
+
+    QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option = nullptr,
+                       const QWidget* widget = nullptr) const override;
+};
+
+} // namespace Gui

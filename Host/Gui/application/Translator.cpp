@@ -1,0 +1,108 @@
+#include "Gui/Translator.h"
+
+#include "Kelta/MessageLog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Gui {
+
+namespace {
+
+/// The endings of the names of files that can serve a language, the best first: "zh_CN", then "zh".
+QStringList endingsFor(const QString& language)
+{
+    return {language, language.section(QLatin1Char('_'), 0, 0)};
+}
+
+/// The files of `names` that serve the language best. Names are compared as they are: patterns would have to be compiled
+/// at each start of the program.
+QStringList filesFor(const QString& language, const QStringList& names)
+{
+    for (const QString& ending : endingsFor(language)) {
+        const QString end = QStringLiteral("_%1.qm").arg(ending);
+        QStringList files;
+        std::copy_if(names.begin(), names.end(), std::back_inserter(files),
+                     [&end](const QString& name) { return name.endsWith(end); });
+        if (!files.isEmpty())
+            return files;
+    }
+    return {};
+}
+
+/// The file with Qt's own texts, such as those of the buttons of message boxes; none if Qt's translations are not
+/// installed. The folder of Qt's translations may hold thousands of files, so that it is not listed.
+QStringList toolkitFilesFor(const QString& language, const QString& folder)
+{
+    for (const QString& ending : endingsFor(language))
+        if (const QString name = QStringLiteral("qtbase_%1.qm").arg(ending); QFileInfo::exists(QDir(folder).filePath(name)))
+            return {name};
+    return {};
+}
+
+} // namespace
+
+Translator* Translator::instance()
+{
+    static Translator translator;
+    return &translator;
+}
+
+Translator::Translator() : m_language(QLocale::system().name())
+{
+    if (QCoreApplication::instance() != nullptr)
+        addFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" GUI_TRANSLATIONS_FOLDER)));
+}
+
+Translator::~Translator() = default;
+
+void Translator::setLanguage(const QString& language)
+{
+    m_language = language;
+    refresh();
+}
+
+void Translator::addFolder(const QString& folder)
+{
+    if (!m_folders.contains(folder))
+        m_folders << folder;
+}
+
+void Translator::refresh()
+{
+    clear();
+    const QString toolkitFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    for (const QString& name : toolkitFilesFor(m_language, toolkitFolder))
+        load(toolkitFolder, name);
+    for (const QString& folder : m_folders)
+        for (const QString& name : filesFor(m_language, QDir(folder).entryList(QDir::Files, QDir::Name)))
+            load(folder, name);
+    Q_EMIT languageChanged();
+}
+
+void Translator::load(const QString& folder, const QString& name)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(name, folder)) {
+        Kelta::MessageLog::warning(
+            tr("The translation %1 cannot be read; its texts are shown in English.").arg(QDir(folder).filePath(name)));
+        return;
+    }
+    QCoreApplication::installTranslator(translator.get());
+    m_translators.push_back(std::move(translator));
+}
+
+void Translator::clear()
+{
+    for (const auto& translator : m_translators)
+        QCoreApplication::removeTranslator(translator.get());
+    m_translators.clear();
+}
+
+} // namespace Gui

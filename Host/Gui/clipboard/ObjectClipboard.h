@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+
+#include <QByteArray>
+#include <QObject>
+
+#include <vector>
+
+namespace Obj {
+class Project;
+class ProjectObject;
+} // namespace Obj
+
+namespace Gui {
+
+class GuiApplication;
+
+/// Copies and pastes objects of every class, between programs too.
+///
+/// The clipboard holds "application/x-kelta-objects+json", and the same as text: an object with "kelta_objects", the
+/// version 1, and "objects", an array of objects with the members
+/// - "class", "label" and "suppressed"; earlier programs write no more than these and "content";
+/// - "project", "project_class", "id" and "name": where the object was copied from;
+/// - "properties", "node" (properties of the tree node), "links" (ids of objects), "group" (id) and "content" (of the
+///   class's codec, see Obj::ContentCodec), each if there is something to say;
+/// - "record" instead of these for an object whose class is missing (Obj::PlaceholderObject).
+///
+/// References and links between objects that are pasted together refer to the copies. Those to other objects are kept in
+/// the project that they were copied from, and left out elsewhere.
+class GUI_EXPORT ObjectClipboard : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr const char* mimeType = "application/x-kelta-objects+json";
+
+    /// Nodes come from `application`, which must outlive the clipboard.
+    explicit ObjectClipboard(GuiApplication& application);
+    ~ObjectClipboard() override;
+
+    /// Returns a description of the objects.
+    QByteArray write(const std::vector<Obj::ProjectObject*>& objects) const;
+    /// Adds the described objects to a project, in one undoable step, and returns those that are in it afterwards. If the
+    /// project cannot take one of them, none is added, and the message log says which. Other objects that cannot be read
+    /// are reported and left out. A text of another kind adds nothing.
+    std::vector<Obj::ProjectObject*> read(const QByteArray& text, Obj::Project& project) const;
+    /// Adds a copy of each object to its project, and returns those that are in it afterwards.
+    std::vector<Obj::ProjectObject*> duplicate(const std::vector<Obj::ProjectObject*>& objects) const;
+
+    /// Copies objects to the system's clipboard.
+    void copy(const std::vector<Obj::ProjectObject*>& objects) const;
+    /// Returns whether the system's clipboard holds objects.
+    bool holds_objects();
+    /// Adds the objects of the system's clipboard to a project; as read.
+    std::vector<Obj::ProjectObject*> paste(Obj::Project& project) const;
+
+private:
+    GuiApplication& m_application;
+    bool m_isKnown = false; ///< whether m_holdsObjects is of the present content
+    bool m_holdsObjects = false;
+};
+
+} // namespace Gui

@@ -1,0 +1,117 @@
+#include "Gui/Command.h"
+
+#include "Gui/PictureFactory.h"
+#include "Kelta/Exceptions.h"
+#include "Obj/Application.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QAction>
+#include <QIcon>
+
+namespace Gui {
+
+CommandBase::~CommandBase()
+{
+    delete m_action;
+}
+
+QAction* CommandBase::new_action(QObject* parent)
+{
+    m_action = new QAction(parent);
+    if (*get_pixmap() != '\0')
+        m_action->setIcon(PictureFactory::get_icon(QString::fromUtf8(get_pixmap())));
+    m_action->setShortcut(get_shortcut());
+    on_language_changed();
+    return m_action;
+}
+
+void CommandBase::on_language_changed()
+{
+    if (m_action == nullptr)
+        return;
+    m_action->setText(get_menu_info());
+    m_action->setToolTip(get_tooltip_info());
+    m_action->setStatusTip(get_statustip());
+    m_action->setWhatsThis(translated(whatsThis));
+}
+
+void CommandBase::updateAction()
+{
+    if (m_action == nullptr)
+        return;
+    m_action->setEnabled(is_applicable());
+    m_action->setCheckable(static_cast<bool>(isChecked));
+    m_action->setChecked(isChecked && isChecked());
+}
+
+const char* CommandBase::get_class_name() const
+{
+    return "CommandBase";
+}
+
+QString CommandBase::get_menu_info() const
+{
+    return translated(menuText);
+}
+
+QString CommandBase::get_tooltip_info() const
+{
+    return translated(toolTip);
+}
+
+QString CommandBase::get_statustip() const
+{
+    return translated(statusTip);
+}
+
+const char* CommandBase::get_pixmap() const
+{
+    return pixmap;
+}
+
+QKeySequence CommandBase::get_shortcut() const
+{
+    return shortcut;
+}
+
+bool CommandBase::is_applicable()
+{
+    return true;
+}
+
+Command::~Command() = default;
+
+QAction* Command::new_action(QObject* parent)
+{
+    QAction* const action = CommandBase::new_action(parent);
+    action->setObjectName(QString::fromStdString(m_name));
+    QObject::connect(action, &QAction::triggered, action, [this] { invoke(); });
+    return action;
+}
+
+bool Command::invoke(int index)
+{
+    const QString name = get_menu_info().remove(QLatin1Char('&'));
+    bool done = false;
+    Kelta::guarded(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed").arg(name), [&] {
+        if (!is_applicable())
+            return;
+        const vxMsg::MessageProxy::Group oneStep(name);
+        activated(index);
+        done = true;
+    });
+    return done;
+}
+
+std::string Command::get_unique_object_name(const char* stem)
+{
+    Obj::Project* const project = Obj::Application::get_current_project();
+    return project != nullptr ? project->get_unique_object_name(stem) : std::string();
+}
+
+QKeySequence Command::get_shortcut_from_keys(QKeySequence::StandardKey key)
+{
+    return QKeySequence(key);
+}
+
+} // namespace Gui

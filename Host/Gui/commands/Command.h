@@ -1,0 +1,98 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeySequence>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+#include <string>
+
+namespace Gui {
+
+/// Flags of commands; a command may have several.
+struct CommandType
+{
+    static constexpr int None = 0;
+    /// The command acts on what is selected in the project tree. Its shortcut works only while the tree has the keyboard.
+    static constexpr int OnTree = 8;
+};
+
+/// What menus and toolbars show of a command. Derived classes set the fields in their constructors; texts are English
+/// and are translated where they are shown, in the context of the class name.
+class GUI_EXPORT CommandBase
+{
+public:
+    CommandBase() = default;
+    CommandBase(const CommandBase&) = delete;
+    CommandBase& operator=(const CommandBase&) = delete;
+    virtual ~CommandBase();
+
+    /// Makes the action that menus and toolbars share. The parent owns it.
+    virtual QAction* new_action(QObject* parent);
+    /// Sets the texts of the action in the language of the user.
+    virtual void on_language_changed();
+    virtual const char* get_class_name() const;
+    virtual QString get_menu_info() const;    ///< translated menu text
+    virtual QString get_tooltip_info() const; ///< translated tool tip
+    virtual QString get_statustip() const;    ///< translated status tip
+    virtual const char* get_pixmap() const;   ///< name for the picture factory; empty for none
+    virtual QKeySequence get_shortcut() const;
+    /// Carries the command out. `index` is the chosen entry of a command that has several.
+    virtual void activated(int index) = 0;
+    /// Returns whether the command can be run now.
+    virtual bool is_applicable();
+
+    /// The action; null before new_action, and after its parent was destroyed.
+    QAction* action() const { return m_action; }
+    /// Enables the action if the command is applicable now, and sets its check mark. Does nothing without an action.
+    void updateAction();
+    const char* getGroup() const { return group; }
+    const char* getModule() const { return module; }
+    int getTypeFlags() const { return typeFlags; }
+
+protected:
+    QString translated(const char* text) const { return QCoreApplication::translate(get_class_name(), text); }
+
+    const char* menuText = "";
+    const char* toolTip = "";
+    const char* statusTip = "";
+    const char* whatsThis = "";
+    const char* pixmap = "";
+    const char* module = "";
+    const char* group = "Standard";
+    QKeySequence shortcut;
+    int typeFlags = CommandType::None;
+    /// Whether the entry of the command has a check mark now. An entry without this function never has one.
+    std::function<bool()> isChecked;
+
+private:
+    QPointer<QAction> m_action;
+};
+
+/// A command, known by its name. The command manager owns it.
+class GUI_EXPORT Command : public CommandBase
+{
+public:
+    explicit Command(const char* name) : m_name(name) {}
+    ~Command() override;
+
+    const std::string& getName() const { return m_name; }
+    QAction* new_action(QObject* parent) override;
+
+    /// Runs the command if it is applicable. All that it requests is undone in one step. Nothing is thrown: an exception
+    /// is reported to the message log. Returns whether the command ran to its end.
+    bool invoke(int index = 0);
+
+    /// Returns a name that no object of the current project has or had; an empty text without a project.
+    static std::string get_unique_object_name(const char* stem);
+    static QKeySequence get_shortcut_from_keys(QKeySequence::StandardKey key);
+
+private:
+    std::string m_name;
+};
+
+} // namespace Gui

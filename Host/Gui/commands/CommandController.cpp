@@ -1,0 +1,48 @@
+#include "Gui/CommandController.h"
+
+#include "Kelta/MessageLog.h"
+
+namespace Gui {
+
+CommandController::CommandController() = default;
+
+CommandController::~CommandController() = default;
+
+void CommandController::new_command(Command* command)
+{
+    std::unique_ptr<Command> owned(command);
+    if (owned == nullptr || find_command(owned->getName()) != nullptr)
+        return;
+    m_order.push_back(owned.get());
+    std::string name = owned->getName();
+    m_commands.emplace(std::move(name), std::move(owned));
+}
+
+Command* CommandController::find_command(std::string_view name) const
+{
+    const auto found = m_commands.find(name);
+    return found != m_commands.end() ? found->second.get() : nullptr;
+}
+
+bool CommandController::run_command(std::string_view name)
+{
+    if (Command* const command = find_command(name))
+        return command->invoke();
+    Kelta::MessageLog::error(QCoreApplication::translate("Gui::Command", "There is no command \"%1\".")
+                                 .arg(QString::fromUtf8(name.data(), static_cast<int>(name.size()))));
+    return false;
+}
+
+void CommandController::update_actions()
+{
+    for (Command* const command : m_order)
+        command->updateAction();
+}
+
+void CommandController::on_language_changed()
+{
+    for (Command* const command : m_order)
+        command->on_language_changed();
+}
+
+} // namespace Gui

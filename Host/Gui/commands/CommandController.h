@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Gui/Command.h"
+#include "Gui/GuiExport.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Gui {
+
+/// All commands of the program, those of the host and of modules, by their names. The controller owns them.
+class GUI_EXPORT CommandController
+{
+public:
+    CommandController();
+    CommandController(const CommandController&) = delete;
+    CommandController& operator=(const CommandController&) = delete;
+    ~CommandController();
+
+    /// Takes ownership of `command`; null is ignored. If another command has the name, that one stays and `command` is
+    /// destroyed.
+    void new_command(Command* command);
+
+    /// Returns the command with this name, which the controller owns; null if there is none.
+    Command* find_command(std::string_view name) const;
+    /// Runs a command as Command::invoke does. If there is no command with this name, reports that to the message log
+    /// and returns false.
+    bool run_command(std::string_view name);
+    /// Returns all commands in the order of their registration.
+    const std::vector<Command*>& get_commands() const { return m_order; }
+
+    /// Updates the actions of all commands: enables those that are applicable now, and sets the check marks.
+    void update_actions();
+    /// Sets the texts of all actions in the language of the user.
+    void on_language_changed();
+
+private:
+    std::map<std::string, std::unique_ptr<Command>, std::less<>> m_commands;
+    std::vector<Command*> m_order;
+};
+
+} // namespace Gui

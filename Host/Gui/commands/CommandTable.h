@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Gui/Command.h"
+#include "Gui/GuiExport.h"
+
+#include <QKeySequence>
+
+#include <functional>
+#include <vector>
+
+class QMenu;
+
+namespace Gui {
+
+class CommandController;
+
+/// One command as a row of a table. Texts are English; they are translated where they are shown, in the context of the
+/// table. All strings must outlive the command, as literals do.
+struct CommandRow
+{
+    const char* name;
+    const char* menuText;
+    const char* toolTip;     ///< also the status tip and the what's-this text
+    const char* pixmap = ""; ///< name for the picture factory; empty for none
+    QKeySequence shortcut = {};
+    int typeFlags = CommandType::None;
+    std::function<void()> run = {};            ///< what the command does
+    std::function<bool()> isApplicable = {};   ///< whether it can be run now; always if empty
+    std::function<bool()> isChecked = {};      ///< whether its entry has a check mark now; never if empty
+    std::function<void(QMenu&)> fillMenu = {}; ///< makes the entries of a menu that opens beside the command's entry
+};
+
+/// Makes a command of each row and gives it to the controller. `context` is the translation context of the texts, and
+/// the class name of the commands; it must outlive them.
+///
+///     addCommands(controller, "ProbeCommand",
+///                 {{"Probe_Add", QT_TRANSLATE_NOOP("ProbeCommand", "&Add probe"),
+///                   QT_TRANSLATE_NOOP("ProbeCommand", "Add a probe to the project"), "", {}, CommandType::None,
+///                   [] { addProbe(); }, [] { return hasProject(); }}});
+GUI_EXPORT void addCommands(CommandController& controller, const char* context, std::vector<CommandRow> rows);
+
+} // namespace Gui

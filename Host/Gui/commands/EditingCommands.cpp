@@ -1,0 +1,176 @@
+#include "commands/EditingCommands.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/CommandTable.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
+#include "Gui/ObjectClipboard.h"
+#include "Gui/ProjectExplorer.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Obj/Application.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QUndoStack>
+
+#include <algorithm>
+
+namespace Gui {
+
+namespace {
+
+constexpr const char* context = "StandardCommand";
+
+using Objects = std::vector<Obj::ProjectObject*>;
+
+bool hasProject()
+{
+    return Obj::Application::get_current_project() != nullptr;
+}
+
+Objects selectedIn(const TreeSelectionSingleton& selection)
+{
+    return selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+}
+
+/// The next command applies to the new objects.
+void selectAlone(TreeSelectionSingleton& selection, const Objects& objects)
+{
+    if (!objects.empty())
+        selection.set_selection({}, objects);
+}
+
+void paste(const ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
+{
+    if (Obj::Project* const project = Obj::Application::get_current_project())
+        selectAlone(selection, clipboard.paste(*project));
+}
+
+/// Listeners of one change may delete the next object.
+void suppress(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection, bool suppressed)
+{
+    for (Obj::ProjectObject* const object : selectedIn(selection))
+        if (object->get_project() != nullptr)
+            requests.setSuppressed(*object, suppressed);
+}
+
+bool canSuppress(const TreeSelectionSingleton& selection, bool suppressed)
+{
+    const Objects objects = selectedIn(selection);
+    return std::any_of(objects.begin(), objects.end(),
+                       [suppressed](const auto* object) { return object->isSuppressed() != suppressed; });
+}
+
+void rename()
+{
+    // The label is edited in the tree.
+    MainWindow& window = *MainWindow::get_main_window_inst();
+    window.show_project_explorer();
+    window.get_project_explorer().renameSelected();
+}
+
+bool canRename(const TreeSelectionSingleton& selection)
+{
+    return MainWindow::get_main_window_inst() != nullptr && selection.get_count() == 1 &&
+           selectedIn(selection).size() == 1;
+}
+
+bool canSelectAll()
+{
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    return MainWindow::get_main_window_inst() != nullptr && project != nullptr && project->get_object_count() != 0;
+}
+
+void collect(vxMsg::MessageProxy& requests)
+{
+    const std::string name = Obj::Application::get_current_project()->get_name();
+    if (requests.handOver(name))
+        MainWindow::announce(QCoreApplication::translate(context, "\"%1\" was handed over to the solver.")
+                                 .arg(QString::fromStdString(name)));
+}
+
+std::vector<CommandRow> historyRows(QUndoStack& history)
+{
+    return {
+        {"Std_Undo", QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"), "kelta_undo", QKeySequence::Undo,
+         CommandType::None, [&history] { history.undo(); }, [&history] { return history.canUndo(); }},
+        {"Std_Redo", QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"), "kelta_redo",
+         QKeySequence::Redo, CommandType::None, [&history] { history.redo(); },
+         [&history] { return history.canRedo(); }},
+    };
+}
+
+std::vector<CommandRow> clipboardRows(ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
+{
+    const auto hasObjects = [&selection] { return !selectedIn(selection).empty(); };
+    return {
+        {"Std_Copy", QT_TRANSLATE_NOOP("StandardCommand", "&Copy"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Copy the selected objects"), "kelta_copy", QKeySequence::Copy,
+         CommandType::OnTree, [&clipboard, &selection] { clipboard.copy(selectedIn(selection)); }, hasObjects},
+        {"Std_Paste", QT_TRANSLATE_NOOP("StandardCommand", "&Paste"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Add the copied objects to the project"), "kelta_paste",
+         QKeySequence::Paste, CommandType::OnTree, [&clipboard, &selection] { paste(clipboard, selection); },
+         [&clipboard] { return hasProject() && clipboard.holds_objects(); }},
+        {"Std_DuplicateSelection", QT_TRANSLATE_NOOP("StandardCommand", "Dup&licate"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Add a copy of each selected object"), "", Qt::CTRL + Qt::Key_D,
+         CommandType::OnTree,
+         [&clipboard, &selection] { selectAlone(selection, clipboard.duplicate(selectedIn(selection))); }, hasObjects},
+    };
+}
+
+std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection)
+{
+    return {
+        {"Std_Suppress",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Suppress"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Take the selected objects out of use"),
+         "",
+         {},
+         CommandType::OnTree,
+         [&requests, &selection] { suppress(requests, selection, true); },
+         [&selection] { return canSuppress(selection, true); }},
+        {"Std_Unsuppress",
+         QT_TRANSLATE_NOOP("StandardCommand", "U&nsuppress"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Take the selected objects into use again"),
+         "",
+         {},
+         CommandType::OnTree,
+         [&requests, &selection] { suppress(requests, selection, false); },
+         [&selection] { return canSuppress(selection, false); }},
+    };
+}
+
+std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection)
+{
+    return {
+        {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object another label"), "", Qt::Key_F2,
+         CommandType::OnTree, rename, [&selection] { return canRename(selection); }},
+        {"Std_SelectAll", QT_TRANSLATE_NOOP("StandardCommand", "Select &all"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Select all objects of the project"), "", QKeySequence::SelectAll,
+         CommandType::OnTree, [] { MainWindow::get_main_window_inst()->get_project_explorer().selectAllObjects(); },
+         canSelectAll},
+        {"Std_Collect",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Hand over to the solver"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Hand the data of the project over to the solver"),
+         "",
+         {},
+         CommandType::None,
+         [&requests] { collect(requests); },
+         hasProject},
+    };
+}
+
+} // namespace
+
+void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& selection)
+{
+    CommandController& commands = application.get_command_manager();
+    addCommands(commands, context, historyRows(application.requests().undoStack()));
+    addCommands(commands, context, clipboardRows(application.objectClipboard(), selection));
+    addCommands(commands, context, suppressionRows(application.requests(), selection));
+    addCommands(commands, context, projectRows(application.requests(), selection));
+}
+
+} // namespace Gui

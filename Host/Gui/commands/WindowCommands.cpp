@@ -1,0 +1,147 @@
+#include "commands/WindowCommands.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/CommandTable.h"
+#include "Gui/Contributions.h"
+#include "Gui/MainWindow.h"
+#include "Gui/MessageLogView.h"
+
+#include <QMessageBox>
+
+namespace Gui {
+
+namespace {
+
+constexpr const char* context = "StandardCommand";
+
+MainWindow* mainWindow()
+{
+    return MainWindow::get_main_window_inst();
+}
+
+bool hasWindow()
+{
+    return mainWindow() != nullptr;
+}
+
+bool hasDocuments()
+{
+    return hasWindow() && mainWindow()->get_active_mdi_window() != nullptr;
+}
+
+void showAbout()
+{
+    QString text = QStringLiteral("<h3>%1 %2</h3>")
+                       .arg(QCoreApplication::applicationName().toHtmlEscaped(),
+                            QCoreApplication::applicationVersion().toHtmlEscaped());
+    for (const TranslatableText& paragraph : mainWindow()->contributions().aboutTexts())
+        text += QStringLiteral("<p>%1</p>").arg(paragraph.translated());
+    QMessageBox::about(mainWindow(), QCoreApplication::translate(context, "About"), text);
+}
+
+std::vector<CommandRow> dockRows()
+{
+    return {
+        {"Std_ProjectExplorer",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Project explorer"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show or hide the project explorer"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->toggleDock("ProjectExplorer"); },
+         hasWindow},
+        {"Std_PropertyPanel",
+         QT_TRANSLATE_NOOP("StandardCommand", "P&roperties"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show or hide the properties"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->toggleDock("PropertyPanel"); },
+         hasWindow},
+        {"Std_MessageLog",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Messages"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show or hide the messages"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->toggleDock("MessageLog"); },
+         hasWindow},
+        {"Std_ClearMessages",
+         QT_TRANSLATE_NOOP("StandardCommand", "C&lear messages"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Empty the message log"),
+         "kelta_clear",
+         {},
+         CommandType::None,
+         [] { mainWindow()->get_message_log().clearMessages(); },
+         hasWindow},
+    };
+}
+
+std::vector<CommandRow> documentRows()
+{
+    return {
+        {"Std_TileWindows",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Tile"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show all document windows side by side"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->tile_windows(); },
+         hasDocuments},
+        {"Std_CascadeWindows",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Cascade"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show the document windows one behind the other"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->cascade_windows(); },
+         hasDocuments},
+        {"Std_TabWindows",
+         QT_TRANSLATE_NOOP("StandardCommand", "Ta&bs"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show the document windows as tabs"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->tab_windows(); },
+         hasDocuments},
+        {"Std_CloseWindow", QT_TRANSLATE_NOOP("StandardCommand", "Cl&ose"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Close the document window in front"), "", Qt::CTRL + Qt::Key_W,
+         CommandType::None, [] { mainWindow()->close_current_window(); }, hasDocuments},
+        {"Std_CloseAllWindows",
+         QT_TRANSLATE_NOOP("StandardCommand", "Close &all"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Close all document windows"),
+         "",
+         {},
+         CommandType::None,
+         [] { mainWindow()->close_all_windows(); },
+         hasDocuments},
+    };
+}
+
+std::vector<CommandRow> programRows()
+{
+    return {
+        {"Std_Quit", QT_TRANSLATE_NOOP("StandardCommand", "&Quit"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Close the program"), "", Qt::CTRL + Qt::Key_Q, CommandType::None,
+         [] { mainWindow()->close(); }, hasWindow},
+        {"Std_About",
+         QT_TRANSLATE_NOOP("StandardCommand", "&About"),
+         QT_TRANSLATE_NOOP("StandardCommand", "What this program is"),
+         "",
+         {},
+         CommandType::None,
+         showAbout,
+         hasWindow},
+    };
+}
+
+} // namespace
+
+void addWindowCommands(CommandController& commands)
+{
+    addCommands(commands, context, dockRows());
+    addCommands(commands, context, documentRows());
+    addCommands(commands, context, programRows());
+}
+
+} // namespace Gui

@@ -1,0 +1,135 @@
+#include "properties/PropertyDelegate.h"
+
+#include "Obj/Project.h"
+#include "Obj/Property.h"
+#include "Obj/PropertyReference.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDoubleValidator>
+#include <QLineEdit>
+
+#include <utility>
+
+namespace Gui {
+
+namespace {
+
+QString shownWord(const std::string& word)
+{
+    return QCoreApplication::translate("Property", word.c_str());
+}
+
+QString labelOf(const Obj::ProjectObject& object)
+{
+    return QString::fromStdString(object.label.getValue());
+}
+
+QString shownReference(const Obj::PropertyReference& property)
+{
+    const Obj::ProjectObject* const object = property.getValue();
+    return object != nullptr ? labelOf(*object) : PropertyDelegate::tr("None");
+}
+
+/// The objects to which a reference can refer: all of the project, except the one that has the property.
+std::vector<const Obj::ProjectObject*> targetsOf(const Obj::PropertyReference& property)
+{
+    const auto* const owner = dynamic_cast<const Obj::ProjectObject*>(property.get_owner());
+    const auto* const project =
+        owner != nullptr ? owner->get_project() : dynamic_cast<const Obj::Project*>(property.get_owner());
+    std::vector<const Obj::ProjectObject*> targets;
+    if (project != nullptr)
+        for (const Obj::ProjectObject* const object : project->get_objects())
+            if (object != owner)
+                targets.push_back(object);
+    return targets;
+}
+
+/// A line that takes real numbers alone, with a decimal point in every locale.
+QLineEdit* makeNumberLine(QWidget* parent)
+{
+    auto* const line = new QLineEdit(parent);
+    auto* const validator = new QDoubleValidator(line);
+    validator->setLocale(QLocale::c());
+    line->setValidator(validator);
+    return line;
+}
+
+} // namespace
+
+PropertyDelegate::PropertyDelegate(PropertyAt propertyAt, QObject* parent)
+    : QStyledItemDelegate(parent), m_propertyAt(std::move(propertyAt))
+{}
+
+PropertyDelegate::~PropertyDelegate() = default;
+
+QWidget* PropertyDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    const Obj::Property* const property = m_propertyAt(index);
+    if (property == nullptr)
+        return nullptr;
+    if (const auto* const choice = dynamic_cast<const Obj::PropertyChoice*>(property))
+        return makeChoice(parent, *choice);
+    if (const auto* const reference = dynamic_cast<const Obj::PropertyReference*>(property))
+        return makeReference(parent, *reference);
+    if (dynamic_cast<const Obj::PropertyReal*>(property) != nullptr)
+        return makeNumberLine(parent);
+    return new QLineEdit(parent);
+}
+
+void PropertyDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    const QString value = index.data(valueRole).toString();
+    if (auto* const list = qobject_cast<QComboBox*>(editor))
+        list->setCurrentIndex(list->findData(value));
+    else if (auto* const line = qobject_cast<QLineEdit*>(editor))
+        line->setText(value);
+}
+
+void PropertyDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (const auto* const list = qobject_cast<const QComboBox*>(editor))
+        model->setData(index, list->currentData(), valueRole);
+    else if (const auto* const line = qobject_cast<const QLineEdit*>(editor))
+        model->setData(index, line->text(), valueRole);
+}
+
+QString PropertyDelegate::shownText(const Obj::Property& property)
+{
+    if (const auto* const choice = dynamic_cast<const Obj::PropertyChoice*>(&property))
+        return shownWord(choice->get_word());
+    if (const auto* const reference = dynamic_cast<const Obj::PropertyReference*>(&property))
+        return shownReference(*reference);
+    return QString::fromStdString(property.to_text());
+}
+
+/// A list whose choice is taken over at once.
+QComboBox* PropertyDelegate::makeList(QWidget* parent) const
+{
+    auto* const list = new QComboBox(parent);
+    auto* const self = const_cast<PropertyDelegate*>(this);
+    connect(list, QOverload<int>::of(&QComboBox::activated), self, [self, list] {
+        Q_EMIT self->commitData(list);
+        Q_EMIT self->closeEditor(list);
+    });
+    return list;
+}
+
+QComboBox* PropertyDelegate::makeChoice(QWidget* parent, const Obj::PropertyChoice& property) const
+{
+    QComboBox* const list = makeList(parent);
+    for (const std::string& word : property.get_words())
+        list->addItem(shownWord(word), QString::fromStdString(word));
+    return list;
+}
+
+QComboBox* PropertyDelegate::makeReference(QWidget* parent, const Obj::PropertyReference& property) const
+{
+    QComboBox* const list = makeList(parent);
+    list->addItem(tr("None"), QString());
+    for (const Obj::ProjectObject* const object : targetsOf(property))
+        list->addItem(labelOf(*object), QString::fromUtf8(object->get_name_in_project()));
+    return list;
+}
+
+} // namespace Gui

@@ -1,0 +1,213 @@
+#include "Gui/PropertyPanel.h"
+
+#include "Gui/GuiApplication.h"
+#include "Gui/GuiProject.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Gui/ViewFeeder.h"
+#include "Obj/Application.h"
+#include "properties/PropertyDelegate.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QHeaderView>
+
+namespace Gui {
+
+namespace {
+
+constexpr int valueColumn = 1;
+
+// What the first column keeps beside the texts.
+constexpr int ownerRole = Qt::UserRole + 1; ///< index of the owner
+constexpr int nameRole = Qt::UserRole + 2;  ///< the property's own name
+
+QString translatedProperty(const char* text)
+{
+    return *text != '\0' ? QCoreApplication::translate("Property", text) : QString();
+}
+
+/// The colour that a property holds, for a swatch beside its text; an invalid one for other properties.
+QColor swatchOf(const Obj::Property& property)
+{
+    const auto* const color = dynamic_cast<const Obj::PropertyColor*>(&property);
+    if (color == nullptr)
+        return {};
+    const Obj::Color& value = color->getValue();
+    return QColor::fromRgbF(static_cast<double>(value.red), static_cast<double>(value.green),
+                            static_cast<double>(value.blue));
+}
+
+} // namespace
+
+PropertyPanel::PropertyPanel(GuiApplication& application, TreeSelectionSingleton& selection, QWidget* parent)
+    : QTreeWidget(parent), m_application(application), m_selection(selection)
+{
+    setObjectName(QStringLiteral("propertyPanel"));
+    configure();
+    retranslate();
+    m_refresh.setSingleShot(true);
+    connect(&m_refresh, &QTimer::timeout, this, &PropertyPanel::showSelection);
+    connect(&m_selection, &TreeSelectionSingleton::selectionChanged, this, [this] { m_refresh.start(0); });
+    connect(this, &QTreeWidget::itemChanged, this, &PropertyPanel::takeOverEdit);
+    showSelection();
+}
+
+PropertyPanel::~PropertyPanel() = default;
+
+void PropertyPanel::showSelection()
+{
+    m_refresh.stop();
+    m_filling = true;
+    clear();
+    watch();
+    const Owners shown = owners();
+    for (const OwnerIndex index : {Shown, Node})
+        if (shown[index] != nullptr)
+            addProperties(index, *shown[index]);
+    const std::size_t count = m_selection.get_count();
+    // The columns are properties and values, not sentences.
+    setHeaderHidden(count != 1);
+    header()->setSectionResizeMode(0, count == 1 ? QHeaderView::ResizeToContents : QHeaderView::Fixed);
+    if (count != 1)
+        showCount(count);
+    expandAll();
+    m_filling = false;
+}
+
+void PropertyPanel::changeEvent(QEvent* event)
+{
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        m_refresh.start(0);
+    }
+}
+
+void PropertyPanel::configure()
+{
+    setColumnCount(2);
+    setAlternatingRowColors(true);
+    setItemDelegate(new PropertyDelegate([this](const QModelIndex& index) { return propertyAt(index); }, this));
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::AnyKeyPressed);
+}
+
+void PropertyPanel::retranslate()
+{
+    setAccessibleName(tr("Properties"));
+    setHeaderLabels({tr("Property"), tr("Value")});
+}
+
+PropertyPanel::Owners PropertyPanel::owners() const
+{
+    if (m_selection.get_count() != 1)
+        return {};
+    const auto projects = m_selection.get_projects();
+    if (!projects.empty()) {
+        GuiProject* const guiProject = m_application.get_project(projects.front());
+        return {projects.front(), guiProject != nullptr ? guiProject->get_view_feeder() : nullptr};
+    }
+    const auto objects = m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    if (objects.empty())
+        return {};
+    return {objects.front(), m_application.get_view_feeder(objects.front())};
+}
+
+const Obj::Property* PropertyPanel::propertyAt(const QModelIndex& index) const
+{
+    const QModelIndex first = index.sibling(index.row(), 0);
+    const QByteArray name = first.data(nameRole).toString().toUtf8();
+    const Obj::PropertyDS* const owner = owners()[static_cast<std::size_t>(first.data(ownerRole).toInt())];
+    return index.column() == valueColumn && owner != nullptr && !name.isEmpty()
+               ? owner->get_property_by_name(name.constData())
+               : nullptr;
+}
+
+void PropertyPanel::showCount(std::size_t count)
+{
+    const QString text = count == 0 ? tr("Nothing is selected.") : tr("%1 entries are selected.").arg(count);
+    auto* const item = new QTreeWidgetItem(this, {text});
+    item->setFlags(Qt::NoItemFlags);
+    item->setFirstColumnSpanned(true);
+}
+
+void PropertyPanel::addProperties(OwnerIndex ownerIndex, const Obj::PropertyDS& owner)
+{
+    std::vector<Obj::Property*> properties;
+    owner.get_property_array(properties);
+    for (const Obj::Property* const property : properties)
+        if (!owner.is_hidden(property))
+            makeItem(owner, *property)->setData(0, ownerRole, ownerIndex);
+}
+
+QTreeWidgetItem* PropertyPanel::makeItem(const Obj::PropertyDS& owner, const Obj::Property& property)
+{
+    const char* const name = owner.get_property_name(&property);
+    auto* const item = new QTreeWidgetItem(groupItem(translatedProperty(owner.get_property_group(&property))),
+                                           {translatedProperty(name)});
+    item->setData(0, nameRole, QString::fromUtf8(name));
+    for (const int column : {0, valueColumn})
+        item->setToolTip(column, translatedProperty(owner.get_property_description(&property)));
+    showValue(*item, property, owner.is_read_only(&property));
+    return item;
+}
+
+/// A yes or no is a check box, which needs no editor.
+void PropertyPanel::showValue(QTreeWidgetItem& item, const Obj::Property& property, bool isReadOnly) const
+{
+    item.setData(valueColumn, PropertyDelegate::valueRole, QString::fromStdString(property.to_text()));
+    Qt::ItemFlag editing = Qt::ItemIsEditable;
+    if (const auto* const yesOrNo = dynamic_cast<const Obj::PropertyBool*>(&property)) {
+        item.setCheckState(valueColumn, yesOrNo->getValue() ? Qt::Checked : Qt::Unchecked);
+        editing = Qt::ItemIsUserCheckable;
+    } else {
+        item.setText(valueColumn, PropertyDelegate::shownText(property));
+    }
+    Qt::ItemFlags flags = item.flags() & ~(Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
+    item.setFlags(flags.setFlag(editing, !isReadOnly));
+    if (isReadOnly)
+        item.setForeground(valueColumn, palette().brush(QPalette::Disabled, QPalette::Text));
+    if (const QColor color = swatchOf(property); color.isValid())
+        item.setData(valueColumn, Qt::DecorationRole, color);
+}
+
+QTreeWidgetItem* PropertyPanel::groupItem(const QString& group)
+{
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        if (topLevelItem(i)->text(0) == group)
+            return topLevelItem(i);
+    auto* const item = new QTreeWidgetItem(this, {group});
+    item->setFirstColumnSpanned(true);
+    item->setFlags(Qt::ItemIsEnabled);
+    QFont font = item->font(0);
+    font.setBold(true);
+    item->setFont(0, font);
+    return item;
+}
+
+void PropertyPanel::takeOverEdit(QTreeWidgetItem* item, int column)
+{
+    const Obj::Property* const property = propertyAt(indexFromItem(item, column));
+    if (m_filling || property == nullptr)
+        return;
+    const bool isBool = dynamic_cast<const Obj::PropertyBool*>(property) != nullptr;
+    const QString text = isBool ? QLatin1String(item->checkState(column) == Qt::Checked ? "true" : "false")
+                                : item->data(column, PropertyDelegate::valueRole).toString();
+    m_application.requests().setProperty(m_application.placeOf(*property->get_owner()),
+                                         item->data(0, nameRole).toString().toStdString(), text.toStdString());
+    // Shows what the property holds now, once the item is no longer being edited.
+    m_refresh.start(0);
+}
+
+void PropertyPanel::watch()
+{
+    m_connections.clear();
+    const auto later = [this](auto&&...) { m_refresh.start(0); };
+    m_connections.emplace_back(Obj::Application::instance().currentProjectChanged.connect(later));
+    Obj::PropertyDS* const shown = owners()[Shown];
+    if (auto* const object = dynamic_cast<Obj::ProjectObject*>(shown))
+        m_connections.emplace_back(object->get_project()->objectChanged.connect(later));
+    if (auto* const project = dynamic_cast<Obj::Project*>(shown))
+        m_connections.emplace_back(project->changed.connect(later));
+}
+
+} // namespace Gui

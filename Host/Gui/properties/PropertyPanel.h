@@ -1,0 +1,68 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+
+#include <QTimer>
+#include <QTreeWidget>
+#include <boost/signals2/connection.hpp>
+
+#include <array>
+#include <vector>
+
+namespace Obj {
+class Property;
+class PropertyDS;
+} // namespace Obj
+
+namespace Gui {
+
+class GuiApplication;
+class TreeSelectionSingleton;
+
+/// The properties of what is selected in the project tree, by group: those of the project or object and those of its
+/// node. They are edited in place, undoably, each in an editor for its type. If several entries are selected, the panel
+/// says how many.
+class GUI_EXPORT PropertyPanel : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows the selection. Nodes come from `application`, which carries out the edits too; both must outlive the panel.
+    PropertyPanel(GuiApplication& application, TreeSelectionSingleton& selection, QWidget* parent = nullptr);
+    ~PropertyPanel() override;
+
+    /// Shows at once what is selected now.
+    void showSelection();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    /// The selected project or object, and its node; null where there is none.
+    using Owners = std::array<Obj::PropertyDS*, 2>;
+    enum OwnerIndex
+    {
+        Shown,
+        Node
+    };
+
+    void configure();
+    void retranslate();
+    Owners owners() const;
+    const Obj::Property* propertyAt(const QModelIndex& index) const;
+    void showCount(std::size_t count);
+    void addProperties(OwnerIndex ownerIndex, const Obj::PropertyDS& owner);
+    QTreeWidgetItem* makeItem(const Obj::PropertyDS& owner, const Obj::Property& property);
+    void showValue(QTreeWidgetItem& item, const Obj::Property& property, bool isReadOnly) const;
+    QTreeWidgetItem* groupItem(const QString& group);
+    void takeOverEdit(QTreeWidgetItem* item, int column);
+    void watch();
+
+    GuiApplication& m_application;
+    TreeSelectionSingleton& m_selection;
+    QTimer m_refresh;
+    bool m_filling = false;
+    std::vector<boost::signals2::scoped_connection> m_connections;
+};
+
+} // namespace Gui

@@ -1,0 +1,231 @@
+#include "Gui/ProjectExplorer.h"
+
+#include "Gui/Contributions.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/GuiProject.h"
+#include "Gui/MainWindow.h"
+#include "Gui/StdSimModule.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Gui/ViewFeeder.h"
+#include "Obj/Application.h"
+#include "window/CoreEditor.h"
+#include "workbench/MenuBuilder.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QContextMenuEvent>
+#include <QItemSelection>
+#include <QMenu>
+#include <QMouseEvent>
+
+namespace Gui {
+
+ProjectExplorer::ProjectExplorer(MainWindow& window, GuiApplication& application, TreeSelectionSingleton& selection,
+                                 QWidget* parent)
+    : QTreeView(parent), m_window(window), m_application(application), m_selection(selection), m_model(application)
+{
+    setObjectName(QStringLiteral("projectExplorer"));
+    setAccessibleName(tr("Project explorer"));
+    configure();
+    connectSelection();
+}
+
+ProjectExplorer::~ProjectExplorer() = default;
+
+bool ProjectExplorer::renameSelected()
+{
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    if (selected.size() != 1 || m_model.objectAt(selected.first()) == nullptr)
+        return false;
+    setCurrentIndex(selected.first());
+    edit(selected.first());
+    return true;
+}
+
+void ProjectExplorer::selectAllObjects()
+{
+    m_model.synchronize();
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    QItemSelection items;
+    if (project != nullptr)
+        selectBelow(m_model.indexOf(*project), items);
+    if (!items.isEmpty())
+        selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
+}
+
+void ProjectExplorer::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex index = isKey ? currentIndex() : indexAt(event->pos());
+    showMenu(index, isKey ? viewport()->mapToGlobal(visualRect(index).bottomLeft()) : event->globalPos());
+}
+
+void ProjectExplorer::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    if (event->button() != Qt::LeftButton || !open(index))
+        QTreeView::mouseDoubleClickEvent(event);
+}
+
+void ProjectExplorer::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || state() == QAbstractItemView::EditingState || !open(currentIndex()))
+        QTreeView::keyPressEvent(event);
+}
+
+void ProjectExplorer::editFromMenu()
+{
+    const auto* const action = qobject_cast<const QAction*>(sender());
+    ViewFeeder* const node = nodeAt(m_menuIndex);
+    if (action != nullptr && node != nullptr)
+        node->setEdit(action->data().toInt());
+}
+
+void ProjectExplorer::configure()
+{
+    setModel(&m_model);
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setEditTriggers(QAbstractItemView::EditKeyPressed);
+    setExpandsOnDoubleClick(false);
+    const auto expandParent = [this](const QModelIndex& parent) {
+        if (parent.isValid())
+            expand(parent);
+    };
+    connect(&m_model, &QAbstractItemModel::rowsInserted, this, expandParent);
+    connect(&m_model, &QAbstractItemModel::rowsMoved, this,
+            [expandParent](const QModelIndex&, int, int, const QModelIndex& target) { expandParent(target); });
+}
+
+void ProjectExplorer::connectSelection()
+{
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ProjectExplorer::takeOverSelection);
+    connect(&m_selection, &TreeSelectionSingleton::selectionChanged, this, &ProjectExplorer::showSelection);
+}
+
+void ProjectExplorer::takeOverSelection()
+{
+    if (m_selecting)
+        return;
+    std::vector<Obj::Project*> projects;
+    std::vector<Obj::ProjectObject*> objects;
+    for (const QModelIndex& index : selectionModel()->selectedIndexes()) {
+        if (Obj::ProjectObject* const object = m_model.objectAt(index))
+            objects.push_back(object);
+        else if (Obj::Project* const project = m_model.projectAt(index))
+            projects.push_back(project);
+    }
+    makeCurrent(projects, objects);
+    m_selecting = true;
+    m_selection.set_selection(projects, objects);
+    m_selecting = false;
+}
+
+void ProjectExplorer::showSelection()
+{
+    if (m_selecting)
+        return;
+    m_selecting = true;
+    // What was removed is not selected any more.
+    m_model.synchronize();
+    const std::vector<Obj::Project*> projects = m_selection.get_projects();
+    const auto objects = m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    makeCurrent(projects, objects);
+    QItemSelection items;
+    for (const Obj::Project* const project : projects)
+        items.select(m_model.indexOf(*project), m_model.indexOf(*project));
+    for (const Obj::ProjectObject* const object : objects)
+        items.select(m_model.indexOf(*object), m_model.indexOf(*object));
+    selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
+    m_selecting = false;
+}
+
+/// The next command of the user applies to the project in which something is selected.
+void ProjectExplorer::makeCurrent(const std::vector<Obj::Project*>& projects,
+                                  const std::vector<Obj::ProjectObject*>& objects)
+{
+    if (!projects.empty())
+        Obj::Application::instance().set_current_project(*projects.front());
+    else if (!objects.empty())
+        Obj::Application::instance().set_current_project(*objects.front()->get_project());
+}
+
+// NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
+void ProjectExplorer::selectBelow(const QModelIndex& parent, QItemSelection& items) const
+{
+    const int count = parent.isValid() ? m_model.rowCount(parent) : 0;
+    if (count == 0)
+        return;
+    items.select(m_model.index(0, 0, parent), m_model.index(count - 1, 0, parent));
+    for (int row = 0; row < count; ++row)
+        selectBelow(m_model.index(row, 0, parent), items);
+}
+
+ViewFeeder* ProjectExplorer::nodeAt(const QModelIndex& index) const
+{
+    if (Obj::ProjectObject* const object = m_model.objectAt(index))
+        return m_application.get_view_feeder(object);
+    GuiProject* const project = m_application.get_project(m_model.projectAt(index));
+    return project != nullptr ? project->get_view_feeder() : nullptr;
+}
+
+bool ProjectExplorer::open(const QModelIndex& index)
+{
+    ViewFeeder* const node = nodeAt(index);
+    if (node == nullptr || node->on_double_clicked())
+        return node != nullptr;
+    Obj::ProjectObject* const object = m_model.objectAt(index);
+    return object != nullptr && openCoreEditor(m_window, m_application, *object);
+}
+
+void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
+{
+    m_menuIndex = index;
+    MenuItem items;
+    QMenu menu;
+    if (ViewFeeder* const node = nodeAt(index)) {
+        addNodeEntries(*node, menu);
+        node->build_context_menu("Tree", &items);
+    } else {
+        for (const std::string& command : m_window.contributions().treeMenu())
+            items << command.c_str();
+    }
+    if (m_window.get_workbench() != nullptr)
+        m_window.get_workbench()->build_context_menu("Tree", &items);
+    MenuBuilder(m_application.get_command_manager(), m_window).fillMenu(menu, items);
+    if (!menu.isEmpty())
+        menu.exec(position);
+}
+
+/// What the node offers itself, and the ways in which it can be displayed if there are several.
+void ProjectExplorer::addNodeEntries(ViewFeeder& node, QMenu& menu)
+{
+    node.build_context_menu(&menu, this, SLOT(editFromMenu()));
+    const std::vector<std::string> modes = node.getDisplayModes();
+    if (modes.size() < 2)
+        return;
+    QMenu* const choices = menu.addMenu(tr("Display as"));
+    auto* const group = new QActionGroup(choices);
+    for (const std::string& mode : modes) {
+        QAction* const action = group->addAction(QCoreApplication::translate("DisplayMode", mode.c_str()));
+        action->setCheckable(true);
+        action->setChecked(mode == node.getDisplayMode());
+        connect(action, &QAction::triggered, this, [this, mode] { display(mode); });
+    }
+    choices->addActions(group->actions());
+}
+
+void ProjectExplorer::display(const std::string& mode)
+{
+    ViewFeeder* const node = nodeAt(m_menuIndex);
+    if (node == nullptr)
+        return;
+    node->setDisplayMode(mode.c_str());
+    // The mode may decide whether the node is shown, and with which picture.
+    m_model.synchronize();
+    viewport()->update();
+}
+
+} // namespace Gui

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace Obj {
+class Project;
+class ProjectObject;
+} // namespace Obj
+
+namespace Gui {
+
+/// Which objects of a project have a node in the tree, and under which node each is shown: the ids of the children of
+/// each node, in ascending order. The id 0 is the node of the project itself.
+class TreeShape
+{
+public:
+    /// The members of a group are shown under the group. Objects for which `isShown` returns false have no node; their
+    /// members are shown as if they were in no group.
+    TreeShape(const Obj::Project& project, const std::function<bool(Obj::ProjectObject&)>& isShown);
+
+    /// The children of a node; none if the tree does not have it.
+    const std::vector<std::uint32_t>& childrenOf(std::uint32_t objectId) const;
+    /// The project's node and all others that have children, each after the node under which it is shown.
+    std::vector<std::uint32_t> parentsFromTop() const;
+
+private:
+    std::map<std::uint32_t, std::vector<std::uint32_t>> m_children;
+};
+
+} // namespace Gui

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+#include "Kelta/ClassRegistration.h"
+
+#include <QModelIndexList>
+#include <QPointer>
+
+namespace Obj {
+class Property;
+} // namespace Obj
+
+namespace Gui {
+
+class GuiProject;
+
+/// A view of something in a project. Derived classes override what they support; by default every operation does nothing
+/// and returns nothing.
+class GUI_EXPORT BaseView : public Kelta::RootClass
+{
+    KELTA_ABSTRACT_CLASS;
+
+public:
+    /// A view of `project`; null if it belongs to no project.
+    explicit BaseView(GuiProject* project);
+    ~BaseView() override;
+
+    /// The project of the view; null if it has none, or if the project has been closed.
+    GuiProject* get_gui_project() const;
+
+    /// The name of the kind of view.
+    virtual const char* getName() const;
+    /// Shows all that there is to see.
+    virtual void viewAll();
+    /// Returns whether message_handler carries out messages with this name.
+    virtual bool has_message_handler(const char* message) const;
+    virtual bool message_handler(const char* message, const char** answer);
+    /// Takes the view out of the main window.
+    virtual void remove_viewself();
+    virtual QModelIndex currentIndex() const;
+    virtual QModelIndexList selectedIndexes() const;
+    virtual void resizeColumn(int column, int width);
+    virtual void resizeRow(int row, int height);
+    /// A property of what the view shows has changed.
+    virtual void updateCell(const Obj::Property* property);
+
+protected:
+    /// Makes the view, which belongs to no project yet, one of `project`.
+    void attach(GuiProject& project);
+
+private:
+    QPointer<GuiProject> m_project;
+};
+
+} // namespace Gui

@@ -1,0 +1,115 @@
+#include "window/DockSet.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/CommandTable.h"
+#include "Gui/MainWindow.h"
+#include "Kelta/Exceptions.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+
+#include <memory>
+
+namespace Gui {
+
+namespace {
+
+Qt::DockWidgetArea areaOf(DockArea area)
+{
+    switch (area) {
+    case DockArea::Left:
+        return Qt::LeftDockWidgetArea;
+    case DockArea::Right:
+        return Qt::RightDockWidgetArea;
+    case DockArea::Bottom:
+        break;
+    }
+    return Qt::BottomDockWidgetArea;
+}
+
+QString nameOf(const DockEntry& entry)
+{
+    return QString::fromStdString(entry.name);
+}
+
+void addToggleCommand(const DockEntry& entry, CommandController& commands)
+{
+    const std::string command = DockSet::commandOf(entry.name);
+    const auto toggle = [name = entry.name] {
+        if (MainWindow* const window = MainWindow::get_main_window_inst())
+            window->toggleDock(name);
+    };
+    addCommands(commands, entry.title.context,
+                {{command.c_str(),
+                  entry.title.source,
+                  entry.title.source,
+                  "",
+                  {},
+                  CommandType::None,
+                  toggle,
+                  [name = entry.name] {
+                      const MainWindow* const window = MainWindow::get_main_window_inst();
+                      return window != nullptr && window->hasDock(name);
+                  }}});
+}
+
+} // namespace
+
+void DockSet::add(const DockEntry& entry)
+{
+    const QString failure =
+        QCoreApplication::translate("Gui::DockSet", "The docking window \"%1\" cannot be made").arg(nameOf(entry));
+    std::unique_ptr<QWidget> content;
+    if (!Kelta::guarded(failure, [&] { content.reset(entry.make()); }) || content == nullptr)
+        return;
+    auto* const dock = new QDockWidget(entry.title.translated(), &m_window);
+    dock->setObjectName(nameOf(entry));
+    dock->setWidget(content.release());
+    m_entries.push_back(entry);
+    if (m_window.restoreDockWidget(dock))
+        return;
+    m_window.addDockWidget(areaOf(entry.area), dock);
+    if (entry.visibility == DockVisibility::HiddenAtFirst)
+        dock->hide();
+    else if (m_window.isVisible())
+        dock->show();
+}
+
+void DockSet::addContributed(const Contributions& contributions, CommandController& commands)
+{
+    const std::vector<DockEntry>& entries = contributions.docks();
+    for (; m_contributedCount < entries.size(); ++m_contributedCount) {
+        const DockEntry& entry = entries[m_contributedCount];
+        if (find(entry.name) == nullptr)
+            add(entry);
+        addToggleCommand(entry, commands);
+    }
+}
+
+QDockWidget* DockSet::find(const std::string& name) const
+{
+    return m_window.findChild<QDockWidget*>(QString::fromStdString(name), Qt::FindDirectChildrenOnly);
+}
+
+void DockSet::show(const std::string& name) const
+{
+    QDockWidget* const dock = find(name);
+    if (dock == nullptr)
+        return;
+    dock->show();
+    dock->raise();
+}
+
+void DockSet::toggle(const std::string& name) const
+{
+    if (QDockWidget* const dock = find(name))
+        dock->setVisible(!dock->isVisible());
+}
+
+void DockSet::retranslate() const
+{
+    for (const DockEntry& entry : m_entries)
+        find(entry.name)->setWindowTitle(entry.title.translated());
+}
+
+} // namespace Gui

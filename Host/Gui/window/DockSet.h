@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Gui/Contributions.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+class QDockWidget;
+class QMainWindow;
+
+namespace Gui {
+
+class CommandController;
+
+/// The docking windows of a main window.
+class DockSet
+{
+public:
+    explicit DockSet(QMainWindow& window) : m_window(window) {}
+
+    /// Makes a dock, at the place that it has in the layout of the user. If its content cannot be made, there is no dock,
+    /// and the reason is reported to the message log.
+    void add(const DockEntry& entry);
+    /// Makes the docks of modules that do not exist yet, each with a command that shows and hides it.
+    void addContributed(const Contributions& contributions, CommandController& commands);
+
+    /// The dock with this object name; null if there is none.
+    QDockWidget* find(const std::string& name) const;
+    /// Shows a dock, in front of docks with which it shares its place. Does nothing if there is no such dock.
+    void show(const std::string& name) const;
+    /// Shows a hidden dock, or hides a shown one. Does nothing if there is no such dock.
+    void toggle(const std::string& name) const;
+    /// Sets all titles in the language of the user.
+    void retranslate() const;
+
+    /// The name of the command that shows and hides a dock of a module.
+    static std::string commandOf(const std::string& dockName) { return "Dock_" + dockName; }
+
+private:
+    QMainWindow& m_window;
+    std::vector<DockEntry> m_entries;
+    std::size_t m_contributedCount = 0; ///< how many docks of modules have been made
+};
+
+} // namespace Gui

@@ -1,0 +1,132 @@
+#include "window/DocumentArea.h"
+
+#include "Gui/MDIWindow.h"
+
+#include <QAction>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+namespace Gui {
+
+namespace {
+
+/// A window that was closed stays among the others until the event loop destroys it.
+bool isClosed(const MDIWindow& window)
+{
+    return window.isHidden() && window.testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
+MDIWindow* windowIn(const QMdiSubWindow* frame)
+{
+    return frame != nullptr ? qobject_cast<MDIWindow*>(frame->widget()) : nullptr;
+}
+
+/// The menu of a frame has the key of the command that closes a document. A key with two owners does nothing.
+void removeShortcuts(const QMdiSubWindow& frame)
+{
+    for (QAction* const action : frame.systemMenu()->actions())
+        action->setShortcuts(QList<QKeySequence>());
+}
+
+} // namespace
+
+DocumentArea::DocumentArea(QWidget* parent) : QMdiArea(parent)
+{
+    setViewMode(QMdiArea::TabbedView);
+    setTabsClosable(true);
+    setTabsMovable(true);
+    setDocumentMode(true);
+    connect(this, &QMdiArea::subWindowActivated, this,
+            [this](QMdiSubWindow* frame) { Q_EMIT windowActivated(windowIn(frame)); });
+}
+
+DocumentArea::~DocumentArea() = default;
+
+void DocumentArea::add(MDIWindow* window)
+{
+    QMdiSubWindow* const frame = addSubWindow(window);
+    frame->setAttribute(Qt::WA_DeleteOnClose);
+    frame->setWindowIcon(window->windowIcon());
+    removeShortcuts(*frame);
+    window->show();
+    if (viewMode() == QMdiArea::TabbedView)
+        frame->showMaximized();
+    else
+        frame->show();
+    connect(frame, &QObject::destroyed, this, &DocumentArea::windowDestroyed);
+}
+
+void DocumentArea::remove(const MDIWindow* window)
+{
+    delete frameOf(window);
+}
+
+void DocumentArea::removeAll()
+{
+    qDeleteAll(subWindowList());
+}
+
+void DocumentArea::activate(MDIWindow* window)
+{
+    if (QMdiSubWindow* const frame = frameOf(window)) {
+        setActiveSubWindow(frame);
+        window->setFocus();
+    }
+}
+
+MDIWindow* DocumentArea::activeWindow() const
+{
+    MDIWindow* const window = windowIn(frontFrame());
+    return window != nullptr && !isClosed(*window) ? window : nullptr;
+}
+
+QList<MDIWindow*> DocumentArea::windows() const
+{
+    QList<MDIWindow*> windows;
+    for (const QMdiSubWindow* const frame : subWindowList())
+        if (MDIWindow* const window = windowIn(frame); window != nullptr && !isClosed(*window))
+            windows << window;
+    return windows;
+}
+
+void DocumentArea::closeActive()
+{
+    if (QMdiSubWindow* const frame = frontFrame())
+        frame->close();
+}
+
+void DocumentArea::tile()
+{
+    setViewMode(QMdiArea::SubWindowView);
+    tileSubWindows();
+}
+
+void DocumentArea::cascade()
+{
+    setViewMode(QMdiArea::SubWindowView);
+    cascadeSubWindows();
+}
+
+void DocumentArea::showAsTabs()
+{
+    setViewMode(QMdiArea::TabbedView);
+}
+
+QMdiSubWindow* DocumentArea::frontFrame() const
+{
+    if (QMdiSubWindow* const current = currentSubWindow())
+        return current;
+    // None is current before the main window has been shown.
+    const QList<QMdiSubWindow*> frames = subWindowList(QMdiArea::ActivationHistoryOrder);
+    return frames.isEmpty() ? nullptr : frames.last();
+}
+
+QMdiSubWindow* DocumentArea::frameOf(const MDIWindow* window) const
+{
+    for (QMdiSubWindow* const frame : subWindowList())
+        if (window != nullptr && windowIn(frame) == window)
+            return frame;
+    return nullptr;
+}
+
+} // namespace Gui

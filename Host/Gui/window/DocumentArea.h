@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QMdiArea>
+
+namespace Gui {
+
+class MDIWindow;
+
+/// The middle of the main window: the document windows, as tabs or as windows side by side.
+class DocumentArea : public QMdiArea
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentArea(QWidget* parent = nullptr);
+    ~DocumentArea() override;
+
+    /// Shows a document window and takes ownership of it: it is destroyed when the user closes it.
+    void add(MDIWindow* window);
+    /// Destroys a document window without asking. Does nothing if `window` is not one of them.
+    void remove(const MDIWindow* window);
+    /// Destroys all document windows without asking.
+    void removeAll();
+    /// Brings a document window to the front and gives it the keyboard.
+    void activate(MDIWindow* window);
+
+    /// The document window in front; null if there is none.
+    MDIWindow* activeWindow() const;
+    /// All document windows, in the order in which they were added.
+    QList<MDIWindow*> windows() const;
+    /// Closes the document window in front, as the user does.
+    void closeActive();
+
+    void tile();
+    void cascade();
+    void showAsTabs();
+
+Q_SIGNALS:
+    /// A document window has come to the front. Null if the last one was closed.
+    void windowActivated(Gui::MDIWindow* window);
+    /// A document window was destroyed.
+    void windowDestroyed();
+
+private:
+    QMdiSubWindow* frontFrame() const;
+    QMdiSubWindow* frameOf(const MDIWindow* window) const;
+};
+
+} // namespace Gui

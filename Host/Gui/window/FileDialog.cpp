@@ -1,0 +1,86 @@
+#include "Gui/FileDialog.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSettings>
+
+#include <optional>
+#include <utility>
+
+namespace Gui {
+
+namespace {
+
+constexpr const char* folderKey = "files/folder";
+
+std::optional<QString>& preparedAnswer()
+{
+    static std::optional<QString> answer;
+    return answer;
+}
+
+QString startFolder(const QString& folder)
+{
+    return folder.isEmpty() ? QSettings().value(QLatin1String(folderKey)).toString() : folder;
+}
+
+QString remembered(const QString& path)
+{
+    if (!path.isEmpty())
+        QSettings().setValue(QLatin1String(folderKey), QFileInfo(path).absolutePath());
+    return path;
+}
+
+/// Returns the ending "json" of a filter "JSON file(*.json)"; an empty text if the filter has none or allows any.
+QString endingOf(const QString& filter)
+{
+    static const QRegularExpression ending(QStringLiteral("\\(\\*\\.(\\w+)\\)"));
+    return ending.match(filter).captured(1);
+}
+
+} // namespace
+
+QString FileDialog::getOpenFileName(QWidget* parent, const QString& caption, const QString& folder,
+                                    const QString& filter, QString* selectedFilter, QFileDialog::Options options)
+{
+    QString path;
+    if (takeAnswer(path))
+        return path;
+    return remembered(
+        QFileDialog::getOpenFileName(parent, caption, startFolder(folder), filter, selectedFilter, options));
+}
+
+QString FileDialog::getSaveFileName(QWidget* parent, const QString& caption, const QString& folder,
+                                    const QString& filter, QString* selectedFilter, QFileDialog::Options options)
+{
+    QString path;
+    if (takeAnswer(path))
+        return path;
+    QFileDialog dialog(parent, caption, startFolder(folder), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOptions(options);
+    dialog.setDefaultSuffix(endingOf(dialog.selectedNameFilter()));
+    QObject::connect(&dialog, &QFileDialog::filterSelected,
+                     [&dialog](const QString& chosen) { dialog.setDefaultSuffix(endingOf(chosen)); });
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    if (selectedFilter != nullptr)
+        *selectedFilter = dialog.selectedNameFilter();
+    return remembered(dialog.selectedFiles().constFirst());
+}
+
+void FileDialog::answer_next(const QString& path)
+{
+    preparedAnswer() = path;
+}
+
+bool FileDialog::takeAnswer(QString& path)
+{
+    if (!preparedAnswer())
+        return false;
+    path = *std::exchange(preparedAnswer(), std::nullopt);
+    return true;
+}
+
+} // namespace Gui

@@ -1,0 +1,49 @@
+#include "Gui/MDIWindow.h"
+
+#include "Gui/GuiProject.h"
+#include "Gui/MainWindow.h"
+#include "Obj/Project.h"
+
+namespace Gui {
+
+KELTA_REGISTER_ABSTRACT_CLASS(Gui::MDIWindow, Gui::BaseView)
+
+MDIWindow::MDIWindow(GuiProject* project, QWidget* parent, Qt::WindowFlags flags)
+    : QMainWindow(parent, flags), BaseView(project)
+{}
+
+MDIWindow::~MDIWindow() = default;
+
+const char* MDIWindow::getName() const
+{
+    return "MDIWindow";
+}
+
+void MDIWindow::remove_viewself()
+{
+    if (MainWindow* const mainWindow = MainWindow::get_main_window_inst())
+        mainWindow->remove_mdi_window(this);
+}
+
+void MDIWindow::editObject(GuiProject& project, Obj::ProjectObject& object)
+{
+    attach(project);
+    set_edited_object(&object);
+    showLabel(object);
+    m_objectRemoved = project.get_project().objectRemoved.connect([this](const Obj::ProjectObject& removed) {
+        if (&removed == m_editedObject)
+            remove_viewself();
+    });
+    m_objectChanged = project.get_project().objectChanged.connect(
+        [this](const Obj::ProjectObject& changed, const Obj::Property* property) {
+            if (&changed == m_editedObject && property == &changed.label)
+                showLabel(changed);
+        });
+}
+
+void MDIWindow::showLabel(const Obj::ProjectObject& object)
+{
+    setWindowTitle(QString::fromStdString(object.label.getValue()) + QStringLiteral("[*]"));
+}
+
+} // namespace Gui

@@ -1,0 +1,407 @@
+#include "Gui/MainWindow.h"
+
+#include "Gui/Contributions.h"
+#include "Gui/GuiApplication.h"
+#include "Gui/GuiProject.h"
+#include "Gui/MDIWindow.h"
+#include "Gui/MessageLogView.h"
+#include "Gui/ProjectExplorer.h"
+#include "Gui/PropertyPanel.h"
+#include "Gui/StdSimModule.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Application.h"
+#include "vxMsg/MessageProxy.h"
+#include "window/DockSet.h"
+#include "window/DocumentArea.h"
+#include "window/WelcomePage.h"
+#include "workbench/MenuBuilder.h"
+#include "workbench/WorkbenchBars.h"
+#include "workbench/WorkbenchSwitch.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+
+#include <utility>
+
+namespace Gui {
+
+namespace {
+
+MainWindow* theMainWindow = nullptr;
+
+constexpr const char* geometryKey = "window/geometry";
+constexpr const char* stateKey = "window/state";
+
+/// How long a result stays in the status bar.
+constexpr int statusMilliseconds = 10000;
+
+constexpr const char* explorerDock = "ProjectExplorer";
+constexpr const char* propertiesDock = "PropertyPanel";
+constexpr const char* messagesDock = "MessageLog";
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent) : MainWindow(GuiApplication::Instance->contributions(), parent) {}
+
+MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
+    : QMainWindow(parent),
+      m_application(*GuiApplication::Instance),
+      m_contributions(contributions),
+      m_selection(TreeSelectionSingleton::instance())
+{
+    theMainWindow = this;
+    setObjectName(QStringLiteral("mainWindow"));
+    createCenter();
+    createDocks();
+    statusBar();
+    watchProjects();
+    watchRequests();
+    watchWindow();
+    resize(1180, 760);
+}
+
+MainWindow::~MainWindow()
+{
+    // The document windows are destroyed while the main window can still be asked for.
+    m_documents->removeAll();
+    theMainWindow = nullptr;
+}
+
+MainWindow* MainWindow::get_main_window_inst()
+{
+    return theMainWindow;
+}
+
+void MainWindow::add_mdi_window(MDIWindow* window)
+{
+    m_documents->add(window);
+    Q_EMIT mdi_window_added(window);
+    update_commands();
+}
+
+void MainWindow::remove_mdi_window(MDIWindow* window)
+{
+    m_documents->remove(window);
+    updateLater();
+}
+
+void MainWindow::set_active_mdi_window(MDIWindow* window)
+{
+    m_documents->activate(window);
+}
+
+MDIWindow* MainWindow::get_active_mdi_window() const
+{
+    return m_documents->activeWindow();
+}
+
+QList<MDIWindow*> MainWindow::get_mdi_windows() const
+{
+    return m_documents->windows();
+}
+
+void MainWindow::close_current_window()
+{
+    m_documents->closeActive();
+}
+
+void MainWindow::close_all_windows()
+{
+    m_documents->closeAllSubWindows();
+}
+
+void MainWindow::tile_windows()
+{
+    m_documents->tile();
+}
+
+void MainWindow::tab_windows()
+{
+    m_documents->showAsTabs();
+}
+
+void MainWindow::cascade_windows()
+{
+    m_documents->cascade();
+}
+
+bool MainWindow::set_workbench(const char* className)
+{
+    std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::create_by_name(className);
+    if (dynamic_cast<StdSimModule*>(created.get()) == nullptr) {
+        Kelta::MessageLog::error(tr("There is no workbench \"%1\".").arg(QString::fromUtf8(className)));
+        return false;
+    }
+    replaceWorkbench(std::unique_ptr<StdSimModule>(static_cast<StdSimModule*>(created.release())));
+    return true;
+}
+
+bool MainWindow::setDefaultWorkbench()
+{
+    const std::vector<WorkbenchEntry>& entries = m_contributions.workbenches();
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    const WorkbenchEntry* const own = project != nullptr ? workbenchOf(*project, m_contributions) : nullptr;
+    if (own != nullptr)
+        return set_workbench(own->className.c_str());
+    return set_workbench(entries.empty() ? "Gui::StdSimModule" : entries.front().className.c_str());
+}
+
+void MainWindow::chooseWorkbench(const std::string& className)
+{
+    m_chosenWorkbench = className;
+    updateLater();
+}
+
+void MainWindow::announce(const QString& text, Kelta::LogMessage::Severity severity)
+{
+    Kelta::MessageLog::instance().report(severity, text);
+    if (theMainWindow != nullptr)
+        theMainWindow->statusBar()->showMessage(text, statusMilliseconds);
+}
+
+void MainWindow::show_messages()
+{
+    m_docks->show(messagesDock);
+}
+
+void MainWindow::show_project_explorer()
+{
+    m_docks->show(explorerDock);
+}
+
+void MainWindow::toggleDock(const std::string& name)
+{
+    m_docks->toggle(name);
+}
+
+bool MainWindow::hasDock(const std::string& name) const
+{
+    return m_docks->find(name) != nullptr;
+}
+
+QMenu* MainWindow::createPopupMenu()
+{
+    QMenu* const menu = QMainWindow::createPopupMenu();
+    MenuItem items;
+    if (m_workbench != nullptr)
+        m_workbench->build_context_popup_menu(&items);
+    if (menu != nullptr)
+        MenuBuilder(m_application.get_command_manager(), *this).fillMenu(*menu, items);
+    return menu;
+}
+
+void MainWindow::save_layout() const
+{
+    QSettings settings;
+    settings.setValue(QLatin1String(geometryKey), saveGeometry());
+    settings.setValue(QLatin1String(stateKey), saveState());
+}
+
+void MainWindow::restore_layout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QLatin1String(geometryKey)).toByteArray());
+    restoreState(settings.value(QLatin1String(stateKey)).toByteArray());
+}
+
+void MainWindow::update_commands()
+{
+    m_update.stop();
+    const bool hasDocuments = !get_mdi_windows().isEmpty();
+    m_center->setCurrentWidget(hasDocuments ? static_cast<QWidget*>(m_documents) : m_welcome);
+    m_welcome->refresh(Obj::Application::get_current_project());
+    m_application.get_command_manager().update_actions();
+    Q_EMIT updated();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    bool refused = false;
+    Q_EMIT closing(refused);
+    event->setAccepted(!refused);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void MainWindow::createCenter()
+{
+    m_center = new QStackedWidget(this);
+    m_welcome = new WelcomePage(m_application.get_command_manager(), m_contributions);
+    m_documents = new DocumentArea;
+    m_center->addWidget(m_welcome);
+    m_center->addWidget(m_documents);
+    setCentralWidget(m_center);
+}
+
+void MainWindow::createDocks()
+{
+    m_explorer = new ProjectExplorer(*this, m_application, m_selection);
+    m_properties = new PropertyPanel(m_application, m_selection);
+    m_log = new MessageLogView;
+    m_docks = std::make_unique<DockSet>(*this);
+    for (const DockEntry& entry : hostDocks())
+        m_docks->add(entry);
+    resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
+    resizeDocks({m_docks->find(explorerDock)}, {290}, Qt::Horizontal);
+    resizeDocks({m_docks->find(messagesDock)}, {110}, Qt::Vertical);
+    m_bars = std::make_unique<WorkbenchBars>(*this, m_application.get_command_manager(), m_contributions);
+}
+
+std::vector<DockEntry> MainWindow::hostDocks()
+{
+    // The edges of the docks are frame enough.
+    const auto frameless = [](QFrame* view) {
+        view->setFrameShape(QFrame::NoFrame);
+        return view;
+    };
+    constexpr const char* context = "Gui::MainWindow";
+    return {{explorerDock,
+             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Project explorer")},
+             DockArea::Left,
+             [=] { return frameless(m_explorer); }},
+            {propertiesDock,
+             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Properties")},
+             DockArea::Left,
+             [=] { return frameless(m_properties); }},
+            {messagesDock, {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Messages")}, DockArea::Bottom, [=] {
+                 return frameless(m_log);
+             }}};
+}
+
+void MainWindow::watchProjects()
+{
+    Obj::Application& application = Obj::Application::instance();
+    m_connections.emplace_back(application.projectAdded.connect([this](Obj::Project&) { updateLater(); }));
+    m_connections.emplace_back(application.projectRemoved.connect([this](Obj::Project&) { updateLater(); }));
+    m_connections.emplace_back(
+        application.currentProjectChanged.connect([this](const Obj::Project* project) { followProject(project); }));
+}
+
+void MainWindow::watchRequests()
+{
+    // The next command applies to what was added.
+    vxMsg::MessageProxy& proxy = m_application.requests();
+    m_connections.emplace_back(
+        proxy.objectCreated.connect([this](Obj::ProjectObject& object) { m_selection.set_selection({}, {&object}); }));
+    m_connections.emplace_back(
+        proxy.projectCreated.connect([this](Obj::Project& project) { m_selection.set_selection({&project}, {}); }));
+    connect(&proxy.undoStack(), &QUndoStack::indexChanged, this, &MainWindow::updateLater);
+}
+
+void MainWindow::watchWindow()
+{
+    m_update.setSingleShot(true);
+    connect(&m_update, &QTimer::timeout, this, &MainWindow::updateNow);
+    connect(&m_selection, &TreeSelectionSingleton::selectionChanged, this, &MainWindow::updateLater);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MainWindow::updateLater);
+    connect(m_documents, &DocumentArea::windowActivated, this, &MainWindow::followDocument);
+    connect(m_documents, &DocumentArea::windowDestroyed, this, &MainWindow::updateLater);
+    connect(&m_contributions, &Contributions::changed, this, [this] {
+        m_barsAreOutdated = true;
+        updateLater();
+    });
+}
+
+void MainWindow::updateLater()
+{
+    m_update.start(0);
+}
+
+/// Menus and toolbars are replaced here alone, when none of them runs a command.
+void MainWindow::updateNow()
+{
+    const std::string chosen = std::exchange(m_chosenWorkbench, {});
+    if (!chosen.empty() && set_workbench(chosen.c_str()))
+        return;
+    if (m_barsAreOutdated && m_workbench != nullptr)
+        buildBars();
+    update_commands();
+}
+
+void MainWindow::followProject(const Obj::Project* project)
+{
+    const WorkbenchEntry* const own = project != nullptr ? workbenchOf(*project, m_contributions) : nullptr;
+    const bool isActive =
+        own != nullptr && m_workbench != nullptr && own->className == m_workbench->getTypeId().get_name();
+    if (own != nullptr)
+        m_chosenWorkbench = isActive ? std::string() : own->className;
+    updateLater();
+}
+
+void MainWindow::followDocument(const MDIWindow* window)
+{
+    // Commands act on the project in which the user works.
+    if (window != nullptr && window->get_gui_project() != nullptr)
+        Obj::Application::instance().set_current_project(window->get_gui_project()->get_project());
+    updateLater();
+}
+
+void MainWindow::replaceWorkbench(std::unique_ptr<StdSimModule> workbench)
+{
+    if (m_workbench != nullptr)
+        m_workbench->deactivated();
+    m_workbench = std::move(workbench);
+    m_chosenWorkbench.clear();
+    buildBars();
+    showWantedDocks();
+    m_workbench->activated();
+    update_commands();
+}
+
+void MainWindow::buildBars()
+{
+    m_barsAreOutdated = false;
+    CommandController& commands = m_application.get_command_manager();
+    m_docks->addContributed(m_contributions, commands);
+    addWorkbenchCommands(m_contributions, commands);
+    m_bars->build(*m_workbench);
+    addShortcuts();
+}
+
+void MainWindow::showWantedDocks()
+{
+    if (!m_knownWorkbenches.insert(m_workbench->getTypeId().get_name()).second)
+        return;
+    const std::unique_ptr<ToolBarGadget> wanted(m_workbench->build_docking_windows());
+    for (const auto& gadget : wanted->items())
+        if (QDockWidget* const dock = m_docks->find(gadget->command()))
+            dock->show();
+}
+
+void MainWindow::addShortcuts()
+{
+    for (Command* const command : m_application.get_command_manager().get_commands()) {
+        QAction* const action = command->action() != nullptr ? command->action() : command->new_action(this);
+        if ((command->getTypeFlags() & CommandType::OnTree) == 0) {
+            addAction(action);
+            continue;
+        }
+        // A key that acts on the tree must not do so while the user types into an editor.
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        m_explorer->addAction(action);
+    }
+}
+
+void MainWindow::retranslate()
+{
+    m_application.get_command_manager().on_language_changed();
+    m_docks->retranslate();
+    if (m_workbench != nullptr)
+        buildBars();
+    updateLater();
+}
+
+} // namespace Gui

@@ -1,0 +1,162 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+#include "Kelta/MessageLog.h"
+
+#include <QMainWindow>
+#include <QTimer>
+#include <boost/signals2/connection.hpp>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+class QStackedWidget;
+
+namespace Obj {
+class Project;
+} // namespace Obj
+
+namespace Gui {
+
+class Contributions;
+class DockSet;
+class DocumentArea;
+class GuiApplication;
+class MDIWindow;
+class MessageLogView;
+class ProjectExplorer;
+class PropertyPanel;
+class StdSimModule;
+class TreeSelectionSingleton;
+class WelcomePage;
+class WorkbenchBars;
+struct DockEntry;
+
+/// The main window of the program: document windows in its middle, around them the project explorer, the property panel,
+/// the message log and the docks of modules, and the menus and toolbars of the active workbench with what modules
+/// contribute. Message boxes have it as their parent.
+class GUI_EXPORT MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Needs the GuiApplication, which must outlive the window. Shows what modules contribute to the application.
+    explicit MainWindow(QWidget* parent = nullptr);
+    /// Likewise with other contributions, which must outlive the window.
+    explicit MainWindow(Contributions& contributions, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// The one main window; null before it is made and after it was destroyed.
+    static MainWindow* get_main_window_inst();
+
+    /// Shows `window` among the document windows and takes ownership of it: it is destroyed when the user closes it.
+    void add_mdi_window(MDIWindow* window);
+    /// Takes a document window out without asking, and destroys it. Does nothing if it is not one of them.
+    void remove_mdi_window(MDIWindow* window);
+    /// Brings a document window to the front and gives it the keyboard.
+    void set_active_mdi_window(MDIWindow* window);
+    /// The document window in front; null if there is none.
+    MDIWindow* get_active_mdi_window() const;
+    /// All document windows, in the order in which they were added.
+    QList<MDIWindow*> get_mdi_windows() const;
+    /// Closes the document window in front, as the user does.
+    void close_current_window();
+    void close_all_windows();
+    void tile_windows();
+    void cascade_windows();
+    /// Shows the document windows as tabs again, as they are at first.
+    void tab_windows();
+
+    /// Makes a workbench of this registered class the active one, and shows its menus, toolbars and docks. Returns false,
+    /// with the reason in the message log, if there is no such class. Must not be called while one of the window's own
+    /// menus or toolbars runs a command, since these are replaced; see chooseWorkbench.
+    bool set_workbench(const char* className);
+    /// Makes the workbench that suits best the active one: that of the current project, else the first of the modules',
+    /// else the standard one.
+    bool setDefaultWorkbench();
+    /// Makes a workbench the active one when the event loop is next idle. When another project becomes the current one,
+    /// its workbench is chosen in the same way.
+    void chooseWorkbench(const std::string& className);
+    /// The active workbench; null before the first.
+    StdSimModule* get_workbench() const { return m_workbench.get(); }
+
+    const Contributions& contributions() const { return m_contributions; }
+
+    ProjectExplorer& get_project_explorer() const { return *m_explorer; }
+    PropertyPanel& get_property_panel() const { return *m_properties; }
+    MessageLogView& get_message_log() const { return *m_log; }
+
+    /// Tells the user a result: writes `text` to the message log and, if there is a main window, to its status bar.
+    static void announce(const QString& text,
+                         Kelta::LogMessage::Severity severity = Kelta::LogMessage::Severity::Information);
+
+    /// Shows the message log, even if the user has hidden it, in front of docks with which it shares its place; for what
+    /// the user must see. show_project_explorer does the same with the project explorer.
+    void show_messages();
+    void show_project_explorer();
+    /// Shows or hides a dock, by its name. Does nothing if there is no such dock.
+    void toggleDock(const std::string& name);
+    bool hasDock(const std::string& name) const;
+
+    /// The context menu of bars and docks: it shows and hides them, and has what the workbench adds.
+    QMenu* createPopupMenu() override;
+
+    /// Keeps place and size of the window and its docks in the settings, and restores them from there.
+    void save_layout() const;
+    void restore_layout();
+
+    /// Enables the commands that are applicable now, and shows the welcome page if no document is open. The window calls
+    /// it after every change, when the event loop is next idle.
+    void update_commands();
+
+Q_SIGNALS:
+    /// update_commands has run: projects, selection or documents may have changed.
+    void updated();
+    /// `window` was added to the document windows.
+    void mdi_window_added(Gui::MDIWindow* window);
+    /// The user closes the program. A slot that sets `refused` keeps it open.
+    void closing(bool& refused);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void createCenter();
+    void createDocks();
+    std::vector<DockEntry> hostDocks();
+    void watchProjects();
+    void watchRequests();
+    void watchWindow();
+    void updateLater();
+    void updateNow();
+    void followProject(const Obj::Project* project);
+    void followDocument(const MDIWindow* window);
+    void replaceWorkbench(std::unique_ptr<StdSimModule> workbench);
+    void buildBars();
+    void showWantedDocks();
+    void addShortcuts();
+    void retranslate();
+
+    GuiApplication& m_application;
+    Contributions& m_contributions;
+    TreeSelectionSingleton& m_selection;
+    QStackedWidget* m_center = nullptr;
+    WelcomePage* m_welcome = nullptr;
+    DocumentArea* m_documents = nullptr;
+    ProjectExplorer* m_explorer = nullptr;
+    PropertyPanel* m_properties = nullptr;
+    MessageLogView* m_log = nullptr;
+    std::unique_ptr<DockSet> m_docks;
+    std::unique_ptr<WorkbenchBars> m_bars;
+    std::unique_ptr<StdSimModule> m_workbench;
+    std::string m_chosenWorkbench;            ///< becomes active when the event loop is idle; empty for none
+    std::set<std::string> m_knownWorkbenches; ///< those whose docks were shown
+    bool m_barsAreOutdated = false;
+    QTimer m_update;
+    std::vector<boost::signals2::scoped_connection> m_connections;
+};
+
+} // namespace Gui

@@ -1,0 +1,187 @@
+#include "window/WelcomePage.h"
+
+#include "Gui/CommandController.h"
+#include "Obj/Project.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStringList>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Gui {
+
+namespace {
+
+/// What the page says if no module says anything, or if several do. In the order of WelcomeStep.
+struct HostTexts
+{
+    const char* title;
+    const char* text;
+};
+
+constexpr HostTexts hostTexts[] = {
+    {QT_TRANSLATE_NOOP("Gui::WelcomePage", "No project is open"),
+     QT_TRANSLATE_NOOP("Gui::WelcomePage", "Begin with a new project, or open a saved one.")},
+    {QT_TRANSLATE_NOOP("Gui::WelcomePage", "The project is empty"),
+     QT_TRANSLATE_NOOP("Gui::WelcomePage", "The project menu offers what can be added.")},
+    {QT_TRANSLATE_NOOP("Gui::WelcomePage", "No document is open"),
+     QT_TRANSLATE_NOOP("Gui::WelcomePage", "Double-click an object in the project explorer.")},
+};
+
+constexpr HostTexts withoutModules = {
+    QT_TRANSLATE_NOOP("Gui::WelcomePage", "No module is loaded"),
+    QT_TRANSLATE_NOOP("Gui::WelcomePage", "The messages say which modules could not be loaded, and why.")};
+
+WelcomeStep stepOf(const Obj::Project* project)
+{
+    if (project == nullptr)
+        return WelcomeStep::NoProject;
+    return project->get_object_count() == 0 ? WelcomeStep::EmptyProject : WelcomeStep::NoDocument;
+}
+
+bool appliesTo(const WelcomeEntry& entry, const Obj::Project* project)
+{
+    return entry.step == stepOf(project) &&
+           (project == nullptr || entry.projectClass.empty() ||
+            project->is_inherited_from(Kelta::TypeInfo::find(entry.projectClass.c_str())));
+}
+
+/// The entries that apply now.
+std::vector<const WelcomeEntry*> entriesFor(const Obj::Project* project, const std::vector<WelcomeEntry>& all)
+{
+    std::vector<const WelcomeEntry*> entries;
+    for (const WelcomeEntry& entry : all)
+        if (appliesTo(entry, project))
+            entries.push_back(&entry);
+    return entries;
+}
+
+bool haveOneTitle(const std::vector<const WelcomeEntry*>& entries)
+{
+    return !entries.empty() && std::all_of(entries.begin(), entries.end(), [&](const WelcomeEntry* entry) {
+        return entry->title == entries.front()->title;
+    });
+}
+
+bool canRun(const std::string& command, const std::vector<const WelcomeEntry*>& entries)
+{
+    return std::all_of(entries.begin(), entries.end(), [&command](const WelcomeEntry* entry) {
+        const auto& offered = entry->commands;
+        return !entry->canRun || std::find(offered.begin(), offered.end(), command) == offered.end() || entry->canRun();
+    });
+}
+
+} // namespace
+
+WelcomePage::WelcomePage(CommandController& commands, const Contributions& contributions, QWidget* parent)
+    : QWidget(parent),
+      m_commands(commands),
+      m_contributions(contributions),
+      m_title(new QLabel(this)),
+      m_text(new QLabel(this)),
+      m_buttonRow(new QHBoxLayout)
+{
+    setObjectName(QStringLiteral("welcomePage"));
+    QFont font = m_title->font();
+    font.setPointSizeF(font.pointSizeF() * 1.6);
+    m_title->setFont(font);
+    for (QLabel* const label : {m_title, m_text}) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setTextFormat(Qt::PlainText);
+    }
+    m_text->setWordWrap(true);
+    buildLayout();
+}
+
+WelcomePage::~WelcomePage() = default;
+
+void WelcomePage::refresh(const Obj::Project* project)
+{
+    const std::vector<const WelcomeEntry*> entries = entriesFor(project, m_contributions.welcomeEntries());
+    showTexts(stepOf(project), entries);
+    showButtons(stepOf(project), entries);
+}
+
+void WelcomePage::buildLayout()
+{
+    auto* const layout = new QVBoxLayout(this);
+    layout->addStretch(2);
+    layout->addWidget(m_title);
+    layout->addWidget(m_text);
+    layout->addSpacing(12);
+    layout->addLayout(m_buttonRow);
+    layout->addStretch(3);
+    m_buttonRow->addStretch();
+    m_buttonRow->addStretch();
+}
+
+void WelcomePage::showTexts(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries)
+{
+    const bool hasModules = !m_contributions.welcomeEntries().empty();
+    const HostTexts& host = hasModules ? hostTexts[static_cast<std::size_t>(step)] : withoutModules;
+    QStringList texts;
+    for (const WelcomeEntry* const entry : entries)
+        texts << entry->text.translated();
+    m_title->setText(haveOneTitle(entries) ? entries.front()->title.translated() : tr(host.title));
+    m_text->setText(texts.isEmpty() ? tr(host.text) : texts.join(QLatin1Char('\n')));
+}
+
+void WelcomePage::showButtons(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries)
+{
+    const std::vector<std::string> names = offeredCommands(step, entries);
+    const auto shows = [](const QPushButton* button, const std::string& name) {
+        return button->objectName().toStdString() == name;
+    };
+    if (!std::equal(m_buttons.begin(), m_buttons.end(), names.begin(), names.end(), shows))
+        replaceButtons(names);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        m_buttons[i]->setText(m_commands.find_command(names[i])->get_menu_info());
+        m_buttons[i]->setEnabled(canRun(names[i], entries));
+    }
+}
+
+/// The commands that exist, each once. Opening a file is always a way to begin.
+std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
+                                                      const std::vector<const WelcomeEntry*>& entries) const
+{
+    std::vector<std::string> names;
+    const auto offer = [&](const std::string& name) {
+        if (m_commands.find_command(name) != nullptr && std::find(names.begin(), names.end(), name) == names.end())
+            names.push_back(name);
+    };
+    for (const WelcomeEntry* const entry : entries)
+        std::for_each(entry->commands.begin(), entry->commands.end(), offer);
+    if (step == WelcomeStep::NoProject)
+        offer("Std_Open");
+    return names;
+}
+
+void WelcomePage::replaceButtons(const std::vector<std::string>& names)
+{
+    // A button may be replaced by the command that it has just run.
+    for (QPushButton* const button : m_buttons) {
+        button->hide();
+        button->setObjectName(QString());
+        button->deleteLater();
+    }
+    m_buttons.clear();
+    for (const std::string& name : names)
+        addButton(name);
+    setFocusProxy(m_buttons.empty() ? nullptr : m_buttons.front());
+}
+
+void WelcomePage::addButton(const std::string& commandName)
+{
+    auto* const button = new QPushButton(this);
+    button->setObjectName(QString::fromStdString(commandName));
+    connect(button, &QPushButton::clicked, this, [this, commandName] { m_commands.run_command(commandName); });
+    // In front of the stretch at the end of the row.
+    m_buttonRow->insertWidget(m_buttonRow->count() - 1, button);
+    m_buttons.push_back(button);
+    button->show();
+}
+
+} // namespace Gui

@@ -1,0 +1,163 @@
+#pragma once
+
+#include "Gui/GuiExport.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace Gui {
+
+/// A text that is translated when it is shown, so that it follows the language of the user. Both strings must outlive
+/// the windows, as literals do: {"Probes", QT_TRANSLATE_NOOP("Probes", "No probe is open")}.
+struct TranslatableText
+{
+    const char* context = "";
+    const char* source = ""; ///< the English text
+
+    QString translated() const;
+
+    friend bool operator==(const TranslatableText& a, const TranslatableText& b)
+    {
+        return std::string(a.context) == b.context && std::string(a.source) == b.source;
+    }
+};
+
+/// A command in a menu or toolbar.
+struct CommandPlace
+{
+    std::string group;   ///< text of the menu, or name of the toolbar, as in the trees of workbenches: "&File", "Edit"
+    std::string section; ///< section of the menu or toolbar
+    std::string command; ///< name of the command
+    /// Registered class of a workbench, if the command is shown only while that workbench or one derived from it is
+    /// active; empty for all workbenches.
+    std::string workbench = {};
+
+    friend bool operator==(const CommandPlace& a, const CommandPlace& b)
+    {
+        return a.group == b.group && a.section == b.section && a.command == b.command && a.workbench == b.workbench;
+    }
+};
+
+/// The situations in which the welcome page is shown.
+enum class WelcomeStep
+{
+    NoProject,    ///< no project is open
+    EmptyProject, ///< the current project has no objects
+    NoDocument,   ///< the current project has objects, but no document is open
+};
+
+/// What the welcome page says and offers at one step.
+struct WelcomeEntry
+{
+    WelcomeStep step;
+    /// Registered class of the current project, if the entry is only for that class and those derived from it; empty for
+    /// all. Ignored at the step NoProject.
+    std::string projectClass;
+    TranslatableText title;            ///< plain text
+    TranslatableText text;             ///< plain text
+    std::vector<std::string> commands; ///< each gets a button, if it exists
+    /// Whether the buttons of `commands` can be pressed now; always if empty. For commands that are applicable but do
+    /// nothing without a selection.
+    std::function<bool()> canRun = {};
+};
+
+/// Where a dock is at first. Afterwards the layout of the user decides.
+enum class DockArea
+{
+    Left,
+    Right,
+    Bottom,
+};
+
+enum class DockVisibility
+{
+    ShownAtFirst,
+    HiddenAtFirst,
+};
+
+/// A docking window. "View" offers to show and hide it; workbenches can ask for it by its name.
+struct DockEntry
+{
+    std::string name; ///< the dock's object name, under which its place is kept in the layout; unique
+    TranslatableText title;
+    DockArea area;
+    /// Makes the content. Called once for each main window; the dock owns the result.
+    std::function<QWidget*()> make;
+    DockVisibility visibility = DockVisibility::ShownAtFirst;
+};
+
+/// A workbench of a module. If there are several, "View" has a switch between them.
+struct WorkbenchEntry
+{
+    std::string className; ///< registered class, derived from Gui::StdSimModule
+    TranslatableText title;
+    /// Registered class of the projects for which the workbench is chosen when one becomes the current project; also for
+    /// derived classes. Empty for none.
+    std::string projectClass;
+};
+
+/// What modules add to the window beside what their workbenches bring: commands in menus and toolbars, entries of the
+/// welcome page, text in the About box, docking windows, and the workbenches themselves. The application has one set of
+/// contributions; the main window shows them, and follows later additions when the event loop is next idle.
+///
+/// An entry that exists already is ignored. Entries are shown in the order of their registration. Their functions must
+/// be callable as long as the application lives.
+///
+///     Gui::Contributions& contributions = Gui::GuiApplication::Instance->contributions();
+///     contributions.addToMenu("&Project", "Add", "Probe_Add");
+class GUI_EXPORT Contributions : public QObject
+{
+    Q_OBJECT
+
+public:
+    Contributions();
+    ~Contributions() override;
+
+    /// Adds a command at the end of a section of a menu. A menu that does not exist is made in front of "&Windows"; a
+    /// section that does not exist is made at the end of the menu, behind a line. Texts of menus are translated in the
+    /// context "Workbench".
+    void addToMenu(const char* menu, const char* section, const char* command, const char* workbench = "");
+    /// Adds a command at the end of a section of a toolbar. A toolbar that does not exist is made behind the others.
+    void addToToolBar(const char* bar, const char* section, const char* command, const char* workbench = "");
+    /// Adds a command to the context menu of the empty area of the project explorer.
+    void addToTreeMenu(const char* command);
+    /// Adds to the welcome page. Of several entries for one step, each offers its commands; if they have different
+    /// titles, the page shows a title of its own.
+    void addWelcomeEntry(WelcomeEntry entry);
+    /// Adds a paragraph, as rich text, to the About box.
+    void addAboutText(TranslatableText text);
+    void addDock(DockEntry entry);
+    void addWorkbench(WorkbenchEntry entry);
+
+    const std::vector<CommandPlace>& menuPlaces() const { return m_menuPlaces; }
+    const std::vector<CommandPlace>& toolBarPlaces() const { return m_toolBarPlaces; }
+    const std::vector<std::string>& treeMenu() const { return m_treeMenu; }
+    const std::vector<WelcomeEntry>& welcomeEntries() const { return m_welcomeEntries; }
+    const std::vector<TranslatableText>& aboutTexts() const { return m_aboutTexts; }
+    const std::vector<DockEntry>& docks() const { return m_docks; }
+    const std::vector<WorkbenchEntry>& workbenches() const { return m_workbenches; }
+
+Q_SIGNALS:
+    /// Something was added.
+    void changed();
+
+private:
+    template <typename Entry, typename IsSame>
+    void add(std::vector<Entry>& entries, Entry entry, const IsSame& isSame);
+
+    std::vector<CommandPlace> m_menuPlaces;
+    std::vector<CommandPlace> m_toolBarPlaces;
+    std::vector<std::string> m_treeMenu;
+    std::vector<WelcomeEntry> m_welcomeEntries;
+    std::vector<TranslatableText> m_aboutTexts;
+    std::vector<DockEntry> m_docks;
+    std::vector<WorkbenchEntry> m_workbenches;
+};
+
+} // namespace Gui

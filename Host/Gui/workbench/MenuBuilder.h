@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Gui/CommandTree.h"
+
+class QAction;
+class QMenu;
+class QMenuBar;
+class QObject;
+class QToolBar;
+
+namespace Gui {
+
+class CommandController;
+
+/// Makes menus and toolbars from trees of command names. All entries of a command share its action, which shows the
+/// state that the command has now. Names without a command are left out, and so are menus without commands.
+class MenuBuilder
+{
+public:
+    /// `actionOwner` owns the actions of commands that have none yet.
+    MenuBuilder(const CommandController& commands, QObject& actionOwner)
+        : m_commands(commands), m_actionOwner(actionOwner)
+    {}
+
+    /// Adds the commands of a tree to a menu. Items with children become submenus.
+    void fillMenu(QMenu& menu, const MenuItem& items) const;
+    /// Replaces the menus of a menu bar.
+    void fillMenuBar(QMenuBar& bar, const MenuItem& menus) const;
+    /// Replaces the commands of a toolbar.
+    void fillToolBar(QToolBar& bar, const ToolBarGadget& items) const;
+
+private:
+    template <typename Widget, typename Tree>
+    // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
+    void addCommands(Widget& widget, const Tree& items) const;
+    template <typename Widget, typename Tree>
+    // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
+    QAction* actionOfItem(Widget& widget, const Tree& item) const;
+    QAction* actionOf(const std::string& commandName) const;
+
+    const CommandController& m_commands;
+    QObject& m_actionOwner;
+};
+
+} // namespace Gui

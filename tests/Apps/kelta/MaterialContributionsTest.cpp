@@ -1,0 +1,185 @@
+#include "FilesTesting.h"
+
+#include "Gui/Contributions.h"
+#include "Gui/ProjectExplorer.h"
+#include "Kelta/MessageLog.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QtTest/QtTestGui>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using vxtest::Answers;
+
+/// What the user sees of materials in the window.
+class Materials : public vxtest::Files
+{
+protected:
+    static std::vector<std::string> namesIn(const QWidget* widget)
+    {
+        std::vector<std::string> names;
+        for (const QAction* const action : widget->actions())
+            names.push_back(action->isSeparator() ? "-" : action->objectName().toStdString());
+        return names;
+    }
+    std::vector<std::string> menu(const QString& title) const
+    {
+        for (const QAction* const action : window->menuBar()->actions())
+            if (action->text() == title)
+                return namesIn(action->menu());
+        return {};
+    }
+    std::vector<std::string> menus() const
+    {
+        std::vector<std::string> titles;
+        for (const QAction* const action : window->menuBar()->actions())
+            titles.push_back(action->text().toStdString());
+        return titles;
+    }
+    std::vector<std::string> bar(const char* name) const
+    {
+        return namesIn(window->findChild<QToolBar*>(QLatin1String(name)));
+    }
+
+    QWidget* page() const { return window->findChild<QWidget*>(QStringLiteral("welcomePage")); }
+    QString pageTitle() const { return page()->findChildren<QLabel*>()[0]->text(); }
+    std::vector<std::string> pageButtons() const
+    {
+        std::vector<std::string> names;
+        for (const QPushButton* const button : page()->findChildren<QPushButton*>())
+            if (button->isVisible())
+                names.push_back(button->objectName().toStdString());
+        return names;
+    }
+    static std::string lastMessage() { return Kelta::MessageLog::instance().messages().back().text.toStdString(); }
+};
+
+TEST_F(Materials, HaveTheirCommandsInTheMenus)
+{
+    EXPECT_THAT(menus(), ElementsAre("&File", "&Edit", "&Project", "&View", "&Material", "&Windows", "&Help"));
+    EXPECT_THAT(menu("&File"), ElementsAre("Mat_NewDoc", "Std_Open", "Std_OpenRecent", "-", "Std_Save", "Std_SaveAs",
+                                           "-", "Std_ImportDocument", "-", "Mat_DelDoc", "Std_Quit"));
+    EXPECT_THAT(menu("&Edit"),
+                ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
+                            "Mat_Delete", "-", "Std_SelectAll", "Std_Rename", "-", "Std_Suppress", "Std_Unsuppress"));
+    EXPECT_THAT(menu("&Project"), ElementsAre("Mat_AddMaterial", "Mat_Edit", "-", "Mat_Import", "-", "Std_Collect"));
+    EXPECT_THAT(menu("&View"),
+                ElementsAre("Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "-", "Std_ClearMessages"));
+    EXPECT_THAT(menu("&Material"), ElementsAre("Mat_Export", "-", "Mat_Check"));
+}
+
+TEST_F(Materials, HaveTheirCommandsInTheToolbars)
+{
+    EXPECT_THAT(bar("File"), ElementsAre("Mat_NewDoc", "Std_Open", "Std_Save", "Mat_AddMaterial"));
+    EXPECT_THAT(bar("Edit"), ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste"));
+    EXPECT_THAT(bar("Material"), ElementsAre("Mat_Export"));
+    EXPECT_THAT(bar("BottomMaterial"), ElementsAre("Mat_Import", "Mat_Export"));
+}
+
+TEST_F(Materials, AreTheOnlyWorkbench)
+{
+    const auto& workbenches = Gui::GuiApplication::Instance->contributions().workbenches();
+    ASSERT_EQ(workbenches.size(), 1U);
+    EXPECT_EQ(workbenches.front().className, "MatGui::SimModule");
+    EXPECT_EQ(workbenches.front().projectClass, "Mat::DocumentMaterial");
+}
+
+TEST_F(Materials, AreOfferedStepByStepOnTheWelcomePage)
+{
+    window->update_commands();
+    EXPECT_EQ(pageTitle(), "No project is open");
+    EXPECT_THAT(pageButtons(), ElementsAre("Mat_NewDoc", "Std_Open"));
+    newProject();
+    window->update_commands();
+    EXPECT_EQ(pageTitle(), "The project has no materials yet");
+    EXPECT_THAT(pageButtons(), ElementsAre("Mat_AddMaterial"));
+    Mat::MaterialObject& steel = addMaterial();
+    Gui::TreeSelectionSingleton::instance().clear();
+    window->update_commands();
+    EXPECT_EQ(pageTitle(), "No material is open");
+    EXPECT_THAT(pageButtons(), ElementsAre("Mat_Edit"));
+    EXPECT_FALSE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());
+    Gui::TreeSelectionSingleton::instance().set_selection({}, {&steel});
+    window->update_commands();
+    EXPECT_TRUE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());
+}
+
+TEST_F(Materials, CanBeBegunFromTheEmptyTree)
+{
+    std::vector<std::string> offered;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            timer.stop();
+            offered = namesIn(menu);
+            menu->close();
+        }
+    });
+    timer.start(1);
+    QWidget* const tree = window->get_project_explorer().viewport();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), tree->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(tree, &event);
+    EXPECT_THAT(offered, ElementsAre("Mat_NewDoc"));
+}
+
+TEST_F(Materials, AreToldOfInTheAboutBox)
+{
+    const Answers boxes({"OK"});
+    EXPECT_TRUE(run("Std_About"));
+    ASSERT_EQ(boxes.boxes().size(), 1);
+    EXPECT_THAT(boxes.boxes().front().toStdString(),
+                HasSubstr("<p>Materials for finite-element simulation: 26 ready-made materials"));
+}
+
+TEST_F(Materials, AreCheckedByF7)
+{
+    const Gui::Command* const check = Gui::GuiApplication::Instance->get_command_manager().find_command("Mat_Check");
+    EXPECT_EQ(check->get_shortcut(), QKeySequence(Qt::Key_F7));
+    newProject();
+    addMaterial();
+    window->update_commands();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_F7);
+    EXPECT_EQ(lastMessage(), "All materials of \"Materials\" are ready.");
+    EXPECT_EQ(window->statusBar()->currentMessage(), "All materials of \"Materials\" are ready.");
+}
+
+TEST_F(Materials, ThatAreNotReadyAreNamedByTheCheck)
+{
+    newProject();
+    addMaterial().getCMaterial()->clearProperties();
+    {
+        const Answers boxes({"OK"});
+        EXPECT_TRUE(run("Mat_Check"));
+        EXPECT_EQ(boxes.boxes().size(), 1);
+    }
+    EXPECT_EQ(lastMessage(), "The materials of \"Materials\" are not all ready.");
+    EXPECT_EQ(Kelta::MessageLog::instance().messages().back().severity, Kelta::LogMessage::Severity::Warning);
+}
+
+TEST_F(Materials, AreNotCheckedWithoutAProject)
+{
+    EXPECT_FALSE(run("Mat_Check"));
+}
+
+TEST_F(Materials, ContributeOnceHoweverOftenTheyAreAsked)
+{
+    const auto before = menus();
+    const std::size_t places = Gui::GuiApplication::Instance->contributions().menuPlaces().size();
+    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus(), before);
+    EXPECT_EQ(Gui::GuiApplication::Instance->contributions().menuPlaces().size(), places);
+}
+
+} // namespace

@@ -1,0 +1,134 @@
+#include "Gui/GuiProject.h"
+
+#include "GuiTesting.h"
+
+#include <stdexcept>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class GuiProjectTest : public vxtest::Host
+{
+protected:
+    GuiProjectTest() : project(makeProject()), side(*Gui::GuiApplication::Instance->get_project(&project)) {}
+
+    vxtest::TestProject& project;
+    Gui::GuiProject& side;
+};
+
+TEST_F(GuiProjectTest, MakesTheNodeThatTheProjectNames)
+{
+    Gui::ViewFeederProject* const node = side.get_view_feeder();
+    EXPECT_NE(dynamic_cast<vxtest::TestProjectNode*>(node), nullptr);
+    EXPECT_EQ(node->getProject(), &project);
+    EXPECT_EQ(side.get_view_feeder(), node);
+}
+
+TEST_F(GuiProjectTest, MakesOneNodeForEachObject)
+{
+    vxtest::TestObject& object = addObject(project);
+    Gui::ViewFeederProjectObject* const node = side.get_view_feeder(&object);
+    EXPECT_NE(dynamic_cast<vxtest::TestNode*>(node), nullptr);
+    EXPECT_EQ(node->getObject(), &object);
+    EXPECT_EQ(side.get_view_feeder(&object), node);
+}
+
+TEST_F(GuiProjectTest, HasNoNodeForWhatIsNotInTheProject)
+{
+    EXPECT_EQ(side.get_view_feeder(nullptr), nullptr);
+    EXPECT_EQ(side.get_view_feeder(&addObject(makeProject("Other"))), nullptr);
+}
+
+/// An object whose node is of an unregistered class, or of the wrong kind.
+template <const char* NodeName>
+class OddObject final : public Obj::ProjectObject
+{
+public:
+    const char* get_viewfeeder_name() const override { return NodeName; }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+    static void init(const char* name)
+    {
+        initSubclass(type, name, "Obj::ProjectObject",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new OddObject); });
+    }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+constexpr char unknownNode[] = "No::Node";
+constexpr char wrongNode[] = "Test::ProjectNode";
+
+TEST_F(GuiProjectTest, MakesAPlainNodeWhenThereIsNoneOfTheName)
+{
+    OddObject<unknownNode>::init("Test::Unknown");
+    OddObject<wrongNode>::init("Test::Wrong");
+    for (const char* const name : {"Test::Unknown", "Test::Wrong"}) {
+        Obj::ProjectObject* const object = project.add_object(name, "Odd");
+        const Gui::ViewFeederProjectObject* const node = side.get_view_feeder(object);
+        ASSERT_NE(node, nullptr);
+        EXPECT_STREQ(node->getTypeId().get_name(), "Gui::ViewFeederProjectObject");
+    }
+}
+
+/// A node that cannot be made.
+class FailingNode final : public Gui::ViewFeederProjectObject
+{
+public:
+    FailingNode() { throw std::runtime_error("no node today"); }
+    static void init()
+    {
+        initSubclass(type, "Test::FailingNode", "Gui::ViewFeederProjectObject",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new FailingNode); });
+    }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
+constexpr char failingNode[] = "Test::FailingNode";
+
+TEST_F(GuiProjectTest, MakesAPlainNodeInPlaceOfOneThatFailsAndSaysSoOnce)
+{
+    FailingNode::init();
+    OddObject<failingNode>::init("Test::Failing");
+    Obj::ProjectObject* const object = project.add_object("Test::Failing", "Odd");
+    const std::size_t errors = Kelta::MessageLog::instance().errorCount();
+    const Gui::ViewFeederProjectObject* const node = side.get_view_feeder(object);
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(side.get_view_feeder(object), node);
+    EXPECT_EQ(lastMessage(), "The tree node \"Test::FailingNode\" cannot be made: no node today");
+    EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), errors + 1);
+}
+
+TEST_F(GuiProjectTest, PassesChangesOfPropertiesToTheNode)
+{
+    vxtest::TestObject& object = addObject(project);
+    vxtest::TestNode& node = nodeOf(object);
+    object.count.setValue(5);
+    object.setSuppressed(true);
+    EXPECT_THAT(node.changes, ElementsAre(&object.count));
+}
+
+TEST_F(GuiProjectTest, MakesANewNodeAfterUndo)
+{
+    vxtest::TestObject& object = addObject(project);
+    nodeOf(object).opened = 5;
+    project.restore_object(project.take_object(object.getObjectId()));
+    EXPECT_EQ(nodeOf(object).opened, 0);
+}
+
+TEST_F(GuiProjectTest, RemovesItsViewsWhenItIsClosed)
+{
+    const QPointer<Gui::MDIWindow> shown = new Gui::MDIWindow(&side, window.get());
+    window->add_mdi_window(shown);
+    Gui::MDIWindow notShown(&side, nullptr);
+    EXPECT_THAT(side.get_views(), ElementsAre(shown, &notShown));
+    Obj::Application::instance().close_project(project);
+    EXPECT_EQ(shown, nullptr);
+    EXPECT_EQ(notShown.get_gui_project(), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,110 @@
+#include "Gui/Translator.h"
+
+#include "GuiTesting.h"
+
+#include <QAction>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QLibraryInfo>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+namespace {
+
+using Gui::Translator;
+using testing::HasSubstr;
+
+class Language : public vxtest::Host
+{
+protected:
+    ~Language() override { Translator::instance()->setLanguage(QStringLiteral("en")); }
+
+    QStringList menus() const
+    {
+        QStringList texts;
+        for (const QAction* const action : window->menuBar()->actions())
+            texts << action->text();
+        return texts;
+    }
+};
+
+TEST_F(Language, IsEnglishInTests)
+{
+    EXPECT_EQ(Translator::instance()->language(), "en");
+    EXPECT_EQ(menus().first(), "&File");
+}
+
+TEST_F(Language, SwitchesTheWholeWindow)
+{
+    Translator::instance()->setLanguage(QStringLiteral("de"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus().first(), "&Datei");
+    EXPECT_EQ(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->windowTitle(), "Eigenschaften");
+    EXPECT_EQ(commands().find_command("Std_Copy")->action()->text(), "&Kopieren");
+    EXPECT_EQ(window->get_property_panel().headerItem()->text(1), "Wert");
+    EXPECT_EQ(window->get_property_panel().topLevelItem(0)->text(0), QStringLiteral("Nichts ist ausgewählt."));
+    Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(commands().find_command("Std_Copy")->action()->text(), QStringLiteral("复制(&C)"));
+    Translator::instance()->setLanguage(QStringLiteral("en"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus().first(), "&File");
+    EXPECT_EQ(window->get_property_panel().headerItem()->text(1), "Value");
+}
+
+TEST_F(Language, WithACountryIsServedByTheLanguageAlone)
+{
+    Translator::instance()->setLanguage(QStringLiteral("de_AT"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus().first(), "&Datei");
+}
+
+TEST_F(Language, ThatIsNotThereLeavesTheTextsAsTheyAre)
+{
+    const std::size_t messages = Kelta::MessageLog::instance().messages().size();
+    Translator::instance()->setLanguage(QStringLiteral("xx"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus().first(), "&File");
+    EXPECT_EQ(Kelta::MessageLog::instance().messages().size(), messages);
+}
+
+TEST_F(Language, ReportsATranslationThatCannotBeRead)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("broken_yy.qm")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("this is no translation");
+    file.close();
+    Translator::instance()->addFolder(folder.path());
+    Translator::instance()->addFolder(folder.path());
+    EXPECT_EQ(Translator::instance()->folders().count(folder.path()), 1);
+    Translator::instance()->setLanguage(QStringLiteral("yy"));
+    EXPECT_THAT(lastMessage(), HasSubstr("broken_yy.qm cannot be read;"));
+    EXPECT_EQ(menus().first(), "&File");
+}
+
+TEST_F(Language, IsThatOfQtsOwnTextsToo)
+{
+    const QDir folder(QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    if (!folder.exists(QStringLiteral("qtbase_de.qm")))
+        GTEST_SKIP() << "Qt's translations are not installed (Debian's qttranslations5-l10n)";
+    const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+    Translator::instance()->setLanguage(QStringLiteral("de_AT"));
+    EXPECT_EQ(cancel(), "Abbrechen");
+    Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
+    EXPECT_EQ(cancel(), QStringLiteral("取消"));
+    Translator::instance()->setLanguage(QStringLiteral("xx"));
+    EXPECT_EQ(cancel(), "Cancel");
+}
+
+TEST_F(Language, SaysWhenItChanges)
+{
+    QSignalSpy spy(Translator::instance(), &Translator::languageChanged);
+    Translator::instance()->setLanguage(QStringLiteral("de"));
+    Translator::instance()->refresh();
+    EXPECT_EQ(spy.count(), 2);
+}
+
+} // namespace

@@ -1,0 +1,337 @@
+#include "GuiTesting.h"
+#include "Mnemonics.h"
+
+#include "Gui/ObjectClipboard.h"
+#include "Gui/Translator.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QStatusBar>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::SizeIs;
+
+class StandardCommands : public vxtest::Host
+{
+protected:
+    StandardCommands() { QGuiApplication::clipboard()->clear(); }
+
+    static std::vector<Obj::ProjectObject*> selected()
+    {
+        return selection().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    }
+    /// Presses the keys of a command while the tree has the keyboard.
+    void press(const char* command) const
+    {
+        window->update_commands();
+        QTest::keySequence(&explorer(), commands().find_command(command)->get_shortcut());
+    }
+    void addDocument() const { window->add_mdi_window(new Gui::MDIWindow(nullptr, nullptr)); }
+};
+
+TEST_F(StandardCommands, HaveTheirStandardKeys)
+{
+    const auto keyOf = [](const char* name) { return commands().find_command(name)->get_shortcut(); };
+    EXPECT_EQ(keyOf("Std_Undo"), QKeySequence(QKeySequence::Undo));
+    EXPECT_EQ(keyOf("Std_Redo"), QKeySequence(QKeySequence::Redo));
+    EXPECT_EQ(keyOf("Std_Copy"), QKeySequence(QKeySequence::Copy));
+    EXPECT_EQ(keyOf("Std_Paste"), QKeySequence(QKeySequence::Paste));
+    EXPECT_EQ(keyOf("Std_SelectAll"), QKeySequence(QKeySequence::SelectAll));
+    EXPECT_EQ(keyOf("Std_Rename"), QKeySequence(Qt::Key_F2));
+    EXPECT_EQ(keyOf("Std_DuplicateSelection"), QKeySequence(QStringLiteral("Ctrl+D")));
+    EXPECT_EQ(keyOf("Std_Quit"), QKeySequence(QStringLiteral("Ctrl+Q")));
+    EXPECT_EQ(keyOf("Std_CloseWindow"), QKeySequence(QStringLiteral("Ctrl+W")));
+}
+
+TEST_F(StandardCommands, HaveDifferentKeysAndMnemonicsInEachMenu)
+{
+    std::map<QKeySequence, std::string> users;
+    for (const Gui::Command* const command : commands().get_commands()) {
+        if (command->get_shortcut().isEmpty())
+            continue;
+        EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();
+    }
+    for (const char* const language : {"de", "zh_CN", "en"}) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(vxtest::mnemonicClashes(*window->menuBar()), QStringList()) << language;
+    }
+}
+
+TEST_F(StandardCommands, ApplyToNothingInAnEmptyProgram)
+{
+    for (const char* const name : {"Std_Undo", "Std_Redo", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
+                                   "Std_Suppress", "Std_Unsuppress", "Std_Rename", "Std_SelectAll", "Std_TileWindows",
+                                   "Std_CascadeWindows", "Std_TabWindows", "Std_CloseWindow", "Std_CloseAllWindows"})
+        EXPECT_FALSE(isApplicable(name)) << name;
+    for (const char* const name : {"Std_Quit", "Std_About", "Std_ProjectExplorer", "Std_PropertyPanel"})
+        EXPECT_TRUE(isApplicable(name)) << name;
+}
+
+TEST_F(StandardCommands, AreEnabledInTheMenusAsTheyApply)
+{
+    vxtest::TestProject& project = makeProject();
+    const QAction* const copy = commands().find_command("Std_Copy")->action();
+    const QAction* const undo = commands().find_command("Std_Undo")->action();
+    EXPECT_FALSE(copy->isEnabled());
+    select({&addObject(project)});
+    EXPECT_TRUE(vxtest::waitFor([&] { return copy->isEnabled() && undo->isEnabled(); }));
+    undoStack().undo();
+    EXPECT_TRUE(vxtest::waitFor([&] { return !copy->isEnabled() && !undo->isEnabled(); }));
+}
+
+TEST_F(StandardCommands, SuppressWhatIsSelectedUndoablyInOneStep)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& a = addObject(project);
+    vxtest::TestObject& b = addObject(project);
+    vxtest::TestObject& c = addObject(project);
+    b.setSuppressed(true);
+    undoStack().clear();
+    select({&a, &b});
+    EXPECT_TRUE(isApplicable("Std_Suppress"));
+    EXPECT_TRUE(isApplicable("Std_Unsuppress"));
+    EXPECT_TRUE(run("Std_Suppress"));
+    EXPECT_TRUE(a.isSuppressed() && b.isSuppressed() && !c.isSuppressed());
+    EXPECT_FALSE(isApplicable("Std_Suppress"));
+    EXPECT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    // An object that was suppressed before stays suppressed.
+    EXPECT_TRUE(!a.isSuppressed() && b.isSuppressed());
+    undoStack().redo();
+    EXPECT_TRUE(a.isSuppressed());
+    EXPECT_TRUE(run("Std_Unsuppress"));
+    EXPECT_FALSE(a.isSuppressed() || b.isSuppressed());
+    undoStack().undo();
+    EXPECT_TRUE(a.isSuppressed() && b.isSuppressed() && !c.isSuppressed());
+}
+
+TEST_F(StandardCommands, CopyAndPasteInOneStep)
+{
+    vxtest::TestProject& project = makeProject();
+    select({&addObject(project, "A"), &addObject(project, "B")});
+    EXPECT_FALSE(isApplicable("Std_Paste"));
+    EXPECT_TRUE(run("Std_Copy"));
+    EXPECT_TRUE(isApplicable("Std_Paste"));
+    undoStack().clear();
+    EXPECT_TRUE(run("Std_Paste"));
+    ASSERT_THAT(project.get_objects(), SizeIs(4));
+    EXPECT_EQ(project.get_objects()[2]->label.getValue(), "A");
+    ASSERT_THAT(selected(), ElementsAre(project.get_objects()[2], project.get_objects()[3]));
+    EXPECT_EQ(undoStack().count(), 1);
+    const auto pasted = selected();
+    undoStack().undo();
+    EXPECT_THAT(project.get_objects(), SizeIs(2));
+    undoStack().redo();
+    ASSERT_THAT(project.get_objects(), SizeIs(4));
+    EXPECT_EQ(project.get_objects()[2], pasted[0]);
+    EXPECT_EQ(project.get_objects()[3], pasted[1]);
+}
+
+TEST_F(StandardCommands, PasteIntoTheCurrentProject)
+{
+    vxtest::TestProject& first = makeProject("First");
+    select({&addObject(first)});
+    EXPECT_TRUE(run("Std_Copy"));
+    vxtest::TestProject& second = makeProject("Second");
+    EXPECT_TRUE(run("Std_Paste"));
+    EXPECT_EQ(second.get_object_count(), 1U);
+    EXPECT_EQ(first.get_object_count(), 1U);
+}
+
+TEST_F(StandardCommands, DuplicateInOneStepAndLeaveTheClipboardAlone)
+{
+    vxtest::TestProject& project = makeProject();
+    select({&addObject(project, "A"), &addObject(project, "B")});
+    QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
+    undoStack().clear();
+    EXPECT_TRUE(run("Std_DuplicateSelection"));
+    EXPECT_THAT(project.get_objects(), SizeIs(4));
+    EXPECT_EQ(undoStack().count(), 1);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "mine");
+    undoStack().undo();
+    EXPECT_THAT(project.get_objects(), SizeIs(2));
+}
+
+TEST_F(StandardCommands, UndoAndRedo)
+{
+    vxtest::TestProject& project = makeProject();
+    addObject(project);
+    EXPECT_TRUE(run("Std_Undo"));
+    EXPECT_EQ(project.get_object_count(), 0U);
+    EXPECT_FALSE(isApplicable("Std_Undo"));
+    EXPECT_TRUE(run("Std_Redo"));
+    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_FALSE(isApplicable("Std_Redo"));
+}
+
+TEST_F(StandardCommands, ShowAndHideTheDocks)
+{
+    for (const auto& [command, name] :
+         {std::pair("Std_ProjectExplorer", "ProjectExplorer"), std::pair("Std_PropertyPanel", "PropertyPanel"),
+          std::pair("Std_MessageLog", "MessageLog")})
+    {
+        const auto* const dock = window->findChild<QDockWidget*>(QLatin1String(name));
+        ASSERT_TRUE(dock->isVisible());
+        EXPECT_TRUE(run(command));
+        EXPECT_FALSE(dock->isVisible());
+        EXPECT_TRUE(run(command));
+        EXPECT_TRUE(dock->isVisible());
+    }
+}
+
+TEST_F(StandardCommands, ArrangeTheDocuments)
+{
+    const auto* const area = window->findChild<QMdiArea*>();
+    addDocument();
+    addDocument();
+    const auto overlap = [area] {
+        const QList<QMdiSubWindow*> frames = area->subWindowList();
+        return frames[0]->geometry().intersects(frames[1]->geometry());
+    };
+    EXPECT_EQ(area->viewMode(), QMdiArea::TabbedView);
+    EXPECT_TRUE(run("Std_TileWindows"));
+    EXPECT_EQ(area->viewMode(), QMdiArea::SubWindowView);
+    EXPECT_FALSE(overlap());
+    EXPECT_TRUE(run("Std_CascadeWindows"));
+    EXPECT_EQ(area->viewMode(), QMdiArea::SubWindowView);
+    EXPECT_TRUE(overlap());
+    // The title of each can be seen.
+    EXPECT_NE(area->subWindowList()[0]->pos(), area->subWindowList()[1]->pos());
+    EXPECT_TRUE(run("Std_TabWindows"));
+    EXPECT_EQ(area->viewMode(), QMdiArea::TabbedView);
+}
+
+TEST_F(StandardCommands, CloseDocuments)
+{
+    for (int i = 0; i < 3; ++i)
+        addDocument();
+    EXPECT_TRUE(run("Std_CloseWindow"));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().size() == 2; }));
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_FALSE(isApplicable("Std_CloseWindow"));
+}
+
+TEST_F(StandardCommands, RunByTheirKeys)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& object = addObject(project, "A");
+    focusExplorer();
+    select({&object});
+    press("Std_Copy");
+    press("Std_Paste");
+    EXPECT_EQ(project.get_object_count(), 2U);
+    press("Std_DuplicateSelection");
+    EXPECT_EQ(project.get_object_count(), 3U);
+    press("Std_Undo");
+    EXPECT_EQ(project.get_object_count(), 2U);
+    press("Std_Undo");
+    EXPECT_EQ(project.get_object_count(), 1U);
+    press("Std_Redo");
+    EXPECT_EQ(project.get_object_count(), 2U);
+    press("Std_SelectAll");
+    EXPECT_THAT(selected(), SizeIs(2));
+    addDocument();
+    press("Std_CloseWindow");
+    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+}
+
+TEST_F(StandardCommands, RenameOneObjectAlone)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& a = addObject(project, "A");
+    vxtest::TestObject& b = addObject(project, "B");
+    select({&a});
+    EXPECT_TRUE(isApplicable("Std_Rename"));
+    select({&a, &b});
+    EXPECT_FALSE(isApplicable("Std_Rename"));
+    selection().set_selection({&project}, {&a});
+    EXPECT_FALSE(isApplicable("Std_Rename"));
+    selection().set_selection({&project}, {});
+    EXPECT_FALSE(isApplicable("Std_Rename"));
+}
+
+TEST_F(StandardCommands, RenameInTheTreeAlsoWhenItIsHidden)
+{
+    select({&addObject(makeProject(), "A")});
+    auto* const dock = window->findChild<QDockWidget*>(QStringLiteral("ProjectExplorer"));
+    dock->hide();
+    EXPECT_TRUE(run("Std_Rename"));
+    EXPECT_TRUE(dock->isVisible());
+    EXPECT_TRUE(vxtest::waitFor([this] { return explorer().viewport()->findChild<QLineEdit*>() != nullptr; }));
+}
+
+TEST_F(StandardCommands, DuplicatePassesOverObjectsThatAListenerDeletes)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& a = addObject(project, "A");
+    vxtest::TestObject& b = addObject(project, "B");
+    select({&a, &b});
+    bool isFirst = true;
+    const boost::signals2::scoped_connection connection = project.objectAdded.connect([&](Obj::ProjectObject&) {
+        if (std::exchange(isFirst, false))
+            vxMsg::MessageProxy::instance().deleteObject(project.get_name(), b.get_name_in_project());
+    });
+    EXPECT_TRUE(run("Std_DuplicateSelection"));
+    ASSERT_THAT(project.get_objects(), SizeIs(2));
+    EXPECT_THAT(selected(), ElementsAre(project.get_objects()[1]));
+}
+
+TEST_F(StandardCommands, Quit)
+{
+    EXPECT_TRUE(run("Std_Quit"));
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(StandardCommands, TellWhatTheProgramIs)
+{
+    const vxtest::MessageBoxes boxes;
+    EXPECT_TRUE(run("Std_About"));
+    ASSERT_THAT(boxes.shown(), SizeIs(1));
+    EXPECT_EQ(boxes.shown()[0].title, "About");
+    EXPECT_TRUE(boxes.shown()[0].text.startsWith("<h3>" + QCoreApplication::applicationName()));
+}
+
+TEST_F(StandardCommands, HandTheCurrentProjectOverToTheSolver)
+{
+    EXPECT_FALSE(isApplicable("Std_Collect"));
+    vxtest::TestProject& other = makeProject("Other");
+    vxtest::TestProject& project = makeProject("Bridge");
+    EXPECT_TRUE(run("Std_Collect"));
+    EXPECT_EQ(project.collections, 1);
+    EXPECT_EQ(other.collections, 0);
+    EXPECT_EQ(lastMessage(), "\"Bridge\" was handed over to the solver.");
+    EXPECT_EQ(window->statusBar()->currentMessage(), "\"Bridge\" was handed over to the solver.");
+}
+
+TEST_F(StandardCommands, HandAProjectOverWithoutAWindowToo)
+{
+    window.reset();
+    vxtest::TestProject& project = makeProject();
+    EXPECT_TRUE(run("Std_Collect"));
+    EXPECT_EQ(project.collections, 1);
+}
+
+TEST_F(StandardCommands, SayThatHandingOverFailed)
+{
+    vxtest::TestProject& project = makeProject();
+    project.collectFails = true;
+    EXPECT_FALSE(run("Std_Collect"));
+    EXPECT_EQ(lastMessage(), "The command \"Hand over to the solver\" failed: no solver");
+}
+
+TEST_F(StandardCommands, ClearTheMessages)
+{
+    Kelta::MessageLog::information(QStringLiteral("hello"));
+    EXPECT_TRUE(run("Std_ClearMessages"));
+    EXPECT_TRUE(Kelta::MessageLog::instance().messages().empty());
+}
+
+} // namespace

@@ -1,0 +1,369 @@
+#include "Gui/ProjectExplorer.h"
+
+#include "GuiTesting.h"
+
+#include "Obj/ProjectObjectGroup.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::SizeIs;
+
+class Explorer : public vxtest::Host
+{
+protected:
+    Explorer() : project(makeProject()), first(addObject(project, "First")), second(addObject(project, "Second"))
+    {
+        focusExplorer();
+    }
+
+    void click(const Obj::ProjectObject& object, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::mouseClick(explorer().viewport(), Qt::LeftButton, modifiers, placeOf(object));
+    }
+    void doubleClick(const Obj::ProjectObject& object) const
+    {
+        QTest::mouseDClick(explorer().viewport(), Qt::LeftButton, {}, placeOf(object));
+    }
+    QPoint placeOf(const Obj::ProjectObject& object) const
+    {
+        model().synchronize();
+        explorer().scrollTo(model().indexOf(object));
+        return explorer().visualRect(model().indexOf(object)).center();
+    }
+    QLineEdit* editor() const
+    {
+        for (QLineEdit* const line : explorer().viewport()->findChildren<QLineEdit*>())
+            if (line->isVisible())
+                return line;
+        return nullptr;
+    }
+
+    /// Types a label into the editor of the row, and presses Return.
+    void typeLabel(const QString& text) const
+    {
+        ASSERT_TRUE(vxtest::waitFor([this] { return editor() != nullptr; }));
+        editor()->selectAll();
+        QTest::keyClicks(editor(), text);
+        QTest::keyClick(editor(), Qt::Key_Return);
+        // The editor passes its text on when the event loop runs.
+        QCoreApplication::processEvents();
+    }
+
+    /// Returns the entries of the context menu at a place. Triggers the entry `choose`, and closes the menu.
+    QStringList contextMenuAt(const QPoint& place, const QString& choose = {}) const
+    {
+        QStringList offered;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            timer.stop();
+            for (QAction* const action : menu->actions()) {
+                offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
+                if (action->text() == choose)
+                    action->trigger();
+            }
+            menu->close();
+        });
+        timer.start(1);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(explorer().viewport(), &event);
+        return offered;
+    }
+
+    /// Chooses an entry of the menu "Display as" of the first object.
+    void chooseDisplayMode(const QString& mode) const
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            timer.stop();
+            for (const QMenu* const choices : menu->findChildren<QMenu*>())
+                for (QAction* const action : choices->actions()) {
+                    EXPECT_EQ(action->isChecked(), action->text() == QStringLiteral("Shaded"));
+                    if (action->text() == mode)
+                        action->trigger();
+                }
+            menu->close();
+        });
+        timer.start(1);
+        const QPoint place = placeOf(first);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(explorer().viewport(), &event);
+    }
+
+    std::vector<Obj::ProjectObject*> selectedObjects() const
+    {
+        return selection().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    }
+
+    vxtest::TestProject& project;
+    vxtest::TestObject& first;
+    vxtest::TestObject& second;
+};
+
+TEST_F(Explorer, SelectsWhatIsClicked)
+{
+    click(first);
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first));
+    click(second, Qt::ControlModifier);
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second));
+    click(second);
+    EXPECT_THAT(selectedObjects(), ElementsAre(&second));
+}
+
+TEST_F(Explorer, OffersWhatTheWorkbenchAddsInItsContextMenu)
+{
+    EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
+}
+
+TEST_F(Explorer, MakesTheProjectOfWhatIsSelectedTheCurrentOne)
+{
+    makeProject("Other");
+    click(first);
+    EXPECT_EQ(Obj::Application::get_current_project(), &project);
+}
+
+TEST_F(Explorer, ShowsWhatACommandSelects)
+{
+    select({&second});
+    EXPECT_THAT(explorer().selectionModel()->selectedIndexes(), ElementsAre(model().indexOf(second)));
+    select({&first, &second});
+    EXPECT_EQ(explorer().selectionModel()->selectedIndexes().size(), 2);
+}
+
+TEST_F(Explorer, ShowsThatNothingIsSelectedAnyMore)
+{
+    select({&second});
+    selection().clear();
+    EXPECT_TRUE(explorer().selectionModel()->selectedIndexes().isEmpty());
+}
+
+TEST_F(Explorer, DeselectsWhatIsRemoved)
+{
+    click(first);
+    project.remove_object(first.getObjectId());
+    EXPECT_EQ(selection().get_count(), 0U);
+    QCoreApplication::processEvents();
+    model().synchronize();
+    EXPECT_EQ(model().rowCount(model().indexOf(project)), 1);
+}
+
+TEST_F(Explorer, SelectsAllObjectsOfTheCurrentProject)
+{
+    vxtest::TestProject& other = makeProject("Other");
+    addObject(other);
+    Obj::Application::instance().set_current_project(project);
+    explorer().selectAllObjects();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second));
+}
+
+TEST_F(Explorer, SelectsAllByTheKeyboard)
+{
+    QTest::keySequence(&explorer(), QKeySequence(QKeySequence::SelectAll));
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second));
+}
+
+TEST_F(Explorer, SelectsTenThousandAtOnce)
+{
+    for (int i = 0; i < 10000; ++i)
+        addObject(project);
+    explorer().selectAllObjects();
+    EXPECT_EQ(selection().get_count(), 10002U);
+}
+
+TEST_F(Explorer, OpensByADoubleClick)
+{
+    doubleClick(first);
+    EXPECT_EQ(nodeOf(first).opened, 1);
+    EXPECT_EQ(nodeOf(second).opened, 0);
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(Explorer, OpensByReturn)
+{
+    click(second);
+    QTest::keyClick(&explorer(), Qt::Key_Return);
+    QTest::keyClick(&explorer(), Qt::Key_Enter);
+    EXPECT_EQ(nodeOf(second).opened, 2);
+}
+
+TEST_F(Explorer, OpensNothingBesideTheRows)
+{
+    QTest::mouseDClick(explorer().viewport(), Qt::LeftButton, {}, explorer().viewport()->rect().bottomRight());
+    EXPECT_EQ(nodeOf(first).opened + nodeOf(second).opened, 0);
+}
+
+TEST_F(Explorer, RenamesByF2AndTyping)
+{
+    click(first);
+    undoStack().clear();
+    QTest::keyClick(&explorer(), Qt::Key_F2);
+    typeLabel("Beam");
+    EXPECT_EQ(first.label.getValue(), "Beam");
+    EXPECT_EQ(nodeOf(first).opened, 0);
+    EXPECT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_EQ(first.label.getValue(), "First");
+}
+
+TEST_F(Explorer, KeepsTheLabelWhenRenamingIsGivenUp)
+{
+    click(first);
+    ASSERT_TRUE(run("Std_Rename"));
+    ASSERT_NE(editor(), nullptr);
+    QTest::keyClicks(editor(), "Beam");
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    EXPECT_EQ(first.label.getValue(), "First");
+}
+
+TEST_F(Explorer, DoesNotTakeAnEmptyLabel)
+{
+    click(first);
+    ASSERT_TRUE(run("Std_Rename"));
+    typeLabel({});
+    QTest::keyClick(&explorer(), Qt::Key_F2);
+    ASSERT_NE(editor(), nullptr);
+    editor()->clear();
+    QTest::keyClick(editor(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(first.label.getValue(), "First");
+}
+
+TEST_F(Explorer, RenamesOneObjectAlone)
+{
+    EXPECT_FALSE(explorer().renameSelected());
+    select({&first, &second});
+    EXPECT_FALSE(explorer().renameSelected());
+    selection().set_selection({&project}, {});
+    EXPECT_FALSE(explorer().renameSelected());
+    select({&second});
+    EXPECT_TRUE(explorer().renameSelected());
+}
+
+TEST_F(Explorer, SurvivesTheRemovalOfTheRowThatIsRenamed)
+{
+    click(first);
+    ASSERT_TRUE(explorer().renameSelected());
+    project.remove_object(first.getObjectId());
+    model().synchronize();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shownText(second), "Second");
+}
+
+TEST_F(Explorer, OffersWhatTheNodeDoes)
+{
+    EXPECT_EQ(contextMenuAt(placeOf(first)), QStringList({"Show it", "-", "&Copy", "-", "&Suppress"}));
+}
+
+TEST_F(Explorer, HandsTheEditModeOfAChosenActionToTheNode)
+{
+    contextMenuAt(placeOf(first), "Show it");
+    EXPECT_THAT(nodeOf(first).editModes, ElementsAre(7));
+}
+
+TEST_F(Explorer, OffersNothingForANodeWithoutAMenu)
+{
+    EXPECT_EQ(contextMenuAt(explorer().visualRect(model().indexOf(project)).center()), QStringList());
+}
+
+TEST_F(Explorer, SelectsTheRowOnWhichTheMenuOpens)
+{
+    click(second);
+    QTest::mouseClick(explorer().viewport(), Qt::RightButton, {}, placeOf(first));
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first));
+}
+
+TEST_F(Explorer, HearsTreeKeysWhenItHasTheKeyboardAlone)
+{
+    // The application keeps the command.
+    static int deleted;
+    static auto* const command = new vxtest::TestCommand(
+        "Test_Delete", [] { ++deleted; }, Gui::CommandType::OnTree, QKeySequence(QKeySequence::Delete));
+    if (commands().find_command("Test_Delete") == nullptr)
+        commands().new_command(command);
+    deleted = 0;
+    window->set_workbench("Gui::StdSimModule");
+    QTest::keyClick(&explorer(), Qt::Key_Delete);
+    EXPECT_EQ(deleted, 1);
+    auto* const document = new Gui::MDIWindow(nullptr, nullptr);
+    auto* const line = new QLineEdit(QStringLiteral("text"));
+    document->setCentralWidget(line);
+    window->add_mdi_window(document);
+    line->setFocus();
+    line->setCursorPosition(0);
+    QTest::keyClick(line, Qt::Key_Delete);
+    EXPECT_EQ(deleted, 1);
+    EXPECT_EQ(line->text(), "ext");
+}
+
+TEST_F(Explorer, ExpandsAProjectWhenObjectsCome)
+{
+    vxtest::TestProject& other = makeProject("Other");
+    addObject(other);
+    QCoreApplication::processEvents();
+    model().synchronize();
+    EXPECT_TRUE(explorer().isExpanded(model().indexOf(other)));
+}
+
+TEST_F(Explorer, SelectsTheMembersOfGroupsToo)
+{
+    auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
+    group->add_member(first);
+    explorer().selectAllObjects();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second, group));
+}
+
+TEST_F(Explorer, KeepsTheSelectionOfWhatAGroupTakesIn)
+{
+    auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
+    click(first);
+    group->add_member(first);
+    model().synchronize();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&first));
+    EXPECT_TRUE(explorer().isExpanded(model().indexOf(*group)));
+    EXPECT_TRUE(explorer().selectionModel()->isSelected(model().indexOf(first)));
+}
+
+TEST_F(Explorer, LeavesTheSelectionOfNodesWithTheirOwnAlone)
+{
+    nodeOf(first).selectsItself = true;
+    click(second);
+    click(first);
+    EXPECT_THAT(selectedObjects(), testing::IsEmpty());
+    explorer().selectAllObjects();
+    EXPECT_THAT(selectedObjects(), ElementsAre(&second));
+}
+
+TEST_F(Explorer, OffersTheDisplayModesOfANodeThatHasSeveral)
+{
+    nodeOf(first).displayModes = {"Shaded"};
+    EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Display as")));
+    nodeOf(first).displayModes = {"Shaded", "Wireframe"};
+    EXPECT_TRUE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Display as")));
+    nodeOf(first).setDisplayMode("Shaded");
+    chooseDisplayMode("Wireframe");
+    EXPECT_EQ(nodeOf(first).getDisplayMode(), "Wireframe");
+    EXPECT_EQ(nodeOf(second).getDisplayMode(), "");
+}
+
+TEST_F(Explorer, OffersInItsEmptyAreaWhatModulesContribute)
+{
+    const QPoint corner = explorer().viewport()->rect().bottomRight() - QPoint(2, 2);
+    EXPECT_FALSE(contextMenuAt(corner).contains(QStringLiteral("Select &all")));
+    contributions.addToTreeMenu("Std_SelectAll");
+    EXPECT_TRUE(contextMenuAt(corner).contains(QStringLiteral("Select &all")));
+    EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
+}
+
+} // namespace

@@ -1,0 +1,298 @@
+#include "Gui/MainWindow.h"
+
+#include "GuiTesting.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QTabBar>
+#include <QToolBar>
+
+namespace {
+
+using Gui::MDIWindow;
+using testing::HasSubstr;
+
+class MainWindowTest : public vxtest::Host
+{
+protected:
+    MDIWindow* addDocument(const char* title, Gui::GuiProject* project = nullptr) const
+    {
+        auto* const document = new MDIWindow(project, window.get());
+        document->setWindowTitle(QLatin1String(title));
+        window->add_mdi_window(document);
+        return document;
+    }
+    QTabBar* tabs() const { return window->findChild<QMdiArea*>()->findChild<QTabBar*>(); }
+    bool showsWelcome() const
+    {
+        const auto* const page = window->findChild<QWidget*>(QStringLiteral("welcomePage"));
+        return page != nullptr && page->isVisible();
+    }
+};
+
+TEST_F(MainWindowTest, IsKnownWhileItLives)
+{
+    EXPECT_EQ(Gui::MainWindow::get_main_window_inst(), window.get());
+    window.reset();
+    EXPECT_EQ(Gui::MainWindow::get_main_window_inst(), nullptr);
+}
+
+TEST_F(MainWindowTest, HasExplorerPropertiesAndMessagesAroundTheDocuments)
+{
+    for (const char* const name : {"ProjectExplorer", "PropertyPanel", "MessageLog"}) {
+        const auto* const dock = window->findChild<QDockWidget*>(QLatin1String(name));
+        ASSERT_NE(dock, nullptr) << name;
+        EXPECT_TRUE(dock->isVisible());
+    }
+}
+
+TEST_F(MainWindowTest, ShowsDocumentsAsTabsWithTheirTitles)
+{
+    addDocument("Beam[*]");
+    MDIWindow* const second = addDocument("Plate[*]");
+    ASSERT_EQ(tabs()->count(), 2);
+    EXPECT_EQ(tabs()->tabText(0), "Beam");
+    EXPECT_EQ(window->get_active_mdi_window(), second);
+    second->setWindowTitle(QStringLiteral("Shell[*]"));
+    EXPECT_EQ(tabs()->tabText(1), "Shell");
+    second->setWindowModified(true);
+    EXPECT_EQ(tabs()->tabText(1), "Shell*");
+}
+
+TEST_F(MainWindowTest, BringsADocumentToTheFront)
+{
+    MDIWindow* const first = addDocument("A");
+    MDIWindow* const second = addDocument("B");
+    window->set_active_mdi_window(first);
+    EXPECT_EQ(window->get_active_mdi_window(), first);
+    QTest::mouseClick(tabs(), Qt::LeftButton, {}, tabs()->tabRect(1).center());
+    EXPECT_EQ(window->get_active_mdi_window(), second);
+    window->set_active_mdi_window(nullptr);
+    EXPECT_EQ(window->get_active_mdi_window(), second);
+}
+
+TEST_F(MainWindowTest, ListsDocumentsInTheOrderInWhichTheyCame)
+{
+    MDIWindow* const first = addDocument("A");
+    MDIWindow* const second = addDocument("B");
+    window->set_active_mdi_window(first);
+    EXPECT_EQ(window->get_mdi_windows(), QList<MDIWindow*>({first, second}));
+}
+
+TEST_F(MainWindowTest, RemovesADocumentAtOnce)
+{
+    const QPointer<MDIWindow> document = addDocument("A");
+    window->remove_mdi_window(document);
+    EXPECT_EQ(document, nullptr);
+    EXPECT_EQ(window->get_active_mdi_window(), nullptr);
+    MDIWindow stranger(nullptr, nullptr);
+    window->remove_mdi_window(&stranger);
+    window->remove_mdi_window(nullptr);
+}
+
+TEST_F(MainWindowTest, DestroysADocumentThatTheUserCloses)
+{
+    const QPointer<MDIWindow> document = addDocument("A");
+    window->close_current_window();
+    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_EQ(window->get_active_mdi_window(), nullptr);
+    EXPECT_TRUE(vxtest::waitFor([&document] { return document == nullptr; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return showsWelcome(); }));
+    window->close_current_window();
+}
+
+TEST_F(MainWindowTest, ClosesADocumentByTheButtonOfItsTab)
+{
+    const QPointer<MDIWindow> document = addDocument("A");
+    QWidget* const button = tabs()->tabButton(0, QTabBar::RightSide) != nullptr
+                                ? tabs()->tabButton(0, QTabBar::RightSide)
+                                : tabs()->tabButton(0, QTabBar::LeftSide);
+    ASSERT_NE(button, nullptr);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(vxtest::waitFor([&document] { return document == nullptr; }));
+}
+
+/// A document that refuses to be closed.
+class Stubborn final : public MDIWindow
+{
+public:
+    Stubborn() : MDIWindow(nullptr, nullptr) {}
+
+protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
+TEST_F(MainWindowTest, KeepsADocumentThatRefusesToClose)
+{
+    window->add_mdi_window(new Stubborn);
+    window->close_current_window();
+    window->close_all_windows();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_FALSE(showsWelcome());
+}
+
+TEST_F(MainWindowTest, TakesTheDocumentsOfAProjectWithIt)
+{
+    vxtest::TestProject& project = makeProject();
+    Gui::GuiProject* const guiProject = Gui::GuiApplication::Instance->get_project(&project);
+    const QPointer<MDIWindow> document = addDocument("A", guiProject);
+    MDIWindow* const other = addDocument("B");
+    Obj::Application::instance().close_project(project);
+    EXPECT_EQ(document, nullptr);
+    EXPECT_EQ(window->get_mdi_windows(), QList<MDIWindow*>({other}));
+}
+
+TEST_F(MainWindowTest, DestroysItsDocumentsWhileItCanStillBeAskedFor)
+{
+    const QPointer<MDIWindow> document = addDocument("A");
+    bool asked = false;
+    QObject::connect(document, &QObject::destroyed,
+                     [&asked] { asked = Gui::MainWindow::get_main_window_inst() != nullptr; });
+    window.reset();
+    EXPECT_TRUE(asked);
+}
+
+TEST_F(MainWindowTest, ReportsAWorkbenchThatThereIsNot)
+{
+    const Gui::StdSimModule* const before = window->get_workbench();
+    EXPECT_FALSE(window->set_workbench("No::Such"));
+    EXPECT_THAT(lastMessage(), HasSubstr("There is no workbench \"No::Such\"."));
+    EXPECT_FALSE(window->set_workbench("Test::Object"));
+    EXPECT_EQ(window->get_workbench(), before);
+}
+
+TEST_F(MainWindowTest, BuildsItsBarsAnewWithoutKeepingOldOnes)
+{
+    const int bars = window->findChildren<QToolBar*>().size();
+    const int menus = window->menuBar()->actions().size();
+    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_EQ(window->findChildren<QToolBar*>().size(), bars);
+    EXPECT_EQ(window->menuBar()->actions().size(), menus);
+    EXPECT_EQ(window->menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly).size(), menus);
+}
+
+TEST_F(MainWindowTest, KeepsItsLayoutForTheNextStart)
+{
+    const auto dockOf = [this](const char* name) { return window->findChild<QDockWidget*>(QLatin1String(name)); };
+    const auto barOf = [this](const char* name) { return window->findChild<QToolBar*>(QLatin1String(name)); };
+    window->resize(900, 600);
+    dockOf("PropertyPanel")->hide();
+    barOf("Edit")->hide();
+    window->addDockWidget(Qt::RightDockWidgetArea, dockOf("MessageLog"));
+    window->save_layout();
+
+    window.reset();
+    window = std::make_unique<Gui::MainWindow>(contributions);
+    window->set_workbench("Gui::StdSimModule");
+    window->restore_layout();
+    window->show();
+    EXPECT_EQ(window->size(), QSize(900, 600));
+    EXPECT_FALSE(dockOf("PropertyPanel")->isVisible());
+    EXPECT_TRUE(dockOf("ProjectExplorer")->isVisible());
+    EXPECT_EQ(window->dockWidgetArea(dockOf("MessageLog")), Qt::RightDockWidgetArea);
+    EXPECT_FALSE(barOf("Edit")->isVisible());
+    EXPECT_TRUE(barOf("BottomMessages")->isVisible());
+}
+
+TEST_F(MainWindowTest, StartsAsItIsWithoutALayoutOfBefore)
+{
+    QSettings().clear();
+    const QSize size = window->size();
+    window->restore_layout();
+    EXPECT_EQ(window->size(), size);
+    EXPECT_TRUE(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->isVisible());
+}
+
+TEST_F(MainWindowTest, TellsWorkbenchesWhenTheyBecomeActiveAndNoLongerAre)
+{
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_EQ(vxtest::TestWorkbench::activations, 1);
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 0);
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_EQ(vxtest::TestWorkbench::activations, 2);
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 1);
+    EXPECT_FALSE(window->set_workbench("No::Such"));
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 1);
+    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_EQ(vxtest::TestWorkbench::activations, 2);
+    EXPECT_EQ(vxtest::TestWorkbench::deactivations, 2);
+}
+
+TEST_F(MainWindowTest, ShowsTheDocksThatTheWorkbenchWants)
+{
+    auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
+    auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
+    messages->hide();
+    properties->hide();
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(messages->isVisible());
+    EXPECT_FALSE(properties->isVisible());
+}
+
+TEST_F(MainWindowTest, OffersWhatTheWorkbenchAddsInTheMenuOfItsBars)
+{
+    const auto offers = [this](const char* command) {
+        const std::unique_ptr<QMenu> menu(window->createPopupMenu());
+        return menu->actions().contains(commands().find_command(command)->action());
+    };
+    EXPECT_FALSE(offers("Std_About"));
+    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(offers("Std_About"));
+}
+
+TEST_F(MainWindowTest, ShowsTheMessagesInFrontWhateverTheUserDidWithThem)
+{
+    auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
+    messages->hide();
+    window->show_messages();
+    EXPECT_TRUE(messages->isVisible());
+    auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
+    window->tabifyDockWidget(messages, properties);
+    properties->raise();
+    ASSERT_TRUE(vxtest::waitFor([&] { return messages->visibleRegion().isEmpty(); }));
+    window->show_messages();
+    EXPECT_TRUE(vxtest::waitFor([&] { return !messages->visibleRegion().isEmpty(); }));
+}
+
+TEST_F(MainWindowTest, SelectsAProjectThatTheUserMakes)
+{
+    vxtest::TestProject& other = makeProject("Other");
+    vxtest::TestProject& project = makeProject();
+    addObject(project);
+    Obj::Application::instance().set_current_project(other);
+    vxMsg::MessageProxy::instance().projectCreated(project);
+    EXPECT_THAT(selection().get_projects(), testing::ElementsAre(&project));
+    EXPECT_EQ(selection().get_count(), 1U);
+    EXPECT_EQ(Obj::Application::get_current_project(), &project);
+}
+
+TEST_F(MainWindowTest, SelectsAnObjectThatTheUserMakesOnce)
+{
+    vxtest::TestObject& object = addObject(makeProject());
+    int changes = 0;
+    const auto counting =
+        QObject::connect(&selection(), &Gui::TreeSelectionSingleton::selectionChanged, [&changes] { ++changes; });
+    vxMsg::MessageProxy::instance().objectCreated(object);
+    QObject::disconnect(counting);
+    EXPECT_EQ(changes, 1);
+    EXPECT_TRUE(selection().is_selected(&object, nullptr));
+}
+
+TEST_F(MainWindowTest, StaysOpenWhenClosingIsRefused)
+{
+    const auto refuse =
+        QObject::connect(window.get(), &Gui::MainWindow::closing, [](bool& refused) { refused = true; });
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+    QObject::disconnect(refuse);
+    EXPECT_TRUE(window->close());
+}
+
+} // namespace

@@ -77,6 +77,24 @@ void MaterialBase::copyPropertiesFrom(const MaterialBase& other)
     properties = std::move(copies);
 }
 
+void MaterialBase::copyAllFrom(const MaterialBase& other)
+{
+    MaterialBase copy;
+    copy.copyPropertiesFrom(other);
+    copy.id = other.id;
+    copy.name = other.name;
+    copy.libraryGroup = other.libraryGroup;
+    swap(copy);
+}
+
+void MaterialBase::swap(MaterialBase& other) noexcept
+{
+    std::swap(id, other.id);
+    name.swap(other.name);
+    std::swap(libraryGroup, other.libraryGroup);
+    properties.swap(other.properties);
+}
+
 CMaterial::CMaterial() : CMaterial("CMaterial") {}
 
 CMaterial::CMaterial(const char* materialName)

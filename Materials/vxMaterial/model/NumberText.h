@@ -7,47 +7,47 @@
 #include <string_view>
 #include <vector>
 
-/// Numbers as text, always with a decimal point: the locale that the user or the host has set plays no part. Texts of
-/// any length are read in linear time.
+/// Numbers as text, always with a decimal point, whatever locale the user or the host has set. Texts of any length are
+/// read in linear time.
 namespace vxMat {
 
-/// Reads the number that `text` begins with, as `std::stod` does in the C locale: blanks in front are skipped, the
+/// Returns the number at the start of `text`, as `std::stod` does in the C locale: blanks in front are skipped, the
 /// longest prefix that is a number is read (decimal, hexadecimal, "inf" or "nan", in any case), the rest is ignored:
-/// "7850 kg" gives 7850. Subnormal numbers are read as what they are.
+/// "7850 kg" gives 7850. Unlike std::stod it reads subnormal numbers.
 ///
-/// \throws std::invalid_argument ("invalid stod argument") when the text does not begin with a number
-/// \throws std::out_of_range ("stod argument out of range") when a double cannot hold it: 1e999, 1e-999
+/// \throws std::invalid_argument ("invalid stod argument") if the text does not begin with a number
+/// \throws std::out_of_range ("stod argument out of range") if a double cannot hold it: 1e999, 1e-999
 VXMAT_MODEL_EXPORT double readNumber(std::string_view text);
 
-/// Reads a list of numbers as users type it: every decimal number found in `text` from left to right, whatever stands
-/// between them. "450, 608;679" gives three numbers, "abc" none. A sign belongs to the number that follows it, and an
-/// exponent counts only when it has digits: "1e" is 1.
+/// Returns a list of numbers as users type it: every decimal number in `text` from left to right, whatever is between
+/// them. "450, 608;679" gives three numbers, "abc" none. A sign belongs to the number that follows it, and an exponent
+/// counts only if it has digits: "1e" is 1.
 ///
-/// \throws std::out_of_range ("stod argument out of range") when a double cannot hold one of them
+/// \throws std::out_of_range ("stod argument out of range") if a double cannot hold one of them
 VXMAT_MODEL_EXPORT std::vector<double> readNumberList(std::string_view text);
 
-/// Reads `text` as one decimal number, "inf" or "nan" that fills it wholly, apart from ASCII blanks around it; absent
-/// when it does not. Here a number beyond the range of a double is infinite and one below it is 0, so that a
-/// comparison with a bound still answers rightly.
+/// Returns the number if `text` is one decimal number, "inf" or "nan" and nothing else but ASCII blanks around it;
+/// absent otherwise. A number beyond the range of a double is infinite and one below it is 0, so that a comparison with
+/// a bound is still right.
 VXMAT_MODEL_EXPORT std::optional<double> readWholeNumber(std::string_view text);
 
-/// The shortest decimal text that reads back to exactly the same double: 7850, 0.3, 2e+11, 1.7976931348623157e+308,
+/// Returns the shortest decimal text that reads back to exactly the same double: 7850, 0.3, 2e+11, 1.7976931348623157e+308,
 /// inf, nan.
 VXMAT_MODEL_EXPORT std::string formatNumber(double number);
 
-/// The numbers of a list, each by formatNumber, joined by ", ".
+/// Returns the numbers of a list, each by formatNumber, joined by ", ".
 VXMAT_MODEL_EXPORT std::string formatNumberList(const std::vector<double>& numbers);
 
-/// Fixed notation with six decimals, as C's "%f": 200000000000.000000, 0.300000.
+/// Returns the number in fixed notation with six decimals, as C's "%f": 200000000000.000000, 0.300000.
 VXMAT_MODEL_EXPORT std::string formatFixed(double number);
 
-/// General notation with six significant digits, as C's "%g": 0, 0.1, 500, 1e+06, 2e+11.
+/// Returns the number in general notation with six significant digits, as C's "%g": 0, 0.1, 500, 1e+06, 2e+11.
 VXMAT_MODEL_EXPORT std::string formatGeneral(double number);
 
-/// `text` with the letters a to z turned to A to Z and all else left alone.
+/// Returns `text` with the letters a to z turned to A to Z, and all else as it is.
 VXMAT_MODEL_EXPORT std::string toUpperAscii(std::string_view text);
 
-/// Whether two texts are the same but for the case of the letters a to z.
+/// Whether two texts are the same apart from the case of the letters a to z.
 VXMAT_MODEL_EXPORT bool equalIgnoringAsciiCase(std::string_view one, std::string_view other);
 
 } // namespace vxMat

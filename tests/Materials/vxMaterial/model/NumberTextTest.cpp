@@ -190,7 +190,7 @@ TEST(ReadWholeNumber, TakesOneNumberWithBlanksAround)
     EXPECT_EQ(readWholeNumber("-1e3"), -1000.0);
 }
 
-TEST(ReadWholeNumber, IsAbsentWhenAnythingElseStandsInTheText)
+TEST(ReadWholeNumber, IsAbsentIfAnythingElseIsInTheText)
 {
     for (const char* const text : {"", " ", "7850 kg", "1 2", "abc", "0.3.", "1,5", "0x10", "0x.4", "infinity", "+nan",
                                    "nan(1)", "1e", "e5", "+", "--1"})

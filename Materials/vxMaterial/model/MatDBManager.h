@@ -9,22 +9,26 @@
 
 namespace vxMat {
 
-/// The material database of one material project: the library that the user picks materials from and the catalogue of
-/// quantities. A project holds one; editors read both maps. The user's own materials are not in it.
+/// The material database of one material project: the library from which the user picks materials, and the catalogue of
+/// quantities. A project holds one database; editors read both maps. The materials of the user are not in it.
 ///
-/// Both maps own what they hold. Filling one again destroys what was handed out of it earlier.
+/// Both maps own their entries. Filling a map again destroys its earlier entries, to which pointers may have been given.
 class VXMAT_MODEL_EXPORT MatDBManager
 {
 public:
-    /// Two empty maps; the owner fills them.
+    /// Makes two empty maps; the owner fills them.
     MatDBManager();
     MatDBManager(const MatDBManager&) = delete;
     MatDBManager& operator=(const MatDBManager&) = delete;
     ~MatDBManager();
 
-    /// Replaces `materials` by a new instance of each of the 26 built-in materials.
+    /// Replaces `materials` by a new instance of each of the 26 built-in materials. If memory runs out, the entries made
+    /// so far stay.
+    /// \throws std::bad_alloc
     void initMaterialLibrary();
-    /// Replaces `propertyCatalogue` by a default instance of each of the 36 quantities.
+    /// Replaces `propertyCatalogue` by a default instance of each of the 36 quantities. If memory runs out, the entries
+    /// made so far stay.
+    /// \throws std::bad_alloc
     void initPropertyCatalogue();
 
     void clearMaterials();

@@ -23,4 +23,11 @@ void MDIWindow::remove_viewself()
         mainWindow->remove_mdi_window(this);
 }
 
+void MDIWindow::finishEditing() {}
+
+QUndoStack* MDIWindow::get_undo_stack()
+{
+    return nullptr;
+}
+
 } // namespace Gui

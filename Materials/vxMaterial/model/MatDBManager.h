@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace vxMat {
 
@@ -38,5 +39,13 @@ public:
     std::unordered_map<std::int32_t, std::unique_ptr<MaterialBase>> materials;             ///< by eMaterialType
     std::unordered_map<std::int32_t, std::unique_ptr<MaterialProperty>> propertyCatalogue; ///< by PropertyId
 };
+
+/// Returns the materials of a database, which keeps them, in the order of listings: built-in materials by
+/// getLibraryPosition, and after them others in ascending order of their numbers.
+VXMAT_MODEL_EXPORT std::vector<MaterialBase*> materialsInLibraryOrder(const MatDBManager& database);
+
+/// Returns the properties in the catalogue of a database, which keeps them, in the order of the catalogue
+/// (propertyRecords), and after them others in ascending order of their ids.
+VXMAT_MODEL_EXPORT std::vector<MaterialProperty*> propertiesInCatalogueOrder(const MatDBManager& database);
 
 } // namespace vxMat

@@ -108,7 +108,7 @@ public:
     std::int32_t id = 0;           ///< "mat_id" of a material read from a document; 0 in the library
     std::string name;              ///< what the user sees
     std::int32_t libraryGroup = 0; ///< page of the editor's library; 0 for a material of the user
-    PropertyMap properties;        ///< by slot, unordered; CataloguedMaterial.h walks them in the order of the catalogue
+    PropertyMap properties; ///< by slot, unordered; CataloguedMaterial.h walks them in the order of the catalogue
 };
 
 /// A material of the user: the one of a project object, or one in an exchange document.

@@ -228,11 +228,13 @@ std::string toText(const MaterialFinding& finding)
     // In one pass, since arguments may contain "%1" themselves.
     std::string text;
     for (const char* at = finding.message; *at != '\0'; ++at) {
-        const bool isPlace = at[0] == '%' && at[1] >= '1' && at[1] <= '9';
-        if (isPlace)
-            text += finding.arguments.at(static_cast<std::size_t>(*++at - '1')).text;
-        else
+        const int argument = at[0] == '%' ? at[1] - '1' : -1;
+        if (argument < 0 || argument >= static_cast<int>(finding.arguments.size())) {
             text += *at;
+            continue;
+        }
+        text += finding.arguments[static_cast<std::size_t>(argument)].text;
+        ++at;
     }
     return text;
 }

@@ -465,7 +465,7 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char* context, const char* text, const char*, int) const override
     {
-        if (armed && qstrcmp(context, "vxMat::MaterialProperty") == 0)
+        if (armed && qstrncmp(context, "vxMat::Property", 15) == 0)
             throw std::runtime_error("no memory");
         (void)text;
         return {};

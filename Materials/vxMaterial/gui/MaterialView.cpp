@@ -21,6 +21,7 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 namespace MatGui {
@@ -87,6 +88,16 @@ QListWidget* listAt(std::initializer_list<QListWidget*> lists, int index)
 {
     const bool inside = index >= 0 && static_cast<std::size_t>(index) < lists.size();
     return inside ? lists.begin()[index] : nullptr;
+}
+
+/// The first row that was not among the earlier rows; -1 if there is none.
+int firstNewRow(const std::vector<SheetRow>& before, const std::vector<SheetRow>& now)
+{
+    const auto isNew = [&before](const SheetRow& row) {
+        return std::find(before.begin(), before.end(), row) == before.end();
+    };
+    const auto found = std::find_if(now.begin(), now.end(), isNew);
+    return found != now.end() ? static_cast<int>(found - now.begin()) : -1;
 }
 
 bool isUndo(const QKeyEvent& key)
@@ -220,7 +231,9 @@ EditorState MaterialView::state() const
 void MaterialView::showState(const EditorState& shown)
 {
     withoutStep([&] {
+        const std::vector<SheetRow> before = m_ui->tableView->rows();
         m_ui->tableView->setRows(shown.rows);
+        m_ui->tableView->setCurrentRow(firstNewRow(before, shown.rows));
         checkQuantities([&shown](int id) { return shown.checked.count(id) != 0; });
     });
 }

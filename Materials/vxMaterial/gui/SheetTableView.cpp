@@ -263,14 +263,20 @@ int SheetTableView::findRow(int id) const
     return items.isEmpty() ? -1 : items.front()->row();
 }
 
-void SheetTableView::showRow(int row)
+void SheetTableView::setCurrentRow(int row)
 {
     const QModelIndex value = m_model->index(row, Value);
     if (!value.isValid())
         return;
     selectionModel()->setCurrentIndex(value, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(value);
-    setFocus(Qt::OtherFocusReason);
+}
+
+void SheetTableView::showRow(int row)
+{
+    setCurrentRow(row);
+    if (m_model->index(row, Value).isValid())
+        setFocus(Qt::OtherFocusReason);
 }
 
 QString SheetTableView::cellText(int row, int column) const
@@ -459,10 +465,13 @@ int SheetTableView::sizeHintForRow(int row) const
 
 int SheetTableView::fittingWidth(int column) const
 {
-    // Long texts wrap, so that the descriptions have room too; a word or a number does so only if it takes most of the table.
+    // Long texts wrap, so that the descriptions have room too. A word or a number does not, as long as there is room.
+    const int table = viewport()->width();
     const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
-    const int enough = std::max(viewport()->width() * 3 / 10, longestWord(column));
-    return std::min({whole, enough, viewport()->width() * 6 / 10});
+    const int enough = std::max(table * 3 / 10, longestWord(column));
+    const int others =
+        column == Value ? columnWidth(Name) + horizontalHeader()->sectionSizeHint(Description) : table / 2;
+    return std::min({whole, enough, std::max(table * 3 / 10, table - others)});
 }
 
 void SheetTableView::noteWidth(int column)
@@ -481,6 +490,8 @@ void SheetTableView::fitColumns()
         for (const Column column : {Name, Value})
             if (m_columnsOfUser.count(column) == 0)
                 setColumnWidth(column, fittingWidth(column));
+        const int rest = viewport()->width() - columnWidth(Name) - columnWidth(Value);
+        setColumnWidth(Description, std::max(rest, horizontalHeader()->sectionSizeHint(Description)));
     }
     fitRows();
 }

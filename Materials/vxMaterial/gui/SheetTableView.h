@@ -91,8 +91,10 @@ public:
     void setRows(const std::vector<SheetRow>& rows);
     /// Returns the first row, from 0, with the id; -1 if there is none.
     int findRow(int id) const;
-    /// Makes the value in a row, from 0, the current cell, scrolls to it, selects the row and takes the keyboard. Does
-    /// nothing if there is no such row.
+    /// Makes the value in a row, from 0, the current cell, selects the row and scrolls to it. Does nothing if there is no
+    /// such row.
+    void setCurrentRow(int row);
+    /// Does as setCurrentRow and takes the keyboard.
     void showRow(int row);
 
     /// Returns whether the rows follow the rules of PropertyRules.h; if not, writes the reason to `message`, which is left

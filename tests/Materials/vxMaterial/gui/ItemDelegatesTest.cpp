@@ -12,11 +12,14 @@
 #include <QtTest/qtestmouse.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 namespace {
 
 using namespace MatGui;
 
-/// A table of three rows and columns under one delegate.
+/// A table of three rows and columns with one delegate.
 class Cells
 {
 public:
@@ -259,8 +262,68 @@ TEST(DateDelegate, ShowsNoDateForAnotherFormOfText)
     {
         auto* const editor = cells.open<QDateTimeEdit>(0, 0, text);
         EXPECT_EQ(editor->text(), "") << text;
-        EXPECT_EQ(cells.commit(editor, 0, 0), "") << text;
+        EXPECT_EQ(cells.commit(editor, 0, 0), text);
     }
+}
+
+/// A table with a text that is no date, in the first cell, whose editor can be opened.
+class DateTable
+{
+public:
+    DateTable() : m_cells(m_delegate)
+    {
+        m_cells.model().setData(m_cells.index(0, 0), "tomorrow");
+        m_cells.view().show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_cells.view()));
+        m_cells.view().setCurrentIndex(m_cells.index(0, 0));
+    }
+    QTableView& view() { return m_cells.view(); }
+    QString text() const { return m_cells.index(0, 0).data().toString(); }
+    QModelIndex otherCell() const { return m_cells.index(1, 1); }
+    QDateTimeEdit* open()
+    {
+        QTest::keyClick(&view(), Qt::Key_F2);
+        return qobject_cast<QDateTimeEdit*>(view().indexWidget(m_cells.index(0, 0)));
+    }
+    bool isClosed() { return view().indexWidget(m_cells.index(0, 0)) == nullptr; }
+
+private:
+    DateDelegate m_delegate;
+    Cells m_cells;
+};
+
+TEST(DateDelegate, KeepsATextThatIsNoDateWhenItsEditorIsOpenedAndClosed)
+{
+    DateTable table;
+    const std::vector<std::function<void(QDateTimeEdit*)>> ways{
+        [](QDateTimeEdit* editor) { QTest::keyClick(editor, Qt::Key_Return); },
+        [](QDateTimeEdit* editor) { QTest::keyClick(editor, Qt::Key_Escape); },
+        [](QDateTimeEdit* editor) { QTest::keyClick(editor, Qt::Key_Tab); },
+        [&table](QDateTimeEdit*) {
+            table.view().setFocus();
+            table.view().setCurrentIndex(table.otherCell());
+        },
+    };
+    for (const auto& close : ways) {
+        table.view().setCurrentIndex(table.view().model()->index(0, 0));
+        QDateTimeEdit* const editor = table.open();
+        ASSERT_NE(editor, nullptr);
+        EXPECT_EQ(editor->text().trimmed(), "");
+        close(editor);
+        EXPECT_TRUE(QTest::qWaitFor([&table] { return table.isClosed(); }));
+        EXPECT_EQ(table.text(), "tomorrow");
+    }
+}
+
+TEST(DateDelegate, TakesADateTypedOverATextThatIsNoDate)
+{
+    DateTable table;
+    QDateTimeEdit* const editor = table.open();
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClicks(editor, "20240229");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&table] { return table.isClosed(); }));
+    EXPECT_EQ(table.text(), "2024-02-29");
 }
 
 TEST(DateDelegate, TakesADateTypedWhereNoneWasShown)

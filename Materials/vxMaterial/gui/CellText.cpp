@@ -89,10 +89,10 @@ int cellTextMargin(const QWidget* view)
     return style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1;
 }
 
-QString drawnCellText(const QString& text, const QStyleOptionViewItem& option, const QSize& size)
+QString wrappedForCell(const QString& text, const QStyleOptionViewItem& option)
 {
-    const int width = size.width() - 2 * cellTextMargin(option.widget);
-    return wrapCellText(text, option.font, QSize(width, size.height()));
+    const int width = option.rect.width() - 2 * cellTextMargin(option.widget);
+    return wrapCellText(text, option.font, QSize(width, option.rect.height()));
 }
 
 } // namespace MatGui

@@ -24,7 +24,8 @@ QSize cellTextSize(const QString& text, const QFont& font, int width);
 /// Returns the width that views leave free on each side of a text.
 int cellTextMargin(const QWidget* view);
 
-/// Returns a text as a delegate hands it to the drawing of its base class.
-QString drawnCellText(const QString& text, const QStyleOptionViewItem& option, const QSize& size);
+/// Returns a text wrapped for the cell of `option`. A delegate draws it into the whole rectangle of the cell: the rectangle
+/// that its base class offers is that of the text without line breaks.
+QString wrappedForCell(const QString& text, const QStyleOptionViewItem& option);
 
 } // namespace MatGui

@@ -99,10 +99,10 @@ bool NotEditableDelegate::editorEvent(QEvent* /*event*/, QAbstractItemModel* /*m
     return false;
 }
 
-void NotEditableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+void NotEditableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& /*rect*/,
                                       const QString& text) const
 {
-    QItemDelegate::drawDisplay(painter, option, rect, drawnCellText(text, option, rect.size()));
+    QItemDelegate::drawDisplay(painter, option, option.rect, wrappedForCell(text, option));
 }
 
 ComboDelegate::ComboDelegate(QObject* parent) : QItemDelegate(parent) {}

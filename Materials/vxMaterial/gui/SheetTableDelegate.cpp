@@ -80,9 +80,9 @@ void SheetTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model
 void SheetTableDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                               const QModelIndex& /*index*/) const
 {
-    const int enough = std::max(editor->sizeHint().height(), option.fontMetrics.height() + 8);
-    editor->setGeometry(
-        QRect(option.rect.topLeft(), QSize(option.rect.width(), std::min(option.rect.height(), enough))));
+    const int line = editor->sizeHint().height();
+    const bool isHigh = option.rect.height() >= 2 * line;
+    editor->setGeometry(QRect(option.rect.topLeft(), QSize(option.rect.width(), isHigh ? line : option.rect.height())));
 }
 
 QSize SheetTableDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const
@@ -90,10 +90,10 @@ QSize SheetTableDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const
     return {};
 }
 
-void SheetTableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+void SheetTableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& /*rect*/,
                                      const QString& text) const
 {
-    QItemDelegate::drawDisplay(painter, option, rect, drawnCellText(text, option, rect.size()));
+    QItemDelegate::drawDisplay(painter, option, option.rect, wrappedForCell(text, option));
 }
 
 bool SheetTableDelegate::eventFilter(QObject* object, QEvent* event)

@@ -13,6 +13,7 @@
 #include "vxMaterial/project/MaterialObject.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -24,11 +25,15 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace MatGui {
 
 namespace {
+
+/// Posted to a table whose columns have new widths, before it is painted with them.
+const auto fitEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 /// The value text that is given to the rules. The table reads numbers as QString does, the rules read them differently;
 /// they get the number that QString finds.
@@ -437,7 +442,12 @@ int SheetTableView::sizeHintForColumn(int column) const
     int width = 0;
     for (int row = 0; row < m_model->rowCount(); ++row)
         width = std::max(width, cellTextSize(cellText(row, column), font(), QWIDGETSIZE_MAX).width());
-    return width + 2 * cellTextMargin(this) + (showGrid() ? 1 : 0);
+    return width + cellPadding();
+}
+
+int SheetTableView::cellPadding() const
+{
+    return 2 * cellTextMargin(this) + (showGrid() ? 1 : 0);
 }
 
 int SheetTableView::longestWord(int column) const
@@ -448,7 +458,8 @@ int SheetTableView::longestWord(int column) const
     for (int row = 0; row < m_model->rowCount(); ++row)
         for (const QString& word : cellText(row, column).split(breaks))
             longest = std::max(longest, fontMetrics().horizontalAdvance(word));
-    return longest + 2 * cellTextMargin(this) + (showGrid() ? 1 : 0);
+    // Advances are rounded, and a word that is wider by a fraction would be broken.
+    return longest + 1 + cellPadding();
 }
 
 int SheetTableView::sizeHintForRow(int row) const
@@ -456,7 +467,7 @@ int SheetTableView::sizeHintForRow(int row) const
     const int grid = showGrid() ? 1 : 0;
     int height = fontMetrics().lineSpacing();
     for (const Column column : {Name, Value, Description}) {
-        const int width = columnWidth(column) - 2 * cellTextMargin(this) - grid;
+        const int width = columnWidth(column) - cellPadding();
         height = std::max(height, cellTextSize(cellText(row, column), font(), width).height());
     }
     height = std::min(height, mostLines * fontMetrics().lineSpacing()) + grid;
@@ -476,9 +487,22 @@ int SheetTableView::fittingWidth(int column) const
 
 void SheetTableView::noteWidth(int column)
 {
-    if (m_sized && !m_fittingColumns && (column == Name || column == Value))
+    if (!m_sized || m_fittingColumns)
+        return;
+    if (column == Name || column == Value)
         m_columnsOfUser.insert(column);
-    fitRows();
+    // The header tells of a width before it has it.
+    if (!std::exchange(m_fitIsPosted, true))
+        QCoreApplication::postEvent(this, new QEvent(fitEvent), Qt::HighEventPriority);
+}
+
+bool SheetTableView::event(QEvent* event)
+{
+    if (event->type() != fitEvent)
+        return QTableView::event(event);
+    m_fitIsPosted = false;
+    fitColumns();
+    return true;
 }
 
 void SheetTableView::fitColumns()
@@ -487,11 +511,10 @@ void SheetTableView::fitColumns()
         return;
     {
         const QScopedValueRollback<bool> fitting(m_fittingColumns, true);
+        horizontalHeader()->setMinimumSectionSize(horizontalHeader()->sectionSizeHint(Description));
         for (const Column column : {Name, Value})
             if (m_columnsOfUser.count(column) == 0)
                 setColumnWidth(column, fittingWidth(column));
-        const int rest = viewport()->width() - columnWidth(Name) - columnWidth(Value);
-        setColumnWidth(Description, std::max(rest, horizontalHeader()->sectionSizeHint(Description)));
     }
     fitRows();
 }

@@ -132,6 +132,7 @@ public Q_SLOTS:
     void cellProperties();
 
 protected:
+    bool event(QEvent* event) override;
     int sizeHintForColumn(int column) const override;
     int sizeHintForRow(int row) const override;
     /// F2 and Return edit the value of the current row, whichever of its cells is current.
@@ -158,6 +159,7 @@ private:
     void addRowTo(vxMat::MaterialBase& material, int row) const;
     std::optional<vxMat::RuleFailure> findBrokenRule() const;
     std::optional<UnreadableRow::Reason> unreadableReason(int row) const;
+    int cellPadding() const;
     int longestWord(int column) const;
     int fittingWidth(int column) const;
     void noteWidth(int column);
@@ -182,6 +184,7 @@ private:
     bool m_fittingColumns = false;
     bool m_fittingRows = false;
     bool m_rowsAreOutdated = false;
+    bool m_fitIsPosted = false;
 };
 
 } // namespace MatGui

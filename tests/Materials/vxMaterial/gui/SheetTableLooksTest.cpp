@@ -107,6 +107,28 @@ TEST(SheetTableLooks, HasTheSizesOfItsWidthWhateverItsWidthWasBefore)
     }
 }
 
+TEST(SheetTableLooks, GivesEachRowTheHeightOfItsTextsAlsoIfTheScrollBarAppears)
+{
+    Editor editor;
+    const QAbstractItemView& view = editor.table();
+    const auto rowsFit = [&] {
+        for (int row = 0; row < editor.rowCount(); ++row)
+            if (editor.table().rowHeight(row) != view.sizeHintForRow(row))
+                return false;
+        return true;
+    };
+    QWidget* const frame = editor.view()->parentWidget();
+    for (const QSize size : {QSize(1000, 700), QSize(720, 450), QSize(900, 300)}) {
+        frame->resize(size);
+        for (const char* const material : {"Air", "Nonlinear Structural Steel", "Concrete", "Plastic Example 1"}) {
+            editor.doubleClick(editor.item(material));
+            // The scroll bar comes with the event loop.
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(QTest::qWaitFor(rowsFit)) << material << " at " << size.width();
+        }
+    }
+}
+
 TEST(SheetTableLooks, FitsIntoItsWidthUnlessThatIsVeryNarrow)
 {
     for (const int width : {450, 800, 1200}) {
@@ -193,6 +215,7 @@ TEST(SheetTableLooks, KeepsTheWidthThatTheUserHasChosen)
     QTest::mousePress(header.viewport(), Qt::LeftButton, {}, QPoint(edge, 5));
     QTest::mouseMove(header.viewport(), QPoint(edge + 60, 5));
     QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, QPoint(edge + 60, 5));
+    QCoreApplication::processEvents();
     const int chosen = editor.table().columnWidth(1);
     editor.doubleClick(editor.item("Air"));
     editor.typeValue(4, "1.23456789");

@@ -181,13 +181,12 @@ void Check::checkRules(std::int32_t slot, std::int32_t id, const MaterialPropert
 
 void Check::checkPairs()
 {
-    const MaterialProperty* const stress = m_material.findProperty(Id::PlasticYieldStress);
-    const MaterialProperty* const strain = m_material.findProperty(Id::PlasticStrain);
-    if (stress == nullptr || strain == nullptr || stress->values.size() == strain->values.size())
+    const auto lengths = findUnequalCurve(m_material);
+    if (!lengths)
         return;
     find(Id::PlasticYieldStress, message::unequalLists,
-         {nameArgument(Id::PlasticYieldStress), textArgument(std::to_string(stress->values.size())),
-          nameArgument(Id::PlasticStrain), textArgument(std::to_string(strain->values.size()))});
+         {nameArgument(Id::PlasticYieldStress), textArgument(std::to_string(lengths->yieldStresses)),
+          nameArgument(Id::PlasticStrain), textArgument(std::to_string(lengths->plasticStrains))});
 }
 
 void Check::checkExclusion()

@@ -1,5 +1,6 @@
 #include "vxMaterial/model/PropertyRules.h"
 
+#include "vxMaterial/model/Material.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -159,6 +160,15 @@ const char* CombinationCheck::result() const
     if (!m_poissonsRatio)
         return "Elasticity does not define Poisson's ratio!";
     return nullptr;
+}
+
+std::optional<CurveLengths> findUnequalCurve(const MaterialBase& material)
+{
+    const MaterialProperty* const stresses = material.findProperty(PropertyId::PlasticYieldStress);
+    const MaterialProperty* const strains = material.findProperty(PropertyId::PlasticStrain);
+    if (stresses == nullptr || strains == nullptr || stresses->values.size() == strains->values.size())
+        return std::nullopt;
+    return CurveLengths{stresses->values.size(), strains->values.size()};
 }
 
 } // namespace vxMat

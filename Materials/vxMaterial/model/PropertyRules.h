@@ -13,40 +13,42 @@
 /// The rules by which a row of the property table is accepted: functions of id and value, which the table, the command
 /// line and the tests share.
 ///
-/// A rule that is broken is returned as the text of a message. In a text about a row, "%1" means the number of the row,
-/// which the caller puts in. The texts are sources of translations; their misspellings and blanks must not be changed.
+/// Failures are returned as message texts. In a text about a row, "%1" is replaced by the caller with the number of the
+/// row. The texts are sources of translation and stay as they are, misspellings and blanks included.
 namespace vxMat {
 
-/// Returns whether a word that a user typed means an allowed word. The default ignores the case of a to z; a user interface
-/// passes a function that translates the allowed word first.
+class MaterialBase;
+
+/// Whether the word that a user typed means an allowed word. The default compares without regard to the case of a to z;
+/// a user interface passes a function that translates the allowed word first.
 using WordMatch = std::function<bool(std::string_view allowedWord, std::string_view typed)>;
 
-/// Returns the rule that a number of the quantity `id` breaks; null if it breaks none.
+/// Returns what is wrong with a number of the quantity `id`; null if nothing is, or if there is no rule for it.
 VXMAT_MODEL_EXPORT const char* checkNumber(std::int32_t id, double number);
 
-/// Returns the rule that a word of the quantity `id` breaks; null if it breaks none or the quantity takes no word.
+/// Returns what is wrong with the word of the quantity `id`; null if nothing is, or if the quantity takes no word.
 VXMAT_MODEL_EXPORT const char* checkWord(std::int32_t id, std::string_view word, const WordMatch& matches = {});
 
-/// Returns the rule that a row of the quantity `id` with the value text `valueText` breaks; null if it breaks none. A text
-/// that readWholeNumber does not accept counts as 0.
+/// Returns what is wrong with a row of the quantity `id` with the value `valueText`; null if nothing is. A text that
+/// readWholeNumber does not take counts as 0.
 VXMAT_MODEL_EXPORT const char* checkRow(std::int32_t id, std::string_view valueText, const WordMatch& matches = {});
 
-/// What the rules need of a row of the property table.
+/// The part of a row of the property table that the rules need.
 struct PropertyRow
 {
     std::int32_t id;
     std::string_view valueText;
 };
 
-/// The rule that a table breaks.
+/// What is wrong with a table: a message, and the row for its "%1".
 struct RuleFailure
 {
     const char* message;
-    std::size_t row; ///< whose number "%1" means, from 1; 0 if the message is about the combination of the rows
+    std::size_t row; ///< from 1; 0 if the message is about the combination of the rows
 };
 
-/// Returns the first rule that a table breaks: that of the first row that breaks one, else that of the combination of the
-/// rows. Absent if the table breaks no rule or has no rows.
+/// Returns the first fault of a table: the first row that breaks its rule, or, if none does, the combination of the
+/// rows. Absent if nothing is wrong, as with a table without rows.
 VXMAT_MODEL_EXPORT std::optional<RuleFailure> checkRows(const std::vector<PropertyRow>& rows,
                                                         const WordMatch& matches = {});
 
@@ -63,18 +65,18 @@ struct IgnoredText
 /// (then reading it throws), and for words and switches.
 VXMAT_MODEL_EXPORT std::optional<IgnoredText> findIgnoredText(std::int32_t id, std::string_view valueText);
 
-/// Returns the message of a broken rule without "Row %1: " at its start, for values that are not in a table.
+/// Returns the text of a failure without "Row %1: " in front, for callers that have no rows.
 VXMAT_MODEL_EXPORT std::string_view withoutRowNumber(std::string_view message);
 
-/// Collects which quantities a material has, and checks their combination.
+/// Which of the quantities that depend on each other a material has, for the check after its rows.
 class VXMAT_MODEL_EXPORT CombinationCheck
 {
 public:
     /// Notes that the material has the quantity `id`.
     void note(std::int32_t id);
 
-    /// Returns the rule that the noted quantities break; null if they break none. The only rules are that elasticity needs
-    /// Young's modulus and Poisson's ratio and excludes the hyperelastic models.
+    /// Returns what is wrong with the combination of the quantities noted; null if nothing is. Elasticity needs Young's
+    /// modulus and Poisson's ratio and excludes the hyperelastic models; there are no other rules.
     const char* result() const;
 
 private:
@@ -83,5 +85,15 @@ private:
     bool m_poissonsRatio = false;
     bool m_hyperelastic = false;
 };
+
+/// The lengths of the two lists of a hardening curve, of which each yield stress belongs to one plastic strain.
+struct CurveLengths
+{
+    std::size_t yieldStresses;
+    std::size_t plasticStrains;
+};
+
+/// Returns the lengths if the material holds both lists and they differ; absent otherwise.
+VXMAT_MODEL_EXPORT std::optional<CurveLengths> findUnequalCurve(const MaterialBase& material);
 
 } // namespace vxMat

@@ -2,11 +2,13 @@
 
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -201,6 +203,21 @@ TEST(IgnoredText, OfAListIsTheFirstPartThatIsNotOneNumber)
     EXPECT_EQ(ignored(39, "1 2,,;3;\n-.5e-3,"), "");
     EXPECT_EQ(ignored(39, ""), "");
     EXPECT_EQ(ignored(39, "1, 1e999, x"), "");
+}
+
+TEST(UnequalCurve, IsFoundInAMaterialThatHoldsBothLists)
+{
+    vxMat::CMaterial material;
+    EXPECT_FALSE(vxMat::findUnequalCurve(material));
+    material.setProperty(38, std::make_unique<vxMat::PlasticYieldStress>(std::vector{450.0, 608.0}));
+    EXPECT_FALSE(vxMat::findUnequalCurve(material));
+    material.setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0}));
+    const auto curve = vxMat::findUnequalCurve(material);
+    ASSERT_TRUE(curve);
+    EXPECT_EQ(curve->yieldStresses, 2U);
+    EXPECT_EQ(curve->plasticStrains, 1U);
+    material.setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0, 0.1}));
+    EXPECT_FALSE(vxMat::findUnequalCurve(material));
 }
 
 TEST(WithoutRowNumber, DropsTheRowAndNothingElse)

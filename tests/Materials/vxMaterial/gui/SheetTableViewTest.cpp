@@ -537,7 +537,9 @@ TEST(SheetTableView, TakesOverWhatIsStillBeingTyped)
     ASSERT_TRUE(sheet.show());
     sheet.table.setCurrentIndex(sheet.model().index(1, 2));
     QTest::keyClicks(&sheet.table, "3");
-    QTest::keyClicks(vxtest::openEditor(sheet.table), "5");
+    QLineEdit* const editor = vxtest::openEditor(sheet.table);
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClicks(editor, "5");
     sheet.table.finishEditing();
     EXPECT_EQ(sheet.cell(1, 2), "35");
     EXPECT_EQ(vxtest::openEditor(sheet.table), nullptr);
@@ -599,6 +601,7 @@ TEST(SheetTableDelegate, CommitsAndThenClosesWithoutAHintOnReturnPressed)
     QStandardItemModel model(1, 1);
     QWidget parent;
     auto* const line = qobject_cast<QLineEdit*>(delegate.createEditor(&parent, {}, model.index(0, 0)));
+    ASSERT_NE(line, nullptr);
     QStringList order;
     QObject::connect(&delegate, &QAbstractItemDelegate::commitData, [&](QWidget* editor) {
         EXPECT_EQ(editor, line);
@@ -643,7 +646,9 @@ TEST(SheetTableView, GrowsRowsInWhichALongTextWraps)
     const int before = sheet.table.rowHeight(2);
     sheet.table.setCurrentIndex(sheet.model().index(2, 2));
     QTest::keyClick(&sheet.table, Qt::Key_F2);
-    vxtest::openEditor(sheet.table)->setText(list);
+    QLineEdit* const editor = vxtest::openEditor(sheet.table);
+    ASSERT_NE(editor, nullptr);
+    editor->setText(list);
     sheet.table.finishEditing();
     EXPECT_GT(sheet.table.rowHeight(2), 3 * before);
 }

@@ -182,7 +182,7 @@ TEST(CopyPropertiesFrom, LosesNothingWhenAMaterialIsCopiedOntoItself)
     material.setProperty(4, std::make_unique<vxMat::Density>(7850.0));
     material.copyPropertiesFrom(material);
     ASSERT_EQ(material.properties.size(), 1U);
-    EXPECT_EQ(material.findProperty(4)->value, 7850.0);
+    EXPECT_EQ(material.properties.at(4)->value, 7850.0);
 }
 
 TEST(CopyFrom, ReplacesFivePropertiesByCopiesOfThree)
@@ -240,8 +240,8 @@ TEST(CopyFrom, KeepsTheSlotsOfTheAcousticMaterial)
     ASSERT_EQ(copy.properties.size(), 2U);
     ASSERT_TRUE(copy.hasProperty(4));
     ASSERT_TRUE(copy.hasProperty(401));
-    EXPECT_EQ(copy.findProperty(4)->id, 4);
-    EXPECT_EQ(copy.findProperty(401)->id, 4);
+    EXPECT_EQ(copy.properties.at(4)->id, 4);
+    EXPECT_EQ(copy.properties.at(401)->id, 4);
 }
 
 TEST(CopyAllFrom, CopiesEveryFieldAndKeepsTheSlots)
@@ -258,8 +258,8 @@ TEST(CopyAllFrom, CopiesEveryFieldAndKeepsTheSlots)
     ASSERT_EQ(target.properties.size(), 2U);
     ASSERT_TRUE(target.hasProperty(4));
     ASSERT_TRUE(target.hasProperty(401));
-    EXPECT_EQ(target.findProperty(401)->id, 4);
-    EXPECT_EQ(target.findProperty(401)->value, source.findProperty(401)->value);
+    EXPECT_EQ(target.properties.at(401)->id, 4);
+    EXPECT_EQ(target.properties.at(401)->value, source.properties.at(401)->value);
     EXPECT_NE(target.findProperty(401), source.findProperty(401));
 }
 
@@ -272,7 +272,7 @@ TEST(CopyAllFrom, LosesNothingWhenAMaterialIsCopiedOntoItself)
     EXPECT_EQ(material.id, 3);
     EXPECT_EQ(material.name, "Steel");
     ASSERT_EQ(material.properties.size(), 1U);
-    EXPECT_EQ(material.findProperty(4)->value, 7850.0);
+    EXPECT_EQ(material.properties.at(4)->value, 7850.0);
 }
 
 TEST(Swap, ExchangesEveryFieldWithoutCopyingProperties)
@@ -314,7 +314,7 @@ TEST(CopyTo, TakesIdNameAndPropertiesButNotTheGroup)
     EXPECT_EQ(target.name, "Bronze");
     EXPECT_EQ(target.libraryGroup, 2);
     ASSERT_TRUE(target.hasProperty(4));
-    EXPECT_EQ(target.findProperty(4)->value, 8800.0);
+    EXPECT_EQ(target.properties.at(4)->value, 8800.0);
 }
 
 TEST(CopyTo, TakesTheNameWholeAndAnIdOfZero)
@@ -335,7 +335,7 @@ TEST(CopyTo, LeavesAMaterialThatIsItsOwnTargetUnchanged)
     material.copyTo(&material);
     EXPECT_EQ(material.name, "Bronze");
     ASSERT_TRUE(material.hasProperty(4));
-    EXPECT_EQ(material.findProperty(4)->value, 8800.0);
+    EXPECT_EQ(material.properties.at(4)->value, 8800.0);
 }
 
 } // namespace

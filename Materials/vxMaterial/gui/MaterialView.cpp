@@ -62,12 +62,19 @@ void closeCurrentWindow()
         mainWindow->close_current_window();
 }
 
+/// A value as messages show it, which may be a list of thousands of numbers.
+QString shortened(const QString& value)
+{
+    constexpr int most = 80;
+    return value.size() <= most ? value : value.left(most) + QChar(0x2026);
+}
+
 QString describe(const UnreadableRow& row)
 {
     const QString text = row.reason == UnreadableRow::Reason::NoNumber
                              ? MaterialView::tr(R"(Row %1: The value "%2" of "%3" is not a number!)")
                              : MaterialView::tr(R"(Row %1: The value "%2" of "%3" is out of the range of numbers!)");
-    return text.arg(QString::number(row.number), row.value, row.name);
+    return text.arg(QString::number(row.number), shortened(row.value), row.name);
 }
 
 QString describe(const PartlyReadRow& row)
@@ -75,7 +82,8 @@ QString describe(const PartlyReadRow& row)
     return MaterialView::tr(
                "Row %1: The value \"%2\" of \"%3\" would be read as \"%4\"; \"%5\" would be ignored. Type the "
                "value without it.")
-        .arg(QString::number(row.number), row.value, row.name, row.readAs, row.ignored);
+        .arg(QString::number(row.number), shortened(row.value), row.name, shortened(row.readAs),
+             shortened(row.ignored));
 }
 
 Qt::CheckState checkState(bool checked)
@@ -201,16 +209,21 @@ void MaterialView::watchEdits()
 
 bool MaterialView::edit(const QString& step, const std::function<void()>& action)
 {
-    const bool done = withoutStep(action);
-    return guarded([&] { noteEdit(step); }) && done;
+    return guarded([&] {
+        try {
+            asOneEdit(action);
+        } catch (...) {
+            noteEdit(step);
+            throw;
+        }
+        noteEdit(step);
+    });
 }
 
-bool MaterialView::withoutStep(const std::function<void()>& action)
+void MaterialView::asOneEdit(const std::function<void()>& action)
 {
-    ++m_openEdits;
-    const bool done = guarded(action);
-    --m_openEdits;
-    return done;
+    const QScopedValueRollback<int> open(m_openEdits, m_openEdits + 1);
+    action();
 }
 
 void MaterialView::noteEdit(const QString& step)
@@ -230,7 +243,7 @@ EditorState MaterialView::state() const
 
 void MaterialView::showState(const EditorState& shown)
 {
-    withoutStep([&] {
+    asOneEdit([&] {
         const std::vector<SheetRow> before = m_ui->tableView->rows();
         m_ui->tableView->setRows(shown.rows);
         m_ui->tableView->setCurrentRow(firstNewRow(before, shown.rows));
@@ -384,15 +397,18 @@ bool MaterialView::apply()
 
 bool MaterialView::refuse(const QString& title, const QString& reason, int row)
 {
+    const QPointer<MaterialView> self(this);
     Mat::showCritical(title, reason);
-    m_ui->tableView->showRow(row);
+    // The window may have been closed while the message was open.
+    if (self != nullptr)
+        m_ui->tableView->showRow(row);
     return false;
 }
 
 void MaterialView::showApplied()
 {
     vxMat::CMaterial* const material = m_materialObject->getCMaterial();
-    withoutStep([&] {
+    asOneEdit([&] {
         m_ui->tableView->showMaterial(material);
         updatePropertyList(material);
     });
@@ -437,9 +453,9 @@ void MaterialView::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Delete)
         event->accept();
     else if (isUndo(*event) && keepsFromHost(*event))
-        m_history->stack().undo();
+        guarded([this] { m_history->stack().undo(); });
     else if (isRedo(*event) && keepsFromHost(*event))
-        m_history->stack().redo();
+        guarded([this] { m_history->stack().redo(); });
     else
         MDIWindow::keyPressEvent(event);
 }
@@ -546,7 +562,7 @@ void MaterialView::retranslate()
     m_ui->retranslateUi(centralWidget());
     namePageHeaders(*m_ui->toolBoxLibrary);
     namePageHeaders(*m_ui->toolBoxBuild);
-    withoutStep([this] { m_ui->tableView->retranslate(); });
+    asOneEdit([this] { m_ui->tableView->retranslate(); });
     for (const auto& [item, material] : m_libraryItems)
         if (material != nullptr)
             item->setText(translateMaterialName(material->name));

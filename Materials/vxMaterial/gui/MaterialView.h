@@ -126,7 +126,7 @@ private:
     QListWidget* buildList(int category) const;
 
     bool edit(const QString& step, const std::function<void()>& action);
-    bool withoutStep(const std::function<void()>& action);
+    void asOneEdit(const std::function<void()>& action);
     void noteEdit(const QString& step);
     EditorState state() const;
     void showState(const EditorState& state);

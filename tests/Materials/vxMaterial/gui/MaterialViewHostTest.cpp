@@ -188,6 +188,18 @@ TEST(MaterialViewHost, FindsValuesOfWhichAPartWouldBeIgnored)
                   .arg(editor.rowOf(5) + 1));
 }
 
+TEST(MaterialViewHost, ShortensLongValuesInItsReasons)
+{
+    Editor editor;
+    editor.doubleClick(editor.item("Plastic Example 1"));
+    const QModelIndex value = editor.table().model()->index(editor.rowOf(38), 2);
+    editor.table().model()->setData(value, QString("450, ").repeated(10000) + "x");
+    const auto refusal = editor.view()->findIgnoredText();
+    ASSERT_TRUE(refusal);
+    EXPECT_LT(refusal->reason.size(), 400);
+    EXPECT_TRUE(refusal->reason.contains("450, 450, "));
+}
+
 TEST(MaterialViewHost, AppliesThemAllTheSameIfNobodyObjects)
 {
     Editor editor;

@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>Import</source>
-        <translation>Übernehmen</translation>
+        <translation>In Tabelle laden</translation>
     </message>
     <message>
         <source>Basic</source>
@@ -426,220 +426,180 @@
     </message>
 </context>
 <context>
-    <name>vxMat::MaterialProperty</name>
+    <name>vxMat::PropertyName</name>
     <message>
         <source>Density</source>
-        <comment>name</comment>
         <translation>Dichte</translation>
     </message>
     <message>
         <source>Young&apos;s modulus</source>
-        <comment>name</comment>
         <translation>Elastizitätsmodul</translation>
     </message>
     <message>
         <source>Poisson&apos;s ratio</source>
-        <comment>name</comment>
         <translation>Querkontraktionszahl</translation>
     </message>
     <message>
         <source>Dynamic viscosity</source>
-        <comment>name</comment>
         <translation>Dynamische Viskosität</translation>
     </message>
     <message>
         <source>Initial Shear Modulus Mu</source>
-        <comment>name</comment>
         <translation>Anfangsschubmodul Mu</translation>
     </message>
     <message>
         <source>Incompressibility Parameter D1</source>
-        <comment>name</comment>
         <translation>Inkompressibilitätsparameter D1</translation>
     </message>
     <message>
         <source>Material Constant C10</source>
-        <comment>name</comment>
         <translation>Materialkonstante C10</translation>
     </message>
     <message>
         <source>Material Constant C01</source>
-        <comment>name</comment>
         <translation>Materialkonstante C01</translation>
     </message>
     <message>
         <source>Neo-Hookean</source>
-        <comment>name</comment>
         <translation>Neo-Hooke</translation>
     </message>
     <message>
         <source>Mooney-Rivlin</source>
-        <comment>name</comment>
         <translation>Mooney-Rivlin</translation>
     </message>
     <message>
         <source>Arruda-Boyce</source>
-        <comment>name</comment>
         <translation>Arruda-Boyce</translation>
     </message>
     <message>
         <source>Isotropic elasticity</source>
-        <comment>name</comment>
         <translation>Isotrope Elastizität</translation>
     </message>
     <message>
         <source>Plasticity</source>
-        <comment>name</comment>
         <translation>Plastizität</translation>
     </message>
     <message>
         <source>Yield type</source>
-        <comment>name</comment>
         <translation>Fließbedingung</translation>
     </message>
     <message>
         <source>Plastic viscosity</source>
-        <comment>name</comment>
         <translation>Plastische Viskosität</translation>
     </message>
     <message>
         <source>Internal frictional angle</source>
-        <comment>name</comment>
         <translation>Innerer Reibungswinkel</translation>
     </message>
     <message>
         <source>Hardening factor</source>
-        <comment>name</comment>
         <translation>Verfestigungsfaktor</translation>
     </message>
     <message>
         <source>Hardening type</source>
-        <comment>name</comment>
         <translation>Verfestigungsart</translation>
     </message>
     <message>
         <source>Yield stress</source>
-        <comment>name</comment>
         <translation>Fließspannung</translation>
     </message>
     <message>
         <source>Plastic strain</source>
-        <comment>name</comment>
         <translation>Plastische Dehnung</translation>
     </message>
     <message>
         <source>Initial yield stress</source>
-        <comment>name</comment>
         <translation>Anfangsfließspannung</translation>
     </message>
     <message>
         <source>Visco-elasticity</source>
-        <comment>name</comment>
         <translation>Viskoelastizität</translation>
     </message>
     <message>
         <source>Shear relaxation modulus</source>
-        <comment>name</comment>
         <translation>Schubrelaxationsmodul</translation>
     </message>
     <message>
         <source>Relaxation time</source>
-        <comment>name</comment>
         <translation>Relaxationszeit</translation>
     </message>
     <message>
         <source>Creep</source>
-        <comment>name</comment>
         <translation>Kriechen</translation>
     </message>
     <message>
         <source>Creep Modulus A</source>
-        <comment>name</comment>
         <translation>Kriechkonstante A</translation>
     </message>
     <message>
         <source>Creep Modulus N</source>
-        <comment>name</comment>
         <translation>Kriechkonstante N</translation>
     </message>
     <message>
         <source>Creep Modulus M</source>
-        <comment>name</comment>
         <translation>Kriechkonstante M</translation>
     </message>
     <message>
         <source>Limiting Network Stretch</source>
-        <comment>name</comment>
         <translation>Grenzstreckung des Netzwerks</translation>
     </message>
     <message>
         <source>Material Constant C11</source>
-        <comment>name</comment>
         <translation>Materialkonstante C11</translation>
     </message>
     <message>
         <source>Specific heat</source>
-        <comment>name</comment>
         <translation>Spezifische Wärmekapazität</translation>
     </message>
     <message>
         <source>Thermal conductivity</source>
-        <comment>name</comment>
         <translation>Wärmeleitfähigkeit</translation>
     </message>
     <message>
         <source>Electrical conductivity</source>
-        <comment>name</comment>
         <translation>Elektrische Leitfähigkeit</translation>
     </message>
     <message>
         <source>Relative permittivity</source>
-        <comment>name</comment>
         <translation>Relative Permittivität</translation>
     </message>
     <message>
         <source>Relative permeability</source>
-        <comment>name</comment>
         <translation>Relative Permeabilität</translation>
     </message>
     <message>
         <source>Speed of sound</source>
-        <comment>name</comment>
         <translation>Schallgeschwindigkeit</translation>
     </message>
+</context>
+<context>
+    <name>vxMat::PropertyDescription</name>
     <message>
         <source>Mass density</source>
-        <comment>description</comment>
         <translation>Massendichte</translation>
     </message>
     <message>
         <source>Between [0.001, 0.499]</source>
-        <comment>description</comment>
         <translation>Zwischen 0.001 und 0.499, Grenzen eingeschlossen</translation>
     </message>
     <message>
         <source>Mutual exclusion to &quot;Isotropic elasticity&quot;</source>
-        <comment>description</comment>
         <translation>Schließt „Isotrope Elastizität“ aus</translation>
     </message>
     <message>
         <source>Mutually exclusive to hyper-elastic properties</source>
-        <comment>description</comment>
         <translation>Schließt hyperelastische Eigenschaften aus</translation>
     </message>
     <message>
         <source>Input &quot;Mises&quot;, &quot;Mohr-Coulomb&quot;, or &quot;Drucker-Prager&quot;</source>
-        <comment>description</comment>
         <translation>„Mises“, „Mohr-Coulomb“ oder „Drucker-Prager“ eingeben</translation>
     </message>
     <message>
         <source>Input &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot;, or &quot;Combined&quot;</source>
-        <comment>description</comment>
         <translation>„Bilinear“, „Multilinear“, „Swift“, „Ramberg-Osgood“, „Kinematic“ oder „Combined“ eingeben</translation>
     </message>
     <message>
         <source>Vector; values are separated by comma</source>
-        <comment>description</comment>
         <translation>Liste; die Werte sind durch Kommas getrennt</translation>
     </message>
 </context>

@@ -426,220 +426,180 @@
     </message>
 </context>
 <context>
-    <name>vxMat::MaterialProperty</name>
+    <name>vxMat::PropertyName</name>
     <message>
         <source>Density</source>
-        <comment>name</comment>
         <translation>密度</translation>
     </message>
     <message>
         <source>Young&apos;s modulus</source>
-        <comment>name</comment>
         <translation>杨氏模量</translation>
     </message>
     <message>
         <source>Poisson&apos;s ratio</source>
-        <comment>name</comment>
         <translation>泊松比</translation>
     </message>
     <message>
         <source>Dynamic viscosity</source>
-        <comment>name</comment>
         <translation>动力粘度</translation>
     </message>
     <message>
         <source>Initial Shear Modulus Mu</source>
-        <comment>name</comment>
         <translation>初始剪切模量 Mu</translation>
     </message>
     <message>
         <source>Incompressibility Parameter D1</source>
-        <comment>name</comment>
         <translation>不可压缩参数 D1</translation>
     </message>
     <message>
         <source>Material Constant C10</source>
-        <comment>name</comment>
         <translation>材料常数 C10</translation>
     </message>
     <message>
         <source>Material Constant C01</source>
-        <comment>name</comment>
         <translation>材料常数 C01</translation>
     </message>
     <message>
         <source>Neo-Hookean</source>
-        <comment>name</comment>
         <translation>Neo-Hookean 模型</translation>
     </message>
     <message>
         <source>Mooney-Rivlin</source>
-        <comment>name</comment>
         <translation>Mooney-Rivlin 模型</translation>
     </message>
     <message>
         <source>Arruda-Boyce</source>
-        <comment>name</comment>
         <translation>Arruda-Boyce 模型</translation>
     </message>
     <message>
         <source>Isotropic elasticity</source>
-        <comment>name</comment>
         <translation>各向同性弹性</translation>
     </message>
     <message>
         <source>Plasticity</source>
-        <comment>name</comment>
         <translation>塑性</translation>
     </message>
     <message>
         <source>Yield type</source>
-        <comment>name</comment>
         <translation>屈服类型</translation>
     </message>
     <message>
         <source>Plastic viscosity</source>
-        <comment>name</comment>
         <translation>塑性粘度</translation>
     </message>
     <message>
         <source>Internal frictional angle</source>
-        <comment>name</comment>
         <translation>内摩擦角</translation>
     </message>
     <message>
         <source>Hardening factor</source>
-        <comment>name</comment>
         <translation>硬化系数</translation>
     </message>
     <message>
         <source>Hardening type</source>
-        <comment>name</comment>
         <translation>硬化类型</translation>
     </message>
     <message>
         <source>Yield stress</source>
-        <comment>name</comment>
         <translation>屈服应力</translation>
     </message>
     <message>
         <source>Plastic strain</source>
-        <comment>name</comment>
         <translation>塑性应变</translation>
     </message>
     <message>
         <source>Initial yield stress</source>
-        <comment>name</comment>
         <translation>初始屈服应力</translation>
     </message>
     <message>
         <source>Visco-elasticity</source>
-        <comment>name</comment>
         <translation>粘弹性</translation>
     </message>
     <message>
         <source>Shear relaxation modulus</source>
-        <comment>name</comment>
         <translation>剪切松弛模量</translation>
     </message>
     <message>
         <source>Relaxation time</source>
-        <comment>name</comment>
         <translation>松弛时间</translation>
     </message>
     <message>
         <source>Creep</source>
-        <comment>name</comment>
         <translation>蠕变</translation>
     </message>
     <message>
         <source>Creep Modulus A</source>
-        <comment>name</comment>
         <translation>蠕变模量 A</translation>
     </message>
     <message>
         <source>Creep Modulus N</source>
-        <comment>name</comment>
         <translation>蠕变模量 N</translation>
     </message>
     <message>
         <source>Creep Modulus M</source>
-        <comment>name</comment>
         <translation>蠕变模量 M</translation>
     </message>
     <message>
         <source>Limiting Network Stretch</source>
-        <comment>name</comment>
         <translation>极限网络拉伸</translation>
     </message>
     <message>
         <source>Material Constant C11</source>
-        <comment>name</comment>
         <translation>材料常数 C11</translation>
     </message>
     <message>
         <source>Specific heat</source>
-        <comment>name</comment>
         <translation>比热容</translation>
     </message>
     <message>
         <source>Thermal conductivity</source>
-        <comment>name</comment>
         <translation>导热系数</translation>
     </message>
     <message>
         <source>Electrical conductivity</source>
-        <comment>name</comment>
         <translation>电导率</translation>
     </message>
     <message>
         <source>Relative permittivity</source>
-        <comment>name</comment>
         <translation>相对介电常数</translation>
     </message>
     <message>
         <source>Relative permeability</source>
-        <comment>name</comment>
         <translation>相对磁导率</translation>
     </message>
     <message>
         <source>Speed of sound</source>
-        <comment>name</comment>
         <translation>声速</translation>
     </message>
+</context>
+<context>
+    <name>vxMat::PropertyDescription</name>
     <message>
         <source>Mass density</source>
-        <comment>description</comment>
         <translation>质量密度</translation>
     </message>
     <message>
         <source>Between [0.001, 0.499]</source>
-        <comment>description</comment>
         <translation>介于 [0.001, 0.499] 之间</translation>
     </message>
     <message>
         <source>Mutual exclusion to &quot;Isotropic elasticity&quot;</source>
-        <comment>description</comment>
         <translation>与“各向同性弹性”互斥</translation>
     </message>
     <message>
         <source>Mutually exclusive to hyper-elastic properties</source>
-        <comment>description</comment>
         <translation>与超弹性属性互斥</translation>
     </message>
     <message>
         <source>Input &quot;Mises&quot;, &quot;Mohr-Coulomb&quot;, or &quot;Drucker-Prager&quot;</source>
-        <comment>description</comment>
         <translation>输入 &quot;Mises&quot;, &quot;Mohr-Coulomb&quot; 或 &quot;Drucker-Prager&quot;</translation>
     </message>
     <message>
         <source>Input &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot;, or &quot;Combined&quot;</source>
-        <comment>description</comment>
         <translation>输入 &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot; 或 &quot;Combined&quot;</translation>
     </message>
     <message>
         <source>Vector; values are separated by comma</source>
-        <comment>description</comment>
         <translation>向量；数值以逗号分隔</translation>
     </message>
 </context>

@@ -46,4 +46,11 @@ void MDIWindow::showLabel(const Obj::ProjectObject& object)
     setWindowTitle(QString::fromStdString(object.label.getValue()) + QStringLiteral("[*]"));
 }
 
+void MDIWindow::finishEditing() {}
+
+QUndoStack* MDIWindow::get_undo_stack()
+{
+    return nullptr;
+}
+
 } // namespace Gui

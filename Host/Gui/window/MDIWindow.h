@@ -7,13 +7,26 @@
 #include <QMainWindow>
 #include <boost/signals2/connection.hpp>
 
+class QUndoStack;
+
 namespace Obj {
 class ProjectObject;
 } // namespace Obj
 
 namespace Gui {
 
+/// A reason against applying the edits of a window.
+struct ApplyRefusal
+{
+    QString reason; ///< a translated sentence for the user; empty if there is no reason
+    int row = -1;   ///< the row of the window's table that the user must change, from 0; -1 for none
+};
+
 /// A document window of the main window.
+///
+/// A window in which the user edits an object, and applies the edits by a command of the window, is modified
+/// (QWidget::isWindowModified) as long as it has edits that are not applied. It overrides finishEditing and
+/// get_undo_stack, and emits applying and applied.
 class GUI_EXPORT MDIWindow : public QMainWindow, public BaseView
 {
     Q_OBJECT
@@ -37,6 +50,21 @@ public:
     /// creatable without a project. The window is closed when the object leaves its project. Derived classes override
     /// it to show the object, and call it first.
     virtual void editObject(GuiProject& project, Obj::ProjectObject& object);
+
+    /// Ends an edit in progress, such as text that the user is typing into a cell, and keeps its result. The host calls it
+    /// before it runs a command and before it closes the window. Does nothing here.
+    virtual void finishEditing();
+
+    /// The undo stack of the edits that are not applied; null if the window has none, as here. The window keeps it.
+    virtual QUndoStack* get_undo_stack();
+
+Q_SIGNALS:
+    /// The user applies edits that the window accepts. A slot that sets a reason in `refusal` prevents it: the window shows
+    /// the reason and leads the user to the row.
+    void applying(Gui::ApplyRefusal& refusal);
+    /// The window has written the edits into the object. Slots may complete what was written; the window shows the object
+    /// as it is afterwards.
+    void applied();
 
 private:
     void showLabel(const Obj::ProjectObject& object);

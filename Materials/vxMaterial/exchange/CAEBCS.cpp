@@ -9,17 +9,18 @@ namespace vxCAE {
 
 namespace {
 
-/// Whether a step has as many values as it should, and a flag for each.
 bool isComplete(const StepValue& step)
 {
-    return step.values.size() == step.count && step.imposed.size() >= step.count;
+    return step.values.size() == step.count;
 }
 
+/// The flags of a complete step. Throws std::out_of_range for a step with fewer flags than values, if asserts are off.
 Json::Value flagsOf(const StepValue& step)
 {
+    assert(step.imposed.size() >= step.count);
     Json::Value flags;
     for (std::uint32_t i = 0; i < step.count; ++i)
-        flags.append(Json::Value(static_cast<bool>(step.imposed[i])));
+        flags.append(Json::Value(static_cast<bool>(step.imposed.at(i))));
     return flags;
 }
 
@@ -35,7 +36,7 @@ Json::Value toJson(std::int32_t setId, const StepValue& step)
     return json;
 }
 
-/// The step that `json` describes; null when its arrays differ in length.
+/// The step that `json` describes; null if its arrays differ in length.
 std::unique_ptr<StepValue> toStep(const Json::Value& json)
 {
     const Json::Value& imposed = json["imposed"];

@@ -11,13 +11,13 @@
 
 namespace vxCAE {
 
-/// What a boundary condition imposes in one load step: one value per component, and whether it is imposed.
+/// The values of a boundary condition in one load step, one for each component, and whether each of them is imposed.
 struct VXCAE_EXPORT StepValue
 {
     std::vector<double> values;
-    std::vector<bool> imposed;
-    std::uint32_t count = 0;  ///< how many values there should be; a step with another number is not complete
-    std::int32_t valType = 0; ///< numbered by the solver
+    std::vector<bool> imposed; ///< a flag for each value; fewer flags than values are a programming error
+    std::uint32_t count = 0;   ///< the required number of values; a step with another number is incomplete
+    std::int32_t valType = 0;  ///< numbered by the solver
 };
 
 /// One boundary condition with its values per load step, which it owns.
@@ -29,17 +29,16 @@ public:
     CAEBC(const CAEBC&) = delete;
     CAEBC& operator=(const CAEBC&) = delete;
 
-    /// Sets the condition's members in `json`. Of a step with another number of values than its count, or with fewer
-    /// flags than values, only id and type are written.
+    /// Sets the condition's members in `json`. Of an incomplete step only id and type are written.
     virtual void writeJson(Json::Value& json) const;
-    /// Reads the condition, adding its steps to those held. A step whose arrays differ in length is passed over;
+    /// Reads the condition and adds its steps to those that it has. A step whose arrays differ in length is skipped;
     /// checkDocument reports it.
-    /// \throws Json::LogicError when a value cannot be converted; what was read before stays read
+    /// \throws Json::LogicError if a value cannot be converted; the condition keeps what was read before
     virtual void readJson(const Json::Value& json);
-    // Writing and reading are the first two virtual operations, so the destructor stands behind them.
+    // Writing and reading must be the first two virtual operations, in front of the destructor.
     virtual ~CAEBC();
 
-    /// Stores `step`, not null, under `setId`, destroying an earlier one.
+    /// Stores `step`, which must not be null, under `setId`, and destroys an earlier one.
     void addStep(std::int32_t setId, std::unique_ptr<StepValue> step);
 
     std::uint32_t obj_id = 0;
@@ -62,7 +61,7 @@ public:
     void writeJson(Json::Value& document) const override;
     void readJson(const Json::Value& document) override;
 
-    /// Stores `condition`, not null, under its object id, destroying an earlier one with the same id.
+    /// Stores `condition`, which must not be null, under its object id, and destroys an earlier one with the same id.
     void addCondition(std::unique_ptr<CAEBC> condition);
 
     std::map<std::uint32_t, std::unique_ptr<CAEBC>> conditions; ///< by object id

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-/// The exchange set: the document that passes between the user interface and the solver.
+/// The exchange set: the document that user interface and solver exchange.
 namespace vxCAE {
 
 /// What a document is for: the values of "proj_type".
@@ -33,7 +33,7 @@ struct PhysicsType
     };
 };
 
-/// How it is solved in time: the values of "analysis_type".
+/// The kind of analysis: the values of "analysis_type".
 struct AnalysisType
 {
     enum : std::int32_t
@@ -46,31 +46,31 @@ struct AnalysisType
     };
 };
 
-/// One section of the exchange set. It writes itself into, and reads itself from, one JSON object that all sections
-/// share, each under members of its own.
+/// One section of the exchange set. All sections are written into, and read from, one JSON object, in which each has other
+/// members.
 ///
-/// Keys in documents point into this library, which must stay loaded as long as they live.
+/// The keys in written documents are constants of this library, which must stay loaded as long as the documents exist.
 ///
-/// Readers do not ask whether a member is there: a missing one reads as 0, 0.0, false or the empty text, a missing
-/// array as one without elements. They leave the document as it is.
+/// A missing member is read as 0, 0.0, false or the empty text, a missing array as an empty one. Reading does not change
+/// the document.
 class VXCAE_EXPORT CAEBase
 {
 public:
     CAEBase() = default;
     virtual ~CAEBase();
 
-    /// The name of the section's class, "CAEMaterials".
+    /// Returns the name of the section's class, "CAEMaterials".
     virtual const char* typeName() const = 0;
 
     /// Adds the section to `document`, an object or null. Members of other sections stay.
-    /// \throws Json::LogicError when `document` is of another kind; std::out_of_range as CAESolve::writeJson says.
-    /// The document keeps what was written before.
+    /// \throws Json::LogicError if `document` is of another kind; std::out_of_range as CAESolve::writeJson says. The
+    /// document keeps what was written before.
     virtual void writeJson(Json::Value& document) const = 0;
 
-    /// Fills the section from `document`. A section that is one object of the document is read whole or not at all;
-    /// one that is a list keeps the elements before the one that cannot be read.
-    /// \throws Json::LogicError when a value cannot be converted: a text where a number belongs, a negative number
-    /// where an unsigned one does, an array where an object does; Json::RuntimeError as CAESolve::readJson says
+    /// Fills the section from `document`. If a value cannot be read, a section that is one object of the document stays
+    /// unchanged, and a section that is a list keeps the elements before that value.
+    /// \throws Json::LogicError if a value cannot be converted: a text in place of a number, a negative number in place of
+    /// an unsigned one, an array in place of an object; Json::RuntimeError as CAESolve::readJson says
     virtual void readJson(const Json::Value& document) = 0;
 
 protected:

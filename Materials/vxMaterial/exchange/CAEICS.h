@@ -10,8 +10,8 @@
 
 namespace vxCAE {
 
-/// One initial condition: a value of a type at the start of the analysis. Unlike the sections it is written into and
-/// read from an object of its own.
+/// One initial condition: a value of a type at the start of the analysis. Unlike a section, it is written into and read
+/// from an object of which it is the only content.
 class VXCAE_EXPORT CAEIC : public CAEBase
 {
 public:
@@ -38,7 +38,7 @@ public:
     void writeJson(Json::Value& document) const override;
     void readJson(const Json::Value& document) override;
 
-    /// Stores `condition`, not null, under its object id, destroying an earlier one with the same id.
+    /// Stores `condition`, which must not be null, under its object id, and destroys an earlier one with the same id.
     void addCondition(std::unique_ptr<CAEIC> condition);
 
     std::map<std::uint32_t, std::unique_ptr<CAEIC>> conditions; ///< by object id

@@ -2,6 +2,8 @@
 
 #include "MemberTable.h"
 
+#include "vxMaterial/model/CataloguedMaterial.h"
+
 #include <cassert>
 #include <utility>
 
@@ -9,10 +11,10 @@ namespace vxCAE {
 
 namespace {
 
-Json::Value toJson(std::int32_t key, const vxMat::MaterialProperty& property)
+Json::Value toJson(std::int32_t slot, const vxMat::MaterialProperty& property)
 {
     Json::Value json(Json::objectValue);
-    json[Json::StaticString("prop_type")] = key;
+    json[Json::StaticString("prop_type")] = slot;
     json[Json::StaticString("prop_key")] = property.key;
     json[Json::StaticString("prop_name")] = property.name;
     json[Json::StaticString("prop_value")] = property.value;
@@ -22,8 +24,8 @@ Json::Value toJson(std::int32_t key, const vxMat::MaterialProperty& property)
 Json::Value toJson(std::uint32_t number, const vxMat::CMaterial& material)
 {
     Json::Value properties;
-    for (const auto& [key, property] : material.properties)
-        properties.append(toJson(key, *property));
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material))
+        properties.append(toJson(slot, *property));
 
     Json::Value json(Json::objectValue);
     json[Json::StaticString("mat_id")] = number;
@@ -73,7 +75,7 @@ void CAEMaterials::readJson(const Json::Value& document)
 void CAEMaterials::addMaterial(std::uint32_t number, std::unique_ptr<MaterialEntry> entry)
 {
     assert(entry != nullptr);
-    // The hint makes materials that come in ascending order, as documents have them, constant time each.
+    // With the hint, materials in ascending order, which documents have, take constant time each.
     entries.insert_or_assign(entries.end(), number, std::move(entry));
 }
 

@@ -10,17 +10,17 @@
 
 namespace vxCAE {
 
-/// Which mesh the solver loads and what it holds. A field bears the name of its JSON member. Mesh sources and element
-/// types are numbered by the solver and carried unchanged.
+/// The mesh that the solver loads, and its contents. A field has the name of its JSON member. The solver numbers mesh
+/// sources and element types; the section carries them unchanged.
 class VXCAE_EXPORT CAEMesh : public CAEBase
 {
 public:
     const char* typeName() const override;
     void writeJson(Json::Value& document) const override;
-    /// Adds the mesh parts of the document to those held.
+    /// Adds the mesh parts in the document to those of the section.
     void readJson(const Json::Value& document) override;
 
-    /// The files of the mesh parts by ascending id: "sm2.vxmsh", "sm10.vxmsh".
+    /// Returns the names of the files of the mesh parts, by ascending id: "sm2.vxmsh", "sm10.vxmsh".
     std::vector<std::string> getMeshFileNames() const;
 
     std::uint32_t obj_id = 0;          ///< the mesh object in the host's project

@@ -8,8 +8,8 @@
 
 namespace vxCAE {
 
-/// Where and how the solver writes results and logs. A field bears the name of its JSON member. Result formats are
-/// numbered by the solver and carried unchanged.
+/// Where and how the solver writes results and logs. A field has the name of its JSON member. The solver numbers the result
+/// formats; the section carries them unchanged.
 class VXCAE_EXPORT CAEResult : public CAEBase
 {
 public:

@@ -17,10 +17,10 @@
 
 namespace vxCAE {
 
-/// The project kind that a document says it is for in "proj_type"; 0 when it says none. Nothing is thrown.
+/// Returns the project kind in the member "proj_type" of a document; 0 if there is none. Throws nothing.
 VXCAE_EXPORT std::uint32_t readProjectKind(const Json::Value& document);
 
-/// The numbers by which CAESet::getSection knows the sections; 2 is not taken.
+/// The numbers of the sections in CAESet::getSection; 2 is unused.
 struct SectionIndex
 {
     enum : int
@@ -36,8 +36,8 @@ struct SectionIndex
     };
 };
 
-/// The exchange set of one project: all sections, of which an analysis project exchanges all but the materials and a
-/// material project the materials alone. It owns its sections, and passes with them to the exchange-set manager.
+/// The exchange set of one project, with all sections, which it owns. An analysis project exchanges all of them except the
+/// materials, a material project the materials only. The exchange-set manager takes ownership of the whole set.
 ///
 ///     vxCAE::CAESet set(projectId, vxCAE::ProjectKind::Material);
 ///     set.materials->addMaterial(number, std::move(entry));
@@ -46,25 +46,25 @@ struct SectionIndex
 class VXCAE_EXPORT CAESet
 {
 public:
-    /// A set with all eight sections as they are by default.
+    /// Makes a set with all eight sections, which have their defaults.
     CAESet(std::uint32_t project, std::uint32_t kind);
     CAESet(const CAESet&) = delete;
     CAESet& operator=(const CAESet&) = delete;
     virtual ~CAESet();
 
-    /// A section by its SectionIndex, which the set keeps; null for every other number.
+    /// Returns a section by its SectionIndex; null for every other number. The set keeps the section.
     CAEBase* getSection(int index) const;
 
-    /// Writes "proj_type" and the sections that the project kind exchanges into `document`, an object or null; for an
-    /// unknown kind nothing.
+    /// Writes "proj_type" and the sections that the project kind exchanges into `document`, an object or null. Writes
+    /// nothing for an unknown kind.
     /// \throws Json::LogicError, std::out_of_range as the sections do; the document keeps what was written before
     void writeJson(Json::Value& document) const;
 
     /// Reads the sections that the set's own project kind exchanges, whatever "proj_type" the document has.
-    /// \throws Json::LogicError, Json::RuntimeError as the sections do; those read before stay read
+    /// \throws Json::LogicError, Json::RuntimeError as the sections do; the sections read before keep their new values
     void readJson(const Json::Value& document);
 
-    // What the system section says; it must be there.
+    // From the system section, which must exist.
     struct PhysicsAndAnalysis
     {
         std::int32_t physics;
@@ -76,7 +76,7 @@ public:
     std::int32_t getDimension() const;
     bool getCalculateStress() const;
 
-    // What a section says that may be missing; then the arguments stay as they are.
+    // From sections that may be missing; then the arguments are unchanged.
     void getModalSettings(std::uint32_t& eigenvalues, double& tolerance, std::uint32_t& iterationLimit) const;
     void getSpectrumModes(std::uint32_t& first, std::uint32_t& last) const;
     void getLogFlags(bool& timeLog, bool& iterationLog) const;
@@ -89,25 +89,25 @@ public:
     std::vector<std::int32_t> getSubsteps() const;
     std::vector<double> getTimeIncrements() const;
 
-    /// "HEAT" for a thermal analysis, else "Unknown".
+    /// Returns "HEAT" for a thermal analysis, else "Unknown".
     const char* getThermalLabel() const;
-    /// The solver's word for the analysis: "STATIC" or "NLSTATIC", "Dynamic" (also of a spectrum response), "Eigen",
-    /// or "Unknown". A static analysis is nonlinear by contact in the system or between domains, by large
-    /// deformation, or by a domain's material.
+    /// Returns the solver's word for the analysis: "STATIC" or "NLSTATIC", "Dynamic" (also for a spectrum response),
+    /// "Eigen", or "Unknown". A static analysis is nonlinear because of contact in the system or between domains, large
+    /// deformation, or the material of a domain.
     const char* getAnalysisLabel() const;
-    /// 11 for time integration "Explicit", spelled exactly so; else 1.
+    /// Returns 11 if the time integration is "Explicit", in this spelling; else 1.
     int getSolverFamily() const;
-    /// Whether contact in the system, large deformation or a domain's material makes the analysis nonlinear.
+    /// Returns whether contact in the system, large deformation or the material of a domain makes the analysis nonlinear.
     bool isNonlinear() const;
-    /// Whether a domain has a creep or viscous material; true without a system section.
+    /// Returns whether a domain has a creep or viscous material; true without a system section.
     bool hasCreepOrViscousMaterial() const;
-    /// Whether there are contacts between domains; true without a system section.
+    /// Returns whether there are contacts between domains; true without a system section.
     bool hasContacts() const;
-    /// CAESolve::getLoadStep; without a solve section as for a step that the table does not have.
+    /// Does as CAESolve::getLoadStep; without a solve section as for a step that the table does not have.
     void getLoadStep(std::uint32_t step, std::int32_t& substeps, double& absoluteTolerance,
                      std::int32_t& iterationLimit) const;
-    /// The names under which mesh and solution are kept: "p3o12" for object 12 of project 3; "error" when the section
-    /// that knows the object is missing.
+    /// Return the names of mesh and solution: "p3o12" for object 12 of project 3; "error" if the section with the number of
+    /// the object is missing.
     std::string getMeshTag() const;
     std::string getSolutionTag() const;
 

@@ -9,24 +9,24 @@
 
 namespace vxCAE {
 
-/// How an analysis is solved: solver, limits, and the load-step table. A field bears the name of its JSON member.
+/// How an analysis is solved: solver, limits, and the load-step table. A field has the name of its JSON member.
 ///
-/// The seven lists form the table: element i of each belongs to load step i + 1. `n_load_steps` bounds every walk
-/// over them, and each list must hold at least that many elements.
+/// The seven lists form the table: element i of each belongs to load step i + 1. `n_load_steps` is the number of steps, and
+/// each list must have at least as many elements.
 class VXCAE_EXPORT CAESolve : public CAEBase
 {
 public:
     const char* typeName() const override;
-    /// \throws std::out_of_range when a list is shorter than `n_load_steps`; the document is unchanged
+    /// \throws std::out_of_range if a list is shorter than `n_load_steps`; the document is unchanged
     void writeJson(Json::Value& document) const override;
-    /// Elements that the arrays lack are read as 0 or false; a column that is not an array is refused.
-    /// \throws Json::RuntimeError when "n_load_steps" asks for a million steps more than the longest array has, which
-    /// no analysis has and no memory holds
+    /// Reads elements that the arrays lack as 0 or false; refuses a column that is not an array.
+    /// \throws Json::RuntimeError if "n_load_steps" exceeds the length of the longest array by more than a million: no
+    /// analysis has so many steps without values, and their lists could exhaust the memory
     void readJson(const Json::Value& document) override;
 
-    /// The settings of load step `step`, counted from 1. Sets the first two to 0 first; a step that the table does
-    /// not have sets nothing more.
-    /// \throws std::out_of_range when a list is shorter than `n_load_steps`
+    /// Writes the settings of load step `step`, from 1, to the arguments. Sets the first two to 0 and leaves the third
+    /// unchanged if the table does not have the step.
+    /// \throws std::out_of_range if a list is shorter than `n_load_steps`
     void getLoadStep(std::uint32_t step, std::int32_t& substeps, double& absoluteTolerance,
                      std::int32_t& iterationLimit) const;
 

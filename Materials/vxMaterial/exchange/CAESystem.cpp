@@ -17,8 +17,8 @@ const char* CAESystem::typeName() const
 
 void CAESystem::writeJson(Json::Value& document) const
 {
-    // The modal and spectrum members stay out. The format would add them for an analysis type that equals a word, and
-    // the type is a number.
+    // The modal and spectrum members are never written: the format adds them if the analysis type equals a word, but the
+    // type is a number.
     Json::Value system(Json::objectValue);
     detail::writeMembers(*this, detail::systemMembers, system);
     document["system"] = std::move(system);
@@ -41,7 +41,7 @@ void CAESystem::setPhysicsType(std::int32_t type)
     physics_type = type;
 }
 
-void CAESystem::setPhysicsType(std::string word)
+void CAESystem::setPhysicsType(std::string& word)
 {
     static constexpr std::array<std::pair<const char*, std::int32_t>, 5> words{{
         {"STRUCTURAL", PhysicsType::Structural},

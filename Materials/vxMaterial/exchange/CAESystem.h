@@ -8,11 +8,11 @@
 
 namespace vxCAE {
 
-/// What an analysis solves. A field bears the name of its JSON member. The numbers of solver form and dimension mean
-/// what the solver makes of them; they are carried unchanged.
+/// What an analysis solves. A field has the name of its JSON member. The solver defines the numbers of solver form and
+/// dimension; the section carries them unchanged.
 ///
-/// Two members travel one way only. The deform type is written as "deform_type" and read as "defrom_type". The
-/// settings of modal and spectrum analyses are read but never written. The format has it so.
+/// The format has two asymmetries: the deform type is written as "deform_type" and read as "defrom_type", and the settings
+/// of modal and spectrum analyses are read but never written.
 class VXCAE_EXPORT CAESystem : public CAEBase
 {
 public:
@@ -21,14 +21,14 @@ public:
     void readJson(const Json::Value& document) override;
 
     void setPhysicsType(std::int32_t type);
-    /// Sets the physics by its word, "structural" or "THERMAL"; the case does not matter. An unknown word changes
-    /// nothing.
-    void setPhysicsType(std::string word);
+    /// Turns the letters of `word` to upper case, and sets the physics if the result is one of "STRUCTURAL", "THERMAL",
+    /// "ELECTROMAGNETIC", "ACOUSTIC" and "FLUIDS"; leaves it unchanged otherwise.
+    void setPhysicsType(std::string& word);
     void setAnalysisType(std::int32_t type);
     void setPhysicsAndAnalysis(std::int32_t physics, std::int32_t analysis);
     std::int32_t getDimension() const;
     void setDimension(std::int32_t dimension);
-    /// Whether the system alone makes the analysis nonlinear: by contact or large deformation.
+    /// Returns whether the system makes the analysis nonlinear, by contact or large deformation.
     bool isNonlinear() const;
 
     std::int32_t physics_type = PhysicsType::NotSet;

@@ -6,10 +6,27 @@ namespace MatGui {
 
 namespace {
 
-QString translate(const char* context, const std::string& text, const char* comment)
+const char* contextOf(PropertyText kind)
 {
-    const QString translated = QCoreApplication::translate(context, text.c_str(), comment);
-    // The translator ends texts at a zero byte, which must not cut one that it does not know.
+    switch (kind) {
+    case PropertyText::Name:
+        return "vxMat::PropertyName";
+    case PropertyText::Value:
+        return "vxMat::PropertyValue";
+    case PropertyText::Description:
+        return "vxMat::PropertyDescription";
+    case PropertyText::Key:
+        return "vxMat::PropertyKey";
+    case PropertyText::Unit:
+        return "vxMat::PropertyUnit";
+    }
+    return "";
+}
+
+QString translate(const char* context, const std::string& text)
+{
+    const QString translated = QCoreApplication::translate(context, text.c_str());
+    // The translator ends a text at a zero byte. A text without a translation must stay whole.
     return translated == QString::fromUtf8(text.c_str()) ? QString::fromStdString(text) : translated;
 }
 
@@ -17,12 +34,12 @@ QString translate(const char* context, const std::string& text, const char* comm
 
 QString translateMaterialName(const std::string& name)
 {
-    return translate("vxMat::MaterialBase", name, nullptr);
+    return translate("vxMat::MaterialBase", name);
 }
 
-QString translatePropertyText(const std::string& text, const char* kind)
+QString translatePropertyText(const std::string& text, PropertyText kind)
 {
-    return translate("vxMat::MaterialProperty", text, kind);
+    return translate(contextOf(kind), text);
 }
 
 } // namespace MatGui

@@ -4,27 +4,29 @@
 
 #include <string>
 
-/// The texts of library and catalogue in the user's language.
+/// The texts of library and catalogue in the language of the user.
 ///
-/// Material names have the translation context "vxMat::MaterialBase"; texts of a property have the context
-/// "vxMat::MaterialProperty" and what they are (Text) as their comment, so that a name and a key that read alike are
-/// two entries. A translation of keys, units or values would end up in documents and in solver cards, where they must
-/// be understood: the translations that come with the program have names and descriptions only.
+/// Each kind of text has a translation context of its own. A comment cannot tell apart a name and a key of the same
+/// spelling ("Plasticity", "Creep"): compiled translation files drop a comment that no other entry of the same text needs,
+/// and the translator then finds the translation of the name for the key as well. A translated key, unit or value would
+/// reach documents and solver cards; the translations of the program therefore contain names and descriptions only.
 namespace MatGui {
 
-/// What a text of a property is; the comment of its translation.
-namespace Text {
-constexpr const char* name = "name";
-constexpr const char* value = "value";
-constexpr const char* description = "description";
-constexpr const char* key = "key";
-constexpr const char* unit = "unit";
-} // namespace Text
+/// What a text of a property is. Each has the translation context "vxMat::Property" with the name of the enumerator:
+/// "vxMat::PropertyName".
+enum class PropertyText
+{
+    Name,
+    Value,
+    Description,
+    Key,
+    Unit,
+};
 
-/// The name of a material, such as "Structural Steel", as the user reads it.
+/// Returns the name of a material, such as "Structural Steel", as the user reads it. The context is "vxMat::MaterialBase".
 QString translateMaterialName(const std::string& name);
 
-/// A text of a property as the user reads it; `kind` is one of Text.
-QString translatePropertyText(const std::string& text, const char* kind);
+/// Returns a text of a property as the user reads it.
+QString translatePropertyText(const std::string& text, PropertyText kind);
 
 } // namespace MatGui

@@ -31,7 +31,7 @@ namespace {
 
 constexpr auto materialProjectTag = static_cast<std::uint32_t>(Mat::materialProjectTag);
 
-/// The fields of one command; absent ones keep the host's default.
+/// The fields of one command. Fields that are absent keep the host's default.
 struct Row
 {
     const char* name = nullptr;
@@ -68,7 +68,7 @@ constexpr Row rows[] = {
      "norvex_exportmaterial", "AppMaterial", "AppMaterial", std::nullopt, std::nullopt},
 };
 
-/// Objects of these classes belong to the frame of an analysis and are never deleted one by one.
+/// Objects of these classes are parts of every analysis, and are not deleted by the command.
 constexpr std::array<std::string_view, 5> protectedClasses = {
     "Fem::FemGeometryGroup", "Fem::FemMeshGroup", "Fem::FemStudy", "Fem::FemSolution", "Fem::FemConnections"};
 
@@ -78,7 +78,7 @@ bool isProtected(const Obj::ProjectObject& object)
            protectedClasses.end();
 }
 
-/// The first material project; null when there is none.
+/// The first material project; null if there is none.
 Obj::Project* findMaterialProject()
 {
     const std::vector<Obj::Project*> projects = Obj::Application::get_projects(materialProjectTag);
@@ -109,7 +109,7 @@ bool mayDelete(const std::vector<Gui::CSelectionType>& entries)
     return !asks || askAboutDependencies(Gui::MainWindow::get_main_window_inst());
 }
 
-/// Keeps the main window from repainting while it lives.
+/// Switches off the repainting of the main window as long as the object exists.
 class UpdatesOff
 {
 public:
@@ -136,7 +136,7 @@ void deleteEntries(const std::vector<Gui::CSelectionType>& entries)
 {
     const UpdatesOff quiet;
     for (const Gui::CSelectionType& entry : entries) {
-        // Deleting one entry may have taken another with it, or the whole project.
+        // The deletion of one entry may have deleted another, or closed the project.
         Obj::ProjectObject* const object = entry.get_object();
         if (object == nullptr || isProtected(*object))
             continue;
@@ -153,11 +153,11 @@ bool isOpen(std::uint32_t projectId)
     return Obj::Application::instance().get_project(projectId) != nullptr;
 }
 
-/// The project that is to be exported, the only one of materials; null when there is none or several.
+/// The only material project; null if there is none or more than one.
 Mat::DocumentMaterial* findProjectToExport()
 {
     const std::vector<Obj::Project*> projects = Obj::Application::get_projects(materialProjectTag);
-    // Other modules may use the tag for projects of their own.
+    // Projects of other modules may have the same tag.
     const bool isOne =
         projects.size() == 1 && projects.front()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId());
     return isOne ? static_cast<Mat::DocumentMaterial*>(projects.front()) : nullptr;
@@ -261,7 +261,7 @@ void MatCmdDelete::activated(int)
     for (const Obj::Project* const project : Obj::Application::get_projects())
         projectIds.push_back(project->getProjectId());
     for (const std::uint32_t projectId : projectIds) {
-        // Projects may go while the user is asked about another one, or about this one.
+        // The project may be closed while the user answers a question about it or about another one.
         const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
         if (project == nullptr)
             continue;
@@ -319,7 +319,7 @@ void CmdMatImport::activated(int)
                                          translated("All (*)"), &selectedFilter);
     if (path.isEmpty())
         return;
-    // The project may have gone while the user was asked.
+    // The project may have been closed while the dialog was open.
     Obj::Project* const project = Obj::Application::get_current_project();
     if (project == nullptr)
         return;
@@ -357,7 +357,7 @@ void CmdMatExport::activated(int)
         Gui::MainWindow::get_main_window_inst(), translated("Export materials"), QString(), filter, &selectedFilter);
     if (path.isEmpty())
         return;
-    // It may have gone while the user was asked.
+    // The project may have been closed while the dialog was open.
     if (Obj::Project* const project = Obj::Application::instance().get_project(projectId))
         static_cast<Mat::DocumentMaterial*>(project)->exportToFile(path.toStdString(), '\t', '"', '\\');
 }

@@ -5,7 +5,7 @@
 
 namespace MatGui {
 
-/// What all commands of the module have in common: their fields stand in one table, by command name.
+/// The base class of the module's commands. The fields of all commands are in one table, by command name.
 class VXMATERIAL_EXPORT MaterialCommand : public Gui::Command
 {
 public:
@@ -13,7 +13,7 @@ public:
     ~MaterialCommand() override;
 };
 
-/// "Mat_NewDoc": makes a material project, unless there is one.
+/// "Mat_NewDoc": makes a material project, unless one is open.
 class VXMATERIAL_EXPORT MatCmdNewDoc final : public MaterialCommand
 {
 public:
@@ -23,7 +23,7 @@ public:
     void activated(int index) override;
 };
 
-/// "Mat_DelDoc": closes the material project that is selected in the tree; with several selected nothing.
+/// "Mat_DelDoc": closes the material project that is selected in the tree. Does nothing unless exactly one is selected.
 class VXMATERIAL_EXPORT MatCmdDelDoc final : public MaterialCommand
 {
 public:
@@ -44,7 +44,7 @@ public:
     bool is_applicable() override;
 };
 
-/// "Mat_Delete": deletes the selected objects of all projects, after a question where others depend on them.
+/// "Mat_Delete": deletes the selected objects of all projects, after a question if other objects depend on them.
 class VXMATERIAL_EXPORT MatCmdDelete final : public MaterialCommand
 {
 public:
@@ -66,8 +66,7 @@ public:
     bool is_applicable() override;
 };
 
-/// "Mat_Import": asks for a file and adds an empty material to the current project. Files of single materials are not
-/// read yet, so whatever the file holds stays there.
+/// "Mat_Import": asks for a file and adds an empty material to the current project. The file is not read.
 class VXMATERIAL_EXPORT CmdMatImport final : public MaterialCommand
 {
 public:
@@ -78,7 +77,7 @@ public:
     bool is_applicable() override;
 };
 
-/// "Mat_Export": asks for a file and writes the material project to it, unchecked.
+/// "Mat_Export": asks for a file and writes the material project to it, without checking the materials.
 class VXMATERIAL_EXPORT CmdMatExport final : public MaterialCommand
 {
 public:

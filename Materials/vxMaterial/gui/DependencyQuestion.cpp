@@ -9,7 +9,7 @@ namespace MatGui {
 
 namespace {
 
-/// A message box takes its only button for the answer to Escape and to its close button; here that would delete.
+/// A message box takes Escape and its close button for its only button, which would delete the objects here.
 class Question final : public QMessageBox
 {
 public:
@@ -39,8 +39,8 @@ bool askAboutDependencies(QWidget* parent)
                       QCoreApplication::translate("Mat_Delete", "This object is linked to other objects thus these "
                                                                 "objects might be broken.\nDo you want to continue?"),
                       QMessageBox::Yes, parent);
-    // No is named as the default without being offered, so no button is marked as the default. Return confirms all the
-    // same: a dialog gives it to the button that has the keyboard, and there is only Yes.
+    // The default button is No, which is not offered, so that no button is marked as the default. Return still means Yes: a
+    // dialog gives it to the button that has the keyboard.
     question.setDefaultButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }

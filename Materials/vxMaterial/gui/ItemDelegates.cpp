@@ -1,7 +1,10 @@
 #include "vxMaterial/gui/ItemDelegates.h"
 
+#include "CellText.h"
+
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -13,28 +16,36 @@ void storeText(const QComboBox& box, QAbstractItemModel& model, const QModelInde
     model.setData(index, box.currentText(), Qt::EditRole);
 }
 
-/// The date that a text gives; an invalid one for a text of another form than year-month-day, which Qt's reader of ISO
-/// dates would let pass here and there.
+/// The date in a text; an invalid date if the text has another form than year-month-day, of which Qt's reader of ISO dates
+/// accepts some.
 QDate dateFrom(const QString& text)
 {
     const QDate date = QDate::fromString(text, Qt::ISODate);
     return date.toString(Qt::ISODate) == text ? date : QDate();
 }
 
-/// Qt's editor ignores an invalid date and would go on showing another one as if it were the cell's; this one is empty.
+/// Shows no date in an editor. Qt's editor ignores an invalid date and would show another one as if it were that of the
+/// cell; it can show a blank for its earliest date only.
 void showNoDate(QDateTimeEdit& editor)
 {
-    // An editor with a text for a special value may be empty; others put their date back at once.
     editor.setSpecialValueText(QStringLiteral(" "));
+    editor.setDate(editor.minimumDate());
     auto* const line = editor.findChild<QLineEdit*>();
     const QSignalBlocker blocker(line);
     line->clear();
 }
 
-/// The date that the user sees in the editor; an invalid one when that is none.
+/// The date that the user sees in an editor; an invalid date if the editor shows none.
 QDate shownDate(const QDateTimeEdit& editor)
 {
-    return editor.text().isEmpty() ? QDate() : editor.date();
+    return editor.text().trimmed().isEmpty() ? QDate() : editor.date();
+}
+
+/// Whether a key changes a date: a digit, or an arrow that steps.
+bool changesDate(const QKeyEvent& key)
+{
+    const QString text = key.text();
+    return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || (text.size() == 1 && text.front().isDigit());
 }
 
 } // namespace
@@ -88,6 +99,12 @@ bool NotEditableDelegate::editorEvent(QEvent* /*event*/, QAbstractItemModel* /*m
     return false;
 }
 
+void NotEditableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& /*rect*/,
+                                      const QString& text) const
+{
+    QItemDelegate::drawDisplay(painter, option, option.rect, wrappedForCell(text, option));
+}
+
 ComboDelegate::ComboDelegate(QObject* parent) : QItemDelegate(parent) {}
 
 QWidget* ComboDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
@@ -136,21 +153,37 @@ void DateDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
     if (dateEdit == nullptr)
         return;
     const QDate date = dateFrom(index.data(Qt::DisplayRole).toString());
-    dateEdit->setDate(date);
-    if (!date.isValid())
+    if (date.isValid())
+        dateEdit->setDate(date);
+    else
         showNoDate(*dateEdit);
 }
 
 void DateDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
-    if (const auto* const dateEdit = qobject_cast<QDateTimeEdit*>(editor))
-        model->setData(index, shownDate(*dateEdit).toString(Qt::ISODate), Qt::EditRole);
+    const auto* const dateEdit = qobject_cast<QDateTimeEdit*>(editor);
+    const QDate date = dateEdit != nullptr ? shownDate(*dateEdit) : QDate();
+    if (date.isValid())
+        model->setData(index, date.toString(Qt::ISODate), Qt::EditRole);
 }
 
 void DateDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex& /*index*/) const
 {
     editor->setGeometry(option.rect);
+}
+
+bool DateDelegate::eventFilter(QObject* object, QEvent* event)
+{
+    // The editor takes typed digits for parts of the date that it shows. Where it shows none, it starts with today.
+    auto* const editor = qobject_cast<QDateTimeEdit*>(object);
+    if (editor != nullptr && event->type() == QEvent::KeyPress && changesDate(static_cast<QKeyEvent&>(*event)) &&
+        !shownDate(*editor).isValid())
+    {
+        editor->setDate(QDate::currentDate());
+        editor->setSelectedSection(QDateTimeEdit::YearSection);
+    }
+    return QItemDelegate::eventFilter(object, event);
 }
 
 SpinBoxDelegate::SpinBoxDelegate(QObject* parent) : QStyledItemDelegate(parent) {}

@@ -5,10 +5,11 @@
 #include <QItemDelegate>
 #include <QStyledItemDelegate>
 
-/// The editors that a module's tables give their cells. The property table installs NotEditableDelegate; the others
-/// are there for tables to come.
+/// Delegates that give the cells of tables their editors. The property table installs NotEditableDelegate; other modules may
+/// use the others.
 
-/// Cells of column 1 are a choice of three words that name their row, cells of other columns what Qt makes of them.
+/// Cells of column 1 have a choice of three words that contain the number of their row, cells of other columns the editor
+/// of Qt.
 class VXMATERIAL_EXPORT ComboBoxItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,14 +18,14 @@ public:
     explicit ComboBoxItemDelegate(QObject* parent = nullptr);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Selects the word that the cell holds, case included; another text leaves the selection.
+    /// Selects the word in the cell, of which the case matters; another text leaves the selection unchanged.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 };
 
 namespace MatGui {
 
-/// Cells that nobody edits: there is no editor, and no event does anything.
+/// Cells that cannot be edited: they have no editor and ignore every event. Long texts are drawn over several lines.
 class VXMATERIAL_EXPORT NotEditableDelegate : public QItemDelegate
 {
     Q_OBJECT
@@ -37,6 +38,8 @@ public:
 protected:
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                      const QModelIndex& index) override;
+    void drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+                     const QString& text) const override;
 };
 
 /// Cells that hold one of five occupations.
@@ -48,7 +51,7 @@ public:
     explicit ComboDelegate(QObject* parent = nullptr);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Selects what the cell holds, case included; another text clears the selection.
+    /// Selects the text in the cell, of which the case matters; another text clears the selection.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -64,12 +67,14 @@ public:
     explicit DateDelegate(QObject* parent = nullptr);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Another form of text is no date: the editor then shows none.
+    /// Shows no date if the text in the cell has another form.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    /// An editor that shows no date empties the cell.
+    /// Leaves the cell unchanged if the editor shows no date.
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
+    /// Lets the user type a date where the editor shows none.
+    bool eventFilter(QObject* object, QEvent* event) override;
 };
 
 /// Cells that hold a whole number from 0 to 100.

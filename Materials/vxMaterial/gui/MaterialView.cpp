@@ -1,6 +1,8 @@
 #include "vxMaterial/gui/MaterialView.h"
 
 #include "CatalogueText.h"
+#include "EditorState.h"
+#include "PageHeaders.h"
 #include "ui_MaterialWidget.h"
 
 #include "Gui/GuiApplication.h"
@@ -11,23 +13,23 @@
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/MessageBox.h"
 
-#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopedValueRollback>
-#include <QScrollArea>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 namespace MatGui {
 
 namespace {
 
-/// Slots are called by Qt, through which nothing may be thrown. Answers whether nothing was.
+/// Runs the action of a slot, which must not throw through Qt. Returns whether it ran to its end; otherwise tells the user
+/// the reason.
 template <class Action>
 bool guarded(const Action& action)
 {
@@ -41,10 +43,10 @@ bool guarded(const Action& action)
     }
 }
 
-/// The windows that are to close and whose changes are not applied.
+/// The windows with changes that are not applied and that wait to be closed.
 struct Closing
 {
-    QPointer<MaterialView> asked; ///< whose question is open
+    QPointer<MaterialView> asked; ///< the window whose question is open
     std::vector<QPointer<MaterialView>> waiting;
 };
 
@@ -60,12 +62,28 @@ void closeCurrentWindow()
         mainWindow->close_current_window();
 }
 
+/// A value as messages show it, which may be a list of thousands of numbers.
+QString shortened(const QString& value)
+{
+    constexpr int most = 80;
+    return value.size() <= most ? value : value.left(most) + QChar(0x2026);
+}
+
 QString describe(const UnreadableRow& row)
 {
     const QString text = row.reason == UnreadableRow::Reason::NoNumber
                              ? MaterialView::tr(R"(Row %1: The value "%2" of "%3" is not a number!)")
                              : MaterialView::tr(R"(Row %1: The value "%2" of "%3" is out of the range of numbers!)");
-    return text.arg(QString::number(row.number), row.value, row.name);
+    return text.arg(QString::number(row.number), shortened(row.value), row.name);
+}
+
+QString describe(const PartlyReadRow& row)
+{
+    return MaterialView::tr(
+               "Row %1: The value \"%2\" of \"%3\" would be read as \"%4\"; \"%5\" would be ignored. Type the "
+               "value without it.")
+        .arg(QString::number(row.number), shortened(row.value), row.name, shortened(row.readAs),
+             shortened(row.ignored));
 }
 
 Qt::CheckState checkState(bool checked)
@@ -73,29 +91,32 @@ Qt::CheckState checkState(bool checked)
     return checked ? Qt::Checked : Qt::Unchecked;
 }
 
-/// The list at `index` of pages by number, some of which have none; null outside.
+/// The list at `index`; null if there is no such list or the index is out of range.
 QListWidget* listAt(std::initializer_list<QListWidget*> lists, int index)
 {
     const bool inside = index >= 0 && static_cast<std::size_t>(index) < lists.size();
     return inside ? lists.begin()[index] : nullptr;
 }
 
-/// Lets the keyboard reach the pages of a tool box, whose buttons Qt leaves to the mouse, and not the frames around
-/// them. Each button comes before its page. Answers the last widget of the order that `before` begins.
-QWidget* makeReachable(const QToolBox& box, QWidget* before)
+/// The first row that was not among the earlier rows; -1 if there is none.
+int firstNewRow(const std::vector<SheetRow>& before, const std::vector<SheetRow>& now)
 {
-    const QList<QAbstractButton*> buttons = box.findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QScrollArea* const frame : box.findChildren<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
-        frame->setFocusPolicy(Qt::NoFocus);
-    for (int page = 0; page < buttons.size(); ++page) {
-        auto* const list = box.widget(page)->findChild<QListWidget*>();
-        buttons[page]->setFocusPolicy(Qt::TabFocus);
-        buttons[page]->setAccessibleName(list->accessibleName());
-        QWidget::setTabOrder(before, buttons[page]);
-        QWidget::setTabOrder(buttons[page], list);
-        before = list;
-    }
-    return before;
+    const auto isNew = [&before](const SheetRow& row) {
+        return std::find(before.begin(), before.end(), row) == before.end();
+    };
+    const auto found = std::find_if(now.begin(), now.end(), isNew);
+    return found != now.end() ? static_cast<int>(found - now.begin()) : -1;
+}
+
+bool isUndo(const QKeyEvent& key)
+{
+    return key.matches(QKeySequence::Undo);
+}
+
+/// Both keys that users know for it, whichever the platform prefers.
+bool isRedo(const QKeyEvent& key)
+{
+    return key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier);
 }
 
 } // namespace
@@ -103,22 +124,26 @@ QWidget* makeReachable(const QToolBox& box, QWidget* before)
 KELTA_REGISTER_ABSTRACT_CLASS(MatGui::MaterialView, Gui::MDIWindow)
 
 MaterialView::MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object, QWidget* parent)
-    : MDIWindow(project, parent), m_materialObject(static_cast<Mat::MaterialObject*>(object))
+    : MDIWindow(project, parent),
+      m_materialObject(static_cast<Mat::MaterialObject*>(object)),
+      m_history(std::make_unique<EditorHistory>([this](const EditorState& shown) { showState(shown); }))
 {
     initUI();
     preloadMaterialLibrary();
     preloadMaterialProperties();
     m_ui->tableView->materialObject = m_materialObject;
     m_ui->tableView->loadMaterialObject();
-    // Last, so that what was checked above adds no rows.
+    // Last, so that the check states set above add no rows.
     connectSignals();
+    m_history->restart(state());
     set_edited_object(object);
 }
 
 MaterialView::~MaterialView()
 {
-    // The table goes later, and its rows with it.
+    // The table is destroyed later, and removes its rows.
     m_ui->tableView->model()->disconnect(this);
+    m_history->stack().disconnect(this);
     if (Gui::GuiApplication::Instance != nullptr)
         Gui::GuiApplication::Instance->disconnect_view(this);
     m_libraryItems.clear();
@@ -143,11 +168,11 @@ void MaterialView::initUI()
 
 void MaterialView::makeToolBoxesReachable()
 {
-    QWidget* const lastOfLibrary = makeReachable(*m_ui->toolBoxLibrary, m_ui->tabWidget);
+    QWidget* const lastOfLibrary = makePagesReachable(*m_ui->toolBoxLibrary, m_ui->tabWidget);
     setTabOrder(lastOfLibrary, m_ui->btnAddMat);
-    QWidget* const lastOfBuild = makeReachable(*m_ui->toolBoxBuild, m_ui->btnAddMat);
+    QWidget* const lastOfBuild = makePagesReachable(*m_ui->toolBoxBuild, m_ui->btnAddMat);
     setTabOrder(lastOfBuild, m_ui->tableView);
-    // The window itself shows nothing that could have the keyboard.
+    // The window itself has nothing to do with the keyboard.
     setFocusProxy(m_ui->tabWidget);
 }
 
@@ -167,17 +192,63 @@ void MaterialView::connectSignals()
     connect(m_ui->btnApply, SIGNAL(clicked()), this, SLOT(on_btnApply_clicked()));
     connect(m_ui->btnCancel, SIGNAL(clicked()), this, SLOT(on_btnCancel_clicked()));
     connect(m_ui->btnClear, SIGNAL(clicked()), this, SLOT(on_btnClear_clicked()));
-    markChanges();
+    watchEdits();
 }
 
-void MaterialView::markChanges()
+void MaterialView::watchEdits()
 {
-    // The title bears a mark, and the program asks before it ends, until what was changed is applied.
-    const auto mark = [this] { setWindowModified(true); };
+    // The title has a mark, and the program asks before it ends, as long as edits are not applied.
+    connect(&m_history->stack(), &QUndoStack::cleanChanged, this, [this](bool clean) { setWindowModified(!clean); });
+    // Values that the user types arrive at the model by themselves; other edits are noted by the slots that make them.
+    const auto note = [this] { guarded([this] { noteEdit(tr("Change value")); }); };
     const QAbstractItemModel* const model = m_ui->tableView->model();
-    connect(model, &QAbstractItemModel::dataChanged, this, mark);
-    connect(model, &QAbstractItemModel::rowsInserted, this, mark);
-    connect(model, &QAbstractItemModel::rowsRemoved, this, mark);
+    connect(model, &QAbstractItemModel::dataChanged, this, note);
+    connect(model, &QAbstractItemModel::rowsInserted, this, note);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, note);
+}
+
+bool MaterialView::edit(const QString& step, const std::function<void()>& action)
+{
+    return guarded([&] {
+        try {
+            asOneEdit(action);
+        } catch (...) {
+            noteEdit(step);
+            throw;
+        }
+        noteEdit(step);
+    });
+}
+
+void MaterialView::asOneEdit(const std::function<void()>& action)
+{
+    const QScopedValueRollback<int> open(m_openEdits, m_openEdits + 1);
+    action();
+}
+
+void MaterialView::noteEdit(const QString& step)
+{
+    if (m_openEdits == 0)
+        m_history->note(state(), step);
+}
+
+EditorState MaterialView::state() const
+{
+    EditorState now{m_ui->tableView->rows(), {}};
+    for (const auto& [item, property] : m_propertyItems)
+        if (property != nullptr && item->checkState() == Qt::Checked)
+            now.checked.insert(property->id);
+    return now;
+}
+
+void MaterialView::showState(const EditorState& shown)
+{
+    asOneEdit([&] {
+        const std::vector<SheetRow> before = m_ui->tableView->rows();
+        m_ui->tableView->setRows(shown.rows);
+        m_ui->tableView->setCurrentRow(firstNewRow(before, shown.rows));
+        checkQuantities([&shown](int id) { return shown.checked.count(id) != 0; });
+    });
 }
 
 std::vector<QListWidget*> MaterialView::libraryLists() const
@@ -201,7 +272,7 @@ QListWidget* MaterialView::libraryList(int group) const
 
 QListWidget* MaterialView::buildList(int category) const
 {
-    // Thermal, acoustic and undefined quantities have no page.
+    // There is no page for thermal, acoustic and undefined quantities.
     return listAt({m_ui->lw_build_basic, m_ui->lw_build_linear, m_ui->lw_build_hyper, m_ui->lw_build_plastic,
                    m_ui->lw_build_creep, m_ui->lw_build_viscoelastic, nullptr, m_ui->lw_build_em},
                   category);
@@ -209,9 +280,9 @@ QListWidget* MaterialView::buildList(int category) const
 
 void MaterialView::preloadMaterialLibrary()
 {
-    for (const auto& [type, material] : m_materialObject->getMatMgr().materials) {
+    for (vxMat::MaterialBase* const material : vxMat::materialsInLibraryOrder(m_materialObject->getMatMgr())) {
         auto item = std::make_unique<QListWidgetItem>(translateMaterialName(material->name));
-        m_libraryItems[item.get()] = material.get();
+        m_libraryItems[item.get()] = material;
         if (QListWidget* const list = libraryList(material->libraryGroup))
             list->addItem(item.release());
         else
@@ -224,14 +295,14 @@ void MaterialView::preloadMaterialProperties()
     const vxMat::CMaterial* const material = m_materialObject->getCMaterial();
     if (material == nullptr)
         return;
-    for (const auto& [id, property] : m_materialObject->getMatMgr().propertyCatalogue) {
+    for (vxMat::MaterialProperty* const property : propertiesInCatalogueOrder(m_materialObject->getMatMgr())) {
         QListWidget* const list = buildList(static_cast<int>(property->category));
         if (list == nullptr)
             continue;
-        auto* const item = new QListWidgetItem(translatePropertyText(property->name, Text::name), list);
+        auto* const item = new QListWidgetItem(translatePropertyText(property->name, PropertyText::Name), list);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(checkState(material->hasProperty(property->id)));
-        m_propertyItems[item] = property.get();
+        m_propertyItems[item] = property;
     }
 }
 
@@ -239,21 +310,26 @@ void MaterialView::updatePropertyList(vxMat::MaterialBase* material)
 {
     if (material == nullptr)
         return;
+    checkQuantities([material](int id) { return material->hasProperty(id); });
+}
+
+void MaterialView::checkQuantities(const std::function<bool(int id)>& isChecked)
+{
     std::vector<std::unique_ptr<QSignalBlocker>> blockers;
     for (QListWidget* const list : buildLists())
         blockers.push_back(std::make_unique<QSignalBlocker>(list));
     for (const auto& [item, property] : m_propertyItems)
         if (property != nullptr)
-            item->setCheckState(checkState(material->hasProperty(property->id)));
+            item->setCheckState(checkState(isChecked(property->id)));
 }
 
 void MaterialView::on_material_double_clicked(QListWidgetItem* item)
 {
     if (item == nullptr)
         return;
-    guarded([&] {
+    edit(tr("Take library material"), [&] {
         vxMat::MaterialBase* const material = m_libraryItems[item];
-        // The table first: it shows the material wholly or not at all, and the check boxes follow it.
+        // The table first: it either shows the whole material or stays as it is, and the check boxes follow it.
         m_ui->tableView->showMaterial(material);
         updatePropertyList(material);
     });
@@ -277,9 +353,10 @@ void MaterialView::on_property_itemChanged(QListWidgetItem* item)
     if (item == nullptr)
         return;
     const bool checked = item->checkState() == Qt::Checked;
-    if (guarded([&] { m_ui->tableView->togglePropertyRow(checked, m_propertyItems[item]); }))
+    const QString step = checked ? tr("Add property") : tr("Remove property");
+    if (edit(step, [&] { m_ui->tableView->togglePropertyRow(checked, m_propertyItems[item]); }))
         return;
-    // The check box must not claim a row that the table does not have.
+    // The check box must agree with the table, which has not changed.
     const QSignalBlocker blocker(item->listWidget());
     item->setCheckState(checkState(!checked));
 }
@@ -300,22 +377,43 @@ bool MaterialView::apply()
 {
     SheetTableView& table = *m_ui->tableView;
     table.finishEditing();
-    if (table.model()->rowCount() == 0) {
-        Mat::showCritical(tr("Empty property"), tr("No property is defined."));
-        return false;
-    }
+    if (table.model()->rowCount() == 0)
+        return refuse(tr("Empty property"), tr("No property is defined."));
     QString message;
-    if (!table.validateRows(message)) {
-        Mat::showCritical(tr("Invalid material"), message);
-        return false;
-    }
-    if (const auto row = table.findUnreadableRow()) {
-        Mat::showCritical(tr("Invalid material"), describe(*row));
-        return false;
-    }
+    if (!table.validateRows(message))
+        return refuse(tr("Invalid material"), message, table.findRefusedRow());
+    if (const auto row = table.findUnreadableRow())
+        return refuse(tr("Invalid material"), describe(*row), row->number - 1);
+    Gui::ApplyRefusal refusal;
+    Q_EMIT applying(refusal);
+    if (!refusal.reason.isEmpty())
+        return refuse(tr("Invalid material"), refusal.reason, refusal.row);
+
     table.applyToMaterial();
-    setWindowModified(false);
+    Q_EMIT applied();
+    showApplied();
     return true;
+}
+
+bool MaterialView::refuse(const QString& title, const QString& reason, int row)
+{
+    const QPointer<MaterialView> self(this);
+    Mat::showCritical(title, reason);
+    // The window may have been closed while the message was open.
+    if (self != nullptr)
+        m_ui->tableView->showRow(row);
+    return false;
+}
+
+void MaterialView::showApplied()
+{
+    vxMat::CMaterial* const material = m_materialObject->getCMaterial();
+    asOneEdit([&] {
+        m_ui->tableView->showMaterial(material);
+        updatePropertyList(material);
+    });
+    m_history->restart(state());
+    setWindowModified(false);
 }
 
 void MaterialView::on_btnOK_clicked()
@@ -326,19 +424,19 @@ void MaterialView::on_btnOK_clicked()
 
 void MaterialView::on_btnCancel_clicked()
 {
-    // The button says by itself that the changes are not wanted.
+    // The button itself says that the changes are not wanted.
     const QScopedValueRollback<bool> unasked(m_closesUnasked, true);
     guarded(closeCurrentWindow);
 }
 
 void MaterialView::on_btnClear_clicked()
 {
-    guarded([this] { clear(); });
+    edit(tr("Clear"), [this] { clear(); });
 }
 
 void MaterialView::clear()
 {
-    // Each change removes the rows of its quantity.
+    // Each change of a check state removes the rows of its quantity.
     for (const QListWidget* const list : buildLists())
         for (int row = 0; row < list->count(); ++row)
             if (list->item(row)->checkState() == Qt::Checked)
@@ -351,16 +449,20 @@ void MaterialView::currentTagChangedSlot(int /*index*/) {}
 
 void MaterialView::keyPressEvent(QKeyEvent* event)
 {
-    // Whoever edits values must not delete the material in the tree by a slip.
+    // A user who edits values must not delete the material in the tree by mistake.
     if (event->key() == Qt::Key_Delete)
         event->accept();
+    else if (isUndo(*event) && keepsFromHost(*event))
+        guarded([this] { m_history->stack().undo(); });
+    else if (isRedo(*event) && keepsFromHost(*event))
+        guarded([this] { m_history->stack().redo(); });
     else
         MDIWindow::keyPressEvent(event);
 }
 
 bool MaterialView::event(QEvent* event)
 {
-    // A shortcut of the host on these keys would come before the key press.
+    // A shortcut of the host for one of these keys would take the key before it is pressed here.
     if (event->type() == QEvent::ShortcutOverride && keepsFromHost(static_cast<QKeyEvent&>(*event))) {
         event->accept();
         return true;
@@ -372,8 +474,11 @@ bool MaterialView::keepsFromHost(const QKeyEvent& key) const
 {
     if (key.key() == Qt::Key_Delete)
         return true;
-    // Who means a value may take back the creation of the material, and this window with all changes would go.
-    return isWindowModified() && (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
+    // The host's undo may remove the material, and this window with all edits. A key that is held down must not go on to it
+    // when the last edit has been undone.
+    const bool hasEdits = isWindowModified() || m_history->stack().canRedo();
+    return (isUndo(key) && (isWindowModified() || key.isAutoRepeat())) ||
+           (isRedo(key) && (hasEdits || key.isAutoRepeat()));
 }
 
 void MaterialView::closeEvent(QCloseEvent* event)
@@ -385,7 +490,7 @@ void MaterialView::closeEvent(QCloseEvent* event)
         m_ui->tableView->finishEditing();
         if (!isWindowModified())
             return;
-        // The answer comes later: the frame that asks the window to close must not go while it waits.
+        // The answer comes later: the frame that closes the window must not be destroyed while it waits.
         event->ignore();
         askAboutChanges();
     });
@@ -393,7 +498,7 @@ void MaterialView::closeEvent(QCloseEvent* event)
 
 void MaterialView::askAboutChanges()
 {
-    // When all windows are to close, the user answers for one after the other.
+    // If all windows are to close, the user answers one question after the other.
     Closing& closing = closingWindows();
     if (closing.asked == nullptr)
         openQuestion();
@@ -404,7 +509,7 @@ void MaterialView::askAboutChanges()
 void MaterialView::openQuestion()
 {
     const QString text = tr("The changes of \"%1\" have not been applied.");
-    // A child of this window, with which it goes.
+    // A child of this window, which destroys it.
     auto* const question = new QMessageBox(QMessageBox::Question, tr("Material editor"),
                                            text.arg(QString::fromStdString(m_materialObject->label.getValue())),
                                            QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
@@ -421,7 +526,7 @@ void MaterialView::answerQuestion(int answer)
     guarded([this, answer] {
         const Closing closing = std::exchange(closingWindows(), {});
         const bool closes = answer == QMessageBox::Discard || (answer == QMessageBox::Apply && apply());
-        // Whoever keeps one window open wants to look at it, and not to be asked about the next.
+        // A user who keeps a window open wants to look at it; there are no questions about the next windows then.
         if (!closes)
             return;
         closeUnasked();
@@ -449,13 +554,15 @@ void MaterialView::changeEvent(QEvent* event)
 {
     MDIWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
-        guarded([this] { retranslateItems(); });
+        guarded([this] { retranslate(); });
 }
 
-void MaterialView::retranslateItems()
+void MaterialView::retranslate()
 {
     m_ui->retranslateUi(centralWidget());
-    m_ui->tableView->retranslate();
+    namePageHeaders(*m_ui->toolBoxLibrary);
+    namePageHeaders(*m_ui->toolBoxBuild);
+    asOneEdit([this] { m_ui->tableView->retranslate(); });
     for (const auto& [item, material] : m_libraryItems)
         if (material != nullptr)
             item->setText(translateMaterialName(material->name));
@@ -463,7 +570,7 @@ void MaterialView::retranslateItems()
         if (property == nullptr)
             continue;
         const QSignalBlocker blocker(item->listWidget());
-        item->setText(translatePropertyText(property->name, Text::name));
+        item->setText(translatePropertyText(property->name, PropertyText::Name));
     }
 }
 
@@ -502,5 +609,44 @@ void MaterialView::resizeColumn(int /*column*/, int /*width*/) {}
 void MaterialView::resizeRow(int /*row*/, int /*height*/) {}
 
 void MaterialView::updateCell(const Obj::Property* /*property*/) {}
+
+void MaterialView::finishEditing()
+{
+    m_ui->tableView->finishEditing();
+}
+
+QUndoStack* MaterialView::get_undo_stack()
+{
+    return &m_history->stack();
+}
+
+bool MaterialView::showRow(int propertyId)
+{
+    const int row = m_ui->tableView->findRow(propertyId);
+    m_ui->tableView->showRow(row);
+    return row >= 0;
+}
+
+std::optional<Gui::ApplyRefusal> MaterialView::findIgnoredText() const
+{
+    const auto row = m_ui->tableView->findPartlyReadRow();
+    if (!row)
+        return std::nullopt;
+    return Gui::ApplyRefusal{describe(*row), row->number - 1};
+}
+
+Json::Value MaterialView::unappliedEdits() const
+{
+    EditorState now = state();
+    now.rows = m_ui->tableView->rowsWithTypedText();
+    const bool isTyping = now.rows != m_ui->tableView->rows();
+    return isWindowModified() || isTyping ? toJson(now) : Json::Value();
+}
+
+bool MaterialView::restoreUnapplied(const Json::Value& record)
+{
+    const auto restored = toEditorState(record);
+    return restored && edit(tr("Restore changes"), [&] { showState(*restored); });
+}
 
 } // namespace MatGui

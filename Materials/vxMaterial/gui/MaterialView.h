@@ -5,9 +5,12 @@
 #include "vxMaterial/project/PluginExport.h"
 
 #include <QListWidgetItem>
+#include <json/value.h>
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QListWidget;
@@ -31,31 +34,53 @@ class MaterialProperty;
 
 namespace MatGui {
 
-/// The window in which the user gives a material object its material: picked from the library or put together from the
-/// catalogue, and its values edited in the table.
+class EditorHistory;
+struct EditorState;
+
+/// The window in which the user gives a material object its material: a material of the library, or quantities of the
+/// catalogue, whose values the user edits in the table.
 ///
-/// The table is the working copy. Apply and OK alone write it into the material, wholly or not at all. Who closes the
-/// window otherwise than by Cancel while changes are not applied is asked what is to become of them, and it stays open
-/// until the answer; it goes without a question with its material.
+/// The table is the working copy. Only Apply and OK write it into the material, either whole or not at all; afterwards it
+/// shows what the material holds. Until then every edit can be undone in the window. If the window is closed with edits
+/// that are not applied, and not by Cancel, it asks the user what to do with them and stays open until the answer. It is
+/// closed without a question when its material is removed.
 class VXMATERIAL_EXPORT MaterialView : public Gui::MDIWindow
 {
     Q_OBJECT
     KELTA_ABSTRACT_CLASS;
 
 public:
-    /// The window for `object`, which must be a Mat::MaterialObject in a material project and outlive the window.
+    /// Makes the window for `object`, which must be a Mat::MaterialObject in a material project and must outlive the window.
     MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object, QWidget* parent);
     ~MaterialView() override;
 
-    /// Null: windows are made by their constructor alone.
+    /// Returns null: only the constructor makes windows.
     static void* create();
 
     Mat::MaterialObject* getMaterialObject() const { return m_materialObject; }
 
-    /// Appends the materials of the library to the lists of the Library tab. One of a group without a page is nowhere.
+    /// Appends the materials of the library to the lists of the Library tab, in the order of the library. A material whose
+    /// group has no page is not shown.
     void preloadMaterialLibrary();
-    /// Appends the quantities of the catalogue to the lists of the Build tab, those that the material has checked.
+    /// Appends the quantities of the catalogue to the lists of the Build tab, in the order of the catalogue, and checks
+    /// those that the material has.
     void preloadMaterialProperties();
+
+    /// Leads the user to the row of a property, by its id: scrolls to it, selects it and takes the keyboard. Returns false
+    /// if the table has no such row.
+    bool showRow(int propertyId);
+
+    /// Returns the reason, in the user's language, against applying values of which a part would be ignored ("210 GPa");
+    /// absent if there are none. Apply itself accepts such values; an application that refuses them returns this in
+    /// Gui::MDIWindow::applying.
+    std::optional<Gui::ApplyRefusal> findIgnoredText() const;
+
+    /// Returns the edits that are not applied, with text that the user is typing, as a record for restoreUnapplied; null if
+    /// there are none. The record does not depend on the language.
+    Json::Value unappliedEdits() const;
+    /// Shows edits that unappliedEdits has returned, as one step of the undo stack. Returns false, and shows nothing, if the
+    /// value is not such a record.
+    bool restoreUnapplied(const Json::Value& record);
 
     const char* getName() const override; ///< "MaterialView"
     bool has_message_handler(const char* message) const override;
@@ -66,6 +91,8 @@ public:
     void resizeColumn(int column, int width) override;
     void resizeRow(int row, int height) override;
     void updateCell(const Obj::Property* property) override;
+    void finishEditing() override;
+    QUndoStack* get_undo_stack() override;
 
 protected Q_SLOTS:
     void on_btnOK_clicked();
@@ -79,7 +106,7 @@ protected Q_SLOTS:
     void on_property_double_clicked(QListWidgetItem* item);
 
 protected:
-    /// Checks the quantities on the Build tab that `material` has; the table stays. Nothing for null.
+    /// Checks the quantities on the Build tab that `material` has, and no others; the table stays. Does nothing for null.
     void updatePropertyList(vxMat::MaterialBase* material);
 
     void keyPressEvent(QKeyEvent* event) override;
@@ -91,15 +118,26 @@ private:
     void initUI();
     void makeToolBoxesReachable();
     void connectSignals();
-    void markChanges();
-    void retranslateItems();
+    void watchEdits();
+    void retranslate();
     std::vector<QListWidget*> libraryLists() const;
     std::vector<QListWidget*> buildLists() const;
     QListWidget* libraryList(int group) const;
     QListWidget* buildList(int category) const;
-    bool apply();
+
+    bool edit(const QString& step, const std::function<void()>& action);
+    void asOneEdit(const std::function<void()>& action);
+    void noteEdit(const QString& step);
+    EditorState state() const;
+    void showState(const EditorState& state);
+    void checkQuantities(const std::function<bool(int id)>& isChecked);
     void clear();
+
+    bool apply();
+    bool refuse(const QString& title, const QString& reason, int row = -1);
+    void showApplied();
     bool keepsFromHost(const QKeyEvent& key) const;
+
     void askAboutChanges();
     void openQuestion();
     void answerQuestion(int answer);
@@ -108,10 +146,12 @@ private:
 
     std::unique_ptr<Ui::MaterialWidget> m_ui;
     Mat::MaterialObject* m_materialObject;
-    // Not owning: the lists own the items, the database of the project what they stand for.
+    // Not owning: the lists own the items, the database of the project owns the materials and properties.
     std::map<QListWidgetItem*, vxMat::MaterialBase*> m_libraryItems;
     std::map<QListWidgetItem*, vxMat::MaterialProperty*> m_propertyItems;
     std::vector<std::unique_ptr<QListWidgetItem>> m_itemsWithoutPage;
+    std::unique_ptr<EditorHistory> m_history;
+    int m_openEdits = 0; ///< edits in progress, which become one step of the undo stack
     bool m_closesUnasked = false;
 };
 

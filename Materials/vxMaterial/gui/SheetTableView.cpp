@@ -1,68 +1,52 @@
 #include "vxMaterial/gui/SheetTableView.h"
 
 #include "CatalogueText.h"
+#include "CellText.h"
+#include "SheetItems.h"
 
 #include "vxMaterial/gui/ItemDelegates.h"
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyRules.h"
 #include "vxMaterial/project/MaterialObject.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QResizeEvent>
+#include <QScopedValueRollback>
 #include <QStandardItemModel>
 
 #include <algorithm>
+#include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace MatGui {
 
 namespace {
 
-/// The id of a row as the hidden column shows it.
-QString idText(const vxMat::MaterialProperty& property)
-{
-    return QString::number(property.id);
-}
+/// Posted to a table whose columns have new widths, before it is painted with them.
+const auto fitEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// The texts of the row that shows the property.
-QStringList rowOf(const vxMat::MaterialProperty& property)
-{
-    return {idText(property),
-            translatePropertyText(property.name, Text::name),
-            translatePropertyText(vxMat::formatValue(property), Text::value),
-            translatePropertyText(property.description, Text::description),
-            translatePropertyText(property.key, Text::key),
-            translatePropertyText(property.unit, Text::unit)};
-}
-
-/// The cells of a row; whoever gets them owns them. Only the value can be edited.
-QList<QStandardItem*> makeItems(const QStringList& texts)
-{
-    QList<QStandardItem*> items;
-    for (int column = 0; column < texts.size(); ++column) {
-        items << new QStandardItem(texts[column]);
-        items.back()->setEditable(column == SheetTableView::Value);
-    }
-    return items;
-}
-
-/// What the rules look at in a value. The table reads numbers as QString does, the rules in a way of their own: they
-/// are given the number that QString found.
+/// The value text that is given to the rules. The table reads numbers as QString does, the rules read them differently;
+/// they get the number that QString finds.
 std::string ruleText(int id, const QString& value)
 {
     const bool isNumber = vxMat::getValueKind(id) == vxMat::eValueKind::Number;
     return isNumber ? vxMat::formatNumber(value.toDouble()) : value.toStdString();
 }
 
-/// Whether the user means an allowed word, which may be typed as the program shows it in the user's language.
+/// Whether a typed word means an allowed word, of which the program shows the translation.
 bool matchesTranslated(std::string_view allowed, std::string_view typed)
 {
-    const QString word = translatePropertyText(std::string(allowed), Text::value);
+    const QString word = translatePropertyText(std::string(allowed), PropertyText::Value);
     const QString text = QString::fromUtf8(typed.data(), static_cast<int>(typed.size()));
     return word.compare(text, Qt::CaseInsensitive) == 0;
 }
@@ -80,53 +64,6 @@ void SheetViewHeader::mouseReleaseEvent(QMouseEvent* event)
     Q_EMIT resizeFinished();
 }
 
-SheetTableDelegate::SheetTableDelegate(QObject* parent) : QItemDelegate(parent) {}
-
-QWidget* SheetTableDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
-                                          const QModelIndex& /*index*/) const
-{
-    auto* const editor = new QLineEdit(parent);
-    connect(editor, SIGNAL(returnPressed()), this, SLOT(commitAndCloseEditor()));
-    return editor;
-}
-
-void SheetTableDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
-{
-    if (auto* const line = qobject_cast<QLineEdit*>(editor))
-        line->setText(index.data(Qt::EditRole).toString());
-}
-
-void SheetTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
-{
-    if (const auto* const line = qobject_cast<QLineEdit*>(editor))
-        model->setData(index, line->text(), Qt::EditRole);
-}
-
-QSize SheetTableDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const
-{
-    return {};
-}
-
-bool SheetTableDelegate::eventFilter(QObject* object, QEvent* event)
-{
-    // The base would commit on Return once more, when the editor that has just been closed belongs to nobody.
-    if (event->type() == QEvent::KeyPress && qobject_cast<QLineEdit*>(object) != nullptr) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter)
-            return false;
-    }
-    return QItemDelegate::eventFilter(object, event);
-}
-
-void SheetTableDelegate::commitAndCloseEditor()
-{
-    auto* const editor = qobject_cast<QLineEdit*>(sender());
-    if (editor == nullptr)
-        return;
-    Q_EMIT commitData(editor);
-    Q_EMIT closeEditor(editor, NoHint);
-}
-
 SheetTableView::SheetTableView(QWidget* parent) : QTableView(parent)
 {
     setFrameShape(QFrame::WinPanel);
@@ -138,8 +75,10 @@ SheetTableView::SheetTableView(QWidget* parent) : QTableView(parent)
     m_model = std::make_unique<QStandardItemModel>(this);
     setupModel();
     connectActions();
-    // Else Tab would never leave the table.
+    // Tab leaves the table.
     setTabKeyNavigation(false);
+    // A row may be higher than the table.
+    setVerticalScrollMode(ScrollPerPixel);
 }
 
 SheetTableView::~SheetTableView()
@@ -182,7 +121,7 @@ void SheetTableView::createDelegates()
 
 void SheetTableView::setReadablePalette()
 {
-    // The table is white with black text under dark colours too, so all that is drawn on it must suit that.
+    // The table is white with black text in dark colour schemes too; every other colour in it must suit this.
     QPalette colours;
     colours.setBrush(QPalette::Base, QBrush(QColor(255, 255, 255)));
     colours.setBrush(QPalette::Text, QBrush(Qt::black));
@@ -198,7 +137,7 @@ void SheetTableView::setReadablePalette()
 void SheetTableView::setupModel()
 {
     m_model->setColumnCount(ColumnCount);
-    retranslate();
+    retranslateHeaders();
     setModel(m_model.get());
     for (const Column hidden : {Id, Key, Unit})
         setColumnHidden(hidden, true);
@@ -219,11 +158,18 @@ void SheetTableView::connectActions()
     addAction(m_properties);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(m_properties, SIGNAL(triggered()), this, SLOT(cellProperties()));
-    // Texts wrap, so that a row is as high as the widths of its columns make it.
-    connect(horizontalHeader(), SIGNAL(sectionResized(int, int, int)), this, SLOT(resizeRowsToContents()));
+    // Texts wrap, so the widths of the columns determine the heights of the rows.
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &SheetTableView::noteWidth);
 }
 
 void SheetTableView::retranslate()
+{
+    retranslateHeaders();
+    retranslateRows();
+    fitColumns();
+}
+
+void SheetTableView::retranslateHeaders()
 {
     m_insertRows->setText(tr("Insert rows"));
     m_removeRows->setText(tr("Remove rows"));
@@ -235,47 +181,107 @@ void SheetTableView::retranslate()
         m_model->setHeaderData(column, Qt::Horizontal, headers[column], Qt::EditRole);
 }
 
+void SheetTableView::retranslateRows()
+{
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        for (const Column column : {Name, Value, Description, Key, Unit})
+            retranslateItem(*m_model->item(row, column), column);
+}
+
 void SheetTableView::loadMaterialObject()
 {
     const vxMat::CMaterial* const material = materialObject != nullptr ? materialObject->getCMaterial() : nullptr;
-    replaceRows(material != nullptr ? rowsOf(*material) : Rows());
+    setRows(material != nullptr ? rowsOf(*material) : std::vector<SheetRow>());
 }
 
 void SheetTableView::showMaterial(vxMat::MaterialBase* material)
 {
     if (material != nullptr)
-        replaceRows(rowsOf(*material));
+        setRows(rowsOf(*material));
 }
 
 void SheetTableView::togglePropertyRow(bool checked, const vxMat::MaterialProperty* property)
 {
     if (property == nullptr)
         return;
-    if (checked) {
-        m_model->appendRow(makeItems(rowOf(*property)));
-        widenColumns();
-        return;
-    }
-    for (const QStandardItem* const item : m_model->findItems(idText(*property), Qt::MatchExactly, Id))
-        m_model->removeRow(item->row());
+    if (checked)
+        appendRow(*m_model, makeItems(rowOf(*property)));
+    else
+        for (const QStandardItem* const item : m_model->findItems(QString::number(property->id), Qt::MatchExactly, Id))
+            m_model->removeRow(item->row());
+    fitColumns();
 }
 
-SheetTableView::Rows SheetTableView::rowsOf(const vxMat::MaterialBase& material) const
+std::vector<SheetRow> SheetTableView::rowsOf(const vxMat::MaterialBase& material) const
 {
-    Rows rows;
-    // A property under a foreign key shows its own id: the acoustic library materials list density twice.
-    for (const auto& [key, property] : material.properties)
+    std::vector<SheetRow> rows;
+    // A property shows its own id, also in another slot: the acoustic library materials list density twice.
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material))
         if (isCatalogued(property->id))
             rows.push_back(rowOf(*property));
     return rows;
 }
 
-void SheetTableView::replaceRows(const Rows& rows)
+std::vector<SheetRow> SheetTableView::rows() const
 {
+    std::vector<SheetRow> all;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        all.push_back(rowAt(row));
+    return all;
+}
+
+std::vector<SheetRow> SheetTableView::rowsWithTypedText() const
+{
+    std::vector<SheetRow> all = rows();
+    for (std::size_t row = 0; row < all.size(); ++row)
+        if (const auto* const editor = qobject_cast<QLineEdit*>(openEditor(static_cast<int>(row))))
+            all[row].value = editor->text();
+    return all;
+}
+
+SheetRow SheetTableView::rowAt(int row) const
+{
+    const auto source = [this, row](Column column) { return sourceText(*m_model->item(row, column)); };
+    return {rowId(row), source(Name), source(Value), source(Description), source(Key), source(Unit)};
+}
+
+void SheetTableView::setRows(const std::vector<SheetRow>& rows)
+{
+    const QModelIndex current = currentIndex();
+    const int currentId = current.isValid() ? rowId(current.row()) : -1;
+    std::vector<SheetItems> items;
+    for (const SheetRow& row : rows)
+        items.push_back(makeItems(row));
+
     m_model->removeRows(0, m_model->rowCount());
-    for (const QStringList& row : rows)
-        m_model->appendRow(makeItems(row));
+    for (SheetItems& row : items)
+        appendRow(*m_model, std::move(row));
+    const int row = findRow(currentId);
+    if (row >= 0)
+        selectionModel()->setCurrentIndex(m_model->index(row, current.column()), QItemSelectionModel::NoUpdate);
     fitColumns();
+}
+
+int SheetTableView::findRow(int id) const
+{
+    const QList<QStandardItem*> items = m_model->findItems(QString::number(id), Qt::MatchExactly, Id);
+    return items.isEmpty() ? -1 : items.front()->row();
+}
+
+void SheetTableView::setCurrentRow(int row)
+{
+    const QModelIndex value = m_model->index(row, Value);
+    if (!value.isValid())
+        return;
+    selectionModel()->setCurrentIndex(value, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(value);
+}
+
+void SheetTableView::showRow(int row)
+{
+    setCurrentRow(row);
+    if (m_model->index(row, Value).isValid())
+        setFocus(Qt::OtherFocusReason);
 }
 
 QString SheetTableView::cellText(int row, int column) const
@@ -285,19 +291,31 @@ QString SheetTableView::cellText(int row, int column) const
 
 bool SheetTableView::validateRows(QString& message) const
 {
+    const auto failure = findBrokenRule();
+    if (!failure)
+        return true;
+    const QString text = tr(failure->message);
+    message = failure->row > 0 ? text.arg(failure->row) : text;
+    return false;
+}
+
+std::optional<vxMat::RuleFailure> SheetTableView::findBrokenRule() const
+{
     std::vector<std::string> values;
     std::vector<vxMat::PropertyRow> rows;
     for (int row = 0; row < m_model->rowCount(); ++row)
         values.push_back(ruleText(rowId(row), cellText(row, Value)));
     for (int row = 0; row < m_model->rowCount(); ++row)
         rows.push_back({rowId(row), values[static_cast<std::size_t>(row)]});
+    return vxMat::checkRows(rows, matchesTranslated);
+}
 
-    const auto failure = vxMat::checkRows(rows, matchesTranslated);
+int SheetTableView::findRefusedRow() const
+{
+    const auto failure = findBrokenRule();
     if (!failure)
-        return true;
-    const QString text = tr(failure->message);
-    message = failure->row > 0 ? text.arg(failure->row) : text;
-    return false;
+        return -1;
+    return failure->row > 0 ? static_cast<int>(failure->row) - 1 : findRow(vxMat::PropertyId::IsotropicElasticity);
 }
 
 int SheetTableView::rowId(int row) const
@@ -332,12 +350,21 @@ std::optional<UnreadableRow> SheetTableView::findUnreadableRow() const
     return std::nullopt;
 }
 
+std::optional<PartlyReadRow> SheetTableView::findPartlyReadRow() const
+{
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        if (const auto ignored = vxMat::findIgnoredText(rowId(row), cellText(row, Value).toStdString()))
+            return PartlyReadRow{row + 1, cellText(row, Name), cellText(row, Value),
+                                 QString::fromStdString(ignored->text), QString::fromStdString(ignored->readAs)};
+    return std::nullopt;
+}
+
 void SheetTableView::applyToMaterial()
 {
     vxMat::CMaterial* const material = materialObject != nullptr ? materialObject->getCMaterial() : nullptr;
     if (material == nullptr)
         return;
-    // Built aside, so that a row that cannot be read costs the user nothing.
+    // Made beside the material, which stays as it is if a row cannot be read.
     vxMat::CMaterial rebuilt;
     for (int row = 0; row < m_model->rowCount(); ++row)
         addRowTo(rebuilt, row);
@@ -357,10 +384,15 @@ bool SheetTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*
     return QTableView::edit(index, trigger, event);
 }
 
+QWidget* SheetTableView::openEditor(int row) const
+{
+    return indexWidget(m_model->index(row, Value));
+}
+
 void SheetTableView::finishEditing()
 {
     for (int row = 0; row < m_model->rowCount(); ++row) {
-        if (QWidget* const editor = indexWidget(m_model->index(row, Value))) {
+        if (QWidget* const editor = openEditor(row)) {
             commitData(editor);
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         }
@@ -370,10 +402,31 @@ void SheetTableView::finishEditing()
 void SheetTableView::commitData(QWidget* editor)
 {
     QTableView::commitData(editor);
-    widenColumns();
+    fitColumns();
 }
 
-// Which rows there are is decided by the pages of the window, and the columns are fixed: whatever is selected stays.
+void SheetTableView::keyPressEvent(QKeyEvent* event)
+{
+    const QModelIndex value = m_model->index(currentIndex().row(), Value);
+    const bool edits = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!edits || !value.isValid() || state() == EditingState) {
+        QTableView::keyPressEvent(event);
+        return;
+    }
+    setCurrentIndex(value);
+    edit(value, EditKeyPressed, event);
+    event->accept();
+}
+
+void SheetTableView::focusInEvent(QFocusEvent* event)
+{
+    QTableView::focusInEvent(event);
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.column() != Value && event->reason() != Qt::MouseFocusReason)
+        setCurrentIndex(m_model->index(current.row(), Value));
+}
+
+// The pages of the window determine the rows, and the columns are fixed: these entries change nothing.
 void SheetTableView::insertRows() {}
 
 void SheetTableView::removeRows() {}
@@ -384,90 +437,112 @@ void SheetTableView::removeColumns() {}
 
 void SheetTableView::cellProperties() {}
 
-QSize SheetTableView::textSize(int row, int column, int width) const
-{
-    // The value delegate asks for no size; the other one draws alike and does.
-    QStyleOptionViewItem option = viewOptions();
-    option.rect = QRect(0, 0, width, 1);
-    option.features.setFlag(QStyleOptionViewItem::WrapText, width > 0);
-    return m_readOnlyDelegate->sizeHint(option, m_model->index(row, column));
-}
-
-int SheetTableView::cellMargin() const
-{
-    return style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-}
-
 int SheetTableView::sizeHintForColumn(int column) const
 {
-    if (column != Value)
-        return QTableView::sizeHintForColumn(column);
     int width = 0;
     for (int row = 0; row < m_model->rowCount(); ++row)
-        width = std::max(width, textSize(row, Value, 0).width());
-    return width;
+        width = std::max(width, cellTextSize(cellText(row, column), font(), QWIDGETSIZE_MAX).width());
+    return width + cellPadding();
+}
+
+int SheetTableView::cellPadding() const
+{
+    return 2 * cellTextMargin(this) + (showGrid() ? 1 : 0);
 }
 
 int SheetTableView::longestWord(int column) const
 {
+    // What a cell breaks a text at, unless a part between these is wider than the cell.
+    static const QRegularExpression breaks(QStringLiteral("(?<=[ ,;])"));
     int longest = 0;
     for (int row = 0; row < m_model->rowCount(); ++row)
-        for (const QString& word : cellText(row, column).split(QLatin1Char(' ')))
-            longest = std::max(longest, fontMetrics().horizontalAdvance(word) + 2 * (cellMargin() + 1));
-    return longest;
+        for (const QString& word : cellText(row, column).split(breaks))
+            longest = std::max(longest, fontMetrics().horizontalAdvance(word));
+    // Advances are rounded, and a word that is wider by a fraction would be broken.
+    return longest + 1 + cellPadding();
 }
 
 int SheetTableView::sizeHintForRow(int row) const
 {
-    // Qt measures wrapped text without the margins that it then draws it with, and cuts what gets a line longer by it.
     const int grid = showGrid() ? 1 : 0;
-    int height = verticalHeader()->defaultSectionSize();
-    for (const Column column : {Name, Value, Description})
-        height = std::max(height, textSize(row, column, columnWidth(column) - 2 * cellMargin() - grid).height() + grid);
-    return height;
+    int height = fontMetrics().lineSpacing();
+    for (const Column column : {Name, Value, Description}) {
+        const int width = columnWidth(column) - cellPadding();
+        height = std::max(height, cellTextSize(cellText(row, column), font(), width).height());
+    }
+    height = std::min(height, mostLines * fontMetrics().lineSpacing()) + grid;
+    return std::max(height, verticalHeader()->defaultSectionSize());
 }
 
 int SheetTableView::fittingWidth(int column) const
 {
-    // One more pixel than the text takes, or it wraps.
-    const int grid = (showGrid() ? 1 : 0) + 1;
-    const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)) + grid;
-    // Long texts wrap, so that the descriptions have room too. A word, or a number, does not.
-    const int enough = std::max(viewport()->width() * 3 / 10, longestWord(column) + grid);
-    return std::min(whole, enough);
+    // Long texts wrap, so that the descriptions have room too. A word or a number does not, as long as there is room.
+    const int table = viewport()->width();
+    const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+    const int enough = std::max(table * 3 / 10, longestWord(column));
+    const int others =
+        column == Value ? columnWidth(Name) + horizontalHeader()->sectionSizeHint(Description) : table / 2;
+    return std::min({whole, enough, std::max(table * 3 / 10, table - others)});
+}
+
+void SheetTableView::noteWidth(int column)
+{
+    if (!m_sized || m_fittingColumns)
+        return;
+    if (column == Name || column == Value)
+        m_columnsOfUser.insert(column);
+    // The header tells of a width before it has it.
+    if (!std::exchange(m_fitIsPosted, true))
+        QCoreApplication::postEvent(this, new QEvent(fitEvent), Qt::HighEventPriority);
+}
+
+bool SheetTableView::event(QEvent* event)
+{
+    if (event->type() != fitEvent)
+        return QTableView::event(event);
+    m_fitIsPosted = false;
+    fitColumns();
+    return true;
 }
 
 void SheetTableView::fitColumns()
 {
-    if (!m_sized)
+    if (!m_sized || m_fittingColumns)
         return;
-    for (const Column column : {Name, Value})
-        setColumnWidth(column, fittingWidth(column));
-    resizeRowsToContents();
+    {
+        const QScopedValueRollback<bool> fitting(m_fittingColumns, true);
+        horizontalHeader()->setMinimumSectionSize(horizontalHeader()->sectionSizeHint(Description));
+        for (const Column column : {Name, Value})
+            if (m_columnsOfUser.count(column) == 0)
+                setColumnWidth(column, fittingWidth(column));
+    }
+    fitRows();
 }
 
-void SheetTableView::widenColumns()
+void SheetTableView::fitRows()
 {
-    if (!m_sized)
+    m_rowsAreOutdated = true;
+    if (!m_sized || m_fittingColumns || m_fittingRows)
         return;
-    for (const Column column : {Name, Value})
-        setColumnWidth(column, std::max(columnWidth(column), fittingWidth(column)));
-    resizeRowsToContents();
+    // The new heights may show or hide the scroll bar, which changes the widths, and by that the heights.
+    constexpr int mostRounds = 3;
+    const QScopedValueRollback<bool> fitting(m_fittingRows, true);
+    for (int round = 0; m_rowsAreOutdated && round < mostRounds; ++round) {
+        m_rowsAreOutdated = false;
+        resizeRowsToContents();
+    }
 }
 
 void SheetTableView::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
-    // A window is often shown small at first, and its names wrapped.
-    if (event->size().width() > event->oldSize().width())
-        widenColumns();
+    if (event->size().width() != event->oldSize().width())
+        fitColumns();
 }
 
 void SheetTableView::showEvent(QShowEvent* event)
 {
     QTableView::showEvent(event);
-    if (m_sized)
-        return;
     m_sized = true;
     fitColumns();
 }

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "vxMaterial/gui/SheetRow.h"
+#include "vxMaterial/gui/SheetTableDelegate.h"
 #include "vxMaterial/project/PluginExport.h"
 
 #include <QHeaderView>
-#include <QItemDelegate>
 #include <QMap>
 #include <QTableView>
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 class QStandardItemModel;
@@ -20,6 +22,7 @@ class MaterialObject;
 namespace vxMat {
 class MaterialBase;
 class MaterialProperty;
+struct RuleFailure;
 } // namespace vxMat
 
 namespace MatGui {
@@ -35,52 +38,18 @@ public:
     explicit SheetViewHeader(Qt::Orientation orientation, QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    /// The user has let the mouse go, after which sections have the sizes that they keep.
+    /// The user has released the mouse button over the header.
     void resizeFinished();
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
-/// Edits a cell as a line of text; Return commits it at once.
-class VXMATERIAL_EXPORT SheetTableDelegate : public QItemDelegate
-{
-    Q_OBJECT
-
-public:
-    explicit SheetTableDelegate(QObject* parent = nullptr);
-
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
-    /// An invalid size: cells under this delegate ask for none.
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    bool eventFilter(QObject* object, QEvent* event) override;
-
-public Q_SLOTS:
-    /// Commits and closes the line of text that sent the signal; nothing for another sender.
-    void commitAndCloseEditor();
-};
-
-/// A row whose value is no text that its property could be made from.
-struct UnreadableRow
-{
-    enum class Reason
-    {
-        NoNumber,  ///< a number is needed, and the text does not begin with one
-        OutOfRange ///< a double cannot hold the number
-    };
-    int number; ///< of the row, counted from 1
-    QString name;
-    QString value;
-    Reason reason;
-};
-
-/// The properties of the material that is being edited, one a row: the working copy that Apply writes into the
-/// material object. Only values can be edited. Id, key and unit stand in hidden columns.
+/// The properties of the material that is being edited, one in each row: the working copy that Apply writes into the
+/// material object. Only values can be edited. Id, key and unit are in hidden columns. Rows are in the order of the
+/// catalogue until the user adds some at the end.
 ///
-/// Rows come and go by the operations here alone. The entries of the context menus are there for users to find but
-/// do nothing.
+/// Rows are added and removed by the operations of this class only. The entries of the context menus do nothing.
 class VXMATERIAL_EXPORT SheetTableView : public QTableView
 {
     Q_OBJECT
@@ -88,8 +57,8 @@ class VXMATERIAL_EXPORT SheetTableView : public QTableView
     QModelIndex m_lastEdited;
 
 public:
-    /// The material object whose material is edited, not owned; set by the window around the table. Without one the
-    /// table takes no rows from materials and writes none.
+    /// The material object whose material is edited, not owned; set by the window that contains the table. While it is
+    /// null, the table shows no materials and writes none.
     Mat::MaterialObject* materialObject = nullptr;
 
     enum Column : int
@@ -106,31 +75,49 @@ public:
     explicit SheetTableView(QWidget* parent = nullptr);
     ~SheetTableView() override;
 
-    /// Shows the material of the material object instead of the present rows.
+    /// Replaces the rows by those of the material of the material object; by none if it has no material.
     void loadMaterialObject();
-    /// Shows `material` instead of the present rows; nothing for null. Properties that the catalogue does not know are
+    /// Replaces the rows by those of `material`; does nothing for null. Properties that the catalogue does not have are
     /// left out.
     void showMaterial(vxMat::MaterialBase* material);
-    /// Appends a row for the property when `checked`, though there may be one; else removes every row with its id.
-    /// Nothing for null.
+    /// If `checked`, appends a row for the property, even if there is one already; otherwise removes every row with its id.
+    /// Does nothing for null.
     void togglePropertyRow(bool checked, const vxMat::MaterialProperty* property);
 
-    /// Whether the rows are acceptable by the rules of PropertyRules.h; if not, `message` says why, else it is left
-    /// alone. Rows that pass may still be unreadable.
+    std::vector<SheetRow> rows() const;
+    /// As rows, with the text that the user is typing into a cell.
+    std::vector<SheetRow> rowsWithTypedText() const;
+    /// Replaces the rows. The current cell stays in the row of the same id.
+    void setRows(const std::vector<SheetRow>& rows);
+    /// Returns the first row, from 0, with the id; -1 if there is none.
+    int findRow(int id) const;
+    /// Makes the value in a row, from 0, the current cell, selects the row and scrolls to it. Does nothing if there is no
+    /// such row.
+    void setCurrentRow(int row);
+    /// Does as setCurrentRow and takes the keyboard.
+    void showRow(int row);
+
+    /// Returns whether the rows follow the rules of PropertyRules.h; if not, writes the reason to `message`, which is left
+    /// unchanged otherwise. Rows that follow the rules may still be unreadable.
     bool validateRows(QString& message) const;
-    /// The first row that applyToMaterial could not write; absent when there is none.
+    /// Returns the row, from 0, that validateRows refuses, or the row of the elasticity switch if it refuses the combination
+    /// of the rows; -1 if it refuses nothing.
+    int findRefusedRow() const;
+    /// Returns the first row that applyToMaterial could not write; absent if there is none.
     std::optional<UnreadableRow> findUnreadableRow() const;
-    /// Replaces the properties of the material object's material by the rows, in their order; of two rows of one id the
-    /// later one stays. Nothing without a material.
-    /// \throws std::invalid_argument, std::out_of_range when a row is unreadable; the material is unchanged
+    /// Returns the first row of which applyToMaterial would ignore a part; absent if there is none.
+    std::optional<PartlyReadRow> findPartlyReadRow() const;
+    /// Replaces the properties of the material object's material by the rows, in their order; of several rows with the same
+    /// id the last one counts. Does nothing without a material.
+    /// \throws std::invalid_argument, std::out_of_range if a row is unreadable; the material is unchanged
     void applyToMaterial();
 
-    /// Whether the catalogue of the material object's project knows the id.
+    /// Returns whether the catalogue of the material object's project has the id.
     bool isCatalogued(int id) const;
 
-    /// Takes over what the user has typed into a cell that is still being edited.
+    /// Ends the edit of a cell, if one is in progress, and keeps the typed text.
     void finishEditing();
-    /// Sets the texts of headers and menus anew, after the language has changed.
+    /// Sets all texts again, after the language has changed.
     void retranslate();
 
     using QTableView::edit;
@@ -145,37 +132,44 @@ public Q_SLOTS:
     void cellProperties();
 
 protected:
+    bool event(QEvent* event) override;
     int sizeHintForColumn(int column) const override;
     int sizeHintForRow(int row) const override;
+    /// F2 and Return edit the value of the current row, whichever of its cells is current.
+    void keyPressEvent(QKeyEvent* event) override;
+    /// The keyboard comes to the column of the values.
+    void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    using Rows = std::vector<QStringList>;
-
     void createActions();
     void createHeaders();
     void createDelegates();
     void setReadablePalette();
     void setupModel();
     void connectActions();
-    Rows rowsOf(const vxMat::MaterialBase& material) const;
-    void replaceRows(const Rows& rows);
+    void retranslateHeaders();
+    void retranslateRows();
+    std::vector<SheetRow> rowsOf(const vxMat::MaterialBase& material) const;
+    SheetRow rowAt(int row) const;
+    QWidget* openEditor(int row) const;
     int rowId(int row) const;
     QString cellText(int row, int column) const;
     void addRowTo(vxMat::MaterialBase& material, int row) const;
+    std::optional<vxMat::RuleFailure> findBrokenRule() const;
     std::optional<UnreadableRow::Reason> unreadableReason(int row) const;
-    QSize textSize(int row, int column, int width) const;
-    int cellMargin() const;
+    int cellPadding() const;
     int longestWord(int column) const;
     int fittingWidth(int column) const;
+    void noteWidth(int column);
     void fitColumns();
-    void widenColumns();
+    void fitRows();
 
     std::unique_ptr<NotEditableDelegate> m_readOnlyDelegate;
     std::unique_ptr<SheetTableDelegate> m_valueDelegate;
     std::unique_ptr<QStandardItemModel> m_model;
-    // Kept for extensions that mark rows and columns; nothing here uses them.
+    // Kept for extensions that mark rows and columns; not used here.
     QMap<int, int> m_rowMarks;
     QMap<int, int> m_columnMarks;
 
@@ -184,7 +178,13 @@ private:
     QAction* m_insertColumns = nullptr;
     QAction* m_removeColumns = nullptr;
     QAction* m_properties = nullptr;
-    bool m_sized = false;
+
+    std::set<int> m_columnsOfUser; ///< whose width the user has chosen
+    bool m_sized = false;          ///< whether the columns have been fitted once
+    bool m_fittingColumns = false;
+    bool m_fittingRows = false;
+    bool m_rowsAreOutdated = false;
+    bool m_fitIsPosted = false;
 };
 
 } // namespace MatGui

@@ -16,7 +16,7 @@ namespace MatGui {
 
 namespace {
 
-/// Whether there is a material editor that a colour could be for.
+/// Whether a material editor is active, which colours could be for.
 bool isMaterialEditorActive()
 {
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
@@ -61,7 +61,7 @@ SimModule::SimModule(SimModule& other)
     : StdSimModule(), toolbarFound(other.toolbarFound), workbenchHelper(std::exchange(other.workbenchHelper, nullptr))
 {}
 
-// NOLINTNEXTLINE(misc-unconventional-assign-operator): the other one gives its helper up
+// NOLINTNEXTLINE(misc-unconventional-assign-operator): takes the helper of the other workbench
 SimModule& SimModule::operator=(SimModule& other)
 {
     if (&other == this)
@@ -82,7 +82,7 @@ void SimModule::activated()
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (toolbarFound || mainWindow == nullptr)
         return;
-    // The flag says that the search is over, and it never is: toolbars may still come.
+    // The flag means that the search is over, which it never is: toolbars may be added later.
     if (mainWindow->findChildren<QToolBar*>(QStringLiteral("MaterialGUI")).size() == 1)
         toolbarFound = false;
 }

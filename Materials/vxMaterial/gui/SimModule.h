@@ -10,7 +10,7 @@ class QColor;
 
 namespace MatGui {
 
-/// Two places where colours for the current material editor arrive; nothing comes of them yet.
+/// Receives colours for the current material editor, which have no effect.
 class VXMATERIAL_EXPORT WorkbenchHelper : public QObject
 {
     Q_OBJECT
@@ -31,22 +31,22 @@ class VXMATERIAL_EXPORT SimModule : public Gui::StdSimModule
 
 public:
     SimModule();
-    /// Takes the helper over from `other`, which is left without one.
+    /// Takes the helper of `other`, which has none afterwards.
     SimModule(SimModule& other);
     SimModule& operator=(SimModule& other); // NOLINT(misc-unconventional-assign-operator): as the copy above
     ~SimModule() override;
 
-    /// Looks for the toolbar "MaterialGUI" of the main window; nothing the user sees comes of it.
+    /// Searches the toolbar "MaterialGUI" of the main window. Has no visible effect.
     void activated() override;
-    /// The standard menus, with "&Material" in front of "&Windows".
+    /// Returns the standard menus, with "&Material" in front of "&Windows".
     Gui::MenuItem* build_menu_bar() const override;
-    /// The standard toolbars, and "Material".
+    /// Returns the standard toolbars and "Material".
     Gui::ToolBarGadget* build_toolbars() const override;
-    /// "Material" alone, without the standard bars.
+    /// Returns the bar "Material", without the standard bars.
     Gui::ToolBarGadget* build_message_bars() const override;
 
     bool isToolbarFound() const { return toolbarFound; }
-    /// Null after the workbench has been copied from.
+    /// Returns null if a copy of the workbench has taken the helper.
     WorkbenchHelper* getWorkbenchHelper() const { return workbenchHelper; }
 
 private:

@@ -6,7 +6,7 @@
 
 namespace MatGui {
 
-/// The node of a material project. It is made by its registered name alone, so create and init stay inside the module.
+/// The node of a material project. Hosts make it only by its registered name, so that create and init are not exported.
 class ViewFeederDocumentMaterial : public Gui::ViewFeederProject
 {
     OBJ_CLASS;
@@ -15,15 +15,13 @@ public:
     VXMATERIAL_EXPORT ViewFeederDocumentMaterial();
     VXMATERIAL_EXPORT ~ViewFeederDocumentMaterial() override;
 
-    /// Always true.
+    /// Returns true.
     VXMATERIAL_EXPORT bool onDelete(const std::vector<std::string>& subElements) override;
-    /// Nothing is opened; true.
+    /// Opens nothing and returns true.
     VXMATERIAL_EXPORT bool on_double_clicked() override;
     VXMATERIAL_EXPORT void build_context_menu(const char* recipient, Gui::MenuItem* menu) override;
     /// Adds nothing.
     VXMATERIAL_EXPORT void build_context_menu(QMenu* menu, QObject* receiver, const char* slot) override;
-
-private:
 };
 
 } // namespace MatGui

@@ -108,7 +108,7 @@ MaterialView* ViewFeederMaterialObject::showMaterialView()
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (object == nullptr || mainWindow == nullptr || Gui::GuiApplication::Instance == nullptr)
         return nullptr;
-    // Projects of other kinds can have materials too, by import or paste, but no database that the editor could show.
+    // Projects of other classes may contain materials, by import or paste, but have no database for the editor.
     if (!object->get_project()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId()))
         return nullptr;
     materialView =
@@ -126,13 +126,17 @@ MaterialView* ViewFeederMaterialObject::showMaterialView()
 
 void ViewFeederMaterialObject::showLabel(const Mat::MaterialObject& object)
 {
-    if (materialView != nullptr)
-        materialView->setWindowTitle(QString::fromStdString(object.label.getValue()) + QStringLiteral("[*]"));
+    if (materialView == nullptr)
+        return;
+    // Qt shows the mark of a modified window in place of "[*]", and "[*]" in place of two of them.
+    const QString mark = QStringLiteral("[*]");
+    QString label = QString::fromStdString(object.label.getValue());
+    materialView->setWindowTitle(label.replace(mark, mark + mark) + mark);
 }
 
 bool ViewFeederMaterialObject::isOpen() const
 {
-    // A window that the user has closed lives on until the event loop destroys it.
+    // The event loop destroys a window some time after the user has closed it.
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     return materialView != nullptr && mainWindow != nullptr && mainWindow->get_mdi_windows().contains(materialView);
 }

@@ -15,8 +15,8 @@ namespace MatGui {
 
 class MaterialView;
 
-/// The node of a material. It opens the material's editor, knows it while it lives, and closes it when the material
-/// leaves the tree.
+/// The node of a material. It opens the editor of the material, has access to the editor as long as it is open, and closes
+/// it when the material leaves the tree.
 class VXMATERIAL_EXPORT ViewFeederMaterialObject : public Gui::ViewFeederProjectObject
 {
     OBJ_CLASS;
@@ -27,29 +27,30 @@ public:
     ~ViewFeederMaterialObject() override;
 
     bool useNewSelectionModel() const override; ///< false
-    /// Always true: materials can be deleted.
+    /// Returns true: materials can be deleted.
     bool onDelete(const std::vector<std::string>& subElements) override;
     void setDisplayMode(const char* mode) override;
     std::vector<std::string> getDisplayModes() const override; ///< "MaterialObject" alone
     bool isShow() const override;                              ///< true
-    /// Opens the editor for mode 0. The answer is false even then: the tree is not to wait for the end of the edit.
+    /// Opens the editor if `mode` is 0. Returns false in every case, so that the tree does not wait for the end of the
+    /// edit.
     bool setEdit(int mode) override;
-    /// Opens the editor, or brings the open one to the front; true.
+    /// Opens the editor, or brings it to the front if it is open. Returns true.
     bool on_double_clicked() override;
     void build_context_menu(const char* recipient, Gui::MenuItem* menu) override;
     /// Adds "Show material".
     void build_context_menu(QMenu* menu, QObject* receiver, const char* slot) override;
 
-    /// The material that the node shows; null when it shows none.
+    /// Returns the material that the node shows; null if it shows none.
     Mat::MaterialObject* getMaterialObject() const;
 
     Obj::PropertyColor materialColor; ///< "MaterialColor"
 
 protected:
-    /// Passes the change on to the editor when it is open.
+    /// Passes the change to the editor if it is open.
     void updateData(const Obj::Property* changed) override;
-    /// The open editor, or a new one in the main window; null when the node shows no material, or one that is in a
-    /// project of another kind than materials.
+    /// Returns the open editor, or a new one in the main window; null if the node shows no material, or if the material is
+    /// not in a material project.
     MaterialView* showMaterialView();
 
 private:

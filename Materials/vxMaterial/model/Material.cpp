@@ -16,42 +16,42 @@ void MaterialBase::addProperty(std::int32_t propertyId, const std::string& displ
     setProperty(propertyId, std::make_unique<MaterialProperty>(propertyId, displayName, valueText, key, description));
 }
 
-void MaterialBase::setProperty(std::int32_t key, std::unique_ptr<MaterialProperty> property)
+void MaterialBase::setProperty(std::int32_t slot, std::unique_ptr<MaterialProperty> property)
 {
     assert(property != nullptr);
-    properties.insert_or_assign(key, std::move(property));
+    properties.insert_or_assign(slot, std::move(property));
 }
 
-bool MaterialBase::hasProperty(std::int32_t key) const
+bool MaterialBase::hasProperty(std::int32_t slot) const
 {
-    return properties.count(key) != 0;
+    return properties.count(slot) != 0;
 }
 
-const MaterialProperty* MaterialBase::findProperty(std::int32_t key) const
+const MaterialProperty* MaterialBase::findProperty(std::int32_t slot) const
 {
-    const auto found = properties.find(key);
+    const auto found = properties.find(slot);
     return found != properties.end() ? found->second.get() : nullptr;
 }
 
-bool MaterialBase::getPropertyValue(std::int32_t key, double& number) const
+bool MaterialBase::getPropertyValue(std::int32_t slot, double& number) const
 {
-    const MaterialProperty* const property = findProperty(key);
+    const MaterialProperty* const property = findProperty(slot);
     if (property == nullptr)
         return false;
     number = property->value;
     return true;
 }
 
-std::string MaterialBase::getPropertyText(std::int32_t key) const
+std::string MaterialBase::getPropertyText(std::int32_t slot) const
 {
-    const MaterialProperty* const property = findProperty(key);
+    const MaterialProperty* const property = findProperty(slot);
     return property != nullptr ? property->text : std::string();
 }
 
-const std::vector<double>& MaterialBase::getPropertyValues(std::int32_t key) const
+const std::vector<double>& MaterialBase::getPropertyValues(std::int32_t slot) const
 {
     static const std::vector<double> none;
-    const MaterialProperty* const property = findProperty(key);
+    const MaterialProperty* const property = findProperty(slot);
     return property != nullptr ? property->values : none;
 }
 
@@ -72,8 +72,8 @@ void MaterialBase::copyPropertiesFrom(const MaterialBase& other)
 {
     PropertyMap copies;
     copies.reserve(other.properties.size());
-    for (const auto& [key, property] : other.properties)
-        copies.emplace(key, std::make_unique<MaterialProperty>(*property));
+    for (const auto& [slot, property] : other.properties)
+        copies.emplace(slot, std::make_unique<MaterialProperty>(*property));
     properties = std::move(copies);
 }
 

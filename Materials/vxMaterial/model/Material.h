@@ -11,8 +11,8 @@
 
 namespace vxMat {
 
-/// The built-in materials; each value selects the class of MaterialLibrary.h of the same name. The numbering is fixed,
-/// gaps included.
+/// The built-in materials. Each value selects the class of the same name in MaterialLibrary.h. The numbers, gaps
+/// included, never change.
 enum class eMaterialType : std::int32_t
 {
     StructuralSteel = 0,
@@ -43,11 +43,14 @@ enum class eMaterialType : std::int32_t
     Water = 53,
 };
 
-/// A named set of properties, keyed by quantity. It owns its properties.
+/// A named set of properties, which the material owns.
 ///
-/// The key is normally the id of the property under it, but need not be: the acoustic library materials keep the
-/// speed of sound as a second density under 401, and copies keep the key. Materials are not copied by value:
-/// copyAllFrom copies everything, copyPropertiesFrom and CMaterial's copyTo and copyFrom what they say.
+/// The integer under which a material holds a property is the property's **slot**. It is normally the id of the property,
+/// but need not be: the acoustic library materials hold the speed of sound in slot 401 as a second density, whose id is 4.
+/// Copies keep the slots.
+///
+/// Materials are not copied by value: copyAllFrom copies everything; copyPropertiesFrom and CMaterial's copyTo and
+/// copyFrom copy what their comments say.
 class VXMAT_MODEL_EXPORT MaterialBase
 {
 public:
@@ -58,42 +61,45 @@ public:
     MaterialBase& operator=(const MaterialBase&) = delete;
     virtual ~MaterialBase();
 
-    /// Builds a property from a row of the property table (see MaterialProperty's constructor from text) and stores
-    /// it as setProperty does.
+    /// Makes a property from a row of the property table (see MaterialProperty's constructor from text) and stores it in
+    /// the slot `propertyId`, as setProperty does.
     /// \throws std::invalid_argument, std::out_of_range if the text cannot be read; the material is unchanged
     void addProperty(std::int32_t propertyId, const std::string& displayName, const std::string& valueText,
                      const std::string& key, const std::string& description);
 
-    /// Takes ownership of `property`, not null, and stores it under `key`; an earlier one under the key is destroyed.
-    void setProperty(std::int32_t key, std::unique_ptr<MaterialProperty> property);
+    /// Stores `property`, which must not be null, in a slot and takes ownership of it. Destroys an earlier property of the
+    /// slot.
+    void setProperty(std::int32_t slot, std::unique_ptr<MaterialProperty> property);
 
-    bool hasProperty(std::int32_t key) const;
+    bool hasProperty(std::int32_t slot) const;
 
-    /// Returns the property under `key`; null if there is none. The material keeps it.
-    const MaterialProperty* findProperty(std::int32_t key) const;
+    /// Returns the property in a slot, which the material keeps; null if the slot is empty.
+    const MaterialProperty* findProperty(std::int32_t slot) const;
 
-    /// Writes the number of the property under `key` to `number` and returns true; without such a property leaves
-    /// `number` as it is and returns false.
-    [[nodiscard]] bool getPropertyValue(std::int32_t key, double& number) const;
+    /// Writes the number of the property in a slot to `number` and returns true; if the slot is empty, leaves `number`
+    /// unchanged and returns false.
+    [[nodiscard]] bool getPropertyValue(std::int32_t slot, double& number) const;
 
-    /// Returns the word of the property under `key`; empty if there is none.
-    std::string getPropertyText(std::int32_t key) const;
+    /// Returns the word of the property in a slot; the empty text if the slot is empty.
+    std::string getPropertyText(std::int32_t slot) const;
 
-    /// Returns the list of the property under `key`; an empty list if there is none. The reference to a property's list
-    /// lives as long as the property does.
-    const std::vector<double>& getPropertyValues(std::int32_t key) const;
+    /// Returns the list of the property in a slot, which is valid as long as the property exists; an empty list if the
+    /// slot is empty.
+    const std::vector<double>& getPropertyValues(std::int32_t slot) const;
 
-    /// Destroys the property; a pointer that the material does not hold changes nothing.
+    /// Destroys the property to which the pointer points. Does nothing if the material does not hold it.
     void removeProperty(const MaterialProperty* property);
 
     void clearProperties();
 
-    /// Replaces the properties by plain copies of those of `other`, under the same keys. Id, name and library group
-    /// stay. If memory runs out half-way, the material is unchanged.
+    /// Replaces the properties by plain copies of those of `other`, in the same slots. Id, name and library group stay. If
+    /// memory runs out, the material is unchanged.
+    /// \throws std::bad_alloc
     void copyPropertiesFrom(const MaterialBase& other);
 
-    /// Makes this material the same as `other`: id, whole name, library group, and plain copies of the properties, each
-    /// held as there. If memory runs out half-way, the material is unchanged.
+    /// Makes this material the same as `other`: id, whole name, library group, and plain copies of the properties in the
+    /// same slots. If memory runs out, the material is unchanged.
+    /// \throws std::bad_alloc
     void copyAllFrom(const MaterialBase& other);
 
     /// Exchanges id, name, library group and properties with `other`.
@@ -101,23 +107,25 @@ public:
 
     std::int32_t id = 0;           ///< "mat_id" of a material read from a document; 0 in the library
     std::string name;              ///< what the user sees
-    std::int32_t libraryGroup = 0; ///< page of the editor's library; 0 for the user's own materials
-    PropertyMap properties;        ///< in no particular order
+    std::int32_t libraryGroup = 0; ///< page of the editor's library; 0 for a material of the user
+    PropertyMap properties; ///< by slot, unordered; CataloguedMaterial.h walks them in the order of the catalogue
 };
 
-/// A material of the user, as an object of a project or an entry of an exchange document holds it.
+/// A material of the user: the one of a project object, or one in an exchange document.
 class VXMAT_MODEL_EXPORT CMaterial : public MaterialBase
 {
 public:
     CMaterial();
-    explicit CMaterial(const char* materialName); ///< not null
+    explicit CMaterial(const char* materialName); ///< must not be null
 
-    /// Copies id, name and properties to `target`, whose library group stays; does nothing for null. If memory runs out
-    /// half-way, the target is unchanged.
+    /// Copies id, name and properties to `target`, whose library group stays. Does nothing if `target` is null. If memory
+    /// runs out, the target is unchanged.
+    /// \throws std::bad_alloc
     void copyTo(MaterialBase* target) const;
 
-    /// Copies id, name and properties of `source`; the library group of this material stays, which is 0 for one of the
-    /// user. The name ends at its first zero byte. If memory runs out half-way, this material is unchanged.
+    /// Copies id, name and properties from `source`; the name ends at its first zero byte. The library group stays, so
+    /// that it is 0 in a copy of a built-in material. If memory runs out, this material is unchanged.
+    /// \throws std::bad_alloc
     void copyFrom(const MaterialBase& source);
 };
 

@@ -3,6 +3,7 @@
 #include "vxMaterial/model/PropertyCatalogue.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <utility>
 #include <variant>
@@ -21,7 +22,7 @@ struct Given
 {
     std::int32_t quantity;
     Value value;
-    std::int32_t key = quantity; ///< under which the material keeps it
+    std::int32_t slot = quantity; ///< in which the material holds the property
 };
 
 /// One built-in material.
@@ -30,7 +31,7 @@ struct MaterialRecord
     LibraryEntry entry;
     const char* name;
     std::int32_t libraryGroup;
-    std::vector<Given> properties; ///< in the order in which they are made
+    std::vector<Given> properties; ///< in the order in which the material makes them
 };
 
 template <Type MaterialType>
@@ -54,9 +55,8 @@ enum LibraryGroup : std::int32_t
 
 constexpr double largest = std::numeric_limits<double>::max();
 
-// Numbers that look like slips (the copper alloys with the conductivities of aluminium, the nonlinear
-// structural steel with those of stainless steel, "Electromangetic") are what analyses have been run with;
-// they stay.
+// Users have run analyses with these values. Entries that look like slips (the copper alloys with the conductivities of
+// aluminium, the nonlinear structural steel with those of stainless steel, "Electromangetic") must not be changed.
 // NOLINTNEXTLINE(readability-function-size): a table of 26 rows
 const std::vector<MaterialRecord>& materialRecords()
 {
@@ -66,14 +66,14 @@ const std::vector<MaterialRecord>& materialRecords()
             {Id::Density, 7850.0}, {Id::IsotropicElasticity, largest}, {Id::YoungsModulus, 2e11}, {Id::PoissonsRatio, 0.3},
             {Id::SpecificHeat, 490.0}, {Id::ThermalConductivity, 54.0},
             {Id::RelativePermeability, 1.0}, {Id::RelativePermittivity, 1.0}, {Id::ElectricalConductivity, 4.032e6}}),
-        builtIn<Type::StainlessSteel>("Stainless Steel", Linear, {
-            {Id::Density, 7850.0}, {Id::IsotropicElasticity, largest}, {Id::YoungsModulus, 1.94e11}, {Id::PoissonsRatio, 0.32},
-            {Id::SpecificHeat, 475.0}, {Id::ThermalConductivity, 44.5},
-            {Id::RelativePermeability, 1.0}, {Id::RelativePermittivity, 1.0}, {Id::ElectricalConductivity, 4.032e6}}),
         builtIn<Type::AluminumAlloy>("Aluminum Alloy", Linear, {
             {Id::Density, 2700.0}, {Id::IsotropicElasticity, largest}, {Id::YoungsModulus, 7.1e10}, {Id::PoissonsRatio, 0.33},
             {Id::SpecificHeat, 900.0}, {Id::ThermalConductivity, 238.0},
             {Id::RelativePermeability, 1.0}, {Id::RelativePermittivity, 1.0}, {Id::ElectricalConductivity, 3.774e7}}),
+        builtIn<Type::StainlessSteel>("Stainless Steel", Linear, {
+            {Id::Density, 7850.0}, {Id::IsotropicElasticity, largest}, {Id::YoungsModulus, 1.94e11}, {Id::PoissonsRatio, 0.32},
+            {Id::SpecificHeat, 475.0}, {Id::ThermalConductivity, 44.5},
+            {Id::RelativePermeability, 1.0}, {Id::RelativePermittivity, 1.0}, {Id::ElectricalConductivity, 4.032e6}}),
         builtIn<Type::Concrete>("Concrete", Linear, {
             {Id::Density, 2300.0}, {Id::IsotropicElasticity, largest}, {Id::YoungsModulus, 3e10}, {Id::PoissonsRatio, 0.18},
             {Id::SpecificHeat, 880.0}, {Id::ThermalConductivity, 1.8}}),
@@ -147,35 +147,64 @@ const std::vector<MaterialRecord>& materialRecords()
         builtIn<Type::NeopreneRubber>("Neoprene Rubber", Hyperelastic, {
             {Id::Density, 7850.0}, {Id::NeoHooke, 1.0}, {Id::MaterialConstantC10, 27015.0}, {Id::IncompressibilityParameterD1, 1.44e-07}}),
 
-        builtIn<Type::EMMaterial1>("Electromangetic Material 1", Electromagnetic, {
-            {Id::RelativePermeability, 1.0}, {Id::RelativePermittivity, 1.0}, {Id::ElectricalConductivity, 4.032e6}}),
-        builtIn<Type::EMMaterial2>("Electromangetic Material 2", Electromagnetic, {
-            {Id::RelativePermeability, 5.0}, {Id::RelativePermittivity, 0.5}, {Id::ElectricalConductivity, 4.032e6}}),
-
-        // The speed of sound of the acoustic materials is a second density under the key of the speed of sound:
-        // looked up by key it is found, listed by name it reads "Density". Documents have always carried it so.
-        builtIn<Type::AcousticMaterial1>("Acoustic Material 1", Acoustic, {
-            {Id::Density, 1000.0}, {Id::Density, 1000.0, Id::SpeedOfSound}}),
-        builtIn<Type::AcousticMaterial2>("Acoustic Material 2", Acoustic, {
-            {Id::Density, 1.0}, {Id::Density, 400.0, Id::SpeedOfSound}}),
-
         builtIn<Type::Air>("Air", Fluid, {
             {Id::Density, 1.225}, {Id::SpeedOfSound, 343.0}, {Id::SpecificHeat, 1006.4}, {Id::ThermalConductivity, 0.0242},
             {Id::DynamicViscosity, 1.81e-05}, {Id::ElectricalConductivity, 0.0}}),
         builtIn<Type::Water>("Water", Fluid, {
             {Id::Density, 1000.0}, {Id::SpeedOfSound, 1484.0}, {Id::SpecificHeat, 4184.0}, {Id::ThermalConductivity, 0.6},
             {Id::DynamicViscosity, 0.00089}, {Id::ElectricalConductivity, 1e-05}}),
+
+        builtIn<Type::EMMaterial1>("Electromangetic Material 1", Electromagnetic, {
+            {Id::RelativePermeability, 1.0}, {Id::RelativePermittivity, 1.0}, {Id::ElectricalConductivity, 4.032e6}}),
+        builtIn<Type::EMMaterial2>("Electromangetic Material 2", Electromagnetic, {
+            {Id::RelativePermeability, 5.0}, {Id::RelativePermittivity, 0.5}, {Id::ElectricalConductivity, 4.032e6}}),
+
+        // The acoustic materials hold their speed of sound as a second density in the slot of the speed of sound. A
+        // lookup by slot finds it; a listing by name shows "Density" twice. Existing documents have it in this form.
+        builtIn<Type::AcousticMaterial1>("Acoustic Material 1", Acoustic, {
+            {Id::Density, 1000.0}, {Id::Density, 1000.0, Id::SpeedOfSound}}),
+        builtIn<Type::AcousticMaterial2>("Acoustic Material 2", Acoustic, {
+            {Id::Density, 1.0}, {Id::Density, 400.0, Id::SpeedOfSound}}),
     };
     // clang-format on
     return records;
 }
 
+/// The order in which a database makes the materials, which differs from that of the table.
+constexpr std::array buildOrder{
+    Type::StructuralSteel,
+    Type::StainlessSteel,
+    Type::AluminumAlloy,
+    Type::Concrete,
+    Type::CopperAlloy,
+    Type::CastIron,
+    Type::TitaniumBeta21S,
+    Type::StructuralSteelNL,
+    Type::StainlessSteelNL,
+    Type::AluminumAlloyNL,
+    Type::CopperAlloyNL,
+    Type::TitaniumAlloyNL,
+    Type::PlasticMaterial1,
+    Type::PlasticMaterial2,
+    Type::ViscoElasticMaterial1,
+    Type::CreepMaterial1,
+    Type::Elastomer1,
+    Type::Elastomer2,
+    Type::Elastomer3,
+    Type::NeopreneRubber,
+    Type::EMMaterial1,
+    Type::EMMaterial2,
+    Type::AcousticMaterial1,
+    Type::AcousticMaterial2,
+    Type::Air,
+    Type::Water,
+};
+
 const MaterialRecord* findRecord(Type type)
 {
     const auto& records = materialRecords();
-    const auto found = std::find_if(records.begin(), records.end(),
-                                    [type](const MaterialRecord& record) { return record.entry.type == type; });
-    return found != records.end() ? &*found : nullptr;
+    const std::size_t position = getLibraryPosition(type);
+    return position < records.size() ? &records[position] : nullptr;
 }
 
 void setValue(MaterialProperty& property, const Value& value)
@@ -194,11 +223,19 @@ const std::vector<LibraryEntry>& libraryEntries()
 {
     static const std::vector<LibraryEntry> entries = [] {
         std::vector<LibraryEntry> all;
-        for (const MaterialRecord& record : materialRecords())
-            all.push_back(record.entry);
+        for (const Type type : buildOrder)
+            all.push_back(findRecord(type)->entry);
         return all;
     }();
     return entries;
+}
+
+std::size_t getLibraryPosition(eMaterialType type)
+{
+    const auto& records = materialRecords();
+    const auto found = std::find_if(records.begin(), records.end(),
+                                    [type](const MaterialRecord& record) { return record.entry.type == type; });
+    return static_cast<std::size_t>(found - records.begin());
 }
 
 std::unique_ptr<MaterialBase> createLibraryMaterial(eMaterialType type)
@@ -237,7 +274,7 @@ void detail::fillFromLibrary(MaterialBase& material, eMaterialType type)
     for (const Given& given : record.properties) {
         auto property = findPropertyRecord(given.quantity)->create();
         setValue(*property, given.value);
-        material.setProperty(given.key, std::move(property));
+        material.setProperty(given.slot, std::move(property));
     }
 }
 

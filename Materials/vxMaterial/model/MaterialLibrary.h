@@ -3,27 +3,32 @@
 #include "vxMaterial/model/Material.h"
 #include "vxMaterial/model/ModelExport.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
 
 namespace vxMat {
 
-/// One built-in material: what selects it and how it is made.
+/// One built-in material: the value that selects it and a function that makes it.
 struct LibraryEntry
 {
     eMaterialType type;
     std::unique_ptr<MaterialBase> (*create)();
 };
 
-/// The 26 built-in materials in the order in which the library is built.
+/// Returns the 26 built-in materials in the order in which a database makes them. Listings use getLibraryPosition.
 VXMAT_MODEL_EXPORT const std::vector<LibraryEntry>& libraryEntries();
 
-/// A new built-in material; null for a number that selects none.
+/// Returns the position of a built-in material in listings, from 0: group by group, and in each group the basic materials
+/// first. Returns the number of built-in materials, 26, if the value selects none.
+VXMAT_MODEL_EXPORT std::size_t getLibraryPosition(eMaterialType type);
+
+/// Makes a built-in material; returns null if the value selects none.
 VXMAT_MODEL_EXPORT std::unique_ptr<MaterialBase> createLibraryMaterial(eMaterialType type);
 
-/// The name of a library group (MaterialBase::libraryGroup) in listings, "Nonlinear Materials" for 2; empty for a
-/// group that no library page shows. 0, the group of the user's own materials, goes with 1.
+/// Returns the name of a library group (MaterialBase::libraryGroup) in listings, "Nonlinear Materials" for 2; the empty
+/// text if no library page shows the group. 0, the group of the user's materials, has the name of group 1.
 VXMAT_MODEL_EXPORT const char* getLibraryGroupName(std::int32_t libraryGroup);
 
 namespace detail {
@@ -33,9 +38,9 @@ VXMAT_MODEL_EXPORT void fillFromLibrary(MaterialBase& material, eMaterialType ty
 
 } // namespace detail
 
-/// A built-in material. Its values are settled defaults to start from, not reference data: the copper alloy has the
-/// conductivities of aluminium, the elastomers the density of steel. They are in the units of the catalogue but for
-/// the four examples, whose moduli and stresses (206900, 450 ...) are far from SI values. The id is 0.
+/// A built-in material. Its values are defaults to start from, not reference data: the copper alloy has the
+/// conductivities of aluminium, the elastomers have the density of steel. The values are in the units of the catalogue,
+/// except in the four examples, whose moduli and stresses (206900, 450 ...) are far from SI values. The id is 0.
 template <eMaterialType Type>
 class VXMAT_MODEL_EXPORT LibraryMaterial : public MaterialBase
 {

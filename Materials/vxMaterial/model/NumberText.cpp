@@ -4,9 +4,9 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
-#include <clocale>
 #include <cmath>
 #include <cstdlib>
+#include <locale.h>
 #include <stdexcept>
 #include <utility>
 
@@ -114,12 +114,17 @@ std::string formatBy(double number, Format... format)
 
 double readNumber(std::string_view text)
 {
+    return readLeadingNumber(text).number;
+}
+
+LeadingNumber readLeadingNumber(std::string_view text)
+{
     const ReadPrefix prefix = readPrefix(text);
     if (prefix.length == 0)
         throw std::invalid_argument("invalid stod argument");
     if (prefix.isOutOfRange)
         throw std::out_of_range("stod argument out of range");
-    return prefix.number;
+    return {prefix.number, text.substr(prefix.length)};
 }
 
 std::vector<double> readNumberList(std::string_view text)

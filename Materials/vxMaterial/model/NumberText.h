@@ -19,6 +19,19 @@ namespace vxMat {
 /// \throws std::out_of_range ("stod argument out of range") if a double cannot hold it: 1e999, 1e-999
 VXMAT_MODEL_EXPORT double readNumber(std::string_view text);
 
+/// A number at the start of a text, and the text behind it.
+struct LeadingNumber
+{
+    double number;
+    std::string_view rest;
+};
+
+/// Returns the number at the start of `text`, as readNumber does, and the text behind it, which readNumber ignores:
+/// " GPa" of "210 GPa".
+///
+/// \throws std::invalid_argument, std::out_of_range as readNumber does
+VXMAT_MODEL_EXPORT LeadingNumber readLeadingNumber(std::string_view text);
+
 /// Returns a list of numbers as users type it: every decimal number in `text` from left to right, whatever is between
 /// them. "450, 608;679" gives three numbers, "abc" none. A sign belongs to the number that follows it, and an exponent
 /// counts only if it has digits: "1e" is 1.

@@ -1,6 +1,5 @@
 #include "vxMaterial/model/PropertyCatalogue.h"
 
-#include <algorithm>
 #include <cassert>
 #include <limits>
 
@@ -26,8 +25,8 @@ std::unique_ptr<MaterialProperty> create()
     return std::make_unique<Property>();
 }
 
-// Names, keys, units and descriptions are vocabulary shared with the solver and with every document written
-// so far. What looks like a slip ("Pa" of a stretch, "speHeat", "1/(Wm)") stays.
+// The solver and all existing documents share these names, keys, units and descriptions. Entries that look like slips
+// ("Pa" of a stretch, "speHeat", "1/(Wm)") must not be changed.
 // clang-format off
 constexpr std::array<PropertyRecord, catalogueSize> records{{
     // id                                     name                              key             unit        description               category                 kind               default  class
@@ -70,6 +69,18 @@ constexpr std::array<PropertyRecord, catalogueSize> records{{
 }};
 // clang-format on
 
+constexpr std::size_t idLimit = PropertyId::SpeedOfSound + 1;
+
+/// The position of each id in the catalogue; catalogueSize for an id that names no quantity.
+constexpr std::array<std::size_t, idLimit> positions = [] {
+    std::array<std::size_t, idLimit> all{};
+    for (std::size_t& position : all)
+        position = catalogueSize;
+    for (std::size_t i = 0; i < catalogueSize; ++i)
+        all[static_cast<std::size_t>(records[i].id)] = i;
+    return all;
+}();
+
 } // namespace
 
 const std::array<PropertyRecord, catalogueSize>& propertyRecords()
@@ -79,9 +90,14 @@ const std::array<PropertyRecord, catalogueSize>& propertyRecords()
 
 const PropertyRecord* findPropertyRecord(std::int32_t id)
 {
-    const auto* const found =
-        std::find_if(records.begin(), records.end(), [id](const PropertyRecord& record) { return record.id == id; });
-    return found != records.end() ? &*found : nullptr;
+    const std::size_t position = getCataloguePosition(id);
+    return position < catalogueSize ? &records[position] : nullptr;
+}
+
+std::size_t getCataloguePosition(std::int32_t id)
+{
+    const bool mayBeKnown = id >= 0 && static_cast<std::size_t>(id) < idLimit;
+    return mayBeKnown ? positions[static_cast<std::size_t>(id)] : catalogueSize;
 }
 
 const std::vector<std::string>& getAllowedWords(std::int32_t id)
@@ -107,7 +123,8 @@ void detail::describe(MaterialProperty& property, std::int32_t id)
     property.name = record.name;
     property.key = record.key;
     property.unit = record.unit;
-    property.description = record.description;
+    if (*record.description != '\0')
+        property.description = record.description;
     property.category = record.category;
     property.id = record.id;
 }

@@ -15,41 +15,46 @@ namespace vxMat {
 
 inline constexpr std::size_t catalogueSize = 36;
 
-/// One quantity of the catalogue: its metadata, and how a default property of it is made.
+/// One quantity of the catalogue: its metadata, and a function that makes a property of it.
 struct PropertyRecord
 {
     std::int32_t id;                               ///< PropertyId
     const char* name;                              ///< what the user sees
     const char* key;                               ///< short name in documents
-    const char* unit;                              ///< "-" where there is none
-    const char* description;                       ///< a hint for the user; empty where there is none
+    const char* unit;                              ///< "-" for a quantity without a unit
+    const char* description;                       ///< a hint for the user; empty for a quantity without one
     ePropertyCategory category;                    ///< page of the editor
-    eValueKind kind;                               ///< form of the value; getValueKind tells how typed text is read
-    double defaultNumber;                          ///< of a number or switch; of a list the one element; 0 for a word
-    std::unique_ptr<MaterialProperty> (*create)(); ///< a new property of the quantity's class, with its default
+    eValueKind kind;                               ///< form of the value; getValueKind says how typed text is read
+    double defaultNumber;                          ///< of a number or switch; the only element of a list; 0 for a word
+    std::unique_ptr<MaterialProperty> (*create)(); ///< makes a property of the quantity's class, with its default
 };
 
-/// The 36 quantities in the order in which the catalogue is built, physics by physics.
+/// Returns the 36 quantities in the order of the catalogue, grouped by physics. Tables, lists and documents show
+/// quantities in this order.
 VXMAT_MODEL_EXPORT const std::array<PropertyRecord, catalogueSize>& propertyRecords();
 
-/// The record of a quantity; null for an id that the catalogue does not know.
+/// Returns the record of a quantity; null if the catalogue does not have the id.
 VXMAT_MODEL_EXPORT const PropertyRecord* findPropertyRecord(std::int32_t id);
 
-/// The words that a quantity takes, in the order of its description, the default first; empty for a quantity that is
-/// not a word. Materials may spell them in capitals: the solver cards do not distinguish.
+/// Returns the position of a quantity in the catalogue, from 0; catalogueSize if the catalogue does not have the id.
+VXMAT_MODEL_EXPORT std::size_t getCataloguePosition(std::int32_t id);
+
+/// Returns the words that a quantity takes, in the order of its description, the default first; an empty list if the
+/// value of the quantity is not a word. Materials may spell them in capitals, since the solver cards ignore the case.
 VXMAT_MODEL_EXPORT const std::vector<std::string>& getAllowedWords(std::int32_t id);
 
 namespace detail {
 
-/// Sets name, key, unit, description, category and id, in this order, from the quantity's record.
+/// Sets name, key, unit, description, category and id, in this order, from the quantity's record. The description stays
+/// as it is if the quantity has none.
 VXMAT_MODEL_EXPORT void describe(MaterialProperty& property, std::int32_t id);
 
 } // namespace detail
 
-// The classes of the quantities. Id is one of PropertyId of the class's kind.
+// The classes of the quantities. Id is a PropertyId of the kind that the class is for.
 
-/// A quantity whose value is one number. Every class of a quantity has the same shape: the default constructor gives
-/// the catalogue's default, the other one a given value, initProperty the metadata.
+/// A quantity whose value is one number. All classes of quantities have the same constructors: the default constructor
+/// stores the catalogue's default, the other one the given value; both call initProperty, which sets the metadata.
 template <std::int32_t Id>
 class VXMAT_MODEL_EXPORT NumberProperty : public MaterialProperty
 {
@@ -63,7 +68,7 @@ public:
     void initProperty() override { detail::describe(*this, Id); }
 };
 
-/// A quantity that only says by its presence that a material model is on, and takes no value.
+/// A quantity that switches a material model on by its presence and takes no value.
 template <std::int32_t Id>
 class VXMAT_MODEL_EXPORT SwitchProperty : public MaterialProperty
 {
@@ -76,20 +81,21 @@ public:
     void initProperty() override { detail::describe(*this, Id); }
 };
 
-/// A quantity whose value is a word. The class takes any word; PropertyRules.h says which are accepted.
+/// A quantity whose value is a word. The class stores any word; the rules of PropertyRules.h accept those of
+/// getAllowedWords.
 template <std::int32_t Id>
 class VXMAT_MODEL_EXPORT WordProperty : public MaterialProperty
 {
 public:
     WordProperty() : WordProperty(getAllowedWords(Id).front().c_str()) {}
-    explicit WordProperty(const char* word) // not null
+    explicit WordProperty(const char* word) // must not be null
     {
         WordProperty::initProperty();
         text = word;
     }
     void initProperty() override { detail::describe(*this, Id); }
 
-    /// The allowed words in the order of the description.
+    /// Returns the allowed words in the order of the description.
     std::vector<std::string> getOptions() const { return getAllowedWords(Id); }
 };
 
@@ -119,7 +125,7 @@ using PoissonsRatio = NumberProperty<PropertyId::PoissonsRatio>;
 /// Dynamic viscosity: shear stress over shear rate of a Newtonian fluid; Pa.s.
 using DynamicViscosity = NumberProperty<PropertyId::DynamicViscosity>;
 /// Switch: linear isotropic elasticity by E and nu. Excludes the hyperelastic models. Its catalogue default is the
-/// largest double, which also every library material carries.
+/// largest double, which is also the value in every library material that has the switch.
 using IsotropicElasticity = SwitchProperty<PropertyId::IsotropicElasticity>;
 
 // Hyperelasticity: strain energy W of the invariants I1, I2 of the isochoric strain and of the volume ratio J
@@ -141,8 +147,8 @@ using MaterialConstantC10 = NumberProperty<PropertyId::MaterialConstantC10>;
 using MaterialConstantC01 = NumberProperty<PropertyId::MaterialConstantC01>;
 /// C11: factor of (I1 - 3)(I2 - 3); Pa.
 using MaterialConstantC11 = NumberProperty<PropertyId::MaterialConstantC11>;
-/// The stretch at which the chains of the eight-chain model are extended fully. It is a ratio; its unit "Pa" is what
-/// documents and users of this quantity have always been given.
+/// The stretch at which the chains of the eight-chain model are fully extended. It is a ratio; its unit text "Pa" is kept
+/// because existing documents have it.
 using LimitingNetworkStretch = NumberProperty<PropertyId::LimitingNetworkStretch>;
 
 // Plasticity. Its stresses are in the unit of the elastic moduli; the catalogue states none.
@@ -195,13 +201,13 @@ using ThermalConductivity = NumberProperty<PropertyId::ThermalConductivity>;
 
 // Electromagnetics
 
-/// Electrical conductivity sigma of Ohm's law j = sigma E. The unit text "1/(Wm)" stands for 1/(Ohm m).
+/// Electrical conductivity sigma of Ohm's law j = sigma E. The unit text "1/(Wm)" means 1/(Ohm m).
 using ElectricalConductivity = NumberProperty<PropertyId::ElectricalConductivity>;
 /// Relative permeability mu_r: permeability over that of vacuum; no unit.
 using RelativePermeability = NumberProperty<PropertyId::RelativePermeability>;
 
-/// Relative permittivity epsilon_r: permittivity over that of vacuum; no unit. Unlike the others it fixes its
-/// metadata when it is made: initProperty leaves it alone.
+/// Relative permittivity epsilon_r: permittivity over that of vacuum; no unit. Unlike the other classes it sets its
+/// metadata in its constructors: initProperty does nothing.
 class VXMAT_MODEL_EXPORT RelativePermittivity : public MaterialProperty
 {
 public:

@@ -6,12 +6,60 @@
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace vxMat {
 
+namespace {
+
+constexpr std::string_view blanks = " \t\n\v\f\r";
+constexpr std::string_view listSeparators = " \t\n\v\f\r,;";
+
+std::string_view withoutBlanksAround(std::string_view text)
+{
+    const std::size_t begin = text.find_first_not_of(blanks);
+    if (begin == std::string_view::npos)
+        return {};
+    return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
+std::optional<IgnoredText> ignoredBehindNumber(std::string_view valueText)
+{
+    const LeadingNumber read = readLeadingNumber(valueText);
+    const std::string_view rest = withoutBlanksAround(read.rest);
+    if (rest.empty())
+        return std::nullopt;
+    return IgnoredText{std::string(rest), formatNumber(read.number)};
+}
+
+/// The first part of a list that is not one number; empty if there is none.
+std::string_view firstStrangePart(std::string_view list)
+{
+    while (!list.empty()) {
+        list.remove_prefix(std::min(list.find_first_not_of(listSeparators), list.size()));
+        const std::string_view part = list.substr(0, list.find_first_of(listSeparators));
+        // "inf" fills its part as a number does, but lists ignore it.
+        if (!part.empty() && (!readWholeNumber(part) || readNumberList(part).empty()))
+            return part;
+        list.remove_prefix(part.size());
+    }
+    return {};
+}
+
+std::optional<IgnoredText> ignoredInList(std::string_view valueText)
+{
+    const std::string readAs = formatNumberList(readNumberList(valueText));
+    const std::string_view part = firstStrangePart(valueText);
+    if (part.empty())
+        return std::nullopt;
+    return IgnoredText{std::string(part), readAs};
+}
+
+} // namespace
+
 const char* checkNumber(std::int32_t id, double number)
 {
-    // Written so that not-a-number fails.
+    // The comparisons are such that not-a-number breaks the rule.
     switch (id) {
     case PropertyId::Density:
         return number > 0.0 ? nullptr : "Row %1: Mass density must be positive!";
@@ -53,6 +101,22 @@ std::optional<RuleFailure> checkRows(const std::vector<PropertyRow>& rows, const
     if (const char* const fault = combination.result())
         return RuleFailure{fault, 0};
     return std::nullopt;
+}
+
+std::optional<IgnoredText> findIgnoredText(std::int32_t id, std::string_view valueText)
+{
+    try {
+        switch (getValueKind(id)) {
+        case eValueKind::Number:
+            return ignoredBehindNumber(valueText);
+        case eValueKind::NumberList:
+            return ignoredInList(valueText);
+        default:
+            return std::nullopt;
+        }
+    } catch (const std::logic_error&) { // no number, or one that a double cannot hold
+        return std::nullopt;
+    }
 }
 
 std::string_view withoutRowNumber(std::string_view message)

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -50,6 +51,19 @@ struct RuleFailure
 /// rows. Absent if nothing is wrong, as with a table without rows.
 VXMAT_MODEL_EXPORT std::optional<RuleFailure> checkRows(const std::vector<PropertyRow>& rows,
                                                         const WordMatch& matches = {});
+
+/// Text in a value that reading the value ignores.
+struct IgnoredText
+{
+    std::string text;   ///< the first text that is ignored, without blanks around it: "GPa" of "210 GPa"
+    std::string readAs; ///< the value that is read, as formatValue writes it: "210"
+};
+
+/// Returns the text that is ignored when `valueText` is read as a value of the quantity `id`. For a number that is all text
+/// behind it, as in "7850 kg" and "2,1e11"; for a list it is the first part that is not one number, as in "450 MPa, 608"
+/// and "450-608", where blanks, "," and ";" separate parts. Absent if nothing is ignored, if the text cannot be read at all
+/// (then reading it throws), and for words and switches.
+VXMAT_MODEL_EXPORT std::optional<IgnoredText> findIgnoredText(std::int32_t id, std::string_view valueText);
 
 /// Returns the text of a failure without "Row %1: " in front, for callers that have no rows.
 VXMAT_MODEL_EXPORT std::string_view withoutRowNumber(std::string_view message);

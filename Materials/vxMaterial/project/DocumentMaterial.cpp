@@ -62,7 +62,7 @@ void DocumentMaterial::save_jsonDB(Json::Value& record)
 {
     record["proj_tag"] = "Material";
     record["proj_id"] = Json::Value::UInt(getProjectId());
-    // Readers of the database expect the kind of project here, not the physics that the property names.
+    // Readers of the database expect the kind of the project in this member, not the physics of the property.
     record["physics_type"] = "Material";
     Json::Value objects;
     for (MaterialObject* const material : materialObjects(*this))

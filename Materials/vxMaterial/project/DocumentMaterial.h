@@ -20,43 +20,45 @@ namespace Mat {
 /// The document tag of material projects.
 inline constexpr Kelta::eDocumentTag materialProjectTag{2};
 
-/// The material project: its objects are materials, and all of them share its database of library and catalogue.
+/// The material project. Its objects are materials, which share its database of library and catalogue.
 class VXMATERIAL_EXPORT DocumentMaterial : public Obj::Project
 {
     OBJ_CLASS;
 
 public:
-    /// A project with the tag of material projects and a filled database.
+    /// Makes a project with the tag of material projects and a filled database.
     DocumentMaterial();
     ~DocumentMaterial() override;
 
     const char* get_viewfeeder_name() const override; ///< "MatGui::ViewFeederDocumentMaterial"
-    /// Always state 0: a project as a whole is never ready or not.
+    /// Returns state 0: a project as a whole has no state.
     Obj::eVXObjectState check_input() override;
-    /// Hands copies of all materials, as one exchange set under the project's id, to the exchange-set manager. Each
-    /// material first takes its object's label as its name, so that the solver knows it as the user does.
+    /// Gives copies of all materials, as one exchange set under the project's id, to the exchange-set manager. First sets the
+    /// name of each material to the label of its object, so that the solver has the name that the user sees.
     void collect_frontend_data() override;
-    /// The project's record: tag, id, and of each material id, class, internal name and label. Values are not in it.
+    /// Writes the project's record: tag, id, and of each material id, class, internal name and label. It contains no
+    /// values of properties.
     void save_jsonDB(Json::Value& record) override;
-    /// Nothing: the application restores projects.
+    /// Does nothing: the application restores projects.
     void load_jsonDB(Json::Value& record) override;
-    /// Nothing: material projects have no part in the host's XML files.
+    /// Does nothing: the host's XML files do not contain material projects.
     void Save(Kelta::FileWriter& writer) const override;
     void Load(Kelta::XMLFileReader& reader) override;
 
     vxMat::MatDBManager& getMatMgr() { return matMgr; }
 
-    /// MaterialObject::check_input_data of each material in order, up to the first that fails. A project without
-    /// materials passes.
+    /// Calls MaterialObject::check_input_data of each material in order, up to the first that fails, and returns whether
+    /// none has failed. A project without materials passes.
     bool check_all_materials();
-    /// Likewise of one object, which must be a material; false when the project has no such object.
+    /// Returns MaterialObject::check_input_data of one object, which must be a material; false if the project has no such
+    /// object.
     bool check_material_input(unsigned int objectId);
 
-    /// Writes the exchange set as styled JSON, the materials named and copied as collect_frontend_data does. The three
+    /// Writes the exchange set as styled JSON. The materials are named and copied as in collect_frontend_data. The three
     /// characters are not used.
     ///
-    /// The answer is always true: whether the file could be opened or written is not asked. What stood in the file is
-    /// gone as soon as it is opened; on a full disk a part of the document or nothing is left.
+    /// Returns true, also if the file cannot be opened or written. The earlier contents of the file are lost when it is
+    /// opened; on a full disk the file contains a part of the document or nothing.
     bool exportToFile(const std::string& path, char, char, char);
 
     Obj::PropertyString physicsType; ///< "PhysicsType"

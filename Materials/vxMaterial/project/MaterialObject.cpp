@@ -1,5 +1,6 @@
 #include "vxMaterial/project/MaterialObject.h"
 
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MessageBox.h"
@@ -58,7 +59,7 @@ Obj::eVXObjectState MaterialObject::check_input()
 
 Obj::ProjectObjectExecReturn* MaterialObject::execute()
 try {
-    // The text needs memory as the result does.
+    // Both the text and the result need memory.
     return new Obj::ProjectObjectExecReturn("MaterialObject::execute().", this);
 } catch (const std::bad_alloc&) {
     return nullptr;
@@ -91,8 +92,9 @@ bool MaterialObject::check_input_data()
         showCritical(title, QObject::tr("No property is defined in '%1'.").arg(name));
         return false;
     }
-    const auto isRefused = [](const auto& entry) { return entry.second->value <= 0.0; };
-    if (std::any_of(material->properties.begin(), material->properties.end(), isRefused)) {
+    const auto held = propertiesInCatalogueOrder(*material);
+    const auto isRefused = [](const vxMat::HeldProperty& one) { return one.property->value <= 0.0; };
+    if (std::any_of(held.begin(), held.end(), isRefused)) {
         showWarning(title,
                     QObject::tr("Material property defined in '%1' has value equal or less than zero.").arg(name));
         return false;

@@ -22,53 +22,56 @@ class MatDBManager;
 
 namespace Mat {
 
-/// One material of a material project: a node of the project tree, which the user edits in the material editor.
+/// One material of a material project: a node of the project tree that the user edits in the material editor.
 ///
-/// It owns one CMaterial for its whole life. The host knows of it no more than id, class and label; the material's
-/// properties are not host properties.
+/// The object owns one CMaterial as long as it exists. The host has access to its id, class and label only; the properties
+/// of the material are not host properties.
 class VXMATERIAL_EXPORT MaterialObject : public Obj::ProjectObject
 {
     OBJ_CLASS;
 
 public:
-    /// An object without properties, state 0.
+    /// Makes an object in state 0 whose material has no properties.
     MaterialObject();
     ~MaterialObject() override;
 
     const char* get_viewfeeder_name() const override; ///< "MatGui::ViewFeederMaterialObject"
     void refreshProperties(bool stateToo) override;
-    short always_run() const override; ///< -1: the host takes it as always to be run
+    short always_run() const override; ///< -1: the host always executes the object
     void save_jsonDB(Json::Value& record) override;
-    /// Nothing: the record says only what the host knows already.
+    /// Does nothing: the record contains only what the host restores.
     void load_jsonDB(Json::Value& record) override;
-    /// State 3 when the material has at least one property, else 0. Values are not looked at.
+    /// Sets and returns state 3 if the material has at least one property, else state 0. Values are not checked.
     Obj::eVXObjectState check_input() override;
-    /// Nothing is done; the result names the object, and the caller owns it. Null when memory runs out.
+    /// Returns a result that names the object, and does nothing else. The caller owns the result. Returns null if memory
+    /// runs out.
     Obj::ProjectObjectExecReturn* execute() override;
 
-    /// The material, never null; the object keeps it.
+    /// Returns the material, which the object keeps; never null.
     vxMat::CMaterial* getCMaterial() const { return material.get(); }
-    /// Copies `source`, not null, into the material as CMaterial::copyFrom does; the caller keeps it.
+    /// Copies `source`, which must not be null, into the material, as CMaterial::copyFrom does.
     void setCMaterial(const vxMat::MaterialBase* source);
-    /// Makes the material structural steel for eMaterialType::StructuralSteel; every other type leaves it as it is.
-    /// Checks the state anew in both cases.
+    /// Copies structural steel into the material if the type is eMaterialType::StructuralSteel; leaves the material unchanged
+    /// for every other type. Calls check_input in both cases.
     void initCMaterial(vxMat::eMaterialType type);
-    /// The database of the project that the object is in. It must be in one, and that a DocumentMaterial.
+    /// Returns the database of the project of the object. The object must be in a project, which must be a
+    /// DocumentMaterial.
     vxMat::MatDBManager& getMatMgr() const;
 
     int getRowCounts() const { return rowCounts; }
     void setRowCounts(int count) { rowCounts = count; }
     int getColumnCounts() const { return columnCounts; }
 
-    /// Whether the material can be used: it has properties, and none of them has a number of 0 or less. Otherwise tells
-    /// the user the first thing that is wrong in a message box, or in the message log of a program without windows.
+    /// Returns whether the material has properties and the number of each of them is greater than 0. If not, shows the first
+    /// fault in a message box, or writes it to the message log in a program without windows.
     ///
-    /// Every property is asked for its number, so words and lists, whose number is 0, are refused too.
+    /// The check includes the numbers of words and lists, which are 0, and therefore refuses materials with such properties.
+    /// vxMat::checkMaterial has the rules that take the quantities into account.
     bool check_input_data();
 
-    /// Materials are not exported one by one: nothing is written, and the answer is true.
+    /// Returns true and writes nothing: single materials are not exported.
     bool exportToFile(const std::string& path, char, char, char) const;
-    /// Materials are not imported one by one: nothing is read, and the answer is false.
+    /// Returns false and reads nothing: single materials are not imported.
     bool importFromFile(const std::string& path, char, char, char);
 
 protected:
@@ -76,14 +79,14 @@ protected:
     void on_changed(const Obj::Property* changed) override;
 
 private:
-    // What the host's extensions hang on to; nothing in the module uses it.
+    // For extensions of the host; the module does not use them.
     boost::signals2::signal<boost::any(), boost::signals2::last_value<boost::any>> dataRequested;
     std::map<int, int> dataIndices;
 
     int rowCounts = 0;
     int columnCounts = 4;
 
-    // Never registered, so that nobody sees them.
+    // Not registered, and therefore not visible as host properties.
     Obj::PropertyInteger rows;
     Obj::PropertyInteger columns;
     Obj::PropertyCoupleArray couples;

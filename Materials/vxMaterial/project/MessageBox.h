@@ -4,8 +4,8 @@
 
 namespace Mat {
 
-/// Shows a message box with one OK button on the main window and waits for the answer. The text is shown as it stands,
-/// never as markup. A program without windows writes it to the message log instead.
+/// Shows a message box with one OK button on the main window until the user closes it. The text is shown literally, not as
+/// markup. In a program without windows, writes the text to the message log.
 void showCritical(const QString& title, const QString& text);
 void showWarning(const QString& title, const QString& text);
 

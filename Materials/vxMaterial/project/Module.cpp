@@ -13,11 +13,13 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
+#include <QCoreApplication>
+
 #include <new>
 
 namespace {
 
-/// The manager takes the commands over; it ignores one for which there was no memory.
+/// Gives the manager a new command of each class, which it owns. It ignores null, for a command without memory.
 template <typename... Commands>
 void registerEach(Gui::CommandController& manager)
 {
@@ -35,7 +37,9 @@ void registerCommands(Gui::CommandController& manager)
 
 void initMat()
 {
-    Kelta::guarded(QStringLiteral("initMat"), [] {
+    const QString failure =
+        QCoreApplication::translate("vxMaterial", "The materials module could not register its projects");
+    Kelta::guarded(failure, [] {
         Mat::DocumentMaterial::init();
         Mat::MaterialObject::init();
     });
@@ -45,7 +49,9 @@ void initMatGui()
 {
     if (Gui::GuiApplication::Instance == nullptr)
         return;
-    Kelta::guarded(QStringLiteral("initMatGui"), [] {
+    const QString failure =
+        QCoreApplication::translate("vxMaterial", "The materials module could not register its user interface");
+    Kelta::guarded(failure, [] {
         registerCommands(Gui::GuiApplication::Instance->get_command_manager());
         MatGui::SimModule::init();
         MatGui::ViewFeederMaterialObject::init();

@@ -27,6 +27,8 @@ TEST_F(MDIWindowTest, ShowsNothingByItself)
     document.resizeColumn(0, 10);
     document.resizeRow(0, 10);
     document.updateCell(nullptr);
+    document.finishEditing();
+    EXPECT_EQ(document.get_undo_stack(), nullptr);
 }
 
 TEST_F(MDIWindowTest, RemovesItself)

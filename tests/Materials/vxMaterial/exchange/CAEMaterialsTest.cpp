@@ -7,6 +7,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 namespace {
 
 using testing::ElementsAre;
@@ -107,6 +111,19 @@ TEST(CAEMaterials, WritesEachMemberInItsKind)
     EXPECT_EQ(material["Props"][0]["prop_value"].type(), Json::realValue);
 }
 
+TEST(CAEMaterials, WritesPropertiesInTheOrderOfTheCatalogue)
+{
+    CAEMaterials section;
+    auto entry = makeEntry({{203, 1.0}, {5, 1.0}, {303, 1.0}, {31, 1.0}, {401, 1.0}, {4, 1.0}});
+    entry->material->setProperty(40, std::make_unique<vxMat::MaterialProperty>(40, "unknown", "key", 1.0));
+    section.addMaterial(7, std::move(entry));
+    const Json::Value document = written(section);
+    std::vector<int> types;
+    for (const Json::Value& property : document["material"][0]["Props"])
+        types.push_back(property["prop_type"].asInt());
+    EXPECT_THAT(types, ElementsAre(4, 401, 203, 31, 5, 303, 40));
+}
+
 TEST(CAEMaterials, WritesNoCountOfItsMaterials)
 {
     CAEMaterials section;
@@ -161,7 +178,7 @@ TEST(CAEMaterials, WritesAPropertyUnderItsKeyAndReadsItBackWithTheKeyForId)
 
     CAEMaterials read;
     read.readJson(document);
-    const auto* const property = read.getMaterial(1)->material->findProperty(401);
+    const auto* const property = read.entries.at(1)->material->findProperty(401);
     EXPECT_EQ(property->id, 401);
     EXPECT_EQ(property->value, 400.0);
 }
@@ -177,8 +194,8 @@ TEST(CAEMaterials, LosesTheWordOfAYieldType)
 
     CAEMaterials read;
     read.readJson(document);
-    EXPECT_TRUE(read.getMaterial(1)->material->hasProperty(33));
-    EXPECT_EQ(read.getMaterial(1)->getPropertyText(33), "");
+    EXPECT_TRUE(read.entries.at(1)->material->hasProperty(33));
+    EXPECT_EQ(read.entries.at(1)->getPropertyText(33), "");
 }
 
 TEST(CAEMaterials, ReadsPropertiesAsNumbersWithoutUnitAndCategory)
@@ -204,9 +221,9 @@ TEST(CAEMaterials, DoesNotClassifyWhatItReads)
 {
     CAEMaterials section;
     section.readJson(json(R"({"material": [{"mat_id": 5, "Props": [{"prop_type": 32}]}]})"));
-    EXPECT_EQ(section.getMaterial(5)->kind, 0);
-    EXPECT_TRUE(section.getMaterial(5)->classifyKind());
-    EXPECT_EQ(section.getMaterial(5)->kind, 12);
+    EXPECT_EQ(section.entries.at(5)->kind, 0);
+    EXPECT_TRUE(section.entries.at(5)->classifyKind());
+    EXPECT_EQ(section.entries.at(5)->kind, 12);
 }
 
 TEST(CAEMaterials, ReadsMissingMembersAsZeroAndEmpty)
@@ -214,9 +231,9 @@ TEST(CAEMaterials, ReadsMissingMembersAsZeroAndEmpty)
     CAEMaterials section;
     section.readJson(json(R"({"material": [{}, {"mat_id": 2, "Props": [{}]}]})"));
     ASSERT_THAT(section.entries, SizeIs(2));
-    EXPECT_STREQ(section.getMaterial(0)->getName(), "");
-    EXPECT_THAT(section.getMaterial(0)->material->properties, IsEmpty());
-    EXPECT_EQ(section.getMaterial(2)->material->findProperty(0)->value, 0.0);
+    EXPECT_STREQ(section.entries.at(0)->getName(), "");
+    EXPECT_THAT(section.entries.at(0)->material->properties, IsEmpty());
+    EXPECT_EQ(section.entries.at(2)->material->properties.at(0)->value, 0.0);
 }
 
 TEST(CAEMaterials, KeepsOneFreshMaterialPerNumberWhenReadTwice)
@@ -224,10 +241,10 @@ TEST(CAEMaterials, KeepsOneFreshMaterialPerNumberWhenReadTwice)
     CAEMaterials section;
     const Json::Value document = json(R"({"material": [{"mat_id": 1}, {"mat_id": 2}]})");
     section.readJson(document);
-    section.getMaterial(1)->setName("changed");
+    section.entries.at(1)->setName("changed");
     section.readJson(document);
     EXPECT_THAT(section.entries, SizeIs(2));
-    EXPECT_STREQ(section.getMaterial(1)->getName(), "");
+    EXPECT_STREQ(section.entries.at(1)->getName(), "");
 }
 
 TEST(CAEMaterials, KeepsTheLastMaterialOfARepeatedNumber)
@@ -235,7 +252,7 @@ TEST(CAEMaterials, KeepsTheLastMaterialOfARepeatedNumber)
     CAEMaterials section;
     section.readJson(json(R"({"material": [{"mat_id": 1, "mat_name": "first"}, {"mat_id": 1, "mat_name": "last"}]})"));
     ASSERT_THAT(section.entries, SizeIs(1));
-    EXPECT_STREQ(section.getMaterial(1)->getName(), "last");
+    EXPECT_STREQ(section.entries.at(1)->getName(), "last");
 }
 
 TEST(CAEMaterials, KeepsTheLaterPropertyOfARepeatedType)
@@ -243,8 +260,8 @@ TEST(CAEMaterials, KeepsTheLaterPropertyOfARepeatedType)
     CAEMaterials section;
     section.readJson(json(R"({"material": [{"mat_id": 1, "Props": [{"prop_type": 4, "prop_value": 1},
                                                                     {"prop_type": 4, "prop_value": 2}]}]})"));
-    ASSERT_THAT(section.getMaterial(1)->material->properties, SizeIs(1));
-    EXPECT_EQ(section.getMaterial(1)->material->findProperty(4)->value, 2.0);
+    ASSERT_THAT(section.entries.at(1)->material->properties, SizeIs(1));
+    EXPECT_EQ(section.entries.at(1)->material->properties.at(4)->value, 2.0);
 }
 
 TEST(CAEMaterials, DestroysTheEntryThatALaterOneReplaces)
@@ -324,7 +341,7 @@ TEST(CAEMaterials, CarriesAllMaterialsOfTheLibraryNumberByNumber)
         ASSERT_EQ(copy.material->properties.size(), entry->material->properties.size());
         for (const auto& [key, property] : entry->material->properties) {
             ASSERT_TRUE(copy.material->hasProperty(key));
-            EXPECT_EQ(copy.material->findProperty(key)->value, property->value) << entry->getName() << key;
+            EXPECT_EQ(copy.material->properties.at(key)->value, property->value) << entry->getName() << key;
         }
     }
 }

@@ -174,9 +174,22 @@ TEST(CAESystem, KnowsPhysicsByTheirWordsInAnyCase)
     const std::pair<const char*, int> words[] = {
         {"structural", 1}, {"thermal", 2}, {"ElectroMagnetic", 3}, {"ACOUSTIC", 4}, {"Fluids", 5}};
     for (const auto& [word, type] : words) {
-        system.setPhysicsType(std::string(word));
+        std::string text = word;
+        system.setPhysicsType(text);
         EXPECT_EQ(system.physics_type, type) << word;
     }
+}
+
+TEST(CAESystem, TurnsTheWordOfThePhysicsToUpperCaseInPlace)
+{
+    CAESystem system;
+    std::string known = "Thermal";
+    system.setPhysicsType(known);
+    EXPECT_EQ(known, "THERMAL");
+    std::string unknown = "heat 2x\xc3\xa4";
+    system.setPhysicsType(unknown);
+    EXPECT_EQ(unknown, "HEAT 2X\xc3\xa4");
+    EXPECT_EQ(system.physics_type, 2);
 }
 
 TEST(CAESystem, KeepsThePhysicsForAnUnknownWord)
@@ -184,7 +197,8 @@ TEST(CAESystem, KeepsThePhysicsForAnUnknownWord)
     CAESystem system;
     system.setPhysicsType(4);
     for (const char* const word : {"thermal ", "", "heat", "thermalx"}) {
-        system.setPhysicsType(std::string(word));
+        std::string text = word;
+        system.setPhysicsType(text);
         EXPECT_EQ(system.physics_type, 4) << word;
     }
 }
@@ -199,7 +213,7 @@ TEST(CAESystem, SetsPhysicsAndAnalysisTogether)
     EXPECT_EQ(system.getDimension(), 3);
 }
 
-TEST(CAESystem, IsNonlinearByContactOrLargeDeformationAlone)
+TEST(CAESystem, IsNonlinearByContactOrByLargeDeformation)
 {
     CAESystem system;
     EXPECT_FALSE(system.isNonlinear());

@@ -130,11 +130,11 @@ TEST(CardSet, DoubtsThePlasticityOfADocumentForItsLostWordsAndLists)
     Json::Value document;
     vxCAE::CAEMaterials section;
     section.addMaterial(1, std::make_unique<MaterialEntry>());
-    section.getMaterial(1)->material->copyFrom(vxMat::PlasticMaterial1());
+    section.entries.at(1)->material->copyFrom(vxMat::PlasticMaterial1());
     section.writeJson(document);
     vxCAE::CAEMaterials read;
     read.readJson(document);
-    read.getMaterial(1)->classifyKind();
+    read.entries.at(1)->classifyKind();
     const CardSet set = makeCardSet(*read.getMaterial(1), MaterialSource::Document);
     EXPECT_THAT(set.doubts,
                 ElementsAre("the plasticity card cannot be complete: exchange documents carry no words and "

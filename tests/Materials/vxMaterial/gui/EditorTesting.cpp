@@ -54,8 +54,7 @@ QListWidgetItem* Editor::item(const QString& text) const
     for (const QListWidget* const list : m_view->findChildren<QListWidget*>())
         for (QListWidgetItem* const found : list->findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive))
             return found;
-    ADD_FAILURE() << "no item " << text.toStdString();
-    return nullptr;
+    throw std::logic_error("the editor has no item \"" + text.toStdString() + '"');
 }
 
 void Editor::turnTo(QListWidget& list)
@@ -175,8 +174,8 @@ QStringList ownMethods(const QMetaObject& meta, QMetaMethod::MethodType kind)
 std::map<int, Held> contents(const vxMat::MaterialBase& material)
 {
     std::map<int, Held> held;
-    for (const auto& [key, property] : material.properties)
-        held[key] = {property->value, property->text, property->values};
+    for (const auto& [slot, property] : material.properties)
+        held[slot] = {property->value, property->text, property->values};
     return held;
 }
 

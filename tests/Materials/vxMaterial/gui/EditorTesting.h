@@ -18,6 +18,7 @@
 #include <functional>
 #include <map>
 #include <ostream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,7 @@ inline void PrintTo(const QString& text, std::ostream* stream)
 
 namespace vxtest {
 
-/// A material project with one material object, structural steel at first.
+/// A material project with one material object, which is structural steel.
 class MaterialProject
 {
 public:
@@ -48,7 +49,7 @@ private:
     Mat::MaterialObject* m_object;
 };
 
-/// What a user does at an editor window inside the main window of the program.
+/// An editor window in the main window of the program, and what a user does there.
 class Editor
 {
 public:
@@ -58,22 +59,26 @@ public:
 
     MaterialProject& project() { return m_project; }
     vxMat::CMaterial& material() { return m_project.material(); }
-    /// Null when it has been closed.
+    /// Null if the window has been closed.
     MatGui::MaterialView* view() const { return m_view; }
     /// Waits until the window has been closed.
     bool isClosed() const;
 
+    /// The widget or layout with this object name. Fails the test if there is none of this class.
     template <class Child>
     Child& child(const char* name) const
     {
-        return *m_view->findChild<Child*>(QLatin1String(name));
+        auto* const found = m_view->findChild<Child*>(QLatin1String(name));
+        if (found == nullptr)
+            throw std::logic_error(std::string("the editor has no ") + name);
+        return *found;
     }
     MatGui::SheetTableView& table() const { return child<MatGui::SheetTableView>("tableView"); }
     QListWidget& list(const char* name) const { return child<QListWidget>(name); }
-    /// The item with this text, wherever it is.
+    /// The item with this text in one of the lists. Fails the test if there is none.
     QListWidgetItem* item(const QString& text) const;
 
-    /// Brings the page of a list to the front, as clicks on tab and tool box do.
+    /// Brings the page of a list to the front by clicks on tab and tool box.
     void turnTo(QListWidget& list);
     void click(const char* button);
     void select(QListWidgetItem* item);
@@ -86,9 +91,9 @@ public:
     QString cell(int row, int column) const;
     /// The ids of the rows from top to bottom.
     std::vector<int> rowIds() const;
-    /// The row of this id; -1 when there is none.
+    /// The row of this id; -1 if there is none.
     int rowOf(int id) const;
-    /// Types a value into the row of this id, replacing what was there, and presses Return.
+    /// Types a value into the row of this id in place of the earlier one and presses Return.
     void typeValue(int id, const QString& text);
 
 private:
@@ -97,13 +102,13 @@ private:
     QPointer<MatGui::MaterialView> m_view;
 };
 
-/// The editor that is open in a cell of the table; null when there is none.
+/// The editor that is open in a cell of the table; null if there is none.
 QLineEdit* openEditor(const QAbstractItemView& view);
 
-/// The methods of a class itself of this kind, in their order: "on_btnOK_clicked()".
+/// The methods of this kind that a class itself declares, in their order: "on_btnOK_clicked()".
 QStringList ownMethods(const QMetaObject& meta, QMetaMethod::MethodType kind);
 
-/// What a property holds, to be compared with another.
+/// The values of a property.
 struct Held
 {
     double value;
@@ -116,14 +121,14 @@ struct Held
 };
 std::map<int, Held> contents(const vxMat::MaterialBase& material);
 
-/// Texts in another language, by "context|comment|text".
+/// Texts in another language, by "context|comment|source text".
 using Translations = std::map<std::string, QString>;
 
-/// Translates these texts and no others.
+/// Translates some texts and no others.
 class TestTranslator : public QTranslator
 {
 public:
-    /// Installed while it lives.
+    /// The translator is installed as long as it exists.
     explicit TestTranslator(Translations texts);
     ~TestTranslator() override;
     TestTranslator(const TestTranslator&) = delete;
@@ -135,7 +140,7 @@ private:
     Translations m_texts;
 };
 
-/// Fails the test when Qt warns of anything while it lives.
+/// Fails the test if Qt warns of anything as long as the object exists.
 class NoQtWarnings
 {
 public:

@@ -12,11 +12,15 @@
 #include <QtTest/qtestmouse.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <stdexcept>
+#include <vector>
+
 namespace {
 
 using namespace MatGui;
 
-/// A table of three rows and columns under one delegate.
+/// A table of three rows and columns with one delegate.
 class Cells
 {
 public:
@@ -30,15 +34,16 @@ public:
     QTableView& view() { return m_view; }
     QModelIndex index(int row, int column) const { return m_model.index(row, column); }
 
-    /// The editor that the delegate makes for a cell, filled from it.
+    /// The editor that the delegate makes for a cell, with the data of the cell. Fails the test if it has another class.
     template <class Editor>
     Editor* open(int row, int column, const QVariant& data)
     {
         m_model.setData(index(row, column), data);
-        QWidget* const editor = m_delegate.createEditor(m_view.viewport(), {}, index(row, column));
-        if (editor != nullptr)
-            m_delegate.setEditorData(editor, index(row, column));
-        return qobject_cast<Editor*>(editor);
+        auto* const editor = qobject_cast<Editor*>(m_delegate.createEditor(m_view.viewport(), {}, index(row, column)));
+        if (editor == nullptr)
+            throw std::logic_error("the delegate makes no editor of this class");
+        m_delegate.setEditorData(editor, index(row, column));
+        return editor;
     }
     QString commit(QWidget* editor, int row, int column)
     {
@@ -150,7 +155,6 @@ TEST(ComboBoxItemDelegate, OffersThreeWordsWithTheRowCountedFromZero)
     ComboBoxItemDelegate delegate;
     Cells cells(delegate);
     const auto* const box = cells.open<QComboBox>(0, 1, "");
-    ASSERT_NE(box, nullptr);
     EXPECT_EQ(itemTexts(*box), QStringList({"one in row 0", "two in row 0", "three in row 0"}));
     EXPECT_EQ(itemTexts(*cells.open<QComboBox>(2, 1, "")),
               QStringList({"one in row 2", "two in row 2", "three in row 2"}));
@@ -161,7 +165,6 @@ TEST(ComboBoxItemDelegate, EditsOtherColumnsAsQtDoes)
     ComboBoxItemDelegate delegate;
     Cells cells(delegate);
     auto* const line = cells.open<QLineEdit>(0, 2, "text");
-    ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->text(), "text");
     line->setText("other");
     EXPECT_EQ(cells.commit(line, 0, 2), "other");
@@ -232,7 +235,6 @@ TEST(DateDelegate, WritesTheLastOfFebruaryOfALeapYearAsAnIsoDate)
     DateDelegate delegate;
     Cells cells(delegate);
     auto* const editor = cells.open<QDateTimeEdit>(0, 0, "2020-01-31");
-    ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->date(), QDate(2020, 1, 31));
     editor->setDate(QDate(2024, 2, 29));
     EXPECT_EQ(cells.commit(editor, 0, 0), "2024-02-29");
@@ -259,8 +261,68 @@ TEST(DateDelegate, ShowsNoDateForAnotherFormOfText)
     {
         auto* const editor = cells.open<QDateTimeEdit>(0, 0, text);
         EXPECT_EQ(editor->text(), "") << text;
-        EXPECT_EQ(cells.commit(editor, 0, 0), "") << text;
+        EXPECT_EQ(cells.commit(editor, 0, 0), text);
     }
+}
+
+/// A table with a text that is no date, in the first cell, whose editor can be opened.
+class DateTable
+{
+public:
+    DateTable() : m_cells(m_delegate)
+    {
+        m_cells.model().setData(m_cells.index(0, 0), "tomorrow");
+        m_cells.view().show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_cells.view()));
+        m_cells.view().setCurrentIndex(m_cells.index(0, 0));
+    }
+    QTableView& view() { return m_cells.view(); }
+    QString text() const { return m_cells.index(0, 0).data().toString(); }
+    QModelIndex otherCell() const { return m_cells.index(1, 1); }
+    QDateTimeEdit* open()
+    {
+        QTest::keyClick(&view(), Qt::Key_F2);
+        return qobject_cast<QDateTimeEdit*>(view().indexWidget(m_cells.index(0, 0)));
+    }
+    bool isClosed() { return view().indexWidget(m_cells.index(0, 0)) == nullptr; }
+
+private:
+    DateDelegate m_delegate;
+    Cells m_cells;
+};
+
+TEST(DateDelegate, KeepsATextThatIsNoDateWhenItsEditorIsOpenedAndClosed)
+{
+    DateTable table;
+    const std::vector<std::function<void(QDateTimeEdit*)>> ways{
+        [](QDateTimeEdit* editor) { QTest::keyClick(editor, Qt::Key_Return); },
+        [](QDateTimeEdit* editor) { QTest::keyClick(editor, Qt::Key_Escape); },
+        [](QDateTimeEdit* editor) { QTest::keyClick(editor, Qt::Key_Tab); },
+        [&table](QDateTimeEdit*) {
+            table.view().setFocus();
+            table.view().setCurrentIndex(table.otherCell());
+        },
+    };
+    for (const auto& close : ways) {
+        table.view().setCurrentIndex(table.view().model()->index(0, 0));
+        QDateTimeEdit* const editor = table.open();
+        ASSERT_NE(editor, nullptr);
+        EXPECT_EQ(editor->text().trimmed(), "");
+        close(editor);
+        EXPECT_TRUE(QTest::qWaitFor([&table] { return table.isClosed(); }));
+        EXPECT_EQ(table.text(), "tomorrow");
+    }
+}
+
+TEST(DateDelegate, TakesADateTypedOverATextThatIsNoDate)
+{
+    DateTable table;
+    QDateTimeEdit* const editor = table.open();
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClicks(editor, "20240229");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&table] { return table.isClosed(); }));
+    EXPECT_EQ(table.text(), "2024-02-29");
 }
 
 TEST(DateDelegate, TakesADateTypedWhereNoneWasShown)

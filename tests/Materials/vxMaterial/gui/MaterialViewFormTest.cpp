@@ -236,7 +236,7 @@ TEST(MaterialView, IsTranslatedInTheContextOfItsForm)
     const vxtest::TestTranslator translator(vxtest::Translations{{"MaterialWidget||Library", "Bibliothek"},
                                                                  {"MaterialWidget||Apply", "Anwenden"},
                                                                  {"vxMat::MaterialBase||Concrete", "Beton"},
-                                                                 {"vxMat::MaterialProperty|name|Density", "Dichte"}});
+                                                                 {"vxMat::PropertyName||Density", "Dichte"}});
     Editor editor;
     EXPECT_EQ(editor.child<QTabWidget>("tabWidget").tabText(0), "Bibliothek");
     EXPECT_EQ(editor.child<QPushButton>("btnApply").text(), "Anwenden");
@@ -251,7 +251,7 @@ TEST(MaterialView, FollowsAChangeOfTheLanguageWithoutTouchingItsRows)
     {
         const vxtest::TestTranslator translator(vxtest::Translations{{"MaterialWidget||Clear", "Leeren"},
                                                                      {"vxMat::MaterialBase||Concrete", "Beton"},
-                                                                     {"vxMat::MaterialProperty|name|Density", "Dichte"},
+                                                                     {"vxMat::PropertyName||Density", "Dichte"},
                                                                      {"MatGui::SheetTableView||Value", "Wert"}});
         QCoreApplication::sendPostedEvents();
         EXPECT_EQ(editor.child<QPushButton>("btnClear").text(), "Leeren");

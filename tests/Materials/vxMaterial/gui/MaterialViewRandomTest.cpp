@@ -14,7 +14,7 @@ namespace {
 
 using vxtest::Editor;
 
-/// What a patient colleague notes down while somebody clicks about in the editor.
+/// What the editor must show after the actions so far.
 struct Notes
 {
     std::multiset<int> rows;
@@ -24,9 +24,9 @@ struct Notes
     {
         rows.clear();
         checked.clear();
-        for (const auto& [key, property] : material.properties) {
+        for (const auto& [slot, property] : material.properties) {
             rows.insert(property->id);
-            checked.insert(key);
+            checked.insert(slot);
         }
     }
     void toggle(int id)
@@ -150,10 +150,12 @@ private:
             ++refused;
             return;
         }
-        std::set<int> keys;
-        for (const auto& [key, held] : after)
-            keys.insert(key);
-        ASSERT_EQ(keys, std::set<int>(m_notes.rows.begin(), m_notes.rows.end()));
+        std::set<int> appliedSlots;
+        for (const auto& [slot, held] : after)
+            appliedSlots.insert(slot);
+        ASSERT_EQ(appliedSlots, std::set<int>(m_notes.rows.begin(), m_notes.rows.end()));
+        // The editor shows the material: of two rows of one id, one is left.
+        m_notes.show(m_editor.material());
         ++applied;
     }
 
@@ -174,7 +176,7 @@ TEST(MaterialViewRandom, StaysConsistentThroughThousandsOfClicks)
         if (HasFatalFailure())
             return;
     }
-    // Both outcomes have been met often enough to mean something.
+    // Both outcomes have occurred often enough.
     EXPECT_GT(user.applied, 10);
     EXPECT_GT(user.refused, 10);
 }

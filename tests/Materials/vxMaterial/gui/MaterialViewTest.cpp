@@ -336,7 +336,9 @@ TEST(MaterialView, TakesOverTextThatIsStillBeingTypedOnApply)
     editor.table().setFocus();
     editor.table().setCurrentIndex(editor.table().model()->index(editor.rowOf(5), 2));
     QTest::keyClick(&editor.table(), Qt::Key_F2);
-    vxtest::openEditor(editor.table())->setText("123");
+    QLineEdit* const line = vxtest::openEditor(editor.table());
+    ASSERT_NE(line, nullptr);
+    line->setText("123");
     EXPECT_TRUE(apply(editor));
     EXPECT_EQ(editor.material().properties.at(5)->value, 123.0);
 }
@@ -466,7 +468,7 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char* context, const char* text, const char*, int) const override
     {
-        if (armed && qstrcmp(context, "vxMat::MaterialProperty") == 0)
+        if (armed && qstrncmp(context, "vxMat::Property", 15) == 0)
             throw std::runtime_error("no memory");
         (void)text;
         return {};
@@ -669,7 +671,9 @@ TEST(MaterialView, AsksAboutTextThatIsStillBeingTyped)
     editor.table().setFocus();
     editor.table().setCurrentIndex(editor.table().model()->index(editor.rowOf(5), 2));
     QTest::keyClick(&editor.table(), Qt::Key_F2);
-    vxtest::openEditor(editor.table())->setText("123");
+    QLineEdit* const line = vxtest::openEditor(editor.table());
+    ASSERT_NE(line, nullptr);
+    line->setText("123");
     EXPECT_EQ(closeAnswering(QMessageBox::Apply).size(), 1U);
     EXPECT_TRUE(editor.isClosed());
     EXPECT_EQ(editor.material().properties.at(5)->value, 123.0);

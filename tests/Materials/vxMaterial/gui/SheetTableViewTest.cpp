@@ -476,8 +476,8 @@ TEST(SheetTableView, OpensNoEditorForNameOrDescription)
         const QPoint position = sheet.table.visualRect(index).center();
         QTest::mouseClick(sheet.table.viewport(), Qt::LeftButton, {}, position);
         QTest::mouseDClick(sheet.table.viewport(), Qt::LeftButton, {}, position);
-        QTest::keyClick(&sheet.table, Qt::Key_F2);
         QTest::keyClick(&sheet.table, Qt::Key_A);
+        EXPECT_FALSE(sheet.table.edit(index, QAbstractItemView::AllEditTriggers, nullptr));
         EXPECT_EQ(vxtest::openEditor(sheet.table), nullptr) << column;
         EXPECT_FALSE(index.flags() & Qt::ItemIsEditable) << column;
     }
@@ -537,7 +537,9 @@ TEST(SheetTableView, TakesOverWhatIsStillBeingTyped)
     ASSERT_TRUE(sheet.show());
     sheet.table.setCurrentIndex(sheet.model().index(1, 2));
     QTest::keyClicks(&sheet.table, "3");
-    QTest::keyClicks(vxtest::openEditor(sheet.table), "5");
+    QLineEdit* const editor = vxtest::openEditor(sheet.table);
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClicks(editor, "5");
     sheet.table.finishEditing();
     EXPECT_EQ(sheet.cell(1, 2), "35");
     EXPECT_EQ(vxtest::openEditor(sheet.table), nullptr);
@@ -599,6 +601,7 @@ TEST(SheetTableDelegate, CommitsAndThenClosesWithoutAHintOnReturnPressed)
     QStandardItemModel model(1, 1);
     QWidget parent;
     auto* const line = qobject_cast<QLineEdit*>(delegate.createEditor(&parent, {}, model.index(0, 0)));
+    ASSERT_NE(line, nullptr);
     QStringList order;
     QObject::connect(&delegate, &QAbstractItemDelegate::commitData, [&](QWidget* editor) {
         EXPECT_EQ(editor, line);
@@ -643,7 +646,9 @@ TEST(SheetTableView, GrowsRowsInWhichALongTextWraps)
     const int before = sheet.table.rowHeight(2);
     sheet.table.setCurrentIndex(sheet.model().index(2, 2));
     QTest::keyClick(&sheet.table, Qt::Key_F2);
-    vxtest::openEditor(sheet.table)->setText(list);
+    QLineEdit* const editor = vxtest::openEditor(sheet.table);
+    ASSERT_NE(editor, nullptr);
+    editor->setText(list);
     sheet.table.finishEditing();
     EXPECT_GT(sheet.table.rowHeight(2), 3 * before);
 }
@@ -830,11 +835,11 @@ TEST(SheetTableView, ChangesNoWordByShowingAndApplyingIt)
 TEST(SheetTableView, PassesTheTextsOfARowThroughTheTranslator)
 {
     const vxtest::TestTranslator translator(
-        vxtest::Translations{{"vxMat::MaterialProperty|name|Density", "Dichte"},
-                             {"vxMat::MaterialProperty|value|1", "eins"},
-                             {"vxMat::MaterialProperty|description|Mass density", "Massendichte"},
-                             {"vxMat::MaterialProperty|key|rho", "r"},
-                             {"vxMat::MaterialProperty|unit|kg/m3", "Kilo"},
+        vxtest::Translations{{"vxMat::PropertyName||Density", "Dichte"},
+                             {"vxMat::PropertyValue||1", "eins"},
+                             {"vxMat::PropertyDescription||Mass density", "Massendichte"},
+                             {"vxMat::PropertyKey||rho", "r"},
+                             {"vxMat::PropertyUnit||kg/m3", "Kilo"},
                              {"MatGui::SheetTableView||Name", "Bezeichnung"}});
     Sheet sheet;
     sheet.tick(4);
@@ -844,8 +849,7 @@ TEST(SheetTableView, PassesTheTextsOfARowThroughTheTranslator)
 
 TEST(SheetTableView, DoesNotTakeAKeyForANameThatReadsAlike)
 {
-    const vxtest::TestTranslator translator(
-        vxtest::Translations{{"vxMat::MaterialProperty|name|Plasticity", "Plastizität"}});
+    const vxtest::TestTranslator translator(vxtest::Translations{{"vxMat::PropertyName||Plasticity", "Plastizität"}});
     Sheet sheet;
     sheet.tick(32);
     EXPECT_EQ(sheet.cell(0, 1), QString::fromUtf8("Plastizität"));

@@ -257,7 +257,7 @@ TEST(TableValidation, ReadsNumbersAlikeUnderALocaleWithCommas)
 TEST(TableValidation, TranslatesTheAllowedWordsFirst)
 {
     const vxtest::TestTranslator translator(
-        vxtest::Translations{{"vxMat::MaterialProperty|value|Mises", QString::fromUtf8("Ärmel")}});
+        vxtest::Translations{{"vxMat::PropertyValue||Mises", QString::fromUtf8("Ärmel")}});
     EXPECT_EQ(check({{33, QString::fromUtf8("ÄRMEL")}}), "");
     EXPECT_EQ(check({{33, QString::fromUtf8("ärmel")}}), "");
     EXPECT_EQ(check({{33, "Mises"}}), about(yieldText, 1));

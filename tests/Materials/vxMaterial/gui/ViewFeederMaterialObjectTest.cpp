@@ -9,6 +9,7 @@
 #include "Gui/Translator.h"
 
 #include <QMenu>
+#include <QWindow>
 
 #include <type_traits>
 
@@ -241,9 +242,22 @@ TEST_F(MaterialNode, ShowsTheMaterialInTheWindowOfTheEditor)
     EXPECT_EQ(icon, QIcon(Gui::PictureFactory::get_pixmap(":icons/norvex_materialobject.svg")).pixmap(32).toImage());
 }
 
+TEST_F(MaterialNode, ShowsALabelLiterallyInTheTitleOfTheEditor)
+{
+    material.label.setValue("[*] <b>Steel</b>[*] 100 %1");
+    node.on_double_clicked();
+    MatGui::MaterialView* const editor = activeEditor();
+    ASSERT_NE(editor, nullptr);
+    QWidget frame;
+    frame.setWindowTitle(editor->windowTitle());
+    frame.show();
+    EXPECT_EQ(frame.windowHandle()->title().section(QStringLiteral(" - "), 0, 0), "[*] <b>Steel</b>[*] 100 %1");
+}
+
 TEST_F(MaterialNode, FollowsTheLabelInTheTitleOfTheEditor)
 {
     node.on_double_clicked();
+    ASSERT_NE(activeEditor(), nullptr);
     material.label.setValue("Beam");
     EXPECT_EQ(activeEditor()->windowTitle(), "Beam[*]");
     addMaterial(project, "Other").label.setValue("Another");

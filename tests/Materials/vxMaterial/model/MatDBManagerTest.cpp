@@ -107,8 +107,8 @@ TEST(MatDBManager, HoldsTheLargestDoubleForElasticityAndTwoDensitiesForTheAcoust
     EXPECT_EQ(manager.propertyCatalogue.at(31)->value, DBL_MAX);
     const auto& acoustic = *manager.materials.at(49);
     ASSERT_THAT(acoustic.properties, SizeIs(2));
-    for (const auto& [key, property] : acoustic.properties)
-        EXPECT_NE(dynamic_cast<const vxMat::Density*>(property.get()), nullptr) << key;
+    for (const auto& [slot, property] : acoustic.properties)
+        EXPECT_NE(dynamic_cast<const vxMat::Density*>(property.get()), nullptr) << slot;
 }
 
 } // namespace

@@ -24,7 +24,7 @@ using vxMat::eMaterialType;
 using vxMat::MaterialBase;
 using vxMat::MaterialProperty;
 
-/// The value of a property as the table of materials gives it.
+/// Expects the value that the table of materials gives for a property.
 void expectValue(const MaterialProperty& property, const std::string& value)
 {
     switch (vxMat::getValueKind(property.id)) {
@@ -57,14 +57,19 @@ TEST(MaterialLibrary, HoldsExactlyTheValuesOfItsTable)
         ++counts[type];
     }
     ASSERT_EQ(counts.size(), 26U);
-    for (const auto& [type, count] : counts)
-        EXPECT_EQ(createLibraryMaterial(static_cast<eMaterialType>(type))->properties.size(), count) << type;
+    for (const auto& [type, count] : counts) {
+        const auto material = createLibraryMaterial(static_cast<eMaterialType>(type));
+        ASSERT_NE(material, nullptr) << type;
+        EXPECT_EQ(material->properties.size(), count) << type;
+    }
 }
 
 TEST(MaterialLibrary, GivesEveryPropertyTheMetadataOfItsQuantity)
 {
     for (const auto& row : vxtest::readTable("library.tsv")) {
         const auto material = createLibraryMaterial(static_cast<eMaterialType>(std::atoi(row[1].c_str())));
+        ASSERT_NE(material, nullptr) << row[0];
+        ASSERT_TRUE(material->hasProperty(std::atoi(row[4].c_str()))) << row[0] << " " << row[5];
         const MaterialProperty& property = *material->findProperty(std::atoi(row[4].c_str()));
         const auto quantity = vxMat::findPropertyRecord(property.id)->create();
         const MaterialProperty& fresh = *quantity;
@@ -107,6 +112,7 @@ TEST(MaterialLibrary, KeepsTheCapitalsOfTheSecondPlasticExampleAndItsMissingHard
 TEST(MaterialLibrary, KeepsTheSpeedOfSoundOfAcousticMaterialsAsASecondDensity)
 {
     const vxMat::AcousticMaterial2 material;
+    ASSERT_TRUE(material.hasProperty(401));
     const MaterialProperty& sound = *material.findProperty(401);
     EXPECT_EQ(sound.id, 4);
     EXPECT_EQ(sound.value, 400.0);
@@ -117,7 +123,7 @@ TEST(MaterialLibrary, KeepsTheSpeedOfSoundOfAcousticMaterialsAsASecondDensity)
     EXPECT_NE(&sound, material.findProperty(4));
 }
 
-TEST(MaterialLibrary, UsesNeitherGroupFiveNorAnIdOfItsOwn)
+TEST(MaterialLibrary, UsesNeitherGroupFiveNorAnIdOtherThanZero)
 {
     for (const auto& entry : vxMat::libraryEntries()) {
         const auto material = entry.create();
@@ -140,13 +146,49 @@ TEST(MaterialLibrary, NamesItsGroups)
         EXPECT_STREQ(vxMat::getLibraryGroupName(group), "");
 }
 
-TEST(MaterialLibrary, IsBuiltInItsSettledOrder)
+TEST(MaterialLibrary, IsBuiltInAFixedOrder)
 {
     std::vector<int> order;
     for (const auto& entry : vxMat::libraryEntries())
         order.push_back(static_cast<int>(entry.type));
     EXPECT_THAT(order, ElementsAre(0, 26, 4, 11, 46, 10, 27, 40, 39, 36, 38, 41, 32, 33, 34, 35, 42, 43, 44, 45, 47, 48,
                                    49, 50, 2, 53));
+}
+
+TEST(MaterialLibrary, IsListedGroupByGroupInTheOrderOfItsTables)
+{
+    const std::vector<eMaterialType> order{
+        eMaterialType::StructuralSteel,
+        eMaterialType::AluminumAlloy,
+        eMaterialType::StainlessSteel,
+        eMaterialType::Concrete,
+        eMaterialType::CopperAlloy,
+        eMaterialType::CastIron,
+        eMaterialType::TitaniumBeta21S,
+        eMaterialType::StructuralSteelNL,
+        eMaterialType::StainlessSteelNL,
+        eMaterialType::AluminumAlloyNL,
+        eMaterialType::CopperAlloyNL,
+        eMaterialType::TitaniumAlloyNL,
+        eMaterialType::PlasticMaterial1,
+        eMaterialType::PlasticMaterial2,
+        eMaterialType::ViscoElasticMaterial1,
+        eMaterialType::CreepMaterial1,
+        eMaterialType::Elastomer1,
+        eMaterialType::Elastomer2,
+        eMaterialType::Elastomer3,
+        eMaterialType::NeopreneRubber,
+        eMaterialType::Air,
+        eMaterialType::Water,
+        eMaterialType::EMMaterial1,
+        eMaterialType::EMMaterial2,
+        eMaterialType::AcousticMaterial1,
+        eMaterialType::AcousticMaterial2,
+    };
+    for (std::size_t position = 0; position < order.size(); ++position)
+        EXPECT_EQ(vxMat::getLibraryPosition(order[position]), position);
+    for (const int type : {1, 37, 54, -1})
+        EXPECT_EQ(vxMat::getLibraryPosition(static_cast<eMaterialType>(type)), 26U) << type;
 }
 
 TEST(MaterialLibrary, MakesNothingForANumberThatSelectsNoMaterial)
@@ -185,7 +227,7 @@ TEST(MaterialLibrary, HasAClassForEachMaterial)
     EXPECT_EQ(vxMat::AcousticMaterial2().name, "Acoustic Material 2");
 }
 
-TEST(MaterialLibrary, MakesAMaterialOfItsOwnClass)
+TEST(MaterialLibrary, MakesEachMaterialOfItsClass)
 {
     std::set<std::type_index> classes;
     for (const auto& entry : vxMat::libraryEntries()) {

@@ -39,7 +39,7 @@ TEST(MaterialProperty, StartsEmptyAndUndefined)
     EXPECT_FALSE(property.marked);
 }
 
-TEST(MaterialPropertyFromText, TakesOverIdNameKeyAndDescriptionButNoUnit)
+TEST(MaterialPropertyFromText, StoresIdNameKeyAndDescriptionButNoUnit)
 {
     const MaterialProperty property = fromText(5, "2e11");
     EXPECT_EQ(property.id, 5);
@@ -89,7 +89,7 @@ TEST(MaterialPropertyFromText, GivesAnEmptyListForATextWithoutNumbers)
     EXPECT_THAT(fromText(39, "abc").values, IsEmpty());
 }
 
-TEST(MaterialPropertyFromText, KeepsAWordAsItStandsBlanksIncluded)
+TEST(MaterialPropertyFromText, StoresAWordUnchangedWithItsBlanks)
 {
     const MaterialProperty property = fromText(33, " Mises");
     EXPECT_EQ(property.text, " Mises");
@@ -97,7 +97,7 @@ TEST(MaterialPropertyFromText, KeepsAWordAsItStandsBlanksIncluded)
     EXPECT_EQ(fromText(37, "no such word").text, "no such word");
 }
 
-TEST(MaterialPropertyFromText, IgnoresWhatStandsBehindANumber)
+TEST(MaterialPropertyFromText, IgnoresTextBehindANumber)
 {
     EXPECT_EQ(fromText(4, "  7850 kg").value, 7850.0);
 }
@@ -134,7 +134,7 @@ TEST(MaterialPropertyFromNumber, HasADashForUnitAndNoCategory)
     EXPECT_THAT(property.values, IsEmpty());
 }
 
-TEST(MaterialPropertyCopy, TakesEverythingButTheMarkAndTheClass)
+TEST(MaterialPropertyCopy, HasEverythingExceptTheMarkAndTheClass)
 {
     vxMat::PlasticYieldStress source({1.0, 2.0});
     source.value = 3.0;
@@ -159,7 +159,7 @@ TEST(MaterialPropertyCopy, TakesEverythingButTheMarkAndTheClass)
     EXPECT_EQ(typeid(copy), typeid(MaterialProperty));
 }
 
-TEST(MaterialProperty, SetsNoMetadataOfItsOwn)
+TEST(MaterialProperty, IsNotChangedByInitProperty)
 {
     MaterialProperty property(4, "mine", "k", 1.0);
     property.initProperty();
@@ -167,7 +167,7 @@ TEST(MaterialProperty, SetsNoMetadataOfItsOwn)
     EXPECT_EQ(property.unit, "-");
 }
 
-TEST(MaterialProperty, AnswersValueAndText)
+TEST(MaterialProperty, ReturnsValueAndText)
 {
     const MaterialProperty property = fromText(33, "Mises");
     EXPECT_EQ(property.getValue(), 0.0);
@@ -184,7 +184,7 @@ TEST(PropertyCategoryName, IsUndefinedOutsideZeroToEight)
         EXPECT_STREQ(vxMat::getPropertyCategoryName(category), "Undefined");
 }
 
-TEST(PropertyTypeName, KnowsFiveQuantitiesAlone)
+TEST(PropertyTypeName, IsEmptyForAllButFiveIds)
 {
     EXPECT_STREQ(vxMat::getPropertyTypeName(4), "Density");
     EXPECT_STREQ(vxMat::getPropertyTypeName(201), "Thermal Expansion");

@@ -36,7 +36,7 @@ private:
 static_assert(!std::is_copy_constructible_v<MaterialBase> && !std::is_copy_assignable_v<MaterialBase>);
 static_assert(!std::is_copy_constructible_v<CMaterial> && !std::is_copy_assignable_v<CMaterial>);
 
-TEST(Material, StartsWithItsClassForAName)
+TEST(Material, StartsWithTheNameOfItsClass)
 {
     const MaterialBase base;
     EXPECT_EQ(base.id, 0);
@@ -56,6 +56,7 @@ TEST(Material, AddsAListReadFromText)
     double number = 7.0;
     EXPECT_TRUE(material.getPropertyValue(38, number));
     EXPECT_EQ(number, 0.0);
+    ASSERT_TRUE(material.hasProperty(38));
     const MaterialProperty& property = *material.findProperty(38);
     EXPECT_EQ(property.id, 38);
     EXPECT_EQ(property.name, "Yield stress");
@@ -71,8 +72,8 @@ TEST(Material, IsUnchangedWhenAnAddedTextCannotBeRead)
     material.addProperty(4, "Density", "7850", "rho", "");
     EXPECT_THROW(material.addProperty(4, "Density", "heavy", "rho", ""), std::invalid_argument);
     EXPECT_THROW(material.addProperty(5, "Young's modulus", "1e999", "E", ""), std::out_of_range);
-    EXPECT_EQ(material.properties.size(), 1U);
-    EXPECT_EQ(material.findProperty(4)->value, 7850.0);
+    ASSERT_EQ(material.properties.size(), 1U);
+    EXPECT_EQ(material.properties.at(4)->value, 7850.0);
 }
 
 TEST(Material, DestroysThePropertyThatALaterOneReplaces)
@@ -107,7 +108,7 @@ TEST(Material, DestroysItsPropertiesWithItself)
     EXPECT_EQ(alive, 0);
 }
 
-TEST(Material, AnswersByKeyAndNotByThePropertysId)
+TEST(Material, FindsPropertiesByTheirSlotAndNotByTheirId)
 {
     CMaterial material;
     material.setProperty(401, std::make_unique<vxMat::Density>(343.0));
@@ -115,14 +116,14 @@ TEST(Material, AnswersByKeyAndNotByThePropertysId)
     EXPECT_FALSE(material.hasProperty(4));
 }
 
-TEST(Material, LeavesTheNumberAloneWhenItHasNoSuchProperty)
+TEST(Material, LeavesTheNumberUnchangedForAnEmptySlot)
 {
     double number = 7.0;
     EXPECT_FALSE(CMaterial().getPropertyValue(4, number));
     EXPECT_EQ(number, 7.0);
 }
 
-TEST(Material, AnswersTheEmptyTextWhenItHasNoSuchProperty)
+TEST(Material, ReturnsTheEmptyTextForAnEmptySlot)
 {
     CMaterial material;
     EXPECT_EQ(material.getPropertyText(33), "");
@@ -130,7 +131,7 @@ TEST(Material, AnswersTheEmptyTextWhenItHasNoSuchProperty)
     EXPECT_EQ(material.getPropertyText(33), "Mises");
 }
 
-TEST(Material, AnswersALastingEmptyListWhenItHasNoSuchProperty)
+TEST(Material, ReturnsALastingEmptyListForAnEmptySlot)
 {
     CMaterial material;
     const auto& none = material.getPropertyValues(38);
@@ -181,7 +182,7 @@ TEST(CopyPropertiesFrom, LosesNothingWhenAMaterialIsCopiedOntoItself)
     material.setProperty(4, std::make_unique<vxMat::Density>(7850.0));
     material.copyPropertiesFrom(material);
     ASSERT_EQ(material.properties.size(), 1U);
-    EXPECT_EQ(material.findProperty(4)->value, 7850.0);
+    EXPECT_EQ(material.properties.at(4)->value, 7850.0);
 }
 
 TEST(CopyFrom, ReplacesFivePropertiesByCopiesOfThree)
@@ -205,7 +206,7 @@ TEST(CopyFrom, ReplacesFivePropertiesByCopiesOfThree)
     }
 }
 
-TEST(CopyFrom, MakesABuiltInMaterialAUsersOwn)
+TEST(CopyFrom, MakesACopyOfABuiltInMaterialForTheUser)
 {
     CMaterial material("mine");
     material.id = 5;
@@ -215,7 +216,7 @@ TEST(CopyFrom, MakesABuiltInMaterialAUsersOwn)
     EXPECT_EQ(material.libraryGroup, 0);
 }
 
-TEST(CopyFrom, LeavesTheGroupOfTheTargetAlone)
+TEST(CopyFrom, KeepsTheGroupOfTheTarget)
 {
     CMaterial material;
     material.libraryGroup = 3;
@@ -232,15 +233,65 @@ TEST(CopyFrom, EndsTheNameAtItsFirstZeroByte)
     EXPECT_EQ(target.name, "Steel");
 }
 
-TEST(CopyFrom, KeepsTheKeysOfTheAcousticMaterial)
+TEST(CopyFrom, KeepsTheSlotsOfTheAcousticMaterial)
 {
     CMaterial copy;
     copy.copyFrom(vxMat::AcousticMaterial1());
     ASSERT_EQ(copy.properties.size(), 2U);
     ASSERT_TRUE(copy.hasProperty(4));
     ASSERT_TRUE(copy.hasProperty(401));
-    EXPECT_EQ(copy.findProperty(4)->id, 4);
-    EXPECT_EQ(copy.findProperty(401)->id, 4);
+    EXPECT_EQ(copy.properties.at(4)->id, 4);
+    EXPECT_EQ(copy.properties.at(401)->id, 4);
+}
+
+TEST(CopyAllFrom, CopiesEveryFieldAndKeepsTheSlots)
+{
+    vxMat::AcousticMaterial1 source;
+    source.id = -7;
+    source.name = std::string("Air\0hidden", 10);
+    CMaterial target("before");
+    target.setProperty(5, std::make_unique<vxMat::YoungsModulus>(2e11));
+    target.copyAllFrom(source);
+    EXPECT_EQ(target.id, -7);
+    EXPECT_EQ(target.name, source.name);
+    EXPECT_EQ(target.libraryGroup, 7);
+    ASSERT_EQ(target.properties.size(), 2U);
+    ASSERT_TRUE(target.hasProperty(4));
+    ASSERT_TRUE(target.hasProperty(401));
+    EXPECT_EQ(target.properties.at(401)->id, 4);
+    EXPECT_EQ(target.properties.at(401)->value, source.properties.at(401)->value);
+    EXPECT_NE(target.findProperty(401), source.findProperty(401));
+}
+
+TEST(CopyAllFrom, LosesNothingWhenAMaterialIsCopiedOntoItself)
+{
+    CMaterial material("Steel");
+    material.id = 3;
+    material.setProperty(4, std::make_unique<vxMat::Density>(7850.0));
+    material.copyAllFrom(material);
+    EXPECT_EQ(material.id, 3);
+    EXPECT_EQ(material.name, "Steel");
+    ASSERT_EQ(material.properties.size(), 1U);
+    EXPECT_EQ(material.properties.at(4)->value, 7850.0);
+}
+
+TEST(Swap, ExchangesEveryFieldWithoutCopyingProperties)
+{
+    CMaterial one("Steel");
+    one.id = 3;
+    one.libraryGroup = 1;
+    one.setProperty(4, std::make_unique<vxMat::Density>(7850.0));
+    const MaterialProperty* const density = one.findProperty(4);
+    vxMat::MaterialBase other;
+    one.swap(other);
+    EXPECT_EQ(other.id, 3);
+    EXPECT_EQ(other.name, "Steel");
+    EXPECT_EQ(other.libraryGroup, 1);
+    EXPECT_EQ(other.findProperty(4), density);
+    EXPECT_EQ(one.id, 0);
+    EXPECT_EQ(one.name, "MaterialBase");
+    EXPECT_EQ(one.libraryGroup, 0);
+    EXPECT_TRUE(one.properties.empty());
 }
 
 TEST(CopyAllFrom, TakesEveryFieldAndTheNumbersUnderWhichPropertiesAreHeld)
@@ -312,7 +363,8 @@ TEST(CopyTo, TakesIdNameAndPropertiesButNotTheGroup)
     EXPECT_EQ(target.id, 12);
     EXPECT_EQ(target.name, "Bronze");
     EXPECT_EQ(target.libraryGroup, 2);
-    EXPECT_EQ(target.findProperty(4)->value, 8800.0);
+    ASSERT_TRUE(target.hasProperty(4));
+    EXPECT_EQ(target.properties.at(4)->value, 8800.0);
 }
 
 TEST(CopyTo, TakesTheNameWholeAndAnIdOfZero)
@@ -326,13 +378,14 @@ TEST(CopyTo, TakesTheNameWholeAndAnIdOfZero)
     EXPECT_EQ(target.id, 0);
 }
 
-TEST(CopyTo, LeavesAMaterialThatIsItsOwnTargetAsItWas)
+TEST(CopyTo, LeavesAMaterialThatIsItsOwnTargetUnchanged)
 {
     CMaterial material("Bronze");
     material.setProperty(4, std::make_unique<vxMat::Density>(8800.0));
     material.copyTo(&material);
     EXPECT_EQ(material.name, "Bronze");
-    EXPECT_EQ(material.findProperty(4)->value, 8800.0);
+    ASSERT_TRUE(material.hasProperty(4));
+    EXPECT_EQ(material.properties.at(4)->value, 8800.0);
 }
 
 } // namespace

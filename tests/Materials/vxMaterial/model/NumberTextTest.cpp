@@ -294,4 +294,19 @@ TEST(AsciiCase, TouchesNothingButTheLettersAToZ)
     EXPECT_FALSE(vxMat::equalIgnoringAsciiCase("[", "{"));
 }
 
+TEST(ReadLeadingNumber, TellsTheTextBehindTheNumber)
+{
+    const auto read = [](std::string_view text) {
+        const vxMat::LeadingNumber leading = vxMat::readLeadingNumber(text);
+        return std::pair(leading.number, std::string(leading.rest));
+    };
+    EXPECT_EQ(read("  7850 kg "), std::pair(7850.0, std::string(" kg ")));
+    EXPECT_EQ(read("2,1e11"), std::pair(2.0, std::string(",1e11")));
+    EXPECT_EQ(read("-1e"), std::pair(-1.0, std::string("e")));
+    EXPECT_EQ(read("0x1g"), std::pair(1.0, std::string("g")));
+    EXPECT_EQ(read("5"), std::pair(5.0, std::string()));
+    EXPECT_THROW(read("kg"), std::invalid_argument);
+    EXPECT_THROW(read("1e999 kg"), std::out_of_range);
+}
+
 } // namespace

@@ -84,10 +84,22 @@ TEST(PropertyCatalogue, IsBuiltPhysicsByPhysics)
                                    35, 36, 41, 38, 39, 42, 44, 43, 45, 46, 47, 48, 301, 302, 303));
 }
 
-TEST(PropertyCatalogue, KnowsNoQuantityInItsGaps)
+TEST(PropertyCatalogue, HasNoQuantityInItsGaps)
 {
     for (const int id : {0, 40, 201, 24, 400, -4})
         EXPECT_EQ(findPropertyRecord(id), nullptr) << id;
+    for (const int id : {402, 2147483647, -2147483647 - 1})
+        EXPECT_EQ(findPropertyRecord(id), nullptr) << id;
+}
+
+TEST(PropertyCatalogue, FindsEveryQuantityByItsId)
+{
+    for (std::size_t position = 0; position < vxMat::catalogueSize; ++position) {
+        const vxMat::PropertyRecord& record = propertyRecords()[position];
+        EXPECT_EQ(findPropertyRecord(record.id), &record) << record.name;
+        EXPECT_EQ(vxMat::getCataloguePosition(record.id), position) << record.name;
+    }
+    EXPECT_EQ(vxMat::getCataloguePosition(40), 36U);
 }
 
 TEST(PropertyCatalogue, ReadsTypedTextByTheKindExceptForTwoSwitches)
@@ -128,7 +140,7 @@ TEST(PropertyCatalogue, GivesTheYieldTypeAWordAndNoNumber)
     EXPECT_EQ(create(33)->value, 0.0);
 }
 
-TEST(PropertyCatalogue, MakesAnObjectOfTheQuantitysOwnClass)
+TEST(PropertyCatalogue, MakesAnObjectOfTheClassOfTheQuantity)
 {
     const auto isA = [](int id, const std::type_info& type) {
         const auto property = create(id);
@@ -161,7 +173,7 @@ TEST(RelativePermittivity, HasADashForUnitNoDescriptionAndTheElectricCategory)
     EXPECT_EQ(vxMat::RelativePermittivity(5.0).name, "Relative permittivity");
 }
 
-TEST(RelativePermittivity, LeavesItsMetadataAloneWhenInitialisedAgain)
+TEST(RelativePermittivity, KeepsItsMetadataWhenInitialisedAgain)
 {
     vxMat::RelativePermittivity property;
     property.name = "mine";
@@ -180,7 +192,22 @@ TEST(QuantityClass, RestoresItsMetadataButNotItsValueWhenInitialisedAgain)
     EXPECT_EQ(density.value, 7850.0);
 }
 
-// Two switches take no value: they say all that they say by being there.
+TEST(QuantityClass, SetsADescriptionOnlyIfItHasOne)
+{
+    vxMat::Density density;
+    density.description = "mine";
+    density.initProperty();
+    EXPECT_EQ(density.description, "Mass density");
+    for (const auto& record : propertyRecords()) {
+        const auto property = record.create();
+        property->description = "mine";
+        property->initProperty();
+        // Relative permittivity has no description either, and initProperty does nothing for it.
+        EXPECT_EQ(property->description, *record.description != '\0' ? record.description : "mine") << record.name;
+    }
+}
+
+// Two switches take no value: their presence alone has a meaning.
 static_assert(!std::is_constructible_v<vxMat::IsotropicElasticity, double>);
 static_assert(!std::is_constructible_v<vxMat::Plasticity, double>);
 

@@ -94,8 +94,8 @@ TEST(PropertyRules, AcceptEveryMaterialOfTheLibrary)
     for (const auto& entry : vxMat::libraryEntries()) {
         const auto material = entry.create();
         CombinationCheck combination;
-        for (const auto& [key, property] : material->properties) {
-            combination.note(key);
+        for (const auto& [slot, property] : material->properties) {
+            combination.note(slot);
             const bool isWord = vxMat::getValueKind(property->id) == vxMat::eValueKind::Word;
             const std::string text = isWord ? property->text : vxMat::formatNumber(property->value);
             EXPECT_EQ(checkRow(property->id, text), nullptr) << material->name << " " << property->name;
@@ -133,15 +133,19 @@ TEST(PropertyRules, ReportTheFirstRowThatFailsAndNoOther)
     ASSERT_TRUE(failure);
     EXPECT_STREQ(failure->message, poissonMessage);
     EXPECT_EQ(failure->row, 1U);
-    EXPECT_EQ(vxMat::checkRows({{6, "0.3"}, {5, "x"}, {4, "0"}})->row, 3U);
+    const auto last = vxMat::checkRows({{6, "0.3"}, {5, "x"}, {4, "0"}});
+    ASSERT_TRUE(last);
+    EXPECT_EQ(last->row, 3U);
 }
 
 TEST(PropertyRules, CheckTheRowsBeforeTheirCombination)
 {
     const auto badDensity = vxMat::checkRows({{31, "1"}, {28, "1"}, {4, "0"}});
+    ASSERT_TRUE(badDensity);
     EXPECT_STREQ(badDensity->message, densityMessage);
     EXPECT_EQ(badDensity->row, 3U);
     const auto badCombination = vxMat::checkRows({{31, "1"}, {28, "1"}, {4, "1"}, {5, "1"}, {6, "0.3"}});
+    ASSERT_TRUE(badCombination);
     EXPECT_STREQ(badCombination->message, "Elasticity and hyper-elasticy cannot be used togeter!");
     EXPECT_EQ(badCombination->row, 0U);
 }
@@ -150,7 +154,9 @@ TEST(PropertyRules, AcceptATableWithoutRowsAndCheckEachOfTwoRowsOfOneQuantity)
 {
     EXPECT_FALSE(vxMat::checkRows({}));
     EXPECT_FALSE(vxMat::checkRows({{4, "1"}, {4, "2"}}));
-    EXPECT_EQ(vxMat::checkRows({{4, "1"}, {4, "0"}})->row, 2U);
+    const auto second = vxMat::checkRows({{4, "1"}, {4, "0"}});
+    ASSERT_TRUE(second);
+    EXPECT_EQ(second->row, 2U);
 }
 
 TEST(PropertyRules, TakeNoHexadecimalNumbers)
@@ -159,6 +165,44 @@ TEST(PropertyRules, TakeNoHexadecimalNumbers)
     EXPECT_STREQ(checkRow(6, "0x.4"), poissonMessage);
     EXPECT_STREQ(checkRow(4, "infinity"), densityMessage);
     EXPECT_EQ(checkRow(4, "inf"), nullptr);
+}
+
+/// What reading ignores and what it reads, as "ignored|read"; empty if it ignores nothing.
+std::string ignored(int id, std::string_view text)
+{
+    const auto found = vxMat::findIgnoredText(id, text);
+    return found ? found->text + '|' + found->readAs : "";
+}
+
+TEST(IgnoredText, IsWhatStandsBehindANumber)
+{
+    EXPECT_EQ(ignored(5, "210 GPa"), "GPa|210");
+    EXPECT_EQ(ignored(5, "2,1e11"), ",1e11|2");
+    EXPECT_EQ(ignored(4, " 7.85x "), "x|7.85");
+    EXPECT_EQ(ignored(5, "2e11 Pa steel"), "Pa steel|2e+11");
+    EXPECT_EQ(ignored(6, "0.3."), ".|0.3");
+    EXPECT_EQ(ignored(45, "1 on"), "on|1");
+}
+
+TEST(IgnoredText, IsAbsentWhenAllIsReadOrNothingCanBe)
+{
+    for (const char* const text : {"210", " 2.1e11\t", "-.5", "0x10", "inf", "", "stiff", "1e999", "1e999 Pa"})
+        EXPECT_EQ(ignored(5, text), "") << text;
+    EXPECT_EQ(ignored(31, "on"), "");
+    EXPECT_EQ(ignored(33, "7 Mises"), "");
+}
+
+TEST(IgnoredText, OfAListIsTheFirstPartThatIsNotOneNumber)
+{
+    EXPECT_EQ(ignored(38, "450 MPa, 608 MPa"), "MPa|450, 608");
+    EXPECT_EQ(ignored(38, "450, 608MPa"), "608MPa|450, 608");
+    EXPECT_EQ(ignored(38, "450-608"), "450-608|450, -608");
+    EXPECT_EQ(ignored(39, "1e, 2"), "1e|1, 2");
+    EXPECT_EQ(ignored(39, "none"), "none|");
+    EXPECT_EQ(ignored(39, "1, inf"), "inf|1");
+    EXPECT_EQ(ignored(39, "1 2,,;3;\n-.5e-3,"), "");
+    EXPECT_EQ(ignored(39, ""), "");
+    EXPECT_EQ(ignored(39, "1, 1e999, x"), "");
 }
 
 TEST(UnequalCurve, IsFoundInAMaterialThatHoldsBothLists)

@@ -133,9 +133,9 @@ TEST_F(DocumentMaterialTest, HandsOverCopiesByObjectIdUnderTheLabels)
     const MaterialObject& second = addSteel("Bolt");
     const vxCAE::CAEMaterials& materials = collected();
     EXPECT_THAT(materials.entries, SizeIs(2));
-    EXPECT_EQ(materials.getMaterial(first.getObjectId())->material->name, "Frame");
-    EXPECT_EQ(materials.getMaterial(second.getObjectId())->material->name, "Bolt");
-    EXPECT_NE(materials.getMaterial(first.getObjectId())->material.get(), first.getCMaterial());
+    EXPECT_EQ(materials.entries.at(first.getObjectId())->material->name, "Frame");
+    EXPECT_EQ(materials.entries.at(second.getObjectId())->material->name, "Bolt");
+    EXPECT_NE(materials.entries.at(first.getObjectId())->material.get(), first.getCMaterial());
     EXPECT_EQ(first.getCMaterial()->name, "Frame");
     EXPECT_EQ(second.getCMaterial()->name, "Bolt");
 }
@@ -147,7 +147,7 @@ TEST_F(DocumentMaterialTest, ReplacesTheSetWhenCollectedAgain)
     project->get_object(steel.getObjectId())->label.setValue("New");
     const vxCAE::CAEMaterials& materials = collected();
     EXPECT_THAT(materials.entries, SizeIs(1));
-    EXPECT_EQ(materials.getMaterial(steel.getObjectId())->material->name, "New");
+    EXPECT_EQ(materials.entries.at(steel.getObjectId())->material->name, "New");
     EXPECT_EQ(steel.getCMaterial()->name, "New");
 }
 

@@ -121,7 +121,7 @@ TEST_F(MaterialObjectTest, BecomesStructuralSteelForTypeZero)
     const MaterialObject& object = addSteel("Mine");
     EXPECT_EQ(object.getCMaterial()->name, "Structural Steel");
     EXPECT_EQ(object.getCMaterial()->libraryGroup, 0);
-    EXPECT_EQ(object.getCMaterial()->findProperty(vxMat::PropertyId::Density)->value, 7850);
+    EXPECT_EQ(object.getCMaterial()->properties.at(vxMat::PropertyId::Density)->value, 7850);
 }
 
 TEST_F(MaterialObjectTest, KeepsItsMaterialForEveryOtherTypeAndChecksItsState)
@@ -135,7 +135,7 @@ TEST_F(MaterialObjectTest, KeepsItsMaterialForEveryOtherTypeAndChecksItsState)
         ASSERT_EQ(object.getObjectState(), Obj::eVXObjectState::Initial);
         object.initCMaterial(static_cast<eMaterialType>(type));
         ASSERT_THAT(object.getCMaterial()->properties, SizeIs(1));
-        EXPECT_EQ(object.getCMaterial()->findProperty(vxMat::PropertyId::Density)->value, 1.2);
+        EXPECT_EQ(object.getCMaterial()->properties.at(vxMat::PropertyId::Density)->value, 1.2);
         EXPECT_EQ(object.getCMaterial()->name, "MaterialObject");
         EXPECT_EQ(static_cast<int>(object.getObjectState()), 3);
     }
@@ -169,7 +169,7 @@ TEST_F(MaterialObjectTest, IsAlwaysToBeRunAndExecutesNothing)
     EXPECT_EQ(result->text, "MaterialObject::execute().");
     EXPECT_EQ(result->object, &object);
     ASSERT_THAT(object.getCMaterial()->properties, SizeIs(1));
-    EXPECT_EQ(object.getCMaterial()->findProperty(vxMat::PropertyId::Density)->value, 7850);
+    EXPECT_EQ(object.getCMaterial()->properties.at(vxMat::PropertyId::Density)->value, 7850);
     EXPECT_EQ(object.getCMaterial()->name, "MaterialObject");
     EXPECT_EQ(object.label.getValue(), "A");
     EXPECT_EQ(object.getObjectState(), Obj::eVXObjectState::Initial);

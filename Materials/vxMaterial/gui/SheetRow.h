@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+namespace MatGui {
+
+/// A row of the property table. The texts are those of the property, not translated; the value is as the user typed it.
+struct SheetRow
+{
+    int id;
+    QString name;
+    QString value;
+    QString description;
+    QString key;
+    QString unit;
+
+    friend bool operator==(const SheetRow& one, const SheetRow& other)
+    {
+        return one.id == other.id && one.name == other.name && one.value == other.value &&
+               one.description == other.description && one.key == other.key && one.unit == other.unit;
+    }
+};
+
+/// A row from which no property can be made, because of its value.
+struct UnreadableRow
+{
+    enum class Reason
+    {
+        NoNumber,  ///< a number is needed, and the text does not begin with one
+        OutOfRange ///< a double cannot hold the number
+    };
+    int number; ///< of the row, from 1
+    QString name;
+    QString value;
+    Reason reason;
+};
+
+/// A row of whose value a part would be ignored, as in "210 GPa".
+struct PartlyReadRow
+{
+    int number; ///< of the row, from 1
+    QString name;
+    QString value;
+    QString ignored; ///< the text that would be ignored: "GPa"
+    QString readAs;  ///< the value that would be read: "210"
+};
+
+} // namespace MatGui

@@ -1,0 +1,122 @@
+#include "vxMaterial/gui/SheetTableDelegate.h"
+
+#include "CatalogueText.h"
+#include "CellText.h"
+
+#include "vxMaterial/gui/SheetTableView.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+namespace MatGui {
+
+namespace {
+
+bool isReturn(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// The words that a quantity takes, in the language of the user.
+QStringList wordsOf(int id)
+{
+    QStringList words;
+    for (const std::string& word : vxMat::getAllowedWords(id))
+        words << translatePropertyText(word, PropertyText::Value);
+    return words;
+}
+
+/// Writes the word that is chosen in the list of completions, if it is open, into the line.
+void takeChosenWord(QLineEdit& line)
+{
+    const QCompleter* const completer = line.completer();
+    if (completer == nullptr || !completer->popup()->isVisible())
+        return;
+    const QModelIndex chosen = completer->popup()->currentIndex();
+    completer->popup()->hide();
+    if (chosen.isValid())
+        line.setText(chosen.data().toString());
+}
+
+} // namespace
+
+SheetTableDelegate::SheetTableDelegate(QObject* parent) : QItemDelegate(parent) {}
+
+QWidget* SheetTableDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                                          const QModelIndex& index) const
+{
+    auto* const editor = new QLineEdit(parent);
+    // Lists may be longer than the default allows, which would cut them without a word.
+    editor->setMaxLength(std::numeric_limits<int>::max());
+    const QStringList words = wordsOf(index.sibling(index.row(), SheetTableView::Id).data().toInt());
+    if (!words.isEmpty()) {
+        auto* const completer = new QCompleter(words, editor);
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        editor->setCompleter(completer);
+    }
+    connect(editor, SIGNAL(returnPressed()), this, SLOT(commitAndCloseEditor()));
+    return editor;
+}
+
+void SheetTableDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    if (auto* const line = qobject_cast<QLineEdit*>(editor))
+        line->setText(index.data(Qt::EditRole).toString());
+}
+
+void SheetTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (const auto* const line = qobject_cast<QLineEdit*>(editor))
+        model->setData(index, line->text(), Qt::EditRole);
+}
+
+void SheetTableDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                              const QModelIndex& /*index*/) const
+{
+    const int line = editor->sizeHint().height();
+    const bool isHigh = option.rect.height() >= 2 * line;
+    editor->setGeometry(QRect(option.rect.topLeft(), QSize(option.rect.width(), isHigh ? line : option.rect.height())));
+}
+
+QSize SheetTableDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const
+{
+    return {};
+}
+
+void SheetTableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& /*rect*/,
+                                     const QString& text) const
+{
+    QItemDelegate::drawDisplay(painter, option, option.rect, wrappedForCell(text, option));
+}
+
+bool SheetTableDelegate::eventFilter(QObject* object, QEvent* event)
+{
+    // The base would commit once more on Return, after the editor has been closed. The view must not get the key either:
+    // it would open the editor again.
+    auto* const line = qobject_cast<QLineEdit*>(object);
+    if (line != nullptr && event->type() == QEvent::KeyPress && isReturn(static_cast<QKeyEvent&>(*event))) {
+        line->event(event);
+        event->accept();
+        return true;
+    }
+    return QItemDelegate::eventFilter(object, event);
+}
+
+void SheetTableDelegate::commitAndCloseEditor()
+{
+    auto* const editor = qobject_cast<QLineEdit*>(sender());
+    if (editor == nullptr)
+        return;
+    takeChosenWord(*editor);
+    Q_EMIT commitData(editor);
+    Q_EMIT closeEditor(editor, NoHint);
+}
+
+} // namespace MatGui

@@ -258,56 +258,6 @@ TEST(CopyAllFrom, CopiesEveryFieldAndKeepsTheSlots)
     ASSERT_EQ(target.properties.size(), 2U);
     ASSERT_TRUE(target.hasProperty(4));
     ASSERT_TRUE(target.hasProperty(401));
-    EXPECT_EQ(target.properties.at(401)->id, 4);
-    EXPECT_EQ(target.properties.at(401)->value, source.properties.at(401)->value);
-    EXPECT_NE(target.findProperty(401), source.findProperty(401));
-}
-
-TEST(CopyAllFrom, LosesNothingWhenAMaterialIsCopiedOntoItself)
-{
-    CMaterial material("Steel");
-    material.id = 3;
-    material.setProperty(4, std::make_unique<vxMat::Density>(7850.0));
-    material.copyAllFrom(material);
-    EXPECT_EQ(material.id, 3);
-    EXPECT_EQ(material.name, "Steel");
-    ASSERT_EQ(material.properties.size(), 1U);
-    EXPECT_EQ(material.properties.at(4)->value, 7850.0);
-}
-
-TEST(Swap, ExchangesEveryFieldWithoutCopyingProperties)
-{
-    CMaterial one("Steel");
-    one.id = 3;
-    one.libraryGroup = 1;
-    one.setProperty(4, std::make_unique<vxMat::Density>(7850.0));
-    const MaterialProperty* const density = one.findProperty(4);
-    vxMat::MaterialBase other;
-    one.swap(other);
-    EXPECT_EQ(other.id, 3);
-    EXPECT_EQ(other.name, "Steel");
-    EXPECT_EQ(other.libraryGroup, 1);
-    EXPECT_EQ(other.findProperty(4), density);
-    EXPECT_EQ(one.id, 0);
-    EXPECT_EQ(one.name, "MaterialBase");
-    EXPECT_EQ(one.libraryGroup, 0);
-    EXPECT_TRUE(one.properties.empty());
-}
-
-TEST(CopyAllFrom, TakesEveryFieldAndTheNumbersUnderWhichPropertiesAreHeld)
-{
-    vxMat::AcousticMaterial1 source;
-    source.id = -7;
-    source.name = std::string("Air\0hidden", 10);
-    CMaterial target("before");
-    target.setProperty(5, std::make_unique<vxMat::YoungsModulus>(2e11));
-    target.copyAllFrom(source);
-    EXPECT_EQ(target.id, -7);
-    EXPECT_EQ(target.name, source.name);
-    EXPECT_EQ(target.libraryGroup, 7);
-    ASSERT_EQ(target.properties.size(), 2U);
-    ASSERT_TRUE(target.hasProperty(4));
-    ASSERT_TRUE(target.hasProperty(401));
     EXPECT_EQ(target.findProperty(401)->id, 4);
     EXPECT_EQ(target.findProperty(401)->value, source.findProperty(401)->value);
     EXPECT_NE(target.findProperty(401), source.findProperty(401));

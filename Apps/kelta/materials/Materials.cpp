@@ -7,8 +7,8 @@
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
-#include "Gui/ObjectClipboard.h"
 #include "Kelta/Exceptions.h"
+#include "Obj/ContentCodec.h"
 #include "kelta/KeltaBatchExport.h"
 #include "projectfile/MaterialRecord.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -59,7 +59,7 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         return;
     Kelta::guarded(QStringLiteral("initKeltaMaterials"), [] {
         Mat::registerRequests();
-        Gui::ObjectClipboard::register_codec("Mat::MaterialObject", {writeContent, readContent});
+        Obj::registerContentCodec("Mat::MaterialObject", {writeContent, readContent});
         kelta::registerMaterialVerbs();
         if (Gui::GuiApplication::Instance != nullptr)
             kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);

@@ -1,6 +1,5 @@
 #include "kelta/Batch.h"
 
-#include "Gui/EditCommands.h"
 #include "Gui/FileDialog.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
@@ -8,6 +7,8 @@
 #include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
+#include "vxMsg/MessageProxy.h"
+#include "vxMsg/PropertyPlace.h"
 
 #include <QFile>
 #include <QMessageBox>
@@ -105,8 +106,9 @@ std::optional<QString> labelSelected(const QStringList& arguments)
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
     if (arguments.size() != 1 || objects.size() != 1)
         return tr("one label, and one selected object, are needed");
-    if (!Gui::editProperty(*objects.front(), "Label", arguments[0].toStdString()))
-        return tr("a label that shows nothing cannot be given");
+    const vxMsg::PropertyPlace place(*objects.front());
+    if (!vxMsg::MessageProxy::instance().setProperty(place, "Label", arguments[0].toStdString()))
+        return tr("the label was not set");
     return std::nullopt;
 }
 

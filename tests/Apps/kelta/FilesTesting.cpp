@@ -91,7 +91,7 @@ bool Files::run(const char* command, const QString& file)
 
 Mat::DocumentMaterial& Files::newProject()
 {
-    if (!vxMsg::MessageProxy::instance().newProject("Materials"))
+    if (!vxMsg::MessageProxy::instance().newProject("Mat::DocumentMaterial", "Materials"))
         throw std::logic_error("a project was not made");
     return *currentProject();
 }
@@ -104,7 +104,7 @@ bool Files::closeProject()
 
 Mat::MaterialObject& Files::addMaterial(const std::string& label)
 {
-    if (!vxMsg::MessageProxy::instance().addMaterial(currentProject()->get_name(), label))
+    if (!vxMsg::MessageProxy::instance().addObject(currentProject()->get_name(), "Mat::MaterialObject", label))
         throw std::logic_error("a material was not added");
     Mat::MaterialObject* const object = findMaterial(label);
     object->initCMaterial(vxMat::eMaterialType::StructuralSteel);

@@ -36,6 +36,7 @@ function(vx_add_library target)
     set_target_properties(${target} PROPERTIES AUTOMOC ON
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
+    set_target_properties(${target} PROPERTIES VX_PUBLIC_HEADERS "${headers}" VX_INCLUDE_PATH ${arg_INCLUDE_PATH})
     set(root ${CMAKE_BINARY_DIR}/include/${target})
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     foreach(header IN LISTS arg_PUBLIC_HEADERS)
@@ -100,9 +101,22 @@ function(vx_add_resource name qrc)
     set(${name}_source ${source} PARENT_SCOPE)
 endfunction()
 
-# vx_install_host_library(<target>): installs the library, without headers, for the installed programs.
-function(vx_install_host_library target)
+# vx_install_program_library(<target>): installs the library, without headers, for the installed programs.
+function(vx_install_program_library target)
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_SKIP)
+endfunction()
+
+# vx_install_host_library(<target>): installs the library for programs and modules: as Host::<target> of the package
+# KeltaHost, with its public headers in a folder of their own, because names such as Obj and Gui are taken elsewhere.
+function(vx_install_host_library target)
+    get_target_property(headers ${target} VX_PUBLIC_HEADERS)
+    get_target_property(include_path ${target} VX_INCLUDE_PATH)
+    set(folder ${CMAKE_INSTALL_INCLUDEDIR}/KeltaHost)
+    target_include_directories(${target} PUBLIC $<INSTALL_INTERFACE:${folder}>)
+    install(TARGETS ${target} EXPORT KeltaHostTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(FILES ${headers} DESTINATION ${folder}/${include_path})
+    install(DIRECTORY ${CMAKE_BINARY_DIR}/include/${target}/${include_path}/
+            DESTINATION ${folder}/${include_path} FILES_MATCHING PATTERN "*Export.h")
 endfunction()
 
 # vx_add_test(<name> [GUI] [ALONE] [ISOLATED]     ALONE: no other test runs beside its tests

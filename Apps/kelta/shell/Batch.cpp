@@ -1,5 +1,7 @@
 #include "kelta/Batch.h"
 
+#include "PropertyVerbs.h"
+
 #include "Gui/FileDialog.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
@@ -145,6 +147,7 @@ std::map<QString, Batch::Verb>& verbs()
         {QStringLiteral("select"), selectLabels},   {QStringLiteral("select-project"), selectProject},
         {QStringLiteral("label"), labelSelected},   {QStringLiteral("screenshot"), takeScreenshot},
         {QStringLiteral("database"), saveDatabase}, {QStringLiteral("say"), say},
+        {QStringLiteral("property"), setProperty},  {QStringLiteral("properties"), printProperties},
     };
     return registered;
 }

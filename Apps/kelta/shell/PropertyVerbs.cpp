@@ -1,0 +1,60 @@
+#include "PropertyVerbs.h"
+
+#include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/ProjectObject.h"
+#include "vxMsg/MessageProxy.h"
+#include "vxMsg/PropertyPlace.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+namespace kelta {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("kelta::Batch", text);
+}
+
+/// Null if not exactly one object is selected.
+Obj::ProjectObject* selectedObject()
+{
+    const auto objects =
+        Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    return objects.size() == 1 ? objects.front() : nullptr;
+}
+
+} // namespace
+
+std::optional<QString> setProperty(const QStringList& arguments)
+{
+    Obj::ProjectObject* const object = selectedObject();
+    if (arguments.size() != 2 || object == nullptr)
+        return tr("the name of a property, a value, and one selected object are needed");
+    if (object->get_property_by_name(arguments[0].toUtf8().constData()) == nullptr)
+        return tr("\"%1\" has no property \"%2\"")
+            .arg(QString::fromStdString(object->label.getValue()), arguments[0]);
+    // The reason of a refusal is in the message log, which ends the list.
+    vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(*object), arguments[0].toStdString(),
+                                                arguments[1].toStdString());
+    return std::nullopt;
+}
+
+std::optional<QString> printProperties(const QStringList& arguments)
+{
+    const Obj::ProjectObject* const object = selectedObject();
+    if (!arguments.isEmpty() || object == nullptr)
+        return tr("one selected object, and no argument, are needed");
+    std::vector<Obj::Property*> properties;
+    object->get_property_array(properties);
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    for (const Obj::Property* const property : properties)
+        if (!object->is_hidden(property))
+            out << object->get_property_name(property) << " = " << QString::fromStdString(property->to_text()) << '\n';
+    return std::nullopt;
+}
+
+} // namespace kelta

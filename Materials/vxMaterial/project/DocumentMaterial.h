@@ -34,7 +34,8 @@ public:
     /// Always state 0: a project as a whole is never ready or not.
     Obj::eVXObjectState check_input() override;
     /// Hands copies of all materials, as one exchange set under the project's id, to the exchange-set manager. Each
-    /// material first takes its object's label as its name, so that the solver knows it as the user does.
+    /// material first takes its object's label as its name, so that the solver knows it as the user does. The manager
+    /// keeps the set until the project is closed.
     void collect_frontend_data() override;
     /// The project's record: tag, id, and of each material id, class, internal name and label. Values are not in it.
     void save_jsonDB(Json::Value& record) override;

@@ -5,6 +5,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QElapsedTimer>
@@ -115,6 +116,7 @@ bool measureCommands(int& argc, char** argv)
     Gui::MainWindow window;
     initMat();
     initMatGui();
+    Mat::registerRequests();
     window.set_workbench("MatGui::SimModule");
     window.show();
     Commands commands(window);
@@ -154,6 +156,7 @@ int startOurs(int& argc, char** argv)
     Gui::MainWindow window;
     initMat();
     initMatGui();
+    Mat::registerRequests();
     window.set_workbench("MatGui::SimModule");
     return paintOnce(window);
 }

@@ -1,6 +1,7 @@
 #include "FilesTesting.h"
 
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -58,6 +59,7 @@ Files::Files()
 {
     initMat();
     initMatGui();
+    Mat::registerRequests();
     window = std::make_unique<Gui::MainWindow>();
     files = std::make_unique<kelta::ProjectFiles>(*window);
     kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
@@ -89,7 +91,7 @@ bool Files::run(const char* command, const QString& file)
 
 Mat::DocumentMaterial& Files::newProject()
 {
-    EXPECT_TRUE(vxMsg::MessageProxy::instance().newProject("Materials"));
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().newProject("Mat::DocumentMaterial", "Materials"));
     return *currentProject();
 }
 
@@ -101,7 +103,7 @@ bool Files::closeProject()
 
 Mat::MaterialObject& Files::addMaterial(const std::string& label)
 {
-    EXPECT_TRUE(vxMsg::MessageProxy::instance().addMaterial(currentProject()->get_name(), label));
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().addObject(currentProject()->get_name(), "Mat::MaterialObject", label));
     Mat::MaterialObject* const object = findMaterial(label);
     object->initCMaterial(vxMat::eMaterialType::StructuralSteel);
     return *object;

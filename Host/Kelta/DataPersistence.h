@@ -12,7 +12,7 @@ namespace Kelta {
 class FileWriter;
 class XMLFileReader;
 
-/// What knows its size in memory and can be written into an XML file of its own.
+/// An object that knows its size in memory and can be written into an XML file of its own.
 ///
 /// The XML operations are hooks for modules: projects are kept in JSON files by the application, so the host classes
 /// write nothing.

@@ -22,8 +22,8 @@ struct LogMessage
     QString text;
 };
 
-/// The messages of the program that need no answer. The log window shows them; a program without windows writes them to
-/// standard error. Both listen to reported().
+/// The messages of the program to which the user need not reply. The log window shows them; a program without windows
+/// writes them to standard error. Both listen to reported().
 ///
 ///     Kelta::MessageLog::error(tr("The class \"%1\" is not known.").arg(name));
 class KELTA_EXPORT MessageLog : public QObject
@@ -38,7 +38,7 @@ public:
     static void error(const QString& text) { instance().report(LogMessage::Severity::Error, text); }
 
     /// Adds a message and tells the listeners. What a listener throws does not pass through: it becomes an error in the
-    /// log, of which nobody is told.
+    /// log, which is not sent to the listeners.
     void report(LogMessage::Severity severity, const QString& text);
 
     /// The latest messages, the oldest first, at most `capacity` of them.

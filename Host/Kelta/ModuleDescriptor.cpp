@@ -80,7 +80,7 @@ QVersionNumber toVersion(const QString& text, const QString& member)
     return version;
 }
 
-/// The module can be served by this host, whatever else a descriptor for a newer one may say.
+/// Refuses a module that needs a newer host. Checked first: the rest of such a descriptor may not be known here.
 QVersionNumber readHost(const QJsonObject& json)
 {
     const QString text = textOf(json, QStringLiteral("host"), {});

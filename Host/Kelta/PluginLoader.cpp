@@ -105,6 +105,8 @@ void PluginLoader::Run::loadAll()
         load(name);
 }
 
+// As deep as the chain of modules that need each other.
+// NOLINTNEXTLINE(misc-no-recursion)
 void PluginLoader::Run::load(const QString& name)
 {
     if (m_versions.count(name) != 0 || m_outcome.failed.count(name) != 0)
@@ -121,6 +123,7 @@ void PluginLoader::Run::load(const QString& name)
     m_chain.removeLast();
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): see load
 void PluginLoader::Run::tryToLoad(const QString& name, const QString& file)
 {
     try {
@@ -135,6 +138,7 @@ void PluginLoader::Run::tryToLoad(const QString& name, const QString& file)
     }
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): see load
 void PluginLoader::Run::loadNeeds(const ModuleDescriptor& descriptor)
 {
     for (const auto& [need, version] : descriptor.needs) {

@@ -51,7 +51,8 @@ PlaceholderObject::PlaceholderObject(std::string className, Json::Value record)
     register_property(propertyData, classLabel, "ClassLabel", "Info", PropertyType::ReadOnly,
                       "class of a module that is missing");
     for (const auto& shown : shownProperties())
-        register_property(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::ReadOnly, "");
+        if (get_property_by_name(shown->name.c_str()) == nullptr)
+            register_property(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::ReadOnly, "");
 }
 
 PlaceholderObject::~PlaceholderObject() = default;
@@ -77,7 +78,8 @@ PlaceholderProject::PlaceholderProject(std::string className, Json::Value record
     register_property(propertyData, classLabel, "ClassLabel", "Info", PropertyType::ReadOnly,
                       "class of a module that is missing");
     for (const auto& shown : shownProperties())
-        register_property(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::ReadOnly, "");
+        if (get_property_by_name(shown->name.c_str()) == nullptr)
+            register_property(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::ReadOnly, "");
 }
 
 PlaceholderProject::~PlaceholderProject() = default;

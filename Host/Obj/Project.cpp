@@ -51,8 +51,7 @@ Project::Project() : m_serial(nextSerial()) {}
 
 Project::~Project()
 {
-    // While objects are destroyed one by one, none of them may find a project that is half destroyed, nor such a
-    // neighbour.
+    // The destructor of an object must find neither a project nor an object that is half destroyed.
     for (const auto& [objectId, object] : m_objects)
         object->forgetLinks();
     for (const auto& [objectId, object] : m_objects)
@@ -382,34 +381,71 @@ class Project::Execution
 public:
     explicit Execution(const Project& project) : m_project(project) {}
 
-    /// Executes the object if it is due, behind those that it needs. Returns whether it was executed in this pass.
-    bool visit(ProjectObject& object);
+    /// Executes the object if it is due, behind those that it needs.
+    void visit(ProjectObject& object);
     std::vector<std::unique_ptr<ProjectObjectExecReturn>> results;
 
 private:
-    bool isDue(ProjectObject& object);
+    /// An object whose needed objects are visited before it.
+    struct Visit
+    {
+        ProjectObject* object;
+        std::vector<ProjectObject*> needed;
+        std::size_t next; ///< index in `needed`
+        bool isDue;
+    };
+
+    void enter(ProjectObject& object);
+    bool advance(Visit& visit);
+    void leave();
     bool execute(ProjectObject& object);
 
     const Project& m_project;
-    std::unordered_map<const ProjectObject*, bool> m_executed; ///< of the objects that have been visited
+    std::vector<Visit> m_path;                                 ///< a chain of needs may be too long for the call stack
+    std::unordered_map<const ProjectObject*, bool> m_executed; ///< of the objects that have been entered
 };
 
-bool Project::Execution::visit(ProjectObject& object)
+void Project::Execution::visit(ProjectObject& object)
 {
-    // An object of a circle counts as not executed while the circle is followed.
-    if (const auto [visited, isNew] = m_executed.emplace(&object, false); !isNew)
-        return visited->second;
-    const bool executed = isDue(object) && execute(object);
-    m_executed[&object] = executed;
-    return executed;
+    if (m_executed.count(&object) == 0)
+        enter(object);
+    while (!m_path.empty())
+        if (!advance(m_path.back()))
+            leave();
 }
 
-bool Project::Execution::isDue(ProjectObject& object)
+void Project::Execution::enter(ProjectObject& object)
 {
-    bool due = object.m_isDue || object.always_run() != 0;
-    for (ProjectObject* const needed : object.get_needed_objects())
-        due = visit(*needed) || due;
-    return due && !object.isSuppressed() && object.m_project == &m_project;
+    // An object of a circle counts as not executed while the circle is followed.
+    m_executed[&object] = false;
+    bool isDue = object.m_isDue;
+    Kelta::guarded(tr("The execution of an object failed"), [&] { isDue = object.always_run() != 0 || isDue; });
+    m_path.push_back({&object, object.get_needed_objects(), 0, isDue});
+}
+
+/// Takes the next needed object into account, or enters it. Returns false if there is none.
+bool Project::Execution::advance(Visit& visit)
+{
+    if (visit.next == visit.needed.size())
+        return false;
+    ProjectObject& needed = *visit.needed[visit.next];
+    const auto found = m_executed.find(&needed);
+    if (found == m_executed.end()) {
+        enter(needed);
+        return true;
+    }
+    visit.isDue = visit.isDue || found->second;
+    ++visit.next;
+    return true;
+}
+
+void Project::Execution::leave()
+{
+    const Visit visit = std::move(m_path.back());
+    m_path.pop_back();
+    ProjectObject& object = *visit.object;
+    const bool isDue = visit.isDue && !object.isSuppressed() && object.m_project == &m_project;
+    m_executed[&object] = isDue && execute(object);
 }
 
 bool Project::Execution::execute(ProjectObject& object)

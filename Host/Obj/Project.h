@@ -96,7 +96,7 @@ public:
     /// so. Returns the object; null, with a report, if it does not come from this project, and it is then destroyed; and
     /// null if a listener has removed it at once.
     ProjectObject* restore_object(OwnedObject object);
-    /// Destroys an object; false if the project has none of this id.
+    /// Destroys an object; false if the project has no object of this id.
     bool remove_object(std::uint32_t objectId);
 
     /// Calls on_project_restored of each object, as when the project has been read from a file.

@@ -113,14 +113,14 @@ private:
     /// One end of a link; both objects keep one.
     struct Link
     {
-        ProjectObject* other;
-        Direction direction;
+        ProjectObject* other = nullptr;
+        Direction direction = Direction::Needs;
         bool isDeclared = false; ///< by link_to
         int references = 0;      ///< properties that refer to `other`; counted by the object that needs `other` alone
     };
     using Links = std::vector<Link>;
 
-    /// What another object has for this one, to be had again if this one comes back.
+    /// The links and references of another object to this one, to be restored together with this one.
     struct Dependent
     {
         std::uint32_t objectId;
@@ -141,7 +141,7 @@ private:
     std::vector<PropertyReference*> findReferences(std::uint32_t targetId) const;
     void notifyReferences(std::uint32_t targetId) const;
 
-    /// Notes what others have for this object, and tells them that it has left.
+    /// Returns the links and references of others to this object, and tells the others that it has left.
     std::vector<Dependent> breakLinks();
     void mendLinks(const std::vector<Dependent>& dependents);
     static void mendLink(ProjectObject& dependent, ProjectObject& target, const Dependent& before);

@@ -7,7 +7,7 @@
 
 namespace Obj {
 
-/// An object that gathers others of its project under one node. It owns none of them: its members stay in the project if
+/// An object that gathers others of its project under one node. It does not own them: its members stay in the project if
 /// it is deleted. An object is a member of at most one group.
 class OBJ_EXPORT ProjectObjectGroup : public ProjectObject
 {

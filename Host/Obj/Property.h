@@ -20,7 +20,7 @@ class PropertyDS;
 /// it.
 ///
 /// Once a property is registered with its owner, each new value calls the owner's on_change_before and then, with the new
-/// value in place, on_changed, also if the value is the one it had. Before that nobody is told.
+/// value in place, on_changed, also if the value is the one it had. Before that there are no notifications.
 class OBJ_EXPORT Property
 {
 public:

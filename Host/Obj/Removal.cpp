@@ -30,7 +30,7 @@ RemovalGuard::RemovalGuard() noexcept
 
 RemovalGuard::~RemovalGuard()
 {
-    // What destructors let go waits for the next round, as the guard still counts.
+    // Destructors may remove further objects, which wait for the next round because the guard still counts.
     while (guardCount == 1 && !doomedThings().empty())
         std::exchange(doomedThings(), {});
     --guardCount;

@@ -13,7 +13,7 @@ namespace Obj {
 class Project;
 class ProjectObject;
 
-/// While a guard lives, objects and projects that their owners let go stay in memory. They are destroyed when the last
+/// While a guard lives, objects and projects that their owners release stay in memory. They are destroyed when the last
 /// guard ends.
 ///
 /// Every signal of the host holds one while it calls its listeners, and every operation of projects and requests while it

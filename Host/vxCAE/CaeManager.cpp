@@ -14,7 +14,7 @@ void CCaeManager::setCAE(std::uint32_t projectId, CAESet* set)
     const auto held = std::find_if(m_sets.begin(), m_sets.end(),
                                    [set](const auto& entry) { return set != nullptr && entry.second.get() == set; });
     if (held != m_sets.end()) {
-        // It is here already, perhaps for another project; the one that has it so far lets go.
+        // The manager has it already, perhaps for another project.
         held->second.release(); // NOLINT(bugprone-unused-return-value)
         m_sets.erase(held);
     }

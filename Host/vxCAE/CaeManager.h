@@ -10,7 +10,7 @@
 
 namespace vxCAE {
 
-/// Keeps the exchange set of each project for the solver side.
+/// Keeps the exchange set of each project for the solver side. A project destroys its set when it is closed.
 class VXCAE_MANAGER_EXPORT CCaeManager
 {
 public:
@@ -19,10 +19,10 @@ public:
     CCaeManager& operator=(const CCaeManager&) = delete;
     ~CCaeManager();
 
-    /// Takes ownership of `set` and destroys the set that it held for the project; null only does the latter.
-    /// A set that it holds for another project is from then on this one's alone.
+    /// Takes ownership of `set` and destroys the set that it held for the project; null only destroys that one. A set that
+    /// the manager holds for another project is moved to this one.
     void setCAE(std::uint32_t projectId, CAESet* set);
-    /// The set of a project, which the manager keeps; null when it holds none.
+    /// Returns the set of a project, which the manager keeps; null if there is none.
     CAESet* getCAE(std::uint32_t projectId) const;
     std::size_t getCount() const { return m_sets.size(); }
 
@@ -30,7 +30,7 @@ private:
     std::map<std::uint32_t, std::unique_ptr<CAESet>> m_sets; ///< by project id
 };
 
-/// The one manager of the program.
+/// Returns the one manager of the program.
 VXCAE_MANAGER_EXPORT CCaeManager& GetCaeManager();
 
 } // namespace vxCAE

@@ -40,7 +40,7 @@ public:
     Place place() const { return {m_commands.size(), m_endCount}; }
     /// Records a command that has been carried out. During an undo the history ends instead, and the command is destroyed.
     void record(std::unique_ptr<QUndoCommand> command);
-    /// Likewise a command that was carried out at `place`, in front of what has been recorded since.
+    /// Records a command that was carried out at `place`, in front of the commands that have been recorded since.
     void record(std::unique_ptr<QUndoCommand> command, Place place);
 
     /// Forgets all that was carried out before the present, or before `place`: it cannot be undone any more.

@@ -27,10 +27,10 @@ class History;
 /// Carries out the requests of modules and commands, all of them through one undo stack and with or without windows.
 ///
 /// Undo brings back the very project or object that a request removed, with its id, name, label and links; redo of a
-/// creation brings back the one that the creation made. Whatever listeners request or add because of a request, a project
-/// included, is undone with it in one step. Objects that are added without a request are noticed and can be undone too,
-/// except those that are added during an undo or redo. While a step is undone or redone, requests are refused. If a
-/// project is closed or an object destroyed past the proxy, the history ends.
+/// creation brings back the one that the creation made. What listeners request or add because of a request, a project
+/// included, is undone with it in one step. Objects that are added without a request can be undone too, except those
+/// that are added during an undo or redo. While a step is undone or redone, requests are refused. If a project is closed
+/// or an object destroyed without a request, the history ends.
 class VXMSG_EXPORT MessageProxy
 {
 public:
@@ -63,7 +63,7 @@ public:
     /// be no such project. What `fill` throws passes through; the project is then not there, and the history is as it was.
     Obj::Project* openProject(const std::string& className, const std::string& name,
                               const std::function<void(Obj::Project&)>& fill);
-    /// Likewise a project that code has made, such as a placeholder.
+    /// Opens a project that code has made, such as a placeholder, in the same way.
     Obj::Project* openProject(Obj::OwnedProject project, const std::string& name,
                               const std::function<void(Obj::Project&)>& fill);
 

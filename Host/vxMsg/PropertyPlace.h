@@ -13,8 +13,8 @@ class PropertyDS;
 
 namespace vxMsg {
 
-/// Finds a set of properties again, whatever is deleted and restored meanwhile: a project, an object, or the node that
-/// shows one of them.
+/// Finds a set of properties again after deletions and their undo: a project, an object, or the node that shows one of
+/// them.
 class VXMSG_EXPORT PropertyPlace
 {
 public:

@@ -55,7 +55,7 @@ enum class Presence
 };
 
 /// The addition or removal of a project or an object, which the command owns while it is away. Commands know projects and
-/// objects by their ids, so that one that was destroyed past the proxy is simply not found.
+/// objects by their ids, so that one that was destroyed without a request is not found.
 template <typename Owned>
 class PresenceCommand : public DoneCommand
 {

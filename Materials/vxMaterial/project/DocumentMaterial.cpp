@@ -1,9 +1,12 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 
+#include "Obj/Application.h"
 #include "vxCAE/CaeManager.h"
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/project/MaterialObject.h"
+
+#include <boost/signals2/connection.hpp>
 
 #include <algorithm>
 #include <fstream>
@@ -21,6 +24,13 @@ std::vector<MaterialObject*> materialObjects(const Obj::Project& project)
         if (object != nullptr)
             materials.push_back(static_cast<MaterialObject*>(object));
     return materials;
+}
+
+/// From the first call on, the set of a project is destroyed when the project is closed.
+void letGoOfSetsOfClosedProjects()
+{
+    static const boost::signals2::scoped_connection closing = Obj::Application::instance().projectRemoved.connect(
+        [](const Obj::Project& project) { vxCAE::GetCaeManager().setCAE(project.getProjectId(), nullptr); });
 }
 
 } // namespace
@@ -55,6 +65,7 @@ Obj::eVXObjectState DocumentMaterial::check_input()
 
 void DocumentMaterial::collect_frontend_data()
 {
+    letGoOfSetsOfClosedProjects();
     vxCAE::GetCaeManager().setCAE(getProjectId(), makeCAESet().release());
 }
 

@@ -33,8 +33,9 @@ public:
     const char* get_viewfeeder_name() const override; ///< "MatGui::ViewFeederDocumentMaterial"
     /// Returns state 0: a project as a whole has no state.
     Obj::eVXObjectState check_input() override;
-    /// Gives copies of all materials, as one exchange set under the project's id, to the exchange-set manager. First sets the
-    /// name of each material to the label of its object, so that the solver has the name that the user sees.
+    /// Gives copies of all materials, as one exchange set under the project's id, to the exchange-set manager, which keeps
+    /// the set until the project is closed. First sets the name of each material to the label of its object, so that the
+    /// solver has the name that the user sees.
     void collect_frontend_data() override;
     /// Writes the project's record: tag, id, and of each material id, class, internal name and label. It contains no
     /// values of properties.

@@ -7,6 +7,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QElapsedTimer>
@@ -117,6 +118,7 @@ bool measureCommands(int& argc, char** argv)
     Gui::MainWindow window;
     initMat();
     initMatGui();
+    Mat::registerRequests();
     window.set_workbench("MatGui::SimModule");
     window.show();
     Commands commands(window);
@@ -157,6 +159,7 @@ int startOurs(int& argc, char** argv)
     initMat();
     initMatGui();
     kelta::registerMaterialContributions(application);
+    Mat::registerRequests();
     window.set_workbench("MatGui::SimModule");
     return paintOnce(window);
 }

@@ -1,6 +1,7 @@
 #include "FilesTesting.h"
 
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -59,6 +60,7 @@ Files::Files()
 {
     initMat();
     initMatGui();
+    Mat::registerRequests();
     window = std::make_unique<Gui::MainWindow>();
     files = std::make_unique<kelta::ProjectFiles>(*window);
     kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);

@@ -48,7 +48,7 @@ protected:
         Kelta::RootClass::initSubclass(type, "Test::Note", "Kelta::DataPersistence", nullptr);
     }
 
-    /// Loads a file of this text, which must fail and change nothing; answers what is reported.
+    /// Loads a file of this text, which must fail and change nothing. Returns what is reported.
     std::string whyNotLoaded(const char* text)
     {
         vxtest::writeFile(m_path, text);
@@ -88,7 +88,7 @@ TEST_F(DataPersistenceTest, OfABareObjectIsAnEmptyElement)
     EXPECT_EQ(bare.getTypeId(), Kelta::TypeInfo::find("Kelta::DataPersistence"));
 }
 
-/// A class that is registered with what its objects take.
+/// A class that is registered with the size of its objects.
 class Ledger : public DataPersistence
 {
     KELTA_CLASS;

@@ -49,7 +49,7 @@ TEST(MessageLog, LetsGoOfTheOldestWhenItIsFull)
     EXPECT_EQ(log.messages().back().text, QStringLiteral("10004"));
 }
 
-TEST(MessageLog, TellsListenersWhoMayReportAndClearThemselves)
+TEST(MessageLog, TellsListenersWhichMayReportAndClearTheLog)
 {
     MessageLog& log = MessageLog::instance();
     log.clear();

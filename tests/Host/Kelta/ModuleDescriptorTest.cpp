@@ -125,7 +125,7 @@ TEST_F(ModuleDescriptor, IsRefusedIfItIsAFolder)
     EXPECT_THAT(failure(), HasSubstr("is not a file"));
 }
 
-TEST_F(ModuleDescriptor, IsRefusedIfItIsAPipeThatNobodyWrites)
+TEST_F(ModuleDescriptor, IsRefusedIfItIsAPipeWithoutAWriter)
 {
     ASSERT_EQ(mkfifo(file().toUtf8().constData(), 0600), 0);
     EXPECT_THAT(failure(), HasSubstr("is not a file"));

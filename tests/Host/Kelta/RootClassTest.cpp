@@ -62,7 +62,7 @@ TEST(RootClass, IsTheTypeOfAnObjectWhoseClassDoesNotSayItsOwn)
     EXPECT_EQ(object.getTypeId(), RootClass::getClassTypeId());
 }
 
-TEST(RootClass, RegistersTheSameClassAgainWithoutAWord)
+TEST(RootClass, RegistersTheSameClassAgainWithoutAReport)
 {
     Screw::init();
     const TypeInfo before = Screw::classTypeId;

@@ -15,7 +15,7 @@
 
 namespace vxtest {
 
-/// What the operations that the host calls on its own do to a Part, and what they did.
+/// What the operations of a Part that the host calls do, and what they have done.
 struct PartHooks
 {
     std::vector<std::string> calls;
@@ -63,7 +63,7 @@ private:
     void note(const char* what, const std::string& about);
 };
 
-/// A Part of a class that descends from it, which joins two others. It has a property of each type.
+/// A class derived from Part, which joins two others. It has a property of each type.
 class Joint : public Part
 {
     OBJ_CLASS;
@@ -118,8 +118,8 @@ protected:
 /// Names of objects, in order.
 std::vector<std::string> namesOf(const std::vector<Obj::ProjectObject*>& objects);
 
-/// The place in the table of virtual operations that a pointer to a virtual member stands for, as the C++ ABI of this
-/// machine writes such pointers: one more than the offset into the table.
+/// Returns the place of a virtual operation in the table of virtual operations. The C++ ABI of this machine writes
+/// pointers to virtual members as one more than the offset into the table.
 template <typename Member>
 std::ptrdiff_t slotOf(Member member)
 {

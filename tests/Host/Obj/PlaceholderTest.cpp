@@ -48,7 +48,7 @@ TEST_F(PlaceholderTest, KeepsTheClassAndTheRecordOfTheFile)
     EXPECT_TRUE(bolt.is_inherited_from(Obj::ProjectObject::getClassTypeId()));
 }
 
-TEST_F(PlaceholderTest, ShowsThePropertiesOfTheRecordAndLetsNobodyEditThem)
+TEST_F(PlaceholderTest, ShowsThePropertiesOfTheRecordReadOnly)
 {
     const PlaceholderObject& bolt = addBolt();
     std::vector<Obj::Property*> properties;
@@ -61,6 +61,21 @@ TEST_F(PlaceholderTest, ShowsThePropertiesOfTheRecordAndLetsNobodyEditThem)
     EXPECT_THAT(shown, testing::ElementsAre("Label: Bolt", "ID: 7", "ClassLabel: Fastening::Bolt", "Name: M 8",
                                             "Torque: 12.5"));
     EXPECT_TRUE(Obj::writeProperties(bolt).isNull()) << "the record has them";
+}
+
+TEST_F(PlaceholderTest, ShowsItsOwnLabelAndIdWhateverTheRecordSays)
+{
+    Json::Value odd;
+    odd["properties"]["Label"] = "Other";
+    odd["properties"]["ID"] = 4711;
+    const Obj::ProjectObject* const object =
+        m_assembly.add_object(std::make_unique<PlaceholderObject>("Fastening::Bolt", odd), "Bolt");
+    ASSERT_NE(object, nullptr);
+    std::vector<Obj::Property*> properties;
+    object->get_property_array(properties);
+    EXPECT_THAT(properties, testing::SizeIs(3));
+    EXPECT_EQ(object->get_property_by_name("Label")->to_text(), "Bolt");
+    EXPECT_EQ(object->get_property_by_name("ID")->to_text(), "1");
 }
 
 TEST_F(PlaceholderTest, DescribesItselfUnderItsOriginalClass)
@@ -107,7 +122,7 @@ TEST_F(PlaceholderTest, TakesARecordOfAnyForm)
     EXPECT_EQ(PlaceholderObject("Any", withOddProperties).get_record(), withOddProperties);
 }
 
-TEST_F(PlaceholderTest, StandsInForAProjectToo)
+TEST_F(PlaceholderTest, ReplacesAProjectToo)
 {
     Obj::Project* const project =
         application().add_project(std::make_unique<PlaceholderProject>("Fastening::Assembly", record()), "Machine");

@@ -89,7 +89,7 @@ TEST_F(ProjectObjectGroupTest, LosesAMemberWhileItIsAwayForUndo)
     EXPECT_THAT(namesOf(group.get_members()), ElementsAre("a"));
 }
 
-TEST_F(ProjectObjectGroupTest, LeavesItsMembersWhenItGoes)
+TEST_F(ProjectObjectGroupTest, LeavesItsMembersInTheProjectWhenItIsDeleted)
 {
     ProjectObjectGroup& group = addGroup("Group");
     Part& part = m_assembly.addPart("a");

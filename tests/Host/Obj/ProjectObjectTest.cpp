@@ -134,7 +134,7 @@ TEST_F(ProjectObjectTest, IsSuppressedWithoutBeingDeleted)
     EXPECT_FALSE(part.isSuppressed());
 }
 
-TEST_F(ProjectObjectTest, KnowsWhoIsLinkedWithItInEitherDirection)
+TEST_F(ProjectObjectTest, KnowsTheObjectsThatAreLinkedWithItInEitherDirection)
 {
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");

@@ -134,7 +134,7 @@ TEST_F(ProjectTest, TakesAnObjectBackThatCannotBeConfigured)
     EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 2U) << "the id was handed out";
 }
 
-TEST_F(ProjectTest, ConfiguresAnObjectBeforeAnybodyIsTold)
+TEST_F(ProjectTest, ConfiguresAnObjectBeforeListenersAreTold)
 {
     m_assembly.objectAdded.connect([](ProjectObject&) { Part::hooks().calls.emplace_back("told"); });
     m_assembly.addPart("a");
@@ -142,7 +142,7 @@ TEST_F(ProjectTest, ConfiguresAnObjectBeforeAnybodyIsTold)
     EXPECT_EQ(Part::hooks().calls.back(), "told");
 }
 
-TEST_F(ProjectTest, NeverGivesTheIdOfAnObjectThatIsGoneToAnother)
+TEST_F(ProjectTest, NeverUsesTheIdOfADeletedObjectAgain)
 {
     m_assembly.addPart("a");
     m_assembly.addPart("b");
@@ -322,7 +322,7 @@ TEST_F(ProjectTest, HasAnObjectBackThatFailsWhenItComes)
     EXPECT_THAT(reports.text(), HasSubstr("a part cannot come back"));
 }
 
-TEST_F(ProjectTest, AnswersObjectsOfATypeAndOfThoseThatDescendFromItInOrder)
+TEST_F(ProjectTest, ReturnsObjectsOfATypeAndOfDescendantsInOrder)
 {
     m_assembly.addPart("a");
     m_assembly.add_object("Obj::ProjectObjectGroup", "g");
@@ -372,7 +372,7 @@ TEST_F(ProjectTest, IsClosedWhileItsObjectsAreObserved)
     EXPECT_FALSE(added.connected());
 }
 
-/// An object that looks around and speaks while it is destroyed.
+/// An object whose destructor looks for its project and its neighbours, and notifies.
 class LoudPart : public ProjectObject
 {
 public:
@@ -425,7 +425,7 @@ TEST_F(ProjectTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndBrought
     EXPECT_EQ(before[1234]->label.getValue(), "label 1234");
 }
 
-TEST_F(ProjectTest, LooksAnewHowFarItsObjectsHaveCome)
+TEST_F(ProjectTest, DeterminesTheStatesOfItsObjectsAnew)
 {
     Part& part = m_assembly.addPart("a");
     m_assembly.update();
@@ -516,7 +516,7 @@ TEST_F(ProjectTest, SurvivesObjectsThatRemoveThemselvesInTheirOwnOperations)
     EXPECT_EQ(Part::count(), 0);
 }
 
-TEST_F(ProjectTest, LooksAnewAtTheObjectsThatAreLeftWhenOneRemovesOthers)
+TEST_F(ProjectTest, UpdatesTheObjectsThatAreLeftWhenOneRemovesOthers)
 {
     std::vector<std::string> checked;
     for (const char* const name : {"a", "b", "c", "d"})
@@ -537,7 +537,7 @@ TEST_F(ProjectTest, LooksAnewAtTheObjectsThatAreLeftWhenOneRemovesOthers)
     EXPECT_THAT(names(), ElementsAre("c", "d", "e"));
 }
 
-TEST_F(ProjectTest, MayBeClosedWhileItLooksAnew)
+TEST_F(ProjectTest, MayBeClosedDuringItsUpdate)
 {
     m_assembly.addPart("a");
     m_assembly.addPart("b");
@@ -653,6 +653,21 @@ TEST_F(ExecutionTest, FollowsACircleOfNeedsOnce)
     b.link_to(a);
     EXPECT_THAT(executed(), testing::UnorderedElementsAre("a", "b"));
     EXPECT_THAT(executed(), IsEmpty());
+}
+
+TEST_F(ExecutionTest, FollowsAChainOfAnyLength)
+{
+    constexpr int count = 50000;
+    Part* needing = &m_assembly.addPart();
+    for (int i = 1; i < count; ++i) {
+        Part& needed = m_assembly.addPart();
+        needing->link_to(needed);
+        needing = &needed;
+    }
+    const auto results = m_assembly.execute_due();
+    ASSERT_EQ(results.size(), static_cast<std::size_t>(count));
+    EXPECT_EQ(results.front()->object, needing) << "the object that all others need";
+    EXPECT_EQ(results.back()->object->getObjectId(), 1U);
 }
 
 TEST_F(ExecutionTest, LeavesOutWhatIsSuppressed)

@@ -59,7 +59,7 @@ TEST_F(PropertyDSTest, DescribesPropertiesByNameAndByProperty)
     EXPECT_FALSE(m_part.is_hidden("ID"));
 }
 
-TEST_F(PropertyDSTest, AnswersNothingForPropertiesOfOthers)
+TEST_F(PropertyDSTest, ReturnsNothingForPropertiesOfOtherSets)
 {
     EXPECT_EQ(m_part.get_property_type("Depth"), 0);
     EXPECT_EQ(m_part.get_property_type(&m_other.id), 0);
@@ -73,7 +73,7 @@ TEST_F(PropertyDSTest, AnswersNothingForPropertiesOfOthers)
     EXPECT_FALSE(m_part.is_hidden(&m_other.secret));
 }
 
-/// A part that says more about a property of its base class.
+/// A part that describes a property of its base class anew.
 class SpecialPart : public Part
 {
 public:

@@ -39,7 +39,7 @@ TEST(Signal, DoesNotTellAListenerThatAnotherOneDisconnected)
     EXPECT_EQ(calls, 0);
 }
 
-TEST(Signal, PassesOverAListenerWhoseOwnerIsGone)
+TEST(Signal, PassesOverAListenerWhoseOwnerWasDestroyed)
 {
     Obj::Signal<void()> signal;
     int calls = 0;

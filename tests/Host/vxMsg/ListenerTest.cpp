@@ -74,7 +74,7 @@ TEST_F(ListenerTest, KeepsAProjectOpenByRefusing)
     EXPECT_EQ(reports.errors(), 1);
 }
 
-// --- Objects that are gone at once ---
+// --- Objects that are removed at once ---
 
 TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDeletedByRequest)
 {
@@ -115,7 +115,7 @@ TEST_F(ListenerTest, MayCloseTheProjectToWhichAnObjectIsAdded)
 {
     scoped_connection listening =
         m_project->objectAdded.connect([](ProjectObject&) { EXPECT_TRUE(closeProject("Machine")); });
-    EXPECT_TRUE(add("Bolt")) << "the object is in a project that can be had again";
+    EXPECT_TRUE(add("Bolt")) << "the object is in a project that can be restored";
     listening.disconnect();
     EXPECT_THAT(projects(), IsEmpty());
     stack().undo();
@@ -245,7 +245,7 @@ TEST_F(ListenerTest, EndsTheHistoryIfItDestroysAnObjectThatARequestDeletes)
     Part::hooks().removesItselfWithWhatItNeeds = true;
     EXPECT_TRUE(remove("a"));
     EXPECT_THAT(names(), IsEmpty());
-    EXPECT_EQ(stack().count(), 0) << "the past cannot be had again";
+    EXPECT_EQ(stack().count(), 0) << "the past cannot be restored";
 }
 
 TEST_F(ListenerTest, EndsTheHistoryIfItClosesAProjectDuringAnUndo)
@@ -301,7 +301,7 @@ TEST_F(ListenerTest, MayChangeTheHistoryThatAForeignStepUndoes)
 
 // --- All of it at random ---
 
-/// Does something to the open projects, by request or past the proxy.
+/// Does something to the open projects, by request or directly.
 class Mischief
 {
 public:
@@ -309,7 +309,7 @@ public:
 
     void doSomething()
     {
-        // Listeners set each other off; a chain must end.
+        // Listeners cause calls of each other; the chain must end.
         if (m_depth >= 3)
             return;
         ++m_depth;

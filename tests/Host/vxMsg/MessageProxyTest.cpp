@@ -260,7 +260,7 @@ TEST_F(MessageProxyTest, DoesWhatIsRequestedThoughAListenerFails)
     EXPECT_THAT(names(), IsEmpty());
 }
 
-// --- What happens past the proxy ---
+// --- What happens without a request ---
 
 TEST_F(MessageProxyTest, MakesObjectsUndoableThatAreAddedWithoutARequest)
 {
@@ -311,7 +311,7 @@ TEST_F(MessageProxyTest, EndsTheHistoryWhenAnObjectIsDestroyedDirectly)
     EXPECT_THAT(names(), ElementsAre("Nut"));
 }
 
-TEST_F(MessageProxyTest, LetsObjectsOfAClosedProjectGoWithItsHistory)
+TEST_F(MessageProxyTest, DestroysObjectsOfAClosedProjectWithItsHistory)
 {
     Part& bolt = part("Bolt");
     Part& nut = part("Nut");
@@ -356,7 +356,7 @@ TEST_F(MessageProxyTest, RefusesRequestsOfListenersDuringAnUndo)
     EXPECT_EQ(stack().count(), 1);
 }
 
-/// A step of somebody else's on the same stack.
+/// A step that another module records on the same stack.
 class OtherCommand : public QUndoCommand
 {
 public:

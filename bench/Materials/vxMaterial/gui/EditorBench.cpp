@@ -13,6 +13,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 
 #include <QMainWindow>
 #include <QStandardItemModel>
@@ -153,6 +154,7 @@ int main(int argc, char** argv)
     Gui::GuiApplication application(argc, argv);
     initMat();
     initMatGui();
+    Mat::registerRequests();
     vxbench::addContest({"opening the editor / the bare form", openEditor, openForm, 0.0});
     vxbench::addContest({"showing a material / filling a bare table", fillTable, fillBareTable, 0.0});
     const int contests = vxbench::runContests(argc, argv);

@@ -8,6 +8,7 @@
 #include "Gui/GuiProject.h"
 #include "Gui/Translator.h"
 #include "vxMaterial/gui/SheetTableView.h"
+#include "vxMsg/CommandCodes.h"
 
 #include <QAction>
 #include <QFile>
@@ -29,6 +30,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 using vxtest::MessageBoxes;
@@ -118,6 +120,13 @@ protected:
     static Obj::Project& makeAnalysis(const char* name = "Analysis")
     {
         return *Obj::Application::instance().create_project("Fem::FemProject", name);
+    }
+
+    /// The message log says, once, that the analysis project takes no materials.
+    void expectRefusal()
+    {
+        EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), ++errorsBefore);
+        EXPECT_THAT(lastMessage(), HasSubstr("projects of class \"Fem::FemProject\" do not take such objects"));
     }
 
     /// Opens the editor of a material and changes a value in it, without applying that.
@@ -1026,28 +1035,36 @@ TEST_F(Commands, ImportAddsToTheCurrentProject)
     EXPECT_THAT(second.get_objects(), SizeIs(1));
 }
 
-TEST_F(Commands, ImportIntoAProjectOfAnotherKindOpensNoEditor)
+TEST_F(Commands, ImportRefusesAProjectThatTakesNoMaterials)
 {
     makeProject();
-    Obj::Project& analysis = makeAnalysis();
+    const Obj::Project& analysis = makeAnalysis();
     Gui::FileDialog::answer_next("steel.csv");
     EXPECT_TRUE(run("Mat_Import"));
-    ASSERT_THAT(analysis.get_objects(), SizeIs(1));
-    EXPECT_TRUE(nodeOf(*analysis.get_objects()[0]).on_double_clicked());
-    select(analysis.get_objects());
-    EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    expectRefusal();
+    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_EQ(undoStack().count(), 0);
 }
 
-TEST_F(Commands, PasteIntoAProjectOfAnotherKindOpensNoEditor)
+TEST_F(Commands, PasteRefusesAProjectThatTakesNoMaterials)
 {
     select({&addMaterial(makeProject())});
     EXPECT_TRUE(run("Std_Copy"));
-    Obj::Project& analysis = makeAnalysis();
+    const Obj::Project& analysis = makeAnalysis();
+    const int stepsBefore = undoStack().count();
     EXPECT_TRUE(run("Std_Paste"));
-    ASSERT_THAT(analysis.get_objects(), SizeIs(1));
-    EXPECT_TRUE(nodeOf(*analysis.get_objects()[0]).on_double_clicked());
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    expectRefusal();
+    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_EQ(undoStack().count(), stepsBefore);
+}
+
+TEST_F(Commands, TheRequestToAddAMaterialRefusesAProjectThatTakesNone)
+{
+    const Obj::Project& analysis = makeAnalysis();
+    EXPECT_FALSE(vxMsg::doCommand({Mat::Request::AddMaterial, analysis.get_name(), "Steel", 0.0}));
+    expectRefusal();
+    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_EQ(undoStack().count(), 0);
 }
 
 /// What a file dialog showed before it was cancelled.

@@ -11,6 +11,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 
 #include <QListWidget>
 #include <QPixmap>
@@ -79,6 +80,7 @@ int main(int argc, char** argv)
         QApplication::setPalette(darkColours());
     initMat();
     initMatGui();
+    Mat::registerRequests();
     Gui::Translator::instance()->setLanguage(QString::fromLocal8Bit(argv[2]));
     auto* const project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials");
     auto& object = *static_cast<Mat::MaterialObject*>(project->add_object("Mat::MaterialObject", "Steel"));

@@ -3,6 +3,7 @@
 #include "Gui/GuiApplication.h"
 #include "Obj/Application.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -19,6 +20,7 @@ MaterialProject::MaterialProject()
 {
     initMat();
     initMatGui();
+    Mat::registerRequests();
     m_document = static_cast<Mat::DocumentMaterial*>(
         Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials"));
     m_object = static_cast<Mat::MaterialObject*>(m_document->add_object("Mat::MaterialObject", "Steel"));

@@ -7,6 +7,7 @@
 #include "Gui/PictureFactory.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/Translator.h"
+#include "Obj/ObjectHomes.h"
 
 #include <QMenu>
 #include <QWindow>
@@ -309,11 +310,27 @@ TEST_F(MaterialNode, MakesANewEditorRightAfterTheUserHasClosedTheFirst)
     EXPECT_EQ(second->windowTitle(), "Beam[*]");
 }
 
+/// A project of another module that takes materials too.
+class MixedProject final : public Obj::Project
+{
+public:
+    static void init()
+    {
+        initSubclass(type, "Test::MixedProject", "Obj::Project",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new MixedProject); });
+    }
+    Kelta::TypeInfo getTypeId() const override { return type; }
+
+private:
+    static inline Kelta::TypeInfo type;
+};
+
 TEST_F(MaterialNode, OpensNothingForAMaterialInAProjectOfAnotherKind)
 {
-    vxtest::initForeignClasses();
-    Obj::Project& analysis = *Obj::Application::instance().create_project("Fem::FemProject", "Analysis");
-    ViewFeederMaterialObject& foreign = feeder(addMaterial(analysis));
+    MixedProject::init();
+    Obj::registerHome("Mat::MaterialObject", "Test::MixedProject");
+    Obj::Project& mixed = *Obj::Application::instance().create_project("Test::MixedProject", "Mixed");
+    ViewFeederMaterialObject& foreign = feeder(addMaterial(mixed));
     ASSERT_NE(foreign.getMaterialObject(), nullptr);
     EXPECT_TRUE(foreign.on_double_clicked());
     EXPECT_FALSE(foreign.setEdit(0));

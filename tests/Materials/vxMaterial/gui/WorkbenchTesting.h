@@ -14,6 +14,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QUndoStack>
@@ -35,6 +36,7 @@ protected:
     {
         initMat();
         initMatGui();
+        Mat::registerRequests();
         window = std::make_unique<Gui::MainWindow>();
         window->set_workbench("MatGui::SimModule");
         window->show();

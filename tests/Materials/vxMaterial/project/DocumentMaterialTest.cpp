@@ -17,6 +17,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -125,6 +126,28 @@ TEST_F(DocumentMaterialTest, HandsOverAnEmptySetWithoutMaterials)
 {
     EXPECT_THAT(collected().entries, IsEmpty());
     EXPECT_EQ(vxCAE::GetCaeManager().getCAE(project->getProjectId())->projectKind, 2U);
+}
+
+TEST_F(DocumentMaterialTest, LetsGoOfItsSetWhenItIsClosed)
+{
+    auto* const other =
+        static_cast<DocumentMaterial*>(Obj::Application::instance().create_project("Mat::DocumentMaterial", "Other"));
+    const vxCAE::CCaeManager& manager = vxCAE::GetCaeManager();
+    const std::uint32_t projectId = project->getProjectId();
+    addSteel("Frame");
+    project->collect_frontend_data();
+    other->collect_frontend_data();
+
+    // The project itself stays in memory, as when its closing may be undone.
+    Obj::OwnedProject closed = Obj::Application::instance().take_project(*project);
+    EXPECT_EQ(manager.getCAE(projectId), nullptr);
+    EXPECT_NE(manager.getCAE(other->getProjectId()), nullptr);
+
+    Obj::Application::instance().restore_project(std::move(closed));
+    EXPECT_EQ(manager.getCAE(projectId), nullptr) << "the next hand-over makes a new set";
+    EXPECT_THAT(collected().entries, SizeIs(1));
+    Obj::Application::instance().close_all_projects();
+    EXPECT_EQ(manager.getCount(), 0U);
 }
 
 TEST_F(DocumentMaterialTest, HandsOverCopiesByObjectIdUnderTheLabels)

@@ -4,6 +4,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 
 #include <gmock/gmock.h>
 
@@ -22,6 +23,7 @@ protected:
     MaterialProject()
     {
         initMat();
+        Mat::registerRequests();
         project = static_cast<Mat::DocumentMaterial*>(
             Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials"));
     }

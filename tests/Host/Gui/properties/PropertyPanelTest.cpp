@@ -144,7 +144,7 @@ TEST_F(Panel, RefusesATextThatIsNoValueAndSaysSo)
     ASSERT_TRUE(edit("Count", "many"));
     EXPECT_EQ(object.count.getValue(), 3);
     EXPECT_EQ(undoStack().count(), 0);
-    EXPECT_EQ(lastMessage(), "\"Count\" cannot be \"many\"; it stays as it was.");
+    EXPECT_EQ(lastMessage(), "The property \"Count\" cannot be \"many\"; nothing was changed.");
     EXPECT_TRUE(vxtest::waitFor([this] { return value("Count") == "3"; }));
 }
 

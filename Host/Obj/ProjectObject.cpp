@@ -133,7 +133,7 @@ bool ProjectObject::link_to(ProjectObject& other)
         return false;
     if (!isOfSameProject(other)) {
         Kelta::MessageLog::error(
-            tr("\"%1\" cannot be linked to \"%2\": they are not in one project.")
+            tr(R"("%1" cannot be linked to "%2": they are not in one project.)")
                 .arg(QString::fromStdString(label.getValue()), QString::fromStdString(other.label.getValue())));
         return false;
     }

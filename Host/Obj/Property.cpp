@@ -134,7 +134,7 @@ std::size_t heapSizeOf(const std::string& text)
 {
     // Short texts are kept in the string itself.
     const auto* const object = reinterpret_cast<const char*>(&text);
-    const bool isInside = text.data() >= object && text.data() < object + sizeof(text);
+    const bool isInside = text.data() >= object && text.data() < object + sizeof(std::string);
     return isInside ? 0 : text.capacity() + 1;
 }
 

@@ -105,6 +105,7 @@ public:
         if (m_projectId == 0)
             m_projectId = project.getProjectId();
     }
+    // NOLINTNEXTLINE(misc-no-recursion): openings are inside each other only if filling a project opens another one
     bool concerns(const Obj::Project& project) const
     {
         return m_projectId == project.getProjectId() || (m_outer != nullptr && m_outer->concerns(project));

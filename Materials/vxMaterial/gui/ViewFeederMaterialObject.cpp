@@ -108,8 +108,7 @@ MaterialView* ViewFeederMaterialObject::showMaterialView()
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (object == nullptr || mainWindow == nullptr || Gui::GuiApplication::Instance == nullptr)
         return nullptr;
-    // A host that has not called Mat::registerRequests adds materials to projects of any class. Only a material project
-    // has a database for the editor.
+    // Other modules may register projects that take materials too. Only a material project has a database for the editor.
     if (!object->get_project()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId()))
         return nullptr;
     materialView =

@@ -7,6 +7,7 @@
 #include "Gui/PictureFactory.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/Translator.h"
+#include "Obj/ObjectHomes.h"
 
 #include <QMenu>
 #include <QWindow>
@@ -319,14 +320,20 @@ TEST_F(MaterialNode, MakesANewEditorRightAfterTheUserHasClosedTheFirst)
     EXPECT_EQ(second->windowTitle(), "Beam[*]");
 }
 
+constexpr char projectWithMaterials[] = "Test::ProjectWithMaterials";
+
 TEST_F(MaterialNode, OpensNothingForAMaterialInAProjectOfAnotherKind)
 {
-    vxtest::initForeignClasses();
-    Obj::Project& analysis = *Obj::Application::instance().create_project("Fem::FemProject", "Analysis");
-    ViewFeederMaterialObject& foreign = feeder(addMaterial(analysis));
+    // Another module may have projects that take materials.
+    vxtest::ForeignProject<projectWithMaterials>::init();
+    Obj::registerHome("Mat::MaterialObject", projectWithMaterials);
+    Obj::Project& other = *Obj::Application::instance().create_project(projectWithMaterials, "Other");
+    ViewFeederMaterialObject& foreign = feeder(addMaterial(other));
     ASSERT_NE(foreign.getMaterialObject(), nullptr);
     EXPECT_TRUE(foreign.on_double_clicked());
     EXPECT_FALSE(foreign.setEdit(0));
+    select({foreign.getMaterialObject()});
+    EXPECT_TRUE(run("Mat_Edit"));
     EXPECT_TRUE(window->get_mdi_windows().isEmpty());
 }
 

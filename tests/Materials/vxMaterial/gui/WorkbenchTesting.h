@@ -35,6 +35,7 @@ protected:
     Workbench()
     {
         initMat();
+        Mat::registerRequests();
         initMatGui();
         Mat::registerRequests();
         window = std::make_unique<Gui::MainWindow>();
@@ -55,6 +56,13 @@ protected:
     {
         const auto& messages = Kelta::MessageLog::instance().messages();
         return messages.empty() ? std::string() : messages.back().text.toStdString();
+    }
+
+    /// Expects one more error in the message log, whose text begins with `start`.
+    void expectError(const std::string& start)
+    {
+        EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), ++errorsBefore);
+        EXPECT_THAT(lastMessage(), testing::StartsWith(start));
     }
 
     static Gui::CommandController& commands() { return Gui::GuiApplication::Instance->get_command_manager(); }
@@ -83,7 +91,7 @@ protected:
         return *Gui::GuiApplication::Instance->get_view_feeder(&object);
     }
 
-    /// The editor in front; null when there is none.
+    /// The active editor; null if there is none.
     MatGui::MaterialView* activeEditor() const
     {
         return dynamic_cast<MatGui::MaterialView*>(window->get_active_mdi_window());

@@ -70,6 +70,13 @@ bool ProjectExplorer::edit(const QModelIndex& index, EditTrigger trigger, QEvent
     return isTaken;
 }
 
+void ProjectExplorer::changeEvent(QEvent* event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setAccessibleName(tr("Project explorer"));
+}
+
 void ProjectExplorer::contextMenuEvent(QContextMenuEvent* event)
 {
     const bool isKey = event->reason() == QContextMenuEvent::Keyboard;

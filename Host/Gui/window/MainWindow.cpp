@@ -19,6 +19,7 @@
 #include "workbench/WorkbenchBars.h"
 #include "workbench/WorkbenchSwitch.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -58,7 +59,8 @@ bool isInDock(const QWidget* widget)
 void leaveEditor()
 {
     const QPointer<QWidget> editor = QApplication::focusWidget();
-    if (!isInDock(editor))
+    // A view with an open editor has given the keyboard to it.
+    if (!isInDock(editor) || qobject_cast<QAbstractItemView*>(editor) != nullptr)
         return;
     editor->clearFocus();
     if (editor != nullptr && editor->isVisible() && QApplication::focusWidget() == nullptr)

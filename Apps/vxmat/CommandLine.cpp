@@ -87,7 +87,7 @@ CommandLine::CommandLine()
     addCheck();
     addDiff();
     addQuery();
-    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 done and clean, 1 findings or differences, 2 error.");
+    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 success, 1 findings or differences, 2 error.");
 }
 
 CLI::App* CommandLine::addCommand(const std::string& name, const std::string& description, const std::string& example,

@@ -192,7 +192,7 @@ TEST(Import, ReportsRepeatedMembers)
 {
     const Outcome run = vxmat({"import", dataPath("documents/14-repeated-members.json"), "-o", "-"});
     EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.err, HasSubstr("14-repeated-members.json: $.material[0].mat_name: is there more than once"));
+    EXPECT_THAT(run.err, HasSubstr("14-repeated-members.json: $.material[0].mat_name: occurs more than once"));
 }
 
 TEST(Import, RefusesFilesThatAreNotMaterialDocuments)

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds and does the main job. Without arguments: library materials become a document and cards for the solver, and
-# then the desktop application opens; where there is no display it runs examples/tour.batch instead. All files go to
-# out/. With arguments: runs the command-line tool with them, where the caller stands.
+# Builds the programs and runs them. Without arguments: exports library materials as a document and as cards for the
+# solver, then opens the desktop application, or runs examples/tour.batch if there is no display. Writes all files to
+# out/. With arguments: runs the command-line tool with them in the caller's folder.
 set -euo pipefail
 here=$PWD
 cd "$(dirname "$0")"
@@ -26,9 +26,9 @@ mkdir -p out
 "$bin/vxmat" cards "${examples[@]}" | tee "$cards"
 
 echo
-echo "Wrote $document: ${#materials[@]} materials for the solver, checked without findings."
-echo "Wrote out/notes.txt: what of them such a document does not carry."
-echo "Wrote $cards: the cards of the plastic, creep and visco-elastic examples, printed above."
+echo "Wrote $document: ${#materials[@]} materials for the solver; the check found no errors."
+echo "Wrote out/notes.txt: the data that such a document cannot carry."
+echo "Wrote $cards: the solver cards printed above."
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "Opening the desktop application."
@@ -37,6 +37,6 @@ fi
 "$bin/kelta" --batch examples/tour.batch >out/tour.txt 2>out/tour-notes.txt || { cat out/tour-notes.txt >&2; exit 1; }
 echo
 echo "No display: examples/tour.batch made a material project, added and checked two materials, and wrote"
-echo "out/tour.vxmat: the project, which build/default/bin/kelta opens; out/tour.json: the same as the solver"
-echo "gets it; out/tour.png: the main window; out/tour.txt: cards and record."
-echo "\"./run.sh --help\" shows what else there is."
+echo "out/tour.vxmat: the project, for build/default/bin/kelta; out/tour.json: the document for the solver;"
+echo "out/tour.png: a picture of the main window; out/tour.txt: the cards and the database record."
+echo "\"./run.sh --help\" lists the subcommands of the command-line tool."

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the programs and the tests, and runs the tests. ctest gets the arguments: ./test.sh -R Cards
+# Builds the programs and the tests, and runs the tests. Passes its arguments to ctest: ./test.sh -R Cards
 set -euo pipefail
 cd "$(dirname "$0")"
 

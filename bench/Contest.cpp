@@ -28,7 +28,7 @@ std::vector<Contest>& contests()
     return all;
 }
 
-/// What stands behind `flag` in the argument that begins with it.
+/// Returns the text after `flag` in the argument that begins with it.
 std::optional<std::string> valueOf(const char* flag, const std::vector<std::string>& arguments)
 {
     for (const std::string& argument : arguments) {
@@ -40,7 +40,7 @@ std::optional<std::string> valueOf(const char* flag, const std::vector<std::stri
 
 // --- One contest, in a process of its own ---
 
-/// Keeps the time of every repetition of each side.
+/// Collects the time of every repetition of each side.
 class Collector : public benchmark::BenchmarkReporter
 {
 public:
@@ -53,7 +53,7 @@ public:
         }
     }
 
-    /// The shortest time of a side: what disturbs a run only ever makes it longer.
+    /// Returns the shortest time of a side, because disturbances only make a run longer.
     double time(const std::string& name) const
     {
         const auto& times = m_times.at(name);
@@ -73,10 +73,10 @@ void registerSide(const std::string& name, const Measured& measured)
     benchmark::RegisterBenchmark(name.c_str(), run)->UseManualTime()->Unit(benchmark::kMicrosecond);
 }
 
-/// Runs both sides in turns, several times, and prints the shortest time of each.
+/// Runs both sides alternately, several times, and prints the shortest time of each side.
 int runContest(const Contest& contest, const std::vector<std::string>& arguments)
 {
-    // The defaults stand before the arguments, so that these win.
+    // The arguments follow the defaults, so that they override them.
     std::vector<std::string> texts{"bench", "--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
                                    "--benchmark_min_time=0.1"};
     texts.insert(texts.end(), arguments.begin(), arguments.end());
@@ -97,7 +97,7 @@ int runContest(const Contest& contest, const std::vector<std::string>& arguments
     return 0;
 }
 
-/// Does one side once and prints the most memory that the process ever held, in KiB.
+/// Runs one side once and prints the peak memory of the process, in KiB.
 int runSide(const std::string& side)
 {
     for (const Contest& contest : contests()) {
@@ -116,7 +116,7 @@ int runSide(const std::string& side)
 
 // --- The table, over all contests ---
 
-/// What this program prints when it is run with `flag`, as numbers.
+/// Runs this program with `flag` and returns the numbers that it prints; empty if it fails.
 std::vector<double> ask(const std::string& program, const std::string& flag, const std::string& further)
 {
     const std::string command = "'" + program + "' '" + flag + "'" + further;
@@ -135,7 +135,7 @@ std::vector<double> ask(const std::string& program, const std::string& flag, con
     return read;
 }
 
-/// Answers whether the ratios could be measured and are within the limit.
+/// Prints the result of a contest. Returns whether the ratios could be measured and are within the limit.
 bool printRow(const std::string& program, const Contest& contest, const std::string& further)
 {
     const auto times = ask(program, contestFlag + contest.name, further);

@@ -7,24 +7,24 @@
 #include <type_traits>
 #include <utility>
 
-/// Speed is measured as a ratio: what the project does against the same done in another way, in one run and in turns, so
-/// that the speed of the machine cancels out.
+/// Speed is measured as a ratio: the time of the project's code divided by the time of other code for the same task.
+/// Both run alternately in one process, so that the speed of the machine cancels out.
 namespace vxbench {
 
-/// Does something once and returns the time of its measured part.
+/// Runs an action once and returns the time of its measured part.
 using Measured = std::function<std::chrono::nanoseconds()>;
 
-/// Two ways to do the same, and how much longer or larger than the second the first may be.
+/// Two implementations of a task, and the limit for the ratio of the first to the second.
 struct Contest
 {
     std::string name;
     Measured ours;
     Measured other;
-    double limit;             ///< of the ratio of times and of peak memories; 0 if the ratio is for information
-    bool limitsMemory = true; ///< false if the sides hold different things, so that the limit is only of times
+    double limit;             ///< for the ratios of times and of peak memories; 0 for no limit
+    bool limitsMemory = true; ///< false if the limit is only for times, because the sides hold different data
 };
 
-/// Returns the time that `action` takes; its result is destroyed after the clock has stopped.
+/// Returns the time of `action`. Its result is destroyed after the clock has stopped.
 template <class Action>
 std::chrono::nanoseconds timed(Action action)
 {
@@ -33,8 +33,8 @@ std::chrono::nanoseconds timed(Action action)
     return std::chrono::steady_clock::now() - begin;
 }
 
-/// Returns a function that makes something when it is first called, so that a process that measures memory makes only
-/// what it needs.
+/// Returns a function that makes an object in its first call and returns it in every call, so that a process that
+/// measures memory makes only the objects that it needs.
 template <class Make>
 auto lazily(Make make)
 {
@@ -46,11 +46,12 @@ auto lazily(Make make)
     };
 }
 
+/// Adds a contest to the list for runContests().
 void addContest(Contest contest);
 
-/// Runs all contests, or those whose name contains the argument, each in its own process, and prints a table:
-/// the shortest time of each side over repetitions in turns, and the peak memory of a process that does the side
-/// once. Options of Google Benchmark are passed on. Returns 1 if a ratio is over its limit.
+/// Runs all contests, or the contests whose name contains the argument, each in its own process. Prints a table: the
+/// shortest time of each side, and the peak memory of a process that runs the side once. Passes options to Google
+/// Benchmark. Returns 1 if a ratio is over its limit or could not be measured.
 int runContests(int argc, char** argv);
 
 } // namespace vxbench

@@ -1,16 +1,17 @@
-# Writes the script that tells CTest of the tests of a GoogleTest program; run after the program is linked.
+# Writes a script that adds the tests of a GoogleTest program to CTest. Runs after the program is linked.
 #
 #   cmake -D PROGRAM=... -D SCRIPT=... -D ISOLATED=ON|OFF -D "PROPERTIES=..." -P DiscoverTests.cmake
 #
-# PROPERTIES are CTest's, as set_tests_properties() takes them. A suite is one of CTest's tests and runs in one process;
-# with ISOLATED each test is one and has a process of its own.
+# PROPERTIES are the arguments of set_tests_properties(). Each suite becomes one CTest test, which runs in one process.
+# With ISOLATED, each test becomes one CTest test, which runs in its own process.
 
 execute_process(COMMAND ${PROGRAM} --gtest_list_tests
                 OUTPUT_VARIABLE list RESULT_VARIABLE result ERROR_VARIABLE errors TIMEOUT 60)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${PROGRAM} cannot list its tests (${result}):\n${list}${errors}")
 endif()
-# A line is "Suite." or "  Test"; behind it may stand a parameter, which may hold what CMake takes for a list.
+# A line is "Suite." or "  Test". A comment with the parameter may follow; it is removed, because it may contain
+# characters that separate or group the elements of a list in CMake.
 string(REGEX REPLACE "  # [^\n]*" "" list "${list}")
 string(REGEX MATCHALL "[^\n]+" lines "${list}")
 

@@ -1,14 +1,14 @@
 # vx_add_module(<target>                 a shared or module library
-#     NAME <name>                        by which other modules need it; the name of the target when not given
-#     ENTRIES <function>...              called in this order when the module is loaded
-#     NEEDS <module> <version>...        other modules, each with the lowest version that serves
-#     VERSION <version>                  of the module; that of the project when not given
-#     HOST <version>                     the lowest version of the host that serves; the one that this comes with when
-#                                        not given
-#     DESTINATION <folder>               where the library is installed; the descriptor is not installed when not given)
+#     NAME <name>                        the name that other modules use in NEEDS; default: the name of the target
+#     ENTRIES <function>...              the functions to call, in this order, after the module is loaded
+#     NEEDS <module> <version>...        other modules that this one needs, each with its lowest version
+#     VERSION <version>                  the version of the module; default: the version of the project
+#     HOST <version>                     the lowest version of the host; default: the version of the host that provides
+#                                        this function
+#     DESTINATION <folder>               the folder to install to; default: nothing is installed)
 #
-# Makes a library a module of the host: writes its descriptor, <name>.module.json, beside it in the build tree, and
-# installs it with the library.
+# Makes a library a module of the host. Writes its descriptor, <name>.module.json, beside it in the build tree, and
+# installs library and descriptor if DESTINATION is given.
 function(vx_add_module target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAME;VERSION;HOST;DESTINATION" "ENTRIES;NEEDS")
     set(default_NAME ${target})

@@ -1,11 +1,12 @@
 # The CMake packages of an installed copy:
-#   find_package(vxMaterial) offers vxMaterial::model, vxMaterial::json and vxMaterial::exchange;
-#   find_package(KeltaHost) offers Host::Kelta, Host::Obj, Host::vxMsg, Host::Gui and Host::CaeManager, and vx_add_module.
+#   find_package(vxMaterial) provides vxMaterial::model, vxMaterial::json and vxMaterial::exchange;
+#   find_package(KeltaHost) provides Host::Kelta, Host::Obj, Host::vxMsg, Host::Gui and Host::CaeManager, and
+# vx_add_module.
 
 include(CMakePackageConfigHelpers)
 
 # vx_install_package(<name> NAMESPACE <namespace> [FILES <file>...])
-# Installs the package <name>: the targets of the export set <name>Targets, and further files beside them.
+# Installs the package <name>: the targets of the export set <name>Targets, and FILES beside them.
 function(vx_install_package name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAMESPACE" "FILES")
     set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${name})

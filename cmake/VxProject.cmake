@@ -16,13 +16,14 @@ set(VX_INSTRUMENT "" CACHE STRING "Instrumentation: empty, sanitize, coverage or
 
 find_program(VX_CCACHE ccache)
 if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # By default the cache does not serve sources that use a precompiled header, because it cannot see whether the header
-    # depends on the time or on definitions. Here it does not depend on the time, and the compiler checks definitions.
+    # By default ccache ignores sources that use a precompiled header, because it cannot see whether the header depends
+    # on the time or on definitions. Here the header does not depend on the time, and the compiler checks the
+    # definitions.
     set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
         ${VX_CCACHE})
 endif()
 
-# One folder for all programs and one for all libraries: programs find the libraries by a relative path.
+# One folder for all programs and one folder for all libraries: programs find the libraries by a relative path.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 include(GNUInstallDirs)
@@ -48,5 +49,5 @@ elseif(VX_INSTRUMENT STREQUAL "fuzz")
                                                 -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(vx_options INTERFACE -fsanitize=address,undefined)
 elseif(VX_INSTRUMENT)
-    message(FATAL_ERROR "VX_INSTRUMENT is \"${VX_INSTRUMENT}\"; it may be empty, sanitize, coverage or fuzz")
+    message(FATAL_ERROR "VX_INSTRUMENT is \"${VX_INSTRUMENT}\"; it must be empty, sanitize, coverage or fuzz")
 endif()

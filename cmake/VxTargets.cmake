@@ -1,18 +1,18 @@
-# The functions by which the folders define their targets.
+# The functions that define the targets of the folders.
 #
 # Includes keep the layers apart. Every library has its own include root in the build tree, with a forwarding header for
-# each of its public headers. A target has the roots of the libraries that it links and no others, so an include of a
-# higher layer, or of a private header, does not compile.
+# each of its public headers. A target sees only the roots of the libraries that it links, so an include of a higher
+# layer, or of a private header, does not compile.
 
 include(GenerateExportHeader)
 
 # vx_add_library(<target> [SHARED | OBJECT]    OBJECT: a part of a library
-#     ALIAS <namespaced alias>           what others link, e.g. vxMaterial::model
-#     INCLUDE_PATH <path>                how its headers are included, e.g. vxMaterial/model
+#     ALIAS <namespaced alias>           the name that other targets link, e.g. vxMaterial::model
+#     INCLUDE_PATH <path>                the path in includes of its headers, e.g. vxMaterial/model
 #     EXPORT_HEADER <name>               the generated header with the export macro, if any
 #     EXPORT_MACRO <macro>
 #     FOLDER <folder>                    the folder of headers and sources; default: this one
-#     PUBLIC_HEADERS <file>...           subfolders are not part of the path by which a header is included
+#     PUBLIC_HEADERS <file>...           without their subfolders in includes
 #     SOURCES <file>...
 #     PUBLIC_LINKS <target>...           PRIVATE_LINKS <target>...)
 function(vx_add_library target)
@@ -32,7 +32,7 @@ function(vx_add_library target)
     endif()
     target_link_libraries(${target} PUBLIC ${arg_PUBLIC_LINKS} PRIVATE ${arg_PRIVATE_LINKS} $<BUILD_INTERFACE:vx_options>)
     target_compile_features(${target} PUBLIC cxx_std_17)
-    # Before version 1 each minor version may break dependents, as the package's version file says too.
+    # Before version 1, each minor version may break dependents. The version file of the package follows this rule too.
     set_target_properties(${target} PROPERTIES AUTOMOC ON
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
@@ -50,7 +50,7 @@ function(vx_add_library target)
     vx_check_headers_alone(${target} ${arg_INCLUDE_PATH} ${arg_PUBLIC_HEADERS})
 endfunction()
 
-# Writes a header that includes `header`. Leaves the file alone if it has this content already.
+# Writes a header that includes `header`. Does not touch a file that has this content already.
 function(vx_forward_header forward header)
     file(CONFIGURE OUTPUT ${forward} CONTENT "#include \"${header}\"\n")
 endfunction()
@@ -83,8 +83,8 @@ function(vx_install_library target)
 endfunction()
 
 # vx_add_resource(<name> <file.qrc>): sets <name>_source to a source file with int qInitResources_<name>() and
-# int qCleanupResources_<name>(). The generated source would register the resource when the library is loaded; that part
-# is cut off, so that only a call registers it.
+# int qCleanupResources_<name>(). Removes the part of the generated source that registers the resource when the library
+# is loaded, so that only a call registers the resource.
 function(vx_add_resource name qrc)
     get_target_property(rcc Qt5::rcc IMPORTED_LOCATION)
     set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${name}.rcc.cpp)
@@ -106,8 +106,8 @@ function(vx_install_program_library target)
     install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_SKIP)
 endfunction()
 
-# vx_install_host_library(<target>): installs the library for programs and modules: as Host::<target> of the package
-# KeltaHost, with its public headers in a folder of their own, because names such as Obj and Gui are taken elsewhere.
+# vx_install_host_library(<target>): installs the library for programs and modules, as Host::<target> of the package
+# KeltaHost. The public headers go to the folder KeltaHost, because other packages have folders such as Obj and Gui.
 function(vx_install_host_library target)
     get_target_property(headers ${target} VX_PUBLIC_HEADERS)
     get_target_property(include_path ${target} VX_INCLUDE_PATH)
@@ -119,11 +119,12 @@ function(vx_install_host_library target)
             DESTINATION ${folder}/${include_path} FILES_MATCHING PATTERN "*Export.h")
 endfunction()
 
-# vx_add_test(<name> [GUI] [ALONE] [ISOLATED]     ALONE: no other test runs beside its tests
+# vx_add_test(<name> [GUI] [ALONE] [ISOLATED]     ALONE: no other test runs at the same time
 #     SOURCES <file>... LINKS <target>... DEFINITIONS <definition>...)
-# Adds a GoogleTest program. Each of its suites is a test of CTest; with ISOLATED, for tests that leave something behind
-# in their process, each of its tests is. The tests start in the C locale and may change to the comma-decimal one that is
-# built for them. With GUI they run inside a GUI application on the offscreen platform.
+# Adds a GoogleTest program. Each of its suites is one CTest test. With ISOLATED, each of its tests is one CTest test
+# and runs in its own process, for tests that change the state of their process. The tests start in the C locale and may
+# switch to the comma-decimal locale that is built for them. With GUI they run inside a GUI application on the offscreen
+# platform.
 function(vx_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "GUI;ALONE;ISOLATED" "" "SOURCES;LINKS;DEFINITIONS")
     add_executable(${name} ${arg_SOURCES})
@@ -145,8 +146,8 @@ function(vx_add_test name)
         "TIMEOUT 600 RUN_SERIAL ${arg_ALONE} ENVIRONMENT [[LOCPATH=${VX_TEST_LOCALES};QT_QPA_PLATFORM=offscreen]]")
 endfunction()
 
-# Sets the compiler options of all that uses the precompiled headers of tests, which must be the same everywhere. Without
-# optimisation: it takes longer than it saves when the tests run.
+# Sets the compiler options of the targets that use the precompiled headers of tests; these options must be the same in
+# all of them. There is no optimisation, because it takes longer than it saves in the tests.
 function(vx_compile_as_test target)
     target_compile_options(${target} PRIVATE -O0 -g1 -fPIC)
 endfunction()
@@ -160,7 +161,7 @@ function(vx_discover_tests target isolated properties)
                 -D "PROPERTIES=${properties}" -P ${discover}
         VERBATIM)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${discover})
-    # Until the program is built, one test that fails takes the place of its tests.
+    # Until the program is built, one failing test replaces its tests.
     set(include ${CMAKE_CURRENT_BINARY_DIR}/${target}_tests.cmake)
     file(CONFIGURE OUTPUT ${include} @ONLY CONTENT
 "if(EXISTS [[@script@]])

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# The pictures of the documentation, docs/images: the main window and both tabs of the material editor, light and dark.
+# Makes pictures of the main window and of both tabs of the material editor, light and dark.
 #
-#   docs/screenshots.sh             makes them anew
-#   docs/screenshots.sh all FOLDER  the editor in all languages, at 100 % and 200 %, to be looked at. Chinese needs a
-#                                   font that has it, such as Debian's fonts-wqy-zenhei.
+#   docs/screenshots.sh             replaces the pictures of the documentation, docs/images
+#   docs/screenshots.sh all FOLDER  makes pictures of the editor in all languages, at 100 % and 200 %, for a review by
+#                                   eye. Chinese needs a font with its characters, such as Debian's fonts-wqy-zenhei.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -36,7 +36,7 @@ for colours in light dark; do
 done
 rm docs/images/disabled-*.png
 
-# Without settings and projects of whoever runs this.
+# An empty home folder keeps the user's settings and projects out of the pictures.
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 pictures=$PWD/docs/images

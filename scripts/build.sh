@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Configures and builds a preset (default: default): build.sh [PRESET [TARGET...]]. Writes nothing to standard output, and
-# nothing at all if there is nothing to do.
+# Configures and builds a preset (default: default): build.sh [PRESET [TARGET...]]. Writes only to standard error, and
+# only if there is something to build.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

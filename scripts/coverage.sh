@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs all tests and prints the line coverage of the libraries; fails below the limits.
+# Runs all tests and prints the line coverage of the libraries. Fails if a coverage is below its limit.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

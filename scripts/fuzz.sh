@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the fuzzers and runs each for some seconds, from the documents of the tests: fuzz.sh [SECONDS]
+# Builds the fuzzers and runs each for SECONDS (default: 60), starting with the documents of the tests:
+# fuzz.sh [SECONDS]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages of packaging/debian-packages.txt that are missing, through sudo where not root.
-# Asks nothing itself; ends at once when all are there.
+# Installs the missing packages of packaging/debian-packages.txt, with sudo if the user is not root. Asks no questions.
+# Does nothing if all packages are installed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -8,8 +8,8 @@ list=packaging/debian-packages.txt
 mapfile -t packages < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$list")
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "This system has no apt-get, so missing packages cannot be installed here." >&2
-    echo "Install what $list names (Debian's names), by the means of your system; building goes on." >&2
+    echo "This system has no apt-get, so missing packages cannot be installed." >&2
+    echo "Install the equivalents of the Debian packages in $list with your package manager. The build continues." >&2
     exit 0
 fi
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds everything with AddressSanitizer and UndefinedBehaviorSanitizer and runs all tests, leak detection on.
+# Builds everything with AddressSanitizer and UndefinedBehaviorSanitizer and runs all tests with leak detection.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Brings translations/*.ts up to date with the texts in the sources. With --check it changes nothing, and fails if a text
-# has no translation or a translation has no text any more.
+# Updates translations/*.ts with the texts in the sources. With --check, changes nothing and fails if a text has no
+# translation or a translation has no text.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# lupdate takes the context of a text from the class around it. In a source file with a function tr() of its own, the
-# context is the one that this function names; copies of the sources say so where lupdate looks for it.
+# lupdate uses the enclosing class as the context of a text. In a source file that defines its own tr(), the context is
+# the one in that function. The copies of such files name this context in every call, where lupdate finds it.
 own_tr='^(inline )?QString tr\(const char'
 context_of() { grep -A4 -E "$own_tr" "$1" | grep -oE 'translate\("[^"]*"' | head -1 | cut -d'"' -f2 || true; }
 git ls-files --cached --others --exclude-standard -- Host Apps Materials |
@@ -28,7 +28,7 @@ git ls-files --cached --others --exclude-standard -- Host Apps Materials |
     fi
 done
 
-# Headers are included by the name of their library, without the folders in it.
+# Includes name the library of a header, but not the folder in the library.
 for library in Host/Gui Host/Obj Host/Kelta Host/vxMsg; do
     name=$(basename "$library")
     mkdir -p "$work/include/$name"
@@ -55,7 +55,7 @@ for ts in translations/*.ts; do
         failed=1
     fi
     if ! diff <(grep -c '<message' "$ts") <(grep -c '<message' "$updated") >/dev/null; then
-        echo "$ts has other texts than the sources; run scripts/translations.sh" >&2
+        echo "$ts does not have the texts of the sources; run scripts/translations.sh" >&2
         failed=1
     fi
 done

@@ -1215,11 +1215,11 @@ Unterdrückt</translation>
         <translation>das Dokument hat keine Zahl dafür, was als 0 gelesen wird</translation>
     </message>
     <message>
-        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the key of the document was kept</source>
         <translation>ihr Schlüssel ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
     </message>
     <message>
-        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the name of the document was kept</source>
         <translation>ihr Name ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
     </message>
     <message>
@@ -1235,7 +1235,7 @@ Unterdrückt</translation>
         <translation>der Katalog kennt sie nicht; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
     </message>
     <message>
-        <source>it is there twice in the document; the last one was taken</source>
+        <source>the document has it more than once; the last one was used</source>
         <translation>sie steht zweimal im Dokument; die letzte wurde genommen</translation>
     </message>
     <message>
@@ -1243,7 +1243,7 @@ Unterdrückt</translation>
         <translation>das Dokument hat keine Nummer dafür; es bekam die Nummer %1</translation>
     </message>
     <message>
-        <source>its number in the document is %1, as that of a later material is; it was given the number %2</source>
+        <source>its number in the document is %1, which a later material has too; it was given the number %2</source>
         <translation>seine Nummer im Dokument ist %1 wie die eines späteren Materials; es bekam die Nummer %2</translation>
     </message>
     <message>

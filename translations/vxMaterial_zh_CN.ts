@@ -1215,11 +1215,11 @@ Suppressed</source>
         <translation>文档中没有它的数值，按 0 读取</translation>
     </message>
     <message>
-        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the key of the document was kept</source>
         <translation>它的键在文档中是“%1”，在目录中是“%2”；保留了文档中的键</translation>
     </message>
     <message>
-        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; that of the document was kept</source>
+        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the name of the document was kept</source>
         <translation>它的名称在文档中是“%1”，在目录中是“%2”；保留了文档中的名称</translation>
     </message>
     <message>
@@ -1235,7 +1235,7 @@ Suppressed</source>
         <translation>目录中没有它；它的单位、说明和类别已丢失</translation>
     </message>
     <message>
-        <source>it is there twice in the document; the last one was taken</source>
+        <source>the document has it more than once; the last one was used</source>
         <translation>它在文档中出现两次；采用了最后一个</translation>
     </message>
     <message>
@@ -1243,7 +1243,7 @@ Suppressed</source>
         <translation>文档中没有它的编号；已赋予编号 %1</translation>
     </message>
     <message>
-        <source>its number in the document is %1, as that of a later material is; it was given the number %2</source>
+        <source>its number in the document is %1, which a later material has too; it was given the number %2</source>
         <translation>它在文档中的编号 %1 与后面的材料相同；已赋予编号 %2</translation>
     </message>
     <message>

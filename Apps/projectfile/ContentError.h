@@ -7,23 +7,24 @@
 
 namespace projectfile {
 
-/// What is wrong with the content of a project file, of a record, or of a document to be imported. (What is wrong with
-/// a file as a file is a StoreError.)
+/// An error in the content of a project file, of a record, or of a document to be imported. (An error of reading or
+/// writing a file is a StoreError.)
 ///
-/// The message is in the user's language and in UTF-8. It names the place, but not the file, which the caller knows.
+/// The message is in the user's language and in UTF-8. It names the place in the file, but not the file itself, which
+/// the caller knows.
 class PROJECTFILE_EXPORT ContentError : public std::runtime_error
 {
 public:
-    /// The text is not JSON, or not a document of the kind that is wanted. `line` and `column` count from 1; they are 0
-    /// if no place is known.
+    /// The text is not JSON, or not a document of the expected kind. `line` and `column` count from 1; they are 0 if
+    /// the place is unknown.
     explicit ContentError(const std::string& message, int line = 0, int column = 0);
-    /// A member is wrong: "materials[3].label".
+    /// The member is invalid. `member` is its path, for example "materials[3].label".
     ContentError(const std::string& message, std::string member);
     ~ContentError() override;
 
     int line() const { return m_line; }
     int column() const { return m_column; }
-    /// The path of the member that is wrong; empty if none is known.
+    /// Returns the path of the invalid member; empty if it is unknown.
     const std::string& member() const { return m_member; }
 
 private:

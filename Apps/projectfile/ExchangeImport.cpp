@@ -57,7 +57,7 @@ const char* kindName(const JsonNode& value)
     detail::refuseMember(path, tr("%1: is %2; %3 is needed"), tr(kindName(value)), needed);
 }
 
-/// The element of an array, which must be an object. `path` is that of the element.
+/// Returns an element of an array, which must be an object. `path` is the path of the element.
 JsonNode objectAt(const JsonNode& array, std::size_t index, const std::string& path)
 {
     const JsonNode element = array.element(index);
@@ -66,7 +66,7 @@ JsonNode objectAt(const JsonNode& array, std::size_t index, const std::string& p
     return element;
 }
 
-/// The array under `key`; null if there is none.
+/// Returns the array under `key`; null if there is none.
 JsonNode arrayUnder(const JsonNode& parent, const char* key, const std::string& parentPath)
 {
     const JsonNode array = parent[key];
@@ -88,7 +88,7 @@ std::string pathOf(const std::string& parent, const char* key, std::size_t index
     return parent + "." + key + "[" + std::to_string(index) + "]";
 }
 
-/// The value as a number without a sign; absent for all else.
+/// Returns a value as an unsigned number; absent if it is not a whole number from 0 to 4294967295.
 std::optional<std::uint32_t> unsignedNumber(const JsonNode& value)
 {
     const std::optional<std::int64_t> whole = value.whole();
@@ -97,7 +97,7 @@ std::optional<std::uint32_t> unsignedNumber(const JsonNode& value)
     return static_cast<std::uint32_t>(*whole);
 }
 
-/// The number of a material as an object can have it; 0 for all others, and for none.
+/// Returns the number of a material; 0 if it is missing or no object can have it.
 std::uint32_t numberOf(const JsonNode& material, const std::string& path)
 {
     const JsonNode number = material["mat_id"];
@@ -106,7 +106,7 @@ std::uint32_t numberOf(const JsonNode& material, const std::string& path)
     return unsignedNumber(number).value_or(0);
 }
 
-/// The id under which a material holds a property.
+/// Returns the id under which a material holds a property.
 std::int32_t idOf(const JsonNode& property, const std::string& path)
 {
     const JsonNode type = property["prop_type"];
@@ -115,13 +115,13 @@ std::int32_t idOf(const JsonNode& property, const std::string& path)
     const std::optional<std::int64_t> whole = type.whole();
     if (whole && *whole < 0 && *whole >= std::numeric_limits<std::int32_t>::min())
         return static_cast<std::int32_t>(*whole);
-    // Readers of documents convert the number to one with a sign, so that an id below 0 comes back as it was.
+    // Documents store ids as unsigned numbers. The conversion restores an id below 0.
     if (const auto number = unsignedNumber(type))
         return static_cast<std::int32_t>(*number);
     refuse(path + ".prop_type", type, tr("a whole number from 0 to 4294967295"));
 }
 
-/// Makes one material, and collects what is doubtful about it.
+/// Makes one material, and collects the doubts about it.
 class MaterialImport
 {
 public:
@@ -173,11 +173,11 @@ void MaterialImport::takeNameAndKey(vxMat::MaterialProperty& property, const Jso
             doubtProperty(property, doubt.arg(text(taken), text(field)));
         field = std::move(taken);
     };
-    // The name comes last, since the doubts show the one of the catalogue.
+    // The name is last, because the doubt about the key shows the name in the catalogue.
     take(property.key, "prop_key",
-         tr(R"(its key is "%1" in the document and "%2" in the catalogue; that of the document was kept)"));
+         tr(R"(its key is "%1" in the document and "%2" in the catalogue; the key of the document was kept)"));
     take(property.name, "prop_name",
-         tr(R"(its name is "%1" in the document and "%2" in the catalogue; that of the document was kept)"));
+         tr(R"(its name is "%1" in the document and "%2" in the catalogue; the name of the document was kept)"));
 }
 
 void MaterialImport::restoreWordOrList(vxMat::MaterialProperty& property, const vxMat::PropertyRecord& quantity)
@@ -204,16 +204,16 @@ void MaterialImport::addProperty(const JsonNode& json, const std::string& path)
     if (quantity == nullptr)
         doubtProperty(*property, tr("the catalogue does not know it; its unit, description and category are lost"));
     if (material->hasProperty(id))
-        doubtProperty(*property, tr("it is there twice in the document; the last one was taken"));
-    // As a plain property, which every copy of a material has.
+        doubtProperty(*property, tr("the document has it more than once; the last one was used"));
+    // Copies of materials hold plain properties too.
     material->setProperty(id, std::make_unique<vxMat::MaterialProperty>(*property));
 }
 
-/// The numbers that the objects of a document's materials get.
+/// Assigns object numbers to the materials of a document.
 class Numbers
 {
 public:
-    /// `stated` has the numbers of the document, 0 for none.
+    /// `stated` has the numbers in the document; 0 if there is no valid number.
     explicit Numbers(const std::vector<std::uint32_t>& stated)
     {
         for (std::size_t i = 0; i < stated.size(); ++i)
@@ -221,24 +221,24 @@ public:
                 m_last[stated[i]] = i;
     }
 
-    /// Whether the material at `index` keeps the number that it states.
+    /// Whether the material at `index` keeps its number in the document.
     bool keeps(std::size_t index, std::uint32_t stated) const { return stated != 0 && m_last.at(stated) == index; }
 
     /// Returns a number that no material has.
     std::uint32_t next()
     {
-        // There is always one: a document has fewer materials than there are numbers.
+        // The loop ends, because a document has fewer materials than there are numbers.
         while (m_last.count(m_next) != 0)
             ++m_next;
         return m_next++;
     }
 
 private:
-    std::unordered_map<std::uint32_t, std::size_t> m_last; ///< the last material that states a number
+    std::unordered_map<std::uint32_t, std::size_t> m_last; ///< the last material with a number
     std::uint32_t m_next = 1;
 };
 
-/// Why a material has the number `objectId`, which is not that of the document.
+/// Returns the reason why a material has the number `objectId`, which differs from its number in the document.
 QString renumbered(const JsonNode& material, std::uint32_t stated, std::uint32_t objectId)
 {
     const JsonNode number = material["mat_id"];
@@ -247,13 +247,13 @@ QString renumbered(const JsonNode& material, std::uint32_t stated, std::uint32_t
         return tr("the document has no number for it; it was given the number %1").arg(given);
     const QString said = detail::shown(number);
     if (stated != 0)
-        return tr("its number in the document is %1, as that of a later material is; it was given the number %2")
+        return tr("its number in the document is %1, which a later material has too; it was given the number %2")
             .arg(said, given);
     return tr("its number in the document is %1, which no object can have; it was given the number %2")
         .arg(said, given);
 }
 
-/// `stated` is the number in the document, 0 for none that an object can have.
+/// `stated` is the number in the document; 0 if there is no valid number.
 ImportedMaterial readMaterial(const JsonNode& json, const std::string& path, std::uint32_t stated,
                               std::uint32_t objectId, std::vector<std::string>& doubts)
 {
@@ -293,7 +293,7 @@ void requireMaterialDocument(const JsonNode& document)
 void doubtRepeatedMembers(const vxjson::JsonTree& tree, std::vector<std::string>& doubts)
 {
     for (const std::string& path : tree.repeatedMembers())
-        doubts.push_back(tr("%1: is there more than once; the last one was taken").arg(text(path)).toStdString());
+        doubts.push_back(tr("%1: occurs more than once; the last one was used").arg(text(path)).toStdString());
 }
 
 } // namespace
@@ -337,12 +337,12 @@ ProjectRecord makeProject(const std::string& name, std::vector<ImportedMaterial>
     project.database["proj_tag"] = "Material";
     project.database["proj_id"] = 1U;
     project.database["physics_type"] = "Material";
-    Json::Value objects; // null, as in the host, if there are no materials
+    Json::Value objects; // stays null, as in the host, if there are no materials
     for (ImportedMaterial& imported : materials) {
         ObjectRecord object;
         object.objectId = imported.objectId;
         object.className = materialClass;
-        // As the host names new materials; the user sees only the label.
+        // The internal names that the host gives to new materials.
         object.internalName = "Material" + (project.objects.empty() ? "" : std::to_string(project.objects.size()));
         object.label = std::move(imported.label);
         object.ownMaterial = std::move(imported.material);

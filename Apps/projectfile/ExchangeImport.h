@@ -13,47 +13,48 @@
 
 namespace projectfile {
 
-/// A material as an object of a project is to hold it.
+/// A material for an object of a project.
 struct PROJECTFILE_EXPORT ImportedMaterial
 {
-    std::uint32_t objectId = 0;                    ///< no other material has it; never 0
-    std::string label;                             ///< what the user sees; never empty
+    std::uint32_t objectId = 0;                    ///< unique among the materials; never 0
+    std::string label;                             ///< the label for the user; never empty
     std::unique_ptr<vxMat::MaterialBase> material; ///< never null
 };
 
-/// The materials of an exchange document, made complete again.
+/// The materials of an exchange document, completed from the catalogue.
 struct PROJECTFILE_EXPORT ImportedMaterials
 {
     std::vector<ImportedMaterial> materials; ///< by objectId
-    /// What the user must look after, a sentence each, in the user's language: what did not travel and is not known,
-    /// and what the document says twice or not at all. A sentence names the material and, if it is about a property,
-    /// the id of the property.
+    /// Messages about data that the user must check, in the user's language: data that the document does not carry and
+    /// that the catalogue does not have, and repeated or missing data. A message names the material and, if it is about
+    /// a property, the id of the property.
     std::vector<std::string> doubts;
 };
 
-/// Where the numbers of imported materials come from.
+/// The source of the numbers of imported materials.
 enum class Numbering
 {
-    OfDocument, ///< the document's, as far as objects can have them
-    Anew,       ///< 1, 2, ... in the document's order, for a caller that gives them other numbers
+    OfDocument, ///< the numbers in the document, if objects can have them
+    Anew,       ///< 1, 2, ... in the order of the document, for a caller that assigns its own numbers
 };
 
 /// Turns the text of a material document ("proj_type" 2) into complete materials. Comments are accepted.
 ///
-/// Documents carry id, key, name and number of each property. What did not travel comes from the catalogue of
-/// quantities if the id is known: unit, description and category, a name or key that is empty, and of a quantity that
-/// takes words the first of them, which is doubted. Lists stay empty and are doubted. A property that the catalogue
-/// does not know keeps what travelled, and is doubted. A name or key that differs from the catalogue's stays.
+/// Documents carry the id, key, name and number of each property. Other data comes from the catalogue of quantities if
+/// it knows the id: the unit, the description, the category, an empty name or key, and the first allowed word, with a
+/// doubt. Lists stay empty, with a doubt. A property that the catalogue does not know keeps the data of the document,
+/// with a doubt. A name or key that differs from the catalogue is kept, with a doubt.
 ///
-/// A material keeps its number and has its name as label. A number that no object can have (0, or none at all) is
-/// replaced by the smallest that is free. So are numbers that repeat: the last material keeps its own, as it does where
-/// readers lose the others.
-/// 	hrows ContentError if the text is not a material document, or a member is of a kind that cannot be read. Members
-/// are named by their path, "$.material[2].Props[0].prop_value".
+/// The label of a material is its name. A material keeps its number. A number that no object can have (0, or a missing
+/// number) is replaced by the smallest free number, with a doubt. If several materials have the same number, the last
+/// one keeps it, because readers of documents keep the last one too.
+///
+/// \throws ContentError if the text is not a material document, or a member is of the wrong kind. The error names the
+/// path of the member, for example "$.material[2].Props[0].prop_value"
 PROJECTFILE_EXPORT ImportedMaterials importExchange(std::string_view text, Numbering numbering = Numbering::OfDocument);
 
-/// Returns a project of the name with these materials, as the host makes them: its record, and an object for each. The
-/// materials move into it.
+/// Returns a project with this name and an object for each material, with the same database record as a project that
+/// the host makes. Moves the materials into the project.
 ///
 ///     auto imported = projectfile::importExchange(text);
 ///     const std::string project = writeProject(makeProject("Steels", std::move(imported.materials)));

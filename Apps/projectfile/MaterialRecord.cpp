@@ -15,7 +15,7 @@ std::string takeText(vxjson::JsonWriter& writer)
     return writer.take();
 }
 
-/// The tree of a text that a writer has just made.
+/// Returns the tree of a text that a writer has just made.
 vxjson::JsonTree parse(const std::string& text)
 {
     auto tree = vxjson::JsonTree::read(text, vxjson::JsonDialect::Strict);
@@ -26,7 +26,8 @@ vxjson::JsonTree parse(const std::string& text)
 
 } // namespace
 
-// Both go by way of the text, since files are what the one writer and the one reader of records are for.
+// Both functions convert the record to a text and back, because the writer and the reader of records work on the texts
+// of files.
 
 Json::Value writeMaterial(const vxMat::MaterialBase& material)
 {

@@ -20,14 +20,14 @@ inline QString toQString(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-/// Returns a text in quotes, as JSON has it, its middle left out if it is long.
+/// Returns a text in quotes, as in JSON. Omits the middle of a long text.
 QString quoted(std::string_view utf8);
 
-/// Returns a value as a message shows it: "an object", "an array", and all else as the text has it, shortened.
+/// Returns a value for a message: "an object", "an array", or the JSON text of another value, shortened.
 QString shown(const vxjson::JsonNode& value);
 
-/// Throws a ContentError about a member. In `text`, which is translated already, %1 means the path of the member, and
-/// %2 and so on the arguments.
+/// Throws a ContentError about a member. `text` is translated already; %1 in it is the path of the member, %2, %3, ...
+/// are the arguments.
 template <class... Arguments>
 [[noreturn]] void refuseMember(const std::string& path, const QString& text, const Arguments&... arguments)
 {

@@ -16,7 +16,7 @@ namespace projectfile::detail {
 
 namespace {
 
-/// Where the objects of a project are in the file: "materials[3]" or "objects[0]", by their places in the record.
+/// Returns the path in the file of each object, in the order of `objects`: "materials[3]" or "objects[0]".
 std::vector<std::string> pathsOf(const std::vector<ObjectRecord>& objects)
 {
     std::size_t materials = 0;
@@ -30,7 +30,7 @@ std::vector<std::string> pathsOf(const std::vector<ObjectRecord>& objects)
     return paths;
 }
 
-/// Refuses what no registered class and no object of the host can be called.
+/// Refuses a name that no registered class and no object of the host can have.
 void checkName(const std::string& path, const std::string& name)
 {
     if (name.empty())
@@ -67,7 +67,7 @@ void checkNextNumber(const ProjectRecord& project)
         largest = std::max(largest, object.objectId);
     if (project.nextObjectId <= largest || project.nextObjectId > most)
         refuseMember(
-            "next_object_id", tr(R"("%1" is %2 but must be from %3 to %4, since no number of an object is used again)"),
+            "next_object_id", tr(R"("%1" is %2 but must be from %3 to %4, because object numbers are not reused)"),
             QString::number(project.nextObjectId), QString::number(std::uint64_t{largest} + 1U), QString::number(most));
 }
 
@@ -89,14 +89,14 @@ void checkProperties(const ProjectRecord& project)
 
 // --- The database of the host ---
 
-/// A member of an object of the database; null if it is not there.
+/// Returns a member of an object of the database; null if it is missing.
 const Json::Value& memberOf(const Json::Value& object, std::string_view name)
 {
     const Json::Value* const member = object.isObject() ? object.find(name.data(), name.data() + name.size()) : nullptr;
     return member != nullptr ? *member : Json::Value::nullSingleton();
 }
 
-/// The array of objects in the database of a material project; null if it has none.
+/// Returns the array of objects in the database of a material project; null if there is none.
 const Json::Value& objectsOf(const Json::Value& database)
 {
     checkIsObject("database", database);
@@ -132,7 +132,7 @@ ObjectIndex byNumber(const std::vector<ObjectRecord>& objects)
     return index;
 }
 
-/// The object of the project that a record of the database is of.
+/// Returns the object of the project that a record of the database describes.
 const ObjectRecord& findObject(const ObjectIndex& objects, const Json::Value& record, Json::ArrayIndex index)
 {
     const std::string path = pathInDatabase(index, "obj_id");
@@ -146,8 +146,8 @@ const ObjectRecord& findObject(const ObjectIndex& objects, const Json::Value& re
     return *object->second;
 }
 
-/// In a material project, each object of the database is an object of the project, and each material is in the
-/// database, once. The records of other projects are their own.
+/// Checks the database of a material project: each of its objects is an object of the project, and each material occurs
+/// in it once. The database of a project of another class is not checked.
 void checkDatabase(const ProjectRecord& project)
 {
     if (project.database.isNull() || project.className != materialProjectClass)
@@ -158,7 +158,7 @@ void checkDatabase(const ProjectRecord& project)
     for (const Json::Value& record : objectsOf(project.database)) {
         const ObjectRecord& object = findObject(objects, record, index);
         if (!found.insert(&object).second)
-            refuseMember(pathInDatabase(index, "obj_id"), tr(R"("%1" is %2, which is there twice)"),
+            refuseMember(pathInDatabase(index, "obj_id"), tr(R"("%1" is %2, which occurs twice)"),
                          QString::number(object.objectId));
         checkText(memberOf(record, "class"), object.className, pathInDatabase(index, "class"));
         checkText(memberOf(record, "name_internal"), object.internalName, pathInDatabase(index, "name_internal"));
@@ -190,19 +190,19 @@ void doubtLabels(const ProjectRecord& project, std::vector<std::string>& doubts)
             continue;
         const Json::Value& label = memberOf(*record->second, "label");
         if (!label.isString() || label.asString() != object.label)
-            doubts.push_back(tr(R"("%1" is %2 but in the database %3; the former counts.)")
+            doubts.push_back(tr(R"("%1" is %2 but %3 in the database; %2 is used.)")
                                  .arg(toQString(paths[i] + ".label"), quoted(object.label),
                                       label.isString() ? quoted(label.asString()) : tr("not a text"))
                                  .toStdString());
     }
 }
 
-/// A link that is wrong.
+/// An invalid link.
 struct FalseLink
 {
-    std::size_t object; ///< its place in the record
-    std::size_t link;   ///< its place in the object
-    const char* reason; ///< to be translated; %1 is the path, %2 the number
+    std::size_t object; ///< the index of the object in the project
+    std::size_t link;   ///< the index of the link in the object
+    const char* reason; ///< not translated yet; %1 is the path, %2 the number
 };
 
 std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
@@ -221,9 +221,8 @@ std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
                     {object, link,
                      QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, but there is no such object.)")});
             else if (!seen.insert(number).second)
-                found.push_back(
-                    {object, link,
-                     QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which is there twice.)")});
+                found.push_back({object, link,
+                                 QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which occurs twice.)")});
         }
     }
     return found;

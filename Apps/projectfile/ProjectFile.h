@@ -17,73 +17,73 @@
 
 namespace projectfile {
 
-/// The version of the format that this program writes. It reads this one and earlier ones.
+/// The version of the format that this program writes. The program reads this version and earlier ones.
 inline constexpr int formatVersion = 1;
 
-/// The class of a project whose file names no class: of a material project.
+/// The class of a material project, and the default if a file names no class.
 inline constexpr const char* materialProjectClass = "Mat::DocumentMaterial";
-/// The class of the materials in such a project.
+/// The class of the materials in a material project.
 inline constexpr const char* materialClass = "Mat::MaterialObject";
 
 /// One object of a project: a material, which has `material`, or an object of another class, which may have `content`.
 struct PROJECTFILE_EXPORT ObjectRecord
 {
-    std::uint32_t objectId = 0; ///< no other object of the project has, or had, this number; never 0
+    std::uint32_t objectId = 0; ///< unique in the project, deleted objects included; never 0
     std::string className;      ///< the registered class of the object; not empty
     std::string internalName;   ///< unique in the project; not empty
-    std::string label;          ///< what the user sees
+    std::string label;          ///< the label for the user
     bool suppressed = false;
     /// The "MaterialColor" of the tree node of a material: red, green, blue, opacity, each from 0 to 1.
     std::optional<std::array<float, 4>> colour;
-    Json::Value properties; ///< by name, what is not said above; an object or null
+    Json::Value properties; ///< the other properties by name; an object or null
     Json::Value node;       ///< the properties of the tree node by name, besides the colour; an object or null
-    /// The numbers of the objects that this one needs, in order: of a group, its members. Each is an object of the
-    /// project, another than this one, and is there once.
+    /// The numbers of the objects that this one needs, in order; for a group, the numbers of its members. Each number
+    /// occurs once and belongs to another object of the project.
     std::vector<std::uint32_t> links;
     const vxMat::MaterialBase* material = nullptr; ///< null for an object of another class; see `ownMaterial`
-    /// What an object of another class holds, as its module has written it; null if it holds nothing more.
+    /// The content of an object of another class, in the form that its module writes; null if there is none.
     Json::Value content;
-    /// Members that this program does not know, to be written back: "object", "material" and "properties" (by the
-    /// number under which each is held), each an object or absent.
+    /// Unknown members, which are written back: "object", "material" and "properties" (by the number under which the
+    /// material holds the property), each an object or absent.
     Json::Value further;
 
-    std::unique_ptr<vxMat::MaterialBase> ownMaterial; ///< what `material` points to if a reader made the record
+    std::unique_ptr<vxMat::MaterialBase> ownMaterial; ///< owns `material` if a reader made the record
 };
 
-/// Everything that a project file holds.
+/// The content of a project file.
 struct PROJECTFILE_EXPORT ProjectRecord
 {
     std::string className = materialProjectClass; ///< the registered class of the project; not empty
     std::string name;                             ///< the name of the project
-    std::uint64_t nextObjectId = 1;               ///< larger than all numbers of objects; 4294967296 at most
-    Json::Value properties;                       ///< of the project, by name; an object or null
-    Json::Value record;                           ///< what the module of the class keeps of the project; or null
-    /// The record that the host's project database has of the project, or null. In a material project, the objects in
-    /// it agree with `objects`.
+    std::uint64_t nextObjectId = 1;               ///< larger than all object numbers; at most 4294967296
+    Json::Value properties;                       ///< the properties of the project by name; an object or null
+    Json::Value record;                           ///< the record that the module of the class writes; or null
+    /// The record of the project in the host's project database, or null. In a material project, its objects agree with
+    /// `objects`.
     Json::Value database;
-    std::vector<ObjectRecord> objects; ///< by number when they were read; written in this order
-    /// Only of a copy kept for recovery: the file that the project was opened from or last saved in, in UTF-8; empty
-    /// if there is none. Absent in a file that the user saved.
+    std::vector<ObjectRecord> objects; ///< sorted by number after reading; written in this order
+    /// Only in a recovery copy: the path, in UTF-8, of the file from which the project was opened or to which it was
+    /// last saved; empty if there is no such file. Absent in a file that the user saved.
     std::optional<std::string> recoveredFile;
-    Json::Value further; ///< members of the file that this program does not know, to be written back
+    Json::Value further; ///< unknown members of the file, which are written back
 
-    /// What a reader doubted, a sentence each, in the user's language: a label that is different in the database,
-    /// where the one beside the material counts; a link to an object that is not there, which is left out.
+    /// Messages about data that the reader corrected, in the user's language: a label that differs in the database
+    /// (the label beside the material is used), and an invalid link (it is removed).
     std::vector<std::string> doubts;
 };
 
 /// Returns the text of a project file, in UTF-8. A property of a material is one line, so that version control shows
-/// what changed.
-/// \throws ContentError if the text could not be read back as the same: for a text that is not UTF-8, a number that is
-/// not finite, and all that readProject refuses or doubts
+/// which property changed.
+/// \throws ContentError if readProject could not read back the same project: a text is not UTF-8, a number
+/// outside the properties of materials is not finite, or readProject would refuse or correct the text
 PROJECTFILE_EXPORT std::string writeProject(const ProjectRecord& project);
 
-/// Returns the project that a text describes.
-/// \throws ContentError if it describes none, is of a later version, or contradicts itself: a number or internal name
-/// that two objects have, a number out of range, an object in the database that `objects` does not have
+/// Returns the project in a text.
+/// \throws ContentError if the text is not a project file, is of a later version, or is inconsistent: two objects with
+/// the same number or internal name, a number out of range, an object in the database that is not in `objects`
 PROJECTFILE_EXPORT ProjectRecord readProject(std::string_view text);
 
-/// Whether a JSON document says of itself that it is a project file, whatever else may be wrong with it.
+/// Whether the member "format" of a JSON document has the value of project files. Other errors do not matter.
 PROJECTFILE_EXPORT bool isProject(const vxjson::JsonNode& document);
 
 } // namespace projectfile

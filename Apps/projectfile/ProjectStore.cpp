@@ -47,16 +47,16 @@ QByteArray systemName(const QString& path)
     return QFile::encodeName(path);
 }
 
-/// Returns a path that means a file to Qt, for which one that begins with a colon is a resource.
+/// Returns a path that Qt treats as a file. Qt treats a path that begins with a colon as a resource.
 QString filePath(const QString& path)
 {
     return path.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + path : path;
 }
 
-/// Returns the file to which a path leads through symbolic links, whether it exists or not.
+/// Returns the target of a path after following symbolic links. The target need not exist.
 QString targetOf(const QString& path)
 {
-    constexpr int mostLinks = 40; // as in the system
+    constexpr int mostLinks = 40; // the limit of the system
     QString target = filePath(path);
     for (int links = 0; QFileInfo(target).isSymLink(); ++links) {
         if (links == mostLinks)
@@ -66,7 +66,7 @@ QString targetOf(const QString& path)
     return target;
 }
 
-/// An open file of the system. It is closed by the destructor.
+/// A file descriptor. The destructor closes it.
 class Descriptor
 {
 public:
@@ -107,15 +107,15 @@ QDateTime timeOf(const struct stat& status)
 
 FileStamp stampOf(const struct stat& status, const std::string& content)
 {
-    // The sum is to notice accidents, not forgeries; this one is the fastest that Qt has.
+    // The checksum detects accidental changes, not forgeries. MD5 is the fastest algorithm of Qt.
     QCryptographicHash hash(QCryptographicHash::Md5);
-    constexpr std::size_t block = 1U << 30U; // the length is an int
+    constexpr std::size_t block = 1U << 30U; // addData() takes the length as an int
     for (std::size_t at = 0; at < content.size(); at += block)
         hash.addData(content.data() + at, static_cast<int>(std::min(block, content.size() - at)));
     return {static_cast<qint64>(status.st_size), timeOf(status), hash.result()};
 }
 
-/// Reads up to `size` bytes, and one more if there are more.
+/// Reads up to `size` bytes, and one more byte if the file is longer.
 std::string readUpTo(std::size_t size, int descriptor, const QString& path)
 {
     std::string content(size + 1, '\0');
@@ -167,13 +167,13 @@ void keepOwner(const QString& target, int descriptor)
         return;
     if (status.st_uid == ours.st_uid && status.st_gid == ours.st_gid)
         return;
-    // Changing the owner removes some permissions, which were already those of the old file.
+    // Changing the owner removes some of the permissions that were copied from the old file.
     if (fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
         fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0)
         static_cast<void>(fchmod(descriptor, status.st_mode & 07777U));
 }
 
-/// Waits until the file is on the disk. A file system that cannot tell is not a failure.
+/// Waits until the file is on the disk. Returns true also if the file system does not support this.
 bool reachesDisk(int descriptor)
 {
     return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOSYS;
@@ -182,7 +182,7 @@ bool reachesDisk(int descriptor)
 void syncFolder(const QString& folder)
 {
     const Descriptor opened(open(systemName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // The file is safe under its old name or the new one; not every system can make the folder safe too.
+    // Errors are ignored: the file is complete under its old or its new name, and not every system can sync a folder.
     if (opened.number() >= 0)
         static_cast<void>(fsync(opened.number()));
 }
@@ -235,14 +235,14 @@ FileStamp writeFile(const QString& path, const std::string& text)
     if (!file.open(QIODevice::WriteOnly))
         fail(path, file.errorString());
     keepOwner(target, file.handle());
-    // A disk that is nearly full takes a part at first, and gives the reason at the next attempt.
+    // A disk that is nearly full accepts a part of the text. The next attempt returns the reason.
     for (qint64 at = 0; at < size;) {
         const qint64 written = file.write(text.data() + at, size - at);
         if (written <= 0)
             fail(path, file.errorString());
         at += written;
     }
-    // commit() does not notice if the end of the text could not be written; flush() does.
+    // Unlike commit(), flush() reports that the end of the text could not be written.
     if (!file.flush())
         fail(path, file.errorString());
     if (!reachesDisk(file.handle()))
@@ -261,8 +261,8 @@ bool hasChanged(const QString& path, const FileStamp& stamp)
         return stamp.size >= 0;
     if (stamp.size < 0 || stamp.size != static_cast<qint64>(status.st_size))
         return true;
-    // The time does not tell: that of a file that was only touched differs, and that of a file that was written right
-    // after the stamp may be the same.
+    // The modification time is no proof: it may differ although the content is the same, and it may be the same if the
+    // file was written just after the stamp was taken.
     try {
         FileStamp now;
         readFile(path, &now);
@@ -274,7 +274,7 @@ bool hasChanged(const QString& path, const FileStamp& stamp)
 
 FileLock::FileLock(const QString& path) : m_lockPath(lockPathOf(path)), m_lock(std::make_unique<QLockFile>(m_lockPath))
 {
-    // However old a lock is, its program may still run.
+    // The program of an old lock may still run.
     m_lock->setStaleLockTime(0);
 }
 
@@ -286,8 +286,8 @@ bool FileLock::tryLock()
 {
     if (m_lock->tryLock(0))
         return true;
-    // A crash just after the lock file was created leaves one that names no program. It is removed only if no program
-    // has it open; a program that has just created it has a moment to write its name into it.
+    // A crash just after a program created the lock file leaves a file without the name of the program. Such a file is
+    // removed only if it is old and no program has it open, because a program may be about to write its name into it.
     constexpr qint64 moment = 10000; // ms
     qint64 process = 0;
     QString host;

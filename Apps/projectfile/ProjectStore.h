@@ -14,7 +14,7 @@ class QLockFile;
 
 namespace projectfile {
 
-/// Why a file could not be read or written. The message begins with the name of the file and is in the user's language.
+/// An error of reading or writing a file. The message begins with the name of the file and is in the user's language.
 class PROJECTFILE_EXPORT StoreError : public std::runtime_error
 {
 public:
@@ -22,7 +22,7 @@ public:
     ~StoreError() override;
 };
 
-/// The state of a file when this program last read or wrote it, by which a change by another program is noticed.
+/// The state of a file after this program last read or wrote it. Shows whether another program changed the file.
 struct PROJECTFILE_EXPORT FileStamp
 {
     qint64 size = -1; ///< -1 if there was no file
@@ -30,21 +30,22 @@ struct PROJECTFILE_EXPORT FileStamp
     QByteArray checksum;
 };
 
-/// Returns the whole content of a file, and its state in `stamp` unless that is null.
+/// Returns the whole content of a file. Stores the state of the file in `stamp` unless `stamp` is null.
 /// \throws StoreError if it cannot be read, is not a regular file, is larger than 2 GiB, or changes while it is read
 PROJECTFILE_EXPORT std::string readFile(const QString& path, FileStamp* stamp = nullptr);
 
-/// Replaces a file whole or not at all: the new file is written beside it, brought to the disk, and renamed. The
-/// permissions of an existing file stay; of a symbolic link the target is replaced. Returns the new state of the file.
-/// \throws StoreError if that fails; an existing file is then as it was
+/// Replaces a file completely or not at all: writes a new file beside it, flushes the new file to the disk, and renames
+/// it. Keeps the permissions of an existing file. Replaces the target of a symbolic link. Returns the new state of the
+/// file.
+/// \throws StoreError if this fails; an existing file is then unchanged
 PROJECTFILE_EXPORT FileStamp writeFile(const QString& path, const std::string& text);
 
-/// Whether the content of the file has changed since `stamp` was taken, or the file was deleted. A file that was only
-/// touched has not changed.
+/// Whether the content of the file has changed since `stamp` was taken, or the file was deleted. A new modification
+/// time alone is not a change.
 PROJECTFILE_EXPORT bool hasChanged(const QString& path, const FileStamp& stamp);
 
-/// Reserves a file, as long as this object lives, among the programs that use such locks: by a lock file beside the file
-/// (or beside the target of a symbolic link). The lock file of a program that ended without removing it does not count.
+/// Reserves a file among the programs that use such locks, by a lock file beside the file (or beside the target of a
+/// symbolic link). The destructor releases the lock. A lock file left by a program that has ended is ignored.
 class PROJECTFILE_EXPORT FileLock
 {
 public:
@@ -53,10 +54,11 @@ public:
     FileLock(FileLock&&) noexcept;
     FileLock& operator=(FileLock&&) noexcept;
 
-    /// Returns false if another program has the file, which holder() then names, or if no lock file can be made.
+    /// Returns false if another program has the lock, whose name holder() then returns, or if no lock file can be made.
     bool tryLock();
     bool isLocked() const;
-    /// Returns the program that has the file, "kelta (1234 on host)"; empty if none has, as far as can be told.
+    /// Returns the program that has the lock, for example "kelta (1234 on host)"; empty if no program is known to have
+    /// it.
     QString holder() const;
 
 private:

@@ -2,14 +2,14 @@
 
 #include <string_view>
 
-/// The members of the records, each with its name, once, in the order in which they are written. The writer and the
-/// reader of records walk these with a visitor: `visit(name, field)`.
+/// The members of the records with their names, in the order in which they are written. The writer and the reader of
+/// records visit them: `visit(name, field)`.
 namespace projectfile::detail {
 
-/// What a project file says of itself under "format".
+/// The value of the member "format" of project files.
 inline constexpr std::string_view projectFormat = "vxMaterial project";
 
-/// A field whose member must be there.
+/// A field whose member is required.
 template <class Field>
 struct Required
 {
@@ -19,7 +19,7 @@ struct Required
 template <class Field>
 Required(Field&) -> Required<Field>;
 
-/// A value of any kind whose member is not written if the value is null.
+/// A value of any kind. A null value is not written.
 template <class Value>
 struct Optional
 {
@@ -29,7 +29,7 @@ struct Optional
 template <class Value>
 Optional(Value&) -> Optional<Value>;
 
-/// The same for a value that must be an object.
+/// A value that must be an object. A null value is not written.
 template <class Value>
 struct OptionalObject
 {
@@ -39,12 +39,12 @@ struct OptionalObject
 template <class Value>
 OptionalObject(Value&) -> OptionalObject<Value>;
 
-/// The properties of a material, and the members of their records that this program does not know.
+/// The properties of a material, and the unknown members of their records.
 template <class Map, class Further>
 struct Properties
 {
     Map& map;
-    Further& further; ///< an object, by the number under which a property is held, or null
+    Further& further; ///< an object by the number under which the material holds the property, or null
 };
 
 template <class Map, class Further>
@@ -75,7 +75,7 @@ void visitMaterialMembers(Material& material, Further& furtherOfProperties, cons
     visit("properties", Properties{material.properties, furtherOfProperties});
 }
 
-/// What every object has. Not for use on its own.
+/// The first members of every object. Called only by the functions below.
 template <class Object, class Visit>
 void visitIdentity(Object& object, const Visit& visit)
 {
@@ -94,7 +94,7 @@ void visitPropertiesAndLinks(Object& object, const Visit& visit)
     visit("links", object.links);
 }
 
-/// An object that is a material. `material` is the visitor's own representation of that.
+/// The members of an object that is a material. `material` is the visitor's own representation of the material.
 template <class Object, class MaterialField, class Visit>
 void visitMaterialObjectMembers(Object& object, MaterialField& material, const Visit& visit)
 {
@@ -104,7 +104,7 @@ void visitMaterialObjectMembers(Object& object, MaterialField& material, const V
     visit("material", Required{material});
 }
 
-/// An object of another class.
+/// The members of an object of another class.
 template <class Object, class Visit>
 void visitOtherObjectMembers(Object& object, const Visit& visit)
 {
@@ -113,7 +113,7 @@ void visitOtherObjectMembers(Object& object, const Visit& visit)
     visit("content", Optional{object.content});
 }
 
-/// `format`, `version`, `className`, `materials` and `others` are the visitor's own representations of these.
+/// `format`, `version`, `className`, `materials` and `others` are the visitor's own representations of these members.
 template <class Text, class Version, class ClassName, class Project, class Materials, class Others, class Visit>
 void visitProjectMembers(Text& format, Version& version, ClassName& className, Project& project, Materials& materials,
                          Others& others, const Visit& visit)

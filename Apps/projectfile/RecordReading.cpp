@@ -25,7 +25,7 @@ namespace {
 
 using vxjson::JsonNode;
 
-/// A value of a document and the way to it.
+/// A value of a document and its path.
 struct Node
 {
     JsonNode value;
@@ -34,7 +34,7 @@ struct Node
     std::size_t index = 0;        ///< of an element
 };
 
-/// "materials[3].material.name"; empty for the document.
+/// Returns a path such as "materials[3].material.name"; empty for the document.
 std::string pathOf(const Node& node) // NOLINT(misc-no-recursion): as deep as the records are
 {
     if (node.parent == nullptr)
@@ -45,7 +45,7 @@ std::string pathOf(const Node& node) // NOLINT(misc-no-recursion): as deep as th
     return path + (path.empty() ? "" : ".") + vxjson::shortened(node.name);
 }
 
-// What a value must be. Translated where it is shown.
+// Descriptions of the expected values for messages. They are translated where a message is made.
 constexpr const char* anObject = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an object");
 constexpr const char* arrayOfObjects = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of objects");
 constexpr const char* arrayOfNumbers = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of numbers");
@@ -112,7 +112,7 @@ void readField(const Node& node, std::uint64_t& field)
     field = static_cast<std::uint64_t>(readWholeBetween(node, 1, most, nextObjectNumber));
 }
 
-/// The version of the format, which is not above that of this program.
+/// The version of the format. Later versions have been refused before.
 struct Version
 {};
 
@@ -194,19 +194,19 @@ void readField(const Node& node, std::optional<Field>& field)
 
 using ReadProperties = Properties<vxMat::MaterialBase::PropertyMap, Json::Value*>;
 
-/// Where the material of an object is read to.
+/// The target of reading the material of an object.
 struct MaterialOfObject
 {
     ObjectRecord& object;
 };
 
-/// Where the objects that are materials are read to.
+/// The target of reading the objects that are materials.
 struct Materials
 {
     ProjectRecord& project;
 };
 
-/// Where the other objects are read to.
+/// The target of reading the other objects.
 struct OtherObjects
 {
     ProjectRecord& project;
@@ -228,8 +228,8 @@ inline constexpr bool isRequired = false;
 template <class Field>
 inline constexpr bool isRequired<Required<Field>> = true;
 
-/// Reads the members of an object into the fields that `visitMembers(visit)` names, and others into `further`, unless
-/// that is null.
+/// Reads the members of an object into the fields that `visitMembers(visit)` visits. Stores unknown members in
+/// `further` unless `further` is null.
 template <class VisitMembers>
 void readMembers(const Node& node, const VisitMembers& visitMembers, Json::Value* further)
 {
@@ -271,22 +271,22 @@ void readField(const Node& node, const ReadProperties& properties)
             properties.further != nullptr ? &unknown : nullptr);
         const std::int32_t number = heldAs.value_or(property->id);
         if (!properties.map.emplace(number, std::move(property)).second)
-            refuseMember(pathOf(element) + ".held_as", tr(R"("%1" is %2, which is there twice)"),
+            refuseMember(pathOf(element) + ".held_as", tr(R"("%1" is %2, which occurs twice)"),
                          QString::number(number));
         if (!unknown.isNull())
             (*properties.further)[std::to_string(number)] = std::move(unknown);
     });
 }
 
-/// The two values take what is not known; null if that is not wanted.
+/// Stores unknown members of the material in `further`, and of its properties in `ofProperties`, unless these are null.
 void readMaterial(const Node& node, vxMat::MaterialBase& material, Json::Value* further, Json::Value* ofProperties)
 {
-    material.name.clear(); // which is the name of its class at first
+    material.name.clear(); // a new material has the name of its class
     readMembers(
         node, [&](const auto& visit) { visitMaterialMembers(material, ofProperties, visit); }, further);
 }
 
-/// Keeps members that are not known, if there are any.
+/// Stores unknown members in the object, if there are any.
 void keep(ObjectRecord& object, const char* part, Json::Value further)
 {
     if (!further.isNull())
@@ -304,7 +304,7 @@ void readField(const Node& node, const MaterialOfObject& field)
     keep(field.object, partOfProperties, std::move(ofProperties));
 }
 
-/// Reads an array of objects, each of whose members `visitMembers(object, visit)` names.
+/// Reads an array of objects into the fields that `visitMembers(object, visit)` visits.
 template <class VisitMembers>
 void readObjects(const Node& node, std::vector<ObjectRecord>& objects, const VisitMembers& visitMembers)
 {

@@ -5,11 +5,11 @@
 
 namespace projectfile::detail {
 
-/// Reads a material, which is new, from its record. Members that are not known are ignored.
-/// \throws ContentError if the record is wrong
+/// Reads a record into a new material. Ignores unknown members.
+/// \throws ContentError if the record is invalid
 void readMaterialRecord(const vxjson::JsonNode& record, vxMat::MaterialBase& material);
 
-/// Reads a project, its objects in the order of the document, the materials first. Members that are not known are kept.
+/// Reads a project. The objects are in the order of the document. Keeps unknown members.
 /// \throws ContentError if a member is missing or of the wrong kind
 ProjectRecord readProjectRecord(const vxjson::JsonNode& document);
 

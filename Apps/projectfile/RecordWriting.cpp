@@ -33,7 +33,7 @@ void writeFurther(JsonWriter& writer, const Json::Value& further)
     }
 }
 
-/// A part of the members that are not known; null if there are none.
+/// Returns a part of the unknown members; null if it is missing.
 const Json::Value& partOf(const Json::Value& further, std::string_view name)
 {
     const Json::Value* const part = further.isObject() ? further.find(name.data(), name.data() + name.size()) : nullptr;
@@ -90,7 +90,7 @@ void writeField(JsonWriter& writer, const std::array<float, 4>& field)
     writer.beginArray(JsonLayout::Line);
     for (const float part : field) {
         writer.element();
-        // Not the opposite condition, which is false for what is not a number.
+        // Not `part < 0.0F || part > 1.0F`, which is false for NaN.
         if (!(part >= 0.0F && part <= 1.0F))
             writer.fail(QT_TRANSLATE_NOOP("vxjson::JsonError", "\"%1\" must be a number from 0 to 1"));
         writer.number(part);
@@ -142,7 +142,7 @@ bool isMaterial(const ObjectRecord& object)
     return object.material != nullptr;
 }
 
-// Whether an optional member is written.
+// These functions return whether an optional member is written.
 
 bool isThere(const std::vector<std::uint32_t>& links)
 {
@@ -233,7 +233,7 @@ void writeField(JsonWriter& writer, const WrittenMaterial& field)
     writeMaterial(writer, *field.object.material, field.object.further);
 }
 
-/// Writes the objects for which `isOfKind` is true, each with the members that `visitMembers(object, visit)` names.
+/// Writes the objects for which `isOfKind` returns true, with the members that `visitMembers(object, visit)` visits.
 template <class IsOfKind, class VisitMembers>
 void writeObjects(JsonWriter& writer, const std::vector<ObjectRecord>& objects, const IsOfKind& isOfKind,
                   const VisitMembers& visitMembers)

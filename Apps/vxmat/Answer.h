@@ -9,29 +9,29 @@ namespace vxmat {
 /// The exit statuses of the program.
 enum class Status : int
 {
-    Clean = 0,    ///< done, nothing is wrong
-    Findings = 1, ///< done, but something is wrong with what was read
-    Error = 2,    ///< not done: a wrong command line, an unreadable file, a failed write
+    Clean = 0,    ///< done; no findings
+    Findings = 1, ///< done; the input has errors or differences
+    Error = 2,    ///< not done: an invalid command line, an unreadable file, a failed write
 };
 
-/// What a subcommand prints, and its status.
+/// The output of a subcommand and its exit status.
 struct Answer
 {
     void add(const std::vector<std::string>& more) { messages.insert(messages.end(), more.begin(), more.end()); }
 
     std::string text;                  ///< for standard output
-    std::vector<std::string> messages; ///< for standard error, a line each
+    std::vector<std::string> messages; ///< for standard error, one line each
     Status status = Status::Clean;
 };
 
-/// Why a subcommand could not do its work. The text begins with the name of the file or argument.
+/// The reason why a subcommand failed. The text begins with the name of the file or with the argument.
 class Failure : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// The form in which a listing is printed.
+/// The format of the standard output.
 enum class Form
 {
     Text,

@@ -17,7 +17,7 @@ namespace {
 /// A material whose cards are printed.
 struct CardMaterial
 {
-    std::string source; ///< file; empty for the library
+    std::string source; ///< the file; empty for a library material
     std::optional<std::uint32_t> number;
     vxCAE::MaterialSource completeness = vxCAE::MaterialSource::Complete;
     std::unique_ptr<vxCAE::MaterialEntry> entry;

@@ -7,10 +7,11 @@
 
 namespace vxmat {
 
-/// `vxmat cards NAME|FILE...`: prints the solver cards of library materials and of the materials of documents and
-/// projects. Those of projects are complete; documents do not carry words and lists. An argument that is a name of the
-/// library and of a file means the material. Doubts about cards are written to standard error and make findings.
-/// \throws Failure for what is neither a material nor a readable material document
+/// `vxmat cards NAME|FILE...`: prints the solver cards of library materials and of the materials in documents and
+/// projects. The cards of documents may be incomplete, because documents do not carry words and lists. An argument that
+/// is both a library material and a file means the material. Doubts about cards are written to standard error; the
+/// status is then Findings.
+/// \throws Failure if an argument is neither a material nor a readable material document or project
 Answer printCards(const std::vector<std::string>& sources, Form form);
 
 } // namespace vxmat

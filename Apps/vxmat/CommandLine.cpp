@@ -87,7 +87,7 @@ CommandLine::CommandLine()
     addCheck();
     addDiff();
     addQuery();
-    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 done and clean, 1 findings or differences, 2 error.");
+    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 success, 1 findings or differences, 2 error.");
 }
 
 CLI::App* CommandLine::addCommand(const std::string& name, const std::string& description, const std::string& example,
@@ -102,7 +102,7 @@ CLI::App* CommandLine::addCommand(const std::string& name, const std::string& de
 
 void CommandLine::addForm(CLI::App* command)
 {
-    command->add_flag("--json", m_json, "Print JSON in place of text");
+    command->add_flag("--json", m_json, "Print JSON instead of text");
 }
 
 void CommandLine::addMaterialsFile(CLI::App* command)
@@ -126,18 +126,18 @@ void CommandLine::addLibrary()
 
 void CommandLine::addCatalogue()
 {
-    addForm(addCommand("catalogue", "List the quantities that materials are made of", "vxmat catalogue",
+    addForm(addCommand("catalogue", "List the quantities that a material can have", "vxmat catalogue",
                        [this] { return listCatalogue(form()); }));
 }
 
 void CommandLine::addShow()
 {
-    CLI::App* const command = addCommand(
-        "show", "Show a built-in material, or those of a project or document: name, value, unit, description",
-        R"(vxmat show "structural steel")", [this] { return showMaterial(m_name, form()); });
+    CLI::App* const command =
+        addCommand("show", "Show a built-in material, or the materials of a file: name, value, unit, description",
+                   R"(vxmat show "structural steel")", [this] { return showMaterial(m_name, form()); });
     command
         ->add_option("NAME|FILE", m_name,
-                     "A material of the library, case does not matter; or a project or document, - is standard input")
+                     "A library material, in upper or lower case, or a project or document; - is standard input")
         ->required();
     addForm(command);
 }
@@ -147,17 +147,14 @@ void CommandLine::addNew()
     CLI::App* const command = addCommand("new", "Make a project file of built-in materials",
                                          R"(vxmat new "Structural Steel=Frame" Air -o parts.vxmat)",
                                          [this] { return newProject(m_names, m_output); });
-    command
-        ->add_option("NAME", m_names,
-                     "Materials of the library, which are labelled by their names or as NAME=LABEL says")
-        ->required();
+    command->add_option("NAME", m_names, "Library materials. The label is the name, or the given LABEL")->required();
     addOutput(command);
 }
 
 void CommandLine::addImport()
 {
     CLI::App* const command =
-        addCommand("import", "Make a project file of a material document, and restore what did not travel",
+        addCommand("import", "Make a project file of a material document; the catalogue completes the materials",
                    "vxmat import materials.json -o parts.vxmat", [this] { return importDocument(m_file, m_output); });
     command->add_option("DOC", m_file, "A material document; - is standard input")->required();
     addOutput(command);
@@ -166,12 +163,12 @@ void CommandLine::addImport()
 void CommandLine::addExport()
 {
     CLI::App* const command =
-        addCommand("export", "Write built-in materials, and those of projects, as a material document for the solver",
+        addCommand("export", "Write built-in materials and the materials of projects to a document for the solver",
                    R"(vxmat export "Structural Steel" "Air=20" -o materials.json)",
                    [this] { return exportMaterials(m_names, m_output); });
     command
         ->add_option("NAME|PROJECT", m_names,
-                     "Materials of the library, numbered 1, 2, ... or by NAME=NUMBER; or project files, whose "
+                     "Library materials, with the numbers 1, 2, ... or the given NUMBER, or project files, whose "
                      "materials keep their numbers")
         ->required();
     addOutput(command);
@@ -182,7 +179,7 @@ void CommandLine::addCards()
     CLI::App* const command =
         addCommand("cards", "Print the solver cards of built-in materials, of projects and of material documents",
                    R"(vxmat cards "Plastic Example 1" materials.json)", [this] { return printCards(m_names, form()); });
-    command->add_option("NAME|FILE", m_names, "Materials of the library, projects or documents; - is standard input")
+    command->add_option("NAME|FILE", m_names, "Library materials, projects or documents; - is standard input")
         ->required();
     addForm(command);
 }
@@ -190,7 +187,7 @@ void CommandLine::addCards()
 void CommandLine::addCheck()
 {
     CLI::App* const command =
-        addCommand("check", "Report everything wrong with an exchange document or a project, with its JSON path",
+        addCommand("check", "Report the errors in an exchange document or a project, with their JSON paths",
                    "vxmat check analysis.json --materials materials.json",
                    [this] { return checkFile(m_file, m_materialsFile, form()); });
     command->add_option("FILE", m_file, "An exchange document of either kind, or a project; - is standard input")
@@ -202,17 +199,17 @@ void CommandLine::addCheck()
 void CommandLine::addDiff()
 {
     CLI::App* const command =
-        addCommand("diff", "Print what distinguishes the materials of two projects or material documents, by label",
+        addCommand("diff", "Compare the materials of two projects or material documents by label",
                    "vxmat diff parts.vxmat materials.json", [this] { return diffFiles(m_file, m_otherFile, form()); });
     command->add_option("A", m_file, "A project or material document; - is standard input")->required();
-    command->add_option("B", m_otherFile, "Another one")->required();
+    command->add_option("B", m_otherFile, "Another project or material document")->required();
     addForm(command);
 }
 
 void CommandLine::addQuery()
 {
     CLI::App* const command =
-        addCommand("query", "Print what the solver side asks of an analysis document",
+        addCommand("query", "Print the properties of an analysis that the solver asks for",
                    "vxmat query analysis.json --materials materials.json --project 3",
                    [this] { return queryFile(m_file, m_materialsFile, parseNumber("--project", m_project), form()); });
     command->add_option("FILE", m_file, "An analysis document; - is standard input")->required();
@@ -221,7 +218,7 @@ void CommandLine::addQuery()
     addForm(command);
 }
 
-/// Returns the message about a command line that cannot be understood.
+/// Returns the message about an invalid command line.
 std::string explain(const CLI::ParseError& error, int argc, char** argv)
 {
     const bool named = argc > 1 && argv[1][0] != '-';
@@ -230,7 +227,7 @@ std::string explain(const CLI::ParseError& error, int argc, char** argv)
         lacksCommand && named && std::string(error.what()).find("subcommand") != std::string::npos
             ? "there is no subcommand \"" + std::string(argv[1]) + "\""
             : error.what();
-    return reason + "; \"vxmat --help\" shows what there is";
+    return reason + "; \"vxmat --help\" lists the subcommands";
 }
 
 int CommandLine::run(int argc, char** argv)
@@ -264,7 +261,7 @@ int run(int argc, char** argv) noexcept
             complain(error.what());
         }
     } catch (...) {
-        // Not even the message could be written; the status still tells.
+        // The message could not be written either; only the status reports the error.
     }
     return static_cast<int>(Status::Error);
 }

@@ -2,8 +2,8 @@
 
 namespace vxmat {
 
-/// Carries out a command line and returns the exit status. Results are written to standard output, all else to standard
-/// error; nothing is thrown.
+/// Executes a command line and returns the exit status. Writes results to standard output, and notes and errors to
+/// standard error.
 int run(int argc, char** argv) noexcept;
 
 } // namespace vxmat

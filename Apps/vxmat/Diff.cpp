@@ -23,7 +23,7 @@ namespace {
 
 using vxMat::MaterialProperty;
 
-/// A value in one of the files.
+/// A value in one of the two files.
 struct Side
 {
     Json::Value json;
@@ -35,9 +35,9 @@ struct Difference
 {
     std::string title;      ///< the label of the material or object, and its number if others have the label too
     bool isMaterial = true; ///< false for an object of another class
-    std::optional<std::int32_t> property{}; ///< the number under which it is held; absent for the material as a whole
+    std::optional<std::int32_t> property{}; ///< the number in the material; absent for a whole material
     std::string quantity{};                 ///< the name of the property
-    std::string field{};                    ///< empty if the material, object or property is only in one file
+    std::string field{};                    ///< empty if only one file has the material, object or property
     Side one{};
     Side other{};
 };
@@ -54,7 +54,7 @@ std::uint32_t numberOf(const ObjectRecord& object)
     return object.objectId;
 }
 
-/// Two materials or objects of the same label; null for the one that is not there.
+/// Two materials or objects with the same label. One of them is null if only one file has it.
 template <class Item>
 struct Pair
 {
@@ -63,7 +63,7 @@ struct Pair
     bool isAmbiguous = false; ///< others have the label too
 };
 
-/// The materials or objects of a label, in both files, by number.
+/// The materials or objects with the same label, in both files, by number.
 template <class Item>
 struct Group
 {
@@ -71,7 +71,7 @@ struct Group
     std::map<std::uint32_t, const Item*> others;
 };
 
-/// Pairs those of the same number, and the rest in order.
+/// Pairs items with the same number, and the remaining items in order.
 template <class Item>
 void pairUp(Group<Item> group, std::vector<Pair<Item>>& pairs)
 {
@@ -93,7 +93,7 @@ void pairUp(Group<Item> group, std::vector<Pair<Item>>& pairs)
         pairs.push_back({nullptr, other->second, isAmbiguous});
 }
 
-/// Returns the pairs in the order of the first file, then of the second.
+/// Returns pairs of items with the same label, sorted by number. Items that are only in the second file are last.
 template <class Item>
 std::vector<Pair<Item>> pairUp(const std::vector<Item>& ones, const std::vector<Item>& others)
 {
@@ -125,7 +125,7 @@ bool isSame(const Field& one, const Field& other)
     return one == other;
 }
 
-/// Whether two numbers are the same: -0 is not 0, and what is not a number is the same as itself.
+/// Whether two numbers are the same. -0 differs from 0; NaN is the same as NaN.
 bool isSame(double one, double other)
 {
     return std::isnan(one) ? std::isnan(other) : one == other && std::signbit(one) == std::signbit(other);
@@ -184,7 +184,7 @@ Side sideOf(const std::vector<std::uint32_t>& numbers)
     return sideOfNumbers(numbers);
 }
 
-/// A value of any kind, on one line, shortened.
+/// Returns a value of any kind as one line, shortened.
 Side sideOf(const Json::Value& value)
 {
     Json::StreamWriterBuilder builder;
@@ -229,7 +229,7 @@ private:
     bool isComplete() const { return m_extent == vxCAE::MaterialSource::Complete; }
 
     vxCAE::MaterialSource m_extent;
-    Difference m_place; ///< where the comparison is
+    Difference m_place; ///< the material and property that are being compared
 };
 
 void Comparison::add(const char* field, Side one, Side other)
@@ -267,7 +267,7 @@ void Comparison::compare(const Pair<ObjectRecord>& pair)
     compareField("content", pair.one->content, pair.other->content);
 }
 
-/// Compares what all objects have.
+/// Compares the fields that all objects have.
 void Comparison::compareObjects(const ObjectRecord& one, const ObjectRecord& other)
 {
     compareField("suppressed", one.suppressed, other.suppressed);
@@ -345,9 +345,9 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form)
     answer.add(right.doubts);
     if (left.source != right.source)
         answer.messages.push_back("note: " + (left.source == vxCAE::MaterialSource::Document ? one : other) +
-                                  " is an exchange document, which carries of a property only its key, name and "
-                                  "number: words, lists, units, descriptions and categories are not compared, nor "
-                                  "colours, what is suppressed and other objects");
+                                  " is an exchange document, which carries only the key, name and number of a "
+                                  "property: words, lists, units, descriptions, categories, colours, suppression and "
+                                  "other objects are not compared");
 
     const bool complete = left.source == vxCAE::MaterialSource::Complete && right.source == left.source;
     Comparison comparison(complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document);

@@ -11,7 +11,7 @@ namespace vxmat {
 
 namespace {
 
-/// Whether an object belongs to another program: it has members, but none that an exchange document has.
+/// Whether an object belongs to another program: it has members, but no member of an exchange document.
 bool isForeign(const vxjson::JsonNode& document)
 {
     static constexpr std::array<std::string_view, 10> members{
@@ -30,7 +30,7 @@ void requireMaterials(const std::string& path, const Json::Value& document)
     if (vxCAE::readProjectKind(document) == vxCAE::ProjectKind::Analysis && materials.isNull())
         throw Failure(path + ": an analysis document holds no materials; give the material document");
     if (!materials.isNull() && !materials.isArray())
-        throw Failure(path + ": \"material\" is not an array; 'vxmat check' tells more");
+        throw Failure(path + ": \"material\" is not an array; 'vxmat check' reports all errors");
 }
 
 MaterialFile readFromDocument(const Input& input)
@@ -58,7 +58,7 @@ FileMaterial readFromObject(projectfile::ObjectRecord object)
     material.label = object.label;
     material.entry = std::make_unique<vxCAE::MaterialEntry>();
     material.entry->material->swap(*object.ownMaterial);
-    // A material leaves its project under the name that the user sees.
+    // The name of a material outside its project is the label of its object.
     material.entry->material->name = material.label;
     material.entry->classifyKind();
     material.object = std::move(object);
@@ -100,7 +100,7 @@ Input readInput(const std::string& path)
     if (projectfile::isProject(input.tree.root()))
         input.project = readProject(input);
     else if (isForeign(input.tree.root()))
-        throw Failure(path + ": neither an exchange document nor a project file: it has none of their members");
+        throw Failure(path + ": neither an exchange document nor a project file: it has no member of either format");
     return input;
 }
 
@@ -108,7 +108,7 @@ std::vector<vxCAE::Finding> findRepeatedMembers(const Input& input)
 {
     std::vector<vxCAE::Finding> findings;
     for (const std::string& path : input.tree.repeatedMembers())
-        findings.push_back({path, "is there more than once; readers take the last one"});
+        findings.push_back({path, "occurs more than once; readers use the last one"});
     return findings;
 }
 
@@ -117,7 +117,7 @@ void readInto(vxCAE::CAESet& set, const std::string& path, const Json::Value& do
     try {
         set.readJson(document);
     } catch (const Json::Exception& error) {
-        throw Failure(path + ": " + error.what() + " 'vxmat check' tells where.");
+        throw Failure(path + ": " + error.what() + " 'vxmat check' reports the place.");
     }
 }
 

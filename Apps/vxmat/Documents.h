@@ -21,29 +21,29 @@ struct Input
 {
     std::string path;
     std::string text;
-    vxjson::JsonTree tree;                             ///< of the text; an object
+    vxjson::JsonTree tree;                             ///< the tree of the text; its root is an object
     std::optional<projectfile::ProjectRecord> project; ///< absent for an exchange document
 };
 
 /// Reads a file, or standard input.
-/// \throws Failure if it cannot be read, is not JSON, belongs to neither this program nor the solver, or is a project
-/// file in which something is wrong
+/// \throws Failure if the file cannot be read, is not JSON, is neither an exchange document nor a project file, or is
+/// an invalid project file
 Input readInput(const std::string& path);
 
-/// Returns a finding for each member that is in one object more than once.
+/// Returns a finding for each member that occurs in one object more than once.
 std::vector<vxCAE::Finding> findRepeatedMembers(const Input& input);
 
 /// Reads the sections of a document into a set of its kind.
-/// \throws Failure, which names the file, if a value cannot be converted
+/// \throws Failure if a value cannot be converted; the message names the file
 void readInto(vxCAE::CAESet& set, const std::string& path, const Json::Value& document);
 
 /// A material in a file.
 struct FileMaterial
 {
     std::uint32_t number = 0;
-    std::string label;                           ///< what the user sees; the name of the material too
+    std::string label;                           ///< the label for the user; also the name of the material
     std::unique_ptr<vxCAE::MaterialEntry> entry; ///< classified; never null
-    /// What the project says of the object, without the material; empty for a document.
+    /// The record of the object in the project, without the material; empty for a document.
     projectfile::ObjectRecord object{};
 };
 
@@ -51,10 +51,10 @@ struct FileMaterial
 struct MaterialFile
 {
     std::string path;
-    vxCAE::MaterialSource source = vxCAE::MaterialSource::Document; ///< Complete for a project
+    vxCAE::MaterialSource source = vxCAE::MaterialSource::Document; ///< Complete if the file is a project
     std::vector<FileMaterial> materials;                            ///< by number
-    std::vector<projectfile::ObjectRecord> others;                  ///< the other objects of a project, by number
-    std::vector<std::string> doubts;                                ///< of reading, with the name of the file
+    std::vector<projectfile::ObjectRecord> others;                  ///< other objects of a project, by number
+    std::vector<std::string> doubts;                                ///< of the reader, with the name of the file
 };
 
 /// Reads the materials of a material document, or of a project.
@@ -62,7 +62,7 @@ struct MaterialFile
 MaterialFile readMaterials(const std::string& path);
 MaterialFile readMaterials(Input input);
 
-/// Returns the materials as a document: for a project the one that would be exported.
+/// Returns the materials of a file as a document. For a project, it is the document that an export would write.
 /// \throws Failure as readMaterials does
 Json::Value readMaterialDocument(const std::string& path);
 

@@ -20,15 +20,15 @@ namespace vxmat {
 
 namespace {
 
-/// One material that is to be written.
+/// A material to be written.
 struct Wanted
 {
-    std::string argument;                ///< which asks for it
-    std::optional<std::uint32_t> number; ///< absent if any number is right
+    std::string argument;                ///< the argument that requests it
+    std::optional<std::uint32_t> number; ///< absent if any free number can be used
     std::unique_ptr<vxCAE::MaterialEntry> entry;
 };
 
-/// Notes what the document does not carry of a material, besides units and descriptions, which the catalogue knows.
+/// Adds a note about the words and lists of a material, which a document does not carry.
 void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
 {
     std::string lost;
@@ -44,7 +44,7 @@ void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
                                   ": exchange documents carry no words and lists; lost: " + lost);
 }
 
-/// Refuses what readers of documents refuse: a number that JSON cannot express, and an id below 0.
+/// Throws a Failure for values that readers of documents refuse: a number that is not finite, and an id below 0.
 void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& material)
 {
     for (const auto& [key, property] : material.properties) {
@@ -62,7 +62,7 @@ void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answe
 {
     Input input = readInput(path);
     if (!input.project)
-        throw Failure(path + ": not a project file; its materials are in a document already");
+        throw Failure(path + ": not a project file; give library materials or project files");
     MaterialFile file = readMaterials(std::move(input));
     answer.add(file.doubts);
     if (!file.others.empty())
@@ -98,7 +98,7 @@ std::vector<Wanted> collect(const std::vector<std::string>& arguments, const std
     return all;
 }
 
-/// Gives numbers to the materials that have none: 1, 2, ..., without those that others have.
+/// Gives the smallest free numbers to the materials without a number.
 void number(std::vector<Wanted>& all)
 {
     std::set<std::uint32_t> taken;

@@ -27,8 +27,8 @@ namespace {
     throw Failure(path + ": " + reason.toStdString());
 }
 
-/// A file name as Qt takes it. A name that Qt cannot represent would be read or written under another name, and one that
-/// begins with a colon would be a resource.
+/// Returns the name of a file for Qt. Refuses a name that Qt cannot represent, because Qt would use another file. Qt
+/// treats a name that begins with a colon as a resource, so the function puts "./" before it.
 QString toQString(const std::string& path)
 {
     if (path.empty())
@@ -52,8 +52,8 @@ std::string readAll(const std::string& path, QFile& file)
     return content;
 }
 
-/// The open file of this process that a path such as /dev/stdout or /dev/fd/3 means. To open such a file again by its
-/// name would delete its content.
+/// Returns the open file of this process that a path such as /dev/stdout or /dev/fd/3 means. Opening such a file again
+/// by its name would delete its content.
 std::optional<int> descriptorOf(const std::string& path)
 {
     static constexpr std::array<std::pair<std::string_view, int>, 3> names{
@@ -88,8 +88,8 @@ void writeToDevice(const std::string& path, const QString& name, const std::stri
         fail(path, device.errorString());
 }
 
-/// Writes to what cannot be replaced as a file can: what is open already, a device, a pipe. Returns false, with nothing
-/// written, for a file.
+/// Writes to a target that cannot be replaced like a file: an open file, a device, a pipe. Returns false without
+/// writing for any other target.
 bool writeDirectly(const std::string& path, const std::string& text)
 {
     if (path == standardStream) {
@@ -113,7 +113,7 @@ bool writeDirectly(const std::string& path, const std::string& text)
     return false;
 }
 
-/// Calls a function of the store of projects, whose messages begin with the name of the file as those of this program.
+/// Calls a function of projectfile and converts a StoreError, whose message begins with the name of the file too.
 template <class Work>
 auto fromStore(const Work& work)
 {
@@ -177,7 +177,7 @@ void writeProjectFile(const std::string& path, const std::string& text)
     fromStore([&] {
         const QString name = QFile::decodeName(path.c_str());
         projectfile::FileLock lock(name);
-        // If no lock file can be made, the project cannot be written either, and the message about that says why.
+        // If no lock file can be made, the project cannot be written either, and writeFile() reports the reason.
         if (const QString holder = lock.tryLock() ? QString() : lock.holder(); !holder.isEmpty())
             fail(path, QStringLiteral("another program has it open: %1").arg(holder));
         projectfile::writeFile(name, text);
@@ -191,7 +191,7 @@ void requireAnotherFile(const std::string& input, const std::string& output)
     const QFileInfo read(toQString(input));
     const QFileInfo written(toQString(output));
     if (read.isFile() && read.canonicalFilePath() == written.canonicalFilePath())
-        throw Failure(output + ": this file is read here and would be lost; give another one to write");
+        throw Failure(output + ": this file is an input too and would be overwritten; give another output file");
 }
 
 void writeStandardOutput(const std::string& text)
@@ -206,7 +206,7 @@ std::string printable(const std::string& text)
     static constexpr std::string_view digits = "0123456789abcdef";
     std::string shown;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        // U+0080 to U+009F control terminals too. Their second byte is their number.
+        // U+0080 to U+009F are control characters too. Their second byte is their number.
         const bool isTwoBytes =
             text[i] == '\xC2' && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) < 0xA0U;
         const auto byte = static_cast<unsigned char>(text[isTwoBytes ? ++i : i]);

@@ -35,7 +35,7 @@ const char* kindName(eValueKind kind)
     }
 }
 
-/// The value of a property, in the form that its quantity has.
+/// Returns the value of a property in the form of its quantity.
 Json::Value valueJson(const MaterialProperty& property)
 {
     switch (vxMat::getValueKind(property.id)) {
@@ -107,7 +107,7 @@ struct PropertyListing
     Json::Value json{Json::arrayValue};
 };
 
-/// Notes about the material begin with `title`.
+/// Lists the properties of a material. `title` is the beginning of notes about it.
 PropertyListing listProperties(const vxMat::MaterialBase& material, const std::string& title, Answer& answer)
 {
     PropertyListing listing;
@@ -120,7 +120,7 @@ PropertyListing listProperties(const vxMat::MaterialBase& material, const std::s
             continue;
         const PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
         answer.messages.push_back(
-            "note: " + title + " keeps its " +
+            "note: " + title + " holds its " +
             (quantity != nullptr ? "\"" + std::string(quantity->name) + "\"" : "property " + std::to_string(key)) +
             " as a property named \"" + property.name + "\"");
     }
@@ -156,7 +156,7 @@ Json::Value toJson(const projectfile::ObjectRecord& object)
     return json;
 }
 
-/// The objects of a project that are not materials.
+/// Returns a table of the objects of a project that are not materials.
 std::string listOthers(const std::vector<projectfile::ObjectRecord>& objects)
 {
     TextTable table({"Number", "Name", "Class", "Suppressed"});

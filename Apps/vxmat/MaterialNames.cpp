@@ -14,7 +14,8 @@ namespace vxmat {
 
 namespace {
 
-/// Returns the edit distance: the number of letters that are added, removed or changed to turn one text into the other.
+/// Returns the edit distance of two texts: the number of letters to add, remove or change in the first to get the
+/// second.
 std::size_t distance(const std::string& one, const std::string& other)
 {
     std::vector<std::size_t> row(other.size() + 1);
@@ -31,8 +32,8 @@ std::size_t distance(const std::string& one, const std::string& other)
     return row.back();
 }
 
-/// The distance of a typed text from a name, both in capitals: by typing errors, in the name or in its nearest word, then
-/// by the rest of the name.
+/// The distance of a typed text from a name: first the number of typing errors in the name or in its nearest word, then
+/// the edit distance from the whole name.
 struct Distance
 {
     std::size_t errors;
@@ -101,7 +102,7 @@ std::vector<std::string> MaterialNames::nearest(const std::string& name) const
         candidates.emplace_back(distanceOfName(typed, vxMat::toUpperAscii(material->name)), material->name);
     std::sort(candidates.begin(), candidates.end());
 
-    // Only names as near as the nearest one are suggested, and none of which hardly a letter was typed.
+    // Suggests only names with the fewest typing errors, and only if at most a third of the letters are wrong.
     const std::size_t errors = candidates.front().first.errors;
     std::vector<std::string> names;
     for (const auto& [far, candidate] : candidates) {

@@ -14,20 +14,20 @@ class MaterialNames
 public:
     MaterialNames();
 
-    /// Returns the type of a material of the library; absent if none has the name.
+    /// Returns the type of the library material with this name; absent if there is none.
     std::optional<vxMat::eMaterialType> find(const std::string& name) const;
 
-    /// Returns the material of that name, which belongs to the library.
-    /// \throws Failure if there is none; the text suggests the nearest names
+    /// Returns the library material with this name. The library owns it.
+    /// \throws Failure if there is none; the message suggests the nearest names
     const vxMat::MaterialBase& get(const std::string& name) const;
 
-    /// Returns the types of all materials, in order.
+    /// Returns the types of all library materials in ascending order.
     std::vector<vxMat::eMaterialType> types() const;
     const vxMat::MaterialBase& get(vxMat::eMaterialType type) const;
 
-    /// Returns the message about a name that no material has, with the nearest names.
+    /// Returns the message about an unknown name, with suggestions.
     std::string unknown(const std::string& name) const;
-    /// The same for an argument that may also be the name of a file.
+    /// Returns the message about an argument that is neither a material nor a file.
     std::string unknownNameOrFile(const std::string& name) const;
 
 private:

@@ -26,7 +26,7 @@ void requireLabel(const std::string& argument, const std::string& label)
         throw Failure(argument + ": the label is not UTF-8");
 }
 
-/// Returns the name of the project in a file: that of the file; without a file, that of the host's first project.
+/// Returns the name of a project: the name of its file, or "Materials", as in the host, if there is no file name.
 std::string projectNameOf(const std::string& path)
 {
     if (path == standardStream)
@@ -58,7 +58,7 @@ Answer newProject(const std::vector<std::string>& materials, const std::string& 
     std::set<std::string> labels;
     std::vector<projectfile::ImportedMaterial> made;
     for (const std::string& argument : materials) {
-        // No name of the library has an equals sign, but a label may have one.
+        // A label may have an equals sign, a library name has none.
         const NameAndValue wanted = splitAt(argument, argument.find('='));
         auto material = std::make_unique<vxMat::CMaterial>();
         material->copyFrom(names.get(wanted.name));

@@ -14,7 +14,7 @@ namespace {
 
 using vxMat::MaterialProperty;
 
-/// The checks of one project, in the order of the file.
+/// Checks one project, in the order of the file.
 class ProjectCheck
 {
 public:
@@ -26,7 +26,7 @@ public:
             hasOthers = hasOthers || object.material == nullptr;
         }
         if (hasOthers)
-            note("$.objects", "are of other classes than materials and not checked");
+            note("$.objects", "are objects of other classes, which are not checked");
         for (const std::string& doubt : project.doubts)
             find("$", doubt);
     }
@@ -47,7 +47,7 @@ private:
     std::unordered_map<std::uint32_t, const vxMat::MaterialBase*> m_materials; ///< null for other objects
 };
 
-/// The number under which a material holds a property of the file.
+/// Returns the number under which a material holds a property of the file.
 std::int32_t numberUnder(const vxjson::JsonNode& property)
 {
     const vxjson::JsonNode heldAs = property["held_as"];
@@ -65,7 +65,7 @@ void ProjectCheck::checkNumbers(const MaterialProperty& property, const std::str
         check(property.values[i], path + ".values[" + std::to_string(i) + "]");
 }
 
-/// By the rules for the quantity `id`.
+/// Checks a property by the rules for the quantity `id`.
 void ProjectCheck::checkRules(std::int32_t id, const MaterialProperty& property, const std::string& path)
 {
     if (const char* const fault = vxMat::checkNumber(id, property.value))
@@ -86,7 +86,7 @@ void ProjectCheck::checkProperty(std::int32_t heldAs, const MaterialProperty& pr
     checkRules(property.id, property, path);
     if (heldAs == property.id)
         return;
-    // The solver takes it for the quantity as which it is held.
+    // The solver uses the quantity under which the property is held.
     checkRules(heldAs, property, path);
     const auto nameOf = [](std::int32_t id) {
         const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
@@ -108,7 +108,8 @@ void ProjectCheck::checkMaterial(const vxMat::MaterialBase& material, const vxjs
         find(path, fault);
     if (const auto curve = vxMat::findUnequalCurve(material))
         find(path, "has " + std::to_string(curve->yieldStresses) + " yield stresses and " +
-                       std::to_string(curve->plasticStrains) + " plastic strains; both must be of equal number");
+                       std::to_string(curve->plasticStrains) +
+                       " plastic strains; both lists must have the same length");
 }
 
 void ProjectCheck::checkMaterials(const vxjson::JsonNode& materials)
@@ -128,7 +129,7 @@ void ProjectCheck::checkMaterials(const vxjson::JsonNode& materials)
 
 vxCAE::CheckReport checkProject(const Input& input)
 {
-    // The record has the materials by number; the tree tells where each value is in the file.
+    // The materials of the record are sorted by number; the tree has them in the order of the file.
     ProjectCheck check(*input.project);
     check.checkMaterials(input.tree.root()["materials"]);
     return std::move(check.report);

@@ -7,12 +7,13 @@
 
 namespace vxmat {
 
-/// Returns the keys of a material's properties in the order of the catalogue; then those that it does not know, by number.
+/// Returns the numbers under which a material holds its properties: in the order of the catalogue, then, sorted, the
+/// numbers that the catalogue does not know.
 std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& material);
-/// Returns the keys that at least one of two materials has.
+/// Returns the numbers under which at least one of two materials holds a property, in the same order.
 std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
 
-/// Returns the form of a property's value: that of its quantity, a number if the catalogue does not know it.
+/// Returns the kind of value of a property's quantity; Number if the catalogue does not know the quantity.
 vxMat::eValueKind kindOf(const vxMat::MaterialProperty& property);
 
 } // namespace vxmat

@@ -14,7 +14,7 @@ namespace vxmat {
 
 namespace {
 
-/// Gives the domains of an analysis the materials of their numbers.
+/// Copies the materials to the domains of an analysis that refer to them.
 void supplyMaterials(vxCAE::CAESet& analysis, const std::string& materialsPath, Answer& answer)
 {
     const MaterialFile file = readMaterials(materialsPath);
@@ -107,8 +107,8 @@ Answer queryFile(const std::string& path, const std::optional<std::string>& mate
     if (materialsPath)
         supplyMaterials(set, *materialsPath, answer);
     else if (!set.domainConditions->domains.empty())
-        answer.messages.push_back(path + ": note: analysis documents do not say what models their materials use; "
-                                         "with --materials FILE they are taken into account");
+        answer.messages.push_back(path + ": note: analysis documents do not carry material models; give the "
+                                         "material document or project with --materials FILE");
     const Json::Value json = answers(set);
     answer.text = form == Form::Json ? toJsonText(json) : toText(json);
     return answer;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* gap = "  ";
 
-/// The number of characters of a UTF-8 text, which is its width as long as it is in Latin letters.
+/// Returns the number of characters of a UTF-8 text. It is the width of a text in Latin letters.
 std::size_t width(const std::string& text)
 {
     return static_cast<std::size_t>(std::count_if(

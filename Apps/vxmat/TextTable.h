@@ -5,7 +5,7 @@
 
 namespace vxmat {
 
-/// Rows of cells under a heading, printed with columns as wide as their widest cell.
+/// A table of texts with a heading. Each column is as wide as its widest cell.
 class TextTable
 {
 public:

@@ -12,7 +12,7 @@ bool isLetterOrDigit(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
 }
 
-/// The spelling of a character in a name; a blank separates words.
+/// Returns the spelling of a character in a name. A blank separates words.
 std::string spelled(char c)
 {
     if (isLetterOrDigit(c))

@@ -5,8 +5,8 @@
 
 namespace vxtest {
 
-/// Sets a locale with decimal commas for the whole process, C and C++, and restores the one before in its destructor.
-/// The test fails if the locale does not exist, because it would prove nothing in the C locale.
+/// Sets a C and C++ locale with decimal commas for the whole process. The destructor restores the previous locale. The
+/// constructor throws if the locale does not exist, and the test fails if the locale has no decimal commas.
 class CommaLocale
 {
 public:

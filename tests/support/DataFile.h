@@ -5,13 +5,14 @@
 
 namespace vxtest {
 
-/// The path of a file under tests/data.
+/// Returns the path of a file in tests/data.
 std::string dataPath(const std::string& name);
 
-/// The rows of a table under tests/data, cells separated by tabs. Lines that begin with '#' are skipped.
+/// Returns the rows of a table in tests/data. Tabs separate the cells. Empty lines and lines that begin with '#' are
+/// skipped.
 std::vector<std::vector<std::string>> readTable(const std::string& name);
 
-/// The content of a file; the test fails if it cannot be read.
+/// Returns the content of a file. The test fails if the file cannot be read.
 std::string readText(const std::string& path);
 
 } // namespace vxtest

@@ -4,7 +4,8 @@
 
 namespace vxtest {
 
-/// How often a test kills a program: 15 times, or VX_KILL_ROUNDS times. The test preset "kill" sets that variable.
+/// Returns how often a test kills a program: 15 times, or VX_KILL_ROUNDS times. The test preset "kill" sets this
+/// variable.
 inline int killRounds()
 {
     constexpr int usual = 15;

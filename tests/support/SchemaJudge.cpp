@@ -21,7 +21,7 @@ public:
     Validator& operator=(const Validator&) = delete;
     ~Validator();
 
-    /// Returns a line for each fault; the test fails if the validator does not say that these are all.
+    /// Returns one line for each fault. The test fails if the validator stops before it has reported all faults.
     std::string judge(const std::string& schema, const std::string& file);
 
 private:
@@ -87,7 +87,7 @@ std::string Validator::judge(const std::string& schema, const std::string& file)
         for (std::string line; readLine(line); faults += line + '\n')
             if (line.empty())
                 return faults;
-    ADD_FAILURE() << "the validator does not say whether " << file << " is as " << schema << " wants it";
+    ADD_FAILURE() << "the validator stopped before it had checked " << file << " by " << schema;
     return faults;
 }
 

@@ -1,5 +1,5 @@
-// The precompiled header of all tests: headers of other projects that many tests include. Tests include them as well, so
-// that they compile without this file.
+// The precompiled header of all tests, with the headers of other projects that many tests include. Tests include these
+// headers too, so that they compile without this file.
 #pragma once
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Validates JSON documents by JSON Schemas.
 
-Reads a question a line, "SCHEMA<tab>FILE", until the input ends. Writes a line for each fault of the file, and an empty
-line after the last one. Ends with an error if a schema is not a valid one.
-Members with the same name, and numbers that a double cannot hold, are faults too: readers of JSON disagree about them.
+Reads one question per line, "SCHEMA<tab>FILE", until the input ends. Writes one line for each fault of the file, and an
+empty line after the last fault. Fails if a schema is invalid. Members with the same name, and numbers that a double
+cannot hold, are faults too, because readers of JSON treat them differently.
 """
 import functools
 import json

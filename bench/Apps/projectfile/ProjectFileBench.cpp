@@ -12,9 +12,8 @@
 #include <string>
 #include <utility>
 
-/// Opening and saving a project against what plain jsoncpp takes for the text alone: to parse it into a tree of values,
-/// without looking at any, and to write that tree. The sides hold different things, a project with its materials or a
-/// tree, so that memory is for information.
+/// Compares opening and saving a project with parsing and writing the same text with plain jsoncpp, which only builds
+/// and writes a tree of values. Memory has no limit, because one side holds a project and the other side a tree.
 namespace {
 
 using projectfile::ProjectRecord;
@@ -23,7 +22,7 @@ using vxbench::timed;
 
 constexpr double limit = 0.6;
 
-/// A project of the library's materials, over and over.
+/// Makes a project with `count` materials, which repeat the materials of the library.
 ProjectRecord makeProject(std::uint32_t count)
 {
     ProjectRecord project;
@@ -71,12 +70,12 @@ void addContests(std::uint32_t count)
     const auto text = lazily([count] { return projectfile::writeProject(makeProject(count)); });
     const auto project = lazily([count] { return makeProject(count); });
     const auto document = lazily([text] { return parse(text()); });
-    // The first call prepares it before the clock starts.
+    // The first call of text() makes the text before the clock starts.
     const auto open = [=] {
         text();
         return timed([&] { return projectfile::readProject(text()); });
     };
-    // The tree is destroyed within the time, as it is when a project is opened.
+    // The time includes the destruction of the tree, because opening a project destroys its tree too.
     const auto parsing = [=] {
         text();
         return timed([&] { return parse(text()).size(); });
@@ -92,7 +91,7 @@ void addContests(std::uint32_t count)
     const auto both = [=] { return open() + save(); };
     const auto bothPlainly = [=] { return parsing() + writing(); };
     vxbench::addContest({"open and save" + of, both, bothPlainly, limit, false});
-    // Opening checks every value and makes every material besides.
+    // Unlike parsing, opening also checks every value and makes every material.
     vxbench::addContest({"open" + of, open, parsing, limit, false});
     vxbench::addContest({"save" + of, save, writing, limit, false});
 }

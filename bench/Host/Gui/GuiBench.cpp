@@ -20,8 +20,8 @@
 #include <string>
 #include <vector>
 
-/// What the user waits for: commands on 10,000 materials, measured by the longest time in which the interface does not
-/// react, and the start of the program until its window is painted, beside that of an empty window.
+/// Measures the times for which the user waits: commands on 10,000 materials, by the longest time in which the
+/// interface does not react, and the start of the program until its window is painted, compared with an empty window.
 namespace {
 
 constexpr int materialCount = 10000;
@@ -36,11 +36,12 @@ double millisecondsOf(const std::function<void()>& action)
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-/// Runs a command, and then the event loop until nothing is left to do. Returns the time of the longest of these turns.
+/// Runs a command, and then the event loop until all events are processed. Returns the time of the longest of these
+/// turns.
 double longestTurn(const std::function<void()>& command)
 {
     double longest = millisecondsOf(command);
-    // Work is only delayed by timers without a wait, so that a few turns do all of it.
+    // Delayed work uses timers with an interval of 0, so that a few turns do all of it.
     for (int turn = 0; turn < 50; ++turn)
         longest = std::max(longest, millisecondsOf([] { QCoreApplication::processEvents(); }));
     return longest;
@@ -51,8 +52,8 @@ void run(const char* command)
     Gui::GuiApplication::Instance->get_command_manager().run_command(command);
 }
 
-/// A project with many materials on the screen, and commands on them. A command that does nothing would be quick, so that
-/// each measurement also checks the result.
+/// Shows a project with many materials and measures commands on them. Each measurement also checks the result, because
+/// a command that does nothing would be fast.
 class Commands
 {
 public:
@@ -65,7 +66,8 @@ public:
         longestTurn([] {});
     }
 
-    /// Runs a command. Afterwards this many materials must be in the tree, be selected and be suppressed.
+    /// Runs and measures a command. Checks the numbers of materials that are present, selected and suppressed
+    /// afterwards.
     void measure(const char* name, const char* command, int present, int selected, int suppressed)
     {
         const double longest = longestTurn([command] { run(command); });
@@ -94,7 +96,7 @@ private:
     {
         const auto objects =
             Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
-        // The commands must act on what the user sees marked.
+        // The commands must act on the objects that are highlighted in the tree.
         return objects.size() == static_cast<std::size_t>(m_tree.selectionModel()->selectedIndexes().size())
                    ? static_cast<int>(objects.size())
                    : -1;
@@ -135,7 +137,7 @@ bool measureCommands(int& argc, char** argv)
     return commands.passed();
 }
 
-/// Paints `window` once, and ends.
+/// Shows and paints `window` once. Returns the exit status.
 int paintOnce(QWidget& window)
 {
     window.show();
@@ -164,7 +166,8 @@ int startOurs(int& argc, char** argv)
     return paintOnce(window);
 }
 
-/// The time of a program from its start to its end, the shortest of several.
+/// Measures the times from the start of each program to its end, the shortest of several, and prints their ratio.
+/// Returns whether the ratio is within its limit.
 bool printStart(const std::string& program)
 {
     double best[] = {1e9, 1e9};
@@ -176,7 +179,7 @@ bool printStart(const std::string& program)
                              QProcess::execute(QString::fromStdString(program), {QString::fromLatin1(flags[side])});
                          }));
     const double ratio = best[0] / best[1];
-    std::printf("%-50s %8.1f ms %8.1f ms   %.2f   %s %.2f\n", "start to the first picture, beside an empty window",
+    std::printf("%-50s %8.1f ms %8.1f ms   %.2f   %s %.2f\n", "start until the window is painted / an empty window",
                 best[0], best[1], ratio, ratio <= startLimit ? "within" : "OVER", startLimit);
     return ratio <= startLimit;
 }

@@ -22,9 +22,9 @@
 #include <string>
 #include <vector>
 
-/// What a project costs that grows: the time for each object when 1,000, 10,000 and 100,000 are added, and for finding
-/// one among them, against the smallest of these in the same run; and its record and its export against the same
-/// documents written by hand with plain jsoncpp.
+/// Measures how times depend on the size of a project: the time per object for adding 10,000 and 100,000 objects, and
+/// for finding one of them, is compared with the time for 1,000 objects. The record and the export of a project are
+/// compared with hand-written code for the same documents with plain jsoncpp.
 namespace {
 
 using std::chrono::nanoseconds;
@@ -58,13 +58,13 @@ void registerClasses()
     Obj::initObj();
     initMat();
     Mat::registerRequests();
-    // What contests keep is destroyed before the application that way.
+    // The application is created first, so that the objects of the contests are destroyed before it.
     Obj::Application::instance();
     Kelta::RootClass::initSubclass(Thing::type, "Bench::Thing", "Obj::ProjectObject", &Thing::create);
     Kelta::RootClass::initSubclass(ThingProject::type, "Bench::ThingProject", "Obj::Project", &ThingProject::create);
 }
 
-/// A project that is open while it lives.
+/// Creates a project. The destructor closes it.
 class OpenProject
 {
 public:
@@ -83,8 +83,8 @@ private:
 
 // --- Adding and finding ---
 
-/// The processor time that `action` takes, the system's part of it included: long actions are interrupted more often than
-/// short ones, and are compared with short ones here.
+/// Returns the processor time of `action`, including the time in the kernel. Elapsed time would not allow a comparison
+/// of long actions with short ones, because long actions are interrupted more often.
 template <typename Action>
 nanoseconds processorTimeOf(Action action)
 {
@@ -98,10 +98,10 @@ nanoseconds processorTimeOf(Action action)
     return now() - begin;
 }
 
-/// Adds objects to empty projects until `most` have been added, `count` to each; so each side does the same work, and
-/// the ratio of the times is that of the times for each object. `putAside` keeps a project that is full: were it
-/// destroyed, the next one would get memory that is warm, while that of one large project must come from the system,
-/// which takes longer than all the rest.
+/// Adds `most` objects in total to empty projects, `count` to each. Each side adds the same number of objects, so that
+/// the ratio of the times is the ratio of the times per object. `putAside` keeps a full project alive. Otherwise the
+/// next project would reuse its memory, while one large project must get its memory from the system, which takes longer
+/// than adding the objects.
 template <typename Add, typename PutAside>
 nanoseconds addInPortions(const char* projectClass, std::size_t count, const Add& add, const PutAside& putAside)
 {
@@ -140,7 +140,7 @@ nanoseconds addMaterials(std::size_t count)
     return time;
 }
 
-/// A project with objects, and what they are asked for by, in random order.
+/// A project with objects, and the ids and names of the objects in random order.
 struct Searched
 {
     explicit Searched(std::size_t count) : project("Bench::ThingProject")
@@ -234,11 +234,11 @@ Json::Value documentByHand(const Steels& steels)
 
 std::string placeFor(const char* name)
 {
-    const char* const folder = std::getenv("TMPDIR"); // NOLINT(concurrency-mt-unsafe): nobody sets it meanwhile
+    const char* const folder = std::getenv("TMPDIR"); // NOLINT(concurrency-mt-unsafe): no other thread sets it
     return std::string(folder != nullptr ? folder : "/tmp") + "/" + name;
 }
 
-/// Writes `text` as people would, and takes it away again when the clock has stopped.
+/// Writes the document to a file with plain jsoncpp. Removes the file after the clock has stopped.
 nanoseconds exportByHand(const Steels& steels)
 {
     const std::string path = placeFor("project-bench-by-hand.json");
@@ -262,7 +262,8 @@ nanoseconds exportByProject(const Steels& steels)
 
 // --- The contests ---
 
-/// Something that is made when it is first needed, so that a process that measures memory makes only what it needs.
+/// Returns a function that makes an object in its first call and returns it in every call, so that a process that
+/// measures memory makes only the objects that it needs.
 template <class Made, class... Arguments>
 auto lazily(Arguments... arguments)
 {

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-/// Any bytes are a project or are refused with a ContentError, and so are they as a document to be imported. What was
-/// read can be written, and is written the same after it was read again.
+/// Reading any bytes as a project, or importing them as a document, succeeds or throws a ContentError. A project that
+/// was read can be written, and reading and writing it again gives the same text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char*>(data), size);

@@ -24,13 +24,13 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using vxMat::MaterialProperty;
 
-/// A document with one material of one property.
+/// Returns a document of one material with one property.
 std::string documentOf(const std::string& property)
 {
     return R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "M", "Props": [)" + property + "]}]}";
 }
 
-/// The document that the program writes of a material.
+/// Returns the document that the program exports for a material.
 std::string exported(const vxMat::MaterialBase& material)
 {
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
@@ -58,7 +58,7 @@ std::vector<std::string> labelsOf(const ImportedMaterials& imported)
     return labels;
 }
 
-TEST(ExchangeImport, RestoresWhatTheCatalogueKnowsOfAQuantity)
+TEST(ExchangeImport, RestoresTheDataOfAQuantityInTheCatalogue)
 {
     const ImportedMaterials imported = importExchange(
         documentOf(R"({"prop_type": 4, "prop_key": "rho", "prop_name": "Density", "prop_value": 7850.5})"));
@@ -79,7 +79,7 @@ TEST(ExchangeImport, RestoresWhatTheCatalogueKnowsOfAQuantity)
     EXPECT_EQ(density->category, vxMat::ePropertyCategory::Basic);
 }
 
-TEST(ExchangeImport, RestoresANameAndAKeyThatAreMissing)
+TEST(ExchangeImport, RestoresAMissingNameAndKey)
 {
     const auto imported = importExchange(documentOf(R"({"prop_type": 6, "prop_name": "", "prop_value": 0.3})"));
     EXPECT_THAT(imported.doubts, IsEmpty());
@@ -90,7 +90,7 @@ TEST(ExchangeImport, RestoresANameAndAKeyThatAreMissing)
     EXPECT_EQ(ratio.category, vxMat::ePropertyCategory::LinearElastic);
 }
 
-TEST(ExchangeImport, TakesTheCataloguesFirstWordAndSaysSo)
+TEST(ExchangeImport, UsesTheFirstWordInTheCatalogueWithADoubt)
 {
     const auto imported = importExchange(
         documentOf(R"({"prop_type": 37, "prop_key": "PHType", "prop_name": "Hardening type", "prop_value": 0.0})"));
@@ -100,7 +100,7 @@ TEST(ExchangeImport, TakesTheCataloguesFirstWordAndSaysSo)
                             "the catalogue was taken"));
 }
 
-TEST(ExchangeImport, LeavesListsEmptyAndSaysSo)
+TEST(ExchangeImport, LeavesListsEmptyWithADoubt)
 {
     const auto imported = importExchange(
         documentOf(R"({"prop_type": 38, "prop_key": "PYStress", "prop_name": "Yield stress", "prop_value": 0.0})"));
@@ -109,7 +109,7 @@ TEST(ExchangeImport, LeavesListsEmptyAndSaysSo)
                                              "it is empty"));
 }
 
-TEST(ExchangeImport, KeepsWhatTravelledOfAPropertyThatTheCatalogueDoesNotKnow)
+TEST(ExchangeImport, KeepsTheDataOfAPropertyThatTheCatalogueDoesNotKnow)
 {
     const auto imported = importExchange(documentOf(
         R"({"prop_type": 201, "prop_key": "alpha", "prop_name": "Thermal Expansion", "prop_value": 1.2e-5})"));
@@ -124,7 +124,7 @@ TEST(ExchangeImport, KeepsWhatTravelledOfAPropertyThatTheCatalogueDoesNotKnow)
                                              "not know it; its unit, description and category are lost"));
 }
 
-TEST(ExchangeImport, KeepsANameThatIsNotTheCataloguesAndSaysSo)
+TEST(ExchangeImport, KeepsANameThatDiffersFromTheCatalogueWithADoubt)
 {
     const auto imported = importExchange(
         documentOf(R"({"prop_type": 401, "prop_key": "rho", "prop_name": "Density", "prop_value": 1500})"));
@@ -137,10 +137,10 @@ TEST(ExchangeImport, KeepsANameThatIsNotTheCataloguesAndSaysSo)
                 ElementsAre(AllOf(HasSubstr("property 401 \"Speed of sound\": its key is \"rho\" in the document"),
                                   HasSubstr("\"sspeed\" in the catalogue")),
                             AllOf(HasSubstr("property 401 \"Speed of sound\": its name is \"Density\""),
-                                  HasSubstr("that of the document was kept"))));
+                                  HasSubstr("the name of the document was kept"))));
 }
 
-TEST(ExchangeImport, BringsBackEveryNumberUnitAndDescriptionOfTheLibrary)
+TEST(ExchangeImport, RestoresEveryNumberUnitAndDescriptionOfTheLibrary)
 {
     for (const auto& entry : vxMat::libraryEntries()) {
         const auto original = entry.create();
@@ -157,7 +157,7 @@ TEST(ExchangeImport, BringsBackEveryNumberUnitAndDescriptionOfTheLibrary)
             EXPECT_EQ(back->name, property->name);
             EXPECT_EQ(back->key, property->key);
             EXPECT_EQ(back->value, property->value);
-            // The speed of sound of the acoustic materials is kept as a density there, of which only its key tells.
+            // The acoustic materials hold the speed of sound as a density. A document does not carry this difference.
             if (key != property->id)
                 continue;
             EXPECT_EQ(back->id, property->id);
@@ -168,7 +168,7 @@ TEST(ExchangeImport, BringsBackEveryNumberUnitAndDescriptionOfTheLibrary)
     }
 }
 
-TEST(ExchangeImport, NamesEveryWordAndListOfTheLibraryThatDidNotTravel)
+TEST(ExchangeImport, NamesEveryLostWordAndListOfALibraryMaterial)
 {
     const vxMat::PlasticMaterial1 original;
     const auto imported = importExchange(exported(original));
@@ -182,7 +182,7 @@ TEST(ExchangeImport, NamesEveryWordAndListOfTheLibraryThatDidNotTravel)
                                                     title + "39 \"Plastic strain\": documents carry no lists"));
 }
 
-TEST(ExchangeImport, OrdersMaterialsByNumber)
+TEST(ExchangeImport, SortsMaterialsByNumber)
 {
     const auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 4294967295, "mat_name": "a"}, {"mat_id": 9, "mat_name": "b"}, {"mat_id": 1, "mat_name": "c"}]})"));
@@ -191,7 +191,7 @@ TEST(ExchangeImport, OrdersMaterialsByNumber)
     EXPECT_THAT(imported.doubts, IsEmpty());
 }
 
-TEST(ExchangeImport, GivesFreeNumbersWhereADocumentHasNoneThatAnObjectCanHave)
+TEST(ExchangeImport, GivesFreeNumbersToMaterialsWithoutAValidNumber)
 {
     const auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 0, "mat_name": "zero"}, {"mat_name": "none"}, {"mat_id": 2, "mat_name": "two"},
@@ -207,7 +207,7 @@ TEST(ExchangeImport, GivesFreeNumbersWhereADocumentHasNoneThatAnObjectCanHave)
             HasSubstr("is -1, which"), HasSubstr("is 4294967296, which"), HasSubstr("is 1.5, which")));
 }
 
-TEST(ExchangeImport, KeepsAllMaterialsOfANumberAndLeavesItToTheOneThatReadersTake)
+TEST(ExchangeImport, KeepsAllMaterialsWithTheSameNumberAndRenumbersAllButTheLast)
 {
     const auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 1, "mat_name": "first"}, {"mat_id": 1, "mat_name": "second"}, {"mat_id": 1, "mat_name": "third"}]})"));
@@ -215,22 +215,22 @@ TEST(ExchangeImport, KeepsAllMaterialsOfANumberAndLeavesItToTheOneThatReadersTak
     EXPECT_THAT(labelsOf(imported), ElementsAre("third", "first", "second"));
     EXPECT_THAT(
         imported.doubts,
-        ElementsAre(R"(material 2 "first": its number in the document is 1, as that of a later material is; it )"
+        ElementsAre(R"(material 2 "first": its number in the document is 1, which a later material has too; it )"
                     "was given the number 2",
                     HasSubstr("material 3 \"second\"")));
 }
 
-TEST(ExchangeImport, TakesTheLastOfAPropertyThatRepeatsAndSaysSo)
+TEST(ExchangeImport, UsesTheLastOfRepeatedPropertiesWithADoubt)
 {
     const auto imported = importExchange(documentOf(R"({"prop_type": 4, "prop_value": 1}, {"prop_type": 4,
                                                         "prop_value": 2})"));
     EXPECT_EQ(imported.materials[0].material->findProperty(4)->value, 2.0);
     EXPECT_THAT(imported.doubts,
-                ElementsAre(R"(material 7 "M": property 4 "Density": it is there twice in the document; )"
-                            "the last one was taken"));
+                ElementsAre(R"(material 7 "M": property 4 "Density": the document has it more than once; )"
+                            "the last one was used"));
 }
 
-TEST(ExchangeImport, SaysWhatADocumentLacks)
+TEST(ExchangeImport, ReportsMissingMembers)
 {
     const auto imported = importExchange((R"({"proj_type": 2, "material": [{"mat_id": 2, "Props": [
         {"prop_type": 5, "prop_value": null}, {"prop_name": "x", "prop_value": 3}]}]})"));
@@ -245,7 +245,7 @@ TEST(ExchangeImport, SaysWhatADocumentLacks)
     EXPECT_THAT(importExchange((R"({"proj_type": 2})")).doubts, ElementsAre("the document holds no materials"));
 }
 
-TEST(ExchangeImport, MakesAProjectAsTheHostDescribesIt)
+TEST(ExchangeImport, MakesAProjectWithTheHostsRecord)
 {
     auto imported = importExchange((R"({"proj_type": 2, "material": [
         {"mat_id": 9, "mat_name": "Steel"}, {"mat_id": 4, "mat_name": "Steel"}]})"));
@@ -275,7 +275,7 @@ TEST(ExchangeImport, MakesAProjectWithoutMaterials)
     EXPECT_TRUE(project.database["objects"].isNull());
 }
 
-TEST(ExchangeImport, MakesProjectsThatAreReadBack)
+TEST(ExchangeImport, MakesProjectsThatCanBeReadBack)
 {
     auto imported = importExchange(exported(vxMat::PlasticMaterial2()));
     const auto read = projectfile::readProject(
@@ -287,15 +287,15 @@ TEST(ExchangeImport, MakesProjectsThatAreReadBack)
     EXPECT_EQ(read.objects[0].material->getPropertyText(33), "Mises");
 }
 
-/// A document that gives reason for every doubt.
+/// A document that causes every kind of doubt.
 constexpr const char* doubtful = R"({"proj_type": 2, "material": [
     {"mat_name": "none"}, {"mat_id": 0, "mat_name": "zero"}, {"mat_id": 9, "mat_name": "earlier"}, {"mat_id": 9, "Props": [
         {"prop_type": 4, "prop_name": "D", "prop_key": "d"}, {"prop_type": 4, "prop_value": 1},
         {"prop_type": 33, "prop_value": 0}, {"prop_type": 38, "prop_value": 0}, {"prop_type": 77, "prop_value": 0},
         {"prop_type": 78, "prop_name": "x", "prop_value": 0}]}]})";
 
-/// What is said of a document: its doubts, or why it is refused.
-std::vector<std::string> saidOf(const char* document)
+/// Returns the messages about a document: its doubts, or the error.
+std::vector<std::string> messagesOf(const char* document)
 {
     try {
         return importExchange(document).doubts;
@@ -304,7 +304,7 @@ std::vector<std::string> saidOf(const char* document)
     }
 }
 
-TEST(ExchangeImport, SpeaksTheUsersLanguage)
+TEST(ExchangeImport, TranslatesItsMessages)
 {
     const char* const documents[] = {doubtful,
                                      R"({"proj_type": 2})",
@@ -323,16 +323,16 @@ TEST(ExchangeImport, SpeaksTheUsersLanguage)
     const QCoreApplication application(count, arguments);
     for (const char* const language : {"de", "zh_CN"}) {
         for (const char* const document : documents) {
-            const auto english = saidOf(document);
+            const auto english = messagesOf(document);
             QTranslator translator;
             ASSERT_TRUE(
                 translator.load(QStringLiteral(VX_TRANSLATIONS "/vxMaterial_%1.qm").arg(QLatin1String(language))));
             QCoreApplication::installTranslator(&translator);
-            const auto translated = saidOf(document);
+            const auto translated = messagesOf(document);
             QCoreApplication::removeTranslator(&translator);
             ASSERT_THAT(english, testing::Not(IsEmpty()));
             ASSERT_EQ(translated.size(), english.size());
-            // "null", "proj_type" and what the document says are the same in any language.
+            // "null", "proj_type" and texts of the document are not translated.
             for (std::size_t i = 0; i < english.size(); ++i) {
                 EXPECT_NE(translated[i], english[i]);
                 for (const char* const word : {"document", "is needed", "catalogue", "property", "number"})
@@ -340,10 +340,10 @@ TEST(ExchangeImport, SpeaksTheUsersLanguage)
             }
         }
     }
-    EXPECT_EQ(saidOf(doubtful).size(), 12U);
+    EXPECT_EQ(messagesOf(doubtful).size(), 12U);
 }
 
-/// A wrong document, and what is said of it.
+/// An invalid document and its error message.
 struct Wrong
 {
     const char* text;
@@ -362,7 +362,7 @@ TEST_P(WrongDocument, IsRefused)
 {
     try {
         importExchange(GetParam().text);
-        ADD_FAILURE() << "nothing was said";
+        ADD_FAILURE() << "no error was thrown";
     } catch (const projectfile::ContentError& error) {
         EXPECT_THAT(error.what(), HasSubstr(GetParam().reason));
     }
@@ -388,11 +388,11 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{R"({"proj_type": 2, "material": [{"Props": [{"prop_key": {}}]}]})", "prop_key: is an object; a text"}),
     [](const auto& wrong) { return vxtest::caseName(wrong.index, wrong.param.text); });
 
-TEST(ExchangeImport, RefusesATextThatIsNotJsonWithItsPlace)
+TEST(ExchangeImport, ReportsLineAndColumnIfTheTextIsNotJson)
 {
     try {
         importExchange("{\"proj_type\": 2,\n  \"material\": [}");
-        ADD_FAILURE() << "nothing was said";
+        ADD_FAILURE() << "no error was thrown";
     } catch (const projectfile::ContentError& error) {
         EXPECT_STREQ(error.what(), "line 2, column 16: a value is needed here");
         EXPECT_EQ(error.line(), 2);
@@ -401,18 +401,18 @@ TEST(ExchangeImport, RefusesATextThatIsNotJsonWithItsPlace)
     }
 }
 
-TEST(ExchangeImport, NamesTheMemberThatIsWrong)
+TEST(ExchangeImport, NamesTheInvalidMember)
 {
     try {
         importExchange(R"({"proj_type": 2, "material": [{}, {"mat_name": 7}]})");
-        ADD_FAILURE() << "nothing was said";
+        ADD_FAILURE() << "no error was thrown";
     } catch (const projectfile::ContentError& error) {
         EXPECT_EQ(error.member(), "$.material[1].mat_name");
         EXPECT_EQ(error.line(), 0);
     }
 }
 
-TEST(ExchangeImport, TakesTheLastOfAMemberThatIsThereTwiceAndDoubtsIt)
+TEST(ExchangeImport, UsesTheLastOfRepeatedMembersWithADoubt)
 {
     const auto imported = importExchange(documentOf(
         R"({"prop_type": 4, "prop_value": 7850, "prop_v\u0061lue": 7, "prop_key": "rho", "prop_name": "Density"} // a)"
@@ -420,10 +420,10 @@ TEST(ExchangeImport, TakesTheLastOfAMemberThatIsThereTwiceAndDoubtsIt)
     ASSERT_THAT(imported.materials, SizeIs(1));
     EXPECT_EQ(imported.materials[0].material->findProperty(4)->value, 7.0);
     EXPECT_THAT(imported.doubts,
-                ElementsAre("$.material[0].Props[0].prop_value: is there more than once; the last one was taken"));
+                ElementsAre("$.material[0].Props[0].prop_value: occurs more than once; the last one was used"));
 }
 
-TEST(ExchangeImport, NumbersAnewWithoutDoubtsForACallerWhoGivesNumbersOfItsOwn)
+TEST(ExchangeImport, NumbersMaterialsFromOneWithoutDoubtsIfTheCallerRenumbersThem)
 {
     Json::Value document;
     document["proj_type"] = 2;

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <exception>
 
-/// Locks a file and prints "yes" if that succeeded, else "no". Unlocks it when the standard input ends.
+/// Tries to lock a file and prints "yes" or "no". Releases the lock after the end of the standard input.
 ///
 ///     lock_holder FILE
 int main(int argc, char** argv)

@@ -24,7 +24,7 @@ using vxtest::expectSame;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// Through the text that a file or the clipboard has.
+/// Converts a record to a text, as in a file or the clipboard, and back.
 Json::Value throughText(const Json::Value& record)
 {
     const std::string text = Json::writeString(Json::StreamWriterBuilder(), record);
@@ -42,7 +42,7 @@ std::unique_ptr<MaterialBase> roundTrip(const MaterialBase& material)
     return read;
 }
 
-TEST(MaterialRecord, CarriesEveryLibraryMaterialFieldByField)
+TEST(MaterialRecord, KeepsEveryFieldOfEveryLibraryMaterial)
 {
     vxMat::MatDBManager database;
     database.initMaterialLibrary();
@@ -53,7 +53,7 @@ TEST(MaterialRecord, CarriesEveryLibraryMaterialFieldByField)
     }
 }
 
-TEST(MaterialRecord, CarriesAThousandMaterialsOfAllThatFieldsCanHold)
+TEST(MaterialRecord, KeepsEveryFieldOfAThousandRandomMaterials)
 {
     Dice dice;
     for (int i = 0; i < 1000; ++i) {
@@ -65,7 +65,7 @@ TEST(MaterialRecord, CarriesAThousandMaterialsOfAllThatFieldsCanHold)
     }
 }
 
-TEST(MaterialRecord, SpellsNumbersThatJsonCannotExpress)
+TEST(MaterialRecord, WritesNumbersThatJsonCannotExpressAsTexts)
 {
     MaterialBase material;
     auto property = std::make_unique<MaterialProperty>();
@@ -109,7 +109,7 @@ TEST(MaterialRecord, GivesMissingMembersTheirDefaults)
     EXPECT_EQ(property->category, vxMat::ePropertyCategory::Undefined);
 }
 
-/// A wrong record, and what is said of it.
+/// An invalid record and its error message.
 struct Wrong
 {
     const char* text;
@@ -124,7 +124,7 @@ void PrintTo(const Wrong& wrong, std::ostream* out)
 class WrongRecord : public testing::TestWithParam<Wrong>
 {};
 
-TEST_P(WrongRecord, IsRefusedAndLeavesTheMaterialAsItWas)
+TEST_P(WrongRecord, IsRefusedAndLeavesTheMaterialUnchanged)
 {
     MaterialBase material;
     material.id = 7;
@@ -134,7 +134,7 @@ TEST_P(WrongRecord, IsRefusedAndLeavesTheMaterialAsItWas)
     ASSERT_TRUE(Json::Reader().parse(GetParam().text, record));
     try {
         projectfile::readMaterial(material, record);
-        ADD_FAILURE() << "nothing was said";
+        ADD_FAILURE() << "no error was thrown";
     } catch (const projectfile::ContentError& error) {
         EXPECT_THAT(error.what(), HasSubstr(GetParam().reason));
     }
@@ -162,7 +162,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Wrong{R"({"properties": [{"category": 10}]})", "\"properties[0].category\""},
                     Wrong{R"({"properties": [{"category": -1}]})", "\"properties[0].category\""},
                     Wrong{R"({"properties": [{"held_as": 1.5}]})", "\"properties[0].held_as\""},
-                    Wrong{R"({"properties": [{"held_as": 4}, {"held_as": 4}]})", "is there twice"}),
+                    Wrong{R"({"properties": [{"held_as": 4}, {"held_as": 4}]})", "occurs twice"}),
     [](const auto& wrong) { return vxtest::caseName(wrong.index, wrong.param.text); });
 
 } // namespace

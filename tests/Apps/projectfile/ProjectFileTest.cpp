@@ -30,7 +30,7 @@ using vxtest::makeLibraryProject;
 using vxtest::makeMixedProject;
 using vxtest::makeSmallProject;
 
-/// Returns what reading a text says is wrong. The test fails if the text is read.
+/// Returns the error message of reading a text. The test fails if the text is read.
 std::string refusalOf(const std::string& text)
 {
     try {
@@ -42,7 +42,7 @@ std::string refusalOf(const std::string& text)
     return {};
 }
 
-/// Returns what writing a project says is wrong. The test fails if the project is written.
+/// Returns the error message of writing a project. The test fails if the project is written.
 std::string refusalOf(const ProjectRecord& project)
 {
     try {
@@ -54,7 +54,7 @@ std::string refusalOf(const ProjectRecord& project)
     return {};
 }
 
-/// `text` with the first of `from` replaced, which must be there.
+/// Returns `text` with the first `from` replaced. The test fails if there is none.
 std::string replaced(std::string text, const std::string& from, const std::string& to)
 {
     const std::size_t at = text.find(from);
@@ -62,7 +62,7 @@ std::string replaced(std::string text, const std::string& from, const std::strin
     return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
-/// A change to the text of a project that makes it wrong, and what is said of it.
+/// A change that makes the text of a project invalid, and the error message.
 struct Wrong
 {
     const char* from;
@@ -87,7 +87,7 @@ std::string smallText()
 
 // --- The text ---
 
-TEST(ProjectFile, IsLaidOutForVersionControl)
+TEST(ProjectFile, HasALayoutForVersionControl)
 {
     EXPECT_EQ(smallText(), R"({
   "format": "vxMaterial project",
@@ -149,7 +149,7 @@ TEST(ProjectFile, IsLaidOutForVersionControl)
 )");
 }
 
-TEST(ProjectFile, CarriesEveryLibraryMaterialFieldByField)
+TEST(ProjectFile, KeepsEveryFieldOfEveryLibraryMaterial)
 {
     const ProjectRecord project = makeLibraryProject();
     ASSERT_THAT(project.objects, SizeIs(26));
@@ -160,7 +160,7 @@ TEST(ProjectFile, CarriesEveryLibraryMaterialFieldByField)
     EXPECT_EQ(writeProject(read), text);
 }
 
-TEST(ProjectFile, CarriesThousandsOfMaterialsOfAllThatFieldsCanHold)
+TEST(ProjectFile, KeepsEveryFieldOfThousandsOfRandomMaterials)
 {
     Dice dice;
     for (int i = 0; i < 40; ++i) {
@@ -175,7 +175,7 @@ TEST(ProjectFile, CarriesThousandsOfMaterialsOfAllThatFieldsCanHold)
     }
 }
 
-TEST(ProjectFile, CarriesNumbersUnderACommaLocale)
+TEST(ProjectFile, KeepsNumbersInALocaleWithDecimalCommas)
 {
     const ProjectRecord project = makeLibraryProject();
     const std::string text = writeProject(project);
@@ -184,7 +184,7 @@ TEST(ProjectFile, CarriesNumbersUnderACommaLocale)
     expectSame(project, readProject(text));
 }
 
-TEST(ProjectFile, CarriesAProjectWithoutMaterialsOrDatabase)
+TEST(ProjectFile, MayHaveNoMaterialsAndNoDatabase)
 {
     ProjectRecord project;
     project.name = "Empty";
@@ -193,7 +193,7 @@ TEST(ProjectFile, CarriesAProjectWithoutMaterialsOrDatabase)
     expectSame(project, readProject(replaced(text, "\"database\": null,", "")));
 }
 
-TEST(ProjectFile, CarriesTheFileThatARecoveryIsOf)
+TEST(ProjectFile, KeepsThePathOfTheRecoveredFile)
 {
     ProjectRecord project = makeSmallProject();
     EXPECT_EQ(writeProject(project).find("recovered_file"), std::string::npos);
@@ -203,7 +203,7 @@ TEST(ProjectFile, CarriesTheFileThatARecoveryIsOf)
     EXPECT_EQ(readProject(writeProject(project)).recoveredFile, "");
 }
 
-TEST(ProjectFile, CarriesTheLargestNumberOfAnObject)
+TEST(ProjectFile, KeepsTheLargestObjectNumber)
 {
     ProjectRecord project = makeSmallProject();
     project.database = Json::Value();
@@ -212,7 +212,7 @@ TEST(ProjectFile, CarriesTheLargestNumberOfAnObject)
     expectSame(project, readProject(writeProject(project)));
 }
 
-TEST(ProjectFile, ListsObjectsByTheirNumbersWhateverTheOrderOfTheFile)
+TEST(ProjectFile, SortsObjectsByNumber)
 {
     ProjectRecord project = makeSmallProject();
     std::swap(project.objects[0], project.objects[1]);
@@ -229,7 +229,7 @@ TEST(ProjectFile, IsReadWithWindowsLineEndsAndAByteOrderMark)
     expectSame(makeSmallProject(), readProject(text));
 }
 
-TEST(ProjectFile, TakesDefaultsForWhatIsNotThere)
+TEST(ProjectFile, UsesDefaultsForMissingMembers)
 {
     std::string text = replaced(smallText(), "      \"suppressed\": false,\n", "");
     text = replaced(text, "      \"colour\": [0.5, 0.25, 0, 1],\n", "");
@@ -243,7 +243,7 @@ TEST(ProjectFile, TakesDefaultsForWhatIsNotThere)
     EXPECT_EQ(density->category, vxMat::ePropertyCategory::Undefined);
 }
 
-TEST(ProjectFile, IsReadAsItsGuideShowsIt)
+TEST(ProjectFile, IsReadAsItsGuideDescribesIt)
 {
     const std::string guide = vxtest::readText(PROJECT_FILE_GUIDE);
     const auto exampleAfter = [&guide](std::size_t from) {
@@ -267,7 +267,7 @@ std::string mixedText()
     return writeProject(makeMixedProject());
 }
 
-TEST(MixedProject, IsLaidOutAsAMaterialProjectWithMore)
+TEST(MixedProject, HasTheLayoutOfAMaterialProjectWithFurtherMembers)
 {
     const std::string text = mixedText();
     EXPECT_THAT(text, StartsWith(R"({
@@ -348,7 +348,7 @@ TEST(MixedProject, IsReadAsItWasWritten)
     EXPECT_THAT(read.objects[3].links, ElementsAre(3U, 1U));
 }
 
-TEST(MixedProject, CarriesThousandsOfObjectsOfAllThatFieldsCanHold)
+TEST(MixedProject, KeepsEveryFieldOfThousandsOfRandomObjects)
 {
     Dice dice;
     for (int i = 0; i < 60; ++i) {
@@ -364,7 +364,7 @@ TEST(MixedProject, CarriesThousandsOfObjectsOfAllThatFieldsCanHold)
     }
 }
 
-TEST(MixedProject, ListsMaterialsAndOtherObjectsByTheirNumbers)
+TEST(MixedProject, SortsMaterialsAndOtherObjectsByNumber)
 {
     ProjectRecord project = makeMixedProject();
     std::swap(project.objects[0], project.objects[3]);
@@ -395,7 +395,7 @@ TEST(MixedProject, MayHaveNoMaterials)
     expectSame(project, readProject(text));
 }
 
-TEST(MixedProject, HasADatabaseOfAnyShapeUnlessItIsAMaterialProject)
+TEST(MixedProject, MayHaveAnyDatabaseUnlessItIsAMaterialProject)
 {
     ProjectRecord project = makeMixedProject();
     project.database = Json::Value("my own");
@@ -434,7 +434,7 @@ TEST(MixedProject, WritesBackMembersOfItsObjectsThatItDoesNotKnow)
     expectSame(read, readProject(written));
 }
 
-TEST(MixedProject, LosesLinksThatAreWrongWithADoubt)
+TEST(MixedProject, LosesInvalidLinksWithADoubt)
 {
     const ProjectRecord read = readProject(replaced(mixedText(), "\"links\": [3, 1]", "\"links\": [3, 9, 4, 1, 3]"));
     EXPECT_THAT(read.objects[3].links, ElementsAre(3U, 1U));
@@ -486,7 +486,7 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"links\": [3, 1]", "\"links\": [-1]", "\"objects[1].links[0]\" is -1"}),
     nameOfCase);
 
-TEST(MixedProject, IsNotWrittenWithAClassOrNameThatNoHostTakes)
+TEST(MixedProject, IsNotWrittenIfAnObjectIsInvalid)
 {
     ProjectRecord project = makeMixedProject();
     project.objects[2].className.clear();
@@ -502,7 +502,7 @@ TEST(MixedProject, IsNotWrittenWithAClassOrNameThatNoHostTakes)
     EXPECT_THAT(refusalOf(project), HasSubstr("\"objects[0].content\" is not UTF-8"));
 }
 
-// --- What is not known ---
+// --- Unknown members ---
 
 TEST(ProjectFile, WritesBackMembersThatItDoesNotKnow)
 {
@@ -531,7 +531,7 @@ TEST(ProjectFile, WritesBackMembersThatItDoesNotKnow)
     EXPECT_EQ(writeProject(readProject(written)), written);
 }
 
-TEST(ProjectFile, CarriesWhateverTheHostsRecordHolds)
+TEST(ProjectFile, KeepsAnyContentOfTheHostsRecord)
 {
     ProjectRecord project = makeSmallProject();
     project.database["numbers"].append(Json::Value(-0.0));
@@ -547,7 +547,7 @@ TEST(ProjectFile, CarriesWhateverTheHostsRecordHolds)
     EXPECT_TRUE(std::signbit(read.database["numbers"][0].asDouble()));
 }
 
-TEST(ProjectFile, IsKnownByItsFormat)
+TEST(ProjectFile, IsRecognisedByItsFormatMember)
 {
     const auto isProject = [](const std::string& text) {
         return projectfile::isProject(vxjson::JsonTree::read(text, vxjson::JsonDialect::WithComments).root());
@@ -559,9 +559,9 @@ TEST(ProjectFile, IsKnownByItsFormat)
         EXPECT_FALSE(isProject(other)) << other;
 }
 
-// --- What is refused ---
+// --- Invalid files ---
 
-TEST(ProjectFile, SaysInItsErrorWhereSomethingIsWrong)
+TEST(ProjectFile, ReportsThePlaceOfAnErrorInItsException)
 {
     try {
         readProject(replaced(smallText(), "7850", "\"many\""));
@@ -581,18 +581,18 @@ TEST(ProjectFile, SaysInItsErrorWhereSomethingIsWrong)
     }
 }
 
-TEST(ProjectFile, IsNeverReadUnlessItIsWhole)
+TEST(ProjectFile, IsRefusedIfItIsTruncated)
 {
     const std::string text = mixedText();
     for (std::size_t length = 0; length + 2 <= text.size(); ++length) {
         SCOPED_TRACE(length);
         EXPECT_THAT(refusalOf(text.substr(0, length)), testing::Not(IsEmpty()));
     }
-    // The last character is the end of the last line.
+    // Only the last character, a line feed, may be missing.
     expectSame(makeMixedProject(), readProject(text.substr(0, text.size() - 1)));
 }
 
-TEST(ProjectFile, IsRefusedWhenABracketQuoteCommaOrColonIsLost)
+TEST(ProjectFile, IsRefusedIfABracketQuoteCommaOrColonIsMissing)
 {
     // The colons in the names of classes are not part of the format.
     const std::string marks = "{}[]\",:";
@@ -614,7 +614,7 @@ TEST(ProjectFile, NamesLineAndColumnOfAnError)
     EXPECT_THAT(refusalOf(replaced(smallText(), "7850", "78,50")), StartsWith("line 38, column "));
 }
 
-TEST(ProjectFile, OfALaterVersionIsRefusedWhateverElseItHolds)
+TEST(ProjectFile, IsRefusedIfItsVersionIsLater)
 {
     const auto isLater = AllOf(HasSubstr("later version"), HasSubstr("up to version 1"));
     EXPECT_THAT(refusalOf(replaced(smallText(), "\"format_version\": 1", "\"format_version\": 2")),
@@ -624,7 +624,7 @@ TEST(ProjectFile, OfALaterVersionIsRefusedWhateverElseItHolds)
     EXPECT_THAT(refusalOf(replaced(smallText(), "\"format_version\": 1", "\"format_version\": 1.5")), isLater);
 }
 
-TEST(ProjectFile, OfAnotherProgramIsRefusedAsSuch)
+TEST(ProjectFile, IsRefusedIfItBelongsToAnotherProgram)
 {
     for (const char* const text : {"{}", "[]", R"({"format": "sketch", "format_version": 9})",
                                    R"({"format": ["vxMaterial project"]})", R"({"proj_type": 2, "material": []})"})
@@ -634,14 +634,14 @@ TEST(ProjectFile, OfAnotherProgramIsRefusedAsSuch)
         EXPECT_THAT(refusalOf(text), StartsWith("line 1")) << text;
 }
 
-TEST(ProjectFile, ThatIsEmptyIsRefusedAsSuch)
+TEST(ProjectFile, IsRefusedIfItIsEmpty)
 {
     for (const char* const text : {"", " ", "\r\n\n", "\t"})
         EXPECT_EQ(refusalOf(text), "The file is empty.");
     EXPECT_THAT(refusalOf("\xEF\xBB\xBF"), testing::Not(IsEmpty()));
 }
 
-TEST(ProjectFile, WithAHundredThousandBracketsIsRefused)
+TEST(ProjectFile, IsRefusedIfItIsNestedTooDeeply)
 {
     const std::string brackets(100000, '[');
     EXPECT_THAT(refusalOf(brackets), HasSubstr("nested more than"));
@@ -650,7 +650,7 @@ TEST(ProjectFile, WithAHundredThousandBracketsIsRefused)
                 HasSubstr("nested more than"));
 }
 
-TEST(ProjectFile, CarriesATextOfAHundredThousandDigitsButRefusesSuchANumber)
+TEST(ProjectFile, KeepsATextOfAHundredThousandDigitsButRefusesSuchANumber)
 {
     const std::string digits(100000, '7');
     ProjectRecord project = makeSmallProject();
@@ -720,7 +720,7 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"held_as\": 401", "\"held_as\": 2147483648",
               "\"materials[0].material.properties[1].held_as\" is 2147483648"},
         Wrong{"\"held_as\": 401", "\"held_as\": 4",
-              "\"materials[0].material.properties[1].held_as\" is 4, which is there twice"},
+              "\"materials[0].material.properties[1].held_as\" is 4, which occurs twice"},
         Wrong{"\"properties\": []", "\"properties\": [7]", "\"materials[1].material.properties[0]\" is 7"},
         Wrong{"\"properties\": []", "\"properties\": {}", "\"materials[1].material.properties\" is an object"}),
     nameOfCase);
@@ -748,7 +748,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Wrong{"\"obj_id\": 2", "\"obj_id\": 7",
               "\"database.objects.object[1].obj_id\" is 7, but \"materials\" and \"objects\" have no such object"},
-        Wrong{"\"obj_id\": 2", "\"obj_id\": 1", "\"database.objects.object[1].obj_id\" is 1, which is there twice"},
+        Wrong{"\"obj_id\": 2", "\"obj_id\": 1", "\"database.objects.object[1].obj_id\" is 1, which occurs twice"},
         Wrong{"\"obj_id\": 2", "\"obj_id\": -2", "\"database.objects.object[1].obj_id\" must be"},
         Wrong{"\"obj_id\": 2", "\"obj_id\": \"2\"", "\"database.objects.object[1].obj_id\" must be"},
         Wrong{"\"class\": \"Mat::MaterialObject\",\n          \"label\"",
@@ -766,7 +766,7 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"\"object\": [", "\"object\": {}, \"before\": [", "\"database.objects.object\" must be an array"}),
     nameOfCase);
 
-TEST(ProjectFile, WithAMaterialThatIsNotInTheDatabaseIsRefused)
+TEST(ProjectFile, IsRefusedIfAMaterialIsNotInTheDatabase)
 {
     ProjectRecord project = makeSmallProject();
     std::string text = writeProject(project);
@@ -776,16 +776,16 @@ TEST(ProjectFile, WithAMaterialThatIsNotInTheDatabaseIsRefused)
                 HasSubstr("\"materials[1]\" is object 2, which \"database.objects.object\" does not have"));
 }
 
-TEST(ProjectFile, WithAnotherLabelInTheDatabaseIsReadWithADoubt)
+TEST(ProjectFile, IsReadWithADoubtIfALabelInTheDatabaseDiffers)
 {
     const ProjectRecord read = readProject(replaced(smallText(), "\"label\": \"Steel\"", "\"label\": \"Iron\""));
     EXPECT_EQ(read.objects[0].label, "Steel");
     EXPECT_THAT(read.doubts, ElementsAre(AllOf(HasSubstr("\"Steel\""), HasSubstr("\"Iron\""))));
 }
 
-// --- What is not written ---
+// --- Projects that cannot be written ---
 
-TEST(ProjectFile, IsNotWrittenWithATextThatIsNotUtf8)
+TEST(ProjectFile, IsNotWrittenIfATextIsNotUtf8)
 {
     for (const char* const text : {"\xFF", "a\xC3", "\xED\xA0\x80", "\xC0\x80", "\xF4\x90\x80\x80"}) {
         ProjectRecord project = makeSmallProject();
@@ -801,7 +801,7 @@ TEST(ProjectFile, IsNotWrittenWithATextThatIsNotUtf8)
     }
 }
 
-TEST(ProjectFile, IsNotWrittenWhenItCouldNotBeReadAgain)
+TEST(ProjectFile, IsNotWrittenIfItCouldNotBeReadBack)
 {
     ProjectRecord project = makeSmallProject();
     project.objects[1].objectId = 1;

@@ -36,7 +36,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-/// The longest time to wait for another program, in milliseconds. Only a test that fails takes that long.
+/// The longest time to wait for another program, in milliseconds. Only a failing test takes this long.
 constexpr int patience = 120000;
 
 class ProjectStore : public testing::Test
@@ -44,7 +44,7 @@ class ProjectStore : public testing::Test
 protected:
     QString path(const QString& name) const { return m_folder.path() + QLatin1Char('/') + name; }
     QDir folder() const { return {m_folder.path()}; }
-    /// The names of everything in the folder, hidden files too.
+    /// Returns the names of all files and folders in the folder, including hidden ones.
     QStringList content() const
     {
         return folder().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
@@ -59,7 +59,7 @@ std::string nameOf(const QString& path)
     return path.toStdString();
 }
 
-/// The message of the error that an action throws; the test fails if there is none.
+/// Returns the message of the error that an action throws. The test fails if it throws none.
 template <class Action>
 std::string refusalOf(const Action& action)
 {
@@ -68,7 +68,7 @@ std::string refusalOf(const Action& action)
     } catch (const StoreError& error) {
         return error.what();
     }
-    ADD_FAILURE() << "nothing was said";
+    ADD_FAILURE() << "no error was thrown";
     return {};
 }
 
@@ -87,7 +87,7 @@ mode_t modeOf(const QString& path)
     return status.st_mode & 07777U;
 }
 
-/// Sets when the file was changed last, in seconds since 1970.
+/// Sets the modification time of a file, in seconds since 1970.
 void setTime(const QString& path, time_t seconds)
 {
     const timeval times[] = {{seconds, 0}, {seconds, 0}};
@@ -99,7 +99,7 @@ constexpr time_t future = 9000000000; // in 2255
 
 // --- Reading and writing ---
 
-TEST_F(ProjectStore, GivesBackWhatWasWritten)
+TEST_F(ProjectStore, ReadsTheTextThatWasWritten)
 {
     std::string text = "a\r\n\xE9\x92\xA2";
     text += '\0';
@@ -121,7 +121,7 @@ TEST_F(ProjectStore, GivesBackWhatWasWritten)
     }
 }
 
-TEST_F(ProjectStore, TakesANameThatBeginsWithAColonForAFileOfTheCurrentFolder)
+TEST_F(ProjectStore, TreatsANameThatBeginsWithAColonAsAFileOfTheCurrentFolder)
 {
     const QString before = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(folder().path()));
@@ -131,7 +131,7 @@ TEST_F(ProjectStore, TakesANameThatBeginsWithAColonForAFileOfTheCurrentFolder)
     EXPECT_EQ(content(), QStringList{QStringLiteral(":a.vxmat")});
 }
 
-TEST_F(ProjectStore, ReplacesAFileWholeByALongerOrShorterOne)
+TEST_F(ProjectStore, ReplacesAFileByALongerOrShorterOne)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     for (const std::size_t size : {std::size_t{3000000}, std::size_t{10}, std::size_t{0}, std::size_t{100000}}) {
@@ -164,7 +164,7 @@ TEST_F(ProjectStore, GivesANewFileTheUsualPermissions)
 TEST_F(ProjectStore, KeepsTheOwnerOfTheFile)
 {
     if (geteuid() != 0)
-        GTEST_SKIP() << "only root can make a file that belongs to somebody else";
+        GTEST_SKIP() << "only root can make a file that belongs to another user";
     const QString file = path(QStringLiteral("a.vxmat"));
     writeFile(file, "old");
     constexpr uid_t other = 12345;
@@ -195,7 +195,7 @@ TEST_F(ProjectStore, WritesTheTargetOfAChainOfSymbolicLinks)
     EXPECT_FALSE(hasChanged(path(QStringLiteral("deep/target.vxmat")), stamp));
 }
 
-TEST_F(ProjectStore, MakesTheTargetOfASymbolicLinkThatIsNotThere)
+TEST_F(ProjectStore, CreatesTheMissingTargetOfASymbolicLink)
 {
     ASSERT_TRUE(QFile::link(QStringLiteral("target.vxmat"), path(QStringLiteral("link.vxmat"))));
     writeFile(path(QStringLiteral("link.vxmat")), "text");
@@ -203,7 +203,7 @@ TEST_F(ProjectStore, MakesTheTargetOfASymbolicLinkThatIsNotThere)
     EXPECT_EQ(readFile(path(QStringLiteral("target.vxmat"))), "text");
 }
 
-TEST_F(ProjectStore, RefusesSymbolicLinksThatGoRoundInACircle)
+TEST_F(ProjectStore, RefusesCircularSymbolicLinks)
 {
     ASSERT_TRUE(QFile::link(QStringLiteral("b.vxmat"), path(QStringLiteral("a.vxmat"))));
     ASSERT_TRUE(QFile::link(QStringLiteral("a.vxmat"), path(QStringLiteral("b.vxmat"))));
@@ -212,9 +212,9 @@ TEST_F(ProjectStore, RefusesSymbolicLinksThatGoRoundInACircle)
     EXPECT_THAT(refusalOf([&] { readFile(file); }), HasSubstr(nameOf(file)));
 }
 
-// --- What is refused ---
+// --- Invalid files ---
 
-TEST_F(ProjectStore, RefusesAFolderInsteadOfAFile)
+TEST_F(ProjectStore, RefusesToReadAndWriteAFolder)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     ASSERT_TRUE(folder().mkdir(QStringLiteral("a.vxmat")));
@@ -222,7 +222,7 @@ TEST_F(ProjectStore, RefusesAFolderInsteadOfAFile)
     EXPECT_THAT(refusalOf([&] { writeFile(file, "text"); }), AllOf(HasSubstr(nameOf(file)), HasSubstr("folder")));
 }
 
-TEST_F(ProjectStore, RefusesAFolderThatIsNotThereOrIsAFile)
+TEST_F(ProjectStore, RefusesAPathWithoutAValidFolder)
 {
     const QString missing = path(QStringLiteral("none/a.vxmat"));
     EXPECT_THAT(refusalOf([&] { readFile(missing); }), HasSubstr(nameOf(missing)));
@@ -235,7 +235,7 @@ TEST_F(ProjectStore, RefusesAFolderThatIsNotThereOrIsAFile)
                 AllOf(HasSubstr(nameOf(inFile)), HasSubstr("is a file")));
 }
 
-TEST_F(ProjectStore, RefusesAMissingFileAndANameWithoutLetters)
+TEST_F(ProjectStore, RefusesAMissingFileAndInvalidNames)
 {
     EXPECT_THAT(refusalOf([&] { readFile(path(QStringLiteral("none.vxmat"))); }),
                 AllOf(HasSubstr("none.vxmat"), HasSubstr("No such file")));
@@ -245,7 +245,7 @@ TEST_F(ProjectStore, RefusesAMissingFileAndANameWithoutLetters)
     EXPECT_THAT(refusalOf([&] { writeFile(tooLong, "text"); }), HasSubstr("aaa"));
 }
 
-TEST_F(ProjectStore, RefusesDevicesAndPipesInsteadOfWaitingForTheirEnd)
+TEST_F(ProjectStore, RefusesDevicesAndPipes)
 {
     const QString pipe = path(QStringLiteral("pipe.vxmat"));
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
@@ -260,9 +260,9 @@ TEST_F(ProjectStore, RefusesDevicesAndPipesInsteadOfWaitingForTheirEnd)
     EXPECT_TRUE(S_ISCHR(status.st_mode));
 }
 
-TEST_F(ProjectStore, RefusesAFileWhoseSizeTheSystemDoesNotTell)
+TEST_F(ProjectStore, RefusesAFileWhoseSizeTheSystemDoesNotReport)
 {
-    // These have no size that could be known before.
+    // The system reports the size 0 for this file.
     EXPECT_THAT(refusalOf([] { readFile(QStringLiteral("/proc/self/status")); }), HasSubstr("changed"));
 }
 
@@ -306,7 +306,7 @@ Saving saveElsewhere(const QString& file, const std::string& text, const Prepare
     return static_cast<Saving>(WEXITSTATUS(status));
 }
 
-TEST_F(ProjectStore, LeavesTheFileAsItWasWhenItsFolderIsReadOnly)
+TEST_F(ProjectStore, LeavesTheFileUnchangedIfItsFolderIsReadOnly)
 {
     ASSERT_TRUE(folder().mkdir(QStringLiteral("shut")));
     const QString shut = path(QStringLiteral("shut"));
@@ -324,7 +324,7 @@ TEST_F(ProjectStore, LeavesTheFileAsItWasWhenItsFolderIsReadOnly)
     EXPECT_EQ(QDir(shut).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("a.vxmat")});
 }
 
-TEST_F(ProjectStore, LeavesTheFileAsItWasWhenThereIsNoRoomForTheNewOne)
+TEST_F(ProjectStore, LeavesTheFileUnchangedIfTheNewFileIsTooLarge)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     writeFile(file, "old");
@@ -332,7 +332,7 @@ TEST_F(ProjectStore, LeavesTheFileAsItWasWhenThereIsNoRoomForTheNewOne)
         const rlimit limit{8192, 8192};
         return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && setrlimit(RLIMIT_FSIZE, &limit) == 0;
     };
-    // Less and more than one call writes.
+    // One size needs one call to write, the other size needs several calls.
     for (const std::size_t size : {std::size_t{9000}, std::size_t{3000000}}) {
         EXPECT_EQ(saveElsewhere(file, std::string(size, 'x'), limitFiles), Saving::Failed);
         EXPECT_EQ(readFile(file), "old");
@@ -341,13 +341,13 @@ TEST_F(ProjectStore, LeavesTheFileAsItWasWhenThereIsNoRoomForTheNewOne)
     EXPECT_EQ(saveElsewhere(file, std::string(8000, 'x'), limitFiles), Saving::Succeeded);
 }
 
-TEST_F(ProjectStore, LeavesTheFileAsItWasWhenTheDiskIsFull)
+TEST_F(ProjectStore, LeavesTheFileUnchangedIfTheDiskIsFull)
 {
     const QString disk = path(QStringLiteral("disk"));
     ASSERT_TRUE(folder().mkdir(QStringLiteral("disk")));
     const QByteArray mountPoint = QFile::encodeName(disk);
     if (mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
-        GTEST_SKIP() << "a small disk can only be made by root, and not everywhere";
+        GTEST_SKIP() << "mounting a small disk needs root and the permission to mount";
     const QString file = disk + QStringLiteral("/a.vxmat");
     const std::string old(100000, 'o');
     writeFile(file, old);
@@ -358,14 +358,14 @@ TEST_F(ProjectStore, LeavesTheFileAsItWasWhenTheDiskIsFull)
     EXPECT_EQ(umount(mountPoint.constData()), 0);
 }
 
-// --- Changes by others ---
+// --- Changes by other programs ---
 
-TEST_F(ProjectStore, NoticesWhatAnotherProgramWrote)
+TEST_F(ProjectStore, DetectsAChangeByAnotherProgram)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     const FileStamp stamp = writeFile(file, "one");
     EXPECT_FALSE(hasChanged(file, stamp));
-    scribble(file, "two"); // of the same size, in the same instant
+    scribble(file, "two"); // has the same size and possibly the same modification time
     EXPECT_TRUE(hasChanged(file, stamp));
     scribble(file, "three");
     EXPECT_TRUE(hasChanged(file, stamp));
@@ -377,7 +377,7 @@ TEST_F(ProjectStore, NoticesWhatAnotherProgramWrote)
     EXPECT_TRUE(hasChanged(file, stamp));
 }
 
-TEST_F(ProjectStore, DoesNotTakeATouchForAChange)
+TEST_F(ProjectStore, IgnoresANewModificationTimeAlone)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     const FileStamp stamp = writeFile(file, "one");
@@ -385,7 +385,7 @@ TEST_F(ProjectStore, DoesNotTakeATouchForAChange)
     EXPECT_FALSE(hasChanged(file, stamp));
 }
 
-TEST_F(ProjectStore, NoticesAFileWhereThereWasNone)
+TEST_F(ProjectStore, DetectsThatAFileWasCreated)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     EXPECT_FALSE(hasChanged(file, FileStamp()));
@@ -393,8 +393,8 @@ TEST_F(ProjectStore, NoticesAFileWhereThereWasNone)
     EXPECT_TRUE(hasChanged(file, FileStamp()));
 }
 
-/// Reads a file that another program replaces by `content`, with another time of change, just before the n-th reading
-/// from it. Returns whether there was an n-th reading.
+/// Reads a file. Just before the read call number `which`, replaces the content of the file by `content` and changes
+/// its modification time. Returns whether there was such a call.
 bool readsWhileAnotherProgramWrites(const QString& file, int which, const std::string& content)
 {
     const std::string before(400000, 'a');
@@ -418,14 +418,14 @@ bool readsWhileAnotherProgramWrites(const QString& file, int which, const std::s
     return readings >= which;
 }
 
-TEST_F(ProjectStore, GivesAWholeFileOrAnErrorWhileAnotherProgramWritesIt)
+TEST_F(ProjectStore, ReadsTheWholeFileOrFailsIfAnotherProgramWritesIt)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     for (const std::size_t size : {0U, 1U, 399999U, 400000U, 400001U, 2000000U}) {
         int which = 1;
         while (readsWhileAnotherProgramWrites(file, which, std::string(size, 'b')))
             ++which;
-        EXPECT_GT(which, 2) << "the file is read in one piece";
+        EXPECT_GT(which, 2) << "the file was read in one call";
     }
 }
 
@@ -463,7 +463,7 @@ private:
     QByteArray m_answer;
 };
 
-TEST_F(ProjectStore, LockKeepsASecondProgramOutAndNamesTheFirst)
+TEST_F(ProjectStore, LockExcludesASecondProgramAndNamesTheFirst)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     LockHolder other(file);
@@ -492,7 +492,7 @@ TEST_F(ProjectStore, LockOfAProgramThatWasKilledDoesNotCount)
     EXPECT_TRUE(lock.tryLock());
 }
 
-TEST_F(ProjectStore, LockOfALivingProgramCountsHoweverOldItIs)
+TEST_F(ProjectStore, LockOfARunningProgramCountsAtAnyAge)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     const LockHolder other(file);
@@ -501,9 +501,9 @@ TEST_F(ProjectStore, LockOfALivingProgramCountsHoweverOldItIs)
     EXPECT_FALSE(FileLock(file).tryLock());
 }
 
-TEST_F(ProjectStore, LockThatSaysNothingDoesNotCountOnceItIsOld)
+TEST_F(ProjectStore, LockWithoutContentDoesNotCountIfItIsOld)
 {
-    // A crash between making the lock file and writing to it leaves such a file.
+    // A crash between creating the lock file and writing to it leaves such a file.
     const QString file = path(QStringLiteral("a.vxmat"));
     const QString lockFile = path(QStringLiteral(".a.vxmat.lock"));
     scribble(lockFile, "");
@@ -526,7 +526,7 @@ TEST_F(ProjectStore, LockIsTheSameForASymbolicLinkAndItsTarget)
     EXPECT_TRUE(QFileInfo::exists(path(QStringLiteral(".a.vxmat.lock"))));
 }
 
-TEST_F(ProjectStore, LockGoesWithItsOwnerAndLeavesNothing)
+TEST_F(ProjectStore, LockIsReleasedByItsDestructorAndLeavesNoFile)
 {
     const QString file = path(QStringLiteral("a.vxmat"));
     {
@@ -541,7 +541,7 @@ TEST_F(ProjectStore, LockGoesWithItsOwnerAndLeavesNothing)
     EXPECT_THAT(content(), IsEmpty());
 }
 
-TEST_F(ProjectStore, LockCannotBeHadWhereNoFileCanBeMade)
+TEST_F(ProjectStore, LockFailsIfNoLockFileCanBeMade)
 {
     FileLock lock(path(QStringLiteral("none/a.vxmat")));
     EXPECT_FALSE(lock.tryLock());
@@ -550,7 +550,7 @@ TEST_F(ProjectStore, LockCannotBeHadWhereNoFileCanBeMade)
 
 // --- Killed while saving ---
 
-/// A file that another program saves to until it is killed.
+/// Another program saves to a file until it is killed.
 class KilledSaving : public ProjectStore
 {
 protected:
@@ -566,7 +566,7 @@ protected:
         scribble(path(QStringLiteral("second")), second);
     }
 
-    /// Whether the file holds the second state; the test fails if it holds neither.
+    /// Returns whether the file has the second state. The test fails if it has neither state.
     bool holdsSecond() const
     {
         const std::string found = readFile(file());
@@ -574,8 +574,8 @@ protected:
         return found == second;
     }
 
-    /// Saves the second state over the first one in a program that dies in the n-th call that changes files. Returns
-    /// whether it died.
+    /// Replaces the first state by the second in a program that is killed in call `number` of the calls that change
+    /// files. Returns whether it was killed.
     bool diesInCall(int number) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -592,7 +592,7 @@ protected:
         return saver.exitStatus() == QProcess::CrashExit;
     }
 
-    /// The calls up to the one that the program died in.
+    /// Returns the calls up to and including the call in which the program was killed.
     QStringList calls() const
     {
         return QString::fromStdString(readFile(path(QStringLiteral("calls")))).split('\n', Qt::SkipEmptyParts);
@@ -608,7 +608,7 @@ protected:
     std::string second;
 };
 
-TEST_F(KilledSaving, LeavesTheOldStateUpToOneCallAndTheNewOneFromThereOn)
+TEST_F(KilledSaving, LeavesTheOldStateBeforeOneCallAndTheNewStateAfterIt)
 {
     int dead = 0;
     bool wasSecond = false;
@@ -623,12 +623,12 @@ TEST_F(KilledSaving, LeavesTheOldStateUpToOneCallAndTheNewOneFromThereOn)
     EXPECT_TRUE(holdsSecond());
     const QStringList all = calls();
     EXPECT_EQ(all.size(), dead);
-    // The text reaches the disk before it takes the place of the old one.
+    // The text is on the disk before the new file replaces the old one.
     EXPECT_GT(all.indexOf(QStringLiteral("fsync")), all.lastIndexOf(QStringLiteral("write the rest")));
     EXPECT_GT(all.indexOf(QRegularExpression(QStringLiteral("^rename.*"))), all.indexOf(QStringLiteral("fsync")));
 }
 
-TEST_F(KilledSaving, LeavesOneOfTwoStatesWhateverMomentItIsKilledAt)
+TEST_F(KilledSaving, LeavesOneOfTwoStatesIfItIsKilledAtAnyMoment)
 {
     const QStringList arguments{file(), path(QStringLiteral("first")), path(QStringLiteral("second"))};
     std::mt19937 engine(7);

@@ -67,7 +67,7 @@ void expectSame(const MaterialBase& a, const MaterialBase& b)
     }
 }
 
-// Compared as texts, since jsoncpp tells a whole number without a sign from the same number with one.
+// Compares the texts, because jsoncpp distinguishes an unsigned number from a signed number of the same value.
 void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectRecord& b)
 {
     EXPECT_EQ(a.className, b.className);

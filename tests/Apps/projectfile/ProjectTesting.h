@@ -12,7 +12,7 @@ namespace vxtest {
 /// Expects that two materials agree in every field. NaN is equal to NaN here, and 0 is not equal to -0.
 void expectSame(const vxMat::MaterialBase& a, const vxMat::MaterialBase& b);
 
-/// Expects that two projects agree in every field, those of their materials included.
+/// Expects that two projects agree in every field, including the fields of their materials.
 void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectRecord& b);
 
 /// Adds a material with the next number to a project, and its object to the database.
@@ -23,23 +23,23 @@ projectfile::ObjectRecord& addMaterial(projectfile::ProjectRecord& project,
 projectfile::ObjectRecord& addOther(projectfile::ProjectRecord& project, const std::string& className,
                                     const std::string& label);
 
-/// A project with one material of each of the library's 26.
+/// Returns a project with each of the 26 library materials.
 projectfile::ProjectRecord makeLibraryProject();
 
-/// A project that fits on a page: two materials with a property or two.
+/// Returns a small project: two materials with one or two properties each.
 projectfile::ProjectRecord makeSmallProject();
 
-/// A project that fits on a page, of another class than a material project, with two materials and two objects of other classes: a probe,
-/// which has properties and content, and a group of the probe and a material.
+/// Returns a small project of another class than a material project, with two materials and two objects of other
+/// classes: a probe with properties and content, and a group of the probe and a material.
 projectfile::ProjectRecord makeMixedProject();
 
-/// Materials, and projects, with all that a field can hold; the same in each run.
+/// Makes random materials and projects with every kind of value in every field. Each run makes the same ones.
 class Dice
 {
 public:
     std::unique_ptr<vxMat::MaterialBase> makeMaterial();
     projectfile::ProjectRecord makeProject(int materials);
-    /// A project of any class, with materials and objects of other classes.
+    /// Returns a project of a random class, with materials and objects of other classes.
     projectfile::ProjectRecord makeMixedProject(int objects);
 
 private:

@@ -17,8 +17,8 @@ void saveFrom(const QString& source, const QString& target)
 
 } // namespace
 
-/// Saves the content of one file to another file, or the contents of two files in turns until it is killed. Prints a
-/// letter after each save.
+/// Saves the content of SOURCE to TARGET once. With two sources, saves their contents to TARGET alternately until it is
+/// killed. Prints a letter after each save.
 ///
 ///     save_loop TARGET SOURCE [SOURCE]
 int main(int argc, char** argv)

@@ -16,13 +16,13 @@
 #include <string>
 #include <vector>
 
-/// Whatever is wrong with a file is said through the translator.
+/// All messages about files are translated.
 namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// Puts the context in front of every text.
+/// Returns every text with its context as a prefix.
 class ContextTranslator : public QTranslator
 {
 public:
@@ -46,7 +46,7 @@ private:
     ContextTranslator m_translator;
 };
 
-/// The files of a folder of the test data whose names begin with 3 or 4: the wrong ones.
+/// Returns the invalid files in a folder of the test data. Their names begin with 3 or 4.
 std::vector<std::string> wrongFiles(const std::string& folder)
 {
     std::vector<std::string> files;
@@ -66,11 +66,11 @@ std::string refusalOf(const Work& work)
     } catch (const projectfile::ContentError& error) {
         return error.what();
     }
-    ADD_FAILURE() << "nothing was said";
+    ADD_FAILURE() << "no error was thrown";
     return {};
 }
 
-TEST_F(Translation, IsAskedForEveryRefusalOfAProjectFile)
+TEST_F(Translation, CoversEveryErrorOfAProjectFile)
 {
     for (const std::string& file : wrongFiles("projects")) {
         const std::string text = vxtest::readText(file);
@@ -82,7 +82,7 @@ TEST_F(Translation, IsAskedForEveryRefusalOfAProjectFile)
                 StartsWith("<projectfile::ProjectFile>line 1, column 4: <vxjson::JsonError>"));
 }
 
-TEST_F(Translation, IsAskedForWhatAValueMustBe)
+TEST_F(Translation, CoversTheDescriptionsOfExpectedValues)
 {
     const std::string text = projectfile::writeProject(vxtest::makeMixedProject());
     const std::pair<std::string, std::string> changes[] = {{"\"next_object_id\": 5", "\"next_object_id\": []"},
@@ -102,7 +102,7 @@ TEST_F(Translation, IsAskedForWhatAValueMustBe)
     }
 }
 
-TEST_F(Translation, IsAskedForDoubtsOfAProjectFile)
+TEST_F(Translation, CoversTheDoubtsOfAProjectFile)
 {
     for (const char* const name : {"11-wrong-links", "12-labels-that-differ"}) {
         const auto project =
@@ -113,7 +113,7 @@ TEST_F(Translation, IsAskedForDoubtsOfAProjectFile)
     }
 }
 
-TEST_F(Translation, IsAskedForWhatCannotBeWritten)
+TEST_F(Translation, CoversTheErrorsOfWritingAProject)
 {
     projectfile::ProjectRecord project = vxtest::makeMixedProject();
     project.name = "\xFF";
@@ -129,7 +129,7 @@ TEST_F(Translation, IsAskedForWhatCannotBeWritten)
     EXPECT_THAT(refusalOf([&] { projectfile::writeProject(project); }), StartsWith("<projectfile::ProjectFile>"));
 }
 
-TEST_F(Translation, IsAskedForEveryRefusalOfAnImport)
+TEST_F(Translation, CoversEveryErrorOfAnImport)
 {
     for (const std::string& file : wrongFiles("documents")) {
         const std::string text = vxtest::readText(file);
@@ -141,7 +141,7 @@ TEST_F(Translation, IsAskedForEveryRefusalOfAnImport)
     EXPECT_EQ(imported.doubts.size(), 2U);
 }
 
-TEST_F(Translation, IsAskedForTheHolderOfALock)
+TEST_F(Translation, CoversTheHolderOfALock)
 {
     const QTemporaryDir folder;
     projectfile::FileLock lock(folder.filePath(QStringLiteral("a.vxmat")));

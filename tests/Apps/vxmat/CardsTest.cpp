@@ -13,7 +13,7 @@ using vxtest::Folder;
 using vxtest::Outcome;
 using vxtest::vxmat;
 
-TEST(Cards, PrintEveryCardThatAppliesToTheLibrarysExamples)
+TEST(Cards, PrintEveryCardThatAppliesToALibraryMaterial)
 {
     const Outcome run = vxmat({"cards", "creep example", "EM", "-"}, "{}");
     EXPECT_EQ(run.status, 2) << "EM is neither a name nor a file";
@@ -27,7 +27,7 @@ TEST(Cards, PrintEveryCardThatAppliesToTheLibrarysExamples)
                          "\n== Electromangetic Material 1\n(no card applies)\n");
 }
 
-TEST(Cards, SayWhichCannotBeCompleteForADocument)
+TEST(Cards, AreReportedIfADocumentMakesThemIncomplete)
 {
     const Folder folder;
     const std::string file = folder.path("materials.json");
@@ -53,7 +53,7 @@ TEST(Cards, AreCompleteForADocumentOfCreepAndViscoElasticMaterials)
     EXPECT_THAT(run.out, HasSubstr("!VISCOELASTIC\n 0.5, 1\n"));
 }
 
-TEST(Cards, ComeAsJsonWithTheirDoubts)
+TEST(Cards, ArePrintedAsJsonWithTheirDoubts)
 {
     const Outcome run = vxmat({"cards", "Plastic Example 2", "--json"});
     EXPECT_EQ(run.status, 0);
@@ -77,7 +77,7 @@ TEST(Cards, RefuseAnAnalysisDocument)
     EXPECT_THAT(run.err, HasSubstr("an analysis document holds no materials"));
 }
 
-TEST(Cards, SayThatADocumentHoldsNoMaterials)
+TEST(Cards, ReportADocumentWithoutMaterials)
 {
     for (const char* const document : {"{}", R"({"proj_type": 2})", R"({"proj_type": 2, "material": []})"}) {
         const Outcome run = vxmat({"cards", "-"}, document);
@@ -90,7 +90,7 @@ TEST(Cards, SayThatADocumentHoldsNoMaterials)
     EXPECT_THAT(text.err, HasSubstr("\"material\" is not an array"));
 }
 
-TEST(Cards, ShowControlCharactersOfANameRatherThanObeyThem)
+TEST(Cards, EscapeControlCharactersInNames)
 {
     const Outcome run = vxmat({"cards", "-"}, R"({"proj_type": 2, "material": [{"mat_id": 1,
         "mat_name": "x\n-- plasticity\u001b[31m", "Props": [{"prop_type": 45}]}]})");
@@ -103,7 +103,7 @@ TEST(Cards, RefuseADocumentThatCannotBeConverted)
     const Outcome run = vxmat({"cards", "-"}, R"({"proj_type": 2, "material": [{"mat_id": "one"}]})");
     EXPECT_EQ(run.status, 2);
     EXPECT_THAT(run.err, HasSubstr("Value is not convertible to UInt"));
-    EXPECT_THAT(run.err, HasSubstr("'vxmat check' tells where"));
+    EXPECT_THAT(run.err, HasSubstr("'vxmat check' reports the place"));
 }
 
 TEST(Cards, AreCompleteForAProject)
@@ -125,7 +125,7 @@ TEST(Cards, AreCompleteForAProject)
     EXPECT_TRUE(json[0]["doubts"].empty());
 }
 
-TEST(Cards, SayThatAProjectHoldsNoMaterials)
+TEST(Cards, ReportAProjectWithoutMaterials)
 {
     const Outcome run = vxmat({"cards", "-"}, R"({"format": "vxMaterial project", "format_version": 1, "name": "p",
                                               "next_object_id": 1, "materials": []})");

@@ -30,20 +30,21 @@ std::string stemOf(const std::string& file)
     return file.substr(0, file.rfind('.'));
 }
 
-/// The files of tests/data/documents and tests/data/projects. Beside each is a file with what checking it must print:
-/// the exit status, then standard output and standard error, the name of the file in place of its path.
+/// The files of tests/data/documents and tests/data/projects. Beside each is a file with the expected result of
+/// checking it: the exit status, the standard output and the standard error, with the name of the file instead of its
+/// path.
 class Corpus : public testing::TestWithParam<std::string>
 {};
 
-TEST_P(Corpus, IsJudgedAsExpected)
+TEST_P(Corpus, GivesTheExpectedReport)
 {
     const std::string file = dataPath(GetParam());
     const std::string name = GetParam().substr(GetParam().find('/') + 1);
     Outcome run = vxmat({"check", file});
-    std::string said = std::to_string(run.status) + "\n" + run.out + run.err;
-    for (std::size_t at = said.find(file); at != std::string::npos; at = said.find(file))
-        said.replace(at, file.size(), name);
-    EXPECT_EQ(said, vxtest::readText(stemOf(file) + ".expected"));
+    std::string report = std::to_string(run.status) + "\n" + run.out + run.err;
+    for (std::size_t at = report.find(file); at != std::string::npos; at = report.find(file))
+        report.replace(at, file.size(), name);
+    EXPECT_EQ(report, vxtest::readText(stemOf(file) + ".expected"));
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& file)
@@ -57,13 +58,13 @@ std::string testName(const testing::TestParamInfo<std::string>& file)
 INSTANTIATE_TEST_SUITE_P(Documents, Corpus, testing::ValuesIn(corpus("documents")), testName);
 INSTANTIATE_TEST_SUITE_P(Projects, Corpus, testing::ValuesIn(corpus("projects")), testName);
 
-TEST(CheckCorpus, IsThere)
+TEST(CheckCorpus, HasEnoughFiles)
 {
     EXPECT_GE(corpus("documents").size(), 15U);
     EXPECT_GE(corpus("projects").size(), 15U);
 }
 
-TEST(Check, SaysNothingAboutASoundDocument)
+TEST(Check, PrintsNothingForAValidDocument)
 {
     const Outcome run = vxmat({"check", "-"}, vxmat({"export", "Air", "-o", "-"}).out);
     EXPECT_EQ(run.status, 0);
@@ -88,7 +89,7 @@ TEST(Check, PrintsFindingsAndNotesAsJson)
     EXPECT_EQ(reading.document["notes"].size(), 1U);
 }
 
-TEST(Check, TakesTheMaterialsOfAnAnalysisFromAnotherDocument)
+TEST(Check, ReadsTheMaterialsOfAnAnalysisFromAnotherDocument)
 {
     const std::string analysis = dataPath("documents/03-analysis.json");
     EXPECT_EQ(vxmat({"check", analysis}).status, 1);

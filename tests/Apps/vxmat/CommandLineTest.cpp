@@ -11,7 +11,7 @@ using vxtest::Outcome;
 using vxtest::shell;
 using vxtest::vxmat;
 
-TEST(CommandLine, TellsItsVersion)
+TEST(CommandLine, PrintsItsVersion)
 {
     const Outcome run = vxmat({"--version"});
     EXPECT_EQ(run.status, 0);
@@ -31,12 +31,12 @@ TEST(CommandLine, ShowsAnExampleOfEverySubcommand)
     }
 }
 
-TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
+TEST(CommandLine, RefusesUnknownSubcommandsAndInvalidArguments)
 {
     const Outcome unknown = vxmat({"frobnicate"});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_EQ(unknown.out, "");
-    EXPECT_EQ(unknown.err, "vxmat: there is no subcommand \"frobnicate\"; \"vxmat --help\" shows what there is\n");
+    EXPECT_EQ(unknown.err, "vxmat: there is no subcommand \"frobnicate\"; \"vxmat --help\" lists the subcommands\n");
     for (const auto& arguments : std::vector<std::vector<std::string>>{{},
                                                                        {"library", "--frob"},
                                                                        {"show"},
@@ -58,7 +58,7 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand)
     }
 }
 
-TEST(CommandLine, SaysThatStandardOutputIsFull)
+TEST(CommandLine, ReportsThatStandardOutputIsFull)
 {
     const Outcome run = shell("\"$VXMAT\" library > /dev/full");
     EXPECT_EQ(run.status, 2);
@@ -67,7 +67,7 @@ TEST(CommandLine, SaysThatStandardOutputIsFull)
         EXPECT_EQ(shell("\"$VXMAT\" " + std::string(arguments) + " > /dev/full").status, 2) << arguments;
 }
 
-TEST(CommandLine, WritesPointsWhateverTheUsersLocale)
+TEST(CommandLine, WritesDecimalPointsInEveryLocale)
 {
     const Outcome run = shell("LC_ALL=de_DE.UTF-8 \"$VXMAT\" show air && LC_ALL=de_DE.UTF-8 \"$VXMAT\" cards air");
     EXPECT_EQ(run.status, 0);

@@ -16,7 +16,7 @@ using vxtest::Folder;
 using vxtest::Outcome;
 using vxtest::vxmat;
 
-/// A file that vxmat makes of materials.
+/// Writes a file of materials with vxmat and returns its path.
 std::string make(const Folder& folder, const std::string& command, const std::vector<std::string>& names,
                  const std::string& file)
 {
@@ -27,7 +27,7 @@ std::string make(const Folder& folder, const std::string& command, const std::ve
     return folder.path(file);
 }
 
-/// The file with a project's first material changed.
+/// Writes a copy of a file with the first `what` replaced, and returns its path.
 std::string changed(const Folder& folder, const std::string& file, const std::string& what, const std::string& into)
 {
     std::string text = vxtest::readText(file);
@@ -36,7 +36,7 @@ std::string changed(const Folder& folder, const std::string& file, const std::st
     return folder.file("changed", at == std::string::npos ? text : text.replace(at, what.size(), into));
 }
 
-TEST(Diff, SaysNothingOfEqualFiles)
+TEST(Diff, PrintsNothingForEqualFiles)
 {
     const Folder folder;
     const std::string project = make(folder, "new", {"Plastic Example 1", "Acoustic Material 1"}, "a.vxmat");
@@ -51,7 +51,7 @@ TEST(Diff, SaysNothingOfEqualFiles)
     }
 }
 
-TEST(Diff, PrintsALinePerDifferenceOfTwoProjects)
+TEST(Diff, PrintsOneLineForEachDifferenceOfTwoProjects)
 {
     const Folder folder;
     const std::string one = make(folder, "new", {"Plastic Example 1", "Air"}, "a.vxmat");
@@ -80,7 +80,7 @@ TEST(Diff, PrintsALinePerDifferenceOfTwoProjects)
     }
 }
 
-TEST(Diff, TellsMinusZeroFromZeroAndTakesWhatIsNoNumberForEqual)
+TEST(Diff, DistinguishesMinusZeroFromZeroButNotNanFromNan)
 {
     const Folder folder;
     const std::string zero = make(folder, "new", {"Plastic Example 2"}, "a.vxmat");
@@ -94,7 +94,7 @@ TEST(Diff, TellsMinusZeroFromZeroAndTakesWhatIsNoNumberForEqual)
     EXPECT_EQ(vxmat({"diff", none, none}).status, 0);
 }
 
-TEST(Diff, NamesMaterialsAndPropertiesThatAreInOneFileAlone)
+TEST(Diff, NamesMaterialsAndPropertiesThatOnlyOneFileHas)
 {
     const Folder folder;
     const std::string one = make(folder, "new", {"Structural Steel=Steel", "Air"}, "a.vxmat");
@@ -129,7 +129,7 @@ TEST(Diff, PairsMaterialsOfTheSameLabelByNumberThenInOrder)
                                                    other + "\n");
 }
 
-TEST(Diff, LeavesOutWhatADocumentCannotCarryAndSaysSoOnce)
+TEST(Diff, IgnoresDataThatDocumentsCannotCarryAndNotesItOnce)
 {
     const Folder folder;
     const std::string project = make(folder, "new", {"Plastic Example 1", "Acoustic Material 1", "Air"}, "a.vxmat");
@@ -139,16 +139,16 @@ TEST(Diff, LeavesOutWhatADocumentCannotCarryAndSaysSoOnce)
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(run.err, "vxmat: note: " + document +
-                               " is an exchange document, which carries of a property only its key, name and number: "
-                               "words, lists, units, descriptions and categories are not compared, nor colours, "
-                               "what is suppressed and other objects\n");
+                               " is an exchange document, which carries only the key, name and number of a property: "
+                               "words, lists, units, descriptions, categories, colours, suppression and other objects "
+                               "are not compared\n");
     }
     const Outcome run = vxmat({"diff", changed(folder, project, "\"value\": 1.225", "\"value\": 1.2"), document});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "Air: Density (4): value: 1.2 -> 1.225\n");
 }
 
-TEST(Diff, ComesAsJson)
+TEST(Diff, PrintsDifferencesAsJson)
 {
     const Folder folder;
     const std::string one = make(folder, "new", {"Air", "Water"}, "a.vxmat");
@@ -187,7 +187,7 @@ TEST(Diff, RefusesAnAnalysis)
     EXPECT_THAT(run.err, HasSubstr("an analysis document holds no materials"));
 }
 
-TEST(Diff, ComparesManyMaterialsOfOneLabelInNoTime)
+TEST(Diff, ComparesAHundredThousandMaterialsWithTheSameLabel)
 {
     std::string text = R"({"proj_type": 2, "material": [)";
     constexpr int count = 100000;

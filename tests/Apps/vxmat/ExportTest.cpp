@@ -41,7 +41,7 @@ TEST(Export, NumbersMaterialsFromOne)
     EXPECT_EQ(numbersAndNames(vxtest::readText(folder.path("out.json"))), (Materials{{1, "Air"}, {2, "Water"}}));
 }
 
-TEST(Export, TakesNumbersAndPassesOverThoseTaken)
+TEST(Export, UsesGivenNumbersAndSkipsThemForOtherMaterials)
 {
     const Outcome run = vxmat({"export", "Air", "Water=1", "Concrete", "Cast Iron=4294967295", "Air=0", "-o", "-"});
     EXPECT_EQ(run.status, 0);
@@ -49,14 +49,14 @@ TEST(Export, TakesNumbersAndPassesOverThoseTaken)
               (Materials{{0, "Air"}, {1, "Water"}, {2, "Air"}, {3, "Concrete"}, {4294967295U, "Cast Iron"}}));
 }
 
-TEST(Export, WritesWhatTheStyledWriterWrites)
+TEST(Export, WritesTheFormatOfTheStyledWriter)
 {
     const std::string text = vxmat({"export", "Air", "Acoustic Material 2=9", "-o", "-"}).out;
     EXPECT_EQ(text, vxjson::toStyledText(vxjson::readJsonText(text).document));
     EXPECT_EQ(text.substr(0, 49), "{\n   \"material\" : [\n      {\n         \"Props\" : [\n");
 }
 
-TEST(Export, RefusesNumbersThatAreNoneOrGivenTwice)
+TEST(Export, RefusesInvalidAndRepeatedNumbers)
 {
     for (const char* const argument : {"Air=x", "Air=", "Air=-1", "Air=4294967296", "Air=1.5", "Air= 1"}) {
         const Outcome run = vxmat({"export", argument, "-o", "-"});
@@ -78,7 +78,7 @@ TEST(Export, WritesNothingForAnUnknownName)
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST(Export, NotesTheWordsAndListsThatStayBehind)
+TEST(Export, NotesTheWordsAndListsThatAreLost)
 {
     const Outcome run = vxmat({"export", "Plastic Example 1", "-o", "-"});
     EXPECT_EQ(run.status, 0);
@@ -87,12 +87,11 @@ TEST(Export, NotesTheWordsAndListsThatStayBehind)
               "\"Hardening type\", \"Yield stress\", \"Plastic strain\"\n");
 }
 
-TEST(Export, KeepsTheOldFileWhenItCannotWrite)
+TEST(Export, KeepsTheOldFileIfWritingFails)
 {
     const Folder folder;
     const std::string file = folder.file("old.json", "old");
-    // A folder that refuses new files also refuses root when the file system is full: a file size limit of
-    // one block is a full disk for this process.
+    // Root may write to every folder, so a limit of one block for the size of files simulates a full disk.
     const Outcome run =
         shell("ulimit -f 1; trap '' XFSZ; \"$VXMAT\" export 'Structural Steel' Air Water Concrete -o '" + file + "'");
     EXPECT_EQ(run.status, 2);
@@ -101,7 +100,7 @@ TEST(Export, KeepsTheOldFileWhenItCannotWrite)
     EXPECT_THAT(folder.names(), ElementsAre("old.json"));
 }
 
-TEST(Export, SaysWhyAFileCannotBeWritten)
+TEST(Export, ReportsWhyAFileCannotBeWritten)
 {
     const Folder folder;
     const Outcome missing = vxmat({"export", "Air", "-o", folder.path("no/such/folder.json")});
@@ -115,7 +114,7 @@ TEST(Export, SaysWhyAFileCannotBeWritten)
     EXPECT_THAT(full.err, HasSubstr("vxmat: /dev/full: No space left on device"));
 }
 
-TEST(Export, WritesTheMaterialsOfAProjectUnderTheirNumbersAndLabels)
+TEST(Export, WritesTheMaterialsOfAProjectWithTheirNumbersAndLabels)
 {
     const Folder folder;
     const std::string document = folder.path("d.json");
@@ -125,7 +124,7 @@ TEST(Export, WritesTheMaterialsOfAProjectUnderTheirNumbersAndLabels)
     const Outcome again = vxmat({"export", project, "-o", "-"});
     EXPECT_EQ(again.status, 0);
     EXPECT_EQ(numbersAndNames(again.out), (Materials{{3, "Water"}, {7, "Air"}}));
-    // The order of the properties says nothing, so that the texts may differ.
+    // The texts may differ in the order of the properties, which has no meaning.
     EXPECT_EQ(vxmat({"diff", "-", document}, again.out).status, 0);
     EXPECT_EQ(vxmat({"export", "-", "-o", "-"}, vxtest::readText(project)).out, again.out);
 
@@ -137,7 +136,7 @@ TEST(Export, WritesTheMaterialsOfAProjectUnderTheirNumbersAndLabels)
               "vxmat: " + project + ": Wind: another material has this number already\n");
 }
 
-TEST(Export, NotesTheWordsAndListsOfAProjectThatStayBehind)
+TEST(Export, NotesTheWordsAndListsOfAProjectThatAreLost)
 {
     const Folder folder;
     const std::string project = folder.path("p.vxmat");
@@ -147,7 +146,7 @@ TEST(Export, NotesTheWordsAndListsOfAProjectThatStayBehind)
     EXPECT_EQ(run.err, "vxmat: note: Clay: exchange documents carry no words and lists; lost: \"Yield type\"\n");
 }
 
-TEST(Export, TakesANameOfTheLibraryBeforeAFileOfThatName)
+TEST(Export, PrefersALibraryMaterialToAFileWithTheSameName)
 {
     const Folder folder;
     ASSERT_EQ(vxmat({"new", "Water", "-o", folder.path("Air")}).status, 0);
@@ -157,7 +156,7 @@ TEST(Export, TakesANameOfTheLibraryBeforeAFileOfThatName)
     EXPECT_EQ(numbersAndNames(file.out), (Materials{{1, "Water"}}));
 }
 
-TEST(Export, TakesAProjectWithAnEqualsSignInItsName)
+TEST(Export, AcceptsAProjectWithAnEqualsSignInItsName)
 {
     const Folder folder;
     const std::string project = folder.path("a=b=1.vxmat");
@@ -165,14 +164,14 @@ TEST(Export, TakesAProjectWithAnEqualsSignInItsName)
     EXPECT_EQ(numbersAndNames(vxmat({"export", project, "-o", "-"}).out), (Materials{{1, "Air"}}));
 }
 
-TEST(Export, RefusesFilesThatAreNoProjects)
+TEST(Export, RefusesFilesThatAreNotProjects)
 {
     const Folder folder;
     const std::string document = folder.path("d.json");
     ASSERT_EQ(vxmat({"export", "Air", "-o", document}).status, 0);
     const Outcome run = vxmat({"export", document, "-o", folder.path("e.json")});
     EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.err, "vxmat: " + document + ": not a project file; its materials are in a document already\n");
+    EXPECT_EQ(run.err, "vxmat: " + document + ": not a project file; give library materials or project files\n");
     EXPECT_THAT(vxmat({"export", "./missing", "-o", "-"}).err, HasSubstr("vxmat: ./missing: No such file"));
     EXPECT_THAT(vxmat({"export", "missing", "-o", "-"}).err, HasSubstr("There is no file of that name either."));
     EXPECT_THAT(folder.names(), ElementsAre("d.json"));
@@ -186,11 +185,11 @@ TEST(Export, DoesNotWriteOverTheProjectThatItReads)
     const std::string before = vxtest::readText(project);
     const Outcome run = vxmat({"export", project, "-o", project});
     EXPECT_EQ(run.status, 2);
-    EXPECT_THAT(run.err, HasSubstr("this file is read here and would be lost"));
+    EXPECT_THAT(run.err, HasSubstr("this file is an input too and would be overwritten"));
     EXPECT_EQ(vxtest::readText(project), before);
 }
 
-TEST(Export, RefusesValuesThatNoReaderWouldTake)
+TEST(Export, RefusesValuesThatReadersRefuse)
 {
     const auto projectOf = [](const std::string& property) {
         return R"({"format": "vxMaterial project", "format_version": 1, "name": "p", "next_object_id": 2, "materials":

@@ -15,7 +15,7 @@ using vxtest::Outcome;
 using vxtest::shell;
 using vxtest::vxmat;
 
-/// A sound project file, one thing changed.
+/// Returns the text of a valid project file with the first `what` replaced.
 std::string projectWith(const std::string& what, const std::string& into)
 {
     std::string text = vxmat({"new", "Air", "-o", "-"}).out;
@@ -24,7 +24,7 @@ std::string projectWith(const std::string& what, const std::string& into)
     return at == std::string::npos ? text : text.replace(at, what.size(), into);
 }
 
-TEST(Files, SayWhatIsWrongWithWhatCannotBeRead)
+TEST(Files, AreRefusedWithTheReasonIfTheyAreInvalid)
 {
     const Folder folder;
     const std::string sound = folder.file("sound.vxmat", projectWith("", ""));
@@ -44,9 +44,9 @@ TEST(Files, SayWhatIsWrongWithWhatCannotBeRead)
         {folder.file("image.json", std::string("\x89PNG\r\n\x1a\n\0\0", 10)),
          "line 1, column 1: the text is not UTF-8"},
         {folder.file("foreign.json", R"({"name": "package", "version": "1.0.0", "dependencies": {}})"),
-         "neither an exchange document nor a project file: it has none of their members"},
+         "neither an exchange document nor a project file: it has no member of either format"},
         {folder.file("foreign.vxmat", R"({"format": "another program", "format_version": 1})"),
-         "neither an exchange document nor a project file: it has none of their members"},
+         "neither an exchange document nor a project file: it has no member of either format"},
         {folder.file("cut.vxmat", project.substr(0, project.size() / 2)), "line "},
         {folder.file("later.vxmat", projectWith("\"format_version\": 1", "\"format_version\": 2")), "later version"},
         {folder.file("latin.vxmat", projectWith("\"label\": \"Air\"", "\"label\": \"L\xfc"
@@ -75,15 +75,15 @@ TEST(Files, SayWhatIsWrongWithWhatCannotBeRead)
     for (const auto& [file, reason] : cases) {
         for (std::vector<std::string> command : commands) {
             if (file.empty() && (command[0] == "cards" || command[0] == "show" || command[0] == "export"))
-                continue; // an empty name of a material
+                continue; // these treat an empty argument as a material
             std::replace(command.begin(), command.end(), std::string("FILE"), file);
             const Outcome run = vxmat(command);
             EXPECT_EQ(run.status, 2) << command[0] << " " << file;
             EXPECT_EQ(run.out, "");
             EXPECT_THAT(run.err, StartsWith("vxmat: " + (file.empty() ? "" : file + ": "))) << command[0];
-            // These want no project, whatever is wrong with it.
-            const bool wantsNone = command[0] == "import" || (command[0] == "query" && command.size() == 2);
-            if (!wantsNone || file.find(".vxmat") == std::string::npos) {
+            // These subcommands refuse every project, whether it is valid or not.
+            const bool refusesProjects = command[0] == "import" || (command[0] == "query" && command.size() == 2);
+            if (!refusesProjects || file.find(".vxmat") == std::string::npos) {
                 EXPECT_THAT(run.err, HasSubstr(reason)) << command[0];
             }
         }
@@ -91,9 +91,9 @@ TEST(Files, SayWhatIsWrongWithWhatCannotBeRead)
     EXPECT_THAT(folder.names(), testing::Not(testing::Contains("out")));
 }
 
-TEST(Files, SayThatAFileIsNotReadable)
+TEST(Files, AreRefusedIfTheyAreNotReadable)
 {
-    // The superuser may read everything, unless that power is taken from the program.
+    // Root may read every file unless the program runs without that capability.
     const Folder folder;
     const std::string file = folder.file("secret.json", "{}");
     const Outcome run = shell("chmod 000 '" + file + "'; drop=; if [ -r '" + file +
@@ -104,19 +104,19 @@ TEST(Files, SayThatAFileIsNotReadable)
     EXPECT_THAT(run.err, HasSubstr("Permission denied"));
 }
 
-TEST(Files, AreProjectsByWhatTheySayHoweverTheySayIt)
+TEST(Files, AreProjectsAlsoIfTheFormatMemberIsWrittenWithEscapes)
 {
     EXPECT_EQ(vxmat({"cards", "-"}, projectWith("\"format\"", "\"\\u0066ormat\"")).out,
               vxmat({"cards", "-"}, projectWith("", "")).out);
 }
 
-TEST(Files, ReadStandardInput)
+TEST(Files, MayBeStandardInput)
 {
     EXPECT_EQ(vxmat({"check", "-"}, R"({"proj_type": 2})").status, 0);
     EXPECT_THAT(vxmat({"check", "-"}, "").err, HasSubstr("the file is empty"));
 }
 
-TEST(Files, TakeNamesWithBlanksQuotesAndChinese)
+TEST(Files, MayHaveNamesWithBlanksQuotesAndChinese)
 {
     const Folder folder;
     const std::string file = folder.path("\xe6\x9d\x90 'x\" \xc3\xa9.json");
@@ -124,7 +124,7 @@ TEST(Files, TakeNamesWithBlanksQuotesAndChinese)
     EXPECT_EQ(vxmat({"check", file}).status, 0);
 }
 
-TEST(Files, TakeANameThatBeginsWithAColon)
+TEST(Files, MayHaveANameThatBeginsWithAColon)
 {
     const Folder folder;
     const Outcome run =
@@ -134,7 +134,7 @@ TEST(Files, TakeANameThatBeginsWithAColon)
     EXPECT_THAT(folder.names(), testing::ElementsAre(":air.json"));
 }
 
-TEST(Files, RefuseANameThatIsNotUtf8RatherThanUseAnother)
+TEST(Files, AreRefusedIfTheirNameIsNotUtf8)
 {
     const Folder folder;
     const Outcome run = shell("cd '" + folder.path("") + "' && \"$VXMAT\" export Air -o \"$(printf 'bad\\377.json')\"");
@@ -155,7 +155,7 @@ TEST(Files, KeepPermissionsAndTheTargetOfALink)
     EXPECT_THAT(vxtest::readText(folder.path("target.json")), HasSubstr("\"Air\""));
 }
 
-TEST(Files, WriteIntoWhatIsOpenAlreadyWithoutDeletingItsContent)
+TEST(Files, KeepTheirContentIfTheyAreOpenAlready)
 {
     const Folder folder;
     for (const char* const output : {"-", "/dev/stdout", "/dev/fd/1", "/proc/self/fd/1"}) {
@@ -169,7 +169,7 @@ TEST(Files, WriteIntoWhatIsOpenAlreadyWithoutDeletingItsContent)
     }
 }
 
-TEST(Files, WriteIntoAPipe)
+TEST(Files, MayBePipes)
 {
     const Folder folder;
     const Outcome run =

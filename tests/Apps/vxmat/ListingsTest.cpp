@@ -37,7 +37,7 @@ TEST(Library, ListsTheMaterialsWithGroupAndCount)
         EXPECT_NE(line.back(), ' ') << line;
 }
 
-TEST(Library, ListsThemAsJsonWithTheirNumbers)
+TEST(Library, ListsTheMaterialsAsJsonWithTheirNumbers)
 {
     const Json::Value materials = vxmatJson({"library", "--json"})["materials"];
     ASSERT_EQ(materials.size(), 26U);
@@ -100,7 +100,7 @@ TEST(Show, PrintsATableOfOneMaterial)
                                ContainsRegex("\nDensity +7850 +kg/m3  Mass density\n")));
 }
 
-TEST(Show, TakesANameInAnyCase)
+TEST(Show, IgnoresTheCaseOfTheName)
 {
     EXPECT_EQ(vxmat({"show", "STRUCTURAL steel"}).out, vxmat({"show", "Structural Steel"}).out);
 }
@@ -136,12 +136,12 @@ TEST(Show, PrintsNumbersWordsAndListsAsJson)
     EXPECT_EQ(properties[1]["value"].asDouble(), 1.7976931348623157e308);
 }
 
-TEST(Show, NotesAPropertyThatIsKeptUnderAnotherKey)
+TEST(Show, NotesAPropertyThatIsHeldAsAnotherQuantity)
 {
     const Outcome run = vxmat({"show", "acoustic material 2"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err,
-              "vxmat: note: Acoustic Material 2 keeps its \"Speed of sound\" as a property named \"Density\"\n");
+              "vxmat: note: Acoustic Material 2 holds its \"Speed of sound\" as a property named \"Density\"\n");
 }
 
 TEST(Show, PrintsTheMaterialsOfAProject)

@@ -78,7 +78,7 @@ TEST(New, KeepsEveryFieldOfTheLibrary)
     }
 }
 
-TEST(New, RefusesNamesAndLabelsThatAreNone)
+TEST(New, RefusesUnknownNamesAndInvalidLabels)
 {
     const Folder folder;
     const std::string file = folder.path("x.vxmat");
@@ -101,7 +101,7 @@ TEST(New, RefusesNamesAndLabelsThatAreNone)
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST(New, WritesWholeOrNotAtAll)
+TEST(New, LeavesTheOldFileUnchangedIfWritingFails)
 {
     const Folder folder;
     const std::string file = folder.file("old.vxmat", "old");
@@ -115,7 +115,7 @@ TEST(New, WritesWholeOrNotAtAll)
     EXPECT_THAT(folder.names(), ElementsAre("old.vxmat"));
 }
 
-TEST(New, LeavesAFileAloneThatAnotherProgramHasOpen)
+TEST(New, DoesNotWriteToAFileThatAnotherProgramHasOpen)
 {
     const Folder folder;
     const std::string file = folder.path("open.vxmat");
@@ -133,7 +133,7 @@ TEST(New, LeavesAFileAloneThatAnotherProgramHasOpen)
     EXPECT_NE(vxtest::readText(file), before);
 }
 
-TEST(Import, RestoresWhatDidNotTravelAndNamesWhatCannotBe)
+TEST(Import, RestoresDataFromTheCatalogueAndReportsUnknownData)
 {
     const Folder folder;
     const std::string document = folder.path("d.json");
@@ -153,7 +153,7 @@ TEST(Import, RestoresWhatDidNotTravelAndNamesWhatCannotBe)
     EXPECT_THAT(folder.names(), ElementsAre("d.json", "parts.vxmat"));
 }
 
-TEST(Import, IsSilentWhereEverythingIsKnown)
+TEST(Import, PrintsNothingIfTheCatalogueHasAllData)
 {
     const Folder folder;
     const std::string document = folder.path("d.json");
@@ -166,7 +166,7 @@ TEST(Import, IsSilentWhereEverythingIsKnown)
     EXPECT_EQ(vxmat({"diff", folder.path("p.vxmat"), folder.path("n.vxmat")}).out, "");
 }
 
-TEST(Import, PrintsADoubtALineWhateverNamesHold)
+TEST(Import, PrintsEachDoubtOnOneLine)
 {
     const Outcome run = vxmat({"import", "-", "-o", "-"}, R"({"proj_type": 2, "material": [{"mat_id": 1,
         "mat_name": "x\ny", "Props": [{"prop_type": 38, "prop_value": 0}, {"prop_type": 77, "prop_value": 0}]}]})");
@@ -176,7 +176,7 @@ TEST(Import, PrintsADoubtALineWhateverNamesHold)
     EXPECT_EQ(projectfile::readProject(run.out).name, "Materials");
 }
 
-TEST(Import, WritesNoTextThatIsNone)
+TEST(Import, RefusesATextWithHalfOfASurrogatePair)
 {
     const Folder folder;
     const std::string file = folder.path("p.vxmat");
@@ -188,14 +188,14 @@ TEST(Import, WritesNoTextThatIsNone)
     EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST(Import, DoubtsMembersThatAreThereTwice)
+TEST(Import, ReportsRepeatedMembers)
 {
     const Outcome run = vxmat({"import", dataPath("documents/14-repeated-members.json"), "-o", "-"});
     EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.err, HasSubstr("14-repeated-members.json: $.material[0].mat_name: is there more than once"));
+    EXPECT_THAT(run.err, HasSubstr("14-repeated-members.json: $.material[0].mat_name: occurs more than once"));
 }
 
-TEST(Import, RefusesWhatIsNoMaterialDocument)
+TEST(Import, RefusesFilesThatAreNotMaterialDocuments)
 {
     const Folder folder;
     const std::string project = folder.path("p.vxmat");
@@ -223,7 +223,8 @@ TEST(Import, DoesNotWriteOverTheDocumentThatItReads)
     const Outcome run =
         shell("cd '" + folder.path("") + "' && ln -s d.json link.vxmat && \"$VXMAT\" import d.json -o link.vxmat");
     EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.err, "vxmat: link.vxmat: this file is read here and would be lost; give another one to write\n");
+    EXPECT_EQ(run.err,
+              "vxmat: link.vxmat: this file is an input too and would be overwritten; give another output file\n");
     EXPECT_EQ(vxtest::readText(file), before);
 }
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-/// What the subcommands do with a project that has objects of other classes than materials.
+/// The subcommands and projects with objects of other classes than materials.
 namespace {
 
 using testing::AllOf;
@@ -23,7 +23,7 @@ std::string mixed()
     return dataPath("projects/02-mixed.vxmat");
 }
 
-/// The mixed project with one thing changed.
+/// Writes a copy of the mixed project with the first `what` replaced, and returns its path.
 std::string changed(const Folder& folder, const std::string& what, const std::string& into)
 {
     std::string text = vxtest::readText(mixed());
@@ -60,7 +60,7 @@ TEST(OtherObjects, AreListedAsJson)
     EXPECT_EQ(vxmatJson({"show", dataPath("projects/01-materials.vxmat"), "--json"})["objects"].size(), 0U);
 }
 
-TEST(OtherObjects, AreListedOfAProjectWithoutMaterials)
+TEST(OtherObjects, AreListedForAProjectWithoutMaterials)
 {
     const Outcome run = vxmat({"show", dataPath("projects/03-other-class.vxmat")});
     EXPECT_EQ(run.status, 0);
@@ -115,7 +115,7 @@ TEST(OtherObjects, AreNotComparedWithADocument)
     const Outcome run = vxmat({"diff", mixed(), document});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "");
-    EXPECT_THAT(run.err, HasSubstr("what is suppressed and other objects"));
+    EXPECT_THAT(run.err, HasSubstr("suppression and other objects are not compared"));
 }
 
 TEST(OtherObjects, AreLeftOutOfAnExportWithANote)
@@ -127,7 +127,7 @@ TEST(OtherObjects, AreLeftOutOfAnExportWithANote)
     EXPECT_THAT(run.out, AllOf(HasSubstr("\"Steel\""), HasSubstr("\"Air\""), testing::Not(HasSubstr("Probe"))));
 }
 
-TEST(OtherObjects, DoNotKeepCardsAndAnalysesFromTheMaterials)
+TEST(OtherObjects, DoNotPreventTheUseOfTheMaterials)
 {
     const Outcome cards = vxmat({"cards", mixed()});
     EXPECT_EQ(cards.status, 0);

@@ -19,7 +19,7 @@ using vxtest::Folder;
 using vxtest::Outcome;
 using vxtest::vxmat;
 
-/// The text of a project with one material of these properties.
+/// Returns the text of a project with one material that has these properties.
 std::string projectOf(std::vector<std::unique_ptr<vxMat::MaterialProperty>> properties)
 {
     auto material = std::make_unique<vxMat::CMaterial>("M");
@@ -43,13 +43,13 @@ std::string projectOf(std::unique_ptr<vxMat::MaterialProperty> property)
     return projectOf(std::move(properties));
 }
 
-/// What checking a project prints.
+/// Checks the text of a project.
 Outcome check(const std::string& project)
 {
     return vxmat({"check", "-"}, project);
 }
 
-TEST(CheckOfAProject, FindsNothingWrongWithTheLibrary)
+TEST(CheckOfAProject, FindsNoErrorsInTheLibrary)
 {
     std::vector<std::string> arguments{"new", "-o", "-"};
     for (const auto& entry : vxMat::libraryEntries())
@@ -116,7 +116,7 @@ TEST(CheckOfAProject, FindsCombinationsThatExcludeEachOther)
               "-: $.materials[0].material.properties: Elasticity and hyper-elasticy cannot be used togeter!\n");
 }
 
-TEST(CheckOfAProject, FindsYieldStressesAndPlasticStrainsOfUnequalNumber)
+TEST(CheckOfAProject, FindsUnequalNumbersOfYieldStressesAndPlasticStrains)
 {
     std::vector<std::unique_ptr<vxMat::MaterialProperty>> properties;
     properties.push_back(std::make_unique<vxMat::PlasticYieldStress>(std::vector<double>{450.0, 608.0, 679.0}));
@@ -124,11 +124,11 @@ TEST(CheckOfAProject, FindsYieldStressesAndPlasticStrainsOfUnequalNumber)
     const Outcome run = check(projectOf(std::move(properties)));
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out,
-              "-: $.materials[0].material.properties: has 3 yield stresses and 2 plastic strains; both must be "
-              "of equal number\n");
+              "-: $.materials[0].material.properties: has 3 yield stresses and 2 plastic strains; both lists must have "
+              "the same length\n");
 }
 
-TEST(CheckOfAProject, JudgesAPropertyByWhatItIsHeldAsToo)
+TEST(CheckOfAProject, ChecksAPropertyAlsoAsTheQuantityUnderWhichItIsHeld)
 {
     auto material = std::make_unique<vxMat::CMaterial>("M");
     material->setProperty(6, std::make_unique<vxMat::Density>(7850.0));
@@ -143,9 +143,9 @@ TEST(CheckOfAProject, JudgesAPropertyByWhatItIsHeldAsToo)
                                    "as 6 \"Poisson's ratio\""));
 }
 
-TEST(CheckOfAProject, NamesValuesByTheirPlacesInTheFile)
+TEST(CheckOfAProject, NamesThePlaceOfAValueInTheFile)
 {
-    // Neither the materials nor the properties are in order here.
+    // Neither the materials nor the properties are sorted here.
     const Outcome run = check(R"({"format": "vxMaterial project", "format_version": 1, "name": "p",
         "next_object_id": 9, "materials": [
         {"object_id": 8, "class": "Mat::MaterialObject", "name_internal": "b", "label": "b", "material": {"properties": [
@@ -156,7 +156,7 @@ TEST(CheckOfAProject, NamesValuesByTheirPlacesInTheFile)
                        "-: $.materials[1].material.properties[0].value: is -2: Mass density must be positive!\n");
 }
 
-TEST(CheckOfAProject, ReportsWhatTheReaderDoubts)
+TEST(CheckOfAProject, ReportsTheDoubtsOfTheReader)
 {
     std::string text = vxmat({"new", "Air", "-o", "-"}).out;
     const std::string label = "\"label\": \"Air\"";
@@ -177,7 +177,7 @@ TEST(CheckOfAProject, NotesMaterialsWithoutProperties)
     EXPECT_EQ(run.err, "vxmat: -: note: $.materials[0].material: has no properties\n");
 }
 
-TEST(CheckOfAProject, ComesAsJson)
+TEST(CheckOfAProject, PrintsFindingsAsJson)
 {
     const Outcome run = vxmat({"check", "-", "--json"}, projectOf(std::make_unique<vxMat::Density>(0.0)));
     EXPECT_EQ(run.status, 1);

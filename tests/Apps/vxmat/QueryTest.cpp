@@ -19,7 +19,7 @@ std::string analysisFile()
     return dataPath("documents/03-analysis.json");
 }
 
-TEST(Query, PrintsWhatTheSolverSideAsks)
+TEST(Query, PrintsThePropertiesThatTheSolverAsksFor)
 {
     const Outcome run = vxmat({"query", analysisFile(), "--project", "3"});
     EXPECT_EQ(run.status, 0);
@@ -39,7 +39,7 @@ TEST(Query, PrintsWhatTheSolverSideAsks)
     EXPECT_THAT(run.err, HasSubstr("--materials FILE"));
 }
 
-TEST(Query, TakesTheModelsOfTheMaterialsIntoAccount)
+TEST(Query, UsesTheModelsOfTheMaterials)
 {
     const Folder folder;
     const std::string materials = folder.path("materials.json");
@@ -58,7 +58,7 @@ TEST(Query, TakesTheModelsOfTheMaterialsIntoAccount)
     EXPECT_EQ(reading.document["load_steps"][1]["absolute_tolerance"], 1e-6);
 }
 
-TEST(Query, SaysThatAMaterialIsMissing)
+TEST(Query, ReportsAMissingMaterial)
 {
     const Folder folder;
     const std::string materials = folder.path("materials.json");
@@ -68,7 +68,7 @@ TEST(Query, SaysThatAMaterialIsMissing)
     EXPECT_THAT(run.err, HasSubstr("has no material 9, which domain 5 refers to"));
 }
 
-TEST(Query, TakesTheNumberOfTheProjectInDecimalDigitsAlone)
+TEST(Query, AcceptsOnlyDecimalDigitsAsProjectNumber)
 {
     EXPECT_THAT(vxmat({"query", analysisFile(), "--project", "010"}).out, HasSubstr(" p10o12\n"));
     for (const char* const number : {"0x10", "+5", " 5", "-1", "4294967296", ""}) {
@@ -78,7 +78,7 @@ TEST(Query, TakesTheNumberOfTheProjectInDecimalDigitsAlone)
     }
 }
 
-TEST(Query, RefusesMaterialsThatAreNone)
+TEST(Query, RefusesAFileWithoutMaterials)
 {
     EXPECT_THAT(vxmat({"query", analysisFile(), "--materials", analysisFile()}).err,
                 HasSubstr("an analysis document holds no materials"));
@@ -101,7 +101,7 @@ TEST(Query, RefusesADocumentThatCannotBeConverted)
     EXPECT_THAT(run.err, HasSubstr("\"n_load_steps\" is 4294967295"));
 }
 
-TEST(Query, TakesTheModelsOfTheMaterialsOfAProject)
+TEST(Query, UsesTheModelsOfTheMaterialsOfAProject)
 {
     const Folder folder;
     const std::string document = folder.path("d.json");

@@ -79,7 +79,7 @@ TEST(Schema, FitsEveryImport)
     EXPECT_EQ(faultsBySchema(projects, files), "");
 }
 
-/// Writes an exchange set to a file.
+/// Writes an exchange set to a file and returns its path.
 std::string writeSet(const Folder& folder, const std::string& name, const vxCAE::CAESet& set)
 {
     Json::Value document;
@@ -107,7 +107,7 @@ TEST(Schema, FitsTheAnalysesThatTheWriterMakes)
     EXPECT_EQ(faultsBySchema(documents, files), "");
 }
 
-TEST(Schema, FitsProjectsWithAllThatTheFormatCanHold)
+TEST(Schema, FitsAProjectWithEveryMember)
 {
     using limits = std::numeric_limits<double>;
     vxMat::MaterialBase material;
@@ -143,7 +143,7 @@ TEST(Schema, FitsProjectsWithAllThatTheFormatCanHold)
               "");
 }
 
-/// `text` with the first `what` replaced, which must be there.
+/// Returns `text` with the first `what` replaced. The test fails if there is none.
 std::string changed(std::string text, const std::string& what, const std::string& into)
 {
     const std::size_t at = text.find(what);
@@ -151,7 +151,7 @@ std::string changed(std::string text, const std::string& what, const std::string
     return at == std::string::npos ? text : text.replace(at, what.size(), into);
 }
 
-TEST(Schema, RefusesProjectsThatAreWrong)
+TEST(Schema, RefusesInvalidProjects)
 {
     const Folder folder;
     const std::string sound = vxmat({"new", "Plastic Example 1", "-o", "-"}).out;
@@ -184,7 +184,7 @@ TEST(Schema, RefusesProjectsThatAreWrong)
         << "what is not known is kept";
 }
 
-TEST(Schema, RefusesDocumentsThatAreWrong)
+TEST(Schema, RefusesInvalidDocuments)
 {
     for (const char* const name :
          {"10-wrong-kinds", "11-out-of-range", "14-repeated-members", "18-unknown-project-type",
@@ -212,7 +212,7 @@ TEST(Schema, RefusesDocumentsThatAreWrong)
             << what << " into " << into;
 }
 
-/// A sound project of the corpus, "02-mixed".
+/// Returns the text of the valid project "02-mixed" of the corpus.
 std::string projectFile(const std::string& name)
 {
     return dataPath("projects/" + name + ".vxmat");
@@ -232,7 +232,7 @@ TEST(Schema, FitsProjectsWithObjectsOfOtherClasses)
     EXPECT_EQ(faultsBySchema(projects, files), "");
 }
 
-TEST(Schema, RefusesObjectsOfOtherClassesThatAreWrong)
+TEST(Schema, RefusesInvalidObjectsOfOtherClasses)
 {
     const Folder folder;
     const std::string sound = vxtest::readText(projectFile("02-mixed"));

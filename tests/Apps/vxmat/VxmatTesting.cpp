@@ -13,7 +13,7 @@ namespace vxtest {
 
 namespace {
 
-/// The longest time to wait for a program, in milliseconds. Only a test that fails takes that long.
+/// The longest time to wait for a program, in milliseconds. Only a failing test takes this long.
 constexpr int patience = 120000;
 
 Outcome run(const QString& program, const QStringList& arguments, const std::string& input)

@@ -8,7 +8,7 @@
 
 namespace vxtest {
 
-/// How a run of the program ended, and what it printed.
+/// The exit status and the output of a run of the program.
 struct Outcome
 {
     int status = -1;
@@ -22,10 +22,11 @@ Outcome vxmat(const std::vector<std::string>& arguments, const std::string& inpu
 /// Runs a shell command line in which "$VXMAT" is the program.
 Outcome shell(const std::string& command);
 
-/// The standard output as JSON, of a run that must end with status 0 and print no errors.
+/// Runs vxmat and returns its standard output as JSON. The test fails if the status is not 0 or standard error is not
+/// empty.
 Json::Value vxmatJson(const std::vector<std::string>& arguments);
 
-/// A folder that is removed with its files when the test ends.
+/// A temporary folder. The destructor removes it with its files.
 class Folder
 {
 public:

@@ -18,7 +18,7 @@ namespace {
 
 const std::function<void()>* beforeReading = nullptr;
 
-/// What the environment wants to happen at the calls.
+/// The settings from the environment variables.
 struct Plan
 {
     Plan()
@@ -39,7 +39,7 @@ std::string fileName(const std::string& path)
     return path.substr(path.rfind('/') + 1);
 }
 
-/// Another call that changes files; `path` of the file if the call has one.
+/// Counts a call that changes files. `path` is the path of the file, or null if the call has none.
 void step(const char* name, const char* path = nullptr)
 {
     static const Plan plan;
@@ -57,7 +57,7 @@ bool isFile(int descriptor)
     return fstat(descriptor, &status) == 0 && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
 }
 
-/// Does what is to be done before reading; it may read itself.
+/// Runs the action of BeforeReading, which may read files itself.
 void announceReading()
 {
     if (const auto* const action = std::exchange(beforeReading, nullptr)) {
@@ -66,15 +66,15 @@ void announceReading()
     }
 }
 
-/// The function of this name that this file stands in front of.
+/// Returns the function with this name that the function in this file replaces.
 template <class Function>
 Function* following(const char* name)
 {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-/// Opens a file by one of the functions for that. `folder` is there if the function has one, the mode if the flags ask
-/// for it.
+/// Opens a file with the function `name`. `folder` is the folder if the function has this parameter. `rest` contains
+/// the mode if the flags need it.
 template <class... Folder>
 int openFile(const char* name, va_list rest, const char* path, int flags, Folder... folder)
 {
@@ -101,7 +101,7 @@ BeforeReading::~BeforeReading()
 
 #define VX_IN_FRONT extern "C" __attribute__((visibility("default")))
 
-// Functions with a path: each call counts.
+// Functions with a path. Every call counts.
 #define VX_COUNT(name, parameters, arguments)                                                                          \
     VX_IN_FRONT int name parameters noexcept                                                                           \
     {                                                                                                                  \
@@ -109,7 +109,7 @@ BeforeReading::~BeforeReading()
         return vxtest::following<int parameters>(#name) arguments;                                                     \
     }
 
-// Functions with an open file, which may be a pipe or a socket too.
+// Functions with an open file. Calls for pipes and sockets do not count.
 #define VX_COUNT_FILE(name, parameters, arguments, specifier)                                                          \
     VX_IN_FRONT int name parameters specifier                                                                          \
     {                                                                                                                  \

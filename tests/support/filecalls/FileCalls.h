@@ -4,15 +4,16 @@
 
 namespace vxtest {
 
-// A program that links this file has its own versions of the operating system's functions that change files, in front of
-// the C library's. They count the calls, those of all its libraries included, and can kill the program in one of them:
+// In a program that links this file, the functions that change files replace the functions of the C library. They count
+// the calls of the program and all its libraries, and can kill the program in one of the calls:
 //
-//     VX_FILE_CALLS=/tmp/calls         writes the name of each call, and of its file, to this file, a line each
-//     VX_DIE_IN_FILE_CALL=12           kills the program in the twelfth call, before it has an effect
+//     VX_FILE_CALLS=/tmp/calls         appends a line with the name of each call and of its file to this file
+//     VX_DIE_IN_FILE_CALL=12           kills the program in the twelfth call, before the call has an effect
 //
-// Only calls about regular files and folders count. A write is two calls: one for each half of its data.
+// Calls for an open file count only if it is a regular file or a folder. A write is two calls: one for each half of its
+// data.
 
-/// While it lives, something is done before each call by which this program reads from a regular file.
+/// Runs an action before each call that reads from a regular file, until the destructor.
 class BeforeReading
 {
 public:

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Makes the application without leak detection: Qt's offscreen platform never frees its screen.
+/// Makes the application without leak detection, because Qt's offscreen platform never frees its screen.
 std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -25,7 +25,8 @@ std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
     return std::make_unique<Gui::GuiApplication>(argc, argv);
 }
 
-/// Gives each test its own empty folder for settings and files, and removes the projects and requests that the test left.
+/// Gives each test its own empty folder for settings and files. Closes all projects and clears the undo history after
+/// each test.
 class FreshStart : public testing::EmptyTestEventListener
 {
 private:
@@ -52,7 +53,7 @@ private:
 
 } // namespace
 
-/// Runs the tests inside a real application on the offscreen platform.
+/// Runs the tests inside a real application.
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);

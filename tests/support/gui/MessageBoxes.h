@@ -9,7 +9,7 @@
 
 namespace vxtest {
 
-/// What a message box showed to the user.
+/// The content of a message box that was shown.
 struct ShownBox
 {
     QMessageBox::Icon icon;
@@ -20,8 +20,8 @@ struct ShownBox
     const QWidget* parent;
 };
 
-/// While it lives, clicks one button in every message box that opens, or closes the box if it has no such button. Keeps
-/// what the boxes showed.
+/// Clicks the same button in every message box that opens, or closes the box if it has no such button. Records the
+/// content of the boxes. The destructor ends this.
 class MessageBoxes : public QObject
 {
 public:

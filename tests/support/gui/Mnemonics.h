@@ -8,7 +8,7 @@
 
 namespace vxtest {
 
-/// Returns the mnemonic letter of a text; a null letter if it has none.
+/// Returns the mnemonic letter of a text; a null character if there is none.
 inline QChar mnemonicOf(const QString& text)
 {
     for (int i = 0; i + 1 < text.size(); ++i)

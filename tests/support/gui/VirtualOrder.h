@@ -5,8 +5,8 @@
 
 namespace vxtest {
 
-/// Returns the place of a virtual operation in the table of its class. In the common C++ ABI, the pointer to the member
-/// contains the offset in bytes plus one.
+/// Returns the index of a virtual function in the virtual table of its class. In the common C++ ABI, a pointer to a
+/// virtual member function contains the offset in the table, in bytes, plus one.
 template <typename Class, typename Function>
 std::size_t slotOf(Function Class::*member)
 {

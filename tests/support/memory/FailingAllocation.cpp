@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Which of the next allocations fails, counted from 1; 0 for none.
+/// The number of the next allocation that fails, counted from 1; 0 if no allocation fails.
 int failing = 0;
 std::atomic<long> blocks{0};
 
@@ -13,7 +13,7 @@ void* allocate(std::size_t size)
 {
     if (failing > 0 && --failing == 0)
         throw std::bad_alloc();
-    void* const memory = std::malloc(size != 0 ? size : 1); // NOLINT(cppcoreguidelines-no-malloc): what new is made of
+    void* const memory = std::malloc(size != 0 ? size : 1); // NOLINT(cppcoreguidelines-no-malloc): implements new
     if (memory == nullptr)
         throw std::bad_alloc();
     ++blocks;
@@ -24,7 +24,7 @@ void release(void* memory)
 {
     if (memory != nullptr)
         --blocks;
-    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): what delete is made of
+    std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): implements delete
 }
 
 } // namespace
@@ -71,7 +71,7 @@ FailingAllocation::~FailingAllocation()
 }
 
 bool FailingAllocation::hasFailed()
-    const // NOLINT(readability-convert-member-functions-to-static): there is one at a time
+    const // NOLINT(readability-convert-member-functions-to-static): there is one object at a time
 {
     return failing == 0;
 }

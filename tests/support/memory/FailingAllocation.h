@@ -6,27 +6,28 @@
 
 namespace vxtest {
 
-// A program that links this file has its own operator new, which all of its libraries use.
+// A program that links this file has its own operator new, which all its libraries use.
 
-/// While it lives, one of the allocations of memory fails.
+/// Makes one of the next memory allocations fail. The destructor ends this.
 class FailingAllocation
 {
 public:
-    /// \param which counted from 1, which is the next allocation
+    /// \param which the number of the allocation; 1 is the next allocation
     explicit FailingAllocation(int which);
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;
     ~FailingAllocation();
 
-    /// Whether so many allocations were asked for that one failed.
+    /// Whether the allocation has failed.
     bool hasFailed() const;
 };
 
-/// How many blocks of memory the program has allocated and not freed.
+/// Returns the number of memory blocks that the program has allocated and not freed.
 long blocksInUse();
 
-/// Calls `action` with the first allocation failing, then with the second one, and so on until it makes fewer. Each time
-/// it must throw std::bad_alloc; then `check` is called. Returns how many allocations failed.
+/// Calls `action` with its first allocation failing, then with its second, and so on, until `action` makes fewer
+/// allocations. With a failing allocation, `action` must throw std::bad_alloc; then calls `check`. Returns the number
+/// of failed allocations.
 template <class Action, class Check>
 int failEachAllocationOf(const Action& action, const Check& check)
 {

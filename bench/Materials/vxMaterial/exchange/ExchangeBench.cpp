@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-/// The sections against the same document built, and read, by hand with plain jsoncpp: what the sections add to the
-/// cost of the JSON library. The other side of reading makes the same objects, since a program that reads materials
-/// needs them; "bare walk" is a reader that looks at every value and keeps none.
+/// Compares writing and reading sections with hand-written code for the same document with plain jsoncpp. The
+/// hand-written readers make the same objects, because a program that reads materials needs them. "bare walk" is a
+/// reader that looks at every value and keeps none.
 namespace {
 
 using vxbench::lazily;
@@ -27,7 +27,7 @@ constexpr double limit = 1.10;
 
 // --- Materials ---
 
-/// Materials of nine properties.
+/// Makes materials with nine properties each.
 std::shared_ptr<CAEMaterials> makeMaterials(std::uint32_t count)
 {
     const vxMat::StructuralSteel steel;
@@ -47,7 +47,8 @@ Json::Value writeBySection(const vxCAE::CAEBase& section)
     return document;
 }
 
-/// A document of such materials, made without them, so that they do not count for its reader's memory.
+/// Makes a document of such materials without making all the materials, so that they do not count as memory of its
+/// reader.
 Json::Value makeDocument(std::uint32_t count)
 {
     const Json::Value one = writeBySection(*makeMaterials(1))["material"][0];
@@ -136,7 +137,7 @@ double walkMaterials(const Json::Value& document)
 
 // --- Boundary conditions ---
 
-/// One condition whose steps hold a million values together.
+/// Makes one condition whose steps have a million values in total.
 std::shared_ptr<CAEBCS> makeConditions()
 {
     constexpr int steps = 1000;

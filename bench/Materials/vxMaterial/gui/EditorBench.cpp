@@ -1,5 +1,5 @@
-// Measures the time until the window of the material editor has been painted, and the time that it takes to show a
-// material. For comparison, measures Qt with the bare form and with a bare table of as many cells.
+// Measures the time until the window of the material editor has been painted, and the time to show a material. Compares
+// them with the times of Qt alone for the empty form and for an empty table of the same size.
 
 #include "Contest.h"
 #include "ui_MaterialWidget.h"
@@ -29,7 +29,7 @@ using vxbench::timed;
 constexpr double openLimit = 50.0; // milliseconds
 constexpr double fillLimit = 2.0;
 
-/// A project with a material, made once.
+/// Returns the material of a project. The first call makes both.
 Mat::MaterialObject& materialObject()
 {
     static Mat::MaterialObject* const object = [] {
@@ -41,7 +41,7 @@ Mat::MaterialObject& materialObject()
     return *object;
 }
 
-/// The library material with the most properties.
+/// Returns the library material with the most properties.
 vxMat::MaterialBase& largestMaterial()
 {
     const auto& materials = materialObject().getMatMgr().materials;
@@ -50,7 +50,7 @@ vxMat::MaterialBase& largestMaterial()
             })->second;
 }
 
-/// Notes that a widget has been painted.
+/// Waits until a widget has been painted.
 class PaintWatch : public QObject
 {
 public:
@@ -102,7 +102,7 @@ std::chrono::nanoseconds openForm()
 
 std::chrono::nanoseconds fillTable()
 {
-    // Kept until the process ends: it would outlive the application.
+    // The window is never destroyed, because a static object would be destroyed after the application.
     static const auto* const window =
         shown(std::make_unique<MatGui::MaterialView>(nullptr, &materialObject(), nullptr)).release();
     static auto* const table = window->findChild<MatGui::SheetTableView*>();
@@ -129,7 +129,7 @@ std::chrono::nanoseconds fillBareTable()
     });
 }
 
-/// The shortest of several times, in milliseconds.
+/// Returns the shortest of several times, in milliseconds.
 double best(const vxbench::Measured& measured)
 {
     double shortest = 1e9;
@@ -155,8 +155,8 @@ int main(int argc, char** argv)
     initMat();
     initMatGui();
     Mat::registerRequests();
-    vxbench::addContest({"opening the editor / the bare form", openEditor, openForm, 0.0});
-    vxbench::addContest({"showing a material / filling a bare table", fillTable, fillBareTable, 0.0});
+    vxbench::addContest({"opening the editor / the empty form", openEditor, openForm, 0.0});
+    vxbench::addContest({"showing a material / filling an empty table", fillTable, fillBareTable, 0.0});
     const int contests = vxbench::runContests(argc, argv);
     if (argc > 1)
         return contests;

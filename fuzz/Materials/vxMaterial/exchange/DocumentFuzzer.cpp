@@ -9,15 +9,15 @@
 #include <cstdlib>
 #include <string_view>
 
-/// Any bytes are a document or an error. Any document is read or refused by an exception of the JSON library, is
-/// checked without one, and gives cards.
+/// Reading any bytes gives a document or an error. Reading a document into a set succeeds or throws an exception of the
+/// JSON library. Checking a document and making the cards of its materials throw nothing.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const vxjson::JsonReading reading = vxjson::readJsonText(text);
     if (reading.error)
         return 0;
-    // What can be read can be written, and is read back as the same.
+    // A document that was read can be written, and reading the text gives the same document.
     vxjson::JsonWriter writer;
     writer.any(reading.document);
     if (writer.fault() || vxjson::readJsonText(writer.take()).document != reading.document)

@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <string_view>
 
-/// Any text is read or refused by the two exceptions that are documented, and what is read is written so that it
-/// reads back.
+/// Reading any text succeeds or throws one of the two documented exceptions. A number that was read can be written and
+/// read back unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char*>(data), size);

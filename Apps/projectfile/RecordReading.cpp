@@ -54,7 +54,7 @@ constexpr const char* arrayOfObjectNumbers =
 constexpr const char* fourNumbers =
     QT_TRANSLATE_NOOP("projectfile::ProjectFile", "an array of four numbers: red, green, blue and opacity");
 constexpr const char* aText = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a text");
-constexpr const char* aNumber = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a number");
+constexpr const char* aRealNumber = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a number");
 constexpr const char* aFraction = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a number from 0 to 1");
 constexpr const char* trueOrFalse = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "true or false");
 constexpr const char* signedNumber = QT_TRANSLATE_NOOP("projectfile::ProjectFile", "a whole number of 32 bits");
@@ -136,7 +136,7 @@ void readField(const Node& node, std::string& field)
 void readField(const Node& node, double& field)
 {
     const auto word = vxjson::numberOfWord(node.value.text());
-    demand(node, node.value.isNumber() || word, aNumber);
+    demand(node, node.value.isNumber() || word, aRealNumber);
     field = word.value_or(node.value.number());
 }
 

@@ -141,7 +141,7 @@ private:
 class OBJ_EXPORT PropertyChoice : public Property
 {
 public:
-    /// \throws std::invalid_argument if there are no words or one of them is there twice
+    /// \throws std::invalid_argument if there are no words or one of them occurs twice
     /// \throws std::out_of_range if there is no word of this index; so does setValue
     explicit PropertyChoice(std::vector<std::string> words, std::size_t index = 0);
 

@@ -27,7 +27,7 @@ inline constexpr std::size_t mostRepeatedMembers = 1000;
 /// What a JSON text may contain besides what the standard says.
 enum class JsonDialect
 {
-    WithComments, ///< comments; if a member is there twice, the last one counts
+    WithComments, ///< comments; if a member occurs twice, the last one counts
     Strict,       ///< no comments, no member twice; an array or object as a whole
 };
 
@@ -76,7 +76,7 @@ public:
     /// Returns the last member of that name; null if there is none, or the value is not an object.
     JsonNode operator[](std::string_view name) const;
 
-    /// Returns a copy for code that works on values of jsoncpp. If a member is there twice, the last one counts.
+    /// Returns a copy for code that works on values of jsoncpp. If a member occurs twice, the last one counts.
     Json::Value toJsonValue() const;
 
 private:

@@ -43,7 +43,7 @@ TEST(RepeatedMembers, AreFoundHoweverTheirNamesAreWritten)
     EXPECT_THAT(pathsOf(R"({"a\u0000b": 1, "a\u0000c": 2})"), IsEmpty());
     const auto strict = readJsonText("{\"prop_value\": 1,\n \"prop_v\\u0061lue\": 2}", JsonDialect::Strict);
     ASSERT_TRUE(strict.error);
-    EXPECT_EQ(describe(*strict.error), "line 2, column 2: the member \"prop_value\" is there twice");
+    EXPECT_EQ(describe(*strict.error), "line 2, column 2: the member \"prop_value\" occurs more than once");
 }
 
 TEST(RepeatedMembers, OfTheTextAreReadFromTheLast)

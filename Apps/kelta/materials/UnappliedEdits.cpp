@@ -1,0 +1,89 @@
+#include "UnappliedEdits.h"
+
+#include "Gui/MDIWindow.h"
+#include "Gui/MainWindow.h"
+#include "Obj/Project.h"
+#include "Obj/ProjectObject.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace kelta {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("kelta::UnappliedEdits", text);
+}
+
+enum class Choice
+{
+    Apply,
+    Without,
+    Stop,
+};
+
+Choice ask(Gui::MDIWindow& editor, const UnappliedQuestion& question)
+{
+    const QString name = QString::fromStdString(editor.get_edited_object()->label.getValue());
+    QMessageBox box(QMessageBox::Question, question.title,
+                    tr("The changes of \"%1\" in its editor have not been applied.").arg(name), QMessageBox::NoButton,
+                    Gui::MainWindow::get_main_window_inst());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(question.details);
+    QPushButton* const apply = box.addButton(QMessageBox::Apply);
+    const QAbstractButton* const without = box.addButton(question.without, QMessageBox::DestructiveRole);
+    box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(apply);
+    box.exec();
+    if (box.clickedButton() == apply)
+        return Choice::Apply;
+    return box.clickedButton() == without ? Choice::Without : Choice::Stop;
+}
+
+/// Applies the edits as the button of the editor does. Returns whether none are left.
+bool apply(const QPointer<Gui::MDIWindow>& editor)
+{
+    auto* const button = editor->findChild<QAbstractButton*>(QStringLiteral("btnApply"));
+    if (button != nullptr)
+        button->click();
+    return editor == nullptr || !editor->isWindowModified();
+}
+
+} // namespace
+
+std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Obj::Project& project)
+{
+    std::vector<QPointer<Gui::MDIWindow>> editors;
+    const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    if (mainWindow == nullptr)
+        return editors;
+    for (Gui::MDIWindow* const window : mainWindow->get_mdi_windows()) {
+        const Obj::ProjectObject* const object = window->get_edited_object();
+        if (object == nullptr || object->get_project() != &project)
+            continue;
+        window->finishEditing();
+        if (window->isWindowModified())
+            editors.emplace_back(window);
+    }
+    return editors;
+}
+
+bool askToApply(const Obj::Project& project, const UnappliedQuestion& question)
+{
+    for (const QPointer<Gui::MDIWindow>& editor : findUnapplied(project)) {
+        // An earlier question ran the event loop, in which this editor may have been closed.
+        if (editor == nullptr)
+            continue;
+        Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(editor);
+        const Choice choice = ask(*editor, question);
+        if (choice == Choice::Stop || (choice == Choice::Apply && editor != nullptr && !apply(editor)))
+            return false;
+    }
+    return true;
+}
+
+} // namespace kelta

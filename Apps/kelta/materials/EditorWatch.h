@@ -9,11 +9,13 @@ class MainWindow;
 
 namespace kelta {
 
+class KeptEdits;
+
 /// Completes what material editors apply, and makes each Apply one step of the undo stack.
 ///
 /// Before an Apply it refuses values of which a part would be ignored ("210 GPa"). After an Apply it sets names,
 /// descriptions, units and categories of the properties to those of the catalogue, since the table has them in the language
-/// of the user or not at all.
+/// of the user or not at all. Edits that are not applied come back with a material that undo or redo brings back.
 class EditorWatch : public QObject
 {
     Q_OBJECT
@@ -25,6 +27,8 @@ public:
 
 private:
     void watch(Gui::MDIWindow* window);
+
+    KeptEdits* m_kept; ///< a child of this object
 };
 
 } // namespace kelta

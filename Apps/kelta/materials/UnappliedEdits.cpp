@@ -19,29 +19,19 @@ QString tr(const char* text)
     return QCoreApplication::translate("kelta::UnappliedEdits", text);
 }
 
-enum class Choice
-{
-    Apply,
-    Without,
-    Stop,
-};
-
-Choice ask(Gui::MDIWindow& editor, const UnappliedQuestion& question)
+/// Asks about one editor; returns Apply, Discard for continuing without the edits, or Cancel.
+int ask(const Gui::MDIWindow& editor, const UnappliedQuestion& question)
 {
     const QString name = QString::fromStdString(editor.get_edited_object()->label.getValue());
     QMessageBox box(QMessageBox::Question, question.title,
-                    tr("The changes of \"%1\" in its editor have not been applied.").arg(name), QMessageBox::NoButton,
+                    tr("The changes of \"%1\" in its editor have not been applied.").arg(name),
+                    QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel,
                     Gui::MainWindow::get_main_window_inst());
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(question.details);
-    QPushButton* const apply = box.addButton(QMessageBox::Apply);
-    const QAbstractButton* const without = box.addButton(question.without, QMessageBox::DestructiveRole);
-    box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(apply);
-    box.exec();
-    if (box.clickedButton() == apply)
-        return Choice::Apply;
-    return box.clickedButton() == without ? Choice::Without : Choice::Stop;
+    box.button(QMessageBox::Discard)->setText(question.without);
+    box.setDefaultButton(QMessageBox::Apply);
+    return box.exec();
 }
 
 /// Applies the edits as the button of the editor does. Returns whether none are left.
@@ -79,8 +69,10 @@ bool askToApply(const Obj::Project& project, const UnappliedQuestion& question)
         if (editor == nullptr)
             continue;
         Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(editor);
-        const Choice choice = ask(*editor, question);
-        if (choice == Choice::Stop || (choice == Choice::Apply && editor != nullptr && !apply(editor)))
+        const int choice = ask(*editor, question);
+        const bool isDone =
+            choice == QMessageBox::Discard || (choice == QMessageBox::Apply && (editor == nullptr || apply(editor)));
+        if (!isDone)
             return false;
     }
     return true;

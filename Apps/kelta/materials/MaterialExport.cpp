@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <vector>
@@ -100,9 +101,15 @@ void reportExport(const Mat::DocumentMaterial& project, const QString& path)
     const QString shown = QDir::toNativeSeparators(path);
     try {
         const std::size_t written = projectfile::importExchange(projectfile::readFile(path)).materials.size();
-        for (const Mat::MaterialObject* const object : materialsOf(project))
+        const auto materials = materialsOf(project);
+        for (const Mat::MaterialObject* const object : materials)
             reportLosses(*object);
-        Gui::MainWindow::announce(tr("Materials written to \"%1\": %2.").arg(shown, QString::number(written)));
+        QString text = tr("Materials written to \"%1\": %2.").arg(shown, QString::number(written));
+        const auto suppressed = std::count_if(materials.begin(), materials.end(),
+                                              [](const auto* object) { return object->isSuppressed(); });
+        if (suppressed != 0)
+            text += QLatin1Char(' ') + tr("Suppressed materials among them: %1.").arg(suppressed);
+        Gui::MainWindow::announce(text);
     } catch (const std::exception& error) {
         Gui::MainWindow::announce(tr("The export to \"%1\" is not complete: %2 Export again to another place.")
                                       .arg(shown, QString::fromUtf8(error.what())),

@@ -25,8 +25,8 @@ QString findExportObstacle(const Mat::DocumentMaterial& project);
 /// file stays as it is.
 QString findWriteObstacle(const QString& path);
 
-/// Tells the user what the export of a project has written to a file, which is read for this: the number of materials, and
-/// for each material the values that the document does not carry. Tells an error if the file is not a whole document.
+/// Tells the user what the export of a project has written to a file, which is read for this: the number of materials, how
+/// many of them are suppressed, and for each material the values that the document does not carry. Tells an error if the file is not a whole document.
 void reportExport(const Mat::DocumentMaterial& project, const QString& path);
 
 } // namespace kelta

@@ -78,7 +78,7 @@ Failure findFault(std::int32_t id, const std::string& value)
     if (const char* const wrong = vxMat::checkRow(id, value))
         return QString::fromUtf8(vxMat::withoutRowNumber(wrong).data());
     if (const auto ignored = vxMat::findIgnoredText(id, value))
-        return tr("the value \"%1\" would be read as \"%2\"; \"%3\" would be ignored; give the value without it")
+        return tr(R"(the value "%1" would be read as "%2"; "%3" would be ignored; give the value without it)")
             .arg(QString::fromStdString(value), QString::fromStdString(ignored->readAs),
                  QString::fromStdString(ignored->text));
     return std::nullopt;
@@ -94,7 +94,7 @@ bool isFinite(const vxMat::MaterialProperty& property)
 /// not say comes from the catalogue.
 Failure setQuantity(Mat::MaterialObject& object, const vxMat::MaterialProperty& quantity, const std::string& value)
 {
-    if (const Failure fault = findFault(quantity.id, value))
+    if (Failure fault = findFault(quantity.id, value))
         return fault;
     auto property = std::make_unique<vxMat::MaterialProperty>(quantity.id, quantity.name, value, quantity.key,
                                                               quantity.description);

@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace kelta {
 
 namespace {
@@ -43,6 +45,17 @@ bool apply(const QPointer<Gui::MDIWindow>& editor)
     return editor == nullptr || !editor->isWindowModified();
 }
 
+/// Returns whether the caller may continue as far as this editor is concerned.
+bool mayContinue(const QPointer<Gui::MDIWindow>& editor, const UnappliedQuestion& question)
+{
+    // An earlier question ran the event loop, in which this editor may have been closed.
+    if (editor == nullptr)
+        return true;
+    Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(editor);
+    const int choice = ask(*editor, question);
+    return choice == QMessageBox::Discard || (choice == QMessageBox::Apply && (editor == nullptr || apply(editor)));
+}
+
 } // namespace
 
 std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Obj::Project& project)
@@ -64,18 +77,9 @@ std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Obj::Project& project)
 
 bool askToApply(const Obj::Project& project, const UnappliedQuestion& question)
 {
-    for (const QPointer<Gui::MDIWindow>& editor : findUnapplied(project)) {
-        // An earlier question ran the event loop, in which this editor may have been closed.
-        if (editor == nullptr)
-            continue;
-        Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(editor);
-        const int choice = ask(*editor, question);
-        const bool isDone =
-            choice == QMessageBox::Discard || (choice == QMessageBox::Apply && (editor == nullptr || apply(editor)));
-        if (!isDone)
-            return false;
-    }
-    return true;
+    const auto editors = findUnapplied(project);
+    return std::all_of(editors.begin(), editors.end(),
+                       [&question](const auto& editor) { return mayContinue(editor, question); });
 }
 
 } // namespace kelta

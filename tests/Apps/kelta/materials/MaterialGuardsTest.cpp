@@ -119,6 +119,14 @@ TEST_F(Export, SaysWhereHowManyMaterialsWereWritten)
     EXPECT_EQ(projectfile::importExchange(projectfile::readFile(file)).materials.size(), 2U);
 }
 
+TEST_F(Export, CountsSuppressedMaterialsWhichItWritesToo)
+{
+    addMaterial(project).setSuppressed(true);
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_EQ(lastMessage(),
+              "Materials written to \"" + file.toStdString() + "\": 2. Suppressed materials among them: 1.");
+}
+
 TEST_F(Export, NamesWordsAndListsThatAreNotWritten)
 {
     for (const auto& [type, material] : project.getMatMgr().materials)

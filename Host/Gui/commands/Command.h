@@ -89,9 +89,10 @@ public:
     const std::string& getName() const { return m_name; }
     QAction* new_action(QObject* parent) override;
 
-    /// Runs the command, through its guards, if it is applicable. All that the command and its guards request is undone in
-    /// one step. Nothing is thrown: an exception is reported to the message log. Returns whether command and guards ran to
-    /// their end; a guard that does not run the command has done so.
+    /// Ends all edits in progress (MainWindow::finishEditing), and then runs the command, through its guards, if it is
+    /// applicable. All that the command and its guards request is undone in one step. Nothing is thrown: an exception is
+    /// reported to the message log. Returns whether command and guards ran to their end; a guard that does not run the
+    /// command has done so.
     bool invoke(int index = 0);
 
     /// Puts a guard in front of the command. The guard that was added last is called first.

@@ -13,7 +13,7 @@
 namespace vxCAE {
 
 /// The conditions of one body: its material, body force, topology and, for a shell, its section. A field has the name of
-/// its JSON member. It owns its material entry, of whose material only the name is exchanged here: the materials travel
+/// its JSON member. It owns its material entry, of whose material only the name is exchanged here: the materials are
 /// in the materials section and are matched by `mat_id`.
 struct VXCAE_EXPORT DomainEntry
 {

@@ -10,7 +10,7 @@
 
 namespace vxCAE {
 
-/// The materials of a project on their way to the solver, by material number.
+/// The materials of a project as they are passed to the solver, by material number.
 ///
 /// Documents carry only the number of each property, not words, lists, units, descriptions and categories. The number of
 /// materials is not written; it is the length of the array.

@@ -23,7 +23,7 @@ struct SolverCard
     std::string text; ///< as the solver reads it
 };
 
-/// The cards of a material, and what the user should know before using them.
+/// The cards of a material, and their defects, which the user should read before using them.
 struct CardSet
 {
     std::vector<SolverCard> cards;   ///< every card that applies to the material, none of them empty

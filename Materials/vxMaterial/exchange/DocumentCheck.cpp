@@ -25,7 +25,7 @@ using Numbers = std::set<std::uint32_t>;
 
 // --- Materials ---
 
-/// Notes that the word or list of a quantity does not travel.
+/// Notes that the word or list of a quantity is not exchanged.
 void noteWhatStaysBehind(MemberCheck& check, const vxMat::PropertyRecord& quantity, const std::string& path)
 {
     const std::string name = "\"" + std::string(quantity.name) + "\"";

@@ -21,7 +21,7 @@ struct Finding
 struct CheckReport
 {
     std::vector<Finding> findings; ///< what is wrong: lost, misread or refused by a reader, or out of its range
-    std::vector<Finding> notes;    ///< what is right but worth knowing: words and lists do not travel
+    std::vector<Finding> notes;    ///< what is right but worth knowing: words and lists are not exchanged
 };
 
 /// Checks whether readers take an exchange document of either kind as it says, and whether it keeps the rules for property

@@ -25,7 +25,7 @@ struct MaterialKind
     };
 };
 
-/// A material on its way to the solver, with its model kind and its solver cards. It owns the material.
+/// A material as it is passed to the solver, with its model kind and its solver cards. It owns the material.
 ///
 /// The cards are the solver's text form of nonlinear and thermal data. No operation fails: a model that does not apply
 /// gives the empty text, and a missing value one of the messages below in place of the data. Messages begin with
@@ -64,7 +64,7 @@ public:
     /// Returns `number` in fixed notation with six decimals, as in the elasticity line.
     static std::string formatReal(double number);
 
-    /// Returns the plasticity card, for the plastic kind and the yield and hardening types that the solver knows:
+    /// Returns the plasticity card, for the plastic kind and the yield and hardening types that the solver supports:
     /// - Mises, bilinear (also without a hardening type): initial yield stress and hardening factor, or "Invalid
     ///   dIniYStress and dHFactor\n";
     /// - Mises, multilinear: a line of yield stress and plastic strain for each pair of the two lists. Yield stresses

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <type_traits>
 
-/// Member lists: which field of an object travels under which key of its JSON object, and by which conversion. Each list
+/// Member lists: which field of an object is exchanged under which key of its JSON object, and by which conversion. Each list
 /// exists once, as a tuple of rows (SectionMembers.h), which writers, readers and the check of documents walk.
 namespace vxCAE::detail {
 

@@ -15,7 +15,7 @@
 #include <tuple>
 #include <vector>
 
-/// The member lists of the sections: which field travels under which key.
+/// The member lists of the sections: which field is exchanged under which key.
 namespace vxCAE::detail {
 
 // The format has "defrom_type" for the reading side, and keeps it.

@@ -113,7 +113,7 @@ bool isUndo(const QKeyEvent& key)
     return key.matches(QKeySequence::Undo);
 }
 
-/// Both keys that users know for it, whichever the platform prefers.
+/// Whether a key is the platform's key for redo, or Ctrl+Y, which users expect on every platform.
 bool isRedo(const QKeyEvent& key)
 {
     return key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier);
@@ -172,7 +172,7 @@ void MaterialView::makeToolBoxesReachable()
     setTabOrder(lastOfLibrary, m_ui->btnAddMat);
     QWidget* const lastOfBuild = makePagesReachable(*m_ui->toolBoxBuild, m_ui->btnAddMat);
     setTabOrder(lastOfBuild, m_ui->tableView);
-    // The window itself has nothing to do with the keyboard.
+    // The window itself does not take the keyboard.
     setFocusProxy(m_ui->tabWidget);
 }
 
@@ -199,7 +199,7 @@ void MaterialView::watchEdits()
 {
     // The title has a mark, and the program asks before it ends, as long as edits are not applied.
     connect(&m_history->stack(), &QUndoStack::cleanChanged, this, [this](bool clean) { setWindowModified(!clean); });
-    // Values that the user types arrive at the model by themselves; other edits are noted by the slots that make them.
+    // The delegate writes values that the user types into the model. Other edits are noted by the slots that make them.
     const auto note = [this] { guarded([this] { noteEdit(tr("Change value")); }); };
     const QAbstractItemModel* const model = m_ui->tableView->model();
     connect(model, &QAbstractItemModel::dataChanged, this, note);
@@ -424,7 +424,7 @@ void MaterialView::on_btnOK_clicked()
 
 void MaterialView::on_btnCancel_clicked()
 {
-    // The button itself says that the changes are not wanted.
+    // The button itself means that the changes are to be discarded.
     const QScopedValueRollback<bool> unasked(m_closesUnasked, true);
     guarded(closeCurrentWindow);
 }
@@ -474,8 +474,8 @@ bool MaterialView::keepsFromHost(const QKeyEvent& key) const
 {
     if (key.key() == Qt::Key_Delete)
         return true;
-    // The host's undo may remove the material, and this window with all edits. A key that is held down must not go on to it
-    // when the last edit has been undone.
+    // The host's undo may remove the material, and this window with all edits. A key that is held down must not
+    // reach it after the last edit has been undone.
     const bool hasEdits = isWindowModified() || m_history->stack().canRedo();
     return (isUndo(key) && (isWindowModified() || key.isAutoRepeat())) ||
            (isRedo(key) && (hasEdits || key.isAutoRepeat()));
@@ -526,7 +526,7 @@ void MaterialView::answerQuestion(int answer)
     guarded([this, answer] {
         const Closing closing = std::exchange(closingWindows(), {});
         const bool closes = answer == QMessageBox::Discard || (answer == QMessageBox::Apply && apply());
-        // A user who keeps a window open wants to look at it; there are no questions about the next windows then.
+        // If the user keeps a window open, there are no questions about the next windows.
         if (!closes)
             return;
         closeUnasked();

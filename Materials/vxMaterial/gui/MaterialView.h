@@ -42,7 +42,7 @@ struct EditorState;
 ///
 /// The table is the working copy. Only Apply and OK write it into the material, either whole or not at all; afterwards it
 /// shows what the material holds. Until then every edit can be undone in the window. If the window is closed with edits
-/// that are not applied, and not by Cancel, it asks the user what to do with them and stays open until the answer. It is
+/// that are not applied, and not by Cancel, it asks the user what to do with them and stays open until then. It is
 /// closed without a question when its material is removed.
 class VXMATERIAL_EXPORT MaterialView : public Gui::MDIWindow
 {
@@ -129,7 +129,7 @@ private:
     void asOneEdit(const std::function<void()>& action);
     void noteEdit(const QString& step);
     EditorState state() const;
-    void showState(const EditorState& state);
+    void showState(const EditorState& shown);
     void checkQuantities(const std::function<bool(int id)>& isChecked);
     void clear();
 

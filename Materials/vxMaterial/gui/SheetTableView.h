@@ -137,7 +137,7 @@ protected:
     int sizeHintForRow(int row) const override;
     /// F2 and Return edit the value of the current row, whichever of its cells is current.
     void keyPressEvent(QKeyEvent* event) override;
-    /// The keyboard comes to the column of the values.
+    /// Makes the value the current cell of the row, unless a click of the mouse has chosen another cell.
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;

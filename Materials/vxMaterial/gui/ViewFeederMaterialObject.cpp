@@ -108,7 +108,7 @@ MaterialView* ViewFeederMaterialObject::showMaterialView()
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (object == nullptr || mainWindow == nullptr || Gui::GuiApplication::Instance == nullptr)
         return nullptr;
-    // Projects of other classes may contain materials, by import or paste, but have no database for the editor.
+    // Other modules may register projects that take materials too. Only a material project has a database for the editor.
     if (!object->get_project()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId()))
         return nullptr;
     materialView =

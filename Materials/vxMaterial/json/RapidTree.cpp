@@ -63,7 +63,7 @@ bool hasHalfOfPair(std::string_view text)
     return false;
 }
 
-/// Hands what RapidJSON reads on to its document, and checks what RapidJSON does not: the range of numbers, the depth,
+/// Passes what RapidJSON reads to its document, and checks what RapidJSON does not: the range of numbers, the depth,
 /// members that are there twice, and halves of surrogate pairs.
 class Builder
 {

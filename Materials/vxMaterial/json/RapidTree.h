@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-/// The tree of RapidJSON behind JsonTree. Nothing outside this folder knows RapidJSON.
+/// The tree of RapidJSON behind JsonTree. Nothing outside this folder uses RapidJSON.
 namespace vxjson::detail {
 
 /// RapidJSON does not check what malloc returns.

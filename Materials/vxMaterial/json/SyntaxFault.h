@@ -10,7 +10,7 @@
 
 namespace vxjson::detail {
 
-/// What the grammar wants where reading stops.
+/// What the grammar requires at the place where reading stops.
 enum class Expected
 {
     Value,
@@ -24,8 +24,8 @@ enum class Expected
 /// Returns an error at the byte `offset` of a text, with its line and column.
 JsonError errorAt(std::string_view text, std::size_t offset, const char* reason, std::string_view shown = {});
 
-/// Says what is wrong where reading stopped since the text at `offset` was not what was expected: in the order of how
-/// much it helps, that the text ends, that a comment or something like a number is there, or what is needed.
+/// Returns the error for a text that at `offset` is not what was expected. The message names the first of these that
+/// applies: the text ends, a comment or something like a number is there, or what is needed.
 JsonError explainSyntaxError(std::string_view text, std::size_t offset, Expected expected);
 
 } // namespace vxjson::detail

@@ -54,7 +54,7 @@ VXMAT_MODEL_EXPORT void describe(MaterialProperty& property, std::int32_t id);
 // The classes of the quantities. Id is a PropertyId of the kind that the class is for.
 
 /// A quantity whose value is one number. All classes of quantities have the same constructors: the default constructor
-/// stores the catalogue's default, the other one the given value; both call initProperty, which sets the metadata.
+/// stores the catalogue's default, the second one the given value; both call initProperty, which sets the metadata.
 template <std::int32_t Id>
 class VXMAT_MODEL_EXPORT NumberProperty : public MaterialProperty
 {

@@ -4,9 +4,9 @@
 
 namespace vxMat {
 
-/// The identifiers of the 36 quantities of the catalogue. The id identifies a quantity everywhere: a material holds its
-/// properties by it, documents write it as "prop_type", the solver cards look values up by it. User interface and solver
-/// share the numbers, which never change; the gaps (40, 201 ...) name no quantity.
+/// The identifiers of the 36 quantities of the catalogue. The id of a quantity is also the number of its slot in a
+/// material, and its "prop_type" in documents; the solver cards look values up by it. User interface and solver share the
+/// numbers, which never change. No quantity has the numbers in the gaps (40, 201 ...).
 struct PropertyId
 {
     enum : std::int32_t

@@ -65,9 +65,9 @@ Json::Value writeMaterialsByHand(const CAEMaterials& section)
     Json::Value materials(Json::arrayValue);
     for (const auto& [number, entry] : section.entries) {
         Json::Value properties(Json::arrayValue);
-        for (const auto& [key, property] : entry->material->properties) {
+        for (const auto& [slot, property] : entry->material->properties) {
             Json::Value json;
-            json["prop_type"] = key;
+            json["prop_type"] = slot;
             json["prop_key"] = property->key;
             json["prop_name"] = property->name;
             json["prop_value"] = property->value;
@@ -215,7 +215,7 @@ Conditions readConditionsByHand(const Json::Value& document)
     return read;
 }
 
-// --- The contests ---
+// --- Comparisons ---
 
 void addMaterialContests(std::uint32_t count)
 {

@@ -1,5 +1,5 @@
-// How quick the material editor feels: the time until its window has been painted, and the time that it takes to show
-// a material. Beside it stands what Qt itself takes for the bare form and for a bare table of as many cells.
+// Measures the time until the window of the material editor has been painted, and the time that it takes to show a
+// material. For comparison, measures Qt with the bare form and with a bare table of as many cells.
 
 #include "Contest.h"
 #include "ui_MaterialWidget.h"

@@ -339,9 +339,9 @@ TEST(CAEMaterials, CarriesAllMaterialsOfTheLibraryNumberByNumber)
         const MaterialEntry& copy = *read.getMaterial(id);
         EXPECT_STREQ(copy.getName(), entry->getName());
         ASSERT_EQ(copy.material->properties.size(), entry->material->properties.size());
-        for (const auto& [key, property] : entry->material->properties) {
-            ASSERT_TRUE(copy.material->hasProperty(key));
-            EXPECT_EQ(copy.material->properties.at(key)->value, property->value) << entry->getName() << key;
+        for (const auto& [slot, property] : entry->material->properties) {
+            ASSERT_TRUE(copy.material->hasProperty(slot));
+            EXPECT_EQ(copy.material->properties.at(slot)->value, property->value) << entry->getName() << slot;
         }
     }
 }

@@ -165,7 +165,7 @@ TEST(CAESolve, RefusesLoadStepsThatNoMemoryHolds)
     EXPECT_EQ(solve.n_load_steps, 1U);
 }
 
-TEST(CAESolve, AnswersALoadStepCountedFromOne)
+TEST(CAESolve, ReturnsALoadStepCountedFromOne)
 {
     CAESolve solve;
     solve.readJson(json(R"({"solve": {"n_load_steps": 2, "n_substeps": [10, 20], "nl_abs_tol": [0.1, 0.2],

@@ -50,7 +50,7 @@ std::string property(int type, const std::string& value)
            value + "}";
 }
 
-/// An analysis document without fault, to be spoilt by the tests.
+/// An analysis document without findings, which the tests change.
 Json::Value analysis()
 {
     CAESet set(1, 1);

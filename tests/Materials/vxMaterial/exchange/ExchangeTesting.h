@@ -13,7 +13,7 @@
 
 namespace vxtest {
 
-/// The document that a JSON text describes; the test fails when it is none.
+/// The document that a JSON text describes; the test fails if it is not JSON.
 inline Json::Value json(const std::string& text)
 {
     auto reading = vxjson::readJsonText(text);

@@ -56,7 +56,7 @@ TEST(MaterialEntry, BecomesLinearAgainWithoutASwitch)
     EXPECT_EQ(entry->kind, 0);
 }
 
-TEST(MaterialEntry, AnswersDensityAndWhetherThereIsOne)
+TEST(MaterialEntry, ReturnsDensityAndWhetherThereIsOne)
 {
     EXPECT_TRUE(makeEntry({{4, 0.0}})->getDensity().found);
     EXPECT_EQ(makeEntry({{4, 7850.0}})->getDensity().value, 7850.0);
@@ -72,7 +72,7 @@ TEST(MaterialEntry, HasThermalDataWithAllThreeQuantitiesOnly)
     EXPECT_FALSE(makeEntry({{202, 1.0}, {203, 1.0}})->hasThermalData());
 }
 
-TEST(MaterialEntry, AnswersTheEmptyTextForAPropertyThatIsNotThere)
+TEST(MaterialEntry, ReturnsTheEmptyTextForAMissingProperty)
 {
     EXPECT_EQ(makeEntry({})->getPropertyText(33), "");
     EXPECT_EQ(makeEntry({{33, 0.0}})->getPropertyText(33), "Mises");

@@ -38,7 +38,7 @@ struct Shooting
 
     void take(const char* name) const
     {
-        QTest::qWait(50); // until the window is laid out and at rest: nothing tells
+        QTest::qWait(50); // until the window is laid out, which no signal reports
         window.grab().save(QStringLiteral("%1/%2-%3.png").arg(folder, QLatin1String(name), suffix));
     }
 };

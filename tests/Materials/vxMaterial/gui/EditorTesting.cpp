@@ -139,17 +139,29 @@ int Editor::rowOf(int id) const
     return found != ids.end() ? static_cast<int>(found - ids.begin()) : -1;
 }
 
-void Editor::typeValue(int id, const QString& text)
+QLineEdit* Editor::openValue(int id)
 {
     MatGui::SheetTableView& sheet = table();
     sheet.setFocus();
     sheet.setCurrentIndex(sheet.model()->index(rowOf(id), 2));
     QTest::keyClick(&sheet, Qt::Key_F2);
-    QLineEdit* const editor = openEditor(sheet);
+    return openEditor(sheet);
+}
+
+void Editor::startTyping(int id, const QString& text)
+{
+    QLineEdit* const editor = openValue(id);
     ASSERT_NE(editor, nullptr);
     editor->selectAll();
     QTest::keyClick(editor, Qt::Key_Backspace);
     QTest::keyClicks(editor, text);
+}
+
+void Editor::typeValue(int id, const QString& text)
+{
+    startTyping(id, text);
+    QLineEdit* const editor = openEditor(table());
+    ASSERT_NE(editor, nullptr);
     QTest::keyClick(editor, Qt::Key_Return);
 }
 

@@ -93,6 +93,10 @@ public:
     std::vector<int> rowIds() const;
     /// The row of this id; -1 if there is none.
     int rowOf(int id) const;
+    /// Opens the value in the row of this id by the keyboard and returns its editor; null if none opens.
+    QLineEdit* openValue(int id);
+    /// Opens the value in the row of this id and types a text in place of the earlier one, without committing it.
+    void startTyping(int id, const QString& text);
     /// Types a value into the row of this id in place of the earlier one and presses Return.
     void typeValue(int id, const QString& text);
 

@@ -76,7 +76,7 @@ QStringList itemTexts(const QComboBox& box)
     return texts;
 }
 
-/// Whether the delegate closes the editor on Escape: it does when it is the editor's event filter.
+/// Whether the delegate closes the editor on Escape: it does if it is the editor's event filter.
 bool filtersEventsOf(QAbstractItemDelegate& delegate, QWidget* editor)
 {
     bool closed = false;

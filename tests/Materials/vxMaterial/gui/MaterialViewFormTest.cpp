@@ -48,7 +48,7 @@ TEST(MaterialView, IsRegisteredButNeverMadeByItsName)
     EXPECT_TRUE(editor.view()->is_inherited_from(Gui::MDIWindow::getClassTypeId()));
 }
 
-TEST(MaterialView, AnswersTheHostWithNothing)
+TEST(MaterialView, ReturnsNothingToTheHost)
 {
     Editor editor;
     MaterialView& view = *editor.view();

@@ -19,24 +19,12 @@ using testing::IsEmpty;
 using vxtest::Editor;
 using vxtest::MessageBoxes;
 
-/// Opens the editor of the value in the row of an id and types a text without committing it.
-void startTyping(Editor& editor, int id, const QString& text)
-{
-    editor.table().setFocus();
-    editor.table().setCurrentIndex(editor.table().model()->index(editor.rowOf(id), 2));
-    QTest::keyClick(&editor.table(), Qt::Key_F2);
-    QLineEdit* const line = vxtest::openEditor(editor.table());
-    ASSERT_NE(line, nullptr);
-    line->selectAll();
-    QTest::keyClicks(line, text);
-}
-
 // --- Edits in progress ---
 
 TEST(MaterialViewHost, EndsAnEditForTheHostAndKeepsTheText)
 {
     Editor editor;
-    startTyping(editor, 5, "123");
+    editor.startTyping(5, "123");
     Gui::MDIWindow& window = *editor.view();
     window.finishEditing();
     EXPECT_EQ(editor.cell(editor.rowOf(5), 2), "123");
@@ -86,7 +74,7 @@ TEST(MaterialViewHost, BringsEditsBackIntoANewWindow)
 TEST(MaterialViewHost, RecordsTextThatIsStillBeingTypedAndLeavesTheCellOpen)
 {
     Editor editor;
-    startTyping(editor, 5, "1.5e1");
+    editor.startTyping(5, "1.5e1");
     const Json::Value record = editor.view()->unappliedEdits();
     EXPECT_NE(vxtest::openEditor(editor.table()), nullptr);
     Editor other;

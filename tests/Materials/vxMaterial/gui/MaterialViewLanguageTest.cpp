@@ -19,7 +19,7 @@ namespace {
 using testing::IsEmpty;
 using vxtest::Editor;
 
-/// The language of the program while it lives; English afterwards.
+/// The language of the program as long as the object exists; English afterwards.
 class Language
 {
 public:

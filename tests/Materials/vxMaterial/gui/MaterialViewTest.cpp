@@ -86,7 +86,7 @@ TEST(MaterialView, ChangesNothingOfTheMaterialByOpeningAndClosing)
     EXPECT_EQ(editor.material().name, name);
 }
 
-// A material object always has a material. The windows are written for one without too, which tests make by force.
+// A material object always has a material. The windows also accept an object without one, which only tests make.
 template <auto Member>
 struct MaterialAccess
 {
@@ -138,7 +138,7 @@ TEST(MaterialView, HasNoItemForAGroupWithoutAPage)
     EXPECT_EQ(editor.list("lw_lib_general").findItems("Zero", Qt::MatchExactly).size(), 1);
 }
 
-TEST(MaterialView, LeavesTheHostWhenItGoes)
+TEST(MaterialView, LeavesTheHostWhenItIsDestroyed)
 {
     Editor editor;
     const auto& project = *Gui::GuiApplication::Instance->get_project(&editor.project().document());
@@ -147,7 +147,7 @@ TEST(MaterialView, LeavesTheHostWhenItGoes)
     EXPECT_THAT(project.get_views(), IsEmpty());
 }
 
-TEST(MaterialView, GoesWithItsProject)
+TEST(MaterialView, ClosesWithItsProject)
 {
     auto project = std::make_unique<vxtest::MaterialProject>();
     Gui::MainWindow mainWindow;
@@ -288,7 +288,7 @@ TEST(MaterialView, HasOneRowAfterCheckUncheckCheck)
     EXPECT_EQ(std::count(ids.begin(), ids.end(), 45), 1);
 }
 
-TEST(MaterialView, RemovesARowWhereverItStandsWhenItsItemIsUnticked)
+TEST(MaterialView, RemovesARowAtAnyPositionWhenItsItemIsUnticked)
 {
     Editor editor;
     const std::vector<int> before = editor.rowIds();
@@ -333,12 +333,7 @@ TEST(MaterialView, WritesEditedValuesOnApplyAndStaysOpen)
 TEST(MaterialView, TakesOverTextThatIsStillBeingTypedOnApply)
 {
     Editor editor;
-    editor.table().setFocus();
-    editor.table().setCurrentIndex(editor.table().model()->index(editor.rowOf(5), 2));
-    QTest::keyClick(&editor.table(), Qt::Key_F2);
-    QLineEdit* const line = vxtest::openEditor(editor.table());
-    ASSERT_NE(line, nullptr);
-    line->setText("123");
+    editor.startTyping(5, "123");
     EXPECT_TRUE(apply(editor));
     EXPECT_EQ(editor.material().properties.at(5)->value, 123.0);
 }
@@ -439,7 +434,7 @@ TEST(MaterialView, LeavesTheMaterialAsItWasAfterClearAndCancel)
     EXPECT_EQ(vxtest::contents(editor.material()), before);
 }
 
-TEST(MaterialView, ClearsRowsThatNoItemStandsFor)
+TEST(MaterialView, ClearsRowsThatHaveNoItem)
 {
     Editor editor;
     editor.doubleClick(editor.item("Acoustic Material 1"));
@@ -460,8 +455,8 @@ TEST(MaterialView, ShowsTheTextsOfItsBoxesInTheLanguageOfTheUser)
     expectOneBox(boxes, "Keine Eigenschaft", "Nichts da.");
 }
 
-/// A database whose materials throw when they are shown cannot be had; memory that runs out while a text is translated
-/// can.
+/// Throws as if memory ran out while a text is translated. This is the only way to make a material of the database throw
+/// while it is shown.
 class ThrowingTranslator : public QTranslator
 {
 public:
@@ -606,7 +601,7 @@ TEST(MaterialView, AsksBeforeItClosesWhatIsToBecomeOfTheChanges)
     EXPECT_TRUE(boxes[0].hasDefaultButton);
 }
 
-TEST(MaterialView, ShowsTheLabelInItsQuestionAsItStands)
+TEST(MaterialView, ShowsTheLabelLiterallyInItsQuestion)
 {
     for (const char* const label : {"<b>Steel</b>", "%1 %2", "结构钢", ""}) {
         Editor editor([label](vxtest::MaterialProject& project) { project.object().label.setValue(label); });
@@ -668,12 +663,7 @@ TEST(MaterialView, StaysOpenWhenItsChangesCannotBeApplied)
 TEST(MaterialView, AsksAboutTextThatIsStillBeingTyped)
 {
     Editor editor;
-    editor.table().setFocus();
-    editor.table().setCurrentIndex(editor.table().model()->index(editor.rowOf(5), 2));
-    QTest::keyClick(&editor.table(), Qt::Key_F2);
-    QLineEdit* const line = vxtest::openEditor(editor.table());
-    ASSERT_NE(line, nullptr);
-    line->setText("123");
+    editor.startTyping(5, "123");
     EXPECT_EQ(closeAnswering(QMessageBox::Apply).size(), 1U);
     EXPECT_TRUE(editor.isClosed());
     EXPECT_EQ(editor.material().properties.at(5)->value, 123.0);
@@ -711,7 +701,7 @@ TEST(MaterialView, ClosesWithoutAQuestionByItsOwnButtons)
     }
 }
 
-TEST(MaterialView, GoesWithItsMaterialWithoutAQuestionAndTakesAnOpenOneAlong)
+TEST(MaterialView, ClosesWithItsMaterialWithoutAQuestionAndClosesAnOpenOne)
 {
     {
         Editor editor;

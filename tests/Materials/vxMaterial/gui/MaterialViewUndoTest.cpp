@@ -153,7 +153,7 @@ TEST(MaterialViewUndo, DoesNothingInAModifiedEditorWithoutStepsToUndo)
 {
     Editor editor;
     HostHistory host;
-    // The window is marked by the application, which knows of changes that the window does not.
+    // The window is marked by the application, which may mark it because of changes that are not in the window.
     editor.view()->setWindowModified(true);
     const Shown before = shown(editor);
     editor.table().setFocus();

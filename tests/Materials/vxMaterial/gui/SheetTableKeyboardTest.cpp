@@ -20,14 +20,6 @@ QModelIndex valueIn(Editor& editor, int id)
     return editor.table().model()->index(editor.rowOf(id), 2);
 }
 
-QLineEdit* openValue(Editor& editor, int id)
-{
-    editor.table().setFocus();
-    editor.table().setCurrentIndex(valueIn(editor, id));
-    QTest::keyClick(&editor.table(), Qt::Key_F2);
-    return vxtest::openEditor(editor.table());
-}
-
 TEST(SheetTableKeyboard, ComesToTheColumnOfTheValues)
 {
     Editor editor;
@@ -71,7 +63,7 @@ TEST(SheetTableKeyboard, EditsTheValueFromEveryColumnByF2AndReturn)
 TEST(SheetTableKeyboard, ReturnsToTheTableAfterReturnInAValue)
 {
     Editor editor;
-    QLineEdit* const line = openValue(editor, 5);
+    QLineEdit* const line = editor.openValue(5);
     ASSERT_NE(line, nullptr);
     line->setText("3");
     QTest::keyClick(line, Qt::Key_Return);
@@ -88,7 +80,7 @@ TEST(SheetTableKeyboard, KeepsAListOfAnyLengthThatIsOpenedAndClosed)
     });
     const QString before = editor.cell(editor.rowOf(38), 2);
     ASSERT_GT(before.size(), 32767);
-    QLineEdit* const line = openValue(editor, 38);
+    QLineEdit* const line = editor.openValue(38);
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->text().size(), before.size());
     QTest::keyClick(line, Qt::Key_Return);
@@ -108,7 +100,7 @@ Editor& withWords(Editor& editor)
 TEST(WordCompletion, OffersTheWordsThatBeginAsTyped)
 {
     Editor editor;
-    QLineEdit* const line = openValue(withWords(editor), 37);
+    QLineEdit* const line = withWords(editor).openValue(37);
     ASSERT_NE(line, nullptr);
     line->selectAll();
     QTest::keyClicks(line, "s");
@@ -123,7 +115,7 @@ TEST(WordCompletion, OffersTheWordsThatBeginAsTyped)
 TEST(WordCompletion, TakesTheChosenWordOnReturn)
 {
     Editor editor;
-    QLineEdit* const line = openValue(withWords(editor), 33);
+    QLineEdit* const line = withWords(editor).openValue(33);
     ASSERT_NE(line, nullptr);
     line->selectAll();
     QTest::keyClicks(line, "m");
@@ -151,7 +143,7 @@ TEST(WordCompletion, IsInTheLanguageOfTheUser)
 {
     const vxtest::TestTranslator translator(vxtest::Translations{{"vxMat::PropertyValue||Swift", "Flink"}});
     Editor editor;
-    QLineEdit* const line = openValue(withWords(editor), 37);
+    QLineEdit* const line = withWords(editor).openValue(37);
     ASSERT_NE(line, nullptr);
     line->selectAll();
     QTest::keyClicks(line, "fl");
@@ -162,7 +154,7 @@ TEST(WordCompletion, IsInTheLanguageOfTheUser)
 TEST(WordCompletion, IsForWordsOnly)
 {
     Editor editor;
-    QLineEdit* const line = openValue(editor, 5);
+    QLineEdit* const line = editor.openValue(5);
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->completer(), nullptr);
 }

@@ -270,7 +270,7 @@ TEST(SheetTableView, IsLeftUnchangedByEveryEntryOfItsContextMenus)
     EXPECT_EQ(sheet.model().columnCount(), 6);
 }
 
-/// How many of the owner's actions trigger the slot: a connection is there when it can be taken away.
+/// How many of the owner's actions trigger the slot: a connection exists if it can be removed.
 int triggering(const QWidget& owner, const SheetTableView& table, const char* slot)
 {
     int count = 0;
@@ -289,7 +289,7 @@ TEST(SheetTableView, TriggersTheSlotOfTheSameNameByEachEntry)
     EXPECT_EQ(triggering(table, table, SLOT(cellProperties())), 1);
 }
 
-TEST(SheetViewHeader, TellsWhenTheMouseHasBeenLetGo)
+TEST(SheetViewHeader, ReportsTheReleaseOfTheMouse)
 {
     Sheet sheet;
     sheet.table.loadMaterialObject();
@@ -329,7 +329,7 @@ TEST(SheetTableView, ShowsNumbersAsTheShortestTextThatReadsBack)
     EXPECT_EQ(values.size(), 9U);
 }
 
-TEST(SheetTableView, ShowsWordsAsTheyStandAndListsJoinedByCommas)
+TEST(SheetTableView, ShowsWordsUnchangedAndListsJoinedByCommas)
 {
     Sheet sheet;
     vxMat::PlasticMaterial1 plastic;
@@ -435,7 +435,7 @@ TEST(SheetTableView, AppendsATickedPropertyWithTheDefaultOfTheCatalogue)
     EXPECT_EQ(sheet.cell(10, 2), "1");
 }
 
-TEST(SheetTableView, RemovesEveryRowOfAnUntickedPropertyWhereverItStands)
+TEST(SheetTableView, RemovesEveryRowOfAnUntickedPropertyAtAnyPosition)
 {
     Sheet sheet;
     for (const int id : {4, 21, 4, 5, 4})
@@ -684,7 +684,7 @@ TEST(SheetTableView, RebuildsTheMaterialFromItsRowsAlone)
     EXPECT_EQ(density.key, "rho");
     EXPECT_EQ(density.description, "Mass density");
     EXPECT_EQ(density.value, 7850.0);
-    // What is made from a row knows no unit and no category.
+    // A property that is made from a row has no unit and no category.
     EXPECT_EQ(density.unit, "");
     EXPECT_EQ(density.category, vxMat::ePropertyCategory::Undefined);
     EXPECT_EQ(properties.at(33)->text, "Mises");
@@ -732,7 +732,7 @@ TEST(SheetTableView, TurnsSwitchesIntoOneWhateverTheirText)
         EXPECT_EQ(sheet.project.material().properties.at(id)->value, 1.0);
 }
 
-TEST(SheetTableView, ReadsNumbersAsFarAsTheyGoAndListsWhateverStandsBetween)
+TEST(SheetTableView, ReadsTheLongestNumberAndListsWithAnySeparators)
 {
     Sheet sheet;
     sheet.tick(5);

@@ -55,7 +55,7 @@ TEST(SimModule, HasTheVirtualOperationsInTheOrderOfTheHost)
         slotOf(&StdSimModule::build_message_bars),
         slotOf(&StdSimModule::build_docking_windows),
     };
-    // Two destructors stand behind the type id.
+    // Two destructors follow the type id.
     EXPECT_THAT(places, ElementsAre(0, 3, 4, 5, 6, 7, 8, 9, 10));
     EXPECT_EQ(slotOf(&SimModule::build_message_bars), slotOf(&StdSimModule::build_message_bars));
 }

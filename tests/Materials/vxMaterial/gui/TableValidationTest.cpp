@@ -25,7 +25,7 @@ struct Row
     QVariant value;
 };
 
-/// The message about a table of these rows; empty when it passes.
+/// The message about a table of these rows; empty if it passes.
 QString check(const std::vector<Row>& rows)
 {
     SheetTableView table;
@@ -157,7 +157,7 @@ TEST(TableValidation, ChangesNothing)
 
 // --- Agreement with the way in which texts are read as numbers ---
 
-/// The answers that the rules give for the number that QString reads from the text.
+/// The results of the rules for the number that QString reads from the text.
 void expectAgreement(const QString& text)
 {
     const double number = text.toDouble();

@@ -5,7 +5,7 @@
 
 namespace vxtest {
 
-/// An object of a class that some other module of the host would have registered under `Name`.
+/// An object of a class that another module of the host would have registered under `Name`.
 template <const char* Name, const char* ParentName>
 class ForeignObject final : public Obj::ProjectObject
 {
@@ -30,17 +30,19 @@ inline constexpr char solution[] = "Fem::FemSolution";
 inline constexpr char connections[] = "Fem::FemConnections";
 inline constexpr char load[] = "Fem::FemLoad";
 inline constexpr char loadGroup[] = "Fem::FemLoadGroup";
+inline constexpr char analysis[] = "Fem::FemProject";
 inline constexpr const char* protectedNames[] = {geometryGroup, meshGroup, study, solution, connections};
 
-/// A project of another kind than materials.
-class AnalysisProject final : public Obj::Project
+/// A project of a class that another module of the host would have registered under `Name`.
+template <const char* Name>
+class ForeignProject final : public Obj::Project
 {
 public:
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init()
     {
-        initSubclass(type, "Fem::FemProject", "Obj::Project",
-                     []() -> void* { return static_cast<Kelta::RootClass*>(new AnalysisProject); });
+        initSubclass(type, Name, "Obj::Project",
+                     []() -> void* { return static_cast<Kelta::RootClass*>(new ForeignProject); });
     }
 
 private:
@@ -56,7 +58,7 @@ inline void initForeignClasses()
     ForeignObject<connections, objectClass>::init();
     ForeignObject<load, objectClass>::init();
     ForeignObject<loadGroup, groupClass>::init();
-    AnalysisProject::init();
+    ForeignProject<analysis>::init();
 }
 
 } // namespace vxtest

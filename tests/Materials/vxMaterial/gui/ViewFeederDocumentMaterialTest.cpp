@@ -35,7 +35,7 @@ TEST_F(DocumentNode, HasNoPropertiesOfItsOwn)
     EXPECT_THAT(properties, IsEmpty());
 }
 
-/// Lets the tests see what a node of a project says of its properties.
+/// Gives the tests access to the descriptions of a node's properties.
 class OpenProjectNode : public Gui::ViewFeederProject
 {
 public:

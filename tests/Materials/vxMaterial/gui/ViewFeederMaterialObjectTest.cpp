@@ -7,6 +7,7 @@
 #include "Gui/PictureFactory.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/Translator.h"
+#include "Obj/ObjectHomes.h"
 
 #include <QMenu>
 #include <QWindow>
@@ -24,7 +25,7 @@ std::vector<const Obj::Property*>& arrivedProperties()
 
 } // namespace
 
-// The editor's own operation is empty, so nothing would show that it is reached. The loader finds this definition
+// The editor's own operation is empty, so that a call of it would have no visible effect. The loader finds this definition
 // first, also for calls from inside the plug-in.
 void MatGui::MaterialView::updateCell(const Obj::Property* property)
 {
@@ -39,7 +40,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using vxtest::slotOf;
 
-/// A node whose protected operations the tests see.
+/// A node whose protected operations are accessible to the tests.
 class OpenNode : public ViewFeederMaterialObject
 {
 public:
@@ -145,7 +146,7 @@ TEST_F(MaterialNode, DescribesItsPropertiesBeforeThoseOfEveryNode)
     EXPECT_EQ(OpenNode().get_property_data().parent(), OpenObjectNode::get_property_data_ref());
 }
 
-TEST_F(MaterialNode, AnswersTheHostWithFixedAnswers)
+TEST_F(MaterialNode, ReturnsFixedValuesToTheHost)
 {
     EXPECT_TRUE(node.isShow());
     EXPECT_FALSE(node.useNewSelectionModel());
@@ -242,16 +243,26 @@ TEST_F(MaterialNode, ShowsTheMaterialInTheWindowOfTheEditor)
     EXPECT_EQ(icon, QIcon(Gui::PictureFactory::get_pixmap(":icons/norvex_materialobject.svg")).pixmap(32).toImage());
 }
 
+/// The title that a frame shows for a window with this title, without the name of the program.
+QString shownTitle(const QString& windowTitle, bool isModified)
+{
+    QWidget frame;
+    frame.setWindowTitle(windowTitle);
+    frame.setWindowModified(isModified);
+    frame.show();
+    return frame.windowHandle()->title().section(QStringLiteral(" - "), 0, 0);
+}
+
 TEST_F(MaterialNode, ShowsALabelLiterallyInTheTitleOfTheEditor)
 {
-    material.label.setValue("[*] <b>Steel</b>[*] 100 %1");
     node.on_double_clicked();
-    MatGui::MaterialView* const editor = activeEditor();
+    const MatGui::MaterialView* const editor = activeEditor();
     ASSERT_NE(editor, nullptr);
-    QWidget frame;
-    frame.setWindowTitle(editor->windowTitle());
-    frame.show();
-    EXPECT_EQ(frame.windowHandle()->title().section(QStringLiteral(" - "), 0, 0), "[*] <b>Steel</b>[*] 100 %1");
+    for (const char* const label : {"[*] <b>Steel</b>[*] 100 %1", "Frame[*]", "[*]", "[*][*]", "[*[*]]", "a & b"}) {
+        material.label.setValue(label);
+        EXPECT_EQ(shownTitle(editor->windowTitle(), false), label);
+        EXPECT_EQ(shownTitle(editor->windowTitle(), true), QString(label) + "*");
+    }
 }
 
 TEST_F(MaterialNode, FollowsTheLabelInTheTitleOfTheEditor)
@@ -271,7 +282,7 @@ TEST_F(MaterialNode, OpensNothingInAnotherEditModeThanTheUsual)
     EXPECT_TRUE(window->get_mdi_windows().isEmpty());
 }
 
-TEST_F(MaterialNode, OpensTheEditorInTheUsualEditModeAndAnswersFalseToo)
+TEST_F(MaterialNode, OpensTheEditorInTheUsualEditModeAndReturnsFalseToo)
 {
     EXPECT_FALSE(node.setEdit(0));
     EXPECT_EQ(window->get_mdi_windows().size(), 1);
@@ -309,18 +320,24 @@ TEST_F(MaterialNode, MakesANewEditorRightAfterTheUserHasClosedTheFirst)
     EXPECT_EQ(second->windowTitle(), "Beam[*]");
 }
 
+constexpr char projectWithMaterials[] = "Test::ProjectWithMaterials";
+
 TEST_F(MaterialNode, OpensNothingForAMaterialInAProjectOfAnotherKind)
 {
-    vxtest::initForeignClasses();
-    Obj::Project& analysis = *Obj::Application::instance().create_project("Fem::FemProject", "Analysis");
-    ViewFeederMaterialObject& foreign = feeder(addMaterial(analysis));
+    // Another module may have projects that take materials.
+    vxtest::ForeignProject<projectWithMaterials>::init();
+    Obj::registerHome("Mat::MaterialObject", projectWithMaterials);
+    Obj::Project& other = *Obj::Application::instance().create_project(projectWithMaterials, "Other");
+    ViewFeederMaterialObject& foreign = feeder(addMaterial(other));
     ASSERT_NE(foreign.getMaterialObject(), nullptr);
     EXPECT_TRUE(foreign.on_double_clicked());
     EXPECT_FALSE(foreign.setEdit(0));
+    select({foreign.getMaterialObject()});
+    EXPECT_TRUE(run("Mat_Edit"));
     EXPECT_TRUE(window->get_mdi_windows().isEmpty());
 }
 
-TEST_F(MaterialNode, AnswersTheOpenEditor)
+TEST_F(MaterialNode, ReturnsTheOpenEditor)
 {
     OpenNode open;
     EXPECT_EQ(open.showMaterialView(), nullptr);

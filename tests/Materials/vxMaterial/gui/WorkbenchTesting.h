@@ -14,6 +14,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
+#include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QUndoStack>
@@ -34,6 +35,7 @@ protected:
     Workbench()
     {
         initMat();
+        Mat::registerRequests();
         initMatGui();
         window = std::make_unique<Gui::MainWindow>();
         window->set_workbench("MatGui::SimModule");
@@ -53,6 +55,13 @@ protected:
     {
         const auto& messages = Kelta::MessageLog::instance().messages();
         return messages.empty() ? std::string() : messages.back().text.toStdString();
+    }
+
+    /// Expects one more error in the message log, whose text begins with `start`.
+    void expectError(const std::string& start)
+    {
+        EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), ++errorsBefore);
+        EXPECT_THAT(lastMessage(), testing::StartsWith(start));
     }
 
     static Gui::CommandController& commands() { return Gui::GuiApplication::Instance->get_command_manager(); }
@@ -81,7 +90,7 @@ protected:
         return *Gui::GuiApplication::Instance->get_view_feeder(&object);
     }
 
-    /// The editor in front; null when there is none.
+    /// The active editor; null if there is none.
     MatGui::MaterialView* activeEditor() const
     {
         return dynamic_cast<MatGui::MaterialView*>(window->get_active_mdi_window());

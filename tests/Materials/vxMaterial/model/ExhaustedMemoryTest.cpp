@@ -115,7 +115,7 @@ TEST_F(ExhaustedMemory, LeavesTheLibraryWithTheMaterialsMadeBeforeAndNothingElse
                                      const std::size_t count = countOfFirst(manager.materials, order);
                                      EXPECT_GE(count, most);
                                      most = count;
-                                     // What the map holds is the manager's; all else was freed.
+                                     // The manager owns the content of the map; everything else was freed.
                                      MatDBManager().materials.swap(manager.materials);
                                      EXPECT_EQ(vxtest::blocksInUse(), before);
                                  });

@@ -174,7 +174,7 @@ std::string ignored(int id, std::string_view text)
     return found ? found->text + '|' + found->readAs : "";
 }
 
-TEST(IgnoredText, IsWhatStandsBehindANumber)
+TEST(IgnoredText, IsTheTextAfterANumber)
 {
     EXPECT_EQ(ignored(5, "210 GPa"), "GPa|210");
     EXPECT_EQ(ignored(5, "2,1e11"), ",1e11|2");

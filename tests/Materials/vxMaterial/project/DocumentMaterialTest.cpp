@@ -114,7 +114,7 @@ TEST_F(DocumentMaterialTest, ChecksOneMaterialById)
     EXPECT_THAT(boxes.shown(), SizeIs(1));
 }
 
-TEST_F(DocumentMaterialTest, AnswersNoForAnIdThatIsNotThereAndSaysNothing)
+TEST_F(DocumentMaterialTest, ReturnsFalseForAMissingIdAndShowsNothing)
 {
     const MessageBoxes boxes;
     EXPECT_FALSE(project->check_material_input(77));
@@ -325,7 +325,7 @@ TEST_F(DocumentMaterialTest, ExportsWithDecimalPointsInEveryLocale)
     EXPECT_EQ(vxtest::readText(path("comma.json")), vxtest::readText(path("point.json")));
 }
 
-TEST_F(DocumentMaterialTest, ExportsIntoAMissingFolderWithoutAWordAndWritesNothing)
+TEST_F(DocumentMaterialTest, ExportsIntoAMissingFolderWithoutAMessageAndWritesNothing)
 {
     addSteel("Steel");
     exportTo(path("missing/export.json"));

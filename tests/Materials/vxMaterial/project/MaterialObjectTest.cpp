@@ -26,7 +26,7 @@ using vxtest::MessageBoxes;
 class MaterialObjectTest : public vxtest::MaterialProject
 {
 protected:
-    /// The warning that the check of a material gives whose only property has this number; nothing for none.
+    /// The warnings of the check of a material whose only property has this number.
     std::vector<vxtest::ShownBox> warningsFor(double number) const
     {
         MaterialObject& object = addMaterial("Steel");
@@ -161,7 +161,7 @@ TEST_F(MaterialObjectTest, ReachesTheDatabaseOfItsProject)
 TEST_F(MaterialObjectTest, IsAlwaysToBeRunAndExecutesNothing)
 {
     MaterialObject& object = addMaterial("A");
-    // Past the object, which has not looked at its state since.
+    // Changes the material without the object, whose state is not updated.
     setNumber(object, vxMat::PropertyId::Density, 7850);
     EXPECT_EQ(object.always_run(), -1);
     const std::unique_ptr<Obj::ProjectObjectExecReturn> result(object.execute());
@@ -262,7 +262,7 @@ TEST_F(MaterialObjectTest, RefusesWordsAndListsBecauseTheirNumberIsZero)
     }
 }
 
-TEST_F(MaterialObjectTest, ShowsEveryLabelAsItStands)
+TEST_F(MaterialObjectTest, ShowsEveryLabelLiterally)
 {
     const std::string longLabel(10000, 'x');
     for (const std::string& label :
@@ -313,7 +313,7 @@ TEST_F(MaterialObjectTest, TakesNothingFromARecord)
     }
 }
 
-// Nothing in the module sends this signal; what hangs on to it relies on its type.
+// The module does not send this signal. Listeners depend on its type.
 template <auto Member>
 struct SignalAccess
 {
@@ -322,7 +322,7 @@ struct SignalAccess
 auto& requestsOf(MaterialObject& object);
 template struct SignalAccess<&MaterialObject::dataRequested>;
 
-TEST_F(MaterialObjectTest, AnswersARequestForDataAsTheLastWhoListensDoes)
+TEST_F(MaterialObjectTest, ReturnsTheResultOfTheLastListenerToARequestForData)
 {
     auto& requests = requestsOf(addMaterial("Steel"));
     requests.connect([] { return boost::any(1); });

@@ -60,7 +60,7 @@ inline std::vector<Json::Value> recordsOfEveryKind()
     return {Json::Value(), Json::Value(Json::arrayValue), Json::Value("x"), Json::Value(7), Json::Value(true), record};
 }
 
-/// What the host and the user know of a material, and all of its quantities.
+/// The parts of a material that the host and the user see, and all of its quantities.
 struct Identity
 {
     explicit Identity(Mat::MaterialObject& object)

@@ -1,80 +1,86 @@
 #include "EditorWatch.h"
 
+#include "KeptEdits.h"
 #include "MaterialChange.h"
 
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
+#include "Obj/Project.h"
+#include "vxMaterial/gui/MaterialView.h"
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
-#include "vxMsg/MessageProxy.h"
 
-#include <QAbstractButton>
-#include <QEvent>
+#include <boost/signals2/connection.hpp>
 
+#include <memory>
 #include <utility>
 
 namespace kelta {
 
 namespace {
 
-Mat::MaterialObject* materialOf(const Gui::MDIWindow& window)
+/// Follows one editor, which owns it.
+class EditorRecorder final : public QObject
 {
-    return dynamic_cast<Mat::MaterialObject*>(window.get_edited_object());
-}
+public:
+    EditorRecorder(MatGui::MaterialView& editor, KeptEdits& kept) : QObject(&editor), m_editor(editor), m_kept(kept)
+    {
+        // In front, since another listener closes the editor.
+        Obj::Project& project = *material().get_project();
+        m_objectRemoved = project.objectRemoved.connect(
+            [this, &project](const Obj::ProjectObject& removed) { keepEdits(project, removed); },
+            boost::signals2::at_front);
+        connect(&editor, &Gui::MDIWindow::applying, this, &EditorRecorder::begin);
+        connect(&editor, &Gui::MDIWindow::applied, this, &EditorRecorder::record);
+    }
+
+private:
+    void begin(Gui::ApplyRefusal& refusal)
+    {
+        Kelta::guarded(EditorWatch::tr("The values of an editor cannot be checked"), [&] {
+            if (auto ignored = m_editor.findIgnoredText())
+                refusal = std::move(*ignored);
+            m_before = copyOf(*material().getCMaterial());
+        });
+    }
+
+    void record()
+    {
+        Kelta::guarded(EditorWatch::tr("What was changed in an editor cannot be recorded"), [&] {
+            vxMat::restoreCatalogueTexts(*material().getCMaterial());
+            if (m_before != nullptr)
+                recordChange(material(), std::move(m_before));
+        });
+    }
+
+    void keepEdits(Obj::Project& project, const Obj::ProjectObject& removed)
+    {
+        if (&removed == &material())
+            m_kept.keep(project, removed.getObjectId(), m_editor.unappliedEdits());
+    }
+
+    Mat::MaterialObject& material() const { return *m_editor.getMaterialObject(); }
+
+    MatGui::MaterialView& m_editor;
+    KeptEdits& m_kept;
+    boost::signals2::scoped_connection m_objectRemoved;
+    std::unique_ptr<vxMat::CMaterial> m_before; ///< the material before the Apply that is in progress
+};
 
 } // namespace
 
-EditorWatch::EditorWatch(Gui::MainWindow& mainWindow) : QObject(&mainWindow), m_mainWindow(mainWindow)
+EditorWatch::EditorWatch(Gui::MainWindow& mainWindow) : QObject(&mainWindow), m_kept(new KeptEdits(this))
 {
     connect(&mainWindow, &Gui::MainWindow::mdi_window_added, this, &EditorWatch::watch);
-    // What is undone or done by command while the editor is open is not the editor's doing.
-    connect(&vxMsg::MessageProxy::instance().undoStack(), &QUndoStack::indexChanged, this, &EditorWatch::rememberAll);
 }
 
 EditorWatch::~EditorWatch() = default;
 
 void EditorWatch::watch(Gui::MDIWindow* window)
 {
-    const Mat::MaterialObject* const object = materialOf(*window);
-    if (object == nullptr)
-        return;
-    m_known[window] = copyOf(*object->getCMaterial());
-    window->installEventFilter(this);
-    connect(window, &QObject::destroyed, this, [this](QObject* gone) { m_known.erase(gone); });
-    for (QAbstractButton* const button : window->findChildren<QAbstractButton*>())
-        connect(button, &QAbstractButton::clicked, this, [this, window] { compare(window); });
-}
-
-bool EditorWatch::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* const window = qobject_cast<Gui::MDIWindow*>(watched);
-    if (event->type() == QEvent::ModifiedChange && window != nullptr && !window->isWindowModified())
-        compare(window);
-    return QObject::eventFilter(watched, event);
-}
-
-void EditorWatch::rememberAll()
-{
-    for (Gui::MDIWindow* const window : m_mainWindow.get_mdi_windows()) {
-        const auto known = m_known.find(window);
-        const Mat::MaterialObject* const object = known != m_known.end() ? materialOf(*window) : nullptr;
-        if (object != nullptr && !areSame(*known->second, *object->getCMaterial()))
-            known->second = copyOf(*object->getCMaterial());
-    }
-}
-
-void EditorWatch::compare(Gui::MDIWindow* window)
-{
-    Kelta::guarded(tr("What was changed in an editor cannot be recorded"), [&] {
-        const auto known = m_known.find(window);
-        Mat::MaterialObject* const object = known != m_known.end() ? materialOf(*window) : nullptr;
-        if (object == nullptr || object->get_project() == nullptr)
-            return;
-        // An export gives the material the name by which the user knows it; that is no change of the user's.
-        auto before = copyOf(*known->second);
-        before->name = object->getCMaterial()->name;
-        recordChange(*object, std::move(before));
-    });
+    if (auto* const editor = qobject_cast<MatGui::MaterialView*>(window))
+        new EditorRecorder(*editor, *m_kept); // the editor owns it
 }
 
 } // namespace kelta

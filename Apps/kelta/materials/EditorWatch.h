@@ -1,11 +1,6 @@
 #pragma once
 
-#include "vxMaterial/model/Material.h"
-
 #include <QObject>
-
-#include <map>
-#include <memory>
 
 namespace Gui {
 class MDIWindow;
@@ -14,31 +9,26 @@ class MainWindow;
 
 namespace kelta {
 
-/// Makes a step of the history of what the user applies in a material editor.
+class KeptEdits;
+
+/// Completes what material editors apply, and makes each Apply one step of the undo stack.
 ///
-/// Editors write into the material themselves and tell nobody, so the material is compared with what it was whenever an
-/// editor has no changes of its own any more, or a button in it has been pressed.
+/// Before an Apply it refuses values of which a part would be ignored ("210 GPa"). After an Apply it sets names,
+/// descriptions, units and categories of the properties to those of the catalogue, since the table has them in the language
+/// of the user or not at all. Edits that are not applied come back with a material that undo or redo brings back.
 class EditorWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to the main window.
+    /// Belongs to the main window, whose editors it watches from then on.
     explicit EditorWatch(Gui::MainWindow& mainWindow);
     ~EditorWatch() override;
 
-    /// Sees editors say that everything has been applied.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void watch(Gui::MDIWindow* window);
-    void rememberAll();
-    void compare(Gui::MDIWindow* window);
 
-    /// The materials that are being edited, as the history knows them. The windows are not looked into: they may have
-    /// been destroyed.
-    std::map<QObject*, std::unique_ptr<vxMat::CMaterial>> m_known;
-    Gui::MainWindow& m_mainWindow;
+    KeptEdits* m_kept; ///< a child of this object
 };
 
 } // namespace kelta

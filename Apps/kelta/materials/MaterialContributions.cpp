@@ -1,12 +1,14 @@
 #include "MaterialContributions.h"
 
+#include "MaterialCheck.h"
+#include "MaterialProjects.h"
+
 #include "Gui/CommandController.h"
 #include "Gui/CommandTable.h"
 #include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
-#include "Obj/Application.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 
 namespace kelta {
@@ -17,25 +19,15 @@ constexpr const char* commandContext = "MaterialCommand";
 constexpr const char* projectClass = "Mat::DocumentMaterial";
 constexpr const char* workbenchClass = "MatGui::SimModule";
 
-/// The project that is checked: the current one, if it holds materials.
-Mat::DocumentMaterial* currentProject()
-{
-    return dynamic_cast<Mat::DocumentMaterial*>(Obj::Application::get_current_project());
-}
-
 void checkMaterials()
 {
-    Mat::DocumentMaterial& project = *currentProject();
-    const QString name = QString::fromUtf8(project.get_name());
+    const Mat::DocumentMaterial& project = *currentMaterialProject();
+    const CheckSummary summary = checkAndReport(project);
     using Severity = Kelta::LogMessage::Severity;
-    if (project.check_all_materials())
-        Gui::MainWindow::announce(
-            QCoreApplication::translate(commandContext, "All materials of \"%1\" are ready.").arg(name),
-            Severity::Information);
-    else
-        Gui::MainWindow::announce(
-            QCoreApplication::translate(commandContext, "The materials of \"%1\" are not all ready.").arg(name),
-            Severity::Warning);
+    Gui::MainWindow::announce(summary.toText(QString::fromUtf8(project.get_name())),
+                              summary.isReady() ? Severity::Information : Severity::Warning);
+    if (!summary.isReady())
+        Gui::MainWindow::get_main_window_inst()->show_messages();
 }
 
 void addMaterialCommands(Gui::CommandController& commands)
@@ -44,7 +36,7 @@ void addMaterialCommands(Gui::CommandController& commands)
         commands, commandContext,
         {{"Mat_Check", QT_TRANSLATE_NOOP("MaterialCommand", "&Check materials"),
           QT_TRANSLATE_NOOP("MaterialCommand", "Check whether all materials of the project are ready"), "", Qt::Key_F7,
-          Gui::CommandType::None, checkMaterials, [] { return currentProject() != nullptr; }}});
+          Gui::CommandType::None, checkMaterials, [] { return currentMaterialProject() != nullptr; }}});
 }
 
 void addToBars(Gui::Contributions& contributions)

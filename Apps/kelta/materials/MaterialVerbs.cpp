@@ -1,9 +1,13 @@
 #include "MaterialVerbs.h"
 
 #include "MaterialChange.h"
+#include "MaterialCheck.h"
+#include "MaterialProjects.h"
 
+#include "Gui/CommandController.h"
+#include "Gui/FileDialog.h"
+#include "Gui/GuiApplication.h"
 #include "Gui/TreeSelectionSingleton.h"
-#include "Obj/Application.h"
 #include "kelta/Batch.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/model/MatDBManager.h"
@@ -14,6 +18,8 @@
 #include <QCoreApplication>
 #include <QTextStream>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -28,10 +34,11 @@ QString tr(const char* text)
     return QCoreApplication::translate("kelta::Batch", text);
 }
 
+/// The first material project; null if there is none.
 Mat::DocumentMaterial* findProject()
 {
-    const auto projects = Obj::Application::get_projects(Mat::materialProjectTag);
-    return projects.empty() ? nullptr : static_cast<Mat::DocumentMaterial*>(projects.front());
+    const auto projects = materialProjects();
+    return projects.empty() ? nullptr : projects.front();
 }
 
 /// The one material that is selected, in a project of materials; null otherwise.
@@ -65,27 +72,50 @@ Failure useLibraryMaterial(const QStringList& arguments)
     return tr("the library has no material \"%1\"").arg(arguments[0]);
 }
 
-Failure setQuantity(const QStringList& arguments)
+/// Returns the reason against a value that breaks a rule of the quantity, or of which a part would be ignored.
+Failure findFault(std::int32_t id, const std::string& value)
+{
+    if (const char* const wrong = vxMat::checkRow(id, value))
+        return QString::fromUtf8(vxMat::withoutRowNumber(wrong).data());
+    if (const auto ignored = vxMat::findIgnoredText(id, value))
+        return tr(R"(the value "%1" would be read as "%2"; "%3" would be ignored; give the value without it)")
+            .arg(QString::fromStdString(value), QString::fromStdString(ignored->readAs),
+                 QString::fromStdString(ignored->text));
+    return std::nullopt;
+}
+
+bool isFinite(const vxMat::MaterialProperty& property)
+{
+    return std::isfinite(property.value) && std::all_of(property.values.begin(), property.values.end(),
+                                                        [](double number) { return std::isfinite(number); });
+}
+
+/// Gives a material a quantity of the catalogue. The value is read from the text, as the editor does it; what the text does
+/// not say comes from the catalogue.
+Failure setQuantity(Mat::MaterialObject& object, const vxMat::MaterialProperty& quantity, const std::string& value)
+{
+    if (Failure fault = findFault(quantity.id, value))
+        return fault;
+    auto property = std::make_unique<vxMat::MaterialProperty>(quantity.id, quantity.name, value, quantity.key,
+                                                              quantity.description);
+    if (!isFinite(*property))
+        return tr("the value \"%1\" is not a finite number").arg(QString::fromStdString(value));
+    property->unit = quantity.unit;
+    property->category = quantity.category;
+    auto before = copyOf(*object.getCMaterial());
+    object.getCMaterial()->setProperty(quantity.id, std::move(property));
+    recordChange(object, std::move(before));
+    return std::nullopt;
+}
+
+Failure setNamedQuantity(const QStringList& arguments)
 {
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr || arguments.size() != 2)
         return tr("a quantity and its value, and one selected material, are needed");
-    for (const auto& [id, quantity] : object->getMatMgr().propertyCatalogue) {
-        if (!isSame(quantity->name, arguments[0]) && !isSame(quantity->key, arguments[0]))
-            continue;
-        const std::string value = arguments[1].toStdString();
-        if (const char* const wrong = vxMat::checkRow(id, value))
-            return QString::fromUtf8(vxMat::withoutRowNumber(wrong).data());
-        // From the text, as the editor does it; what the text does not say comes from the catalogue.
-        auto property =
-            std::make_unique<vxMat::MaterialProperty>(id, quantity->name, value, quantity->key, quantity->description);
-        property->unit = quantity->unit;
-        property->category = quantity->category;
-        auto before = copyOf(*object->getCMaterial());
-        object->getCMaterial()->setProperty(id, std::move(property));
-        recordChange(*object, std::move(before));
-        return std::nullopt;
-    }
+    for (const auto& [id, quantity] : object->getMatMgr().propertyCatalogue)
+        if (isSame(quantity->name, arguments[0]) || isSame(quantity->key, arguments[0]))
+            return setQuantity(*object, *quantity, arguments[1].toStdString());
     return tr("the catalogue has no quantity \"%1\"").arg(arguments[0]);
 }
 
@@ -100,12 +130,44 @@ Failure clearMaterial(const QStringList&)
     return std::nullopt;
 }
 
-Failure checkMaterials(const QStringList&)
+/// Fails if any material has a finding.
+Failure checkMaterials(const QStringList& arguments)
 {
-    Mat::DocumentMaterial* const project = findProject();
+    if (!arguments.isEmpty())
+        return tr("no argument is taken");
+    const Mat::DocumentMaterial* const project = findProject();
     if (project == nullptr)
         return tr("there is no material project");
-    return project->check_all_materials() ? Failure() : Failure(tr("the materials are not ready"));
+    const CheckSummary summary = checkAndReport(*project);
+    return summary.isReady() ? Failure() : Failure(summary.toText(QString::fromUtf8(project->get_name())));
+}
+
+/// Runs a command as a line of a list does. A command that asks for a file gets `file`.
+Failure runCommand(const char* name, const QString& file)
+{
+    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().find_command(name);
+    if (command == nullptr || !command->is_applicable())
+        return tr("%1 cannot be done now").arg(QLatin1String(name));
+    Gui::FileDialog::answer_next(file);
+    return command->invoke() ? Failure() : Failure(tr("%1 failed").arg(QLatin1String(name)));
+}
+
+/// The command would ask whether to close the open project, and a list must not lose it by an answer that nobody gives.
+Failure makeProject(const QStringList& arguments)
+{
+    if (!arguments.isEmpty())
+        return tr("no argument is taken");
+    if (const Obj::Project* const open = findProject())
+        return tr("the material project \"%1\" is open; close it first with select-project and Mat_DelDoc")
+            .arg(QString::fromUtf8(open->get_name()));
+    return runCommand("Mat_NewDoc", {});
+}
+
+Failure exportMaterials(const QStringList& arguments)
+{
+    if (arguments.size() != 1 || arguments.front().isEmpty())
+        return tr("Mat_Export needs one argument, the name of the file to write");
+    return runCommand("Mat_Export", arguments.front());
 }
 
 Failure collectMaterials(const QStringList&)
@@ -142,9 +204,13 @@ Failure printCards(const QStringList&)
 void registerMaterialVerbs()
 {
     Batch::register_verb(QStringLiteral("use"), useLibraryMaterial);
-    Batch::register_verb(QStringLiteral("set"), setQuantity);
+    Batch::register_verb(QStringLiteral("set"), setNamedQuantity);
     Batch::register_verb(QStringLiteral("clear"), clearMaterial);
     Batch::register_verb(QStringLiteral("check"), checkMaterials);
+    // In place of the commands of the same names, which ask the user what a list must say.
+    Batch::register_verb(QStringLiteral("Mat_Check"), checkMaterials);
+    Batch::register_verb(QStringLiteral("Mat_NewDoc"), makeProject);
+    Batch::register_verb(QStringLiteral("Mat_Export"), exportMaterials);
     Batch::register_verb(QStringLiteral("collect"), collectMaterials);
     Batch::register_verb(QStringLiteral("cards"), printCards);
 }

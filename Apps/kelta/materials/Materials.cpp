@@ -2,6 +2,7 @@
 #include "FileCommands.h"
 #include "FileDrops.h"
 #include "MaterialContributions.h"
+#include "MaterialGuards.h"
 #include "MaterialVerbs.h"
 #include "ProjectFiles.h"
 
@@ -48,6 +49,13 @@ void addFiles(Gui::MainWindow& mainWindow)
     kelta::FileService::set_instance(std::move(files));
 }
 
+/// What the user sees of materials in the window.
+void addToWindows(Gui::GuiApplication& application)
+{
+    kelta::registerMaterialContributions(application);
+    kelta::addMaterialGuards(application.get_command_manager());
+}
+
 } // namespace
 
 /// The entry by which the program loads this side, after the plug-in. Safe to call more than once. Throws nothing; errors
@@ -62,7 +70,7 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         Obj::registerContentCodec("Mat::MaterialObject", {writeContent, readContent});
         kelta::registerMaterialVerbs();
         if (Gui::GuiApplication::Instance != nullptr)
-            kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
+            addToWindows(*Gui::GuiApplication::Instance);
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
             addFiles(*mainWindow);
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);

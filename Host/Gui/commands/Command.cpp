@@ -9,6 +9,8 @@
 #include <QAction>
 #include <QIcon>
 
+#include <utility>
+
 namespace Gui {
 
 CommandBase::~CommandBase()
@@ -100,10 +102,18 @@ bool Command::invoke(int index)
         if (!is_applicable())
             return;
         const vxMsg::MessageProxy::Group oneStep(name);
-        activated(index);
+        runThroughGuards(index);
         done = true;
     });
     return done;
+}
+
+void Command::runThroughGuards(int index)
+{
+    std::function<void()> run = [this, index] { activated(index); };
+    for (const CommandGuard& guard : m_guards)
+        run = [&guard, guarded = std::move(run)] { guard(guarded); };
+    run();
 }
 
 std::string Command::get_unique_object_name(const char* stem)

@@ -10,6 +10,8 @@
 
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace Gui {
 
@@ -73,6 +75,10 @@ private:
     QPointer<QAction> m_action;
 };
 
+/// Stands in front of a command: calls `run` to run the command, or does not, and may ask the user before and tell
+/// the user a result afterwards.
+using CommandGuard = std::function<void(const std::function<void()>& run)>;
+
 /// A command, known by its name. The command manager owns it.
 class GUI_EXPORT Command : public CommandBase
 {
@@ -83,16 +89,24 @@ public:
     const std::string& getName() const { return m_name; }
     QAction* new_action(QObject* parent) override;
 
-    /// Ends all edits in progress (MainWindow::finishEditing), and then runs the command if it is applicable. All that it requests is undone in one step. Nothing is thrown: an exception
-    /// is reported to the message log. Returns whether the command ran to its end.
+    /// Ends all edits in progress (MainWindow::finishEditing), and then runs the command, through its guards, if it is
+    /// applicable. All that the command and its guards request is undone in one step. Nothing is thrown: an exception is
+    /// reported to the message log. Returns whether command and guards ran to their end; a guard that does not run the
+    /// command has done so.
     bool invoke(int index = 0);
+
+    /// Puts a guard in front of the command. The guard that was added last is called first.
+    void addGuard(CommandGuard guard) { m_guards.push_back(std::move(guard)); }
 
     /// Returns a name that no object of the current project has or had; an empty text without a project.
     static std::string get_unique_object_name(const char* stem);
     static QKeySequence get_shortcut_from_keys(QKeySequence::StandardKey key);
 
 private:
+    void runThroughGuards(int index);
+
     std::string m_name;
+    std::vector<CommandGuard> m_guards;
 };
 
 } // namespace Gui

@@ -2,6 +2,8 @@
 
 #include "Kelta/MessageLog.h"
 
+#include <utility>
+
 namespace Gui {
 
 CommandController::CommandController() = default;
@@ -31,6 +33,15 @@ bool CommandController::run_command(std::string_view name)
     Kelta::MessageLog::error(QCoreApplication::translate("Gui::Command", "There is no command \"%1\".")
                                  .arg(QString::fromUtf8(name.data(), static_cast<int>(name.size()))));
     return false;
+}
+
+bool CommandController::addGuard(std::string_view name, CommandGuard guard)
+{
+    Command* const command = find_command(name);
+    if (command == nullptr)
+        return false;
+    command->addGuard(std::move(guard));
+    return true;
 }
 
 void CommandController::update_actions()

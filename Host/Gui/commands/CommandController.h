@@ -29,6 +29,8 @@ public:
     /// Runs a command as Command::invoke does. If there is no command with this name, reports that to the message log
     /// and returns false.
     bool run_command(std::string_view name);
+    /// Puts a guard in front of a command, as Command::addGuard does. Returns false if there is no command with this name.
+    bool addGuard(std::string_view name, CommandGuard guard);
     /// Returns all commands in the order of their registration.
     const std::vector<Command*>& get_commands() const { return m_order; }
 

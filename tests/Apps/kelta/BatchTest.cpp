@@ -71,18 +71,17 @@ TEST_F(Batch, ReadsStandardInput)
 
 TEST_F(Batch, AnswersBoxesAndFailsWhenTheyWarn)
 {
-    const Outcome outcome = runBatch("Mat_NewDoc\nMat_NewDoc\n");
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_Export no/such/folder.json\n");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(errorsOf(outcome),
-              "Material project: Material project is already presented in Project Explorer window.\n"
-              "list.batch:2: Material project: Material project is already presented in Project Explorer window.\n");
+    const std::string box = "Export materials: \"no/such/folder.json\" cannot be written: No such file or directory.\n";
+    EXPECT_EQ(errorsOf(outcome), box + "list.batch:2: " + box);
 }
 
 TEST_F(Batch, FailsWhenTheMaterialsAreNotReady)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nclear\ncheck\n");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_THAT(errorsOf(outcome), HasSubstr("No property is defined in 'Material'."));
+    EXPECT_THAT(errorsOf(outcome), HasSubstr("Not ready in \"Materials\": 1 of 1 materials. Findings: 1."));
     EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:5: "));
 }
 
@@ -95,8 +94,11 @@ TEST_F(Batch, RefusesWrongArguments)
           std::pair("select-project Nowhere", "there is no such project"),
           std::pair("use Unobtainium", "the library has no material \"Unobtainium\""),
           std::pair("set Colour 7", "the catalogue has no quantity \"Colour\""),
-          std::pair("set Density", "a quantity and its value"),
-          std::pair("Mat_Export a b", "takes at most one argument"), std::pair("screenshot", "one file name is needed"),
+          std::pair("set Density", "a quantity and its value"), std::pair("Mat_Export a b", "needs one argument"),
+          std::pair("Mat_Export", "needs one argument"), std::pair("Mat_NewDoc", "is open; close it first"),
+          std::pair("Std_Copy a b", "takes at most one argument"),
+          std::pair("set E \"210 GPa\"", "would be read as \"210\""),
+          std::pair("screenshot", "one file name is needed"),
           std::pair("screenshot no/such/folder.png", "cannot be written"),
           std::pair("database all", "no argument is taken")})
     {

@@ -2,7 +2,6 @@
 
 #include "Gui/Contributions.h"
 #include "Gui/ProjectExplorer.h"
-#include "Kelta/MessageLog.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -10,9 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QStatusBar>
 #include <QToolBar>
-#include <QtTest/QtTestGui>
 
 namespace {
 
@@ -60,7 +57,6 @@ protected:
                 names.push_back(button->objectName().toStdString());
         return names;
     }
-    static std::string lastMessage() { return Kelta::MessageLog::instance().messages().back().text.toStdString(); }
 };
 
 TEST_F(Materials, HaveTheirCommandsInTheMenus)
@@ -144,32 +140,6 @@ TEST_F(Materials, AreCheckedByF7)
 {
     const Gui::Command* const check = Gui::GuiApplication::Instance->get_command_manager().find_command("Mat_Check");
     EXPECT_EQ(check->get_shortcut(), QKeySequence(Qt::Key_F7));
-    newProject();
-    addMaterial();
-    window->update_commands();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    QTest::keyClick(window.get(), Qt::Key_F7);
-    EXPECT_EQ(lastMessage(), "All materials of \"Materials\" are ready.");
-    EXPECT_EQ(window->statusBar()->currentMessage(), "All materials of \"Materials\" are ready.");
-}
-
-TEST_F(Materials, ThatAreNotReadyAreNamedByTheCheck)
-{
-    newProject();
-    addMaterial().getCMaterial()->clearProperties();
-    {
-        const Answers boxes({"OK"});
-        EXPECT_TRUE(run("Mat_Check"));
-        EXPECT_EQ(boxes.boxes().size(), 1);
-    }
-    EXPECT_EQ(lastMessage(), "The materials of \"Materials\" are not all ready.");
-    EXPECT_EQ(Kelta::MessageLog::instance().messages().back().severity, Kelta::LogMessage::Severity::Warning);
-}
-
-TEST_F(Materials, AreNotCheckedWithoutAProject)
-{
-    EXPECT_FALSE(run("Mat_Check"));
 }
 
 TEST_F(Materials, ContributeOnceHoweverOftenTheyAreAsked)

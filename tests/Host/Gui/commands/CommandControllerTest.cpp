@@ -4,6 +4,10 @@
 
 #include <QAction>
 
+#include <stdexcept>
+#include <string>
+#include <vector>
+
 namespace {
 
 using testing::ElementsAre;
@@ -80,6 +84,59 @@ TEST_F(CommandControllerTest, ReportsACommandThatItDoesNotHave)
     Gui::CommandController controller;
     EXPECT_FALSE(controller.run_command("Test_Grün"));
     EXPECT_EQ(lastMessage(), "There is no command \"Test_Grün\".");
+}
+
+TEST_F(CommandControllerTest, RunsACommandThroughItsGuardsTheLastFirst)
+{
+    Gui::CommandController controller;
+    std::vector<std::string> order;
+    controller.new_command(new TestCommand("Test_A", [&order] { order.emplace_back("command"); }));
+    for (const char* const name : {"first", "last"})
+        EXPECT_TRUE(controller.addGuard("Test_A", [&order, name](const std::function<void()>& run) {
+            order.push_back(std::string("before ") + name);
+            run();
+            order.push_back(std::string("after ") + name);
+        }));
+    EXPECT_TRUE(controller.run_command("Test_A"));
+    EXPECT_THAT(order, ElementsAre("before last", "before first", "command", "after first", "after last"));
+}
+
+TEST_F(CommandControllerTest, RunsNoCommandThatItsGuardRefuses)
+{
+    Gui::CommandController controller;
+    auto* const command = new TestCommand("Test_A", {});
+    controller.new_command(command);
+    EXPECT_TRUE(controller.addGuard("Test_A", [](const std::function<void()>&) {}));
+    command->new_action(window.get())->trigger();
+    EXPECT_TRUE(controller.run_command("Test_A"));
+    EXPECT_EQ(command->lastIndex, -1);
+}
+
+TEST_F(CommandControllerTest, ReportsWhatAGuardThrows)
+{
+    Gui::CommandController controller;
+    controller.new_command(new TestCommand("Test_A", {}));
+    controller.addGuard("Test_A", [](const std::function<void()>&) { throw std::runtime_error("out of ink"); });
+    EXPECT_FALSE(controller.run_command("Test_A"));
+    EXPECT_THAT(lastMessage(), testing::HasSubstr("out of ink"));
+}
+
+TEST_F(CommandControllerTest, AsksNoGuardOfACommandThatIsNotApplicable)
+{
+    Gui::CommandController controller;
+    auto* const command = new TestCommand("Test_A", {});
+    controller.new_command(command);
+    command->applicable = false;
+    bool asked = false;
+    controller.addGuard("Test_A", [&asked](const std::function<void()>&) { asked = true; });
+    EXPECT_FALSE(controller.run_command("Test_A"));
+    EXPECT_FALSE(asked);
+}
+
+TEST_F(CommandControllerTest, TakesNoGuardForACommandThatItDoesNotHave)
+{
+    Gui::CommandController controller;
+    EXPECT_FALSE(controller.addGuard("Test_A", [](const std::function<void()>& run) { run(); }));
 }
 
 TEST_F(CommandControllerTest, EnablesWhatIsApplicableAlone)

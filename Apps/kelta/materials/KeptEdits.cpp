@@ -1,0 +1,66 @@
+#include "KeptEdits.h"
+
+#include "Gui/GuiApplication.h"
+#include "Gui/MainWindow.h"
+#include "Gui/ViewFeeder.h"
+#include "Kelta/Exceptions.h"
+#include "Obj/Application.h"
+#include "vxMaterial/gui/MaterialView.h"
+
+#include <QTimer>
+
+namespace kelta {
+
+namespace {
+
+/// Opens the editor of an object; null if there is none.
+MatGui::MaterialView* openEditor(Obj::ProjectObject& object)
+{
+    Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
+    if (node == nullptr)
+        return nullptr;
+    node->setEdit(0);
+    for (Gui::MDIWindow* const window : Gui::MainWindow::get_main_window_inst()->get_mdi_windows())
+        if (window->get_edited_object() == &object)
+            return qobject_cast<MatGui::MaterialView*>(window);
+    return nullptr;
+}
+
+} // namespace
+
+KeptEdits::KeptEdits(QObject* parent) : QObject(parent) {}
+
+KeptEdits::~KeptEdits() = default;
+
+void KeptEdits::keep(Obj::Project& project, std::uint32_t objectId, Json::Value edits)
+{
+    if (edits.isNull())
+        return;
+    const std::uint32_t projectId = project.getProjectId();
+    m_edits[{projectId, objectId}] = std::move(edits);
+    if (m_connections.count(projectId) != 0)
+        return;
+    m_connections[projectId] = project.objectAdded.connect([this, projectId](const Obj::ProjectObject& added) {
+        const Place place(projectId, added.getObjectId());
+        // Later, when the step of undo or redo is complete.
+        if (m_edits.count(place) != 0)
+            QTimer::singleShot(0, this, [this, place] { bringBack(place); });
+    });
+}
+
+void KeptEdits::bringBack(const Place& place)
+{
+    Kelta::guarded(tr("Changes that were not applied cannot be shown again"), [&] {
+        const Obj::Project* const project = Obj::Application::instance().get_project(place.first);
+        Obj::ProjectObject* const object = project != nullptr ? project->get_object(place.second) : nullptr;
+        const auto kept = m_edits.find(place);
+        if (object == nullptr || kept == m_edits.end())
+            return;
+        const Json::Value edits = std::move(kept->second);
+        m_edits.erase(kept);
+        if (MatGui::MaterialView* const editor = openEditor(*object))
+            editor->restoreUnapplied(edits);
+    });
+}
+
+} // namespace kelta

@@ -1,0 +1,63 @@
+#include "MaterialCheck.h"
+
+#include "UnappliedEdits.h"
+
+#include "Kelta/MessageLog.h"
+#include "vxMaterial/gui/FindingText.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+
+#include <QCoreApplication>
+
+#include <vector>
+
+namespace kelta {
+
+namespace {
+
+constexpr std::size_t mostReported = 1000;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("kelta::MaterialCheck", text);
+}
+
+/// Checks one material and writes its findings to the message log, as long as there are not too many.
+void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
+{
+    const std::vector<vxMat::MaterialFinding> findings = vxMat::checkMaterial(*object.getCMaterial());
+    const QString label = QString::fromStdString(object.label.getValue());
+    ++summary.materials;
+    summary.notReady += findings.empty() ? 0 : 1;
+    for (const vxMat::MaterialFinding& finding : findings)
+        if (++summary.findings <= mostReported)
+            Kelta::MessageLog::warning(tr("\"%1\": %2").arg(label, MatGui::findingText(finding)));
+}
+
+} // namespace
+
+QString CheckSummary::toText(const QString& projectName) const
+{
+    QString text =
+        isReady()
+            ? tr("All materials of \"%1\" are ready (%2 checked).").arg(projectName, QString::number(materials))
+            : tr("Not ready in \"%1\": %2 of %3 materials. Findings: %4.")
+                  .arg(projectName, QString::number(notReady), QString::number(materials), QString::number(findings));
+    if (unapplied != 0)
+        text +=
+            QLatin1Char(' ') + tr("Changes in open editors that are not applied were not checked: %1.").arg(unapplied);
+    return text;
+}
+
+CheckSummary checkAndReport(const Mat::DocumentMaterial& project)
+{
+    CheckSummary summary;
+    for (const Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
+        checkMaterial(*static_cast<const Mat::MaterialObject*>(object), summary);
+    if (summary.findings > mostReported)
+        Kelta::MessageLog::warning(tr("Further findings are not listed: %1.").arg(summary.findings - mostReported));
+    summary.unapplied = findUnapplied(project).size();
+    return summary;
+}
+
+} // namespace kelta

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+
+namespace Mat {
+class DocumentMaterial;
+} // namespace Mat
+
+namespace kelta {
+
+/// What a check of all materials of a project has found.
+struct CheckSummary
+{
+    std::size_t materials = 0; ///< those that were checked
+    std::size_t notReady = 0;  ///< those with findings
+    std::size_t findings = 0;  ///< of all materials together
+    std::size_t unapplied = 0; ///< those whose editors have changes that are not applied, and are not checked
+    bool isReady() const { return notReady == 0; }
+    /// Returns a sentence for the user about the project of this name.
+    QString toText(const QString& projectName) const;
+};
+
+/// Checks all materials of a project by vxMat::checkMaterial and writes each finding, with the label of its material, to
+/// the message log as a warning; after the first 1000 findings only a line that says that there are more.
+CheckSummary checkAndReport(const Mat::DocumentMaterial& project);
+
+} // namespace kelta

@@ -1,0 +1,162 @@
+#include "MaterialGuards.h"
+
+#include "MaterialExport.h"
+#include "MaterialProjects.h"
+#include "UnappliedEdits.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/FileDialog.h"
+#include "Gui/MDIWindow.h"
+#include "Gui/MainWindow.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace kelta {
+
+namespace {
+
+using Run = std::function<void()>;
+
+constexpr std::ptrdiff_t mostUnasked = 10;
+constexpr std::ptrdiff_t mostAtOnce = 100;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("kelta::MaterialGuards", text);
+}
+
+int showBox(QMessageBox::Icon icon, const QString& title, const QString& text, QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(icon, title, text, buttons, Gui::MainWindow::get_main_window_inst());
+    box.setTextFormat(Qt::PlainText);
+    return box.exec();
+}
+
+bool confirm(const QString& title, const QString& text)
+{
+    return showBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void refuse(const QString& title, const QString& text)
+{
+    showBox(QMessageBox::Warning, title, text, QMessageBox::Ok);
+}
+
+/// Closes the material projects that are open, which asks about changes that are not saved. Returns whether none is left.
+bool closeProjects()
+{
+    for (const Obj::Project* const project : materialProjects())
+        if (!vxMsg::MessageProxy::instance().closeProject(project->get_name()))
+            return false;
+    return materialProjects().empty();
+}
+
+void guardNewProject(const Run& run)
+{
+    const auto open = materialProjects();
+    const bool mayRun =
+        open.empty() || (confirm(tr("New material project"),
+                                 tr("Only one material project can be used at a time. Close \"%1\" and make a new one?")
+                                     .arg(QString::fromUtf8(open.front()->get_name()))) &&
+                         closeProjects());
+    if (mayRun)
+        run();
+}
+
+/// Asks for the file as the command itself does, which then takes the name from here.
+QString askForFile()
+{
+    constexpr const char* context = "CmdMatExport";
+    return Gui::FileDialog::getSaveFileName(
+        Gui::MainWindow::get_main_window_inst(), QCoreApplication::translate(context, "Export materials"), {},
+        QCoreApplication::translate(context, "JSON file(*.json)") + QStringLiteral(";;") +
+            QCoreApplication::translate(context, "All files(*.*)"));
+}
+
+/// Returns the reason against an export that no file name changes; an empty text if there is none.
+QString findObstacle()
+{
+    const auto open = materialProjects();
+    if (open.empty())
+        return tr("No material project is open. Open one, then export it.");
+    if (open.size() > 1)
+        return tr("Material projects that are open: %1. Only a single one can be exported. Close the others first.")
+            .arg(open.size());
+    return {};
+}
+
+void exportTo(const QString& path, const Mat::DocumentMaterial& project, const Run& run)
+{
+    const std::uint32_t projectId = project.getProjectId();
+    Gui::FileDialog::answer_next(path);
+    run();
+    if (const Obj::Project* const exported = Obj::Application::instance().get_project(projectId))
+        reportExport(static_cast<const Mat::DocumentMaterial&>(*exported), path);
+}
+
+void guardExport(const Run& run)
+{
+    const QString title = tr("Export materials");
+    if (const QString obstacle = findObstacle(); !obstacle.isEmpty())
+        return refuse(title, obstacle);
+    const std::uint32_t projectId = materialProjects().front()->getProjectId();
+    if (!askToApply(*materialProjects().front(),
+                    {title, tr("Only what has been applied is exported."), tr("&Export without them")}))
+        return;
+    const QString path = askForFile();
+    // The project may have been closed while the user answered.
+    const auto open = materialProjects();
+    if (path.isEmpty() || open.size() != 1 || open.front()->getProjectId() != projectId)
+        return;
+    for (const QString& obstacle : {findExportObstacle(*open.front()), findWriteObstacle(path)})
+        if (!obstacle.isEmpty())
+            return refuse(title, obstacle);
+    exportTo(path, *open.front(), run);
+}
+
+bool isOpenInEditor(const Obj::ProjectObject* object)
+{
+    const auto windows = Gui::MainWindow::get_main_window_inst()->get_mdi_windows();
+    return std::any_of(windows.begin(), windows.end(),
+                       [object](const Gui::MDIWindow* window) { return window->get_edited_object() == object; });
+}
+
+/// The number of editors that the command would open.
+std::ptrdiff_t countNewEditors()
+{
+    const auto selected =
+        Gui::TreeSelectionSingleton::instance().get_objects_of_type(Mat::MaterialObject::getClassTypeId());
+    // With so many materials the command is refused whether some are open or not, and no time is spent on them.
+    if (static_cast<std::ptrdiff_t>(selected.size()) > 2 * mostAtOnce)
+        return static_cast<std::ptrdiff_t>(selected.size());
+    return std::count_if(selected.begin(), selected.end(),
+                         [](const Obj::ProjectObject* object) { return !isOpenInEditor(object); });
+}
+
+void guardEdit(const Run& run)
+{
+    const QString title = tr("Edit materials");
+    const std::ptrdiff_t count = countNewEditors();
+    if (count > mostAtOnce)
+        return refuse(title, tr("Materials selected: %1. At most %2 can be opened at a time. Select fewer.")
+                                 .arg(QString::number(count), QString::number(mostAtOnce)));
+    if (count <= mostUnasked || confirm(title, tr("Open %1 editors?").arg(count)))
+        run();
+}
+
+} // namespace
+
+void addMaterialGuards(Gui::CommandController& commands)
+{
+    commands.addGuard("Mat_NewDoc", guardNewProject);
+    commands.addGuard("Mat_Export", guardExport);
+    commands.addGuard("Mat_Edit", guardEdit);
+}
+
+} // namespace kelta

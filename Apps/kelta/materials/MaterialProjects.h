@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+namespace Mat {
+class DocumentMaterial;
+} // namespace Mat
+
+namespace kelta {
+
+/// The material projects that are open. The application keeps them.
+std::vector<Mat::DocumentMaterial*> materialProjects();
+
+/// The current project, if it is a material project; null otherwise.
+Mat::DocumentMaterial* currentMaterialProject();
+
+} // namespace kelta

@@ -1,0 +1,262 @@
+#include "MaterialChange.h"
+#include "MaterialsTesting.h"
+
+#include "Gui/Translator.h"
+#include "vxMaterial/gui/SheetTableView.h"
+#include "vxMaterial/model/MatDBManager.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <set>
+
+namespace {
+
+using testing::HasSubstr;
+using vxtest::MessageBoxes;
+
+class AppliedEdits : public vxtest::Materials
+{
+protected:
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    int stepsBefore = history().count();
+};
+
+TEST_F(AppliedEdits, AreOneStepOfTheHistory)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, density, "4321");
+    type(editor, modulus, "7e10");
+    EXPECT_EQ(history().count(), stepsBefore);
+    apply(editor);
+    EXPECT_EQ(history().count(), stepsBefore + 1);
+    EXPECT_EQ(modulusOf(steel), 7e10);
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    history().redo();
+    EXPECT_EQ(modulusOf(steel), 7e10);
+}
+
+TEST_F(AppliedEdits, AreAStepEachTime)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, "7e10");
+    apply(editor);
+    type(editor, modulus, "8e10");
+    apply(editor);
+    EXPECT_EQ(history().count(), stepsBefore + 2);
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 7e10);
+}
+
+TEST_F(AppliedEdits, AreNoStepIfTheMaterialIsAsBefore)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    // The value of a switch has no meaning; the first Apply sets it to 1.
+    apply(editor);
+    const int steps = history().count();
+    apply(editor);
+    EXPECT_EQ(history().count(), steps);
+    type(editor, modulus, "7e10");
+    type(editor, modulus, "2e11");
+    apply(editor);
+    EXPECT_EQ(history().count(), steps);
+}
+
+TEST_F(AppliedEdits, FollowWhatCommandsDidWhileTheEditorWasOpen)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    auto before = kelta::copyOf(*steel.getCMaterial());
+    setNumber(steel, density, 1000.0);
+    kelta::recordChange(steel, std::move(before));
+    type(editor, modulus, "7e10");
+    apply(editor);
+    history().undo();
+    // The density that the editor showed and wrote is taken back with the modulus.
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_EQ(steel.getCMaterial()->findProperty(density)->value, 1000.0);
+}
+
+TEST_F(AppliedEdits, HaveTheUnitsAndCategoriesOfTheCatalogue)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, "7e10");
+    apply(editor);
+    const vxMat::MaterialProperty& held = *steel.getCMaterial()->findProperty(modulus);
+    EXPECT_EQ(held.name, "Young's modulus");
+    EXPECT_EQ(held.unit, "Pa");
+    EXPECT_EQ(held.category, vxMat::ePropertyCategory::LinearElastic);
+}
+
+TEST_F(AppliedEdits, AreRefusedIfTextBehindANumberWouldBeIgnored)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, "210 GPa");
+    const MessageBoxes boxes;
+    apply(editor);
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(
+        boxes.shown().front().text.toStdString(),
+        HasSubstr("The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\"; \"GPa\" would be ignored."));
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_EQ(history().count(), stepsBefore);
+    const auto* const table = editor.findChild<MatGui::SheetTableView*>();
+    EXPECT_EQ(table->currentIndex().row(), table->findRow(modulus));
+    EXPECT_TRUE(editor.isWindowModified());
+}
+
+TEST_F(AppliedEdits, AreShownAsTheMaterialHoldsThem)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, " 7.0e10 ");
+    apply(editor);
+    EXPECT_EQ(shownValue(editor, modulus), "7e+10");
+    EXPECT_FALSE(editor.isWindowModified());
+}
+
+class UnappliedEdits : public vxtest::Materials
+{
+protected:
+    bool isEdited() const { return !window->get_mdi_windows().isEmpty(); }
+    /// Waits until the steel is edited again, with the modulus that was typed and not applied.
+    void expectEditsAreBack()
+    {
+        ASSERT_TRUE(
+            vxtest::waitFor([this] { return isEdited() && window->get_mdi_windows().front()->isWindowModified(); }));
+        const auto& editor = dynamic_cast<const MatGui::MaterialView&>(*window->get_mdi_windows().front());
+        EXPECT_EQ(editor.getMaterialObject(), &steel);
+        EXPECT_EQ(shownValue(editor, modulus), "7e10");
+        EXPECT_EQ(modulusOf(steel), 2e11);
+    }
+
+    Mat::MaterialObject& steel = addMaterial(newProject());
+};
+
+TEST_F(UnappliedEdits, ComeBackWithANewMaterialThatIsUndoneAndRedone)
+{
+    type(edit(steel), modulus, "7e10");
+    history().undo();
+    ASSERT_TRUE(vxtest::waitFor([this] { return !isEdited(); }));
+    history().redo();
+    expectEditsAreBack();
+}
+
+TEST_F(UnappliedEdits, ComeBackWithAMaterialWhoseDeletionIsUndone)
+{
+    type(edit(steel), modulus, "7e10");
+    for (int round = 0; round < 2; ++round) {
+        select({&steel});
+        EXPECT_TRUE(run("Mat_Delete"));
+        ASSERT_TRUE(vxtest::waitFor([this] { return !isEdited(); }));
+        history().undo();
+        expectEditsAreBack();
+    }
+}
+
+TEST_F(UnappliedEdits, DoNotComeBackAfterTheyWereApplied)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, "7e10");
+    apply(editor);
+    select({&steel});
+    EXPECT_TRUE(run("Mat_Delete"));
+    history().undo();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isEdited());
+}
+
+/// The materials of the library, edited in another language.
+class Language : public vxtest::Materials, public testing::WithParamInterface<const char*>
+{
+protected:
+    Language()
+    {
+        for (const auto& [type, material] : project.getMatMgr().materials) {
+            objects.push_back(&addMaterial(project, material->name));
+            objects.back()->setCMaterial(material.get());
+        }
+        Gui::Translator::instance()->setLanguage(QLatin1String(GetParam()));
+        QCoreApplication::processEvents();
+    }
+    ~Language() override
+    {
+        Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
+        QCoreApplication::processEvents();
+    }
+
+    const vxMat::MaterialProperty& catalogued(int id) const { return *project.getMatMgr().propertyCatalogue.at(id); }
+
+    /// Opens the editor of a material, which shows the names of its properties in the other language, and applies.
+    void applyInEditor(Mat::MaterialObject& object)
+    {
+        MatGui::MaterialView& editor = edit(object);
+        const QAbstractItemModel& rows = *editor.findChild<MatGui::SheetTableView*>()->model();
+        int translated = 0;
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            const int id = rows.index(row, MatGui::SheetTableView::Id).data().toInt();
+            const QString name = rows.index(row, MatGui::SheetTableView::Name).data().toString();
+            translated += name.toStdString() != catalogued(id).name ? 1 : 0;
+        }
+        EXPECT_GT(translated, 0);
+        const MessageBoxes boxes;
+        apply(editor);
+        EXPECT_TRUE(boxes.shown().empty());
+        editor.remove_viewself();
+    }
+
+    void expectCatalogueTexts(const vxMat::MaterialBase& before, const vxMat::MaterialBase& now) const
+    {
+        EXPECT_FALSE(now.properties.empty());
+        for (const auto& [slot, property] : now.properties) {
+            SCOPED_TRACE(catalogued(slot).name);
+            EXPECT_EQ(property->name, catalogued(slot).name);
+            EXPECT_EQ(property->unit, catalogued(slot).unit);
+            EXPECT_EQ(property->description, catalogued(slot).description);
+            EXPECT_EQ(property->category, catalogued(slot).category);
+            EXPECT_EQ(property->key, before.findProperty(slot)->key);
+            EXPECT_EQ(property->text, before.findProperty(slot)->text);
+        }
+    }
+
+    Mat::DocumentMaterial& project = newProject();
+    std::vector<Mat::MaterialObject*> objects;
+};
+
+TEST_P(Language, LeavesNoTranslationInMaterials)
+{
+    for (Mat::MaterialObject* const object : objects) {
+        SCOPED_TRACE(object->label.getValue());
+        const auto before = kelta::copyOf(*object->getCMaterial());
+        applyInEditor(*object);
+        expectCatalogueTexts(*before, *object->getCMaterial());
+    }
+}
+
+TEST_P(Language, LeavesNoTranslationInDocuments)
+{
+    for (Mat::MaterialObject* const object : objects)
+        applyInEditor(*object);
+    ASSERT_TRUE(run("Mat_Export", path("a.json")));
+    QFile file(path("a.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    std::set<std::string> names;
+    for (const auto& [id, quantity] : project.getMatMgr().propertyCatalogue)
+        names.insert({quantity->name, quantity->key});
+    const QJsonObject document = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonArray materials = document["material"].toArray();
+    EXPECT_EQ(materials.size(), static_cast<int>(objects.size()));
+    for (const QJsonValue material : materials)
+        for (const QJsonValue property : material["Props"].toArray()) {
+            EXPECT_THAT(names, testing::Contains(property["prop_name"].toString().toStdString()));
+            EXPECT_THAT(names, testing::Contains(property["prop_key"].toString().toStdString()));
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTheProgram, Language, testing::Values("de", "zh_CN"),
+                         [](const testing::TestParamInfo<const char*>& language) {
+                             return std::string(language.param);
+                         });
+
+} // namespace

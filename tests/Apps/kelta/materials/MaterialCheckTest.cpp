@@ -1,0 +1,129 @@
+#include "MaterialsTesting.h"
+
+#include "Gui/Command.h"
+#include "Gui/CommandController.h"
+#include "kelta/Batch.h"
+#include "vxCAE/CaeManager.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QtTest/QtTestGui>
+
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+using vxtest::MessageBoxes;
+
+/// Presses the entry of a command in a menu of the window. Fails the test if the menu has no such entry, or if it is grey.
+class Check : public vxtest::Materials
+{
+protected:
+    void chooseInMenu(const char* menuTitle, const char* command) const
+    {
+        QCoreApplication::processEvents();
+        window->update_commands();
+        for (const QAction* const menu : window->menuBar()->actions())
+            if (menu->text() == QLatin1String(menuTitle))
+                for (QAction* const entry : menu->menu()->actions())
+                    if (entry->objectName() == QLatin1String(command)) {
+                        EXPECT_TRUE(entry->isEnabled());
+                        return entry->trigger();
+                    }
+        FAIL() << menuTitle << " has no " << command;
+    }
+    static const Kelta::LogMessage& lastMessage() { return Kelta::MessageLog::instance().messages().back(); }
+
+    Mat::DocumentMaterial& project = newProject();
+};
+
+TEST_F(Check, OfReadyMaterialsSaysHowManyWereChecked)
+{
+    addMaterial(project);
+    addMaterial(project);
+    window->update_commands();
+    QTest::keyClick(window.get(), Qt::Key_F7);
+    const std::string text = "All materials of \"Materials\" are ready (2 checked).";
+    EXPECT_EQ(lastMessage().text.toStdString(), text);
+    EXPECT_EQ(lastMessage().severity, Kelta::LogMessage::Severity::Information);
+    EXPECT_EQ(window->statusBar()->currentMessage().toStdString(), text);
+}
+
+TEST_F(Check, ListsEachFindingWithTheLabelOfItsMaterial)
+{
+    addMaterial(project);
+    addMaterial(project, "Empty").getCMaterial()->clearProperties();
+    setNumber(addMaterial(project, "Light"), density, -1.0);
+    const MessageBoxes boxes;
+    chooseInMenu("&Material", "Mat_Check");
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_THAT(messages(), Contains(HasSubstr("\"Empty\": ")));
+    EXPECT_THAT(messages(), Contains(testing::AllOf(HasSubstr("\"Light\": "), HasSubstr("-1"))));
+    EXPECT_THAT(messages(), testing::Not(Contains(HasSubstr("\"Steel\": "))));
+    EXPECT_EQ(lastMessage().text, "Not ready in \"Materials\": 2 of 3 materials. Findings: 2.");
+    EXPECT_EQ(lastMessage().severity, Kelta::LogMessage::Severity::Warning);
+}
+
+TEST_F(Check, AcceptsMaterialsWithWordsAndLists)
+{
+    Mat::MaterialObject& plastic = addMaterial(project);
+    for (const auto& [type, material] : project.getMatMgr().materials)
+        if (material->name == "Plastic Example 1")
+            plastic.setCMaterial(material.get());
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Check"));
+    EXPECT_EQ(lastMessage().text, "All materials of \"Materials\" are ready (1 checked).");
+    EXPECT_TRUE(boxes.shown().empty());
+}
+
+TEST_F(Check, SaysThatEditsAreNotAppliedYet)
+{
+    type(edit(addMaterial(project)), density, "-1");
+    EXPECT_TRUE(run("Mat_Check"));
+    EXPECT_THAT(lastMessage().text.toStdString(),
+                HasSubstr("Changes in open editors that are not applied were not checked: 1."));
+}
+
+TEST_F(Check, ListsAThousandFindingsAndCountsTheOthers)
+{
+    addMaterials(project, 1002);
+    for (Obj::ProjectObject* const object : project.get_objects())
+        static_cast<Mat::MaterialObject*>(object)->getCMaterial()->clearProperties();
+    Kelta::MessageLog::instance().clear();
+    EXPECT_TRUE(run("Mat_Check"));
+    ASSERT_EQ(messages().size(), 1002U);
+    EXPECT_EQ(messages()[1000], "Further findings are not listed: 2.");
+    EXPECT_EQ(messages()[1001], "Not ready in \"Materials\": 1002 of 1002 materials. Findings: 1002.");
+}
+
+TEST_F(Check, NeedsAProjectOfMaterials)
+{
+    vxMsg::MessageProxy::instance().closeProject(project.get_name());
+    EXPECT_FALSE(run("Mat_Check"));
+}
+
+TEST_F(Check, FailsAListOfCommandsIfThereAreFindings)
+{
+    for (const char* const command : {"check", "Mat_Check"}) {
+        EXPECT_EQ(kelta::Batch::run_command(QLatin1String(command), {}), std::nullopt);
+    }
+    addMaterial(project).getCMaterial()->clearProperties();
+    for (const char* const command : {"check", "Mat_Check"}) {
+        const auto failure = kelta::Batch::run_command(QLatin1String(command), {});
+        EXPECT_EQ(failure.value_or(""), "Not ready in \"Materials\": 1 of 1 materials. Findings: 1.");
+    }
+}
+
+TEST_F(Check, IsFollowedByTheHandOverToTheSolver)
+{
+    addMaterial(project);
+    chooseInMenu("&Project", "Std_Collect");
+    const vxCAE::CAESet* const set = vxCAE::GetCaeManager().getCAE(project.getProjectId());
+    ASSERT_NE(set, nullptr);
+    EXPECT_EQ(set->materials->entries.size(), 1U);
+    EXPECT_EQ(lastMessage().text, "\"Materials\" was handed over to the solver.");
+    vxCAE::GetCaeManager().setCAE(project.getProjectId(), nullptr);
+}
+
+} // namespace

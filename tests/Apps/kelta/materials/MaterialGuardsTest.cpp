@@ -1,0 +1,271 @@
+#include "MaterialsTesting.h"
+
+#include "Gui/FileDialog.h"
+#include "Obj/Application.h"
+#include "projectfile/ExchangeImport.h"
+#include "projectfile/ProjectStore.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <limits>
+
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+using vxtest::MessageBoxes;
+
+std::vector<std::string> projectNames()
+{
+    std::vector<std::string> names;
+    for (const Obj::Project* const project : Obj::Application::get_projects())
+        names.emplace_back(project->get_name());
+    return names;
+}
+
+class SecondProject : public vxtest::Materials
+{};
+
+TEST_F(SecondProject, IsMadeAfterTheFirstIsClosed)
+{
+    newProject("First");
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().icon, QMessageBox::Question);
+    EXPECT_EQ(boxes.shown().front().buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(boxes.shown().front().text,
+              "Only one material project can be used at a time. Close \"First\" and make a new one?");
+    EXPECT_THAT(projectNames(), testing::ElementsAre("Materials"));
+}
+
+TEST_F(SecondProject, IsTakenBackWithTheClosingInOneStep)
+{
+    newProject("First");
+    {
+        const MessageBoxes boxes(QMessageBox::Yes);
+        EXPECT_TRUE(run("Mat_NewDoc"));
+    }
+    history().undo();
+    EXPECT_THAT(projectNames(), testing::ElementsAre("First"));
+    history().redo();
+    EXPECT_THAT(projectNames(), testing::ElementsAre("Materials"));
+}
+
+TEST_F(SecondProject, IsNotMadeIfTheUserKeepsTheFirst)
+{
+    newProject("First");
+    const MessageBoxes boxes(QMessageBox::No);
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    EXPECT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(projectNames(), testing::ElementsAre("First"));
+}
+
+TEST_F(SecondProject, IsNotMadeIfTheFirstRefusesToClose)
+{
+    newProject("First");
+    const boost::signals2::scoped_connection keeper =
+        vxMsg::MessageProxy::instance().projectClosing.connect([](Obj::Project&, bool& refused) { refused = true; });
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    EXPECT_THAT(projectNames(), testing::ElementsAre("First"));
+}
+
+TEST_F(SecondProject, IsTheFirstWithoutAnother)
+{
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_NewDoc"));
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_THAT(projectNames(), testing::ElementsAre("Materials"));
+}
+
+class Export : public vxtest::Materials
+{
+protected:
+    static std::string contentOf(const QString& path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll().toStdString();
+    }
+    static std::string lastMessage() { return messages().back(); }
+    double writtenModulus() const
+    {
+        const auto imported = projectfile::importExchange(projectfile::readFile(file));
+        return imported.materials.at(0).material->findProperty(modulus)->value;
+    }
+    /// Exports with one answer to the box that is expected, and returns what the box asked.
+    std::string exportAnswering(QMessageBox::StandardButton answer)
+    {
+        const MessageBoxes boxes(answer);
+        EXPECT_TRUE(run("Mat_Export", file));
+        EXPECT_EQ(boxes.shown().size(), 1U);
+        return boxes.shown().empty() ? "" : boxes.shown().front().text.toStdString();
+    }
+
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    const QString file = path("a.json");
+};
+
+TEST_F(Export, SaysWhereHowManyMaterialsWereWritten)
+{
+    addMaterial(project);
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_EQ(lastMessage(), "Materials written to \"" + file.toStdString() + "\": 2.");
+    EXPECT_EQ(projectfile::importExchange(projectfile::readFile(file)).materials.size(), 2U);
+}
+
+TEST_F(Export, CountsSuppressedMaterialsWhichItWritesToo)
+{
+    addMaterial(project).setSuppressed(true);
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_EQ(lastMessage(),
+              "Materials written to \"" + file.toStdString() + "\": 2. Suppressed materials among them: 1.");
+}
+
+TEST_F(Export, NamesWordsAndListsThatAreNotWritten)
+{
+    for (const auto& [type, material] : project.getMatMgr().materials)
+        if (material->name == "Plastic Example 1")
+            steel.setCMaterial(material.get());
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_THAT(messages(), Contains(testing::AllOf(HasSubstr("\"Steel\": An exchange document carries no words and "
+                                                              "lists. Not written: \""),
+                                                    HasSubstr("\"Yield stress\""))));
+}
+
+TEST_F(Export, AppliesEditsIfTheUserWants)
+{
+    type(edit(steel), modulus, "7e10");
+    EXPECT_EQ(exportAnswering(QMessageBox::Apply), "The changes of \"Steel\" in its editor have not been applied.");
+    EXPECT_EQ(modulusOf(steel), 7e10);
+    EXPECT_EQ(writtenModulus(), 7e10);
+}
+
+TEST_F(Export, WritesWithoutEditsIfTheUserWants)
+{
+    type(edit(steel), modulus, "7e10");
+    exportAnswering(QMessageBox::Discard);
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_EQ(writtenModulus(), 2e11);
+    EXPECT_TRUE(window->get_active_mdi_window()->isWindowModified());
+}
+
+TEST_F(Export, WritesNothingIfTheUserCancels)
+{
+    type(edit(steel), modulus, "7e10");
+    exportAnswering(QMessageBox::Cancel);
+    Gui::FileDialog::answer_next({});
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(window->get_active_mdi_window()->isWindowModified());
+}
+
+TEST_F(Export, WritesNothingIfEditsCannotBeApplied)
+{
+    type(edit(steel), modulus, "stiff");
+    // The question, and the reason of the editor, whose box is closed.
+    const MessageBoxes boxes(QMessageBox::Apply);
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_EQ(boxes.shown().size(), 2U);
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(Export, RefusesNumbersThatNoDocumentCanContain)
+{
+    setNumber(steel, density, std::numeric_limits<double>::infinity());
+    EXPECT_EQ(exportAnswering(QMessageBox::Ok),
+              "The value of \"Density\" of \"Steel\" is inf. An exchange document contains only finite numbers. Change "
+              "the value, then export again.");
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(Export, SaysThatAFileCannotBeWritten)
+{
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Export", path("no/such/folder.json")));
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown().front().text.toStdString(), HasSubstr("folder.json\" cannot be written: "));
+    EXPECT_TRUE(run("Mat_Export", path("")));
+    ASSERT_EQ(boxes.shown().size(), 2U);
+    EXPECT_THAT(boxes.shown().back().text.toStdString(), HasSubstr("is not a regular file."));
+}
+
+TEST_F(Export, SaysThatItNeedsASingleProject)
+{
+    newProject("Second");
+    EXPECT_EQ(exportAnswering(QMessageBox::Ok),
+              "Material projects that are open: 2. Only a single one can be exported. Close the others first.");
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(Export, IsSilentIfTheUserChoosesNoFile)
+{
+    const std::size_t before = messages().size();
+    const MessageBoxes boxes;
+    EXPECT_TRUE(run("Mat_Export", QString()));
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_EQ(messages().size(), before);
+}
+
+class EditCommand : public vxtest::Materials
+{
+protected:
+    int editors() const { return window->get_mdi_windows().size(); }
+
+    Mat::DocumentMaterial& project = newProject();
+};
+
+TEST_F(EditCommand, OpensTenEditorsUnasked)
+{
+    addMaterials(project, 10);
+    select(project.get_objects());
+    const MessageBoxes boxes(QMessageBox::No);
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_EQ(editors(), 10);
+}
+
+TEST_F(EditCommand, AsksBeforeItOpensMore)
+{
+    addMaterials(project, 11);
+    select(project.get_objects());
+    {
+        const MessageBoxes boxes(QMessageBox::No);
+        EXPECT_TRUE(run("Mat_Edit"));
+        ASSERT_EQ(boxes.shown().size(), 1U);
+        EXPECT_EQ(boxes.shown().front().text, "Open 11 editors?");
+        EXPECT_EQ(editors(), 0);
+    }
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_EQ(editors(), 11);
+}
+
+TEST_F(EditCommand, CountsNoEditorsThatAreOpen)
+{
+    edit(addMaterials(project, 11));
+    select(project.get_objects());
+    const MessageBoxes boxes(QMessageBox::No);
+    EXPECT_TRUE(run("Mat_Edit"));
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_EQ(editors(), 11);
+}
+
+TEST_F(EditCommand, RefusesMoreThanAHundred)
+{
+    addMaterials(project, 101);
+    select(project.get_objects());
+    const MessageBoxes boxes(QMessageBox::Yes);
+    EXPECT_TRUE(run("Mat_Edit"));
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().icon, QMessageBox::Warning);
+    EXPECT_EQ(boxes.shown().front().text,
+              "Materials selected: 101. At most 100 can be opened at a time. Select fewer.");
+    EXPECT_EQ(editors(), 0);
+}
+
+} // namespace

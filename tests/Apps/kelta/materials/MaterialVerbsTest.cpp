@@ -1,0 +1,115 @@
+#include "MaterialsTesting.h"
+
+#include "Obj/Application.h"
+#include "kelta/Batch.h"
+
+#include <QFile>
+
+namespace {
+
+using testing::HasSubstr;
+
+class Verbs : public vxtest::Materials
+{
+protected:
+    /// Runs a line of a list; returns what is wrong, or an empty text.
+    static std::string run(const char* name, const QStringList& arguments = {})
+    {
+        return kelta::Batch::run_command(QLatin1String(name), arguments).value_or(QString()).toStdString();
+    }
+    Mat::MaterialObject& selectedSteel()
+    {
+        Mat::MaterialObject& steel = addMaterial(newProject());
+        select({&steel});
+        return steel;
+    }
+};
+
+TEST_F(Verbs, SetAQuantity)
+{
+    const Mat::MaterialObject& steel = selectedSteel();
+    EXPECT_EQ(run("set", {"Young's modulus", "7e10"}), "");
+    EXPECT_EQ(modulusOf(steel), 7e10);
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 2e11);
+}
+
+TEST_F(Verbs, SetNoNumberWithOtherTextBehindIt)
+{
+    const Mat::MaterialObject& steel = selectedSteel();
+    EXPECT_EQ(run("set", {"E", "210 GPa"}),
+              "the value \"210 GPa\" would be read as \"210\"; \"GPa\" would be ignored; give the value without it");
+    EXPECT_EQ(run("set", {"E", "2,1e11"}),
+              "the value \"2,1e11\" would be read as \"2\"; \",1e11\" would be ignored; give the value without it");
+    EXPECT_EQ(modulusOf(steel), 2e11);
+}
+
+TEST_F(Verbs, SetNoNumberThatIsNotFinite)
+{
+    const Mat::MaterialObject& steel = selectedSteel();
+    const auto before = messages().size();
+    for (const char* const value : {"inf", "nan", "-inf", "INF"}) {
+        SCOPED_TRACE(value);
+        EXPECT_NE(run("set", {"Dynamic viscosity", value}), "");
+        EXPECT_NE(run("set", {"E", value}), "");
+    }
+    EXPECT_EQ(run("set", {"Dynamic viscosity", "inf"}), "the value \"inf\" is not a finite number");
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_EQ(messages().size(), before);
+}
+
+TEST_F(Verbs, MakeNoSecondProject)
+{
+    EXPECT_EQ(run("Mat_NewDoc"), "");
+    EXPECT_EQ(run("Mat_NewDoc"), "the material project \"Materials\" is open; close it first with select-project and "
+                                 "Mat_DelDoc");
+    EXPECT_EQ(Obj::Application::get_projects().size(), 1U);
+    EXPECT_EQ(run("select-project"), "");
+    EXPECT_EQ(run("Mat_DelDoc"), "");
+    EXPECT_EQ(run("Mat_NewDoc"), "");
+}
+
+TEST_F(Verbs, ExportToTheFileThatIsNamed)
+{
+    selectedSteel();
+    EXPECT_EQ(run("Mat_Export", {path("a.json")}), "");
+    EXPECT_TRUE(QFile::exists(path("a.json")));
+}
+
+TEST_F(Verbs, ExportNothingWithoutAName)
+{
+    selectedSteel();
+    for (const QStringList& arguments : {QStringList(), QStringList{""}, QStringList{"a", "b"}})
+        EXPECT_EQ(run("Mat_Export", arguments), "Mat_Export needs one argument, the name of the file to write");
+}
+
+TEST_F(Verbs, FailToExportWithoutAProject)
+{
+    EXPECT_EQ(run("Mat_Export", {path("a.json")}), "Mat_Export cannot be done now");
+}
+
+TEST_F(Verbs, FailToExportOneOfTwoProjects)
+{
+    selectedSteel();
+    newProject("Second");
+    EXPECT_THAT(run("Mat_Export", {path("a.json")}), HasSubstr("Only a single one can be exported."));
+    EXPECT_FALSE(QFile::exists(path("a.json")));
+}
+
+TEST_F(Verbs, FailToExportToAPlaceThatCannotBeWritten)
+{
+    selectedSteel();
+    EXPECT_THAT(run("Mat_Export", {path("no/folder.json")}), HasSubstr("cannot be written"));
+    EXPECT_THAT(run("Mat_Export", {"/dev/full"}), HasSubstr("is not a regular file"));
+}
+
+TEST_F(Verbs, FailToEditMoreThanAHundredMaterials)
+{
+    Mat::DocumentMaterial& project = newProject();
+    addMaterials(project, 101);
+    select(project.get_objects());
+    EXPECT_THAT(run("Mat_Edit"), HasSubstr("At most 100 can be opened at a time."));
+    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+}
+
+} // namespace

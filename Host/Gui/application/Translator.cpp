@@ -41,7 +41,8 @@ QStringList filesFor(const QString& language, const QStringList& names)
 QStringList toolkitFilesFor(const QString& language, const QString& folder)
 {
     for (const QString& ending : endingsFor(language))
-        if (const QString name = QStringLiteral("qtbase_%1.qm").arg(ending); QFileInfo::exists(QDir(folder).filePath(name)))
+        if (const QString name = QStringLiteral("qtbase_%1.qm").arg(ending);
+            QFileInfo::exists(QDir(folder).filePath(name)))
             return {name};
     return {};
 }
@@ -57,7 +58,8 @@ Translator* Translator::instance()
 Translator::Translator() : m_language(QLocale::system().name())
 {
     if (QCoreApplication::instance() != nullptr)
-        addFolder(QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" GUI_TRANSLATIONS_FOLDER)));
+        addFolder(
+            QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/" GUI_TRANSLATIONS_FOLDER)));
 }
 
 Translator::~Translator() = default;

@@ -20,7 +20,7 @@ Json::Value describeObject(const GuiApplication& application, Obj::ProjectObject
 /// Returns a name for a project that no project of another program has.
 std::string originOf(const Obj::Project& project);
 
-/// Returns the class of a project, or the missing class that a placeholder stands in for.
+/// Returns the class of a project, or the missing class of a placeholder.
 std::string originalClassOf(const Obj::Project& project);
 
 } // namespace Gui

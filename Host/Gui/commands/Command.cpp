@@ -1,5 +1,6 @@
 #include "Gui/Command.h"
 
+#include "Gui/MainWindow.h"
 #include "Gui/PictureFactory.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
@@ -91,6 +92,8 @@ QAction* Command::new_action(QObject* parent)
 
 bool Command::invoke(int index)
 {
+    if (MainWindow* const window = MainWindow::get_main_window_inst())
+        window->finishEditing();
     const QString name = get_menu_info().remove(QLatin1Char('&'));
     bool done = false;
     Kelta::guarded(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed").arg(name), [&] {

@@ -83,7 +83,7 @@ public:
     const std::string& getName() const { return m_name; }
     QAction* new_action(QObject* parent) override;
 
-    /// Runs the command if it is applicable. All that it requests is undone in one step. Nothing is thrown: an exception
+    /// Ends all edits in progress (MainWindow::finishEditing), and then runs the command if it is applicable. All that it requests is undone in one step. Nothing is thrown: an exception
     /// is reported to the message log. Returns whether the command ran to its end.
     bool invoke(int index = 0);
 

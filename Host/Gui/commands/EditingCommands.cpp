@@ -88,16 +88,38 @@ void collect(vxMsg::MessageProxy& requests)
                                  .arg(QString::fromStdString(name)));
 }
 
+/// The undo stack of the document in which the user works; null if there is none.
+QUndoStack* documentStack()
+{
+    const MainWindow* const window = MainWindow::get_main_window_inst();
+    return window != nullptr ? window->documentUndoStack() : nullptr;
+}
+
+/// The edits of a document that are not applied are the latest changes.
+QUndoStack& stackToUndo(QUndoStack& history)
+{
+    QUndoStack* const document = documentStack();
+    return document != nullptr && document->canUndo() ? *document : history;
+}
+
+/// As long as a document has such edits, older changes are not made again underneath them.
+QUndoStack& stackToRedo(QUndoStack& history)
+{
+    QUndoStack* const document = documentStack();
+    return document != nullptr && document->count() != 0 ? *document : history;
+}
+
 std::vector<CommandRow> historyRows(QUndoStack& history)
 {
     return {
         {"Std_Undo", QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
          QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"), "kelta_undo", QKeySequence::Undo,
-         CommandType::None, [&history] { history.undo(); }, [&history] { return history.canUndo(); }},
+         CommandType::None, [&history] { stackToUndo(history).undo(); },
+         [&history] { return stackToUndo(history).canUndo(); }},
         {"Std_Redo", QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
          QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"), "kelta_redo",
-         QKeySequence::Redo, CommandType::None, [&history] { history.redo(); },
-         [&history] { return history.canRedo(); }},
+         QKeySequence::Redo, CommandType::None, [&history] { stackToRedo(history).redo(); },
+         [&history] { return stackToRedo(history).canRedo(); }},
     };
 }
 

@@ -50,7 +50,9 @@ QLineEdit* makeNumberLine(QWidget* parent)
 {
     auto* const line = new QLineEdit(parent);
     auto* const validator = new QDoubleValidator(line);
-    validator->setLocale(QLocale::c());
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions(QLocale::RejectGroupSeparator);
+    validator->setLocale(locale);
     line->setValidator(validator);
     return line;
 }

@@ -7,6 +7,7 @@
 #include "Obj/Application.h"
 #include "properties/PropertyDelegate.h"
 #include "vxMsg/MessageProxy.h"
+#include "window/OpenEditor.h"
 
 #include <QHeaderView>
 
@@ -45,7 +46,7 @@ PropertyPanel::PropertyPanel(GuiApplication& application, TreeSelectionSingleton
     configure();
     retranslate();
     m_refresh.setSingleShot(true);
-    connect(&m_refresh, &QTimer::timeout, this, &PropertyPanel::showSelection);
+    connect(&m_refresh, &QTimer::timeout, this, &PropertyPanel::refresh);
     connect(&m_selection, &TreeSelectionSingleton::selectionChanged, this, [this] { m_refresh.start(0); });
     connect(this, &QTreeWidget::itemChanged, this, &PropertyPanel::takeOverEdit);
     showSelection();
@@ -55,14 +56,16 @@ PropertyPanel::~PropertyPanel() = default;
 
 void PropertyPanel::showSelection()
 {
+    finishEditing();
     m_refresh.stop();
     m_filling = true;
     clear();
     watch();
-    const Owners shown = owners();
+    m_shown = owners();
+    m_places = {};
     for (const OwnerIndex index : {Shown, Node})
-        if (shown[index] != nullptr)
-            addProperties(index, *shown[index]);
+        if (m_shown[index] != nullptr)
+            addProperties(index, *m_shown[index]);
     const std::size_t count = m_selection.get_count();
     // The columns are properties and values, not sentences.
     setHeaderHidden(count != 1);
@@ -73,6 +76,20 @@ void PropertyPanel::showSelection()
     m_filling = false;
 }
 
+void PropertyPanel::finishEditing()
+{
+    if (state() == EditingState)
+        Gui::finishEditing(*this, m_edited);
+}
+
+bool PropertyPanel::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isTaken = QTreeWidget::edit(index, trigger, event);
+    if (isTaken && state() == EditingState)
+        m_edited = index;
+    return isTaken;
+}
+
 void PropertyPanel::changeEvent(QEvent* event)
 {
     QTreeWidget::changeEvent(event);
@@ -80,6 +97,20 @@ void PropertyPanel::changeEvent(QEvent* event)
         retranslate();
         m_refresh.start(0);
     }
+}
+
+void PropertyPanel::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTreeWidget::closeEditor(editor, hint);
+    // What has changed meanwhile is not shown yet.
+    m_refresh.start(0);
+}
+
+/// Not while the user edits a value of what is selected: the editor would be closed.
+void PropertyPanel::refresh()
+{
+    if (state() != EditingState || owners() != m_shown)
+        showSelection();
 }
 
 void PropertyPanel::configure()
@@ -116,10 +147,15 @@ const Obj::Property* PropertyPanel::propertyAt(const QModelIndex& index) const
 {
     const QModelIndex first = index.sibling(index.row(), 0);
     const QByteArray name = first.data(nameRole).toString().toUtf8();
-    const Obj::PropertyDS* const owner = owners()[static_cast<std::size_t>(first.data(ownerRole).toInt())];
-    return index.column() == valueColumn && owner != nullptr && !name.isEmpty()
-               ? owner->get_property_by_name(name.constData())
-               : nullptr;
+    if (index.column() != valueColumn || name.isEmpty())
+        return nullptr;
+    const Obj::PropertyDS* const owner = placeOf(first)->find();
+    return owner != nullptr ? owner->get_property_by_name(name.constData()) : nullptr;
+}
+
+const std::optional<vxMsg::PropertyPlace>& PropertyPanel::placeOf(const QModelIndex& index) const
+{
+    return m_places[static_cast<std::size_t>(index.sibling(index.row(), 0).data(ownerRole).toInt())];
 }
 
 void PropertyPanel::showCount(std::size_t count)
@@ -132,6 +168,7 @@ void PropertyPanel::showCount(std::size_t count)
 
 void PropertyPanel::addProperties(OwnerIndex ownerIndex, const Obj::PropertyDS& owner)
 {
+    m_places[ownerIndex] = m_application.placeOf(owner);
     std::vector<Obj::Property*> properties;
     owner.get_property_array(properties);
     for (const Obj::Property* const property : properties)
@@ -186,14 +223,17 @@ QTreeWidgetItem* PropertyPanel::groupItem(const QString& group)
 
 void PropertyPanel::takeOverEdit(QTreeWidgetItem* item, int column)
 {
-    const Obj::Property* const property = propertyAt(indexFromItem(item, column));
-    if (m_filling || property == nullptr)
+    if (m_filling)
+        return;
+    const QModelIndex index = indexFromItem(item, column);
+    const Obj::Property* const property = propertyAt(index);
+    if (property == nullptr)
         return;
     const bool isBool = dynamic_cast<const Obj::PropertyBool*>(property) != nullptr;
     const QString text = isBool ? QLatin1String(item->checkState(column) == Qt::Checked ? "true" : "false")
                                 : item->data(column, PropertyDelegate::valueRole).toString();
-    m_application.requests().setProperty(m_application.placeOf(*property->get_owner()),
-                                         item->data(0, nameRole).toString().toStdString(), text.toStdString());
+    m_application.requests().setProperty(*placeOf(index), item->data(0, nameRole).toString().toStdString(),
+                                         text.toStdString());
     // Shows what the property holds now, once the item is no longer being edited.
     m_refresh.start(0);
 }

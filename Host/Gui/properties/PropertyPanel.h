@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Gui/GuiExport.h"
+#include "vxMsg/PropertyPlace.h"
 
 #include <QTimer>
 #include <QTreeWidget>
 #include <boost/signals2/connection.hpp>
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace Obj {
@@ -20,7 +22,8 @@ class GuiApplication;
 class TreeSelectionSingleton;
 
 /// The properties of what is selected in the project tree, by group: those of the project or object and those of its
-/// node. They are edited in place, undoably, each in an editor for its type. If several entries are selected, the panel
+/// node. They are edited in place, undoably, each in an editor for its type. A value that is being edited stays as typed
+/// while the rest changes; it is kept if something else is selected. If several entries are selected, the panel
 /// says how many.
 class GUI_EXPORT PropertyPanel : public QTreeWidget
 {
@@ -31,11 +34,16 @@ public:
     PropertyPanel(GuiApplication& application, TreeSelectionSingleton& selection, QWidget* parent = nullptr);
     ~PropertyPanel() override;
 
-    /// Shows at once what is selected now.
+    /// Shows at once what is selected now. A value that is being edited is kept.
     void showSelection();
+    /// Ends the editing of a value, and keeps what was typed or chosen.
+    void finishEditing();
 
 protected:
+    using QTreeWidget::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
     /// The selected project or object, and its node; null where there is none.
@@ -47,9 +55,12 @@ private:
     };
 
     void configure();
+    void refresh();
     void retranslate();
     Owners owners() const;
     const Obj::Property* propertyAt(const QModelIndex& index) const;
+    /// The place of the owner of a row that shows a property.
+    const std::optional<vxMsg::PropertyPlace>& placeOf(const QModelIndex& index) const;
     void showCount(std::size_t count);
     void addProperties(OwnerIndex ownerIndex, const Obj::PropertyDS& owner);
     QTreeWidgetItem* makeItem(const Obj::PropertyDS& owner, const Obj::Property& property);
@@ -62,6 +73,9 @@ private:
     TreeSelectionSingleton& m_selection;
     QTimer m_refresh;
     bool m_filling = false;
+    QPersistentModelIndex m_edited;
+    Owners m_shown = {};
+    std::array<std::optional<vxMsg::PropertyPlace>, 2> m_places; ///< where those shown are found again
     std::vector<boost::signals2::scoped_connection> m_connections;
 };
 

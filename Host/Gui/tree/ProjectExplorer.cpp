@@ -9,6 +9,7 @@
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
 #include "window/CoreEditor.h"
+#include "window/OpenEditor.h"
 #include "workbench/MenuBuilder.h"
 
 #include <QAction>
@@ -37,7 +38,7 @@ bool ProjectExplorer::renameSelected()
     const QModelIndexList selected = selectionModel()->selectedIndexes();
     if (selected.size() != 1 || m_model.objectAt(selected.first()) == nullptr)
         return false;
-    setCurrentIndex(selected.first());
+    selectionModel()->setCurrentIndex(selected.first(), QItemSelectionModel::NoUpdate);
     edit(selected.first());
     return true;
 }
@@ -49,14 +50,37 @@ void ProjectExplorer::selectAllObjects()
     QItemSelection items;
     if (project != nullptr)
         selectBelow(m_model.indexOf(*project), items);
-    if (!items.isEmpty())
-        selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
+    if (items.isEmpty())
+        return;
+    selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
+    makeRowCurrent(items.indexes());
+}
+
+void ProjectExplorer::finishEditing()
+{
+    if (state() == EditingState)
+        Gui::finishEditing(*this, m_edited);
+}
+
+bool ProjectExplorer::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isTaken = QTreeView::edit(index, trigger, event);
+    if (isTaken && state() == EditingState)
+        m_edited = index;
+    return isTaken;
+}
+
+void ProjectExplorer::changeEvent(QEvent* event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setAccessibleName(tr("Project explorer"));
 }
 
 void ProjectExplorer::contextMenuEvent(QContextMenuEvent* event)
 {
     const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
-    const QModelIndex index = isKey ? currentIndex() : indexAt(event->pos());
+    const QModelIndex index = isKey ? rowForKeys() : indexAt(event->pos());
     showMenu(index, isKey ? viewport()->mapToGlobal(visualRect(index).bottomLeft()) : event->globalPos());
 }
 
@@ -69,8 +93,11 @@ void ProjectExplorer::mouseDoubleClickEvent(QMouseEvent* event)
 
 void ProjectExplorer::keyPressEvent(QKeyEvent* event)
 {
+    // The command that renames may not be enabled yet.
+    if (event->key() == Qt::Key_F2 && renameSelected())
+        return;
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isReturn || state() == QAbstractItemView::EditingState || !open(currentIndex()))
+    if (!isReturn || state() == QAbstractItemView::EditingState || !open(rowForKeys()))
         QTreeView::keyPressEvent(event);
 }
 
@@ -88,7 +115,8 @@ void ProjectExplorer::configure()
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
-    setEditTriggers(QAbstractItemView::EditKeyPressed);
+    // What is selected is renamed, not the current row.
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
     setExpandsOnDoubleClick(false);
     const auto expandParent = [this](const QModelIndex& parent) {
         if (parent.isValid())
@@ -139,7 +167,25 @@ void ProjectExplorer::showSelection()
     for (const Obj::ProjectObject* const object : objects)
         items.select(m_model.indexOf(*object), m_model.indexOf(*object));
     selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
+    makeRowCurrent(items.indexes());
     m_selecting = false;
+}
+
+/// A node that has a selection of its own cannot be selected here.
+QModelIndex ProjectExplorer::rowForKeys() const
+{
+    const QModelIndex current = currentIndex();
+    const bool isSelectable = (m_model.flags(current) & Qt::ItemIsSelectable) != 0;
+    if (current.isValid() && (!isSelectable || selectionModel()->isSelected(current)))
+        return current;
+    return selectionModel()->selectedIndexes().value(0);
+}
+
+/// Makes one of the selected rows the current one, from which the arrow keys move on.
+void ProjectExplorer::makeRowCurrent(const QModelIndexList& selected)
+{
+    if (!selected.isEmpty() && !selected.contains(currentIndex()))
+        selectionModel()->setCurrentIndex(selected.first(), QItemSelectionModel::NoUpdate);
 }
 
 /// The next command of the user applies to the project in which something is selected.

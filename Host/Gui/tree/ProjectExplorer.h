@@ -16,7 +16,8 @@ class MainWindow;
 class TreeSelectionSingleton;
 class ViewFeeder;
 
-/// The project tree: selects, renames, opens by a double click, and offers what each node does in its context menu.
+/// The project tree: selects, renames, opens by a double click, and offers what each node does in its context menu. Keys
+/// act on what is selected: Return and the menu key on the current row if it is selected, else on the first that is.
 class GUI_EXPORT ProjectExplorer : public QTreeView
 {
     Q_OBJECT
@@ -34,8 +35,13 @@ public:
     bool renameSelected();
     /// Selects all objects of the current project.
     void selectAllObjects();
+    /// Ends the editing of a label, and keeps what was typed.
+    void finishEditing();
 
 protected:
+    using QTreeView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -50,6 +56,8 @@ private:
     void takeOverSelection();
     void showSelection();
     void makeCurrent(const std::vector<Obj::Project*>& projects, const std::vector<Obj::ProjectObject*>& objects);
+    QModelIndex rowForKeys() const;
+    void makeRowCurrent(const QModelIndexList& selected);
     void selectBelow(const QModelIndex& parent, QItemSelection& items) const;
     ViewFeeder* nodeAt(const QModelIndex& index) const;
     bool open(const QModelIndex& index);
@@ -63,6 +71,7 @@ private:
     ProjectTreeModel m_model;
     bool m_selecting = false;
     QPersistentModelIndex m_menuIndex;
+    QPersistentModelIndex m_edited;
 };
 
 } // namespace Gui

@@ -63,7 +63,8 @@ void DocumentArea::remove(const MDIWindow* window)
 
 void DocumentArea::removeAll()
 {
-    qDeleteAll(subWindowList());
+    // One that was closed is no longer in the list, but exists until the event loop destroys it.
+    qDeleteAll(viewport()->findChildren<QMdiSubWindow*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
 void DocumentArea::activate(MDIWindow* window)

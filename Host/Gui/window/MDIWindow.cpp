@@ -2,7 +2,10 @@
 
 #include "Gui/GuiProject.h"
 #include "Gui/MainWindow.h"
+#include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+
+#include <QEvent>
 
 namespace Gui {
 
@@ -47,6 +50,19 @@ void MDIWindow::showLabel(const Obj::ProjectObject& object)
 }
 
 void MDIWindow::finishEditing() {}
+
+void MDIWindow::completeEdits()
+{
+    Kelta::guarded(tr("An edit in \"%1\" cannot be completed").arg(windowTitle().remove(QStringLiteral("[*]"))),
+                   [this] { finishEditing(); });
+}
+
+bool MDIWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::Close)
+        completeEdits();
+    return QMainWindow::event(event);
+}
 
 QUndoStack* MDIWindow::get_undo_stack()
 {

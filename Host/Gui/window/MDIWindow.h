@@ -52,10 +52,15 @@ public:
     virtual void editObject(GuiProject& project, Obj::ProjectObject& object);
 
     /// Ends an edit in progress, such as text that the user is typing into a cell, and keeps its result. The host calls it
-    /// before it runs a command and before it closes the window. Does nothing here.
+    /// before it runs a command, before the window closes and before the program ends. Does nothing here.
     virtual void finishEditing();
 
-    /// The undo stack of the edits that are not applied; null if the window has none, as here. The window keeps it.
+    /// Calls finishEditing. Reports to the message log what it throws.
+    void completeEdits();
+
+    /// The undo stack of the edits that are not applied; null if the window has none, as here. The window keeps it from
+    /// the moment when it is added to the main window. Undo and Redo of the host act on it while the user works in the
+    /// window, see MainWindow::documentUndoStack.
     virtual QUndoStack* get_undo_stack();
 
 Q_SIGNALS:
@@ -65,6 +70,10 @@ Q_SIGNALS:
     /// The window has written the edits into the object. Slots may complete what was written; the window shows the object
     /// as it is afterwards.
     void applied();
+
+protected:
+    /// Completes the edits before the window closes.
+    bool event(QEvent* event) override;
 
 private:
     void showLabel(const Obj::ProjectObject& object);

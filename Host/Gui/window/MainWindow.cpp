@@ -19,6 +19,7 @@
 #include "workbench/WorkbenchBars.h"
 #include "workbench/WorkbenchSwitch.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -47,6 +48,25 @@ constexpr const char* explorerDock = "ProjectExplorer";
 constexpr const char* propertiesDock = "PropertyPanel";
 constexpr const char* messagesDock = "MessageLog";
 
+bool isInDock(const QWidget* widget)
+{
+    while (widget != nullptr && qobject_cast<const QDockWidget*>(widget) == nullptr)
+        widget = widget->parentWidget();
+    return widget != nullptr;
+}
+
+/// Takes the keyboard from a widget in a dock for a moment: fields and editors of cells then keep what was typed.
+void leaveEditor()
+{
+    const QPointer<QWidget> editor = QApplication::focusWidget();
+    // A view with an open editor has given the keyboard to it.
+    if (!isInDock(editor) || qobject_cast<QAbstractItemView*>(editor) != nullptr)
+        return;
+    editor->clearFocus();
+    if (editor != nullptr && editor->isVisible() && QApplication::focusWidget() == nullptr)
+        editor->setFocus();
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent) : MainWindow(GuiApplication::Instance->contributions(), parent) {}
@@ -70,6 +90,8 @@ MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
 
 MainWindow::~MainWindow()
 {
+    // The keyboard moves while widgets are destroyed.
+    disconnect(&m_application, nullptr, this, nullptr);
     // The document windows are destroyed while the main window can still be asked for.
     m_documents->removeAll();
     theMainWindow = nullptr;
@@ -83,6 +105,7 @@ MainWindow* MainWindow::get_main_window_inst()
 void MainWindow::add_mdi_window(MDIWindow* window)
 {
     m_documents->add(window);
+    watchDocument(*window);
     Q_EMIT mdi_window_added(window);
     update_commands();
 }
@@ -96,6 +119,8 @@ void MainWindow::remove_mdi_window(MDIWindow* window)
 void MainWindow::set_active_mdi_window(MDIWindow* window)
 {
     m_documents->activate(window);
+    if (window != nullptr)
+        m_focus = window;
 }
 
 MDIWindow* MainWindow::get_active_mdi_window() const
@@ -131,6 +156,21 @@ void MainWindow::tab_windows()
 void MainWindow::cascade_windows()
 {
     m_documents->cascade();
+}
+
+void MainWindow::finishEditing()
+{
+    for (MDIWindow* const window : get_mdi_windows())
+        window->completeEdits();
+    m_explorer->finishEditing();
+    m_properties->finishEditing();
+    leaveEditor();
+}
+
+QUndoStack* MainWindow::documentUndoStack() const
+{
+    MDIWindow* const document = get_active_mdi_window();
+    return document != nullptr && !isInDock(m_focus) ? document->get_undo_stack() : nullptr;
 }
 
 bool MainWindow::set_workbench(const char* className)
@@ -224,6 +264,7 @@ void MainWindow::update_commands()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    finishEditing();
     bool refused = false;
     Q_EMIT closing(refused);
     event->setAccepted(!refused);
@@ -307,12 +348,29 @@ void MainWindow::watchWindow()
     connect(&m_update, &QTimer::timeout, this, &MainWindow::updateNow);
     connect(&m_selection, &TreeSelectionSingleton::selectionChanged, this, &MainWindow::updateLater);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MainWindow::updateLater);
+    connect(&m_application, &QApplication::focusChanged, this,
+            [this](const QWidget*, QWidget* now) { followFocus(now); });
     connect(m_documents, &DocumentArea::windowActivated, this, &MainWindow::followDocument);
     connect(m_documents, &DocumentArea::windowDestroyed, this, &MainWindow::updateLater);
     connect(&m_contributions, &Contributions::changed, this, [this] {
         m_barsAreOutdated = true;
         updateLater();
     });
+}
+
+void MainWindow::watchDocument(MDIWindow& window)
+{
+    if (const QUndoStack* const edits = window.get_undo_stack())
+        connect(edits, &QUndoStack::indexChanged, this, &MainWindow::updateLater);
+}
+
+/// Undo and Redo act on the document or on the projects, depending on where the keyboard is.
+void MainWindow::followFocus(QWidget* widget)
+{
+    if (widget == nullptr || widget == menuBar())
+        return;
+    m_focus = widget;
+    updateLater();
 }
 
 void MainWindow::updateLater()

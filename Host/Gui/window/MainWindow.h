@@ -4,6 +4,7 @@
 #include "Kelta/MessageLog.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 #include <boost/signals2/connection.hpp>
 
@@ -13,6 +14,7 @@
 #include <vector>
 
 class QStackedWidget;
+class QUndoStack;
 
 namespace Obj {
 class Project;
@@ -68,6 +70,14 @@ public:
     void cascade_windows();
     /// Shows the document windows as tabs again, as they are at first.
     void tab_windows();
+
+    /// Ends all edits in progress, and keeps what was typed: in the document windows (MDIWindow::finishEditing), in the
+    /// project explorer and the property panel, and in docks of modules, where the editor loses the keyboard for a moment.
+    /// Commands do so before they run, and the window before it closes.
+    void finishEditing();
+    /// The undo stack of the document in front (MDIWindow::get_undo_stack) while the user works there; null while the
+    /// keyboard is in a dock, and if the document has no such stack.
+    QUndoStack* documentUndoStack() const;
 
     /// Makes a workbench of this registered class the active one, and shows its menus, toolbars and docks. Returns false,
     /// with the reason in the message log, if there is no such class. Must not be called while one of the window's own
@@ -130,6 +140,8 @@ private:
     void watchProjects();
     void watchRequests();
     void watchWindow();
+    void watchDocument(MDIWindow& window);
+    void followFocus(QWidget* widget);
     void updateLater();
     void updateNow();
     void followProject(const Obj::Project* project);
@@ -155,6 +167,7 @@ private:
     std::string m_chosenWorkbench;            ///< becomes active when the event loop is idle; empty for none
     std::set<std::string> m_knownWorkbenches; ///< those whose docks were shown
     bool m_barsAreOutdated = false;
+    QPointer<QWidget> m_focus; ///< where the keyboard is, or was before it was given to the menus
     QTimer m_update;
     std::vector<boost::signals2::scoped_connection> m_connections;
 };

@@ -30,6 +30,13 @@ void MessageLogView::clearMessages()
     clear();
 }
 
+void MessageLogView::changeEvent(QEvent* event)
+{
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setAccessibleName(tr("Messages"));
+}
+
 void MessageLogView::keyPressEvent(QKeyEvent* event)
 {
     if (!event->matches(QKeySequence::Copy))

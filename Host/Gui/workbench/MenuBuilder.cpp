@@ -52,7 +52,7 @@ void MenuBuilder::fillToolBar(QToolBar& bar, const ToolBarGadget& items) const
     addCommands(bar, items);
 }
 
-/// Separators stand between commands, never at the ends or side by side.
+/// Separators are between commands, never at the ends or side by side.
 template <typename Widget, typename Tree>
 // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 void MenuBuilder::addCommands(Widget& widget, const Tree& items) const

@@ -28,7 +28,7 @@ void* createOther()
 
 void* createThrowing()
 {
-    throw std::runtime_error("no material left");
+    throw std::runtime_error("no memory left");
 }
 
 TEST(RootClass, CreatesAnObjectByItsRegisteredName)

@@ -2,6 +2,8 @@
 
 #include "GuiTesting.h"
 
+#include "Gui/MessageLogView.h"
+
 #include <QAction>
 #include <QDir>
 #include <QDockWidget>
@@ -44,7 +46,11 @@ TEST_F(Language, SwitchesTheWholeWindow)
     EXPECT_EQ(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->windowTitle(), "Eigenschaften");
     EXPECT_EQ(commands().find_command("Std_Copy")->action()->text(), "&Kopieren");
     EXPECT_EQ(window->get_property_panel().headerItem()->text(1), "Wert");
-    EXPECT_EQ(window->get_property_panel().topLevelItem(0)->text(0), QStringLiteral("Nichts ist ausgewählt."));
+    EXPECT_TRUE(vxtest::waitFor([this] {
+        return window->get_property_panel().topLevelItem(0)->text(0) == QStringLiteral("Nichts ist ausgewählt.");
+    }));
+    EXPECT_EQ(explorer().accessibleName(), "Projektbaum");
+    EXPECT_EQ(window->get_message_log().accessibleName(), "Meldungen");
     Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
     QCoreApplication::processEvents();
     EXPECT_EQ(commands().find_command("Std_Copy")->action()->text(), QStringLiteral("复制(&C)"));

@@ -135,16 +135,16 @@ TEST_F(CommandTest, KnowsTheKeysOfThePlatform)
 
 TEST_F(CommandTest, NamesObjectsAsNoObjectOfTheCurrentProjectHasOrHad)
 {
-    EXPECT_EQ(Gui::Command::get_unique_object_name("Material"), "");
+    EXPECT_EQ(Gui::Command::get_unique_object_name("Beam"), "");
     Obj::Project& project = makeProject();
-    const std::string first = Gui::Command::get_unique_object_name("Material");
-    EXPECT_EQ(first, "Material");
+    const std::string first = Gui::Command::get_unique_object_name("Beam");
+    EXPECT_EQ(first, "Beam");
     Obj::ProjectObject* const object = project.add_object("Test::Object", first);
-    const std::string second = Gui::Command::get_unique_object_name("Material");
+    const std::string second = Gui::Command::get_unique_object_name("Beam");
     EXPECT_NE(second, first);
-    EXPECT_EQ(second.rfind("Material", 0), 0U);
+    EXPECT_EQ(second.rfind("Beam", 0), 0U);
     project.remove_object(object->getObjectId());
-    EXPECT_NE(Gui::Command::get_unique_object_name("Material"), first);
+    EXPECT_NE(Gui::Command::get_unique_object_name("Beam"), first);
 }
 
 } // namespace

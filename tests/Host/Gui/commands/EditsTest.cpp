@@ -79,7 +79,9 @@ TEST_F(Edits, AreNoStepIfAListenerDeletesTheObject)
     EXPECT_TRUE(editLabel("Beam"));
     EXPECT_EQ(project.get_object_count(), 0U);
     EXPECT_EQ(undoStack().count(), 1);
-    EXPECT_EQ(undoStack().text(0), "Delete \"Beam\"");
+    EXPECT_EQ(undoStack().text(0).toStdString(), "Change \"Label\"");
+    undoStack().undo();
+    EXPECT_EQ(project.get_object_count(), 1U);
 }
 
 TEST_F(Edits, OfSuppressionAreNoStepIfAListenerDeletesTheObject)

@@ -323,8 +323,9 @@ TEST_F(StandardCommands, SayThatHandingOverFailed)
 {
     vxtest::TestProject& project = makeProject();
     project.collectFails = true;
-    EXPECT_FALSE(run("Std_Collect"));
-    EXPECT_EQ(lastMessage(), "The command \"Hand over to the solver\" failed: no solver");
+    EXPECT_TRUE(run("Std_Collect"));
+    EXPECT_EQ(lastMessage(), "The project \"Project\" cannot be handed over: no solver");
+    EXPECT_EQ(window->statusBar()->currentMessage(), "");
 }
 
 TEST_F(StandardCommands, ClearTheMessages)

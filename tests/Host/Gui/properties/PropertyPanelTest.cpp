@@ -144,7 +144,7 @@ TEST_F(Panel, RefusesATextThatIsNoValueAndSaysSo)
     ASSERT_TRUE(edit("Count", "many"));
     EXPECT_EQ(object.count.getValue(), 3);
     EXPECT_EQ(undoStack().count(), 0);
-    EXPECT_EQ(lastMessage(), "\"Count\" cannot be \"many\"; it stays as it was.");
+    EXPECT_EQ(lastMessage(), "The property \"Count\" cannot be \"many\"; nothing was changed.");
     EXPECT_TRUE(vxtest::waitFor([this] { return value("Count") == "3"; }));
 }
 
@@ -214,6 +214,36 @@ TEST_F(Panel, SurvivesTheEndOfTheProjectDuringAnEdit)
     ASSERT_NE(panel().viewport()->findChild<QLineEdit*>(), nullptr);
     Obj::Application::instance().close_project(project);
     EXPECT_TRUE(vxtest::waitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
+}
+
+TEST_F(Panel, KeepsWhatIsBeingTypedWhileTheRestChanges)
+{
+    panel().editItem(row("Count"), 1);
+    QPointer<QLineEdit> editor = panel().viewport()->findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    editor->selectAll();
+    QTest::keyClicks(editor, "7");
+    object.label.setValue("Plate");
+    QCoreApplication::processEvents();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->text(), "7");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(vxtest::waitFor([this] { return value("Label") == "Plate" && value("Count") == "7"; }));
+    EXPECT_EQ(object.count.getValue(), 7);
+}
+
+TEST_F(Panel, KeepsWhatIsBeingTypedWhenSomethingElseIsSelected)
+{
+    vxtest::TestObject& other = addObject(project, "Other");
+    panel().editItem(row("Count"), 1);
+    auto* const editor = panel().viewport()->findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    editor->selectAll();
+    QTest::keyClicks(editor, "7");
+    select({&other});
+    EXPECT_TRUE(vxtest::waitFor([this] { return value("Label") == "Other"; }));
+    EXPECT_EQ(object.count.getValue(), 7);
+    EXPECT_EQ(other.count.getValue(), 3);
 }
 
 TEST_F(Panel, EditsPropertiesOfTheNodeOfAProjectUndoably)

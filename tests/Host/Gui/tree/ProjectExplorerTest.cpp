@@ -77,6 +77,26 @@ protected:
         return offered;
     }
 
+    /// Presses the menu key, and triggers the entry "Show it" of the context menu that opens.
+    void showByMenuKey() const
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            timer.stop();
+            for (QAction* const action : menu->actions())
+                if (action->text() == QStringLiteral("Show it"))
+                    action->trigger();
+            menu->close();
+        });
+        timer.start(1);
+        // The platform makes this event of the key.
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(explorer().viewport(), &event);
+    }
+
     /// Chooses an entry of the menu "Display as" of the first object.
     void chooseDisplayMode(const QString& mode) const
     {
@@ -202,6 +222,68 @@ TEST_F(Explorer, OpensNothingBesideTheRows)
 {
     QTest::mouseDClick(explorer().viewport(), Qt::LeftButton, {}, explorer().viewport()->rect().bottomRight());
     EXPECT_EQ(nodeOf(first).opened + nodeOf(second).opened, 0);
+}
+
+TEST_F(Explorer, ActsByKeysOnTheCopyOfADuplicate)
+{
+    click(first);
+    ASSERT_TRUE(run("Std_DuplicateSelection"));
+    ASSERT_THAT(project.get_objects(), SizeIs(3));
+    Obj::ProjectObject& copy = *project.get_objects()[2];
+    EXPECT_EQ(explorer().currentIndex(), model().indexOf(copy));
+    QTest::keyClick(&explorer(), Qt::Key_Return);
+    showByMenuKey();
+    EXPECT_EQ(nodeOf(copy).opened, 1);
+    EXPECT_THAT(nodeOf(copy).editModes, ElementsAre(7));
+    EXPECT_EQ(nodeOf(first).opened, 0);
+    EXPECT_THAT(nodeOf(first).editModes, testing::IsEmpty());
+}
+
+TEST_F(Explorer, ActsByKeysOnWhatIsPasted)
+{
+    click(first);
+    ASSERT_TRUE(run("Std_Copy"));
+    click(second);
+    ASSERT_TRUE(run("Std_Paste"));
+    ASSERT_THAT(project.get_objects(), SizeIs(3));
+    Obj::ProjectObject& copy = *project.get_objects()[2];
+    QTest::keyClick(&explorer(), Qt::Key_F2);
+    typeLabel("Pasted");
+    EXPECT_EQ(copy.label.getValue(), "Pasted");
+    showByMenuKey();
+    EXPECT_THAT(nodeOf(copy).editModes, ElementsAre(7));
+    EXPECT_THAT(nodeOf(second).editModes, testing::IsEmpty());
+}
+
+TEST_F(Explorer, ActsByKeysOnWhatARequestAdds)
+{
+    click(first);
+    ASSERT_TRUE(vxMsg::MessageProxy::instance().addObject(project.get_name(), "Test::Object", "Added"));
+    QTest::keyClick(&explorer(), Qt::Key_Return);
+    EXPECT_EQ(nodeOf(first).opened, 0);
+    EXPECT_EQ(nodeOf(*project.get_objects()[2]).opened, 1);
+    QTest::keyClick(&explorer(), Qt::Key_Up);
+    EXPECT_THAT(selectedObjects(), ElementsAre(&second));
+}
+
+TEST_F(Explorer, DoesNothingByKeysWhenNothingIsSelected)
+{
+    click(first);
+    selection().clear();
+    QTest::keyClick(&explorer(), Qt::Key_Return);
+    QTest::keyClick(&explorer(), Qt::Key_F2);
+    EXPECT_EQ(nodeOf(first).opened, 0);
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(Explorer, ActsByKeysOnTheRestWhenTheCurrentRowIsDeselected)
+{
+    click(first);
+    click(second, Qt::ControlModifier);
+    click(second, Qt::ControlModifier);
+    QTest::keyClick(&explorer(), Qt::Key_Return);
+    EXPECT_EQ(nodeOf(second).opened, 0);
+    EXPECT_EQ(nodeOf(first).opened, 1);
 }
 
 TEST_F(Explorer, RenamesByF2AndTyping)

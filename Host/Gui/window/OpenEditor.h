@@ -1,0 +1,12 @@
+#pragma once
+
+class QAbstractItemView;
+class QModelIndex;
+
+namespace Gui {
+
+/// Closes the editor in which the user edits an item of a view, and keeps what was typed or chosen. Does nothing if there is
+/// no such editor.
+void finishEditing(QAbstractItemView& view, const QModelIndex& edited);
+
+} // namespace Gui

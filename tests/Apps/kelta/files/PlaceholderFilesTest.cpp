@@ -40,7 +40,7 @@ protected:
      "links": [5, 2]}]})";
     }
 
-    /// A project of two materials, in the order of the file: the second comes first.
+    /// A project of two materials.
     static std::string materialText()
     {
         std::vector<projectfile::ImportedMaterial> materials(2);
@@ -163,6 +163,17 @@ TEST_F(PlaceholderFiles, KeepMaterialsWithoutTheirModule)
     EXPECT_THAT(after.doubts, testing::IsEmpty());
     EXPECT_EQ(after.objects[0].material->properties.at(5)->value, 1.1);
     EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {path("b.vxmat").toStdString()}), "");
+}
+
+TEST_F(PlaceholderFiles, PairMaterialsWithTheDatabaseByIdInWhateverOrderTheyAre)
+{
+    projectfile::ProjectRecord turned = projectfile::readProject(materialText());
+    std::swap(turned.objects[0], turned.objects[1]);
+    writeFile(path("a.vxmat"), QByteArray::fromStdString(projectfile::writeProject(turned)));
+    ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
+    EXPECT_EQ(project().get_object(2)->label.getValue(), "Foam");
+    ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+    EXPECT_EQ(contentOf(path("b.vxmat")).toStdString(), materialText());
 }
 
 } // namespace

@@ -1,13 +1,14 @@
 #include "FileCommands.h"
 
 #include "ProjectFiles.h"
+#include "RecentFiles.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/CommandTable.h"
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
 #include "Obj/Application.h"
-#include "vxMaterial/project/DocumentMaterial.h"
+#include "kelta/DocumentImport.h"
 
 #include <QDir>
 #include <QMenu>
@@ -18,15 +19,15 @@ namespace {
 
 constexpr const char* context = "FileCommand";
 
-/// The project that is saved: the current one, if it holds materials.
-Mat::DocumentMaterial* currentProject()
-{
-    return dynamic_cast<Mat::DocumentMaterial*>(Obj::Application::get_current_project());
-}
-
 bool hasProject()
 {
-    return currentProject() != nullptr;
+    return Obj::Application::get_current_project() != nullptr;
+}
+
+/// Whether the module of the current project imports documents.
+bool canImport()
+{
+    return hasProject() && findDocumentImport(*Obj::Application::get_current_project()) != nullptr;
 }
 
 QString askForFile(const char* title, const QString& filter)
@@ -38,34 +39,34 @@ QString askForFile(const char* title, const QString& filter)
 void open(ProjectFiles& files)
 {
     const QString path = askForFile(QT_TRANSLATE_NOOP("FileCommand", "Open project"),
-                                    QCoreApplication::translate(context, "Material project (*.vxmat)") +
-                                        QStringLiteral(";;") + QCoreApplication::translate(context, "All files (*)"));
+                                    QCoreApplication::translate(context, "Project (*.vxmat)") + QStringLiteral(";;") +
+                                        QCoreApplication::translate(context, "All files (*)"));
     if (!path.isEmpty())
         files.open(path);
 }
 
 void importDocument(ProjectFiles& files)
 {
-    Mat::DocumentMaterial* const project = currentProject();
+    Obj::Project* const project = Obj::Application::get_current_project();
     const QString path = askForFile(QT_TRANSLATE_NOOP("FileCommand", "Import exchange document"),
                                     QCoreApplication::translate(context, "Exchange document (*.json)") +
                                         QStringLiteral(";;") + QCoreApplication::translate(context, "All files (*)"));
     // The project may have been closed while the dialog was open.
-    if (!path.isEmpty() && project != nullptr && project == currentProject())
+    if (!path.isEmpty() && project == Obj::Application::get_current_project())
         files.importDocument(*project, path);
 }
 
 void openLatest(ProjectFiles& files)
 {
-    const QStringList paths = ProjectFiles::recentFiles();
+    const QStringList paths = RecentFiles::list();
     if (!paths.isEmpty())
         files.open(paths.front());
 }
 
-/// An entry for each of the files last used; the first nine can be chosen by their numbers.
+/// Adds an entry for each of the files last used; the first nine can be chosen by their numbers.
 void listRecentFiles(ProjectFiles& files, QMenu& menu)
 {
-    const QStringList paths = ProjectFiles::recentFiles();
+    const QStringList paths = RecentFiles::list();
     for (int index = 0; index < paths.size(); ++index) {
         QString text = QDir::toNativeSeparators(paths[index]);
         text.replace(QLatin1Char('&'), QStringLiteral("&&"));
@@ -80,22 +81,22 @@ std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
     constexpr int none = Gui::CommandType::None;
     return {
         {"Std_Open", QT_TRANSLATE_NOOP("FileCommand", "&Open..."),
-         QT_TRANSLATE_NOOP("FileCommand", "Open a material project from a file"), "kelta_open", QKeySequence::Open,
-         none, [&files] { open(files); }},
+         QT_TRANSLATE_NOOP("FileCommand", "Open a project from a file"), "kelta_open", QKeySequence::Open, none,
+         [&files] { open(files); }},
         {"Std_Save", QT_TRANSLATE_NOOP("FileCommand", "&Save"),
          QT_TRANSLATE_NOOP("FileCommand", "Save the project in its file"), "kelta_save", QKeySequence::Save, none,
-         [&files] { files.save(*currentProject()); }, hasProject},
+         [&files] { files.save(*Obj::Application::get_current_project()); }, hasProject},
         {"Std_SaveAs", QT_TRANSLATE_NOOP("FileCommand", "Save &as..."),
          QT_TRANSLATE_NOOP("FileCommand", "Save the project in another file"), "", QKeySequence::SaveAs, none,
-         [&files] { files.saveAs(*currentProject()); }, hasProject},
+         [&files] { files.saveAs(*Obj::Application::get_current_project()); }, hasProject},
         {"Std_ImportDocument",
          QT_TRANSLATE_NOOP("FileCommand", "I&mport exchange document..."),
-         QT_TRANSLATE_NOOP("FileCommand", "Add the materials of an exchange document to the project"),
+         QT_TRANSLATE_NOOP("FileCommand", "Add the content of an exchange document to the project"),
          "",
          {},
          none,
          [&files] { importDocument(files); },
-         hasProject},
+         canImport},
         {"Std_OpenRecent",
          QT_TRANSLATE_NOOP("FileCommand", "Open &recent"),
          QT_TRANSLATE_NOOP("FileCommand", "Open one of the projects last used"),
@@ -103,7 +104,7 @@ std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
          {},
          none,
          [&files] { openLatest(files); },
-         [] { return !ProjectFiles::recentFiles().isEmpty(); },
+         [] { return !RecentFiles::list().isEmpty(); },
          {},
          [&files](QMenu& menu) { listRecentFiles(files, menu); }},
     };

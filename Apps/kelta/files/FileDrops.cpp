@@ -39,7 +39,7 @@ bool FileDrops::eventFilter(QObject* watched, QEvent* event)
     if (files.isEmpty() || QApplication::activeModalWidget() != nullptr)
         return QObject::eventFilter(watched, event);
     drop->acceptProposedAction();
-    // Later, since the program that the files come from waits for the end of the drop, and questions may be asked.
+    // Later: the program that the files come from waits for the end of the drop, and questions may be asked.
     if (event->type() == QEvent::Drop)
         QTimer::singleShot(0, this, [this, files] {
             for (const QString& file : files)

@@ -16,7 +16,7 @@ class FileDrops : public QObject
     Q_OBJECT
 
 public:
-    /// To be installed as an event filter of the main window, to which it belongs.
+    /// To be installed as an event filter of the main window, which owns it.
     FileDrops(ProjectFiles& files, Gui::MainWindow& mainWindow);
     ~FileDrops() override;
 

@@ -1,69 +1,97 @@
 #include "Recovery.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QStandardPaths>
-#include <QUuid>
+#include "FilePaths.h"
+#include "Opening.h"
+#include "ProjectRecording.h"
+#include "Questions.h"
+#include "Sessions.h"
+
+#include "Gui/MainWindow.h"
+#include "Kelta/Exceptions.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Application.h"
+
+#include <QLocale>
+
+#include <exception>
+#include <memory>
+#include <utility>
 
 namespace kelta {
 
-namespace {
-
-QDir recoveryFolder()
+void Recovery::keepCopies()
 {
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/recovery"));
-}
-
-} // namespace
-
-RecoveryCopy::RecoveryCopy()
-    : RecoveryCopy(
-          recoveryFolder().filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".vxmat")))
-{}
-
-RecoveryCopy::RecoveryCopy(const QString& path) : m_path(path), m_lock(path) {}
-
-std::vector<RecoveryCopy> RecoveryCopy::findAbandoned()
-{
-    std::vector<RecoveryCopy> copies;
-    const QDir folder = recoveryFolder();
-    for (const QString& name : folder.entryList({QStringLiteral("*.vxmat")}, QDir::Files, QDir::Time | QDir::Reversed))
-    {
-        RecoveryCopy copy(folder.filePath(name));
-        // It may have gone when the lock was free at last.
-        if (copy.m_lock.tryLock() && QFileInfo::exists(copy.m_path))
-            copies.push_back(std::move(copy));
+    for (Obj::Project* const project : Obj::Application::get_projects()) {
+        Session* const session = m_sessions.find(*project);
+        if (session == nullptr || !session->isModified || !session->isCopyDue)
+            continue;
+        try {
+            keepCopy(*project, *session);
+        } catch (...) {
+            // The user has not asked for the copy, so that no box interrupts.
+            Kelta::MessageLog::warning(tr("No copy for recovery could be kept: %1").arg(Kelta::currentExceptionText()));
+        }
     }
-    return copies;
 }
 
-QDateTime RecoveryCopy::time() const
+void Recovery::keepCopy(Obj::Project& project, Session& session)
 {
-    return QFileInfo(m_path).lastModified();
+    projectfile::ProjectRecord record = recordProject(project, session.kept);
+    record.recoveredFile = session.path.toStdString();
+    const std::string text = projectfile::writeProject(record);
+    auto first = session.copy == nullptr ? std::make_unique<RecoveryCopy>() : nullptr;
+    (first != nullptr ? *first : *session.copy).write(text);
+    if (first != nullptr)
+        session.copy = std::move(first);
+    session.isCopyDue = false;
 }
 
-void RecoveryCopy::write(const std::string& text)
+void Recovery::offer()
 {
-    const QString folder = QFileInfo(m_path).absolutePath();
-    QDir().mkpath(folder);
-    // The project's own file may be for nobody else's eyes.
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    // Locked before it is there: nobody is to take it for one that was left behind.
-    if (!m_lock.isLocked())
-        m_lock.tryLock();
-    projectfile::writeFile(m_path, text);
+    using Choice = Questions::RecoveryChoice;
+    std::vector<RecoveryCopy> copies = RecoveryCopy::findAbandoned();
+    if (copies.empty())
+        return;
+    QStringList times;
+    for (const RecoveryCopy& copy : copies)
+        times << QLocale().toString(copy.time(), QLocale::ShortFormat);
+    const Choice choice = m_questions.askAboutCopies(times);
+    for (RecoveryCopy& copy : copies)
+        if (choice == Choice::Discard || (choice == Choice::Recover && recover(copy)))
+            copy.remove();
 }
 
-std::string RecoveryCopy::read() const
+bool Recovery::recover(RecoveryCopy& copy)
 {
-    return projectfile::readFile(m_path);
+    try {
+        return recoverProject(copy);
+    } catch (const std::exception& error) {
+        m_questions.complain(tr("Recovery"), tr("\"%1\" cannot be recovered.").arg(shownPath(copy.path())) +
+                                                 QLatin1Char('\n') + QString::fromUtf8(error.what()));
+    }
+    return false;
 }
 
-void RecoveryCopy::remove()
+bool Recovery::recoverProject(RecoveryCopy& copy)
 {
-    QFile::remove(m_path);
-    m_lock = projectfile::FileLock(m_path);
+    projectfile::ProjectRecord record = projectfile::readProject(copy.read());
+    Obj::Project* const project = m_opening.makeProject(record, copy.path());
+    if (project == nullptr)
+        return false;
+    Session& session = *m_sessions.find(*project);
+    const QString path = QString::fromStdString(record.recoveredFile.value_or(std::string()));
+    // Of two copies of a file only one can be saved in that file.
+    if (!path.isEmpty() && m_sessions.findOpen(path) == nullptr) {
+        session.path = path;
+        session.takeLock();
+    }
+    session.isRecovered = true;
+    session.isModified = true;
+    m_sessions.noteOpened(*project);
+    // The old copy is destroyed only if there is a new one.
+    keepCopies();
+    m_mainWindow.update_commands();
+    return !session.isCopyDue;
 }
 
 } // namespace kelta

@@ -1,45 +1,47 @@
 #pragma once
 
-#include "projectfile/ProjectStore.h"
+#include <QCoreApplication>
 
-#include <QDateTime>
-#include <QString>
+namespace Gui {
+class MainWindow;
+} // namespace Gui
 
-#include <string>
-#include <vector>
+namespace Obj {
+class Project;
+} // namespace Obj
 
 namespace kelta {
 
-/// A copy of a project that was not saved, kept beside the user's settings until it is. While the program that made it
-/// runs, its lock keeps others away.
-class RecoveryCopy
+class Opening;
+class Questions;
+class RecoveryCopy;
+class Sessions;
+struct Session;
+
+/// Keeps copies of projects that have changes, and offers those that a program left which ended without saving.
+class Recovery
 {
+    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+
 public:
-    /// A copy yet to be written, under a name that no other one has.
-    RecoveryCopy();
-    RecoveryCopy(RecoveryCopy&&) noexcept = default;
-    RecoveryCopy& operator=(RecoveryCopy&&) noexcept = default;
-    ~RecoveryCopy() = default;
+    Recovery(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions, Opening& opening)
+        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions), m_opening(opening)
+    {}
 
-    /// The copies that programs have left behind which run no more, the oldest first. They are locked from now on.
-    static std::vector<RecoveryCopy> findAbandoned();
-
-    const QString& path() const { return m_path; }
-    QDateTime time() const;
-
-    /// Replaces the copy whole or not at all.
-    /// \throws projectfile::StoreError
-    void write(const std::string& text);
-    /// \throws projectfile::StoreError
-    std::string read() const;
-    /// Destroys the copy; nothing when there is none.
-    void remove();
+    /// Keeps a copy of every project that has changed since its last copy. What fails is written to the message log.
+    void keepCopies();
+    /// Asks whether the copies of programs that ended are to be recovered, and does that.
+    void offer();
 
 private:
-    explicit RecoveryCopy(const QString& path);
+    static void keepCopy(Obj::Project& project, Session& session);
+    bool recover(RecoveryCopy& copy);
+    bool recoverProject(RecoveryCopy& copy);
 
-    QString m_path;
-    projectfile::FileLock m_lock;
+    Gui::MainWindow& m_mainWindow;
+    Sessions& m_sessions;
+    const Questions& m_questions;
+    Opening& m_opening;
 };
 
 } // namespace kelta

@@ -1,22 +1,17 @@
 #include "EditorWatch.h"
-#include "FileCommands.h"
-#include "FileDrops.h"
 #include "MaterialContributions.h"
+#include "MaterialFiles.h"
 #include "MaterialGuards.h"
 #include "MaterialVerbs.h"
-#include "ProjectFiles.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
-#include "Obj/ContentCodec.h"
-#include "kelta/KeltaBatchExport.h"
-#include "projectfile/MaterialRecord.h"
+#include "kelta/KeltaShellExport.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
-#include <memory>
 #include <utility>
 
 namespace {
@@ -26,27 +21,6 @@ void fillNewMaterial(Obj::ProjectObject& object)
 {
     if (auto* const material = dynamic_cast<Mat::MaterialObject*>(&object))
         material->initCMaterial(vxMat::eMaterialType::StructuralSteel);
-}
-
-Json::Value writeContent(const Obj::ProjectObject& object)
-{
-    return projectfile::writeMaterial(*static_cast<const Mat::MaterialObject&>(object).getCMaterial());
-}
-
-void readContent(Obj::ProjectObject& object, const Json::Value& content)
-{
-    projectfile::readMaterial(*static_cast<Mat::MaterialObject&>(object).getCMaterial(), content);
-}
-
-/// Files, and a history of what is applied in editors, for as long as there is the main window.
-void addFiles(Gui::MainWindow& mainWindow)
-{
-    auto files = std::make_unique<kelta::ProjectFiles>(mainWindow);
-    kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
-    mainWindow.setAcceptDrops(true);
-    mainWindow.installEventFilter(new kelta::FileDrops(*files, mainWindow));
-    new kelta::EditorWatch(mainWindow); // the main window owns it
-    kelta::FileService::set_instance(std::move(files));
 }
 
 /// What the user sees of materials in the window.
@@ -67,12 +41,12 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         return;
     Kelta::guarded(QStringLiteral("initKeltaMaterials"), [] {
         Mat::registerRequests();
-        Obj::registerContentCodec("Mat::MaterialObject", {writeContent, readContent});
+        kelta::registerMaterialFiles();
         kelta::registerMaterialVerbs();
         if (Gui::GuiApplication::Instance != nullptr)
             addToWindows(*Gui::GuiApplication::Instance);
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
-            addFiles(*mainWindow);
+            new kelta::EditorWatch(*mainWindow); // the main window owns it
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
     });
 }

@@ -1,27 +1,45 @@
 #include "Startup.h"
 
+#include "FileCommands.h"
+#include "FileDrops.h"
+#include "ProjectFiles.h"
+
+#include "Gui/Contributions.h"
+#include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
 #include "Kelta/PluginLoader.h"
 #include "Obj/Application.h"
-#include "kelta/FileService.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QCoreApplication>
 
+#include <memory>
+#include <utility>
+
 namespace kelta {
 
-bool loadMaterials()
+void startFiles(Gui::MainWindow& window)
+{
+    auto files = std::make_unique<ProjectFiles>(window);
+    addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    window.setAcceptDrops(true);
+    window.installEventFilter(new FileDrops(*files, window)); // the window owns it
+    FileService::set_instance(std::move(files));
+}
+
+bool loadModules(Gui::MainWindow& window)
 {
     static Kelta::PluginLoader loader;
-    Gui::MainWindow& window = *Gui::MainWindow::get_main_window_inst();
     const Kelta::PluginLoader::Outcome modules = loader.loadAll();
-    const bool loaded = modules.loaded.contains(QStringLiteral("KeltaMaterials"));
     if (modules.loaded.isEmpty() && modules.failed.empty())
         Kelta::MessageLog::error(QCoreApplication::translate("kelta", "No module was found in %1.")
                                      .arg(Kelta::PluginLoader::standardFolders().join(QStringLiteral(", "))));
-    return window.set_workbench(loaded ? "MatGui::SimModule" : "Gui::StdSimModule") && loaded;
+    const auto& workbenches = Gui::GuiApplication::Instance->contributions().workbenches();
+    const bool hasWorkbench =
+        window.set_workbench(workbenches.empty() ? "Gui::StdSimModule" : workbenches.front().className.c_str());
+    return hasWorkbench && !modules.loaded.isEmpty() && modules.failed.empty();
 }
 
 void shutDown()

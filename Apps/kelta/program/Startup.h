@@ -1,12 +1,20 @@
 #pragma once
 
+namespace Gui {
+class MainWindow;
+} // namespace Gui
+
 namespace kelta {
 
-/// Loads all modules and makes the materials workbench the active one. Returns whether there is the materials module.
-/// What cannot be loaded is reported to the message log; the program then shows the standard workbench.
-bool loadMaterials();
+/// Gives the program its project files: the commands, drops on the window, recovery. To be called once, before modules
+/// are loaded.
+void startFiles(Gui::MainWindow& window);
 
-/// Lets go of all that the plug-in made, while the plug-in is still there.
+/// Loads all modules and activates the first workbench that they bring, or the standard one if they bring none. Returns
+/// whether there are modules and all of them work. What cannot be loaded is reported to the message log.
+bool loadModules(Gui::MainWindow& window);
+
+/// Destroys all that modules have made, while the modules are still there.
 void shutDown();
 
 } // namespace kelta

@@ -58,7 +58,7 @@ bool runsAlone(const Options& options)
     return !options.batch.empty() || !options.screenshot.empty();
 }
 
-/// A program without windows of its own says on standard error what others read in the message log.
+/// A program without windows of its own writes the message log to standard error.
 void echoMessages()
 {
     QObject::connect(
@@ -87,20 +87,19 @@ int runAlone(Gui::MainWindow& window, const Options& options)
 
 void askBeforeClosing(const Gui::MainWindow& window, bool& refused)
 {
-    refused = kelta::FileService::instance() != nullptr && !kelta::FileService::instance()->may_end();
+    refused = !kelta::FileService::instance()->may_end();
     if (!refused)
         window.save_layout();
 }
 
-/// A project as the title names it: by its file, once it has one.
+/// Returns the name of a project in the title: that of its file, if it has one.
 QString nameOf(const Obj::Project& project)
 {
-    const kelta::FileService* const files = kelta::FileService::instance();
-    const QString file = files != nullptr ? files->get_file(project) : QString();
+    const QString file = kelta::FileService::instance()->get_file(project);
     return file.isEmpty() ? QString::fromUtf8(project.get_name()) : QFileInfo(file).fileName();
 }
 
-/// Shows the document in front, its project and the program, and whether there is something to be saved.
+/// Shows the document in front, its project and the program, and whether the project is modified.
 void updateTitle(Gui::MainWindow& window)
 {
     QStringList parts;
@@ -111,28 +110,19 @@ void updateTitle(Gui::MainWindow& window)
         parts << nameOf(*project) + QStringLiteral("[*]");
     parts << QCoreApplication::applicationName();
     window.setWindowTitle(parts.join(QStringLiteral(" - ")));
-    const kelta::FileService* const files = kelta::FileService::instance();
-    window.setWindowModified(files != nullptr && project != nullptr && files->is_modified(*project));
+    window.setWindowModified(project != nullptr && kelta::FileService::instance()->is_modified(*project));
 }
 
-/// Opens the files that the program was started with, and before them what an earlier run has left behind.
+/// Opens the files that the program was started with, after the copies for recovery of earlier runs.
 void openFiles(const std::vector<std::string>& paths)
 {
-    kelta::FileService* const files = kelta::FileService::instance();
-    if (files != nullptr)
-        files->offer_recovery();
-    for (const std::string& path : paths) {
-        const QString file = QFile::decodeName(path.c_str());
-        if (files != nullptr)
-            files->open(file);
-        else
-            Kelta::MessageLog::error(
-                QCoreApplication::translate("kelta", "\"%1\" cannot be opened without the materials module.")
-                    .arg(file));
-    }
+    kelta::FileService& files = *kelta::FileService::instance();
+    files.offer_recovery();
+    for (const std::string& path : paths)
+        files.open(QFile::decodeName(path.c_str()));
 }
 
-/// Likewise in a program that nobody watches: false when one cannot be opened, which standard error then says.
+/// Likewise in a program without a user; returns false if one cannot be opened, which standard error then says.
 bool openFilesAlone(const std::vector<std::string>& paths)
 {
     for (const std::string& path : paths) {
@@ -147,8 +137,7 @@ bool openFilesAlone(const std::vector<std::string>& paths)
 
 QtMessageHandler passOn = nullptr;
 
-/// The platform without a display says for each window that it cannot pass hints to a window manager, which there is
-/// none of.
+/// The platform without a display reports for each window that it cannot pass hints to a window manager; there is none.
 void leaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (!message.contains(QLatin1String("propagateSizeHints")))
@@ -169,7 +158,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTA_VERSION));
     if (!options.language.empty())
         Gui::Translator::instance()->setLanguage(QString::fromStdString(options.language));
-    // What nobody watches leaves the user's settings alone.
+    // A program without a user does not change the user's settings.
     const QTemporaryDir settings;
     if (runsAlone(options)) {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
@@ -180,13 +169,14 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     int status = 0;
     {
         Gui::MainWindow window;
+        kelta::startFiles(window);
         QObject::connect(&window, &Gui::MainWindow::updated, [&window] { updateTitle(window); });
-        const bool loaded = kelta::loadMaterials();
+        const bool loaded = kelta::loadModules(window);
         QObject::connect(&window, &Gui::MainWindow::closing,
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
             window.restore_layout();
-        // Why nothing can be done stands in a dock that may have been hidden the last time.
+        // The reason is in a dock that may have been hidden the last time.
         if (!loaded)
             window.show_messages();
         window.show();
@@ -197,7 +187,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
             QTimer::singleShot(0, &window, [&options] { openFiles(options.files); });
             status = QApplication::exec();
         }
-        // What needs the module has not been done.
+        // What needs the missing module has not been done.
         if (runsAlone(options) && !loaded && status == 0)
             status = 1;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kelta/KeltaBatchExport.h"
+#include "kelta/KeltaShellExport.h"
 
 #include <QString>
 #include <QStringList>
@@ -20,7 +20,7 @@ namespace kelta {
 /// Message boxes that come up are written to standard error, and answered with OK or Yes; one that has neither with
 /// discarding, as a list says itself what is to be saved; and one without that either is closed. A command fails when it
 /// does not exist, cannot be applied now, reports an error to the message log or shows a critical box or a warning.
-class KELTA_BATCH_EXPORT Batch
+class KELTA_SHELL_EXPORT Batch
 {
 public:
     /// Answers what went wrong, absent when nothing did.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kelta/KeltaBatchExport.h"
+#include "kelta/KeltaShellExport.h"
 
 #include <QString>
 
@@ -8,13 +8,14 @@
 
 namespace Obj {
 class Project;
+class ProjectObject;
 } // namespace Obj
 
 namespace kelta {
 
-/// What the program asks about project files of the side that knows materials, which is loaded after the plug-in.
-/// Everything tells the user itself what went wrong, and asks what has to be asked.
-class KELTA_BATCH_EXPORT FileService
+/// The project files of the program, for the program itself and for modules. Each operation tells the user what went
+/// wrong, and asks what must be asked.
+class KELTA_SHELL_EXPORT FileService
 {
 public:
     FileService() = default;
@@ -22,23 +23,26 @@ public:
     FileService& operator=(const FileService&) = delete;
     virtual ~FileService();
 
-    /// Null while the materials module is not there.
+    /// Null in a program without files, such as a test of a module.
     static FileService* instance();
     /// Gives the service to the program, in place of an earlier one; null ends it.
     static void set_instance(std::unique_ptr<FileService> service);
 
-    /// Opens a project file, or brings it to the front when it is open already.
+    /// Opens a project file and selects the project. A project that is open already is only selected.
     virtual bool open(const QString& path) = 0;
-    /// Asks about everything that has not been saved; false when the program is to go on.
+    /// Asks about everything that is not saved; false if the program is to go on.
     virtual bool may_end() = 0;
-    /// The program ends in order, and everybody has been asked: copies for recovery are destroyed.
+    /// The program ends in order, and all questions have been asked: copies for recovery are destroyed.
     virtual void end() = 0;
-    /// Offers what a program that ended without saving has left behind.
+    /// Offers the copies for recovery of programs that ended without saving.
     virtual void offer_recovery() = 0;
-    /// The file of a project; empty before it is first saved.
+    /// Returns the file of a project; empty before it is first saved.
     virtual QString get_file(const Obj::Project& project) const = 0;
     /// Whether a project has changes that its file does not have.
     virtual bool is_modified(const Obj::Project& project) const = 0;
+    /// To be called by a module when the content of an object, which is not a property, has changed in a way that no
+    /// signal of the project tells. Keeps a copy for recovery.
+    virtual void contentChanged(Obj::ProjectObject& object) = 0;
 };
 
 } // namespace kelta

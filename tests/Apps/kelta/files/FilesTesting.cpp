@@ -56,40 +56,46 @@ void Answers::answer()
     box->close();
 }
 
-Files::Files()
+FilesWindow::FilesWindow() : window(std::make_unique<Gui::MainWindow>())
 {
-    initMat();
-    initMatGui();
-    Mat::registerRequests();
-    window = std::make_unique<Gui::MainWindow>();
-    files = std::make_unique<kelta::ProjectFiles>(*window);
+    startFiles();
     kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
-    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
-    new kelta::EditorWatch(*window);
     window->setAcceptDrops(true);
     window->installEventFilter(new kelta::FileDrops(*files, *window));
-    window->set_workbench("MatGui::SimModule");
+    window->set_workbench("Gui::StdSimModule");
     window->show();
 }
 
-Files::~Files()
+FilesWindow::~FilesWindow()
 {
-    files.reset();
+    kelta::FileService::set_instance(nullptr);
     history().clear();
     Obj::Application::instance().close_all_projects();
     Gui::TreeSelectionSingleton::instance().clear();
 }
 
-bool Files::run(const char* command)
+bool FilesWindow::run(const char* command)
 {
     return Gui::GuiApplication::Instance->get_command_manager().run_command(command);
 }
 
-bool Files::run(const char* command, const QString& file)
+bool FilesWindow::run(const char* command, const QString& file)
 {
     Gui::FileDialog::answer_next(file);
     return run(command);
 }
+
+Files::Files()
+{
+    initMat();
+    initMatGui();
+    kelta::registerMaterialFiles();
+    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
+    new kelta::EditorWatch(*window);
+    window->set_workbench("MatGui::SimModule");
+}
+
+Files::~Files() = default;
 
 Mat::DocumentMaterial& Files::newProject()
 {
@@ -144,21 +150,21 @@ double Files::modulusOf(const Mat::MaterialObject& object)
     return number;
 }
 
-QByteArray Files::contentOf(const QString& path)
+QByteArray FilesWindow::contentOf(const QString& path)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return file.readAll();
 }
 
-void Files::writeFile(const QString& path, const QByteArray& content)
+void FilesWindow::writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
     file.write(content);
 }
 
-QStringList Files::copies()
+QStringList FilesWindow::copies()
 {
     QStringList paths;
     for (const QString& name : recoveryFolder().entryList({QStringLiteral("*.vxmat")}, QDir::Files))
@@ -166,18 +172,25 @@ QStringList Files::copies()
     return paths;
 }
 
-void Files::crash()
+void FilesWindow::crash()
 {
     std::map<QString, QByteArray> left;
     for (const QString& copy : copies())
         left[copy] = contentOf(copy);
     window->close_all_windows();
-    files.reset();
+    kelta::FileService::set_instance(nullptr);
     history().clear();
     Obj::Application::instance().close_all_projects();
     for (const auto& [copy, content] : left)
         writeFile(copy, content);
-    files = std::make_unique<kelta::ProjectFiles>(*window);
+    startFiles();
+}
+
+void FilesWindow::startFiles()
+{
+    auto service = std::make_unique<kelta::ProjectFiles>(*window);
+    files = service.get();
+    kelta::FileService::set_instance(std::move(service));
 }
 
 } // namespace vxtest

@@ -4,6 +4,7 @@
 #include "FileCommands.h"
 #include "FileDrops.h"
 #include "MaterialContributions.h"
+#include "MaterialFiles.h"
 #include "ProjectFiles.h"
 #include "Waiting.h"
 
@@ -54,17 +55,41 @@ private:
     QTimer m_timer;
 };
 
-/// A test with the main window, the materials workbench and project files, as the application has them.
-class Files : public testing::Test
+/// A test with the main window and project files, as the application has them before modules are loaded.
+class FilesWindow : public testing::Test
 {
 protected:
-    Files();
-    ~Files() override;
+    FilesWindow();
+    ~FilesWindow() override;
 
     static bool run(const char* command);
     /// Gives a command the file that it asks for.
     static bool run(const char* command, const QString& file);
     static QUndoStack& history() { return vxMsg::MessageProxy::instance().undoStack(); }
+
+    QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
+    static QByteArray contentOf(const QString& path);
+    static void writeFile(const QString& path, const QByteArray& content);
+    /// The copies for recovery that there are.
+    static QStringList copies();
+    /// Ends the program without asking, as a crash does, as far as its files are concerned; begins it anew.
+    void crash();
+
+    std::unique_ptr<Gui::MainWindow> window;
+    kelta::ProjectFiles* files = nullptr; ///< the file service owns it
+
+private:
+    void startFiles();
+
+    QTemporaryDir m_folder;
+};
+
+/// The same with the materials module and its workbench.
+class Files : public FilesWindow
+{
+protected:
+    Files();
+    ~Files() override;
 
     static Mat::DocumentMaterial& newProject();
     /// Closes the current project, as its menu entry does.
@@ -75,21 +100,7 @@ protected:
     /// Gives the material another Young's modulus in its editor, in place of pressing keys, and leaves it open.
     Gui::MDIWindow& editModulus(Mat::MaterialObject& object, const QString& text);
     static double modulusOf(const Mat::MaterialObject& object);
-
-    QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
-    static QByteArray contentOf(const QString& path);
-    static void writeFile(const QString& path, const QByteArray& content);
     bool isModified() const { return files->is_modified(*currentProject()); }
-    /// The copies for recovery that there are.
-    static QStringList copies();
-    /// Ends the program without asking, as a crash does, as far as its files are concerned; begins it anew.
-    void crash();
-
-    std::unique_ptr<Gui::MainWindow> window;
-    std::unique_ptr<kelta::ProjectFiles> files;
-
-private:
-    QTemporaryDir m_folder;
 };
 
 } // namespace vxtest

@@ -1,6 +1,7 @@
 #include "FilesTesting.h"
 #include "HostTesting.h"
 #include "Mnemonics.h"
+#include "RecentFiles.h"
 #include "SchemaJudge.h"
 
 #include "Gui/Translator.h"
@@ -213,7 +214,7 @@ TEST_F(ProjectFiles, LeaveTheCurrentProjectWhenAnotherCannotBeOpened)
     Obj::Application::instance().set_current_project(*current);
     const Answers answers({"OK"});
     run("Std_Open", path("b.vxmat"));
-    EXPECT_THAT(text(answers.boxes()), HasSubstr("which is none of a material"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("which is not a material class"));
     EXPECT_EQ(Obj::Application::get_current_project(), current);
     EXPECT_EQ(Obj::Application::get_projects().size(), 3U);
 }
@@ -569,7 +570,7 @@ TEST_F(ProjectFiles, AreListedTheLatestFirst)
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     ASSERT_TRUE(run("Std_SaveAs", path("b & c.vxmat")));
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
-    const QStringList recent = kelta::ProjectFiles::recentFiles();
+    const QStringList recent = kelta::RecentFiles::list();
     ASSERT_EQ(recent.size(), 2);
     EXPECT_THAT(recent[0].toStdString(), testing::EndsWith("a.vxmat"));
     EXPECT_THAT(recent[1].toStdString(), testing::EndsWith("b & c.vxmat"));

@@ -1,0 +1,25 @@
+#include "FilePaths.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace kelta {
+
+QString canonicalPath(const QString& path)
+{
+    QFileInfo info(path);
+    // Follows a chain of links to a file that is not there yet; a circle of links has no end.
+    for (int links = 0; !info.exists() && info.isSymLink() && links < 40; ++links)
+        info.setFile(info.symLinkTarget());
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
+}
+
+QString shownPath(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+} // namespace kelta

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <json/value.h>
+
+namespace kelta {
+
+/// Gives a record the members that only another one has. Nothing if that is not an object.
+void addMissing(Json::Value& record, const Json::Value& other);
+
+/// Returns a part of a record: the members of these names; null if there are none.
+template <class Names>
+Json::Value membersOf(const Json::Value& record, const Names& names)
+{
+    Json::Value members;
+    for (const auto& name : names)
+        members[name] = record[name];
+    return members;
+}
+
+} // namespace kelta

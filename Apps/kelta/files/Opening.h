@@ -1,0 +1,57 @@
+#pragma once
+
+#include "KeptMembers.h"
+
+#include "projectfile/ProjectFile.h"
+
+#include <QCoreApplication>
+
+#include <string>
+#include <vector>
+
+namespace Gui {
+class MainWindow;
+} // namespace Gui
+
+namespace Obj {
+class Project;
+} // namespace Obj
+
+namespace kelta {
+
+class Questions;
+class Sessions;
+struct Session;
+
+/// Opens project files, of projects of every class.
+class Opening
+{
+    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+
+public:
+    Opening(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions)
+        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
+    {}
+
+    /// Opens a file and selects the project. Returns false if that fails, which the user has been told; nothing is open
+    /// then that was not before.
+    bool open(const QString& path);
+
+    /// Makes a project from a record and selects it. Returns null, with the reason in the message log, if there can be no
+    /// such project. Writes to the message log what is doubtful; `source` is the file of the record.
+    /// \throws std::exception if the content is wrong; the project is then not there
+    Obj::Project* makeProject(projectfile::ProjectRecord& record, const QString& source);
+
+    /// Writes doubts about a file to the message log, and shows that.
+    void warn(const QString& path, const std::vector<std::string>& doubts);
+
+private:
+    bool openFile(const QString& path);
+    void rememberText(Obj::Project& project, Session& session) const;
+
+    Gui::MainWindow& m_mainWindow;
+    Sessions& m_sessions;
+    const Questions& m_questions;
+};
+
+} // namespace kelta

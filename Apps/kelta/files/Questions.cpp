@@ -1,0 +1,93 @@
+#include "Questions.h"
+
+#include "FilePaths.h"
+
+#include "projectfile/ProjectStore.h"
+
+#include <QAbstractButton>
+#include <QFileInfo>
+#include <QLocale>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace kelta {
+
+int Questions::ask(const Question& question, const Choices& choices) const
+{
+    QMessageBox box(question.icon, question.title, question.text, QMessageBox::NoButton, &m_parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(question.details);
+    std::vector<QAbstractButton*> buttons;
+    buttons.reserve(choices.size());
+    for (const auto& [label, role] : choices)
+        buttons.push_back(box.addButton(label, role));
+    box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+    box.setEscapeButton(buttons.back());
+    box.exec();
+    const auto chosen = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    return static_cast<int>(chosen != buttons.end() ? chosen - buttons.begin() : buttons.end() - buttons.begin() - 1);
+}
+
+void Questions::complain(const QString& title, const QString& text) const
+{
+    QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, &m_parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+bool Questions::mayUse(projectfile::FileLock& lock, const QString& path) const
+{
+    if (lock.tryLock() || lock.holder().isEmpty())
+        return true;
+    const Question question{QMessageBox::Warning, tr("File in use"),
+                            tr("\"%1\" is in use by %2.").arg(shownPath(path), lock.holder()),
+                            tr("What is saved by one of the programs replaces what the other one saved.")};
+    return ask(question,
+               {{tr("&Use all the same"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
+}
+
+bool Questions::mayReplace(const QString& path, Difference difference) const
+{
+    const QString time = QLocale().toString(QFileInfo(path).lastModified(), QLocale::ShortFormat);
+    const QString text = difference == Difference::OlderThanRecoveredProject
+                             ? tr("\"%1\" has been there since %2, before the project was recovered.")
+                             : tr("\"%1\" has been changed by another program, on %2.");
+    const Question question{QMessageBox::Warning, tr("Save project"), text.arg(shownPath(path), time),
+                            tr("What is in the file now is lost when it is replaced.")};
+    return ask(question, {{tr("&Replace"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
+}
+
+Questions::EditorChoice Questions::askAboutEditor(const QString& title) const
+{
+    const Question question{QMessageBox::Question, tr("Save project"),
+                            tr("The changes of \"%1\" in its editor have not been applied.").arg(title),
+                            tr("Only what has been applied is saved.")};
+    return static_cast<EditorChoice>(ask(question, {{tr("&Apply"), QMessageBox::AcceptRole},
+                                                    {tr("&Save without them"), QMessageBox::DestructiveRole},
+                                                    {tr("Cancel"), QMessageBox::RejectRole}}));
+}
+
+Questions::ClosingChoice Questions::askBeforeClosing(const QString& projectName, Unsaved unsaved) const
+{
+    const QString ofEditors = tr("Changes in open editors have not been applied.");
+    Question question{QMessageBox::Question, tr("Unsaved changes"), ofEditors, {}};
+    if (unsaved.inProject) {
+        question.text = tr("The changes of the project \"%1\" have not been saved.").arg(projectName);
+        question.details = unsaved.inEditors ? ofEditors : QString();
+    }
+    return static_cast<ClosingChoice>(ask(question, {{tr("&Save"), QMessageBox::AcceptRole},
+                                                     {tr("&Discard"), QMessageBox::DestructiveRole},
+                                                     {tr("Cancel"), QMessageBox::RejectRole}}));
+}
+
+Questions::RecoveryChoice Questions::askAboutCopies(const QStringList& times) const
+{
+    const Question question{QMessageBox::Question, tr("Recovery"), tr("The program ended before projects were saved."),
+                            tr("There are copies from %1.").arg(times.join(QStringLiteral(", ")))};
+    return static_cast<RecoveryChoice>(ask(question, {{tr("&Recover"), QMessageBox::AcceptRole},
+                                                      {tr("&Discard"), QMessageBox::DestructiveRole},
+                                                      {tr("Later"), QMessageBox::RejectRole}}));
+}
+
+} // namespace kelta

@@ -1,0 +1,100 @@
+#include "Saving.h"
+
+#include "BusyCursor.h"
+#include "Editors.h"
+#include "FilePaths.h"
+#include "ProjectRecording.h"
+#include "Questions.h"
+#include "RecentFiles.h"
+#include "Sessions.h"
+
+#include "Gui/FileDialog.h"
+#include "Gui/MainWindow.h"
+#include "Obj/Project.h"
+
+#include <QFileInfo>
+#include <QStatusBar>
+
+#include <exception>
+#include <utility>
+
+namespace kelta {
+
+bool Saving::save(Obj::Project& project)
+{
+    const Session* const session = m_sessions.find(project);
+    if (session == nullptr)
+        return false;
+    return session->path.isEmpty() ? saveAs(project) : saveTo(project, session->path);
+}
+
+bool Saving::saveAs(Obj::Project& project)
+{
+    const Session* const session = m_sessions.find(project);
+    if (session == nullptr)
+        return false;
+    const QString chosen =
+        Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), session->path, tr("Project (*.vxmat)"));
+    return !chosen.isEmpty() && saveTo(project, canonicalPath(chosen));
+}
+
+bool Saving::saveTo(Obj::Project& project, const QString& path)
+{
+    if (!m_editors.applyChanges(project))
+        return false;
+    Session& session = *m_sessions.find(project);
+    try {
+        if (!mayWrite(session, path))
+            return false;
+        write(project, session, path);
+    } catch (const std::exception& error) {
+        m_questions.complain(tr("Save project"), QString::fromUtf8(error.what()));
+        return false;
+    }
+    m_sessions.noteSaved(project);
+    RecentFiles::add(session.path);
+    m_mainWindow.statusBar()->showMessage(tr("\"%1\" has been saved.").arg(shownPath(session.path)), 5000);
+    m_mainWindow.update_commands();
+    return true;
+}
+
+void Saving::write(Obj::Project& project, Session& session, const QString& path) const
+{
+    const BusyCursor busy;
+    const projectfile::ProjectRecord record = recordProject(project, session.kept);
+    const std::string text = projectfile::writeProject(record);
+    session.stamp = projectfile::writeFile(path, text);
+    session.rememberText(text, record.nextObjectId);
+    session.path = canonicalPath(path);
+}
+
+bool Saving::mayWrite(Session& session, const QString& path) const
+{
+    if (path == session.path) {
+        // A program that had the file may have released it.
+        if (session.lock && !session.lock->isLocked())
+            static_cast<void>(session.lock->tryLock());
+        return mayReplace(session, path);
+    }
+    if (const Obj::Project* const other = m_sessions.findOpen(path)) {
+        m_questions.complain(tr("Save project"), tr(R"("%1" is the file of the project "%2", which is open.)")
+                                                     .arg(shownPath(path), QString::fromUtf8(other->get_name())));
+        return false;
+    }
+    projectfile::FileLock lock(path);
+    if (!m_questions.mayUse(lock, path))
+        return false;
+    session.lock = std::move(lock);
+    return true;
+}
+
+bool Saving::mayReplace(const Session& session, const QString& path) const
+{
+    using Difference = Questions::Difference;
+    if (!QFileInfo::exists(path) || !projectfile::hasChanged(path, session.stamp))
+        return true;
+    return m_questions.mayReplace(path, session.isRecovered ? Difference::OlderThanRecoveredProject
+                                                            : Difference::ChangedByAnotherProgram);
+}
+
+} // namespace kelta

@@ -1,0 +1,57 @@
+#include "MaterialFiles.h"
+
+#include "MaterialChange.h"
+#include "MaterialImport.h"
+
+#include "Obj/ContentCodec.h"
+#include "kelta/DocumentImport.h"
+#include "kelta/FileService.h"
+#include "projectfile/MaterialClasses.h"
+#include "projectfile/MaterialRecord.h"
+#include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
+
+namespace kelta {
+
+namespace {
+
+constexpr const char* projectClass = "Mat::DocumentMaterial";
+constexpr const char* objectClass = "Mat::MaterialObject";
+
+vxMat::MaterialBase& materialOf(Obj::ProjectObject& object)
+{
+    return *static_cast<Mat::MaterialObject&>(object).getCMaterial();
+}
+
+Json::Value writeContent(const Obj::ProjectObject& object)
+{
+    return projectfile::writeMaterial(*static_cast<const Mat::MaterialObject&>(object).getCMaterial());
+}
+
+void readContent(Obj::ProjectObject& object, const Json::Value& content)
+{
+    projectfile::readMaterial(materialOf(object), content);
+}
+
+ImportOutcome import(Obj::Project& project, const QString& path)
+{
+    return importDocument(static_cast<Mat::DocumentMaterial&>(project), path);
+}
+
+void tellFiles(Mat::MaterialObject& object)
+{
+    if (FileService* const files = FileService::instance())
+        files->contentChanged(object);
+}
+
+} // namespace
+
+void registerMaterialFiles()
+{
+    projectfile::registerMaterialClass(objectClass, materialOf);
+    Obj::registerContentCodec(objectClass, {writeContent, readContent});
+    registerDocumentImport(projectClass, import);
+    materialChanged().connect(tellFiles);
+}
+
+} // namespace kelta

@@ -1,0 +1,33 @@
+#include "kelta/DocumentImport.h"
+
+#include "Obj/Project.h"
+
+#include <map>
+#include <utility>
+
+namespace kelta {
+
+namespace {
+
+std::map<std::string, DocumentImport>& imports()
+{
+    static std::map<std::string, DocumentImport> registered;
+    return registered;
+}
+
+} // namespace
+
+void registerDocumentImport(const std::string& projectClass, DocumentImport import)
+{
+    imports()[projectClass] = std::move(import);
+}
+
+const DocumentImport* findDocumentImport(const Obj::Project& project)
+{
+    for (Kelta::TypeInfo type = project.getTypeId(); type.names_a_type(); type = type.get_parent())
+        if (const auto found = imports().find(type.get_name()); found != imports().end())
+            return &found->second;
+    return nullptr;
+}
+
+} // namespace kelta

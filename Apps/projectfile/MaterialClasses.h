@@ -1,0 +1,28 @@
+#pragma once
+
+#include "projectfile/ProjectFileExport.h"
+
+#include <string>
+
+namespace Obj {
+class ProjectObject;
+} // namespace Obj
+
+namespace vxMat {
+class MaterialBase;
+} // namespace vxMat
+
+namespace projectfile {
+
+/// Returns the material that an object of a registered class holds. The object keeps it.
+using MaterialOf = vxMat::MaterialBase& (*)(Obj::ProjectObject& object);
+
+/// Registers a class whose objects hold a material each. Project files have these objects under "materials", and read and
+/// write the materials without a detour. The module that has the class calls this, so that programs that read and write
+/// files need not know it.
+PROJECTFILE_EXPORT void registerMaterialClass(const std::string& className, MaterialOf materialOf);
+
+/// Returns the access to the materials of a registered class; null for another class.
+PROJECTFILE_EXPORT MaterialOf findMaterialClass(const std::string& className);
+
+} // namespace projectfile

@@ -51,9 +51,13 @@ std::optional<QString> printProperties(const QStringList& arguments)
     object->get_property_array(properties);
     QTextStream out(stdout);
     out.setCodec("UTF-8");
-    for (const Obj::Property* const property : properties)
-        if (!object->is_hidden(property))
-            out << object->get_property_name(property) << " = " << QString::fromStdString(property->to_text()) << '\n';
+    for (const Obj::Property* const property : properties) {
+        if (object->is_hidden(property))
+            continue;
+        const std::string value = property->to_text();
+        out << object->get_property_name(property) << (value.empty() ? " =" : " = ") << QString::fromStdString(value)
+            << '\n';
+    }
     return std::nullopt;
 }
 

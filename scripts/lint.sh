@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks format, includes and spelling, compiles the measurements, and runs clang-tidy. lint.sh --fast omits the last
+# Checks format, includes, spelling and translations, compiles the measurements, and runs clang-tidy. lint.sh --fast omits the last
 # two, for a hook before each push. lint.sh --all runs clang-tidy also on tests and measurements, which takes twice as
 # long as everything else.
 set -euo pipefail
@@ -22,6 +22,9 @@ echo "spelling"
 # The list has the names and texts of the product that are misspelled on purpose.
 git ls-files --cached --others --exclude-standard | grep -vE '\.(ts|svg|json|expected)$' |
     xargs codespell --ignore-words packaging/codespell-ignore.txt || failed=1
+
+echo "translations"
+scripts/translations.sh --check || failed=1
 
 [ "${1:-}" = --fast ] && exit $failed
 

@@ -2,83 +2,777 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>QObject</name>
+    <name>CmdMatExport</name>
     <message>
-        <source>Input check</source>
-        <translation>Eingabeprüfung</translation>
+        <source>Export materials</source>
+        <translation>Materialien exportieren</translation>
     </message>
     <message>
-        <source>No property is defined in &apos;%1&apos;.</source>
-        <translation>In „%1“ ist keine Eigenschaft definiert.</translation>
+        <source>Export materials to JSON file</source>
+        <translation>Materialien in eine JSON-Datei exportieren</translation>
     </message>
     <message>
-        <source>Material property defined in &apos;%1&apos; has value equal or less than zero.</source>
-        <translation>Eine in „%1“ definierte Materialeigenschaft hat einen Wert kleiner oder gleich null.</translation>
+        <source>JSON file(*.json)</source>
+        <translation>JSON-Datei(*.json)</translation>
     </message>
 </context>
 <context>
-    <name>vxMsg</name>
+    <name>CmdMatImport</name>
     <message>
-        <source>The request %1 is not known; nothing was done.</source>
-        <translation>Die Anforderung %1 ist nicht bekannt; es wurde nichts getan.</translation>
+        <source>Import materials</source>
+        <translation>Materialien importieren</translation>
     </message>
     <message>
-        <source>There is no project &quot;%1&quot;; nothing was done.</source>
-        <translation>Es gibt kein Projekt „%1“; es wurde nichts getan.</translation>
+        <source>Import CSV file into material</source>
+        <translation>CSV-Datei in ein Material importieren</translation>
     </message>
     <message>
-        <source>A request failed: %1</source>
-        <translation>Eine Anforderung ist fehlgeschlagen: %1</translation>
+        <source>Import file</source>
+        <translation>Datei importieren</translation>
     </message>
     <message>
-        <source>A request failed for a reason that is not known.</source>
-        <translation>Eine Anforderung ist aus unbekanntem Grund fehlgeschlagen.</translation>
+        <source>All (*)</source>
+        <translation>Alle (*)</translation>
+    </message>
+</context>
+<context>
+    <name>ComboBoxItemDelegate</name>
+    <message>
+        <source>one in row %1</source>
+        <translation>eins in Zeile %1</translation>
     </message>
     <message>
-        <source>The request %1 takes one name; nothing was done.</source>
-        <translation>Die Anforderung %1 braucht genau einen Namen; es wurde nichts getan.</translation>
+        <source>two in row %1</source>
+        <translation>zwei in Zeile %1</translation>
     </message>
     <message>
-        <source>New project &quot;%1&quot;</source>
-        <translation>Neues Projekt „%1“</translation>
+        <source>three in row %1</source>
+        <translation>drei in Zeile %1</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommand</name>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
     </message>
     <message>
-        <source>Close project &quot;%1&quot;</source>
-        <translation>Projekt „%1“ schließen</translation>
+        <source>Import exchange document</source>
+        <translation>Austauschdokument importieren</translation>
     </message>
     <message>
-        <source>Add &quot;%1&quot;</source>
-        <translation>„%1“ hinzufügen</translation>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
     </message>
     <message>
-        <source>Delete &quot;%1&quot;</source>
-        <translation>„%1“ löschen</translation>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>The project &quot;%1&quot; has no object &quot;%2&quot;; nothing was done.</source>
-        <translation>Das Projekt „%1“ hat kein Objekt „%2“; es wurde nichts getan.</translation>
+        <source>Save the project in its file</source>
+        <translation>Das Projekt in seiner Datei speichern</translation>
     </message>
     <message>
-        <source>Nothing can be requested while something is undone or redone; nothing was done.</source>
-        <translation>Während etwas rückgängig gemacht oder wiederhergestellt wird, kann nichts angefordert werden; es wurde nichts getan.</translation>
+        <source>Save &amp;as...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Save the project in another file</source>
+        <translation>Das Projekt in einer anderen Datei speichern</translation>
+    </message>
+    <message>
+        <source>I&amp;mport exchange document...</source>
+        <translation>Austauschdokument i&amp;mportieren...</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Zuletzt &amp;verwendet</translation>
+    </message>
+    <message>
+        <source>Open one of the projects last used</source>
+        <translation>Eines der zuletzt verwendeten Projekte öffnen</translation>
+    </message>
+    <message>
+        <source>Material project (*.vxmat)</source>
+        <translation>Materialprojekt (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>Exchange document (*.json)</source>
+        <translation>Austauschdokument (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open a project from a file</source>
+        <translation>Ein Projekt aus einer Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Add the content of an exchange document to the project</source>
+        <translation>Den Inhalt eines Austauschdokuments zum Projekt hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::Command</name>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>Es gibt keinen Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; failed</source>
+        <translation>Der Befehl „%1“ ist fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::CoreEditor</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: its editor &quot;%2&quot; is missing. The module that has it may not be loaded.</source>
+        <translation>„%1“ kann nicht geöffnet werden: Der Editor „%2“ fehlt. Möglicherweise ist das zugehörige Modul nicht geladen.</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::DockSet</name>
+    <message>
+        <source>The docking window &quot;%1&quot; cannot be made</source>
+        <translation>Das Andockfenster „%1“ kann nicht angelegt werden</translation>
     </message>
 </context>
 <context>
     <name>Gui::GuiApplication</name>
     <message>
-        <source>Something went wrong: %1</source>
-        <translation>Etwas ist schiefgegangen: %1</translation>
+        <source>Something went wrong</source>
+        <translation>Etwas ist schiefgegangen</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::GuiProject</name>
+    <message>
+        <source>The tree node &quot;%1&quot; cannot be made</source>
+        <translation>Der Baumknoten „%1“ kann nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::MDIWindow</name>
+    <message>
+        <source>An edit in &quot;%1&quot; cannot be completed</source>
+        <translation>Eine Eingabe in „%1“ kann nicht abgeschlossen werden</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::MainWindow</name>
+    <message>
+        <source>There is no workbench &quot;%1&quot;.</source>
+        <translation>Es gibt keine Arbeitsumgebung „%1“.</translation>
     </message>
     <message>
-        <source>Something went wrong for a reason that is not known.</source>
-        <translation>Etwas ist aus unbekanntem Grund schiefgegangen.</translation>
+        <source>Project explorer</source>
+        <translation>Projektbaum</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::MessageLogView</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::ObjectClipboard</name>
+    <message>
+        <source>These properties of &quot;%1&quot; could not be pasted: %2.</source>
+        <translation>Diese Eigenschaften von „%1“ konnten nicht eingefügt werden: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be pasted into &quot;%2&quot;: a project of this kind does not take such objects. Nothing was pasted.</source>
+        <translation>„%1“ kann nicht in „%2“ eingefügt werden: Ein Projekt dieser Art nimmt solche Objekte nicht auf. Es wurde nichts eingefügt.</translation>
+    </message>
+    <message>
+        <source>An object cannot be pasted completely</source>
+        <translation>Ein Objekt kann nicht vollständig eingefügt werden</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::PictureFactory</name>
+    <message>
+        <source>The picture %1 is missing.</source>
+        <translation>Das Bild %1 fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::ProjectExplorer</name>
+    <message>
+        <source>Project explorer</source>
+        <translation>Projektbaum</translation>
+    </message>
+    <message>
+        <source>Display as</source>
+        <translation>Darstellen als</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::ProjectTreeModel</name>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Empty: nothing is defined yet</source>
+        <translation>Leer: noch ist nichts definiert</translation>
+    </message>
+    <message>
+        <source>
+Suppressed</source>
+        <translation>
+Unterdrückt</translation>
+    </message>
+    <message>
+        <source>The module for &quot;%1&quot; is not loaded. The data are kept as they are and saved again, but cannot be edited.</source>
+        <translation>Das Modul für „%1“ ist nicht geladen. Die Daten bleiben unverändert und werden wieder gespeichert, können aber nicht bearbeitet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::PropertyDelegate</name>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::PropertyPanel</name>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Nichts ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>%1 entries are selected.</source>
+        <translation>%1 Einträge sind ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
     <name>Gui::Translator</name>
     <message>
-        <source>The translation %1 cannot be read.</source>
-        <translation>Die Übersetzung %1 kann nicht gelesen werden.</translation>
+        <source>The translation %1 cannot be read; its texts are shown in English.</source>
+        <translation>Die Übersetzung %1 kann nicht gelesen werden; ihre Texte werden auf Englisch angezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::WelcomePage</name>
+    <message>
+        <source>No project is open</source>
+        <translation>Kein Projekt ist geöffnet</translation>
+    </message>
+    <message>
+        <source>Begin with a new project, or open a saved one.</source>
+        <translation>Beginnen Sie mit einem neuen Projekt, oder öffnen Sie ein gespeichertes.</translation>
+    </message>
+    <message>
+        <source>The project is empty</source>
+        <translation>Das Projekt ist leer</translation>
+    </message>
+    <message>
+        <source>The project menu offers what can be added.</source>
+        <translation>Das Menü „Projekt“ bietet an, was hinzugefügt werden kann.</translation>
+    </message>
+    <message>
+        <source>No document is open</source>
+        <translation>Kein Dokument ist geöffnet</translation>
+    </message>
+    <message>
+        <source>Double-click an object in the project explorer.</source>
+        <translation>Doppelklicken Sie ein Objekt im Projektbaum.</translation>
+    </message>
+    <message>
+        <source>No module is loaded</source>
+        <translation>Kein Modul ist geladen</translation>
+    </message>
+    <message>
+        <source>The messages say which modules could not be loaded, and why.</source>
+        <translation>Die Meldungen sagen, welche Module nicht geladen werden konnten und warum.</translation>
+    </message>
+</context>
+<context>
+    <name>Kelta</name>
+    <message>
+        <source>an exception without a text</source>
+        <translation>eine Ausnahme ohne Text</translation>
+    </message>
+    <message>
+        <source>an exception of an unknown kind</source>
+        <translation>eine Ausnahme unbekannter Art</translation>
+    </message>
+    <message>
+        <source>a text has a character that XML cannot hold</source>
+        <translation>ein Text enthält ein Zeichen, das in XML nicht erlaubt ist</translation>
+    </message>
+    <message>
+        <source>this is not a file</source>
+        <translation>dies ist keine Datei</translation>
+    </message>
+    <message>
+        <source>A listener of the message log failed: %1</source>
+        <translation>Ein Empfänger des Meldungsprotokolls ist fehlgeschlagen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Kelta::DataPersistence</name>
+    <message>
+        <source>%1: this file does not hold an object of the application</source>
+        <translation>%1: Diese Datei enthält kein Objekt der Anwendung</translation>
+    </message>
+    <message>
+        <source>%1: this file holds an object of class &quot;%2&quot;; one of &quot;%3&quot; is needed</source>
+        <translation>%1: Diese Datei enthält ein Objekt der Klasse „%2“; benötigt wird eines der Klasse „%3“</translation>
+    </message>
+</context>
+<context>
+    <name>Kelta::ModuleDescriptor</name>
+    <message>
+        <source>the descriptor is not a file</source>
+        <translation>die Beschreibung ist keine Datei</translation>
+    </message>
+    <message>
+        <source>the descriptor cannot be read: %1</source>
+        <translation>die Beschreibung kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the descriptor is larger than %1 bytes</source>
+        <translation>die Beschreibung ist größer als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the descriptor is not JSON: %1 at byte %2</source>
+        <translation>die Beschreibung ist kein JSON: %1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>the descriptor is not a JSON object</source>
+        <translation>die Beschreibung ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the descriptor is not a text</source>
+        <translation>„%1“ in der Beschreibung ist kein Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing in the descriptor</source>
+        <translation>„%1“ fehlt in der Beschreibung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of &quot;%2&quot; in the descriptor is not a version; an example of one is &quot;0.1.0&quot;</source>
+        <translation>„%1“ von „%2“ in der Beschreibung ist keine Version; ein Beispiel ist „0.1.0“</translation>
+    </message>
+    <message>
+        <source>it needs version %1 of the program, which has version %2</source>
+        <translation>es benötigt Version %1 des Programms, das Version %2 hat</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the descriptor is not known; known are %2</source>
+        <translation>„%1“ in der Beschreibung ist unbekannt; bekannt sind %2</translation>
+    </message>
+    <message>
+        <source>&quot;module&quot; in the descriptor is &quot;%1&quot;; the file is not called after it</source>
+        <translation>„module“ in der Beschreibung ist „%1“; die Datei heißt nicht so</translation>
+    </message>
+    <message>
+        <source>&quot;library&quot; in the descriptor is &quot;%1&quot;; it must be a file beside the descriptor, without a folder</source>
+        <translation>„library“ in der Beschreibung ist „%1“; es muss eine Datei neben der Beschreibung sein, ohne Ordner</translation>
+    </message>
+    <message>
+        <source>&quot;entries&quot; in the descriptor is not a list of names of functions</source>
+        <translation>„entries“ in der Beschreibung ist keine Liste von Funktionsnamen</translation>
+    </message>
+    <message>
+        <source>&quot;needs&quot; in the descriptor is not an object of modules with their versions</source>
+        <translation>„needs“ in der Beschreibung ist kein Objekt aus Modulen mit ihren Versionen</translation>
+    </message>
+</context>
+<context>
+    <name>Kelta::PluginLoader</name>
+    <message>
+        <source>an error without a text</source>
+        <translation>ein Fehler ohne Text</translation>
+    </message>
+    <message>
+        <source>there is no %1 in %2</source>
+        <translation>%1 fehlt in %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>it needs the module &quot;%1&quot;, which is missing</source>
+        <translation>es benötigt das Modul „%1“, das fehlt</translation>
+    </message>
+    <message>
+        <source>it needs the module &quot;%1&quot;, which was not loaded</source>
+        <translation>es benötigt das Modul „%1“, das nicht geladen wurde</translation>
+    </message>
+    <message>
+        <source>it needs version %1 of the module &quot;%2&quot;, which has version %3</source>
+        <translation>es benötigt Version %1 des Moduls „%2“, das Version %3 hat</translation>
+    </message>
+    <message>
+        <source>it needs itself: %1</source>
+        <translation>es benötigt sich selbst: %1</translation>
+    </message>
+    <message>
+        <source>its library %1 has no function &quot;%2&quot;</source>
+        <translation>seine Bibliothek %1 hat keine Funktion „%2“</translation>
+    </message>
+    <message>
+        <source>its library cannot be loaded: %1</source>
+        <translation>seine Bibliothek kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of its library failed: %2</source>
+        <translation>„%1“ seiner Bibliothek ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>The module &quot;%1&quot; was not loaded: %2</source>
+        <translation>Das Modul „%1“ wurde nicht geladen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Kelta::RootClass</name>
+    <message>
+        <source>The class &quot;%1&quot; cannot be registered: %2</source>
+        <translation>Die Klasse „%1“ kann nicht registriert werden: %2</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>sie hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>it would descend from itself</source>
+        <translation>sie würde von sich selbst abstammen</translation>
+    </message>
+    <message>
+        <source>another class has this name</source>
+        <translation>eine andere Klasse hat diesen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>MatCmdDelDoc</name>
+    <message>
+        <source>Close project</source>
+        <translation>Projekt schließen</translation>
+    </message>
+    <message>
+        <source>Delete a material project</source>
+        <translation>Ein Materialprojekt löschen</translation>
+    </message>
+</context>
+<context>
+    <name>MatCmdDelete</name>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Deletes the selected material objects</source>
+        <translation>Löscht die ausgewählten Materialien</translation>
+    </message>
+</context>
+<context>
+    <name>MatCmdEdit</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit current material</source>
+        <translation>Das aktuelle Material bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>MatCmdMaterial</name>
+    <message>
+        <source>Add material</source>
+        <translation>Material hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a new material</source>
+        <translation>Ein neues Material hinzufügen</translation>
+    </message>
+    <message>
+        <source>Invalid project</source>
+        <translation>Ungültiges Projekt</translation>
+    </message>
+    <message>
+        <source>No material project.</source>
+        <translation>Kein Materialprojekt.</translation>
+    </message>
+</context>
+<context>
+    <name>MatCmdNewDoc</name>
+    <message>
+        <source>&amp;New material project</source>
+        <translation>&amp;Neues Materialprojekt</translation>
+    </message>
+    <message>
+        <source>Create a new material project</source>
+        <translation>Ein neues Materialprojekt anlegen</translation>
+    </message>
+    <message>
+        <source>Material project</source>
+        <translation>Materialprojekt</translation>
+    </message>
+    <message>
+        <source>Material project is already presented in Project Explorer window.</source>
+        <translation>Im Projektbaum gibt es bereits ein Materialprojekt.</translation>
+    </message>
+</context>
+<context>
+    <name>MatGui::ComboDelegate</name>
+    <message>
+        <source>工人</source>
+        <translation>Arbeiter</translation>
+    </message>
+    <message>
+        <source>农民</source>
+        <translation>Bauer</translation>
+    </message>
+    <message>
+        <source>医生</source>
+        <translation>Arzt</translation>
+    </message>
+    <message>
+        <source>律师</source>
+        <translation>Anwalt</translation>
+    </message>
+    <message>
+        <source>军人</source>
+        <translation>Soldat</translation>
+    </message>
+</context>
+<context>
+    <name>MatGui::MaterialView</name>
+    <message>
+        <source>Invalid selection</source>
+        <translation>Ungültige Auswahl</translation>
+    </message>
+    <message>
+        <source>Please selection one material.</source>
+        <translation>Bitte wählen Sie genau ein Material aus.</translation>
+    </message>
+    <message>
+        <source>Empty property</source>
+        <translation>Keine Eigenschaft</translation>
+    </message>
+    <message>
+        <source>No property is defined.</source>
+        <translation>Es ist keine Eigenschaft definiert.</translation>
+    </message>
+    <message>
+        <source>Invalid material</source>
+        <translation>Ungültiges Material</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; is not a number!</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ ist keine Zahl!</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; is out of the range of numbers!</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ liegt außerhalb des Zahlenbereichs!</translation>
+    </message>
+    <message>
+        <source>Material editor</source>
+        <translation>Materialeditor</translation>
+    </message>
+    <message>
+        <source>Something went wrong: %1</source>
+        <translation>Etwas ist schiefgegangen: %1</translation>
+    </message>
+    <message>
+        <source>The changes of &quot;%1&quot; have not been applied.</source>
+        <translation>Die Änderungen an „%1“ wurden nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; would be read as &quot;%4&quot;; &quot;%5&quot; would be ignored. Type the value without it.</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ würde als „%4“ gelesen; „%5“ würde ignoriert. Geben Sie den Wert ohne diesen Teil ein.</translation>
+    </message>
+    <message>
+        <source>Change value</source>
+        <translation>Wert ändern</translation>
+    </message>
+    <message>
+        <source>Take library material</source>
+        <translation>Bibliotheksmaterial übernehmen</translation>
+    </message>
+    <message>
+        <source>Add property</source>
+        <translation>Eigenschaft hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove property</source>
+        <translation>Eigenschaft entfernen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Restore changes</source>
+        <translation>Änderungen wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>MatGui::SheetTableView</name>
+    <message>
+        <source>Insert rows</source>
+        <translation>Zeilen einfügen</translation>
+    </message>
+    <message>
+        <source>Remove rows</source>
+        <translation>Zeilen entfernen</translation>
+    </message>
+    <message>
+        <source>Insert columns</source>
+        <translation>Spalten einfügen</translation>
+    </message>
+    <message>
+        <source>Remove columns</source>
+        <translation>Spalten entfernen</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Eigenschaften …</translation>
+    </message>
+    <message>
+        <source>enum</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Row %1: Mass density must be positive!</source>
+        <translation>Zeile %1: Die Massendichte muss positiv sein!</translation>
+    </message>
+    <message>
+        <source>Row %1: Poisson&apos;s ratio must be between [0.001, 0.499]!</source>
+        <translation>Zeile %1: Die Querkontraktionszahl muss in [0.001, 0.499] liegen!</translation>
+    </message>
+    <message>
+        <source>Row %1: Yield type must be Mises, Mohr-Coulomb, or Drucker-Prager!</source>
+        <translation>Zeile %1: Die Fließbedingung muss Mises, Mohr-Coulomb oder Drucker-Prager sein!</translation>
+    </message>
+    <message>
+        <source>Row %1: Hardening type must be Bilinear, Multilinear, Swift,                     Ramberg-Osgood, Kinematic, or Combined!</source>
+        <translation>Zeile %1: Die Verfestigung muss Bilinear, Multilinear, Swift, Ramberg-Osgood, Kinematic oder Combined sein!</translation>
+    </message>
+    <message>
+        <source>Elasticity and hyper-elasticy cannot be used togeter!</source>
+        <translation>Elastizität und Hyperelastizität können nicht zusammen verwendet werden!</translation>
+    </message>
+    <message>
+        <source>Elasticity does not define Young&apos;s modulus!</source>
+        <translation>Zur Elastizität fehlt der Elastizitätsmodul!</translation>
+    </message>
+    <message>
+        <source>Elasticity does not define Poisson&apos;s ratio!</source>
+        <translation>Zur Elastizität fehlt die Querkontraktionszahl!</translation>
+    </message>
+</context>
+<context>
+    <name>MatGui::ViewFeederMaterialObject</name>
+    <message>
+        <source>Show material</source>
+        <translation>Material anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>Mat_Delete</name>
+    <message>
+        <source>Object dependencies</source>
+        <translation>Abhängigkeiten</translation>
+    </message>
+    <message>
+        <source>This object is linked to other objects thus these objects might be broken.
+Do you want to continue?</source>
+        <translation>Dieses Objekt ist mit anderen verknüpft, die dadurch unbrauchbar werden können.
+Möchten Sie fortfahren?</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialAbout</name>
+    <message>
+        <source>Materials for finite-element simulation: 26 ready-made materials, 36 quantities, and the documents and cards that the solver reads.</source>
+        <translation>Materialien für Finite-Elemente-Simulation: 26 fertige Materialien, 36 Größen und die Dokumente und Karten, die der Solver liest.</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialCommand</name>
+    <message>
+        <source>&amp;Check materials</source>
+        <translation>Materialien &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>Check whether all materials of the project are ready</source>
+        <translation>Prüfen, ob alle Materialien des Projekts bereit sind</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialWelcome</name>
+    <message>
+        <source>No project is open</source>
+        <translation>Kein Projekt ist geöffnet</translation>
+    </message>
+    <message>
+        <source>A material project holds the materials of a model. Begin with a new one, or open a saved one.</source>
+        <translation>Ein Materialprojekt enthält die Materialien eines Modells. Beginnen Sie mit einem neuen, oder öffnen Sie ein gespeichertes.</translation>
+    </message>
+    <message>
+        <source>The project has no materials yet</source>
+        <translation>Das Projekt hat noch keine Materialien</translation>
+    </message>
+    <message>
+        <source>Add a material; it begins as structural steel, and the editor offers 25 others and every quantity.</source>
+        <translation>Fügen Sie ein Material hinzu; es beginnt als Baustahl, und der Editor bietet 25 andere und alle Größen.</translation>
+    </message>
+    <message>
+        <source>No material is open</source>
+        <translation>Kein Material ist geöffnet</translation>
+    </message>
+    <message>
+        <source>Double-click a material in the project explorer, or select one and choose Edit.</source>
+        <translation>Doppelklicken Sie ein Material im Projektbaum, oder wählen Sie eines aus und dann Bearbeiten.</translation>
     </message>
 </context>
 <context>
@@ -197,125 +891,1146 @@
     </message>
 </context>
 <context>
-    <name>MatGui::MaterialView</name>
+    <name>Obj</name>
     <message>
-        <source>Invalid selection</source>
-        <translation>Ungültige Auswahl</translation>
-    </message>
-    <message>
-        <source>Please selection one material.</source>
-        <translation>Bitte wählen Sie genau ein Material aus.</translation>
-    </message>
-    <message>
-        <source>Empty property</source>
-        <translation>Keine Eigenschaft</translation>
-    </message>
-    <message>
-        <source>No property is defined.</source>
-        <translation>Es ist keine Eigenschaft definiert.</translation>
-    </message>
-    <message>
-        <source>Invalid material</source>
-        <translation>Ungültiges Material</translation>
-    </message>
-    <message>
-        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; is not a number!</source>
-        <translation>Zeile %1: Der Wert „%2“ von „%3“ ist keine Zahl!</translation>
-    </message>
-    <message>
-        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; is out of the range of numbers!</source>
-        <translation>Zeile %1: Der Wert „%2“ von „%3“ liegt außerhalb des Zahlenbereichs!</translation>
-    </message>
-    <message>
-        <source>Material editor</source>
-        <translation>Materialeditor</translation>
-    </message>
-    <message>
-        <source>Something went wrong: %1</source>
-        <translation>Etwas ist schiefgegangen: %1</translation>
-    </message>
-    <message>
-        <source>the reason is not known</source>
-        <translation>der Grund ist nicht bekannt</translation>
-    </message>
-    <message>
-        <source>The changes of &quot;%1&quot; have not been applied.</source>
-        <translation>Die Änderungen an „%1“ wurden nicht angewendet.</translation>
+        <source>A listener failed</source>
+        <translation>Ein Empfänger ist fehlgeschlagen</translation>
     </message>
 </context>
 <context>
-    <name>MatGui::SheetTableView</name>
+    <name>Obj::Application</name>
     <message>
-        <source>Insert rows</source>
-        <translation>Zeilen einfügen</translation>
+        <source>this class is not known</source>
+        <translation>diese Klasse ist unbekannt</translation>
     </message>
     <message>
-        <source>Remove rows</source>
-        <translation>Zeilen entfernen</translation>
+        <source>this is not a class of projects</source>
+        <translation>dies ist keine Projektklasse</translation>
     </message>
     <message>
-        <source>Insert columns</source>
-        <translation>Spalten einfügen</translation>
+        <source>the class created none</source>
+        <translation>die Klasse hat keines erzeugt</translation>
     </message>
     <message>
-        <source>Remove columns</source>
-        <translation>Spalten entfernen</translation>
+        <source>No project of class &quot;%1&quot; was made: %2.</source>
+        <translation>Es wurde kein Projekt der Klasse „%1“ angelegt: %2.</translation>
     </message>
     <message>
-        <source>Properties...</source>
-        <translation>Eigenschaften …</translation>
+        <source>The project &quot;%1&quot; came back as &quot;%2&quot;: another one has its name.</source>
+        <translation>Das Projekt „%1“ ist als „%2“ zurückgekommen: Ein anderes hat seinen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>Obj::Project</name>
+    <message>
+        <source>this class is not known</source>
+        <translation>diese Klasse ist unbekannt</translation>
     </message>
     <message>
-        <source>enum</source>
-        <translation>Nummer</translation>
+        <source>this is not a class of objects of a project</source>
+        <translation>dies ist keine Klasse von Projektobjekten</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>Name</translation>
+        <source>the class created none</source>
+        <translation>die Klasse hat keines erzeugt</translation>
     </message>
     <message>
-        <source>Value</source>
-        <translation>Wert</translation>
+        <source>No object of class &quot;%1&quot; was added to the project &quot;%2&quot;: %3.</source>
+        <translation>Es wurde kein Objekt der Klasse „%1“ zum Projekt „%2“ hinzugefügt: %3.</translation>
     </message>
     <message>
-        <source>Description</source>
-        <translation>Beschreibung</translation>
+        <source>No object of class &quot;%1&quot; was added to the project &quot;%2&quot;: projects of class &quot;%3&quot; do not take such objects.</source>
+        <translation>Es wurde kein Objekt der Klasse „%1“ zum Projekt „%2“ hinzugefügt: Projekte der Klasse „%3“ nehmen solche Objekte nicht auf.</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Schlüssel</translation>
+        <source>The object &quot;%1&quot; cannot be added to the project &quot;%2&quot; under the id %3: ids are whole numbers from 1 to 4294967295 that no object of the project has or had, and the name must be one that no object has.</source>
+        <translation>Das Objekt „%1“ kann nicht unter der Nummer %3 zum Projekt „%2“ hinzugefügt werden: Nummern sind ganze Zahlen von 1 bis 4294967295, die kein Objekt des Projekts hat oder hatte, und kein Objekt darf den Namen schon haben.</translation>
     </message>
     <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
+        <source>No object can be added to the project &quot;%1&quot;: all ids are used up.</source>
+        <translation>Zum Projekt „%1“ kann kein Objekt hinzugefügt werden: Alle Nummern sind verbraucht.</translation>
     </message>
     <message>
-        <source>Row %1: Mass density must be positive!</source>
-        <translation>Zeile %1: Die Massendichte muss positiv sein!</translation>
+        <source>The object that is to come back to the project &quot;%1&quot; does not come from it.</source>
+        <translation>Das Objekt, das in das Projekt „%1“ zurückkommen soll, stammt nicht aus ihm.</translation>
     </message>
     <message>
-        <source>Row %1: Poisson&apos;s ratio must be between [0.001, 0.499]!</source>
-        <translation>Zeile %1: Die Querkontraktionszahl muss in [0.001, 0.499] liegen!</translation>
+        <source>An object failed when it came back</source>
+        <translation>Ein Objekt ist beim Zurückkommen fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Row %1: Yield type must be Mises, Mohr-Coulomb, or Drucker-Prager!</source>
-        <translation>Zeile %1: Die Fließbedingung muss Mises, Mohr-Coulomb oder Drucker-Prager sein!</translation>
+        <source>The object &quot;%1&quot; came back as &quot;%2&quot;: another one has its name.</source>
+        <translation>Das Objekt „%1“ ist als „%2“ zurückgekommen: Ein anderes hat seinen Namen.</translation>
     </message>
     <message>
-        <source>Row %1: Hardening type must be Bilinear, Multilinear, Swift,                     Ramberg-Osgood, Kinematic, or Combined!</source>
-        <translation>Zeile %1: Die Verfestigung muss Bilinear, Multilinear, Swift, Ramberg-Osgood, Kinematic oder Combined sein!</translation>
+        <source>An object failed after its project had been read</source>
+        <translation>Ein Objekt ist nach dem Lesen seines Projekts fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Elasticity and hyper-elasticy cannot be used togeter!</source>
-        <translation>Elastizität und Hyperelastizität können nicht zusammen verwendet werden!</translation>
+        <source>The execution of an object failed</source>
+        <translation>Die Ausführung eines Objekts ist fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>Obj::ProjectObject</name>
+    <message>
+        <source>&quot;%1&quot; cannot be linked to &quot;%2&quot;: they are not in one project.</source>
+        <translation>„%1“ kann nicht mit „%2“ verknüpft werden: Sie sind nicht im selben Projekt.</translation>
     </message>
     <message>
-        <source>Elasticity does not define Young&apos;s modulus!</source>
-        <translation>Zur Elastizität fehlt der Elastizitätsmodul!</translation>
+        <source>An object failed when its link was broken</source>
+        <translation>Ein Objekt ist beim Lösen seiner Verknüpfung fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Elasticity does not define Poisson&apos;s ratio!</source>
-        <translation>Zur Elastizität fehlt die Querkontraktionszahl!</translation>
+        <source>An object failed when its link came back</source>
+        <translation>Ein Objekt ist beim Wiederherstellen seiner Verknüpfung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>Obj::ProjectObjectGroup</name>
+    <message>
+        <source>&quot;%1&quot; cannot be put into &quot;%2&quot;, which is a part of it.</source>
+        <translation>„%1“ kann nicht in „%2“ gelegt werden, das ein Teil davon ist.</translation>
+    </message>
+</context>
+<context>
+    <name>Obj::PropertyRecords</name>
+    <message>
+        <source>the properties are not an object</source>
+        <translation>die Eigenschaften sind kein Objekt</translation>
+    </message>
+    <message>
+        <source>the links are not an array</source>
+        <translation>die Verknüpfungen sind kein Feld</translation>
+    </message>
+</context>
+<context>
+    <name>Property</name>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Definition</source>
+        <translation>Definition</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>ClassLabel</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>PhysicsType</source>
+        <translation>Physik</translation>
+    </message>
+    <message>
+        <source>MaterialColor</source>
+        <translation>Materialfarbe</translation>
+    </message>
+    <message>
+        <source>Name shown in the project tree</source>
+        <translation>Name, den der Projektbaum zeigt</translation>
+    </message>
+    <message>
+        <source>Identity of the tree object</source>
+        <translation>Nummer des Objekts im Projektbaum</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <translation>Name der Klasse</translation>
+    </message>
+    <message>
+        <source>Physics type simulated in this project</source>
+        <translation>Physik, die dieses Projekt simuliert</translation>
+    </message>
+    <message>
+        <source>Color of material.</source>
+        <translation>Farbe des Materials.</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Input check</source>
+        <translation>Eingabeprüfung</translation>
+    </message>
+    <message>
+        <source>No property is defined in &apos;%1&apos;.</source>
+        <translation>In „%1“ ist keine Eigenschaft definiert.</translation>
+    </message>
+    <message>
+        <source>Material property defined in &apos;%1&apos; has value equal or less than zero.</source>
+        <translation>Eine in „%1“ definierte Materialeigenschaft hat einen Wert kleiner oder gleich null.</translation>
+    </message>
+</context>
+<context>
+    <name>StandardCommand</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take back the last change</source>
+        <translation>Die letzte Änderung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Make again the change that was taken back</source>
+        <translation>Die zurückgenommene Änderung wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Suppress</source>
+        <translation>&amp;Unterdrücken</translation>
+    </message>
+    <message>
+        <source>U&amp;nsuppress</source>
+        <translation>Unterdrückung auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>Rena&amp;me</source>
+        <translation>U&amp;mbenennen</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Close the program</source>
+        <translation>Das Programm schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Project explorer</source>
+        <translation>&amp;Projektbaum</translation>
+    </message>
+    <message>
+        <source>Show or hide the project explorer</source>
+        <translation>Den Projektbaum ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>P&amp;roperties</source>
+        <translation>&amp;Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Show or hide the properties</source>
+        <translation>Die Eigenschaften ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Messages</source>
+        <translation>&amp;Meldungen</translation>
+    </message>
+    <message>
+        <source>Show or hide the messages</source>
+        <translation>Die Meldungen ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>C&amp;lear messages</source>
+        <translation>Meldungen &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Empty the message log</source>
+        <translation>Das Meldungsprotokoll leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Tile</source>
+        <translation>&amp;Nebeneinander</translation>
+    </message>
+    <message>
+        <source>Show all document windows side by side</source>
+        <translation>Alle Dokumentfenster nebeneinander zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Cascade</source>
+        <translation>Ü&amp;berlappend</translation>
+    </message>
+    <message>
+        <source>Show the document windows one behind the other</source>
+        <translation>Die Dokumentfenster hintereinander zeigen</translation>
+    </message>
+    <message>
+        <source>Ta&amp;bs</source>
+        <translation>&amp;Reiter</translation>
+    </message>
+    <message>
+        <source>Show the document windows as tabs</source>
+        <translation>Die Dokumentfenster als Reiter zeigen</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close the document window in front</source>
+        <translation>Das vorderste Dokumentfenster schließen</translation>
+    </message>
+    <message>
+        <source>Close &amp;all</source>
+        <translation>&amp;Alle schließen</translation>
+    </message>
+    <message>
+        <source>Close all document windows</source>
+        <translation>Alle Dokumentfenster schließen</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>What this program is</source>
+        <translation>Was dieses Programm ist</translation>
+    </message>
+    <message>
+        <source>Copy the selected objects</source>
+        <translation>Ausgewählte Objekte kopieren</translation>
+    </message>
+    <message>
+        <source>Add the copied objects to the project</source>
+        <translation>Kopierte Objekte zum Projekt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a copy of each selected object</source>
+        <translation>Eine Kopie jedes ausgewählten Objekts hinzufügen</translation>
+    </message>
+    <message>
+        <source>Take the selected objects out of use</source>
+        <translation>Ausgewählte Objekte außer Gebrauch nehmen</translation>
+    </message>
+    <message>
+        <source>Take the selected objects into use again</source>
+        <translation>Ausgewählte Objekte wieder in Gebrauch nehmen</translation>
+    </message>
+    <message>
+        <source>Give the selected object another label</source>
+        <translation>Dem ausgewählten Objekt eine andere Beschriftung geben</translation>
+    </message>
+    <message>
+        <source>Select all objects of the project</source>
+        <translation>Alle Objekte des Projekts auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Hand over to the solver</source>
+        <translation>An den Solver &amp;übergeben</translation>
+    </message>
+    <message>
+        <source>Hand the data of the project over to the solver</source>
+        <translation>Die Daten des Projekts an den Solver übergeben</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Projekt</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Material</source>
+        <translation>&amp;Material</translation>
+    </message>
+    <message>
+        <source>&amp;Windows</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>&amp;Workbench</source>
+        <translation>&amp;Arbeitsbereich</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Batch</name>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>es gibt keinen Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>%1 takes at most one argument, the file that it asks for</source>
+        <translation>%1 nimmt höchstens ein Argument, die Datei, nach der es fragt</translation>
+    </message>
+    <message>
+        <source>%1 cannot be done now</source>
+        <translation>%1 ist jetzt nicht möglich</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>nothing in the current project is labelled &quot;%1&quot;</source>
+        <translation>nichts im aktuellen Projekt heißt „%1“</translation>
+    </message>
+    <message>
+        <source>there is no such project</source>
+        <translation>es gibt kein solches Projekt</translation>
+    </message>
+    <message>
+        <source>one label, and one selected object, are needed</source>
+        <translation>eine Bezeichnung und ein ausgewähltes Objekt werden gebraucht</translation>
+    </message>
+    <message>
+        <source>one file name is needed</source>
+        <translation>ein Dateiname wird gebraucht</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>no argument is taken</source>
+        <translation>es wird kein Argument genommen</translation>
+    </message>
+    <message>
+        <source>the name of a library material, and one selected material, are needed</source>
+        <translation>der Name eines Bibliotheksmaterials und ein ausgewähltes Material werden gebraucht</translation>
+    </message>
+    <message>
+        <source>the library has no material &quot;%1&quot;</source>
+        <translation>die Bibliothek hat kein Material „%1“</translation>
+    </message>
+    <message>
+        <source>a quantity and its value, and one selected material, are needed</source>
+        <translation>eine Größe, ihr Wert und ein ausgewähltes Material werden gebraucht</translation>
+    </message>
+    <message>
+        <source>the catalogue has no quantity &quot;%1&quot;</source>
+        <translation>der Katalog hat keine Größe „%1“</translation>
+    </message>
+    <message>
+        <source>one selected material is needed</source>
+        <translation>ein ausgewähltes Material wird gebraucht</translation>
+    </message>
+    <message>
+        <source>there is no material project</source>
+        <translation>es gibt kein Materialprojekt</translation>
+    </message>
+    <message>
+        <source>the value &quot;%1&quot; would be read as &quot;%2&quot;; &quot;%3&quot; would be ignored; give the value without it</source>
+        <translation>der Wert „%1“ würde als „%2“ gelesen; „%3“ würde ignoriert; geben Sie den Wert ohne diesen Teil an</translation>
+    </message>
+    <message>
+        <source>the value &quot;%1&quot; is not a finite number</source>
+        <translation>der Wert „%1“ ist keine endliche Zahl</translation>
+    </message>
+    <message>
+        <source>the material project &quot;%1&quot; is open; close it first with select-project and Mat_DelDoc</source>
+        <translation>das Materialprojekt „%1“ ist geöffnet; schließen Sie es zuerst mit select-project und Mat_DelDoc</translation>
+    </message>
+    <message>
+        <source>Mat_Export needs one argument, the name of the file to write</source>
+        <translation>Mat_Export benötigt ein Argument, den Namen der zu schreibenden Datei</translation>
+    </message>
+    <message>
+        <source>the label was not set</source>
+        <translation>die Beschriftung wurde nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>the name of a property, a value, and one selected object are needed</source>
+        <translation>der Name einer Eigenschaft, ein Wert und ein ausgewähltes Objekt sind nötig</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no property &quot;%2&quot;</source>
+        <translation>„%1“ hat keine Eigenschaft „%2“</translation>
+    </message>
+    <message>
+        <source>one selected object, and no argument, are needed</source>
+        <translation>ein ausgewähltes Objekt und kein Argument sind nötig</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::EditorWatch</name>
+    <message>
+        <source>The values of an editor cannot be checked</source>
+        <translation>Die Werte eines Editors können nicht geprüft werden</translation>
+    </message>
+    <message>
+        <source>What was changed in an editor cannot be recorded</source>
+        <translation>Die Änderung in einem Editor kann nicht aufgezeichnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::KeptEdits</name>
+    <message>
+        <source>Changes that were not applied cannot be shown again</source>
+        <translation>Nicht übernommene Änderungen können nicht wieder angezeigt werden</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialChange</name>
+    <message>
+        <source>Change &quot;%1&quot;</source>
+        <translation>„%1“ ändern</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialCheck</name>
+    <message>
+        <source>&quot;%1&quot;: %2</source>
+        <translation>„%1“: %2</translation>
+    </message>
+    <message>
+        <source>All materials of &quot;%1&quot; are ready (%2 checked).</source>
+        <translation>Alle Materialien von „%1“ sind bereit (%2 geprüft).</translation>
+    </message>
+    <message>
+        <source>Not ready in &quot;%1&quot;: %2 of %3 materials. Findings: %4.</source>
+        <translation>Nicht bereit in „%1“: %2 von %3 Materialien. Befunde: %4.</translation>
+    </message>
+    <message>
+        <source>Changes in open editors that are not applied were not checked: %1.</source>
+        <translation>Nicht übernommene Änderungen in offenen Editoren wurden nicht geprüft: %1.</translation>
+    </message>
+    <message>
+        <source>Further findings are not listed: %1.</source>
+        <translation>Weitere Befunde sind nicht aufgeführt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialExport</name>
+    <message>
+        <source>&quot;%1&quot;: An exchange document carries no words and lists. Not written: %2.</source>
+        <translation>„%1“: Ein Austauschdokument enthält keine Wörter und Listen. Nicht geschrieben: %2.</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; of &quot;%2&quot; is %3. An exchange document contains only finite numbers. Change the value, then export again.</source>
+        <translation>Der Wert von „%1“ von „%2“ ist %3. Ein Austauschdokument enthält nur endliche Zahlen. Ändern Sie den Wert und exportieren Sie erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular file. Choose another name.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>Materials written to &quot;%1&quot;: %2.</source>
+        <translation>In „%1“ geschriebene Materialien: %2.</translation>
+    </message>
+    <message>
+        <source>Suppressed materials among them: %1.</source>
+        <translation>Davon unterdrückt: %1.</translation>
+    </message>
+    <message>
+        <source>The export to &quot;%1&quot; is not complete: %2 Export again to another place.</source>
+        <translation>Der Export nach „%1“ ist unvollständig: %2 Exportieren Sie erneut an einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialGuards</name>
+    <message>
+        <source>New material project</source>
+        <translation>Neues Materialprojekt</translation>
+    </message>
+    <message>
+        <source>Only one material project can be used at a time. Close &quot;%1&quot; and make a new one?</source>
+        <translation>Es kann nur ein Materialprojekt zugleich verwendet werden. „%1“ schließen und ein neues anlegen?</translation>
+    </message>
+    <message>
+        <source>No material project is open. Open one, then export it.</source>
+        <translation>Es ist kein Materialprojekt geöffnet. Öffnen Sie eines und exportieren Sie es dann.</translation>
+    </message>
+    <message>
+        <source>Material projects that are open: %1. Only a single one can be exported. Close the others first.</source>
+        <translation>Geöffnete Materialprojekte: %1. Nur ein einzelnes kann exportiert werden. Schließen Sie zuerst die anderen.</translation>
+    </message>
+    <message>
+        <source>Export materials</source>
+        <translation>Materialien exportieren</translation>
+    </message>
+    <message>
+        <source>Only what has been applied is exported.</source>
+        <translation>Exportiert wird nur, was übernommen wurde.</translation>
+    </message>
+    <message>
+        <source>&amp;Export without them</source>
+        <translation>Ohne sie &amp;exportieren</translation>
+    </message>
+    <message>
+        <source>Edit materials</source>
+        <translation>Materialien bearbeiten</translation>
+    </message>
+    <message>
+        <source>Materials selected: %1. At most %2 can be opened at a time. Select fewer.</source>
+        <translation>Ausgewählte Materialien: %1. Höchstens %2 können auf einmal geöffnet werden. Wählen Sie weniger aus.</translation>
+    </message>
+    <message>
+        <source>Open %1 editors?</source>
+        <translation>%1 Editoren öffnen?</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ProjectFiles</name>
+    <message>
+        <source>The project has no numbers left for so many materials.</source>
+        <translation>Das Projekt hat für so viele Materialien keine Nummern mehr.</translation>
+    </message>
+    <message>
+        <source>Import &quot;%1&quot;</source>
+        <translation>„%1“ importieren</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in use by %2.</source>
+        <translation>„%1“ wird von %2 verwendet.</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened.</source>
+        <translation>„%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>File in use</source>
+        <translation>Datei in Verwendung</translation>
+    </message>
+    <message>
+        <source>What is saved by one of the programs replaces what the other one saved.</source>
+        <translation>Was eines der Programme speichert, ersetzt, was das andere gespeichert hat.</translation>
+    </message>
+    <message>
+        <source>&amp;Use all the same</source>
+        <translation>&amp;Trotzdem verwenden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the file of the project &quot;%2&quot;, which is open.</source>
+        <translation>„%1“ ist die Datei des Projekts „%2“, das geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been saved.</source>
+        <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been there since %2, before the project was recovered.</source>
+        <translation>„%1“ gibt es seit %2, von vor der Wiederherstellung des Projekts.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been changed by another program, on %2.</source>
+        <translation>„%1“ wurde am %2 von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>What is in the file now is lost when it is replaced.</source>
+        <translation>Was jetzt in der Datei steht, geht verloren, wenn sie ersetzt wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
+        <translation>Die Änderungen von „%1“ im Editor wurden nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Only what has been applied is saved.</source>
+        <translation>Nur was angewendet wurde, wird gespeichert.</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>An&amp;wenden</translation>
+    </message>
+    <message>
+        <source>&amp;Save without them</source>
+        <translation>&amp;Ohne sie speichern</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The changes of the project &quot;%1&quot; have not been saved.</source>
+        <translation>Die Änderungen des Projekts „%1“ wurden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Changes in open editors have not been applied.</source>
+        <translation>Änderungen in geöffneten Editoren wurden nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>No copy for recovery could be kept: %1</source>
+        <translation>Es konnte keine Kopie zur Wiederherstellung angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>The program ended before projects were saved.</source>
+        <translation>Das Programm endete, bevor Projekte gespeichert waren.</translation>
+    </message>
+    <message>
+        <source>There are copies from %1.</source>
+        <translation>Es gibt Kopien vom %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be recovered.</source>
+        <translation>„%1“ kann nicht wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>The message log says why.</source>
+        <translation>Das Meldungsprotokoll nennt den Grund.</translation>
+    </message>
+    <message>
+        <source>Objects imported: %1</source>
+        <translation>Importierte Objekte: %1</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is not a material class.</source>
+        <translation>Das Objekt „%1“ hat die Klasse „%2“, die keine Materialklasse ist.</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; of the class &quot;%2&quot; cannot be added to the project. The message log says why.</source>
+        <translation>Das Objekt „%1“ der Klasse „%2“ kann nicht zum Projekt hinzugefügt werden. Das Meldungsprotokoll nennt den Grund.</translation>
+    </message>
+    <message>
+        <source>The content of &quot;%1&quot; is kept, but no module can read it.</source>
+        <translation>Der Inhalt von „%1“ bleibt erhalten, aber kein Modul kann ihn lesen.</translation>
+    </message>
+    <message>
+        <source>The content of the object &quot;%1&quot; of the class &quot;%2&quot; cannot be read: %3</source>
+        <translation>Der Inhalt des Objekts „%1“ der Klasse „%2“ kann nicht gelesen werden: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n link(s) of &quot;%1&quot; cannot be made.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>These properties of &quot;%1&quot; are kept, but cannot be set: %2.</source>
+        <translation>Diese Eigenschaften von „%1“ bleiben erhalten, können aber nicht gesetzt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The module of these classes is missing: %1. Their objects are kept as they are.</source>
+        <translation>Das Modul dieser Klassen fehlt: %1. Ihre Objekte bleiben unverändert erhalten.</translation>
+    </message>
+    <message>
+        <source>Project (*.vxmat)</source>
+        <translation>Projekt (*.vxmat)</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Sessions</name>
+    <message>
+        <source>Changes of a project cannot be determined</source>
+        <translation>Die Änderungen eines Projekts können nicht ermittelt werden</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnappliedEdits</name>
+    <message>
+        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
+        <translation>Die Änderungen von „%1“ in seinem Editor wurden nicht übernommen.</translation>
+    </message>
+</context>
+<context>
+    <name>kelta</name>
+    <message>
+        <source>No module was found in %1.</source>
+        <translation>In %1 wurde kein Modul gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ExchangeImport</name>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>ein Feld</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a whole number from 0 to 4294967295</source>
+        <translation>eine ganze Zahl von 0 bis 4294967295</translation>
+    </message>
+    <message>
+        <source>%1: is %2; %3 is needed</source>
+        <translation>%1: ist %2; nötig ist %3</translation>
+    </message>
+    <message>
+        <source>material %1 &quot;%2&quot;: %3</source>
+        <translation>Material %1 „%2“: %3</translation>
+    </message>
+    <message>
+        <source>property %1: %2</source>
+        <translation>Eigenschaft %1: %2</translation>
+    </message>
+    <message>
+        <source>property %1 &quot;%2&quot;: %3</source>
+        <translation>Eigenschaft %1 „%2“: %3</translation>
+    </message>
+    <message>
+        <source>the document has no number for it, which is read as 0</source>
+        <translation>das Dokument hat keine Zahl dafür, was als 0 gelesen wird</translation>
+    </message>
+    <message>
+        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the key of the document was kept</source>
+        <translation>ihr Schlüssel ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
+    </message>
+    <message>
+        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the name of the document was kept</source>
+        <translation>ihr Name ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
+    </message>
+    <message>
+        <source>documents carry no words; &quot;%1&quot; of the catalogue was taken</source>
+        <translation>Dokumente übertragen keine Wörter; „%1“ aus dem Katalog wurde genommen</translation>
+    </message>
+    <message>
+        <source>documents carry no lists; it is empty</source>
+        <translation>Dokumente übertragen keine Listen; sie ist leer</translation>
+    </message>
+    <message>
+        <source>the catalogue does not know it; its unit, description and category are lost</source>
+        <translation>der Katalog kennt sie nicht; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
+    </message>
+    <message>
+        <source>the document has it more than once; the last one was used</source>
+        <translation>sie steht zweimal im Dokument; die letzte wurde genommen</translation>
+    </message>
+    <message>
+        <source>the document has no number for it; it was given the number %1</source>
+        <translation>das Dokument hat keine Nummer dafür; es bekam die Nummer %1</translation>
+    </message>
+    <message>
+        <source>its number in the document is %1, which a later material has too; it was given the number %2</source>
+        <translation>seine Nummer im Dokument ist %1 wie die eines späteren Materials; es bekam die Nummer %2</translation>
+    </message>
+    <message>
+        <source>its number in the document is %1, which no object can have; it was given the number %2</source>
+        <translation>seine Nummer im Dokument ist %1, die kein Objekt haben kann; es bekam die Nummer %2</translation>
+    </message>
+    <message>
+        <source>the document has no name for it</source>
+        <translation>das Dokument hat keinen Namen dafür</translation>
+    </message>
+    <message>
+        <source>it is a project file, which needs no import</source>
+        <translation>das ist eine Projektdatei, die keinen Import braucht</translation>
+    </message>
+    <message>
+        <source>an analysis document holds no materials; give the material document</source>
+        <translation>ein Analysedokument enthält keine Materialien; nötig ist das Materialdokument</translation>
+    </message>
+    <message>
+        <source>it is not a material document: &quot;proj_type&quot; must be 2</source>
+        <translation>das ist kein Materialdokument: „proj_type“ muss 2 sein</translation>
+    </message>
+    <message>
+        <source>the document holds no materials</source>
+        <translation>das Dokument enthält keine Materialien</translation>
+    </message>
+    <message>
+        <source>%1: occurs more than once; the last one was used</source>
+        <translation>%1: kommt mehrfach vor; das letzte wurde verwendet</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ProjectFile</name>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file was written by a later version of the program, in version %1 of the format; this program reads up to version %2.</source>
+        <translation>Die Datei wurde von einer neueren Version des Programms geschrieben, in Version %1 des Formats; dieses Programm liest bis Version %2.</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>ein Feld</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must not be empty</source>
+        <translation>„%1“ darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which contains a zero character</source>
+        <translation>„%1“ ist %2 und enthält ein Nullzeichen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is 0 but must be from 1 to 4294967295</source>
+        <translation>„%1“ ist 0, muss aber zwischen 1 und 4294967295 liegen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which is the number of %3 too</source>
+        <translation>„%1“ ist %2; diese Nummer hat auch %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which is the name of %3 too</source>
+        <translation>„%1“ ist %2; diesen Namen hat auch %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 but must be from %3 to %4, because object numbers are not reused</source>
+        <translation>„%1“ ist %2, muss aber zwischen %3 und %4 liegen, weil Objektnummern nicht wiederverwendet werden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>„%1“ muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an array</source>
+        <translation>„%1“ muss ein Feld sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>„%1“ muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, but the object itself has %3</source>
+        <translation>„%1“ ist %2, aber das Objekt selbst hat %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be the number of an object</source>
+        <translation>„%1“ muss die Nummer eines Objekts sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, but &quot;materials&quot; and &quot;objects&quot; have no such object</source>
+        <translation>„%1“ ist %2, aber „materials“ und „objects“ enthalten kein solches Objekt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which occurs twice</source>
+        <translation>„%1“ ist %2, das mehrfach vorkommt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is object %2, which &quot;database.objects.object&quot; does not have</source>
+        <translation>„%1“ ist das Objekt %2, das in „database.objects.object“ fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 but %3 in the database; %2 is used.</source>
+        <translation>„%1“ ist %2, in der Datenbank aber %3; verwendet wird %2.</translation>
+    </message>
+    <message>
+        <source>not a text</source>
+        <translation>kein Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, the object itself.</source>
+        <translation>„%1“ ist %2, das Objekt selbst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, but there is no such object.</source>
+        <translation>„%1“ ist %2, aber ein solches Objekt gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which occurs twice.</source>
+        <translation>„%1“ ist %2, das mehrfach vorkommt.</translation>
+    </message>
+    <message>
+        <source>This is not a project file: its member &quot;format&quot; is not &quot;%1&quot;.</source>
+        <translation>Dies ist keine Projektdatei: Ihr Eintrag „format“ ist nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>an array of objects</source>
+        <translation>ein Feld von Objekten</translation>
+    </message>
+    <message>
+        <source>an array of numbers</source>
+        <translation>ein Feld von Zahlen</translation>
+    </message>
+    <message>
+        <source>an array of the numbers of objects</source>
+        <translation>ein Feld von Objektnummern</translation>
+    </message>
+    <message>
+        <source>an array of four numbers: red, green, blue and opacity</source>
+        <translation>ein Feld von vier Zahlen: Rot, Grün, Blau und Deckkraft</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 1</source>
+        <translation>eine Zahl von 0 bis 1</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>a whole number of 32 bits</source>
+        <translation>eine ganze Zahl von 32 Bit</translation>
+    </message>
+    <message>
+        <source>the number of an object, from 1 to 4294967295</source>
+        <translation>die Nummer eines Objekts, von 1 bis 4294967295</translation>
+    </message>
+    <message>
+        <source>the number of the next object, from 1 to 4294967296</source>
+        <translation>die Nummer des nächsten Objekts, von 1 bis 4294967296</translation>
+    </message>
+    <message>
+        <source>the number of a category, 0 to 9</source>
+        <translation>die Nummer einer Kategorie, 0 bis 9</translation>
+    </message>
+    <message>
+        <source>the version of the format, a whole number from 1</source>
+        <translation>die Version des Formats, eine ganze Zahl ab 1</translation>
+    </message>
+    <message>
+        <source>The text is %1 but must be %2</source>
+        <translation>Der Text ist %1, muss aber %2 sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 but must be %3</source>
+        <translation>„%1“ ist %2, muss aber %3 sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>projectfile::ProjectStore</name>
+    <message>
+        <source>The file is too large for a project.</source>
+        <translation>Die Datei ist für ein Projekt zu groß.</translation>
+    </message>
+    <message>
+        <source>The file is too large for the memory.</source>
+        <translation>Die Datei ist für den Speicher zu groß.</translation>
+    </message>
+    <message>
+        <source>Another program changed the file while it was read. Try again.</source>
+        <translation>Ein anderes Programm hat die Datei geändert, während sie gelesen wurde. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>Der Name einer Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>This is a folder; a file is needed.</source>
+        <translation>Dies ist ein Ordner; gebraucht wird eine Datei.</translation>
+    </message>
+    <message>
+        <source>This is a device or a pipe; a file is needed.</source>
+        <translation>Dies ist ein Gerät oder eine Pipe; gebraucht wird eine Datei.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; does not exist.</source>
+        <translation>Der Ordner „%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a file; a folder is needed.</source>
+        <translation>„%1“ ist eine Datei; gebraucht wird ein Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 on %3)</source>
+        <translation>%1 (%2 auf %3)</translation>
     </message>
 </context>
 <context>
@@ -423,6 +2138,37 @@
     <message>
         <source>Acoustic Material 2</source>
         <translation>Akustisches Material 2</translation>
+    </message>
+</context>
+<context>
+    <name>vxMat::PropertyDescription</name>
+    <message>
+        <source>Mass density</source>
+        <translation>Massendichte</translation>
+    </message>
+    <message>
+        <source>Between [0.001, 0.499]</source>
+        <translation>Zwischen 0.001 und 0.499, Grenzen eingeschlossen</translation>
+    </message>
+    <message>
+        <source>Mutual exclusion to &quot;Isotropic elasticity&quot;</source>
+        <translation>Schließt „Isotrope Elastizität“ aus</translation>
+    </message>
+    <message>
+        <source>Mutually exclusive to hyper-elastic properties</source>
+        <translation>Schließt hyperelastische Eigenschaften aus</translation>
+    </message>
+    <message>
+        <source>Input &quot;Mises&quot;, &quot;Mohr-Coulomb&quot;, or &quot;Drucker-Prager&quot;</source>
+        <translation>„Mises“, „Mohr-Coulomb“ oder „Drucker-Prager“ eingeben</translation>
+    </message>
+    <message>
+        <source>Input &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot;, or &quot;Combined&quot;</source>
+        <translation>„Bilinear“, „Multilinear“, „Swift“, „Ramberg-Osgood“, „Kinematic“ oder „Combined“ eingeben</translation>
+    </message>
+    <message>
+        <source>Vector; values are separated by comma</source>
+        <translation>Liste; die Werte sind durch Kommas getrennt</translation>
     </message>
 </context>
 <context>
@@ -573,360 +2319,94 @@
     </message>
 </context>
 <context>
-    <name>vxMat::PropertyDescription</name>
+    <name>vxMaterial</name>
     <message>
-        <source>Mass density</source>
-        <translation>Massendichte</translation>
+        <source>The materials module could not register its projects</source>
+        <translation>Das Materialmodul konnte seine Projekte nicht registrieren</translation>
     </message>
     <message>
-        <source>Between [0.001, 0.499]</source>
-        <translation>Zwischen 0.001 und 0.499, Grenzen eingeschlossen</translation>
-    </message>
-    <message>
-        <source>Mutual exclusion to &quot;Isotropic elasticity&quot;</source>
-        <translation>Schließt „Isotrope Elastizität“ aus</translation>
-    </message>
-    <message>
-        <source>Mutually exclusive to hyper-elastic properties</source>
-        <translation>Schließt hyperelastische Eigenschaften aus</translation>
-    </message>
-    <message>
-        <source>Input &quot;Mises&quot;, &quot;Mohr-Coulomb&quot;, or &quot;Drucker-Prager&quot;</source>
-        <translation>„Mises“, „Mohr-Coulomb“ oder „Drucker-Prager“ eingeben</translation>
-    </message>
-    <message>
-        <source>Input &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot;, or &quot;Combined&quot;</source>
-        <translation>„Bilinear“, „Multilinear“, „Swift“, „Ramberg-Osgood“, „Kinematic“ oder „Combined“ eingeben</translation>
-    </message>
-    <message>
-        <source>Vector; values are separated by comma</source>
-        <translation>Liste; die Werte sind durch Kommas getrennt</translation>
+        <source>The materials module could not register its user interface</source>
+        <translation>Das Materialmodul konnte seine Oberfläche nicht registrieren</translation>
     </message>
 </context>
 <context>
-    <name>ComboBoxItemDelegate</name>
+    <name>vxMsg</name>
     <message>
-        <source>one in row %1</source>
-        <translation>eins in Zeile %1</translation>
+        <source>The request %1 is not known; nothing was done.</source>
+        <translation>Die Anforderung %1 ist nicht bekannt; es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>two in row %1</source>
-        <translation>zwei in Zeile %1</translation>
+        <source>There is no project &quot;%1&quot;; nothing was done.</source>
+        <translation>Es gibt kein Projekt „%1“; es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>three in row %1</source>
-        <translation>drei in Zeile %1</translation>
+        <source>The request %1 takes one name; nothing was done.</source>
+        <translation>Die Anforderung %1 braucht genau einen Namen; es wurde nichts getan.</translation>
     </message>
-</context>
-<context>
-    <name>MatGui::ComboDelegate</name>
     <message>
-        <source>工人</source>
-        <translation>Arbeiter</translation>
+        <source>New project &quot;%1&quot;</source>
+        <translation>Neues Projekt „%1“</translation>
     </message>
     <message>
-        <source>农民</source>
-        <translation>Bauer</translation>
+        <source>Close project &quot;%1&quot;</source>
+        <translation>Projekt „%1“ schließen</translation>
     </message>
     <message>
-        <source>医生</source>
-        <translation>Arzt</translation>
+        <source>Add &quot;%1&quot;</source>
+        <translation>„%1“ hinzufügen</translation>
     </message>
     <message>
-        <source>律师</source>
-        <translation>Anwalt</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>„%1“ löschen</translation>
     </message>
     <message>
-        <source>军人</source>
-        <translation>Soldat</translation>
+        <source>The project &quot;%1&quot; has no object &quot;%2&quot;; nothing was done.</source>
+        <translation>Das Projekt „%1“ hat kein Objekt „%2“; es wurde nichts getan.</translation>
     </message>
-</context>
-<context>
-    <name>StandardCommand</name>
     <message>
-        <source>About</source>
-        <translation>Über</translation>
+        <source>Nothing can be requested while something is undone or redone; nothing was done.</source>
+        <translation>Während etwas rückgängig gemacht oder wiederhergestellt wird, kann nichts angefordert werden; es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Materials for finite-element simulation: 26 ready-made materials, 36 quantities, and the documents and cards that the solver reads.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Materialien für die Finite-Elemente-Simulation: 26 fertige Materialien, 36 Größen und die Dokumente und Karten, die der Löser liest.&lt;/p&gt;</translation>
+        <source>The request %1 cannot be registered for the class &quot;%2&quot;: it has another meaning.</source>
+        <translation>Die Anforderung %1 kann nicht für die Klasse „%2“ registriert werden: Sie hat eine andere Bedeutung.</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <source>A request failed</source>
+        <translation>Eine Anforderung ist fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Take back the last change</source>
-        <translation>Die letzte Änderung zurücknehmen</translation>
+        <source>An undo or redo failed</source>
+        <translation>Ein Rückgängigmachen oder Wiederholen ist fehlgeschlagen</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
+        <source>There is no property &quot;%1&quot;; nothing was changed.</source>
+        <translation>Es gibt keine Eigenschaft „%1“; es wurde nichts geändert.</translation>
     </message>
     <message>
-        <source>Make again the change that was taken back</source>
-        <translation>Die zurückgenommene Änderung wiederholen</translation>
+        <source>The property &quot;%1&quot; is read-only; nothing was changed.</source>
+        <translation>Die Eigenschaft „%1“ ist schreibgeschützt; es wurde nichts geändert.</translation>
     </message>
     <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
+        <source>The label must not be empty; nothing was changed.</source>
+        <translation>Die Beschriftung darf nicht leer sein; es wurde nichts geändert.</translation>
     </message>
     <message>
-        <source>Copy the selected materials</source>
-        <translation>Die ausgewählten Materialien kopieren</translation>
+        <source>An object failed when its property &quot;%1&quot; was changed</source>
+        <translation>Ein Objekt ist beim Ändern seiner Eigenschaft „%1“ fehlgeschlagen</translation>
     </message>
     <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Einfügen</translation>
+        <source>The property &quot;%1&quot; cannot be &quot;%2&quot;; nothing was changed.</source>
+        <translation>Die Eigenschaft „%1“ kann nicht „%2“ sein; es wurde nichts geändert.</translation>
     </message>
     <message>
-        <source>Add the copied materials to the project</source>
-        <translation>Die kopierten Materialien ins Projekt einfügen</translation>
+        <source>The project &quot;%1&quot; is being closed already; nothing was done.</source>
+        <translation>Das Projekt „%1“ wird bereits geschlossen; es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>Dup&amp;licate</source>
-        <translation>&amp;Duplizieren</translation>
+        <source>The project &quot;%1&quot; was closed while its listeners were asked.</source>
+        <translation>Das Projekt „%1“ wurde geschlossen, während seine Empfänger gefragt wurden.</translation>
     </message>
-    <message>
-        <source>Add a copy of each selected material</source>
-        <translation>Von jedem ausgewählten Material eine Kopie hinzufügen</translation>
-    </message>
-    <message>
-        <source>&amp;Suppress</source>
-        <translation>&amp;Unterdrücken</translation>
-    </message>
-    <message>
-        <source>Take the selected materials out of use</source>
-        <translation>Die ausgewählten Materialien außer Gebrauch nehmen</translation>
-    </message>
-    <message>
-        <source>U&amp;nsuppress</source>
-        <translation>Unterdrückung auf&amp;heben</translation>
-    </message>
-    <message>
-        <source>Take the selected materials into use again</source>
-        <translation>Die ausgewählten Materialien wieder in Gebrauch nehmen</translation>
-    </message>
-    <message>
-        <source>Rena&amp;me</source>
-        <translation>U&amp;mbenennen</translation>
-    </message>
-    <message>
-        <source>Give the selected material another label</source>
-        <translation>Dem ausgewählten Material eine andere Bezeichnung geben</translation>
-    </message>
-    <message>
-        <source>Select &amp;all</source>
-        <translation>&amp;Alles auswählen</translation>
-    </message>
-    <message>
-        <source>Select all materials of the project</source>
-        <translation>Alle Materialien des Projekts auswählen</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Close the program</source>
-        <translation>Das Programm schließen</translation>
-    </message>
-    <message>
-        <source>&amp;Project explorer</source>
-        <translation>&amp;Projektbaum</translation>
-    </message>
-    <message>
-        <source>Show or hide the project explorer</source>
-        <translation>Den Projektbaum ein- oder ausblenden</translation>
-    </message>
-    <message>
-        <source>P&amp;roperties</source>
-        <translation>&amp;Eigenschaften</translation>
-    </message>
-    <message>
-        <source>Show or hide the properties</source>
-        <translation>Die Eigenschaften ein- oder ausblenden</translation>
-    </message>
-    <message>
-        <source>&amp;Messages</source>
-        <translation>&amp;Meldungen</translation>
-    </message>
-    <message>
-        <source>Show or hide the messages</source>
-        <translation>Die Meldungen ein- oder ausblenden</translation>
-    </message>
-    <message>
-        <source>C&amp;lear messages</source>
-        <translation>Meldungen &amp;leeren</translation>
-    </message>
-    <message>
-        <source>Empty the message log</source>
-        <translation>Das Meldungsprotokoll leeren</translation>
-    </message>
-    <message>
-        <source>&amp;Tile</source>
-        <translation>&amp;Nebeneinander</translation>
-    </message>
-    <message>
-        <source>Show all document windows side by side</source>
-        <translation>Alle Dokumentfenster nebeneinander zeigen</translation>
-    </message>
-    <message>
-        <source>&amp;Cascade</source>
-        <translation>Ü&amp;berlappend</translation>
-    </message>
-    <message>
-        <source>Show the document windows one behind the other</source>
-        <translation>Die Dokumentfenster hintereinander zeigen</translation>
-    </message>
-    <message>
-        <source>Ta&amp;bs</source>
-        <translation>&amp;Reiter</translation>
-    </message>
-    <message>
-        <source>Show the document windows as tabs</source>
-        <translation>Die Dokumentfenster als Reiter zeigen</translation>
-    </message>
-    <message>
-        <source>Cl&amp;ose</source>
-        <translation>S&amp;chließen</translation>
-    </message>
-    <message>
-        <source>Close the document window in front</source>
-        <translation>Das vorderste Dokumentfenster schließen</translation>
-    </message>
-    <message>
-        <source>Close &amp;all</source>
-        <translation>&amp;Alle schließen</translation>
-    </message>
-    <message>
-        <source>Close all document windows</source>
-        <translation>Alle Dokumentfenster schließen</translation>
-    </message>
-    <message>
-        <source>&amp;About</source>
-        <translation>Ü&amp;ber</translation>
-    </message>
-    <message>
-        <source>What this program is</source>
-        <translation>Was dieses Programm ist</translation>
-    </message>
-</context>
-<context>
-    <name>Workbench</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Project</source>
-        <translation>&amp;Projekt</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Material</source>
-        <translation>&amp;Material</translation>
-    </message>
-    <message>
-        <source>&amp;Windows</source>
-        <translation>&amp;Fenster</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>Messages</source>
-        <translation>Meldungen</translation>
-    </message>
-    <message>
-        <source>Material</source>
-        <translation>Material</translation>
-    </message>
-</context>
-<context>
-    <name>Property</name>
-    <message>
-        <source>Info</source>
-        <translation>Info</translation>
-    </message>
-    <message>
-        <source>Definition</source>
-        <translation>Definition</translation>
-    </message>
-    <message>
-        <source>ID</source>
-        <translation>ID</translation>
-    </message>
-    <message>
-        <source>ClassLabel</source>
-        <translation>Klasse</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Bezeichnung</translation>
-    </message>
-    <message>
-        <source>PhysicsType</source>
-        <translation>Physik</translation>
-    </message>
-    <message>
-        <source>MaterialColor</source>
-        <translation>Materialfarbe</translation>
-    </message>
-    <message>
-        <source>Name shown in the project tree</source>
-        <translation>Name, den der Projektbaum zeigt</translation>
-    </message>
-    <message>
-        <source>Identity of the tree object</source>
-        <translation>Nummer des Objekts im Projektbaum</translation>
-    </message>
-    <message>
-        <source>class name</source>
-        <translation>Name der Klasse</translation>
-    </message>
-    <message>
-        <source>Physics type simulated in this project</source>
-        <translation>Physik, die dieses Projekt simuliert</translation>
-    </message>
-    <message>
-        <source>Color of material.</source>
-        <translation>Farbe des Materials.</translation>
-    </message>
-</context>
-<context>
-    <name>Gui::Command</name>
-    <message>
-        <source>The command &quot;%1&quot; failed: %2</source>
-        <translation>Der Befehl „%1“ ist fehlgeschlagen: %2</translation>
-    </message>
-    <message>
-        <source>the reason is not known</source>
-        <translation>der Grund ist nicht bekannt</translation>
-    </message>
-    <message>
-        <source>There is no command &quot;%1&quot;.</source>
-        <translation>Es gibt keinen Befehl „%1“.</translation>
-    </message>
-</context>
-<context>
-    <name>Gui::EditCommands</name>
     <message>
         <source>Change &quot;%1&quot;</source>
         <translation>„%1“ ändern</translation>
@@ -939,728 +2419,128 @@
         <source>Unsuppress &quot;%1&quot;</source>
         <translation>Unterdrückung von „%1“ aufheben</translation>
     </message>
-</context>
-<context>
-    <name>Gui::PictureFactory</name>
     <message>
-        <source>The picture %1 is missing.</source>
-        <translation>Das Bild %1 fehlt.</translation>
+        <source>Hand over &quot;%1&quot;</source>
+        <translation>„%1“ übergeben</translation>
+    </message>
+    <message>
+        <source>The project &quot;%1&quot; cannot be handed over</source>
+        <translation>Das Projekt „%1“ kann nicht übergeben werden</translation>
     </message>
 </context>
 <context>
-    <name>Gui::ObjectClipboard</name>
+    <name>vxjson::JsonError</name>
     <message>
-        <source>An object cannot be pasted: %1</source>
-        <translation>Ein Objekt kann nicht eingefügt werden: %1</translation>
+        <source>&quot;%1&quot; must be a number from 0 to 1</source>
+        <translation>„%1“ muss eine Zahl von 0 bis 1 sein</translation>
     </message>
-</context>
-<context>
-    <name>Gui::WelcomePage</name>
     <message>
-        <source>No project is open</source>
-        <translation>Kein Projekt ist geöffnet</translation>
+        <source>&quot;%1&quot; is nested more than 1000 levels deep</source>
+        <translation>„%1“ ist tiefer als 1000 Ebenen verschachtelt</translation>
     </message>
     <message>
-        <source>The project has no materials yet</source>
-        <translation>Das Projekt hat noch keine Materialien</translation>
+        <source>&quot;%1&quot; is not a finite number</source>
+        <translation>„%1“ ist keine endliche Zahl</translation>
     </message>
     <message>
-        <source>No material is open</source>
-        <translation>Kein Material ist geöffnet</translation>
+        <source>&quot;%1&quot; is not UTF-8</source>
+        <translation>„%1“ ist kein UTF-8</translation>
     </message>
     <message>
-        <source>A material project holds the materials of a model. Begin with a new one.</source>
-        <translation>Ein Materialprojekt enthält die Materialien eines Modells. Beginnen Sie mit einem neuen.</translation>
+        <source>&apos;%1&apos; is beyond the range of a double</source>
+        <translation>„%1“ liegt außerhalb des Bereichs einer Gleitkommazahl doppelter Genauigkeit</translation>
     </message>
     <message>
-        <source>Add a material; it begins as structural steel, and the editor offers 25 others and every quantity.</source>
-        <translation>Fügen Sie ein Material hinzu; es beginnt als Baustahl, und der Editor bietet 25 andere und alle Größen.</translation>
+        <source>an escape for half of a surrogate pair, which is not a character</source>
+        <translation>eine Escape-Folge für ein halbes Ersatzzeichenpaar, das kein Zeichen ist</translation>
     </message>
     <message>
-        <source>Double-click a material in the project explorer, or select one and choose Edit.</source>
-        <translation>Doppelklicken Sie ein Material im Projektbaum, oder wählen Sie eines aus und dann Bearbeiten.</translation>
+        <source>the member &quot;%1&quot; occurs more than once</source>
+        <translation>der Eintrag „%1“ kommt mehrfach vor</translation>
     </message>
     <message>
-        <source>The materials module is missing</source>
-        <translation>Das Materialmodul fehlt</translation>
+        <source>there is no value in the text</source>
+        <translation>der Text enthält keinen Wert</translation>
     </message>
     <message>
-        <source>The messages tell why it could not be loaded.</source>
-        <translation>Die Meldungen sagen, warum es nicht geladen werden konnte.</translation>
+        <source>the escape \u needs four hexadecimal digits</source>
+        <translation>die Escape-Folge \u benötigt vier hexadezimale Ziffern</translation>
     </message>
     <message>
-        <source>A material project holds the materials of a model. Begin with a new one, or open a saved one.</source>
-        <translation>Ein Materialprojekt enthält die Materialien eines Modells. Beginnen Sie mit einem neuen, oder öffnen Sie ein gespeichertes.</translation>
+        <source>the closing quote of a text is missing</source>
+        <translation>das schließende Anführungszeichen eines Textes fehlt</translation>
     </message>
-</context>
-<context>
-    <name>Gui::MainWindow</name>
     <message>
-        <source>There is no workbench &quot;%1&quot;.</source>
-        <translation>Es gibt keine Arbeitsumgebung „%1“.</translation>
+        <source>nested more than 1000 levels deep</source>
+        <translation>tiefer als 1000 Ebenen verschachtelt</translation>
     </message>
     <message>
-        <source>Project explorer</source>
-        <translation>Projektbaum</translation>
+        <source>a comment that does not end</source>
+        <translation>ein Kommentar, der nicht endet</translation>
     </message>
     <message>
-        <source>Properties</source>
-        <translation>Eigenschaften</translation>
+        <source>&apos;%1&apos; is not an escape of JSON</source>
+        <translation>„%1“ ist keine Escape-Folge von JSON</translation>
     </message>
     <message>
-        <source>Messages</source>
-        <translation>Meldungen</translation>
+        <source>a control character in a text, which must be written as an escape</source>
+        <translation>ein Steuerzeichen in einem Text, das als Escape-Folge geschrieben werden muss</translation>
     </message>
-</context>
-<context>
-    <name>Gui::MessageLogView</name>
     <message>
-        <source>Messages</source>
-        <translation>Meldungen</translation>
+        <source>the text is longer than 2 GiB</source>
+        <translation>der Text ist länger als 2 GiB</translation>
     </message>
-</context>
-<context>
-    <name>Gui::ProjectExplorer</name>
     <message>
-        <source>Project explorer</source>
-        <translation>Projektbaum</translation>
+        <source>the text is not UTF-8</source>
+        <translation>der Text ist kein UTF-8</translation>
     </message>
-</context>
-<context>
-    <name>Gui::ProjectTreeModel</name>
     <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
+        <source>a zero byte</source>
+        <translation>ein Nullbyte</translation>
     </message>
     <message>
-        <source>Empty: nothing is defined yet</source>
-        <translation>Leer: noch ist nichts definiert</translation>
+        <source>an object or an array is needed</source>
+        <translation>ein Objekt oder ein Feld ist nötig</translation>
     </message>
     <message>
-        <source>
-Suppressed</source>
-        <translation>
-Unterdrückt</translation>
+        <source>a value is needed here</source>
+        <translation>hier ist ein Wert nötig</translation>
     </message>
-</context>
-<context>
-    <name>Gui::PropertyPanel</name>
     <message>
-        <source>Nothing is selected.</source>
-        <translation>Nichts ist ausgewählt.</translation>
+        <source>the name of a member, in double quotes, is needed here</source>
+        <translation>hier ist der Name eines Eintrags in doppelten Anführungszeichen nötig</translation>
     </message>
     <message>
-        <source>%1 entries are selected.</source>
-        <translation>%1 Einträge sind ausgewählt.</translation>
+        <source>a colon is needed after the name of a member</source>
+        <translation>nach dem Namen eines Eintrags ist ein Doppelpunkt nötig</translation>
     </message>
     <message>
-        <source>Properties</source>
-        <translation>Eigenschaften</translation>
+        <source>a comma or ] is needed here</source>
+        <translation>hier ist ein Komma oder ] nötig</translation>
     </message>
     <message>
-        <source>Property</source>
-        <translation>Eigenschaft</translation>
+        <source>a comma or } is needed here</source>
+        <translation>hier ist ein Komma oder } nötig</translation>
     </message>
     <message>
-        <source>Value</source>
-        <translation>Wert</translation>
+        <source>there is more text after the end of the document</source>
+        <translation>nach dem Ende des Dokuments folgt weiterer Text</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be &quot;%2&quot;; it stays as it was.</source>
-        <translation>„%1“ kann nicht „%2“ sein und bleibt, wie es war.</translation>
+        <source>the text ends too early</source>
+        <translation>der Text endet zu früh</translation>
     </message>
-</context>
-<context>
-    <name>kelta</name>
     <message>
-        <source>Changes in open editors have not been applied.</source>
-        <translation>Änderungen in offenen Editoren sind nicht übernommen.</translation>
+        <source>a comment, which a file of this kind does not have</source>
+        <translation>ein Kommentar, den es in dieser Art von Datei nicht gibt</translation>
     </message>
     <message>
-        <source>The project &quot;%1&quot; and its materials are not kept.</source>
-        <translation>Das Projekt „%1“ und seine Materialien bleiben nicht erhalten.</translation>
+        <source>&apos;%1&apos; is not a number</source>
+        <translation>„%1“ ist keine Zahl</translation>
     </message>
     <message>
-        <source>Close the program</source>
-        <translation>Programm schließen</translation>
-    </message>
-    <message>
-        <source>Close the program all the same?</source>
-        <translation>Das Programm trotzdem schließen?</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be opened without the materials module.</source>
-        <translation>„%1“ kann ohne das Materialmodul nicht geöffnet werden.</translation>
-    </message>
-</context>
-<context>
-    <name>kelta::Batch</name>
-    <message>
-        <source>there is no command &quot;%1&quot;</source>
-        <translation>es gibt keinen Befehl „%1“</translation>
-    </message>
-    <message>
-        <source>%1 takes at most one argument, the file that it asks for</source>
-        <translation>%1 nimmt höchstens ein Argument, die Datei, nach der es fragt</translation>
-    </message>
-    <message>
-        <source>%1 cannot be done now</source>
-        <translation>%1 ist jetzt nicht möglich</translation>
-    </message>
-    <message>
-        <source>%1 failed</source>
-        <translation>%1 ist fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>nothing in the current project is labelled &quot;%1&quot;</source>
-        <translation>nichts im aktuellen Projekt heißt „%1“</translation>
-    </message>
-    <message>
-        <source>there is no such project</source>
-        <translation>es gibt kein solches Projekt</translation>
-    </message>
-    <message>
-        <source>one label, and one selected object, are needed</source>
-        <translation>eine Bezeichnung und ein ausgewähltes Objekt werden gebraucht</translation>
-    </message>
-    <message>
-        <source>one file name is needed</source>
-        <translation>ein Dateiname wird gebraucht</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kann nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>no argument is taken</source>
-        <translation>es wird kein Argument genommen</translation>
-    </message>
-    <message>
-        <source>the name of a library material, and one selected material, are needed</source>
-        <translation>der Name eines Bibliotheksmaterials und ein ausgewähltes Material werden gebraucht</translation>
-    </message>
-    <message>
-        <source>the library has no material &quot;%1&quot;</source>
-        <translation>die Bibliothek hat kein Material „%1“</translation>
-    </message>
-    <message>
-        <source>a quantity and its value, and one selected material, are needed</source>
-        <translation>eine Größe, ihr Wert und ein ausgewähltes Material werden gebraucht</translation>
-    </message>
-    <message>
-        <source>the catalogue has no quantity &quot;%1&quot;</source>
-        <translation>der Katalog hat keine Größe „%1“</translation>
-    </message>
-    <message>
-        <source>one selected material is needed</source>
-        <translation>ein ausgewähltes Material wird gebraucht</translation>
-    </message>
-    <message>
-        <source>there is no material project</source>
-        <translation>es gibt kein Materialprojekt</translation>
-    </message>
-    <message>
-        <source>the materials are not ready</source>
-        <translation>die Materialien sind nicht bereit</translation>
-    </message>
-</context>
-<context>
-    <name>projectfile::ExchangeImport</name>
-    <message>
-        <source>null</source>
-        <translation>null</translation>
-    </message>
-    <message>
-        <source>a text</source>
-        <translation>ein Text</translation>
-    </message>
-    <message>
-        <source>true or false</source>
-        <translation>wahr oder falsch</translation>
-    </message>
-    <message>
-        <source>an array</source>
-        <translation>ein Feld</translation>
-    </message>
-    <message>
-        <source>an object</source>
-        <translation>ein Objekt</translation>
-    </message>
-    <message>
-        <source>a number</source>
-        <translation>eine Zahl</translation>
-    </message>
-    <message>
-        <source>a whole number from 0 to 4294967295</source>
-        <translation>eine ganze Zahl von 0 bis 4294967295</translation>
-    </message>
-    <message>
-        <source>%1: is %2; %3 is needed</source>
-        <translation>%1: ist %2; nötig ist %3</translation>
-    </message>
-    <message>
-        <source>material %1 &quot;%2&quot;: %3</source>
-        <translation>Material %1 „%2“: %3</translation>
-    </message>
-    <message>
-        <source>property %1: %2</source>
-        <translation>Eigenschaft %1: %2</translation>
-    </message>
-    <message>
-        <source>property %1 &quot;%2&quot;: %3</source>
-        <translation>Eigenschaft %1 „%2“: %3</translation>
-    </message>
-    <message>
-        <source>the document has no number for it, which is read as 0</source>
-        <translation>das Dokument hat keine Zahl dafür, was als 0 gelesen wird</translation>
-    </message>
-    <message>
-        <source>its key is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the key of the document was kept</source>
-        <translation>ihr Schlüssel ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
-    </message>
-    <message>
-        <source>its name is &quot;%1&quot; in the document and &quot;%2&quot; in the catalogue; the name of the document was kept</source>
-        <translation>ihr Name ist „%1“ im Dokument und „%2“ im Katalog; der des Dokuments wurde behalten</translation>
-    </message>
-    <message>
-        <source>documents carry no words; &quot;%1&quot; of the catalogue was taken</source>
-        <translation>Dokumente übertragen keine Wörter; „%1“ aus dem Katalog wurde genommen</translation>
-    </message>
-    <message>
-        <source>documents carry no lists; it is empty</source>
-        <translation>Dokumente übertragen keine Listen; sie ist leer</translation>
-    </message>
-    <message>
-        <source>the catalogue does not know it; its unit, description and category are lost</source>
-        <translation>der Katalog kennt sie nicht; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
-    </message>
-    <message>
-        <source>the document has it more than once; the last one was used</source>
-        <translation>sie steht zweimal im Dokument; die letzte wurde genommen</translation>
-    </message>
-    <message>
-        <source>the document has no number for it; it was given the number %1</source>
-        <translation>das Dokument hat keine Nummer dafür; es bekam die Nummer %1</translation>
-    </message>
-    <message>
-        <source>its number in the document is %1, which a later material has too; it was given the number %2</source>
-        <translation>seine Nummer im Dokument ist %1 wie die eines späteren Materials; es bekam die Nummer %2</translation>
-    </message>
-    <message>
-        <source>its number in the document is %1, which no object can have; it was given the number %2</source>
-        <translation>seine Nummer im Dokument ist %1, die kein Objekt haben kann; es bekam die Nummer %2</translation>
-    </message>
-    <message>
-        <source>the document has no name for it</source>
-        <translation>das Dokument hat keinen Namen dafür</translation>
-    </message>
-    <message>
-        <source>it is a project file, which needs no import</source>
-        <translation>das ist eine Projektdatei, die keinen Import braucht</translation>
-    </message>
-    <message>
-        <source>an analysis document holds no materials; give the material document</source>
-        <translation>ein Analysedokument enthält keine Materialien; nötig ist das Materialdokument</translation>
-    </message>
-    <message>
-        <source>it is not a material document: &quot;proj_type&quot; must be 2</source>
-        <translation>das ist kein Materialdokument: „proj_type“ muss 2 sein</translation>
-    </message>
-    <message>
-        <source>the document holds no materials</source>
-        <translation>das Dokument enthält keine Materialien</translation>
-    </message>
-</context>
-<context>
-    <name>MatCmdNewDoc</name>
-    <message>
-        <source>&amp;New material project</source>
-        <translation>&amp;Neues Materialprojekt</translation>
-    </message>
-    <message>
-        <source>Create a new material project</source>
-        <translation>Ein neues Materialprojekt anlegen</translation>
-    </message>
-    <message>
-        <source>Material project</source>
-        <translation>Materialprojekt</translation>
-    </message>
-    <message>
-        <source>Material project is already presented in Project Explorer window.</source>
-        <translation>Im Projektbaum gibt es bereits ein Materialprojekt.</translation>
-    </message>
-</context>
-<context>
-    <name>MatCmdDelDoc</name>
-    <message>
-        <source>Close project</source>
-        <translation>Projekt schließen</translation>
-    </message>
-    <message>
-        <source>Delete a material project</source>
-        <translation>Ein Materialprojekt löschen</translation>
-    </message>
-</context>
-<context>
-    <name>MatCmdMaterial</name>
-    <message>
-        <source>Add material</source>
-        <translation>Material hinzufügen</translation>
-    </message>
-    <message>
-        <source>Add a new material</source>
-        <translation>Ein neues Material hinzufügen</translation>
-    </message>
-    <message>
-        <source>Invalid project</source>
-        <translation>Ungültiges Projekt</translation>
-    </message>
-    <message>
-        <source>No material project.</source>
-        <translation>Kein Materialprojekt.</translation>
-    </message>
-</context>
-<context>
-    <name>MatCmdDelete</name>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Löschen</translation>
-    </message>
-    <message>
-        <source>Deletes the selected material objects</source>
-        <translation>Löscht die ausgewählten Materialien</translation>
-    </message>
-</context>
-<context>
-    <name>MatCmdEdit</name>
-    <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>Edit current material</source>
-        <translation>Das aktuelle Material bearbeiten</translation>
-    </message>
-</context>
-<context>
-    <name>CmdMatImport</name>
-    <message>
-        <source>Import materials</source>
-        <translation>Materialien importieren</translation>
-    </message>
-    <message>
-        <source>Import CSV file into material</source>
-        <translation>CSV-Datei in ein Material importieren</translation>
-    </message>
-    <message>
-        <source>Import file</source>
-        <translation>Datei importieren</translation>
-    </message>
-    <message>
-        <source>All (*)</source>
-        <translation>Alle (*)</translation>
-    </message>
-</context>
-<context>
-    <name>CmdMatExport</name>
-    <message>
-        <source>Export materials</source>
-        <translation>Materialien exportieren</translation>
-    </message>
-    <message>
-        <source>Export materials to JSON file</source>
-        <translation>Materialien in eine JSON-Datei exportieren</translation>
-    </message>
-    <message>
-        <source>JSON file(*.json)</source>
-        <translation>JSON-Datei(*.json)</translation>
-    </message>
-</context>
-<context>
-    <name>Mat_Delete</name>
-    <message>
-        <source>Object dependencies</source>
-        <translation>Abhängigkeiten</translation>
-    </message>
-    <message>
-        <source>This object is linked to other objects thus these objects might be broken.
-Do you want to continue?</source>
-        <translation>Dieses Objekt ist mit anderen verknüpft, die dadurch unbrauchbar werden können.
-Möchten Sie fortfahren?</translation>
-    </message>
-</context>
-<context>
-    <name>MatGui::ViewFeederMaterialObject</name>
-    <message>
-        <source>Show material</source>
-        <translation>Material anzeigen</translation>
-    </message>
-</context>
-<context>
-    <name>FileCommand</name>
-    <message>
-        <source>Open project</source>
-        <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>Import exchange document</source>
-        <translation>Austauschdokument importieren</translation>
-    </message>
-    <message>
-        <source>&amp;Open...</source>
-        <translation>Ö&amp;ffnen...</translation>
-    </message>
-    <message>
-        <source>Open a material project from a file</source>
-        <translation>Ein Materialprojekt aus einer Datei öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Save the project in its file</source>
-        <translation>Das Projekt in seiner Datei speichern</translation>
-    </message>
-    <message>
-        <source>Save &amp;as...</source>
-        <translation>Speichern &amp;unter...</translation>
-    </message>
-    <message>
-        <source>Save the project in another file</source>
-        <translation>Das Projekt in einer anderen Datei speichern</translation>
-    </message>
-    <message>
-        <source>I&amp;mport exchange document...</source>
-        <translation>Austauschdokument i&amp;mportieren...</translation>
-    </message>
-    <message>
-        <source>Add the materials of an exchange document to the project</source>
-        <translation>Dem Projekt die Materialien eines Austauschdokuments hinzufügen</translation>
-    </message>
-    <message>
-        <source>Open &amp;recent</source>
-        <translation>Zuletzt &amp;verwendet</translation>
-    </message>
-    <message>
-        <source>Open one of the projects last used</source>
-        <translation>Eines der zuletzt verwendeten Projekte öffnen</translation>
-    </message>
-    <message>
-        <source>Material project (*.vxmat)</source>
-        <translation>Materialprojekt (*.vxmat)</translation>
-    </message>
-    <message>
-        <source>Exchange document (*.json)</source>
-        <translation>Austauschdokument (*.json)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-</context>
-<context>
-    <name>kelta::MaterialChange</name>
-    <message>
-        <source>Change &quot;%1&quot;</source>
-        <translation>„%1“ ändern</translation>
-    </message>
-</context>
-<context>
-    <name>kelta::ProjectFiles</name>
-    <message>
-        <source>The project has no numbers left for so many materials.</source>
-        <translation>Das Projekt hat für so viele Materialien keine Nummern mehr.</translation>
-    </message>
-    <message>
-        <source>Import &quot;%1&quot;</source>
-        <translation>„%1“ importieren</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is in use by %2.</source>
-        <translation>„%1“ wird von %2 verwendet.</translation>
-    </message>
-    <message>
-        <source>Open project</source>
-        <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be opened.</source>
-        <translation>„%1“ kann nicht geöffnet werden.</translation>
-    </message>
-    <message>
-        <source>File in use</source>
-        <translation>Datei in Verwendung</translation>
-    </message>
-    <message>
-        <source>What is saved by one of the programs replaces what the other one saved.</source>
-        <translation>Was eines der Programme speichert, ersetzt, was das andere gespeichert hat.</translation>
-    </message>
-    <message>
-        <source>&amp;Use all the same</source>
-        <translation>&amp;Trotzdem verwenden</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Save project</source>
-        <translation>Projekt speichern</translation>
-    </message>
-    <message>
-        <source>Material project (*.vxmat)</source>
-        <translation>Materialprojekt (*.vxmat)</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is the file of the project &quot;%2&quot;, which is open.</source>
-        <translation>„%1“ ist die Datei des Projekts „%2“, das geöffnet ist.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been saved.</source>
-        <translation>„%1“ wurde gespeichert.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been there since %2, before the project was recovered.</source>
-        <translation>„%1“ gibt es seit %2, von vor der Wiederherstellung des Projekts.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has been changed by another program, on %2.</source>
-        <translation>„%1“ wurde am %2 von einem anderen Programm geändert.</translation>
-    </message>
-    <message>
-        <source>What is in the file now is lost when it is replaced.</source>
-        <translation>Was jetzt in der Datei steht, geht verloren, wenn sie ersetzt wird.</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Ersetzen</translation>
-    </message>
-    <message>
-        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
-        <translation>Die Änderungen von „%1“ im Editor wurden nicht angewendet.</translation>
-    </message>
-    <message>
-        <source>Only what has been applied is saved.</source>
-        <translation>Nur was angewendet wurde, wird gespeichert.</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>An&amp;wenden</translation>
-    </message>
-    <message>
-        <source>&amp;Save without them</source>
-        <translation>&amp;Ohne sie speichern</translation>
-    </message>
-    <message>
-        <source>Unsaved changes</source>
-        <translation>Nicht gespeicherte Änderungen</translation>
-    </message>
-    <message>
-        <source>The changes of the project &quot;%1&quot; have not been saved.</source>
-        <translation>Die Änderungen des Projekts „%1“ wurden nicht gespeichert.</translation>
-    </message>
-    <message>
-        <source>Changes in open editors have not been applied.</source>
-        <translation>Änderungen in geöffneten Editoren wurden nicht angewendet.</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>&amp;Discard</source>
-        <translation>&amp;Verwerfen</translation>
-    </message>
-    <message>
-        <source>No copy for recovery could be kept: %1</source>
-        <translation>Es konnte keine Kopie zur Wiederherstellung angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>Recovery</source>
-        <translation>Wiederherstellung</translation>
-    </message>
-    <message>
-        <source>The program ended before projects were saved.</source>
-        <translation>Das Programm endete, bevor Projekte gespeichert waren.</translation>
-    </message>
-    <message>
-        <source>There are copies from %1.</source>
-        <translation>Es gibt Kopien vom %1.</translation>
-    </message>
-    <message>
-        <source>&amp;Recover</source>
-        <translation>&amp;Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <translation>Später</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be recovered.</source>
-        <translation>„%1“ kann nicht wiederhergestellt werden.</translation>
-    </message>
-    <message>
-        <source>Materials imported: %1</source>
-        <translation>Importierte Materialien: %1</translation>
-    </message>
-    <message>
-        <source>Import</source>
-        <translation>Import</translation>
-    </message>
-    <message>
-        <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is none of a material</source>
-        <translation>Das Objekt „%1“ gehört zur Klasse „%2“, die keine Materialklasse ist</translation>
-    </message>
-</context>
-<context>
-    <name>projectfile::ProjectStore</name>
-    <message>
-        <source>The file is too large for a project.</source>
-        <translation>Die Datei ist für ein Projekt zu groß.</translation>
-    </message>
-    <message>
-        <source>The file is too large for the memory.</source>
-        <translation>Die Datei ist für den Speicher zu groß.</translation>
-    </message>
-    <message>
-        <source>Another program changed the file while it was read. Try again.</source>
-        <translation>Ein anderes Programm hat die Datei geändert, während sie gelesen wurde. Versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>The name of a file is empty.</source>
-        <translation>Der Name einer Datei ist leer.</translation>
-    </message>
-    <message>
-        <source>This is a folder; a file is needed.</source>
-        <translation>Dies ist ein Ordner; gebraucht wird eine Datei.</translation>
-    </message>
-    <message>
-        <source>This is a device or a pipe; a file is needed.</source>
-        <translation>Dies ist ein Gerät oder eine Pipe; gebraucht wird eine Datei.</translation>
-    </message>
-    <message>
-        <source>The folder &apos;%1&apos; does not exist.</source>
-        <translation>Der Ordner „%1“ existiert nicht.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is a file; a folder is needed.</source>
-        <translation>„%1“ ist eine Datei; gebraucht wird ein Ordner.</translation>
-    </message>
-</context>
-<context>
-    <name>projectfile::ProjectFile</name>
-    <message>
-        <source>The file is empty.</source>
-        <translation>Die Datei ist leer.</translation>
-    </message>
-    <message>
-        <source>This is no project file: its member &quot;format&quot; is not &quot;%1&quot;.</source>
-        <translation>Das ist keine Projektdatei: Ihr Eintrag „format“ ist nicht „%1“.</translation>
-    </message>
-    <message>
-        <source>The file was written by a later version of the program, in version %1 of the format; this program reads up to version %2.</source>
-        <translation>Die Datei wurde von einer neueren Version des Programms geschrieben, in Version %1 des Formats; dieses Programm liest bis Version %2.</translation>
+        <source>&apos;%1&apos; is not a JSON value</source>
+        <translation>„%1“ ist kein JSON-Wert</translation>
     </message>
 </context>
 </TS>

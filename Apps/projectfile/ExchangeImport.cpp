@@ -182,10 +182,10 @@ void MaterialImport::takeNameAndKey(vxMat::MaterialProperty& property, const Jso
 
 void MaterialImport::restoreWordOrList(vxMat::MaterialProperty& property, const vxMat::PropertyRecord& quantity)
 {
-    if (quantity.kind == vxMat::eValueKind::Word) {
+    if (quantity.kind == vxMat::ValueKind::Word) {
         doubtProperty(property,
                       tr("documents carry no words; \"%1\" of the catalogue was taken").arg(text(property.text)));
-    } else if (quantity.kind == vxMat::eValueKind::NumberList) {
+    } else if (quantity.kind == vxMat::ValueKind::NumberList) {
         property.values.clear();
         doubtProperty(property, tr("documents carry no lists; it is empty"));
     }

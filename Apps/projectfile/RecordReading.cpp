@@ -96,8 +96,8 @@ void forEachElement(const Node& array, const OnElement& onElement)
 
 void readField(const Node& node, std::int32_t& field)
 {
-    using limits = std::numeric_limits<std::int32_t>;
-    field = static_cast<std::int32_t>(readWholeBetween(node, limits::min(), limits::max(), signedNumber));
+    using Limits = std::numeric_limits<std::int32_t>;
+    field = static_cast<std::int32_t>(readWholeBetween(node, Limits::min(), Limits::max(), signedNumber));
 }
 
 void readField(const Node& node, std::uint32_t& field)

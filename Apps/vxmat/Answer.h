@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// The exit statuses of the program.
 enum class Status : int
@@ -38,4 +38,4 @@ enum class Form
     Json
 };
 
-} // namespace vxmat
+} // namespace commandline

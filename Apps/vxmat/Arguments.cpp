@@ -5,7 +5,7 @@
 #include <charconv>
 #include <system_error>
 
-namespace vxmat {
+namespace commandline {
 
 NameAndValue splitAt(const std::string& argument, std::size_t sign)
 {
@@ -24,4 +24,4 @@ std::uint32_t parseNumber(const std::string& argument, const std::string& text)
     return number;
 }
 
-} // namespace vxmat
+} // namespace commandline

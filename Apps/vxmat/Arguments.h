@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace vxmat {
+namespace commandline {
 
 /// An argument NAME or NAME=VALUE.
 struct NameAndValue
@@ -21,4 +21,4 @@ NameAndValue splitAt(const std::string& argument, std::size_t sign);
 /// \throws Failure if it is not such a number; the message names the argument
 std::uint32_t parseNumber(const std::string& argument, const std::string& text);
 
-} // namespace vxmat
+} // namespace commandline

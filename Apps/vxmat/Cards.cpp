@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -121,4 +121,4 @@ Answer printCards(const std::vector<std::string>& sources, Form form)
     return answer;
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// `vxmat cards NAME|FILE...`: prints the solver cards of library materials and of the materials in documents and
 /// projects. The cards of documents may be incomplete, because documents do not carry words and lists. An argument that
@@ -14,4 +14,4 @@ namespace vxmat {
 /// \throws Failure if an argument is neither a material nor a readable material document or project
 Answer printCards(const std::vector<std::string>& sources, Form form);
 
-} // namespace vxmat
+} // namespace commandline

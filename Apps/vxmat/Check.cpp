@@ -6,7 +6,7 @@
 
 #include "vxMaterial/exchange/DocumentCheck.h"
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -60,4 +60,4 @@ Answer checkFile(const std::string& path, const std::optional<std::string>& mate
     return answer;
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -20,7 +20,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -266,4 +266,4 @@ int run(int argc, char** argv) noexcept
     return static_cast<int>(Status::Error);
 }
 
-} // namespace vxmat
+} // namespace commandline

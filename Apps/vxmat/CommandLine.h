@@ -1,9 +1,9 @@
 #pragma once
 
-namespace vxmat {
+namespace commandline {
 
 /// Executes a command line and returns the exit status. Writes results to standard output, and notes and errors to
 /// standard error.
 int run(int argc, char** argv) noexcept;
 
-} // namespace vxmat
+} // namespace commandline

@@ -17,7 +17,7 @@
 #include <optional>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -372,4 +372,4 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form)
     return answer;
 }
 
-} // namespace vxmat
+} // namespace commandline

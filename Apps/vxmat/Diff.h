@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace vxmat {
+namespace commandline {
 
 /// `vxmat diff A B`: compares the materials of two files, each a material document or a project, by label and property,
 /// and the other objects of two projects. Prints one line for each difference; the status is then Findings. Materials
@@ -13,4 +13,4 @@ namespace vxmat {
 /// \throws Failure if a file cannot be read or is an analysis document
 Answer diffFiles(const std::string& one, const std::string& other, Form form);
 
-} // namespace vxmat
+} // namespace commandline

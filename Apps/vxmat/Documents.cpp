@@ -7,7 +7,7 @@
 #include <array>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -147,4 +147,4 @@ Json::Value readMaterialDocument(const std::string& path)
     return document;
 }
 
-} // namespace vxmat
+} // namespace commandline

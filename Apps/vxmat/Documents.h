@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// A file that the user gave: an exchange document or a project file.
 struct Input
@@ -66,4 +66,4 @@ MaterialFile readMaterials(Input input);
 /// \throws Failure as readMaterials does
 Json::Value readMaterialDocument(const std::string& path);
 
-} // namespace vxmat
+} // namespace commandline

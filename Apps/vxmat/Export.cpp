@@ -16,7 +16,7 @@
 #include <set>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -34,8 +34,8 @@ void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
     std::string lost;
     for (const std::int32_t key : keysOf(material)) {
         const vxMat::MaterialProperty& property = *material.findProperty(key);
-        const vxMat::eValueKind kind = kindOf(property);
-        const bool isNumber = kind == vxMat::eValueKind::Number || kind == vxMat::eValueKind::ModelSwitch;
+        const vxMat::ValueKind kind = kindOf(property);
+        const bool isNumber = kind == vxMat::ValueKind::Number || kind == vxMat::ValueKind::ModelSwitch;
         if (!isNumber || !property.text.empty() || !property.values.empty())
             lost += (lost.empty() ? "\"" : ", \"") + property.name + "\"";
     }
@@ -138,4 +138,4 @@ Answer exportMaterials(const std::vector<std::string>& materials, const std::str
     return answer;
 }
 
-} // namespace vxmat
+} // namespace commandline

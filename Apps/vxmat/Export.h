@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// `vxmat export NAME[=NUMBER]|PROJECT... -o FILE`: writes library materials and the materials of project files as a
 /// material document. The materials of a project keep the numbers of their objects, and their labels become their
@@ -15,4 +15,4 @@ namespace vxmat {
 /// documents cannot carry, a failed write
 Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path);
 
-} // namespace vxmat
+} // namespace commandline

@@ -18,7 +18,7 @@
 #include <string_view>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -235,4 +235,4 @@ std::string toJsonText(const Json::Value& document)
     return Json::writeString(builder, document) + "\n";
 }
 
-} // namespace vxmat
+} // namespace commandline

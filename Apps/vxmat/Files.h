@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace vxmat {
+namespace commandline {
 
 /// The argument that means standard input or output instead of a file.
 inline constexpr const char* standardStream = "-";
@@ -50,4 +50,4 @@ Json::Value toJsonNumber(double number);
 /// Returns the text of a document for --json: members sorted by name, indented by two blanks, in UTF-8.
 std::string toJsonText(const Json::Value& document);
 
-} // namespace vxmat
+} // namespace commandline

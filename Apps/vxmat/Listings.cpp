@@ -13,22 +13,22 @@
 #include <algorithm>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
-using vxMat::eValueKind;
 using vxMat::MaterialProperty;
 using vxMat::PropertyRecord;
+using vxMat::ValueKind;
 
-const char* kindName(eValueKind kind)
+const char* kindName(ValueKind kind)
 {
     switch (kind) {
-    case eValueKind::Word:
+    case ValueKind::Word:
         return "word";
-    case eValueKind::NumberList:
+    case ValueKind::NumberList:
         return "list";
-    case eValueKind::ModelSwitch:
+    case ValueKind::ModelSwitch:
         return "switch";
     default:
         return "number";
@@ -39,9 +39,9 @@ const char* kindName(eValueKind kind)
 Json::Value valueJson(const MaterialProperty& property)
 {
     switch (vxMat::getValueKind(property.id)) {
-    case eValueKind::Word:
+    case ValueKind::Word:
         return property.text;
-    case eValueKind::NumberList: {
+    case ValueKind::NumberList: {
         Json::Value list(Json::arrayValue);
         for (const double number : property.values)
             list.append(toJsonNumber(number));
@@ -244,4 +244,4 @@ Answer showMaterial(const std::string& name, Form form)
     throw Failure(names.unknown(name));
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -11,7 +11,7 @@ class MaterialBase;
 class MaterialProperty;
 } // namespace vxMat
 
-namespace vxmat {
+namespace commandline {
 
 /// `vxmat library`: lists the built-in materials.
 Answer listLibrary(Form form);
@@ -24,4 +24,4 @@ Answer listCatalogue(Form form);
 /// \throws Failure if `name` is neither a material nor a readable file
 Answer showMaterial(const std::string& name, Form form);
 
-} // namespace vxmat
+} // namespace commandline

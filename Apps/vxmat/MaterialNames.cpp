@@ -10,7 +10,7 @@
 #include <tuple>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -126,4 +126,4 @@ std::string MaterialNames::unknownNameOrFile(const std::string& name) const
     return unknown(name) + " There is no file of that name either.";
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// The built-in materials by name, without regard to case.
 class MaterialNames
@@ -36,4 +36,4 @@ private:
     vxMat::MatDBManager m_manager;
 };
 
-} // namespace vxmat
+} // namespace commandline

@@ -14,7 +14,7 @@
 #include <set>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -95,4 +95,4 @@ Answer importDocument(const std::string& document, const std::string& path)
     return answer;
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// `vxmat new NAME[=LABEL]... -o FILE`: writes a project file of library materials, which become the objects 1, 2, ...
 /// The default label is the name of the material. The project has the name of the file.
@@ -17,4 +17,4 @@ Answer newProject(const std::vector<std::string>& materials, const std::string& 
 /// \throws Failure if the document cannot be read or is not a material document, or if writing fails
 Answer importDocument(const std::string& document, const std::string& path);
 
-} // namespace vxmat
+} // namespace commandline

@@ -8,7 +8,7 @@
 #include <string>
 #include <unordered_map>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -76,7 +76,7 @@ void ProjectCheck::checkRules(std::int32_t id, const MaterialProperty& property,
     const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
     if (quantity == nullptr)
         find(path, "is property " + std::to_string(id) + ", which the catalogue does not know");
-    else if (quantity->kind == vxMat::eValueKind::NumberList && property.values.empty())
+    else if (quantity->kind == vxMat::ValueKind::NumberList && property.values.empty())
         find(path + ".values", "is empty; \"" + std::string(quantity->name) + "\" is a list of numbers");
 }
 
@@ -135,4 +135,4 @@ vxCAE::CheckReport checkProject(const Input& input)
     return std::move(check.report);
 }
 
-} // namespace vxmat
+} // namespace commandline

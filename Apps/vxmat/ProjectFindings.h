@@ -4,7 +4,7 @@
 
 #include "vxMaterial/exchange/DocumentCheck.h"
 
-namespace vxmat {
+namespace commandline {
 
 /// Returns the errors in the materials of a project file, each with its path in the file ("$.materials[2].material"):
 /// values that the rules refuse, quantities that exclude each other, quantities that the catalogue does not know,
@@ -12,4 +12,4 @@ namespace vxmat {
 /// says so. The input must be a project.
 vxCAE::CheckReport checkProject(const Input& input);
 
-} // namespace vxmat
+} // namespace commandline

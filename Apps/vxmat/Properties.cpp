@@ -4,7 +4,7 @@
 
 #include <set>
 
-namespace vxmat {
+namespace commandline {
 
 std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& material)
 {
@@ -29,10 +29,10 @@ std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& one, const vxMat::Ma
     return keys;
 }
 
-vxMat::eValueKind kindOf(const vxMat::MaterialProperty& property)
+vxMat::ValueKind kindOf(const vxMat::MaterialProperty& property)
 {
     const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(property.id);
-    return record != nullptr ? record->kind : vxMat::eValueKind::Number;
+    return record != nullptr ? record->kind : vxMat::ValueKind::Number;
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// Returns the numbers under which a material holds its properties: in the order of the catalogue, then, sorted, the
 /// numbers that the catalogue does not know.
@@ -14,6 +14,6 @@ std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& material);
 std::vector<std::int32_t> keysOf(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
 
 /// Returns the kind of value of a property's quantity; Number if the catalogue does not know the quantity.
-vxMat::eValueKind kindOf(const vxMat::MaterialProperty& property);
+vxMat::ValueKind kindOf(const vxMat::MaterialProperty& property);
 
-} // namespace vxmat
+} // namespace commandline

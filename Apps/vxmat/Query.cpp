@@ -10,7 +10,7 @@
 #include <optional>
 #include <unordered_map>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -114,4 +114,4 @@ Answer queryFile(const std::string& path, const std::optional<std::string>& mate
     return answer;
 }
 
-} // namespace vxmat
+} // namespace commandline

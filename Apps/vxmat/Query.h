@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vxmat {
+namespace commandline {
 
 /// `vxmat query FILE`: prints the properties of an analysis that the solver asks for. Analysis documents do not carry
 /// the number of their project, which is a part of the tags, nor the material models, which decide whether the analysis
@@ -16,4 +16,4 @@ namespace vxmat {
 Answer queryFile(const std::string& path, const std::optional<std::string>& materialsPath, std::uint32_t projectId,
                  Form form);
 
-} // namespace vxmat
+} // namespace commandline

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace vxmat {
+namespace commandline {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::string TextTable::text() const
     return text;
 }
 
-} // namespace vxmat
+} // namespace commandline

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace vxmat {
+namespace commandline {
 
 /// A table of texts with a heading. Each column is as wide as its widest cell.
 class TextTable
@@ -19,4 +19,4 @@ private:
     std::vector<Row> m_rows;
 };
 
-} // namespace vxmat
+} // namespace commandline

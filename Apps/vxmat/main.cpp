@@ -2,5 +2,5 @@
 
 int main(int argc, char** argv)
 {
-    return vxmat::run(argc, argv);
+    return commandline::run(argc, argv);
 }

@@ -45,7 +45,7 @@ KELTA_REGISTER_ABSTRACT_CLASS(Kelta::DataPersistence, Kelta::RootClass)
 
 std::size_t DataPersistence::get_memory_usage() const
 {
-    return std::max(sizeof(*this), getTypeId().get_object_size());
+    return std::max(sizeof(*this), getTypeId().getObjectSize());
 }
 
 void DataPersistence::save(FileWriter&) const {}

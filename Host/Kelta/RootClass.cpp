@@ -85,7 +85,7 @@ void RootClass::initSubclass(TypeInfo& classTypeId, const char* name, const char
     classTypeId.m_record = record;
 }
 
-std::unique_ptr<RootClass> RootClass::create_by_name(const char* name)
+std::unique_ptr<RootClass> RootClass::createByName(const char* name)
 {
     return std::unique_ptr<RootClass>(static_cast<RootClass*>(TypeInfo::find(name).create()));
 }

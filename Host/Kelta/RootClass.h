@@ -37,7 +37,7 @@ public:
 
     /// Returns a new object of the class registered under `name`; null if there is none. What the constructor throws
     /// passes through.
-    static std::unique_ptr<RootClass> create_by_name(const char* name);
+    static std::unique_ptr<RootClass> createByName(const char* name);
 };
 
 } // namespace Kelta

@@ -14,7 +14,7 @@ const char* TypeInfo::get_name() const
     return m_record != nullptr ? m_record->name.c_str() : "";
 }
 
-TypeInfo TypeInfo::get_parent() const
+TypeInfo TypeInfo::getParent() const
 {
     TypeInfo parent;
     if (m_record == nullptr)
@@ -27,15 +27,15 @@ TypeInfo TypeInfo::get_parent() const
 
 bool TypeInfo::is_inherited_from(TypeInfo ancestor) const
 {
-    if (!ancestor.names_a_type())
+    if (!ancestor.namesAType())
         return false;
-    for (TypeInfo type = *this; type.names_a_type(); type = type.get_parent())
+    for (TypeInfo type = *this; type.namesAType(); type = type.getParent())
         if (type == ancestor)
             return true;
     return false;
 }
 
-std::size_t TypeInfo::get_object_size() const
+std::size_t TypeInfo::getObjectSize() const
 {
     return m_record != nullptr ? m_record->objectSize : 0;
 }

@@ -24,13 +24,13 @@ public:
 
     const char* get_name() const;
     /// The type of the parent class; names no type for a root, and as long as the parent is not registered.
-    TypeInfo get_parent() const;
+    TypeInfo getParent() const;
     /// Whether it is `ancestor` or descends from it. False if either names no type.
     bool is_inherited_from(TypeInfo ancestor) const;
-    bool names_a_type() const { return m_record != nullptr; }
+    bool namesAType() const { return m_record != nullptr; }
 
     /// The size of an object in bytes, without what it holds elsewhere; 0 if it is not known.
-    std::size_t get_object_size() const;
+    std::size_t getObjectSize() const;
 
     /// Returns a new object, as the address of its RootClass; null if the class is not created by its name or memory is
     /// exhausted. The caller owns the object. What the constructor throws passes through.

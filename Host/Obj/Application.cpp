@@ -20,11 +20,11 @@ QString tr(const char* text)
 }
 
 /// Returns a new project of a registered class; null, with the reason in the message log, if there is none.
-OwnedProject createProject(const char* className)
+OwnedProject makeProject(const char* className)
 {
     const Kelta::TypeInfo type = Kelta::TypeInfo::find(className);
     QString reason;
-    if (!type.names_a_type())
+    if (!type.namesAType())
         reason = tr("this class is not known");
     else if (!type.is_inherited_from(Project::getClassTypeId()))
         reason = tr("this is not a class of projects");
@@ -105,29 +105,29 @@ Project* Application::get_project(std::uint32_t projectId) const
     return found != m_projects.end() ? found->get() : nullptr;
 }
 
-Project* Application::create_project(const char* className, std::string_view name)
+Project* Application::createProject(const char* className, std::string_view name)
 {
-    OwnedProject project = createProject(className);
-    return project != nullptr ? add_project(std::move(project), name) : nullptr;
+    OwnedProject project = makeProject(className);
+    return project != nullptr ? addProject(std::move(project), name) : nullptr;
 }
 
-Project* Application::add_project(OwnedProject project, std::string_view name)
+Project* Application::addProject(OwnedProject project, std::string_view name)
 {
     assert(project->m_projectId == 0);
     const bool isFree = !name.empty() && get_project(name) == nullptr;
     project->m_name = isFree ? std::string(name) : get_unique_project_name(name.empty() ? "Project" : name);
     project->m_projectId = m_nextProjectId++;
     project->id.setValue(project->m_projectId);
-    return restore_project(std::move(project));
+    return restoreProject(std::move(project));
 }
 
-void Application::set_current_project(Project& project)
+void Application::setCurrentProject(Project& project)
 {
     if (get_project(project.m_projectId) == &project)
         makeCurrent(&project);
 }
 
-OwnedProject Application::take_project(const Project& project)
+OwnedProject Application::takeProject(const Project& project)
 {
     const RemovalGuard guard;
     const auto found = std::find_if(m_projects.begin(), m_projects.end(),
@@ -143,7 +143,7 @@ OwnedProject Application::take_project(const Project& project)
     return taken;
 }
 
-Project* Application::restore_project(OwnedProject project)
+Project* Application::restoreProject(OwnedProject project)
 {
     if (project == nullptr)
         return nullptr;
@@ -153,7 +153,7 @@ Project* Application::restore_project(OwnedProject project)
     insert(std::move(project));
     m_goneNames.erase(restored.m_name);
     projectAdded(restored);
-    set_current_project(restored);
+    setCurrentProject(restored);
     // A listener may have closed it.
     return get_project(restored.m_projectId);
 }
@@ -177,15 +177,15 @@ void Application::insert(OwnedProject project)
     m_projects.insert(place, nullptr)->reset(project.release());
 }
 
-bool Application::close_project(const Project& project)
+bool Application::closeProject(const Project& project)
 {
-    return take_project(project) != nullptr;
+    return takeProject(project) != nullptr;
 }
 
-void Application::close_all_projects()
+void Application::closeAllProjects()
 {
     while (!m_projects.empty())
-        close_project(*m_projects.back());
+        closeProject(*m_projects.back());
 }
 
 Json::Value Application::save_jsonDB() const

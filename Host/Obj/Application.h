@@ -49,24 +49,24 @@ public:
     /// from it. Returns null, with the reason in the message log, if the class is not registered, is not a Project or
     /// cannot be created; and null if a listener has closed the project at once. What the project's constructor throws
     /// passes through.
-    Project* create_project(const char* className, std::string_view name);
+    Project* createProject(const char* className, std::string_view name);
     /// Adds a project that code has made, not null and never in the application before, in the same way.
-    Project* add_project(OwnedProject project, std::string_view name);
+    Project* addProject(OwnedProject project, std::string_view name);
     /// Makes an open project the current one.
-    void set_current_project(Project& project);
+    void setCurrentProject(Project& project);
 
     /// Closes a project and returns it, to be kept for undo or destroyed; null if it is not open. If it was the current
     /// one, the last of the others becomes it.
-    [[nodiscard]] OwnedProject take_project(const Project& project);
-    /// Opens again a project that take_project returned, at its place and under its name, and makes it the current one. If
+    [[nodiscard]] OwnedProject takeProject(const Project& project);
+    /// Opens again a project that takeProject returned, at its place and under its name, and makes it the current one. If
     /// another project has its name meanwhile, it gets a unique one, and the message log says so. Returns null if there is
     /// nothing to open, or if a listener has closed the project at once.
-    Project* restore_project(OwnedProject project);
+    Project* restoreProject(OwnedProject project);
     /// Destroys a project; false if it is not open.
-    bool close_project(const Project& project);
+    bool closeProject(const Project& project);
     /// Destroys all projects, the last one first. To be called before the program ends, since objects of modules must not
     /// outlive their libraries.
-    void close_all_projects();
+    void closeAllProjects();
 
     /// Returns the project database: "projects", an array with a record of each, in order.
     Json::Value save_jsonDB() const;

@@ -31,7 +31,7 @@
     void Class::init()                                                                                                 \
     {                                                                                                                  \
         initSubclass(classTypeId, #Class, #Parent, nullptr, sizeof(Class));                                            \
-        propertyData.set_parent(Parent::get_property_data_ref());                                                      \
+        propertyData.setParent(Parent::get_property_data_ref());                                                       \
     }
 
 /// Defines what OBJ_CLASS declares.
@@ -41,7 +41,7 @@
     void Class::init()                                                                                                 \
     {                                                                                                                  \
         initSubclass(classTypeId, #Class, #Parent, &Class::create, sizeof(Class));                                     \
-        propertyData.set_parent(Parent::get_property_data_ref());                                                      \
+        propertyData.setParent(Parent::get_property_data_ref());                                                       \
     }
 
 // Parts of the macros above.

@@ -25,7 +25,7 @@ Codecs<ProjectCodec>& projectCodecs()
 template <typename Codec>
 const Codec* findNearest(const Codecs<Codec>& codecs, Kelta::TypeInfo type)
 {
-    for (; type.names_a_type(); type = type.get_parent())
+    for (; type.namesAType(); type = type.getParent())
         if (const auto found = codecs.find(type.get_name()); found != codecs.end())
             return &found->second;
     return nullptr;

@@ -28,7 +28,7 @@ void registerHome(const std::string& objectClass, const std::string& projectClas
 
 bool isHome(Kelta::TypeInfo projectType, Kelta::TypeInfo objectType)
 {
-    for (Kelta::TypeInfo type = objectType; type.names_a_type(); type = type.get_parent()) {
+    for (Kelta::TypeInfo type = objectType; type.namesAType(); type = type.getParent()) {
         const auto found = homes().find(std::string_view(type.get_name()));
         if (found != homes().end())
             return std::any_of(found->second.begin(), found->second.end(), [projectType](const std::string& home) {

@@ -45,27 +45,27 @@ OBJ_REGISTER_ABSTRACT_CLASS(Obj::PlaceholderObject, Obj::ProjectObject)
 PlaceholderObject::PlaceholderObject(std::string className, Json::Value record)
     : Placeholder(std::move(className), std::move(record))
 {
-    classLabel.setValue(get_original_class());
-    register_property(propertyData, label, "Label", "Info", PropertyType::ReadOnly, "Name shown in the project tree");
-    register_property(propertyData, id, "ID", "Info", PropertyType::ReadOnly, "Identity of the tree object");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", PropertyType::ReadOnly,
-                      "class of a module that is missing");
+    classLabel.setValue(getOriginalClass());
+    registerProperty(propertyData, label, "Label", "Info", PropertyType::readOnly, "Name shown in the project tree");
+    registerProperty(propertyData, id, "ID", "Info", PropertyType::readOnly, "Identity of the tree object");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", PropertyType::readOnly,
+                     "class of a module that is missing");
     for (const auto& shown : shownProperties())
         if (get_property_by_name(shown->name.c_str()) == nullptr)
-            register_property(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::ReadOnly, "");
+            registerProperty(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::readOnly, "");
 }
 
 PlaceholderObject::~PlaceholderObject() = default;
 
 std::size_t PlaceholderObject::get_memory_usage() const
 {
-    return ProjectObject::get_memory_usage() + sizeOf(get_record());
+    return ProjectObject::get_memory_usage() + sizeOf(getRecord());
 }
 
 void PlaceholderObject::save_jsonDB(Json::Value& record)
 {
     ProjectObject::save_jsonDB(record);
-    record["class"] = get_original_class();
+    record["class"] = getOriginalClass();
 }
 
 OBJ_REGISTER_ABSTRACT_CLASS(Obj::PlaceholderProject, Obj::Project)
@@ -73,20 +73,20 @@ OBJ_REGISTER_ABSTRACT_CLASS(Obj::PlaceholderProject, Obj::Project)
 PlaceholderProject::PlaceholderProject(std::string className, Json::Value record)
     : Placeholder(std::move(className), std::move(record))
 {
-    classLabel.setValue(get_original_class());
-    register_property(propertyData, id, "ID", "Info", PropertyType::ReadOnly, "Identity of the tree object");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", PropertyType::ReadOnly,
-                      "class of a module that is missing");
+    classLabel.setValue(getOriginalClass());
+    registerProperty(propertyData, id, "ID", "Info", PropertyType::readOnly, "Identity of the tree object");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", PropertyType::readOnly,
+                     "class of a module that is missing");
     for (const auto& shown : shownProperties())
         if (get_property_by_name(shown->name.c_str()) == nullptr)
-            register_property(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::ReadOnly, "");
+            registerProperty(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::readOnly, "");
 }
 
 PlaceholderProject::~PlaceholderProject() = default;
 
 std::size_t PlaceholderProject::get_memory_usage() const
 {
-    return Project::get_memory_usage() + sizeOf(get_record());
+    return Project::get_memory_usage() + sizeOf(getRecord());
 }
 
 } // namespace Obj

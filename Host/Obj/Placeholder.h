@@ -20,8 +20,8 @@ public:
     Placeholder(std::string className, Json::Value record);
     ~Placeholder();
 
-    const std::string& get_original_class() const { return m_className; }
-    const Json::Value& get_record() const { return m_record; }
+    const std::string& getOriginalClass() const { return m_className; }
+    const Json::Value& getRecord() const { return m_record; }
 
 protected:
     /// A property of the record, shown but not edited.

@@ -88,7 +88,7 @@ void Project::collect_frontend_data() {}
 void Project::update()
 {
     const RemovalGuard guard;
-    for (const std::uint32_t objectId : idsOf(get_objects()))
+    for (const std::uint32_t objectId : idsOf(getObjects()))
         if (ProjectObject* const object = get_object(objectId))
             object->check_input();
 }
@@ -128,7 +128,7 @@ ProjectObject* Project::get_object(std::string_view name) const
     return found != m_objectsByName.end() ? found->second : nullptr;
 }
 
-std::vector<ProjectObject*> Project::get_objects() const
+std::vector<ProjectObject*> Project::getObjects() const
 {
     std::vector<ProjectObject*> objects;
     objects.reserve(m_objects.size());
@@ -166,7 +166,7 @@ std::string Project::get_unique_object_name(std::string_view stem)
         stem, [this](const std::string& name) { return get_object(name) != nullptr || m_goneNames.count(name) != 0; });
 }
 
-bool Project::can_take(Kelta::TypeInfo objectType) const
+bool Project::canTake(Kelta::TypeInfo objectType) const
 {
     return isHome(getTypeId(), objectType);
 }
@@ -197,7 +197,7 @@ ProjectObject* Project::add_object(OwnedObject object, std::string_view name, st
     return insertNew(std::move(object), std::string(name), static_cast<std::uint32_t>(objectId));
 }
 
-void Project::skip_object_ids(std::uint64_t nextId)
+void Project::skipObjectIds(std::uint64_t nextId)
 {
     m_nextObjectId = std::max(m_nextObjectId, nextId);
 }
@@ -206,7 +206,7 @@ OwnedObject Project::createObject(const char* className) const
 {
     const Kelta::TypeInfo type = Kelta::TypeInfo::find(className);
     QString reason;
-    if (!type.names_a_type())
+    if (!type.namesAType())
         reason = tr("this class is not known");
     else if (!type.is_inherited_from(ProjectObject::getClassTypeId()))
         reason = tr("this is not a class of objects of a project");
@@ -221,7 +221,7 @@ OwnedObject Project::createObject(const char* className) const
 
 bool Project::mayTake(const ProjectObject& object) const
 {
-    if (can_take(object.getTypeId()))
+    if (canTake(object.getTypeId()))
         return true;
     Kelta::MessageLog::error(
         tr(R"(No object of class "%1" was added to the project "%2": projects of class "%3" do )"
@@ -268,7 +268,7 @@ ProjectObject* Project::insertNew(OwnedObject object, std::string name, std::uin
     object->id.setValue(objectId);
     object->label.setValue(object->m_name);
     ProjectObject* const inserted = insert(std::move(object));
-    skip_object_ids(std::uint64_t{objectId} + 1);
+    skipObjectIds(std::uint64_t{objectId} + 1);
     try {
         inserted->on_configuring_project();
     } catch (...) {
@@ -304,7 +304,7 @@ ProjectObject* Project::ifStillThere(std::uint32_t objectId) const
 
 // --- Removing objects and having them back ---
 
-OwnedObject Project::take_object(std::uint32_t objectId)
+OwnedObject Project::takeObject(std::uint32_t objectId)
 {
     const RemovalGuard guard;
     const auto found = m_objects.find(objectId);
@@ -327,7 +327,7 @@ OwnedObject Project::withdraw(Objects::iterator place)
     return object;
 }
 
-ProjectObject* Project::restore_object(OwnedObject object)
+ProjectObject* Project::restoreObject(OwnedObject object)
 {
     const RemovalGuard guard;
     if (object == nullptr || object->m_origin != m_serial) {
@@ -359,15 +359,15 @@ void Project::giveFreeName(ProjectObject& object)
     object.m_name = std::move(name);
 }
 
-bool Project::remove_object(std::uint32_t objectId)
+bool Project::removeObject(std::uint32_t objectId)
 {
-    return take_object(objectId) != nullptr;
+    return takeObject(objectId) != nullptr;
 }
 
-void Project::notify_restored()
+void Project::notifyRestored()
 {
     const RemovalGuard guard;
-    for (const std::uint32_t objectId : idsOf(get_objects()))
+    for (const std::uint32_t objectId : idsOf(getObjects()))
         if (ProjectObject* const object = get_object(objectId))
             Kelta::guarded(tr("An object failed after its project had been read"),
                            [object] { object->on_project_restored(); });
@@ -420,7 +420,7 @@ void Project::Execution::enter(ProjectObject& object)
     m_executed[&object] = false;
     bool isDue = object.m_isDue;
     Kelta::guarded(tr("The execution of an object failed"), [&] { isDue = object.always_run() != 0 || isDue; });
-    m_path.push_back({&object, object.get_needed_objects(), 0, isDue});
+    m_path.push_back({&object, object.getNeededObjects(), 0, isDue});
 }
 
 /// Takes the next needed object into account, or enters it. Returns false if there is none.
@@ -458,11 +458,11 @@ bool Project::Execution::execute(ProjectObject& object)
     });
 }
 
-std::vector<std::unique_ptr<ProjectObjectExecReturn>> Project::execute_due()
+std::vector<std::unique_ptr<ProjectObjectExecReturn>> Project::executeDue()
 {
     const RemovalGuard guard;
     Execution execution(*this);
-    for (ProjectObject* const object : get_objects())
+    for (ProjectObject* const object : getObjects())
         execution.visit(*object);
     return std::move(execution.results);
 }

@@ -59,21 +59,21 @@ public:
     std::uint32_t getProjectId() const { return m_projectId; }
     /// The name of the project, which the user sees too. No other open project has it.
     const char* get_name() const { return m_name.c_str(); }
-    Kelta::eDocumentTag get_document_tag() const { return documentTag; }
+    Kelta::eDocumentTag getDocumentTag() const { return documentTag; }
 
     /// Returns an object, which the project keeps; null if there is none.
     ProjectObject* get_object(std::uint32_t objectId) const;
     ProjectObject* get_object(std::string_view name) const;
-    std::vector<ProjectObject*> get_objects() const;
+    std::vector<ProjectObject*> getObjects() const;
     /// Returns the objects of this type or of one that descends from it, in the project's order.
     std::vector<ProjectObject*> get_objects_of_type(Kelta::TypeInfo type) const;
-    std::size_t get_object_count() const { return m_objects.size(); }
+    std::size_t getObjectCount() const { return m_objects.size(); }
 
     /// Returns a name from `stem` that no object of the project has or had, another one at each call.
     std::string get_unique_object_name(std::string_view stem);
 
     /// Whether the project takes objects of this type, as registerHome says.
-    bool can_take(Kelta::TypeInfo objectType) const;
+    bool canTake(Kelta::TypeInfo objectType) const;
 
     /// Makes an object of a registered class and adds it, with its name as its label. If an object has the name, a unique
     /// one is made from it. Returns null, with the reason in the message log, if the class is not registered, is not a
@@ -90,28 +90,28 @@ public:
 
     /// Takes an object out and returns it, to be kept for undo or destroyed; null if the project has no such object.
     /// Objects that need it are told.
-    [[nodiscard]] OwnedObject take_object(std::uint32_t objectId);
-    /// Puts back an object that take_object returned, at its place, under its id and name, with the links and references
+    [[nodiscard]] OwnedObject takeObject(std::uint32_t objectId);
+    /// Puts back an object that takeObject returned, at its place, under its id and name, with the links and references
     /// of other objects to it. If another object has its name meanwhile, it gets a unique one, and the message log says
     /// so. Returns the object; null, with a report, if it does not come from this project, and it is then destroyed; and
     /// null if a listener has removed it at once.
-    ProjectObject* restore_object(OwnedObject object);
+    ProjectObject* restoreObject(OwnedObject object);
     /// Destroys an object; false if the project has no object of this id.
-    bool remove_object(std::uint32_t objectId);
+    bool removeObject(std::uint32_t objectId);
 
     /// Calls on_project_restored of each object, as when the project has been read from a file.
-    void notify_restored();
+    void notifyRestored();
 
     /// Executes the objects that are due, each behind those that it needs: an object that is not suppressed, and that has
     /// changed since its last execution, or needs an object that is executed now, or says so by always_run. Returns the
     /// results in the order of execution. What an object throws is reported to the message log; it then stays due.
-    std::vector<std::unique_ptr<ProjectObjectExecReturn>> execute_due();
+    std::vector<std::unique_ptr<ProjectObjectExecReturn>> executeDue();
 
     /// The id that the next object gets; may be beyond 32 bits, and then no further object can be added without an id.
-    std::uint64_t get_next_object_id() const { return m_nextObjectId; }
+    std::uint64_t getNextObjectId() const { return m_nextObjectId; }
     /// Leaves out ids: an object that is added without an id gets `nextId` or a higher one. A number below the present one
     /// changes nothing.
-    void skip_object_ids(std::uint64_t nextId);
+    void skipObjectIds(std::uint64_t nextId);
 
     /// Changes of the project's objects and properties. An object is in the project when it is added, and outside, but
     /// still whole, when it has been removed. Listeners may change everything, even remove the object or close the project

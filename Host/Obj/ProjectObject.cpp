@@ -27,7 +27,7 @@ OBJ_REGISTER_ABSTRACT_CLASS(Obj::ProjectObject, Obj::PropertyDS)
 
 ProjectObject::ProjectObject()
 {
-    register_property(propertyData, label, "Label", "Info", PropertyType::None, "Name shown in the project tree");
+    registerProperty(propertyData, label, "Label", "Info", PropertyType::none, "Name shown in the project tree");
 }
 
 ProjectObject::~ProjectObject()
@@ -127,7 +127,7 @@ void ProjectObject::setSuppressed(bool suppressed)
 
 // --- Links ---
 
-bool ProjectObject::link_to(ProjectObject& other)
+bool ProjectObject::linkTo(ProjectObject& other)
 {
     if (&other == this)
         return false;
@@ -142,7 +142,7 @@ bool ProjectObject::link_to(ProjectObject& other)
     return true;
 }
 
-void ProjectObject::unlink_from(ProjectObject& other)
+void ProjectObject::unlinkFrom(ProjectObject& other)
 {
     const auto link = findLink(other, Direction::Needs);
     if (link == m_links.end() || !link->isDeclared)
@@ -165,7 +165,7 @@ std::vector<ProjectObject*> ProjectObject::get_linked_objects() const
     return objects;
 }
 
-std::vector<ProjectObject*> ProjectObject::get_needed_objects() const
+std::vector<ProjectObject*> ProjectObject::getNeededObjects() const
 {
     std::vector<ProjectObject*> objects;
     for (const Link& link : m_links)
@@ -174,7 +174,7 @@ std::vector<ProjectObject*> ProjectObject::get_needed_objects() const
     return objects;
 }
 
-std::vector<ProjectObject*> ProjectObject::get_links() const
+std::vector<ProjectObject*> ProjectObject::getLinks() const
 {
     std::vector<ProjectObject*> objects;
     for (const Link& link : m_links)
@@ -183,7 +183,7 @@ std::vector<ProjectObject*> ProjectObject::get_links() const
     return objects;
 }
 
-ProjectObjectGroup* ProjectObject::get_parent_group() const
+ProjectObjectGroup* ProjectObject::getParentGroup() const
 {
     // The latest link counts: a group that comes back after an undo may have lost the member to another group.
     for (auto link = m_links.rbegin(); link != m_links.rend(); ++link) {
@@ -337,7 +337,7 @@ void ProjectObject::mendLinks(const std::vector<Dependent>& dependents)
 void ProjectObject::mendLink(ProjectObject& dependent, ProjectObject& target, const Dependent& before)
 {
     if (before.isDeclared)
-        dependent.link_to(target);
+        dependent.linkTo(target);
     for (const std::string& name : before.references) {
         auto* const reference = dynamic_cast<PropertyReference*>(dependent.get_property_by_name(name.c_str()));
         if (reference != nullptr && reference->m_objectId == 0)

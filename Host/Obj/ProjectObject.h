@@ -39,9 +39,9 @@ public:
     virtual void refresh();
     /// Makes views of the object read all its properties again. Determines the state anew first if `stateToo`.
     virtual void refreshProperties(bool stateToo);
-    /// Not 0 if Project::execute_due executes the object even if neither the object nor what it needs has changed.
+    /// Not 0 if Project::executeDue executes the object even if neither the object nor what it needs has changed.
     virtual short always_run() const;
-    /// Called when `linked`, which this object needs, has left the project, or when unlink_from has removed the link. If
+    /// Called when `linked`, which this object needs, has left the project, or when unlinkFrom has removed the link. If
     /// `linked` comes back, links to it and references that this operation has removed are there again. What is thrown
     /// when `linked` leaves is reported to the message log.
     virtual void on_break_object_link(ProjectObject* linked);
@@ -80,18 +80,18 @@ public:
 
     /// Says that this object needs `other`. The link stays while one of the two is kept for undo. False if there can be no
     /// link: `other` is this object itself, or belongs to another project, which is reported to the message log.
-    bool link_to(ProjectObject& other);
+    bool linkTo(ProjectObject& other);
     /// Removes such a link; a link in the other direction stays. Nothing if there is none.
-    void unlink_from(ProjectObject& other);
+    void unlinkFrom(ProjectObject& other);
     /// The objects of the project that this one needs, by a link or by a PropertyReference, in the order of linking.
-    std::vector<ProjectObject*> get_needed_objects() const;
-    /// The objects of the project that this one needs by link_to, in the order of linking.
-    std::vector<ProjectObject*> get_links() const;
+    std::vector<ProjectObject*> getNeededObjects() const;
+    /// The objects of the project that this one needs by linkTo, in the order of linking.
+    std::vector<ProjectObject*> getLinks() const;
     /// The objects of the project that need this one or that this one needs, in the order of linking.
     std::vector<ProjectObject*> get_linked_objects() const;
 
     /// The group of the project that this object is a member of; null for none.
-    ProjectObjectGroup* get_parent_group() const;
+    ProjectObjectGroup* getParentGroup() const;
 
     /// Whether the user has taken the object out of use without deleting it.
     bool isSuppressed() const { return m_suppressed; }
@@ -115,7 +115,7 @@ private:
     {
         ProjectObject* other = nullptr;
         Direction direction = Direction::Needs;
-        bool isDeclared = false; ///< by link_to
+        bool isDeclared = false; ///< by linkTo
         int references = 0;      ///< properties that refer to `other`; counted by the object that needs `other` alone
     };
     using Links = std::vector<Link>;

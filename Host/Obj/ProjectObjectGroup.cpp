@@ -12,13 +12,13 @@ OBJ_REGISTER_CLASS(Obj::ProjectObjectGroup, Obj::ProjectObject)
 ProjectObjectGroup::ProjectObjectGroup()
 {
     classLabel.setValue("Group");
-    register_property(propertyData, id, "ID", "Info", PropertyType::ReadOnly, "Identity of the tree object");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", PropertyType::ReadOnly, "class name");
+    registerProperty(propertyData, id, "ID", "Info", PropertyType::readOnly, "Identity of the tree object");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", PropertyType::readOnly, "class name");
 }
 
 ProjectObjectGroup::~ProjectObjectGroup() = default;
 
-bool ProjectObjectGroup::add_member(ProjectObject& object)
+bool ProjectObjectGroup::addMember(ProjectObject& object)
 {
     const RemovalGuard guard;
     if (isInside(object)) {
@@ -28,31 +28,31 @@ bool ProjectObjectGroup::add_member(ProjectObject& object)
                 .arg(QString::fromStdString(object.label.getValue()), QString::fromStdString(label.getValue())));
         return false;
     }
-    ProjectObjectGroup* const former = object.get_parent_group();
+    ProjectObjectGroup* const former = object.getParentGroup();
     if (former == this)
         return true;
-    if (!link_to(object))
+    if (!linkTo(object))
         return false;
     if (former != nullptr)
-        former->unlink_from(object);
+        former->unlinkFrom(object);
     object.notifyChange();
     return true;
 }
 
-void ProjectObjectGroup::remove_member(ProjectObject& object)
+void ProjectObjectGroup::removeMember(ProjectObject& object)
 {
-    if (object.get_parent_group() != this)
+    if (object.getParentGroup() != this)
         return;
     const RemovalGuard guard;
-    unlink_from(object);
+    unlinkFrom(object);
     object.notifyChange();
 }
 
-std::vector<ProjectObject*> ProjectObjectGroup::get_members() const
+std::vector<ProjectObject*> ProjectObjectGroup::getMembers() const
 {
     std::vector<ProjectObject*> members;
-    for (ProjectObject* const object : get_links())
-        if (object->get_parent_group() == this)
+    for (ProjectObject* const object : getLinks())
+        if (object->getParentGroup() == this)
             members.push_back(object);
     return members;
 }
@@ -62,7 +62,7 @@ bool ProjectObjectGroup::isInside(const ProjectObject& object) const
 {
     const ProjectObject* around = this;
     while (around != nullptr && around != &object)
-        around = around->get_parent_group();
+        around = around->getParentGroup();
     return around != nullptr;
 }
 

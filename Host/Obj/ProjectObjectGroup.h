@@ -20,11 +20,11 @@ public:
     /// Puts `object` into the group, and takes it out of another one. The listeners of the project are told that the
     /// object has changed. False, with a report, if `object` belongs to another project, or is this group or a group
     /// around it.
-    bool add_member(ProjectObject& object);
+    bool addMember(ProjectObject& object);
     /// Takes `object` out of the group, and tells the listeners; nothing if it is not a member.
-    void remove_member(ProjectObject& object);
+    void removeMember(ProjectObject& object);
     /// Returns the members that are in the project, in the order in which they came.
-    std::vector<ProjectObject*> get_members() const;
+    std::vector<ProjectObject*> getMembers() const;
 
 private:
     bool isInside(const ProjectObject& object) const;

@@ -140,14 +140,14 @@ std::size_t heapSizeOf(const std::string& text)
 
 Property::~Property() = default;
 
-Json::Value Property::to_json() const
+Json::Value Property::toJson() const
 {
-    return to_text();
+    return toText();
 }
 
-bool Property::from_json(const Json::Value& json)
+bool Property::fromJson(const Json::Value& json)
 {
-    return json.isString() && from_text(json.asString());
+    return json.isString() && fromText(json.asString());
 }
 
 std::size_t Property::get_memory_usage() const
@@ -169,7 +169,7 @@ void Property::notifyAfter() const
 
 // --- Text ---
 
-bool PropertyString::from_text(std::string_view text)
+bool PropertyString::fromText(std::string_view text)
 {
     setValue(std::string(text));
     return true;
@@ -182,12 +182,12 @@ std::size_t PropertyString::get_memory_usage() const
 
 // --- Whole number ---
 
-std::string PropertyInteger::to_text() const
+std::string PropertyInteger::toText() const
 {
     return std::to_string(m_value);
 }
 
-bool PropertyInteger::from_text(std::string_view text)
+bool PropertyInteger::fromText(std::string_view text)
 {
     bool ok = false;
     const qlonglong value = toQString(text).trimmed().toLongLong(&ok);
@@ -196,12 +196,12 @@ bool PropertyInteger::from_text(std::string_view text)
     return ok;
 }
 
-Json::Value PropertyInteger::to_json() const
+Json::Value PropertyInteger::toJson() const
 {
     return Json::Value::Int64(m_value);
 }
 
-bool PropertyInteger::from_json(const Json::Value& json)
+bool PropertyInteger::fromJson(const Json::Value& json)
 {
     return setRead(*this, json.isInt64() ? std::optional(json.asInt64()) : std::nullopt);
 }
@@ -215,45 +215,45 @@ void PropertyReal::setValue(double value)
     change(m_value, checkedFinite(value));
 }
 
-std::string PropertyReal::to_text() const
+std::string PropertyReal::toText() const
 {
     return toShortestText(m_value).toStdString();
 }
 
-bool PropertyReal::from_text(std::string_view text)
+bool PropertyReal::fromText(std::string_view text)
 {
     return setRead(*this, readNumber(toQString(text)));
 }
 
-Json::Value PropertyReal::to_json() const
+Json::Value PropertyReal::toJson() const
 {
     return m_value;
 }
 
-bool PropertyReal::from_json(const Json::Value& json)
+bool PropertyReal::fromJson(const Json::Value& json)
 {
     return setRead(*this, readNumber(json));
 }
 
 // --- Yes or no ---
 
-std::string PropertyBool::to_text() const
+std::string PropertyBool::toText() const
 {
     return m_value ? "true" : "false";
 }
 
-bool PropertyBool::from_text(std::string_view text)
+bool PropertyBool::fromText(std::string_view text)
 {
     const bool isTrue = text == "true";
     return setRead(*this, isTrue || text == "false" ? std::optional(isTrue) : std::nullopt);
 }
 
-Json::Value PropertyBool::to_json() const
+Json::Value PropertyBool::toJson() const
 {
     return m_value;
 }
 
-bool PropertyBool::from_json(const Json::Value& json)
+bool PropertyBool::fromJson(const Json::Value& json)
 {
     return setRead(*this, json.isBool() ? std::optional(json.asBool()) : std::nullopt);
 }
@@ -269,7 +269,7 @@ void PropertyChoice::setValue(std::size_t index)
     change(m_index, checkedIndex(index, m_words.size()));
 }
 
-bool PropertyChoice::from_text(std::string_view text)
+bool PropertyChoice::fromText(std::string_view text)
 {
     const auto found = std::find(m_words.begin(), m_words.end(), text);
     if (found == m_words.end())
@@ -288,7 +288,7 @@ std::size_t PropertyChoice::get_memory_usage() const
 
 // --- Colour ---
 
-std::string PropertyColor::to_text() const
+std::string PropertyColor::toText() const
 {
     QStringList parts;
     for (const float component : {m_value.red, m_value.green, m_value.blue, m_value.alpha})
@@ -296,12 +296,12 @@ std::string PropertyColor::to_text() const
     return parts.join(QStringLiteral(", ")).toStdString();
 }
 
-bool PropertyColor::from_text(std::string_view text)
+bool PropertyColor::fromText(std::string_view text)
 {
     return setRead(*this, toColor(readNumbers(toQString(text), 4)));
 }
 
-Json::Value PropertyColor::to_json() const
+Json::Value PropertyColor::toJson() const
 {
     Json::Value json(Json::arrayValue);
     for (const float component : {m_value.red, m_value.green, m_value.blue, m_value.alpha})
@@ -309,14 +309,14 @@ Json::Value PropertyColor::to_json() const
     return json;
 }
 
-bool PropertyColor::from_json(const Json::Value& json)
+bool PropertyColor::fromJson(const Json::Value& json)
 {
     return setRead(*this, toColor(readNumbers(json, 4)));
 }
 
 // --- Couples ---
 
-std::string PropertyCoupleArray::to_text() const
+std::string PropertyCoupleArray::toText() const
 {
     QStringList couples;
     for (const auto& [first, second] : m_value)
@@ -324,13 +324,13 @@ std::string PropertyCoupleArray::to_text() const
     return couples.join(QStringLiteral("; ")).toStdString();
 }
 
-bool PropertyCoupleArray::from_text(std::string_view text)
+bool PropertyCoupleArray::fromText(std::string_view text)
 {
     const QString all = toQString(text).trimmed();
     return setRead(*this, readCouples(all.isEmpty() ? QStringList() : all.split(QLatin1Char(';'))));
 }
 
-Json::Value PropertyCoupleArray::to_json() const
+Json::Value PropertyCoupleArray::toJson() const
 {
     Json::Value json(Json::arrayValue);
     for (const auto& [first, second] : m_value) {
@@ -341,7 +341,7 @@ Json::Value PropertyCoupleArray::to_json() const
     return json;
 }
 
-bool PropertyCoupleArray::from_json(const Json::Value& json)
+bool PropertyCoupleArray::fromJson(const Json::Value& json)
 {
     return json.isArray() && setRead(*this, readCouples(json));
 }

@@ -30,17 +30,17 @@ public:
     virtual ~Property();
 
     /// The set that the property is registered with; null before.
-    PropertyDS* get_owner() const { return m_owner; }
+    PropertyDS* getOwner() const { return m_owner; }
 
     /// Returns the value as text, in UTF-8 and with decimal points in every locale.
-    virtual std::string to_text() const = 0;
+    virtual std::string toText() const = 0;
     /// Sets the value from such a text. False if it cannot be read; the value is then as it was.
-    [[nodiscard]] virtual bool from_text(std::string_view text) = 0;
+    [[nodiscard]] virtual bool fromText(std::string_view text) = 0;
 
     /// Returns the value as project files keep it. Here the text.
-    virtual Json::Value to_json() const;
+    virtual Json::Value toJson() const;
     /// Sets the value from such JSON. False if it cannot be read; the value is then as it was.
-    [[nodiscard]] virtual bool from_json(const Json::Value& json);
+    [[nodiscard]] virtual bool fromJson(const Json::Value& json);
 
     /// The bytes that the value takes outside the property itself, an estimate.
     virtual std::size_t get_memory_usage() const;
@@ -73,8 +73,8 @@ public:
     const std::string& getValue() const { return m_value; }
     void setValue(std::string value) { change(m_value, std::move(value)); }
 
-    std::string to_text() const override { return m_value; }
-    bool from_text(std::string_view text) override;
+    std::string toText() const override { return m_value; }
+    bool fromText(std::string_view text) override;
     std::size_t get_memory_usage() const override;
 
 private:
@@ -90,10 +90,10 @@ public:
     std::int64_t getValue() const { return m_value; }
     void setValue(std::int64_t value) { change(m_value, value); }
 
-    std::string to_text() const override;
-    bool from_text(std::string_view text) override;
-    Json::Value to_json() const override;
-    bool from_json(const Json::Value& json) override;
+    std::string toText() const override;
+    bool fromText(std::string_view text) override;
+    Json::Value toJson() const override;
+    bool fromJson(const Json::Value& json) override;
 
 private:
     std::int64_t m_value;
@@ -109,11 +109,11 @@ public:
     double getValue() const { return m_value; }
     void setValue(double value);
 
-    std::string to_text() const override;
+    std::string toText() const override;
     /// Refuses words for infinity and for what is not a number.
-    bool from_text(std::string_view text) override;
-    Json::Value to_json() const override;
-    bool from_json(const Json::Value& json) override;
+    bool fromText(std::string_view text) override;
+    Json::Value toJson() const override;
+    bool fromJson(const Json::Value& json) override;
 
 private:
     double m_value;
@@ -128,10 +128,10 @@ public:
     bool getValue() const { return m_value; }
     void setValue(bool value) { change(m_value, value); }
 
-    std::string to_text() const override;
-    bool from_text(std::string_view text) override;
-    Json::Value to_json() const override;
-    bool from_json(const Json::Value& json) override;
+    std::string toText() const override;
+    bool fromText(std::string_view text) override;
+    Json::Value toJson() const override;
+    bool fromJson(const Json::Value& json) override;
 
 private:
     bool m_value;
@@ -148,12 +148,12 @@ public:
     /// The index of the word in the list.
     std::size_t getValue() const { return m_index; }
     void setValue(std::size_t index);
-    const std::string& get_word() const { return m_words[m_index]; }
+    const std::string& getWord() const { return m_words[m_index]; }
     /// The list to choose from.
-    const std::vector<std::string>& get_words() const { return m_words; }
+    const std::vector<std::string>& getWords() const { return m_words; }
 
-    std::string to_text() const override { return get_word(); }
-    bool from_text(std::string_view text) override;
+    std::string toText() const override { return getWord(); }
+    bool fromText(std::string_view text) override;
     std::size_t get_memory_usage() const override;
 
 private:
@@ -185,10 +185,10 @@ public:
     const Color& getValue() const { return m_value; }
     void setValue(Color value) { change(m_value, value); }
 
-    std::string to_text() const override;
-    bool from_text(std::string_view text) override;
-    Json::Value to_json() const override;
-    bool from_json(const Json::Value& json) override;
+    std::string toText() const override;
+    bool fromText(std::string_view text) override;
+    Json::Value toJson() const override;
+    bool fromJson(const Json::Value& json) override;
 
 private:
     Color m_value;
@@ -203,10 +203,10 @@ public:
     const Couples& getValue() const { return m_value; }
     void setValue(Couples value) { change(m_value, std::move(value)); }
 
-    std::string to_text() const override;
-    bool from_text(std::string_view text) override;
-    Json::Value to_json() const override;
-    bool from_json(const Json::Value& json) override;
+    std::string toText() const override;
+    bool fromText(std::string_view text) override;
+    Json::Value toJson() const override;
+    bool fromJson(const Json::Value& json) override;
     std::size_t get_memory_usage() const override;
 
 private:

@@ -4,8 +4,8 @@
 
 namespace Obj {
 
-const PropertyDescription& PropertyCoreData::register_property(const char* name, const char* group, short attributes,
-                                                               const char* description)
+const PropertyDescription& PropertyCoreData::registerProperty(const char* name, const char* group, short attributes,
+                                                              const char* description)
 {
     if (const PropertyDescription* known = find(name))
         return *known;

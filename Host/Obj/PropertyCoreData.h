@@ -23,8 +23,8 @@ class OBJ_EXPORT PropertyCoreData
 {
 public:
     /// Adds a description and returns it. A description that the class has under this name stays as it is.
-    const PropertyDescription& register_property(const char* name, const char* group, short attributes,
-                                                 const char* description);
+    const PropertyDescription& registerProperty(const char* name, const char* group, short attributes,
+                                                const char* description);
 
     /// Returns the description that the class itself registered under `name`; null if there is none.
     const PropertyDescription* find(std::string_view name) const;
@@ -33,7 +33,7 @@ public:
 
     /// The descriptions of the parent class; null for a root.
     const PropertyCoreData* parent() const { return m_parent; }
-    void set_parent(const PropertyCoreData* parent) { m_parent = parent; }
+    void setParent(const PropertyCoreData* parent) { m_parent = parent; }
 
 private:
     // Sets of properties point to their descriptions, which must not move.

@@ -53,13 +53,13 @@ void PropertyDS::get_property_array(std::vector<Property*>& properties) const
 short PropertyDS::get_property_type(const char* name) const
 {
     const Entry* const entry = find(name);
-    return entry != nullptr ? entry->description->attributes : PropertyType::None;
+    return entry != nullptr ? entry->description->attributes : PropertyType::none;
 }
 
 short PropertyDS::get_property_type(const Property* property) const
 {
     const Entry* const entry = find(property);
-    return entry != nullptr ? entry->description->attributes : PropertyType::None;
+    return entry != nullptr ? entry->description->attributes : PropertyType::none;
 }
 
 const char* PropertyDS::get_property_group(const char* name) const
@@ -88,22 +88,22 @@ const char* PropertyDS::get_property_description(const Property* property) const
 
 bool PropertyDS::is_read_only(const char* name) const
 {
-    return (get_property_type(name) & PropertyType::ReadOnly) != 0;
+    return (get_property_type(name) & PropertyType::readOnly) != 0;
 }
 
 bool PropertyDS::is_read_only(const Property* property) const
 {
-    return (get_property_type(property) & PropertyType::ReadOnly) != 0;
+    return (get_property_type(property) & PropertyType::readOnly) != 0;
 }
 
 bool PropertyDS::is_hidden(const char* name) const
 {
-    return (get_property_type(name) & PropertyType::Hidden) != 0;
+    return (get_property_type(name) & PropertyType::hidden) != 0;
 }
 
 bool PropertyDS::is_hidden(const Property* property) const
 {
-    return (get_property_type(property) & PropertyType::Hidden) != 0;
+    return (get_property_type(property) & PropertyType::hidden) != 0;
 }
 
 void PropertyDS::on_changed(const Property*) {}
@@ -120,10 +120,10 @@ const PropertyCoreData* PropertyDS::get_property_data_ref()
     return &propertyData;
 }
 
-void PropertyDS::register_property(PropertyCoreData& data, Property& property, const char* name, const char* group,
-                                   short attributes, const char* description)
+void PropertyDS::registerProperty(PropertyCoreData& data, Property& property, const char* name, const char* group,
+                                  short attributes, const char* description)
 {
-    const PropertyDescription& described = data.register_property(name, group, attributes, description);
+    const PropertyDescription& described = data.registerProperty(name, group, attributes, description);
     const auto known = std::find_if(m_entries.begin(), m_entries.end(),
                                     [&property](const Entry& entry) { return entry.property == &property; });
     if (known != m_entries.end())

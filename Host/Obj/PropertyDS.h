@@ -58,8 +58,8 @@ protected:
     /// Makes `property`, a member of this object, known under `name`, and describes it in `data`, the record of the class
     /// that registers it. From now on the property notifies this object. A property that a base class has registered gets
     /// the name and description of the derived class, and keeps its place in the order.
-    void register_property(PropertyCoreData& data, Property& property, const char* name, const char* group,
-                           short attributes, const char* description);
+    void registerProperty(PropertyCoreData& data, Property& property, const char* name, const char* group,
+                          short attributes, const char* description);
 
 private:
     friend class Property;

@@ -29,7 +29,7 @@ bool readProperty(PropertyDS& set, const std::string& name, const Json::Value& v
     if (property == nullptr || set.is_read_only(property))
         return false;
     const bool isReference = dynamic_cast<PropertyReference*>(property) != nullptr;
-    return property->from_json(isReference && value.isUInt() ? renumbered(value, newId) : value);
+    return property->fromJson(isReference && value.isUInt() ? renumbered(value, newId) : value);
 }
 
 bool readLink(ProjectObject& object, const Json::Value& value, const Renumbering& newId)
@@ -41,7 +41,7 @@ bool readLink(ProjectObject& object, const Json::Value& value, const Renumbering
     if (other == nullptr)
         return false;
     auto* const group = dynamic_cast<ProjectObjectGroup*>(&object);
-    return group != nullptr ? group->add_member(*other) : object.link_to(*other);
+    return group != nullptr ? group->addMember(*other) : object.linkTo(*other);
 }
 
 } // namespace
@@ -58,7 +58,7 @@ Json::Value writeProperties(const PropertyDS& set)
     Json::Value record;
     for (const Property* const property : properties)
         if (!set.is_read_only(property))
-            record[set.get_property_name(property)] = property->to_json();
+            record[set.get_property_name(property)] = property->toJson();
     return record;
 }
 
@@ -76,7 +76,7 @@ std::vector<std::string> readProperties(PropertyDS& set, const Json::Value& reco
 Json::Value writeLinks(const ProjectObject& object)
 {
     Json::Value record;
-    for (const ProjectObject* const other : object.get_links())
+    for (const ProjectObject* const other : object.getLinks())
         record.append(other->getObjectId());
     return record;
 }

@@ -29,7 +29,7 @@ OBJ_EXPORT Json::Value writeProperties(const PropertyDS& set);
 [[nodiscard]] OBJ_EXPORT std::vector<std::string> readProperties(PropertyDS& set, const Json::Value& record,
                                                                  const Renumbering& newId = sameId);
 
-/// Returns the ids of the objects that an object is linked to by link_to, the members of a group among them; null if there
+/// Returns the ids of the objects that an object is linked to by linkTo, the members of a group among them; null if there
 /// are none.
 OBJ_EXPORT Json::Value writeLinks(const ProjectObject& object);
 

@@ -18,7 +18,7 @@ bool PropertyReference::setValue(ProjectObject* object)
     const Project* const project = findProject();
     if (object != nullptr && (project == nullptr || object->get_project() != project))
         return false;
-    auto* const owner = dynamic_cast<ProjectObject*>(get_owner());
+    auto* const owner = dynamic_cast<ProjectObject*>(getOwner());
     notifyBefore();
     if (owner != nullptr && object != nullptr)
         owner->addReference(*object);
@@ -29,26 +29,26 @@ bool PropertyReference::setValue(ProjectObject* object)
     return true;
 }
 
-std::string PropertyReference::to_text() const
+std::string PropertyReference::toText() const
 {
     const ProjectObject* const object = getValue();
     return object != nullptr ? object->get_name_in_project() : "";
 }
 
-bool PropertyReference::from_text(std::string_view text)
+bool PropertyReference::fromText(std::string_view text)
 {
     const Project* const project = findProject();
     ProjectObject* const object = project != nullptr ? project->get_object(text) : nullptr;
     return (object != nullptr || text.empty()) && setValue(object);
 }
 
-Json::Value PropertyReference::to_json() const
+Json::Value PropertyReference::toJson() const
 {
     const ProjectObject* const object = getValue();
     return object != nullptr ? Json::Value(object->getObjectId()) : Json::Value();
 }
 
-bool PropertyReference::from_json(const Json::Value& json)
+bool PropertyReference::fromJson(const Json::Value& json)
 {
     const Project* const project = findProject();
     ProjectObject* const object = project != nullptr && json.isUInt() ? project->get_object(json.asUInt()) : nullptr;
@@ -57,9 +57,9 @@ bool PropertyReference::from_json(const Json::Value& json)
 
 const Project* PropertyReference::findProject() const
 {
-    if (const auto* const object = dynamic_cast<const ProjectObject*>(get_owner()))
+    if (const auto* const object = dynamic_cast<const ProjectObject*>(getOwner()))
         return object->get_project();
-    return dynamic_cast<const Project*>(get_owner());
+    return dynamic_cast<const Project*>(getOwner());
 }
 
 } // namespace Obj

@@ -12,7 +12,7 @@ class ProjectObject;
 ///
 /// The reference knows the object by its id. It is none while the object is deleted, and is back if that is undone; the
 /// owner is told of both by on_changed. An object that owns the property needs the object that it refers to, as after
-/// ProjectObject::link_to. As text the internal name of the object, empty for none; its id in JSON, null for none.
+/// ProjectObject::linkTo. As text the internal name of the object, empty for none; its id in JSON, null for none.
 class OBJ_EXPORT PropertyReference : public Property
 {
 public:
@@ -24,12 +24,12 @@ public:
     bool setValue(ProjectObject* object);
 
     /// The id that is kept, also while the object is deleted; 0 for none.
-    std::uint32_t get_id() const { return m_objectId; }
+    std::uint32_t getId() const { return m_objectId; }
 
-    std::string to_text() const override;
-    bool from_text(std::string_view text) override;
-    Json::Value to_json() const override;
-    bool from_json(const Json::Value& json) override;
+    std::string toText() const override;
+    bool fromText(std::string_view text) override;
+    Json::Value toJson() const override;
+    bool fromJson(const Json::Value& json) override;
 
 private:
     friend class ProjectObject;

@@ -83,7 +83,7 @@ bool setText(Obj::Property& property, const std::string& name, const std::string
 {
     bool isRead = true;
     Kelta::guarded(tr("An object failed when its property \"%1\" was changed").arg(shown(name)),
-                   [&] { isRead = property.from_text(text); });
+                   [&] { isRead = property.fromText(text); });
     return isRead ||
            report(tr(R"(The property "%1" cannot be "%2"; nothing was changed.)").arg(shown(name), shown(text)));
 }
@@ -163,7 +163,7 @@ bool MessageProxy::newProject(const std::string& className, const std::string& n
         return false;
     // The project is noticed as any that is added during a request.
     const Group group{QString()};
-    Obj::Project* const project = Obj::Application::instance().create_project(className.c_str(), name);
+    Obj::Project* const project = Obj::Application::instance().createProject(className.c_str(), name);
     if (project == nullptr)
         return false;
     projectCreated(*project);
@@ -179,7 +179,7 @@ bool MessageProxy::closeProject(const std::string& name)
     const QString text = tr("Close project \"%1\"").arg(shown(name));
     return carryOut(text, [&]() -> std::unique_ptr<QUndoCommand> {
         const OwnDoing doing(project);
-        Obj::OwnedProject closed = Obj::Application::instance().take_project(*project);
+        Obj::OwnedProject closed = Obj::Application::instance().takeProject(*project);
         return closed != nullptr ? std::make_unique<ProjectCommand>(text, std::move(closed)) : nullptr;
     });
 }
@@ -225,7 +225,7 @@ bool MessageProxy::deleteObject(const std::string& projectName, const std::strin
     const QString text = tr("Delete \"%1\"").arg(labelOf(*object));
     return carryOut(text, [&] {
         const OwnDoing doing(object);
-        return std::make_unique<ObjectCommand>(text, *project, project->take_object(object->getObjectId()));
+        return std::make_unique<ObjectCommand>(text, *project, project->takeObject(object->getObjectId()));
     });
 }
 
@@ -234,18 +234,18 @@ bool MessageProxy::setProperty(const PropertyPlace& place, const std::string& pr
     Obj::Property* const property = mayAct() ? findSettable(place, propertyName, text) : nullptr;
     if (property == nullptr)
         return false;
-    if (property->to_text() == text)
+    if (property->toText() == text)
         return true;
     bool isRead = false;
     const QString stepText = tr("Change \"%1\"").arg(shown(propertyName));
     carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
-        Json::Value before = property->to_json();
+        Json::Value before = property->toJson();
         isRead = setText(*property, propertyName, text);
         // A listener may have deleted what was changed; nothing can be undone then.
         const Obj::PropertyDS* const owner = isRead ? place.find() : nullptr;
         if (owner == nullptr)
             return nullptr;
-        Json::Value after = owner->get_property_by_name(propertyName.c_str())->to_json();
+        Json::Value after = owner->get_property_by_name(propertyName.c_str())->toJson();
         return std::make_unique<PropertyCommand>(stepText, place, propertyName, std::move(before), std::move(after));
     });
     return isRead;
@@ -274,7 +274,7 @@ bool MessageProxy::handOver(const std::string& projectName)
         return false;
     const Group group(tr("Hand over \"%1\"").arg(shown(projectName)));
     return Kelta::guarded(tr("The project \"%1\" cannot be handed over").arg(shown(projectName)), [project] {
-        project->execute_due();
+        project->executeDue();
         project->collect_frontend_data();
     });
 }
@@ -284,13 +284,13 @@ bool MessageProxy::handOver(const std::string& projectName)
 Obj::Project* MessageProxy::openProject(const std::string& className, const std::string& name,
                                         const std::function<void(Obj::Project&)>& fill)
 {
-    return open([&] { return Obj::Application::instance().create_project(className.c_str(), name); }, fill);
+    return open([&] { return Obj::Application::instance().createProject(className.c_str(), name); }, fill);
 }
 
 Obj::Project* MessageProxy::openProject(Obj::OwnedProject project, const std::string& name,
                                         const std::function<void(Obj::Project&)>& fill)
 {
-    return open([&] { return Obj::Application::instance().add_project(std::move(project), name); }, fill);
+    return open([&] { return Obj::Application::instance().addProject(std::move(project), name); }, fill);
 }
 
 Obj::Project* MessageProxy::open(const std::function<Obj::Project*()>& make,
@@ -311,7 +311,7 @@ Obj::Project* MessageProxy::open(const std::function<Obj::Project*()>& make,
         takeBack(*project, before);
         throw;
     }
-    project->notify_restored();
+    project->notifyRestored();
     if (!isOpen(*project))
         return nullptr;
     // What listeners have added to other projects meanwhile can still be undone.
@@ -323,9 +323,9 @@ void MessageProxy::takeBack(const Obj::Project& opened, Obj::Project* before)
 {
     const OwnDoing closing(&opened);
     m_watches.erase(opened.getProjectId());
-    Obj::Application::instance().close_project(opened);
+    Obj::Application::instance().closeProject(opened);
     if (before != nullptr)
-        Obj::Application::instance().set_current_project(*before);
+        Obj::Application::instance().setCurrentProject(*before);
 }
 
 // --- Groups ---

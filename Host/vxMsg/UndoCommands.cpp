@@ -21,12 +21,12 @@ Obj::OwnedProject ProjectCommand::take()
     Obj::Application& application = Obj::Application::instance();
     const Obj::Project* const project = application.get_project(m_projectId);
     const OwnDoing doing(project);
-    return project != nullptr ? application.take_project(*project) : nullptr;
+    return project != nullptr ? application.takeProject(*project) : nullptr;
 }
 
 void ProjectCommand::putBack(Obj::OwnedProject project)
 {
-    Obj::Application::instance().restore_project(std::move(project));
+    Obj::Application::instance().restoreProject(std::move(project));
 }
 
 ObjectCommand::ObjectCommand(const QString& text, const Obj::ProjectObject& object)
@@ -47,13 +47,13 @@ Obj::OwnedObject ObjectCommand::take()
     if (project == nullptr)
         return nullptr;
     const OwnDoing doing(project->get_object(m_objectId));
-    return project->take_object(m_objectId);
+    return project->takeObject(m_objectId);
 }
 
 void ObjectCommand::putBack(Obj::OwnedObject object)
 {
     if (Obj::Project* const project = Obj::Application::instance().get_project(m_projectId))
-        project->restore_object(std::move(object));
+        project->restoreObject(std::move(object));
 }
 
 PropertyCommand::PropertyCommand(const QString& text, PropertyPlace place, std::string name, Json::Value before,
@@ -71,7 +71,7 @@ void PropertyCommand::set(const Json::Value& value) const
     Obj::Property* const property = owner != nullptr ? owner->get_property_by_name(m_name.c_str()) : nullptr;
     // Every value that is kept here was the property's own.
     if (property != nullptr)
-        static_cast<void>(property->from_json(value));
+        static_cast<void>(property->fromJson(value));
 }
 
 SuppressionCommand::SuppressionCommand(const QString& text, PropertyPlace place, bool suppressed)

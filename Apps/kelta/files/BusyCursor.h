@@ -3,7 +3,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 
-namespace kelta {
+namespace desktop {
 
 /// While one lives, the pointer shows that the program is at work.
 class BusyCursor
@@ -15,4 +15,4 @@ public:
     ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
 };
 
-} // namespace kelta
+} // namespace desktop

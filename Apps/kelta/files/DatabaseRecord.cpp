@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -103,4 +103,4 @@ Json::Value recordDatabase(Obj::Project& project, const projectfile::ProjectReco
     return database;
 }
 
-} // namespace kelta
+} // namespace desktop

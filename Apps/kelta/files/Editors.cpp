@@ -10,14 +10,14 @@
 
 #include <algorithm>
 
-namespace kelta {
+namespace desktop {
 
 std::vector<QPointer<Gui::MDIWindow>> Editors::findChanged(const Obj::Project& project) const
 {
     std::vector<QPointer<Gui::MDIWindow>> editors;
-    for (Gui::MDIWindow* const window : m_mainWindow.get_mdi_windows())
-        if (window->isWindowModified() && window->get_gui_project() != nullptr &&
-            &window->get_gui_project()->get_project() == &project)
+    for (Gui::MDIWindow* const window : m_mainWindow.getMdiWindows())
+        if (window->isWindowModified() && window->getGuiProject() != nullptr &&
+            &window->getGuiProject()->get_project() == &project)
             editors.emplace_back(window);
     return editors;
 }
@@ -50,4 +50,4 @@ bool Editors::deal(const QPointer<Gui::MDIWindow>& editor) const
     return editor == nullptr || !editor->isWindowModified();
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -13,7 +13,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 class Questions;
 
@@ -40,4 +40,4 @@ private:
     const Questions& m_questions;
 };
 
-} // namespace kelta
+} // namespace desktop

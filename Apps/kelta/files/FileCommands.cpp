@@ -13,7 +13,7 @@
 #include <QDir>
 #include <QMenu>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -78,7 +78,7 @@ void listRecentFiles(ProjectFiles& files, QMenu& menu)
 
 std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
 {
-    constexpr int none = Gui::CommandType::None;
+    constexpr int none = Gui::CommandType::none;
     return {
         {"Std_Open", QT_TRANSLATE_NOOP("FileCommand", "&Open..."),
          QT_TRANSLATE_NOOP("FileCommand", "Open a project from a file"), "kelta_open", QKeySequence::Open, none,
@@ -117,4 +117,4 @@ void addFileCommands(Gui::CommandController& commands, ProjectFiles& files)
     Gui::addCommands(commands, context, makeRows(files));
 }
 
-} // namespace kelta
+} // namespace desktop

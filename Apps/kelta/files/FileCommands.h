@@ -4,7 +4,7 @@ namespace Gui {
 class CommandController;
 } // namespace Gui
 
-namespace kelta {
+namespace desktop {
 
 class ProjectFiles;
 
@@ -12,4 +12,4 @@ class ProjectFiles;
 /// "Std_SaveAs" and "Std_ImportDocument". `files` must outlive their use.
 void addFileCommands(Gui::CommandController& commands, ProjectFiles& files);
 
-} // namespace kelta
+} // namespace desktop

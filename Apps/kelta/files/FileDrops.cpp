@@ -10,7 +10,7 @@
 #include <QTimer>
 #include <QUrl>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -48,4 +48,4 @@ bool FileDrops::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-} // namespace kelta
+} // namespace desktop

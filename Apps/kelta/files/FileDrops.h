@@ -6,7 +6,7 @@ namespace Gui {
 class MainWindow;
 } // namespace Gui
 
-namespace kelta {
+namespace desktop {
 
 class ProjectFiles;
 
@@ -26,4 +26,4 @@ private:
     ProjectFiles& m_files;
 };
 
-} // namespace kelta
+} // namespace desktop

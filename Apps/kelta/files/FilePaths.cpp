@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace kelta {
+namespace desktop {
 
 QString canonicalPath(const QString& path)
 {
@@ -22,4 +22,4 @@ QString shownPath(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
-} // namespace kelta
+} // namespace desktop

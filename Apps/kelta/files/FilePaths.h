@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace kelta {
+namespace desktop {
 
 /// Returns the one path of a file that all ways to it share: links are followed, those to a missing file too.
 QString canonicalPath(const QString& path);
@@ -10,4 +10,4 @@ QString canonicalPath(const QString& path);
 /// Returns a path as the user reads it.
 QString shownPath(const QString& path);
 
-} // namespace kelta
+} // namespace desktop

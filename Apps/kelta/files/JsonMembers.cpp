@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace kelta {
+namespace desktop {
 
 void addMissing(Json::Value& record, const Json::Value& other)
 {
@@ -13,4 +13,4 @@ void addMissing(Json::Value& record, const Json::Value& other)
             record[name] = other[name];
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -2,7 +2,7 @@
 
 #include <json/value.h>
 
-namespace kelta {
+namespace desktop {
 
 /// Gives a record the members that only another one has. Nothing if that is not an object.
 void addMissing(Json::Value& record, const Json::Value& other);
@@ -17,4 +17,4 @@ Json::Value membersOf(const Json::Value& record, const Names& names)
     return members;
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <map>
 
-namespace kelta {
+namespace desktop {
 
 /// What a project file says of an object beyond what this program can give to the object, to be written back. A member is
 /// null if there is nothing.
@@ -27,4 +27,4 @@ struct KeptMembers
     std::map<std::uint32_t, KeptObject> objects; ///< by id
 };
 
-} // namespace kelta
+} // namespace desktop

@@ -23,20 +23,20 @@
 #include <memory>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
 void select(Obj::Project& project)
 {
-    Gui::TreeSelectionSingleton::instance().set_selection({&project}, {});
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
 }
 
 /// Null, with the reason in the message log, if there can be no such project.
 Obj::Project* requestProject(const projectfile::ProjectRecord& record, const std::function<void(Obj::Project&)>& fill)
 {
     vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
-    if (Kelta::TypeInfo::find(record.className.c_str()).names_a_type())
+    if (Kelta::TypeInfo::find(record.className.c_str()).namesAType())
         return requests.openProject(record.className, record.name, fill);
     return requests.openProject(std::make_unique<Obj::PlaceholderProject>(record.className, recordOfProject(record)),
                                 record.name, fill);
@@ -81,7 +81,7 @@ bool Opening::openFile(const QString& path)
     session.isModified = !record.doubts.empty();
     m_sessions.noteOpened(*project);
     RecentFiles::add(path);
-    m_mainWindow.update_commands();
+    m_mainWindow.updateCommands();
     return true;
 }
 
@@ -112,7 +112,7 @@ void Opening::rememberText(Obj::Project& project, Session& session) const
         session.rememberText(projectfile::writeProject(record), record.nextObjectId);
     } catch (...) {
         // A project that cannot be written would lose what the user does with it.
-        Obj::Application::instance().close_project(project);
+        Obj::Application::instance().closeProject(project);
         throw;
     }
 }
@@ -122,7 +122,7 @@ void Opening::warn(const QString& path, const std::vector<std::string>& doubts)
     for (const std::string& doubt : doubts)
         Kelta::MessageLog::warning(shownPath(path) + QStringLiteral(": ") + QString::fromStdString(doubt));
     if (!doubts.empty())
-        m_mainWindow.show_messages();
+        m_mainWindow.showMessages();
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -17,7 +17,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 class Questions;
 class Sessions;
@@ -26,7 +26,7 @@ struct Session;
 /// Opens project files, of projects of every class.
 class Opening
 {
-    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+    Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
     Opening(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions)
@@ -54,4 +54,4 @@ private:
     const Questions& m_questions;
 };
 
-} // namespace kelta
+} // namespace desktop

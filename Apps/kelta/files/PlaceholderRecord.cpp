@@ -7,7 +7,7 @@
 #include <memory>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -56,8 +56,8 @@ Json::Value recordOfObject(const projectfile::ObjectRecord& object)
 
 void writePlaceholder(const Obj::Placeholder& placeholder, projectfile::ObjectRecord& object)
 {
-    const Json::Value& record = placeholder.get_record();
-    object.className = placeholder.get_original_class();
+    const Json::Value& record = placeholder.getRecord();
+    object.className = placeholder.getOriginalClass();
     object.properties = record["properties"];
     object.node = record["node"];
     if (!record["is_material"].isBool()) {
@@ -80,9 +80,9 @@ Json::Value recordOfProject(const projectfile::ProjectRecord& project)
 
 void writePlaceholder(const Obj::Placeholder& placeholder, projectfile::ProjectRecord& project)
 {
-    project.className = placeholder.get_original_class();
-    project.properties = placeholder.get_record()["properties"];
-    project.record = placeholder.get_record()["record"];
+    project.className = placeholder.getOriginalClass();
+    project.properties = placeholder.getRecord()["properties"];
+    project.record = placeholder.getRecord()["record"];
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -8,7 +8,7 @@ namespace Obj {
 class Placeholder;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 // What placeholders of missing classes keep of a project file. The id, name, label, links and suppression of an object
 // are those of the placeholder itself.
@@ -33,4 +33,4 @@ void moveColourFromNode(projectfile::ObjectRecord& object);
 /// Returns the properties of the tree node, the colour of a material among them; null if there are none.
 Json::Value nodeWithColour(const projectfile::ObjectRecord& object);
 
-} // namespace kelta
+} // namespace desktop

@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <exception>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -32,7 +32,7 @@ ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow)
           [this](Obj::Project& project, bool& refused) { refused = refused || !mayClose(project); }))
 {
     // The title shows whether a project is modified, also by what is not a step of the history.
-    connect(&m_sessions, &Sessions::becameModified, &mainWindow, &Gui::MainWindow::update_commands,
+    connect(&m_sessions, &Sessions::becameModified, &mainWindow, &Gui::MainWindow::updateCommands,
             Qt::QueuedConnection);
     connect(&m_timer, &QTimer::timeout, this, &ProjectFiles::keepCopies);
     m_timer.start(copyInterval);
@@ -64,7 +64,7 @@ bool ProjectFiles::importDocument(Obj::Project& project, const QString& path)
         const BusyCursor busy;
         const ImportOutcome outcome = (*import)(project, path);
         m_opening.warn(path, outcome.doubts);
-        Gui::TreeSelectionSingleton::instance().set_selection({}, outcome.objects);
+        Gui::TreeSelectionSingleton::instance().setSelection({}, outcome.objects);
         m_mainWindow.statusBar()->showMessage(tr("Objects imported: %1").arg(outcome.objects.size()), 5000);
         return true;
     } catch (const std::exception& error) {
@@ -73,13 +73,13 @@ bool ProjectFiles::importDocument(Obj::Project& project, const QString& path)
     return false;
 }
 
-QString ProjectFiles::get_file(const Obj::Project& project) const
+QString ProjectFiles::getFile(const Obj::Project& project) const
 {
     const Session* const session = m_sessions.find(project);
     return session != nullptr ? session->path : QString();
 }
 
-bool ProjectFiles::is_modified(const Obj::Project& project) const
+bool ProjectFiles::isModified(const Obj::Project& project) const
 {
     const Session* const session = m_sessions.find(project);
     return session != nullptr && session->isModified;
@@ -95,14 +95,14 @@ void ProjectFiles::contentChanged(Obj::ProjectObject& object)
 
 bool ProjectFiles::mayClose(Obj::Project& project)
 {
-    const Questions::Unsaved unsaved{is_modified(project), m_editors.haveChanges(project)};
+    const Questions::Unsaved unsaved{isModified(project), m_editors.haveChanges(project)};
     if (!unsaved.inProject && !unsaved.inEditors)
         return true;
     const auto choice = m_questions.askBeforeClosing(QString::fromUtf8(project.get_name()), unsaved);
     return choice == Questions::ClosingChoice::Save ? save(project) : choice == Questions::ClosingChoice::Discard;
 }
 
-bool ProjectFiles::may_end()
+bool ProjectFiles::mayEnd()
 {
     const std::vector<Obj::Project*> projects = Obj::Application::get_projects();
     return std::all_of(projects.begin(), projects.end(), [this](Obj::Project* project) { return mayClose(*project); });
@@ -118,9 +118,9 @@ void ProjectFiles::keepCopies()
     m_recovery.keepCopies();
 }
 
-void ProjectFiles::offer_recovery()
+void ProjectFiles::offerRecovery()
 {
     m_recovery.offer();
 }
 
-} // namespace kelta
+} // namespace desktop

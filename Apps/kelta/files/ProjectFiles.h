@@ -13,7 +13,7 @@
 #include <QTimer>
 #include <boost/signals2/connection.hpp>
 
-namespace kelta {
+namespace desktop {
 
 /// The project files of the program, for projects of every class: opens and saves them, asks before something would be
 /// lost, and keeps copies for recovery.
@@ -27,11 +27,11 @@ public:
     ~ProjectFiles() override;
 
     bool open(const QString& path) override;
-    bool may_end() override;
+    bool mayEnd() override;
     void end() override;
-    void offer_recovery() override;
-    QString get_file(const Obj::Project& project) const override;
-    bool is_modified(const Obj::Project& project) const override;
+    void offerRecovery() override;
+    QString getFile(const Obj::Project& project) const override;
+    bool isModified(const Obj::Project& project) const override;
     void contentChanged(Obj::ProjectObject& object) override;
 
     /// Saves a project in its file, or asks for one. Returns false if the user gave up, or if the project could not be
@@ -59,4 +59,4 @@ private:
     boost::signals2::scoped_connection m_projectClosing;
 };
 
-} // namespace kelta
+} // namespace desktop

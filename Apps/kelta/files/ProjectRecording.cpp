@@ -10,7 +10,7 @@
 #include "Obj/Placeholder.h"
 #include "Obj/PropertyRecords.h"
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -43,7 +43,7 @@ projectfile::ObjectRecord recordObject(Obj::ProjectObject& object, const KeptObj
     record.internalName = object.get_name_in_project();
     record.label = object.label.getValue();
     record.suppressed = object.isSuppressed();
-    for (const Obj::ProjectObject* const other : object.get_links())
+    for (const Obj::ProjectObject* const other : object.getLinks())
         record.links.push_back(other->getObjectId());
     record.further = kept.further;
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderObject*>(&object))
@@ -66,7 +66,7 @@ void recordParts(const Obj::Project& project, const KeptMembers& kept, projectfi
 
 projectfile::MaterialOf findMaterialAccess(Kelta::TypeInfo type)
 {
-    for (; type.names_a_type(); type = type.get_parent())
+    for (; type.namesAType(); type = type.getParent())
         if (const projectfile::MaterialOf materialOf = projectfile::findMaterialClass(type.get_name()))
             return materialOf;
     return nullptr;
@@ -96,12 +96,12 @@ projectfile::ProjectRecord recordProject(Obj::Project& project, const KeptMember
     static const KeptObject nothing;
     projectfile::ProjectRecord record;
     record.name = project.get_name();
-    record.nextObjectId = project.get_next_object_id();
+    record.nextObjectId = project.getNextObjectId();
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderProject*>(&project))
         writePlaceholder(*placeholder, record);
     else
         recordParts(project, kept, record);
-    for (Obj::ProjectObject* const object : project.get_objects()) {
+    for (Obj::ProjectObject* const object : project.getObjects()) {
         const auto found = kept.objects.find(object->getObjectId());
         record.objects.push_back(recordObject(*object, found != kept.objects.end() ? found->second : nothing));
     }
@@ -110,4 +110,4 @@ projectfile::ProjectRecord recordProject(Obj::Project& project, const KeptMember
     return record;
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -11,7 +11,7 @@ class Project;
 class ProjectObject;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// Returns the content of a project file for a project of any class. The materials in it are still those of the project.
 /// Throws what the codecs of modules throw.
@@ -30,4 +30,4 @@ Json::Value recordNode(Obj::ProjectObject& object);
 /// Returns the content of an object as the codec of its class writes it; null if there is no codec.
 Json::Value recordContent(const Obj::ProjectObject& object);
 
-} // namespace kelta
+} // namespace desktop

@@ -18,14 +18,14 @@
 #include <set>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
 /// Fills one project, step by step: an object can refer to others only when all are there.
 class Restoring
 {
-    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+    Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
     Restoring(Obj::Project& project, projectfile::ProjectRecord& record, KeptMembers& kept,
@@ -44,7 +44,7 @@ public:
         fillProject();
         for (const auto& [object, entry] : m_objects)
             object->check_input();
-        m_project.skip_object_ids(m_record.nextObjectId);
+        m_project.skipObjectIds(m_record.nextObjectId);
         warnOfMissingClasses();
     }
 
@@ -59,10 +59,10 @@ private:
     Obj::ProjectObject* makeObject(const projectfile::ObjectRecord& entry)
     {
         const Kelta::TypeInfo type = Kelta::TypeInfo::find(entry.className.c_str());
-        if (entry.ownMaterial != nullptr && type.names_a_type() && findMaterialAccess(type) == nullptr)
+        if (entry.ownMaterial != nullptr && type.namesAType() && findMaterialAccess(type) == nullptr)
             refuse(tr(R"(The object "%1" is of the class "%2", which is not a material class.)")
                        .arg(labelOf(entry), classOf(entry)));
-        if (!isPlaceholder() && type.names_a_type())
+        if (!isPlaceholder() && type.namesAType())
             return m_project.add_object(entry.className.c_str(), entry.internalName, entry.objectId);
         m_missingClasses.insert(entry.className);
         return m_project.add_object(std::make_unique<Obj::PlaceholderObject>(entry.className, recordOfObject(entry)),
@@ -208,4 +208,4 @@ void restoreProject(Obj::Project& project, projectfile::ProjectRecord& record, K
     Restoring(project, record, kept, warnings).run();
 }
 
-} // namespace kelta
+} // namespace desktop

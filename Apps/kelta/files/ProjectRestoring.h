@@ -11,7 +11,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// Gives a project that is empty the content of a record, and takes that out of the record. Objects of classes that are
 /// not registered become placeholders. What this program cannot give to the objects is in `kept` afterwards, and told in
@@ -20,4 +20,4 @@ namespace kelta {
 void restoreProject(Obj::Project& project, projectfile::ProjectRecord& record, KeptMembers& kept,
                     std::vector<std::string>& warnings);
 
-} // namespace kelta
+} // namespace desktop

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace kelta {
+namespace desktop {
 
 int Questions::ask(const Question& question, const Choices& choices) const
 {
@@ -90,4 +90,4 @@ Questions::RecoveryChoice Questions::askAboutCopies(const QStringList& times) co
                                                       {tr("Later"), QMessageBox::RejectRole}}));
 }
 
-} // namespace kelta
+} // namespace desktop

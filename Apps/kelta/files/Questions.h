@@ -14,12 +14,12 @@ namespace projectfile {
 class FileLock;
 } // namespace projectfile
 
-namespace kelta {
+namespace desktop {
 
 /// What the files ask and tell the user in message boxes.
 class Questions
 {
-    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+    Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
     /// The boxes are in front of `parent`.
@@ -85,4 +85,4 @@ private:
     QWidget& m_parent;
 };
 
-} // namespace kelta
+} // namespace desktop

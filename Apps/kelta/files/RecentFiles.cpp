@@ -2,7 +2,7 @@
 
 #include <QSettings>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -36,4 +36,4 @@ void RecentFiles::remove(const QString& path)
         store(files);
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace kelta {
+namespace desktop {
 
 /// The project files last used, which the settings of the user keep.
 class RecentFiles
@@ -15,4 +15,4 @@ public:
     static void remove(const QString& path);
 };
 
-} // namespace kelta
+} // namespace desktop

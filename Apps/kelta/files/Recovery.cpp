@@ -17,7 +17,7 @@
 #include <memory>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 void Recovery::keepCopies()
 {
@@ -90,8 +90,8 @@ bool Recovery::recoverProject(RecoveryCopy& copy)
     m_sessions.noteOpened(*project);
     // The old copy is destroyed only if there is a new one.
     keepCopies();
-    m_mainWindow.update_commands();
+    m_mainWindow.updateCommands();
     return !session.isCopyDue;
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -10,7 +10,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 class Opening;
 class Questions;
@@ -21,7 +21,7 @@ struct Session;
 /// Keeps copies of projects that have changes, and offers those that a program left which ended without saving.
 class Recovery
 {
-    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+    Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
     Recovery(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions, Opening& opening)
@@ -44,4 +44,4 @@ private:
     Opening& m_opening;
 };
 
-} // namespace kelta
+} // namespace desktop

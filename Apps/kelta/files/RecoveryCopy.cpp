@@ -6,7 +6,7 @@
 #include <QStandardPaths>
 #include <QUuid>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -66,4 +66,4 @@ void RecoveryCopy::remove()
     m_lock = projectfile::FileLock(m_path);
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace kelta {
+namespace desktop {
 
 /// A copy of a project with changes, kept beside the user's settings until the project is saved. While the program that
 /// made it runs, a lock keeps other programs away.
@@ -42,4 +42,4 @@ private:
     projectfile::FileLock m_lock;
 };
 
-} // namespace kelta
+} // namespace desktop

@@ -18,7 +18,7 @@
 #include <exception>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 bool Saving::save(Obj::Project& project)
 {
@@ -54,7 +54,7 @@ bool Saving::saveTo(Obj::Project& project, const QString& path)
     m_sessions.noteSaved(project);
     RecentFiles::add(session.path);
     m_mainWindow.statusBar()->showMessage(tr("\"%1\" has been saved.").arg(shownPath(session.path)), 5000);
-    m_mainWindow.update_commands();
+    m_mainWindow.updateCommands();
     return true;
 }
 
@@ -97,4 +97,4 @@ bool Saving::mayReplace(const Session& session, const QString& path) const
                                                             : Difference::ChangedByAnotherProgram);
 }
 
-} // namespace kelta
+} // namespace desktop

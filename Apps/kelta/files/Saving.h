@@ -10,7 +10,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 class Editors;
 class Questions;
@@ -20,7 +20,7 @@ struct Session;
 /// Saves projects of every class.
 class Saving
 {
-    Q_DECLARE_TR_FUNCTIONS(kelta::ProjectFiles)
+    Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
     Saving(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions, const Editors& editors)
@@ -46,4 +46,4 @@ private:
     const Editors& m_editors;
 };
 
-} // namespace kelta
+} // namespace desktop

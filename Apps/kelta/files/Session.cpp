@@ -13,7 +13,7 @@
 
 #include <functional>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -38,9 +38,9 @@ Look Look::of(Obj::ProjectObject& object)
 {
     Look look;
     look.suppressed = object.isSuppressed();
-    if (const Obj::ProjectObjectGroup* const group = object.get_parent_group())
+    if (const Obj::ProjectObjectGroup* const group = object.getParentGroup())
         look.group = group->getObjectId();
-    for (const Obj::ProjectObject* const other : object.get_links())
+    for (const Obj::ProjectObject* const other : object.getLinks())
         look.links.push_back(other->getObjectId());
     look.node = recordNode(object);
     look.content = hashOfContent(object);
@@ -63,7 +63,7 @@ void Session::takeLock()
     try {
         lock.emplace(path);
         if (!lock->tryLock() && !lock->holder().isEmpty())
-            Kelta::MessageLog::warning(QCoreApplication::translate("kelta::ProjectFiles", "\"%1\" is in use by %2.")
+            Kelta::MessageLog::warning(QCoreApplication::translate("desktop::ProjectFiles", "\"%1\" is in use by %2.")
                                            .arg(shownPath(path), lock->holder()));
     } catch (const projectfile::StoreError& error) {
         Kelta::MessageLog::warning(QString::fromUtf8(error.what()));
@@ -78,4 +78,4 @@ void Session::forgetCopy()
     copy.reset();
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -22,7 +22,7 @@ namespace Obj {
 class ProjectObject;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// What a project file has of an object beside its label, properties and material. The signals of a project do not say
 /// whether this has changed, or the state, which is not a part of the file.
@@ -67,4 +67,4 @@ struct Session
     void forgetCopy();
 };
 
-} // namespace kelta
+} // namespace desktop

@@ -10,7 +10,7 @@
 
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 Sessions::Sessions()
 {
@@ -62,7 +62,7 @@ void Sessions::add(Obj::Project& project)
     if (!session.path.isEmpty() && !session.lock)
         session.takeLock();
     if (m_fillings == 0)
-        for (Obj::ProjectObject* const object : project.get_objects())
+        for (Obj::ProjectObject* const object : project.getObjects())
             session.looks[object->getObjectId()] = Look::of(*object);
     if (session.connections.empty())
         watch(project, session);
@@ -93,7 +93,7 @@ void Sessions::noteOpened(Obj::Project& project)
 {
     Session& session = *find(project);
     session.isCopyDue = session.isModified;
-    for (Obj::ProjectObject* const object : project.get_objects())
+    for (Obj::ProjectObject* const object : project.getObjects())
         session.looks[object->getObjectId()] = Look::of(*object);
     // The present history ends with the command that opens the file, if there is any.
     const bool historyEnds = vxMsg::MessageProxy::instance().undoStack().count() != 0;
@@ -187,4 +187,4 @@ void Sessions::reconsider(Session& session, Obj::Project& project)
     session.forgetCopy();
 }
 
-} // namespace kelta
+} // namespace desktop

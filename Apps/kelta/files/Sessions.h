@@ -13,7 +13,7 @@ class Project;
 class Property;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// The sessions of all projects that are open, and of closed ones as long as undo can bring them back. Notices changes of
 /// projects.
@@ -74,4 +74,4 @@ private:
     std::vector<boost::signals2::scoped_connection> m_connections;
 };
 
-} // namespace kelta
+} // namespace desktop

@@ -16,7 +16,7 @@
 #include <memory>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -72,7 +72,7 @@ private:
 
 EditorWatch::EditorWatch(Gui::MainWindow& mainWindow) : QObject(&mainWindow), m_kept(new KeptEdits(this))
 {
-    connect(&mainWindow, &Gui::MainWindow::mdi_window_added, this, &EditorWatch::watch);
+    connect(&mainWindow, &Gui::MainWindow::mdiWindowAdded, this, &EditorWatch::watch);
 }
 
 EditorWatch::~EditorWatch() = default;
@@ -83,4 +83,4 @@ void EditorWatch::watch(Gui::MDIWindow* window)
         new EditorRecorder(*editor, *m_kept); // the editor owns it
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -7,7 +7,7 @@ class MDIWindow;
 class MainWindow;
 } // namespace Gui
 
-namespace kelta {
+namespace desktop {
 
 class KeptEdits;
 
@@ -31,4 +31,4 @@ private:
     KeptEdits* m_kept; ///< a child of this object
 };
 
-} // namespace kelta
+} // namespace desktop

@@ -9,7 +9,7 @@
 
 #include <QTimer>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -20,8 +20,8 @@ MatGui::MaterialView* openEditor(Obj::ProjectObject& object)
     if (node == nullptr)
         return nullptr;
     node->setEdit(0);
-    for (Gui::MDIWindow* const window : Gui::MainWindow::get_main_window_inst()->get_mdi_windows())
-        if (window->get_edited_object() == &object)
+    for (Gui::MDIWindow* const window : Gui::MainWindow::get_main_window_inst()->getMdiWindows())
+        if (window->getEditedObject() == &object)
             return qobject_cast<MatGui::MaterialView*>(window);
     return nullptr;
 }
@@ -63,4 +63,4 @@ void KeptEdits::bringBack(const Place& place)
     });
 }
 
-} // namespace kelta
+} // namespace desktop

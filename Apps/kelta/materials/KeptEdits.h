@@ -12,7 +12,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// Keeps edits that are not applied when their material is removed, which closes its editor: by undo, redo or deletion. If
 /// the same material comes back into its project, its editor is opened again and shows the edits.
@@ -37,4 +37,4 @@ private:
     std::map<std::uint32_t, boost::signals2::scoped_connection> m_connections; ///< to the projects, by their ids
 };
 
-} // namespace kelta
+} // namespace desktop

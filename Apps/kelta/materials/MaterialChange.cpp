@@ -15,7 +15,7 @@
 #include <cmath>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -45,8 +45,8 @@ void reopenEditor(Mat::MaterialObject& object)
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (mainWindow == nullptr)
         return;
-    for (Gui::MDIWindow* const window : mainWindow->get_mdi_windows()) {
-        if (window->get_edited_object() != &object || window->isWindowModified())
+    for (Gui::MDIWindow* const window : mainWindow->getMdiWindows()) {
+        if (window->getEditedObject() != &object || window->isWindowModified())
             continue;
         Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
         const bool wasInFront = inFront == window;
@@ -63,7 +63,7 @@ class MaterialChange final : public QUndoCommand
 {
 public:
     MaterialChange(const Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before)
-        : QUndoCommand(QCoreApplication::translate("kelta::MaterialChange", "Change \"%1\"")
+        : QUndoCommand(QCoreApplication::translate("desktop::MaterialChange", "Change \"%1\"")
                            .arg(QString::fromStdString(object.label.getValue()))),
           m_projectId(object.get_project()->getProjectId()),
           m_objectId(object.getObjectId()),
@@ -130,4 +130,4 @@ bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial>
     return true;
 }
 
-} // namespace kelta
+} // namespace desktop

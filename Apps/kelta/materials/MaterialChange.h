@@ -9,7 +9,7 @@ namespace Mat {
 class MaterialObject;
 } // namespace Mat
 
-namespace kelta {
+namespace desktop {
 
 /// A copy of a material with every field, the library group and the keys of its properties included.
 std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
@@ -26,4 +26,4 @@ Obj::Signal<void(Mat::MaterialObject&)>& materialChanged();
 /// looked at anew. False when nothing has changed; there is then no step.
 bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before);
 
-} // namespace kelta
+} // namespace desktop

@@ -11,7 +11,7 @@
 
 #include <vector>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -19,7 +19,7 @@ constexpr std::size_t mostReported = 1000;
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::MaterialCheck", text);
+    return QCoreApplication::translate("desktop::MaterialCheck", text);
 }
 
 /// Checks one material and writes its findings to the message log, as long as there are not too many.
@@ -60,4 +60,4 @@ CheckSummary checkAndReport(const Mat::DocumentMaterial& project)
     return summary;
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -8,7 +8,7 @@ namespace Mat {
 class DocumentMaterial;
 } // namespace Mat
 
-namespace kelta {
+namespace desktop {
 
 /// What a check of all materials of a project has found.
 struct CheckSummary
@@ -26,4 +26,4 @@ struct CheckSummary
 /// the message log as a warning; after the first 1000 findings only a line that says that there are more.
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project);
 
-} // namespace kelta
+} // namespace desktop

@@ -11,7 +11,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -27,7 +27,7 @@ void checkMaterials()
     Gui::MainWindow::announce(summary.toText(QString::fromUtf8(project.get_name())),
                               summary.isReady() ? Severity::Information : Severity::Warning);
     if (!summary.isReady())
-        Gui::MainWindow::get_main_window_inst()->show_messages();
+        Gui::MainWindow::get_main_window_inst()->showMessages();
 }
 
 void addMaterialCommands(Gui::CommandController& commands)
@@ -36,7 +36,7 @@ void addMaterialCommands(Gui::CommandController& commands)
         commands, commandContext,
         {{"Mat_Check", QT_TRANSLATE_NOOP("MaterialCommand", "&Check materials"),
           QT_TRANSLATE_NOOP("MaterialCommand", "Check whether all materials of the project are ready"), "", Qt::Key_F7,
-          Gui::CommandType::None, checkMaterials, [] { return currentMaterialProject() != nullptr; }}});
+          Gui::CommandType::none, checkMaterials, [] { return currentMaterialProject() != nullptr; }}});
 }
 
 void addToBars(Gui::Contributions& contributions)
@@ -80,7 +80,7 @@ void addWelcome(Gui::Contributions& contributions)
          {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "Double-click a material in the project explorer, or "
                                                                "select one and choose Edit.")},
          {"Mat_Edit"},
-         [] { return Gui::TreeSelectionSingleton::instance().get_count() != 0; }});
+         [] { return Gui::TreeSelectionSingleton::instance().getCount() != 0; }});
 }
 
 } // namespace
@@ -99,4 +99,4 @@ void registerMaterialContributions(Gui::GuiApplication& application)
         {workbenchClass, {"Workbench", QT_TRANSLATE_NOOP("Workbench", "Material")}, projectClass});
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -4,11 +4,11 @@ namespace Gui {
 class GuiApplication;
 } // namespace Gui
 
-namespace kelta {
+namespace desktop {
 
 /// Adds to the window what belongs to materials: the command "Mat_Check", the material commands in the menus, toolbars
 /// and the tree, what the welcome page says, a paragraph of the About box, and the workbench. Safe to call more than
 /// once.
 void registerMaterialContributions(Gui::GuiApplication& application);
 
-} // namespace kelta
+} // namespace desktop

@@ -19,13 +19,13 @@
 #include <exception>
 #include <vector>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::MaterialExport", text);
+    return QCoreApplication::translate("desktop::MaterialExport", text);
 }
 
 QString labelOf(const Obj::ProjectObject& object)
@@ -43,8 +43,8 @@ std::vector<const Mat::MaterialObject*> materialsOf(const Mat::DocumentMaterial&
 
 bool travels(const vxMat::MaterialProperty& property)
 {
-    const vxMat::eValueKind kind = vxMat::getValueKind(property.id);
-    const bool isNumber = kind == vxMat::eValueKind::Number || kind == vxMat::eValueKind::ModelSwitch;
+    const vxMat::ValueKind kind = vxMat::getValueKind(property.id);
+    const bool isNumber = kind == vxMat::ValueKind::Number || kind == vxMat::ValueKind::ModelSwitch;
     return isNumber && property.text.empty() && property.values.empty();
 }
 
@@ -117,4 +117,4 @@ void reportExport(const Mat::DocumentMaterial& project, const QString& path)
     }
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -11,7 +11,7 @@ namespace vxMat {
 class MaterialBase;
 } // namespace vxMat
 
-namespace kelta {
+namespace desktop {
 
 /// Returns the names of the properties of which an exchange document carries no value, in the order of the catalogue:
 /// words and lists. Units and descriptions, which the catalogue knows, do not count.
@@ -29,4 +29,4 @@ QString findWriteObstacle(const QString& path);
 /// many of them are suppressed, and for each material the values that the document does not carry. Tells an error if the file is not a whole document.
 void reportExport(const Mat::DocumentMaterial& project, const QString& path);
 
-} // namespace kelta
+} // namespace desktop

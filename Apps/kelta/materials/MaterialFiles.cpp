@@ -11,7 +11,7 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -54,4 +54,4 @@ void registerMaterialFiles()
     materialChanged().connect(tellFiles);
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -17,7 +17,7 @@
 
 #include <algorithm>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -28,7 +28,7 @@ constexpr std::ptrdiff_t mostAtOnce = 100;
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::MaterialGuards", text);
+    return QCoreApplication::translate("desktop::MaterialGuards", text);
 }
 
 int showBox(QMessageBox::Icon icon, const QString& title, const QString& text, QMessageBox::StandardButtons buttons)
@@ -94,7 +94,7 @@ QString findObstacle()
 void exportTo(const QString& path, const Mat::DocumentMaterial& project, const Run& run)
 {
     const std::uint32_t projectId = project.getProjectId();
-    Gui::FileDialog::answer_next(path);
+    Gui::FileDialog::answerNext(path);
     run();
     if (const Obj::Project* const exported = Obj::Application::instance().get_project(projectId))
         reportExport(static_cast<const Mat::DocumentMaterial&>(*exported), path);
@@ -122,9 +122,9 @@ void guardExport(const Run& run)
 
 bool isOpenInEditor(const Obj::ProjectObject* object)
 {
-    const auto windows = Gui::MainWindow::get_main_window_inst()->get_mdi_windows();
+    const auto windows = Gui::MainWindow::get_main_window_inst()->getMdiWindows();
     return std::any_of(windows.begin(), windows.end(),
-                       [object](const Gui::MDIWindow* window) { return window->get_edited_object() == object; });
+                       [object](const Gui::MDIWindow* window) { return window->getEditedObject() == object; });
 }
 
 /// The number of editors that the command would open.
@@ -159,4 +159,4 @@ void addMaterialGuards(Gui::CommandController& commands)
     commands.addGuard("Mat_Edit", guardEdit);
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -4,7 +4,7 @@ namespace Gui {
 class CommandController;
 } // namespace Gui
 
-namespace kelta {
+namespace desktop {
 
 /// Puts the application's questions and reports around commands of the materials module, which asks and reports nothing:
 /// - "Mat_NewDoc" asks to close the open material project first, since only one can be used at a time.
@@ -14,4 +14,4 @@ namespace kelta {
 /// To be called once, after the commands are registered.
 void addMaterialGuards(Gui::CommandController& commands);
 
-} // namespace kelta
+} // namespace desktop

@@ -14,7 +14,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path)
 {
@@ -25,13 +25,13 @@ ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path
         throw std::runtime_error(path.toStdString() + ": " + error.what());
     }
     constexpr std::uint64_t lastNumber = std::numeric_limits<std::uint32_t>::max();
-    if (project.get_next_object_id() + imported.materials.size() > lastNumber + 1)
-        throw std::runtime_error(
-            QCoreApplication::translate("kelta::ProjectFiles", "The project has no numbers left for so many materials.")
-                .toStdString());
+    if (project.getNextObjectId() + imported.materials.size() > lastNumber + 1)
+        throw std::runtime_error(QCoreApplication::translate("desktop::ProjectFiles",
+                                                             "The project has no numbers left for so many materials.")
+                                     .toStdString());
     ImportOutcome outcome;
     const vxMsg::MessageProxy::Group group(
-        QCoreApplication::translate("kelta::ProjectFiles", "Import \"%1\"").arg(QFileInfo(path).fileName()));
+        QCoreApplication::translate("desktop::ProjectFiles", "Import \"%1\"").arg(QFileInfo(path).fileName()));
     for (projectfile::ImportedMaterial& entry : imported.materials) {
         auto* const object =
             static_cast<Mat::MaterialObject*>(project.add_object("Mat::MaterialObject", entry.label.c_str()));
@@ -46,4 +46,4 @@ ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path
     return outcome;
 }
 
-} // namespace kelta
+} // namespace desktop

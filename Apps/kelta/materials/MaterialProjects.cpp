@@ -3,7 +3,7 @@
 #include "Obj/Application.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 
-namespace kelta {
+namespace desktop {
 
 std::vector<Mat::DocumentMaterial*> materialProjects()
 {
@@ -20,4 +20,4 @@ Mat::DocumentMaterial* currentMaterialProject()
     return dynamic_cast<Mat::DocumentMaterial*>(Obj::Application::get_current_project());
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -6,7 +6,7 @@ namespace Mat {
 class DocumentMaterial;
 } // namespace Mat
 
-namespace kelta {
+namespace desktop {
 
 /// The material projects that are open. The application keeps them.
 std::vector<Mat::DocumentMaterial*> materialProjects();
@@ -14,4 +14,4 @@ std::vector<Mat::DocumentMaterial*> materialProjects();
 /// The current project, if it is a material project; null otherwise.
 Mat::DocumentMaterial* currentMaterialProject();
 
-} // namespace kelta
+} // namespace desktop

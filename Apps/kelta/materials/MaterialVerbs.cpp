@@ -23,7 +23,7 @@
 #include <memory>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -31,7 +31,7 @@ using Failure = std::optional<QString>;
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::Batch", text);
+    return QCoreApplication::translate("desktop::Batch", text);
 }
 
 /// The first material project; null if there is none.
@@ -145,10 +145,10 @@ Failure checkMaterials(const QStringList& arguments)
 /// Runs a command as a line of a list does. A command that asks for a file gets `file`.
 Failure runCommand(const char* name, const QString& file)
 {
-    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().find_command(name);
+    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().findCommand(name);
     if (command == nullptr || !command->is_applicable())
         return tr("%1 cannot be done now").arg(QLatin1String(name));
-    Gui::FileDialog::answer_next(file);
+    Gui::FileDialog::answerNext(file);
     return command->invoke() ? Failure() : Failure(tr("%1 failed").arg(QLatin1String(name)));
 }
 
@@ -203,16 +203,16 @@ Failure printCards(const QStringList&)
 
 void registerMaterialVerbs()
 {
-    Batch::register_verb(QStringLiteral("use"), useLibraryMaterial);
-    Batch::register_verb(QStringLiteral("set"), setNamedQuantity);
-    Batch::register_verb(QStringLiteral("clear"), clearMaterial);
-    Batch::register_verb(QStringLiteral("check"), checkMaterials);
+    Batch::registerVerb(QStringLiteral("use"), useLibraryMaterial);
+    Batch::registerVerb(QStringLiteral("set"), setNamedQuantity);
+    Batch::registerVerb(QStringLiteral("clear"), clearMaterial);
+    Batch::registerVerb(QStringLiteral("check"), checkMaterials);
     // In place of the commands of the same names, which ask the user what a list must say.
-    Batch::register_verb(QStringLiteral("Mat_Check"), checkMaterials);
-    Batch::register_verb(QStringLiteral("Mat_NewDoc"), makeProject);
-    Batch::register_verb(QStringLiteral("Mat_Export"), exportMaterials);
-    Batch::register_verb(QStringLiteral("collect"), collectMaterials);
-    Batch::register_verb(QStringLiteral("cards"), printCards);
+    Batch::registerVerb(QStringLiteral("Mat_Check"), checkMaterials);
+    Batch::registerVerb(QStringLiteral("Mat_NewDoc"), makeProject);
+    Batch::registerVerb(QStringLiteral("Mat_Export"), exportMaterials);
+    Batch::registerVerb(QStringLiteral("collect"), collectMaterials);
+    Batch::registerVerb(QStringLiteral("cards"), printCards);
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -26,8 +26,8 @@ void fillNewMaterial(Obj::ProjectObject& object)
 /// What the user sees of materials in the window.
 void addToWindows(Gui::GuiApplication& application)
 {
-    kelta::registerMaterialContributions(application);
-    kelta::addMaterialGuards(application.get_command_manager());
+    desktop::registerMaterialContributions(application);
+    desktop::addMaterialGuards(application.get_command_manager());
 }
 
 } // namespace
@@ -41,12 +41,12 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         return;
     Kelta::guarded(QStringLiteral("initKeltaMaterials"), [] {
         Mat::registerRequests();
-        kelta::registerMaterialFiles();
-        kelta::registerMaterialVerbs();
+        desktop::registerMaterialFiles();
+        desktop::registerMaterialVerbs();
         if (Gui::GuiApplication::Instance != nullptr)
             addToWindows(*Gui::GuiApplication::Instance);
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
-            new kelta::EditorWatch(*mainWindow); // the main window owns it
+            new desktop::EditorWatch(*mainWindow); // the main window owns it
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
     });
 }

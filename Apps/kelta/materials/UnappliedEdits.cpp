@@ -12,19 +12,19 @@
 
 #include <algorithm>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::UnappliedEdits", text);
+    return QCoreApplication::translate("desktop::UnappliedEdits", text);
 }
 
 /// Asks about one editor; returns Apply, Discard for continuing without the edits, or Cancel.
 int ask(const Gui::MDIWindow& editor, const UnappliedQuestion& question)
 {
-    const QString name = QString::fromStdString(editor.get_edited_object()->label.getValue());
+    const QString name = QString::fromStdString(editor.getEditedObject()->label.getValue());
     QMessageBox box(QMessageBox::Question, question.title,
                     tr("The changes of \"%1\" in its editor have not been applied.").arg(name),
                     QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel,
@@ -64,8 +64,8 @@ std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Obj::Project& project)
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (mainWindow == nullptr)
         return editors;
-    for (Gui::MDIWindow* const window : mainWindow->get_mdi_windows()) {
-        const Obj::ProjectObject* const object = window->get_edited_object();
+    for (Gui::MDIWindow* const window : mainWindow->getMdiWindows()) {
+        const Obj::ProjectObject* const object = window->getEditedObject();
         if (object == nullptr || object->get_project() != &project)
             continue;
         window->finishEditing();
@@ -82,4 +82,4 @@ bool askToApply(const Obj::Project& project, const UnappliedQuestion& question)
                        [&question](const auto& editor) { return mayContinue(editor, question); });
 }
 
-} // namespace kelta
+} // namespace desktop

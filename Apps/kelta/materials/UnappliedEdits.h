@@ -13,7 +13,7 @@ namespace Obj {
 class Project;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// Returns the editors of a project's objects that have edits which are not applied, typed text included; none without a
 /// main window. Ends edits in progress.
@@ -31,4 +31,4 @@ struct UnappliedQuestion
 /// the user stops, or if an editor refuses to apply its edits, after it has told the user the reason.
 bool askToApply(const Obj::Project& project, const UnappliedQuestion& question);
 
-} // namespace kelta
+} // namespace desktop

@@ -18,7 +18,7 @@
 #include <memory>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 void startFiles(Gui::MainWindow& window)
 {
@@ -26,7 +26,7 @@ void startFiles(Gui::MainWindow& window)
     addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
     window.setAcceptDrops(true);
     window.installEventFilter(new FileDrops(*files, window)); // the window owns it
-    FileService::set_instance(std::move(files));
+    FileService::setInstance(std::move(files));
 }
 
 bool loadModules(Gui::MainWindow& window)
@@ -38,7 +38,7 @@ bool loadModules(Gui::MainWindow& window)
                                      .arg(Kelta::PluginLoader::standardFolders().join(QStringLiteral(", "))));
     const auto& workbenches = Gui::GuiApplication::Instance->contributions().workbenches();
     const bool hasWorkbench =
-        window.set_workbench(workbenches.empty() ? "Gui::StdSimModule" : workbenches.front().className.c_str());
+        window.setWorkbench(workbenches.empty() ? "Gui::StdSimModule" : workbenches.front().className.c_str());
     return hasWorkbench && !modules.loaded.isEmpty() && modules.failed.empty();
 }
 
@@ -46,10 +46,10 @@ void shutDown()
 {
     if (FileService* const files = FileService::instance())
         files->end();
-    FileService::set_instance(nullptr);
+    FileService::setInstance(nullptr);
     vxMsg::MessageProxy::instance().undoStack().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     Gui::Translator::instance()->clear();
 }
 
-} // namespace kelta
+} // namespace desktop

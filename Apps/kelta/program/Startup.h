@@ -4,7 +4,7 @@ namespace Gui {
 class MainWindow;
 } // namespace Gui
 
-namespace kelta {
+namespace desktop {
 
 /// Gives the program its project files: the commands, drops on the window, recovery. To be called once, before modules
 /// are loaded.
@@ -17,4 +17,4 @@ bool loadModules(Gui::MainWindow& window);
 /// Destroys all that modules have made, while the modules are still there.
 void shutDown();
 
-} // namespace kelta
+} // namespace desktop

@@ -79,7 +79,7 @@ int runAlone(Gui::MainWindow& window, const Options& options)
 {
     int status = 0;
     if (!options.batch.empty())
-        status = kelta::Batch::run_file(QString::fromStdString(options.batch));
+        status = desktop::Batch::runFile(QString::fromStdString(options.batch));
     if (status == 0 && !options.screenshot.empty())
         status = saveScreenshot(window, options.screenshot);
     return status;
@@ -87,15 +87,15 @@ int runAlone(Gui::MainWindow& window, const Options& options)
 
 void askBeforeClosing(const Gui::MainWindow& window, bool& refused)
 {
-    refused = !kelta::FileService::instance()->may_end();
+    refused = !desktop::FileService::instance()->mayEnd();
     if (!refused)
-        window.save_layout();
+        window.saveLayout();
 }
 
 /// Returns the name of a project in the title: that of its file, if it has one.
 QString nameOf(const Obj::Project& project)
 {
-    const QString file = kelta::FileService::instance()->get_file(project);
+    const QString file = desktop::FileService::instance()->getFile(project);
     return file.isEmpty() ? QString::fromUtf8(project.get_name()) : QFileInfo(file).fileName();
 }
 
@@ -110,14 +110,14 @@ void updateTitle(Gui::MainWindow& window)
         parts << nameOf(*project) + QStringLiteral("[*]");
     parts << QCoreApplication::applicationName();
     window.setWindowTitle(parts.join(QStringLiteral(" - ")));
-    window.setWindowModified(project != nullptr && kelta::FileService::instance()->is_modified(*project));
+    window.setWindowModified(project != nullptr && desktop::FileService::instance()->isModified(*project));
 }
 
 /// Opens the files that the program was started with, after the copies for recovery of earlier runs.
 void openFiles(const std::vector<std::string>& paths)
 {
-    kelta::FileService& files = *kelta::FileService::instance();
-    files.offer_recovery();
+    desktop::FileService& files = *desktop::FileService::instance();
+    files.offerRecovery();
     for (const std::string& path : paths)
         files.open(QFile::decodeName(path.c_str()));
 }
@@ -126,7 +126,7 @@ void openFiles(const std::vector<std::string>& paths)
 bool openFilesAlone(const std::vector<std::string>& paths)
 {
     for (const std::string& path : paths) {
-        const auto failure = kelta::Batch::run_command(QStringLiteral("Std_Open"), {QFile::decodeName(path.c_str())});
+        const auto failure = desktop::Batch::runCommand(QStringLiteral("Std_Open"), {QFile::decodeName(path.c_str())});
         if (failure)
             QTextStream(stderr) << "kelta: " << *failure << '\n';
         if (failure)
@@ -169,16 +169,16 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     int status = 0;
     {
         Gui::MainWindow window;
-        kelta::startFiles(window);
+        desktop::startFiles(window);
         QObject::connect(&window, &Gui::MainWindow::updated, [&window] { updateTitle(window); });
-        const bool loaded = kelta::loadModules(window);
+        const bool loaded = desktop::loadModules(window);
         QObject::connect(&window, &Gui::MainWindow::closing,
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
-            window.restore_layout();
+            window.restoreLayout();
         // The reason is in a dock that may have been hidden the last time.
         if (!loaded)
-            window.show_messages();
+            window.showMessages();
         window.show();
         if (runsAlone(options)) {
             status = openFilesAlone(options.files) ? runAlone(window, options) : 2;
@@ -191,7 +191,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
         if (runsAlone(options) && !loaded && status == 0)
             status = 1;
     }
-    kelta::shutDown();
+    desktop::shutDown();
     return status;
 }
 

@@ -21,7 +21,7 @@
 
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -33,7 +33,7 @@ QTextStream& standardError()
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::Batch", text);
+    return QCoreApplication::translate("desktop::Batch", text);
 }
 
 /// Answers message boxes while it lives, since nobody else would.
@@ -81,13 +81,13 @@ std::optional<QString> selectLabels(const QStringList& labels)
     for (const QString& label : labels) {
         const std::size_t before = objects.size();
         if (project != nullptr)
-            for (Obj::ProjectObject* const object : project->get_objects())
+            for (Obj::ProjectObject* const object : project->getObjects())
                 if (object->label.getValue() == label.toStdString())
                     objects.push_back(object);
         if (objects.size() == before)
             return tr("nothing in the current project is labelled \"%1\"").arg(label);
     }
-    Gui::TreeSelectionSingleton::instance().set_selection({}, objects);
+    Gui::TreeSelectionSingleton::instance().setSelection({}, objects);
     return std::nullopt;
 }
 
@@ -98,7 +98,7 @@ std::optional<QString> selectProject(const QStringList& arguments)
                                       : Obj::Application::get_current_project();
     if (project == nullptr)
         return tr("there is no such project");
-    Gui::TreeSelectionSingleton::instance().set_selection({project}, {});
+    Gui::TreeSelectionSingleton::instance().setSelection({project}, {});
     return std::nullopt;
 }
 
@@ -120,7 +120,7 @@ std::optional<QString> takeScreenshot(const QStringList& arguments)
     if (arguments.size() != 1 || window == nullptr)
         return tr("one file name is needed");
     QCoreApplication::processEvents();
-    window->update_commands();
+    window->updateCommands();
     QCoreApplication::processEvents();
     if (!window->grab().save(arguments[0], "PNG"))
         return tr("%1 cannot be written").arg(arguments[0]);
@@ -163,7 +163,7 @@ std::optional<QString> guarded(const std::function<std::optional<QString>()>& ru
 
 } // namespace
 
-void Batch::register_verb(const QString& name, Verb verb)
+void Batch::registerVerb(const QString& name, Verb verb)
 {
     verbs()[name] = std::move(verb);
 }
@@ -182,7 +182,7 @@ int Batch::run(const QString& text, const QString& fileName)
     return 0;
 }
 
-int Batch::run_file(const QString& path)
+int Batch::runFile(const QString& path)
 {
     QFile file(path);
     const bool opened = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
@@ -202,15 +202,15 @@ std::optional<QString> Batch::runLine(const QString& line)
     if (words.isEmpty() || line.trimmed().startsWith(QLatin1Char('#')))
         return std::nullopt;
     const QString name = words.takeFirst();
-    return run_command(name, words);
+    return runCommand(name, words);
 }
 
-std::optional<QString> Batch::run_command(const QString& name, const QStringList& arguments)
+std::optional<QString> Batch::runCommand(const QString& name, const QStringList& arguments)
 {
     const BoxAnswers boxes;
     const std::size_t errorsBefore = Kelta::MessageLog::instance().errorCount();
     const auto verb = verbs().find(name);
-    std::optional<QString> failure = verb != verbs().end() ? verb->second(arguments) : runCommand(name, arguments);
+    std::optional<QString> failure = verb != verbs().end() ? verb->second(arguments) : runOther(name, arguments);
     QCoreApplication::processEvents();
     // Windows that were closed go only now: no event loop runs.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -221,9 +221,9 @@ std::optional<QString> Batch::run_command(const QString& name, const QStringList
     return failure;
 }
 
-std::optional<QString> Batch::runCommand(const QString& name, const QStringList& arguments)
+std::optional<QString> Batch::runOther(const QString& name, const QStringList& arguments)
 {
-    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().find_command(name.toStdString());
+    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().findCommand(name.toStdString());
     if (command == nullptr)
         return tr("there is no command \"%1\"").arg(name);
     if (arguments.size() > 1)
@@ -231,8 +231,8 @@ std::optional<QString> Batch::runCommand(const QString& name, const QStringList&
     if (!command->is_applicable())
         return tr("%1 cannot be done now").arg(name);
     // Without an argument a command that asks for a file gets the answer that none was chosen.
-    Gui::FileDialog::answer_next(arguments.value(0));
+    Gui::FileDialog::answerNext(arguments.value(0));
     return command->invoke() ? std::nullopt : std::optional(tr("%1 failed").arg(name));
 }
 
-} // namespace kelta
+} // namespace desktop

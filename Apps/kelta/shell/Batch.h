@@ -9,7 +9,7 @@
 #include <map>
 #include <optional>
 
-namespace kelta {
+namespace desktop {
 
 /// Runs lists of commands in the application, one a line, as a user would give them one after the other.
 ///
@@ -27,19 +27,19 @@ public:
     using Verb = std::function<std::optional<QString>(const QStringList& arguments)>;
 
     /// Adds a verb; one of the same name is replaced.
-    static void register_verb(const QString& name, Verb verb);
+    static void registerVerb(const QString& name, Verb verb);
 
     /// Runs the commands of a text that was read from `fileName`. Stops at the first line that fails and writes
     /// "FILE:LINE: what is wrong" to standard error. Answers the exit status: 0 when all ran, 1 otherwise.
     static int run(const QString& text, const QString& fileName);
     /// Likewise for a file, or standard input for "-"; 2 when it cannot be read.
-    static int run_file(const QString& path);
+    static int runFile(const QString& path);
     /// Runs one command or verb as a line of a list does. Answers what went wrong, absent when nothing did.
-    static std::optional<QString> run_command(const QString& name, const QStringList& arguments);
+    static std::optional<QString> runCommand(const QString& name, const QStringList& arguments);
 
 private:
     static std::optional<QString> runLine(const QString& line);
-    static std::optional<QString> runCommand(const QString& name, const QStringList& arguments);
+    static std::optional<QString> runOther(const QString& name, const QStringList& arguments);
 };
 
-} // namespace kelta
+} // namespace desktop

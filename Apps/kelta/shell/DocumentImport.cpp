@@ -5,7 +5,7 @@
 #include <map>
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -24,10 +24,10 @@ void registerDocumentImport(const std::string& projectClass, DocumentImport impo
 
 const DocumentImport* findDocumentImport(const Obj::Project& project)
 {
-    for (Kelta::TypeInfo type = project.getTypeId(); type.names_a_type(); type = type.get_parent())
+    for (Kelta::TypeInfo type = project.getTypeId(); type.namesAType(); type = type.getParent())
         if (const auto found = imports().find(type.get_name()); found != imports().end())
             return &found->second;
     return nullptr;
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -13,7 +13,7 @@ class Project;
 class ProjectObject;
 } // namespace Obj
 
-namespace kelta {
+namespace desktop {
 
 /// The objects that a project has got from a document.
 struct ImportOutcome
@@ -33,4 +33,4 @@ KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, 
 /// Returns the import for a project; null if its class has none.
 KELTA_SHELL_EXPORT const DocumentImport* findDocumentImport(const Obj::Project& project);
 
-} // namespace kelta
+} // namespace desktop

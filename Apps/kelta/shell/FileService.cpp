@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
@@ -21,9 +21,9 @@ FileService* FileService::instance()
     return theService().get();
 }
 
-void FileService::set_instance(std::unique_ptr<FileService> service)
+void FileService::setInstance(std::unique_ptr<FileService> service)
 {
     theService() = std::move(service);
 }
 
-} // namespace kelta
+} // namespace desktop

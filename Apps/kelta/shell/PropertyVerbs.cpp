@@ -9,13 +9,13 @@
 #include <QCoreApplication>
 #include <QTextStream>
 
-namespace kelta {
+namespace desktop {
 
 namespace {
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("kelta::Batch", text);
+    return QCoreApplication::translate("desktop::Batch", text);
 }
 
 /// Null if not exactly one object is selected.
@@ -34,8 +34,7 @@ std::optional<QString> setProperty(const QStringList& arguments)
     if (arguments.size() != 2 || object == nullptr)
         return tr("the name of a property, a value, and one selected object are needed");
     if (object->get_property_by_name(arguments[0].toUtf8().constData()) == nullptr)
-        return tr("\"%1\" has no property \"%2\"")
-            .arg(QString::fromStdString(object->label.getValue()), arguments[0]);
+        return tr("\"%1\" has no property \"%2\"").arg(QString::fromStdString(object->label.getValue()), arguments[0]);
     // The reason of a refusal is in the message log, which ends the list.
     vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(*object), arguments[0].toStdString(),
                                                 arguments[1].toStdString());
@@ -54,11 +53,11 @@ std::optional<QString> printProperties(const QStringList& arguments)
     for (const Obj::Property* const property : properties) {
         if (object->is_hidden(property))
             continue;
-        const std::string value = property->to_text();
+        const std::string value = property->toText();
         out << object->get_property_name(property) << (value.empty() ? " =" : " = ") << QString::fromStdString(value)
             << '\n';
     }
     return std::nullopt;
 }
 
-} // namespace kelta
+} // namespace desktop

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace kelta {
+namespace desktop {
 
 /// The verb "property NAME VALUE": sets a property of the selected object, as one undoable step. Returns what went wrong;
 /// absent if nothing did.
@@ -14,4 +14,4 @@ std::optional<QString> setProperty(const QStringList& arguments);
 /// The verb "properties": prints the properties of the selected object, "NAME = VALUE", without those that are hidden.
 std::optional<QString> printProperties(const QStringList& arguments);
 
-} // namespace kelta
+} // namespace desktop

@@ -115,7 +115,7 @@ void GuiApplication::removeProject(Obj::Project& project)
 {
     TreeSelectionSingleton& selection = TreeSelectionSingleton::instance();
     selection.forget(project);
-    for (const Obj::ProjectObject* const object : project.get_objects())
+    for (const Obj::ProjectObject* const object : project.getObjects())
         selection.forget(*object);
     // Taken out first: what is destroyed with it must not find a project that is partly destroyed.
     const auto found = m_projects.find(&project);

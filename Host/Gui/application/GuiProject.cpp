@@ -21,7 +21,7 @@ std::unique_ptr<Feeder> makeFeeder(const char* className)
     std::unique_ptr<Kelta::RootClass> created;
     Kelta::guarded(QCoreApplication::translate("Gui::GuiProject", "The tree node \"%1\" cannot be made")
                        .arg(QString::fromUtf8(className)),
-                   [&] { created = Kelta::RootClass::create_by_name(className); });
+                   [&] { created = Kelta::RootClass::createByName(className); });
     if (auto* const feeder = dynamic_cast<Feeder*>(created.get())) {
         created.release(); // NOLINT(bugprone-unused-return-value): the pointer below owns it
         return std::unique_ptr<Feeder>(feeder);
@@ -69,7 +69,7 @@ ViewFeederProjectObject* GuiProject::get_view_feeder(Obj::ProjectObject* object)
     return feeder.get();
 }
 
-void GuiProject::connect_view(BaseView* view)
+void GuiProject::connectView(BaseView* view)
 {
     m_views.push_back(view);
 }

@@ -41,8 +41,8 @@ public:
     ViewFeederProjectObject* get_view_feeder(Obj::ProjectObject* object);
 
     /// The views of the project that are open.
-    const std::vector<BaseView*>& get_views() const { return m_views; }
-    void connect_view(BaseView* view);
+    const std::vector<BaseView*>& getViews() const { return m_views; }
+    void connectView(BaseView* view);
     void disconnect_view(BaseView* view);
 
 private:

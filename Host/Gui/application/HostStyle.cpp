@@ -12,9 +12,9 @@ QIcon HostStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* o
 {
     switch (standardIcon) {
     case SP_ToolBarHorizontalExtensionButton:
-        return PictureFactory::get_icon(QStringLiteral("kelta_more_right"));
+        return PictureFactory::getIcon(QStringLiteral("kelta_more_right"));
     case SP_ToolBarVerticalExtensionButton:
-        return PictureFactory::get_icon(QStringLiteral("kelta_more_below"));
+        return PictureFactory::getIcon(QStringLiteral("kelta_more_below"));
     default:
         return QProxyStyle::standardIcon(standardIcon, option, widget);
     }

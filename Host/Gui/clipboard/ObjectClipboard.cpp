@@ -120,7 +120,7 @@ void ObjectClipboard::copy(const std::vector<Obj::ProjectObject*>& objects) cons
     QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
-bool ObjectClipboard::holds_objects()
+bool ObjectClipboard::holdsObjects()
 {
     // Asked after every change in the program, and the text may be long.
     if (!m_isKnown)

@@ -51,7 +51,7 @@ public:
     /// Copies objects to the system's clipboard.
     void copy(const std::vector<Obj::ProjectObject*>& objects) const;
     /// Returns whether the system's clipboard holds objects.
-    bool holds_objects();
+    bool holdsObjects();
     /// Adds the objects of the system's clipboard to a project; as read.
     std::vector<Obj::ProjectObject*> paste(Obj::Project& project) const;
 

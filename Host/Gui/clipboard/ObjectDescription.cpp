@@ -48,7 +48,7 @@ Json::Value describeOrigin(const Obj::ProjectObject& object)
     description["project_class"] = originalClassOf(project);
     description["id"] = object.getObjectId();
     description["name"] = object.get_name_in_project();
-    if (const Obj::ProjectObjectGroup* const group = object.get_parent_group())
+    if (const Obj::ProjectObjectGroup* const group = object.getParentGroup())
         description["group"] = group->getObjectId();
     return description;
 }
@@ -62,8 +62,8 @@ Json::Value describeObject(const GuiApplication& application, Obj::ProjectObject
     description["suppressed"] = object.isSuppressed();
     addMember(description, "links", Obj::writeLinks(object));
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderObject*>(&object)) {
-        description["class"] = placeholder->get_original_class();
-        description["record"] = placeholder->get_record();
+        description["class"] = placeholder->getOriginalClass();
+        description["record"] = placeholder->getRecord();
         return description;
     }
     description["class"] = object.getTypeId().get_name();
@@ -82,7 +82,7 @@ std::string originOf(const Obj::Project& project)
 std::string originalClassOf(const Obj::Project& project)
 {
     const auto* const placeholder = dynamic_cast<const Obj::PlaceholderProject*>(&project);
-    return placeholder != nullptr ? placeholder->get_original_class() : project.getTypeId().get_name();
+    return placeholder != nullptr ? placeholder->getOriginalClass() : project.getTypeId().get_name();
 }
 
 } // namespace Gui

@@ -40,7 +40,7 @@ Kelta::TypeInfo typeOf(const Json::Value& description)
 /// Whether the object becomes a placeholder, because its class is missing here as where it was copied.
 bool isPlaceholder(const Json::Value& description)
 {
-    return description.isObject() && description.isMember("record") && !typeOf(description).names_a_type();
+    return description.isObject() && description.isMember("record") && !typeOf(description).namesAType();
 }
 
 /// The properties, node and content of an object: those of the description, or of the record of a former placeholder
@@ -54,7 +54,7 @@ Json::Value partOf(const Json::Value& description, const char* name)
 /// Throws if the content cannot be read. Tried on an object outside the project: one inside leaves a step of the history.
 void checkContent(const Obj::ContentCodec& codec, Kelta::TypeInfo type, const Json::Value& content)
 {
-    const std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::create_by_name(type.get_name());
+    const std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::createByName(type.get_name());
     if (auto* const object = dynamic_cast<Obj::ProjectObject*>(created.get()))
         codec.read(*object, content);
 }
@@ -124,7 +124,7 @@ bool Pasting::takes(const Json::Value& description) const
     if (isPlaceholder(description))
         return textOf(description, "project_class") == originalClassOf(m_project);
     const Kelta::TypeInfo type = typeOf(description);
-    return !type.is_inherited_from(Obj::ProjectObject::getClassTypeId()) || m_project.can_take(type);
+    return !type.is_inherited_from(Obj::ProjectObject::getClassTypeId()) || m_project.canTake(type);
 }
 
 /// Null, with the reason in the message log, if there can be no such object.
@@ -177,11 +177,11 @@ void Pasting::readLinks(Obj::ProjectObject& object, const Json::Value& descripti
 /// The copy of a member alone is a member of the same group.
 void Pasting::joinGroup(Obj::ProjectObject& object, const Json::Value& description) const
 {
-    if (!isFromHere(description) || !description["group"].isUInt() || object.get_parent_group() != nullptr)
+    if (!isFromHere(description) || !description["group"].isUInt() || object.getParentGroup() != nullptr)
         return;
     auto* const group = dynamic_cast<Obj::ProjectObjectGroup*>(m_project.get_object(description["group"].asUInt()));
     if (group != nullptr && copyOf(description, group->getObjectId()) == 0)
-        group->add_member(object);
+        group->addMember(object);
 }
 
 bool Pasting::isFromHere(const Json::Value& description) const

@@ -22,7 +22,7 @@ QAction* CommandBase::new_action(QObject* parent)
 {
     m_action = new QAction(parent);
     if (*get_pixmap() != '\0')
-        m_action->setIcon(PictureFactory::get_icon(QString::fromUtf8(get_pixmap())));
+        m_action->setIcon(PictureFactory::getIcon(QString::fromUtf8(get_pixmap())));
     m_action->setShortcut(get_shortcut());
     on_language_changed();
     return m_action;
@@ -47,7 +47,7 @@ void CommandBase::updateAction()
     m_action->setChecked(isChecked && isChecked());
 }
 
-const char* CommandBase::get_class_name() const
+const char* CommandBase::getClassName() const
 {
     return "CommandBase";
 }

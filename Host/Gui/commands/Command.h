@@ -18,9 +18,9 @@ namespace Gui {
 /// Flags of commands; a command may have several.
 struct CommandType
 {
-    static constexpr int None = 0;
+    static constexpr int none = 0;
     /// The command acts on what is selected in the project tree. Its shortcut works only while the tree has the keyboard.
-    static constexpr int OnTree = 8;
+    static constexpr int onTree = 8;
 };
 
 /// What menus and toolbars show of a command. Derived classes set the fields in their constructors; texts are English
@@ -37,7 +37,7 @@ public:
     virtual QAction* new_action(QObject* parent);
     /// Sets the texts of the action in the language of the user.
     virtual void on_language_changed();
-    virtual const char* get_class_name() const;
+    virtual const char* getClassName() const;
     virtual QString get_menu_info() const;    ///< translated menu text
     virtual QString get_tooltip_info() const; ///< translated tool tip
     virtual QString get_statustip() const;    ///< translated status tip
@@ -57,7 +57,7 @@ public:
     int getTypeFlags() const { return typeFlags; }
 
 protected:
-    QString translated(const char* text) const { return QCoreApplication::translate(get_class_name(), text); }
+    QString translated(const char* text) const { return QCoreApplication::translate(getClassName(), text); }
 
     const char* menuText = "";
     const char* toolTip = "";
@@ -67,7 +67,7 @@ protected:
     const char* module = "";
     const char* group = "Standard";
     QKeySequence shortcut;
-    int typeFlags = CommandType::None;
+    int typeFlags = CommandType::none;
     /// Whether the entry of the command has a check mark now. An entry without this function never has one.
     std::function<bool()> isChecked;
 

@@ -13,22 +13,22 @@ CommandController::~CommandController() = default;
 void CommandController::new_command(Command* command)
 {
     std::unique_ptr<Command> owned(command);
-    if (owned == nullptr || find_command(owned->getName()) != nullptr)
+    if (owned == nullptr || findCommand(owned->getName()) != nullptr)
         return;
     m_order.push_back(owned.get());
     std::string name = owned->getName();
     m_commands.emplace(std::move(name), std::move(owned));
 }
 
-Command* CommandController::find_command(std::string_view name) const
+Command* CommandController::findCommand(std::string_view name) const
 {
     const auto found = m_commands.find(name);
     return found != m_commands.end() ? found->second.get() : nullptr;
 }
 
-bool CommandController::run_command(std::string_view name)
+bool CommandController::runCommand(std::string_view name)
 {
-    if (Command* const command = find_command(name))
+    if (Command* const command = findCommand(name))
         return command->invoke();
     Kelta::MessageLog::error(QCoreApplication::translate("Gui::Command", "There is no command \"%1\".")
                                  .arg(QString::fromUtf8(name.data(), static_cast<int>(name.size()))));
@@ -37,14 +37,14 @@ bool CommandController::run_command(std::string_view name)
 
 bool CommandController::addGuard(std::string_view name, CommandGuard guard)
 {
-    Command* const command = find_command(name);
+    Command* const command = findCommand(name);
     if (command == nullptr)
         return false;
     command->addGuard(std::move(guard));
     return true;
 }
 
-void CommandController::update_actions()
+void CommandController::updateActions()
 {
     for (Command* const command : m_order)
         command->updateAction();

@@ -25,17 +25,17 @@ public:
     void new_command(Command* command);
 
     /// Returns the command with this name, which the controller owns; null if there is none.
-    Command* find_command(std::string_view name) const;
+    Command* findCommand(std::string_view name) const;
     /// Runs a command as Command::invoke does. If there is no command with this name, reports that to the message log
     /// and returns false.
-    bool run_command(std::string_view name);
+    bool runCommand(std::string_view name);
     /// Puts a guard in front of a command, as Command::addGuard does. Returns false if there is no command with this name.
     bool addGuard(std::string_view name, CommandGuard guard);
     /// Returns all commands in the order of their registration.
-    const std::vector<Command*>& get_commands() const { return m_order; }
+    const std::vector<Command*>& getCommands() const { return m_order; }
 
     /// Updates the actions of all commands: enables those that are applicable now, and sets the check marks.
-    void update_actions();
+    void updateActions();
     /// Sets the texts of all actions in the language of the user.
     void on_language_changed();
 

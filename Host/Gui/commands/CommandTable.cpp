@@ -31,7 +31,7 @@ public:
         isChecked = std::move(row.isChecked);
     }
 
-    const char* get_class_name() const override { return m_context; }
+    const char* getClassName() const override { return m_context; }
     QAction* new_action(QObject* parent) override;
     void activated(int) override { m_run(); }
     bool is_applicable() override { return !m_isApplicable || m_isApplicable(); }

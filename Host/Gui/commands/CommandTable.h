@@ -23,7 +23,7 @@ struct CommandRow
     const char* toolTip;     ///< also the status tip and the what's-this text
     const char* pixmap = ""; ///< name for the picture factory; empty for none
     QKeySequence shortcut = {};
-    int typeFlags = CommandType::None;
+    int typeFlags = CommandType::none;
     std::function<void()> run = {};            ///< what the command does
     std::function<bool()> isApplicable = {};   ///< whether it can be run now; always if empty
     std::function<bool()> isChecked = {};      ///< whether its entry has a check mark now; never if empty
@@ -35,7 +35,7 @@ struct CommandRow
 ///
 ///     addCommands(controller, "ProbeCommand",
 ///                 {{"Probe_Add", QT_TRANSLATE_NOOP("ProbeCommand", "&Add probe"),
-///                   QT_TRANSLATE_NOOP("ProbeCommand", "Add a probe to the project"), "", {}, CommandType::None,
+///                   QT_TRANSLATE_NOOP("ProbeCommand", "Add a probe to the project"), "", {}, CommandType::none,
 ///                   [] { addProbe(); }, [] { return hasProject(); }}});
 GUI_EXPORT void addCommands(CommandController& controller, const char* context, std::vector<CommandRow> rows);
 

@@ -33,14 +33,14 @@ public:
 
     static constexpr const char* separator = "Separator";
 
-    void set_command(std::string text) { m_text = std::move(text); }
+    void setCommand(std::string text) { m_text = std::move(text); }
     const std::string& command() const { return m_text; }
-    bool is_separator() const { return m_text == separator; }
+    bool isSeparator() const { return m_text == separator; }
     /// Whether the item names no command but begins a section.
     bool isSection() const { return !m_section.empty(); }
     const std::string& section() const { return m_section; }
 
-    bool has_items() const { return !m_items.empty(); }
+    bool hasItems() const { return !m_items.empty(); }
     const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
 
     /// Returns the item with this text among this item and all items below it; null if there is none.
@@ -104,7 +104,7 @@ public:
             place = std::prev(m_items.end());
         }
         place = std::find_if(std::next(place), m_items.end(),
-                             [](const auto& child) { return child->isSection() || child->is_separator(); });
+                             [](const auto& child) { return child->isSection() || child->isSeparator(); });
         m_items.insert(place, std::move(owned));
     }
 
@@ -112,7 +112,7 @@ private:
     static std::unique_ptr<Item> makeItem(const char* text)
     {
         auto item = std::make_unique<Item>();
-        item->set_command(text);
+        item->setCommand(text);
         return item;
     }
 

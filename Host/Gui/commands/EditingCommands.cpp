@@ -36,7 +36,7 @@ Objects selectedIn(const TreeSelectionSingleton& selection)
 void selectAlone(TreeSelectionSingleton& selection, const Objects& objects)
 {
     if (!objects.empty())
-        selection.set_selection({}, objects);
+        selection.setSelection({}, objects);
 }
 
 void paste(const ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
@@ -64,20 +64,20 @@ void rename()
 {
     // The label is edited in the tree.
     MainWindow& window = *MainWindow::get_main_window_inst();
-    window.show_project_explorer();
-    window.get_project_explorer().renameSelected();
+    window.showProjectExplorer();
+    window.getProjectExplorer().renameSelected();
 }
 
 bool canRename(const TreeSelectionSingleton& selection)
 {
-    return MainWindow::get_main_window_inst() != nullptr && selection.get_count() == 1 &&
+    return MainWindow::get_main_window_inst() != nullptr && selection.getCount() == 1 &&
            selectedIn(selection).size() == 1;
 }
 
 bool canSelectAll()
 {
     const Obj::Project* const project = Obj::Application::get_current_project();
-    return MainWindow::get_main_window_inst() != nullptr && project != nullptr && project->get_object_count() != 0;
+    return MainWindow::get_main_window_inst() != nullptr && project != nullptr && project->getObjectCount() != 0;
 }
 
 void collect(vxMsg::MessageProxy& requests)
@@ -114,11 +114,11 @@ std::vector<CommandRow> historyRows(QUndoStack& history)
     return {
         {"Std_Undo", QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
          QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"), "kelta_undo", QKeySequence::Undo,
-         CommandType::None, [&history] { stackToUndo(history).undo(); },
+         CommandType::none, [&history] { stackToUndo(history).undo(); },
          [&history] { return stackToUndo(history).canUndo(); }},
         {"Std_Redo", QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
          QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"), "kelta_redo",
-         QKeySequence::Redo, CommandType::None, [&history] { stackToRedo(history).redo(); },
+         QKeySequence::Redo, CommandType::none, [&history] { stackToRedo(history).redo(); },
          [&history] { return stackToRedo(history).canRedo(); }},
     };
 }
@@ -129,14 +129,14 @@ std::vector<CommandRow> clipboardRows(ObjectClipboard& clipboard, TreeSelectionS
     return {
         {"Std_Copy", QT_TRANSLATE_NOOP("StandardCommand", "&Copy"),
          QT_TRANSLATE_NOOP("StandardCommand", "Copy the selected objects"), "kelta_copy", QKeySequence::Copy,
-         CommandType::OnTree, [&clipboard, &selection] { clipboard.copy(selectedIn(selection)); }, hasObjects},
+         CommandType::onTree, [&clipboard, &selection] { clipboard.copy(selectedIn(selection)); }, hasObjects},
         {"Std_Paste", QT_TRANSLATE_NOOP("StandardCommand", "&Paste"),
          QT_TRANSLATE_NOOP("StandardCommand", "Add the copied objects to the project"), "kelta_paste",
-         QKeySequence::Paste, CommandType::OnTree, [&clipboard, &selection] { paste(clipboard, selection); },
-         [&clipboard] { return hasProject() && clipboard.holds_objects(); }},
+         QKeySequence::Paste, CommandType::onTree, [&clipboard, &selection] { paste(clipboard, selection); },
+         [&clipboard] { return hasProject() && clipboard.holdsObjects(); }},
         {"Std_DuplicateSelection", QT_TRANSLATE_NOOP("StandardCommand", "Dup&licate"),
          QT_TRANSLATE_NOOP("StandardCommand", "Add a copy of each selected object"), "", Qt::CTRL + Qt::Key_D,
-         CommandType::OnTree,
+         CommandType::onTree,
          [&clipboard, &selection] { selectAlone(selection, clipboard.duplicate(selectedIn(selection))); }, hasObjects},
     };
 }
@@ -149,7 +149,7 @@ std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const Tre
          QT_TRANSLATE_NOOP("StandardCommand", "Take the selected objects out of use"),
          "",
          {},
-         CommandType::OnTree,
+         CommandType::onTree,
          [&requests, &selection] { suppress(requests, selection, true); },
          [&selection] { return canSuppress(selection, true); }},
         {"Std_Unsuppress",
@@ -157,7 +157,7 @@ std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const Tre
          QT_TRANSLATE_NOOP("StandardCommand", "Take the selected objects into use again"),
          "",
          {},
-         CommandType::OnTree,
+         CommandType::onTree,
          [&requests, &selection] { suppress(requests, selection, false); },
          [&selection] { return canSuppress(selection, false); }},
     };
@@ -168,17 +168,17 @@ std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSel
     return {
         {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
          QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object another label"), "", Qt::Key_F2,
-         CommandType::OnTree, rename, [&selection] { return canRename(selection); }},
+         CommandType::onTree, rename, [&selection] { return canRename(selection); }},
         {"Std_SelectAll", QT_TRANSLATE_NOOP("StandardCommand", "Select &all"),
          QT_TRANSLATE_NOOP("StandardCommand", "Select all objects of the project"), "", QKeySequence::SelectAll,
-         CommandType::OnTree, [] { MainWindow::get_main_window_inst()->get_project_explorer().selectAllObjects(); },
+         CommandType::onTree, [] { MainWindow::get_main_window_inst()->getProjectExplorer().selectAllObjects(); },
          canSelectAll},
         {"Std_Collect",
          QT_TRANSLATE_NOOP("StandardCommand", "&Hand over to the solver"),
          QT_TRANSLATE_NOOP("StandardCommand", "Hand the data of the project over to the solver"),
          "",
          {},
-         CommandType::None,
+         CommandType::none,
          [&requests] { collect(requests); },
          hasProject},
     };

@@ -119,7 +119,7 @@ QPixmap PictureFactory::get_pixmap(const QString& nameOrPath, int size)
     return makePlaceholder(size);
 }
 
-QIcon PictureFactory::get_icon(const QString& nameOrPath)
+QIcon PictureFactory::getIcon(const QString& nameOrPath)
 {
     return QIcon(new DrawnIcon(pathOf(nameOrPath)));
 }

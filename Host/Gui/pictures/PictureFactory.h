@@ -17,7 +17,7 @@ public:
     static QPixmap get_pixmap(const char* nameOrPath) { return get_pixmap(QString::fromUtf8(nameOrPath)); }
 
     /// Returns the same picture as an icon, which is sharp at every size.
-    static QIcon get_icon(const QString& nameOrPath);
+    static QIcon getIcon(const QString& nameOrPath);
 };
 
 } // namespace Gui

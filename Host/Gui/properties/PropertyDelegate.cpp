@@ -34,12 +34,12 @@ QString shownReference(const Obj::PropertyReference& property)
 /// The objects to which a reference can refer: all of the project, except the one that has the property.
 std::vector<const Obj::ProjectObject*> targetsOf(const Obj::PropertyReference& property)
 {
-    const auto* const owner = dynamic_cast<const Obj::ProjectObject*>(property.get_owner());
+    const auto* const owner = dynamic_cast<const Obj::ProjectObject*>(property.getOwner());
     const auto* const project =
-        owner != nullptr ? owner->get_project() : dynamic_cast<const Obj::Project*>(property.get_owner());
+        owner != nullptr ? owner->get_project() : dynamic_cast<const Obj::Project*>(property.getOwner());
     std::vector<const Obj::ProjectObject*> targets;
     if (project != nullptr)
-        for (const Obj::ProjectObject* const object : project->get_objects())
+        for (const Obj::ProjectObject* const object : project->getObjects())
             if (object != owner)
                 targets.push_back(object);
     return targets;
@@ -99,10 +99,10 @@ void PropertyDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, 
 QString PropertyDelegate::shownText(const Obj::Property& property)
 {
     if (const auto* const choice = dynamic_cast<const Obj::PropertyChoice*>(&property))
-        return shownWord(choice->get_word());
+        return shownWord(choice->getWord());
     if (const auto* const reference = dynamic_cast<const Obj::PropertyReference*>(&property))
         return shownReference(*reference);
-    return QString::fromStdString(property.to_text());
+    return QString::fromStdString(property.toText());
 }
 
 /// A list whose choice is taken over at once.
@@ -120,7 +120,7 @@ QComboBox* PropertyDelegate::makeList(QWidget* parent) const
 QComboBox* PropertyDelegate::makeChoice(QWidget* parent, const Obj::PropertyChoice& property) const
 {
     QComboBox* const list = makeList(parent);
-    for (const std::string& word : property.get_words())
+    for (const std::string& word : property.getWords())
         list->addItem(shownWord(word), QString::fromStdString(word));
     return list;
 }

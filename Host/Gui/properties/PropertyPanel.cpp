@@ -66,7 +66,7 @@ void PropertyPanel::showSelection()
     for (const OwnerIndex index : {Shown, Node})
         if (m_shown[index] != nullptr)
             addProperties(index, *m_shown[index]);
-    const std::size_t count = m_selection.get_count();
+    const std::size_t count = m_selection.getCount();
     // The columns are properties and values, not sentences.
     setHeaderHidden(count != 1);
     header()->setSectionResizeMode(0, count == 1 ? QHeaderView::ResizeToContents : QHeaderView::Fixed);
@@ -130,7 +130,7 @@ void PropertyPanel::retranslate()
 
 PropertyPanel::Owners PropertyPanel::owners() const
 {
-    if (m_selection.get_count() != 1)
+    if (m_selection.getCount() != 1)
         return {};
     const auto projects = m_selection.get_projects();
     if (!projects.empty()) {
@@ -191,7 +191,7 @@ QTreeWidgetItem* PropertyPanel::makeItem(const Obj::PropertyDS& owner, const Obj
 /// A yes or no is a check box, which needs no editor.
 void PropertyPanel::showValue(QTreeWidgetItem& item, const Obj::Property& property, bool isReadOnly) const
 {
-    item.setData(valueColumn, PropertyDelegate::valueRole, QString::fromStdString(property.to_text()));
+    item.setData(valueColumn, PropertyDelegate::valueRole, QString::fromStdString(property.toText()));
     Qt::ItemFlag editing = Qt::ItemIsEditable;
     if (const auto* const yesOrNo = dynamic_cast<const Obj::PropertyBool*>(&property)) {
         item.setCheckState(valueColumn, yesOrNo->getValue() ? Qt::Checked : Qt::Unchecked);

@@ -147,7 +147,7 @@ void ProjectExplorer::takeOverSelection()
     }
     makeCurrent(projects, objects);
     m_selecting = true;
-    m_selection.set_selection(projects, objects);
+    m_selection.setSelection(projects, objects);
     m_selecting = false;
 }
 
@@ -193,9 +193,9 @@ void ProjectExplorer::makeCurrent(const std::vector<Obj::Project*>& projects,
                                   const std::vector<Obj::ProjectObject*>& objects)
 {
     if (!projects.empty())
-        Obj::Application::instance().set_current_project(*projects.front());
+        Obj::Application::instance().setCurrentProject(*projects.front());
     else if (!objects.empty())
-        Obj::Application::instance().set_current_project(*objects.front()->get_project());
+        Obj::Application::instance().setCurrentProject(*objects.front()->get_project());
 }
 
 // NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
@@ -238,8 +238,8 @@ void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
         for (const std::string& command : m_window.contributions().treeMenu())
             items << command.c_str();
     }
-    if (m_window.get_workbench() != nullptr)
-        m_window.get_workbench()->build_context_menu("Tree", &items);
+    if (m_window.getWorkbench() != nullptr)
+        m_window.getWorkbench()->build_context_menu("Tree", &items);
     MenuBuilder(m_application.get_command_manager(), m_window).fillMenu(menu, items);
     if (!menu.isEmpty())
         menu.exec(position);

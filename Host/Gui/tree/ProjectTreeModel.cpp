@@ -81,7 +81,7 @@ QString missingClassText(const Obj::Placeholder& placeholder)
     return ProjectTreeModel::tr(
                "The module for \"%1\" is not loaded. The data are kept as they are and saved again, but "
                "cannot be edited.")
-        .arg(QString::fromStdString(placeholder.get_original_class()));
+        .arg(QString::fromStdString(placeholder.getOriginalClass()));
 }
 
 QString toolTipOf(const Obj::ProjectObject& object)
@@ -245,7 +245,7 @@ void ProjectTreeModel::objectChanged(Obj::ProjectObject& object)
     if (index.isValid())
         Q_EMIT dataChanged(index, index);
     // It may have been put into a group, or be shown or hidden now; a group takes its members with it.
-    if (index.isValid() != isShown(object) || objectAt(index.parent()) != object.get_parent_group())
+    if (index.isValid() != isShown(object) || objectAt(index.parent()) != object.getParentGroup())
         m_synchronization.start(0);
 }
 

@@ -100,8 +100,8 @@ void TreeSelectionSingleton::deselect(const Obj::ProjectObject& object)
         Q_EMIT selectionChanged();
 }
 
-void TreeSelectionSingleton::set_selection(const std::vector<Obj::Project*>& projects,
-                                           const std::vector<Obj::ProjectObject*>& objects)
+void TreeSelectionSingleton::setSelection(const std::vector<Obj::Project*>& projects,
+                                          const std::vector<Obj::ProjectObject*>& objects)
 {
     m_projects = {projects.begin(), projects.end()};
     m_objects = {objects.begin(), objects.end()};
@@ -122,8 +122,8 @@ void TreeSelectionSingleton::forget(const Obj::ProjectObject& object)
 
 void TreeSelectionSingleton::clear()
 {
-    if (get_count() != 0)
-        set_selection({}, {});
+    if (getCount() != 0)
+        setSelection({}, {});
 }
 
 } // namespace Gui

@@ -26,10 +26,10 @@ public:
 
     /// The object; null if it was deleted.
     Obj::ProjectObject* get_object() const;
-    const std::string& get_project_name() const { return m_projectName; }
-    const std::string& get_object_name() const { return m_objectName; }
+    const std::string& getProjectName() const { return m_projectName; }
+    const std::string& getObjectName() const { return m_objectName; }
     /// The selected parts of the object; none if it is selected as a whole, as in the tree.
-    const std::vector<std::string>& get_subelement_names() const { return m_subElements; }
+    const std::vector<std::string>& getSubelementNames() const { return m_subElements; }
 
 private:
     std::string m_projectName;
@@ -55,14 +55,14 @@ public:
     /// Returns whether a part of the object is selected, or, if `subElement` is null, the object as a whole.
     bool is_selected(const Obj::ProjectObject* object, const char* subElement) const;
     bool is_selected(const Obj::Project* project) const { return m_projects.count(project) != 0; }
-    std::size_t get_count() const { return m_objects.size() + m_projects.size(); }
+    std::size_t getCount() const { return m_objects.size() + m_projects.size(); }
 
     void select(const Obj::Project& project);
     void select(const Obj::ProjectObject& object);
     void deselect(const Obj::Project& project);
     void deselect(const Obj::ProjectObject& object);
     /// Replaces the whole selection, and sends selectionChanged once.
-    void set_selection(const std::vector<Obj::Project*>& projects, const std::vector<Obj::ProjectObject*>& objects);
+    void setSelection(const std::vector<Obj::Project*>& projects, const std::vector<Obj::ProjectObject*>& objects);
     void clear();
     /// Removes a project or object that was closed or deleted. The signal is sent when the event loop is next idle, once
     /// for all that were removed.

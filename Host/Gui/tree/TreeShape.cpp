@@ -7,10 +7,10 @@ namespace Gui {
 
 TreeShape::TreeShape(const Obj::Project& project, const std::function<bool(Obj::ProjectObject&)>& isShown)
 {
-    for (Obj::ProjectObject* const object : project.get_objects()) {
+    for (Obj::ProjectObject* const object : project.getObjects()) {
         if (!isShown(*object))
             continue;
-        Obj::ProjectObjectGroup* const group = object->get_parent_group();
+        Obj::ProjectObjectGroup* const group = object->getParentGroup();
         m_children[group != nullptr && isShown(*group) ? group->getObjectId() : 0].push_back(object->getObjectId());
     }
 }

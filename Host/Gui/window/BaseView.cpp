@@ -9,7 +9,7 @@ KELTA_REGISTER_ABSTRACT_CLASS(Gui::BaseView, Kelta::RootClass)
 BaseView::BaseView(GuiProject* project) : m_project(project)
 {
     if (project != nullptr)
-        project->connect_view(this);
+        project->connectView(this);
 }
 
 BaseView::~BaseView()
@@ -18,7 +18,7 @@ BaseView::~BaseView()
         m_project->disconnect_view(this);
 }
 
-GuiProject* BaseView::get_gui_project() const
+GuiProject* BaseView::getGuiProject() const
 {
     return m_project;
 }
@@ -61,7 +61,7 @@ void BaseView::updateCell(const Obj::Property*) {}
 void BaseView::attach(GuiProject& project)
 {
     m_project = &project;
-    project.connect_view(this);
+    project.connectView(this);
 }
 
 } // namespace Gui

@@ -26,7 +26,7 @@ public:
     ~BaseView() override;
 
     /// The project of the view; null if it has none, or if the project has been closed.
-    GuiProject* get_gui_project() const;
+    GuiProject* getGuiProject() const;
 
     /// The name of the kind of view.
     virtual const char* getName() const;

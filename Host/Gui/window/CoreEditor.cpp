@@ -16,8 +16,8 @@ namespace {
 
 MDIWindow* findEditor(const MainWindow& mainWindow, const Obj::ProjectObject& object, std::string_view className)
 {
-    for (MDIWindow* const window : mainWindow.get_mdi_windows())
-        if (window->get_edited_object() == &object && className == window->getTypeId().get_name())
+    for (MDIWindow* const window : mainWindow.getMdiWindows())
+        if (window->getEditedObject() == &object && className == window->getTypeId().get_name())
             return window;
     return nullptr;
 }
@@ -25,7 +25,7 @@ MDIWindow* findEditor(const MainWindow& mainWindow, const Obj::ProjectObject& ob
 /// Null, with the reason in the message log, if there is no such window.
 MDIWindow* makeEditor(MainWindow& mainWindow, GuiProject& project, Obj::ProjectObject& object, const char* className)
 {
-    std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::create_by_name(className);
+    std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::createByName(className);
     auto* const window = dynamic_cast<MDIWindow*>(created.get());
     if (window == nullptr) {
         Kelta::MessageLog::error(

@@ -45,7 +45,7 @@ void addToggleCommand(const DockEntry& entry, CommandController& commands)
                   entry.title.source,
                   "",
                   {},
-                  CommandType::None,
+                  CommandType::none,
                   toggle,
                   [name = entry.name] {
                       const MainWindow* const window = MainWindow::get_main_window_inst();

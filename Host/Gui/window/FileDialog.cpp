@@ -70,7 +70,7 @@ QString FileDialog::getSaveFileName(QWidget* parent, const QString& caption, con
     return remembered(dialog.selectedFiles().constFirst());
 }
 
-void FileDialog::answer_next(const QString& path)
+void FileDialog::answerNext(const QString& path)
 {
     preparedAnswer() = path;
 }

@@ -23,7 +23,7 @@ public:
                                    QFileDialog::Options options = {});
 
     /// Sets the result of the next call, which then does not ask the user; for programs that a script runs.
-    static void answer_next(const QString& path);
+    static void answerNext(const QString& path);
 
 private:
     static bool takeAnswer(QString& path);

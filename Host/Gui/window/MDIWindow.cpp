@@ -31,7 +31,7 @@ void MDIWindow::remove_viewself()
 void MDIWindow::editObject(GuiProject& project, Obj::ProjectObject& object)
 {
     attach(project);
-    set_edited_object(&object);
+    setEditedObject(&object);
     showLabel(object);
     m_objectRemoved = project.get_project().objectRemoved.connect([this](const Obj::ProjectObject& removed) {
         if (&removed == m_editedObject)
@@ -64,7 +64,7 @@ bool MDIWindow::event(QEvent* event)
     return QMainWindow::event(event);
 }
 
-QUndoStack* MDIWindow::get_undo_stack()
+QUndoStack* MDIWindow::getUndoStack()
 {
     return nullptr;
 }

@@ -26,7 +26,7 @@ struct ApplyRefusal
 ///
 /// A window in which the user edits an object, and applies the edits by a command of the window, is modified
 /// (QWidget::isWindowModified) as long as it has edits that are not applied. It overrides finishEditing and
-/// get_undo_stack, and emits applying and applied.
+/// getUndoStack, and emits applying and applied.
 class GUI_EXPORT MDIWindow : public QMainWindow, public BaseView
 {
     Q_OBJECT
@@ -42,8 +42,8 @@ public:
 
     /// The object that the user edits in the window; null if there is none. The window sets it, and must not outlive the
     /// object.
-    Obj::ProjectObject* get_edited_object() const { return m_editedObject; }
-    void set_edited_object(Obj::ProjectObject* object) { m_editedObject = object; }
+    Obj::ProjectObject* getEditedObject() const { return m_editedObject; }
+    void setEditedObject(Obj::ProjectObject* object) { m_editedObject = object; }
 
     /// Makes the window the editor of an object, whose label becomes its title. Called once, before the window is shown,
     /// if the object names the class of the window as its editor (Obj::ProjectObject::getCoreEditor); such a class must be
@@ -61,7 +61,7 @@ public:
     /// The undo stack of the edits that are not applied; null if the window has none, as here. The window keeps it from
     /// the moment when it is added to the main window. Undo and Redo of the host act on it while the user works in the
     /// window, see MainWindow::documentUndoStack.
-    virtual QUndoStack* get_undo_stack();
+    virtual QUndoStack* getUndoStack();
 
 Q_SIGNALS:
     /// The user applies edits that the window accepts. A slot that sets a reason in `refusal` prevents it: the window shows

@@ -106,8 +106,8 @@ void MainWindow::add_mdi_window(MDIWindow* window)
 {
     m_documents->add(window);
     watchDocument(*window);
-    Q_EMIT mdi_window_added(window);
-    update_commands();
+    Q_EMIT mdiWindowAdded(window);
+    updateCommands();
 }
 
 void MainWindow::remove_mdi_window(MDIWindow* window)
@@ -128,7 +128,7 @@ MDIWindow* MainWindow::get_active_mdi_window() const
     return m_documents->activeWindow();
 }
 
-QList<MDIWindow*> MainWindow::get_mdi_windows() const
+QList<MDIWindow*> MainWindow::getMdiWindows() const
 {
     return m_documents->windows();
 }
@@ -138,29 +138,29 @@ void MainWindow::close_current_window()
     m_documents->closeActive();
 }
 
-void MainWindow::close_all_windows()
+void MainWindow::closeAllWindows()
 {
     m_documents->closeAllSubWindows();
 }
 
-void MainWindow::tile_windows()
+void MainWindow::tileWindows()
 {
     m_documents->tile();
 }
 
-void MainWindow::tab_windows()
+void MainWindow::tabWindows()
 {
     m_documents->showAsTabs();
 }
 
-void MainWindow::cascade_windows()
+void MainWindow::cascadeWindows()
 {
     m_documents->cascade();
 }
 
 void MainWindow::finishEditing()
 {
-    for (MDIWindow* const window : get_mdi_windows())
+    for (MDIWindow* const window : getMdiWindows())
         window->completeEdits();
     m_explorer->finishEditing();
     m_properties->finishEditing();
@@ -170,12 +170,12 @@ void MainWindow::finishEditing()
 QUndoStack* MainWindow::documentUndoStack() const
 {
     MDIWindow* const document = get_active_mdi_window();
-    return document != nullptr && !isInDock(m_focus) ? document->get_undo_stack() : nullptr;
+    return document != nullptr && !isInDock(m_focus) ? document->getUndoStack() : nullptr;
 }
 
-bool MainWindow::set_workbench(const char* className)
+bool MainWindow::setWorkbench(const char* className)
 {
-    std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::create_by_name(className);
+    std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::createByName(className);
     if (dynamic_cast<StdSimModule*>(created.get()) == nullptr) {
         Kelta::MessageLog::error(tr("There is no workbench \"%1\".").arg(QString::fromUtf8(className)));
         return false;
@@ -190,8 +190,8 @@ bool MainWindow::setDefaultWorkbench()
     const Obj::Project* const project = Obj::Application::get_current_project();
     const WorkbenchEntry* const own = project != nullptr ? workbenchOf(*project, m_contributions) : nullptr;
     if (own != nullptr)
-        return set_workbench(own->className.c_str());
-    return set_workbench(entries.empty() ? "Gui::StdSimModule" : entries.front().className.c_str());
+        return setWorkbench(own->className.c_str());
+    return setWorkbench(entries.empty() ? "Gui::StdSimModule" : entries.front().className.c_str());
 }
 
 void MainWindow::chooseWorkbench(const std::string& className)
@@ -207,12 +207,12 @@ void MainWindow::announce(const QString& text, Kelta::LogMessage::Severity sever
         theMainWindow->statusBar()->showMessage(text, statusMilliseconds);
 }
 
-void MainWindow::show_messages()
+void MainWindow::showMessages()
 {
     m_docks->show(messagesDock);
 }
 
-void MainWindow::show_project_explorer()
+void MainWindow::showProjectExplorer()
 {
     m_docks->show(explorerDock);
 }
@@ -238,27 +238,27 @@ QMenu* MainWindow::createPopupMenu()
     return menu;
 }
 
-void MainWindow::save_layout() const
+void MainWindow::saveLayout() const
 {
     QSettings settings;
     settings.setValue(QLatin1String(geometryKey), saveGeometry());
     settings.setValue(QLatin1String(stateKey), saveState());
 }
 
-void MainWindow::restore_layout()
+void MainWindow::restoreLayout()
 {
     const QSettings settings;
     restoreGeometry(settings.value(QLatin1String(geometryKey)).toByteArray());
     restoreState(settings.value(QLatin1String(stateKey)).toByteArray());
 }
 
-void MainWindow::update_commands()
+void MainWindow::updateCommands()
 {
     m_update.stop();
-    const bool hasDocuments = !get_mdi_windows().isEmpty();
+    const bool hasDocuments = !getMdiWindows().isEmpty();
     m_center->setCurrentWidget(hasDocuments ? static_cast<QWidget*>(m_documents) : m_welcome);
     m_welcome->refresh(Obj::Application::get_current_project());
-    m_application.get_command_manager().update_actions();
+    m_application.get_command_manager().updateActions();
     Q_EMIT updated();
 }
 
@@ -336,9 +336,9 @@ void MainWindow::watchRequests()
     // The next command applies to what was added.
     vxMsg::MessageProxy& proxy = m_application.requests();
     m_connections.emplace_back(
-        proxy.objectCreated.connect([this](Obj::ProjectObject& object) { m_selection.set_selection({}, {&object}); }));
+        proxy.objectCreated.connect([this](Obj::ProjectObject& object) { m_selection.setSelection({}, {&object}); }));
     m_connections.emplace_back(
-        proxy.projectCreated.connect([this](Obj::Project& project) { m_selection.set_selection({&project}, {}); }));
+        proxy.projectCreated.connect([this](Obj::Project& project) { m_selection.setSelection({&project}, {}); }));
     connect(&proxy.undoStack(), &QUndoStack::indexChanged, this, &MainWindow::updateLater);
 }
 
@@ -360,7 +360,7 @@ void MainWindow::watchWindow()
 
 void MainWindow::watchDocument(MDIWindow& window)
 {
-    if (const QUndoStack* const edits = window.get_undo_stack())
+    if (const QUndoStack* const edits = window.getUndoStack())
         connect(edits, &QUndoStack::indexChanged, this, &MainWindow::updateLater);
 }
 
@@ -382,11 +382,11 @@ void MainWindow::updateLater()
 void MainWindow::updateNow()
 {
     const std::string chosen = std::exchange(m_chosenWorkbench, {});
-    if (!chosen.empty() && set_workbench(chosen.c_str()))
+    if (!chosen.empty() && setWorkbench(chosen.c_str()))
         return;
     if (m_barsAreOutdated && m_workbench != nullptr)
         buildBars();
-    update_commands();
+    updateCommands();
 }
 
 void MainWindow::followProject(const Obj::Project* project)
@@ -402,8 +402,8 @@ void MainWindow::followProject(const Obj::Project* project)
 void MainWindow::followDocument(const MDIWindow* window)
 {
     // Commands act on the project in which the user works.
-    if (window != nullptr && window->get_gui_project() != nullptr)
-        Obj::Application::instance().set_current_project(window->get_gui_project()->get_project());
+    if (window != nullptr && window->getGuiProject() != nullptr)
+        Obj::Application::instance().setCurrentProject(window->getGuiProject()->get_project());
     updateLater();
 }
 
@@ -416,7 +416,7 @@ void MainWindow::replaceWorkbench(std::unique_ptr<StdSimModule> workbench)
     buildBars();
     showWantedDocks();
     m_workbench->activated();
-    update_commands();
+    updateCommands();
 }
 
 void MainWindow::buildBars()
@@ -441,9 +441,9 @@ void MainWindow::showWantedDocks()
 
 void MainWindow::addShortcuts()
 {
-    for (Command* const command : m_application.get_command_manager().get_commands()) {
+    for (Command* const command : m_application.get_command_manager().getCommands()) {
         QAction* const action = command->action() != nullptr ? command->action() : command->new_action(this);
-        if ((command->getTypeFlags() & CommandType::OnTree) == 0) {
+        if ((command->getTypeFlags() & CommandType::onTree) == 0) {
             addAction(action);
             continue;
         }

@@ -62,27 +62,27 @@ public:
     /// The document window in front; null if there is none.
     MDIWindow* get_active_mdi_window() const;
     /// All document windows, in the order in which they were added.
-    QList<MDIWindow*> get_mdi_windows() const;
+    QList<MDIWindow*> getMdiWindows() const;
     /// Closes the document window in front, as the user does.
     void close_current_window();
-    void close_all_windows();
-    void tile_windows();
-    void cascade_windows();
+    void closeAllWindows();
+    void tileWindows();
+    void cascadeWindows();
     /// Shows the document windows as tabs again, as they are at first.
-    void tab_windows();
+    void tabWindows();
 
     /// Ends all edits in progress, and keeps what was typed: in the document windows (MDIWindow::finishEditing), in the
     /// project explorer and the property panel, and in docks of modules, where the editor loses the keyboard for a moment.
     /// Commands do so before they run, and the window before it closes.
     void finishEditing();
-    /// The undo stack of the document in front (MDIWindow::get_undo_stack) while the user works there; null while the
+    /// The undo stack of the document in front (MDIWindow::getUndoStack) while the user works there; null while the
     /// keyboard is in a dock, and if the document has no such stack.
     QUndoStack* documentUndoStack() const;
 
     /// Makes a workbench of this registered class the active one, and shows its menus, toolbars and docks. Returns false,
     /// with the reason in the message log, if there is no such class. Must not be called while one of the window's own
     /// menus or toolbars runs a command, since these are replaced; see chooseWorkbench.
-    bool set_workbench(const char* className);
+    bool setWorkbench(const char* className);
     /// Makes the workbench that suits best the active one: that of the current project, else the first of the modules',
     /// else the standard one.
     bool setDefaultWorkbench();
@@ -90,22 +90,22 @@ public:
     /// its workbench is chosen in the same way.
     void chooseWorkbench(const std::string& className);
     /// The active workbench; null before the first.
-    StdSimModule* get_workbench() const { return m_workbench.get(); }
+    StdSimModule* getWorkbench() const { return m_workbench.get(); }
 
     const Contributions& contributions() const { return m_contributions; }
 
-    ProjectExplorer& get_project_explorer() const { return *m_explorer; }
-    PropertyPanel& get_property_panel() const { return *m_properties; }
-    MessageLogView& get_message_log() const { return *m_log; }
+    ProjectExplorer& getProjectExplorer() const { return *m_explorer; }
+    PropertyPanel& getPropertyPanel() const { return *m_properties; }
+    MessageLogView& getMessageLog() const { return *m_log; }
 
     /// Tells the user a result: writes `text` to the message log and, if there is a main window, to its status bar.
     static void announce(const QString& text,
                          Kelta::LogMessage::Severity severity = Kelta::LogMessage::Severity::Information);
 
     /// Shows the message log, even if the user has hidden it, in front of docks with which it shares its place; for what
-    /// the user must see. show_project_explorer does the same with the project explorer.
-    void show_messages();
-    void show_project_explorer();
+    /// the user must see. showProjectExplorer does the same with the project explorer.
+    void showMessages();
+    void showProjectExplorer();
     /// Shows or hides a dock, by its name. Does nothing if there is no such dock.
     void toggleDock(const std::string& name);
     bool hasDock(const std::string& name) const;
@@ -114,18 +114,18 @@ public:
     QMenu* createPopupMenu() override;
 
     /// Keeps place and size of the window and its docks in the settings, and restores them from there.
-    void save_layout() const;
-    void restore_layout();
+    void saveLayout() const;
+    void restoreLayout();
 
     /// Enables the commands that are applicable now, and shows the welcome page if no document is open. The window calls
     /// it after every change, when the event loop is next idle.
-    void update_commands();
+    void updateCommands();
 
 Q_SIGNALS:
-    /// update_commands has run: projects, selection or documents may have changed.
+    /// updateCommands has run: projects, selection or documents may have changed.
     void updated();
     /// `window` was added to the document windows.
-    void mdi_window_added(Gui::MDIWindow* window);
+    void mdiWindowAdded(Gui::MDIWindow* window);
     /// The user closes the program. A slot that sets `refused` keeps it open.
     void closing(bool& refused);
 

@@ -39,7 +39,7 @@ WelcomeStep stepOf(const Obj::Project* project)
 {
     if (project == nullptr)
         return WelcomeStep::NoProject;
-    return project->get_object_count() == 0 ? WelcomeStep::EmptyProject : WelcomeStep::NoDocument;
+    return project->getObjectCount() == 0 ? WelcomeStep::EmptyProject : WelcomeStep::NoDocument;
 }
 
 bool appliesTo(const WelcomeEntry& entry, const Obj::Project* project)
@@ -138,7 +138,7 @@ void WelcomePage::showButtons(WelcomeStep step, const std::vector<const WelcomeE
     if (!std::equal(m_buttons.begin(), m_buttons.end(), names.begin(), names.end(), shows))
         replaceButtons(names);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        m_buttons[i]->setText(m_commands.find_command(names[i])->get_menu_info());
+        m_buttons[i]->setText(m_commands.findCommand(names[i])->get_menu_info());
         m_buttons[i]->setEnabled(canRun(names[i], entries));
     }
 }
@@ -149,7 +149,7 @@ std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
 {
     std::vector<std::string> names;
     const auto offer = [&](const std::string& name) {
-        if (m_commands.find_command(name) != nullptr && std::find(names.begin(), names.end(), name) == names.end())
+        if (m_commands.findCommand(name) != nullptr && std::find(names.begin(), names.end(), name) == names.end())
             names.push_back(name);
     };
     for (const WelcomeEntry* const entry : entries)
@@ -177,7 +177,7 @@ void WelcomePage::addButton(const std::string& commandName)
 {
     auto* const button = new QPushButton(this);
     button->setObjectName(QString::fromStdString(commandName));
-    connect(button, &QPushButton::clicked, this, [this, commandName] { m_commands.run_command(commandName); });
+    connect(button, &QPushButton::clicked, this, [this, commandName] { m_commands.runCommand(commandName); });
     // In front of the stretch at the end of the row.
     m_buttonRow->insertWidget(m_buttonRow->count() - 1, button);
     m_buttons.push_back(button);

@@ -59,7 +59,7 @@ void MenuBuilder::addCommands(Widget& widget, const Tree& items) const
 {
     bool separatorIsDue = false;
     for (const auto& item : items.items()) {
-        if (item->is_separator()) {
+        if (item->isSeparator()) {
             separatorIsDue = !widget.actions().isEmpty();
             continue;
         }
@@ -78,7 +78,7 @@ template <typename Widget, typename Tree>
 // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 QAction* MenuBuilder::actionOfItem(Widget& widget, const Tree& item) const
 {
-    if (!item.has_items())
+    if (!item.hasItems())
         return actionOf(item.command());
     auto menu = std::make_unique<QMenu>(titleOf(item), &widget);
     addCommands(*menu, item);
@@ -87,7 +87,7 @@ QAction* MenuBuilder::actionOfItem(Widget& widget, const Tree& item) const
 
 QAction* MenuBuilder::actionOf(const std::string& commandName) const
 {
-    Command* const command = m_commands.find_command(commandName);
+    Command* const command = m_commands.findCommand(commandName);
     if (command == nullptr)
         return nullptr;
     QAction* const action = command->action() != nullptr ? command->action() : command->new_action(&m_actionOwner);

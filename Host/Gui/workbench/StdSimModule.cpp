@@ -23,7 +23,7 @@ template <typename Item>
 Item* makeGroup(const char* text, std::initializer_list<Section> sections)
 {
     auto group = std::make_unique<Item>();
-    group->set_command(text);
+    group->setCommand(text);
     for (const Section& section : sections) {
         group->beginSection(section.name, section.line);
         for (const char* const command : section.commands)

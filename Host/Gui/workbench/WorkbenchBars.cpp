@@ -22,7 +22,7 @@ template <typename Tree>
 Tree* addGroup(Tree& root, const std::string& group, const Tree* before)
 {
     auto item = std::make_unique<Tree>();
-    item->set_command(group);
+    item->setCommand(group);
     Tree* const added = item.get();
     root.insert_item(before, item.release());
     return added;
@@ -57,7 +57,7 @@ void addWorkbenchSwitch(MenuItem& menus, const std::vector<WorkbenchEntry>& work
     if (view == nullptr || workbenches.size() < 2)
         return;
     auto choices = std::make_unique<MenuItem>();
-    choices->set_command(QT_TRANSLATE_NOOP("Workbench", "&Workbench"));
+    choices->setCommand(QT_TRANSLATE_NOOP("Workbench", "&Workbench"));
     for (const WorkbenchEntry& workbench : workbenches)
         *choices << commandOfWorkbench(workbench.className).c_str();
     view->addToSection("Workbench", choices.release());
@@ -75,7 +75,7 @@ void addContributed(Tree& root, const std::vector<CommandPlace>& places, const S
         Tree* const found = findGroup(root, place.group);
         Tree* const group = found != nullptr ? found : addGroup(root, place.group, findGroup(root, std::string(last)));
         auto item = std::make_unique<Tree>();
-        item->set_command(place.command);
+        item->setCommand(place.command);
         group->addToSection(place.section, item.release());
     }
 }

@@ -22,7 +22,7 @@ void choose(const std::string& className)
 bool isActive(const std::string& className)
 {
     const MainWindow* const window = MainWindow::get_main_window_inst();
-    const StdSimModule* const workbench = window != nullptr ? window->get_workbench() : nullptr;
+    const StdSimModule* const workbench = window != nullptr ? window->getWorkbench() : nullptr;
     return workbench != nullptr && className == workbench->getTypeId().get_name();
 }
 
@@ -51,7 +51,7 @@ std::string commandOfWorkbench(const std::string& className)
 const WorkbenchEntry* workbenchOf(const Obj::Project& project, const Contributions& contributions)
 {
     const auto& entries = contributions.workbenches();
-    for (Kelta::TypeInfo type = project.getTypeId(); type.names_a_type(); type = type.get_parent()) {
+    for (Kelta::TypeInfo type = project.getTypeId(); type.namesAType(); type = type.getParent()) {
         const auto found = std::find_if(entries.begin(), entries.end(), [&type](const WorkbenchEntry& entry) {
             return entry.projectClass == type.get_name();
         });

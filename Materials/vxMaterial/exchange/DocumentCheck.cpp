@@ -29,9 +29,9 @@ using Numbers = std::set<std::uint32_t>;
 void noteWhatStaysBehind(MemberCheck& check, const vxMat::PropertyRecord& quantity, const std::string& path)
 {
     const std::string name = "\"" + std::string(quantity.name) + "\"";
-    if (quantity.kind == vxMat::eValueKind::Word)
+    if (quantity.kind == vxMat::ValueKind::Word)
         check.note(path, name + " is a word, which documents do not carry");
-    else if (quantity.kind == vxMat::eValueKind::NumberList)
+    else if (quantity.kind == vxMat::ValueKind::NumberList)
         check.note(path, name + " is a list, which documents do not carry");
 }
 

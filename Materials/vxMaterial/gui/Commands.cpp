@@ -142,9 +142,9 @@ void deleteEntries(const std::vector<Gui::CSelectionType>& entries)
             continue;
         Gui::GuiProject* const guiProject = Gui::GuiApplication::Instance->get_project(object->get_project());
         Gui::ViewFeeder* const node = guiProject != nullptr ? guiProject->get_view_feeder(object) : nullptr;
-        if (node != nullptr && node->onDelete(entry.get_subelement_names()))
-            vxMsg::doCommand(vxMsg::MessageData(vxMsg::vxCommand::DeleteObject, entry.get_project_name(),
-                                                entry.get_object_name(), 0.0));
+        if (node != nullptr && node->onDelete(entry.getSubelementNames()))
+            vxMsg::doCommand(
+                vxMsg::MessageData(vxMsg::vxCommand::DeleteObject, entry.getProjectName(), entry.getObjectName(), 0.0));
     }
 }
 
@@ -187,7 +187,7 @@ MatCmdNewDoc::MatCmdNewDoc() : MaterialCommand("Mat_NewDoc") {}
 
 MatCmdNewDoc::~MatCmdNewDoc() = default;
 
-const char* MatCmdNewDoc::get_class_name() const
+const char* MatCmdNewDoc::getClassName() const
 {
     return "MatCmdNewDoc";
 }
@@ -207,7 +207,7 @@ MatCmdDelDoc::MatCmdDelDoc() : MaterialCommand("Mat_DelDoc") {}
 
 MatCmdDelDoc::~MatCmdDelDoc() = default;
 
-const char* MatCmdDelDoc::get_class_name() const
+const char* MatCmdDelDoc::getClassName() const
 {
     return "MatCmdDelDoc";
 }
@@ -223,7 +223,7 @@ MatCmdMaterial::MatCmdMaterial() : MaterialCommand("Mat_AddMaterial") {}
 
 MatCmdMaterial::~MatCmdMaterial() = default;
 
-const char* MatCmdMaterial::get_class_name() const
+const char* MatCmdMaterial::getClassName() const
 {
     return "MatCmdMaterial";
 }
@@ -250,7 +250,7 @@ MatCmdDelete::MatCmdDelete() : MaterialCommand("Mat_Delete") {}
 
 MatCmdDelete::~MatCmdDelete() = default;
 
-const char* MatCmdDelete::get_class_name() const
+const char* MatCmdDelete::getClassName() const
 {
     return "MatCmdDelete";
 }
@@ -281,7 +281,7 @@ MatCmdEdit::MatCmdEdit() : MaterialCommand("Mat_Edit") {}
 
 MatCmdEdit::~MatCmdEdit() = default;
 
-const char* MatCmdEdit::get_class_name() const
+const char* MatCmdEdit::getClassName() const
 {
     return "MatCmdEdit";
 }
@@ -306,7 +306,7 @@ CmdMatImport::CmdMatImport() : MaterialCommand("Mat_Import") {}
 
 CmdMatImport::~CmdMatImport() = default;
 
-const char* CmdMatImport::get_class_name() const
+const char* CmdMatImport::getClassName() const
 {
     return "CmdMatImport";
 }
@@ -340,7 +340,7 @@ CmdMatExport::CmdMatExport() : MaterialCommand("Mat_Export") {}
 
 CmdMatExport::~CmdMatExport() = default;
 
-const char* CmdMatExport::get_class_name() const
+const char* CmdMatExport::getClassName() const
 {
     return "CmdMatExport";
 }

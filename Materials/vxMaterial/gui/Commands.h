@@ -19,7 +19,7 @@ class VXMATERIAL_EXPORT MatCmdNewDoc final : public MaterialCommand
 public:
     MatCmdNewDoc();
     ~MatCmdNewDoc() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
 };
 
@@ -29,7 +29,7 @@ class VXMATERIAL_EXPORT MatCmdDelDoc final : public MaterialCommand
 public:
     MatCmdDelDoc();
     ~MatCmdDelDoc() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
 };
 
@@ -39,7 +39,7 @@ class VXMATERIAL_EXPORT MatCmdMaterial final : public MaterialCommand
 public:
     MatCmdMaterial();
     ~MatCmdMaterial() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
     bool is_applicable() override;
 };
@@ -50,7 +50,7 @@ class VXMATERIAL_EXPORT MatCmdDelete final : public MaterialCommand
 public:
     MatCmdDelete();
     ~MatCmdDelete() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
     bool is_applicable() override;
 };
@@ -61,7 +61,7 @@ class VXMATERIAL_EXPORT MatCmdEdit final : public MaterialCommand
 public:
     MatCmdEdit();
     ~MatCmdEdit() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
     bool is_applicable() override;
 };
@@ -72,7 +72,7 @@ class VXMATERIAL_EXPORT CmdMatImport final : public MaterialCommand
 public:
     CmdMatImport();
     ~CmdMatImport() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
     bool is_applicable() override;
 };
@@ -83,7 +83,7 @@ class VXMATERIAL_EXPORT CmdMatExport final : public MaterialCommand
 public:
     CmdMatExport();
     ~CmdMatExport() override;
-    const char* get_class_name() const override;
+    const char* getClassName() const override;
     void activated(int index) override;
     bool is_applicable() override;
 };

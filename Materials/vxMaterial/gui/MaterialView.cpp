@@ -136,7 +136,7 @@ MaterialView::MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object,
     // Last, so that the check states set above add no rows.
     connectSignals();
     m_history->restart(state());
-    set_edited_object(object);
+    setEditedObject(object);
 }
 
 MaterialView::~MaterialView()
@@ -615,7 +615,7 @@ void MaterialView::finishEditing()
     m_ui->tableView->finishEditing();
 }
 
-QUndoStack* MaterialView::get_undo_stack()
+QUndoStack* MaterialView::getUndoStack()
 {
     return &m_history->stack();
 }

@@ -92,7 +92,7 @@ public:
     void resizeRow(int row, int height) override;
     void updateCell(const Obj::Property* property) override;
     void finishEditing() override;
-    QUndoStack* get_undo_stack() override;
+    QUndoStack* getUndoStack() override;
 
 protected Q_SLOTS:
     void on_btnOK_clicked();

@@ -39,7 +39,7 @@ const auto fitEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 /// they get the number that QString finds.
 std::string ruleText(int id, const QString& value)
 {
-    const bool isNumber = vxMat::getValueKind(id) == vxMat::eValueKind::Number;
+    const bool isNumber = vxMat::getValueKind(id) == vxMat::ValueKind::Number;
     return isNumber ? vxMat::formatNumber(value.toDouble()) : value.toStdString();
 }
 

@@ -31,7 +31,7 @@ template <typename Item>
 std::unique_ptr<Item> makeGroup(const char* text, std::initializer_list<const char*> commands)
 {
     auto group = std::make_unique<Item>();
-    group->set_command(text);
+    group->setCommand(text);
     for (const char* command : commands)
         *group << command;
     return group;

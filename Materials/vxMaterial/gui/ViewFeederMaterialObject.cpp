@@ -20,7 +20,7 @@ ViewFeederMaterialObject::ViewFeederMaterialObject()
     : materialColor(Obj::Color{0.5058824F, 0.57254905F, 0.6431373F, 0.0F})
 {
     pixmapName = "norvex_materialobject";
-    register_property(propertyData, materialColor, "MaterialColor", "Definition", 8, "Color of material.");
+    registerProperty(propertyData, materialColor, "MaterialColor", "Definition", 8, "Color of material.");
 }
 
 ViewFeederMaterialObject::~ViewFeederMaterialObject()
@@ -138,7 +138,7 @@ bool ViewFeederMaterialObject::isOpen() const
 {
     // The event loop destroys a window some time after the user has closed it.
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
-    return materialView != nullptr && mainWindow != nullptr && mainWindow->get_mdi_windows().contains(materialView);
+    return materialView != nullptr && mainWindow != nullptr && mainWindow->getMdiWindows().contains(materialView);
 }
 
 void ViewFeederMaterialObject::openEditor()

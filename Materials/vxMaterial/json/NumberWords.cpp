@@ -24,13 +24,13 @@ std::string_view wordOfNumber(double number)
 
 std::optional<double> numberOfWord(std::string_view word)
 {
-    using limits = std::numeric_limits<double>;
+    using Limits = std::numeric_limits<double>;
     if (word == infinity)
-        return limits::infinity();
+        return Limits::infinity();
     if (word == minusInfinity)
-        return -limits::infinity();
+        return -Limits::infinity();
     if (word == notANumber)
-        return limits::quiet_NaN();
+        return Limits::quiet_NaN();
     return std::nullopt;
 }
 

@@ -178,8 +178,8 @@ bool Builder::checkNames()
 {
     for (const std::string_view name : findRepeated(m_names, m_levels.back().firstName)) {
         if (m_isStrict)
-            return fail(name.data() - 1, QT_TRANSLATE_NOOP("vxjson::JsonError", "the member \"%1\" occurs more than once"),
-                        name);
+            return fail(name.data() - 1,
+                        QT_TRANSLATE_NOOP("vxjson::JsonError", "the member \"%1\" occurs more than once"), name);
         if (m_repeatedMembers.size() < mostRepeatedMembers)
             m_repeatedMembers.push_back(path(name));
     }

@@ -158,7 +158,7 @@ void Check::checkFinite(std::int32_t slot, const MaterialProperty& property, dou
 
 void Check::checkList(std::int32_t slot, const MaterialProperty& property)
 {
-    if (getValueKind(property.id) != eValueKind::NumberList)
+    if (getValueKind(property.id) != ValueKind::NumberList)
         return;
     if (property.values.empty())
         find(slot, message::noNumber, {nameArgument(property.id)});

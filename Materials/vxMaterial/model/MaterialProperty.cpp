@@ -8,7 +8,7 @@
 
 namespace vxMat {
 
-eValueKind getValueKind(std::int32_t id)
+ValueKind getValueKind(std::int32_t id)
 {
     switch (id) {
     case PropertyId::NeoHooke:
@@ -16,15 +16,15 @@ eValueKind getValueKind(std::int32_t id)
     case PropertyId::ArrudaBoyce:
     case PropertyId::IsotropicElasticity:
     case PropertyId::Plasticity:
-        return eValueKind::ModelSwitch;
+        return ValueKind::ModelSwitch;
     case PropertyId::PlasticYieldType:
     case PropertyId::PlasticHardeningType:
-        return eValueKind::Word;
+        return ValueKind::Word;
     case PropertyId::PlasticYieldStress:
     case PropertyId::PlasticStrain:
-        return eValueKind::NumberList;
+        return ValueKind::NumberList;
     default:
-        return eValueKind::Number;
+        return ValueKind::Number;
     }
 }
 
@@ -63,16 +63,16 @@ MaterialProperty::MaterialProperty(std::int32_t propertyId, std::string displayN
     : id(propertyId), name(std::move(displayName)), key(std::move(shortKey)), description(std::move(hint))
 {
     switch (getValueKind(propertyId)) {
-    case eValueKind::ModelSwitch:
+    case ValueKind::ModelSwitch:
         value = 1.0;
         break;
-    case eValueKind::Word:
+    case ValueKind::Word:
         text = valueText;
         break;
-    case eValueKind::NumberList:
+    case ValueKind::NumberList:
         values = readNumberList(valueText);
         break;
-    case eValueKind::Number:
+    case ValueKind::Number:
         value = readNumber(valueText);
         break;
     }
@@ -103,9 +103,9 @@ void MaterialProperty::initProperty() {}
 std::string formatValue(const MaterialProperty& property)
 {
     switch (getValueKind(property.id)) {
-    case eValueKind::Word:
+    case ValueKind::Word:
         return property.text;
-    case eValueKind::NumberList:
+    case ValueKind::NumberList:
         return formatNumberList(property.values);
     default:
         return formatNumber(property.value);

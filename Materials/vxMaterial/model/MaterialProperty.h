@@ -25,7 +25,7 @@ enum class ePropertyCategory : std::int32_t
 };
 
 /// The form of a quantity's value.
-enum class eValueKind
+enum class ValueKind
 {
     Number,      ///< one number, in MaterialProperty::value
     Word,        ///< a word of a fixed list, in MaterialProperty::text
@@ -35,7 +35,7 @@ enum class eValueKind
 
 /// Returns how text typed for the quantity `id` is read. The switches of visco-elasticity (42) and creep (45) are read
 /// as numbers, unlike the other switches; a text that is not a number is refused for them.
-VXMAT_MODEL_EXPORT eValueKind getValueKind(std::int32_t id);
+VXMAT_MODEL_EXPORT ValueKind getValueKind(std::int32_t id);
 
 /// Returns the display name of a category number, "Linear Elastic" for 1; "Undefined" for a number outside 0 to 8.
 VXMAT_MODEL_EXPORT const char* getPropertyCategoryName(std::int32_t category);

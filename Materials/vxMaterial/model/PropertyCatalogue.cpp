@@ -8,7 +8,7 @@ namespace vxMat {
 namespace {
 
 using Category = ePropertyCategory;
-using Kind = eValueKind;
+using Kind = ValueKind;
 
 constexpr double largest = std::numeric_limits<double>::max();
 

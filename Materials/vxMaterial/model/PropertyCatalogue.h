@@ -24,7 +24,7 @@ struct PropertyRecord
     const char* unit;                              ///< "-" for a quantity without a unit
     const char* description;                       ///< a hint for the user; empty for a quantity without one
     ePropertyCategory category;                    ///< page of the editor
-    eValueKind kind;                               ///< form of the value; getValueKind says how typed text is read
+    ValueKind kind;                                ///< form of the value; getValueKind says how typed text is read
     double defaultNumber;                          ///< of a number or switch; the only element of a list; 0 for a word
     std::unique_ptr<MaterialProperty> (*create)(); ///< makes a property of the quantity's class, with its default
 };

@@ -107,9 +107,9 @@ std::optional<IgnoredText> findIgnoredText(std::int32_t id, std::string_view val
 {
     try {
         switch (getValueKind(id)) {
-        case eValueKind::Number:
+        case ValueKind::Number:
             return ignoredBehindNumber(valueText);
-        case eValueKind::NumberList:
+        case ValueKind::NumberList:
             return ignoredInList(valueText);
         default:
             return std::nullopt;

@@ -43,10 +43,10 @@ DocumentMaterial::DocumentMaterial()
     id.setValue(0);
     classLabel.setValue("Material Project");
     physicsType.setValue("Structural");
-    register_property(propertyData, id, "ID", "Info", 1, "Identity of the tree object");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", 1, "class name");
-    register_property(propertyData, physicsType, "PhysicsType", "Definition", 9,
-                      "Physics type simulated in this project");
+    registerProperty(propertyData, id, "ID", "Info", 1, "Identity of the tree object");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", 1, "class name");
+    registerProperty(propertyData, physicsType, "PhysicsType", "Definition", 9,
+                     "Physics type simulated in this project");
     matMgr.initMaterialLibrary();
     matMgr.initPropertyCatalogue();
 }

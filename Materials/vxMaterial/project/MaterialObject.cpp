@@ -18,8 +18,8 @@ MaterialObject::MaterialObject() : material(std::make_unique<vxMat::CMaterial>("
 {
     id.setValue(0);
     classLabel.setValue("Material");
-    register_property(propertyData, id, "ID", "Info", 1, "Identity of the tree object");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", 1, "class name");
+    registerProperty(propertyData, id, "ID", "Info", 1, "Identity of the tree object");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", 1, "class name");
     MaterialObject::setObjectState(Obj::eVXObjectState::Initial);
 }
 

@@ -80,18 +80,18 @@ protected:
 
 private:
     // For extensions of the host; the module does not use them.
-    boost::signals2::signal<boost::any(), boost::signals2::last_value<boost::any>> dataRequested;
-    std::map<int, int> dataIndices;
+    boost::signals2::signal<boost::any(), boost::signals2::last_value<boost::any>> m_dataRequested;
+    std::map<int, int> m_dataIndices;
 
     int rowCounts = 0;
     int columnCounts = 4;
 
     // Not registered, and therefore not visible as host properties.
-    Obj::PropertyInteger rows;
-    Obj::PropertyInteger columns;
-    Obj::PropertyCoupleArray couples;
-    boost::signals2::scoped_connection objectConnection;
-    boost::signals2::scoped_connection projectConnection;
+    Obj::PropertyInteger m_rows;
+    Obj::PropertyInteger m_columns;
+    Obj::PropertyCoupleArray m_couples;
+    boost::signals2::scoped_connection m_objectConnection;
+    boost::signals2::scoped_connection m_projectConnection;
 
     std::unique_ptr<vxMat::CMaterial> material;
 };

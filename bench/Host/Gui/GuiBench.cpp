@@ -49,7 +49,7 @@ double longestTurn(const std::function<void()>& command)
 
 void run(const char* command)
 {
-    Gui::GuiApplication::Instance->get_command_manager().run_command(command);
+    Gui::GuiApplication::Instance->get_command_manager().runCommand(command);
 }
 
 /// Shows a project with many materials and measures commands on them. Each measurement also checks the result, because
@@ -57,9 +57,9 @@ void run(const char* command)
 class Commands
 {
 public:
-    explicit Commands(Gui::MainWindow& window) : m_tree(window.get_project_explorer())
+    explicit Commands(Gui::MainWindow& window) : m_tree(window.getProjectExplorer())
     {
-        m_project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials");
+        m_project = Obj::Application::instance().createProject("Mat::DocumentMaterial", "Materials");
         for (int i = 0; i < materialCount; ++i)
             m_project->add_object("Mat::MaterialObject", "Material");
         vxMsg::MessageProxy::instance().undoStack().clear();
@@ -86,7 +86,7 @@ public:
     bool passed() const { return m_passed; }
 
 private:
-    int countObjects() const { return static_cast<int>(m_project->get_object_count()); }
+    int countObjects() const { return static_cast<int>(m_project->getObjectCount()); }
     int countRows() const
     {
         const Gui::ProjectTreeModel& model = m_tree.treeModel();
@@ -103,7 +103,7 @@ private:
     }
     int countSuppressed() const
     {
-        const std::vector<Obj::ProjectObject*> objects = m_project->get_objects();
+        const std::vector<Obj::ProjectObject*> objects = m_project->getObjects();
         return static_cast<int>(std::count_if(objects.begin(), objects.end(),
                                               [](const Obj::ProjectObject* object) { return object->isSuppressed(); }));
     }
@@ -121,7 +121,7 @@ bool measureCommands(int& argc, char** argv)
     initMat();
     initMatGui();
     Mat::registerRequests();
-    window.set_workbench("MatGui::SimModule");
+    window.setWorkbench("MatGui::SimModule");
     window.show();
     Commands commands(window);
     constexpr int all = materialCount;
@@ -133,7 +133,7 @@ bool measureCommands(int& argc, char** argv)
     commands.measure("redo it", "Std_Redo", all, 0, all);
     commands.measure("redo the deletion", "Std_Redo", 0, 0, 0);
     vxMsg::MessageProxy::instance().undoStack().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     return commands.passed();
 }
 
@@ -160,9 +160,9 @@ int startOurs(int& argc, char** argv)
     Gui::MainWindow window;
     initMat();
     initMatGui();
-    kelta::registerMaterialContributions(application);
+    desktop::registerMaterialContributions(application);
     Mat::registerRequests();
-    window.set_workbench("MatGui::SimModule");
+    window.setWorkbench("MatGui::SimModule");
     return paintOnce(window);
 }
 

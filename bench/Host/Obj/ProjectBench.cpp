@@ -38,7 +38,7 @@ constexpr std::size_t most = 100000;
 class Thing : public Obj::ProjectObject
 {
 public:
-    Thing() { register_property(data, id, "ID", "Info", 1, "Identity of the tree object"); }
+    Thing() { registerProperty(data, id, "ID", "Info", 1, "Identity of the tree object"); }
     static void* create() { return static_cast<Kelta::RootClass*>(new Thing); }
     static inline Kelta::TypeInfo type;
     static inline Obj::PropertyCoreData data;
@@ -69,11 +69,11 @@ class OpenProject
 {
 public:
     explicit OpenProject(const char* className)
-        : m_project(Obj::Application::instance().create_project(className, "Bench"))
+        : m_project(Obj::Application::instance().createProject(className, "Bench"))
     {}
     OpenProject(const OpenProject&) = delete;
     OpenProject& operator=(const OpenProject&) = delete;
-    ~OpenProject() { Obj::Application::instance().close_project(*m_project); }
+    ~OpenProject() { Obj::Application::instance().closeProject(*m_project); }
 
     Obj::Project* operator->() const { return m_project; }
 
@@ -107,7 +107,7 @@ nanoseconds addInPortions(const char* projectClass, std::size_t count, const Add
 {
     nanoseconds time{0};
     for (std::size_t done = 0; done < most; done += count) {
-        Obj::Project& project = *Obj::Application::instance().create_project(projectClass, "Bench");
+        Obj::Project& project = *Obj::Application::instance().createProject(projectClass, "Bench");
         time += processorTimeOf([&] {
             for (std::size_t i = 0; i < count; ++i)
                 add(project);
@@ -123,7 +123,7 @@ nanoseconds addThings(std::size_t count)
     std::vector<Obj::OwnedProject> full;
     return addInPortions(
         "Bench::ThingProject", count, [](Obj::Project& project) { project.add_object("Bench::Thing", "Thing"); },
-        [&full](const Obj::Project& project) { full.push_back(Obj::Application::instance().take_project(project)); });
+        [&full](const Obj::Project& project) { full.push_back(Obj::Application::instance().takeProject(project)); });
 }
 
 nanoseconds addMaterials(std::size_t count)
@@ -148,7 +148,7 @@ struct Searched
         for (std::size_t i = 0; i < count; ++i)
             project->add_object("Bench::Thing", "Thing");
         std::mt19937 random(1);
-        const std::vector<Obj::ProjectObject*> objects = project->get_objects();
+        const std::vector<Obj::ProjectObject*> objects = project->getObjects();
         for (std::size_t i = 0; i < most; ++i) {
             const Obj::ProjectObject& object = *objects[random() % objects.size()];
             ids.push_back(object.getObjectId());
@@ -194,7 +194,7 @@ Json::Value recordByHand(const Steels& steels)
     record["proj_id"] = steels.project->getProjectId();
     record["physics_type"] = "Material";
     Json::Value objects(Json::arrayValue);
-    for (const Obj::ProjectObject* const object : steels.project->get_objects()) {
+    for (const Obj::ProjectObject* const object : steels.project->getObjects()) {
         Json::Value json;
         json["obj_id"] = object->getObjectId();
         json["class"] = "Mat::MaterialObject";
@@ -209,7 +209,7 @@ Json::Value recordByHand(const Steels& steels)
 Json::Value documentByHand(const Steels& steels)
 {
     Json::Value materials(Json::arrayValue);
-    for (const Obj::ProjectObject* const object : steels.project->get_objects()) {
+    for (const Obj::ProjectObject* const object : steels.project->getObjects()) {
         Json::Value properties(Json::arrayValue);
         for (const auto& [key, property] : static_cast<const Mat::MaterialObject*>(object)->getCMaterial()->properties)
         {

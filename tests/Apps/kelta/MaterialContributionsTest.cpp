@@ -91,21 +91,21 @@ TEST_F(Materials, AreTheOnlyWorkbench)
 
 TEST_F(Materials, AreOfferedStepByStepOnTheWelcomePage)
 {
-    window->update_commands();
+    window->updateCommands();
     EXPECT_EQ(pageTitle(), "No project is open");
     EXPECT_THAT(pageButtons(), ElementsAre("Mat_NewDoc", "Std_Open"));
     newProject();
-    window->update_commands();
+    window->updateCommands();
     EXPECT_EQ(pageTitle(), "The project has no materials yet");
     EXPECT_THAT(pageButtons(), ElementsAre("Mat_AddMaterial"));
     Mat::MaterialObject& steel = addMaterial();
     Gui::TreeSelectionSingleton::instance().clear();
-    window->update_commands();
+    window->updateCommands();
     EXPECT_EQ(pageTitle(), "No material is open");
     EXPECT_THAT(pageButtons(), ElementsAre("Mat_Edit"));
     EXPECT_FALSE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());
-    Gui::TreeSelectionSingleton::instance().set_selection({}, {&steel});
-    window->update_commands();
+    Gui::TreeSelectionSingleton::instance().setSelection({}, {&steel});
+    window->updateCommands();
     EXPECT_TRUE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());
 }
 
@@ -121,7 +121,7 @@ TEST_F(Materials, CanBeBegunFromTheEmptyTree)
         }
     });
     timer.start(1);
-    QWidget* const tree = window->get_project_explorer().viewport();
+    QWidget* const tree = window->getProjectExplorer().viewport();
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), tree->mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(tree, &event);
     EXPECT_THAT(offered, ElementsAre("Mat_NewDoc"));
@@ -138,7 +138,7 @@ TEST_F(Materials, AreToldOfInTheAboutBox)
 
 TEST_F(Materials, AreCheckedByF7)
 {
-    const Gui::Command* const check = Gui::GuiApplication::Instance->get_command_manager().find_command("Mat_Check");
+    const Gui::Command* const check = Gui::GuiApplication::Instance->get_command_manager().findCommand("Mat_Check");
     EXPECT_EQ(check->get_shortcut(), QKeySequence(Qt::Key_F7));
 }
 
@@ -146,7 +146,7 @@ TEST_F(Materials, ContributeOnceHoweverOftenTheyAreAsked)
 {
     const auto before = menus();
     const std::size_t places = Gui::GuiApplication::Instance->contributions().menuPlaces().size();
-    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
+    desktop::registerMaterialContributions(*Gui::GuiApplication::Instance);
     QCoreApplication::processEvents();
     EXPECT_EQ(menus(), before);
     EXPECT_EQ(Gui::GuiApplication::Instance->contributions().menuPlaces().size(), places);

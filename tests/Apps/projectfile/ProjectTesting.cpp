@@ -274,22 +274,22 @@ int Dice::upTo(int most)
 
 std::int32_t Dice::whole()
 {
-    using limits = std::numeric_limits<std::int32_t>;
-    return std::uniform_int_distribution<std::int32_t>(limits::min(), limits::max())(m_engine);
+    using Limits = std::numeric_limits<std::int32_t>;
+    return std::uniform_int_distribution<std::int32_t>(Limits::min(), Limits::max())(m_engine);
 }
 
 double Dice::number()
 {
-    using limits = std::numeric_limits<double>;
+    using Limits = std::numeric_limits<double>;
     const double special[] = {0.0,
                               -0.0,
-                              limits::max(),
-                              limits::lowest(),
-                              limits::min(),
-                              limits::denorm_min(),
-                              limits::infinity(),
-                              -limits::infinity(),
-                              limits::quiet_NaN(),
+                              Limits::max(),
+                              Limits::lowest(),
+                              Limits::min(),
+                              Limits::denorm_min(),
+                              Limits::infinity(),
+                              -Limits::infinity(),
+                              Limits::quiet_NaN(),
                               0.1,
                               9007199254740993.0,
                               18446744073709551616.0,

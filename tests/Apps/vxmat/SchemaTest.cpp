@@ -109,13 +109,13 @@ TEST(Schema, FitsTheAnalysesThatTheWriterMakes)
 
 TEST(Schema, FitsAProjectWithEveryMember)
 {
-    using limits = std::numeric_limits<double>;
+    using Limits = std::numeric_limits<double>;
     vxMat::MaterialBase material;
     material.id = std::numeric_limits<std::int32_t>::min();
     material.name = "\xE9\x92\xA2 \"quoted\"\n\x01";
     std::int32_t key = -2;
-    for (const double number : {limits::max(), limits::lowest(), limits::denorm_min(), -0.0, limits::infinity(),
-                                -limits::infinity(), limits::quiet_NaN()})
+    for (const double number : {Limits::max(), Limits::lowest(), Limits::denorm_min(), -0.0, Limits::infinity(),
+                                -Limits::infinity(), Limits::quiet_NaN()})
     {
         auto property = std::make_unique<vxMat::MaterialProperty>();
         property->value = number;

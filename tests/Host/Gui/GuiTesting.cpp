@@ -11,7 +11,7 @@ void TestProject::init()
 {
     initSubclass(type, "Test::Project", "Obj::Project",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProject); });
-    data.set_parent(Obj::Project::get_property_data_ref());
+    data.setParent(Obj::Project::get_property_data_ref());
 }
 
 void TestProject::collect_frontend_data()
@@ -29,45 +29,45 @@ void OtherProject::init()
 
 TestObject::TestObject()
 {
-    register_property(data, count, "Count", "Values", Obj::PropertyType::None, "How many");
-    register_property(data, fixed, "Fixed", "Info", Obj::PropertyType::ReadOnly, "Cannot be changed");
-    register_property(data, hidden, "Secret", "Info", Obj::PropertyType::Hidden, "Nobody sees it");
+    registerProperty(data, count, "Count", "Values", Obj::PropertyType::none, "How many");
+    registerProperty(data, fixed, "Fixed", "Info", Obj::PropertyType::readOnly, "Cannot be changed");
+    registerProperty(data, hidden, "Secret", "Info", Obj::PropertyType::hidden, "Nobody sees it");
 }
 
 void TestObject::init()
 {
     initSubclass(type, "Test::Object", "Obj::ProjectObject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestObject); });
-    data.set_parent(Obj::ProjectObject::get_property_data_ref());
+    data.setParent(Obj::ProjectObject::get_property_data_ref());
 }
 
 TypedObject::TypedObject()
 {
-    register_property(data, length, "Length", "Values", Obj::PropertyType::None, "How long");
-    register_property(data, active, "Active", "Values", Obj::PropertyType::None, "Whether it works");
-    register_property(data, locked, "Locked", "Values", Obj::PropertyType::ReadOnly, "Whether it is locked");
-    register_property(data, kind, "Kind", "Values", Obj::PropertyType::None, "What it is");
-    register_property(data, partner, "Partner", "Values", Obj::PropertyType::None, "What it works with");
+    registerProperty(data, length, "Length", "Values", Obj::PropertyType::none, "How long");
+    registerProperty(data, active, "Active", "Values", Obj::PropertyType::none, "Whether it works");
+    registerProperty(data, locked, "Locked", "Values", Obj::PropertyType::readOnly, "Whether it is locked");
+    registerProperty(data, kind, "Kind", "Values", Obj::PropertyType::none, "What it is");
+    registerProperty(data, partner, "Partner", "Values", Obj::PropertyType::none, "What it works with");
 }
 
 void TypedObject::init()
 {
     initSubclass(type, "Test::Typed", "Obj::ProjectObject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TypedObject); });
-    data.set_parent(Obj::ProjectObject::get_property_data_ref());
+    data.setParent(Obj::ProjectObject::get_property_data_ref());
 }
 
 TestNode::TestNode() : color(Obj::Color{0.5F, 0.25F, 1.0F, 0.0F})
 {
     pixmapName = "kelta_paste";
-    register_property(data, color, "Color", "View", Obj::PropertyType::Passive, "How it looks");
+    registerProperty(data, color, "Color", "View", Obj::PropertyType::passive, "How it looks");
 }
 
 void TestNode::init()
 {
     initSubclass(type, "Test::Node", "Gui::ViewFeederProjectObject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestNode); });
-    data.set_parent(Gui::ViewFeederProjectObject::get_property_data_ref());
+    data.setParent(Gui::ViewFeederProjectObject::get_property_data_ref());
 }
 
 bool TestNode::setEdit(int mode)
@@ -92,14 +92,14 @@ void TestNode::build_context_menu(QMenu* menu, QObject* receiver, const char* sl
 TestProjectNode::TestProjectNode()
 {
     pixmapName = "kelta_copy";
-    register_property(data, order, "Order", "View", Obj::PropertyType::Passive, "Where it is");
+    registerProperty(data, order, "Order", "View", Obj::PropertyType::passive, "Where it is");
 }
 
 void TestProjectNode::init()
 {
     initSubclass(type, "Test::ProjectNode", "Gui::ViewFeederProject",
                  []() -> void* { return static_cast<Kelta::RootClass*>(new TestProjectNode); });
-    data.set_parent(Gui::ViewFeederProject::get_property_data_ref());
+    data.setParent(Gui::ViewFeederProject::get_property_data_ref());
 }
 
 void TestEditor::init()
@@ -147,7 +147,7 @@ template <typename Item>
 Item* makeItem(const char* text, std::initializer_list<const char*> itemCommands)
 {
     auto item = std::make_unique<Item>();
-    item->set_command(text);
+    item->setCommand(text);
     for (const char* const command : itemCommands)
         *item << command;
     return item.release();
@@ -208,14 +208,14 @@ Host::Host()
     TestProjectNode::init();
     TestWorkbench::init();
     window = std::make_unique<Gui::MainWindow>(contributions);
-    window->set_workbench("Gui::StdSimModule");
+    window->setWorkbench("Gui::StdSimModule");
     window->show();
 }
 
 Host::~Host()
 {
     undoStack().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     selection().clear();
 }
 
@@ -227,7 +227,7 @@ std::string Host::lastMessage()
 
 TestProject& Host::makeProject(const char* name)
 {
-    return *static_cast<TestProject*>(Obj::Application::instance().create_project("Test::Project", name));
+    return *static_cast<TestProject*>(Obj::Application::instance().createProject("Test::Project", name));
 }
 
 TestObject& Host::addObject(Obj::Project& project, const char* label)

@@ -38,7 +38,7 @@ namespace vxtest {
 class TestProject final : public Obj::Project
 {
 public:
-    TestProject() { register_property(data, count, "Count", "Values", Obj::PropertyType::None, "How many"); }
+    TestProject() { registerProperty(data, count, "Count", "Values", Obj::PropertyType::none, "How many"); }
     Kelta::TypeInfo getTypeId() const override { return type; }
     const char* get_viewfeeder_name() const override { return "Test::ProjectNode"; }
     void collect_frontend_data() override;
@@ -173,10 +173,10 @@ private:
 class TestCommand : public Gui::Command
 {
 public:
-    TestCommand(const char* name, std::function<void()> action, int flags = Gui::CommandType::None,
+    TestCommand(const char* name, std::function<void()> action, int flags = Gui::CommandType::none,
                 const QKeySequence& keys = {});
     ~TestCommand() override;
-    const char* get_class_name() const override { return "TestCommand"; }
+    const char* getClassName() const override { return "TestCommand"; }
     void activated(int index) override;
     bool is_applicable() override { return applicable; }
 
@@ -218,11 +218,11 @@ protected:
     ~Host() override;
 
     static Gui::CommandController& commands() { return Gui::GuiApplication::Instance->get_command_manager(); }
-    static bool run(const char* command) { return commands().run_command(command); }
-    static bool isApplicable(const char* command) { return commands().find_command(command)->is_applicable(); }
+    static bool run(const char* command) { return commands().runCommand(command); }
+    static bool isApplicable(const char* command) { return commands().findCommand(command)->is_applicable(); }
     static QUndoStack& undoStack() { return vxMsg::MessageProxy::instance().undoStack(); }
     static Gui::TreeSelectionSingleton& selection() { return Gui::TreeSelectionSingleton::instance(); }
-    static void select(const std::vector<Obj::ProjectObject*>& objects) { selection().set_selection({}, objects); }
+    static void select(const std::vector<Obj::ProjectObject*>& objects) { selection().setSelection({}, objects); }
     static std::string lastMessage();
 
     static TestProject& makeProject(const char* name = "Project");
@@ -230,7 +230,7 @@ protected:
     static TypedObject& addTyped(Obj::Project& project, const char* label = "Typed");
     static TestNode& nodeOf(Obj::ProjectObject& object);
 
-    Gui::ProjectExplorer& explorer() const { return window->get_project_explorer(); }
+    Gui::ProjectExplorer& explorer() const { return window->getProjectExplorer(); }
     Gui::ProjectTreeModel& model() const { return explorer().treeModel(); }
     /// Gives the explorer the keyboard, and expands all of it.
     void focusExplorer() const;

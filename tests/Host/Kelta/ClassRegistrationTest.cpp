@@ -44,15 +44,15 @@ TEST(ClassRegistration, MakesAClassKnownUnderItsFullNameWithItsParent)
     Saw::init();
     EXPECT_EQ(Kelta::TypeInfo::find("workshop::Saw"), Saw::getClassTypeId());
     EXPECT_STREQ(Saw::getClassTypeId().get_name(), "workshop::Saw");
-    EXPECT_EQ(Saw::getClassTypeId().get_parent(), Tool::getClassTypeId());
-    EXPECT_EQ(Tool::getClassTypeId().get_parent(), Kelta::RootClass::getClassTypeId());
+    EXPECT_EQ(Saw::getClassTypeId().getParent(), Tool::getClassTypeId());
+    EXPECT_EQ(Tool::getClassTypeId().getParent(), Kelta::RootClass::getClassTypeId());
 }
 
 TEST(ClassRegistration, CreatesObjectsThatKnowTheirType)
 {
     Tool::init();
     Saw::init();
-    const auto created = Kelta::RootClass::create_by_name("workshop::Saw");
+    const auto created = Kelta::RootClass::createByName("workshop::Saw");
     ASSERT_NE(created, nullptr);
     EXPECT_EQ(created->getTypeId(), Saw::getClassTypeId());
     EXPECT_EQ(dynamic_cast<const Tool&>(*created).teeth(), 40);
@@ -61,7 +61,7 @@ TEST(ClassRegistration, CreatesObjectsThatKnowTheirType)
 TEST(ClassRegistration, CreatesNoObjectOfAnAbstractClass)
 {
     Tool::init();
-    EXPECT_EQ(Kelta::RootClass::create_by_name("workshop::Tool"), nullptr);
+    EXPECT_EQ(Kelta::RootClass::createByName("workshop::Tool"), nullptr);
 }
 
 TEST(ClassRegistration, PassesOnWhatAConstructorThrows)
@@ -69,7 +69,7 @@ TEST(ClassRegistration, PassesOnWhatAConstructorThrows)
     Tool::init();
     Saw::init();
     Saw::isBroken = true;
-    EXPECT_THROW(Kelta::RootClass::create_by_name("workshop::Saw"), std::runtime_error);
+    EXPECT_THROW(Kelta::RootClass::createByName("workshop::Saw"), std::runtime_error);
     Saw::isBroken = false;
 }
 

@@ -102,7 +102,7 @@ TEST_F(DataPersistenceTest, KnowsWhatAnObjectOfItsClassTakes)
 {
     Ledger::init();
     const Ledger ledger;
-    EXPECT_EQ(Ledger::getClassTypeId().get_object_size(), sizeof(Ledger));
+    EXPECT_EQ(Ledger::getClassTypeId().getObjectSize(), sizeof(Ledger));
     EXPECT_EQ(ledger.get_memory_usage(), sizeof(Ledger));
     EXPECT_EQ(Note().get_memory_usage(), sizeof(DataPersistence)) << "its class is registered without a size";
 }

@@ -34,7 +34,7 @@ void* createThrowing()
 TEST(RootClass, CreatesAnObjectByItsRegisteredName)
 {
     Screw::init();
-    const std::unique_ptr<RootClass> object = RootClass::create_by_name("Test::Screw");
+    const std::unique_ptr<RootClass> object = RootClass::createByName("Test::Screw");
     ASSERT_NE(object, nullptr);
     EXPECT_EQ(object->getTypeId(), Screw::classTypeId);
     EXPECT_TRUE(object->is_inherited_from(RootClass::getClassTypeId()));
@@ -43,17 +43,17 @@ TEST(RootClass, CreatesAnObjectByItsRegisteredName)
 
 TEST(RootClass, CreatesNothingOfAClassThatIsNotRegistered)
 {
-    EXPECT_EQ(RootClass::create_by_name("Test::Nail"), nullptr);
-    EXPECT_EQ(RootClass::create_by_name(""), nullptr);
-    EXPECT_EQ(RootClass::create_by_name(nullptr), nullptr);
-    EXPECT_EQ(RootClass::create_by_name("Kelta::RootClass"), nullptr) << "it is not made this way";
+    EXPECT_EQ(RootClass::createByName("Test::Nail"), nullptr);
+    EXPECT_EQ(RootClass::createByName(""), nullptr);
+    EXPECT_EQ(RootClass::createByName(nullptr), nullptr);
+    EXPECT_EQ(RootClass::createByName("Kelta::RootClass"), nullptr) << "it is not made this way";
 }
 
 TEST(RootClass, LetsThroughWhatAConstructorThrows)
 {
     TypeInfo type;
     RootClass::initSubclass(type, "Test::Throwing", "Kelta::RootClass", &createThrowing);
-    EXPECT_THROW(RootClass::create_by_name("Test::Throwing"), std::runtime_error);
+    EXPECT_THROW(RootClass::createByName("Test::Throwing"), std::runtime_error);
 }
 
 TEST(RootClass, IsTheTypeOfAnObjectWhoseClassDoesNotSayItsOwn)
@@ -80,8 +80,8 @@ TEST(RootClass, RefusesAnotherClassUnderTheSameName)
     RootClass::initSubclass(other, "Test::Screw", "Kelta::RootClass", &createOther);
     EXPECT_EQ(reports.errors(), 1);
     EXPECT_THAT(reports.text(), HasSubstr("\"Test::Screw\" cannot be registered: another class has this name"));
-    EXPECT_FALSE(other.names_a_type()) << "it must not be taken for the class that has the name";
-    EXPECT_NE(RootClass::create_by_name("Test::Screw"), nullptr) << "the first one stays";
+    EXPECT_FALSE(other.namesAType()) << "it must not be taken for the class that has the name";
+    EXPECT_NE(RootClass::createByName("Test::Screw"), nullptr) << "the first one stays";
 }
 
 TEST(RootClass, RefusesTheSameClassUnderAnotherParent)
@@ -92,7 +92,7 @@ TEST(RootClass, RefusesTheSameClassUnderAnotherParent)
     RootClass::initSubclass(Screw::classTypeId, "Test::Screw", "Kelta::DataPersistence", &Screw::create);
     EXPECT_EQ(reports.errors(), 1);
     EXPECT_EQ(Screw::classTypeId, before);
-    EXPECT_EQ(before.get_parent(), RootClass::getClassTypeId());
+    EXPECT_EQ(before.getParent(), RootClass::getClassTypeId());
 }
 
 TEST(RootClass, RefusesAClassWithoutAName)
@@ -102,7 +102,7 @@ TEST(RootClass, RefusesAClassWithoutAName)
     RootClass::initSubclass(type, "", "Kelta::RootClass", nullptr);
     RootClass::initSubclass(type, nullptr, "Kelta::RootClass", nullptr);
     EXPECT_EQ(reports.errors(), 2);
-    EXPECT_FALSE(type.names_a_type());
+    EXPECT_FALSE(type.namesAType());
 }
 
 TEST(RootClass, RefusesAClassThatWouldDescendFromItself)
@@ -110,14 +110,14 @@ TEST(RootClass, RefusesAClassThatWouldDescendFromItself)
     const vxtest::Reports reports;
     TypeInfo own;
     RootClass::initSubclass(own, "Test::OwnParent", "Test::OwnParent", nullptr);
-    EXPECT_FALSE(own.names_a_type());
+    EXPECT_FALSE(own.namesAType());
     TypeInfo egg;
     TypeInfo hen;
     TypeInfo chick;
     RootClass::initSubclass(egg, "Test::Egg", "Test::Hen", nullptr);
     RootClass::initSubclass(chick, "Test::Chick", "Test::Egg", nullptr);
     RootClass::initSubclass(hen, "Test::Hen", "Test::Chick", nullptr);
-    EXPECT_FALSE(hen.names_a_type());
+    EXPECT_FALSE(hen.namesAType());
     EXPECT_EQ(reports.errors(), 2);
     EXPECT_THAT(reports.text(), HasSubstr("\"Test::Hen\" cannot be registered: it would descend from itself"));
 }
@@ -126,8 +126,8 @@ TEST(RootClass, MayBeTheRootOfALineOfItsOwn)
 {
     TypeInfo type;
     RootClass::initSubclass(type, "Test::Lonely", nullptr, nullptr);
-    EXPECT_TRUE(type.names_a_type());
-    EXPECT_FALSE(type.get_parent().names_a_type());
+    EXPECT_TRUE(type.namesAType());
+    EXPECT_FALSE(type.getParent().namesAType());
 }
 
 } // namespace

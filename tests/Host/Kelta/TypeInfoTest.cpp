@@ -13,9 +13,9 @@ using Kelta::TypeInfo;
 TEST(TypeInfo, OfNoTypeIsHarmless)
 {
     const TypeInfo none;
-    EXPECT_FALSE(none.names_a_type());
+    EXPECT_FALSE(none.namesAType());
     EXPECT_STREQ(none.get_name(), "");
-    EXPECT_EQ(none.get_parent(), none);
+    EXPECT_EQ(none.getParent(), none);
     EXPECT_EQ(none.create(), nullptr);
     EXPECT_FALSE(none.is_inherited_from(none));
     EXPECT_FALSE(none.is_inherited_from(RootClass::getClassTypeId()));
@@ -38,7 +38,7 @@ TEST(TypeInfo, HasTheSizeOfAPointer)
 
 TEST(TypeInfo, OfTheRootHasNoParentAndCreatesNothing)
 {
-    EXPECT_FALSE(RootClass::getClassTypeId().get_parent().names_a_type());
+    EXPECT_FALSE(RootClass::getClassTypeId().getParent().namesAType());
     EXPECT_EQ(RootClass::getClassTypeId().create(), nullptr);
 }
 
@@ -47,12 +47,12 @@ TEST(TypeInfo, FindsAParentThatIsRegisteredLater)
     TypeInfo child;
     TypeInfo parent;
     RootClass::initSubclass(child, "Test::EarlyChild", "Test::LateParent", nullptr);
-    EXPECT_FALSE(child.get_parent().names_a_type());
+    EXPECT_FALSE(child.getParent().namesAType());
     EXPECT_TRUE(child.is_inherited_from(child));
     EXPECT_FALSE(child.is_inherited_from(RootClass::getClassTypeId()));
     RootClass::initSubclass(parent, "Test::LateParent", "Kelta::RootClass", nullptr);
-    EXPECT_EQ(child.get_parent(), parent);
-    EXPECT_EQ(child.get_parent(), parent) << "also when asked again";
+    EXPECT_EQ(child.getParent(), parent);
+    EXPECT_EQ(child.getParent(), parent) << "also when asked again";
     EXPECT_TRUE(child.is_inherited_from(RootClass::getClassTypeId()));
     EXPECT_FALSE(parent.is_inherited_from(child));
 }

@@ -41,10 +41,10 @@ TEST_F(ApplicationTest, MakesAProjectByItsRegisteredClassAndMakesItCurrent)
 TEST_F(ApplicationTest, MakesNothingOfAClassThatIsNotRegisteredOrNoProject)
 {
     const vxtest::Reports reports;
-    EXPECT_EQ(application().create_project("Test::Nobody", "a"), nullptr);
-    EXPECT_EQ(application().create_project(nullptr, "a"), nullptr);
-    EXPECT_EQ(application().create_project("vxtest::Part", "a"), nullptr);
-    EXPECT_EQ(application().create_project("Obj::Project", "a"), nullptr);
+    EXPECT_EQ(application().createProject("Test::Nobody", "a"), nullptr);
+    EXPECT_EQ(application().createProject(nullptr, "a"), nullptr);
+    EXPECT_EQ(application().createProject("vxtest::Part", "a"), nullptr);
+    EXPECT_EQ(application().createProject("Obj::Project", "a"), nullptr);
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_THAT(reports.text(), HasSubstr("No project of class \"Test::Nobody\" was made: this class is not known."));
     EXPECT_THAT(reports.text(), HasSubstr("\"vxtest::Part\" was made: this is not a class of projects."));
@@ -56,7 +56,7 @@ TEST_F(ApplicationTest, IsUnchangedWhenTheConstructorOfAProjectThrows)
 {
     Assembly& a = addAssembly("a");
     Assembly::constructorThrows() = true;
-    EXPECT_THROW(application().create_project("vxtest::Assembly", "b"), std::runtime_error);
+    EXPECT_THROW(application().createProject("vxtest::Assembly", "b"), std::runtime_error);
     EXPECT_THAT(openProjects(), ElementsAre("a"));
     EXPECT_EQ(Application::get_current_project(), &a);
 }
@@ -87,17 +87,17 @@ TEST_F(ApplicationTest, MakesNamesUniqueThatAreTakenOrEmpty)
 
 TEST_F(ApplicationTest, MakesNoNameOfAProjectThatMayComeBack)
 {
-    Obj::OwnedProject away = application().take_project(addAssembly("Machine1"));
+    Obj::OwnedProject away = application().takeProject(addAssembly("Machine1"));
     addAssembly("Machine");
     EXPECT_STREQ(addAssembly("Machine").get_name(), "Machine2");
     const vxtest::Reports reports;
-    application().restore_project(std::move(away));
+    application().restoreProject(std::move(away));
     EXPECT_EQ(reports.warnings(), 0);
 }
 
 TEST_F(ApplicationTest, AddsAProjectThatCodeHasMade)
 {
-    Obj::Project* const project = application().add_project(std::make_unique<vxtest::Assembly>(), "Machine");
+    Obj::Project* const project = application().addProject(std::make_unique<vxtest::Assembly>(), "Machine");
     ASSERT_NE(project, nullptr);
     EXPECT_STREQ(project->get_name(), "Machine");
     EXPECT_EQ(application().get_project(project->getProjectId()), project);
@@ -107,9 +107,9 @@ TEST_F(ApplicationTest, AddsAProjectThatCodeHasMade)
 TEST_F(ApplicationTest, TellsAllListenersThoughOneClosesTheProject)
 {
     std::vector<std::string> told;
-    application().projectAdded.connect([](Obj::Project& project) { application().close_project(project); });
+    application().projectAdded.connect([](Obj::Project& project) { application().closeProject(project); });
     application().projectAdded.connect([&told](Obj::Project& project) { told.emplace_back(project.get_name()); });
-    EXPECT_EQ(application().create_project("vxtest::Assembly", "short-lived"), nullptr);
+    EXPECT_EQ(application().createProject("vxtest::Assembly", "short-lived"), nullptr);
     EXPECT_THAT(told, ElementsAre("short-lived"));
     EXPECT_EQ(Application::get_current_project(), nullptr);
     application().projectAdded.disconnect_all_slots();
@@ -122,12 +122,12 @@ TEST_F(ApplicationTest, ChoosesTheCurrentProjectAmongThoseThatAreOpen)
     std::vector<Project*> told;
     const boost::signals2::scoped_connection connection =
         application().currentProjectChanged.connect([&told](Project* project) { told.push_back(project); });
-    application().set_current_project(a);
-    application().set_current_project(a);
+    application().setCurrentProject(a);
+    application().setCurrentProject(a);
     EXPECT_EQ(Application::get_current_project(), &a);
     EXPECT_THAT(told, ElementsAre(&a));
     Assembly closed;
-    application().set_current_project(closed);
+    application().setCurrentProject(closed);
     EXPECT_EQ(Application::get_current_project(), &a);
 }
 
@@ -136,12 +136,12 @@ TEST_F(ApplicationTest, MakesTheLastOneCurrentWhenTheCurrentOneIsClosed)
     Assembly& a = addAssembly("a");
     Assembly& b = addAssembly("b");
     Assembly& c = addAssembly("c");
-    application().set_current_project(b);
-    EXPECT_TRUE(application().close_project(b));
+    application().setCurrentProject(b);
+    EXPECT_TRUE(application().closeProject(b));
     EXPECT_EQ(Application::get_current_project(), &c);
-    EXPECT_TRUE(application().close_project(a));
+    EXPECT_TRUE(application().closeProject(a));
     EXPECT_EQ(Application::get_current_project(), &c) << "the current one stays it";
-    EXPECT_TRUE(application().close_project(c));
+    EXPECT_TRUE(application().closeProject(c));
     EXPECT_EQ(Application::get_current_project(), nullptr);
 }
 
@@ -150,25 +150,25 @@ TEST_F(ApplicationTest, GivesAProjectAwayAndOpensItAgainAtItsPlace)
     Assembly& a = addAssembly("a");
     a.addPart("part");
     addAssembly("b");
-    Obj::OwnedProject away = application().take_project(a);
+    Obj::OwnedProject away = application().takeProject(a);
     EXPECT_EQ(away.get(), &a);
     EXPECT_THAT(openProjects(), ElementsAre("b"));
-    EXPECT_EQ(application().take_project(a), nullptr);
-    EXPECT_FALSE(application().close_project(a));
-    EXPECT_EQ(application().restore_project(std::move(away)), &a);
+    EXPECT_EQ(application().takeProject(a), nullptr);
+    EXPECT_FALSE(application().closeProject(a));
+    EXPECT_EQ(application().restoreProject(std::move(away)), &a);
     EXPECT_THAT(openProjects(), ElementsAre("a", "b"));
     EXPECT_EQ(Application::get_current_project(), &a);
     EXPECT_NE(a.get_object("part"), nullptr);
-    EXPECT_EQ(application().restore_project(nullptr), nullptr);
+    EXPECT_EQ(application().restoreProject(nullptr), nullptr);
 }
 
 TEST_F(ApplicationTest, GivesAProjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
 {
     Assembly& first = addAssembly("Twin");
-    Obj::OwnedProject away = application().take_project(first);
+    Obj::OwnedProject away = application().takeProject(first);
     Assembly& second = addAssembly("Twin");
     const vxtest::Reports reports;
-    application().restore_project(std::move(away));
+    application().restoreProject(std::move(away));
     EXPECT_EQ(reports.warnings(), 1);
     EXPECT_STREQ(second.get_name(), "Twin");
     EXPECT_EQ(application().get_project("Twin"), &second);
@@ -186,7 +186,7 @@ TEST_F(ApplicationTest, TellsOfProjectsThatComeAndGo)
     });
     addAssembly("a");
     addAssembly("b");
-    application().close_all_projects();
+    application().closeAllProjects();
     EXPECT_THAT(told, ElementsAre("added a", "added b", "removed b", "removed a"));
 }
 
@@ -195,9 +195,9 @@ TEST_F(ApplicationTest, SurvivesAListenerThatClosesAProjectAtOnce)
     int told = 0;
     const boost::signals2::scoped_connection added = application().projectAdded.connect([&told](Project& project) {
         ++told;
-        application().close_project(project);
+        application().closeProject(project);
     });
-    EXPECT_EQ(application().create_project("vxtest::Assembly", "a"), nullptr);
+    EXPECT_EQ(application().createProject("vxtest::Assembly", "a"), nullptr);
     EXPECT_EQ(Application::get_current_project(), nullptr);
     EXPECT_EQ(told, 1);
 }
@@ -222,7 +222,7 @@ TEST(InitObj, ChangesNothingWhenItIsCalledAgain)
     const vxtest::Reports reports;
     Obj::initObj();
     EXPECT_EQ(reports.text(), "");
-    EXPECT_TRUE(Kelta::TypeInfo::find("Obj::ProjectObjectGroup").names_a_type());
+    EXPECT_TRUE(Kelta::TypeInfo::find("Obj::ProjectObjectGroup").namesAType());
 }
 
 } // namespace

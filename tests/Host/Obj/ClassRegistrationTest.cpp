@@ -42,8 +42,8 @@ TEST_F(PropertyClassRegistration, LinksThePropertiesOfAClassToThoseOfItsParent)
 TEST_F(PropertyClassRegistration, MakesTheClassKnownWithTheSizeOfItsObjects)
 {
     EXPECT_STREQ(Joint::getClassTypeId().get_name(), "vxtest::Joint");
-    EXPECT_EQ(Joint::getClassTypeId().get_parent(), Part::getClassTypeId());
-    EXPECT_EQ(Joint::getClassTypeId().get_object_size(), sizeof(Joint));
+    EXPECT_EQ(Joint::getClassTypeId().getParent(), Part::getClassTypeId());
+    EXPECT_EQ(Joint::getClassTypeId().getObjectSize(), sizeof(Joint));
     EXPECT_EQ(Joint().getTypeId(), Joint::getClassTypeId());
 }
 

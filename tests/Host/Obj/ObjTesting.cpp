@@ -21,11 +21,11 @@ Part::Part()
     if (hooks().constructorThrows)
         throw std::runtime_error("a part cannot be made today");
     classLabel.setValue("Part");
-    register_property(propertyData, id, "ID", "Info", Obj::PropertyType::ReadOnly, "Identity of the tree object");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", Obj::PropertyType::ReadOnly, "class name");
-    register_property(propertyData, width, "Width", "Size", Obj::PropertyType::None, "in mm");
-    register_property(propertyData, secret, "Secret", "Info", Obj::PropertyType::Hidden | Obj::PropertyType::ReadOnly,
-                      "");
+    registerProperty(propertyData, id, "ID", "Info", Obj::PropertyType::readOnly, "Identity of the tree object");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", Obj::PropertyType::readOnly, "class name");
+    registerProperty(propertyData, width, "Width", "Size", Obj::PropertyType::none, "in mm");
+    registerProperty(propertyData, secret, "Secret", "Info", Obj::PropertyType::hidden | Obj::PropertyType::readOnly,
+                     "");
     ++partCount;
 }
 
@@ -40,9 +40,9 @@ void Part::on_break_object_link(Obj::ProjectObject* linked)
     if (hooks().breakThrows)
         throw std::runtime_error("a link cannot be broken");
     if (hooks().unlinksWhatLeaves)
-        unlink_from(*linked);
+        unlinkFrom(*linked);
     if (hooks().removesItselfWithWhatItNeeds)
-        get_project()->remove_object(getObjectId());
+        get_project()->removeObject(getObjectId());
 }
 
 void Part::on_project_restored()
@@ -96,7 +96,7 @@ void Part::on_configuring_project()
 
 void Part::on_changed(const Obj::Property* property)
 {
-    note("changed", property->to_text());
+    note("changed", property->toText());
     Obj::ProjectObject::on_changed(property);
     if (hooks().action)
         hooks().action(*this, "changing");
@@ -104,7 +104,7 @@ void Part::on_changed(const Obj::Property* property)
 
 void Part::on_change_before(const Obj::Property* property)
 {
-    note("before", property->to_text());
+    note("before", property->toText());
 }
 
 void Part::note(const char* what, const std::string& about)
@@ -114,14 +114,14 @@ void Part::note(const char* what, const std::string& about)
 
 Joint::Joint()
 {
-    constexpr short editable = Obj::PropertyType::None;
-    register_property(propertyData, first, "First", "Parts", editable, "");
-    register_property(propertyData, second, "Second", "Parts", editable, "");
-    register_property(propertyData, torque, "Torque", "Size", editable, "in Nm");
-    register_property(propertyData, locked, "Locked", "Size", editable, "");
-    register_property(propertyData, kind, "Kind", "Size", editable, "");
-    register_property(propertyData, color, "Color", "Look", editable, "");
-    register_property(propertyData, curve, "Curve", "Size", editable, "");
+    constexpr short editable = Obj::PropertyType::none;
+    registerProperty(propertyData, first, "First", "Parts", editable, "");
+    registerProperty(propertyData, second, "Second", "Parts", editable, "");
+    registerProperty(propertyData, torque, "Torque", "Size", editable, "in Nm");
+    registerProperty(propertyData, locked, "Locked", "Size", editable, "");
+    registerProperty(propertyData, kind, "Kind", "Size", editable, "");
+    registerProperty(propertyData, color, "Color", "Look", editable, "");
+    registerProperty(propertyData, curve, "Curve", "Size", editable, "");
 }
 
 Joint::~Joint() = default;
@@ -130,7 +130,7 @@ Assembly::Assembly()
 {
     if (constructorThrows())
         throw std::runtime_error("an assembly cannot be made today");
-    register_property(propertyData, classLabel, "ClassLabel", "Info", Obj::PropertyType::None, "class name");
+    registerProperty(propertyData, classLabel, "ClassLabel", "Info", Obj::PropertyType::none, "class name");
     documentTag = assemblyTag;
 }
 
@@ -184,13 +184,13 @@ ObjTest::ObjTest()
 
 ObjTest::~ObjTest()
 {
-    application().close_all_projects();
+    application().closeAllProjects();
     EXPECT_EQ(Part::count(), 0) << "parts outlive their project";
 }
 
 Assembly& ObjTest::addAssembly(const std::string& name)
 {
-    Obj::Project* const project = application().create_project("vxtest::Assembly", name);
+    Obj::Project* const project = application().createProject("vxtest::Assembly", name);
     if (project == nullptr)
         throw std::logic_error("a project was not made");
     return static_cast<Assembly&>(*project);

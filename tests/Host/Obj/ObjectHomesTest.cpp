@@ -55,19 +55,19 @@ protected:
 
 TEST_F(ObjectHomesTest, TakeObjectsOfTheirClass)
 {
-    Obj::Project* const shelf = application().create_project("homes::Shelf", "shelf");
-    EXPECT_TRUE(shelf->can_take(homes::Book::getClassTypeId()));
+    Obj::Project* const shelf = application().createProject("homes::Shelf", "shelf");
+    EXPECT_TRUE(shelf->canTake(homes::Book::getClassTypeId()));
     EXPECT_NE(shelf->add_object("homes::Book", "a book"), nullptr);
     EXPECT_NE(shelf->add_object("homes::Book", "another", 9), nullptr);
 }
 
 TEST_F(ObjectHomesTest, AreInheritedByProjectsAndObjects)
 {
-    Obj::Project* const bookShelf = application().create_project("homes::BookShelf", "shelf");
+    Obj::Project* const bookShelf = application().createProject("homes::BookShelf", "shelf");
     EXPECT_NE(bookShelf->add_object("homes::Book", "a book"), nullptr) << "a book shelf is a shelf";
     EXPECT_NE(bookShelf->add_object("homes::Atlas", "an atlas"), nullptr);
     const vxtest::Reports reports;
-    Obj::Project* const shelf = application().create_project("homes::Shelf", "shelf");
+    Obj::Project* const shelf = application().createProject("homes::Shelf", "shelf");
     EXPECT_EQ(shelf->add_object("homes::Atlas", "an atlas"), nullptr) << "its own home counts, not that of books";
 }
 
@@ -75,12 +75,12 @@ TEST_F(ObjectHomesTest, KeepOtherProjectsFreeOfTheirObjects)
 {
     vxtest::Assembly& assembly = addAssembly("machine %1");
     const vxtest::Reports reports;
-    EXPECT_FALSE(assembly.can_take(homes::Book::getClassTypeId()));
+    EXPECT_FALSE(assembly.canTake(homes::Book::getClassTypeId()));
     EXPECT_EQ(assembly.add_object("homes::Book", "a book"), nullptr);
     EXPECT_EQ(assembly.add_object("homes::Book", "a book", 3), nullptr);
     EXPECT_EQ(assembly.add_object(std::make_unique<homes::Atlas>(), "an atlas"), nullptr);
-    EXPECT_EQ(assembly.get_object_count(), 0U);
-    EXPECT_EQ(assembly.get_next_object_id(), 1U);
+    EXPECT_EQ(assembly.getObjectCount(), 0U);
+    EXPECT_EQ(assembly.getNextObjectId(), 1U);
     EXPECT_EQ(reports.errors(), 3);
     EXPECT_THAT(reports.text(), HasSubstr("\"homes::Book\" was added to the project \"machine %1\": projects of class "
                                           "\"vxtest::Assembly\" do not take such objects"));
@@ -88,7 +88,7 @@ TEST_F(ObjectHomesTest, KeepOtherProjectsFreeOfTheirObjects)
 
 TEST_F(ObjectHomesTest, AreNotNeeded)
 {
-    Obj::Project* const shelf = application().create_project("homes::Shelf", "shelf");
+    Obj::Project* const shelf = application().createProject("homes::Shelf", "shelf");
     EXPECT_NE(shelf->add_object("vxtest::Part", "a part"), nullptr);
     EXPECT_NE(shelf->add_object("Obj::ProjectObjectGroup", "a group"), nullptr);
 }

@@ -60,12 +60,12 @@ TEST_F(ProjectObjectGroupTest, HasMembersInTheOrderInWhichTheyCame)
     ProjectObjectGroup& group = addGroup("Group");
     Part& a = m_assembly.addPart("a");
     Part& b = m_assembly.addPart("b");
-    group.add_member(b);
-    group.add_member(a);
-    group.add_member(b);
-    EXPECT_THAT(namesOf(group.get_members()), ElementsAre("b", "a"));
-    group.remove_member(b);
-    EXPECT_THAT(namesOf(group.get_members()), ElementsAre("a"));
+    group.addMember(b);
+    group.addMember(a);
+    group.addMember(b);
+    EXPECT_THAT(namesOf(group.getMembers()), ElementsAre("b", "a"));
+    group.removeMember(b);
+    EXPECT_THAT(namesOf(group.getMembers()), ElementsAre("a"));
     EXPECT_EQ(m_assembly.get_object("b"), &b) << "it owns none of them";
 }
 
@@ -73,28 +73,28 @@ TEST_F(ProjectObjectGroupTest, DoesNotCountTheGroupAroundItAsAMember)
 {
     ProjectObjectGroup& outer = addGroup("outer");
     ProjectObjectGroup& inner = addGroup("inner");
-    outer.add_member(inner);
-    EXPECT_THAT(inner.get_members(), IsEmpty());
-    EXPECT_THAT(namesOf(outer.get_members()), ElementsAre("inner"));
+    outer.addMember(inner);
+    EXPECT_THAT(inner.getMembers(), IsEmpty());
+    EXPECT_THAT(namesOf(outer.getMembers()), ElementsAre("inner"));
 }
 
 TEST_F(ProjectObjectGroupTest, LosesAMemberWhileItIsAwayForUndo)
 {
     ProjectObjectGroup& group = addGroup("Group");
     Part& part = m_assembly.addPart("a");
-    group.add_member(part);
-    auto away = m_assembly.take_object(part.getObjectId());
-    EXPECT_THAT(group.get_members(), IsEmpty());
-    m_assembly.restore_object(std::move(away));
-    EXPECT_THAT(namesOf(group.get_members()), ElementsAre("a"));
+    group.addMember(part);
+    auto away = m_assembly.takeObject(part.getObjectId());
+    EXPECT_THAT(group.getMembers(), IsEmpty());
+    m_assembly.restoreObject(std::move(away));
+    EXPECT_THAT(namesOf(group.getMembers()), ElementsAre("a"));
 }
 
 TEST_F(ProjectObjectGroupTest, LeavesItsMembersInTheProjectWhenItIsDeleted)
 {
     ProjectObjectGroup& group = addGroup("Group");
     Part& part = m_assembly.addPart("a");
-    group.add_member(part);
-    m_assembly.remove_object(group.getObjectId());
+    group.addMember(part);
+    m_assembly.removeObject(group.getObjectId());
     EXPECT_THAT(part.get_linked_objects(), IsEmpty());
     EXPECT_EQ(m_assembly.get_object("a"), &part);
 }
@@ -103,13 +103,13 @@ TEST_F(ProjectObjectGroupTest, IsTheParentOfItsMembers)
 {
     ProjectObjectGroup& group = addGroup("Group");
     Part& part = m_assembly.addPart("a");
-    EXPECT_EQ(part.get_parent_group(), nullptr);
-    EXPECT_TRUE(group.add_member(part));
-    EXPECT_EQ(part.get_parent_group(), &group);
-    group.remove_member(part);
-    EXPECT_EQ(part.get_parent_group(), nullptr);
-    part.link_to(group);
-    EXPECT_EQ(part.get_parent_group(), nullptr) << "an object that needs a group is not its member";
+    EXPECT_EQ(part.getParentGroup(), nullptr);
+    EXPECT_TRUE(group.addMember(part));
+    EXPECT_EQ(part.getParentGroup(), &group);
+    group.removeMember(part);
+    EXPECT_EQ(part.getParentGroup(), nullptr);
+    part.linkTo(group);
+    EXPECT_EQ(part.getParentGroup(), nullptr) << "an object that needs a group is not its member";
 }
 
 TEST_F(ProjectObjectGroupTest, TakesAMemberFromTheGroupThatHadIt)
@@ -117,11 +117,11 @@ TEST_F(ProjectObjectGroupTest, TakesAMemberFromTheGroupThatHadIt)
     ProjectObjectGroup& first = addGroup("first");
     ProjectObjectGroup& second = addGroup("second");
     Part& part = m_assembly.addPart("a");
-    first.add_member(part);
-    EXPECT_TRUE(second.add_member(part));
-    EXPECT_EQ(part.get_parent_group(), &second);
-    EXPECT_THAT(first.get_members(), IsEmpty());
-    EXPECT_THAT(namesOf(second.get_members()), ElementsAre("a"));
+    first.addMember(part);
+    EXPECT_TRUE(second.addMember(part));
+    EXPECT_EQ(part.getParentGroup(), &second);
+    EXPECT_THAT(first.getMembers(), IsEmpty());
+    EXPECT_THAT(namesOf(second.getMembers()), ElementsAre("a"));
 }
 
 TEST_F(ProjectObjectGroupTest, CannotBeInsideItselfOrItsMembers)
@@ -129,16 +129,16 @@ TEST_F(ProjectObjectGroupTest, CannotBeInsideItselfOrItsMembers)
     ProjectObjectGroup& outer = addGroup("outer");
     ProjectObjectGroup& middle = addGroup("middle");
     ProjectObjectGroup& inner = addGroup("inner");
-    EXPECT_TRUE(outer.add_member(middle));
-    EXPECT_TRUE(middle.add_member(inner));
+    EXPECT_TRUE(outer.addMember(middle));
+    EXPECT_TRUE(middle.addMember(inner));
     const vxtest::Reports reports;
-    EXPECT_FALSE(outer.add_member(outer));
-    EXPECT_FALSE(inner.add_member(outer));
-    EXPECT_FALSE(inner.add_member(middle));
+    EXPECT_FALSE(outer.addMember(outer));
+    EXPECT_FALSE(inner.addMember(outer));
+    EXPECT_FALSE(inner.addMember(middle));
     EXPECT_EQ(reports.errors(), 3);
     EXPECT_THAT(reports.text(), testing::HasSubstr("\"outer\" cannot be put into \"inner\", which is a part of it"));
-    EXPECT_EQ(outer.get_parent_group(), nullptr);
-    EXPECT_THAT(inner.get_members(), IsEmpty());
+    EXPECT_EQ(outer.getParentGroup(), nullptr);
+    EXPECT_THAT(inner.getMembers(), IsEmpty());
 }
 
 TEST_F(ProjectObjectGroupTest, RefusesMembersOfOtherProjects)
@@ -146,9 +146,9 @@ TEST_F(ProjectObjectGroupTest, RefusesMembersOfOtherProjects)
     ProjectObjectGroup& group = addGroup("Group");
     Part& stranger = addAssembly("other").addPart("a");
     const vxtest::Reports reports;
-    EXPECT_FALSE(group.add_member(stranger));
+    EXPECT_FALSE(group.addMember(stranger));
     EXPECT_EQ(reports.errors(), 1);
-    EXPECT_THAT(group.get_members(), IsEmpty());
+    EXPECT_THAT(group.getMembers(), IsEmpty());
 }
 
 TEST_F(ProjectObjectGroupTest, TellsThatAMemberCameOrLeft)
@@ -158,12 +158,12 @@ TEST_F(ProjectObjectGroupTest, TellsThatAMemberCameOrLeft)
     std::vector<std::pair<std::string, bool>> told;
     m_assembly.objectChanged.connect([&told](Obj::ProjectObject& object, const Obj::Property* property) {
         EXPECT_EQ(property, nullptr);
-        told.emplace_back(object.get_name_in_project(), object.get_parent_group() != nullptr);
+        told.emplace_back(object.get_name_in_project(), object.getParentGroup() != nullptr);
     });
-    group.add_member(part);
-    group.add_member(part);
-    group.remove_member(part);
-    group.remove_member(part);
+    group.addMember(part);
+    group.addMember(part);
+    group.removeMember(part);
+    group.removeMember(part);
     EXPECT_THAT(told, ElementsAre(std::pair("a", true), std::pair("a", false)));
 }
 
@@ -172,16 +172,16 @@ TEST_F(ProjectObjectGroupTest, HasItsMembersBackWhenItComesBack)
     ProjectObjectGroup& group = addGroup("Group");
     Part& a = m_assembly.addPart("a");
     Part& b = m_assembly.addPart("b");
-    group.add_member(a);
-    group.add_member(b);
-    Obj::OwnedObject away = m_assembly.take_object(group.getObjectId());
-    EXPECT_EQ(a.get_parent_group(), nullptr);
+    group.addMember(a);
+    group.addMember(b);
+    Obj::OwnedObject away = m_assembly.takeObject(group.getObjectId());
+    EXPECT_EQ(a.getParentGroup(), nullptr);
     ProjectObjectGroup& other = addGroup("other");
-    other.add_member(b);
-    m_assembly.restore_object(std::move(away));
-    EXPECT_EQ(a.get_parent_group(), &group);
-    EXPECT_EQ(b.get_parent_group(), &other) << "it is in the group that took it last";
-    EXPECT_THAT(namesOf(group.get_members()), ElementsAre("a"));
+    other.addMember(b);
+    m_assembly.restoreObject(std::move(away));
+    EXPECT_EQ(a.getParentGroup(), &group);
+    EXPECT_EQ(b.getParentGroup(), &other) << "it is in the group that took it last";
+    EXPECT_THAT(namesOf(group.getMembers()), ElementsAre("a"));
 }
 
 } // namespace

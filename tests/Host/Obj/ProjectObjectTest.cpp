@@ -59,14 +59,14 @@ TEST_F(ProjectObjectTest, DoesNothingOfItsOwn)
     object.load_jsonDB(record);
     EXPECT_TRUE(record.isNull());
     EXPECT_STREQ(object.getTypeId().get_name(), "Obj::ProjectObject");
-    EXPECT_STREQ(object.getTypeId().get_parent().get_name(), "Obj::PropertyDS");
+    EXPECT_STREQ(object.getTypeId().getParent().get_name(), "Obj::PropertyDS");
     EXPECT_EQ(&object.get_property_data(), BareObject::get_property_data_ref());
     EXPECT_NE(object.get_property_data().parent(), nullptr);
 }
 
 TEST_F(ProjectObjectTest, DescribesItselfInARecord)
 {
-    addAssembly().skip_object_ids(4);
+    addAssembly().skipObjectIds(4);
     Part& part = static_cast<Assembly*>(Obj::Application::get_current_project())->addPart("Bolt");
     part.label.setValue("钢 %1");
     Json::Value record;
@@ -128,7 +128,7 @@ TEST_F(ProjectObjectTest, IsSuppressedWithoutBeingDeleted)
     EXPECT_TRUE(part.isSuppressed());
     EXPECT_EQ(assembly.get_object(part.getObjectId()), &part);
     const std::uint32_t id = part.getObjectId();
-    assembly.restore_object(assembly.take_object(id));
+    assembly.restoreObject(assembly.takeObject(id));
     EXPECT_TRUE(part.isSuppressed()) << "also after an undo";
     part.setSuppressed(false);
     EXPECT_FALSE(part.isSuppressed());
@@ -140,14 +140,14 @@ TEST_F(ProjectObjectTest, KnowsTheObjectsThatAreLinkedWithItInEitherDirection)
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
     Part& c = assembly.addPart("c");
-    a.link_to(b);
-    a.link_to(b);
-    a.link_to(a);
-    c.link_to(a);
+    a.linkTo(b);
+    a.linkTo(b);
+    a.linkTo(a);
+    c.linkTo(a);
     EXPECT_THAT(namesOf(a.get_linked_objects()), ElementsAre("b", "c"));
-    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+    EXPECT_THAT(namesOf(a.getNeededObjects()), ElementsAre("b"));
     EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
-    EXPECT_THAT(b.get_needed_objects(), IsEmpty());
+    EXPECT_THAT(b.getNeededObjects(), IsEmpty());
 }
 
 TEST_F(ProjectObjectTest, UnlinksOneDirectionAndLeavesTheOther)
@@ -155,15 +155,15 @@ TEST_F(ProjectObjectTest, UnlinksOneDirectionAndLeavesTheOther)
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
-    a.link_to(b);
-    b.link_to(a);
+    a.linkTo(b);
+    b.linkTo(a);
     EXPECT_THAT(namesOf(a.get_linked_objects()), ElementsAre("b")) << "once, though each needs the other";
     Part::hooks().calls.clear();
-    a.unlink_from(b);
+    a.unlinkFrom(b);
     EXPECT_THAT(Part::hooks().calls, ElementsAre("break b"));
-    EXPECT_THAT(a.get_needed_objects(), IsEmpty());
-    EXPECT_THAT(namesOf(b.get_needed_objects()), ElementsAre("a"));
-    a.unlink_from(b);
+    EXPECT_THAT(a.getNeededObjects(), IsEmpty());
+    EXPECT_THAT(namesOf(b.getNeededObjects()), ElementsAre("a"));
+    a.unlinkFrom(b);
     EXPECT_EQ(Part::hooks().calls.size(), 1U) << "there is no link any more to be broken";
 }
 
@@ -172,19 +172,19 @@ TEST_F(ProjectObjectTest, KeepsItsLinksWhileOneOfTheTwoIsAwayForUndo)
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
-    a.link_to(b);
+    a.linkTo(b);
     Part::hooks().calls.clear();
-    Obj::OwnedObject away = assembly.take_object(b.getObjectId());
+    Obj::OwnedObject away = assembly.takeObject(b.getObjectId());
     EXPECT_THAT(Part::hooks().calls, ElementsAre("break b"));
     EXPECT_THAT(a.get_linked_objects(), IsEmpty());
-    EXPECT_THAT(a.get_needed_objects(), IsEmpty());
-    assembly.restore_object(std::move(away));
-    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+    EXPECT_THAT(a.getNeededObjects(), IsEmpty());
+    assembly.restoreObject(std::move(away));
+    EXPECT_THAT(namesOf(a.getNeededObjects()), ElementsAre("b"));
 
-    away = assembly.take_object(a.getObjectId());
+    away = assembly.takeObject(a.getObjectId());
     EXPECT_EQ(Part::hooks().calls.back(), "restored b") << "who needs nobody is not told";
     EXPECT_THAT(b.get_linked_objects(), IsEmpty());
-    assembly.restore_object(std::move(away));
+    assembly.restoreObject(std::move(away));
     EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
 }
 
@@ -193,11 +193,11 @@ TEST_F(ProjectObjectTest, IsForgottenByOthersWhenItIsDestroyed)
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
-    a.link_to(b);
-    b.link_to(a);
-    assembly.remove_object(b.getObjectId());
+    a.linkTo(b);
+    b.linkTo(a);
+    assembly.removeObject(b.getObjectId());
     EXPECT_THAT(a.get_linked_objects(), IsEmpty());
-    EXPECT_THAT(a.get_needed_objects(), IsEmpty());
+    EXPECT_THAT(a.getNeededObjects(), IsEmpty());
 }
 
 TEST_F(ProjectObjectTest, MayOutliveTheProjectThatItIsLinkedInto)
@@ -205,10 +205,10 @@ TEST_F(ProjectObjectTest, MayOutliveTheProjectThatItIsLinkedInto)
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
-    a.link_to(b);
-    b.link_to(a);
-    const Obj::OwnedObject away = assembly.take_object(b.getObjectId());
-    EXPECT_TRUE(application().close_project(assembly));
+    a.linkTo(b);
+    b.linkTo(a);
+    const Obj::OwnedObject away = assembly.takeObject(b.getObjectId());
+    EXPECT_TRUE(application().closeProject(assembly));
     EXPECT_THAT(away->get_linked_objects(), IsEmpty());
 }
 
@@ -217,22 +217,22 @@ TEST_F(ProjectObjectTest, MayGoWithWhatItNeeds)
     Assembly& assembly = addAssembly();
     Part& needed = assembly.addPart("needed");
     for (int i = 0; i < 4; ++i)
-        assembly.addPart("dependent").link_to(needed);
+        assembly.addPart("dependent").linkTo(needed);
     Part::hooks().removesItselfWithWhatItNeeds = true;
-    EXPECT_TRUE(assembly.remove_object(needed.getObjectId()));
-    EXPECT_EQ(assembly.get_object_count(), 0U);
+    EXPECT_TRUE(assembly.removeObject(needed.getObjectId()));
+    EXPECT_EQ(assembly.getObjectCount(), 0U);
 }
 
 TEST_F(ProjectObjectTest, ThatFailsWhenALinkBreaksDoesNotKeepOthersFromBeingTold)
 {
     Assembly& assembly = addAssembly();
     Part& needed = assembly.addPart("needed");
-    assembly.addPart("a").link_to(needed);
-    assembly.addPart("b").link_to(needed);
+    assembly.addPart("a").linkTo(needed);
+    assembly.addPart("b").linkTo(needed);
     Part::hooks().calls.clear();
     Part::hooks().breakThrows = true;
     const vxtest::Reports reports;
-    EXPECT_TRUE(assembly.remove_object(needed.getObjectId()));
+    EXPECT_TRUE(assembly.removeObject(needed.getObjectId()));
     EXPECT_THAT(Part::hooks().calls, ElementsAre("break needed", "break needed"));
     EXPECT_EQ(reports.errors(), 2);
     EXPECT_THAT(reports.text(), HasSubstr("a link cannot be broken"));
@@ -281,12 +281,12 @@ TEST_F(ProjectObjectTest, RefusesLinksToOtherProjectsAndToItself)
     Part& there = addAssembly("there").addPart("b");
     Part loose;
     const vxtest::Reports reports;
-    EXPECT_FALSE(here.link_to(there));
-    EXPECT_FALSE(here.link_to(loose));
-    EXPECT_FALSE(loose.link_to(here));
+    EXPECT_FALSE(here.linkTo(there));
+    EXPECT_FALSE(here.linkTo(loose));
+    EXPECT_FALSE(loose.linkTo(here));
     EXPECT_EQ(reports.errors(), 3);
     EXPECT_THAT(reports.text(), HasSubstr("\"a\" cannot be linked to \"b\": they are not in one project"));
-    EXPECT_FALSE(here.link_to(here));
+    EXPECT_FALSE(here.linkTo(here));
     EXPECT_THAT(here.get_linked_objects(), IsEmpty());
     EXPECT_THAT(there.get_linked_objects(), IsEmpty());
 }
@@ -296,11 +296,11 @@ TEST_F(ProjectObjectTest, HasLinksBackThatItGaveUpWhenTheOtherLeft)
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
-    a.link_to(b);
+    a.linkTo(b);
     Part::hooks().unlinksWhatLeaves = true;
-    Obj::OwnedObject away = assembly.take_object(b.getObjectId());
-    assembly.restore_object(std::move(away));
-    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+    Obj::OwnedObject away = assembly.takeObject(b.getObjectId());
+    assembly.restoreObject(std::move(away));
+    EXPECT_THAT(namesOf(a.getNeededObjects()), ElementsAre("b"));
     EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
 }
 
@@ -309,14 +309,14 @@ TEST_F(ProjectObjectTest, IsNotToldOfWhatLeavesWhileItIsAwayItself)
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
     Part& b = assembly.addPart("b");
-    a.link_to(b);
-    Obj::OwnedObject awayA = assembly.take_object(a.getObjectId());
+    a.linkTo(b);
+    Obj::OwnedObject awayA = assembly.takeObject(a.getObjectId());
     Part::hooks().calls.clear();
-    Obj::OwnedObject awayB = assembly.take_object(b.getObjectId());
+    Obj::OwnedObject awayB = assembly.takeObject(b.getObjectId());
     EXPECT_THAT(Part::hooks().calls, IsEmpty());
-    assembly.restore_object(std::move(awayB));
-    assembly.restore_object(std::move(awayA));
-    EXPECT_THAT(namesOf(a.get_needed_objects()), ElementsAre("b"));
+    assembly.restoreObject(std::move(awayB));
+    assembly.restoreObject(std::move(awayA));
+    EXPECT_THAT(namesOf(a.getNeededObjects()), ElementsAre("b"));
 }
 
 TEST_F(ProjectObjectTest, TakesTheMemoryOfItsClassAndOfItsTexts)

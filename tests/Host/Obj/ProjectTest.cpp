@@ -27,11 +27,11 @@ constexpr std::uint64_t lastId = 4294967295;
 class ProjectTest : public vxtest::ObjTest
 {
 protected:
-    std::vector<std::string> names() const { return namesOf(m_assembly.get_objects()); }
+    std::vector<std::string> names() const { return namesOf(m_assembly.getObjects()); }
     std::vector<std::uint32_t> ids() const
     {
         std::vector<std::uint32_t> ids;
-        for (const ProjectObject* const object : m_assembly.get_objects())
+        for (const ProjectObject* const object : m_assembly.getObjects())
             ids.push_back(object->getObjectId());
         return ids;
     }
@@ -146,13 +146,13 @@ TEST_F(ProjectTest, NeverUsesTheIdOfADeletedObjectAgain)
 {
     m_assembly.addPart("a");
     m_assembly.addPart("b");
-    EXPECT_TRUE(m_assembly.remove_object(2));
+    EXPECT_TRUE(m_assembly.removeObject(2));
     EXPECT_EQ(m_assembly.addPart("c").getObjectId(), 3U);
     const vxtest::Reports reports;
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "d", 2), nullptr) << "not even by number";
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "d", 1), nullptr);
     EXPECT_EQ(reports.errors(), 2);
-    EXPECT_EQ(m_assembly.get_next_object_id(), 4U);
+    EXPECT_EQ(m_assembly.getNextObjectId(), 4U);
 }
 
 TEST_F(ProjectTest, TakesIdsThatNoObjectHadInAnyOrder)
@@ -178,7 +178,7 @@ TEST_F(ProjectTest, TakesEachIdOnceHoweverTheyComeAndGo)
         const bool added = m_assembly.add_object("vxtest::Part", "p" + std::to_string(i), id) != nullptr;
         EXPECT_EQ(added, used.insert(id).second) << id;
         if (added && i % 3 == 0)
-            m_assembly.remove_object(static_cast<std::uint32_t>(id));
+            m_assembly.removeObject(static_cast<std::uint32_t>(id));
         if (i % 50 == 0)
             used.insert(m_assembly.addPart("q" + std::to_string(i)).getObjectId());
     }
@@ -196,7 +196,7 @@ TEST_F(ProjectTest, FindsObjectsByIdsThatLeaveGapsOfEveryWidth)
     }
     for (const std::uint64_t id : {0U, 2U, 899U, 4999U, 5001U, 5501U, 4294967294U})
         EXPECT_EQ(m_assembly.get_object(static_cast<std::uint32_t>(id)), nullptr) << id;
-    EXPECT_TRUE(m_assembly.remove_object(5000));
+    EXPECT_TRUE(m_assembly.removeObject(5000));
     EXPECT_EQ(m_assembly.get_object(5000U), nullptr);
 }
 
@@ -218,21 +218,21 @@ TEST_F(ProjectTest, RefusesIdsBeyond32Bits)
 
 TEST_F(ProjectTest, AddsNothingWhenAllIdsAreUsedUp)
 {
-    m_assembly.skip_object_ids(lastId);
+    m_assembly.skipObjectIds(lastId);
     EXPECT_EQ(m_assembly.addPart("last").getObjectId(), lastId);
     const vxtest::Reports reports;
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr);
     EXPECT_THAT(reports.text(), HasSubstr("all ids are used up"));
-    EXPECT_TRUE(m_assembly.remove_object(4294967295U));
+    EXPECT_TRUE(m_assembly.removeObject(4294967295U));
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr) << "also when there is room again";
     EXPECT_NE(m_assembly.add_object("vxtest::Part", "more", 17), nullptr) << "one that was left out may be asked for";
 }
 
 TEST_F(ProjectTest, LeavesOutIds)
 {
-    m_assembly.skip_object_ids(10);
-    m_assembly.skip_object_ids(5);
-    EXPECT_EQ(m_assembly.get_next_object_id(), 10U);
+    m_assembly.skipObjectIds(10);
+    m_assembly.skipObjectIds(5);
+    EXPECT_EQ(m_assembly.getNextObjectId(), 10U);
     EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 10U);
     EXPECT_NE(m_assembly.add_object("vxtest::Part", "b", 9), nullptr) << "it comes from a file";
 }
@@ -260,15 +260,15 @@ TEST_F(ProjectTest, GivesAnObjectAwayAndTakesItBackAtItsPlace)
         EXPECT_EQ(object.get_project(), nullptr);
         EXPECT_EQ(m_assembly.get_object(2U), nullptr);
     });
-    Obj::OwnedObject away = m_assembly.take_object(2);
+    Obj::OwnedObject away = m_assembly.takeObject(2);
     EXPECT_EQ(away.get(), &b);
     EXPECT_THAT(told, ElementsAre("b"));
     EXPECT_THAT(names(), ElementsAre("a", "c"));
     EXPECT_EQ(m_assembly.get_object("b"), nullptr);
-    EXPECT_EQ(m_assembly.take_object(2), nullptr);
-    EXPECT_FALSE(m_assembly.remove_object(2));
+    EXPECT_EQ(m_assembly.takeObject(2), nullptr);
+    EXPECT_FALSE(m_assembly.removeObject(2));
 
-    EXPECT_EQ(m_assembly.restore_object(std::move(away)), &b);
+    EXPECT_EQ(m_assembly.restoreObject(std::move(away)), &b);
     EXPECT_THAT(names(), ElementsAre("a", "b", "c"));
     EXPECT_EQ(m_assembly.get_object("b"), &b);
     EXPECT_EQ(b.get_project(), &m_assembly);
@@ -279,15 +279,15 @@ TEST_F(ProjectTest, GivesAnObjectAwayAndTakesItBackAtItsPlace)
 TEST_F(ProjectTest, GivesAnObjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
 {
     Part& first = m_assembly.addPart("Bolt");
-    Obj::OwnedObject away = m_assembly.take_object(1);
+    Obj::OwnedObject away = m_assembly.takeObject(1);
     Part& second = m_assembly.addPart("Bolt");
     const vxtest::Reports reports;
-    ASSERT_EQ(m_assembly.restore_object(std::move(away)), &first);
+    ASSERT_EQ(m_assembly.restoreObject(std::move(away)), &first);
     EXPECT_EQ(reports.warnings(), 1);
     EXPECT_THAT(reports.text(), HasSubstr("\"Bolt\" came back as \"Bolt1\""));
     EXPECT_EQ(m_assembly.get_object("Bolt"), &second);
     EXPECT_EQ(m_assembly.get_object("Bolt1"), &first);
-    EXPECT_TRUE(m_assembly.remove_object(1));
+    EXPECT_TRUE(m_assembly.removeObject(1));
     EXPECT_EQ(m_assembly.get_object("Bolt"), &second);
 }
 
@@ -298,13 +298,13 @@ TEST_F(ProjectTest, TakesBackOnlyWhatCameFromIt)
         other.addPart(name);
     m_assembly.addPart("mine");
     m_assembly.addPart("away");
-    const Obj::OwnedObject away = m_assembly.take_object(2);
+    const Obj::OwnedObject away = m_assembly.takeObject(2);
     const vxtest::Reports reports;
-    EXPECT_EQ(m_assembly.restore_object(other.take_object(1)), nullptr) << "its id is taken here";
-    EXPECT_EQ(m_assembly.restore_object(other.take_object(2)), nullptr) << "its id is free here";
-    EXPECT_EQ(m_assembly.restore_object(other.take_object(3)), nullptr) << "no object has had its id here";
-    EXPECT_EQ(m_assembly.restore_object(std::make_unique<Part>()), nullptr) << "it has never been in a project";
-    EXPECT_EQ(m_assembly.restore_object(nullptr), nullptr);
+    EXPECT_EQ(m_assembly.restoreObject(other.takeObject(1)), nullptr) << "its id is taken here";
+    EXPECT_EQ(m_assembly.restoreObject(other.takeObject(2)), nullptr) << "its id is free here";
+    EXPECT_EQ(m_assembly.restoreObject(other.takeObject(3)), nullptr) << "no object has had its id here";
+    EXPECT_EQ(m_assembly.restoreObject(std::make_unique<Part>()), nullptr) << "it has never been in a project";
+    EXPECT_EQ(m_assembly.restoreObject(nullptr), nullptr);
     EXPECT_EQ(reports.errors(), 5);
     EXPECT_THAT(names(), ElementsAre("mine"));
 }
@@ -312,12 +312,12 @@ TEST_F(ProjectTest, TakesBackOnlyWhatCameFromIt)
 TEST_F(ProjectTest, HasAnObjectBackThatFailsWhenItComes)
 {
     Part& part = m_assembly.addPart("a");
-    Obj::OwnedObject away = m_assembly.take_object(1);
+    Obj::OwnedObject away = m_assembly.takeObject(1);
     int told = 0;
     m_assembly.objectAdded.connect([&told](ProjectObject&) { ++told; });
     Part::hooks().restoredThrows = true;
     const vxtest::Reports reports;
-    EXPECT_EQ(m_assembly.restore_object(std::move(away)), &part);
+    EXPECT_EQ(m_assembly.restoreObject(std::move(away)), &part);
     EXPECT_EQ(told, 1);
     EXPECT_THAT(reports.text(), HasSubstr("a part cannot come back"));
 }
@@ -341,22 +341,22 @@ TEST_F(ProjectTest, LetsListenersAddAndRemoveOthers)
     });
     m_assembly.objectRemoved.connect([this](ProjectObject& object) {
         if (std::string(object.get_name_in_project()) == "nut")
-            m_assembly.remove_object(m_assembly.get_object("washer")->getObjectId());
+            m_assembly.removeObject(m_assembly.get_object("washer")->getObjectId());
     });
     m_assembly.addPart("nut");
     EXPECT_THAT(names(), ElementsAre("nut", "washer"));
-    m_assembly.remove_object(1);
+    m_assembly.removeObject(1);
     EXPECT_THAT(names(), IsEmpty());
 }
 
 TEST_F(ProjectTest, IsClosedWhileItsObjectsAreObserved)
 {
     Part& part = m_assembly.addPart("a");
-    m_assembly.addPart("b").link_to(part);
+    m_assembly.addPart("b").linkTo(part);
     int calls = 0;
     const auto touch = [&](ProjectObject&) {
         ++calls;
-        EXPECT_EQ(m_assembly.get_objects().size(), m_assembly.get_object_count());
+        EXPECT_EQ(m_assembly.getObjects().size(), m_assembly.getObjectCount());
     };
     const boost::signals2::scoped_connection added = m_assembly.objectAdded.connect(touch);
     const boost::signals2::scoped_connection removed = m_assembly.objectRemoved.connect(touch);
@@ -367,7 +367,7 @@ TEST_F(ProjectTest, IsClosedWhileItsObjectsAreObserved)
         EXPECT_EQ(project.get_object("a"), &part);
         part.label.setValue("last words");
     });
-    EXPECT_TRUE(application().close_project(m_assembly));
+    EXPECT_TRUE(application().closeProject(m_assembly));
     EXPECT_EQ(calls, 1) << "the last words, and nothing while it is destroyed";
     EXPECT_FALSE(added.connected());
 }
@@ -394,11 +394,11 @@ TEST_F(ProjectTest, IsOutOfSightOfItsObjectsWhileTheyAreDestroyed)
     ProjectObject* const a = m_assembly.add_object("Test::LoudPart", "a");
     ProjectObject* const b = m_assembly.add_object("Test::LoudPart", "b");
     ASSERT_TRUE(a != nullptr && b != nullptr);
-    a->link_to(*b);
-    b->link_to(*a);
+    a->linkTo(*b);
+    b->linkTo(*a);
     int calls = 0;
     m_assembly.objectChanged.connect([&calls](ProjectObject&, const Obj::Property*) { ++calls; });
-    EXPECT_TRUE(application().close_project(m_assembly));
+    EXPECT_TRUE(application().closeProject(m_assembly));
     EXPECT_EQ(LoudPart::withProject, 0);
     EXPECT_EQ(calls, 0);
 }
@@ -408,7 +408,7 @@ TEST_F(ProjectTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndBrought
     constexpr int count = 10000;
     for (int i = 0; i < count; ++i)
         m_assembly.addPart("Part").label.setValue("label " + std::to_string(i));
-    const std::vector<ProjectObject*> before = m_assembly.get_objects();
+    const std::vector<ProjectObject*> before = m_assembly.getObjects();
     const std::vector<std::string> namesBefore = names();
     std::vector<std::uint32_t> order = ids();
     std::mt19937 random(2);
@@ -416,11 +416,11 @@ TEST_F(ProjectTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndBrought
     std::vector<Obj::OwnedObject> away;
     away.reserve(order.size());
     for (const std::uint32_t id : order)
-        away.push_back(m_assembly.take_object(id));
-    EXPECT_EQ(m_assembly.get_object_count(), 0U);
+        away.push_back(m_assembly.takeObject(id));
+    EXPECT_EQ(m_assembly.getObjectCount(), 0U);
     for (; !away.empty(); away.pop_back())
-        m_assembly.restore_object(std::move(away.back()));
-    EXPECT_EQ(m_assembly.get_objects(), before);
+        m_assembly.restoreObject(std::move(away.back()));
+    EXPECT_EQ(m_assembly.getObjects(), before);
     EXPECT_EQ(names(), namesBefore);
     EXPECT_EQ(before[1234]->label.getValue(), "label 1234");
 }
@@ -463,18 +463,18 @@ TEST_F(ProjectTest, DescribesItselfAndItsObjectsInARecord)
 TEST_F(ProjectTest, ReturnsNoObjectThatAListenerHasRemoved)
 {
     std::vector<std::string> told;
-    m_assembly.objectAdded.connect([this](ProjectObject& object) { m_assembly.remove_object(object.getObjectId()); });
+    m_assembly.objectAdded.connect([this](ProjectObject& object) { m_assembly.removeObject(object.getObjectId()); });
     m_assembly.objectAdded.connect([&told](ProjectObject& object) { told.emplace_back(object.get_name_in_project()); });
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a"), nullptr);
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "b", 7), nullptr);
     EXPECT_THAT(told, ElementsAre("a", "b")) << "the next listener is told of an object that is still whole";
-    EXPECT_EQ(m_assembly.get_object_count(), 0U);
+    EXPECT_EQ(m_assembly.getObjectCount(), 0U);
     EXPECT_EQ(Part::count(), 0);
 }
 
 TEST_F(ProjectTest, ReturnsNoObjectIfAListenerHasClosedIt)
 {
-    m_assembly.objectAdded.connect([this](ProjectObject&) { application().close_project(m_assembly); });
+    m_assembly.objectAdded.connect([this](ProjectObject&) { application().closeProject(m_assembly); });
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a"), nullptr);
     EXPECT_EQ(Part::count(), 0);
 }
@@ -482,9 +482,9 @@ TEST_F(ProjectTest, ReturnsNoObjectIfAListenerHasClosedIt)
 TEST_F(ProjectTest, ReturnsNoObjectThatAListenerRemovesWhenItComesBack)
 {
     m_assembly.addPart("a");
-    Obj::OwnedObject away = m_assembly.take_object(1);
-    m_assembly.objectAdded.connect([this](ProjectObject& object) { m_assembly.remove_object(object.getObjectId()); });
-    EXPECT_EQ(m_assembly.restore_object(std::move(away)), nullptr);
+    Obj::OwnedObject away = m_assembly.takeObject(1);
+    m_assembly.objectAdded.connect([this](ProjectObject& object) { m_assembly.removeObject(object.getObjectId()); });
+    EXPECT_EQ(m_assembly.restoreObject(std::move(away)), nullptr);
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "b", 1), nullptr) << "its id is still not free";
     EXPECT_EQ(Part::count(), 0);
 }
@@ -494,7 +494,7 @@ void removeThemselvesWhen(const std::string& operation)
 {
     Part::hooks().action = [operation](ProjectObject& object, const std::string& current) {
         if (current == operation && object.get_project() != nullptr)
-            object.get_project()->remove_object(object.getObjectId());
+            object.get_project()->removeObject(object.getObjectId());
     };
 }
 
@@ -526,8 +526,8 @@ TEST_F(ProjectTest, UpdatesTheObjectsThatAreLeftWhenOneRemovesOthers)
             return;
         checked.emplace_back(object.get_name_in_project());
         if (checked.size() == 1) {
-            m_assembly.remove_object(1);
-            m_assembly.remove_object(2);
+            m_assembly.removeObject(1);
+            m_assembly.removeObject(2);
             m_assembly.addPart("e");
         }
     };
@@ -542,7 +542,7 @@ TEST_F(ProjectTest, MayBeClosedDuringItsUpdate)
     m_assembly.addPart("a");
     m_assembly.addPart("b");
     m_assembly.objectChanged.connect(
-        [this](ProjectObject&, const Obj::Property*) { application().close_project(m_assembly); });
+        [this](ProjectObject&, const Obj::Property*) { application().closeProject(m_assembly); });
     m_assembly.update();
     EXPECT_TRUE(Obj::Application::get_projects().empty());
 }
@@ -551,10 +551,10 @@ TEST_F(ProjectTest, MakesNoNameOfAnObjectThatMayComeBack)
 {
     m_assembly.addPart("Bolt");
     m_assembly.addPart("Bolt1");
-    Obj::OwnedObject away = m_assembly.take_object(2);
+    Obj::OwnedObject away = m_assembly.takeObject(2);
     EXPECT_STREQ(m_assembly.addPart("Bolt").get_name_in_project(), "Bolt2");
     const vxtest::Reports reports;
-    m_assembly.restore_object(std::move(away));
+    m_assembly.restoreObject(std::move(away));
     EXPECT_EQ(reports.text(), "");
     EXPECT_THAT(names(), ElementsAre("Bolt", "Bolt1", "Bolt2"));
 }
@@ -580,7 +580,7 @@ TEST_F(ProjectTest, TellsItsObjectsThatTheyHaveBeenRead)
     Part::hooks().calls.clear();
     Part::hooks().restoredThrows = true;
     const vxtest::Reports reports;
-    m_assembly.notify_restored();
+    m_assembly.notifyRestored();
     EXPECT_THAT(Part::hooks().calls, ElementsAre("restored a", "restored b"));
     EXPECT_EQ(reports.errors(), 2);
 }
@@ -605,7 +605,7 @@ protected:
     std::vector<std::string> executed()
     {
         std::vector<std::string> names;
-        for (const auto& result : m_assembly.execute_due())
+        for (const auto& result : m_assembly.executeDue())
             names.push_back(result->text);
         return names;
     }
@@ -636,8 +636,8 @@ TEST_F(ExecutionTest, ExecutesWhatAnObjectNeedsBeforeItAndTheObjectAfterIt)
     Part& a = m_assembly.addPart("a");
     Part& b = m_assembly.addPart("b");
     Part& c = m_assembly.addPart("c");
-    a.link_to(b);
-    b.link_to(c);
+    a.linkTo(b);
+    b.linkTo(c);
     EXPECT_THAT(executed(), ElementsAre("c", "b", "a"));
     c.width.setValue(1);
     EXPECT_THAT(executed(), ElementsAre("c", "b", "a"));
@@ -649,8 +649,8 @@ TEST_F(ExecutionTest, FollowsACircleOfNeedsOnce)
 {
     Part& a = m_assembly.addPart("a");
     Part& b = m_assembly.addPart("b");
-    a.link_to(b);
-    b.link_to(a);
+    a.linkTo(b);
+    b.linkTo(a);
     EXPECT_THAT(executed(), testing::UnorderedElementsAre("a", "b"));
     EXPECT_THAT(executed(), IsEmpty());
 }
@@ -661,10 +661,10 @@ TEST_F(ExecutionTest, FollowsAChainOfAnyLength)
     Part* needing = &m_assembly.addPart();
     for (int i = 1; i < count; ++i) {
         Part& needed = m_assembly.addPart();
-        needing->link_to(needed);
+        needing->linkTo(needed);
         needing = &needed;
     }
-    const auto results = m_assembly.execute_due();
+    const auto results = m_assembly.executeDue();
     ASSERT_EQ(results.size(), static_cast<std::size_t>(count));
     EXPECT_EQ(results.front()->object, needing) << "the object that all others need";
     EXPECT_EQ(results.back()->object->getObjectId(), 1U);
@@ -704,9 +704,9 @@ TEST_F(ProjectTest, IsOfNoKindAndInNoApplicationAtFirst)
     const BareProject project;
     EXPECT_EQ(project.getProjectId(), 0U);
     EXPECT_STREQ(project.get_name(), "");
-    EXPECT_EQ(project.get_document_tag(), Kelta::eDocumentTag::Undefined);
+    EXPECT_EQ(project.getDocumentTag(), Kelta::eDocumentTag::Undefined);
     EXPECT_STREQ(project.getTypeId().get_name(), "Obj::Project");
-    EXPECT_STREQ(project.getTypeId().get_parent().get_name(), "Obj::PropertyDS");
+    EXPECT_STREQ(project.getTypeId().getParent().get_name(), "Obj::PropertyDS");
     EXPECT_EQ(&project.get_property_data(), BareProject::get_property_data_ref());
 }
 

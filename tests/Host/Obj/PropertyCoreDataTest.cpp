@@ -9,9 +9,9 @@ using Obj::PropertyCoreData;
 TEST(PropertyCoreData, KeepsDescriptionsInTheOrderOfTheirRegistration)
 {
     PropertyCoreData data;
-    data.register_property("Width", "Size", 0, "in mm");
-    data.register_property("Age", "Info", 9, "in years");
-    data.register_property("Height", "Size", 1, "in m");
+    data.registerProperty("Width", "Size", 0, "in mm");
+    data.registerProperty("Age", "Info", 9, "in years");
+    data.registerProperty("Height", "Size", 1, "in m");
     ASSERT_EQ(data.descriptions().size(), 3U);
     EXPECT_EQ(data.descriptions()[0].name, "Width");
     EXPECT_EQ(data.descriptions()[1].name, "Age");
@@ -24,8 +24,8 @@ TEST(PropertyCoreData, KeepsDescriptionsInTheOrderOfTheirRegistration)
 TEST(PropertyCoreData, LeavesADescriptionThatIsRegisteredAgainAsItIs)
 {
     PropertyCoreData data;
-    const auto& first = data.register_property("Width", "Size", 0, "in mm");
-    const auto& again = data.register_property("Width", "Other", 8, "in feet");
+    const auto& first = data.registerProperty("Width", "Size", 0, "in mm");
+    const auto& again = data.registerProperty("Width", "Other", 8, "in feet");
     EXPECT_EQ(&first, &again);
     EXPECT_EQ(data.descriptions().size(), 1U);
     EXPECT_EQ(first.group, "Size");
@@ -34,9 +34,9 @@ TEST(PropertyCoreData, LeavesADescriptionThatIsRegisteredAgainAsItIs)
 TEST(PropertyCoreData, DoesNotMoveDescriptions)
 {
     PropertyCoreData data;
-    const auto* const first = &data.register_property("0", "", 0, "");
+    const auto* const first = &data.registerProperty("0", "", 0, "");
     for (int i = 1; i < 1000; ++i)
-        data.register_property(std::to_string(i).c_str(), "", 0, "");
+        data.registerProperty(std::to_string(i).c_str(), "", 0, "");
     EXPECT_EQ(data.find("0"), first);
     EXPECT_EQ(first->name, "0");
 }
@@ -44,10 +44,10 @@ TEST(PropertyCoreData, DoesNotMoveDescriptions)
 TEST(PropertyCoreData, FindsOnlyWhatTheClassItselfRegistered)
 {
     PropertyCoreData parent;
-    parent.register_property("Label", "Info", 0, "");
+    parent.registerProperty("Label", "Info", 0, "");
     PropertyCoreData data;
     EXPECT_EQ(data.parent(), nullptr);
-    data.set_parent(&parent);
+    data.setParent(&parent);
     EXPECT_EQ(data.parent(), &parent);
     EXPECT_EQ(data.find("Label"), nullptr);
     EXPECT_NE(data.parent()->find("Label"), nullptr);

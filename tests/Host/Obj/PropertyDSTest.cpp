@@ -77,7 +77,7 @@ TEST_F(PropertyDSTest, ReturnsNothingForPropertiesOfOtherSets)
 class SpecialPart : public Part
 {
 public:
-    SpecialPart() { register_property(data, width, "Width", "Special", 9, "in special mm"); }
+    SpecialPart() { registerProperty(data, width, "Width", "Special", 9, "in special mm"); }
     static inline Obj::PropertyCoreData data;
 };
 
@@ -98,7 +98,7 @@ class BareSet : public PropertyDS
 public:
     using PropertyDS::get_property_data;
     using PropertyDS::get_property_data_ref;
-    using PropertyDS::register_property;
+    using PropertyDS::registerProperty;
 
     Obj::PropertyInteger number;
 };
@@ -108,11 +108,11 @@ TEST_F(PropertyDSTest, IsARootOfDescriptions)
     BareSet set;
     EXPECT_EQ(set.getTypeId(), PropertyDS::getClassTypeId());
     EXPECT_STREQ(set.getTypeId().get_name(), "Obj::PropertyDS");
-    EXPECT_STREQ(set.getTypeId().get_parent().get_name(), "Kelta::DataPersistence");
+    EXPECT_STREQ(set.getTypeId().getParent().get_name(), "Kelta::DataPersistence");
     EXPECT_EQ(&set.get_property_data(), BareSet::get_property_data_ref());
     EXPECT_EQ(set.get_property_data().parent(), nullptr);
     Obj::PropertyCoreData data;
-    set.register_property(data, set.number, "Number", "", 0, "");
+    set.registerProperty(data, set.number, "Number", "", 0, "");
     set.number.setValue(4);
     EXPECT_EQ(set.number.getValue(), 4);
 }

@@ -68,7 +68,7 @@ TEST_F(PropertyRecordsTest, GiveAnotherObjectTheSameProperties)
     EXPECT_THAT(Obj::readProperties(other, Obj::writeProperties(m_joint)), IsEmpty());
     EXPECT_EQ(other.first.getValue(), &m_bolt);
     EXPECT_EQ(other.torque.getValue(), 1e-9);
-    EXPECT_EQ(other.kind.get_word(), "hinged");
+    EXPECT_EQ(other.kind.getWord(), "hinged");
     EXPECT_TRUE(other.color.getValue() == m_joint.color.getValue());
     EXPECT_EQ(other.curve.getValue(), m_joint.curve.getValue());
 }
@@ -106,13 +106,13 @@ TEST_F(PropertyRecordsTest, HoldTheLinksThatWereDeclared)
 {
     m_joint.first.setValue(&m_bolt);
     EXPECT_TRUE(Obj::writeLinks(m_joint).isNull());
-    m_joint.link_to(m_bolt);
+    m_joint.linkTo(m_bolt);
     EXPECT_EQ(textOf(Obj::writeLinks(m_joint)), textOf(parse("[1]")));
     Joint& other = m_assembly.addJoint("Other");
     EXPECT_EQ(Obj::readLinks(other, Obj::writeLinks(m_joint)), 0U);
-    EXPECT_THAT(namesOf(other.get_links()), ElementsAre("Bolt"));
+    EXPECT_THAT(namesOf(other.getLinks()), ElementsAre("Bolt"));
     EXPECT_EQ(Obj::readLinks(other, parse(R"([2, 99, "Bolt", 3, 0])")), 4U) << "unknown, no ids, and itself";
-    EXPECT_THAT(namesOf(other.get_links()), ElementsAre("Bolt", "Joint"));
+    EXPECT_THAT(namesOf(other.getLinks()), ElementsAre("Bolt", "Joint"));
 }
 
 TEST_F(PropertyRecordsTest, HoldTheMembersOfAGroup)
@@ -123,7 +123,7 @@ TEST_F(PropertyRecordsTest, HoldTheMembersOfAGroup)
     Obj::ProjectObjectGroup& outer = *addGroup();
     Obj::ProjectObjectGroup& inner = *addGroup();
     EXPECT_EQ(Obj::readLinks(outer, parse("[4, 1]")), 0U);
-    EXPECT_THAT(namesOf(outer.get_members()), ElementsAre("Group1", "Bolt"));
+    EXPECT_THAT(namesOf(outer.getMembers()), ElementsAre("Group1", "Bolt"));
     EXPECT_EQ(textOf(Obj::writeLinks(outer)), textOf(parse("[4, 1]")));
     const vxtest::Reports reports;
     EXPECT_EQ(Obj::readLinks(inner, parse("[3]")), 1U) << "a group cannot be inside its own member";

@@ -25,7 +25,7 @@ template <typename SomeProperty>
 bool refuses(SomeProperty& property, const std::string& text)
 {
     const auto before = property.getValue();
-    const bool refused = !property.from_text(text);
+    const bool refused = !property.fromText(text);
     return refused && property.getValue() == before;
 }
 
@@ -35,7 +35,7 @@ TEST_F(PropertyTest, TellsItsOwnerBeforeAndAfterWithTheNewValueInPlace)
 {
     vxtest::Part part;
     vxtest::Part::hooks().calls.clear();
-    EXPECT_EQ(part.width.get_owner(), &part);
+    EXPECT_EQ(part.width.getOwner(), &part);
     part.width.setValue(8);
     EXPECT_THAT(vxtest::Part::hooks().calls, ElementsAre("before 7", "changed 8"));
 }
@@ -51,7 +51,7 @@ TEST_F(PropertyTest, TellsItsOwnerAlsoWhenTheValueIsTheSame)
 TEST_F(PropertyTest, IsSetInSilenceBeforeItIsRegistered)
 {
     PropertyInteger property;
-    EXPECT_EQ(property.get_owner(), nullptr);
+    EXPECT_EQ(property.getOwner(), nullptr);
     property.setValue(5);
     EXPECT_EQ(property.getValue(), 5);
     EXPECT_THAT(vxtest::Part::hooks().calls, IsEmpty());
@@ -63,30 +63,30 @@ TEST_F(PropertyTest, DoesNotTellItsOwnerOfATextThatIsRefused)
     vxtest::Part::hooks().calls.clear();
     EXPECT_TRUE(refuses(part.width, "seven"));
     EXPECT_THAT(vxtest::Part::hooks().calls, IsEmpty());
-    EXPECT_TRUE(part.width.from_text("9"));
+    EXPECT_TRUE(part.width.fromText("9"));
     EXPECT_THAT(vxtest::Part::hooks().calls, ElementsAre("before 7", "changed 9"));
 }
 
 TEST(PropertyString, TakesEveryText)
 {
     PropertyString property;
-    EXPECT_EQ(property.to_text(), "");
+    EXPECT_EQ(property.toText(), "");
     for (const std::string& text : {std::string(), std::string(10000, 'x'), std::string("钢"), std::string("%1 %2"),
                                     std::string("\n"), std::string("a\0b", 3)})
     {
-        EXPECT_TRUE(property.from_text(text));
+        EXPECT_TRUE(property.fromText(text));
         EXPECT_EQ(property.getValue(), text);
-        EXPECT_EQ(property.to_text(), text);
+        EXPECT_EQ(property.toText(), text);
     }
 }
 
 TEST(PropertyInteger, HasTheTextOfAWholeNumber)
 {
     PropertyInteger property(4294967296);
-    EXPECT_EQ(property.to_text(), "4294967296");
-    EXPECT_TRUE(property.from_text(" -12 "));
+    EXPECT_EQ(property.toText(), "4294967296");
+    EXPECT_TRUE(property.fromText(" -12 "));
     EXPECT_EQ(property.getValue(), -12);
-    EXPECT_TRUE(property.from_text("9223372036854775807"));
+    EXPECT_TRUE(property.fromText("9223372036854775807"));
     EXPECT_EQ(property.getValue(), std::numeric_limits<std::int64_t>::max());
 }
 
@@ -100,18 +100,18 @@ TEST(PropertyInteger, RefusesWhatIsNoWholeNumber)
 TEST(PropertyColor, HasTheShortestTextThatReadsBack)
 {
     PropertyColor property({0.5F, 0.25F, 1.0F, 0.0F});
-    EXPECT_EQ(property.to_text(), "0.5, 0.25, 1, 0");
+    EXPECT_EQ(property.toText(), "0.5, 0.25, 1, 0");
     property.setValue({0.1F, 0.2F, 0.3F, 1.0F / 3.0F});
-    EXPECT_EQ(property.to_text(), "0.1, 0.2, 0.3, 0.33333334");
+    EXPECT_EQ(property.toText(), "0.1, 0.2, 0.3, 0.33333334");
     const Color before = property.getValue();
-    EXPECT_TRUE(property.from_text(property.to_text()));
+    EXPECT_TRUE(property.fromText(property.toText()));
     EXPECT_EQ(property.getValue(), before);
 }
 
 TEST(PropertyColor, ReadsFourComponentsBetween0And1)
 {
     PropertyColor property;
-    EXPECT_TRUE(property.from_text("1,0.5 , 0,0.125"));
+    EXPECT_TRUE(property.fromText("1,0.5 , 0,0.125"));
     EXPECT_EQ(property.getValue(), (Color{1.0F, 0.5F, 0.0F, 0.125F}));
     for (const char* const text : {"", "1, 1, 1", "1, 1, 1, 1, 1", "1, 1, 1, 1.01", "1, 1, 1, -0.1", "1, 1, 1, nan",
                                    "1, 1, 1, inf", "1, 1, 1, x", "1, 1, , 1", "1; 1; 1; 1", "1, 1, 1, 1,"})
@@ -130,11 +130,11 @@ TEST(PropertyColor, DiffersInEachComponent)
 TEST(PropertyCoupleArray, HasTheTextOfACurve)
 {
     PropertyCoupleArray property;
-    EXPECT_EQ(property.to_text(), "");
+    EXPECT_EQ(property.toText(), "");
     property.setValue({{0.0, 1.0}, {0.5, 2e10}, {0.1, -1e-300}});
-    EXPECT_EQ(property.to_text(), "0, 1; 0.5, 2e+10; 0.1, -1e-300");
+    EXPECT_EQ(property.toText(), "0, 1; 0.5, 2e+10; 0.1, -1e-300");
     const Couples before = property.getValue();
-    EXPECT_TRUE(property.from_text(property.to_text()));
+    EXPECT_TRUE(property.fromText(property.toText()));
     EXPECT_EQ(property.getValue(), before);
 }
 
@@ -144,9 +144,9 @@ TEST(PropertyCoupleArray, ReadsPairsAndNothingElse)
     property.setValue({{1.0, 2.0}});
     for (const char* const text : {"1", "1, 2, 3", "1, 2;", ";1, 2", ";", "1, 2;; 3, 4", "1, x", "1, nan", "1, 1e999"})
         EXPECT_TRUE(refuses(property, text)) << text;
-    EXPECT_TRUE(property.from_text("  "));
+    EXPECT_TRUE(property.fromText("  "));
     EXPECT_THAT(property.getValue(), IsEmpty());
-    EXPECT_TRUE(property.from_text(" 1,2 ;3 , 4 "));
+    EXPECT_TRUE(property.fromText(" 1,2 ;3 , 4 "));
     EXPECT_EQ(property.getValue(), (Couples{{1.0, 2.0}, {3.0, 4.0}}));
 }
 
@@ -154,15 +154,15 @@ TEST(Property, HasItsTextInTheCLocaleWhateverTheLocaleOfTheUser)
 {
     const vxtest::CommaLocale locale;
     PropertyInteger integer(1234567);
-    EXPECT_EQ(integer.to_text(), "1234567");
+    EXPECT_EQ(integer.toText(), "1234567");
     PropertyColor color;
-    EXPECT_TRUE(color.from_text("0.5, 0.25, 1, 0"));
+    EXPECT_TRUE(color.fromText("0.5, 0.25, 1, 0"));
     EXPECT_EQ(color.getValue(), (Color{0.5F, 0.25F, 1.0F, 0.0F}));
-    EXPECT_EQ(color.to_text(), "0.5, 0.25, 1, 0");
+    EXPECT_EQ(color.toText(), "0.5, 0.25, 1, 0");
     PropertyCoupleArray couples;
-    EXPECT_TRUE(couples.from_text("0.5, 1234.25"));
+    EXPECT_TRUE(couples.fromText("0.5, 1234.25"));
     EXPECT_EQ(couples.getValue(), (Couples{{0.5, 1234.25}}));
-    EXPECT_EQ(couples.to_text(), "0.5, 1234.25");
+    EXPECT_EQ(couples.toText(), "0.5, 1234.25");
 }
 
 // --- Real numbers, yes or no, choices ---
@@ -174,15 +174,15 @@ TEST_F(PropertyTest, OfARealNumberReadsBackTheVeryNumber)
     for (const double number : {0.1, -0.5, 1.0 / 3.0, 1e-300, 5e-324, 1.7976931348623157e308, 210000.0}) {
         property.setValue(number);
         Obj::PropertyReal other(1.0);
-        ASSERT_TRUE(other.from_text(property.to_text())) << property.to_text();
+        ASSERT_TRUE(other.fromText(property.toText())) << property.toText();
         EXPECT_EQ(other.getValue(), number);
         other.setValue(1.0);
-        ASSERT_TRUE(other.from_json(property.to_json()));
+        ASSERT_TRUE(other.fromJson(property.toJson()));
         EXPECT_EQ(other.getValue(), number);
     }
     property.setValue(0.1);
-    EXPECT_EQ(property.to_text(), "0.1");
-    EXPECT_TRUE(property.from_text("  2.5e3 "));
+    EXPECT_EQ(property.toText(), "0.1");
+    EXPECT_TRUE(property.fromText("  2.5e3 "));
     EXPECT_EQ(property.getValue(), 2500.0);
 }
 
@@ -190,8 +190,8 @@ TEST_F(PropertyTest, OfARealNumberHasItsTextInTheCLocale)
 {
     const vxtest::CommaLocale locale;
     Obj::PropertyReal property(1234.5);
-    EXPECT_EQ(property.to_text(), "1234.5");
-    EXPECT_TRUE(property.from_text("0.25"));
+    EXPECT_EQ(property.toText(), "1234.5");
+    EXPECT_TRUE(property.fromText("0.25"));
     EXPECT_EQ(property.getValue(), 0.25);
     EXPECT_TRUE(refuses(property, "0,25"));
 }
@@ -203,12 +203,12 @@ TEST_F(PropertyTest, OfARealNumberIsAlwaysFinite)
     for (const char* const text : {"inf", "-inf", "nan", "NaN", "Infinity", "1e999", "", "three", "1 2"})
         EXPECT_TRUE(refuses(property, text)) << text;
     for (const Json::Value& json : {Json::Value("3"), Json::Value(), Json::Value(true), Json::Value(infinity)})
-        EXPECT_FALSE(property.from_json(json)) << json;
+        EXPECT_FALSE(property.fromJson(json)) << json;
     EXPECT_THROW(property.setValue(infinity), std::invalid_argument);
     EXPECT_THROW(property.setValue(std::numeric_limits<double>::quiet_NaN()), std::invalid_argument);
     EXPECT_THROW(Obj::PropertyReal{infinity}, std::invalid_argument);
     EXPECT_EQ(property.getValue(), 3.0);
-    EXPECT_TRUE(property.from_json(Json::Value(4)));
+    EXPECT_TRUE(property.fromJson(Json::Value(4)));
     EXPECT_EQ(property.getValue(), 4.0) << "a whole number is a real number too";
 }
 
@@ -216,32 +216,32 @@ TEST_F(PropertyTest, OfYesOrNoIsTrueOrFalse)
 {
     Obj::PropertyBool property;
     EXPECT_FALSE(property.getValue());
-    EXPECT_TRUE(property.from_text("true"));
+    EXPECT_TRUE(property.fromText("true"));
     EXPECT_TRUE(property.getValue());
-    EXPECT_EQ(property.to_text(), "true");
-    EXPECT_EQ(property.to_json(), Json::Value(true));
+    EXPECT_EQ(property.toText(), "true");
+    EXPECT_EQ(property.toJson(), Json::Value(true));
     for (const char* const text : {"", "yes", "True", "1", "falsetrue"})
         EXPECT_TRUE(refuses(property, text)) << text;
-    EXPECT_FALSE(property.from_json(Json::Value(0)));
-    EXPECT_FALSE(property.from_json(Json::Value("false")));
-    EXPECT_TRUE(property.from_json(Json::Value(false)));
-    EXPECT_EQ(property.to_text(), "false");
+    EXPECT_FALSE(property.fromJson(Json::Value(0)));
+    EXPECT_FALSE(property.fromJson(Json::Value("false")));
+    EXPECT_TRUE(property.fromJson(Json::Value(false)));
+    EXPECT_EQ(property.toText(), "false");
 }
 
 TEST_F(PropertyTest, OfAChoiceIsOneOfItsWords)
 {
     Obj::PropertyChoice property({"coarse", "fine", "钢"}, 1);
     EXPECT_EQ(property.getValue(), 1U);
-    EXPECT_EQ(property.get_word(), "fine");
-    EXPECT_THAT(property.get_words(), ElementsAre("coarse", "fine", "钢"));
-    EXPECT_TRUE(property.from_text("钢"));
+    EXPECT_EQ(property.getWord(), "fine");
+    EXPECT_THAT(property.getWords(), ElementsAre("coarse", "fine", "钢"));
+    EXPECT_TRUE(property.fromText("钢"));
     EXPECT_EQ(property.getValue(), 2U);
-    EXPECT_EQ(property.to_json(), Json::Value("钢"));
-    EXPECT_TRUE(property.from_json(Json::Value("coarse")));
-    EXPECT_EQ(property.to_text(), "coarse");
+    EXPECT_EQ(property.toJson(), Json::Value("钢"));
+    EXPECT_TRUE(property.fromJson(Json::Value("coarse")));
+    EXPECT_EQ(property.toText(), "coarse");
     for (const char* const text : {"", "Fine", "fine ", "1"})
         EXPECT_TRUE(refuses(property, text)) << text;
-    EXPECT_FALSE(property.from_json(Json::Value(1)));
+    EXPECT_FALSE(property.fromJson(Json::Value(1)));
     EXPECT_THROW(property.setValue(3), std::out_of_range);
     EXPECT_EQ(property.getValue(), 0U);
 }
@@ -262,43 +262,43 @@ TEST_F(PropertyTest, KeepsWholeNumbersOfEverySizeInJson)
                                       std::numeric_limits<std::int64_t>::min(), std::int64_t{4294967295}})
     {
         property.setValue(number);
-        const Json::Value json = property.to_json();
+        const Json::Value json = property.toJson();
         property.setValue(1);
-        EXPECT_TRUE(property.from_json(json));
+        EXPECT_TRUE(property.fromJson(json));
         EXPECT_EQ(property.getValue(), number);
     }
     for (const Json::Value& json : {Json::Value(1.5), Json::Value("1"), Json::Value(1e30), Json::Value()})
-        EXPECT_FALSE(property.from_json(json)) << json;
+        EXPECT_FALSE(property.fromJson(json)) << json;
 }
 
 TEST_F(PropertyTest, WritesAColourInJsonWithTheDigitsThatItNeeds)
 {
     PropertyColor property({0.5058824F, 0.1F, 1.0F, 0.0F});
-    EXPECT_EQ(property.to_json()[0].asDouble(), 0.5058824);
-    EXPECT_EQ(property.to_json()[1].asDouble(), 0.1);
+    EXPECT_EQ(property.toJson()[0].asDouble(), 0.5058824);
+    EXPECT_EQ(property.toJson()[1].asDouble(), 0.1);
     PropertyColor other;
-    EXPECT_TRUE(other.from_json(property.to_json()));
+    EXPECT_TRUE(other.fromJson(property.toJson()));
     EXPECT_TRUE(other.getValue() == property.getValue());
     Json::Value wrong(Json::arrayValue);
-    EXPECT_FALSE(other.from_json(wrong));
+    EXPECT_FALSE(other.fromJson(wrong));
     for (int i = 0; i < 4; ++i)
         wrong.append(i == 3 ? Json::Value("0") : Json::Value(0));
-    EXPECT_FALSE(other.from_json(wrong));
-    EXPECT_FALSE(other.from_json(Json::Value(1)));
+    EXPECT_FALSE(other.fromJson(wrong));
+    EXPECT_FALSE(other.fromJson(Json::Value(1)));
 }
 
 TEST_F(PropertyTest, WritesCouplesInJson)
 {
     PropertyCoupleArray property;
-    EXPECT_EQ(property.to_json(), Json::Value(Json::arrayValue));
+    EXPECT_EQ(property.toJson(), Json::Value(Json::arrayValue));
     property.setValue({{0.0, 0.1}, {1.0, -2.0}});
     PropertyCoupleArray other;
-    EXPECT_TRUE(other.from_json(property.to_json()));
+    EXPECT_TRUE(other.fromJson(property.toJson()));
     EXPECT_EQ(other.getValue(), property.getValue());
     Json::Value wrong(Json::arrayValue);
     wrong.append(1.0);
-    EXPECT_FALSE(other.from_json(wrong));
-    EXPECT_FALSE(other.from_json(Json::Value("0, 1")));
+    EXPECT_FALSE(other.fromJson(wrong));
+    EXPECT_FALSE(other.fromJson(Json::Value("0, 1")));
     EXPECT_EQ(other.getValue(), property.getValue());
 }
 

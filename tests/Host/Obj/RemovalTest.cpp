@@ -17,7 +17,7 @@ protected:
 TEST_F(RemovalTest, DestroysAtOnceWithoutAGuard)
 {
     const Part& part = m_assembly.addPart();
-    EXPECT_TRUE(m_assembly.remove_object(part.getObjectId()));
+    EXPECT_TRUE(m_assembly.removeObject(part.getObjectId()));
     EXPECT_EQ(Part::count(), 0);
 }
 
@@ -29,7 +29,7 @@ TEST_F(RemovalTest, WaitsForTheLastGuard)
         {
             const RemovalGuard inner;
             EXPECT_FALSE(RemovalGuard::isDoomed(part));
-            EXPECT_TRUE(m_assembly.remove_object(part.getObjectId()));
+            EXPECT_TRUE(m_assembly.removeObject(part.getObjectId()));
             EXPECT_TRUE(RemovalGuard::isDoomed(part));
         }
         EXPECT_EQ(Part::count(), 1);
@@ -44,9 +44,9 @@ TEST_F(RemovalTest, KeepsAClosedProjectWithItsObjects)
     m_assembly.addPart();
     {
         const RemovalGuard guard;
-        EXPECT_TRUE(application().close_project(m_assembly));
+        EXPECT_TRUE(application().closeProject(m_assembly));
         EXPECT_TRUE(RemovalGuard::isDoomed(m_assembly));
-        EXPECT_EQ(m_assembly.get_object_count(), 1U);
+        EXPECT_EQ(m_assembly.getObjectCount(), 1U);
     }
     EXPECT_EQ(Part::count(), 0);
 }
@@ -59,7 +59,7 @@ public:
     ~Chained() override
     {
         const RemovalGuard guard;
-        m_assembly.remove_object(m_next);
+        m_assembly.removeObject(m_next);
     }
 
 private:
@@ -76,10 +76,10 @@ TEST_F(RemovalTest, DestroysWhatDestructorsRemove)
     const std::uint32_t first = add(add(last));
     {
         const RemovalGuard guard;
-        EXPECT_TRUE(m_assembly.remove_object(first));
-        EXPECT_EQ(m_assembly.get_object_count(), 2U);
+        EXPECT_TRUE(m_assembly.removeObject(first));
+        EXPECT_EQ(m_assembly.getObjectCount(), 2U);
     }
-    EXPECT_EQ(m_assembly.get_object_count(), 0U);
+    EXPECT_EQ(m_assembly.getObjectCount(), 0U);
     EXPECT_EQ(Part::count(), 0);
 }
 

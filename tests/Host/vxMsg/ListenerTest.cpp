@@ -28,7 +28,7 @@ class ListenerTest : public vxtest::MessageProxyTest
 TEST_F(ListenerTest, MayCloseTheProjectDirectlyWhenAskedWhetherItMayClose)
 {
     part("Bolt");
-    proxy().projectClosing.connect([](Obj::Project& project, bool&) { application().close_project(project); });
+    proxy().projectClosing.connect([](Obj::Project& project, bool&) { application().closeProject(project); });
     std::vector<std::string> told;
     proxy().projectClosing.connect([&told](Obj::Project& project, bool&) { told.emplace_back(project.get_name()); });
     const vxtest::Reports reports;
@@ -94,7 +94,7 @@ TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDestroyed)
 {
     int created = 0;
     proxy().objectCreated.connect([&created](ProjectObject&) { ++created; });
-    m_project->objectAdded.connect([this](ProjectObject& object) { m_project->remove_object(object.getObjectId()); });
+    m_project->objectAdded.connect([this](ProjectObject& object) { m_project->removeObject(object.getObjectId()); });
     EXPECT_FALSE(add("Bolt"));
     EXPECT_EQ(created, 0);
     EXPECT_EQ(stack().count(), 0);
@@ -104,7 +104,7 @@ TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDestroyed)
 TEST_F(ListenerTest, MayDestroyACreatedObjectBeforeOthersAreTold)
 {
     std::vector<std::string> told;
-    proxy().objectCreated.connect([this](ProjectObject& object) { m_project->remove_object(object.getObjectId()); });
+    proxy().objectCreated.connect([this](ProjectObject& object) { m_project->removeObject(object.getObjectId()); });
     proxy().objectCreated.connect([&told](ProjectObject& object) { told.push_back(object.label.getValue()); });
     EXPECT_TRUE(add("Bolt"));
     EXPECT_THAT(told, ElementsAre("Bolt"));
@@ -127,7 +127,7 @@ TEST_F(ListenerTest, MayCloseTheProjectToWhichAnObjectIsAdded)
 
 TEST_F(ListenerTest, MayDestroyTheProjectToWhichAnObjectIsAdded)
 {
-    m_project->objectAdded.connect([this](ProjectObject&) { application().close_project(*m_project); });
+    m_project->objectAdded.connect([this](ProjectObject&) { application().closeProject(*m_project); });
     EXPECT_FALSE(add("Bolt"));
     EXPECT_EQ(stack().count(), 0);
     EXPECT_EQ(Part::count(), 0);
@@ -136,7 +136,7 @@ TEST_F(ListenerTest, MayDestroyTheProjectToWhichAnObjectIsAdded)
 TEST_F(ListenerTest, MayDestroyAProjectThatIsJustMade)
 {
     const scoped_connection closing =
-        application().projectAdded.connect([](Obj::Project& project) { application().close_project(project); });
+        application().projectAdded.connect([](Obj::Project& project) { application().closeProject(project); });
     int created = 0;
     proxy().projectCreated.connect([&created](Obj::Project&) { ++created; });
     EXPECT_FALSE(makeProject("Second"));
@@ -148,7 +148,7 @@ TEST_F(ListenerTest, MayDestroyAnObjectWhosePropertyIsChanged)
 {
     Part& bolt = part("Bolt");
     m_project->objectChanged.connect(
-        [this](ProjectObject& object, const Obj::Property*) { m_project->remove_object(object.getObjectId()); });
+        [this](ProjectObject& object, const Obj::Property*) { m_project->removeObject(object.getObjectId()); });
     EXPECT_TRUE(proxy().setProperty(vxMsg::PropertyPlace(bolt), "Width", "9"));
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_EQ(stack().count(), 0);
@@ -164,7 +164,7 @@ TEST_F(ListenerTest, HasWhatItAddsUndoneWithTheRequestAProjectIncluded)
     scoped_connection listening = m_project->objectAdded.connect([this](ProjectObject& object) {
         if (object.label.getValue() != "Bolt")
             return;
-        Obj::Project* const drawing = application().create_project("vxtest::Assembly", "Drawing");
+        Obj::Project* const drawing = application().createProject("vxtest::Assembly", "Drawing");
         drawing->add_object("vxtest::Part", "View");
         m_project->addPart("Nut");
     });
@@ -241,7 +241,7 @@ TEST_F(ListenerTest, HasItsRequestsInsideADeletionUndoneWithIt)
 TEST_F(ListenerTest, EndsTheHistoryIfItDestroysAnObjectThatARequestDeletes)
 {
     part("a");
-    part("b").link_to(*m_project->get_object("a"));
+    part("b").linkTo(*m_project->get_object("a"));
     Part::hooks().removesItselfWithWhatItNeeds = true;
     EXPECT_TRUE(remove("a"));
     EXPECT_THAT(names(), IsEmpty());
@@ -256,7 +256,7 @@ TEST_F(ListenerTest, EndsTheHistoryIfItClosesAProjectDuringAnUndo)
     int calls = 0;
     application().get_project("Other")->objectRemoved.connect([&calls, this](ProjectObject&) {
         ++calls;
-        application().close_project(*m_project);
+        application().closeProject(*m_project);
     });
     stack().undo();
     EXPECT_EQ(calls, 1);
@@ -329,7 +329,7 @@ private:
 
     ProjectObject* someObject(const Obj::Project& project)
     {
-        const auto objects = project.get_objects();
+        const auto objects = project.getObjects();
         return objects.empty() ? nullptr : objects[static_cast<std::size_t>(number(static_cast<int>(objects.size())))];
     }
 
@@ -346,12 +346,12 @@ private:
         if (what == 1)
             proxy.closeProject(name);
         else if (what == 2)
-            Application::instance().close_project(*project);
+            Application::instance().closeProject(*project);
         else if (what == 3)
             proxy.undoStack().undo();
         else if (what == 4)
             proxy.undoStack().redo();
-        else if (what <= 7 && project->get_object_count() < 30)
+        else if (what <= 7 && project->getObjectCount() < 30)
             proxy.addObject(name, number(2) == 0 ? "vxtest::Joint" : "Obj::ProjectObjectGroup", "Random");
         else if (what == 8)
             project->add_object("vxtest::Joint", "Direct");
@@ -366,13 +366,13 @@ private:
         if (what == 9)
             proxy.deleteObject(project.get_name(), object.get_name_in_project());
         else if (what == 10)
-            project.remove_object(object.getObjectId());
+            project.removeObject(object.getObjectId());
         else if (what == 11)
-            object.link_to(other);
+            object.linkTo(other);
         else if (what == 12)
             proxy.setProperty(vxMsg::PropertyPlace(object), "First", other.get_name_in_project());
         else if (auto* const group = dynamic_cast<Obj::ProjectObjectGroup*>(&object))
-            group->add_member(other);
+            group->addMember(other);
         else
             proxy.setSuppressed(object, !object.isSuppressed());
     }
@@ -429,13 +429,13 @@ TEST_P(ListenersAtRandom, LeaveEverythingWhole)
         const EveryListener listeners(mischief);
         for (int i = 0; i < 200; ++i)
             mischief.doSomething();
-        application().close_all_projects();
+        application().closeAllProjects();
         stack().clear();
         for (Obj::Project* const project : Application::get_projects())
             project->objectAdded.disconnect_all_slots();
     }
     stack().clear();
-    application().close_all_projects();
+    application().closeAllProjects();
     EXPECT_EQ(Part::count(), 0) << "objects outlive their projects";
 }
 

@@ -96,7 +96,7 @@ TEST_F(MessageProxyTest, ReportsNamesThatItDoesNotKnow)
 
 TEST_F(MessageProxyTest, ReportsThatAllIdsAreUsedUp)
 {
-    m_project->skip_object_ids(4294967296);
+    m_project->skipObjectIds(4294967296);
     const vxtest::Reports reports;
     EXPECT_FALSE(add("Bolt"));
     EXPECT_EQ(reports.errors(), 1);
@@ -163,7 +163,7 @@ TEST_F(MessageProxyTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndAl
     constexpr int count = 10000;
     for (int i = 0; i < count; ++i)
         ASSERT_TRUE(add("Part"));
-    const std::vector<ProjectObject*> objects = m_project->get_objects();
+    const std::vector<ProjectObject*> objects = m_project->getObjects();
     const std::vector<std::string> namesBefore = names();
     ASSERT_EQ(objects.size(), 10000U);
     for (std::size_t i = 0; i < objects.size(); ++i)
@@ -173,12 +173,12 @@ TEST_F(MessageProxyTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndAl
     std::shuffle(order.begin(), order.end(), random);
     for (const std::string& name : order)
         ASSERT_TRUE(remove(name));
-    EXPECT_EQ(m_project->get_object_count(), 0U);
+    EXPECT_EQ(m_project->getObjectCount(), 0U);
     EXPECT_EQ(stack().count(), 2 * count);
 
     for (int i = 0; i < count; ++i)
         stack().undo();
-    EXPECT_EQ(m_project->get_objects(), objects) << "the very objects, in the same order";
+    EXPECT_EQ(m_project->getObjects(), objects) << "the very objects, in the same order";
     EXPECT_EQ(names(), namesBefore);
     for (std::size_t i = 0; i < objects.size(); ++i) {
         ASSERT_EQ(objects[i]->getObjectId(), i + 1);
@@ -186,7 +186,7 @@ TEST_F(MessageProxyTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndAl
         ASSERT_EQ(m_project->get_object(namesBefore[i]), objects[i]);
     }
     stack().setIndex(0);
-    EXPECT_EQ(m_project->get_object_count(), 0U) << "their creation undone too";
+    EXPECT_EQ(m_project->getObjectCount(), 0U) << "their creation undone too";
     EXPECT_EQ(part("next").getObjectId(), 10001U);
 }
 
@@ -275,7 +275,7 @@ TEST_F(MessageProxyTest, MakesObjectsUndoableThatAreAddedWithoutARequest)
 
 TEST_F(MessageProxyTest, WatchesProjectsThatWereMadeWithoutARequest)
 {
-    Obj::Project* const project = application().create_project("vxtest::Assembly", "Direct");
+    Obj::Project* const project = application().createProject("vxtest::Assembly", "Direct");
     ASSERT_NE(project, nullptr);
     project->add_object("vxtest::Part", "Imported");
     EXPECT_EQ(stack().count(), 1);
@@ -283,7 +283,7 @@ TEST_F(MessageProxyTest, WatchesProjectsThatWereMadeWithoutARequest)
 
 TEST_F(MessageProxyTest, WatchesAProjectOnceThatWasAwayAndCameBack)
 {
-    application().restore_project(application().take_project(*m_project));
+    application().restoreProject(application().takeProject(*m_project));
     m_project->add_object("vxtest::Part", "a");
     EXPECT_EQ(stack().count(), 1);
     EXPECT_TRUE(closeProject("Machine"));
@@ -297,7 +297,7 @@ TEST_F(MessageProxyTest, WatchesAProjectOnceThatWasAwayAndCameBack)
 TEST_F(MessageProxyTest, EndsTheHistoryWhenAProjectIsClosedDirectly)
 {
     part("Bolt");
-    EXPECT_TRUE(application().close_project(*m_project));
+    EXPECT_TRUE(application().closeProject(*m_project));
     EXPECT_EQ(stack().count(), 0);
     EXPECT_FALSE(stack().canUndo());
 }
@@ -306,7 +306,7 @@ TEST_F(MessageProxyTest, EndsTheHistoryWhenAnObjectIsDestroyedDirectly)
 {
     part("Bolt");
     part("Nut");
-    EXPECT_TRUE(m_project->remove_object(1));
+    EXPECT_TRUE(m_project->removeObject(1));
     EXPECT_EQ(stack().count(), 0);
     EXPECT_THAT(names(), ElementsAre("Nut"));
 }
@@ -315,7 +315,7 @@ TEST_F(MessageProxyTest, DestroysObjectsOfAClosedProjectWithItsHistory)
 {
     Part& bolt = part("Bolt");
     Part& nut = part("Nut");
-    nut.link_to(bolt);
+    nut.linkTo(bolt);
     EXPECT_TRUE(remove("Bolt"));
     EXPECT_TRUE(closeProject("Machine"));
     stack().clear(); // the deleted object first, then the project
@@ -456,7 +456,7 @@ TEST_F(MessageProxyTest, EndsTheHistoryBehindAGroupInWhichAnObjectIsDestroyed)
     {
         const MessageProxy::Group group(QStringLiteral("Group"));
         part("Bolt");
-        EXPECT_TRUE(m_project->remove_object(1));
+        EXPECT_TRUE(m_project->removeObject(1));
     }
     EXPECT_EQ(stack().count(), 0);
     EXPECT_THAT(names(), ElementsAre("Bolt"));
@@ -503,21 +503,21 @@ TEST_F(MessageProxyTest, HasLinksReferencesAndMembersBackWhenADeletionIsUndone)
         static_cast<Obj::ProjectObjectGroup*>(m_project->add_object("Obj::ProjectObjectGroup", "Group"));
     Part& bolt = part("Bolt");
     Joint& joint = m_project->addJoint();
-    group->add_member(bolt);
-    joint.link_to(bolt);
+    group->addMember(bolt);
+    joint.linkTo(bolt);
     joint.first.setValue(&bolt);
     Part::hooks().unlinksWhatLeaves = true;
     EXPECT_TRUE(remove("Bolt"));
     EXPECT_EQ(joint.first.getValue(), nullptr);
-    EXPECT_THAT(joint.get_needed_objects(), IsEmpty());
+    EXPECT_THAT(joint.getNeededObjects(), IsEmpty());
     stack().undo();
     EXPECT_EQ(joint.first.getValue(), &bolt);
-    EXPECT_THAT(vxtest::namesOf(joint.get_links()), ElementsAre("Bolt"));
-    EXPECT_EQ(bolt.get_parent_group(), group);
+    EXPECT_THAT(vxtest::namesOf(joint.getLinks()), ElementsAre("Bolt"));
+    EXPECT_EQ(bolt.getParentGroup(), group);
     EXPECT_TRUE(remove("Group"));
-    EXPECT_EQ(bolt.get_parent_group(), nullptr);
+    EXPECT_EQ(bolt.getParentGroup(), nullptr);
     stack().undo();
-    EXPECT_EQ(bolt.get_parent_group(), group);
+    EXPECT_EQ(bolt.getParentGroup(), group);
 }
 
 // --- Properties ---
@@ -544,14 +544,14 @@ TEST_F(MessageProxyTest, ChangesPropertiesOfEveryTypeAndBack)
         {"Color", "1, 0, 0.5, 0"}, {"Curve", "0, 1; 2, 3"}, {"Label", "钢"}};
     std::vector<std::string> before;
     for (const auto& [name, text] : edits) {
-        before.push_back(joint.get_property_by_name(name.c_str())->to_text());
+        before.push_back(joint.get_property_by_name(name.c_str())->toText());
         EXPECT_TRUE(proxy().setProperty(PropertyPlace(joint), name, text)) << name;
-        EXPECT_EQ(joint.get_property_by_name(name.c_str())->to_text(), text);
+        EXPECT_EQ(joint.get_property_by_name(name.c_str())->toText(), text);
     }
     EXPECT_EQ(stack().count(), 7);
     stack().setIndex(0);
     for (std::size_t i = 0; i < edits.size(); ++i)
-        EXPECT_EQ(joint.get_property_by_name(edits[i].first.c_str())->to_text(), before[i]) << edits[i].first;
+        EXPECT_EQ(joint.get_property_by_name(edits[i].first.c_str())->toText(), before[i]) << edits[i].first;
     stack().setIndex(7);
     EXPECT_EQ(joint.first.getValue(), m_project->get_object("Bolt"));
 }
@@ -691,7 +691,7 @@ TEST_F(MessageProxyTest, OpensAProjectWithANewHistoryAndTellsItsObjects)
         project.add_object("vxtest::Part", "b", 5);
     });
     ASSERT_NE(opened, nullptr);
-    EXPECT_EQ(opened->get_object_count(), 2U);
+    EXPECT_EQ(opened->getObjectCount(), 2U);
     EXPECT_EQ(stack().count(), 0);
     EXPECT_EQ(Part::hooks().calls.back(), "restored b");
     EXPECT_EQ(*(Part::hooks().calls.end() - 2), "restored a");
@@ -702,7 +702,7 @@ TEST_F(MessageProxyTest, OpensAProjectWithANewHistoryAndTellsItsObjects)
 TEST_F(MessageProxyTest, LeavesTheHistoryAndTheCurrentProjectWhenAProjectCannotBeFilled)
 {
     makeProject("Last");
-    Application::instance().set_current_project(*m_project);
+    Application::instance().setCurrentProject(*m_project);
     part("Bolt");
     EXPECT_THROW(proxy().openProject("vxtest::Assembly", "Opened",
                                      [](Obj::Project& project) {
@@ -726,10 +726,10 @@ TEST_F(MessageProxyTest, OpensAProjectThatCodeHasMade)
                             });
     ASSERT_NE(opened, nullptr);
     EXPECT_STREQ(opened->get_name(), "Kept");
-    EXPECT_EQ(opened->get_object_count(), 1U);
+    EXPECT_EQ(opened->getObjectCount(), 1U);
     EXPECT_TRUE(remove("a", "Kept"));
     stack().undo();
-    EXPECT_EQ(opened->get_object_count(), 1U);
+    EXPECT_EQ(opened->getObjectCount(), 1U);
 }
 
 TEST_F(MessageProxyTest, OpensNothingOfAClassThatIsNotRegistered)
@@ -754,7 +754,7 @@ TEST_F(MessageProxyTest, CanStillUndoWhatIsAddedElsewhereWhileAProjectIsOpened)
     EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"Elsewhere\""));
     stack().undo();
     EXPECT_THAT(names(), ElementsAre("Bolt")) << "the history before has ended";
-    EXPECT_EQ(opened->get_object_count(), 1U) << "what came with the project stays";
+    EXPECT_EQ(opened->getObjectCount(), 1U) << "what came with the project stays";
 }
 
 } // namespace

@@ -40,7 +40,7 @@ bool MessageProxyTest::remove(const std::string& name, const std::string& projec
 Part& MessageProxyTest::part(const std::string& name)
 {
     EXPECT_TRUE(add(name));
-    return static_cast<Part&>(*m_project->get_objects().back());
+    return static_cast<Part&>(*m_project->getObjects().back());
 }
 
 std::vector<std::string> MessageProxyTest::projects()

@@ -32,7 +32,7 @@ protected:
     Part& part(const std::string& name);
 
     /// The names of the objects of "Machine", and of all open projects.
-    std::vector<std::string> names() const { return namesOf(m_project->get_objects()); }
+    std::vector<std::string> names() const { return namesOf(m_project->getObjects()); }
     static std::vector<std::string> projects();
 
     Assembly* m_project = nullptr;

@@ -44,7 +44,7 @@ private:
     void OnTestEnd(const testing::TestInfo& /*test*/) override
     {
         vxMsg::MessageProxy::instance().undoStack().clear();
-        Obj::Application::instance().close_all_projects();
+        Obj::Application::instance().closeAllProjects();
         m_home.reset();
     }
 

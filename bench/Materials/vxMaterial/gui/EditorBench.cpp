@@ -33,7 +33,7 @@ constexpr double fillLimit = 2.0;
 Mat::MaterialObject& materialObject()
 {
     static Mat::MaterialObject* const object = [] {
-        auto* const project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Bench");
+        auto* const project = Obj::Application::instance().createProject("Mat::DocumentMaterial", "Bench");
         auto* const made = static_cast<Mat::MaterialObject*>(project->add_object("Mat::MaterialObject", "Steel"));
         made->initCMaterial(vxMat::eMaterialType::StructuralSteel);
         return made;

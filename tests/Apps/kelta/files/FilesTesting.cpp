@@ -59,29 +59,29 @@ void Answers::answer()
 FilesWindow::FilesWindow() : window(std::make_unique<Gui::MainWindow>())
 {
     startFiles();
-    kelta::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    desktop::addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
     window->setAcceptDrops(true);
-    window->installEventFilter(new kelta::FileDrops(*files, *window));
-    window->set_workbench("Gui::StdSimModule");
+    window->installEventFilter(new desktop::FileDrops(*files, *window));
+    window->setWorkbench("Gui::StdSimModule");
     window->show();
 }
 
 FilesWindow::~FilesWindow()
 {
-    kelta::FileService::set_instance(nullptr);
+    desktop::FileService::setInstance(nullptr);
     history().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     Gui::TreeSelectionSingleton::instance().clear();
 }
 
 bool FilesWindow::run(const char* command)
 {
-    return Gui::GuiApplication::Instance->get_command_manager().run_command(command);
+    return Gui::GuiApplication::Instance->get_command_manager().runCommand(command);
 }
 
 bool FilesWindow::run(const char* command, const QString& file)
 {
-    Gui::FileDialog::answer_next(file);
+    Gui::FileDialog::answerNext(file);
     return run(command);
 }
 
@@ -89,10 +89,10 @@ Files::Files()
 {
     initMat();
     initMatGui();
-    kelta::registerMaterialFiles();
-    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
-    new kelta::EditorWatch(*window);
-    window->set_workbench("MatGui::SimModule");
+    desktop::registerMaterialFiles();
+    desktop::registerMaterialContributions(*Gui::GuiApplication::Instance);
+    new desktop::EditorWatch(*window);
+    window->setWorkbench("MatGui::SimModule");
 }
 
 Files::~Files() = default;
@@ -106,7 +106,7 @@ Mat::DocumentMaterial& Files::newProject()
 
 bool Files::closeProject()
 {
-    Gui::TreeSelectionSingleton::instance().set_selection({currentProject()}, {});
+    Gui::TreeSelectionSingleton::instance().setSelection({currentProject()}, {});
     return run("Mat_DelDoc");
 }
 
@@ -126,7 +126,7 @@ Mat::DocumentMaterial* Files::currentProject()
 
 Mat::MaterialObject* Files::findMaterial(const std::string& label)
 {
-    for (Obj::ProjectObject* const object : currentProject()->get_objects())
+    for (Obj::ProjectObject* const object : currentProject()->getObjects())
         if (object->label.getValue() == label)
             return dynamic_cast<Mat::MaterialObject*>(object);
     return nullptr;
@@ -177,10 +177,10 @@ void FilesWindow::crash()
     std::map<QString, QByteArray> left;
     for (const QString& copy : copies())
         left[copy] = contentOf(copy);
-    window->close_all_windows();
-    kelta::FileService::set_instance(nullptr);
+    window->closeAllWindows();
+    desktop::FileService::setInstance(nullptr);
     history().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     for (const auto& [copy, content] : left)
         writeFile(copy, content);
     startFiles();
@@ -188,9 +188,9 @@ void FilesWindow::crash()
 
 void FilesWindow::startFiles()
 {
-    auto service = std::make_unique<kelta::ProjectFiles>(*window);
+    auto service = std::make_unique<desktop::ProjectFiles>(*window);
     files = service.get();
-    kelta::FileService::set_instance(std::move(service));
+    desktop::FileService::setInstance(std::move(service));
 }
 
 } // namespace vxtest

@@ -76,7 +76,7 @@ protected:
     void crash();
 
     std::unique_ptr<Gui::MainWindow> window;
-    kelta::ProjectFiles* files = nullptr; ///< the file service owns it
+    desktop::ProjectFiles* files = nullptr; ///< the file service owns it
 
 private:
     void startFiles();
@@ -100,7 +100,7 @@ protected:
     /// Gives the material another Young's modulus in its editor, in place of pressing keys, and leaves it open.
     Gui::MDIWindow& editModulus(Mat::MaterialObject& object, const QString& text);
     static double modulusOf(const Mat::MaterialObject& object);
-    bool isModified() const { return files->is_modified(*currentProject()); }
+    bool isModified() const { return files->isModified(*currentProject()); }
 };
 
 } // namespace vxtest

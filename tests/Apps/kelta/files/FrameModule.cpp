@@ -15,11 +15,11 @@ OBJ_REGISTER_CLASS(vxtest::Frame, Obj::Project)
 Beam::Beam()
 {
     using Obj::PropertyType;
-    register_property(propertyData, label, "Label", "Info", PropertyType::None, "");
-    register_property(propertyData, length, "Length", "Size", PropertyType::None, "in m");
-    register_property(propertyData, hollow, "Hollow", "Size", PropertyType::None, "");
-    register_property(propertyData, profile, "Profile", "Size", PropertyType::None, "");
-    register_property(propertyData, support, "Support", "Size", PropertyType::None, "");
+    registerProperty(propertyData, label, "Label", "Info", PropertyType::none, "");
+    registerProperty(propertyData, length, "Length", "Size", PropertyType::none, "in m");
+    registerProperty(propertyData, hollow, "Hollow", "Size", PropertyType::none, "");
+    registerProperty(propertyData, profile, "Profile", "Size", PropertyType::none, "");
+    registerProperty(propertyData, support, "Support", "Size", PropertyType::none, "");
 }
 
 Beam::~Beam() = default;
@@ -31,14 +31,14 @@ const char* Beam::get_viewfeeder_name() const
 
 BeamNode::BeamNode()
 {
-    register_property(propertyData, lineWidth, "LineWidth", "View", Obj::PropertyType::None, "in pixels");
+    registerProperty(propertyData, lineWidth, "LineWidth", "View", Obj::PropertyType::none, "in pixels");
 }
 
 BeamNode::~BeamNode() = default;
 
 Frame::Frame()
 {
-    register_property(propertyData, site, "Site", "Info", Obj::PropertyType::None, "");
+    registerProperty(propertyData, site, "Site", "Info", Obj::PropertyType::none, "");
 }
 
 Frame::~Frame() = default;

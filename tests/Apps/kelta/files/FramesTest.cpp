@@ -53,7 +53,7 @@ protected:
         return dynamic_cast<vxtest::BeamNode&>(*Gui::GuiApplication::Instance->get_view_feeder(&beam));
     }
     static bool close() { return requests().closeProject(frame().get_name()); }
-    bool isModified() const { return files->is_modified(frame()); }
+    bool isModified() const { return files->isModified(frame()); }
 
     /// A frame of two beams in a group, in which nothing has its default.
     static void buildFrame()
@@ -70,11 +70,11 @@ protected:
         EXPECT_TRUE(set(girder, "Support", "Column"));
         girder.loads = {1e3, 0.1};
         girder.label.setValue("Girder \xE9\x92\xA2");
-        girder.link_to(column);
+        girder.linkTo(column);
         column.setSuppressed(true);
         node(girder).lineWidth.setValue(4);
-        group.add_member(column);
-        group.add_member(girder);
+        group.addMember(column);
+        group.addMember(girder);
     }
 };
 
@@ -93,14 +93,14 @@ TEST_F(FrameFiles, GiveBackEverythingThatAModuleKeeps)
     EXPECT_EQ(girder.label.getValue(), "Girder \xE9\x92\xA2");
     EXPECT_EQ(girder.length.getValue(), 6.25);
     EXPECT_TRUE(girder.hollow.getValue());
-    EXPECT_EQ(girder.profile.get_word(), "tube");
+    EXPECT_EQ(girder.profile.getWord(), "tube");
     EXPECT_EQ(girder.support.getValue(), &beam("Column"));
     EXPECT_THAT(girder.loads, ElementsAre(1e3, 0.1));
-    EXPECT_THAT(girder.get_links(), ElementsAre(&beam("Column")));
+    EXPECT_THAT(girder.getLinks(), ElementsAre(&beam("Column")));
     EXPECT_EQ(node(girder).lineWidth.getValue(), 4);
     EXPECT_TRUE(beam("Column").isSuppressed());
     const auto& group = dynamic_cast<Obj::ProjectObjectGroup&>(*frame().get_object("Bay"));
-    EXPECT_THAT(group.get_members(), ElementsAre(&beam("Column"), &girder));
+    EXPECT_THAT(group.getMembers(), ElementsAre(&beam("Column"), &girder));
     EXPECT_FALSE(isModified());
     EXPECT_FALSE(history().canUndo());
 }
@@ -137,7 +137,7 @@ TEST_F(FrameFiles, AreSelectedWhenTheyAreOpened)
     ASSERT_TRUE(close());
     newFrame();
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
-    EXPECT_EQ(files->get_file(frame()), QFileInfo(path("a.vxmat")).canonicalFilePath());
+    EXPECT_EQ(files->getFile(frame()), QFileInfo(path("a.vxmat")).canonicalFilePath());
     EXPECT_TRUE(Gui::TreeSelectionSingleton::instance().is_selected(&frame()));
 }
 
@@ -152,7 +152,7 @@ TEST_F(FrameFiles, AreModifiedByEveryChangeAndNotByTheState)
     const std::vector<std::function<void()>> changes = {
         [&] { girder.profile.setValue(0); },
         [&] { node(girder).lineWidth.setValue(2); },
-        [&] { dynamic_cast<Obj::ProjectObjectGroup&>(*frame().get_object("Bay")).remove_member(girder); },
+        [&] { dynamic_cast<Obj::ProjectObjectGroup&>(*frame().get_object("Bay")).removeMember(girder); },
         [&] {
             girder.loads.clear();
             girder.notifyChange();
@@ -175,7 +175,7 @@ TEST_F(FrameFiles, AreUnmodifiedAgainWhenAnEditOfAPropertyIsUndone)
     ASSERT_TRUE(set(beam("Girder"), "Profile", "U"));
     EXPECT_TRUE(isModified());
     history().undo();
-    EXPECT_EQ(beam("Girder").profile.get_word(), "tube");
+    EXPECT_EQ(beam("Girder").profile.getWord(), "tube");
     EXPECT_FALSE(isModified());
 }
 
@@ -186,7 +186,7 @@ TEST_F(FrameFiles, AskBeforeAFrameWithChangesIsClosed)
         const Answers answers({"Cancel"});
         EXPECT_FALSE(close());
     }
-    Gui::FileDialog::answer_next(path("a.vxmat"));
+    Gui::FileDialog::answerNext(path("a.vxmat"));
     const Answers answers({"Save"});
     EXPECT_TRUE(close());
     EXPECT_TRUE(contentOf(path("a.vxmat")).contains("EN 1993"));
@@ -198,7 +198,7 @@ TEST_F(FrameFiles, RecoverAFrameAfterACrash)
     files->keepCopies();
     crash();
     const Answers answers({"Recover"});
-    files->offer_recovery();
+    files->offerRecovery();
     EXPECT_EQ(frame().standard, "EN 1993");
     EXPECT_THAT(beam("Girder").loads, ElementsAre(1e3, 0.1));
     EXPECT_TRUE(isModified());
@@ -209,7 +209,7 @@ TEST_F(FrameFiles, KeepACopyWhenAModuleTellsOfAChange)
     newFrame();
     Beam& column = addBeam("Column");
     EXPECT_EQ(copies().size(), 0);
-    kelta::FileService::instance()->contentChanged(column);
+    desktop::FileService::instance()->contentChanged(column);
     EXPECT_TRUE(isModified());
     EXPECT_EQ(copies().size(), 1);
 }
@@ -272,13 +272,13 @@ TEST_F(FrameFiles, ForgetAClosedProjectWhenTheHistoryEnds)
     Frame& project = newFrame();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     ASSERT_TRUE(close());
-    EXPECT_EQ(files->get_file(project), QFileInfo(path("a.vxmat")).canonicalFilePath()) << "closing can be undone";
+    EXPECT_EQ(files->getFile(project), QFileInfo(path("a.vxmat")).canonicalFilePath()) << "closing can be undone";
     history().undo();
     Frame& again = frame();
-    EXPECT_EQ(files->get_file(again), QFileInfo(path("a.vxmat")).canonicalFilePath());
-    std::unique_ptr<Obj::Project, Obj::GuardedDelete> closed = Obj::Application::instance().take_project(again);
+    EXPECT_EQ(files->getFile(again), QFileInfo(path("a.vxmat")).canonicalFilePath());
+    std::unique_ptr<Obj::Project, Obj::GuardedDelete> closed = Obj::Application::instance().takeProject(again);
     history().clear();
-    EXPECT_EQ(files->get_file(*closed), "");
+    EXPECT_EQ(files->getFile(*closed), "");
 }
 
 } // namespace

@@ -68,11 +68,11 @@ TEST_F(PlaceholderFiles, SayWhichClassesAreMissing)
     EXPECT_THAT(reports.text(), HasSubstr("absent::Beam, absent::Frame"));
     EXPECT_EQ(reports.errors(), 0);
     const auto& placeholder = dynamic_cast<Obj::PlaceholderProject&>(project());
-    EXPECT_EQ(placeholder.get_original_class(), "absent::Frame");
+    EXPECT_EQ(placeholder.getOriginalClass(), "absent::Frame");
     const auto& beam = dynamic_cast<Obj::PlaceholderObject&>(*project().get_object("Column"));
-    EXPECT_EQ(beam.get_original_class(), "absent::Beam");
+    EXPECT_EQ(beam.getOriginalClass(), "absent::Beam");
     EXPECT_TRUE(beam.isSuppressed());
-    EXPECT_FALSE(files->is_modified(project()));
+    EXPECT_FALSE(files->isModified(project()));
 }
 
 TEST_F(PlaceholderFiles, AreTheSameWhenNothingHasChanged)
@@ -88,11 +88,11 @@ TEST_F(PlaceholderFiles, ChangeOnlyWhereTheUserChangesThem)
     writeFile(path("a.vxmat"), frameText());
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
     project().get_object("Girder")->label.setValue("Beam 1");
-    EXPECT_TRUE(files->is_modified(project()));
+    EXPECT_TRUE(files->isModified(project()));
     ASSERT_TRUE(requests().deleteObject(project().get_name(), "Column"));
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     history().undo();
-    EXPECT_TRUE(files->is_modified(project()));
+    EXPECT_TRUE(files->isModified(project()));
     ASSERT_TRUE(run("Std_SaveAs", path("c.vxmat")));
 
     projectfile::ProjectRecord expected = recordIn("a.vxmat");
@@ -138,7 +138,7 @@ TEST_F(PlaceholderFiles, AreRecovered)
     crash();
     {
         const Answers answers({"Recover"});
-        files->offer_recovery();
+        files->offerRecovery();
     }
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     projectfile::ProjectRecord expected = recordIn("a.vxmat");
@@ -151,7 +151,7 @@ TEST_F(PlaceholderFiles, KeepMaterialsWithoutTheirModule)
     const std::string before = materialText();
     writeFile(path("a.vxmat"), QByteArray::fromStdString(before));
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
-    EXPECT_EQ(dynamic_cast<Obj::PlaceholderProject&>(project()).get_original_class(), "Mat::DocumentMaterial");
+    EXPECT_EQ(dynamic_cast<Obj::PlaceholderProject&>(project()).getOriginalClass(), "Mat::DocumentMaterial");
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     EXPECT_EQ(contentOf(path("b.vxmat")).toStdString(), before);
     project().get_object(2)->label.setValue("Foil");

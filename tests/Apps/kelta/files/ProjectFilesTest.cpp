@@ -36,7 +36,7 @@ std::string text(const QStringList& lines)
 TEST_F(ProjectFiles, HaveKeysAndMnemonicsOfTheirOwnInEveryLanguage)
 {
     std::map<QKeySequence, std::string> users;
-    for (const Gui::Command* const command : Gui::GuiApplication::Instance->get_command_manager().get_commands())
+    for (const Gui::Command* const command : Gui::GuiApplication::Instance->get_command_manager().getCommands())
         if (!command->get_shortcut().isEmpty()) {
             EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();
         }
@@ -63,11 +63,11 @@ TEST_F(ProjectFiles, GiveBackTheSameTreeWithNumbersNamesAndLabels)
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     ASSERT_TRUE(closeProject());
     history().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
 
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
     ASSERT_NE(currentProject(), nullptr);
-    ASSERT_EQ(currentProject()->get_object_count(), 2U);
+    ASSERT_EQ(currentProject()->getObjectCount(), 2U);
     Mat::MaterialObject* const steelAgain = findMaterial("Steel");
     const Mat::MaterialObject* const boltAgain = findMaterial("Bolz\xC3\xA9n \xE9\x92\xA2 %1");
     ASSERT_NE(steelAgain, nullptr);
@@ -142,13 +142,13 @@ TEST_F(ProjectFiles, AreModifiedEachByItself)
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     Mat::DocumentMaterial& second = *currentProject();
     addMaterial();
-    Obj::Application::instance().set_current_project(first);
+    Obj::Application::instance().setCurrentProject(first);
     addMaterial("Another");
     files->keepCopies();
     ASSERT_EQ(copies().size(), 2);
     ASSERT_TRUE(run("Std_Save"));
-    EXPECT_FALSE(files->is_modified(first));
-    EXPECT_TRUE(files->is_modified(second));
+    EXPECT_FALSE(files->isModified(first));
+    EXPECT_TRUE(files->isModified(second));
     EXPECT_EQ(copies().size(), 1);
 }
 
@@ -211,7 +211,7 @@ TEST_F(ProjectFiles, LeaveTheCurrentProjectWhenAnotherCannotBeOpened)
     newProject();
     newProject();
     Obj::Project* const current = Obj::Application::get_projects().front();
-    Obj::Application::instance().set_current_project(*current);
+    Obj::Application::instance().setCurrentProject(*current);
     const Answers answers({"OK"});
     run("Std_Open", path("b.vxmat"));
     EXPECT_THAT(text(answers.boxes()), HasSubstr("which is not a material class"));
@@ -409,7 +409,7 @@ TEST_F(ProjectFiles, SaveAProjectThatIsClosedWhenAskedTo)
 {
     newProject();
     addMaterial();
-    Gui::FileDialog::answer_next(path("a.vxmat"));
+    Gui::FileDialog::answerNext(path("a.vxmat"));
     const Answers answers({"Save"});
     closeProject();
     EXPECT_EQ(currentProject(), nullptr);
@@ -420,7 +420,7 @@ TEST_F(ProjectFiles, KeepAProjectThatCouldNotBeSavedOpen)
 {
     newProject();
     addMaterial();
-    Gui::FileDialog::answer_next(path("missing/a.vxmat"));
+    Gui::FileDialog::answerNext(path("missing/a.vxmat"));
     const Answers answers({"Save", "OK"});
     closeProject();
     EXPECT_NE(currentProject(), nullptr);
@@ -445,7 +445,7 @@ TEST_F(ProjectFiles, KnowTheirProjectAgainWhenClosingIsUndone)
     ASSERT_TRUE(closeProject());
     history().undo();
     ASSERT_NE(currentProject(), nullptr);
-    EXPECT_EQ(files->get_file(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
+    EXPECT_EQ(files->getFile(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
 }
 
 TEST_F(ProjectFiles, AskAboutEveryProjectBeforeTheProgramEnds)
@@ -456,11 +456,11 @@ TEST_F(ProjectFiles, AskAboutEveryProjectBeforeTheProgramEnds)
     addMaterial();
     {
         const Answers answers({"Discard", "Cancel"});
-        EXPECT_FALSE(files->may_end());
+        EXPECT_FALSE(files->mayEnd());
     }
     {
         const Answers answers({"Discard", "Discard"});
-        EXPECT_TRUE(files->may_end());
+        EXPECT_TRUE(files->mayEnd());
     }
 }
 
@@ -519,7 +519,7 @@ TEST_F(ProjectFiles, LeaveTheOldFileWhenItCannotBeWritten)
     run("Std_SaveAs", path("folder.vxmat"));
     EXPECT_TRUE(QFileInfo(path("folder.vxmat")).isDir());
     EXPECT_TRUE(isModified());
-    EXPECT_EQ(files->get_file(*currentProject()), "");
+    EXPECT_EQ(files->getFile(*currentProject()), "");
 }
 
 TEST_F(ProjectFiles, AskBeforeTheyReplaceWhatAnotherProgramWrote)
@@ -570,7 +570,7 @@ TEST_F(ProjectFiles, AreListedTheLatestFirst)
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     ASSERT_TRUE(run("Std_SaveAs", path("b & c.vxmat")));
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
-    const QStringList recent = kelta::RecentFiles::list();
+    const QStringList recent = desktop::RecentFiles::list();
     ASSERT_EQ(recent.size(), 2);
     EXPECT_THAT(recent[0].toStdString(), testing::EndsWith("a.vxmat"));
     EXPECT_THAT(recent[1].toStdString(), testing::EndsWith("b & c.vxmat"));
@@ -582,8 +582,7 @@ TEST_F(ProjectFiles, AreOfferedInAMenu)
     addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("b & c.vxmat")));
     ASSERT_TRUE(closeProject());
-    QMenu& menu =
-        *Gui::GuiApplication::Instance->get_command_manager().find_command("Std_OpenRecent")->action()->menu();
+    QMenu& menu = *Gui::GuiApplication::Instance->get_command_manager().findCommand("Std_OpenRecent")->action()->menu();
     Q_EMIT menu.aboutToShow();
     ASSERT_EQ(menu.actions().size(), 1);
     EXPECT_THAT(menu.actions().front()->text().toStdString(), testing::EndsWith("b && c.vxmat"));
@@ -627,15 +626,15 @@ TEST_F(ProjectFiles, TakeInExchangeDocumentsAsOneStep)
     ASSERT_TRUE(run("Mat_Export", path("a.json")));
     const int steps = history().count();
     ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
-    ASSERT_EQ(currentProject()->get_object_count(), 2U);
-    const auto* const copy = dynamic_cast<Mat::MaterialObject*>(currentProject()->get_objects().back());
+    ASSERT_EQ(currentProject()->getObjectCount(), 2U);
+    const auto* const copy = dynamic_cast<Mat::MaterialObject*>(currentProject()->getObjects().back());
     EXPECT_EQ(copy->label.getValue(), "Steel");
     EXPECT_EQ(modulusOf(*copy), 2e11);
     EXPECT_EQ(copy->getCMaterial()->findProperty(5)->unit, "Pa");
     EXPECT_EQ(copy->getObjectState(), Obj::eVXObjectState::Ready);
     EXPECT_EQ(history().count(), steps + 1);
     history().undo();
-    EXPECT_EQ(currentProject()->get_object_count(), 1U);
+    EXPECT_EQ(currentProject()->getObjectCount(), 1U);
 }
 
 TEST_F(ProjectFiles, TakeInNothingOfAWrongDocument)
@@ -645,7 +644,7 @@ TEST_F(ProjectFiles, TakeInNothingOfAWrongDocument)
     const Answers answers({"OK"});
     run("Std_ImportDocument", path("a.json"));
     EXPECT_THAT(text(answers.boxes()), HasSubstr("a.json"));
-    EXPECT_EQ(currentProject()->get_object_count(), 0U);
+    EXPECT_EQ(currentProject()->getObjectCount(), 0U);
 }
 
 TEST_F(ProjectFiles, HavePathsWithBlanksQuotesAndChineseCharacters)
@@ -704,12 +703,12 @@ TEST_F(ProjectFiles, OfferWhatACrashLeftBehind)
     crash();
     {
         const Answers answers({"Recover"});
-        files->offer_recovery();
+        files->offerRecovery();
     }
     ASSERT_NE(currentProject(), nullptr);
     EXPECT_NE(findMaterial("Unsaved"), nullptr);
     EXPECT_TRUE(isModified());
-    EXPECT_EQ(files->get_file(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
+    EXPECT_EQ(files->getFile(*currentProject()), QFileInfo(path("a.vxmat")).canonicalFilePath());
     EXPECT_EQ(contentOf(path("a.vxmat")), saved);
     EXPECT_EQ(copies().size(), 1) << "kept until it is saved";
     {
@@ -728,9 +727,9 @@ TEST_F(ProjectFiles, OfferACrashOfAProjectWithoutAFile)
     files->keepCopies();
     crash();
     const Answers answers({"Recover"});
-    files->offer_recovery();
+    files->offerRecovery();
     EXPECT_NE(findMaterial("Unsaved"), nullptr);
-    EXPECT_EQ(files->get_file(*currentProject()), "");
+    EXPECT_EQ(files->getFile(*currentProject()), "");
 }
 
 TEST_F(ProjectFiles, OfferACrashAgainLater)
@@ -741,16 +740,16 @@ TEST_F(ProjectFiles, OfferACrashAgainLater)
     crash();
     {
         const Answers answers({"Later"});
-        files->offer_recovery();
+        files->offerRecovery();
     }
     EXPECT_EQ(currentProject(), nullptr);
     {
         const Answers answers({"Discard"});
-        files->offer_recovery();
+        files->offerRecovery();
     }
     EXPECT_EQ(copies().size(), 0);
     const Answers none;
-    files->offer_recovery();
+    files->offerRecovery();
 }
 
 TEST_F(ProjectFiles, KeepTheOldCopyWhenNoNewOneCanBeWritten)
@@ -764,7 +763,7 @@ TEST_F(ProjectFiles, KeepTheOldCopyWhenNoNewOneCanBeWritten)
         // Nothing as large can be written any more.
         const vxtest::FullDisk full(100);
         const Answers answers({"Recover"});
-        files->offer_recovery();
+        files->offerRecovery();
     }
     EXPECT_NE(findMaterial("Unsaved"), nullptr);
     EXPECT_TRUE(QFileInfo::exists(copy));
@@ -817,7 +816,7 @@ TEST_F(ProjectFiles, KeepACopyThatCannotBeRead)
     const QString copy = copies().front();
     writeFile(copy, "not JSON");
     const Answers answers({"Recover", "OK"});
-    files->offer_recovery();
+    files->offerRecovery();
     EXPECT_EQ(contentOf(copy), "not JSON");
 }
 
@@ -828,7 +827,7 @@ TEST_F(ProjectFiles, DoNotOfferTheCopyOfAProgramThatRuns)
     files->keepCopies();
     ASSERT_EQ(copies().size(), 1);
     const Answers none;
-    files->offer_recovery();
+    files->offerRecovery();
 }
 
 } // namespace

@@ -68,9 +68,9 @@ TEST_F(AppliedEdits, AreNoStepIfTheMaterialIsAsBefore)
 TEST_F(AppliedEdits, FollowWhatCommandsDidWhileTheEditorWasOpen)
 {
     MatGui::MaterialView& editor = edit(steel);
-    auto before = kelta::copyOf(*steel.getCMaterial());
+    auto before = desktop::copyOf(*steel.getCMaterial());
     setNumber(steel, density, 1000.0);
-    kelta::recordChange(steel, std::move(before));
+    desktop::recordChange(steel, std::move(before));
     type(editor, modulus, "7e10");
     apply(editor);
     history().undo();
@@ -119,13 +119,13 @@ TEST_F(AppliedEdits, AreShownAsTheMaterialHoldsThem)
 class UnappliedEdits : public vxtest::Materials
 {
 protected:
-    bool isEdited() const { return !window->get_mdi_windows().isEmpty(); }
+    bool isEdited() const { return !window->getMdiWindows().isEmpty(); }
     /// Waits until the steel is edited again, with the modulus that was typed and not applied.
     void expectEditsAreBack()
     {
         ASSERT_TRUE(
-            vxtest::waitFor([this] { return isEdited() && window->get_mdi_windows().front()->isWindowModified(); }));
-        const auto& editor = dynamic_cast<const MatGui::MaterialView&>(*window->get_mdi_windows().front());
+            vxtest::waitFor([this] { return isEdited() && window->getMdiWindows().front()->isWindowModified(); }));
+        const auto& editor = dynamic_cast<const MatGui::MaterialView&>(*window->getMdiWindows().front());
         EXPECT_EQ(editor.getMaterialObject(), &steel);
         EXPECT_EQ(shownValue(editor, modulus), "7e10");
         EXPECT_EQ(modulusOf(steel), 2e11);
@@ -228,7 +228,7 @@ TEST_P(Language, LeavesNoTranslationInMaterials)
 {
     for (Mat::MaterialObject* const object : objects) {
         SCOPED_TRACE(object->label.getValue());
-        const auto before = kelta::copyOf(*object->getCMaterial());
+        const auto before = desktop::copyOf(*object->getCMaterial());
         applyInEditor(*object);
         expectCatalogueTexts(*before, *object->getCMaterial());
     }

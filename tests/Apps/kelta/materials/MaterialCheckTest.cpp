@@ -23,7 +23,7 @@ protected:
     void chooseInMenu(const char* menuTitle, const char* command) const
     {
         QCoreApplication::processEvents();
-        window->update_commands();
+        window->updateCommands();
         for (const QAction* const menu : window->menuBar()->actions())
             if (menu->text() == QLatin1String(menuTitle))
                 for (QAction* const entry : menu->menu()->actions())
@@ -42,7 +42,7 @@ TEST_F(Check, OfReadyMaterialsSaysHowManyWereChecked)
 {
     addMaterial(project);
     addMaterial(project);
-    window->update_commands();
+    window->updateCommands();
     QTest::keyClick(window.get(), Qt::Key_F7);
     const std::string text = "All materials of \"Materials\" are ready (2 checked).";
     EXPECT_EQ(lastMessage().text.toStdString(), text);
@@ -88,7 +88,7 @@ TEST_F(Check, SaysThatEditsAreNotAppliedYet)
 TEST_F(Check, ListsAThousandFindingsAndCountsTheOthers)
 {
     addMaterials(project, 1002);
-    for (Obj::ProjectObject* const object : project.get_objects())
+    for (Obj::ProjectObject* const object : project.getObjects())
         static_cast<Mat::MaterialObject*>(object)->getCMaterial()->clearProperties();
     Kelta::MessageLog::instance().clear();
     EXPECT_TRUE(run("Mat_Check"));
@@ -106,11 +106,11 @@ TEST_F(Check, NeedsAProjectOfMaterials)
 TEST_F(Check, FailsAListOfCommandsIfThereAreFindings)
 {
     for (const char* const command : {"check", "Mat_Check"}) {
-        EXPECT_EQ(kelta::Batch::run_command(QLatin1String(command), {}), std::nullopt);
+        EXPECT_EQ(desktop::Batch::runCommand(QLatin1String(command), {}), std::nullopt);
     }
     addMaterial(project).getCMaterial()->clearProperties();
     for (const char* const command : {"check", "Mat_Check"}) {
-        const auto failure = kelta::Batch::run_command(QLatin1String(command), {});
+        const auto failure = desktop::Batch::runCommand(QLatin1String(command), {});
         EXPECT_EQ(failure.value_or(""), "Not ready in \"Materials\": 1 of 1 materials. Findings: 1.");
     }
 }

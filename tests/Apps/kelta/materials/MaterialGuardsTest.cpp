@@ -159,7 +159,7 @@ TEST_F(Export, WritesNothingIfTheUserCancels)
 {
     type(edit(steel), modulus, "7e10");
     exportAnswering(QMessageBox::Cancel);
-    Gui::FileDialog::answer_next({});
+    Gui::FileDialog::answerNext({});
     EXPECT_FALSE(QFile::exists(file));
     EXPECT_TRUE(window->get_active_mdi_window()->isWindowModified());
 }
@@ -214,7 +214,7 @@ TEST_F(Export, IsSilentIfTheUserChoosesNoFile)
 class EditCommand : public vxtest::Materials
 {
 protected:
-    int editors() const { return window->get_mdi_windows().size(); }
+    int editors() const { return window->getMdiWindows().size(); }
 
     Mat::DocumentMaterial& project = newProject();
 };
@@ -222,7 +222,7 @@ protected:
 TEST_F(EditCommand, OpensTenEditorsUnasked)
 {
     addMaterials(project, 10);
-    select(project.get_objects());
+    select(project.getObjects());
     const MessageBoxes boxes(QMessageBox::No);
     EXPECT_TRUE(run("Mat_Edit"));
     EXPECT_TRUE(boxes.shown().empty());
@@ -232,7 +232,7 @@ TEST_F(EditCommand, OpensTenEditorsUnasked)
 TEST_F(EditCommand, AsksBeforeItOpensMore)
 {
     addMaterials(project, 11);
-    select(project.get_objects());
+    select(project.getObjects());
     {
         const MessageBoxes boxes(QMessageBox::No);
         EXPECT_TRUE(run("Mat_Edit"));
@@ -248,7 +248,7 @@ TEST_F(EditCommand, AsksBeforeItOpensMore)
 TEST_F(EditCommand, CountsNoEditorsThatAreOpen)
 {
     edit(addMaterials(project, 11));
-    select(project.get_objects());
+    select(project.getObjects());
     const MessageBoxes boxes(QMessageBox::No);
     EXPECT_TRUE(run("Mat_Edit"));
     EXPECT_TRUE(boxes.shown().empty());
@@ -258,7 +258,7 @@ TEST_F(EditCommand, CountsNoEditorsThatAreOpen)
 TEST_F(EditCommand, RefusesMoreThanAHundred)
 {
     addMaterials(project, 101);
-    select(project.get_objects());
+    select(project.getObjects());
     const MessageBoxes boxes(QMessageBox::Yes);
     EXPECT_TRUE(run("Mat_Edit"));
     ASSERT_EQ(boxes.shown().size(), 1U);

@@ -15,7 +15,7 @@ protected:
     /// Runs a line of a list; returns what is wrong, or an empty text.
     static std::string run(const char* name, const QStringList& arguments = {})
     {
-        return kelta::Batch::run_command(QLatin1String(name), arguments).value_or(QString()).toStdString();
+        return desktop::Batch::runCommand(QLatin1String(name), arguments).value_or(QString()).toStdString();
     }
     Mat::MaterialObject& selectedSteel()
     {
@@ -107,9 +107,9 @@ TEST_F(Verbs, FailToEditMoreThanAHundredMaterials)
 {
     Mat::DocumentMaterial& project = newProject();
     addMaterials(project, 101);
-    select(project.get_objects());
+    select(project.getObjects());
     EXPECT_THAT(run("Mat_Edit"), HasSubstr("At most 100 can be opened at a time."));
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 } // namespace

@@ -37,11 +37,11 @@ Materials::Materials()
     initMatGui();
     Mat::registerRequests();
     window = std::make_unique<Gui::MainWindow>();
-    kelta::registerMaterialContributions(*Gui::GuiApplication::Instance);
-    kelta::addMaterialGuards(Gui::GuiApplication::Instance->get_command_manager());
-    kelta::registerMaterialVerbs();
-    new kelta::EditorWatch(*window); // the window owns it
-    window->set_workbench("MatGui::SimModule");
+    desktop::registerMaterialContributions(*Gui::GuiApplication::Instance);
+    desktop::addMaterialGuards(Gui::GuiApplication::Instance->get_command_manager());
+    desktop::registerMaterialVerbs();
+    new desktop::EditorWatch(*window); // the window owns it
+    window->setWorkbench("MatGui::SimModule");
     window->show();
     window->activateWindow();
     if (!waitUntilActive(window.get()))
@@ -51,18 +51,18 @@ Materials::Materials()
 Materials::~Materials()
 {
     history().clear();
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     Gui::TreeSelectionSingleton::instance().clear();
 }
 
 bool Materials::run(const char* command)
 {
-    return Gui::GuiApplication::Instance->get_command_manager().run_command(command);
+    return Gui::GuiApplication::Instance->get_command_manager().runCommand(command);
 }
 
 bool Materials::run(const char* command, const QString& file)
 {
-    Gui::FileDialog::answer_next(file);
+    Gui::FileDialog::answerNext(file);
     return run(command);
 }
 
@@ -77,7 +77,7 @@ Mat::MaterialObject& Materials::addMaterial(Mat::DocumentMaterial& project, cons
 {
     if (!vxMsg::MessageProxy::instance().addObject(project.get_name(), "Mat::MaterialObject", label))
         throw std::logic_error("a material was not added");
-    auto& object = dynamic_cast<Mat::MaterialObject&>(*project.get_objects().back());
+    auto& object = dynamic_cast<Mat::MaterialObject&>(*project.getObjects().back());
     object.initCMaterial(vxMat::eMaterialType::StructuralSteel);
     return object;
 }
@@ -91,7 +91,7 @@ Mat::MaterialObject& Materials::addMaterials(Mat::DocumentMaterial& project, int
 
 void Materials::select(const std::vector<Obj::ProjectObject*>& objects)
 {
-    Gui::TreeSelectionSingleton::instance().set_selection({}, objects);
+    Gui::TreeSelectionSingleton::instance().setSelection({}, objects);
 }
 
 MatGui::MaterialView& Materials::edit(Mat::MaterialObject& object)

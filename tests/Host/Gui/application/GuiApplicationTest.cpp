@@ -54,7 +54,7 @@ TEST_F(Application, HasTheUsersSideOfEachOpenProject)
     EXPECT_EQ(&side->get_project(), &first);
     EXPECT_EQ(Gui::GuiApplication::Instance->get_current_project(),
               Gui::GuiApplication::Instance->get_project(&second));
-    const auto closed = Obj::Application::instance().take_project(first);
+    const auto closed = Obj::Application::instance().takeProject(first);
     EXPECT_EQ(Gui::GuiApplication::Instance->get_project(&first), nullptr);
 }
 
@@ -64,7 +64,7 @@ TEST_F(Application, HasTheNodesOfObjectsInOpenProjectsAlone)
     vxtest::TestProject& project = makeProject();
     vxtest::TestObject& object = addObject(project);
     EXPECT_NE(Gui::GuiApplication::Instance->get_view_feeder(&object), nullptr);
-    const auto taken = project.take_object(object.getObjectId());
+    const auto taken = project.takeObject(object.getObjectId());
     EXPECT_EQ(Gui::GuiApplication::Instance->get_view_feeder(taken.get()), nullptr);
 }
 
@@ -73,10 +73,10 @@ TEST_F(Application, ForgetsAView)
     vxtest::TestProject& project = makeProject();
     Gui::GuiProject* const side = Gui::GuiApplication::Instance->get_project(&project);
     Gui::MDIWindow view(side, nullptr);
-    EXPECT_EQ(side->get_views().size(), 1U);
+    EXPECT_EQ(side->getViews().size(), 1U);
     Gui::GuiApplication::Instance->disconnect_view(&view);
     Gui::GuiApplication::Instance->disconnect_view(&view);
-    EXPECT_TRUE(side->get_views().empty());
+    EXPECT_TRUE(side->getViews().empty());
 }
 
 } // namespace

@@ -116,7 +116,7 @@ TEST_F(GuiProjectTest, MakesANewNodeAfterUndo)
 {
     vxtest::TestObject& object = addObject(project);
     nodeOf(object).opened = 5;
-    project.restore_object(project.take_object(object.getObjectId()));
+    project.restoreObject(project.takeObject(object.getObjectId()));
     EXPECT_EQ(nodeOf(object).opened, 0);
 }
 
@@ -125,10 +125,10 @@ TEST_F(GuiProjectTest, RemovesItsViewsWhenItIsClosed)
     const QPointer<Gui::MDIWindow> shown = new Gui::MDIWindow(&side, window.get());
     window->add_mdi_window(shown);
     Gui::MDIWindow notShown(&side, nullptr);
-    EXPECT_THAT(side.get_views(), ElementsAre(shown, &notShown));
-    Obj::Application::instance().close_project(project);
+    EXPECT_THAT(side.getViews(), ElementsAre(shown, &notShown));
+    Obj::Application::instance().closeProject(project);
     EXPECT_EQ(shown, nullptr);
-    EXPECT_EQ(notShown.get_gui_project(), nullptr);
+    EXPECT_EQ(notShown.getGuiProject(), nullptr);
 }
 
 } // namespace

@@ -44,20 +44,20 @@ TEST_F(Language, SwitchesTheWholeWindow)
     QCoreApplication::processEvents();
     EXPECT_EQ(menus().first(), "&Datei");
     EXPECT_EQ(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->windowTitle(), "Eigenschaften");
-    EXPECT_EQ(commands().find_command("Std_Copy")->action()->text(), "&Kopieren");
-    EXPECT_EQ(window->get_property_panel().headerItem()->text(1), "Wert");
+    EXPECT_EQ(commands().findCommand("Std_Copy")->action()->text(), "&Kopieren");
+    EXPECT_EQ(window->getPropertyPanel().headerItem()->text(1), "Wert");
     EXPECT_TRUE(vxtest::waitFor([this] {
-        return window->get_property_panel().topLevelItem(0)->text(0) == QStringLiteral("Nichts ist ausgewählt.");
+        return window->getPropertyPanel().topLevelItem(0)->text(0) == QStringLiteral("Nichts ist ausgewählt.");
     }));
     EXPECT_EQ(explorer().accessibleName(), "Projektbaum");
-    EXPECT_EQ(window->get_message_log().accessibleName(), "Meldungen");
+    EXPECT_EQ(window->getMessageLog().accessibleName(), "Meldungen");
     Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
     QCoreApplication::processEvents();
-    EXPECT_EQ(commands().find_command("Std_Copy")->action()->text(), QStringLiteral("复制(&C)"));
+    EXPECT_EQ(commands().findCommand("Std_Copy")->action()->text(), QStringLiteral("复制(&C)"));
     Translator::instance()->setLanguage(QStringLiteral("en"));
     QCoreApplication::processEvents();
     EXPECT_EQ(menus().first(), "&File");
-    EXPECT_EQ(window->get_property_panel().headerItem()->text(1), "Value");
+    EXPECT_EQ(window->getPropertyPanel().headerItem()->text(1), "Value");
 }
 
 TEST_F(Language, WithACountryIsServedByTheLanguageAlone)

@@ -75,7 +75,7 @@ TEST_F(Clipboard, ReadsTextThatCameThroughAnotherProgram)
 {
     const QByteArray text = clipboard().write({&addObject(project, "Beam")});
     QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
-    EXPECT_TRUE(clipboard().holds_objects());
+    EXPECT_TRUE(clipboard().holdsObjects());
     EXPECT_THAT(clipboard().paste(project), SizeIs(1));
 }
 
@@ -88,9 +88,9 @@ TEST_F(Clipboard, PastesNothingOfWhatIsNotOurs)
     {
         SCOPED_TRACE(text);
         QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
-        EXPECT_FALSE(clipboard().holds_objects());
+        EXPECT_FALSE(clipboard().holdsObjects());
         EXPECT_THAT(clipboard().paste(project), IsEmpty());
-        EXPECT_EQ(project.get_object_count(), 0U);
+        EXPECT_EQ(project.getObjectCount(), 0U);
     }
 }
 
@@ -105,7 +105,7 @@ TEST_F(Clipboard, SurvivesObjectsThatAreNone)
         const QByteArray text = QByteArray("{\"kelta_objects\": 1, \"objects\": [") + object + "]}";
         const std::size_t errors = Kelta::MessageLog::instance().errorCount();
         EXPECT_THAT(clipboard().read(text, project), IsEmpty());
-        EXPECT_EQ(project.get_object_count(), 0U);
+        EXPECT_EQ(project.getObjectCount(), 0U);
         EXPECT_GT(Kelta::MessageLog::instance().errorCount(), errors);
     }
     EXPECT_EQ(undoStack().count(), 0);
@@ -125,7 +125,7 @@ TEST_F(Clipboard, AddsNothingWhoseContentCannotBeRead)
     undoStack().clear();
     EXPECT_THAT(clipboard().read(text, project), IsEmpty());
     EXPECT_EQ(lastMessage(), "An object cannot be pasted: the content is unreadable");
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
     EXPECT_EQ(undoStack().count(), 0);
 }
 
@@ -137,12 +137,12 @@ TEST_F(Clipboard, PastesTheOthersWhenOneCannotBeRead)
     vxtest::TestProject& other = makeProject("Other");
     undoStack().clear();
     ASSERT_TRUE(run("Std_Paste"));
-    EXPECT_EQ(other.get_object_count(), 2U);
+    EXPECT_EQ(other.getObjectCount(), 2U);
     EXPECT_EQ(undoStack().count(), 1);
     undoStack().undo();
-    EXPECT_EQ(other.get_object_count(), 0U);
+    EXPECT_EQ(other.getObjectCount(), 0U);
     undoStack().redo();
-    EXPECT_EQ(other.get_objects()[1]->label.getValue(), "Better");
+    EXPECT_EQ(other.getObjects()[1]->label.getValue(), "Better");
 }
 
 TEST_F(Clipboard, UndoesAndRedoesAPasteWithLabelAndContent)
@@ -153,10 +153,10 @@ TEST_F(Clipboard, UndoesAndRedoesAPasteWithLabelAndContent)
     undoStack().clear();
     ASSERT_TRUE(run("Std_Paste"));
     undoStack().undo();
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
     undoStack().redo();
-    ASSERT_EQ(project.get_object_count(), 2U);
-    const auto& copy = static_cast<const vxtest::TestObject&>(*project.get_objects()[1]);
+    ASSERT_EQ(project.getObjectCount(), 2U);
+    const auto& copy = static_cast<const vxtest::TestObject&>(*project.getObjects()[1]);
     EXPECT_EQ(copy.label.getValue(), "Beam");
     EXPECT_EQ(copy.content, "red");
 }
@@ -176,7 +176,7 @@ TEST_F(Clipboard, CarriesPropertiesOfObjectAndNode)
     EXPECT_EQ(copy.label.getValue(), "Beam");
     EXPECT_EQ(copy.length.getValue(), 2.5e-3);
     EXPECT_TRUE(copy.active.getValue());
-    EXPECT_EQ(copy.kind.get_word(), "Hollow");
+    EXPECT_EQ(copy.kind.getWord(), "Hollow");
     EXPECT_EQ(nodeOf(copy).color.getValue(), (Obj::Color{1.0F, 0.25F, 0.0F, 1.0F}));
 }
 
@@ -300,51 +300,51 @@ TEST_F(CopiedReferences, AreUndoneWithThePaste)
     ASSERT_TRUE(run("Std_Paste"));
     EXPECT_EQ(undoStack().count(), 1);
     undoStack().undo();
-    EXPECT_EQ(project.get_object_count(), 2U);
+    EXPECT_EQ(project.getObjectCount(), 2U);
     undoStack().redo();
-    ASSERT_EQ(project.get_object_count(), 4U);
-    EXPECT_EQ(typed(project.get_objects()[2]).partner.getValue(), project.get_objects()[3]);
+    ASSERT_EQ(project.getObjectCount(), 4U);
+    EXPECT_EQ(typed(project.getObjects()[2]).partner.getValue(), project.getObjects()[3]);
 }
 
 TEST_F(CopiedReferences, OfGroupsHaveTheCopiesOfTheirMembers)
 {
     auto& group = *static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
-    group.add_member(first);
-    group.add_member(second);
+    group.addMember(first);
+    group.addMember(second);
     clipboard().copy({&group, &first});
     const auto pasted = clipboard().paste(makeProject("Other"));
     ASSERT_THAT(pasted, SizeIs(2));
-    EXPECT_THAT(static_cast<Obj::ProjectObjectGroup*>(pasted[0])->get_members(), testing::ElementsAre(pasted[1]));
-    EXPECT_THAT(group.get_members(), testing::ElementsAre(&first, &second));
+    EXPECT_THAT(static_cast<Obj::ProjectObjectGroup*>(pasted[0])->getMembers(), testing::ElementsAre(pasted[1]));
+    EXPECT_THAT(group.getMembers(), testing::ElementsAre(&first, &second));
 }
 
 TEST_F(CopiedReferences, OfGroupsAloneLeaveTheMembersWhereTheyAre)
 {
     auto& group = *static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
-    group.add_member(first);
+    group.addMember(first);
     const auto copies = clipboard().duplicate({&group});
     ASSERT_THAT(copies, SizeIs(1));
-    EXPECT_THAT(static_cast<Obj::ProjectObjectGroup*>(copies[0])->get_members(), IsEmpty());
-    EXPECT_EQ(first.get_parent_group(), &group);
+    EXPECT_THAT(static_cast<Obj::ProjectObjectGroup*>(copies[0])->getMembers(), IsEmpty());
+    EXPECT_EQ(first.getParentGroup(), &group);
 }
 
 TEST_F(CopiedReferences, OfMembersAreInTheSameGroup)
 {
     auto& group = *static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
-    group.add_member(first);
+    group.addMember(first);
     const auto copies = clipboard().duplicate({&first});
     ASSERT_THAT(copies, SizeIs(1));
-    EXPECT_EQ(copies[0]->get_parent_group(), &group);
+    EXPECT_EQ(copies[0]->getParentGroup(), &group);
 }
 
 TEST_F(Clipboard, RefusesWhatAProjectDoesNotTakeAndAddsNothing)
 {
     Obj::registerHome("Test::Typed", "Test::Project");
     clipboard().copy({&addObject(project, "Plain"), &addTyped(project, "Beam")});
-    Obj::Project& other = *Obj::Application::instance().create_project("Test::OtherProject", "Other");
+    Obj::Project& other = *Obj::Application::instance().createProject("Test::OtherProject", "Other");
     undoStack().clear();
     ASSERT_TRUE(run("Std_Paste"));
-    EXPECT_EQ(other.get_object_count(), 0U);
+    EXPECT_EQ(other.getObjectCount(), 0U);
     EXPECT_EQ(undoStack().count(), 0);
     EXPECT_EQ(lastMessage(),
               "\"Beam\" cannot be pasted into \"Other\": a project of this kind does not take such objects. "
@@ -373,12 +373,12 @@ protected:
 TEST_F(CopiedPlaceholders, KeepTheirClassAndRecord)
 {
     addPlaceholder(project).label.setValue("The bolt");
-    const auto copies = clipboard().duplicate(project.get_objects());
+    const auto copies = clipboard().duplicate(project.getObjects());
     ASSERT_THAT(copies, SizeIs(1));
     const auto* const copy = dynamic_cast<const Obj::PlaceholderObject*>(copies[0]);
     ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(copy->get_original_class(), "Lost::Bolt");
-    EXPECT_EQ(copy->get_record(), record());
+    EXPECT_EQ(copy->getOriginalClass(), "Lost::Bolt");
+    EXPECT_EQ(copy->getRecord(), record());
     EXPECT_EQ(copy->label.getValue(), "The bolt");
 }
 
@@ -386,7 +386,7 @@ TEST_F(CopiedPlaceholders, AreTakenByProjectsOfTheSameClassAlone)
 {
     clipboard().copy({&addPlaceholder(project)});
     EXPECT_THAT(clipboard().paste(makeProject("Same class")), SizeIs(1));
-    Obj::Project& other = *Obj::Application::instance().create_project("Test::OtherProject", "Other");
+    Obj::Project& other = *Obj::Application::instance().createProject("Test::OtherProject", "Other");
     EXPECT_THAT(clipboard().paste(other), IsEmpty());
     EXPECT_THAT(lastMessage(), HasSubstr("\"Bolt\" cannot be pasted into \"Other\""));
 }
@@ -400,7 +400,7 @@ TEST_F(CopiedPlaceholders, BecomeObjectsOfTheirClassWhereItIsThere)
     for (const double part : {1.0, 0.0, 0.0, 1.0})
         typed["node"]["Color"].append(part);
     project.add_object(std::make_unique<Obj::PlaceholderObject>("Test::Typed", typed), "Beam");
-    const auto copies = clipboard().duplicate(project.get_objects());
+    const auto copies = clipboard().duplicate(project.getObjects());
     ASSERT_THAT(copies, SizeIs(1));
     auto* const copy = dynamic_cast<vxtest::TypedObject*>(copies[0]);
     ASSERT_NE(copy, nullptr);

@@ -20,16 +20,16 @@ TEST_F(CommandControllerTest, FindsCommandsByTheirNames)
     Gui::CommandController controller;
     auto* const command = new TestCommand("Test_A", {});
     controller.new_command(command);
-    EXPECT_EQ(controller.find_command("Test_A"), command);
-    EXPECT_EQ(controller.find_command("Test_B"), nullptr);
-    EXPECT_EQ(controller.find_command(""), nullptr);
+    EXPECT_EQ(controller.findCommand("Test_A"), command);
+    EXPECT_EQ(controller.findCommand("Test_B"), nullptr);
+    EXPECT_EQ(controller.findCommand(""), nullptr);
 }
 
 TEST_F(CommandControllerTest, IgnoresNull)
 {
     Gui::CommandController controller;
     controller.new_command(nullptr);
-    EXPECT_TRUE(controller.get_commands().empty());
+    EXPECT_TRUE(controller.getCommands().empty());
 }
 
 /// Sets a flag when it is destroyed.
@@ -52,8 +52,8 @@ TEST_F(CommandControllerTest, KeepsTheFirstOfTwoWithOneName)
         controller.new_command(first);
         controller.new_command(new Mortal("Test_A", dead));
         EXPECT_EQ(dead, 1);
-        EXPECT_EQ(controller.find_command("Test_A"), first);
-        EXPECT_THAT(controller.get_commands(), ElementsAre(first));
+        EXPECT_EQ(controller.findCommand("Test_A"), first);
+        EXPECT_THAT(controller.getCommands(), ElementsAre(first));
     }
     EXPECT_EQ(dead, 2);
 }
@@ -65,7 +65,7 @@ TEST_F(CommandControllerTest, KeepsTheOrderInWhichCommandsCame)
     auto* const a = new TestCommand("Test_A", {});
     controller.new_command(b);
     controller.new_command(a);
-    EXPECT_THAT(controller.get_commands(), ElementsAre(b, a));
+    EXPECT_THAT(controller.getCommands(), ElementsAre(b, a));
 }
 
 TEST_F(CommandControllerTest, RunsACommandByItsName)
@@ -73,16 +73,16 @@ TEST_F(CommandControllerTest, RunsACommandByItsName)
     Gui::CommandController controller;
     auto* const command = new TestCommand("Test_A", {});
     controller.new_command(command);
-    EXPECT_TRUE(controller.run_command("Test_A"));
+    EXPECT_TRUE(controller.runCommand("Test_A"));
     EXPECT_EQ(command->lastIndex, 0);
     command->applicable = false;
-    EXPECT_FALSE(controller.run_command("Test_A"));
+    EXPECT_FALSE(controller.runCommand("Test_A"));
 }
 
 TEST_F(CommandControllerTest, ReportsACommandThatItDoesNotHave)
 {
     Gui::CommandController controller;
-    EXPECT_FALSE(controller.run_command("Test_Grün"));
+    EXPECT_FALSE(controller.runCommand("Test_Grün"));
     EXPECT_EQ(lastMessage(), "There is no command \"Test_Grün\".");
 }
 
@@ -97,7 +97,7 @@ TEST_F(CommandControllerTest, RunsACommandThroughItsGuardsTheLastFirst)
             run();
             order.push_back(std::string("after ") + name);
         }));
-    EXPECT_TRUE(controller.run_command("Test_A"));
+    EXPECT_TRUE(controller.runCommand("Test_A"));
     EXPECT_THAT(order, ElementsAre("before last", "before first", "command", "after first", "after last"));
 }
 
@@ -108,7 +108,7 @@ TEST_F(CommandControllerTest, RunsNoCommandThatItsGuardRefuses)
     controller.new_command(command);
     EXPECT_TRUE(controller.addGuard("Test_A", [](const std::function<void()>&) {}));
     command->new_action(window.get())->trigger();
-    EXPECT_TRUE(controller.run_command("Test_A"));
+    EXPECT_TRUE(controller.runCommand("Test_A"));
     EXPECT_EQ(command->lastIndex, -1);
 }
 
@@ -117,7 +117,7 @@ TEST_F(CommandControllerTest, ReportsWhatAGuardThrows)
     Gui::CommandController controller;
     controller.new_command(new TestCommand("Test_A", {}));
     controller.addGuard("Test_A", [](const std::function<void()>&) { throw std::runtime_error("out of ink"); });
-    EXPECT_FALSE(controller.run_command("Test_A"));
+    EXPECT_FALSE(controller.runCommand("Test_A"));
     EXPECT_THAT(lastMessage(), testing::HasSubstr("out of ink"));
 }
 
@@ -129,7 +129,7 @@ TEST_F(CommandControllerTest, AsksNoGuardOfACommandThatIsNotApplicable)
     command->applicable = false;
     bool asked = false;
     controller.addGuard("Test_A", [&asked](const std::function<void()>&) { asked = true; });
-    EXPECT_FALSE(controller.run_command("Test_A"));
+    EXPECT_FALSE(controller.runCommand("Test_A"));
     EXPECT_FALSE(asked);
 }
 
@@ -147,10 +147,10 @@ TEST_F(CommandControllerTest, EnablesWhatIsApplicableAlone)
     controller.new_command(new TestCommand("Test_WithoutAction", {}));
     const QAction* const action = command->new_action(window.get());
     command->applicable = false;
-    controller.update_actions();
+    controller.updateActions();
     EXPECT_FALSE(action->isEnabled());
     command->applicable = true;
-    controller.update_actions();
+    controller.updateActions();
     EXPECT_TRUE(action->isEnabled());
 }
 

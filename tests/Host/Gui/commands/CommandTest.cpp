@@ -21,7 +21,7 @@ TEST(Command, HasItsVirtualOperationsInTheOrderOfTheInterface)
     using vxtest::slotOf;
     const std::vector<std::size_t> places = {
         slotOf(&CommandBase::new_action),       slotOf(&CommandBase::on_language_changed),
-        slotOf(&CommandBase::get_class_name),   slotOf(&CommandBase::get_menu_info),
+        slotOf(&CommandBase::getClassName),     slotOf(&CommandBase::get_menu_info),
         slotOf(&CommandBase::get_tooltip_info), slotOf(&CommandBase::get_statustip),
         slotOf(&CommandBase::get_pixmap),       slotOf(&CommandBase::get_shortcut),
         slotOf(&CommandBase::activated),        slotOf(&CommandBase::is_applicable),
@@ -70,9 +70,9 @@ TEST_F(CommandTest, IsUndoneInOneStepThatHasItsName)
     ASSERT_EQ(undoStack().count(), 1);
     EXPECT_EQ(undoStack().undoText(), "Do it");
     undoStack().undo();
-    EXPECT_EQ(project.get_object_count(), 0U);
+    EXPECT_EQ(project.getObjectCount(), 0U);
     undoStack().redo();
-    EXPECT_EQ(project.get_object_count(), 3U);
+    EXPECT_EQ(project.getObjectCount(), 3U);
 }
 
 TEST_F(CommandTest, LeavesNoStepWhenItChangesNothing)
@@ -91,14 +91,14 @@ TEST_F(CommandTest, CanUndoWhatItDidBeforeItThrew)
     });
     undoStack().clear();
     EXPECT_FALSE(command.invoke());
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
     undoStack().undo();
-    EXPECT_EQ(project.get_object_count(), 0U);
+    EXPECT_EQ(project.getObjectCount(), 0U);
 }
 
 TEST_F(CommandTest, ShowsItsFieldsInItsAction)
 {
-    TestCommand command("Test_Run", {}, Gui::CommandType::None, QKeySequence(QStringLiteral("Ctrl+J")));
+    TestCommand command("Test_Run", {}, Gui::CommandType::none, QKeySequence(QStringLiteral("Ctrl+J")));
     const QAction* const action = command.new_action(window.get());
     EXPECT_EQ(action->objectName(), "Test_Run");
     EXPECT_EQ(action->text(), "&Do it");
@@ -143,7 +143,7 @@ TEST_F(CommandTest, NamesObjectsAsNoObjectOfTheCurrentProjectHasOrHad)
     const std::string second = Gui::Command::get_unique_object_name("Beam");
     EXPECT_NE(second, first);
     EXPECT_EQ(second.rfind("Beam", 0), 0U);
-    project.remove_object(object->getObjectId());
+    project.removeObject(object->getObjectId());
     EXPECT_NE(Gui::Command::get_unique_object_name("Beam"), first);
 }
 

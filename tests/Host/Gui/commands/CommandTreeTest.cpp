@@ -18,7 +18,7 @@ std::vector<std::string> childrenOf(const MenuItem& item)
 MenuItem* makeItem(const char* text)
 {
     auto* const item = new MenuItem;
-    item->set_command(text);
+    item->setCommand(text);
     return item;
 }
 
@@ -28,8 +28,8 @@ TEST(CommandTree, AddsAtTheEnd)
     root << "A"
          << "Separator" << makeItem("B");
     EXPECT_THAT(childrenOf(root), ElementsAre("A", "Separator", "B"));
-    EXPECT_TRUE(root.items()[1]->is_separator());
-    EXPECT_FALSE(root.items()[0]->is_separator());
+    EXPECT_TRUE(root.items()[1]->isSeparator());
+    EXPECT_FALSE(root.items()[0]->isSeparator());
 }
 
 TEST(CommandTree, InsertsBeforeAChild)
@@ -57,7 +57,7 @@ TEST(CommandTree, IgnoresNull)
     MenuItem root;
     root.insert_item(nullptr, nullptr);
     root << static_cast<MenuItem*>(nullptr);
-    EXPECT_FALSE(root.has_items());
+    EXPECT_FALSE(root.hasItems());
 }
 
 TEST(CommandTree, FindsItemsAtAnyDepth)
@@ -79,8 +79,8 @@ TEST(CommandTree, DividesItsChildrenIntoSections)
     menu << "Open";
     EXPECT_THAT(childrenOf(menu), ElementsAre("", "Separator", "Open"));
     EXPECT_TRUE(menu.items()[0]->isSection());
-    EXPECT_FALSE(menu.items()[0]->is_separator());
-    EXPECT_TRUE(menu.items()[1]->is_separator());
+    EXPECT_FALSE(menu.items()[0]->isSeparator());
+    EXPECT_TRUE(menu.items()[1]->isSeparator());
     EXPECT_EQ(menu.items()[1]->section(), "Open");
     EXPECT_FALSE(menu.items()[2]->isSection());
 }

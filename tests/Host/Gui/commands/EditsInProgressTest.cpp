@@ -24,7 +24,7 @@ public:
         if (line.text() != text)
             stack.push(new Step(*this));
     }
-    QUndoStack* get_undo_stack() override { return &stack; }
+    QUndoStack* getUndoStack() override { return &stack; }
 
     QString text;
     QUndoStack stack;
@@ -60,14 +60,14 @@ protected:
     {
         focusExplorer();
         select({&object});
-        window->get_property_panel().showSelection();
+        window->getPropertyPanel().showSelection();
         undoStack().clear();
         // The application keeps the command.
-        if (commands().find_command("Test_Look") == nullptr)
+        if (commands().findCommand("Test_Look") == nullptr)
             commands().new_command(new vxtest::TestCommand(
-                "Test_Look", [] { look(); }, Gui::CommandType::None, QKeySequence(QStringLiteral("Ctrl+Shift+K"))));
+                "Test_Look", [] { look(); }, Gui::CommandType::none, QKeySequence(QStringLiteral("Ctrl+Shift+K"))));
         look = [] {};
-        window->set_workbench("Gui::StdSimModule");
+        window->setWorkbench("Gui::StdSimModule");
     }
     ~EditsInProgress() override
     {
@@ -93,7 +93,7 @@ protected:
     /// Types a count for the object into the property panel, without an end.
     void typeCount(const char* count) const
     {
-        Gui::PropertyPanel& panel = window->get_property_panel();
+        Gui::PropertyPanel& panel = window->getPropertyPanel();
         panel.editItem(panel.findItems(QStringLiteral("Count"), Qt::MatchExactly | Qt::MatchRecursive).first(), 1);
         auto* const line = panel.viewport()->findChild<QLineEdit*>();
         line->selectAll();
@@ -225,7 +225,7 @@ TEST_F(EditsInProgress, ThatFailAreReportedAndStopNothing)
     EXPECT_EQ(object.label.getValue(), "Plate");
     EXPECT_EQ(lastMessage(), "An edit in \"Letter\" cannot be completed: the pen is dry");
     window->close_current_window();
-    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().isEmpty(); }));
 }
 
 /// Undo and Redo beside a document with edits of its own. One change of the object can be undone too.
@@ -302,7 +302,7 @@ TEST_F(DocumentUndo, StaysWithTheDocumentWhileTheMenusHaveTheKeyboard)
 TEST_F(DocumentUndo, IsOfferedInTheMenusAsItApplies)
 {
     undoStack().clear();
-    const QAction* const undo = commands().find_command("Std_Undo")->action();
+    const QAction* const undo = commands().findCommand("Std_Undo")->action();
     EXPECT_TRUE(vxtest::waitFor([undo] { return undo->isEnabled(); }));
     document->stack.undo();
     EXPECT_TRUE(vxtest::waitFor([undo] { return !undo->isEnabled(); }));

@@ -77,11 +77,11 @@ TEST_F(Edits, AreNoStepIfAListenerDeletesTheObject)
                 deleteUndoably(changed);
         });
     EXPECT_TRUE(editLabel("Beam"));
-    EXPECT_EQ(project.get_object_count(), 0U);
+    EXPECT_EQ(project.getObjectCount(), 0U);
     EXPECT_EQ(undoStack().count(), 1);
     EXPECT_EQ(undoStack().text(0).toStdString(), "Change \"Label\"");
     undoStack().undo();
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
 }
 
 TEST_F(Edits, OfSuppressionAreNoStepIfAListenerDeletesTheObject)
@@ -93,9 +93,9 @@ TEST_F(Edits, OfSuppressionAreNoStepIfAListenerDeletesTheObject)
         });
     select({&object});
     EXPECT_TRUE(run("Std_Suppress"));
-    EXPECT_EQ(project.get_object_count(), 0U);
+    EXPECT_EQ(project.getObjectCount(), 0U);
     undoStack().undo();
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
     EXPECT_TRUE(object.isSuppressed());
 }
 

@@ -29,15 +29,15 @@ protected:
     /// Presses the keys of a command while the tree has the keyboard.
     void press(const char* command) const
     {
-        window->update_commands();
-        QTest::keySequence(&explorer(), commands().find_command(command)->get_shortcut());
+        window->updateCommands();
+        QTest::keySequence(&explorer(), commands().findCommand(command)->get_shortcut());
     }
     void addDocument() const { window->add_mdi_window(new Gui::MDIWindow(nullptr, nullptr)); }
 };
 
 TEST_F(StandardCommands, HaveTheirStandardKeys)
 {
-    const auto keyOf = [](const char* name) { return commands().find_command(name)->get_shortcut(); };
+    const auto keyOf = [](const char* name) { return commands().findCommand(name)->get_shortcut(); };
     EXPECT_EQ(keyOf("Std_Undo"), QKeySequence(QKeySequence::Undo));
     EXPECT_EQ(keyOf("Std_Redo"), QKeySequence(QKeySequence::Redo));
     EXPECT_EQ(keyOf("Std_Copy"), QKeySequence(QKeySequence::Copy));
@@ -52,7 +52,7 @@ TEST_F(StandardCommands, HaveTheirStandardKeys)
 TEST_F(StandardCommands, HaveDifferentKeysAndMnemonicsInEachMenu)
 {
     std::map<QKeySequence, std::string> users;
-    for (const Gui::Command* const command : commands().get_commands()) {
+    for (const Gui::Command* const command : commands().getCommands()) {
         if (command->get_shortcut().isEmpty())
             continue;
         EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();
@@ -77,8 +77,8 @@ TEST_F(StandardCommands, ApplyToNothingInAnEmptyProgram)
 TEST_F(StandardCommands, AreEnabledInTheMenusAsTheyApply)
 {
     vxtest::TestProject& project = makeProject();
-    const QAction* const copy = commands().find_command("Std_Copy")->action();
-    const QAction* const undo = commands().find_command("Std_Undo")->action();
+    const QAction* const copy = commands().findCommand("Std_Copy")->action();
+    const QAction* const undo = commands().findCommand("Std_Undo")->action();
     EXPECT_FALSE(copy->isEnabled());
     select({&addObject(project)});
     EXPECT_TRUE(vxtest::waitFor([&] { return copy->isEnabled() && undo->isEnabled(); }));
@@ -121,17 +121,17 @@ TEST_F(StandardCommands, CopyAndPasteInOneStep)
     EXPECT_TRUE(isApplicable("Std_Paste"));
     undoStack().clear();
     EXPECT_TRUE(run("Std_Paste"));
-    ASSERT_THAT(project.get_objects(), SizeIs(4));
-    EXPECT_EQ(project.get_objects()[2]->label.getValue(), "A");
-    ASSERT_THAT(selected(), ElementsAre(project.get_objects()[2], project.get_objects()[3]));
+    ASSERT_THAT(project.getObjects(), SizeIs(4));
+    EXPECT_EQ(project.getObjects()[2]->label.getValue(), "A");
+    ASSERT_THAT(selected(), ElementsAre(project.getObjects()[2], project.getObjects()[3]));
     EXPECT_EQ(undoStack().count(), 1);
     const auto pasted = selected();
     undoStack().undo();
-    EXPECT_THAT(project.get_objects(), SizeIs(2));
+    EXPECT_THAT(project.getObjects(), SizeIs(2));
     undoStack().redo();
-    ASSERT_THAT(project.get_objects(), SizeIs(4));
-    EXPECT_EQ(project.get_objects()[2], pasted[0]);
-    EXPECT_EQ(project.get_objects()[3], pasted[1]);
+    ASSERT_THAT(project.getObjects(), SizeIs(4));
+    EXPECT_EQ(project.getObjects()[2], pasted[0]);
+    EXPECT_EQ(project.getObjects()[3], pasted[1]);
 }
 
 TEST_F(StandardCommands, PasteIntoTheCurrentProject)
@@ -141,8 +141,8 @@ TEST_F(StandardCommands, PasteIntoTheCurrentProject)
     EXPECT_TRUE(run("Std_Copy"));
     vxtest::TestProject& second = makeProject("Second");
     EXPECT_TRUE(run("Std_Paste"));
-    EXPECT_EQ(second.get_object_count(), 1U);
-    EXPECT_EQ(first.get_object_count(), 1U);
+    EXPECT_EQ(second.getObjectCount(), 1U);
+    EXPECT_EQ(first.getObjectCount(), 1U);
 }
 
 TEST_F(StandardCommands, DuplicateInOneStepAndLeaveTheClipboardAlone)
@@ -152,11 +152,11 @@ TEST_F(StandardCommands, DuplicateInOneStepAndLeaveTheClipboardAlone)
     QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
     undoStack().clear();
     EXPECT_TRUE(run("Std_DuplicateSelection"));
-    EXPECT_THAT(project.get_objects(), SizeIs(4));
+    EXPECT_THAT(project.getObjects(), SizeIs(4));
     EXPECT_EQ(undoStack().count(), 1);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "mine");
     undoStack().undo();
-    EXPECT_THAT(project.get_objects(), SizeIs(2));
+    EXPECT_THAT(project.getObjects(), SizeIs(2));
 }
 
 TEST_F(StandardCommands, UndoAndRedo)
@@ -164,10 +164,10 @@ TEST_F(StandardCommands, UndoAndRedo)
     vxtest::TestProject& project = makeProject();
     addObject(project);
     EXPECT_TRUE(run("Std_Undo"));
-    EXPECT_EQ(project.get_object_count(), 0U);
+    EXPECT_EQ(project.getObjectCount(), 0U);
     EXPECT_FALSE(isApplicable("Std_Undo"));
     EXPECT_TRUE(run("Std_Redo"));
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
     EXPECT_FALSE(isApplicable("Std_Redo"));
 }
 
@@ -213,9 +213,9 @@ TEST_F(StandardCommands, CloseDocuments)
     for (int i = 0; i < 3; ++i)
         addDocument();
     EXPECT_TRUE(run("Std_CloseWindow"));
-    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().size() == 2; }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().size() == 2; }));
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().isEmpty(); }));
     EXPECT_FALSE(isApplicable("Std_CloseWindow"));
 }
 
@@ -227,20 +227,20 @@ TEST_F(StandardCommands, RunByTheirKeys)
     select({&object});
     press("Std_Copy");
     press("Std_Paste");
-    EXPECT_EQ(project.get_object_count(), 2U);
+    EXPECT_EQ(project.getObjectCount(), 2U);
     press("Std_DuplicateSelection");
-    EXPECT_EQ(project.get_object_count(), 3U);
+    EXPECT_EQ(project.getObjectCount(), 3U);
     press("Std_Undo");
-    EXPECT_EQ(project.get_object_count(), 2U);
+    EXPECT_EQ(project.getObjectCount(), 2U);
     press("Std_Undo");
-    EXPECT_EQ(project.get_object_count(), 1U);
+    EXPECT_EQ(project.getObjectCount(), 1U);
     press("Std_Redo");
-    EXPECT_EQ(project.get_object_count(), 2U);
+    EXPECT_EQ(project.getObjectCount(), 2U);
     press("Std_SelectAll");
     EXPECT_THAT(selected(), SizeIs(2));
     addDocument();
     press("Std_CloseWindow");
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 TEST_F(StandardCommands, RenameOneObjectAlone)
@@ -252,9 +252,9 @@ TEST_F(StandardCommands, RenameOneObjectAlone)
     EXPECT_TRUE(isApplicable("Std_Rename"));
     select({&a, &b});
     EXPECT_FALSE(isApplicable("Std_Rename"));
-    selection().set_selection({&project}, {&a});
+    selection().setSelection({&project}, {&a});
     EXPECT_FALSE(isApplicable("Std_Rename"));
-    selection().set_selection({&project}, {});
+    selection().setSelection({&project}, {});
     EXPECT_FALSE(isApplicable("Std_Rename"));
 }
 
@@ -280,8 +280,8 @@ TEST_F(StandardCommands, DuplicatePassesOverObjectsThatAListenerDeletes)
             vxMsg::MessageProxy::instance().deleteObject(project.get_name(), b.get_name_in_project());
     });
     EXPECT_TRUE(run("Std_DuplicateSelection"));
-    ASSERT_THAT(project.get_objects(), SizeIs(2));
-    EXPECT_THAT(selected(), ElementsAre(project.get_objects()[1]));
+    ASSERT_THAT(project.getObjects(), SizeIs(2));
+    EXPECT_THAT(selected(), ElementsAre(project.getObjects()[1]));
 }
 
 TEST_F(StandardCommands, Quit)

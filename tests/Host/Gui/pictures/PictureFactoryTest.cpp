@@ -53,7 +53,7 @@ TEST_F(Pictures, AreAGreySquareWhenTheFileIsBroken)
 
 TEST_F(Pictures, AreSharpIconsAtEverySize)
 {
-    const QIcon icon = PictureFactory::get_icon(QStringLiteral("kelta_copy"));
+    const QIcon icon = PictureFactory::getIcon(QStringLiteral("kelta_copy"));
     for (const int size : {16, 24, 100})
         EXPECT_EQ(icon.pixmap(size).toImage(),
                   PictureFactory::get_pixmap(QStringLiteral("kelta_copy"), size).toImage());
@@ -61,8 +61,8 @@ TEST_F(Pictures, AreSharpIconsAtEverySize)
 
 TEST_F(Pictures, AreGreyIconsWhereDisabled)
 {
-    const QImage image = PictureFactory::get_icon(QStringLiteral("kelta_paste")).pixmap(32, QIcon::Disabled).toImage();
-    const QImage enabled = PictureFactory::get_icon(QStringLiteral("kelta_paste")).pixmap(32).toImage();
+    const QImage image = PictureFactory::getIcon(QStringLiteral("kelta_paste")).pixmap(32, QIcon::Disabled).toImage();
+    const QImage enabled = PictureFactory::getIcon(QStringLiteral("kelta_paste")).pixmap(32).toImage();
     EXPECT_LT(image.pixelColor(7, 24).saturation(), enabled.pixelColor(7, 24).saturation() / 2);
     EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
 }
@@ -72,7 +72,7 @@ TEST_F(Pictures, AreDrawnAsIconsAtThePlaceAskedFor)
     QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    PictureFactory::get_icon(QStringLiteral("kelta_copy")).paint(&painter, QRect(32, 0, 32, 32));
+    PictureFactory::getIcon(QStringLiteral("kelta_copy")).paint(&painter, QRect(32, 0, 32, 32));
     painter.end();
     EXPECT_EQ(image.copy(32, 0, 32, 32), PictureFactory::get_pixmap("kelta_copy").toImage());
     EXPECT_EQ(image.copy(0, 0, 32, 64).pixelColor(16, 16).alpha(), 0);
@@ -105,7 +105,7 @@ TEST_F(Pictures, OfAllCommandsAreThere)
     const auto isThere = [](const char* name) {
         return QFile::exists(QStringLiteral(":icons/%1.svg").arg(QLatin1String(name)));
     };
-    for (const Gui::Command* const command : commands().get_commands())
+    for (const Gui::Command* const command : commands().getCommands())
         EXPECT_TRUE(*command->get_pixmap() == '\0' || isThere(command->get_pixmap())) << command->getName();
     // The pictures of commands of the program.
     for (const char* const name : {"kelta_open", "kelta_save"})

@@ -19,7 +19,7 @@ protected:
         show({&object});
     }
 
-    Gui::PropertyPanel& panel() const { return window->get_property_panel(); }
+    Gui::PropertyPanel& panel() const { return window->getPropertyPanel(); }
 
     void show(const std::vector<Obj::ProjectObject*>& objects) const
     {
@@ -163,7 +163,7 @@ TEST_F(Panel, MakesNoStepOfTheSameText)
 
 TEST_F(Panel, EditsPropertiesOfAProjectUndoably)
 {
-    selection().set_selection({&project}, {});
+    selection().setSelection({&project}, {});
     panel().showSelection();
     ASSERT_TRUE(edit("Count", "5"));
     EXPECT_EQ(project.count.getValue(), 5);
@@ -180,9 +180,9 @@ TEST_F(Panel, FollowsChangesMadeElsewhere)
 TEST_F(Panel, UndoesAnEditOfAnObjectThatWasDeletedAndBroughtBackMeanwhile)
 {
     ASSERT_TRUE(edit("Count", "17"));
-    auto taken = project.take_object(object.getObjectId());
+    auto taken = project.takeObject(object.getObjectId());
     undoStack().clear();
-    project.restore_object(std::move(taken));
+    project.restoreObject(std::move(taken));
     show({&object});
     ASSERT_TRUE(edit("Count", "18"));
     EXPECT_EQ(object.count.getValue(), 18);
@@ -204,7 +204,7 @@ TEST_F(Panel, SaysHowManyAreSelected)
 
 TEST_F(Panel, EmptiesWhenTheObjectIsRemoved)
 {
-    project.remove_object(object.getObjectId());
+    project.removeObject(object.getObjectId());
     EXPECT_TRUE(vxtest::waitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
 }
 
@@ -212,7 +212,7 @@ TEST_F(Panel, SurvivesTheEndOfTheProjectDuringAnEdit)
 {
     panel().editItem(row("Count"), 1);
     ASSERT_NE(panel().viewport()->findChild<QLineEdit*>(), nullptr);
-    Obj::Application::instance().close_project(project);
+    Obj::Application::instance().closeProject(project);
     EXPECT_TRUE(vxtest::waitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
 }
 
@@ -250,7 +250,7 @@ TEST_F(Panel, EditsPropertiesOfTheNodeOfAProjectUndoably)
 {
     auto& node = dynamic_cast<vxtest::TestProjectNode&>(
         *Gui::GuiApplication::Instance->get_project(&project)->get_view_feeder());
-    selection().set_selection({&project}, {});
+    selection().setSelection({&project}, {});
     panel().showSelection();
     ASSERT_TRUE(edit("Order", "5"));
     EXPECT_EQ(node.order.getValue(), 5);
@@ -343,11 +343,11 @@ TEST_F(TypedPanel, OffersTheWordsOfAChoiceUndoably)
     EXPECT_EQ(entriesOf(*list), QStringList({"Solid", "Hollow"}));
     EXPECT_EQ(list->currentIndex(), 0);
     choose(*list, 1);
-    EXPECT_EQ(typed.kind.get_word(), "Hollow");
+    EXPECT_EQ(typed.kind.getWord(), "Hollow");
     EXPECT_TRUE(QTest::qWaitFor([this] { return value("Kind") == "Hollow"; }));
     ASSERT_EQ(undoStack().count(), 1);
     undoStack().undo();
-    EXPECT_EQ(typed.kind.get_word(), "Solid");
+    EXPECT_EQ(typed.kind.getWord(), "Solid");
 }
 
 TEST_F(TypedPanel, OffersTheOtherObjectsForAReferenceUndoably)
@@ -369,7 +369,7 @@ TEST_F(TypedPanel, FollowsTheLabelOfTheObjectThatIsReferredTo)
     typed.partner.setValue(&object);
     object.label.setValue("Girder");
     EXPECT_TRUE(QTest::qWaitFor([this] { return value("Partner") == "Girder"; }));
-    project.remove_object(object.getObjectId());
+    project.removeObject(object.getObjectId());
     EXPECT_TRUE(QTest::qWaitFor([this] { return value("Partner") == "None"; }));
 }
 

@@ -143,7 +143,7 @@ TEST_F(Explorer, SelectsWhatIsClicked)
 TEST_F(Explorer, OffersWhatTheWorkbenchAddsInItsContextMenu)
 {
     EXPECT_FALSE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_TRUE(contextMenuAt(placeOf(first)).contains(QStringLiteral("Select &all")));
 }
 
@@ -172,8 +172,8 @@ TEST_F(Explorer, ShowsThatNothingIsSelectedAnyMore)
 TEST_F(Explorer, DeselectsWhatIsRemoved)
 {
     click(first);
-    project.remove_object(first.getObjectId());
-    EXPECT_EQ(selection().get_count(), 0U);
+    project.removeObject(first.getObjectId());
+    EXPECT_EQ(selection().getCount(), 0U);
     QCoreApplication::processEvents();
     model().synchronize();
     EXPECT_EQ(model().rowCount(model().indexOf(project)), 1);
@@ -183,7 +183,7 @@ TEST_F(Explorer, SelectsAllObjectsOfTheCurrentProject)
 {
     vxtest::TestProject& other = makeProject("Other");
     addObject(other);
-    Obj::Application::instance().set_current_project(project);
+    Obj::Application::instance().setCurrentProject(project);
     explorer().selectAllObjects();
     EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second));
 }
@@ -199,7 +199,7 @@ TEST_F(Explorer, SelectsTenThousandAtOnce)
     for (int i = 0; i < 10000; ++i)
         addObject(project);
     explorer().selectAllObjects();
-    EXPECT_EQ(selection().get_count(), 10002U);
+    EXPECT_EQ(selection().getCount(), 10002U);
 }
 
 TEST_F(Explorer, OpensByADoubleClick)
@@ -228,8 +228,8 @@ TEST_F(Explorer, ActsByKeysOnTheCopyOfADuplicate)
 {
     click(first);
     ASSERT_TRUE(run("Std_DuplicateSelection"));
-    ASSERT_THAT(project.get_objects(), SizeIs(3));
-    Obj::ProjectObject& copy = *project.get_objects()[2];
+    ASSERT_THAT(project.getObjects(), SizeIs(3));
+    Obj::ProjectObject& copy = *project.getObjects()[2];
     EXPECT_EQ(explorer().currentIndex(), model().indexOf(copy));
     QTest::keyClick(&explorer(), Qt::Key_Return);
     showByMenuKey();
@@ -245,8 +245,8 @@ TEST_F(Explorer, ActsByKeysOnWhatIsPasted)
     ASSERT_TRUE(run("Std_Copy"));
     click(second);
     ASSERT_TRUE(run("Std_Paste"));
-    ASSERT_THAT(project.get_objects(), SizeIs(3));
-    Obj::ProjectObject& copy = *project.get_objects()[2];
+    ASSERT_THAT(project.getObjects(), SizeIs(3));
+    Obj::ProjectObject& copy = *project.getObjects()[2];
     QTest::keyClick(&explorer(), Qt::Key_F2);
     typeLabel("Pasted");
     EXPECT_EQ(copy.label.getValue(), "Pasted");
@@ -261,7 +261,7 @@ TEST_F(Explorer, ActsByKeysOnWhatARequestAdds)
     ASSERT_TRUE(vxMsg::MessageProxy::instance().addObject(project.get_name(), "Test::Object", "Added"));
     QTest::keyClick(&explorer(), Qt::Key_Return);
     EXPECT_EQ(nodeOf(first).opened, 0);
-    EXPECT_EQ(nodeOf(*project.get_objects()[2]).opened, 1);
+    EXPECT_EQ(nodeOf(*project.getObjects()[2]).opened, 1);
     QTest::keyClick(&explorer(), Qt::Key_Up);
     EXPECT_THAT(selectedObjects(), ElementsAre(&second));
 }
@@ -327,7 +327,7 @@ TEST_F(Explorer, RenamesOneObjectAlone)
     EXPECT_FALSE(explorer().renameSelected());
     select({&first, &second});
     EXPECT_FALSE(explorer().renameSelected());
-    selection().set_selection({&project}, {});
+    selection().setSelection({&project}, {});
     EXPECT_FALSE(explorer().renameSelected());
     select({&second});
     EXPECT_TRUE(explorer().renameSelected());
@@ -337,7 +337,7 @@ TEST_F(Explorer, SurvivesTheRemovalOfTheRowThatIsRenamed)
 {
     click(first);
     ASSERT_TRUE(explorer().renameSelected());
-    project.remove_object(first.getObjectId());
+    project.removeObject(first.getObjectId());
     model().synchronize();
     QCoreApplication::processEvents();
     EXPECT_EQ(shownText(second), "Second");
@@ -371,11 +371,11 @@ TEST_F(Explorer, HearsTreeKeysWhenItHasTheKeyboardAlone)
     // The application keeps the command.
     static int deleted;
     static auto* const command = new vxtest::TestCommand(
-        "Test_Delete", [] { ++deleted; }, Gui::CommandType::OnTree, QKeySequence(QKeySequence::Delete));
-    if (commands().find_command("Test_Delete") == nullptr)
+        "Test_Delete", [] { ++deleted; }, Gui::CommandType::onTree, QKeySequence(QKeySequence::Delete));
+    if (commands().findCommand("Test_Delete") == nullptr)
         commands().new_command(command);
     deleted = 0;
-    window->set_workbench("Gui::StdSimModule");
+    window->setWorkbench("Gui::StdSimModule");
     QTest::keyClick(&explorer(), Qt::Key_Delete);
     EXPECT_EQ(deleted, 1);
     auto* const document = new Gui::MDIWindow(nullptr, nullptr);
@@ -401,7 +401,7 @@ TEST_F(Explorer, ExpandsAProjectWhenObjectsCome)
 TEST_F(Explorer, SelectsTheMembersOfGroupsToo)
 {
     auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
-    group->add_member(first);
+    group->addMember(first);
     explorer().selectAllObjects();
     EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second, group));
 }
@@ -410,7 +410,7 @@ TEST_F(Explorer, KeepsTheSelectionOfWhatAGroupTakesIn)
 {
     auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
     click(first);
-    group->add_member(first);
+    group->addMember(first);
     model().synchronize();
     EXPECT_THAT(selectedObjects(), ElementsAre(&first));
     EXPECT_TRUE(explorer().isExpanded(model().indexOf(*group)));

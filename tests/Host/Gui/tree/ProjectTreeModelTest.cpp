@@ -94,9 +94,9 @@ TEST_F(Tree, MakesFewBlocksOfManyChanges)
     EXPECT_EQ(inserted.count(), 1);
     // Every second one of the first ten, and all others.
     for (std::uint32_t id = 1; id <= 10; id += 2)
-        project.remove_object(id);
+        project.removeObject(id);
     for (std::uint32_t id = 11; id <= 1000; ++id)
-        project.remove_object(id);
+        project.removeObject(id);
     tree.synchronize();
     EXPECT_EQ(removed.count(), 6);
     EXPECT_EQ(tree.rowCount(tree.indexOf(project)), 5);
@@ -108,12 +108,12 @@ TEST_F(Tree, PutsWhatUndoBringsBackWhereItWas)
     vxtest::TestObject* objects[] = {&addObject(project, "A"), &addObject(project, "B"), &addObject(project, "C"),
                                      &addObject(project, "D")};
     tree.synchronize();
-    auto b = project.take_object(objects[1]->getObjectId());
-    auto d = project.take_object(objects[3]->getObjectId());
+    auto b = project.takeObject(objects[1]->getObjectId());
+    auto d = project.takeObject(objects[3]->getObjectId());
     EXPECT_EQ(labelsOf(project), QStringList({"A", "C"}));
-    project.restore_object(std::move(d));
+    project.restoreObject(std::move(d));
     EXPECT_EQ(labelsOf(project), QStringList({"A", "C", "D"}));
-    project.restore_object(std::move(b));
+    project.restoreObject(std::move(b));
     EXPECT_EQ(labelsOf(project), QStringList({"A", "B", "C", "D"}));
 }
 
@@ -123,12 +123,12 @@ TEST_F(Tree, ShowsNothingForARowWhoseObjectWasRemoved)
     vxtest::TestObject& object = addObject(project, "A");
     tree.synchronize();
     const QModelIndex index = tree.indexOf(object);
-    project.remove_object(object.getObjectId());
+    project.removeObject(object.getObjectId());
     EXPECT_EQ(tree.objectAt(index), nullptr);
     EXPECT_FALSE(index.data().isValid());
     EXPECT_FALSE(tree.setData(index, "B", Qt::EditRole));
     const QModelIndex parent = tree.indexOf(project);
-    Obj::Application::instance().close_project(project);
+    Obj::Application::instance().closeProject(project);
     EXPECT_EQ(tree.projectAt(parent), nullptr);
     EXPECT_FALSE(parent.data().isValid());
 }
@@ -139,11 +139,11 @@ TEST_F(Tree, LosesAClosedProjectAndGetsItBackByUndo)
     vxtest::TestProject& second = makeProject("Second");
     addObject(first, "A");
     tree.synchronize();
-    auto closed = Obj::Application::instance().take_project(first);
+    auto closed = Obj::Application::instance().takeProject(first);
     tree.synchronize();
     EXPECT_EQ(tree.rowCount({}), 1);
     EXPECT_EQ(tree.projectAt(tree.index(0, 0, {})), &second);
-    Obj::Application::instance().restore_project(std::move(closed));
+    Obj::Application::instance().restoreProject(std::move(closed));
     EXPECT_EQ(labelsOf(first), QStringList({"A"}));
     EXPECT_EQ(tree.indexOf(first).row(), 0);
 }
@@ -249,8 +249,8 @@ TEST_F(Groups, HaveTheirMembersUnderThem)
     vxtest::TestObject& b = addObject(project, "B");
     addObject(project, "C");
     EXPECT_EQ(shape(), "Group, A, B, C");
-    group.add_member(b);
-    group.add_member(a);
+    group.addMember(b);
+    group.addMember(a);
     EXPECT_EQ(shape(), "Group[A, B], C");
     EXPECT_EQ(tree.parent(tree.indexOf(a)), tree.indexOf(group));
     EXPECT_EQ(tree.objectAt(tree.index(1, 0, tree.indexOf(group))), &b);
@@ -261,9 +261,9 @@ TEST_F(Groups, TakeMembersInAndLetThemGoWhenTheEventLoopIsIdle)
     Obj::ProjectObjectGroup& group = addGroup("Group");
     vxtest::TestObject& a = addObject(project, "A");
     EXPECT_EQ(shape(), "Group, A");
-    group.add_member(a);
+    group.addMember(a);
     EXPECT_TRUE(QTest::qWaitFor([&] { return tree.rowCount(tree.indexOf(group)) == 1; }));
-    group.remove_member(a);
+    group.removeMember(a);
     EXPECT_TRUE(QTest::qWaitFor([&] { return tree.rowCount(tree.indexOf(group)) == 0; }));
     EXPECT_EQ(shape(), "Group, A");
 }
@@ -276,7 +276,7 @@ TEST_F(Groups, MoveRowsThatKeepTheirIdentity)
     const QPersistentModelIndex index = tree.indexOf(a);
     QSignalSpy moved(&tree, &ProjectTreeModel::rowsMoved);
     QSignalSpy removed(&tree, &ProjectTreeModel::rowsRemoved);
-    group.add_member(a);
+    group.addMember(a);
     tree.synchronize();
     EXPECT_EQ(moved.count(), 1);
     EXPECT_EQ(removed.count(), 0);
@@ -288,12 +288,12 @@ TEST_F(Groups, CanBeInGroups)
     Obj::ProjectObjectGroup& inner = addGroup("Inner");
     vxtest::TestObject& a = addObject(project, "A");
     Obj::ProjectObjectGroup& outer = addGroup("Outer");
-    inner.add_member(a);
-    outer.add_member(inner);
+    inner.addMember(a);
+    outer.addMember(inner);
     EXPECT_EQ(shape(), "Outer[Inner[A]]");
     // The other way round.
-    outer.remove_member(inner);
-    inner.add_member(outer);
+    outer.removeMember(inner);
+    inner.addMember(outer);
     EXPECT_EQ(shape(), "Inner[A, Outer]");
 }
 
@@ -302,9 +302,9 @@ TEST_F(Groups, ShowAMemberThatIsPutIntoAnotherGroupThere)
     Obj::ProjectObjectGroup& first = addGroup("First");
     Obj::ProjectObjectGroup& second = addGroup("Second");
     vxtest::TestObject& a = addObject(project, "A");
-    second.add_member(a);
+    second.addMember(a);
     EXPECT_EQ(shape(), "First, Second[A]");
-    first.add_member(a);
+    first.addMember(a);
     EXPECT_TRUE(QTest::qWaitFor([&] { return tree.parent(tree.indexOf(a)) == tree.indexOf(first); }));
     EXPECT_EQ(shape(), "First[A], Second");
 }
@@ -314,8 +314,8 @@ TEST_F(Groups, LeaveOutMembersThatAreNotShown)
     Obj::ProjectObjectGroup& group = addGroup("Group");
     vxtest::TestObject& a = addObject(project, "A");
     vxtest::TestObject& b = addObject(project, "B");
-    group.add_member(a);
-    group.add_member(b);
+    group.addMember(a);
+    group.addMember(b);
     nodeOf(a).shown = false;
     EXPECT_EQ(shape(), "Group[B]");
 }
@@ -340,7 +340,7 @@ TEST_F(Groups, ThatAreNotShownLeaveTheirMembersWhereTheyAreThemselves)
 {
     GroupWithNode::init();
     auto& group = static_cast<GroupWithNode&>(*project.add_object("Test::GroupWithNode", "Group"));
-    group.add_member(addObject(project, "A"));
+    group.addMember(addObject(project, "A"));
     EXPECT_EQ(shape(), "Group[A]");
     nodeOf(group).shown = false;
     group.notifyChange();
@@ -354,19 +354,19 @@ TEST_F(Groups, GiveTheirMembersBackWhenTheyAreDeleted)
     Obj::ProjectObjectGroup& inner = addGroup("Inner");
     vxtest::TestObject& a = addObject(project, "A");
     vxtest::TestObject& b = addObject(project, "B");
-    outer.add_member(inner);
-    inner.add_member(a);
-    inner.add_member(b);
+    outer.addMember(inner);
+    inner.addMember(a);
+    inner.addMember(b);
     EXPECT_EQ(shape(), "Outer[Inner[A, B]]");
-    auto taken = project.take_object(inner.getObjectId());
+    auto taken = project.takeObject(inner.getObjectId());
     EXPECT_EQ(shape(), "Outer, A, B");
-    project.restore_object(std::move(taken));
+    project.restoreObject(std::move(taken));
     EXPECT_EQ(shape(), "Outer[Inner[A, B]]");
-    project.remove_object(b.getObjectId());
+    project.removeObject(b.getObjectId());
     EXPECT_EQ(shape(), "Outer[Inner[A]]");
-    project.remove_object(a.getObjectId());
+    project.removeObject(a.getObjectId());
     EXPECT_EQ(shape(), "Outer[Inner]");
-    project.remove_object(outer.getObjectId());
+    project.removeObject(outer.getObjectId());
     EXPECT_EQ(shape(), "Inner");
 }
 
@@ -375,10 +375,10 @@ TEST_F(Groups, LoseMembersThatAreDeletedWithThem)
     Obj::ProjectObjectGroup& group = addGroup("Group");
     vxtest::TestObject& a = addObject(project, "A");
     addObject(project, "B");
-    group.add_member(a);
+    group.addMember(a);
     EXPECT_EQ(shape(), "Group[A], B");
-    project.remove_object(group.getObjectId());
-    project.remove_object(a.getObjectId());
+    project.removeObject(group.getObjectId());
+    project.removeObject(a.getObjectId());
     EXPECT_EQ(shape(), "B");
 }
 
@@ -397,25 +397,25 @@ TEST_F(Groups, FollowRandomChanges)
         Obj::ProjectObject& object = *objects[random() % objects.size()];
         switch (random() % 4) {
         case 0:
-            group.add_member(object);
+            group.addMember(object);
             break;
         case 1:
-            group.remove_member(object);
+            group.removeMember(object);
             break;
         case 2:
             if (object.get_project() != nullptr)
-                away.push_back(project.take_object(object.getObjectId()));
+                away.push_back(project.takeObject(object.getObjectId()));
             break;
         default:
             if (!away.empty()) {
-                project.restore_object(std::move(away.back()));
+                project.restoreObject(std::move(away.back()));
                 away.pop_back();
             }
         }
         // A new model shows the same, and the tester has checked every step.
         const ProjectTreeModel fresh(*Gui::GuiApplication::Instance);
         tree.synchronize();
-        for (const Obj::ProjectObject* const present : project.get_objects()) {
+        for (const Obj::ProjectObject* const present : project.getObjects()) {
             EXPECT_TRUE(tree.indexOf(*present).isValid());
             EXPECT_EQ(tree.objectAt(tree.indexOf(*present).parent()), fresh.objectAt(fresh.indexOf(*present).parent()));
             EXPECT_EQ(tree.indexOf(*present).row(), fresh.indexOf(*present).row());
@@ -427,7 +427,7 @@ TEST_F(Groups, OfTenThousandAreMovedInOneTurn)
 {
     Obj::ProjectObjectGroup& group = addGroup("Group");
     for (int i = 0; i < 10000; ++i)
-        group.add_member(addObject(project));
+        group.addMember(addObject(project));
     tree.synchronize();
     EXPECT_EQ(tree.rowCount(tree.indexOf(group)), 10000);
     EXPECT_EQ(tree.rowCount(tree.indexOf(project)), 1);

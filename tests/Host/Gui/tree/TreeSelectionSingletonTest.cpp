@@ -19,7 +19,7 @@ TEST_F(Selection, ListsProjectsAndObjectsInTheOrderOfTheTree)
     vxtest::TestObject& a = addObject(first);
     vxtest::TestObject& b = addObject(first);
     vxtest::TestObject& c = addObject(second);
-    selection().set_selection({&second, &first}, {&c, &b, &a});
+    selection().setSelection({&second, &first}, {&c, &b, &a});
     const auto type = Obj::ProjectObject::getClassTypeId();
     EXPECT_THAT(selection().get_projects(), ElementsAre(&first, &second));
     EXPECT_THAT(selection().get_objects_of_type(type), ElementsAre(&a, &b, &c));
@@ -27,7 +27,7 @@ TEST_F(Selection, ListsProjectsAndObjectsInTheOrderOfTheTree)
     EXPECT_THAT(selection().get_objects_of_type(type, "First"), ElementsAre(&a, &b));
     EXPECT_THAT(selection().get_objects_of_type(type, "Third"), IsEmpty());
     EXPECT_THAT(selection().get_objects_of_type(Kelta::TypeInfo(), "First"), IsEmpty());
-    EXPECT_EQ(selection().get_count(), 5U);
+    EXPECT_EQ(selection().getCount(), 5U);
 }
 
 TEST_F(Selection, ListsProjectsByTheirTag)
@@ -35,8 +35,7 @@ TEST_F(Selection, ListsProjectsByTheirTag)
     vxtest::TestProject& project = makeProject();
     selection().select(project);
     EXPECT_THAT(selection().get_projects(2), IsEmpty());
-    EXPECT_THAT(selection().get_projects(static_cast<std::uint32_t>(project.get_document_tag())),
-                ElementsAre(&project));
+    EXPECT_THAT(selection().get_projects(static_cast<std::uint32_t>(project.getDocumentTag())), ElementsAre(&project));
 }
 
 TEST_F(Selection, KeepsEntriesByNameSoThatTheirObjectsMayGo)
@@ -47,12 +46,12 @@ TEST_F(Selection, KeepsEntriesByNameSoThatTheirObjectsMayGo)
     const auto entries = selection().get_selection2("Project", Obj::ProjectObject::getClassTypeId());
     ASSERT_THAT(entries, SizeIs(1));
     EXPECT_EQ(entries[0].get_object(), &object);
-    EXPECT_EQ(entries[0].get_project_name(), "Project");
-    EXPECT_EQ(entries[0].get_object_name(), "Beam");
-    EXPECT_THAT(entries[0].get_subelement_names(), IsEmpty());
-    project.remove_object(object.getObjectId());
+    EXPECT_EQ(entries[0].getProjectName(), "Project");
+    EXPECT_EQ(entries[0].getObjectName(), "Beam");
+    EXPECT_THAT(entries[0].getSubelementNames(), IsEmpty());
+    project.removeObject(object.getObjectId());
     EXPECT_EQ(entries[0].get_object(), nullptr);
-    Obj::Application::instance().close_project(project);
+    Obj::Application::instance().closeProject(project);
     EXPECT_EQ(entries[0].get_object(), nullptr);
 }
 
@@ -65,8 +64,8 @@ TEST_F(Selection, LosesWhatLeavesTheTreeAndSaysSoOnce)
     select(objects);
     QSignalSpy spy(&selection(), &Gui::TreeSelectionSingleton::selectionChanged);
     for (int i = 0; i < 99; ++i)
-        project.remove_object(objects[static_cast<std::size_t>(i)]->getObjectId());
-    EXPECT_EQ(selection().get_count(), 1U);
+        project.removeObject(objects[static_cast<std::size_t>(i)]->getObjectId());
+    EXPECT_EQ(selection().getCount(), 1U);
     EXPECT_EQ(spy.count(), 0);
     EXPECT_TRUE(spy.wait());
     EXPECT_EQ(spy.count(), 1);
@@ -75,9 +74,9 @@ TEST_F(Selection, LosesWhatLeavesTheTreeAndSaysSoOnce)
 TEST_F(Selection, LosesAProjectAndItsObjectsWhenTheProjectCloses)
 {
     vxtest::TestProject& project = makeProject();
-    selection().set_selection({&project}, {&addObject(project)});
-    Obj::Application::instance().close_project(project);
-    EXPECT_EQ(selection().get_count(), 0U);
+    selection().setSelection({&project}, {&addObject(project)});
+    Obj::Application::instance().closeProject(project);
+    EXPECT_EQ(selection().getCount(), 0U);
     EXPECT_THAT(selection().get_projects(), IsEmpty());
 }
 

@@ -25,7 +25,7 @@ TEST_F(ViewFeederTest, AllowsEverythingAndDoesNothingByItself)
     QMenu menu;
     node.build_context_menu("Tree", &items);
     node.build_context_menu(&menu, nullptr, "");
-    EXPECT_FALSE(items.has_items());
+    EXPECT_FALSE(items.hasItems());
     EXPECT_TRUE(menu.isEmpty());
 }
 
@@ -41,11 +41,11 @@ TEST_F(ViewFeederTest, KeepsTheDisplayMode)
 TEST_F(ViewFeederTest, IsCreatedByItsName)
 {
     for (const char* const name : {"Gui::ViewFeederProject", "Gui::ViewFeederProjectObject"}) {
-        const auto created = Kelta::RootClass::create_by_name(name);
+        const auto created = Kelta::RootClass::createByName(name);
         ASSERT_NE(created, nullptr);
         EXPECT_TRUE(created->is_inherited_from(Gui::ViewFeeder::getClassTypeId()));
     }
-    EXPECT_EQ(Kelta::RootClass::create_by_name("Gui::ViewFeeder"), nullptr);
+    EXPECT_EQ(Kelta::RootClass::createByName("Gui::ViewFeeder"), nullptr);
 }
 
 } // namespace

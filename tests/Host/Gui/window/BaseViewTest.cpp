@@ -20,24 +20,24 @@ TEST_F(BaseViewTest, IsOneOfTheViewsOfItsProjectWhileItLives)
     const vxtest::TestProject& project = makeProject();
     {
         BaseView view(guiOf(project));
-        EXPECT_EQ(view.get_gui_project(), guiOf(project));
-        EXPECT_THAT(guiOf(project)->get_views(), ElementsAre(&view));
+        EXPECT_EQ(view.getGuiProject(), guiOf(project));
+        EXPECT_THAT(guiOf(project)->getViews(), ElementsAre(&view));
     }
-    EXPECT_THAT(guiOf(project)->get_views(), IsEmpty());
+    EXPECT_THAT(guiOf(project)->getViews(), IsEmpty());
 }
 
 TEST_F(BaseViewTest, MayBelongToNoProject)
 {
     const BaseView view(nullptr);
-    EXPECT_EQ(view.get_gui_project(), nullptr);
+    EXPECT_EQ(view.getGuiProject(), nullptr);
 }
 
 TEST_F(BaseViewTest, ForgetsAProjectThatIsClosed)
 {
     const vxtest::TestProject& project = makeProject();
     const BaseView view(guiOf(project));
-    Obj::Application::instance().close_project(project);
-    EXPECT_EQ(view.get_gui_project(), nullptr);
+    Obj::Application::instance().closeProject(project);
+    EXPECT_EQ(view.getGuiProject(), nullptr);
 }
 
 /// Counts how often it is removed from the window.
@@ -54,9 +54,9 @@ TEST_F(BaseViewTest, IsTakenOutWithItsProject)
     const vxtest::TestProject& project = makeProject();
     const vxtest::TestProject& other = makeProject("Other");
     RemovedView view(guiOf(project));
-    Obj::Application::instance().close_project(other);
+    Obj::Application::instance().closeProject(other);
     EXPECT_EQ(view.removals, 0);
-    Obj::Application::instance().close_project(project);
+    Obj::Application::instance().closeProject(project);
     EXPECT_EQ(view.removals, 1);
 }
 

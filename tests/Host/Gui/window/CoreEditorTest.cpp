@@ -31,8 +31,8 @@ TEST_F(CoreEditor, OpensByADoubleClick)
     doubleClick();
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->shownLabel, "Beam");
-    EXPECT_EQ(editor()->get_edited_object(), &object);
-    EXPECT_EQ(editor()->get_gui_project(), Gui::GuiApplication::Instance->get_project(&project));
+    EXPECT_EQ(editor()->getEditedObject(), &object);
+    EXPECT_EQ(editor()->getGuiProject(), Gui::GuiApplication::Instance->get_project(&project));
     EXPECT_EQ(editor()->windowTitle(), "Beam[*]");
     EXPECT_EQ(nodeOf(object).opened, 1);
 }
@@ -45,7 +45,7 @@ TEST_F(CoreEditor, IsBroughtToTheFrontTheSecondTime)
     ASSERT_EQ(editor(), nullptr);
     doubleClick();
     EXPECT_EQ(editor(), first);
-    EXPECT_EQ(window->get_mdi_windows().size(), 2);
+    EXPECT_EQ(window->getMdiWindows().size(), 2);
 }
 
 TEST_F(CoreEditor, IsLeftAloneByNodesThatOpenThemselves)
@@ -68,7 +68,7 @@ TEST_F(CoreEditor, IsClosedWithItsObject)
     doubleClick();
     const QPointer<Gui::MDIWindow> open = editor();
     ASSERT_NE(open, nullptr);
-    const auto taken = project.take_object(object.getObjectId());
+    const auto taken = project.takeObject(object.getObjectId());
     EXPECT_EQ(open, nullptr);
 }
 
@@ -77,7 +77,7 @@ TEST_F(CoreEditor, IsClosedWithItsProject)
     doubleClick();
     const QPointer<Gui::MDIWindow> open = editor();
     ASSERT_NE(open, nullptr);
-    Obj::Application::instance().close_project(project);
+    Obj::Application::instance().closeProject(project);
     EXPECT_EQ(open, nullptr);
 }
 

@@ -40,9 +40,9 @@ protected:
 
 TEST_F(FileDialogTest, ReturnsThePreparedPathOnce)
 {
-    FileDialog::answer_next(QStringLiteral("/a/b.json"));
+    FileDialog::answerNext(QStringLiteral("/a/b.json"));
     EXPECT_EQ(FileDialog::getSaveFileName(nullptr, {}, {}, {}), "/a/b.json");
-    FileDialog::answer_next({});
+    FileDialog::answerNext({});
     EXPECT_EQ(FileDialog::getOpenFileName(nullptr, {}, {}, {}), "");
     // The next request is a real dialog.
     EXPECT_EQ(save({}, folder.path(), QStringLiteral("All (*)")), "");

@@ -12,7 +12,7 @@ TEST_F(MDIWindowTest, IsAWindowAndAView)
     EXPECT_STREQ(document.getName(), "MDIWindow");
     EXPECT_STREQ(document.getTypeId().get_name(), "Gui::MDIWindow");
     EXPECT_TRUE(document.is_inherited_from(Gui::BaseView::getClassTypeId()));
-    EXPECT_EQ(document.get_gui_project(), nullptr);
+    EXPECT_EQ(document.getGuiProject(), nullptr);
 }
 
 TEST_F(MDIWindowTest, ShowsNothingByItself)
@@ -28,7 +28,7 @@ TEST_F(MDIWindowTest, ShowsNothingByItself)
     document.resizeRow(0, 10);
     document.updateCell(nullptr);
     document.finishEditing();
-    EXPECT_EQ(document.get_undo_stack(), nullptr);
+    EXPECT_EQ(document.getUndoStack(), nullptr);
 }
 
 TEST_F(MDIWindowTest, RemovesItself)
@@ -44,9 +44,9 @@ TEST_F(MDIWindowTest, KnowsItsProjectWhileThatIsOpen)
     vxtest::TestProject& project = makeProject();
     Gui::GuiProject* const side = Gui::GuiApplication::Instance->get_project(&project);
     Gui::MDIWindow document(side, nullptr);
-    EXPECT_EQ(document.get_gui_project(), side);
-    Obj::Application::instance().close_project(project);
-    EXPECT_EQ(document.get_gui_project(), nullptr);
+    EXPECT_EQ(document.getGuiProject(), side);
+    Obj::Application::instance().closeProject(project);
+    EXPECT_EQ(document.getGuiProject(), nullptr);
 }
 
 } // namespace

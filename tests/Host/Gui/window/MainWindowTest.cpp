@@ -82,7 +82,7 @@ TEST_F(MainWindowTest, ListsDocumentsInTheOrderInWhichTheyCame)
     MDIWindow* const first = addDocument("A");
     MDIWindow* const second = addDocument("B");
     window->set_active_mdi_window(first);
-    EXPECT_EQ(window->get_mdi_windows(), QList<MDIWindow*>({first, second}));
+    EXPECT_EQ(window->getMdiWindows(), QList<MDIWindow*>({first, second}));
 }
 
 TEST_F(MainWindowTest, RemovesADocumentAtOnce)
@@ -100,7 +100,7 @@ TEST_F(MainWindowTest, DestroysADocumentThatTheUserCloses)
 {
     const QPointer<MDIWindow> document = addDocument("A");
     window->close_current_window();
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
     EXPECT_EQ(window->get_active_mdi_window(), nullptr);
     EXPECT_TRUE(vxtest::waitFor([&document] { return document == nullptr; }));
     EXPECT_TRUE(vxtest::waitFor([this] { return showsWelcome(); }));
@@ -132,9 +132,9 @@ TEST_F(MainWindowTest, KeepsADocumentThatRefusesToClose)
 {
     window->add_mdi_window(new Stubborn);
     window->close_current_window();
-    window->close_all_windows();
+    window->closeAllWindows();
     QCoreApplication::processEvents();
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
     EXPECT_FALSE(showsWelcome());
 }
 
@@ -144,9 +144,9 @@ TEST_F(MainWindowTest, TakesTheDocumentsOfAProjectWithIt)
     Gui::GuiProject* const guiProject = Gui::GuiApplication::Instance->get_project(&project);
     const QPointer<MDIWindow> document = addDocument("A", guiProject);
     MDIWindow* const other = addDocument("B");
-    Obj::Application::instance().close_project(project);
+    Obj::Application::instance().closeProject(project);
     EXPECT_EQ(document, nullptr);
-    EXPECT_EQ(window->get_mdi_windows(), QList<MDIWindow*>({other}));
+    EXPECT_EQ(window->getMdiWindows(), QList<MDIWindow*>({other}));
 }
 
 TEST_F(MainWindowTest, DestroysItsDocumentsWhileItCanStillBeAskedFor)
@@ -161,18 +161,18 @@ TEST_F(MainWindowTest, DestroysItsDocumentsWhileItCanStillBeAskedFor)
 
 TEST_F(MainWindowTest, ReportsAWorkbenchThatThereIsNot)
 {
-    const Gui::StdSimModule* const before = window->get_workbench();
-    EXPECT_FALSE(window->set_workbench("No::Such"));
+    const Gui::StdSimModule* const before = window->getWorkbench();
+    EXPECT_FALSE(window->setWorkbench("No::Such"));
     EXPECT_THAT(lastMessage(), HasSubstr("There is no workbench \"No::Such\"."));
-    EXPECT_FALSE(window->set_workbench("Test::Object"));
-    EXPECT_EQ(window->get_workbench(), before);
+    EXPECT_FALSE(window->setWorkbench("Test::Object"));
+    EXPECT_EQ(window->getWorkbench(), before);
 }
 
 TEST_F(MainWindowTest, BuildsItsBarsAnewWithoutKeepingOldOnes)
 {
     const int bars = window->findChildren<QToolBar*>().size();
     const int menus = window->menuBar()->actions().size();
-    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_TRUE(window->setWorkbench("Gui::StdSimModule"));
     EXPECT_EQ(window->findChildren<QToolBar*>().size(), bars);
     EXPECT_EQ(window->menuBar()->actions().size(), menus);
     EXPECT_EQ(window->menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly).size(), menus);
@@ -186,12 +186,12 @@ TEST_F(MainWindowTest, KeepsItsLayoutForTheNextStart)
     dockOf("PropertyPanel")->hide();
     barOf("Edit")->hide();
     window->addDockWidget(Qt::RightDockWidgetArea, dockOf("MessageLog"));
-    window->save_layout();
+    window->saveLayout();
 
     window.reset();
     window = std::make_unique<Gui::MainWindow>(contributions);
-    window->set_workbench("Gui::StdSimModule");
-    window->restore_layout();
+    window->setWorkbench("Gui::StdSimModule");
+    window->restoreLayout();
     window->show();
     EXPECT_EQ(window->size(), QSize(900, 600));
     EXPECT_FALSE(dockOf("PropertyPanel")->isVisible());
@@ -205,22 +205,22 @@ TEST_F(MainWindowTest, StartsAsItIsWithoutALayoutOfBefore)
 {
     QSettings().clear();
     const QSize size = window->size();
-    window->restore_layout();
+    window->restoreLayout();
     EXPECT_EQ(window->size(), size);
     EXPECT_TRUE(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->isVisible());
 }
 
 TEST_F(MainWindowTest, TellsWorkbenchesWhenTheyBecomeActiveAndNoLongerAre)
 {
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_EQ(vxtest::TestWorkbench::activations, 1);
     EXPECT_EQ(vxtest::TestWorkbench::deactivations, 0);
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_EQ(vxtest::TestWorkbench::activations, 2);
     EXPECT_EQ(vxtest::TestWorkbench::deactivations, 1);
-    EXPECT_FALSE(window->set_workbench("No::Such"));
+    EXPECT_FALSE(window->setWorkbench("No::Such"));
     EXPECT_EQ(vxtest::TestWorkbench::deactivations, 1);
-    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_TRUE(window->setWorkbench("Gui::StdSimModule"));
     EXPECT_EQ(vxtest::TestWorkbench::activations, 2);
     EXPECT_EQ(vxtest::TestWorkbench::deactivations, 2);
 }
@@ -231,7 +231,7 @@ TEST_F(MainWindowTest, ShowsTheDocksThatTheWorkbenchWants)
     auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
     messages->hide();
     properties->hide();
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_TRUE(messages->isVisible());
     EXPECT_FALSE(properties->isVisible());
 }
@@ -240,10 +240,10 @@ TEST_F(MainWindowTest, OffersWhatTheWorkbenchAddsInTheMenuOfItsBars)
 {
     const auto offers = [this](const char* command) {
         const std::unique_ptr<QMenu> menu(window->createPopupMenu());
-        return menu->actions().contains(commands().find_command(command)->action());
+        return menu->actions().contains(commands().findCommand(command)->action());
     };
     EXPECT_FALSE(offers("Std_About"));
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_TRUE(offers("Std_About"));
 }
 
@@ -251,13 +251,13 @@ TEST_F(MainWindowTest, ShowsTheMessagesInFrontWhateverTheUserDidWithThem)
 {
     auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
     messages->hide();
-    window->show_messages();
+    window->showMessages();
     EXPECT_TRUE(messages->isVisible());
     auto* const properties = window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"));
     window->tabifyDockWidget(messages, properties);
     properties->raise();
     ASSERT_TRUE(vxtest::waitFor([&] { return messages->visibleRegion().isEmpty(); }));
-    window->show_messages();
+    window->showMessages();
     EXPECT_TRUE(vxtest::waitFor([&] { return !messages->visibleRegion().isEmpty(); }));
 }
 
@@ -266,10 +266,10 @@ TEST_F(MainWindowTest, SelectsAProjectThatTheUserMakes)
     vxtest::TestProject& other = makeProject("Other");
     vxtest::TestProject& project = makeProject();
     addObject(project);
-    Obj::Application::instance().set_current_project(other);
+    Obj::Application::instance().setCurrentProject(other);
     vxMsg::MessageProxy::instance().projectCreated(project);
     EXPECT_THAT(selection().get_projects(), testing::ElementsAre(&project));
-    EXPECT_EQ(selection().get_count(), 1U);
+    EXPECT_EQ(selection().getCount(), 1U);
     EXPECT_EQ(Obj::Application::get_current_project(), &project);
 }
 

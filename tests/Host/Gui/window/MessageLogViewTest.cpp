@@ -11,7 +11,7 @@ class LogView : public vxtest::Host
 protected:
     LogView() { view().clearMessages(); }
 
-    Gui::MessageLogView& view() const { return window->get_message_log(); }
+    Gui::MessageLogView& view() const { return window->getMessageLog(); }
 };
 
 TEST_F(LogView, ShowsMessagesAsTheyCome)

@@ -36,7 +36,7 @@ using WithoutModule = Page;
 
 TEST_F(WithoutModule, TheWelcomePageSaysWhatIsMissing)
 {
-    window->update_commands();
+    window->updateCommands();
     EXPECT_EQ(title(), "No module is loaded");
     EXPECT_EQ(text(), "The messages say which modules could not be loaded, and why.");
     EXPECT_EQ(visibleButtons(), QStringList());
@@ -53,7 +53,7 @@ protected:
         addCommand("Test_Edit", [] {
             Gui::MainWindow::get_main_window_inst()->add_mdi_window(new Gui::MDIWindow(nullptr, nullptr));
         });
-        const auto hasSelection = [] { return selection().get_count() != 0; };
+        const auto hasSelection = [] { return selection().getCount() != 0; };
         contributions.addWelcomeEntry({WelcomeStep::NoProject,
                                        "",
                                        {"Test", "No probes yet"},
@@ -70,12 +70,12 @@ protected:
                                        {"Test", "Select one & open it."},
                                        {"Test_Edit"},
                                        hasSelection});
-        window->set_workbench("Gui::StdSimModule");
+        window->setWorkbench("Gui::StdSimModule");
     }
 
     static void addCommand(const char* name, std::function<void()> action)
     {
-        if (commands().find_command(name) == nullptr)
+        if (commands().findCommand(name) == nullptr)
             commands().new_command(new vxtest::TestCommand(name, std::move(action)));
     }
 };
@@ -94,7 +94,7 @@ TEST_F(Welcome, LeadsFromNothingToAnOpenDocument)
     EXPECT_EQ(text(), "Select one & open it.");
 
     EXPECT_FALSE(button("Test_Edit")->isEnabled());
-    selection().set_selection({}, Obj::Application::get_current_project()->get_objects());
+    selection().setSelection({}, Obj::Application::get_current_project()->getObjects());
     ASSERT_TRUE(QTest::qWaitFor([this] { return button("Test_Edit")->isEnabled(); }));
     click("Test_Edit");
     EXPECT_FALSE(page()->isVisible());
@@ -128,18 +128,18 @@ TEST_F(Welcome, OffersTheEditingOfWhatIsSelectedAlone)
     addObject(project);
     ASSERT_TRUE(waitForButtons({"Test_Edit"}));
     EXPECT_FALSE(button("Test_Edit")->isEnabled());
-    select({project.get_objects()[0]});
+    select({project.getObjects()[0]});
     EXPECT_TRUE(QTest::qWaitFor([this] { return button("Test_Edit")->isEnabled(); }));
 }
 
 TEST_F(Welcome, SaysWhatTheHostCanSayOfProjectsOfOtherClasses)
 {
-    Obj::Project* const project = Obj::Application::instance().create_project("Test::OtherProject", "Other");
+    Obj::Project* const project = Obj::Application::instance().createProject("Test::OtherProject", "Other");
     ASSERT_NE(project, nullptr);
     EXPECT_TRUE(QTest::qWaitFor([this] { return title() == "The project is empty"; }));
     EXPECT_EQ(visibleButtons(), QStringList());
     addObject(*project);
-    window->update_commands();
+    window->updateCommands();
     EXPECT_EQ(title(), "No document is open");
     EXPECT_EQ(text(), "Double-click an object in the project explorer.");
 }
@@ -150,7 +150,7 @@ TEST_F(Welcome, OffersToOpenAProjectWhereThereIsSuchACommand)
     ASSERT_TRUE(waitForButtons({"Test_New"}));
     int opened = 0;
     commands().new_command(new vxtest::TestCommand("Std_Open", [&opened] { ++opened; }));
-    window->update_commands();
+    window->updateCommands();
     EXPECT_EQ(visibleButtons(), QStringList({"Test_New", "Std_Open"}));
     EXPECT_EQ(page()->focusProxy(), button("Test_New"));
     click("Std_Open");

@@ -25,7 +25,7 @@ class Contributed : public vxtest::Host
 protected:
     static void addCommand(const char* name)
     {
-        if (commands().find_command(name) == nullptr)
+        if (commands().findCommand(name) == nullptr)
             commands().new_command(new vxtest::TestCommand(name, {}));
     }
 
@@ -102,9 +102,9 @@ TEST_F(Contributed, CommandsOfAWorkbenchAreShownWithItAlone)
 {
     addCommand("D_Only");
     contributions.addToMenu("&Ducts", "All", "D_Only", "Test::Workbench");
-    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_TRUE(window->setWorkbench("Gui::StdSimModule"));
     EXPECT_EQ(menu("&Ducts"), nullptr);
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_NE(menu("&Ducts"), nullptr);
 }
 
@@ -144,7 +144,7 @@ TEST_F(Contributed, DocksAppearAndAreShownAndHiddenFromView)
     EXPECT_EQ(dock("Gauges")->windowTitle(), "All gauges");
     EXPECT_EQ(window->dockWidgetArea(dock("Gauges")), Qt::RightDockWidgetArea);
     EXPECT_EQ(qobject_cast<QLabel*>(dock("Gauges")->widget())->text(), "inside");
-    QAction* const toggle = commands().find_command("Dock_Gauges")->action();
+    QAction* const toggle = commands().findCommand("Dock_Gauges")->action();
     EXPECT_EQ(toggle->text(), "All gauges");
     EXPECT_TRUE(menu("&View")->actions().contains(toggle));
     toggle->trigger();
@@ -158,7 +158,7 @@ TEST_F(Contributed, DocksThatAreHiddenAtFirstAreShownWhenAWorkbenchWantsThem)
     contributions.addDock(dockEntry("NoSuchDock", "Wanted by the test workbench", Gui::DockVisibility::HiddenAtFirst));
     ASSERT_TRUE(QTest::qWaitFor([this] { return dock("NoSuchDock") != nullptr; }));
     EXPECT_FALSE(dock("NoSuchDock")->isVisible());
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_TRUE(dock("NoSuchDock")->isVisible());
 }
 
@@ -167,11 +167,11 @@ TEST_F(Contributed, DocksKeepTheirPlaceInTheLayout)
     contributions.addDock(dockEntry("Hinges", "Hinges", Gui::DockVisibility::ShownAtFirst));
     ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Hinges") != nullptr; }));
     window->addDockWidget(Qt::BottomDockWidgetArea, dock("Hinges"));
-    window->save_layout();
+    window->saveLayout();
     window.reset();
     window = std::make_unique<Gui::MainWindow>(contributions);
-    window->set_workbench("Gui::StdSimModule");
-    window->restore_layout();
+    window->setWorkbench("Gui::StdSimModule");
+    window->restoreLayout();
     window->show();
     EXPECT_EQ(window->dockWidgetArea(dock("Hinges")), Qt::BottomDockWidgetArea);
     EXPECT_TRUE(dock("Hinges")->isVisible());
@@ -182,9 +182,9 @@ TEST_F(Contributed, DocksThatComeAfterTheLayoutGetTheirPlaceToo)
     auto* const before = new QDockWidget(window.get());
     before->setObjectName(QStringLiteral("Irons"));
     window->addDockWidget(Qt::BottomDockWidgetArea, before);
-    window->save_layout();
+    window->saveLayout();
     delete before;
-    window->restore_layout();
+    window->restoreLayout();
     contributions.addDock(dockEntry("Irons", "Irons", Gui::DockVisibility::ShownAtFirst));
     ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Irons") != nullptr; }));
     EXPECT_EQ(window->dockWidgetArea(dock("Irons")), Qt::BottomDockWidgetArea);
@@ -200,7 +200,7 @@ TEST_F(Contributed, DocksWhoseContentCannotBeMadeAreReportedOnce)
     EXPECT_THAT(lastMessage(), HasSubstr("The docking window \"Joints\" cannot be made: no joints"));
     EXPECT_EQ(dock("Joints"), nullptr);
     EXPECT_FALSE(isApplicable("Dock_Joints"));
-    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
+    EXPECT_TRUE(window->setWorkbench("Gui::StdSimModule"));
     EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), errors + 1);
 }
 
@@ -235,10 +235,10 @@ protected:
         contributions.addWorkbench({"Test::Workbench", {"Test", "Testing"}, "Test::Project"});
         // The test workbench has no such menu.
         contributions.addToMenu("&View", "Docks", "Std_MessageLog", "Test::Workbench");
-        window->set_workbench("Gui::StdSimModule");
+        window->setWorkbench("Gui::StdSimModule");
     }
 
-    std::string active() const { return window->get_workbench()->getTypeId().get_name(); }
+    std::string active() const { return window->getWorkbench()->getTypeId().get_name(); }
     bool waitFor(const std::string& workbench) const
     {
         return QTest::qWaitFor([&] { return active() == workbench; });
@@ -294,7 +294,7 @@ TEST_F(Workbenches, StayWhenTheCurrentProjectHasNone)
 {
     makeProject();
     ASSERT_TRUE(waitFor("Test::Workbench"));
-    Obj::Application::instance().create_project("Test::OtherProject", "Plain");
+    Obj::Application::instance().createProject("Test::OtherProject", "Plain");
     QCoreApplication::processEvents();
     EXPECT_EQ(active(), "Test::Workbench");
 }
@@ -302,10 +302,10 @@ TEST_F(Workbenches, StayWhenTheCurrentProjectHasNone)
 TEST_F(Workbenches, AreNotReplacedWhileTheirOwnCommandRuns)
 {
     // The command is in a menu of the workbench that its project replaces.
-    if (commands().find_command("L_New") == nullptr)
+    if (commands().findCommand("L_New") == nullptr)
         commands().new_command(new vxtest::TestCommand("L_New", [] { makeProject(); }));
     contributions.addToMenu("&File", "New", "L_New", "Gui::StdSimModule");
-    window->set_workbench("Gui::StdSimModule");
+    window->setWorkbench("Gui::StdSimModule");
     menu("&File")->actions().first()->trigger();
     EXPECT_EQ(active(), "Gui::StdSimModule");
     EXPECT_TRUE(waitFor("Test::Workbench"));
@@ -322,11 +322,11 @@ TEST_F(Workbenches, BeginWithTheProjectsOwnOrTheFirst)
 
 TEST_F(Workbenches, LeaveADockHiddenThatTheUserHasHidden)
 {
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_TRUE(dock("MessageLog")->isVisible());
     dock("MessageLog")->hide();
-    EXPECT_TRUE(window->set_workbench("Gui::StdSimModule"));
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Gui::StdSimModule"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_FALSE(dock("MessageLog")->isVisible());
 }
 

@@ -11,7 +11,7 @@ namespace {
 class Bars : public vxtest::Host
 {
 protected:
-    Bars() { EXPECT_TRUE(window->set_workbench("Test::Workbench")); }
+    Bars() { EXPECT_TRUE(window->setWorkbench("Test::Workbench")); }
 
     static QStringList textsOf(const QWidget& bar)
     {
@@ -34,9 +34,9 @@ TEST_F(Bars, HaveMenusInMenus)
 TEST_F(Bars, RunTheCommandsOfMenusInMenus)
 {
     addObject(makeProject());
-    window->update_commands();
+    window->updateCommands();
     menu()->actions().last()->menu()->actions().first()->trigger();
-    EXPECT_EQ(Obj::Application::get_current_project()->get_object_count(), 0U);
+    EXPECT_EQ(Obj::Application::get_current_project()->getObjectCount(), 0U);
 }
 
 TEST_F(Bars, HaveMenusBehindButtons)
@@ -50,15 +50,15 @@ TEST_F(Bars, HaveMenusBehindButtons)
 TEST_F(Bars, ShareTheActionOfACommand)
 {
     const auto* const bar = window->findChild<QToolBar*>(QStringLiteral("Test"));
-    EXPECT_EQ(menu()->actions().first(), commands().find_command("Std_Copy")->action());
-    EXPECT_EQ(bar->actions().first(), commands().find_command("Std_Copy")->action());
+    EXPECT_EQ(menu()->actions().first(), commands().findCommand("Std_Copy")->action());
+    EXPECT_EQ(bar->actions().first(), commands().findCommand("Std_Copy")->action());
 }
 
 TEST_F(Bars, EnableAtOnceWhatAppliesAlone)
 {
     EXPECT_FALSE(menu()->actions().first()->isEnabled());
     select({&addObject(makeProject())});
-    EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+    EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_TRUE(menu()->actions().first()->isEnabled());
 }
 
@@ -67,7 +67,7 @@ TEST_F(Bars, LeaveNothingBehindWhenTheyAreBuiltAnew)
     const auto count = [this] { return window->findChildren<QMenu*>().size(); };
     const int menus = count();
     for (int i = 0; i < 3; ++i)
-        EXPECT_TRUE(window->set_workbench("Test::Workbench"));
+        EXPECT_TRUE(window->setWorkbench("Test::Workbench"));
     EXPECT_EQ(count(), menus);
     EXPECT_EQ(textsOf(*window->menuBar()), QStringList({"&Test"}));
 }

@@ -30,7 +30,7 @@ TEST_F(StdSimModuleTest, NamesCommandsOfTheHostAlone)
     for (const auto& menu : menus->items())
         for (const auto& item : menu->items()) {
             if (!item->isSection() && ofTheProgram.count(item->command()) == 0) {
-                EXPECT_NE(commands().find_command(item->command()), nullptr) << item->command();
+                EXPECT_NE(commands().findCommand(item->command()), nullptr) << item->command();
                 EXPECT_EQ(item->command().rfind("Std_", 0), 0U) << item->command();
             }
         }
@@ -66,7 +66,7 @@ TEST_F(StdSimModuleTest, HidesMenusWithoutCommands)
 TEST_F(StdSimModuleTest, OffersToClearTheMessagesInItsMenus)
 {
     Kelta::MessageLog::information(QStringLiteral("hello"));
-    QAction* const clear = commands().find_command("Std_ClearMessages")->action();
+    QAction* const clear = commands().findCommand("Std_ClearMessages")->action();
     bool isInMenus = false;
     for (const QAction* const action : window->menuBar()->actions())
         isInMenus = isInMenus || action->menu()->actions().contains(clear);

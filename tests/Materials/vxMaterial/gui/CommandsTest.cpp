@@ -119,7 +119,7 @@ protected:
 
     static Obj::Project& makeAnalysis(const char* name = "Analysis")
     {
-        return *Obj::Application::instance().create_project("Fem::FemProject", name);
+        return *Obj::Application::instance().createProject("Fem::FemProject", name);
     }
 
     /// The message log says, once, that the analysis project takes no materials.
@@ -172,7 +172,7 @@ protected:
 TEST_F(Commands, AreRegisteredInTheirOrder)
 {
     std::vector<std::string> names;
-    for (const Gui::Command* const command : commands().get_commands())
+    for (const Gui::Command* const command : commands().getCommands())
         if (command->getName().rfind("Mat_", 0) == 0)
             names.push_back(command->getName());
     EXPECT_THAT(names, ElementsAre("Mat_NewDoc", "Mat_DelDoc", "Mat_AddMaterial", "Mat_Delete", "Mat_Edit",
@@ -183,9 +183,9 @@ TEST_F(Commands, HaveTheFieldsOfTheTable)
 {
     for (const Row& row : expectedRows()) {
         SCOPED_TRACE(row.name);
-        const Gui::Command* const command = commands().find_command(row.name);
+        const Gui::Command* const command = commands().findCommand(row.name);
         ASSERT_NE(command, nullptr);
-        EXPECT_STREQ(command->get_class_name(), row.className);
+        EXPECT_STREQ(command->getClassName(), row.className);
         EXPECT_EQ(command->get_menu_info(), row.menuText);
         EXPECT_EQ(command->get_tooltip_info(), row.tip);
         EXPECT_EQ(command->get_statustip(), row.tip);
@@ -201,7 +201,7 @@ TEST_F(Commands, ShowTheirFieldsInTheirActions)
 {
     for (const Row& row : expectedRows()) {
         SCOPED_TRACE(row.name);
-        const QAction* const action = commands().find_command(row.name)->action();
+        const QAction* const action = commands().findCommand(row.name)->action();
         ASSERT_NE(action, nullptr);
         EXPECT_EQ(action->objectName(), row.name);
         EXPECT_EQ(action->text(), row.menuText);
@@ -221,7 +221,7 @@ TEST(CommandClasses, HaveTheVirtualOperationsInTheOrderOfTheHost)
     using Gui::CommandBase;
     const std::vector<std::size_t> places = {
         slotOf(&CommandBase::new_action),       slotOf(&CommandBase::on_language_changed),
-        slotOf(&CommandBase::get_class_name),   slotOf(&CommandBase::get_menu_info),
+        slotOf(&CommandBase::getClassName),     slotOf(&CommandBase::get_menu_info),
         slotOf(&CommandBase::get_tooltip_info), slotOf(&CommandBase::get_statustip),
         slotOf(&CommandBase::get_pixmap),       slotOf(&CommandBase::get_shortcut),
         slotOf(&CommandBase::activated),        slotOf(&CommandBase::is_applicable),
@@ -230,7 +230,7 @@ TEST(CommandClasses, HaveTheVirtualOperationsInTheOrderOfTheHost)
     EXPECT_THAT(places, ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 11));
     EXPECT_EQ(slotOf(&MatGui::MatCmdDelete::activated), slotOf(&CommandBase::activated));
     EXPECT_EQ(slotOf(&MatGui::MatCmdDelete::is_applicable), slotOf(&CommandBase::is_applicable));
-    EXPECT_EQ(slotOf(&MatGui::CmdMatExport::get_class_name), slotOf(&CommandBase::get_class_name));
+    EXPECT_EQ(slotOf(&MatGui::CmdMatExport::getClassName), slotOf(&CommandBase::getClassName));
 }
 
 TEST_F(Commands, AreApplicableWithACurrentProjectOfWhateverKind)
@@ -288,7 +288,7 @@ TEST_F(Commands, NewDocIgnoresProjectsOfOtherKinds)
 TEST_F(Commands, DelDocClosesTheSelectedMaterialProjectUndoably)
 {
     Mat::DocumentMaterial& project = makeProject();
-    selection().set_selection({&project}, {});
+    selection().setSelection({&project}, {});
     EXPECT_TRUE(run("Mat_DelDoc"));
     EXPECT_THAT(Obj::Application::get_projects(), IsEmpty());
     undoStack().undo();
@@ -299,7 +299,7 @@ TEST_F(Commands, DelDocDoesNothingWithTwoMaterialProjectsSelected)
 {
     Mat::DocumentMaterial& first = makeProject("First");
     Mat::DocumentMaterial& second = makeProject("Second");
-    selection().set_selection({&first, &second}, {});
+    selection().setSelection({&first, &second}, {});
     const MessageBoxes boxes;
     EXPECT_TRUE(run("Mat_DelDoc"));
     EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&first, &second));
@@ -311,7 +311,7 @@ TEST_F(Commands, DelDocDoesNothingWithoutASelectedMaterialProject)
     makeProject();
     Obj::Project& analysis = makeAnalysis();
     EXPECT_TRUE(run("Mat_DelDoc"));
-    selection().set_selection({&analysis}, {});
+    selection().setSelection({&analysis}, {});
     EXPECT_TRUE(run("Mat_DelDoc"));
     EXPECT_THAT(Obj::Application::get_projects(), SizeIs(2));
 }
@@ -320,7 +320,7 @@ TEST_F(Commands, DelDocClosesTheMaterialProjectAmongOtherSelectedOnes)
 {
     Mat::DocumentMaterial& project = makeProject();
     Obj::Project& analysis = makeAnalysis();
-    selection().set_selection({&project, &analysis}, {});
+    selection().setSelection({&project, &analysis}, {});
     EXPECT_TRUE(run("Mat_DelDoc"));
     EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&analysis));
 }
@@ -329,8 +329,8 @@ TEST_F(Commands, DelDocFindsTheSelectedMaterialProjectWhateverTheCurrentOneIs)
 {
     Mat::DocumentMaterial& project = makeProject();
     Obj::Project& analysis = makeAnalysis();
-    selection().set_selection({&project}, {});
-    Obj::Application::instance().set_current_project(analysis);
+    selection().setSelection({&project}, {});
+    Obj::Application::instance().setCurrentProject(analysis);
     EXPECT_TRUE(run("Mat_DelDoc"));
     EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&analysis));
 }
@@ -343,11 +343,11 @@ TEST_F(Commands, DelDocDropsUnappliedRowsWithoutAQuestionAndUndoBringsTheMateria
     const auto before = numbersOf(first);
     editUnapplied(first);
     editUnapplied(second);
-    selection().set_selection({&project}, {});
+    selection().setSelection({&project}, {});
     const MessageBoxes boxes;
     EXPECT_TRUE(run("Mat_DelDoc"));
     QCoreApplication::processEvents();
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
     EXPECT_THAT(boxes.shown(), IsEmpty());
     undoStack().undo();
     EXPECT_EQ(numbersOf(first), before);
@@ -361,13 +361,13 @@ TEST_F(Commands, DelDocTakesTheOpenEditorsOfTheProjectWithIt)
     Mat::DocumentMaterial& project = makeProject();
     for (int i = 0; i < 3; ++i)
         nodeOf(addMaterial(project)).on_double_clicked();
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(3));
-    selection().set_selection({&project}, {});
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(3));
+    selection().setSelection({&project}, {});
     EXPECT_TRUE(run("Mat_DelDoc"));
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
     undoStack().undo();
-    EXPECT_TRUE(nodeOf(*project.get_objects()[1]).on_double_clicked());
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(1));
+    EXPECT_TRUE(nodeOf(*project.getObjects()[1]).on_double_clicked());
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(1));
 }
 
 // --- Add ---
@@ -376,13 +376,13 @@ TEST_F(Commands, AddMaterialAddsOneUndoably)
 {
     Mat::DocumentMaterial& project = makeProject();
     EXPECT_TRUE(run("Mat_AddMaterial"));
-    ASSERT_THAT(project.get_objects(), SizeIs(1));
-    EXPECT_EQ(project.get_objects()[0]->label.getValue(), "Material");
-    EXPECT_STREQ(project.get_objects()[0]->getTypeId().get_name(), "Mat::MaterialObject");
+    ASSERT_THAT(project.getObjects(), SizeIs(1));
+    EXPECT_EQ(project.getObjects()[0]->label.getValue(), "Material");
+    EXPECT_STREQ(project.getObjects()[0]->getTypeId().get_name(), "Mat::MaterialObject");
     undoStack().undo();
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
     undoStack().redo();
-    EXPECT_THAT(project.get_objects(), SizeIs(1));
+    EXPECT_THAT(project.getObjects(), SizeIs(1));
 }
 
 TEST_F(Commands, AddMaterialSaysThatThereIsNoMaterialProject)
@@ -404,8 +404,8 @@ TEST_F(Commands, AddMaterialAddsToTheMaterialProjectWhateverTheCurrentOneIs)
     Obj::Project& analysis = makeAnalysis();
     ASSERT_EQ(Obj::Application::get_current_project(), &analysis);
     EXPECT_TRUE(run("Mat_AddMaterial"));
-    EXPECT_THAT(project.get_objects(), SizeIs(1));
-    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), SizeIs(1));
+    EXPECT_THAT(analysis.getObjects(), IsEmpty());
 }
 
 TEST_F(Commands, AddMaterialMakesTheNameUniqueInTheMaterialProject)
@@ -414,8 +414,8 @@ TEST_F(Commands, AddMaterialMakesTheNameUniqueInTheMaterialProject)
     Mat::MaterialObject& taken = addMaterial(project, "Material");
     makeAnalysis();
     EXPECT_TRUE(run("Mat_AddMaterial"));
-    ASSERT_THAT(project.get_objects(), SizeIs(2));
-    const Obj::ProjectObject& added = *project.get_objects()[1];
+    ASSERT_THAT(project.getObjects(), SizeIs(2));
+    const Obj::ProjectObject& added = *project.getObjects()[1];
     EXPECT_STREQ(taken.get_name_in_project(), "Material");
     EXPECT_STRNE(added.get_name_in_project(), "Material");
     EXPECT_EQ(project.get_object(added.get_name_in_project()), &added);
@@ -428,8 +428,8 @@ TEST_F(Commands, AddMaterialAddsToTheFirstOfTwoMaterialProjects)
     Mat::DocumentMaterial& second = makeProject("Second");
     EXPECT_TRUE(run("Mat_AddMaterial"));
     EXPECT_TRUE(run("Mat_AddMaterial"));
-    EXPECT_THAT(first.get_objects(), SizeIs(2));
-    EXPECT_THAT(second.get_objects(), IsEmpty());
+    EXPECT_THAT(first.getObjects(), SizeIs(2));
+    EXPECT_THAT(second.getObjects(), IsEmpty());
 }
 
 TEST_F(Commands, AddMaterialDoesNothingWithoutACurrentProject)
@@ -449,16 +449,16 @@ TEST_F(Commands, EditOpensTheEditorsOfAllSelectedMaterials)
         objects.push_back(&addMaterial(project));
     select(objects);
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(10));
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(10));
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(10));
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(10));
 }
 
 TEST_F(Commands, EditFindsTheMaterialProjectWhateverTheCurrentOneIs)
 {
     Mat::MaterialObject& material = addMaterial(makeProject());
     select({&material});
-    Obj::Application::instance().set_current_project(makeAnalysis());
+    Obj::Application::instance().setCurrentProject(makeAnalysis());
     EXPECT_TRUE(run("Mat_Edit"));
     ASSERT_NE(activeEditor(), nullptr);
     EXPECT_EQ(activeEditor()->getMaterialObject(), &material);
@@ -468,7 +468,7 @@ TEST_F(Commands, EditOpensNothingWithoutASelection)
 {
     addMaterial(makeProject());
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
 }
 
 TEST_F(Commands, EditDoesNothingWithoutAMaterialProject)
@@ -476,7 +476,7 @@ TEST_F(Commands, EditDoesNothingWithoutAMaterialProject)
     Obj::Project& analysis = makeAnalysis();
     select({analysis.add_object("Fem::FemLoad", "Load")});
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
 }
 
 TEST_F(Commands, EditPassesOverObjectsThatAreNoMaterials)
@@ -484,7 +484,7 @@ TEST_F(Commands, EditPassesOverObjectsThatAreNoMaterials)
     Mat::DocumentMaterial& project = makeProject();
     select({&addMaterial(project), project.add_object("Fem::FemLoad", "Load")});
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(1));
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(1));
 }
 
 TEST_F(Commands, EditLooksAtTheFirstMaterialProjectAlone)
@@ -493,7 +493,7 @@ TEST_F(Commands, EditLooksAtTheFirstMaterialProjectAlone)
     Mat::DocumentMaterial& second = makeProject("Second");
     select({&addMaterial(second)});
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
 }
 
 // --- Delete ---
@@ -508,11 +508,11 @@ TEST_F(Commands, DeleteTakesAllSelectedObjectsInOneStep)
     select({&first, &last});
     const MessageBoxes boxes;
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(project.get_objects(), ElementsAre(&kept));
+    EXPECT_THAT(project.getObjects(), ElementsAre(&kept));
     EXPECT_THAT(boxes.shown(), IsEmpty());
     EXPECT_EQ(undoStack().count(), 1);
     undoStack().undo();
-    EXPECT_THAT(project.get_objects(), ElementsAre(&first, &kept, &last));
+    EXPECT_THAT(project.getObjects(), ElementsAre(&first, &kept, &last));
 }
 
 TEST_F(Commands, DeleteLeavesObjectsOfTheFiveProtectedClassesInPlace)
@@ -523,7 +523,7 @@ TEST_F(Commands, DeleteLeavesObjectsOfTheFiveProtectedClassesInPlace)
         objects.push_back(analysis.add_object(name, "Frame"));
     select(objects);
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_EQ(analysis.get_objects(), objects);
+    EXPECT_EQ(analysis.getObjects(), objects);
 }
 
 TEST_F(Commands, DeleteLeavesAStudyOfAnotherProjectInPlace)
@@ -533,8 +533,8 @@ TEST_F(Commands, DeleteLeavesAStudyOfAnotherProjectInPlace)
     Obj::ProjectObject* const frame = analysis.add_object("Fem::FemStudy", "Study");
     select({&addMaterial(project), frame, analysis.add_object("Fem::FemLoad", "Load")});
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(project.get_objects(), IsEmpty());
-    EXPECT_THAT(analysis.get_objects(), ElementsAre(frame));
+    EXPECT_THAT(project.getObjects(), IsEmpty());
+    EXPECT_THAT(analysis.getObjects(), ElementsAre(frame));
 }
 
 TEST_F(Commands, DeleteAsksNothingAboutLinksToTheProtectedClasses)
@@ -542,24 +542,24 @@ TEST_F(Commands, DeleteAsksNothingAboutLinksToTheProtectedClasses)
     Mat::DocumentMaterial& project = makeProject();
     Mat::MaterialObject& material = addMaterial(project);
     for (const char* const name : vxtest::protectedNames)
-        project.add_object(name, "Frame")->link_to(material);
+        project.add_object(name, "Frame")->linkTo(material);
     select({&material});
     const MessageBoxes boxes(QMessageBox::Yes);
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), IsEmpty());
-    EXPECT_THAT(project.get_objects(), SizeIs(5));
+    EXPECT_THAT(project.getObjects(), SizeIs(5));
 }
 
 TEST_F(Commands, DeleteAsksNothingAboutLinksToGroups)
 {
     Mat::DocumentMaterial& project = makeProject();
     Mat::MaterialObject& material = addMaterial(project);
-    project.add_object("Fem::FemLoadGroup", "Group")->link_to(material);
+    project.add_object("Fem::FemLoadGroup", "Group")->linkTo(material);
     select({&material});
     const MessageBoxes boxes(QMessageBox::Yes);
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), IsEmpty());
-    EXPECT_THAT(project.get_objects(), SizeIs(1));
+    EXPECT_THAT(project.getObjects(), SizeIs(1));
 }
 
 TEST_F(Commands, DeleteAsksNothingAboutLinksAmongTheSelected)
@@ -567,12 +567,12 @@ TEST_F(Commands, DeleteAsksNothingAboutLinksAmongTheSelected)
     Mat::DocumentMaterial& project = makeProject();
     Mat::MaterialObject& material = addMaterial(project);
     Obj::ProjectObject* const load = project.add_object("Fem::FemLoad", "Load");
-    load->link_to(material);
+    load->linkTo(material);
     select({&material, load});
     const MessageBoxes boxes(QMessageBox::Yes);
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), IsEmpty());
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
 }
 
 TEST_F(Commands, DeleteAsksForTheLinksOfASelectedProtectedObjectToo)
@@ -581,12 +581,12 @@ TEST_F(Commands, DeleteAsksForTheLinksOfASelectedProtectedObjectToo)
     Obj::ProjectObject* const study = analysis.add_object("Fem::FemStudy", "Study");
     Obj::ProjectObject* const load = analysis.add_object("Fem::FemLoad", "Load");
     Obj::ProjectObject* const other = analysis.add_object("Fem::FemLoad", "Other");
-    load->link_to(*study);
+    load->linkTo(*study);
     select({study, other});
     const MessageBoxes boxes(QMessageBox::Yes);
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), SizeIs(1));
-    EXPECT_THAT(analysis.get_objects(), ElementsAre(study, load));
+    EXPECT_THAT(analysis.getObjects(), ElementsAre(study, load));
 }
 
 /// A material on which a load depends, selected.
@@ -595,11 +595,11 @@ class DependencyQuestion : public Commands
 protected:
     DependencyQuestion() : project(makeProject()), material(addMaterial(project))
     {
-        project.add_object("Fem::FemLoad", "Load")->link_to(material);
+        project.add_object("Fem::FemLoad", "Load")->linkTo(material);
         select({&material});
     }
 
-    bool isDeleted() const { return project.get_objects().size() == 1; }
+    bool isDeleted() const { return project.getObjects().size() == 1; }
 
     /// Runs the command and calls `answer` with the box that is shown.
     void deleteAnswering(const std::function<void(QMessageBox&)>& answer) const
@@ -696,18 +696,18 @@ TEST_F(DependencyQuestion, SurvivesTheRemovalOfObjectsAndProjectsWhileItIsOpen)
 {
     ShortLivedProject::init();
     Obj::Application& application = Obj::Application::instance();
-    Obj::Project& shortLived = *application.create_project("Test::ShortLivedProject", "Later");
+    Obj::Project& shortLived = *application.createProject("Test::ShortLivedProject", "Later");
     Mat::DocumentMaterial& last = makeProject("Last");
     Mat::MaterialObject& removed = addMaterial(project, "Removed");
     select({&material, &removed, shortLived.add_object("Fem::FemLoad", "Load"), &addMaterial(last)});
     const auto removedId = removed.getObjectId();
     deleteAnswering([&](QMessageBox& box) {
-        project.remove_object(removedId);
-        application.close_project(shortLived);
+        project.removeObject(removedId);
+        application.closeProject(shortLived);
         QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
     });
     EXPECT_TRUE(isDeleted());
-    EXPECT_THAT(last.get_objects(), IsEmpty());
+    EXPECT_THAT(last.getObjects(), IsEmpty());
 }
 
 TEST_F(DependencyQuestion, SurvivesTheClosingOfItsOwnProjectWhileItIsOpen)
@@ -715,11 +715,11 @@ TEST_F(DependencyQuestion, SurvivesTheClosingOfItsOwnProjectWhileItIsOpen)
     Mat::DocumentMaterial& last = makeProject("Last");
     select({&material, &addMaterial(last)});
     deleteAnswering([this](QMessageBox& box) {
-        Obj::Application::instance().close_project(project);
+        Obj::Application::instance().closeProject(project);
         QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
     });
     EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&last));
-    EXPECT_THAT(last.get_objects(), IsEmpty());
+    EXPECT_THAT(last.getObjects(), IsEmpty());
     EXPECT_TRUE(window->updatesEnabled());
 }
 
@@ -729,14 +729,14 @@ TEST_F(DependencyQuestion, KeepsTheWholeSelectionOfTheProject)
     const MessageBoxes boxes(QMessageBox::No);
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), SizeIs(1));
-    EXPECT_THAT(project.get_objects(), SizeIs(3));
+    EXPECT_THAT(project.getObjects(), SizeIs(3));
 }
 
 TEST_F(DependencyQuestion, IsAskedForEachProjectByItself)
 {
     Mat::DocumentMaterial& other = makeProject("Other");
     Mat::MaterialObject& second = addMaterial(other);
-    other.add_object("Fem::FemLoad", "Load")->link_to(second);
+    other.add_object("Fem::FemLoad", "Load")->linkTo(second);
     select({&material, &second});
     int asked = 0;
     deleteAnswering([&asked](QMessageBox& box) {
@@ -747,7 +747,7 @@ TEST_F(DependencyQuestion, IsAskedForEachProjectByItself)
     });
     EXPECT_EQ(asked, 2);
     EXPECT_FALSE(isDeleted());
-    EXPECT_THAT(other.get_objects(), SizeIs(1));
+    EXPECT_THAT(other.getObjects(), SizeIs(1));
 }
 
 TEST_F(DependencyQuestion, StopsNoOtherProject)
@@ -758,13 +758,13 @@ TEST_F(DependencyQuestion, StopsNoOtherProject)
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), SizeIs(1));
     EXPECT_FALSE(isDeleted());
-    EXPECT_THAT(other.get_objects(), IsEmpty());
+    EXPECT_THAT(other.getObjects(), IsEmpty());
 }
 
 TEST_F(DependencyQuestion, IsAskedOnceForSeveralLinks)
 {
     for (int i = 0; i < 3; ++i)
-        project.add_object("Fem::FemLoad", "Load")->link_to(material);
+        project.add_object("Fem::FemLoad", "Load")->linkTo(material);
     const MessageBoxes boxes(QMessageBox::Yes);
     EXPECT_TRUE(run("Mat_Delete"));
     EXPECT_THAT(boxes.shown(), SizeIs(1));
@@ -786,7 +786,7 @@ TEST_F(Commands, DeleteDoesNothingWithoutASelection)
     Mat::DocumentMaterial& project = makeProject();
     addMaterial(project);
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(project.get_objects(), SizeIs(1));
+    EXPECT_THAT(project.getObjects(), SizeIs(1));
     EXPECT_EQ(undoStack().count(), 1);
 }
 
@@ -800,11 +800,11 @@ TEST_F(Commands, DeletePassesOverWhatHasLeftTheProjectMeanwhile)
     const auto secondId = second.getObjectId();
     boost::signals2::scoped_connection chain = project.objectRemoved.connect([&](Obj::ProjectObject& object) {
         if (&object == &first)
-            project.remove_object(secondId);
+            project.removeObject(secondId);
     });
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(project.get_objects(), IsEmpty());
-    EXPECT_EQ(selection().get_count(), 0U);
+    EXPECT_THAT(project.getObjects(), IsEmpty());
+    EXPECT_EQ(selection().getCount(), 0U);
 }
 
 /// A node that does not let its object be deleted.
@@ -849,7 +849,7 @@ TEST_F(Commands, DeleteLeavesWhatItsNodeDoesNotLetGo)
     Obj::ProjectObject* const kept = project.add_object("Test::StubbornObject", "Kept");
     select({kept, &addMaterial(project)});
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(project.get_objects(), ElementsAre(kept));
+    EXPECT_THAT(project.getObjects(), ElementsAre(kept));
 }
 
 TEST_F(Commands, DeleteOfAMaterialWithAnOpenEditorClosesItAndUndoBringsTheMaterialBackUnchanged)
@@ -862,9 +862,9 @@ TEST_F(Commands, DeleteOfAMaterialWithAnOpenEditorClosesItAndUndoBringsTheMateri
     QTest::mouseClick(activeEditor()->findChild<QPushButton*>(QStringLiteral("btnClear")), Qt::LeftButton);
     select({&material});
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
     undoStack().undo();
-    ASSERT_THAT(project.get_objects(), ElementsAre(&material));
+    ASSERT_THAT(project.getObjects(), ElementsAre(&material));
     EXPECT_EQ(material.getCMaterial()->properties.size(), properties);
     EXPECT_TRUE(showsTheMaterial(material));
 }
@@ -886,7 +886,7 @@ TEST_F(Commands, DeleteOfAMaterialWhoseCellIsBeingEditedClosesTheEditorAndDropsT
     const MessageBoxes boxes;
     EXPECT_TRUE(run("Mat_Delete"));
     QCoreApplication::processEvents();
-    EXPECT_THAT(window->get_mdi_windows(), IsEmpty());
+    EXPECT_THAT(window->getMdiWindows(), IsEmpty());
     EXPECT_THAT(boxes.shown(), IsEmpty());
     undoStack().undo();
     EXPECT_EQ(numbersOf(material), before);
@@ -912,15 +912,15 @@ TEST_F(Commands, UndoAndRedoByTheKeyboardActOnTheRowsOfAnEditorBeforeTheProject)
     };
     press(QKeySequence::Undo);
     EXPECT_FALSE(editor->isWindowModified());
-    EXPECT_THAT(project.get_objects(), ElementsAre(&material));
+    EXPECT_THAT(project.getObjects(), ElementsAre(&material));
     for (int redo = 0; redo < 2; ++redo) {
         press(QKeySequence::Redo);
         EXPECT_TRUE(editor->isWindowModified());
-        EXPECT_THAT(project.get_objects(), ElementsAre(&material));
+        EXPECT_THAT(project.getObjects(), ElementsAre(&material));
     }
     press(QKeySequence::Undo);
     press(QKeySequence::Undo);
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
     EXPECT_EQ(editor, nullptr);
 }
 
@@ -933,7 +933,7 @@ protected:
         for (const char* const name : {"First", "Second", "Third"})
             editUnapplied(addMaterial(project, name));
         addMaterial(project, "Unchanged");
-        nodeOf(*project.get_objects()[3]).on_double_clicked();
+        nodeOf(*project.getObjects()[3]).on_double_clicked();
     }
 
     Mat::DocumentMaterial& project;
@@ -943,13 +943,13 @@ TEST_F(ClosingEditors, AreAskedForOneByOneWhenAllAreToClose)
 {
     const MessageBoxes boxes(QMessageBox::Discard);
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().isEmpty(); }));
     ASSERT_THAT(boxes.shown(), SizeIs(3));
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(
             boxes.shown()[static_cast<std::size_t>(i)].text,
             QStringLiteral("The changes of \"%1\" have not been applied.")
-                .arg(QString::fromStdString(project.get_objects()[static_cast<std::size_t>(i)]->label.getValue())));
+                .arg(QString::fromStdString(project.getObjects()[static_cast<std::size_t>(i)]->label.getValue())));
 }
 
 TEST_F(ClosingEditors, HaveOneQuestionOpenAtATime)
@@ -957,7 +957,7 @@ TEST_F(ClosingEditors, HaveOneQuestionOpenAtATime)
     EXPECT_TRUE(run("Std_CloseAllWindows"));
     QCoreApplication::processEvents();
     EXPECT_THAT(window->findChildren<QMessageBox*>(), SizeIs(1));
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(3)) << "the one without changes is closed";
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(3)) << "the one without changes is closed";
 }
 
 TEST_F(ClosingEditors, StayOpenFromTheOneOnWhoseQuestionIsCancelled)
@@ -967,24 +967,24 @@ TEST_F(ClosingEditors, StayOpenFromTheOneOnWhoseQuestionIsCancelled)
     EXPECT_TRUE(vxtest::waitFor([&boxes] { return !boxes.shown().empty(); }));
     QCoreApplication::processEvents();
     EXPECT_THAT(boxes.shown(), SizeIs(1));
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(3));
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(3));
 }
 
 TEST_F(ClosingEditors, AskAgainAfterTheWindowThatWasAskedAboutIsClosed)
 {
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    project.remove_object(project.get_objects()[0]->getObjectId());
+    project.removeObject(project.getObjects()[0]->getObjectId());
     QCoreApplication::processEvents();
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(2));
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(2));
     const MessageBoxes boxes(QMessageBox::Discard);
     EXPECT_TRUE(run("Std_CloseAllWindows"));
-    EXPECT_TRUE(vxtest::waitFor([this] { return window->get_mdi_windows().isEmpty(); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().isEmpty(); }));
     EXPECT_THAT(boxes.shown(), SizeIs(2));
 }
 
 TEST_F(ClosingEditors, AreAskedForByTheCommandAndByTheButtonOfTheTab)
 {
-    nodeOf(*project.get_objects()[1]).on_double_clicked();
+    nodeOf(*project.getObjects()[1]).on_double_clicked();
     QCoreApplication::processEvents();
     const auto answers = [](const std::function<void()>& closing) {
         const MessageBoxes boxes(QMessageBox::Cancel);
@@ -997,7 +997,7 @@ TEST_F(ClosingEditors, AreAskedForByTheCommandAndByTheButtonOfTheTab)
     auto* const tabs = window->findChild<QMdiArea*>()->findChild<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
     ASSERT_NE(tabs, nullptr);
     EXPECT_EQ(answers([tabs] { Q_EMIT tabs->tabCloseRequested(1); }), 1U);
-    EXPECT_THAT(window->get_mdi_windows(), SizeIs(4));
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(4));
 }
 
 // --- Import and export ---
@@ -1005,42 +1005,42 @@ TEST_F(ClosingEditors, AreAskedForByTheCommandAndByTheButtonOfTheTab)
 TEST_F(Commands, ImportAddsAnEmptyMaterialAndReadsNothing)
 {
     Mat::DocumentMaterial& project = makeProject();
-    Gui::FileDialog::answer_next("/nowhere/steel.csv");
+    Gui::FileDialog::answerNext("/nowhere/steel.csv");
     EXPECT_TRUE(run("Mat_Import"));
-    ASSERT_THAT(project.get_objects(), SizeIs(1));
-    const auto* const object = dynamic_cast<Mat::MaterialObject*>(project.get_objects()[0]);
+    ASSERT_THAT(project.getObjects(), SizeIs(1));
+    const auto* const object = dynamic_cast<Mat::MaterialObject*>(project.getObjects()[0]);
     ASSERT_NE(object, nullptr);
     EXPECT_EQ(object->label.getValue(), "Material");
     EXPECT_THAT(object->getCMaterial()->properties, IsEmpty());
     EXPECT_EQ(object->getObjectState(), Obj::eVXObjectState::Initial);
     undoStack().undo();
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
 }
 
 TEST_F(Commands, ImportAddsNothingWhenNoFileIsChosen)
 {
     Mat::DocumentMaterial& project = makeProject();
-    Gui::FileDialog::answer_next({});
+    Gui::FileDialog::answerNext({});
     EXPECT_TRUE(run("Mat_Import"));
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
 }
 
 TEST_F(Commands, ImportAddsToTheCurrentProject)
 {
     makeProject("First");
     Mat::DocumentMaterial& second = makeProject("Second");
-    Gui::FileDialog::answer_next("steel.csv");
+    Gui::FileDialog::answerNext("steel.csv");
     EXPECT_TRUE(run("Mat_Import"));
-    EXPECT_THAT(second.get_objects(), SizeIs(1));
+    EXPECT_THAT(second.getObjects(), SizeIs(1));
 }
 
 TEST_F(Commands, ImportIsRefusedByAProjectOfAnotherKind)
 {
     makeProject();
     const Obj::Project& analysis = makeAnalysis();
-    Gui::FileDialog::answer_next("steel.csv");
+    Gui::FileDialog::answerNext("steel.csv");
     EXPECT_TRUE(run("Mat_Import"));
-    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_THAT(analysis.getObjects(), IsEmpty());
     expectError("No object of class \"Mat::MaterialObject\" was added to the project \"Analysis\"");
 }
 
@@ -1050,7 +1050,7 @@ TEST_F(Commands, PasteIsRefusedByAProjectOfAnotherKind)
     EXPECT_TRUE(run("Std_Copy"));
     const Obj::Project& analysis = makeAnalysis();
     EXPECT_TRUE(run("Std_Paste"));
-    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_THAT(analysis.getObjects(), IsEmpty());
     expectError("\"Material\" cannot be pasted into \"Analysis\"");
 }
 
@@ -1059,7 +1059,7 @@ TEST_F(Commands, TheRequestToAddAMaterialIsRefusedByAProjectOfAnotherKind)
     const Obj::Project& analysis = makeAnalysis();
     EXPECT_FALSE(vxMsg::doCommand({Mat::Request::AddMaterial, analysis.get_name(), "Steel", 0.0}));
     expectError("No object of class \"Mat::MaterialObject\" was added to the project \"Analysis\"");
-    EXPECT_THAT(analysis.get_objects(), IsEmpty());
+    EXPECT_THAT(analysis.getObjects(), IsEmpty());
     EXPECT_EQ(undoStack().count(), 0);
 }
 
@@ -1117,7 +1117,7 @@ TEST_F(Commands, ImportSurvivesTheClosingOfTheProjectWhileTheDialogIsOpen)
     file.close();
     makeProject();
     chooseMeanwhile(
-        path, [] { Obj::Application::instance().close_all_projects(); }, [] { EXPECT_TRUE(run("Mat_Import")); });
+        path, [] { Obj::Application::instance().closeAllProjects(); }, [] { EXPECT_TRUE(run("Mat_Import")); });
     EXPECT_THAT(Obj::Application::get_projects(), IsEmpty());
 }
 
@@ -1129,7 +1129,7 @@ TEST_F(Commands, ExportSurvivesTheClosingOfTheProjectWhileTheDialogIsOpen)
     chooseMeanwhile(
         path,
         [] {
-            Obj::Application::instance().close_all_projects();
+            Obj::Application::instance().closeAllProjects();
             makeProject("Other");
         },
         [] { EXPECT_TRUE(run("Mat_Export")); });
@@ -1145,7 +1145,7 @@ TEST_F(Commands, ImportAsksForAFile)
     EXPECT_EQ(shown.filters, QStringList("All (*)"));
     EXPECT_EQ(shown.parent, window.get());
     EXPECT_EQ(shown.mode, QFileDialog::AcceptOpen);
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
 }
 
 TEST_F(Commands, ExportAsksForAFile)
@@ -1193,7 +1193,7 @@ private:
 TEST_F(Commands, ExportOpensNoDialogForAProjectThatOnlyHasTheTag)
 {
     LookalikeProject::init();
-    Obj::Application::instance().create_project("Test::LookalikeProject", "Lookalike");
+    Obj::Application::instance().createProject("Test::LookalikeProject", "Lookalike");
     const ShownDialog shown = cancelDialogsOf([] { EXPECT_TRUE(run("Mat_Export")); });
     EXPECT_EQ(shown.count, 0);
 }
@@ -1203,8 +1203,8 @@ TEST_F(Commands, ExportFindsTheMaterialProjectWhateverTheCurrentOneIs)
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("materials.json"));
     addMaterial(makeProject());
-    Obj::Application::instance().set_current_project(makeAnalysis());
-    Gui::FileDialog::answer_next(path);
+    Obj::Application::instance().setCurrentProject(makeAnalysis());
+    Gui::FileDialog::answerNext(path);
     EXPECT_TRUE(run("Mat_Export"));
     EXPECT_TRUE(QFile::exists(path));
 }
@@ -1216,7 +1216,7 @@ TEST_F(Commands, ExportWritesTheMaterialsUnchecked)
     Mat::DocumentMaterial& project = makeProject();
     addMaterial(project);
     project.add_object("Mat::MaterialObject", "Empty");
-    Gui::FileDialog::answer_next(path);
+    Gui::FileDialog::answerNext(path);
     const MessageBoxes boxes;
     EXPECT_TRUE(run("Mat_Export"));
     EXPECT_THAT(boxes.shown(), IsEmpty());
@@ -1235,7 +1235,7 @@ TEST_F(Commands, ExportWritesNothingWhenNoFileIsChosen)
 {
     const Mat::MaterialObject& material = addMaterial(makeProject(), "Frame");
     ASSERT_EQ(material.getCMaterial()->name, "Structural Steel");
-    Gui::FileDialog::answer_next({});
+    Gui::FileDialog::answerNext({});
     EXPECT_TRUE(run("Mat_Export"));
     // An export would have given it the label as its name.
     EXPECT_EQ(material.getCMaterial()->name, "Structural Steel");
@@ -1274,7 +1274,7 @@ TEST_F(Commands, ShowTheirBoxesInTheLanguageOfTheUser)
         Mat::DocumentMaterial& project = makeProject();
         EXPECT_TRUE(run("Mat_NewDoc"));
         Mat::MaterialObject& material = addMaterial(project);
-        project.add_object("Fem::FemLoad", "Load")->link_to(material);
+        project.add_object("Fem::FemLoad", "Load")->linkTo(material);
         select({&material});
         EXPECT_TRUE(run("Mat_Delete"));
         editUnapplied(material).close();
@@ -1288,7 +1288,7 @@ TEST_F(Commands, ShowTheirBoxesInTheLanguageOfTheUser)
         for (const char* const command : {"Mat_Import", "Mat_Export"})
             captions.push_back(cancelDialogsOf([command] { EXPECT_TRUE(run(command)); }).caption.toStdString());
         EXPECT_EQ(captions, texts.captions);
-        Obj::Application::instance().close_all_projects();
+        Obj::Application::instance().closeAllProjects();
         Gui::Translator::instance()->setLanguage("en");
     }
 }
@@ -1302,11 +1302,11 @@ TEST_F(Commands, DeleteAndUndoWithTenThousandMaterials)
         project.add_object("Mat::MaterialObject", "Material");
     QCoreApplication::processEvents();
     EXPECT_TRUE(run("Std_SelectAll"));
-    EXPECT_EQ(selection().get_count(), 10000U);
+    EXPECT_EQ(selection().getCount(), 10000U);
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_THAT(project.get_objects(), IsEmpty());
+    EXPECT_THAT(project.getObjects(), IsEmpty());
     EXPECT_TRUE(run("Std_Undo"));
-    EXPECT_THAT(project.get_objects(), SizeIs(10000));
+    EXPECT_THAT(project.getObjects(), SizeIs(10000));
 }
 
 } // namespace

@@ -82,7 +82,7 @@ int main(int argc, char** argv)
     initMatGui();
     Mat::registerRequests();
     Gui::Translator::instance()->setLanguage(QString::fromLocal8Bit(argv[2]));
-    auto* const project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials");
+    auto* const project = Obj::Application::instance().createProject("Mat::DocumentMaterial", "Materials");
     auto& object = *static_cast<Mat::MaterialObject*>(project->add_object("Mat::MaterialObject", "Steel"));
     object.initCMaterial(vxMat::eMaterialType::StructuralSteel);
     {
@@ -91,6 +91,6 @@ int main(int argc, char** argv)
         view.show();
         shootAll({QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[4]), view}, view);
     }
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     return 0;
 }

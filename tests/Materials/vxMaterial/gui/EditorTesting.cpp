@@ -22,14 +22,14 @@ MaterialProject::MaterialProject()
     initMatGui();
     Mat::registerRequests();
     m_document = static_cast<Mat::DocumentMaterial*>(
-        Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials"));
+        Obj::Application::instance().createProject("Mat::DocumentMaterial", "Materials"));
     m_object = static_cast<Mat::MaterialObject*>(m_document->add_object("Mat::MaterialObject", "Steel"));
     m_object->initCMaterial(vxMat::eMaterialType::StructuralSteel);
 }
 
 MaterialProject::~MaterialProject()
 {
-    Obj::Application::instance().close_project(*m_document);
+    Obj::Application::instance().closeProject(*m_document);
 }
 
 Editor::Editor() : Editor([](MaterialProject&) {}) {}

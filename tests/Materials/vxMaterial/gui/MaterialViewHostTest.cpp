@@ -66,7 +66,7 @@ TEST(MaterialViewHost, BringsEditsBackIntoANewWindow)
     EXPECT_EQ(editor.item("Young's modulus")->checkState(), Qt::Unchecked);
     EXPECT_TRUE(editor.view()->isWindowModified());
     EXPECT_EQ(vxtest::contents(editor.material()), before);
-    editor.view()->get_undo_stack()->undo();
+    editor.view()->getUndoStack()->undo();
     EXPECT_EQ(editor.rowCount(), 9);
     EXPECT_FALSE(editor.view()->isWindowModified());
 }

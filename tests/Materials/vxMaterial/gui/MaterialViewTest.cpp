@@ -142,9 +142,9 @@ TEST(MaterialView, LeavesTheHostWhenItIsDestroyed)
 {
     Editor editor;
     const auto& project = *Gui::GuiApplication::Instance->get_project(&editor.project().document());
-    EXPECT_THAT(project.get_views(), ElementsAre(static_cast<Gui::BaseView*>(editor.view())));
+    EXPECT_THAT(project.getViews(), ElementsAre(static_cast<Gui::BaseView*>(editor.view())));
     delete editor.view();
-    EXPECT_THAT(project.get_views(), IsEmpty());
+    EXPECT_THAT(project.getViews(), IsEmpty());
 }
 
 TEST(MaterialView, ClosesWithItsProject)
@@ -620,7 +620,7 @@ TEST(MaterialView, StaysOpenWithItsChangesWhenTheQuestionIsCancelledOrClosed)
         editor.typeValue(4, "2700");
         EXPECT_EQ(closeAnswering(answer).size(), 1U);
         ASSERT_NE(editor.view(), nullptr);
-        EXPECT_THAT(Gui::MainWindow::get_main_window_inst()->get_mdi_windows(), testing::SizeIs(1));
+        EXPECT_THAT(Gui::MainWindow::get_main_window_inst()->getMdiWindows(), testing::SizeIs(1));
         EXPECT_TRUE(editor.view()->isWindowModified());
         EXPECT_EQ(editor.cell(editor.rowOf(4), 2), "2700");
         EXPECT_EQ(editor.material().properties.at(4)->value, 7850.0);
@@ -656,7 +656,7 @@ TEST(MaterialView, StaysOpenWhenItsChangesCannotBeApplied)
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_EQ(boxes[1].title, "Invalid material");
     ASSERT_NE(editor.view(), nullptr);
-    EXPECT_THAT(Gui::MainWindow::get_main_window_inst()->get_mdi_windows(), testing::SizeIs(1));
+    EXPECT_THAT(Gui::MainWindow::get_main_window_inst()->getMdiWindows(), testing::SizeIs(1));
     EXPECT_EQ(vxtest::contents(editor.material()), before);
 }
 

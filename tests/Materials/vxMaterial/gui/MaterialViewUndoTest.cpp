@@ -219,16 +219,16 @@ TEST(MaterialViewUndo, MakesNoStepOfAnEditThatChangesNothing)
     EXPECT_FALSE(editor.view()->isWindowModified());
     editor.tickByMouse(editor.item("Creep"));
     editor.tickByMouse(editor.item("Creep"));
-    ASSERT_NE(editor.view()->get_undo_stack(), nullptr);
-    EXPECT_EQ(editor.view()->get_undo_stack()->count(), 2);
+    ASSERT_NE(editor.view()->getUndoStack(), nullptr);
+    EXPECT_EQ(editor.view()->getUndoStack()->count(), 2);
     editor.doubleClick(editor.item("Structural Steel"));
-    EXPECT_EQ(editor.view()->get_undo_stack()->count(), 2);
+    EXPECT_EQ(editor.view()->getUndoStack()->count(), 2);
 }
 
 TEST(MaterialViewUndo, NamesItsSteps)
 {
     Editor editor;
-    QUndoStack* const stack = editor.view()->get_undo_stack();
+    QUndoStack* const stack = editor.view()->getUndoStack();
     ASSERT_NE(stack, nullptr);
     editor.typeValue(4, "2700");
     EXPECT_EQ(stack->undoText(), "Change value");

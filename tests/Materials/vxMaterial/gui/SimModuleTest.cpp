@@ -35,8 +35,8 @@ TEST_F(SimModuleTest, IsRegisteredUnderTheStandardWorkbench)
 {
     const auto type = Kelta::TypeInfo::find("MatGui::SimModule");
     EXPECT_EQ(type, SimModule::getClassTypeId());
-    EXPECT_STREQ(type.get_parent().get_name(), "Gui::StdSimModule");
-    const auto created = Kelta::RootClass::create_by_name("MatGui::SimModule");
+    EXPECT_STREQ(type.getParent().get_name(), "Gui::StdSimModule");
+    const auto created = Kelta::RootClass::createByName("MatGui::SimModule");
     ASSERT_NE(dynamic_cast<SimModule*>(created.get()), nullptr);
     EXPECT_EQ(created->getTypeId(), type);
 }
@@ -122,7 +122,7 @@ TEST_F(SimModuleTest, ShowsItsMenuAndToolbarsInTheMainWindow)
 TEST_F(SimModuleTest, HasDifferentKeysAndMnemonicsInEachMenu)
 {
     std::map<QKeySequence, std::string> users;
-    for (const Gui::Command* const command : Gui::GuiApplication::Instance->get_command_manager().get_commands()) {
+    for (const Gui::Command* const command : Gui::GuiApplication::Instance->get_command_manager().getCommands()) {
         if (command->get_shortcut().isEmpty())
             continue;
         EXPECT_TRUE(users.emplace(command->get_shortcut(), command->getName()).second) << command->getName();

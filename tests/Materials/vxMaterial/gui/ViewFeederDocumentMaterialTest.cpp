@@ -24,7 +24,7 @@ TEST_F(DocumentNode, IsTheNodeOfAMaterialProject)
 {
     Gui::ViewFeederProject& feeder = node();
     EXPECT_STREQ(feeder.getTypeId().get_name(), "MatGui::ViewFeederDocumentMaterial");
-    EXPECT_STREQ(feeder.getTypeId().get_parent().get_name(), "Gui::ViewFeederProject");
+    EXPECT_STREQ(feeder.getTypeId().getParent().get_name(), "Gui::ViewFeederProject");
     EXPECT_STREQ(feeder.getPixmapName(), "norvex_materialproject");
 }
 
@@ -77,7 +77,7 @@ TEST_F(DocumentNode, NeverVetoesDeletion)
 TEST_F(DocumentNode, OpensNothingOnADoubleClick)
 {
     EXPECT_TRUE(node().on_double_clicked());
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 } // namespace

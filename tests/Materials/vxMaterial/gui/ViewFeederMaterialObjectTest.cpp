@@ -86,7 +86,7 @@ protected:
 TEST_F(MaterialNode, IsTheNodeOfAMaterial)
 {
     EXPECT_STREQ(node.getTypeId().get_name(), "MatGui::ViewFeederMaterialObject");
-    EXPECT_STREQ(node.getTypeId().get_parent().get_name(), "Gui::ViewFeederProjectObject");
+    EXPECT_STREQ(node.getTypeId().getParent().get_name(), "Gui::ViewFeederProjectObject");
     EXPECT_STREQ(node.getPixmapName(), "norvex_materialobject");
     EXPECT_EQ(node.getMaterialObject(), &material);
 }
@@ -99,7 +99,7 @@ TEST_F(MaterialNode, HasNoMaterialWhenItIsAttachedToNone)
     other.attach(*project.add_object("Fem::FemLoad", "Load"));
     EXPECT_EQ(other.getMaterialObject(), nullptr);
     EXPECT_TRUE(other.on_double_clicked());
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 TEST(ViewFeederMaterialObject, HasTheVirtualOperationsInTheOrderOfTheHost)
@@ -216,19 +216,19 @@ TEST_F(MaterialNode, OpensOneEditorAndActivatesItTheSecondTime)
     EXPECT_NE(activeEditor(), editor);
     EXPECT_TRUE(node.on_double_clicked());
     EXPECT_EQ(activeEditor(), editor);
-    EXPECT_EQ(window->get_mdi_windows().size(), 2);
+    EXPECT_EQ(window->getMdiWindows().size(), 2);
 }
 
 TEST_F(MaterialNode, OpensOneEditorWhenItIsDoubleClickedQuickly)
 {
-    Gui::ProjectExplorer& explorer = window->get_project_explorer();
+    Gui::ProjectExplorer& explorer = window->getProjectExplorer();
     explorer.treeModel().synchronize();
     const QModelIndex index = explorer.treeModel().indexOf(material);
     explorer.scrollTo(index);
     const QPoint position = explorer.visualRect(index).center();
     for (int i = 0; i < 5; ++i)
         QTest::mouseDClick(explorer.viewport(), Qt::LeftButton, {}, position);
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
     EXPECT_NE(activeEditor(), nullptr);
 }
 
@@ -279,15 +279,15 @@ TEST_F(MaterialNode, OpensNothingInAnotherEditModeThanTheUsual)
 {
     EXPECT_FALSE(node.setEdit(1));
     EXPECT_FALSE(node.setEdit(-1));
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 TEST_F(MaterialNode, OpensTheEditorInTheUsualEditModeAndReturnsFalseToo)
 {
     EXPECT_FALSE(node.setEdit(0));
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
     EXPECT_FALSE(node.setEdit(0));
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
 }
 
 TEST_F(MaterialNode, MakesANewEditorAfterTheUserHasClosedTheFirst)
@@ -299,7 +299,7 @@ TEST_F(MaterialNode, MakesANewEditorAfterTheUserHasClosedTheFirst)
     ASSERT_EQ(first, nullptr);
     node.on_double_clicked();
     EXPECT_NE(activeEditor(), nullptr);
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
 }
 
 TEST_F(MaterialNode, MakesANewEditorRightAfterTheUserHasClosedTheFirst)
@@ -312,7 +312,7 @@ TEST_F(MaterialNode, MakesANewEditorRightAfterTheUserHasClosedTheFirst)
     const QPointer<MatGui::MaterialView> second = activeEditor();
     ASSERT_NE(second, nullptr);
     EXPECT_NE(second, first);
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(first, nullptr);
     EXPECT_EQ(activeEditor(), second);
@@ -327,14 +327,14 @@ TEST_F(MaterialNode, OpensNothingForAMaterialInAProjectOfAnotherKind)
     // Another module may have projects that take materials.
     vxtest::ForeignProject<projectWithMaterials>::init();
     Obj::registerHome("Mat::MaterialObject", projectWithMaterials);
-    Obj::Project& other = *Obj::Application::instance().create_project(projectWithMaterials, "Other");
+    Obj::Project& other = *Obj::Application::instance().createProject(projectWithMaterials, "Other");
     ViewFeederMaterialObject& foreign = feeder(addMaterial(other));
     ASSERT_NE(foreign.getMaterialObject(), nullptr);
     EXPECT_TRUE(foreign.on_double_clicked());
     EXPECT_FALSE(foreign.setEdit(0));
     select({foreign.getMaterialObject()});
     EXPECT_TRUE(run("Mat_Edit"));
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 TEST_F(MaterialNode, ReturnsTheOpenEditor)
@@ -345,7 +345,7 @@ TEST_F(MaterialNode, ReturnsTheOpenEditor)
     MatGui::MaterialView* const editor = open.showMaterialView();
     ASSERT_NE(editor, nullptr);
     EXPECT_EQ(open.showMaterialView(), editor);
-    EXPECT_EQ(window->get_mdi_windows().size(), 1);
+    EXPECT_EQ(window->getMdiWindows().size(), 1);
 }
 
 TEST_F(MaterialNode, DoesNothingWhenAPropertyChangesWithoutAnEditor)
@@ -372,18 +372,18 @@ TEST_F(MaterialNode, TakesItsEditorWithIt)
 {
     node.on_double_clicked();
     const QPointer<MatGui::MaterialView> editor = activeEditor();
-    project.remove_object(material.getObjectId());
+    project.removeObject(material.getObjectId());
     EXPECT_EQ(editor, nullptr);
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 TEST_F(MaterialNode, TakesTheEditorsOfAllMaterialsWithTheProject)
 {
     for (int i = 0; i < 10; ++i)
         nodeOf(addMaterial(project)).on_double_clicked();
-    EXPECT_EQ(window->get_mdi_windows().size(), 10);
-    Obj::Application::instance().close_project(project);
-    EXPECT_TRUE(window->get_mdi_windows().isEmpty());
+    EXPECT_EQ(window->getMdiWindows().size(), 10);
+    Obj::Application::instance().closeProject(project);
+    EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
 TEST_F(MaterialNode, OpensNothingWithoutAMainWindow)

@@ -39,7 +39,7 @@ protected:
         initMatGui();
         Mat::registerRequests();
         window = std::make_unique<Gui::MainWindow>();
-        window->set_workbench("MatGui::SimModule");
+        window->setWorkbench("MatGui::SimModule");
         window->show();
         errorsBefore = Kelta::MessageLog::instance().errorCount();
     }
@@ -48,7 +48,7 @@ protected:
     {
         EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), errorsBefore) << lastMessage();
         vxMsg::MessageProxy::instance().undoStack().clear();
-        Obj::Application::instance().close_all_projects();
+        Obj::Application::instance().closeAllProjects();
         Gui::TreeSelectionSingleton::instance().clear();
     }
 
@@ -66,15 +66,15 @@ protected:
     }
 
     static Gui::CommandController& commands() { return Gui::GuiApplication::Instance->get_command_manager(); }
-    static bool run(const char* command) { return commands().run_command(command); }
-    static bool isApplicable(const char* command) { return commands().find_command(command)->is_applicable(); }
+    static bool run(const char* command) { return commands().runCommand(command); }
+    static bool isApplicable(const char* command) { return commands().findCommand(command)->is_applicable(); }
     static QUndoStack& undoStack() { return vxMsg::MessageProxy::instance().undoStack(); }
     static Gui::TreeSelectionSingleton& selection() { return Gui::TreeSelectionSingleton::instance(); }
 
     static Mat::DocumentMaterial& makeProject(const char* name = "Materials")
     {
         return *static_cast<Mat::DocumentMaterial*>(
-            Obj::Application::instance().create_project("Mat::DocumentMaterial", name));
+            Obj::Application::instance().createProject("Mat::DocumentMaterial", name));
     }
 
     static Mat::MaterialObject& addMaterial(Obj::Project& project, const std::string& label = "Material")
@@ -84,7 +84,7 @@ protected:
         return object;
     }
 
-    static void select(const std::vector<Obj::ProjectObject*>& objects) { selection().set_selection({}, objects); }
+    static void select(const std::vector<Obj::ProjectObject*>& objects) { selection().setSelection({}, objects); }
 
     static Gui::ViewFeederProjectObject& nodeOf(Obj::ProjectObject& object)
     {

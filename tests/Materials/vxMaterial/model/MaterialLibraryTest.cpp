@@ -28,10 +28,10 @@ using vxMat::MaterialProperty;
 void expectValue(const MaterialProperty& property, const std::string& value)
 {
     switch (vxMat::getValueKind(property.id)) {
-    case vxMat::eValueKind::Word:
+    case vxMat::ValueKind::Word:
         EXPECT_EQ(property.text, value);
         break;
-    case vxMat::eValueKind::NumberList:
+    case vxMat::ValueKind::NumberList:
         EXPECT_EQ(vxMat::formatNumberList(property.values), value);
         break;
     default:

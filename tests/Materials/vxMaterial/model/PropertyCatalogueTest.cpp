@@ -22,30 +22,30 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using vxMat::ePropertyCategory;
-using vxMat::eValueKind;
 using vxMat::findPropertyRecord;
 using vxMat::MaterialProperty;
 using vxMat::propertyRecords;
+using vxMat::ValueKind;
 
 std::unique_ptr<MaterialProperty> create(int id)
 {
     return findPropertyRecord(id)->create();
 }
 
-eValueKind kindOf(const std::string& word)
+ValueKind kindOf(const std::string& word)
 {
     if (word == "word")
-        return eValueKind::Word;
+        return ValueKind::Word;
     if (word == "number list")
-        return eValueKind::NumberList;
-    return word == "model switch" ? eValueKind::ModelSwitch : eValueKind::Number;
+        return ValueKind::NumberList;
+    return word == "model switch" ? ValueKind::ModelSwitch : ValueKind::Number;
 }
 
 /// Expects the default value of a kind of quantity, given as text, and nothing in the other fields.
-void expectDefault(const MaterialProperty& property, eValueKind kind, const std::string& value)
+void expectDefault(const MaterialProperty& property, ValueKind kind, const std::string& value)
 {
-    const bool isWord = kind == eValueKind::Word;
-    const bool isList = kind == eValueKind::NumberList;
+    const bool isWord = kind == ValueKind::Word;
+    const bool isList = kind == ValueKind::NumberList;
     EXPECT_EQ(property.text, isWord ? value : "");
     EXPECT_EQ(property.value, isWord || isList ? 0.0 : std::strtod(value.c_str(), nullptr));
     if (isList)
@@ -106,7 +106,7 @@ TEST(PropertyCatalogue, ReadsTypedTextByTheKindExceptForTwoSwitches)
 {
     for (const auto& record : propertyRecords()) {
         const bool readAsNumber = record.id == 42 || record.id == 45;
-        EXPECT_EQ(vxMat::getValueKind(record.id), readAsNumber ? eValueKind::Number : record.kind) << record.id;
+        EXPECT_EQ(vxMat::getValueKind(record.id), readAsNumber ? ValueKind::Number : record.kind) << record.id;
     }
 }
 

@@ -96,7 +96,7 @@ TEST(PropertyRules, AcceptEveryMaterialOfTheLibrary)
         CombinationCheck combination;
         for (const auto& [slot, property] : material->properties) {
             combination.note(slot);
-            const bool isWord = vxMat::getValueKind(property->id) == vxMat::eValueKind::Word;
+            const bool isWord = vxMat::getValueKind(property->id) == vxMat::ValueKind::Word;
             const std::string text = isWord ? property->text : vxMat::formatNumber(property->value);
             EXPECT_EQ(checkRow(property->id, text), nullptr) << material->name << " " << property->name;
         }

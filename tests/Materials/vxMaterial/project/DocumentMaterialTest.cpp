@@ -45,8 +45,8 @@ protected:
 
 TEST_F(DocumentMaterialTest, IsAMaterialProjectWithAFilledDatabase)
 {
-    EXPECT_EQ(project->get_document_tag(), Mat::materialProjectTag);
-    EXPECT_EQ(static_cast<int>(project->get_document_tag()), 2);
+    EXPECT_EQ(project->getDocumentTag(), Mat::materialProjectTag);
+    EXPECT_EQ(static_cast<int>(project->getDocumentTag()), 2);
     EXPECT_THAT(project->getMatMgr().materials, SizeIs(26));
     EXPECT_THAT(project->getMatMgr().propertyCatalogue, SizeIs(36));
 }
@@ -131,7 +131,7 @@ TEST_F(DocumentMaterialTest, HandsOverAnEmptySetWithoutMaterials)
 TEST_F(DocumentMaterialTest, LetsGoOfItsSetWhenItIsClosed)
 {
     auto* const other =
-        static_cast<DocumentMaterial*>(Obj::Application::instance().create_project("Mat::DocumentMaterial", "Other"));
+        static_cast<DocumentMaterial*>(Obj::Application::instance().createProject("Mat::DocumentMaterial", "Other"));
     const vxCAE::CCaeManager& manager = vxCAE::GetCaeManager();
     const std::uint32_t projectId = project->getProjectId();
     addSteel("Frame");
@@ -139,14 +139,14 @@ TEST_F(DocumentMaterialTest, LetsGoOfItsSetWhenItIsClosed)
     other->collect_frontend_data();
 
     // The project itself stays in memory, as when its closing may be undone.
-    Obj::OwnedProject closed = Obj::Application::instance().take_project(*project);
+    Obj::OwnedProject closed = Obj::Application::instance().takeProject(*project);
     EXPECT_EQ(manager.getCAE(projectId), nullptr);
     EXPECT_NE(manager.getCAE(other->getProjectId()), nullptr);
 
-    Obj::Application::instance().restore_project(std::move(closed));
+    Obj::Application::instance().restoreProject(std::move(closed));
     EXPECT_EQ(manager.getCAE(projectId), nullptr) << "the next hand-over makes a new set";
     EXPECT_THAT(collected().entries, SizeIs(1));
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
     EXPECT_EQ(manager.getCount(), 0U);
 }
 
@@ -204,7 +204,7 @@ TEST_F(DocumentMaterialTest, RecordsItsMaterialsInTheOrderOfTheProject)
     MaterialObject& removed = addSteel("Lead");
     addSteel("Air");
     addMaterial("Middle");
-    project->remove_object(removed.getObjectId());
+    project->removeObject(removed.getObjectId());
     Json::Value record;
     project->save_jsonDB(record);
     const Json::Value& objects = record["objects"]["object"];
@@ -248,12 +248,12 @@ TEST_F(DocumentMaterialTest, TakesNothingFromARecord)
         Json::Value after;
         project->save_jsonDB(after);
         EXPECT_EQ(after, before);
-        EXPECT_THAT(project->get_objects(), ElementsAre(&steel, &empty));
+        EXPECT_THAT(project->getObjects(), ElementsAre(&steel, &empty));
         EXPECT_EQ(vxtest::Identity(steel), steelBefore);
         EXPECT_EQ(vxtest::Identity(empty), emptyBefore);
         EXPECT_EQ(project->physicsType.getValue(), "Structural");
         EXPECT_EQ(project->classLabel.getValue(), "Material Project");
-        EXPECT_EQ(project->get_document_tag(), Mat::materialProjectTag);
+        EXPECT_EQ(project->getDocumentTag(), Mat::materialProjectTag);
     }
 }
 
@@ -288,7 +288,7 @@ TEST_F(DocumentMaterialTest, HasNoPartInTheXmlFile)
     Kelta::XMLFileReader reader(file);
     ASSERT_TRUE(reader.xml().readNextStartElement());
     project->Load(reader);
-    EXPECT_EQ(project->get_object_count(), 1U);
+    EXPECT_EQ(project->getObjectCount(), 1U);
 }
 
 TEST_F(DocumentMaterialTest, ExportsTheStyledDocumentOfTheSet)

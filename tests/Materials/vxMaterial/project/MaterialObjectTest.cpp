@@ -320,7 +320,7 @@ struct SignalAccess
     friend auto& requestsOf(MaterialObject& object) { return object.*Member; }
 };
 auto& requestsOf(MaterialObject& object);
-template struct SignalAccess<&MaterialObject::dataRequested>;
+template struct SignalAccess<&MaterialObject::m_dataRequested>;
 
 TEST_F(MaterialObjectTest, ReturnsTheResultOfTheLastListenerToARequestForData)
 {

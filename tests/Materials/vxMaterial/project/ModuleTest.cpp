@@ -26,14 +26,14 @@ TEST(Module, RegistersTheProjectClassesUnderTheirParents)
     EXPECT_STREQ(document.get_name(), "Mat::DocumentMaterial");
     EXPECT_STREQ(object.get_name(), "Mat::MaterialObject");
     Obj::initObj();
-    EXPECT_EQ(document.get_parent(), Obj::Project::getClassTypeId());
-    EXPECT_EQ(object.get_parent(), Obj::ProjectObject::getClassTypeId());
+    EXPECT_EQ(document.getParent(), Obj::Project::getClassTypeId());
+    EXPECT_EQ(object.getParent(), Obj::ProjectObject::getClassTypeId());
 }
 
 TEST(Module, CreatesAMaterialByItsRegisteredName)
 {
     initMat();
-    const auto created = Kelta::RootClass::create_by_name("Mat::MaterialObject");
+    const auto created = Kelta::RootClass::createByName("Mat::MaterialObject");
     const auto* const object = dynamic_cast<const Mat::MaterialObject*>(created.get());
     ASSERT_NE(object, nullptr);
     EXPECT_EQ(object->getTypeId(), Mat::MaterialObject::getClassTypeId());
@@ -43,7 +43,7 @@ TEST(Module, CreatesAMaterialByItsRegisteredName)
 TEST(Module, CreatesAProjectByItsRegisteredName)
 {
     initMat();
-    const auto created = Kelta::RootClass::create_by_name("Mat::DocumentMaterial");
+    const auto created = Kelta::RootClass::createByName("Mat::DocumentMaterial");
     const auto* const document = dynamic_cast<const Mat::DocumentMaterial*>(created.get());
     ASSERT_NE(document, nullptr);
     EXPECT_EQ(document->getTypeId(), Mat::DocumentMaterial::getClassTypeId());
@@ -64,8 +64,8 @@ TEST(Module, HasTheTranslationsLoadedAnewWhenEverythingElseIsThere)
     QSignalSpy refreshed(Gui::Translator::instance(), &Gui::Translator::languageChanged);
     bool complete = false;
     QObject::connect(Gui::Translator::instance(), &Gui::Translator::languageChanged, [&complete] {
-        complete = Gui::GuiApplication::Instance->get_command_manager().find_command("Mat_Export") != nullptr &&
-                   Kelta::TypeInfo::find("MatGui::ViewFeederDocumentMaterial").names_a_type() &&
+        complete = Gui::GuiApplication::Instance->get_command_manager().findCommand("Mat_Export") != nullptr &&
+                   Kelta::TypeInfo::find("MatGui::ViewFeederDocumentMaterial").namesAType() &&
                    QFile::exists(QStringLiteral(":icons/norvex_materialobject.svg"));
     });
     initMatGui();

@@ -58,7 +58,7 @@ TEST(Plugin, IsFoundInTheBuildTreeByItsName)
 {
     Kelta::PluginLoader loader;
     EXPECT_TRUE(loader.load("vxMaterial")) << loader.errorText().toStdString();
-    EXPECT_NE(Kelta::RootClass::create_by_name("Mat::MaterialObject"), nullptr);
+    EXPECT_NE(Kelta::RootClass::createByName("Mat::MaterialObject"), nullptr);
 }
 
 TEST(Plugin, MayBeLoadedTwice)

@@ -14,10 +14,10 @@ TEST(PluginWithoutWindows, BringsTheProjectClassesAndNothingForTheUserInterface)
     Kelta::PluginLoader loader({QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath()});
     ASSERT_TRUE(loader.load("vxMaterial")) << loader.errorText().toStdString();
 
-    EXPECT_TRUE(Kelta::TypeInfo::find("Mat::MaterialObject").names_a_type());
+    EXPECT_TRUE(Kelta::TypeInfo::find("Mat::MaterialObject").namesAType());
     for (const char* name : {"MatGui::SimModule", "MatGui::ViewFeederMaterialObject",
                              "MatGui::ViewFeederDocumentMaterial", "MatGui::MaterialView"})
-        EXPECT_FALSE(Kelta::TypeInfo::find(name).names_a_type()) << name;
+        EXPECT_FALSE(Kelta::TypeInfo::find(name).namesAType()) << name;
     EXPECT_FALSE(QFile::exists(":icons/norvex_materialobject.svg"));
     EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), 0U);
 }
@@ -27,10 +27,10 @@ TEST(PluginWithoutWindows, MakesProjectsAndMaterials)
     Obj::initObj();
     Kelta::PluginLoader loader({QFileInfo(QStringLiteral(VX_PLUGIN)).absolutePath()});
     ASSERT_TRUE(loader.load("vxMaterial")) << loader.errorText().toStdString();
-    Obj::Project* const project = Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials");
+    Obj::Project* const project = Obj::Application::instance().createProject("Mat::DocumentMaterial", "Materials");
     ASSERT_NE(project, nullptr);
     EXPECT_NE(project->add_object("Mat::MaterialObject", "Material"), nullptr);
-    Obj::Application::instance().close_all_projects();
+    Obj::Application::instance().closeAllProjects();
 }
 
 } // namespace

@@ -25,9 +25,9 @@ protected:
         initMat();
         Mat::registerRequests();
         project = static_cast<Mat::DocumentMaterial*>(
-            Obj::Application::instance().create_project("Mat::DocumentMaterial", "Materials"));
+            Obj::Application::instance().createProject("Mat::DocumentMaterial", "Materials"));
     }
-    ~MaterialProject() override { Obj::Application::instance().close_all_projects(); }
+    ~MaterialProject() override { Obj::Application::instance().closeAllProjects(); }
 
     Mat::MaterialObject& addMaterial(const std::string& label) const
     {

@@ -2,9 +2,9 @@
 
 #include "Documents.h"
 #include "Files.h"
-#include "Properties.h"
 
 #include "vxMaterial/json/Utf8.h"
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <utility>
@@ -35,7 +36,7 @@ struct Difference
 {
     std::string title;      ///< the label of the material or object, and its number if others have the label too
     bool isMaterial = true; ///< false for an object of another class
-    std::optional<std::int32_t> property{}; ///< the number in the material; absent for a whole material
+    std::optional<std::int32_t> property{}; ///< the slot; absent for a whole material
     std::string quantity{};                 ///< the name of the property
     std::string field{};                    ///< empty if only one file has the material, object or property
     Side one{};
@@ -203,6 +204,20 @@ Side sideOf(vxMat::ePropertyCategory category)
     return sideOf(std::string(vxMat::getPropertyCategoryName(static_cast<std::int32_t>(category))));
 }
 
+/// Returns one property for each slot that at least one of two materials uses, in the order of the catalogue.
+std::vector<vxMat::HeldProperty> propertiesOfEither(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other)
+{
+    const auto left = vxMat::propertiesInCatalogueOrder(one);
+    const auto right = vxMat::propertiesInCatalogueOrder(other);
+    const auto place = [](const vxMat::HeldProperty& held) {
+        return std::pair(vxMat::getCataloguePosition(held.slot), held.slot);
+    };
+    std::vector<vxMat::HeldProperty> all;
+    std::set_union(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(all),
+                   [place](const auto& a, const auto& b) { return place(a) < place(b); });
+    return all;
+}
+
 /// Compares the materials and other objects of two files.
 class Comparison
 {
@@ -279,12 +294,12 @@ void Comparison::compareObjects(const ObjectRecord& one, const ObjectRecord& oth
 
 void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other)
 {
-    for (const std::int32_t key : keysOf(one, other)) {
-        const MaterialProperty* const left = one.findProperty(key);
-        const MaterialProperty* const right = other.findProperty(key);
-        m_place.property = key;
-        const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
-        m_place.quantity = quantity != nullptr ? quantity->name : (left != nullptr ? left : right)->name;
+    for (const auto& [slot, property] : propertiesOfEither(one, other)) {
+        const MaterialProperty* const left = one.findProperty(slot);
+        const MaterialProperty* const right = other.findProperty(slot);
+        m_place.property = slot;
+        const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(slot);
+        m_place.quantity = quantity != nullptr ? quantity->name : property->name;
         if (left == nullptr || right == nullptr)
             add("", sideOf(left != nullptr), sideOf(right != nullptr));
         else

@@ -4,13 +4,12 @@
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
-#include "Properties.h"
 
 #include "vxMaterial/exchange/CAESet.h"
+#include "vxMaterial/exchange/ExportCheck.h"
 #include "vxMaterial/json/JsonText.h"
 #include "vxMaterial/model/NumberText.h"
 
-#include <cmath>
 #include <memory>
 #include <optional>
 #include <set>
@@ -32,30 +31,26 @@ struct Wanted
 void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
 {
     std::string lost;
-    for (const std::int32_t key : keysOf(material)) {
-        const vxMat::MaterialProperty& property = *material.findProperty(key);
-        const vxMat::ValueKind kind = kindOf(property);
-        const bool isNumber = kind == vxMat::ValueKind::Number || kind == vxMat::ValueKind::ModelSwitch;
-        if (!isNumber || !property.text.empty() || !property.values.empty())
-            lost += (lost.empty() ? "\"" : ", \"") + property.name + "\"";
-    }
+    for (const auto& [slot, property] : vxCAE::findLostValues(material))
+        lost += (lost.empty() ? "\"" : ", \"") + property->name + "\"";
     if (!lost.empty())
         answer.messages.push_back("note: " + material.name +
                                   ": exchange documents carry no words and lists; lost: " + lost);
 }
 
-/// Throws a Failure for values that readers of documents refuse: a number that is not finite, and an id below 0.
-void requireThatItTravels(const std::string& path, const vxMat::MaterialBase& material)
+/// Throws a Failure for the first property for which readers refuse a document.
+void requireThatReadersTake(const std::string& path, const vxMat::MaterialBase& material)
 {
-    for (const auto& [key, property] : material.properties) {
-        const std::string title =
-            path + ": " + material.name + ": property " + std::to_string(key) + " \"" + property->name + "\" ";
-        if (!std::isfinite(property->value))
-            throw Failure(title + "is " + vxMat::formatNumber(property->value) +
-                          "; exchange documents carry only finite numbers");
-        if (key < 0)
-            throw Failure(title + "has an id below 0, which readers of exchange documents refuse");
-    }
+    const auto obstacles = vxCAE::findExportObstacles(material);
+    if (obstacles.empty())
+        return;
+    const auto& [slot, property] = obstacles.front().held;
+    const std::string title =
+        path + ": " + material.name + ": property " + std::to_string(slot) + " \"" + property->name + "\" ";
+    if (obstacles.front().fault == vxCAE::ExportFault::NegativeSlot)
+        throw Failure(title + "has an id below 0, which readers of exchange documents refuse");
+    throw Failure(title + "is " + vxMat::formatNumber(property->value) +
+                  "; exchange documents carry only finite numbers");
 }
 
 void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answer)
@@ -69,7 +64,7 @@ void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answe
         answer.messages.push_back("note: " + path +
                                   ": exchange documents carry only materials; the other objects are left out");
     for (FileMaterial& material : file.materials) {
-        requireThatItTravels(path, *material.entry->material);
+        requireThatReadersTake(path, *material.entry->material);
         all.push_back({path + ": " + material.label, material.number, std::move(material.entry)});
     }
 }

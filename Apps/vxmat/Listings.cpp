@@ -3,9 +3,9 @@
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
-#include "Properties.h"
 #include "TextTable.h"
 
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
@@ -33,6 +33,13 @@ const char* kindName(ValueKind kind)
     default:
         return "number";
     }
+}
+
+/// Returns the kind in the catalogue, in which the two switches that are typed as numbers are switches too.
+ValueKind kindOf(const MaterialProperty& property)
+{
+    const PropertyRecord* const record = vxMat::findPropertyRecord(property.id);
+    return record != nullptr ? record->kind : ValueKind::Number;
 }
 
 /// Returns the value of a property in the form of its quantity.
@@ -86,10 +93,10 @@ Json::Value toJson(const PropertyRecord& record)
     return json;
 }
 
-Json::Value toJson(std::int32_t key, const MaterialProperty& property)
+Json::Value toJson(std::int32_t slot, const MaterialProperty& property)
 {
     Json::Value json;
-    json["held_under"] = key;
+    json["held_under"] = slot;
     json["id"] = property.id;
     json["name"] = property.name;
     json["key"] = property.key;
@@ -111,18 +118,17 @@ struct PropertyListing
 PropertyListing listProperties(const vxMat::MaterialBase& material, const std::string& title, Answer& answer)
 {
     PropertyListing listing;
-    for (const std::int32_t key : keysOf(material)) {
-        const MaterialProperty& property = *material.findProperty(key);
-        listing.table.add({printable(property.name), printable(vxMat::formatValue(property)), printable(property.unit),
-                           printable(property.description)});
-        listing.json.append(toJson(key, property));
-        if (key == property.id)
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
+        listing.table.add({printable(property->name), printable(vxMat::formatValue(*property)),
+                           printable(property->unit), printable(property->description)});
+        listing.json.append(toJson(slot, *property));
+        if (slot == property->id)
             continue;
-        const PropertyRecord* const quantity = vxMat::findPropertyRecord(key);
+        const PropertyRecord* const quantity = vxMat::findPropertyRecord(slot);
         answer.messages.push_back(
             "note: " + title + " holds its " +
-            (quantity != nullptr ? "\"" + std::string(quantity->name) + "\"" : "property " + std::to_string(key)) +
-            " as a property named \"" + property.name + "\"");
+            (quantity != nullptr ? "\"" + std::string(quantity->name) + "\"" : "property " + std::to_string(slot)) +
+            " as a property named \"" + property->name + "\"");
     }
     return listing;
 }

@@ -36,6 +36,7 @@ public:
     Project();
     ~Project() override;
 
+    /// Content that a module holds beside the properties of the project and its objects is not counted.
     std::size_t get_memory_usage() const override;
 
     /// The registered class of the node that shows the project in the tree; empty for the standard node.

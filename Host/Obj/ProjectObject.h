@@ -31,6 +31,8 @@ public:
     ProjectObject();
     ~ProjectObject() override;
 
+    /// What PropertyDS counts, the internal name and the links. Content that a module holds beside the properties is not
+    /// counted.
     std::size_t get_memory_usage() const override;
 
     /// The registered class of the node that shows the object in the tree; empty for the standard node.

@@ -1,5 +1,7 @@
 #include "vxCAE/CaeManager.h"
 
+#include "vxMaterial/exchange/CAESet.h"
+
 #include <algorithm>
 
 namespace vxCAE {

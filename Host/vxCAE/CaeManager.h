@@ -1,7 +1,6 @@
 #pragma once
 
 #include "vxCAE/CaeManagerExport.h"
-#include "vxMaterial/exchange/CAESet.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +9,10 @@
 
 namespace vxCAE {
 
-/// Keeps the exchange set of each project for the solver side. A project destroys its set when it is closed.
+class CAESet;
+
+/// Keeps the exchange set of each project for the solver side. It does not know when a project is closed: the module that
+/// hands over a set destroys it then, with setCAE(projectId, nullptr).
 class VXCAE_MANAGER_EXPORT CCaeManager
 {
 public:

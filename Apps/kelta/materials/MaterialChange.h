@@ -11,7 +11,7 @@ class MaterialObject;
 
 namespace desktop {
 
-/// A copy of a material with every field, the library group and the keys of its properties included.
+/// Returns a copy of a material with every field, the library group and the slots of its properties included.
 std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
 
 /// Whether two materials have the same fields and properties. A zero is not a negative zero, and

@@ -4,7 +4,7 @@
 #include "Kelta/MessageLog.h"
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
-#include "vxMaterial/model/CataloguedMaterial.h"
+#include "vxMaterial/exchange/ExportCheck.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -15,7 +15,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cmath>
 #include <exception>
 #include <vector>
 
@@ -41,16 +40,26 @@ std::vector<const Mat::MaterialObject*> materialsOf(const Mat::DocumentMaterial&
     return materials;
 }
 
-bool travels(const vxMat::MaterialProperty& property)
+/// Returns the sentence about a property of an object for which readers refuse a document.
+QString describe(const vxCAE::ExportObstacle& obstacle, const Mat::MaterialObject& object)
 {
-    const vxMat::ValueKind kind = vxMat::getValueKind(property.id);
-    const bool isNumber = kind == vxMat::ValueKind::Number || kind == vxMat::ValueKind::ModelSwitch;
-    return isNumber && property.text.empty() && property.values.empty();
+    const auto& [slot, property] = obstacle.held;
+    const QString name = QString::fromStdString(property->name);
+    if (obstacle.fault == vxCAE::ExportFault::NegativeSlot)
+        return tr("The property \"%1\" of \"%2\" has the number %3. Readers of exchange documents refuse numbers below "
+                  "0. Make the material anew without this property, then export again.")
+            .arg(name, labelOf(object), QString::number(slot));
+    return tr("The value of \"%1\" of \"%2\" is %3. An exchange document contains only finite numbers. Change the "
+              "value, "
+              "then export again.")
+        .arg(name, labelOf(object), QString::fromStdString(vxMat::formatNumber(property->value)));
 }
 
 void reportLosses(const Mat::MaterialObject& object)
 {
-    const QStringList lost = findLostValues(*object.getCMaterial());
+    QStringList lost;
+    for (const auto& [slot, property] : vxCAE::findLostValues(*object.getCMaterial()))
+        lost << QString::fromStdString(property->name);
     if (!lost.isEmpty())
         Kelta::MessageLog::warning(
             tr("\"%1\": An exchange document carries no words and lists. Not written: %2.")
@@ -59,24 +68,11 @@ void reportLosses(const Mat::MaterialObject& object)
 
 } // namespace
 
-QStringList findLostValues(const vxMat::MaterialBase& material)
-{
-    QStringList names;
-    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material))
-        if (!travels(*property))
-            names << QString::fromStdString(property->name);
-    return names;
-}
-
 QString findExportObstacle(const Mat::DocumentMaterial& project)
 {
     for (const Mat::MaterialObject* const object : materialsOf(project))
-        for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(*object->getCMaterial()))
-            if (!std::isfinite(property->value))
-                return tr("The value of \"%1\" of \"%2\" is %3. An exchange document contains only finite numbers. "
-                          "Change the value, then export again.")
-                    .arg(QString::fromStdString(property->name), labelOf(*object),
-                         QString::fromStdString(vxMat::formatNumber(property->value)));
+        if (const auto obstacles = vxCAE::findExportObstacles(*object->getCMaterial()); !obstacles.empty())
+            return describe(obstacles.front(), *object);
     return {};
 }
 

@@ -151,14 +151,14 @@ TEST(ExchangeImport, RestoresEveryNumberUnitAndDescriptionOfTheLibrary)
         EXPECT_EQ(imported.materials[0].objectId, 3U);
         const auto& read = *imported.materials[0].material;
         ASSERT_EQ(read.properties.size(), original->properties.size());
-        for (const auto& [key, property] : original->properties) {
-            const MaterialProperty* const back = read.findProperty(key);
-            ASSERT_NE(back, nullptr) << key;
+        for (const auto& [slot, property] : original->properties) {
+            const MaterialProperty* const back = read.findProperty(slot);
+            ASSERT_NE(back, nullptr) << slot;
             EXPECT_EQ(back->name, property->name);
             EXPECT_EQ(back->key, property->key);
             EXPECT_EQ(back->value, property->value);
             // The acoustic materials hold the speed of sound as a density. A document does not carry this difference.
-            if (key != property->id)
+            if (slot != property->id)
                 continue;
             EXPECT_EQ(back->id, property->id);
             EXPECT_EQ(back->unit, property->unit);

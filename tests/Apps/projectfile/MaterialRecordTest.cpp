@@ -80,16 +80,16 @@ TEST(MaterialRecord, WritesNumbersThatJsonCannotExpressAsTexts)
     EXPECT_EQ(record["id"], Json::Value(0));
 }
 
-TEST(MaterialRecord, ListsPropertiesByTheNumbersUnderWhichTheyAreHeld)
+TEST(MaterialRecord, ListsPropertiesInTheOrderOfTheirSlots)
 {
     MaterialBase material;
-    for (const int key : {401, -3, 6, 5})
-        material.setProperty(key, std::make_unique<MaterialProperty>());
+    for (const int slot : {401, -3, 6, 5})
+        material.setProperty(slot, std::make_unique<MaterialProperty>());
     const Json::Value record = projectfile::writeMaterial(material);
-    std::vector<int> keys;
+    std::vector<int> slots;
     for (const Json::Value& property : record["properties"])
-        keys.push_back(property["held_as"].asInt());
-    EXPECT_THAT(keys, testing::ElementsAre(-3, 5, 6, 401));
+        slots.push_back(property["held_as"].asInt());
+    EXPECT_THAT(slots, testing::ElementsAre(-3, 5, 6, 401));
 }
 
 TEST(MaterialRecord, GivesMissingMembersTheirDefaults)

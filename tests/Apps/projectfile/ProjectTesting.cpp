@@ -60,10 +60,10 @@ void expectSame(const MaterialBase& a, const MaterialBase& b)
     EXPECT_EQ(a.name, b.name);
     EXPECT_EQ(a.libraryGroup, b.libraryGroup);
     ASSERT_EQ(a.properties.size(), b.properties.size());
-    for (const auto& [key, property] : a.properties) {
-        SCOPED_TRACE(key);
-        ASSERT_NE(b.findProperty(key), nullptr);
-        expectSame(*property, *b.findProperty(key));
+    for (const auto& [slot, property] : a.properties) {
+        SCOPED_TRACE(slot);
+        ASSERT_NE(b.findProperty(slot), nullptr);
+        expectSame(*property, *b.findProperty(slot));
     }
 }
 

@@ -136,6 +136,17 @@ TEST(Show, PrintsNumbersWordsAndListsAsJson)
     EXPECT_EQ(properties[1]["value"].asDouble(), 1.7976931348623157e308);
 }
 
+// The text of this switch is read as a number, unlike that of other switches.
+TEST(Show, GivesEachQuantityTheKindThatTheCatalogueGivesIt)
+{
+    const Json::Value creep = vxmatJson({"show", "Creep Example", "--json"});
+    std::string kind;
+    for (const Json::Value& property : creep["properties"])
+        if (property["name"] == "Creep")
+            kind = property["kind"].asString();
+    EXPECT_EQ(kind, "switch");
+}
+
 TEST(Show, NotesAPropertyThatIsHeldAsAnotherQuantity)
 {
     const Outcome run = vxmat({"show", "acoustic material 2"});

@@ -63,8 +63,8 @@ TEST(New, KeepsEveryFieldOfTheLibrary)
         ASSERT_THAT(project.objects, SizeIs(1));
         const auto& material = *project.objects[0].material;
         ASSERT_EQ(material.properties.size(), original->properties.size());
-        for (const auto& [key, property] : original->properties) {
-            const vxMat::MaterialProperty* const kept = material.findProperty(key);
+        for (const auto& [slot, property] : original->properties) {
+            const vxMat::MaterialProperty* const kept = material.findProperty(slot);
             ASSERT_NE(kept, nullptr);
             EXPECT_EQ(kept->id, property->id);
             EXPECT_EQ(kept->name, property->name);

@@ -24,8 +24,8 @@ std::string projectOf(std::vector<std::unique_ptr<vxMat::MaterialProperty>> prop
 {
     auto material = std::make_unique<vxMat::CMaterial>("M");
     for (auto& property : properties) {
-        const std::int32_t key = property->id;
-        material->setProperty(key, std::move(property));
+        const std::int32_t slot = property->id;
+        material->setProperty(slot, std::move(property));
     }
     projectfile::ImportedMaterial object;
     object.objectId = 5;

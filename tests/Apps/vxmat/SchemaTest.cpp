@@ -113,14 +113,14 @@ TEST(Schema, FitsAProjectWithEveryMember)
     vxMat::MaterialBase material;
     material.id = std::numeric_limits<std::int32_t>::min();
     material.name = "\xE9\x92\xA2 \"quoted\"\n\x01";
-    std::int32_t key = -2;
+    std::int32_t slot = -2;
     for (const double number : {Limits::max(), Limits::lowest(), Limits::denorm_min(), -0.0, Limits::infinity(),
                                 -Limits::infinity(), Limits::quiet_NaN()})
     {
         auto property = std::make_unique<vxMat::MaterialProperty>();
         property->value = number;
         property->values = {number, 1.0};
-        material.setProperty(key++, std::move(property));
+        material.setProperty(slot++, std::move(property));
     }
     projectfile::ProjectRecord project;
     project.name = "everything";

@@ -4,6 +4,7 @@
 #include "Gui/CommandController.h"
 #include "kelta/Batch.h"
 #include "vxCAE/CaeManager.h"
+#include "vxMaterial/exchange/CAESet.h"
 
 #include <QAction>
 #include <QMenuBar>

@@ -183,6 +183,17 @@ TEST_F(Export, RefusesNumbersThatNoDocumentCanContain)
     EXPECT_FALSE(QFile::exists(file));
 }
 
+TEST_F(Export, RefusesAPropertyThatReadersOfDocumentsRefuse)
+{
+    auto odd = std::make_unique<vxMat::MaterialProperty>();
+    odd->name = "Odd";
+    steel.getCMaterial()->setProperty(-3, std::move(odd));
+    EXPECT_EQ(exportAnswering(QMessageBox::Ok),
+              "The property \"Odd\" of \"Steel\" has the number -3. Readers of exchange documents refuse numbers below "
+              "0. Make the material anew without this property, then export again.");
+    EXPECT_FALSE(QFile::exists(file));
+}
+
 TEST_F(Export, SaysThatAFileCannotBeWritten)
 {
     const MessageBoxes boxes;

@@ -8,6 +8,7 @@
 #include "Kelta/FileWriter.h"
 #include "Kelta/XMLFileReader.h"
 #include "vxCAE/CaeManager.h"
+#include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 
 #include <QDir>

@@ -20,10 +20,7 @@ MatGui::MaterialView* openEditor(Obj::ProjectObject& object)
     if (node == nullptr)
         return nullptr;
     node->setEdit(0);
-    for (Gui::MDIWindow* const window : Gui::MainWindow::get_main_window_inst()->getMdiWindows())
-        if (window->getEditedObject() == &object)
-            return qobject_cast<MatGui::MaterialView*>(window);
-    return nullptr;
+    return qobject_cast<MatGui::MaterialView*>(Gui::MainWindow::get_main_window_inst()->editorOf(object));
 }
 
 } // namespace

@@ -45,17 +45,15 @@ void reopenEditor(Mat::MaterialObject& object)
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (mainWindow == nullptr)
         return;
-    for (Gui::MDIWindow* const window : mainWindow->getMdiWindows()) {
-        if (window->getEditedObject() != &object || window->isWindowModified())
-            continue;
-        Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
-        const bool wasInFront = inFront == window;
-        window->remove_viewself();
-        Gui::GuiApplication::Instance->get_view_feeder(&object)->setEdit(0);
-        if (!wasInFront)
-            mainWindow->set_active_mdi_window(inFront);
+    Gui::MDIWindow* const editor = mainWindow->editorOf(object);
+    if (editor == nullptr || editor->isWindowModified())
         return;
-    }
+    Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
+    const bool wasInFront = inFront == editor;
+    editor->remove_viewself();
+    Gui::GuiApplication::Instance->get_view_feeder(&object)->setEdit(0);
+    if (!wasInFront)
+        mainWindow->set_active_mdi_window(inFront);
 }
 
 /// What the user has made of a material. It knows the object by its numbers, since that may be deleted and come back.

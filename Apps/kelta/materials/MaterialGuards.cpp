@@ -6,7 +6,6 @@
 
 #include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"
-#include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "vxMaterial/project/DocumentMaterial.h"
@@ -120,13 +119,6 @@ void guardExport(const Run& run)
     exportTo(path, *open.front(), run);
 }
 
-bool isOpenInEditor(const Obj::ProjectObject* object)
-{
-    const auto windows = Gui::MainWindow::get_main_window_inst()->getMdiWindows();
-    return std::any_of(windows.begin(), windows.end(),
-                       [object](const Gui::MDIWindow* window) { return window->getEditedObject() == object; });
-}
-
 /// The number of editors that the command would open.
 std::ptrdiff_t countNewEditors()
 {
@@ -135,8 +127,10 @@ std::ptrdiff_t countNewEditors()
     // With so many materials the command is refused whether some are open or not, and no time is spent on them.
     if (static_cast<std::ptrdiff_t>(selected.size()) > 2 * mostAtOnce)
         return static_cast<std::ptrdiff_t>(selected.size());
-    return std::count_if(selected.begin(), selected.end(),
-                         [](const Obj::ProjectObject* object) { return !isOpenInEditor(object); });
+    const Gui::MainWindow& mainWindow = *Gui::MainWindow::get_main_window_inst();
+    return std::count_if(selected.begin(), selected.end(), [&mainWindow](const Obj::ProjectObject* object) {
+        return mainWindow.editorOf(*object) == nullptr;
+    });
 }
 
 void guardEdit(const Run& run)

@@ -52,8 +52,8 @@ QString CheckSummary::toText(const QString& projectName) const
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project)
 {
     CheckSummary summary;
-    for (const Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
-        checkMaterial(*static_cast<const Mat::MaterialObject*>(object), summary);
+    for (const Mat::MaterialObject* const object : Mat::materialsOf(project))
+        checkMaterial(*object, summary);
     if (summary.findings > mostReported)
         Kelta::MessageLog::warning(tr("Further findings are not listed: %1.").arg(summary.findings - mostReported));
     summary.unapplied = findUnapplied(project).size();

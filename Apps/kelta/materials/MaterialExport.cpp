@@ -33,14 +33,6 @@ QString labelOf(const Obj::ProjectObject& object)
     return QString::fromStdString(object.label.getValue());
 }
 
-std::vector<const Mat::MaterialObject*> materialsOf(const Mat::DocumentMaterial& project)
-{
-    std::vector<const Mat::MaterialObject*> materials;
-    for (const Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
-        materials.push_back(static_cast<const Mat::MaterialObject*>(object));
-    return materials;
-}
-
 bool travels(const vxMat::MaterialProperty& property)
 {
     const vxMat::ValueKind kind = vxMat::getValueKind(property.id);
@@ -70,7 +62,7 @@ QStringList findLostValues(const vxMat::MaterialBase& material)
 
 QString findExportObstacle(const Mat::DocumentMaterial& project)
 {
-    for (const Mat::MaterialObject* const object : materialsOf(project))
+    for (const Mat::MaterialObject* const object : Mat::materialsOf(project))
         for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(*object->getCMaterial()))
             if (!std::isfinite(property->value))
                 return tr("The value of \"%1\" of \"%2\" is %3. An exchange document contains only finite numbers. "
@@ -101,7 +93,7 @@ void reportExport(const Mat::DocumentMaterial& project, const QString& path)
     const QString shown = QDir::toNativeSeparators(path);
     try {
         const std::size_t written = projectfile::importExchange(projectfile::readFile(path)).materials.size();
-        const auto materials = materialsOf(project);
+        const auto materials = Mat::materialsOf(project);
         for (const Mat::MaterialObject* const object : materials)
             reportLosses(*object);
         QString text = tr("Materials written to \"%1\": %2.").arg(shown, QString::number(written));

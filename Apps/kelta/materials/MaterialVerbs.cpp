@@ -185,9 +185,9 @@ Failure printCards(const QStringList&)
     if (project == nullptr)
         return tr("there is no material project");
     QTextStream output(stdout);
-    for (const Obj::ProjectObject* const object : project->get_objects_of_type(Mat::MaterialObject::getClassTypeId())) {
+    for (const Mat::MaterialObject* const object : Mat::materialsOf(*project)) {
         vxCAE::MaterialEntry entry;
-        static_cast<const Mat::MaterialObject*>(object)->getCMaterial()->copyTo(entry.material.get());
+        object->getCMaterial()->copyTo(entry.material.get());
         entry.classifyKind();
         const vxCAE::CardSet cards = vxCAE::makeCardSet(entry, vxCAE::MaterialSource::Complete);
         output << QString::fromStdString(object->label.getValue()) << '\n';

@@ -6,6 +6,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "kelta/DocumentImport.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QStatusBar>
@@ -24,9 +25,8 @@ constexpr int copyInterval = 60 * 1000; // ms
 ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow)
     : m_mainWindow(mainWindow),
       m_questions(mainWindow),
-      m_editors(mainWindow, m_questions),
       m_opening(mainWindow, m_sessions, m_questions),
-      m_saving(mainWindow, m_sessions, m_questions, m_editors),
+      m_saving(mainWindow, m_sessions, m_questions),
       m_recovery(mainWindow, m_sessions, m_questions, m_opening),
       m_projectClosing(vxMsg::MessageProxy::instance().projectClosing.connect(
           [this](Obj::Project& project, bool& refused) { refused = refused || !mayClose(project); }))
@@ -95,7 +95,7 @@ void ProjectFiles::contentChanged(Obj::ProjectObject& object)
 
 bool ProjectFiles::mayClose(Obj::Project& project)
 {
-    const Questions::Unsaved unsaved{isModified(project), m_editors.haveChanges(project)};
+    const Questions::Unsaved unsaved{isModified(project), !findUnapplied(m_mainWindow, project).empty()};
     if (!unsaved.inProject && !unsaved.inEditors)
         return true;
     const auto choice = m_questions.askBeforeClosing(QString::fromUtf8(project.get_name()), unsaved);

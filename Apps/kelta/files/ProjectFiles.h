@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Editors.h"
 #include "Opening.h"
 #include "Questions.h"
 #include "Recovery.h"
@@ -50,7 +49,6 @@ private:
 
     Gui::MainWindow& m_mainWindow;
     Questions m_questions;
-    Editors m_editors;
     Sessions m_sessions;
     Opening m_opening;
     Saving m_saving;

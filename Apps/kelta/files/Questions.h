@@ -38,15 +38,6 @@ public:
     };
     bool mayReplace(const QString& path, Difference difference) const;
 
-    enum class EditorChoice
-    {
-        Apply,
-        SaveWithout,
-        Cancel,
-    };
-    /// What is to be done with an editor whose changes are not applied, before its project is saved.
-    EditorChoice askAboutEditor(const QString& title) const;
-
     /// What would be lost.
     struct Unsaved
     {

@@ -12,7 +12,6 @@ class Project;
 
 namespace desktop {
 
-class Editors;
 class Questions;
 class Sessions;
 struct Session;
@@ -23,8 +22,8 @@ class Saving
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
-    Saving(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions, const Editors& editors)
-        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions), m_editors(editors)
+    Saving(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions)
+        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
     {}
 
     /// Saves a project in its file, or asks for one. Returns false if the user gave up, or if the project could not be
@@ -43,7 +42,6 @@ private:
     Gui::MainWindow& m_mainWindow;
     Sessions& m_sessions;
     const Questions& m_questions;
-    const Editors& m_editors;
 };
 
 } // namespace desktop

@@ -1,8 +1,8 @@
 #include "MaterialCheck.h"
 
-#include "UnappliedEdits.h"
-
+#include "Gui/MainWindow.h"
 #include "Kelta/MessageLog.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMaterial/gui/FindingText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -56,7 +56,8 @@ CheckSummary checkAndReport(const Mat::DocumentMaterial& project)
         checkMaterial(*object, summary);
     if (summary.findings > mostReported)
         Kelta::MessageLog::warning(tr("Further findings are not listed: %1.").arg(summary.findings - mostReported));
-    summary.unapplied = findUnapplied(project).size();
+    if (const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
+        summary.unapplied = findUnapplied(*mainWindow, project).size();
     return summary;
 }
 

@@ -2,12 +2,12 @@
 
 #include "MaterialExport.h"
 #include "MaterialProjects.h"
-#include "UnappliedEdits.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
@@ -105,7 +105,7 @@ void guardExport(const Run& run)
     if (const QString obstacle = findObstacle(); !obstacle.isEmpty())
         return refuse(title, obstacle);
     const std::uint32_t projectId = materialProjects().front()->getProjectId();
-    if (!askToApply(*materialProjects().front(),
+    if (!askToApply(*Gui::MainWindow::get_main_window_inst(), *materialProjects().front(),
                     {title, tr("Only what has been applied is exported."), tr("&Export without them")}))
         return;
     const QString path = askForFile();

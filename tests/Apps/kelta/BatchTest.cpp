@@ -100,7 +100,9 @@ TEST_F(Batch, RefusesWrongArguments)
           std::pair("set E \"210 GPa\"", "would be read as \"210\""),
           std::pair("screenshot", "one file name is needed"),
           std::pair("screenshot no/such/folder.png", "cannot be written"),
-          std::pair("database all", "no argument is taken")})
+          std::pair("database all", "no argument is taken"), std::pair("collect all", "no argument is taken"),
+          std::pair("clear all", "no argument is taken"), std::pair("cards all", "no argument is taken"),
+          std::pair("check all", "no argument is taken")})
     {
         SCOPED_TRACE(line);
         const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\nMat_AddMaterial\nselect Material\n") + line + "\n");

@@ -28,7 +28,7 @@ bool hasProject()
     return Obj::Application::get_current_project() != nullptr;
 }
 
-/// Whether the module of the current project imports documents.
+/// Returns whether the module of the current project imports documents.
 bool canImport()
 {
     return hasProject() && findDocumentImport(*Obj::Application::get_current_project()) != nullptr;
@@ -67,7 +67,7 @@ void openLatest(ProjectFiles& files)
         files.open(paths.front());
 }
 
-/// Adds an entry for each of the files last used; the first nine can be chosen by their numbers.
+/// Adds an entry for each recent file. The digits 1 to 9 choose the first nine.
 void listRecentFiles(ProjectFiles& files, QMenu& menu)
 {
     const QStringList paths = RecentFiles::list();

@@ -26,16 +26,17 @@ public:
         : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
     {}
 
-    /// Saves a project in its file, or asks for one. Returns false if the user gave up, or if the project could not be
-    /// saved, which the user has been told; an existing file is then as it was.
+    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if the
+    /// project cannot be saved, after the user has been told the reason; an existing file is unchanged then.
     bool save(Obj::Project& project);
-    /// Likewise in a file that the user chooses.
+    /// Saves a project in a file that the user chooses, and returns the same.
     bool saveAs(Obj::Project& project);
 
 private:
     bool saveTo(Obj::Project& project, const QString& path);
     void write(Obj::Project& project, Session& session, const QString& path) const;
-    /// Whether a project may be written to a file: asks about other programs and later changes, and takes its lock.
+    /// Returns whether a project may be written to a file, and takes its lock. Asks the user if another program uses the file
+    /// or has changed it.
     bool mayWrite(Session& session, const QString& path) const;
     bool mayReplace(const Session& session, const QString& path) const;
 

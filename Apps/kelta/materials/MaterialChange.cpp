@@ -39,7 +39,7 @@ Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectI
     return project != nullptr ? dynamic_cast<Mat::MaterialObject*>(project->get_object(objectId)) : nullptr;
 }
 
-/// An editor without changes of its own shows the material as it is now. One with changes keeps them.
+/// Opens the editor of a material anew, to show the material as it is now. An editor with edits that are not applied stays.
 void reopenEditor(Mat::MaterialObject& object)
 {
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
@@ -56,7 +56,7 @@ void reopenEditor(Mat::MaterialObject& object)
         mainWindow->set_active_mdi_window(inFront);
 }
 
-/// What the user has made of a material. It knows the object by its numbers, since that may be deleted and come back.
+/// A change of a material. Stores the ids of project and object, since the object may be deleted and come back.
 class MaterialChange final : public QUndoCommand
 {
 public:
@@ -89,7 +89,7 @@ private:
 
     std::uint32_t m_projectId;
     std::uint32_t m_objectId;
-    std::unique_ptr<vxMat::CMaterial> m_other; ///< the material as it is not now
+    std::unique_ptr<vxMat::CMaterial> m_other; ///< before the change; after it while the change is undone
     bool m_done = false;
 };
 

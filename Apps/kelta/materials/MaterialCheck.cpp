@@ -22,7 +22,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::MaterialCheck", text);
 }
 
-/// Checks one material and writes its findings to the message log, as long as there are not too many.
+/// Checks one material and writes its findings to the message log, up to the limit for all materials together.
 void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
 {
     const std::vector<vxMat::MaterialFinding> findings = vxMat::checkMaterial(*object.getCMaterial());

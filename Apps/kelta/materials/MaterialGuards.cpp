@@ -68,7 +68,7 @@ void guardNewProject(const Run& run)
         run();
 }
 
-/// Asks for the file as the command itself does, which then takes the name from here.
+/// Asks for the file with the same dialog as the command, which then gets the answer.
 QString askForFile()
 {
     constexpr const char* context = "CmdMatExport";
@@ -78,7 +78,7 @@ QString askForFile()
             QCoreApplication::translate(context, "All files(*.*)"));
 }
 
-/// Returns the reason against an export that no file name changes; an empty text if there is none.
+/// Returns the reason if no file can be exported, whatever its name; an empty text otherwise.
 QString findObstacle()
 {
     const auto open = materialProjects();
@@ -119,12 +119,12 @@ void guardExport(const Run& run)
     exportTo(path, *open.front(), run);
 }
 
-/// The number of editors that the command would open.
+/// Returns the number of editors that the command would open.
 std::ptrdiff_t countNewEditors()
 {
     const auto selected =
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Mat::MaterialObject::getClassTypeId());
-    // With so many materials the command is refused whether some are open or not, and no time is spent on them.
+    // The command is refused, however many of these are open already. The search for their editors would take long.
     if (static_cast<std::ptrdiff_t>(selected.size()) > 2 * mostAtOnce)
         return static_cast<std::ptrdiff_t>(selected.size());
     const Gui::MainWindow& mainWindow = *Gui::MainWindow::get_main_window_inst();

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-/// While one lives, the pointer shows that the program is at work.
+/// Shows the wait cursor during its lifetime.
 class BusyCursor
 {
 public:

@@ -14,8 +14,8 @@ namespace {
 
 using Entries = std::unordered_map<std::uint64_t, const Json::Value*>;
 
-/// The list of the objects in a record, which material projects have one level deeper than other projects; null if there
-/// is none.
+/// Returns the list of the objects in a record; null if there is none. Records of material projects have it one level
+/// deeper than those of other projects.
 const Json::Value& objectsOf(const Json::Value& database)
 {
     const Json::Value& objects = database.isObject() ? database["objects"] : database;
@@ -51,8 +51,8 @@ Json::Value entryOf(const projectfile::ObjectRecord& object, const Json::Value& 
     return entry;
 }
 
-/// Gives the record of a material project an entry for each material, those whose class is missing included, and for each
-/// other object that has one.
+/// Completes the record of a material project: afterwards it has an entry for each material, those of missing classes
+/// included. Entries of other objects stay.
 void completeMaterials(Json::Value& database, const projectfile::ProjectRecord& record, const Json::Value& earlier)
 {
     const Json::Value present = objectsOf(database);
@@ -72,7 +72,7 @@ void completeMaterials(Json::Value& database, const projectfile::ProjectRecord& 
     database["objects"] = objects.empty() ? Json::Value() : std::move(objects);
 }
 
-/// Writes back what the earlier record said of objects beyond what this host knows.
+/// Copies the members of the earlier entries that this host does not write.
 void addMissingOfObjects(Json::Value& list, const Json::Value& earlierList)
 {
     const Entries earlierEntries = entriesById(earlierList);

@@ -9,9 +9,13 @@
 #include "Gui/MainWindow.h"
 #include "Obj/Application.h"
 #include "kelta/DocumentImport.h"
+#include "kelta/UnappliedEdits.h"
 
 #include <QDir>
 #include <QMenu>
+
+#include <cstdint>
+#include <functional>
 
 namespace desktop {
 
@@ -24,7 +28,7 @@ bool hasProject()
     return Obj::Application::get_current_project() != nullptr;
 }
 
-/// Whether the module of the current project imports documents.
+/// Returns whether the module of the current project imports documents.
 bool canImport()
 {
     return hasProject() && findDocumentImport(*Obj::Application::get_current_project()) != nullptr;
@@ -63,7 +67,7 @@ void openLatest(ProjectFiles& files)
         files.open(paths.front());
 }
 
-/// Adds an entry for each of the files last used; the first nine can be chosen by their numbers.
+/// Adds an entry for each recent file. The digits 1 to 9 choose the first nine.
 void listRecentFiles(ProjectFiles& files, QMenu& menu)
 {
     const QStringList paths = RecentFiles::list();
@@ -74,6 +78,22 @@ void listRecentFiles(ProjectFiles& files, QMenu& menu)
         QObject::connect(menu.addAction(number + text), &QAction::triggered, &menu,
                          [&files, path = paths[index]] { files.open(path); });
     }
+}
+
+/// Asks about edits that are not applied before the command hands the current project over.
+void guardHandOver(const std::function<void()>& run)
+{
+    const Obj::Project& project = *Obj::Application::get_current_project();
+    const std::uint32_t projectId = project.getProjectId();
+    if (!askToApply(*Gui::MainWindow::get_main_window_inst(), project,
+                    {QCoreApplication::translate(context, "Hand over to the solver"),
+                     QCoreApplication::translate(context, "Only what has been applied is handed over."),
+                     QCoreApplication::translate(context, "&Hand over without them")}))
+        return;
+    // The project may have been closed while the user answered.
+    const Obj::Project* const current = Obj::Application::get_current_project();
+    if (current != nullptr && current->getProjectId() == projectId)
+        run();
 }
 
 std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
@@ -115,6 +135,7 @@ std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
 void addFileCommands(Gui::CommandController& commands, ProjectFiles& files)
 {
     Gui::addCommands(commands, context, makeRows(files));
+    commands.addGuard("Std_Collect", guardHandOver);
 }
 
 } // namespace desktop

@@ -35,11 +35,12 @@ bool FileDrops::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     auto* const drop = static_cast<QDropEvent*>(event);
     const QStringList files = filesIn(drop->mimeData());
-    // Nothing is opened behind a question.
+    // While a dialog is open, no file is opened.
     if (files.isEmpty() || QApplication::activeModalWidget() != nullptr)
         return QObject::eventFilter(watched, event);
     drop->acceptProposedAction();
-    // Later: the program that the files come from waits for the end of the drop, and questions may be asked.
+    // Opened when the event loop is next idle: opening may ask questions, and the program from which the files are dragged
+    // waits until the drop has ended.
     if (event->type() == QEvent::Drop)
         QTimer::singleShot(0, this, [this, files] {
             for (const QString& file : files)

@@ -16,7 +16,7 @@ class FileDrops : public QObject
     Q_OBJECT
 
 public:
-    /// To be installed as an event filter of the main window, which owns it.
+    /// Makes the main window its parent. The caller installs it there as an event filter.
     FileDrops(ProjectFiles& files, Gui::MainWindow& mainWindow);
     ~FileDrops() override;
 

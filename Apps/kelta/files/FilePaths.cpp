@@ -8,7 +8,7 @@ namespace desktop {
 QString canonicalPath(const QString& path)
 {
     QFileInfo info(path);
-    // Follows a chain of links to a file that is not there yet; a circle of links has no end.
+    // Follows a chain of links to a file that does not exist yet. The limit ends a circle of links.
     for (int links = 0; !info.exists() && info.isSymLink() && links < 40; ++links)
         info.setFile(info.symLinkTarget());
     if (info.exists())

@@ -4,10 +4,10 @@
 
 namespace desktop {
 
-/// Returns the one path of a file that all ways to it share: links are followed, those to a missing file too.
+/// Returns the canonical path of a file, the same for all its paths: follows links, also those to a missing file.
 QString canonicalPath(const QString& path);
 
-/// Returns a path as the user reads it.
+/// Returns a path with the separators of the system, for texts.
 QString shownPath(const QString& path);
 
 } // namespace desktop

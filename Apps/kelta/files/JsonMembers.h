@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-/// Gives a record the members that only another one has. Nothing if that is not an object.
+/// Copies the members of another record that a record does not have. Does nothing if `other` is not an object.
 void addMissing(Json::Value& record, const Json::Value& other);
 
 /// Returns a part of a record: the members of these names; null if there are none.

@@ -7,23 +7,23 @@
 
 namespace desktop {
 
-/// What a project file says of an object beyond what this program can give to the object, to be written back. A member is
-/// null if there is nothing.
+/// Parts of the record of an object in a project file that this program cannot put into the object. They are written back
+/// when the project is saved. Each is null if there is none.
 struct KeptObject
 {
-    Json::Value further;    ///< members that no program of this version knows, as projectfile::ObjectRecord has them
-    Json::Value properties; ///< by name, those that the object does not have or take
-    Json::Value node;       ///< likewise of the tree node; all of them in a program without windows
+    Json::Value further;    ///< members unknown to this version, as in projectfile::ObjectRecord
+    Json::Value properties; ///< by name, those that the object does not have, or whose values it refuses
+    Json::Value node;       ///< such properties of the tree node; all of them in a program without windows
     Json::Value content;    ///< of an object whose class has no codec
 };
 
-/// The same of the whole project.
+/// Such parts of the record of a project.
 struct KeptMembers
 {
     Json::Value further;
-    Json::Value database;                        ///< the whole record of the project database, as it was read
-    Json::Value properties;                      ///< by name, those that the project does not have or take
-    Json::Value record;                          ///< of a project whose class has no codec
+    Json::Value database;   ///< the whole record of the project database, as it was read
+    Json::Value properties; ///< by name, those that the project does not have, or whose values it refuses
+    Json::Value record;     ///< of a project whose class has no codec
     std::map<std::uint32_t, KeptObject> objects; ///< by id
 };
 

@@ -32,7 +32,7 @@ void select(Obj::Project& project)
     Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
 }
 
-/// Null, with the reason in the message log, if there can be no such project.
+/// Returns null, with the reason in the message log, if the project cannot be made.
 Obj::Project* requestProject(const projectfile::ProjectRecord& record, const std::function<void(Obj::Project&)>& fill)
 {
     vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
@@ -111,7 +111,7 @@ void Opening::rememberText(Obj::Project& project, Session& session) const
         const projectfile::ProjectRecord record = recordProject(project, session.kept);
         session.rememberText(projectfile::writeProject(record), record.nextObjectId);
     } catch (...) {
-        // A project that cannot be written would lose what the user does with it.
+        // What the user does in a project that cannot be written would be lost.
         Obj::Application::instance().closeProject(project);
         throw;
     }

@@ -33,16 +33,16 @@ public:
         : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
     {}
 
-    /// Opens a file and selects the project. Returns false if that fails, which the user has been told; nothing is open
-    /// then that was not before.
+    /// Opens a file and selects the project. If that fails, tells the user the reason and returns false; no project has been
+    /// added then.
     bool open(const QString& path);
 
-    /// Makes a project from a record and selects it. Returns null, with the reason in the message log, if there can be no
-    /// such project. Writes to the message log what is doubtful; `source` is the file of the record.
-    /// \throws std::exception if the content is wrong; the project is then not there
+    /// Makes a project from a record and selects it. Writes doubts about the record to the message log; `source` is the file
+    /// that they name. Returns null, with the reason in the message log, if the project cannot be made.
+    /// \throws std::exception if the content is wrong; no project has been added then
     Obj::Project* makeProject(projectfile::ProjectRecord& record, const QString& source);
 
-    /// Writes doubts about a file to the message log, and shows that.
+    /// Writes doubts about a file to the message log. Shows the log if there are any.
     void warn(const QString& path, const std::vector<std::string>& doubts);
 
 private:

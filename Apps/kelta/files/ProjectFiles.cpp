@@ -6,6 +6,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "kelta/DocumentImport.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QStatusBar>
@@ -24,14 +25,13 @@ constexpr int copyInterval = 60 * 1000; // ms
 ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow)
     : m_mainWindow(mainWindow),
       m_questions(mainWindow),
-      m_editors(mainWindow, m_questions),
       m_opening(mainWindow, m_sessions, m_questions),
-      m_saving(mainWindow, m_sessions, m_questions, m_editors),
+      m_saving(mainWindow, m_sessions, m_questions),
       m_recovery(mainWindow, m_sessions, m_questions, m_opening),
       m_projectClosing(vxMsg::MessageProxy::instance().projectClosing.connect(
           [this](Obj::Project& project, bool& refused) { refused = refused || !mayClose(project); }))
 {
-    // The title shows whether a project is modified, also by what is not a step of the history.
+    // The title shows whether the project is modified, which not only steps of the history change.
     connect(&m_sessions, &Sessions::becameModified, &mainWindow, &Gui::MainWindow::updateCommands,
             Qt::QueuedConnection);
     connect(&m_timer, &QTimer::timeout, this, &ProjectFiles::keepCopies);
@@ -95,7 +95,7 @@ void ProjectFiles::contentChanged(Obj::ProjectObject& object)
 
 bool ProjectFiles::mayClose(Obj::Project& project)
 {
-    const Questions::Unsaved unsaved{isModified(project), m_editors.haveChanges(project)};
+    const Questions::Unsaved unsaved{isModified(project), !findUnapplied(m_mainWindow, project).empty()};
     if (!unsaved.inProject && !unsaved.inEditors)
         return true;
     const auto choice = m_questions.askBeforeClosing(QString::fromUtf8(project.get_name()), unsaved);

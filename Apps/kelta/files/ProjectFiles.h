@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Editors.h"
 #include "Opening.h"
 #include "Questions.h"
 #include "Recovery.h"
@@ -15,15 +14,14 @@
 
 namespace desktop {
 
-/// The project files of the program, for projects of every class: opens and saves them, asks before something would be
-/// lost, and keeps copies for recovery.
+/// Opens and saves projects of every class, asks the user before anything is lost, and keeps copies for recovery.
 class ProjectFiles final : public QObject, public FileService
 {
     Q_OBJECT
 
 public:
     explicit ProjectFiles(Gui::MainWindow& mainWindow);
-    /// Leaves the copies for recovery where they are.
+    /// Does not delete the copies for recovery; end does.
     ~ProjectFiles() override;
 
     bool open(const QString& path) override;
@@ -34,23 +32,25 @@ public:
     bool isModified(const Obj::Project& project) const override;
     void contentChanged(Obj::ProjectObject& object) override;
 
-    /// Saves a project in its file, or asks for one. Returns false if the user gave up, or if the project could not be
-    /// saved.
+    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if the
+    /// project cannot be saved.
     bool save(Obj::Project& project);
+    /// Saves a project in a file that the user chooses, and returns the same.
     bool saveAs(Obj::Project& project);
-    /// Adds the content of an exchange document to a project whose module imports such documents.
+    /// Adds the content of an exchange document to a project. Returns false if that fails, after the user has been told the
+    /// reason, or if no module imports documents into such a project.
     bool importDocument(Obj::Project& project, const QString& path);
 
-    /// Keeps a copy for recovery of every project that has changed since the last one.
+    /// Writes a copy for recovery of every project that has changed since its last copy.
     void keepCopies();
 
 private:
-    /// Whether a project may be closed: asks if it has changes that are not saved, or editors that are not applied.
+    /// Returns whether a project may be closed. Asks the user if it has changes that are not saved, or edits that are not
+    /// applied.
     bool mayClose(Obj::Project& project);
 
     Gui::MainWindow& m_mainWindow;
     Questions m_questions;
-    Editors m_editors;
     Sessions m_sessions;
     Opening m_opening;
     Saving m_saving;

@@ -14,7 +14,7 @@ namespace desktop {
 
 namespace {
 
-/// The label has a member of its own.
+/// The label is not included: it is a separate member of the record.
 Json::Value recordProperties(const Obj::ProjectObject& object)
 {
     Json::Value properties = Obj::writeProperties(object);

@@ -13,15 +13,15 @@ class ProjectObject;
 
 namespace desktop {
 
-/// Returns the content of a project file for a project of any class. The materials in it are still those of the project.
+/// Returns the content of a project file for a project of any class. The record points to the materials of the project.
 /// Throws what the codecs of modules throw.
 projectfile::ProjectRecord recordProject(Obj::Project& project, const KeptMembers& kept);
 
-/// Returns the access to the materials of a class that holds materials, or of one that descends from it; null for another
-/// class.
+/// Returns the function that gets the material of an object of a class; null if neither the class nor a base class is a
+/// material class.
 projectfile::MaterialOf findMaterialAccess(Kelta::TypeInfo type);
 
-/// Returns the material of an object; null if its class holds none.
+/// Returns the material of an object; null if its class is not a material class.
 vxMat::MaterialBase* findMaterial(Obj::ProjectObject& object);
 
 /// Returns the properties of the tree node of an object; null if it has none, as in a program without windows.

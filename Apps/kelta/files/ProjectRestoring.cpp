@@ -22,7 +22,7 @@ namespace desktop {
 
 namespace {
 
-/// Fills one project, step by step: an object can refer to others only when all are there.
+/// Fills one project. Links are made after all objects have been added.
 class Restoring
 {
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)

@@ -58,16 +58,6 @@ bool Questions::mayReplace(const QString& path, Difference difference) const
     return ask(question, {{tr("&Replace"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
-Questions::EditorChoice Questions::askAboutEditor(const QString& title) const
-{
-    const Question question{QMessageBox::Question, tr("Save project"),
-                            tr("The changes of \"%1\" in its editor have not been applied.").arg(title),
-                            tr("Only what has been applied is saved.")};
-    return static_cast<EditorChoice>(ask(question, {{tr("&Apply"), QMessageBox::AcceptRole},
-                                                    {tr("&Save without them"), QMessageBox::DestructiveRole},
-                                                    {tr("Cancel"), QMessageBox::RejectRole}}));
-}
-
 Questions::ClosingChoice Questions::askBeforeClosing(const QString& projectName, Unsaved unsaved) const
 {
     const QString ofEditors = tr("Changes in open editors have not been applied.");

@@ -16,38 +16,32 @@ class FileLock;
 
 namespace desktop {
 
-/// What the files ask and tell the user in message boxes.
+/// The message boxes about project files.
 class Questions
 {
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
-    /// The boxes are in front of `parent`.
+    /// `parent` is the parent of the boxes.
     explicit Questions(QWidget& parent) : m_parent(parent) {}
 
+    /// Tells the user an error.
     void complain(const QString& title, const QString& text) const;
 
-    /// Takes the lock of a file, and asks if another program has it. Returns whether the file may be used.
+    /// Takes the lock of a file. If another program has it, asks the user whether to use the file all the same. Returns
+    /// whether the file may be used.
     bool mayUse(projectfile::FileLock& lock, const QString& path) const;
 
-    /// Why a file is not as this program left it.
+    /// The reason why a file differs from the project as this program last read or wrote it.
     enum class Difference
     {
         ChangedByAnotherProgram,
         OlderThanRecoveredProject,
     };
+    /// Asks whether the project may replace the content of a file that differs.
     bool mayReplace(const QString& path, Difference difference) const;
 
-    enum class EditorChoice
-    {
-        Apply,
-        SaveWithout,
-        Cancel,
-    };
-    /// What is to be done with an editor whose changes are not applied, before its project is saved.
-    EditorChoice askAboutEditor(const QString& title) const;
-
-    /// What would be lost.
+    /// The places of changes that would be lost.
     struct Unsaved
     {
         bool inProject = false;
@@ -59,6 +53,7 @@ public:
         Discard,
         Cancel,
     };
+    /// Asks what to do with the changes of a project that is to be closed.
     ClosingChoice askBeforeClosing(const QString& projectName, Unsaved unsaved) const;
 
     enum class RecoveryChoice
@@ -67,7 +62,7 @@ public:
         Discard,
         Later,
     };
-    /// `times` says when the copies were made.
+    /// Asks what to do with copies for recovery, of which `times` has the times.
     RecoveryChoice askAboutCopies(const QStringList& times) const;
 
 private:
@@ -79,7 +74,7 @@ private:
         QString text;
         QString details;
     };
-    /// Returns the index of the choice; of the last one if the user closes the box.
+    /// Returns the index of the choice; that of the last choice if the user closes the box.
     int ask(const Question& question, const Choices& choices) const;
 
     QWidget& m_parent;

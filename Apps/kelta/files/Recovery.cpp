@@ -28,7 +28,7 @@ void Recovery::keepCopies()
         try {
             keepCopy(*project, *session);
         } catch (...) {
-            // The user has not asked for the copy, so that no box interrupts.
+            // No message box, since the user has not asked for the copy.
             Kelta::MessageLog::warning(tr("No copy for recovery could be kept: %1").arg(Kelta::currentExceptionText()));
         }
     }
@@ -80,7 +80,7 @@ bool Recovery::recoverProject(RecoveryCopy& copy)
         return false;
     Session& session = *m_sessions.find(*project);
     const QString path = QString::fromStdString(record.recoveredFile.value_or(std::string()));
-    // Of two copies of a file only one can be saved in that file.
+    // If there are two copies of a file, only one of them can be saved in that file.
     if (!path.isEmpty() && m_sessions.findOpen(path) == nullptr) {
         session.path = path;
         session.takeLock();
@@ -88,7 +88,7 @@ bool Recovery::recoverProject(RecoveryCopy& copy)
     session.isRecovered = true;
     session.isModified = true;
     m_sessions.noteOpened(*project);
-    // The old copy is destroyed only if there is a new one.
+    // The caller deletes the old copy only if a new one has been written.
     keepCopies();
     m_mainWindow.updateCommands();
     return !session.isCopyDue;

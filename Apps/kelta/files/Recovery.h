@@ -18,7 +18,7 @@ class RecoveryCopy;
 class Sessions;
 struct Session;
 
-/// Keeps copies of projects that have changes, and offers those that a program left which ended without saving.
+/// Writes copies of modified projects, and offers the copies of programs that ended before projects were saved.
 class Recovery
 {
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
@@ -28,9 +28,9 @@ public:
         : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions), m_opening(opening)
     {}
 
-    /// Keeps a copy of every project that has changed since its last copy. What fails is written to the message log.
+    /// Writes a copy of every project that has changed since its last copy. Errors are written to the message log.
     void keepCopies();
-    /// Asks whether the copies of programs that ended are to be recovered, and does that.
+    /// If there are copies of programs that ended, asks whether to recover or discard them, and does so.
     void offer();
 
 private:

@@ -47,9 +47,9 @@ void RecoveryCopy::write(const std::string& text)
 {
     const QString folder = QFileInfo(m_path).absolutePath();
     QDir().mkpath(folder);
-    // Other users may not be allowed to read the project's own file.
+    // The file of the project may be private, so other users must not read the copy.
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    // Locked before it is there, so that no other program takes it for one that was left behind.
+    // Locked before it exists, so that no other program takes it for the copy of a program that ended.
     if (!m_lock.isLocked())
         m_lock.tryLock();
     projectfile::writeFile(m_path, text);

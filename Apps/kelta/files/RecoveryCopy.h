@@ -10,29 +10,30 @@
 
 namespace desktop {
 
-/// A copy of a project with changes, kept beside the user's settings until the project is saved. While the program that
-/// made it runs, a lock keeps other programs away.
+/// A copy of a modified project, stored in the data folder of the user until the project is saved. The program that made it
+/// locks it as long as it runs.
 class RecoveryCopy
 {
 public:
-    /// A copy that is not written yet, under a name that no other copy has.
+    /// Makes a copy with a unique name. It has no file before write is called.
     RecoveryCopy();
     RecoveryCopy(RecoveryCopy&&) noexcept = default;
     RecoveryCopy& operator=(RecoveryCopy&&) noexcept = default;
     ~RecoveryCopy() = default;
 
-    /// Returns the copies that programs left which no longer run, the oldest first. They are locked from now on.
+    /// Returns the copies of programs that no longer run, the oldest first, and locks them.
     static std::vector<RecoveryCopy> findAbandoned();
 
     const QString& path() const { return m_path; }
+    /// Returns the time at which the copy was last written.
     QDateTime time() const;
 
-    /// Replaces the copy whole or not at all.
+    /// Writes the copy in place of the earlier one, which stays if this fails.
     /// \throws projectfile::StoreError
     void write(const std::string& text);
     /// \throws projectfile::StoreError
     std::string read() const;
-    /// Destroys the copy; nothing if there is none.
+    /// Deletes the copy and releases the lock. Does nothing if there is no copy.
     void remove();
 
 private:

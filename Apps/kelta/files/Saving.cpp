@@ -1,7 +1,6 @@
 #include "Saving.h"
 
 #include "BusyCursor.h"
-#include "Editors.h"
 #include "FilePaths.h"
 #include "ProjectRecording.h"
 #include "Questions.h"
@@ -10,7 +9,8 @@
 
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
-#include "Obj/Project.h"
+#include "Obj/Application.h"
+#include "kelta/UnappliedEdits.h"
 
 #include <QFileInfo>
 #include <QStatusBar>
@@ -40,7 +40,12 @@ bool Saving::saveAs(Obj::Project& project)
 
 bool Saving::saveTo(Obj::Project& project, const QString& path)
 {
-    if (!m_editors.applyChanges(project))
+    const std::uint32_t projectId = project.getProjectId();
+    if (!askToApply(m_mainWindow, project,
+                    {tr("Save project"), tr("Only what has been applied is saved."), tr("&Save without them")}))
+        return false;
+    // The project may have been closed while the user answered.
+    if (Obj::Application::instance().get_project(projectId) == nullptr)
         return false;
     Session& session = *m_sessions.find(project);
     try {

@@ -12,7 +12,6 @@ class Project;
 
 namespace desktop {
 
-class Editors;
 class Questions;
 class Sessions;
 struct Session;
@@ -23,27 +22,27 @@ class Saving
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
-    Saving(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions, const Editors& editors)
-        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions), m_editors(editors)
+    Saving(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions)
+        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
     {}
 
-    /// Saves a project in its file, or asks for one. Returns false if the user gave up, or if the project could not be
-    /// saved, which the user has been told; an existing file is then as it was.
+    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if the
+    /// project cannot be saved, after the user has been told the reason; an existing file is unchanged then.
     bool save(Obj::Project& project);
-    /// Likewise in a file that the user chooses.
+    /// Saves a project in a file that the user chooses, and returns the same.
     bool saveAs(Obj::Project& project);
 
 private:
     bool saveTo(Obj::Project& project, const QString& path);
     void write(Obj::Project& project, Session& session, const QString& path) const;
-    /// Whether a project may be written to a file: asks about other programs and later changes, and takes its lock.
+    /// Returns whether a project may be written to a file, and takes its lock. Asks the user if another program uses the file
+    /// or has changed it.
     bool mayWrite(Session& session, const QString& path) const;
     bool mayReplace(const Session& session, const QString& path) const;
 
     Gui::MainWindow& m_mainWindow;
     Sessions& m_sessions;
     const Questions& m_questions;
-    const Editors& m_editors;
 };
 
 } // namespace desktop

@@ -23,7 +23,8 @@ QByteArray checksumOf(const std::string& text)
                                     QCryptographicHash::Md5);
 }
 
-/// A hash of the content. Not of a material, whose module tells of its changes, nor of a placeholder, which never changes.
+/// Returns a hash of the content; 0 for a material, whose module reports changes, and for a placeholder, which never
+/// changes.
 std::size_t hashOfContent(Obj::ProjectObject& object)
 {
     const bool isPlaceholder = dynamic_cast<const Obj::PlaceholderObject*>(&object) != nullptr;

@@ -24,8 +24,8 @@ class ProjectObject;
 
 namespace desktop {
 
-/// What a project file has of an object beside its label, properties and material. The signals of a project do not say
-/// whether this has changed, or the state, which is not a part of the file.
+/// The parts of an object in a project file beside its label, properties and material. When these change, a project sends the
+/// same signal as for a change of the state, which is not in the file. A comparison tells the two apart.
 struct Look
 {
     bool suppressed = false;
@@ -47,23 +47,24 @@ struct Session
 {
     QString path; ///< empty before the project is first saved
     projectfile::FileStamp stamp;
-    QByteArray checksum;            ///< of the text that the project had when the file was opened or last saved
+    QByteArray checksum;            ///< of the text of the project when the file was opened or last saved
     std::uint64_t nextObjectId = 1; ///< in that text
     std::optional<projectfile::FileLock> lock;
     KeptMembers kept;
-    bool isRecovered = false; ///< not saved since it was recovered: the file is older
+    bool isRecovered = false; ///< has been recovered, and not saved since; the file is older
     bool isModified = false;
     bool isCopyDue = false;
     std::unique_ptr<RecoveryCopy> copy;
     std::map<std::uint32_t, Look> looks; ///< by the id of the object
     std::vector<boost::signals2::scoped_connection> connections;
 
-    /// Keeps the text of the project as the one that the file agrees with.
+    /// Remembers the text of the project when it agrees with the file.
     void rememberText(const std::string& text, std::uint64_t nextId);
+    /// Returns whether the project, with this text, agrees with the file.
     bool isRememberedText(const std::string& text) const;
-    /// Reserves the file. Writes to the message log if another program has it, or if no lock can be made.
+    /// Locks the file. Writes a warning to the message log if another program has it, or if it cannot be locked.
     void takeLock();
-    /// Destroys the copy for recovery, if there is one.
+    /// Deletes the copy for recovery. Does nothing if there is none.
     void forgetCopy();
 };
 

@@ -52,11 +52,11 @@ void Sessions::forgetCopies()
         session.forgetCopy();
 }
 
-// --- Projects come and leave ---
+// --- Projects are added and removed ---
 
 void Sessions::add(Obj::Project& project)
 {
-    // A project that undo brings back is known already; its file may have got another user meanwhile.
+    // A project that undo brings back has a session already. Another program may use its file meanwhile.
     Session& session = m_sessions[project.getProjectId()];
     session.isCopyDue = session.isModified;
     if (!session.path.isEmpty() && !session.lock)
@@ -95,7 +95,7 @@ void Sessions::noteOpened(Obj::Project& project)
     session.isCopyDue = session.isModified;
     for (Obj::ProjectObject* const object : project.getObjects())
         session.looks[object->getObjectId()] = Look::of(*object);
-    // The present history ends with the command that opens the file, if there is any.
+    // If there is a history, it ends with the command that opens the file.
     const bool historyEnds = vxMsg::MessageProxy::instance().undoStack().count() != 0;
     (historyEnds ? m_openedProject : m_cleanProject) = session.isModified ? 0 : project.getProjectId();
 }
@@ -143,7 +143,7 @@ void Sessions::noteSaved(Obj::Project& project)
     session.isRecovered = false;
     session.isModified = false;
     session.forgetCopy();
-    // Not possible while a step of the history is being made, as when editors have been applied for this.
+    // Fails while a step of the history is being made, as when saving has applied edits.
     QUndoStack& history = vxMsg::MessageProxy::instance().undoStack();
     m_cleanProject = 0;
     history.setClean();
@@ -156,7 +156,7 @@ void Sessions::historyMoved()
 {
     if (vxMsg::MessageProxy::instance().undoStack().count() != 0)
         return;
-    // A history that ends leaves modified projects modified, and closed ones closed.
+    // When the history ends, modified projects stay modified, and closed projects cannot come back.
     m_cleanProject = std::exchange(m_openedProject, 0);
     for (auto session = m_sessions.begin(); session != m_sessions.end();) {
         const bool isOpen = Obj::Application::instance().get_project(session->first) != nullptr;
@@ -175,11 +175,11 @@ void Sessions::historyIsClean(bool clean)
 
 void Sessions::reconsider(Session& session, Obj::Project& project)
 {
-    // Not everything is a step of the history, so the content decides.
+    // Not every change is a step of the history, so the content is compared.
     projectfile::ProjectRecord record = recordProject(project, session.kept);
     if (!record.objects.empty() && record.objects.back().objectId >= session.nextObjectId)
         return;
-    // An id that was used and taken back is not a change.
+    // An id that was used in between, and is free again, is not a change.
     record.nextObjectId = session.nextObjectId;
     if (!session.isRememberedText(projectfile::writeProject(record)))
         return;

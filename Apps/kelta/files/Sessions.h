@@ -15,8 +15,7 @@ class Property;
 
 namespace desktop {
 
-/// The sessions of all projects that are open, and of closed ones as long as undo can bring them back. Notices changes of
-/// projects.
+/// The sessions of all open projects, and of closed projects that undo can bring back. Detects changes of the projects.
 class Sessions : public QObject
 {
     Q_OBJECT
@@ -28,18 +27,19 @@ public:
     /// Returns the session of a project; null if the project is unknown.
     Session* find(const Obj::Project& project);
     const Session* find(const Obj::Project& project) const;
-    /// Returns the open project that has a file; null if none has.
+    /// Returns the open project of a file; null if the file is not open.
     Obj::Project* findOpen(const QString& path) const;
 
+    /// Marks a project as modified, and its copy for recovery as due.
     void markModified(const Obj::Project& project);
-    /// The project has just been opened: the session has the content, and says whether that is modified already.
+    /// To be called when a project has been opened. Its session must be complete, including whether it is modified already.
     void noteOpened(Obj::Project& project);
-    /// The file has just got the content of the project.
+    /// To be called when a project has been saved.
     void noteSaved(Obj::Project& project);
-    /// Destroys all copies for recovery.
+    /// Deletes all copies for recovery.
     void forgetCopies();
 
-    /// While one lives, projects are being filled, which is not a change.
+    /// Projects that are filled during its lifetime are not modified by that.
     class Filling
     {
     public:
@@ -53,7 +53,7 @@ public:
     };
 
 Q_SIGNALS:
-    /// A project that had no changes is modified.
+    /// A project without changes has become modified.
     void becameModified();
 
 private:
@@ -64,12 +64,13 @@ private:
     void objectChanged(Obj::ProjectObject& object, const Obj::Property* property);
     void historyMoved();
     void historyIsClean(bool clean);
-    /// The history says that the project is as its file is: finds out whether that is so.
+    /// Compares a project with its file, when the history has returned to the step at which they agreed.
     static void reconsider(Session& session, Obj::Project& project);
 
     std::map<std::uint32_t, Session> m_sessions; ///< by the id of the project
-    std::uint32_t m_cleanProject = 0;            ///< whose file agrees with the clean state of the history; 0 for none
-    std::uint32_t m_openedProject = 0;           ///< likewise as soon as the present history has ended
+    std::uint32_t m_cleanProject =
+        0; ///< the id of the project that is saved in the clean state of the history; 0 for none
+    std::uint32_t m_openedProject = 0; ///< becomes m_cleanProject when the present history ends; 0 for none
     int m_fillings = 0;
     std::vector<boost::signals2::scoped_connection> m_connections;
 };

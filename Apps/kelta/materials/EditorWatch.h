@@ -21,7 +21,7 @@ class EditorWatch : public QObject
     Q_OBJECT
 
 public:
-    /// Belongs to the main window, whose editors it watches from then on.
+    /// Makes the main window its parent, and watches the editors that are added to it from then on.
     explicit EditorWatch(Gui::MainWindow& mainWindow);
     ~EditorWatch() override;
 

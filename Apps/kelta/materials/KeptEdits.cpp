@@ -6,29 +6,39 @@
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
 #include "vxMaterial/gui/MaterialView.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <QTimer>
+#include <QUndoStack>
+
+#include <iterator>
 
 namespace desktop {
 
 namespace {
 
-/// Opens the editor of an object; null if there is none.
+Obj::ProjectObject* findObject(std::uint32_t projectId, std::uint32_t objectId)
+{
+    const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
+    return project != nullptr ? project->get_object(objectId) : nullptr;
+}
+
+/// Opens the editor of an object, and returns it; null if the object has none.
 MatGui::MaterialView* openEditor(Obj::ProjectObject& object)
 {
     Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
     if (node == nullptr)
         return nullptr;
     node->setEdit(0);
-    for (Gui::MDIWindow* const window : Gui::MainWindow::get_main_window_inst()->getMdiWindows())
-        if (window->getEditedObject() == &object)
-            return qobject_cast<MatGui::MaterialView*>(window);
-    return nullptr;
+    return qobject_cast<MatGui::MaterialView*>(Gui::MainWindow::get_main_window_inst()->editorOf(object));
 }
 
 } // namespace
 
-KeptEdits::KeptEdits(QObject* parent) : QObject(parent) {}
+KeptEdits::KeptEdits(QObject* parent) : QObject(parent)
+{
+    connect(&vxMsg::MessageProxy::instance().undoStack(), &QUndoStack::indexChanged, this, &KeptEdits::historyMoved);
+}
 
 KeptEdits::~KeptEdits() = default;
 
@@ -42,7 +52,7 @@ void KeptEdits::keep(Obj::Project& project, std::uint32_t objectId, Json::Value 
         return;
     m_connections[projectId] = project.objectAdded.connect([this, projectId](const Obj::ProjectObject& added) {
         const Place place(projectId, added.getObjectId());
-        // Later, when the step of undo or redo is complete.
+        // The editor is opened after the step of undo or redo.
         if (m_edits.count(place) != 0)
             QTimer::singleShot(0, this, [this, place] { bringBack(place); });
     });
@@ -51,8 +61,7 @@ void KeptEdits::keep(Obj::Project& project, std::uint32_t objectId, Json::Value 
 void KeptEdits::bringBack(const Place& place)
 {
     Kelta::guarded(tr("Changes that were not applied cannot be shown again"), [&] {
-        const Obj::Project* const project = Obj::Application::instance().get_project(place.first);
-        Obj::ProjectObject* const object = project != nullptr ? project->get_object(place.second) : nullptr;
+        Obj::ProjectObject* const object = findObject(place.first, place.second);
         const auto kept = m_edits.find(place);
         if (object == nullptr || kept == m_edits.end())
             return;
@@ -61,6 +70,18 @@ void KeptEdits::bringBack(const Place& place)
         if (MatGui::MaterialView* const editor = openEditor(*object))
             editor->restoreUnapplied(edits);
     });
+}
+
+void KeptEdits::historyMoved()
+{
+    if (vxMsg::MessageProxy::instance().undoStack().count() != 0)
+        return;
+    m_connections.clear();
+    for (auto kept = m_edits.begin(); kept != m_edits.end();) {
+        // A material that has just come back shows its edits when the event loop is next idle.
+        const bool isBack = findObject(kept->first.first, kept->first.second) != nullptr;
+        kept = isBack ? std::next(kept) : m_edits.erase(kept);
+    }
 }
 
 } // namespace desktop

@@ -14,8 +14,9 @@ class Project;
 
 namespace desktop {
 
-/// Keeps edits that are not applied when their material is removed, which closes its editor: by undo, redo or deletion. If
-/// the same material comes back into its project, its editor is opened again and shows the edits.
+/// Keeps edits that are not applied when undo, redo or a deletion removes their material, which closes its editor. If undo
+/// or redo bring the material back, opens its editor again and shows the edits. The edits are destroyed when the history
+/// ends, since nothing brings the material back from then on.
 class KeptEdits : public QObject
 {
     Q_OBJECT
@@ -24,14 +25,15 @@ public:
     explicit KeptEdits(QObject* parent);
     ~KeptEdits() override;
 
-    /// Keeps what MaterialView::unappliedEdits returned for a material that is being removed from the project. Null is not
-    /// kept.
+    /// Keeps what MaterialView::unappliedEdits returned for a material that is being removed from the project. Does nothing
+    /// if the edits are null.
     void keep(Obj::Project& project, std::uint32_t objectId, Json::Value edits);
 
 private:
     using Place = std::pair<std::uint32_t, std::uint32_t>; ///< the ids of project and object
 
     void bringBack(const Place& place);
+    void historyMoved();
 
     std::map<Place, Json::Value> m_edits;
     std::map<std::uint32_t, boost::signals2::scoped_connection> m_connections; ///< to the projects, by their ids

@@ -39,26 +39,24 @@ Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectI
     return project != nullptr ? dynamic_cast<Mat::MaterialObject*>(project->get_object(objectId)) : nullptr;
 }
 
-/// An editor without changes of its own shows the material as it is now. One with changes keeps them.
+/// Opens the editor of a material anew, to show the material as it is now. An editor with edits that are not applied stays.
 void reopenEditor(Mat::MaterialObject& object)
 {
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (mainWindow == nullptr)
         return;
-    for (Gui::MDIWindow* const window : mainWindow->getMdiWindows()) {
-        if (window->getEditedObject() != &object || window->isWindowModified())
-            continue;
-        Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
-        const bool wasInFront = inFront == window;
-        window->remove_viewself();
-        Gui::GuiApplication::Instance->get_view_feeder(&object)->setEdit(0);
-        if (!wasInFront)
-            mainWindow->set_active_mdi_window(inFront);
+    Gui::MDIWindow* const editor = mainWindow->editorOf(object);
+    if (editor == nullptr || editor->isWindowModified())
         return;
-    }
+    Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
+    const bool wasInFront = inFront == editor;
+    editor->remove_viewself();
+    Gui::GuiApplication::Instance->get_view_feeder(&object)->setEdit(0);
+    if (!wasInFront)
+        mainWindow->set_active_mdi_window(inFront);
 }
 
-/// What the user has made of a material. It knows the object by its numbers, since that may be deleted and come back.
+/// A change of a material. Stores the ids of project and object, since the object may be deleted and come back.
 class MaterialChange final : public QUndoCommand
 {
 public:
@@ -91,7 +89,7 @@ private:
 
     std::uint32_t m_projectId;
     std::uint32_t m_objectId;
-    std::unique_ptr<vxMat::CMaterial> m_other; ///< the material as it is not now
+    std::unique_ptr<vxMat::CMaterial> m_other; ///< before the change; after it while the change is undone
     bool m_done = false;
 };
 

@@ -11,19 +11,18 @@ class MaterialObject;
 
 namespace desktop {
 
-/// Returns a copy of a material with every field, the library group and the slots of its properties included.
+/// Returns a copy of a material with all fields, the library group and the slots of the properties included.
 std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
 
-/// Whether two materials have the same fields and properties. A zero is not a negative zero, and
-/// what is not a number is the same as what is none either.
+/// Returns whether two materials have the same fields and properties. Zero and negative zero are different; all NaN values
+/// are the same.
 bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second);
 
-/// The material of an object is another than before: it has been changed by a step of the history, or one has been taken
-/// back or made again.
+/// Sent after a step of the history has changed the material of an object, and after such a step was undone or redone.
 Obj::Signal<void(Mat::MaterialObject&)>& materialChanged();
 
-/// Makes a step of the history of what has been done to the material of `object`, which was `before`. Has the object
-/// looked at anew. False when nothing has changed; there is then no step.
+/// Records a change of the material of `object` as a step of the history, and updates the object. `before` is a copy of the
+/// material before the change. Returns false, and makes no step, if the material has not changed.
 bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before);
 
 } // namespace desktop

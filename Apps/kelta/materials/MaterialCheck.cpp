@@ -1,8 +1,8 @@
 #include "MaterialCheck.h"
 
-#include "UnappliedEdits.h"
-
+#include "Gui/MainWindow.h"
 #include "Kelta/MessageLog.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMaterial/gui/FindingText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -22,7 +22,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::MaterialCheck", text);
 }
 
-/// Checks one material and writes its findings to the message log, as long as there are not too many.
+/// Checks one material and writes its findings to the message log, up to the limit for all materials together.
 void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
 {
     const std::vector<vxMat::MaterialFinding> findings = vxMat::checkMaterial(*object.getCMaterial());
@@ -52,11 +52,12 @@ QString CheckSummary::toText(const QString& projectName) const
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project)
 {
     CheckSummary summary;
-    for (const Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
-        checkMaterial(*static_cast<const Mat::MaterialObject*>(object), summary);
+    for (const Mat::MaterialObject* const object : Mat::materialsOf(project))
+        checkMaterial(*object, summary);
     if (summary.findings > mostReported)
         Kelta::MessageLog::warning(tr("Further findings are not listed: %1.").arg(summary.findings - mostReported));
-    summary.unapplied = findUnapplied(project).size();
+    if (const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
+        summary.unapplied = findUnapplied(*mainWindow, project).size();
     return summary;
 }
 

@@ -10,13 +10,13 @@ class DocumentMaterial;
 
 namespace desktop {
 
-/// What a check of all materials of a project has found.
+/// The result of a check of all materials of a project.
 struct CheckSummary
 {
-    std::size_t materials = 0; ///< those that were checked
-    std::size_t notReady = 0;  ///< those with findings
+    std::size_t materials = 0; ///< the number that was checked
+    std::size_t notReady = 0;  ///< the number with findings
     std::size_t findings = 0;  ///< of all materials together
-    std::size_t unapplied = 0; ///< those whose editors have changes that are not applied, and are not checked
+    std::size_t unapplied = 0; ///< editors with edits that are not applied, which were not checked
     bool isReady() const { return notReady == 0; }
     /// Returns a sentence for the user about the project of this name.
     QString toText(const QString& projectName) const;

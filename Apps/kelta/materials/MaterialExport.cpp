@@ -32,14 +32,6 @@ QString labelOf(const Obj::ProjectObject& object)
     return QString::fromStdString(object.label.getValue());
 }
 
-std::vector<const Mat::MaterialObject*> materialsOf(const Mat::DocumentMaterial& project)
-{
-    std::vector<const Mat::MaterialObject*> materials;
-    for (const Obj::ProjectObject* const object : project.get_objects_of_type(Mat::MaterialObject::getClassTypeId()))
-        materials.push_back(static_cast<const Mat::MaterialObject*>(object));
-    return materials;
-}
-
 /// Returns the sentence about a property of an object for which readers refuse a document.
 QString describe(const vxCAE::ExportObstacle& obstacle, const Mat::MaterialObject& object)
 {
@@ -70,7 +62,7 @@ void reportLosses(const Mat::MaterialObject& object)
 
 QString findExportObstacle(const Mat::DocumentMaterial& project)
 {
-    for (const Mat::MaterialObject* const object : materialsOf(project))
+    for (const Mat::MaterialObject* const object : Mat::materialsOf(project))
         if (const auto obstacles = vxCAE::findExportObstacles(*object->getCMaterial()); !obstacles.empty())
             return describe(obstacles.front(), *object);
     return {};
@@ -97,7 +89,7 @@ void reportExport(const Mat::DocumentMaterial& project, const QString& path)
     const QString shown = QDir::toNativeSeparators(path);
     try {
         const std::size_t written = projectfile::importExchange(projectfile::readFile(path)).materials.size();
-        const auto materials = materialsOf(project);
+        const auto materials = Mat::materialsOf(project);
         for (const Mat::MaterialObject* const object : materials)
             reportLosses(*object);
         QString text = tr("Materials written to \"%1\": %2.").arg(shown, QString::number(written));

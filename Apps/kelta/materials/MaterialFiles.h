@@ -2,8 +2,8 @@
 
 namespace desktop {
 
-/// Makes the files, the clipboard and the recovery of the application carry materials, and adds the import of exchange
-/// documents to material projects. To be called after the classes of materials are registered, and once.
+/// Registers how project files, the clipboard and copies for recovery store materials, and the import of exchange documents
+/// into material projects. To be called once, after the classes of materials are registered.
 void registerMaterialFiles();
 
 } // namespace desktop

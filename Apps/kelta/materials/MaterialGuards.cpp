@@ -2,13 +2,12 @@
 
 #include "MaterialExport.h"
 #include "MaterialProjects.h"
-#include "UnappliedEdits.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"
-#include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
@@ -69,7 +68,7 @@ void guardNewProject(const Run& run)
         run();
 }
 
-/// Asks for the file as the command itself does, which then takes the name from here.
+/// Asks for the file with the same dialog as the command, which then gets the answer.
 QString askForFile()
 {
     constexpr const char* context = "CmdMatExport";
@@ -79,7 +78,7 @@ QString askForFile()
             QCoreApplication::translate(context, "All files(*.*)"));
 }
 
-/// Returns the reason against an export that no file name changes; an empty text if there is none.
+/// Returns the reason if no file can be exported, whatever its name; an empty text otherwise.
 QString findObstacle()
 {
     const auto open = materialProjects();
@@ -106,7 +105,7 @@ void guardExport(const Run& run)
     if (const QString obstacle = findObstacle(); !obstacle.isEmpty())
         return refuse(title, obstacle);
     const std::uint32_t projectId = materialProjects().front()->getProjectId();
-    if (!askToApply(*materialProjects().front(),
+    if (!askToApply(*Gui::MainWindow::get_main_window_inst(), *materialProjects().front(),
                     {title, tr("Only what has been applied is exported."), tr("&Export without them")}))
         return;
     const QString path = askForFile();
@@ -120,23 +119,18 @@ void guardExport(const Run& run)
     exportTo(path, *open.front(), run);
 }
 
-bool isOpenInEditor(const Obj::ProjectObject* object)
-{
-    const auto windows = Gui::MainWindow::get_main_window_inst()->getMdiWindows();
-    return std::any_of(windows.begin(), windows.end(),
-                       [object](const Gui::MDIWindow* window) { return window->getEditedObject() == object; });
-}
-
-/// The number of editors that the command would open.
+/// Returns the number of editors that the command would open.
 std::ptrdiff_t countNewEditors()
 {
     const auto selected =
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Mat::MaterialObject::getClassTypeId());
-    // With so many materials the command is refused whether some are open or not, and no time is spent on them.
+    // The command is refused, however many of these are open already. The search for their editors would take long.
     if (static_cast<std::ptrdiff_t>(selected.size()) > 2 * mostAtOnce)
         return static_cast<std::ptrdiff_t>(selected.size());
-    return std::count_if(selected.begin(), selected.end(),
-                         [](const Obj::ProjectObject* object) { return !isOpenInEditor(object); });
+    const Gui::MainWindow& mainWindow = *Gui::MainWindow::get_main_window_inst();
+    return std::count_if(selected.begin(), selected.end(), [&mainWindow](const Obj::ProjectObject* object) {
+        return mainWindow.editorOf(*object) == nullptr;
+    });
 }
 
 void guardEdit(const Run& run)

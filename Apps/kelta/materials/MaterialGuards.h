@@ -6,10 +6,10 @@ class CommandController;
 
 namespace desktop {
 
-/// Puts the application's questions and reports around commands of the materials module, which asks and reports nothing:
-/// - "Mat_NewDoc" asks to close the open material project first, since only one can be used at a time.
-/// - "Mat_Export" asks about edits that are not applied, says why a project cannot be exported, and tells afterwards what
-///   was written and what was not.
+/// Adds questions and reports to commands of the materials module, which itself neither asks nor reports:
+/// - "Mat_NewDoc" asks whether to close the open material project first, since only one can be used at a time.
+/// - "Mat_Export" asks about edits that are not applied, says why a project cannot be exported, and reports afterwards
+///   what was written and what was not.
 /// - "Mat_Edit" asks before it opens more than ten editors, and refuses more than a hundred.
 /// To be called once, after the commands are registered.
 void addMaterialGuards(Gui::CommandController& commands);

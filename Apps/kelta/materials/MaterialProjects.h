@@ -8,10 +8,10 @@ class DocumentMaterial;
 
 namespace desktop {
 
-/// The material projects that are open. The application keeps them.
+/// Returns the open material projects. The application owns them.
 std::vector<Mat::DocumentMaterial*> materialProjects();
 
-/// The current project, if it is a material project; null otherwise.
+/// Returns the current project if it is a material project; null otherwise.
 Mat::DocumentMaterial* currentMaterialProject();
 
 } // namespace desktop

@@ -4,9 +4,6 @@
 #include "MaterialCheck.h"
 #include "MaterialProjects.h"
 
-#include "Gui/CommandController.h"
-#include "Gui/FileDialog.h"
-#include "Gui/GuiApplication.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "kelta/Batch.h"
 #include "vxMaterial/exchange/CardSet.h"
@@ -34,14 +31,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::Batch", text);
 }
 
-/// The first material project; null if there is none.
+/// Returns the first material project; null if none is open.
 Mat::DocumentMaterial* findProject()
 {
     const auto projects = materialProjects();
     return projects.empty() ? nullptr : projects.front();
 }
 
-/// The one material that is selected, in a project of materials; null otherwise.
+/// Returns the selected object; null unless it is a single material of a material project.
 Mat::MaterialObject* selectedMaterial()
 {
     const auto objects =
@@ -72,7 +69,7 @@ Failure useLibraryMaterial(const QStringList& arguments)
     return tr("the library has no material \"%1\"").arg(arguments[0]);
 }
 
-/// Returns the reason against a value that breaks a rule of the quantity, or of which a part would be ignored.
+/// Returns the reason if a value breaks a rule of the quantity, or if a part of its text would be ignored.
 Failure findFault(std::int32_t id, const std::string& value)
 {
     if (const char* const wrong = vxMat::checkRow(id, value))
@@ -90,8 +87,8 @@ bool isFinite(const vxMat::MaterialProperty& property)
                                                         [](double number) { return std::isfinite(number); });
 }
 
-/// Gives a material a quantity of the catalogue. The value is read from the text, as the editor does it; what the text does
-/// not say comes from the catalogue.
+/// Gives a material a quantity of the catalogue. Reads the value from the text as the editor does, and takes name, unit
+/// and description from the catalogue.
 Failure setQuantity(Mat::MaterialObject& object, const vxMat::MaterialProperty& quantity, const std::string& value)
 {
     if (Failure fault = findFault(quantity.id, value))
@@ -119,8 +116,10 @@ Failure setNamedQuantity(const QStringList& arguments)
     return tr("the catalogue has no quantity \"%1\"").arg(arguments[0]);
 }
 
-Failure clearMaterial(const QStringList&)
+Failure clearMaterial(const QStringList& arguments)
 {
+    if (!arguments.isEmpty())
+        return tr("no argument is taken");
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr)
         return tr("one selected material is needed");
@@ -142,17 +141,7 @@ Failure checkMaterials(const QStringList& arguments)
     return summary.isReady() ? Failure() : Failure(summary.toText(QString::fromUtf8(project->get_name())));
 }
 
-/// Runs a command as a line of a list does. A command that asks for a file gets `file`.
-Failure runCommand(const char* name, const QString& file)
-{
-    Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().findCommand(name);
-    if (command == nullptr || !command->is_applicable())
-        return tr("%1 cannot be done now").arg(QLatin1String(name));
-    Gui::FileDialog::answerNext(file);
-    return command->invoke() ? Failure() : Failure(tr("%1 failed").arg(QLatin1String(name)));
-}
-
-/// The command would ask whether to close the open project, and a list must not lose it by an answer that nobody gives.
+/// The command asks whether to close the open project. A list has no user who answers, and must not lose the project.
 Failure makeProject(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
@@ -160,34 +149,27 @@ Failure makeProject(const QStringList& arguments)
     if (const Obj::Project* const open = findProject())
         return tr("the material project \"%1\" is open; close it first with select-project and Mat_DelDoc")
             .arg(QString::fromUtf8(open->get_name()));
-    return runCommand("Mat_NewDoc", {});
+    return Batch::invokeCommand(QStringLiteral("Mat_NewDoc"), {});
 }
 
 Failure exportMaterials(const QStringList& arguments)
 {
     if (arguments.size() != 1 || arguments.front().isEmpty())
         return tr("Mat_Export needs one argument, the name of the file to write");
-    return runCommand("Mat_Export", arguments.front());
+    return Batch::invokeCommand(QStringLiteral("Mat_Export"), arguments);
 }
 
-Failure collectMaterials(const QStringList&)
+Failure printCards(const QStringList& arguments)
 {
-    Mat::DocumentMaterial* const project = findProject();
-    if (project == nullptr)
-        return tr("there is no material project");
-    project->collect_frontend_data();
-    return std::nullopt;
-}
-
-Failure printCards(const QStringList&)
-{
+    if (!arguments.isEmpty())
+        return tr("no argument is taken");
     const Mat::DocumentMaterial* const project = findProject();
     if (project == nullptr)
         return tr("there is no material project");
     QTextStream output(stdout);
-    for (const Obj::ProjectObject* const object : project->get_objects_of_type(Mat::MaterialObject::getClassTypeId())) {
+    for (const Mat::MaterialObject* const object : Mat::materialsOf(*project)) {
         vxCAE::MaterialEntry entry;
-        static_cast<const Mat::MaterialObject*>(object)->getCMaterial()->copyTo(entry.material.get());
+        object->getCMaterial()->copyTo(entry.material.get());
         entry.classifyKind();
         const vxCAE::CardSet cards = vxCAE::makeCardSet(entry, vxCAE::MaterialSource::Complete);
         output << QString::fromStdString(object->label.getValue()) << '\n';
@@ -207,11 +189,10 @@ void registerMaterialVerbs()
     Batch::registerVerb(QStringLiteral("set"), setNamedQuantity);
     Batch::registerVerb(QStringLiteral("clear"), clearMaterial);
     Batch::registerVerb(QStringLiteral("check"), checkMaterials);
-    // In place of the commands of the same names, which ask the user what a list must say.
+    // The commands of the same names ask the user for what a list must say.
     Batch::registerVerb(QStringLiteral("Mat_Check"), checkMaterials);
     Batch::registerVerb(QStringLiteral("Mat_NewDoc"), makeProject);
     Batch::registerVerb(QStringLiteral("Mat_Export"), exportMaterials);
-    Batch::registerVerb(QStringLiteral("collect"), collectMaterials);
     Batch::registerVerb(QStringLiteral("cards"), printCards);
 }
 

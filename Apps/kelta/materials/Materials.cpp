@@ -16,14 +16,14 @@
 
 namespace {
 
-/// A material that the user adds begins as structural steel, so that there is something to change.
+/// Makes a new material structural steel, so that the user has values to change.
 void fillNewMaterial(Obj::ProjectObject& object)
 {
     if (auto* const material = dynamic_cast<Mat::MaterialObject*>(&object))
         material->initCMaterial(vxMat::eMaterialType::StructuralSteel);
 }
 
-/// What the user sees of materials in the window.
+/// Adds menus, commands and their guards for materials to the window.
 void addToWindows(Gui::GuiApplication& application)
 {
     desktop::registerMaterialContributions(application);
@@ -32,8 +32,8 @@ void addToWindows(Gui::GuiApplication& application)
 
 } // namespace
 
-/// The entry by which the program loads this side, after the plug-in. Safe to call more than once. Throws nothing; errors
-/// are reported to the message log.
+/// The entry function of this module, called after those of the materials module. Safe to call more than once. Throws
+/// nothing; errors are reported to the message log.
 extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
 {
     static bool done = false;

@@ -6,15 +6,15 @@ class MainWindow;
 
 namespace desktop {
 
-/// Gives the program its project files: the commands, drops on the window, recovery. To be called once, before modules
+/// Adds project files to the program: their commands, drops on the window, and recovery. To be called once, before modules
 /// are loaded.
 void startFiles(Gui::MainWindow& window);
 
-/// Loads all modules and activates the first workbench that they bring, or the standard one if they bring none. Returns
-/// whether there are modules and all of them work. What cannot be loaded is reported to the message log.
+/// Loads all modules and activates their first workbench, or the standard workbench if they have none. Returns false if
+/// there is no module, or if one cannot be loaded; the reason is in the message log.
 bool loadModules(Gui::MainWindow& window);
 
-/// Destroys all that modules have made, while the modules are still there.
+/// Destroys everything that modules have created. To be called while the modules are still loaded.
 void shutDown();
 
 } // namespace desktop

@@ -37,15 +37,15 @@ void describe(CLI::App& program, Options& options)
     program.set_version_flag("--version", "kelta " KELTA_VERSION);
     program
         .add_option("--batch", options.batch,
-                    "run the commands of a file, one a line, without a display; - is standard input")
+                    "run the commands of a file, one per line, without a display; - is standard input")
         ->type_name("FILE");
-    program.add_option("--screenshot", options.screenshot, "save the main window as PNG, and end")->type_name("FILE");
-    program.add_option("--language", options.language, "en, de or zh_CN; that of the system when it is not given")
+    program.add_option("--screenshot", options.screenshot, "save the main window as a PNG file, then exit")
+        ->type_name("FILE");
+    program.add_option("--language", options.language, "en, de or zh_CN; the default is the language of the system")
         ->type_name("LANGUAGE");
     program.add_option("files", options.files, "project files to open")->type_name("FILE");
-    program.footer(
-        "Example: kelta --batch examples/tour.batch\n"
-        "Exit status: 0 when all went well, 1 when a command failed, 2 when a file cannot be read or written.");
+    program.footer("Example: kelta --batch examples/tour.batch\n"
+                   "Exit status: 0 for success, 1 if a command failed, 2 if a file cannot be read or written.");
 }
 
 bool hasDisplay()
@@ -58,7 +58,7 @@ bool runsAlone(const Options& options)
     return !options.batch.empty() || !options.screenshot.empty();
 }
 
-/// A program without windows of its own writes the message log to standard error.
+/// Writes each message of the message log to standard error too, since a program without a user shows no log.
 void echoMessages()
 {
     QObject::connect(
@@ -71,7 +71,10 @@ int saveScreenshot(Gui::MainWindow& window, const std::string& path)
     QCoreApplication::processEvents();
     if (window.grab().save(QString::fromStdString(path), "PNG"))
         return 0;
-    QTextStream(stderr) << "kelta: " << QString::fromStdString(path) << " cannot be written\n";
+    QTextStream(stderr)
+        << "kelta: "
+        << QCoreApplication::translate("desktop::Batch", "%1 cannot be written").arg(QString::fromStdString(path))
+        << '\n';
     return 2;
 }
 
@@ -92,14 +95,15 @@ void askBeforeClosing(const Gui::MainWindow& window, bool& refused)
         window.saveLayout();
 }
 
-/// Returns the name of a project in the title: that of its file, if it has one.
+/// Returns the name of a project for the title: the name of its file, if it has one.
 QString nameOf(const Obj::Project& project)
 {
     const QString file = desktop::FileService::instance()->getFile(project);
     return file.isEmpty() ? QString::fromUtf8(project.get_name()) : QFileInfo(file).fileName();
 }
 
-/// Shows the document in front, its project and the program, and whether the project is modified.
+/// Shows the names of the active document, the current project and the program in the title, and whether the project is
+/// modified.
 void updateTitle(Gui::MainWindow& window)
 {
     QStringList parts;
@@ -113,7 +117,7 @@ void updateTitle(Gui::MainWindow& window)
     window.setWindowModified(project != nullptr && desktop::FileService::instance()->isModified(*project));
 }
 
-/// Opens the files that the program was started with, after the copies for recovery of earlier runs.
+/// Offers the copies for recovery of earlier runs, then opens the files of the command line.
 void openFiles(const std::vector<std::string>& paths)
 {
     desktop::FileService& files = *desktop::FileService::instance();
@@ -122,7 +126,8 @@ void openFiles(const std::vector<std::string>& paths)
         files.open(QFile::decodeName(path.c_str()));
 }
 
-/// Likewise in a program without a user; returns false if one cannot be opened, which standard error then says.
+/// Opens the files of the command line in a program without a user. Stops at the first that cannot be opened, writes the
+/// reason to standard error, and returns false.
 bool openFilesAlone(const std::vector<std::string>& paths)
 {
     for (const std::string& path : paths) {
@@ -135,13 +140,14 @@ bool openFilesAlone(const std::vector<std::string>& paths)
     return true;
 }
 
-QtMessageHandler passOn = nullptr;
+QtMessageHandler defaultHandler = nullptr;
 
-/// The platform without a display reports for each window that it cannot pass hints to a window manager; there is none.
+/// Drops the message that the offscreen platform writes for each window, since it has no window manager to pass size hints
+/// to.
 void leaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (!message.contains(QLatin1String("propagateSizeHints")))
-        passOn(type, context, message);
+        defaultHandler(type, context, message);
 }
 
 int runWithWindows(int& argc, char** argv, const Options& options)
@@ -162,7 +168,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     const QTemporaryDir settings;
     if (runsAlone(options)) {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-        passOn = qInstallMessageHandler(leaveOutSizeHints);
+        defaultHandler = qInstallMessageHandler(leaveOutSizeHints);
         echoMessages();
     }
 
@@ -176,18 +182,18 @@ int runWithWindows(int& argc, char** argv, const Options& options)
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
             window.restoreLayout();
-        // The reason is in a dock that may have been hidden the last time.
+        // The reason is in the message log, which the user may have hidden.
         if (!loaded)
             window.showMessages();
         window.show();
         if (runsAlone(options)) {
             status = openFilesAlone(options.files) ? runAlone(window, options) : 2;
         } else {
-            // Once the window is there, since questions may be asked.
+            // When the window is shown, since questions may be asked.
             QTimer::singleShot(0, &window, [&options] { openFiles(options.files); });
             status = QApplication::exec();
         }
-        // What needs the missing module has not been done.
+        // A module is missing, so something that was asked for may not have been done.
         if (runsAlone(options) && !loaded && status == 0)
             status = 1;
     }
@@ -197,7 +203,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
 
 } // namespace
 
-// NOLINTNEXTLINE(bugprone-exception-escape): what reporting an exception throws has nowhere else to go
+// NOLINTNEXTLINE(bugprone-exception-escape): nothing can report an exception of the report itself
 int main(int argc, char** argv)
 {
     CLI::App program;

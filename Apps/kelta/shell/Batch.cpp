@@ -10,7 +10,6 @@
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
-#include "vxMsg/PropertyPlace.h"
 
 #include <QFile>
 #include <QMessageBox>
@@ -36,7 +35,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::Batch", text);
 }
 
-/// Answers message boxes while it lives, since nobody else would.
+/// Presses buttons of the message boxes that are shown during its lifetime, since there is no user.
 class BoxAnswers : public QObject
 {
 public:
@@ -46,7 +45,7 @@ public:
         m_timer.start(0);
     }
 
-    /// The text of the first box that told of a failure.
+    /// The text of the first warning or critical box; empty if there was none.
     const QString& failure() const { return m_failure; }
 
 private:
@@ -102,18 +101,6 @@ std::optional<QString> selectProject(const QStringList& arguments)
     return std::nullopt;
 }
 
-std::optional<QString> labelSelected(const QStringList& arguments)
-{
-    const auto objects =
-        Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
-    if (arguments.size() != 1 || objects.size() != 1)
-        return tr("one label, and one selected object, are needed");
-    const vxMsg::PropertyPlace place(*objects.front());
-    if (!vxMsg::MessageProxy::instance().setProperty(place, "Label", arguments[0].toStdString()))
-        return tr("the label was not set");
-    return std::nullopt;
-}
-
 std::optional<QString> takeScreenshot(const QStringList& arguments)
 {
     Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
@@ -135,6 +122,18 @@ std::optional<QString> saveDatabase(const QStringList& arguments)
     return std::nullopt;
 }
 
+std::optional<QString> handOver(const QStringList& arguments)
+{
+    if (!arguments.isEmpty())
+        return tr("no argument is taken");
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    if (project == nullptr)
+        return tr("no project is open");
+    // If the request fails, the reason is in the message log, and Batch fails with it.
+    vxMsg::MessageProxy::instance().handOver(project->get_name());
+    return std::nullopt;
+}
+
 std::optional<QString> say(const QStringList& arguments)
 {
     QTextStream(stdout) << arguments.join(QLatin1Char(' ')) << '\n';
@@ -145,9 +144,10 @@ std::map<QString, Batch::Verb>& verbs()
 {
     static std::map<QString, Batch::Verb> registered = {
         {QStringLiteral("select"), selectLabels},   {QStringLiteral("select-project"), selectProject},
-        {QStringLiteral("label"), labelSelected},   {QStringLiteral("screenshot"), takeScreenshot},
+        {QStringLiteral("label"), setLabel},        {QStringLiteral("screenshot"), takeScreenshot},
         {QStringLiteral("database"), saveDatabase}, {QStringLiteral("say"), say},
         {QStringLiteral("property"), setProperty},  {QStringLiteral("properties"), printProperties},
+        {QStringLiteral("collect"), handOver},
     };
     return registered;
 }
@@ -210,9 +210,9 @@ std::optional<QString> Batch::runCommand(const QString& name, const QStringList&
     const BoxAnswers boxes;
     const std::size_t errorsBefore = Kelta::MessageLog::instance().errorCount();
     const auto verb = verbs().find(name);
-    std::optional<QString> failure = verb != verbs().end() ? verb->second(arguments) : runOther(name, arguments);
+    std::optional<QString> failure = verb != verbs().end() ? verb->second(arguments) : invokeCommand(name, arguments);
     QCoreApplication::processEvents();
-    // Windows that were closed go only now: no event loop runs.
+    // No event loop runs, which would destroy the windows that the command closed.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (!failure && !boxes.failure().isEmpty())
         failure = boxes.failure();
@@ -221,7 +221,7 @@ std::optional<QString> Batch::runCommand(const QString& name, const QStringList&
     return failure;
 }
 
-std::optional<QString> Batch::runOther(const QString& name, const QStringList& arguments)
+std::optional<QString> Batch::invokeCommand(const QString& name, const QStringList& arguments)
 {
     Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().findCommand(name.toStdString());
     if (command == nullptr)
@@ -230,7 +230,7 @@ std::optional<QString> Batch::runOther(const QString& name, const QStringList& a
         return tr("%1 takes at most one argument, the file that it asks for").arg(name);
     if (!command->is_applicable())
         return tr("%1 cannot be done now").arg(name);
-    // Without an argument a command that asks for a file gets the answer that none was chosen.
+    // A command that asks for a file, and has no argument, continues as if the user had chosen none.
     Gui::FileDialog::answerNext(arguments.value(0));
     return command->invoke() ? std::nullopt : std::optional(tr("%1 failed").arg(name));
 }

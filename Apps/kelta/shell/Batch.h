@@ -6,40 +6,42 @@
 #include <QStringList>
 
 #include <functional>
-#include <map>
 #include <optional>
 
 namespace desktop {
 
-/// Runs lists of commands in the application, one a line, as a user would give them one after the other.
+/// Runs lists of commands in the program without a user. Each line is a command, and the lines run one after the other.
 ///
-/// A line is the name of a command or verb and its arguments, separated by blanks; an argument with blanks stands in
-/// double quotes. Empty lines and lines that begin with "#" are passed over. Verbs are what has no command of its own;
-/// docs/kelta.md lists them.
+/// A line has the name of a command or of a verb, and its arguments, separated by blanks. An argument that contains blanks
+/// is written in double quotes. Empty lines, and lines that begin with "#", are skipped. A verb is a function that only
+/// lists have; docs/kelta.md lists the verbs.
 ///
-/// Message boxes that come up are written to standard error, and answered with OK or Yes; one that has neither with
-/// discarding, as a list says itself what is to be saved; and one without that either is closed. A command fails when it
-/// does not exist, cannot be applied now, reports an error to the message log or shows a critical box or a warning.
+/// The text of each message box is written to standard error. Its button Yes or OK is pressed, or else the one that
+/// discards changes, since a list itself says what is to be saved; a box without such buttons is closed. A line fails if
+/// there is no such command, if the command cannot be applied now, if it reports an error to the message log, or if it
+/// shows a warning or critical box.
 class KELTA_SHELL_EXPORT Batch
 {
 public:
-    /// Answers what went wrong, absent when nothing did.
+    /// Returns the reason if it fails.
     using Verb = std::function<std::optional<QString>(const QStringList& arguments)>;
 
-    /// Adds a verb; one of the same name is replaced.
+    /// Adds a verb. It replaces a verb of the same name, and is used in place of a command of the same name.
     static void registerVerb(const QString& name, Verb verb);
 
-    /// Runs the commands of a text that was read from `fileName`. Stops at the first line that fails and writes
-    /// "FILE:LINE: what is wrong" to standard error. Answers the exit status: 0 when all ran, 1 otherwise.
+    /// Runs the lines of a text that was read from `fileName`. Stops at the first line that fails, and writes
+    /// "FILE:LINE: reason" to standard error. Returns the exit status: 0 if all lines ran, 1 otherwise.
     static int run(const QString& text, const QString& fileName);
-    /// Likewise for a file, or standard input for "-"; 2 when it cannot be read.
+    /// Reads the text from a file, or from standard input if the path is "-". Returns 2 if it cannot be read.
     static int runFile(const QString& path);
-    /// Runs one command or verb as a line of a list does. Answers what went wrong, absent when nothing did.
+    /// Runs one verb or command as a line of a list does. Returns the reason if it fails.
     static std::optional<QString> runCommand(const QString& name, const QStringList& arguments);
+    /// Runs a command, also if a verb has its name, which may call this. A command that asks for a file gets the argument.
+    /// Returns the reason if it fails; errors in the message log and message boxes are left to the caller.
+    static std::optional<QString> invokeCommand(const QString& name, const QStringList& arguments);
 
 private:
     static std::optional<QString> runLine(const QString& line);
-    static std::optional<QString> runOther(const QString& name, const QStringList& arguments);
 };
 
 } // namespace desktop

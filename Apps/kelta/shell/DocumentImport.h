@@ -15,22 +15,22 @@ class ProjectObject;
 
 namespace desktop {
 
-/// The objects that a project has got from a document.
+/// The result of an import.
 struct ImportOutcome
 {
-    std::vector<Obj::ProjectObject*> objects;
-    std::vector<std::string> doubts; ///< what the user must look after, a sentence each
+    std::vector<Obj::ProjectObject*> objects; ///< that were added; the project owns them
+    std::vector<std::string> doubts;          ///< what the user must check, a sentence each
 };
 
 /// Adds the content of a document of a module to a project, as one step of the history. Throws a std::exception if the
-/// file cannot be read or is not such a document; nothing has been added then.
+/// file cannot be read or is not such a document; nothing is added then.
 using DocumentImport = std::function<ImportOutcome(Obj::Project& project, const QString& path)>;
 
-/// Registers how exchange documents are imported into projects of a class and of those classes that descend from it and
-/// have no import themselves. A later import of a class replaces an earlier one.
+/// Registers the import of exchange documents into projects of a class, and of derived classes that have no import
+/// themselves. A later import of a class replaces an earlier one.
 KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, DocumentImport import);
 
-/// Returns the import for a project; null if its class has none.
+/// Returns the import for a project; null if neither its class nor a base class has one.
 KELTA_SHELL_EXPORT const DocumentImport* findDocumentImport(const Obj::Project& project);
 
 } // namespace desktop

@@ -13,8 +13,8 @@ class ProjectObject;
 
 namespace desktop {
 
-/// The project files of the program, for the program itself and for modules. Each operation tells the user what went
-/// wrong, and asks what must be asked.
+/// The project files of the program, for the program itself and for modules. Each operation reports its errors to the user,
+/// and asks the user before anything is lost.
 class KELTA_SHELL_EXPORT FileService
 {
 public:
@@ -23,25 +23,26 @@ public:
     FileService& operator=(const FileService&) = delete;
     virtual ~FileService();
 
-    /// Null in a program without files, such as a test of a module.
+    /// Returns the service; null in a program without files, such as a test of a module.
     static FileService* instance();
-    /// Gives the service to the program, in place of an earlier one; null ends it.
+    /// Sets the service, and destroys the earlier one; null for none.
     static void setInstance(std::unique_ptr<FileService> service);
 
-    /// Opens a project file and selects the project. A project that is open already is only selected.
+    /// Opens a project file and selects the project. A project that is open already is only selected. Returns false if the
+    /// file is not open afterwards.
     virtual bool open(const QString& path) = 0;
-    /// Asks about everything that is not saved; false if the program is to go on.
+    /// Asks about all changes that are not saved. Returns false if the user does not want to end the program.
     virtual bool mayEnd() = 0;
-    /// The program ends in order, and all questions have been asked: copies for recovery are destroyed.
+    /// Destroys the copies for recovery. To be called when the program ends normally, after mayEnd.
     virtual void end() = 0;
-    /// Offers the copies for recovery of programs that ended without saving.
+    /// Offers the user the copies for recovery of programs that ended before projects were saved.
     virtual void offerRecovery() = 0;
     /// Returns the file of a project; empty before it is first saved.
     virtual QString getFile(const Obj::Project& project) const = 0;
-    /// Whether a project has changes that its file does not have.
+    /// Returns whether a project has changes that its file does not have.
     virtual bool isModified(const Obj::Project& project) const = 0;
-    /// To be called by a module when the content of an object, which is not a property, has changed in a way that no
-    /// signal of the project tells. Keeps a copy for recovery.
+    /// Marks the project of an object as modified, and writes a copy for recovery. To be called by a module after it has
+    /// changed content of the object that is not a property, since the project sends no signal for that.
     virtual void contentChanged(Obj::ProjectObject& object) = 0;
 };
 

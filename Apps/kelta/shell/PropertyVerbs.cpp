@@ -18,12 +18,21 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::Batch", text);
 }
 
-/// Null if not exactly one object is selected.
+/// Returns the selected object; null unless exactly one is selected.
 Obj::ProjectObject* selectedObject()
 {
     const auto objects =
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
     return objects.size() == 1 ? objects.front() : nullptr;
+}
+
+std::optional<QString> set(Obj::ProjectObject& object, const QString& name, const QString& value)
+{
+    if (object.get_property_by_name(name.toUtf8().constData()) == nullptr)
+        return tr("\"%1\" has no property \"%2\"").arg(QString::fromStdString(object.label.getValue()), name);
+    // If the request is refused, the reason is in the message log, and Batch fails with it.
+    vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(object), name.toStdString(), value.toStdString());
+    return std::nullopt;
 }
 
 } // namespace
@@ -33,12 +42,15 @@ std::optional<QString> setProperty(const QStringList& arguments)
     Obj::ProjectObject* const object = selectedObject();
     if (arguments.size() != 2 || object == nullptr)
         return tr("the name of a property, a value, and one selected object are needed");
-    if (object->get_property_by_name(arguments[0].toUtf8().constData()) == nullptr)
-        return tr("\"%1\" has no property \"%2\"").arg(QString::fromStdString(object->label.getValue()), arguments[0]);
-    // The reason of a refusal is in the message log, which ends the list.
-    vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(*object), arguments[0].toStdString(),
-                                                arguments[1].toStdString());
-    return std::nullopt;
+    return set(*object, arguments[0], arguments[1]);
+}
+
+std::optional<QString> setLabel(const QStringList& arguments)
+{
+    Obj::ProjectObject* const object = selectedObject();
+    if (arguments.size() != 1 || object == nullptr)
+        return tr("one label, and one selected object, are needed");
+    return set(*object, QStringLiteral("Label"), arguments[0]);
 }
 
 std::optional<QString> printProperties(const QStringList& arguments)

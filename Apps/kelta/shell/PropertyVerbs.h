@@ -7,9 +7,12 @@
 
 namespace desktop {
 
-/// The verb "property NAME VALUE": sets a property of the selected object, as one undoable step. Returns what went wrong;
-/// absent if nothing did.
+/// The verb "property NAME VALUE": sets a property of the selected object, as one step of the history. Returns the reason if
+/// it fails.
 std::optional<QString> setProperty(const QStringList& arguments);
+
+/// The verb "label TEXT": sets the label of the selected object in the same way.
+std::optional<QString> setLabel(const QStringList& arguments);
 
 /// The verb "properties": prints the properties of the selected object, "NAME = VALUE", without those that are hidden.
 std::optional<QString> printProperties(const QStringList& arguments);

@@ -8,19 +8,10 @@
 #include "Obj/ProjectObject.h"
 
 #include <memory>
-#include <string_view>
 
 namespace Gui {
 
 namespace {
-
-MDIWindow* findEditor(const MainWindow& mainWindow, const Obj::ProjectObject& object, std::string_view className)
-{
-    for (MDIWindow* const window : mainWindow.getMdiWindows())
-        if (window->getEditedObject() == &object && className == window->getTypeId().get_name())
-            return window;
-    return nullptr;
-}
 
 /// Null, with the reason in the message log, if there is no such window.
 MDIWindow* makeEditor(MainWindow& mainWindow, GuiProject& project, Obj::ProjectObject& object, const char* className)
@@ -49,7 +40,7 @@ bool openCoreEditor(MainWindow& mainWindow, GuiApplication& application, Obj::Pr
     GuiProject* const project = application.get_project(object.get_project());
     if (className == nullptr || *className == '\0' || project == nullptr)
         return false;
-    MDIWindow* window = findEditor(mainWindow, object, className);
+    MDIWindow* window = mainWindow.editorOf(object);
     if (window == nullptr)
         window = makeEditor(mainWindow, *project, object, className);
     mainWindow.set_active_mdi_window(window);

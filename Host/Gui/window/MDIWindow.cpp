@@ -69,4 +69,9 @@ QUndoStack* MDIWindow::getUndoStack()
     return nullptr;
 }
 
+bool MDIWindow::applyEdits()
+{
+    return !isWindowModified();
+}
+
 } // namespace Gui

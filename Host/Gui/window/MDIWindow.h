@@ -25,8 +25,8 @@ struct ApplyRefusal
 /// A document window of the main window.
 ///
 /// A window in which the user edits an object, and applies the edits by a command of the window, is modified
-/// (QWidget::isWindowModified) as long as it has edits that are not applied. It overrides finishEditing and
-/// getUndoStack, and emits applying and applied.
+/// (QWidget::isWindowModified) as long as it has edits that are not applied. It overrides finishEditing,
+/// getUndoStack and applyEdits, and emits applying and applied.
 class GUI_EXPORT MDIWindow : public QMainWindow, public BaseView
 {
     Q_OBJECT
@@ -62,6 +62,11 @@ public:
     /// the moment when it is added to the main window. Undo and Redo of the host act on it while the user works in the
     /// window, see MainWindow::documentUndoStack.
     virtual QUndoStack* getUndoStack();
+
+    /// Applies the edits, as the command of the window does with which the user applies them. Returns false if edits are
+    /// left that are not applied; the window has told the user the reason. It may have been closed meanwhile, since it may
+    /// ask the user. Does nothing here.
+    virtual bool applyEdits();
 
 Q_SIGNALS:
     /// The user applies edits that the window accepts. A slot that sets a reason in `refusal` prevents it: the window shows

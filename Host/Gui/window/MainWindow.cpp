@@ -30,6 +30,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace Gui {
@@ -131,6 +132,15 @@ MDIWindow* MainWindow::get_active_mdi_window() const
 QList<MDIWindow*> MainWindow::getMdiWindows() const
 {
     return m_documents->windows();
+}
+
+MDIWindow* MainWindow::editorOf(const Obj::ProjectObject& object) const
+{
+    const QList<MDIWindow*> windows = getMdiWindows();
+    const auto found = std::find_if(windows.begin(), windows.end(), [&object](const MDIWindow* window) {
+        return window->getEditedObject() == &object;
+    });
+    return found != windows.end() ? *found : nullptr;
 }
 
 void MainWindow::close_current_window()

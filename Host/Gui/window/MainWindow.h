@@ -18,6 +18,7 @@ class QUndoStack;
 
 namespace Obj {
 class Project;
+class ProjectObject;
 } // namespace Obj
 
 namespace Gui {
@@ -63,6 +64,8 @@ public:
     MDIWindow* get_active_mdi_window() const;
     /// All document windows, in the order in which they were added.
     QList<MDIWindow*> getMdiWindows() const;
+    /// Returns the document window in which the user edits an object (MDIWindow::getEditedObject); null if none is open.
+    MDIWindow* editorOf(const Obj::ProjectObject& object) const;
     /// Closes the document window in front, as the user does.
     void close_current_window();
     void closeAllWindows();

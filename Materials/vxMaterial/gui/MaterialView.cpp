@@ -620,6 +620,11 @@ QUndoStack* MaterialView::getUndoStack()
     return &m_history->stack();
 }
 
+bool MaterialView::applyEdits()
+{
+    return on_btnApply_clicked();
+}
+
 bool MaterialView::showRow(int propertyId)
 {
     const int row = m_ui->tableView->findRow(propertyId);

@@ -93,6 +93,7 @@ public:
     void updateCell(const Obj::Property* property) override;
     void finishEditing() override;
     QUndoStack* getUndoStack() override;
+    bool applyEdits() override;
 
 protected Q_SLOTS:
     void on_btnOK_clicked();

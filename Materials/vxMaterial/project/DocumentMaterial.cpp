@@ -11,20 +11,10 @@
 #include <algorithm>
 #include <fstream>
 #include <utility>
-#include <vector>
 
 namespace Mat {
 
 namespace {
-
-std::vector<MaterialObject*> materialObjects(const Obj::Project& project)
-{
-    std::vector<MaterialObject*> materials;
-    for (Obj::ProjectObject* const object : project.get_objects_of_type(MaterialObject::getClassTypeId()))
-        if (object != nullptr)
-            materials.push_back(static_cast<MaterialObject*>(object));
-    return materials;
-}
 
 /// From the first call on, the set of a project is destroyed when the project is closed.
 void letGoOfSetsOfClosedProjects()
@@ -34,6 +24,14 @@ void letGoOfSetsOfClosedProjects()
 }
 
 } // namespace
+
+std::vector<MaterialObject*> materialsOf(const Obj::Project& project)
+{
+    std::vector<MaterialObject*> materials;
+    for (Obj::ProjectObject* const object : project.get_objects_of_type(MaterialObject::getClassTypeId()))
+        materials.push_back(static_cast<MaterialObject*>(object));
+    return materials;
+}
 
 OBJ_REGISTER_CLASS(Mat::DocumentMaterial, Obj::Project)
 
@@ -76,7 +74,7 @@ void DocumentMaterial::save_jsonDB(Json::Value& record)
     // Readers of the database expect the kind of the project in this member, not the physics of the property.
     record["physics_type"] = "Material";
     Json::Value objects;
-    for (MaterialObject* const material : materialObjects(*this))
+    for (MaterialObject* const material : materialsOf(*this))
         material->save_jsonDB(objects["object"].append(Json::Value()));
     record["objects"] = std::move(objects);
 }
@@ -89,7 +87,7 @@ void DocumentMaterial::Load(Kelta::XMLFileReader&) {}
 
 bool DocumentMaterial::check_all_materials()
 {
-    const std::vector<MaterialObject*> materials = materialObjects(*this);
+    const std::vector<MaterialObject*> materials = materialsOf(*this);
     return std::all_of(materials.begin(), materials.end(),
                        [](MaterialObject* material) { return material->check_input_data(); });
 }
@@ -122,7 +120,7 @@ void DocumentMaterial::load_cae_set(vxCAE::CAESet* set)
     auto* const materials = static_cast<vxCAE::CAEMaterials*>(set->getSection(vxCAE::SectionIndex::Materials));
     if (materials == nullptr)
         return;
-    for (const MaterialObject* const object : materialObjects(*this)) {
+    for (const MaterialObject* const object : materialsOf(*this)) {
         vxMat::CMaterial* const material = object->getCMaterial();
         if (material == nullptr)
             continue;

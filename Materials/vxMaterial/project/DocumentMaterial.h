@@ -10,12 +10,15 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vxCAE {
 class CAESet;
 } // namespace vxCAE
 
 namespace Mat {
+
+class MaterialObject;
 
 /// The document tag of material projects.
 inline constexpr Kelta::eDocumentTag materialProjectTag{2};
@@ -70,5 +73,8 @@ private:
 
     vxMat::MatDBManager matMgr;
 };
+
+/// Returns the materials of a project, which owns them, in the order of its objects.
+VXMATERIAL_EXPORT std::vector<MaterialObject*> materialsOf(const Obj::Project& project);
 
 } // namespace Mat

@@ -100,7 +100,9 @@ TEST_F(Batch, RefusesWrongArguments)
           std::pair("set E \"210 GPa\"", "would be read as \"210\""),
           std::pair("screenshot", "one file name is needed"),
           std::pair("screenshot no/such/folder.png", "cannot be written"),
-          std::pair("database all", "no argument is taken")})
+          std::pair("database all", "no argument is taken"), std::pair("collect all", "no argument is taken"),
+          std::pair("clear all", "no argument is taken"), std::pair("cards all", "no argument is taken"),
+          std::pair("check all", "no argument is taken")})
     {
         SCOPED_TRACE(line);
         const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\nMat_AddMaterial\nselect Material\n") + line + "\n");
@@ -180,7 +182,9 @@ TEST_F(Batch, SavesAScreenshot)
 {
     EXPECT_EQ(run({"--screenshot", "window.png"}).status, 0);
     EXPECT_EQ(QImage(path("window.png")).size(), QSize(1180, 760));
-    EXPECT_EQ(run({"--screenshot", "no/such/window.png"}).status, 2);
+    const Outcome refused = run({"--language", "de", "--screenshot", "no/such/window.png"});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(errorsOf(refused), "kelta: no/such/window.png kann nicht geschrieben werden\n");
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
+#include "vxCAE/CaeManager.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -386,6 +387,54 @@ TEST_F(ProjectFiles, SaveNothingWhenAnEditorCannotApply)
     run("Std_SaveAs", path("a.vxmat"));
     EXPECT_THAT(text(answers.boxes()), HasSubstr("Invalid material"));
     EXPECT_FALSE(QFileInfo::exists(path("a.vxmat")));
+}
+
+TEST_F(ProjectFiles, AskAboutChangesInEditorsBeforeTheHandOver)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    editModulus(steel, QStringLiteral("1e9"));
+    const auto handedOver = [] { return vxCAE::GetCaeManager().getCAE(currentProject()->getProjectId()) != nullptr; };
+    {
+        const Answers answers({"Cancel"});
+        run("Std_Collect");
+        EXPECT_EQ(text(answers.boxes()),
+                  "Hand over to the solver: The changes of \"Steel\" in its editor have not been applied.");
+    }
+    EXPECT_FALSE(handedOver());
+    {
+        const Answers answers({"Hand over without them"});
+        run("Std_Collect");
+    }
+    EXPECT_TRUE(handedOver());
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    {
+        const Answers answers({"Apply"});
+        run("Std_Collect");
+    }
+    EXPECT_EQ(modulusOf(steel), 1e9);
+    run("Std_Collect");
+}
+
+TEST_F(ProjectFiles, HandNothingOverIfAnEditorCannotApply)
+{
+    newProject();
+    editModulus(addMaterial(), QStringLiteral("stiff"));
+    const Answers answers({"Apply", "OK"});
+    run("Std_Collect");
+    EXPECT_EQ(vxCAE::GetCaeManager().getCAE(currentProject()->getProjectId()), nullptr);
+}
+
+TEST_F(ProjectFiles, HandNothingOverOfAProjectThatIsClosedMeanwhile)
+{
+    newProject();
+    addMaterial();
+    const std::size_t messages = Kelta::MessageLog::instance().messages().size();
+    editModulus(addMaterial(), QStringLiteral("1e9"));
+    QTimer::singleShot(0, [] { Obj::Application::instance().closeAllProjects(); });
+    const Answers answers({"Hand over without them"});
+    run("Std_Collect");
+    EXPECT_EQ(Kelta::MessageLog::instance().messages().size(), messages);
 }
 
 TEST_F(ProjectFiles, AskBeforeAProjectWithChangesIsClosed)

@@ -167,6 +167,28 @@ TEST_F(UnappliedEdits, DoNotComeBackAfterTheyWereApplied)
     EXPECT_FALSE(isEdited());
 }
 
+TEST_F(UnappliedEdits, AreForgottenWhenTheHistoryEnds)
+{
+    Obj::Project& project = *steel.get_project();
+    const std::size_t listeners = project.objectAdded.num_slots();
+    type(edit(steel), modulus, "7e10");
+    select({&steel});
+    EXPECT_TRUE(run("Mat_Delete"));
+    EXPECT_EQ(project.objectAdded.num_slots(), listeners + 1) << "they wait for the material";
+    history().clear();
+    EXPECT_EQ(project.objectAdded.num_slots(), listeners);
+}
+
+TEST_F(UnappliedEdits, ComeBackIfTheHistoryEndsBeforeTheyAreShown)
+{
+    type(edit(steel), modulus, "7e10");
+    select({&steel});
+    EXPECT_TRUE(run("Mat_Delete"));
+    history().undo();
+    history().clear();
+    expectEditsAreBack();
+}
+
 /// The materials of the library, edited in another language.
 class Language : public vxtest::Materials, public testing::WithParamInterface<const char*>
 {

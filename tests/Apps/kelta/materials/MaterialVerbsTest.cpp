@@ -2,6 +2,7 @@
 
 #include "Obj/Application.h"
 #include "kelta/Batch.h"
+#include "vxCAE/CaeManager.h"
 
 #include <QFile>
 
@@ -101,6 +102,32 @@ TEST_F(Verbs, FailToExportToAPlaceThatCannotBeWritten)
     selectedSteel();
     EXPECT_THAT(run("Mat_Export", {path("no/folder.json")}), HasSubstr("cannot be written"));
     EXPECT_THAT(run("Mat_Export", {"/dev/full"}), HasSubstr("is not a regular file"));
+}
+
+TEST_F(Verbs, HandTheCurrentProjectOver)
+{
+    EXPECT_EQ(run("collect"), "no project is open");
+    addMaterial(newProject());
+    Mat::DocumentMaterial& current = newProject("Current");
+    addMaterials(current, 2);
+    EXPECT_EQ(run("select-project", {"Current"}), "");
+    const int steps = history().count();
+    EXPECT_EQ(run("collect"), "");
+    const vxCAE::CAESet* const set = vxCAE::GetCaeManager().getCAE(current.getProjectId());
+    ASSERT_NE(set, nullptr);
+    EXPECT_EQ(set->materials->entries.size(), 2U);
+    EXPECT_EQ(history().count(), steps);
+}
+
+TEST_F(Verbs, SetALabelAsAProperty)
+{
+    const Mat::MaterialObject& steel = selectedSteel();
+    EXPECT_EQ(run("label", {"Frame"}), "");
+    EXPECT_EQ(steel.label.getValue(), "Frame");
+    EXPECT_EQ(run("label", {""}), "The label must not be empty; nothing was changed.");
+    EXPECT_EQ(run("property", {"Label", ""}), "The label must not be empty; nothing was changed.");
+    EXPECT_EQ(run("label"), "one label, and one selected object, are needed");
+    EXPECT_EQ(steel.label.getValue(), "Frame");
 }
 
 TEST_F(Verbs, FailToEditMoreThanAHundredMaterials)

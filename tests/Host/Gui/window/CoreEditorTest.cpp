@@ -48,6 +48,24 @@ TEST_F(CoreEditor, IsBroughtToTheFrontTheSecondTime)
     EXPECT_EQ(window->getMdiWindows().size(), 2);
 }
 
+TEST_F(CoreEditor, IsTheEditorOfItsObjectOnly)
+{
+    EXPECT_EQ(window->editorOf(object), nullptr);
+    doubleClick();
+    EXPECT_EQ(window->editorOf(object), editor());
+    EXPECT_EQ(window->editorOf(addObject(project, "Plate")), nullptr);
+    editor()->remove_viewself();
+    EXPECT_EQ(window->editorOf(object), nullptr);
+}
+
+TEST_F(CoreEditor, AppliesNothingUnlessItOverridesThat)
+{
+    doubleClick();
+    EXPECT_TRUE(editor()->applyEdits());
+    editor()->setWindowModified(true);
+    EXPECT_FALSE(editor()->applyEdits());
+}
+
 TEST_F(CoreEditor, IsLeftAloneByNodesThatOpenThemselves)
 {
     nodeOf(object).opensItself = true;

@@ -29,7 +29,7 @@ Obj::ProjectObject* selectedObject()
 std::optional<QString> set(Obj::ProjectObject& object, const QString& name, const QString& value)
 {
     if (object.get_property_by_name(name.toUtf8().constData()) == nullptr)
-        return tr("\"%1\" has no property \"%2\"").arg(QString::fromStdString(object.label.getValue()), name);
+        return tr(R"("%1" has no property "%2")").arg(QString::fromStdString(object.label.getValue()), name);
     // If the request is refused, the reason is in the message log, and Batch fails with it.
     vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(object), name.toStdString(), value.toStdString());
     return std::nullopt;

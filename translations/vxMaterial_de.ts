@@ -1379,10 +1379,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Mat_Export benötigt ein Argument, den Namen der zu schreibenden Datei</translation>
     </message>
     <message>
-        <source>the label was not set</source>
-        <translation>die Beschriftung wurde nicht gesetzt</translation>
-    </message>
-    <message>
         <source>the name of a property, a value, and one selected object are needed</source>
         <translation>der Name einer Eigenschaft, ein Wert und ein ausgewähltes Objekt sind nötig</translation>
     </message>
@@ -1393,6 +1389,10 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>one selected object, and no argument, are needed</source>
         <translation>ein ausgewähltes Objekt und kein Argument sind nötig</translation>
+    </message>
+    <message>
+        <source>no project is open</source>
+        <translation>es ist kein Projekt geöffnet</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1472,10 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>The export to &quot;%1&quot; is not complete: %2 Export again to another place.</source>
         <translation>Der Export nach „%1“ ist unvollständig: %2 Exportieren Sie erneut an einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material anew without this property, then export again.</source>
+        <translation>Die Eigenschaft „%1“ von „%2“ hat die Nummer %3. Leser von Austauschdokumenten lehnen Nummern unter 0 ab. Legen Sie das Material ohne diese Eigenschaft neu an und exportieren Sie erneut.</translation>
     </message>
 </context>
 <context>
@@ -1584,16 +1588,8 @@ Möchten Sie fortfahren?</translation>
         <translation>&amp;Ersetzen</translation>
     </message>
     <message>
-        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
-        <translation>Die Änderungen von „%1“ im Editor wurden nicht angewendet.</translation>
-    </message>
-    <message>
         <source>Only what has been applied is saved.</source>
         <translation>Nur was angewendet wurde, wird gespeichert.</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>An&amp;wenden</translation>
     </message>
     <message>
         <source>&amp;Save without them</source>

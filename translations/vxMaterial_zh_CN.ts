@@ -1379,10 +1379,6 @@ Do you want to continue?</source>
         <translation>Mat_Export 需要一个参数，即要写入的文件名</translation>
     </message>
     <message>
-        <source>the label was not set</source>
-        <translation>标签未设置</translation>
-    </message>
-    <message>
         <source>the name of a property, a value, and one selected object are needed</source>
         <translation>需要属性名称、值和一个所选对象</translation>
     </message>
@@ -1393,6 +1389,10 @@ Do you want to continue?</source>
     <message>
         <source>one selected object, and no argument, are needed</source>
         <translation>需要一个所选对象，不带参数</translation>
+    </message>
+    <message>
+        <source>no project is open</source>
+        <translation>没有打开的项目</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1472,10 @@ Do you want to continue?</source>
     <message>
         <source>The export to &quot;%1&quot; is not complete: %2 Export again to another place.</source>
         <translation>导出到“%1”不完整：%2 请重新导出到其他位置。</translation>
+    </message>
+    <message>
+        <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material anew without this property, then export again.</source>
+        <translation>“%2”的属性“%1”的编号为 %3。交换文档的读取程序拒绝小于 0 的编号。请重新创建不含该属性的材料，然后重新导出。</translation>
     </message>
 </context>
 <context>
@@ -1584,16 +1588,8 @@ Do you want to continue?</source>
         <translation>替换(&amp;R)</translation>
     </message>
     <message>
-        <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
-        <translation>编辑器中对“%1”的更改尚未应用。</translation>
-    </message>
-    <message>
         <source>Only what has been applied is saved.</source>
         <translation>只保存已应用的内容。</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>应用(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Save without them</source>

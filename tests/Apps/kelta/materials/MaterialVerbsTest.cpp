@@ -3,6 +3,7 @@
 #include "Obj/Application.h"
 #include "kelta/Batch.h"
 #include "vxCAE/CaeManager.h"
+#include "vxMaterial/exchange/CAESet.h"
 
 #include <QFile>
 

@@ -68,7 +68,7 @@ std::vector<Project*> Application::get_projects(Kelta::eDocumentTag tag)
 {
     std::vector<Project*> projects;
     for (const auto& project : instance().m_projects)
-        if (project->documentTag == tag)
+        if (project->getDocumentTag() == tag)
             projects.push_back(project.get());
     return projects;
 }

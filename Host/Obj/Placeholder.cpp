@@ -40,19 +40,25 @@ Placeholder::Placeholder(std::string className, Json::Value record)
 
 Placeholder::~Placeholder() = default;
 
+template <class Owner, class Register>
+void Placeholder::registerShown(Owner& owner, PropertyCoreData& classData, const Register& registerProperty)
+{
+    constexpr short readOnly = PropertyType::readOnly;
+    owner.classLabel.setValue(m_className);
+    registerProperty(classData, owner.id, "ID", "Info", readOnly, "Identity of the tree object");
+    registerProperty(classData, owner.classLabel, "ClassLabel", "Info", readOnly, "class of a module that is missing");
+    for (const auto& shown : m_shown)
+        if (owner.get_property_by_name(shown->name.c_str()) == nullptr)
+            registerProperty(m_ownData, shown->value, shown->name.c_str(), "Content", readOnly, "");
+}
+
 OBJ_REGISTER_ABSTRACT_CLASS(Obj::PlaceholderObject, Obj::ProjectObject)
 
 PlaceholderObject::PlaceholderObject(std::string className, Json::Value record)
     : Placeholder(std::move(className), std::move(record))
 {
-    classLabel.setValue(getOriginalClass());
     registerProperty(propertyData, label, "Label", "Info", PropertyType::readOnly, "Name shown in the project tree");
-    registerProperty(propertyData, id, "ID", "Info", PropertyType::readOnly, "Identity of the tree object");
-    registerProperty(propertyData, classLabel, "ClassLabel", "Info", PropertyType::readOnly,
-                     "class of a module that is missing");
-    for (const auto& shown : shownProperties())
-        if (get_property_by_name(shown->name.c_str()) == nullptr)
-            registerProperty(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::readOnly, "");
+    registerShown(*this, propertyData, [this](auto&&... arguments) { registerProperty(arguments...); });
 }
 
 PlaceholderObject::~PlaceholderObject() = default;
@@ -73,13 +79,7 @@ OBJ_REGISTER_ABSTRACT_CLASS(Obj::PlaceholderProject, Obj::Project)
 PlaceholderProject::PlaceholderProject(std::string className, Json::Value record)
     : Placeholder(std::move(className), std::move(record))
 {
-    classLabel.setValue(getOriginalClass());
-    registerProperty(propertyData, id, "ID", "Info", PropertyType::readOnly, "Identity of the tree object");
-    registerProperty(propertyData, classLabel, "ClassLabel", "Info", PropertyType::readOnly,
-                     "class of a module that is missing");
-    for (const auto& shown : shownProperties())
-        if (get_property_by_name(shown->name.c_str()) == nullptr)
-            registerProperty(m_ownData, shown->value, shown->name.c_str(), "Content", PropertyType::readOnly, "");
+    registerShown(*this, propertyData, [this](auto&&... arguments) { registerProperty(arguments...); });
 }
 
 PlaceholderProject::~PlaceholderProject() = default;

@@ -24,19 +24,24 @@ public:
     const Json::Value& getRecord() const { return m_record; }
 
 protected:
-    /// A property of the record, shown but not edited.
+    /// Registers what is shown of the placeholder `owner`, to be read only: id, original class, and the properties of the
+    /// record that do not have the name of another one. `classData` describes the properties of the owner's class;
+    /// `registerProperty` calls the function of that name of the owner.
+    template <class Owner, class Register>
+    void registerShown(Owner& owner, PropertyCoreData& classData, const Register& registerProperty);
+
+private:
+    /// A value of the member "properties" of the record, an object of names and values.
     struct ShownProperty
     {
         std::string name;
         PropertyString value;
     };
-    /// Those of the member "properties" of the record, an object of names and values.
-    const std::vector<std::unique_ptr<ShownProperty>>& shownProperties() const { return m_shown; }
 
-private:
     std::string m_className;
     Json::Value m_record;
     std::vector<std::unique_ptr<ShownProperty>> m_shown;
+    PropertyCoreData m_ownData; ///< describes the properties of the record
 };
 
 /// An object of a class that is not registered. It can be deleted, copied, pasted and saved, but its properties are only
@@ -54,9 +59,6 @@ public:
     std::size_t get_memory_usage() const override;
     /// Describes the object under its original class.
     void save_jsonDB(Json::Value& record) override;
-
-private:
-    PropertyCoreData m_ownData; ///< describes the properties of the record
 };
 
 /// A project of a class that is not registered. Its objects are placeholders too.
@@ -69,9 +71,6 @@ public:
     ~PlaceholderProject() override;
 
     std::size_t get_memory_usage() const override;
-
-private:
-    PropertyCoreData m_ownData; ///< describes the properties of the record
 };
 
 } // namespace Obj

@@ -43,8 +43,6 @@ void addToBars(Gui::Contributions& contributions)
 {
     contributions.addToMenu("&File", "New", "Mat_NewDoc");
     contributions.addToMenu("&File", "Import", "Std_ImportDocument");
-    contributions.addToMenu("&File", "Close", "Mat_DelDoc");
-    contributions.addToMenu("&Edit", "Clipboard", "Mat_Delete");
     contributions.addToMenu("&Project", "Add", "Mat_AddMaterial");
     contributions.addToMenu("&Project", "Add", "Mat_Edit");
     contributions.addToMenu("&Project", "Import", "Mat_Import");

@@ -144,6 +144,22 @@ void guardEdit(const Run& run)
         run();
 }
 
+bool areOnlyMaterialsSelected()
+{
+    const Gui::TreeSelectionSingleton& selection = Gui::TreeSelectionSingleton::instance();
+    return selection.get_objects_of_type(Mat::MaterialObject::getClassTypeId()).size() ==
+           selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId()).size();
+}
+
+/// Materials are deleted by the command of their module, with its own question.
+void guardDelete(Gui::CommandController& commands, const Run& run)
+{
+    if (areOnlyMaterialsSelected())
+        commands.runCommand("Mat_Delete");
+    else
+        run();
+}
+
 } // namespace
 
 void addMaterialGuards(Gui::CommandController& commands)
@@ -151,6 +167,7 @@ void addMaterialGuards(Gui::CommandController& commands)
     commands.addGuard("Mat_NewDoc", guardNewProject);
     commands.addGuard("Mat_Export", guardExport);
     commands.addGuard("Mat_Edit", guardEdit);
+    commands.addGuard("Std_Delete", [&commands](const Run& run) { guardDelete(commands, run); });
 }
 
 } // namespace desktop

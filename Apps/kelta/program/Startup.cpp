@@ -4,7 +4,6 @@
 #include "FileDrops.h"
 #include "ProjectFiles.h"
 
-#include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
@@ -36,9 +35,7 @@ bool loadModules(Gui::MainWindow& window)
     if (modules.loaded.isEmpty() && modules.failed.empty())
         Kelta::MessageLog::error(QCoreApplication::translate("kelta", "No module was found in %1.")
                                      .arg(Kelta::PluginLoader::standardFolders().join(QStringLiteral(", "))));
-    const auto& workbenches = Gui::GuiApplication::Instance->contributions().workbenches();
-    const bool hasWorkbench =
-        window.setWorkbench(workbenches.empty() ? "Gui::StdSimModule" : workbenches.front().className.c_str());
+    const bool hasWorkbench = window.setDefaultWorkbench();
     return hasWorkbench && !modules.loaded.isEmpty() && modules.failed.empty();
 }
 

@@ -19,7 +19,8 @@ namespace Gui {
 struct CommandType
 {
     static constexpr int none = 0;
-    /// The command acts on what is selected in the project tree. Its shortcut works only while the tree has the keyboard.
+    /// The command acts on what is selected in the project tree. Its shortcut works only while the tree has the keyboard;
+    /// if several such commands have the same shortcut, it runs the one that was registered first.
     static constexpr int onTree = 8;
 };
 
@@ -52,8 +53,6 @@ public:
     QAction* action() const { return m_action; }
     /// Enables the action if the command is applicable now, and sets its check mark. Does nothing without an action.
     void updateAction();
-    const char* getGroup() const { return group; }
-    const char* getModule() const { return module; }
     int getTypeFlags() const { return typeFlags; }
 
 protected:

@@ -8,6 +8,7 @@
 #include "Gui/ProjectExplorer.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
+#include "commands/Deletion.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QUndoStack>
@@ -141,6 +142,24 @@ std::vector<CommandRow> clipboardRows(ObjectClipboard& clipboard, TreeSelectionS
     };
 }
 
+std::vector<CommandRow> deletionRows(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection)
+{
+    return {
+        {"Std_Delete", QT_TRANSLATE_NOOP("StandardCommand", "Dele&te"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Delete the selected objects"), "", QKeySequence::Delete,
+         CommandType::onTree, [&requests, &selection] { deleteSelected(requests, selection); },
+         [&selection] { return !selectedIn(selection).empty(); }},
+        {"Std_CloseProject",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Close project"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Close the selected project, or else the one of the selected object"),
+         "",
+         {},
+         CommandType::none,
+         [&requests, &selection] { closeSelected(requests, selection); },
+         hasProject},
+    };
+}
+
 std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection)
 {
     return {
@@ -191,6 +210,7 @@ void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& sel
     CommandController& commands = application.get_command_manager();
     addCommands(commands, context, historyRows(application.requests().undoStack()));
     addCommands(commands, context, clipboardRows(application.objectClipboard(), selection));
+    addCommands(commands, context, deletionRows(application.requests(), selection));
     addCommands(commands, context, suppressionRows(application.requests(), selection));
     addCommands(commands, context, projectRows(application.requests(), selection));
 }

@@ -1,5 +1,6 @@
 #include "Gui/ProjectExplorer.h"
 
+#include "Gui/CommandController.h"
 #include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
@@ -93,9 +94,13 @@ void ProjectExplorer::mouseDoubleClickEvent(QMouseEvent* event)
 
 void ProjectExplorer::keyPressEvent(QKeyEvent* event)
 {
-    // The command that renames may not be enabled yet.
+    // The commands that rename and delete may not be enabled yet.
     if (event->key() == Qt::Key_F2 && renameSelected())
         return;
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+        m_application.get_command_manager().runCommand("Std_Delete");
+        return;
+    }
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isReturn || state() == QAbstractItemView::EditingState || !open(rowForKeys()))
         QTreeView::keyPressEvent(event);
@@ -234,6 +239,8 @@ void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
     if (ViewFeeder* const node = nodeAt(index)) {
         addNodeEntries(*node, menu);
         node->build_context_menu("Tree", &items);
+        if (!items.hasItems())
+            items << (m_model.objectAt(index) != nullptr ? "Std_Delete" : "Std_CloseProject");
     } else {
         for (const std::string& command : m_window.contributions().treeMenu())
             items << command.c_str();

@@ -29,8 +29,6 @@ public:
                     QWidget* parent = nullptr);
     ~ProjectExplorer() override;
 
-    ProjectTreeModel& treeModel() { return m_model; }
-
     /// Begins to rename the selected object. Returns false if not exactly one object is selected.
     bool renameSelected();
     /// Selects all objects of the current project.

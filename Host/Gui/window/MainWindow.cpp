@@ -451,15 +451,17 @@ void MainWindow::showWantedDocks()
 
 void MainWindow::addShortcuts()
 {
+    std::set<QKeySequence> treeKeys;
     for (Command* const command : m_application.get_command_manager().getCommands()) {
         QAction* const action = command->action() != nullptr ? command->action() : command->new_action(this);
         if ((command->getTypeFlags() & CommandType::onTree) == 0) {
             addAction(action);
             continue;
         }
-        // A key that acts on the tree must not do so while the user types into an editor.
+        // A key of two commands would run neither. A key that acts on the tree must not do so while the user types into an editor.
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        m_explorer->addAction(action);
+        if (action->shortcut().isEmpty() || treeKeys.insert(action->shortcut()).second)
+            m_explorer->addAction(action);
     }
 }
 

@@ -98,7 +98,6 @@ public:
     const Contributions& contributions() const { return m_contributions; }
 
     ProjectExplorer& getProjectExplorer() const { return *m_explorer; }
-    PropertyPanel& getPropertyPanel() const { return *m_properties; }
     MessageLogView& getMessageLog() const { return *m_log; }
 
     /// Tells the user a result: writes `text` to the message log and, if there is a main window, to its status bar.

@@ -38,16 +38,17 @@ MenuItem* makeFileMenu()
                                          {"Open", noLine, {"Std_Open", "Std_OpenRecent"}},
                                          {"Save", line, {"Std_Save", "Std_SaveAs"}},
                                          {"Import", line, {}},
-                                         {"Close", line, {}},
+                                         {"Close", line, {"Std_CloseProject"}},
                                          {"Quit", noLine, {"Std_Quit"}}});
 }
 
 MenuItem* makeEditMenu()
 {
-    return makeGroup<MenuItem>("&Edit", {{"Undo", line, {"Std_Undo", "Std_Redo"}},
-                                         {"Clipboard", line, {"Std_Copy", "Std_Paste", "Std_DuplicateSelection"}},
-                                         {"Select", line, {"Std_SelectAll", "Std_Rename"}},
-                                         {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}}});
+    return makeGroup<MenuItem>("&Edit",
+                               {{"Undo", line, {"Std_Undo", "Std_Redo"}},
+                                {"Clipboard", line, {"Std_Copy", "Std_Paste", "Std_DuplicateSelection", "Std_Delete"}},
+                                {"Select", line, {"Std_SelectAll", "Std_Rename"}},
+                                {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}}});
 }
 
 MenuItem* makeProjectMenu()

@@ -89,7 +89,7 @@ private:
     int countObjects() const { return static_cast<int>(m_project->getObjectCount()); }
     int countRows() const
     {
-        const Gui::ProjectTreeModel& model = m_tree.treeModel();
+        const auto& model = dynamic_cast<const Gui::ProjectTreeModel&>(*m_tree.model());
         return model.rowCount(model.indexOf(*m_project));
     }
     int countSelected() const

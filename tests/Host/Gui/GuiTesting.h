@@ -231,7 +231,8 @@ protected:
     static TestNode& nodeOf(Obj::ProjectObject& object);
 
     Gui::ProjectExplorer& explorer() const { return window->getProjectExplorer(); }
-    Gui::ProjectTreeModel& model() const { return explorer().treeModel(); }
+    Gui::ProjectTreeModel& model() const { return dynamic_cast<Gui::ProjectTreeModel&>(*explorer().model()); }
+    Gui::PropertyPanel& panel() const { return *window->findChild<Gui::PropertyPanel*>(); }
     /// Gives the explorer the keyboard, and expands all of it.
     void focusExplorer() const;
     /// The present text of a row.

@@ -52,7 +52,12 @@ protected:
     {
         return dynamic_cast<vxtest::BeamNode&>(*Gui::GuiApplication::Instance->get_view_feeder(&beam));
     }
-    static bool close() { return requests().closeProject(frame().get_name()); }
+    /// Closes the frame, as its menu entry does. Returns whether it is closed.
+    static bool close()
+    {
+        const std::size_t open = Obj::Application::get_projects().size();
+        return run("Std_CloseProject") && Obj::Application::get_projects().size() < open;
+    }
     bool isModified() const { return files->isModified(frame()); }
 
     /// A frame of two beams in a group, in which nothing has its default.

@@ -18,7 +18,13 @@ class PlaceholderFiles : public vxtest::FilesWindow
 {
 protected:
     static Obj::Project& project() { return *Obj::Application::get_current_project(); }
-    static vxMsg::MessageProxy& requests() { return vxMsg::MessageProxy::instance(); }
+    /// Deletes an object as the user does, and presses these buttons in the questions.
+    static void deleteObject(Obj::ProjectObject& object, const QStringList& buttons = {})
+    {
+        const Answers answers(buttons);
+        Gui::TreeSelectionSingleton::instance().setSelection({}, {&object});
+        EXPECT_TRUE(run("Std_Delete"));
+    }
     projectfile::ProjectRecord recordIn(const char* name) const
     {
         return projectfile::readProject(contentOf(path(name)).toStdString());
@@ -89,7 +95,7 @@ TEST_F(PlaceholderFiles, ChangeOnlyWhereTheUserChangesThem)
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
     project().get_object("Girder")->label.setValue("Beam 1");
     EXPECT_TRUE(files->isModified(project()));
-    ASSERT_TRUE(requests().deleteObject(project().get_name(), "Column"));
+    deleteObject(*project().get_object("Column"), {"Yes"});
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     history().undo();
     EXPECT_TRUE(files->isModified(project()));
@@ -110,7 +116,8 @@ TEST_F(PlaceholderFiles, BecomeObjectsOfTheModuleWhenItIsThere)
               frameText().replace("absent::", "vxtest::").replace("[1, {\"deep\": [null, true]}]", "null"));
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
-    ASSERT_TRUE(requests().closeProject(project().get_name()));
+    ASSERT_TRUE(run("Std_CloseProject"));
+    ASSERT_THAT(Obj::Application::get_projects(), testing::IsEmpty());
     vxtest::registerFrames();
     const Answers none;
     ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
@@ -126,7 +133,8 @@ TEST_F(PlaceholderFiles, AskBeforeAPlaceholderWithChangesIsClosed)
     ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
     project().get_object("Girder")->label.setValue("Beam 1");
     const Answers answers({"Discard"});
-    EXPECT_TRUE(requests().closeProject(project().get_name()));
+    EXPECT_TRUE(run("Std_CloseProject"));
+    EXPECT_THAT(Obj::Application::get_projects(), testing::IsEmpty());
 }
 
 TEST_F(PlaceholderFiles, AreRecovered)
@@ -155,7 +163,7 @@ TEST_F(PlaceholderFiles, KeepMaterialsWithoutTheirModule)
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     EXPECT_EQ(contentOf(path("b.vxmat")).toStdString(), before);
     project().get_object(2)->label.setValue("Foil");
-    ASSERT_TRUE(requests().deleteObject(project().get_name(), project().get_object(1)->get_name_in_project()));
+    deleteObject(*project().get_object(1));
     ASSERT_TRUE(run("Std_Save"));
     const projectfile::ProjectRecord after = recordIn("b.vxmat");
     ASSERT_EQ(after.objects.size(), 1U);

@@ -1,12 +1,15 @@
 #include "MaterialsTesting.h"
 
 #include "Gui/FileDialog.h"
+#include "Gui/ProjectExplorer.h"
 #include "Obj/Application.h"
+#include "Obj/Placeholder.h"
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QtTest/QtTestGui>
 
 #include <limits>
 
@@ -277,6 +280,74 @@ TEST_F(EditCommand, RefusesMoreThanAHundred)
     EXPECT_EQ(boxes.shown().front().text,
               "Materials selected: 101. At most 100 can be opened at a time. Select fewer.");
     EXPECT_EQ(editors(), 0);
+}
+
+/// Deletion with the key, in the tree of a window in which materials and objects of the host are.
+class DeleteKey : public vxtest::Materials
+{
+protected:
+    static Obj::Project& newPlainProject()
+    {
+        return *Obj::Application::instance().addProject(
+            Obj::OwnedProject(new Obj::PlaceholderProject("absent::Frame", Json::Value())), "Plain");
+    }
+    static Obj::ProjectObject& addGroup(Obj::Project& project)
+    {
+        return *project.add_object("Obj::ProjectObjectGroup", "Group");
+    }
+    void press() const
+    {
+        Gui::ProjectExplorer& tree = window->getProjectExplorer();
+        tree.setFocus();
+        window->updateCommands();
+        QTest::keyClick(&tree, Qt::Key_Delete);
+    }
+};
+
+TEST_F(DeleteKey, DeletesMaterialsWithTheQuestionOfTheirModule)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    Mat::MaterialObject& alloy = addMaterial(project, "Alloy");
+    alloy.linkTo(steel);
+    select({&steel});
+    const MessageBoxes boxes(QMessageBox::Yes);
+    press();
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().title, "Object dependencies");
+    EXPECT_THAT(project.getObjects(), testing::ElementsAre(&alloy));
+    EXPECT_EQ(history().undoText(), "Delete");
+    history().undo();
+    EXPECT_THAT(project.getObjects(), testing::ElementsAre(&steel, &alloy));
+}
+
+TEST_F(DeleteKey, DeletesObjectsOfProjectsThatHaveNoMaterials)
+{
+    newProject();
+    Obj::Project& plain = newPlainProject();
+    select({&addGroup(plain)});
+    const MessageBoxes boxes;
+    press();
+    EXPECT_TRUE(boxes.shown().empty());
+    EXPECT_THAT(plain.getObjects(), testing::IsEmpty());
+}
+
+TEST_F(DeleteKey, DeletesMaterialsAndOtherObjectsTogetherWithOneQuestion)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    Mat::MaterialObject& alloy = addMaterial(project, "Alloy");
+    alloy.linkTo(steel);
+    Obj::Project& plain = newPlainProject();
+    select({&steel, &addGroup(plain)});
+    history().clear();
+    const MessageBoxes boxes(QMessageBox::Yes);
+    press();
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown().front().text.toStdString(), HasSubstr("\"Alloy\""));
+    EXPECT_THAT(project.getObjects(), testing::ElementsAre(&alloy));
+    EXPECT_THAT(plain.getObjects(), testing::IsEmpty());
+    EXPECT_EQ(history().count(), 1);
 }
 
 } // namespace

@@ -45,10 +45,9 @@ TEST_F(Language, SwitchesTheWholeWindow)
     EXPECT_EQ(menus().first(), "&Datei");
     EXPECT_EQ(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->windowTitle(), "Eigenschaften");
     EXPECT_EQ(commands().findCommand("Std_Copy")->action()->text(), "&Kopieren");
-    EXPECT_EQ(window->getPropertyPanel().headerItem()->text(1), "Wert");
-    EXPECT_TRUE(vxtest::waitFor([this] {
-        return window->getPropertyPanel().topLevelItem(0)->text(0) == QStringLiteral("Nichts ist ausgewählt.");
-    }));
+    EXPECT_EQ(panel().headerItem()->text(1), "Wert");
+    EXPECT_TRUE(vxtest::waitFor(
+        [this] { return panel().topLevelItem(0)->text(0) == QStringLiteral("Nichts ist ausgewählt."); }));
     EXPECT_EQ(explorer().accessibleName(), "Projektbaum");
     EXPECT_EQ(window->getMessageLog().accessibleName(), "Meldungen");
     Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
@@ -57,7 +56,7 @@ TEST_F(Language, SwitchesTheWholeWindow)
     Translator::instance()->setLanguage(QStringLiteral("en"));
     QCoreApplication::processEvents();
     EXPECT_EQ(menus().first(), "&File");
-    EXPECT_EQ(window->getPropertyPanel().headerItem()->text(1), "Value");
+    EXPECT_EQ(panel().headerItem()->text(1), "Value");
 }
 
 TEST_F(Language, WithACountryIsServedByTheLanguageAlone)

@@ -60,7 +60,7 @@ protected:
     {
         focusExplorer();
         select({&object});
-        window->getPropertyPanel().showSelection();
+        panel().showSelection();
         undoStack().clear();
         // The application keeps the command.
         if (commands().findCommand("Test_Look") == nullptr)
@@ -93,9 +93,8 @@ protected:
     /// Types a count for the object into the property panel, without an end.
     void typeCount(const char* count) const
     {
-        Gui::PropertyPanel& panel = window->getPropertyPanel();
-        panel.editItem(panel.findItems(QStringLiteral("Count"), Qt::MatchExactly | Qt::MatchRecursive).first(), 1);
-        auto* const line = panel.viewport()->findChild<QLineEdit*>();
+        panel().editItem(panel().findItems(QStringLiteral("Count"), Qt::MatchExactly | Qt::MatchRecursive).first(), 1);
+        auto* const line = panel().viewport()->findChild<QLineEdit*>();
         line->selectAll();
         QTest::keyClicks(line, count);
     }

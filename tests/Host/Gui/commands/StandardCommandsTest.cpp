@@ -42,6 +42,7 @@ TEST_F(StandardCommands, HaveTheirStandardKeys)
     EXPECT_EQ(keyOf("Std_Redo"), QKeySequence(QKeySequence::Redo));
     EXPECT_EQ(keyOf("Std_Copy"), QKeySequence(QKeySequence::Copy));
     EXPECT_EQ(keyOf("Std_Paste"), QKeySequence(QKeySequence::Paste));
+    EXPECT_EQ(keyOf("Std_Delete"), QKeySequence(QKeySequence::Delete));
     EXPECT_EQ(keyOf("Std_SelectAll"), QKeySequence(QKeySequence::SelectAll));
     EXPECT_EQ(keyOf("Std_Rename"), QKeySequence(Qt::Key_F2));
     EXPECT_EQ(keyOf("Std_DuplicateSelection"), QKeySequence(QStringLiteral("Ctrl+D")));
@@ -66,9 +67,10 @@ TEST_F(StandardCommands, HaveDifferentKeysAndMnemonicsInEachMenu)
 
 TEST_F(StandardCommands, ApplyToNothingInAnEmptyProgram)
 {
-    for (const char* const name : {"Std_Undo", "Std_Redo", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
-                                   "Std_Suppress", "Std_Unsuppress", "Std_Rename", "Std_SelectAll", "Std_TileWindows",
-                                   "Std_CascadeWindows", "Std_TabWindows", "Std_CloseWindow", "Std_CloseAllWindows"})
+    for (const char* const name :
+         {"Std_Undo", "Std_Redo", "Std_Copy", "Std_Paste", "Std_DuplicateSelection", "Std_Delete", "Std_CloseProject",
+          "Std_Suppress", "Std_Unsuppress", "Std_Rename", "Std_SelectAll", "Std_TileWindows", "Std_CascadeWindows",
+          "Std_TabWindows", "Std_CloseWindow", "Std_CloseAllWindows"})
         EXPECT_FALSE(isApplicable(name)) << name;
     for (const char* const name : {"Std_Quit", "Std_About", "Std_ProjectExplorer", "Std_PropertyPanel"})
         EXPECT_TRUE(isApplicable(name)) << name;

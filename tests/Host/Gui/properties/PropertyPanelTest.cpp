@@ -19,8 +19,6 @@ protected:
         show({&object});
     }
 
-    Gui::PropertyPanel& panel() const { return window->getPropertyPanel(); }
-
     void show(const std::vector<Obj::ProjectObject*>& objects) const
     {
         select(objects);

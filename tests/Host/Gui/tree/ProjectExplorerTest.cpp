@@ -354,9 +354,15 @@ TEST_F(Explorer, HandsTheEditModeOfAChosenActionToTheNode)
     EXPECT_THAT(nodeOf(first).editModes, ElementsAre(7));
 }
 
-TEST_F(Explorer, OffersNothingForANodeWithoutAMenu)
+TEST_F(Explorer, OffersToCloseAProjectWhoseNodeHasNoMenu)
 {
-    EXPECT_EQ(contextMenuAt(explorer().visualRect(model().indexOf(project)).center()), QStringList());
+    EXPECT_EQ(contextMenuAt(explorer().visualRect(model().indexOf(project)).center()), QStringList({"&Close project"}));
+}
+
+TEST_F(Explorer, OffersToDeleteAnObjectWhoseNodeHasNoMenu)
+{
+    Obj::ProjectObject& plain = *project.add_object("Obj::ProjectObjectGroup", "Plain");
+    EXPECT_EQ(contextMenuAt(placeOf(plain)), QStringList({"Dele&te"}));
 }
 
 TEST_F(Explorer, SelectsTheRowOnWhichTheMenuOpens)
@@ -368,16 +374,12 @@ TEST_F(Explorer, SelectsTheRowOnWhichTheMenuOpens)
 
 TEST_F(Explorer, HearsTreeKeysWhenItHasTheKeyboardAlone)
 {
-    // The application keeps the command.
-    static int deleted;
-    static auto* const command = new vxtest::TestCommand(
-        "Test_Delete", [] { ++deleted; }, Gui::CommandType::onTree, QKeySequence(QKeySequence::Delete));
-    if (commands().findCommand("Test_Delete") == nullptr)
-        commands().new_command(command);
-    deleted = 0;
-    window->setWorkbench("Gui::StdSimModule");
+    click(second);
+    window->updateCommands();
     QTest::keyClick(&explorer(), Qt::Key_Delete);
-    EXPECT_EQ(deleted, 1);
+    EXPECT_THAT(project.getObjects(), ElementsAre(&first));
+    click(first);
+    window->updateCommands();
     auto* const document = new Gui::MDIWindow(nullptr, nullptr);
     auto* const line = new QLineEdit(QStringLiteral("text"));
     document->setCentralWidget(line);
@@ -385,8 +387,32 @@ TEST_F(Explorer, HearsTreeKeysWhenItHasTheKeyboardAlone)
     line->setFocus();
     line->setCursorPosition(0);
     QTest::keyClick(line, Qt::Key_Delete);
-    EXPECT_EQ(deleted, 1);
+    EXPECT_THAT(project.getObjects(), ElementsAre(&first));
     EXPECT_EQ(line->text(), "ext");
+}
+
+TEST_F(Explorer, HearsTheDeleteKeyBeforeTheCommandIsEnabled)
+{
+    window->updateCommands();
+    select({&first, &second});
+    QTest::keyClick(&explorer(), Qt::Key_Delete);
+    EXPECT_THAT(project.getObjects(), testing::IsEmpty());
+}
+
+TEST_F(Explorer, GivesAKeyOfTwoCommandsToTheFirst)
+{
+    // The application keeps the command.
+    static int runs;
+    if (commands().findCommand("Test_Delete") == nullptr)
+        commands().new_command(new vxtest::TestCommand(
+            "Test_Delete", [] { ++runs; }, Gui::CommandType::onTree, QKeySequence(QKeySequence::Delete)));
+    runs = 0;
+    window->setWorkbench("Gui::StdSimModule");
+    select({&second});
+    window->updateCommands();
+    QTest::keyClick(&explorer(), Qt::Key_Delete);
+    EXPECT_EQ(runs, 0);
+    EXPECT_THAT(project.getObjects(), ElementsAre(&first));
 }
 
 TEST_F(Explorer, ExpandsAProjectWhenObjectsCome)

@@ -222,8 +222,9 @@ TEST_F(MaterialNode, OpensOneEditorAndActivatesItTheSecondTime)
 TEST_F(MaterialNode, OpensOneEditorWhenItIsDoubleClickedQuickly)
 {
     Gui::ProjectExplorer& explorer = window->getProjectExplorer();
-    explorer.treeModel().synchronize();
-    const QModelIndex index = explorer.treeModel().indexOf(material);
+    auto& model = dynamic_cast<Gui::ProjectTreeModel&>(*explorer.model());
+    model.synchronize();
+    const QModelIndex index = model.indexOf(material);
     explorer.scrollTo(index);
     const QPoint position = explorer.visualRect(index).center();
     for (int i = 0; i < 5; ++i)

@@ -1244,6 +1244,36 @@ Möchten Sie fortfahren?</translation>
         <source>Hand the data of the project over to the solver</source>
         <translation>Die Daten des Projekts an den Solver übergeben</translation>
     </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Delete objects</source>
+        <translation>Objekte löschen</translation>
+    </message>
+    <message>
+        <source>These objects need what is to be deleted, and lose their references to it: %1.
+Delete all the same?</source>
+        <translation>Diese Objekte brauchen, was gelöscht werden soll, und verlieren ihre Verweise darauf: %1.
+Trotzdem löschen?</translation>
+    </message>
+    <message>
+        <source>Dele&amp;te</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Delete the selected objects</source>
+        <translation>Die ausgewählten Objekte löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Close project</source>
+        <translation>Projekt s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close the selected project, or else the one of the selected object</source>
+        <translation>Das ausgewählte Projekt schließen, sonst das des ausgewählten Objekts</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1673,9 +1703,9 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message numerus="yes">
         <source>%n link(s) of &quot;%1&quot; cannot be made.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Verknüpfung von „%1“ kann nicht hergestellt werden.</numerusform>
+            <numerusform>%n Verknüpfungen von „%1“ können nicht hergestellt werden.</numerusform>
         </translation>
     </message>
     <message>

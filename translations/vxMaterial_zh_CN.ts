@@ -1244,6 +1244,36 @@ Do you want to continue?</source>
         <source>Hand the data of the project over to the solver</source>
         <translation>将项目数据移交给求解器</translation>
     </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 以及另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Delete objects</source>
+        <translation>删除对象</translation>
+    </message>
+    <message>
+        <source>These objects need what is to be deleted, and lose their references to it: %1.
+Delete all the same?</source>
+        <translation>以下对象需要将被删除的内容，并将失去对它的引用：%1。
+仍要删除吗？</translation>
+    </message>
+    <message>
+        <source>Dele&amp;te</source>
+        <translation>删除(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Delete the selected objects</source>
+        <translation>删除所选对象</translation>
+    </message>
+    <message>
+        <source>&amp;Close project</source>
+        <translation>关闭项目(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the selected project, or else the one of the selected object</source>
+        <translation>关闭所选项目，否则关闭所选对象所在的项目</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1673,8 +1703,8 @@ Do you want to continue?</source>
     </message>
     <message numerus="yes">
         <source>%n link(s) of &quot;%1&quot; cannot be made.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>无法建立“%1”的 %n 个链接。</numerusform>
         </translation>
     </message>
     <message>

@@ -115,7 +115,7 @@ const std::vector<Row>& expectedRows()
 /// Gives access to fields of commands that the host keeps and does not show.
 struct ProtectedFields : Gui::Command
 {
-    static auto ofModule() { return &ProtectedFields::module; }
+    static auto moduleNameOf() { return &ProtectedFields::module; }
     static auto ofGroup() { return &ProtectedFields::group; }
 };
 
@@ -197,7 +197,7 @@ TEST_F(Commands, HaveTheFieldsOfTheTable)
         EXPECT_EQ(command->get_tooltip_info(), row.tip);
         EXPECT_EQ(command->get_statustip(), row.tip);
         EXPECT_STREQ(command->get_pixmap(), row.pixmap);
-        EXPECT_STREQ(command->*ProtectedFields::ofModule(), row.module);
+        EXPECT_STREQ(command->*ProtectedFields::moduleNameOf(), row.module);
         EXPECT_STREQ(command->*ProtectedFields::ofGroup(), row.group);
         EXPECT_EQ(command->get_shortcut(), row.shortcut);
         EXPECT_EQ(command->getTypeFlags(), row.typeFlags);

@@ -19,20 +19,31 @@ bool belongsTo(const Gui::MDIWindow& window, const Obj::Project& project)
     return window.getGuiProject() != nullptr && &window.getGuiProject()->get_project() == &project;
 }
 
-/// Asks about one window; returns Apply, Discard for continuing without the edits, or Cancel.
-int ask(Gui::MainWindow& mainWindow, const Gui::MDIWindow& window, const UnappliedQuestion& question)
+enum class Choice
+{
+    Apply,
+    Continue, ///< without the edits
+    Cancel,
+};
+
+/// Asks about one window.
+Choice ask(Gui::MainWindow& mainWindow, const Gui::MDIWindow& window, const UnappliedQuestion& question)
 {
     const QString name = window.windowTitle().remove(QStringLiteral("[*]"));
     QMessageBox box(QMessageBox::Question, question.title,
                     QCoreApplication::translate("desktop::UnappliedEdits",
                                                 "The changes of \"%1\" in its editor have not been applied.")
                         .arg(name),
-                    QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, &mainWindow);
+                    QMessageBox::Apply | QMessageBox::Cancel, &mainWindow);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(question.details);
-    box.button(QMessageBox::Discard)->setText(question.without);
+    // A standard button would get its standard text back if the language changes while the box is shown.
+    const QAbstractButton* const without = box.addButton(question.without, QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Apply);
-    return box.exec();
+    const int answer = box.exec();
+    if (box.clickedButton() == without)
+        return Choice::Continue;
+    return answer == QMessageBox::Apply ? Choice::Apply : Choice::Cancel;
 }
 
 /// Returns whether no edits are left.
@@ -51,8 +62,8 @@ bool mayContinue(Gui::MainWindow& mainWindow, const QPointer<Gui::MDIWindow>& wi
     if (window == nullptr)
         return true;
     mainWindow.set_active_mdi_window(window);
-    const int choice = ask(mainWindow, *window, question);
-    return choice == QMessageBox::Discard || (choice == QMessageBox::Apply && apply(window));
+    const Choice choice = ask(mainWindow, *window, question);
+    return choice == Choice::Continue || (choice == Choice::Apply && apply(window));
 }
 
 } // namespace

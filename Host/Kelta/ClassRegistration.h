@@ -4,8 +4,8 @@
 
 #include <new>
 
-/// The members by which the type system knows a class, declared by one line in its body and defined by one line in its
-/// source file. That line is the only place that tells the name of the class, its parent, and whether an object can be
+/// The members by which the type system identifies a class. One line in its body declares them, and one line in its
+/// source file defines them. That line alone names the class and its parent, and says whether an object can be
 /// created by the name. `Obj/ClassRegistration.h` does the same for classes with host properties.
 ///
 ///     class Workbench : public Gui::StdSimModule          // header
@@ -16,10 +16,10 @@
 ///
 ///     KELTA_REGISTER_CLASS(Fastening::Workbench, Gui::StdSimModule)          // source file
 ///
-/// Both arguments are written with all their namespaces: their spelling is the registered name. The class is known once
+/// Both arguments include all their namespaces: their spelling is the registered name. The class is registered when
 /// its static `init()` has been called.
 
-/// Declares the members of a class that is not created by its name. Ends in a private section.
+/// Declares the members of a class that cannot be created by its name. Ends in a private section.
 #define KELTA_ABSTRACT_CLASS                                                                                           \
 public:                                                                                                                \
     static void init();                                                                                                \
@@ -29,13 +29,13 @@ public:                                                                         
 private:                                                                                                               \
     static Kelta::TypeInfo classTypeId
 
-/// Declares the members of a class that is created by its name, with its default constructor.
+/// Declares the members of a class that can be created by its name, with its default constructor.
 #define KELTA_CLASS                                                                                                    \
 public:                                                                                                                \
     static void* create();                                                                                             \
     KELTA_ABSTRACT_CLASS
 
-/// Defines what KELTA_ABSTRACT_CLASS declares.
+/// Defines the members that KELTA_ABSTRACT_CLASS declares.
 #define KELTA_REGISTER_ABSTRACT_CLASS(Class, Parent)                                                                   \
     KELTA_DEFINE_TYPE_ID(Class)                                                                                        \
     void Class::init()                                                                                                 \
@@ -43,7 +43,7 @@ public:                                                                         
         initSubclass(classTypeId, #Class, #Parent, nullptr, sizeof(Class));                                            \
     }
 
-/// Defines what KELTA_CLASS declares.
+/// Defines the members that KELTA_CLASS declares.
 #define KELTA_REGISTER_CLASS(Class, Parent)                                                                            \
     KELTA_DEFINE_TYPE_ID_AND_CREATE(Class)                                                                             \
     void Class::init()                                                                                                 \
@@ -51,7 +51,7 @@ public:                                                                         
         initSubclass(classTypeId, #Class, #Parent, &Class::create, sizeof(Class));                                     \
     }
 
-// Parts of the macros above and of those in Obj.
+// Parts of the macros above and of the macros in Obj.
 
 #define KELTA_DEFINE_TYPE_ID(Class)                                                                                    \
     Kelta::TypeInfo Class::classTypeId;                                                                                \
@@ -73,8 +73,8 @@ public:                                                                         
 
 namespace Kelta {
 
-/// Returns the address of the RootClass of a new object; null if memory is exhausted. The caller owns the object. What
-/// the constructor throws passes through.
+/// Returns the address of the RootClass of a new object; null if memory is exhausted. The caller owns the object.
+/// Exceptions of the constructor pass through.
 template <typename Class>
 void* createObject()
 {

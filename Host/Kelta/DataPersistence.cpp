@@ -20,7 +20,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("Kelta::DataPersistence", text);
 }
 
-/// Reads the file to its end, so that one that is cut off is found before anything is set from it.
+/// Reads the file to its end, so that a truncated file is detected before it sets anything.
 QString reasonNotToLoad(const QString& path, const QString& className)
 {
     XMLFileReader reader(path);

@@ -12,27 +12,27 @@ namespace Kelta {
 class FileWriter;
 class XMLFileReader;
 
-/// An object that knows its size in memory and can be written into an XML file of its own.
+/// An object that knows its size in memory and can be written into its own XML file.
 ///
-/// The XML operations are hooks for modules: projects are kept in JSON files by the application, so the host classes
+/// The XML operations are hooks for modules. The application keeps projects in JSON files, so the host classes
 /// write nothing.
 class KELTA_EXPORT DataPersistence : public RootClass
 {
     KELTA_ABSTRACT_CLASS;
 
 public:
-    /// The bytes that the object takes with all that it owns, an estimate for the user. Here the size of its registered
-    /// class; classes add what their members hold.
+    /// Returns the bytes that the object and everything it owns take, an estimate for the user. Here the size of its
+    /// registered class; derived classes add the sizes of their members' content.
     virtual std::size_t get_memory_usage() const;
-    /// Writes the content of the object inside the element that the caller has begun. Here nothing.
+    /// Writes the content of the object inside the element that the caller has begun. Writes nothing here.
     virtual void save(FileWriter& writer) const;
-    /// Reads what save wrote, inside the element that the reader has just entered. Here nothing.
+    /// Reads the output of save, inside the element that the reader has just entered. Reads nothing here.
     virtual void load(XMLFileReader& reader);
-    /// Writes a file of the object alone, as save says. False, with the reason in the message log, if it cannot be
-    /// written; an earlier file then stays.
+    /// Writes a file of the object alone, by save. Returns false, with the reason in the message log, if the file
+    /// cannot be written; an earlier file is then kept.
     virtual bool save_to_file(const QString& path) const;
-    /// Reads what save_to_file wrote of an object of the same class. False, with the reason in the message log, if it
-    /// cannot be read; a file that is cut off, or of another class, changes nothing.
+    /// Reads a file that save_to_file wrote for an object of the same class. Returns false, with the reason in the
+    /// message log, if it cannot be read. A file that is truncated, or of another class, changes nothing.
     virtual bool load_from_file(const QString& path);
 };
 

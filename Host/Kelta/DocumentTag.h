@@ -4,7 +4,7 @@
 
 namespace Kelta {
 
-/// The kind of a project. The number is part of saved records; each module has a number for its projects.
+/// The kind of a project. The number is part of saved records. Each module has a number for its projects.
 ///
 ///     constexpr Kelta::eDocumentTag assemblyTag{4711};
 enum class eDocumentTag : std::uint32_t

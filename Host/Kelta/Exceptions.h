@@ -9,15 +9,15 @@
 namespace Kelta {
 
 /// Returns the text of the exception that is being handled, or a translated text if the exception has none or is of an
-/// unknown kind. To be called inside a handler.
+/// unknown kind. Must be called inside a handler.
 KELTA_EXPORT QString currentExceptionText();
 
-/// Reports the exception that is being handled to the message log, as "`failure`: text of the exception". To be called
-/// inside a handler. Throws nothing; if memory does not suffice for the report, there is none.
+/// Reports the exception that is being handled to the message log, as "`failure`: text of the exception". Must be
+/// called inside a handler. Throws nothing. Reports nothing if memory is insufficient.
 KELTA_EXPORT void reportException(const QString& failure) noexcept;
 
-/// Runs `action` and returns whether it ran to its end. If it throws, the exception is reported to the message log behind
-/// `failure`, a translated text that says what failed. For every boundary that no exception may cross.
+/// Runs `action` and returns whether it ended without an exception. An exception is reported to the message log behind
+/// `failure`, a translated text about the failed operation. For every boundary that no exception may cross.
 ///
 ///     const bool done = Kelta::guarded(tr("The file cannot be saved"), [&] { save(path); });
 template <typename Action>

@@ -24,16 +24,16 @@ bool FileWriter::commit()
     return m_reason.isEmpty();
 }
 
-/// Returns the reason why the file cannot be written; empty if it was.
+/// Returns the reason if the file cannot be written; empty if it was written.
 QString FileWriter::write() const
 {
-    // A device or a pipe would be replaced by a file of its name.
+    // A device or a pipe would be replaced by a file of the same name.
     const QFileInfo target(m_path);
     if (target.exists() && !target.isFile())
         return QCoreApplication::translate("Kelta", "this is not a file");
     QSaveFile file(m_path);
     errno = 0;
-    // A disk that is full is found by flushing; commit alone would miss it, and the file then does not tell the reason.
+    // flush detects a full disk; commit alone does not, and the file then reports no reason.
     const bool written =
         file.open(QIODevice::WriteOnly) && file.write(m_document) == m_document.size() && file.flush() && file.commit();
     if (written)

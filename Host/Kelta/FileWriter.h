@@ -8,10 +8,10 @@
 
 namespace Kelta {
 
-/// An XML file that is being written. The hooks `Save` of a project and `save` of an object take one; the host itself
+/// An XML file that is being written. The hooks `Save` of a project and `save` of an object take it. The host itself
 /// keeps projects in JSON files and writes nothing here.
 ///
-/// The document is made in memory. The file changes only in commit, and as a whole.
+/// The document is built in memory. Only commit changes the file, and replaces it as a whole.
 class KELTA_EXPORT FileWriter
 {
 public:
@@ -23,10 +23,10 @@ public:
     /// Writes the elements of the document.
     QXmlStreamWriter& xml() { return m_xml; }
 
-    /// Ends the elements that are open and writes the file. False, with the reason in errorText, if a text has a
-    /// character that XML cannot hold, or if the file cannot be written; an earlier file then stays.
+    /// Ends the open elements and writes the file. Returns false, with the reason in errorText, if a text has a
+    /// character that XML does not allow, or if the file cannot be written; an earlier file is then kept.
     [[nodiscard]] bool commit();
-    /// Why commit failed: "PATH: reason".
+    /// Returns the reason why commit failed: "PATH: reason".
     QString errorText() const;
 
 private:

@@ -16,10 +16,10 @@ void MessageLog::report(LogMessage::Severity severity, const QString& text)
 {
     add(severity, text);
     try {
-        // A message of its own: a listener may report too, or clear the log.
+        // Sends a separate message: a listener may report too, or clear the log.
         Q_EMIT reported({severity, text});
     } catch (...) {
-        // Listeners are not told of this message, since one of them fails.
+        // Listeners do not receive this message, since one of them fails.
         add(LogMessage::Severity::Error,
             QCoreApplication::translate("Kelta", "A listener of the message log failed: %1")
                 .arg(currentExceptionText()));

@@ -22,7 +22,7 @@ struct LogMessage
     QString text;
 };
 
-/// The messages of the program to which the user need not reply. The log window shows them; a program without windows
+/// The messages of the program that need no reply. The log window shows them; a program without windows
 /// writes them to standard error. Both listen to reported().
 ///
 ///     Kelta::MessageLog::error(tr("The class \"%1\" is not known.").arg(name));
@@ -37,15 +37,15 @@ public:
     static void warning(const QString& text) { instance().report(LogMessage::Severity::Warning, text); }
     static void error(const QString& text) { instance().report(LogMessage::Severity::Error, text); }
 
-    /// Adds a message and tells the listeners. What a listener throws does not pass through: it becomes an error in the
-    /// log, which is not sent to the listeners.
+    /// Adds a message and notifies the listeners. Exceptions of listeners do not pass through: they become errors in
+    /// the log, which are not sent to the listeners.
     void report(LogMessage::Severity severity, const QString& text);
 
-    /// The latest messages, the oldest first, at most `capacity` of them.
+    /// Returns the latest messages, the oldest first, at most `capacity` of them.
     const std::deque<LogMessage>& messages() const { return m_messages; }
     static constexpr std::size_t capacity = 10000;
 
-    /// The number of errors since the program began, so that a caller can compare it before and after an operation.
+    /// Returns the number of errors since the program began, for comparison before and after an operation.
     std::size_t errorCount() const { return m_errorCount; }
     void clear() { m_messages.clear(); }
 

@@ -14,7 +14,7 @@ namespace Kelta {
 
 namespace {
 
-/// More than any descriptor needs; a file that is larger is something else.
+/// More than any descriptor needs; a larger file is not a descriptor.
 constexpr qint64 largestDescriptor = 64 * 1024;
 
 QString tr(const char* text)
@@ -29,7 +29,7 @@ QString tr(const char* text)
 
 QByteArray readText(const QString& path)
 {
-    // Opening a pipe would wait for its writer.
+    // Opening a pipe would block until its writer opens it.
     if (!QFileInfo(path).isFile())
         refuse(tr("the descriptor is not a file"));
     QFile file(path);
@@ -52,7 +52,7 @@ QJsonObject parse(const QByteArray& text)
     return document.object();
 }
 
-/// The text of a member; `otherwise` if the member is absent.
+/// Returns the text of a member; `otherwise` if the member is absent.
 QString textOf(const QJsonObject& json, const QString& member, const QString& otherwise)
 {
     const QJsonValue value = json.value(member);
@@ -72,7 +72,7 @@ QString textOf(const QJsonObject& json, const QString& member)
 
 QVersionNumber toVersion(const QString& text, const QString& member)
 {
-    // Where the number ends is not asked: Qt declares the function pure, and the compiler forgets what it writes there.
+    // The end of the number is not requested: Qt declares the function pure, so the compiler may drop that output.
     QVersionNumber version = QVersionNumber::fromString(text);
     if (version.isNull() || version.toString() != text)
         refuse(
@@ -80,7 +80,7 @@ QVersionNumber toVersion(const QString& text, const QString& member)
     return version;
 }
 
-/// Refuses a module that needs a newer host. Checked first: the rest of such a descriptor may not be known here.
+/// Refuses a module that needs a newer host. Checked first, because this host may not know the rest of the descriptor.
 QVersionNumber readHost(const QJsonObject& json)
 {
     const QString text = textOf(json, QStringLiteral("host"), {});

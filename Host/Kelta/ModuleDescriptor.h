@@ -10,7 +10,7 @@
 
 namespace Kelta {
 
-/// What a module says about itself in the file `<name>.module.json` beside its library:
+/// The description of a module in the file `<name>.module.json` beside its library:
 ///
 ///     {"module": "Fastening", "version": "1.2.0", "host": "0.1", "library": "libFastening.so",
 ///      "entries": ["initFastening", "initFasteningGui"], "needs": {"Geometry": "0.4"}}
@@ -19,21 +19,21 @@ namespace Kelta {
 struct ModuleDescriptor
 {
     QString file;                            ///< path of the descriptor
-    QString module;                          ///< "module", the name that the file has too
+    QString module;                          ///< "module", which is also the name of the file
     QVersionNumber version;                  ///< "version"
-    QVersionNumber host;                     ///< "host", the lowest version of the host that serves; null for any
+    QVersionNumber host;                     ///< "host", the lowest suitable version of the host; null for any
     QString library;                         ///< path of "library", by default lib<module>.so beside the descriptor
     QStringList entries;                     ///< "entries", the functions to call, in this order
-    std::map<QString, QVersionNumber> needs; ///< "needs", other modules with the lowest version that serves
+    std::map<QString, QVersionNumber> needs; ///< "needs", other modules with their lowest suitable versions
 };
 
-/// Ends the name of each descriptor.
+/// The ending of the file name of each descriptor.
 constexpr const char* descriptorSuffix = ".module.json";
 
-/// The version of this host.
+/// Returns the version of this host.
 KELTA_EXPORT QVersionNumber hostVersion();
 
-/// Whether `version` is lower than `needed`; "0.1" and "0.1.0" are the same version.
+/// Returns whether `version` is lower than `needed`; "0.1" and "0.1.0" are the same version.
 KELTA_EXPORT bool isOlder(const QVersionNumber& version, const QVersionNumber& needed);
 
 /// Reads the descriptor at `path`.

@@ -27,8 +27,8 @@ QString tr(const char* text)
     throw std::runtime_error(reason.toStdString());
 }
 
-/// What an entry threw; empty if it returned. A module should let nothing out, but a broken one must not end the program
-/// that loads it.
+/// Returns the text of the exception of an entry; empty if there is none. A module should let no exception out, but a
+/// broken module must not end the program.
 QString whatItThrows(Entry entry)
 {
     try {
@@ -39,7 +39,7 @@ QString whatItThrows(Entry entry)
     }
 }
 
-/// Why an entry failed, empty if it did not: what it threw, or the first error that it reported.
+/// Returns the reason why an entry failed, empty if it did not: its exception, or the first error that it reported.
 QString whyItFails(Entry entry)
 {
     QString firstError;
@@ -63,7 +63,7 @@ struct PluginLoader::Library
     QStringList calledEntries;
 };
 
-/// Loads modules and those that they need, each once.
+/// Loads modules and the modules that they need, each once.
 class PluginLoader::Run
 {
 public:
@@ -84,8 +84,8 @@ private:
 
     PluginLoader& m_loader;
     std::map<QString, QString> m_files;           ///< descriptors by module
-    std::map<QString, QVersionNumber> m_versions; ///< of the modules that are loaded
-    QStringList m_chain;                          ///< the modules that are being loaded, each for the one before it
+    std::map<QString, QVersionNumber> m_versions; ///< of the loaded modules
+    QStringList m_chain;                          ///< the modules that are being loaded; each needs the next
     Outcome m_outcome;
 };
 
@@ -93,7 +93,7 @@ void PluginLoader::Run::findModules()
 {
     const QString suffix = QLatin1String(descriptorSuffix);
     for (const QString& folder : m_loader.m_folders)
-        // A folder or a pipe of this name is a broken descriptor, which is to be named.
+        // A folder or a pipe of this name is a broken descriptor, which must be reported.
         for (const QString& file : QDir(folder).entryList({QLatin1Char('*') + suffix},
                                                           QDir::AllEntries | QDir::System | QDir::Hidden, QDir::Name))
             m_files.emplace(file.chopped(suffix.size()), QDir(folder).absoluteFilePath(file));
@@ -133,7 +133,7 @@ void PluginLoader::Run::tryToLoad(const QString& name, const QString& file)
         m_versions[name] = descriptor.version;
         m_outcome.loaded << name;
     } catch (...) {
-        // A circle has been told of already.
+        // A cycle has been reported already.
         m_outcome.failed.emplace(name, tr("%1 (%2)").arg(currentExceptionText(), QDir::toNativeSeparators(file)));
     }
 }
@@ -154,7 +154,7 @@ void PluginLoader::Run::loadNeeds(const ModuleDescriptor& descriptor)
     }
 }
 
-/// Every module of the circle gets the same reason.
+/// Every module of the cycle gets the same reason.
 void PluginLoader::Run::refuseCircle(const QString& need)
 {
     const int begin = m_chain.indexOf(need);
@@ -184,7 +184,7 @@ PluginLoader::Library& PluginLoader::Run::openLibrary(const QString& path)
         return *loaded->second;
     auto library = std::make_unique<Library>();
     library->file.setFileName(path);
-    // Whole and at once: a symbol that is missing is found now, not in the middle of the work.
+    // Resolves all symbols at once: a missing symbol is found now, not during later work.
     library->file.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library->file.load())
         fail(tr("its library cannot be loaded: %1").arg(library->file.errorString()));

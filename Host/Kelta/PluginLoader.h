@@ -10,41 +10,41 @@
 
 namespace Kelta {
 
-/// Finds modules by their descriptors, loads their libraries in the order of dependence, and calls their entry functions,
-/// which have C linkage, take nothing and return nothing.
+/// Finds modules by their descriptors, loads their libraries in the order of dependence, and calls their entry
+/// functions. Entry functions have C linkage, take nothing and return nothing.
 ///
 ///     Kelta::PluginLoader loader;
-///     const Kelta::LoadedModules modules = loader.loadAll();   // what fails is in the message log
+///     const Kelta::LoadedModules modules = loader.loadAll();   // failures are in the message log
 ///
-/// A library that is loaded stays loaded until the program ends, because objects, types and texts point into it.
+/// A loaded library stays loaded until the program ends, because objects, types and texts point into it.
 class KELTA_EXPORT PluginLoader
 {
 public:
-    /// Looks for descriptors in these folders. If several folders have a descriptor of one name, the first folder counts,
-    /// even if its descriptor is broken.
+    /// Searches these folders for descriptors. If several folders have a descriptor of the same name, the first folder
+    /// counts, even if its descriptor is broken.
     explicit PluginLoader(QStringList folders = standardFolders());
     PluginLoader(const PluginLoader&) = delete;
     PluginLoader& operator=(const PluginLoader&) = delete;
     ~PluginLoader();
 
-    /// The folders of the environment variable KELTA_PLUGIN_PATH, separated as in PATH, and then those beside the
-    /// program, as a build tree and an installation have them.
+    /// Returns the folders of the environment variable KELTA_PLUGIN_PATH, separated as in PATH, and then the folders
+    /// beside the program, in a build tree and in an installation.
     static QStringList standardFolders();
 
-    /// What became of the modules of the folders.
+    /// The results for the modules of the folders.
     struct Outcome
     {
         QStringList loaded;                ///< names, in the order of loading
         std::map<QString, QString> failed; ///< translated reasons by name
     };
 
-    /// Loads every module of the folders, each behind those that it needs. A module that fails is reported to the message
-    /// log by its name with the reason, and the others are loaded: its descriptor or library is broken, an entry is
-    /// missing (then none is called), an entry throws or reports an error, it needs a newer host, or it needs a module
-    /// that is missing, too old, failed, or needs it in turn. Entries that succeeded before are not called again.
+    /// Loads every module of the folders, each after the modules that it needs. Reports a failed module to the message
+    /// log by its name with the reason, and loads the others. Failures: its descriptor or library is broken, an entry
+    /// is missing (then none is called), an entry throws or reports an error, it needs a newer host, or it needs a
+    /// module that is missing, too old, failed, or part of a cycle. Entries that succeeded before are not called again.
     Outcome loadAll();
 
-    /// Loads one module by its name, and those that it needs. False, with the reason in errorText, if it fails.
+    /// Loads a module and the modules that it needs. Returns false, with the reason in errorText, if it fails.
     [[nodiscard]] bool load(const QString& name);
     QString errorText() const { return m_errorText; }
 
@@ -53,7 +53,7 @@ private:
     struct Library;
 
     QStringList m_folders;
-    std::map<QString, std::unique_ptr<Library>> m_libraries; ///< those that are loaded, by path
+    std::map<QString, std::unique_ptr<Library>> m_libraries; ///< loaded libraries, by path
     QString m_errorText;
 };
 

@@ -14,15 +14,15 @@ struct TypeRecord
     std::string name;
     std::string parentName;
     void* (*create)() = nullptr;
-    std::size_t objectSize = 0; ///< 0 if it is not known
-    /// Filled when it is first asked for, because a module may register a class before its parent.
+    std::size_t objectSize = 0; ///< 0 if it is unknown
+    /// Filled on first use, because a module may register a class before its parent.
     mutable const TypeRecord* parent = nullptr;
 };
 
 /// Returns null if the name is not registered.
 const TypeRecord* findTypeRecord(std::string_view name);
 
-/// Adds a record whose name is free, and whose line of parents does not come back to it.
+/// Adds a record. Its name must be free, and it must not be among its own ancestors.
 const TypeRecord* addTypeRecord(TypeRecord record);
 
 } // namespace Kelta

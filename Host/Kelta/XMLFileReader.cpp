@@ -8,7 +8,7 @@ namespace Kelta {
 XMLFileReader::XMLFileReader(const QString& path) : m_file(path)
 {
     const QFileInfo source(path);
-    // Opening a pipe would wait for its writer.
+    // Opening a pipe would block until its writer opens it.
     if (source.exists() && !source.isFile())
         m_xml.raiseError(QCoreApplication::translate("Kelta", "this is not a file"));
     else if (m_file.open(QIODevice::ReadOnly))

@@ -8,7 +8,7 @@
 
 namespace Kelta {
 
-/// An XML file that is being read. The hooks `Load` of a project and `load` of an object take one; the host itself keeps
+/// An XML file that is being read. The hooks `Load` of a project and `load` of an object take it. The host itself keeps
 /// projects in JSON files and reads nothing here.
 class KELTA_EXPORT XMLFileReader
 {
@@ -21,8 +21,8 @@ public:
     /// Reads the elements of the document; it has an error if the file cannot be opened.
     QXmlStreamReader& xml() { return m_xml; }
 
-    /// What is wrong with the file: "PATH:LINE: reason", without the line if the file cannot be opened; empty if nothing
-    /// is wrong as far as it has been read.
+    /// Returns the error of the file: "PATH:LINE: reason", without the line if the file cannot be opened; empty if the
+    /// part that has been read is correct.
     QString errorText() const;
 
 private:

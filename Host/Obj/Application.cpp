@@ -19,7 +19,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("Obj::Application", text);
 }
 
-/// Returns a new project of a registered class; null, with the reason in the message log, if there is none.
+/// Returns a new project of a registered class; null, with the reason in the message log, if it cannot be made.
 OwnedProject makeProject(const char* className)
 {
     const Kelta::TypeInfo type = Kelta::TypeInfo::find(className);
@@ -173,7 +173,7 @@ void Application::insert(OwnedProject project)
     const auto place = std::find_if(m_projects.begin(), m_projects.end(), [&project](const auto& other) {
         return other->m_projectId > project->m_projectId;
     });
-    // First the place, which may need memory, then the project.
+    // Reserves the place first, because that may exhaust memory, and then moves the project.
     m_projects.insert(place, nullptr)->reset(project.release());
 }
 

@@ -18,12 +18,12 @@
 
 namespace Obj {
 
-/// Registers the classes of this library. To be called before anything else of it. Safe to call more than once.
+/// Registers the classes of this library. Must be called before other functions of it. Safe to call more than once.
 OBJ_EXPORT void initObj();
 
-/// Owns all projects that are open. One of them is the current one, to which the commands of the user apply.
+/// Owns all open projects. One of them is the current project, to which the commands of the user apply.
 ///
-/// Projects are made and closed here without undo; requests of the user are sent to the message proxy.
+/// The application makes and closes projects without undo. Requests of the user are sent to the message proxy.
 class OBJ_EXPORT Application
 {
 public:
@@ -36,43 +36,43 @@ public:
     static std::vector<Project*> get_projects();
     static std::vector<Project*> get_projects(Kelta::eDocumentTag tag);
     static std::vector<Project*> get_projects(std::uint32_t tag);
-    /// Null if no project is open.
+    /// Returns the current project; null if no project is open.
     static Project* get_current_project();
-    /// Returns a name from `stem` that no project has or had, another one at each call.
+    /// Returns a name from `stem` that no project has or had, a different name at each call.
     static std::string get_unique_project_name(std::string_view stem);
 
-    /// Null if no open project has the name or the id.
+    /// Returns null if no open project has the name or the id.
     Project* get_project(std::string_view name) const;
     Project* get_project(std::uint32_t projectId) const;
 
-    /// Makes a project of a registered class and makes it the current one. If a project has the name, a unique one is made
+    /// Makes a project of a registered class and makes it current. If a project has the name, derives a unique name
     /// from it. Returns null, with the reason in the message log, if the class is not registered, is not a Project or
-    /// cannot be created; and null if a listener has closed the project at once. What the project's constructor throws
-    /// passes through.
+    /// cannot be created; and null if a listener has closed the project at once. Exceptions of the constructor of the
+    /// project pass through.
     Project* createProject(const char* className, std::string_view name);
-    /// Adds a project that code has made, not null and never in the application before, in the same way.
+    /// Adds an existing project, not null and never in the application before, in the same way.
     Project* addProject(OwnedProject project, std::string_view name);
     /// Makes an open project the current one.
     void setCurrentProject(Project& project);
 
-    /// Closes a project and returns it, to be kept for undo or destroyed; null if it is not open. If it was the current
-    /// one, the last of the others becomes it.
+    /// Closes a project and returns it, for undo or destruction; null if it is not open. If it was the current
+    /// project, the last remaining project becomes current.
     [[nodiscard]] OwnedProject takeProject(const Project& project);
-    /// Opens again a project that takeProject returned, at its place and under its name, and makes it the current one. If
-    /// another project has its name meanwhile, it gets a unique one, and the message log says so. Returns null if there is
-    /// nothing to open, or if a listener has closed the project at once.
+    /// Reopens a project that takeProject returned, at its place and under its name, and makes it current. If
+    /// another project has its name meanwhile, it gets a unique name, which is reported. Returns null if `project` is
+    /// null, or if a listener has closed the project at once.
     Project* restoreProject(OwnedProject project);
-    /// Destroys a project; false if it is not open.
+    /// Destroys a project; returns false if it is not open.
     bool closeProject(const Project& project);
-    /// Destroys all projects, the last one first. To be called before the program ends, since objects of modules must not
+    /// Destroys all projects, the last one first. Must be called before the program ends: objects of modules must not
     /// outlive their libraries.
     void closeAllProjects();
 
     /// Returns the project database: "projects", an array with a record of each, in order.
     Json::Value save_jsonDB() const;
 
-    /// A project is open when it is added, and whole, but not open, when it has been removed. Listeners may change
-    /// everything, even close the project that they are told of; listeners after them are told all the same.
+    /// A project is open when it is added. When it has been removed, it is complete but not open. Listeners may change
+    /// everything, and may close the same project; later listeners are still called.
     Signal<void(Project&)> projectAdded;
     Signal<void(Project&)> projectRemoved;
     Signal<void(Project*)> currentProjectChanged;
@@ -84,10 +84,10 @@ private:
     void insert(OwnedProject project);
     void makeCurrent(Project* project);
 
-    std::vector<std::unique_ptr<Project>> m_projects; ///< by id; so few that finding walks them
+    std::vector<std::unique_ptr<Project>> m_projects; ///< by id; a linear search suffices for the few projects
     Project* m_current = nullptr;
     std::uint32_t m_nextProjectId = 1;
-    std::unordered_set<std::string> m_goneNames; ///< of projects that may be opened again
+    std::unordered_set<std::string> m_goneNames; ///< of projects that may be reopened
     UniqueNames m_names;
 };
 

@@ -14,17 +14,17 @@
 ///
 ///     OBJ_REGISTER_CLASS(Fastening::Bolt, Obj::ProjectObject)          // source file
 
-/// Declares the members of a class that is not created by its name. Ends in a private section.
+/// Declares the members of a class that cannot be created by its name. Ends in a private section.
 #define OBJ_ABSTRACT_CLASS                                                                                             \
     KELTA_ABSTRACT_CLASS;                                                                                              \
     OBJ_DECLARE_PROPERTY_DATA
 
-/// Declares the members of a class that is created by its name, with its default constructor.
+/// Declares the members of a class that can be created by its name, with its default constructor.
 #define OBJ_CLASS                                                                                                      \
     KELTA_CLASS;                                                                                                       \
     OBJ_DECLARE_PROPERTY_DATA
 
-/// Defines what OBJ_ABSTRACT_CLASS declares.
+/// Defines the members that OBJ_ABSTRACT_CLASS declares.
 #define OBJ_REGISTER_ABSTRACT_CLASS(Class, Parent)                                                                     \
     KELTA_DEFINE_TYPE_ID(Class)                                                                                        \
     OBJ_DEFINE_PROPERTY_DATA(Class)                                                                                    \
@@ -34,7 +34,7 @@
         propertyData.setParent(Parent::get_property_data_ref());                                                       \
     }
 
-/// Defines what OBJ_CLASS declares.
+/// Defines the members that OBJ_CLASS declares.
 #define OBJ_REGISTER_CLASS(Class, Parent)                                                                              \
     KELTA_DEFINE_TYPE_ID_AND_CREATE(Class)                                                                             \
     OBJ_DEFINE_PROPERTY_DATA(Class)                                                                                    \

@@ -13,26 +13,26 @@ namespace Obj {
 class Project;
 class ProjectObject;
 
-/// How a module carries the content that its objects hold beside their properties: into project files and back, and from
+/// Carries the content that objects of a module hold besides their properties: into project files and back, and from
 /// one object to another by the clipboard.
 struct ContentCodec
 {
-    /// Returns the whole content of an object, null if it has none.
+    /// Returns the whole content of an object; null if it has none.
     std::function<Json::Value(const ProjectObject&)> write;
-    /// Gives an object the content that write has returned. Throws a std::exception, and leaves the object as it was, if
-    /// the content cannot be read.
+    /// Sets the content of an object from the result of write. Throws a std::exception, and leaves the object as it
+    /// was, if the content cannot be read.
     std::function<void(ProjectObject&, const Json::Value&)> read;
 };
 
-/// How a module carries what a project holds beside its properties and objects, into project files and back; as
-/// ContentCodec.
+/// Carries the content that projects of a module hold besides properties and objects, into project files and back;
+/// see ContentCodec.
 struct ProjectCodec
 {
     std::function<Json::Value(const Project&)> write;
     std::function<void(Project&, const Json::Value&)> read;
 };
 
-/// Registers the codec of a class and of those classes that descend from it and have none themselves. A later codec of a
+/// Registers the codec of a class and of its descendants without their own codec. A later codec of a
 /// class replaces an earlier one.
 OBJ_EXPORT void registerContentCodec(const std::string& className, ContentCodec codec);
 OBJ_EXPORT void registerProjectCodec(const std::string& className, ProjectCodec codec);

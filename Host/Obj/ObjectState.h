@@ -2,7 +2,7 @@
 
 namespace Obj {
 
-/// Whether an object can be used. The numbers are part of the interface to modules.
+/// Whether an object is usable. The numbers are part of the interface to modules.
 enum class eVXObjectState : int
 {
     Initial = 0, ///< not defined yet

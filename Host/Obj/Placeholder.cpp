@@ -17,7 +17,7 @@ std::string toText(const Json::Value& json)
     return json.isString() ? json.asString() : Json::writeString(builder, json);
 }
 
-/// The bytes that a record takes, an estimate: its text is about as long.
+/// Returns the bytes that a record takes, an estimate: its text has about the same length.
 std::size_t sizeOf(const Json::Value& json)
 {
     return toText(json).size();

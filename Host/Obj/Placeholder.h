@@ -12,8 +12,8 @@
 
 namespace Obj {
 
-/// What a placeholder keeps of an object or project of a file whose module is missing: the name of its class, and its
-/// record as it is in the file, to be written back unchanged.
+/// The data that a placeholder keeps of an object or project of a file whose module is missing: the name of its class,
+/// and its record from the file, which is written back unchanged.
 class OBJ_EXPORT Placeholder
 {
 public:
@@ -24,8 +24,8 @@ public:
     const Json::Value& getRecord() const { return m_record; }
 
 protected:
-    /// Registers what is shown of the placeholder `owner`, to be read only: id, original class, and the properties of the
-    /// record that do not have the name of another one. `classData` describes the properties of the owner's class;
+    /// Registers the read-only properties of the placeholder `owner`: id, original class, and the properties of the
+    /// record whose names are free. `classData` describes the properties of the owner's class;
     /// `registerProperty` calls the function of that name of the owner.
     template <class Owner, class Register>
     void registerShown(Owner& owner, PropertyCoreData& classData, const Register& registerProperty);
@@ -44,8 +44,8 @@ private:
     PropertyCoreData m_ownData; ///< describes the properties of the record
 };
 
-/// An object of a class that is not registered. It can be deleted, copied, pasted and saved, but its properties are only
-/// read, and it is never executed or checked.
+/// An object of a class that is not registered. It can be deleted, copied, pasted and saved. Its properties are
+/// read-only, and it is never executed or checked.
 ///
 ///     project.add_object(std::make_unique<Obj::PlaceholderObject>("Fastening::Bolt", record), "Bolt", 7);
 class OBJ_EXPORT PlaceholderObject : public ProjectObject, public Placeholder

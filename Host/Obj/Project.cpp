@@ -51,7 +51,7 @@ Project::Project() : m_serial(nextSerial()) {}
 
 Project::~Project()
 {
-    // The destructor of an object must find neither a project nor an object that is half destroyed.
+    // The destructor of an object must not find a project or an object that is partly destroyed.
     for (const auto& [objectId, object] : m_objects)
         object->forgetLinks();
     for (const auto& [objectId, object] : m_objects)
@@ -146,7 +146,7 @@ std::vector<ProjectObject*> Project::get_objects_of_type(Kelta::TypeInfo type) c
     return objects;
 }
 
-/// Names that are numbered one after the other, as those of most objects are, get places side by side. With the plain hash
+/// Gives consecutively numbered names, as most objects have them, adjacent places. With the plain hash
 /// each object of 100,000 costs 0.6 us instead of 0.4 us, because the table is larger than the processor's cache.
 std::size_t Project::NameHash::operator()(std::string_view name) const
 {
@@ -296,7 +296,7 @@ ProjectObject* Project::insert(OwnedObject object)
     return inserted;
 }
 
-/// Null also if the project itself is about to be destroyed: the object is then destroyed with it.
+/// Returns null also if the project itself is about to be destroyed: the object is then destroyed with it.
 ProjectObject* Project::ifStillThere(std::uint32_t objectId) const
 {
     return RemovalGuard::isDoomed(*this) ? nullptr : get_object(objectId);
@@ -381,7 +381,7 @@ class Project::Execution
 public:
     explicit Execution(const Project& project) : m_project(project) {}
 
-    /// Executes the object if it is due, behind those that it needs.
+    /// Executes the object if it is due, after the objects that it needs.
     void visit(ProjectObject& object);
     std::vector<std::unique_ptr<ProjectObjectExecReturn>> results;
 
@@ -402,7 +402,7 @@ private:
 
     const Project& m_project;
     std::vector<Visit> m_path;                                 ///< a chain of needs may be too long for the call stack
-    std::unordered_map<const ProjectObject*, bool> m_executed; ///< of the objects that have been entered
+    std::unordered_map<const ProjectObject*, bool> m_executed; ///< results for the entered objects
 };
 
 void Project::Execution::visit(ProjectObject& object)
@@ -416,14 +416,14 @@ void Project::Execution::visit(ProjectObject& object)
 
 void Project::Execution::enter(ProjectObject& object)
 {
-    // An object of a circle counts as not executed while the circle is followed.
+    // An object of a cycle counts as not executed while the cycle is followed.
     m_executed[&object] = false;
     bool isDue = object.m_isDue;
     Kelta::guarded(tr("The execution of an object failed"), [&] { isDue = object.always_run() != 0 || isDue; });
     m_path.push_back({&object, object.getNeededObjects(), 0, isDue});
 }
 
-/// Takes the next needed object into account, or enters it. Returns false if there is none.
+/// Uses the result of the next needed object, or enters that object. Returns false if there is none.
 bool Project::Execution::advance(Visit& visit)
 {
     if (visit.next == visit.needed.size())

@@ -26,8 +26,8 @@ namespace Obj {
 
 /// A project: a top-level node of the project tree, and the owner of its objects.
 ///
-/// The order of the objects is that of their ids, which is the order in which they were first added. Ids begin at 1 and
-/// increase up to the largest number of 32 bits. Finding by id or by name does not walk the project.
+/// Objects are in the order of their ids, which is the order of their first addition. Ids begin at 1 and
+/// increase up to the largest number of 32 bits. Finding by id or by name is not a linear search.
 class OBJ_EXPORT Project : public PropertyDS
 {
     OBJ_ABSTRACT_CLASS;
@@ -39,87 +39,87 @@ public:
     /// Content that a module holds beside the properties of the project and its objects is not counted.
     std::size_t get_memory_usage() const override;
 
-    /// The registered class of the node that shows the project in the tree; empty for the standard node.
+    /// Returns the registered class of the project's node in the tree; empty for the standard node.
     virtual const char* get_viewfeeder_name() const;
     virtual eVXObjectState check_input();
-    /// Hands the data of the project to the solver side.
+    /// Passes the data of the project to the solver side.
     virtual void collect_frontend_data();
-    /// Determines the state of each object anew.
+    /// Determines the state of each object again.
     virtual void update();
     /// Describes the project and its objects in a record of the project database.
     virtual void save_jsonDB(Json::Value& record);
     /// Reads nothing: the application restores projects.
     virtual void load_jsonDB(Json::Value& record);
-    /// Hooks of modules for an XML file, by names that modules know. Here nothing: projects are kept in JSON files.
+    /// Hooks of modules for an XML file, by names that modules use. They do nothing: projects are kept in JSON files.
     // NOLINTBEGIN(bugprone-virtual-near-miss): modules know these names, beside save and load of the properties.
     virtual void Save(Kelta::FileWriter& writer) const;
     virtual void Load(Kelta::XMLFileReader& reader);
     // NOLINTEND(bugprone-virtual-near-miss)
 
-    /// The number of the project in the application; 0 before it is in it.
+    /// Returns the number of the project in the application; 0 before the project is in it.
     std::uint32_t getProjectId() const { return m_projectId; }
-    /// The name of the project, which the user sees too. No other open project has it.
+    /// Returns the name of the project, which the user sees too. No other open project has it.
     const char* get_name() const { return m_name.c_str(); }
     Kelta::eDocumentTag getDocumentTag() const { return documentTag; }
 
-    /// Returns an object, which the project keeps; null if there is none.
+    /// Returns an object, which the project owns; null if there is none.
     ProjectObject* get_object(std::uint32_t objectId) const;
     ProjectObject* get_object(std::string_view name) const;
     std::vector<ProjectObject*> getObjects() const;
-    /// Returns the objects of this type or of one that descends from it, in the project's order.
+    /// Returns the objects of this type or of a type that descends from it, in the project's order.
     std::vector<ProjectObject*> get_objects_of_type(Kelta::TypeInfo type) const;
     std::size_t getObjectCount() const { return m_objects.size(); }
 
-    /// Returns a name from `stem` that no object of the project has or had, another one at each call.
+    /// Returns a name from `stem` that no object of the project has or had, a different name at each call.
     std::string get_unique_object_name(std::string_view stem);
 
-    /// Whether the project takes objects of this type, as registerHome says.
+    /// Returns whether the project takes objects of this type, see registerHome.
     bool canTake(Kelta::TypeInfo objectType) const;
 
-    /// Makes an object of a registered class and adds it, with its name as its label. If an object has the name, a unique
-    /// one is made from it. Returns null, with the reason in the message log, if the class is not registered, is not a
-    /// ProjectObject, cannot be created or is not taken by this project, or if the ids are used up; and null if a listener
-    /// has removed the object at once. What the object's constructor or its on_configuring_project throws passes through;
-    /// the project is then unchanged.
+    /// Makes an object of a registered class and adds it, with its name as its label. If an object has the name,
+    /// derives a unique name from it. Returns null, with the reason in the message log, if the class is not registered,
+    /// is not a ProjectObject, cannot be created or is not taken by this project, or if the ids are used up; and null
+    /// if a listener has removed the object at once. Exceptions of the object's constructor and on_configuring_project
+    /// pass through; the project is then unchanged.
     ProjectObject* add_object(const char* className, std::string_view name);
-    /// Adds an object under an id, as when a project is read from a file. Returns null also if the id is 0, beyond 32 bits
+    /// Adds an object under an id, for reading a project from a file. Returns null also if the id is 0, beyond 32 bits
     /// or the id that an object has or had, or if the name is empty or taken.
     ProjectObject* add_object(const char* className, std::string_view name, std::uint64_t objectId);
-    /// Adds an object that code has made, not null and never in a project before, in the same ways.
+    /// Adds an existing object, not null and never in a project before, in the same ways.
     ProjectObject* add_object(OwnedObject object, std::string_view name);
     ProjectObject* add_object(OwnedObject object, std::string_view name, std::uint64_t objectId);
 
-    /// Takes an object out and returns it, to be kept for undo or destroyed; null if the project has no such object.
-    /// Objects that need it are told.
+    /// Removes an object and returns it, for undo or destruction; null if the project has no such object.
+    /// Objects that need it are notified.
     [[nodiscard]] OwnedObject takeObject(std::uint32_t objectId);
     /// Puts back an object that takeObject returned, at its place, under its id and name, with the links and references
-    /// of other objects to it. If another object has its name meanwhile, it gets a unique one, and the message log says
-    /// so. Returns the object; null, with a report, if it does not come from this project, and it is then destroyed; and
-    /// null if a listener has removed it at once.
+    /// of other objects to it. If another object has its name meanwhile, it gets a unique name, which is
+    /// reported. Returns the object; null, with a report, if it does not come from this project, and it is then
+    /// destroyed; also null if a listener has removed it at once.
     ProjectObject* restoreObject(OwnedObject object);
-    /// Destroys an object; false if the project has no object of this id.
+    /// Destroys an object; returns false if the project has no object of this id.
     bool removeObject(std::uint32_t objectId);
 
-    /// Calls on_project_restored of each object, as when the project has been read from a file.
+    /// Calls on_project_restored of each object, for a project that has been read from a file.
     void notifyRestored();
 
-    /// Executes the objects that are due, each behind those that it needs: an object that is not suppressed, and that has
-    /// changed since its last execution, or needs an object that is executed now, or says so by always_run. Returns the
-    /// results in the order of execution. What an object throws is reported to the message log; it then stays due.
+    /// Executes the due objects, each after the objects that it needs. An object is due if it is not suppressed, and it
+    /// has changed since its last execution, needs an object that is executed now, or always_run requests it. Returns
+    /// the results in order of execution. Exceptions of an object are reported to the message log; it then stays due.
     std::vector<std::unique_ptr<ProjectObjectExecReturn>> executeDue();
 
-    /// The id that the next object gets; may be beyond 32 bits, and then no further object can be added without an id.
+    /// Returns the id of the next object. If it is beyond 32 bits, no further object can be added without an id.
     std::uint64_t getNextObjectId() const { return m_nextObjectId; }
-    /// Leaves out ids: an object that is added without an id gets `nextId` or a higher one. A number below the present one
+    /// Skips ids: an object that is added without an id gets `nextId` or a higher id. A number below the present one
     /// changes nothing.
     void skipObjectIds(std::uint64_t nextId);
 
-    /// Changes of the project's objects and properties. An object is in the project when it is added, and outside, but
-    /// still whole, when it has been removed. Listeners may change everything, even remove the object or close the project
-    /// that they are told of; listeners after them are told all the same. No signal is sent while a project is destroyed.
+    /// Changes of the project's objects and properties. An object is in the project when it is added. It is outside,
+    /// but complete, when it has been removed. Listeners may change everything, and may remove the same object or close
+    /// the project; later listeners are still called. No signal is sent while a project is destroyed.
     Signal<void(ProjectObject&)> objectAdded;
     Signal<void(ProjectObject&)> objectRemoved;
-    /// The property that changed; null for another change: state, suppression, membership in a group.
+    /// Sent with the changed property; null for another change: state, suppression, membership in a group.
     Signal<void(ProjectObject&, const Property*)> objectChanged;
     Signal<void(const Property*)> changed;
 
@@ -148,11 +148,11 @@ private:
     void giveFreeName(ProjectObject& object);
     ProjectObject* ifStillThere(std::uint32_t objectId) const;
 
-    /// Tells projects apart also after their end, when another one may be at the same address.
+    /// Distinguishes projects even after their end, when another project may have the same address.
     std::uint64_t m_serial;
     std::uint32_t m_projectId = 0;
     std::string m_name;
-    // A vector beside the map finds by id in 3 ns instead of 0.5 us among 100,000, which no user feels.
+    // A vector beside the map finds by id in 3 ns instead of 0.5 us among 100,000, which no user notices.
     Objects m_objects;
     struct NameHash
     {
@@ -160,7 +160,7 @@ private:
     };
     std::unordered_map<std::string_view, ProjectObject*, NameHash> m_objectsByName; ///< keys are names in the objects
     std::uint64_t m_nextObjectId = 1;
-    // An object that was taken out may come back under its id and name, so that neither is given to another object.
+    // A removed object may return under its id and name, so no other object gets them.
     std::unordered_map<std::uint32_t, std::vector<ProjectObject::Dependent>> m_goneObjects; ///< by id
     std::unordered_set<std::string> m_goneNames;
     UniqueNames m_names;

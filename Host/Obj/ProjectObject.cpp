@@ -156,7 +156,7 @@ std::vector<ProjectObject*> ProjectObject::get_linked_objects() const
 {
     std::vector<ProjectObject*> objects;
     for (const Link& link : m_links) {
-        // Of two that need each other either link may come first.
+        // If two objects need each other, either link may be first.
         const bool isSecond = link.other->needs(*this) && needs(*link.other) &&
                               std::find(objects.begin(), objects.end(), link.other) != objects.end();
         if (link.other->m_project != nullptr && !isSecond)
@@ -185,7 +185,7 @@ std::vector<ProjectObject*> ProjectObject::getLinks() const
 
 ProjectObjectGroup* ProjectObject::getParentGroup() const
 {
-    // The latest link counts: a group that comes back after an undo may have lost the member to another group.
+    // The latest link counts: a group that returns after an undo may have lost the member to another group.
     for (auto link = m_links.rbegin(); link != m_links.rend(); ++link) {
         const bool isNeeded =
             link->direction == Direction::IsNeededBy && link->isDeclared && link->other->m_project != nullptr;
@@ -197,7 +197,7 @@ ProjectObjectGroup* ProjectObject::getParentGroup() const
 
 ProjectObject::Links::iterator ProjectObject::findLink(const ProjectObject& other, Direction direction)
 {
-    // From the end, where the newest links are.
+    // From the end, which has the newest links.
     const auto found = std::find_if(m_links.rbegin(), m_links.rend(), [&other, direction](const Link& link) {
         return link.other == &other && link.direction == direction;
     });
@@ -213,7 +213,7 @@ bool ProjectObject::hasLink(const ProjectObject& other, Direction direction) con
 
 bool ProjectObject::needs(const ProjectObject& other) const
 {
-    // Both know of it; one of the two may have very many links.
+    // Both objects store the link; one of them may have very many links.
     return m_links.size() <= other.m_links.size() ? hasLink(other, Direction::Needs)
                                                   : other.hasLink(*this, Direction::IsNeededBy);
 }
@@ -237,7 +237,7 @@ ProjectObject::Link& ProjectObject::needLink(ProjectObject& other)
     }
 }
 
-/// Both ends of the link say it, so that a member of a large group need not search the group.
+/// Both ends of the link store it, so that a member of a large group need not search the group.
 void ProjectObject::setDeclared(ProjectObject& other, bool declared)
 {
     findLink(other, Direction::Needs)->isDeclared = declared;
@@ -296,11 +296,11 @@ void ProjectObject::notifyReferences(std::uint32_t targetId) const
         reference->notifyAfter();
 }
 
-// --- Links of an object that leaves and comes back ---
+// --- Links of an object that leaves and returns ---
 
 std::vector<ProjectObject::Dependent> ProjectObject::breakLinks()
 {
-    // A dependent that is told may link anew, or leave with this object.
+    // A notified dependent may make new links, or leave with this object.
     const Links links = m_links;
     std::vector<Dependent> dependents;
     for (const Link& link : links) {

@@ -18,11 +18,11 @@ class ProjectObjectGroup;
 class PropertyReference;
 struct ProjectObjectExecReturn;
 
-/// An object of a project: a node of the project tree. Its project owns it. The id of the object is used for no other
-/// object of the project, even after the object is deleted, and no other object has its internal name. The user knows the
+/// An object of a project: a node of the project tree. Its project owns it. No other object of the project gets the id
+/// of the object, even after its deletion, and no other object has its internal name. The user identifies the
 /// object by its label.
 ///
-/// Derived classes register the inherited "ID" and "ClassLabel" in their constructors, with a class label of their own.
+/// Derived classes register the inherited "ID" and "ClassLabel" in their constructors, with their own class label.
 class OBJ_EXPORT ProjectObject : public PropertyDS
 {
     OBJ_ABSTRACT_CLASS;
@@ -31,21 +31,21 @@ public:
     ProjectObject();
     ~ProjectObject() override;
 
-    /// What PropertyDS counts, the internal name and the links. Content that a module holds beside the properties is not
-    /// counted.
+    /// Returns the size that PropertyDS counts, plus the internal name and the links. Content that a module holds
+    /// besides the properties is not counted.
     std::size_t get_memory_usage() const override;
 
-    /// The registered class of the node that shows the object in the tree; empty for the standard node.
+    /// Returns the registered class of the object's node in the tree; empty for the standard node.
     virtual const char* get_viewfeeder_name() const;
-    /// Determines the state anew.
+    /// Determines the state again.
     virtual void refresh();
-    /// Makes views of the object read all its properties again. Determines the state anew first if `stateToo`.
+    /// Makes views of the object read all its properties again. Determines the state first if `stateToo`.
     virtual void refreshProperties(bool stateToo);
-    /// Not 0 if Project::executeDue executes the object even if neither the object nor what it needs has changed.
+    /// Returns 0 if Project::executeDue executes the object only after a change of it or of an object that it needs.
     virtual short always_run() const;
     /// Called when `linked`, which this object needs, has left the project, or when unlinkFrom has removed the link. If
-    /// `linked` comes back, links to it and references that this operation has removed are there again. What is thrown
-    /// when `linked` leaves is reported to the message log.
+    /// `linked` returns, links to it and references that this operation has removed are restored. Exceptions
+    /// when `linked` leaves are reported to the message log.
     virtual void on_break_object_link(ProjectObject* linked);
     /// Describes the object in a record of the project database: "obj_id", "class", "name_internal", "label".
     virtual void save_jsonDB(Json::Value& record);
@@ -54,54 +54,54 @@ public:
     /// Determines the state, passes it to setObjectState and returns it.
     virtual eVXObjectState check_input();
     virtual void setObjectState(eVXObjectState state);
-    /// The registered class of the window that edits the object; empty if the node opens it.
+    /// Returns the registered class of the window that edits the object; empty if the node opens it.
     virtual const char* getCoreEditor() const;
     /// Executes the object. The caller owns the result; null if there is none.
     virtual ProjectObjectExecReturn* execute();
     /// Tells the listeners of the project that the object has changed.
     virtual void notifyChange();
-    /// Called when the object is in its project again after an undo, and when it has been read from a file. What is
-    /// thrown is reported to the message log.
+    /// Called when the object is in its project again after an undo, and when it has been read from a file. Exceptions
+    /// are reported to the message log.
     virtual void on_project_restored();
 
 protected:
-    /// Called when the object has been made for the project and is in it, before any listener is told. If it throws, the
-    /// exception passes through to the caller who adds the object, and the project does not keep the object.
+    /// Called when the object has been made for the project and is in it, before listeners are notified. If it throws,
+    /// the exception passes through to the code that adds the object, and the project does not keep the object.
     virtual void on_configuring_project();
 
     void on_changed(const Property* property) override;
 
 public:
-    /// The number of the object in its project; 0 before it is in one.
+    /// Returns the number of the object in its project; 0 before it is in a project.
     std::uint32_t getObjectId() const { return m_objectId; }
-    /// The internal name; empty before the object is in a project.
+    /// Returns the internal name; empty before the object is in a project.
     const char* get_name_in_project() const { return m_name.c_str(); }
-    /// The project that holds the object; null before it is in one and while it is kept for undo.
+    /// Returns the project that holds the object; null before it is in a project and while it is kept for undo.
     Project* get_project() const { return m_project; }
     eVXObjectState getObjectState() const { return m_state; }
 
-    /// Says that this object needs `other`. The link stays while one of the two is kept for undo. False if there can be no
-    /// link: `other` is this object itself, or belongs to another project, which is reported to the message log.
+    /// Declares that this object needs `other`. The link is kept while one of them is kept for undo. Returns false if
+    /// `other` is this object itself, or belongs to another project, which is reported to the message log.
     bool linkTo(ProjectObject& other);
-    /// Removes such a link; a link in the other direction stays. Nothing if there is none.
+    /// Removes such a link; a link in the other direction is kept. Does nothing if there is none.
     void unlinkFrom(ProjectObject& other);
-    /// The objects of the project that this one needs, by a link or by a PropertyReference, in the order of linking.
+    /// Returns the objects of the project that this object needs by a link or a PropertyReference, in order of linking.
     std::vector<ProjectObject*> getNeededObjects() const;
-    /// The objects of the project that this one needs by linkTo, in the order of linking.
+    /// Returns the objects of the project that this object needs by linkTo, in the order of linking.
     std::vector<ProjectObject*> getLinks() const;
-    /// The objects of the project that need this one or that this one needs, in the order of linking.
+    /// Returns the objects of the project that need this object or that this object needs, in the order of linking.
     std::vector<ProjectObject*> get_linked_objects() const;
 
-    /// The group of the project that this object is a member of; null for none.
+    /// Returns the group of the project that has this object as a member; null if there is none.
     ProjectObjectGroup* getParentGroup() const;
 
-    /// Whether the user has taken the object out of use without deleting it.
+    /// Returns whether the user has suppressed the object: it is unused, but not deleted.
     bool isSuppressed() const { return m_suppressed; }
     void setSuppressed(bool suppressed);
 
     PropertyInteger id;        ///< "ID"
     PropertyString classLabel; ///< "ClassLabel"
-    PropertyString label;      ///< "Label", what the user sees and edits
+    PropertyString label;      ///< "Label", which the user sees and edits
 
 private:
     friend class Project;
@@ -118,7 +118,7 @@ private:
         ProjectObject* other = nullptr;
         Direction direction = Direction::Needs;
         bool isDeclared = false; ///< by linkTo
-        int references = 0;      ///< properties that refer to `other`; counted by the object that needs `other` alone
+        int references = 0;      ///< properties that refer to `other`; counted only by the object that needs `other`
     };
     using Links = std::vector<Link>;
 
@@ -143,12 +143,12 @@ private:
     std::vector<PropertyReference*> findReferences(std::uint32_t targetId) const;
     void notifyReferences(std::uint32_t targetId) const;
 
-    /// Returns the links and references of others to this object, and tells the others that it has left.
+    /// Returns the links and references of others to this object, and notifies the others that it has left.
     std::vector<Dependent> breakLinks();
     void mendLinks(const std::vector<Dependent>& dependents);
     static void mendLink(ProjectObject& dependent, ProjectObject& target, const Dependent& before);
     Dependent describeDependent(const Link& link) const;
-    /// Called when the project ends: objects that are kept elsewhere forget this one.
+    /// Called when the project ends: objects that are kept elsewhere drop their links to this object.
     void forgetLinks();
 
     Project* m_project = nullptr;

@@ -57,7 +57,7 @@ std::vector<ProjectObject*> ProjectObjectGroup::getMembers() const
     return members;
 }
 
-/// Whether this group is `object` or one of its members, at any depth.
+/// Returns whether this group is `object` or one of its members, at any depth.
 bool ProjectObjectGroup::isInside(const ProjectObject& object) const
 {
     const ProjectObject* around = this;

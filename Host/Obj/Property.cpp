@@ -22,7 +22,7 @@ QString toQString(std::string_view text)
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-/// The shortest text that reads back to the same number.
+/// Returns the shortest text that reads back to the same number.
 QString toShortestText(double number)
 {
     return QString::number(number, 'g', QLocale::FloatingPointShortest);
@@ -30,7 +30,7 @@ QString toShortestText(double number)
 
 QString toShortestText(float number)
 {
-    // By way of double a float would show the digits of its binary tail: 0.1 as 0.10000000149011612.
+    // As a double, a float would show the digits of its binary tail: 0.1 as 0.10000000149011612.
     for (int digits = 6; digits < 9; ++digits) {
         QString text = QString::number(static_cast<double>(number), 'g', digits);
         if (text.toFloat() == number)
@@ -119,7 +119,7 @@ std::size_t checkedIndex(std::size_t index, std::size_t count)
     return index;
 }
 
-/// Sets a property from what has been read, if it could be read.
+/// Sets a property from the value that was read, if there is one.
 template <typename Typed, typename Value>
 bool setRead(Typed& property, std::optional<Value> value)
 {

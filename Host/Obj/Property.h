@@ -19,8 +19,8 @@ class PropertyDS;
 /// A typed value of a property set, which the user sees in the property panel. It is a member of the object that owns
 /// it.
 ///
-/// Once a property is registered with its owner, each new value calls the owner's on_change_before and then, with the new
-/// value in place, on_changed, also if the value is the one it had. Before that there are no notifications.
+/// Once a property is registered with its owner, each new value calls the owner's on_change_before and then, with the
+/// new value set, on_changed, also if the value is unchanged. Before that there are no notifications.
 class OBJ_EXPORT Property
 {
 public:
@@ -29,20 +29,20 @@ public:
     Property& operator=(const Property&) = delete;
     virtual ~Property();
 
-    /// The set that the property is registered with; null before.
+    /// Returns the set that registered the property; null before registration.
     PropertyDS* getOwner() const { return m_owner; }
 
     /// Returns the value as text, in UTF-8 and with decimal points in every locale.
     virtual std::string toText() const = 0;
-    /// Sets the value from such a text. False if it cannot be read; the value is then as it was.
+    /// Sets the value from such a text. Returns false, and leaves the value unchanged, if the text cannot be read.
     [[nodiscard]] virtual bool fromText(std::string_view text) = 0;
 
-    /// Returns the value as project files keep it. Here the text.
+    /// Returns the value as project files store it. Here the text.
     virtual Json::Value toJson() const;
-    /// Sets the value from such JSON. False if it cannot be read; the value is then as it was.
+    /// Sets the value from such JSON. Returns false, and leaves the value unchanged, if the JSON cannot be read.
     [[nodiscard]] virtual bool fromJson(const Json::Value& json);
 
-    /// The bytes that the value takes outside the property itself, an estimate.
+    /// Returns the bytes that the value takes outside the property itself, an estimate.
     virtual std::size_t get_memory_usage() const;
 
 protected:
@@ -50,7 +50,7 @@ protected:
     template <typename Value>
     void change(Value& target, Value value)
     {
-        // A listener may remove the owner, whose operations are still at work.
+        // A listener may remove the owner, whose operations are still running.
         const RemovalGuard guard;
         notifyBefore();
         target = std::move(value);
@@ -99,7 +99,7 @@ private:
     std::int64_t m_value;
 };
 
-/// A real number, always finite. As text the shortest one that reads back to the same number; a number in JSON.
+/// A real number, always finite. As text the shortest that reads back to the same number; a number in JSON.
 class OBJ_EXPORT PropertyReal : public Property
 {
 public:
@@ -110,7 +110,7 @@ public:
     void setValue(double value);
 
     std::string toText() const override;
-    /// Refuses words for infinity and for what is not a number.
+    /// Refuses the spellings of infinity and NaN.
     bool fromText(std::string_view text) override;
     Json::Value toJson() const override;
     bool fromJson(const Json::Value& json) override;
@@ -142,14 +142,14 @@ class OBJ_EXPORT PropertyChoice : public Property
 {
 public:
     /// \throws std::invalid_argument if there are no words or one of them occurs twice
-    /// \throws std::out_of_range if there is no word of this index; so does setValue
+    /// \throws std::out_of_range if the list has no word at this index; so does setValue
     explicit PropertyChoice(std::vector<std::string> words, std::size_t index = 0);
 
-    /// The index of the word in the list.
+    /// Returns the index of the word in the list.
     std::size_t getValue() const { return m_index; }
     void setValue(std::size_t index);
     const std::string& getWord() const { return m_words[m_index]; }
-    /// The list to choose from.
+    /// Returns the list to choose from.
     const std::vector<std::string>& getWords() const { return m_words; }
 
     std::string toText() const override { return getWord(); }
@@ -213,7 +213,7 @@ private:
     Couples m_value;
 };
 
-/// The bytes that a text takes outside the string itself.
+/// Returns the bytes that a text takes outside the string itself.
 OBJ_EXPORT std::size_t heapSizeOf(const std::string& text);
 
 } // namespace Obj

@@ -17,12 +17,12 @@ struct PropertyDescription
     std::string description; ///< a hint for the user
 };
 
-/// The descriptions of the properties of a class, in the order of their registration, with a link to those of its parent
-/// class. A class has one, static; it is filled when the first object is made.
+/// The descriptions of the properties of a class, in the order of their registration, with a link to those of its
+/// parent class. Each class has one static instance, which is filled when the first object is made.
 class OBJ_EXPORT PropertyCoreData
 {
 public:
-    /// Adds a description and returns it. A description that the class has under this name stays as it is.
+    /// Adds a description and returns it. If the class has a description under this name, keeps and returns that one.
     const PropertyDescription& registerProperty(const char* name, const char* group, short attributes,
                                                 const char* description);
 
@@ -31,7 +31,7 @@ public:
 
     const std::deque<PropertyDescription>& descriptions() const { return m_descriptions; }
 
-    /// The descriptions of the parent class; null for a root.
+    /// Returns the descriptions of the parent class; null for a root.
     const PropertyCoreData* parent() const { return m_parent; }
     void setParent(const PropertyCoreData* parent) { m_parent = parent; }
 

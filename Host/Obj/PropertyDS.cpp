@@ -11,7 +11,7 @@ PropertyCoreData PropertyDS::propertyData;
 
 PropertyDS::PropertyDS()
 {
-    // Most objects have a label, an id, a class label and little more.
+    // Most objects have a label, an id, a class label and few other properties.
     constexpr std::size_t usualCount = 4;
     m_entries.reserve(usualCount);
 }

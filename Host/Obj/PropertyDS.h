@@ -12,11 +12,11 @@
 
 namespace Obj {
 
-/// A set of properties, which are its members. Each class registers its properties in its constructor, a base class before
-/// the classes that derive from it; the user sees the properties in that order.
+/// A set of properties, which are its members. Each class registers its properties in its constructor, a base class
+/// before the classes that derive from it; the user sees the properties in that order.
 ///
-/// Operations "by property" return for a property of another set what those "by name" return for an unknown name: null, an
-/// empty text, 0 or false.
+/// If a property belongs to another set, operations "by property" return the same as operations "by name" do for an
+/// unknown name: null, an empty text, 0 or false.
 class OBJ_EXPORT PropertyDS : public Kelta::DataPersistence
 {
     KELTA_ABSTRACT_CLASS;
@@ -25,14 +25,14 @@ public:
     PropertyDS();
     ~PropertyDS() override;
 
-    /// The size of an object of the class, and what the values of the properties take beside it.
+    /// Returns the size of an object of the class, plus the size of the values of the properties.
     std::size_t get_memory_usage() const override;
 
     virtual Property* get_property_by_name(const char* name) const;
     virtual const char* get_property_name(const Property* property) const;
-    /// All properties by name.
+    /// Returns all properties by name.
     virtual void get_property_dataset(std::map<std::string, Property*>& properties) const;
-    /// All properties in the order of their registration.
+    /// Returns all properties in the order of their registration.
     virtual void get_property_array(std::vector<Property*>& properties) const;
     virtual short get_property_type(const char* name) const; ///< PropertyType values
     virtual short get_property_type(const Property* property) const;
@@ -46,17 +46,17 @@ public:
     virtual bool is_hidden(const Property* property) const;
 
 protected:
-    /// A registered property has a new value.
+    /// Called after a registered property has got a new value.
     virtual void on_changed(const Property* property);
-    /// A registered property is about to get one.
+    /// Called before a registered property gets a new value.
     virtual void on_change_before(const Property* property);
-    /// The descriptions of the properties that the object's class itself registers; the parent link leads to those of its
-    /// parent class.
+    /// Returns the descriptions of the properties that the object's class itself registers; the parent link leads to
+    /// the descriptions of its parent class.
     virtual const PropertyCoreData& get_property_data() const;
     static const PropertyCoreData* get_property_data_ref();
 
-    /// Makes `property`, a member of this object, known under `name`, and describes it in `data`, the record of the class
-    /// that registers it. From now on the property notifies this object. A property that a base class has registered gets
+    /// Registers `property`, a member of this object, under `name`, and describes it in `data`, the record of the class
+    /// that registers it. The property then notifies this object. A property that a base class has registered gets
     /// the name and description of the derived class, and keeps its place in the order.
     void registerProperty(PropertyCoreData& data, Property& property, const char* name, const char* group,
                           short attributes, const char* description);

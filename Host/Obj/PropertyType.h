@@ -2,13 +2,13 @@
 
 namespace Obj {
 
-/// What may be done with a property. The values are added.
+/// The restrictions of a property. The values are combined by addition.
 struct PropertyType
 {
     static constexpr short none = 0;
     static constexpr short readOnly = 1; ///< shown, not edited
     static constexpr short hidden = 2;   ///< not shown
-    static constexpr short passive = 8;  ///< no result depends on it, as on how an object is shown
+    static constexpr short passive = 8;  ///< no result depends on it, for example the appearance of an object
 };
 
 } // namespace Obj

@@ -50,7 +50,7 @@ void GuardedDelete::operator()(Kelta::RootClass* thing) const noexcept
     try {
         doomedThings().push_back(std::move(owned));
     } catch (const std::bad_alloc&) {
-        // Destroyed at once, since it cannot be remembered.
+        // Destroyed at once, because memory does not suffice to store it.
         return;
     }
 }

@@ -16,8 +16,8 @@ class ProjectObject;
 /// While a guard lives, objects and projects that their owners release stay in memory. They are destroyed when the last
 /// guard ends.
 ///
-/// Every signal of the host holds one while it calls its listeners, and every operation of projects and requests while it
-/// runs: a listener may remove or close what it is told of, and the listeners after it are told all the same.
+/// Every signal of the host holds a guard while it calls its listeners, and every operation of projects and requests
+/// while it runs: a listener may remove or close the signal's argument, and later listeners are still called.
 class OBJ_EXPORT RemovalGuard
 {
 public:
@@ -26,7 +26,7 @@ public:
     RemovalGuard& operator=(const RemovalGuard&) = delete;
     ~RemovalGuard();
 
-    /// Whether `thing` waits for its destruction.
+    /// Returns whether `thing` waits for its destruction.
     static bool isDoomed(const Kelta::RootClass& thing);
 };
 
@@ -34,14 +34,14 @@ public:
 struct OBJ_EXPORT GuardedDelete
 {
     GuardedDelete() = default;
-    /// A plain owner may hand over to a guarded one.
+    /// A plain owner may transfer its object to a guarded owner.
     template <typename Thing>
     GuardedDelete(std::default_delete<Thing> /*plain*/) // NOLINT(google-explicit-constructor): converts owners
     {}
     void operator()(Kelta::RootClass* thing) const noexcept;
 };
 
-/// Owners of what is outside its project or the application.
+/// Owners of objects outside their project, and of projects outside the application.
 using OwnedObject = std::unique_ptr<ProjectObject, GuardedDelete>;
 using OwnedProject = std::unique_ptr<Project, GuardedDelete>;
 

@@ -7,11 +7,11 @@
 
 namespace Obj {
 
-/// Reports the exception that a listener threw, and that is being handled, to the message log.
+/// Reports the exception of a listener, while it is being handled, to the message log.
 OBJ_EXPORT void reportListenerFailure() noexcept;
 
-/// Calls listeners one after another. What one throws is reported to the message log, and the next one is called: a
-/// listener that fails does not undo what has happened. What a listener removes stays in memory until all have been
+/// Calls listeners one after another. Exceptions are reported to the message log, and the next listener is called: a
+/// listener that fails does not undo the change. Objects that a listener removes stay in memory until all have been
 /// called.
 struct ReportingCombiner
 {

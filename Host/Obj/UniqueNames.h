@@ -9,12 +9,12 @@
 
 namespace Obj {
 
-/// Makes names that are not taken: "Part", "Part1", "Part2". No name is made twice from one stem. Each name takes constant
-/// time on average, however many there are.
+/// Makes unused names: "Part", "Part1", "Part2". No name is made twice from one stem. Each name takes constant
+/// time on average, whatever the number of names.
 class OBJ_EXPORT UniqueNames
 {
 public:
-    /// Returns a name from `stem`, "Object" if that is empty, for which `isTaken` is false.
+    /// Returns a name from `stem`, or from "Object" if `stem` is empty, for which `isTaken` is false.
     template <typename IsTaken>
     std::string make(std::string_view stem, const IsTaken& isTaken)
     {

@@ -54,7 +54,7 @@ bool registerCode(Codes& codes, int ownCode, int code, const std::string& classN
                       .arg(QString::number(code), QString::fromStdString(className)));
 }
 
-/// The boundary of the requests: what is thrown inside is reported, and the request counts as not done.
+/// The boundary of the requests: an exception inside is reported, and the request counts as failed.
 template <typename Request>
 bool isDone(const Request& request)
 {

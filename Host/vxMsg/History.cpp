@@ -16,7 +16,7 @@ using Commands = std::vector<std::unique_ptr<QUndoCommand>>;
 
 int undoingDepth = 0;
 
-/// While one lives, a step is being undone or redone.
+/// While an instance lives, a step is being undone or redone.
 class Undoing
 {
 public:
@@ -39,7 +39,7 @@ public:
 
     void redo() override
     {
-        // The stack redoes what is pushed, which has been carried out already.
+        // The stack calls redo on a pushed command, which has been carried out already.
         if (std::exchange(m_isPushed, true))
             forEach(m_commands.begin(), m_commands.end(), [](QUndoCommand& command) { command.redo(); });
     }
@@ -48,12 +48,12 @@ private:
     template <typename Iterator, typename Action>
     static void forEach(Iterator command, Iterator end, const Action& action)
     {
-        // A listener may call the stack while it is at work.
+        // A listener may call the stack while it is running.
         if (undoingDepth > 0)
             return;
         const Undoing undoing;
         const Obj::RemovalGuard guard;
-        // The stack expects that nothing is thrown.
+        // The stack expects no exception.
         for (; command != end; ++command)
             Kelta::guarded(QCoreApplication::translate("vxMsg", "An undo or redo failed"), [&] { action(**command); });
     }
@@ -102,7 +102,7 @@ void History::record(std::unique_ptr<QUndoCommand> command, Place place)
 {
     if (isUndoing())
         return end();
-    // By agreement the first redo of a command that has been carried out does nothing.
+    // By convention the first redo of a command that has been carried out does nothing.
     command->redo();
     const std::size_t index = std::min(place.index, m_commands.size());
     m_commands.insert(m_commands.begin() + static_cast<std::ptrdiff_t>(index), std::move(command));
@@ -125,12 +125,12 @@ void History::indexChanged(int index)
         m_index = index;
         finish();
     } else if (index != m_index) {
-        // A listener has moved the stack that is at work. Steps ignore that, and the stack must too.
+        // A listener has moved the running stack. Steps ignore the move, and the stack must too.
         m_stack.setIndex(m_index);
     }
 }
 
-/// Brings the stack up to date, unless a group or a step is under way.
+/// Updates the stack, unless a group or a step is in progress.
 void History::finish()
 {
     if (m_groupDepth > 0 || isUndoing())

@@ -43,7 +43,7 @@ bool isOpen(const Obj::Project& project)
     return Obj::Application::instance().get_project(project.getProjectId()) == &project;
 }
 
-/// A request that a listener makes while a step is undone or redone would change the stack that is at work.
+/// A request of a listener while a step is undone or redone would change the running stack.
 bool mayAct()
 {
     return !History::isUndoing() ||
@@ -55,7 +55,7 @@ QString labelOf(const Obj::ProjectObject& object)
     return shown(object.label.getValue());
 }
 
-/// An object with a blank label could not be found again in the tree.
+/// The user could not find an object with a blank label in the tree.
 bool isBlankLabel(const Obj::PropertyDS& owner, const Obj::Property& property, const std::string& text)
 {
     const auto* const object = dynamic_cast<const Obj::ProjectObject*>(&owner);
@@ -78,7 +78,7 @@ Obj::Property* findSettable(const PropertyPlace& place, const std::string& name,
     return nullptr;
 }
 
-/// Sets the property and returns whether it can read the text. What listeners throw is reported; the value is set then.
+/// Sets the property. Returns false if it cannot read the text. Exceptions of listeners are reported; the value is set.
 bool setText(Obj::Property& property, const std::string& name, const std::string& text)
 {
     bool isRead = true;
@@ -90,7 +90,7 @@ bool setText(Obj::Property& property, const std::string& name, const std::string
 
 } // namespace
 
-/// While one lives, a project is being opened, and what comes with it is not to be undone.
+/// While an instance lives, a project is being opened, and its additions cannot be undone.
 class MessageProxy::Opening
 {
 public:
@@ -99,7 +99,7 @@ public:
     Opening& operator=(const Opening&) = delete;
     ~Opening() { m_proxy.m_opening = m_outer; }
 
-    /// The first project that is added belongs to the opening.
+    /// The first added project belongs to the opening.
     void claim(const Obj::Project& project)
     {
         if (m_projectId == 0)
@@ -128,7 +128,7 @@ MessageProxy::MessageProxy() : m_history(std::make_unique<History>())
     Obj::Application& application = Obj::Application::instance();
     for (Obj::Project* const project : Obj::Application::get_projects())
         projectWasAdded(*project);
-    // Before other listeners, whose own changes follow in the history.
+    // Called before other listeners, whose changes follow in the history.
     m_connections.emplace_back(application.projectAdded.connect(
         [this](Obj::Project& project) { projectWasAdded(project); }, boost::signals2::at_front));
     m_connections.emplace_back(application.projectRemoved.connect(
@@ -144,8 +144,8 @@ QUndoStack& MessageProxy::undoStack()
 
 // --- Requests ---
 
-/// Makes one step of an act and of all that listeners do because of it. The command of the act, null if nothing was done,
-/// comes before theirs, since they followed it.
+/// Makes one step of an act and of all resulting changes of listeners. The command of the act, null if nothing was
+/// done, comes before the commands of the listeners.
 bool MessageProxy::carryOut(const QString& text, const Act& act)
 {
     const Group group(text);
@@ -161,7 +161,7 @@ bool MessageProxy::newProject(const std::string& className, const std::string& n
 {
     if (!mayAct())
         return false;
-    // The project is noticed as any that is added during a request.
+    // The project is detected like any other that is added during a request.
     const Group group{QString()};
     Obj::Project* const project = Obj::Application::instance().createProject(className.c_str(), name);
     if (project == nullptr)
@@ -187,7 +187,7 @@ bool MessageProxy::closeProject(const std::string& name)
 bool MessageProxy::mayClose(Obj::Project& project)
 {
     const QString name = QString::fromUtf8(project.get_name());
-    // A listener that requests it again would be asked again.
+    // A listener that repeats the request would be called again.
     if (!m_closingProjects.insert(project.getProjectId()).second)
         return report(tr("The project \"%1\" is being closed already; nothing was done.").arg(name));
     bool refused = false;
@@ -204,7 +204,7 @@ bool MessageProxy::addObject(const std::string& projectName, const std::string& 
     Obj::Project* const project = mayAct() ? findProject(projectName) : nullptr;
     if (project == nullptr)
         return false;
-    // The addition is noticed as any other.
+    // The addition is detected like any other.
     const Group group{QString()};
     Obj::ProjectObject* const object = project->add_object(className.c_str(), objectName);
     if (object == nullptr)
@@ -241,7 +241,7 @@ bool MessageProxy::setProperty(const PropertyPlace& place, const std::string& pr
     carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
         Json::Value before = property->toJson();
         isRead = setText(*property, propertyName, text);
-        // A listener may have deleted what was changed; nothing can be undone then.
+        // A listener may have deleted the changed object; then there is nothing to undo.
         const Obj::PropertyDS* const owner = isRead ? place.find() : nullptr;
         if (owner == nullptr)
             return nullptr;
@@ -261,7 +261,7 @@ bool MessageProxy::setSuppressed(Obj::ProjectObject& object, bool suppressed)
     const QString text = (suppressed ? tr("Suppress \"%1\"") : tr("Unsuppress \"%1\"")).arg(labelOf(object));
     carryOut(text, [&]() -> std::unique_ptr<QUndoCommand> {
         object.setSuppressed(suppressed);
-        // A listener may have deleted the object; nothing can be undone then.
+        // A listener may have deleted the object; then there is nothing to undo.
         return place.findObject() != nullptr ? std::make_unique<SuppressionCommand>(text, place, suppressed) : nullptr;
     });
     return true;
@@ -314,7 +314,7 @@ Obj::Project* MessageProxy::open(const std::function<Obj::Project*()>& make,
     project->notifyRestored();
     if (!isOpen(*project))
         return nullptr;
-    // What listeners have added to other projects meanwhile can still be undone.
+    // Additions of listeners to other projects meanwhile can still be undone.
     m_history->end(place);
     return project;
 }
@@ -345,11 +345,11 @@ void MessageProxy::pushDone(std::unique_ptr<QUndoCommand> command)
     m_history->record(std::move(command));
 }
 
-// --- What happens without a request ---
+// --- Changes without a request ---
 
 void MessageProxy::projectWasAdded(Obj::Project& project)
 {
-    // A project that comes back is watched once all the same.
+    // A project that returns is still watched only once.
     Watch& watch = m_watches[project.getProjectId()];
     watch.added = project.objectAdded.connect([this](Obj::ProjectObject& object) { objectWasAdded(object); },
                                               boost::signals2::at_front);
@@ -372,7 +372,7 @@ void MessageProxy::projectWasRemoved(Obj::Project& project)
 
 void MessageProxy::objectWasAdded(Obj::ProjectObject& object)
 {
-    // What undo brings back is in the history already, and what listeners add because of an undo is not to be undone.
+    // Objects that undo restores are in the history already. Additions of listeners during an undo cannot be undone.
     const Obj::Project* const project = object.get_project();
     const bool isOpened = project == nullptr || (m_opening != nullptr && m_opening->concerns(*project));
     if (!History::isUndoing() && !isOpened)

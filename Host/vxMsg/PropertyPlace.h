@@ -13,23 +13,23 @@ class PropertyDS;
 
 namespace vxMsg {
 
-/// Finds a set of properties again after deletions and their undo: a project, an object, or the node that shows one of
-/// them.
+/// Finds a set of properties again after deletions and their undo: a project, an object, or the node of a project or
+/// object.
 class VXMSG_EXPORT PropertyPlace
 {
 public:
-    /// Finds the node of an object, or of the project if the object is null; null if there is none. The user interface
-    /// gives it.
+    /// Returns the node of an object, or of the project if the object is null; null if it has none. The user interface
+    /// provides it.
     using NodeFinder = std::function<Obj::PropertyDS*(Obj::Project& project, Obj::ProjectObject* object)>;
 
-    /// The project itself, or its node if there is a finder.
+    /// Refers to the project itself, or to its node if there is a finder.
     explicit PropertyPlace(const Obj::Project& project, NodeFinder findNode = {});
-    /// The object itself, or its node if there is a finder. The object must be in a project.
+    /// Refers to the object itself, or to its node if there is a finder. The object must be in a project.
     explicit PropertyPlace(const Obj::ProjectObject& object, NodeFinder findNode = {});
 
-    /// Null while the set is not there: the project is closed, the object deleted, or there is no node.
+    /// Returns null while the set is absent: the project is closed, the object deleted, or there is no node.
     Obj::PropertyDS* find() const;
-    /// The object itself, also if the place is that of its node; null for a project, and while the object is deleted.
+    /// Returns the object itself, also for the place of its node; null for a project, and while the object is deleted.
     Obj::ProjectObject* findObject() const;
 
 private:

@@ -69,7 +69,7 @@ void PropertyCommand::set(const Json::Value& value) const
 {
     const Obj::PropertyDS* const owner = m_place.find();
     Obj::Property* const property = owner != nullptr ? owner->get_property_by_name(m_name.c_str()) : nullptr;
-    // Every value that is kept here was the property's own.
+    // Every stored value was a value of the property.
     if (property != nullptr)
         static_cast<void>(property->fromJson(value));
 }

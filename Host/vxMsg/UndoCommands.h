@@ -13,7 +13,7 @@
 
 namespace vxMsg {
 
-/// While one lives, the proxy itself removes a project or an object, which it records itself.
+/// While an instance lives, the proxy itself removes a project or an object, and records the removal.
 class OwnDoing
 {
 public:
@@ -50,12 +50,12 @@ private:
 
 enum class Presence
 {
-    Here, ///< the command added it; undo takes it away
-    Gone, ///< the command removed it; undo brings it back
+    Here, ///< the command added it; undo removes it
+    Gone, ///< the command removed it; undo restores it
 };
 
-/// The addition or removal of a project or an object, which the command owns while it is away. Commands know projects and
-/// objects by their ids, so that one that was destroyed without a request is not found.
+/// The addition or removal of a project or an object, which the command owns while it is removed. Commands store ids of
+/// projects and objects, so that they do not find a project or object that was destroyed without a request.
 template <typename Owned>
 class PresenceCommand : public DoneCommand
 {
@@ -85,9 +85,9 @@ private:
 class ProjectCommand final : public PresenceCommand<Obj::OwnedProject>
 {
 public:
-    /// The project has been made.
+    /// Records that the project has been made.
     ProjectCommand(const QString& text, const Obj::Project& project);
-    /// The project has been closed.
+    /// Records that the project has been closed.
     ProjectCommand(const QString& text, Obj::OwnedProject closed);
 
 protected:
@@ -101,9 +101,9 @@ private:
 class ObjectCommand final : public PresenceCommand<Obj::OwnedObject>
 {
 public:
-    /// The object has been added to its project.
+    /// Records that the object has been added to its project.
     ObjectCommand(const QString& text, const Obj::ProjectObject& object);
-    /// The object has been taken out of `project`.
+    /// Records that the object has been removed from `project`.
     ObjectCommand(const QString& text, const Obj::Project& project, Obj::OwnedObject deleted);
 
 protected:
@@ -115,7 +115,7 @@ private:
     std::uint32_t m_objectId;
 };
 
-/// A new value of a property. The values are kept as project files keep them: a reference finds its object by the id.
+/// A new value of a property. The values are stored as in project files: a reference finds its object by the id.
 class PropertyCommand final : public DoneCommand
 {
 public:

@@ -19,7 +19,7 @@ GuiApplication* GuiApplication::Instance = nullptr;
 
 namespace {
 
-/// The node of an object, or of the project if the object is null. The history may ask while the program ends.
+/// Returns the node of an object, or of the project if the object is null. Safe to call while the program ends.
 Obj::PropertyDS* findNode(const Obj::Project& project, Obj::ProjectObject* object)
 {
     GuiProject* const guiProject =
@@ -117,7 +117,7 @@ void GuiApplication::removeProject(Obj::Project& project)
     selection.forget(project);
     for (const Obj::ProjectObject* const object : project.getObjects())
         selection.forget(*object);
-    // Taken out first: what is destroyed with it must not find a project that is partly destroyed.
+    // Removed first: objects that are destroyed with it must not find a project that is partly destroyed.
     const auto found = m_projects.find(&project);
     if (found == m_projects.end())
         return;

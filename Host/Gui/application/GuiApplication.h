@@ -28,11 +28,11 @@ class GuiProject;
 class ObjectClipboard;
 class ViewFeederProjectObject;
 
-/// Registers the classes of this library, and those of the libraries below it. Safe to call more than once.
+/// Registers the classes of this library and of the libraries below it. Safe to call more than once.
 GUI_EXPORT void initGui();
 
-/// The program with its windows. No exception that a window throws ends it: one that reaches the event loop is reported
-/// to the message log.
+/// The program with its windows. An exception that a window throws does not end it: an exception that reaches the event
+/// loop is reported to the message log.
 class GUI_EXPORT GuiApplication : public QApplication
 {
     Q_OBJECT
@@ -42,23 +42,23 @@ public:
     GuiApplication(int& argc, char** argv);
     ~GuiApplication() override;
 
-    /// The one application; null in a program without windows.
+    /// Returns the application; null in a program without windows.
     static GuiApplication* Instance;
 
     CommandController& get_command_manager() { return m_commands; }
-    /// What modules add to the window.
+    /// Contributions of modules to the window.
     Contributions& contributions() { return *m_contributions; }
-    /// Carries out requests, undoably.
+    /// Carries out undoable requests.
     vxMsg::MessageProxy& requests() { return m_requests; }
     ObjectClipboard& objectClipboard() { return *m_clipboard; }
 
-    /// The GUI side of a project, and of the current one; null if it is not open.
+    /// Returns the GUI side of a project, or of the current project; null if the project is not open.
     GuiProject* get_project(const Obj::Project* project) const;
     GuiProject* get_current_project() const;
-    /// The tree node of an object; null if its project is not open.
+    /// Returns the tree node of an object; null if its project is not open.
     ViewFeederProjectObject* get_view_feeder(Obj::ProjectObject* object) const;
 
-    /// Returns where a set of properties is found again, for requests about it. `owner` is a project, an object of a
+    /// Returns the place from which requests find a set of properties again. `owner` is a project, an object of a
     /// project or a tree node.
     vxMsg::PropertyPlace placeOf(const Obj::PropertyDS& owner) const;
 

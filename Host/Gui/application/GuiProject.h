@@ -33,14 +33,14 @@ public:
 
     Obj::Project& get_project() const { return m_project; }
 
-    /// The node of the project.
+    /// Returns the node of the project.
     ViewFeederProject* get_view_feeder();
-    /// Returns the node of an object of the project; null for an object of another project. The node is made when it is
-    /// first asked for, and lives as long as the object is in the project. It is of the class that the object names, or a
-    /// plain node if that class is unknown or cannot be made.
+    /// Returns the node of an object of the project; null for an object of another project. The first call makes the
+    /// node, which lives as long as the object is in the project. The node has the class that the object names. It is a
+    /// plain node if that class is unknown or cannot be created.
     ViewFeederProjectObject* get_view_feeder(Obj::ProjectObject* object);
 
-    /// The views of the project that are open.
+    /// Returns the open views of the project.
     const std::vector<BaseView*>& getViews() const { return m_views; }
     void connectView(BaseView* view);
     void disconnect_view(BaseView* view);

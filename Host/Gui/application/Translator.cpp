@@ -15,14 +15,14 @@ namespace Gui {
 
 namespace {
 
-/// The endings of the names of files that can serve a language, the best first: "zh_CN", then "zh".
+/// Returns the endings of file names that can serve a language, the best first: "zh_CN", then "zh".
 QStringList endingsFor(const QString& language)
 {
     return {language, language.section(QLatin1Char('_'), 0, 0)};
 }
 
-/// The files of `names` that serve the language best. Names are compared as they are: patterns would have to be compiled
-/// at each start of the program.
+/// Returns the files of `names` that serve the language best. Names are compared literally, because patterns would be
+/// compiled at each start of the program.
 QStringList filesFor(const QString& language, const QStringList& names)
 {
     for (const QString& ending : endingsFor(language)) {
@@ -36,8 +36,8 @@ QStringList filesFor(const QString& language, const QStringList& names)
     return {};
 }
 
-/// The file with Qt's own texts, such as those of the buttons of message boxes; none if Qt's translations are not
-/// installed. The folder of Qt's translations may hold thousands of files, so that it is not listed.
+/// Returns the file with Qt's own texts, such as those of message box buttons; an empty text if Qt's translations are
+/// not installed. The folder of Qt's translations may hold thousands of files, so it is not listed.
 QStringList toolkitFilesFor(const QString& language, const QString& folder)
 {
     for (const QString& ending : endingsFor(language))

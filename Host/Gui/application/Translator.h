@@ -12,9 +12,9 @@
 
 namespace Gui {
 
-/// The language of the program's texts. Translations are files "<anything>_<language>.qm" in the folders of
-/// translations; all of the current language are used at once, those of modules included, and Qt's own if they are
-/// installed.
+/// The language of the program's texts. Translations are files "<anything>_<language>.qm" in the translation folders.
+/// All files of the current language are used together, including those of modules, and Qt's own translations if they
+/// are installed.
 class GUI_EXPORT Translator final : public QObject
 {
     Q_OBJECT
@@ -23,18 +23,18 @@ public:
     static Translator* instance();
     ~Translator() override;
 
-    /// "de" or "zh_CN"; "en" for the texts of the program itself. At first it is the language of the system.
+    /// "de" or "zh_CN"; "en" for the texts of the program itself. The initial language is that of the system.
     const QString& language() const { return m_language; }
     void setLanguage(const QString& language);
 
-    /// The folders with translations: at first the one beside the program, in a build tree as in an installation.
+    /// The folders with translations. The initial folder is beside the program, in a build tree and in an installation.
     const QStringList& folders() const { return m_folders; }
     void addFolder(const QString& folder);
 
-    /// Loads the translations of the current language again, as needed after a module has brought more. Files that cannot
+    /// Loads the translations of the current language again. Needed after a module has added some. Files that cannot
     /// be read are reported to the message log.
     void refresh();
-    /// Removes all translations. To be called before the program ends.
+    /// Removes all translations. Must be called before the program ends.
     void clear();
 
 Q_SIGNALS:

@@ -31,7 +31,7 @@ bool holdsObjects(const Json::Value& root)
     return root.isObject() && root["kelta_objects"] == Json::Value(1) && root["objects"].isArray();
 }
 
-/// Null for a text of another kind.
+/// Returns null for a text of another kind.
 Json::Value parse(const QByteArray& text)
 try {
     const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
@@ -40,7 +40,7 @@ try {
     const bool isJson = reader->parse(text.constData(), text.constData() + text.size(), &root, &errors);
     return isJson && holdsObjects(root) ? root : Json::Value();
 } catch (const Json::Exception&) {
-    // Nested too deeply for the reader.
+    // The text is nested too deeply for the reader.
     return {};
 }
 
@@ -122,7 +122,7 @@ void ObjectClipboard::copy(const std::vector<Obj::ProjectObject*>& objects) cons
 
 bool ObjectClipboard::holdsObjects()
 {
-    // Asked after every change in the program, and the text may be long.
+    // Called after every change in the program, and the text may be long.
     if (!m_isKnown)
         m_holdsObjects = !parse(textOf(QGuiApplication::clipboard()->mimeData())).isNull();
     m_isKnown = true;

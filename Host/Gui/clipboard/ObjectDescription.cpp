@@ -13,7 +13,7 @@ namespace Gui {
 
 namespace {
 
-/// Leaves out members without content.
+/// Omits members without content.
 void addMember(Json::Value& description, const char* name, Json::Value value)
 {
     if (!value.isNull())
@@ -32,7 +32,7 @@ Json::Value describeNode(const GuiApplication& application, Obj::ProjectObject& 
     return node != nullptr ? Obj::writeProperties(*node) : Json::Value();
 }
 
-/// The label has a member of its own.
+/// The label has its own member.
 Json::Value describeProperties(const Obj::ProjectObject& object)
 {
     Json::Value properties = Obj::writeProperties(object);

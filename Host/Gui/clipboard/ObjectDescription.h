@@ -13,14 +13,14 @@ namespace Gui {
 
 class GuiApplication;
 
-/// Returns the description of an object for the clipboard, as ObjectClipboard explains it. Its node comes from
-/// `application`.
+/// Returns the description of an object for the clipboard, as documented at ObjectClipboard. `application` provides the
+/// node of the object.
 Json::Value describeObject(const GuiApplication& application, Obj::ProjectObject& object);
 
-/// Returns a name for a project that no project of another program has.
+/// Returns a name for a project that is unique across programs.
 std::string originOf(const Obj::Project& project);
 
-/// Returns the class of a project, or the missing class of a placeholder.
+/// Returns the class of a project, or the missing class if the project is a placeholder.
 std::string originalClassOf(const Obj::Project& project);
 
 } // namespace Gui

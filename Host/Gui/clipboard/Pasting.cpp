@@ -37,21 +37,21 @@ Kelta::TypeInfo typeOf(const Json::Value& description)
     return Kelta::TypeInfo::find(textOf(description, "class").c_str());
 }
 
-/// Whether the object becomes a placeholder, because its class is missing here as where it was copied.
+/// Returns whether the object becomes a placeholder: its class is missing both here and in the program of the copy.
 bool isPlaceholder(const Json::Value& description)
 {
     return description.isObject() && description.isMember("record") && !typeOf(description).namesAType();
 }
 
-/// The properties, node and content of an object: those of the description, or of the record of a former placeholder
-/// whose class is there now.
+/// The properties, node and content of an object. They come from the description, or from the record of a former
+/// placeholder whose class is now registered.
 Json::Value partOf(const Json::Value& description, const char* name)
 {
     const Json::Value& whole = description.isMember("record") ? description["record"] : description;
     return whole.isObject() ? whole[name] : Json::Value();
 }
 
-/// Throws if the content cannot be read. Tried on an object outside the project: one inside leaves a step of the history.
+/// Throws if the content cannot be read. The object is outside the project: inside, it would add a step to the history.
 void checkContent(const Obj::ContentCodec& codec, Kelta::TypeInfo type, const Json::Value& content)
 {
     const std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::createByName(type.get_name());
@@ -120,14 +120,14 @@ std::vector<Obj::ProjectObject*> Pasting::finish()
 
 bool Pasting::takes(const Json::Value& description) const
 {
-    // Whether projects of a class take objects of a missing class is known of the project that they come from.
+    // Only the source project tells whether projects of a class take objects of a missing class.
     if (isPlaceholder(description))
         return textOf(description, "project_class") == originalClassOf(m_project);
     const Kelta::TypeInfo type = typeOf(description);
     return !type.is_inherited_from(Obj::ProjectObject::getClassTypeId()) || m_project.canTake(type);
 }
 
-/// Null, with the reason in the message log, if there can be no such object.
+/// Returns null, with the reason in the message log, if the object cannot be made.
 Obj::ProjectObject* Pasting::makeObject(const Json::Value& description) const
 {
     const std::string className = description.get("class", "").asString();
@@ -137,7 +137,7 @@ Obj::ProjectObject* Pasting::makeObject(const Json::Value& description) const
     return m_project.add_object(std::make_unique<Obj::PlaceholderObject>(className, description["record"]), name);
 }
 
-/// A name like that of the original: "Beam3" becomes "Beam7".
+/// Returns a name like the original's: "Beam3" becomes "Beam7".
 std::string Pasting::nameFor(const Json::Value& description) const
 {
     const std::string name = textOf(description, "name");
@@ -163,18 +163,18 @@ void Pasting::readProperties(Obj::ProjectObject& object, const Json::Value& desc
         warnOfProperties(object, Obj::readProperties(*node, partOf(description, "node"), newId));
 }
 
-/// The copy of a group has the copies of its members: the members themselves stay where they are.
+/// The copy of a group gets only the copies of its members. The members themselves stay in their group.
 void Pasting::readLinks(Obj::ProjectObject& object, const Json::Value& description) const
 {
     const bool isGroup = object.is_inherited_from(Obj::ProjectObjectGroup::getClassTypeId());
     const auto newId = [&](std::uint32_t id) {
         return isGroup ? copyOf(description, id) : copyOrOriginalOf(description, id);
     };
-    // Links to objects that are not there are left out.
+    // Links to objects that do not exist are left out.
     static_cast<void>(Obj::readLinks(object, description["links"], newId));
 }
 
-/// The copy of a member alone is a member of the same group.
+/// Adds the copy of a member to the member's group if the group is not copied.
 void Pasting::joinGroup(Obj::ProjectObject& object, const Json::Value& description) const
 {
     if (!isFromHere(description) || !description["group"].isUInt() || object.getParentGroup() != nullptr)
@@ -189,14 +189,14 @@ bool Pasting::isFromHere(const Json::Value& description) const
     return textOf(description, "project") == originOf(m_project);
 }
 
-/// The id of the copy of an object that is pasted too; 0 for another object.
+/// Returns the id of the copy of an object that is also pasted; 0 for another object.
 std::uint32_t Pasting::copyOf(const Json::Value& description, std::uint32_t id) const
 {
     const auto copy = m_copies.find({textOf(description, "project"), id});
     return copy != m_copies.end() ? copy->second : 0;
 }
 
-/// Likewise, or the id itself of an object that is not pasted but is in the project.
+/// Returns the id of the copy, or the id itself if the object is not pasted but is in the project.
 std::uint32_t Pasting::copyOrOriginalOf(const Json::Value& description, std::uint32_t id) const
 {
     const std::uint32_t copy = copyOf(description, id);

@@ -17,17 +17,17 @@ namespace Gui {
 
 class GuiApplication;
 
-/// Adds described objects to a project, in two steps: first the objects, then what refers from one to another.
+/// Adds described objects to a project in two steps: first the objects, then the references and links between them.
 class Pasting
 {
 public:
     Pasting(GuiApplication& application, Obj::Project& project) : m_application(application), m_project(project) {}
 
-    /// Returns whether the project takes all of these objects. If not, the message log says which one it does not take.
+    /// Returns whether the project takes all of these objects. If not, the message log names the object it refuses.
     bool takesAll(const Json::Value& descriptions) const;
-    /// Adds one object. Throws std::exception if the description cannot be read; nothing is added then.
+    /// Adds one object. Throws std::exception, and adds nothing, if the description cannot be read.
     void add(const Json::Value& description);
-    /// Sets the properties, links and groups of all objects that were added, and returns those that are in the project.
+    /// Sets the properties, links and groups of all added objects, and returns the objects that are in the project.
     std::vector<Obj::ProjectObject*> finish();
 
 private:

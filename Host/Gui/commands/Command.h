@@ -19,13 +19,13 @@ namespace Gui {
 struct CommandType
 {
     static constexpr int none = 0;
-    /// The command acts on what is selected in the project tree. Its shortcut works only while the tree has the keyboard;
-    /// if several such commands have the same shortcut, it runs the one that was registered first.
+    /// The command acts on the selection in the project tree. Its shortcut works only while the tree has the keyboard
+    /// focus. If several such commands have the same shortcut, it runs the command that was registered first.
     static constexpr int onTree = 8;
 };
 
-/// What menus and toolbars show of a command. Derived classes set the fields in their constructors; texts are English
-/// and are translated where they are shown, in the context of the class name.
+/// The texts and picture of a command in menus and toolbars. Derived classes set the fields in their constructors.
+/// Texts are English; menus and toolbars translate them in the context of the class name.
 class GUI_EXPORT CommandBase
 {
 public:
@@ -46,10 +46,10 @@ public:
     virtual QKeySequence get_shortcut() const;
     /// Carries the command out. `index` is the chosen entry of a command that has several.
     virtual void activated(int index) = 0;
-    /// Returns whether the command can be run now.
+    /// Returns whether the command is applicable now.
     virtual bool is_applicable();
 
-    /// The action; null before new_action, and after its parent was destroyed.
+    /// Returns the action; null before new_action, and after its parent was destroyed.
     QAction* action() const { return m_action; }
     /// Enables the action if the command is applicable now, and sets its check mark. Does nothing without an action.
     void updateAction();
@@ -67,18 +67,18 @@ protected:
     const char* group = "Standard";
     QKeySequence shortcut;
     int typeFlags = CommandType::none;
-    /// Whether the entry of the command has a check mark now. An entry without this function never has one.
+    /// Returns whether the entry of the command has a check mark now. An entry without this function never has one.
     std::function<bool()> isChecked;
 
 private:
     QPointer<QAction> m_action;
 };
 
-/// Stands in front of a command: calls `run` to run the command, or does not, and may ask the user before and tell
-/// the user a result afterwards.
+/// Runs in place of a command. It calls `run` to run the command, or does not call it. It may ask the user before and
+/// show a result afterwards.
 using CommandGuard = std::function<void(const std::function<void()>& run)>;
 
-/// A command, known by its name. The command manager owns it.
+/// A command, identified by its name. The command manager owns it.
 class GUI_EXPORT Command : public CommandBase
 {
 public:
@@ -89,15 +89,15 @@ public:
     QAction* new_action(QObject* parent) override;
 
     /// Ends all edits in progress (MainWindow::finishEditing), and then runs the command, through its guards, if it is
-    /// applicable. All that the command and its guards request is undone in one step. Nothing is thrown: an exception is
-    /// reported to the message log. Returns whether command and guards ran to their end; a guard that does not run the
-    /// command has done so.
+    /// applicable. All requests of the command and its guards are undone in one step. Throws nothing: an exception is
+    /// reported to the message log. Returns true if the command and its guards finished without an exception, also if a
+    /// guard did not run the command.
     bool invoke(int index = 0);
 
-    /// Puts a guard in front of the command. The guard that was added last is called first.
+    /// Adds a guard of the command. The guard that was added last is called first.
     void addGuard(CommandGuard guard) { m_guards.push_back(std::move(guard)); }
 
-    /// Returns a name that no object of the current project has or had; an empty text without a project.
+    /// Returns a name that no object of the current project has or had; an empty text if there is no project.
     static std::string get_unique_object_name(const char* stem);
     static QKeySequence get_shortcut_from_keys(QKeySequence::StandardKey key);
 

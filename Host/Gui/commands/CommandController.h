@@ -11,7 +11,7 @@
 
 namespace Gui {
 
-/// All commands of the program, those of the host and of modules, by their names. The controller owns them.
+/// All commands of the host and of modules, by their names. The controller owns them.
 class GUI_EXPORT CommandController
 {
 public:
@@ -20,21 +20,21 @@ public:
     CommandController& operator=(const CommandController&) = delete;
     ~CommandController();
 
-    /// Takes ownership of `command`; null is ignored. If another command has the name, that one stays and `command` is
+    /// Takes ownership of `command`; null is ignored. If the name is taken, keeps the earlier command, and `command` is
     /// destroyed.
     void new_command(Command* command);
 
-    /// Returns the command with this name, which the controller owns; null if there is none.
+    /// Returns the command with this name; null if there is none. The controller owns the command.
     Command* findCommand(std::string_view name) const;
     /// Runs a command as Command::invoke does. If there is no command with this name, reports that to the message log
     /// and returns false.
     bool runCommand(std::string_view name);
-    /// Puts a guard in front of a command, as Command::addGuard does. Returns false if there is no command with this name.
+    /// Adds a guard of a command, as Command::addGuard does. Returns false if there is no command with this name.
     bool addGuard(std::string_view name, CommandGuard guard);
     /// Returns all commands in the order of their registration.
     const std::vector<Command*>& getCommands() const { return m_order; }
 
-    /// Updates the actions of all commands: enables those that are applicable now, and sets the check marks.
+    /// Updates the actions of all commands: enables the applicable commands, and sets the check marks.
     void updateActions();
     /// Sets the texts of all actions in the language of the user.
     void on_language_changed();

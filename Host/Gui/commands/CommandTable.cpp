@@ -50,7 +50,7 @@ QAction* TableCommand::new_action(QObject* parent)
     QAction* const action = Command::new_action(parent);
     if (!m_fillMenu)
         return action;
-    // The menu belongs to the window to which the action belongs.
+    // The window of the action owns the menu.
     auto* const menu = new QMenu(qobject_cast<QWidget*>(parent));
     action->setMenu(menu);
     QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu] { refill(*menu); });

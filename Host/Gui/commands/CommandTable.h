@@ -14,7 +14,7 @@ namespace Gui {
 
 class CommandController;
 
-/// One command as a row of a table. Texts are English; they are translated where they are shown, in the context of the
+/// One command as a row of a table. Texts are English; menus and toolbars translate them in the context of the
 /// table. All strings must outlive the command, as literals do.
 struct CommandRow
 {
@@ -24,13 +24,13 @@ struct CommandRow
     const char* pixmap = ""; ///< name for the picture factory; empty for none
     QKeySequence shortcut = {};
     int typeFlags = CommandType::none;
-    std::function<void()> run = {};            ///< what the command does
-    std::function<bool()> isApplicable = {};   ///< whether it can be run now; always if empty
+    std::function<void()> run = {};            ///< carries out the command
+    std::function<bool()> isApplicable = {};   ///< whether the command is applicable now; always if empty
     std::function<bool()> isChecked = {};      ///< whether its entry has a check mark now; never if empty
     std::function<void(QMenu&)> fillMenu = {}; ///< makes the entries of a menu that opens beside the command's entry
 };
 
-/// Makes a command of each row and gives it to the controller. `context` is the translation context of the texts, and
+/// Makes a command from each row and adds it to the controller. `context` is the translation context of the texts, and
 /// the class name of the commands; it must outlive them.
 ///
 ///     addCommands(controller, "ProbeCommand",

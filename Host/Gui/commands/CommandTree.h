@@ -10,7 +10,7 @@
 
 namespace Gui {
 
-/// Whether a line separates a section of a menu or bar from the commands before it.
+/// Whether a line separates a section of a menu or toolbar from the commands before it.
 enum class SectionLine
 {
     Shown,
@@ -18,11 +18,11 @@ enum class SectionLine
 };
 
 /// A tree of command names, from which menus or toolbars are built. An item without children names a command, or, as
-/// "Separator", a line between commands. An item with children is a menu or a toolbar with the item's text as its title.
-/// An item owns its children.
+/// "Separator", a line between commands. An item with children is a menu or a toolbar with the item's text as its
+/// title. An item owns its children.
 ///
 /// The children of a menu or toolbar can be divided into named sections, so that modules can add commands at the end of
-/// one. The items of a section are those between its beginning and the next section or separator.
+/// of a section. The items of a section are those between its beginning and the next section or separator.
 template <typename Item>
 class CommandTree
 {
@@ -36,7 +36,7 @@ public:
     void setCommand(std::string text) { m_text = std::move(text); }
     const std::string& command() const { return m_text; }
     bool isSeparator() const { return m_text == separator; }
-    /// Whether the item names no command but begins a section.
+    /// Returns true if the item begins a section, false if it names a command.
     bool isSection() const { return !m_section.empty(); }
     const std::string& section() const { return m_section; }
 
@@ -82,7 +82,7 @@ public:
         return *this;
     }
 
-    /// Begins a section at the end: what is added next belongs to it.
+    /// Begins a section at the end: items that are added afterwards belong to it.
     void beginSection(std::string_view name, SectionLine line)
     {
         std::unique_ptr<Item> item = makeItem(line == SectionLine::Shown ? separator : "");
@@ -90,7 +90,7 @@ public:
         m_items.push_back(std::move(item));
     }
 
-    /// Adds a child at the end of a section. A section that does not exist is begun at the end, behind a line. Takes
+    /// Adds a child at the end of a section. If the section does not exist, begins it at the end, behind a line. Takes
     /// ownership of `item`; null is ignored.
     void addToSection(std::string_view name, Item* item)
     {

@@ -17,7 +17,7 @@ namespace Gui {
 
 namespace {
 
-/// The most objects that a question names.
+/// The maximum number of objects that a question names.
 constexpr int mostNames = 10;
 
 QString tr(const char* text)
@@ -32,7 +32,7 @@ bool needsSelected(const Obj::ProjectObject& object, const TreeSelectionSingleto
                        [&selection](const auto* other) { return selection.is_selected(other, nullptr); });
 }
 
-/// The labels, in quotes, of the objects that need a selected one and are not selected themselves.
+/// Returns the quoted labels of the objects that need a selected object and are not selected themselves.
 QStringList labelsOfNeedy(const TreeSelectionSingleton& selection)
 {
     QStringList labels;
@@ -66,7 +66,7 @@ bool mayDelete(const TreeSelectionSingleton& selection)
 
 void deleteEntry(vxMsg::MessageProxy& requests, const CSelectionType& entry)
 {
-    // The deletion of one object may have deleted another one, or closed the project.
+    // The deletion of one object may delete another object, or close the project.
     Obj::ProjectObject* const object = entry.get_object();
     if (object == nullptr)
         return;
@@ -106,7 +106,7 @@ void closeSelected(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& 
     for (const Obj::Project* const project : projectsToClose(selection))
         projectIds.push_back(project->getProjectId());
     for (const std::uint32_t projectId : projectIds) {
-        // The project may be closed while the user replies to a question about another one.
+        // The project may be closed while the user replies to a question about another project.
         const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
         if (project != nullptr && !requests.closeProject(project->get_name()))
             return;

@@ -33,7 +33,7 @@ Objects selectedIn(const TreeSelectionSingleton& selection)
     return selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
 }
 
-/// The next command applies to the new objects.
+/// Selects the new objects, so that the next command applies to them.
 void selectAlone(TreeSelectionSingleton& selection, const Objects& objects)
 {
     if (!objects.empty())
@@ -46,7 +46,7 @@ void paste(const ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
         selectAlone(selection, clipboard.paste(*project));
 }
 
-/// Listeners of one change may delete the next object.
+/// A listener of one change may delete the next object.
 void suppress(vxMsg::MessageProxy& requests, const TreeSelectionSingleton& selection, bool suppressed)
 {
     for (Obj::ProjectObject* const object : selectedIn(selection))
@@ -63,7 +63,7 @@ bool canSuppress(const TreeSelectionSingleton& selection, bool suppressed)
 
 void rename()
 {
-    // The label is edited in the tree.
+    // The tree edits the label.
     MainWindow& window = *MainWindow::get_main_window_inst();
     window.showProjectExplorer();
     window.getProjectExplorer().renameSelected();
@@ -89,21 +89,21 @@ void collect(vxMsg::MessageProxy& requests)
                                  .arg(QString::fromStdString(name)));
 }
 
-/// The undo stack of the document in which the user works; null if there is none.
+/// Returns the undo stack of the document in which the user works; null if there is none.
 QUndoStack* documentStack()
 {
     const MainWindow* const window = MainWindow::get_main_window_inst();
     return window != nullptr ? window->documentUndoStack() : nullptr;
 }
 
-/// The edits of a document that are not applied are the latest changes.
+/// The unapplied edits of a document are the latest changes.
 QUndoStack& stackToUndo(QUndoStack& history)
 {
     QUndoStack* const document = documentStack();
     return document != nullptr && document->canUndo() ? *document : history;
 }
 
-/// As long as a document has such edits, older changes are not made again underneath them.
+/// While a document has unapplied edits, older changes must not be redone.
 QUndoStack& stackToRedo(QUndoStack& history)
 {
     QUndoStack* const document = documentStack();

@@ -5,7 +5,7 @@ namespace Gui {
 class GuiApplication;
 class TreeSelectionSingleton;
 
-/// Gives the standard commands about projects and objects to the command manager of `application`: undo and redo, the
+/// Adds the standard commands for projects and objects to the command manager of `application`: undo and redo, the
 /// clipboard, suppression, labels, the hand-over to the solver. They act on `selection`, which must outlive them.
 void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& selection);
 

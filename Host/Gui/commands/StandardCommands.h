@@ -5,8 +5,8 @@ namespace Gui {
 class GuiApplication;
 class TreeSelectionSingleton;
 
-/// Gives the commands of the host, "Std_...", to the command manager of `application`. Those that act on a selection act
-/// on `selection`, which must outlive them.
+/// Adds the commands of the host, "Std_...", to the command manager of `application`. Commands for a selection act on
+/// `selection`, which must outlive them.
 void addStandardCommands(GuiApplication& application, TreeSelectionSingleton& selection);
 
 } // namespace Gui

@@ -36,8 +36,8 @@ void reportMissing(const QString& path)
         QCoreApplication::translate("Gui::PictureFactory", "The picture %1 is missing.").arg(path));
 }
 
-/// Returns a null image if there is no picture. Drawings are not read by the image reader, which would load the plug-ins
-/// of all other formats first.
+/// Returns a null image if there is no picture. Does not read drawings with the image reader, which would load the
+/// plug-ins of all other formats first.
 QImage read(const QString& path, const QSize& size)
 {
     if (!QFileInfo::exists(path))
@@ -66,7 +66,7 @@ QPixmap makePlaceholder(int size)
     return pixmap;
 }
 
-/// An icon that is drawn when it is first seen, at the size at which it is seen. With Qt's own icon for drawings, which
+/// An icon that is drawn on first display, at the displayed size. With Qt's own icon for drawings, which
 /// loads a plug-in, the start is 4 % longer (gui_bench).
 class DrawnIcon final : public QIconEngine
 {

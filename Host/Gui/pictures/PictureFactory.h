@@ -11,8 +11,8 @@ namespace Gui {
 class GUI_EXPORT PictureFactory
 {
 public:
-    /// Returns the picture at a resource path, or, for a bare name, that of ":icons/<name>.svg", sharp at `size` by `size`
-    /// pixels. If there is none, returns a plain grey square, so that the layout stays as it is, and reports it once.
+    /// Returns the picture at a resource path, or, for a bare name, ":icons/<name>.svg", sharp at `size` by `size`
+    /// pixels. If there is none, returns a plain grey square, which keeps the layout unchanged, and reports it once.
     static QPixmap get_pixmap(const QString& nameOrPath, int size = 32);
     static QPixmap get_pixmap(const char* nameOrPath) { return get_pixmap(QString::fromUtf8(nameOrPath)); }
 

@@ -31,7 +31,7 @@ QString shownReference(const Obj::PropertyReference& property)
     return object != nullptr ? labelOf(*object) : PropertyDelegate::tr("None");
 }
 
-/// The objects to which a reference can refer: all of the project, except the one that has the property.
+/// Returns the objects to which a reference can refer: all objects of the project except the owner of the property.
 std::vector<const Obj::ProjectObject*> targetsOf(const Obj::PropertyReference& property)
 {
     const auto* const owner = dynamic_cast<const Obj::ProjectObject*>(property.getOwner());
@@ -45,7 +45,7 @@ std::vector<const Obj::ProjectObject*> targetsOf(const Obj::PropertyReference& p
     return targets;
 }
 
-/// A line that takes real numbers alone, with a decimal point in every locale.
+/// A line edit that accepts only real numbers, with a decimal point in every locale.
 QLineEdit* makeNumberLine(QWidget* parent)
 {
     auto* const line = new QLineEdit(parent);
@@ -105,7 +105,7 @@ QString PropertyDelegate::shownText(const Obj::Property& property)
     return QString::fromStdString(property.toText());
 }
 
-/// A list whose choice is taken over at once.
+/// A list that applies a choice at once.
 QComboBox* PropertyDelegate::makeList(QWidget* parent) const
 {
     auto* const list = new QComboBox(parent);

@@ -15,17 +15,17 @@ class PropertyReference;
 namespace Gui {
 
 /// Makes the editors of the property panel, each for the type of its property: a list to choose from for choices and
-/// references, a line that takes numbers for real numbers, and a line for every other text. Values are exchanged as the
+/// references, a number field for real numbers, and a text field for all other types. Values are exchanged as the
 /// texts of Obj::Property.
 class PropertyDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    /// The role under which the rows keep the text of the value. What they show may be another text.
+    /// The role under which the rows keep the text of the value. The displayed text may differ.
     static constexpr int valueRole = Qt::UserRole;
 
-    /// `propertyAt` returns the property whose value a cell shows; null if the cell shows none.
+    /// `propertyAt` returns the property whose value a cell shows; null if the cell shows no value.
     using PropertyAt = std::function<const Obj::Property*(const QModelIndex&)>;
     explicit PropertyDelegate(PropertyAt propertyAt, QObject* parent = nullptr);
     ~PropertyDelegate() override;
@@ -34,7 +34,7 @@ public:
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
-    /// The value of a property as the user reads it.
+    /// Returns the value of a property as the user reads it.
     static QString shownText(const Obj::Property& property);
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int valueColumn = 1;
 
-// What the first column keeps beside the texts.
+// Data that the first column keeps beside the texts.
 constexpr int ownerRole = Qt::UserRole + 1; ///< index of the owner
 constexpr int nameRole = Qt::UserRole + 2;  ///< the property's own name
 
@@ -26,7 +26,7 @@ QString translatedProperty(const char* text)
     return *text != '\0' ? QCoreApplication::translate("Property", text) : QString();
 }
 
-/// The colour that a property holds, for a swatch beside its text; an invalid one for other properties.
+/// Returns the colour that a property holds, for a swatch beside its text; an invalid colour for other properties.
 QColor swatchOf(const Obj::Property& property)
 {
     const auto* const color = dynamic_cast<const Obj::PropertyColor*>(&property);
@@ -102,11 +102,11 @@ void PropertyPanel::changeEvent(QEvent* event)
 void PropertyPanel::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
     QTreeWidget::closeEditor(editor, hint);
-    // What has changed meanwhile is not shown yet.
+    // Later changes are not shown yet.
     m_refresh.start(0);
 }
 
-/// Not while the user edits a value of what is selected: the editor would be closed.
+/// Does nothing while the user edits a value of the selected entry, because an update would close the editor.
 void PropertyPanel::refresh()
 {
     if (state() != EditingState || owners() != m_shown)
@@ -188,7 +188,7 @@ QTreeWidgetItem* PropertyPanel::makeItem(const Obj::PropertyDS& owner, const Obj
     return item;
 }
 
-/// A yes or no is a check box, which needs no editor.
+/// A boolean value has a check box, which needs no editor.
 void PropertyPanel::showValue(QTreeWidgetItem& item, const Obj::Property& property, bool isReadOnly) const
 {
     item.setData(valueColumn, PropertyDelegate::valueRole, QString::fromStdString(property.toText()));
@@ -234,7 +234,7 @@ void PropertyPanel::takeOverEdit(QTreeWidgetItem* item, int column)
                                 : item->data(column, PropertyDelegate::valueRole).toString();
     m_application.requests().setProperty(*placeOf(index), item->data(0, nameRole).toString().toStdString(),
                                          text.toStdString());
-    // Shows what the property holds now, once the item is no longer being edited.
+    // Shows the present value of the property when the item is no longer being edited.
     m_refresh.start(0);
 }
 

@@ -21,22 +21,22 @@ namespace Gui {
 class GuiApplication;
 class TreeSelectionSingleton;
 
-/// The properties of what is selected in the project tree, by group: those of the project or object and those of its
-/// node. They are edited in place, undoably, each in an editor for its type. A value that is being edited stays as typed
-/// while the rest changes; it is kept if something else is selected. If several entries are selected, the panel
-/// says how many.
+/// The properties of the selected entry of the project tree, by group: those of the project or object and those of its
+/// node. The user edits them in place, undoably, with an editor for each type. A value that is being edited is not
+/// overwritten by other changes; it is kept if another entry is selected. If several entries are selected, the panel
+/// shows their number.
 class GUI_EXPORT PropertyPanel : public QTreeWidget
 {
     Q_OBJECT
 
 public:
-    /// Shows the selection. Nodes come from `application`, which carries out the edits too; both must outlive the panel.
+    /// Shows the selection. `application` provides the nodes and carries out the edits. Both must outlive the panel.
     PropertyPanel(GuiApplication& application, TreeSelectionSingleton& selection, QWidget* parent = nullptr);
     ~PropertyPanel() override;
 
-    /// Shows at once what is selected now. A value that is being edited is kept.
+    /// Shows the present selection at once. A value that is being edited is kept.
     void showSelection();
-    /// Ends the editing of a value, and keeps what was typed or chosen.
+    /// Ends the editing of a value, and keeps the typed or chosen value.
     void finishEditing();
 
 protected:
@@ -46,7 +46,7 @@ protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
-    /// The selected project or object, and its node; null where there is none.
+    /// The selected project or object, and its node; null if there is none.
     using Owners = std::array<Obj::PropertyDS*, 2>;
     enum OwnerIndex
     {
@@ -59,7 +59,7 @@ private:
     void retranslate();
     Owners owners() const;
     const Obj::Property* propertyAt(const QModelIndex& index) const;
-    /// The place of the owner of a row that shows a property.
+    /// Returns the place of the owner of a row that shows a property.
     const std::optional<vxMsg::PropertyPlace>& placeOf(const QModelIndex& index) const;
     void showCount(std::size_t count);
     void addProperties(OwnerIndex ownerIndex, const Obj::PropertyDS& owner);
@@ -75,7 +75,7 @@ private:
     bool m_filling = false;
     QPersistentModelIndex m_edited;
     Owners m_shown = {};
-    std::array<std::optional<vxMsg::PropertyPlace>, 2> m_places; ///< where those shown are found again
+    std::array<std::optional<vxMsg::PropertyPlace>, 2> m_places; ///< places of the shown property sets
     std::vector<boost::signals2::scoped_connection> m_connections;
 };
 

@@ -120,7 +120,7 @@ void ProjectExplorer::configure()
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
-    // What is selected is renamed, not the current row.
+    // Renames the selected object, which may differ from the current row.
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setExpandsOnDoubleClick(false);
     const auto expandParent = [this](const QModelIndex& parent) {
@@ -161,7 +161,7 @@ void ProjectExplorer::showSelection()
     if (m_selecting)
         return;
     m_selecting = true;
-    // What was removed is not selected any more.
+    // Removed entries are no longer selected.
     m_model.synchronize();
     const std::vector<Obj::Project*> projects = m_selection.get_projects();
     const auto objects = m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
@@ -176,7 +176,7 @@ void ProjectExplorer::showSelection()
     m_selecting = false;
 }
 
-/// A node that has a selection of its own cannot be selected here.
+/// A node that has its own selection cannot be selected here.
 QModelIndex ProjectExplorer::rowForKeys() const
 {
     const QModelIndex current = currentIndex();
@@ -186,14 +186,14 @@ QModelIndex ProjectExplorer::rowForKeys() const
     return selectionModel()->selectedIndexes().value(0);
 }
 
-/// Makes one of the selected rows the current one, from which the arrow keys move on.
+/// Makes one of the selected rows the current row, from which the arrow keys move.
 void ProjectExplorer::makeRowCurrent(const QModelIndexList& selected)
 {
     if (!selected.isEmpty() && !selected.contains(currentIndex()))
         selectionModel()->setCurrentIndex(selected.first(), QItemSelectionModel::NoUpdate);
 }
 
-/// The next command of the user applies to the project in which something is selected.
+/// The next command of the user applies to the project that contains the selection.
 void ProjectExplorer::makeCurrent(const std::vector<Obj::Project*>& projects,
                                   const std::vector<Obj::ProjectObject*>& objects)
 {
@@ -252,7 +252,7 @@ void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
         menu.exec(position);
 }
 
-/// What the node offers itself, and the ways in which it can be displayed if there are several.
+/// Adds the actions of the node itself, and its display modes if there are several.
 void ProjectExplorer::addNodeEntries(ViewFeeder& node, QMenu& menu)
 {
     node.build_context_menu(&menu, this, SLOT(editFromMenu()));
@@ -276,7 +276,7 @@ void ProjectExplorer::display(const std::string& mode)
     if (node == nullptr)
         return;
     node->setDisplayMode(mode.c_str());
-    // The mode may decide whether the node is shown, and with which picture.
+    // The mode may change the visibility and the picture of the node.
     m_model.synchronize();
     viewport()->update();
 }

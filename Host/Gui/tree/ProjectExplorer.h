@@ -16,14 +16,14 @@ class MainWindow;
 class TreeSelectionSingleton;
 class ViewFeeder;
 
-/// The project tree: selects, renames, opens by a double click, and offers what each node does in its context menu. Keys
-/// act on what is selected: Return and the menu key on the current row if it is selected, else on the first that is.
+/// The project tree: selects and renames objects, opens them by a double click, and shows the context menu of a node.
+/// Return and the menu key act on the current row if it is selected, else on the first selected row.
 class GUI_EXPORT ProjectExplorer : public QTreeView
 {
     Q_OBJECT
 
 public:
-    /// Shows the projects of `application` and the selection, and takes menus and editors from `window`; all three must
+    /// Shows the projects of `application` and the selection. `window` provides menus and editors. All three must
     /// outlive it.
     ProjectExplorer(MainWindow& window, GuiApplication& application, TreeSelectionSingleton& selection,
                     QWidget* parent = nullptr);
@@ -33,7 +33,7 @@ public:
     bool renameSelected();
     /// Selects all objects of the current project.
     void selectAllObjects();
-    /// Ends the editing of a label, and keeps what was typed.
+    /// Ends the editing of a label, and keeps the typed text.
     void finishEditing();
 
 protected:
@@ -45,7 +45,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
-    /// The user has chosen an entry of a node's own menu; its data is the edit mode.
+    /// Carries out an entry that the user chose in the node's own menu. The entry's data is the edit mode.
     void editFromMenu();
 
 private:

@@ -41,13 +41,13 @@ constexpr std::uint32_t objectIdOf(Key key)
     return static_cast<std::uint32_t>(key);
 }
 
-/// The id under which the parent of a node lists it.
+/// Returns the id under which the parent of a node lists it.
 constexpr std::uint32_t idInParent(Key key)
 {
     return objectIdOf(key) != 0 ? objectIdOf(key) : projectIdOf(key);
 }
 
-/// The node that `parent` lists under `id`.
+/// Returns the node that `parent` lists under `id`.
 constexpr Key childOf(Key parent, std::uint32_t id)
 {
     return parent == root ? keyOf(id, 0) : keyOf(projectIdOf(parent), id);
@@ -70,7 +70,7 @@ QColor dotOf(const Obj::ProjectObject& object)
     return object.getObjectState() == Obj::eVXObjectState::Ready ? QColor(0x2e, 0x9e, 0x4f) : QColor(0xe0, 0x8a, 0x1e);
 }
 
-/// Null if the class of the object or project is registered.
+/// Returns null if the class of the object or project is registered.
 const Obj::Placeholder* placeholderOf(const Kelta::RootClass& thing)
 {
     return dynamic_cast<const Obj::Placeholder*>(&thing);
@@ -108,7 +108,7 @@ QVariant fontOf(const Obj::ProjectObject& object)
     return font;
 }
 
-/// Grey, or the usual colour.
+/// Returns grey, or the usual colour.
 QVariant textColour(bool isGrey)
 {
     return isGrey ? QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text) : QVariant();
@@ -244,7 +244,7 @@ void ProjectTreeModel::objectChanged(Obj::ProjectObject& object)
     const QModelIndex index = indexOf(object);
     if (index.isValid())
         Q_EMIT dataChanged(index, index);
-    // It may have been put into a group, or be shown or hidden now; a group takes its members with it.
+    // The object may have entered a group, or changed its visibility. A group takes its members with it.
     if (index.isValid() != isShown(object) || objectAt(index.parent()) != object.getParentGroup())
         m_synchronization.start(0);
 }
@@ -264,8 +264,8 @@ void ProjectTreeModel::synchronizeProjects()
     addMissing(root, wanted);
 }
 
-/// Nodes are moved before others are removed, so that nothing that stays loses its selection. A parent is at its place
-/// before its children are moved there, so that no node is moved under itself.
+/// Moves nodes before it removes others, so that remaining nodes stay selected. Moves a parent to its place
+/// before its children, so that no node is moved under itself.
 void ProjectTreeModel::synchronizeObjects(const Obj::Project& project)
 {
     const std::uint32_t id = project.getProjectId();
@@ -308,7 +308,7 @@ void ProjectTreeModel::removeSurplus(Key parent, const Ids& wanted)
 {
     const auto isWanted = [&wanted](std::uint32_t id) { return std::binary_search(wanted.begin(), wanted.end(), id); };
     const Ids& present = childrenOf(parent);
-    // From the end, so that the rows in front keep their numbers.
+    // From the end, so that the rows before keep their numbers.
     for (std::size_t end = present.size(); end > 0;) {
         std::size_t first = end;
         while (first > 0 && !isWanted(present[first - 1]))

@@ -23,25 +23,25 @@ class GuiApplication;
 class NodeIcons;
 class TreeShape;
 
-/// Projects and their objects as a tree. Members of a group are under the group; an object whose node says that it is not
-/// shown has no row.
+/// Projects and their objects as a tree. Members of a group are under the group. An object has no row if its node is
+/// hidden.
 ///
-/// The model keeps ids instead of objects, and takes over what was added and removed when the event loop is next idle:
-/// thousands of changes in one command become a few blocks of rows, and a row whose object was removed meanwhile shows
+/// The model keeps ids instead of objects, and processes additions and removals when the event loop is next idle.
+/// Thousands of changes in one command become a few blocks of rows. A row whose object was removed meanwhile shows
 /// nothing.
 class GUI_EXPORT ProjectTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
 public:
-    /// Nodes come from `application`, which must outlive the model.
+    /// `application` provides the nodes and must outlive the model.
     explicit ProjectTreeModel(GuiApplication& application, QObject* parent = nullptr);
     ~ProjectTreeModel() override;
 
-    /// The project or the object that a row shows; null if the row shows the other kind, or if what it shows was removed.
+    /// Returns the project or the object of a row; null if the row shows the other kind, or if the entry was removed.
     Obj::Project* projectAt(const QModelIndex& index) const;
     Obj::ProjectObject* objectAt(const QModelIndex& index) const;
-    /// The row of a project or object; an invalid index if the tree has no row for it, or not yet.
+    /// Returns the row of a project or object; an invalid index if the tree does not have a row for it yet.
     QModelIndex indexOf(const Obj::Project& project) const;
     QModelIndex indexOf(const Obj::ProjectObject& object) const;
 
@@ -52,21 +52,21 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     /// Gives an object a new label, undoably.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-    /// A node that has a selection of its own is not selected by the tree.
+    /// The tree does not select a node that has its own selection.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// Takes over at once what has changed.
+    /// Applies all pending changes at once.
     void synchronize();
 
 private:
-    /// The ids of a project and of one of its objects, 0 for the project itself, in one number. The key of all projects
-    /// together, which no row has, is 0.
+    /// The ids of a project and of one of its objects, 0 for the project itself, in one number. The key 0 is the root,
+    /// the parent of all projects, which has no row.
     using Key = quintptr;
     using Ids = std::vector<std::uint32_t>;
     struct Node
     {
         Key parent = 0;
-        Ids children; ///< in ascending order; those of the root are projects
+        Ids children; ///< in ascending order; the children of the root are projects
     };
 
     void watch(Obj::Project& project);

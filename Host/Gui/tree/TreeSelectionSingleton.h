@@ -18,17 +18,17 @@ class ProjectObject;
 
 namespace Gui {
 
-/// One selected object, kept by its names: the object may be deleted while the entry lives.
+/// One selected object, stored by names: the object may be deleted while the entry lives.
 class GUI_EXPORT CSelectionType
 {
 public:
     explicit CSelectionType(const Obj::ProjectObject& object);
 
-    /// The object; null if it was deleted.
+    /// Returns the object; null if it was deleted.
     Obj::ProjectObject* get_object() const;
     const std::string& getProjectName() const { return m_projectName; }
     const std::string& getObjectName() const { return m_objectName; }
-    /// The selected parts of the object; none if it is selected as a whole, as in the tree.
+    /// Returns the selected parts of the object; none if it is selected as a whole, as in the tree.
     const std::vector<std::string>& getSubelementNames() const { return m_subElements; }
 
 private:
@@ -37,7 +37,7 @@ private:
     std::vector<std::string> m_subElements;
 };
 
-/// What is selected in the project tree: projects and objects. What is deleted or closed is no longer selected.
+/// The selection of the project tree: projects and objects. Deleted objects and closed projects are not selected.
 class GUI_EXPORT TreeSelectionSingleton final : public QObject
 {
     Q_OBJECT
@@ -46,10 +46,10 @@ public:
     static TreeSelectionSingleton& instance();
     ~TreeSelectionSingleton() override;
 
-    /// The selected projects with this document tag, in the order of the application.
+    /// Returns the selected projects with this document tag, in the order of the application.
     std::vector<Obj::Project*> get_projects(std::uint32_t tag) const;
     std::vector<Obj::Project*> get_projects() const;
-    /// The selected objects of this type in a project, in its order; of all projects for a null or empty name.
+    /// Returns the selected objects of this type in a project, in its order; of all projects for a null or empty name.
     std::vector<Obj::ProjectObject*> get_objects_of_type(Kelta::TypeInfo type, const char* projectName = nullptr) const;
     std::vector<CSelectionType> get_selection2(const char* projectName, Kelta::TypeInfo type) const;
     /// Returns whether a part of the object is selected, or, if `subElement` is null, the object as a whole.
@@ -64,8 +64,8 @@ public:
     /// Replaces the whole selection, and sends selectionChanged once.
     void setSelection(const std::vector<Obj::Project*>& projects, const std::vector<Obj::ProjectObject*>& objects);
     void clear();
-    /// Removes a project or object that was closed or deleted. The signal is sent when the event loop is next idle, once
-    /// for all that were removed.
+    /// Removes a closed project or a deleted object. The signal is sent when the event loop is next idle, once for all
+    /// removals.
     void forget(const Obj::Project& project);
     void forget(const Obj::ProjectObject& object);
 

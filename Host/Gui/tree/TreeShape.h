@@ -12,7 +12,7 @@ class ProjectObject;
 
 namespace Gui {
 
-/// Which objects of a project have a node in the tree, and under which node each is shown: the ids of the children of
+/// The objects of a project that have a node in the tree, and the parent node of each: the ids of the children of
 /// each node, in ascending order. The id 0 is the node of the project itself.
 class TreeShape
 {
@@ -21,9 +21,9 @@ public:
     /// members are shown as if they were in no group.
     TreeShape(const Obj::Project& project, const std::function<bool(Obj::ProjectObject&)>& isShown);
 
-    /// The children of a node; none if the tree does not have it.
+    /// Returns the children of a node; none if the tree does not have it.
     const std::vector<std::uint32_t>& childrenOf(std::uint32_t objectId) const;
-    /// The project's node and all others that have children, each after the node under which it is shown.
+    /// Returns the project's node and all other nodes with children, each after its parent.
     std::vector<std::uint32_t> parentsFromTop() const;
 
 private:

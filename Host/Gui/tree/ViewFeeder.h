@@ -18,9 +18,9 @@ class ProjectObject;
 
 namespace Gui {
 
-/// A node of the project tree: how a project or an object is shown, and what the user can do with it there. A node is
-/// created by the registered class name that its project or object gives (get_viewfeeder_name), and attached to that. Its
-/// properties say how it is shown; the property panel shows them too.
+/// A node of the project tree: the appearance of a project or an object, and the user's actions on it. A node is
+/// created by the registered class name that its project or object returns (get_viewfeeder_name), and attached to it.
+/// Its properties describe its appearance; the property panel shows them too.
 class GUI_EXPORT ViewFeeder : public Obj::PropertyDS
 {
     OBJ_ABSTRACT_CLASS;
@@ -29,23 +29,23 @@ public:
     ViewFeeder();
     ~ViewFeeder() override;
 
-    /// Returns whether the node is selected by a view of its own. The tree then does not select it; a command acts on it
+    /// Returns whether a view has its own selection of the node. The tree then does not select it; a command acts on it
     /// only if that view puts it into the selection.
     virtual bool useNewSelectionModel() const;
-    /// Called before the user's deletion, with the names of the selected parts. If it returns false, what the node shows
-    /// is kept.
+    /// Called before the user's deletion, with the names of the selected parts. If it returns false, the project or
+    /// object is kept.
     virtual bool onDelete(const std::vector<std::string>& subElements);
-    /// A property of what the node shows has changed.
+    /// Called after a property of the project or object has changed.
     virtual void updateData(const Obj::Property* changed);
-    /// Sets one of the display modes; a null pointer sets none.
+    /// Sets a display mode; a null pointer sets none.
     virtual void setDisplayMode(const char* mode);
-    /// Returns the ways in which the node can be displayed. If there are several, its context menu offers them, translated
+    /// Returns the display modes of the node. If there are several, its context menu offers them, translated
     /// in the context "DisplayMode".
     virtual std::vector<std::string> getDisplayModes() const;
     /// Returns whether the tree has a row for the node. The tree asks again after each change of the object.
     virtual bool isShow() const;
-    /// Begins editing in the given mode; 0 is the usual one. Called with the data of the actions that the node adds to its
-    /// context menu. The result is for the caller: whether the node is in editing from now on.
+    /// Begins editing in the given mode; 0 is the usual mode. Called with the data of the actions that the node adds to
+    /// its context menu. Returns whether the node is in editing afterwards.
     virtual bool setEdit(int mode);
     /// Called when the user double-clicks the node or presses Return. If it returns false, the editor that the object
     /// names (Obj::ProjectObject::getCoreEditor) is opened.
@@ -55,7 +55,7 @@ public:
     /// Adds further actions to the context menu. They call `slot` of `receiver`, and carry the edit mode as their data.
     virtual void build_context_menu(QMenu* menu, QObject* receiver, const char* slot);
 
-    /// The name of the node's picture for the picture factory.
+    /// Returns the name of the node's picture for the picture factory.
     const char* getPixmapName() const { return pixmapName; }
     const std::string& getDisplayMode() const { return m_displayMode; }
 
@@ -76,11 +76,11 @@ public:
     ~ViewFeederProject() override;
 
     void attach(Obj::Project& project) { m_project = &project; }
-    /// The project that the node shows; null before it is attached.
+    /// Returns the project of the node; null before it is attached.
     Obj::Project* getProject() const { return m_project; }
 
 protected:
-    /// Tells the listeners of the project that it is shown in another way.
+    /// Tells the listeners of the project that its appearance has changed.
     void on_changed(const Obj::Property* property) override;
 
 private:
@@ -97,11 +97,11 @@ public:
     ~ViewFeederProjectObject() override;
 
     void attach(Obj::ProjectObject& object) { m_object = &object; }
-    /// The object that the node shows; null before it is attached.
+    /// Returns the object of the node; null before it is attached.
     Obj::ProjectObject* getObject() const { return m_object; }
 
 protected:
-    /// Tells the listeners of the project that the object is shown in another way.
+    /// Tells the listeners of the project that the appearance of the object has changed.
     void on_changed(const Obj::Property* property) override;
 
 private:

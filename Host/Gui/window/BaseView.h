@@ -14,23 +14,23 @@ namespace Gui {
 
 class GuiProject;
 
-/// A view of something in a project. Derived classes override what they support; by default every operation does nothing
-/// and returns nothing.
+/// A view of something in a project. Derived classes override the operations that they support. By default every
+/// operation does nothing and returns nothing.
 class GUI_EXPORT BaseView : public Kelta::RootClass
 {
     KELTA_ABSTRACT_CLASS;
 
 public:
-    /// A view of `project`; null if it belongs to no project.
+    /// Makes a view of `project`; null if it belongs to no project.
     explicit BaseView(GuiProject* project);
     ~BaseView() override;
 
-    /// The project of the view; null if it has none, or if the project has been closed.
+    /// Returns the project of the view; null if it has none, or if the project has been closed.
     GuiProject* getGuiProject() const;
 
-    /// The name of the kind of view.
+    /// Returns the name of the kind of view.
     virtual const char* getName() const;
-    /// Shows all that there is to see.
+    /// Fits the whole content into the view.
     virtual void viewAll();
     /// Returns whether message_handler carries out messages with this name.
     virtual bool has_message_handler(const char* message) const;
@@ -41,11 +41,11 @@ public:
     virtual QModelIndexList selectedIndexes() const;
     virtual void resizeColumn(int column, int width);
     virtual void resizeRow(int row, int height);
-    /// A property of what the view shows has changed.
+    /// Called after a property of the view's content has changed.
     virtual void updateCell(const Obj::Property* property);
 
 protected:
-    /// Makes the view, which belongs to no project yet, one of `project`.
+    /// Assigns the view, which belongs to no project yet, to `project`.
     void attach(GuiProject& project);
 
 private:

@@ -13,7 +13,7 @@ namespace Gui {
 
 namespace {
 
-/// Null, with the reason in the message log, if there is no such window.
+/// Returns null, with the reason in the message log, if there is no such window.
 MDIWindow* makeEditor(MainWindow& mainWindow, GuiProject& project, Obj::ProjectObject& object, const char* className)
 {
     std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::createByName(className);

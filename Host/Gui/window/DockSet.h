@@ -19,22 +19,22 @@ class DockSet
 public:
     explicit DockSet(QMainWindow& window) : m_window(window) {}
 
-    /// Makes a dock, at the place that it has in the layout of the user. If its content cannot be made, there is no dock,
+    /// Makes a dock at its place in the layout of the user. If its content cannot be made, there is no dock,
     /// and the reason is reported to the message log.
     void add(const DockEntry& entry);
-    /// Makes the docks of modules that do not exist yet, each with a command that shows and hides it.
+    /// Makes the missing docks of modules, each with a command that shows and hides it.
     void addContributed(const Contributions& contributions, CommandController& commands);
 
-    /// The dock with this object name; null if there is none.
+    /// Returns the dock with this object name; null if there is none.
     QDockWidget* find(const std::string& name) const;
-    /// Shows a dock, in front of docks with which it shares its place. Does nothing if there is no such dock.
+    /// Shows a dock, in front of docks at the same place. Does nothing if there is no such dock.
     void show(const std::string& name) const;
-    /// Shows a hidden dock, or hides a shown one. Does nothing if there is no such dock.
+    /// Shows a hidden dock, or hides a visible dock. Does nothing if there is no such dock.
     void toggle(const std::string& name) const;
     /// Sets all titles in the language of the user.
     void retranslate() const;
 
-    /// The name of the command that shows and hides a dock of a module.
+    /// Returns the name of the command that shows and hides a dock of a module.
     static std::string commandOf(const std::string& dockName) { return "Dock_" + dockName; }
 
 private:

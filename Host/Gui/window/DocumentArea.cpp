@@ -10,7 +10,7 @@ namespace Gui {
 
 namespace {
 
-/// A window that was closed stays among the others until the event loop destroys it.
+/// Returns true for a closed window, which exists until the event loop destroys it.
 bool isClosed(const MDIWindow& window)
 {
     return window.isHidden() && window.testAttribute(Qt::WA_WState_ExplicitShowHide);
@@ -21,7 +21,7 @@ MDIWindow* windowIn(const QMdiSubWindow* frame)
     return frame != nullptr ? qobject_cast<MDIWindow*>(frame->widget()) : nullptr;
 }
 
-/// The menu of a frame has the key of the command that closes a document. A key with two owners does nothing.
+/// The menu of a frame has the same key as the command that closes a document. A key with two owners does nothing.
 void removeShortcuts(const QMdiSubWindow& frame)
 {
     for (QAction* const action : frame.systemMenu()->actions())
@@ -63,7 +63,7 @@ void DocumentArea::remove(const MDIWindow* window)
 
 void DocumentArea::removeAll()
 {
-    // One that was closed is no longer in the list, but exists until the event loop destroys it.
+    // A closed window is no longer in the list, but exists until the event loop destroys it.
     qDeleteAll(viewport()->findChildren<QMdiSubWindow*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -117,7 +117,7 @@ QMdiSubWindow* DocumentArea::frontFrame() const
 {
     if (QMdiSubWindow* const current = currentSubWindow())
         return current;
-    // None is current before the main window has been shown.
+    // No window is current before the main window has been shown.
     const QList<QMdiSubWindow*> frames = subWindowList(QMdiArea::ActivationHistoryOrder);
     return frames.isEmpty() ? nullptr : frames.last();
 }

@@ -17,18 +17,18 @@ public:
 
     /// Shows a document window and takes ownership of it: it is destroyed when the user closes it.
     void add(MDIWindow* window);
-    /// Destroys a document window without asking. Does nothing if `window` is not one of them.
+    /// Destroys a document window without asking. Does nothing if `window` is not a document window.
     void remove(const MDIWindow* window);
     /// Destroys all document windows without asking.
     void removeAll();
-    /// Brings a document window to the front and gives it the keyboard.
+    /// Brings a document window to the front and gives it the keyboard focus.
     void activate(MDIWindow* window);
 
-    /// The document window in front; null if there is none.
+    /// Returns the document window in front; null if there is none.
     MDIWindow* activeWindow() const;
-    /// All document windows, in the order in which they were added.
+    /// Returns all document windows, in the order in which they were added.
     QList<MDIWindow*> windows() const;
-    /// Closes the document window in front, as the user does.
+    /// Closes the document window in front, as if the user closed it.
     void closeActive();
 
     void tile();
@@ -36,9 +36,9 @@ public:
     void showAsTabs();
 
 Q_SIGNALS:
-    /// A document window has come to the front. Null if the last one was closed.
+    /// Sent after a document window has come to the front. Null if the last window was closed.
     void windowActivated(Gui::MDIWindow* window);
-    /// A document window was destroyed.
+    /// Sent after a document window was destroyed.
     void windowDestroyed();
 
 private:

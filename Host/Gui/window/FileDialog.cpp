@@ -31,7 +31,7 @@ QString remembered(const QString& path)
     return path;
 }
 
-/// Returns the ending "json" of a filter "JSON file(*.json)"; an empty text if the filter has none or allows any.
+/// Returns the ending "json" of a filter "JSON file(*.json)"; an empty text if the filter has no ending or allows any.
 QString endingOf(const QString& filter)
 {
     static const QRegularExpression ending(QStringLiteral("\\(\\*\\.(\\w+)\\)"));

@@ -7,17 +7,17 @@
 
 namespace Gui {
 
-/// Asks the user for files. The folder last used is kept in the settings.
+/// Asks the user for files. The settings store the last folder.
 class GUI_EXPORT FileDialog
 {
 public:
-    /// Returns the path that the user chose; an empty text if the user cancelled. An empty `folder` means the folder last
-    /// used.
+    /// Returns the path that the user chose; an empty text if the user cancelled. An empty `folder` means the last
+    /// folder.
     static QString getOpenFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});
-    /// Likewise for a file to write. Asks before an existing file is replaced. A name without an ending gets the ending of
-    /// the filter.
+    /// As above, for a file to write. Asks before an existing file is replaced. Adds the ending of the filter to a name
+    /// without an ending.
     static QString getSaveFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});

@@ -15,17 +15,17 @@ class ProjectObject;
 
 namespace Gui {
 
-/// A reason against applying the edits of a window.
+/// A reason to refuse the edits of a window.
 struct ApplyRefusal
 {
     QString reason; ///< a translated sentence for the user; empty if there is no reason
-    int row = -1;   ///< the row of the window's table that the user must change, from 0; -1 for none
+    int row = -1;   ///< the row of the window's table that the user must change, from 0; -1 if there is no row
 };
 
 /// A document window of the main window.
 ///
 /// A window in which the user edits an object, and applies the edits by a command of the window, is modified
-/// (QWidget::isWindowModified) as long as it has edits that are not applied. It overrides finishEditing,
+/// (QWidget::isWindowModified) while it has unapplied edits. Such a window overrides finishEditing,
 /// getUndoStack and applyEdits, and emits applying and applied.
 class GUI_EXPORT MDIWindow : public QMainWindow, public BaseView
 {
@@ -40,40 +40,40 @@ public:
     /// Takes the window out of the main window and destroys it.
     void remove_viewself() override;
 
-    /// The object that the user edits in the window; null if there is none. The window sets it, and must not outlive the
-    /// object.
+    /// Returns the object that the user edits in the window; null if there is none. The window sets it, and must not
+    /// outlive the object.
     Obj::ProjectObject* getEditedObject() const { return m_editedObject; }
     void setEditedObject(Obj::ProjectObject* object) { m_editedObject = object; }
 
-    /// Makes the window the editor of an object, whose label becomes its title. Called once, before the window is shown,
-    /// if the object names the class of the window as its editor (Obj::ProjectObject::getCoreEditor); such a class must be
-    /// creatable without a project. The window is closed when the object leaves its project. Derived classes override
-    /// it to show the object, and call it first.
+    /// Makes the window the editor of an object, whose label becomes its title. Called once, before the window is
+    /// shown, if the object names the class of the window as its editor (Obj::ProjectObject::getCoreEditor); such a
+    /// class must be creatable without a project. The window is closed when the object leaves its project. Derived
+    /// classes override it to show the object, and call it first.
     virtual void editObject(GuiProject& project, Obj::ProjectObject& object);
 
-    /// Ends an edit in progress, such as text that the user is typing into a cell, and keeps its result. The host calls it
-    /// before it runs a command, before the window closes and before the program ends. Does nothing here.
+    /// Ends an edit in progress, such as text that the user is typing into a cell, and keeps its result. The host calls
+    /// it before it runs a command, before the window closes and before the program ends. Does nothing here.
     virtual void finishEditing();
 
-    /// Calls finishEditing. Reports to the message log what it throws.
+    /// Calls finishEditing. Reports exceptions to the message log.
     void completeEdits();
 
-    /// The undo stack of the edits that are not applied; null if the window has none, as here. The window keeps it from
+    /// Returns the undo stack of the unapplied edits; null if the window has none, as here. The window keeps it from
     /// the moment when it is added to the main window. Undo and Redo of the host act on it while the user works in the
     /// window, see MainWindow::documentUndoStack.
     virtual QUndoStack* getUndoStack();
 
-    /// Applies the edits, as the command of the window does with which the user applies them. Returns false if edits are
-    /// left that are not applied; the window has told the user the reason. It may have been closed meanwhile, since it may
-    /// ask the user. Does nothing here.
+    /// Applies the edits, as the window's own command does. Returns false if unapplied edits are left; the window has
+    /// told the user the reason. The call may ask the user, and so the window may be closed afterwards.
+    /// Does nothing here.
     virtual bool applyEdits();
 
 Q_SIGNALS:
-    /// The user applies edits that the window accepts. A slot that sets a reason in `refusal` prevents it: the window shows
-    /// the reason and leads the user to the row.
+    /// Sent when the user applies edits that the window accepts. A slot that sets a reason in `refusal` prevents it:
+    /// the window shows the reason and selects the row.
     void applying(Gui::ApplyRefusal& refusal);
-    /// The window has written the edits into the object. Slots may complete what was written; the window shows the object
-    /// as it is afterwards.
+    /// Sent after the window has written the edits into the object. Slots may complete the object; the window shows the
+    /// object afterwards.
     void applied();
 
 protected:

@@ -42,7 +42,7 @@ MainWindow* theMainWindow = nullptr;
 constexpr const char* geometryKey = "window/geometry";
 constexpr const char* stateKey = "window/state";
 
-/// How long a result stays in the status bar.
+/// The time for which a result stays in the status bar.
 constexpr int statusMilliseconds = 10000;
 
 constexpr const char* explorerDock = "ProjectExplorer";
@@ -56,11 +56,11 @@ bool isInDock(const QWidget* widget)
     return widget != nullptr;
 }
 
-/// Takes the keyboard from a widget in a dock for a moment: fields and editors of cells then keep what was typed.
+/// Takes the keyboard focus from a widget in a dock for a moment: fields and editors of cells then keep the typed text.
 void leaveEditor()
 {
     const QPointer<QWidget> editor = QApplication::focusWidget();
-    // A view with an open editor has given the keyboard to it.
+    // A view with an open editor has passed the focus to the editor.
     if (!isInDock(editor) || qobject_cast<QAbstractItemView*>(editor) != nullptr)
         return;
     editor->clearFocus();
@@ -91,9 +91,9 @@ MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-    // The keyboard moves while widgets are destroyed.
+    // The keyboard focus moves while widgets are destroyed.
     disconnect(&m_application, nullptr, this, nullptr);
-    // The document windows are destroyed while the main window can still be asked for.
+    // The document windows are destroyed while the main window is still accessible.
     m_documents->removeAll();
     theMainWindow = nullptr;
 }
@@ -313,7 +313,7 @@ void MainWindow::createDocks()
 
 std::vector<DockEntry> MainWindow::hostDocks()
 {
-    // The edges of the docks are frame enough.
+    // The edges of the docks are a sufficient frame.
     const auto frameless = [](QFrame* view) {
         view->setFrameShape(QFrame::NoFrame);
         return view;
@@ -343,7 +343,7 @@ void MainWindow::watchProjects()
 
 void MainWindow::watchRequests()
 {
-    // The next command applies to what was added.
+    // The next command applies to the added objects.
     vxMsg::MessageProxy& proxy = m_application.requests();
     m_connections.emplace_back(
         proxy.objectCreated.connect([this](Obj::ProjectObject& object) { m_selection.setSelection({}, {&object}); }));
@@ -374,7 +374,7 @@ void MainWindow::watchDocument(MDIWindow& window)
         connect(edits, &QUndoStack::indexChanged, this, &MainWindow::updateLater);
 }
 
-/// Undo and Redo act on the document or on the projects, depending on where the keyboard is.
+/// Undo and Redo act on the document or on the projects, depending on the keyboard focus.
 void MainWindow::followFocus(QWidget* widget)
 {
     if (widget == nullptr || widget == menuBar())
@@ -388,7 +388,7 @@ void MainWindow::updateLater()
     m_update.start(0);
 }
 
-/// Menus and toolbars are replaced here alone, when none of them runs a command.
+/// Replaces menus and toolbars only here, when none of them runs a command.
 void MainWindow::updateNow()
 {
     const std::string chosen = std::exchange(m_chosenWorkbench, {});
@@ -458,7 +458,7 @@ void MainWindow::addShortcuts()
             addAction(action);
             continue;
         }
-        // A key of two commands would run neither. A key that acts on the tree must not do so while the user types into an editor.
+        // A key of two commands runs neither. A key that acts on the tree must not work while the user types a text.
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         if (action->shortcut().isEmpty() || treeKeys.insert(action->shortcut()).second)
             m_explorer->addAction(action);

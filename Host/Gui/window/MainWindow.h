@@ -37,62 +37,62 @@ class WelcomePage;
 class WorkbenchBars;
 struct DockEntry;
 
-/// The main window of the program: document windows in its middle, around them the project explorer, the property panel,
-/// the message log and the docks of modules, and the menus and toolbars of the active workbench with what modules
-/// contribute. Message boxes have it as their parent.
+/// The main window of the program. Document windows are in its middle. The project explorer, the property panel,
+/// the message log and the docks of modules surround them. The active workbench and modules provide the menus and
+/// toolbars. Message boxes have the main window as their parent.
 class GUI_EXPORT MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// Needs the GuiApplication, which must outlive the window. Shows what modules contribute to the application.
+    /// Needs the GuiApplication, which must outlive the window. Shows the contributions of the application.
     explicit MainWindow(QWidget* parent = nullptr);
-    /// Likewise with other contributions, which must outlive the window.
+    /// As above with other contributions, which must outlive the window.
     explicit MainWindow(Contributions& contributions, QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// The one main window; null before it is made and after it was destroyed.
+    /// Returns the main window; null before it is made and after it was destroyed.
     static MainWindow* get_main_window_inst();
 
     /// Shows `window` among the document windows and takes ownership of it: it is destroyed when the user closes it.
     void add_mdi_window(MDIWindow* window);
-    /// Takes a document window out without asking, and destroys it. Does nothing if it is not one of them.
+    /// Removes a document window without asking, and destroys it. Does nothing if it is not a document window.
     void remove_mdi_window(MDIWindow* window);
-    /// Brings a document window to the front and gives it the keyboard.
+    /// Brings a document window to the front and gives it the keyboard focus.
     void set_active_mdi_window(MDIWindow* window);
-    /// The document window in front; null if there is none.
+    /// Returns the document window in front; null if there is none.
     MDIWindow* get_active_mdi_window() const;
-    /// All document windows, in the order in which they were added.
+    /// Returns all document windows, in the order in which they were added.
     QList<MDIWindow*> getMdiWindows() const;
-    /// Returns the document window in which the user edits an object (MDIWindow::getEditedObject); null if none is open.
+    /// Returns the document window in which the user edits an object (MDIWindow::getEditedObject); null if none is.
     MDIWindow* editorOf(const Obj::ProjectObject& object) const;
-    /// Closes the document window in front, as the user does.
+    /// Closes the document window in front, as if the user closed it.
     void close_current_window();
     void closeAllWindows();
     void tileWindows();
     void cascadeWindows();
-    /// Shows the document windows as tabs again, as they are at first.
+    /// Shows the document windows as tabs again, which is the initial state.
     void tabWindows();
 
-    /// Ends all edits in progress, and keeps what was typed: in the document windows (MDIWindow::finishEditing), in the
-    /// project explorer and the property panel, and in docks of modules, where the editor loses the keyboard for a moment.
-    /// Commands do so before they run, and the window before it closes.
+    /// Ends all edits in progress, and keeps the typed text: in the document windows (MDIWindow::finishEditing), in the
+    /// project explorer and the property panel, and in docks of modules, where the editor loses the focus for a moment.
+    /// Called before commands run, and before the window closes.
     void finishEditing();
-    /// The undo stack of the document in front (MDIWindow::getUndoStack) while the user works there; null while the
-    /// keyboard is in a dock, and if the document has no such stack.
+    /// Returns the undo stack of the document in front (MDIWindow::getUndoStack) while the user works there; null if
+    /// the keyboard focus is in a dock, and if the document has no such stack.
     QUndoStack* documentUndoStack() const;
 
-    /// Makes a workbench of this registered class the active one, and shows its menus, toolbars and docks. Returns false,
-    /// with the reason in the message log, if there is no such class. Must not be called while one of the window's own
-    /// menus or toolbars runs a command, since these are replaced; see chooseWorkbench.
+    /// Makes a workbench of this registered class the active one, and shows its menus, toolbars and docks. Returns
+    /// false, with the reason in the message log, if there is no such class. Must not be called while one of the
+    /// window's own menus or toolbars runs a command, since these are replaced; see chooseWorkbench.
     bool setWorkbench(const char* className);
-    /// Makes the workbench that suits best the active one: that of the current project, else the first of the modules',
+    /// Activates the workbench that suits best: the workbench of the current project, else the first one of a module,
     /// else the standard one.
     bool setDefaultWorkbench();
-    /// Makes a workbench the active one when the event loop is next idle. When another project becomes the current one,
+    /// Activates a workbench when the event loop is next idle. If another project becomes the current project,
     /// its workbench is chosen in the same way.
     void chooseWorkbench(const std::string& className);
-    /// The active workbench; null before the first.
+    /// Returns the active workbench; null before the first activation.
     StdSimModule* getWorkbench() const { return m_workbench.get(); }
 
     const Contributions& contributions() const { return m_contributions; }
@@ -100,11 +100,11 @@ public:
     ProjectExplorer& getProjectExplorer() const { return *m_explorer; }
     MessageLogView& getMessageLog() const { return *m_log; }
 
-    /// Tells the user a result: writes `text` to the message log and, if there is a main window, to its status bar.
+    /// Shows a result to the user: writes `text` to the message log and, if there is a main window, to its status bar.
     static void announce(const QString& text,
                          Kelta::LogMessage::Severity severity = Kelta::LogMessage::Severity::Information);
 
-    /// Shows the message log, even if the user has hidden it, in front of docks with which it shares its place; for what
+    /// Shows the message log, even if the user has hidden it, in front of docks at the same place; for messages that
     /// the user must see. showProjectExplorer does the same with the project explorer.
     void showMessages();
     void showProjectExplorer();
@@ -112,23 +112,23 @@ public:
     void toggleDock(const std::string& name);
     bool hasDock(const std::string& name) const;
 
-    /// The context menu of bars and docks: it shows and hides them, and has what the workbench adds.
+    /// Makes the context menu of bars and docks: it shows and hides them, and has the additions of the workbench.
     QMenu* createPopupMenu() override;
 
-    /// Keeps place and size of the window and its docks in the settings, and restores them from there.
+    /// Stores place and size of the window and its docks in the settings, and restores them from there.
     void saveLayout() const;
     void restoreLayout();
 
-    /// Enables the commands that are applicable now, and shows the welcome page if no document is open. The window calls
-    /// it after every change, when the event loop is next idle.
+    /// Enables the commands that are applicable now, and shows the welcome page if no document is open. The window
+    /// calls it after every change, when the event loop is next idle.
     void updateCommands();
 
 Q_SIGNALS:
-    /// updateCommands has run: projects, selection or documents may have changed.
+    /// Sent after updateCommands has run: projects, selection or documents may have changed.
     void updated();
-    /// `window` was added to the document windows.
+    /// Sent after `window` was added to the document windows.
     void mdiWindowAdded(Gui::MDIWindow* window);
-    /// The user closes the program. A slot that sets `refused` keeps it open.
+    /// Sent when the user closes the program. A slot that sets `refused` keeps it open.
     void closing(bool& refused);
 
 protected:
@@ -167,9 +167,9 @@ private:
     std::unique_ptr<WorkbenchBars> m_bars;
     std::unique_ptr<StdSimModule> m_workbench;
     std::string m_chosenWorkbench;            ///< becomes active when the event loop is idle; empty for none
-    std::set<std::string> m_knownWorkbenches; ///< those whose docks were shown
+    std::set<std::string> m_knownWorkbenches; ///< workbenches whose docks were shown
     bool m_barsAreOutdated = false;
-    QPointer<QWidget> m_focus; ///< where the keyboard is, or was before it was given to the menus
+    QPointer<QWidget> m_focus; ///< the widget that has the keyboard focus, or had it before the menus took it
     QTimer m_update;
     std::vector<boost::signals2::scoped_connection> m_connections;
 };

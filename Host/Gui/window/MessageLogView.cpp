@@ -14,7 +14,7 @@ MessageLogView::MessageLogView(QWidget* parent) : QListWidget(parent)
     setAccessibleName(tr("Messages"));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setWordWrap(true);
-    // Scrolling lays out all messages, which must not happen for each of thousands.
+    // Scrolling lays out all messages, which must not happen for each of thousands of messages.
     m_scrolling.setSingleShot(true);
     connect(&m_scrolling, &QTimer::timeout, this, &QListWidget::scrollToBottom);
     for (const Kelta::LogMessage& message : Kelta::MessageLog::instance().messages())

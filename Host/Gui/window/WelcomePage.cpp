@@ -15,7 +15,7 @@ namespace Gui {
 
 namespace {
 
-/// What the page says if no module says anything, or if several do. In the order of WelcomeStep.
+/// The texts of the page if no module or several modules contribute a title. In the order of WelcomeStep.
 struct HostTexts
 {
     const char* title;
@@ -49,7 +49,7 @@ bool appliesTo(const WelcomeEntry& entry, const Obj::Project* project)
             project->is_inherited_from(Kelta::TypeInfo::find(entry.projectClass.c_str())));
 }
 
-/// The entries that apply now.
+/// Returns the entries that apply now.
 std::vector<const WelcomeEntry*> entriesFor(const Obj::Project* project, const std::vector<WelcomeEntry>& all)
 {
     std::vector<const WelcomeEntry*> entries;
@@ -143,7 +143,7 @@ void WelcomePage::showButtons(WelcomeStep step, const std::vector<const WelcomeE
     }
 }
 
-/// The commands that exist, each once. Opening a file is always a way to begin.
+/// Returns the existing commands, each once. Opening a file is always offered.
 std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
                                                       const std::vector<const WelcomeEntry*>& entries) const
 {
@@ -161,7 +161,7 @@ std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
 
 void WelcomePage::replaceButtons(const std::vector<std::string>& names)
 {
-    // A button may be replaced by the command that it has just run.
+    // A button's own command may replace the button, so the button is destroyed later.
     for (QPushButton* const button : m_buttons) {
         button->hide();
         button->setObjectName(QString());
@@ -178,7 +178,7 @@ void WelcomePage::addButton(const std::string& commandName)
     auto* const button = new QPushButton(this);
     button->setObjectName(QString::fromStdString(commandName));
     connect(button, &QPushButton::clicked, this, [this, commandName] { m_commands.runCommand(commandName); });
-    // In front of the stretch at the end of the row.
+    // Before the stretch at the end of the row.
     m_buttonRow->insertWidget(m_buttonRow->count() - 1, button);
     m_buttons.push_back(button);
     button->show();

@@ -19,8 +19,8 @@ namespace Gui {
 
 class CommandController;
 
-/// What the middle of the main window shows while no document is open: what to do next, and buttons that do it. Modules
-/// contribute what they offer; without them, the page says what the host can say.
+/// The page in the middle of the main window while no document is open. It shows the next steps, with buttons. Modules
+/// contribute entries; without them, the page shows the entries of the host.
 class WelcomePage : public QWidget
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     WelcomePage(CommandController& commands, const Contributions& contributions, QWidget* parent = nullptr);
     ~WelcomePage() override;
 
-    /// Shows what can be done next. `project` is the current one; null if no project is open.
+    /// Shows the possible next steps. `project` is the current project; null if no project is open.
     void refresh(const Obj::Project* project);
 
 private:

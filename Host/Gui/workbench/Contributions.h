@@ -13,7 +13,7 @@ class QWidget;
 
 namespace Gui {
 
-/// A text that is translated when it is shown, so that it follows the language of the user. Both strings must outlive
+/// A text that is translated when it is shown, and so follows the language of the user. Both strings must outlive
 /// the windows, as literals do: {"Probes", QT_TRANSLATE_NOOP("Probes", "No probe is open")}.
 struct TranslatableText
 {
@@ -52,22 +52,22 @@ enum class WelcomeStep
     NoDocument,   ///< the current project has objects, but no document is open
 };
 
-/// What the welcome page says and offers at one step.
+/// The texts and commands of the welcome page for one step.
 struct WelcomeEntry
 {
     WelcomeStep step;
-    /// Registered class of the current project, if the entry is only for that class and those derived from it; empty for
-    /// all. Ignored at the step NoProject.
+    /// Registered class of the current project, if the entry is limited to that class and its derived classes; empty
+    /// for all. Ignored at the step NoProject.
     std::string projectClass;
     TranslatableText title;            ///< plain text
     TranslatableText text;             ///< plain text
-    std::vector<std::string> commands; ///< each gets a button, if it exists
-    /// Whether the buttons of `commands` can be pressed now; always if empty. For commands that are applicable but do
-    /// nothing without a selection.
+    std::vector<std::string> commands; ///< each gets a button if it exists
+    /// Returns whether the buttons of `commands` are enabled now; always if empty. For commands that are applicable but
+    /// do nothing without a selection.
     std::function<bool()> canRun = {};
 };
 
-/// Where a dock is at first. Afterwards the layout of the user decides.
+/// The initial place of a dock. Later the layout of the user decides.
 enum class DockArea
 {
     Left,
@@ -81,10 +81,10 @@ enum class DockVisibility
     HiddenAtFirst,
 };
 
-/// A docking window. "View" offers to show and hide it; workbenches can ask for it by its name.
+/// A docking window. "View" offers to show and hide it; workbenches can request it by its name.
 struct DockEntry
 {
-    std::string name; ///< the dock's object name, under which its place is kept in the layout; unique
+    std::string name; ///< the dock's object name, which identifies its place in the layout; unique
     TranslatableText title;
     DockArea area;
     /// Makes the content. Called once for each main window; the dock owns the result.
@@ -92,19 +92,19 @@ struct DockEntry
     DockVisibility visibility = DockVisibility::ShownAtFirst;
 };
 
-/// A workbench of a module. If there are several, "View" has a switch between them.
+/// A workbench of a module. If there are several, "View" contains a switch between them.
 struct WorkbenchEntry
 {
     std::string className; ///< registered class, derived from Gui::StdSimModule
     TranslatableText title;
-    /// Registered class of the projects for which the workbench is chosen when one becomes the current project; also for
+    /// Registered class of projects. The workbench is chosen if such a project becomes the current project; also for
     /// derived classes. Empty for none.
     std::string projectClass;
 };
 
-/// What modules add to the window beside what their workbenches bring: commands in menus and toolbars, entries of the
-/// welcome page, text in the About box, docking windows, and the workbenches themselves. The application has one set of
-/// contributions; the main window shows them, and follows later additions when the event loop is next idle.
+/// Additions of modules to the window besides those of their workbenches: commands in menus and toolbars, entries of
+/// the welcome page, text in the About box, docking windows, and the workbenches. The application has one set of
+/// contributions. The main window shows them, and shows later additions when the event loop is next idle.
 ///
 /// An entry that exists already is ignored. Entries are shown in the order of their registration. Their functions must
 /// be callable as long as the application lives.
@@ -119,16 +119,16 @@ public:
     Contributions();
     ~Contributions() override;
 
-    /// Adds a command at the end of a section of a menu. A menu that does not exist is made in front of "&Windows"; a
-    /// section that does not exist is made at the end of the menu, behind a line. Texts of menus are translated in the
+    /// Adds a command at the end of a section of a menu. A missing menu is made in front of "&Windows". A missing
+    /// section is made at the end of the menu, behind a line. Texts of menus are translated in the
     /// context "Workbench".
     void addToMenu(const char* menu, const char* section, const char* command, const char* workbench = "");
-    /// Adds a command at the end of a section of a toolbar. A toolbar that does not exist is made behind the others.
+    /// Adds a command at the end of a section of a toolbar. A missing toolbar is made behind the others.
     void addToToolBar(const char* bar, const char* section, const char* command, const char* workbench = "");
     /// Adds a command to the context menu of the empty area of the project explorer.
     void addToTreeMenu(const char* command);
-    /// Adds to the welcome page. Of several entries for one step, each offers its commands; if they have different
-    /// titles, the page shows a title of its own.
+    /// Adds an entry to the welcome page. The page offers the commands of all entries for a step. If the entries have
+    /// different titles, the page shows its own title.
     void addWelcomeEntry(WelcomeEntry entry);
     /// Adds a paragraph, as rich text, to the About box.
     void addAboutText(TranslatableText text);
@@ -144,7 +144,7 @@ public:
     const std::vector<WorkbenchEntry>& workbenches() const { return m_workbenches; }
 
 Q_SIGNALS:
-    /// Something was added.
+    /// Sent after an addition.
     void changed();
 
 private:

@@ -13,7 +13,7 @@ namespace Gui {
 
 namespace {
 
-/// The title of a menu in the language of the user.
+/// Returns the title of a menu in the language of the user.
 QString titleOf(const MenuItem& item)
 {
     return QCoreApplication::translate("Workbench", item.command().c_str());
@@ -36,7 +36,7 @@ void MenuBuilder::fillMenu(QMenu& menu, const MenuItem& items) const
 void MenuBuilder::fillMenuBar(QMenuBar& bar, const MenuItem& menus) const
 {
     bar.clear();
-    // The bar owns menus that it no longer shows.
+    // The bar still owns menus that it does not show any more.
     qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     for (const auto& item : menus.items()) {
         QMenu* const menu = bar.addMenu(titleOf(*item));
@@ -52,7 +52,7 @@ void MenuBuilder::fillToolBar(QToolBar& bar, const ToolBarGadget& items) const
     addCommands(bar, items);
 }
 
-/// Separators are between commands, never at the ends or side by side.
+/// Adds separators only between commands, never at the ends or side by side.
 template <typename Widget, typename Tree>
 // NOLINTNEXTLINE(misc-no-recursion): menus are a few levels deep
 void MenuBuilder::addCommands(Widget& widget, const Tree& items) const

@@ -13,11 +13,11 @@ namespace Gui {
 class CommandController;
 
 /// Makes menus and toolbars from trees of command names. All entries of a command share its action, which shows the
-/// state that the command has now. Names without a command are left out, and so are menus without commands.
+/// present state of the command. Names without a command and menus without commands are left out.
 class MenuBuilder
 {
 public:
-    /// `actionOwner` owns the actions of commands that have none yet.
+    /// `actionOwner` owns the actions that the builder makes.
     MenuBuilder(const CommandController& commands, QObject& actionOwner)
         : m_commands(commands), m_actionOwner(actionOwner)
     {}

@@ -7,7 +7,7 @@ namespace Gui {
 
 namespace {
 
-/// A section of a menu or toolbar. Sections without commands are places for those of modules.
+/// A section of a menu or toolbar. Sections without commands are places for the commands of modules.
 struct Section
 {
     const char* name = "";

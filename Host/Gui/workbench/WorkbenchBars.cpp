@@ -17,7 +17,7 @@ namespace Gui {
 
 namespace {
 
-/// Adds `group`, a menu or toolbar, in front of `before`; at the end if that is null.
+/// Adds `group`, a menu or toolbar, in front of `before`; at the end if `before` is null.
 template <typename Tree>
 Tree* addGroup(Tree& root, const std::string& group, const Tree* before)
 {
@@ -41,7 +41,7 @@ bool isFor(const CommandPlace& place, const StdSimModule& workbench)
     return place.workbench.empty() || workbench.is_inherited_from(Kelta::TypeInfo::find(place.workbench.c_str()));
 }
 
-/// The entries of "&View" that show and hide the docks of modules.
+/// Returns the entries of "&View" that show and hide the docks of modules.
 std::vector<CommandPlace> dockPlaces(const Contributions& contributions)
 {
     std::vector<CommandPlace> places;
@@ -50,7 +50,7 @@ std::vector<CommandPlace> dockPlaces(const Contributions& contributions)
     return places;
 }
 
-/// Adds the switch between workbenches to "&View"; with one workbench there is nothing to switch.
+/// Adds the switch between workbenches to "&View" if there are several workbenches.
 void addWorkbenchSwitch(MenuItem& menus, const std::vector<WorkbenchEntry>& workbenches)
 {
     MenuItem* const view = findGroup(menus, "&View");
@@ -63,8 +63,8 @@ void addWorkbenchSwitch(MenuItem& menus, const std::vector<WorkbenchEntry>& work
     view->addToSection("Workbench", choices.release());
 }
 
-/// Adds what modules contribute to the trees of a workbench. A menu or toolbar that does not exist is made in front of
-/// the one called `last`.
+/// Adds the contributions of modules to the trees of a workbench. A missing menu or toolbar is made in front of
+/// the menu or toolbar `last`.
 template <typename Tree>
 void addContributed(Tree& root, const std::vector<CommandPlace>& places, const StdSimModule& workbench,
                     const char* last)
@@ -85,13 +85,13 @@ QString titleOf(const ToolBarGadget& gadget)
     return QCoreApplication::translate("Workbench", gadget.command().c_str());
 }
 
-/// By these names the layout is kept. A bar above and a bar below that have the same title are two bars.
+/// The layout is stored by these names. A bar above and a bar below with the same title are two bars.
 QString objectNameOf(const ToolBarGadget& gadget, Qt::ToolBarArea area)
 {
     return QLatin1String(area == Qt::BottomToolBarArea ? "Bottom" : "") + QString::fromStdString(gadget.command());
 }
 
-/// Document windows have toolbars of their own, which are not direct children.
+/// Document windows have their own toolbars, which are not direct children.
 QList<QToolBar*> toolBarsOf(const QMainWindow& window)
 {
     return window.findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);

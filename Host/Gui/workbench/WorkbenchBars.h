@@ -14,13 +14,13 @@ class CommandController;
 class Contributions;
 class StdSimModule;
 
-/// The menus and toolbars of a main window: those of its workbench, and in them what modules contribute.
+/// The menus and toolbars of a main window, from its workbench and from modules.
 class WorkbenchBars
 {
 public:
     WorkbenchBars(QMainWindow& window, const CommandController& commands, const Contributions& contributions);
 
-    /// Replaces all menus and toolbars by those of `workbench`. Toolbars that existed before keep their places.
+    /// Replaces all menus and toolbars with those of `workbench`. Toolbars that existed before keep their places.
     void build(const StdSimModule& workbench);
 
 private:

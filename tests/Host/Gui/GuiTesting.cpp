@@ -142,7 +142,7 @@ void TestWorkbench::init()
 
 namespace {
 
-/// Makes a menu or bar with this text and these commands.
+/// Makes a menu or toolbar with this text and these commands.
 template <typename Item>
 Item* makeItem(const char* text, std::initializer_list<const char*> itemCommands)
 {

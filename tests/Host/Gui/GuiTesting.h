@@ -53,7 +53,7 @@ private:
     static inline Obj::PropertyCoreData data;
 };
 
-/// A project class of another module, for which nothing is contributed.
+/// A project class of another module without contributions.
 class OtherProject final : public Obj::Project
 {
 public:
@@ -64,7 +64,7 @@ private:
     static inline Kelta::TypeInfo type;
 };
 
-/// An object class of a module, with properties that can be edited, only be read, and not be seen.
+/// An object class of a module, with an editable, a read-only and a hidden property.
 class TestObject final : public Obj::ProjectObject
 {
 public:
@@ -86,7 +86,7 @@ private:
     static inline Obj::PropertyCoreData data;
 };
 
-/// An object class with a property of each type that has an editor of its own.
+/// An object class with a property for each type of editor.
 class TypedObject final : public Obj::ProjectObject
 {
 public:
@@ -193,7 +193,7 @@ class TestWorkbench final : public Gui::StdSimModule
 public:
     Kelta::TypeInfo getTypeId() const override { return type; }
     static void init();
-    /// "&Test" with "Std_Copy", a menu "&More" and two menus without commands, one in the other.
+    /// "&Test" with "Std_Copy", a menu "&More" and two nested menus without commands.
     Gui::MenuItem* build_menu_bar() const override;
     /// "Test" with "Std_Copy" and a menu "&More".
     Gui::ToolBarGadget* build_toolbars() const override;
@@ -233,12 +233,12 @@ protected:
     Gui::ProjectExplorer& explorer() const { return window->getProjectExplorer(); }
     Gui::ProjectTreeModel& model() const { return dynamic_cast<Gui::ProjectTreeModel&>(*explorer().model()); }
     Gui::PropertyPanel& panel() const { return *window->findChild<Gui::PropertyPanel*>(); }
-    /// Gives the explorer the keyboard, and expands all of it.
+    /// Sets the keyboard focus to the explorer, and expands all its rows.
     void focusExplorer() const;
-    /// The present text of a row.
+    /// Returns the present text of a row.
     QString shownText(const Obj::ProjectObject& object) const;
 
-    Gui::Contributions contributions; ///< what modules add to the window
+    Gui::Contributions contributions; ///< contributions of modules to the window
     std::unique_ptr<Gui::MainWindow> window;
 };
 

@@ -48,7 +48,7 @@ protected:
         Kelta::RootClass::initSubclass(type, "Test::Note", "Kelta::DataPersistence", nullptr);
     }
 
-    /// Loads a file of this text, which must fail and change nothing. Returns what is reported.
+    /// Loads a file of this text, which must fail and change nothing. Returns the reported messages.
     std::string whyNotLoaded(const char* text)
     {
         vxtest::writeFile(m_path, text);

@@ -19,7 +19,7 @@ const QString element = QStringLiteral("element");
 class FileWriterTest : public testing::Test
 {
 protected:
-    /// The files in the folder, without temporary ones that were left behind.
+    /// Returns all files in the folder, also hidden ones, so that leftover temporary files are detected.
     QStringList files() const { return QDir(m_place.path()).entryList(QDir::Files | QDir::Hidden | QDir::System); }
 
     QTemporaryDir m_place;

@@ -18,7 +18,7 @@ using testing::HasSubstr;
 class ModuleDescriptor : public testing::Test
 {
 protected:
-    /// The descriptor of the module "Bolts".
+    /// Returns the descriptor of the module "Bolts".
     Kelta::ModuleDescriptor read(const QByteArray& text) const
     {
         folder.addDescriptor(QStringLiteral("Bolts"), text);
@@ -27,7 +27,7 @@ protected:
 
     QString file() const { return folder.path(QStringLiteral("Bolts.module.json")); }
 
-    /// Why the file cannot be read; empty if it can.
+    /// Returns the reason if the file cannot be read; empty if it can.
     std::string failure() const
     {
         try {

@@ -15,13 +15,13 @@ public:
     QString path() const { return m_folder.path(); }
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
-    /// Writes a descriptor as it is.
+    /// Writes a descriptor unchanged.
     void addDescriptor(const QString& module, const QByteArray& text) const
     {
         writeFile(path(module + QStringLiteral(".module.json")), text.constData());
     }
 
-    /// Copies a fixture library under the name that a module has by default.
+    /// Copies a fixture library under the default library name of a module.
     void addLibrary(const QString& module, const QString& fixture) const
     {
         const QString library = QStringLiteral(VX_PLUGIN_FOLDER "/lib%1.so").arg(fixture);

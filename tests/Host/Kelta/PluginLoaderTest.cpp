@@ -17,7 +17,7 @@ using testing::IsEmpty;
 using testing::Not;
 using vxtest::ModuleFolder;
 
-/// What the counter of a copy of a counting library says.
+/// Returns the counter of a copy of a counting library.
 int callsIn(const ModuleFolder& folder, const QString& module)
 {
     const auto count = reinterpret_cast<int (*)()>(
@@ -25,7 +25,7 @@ int callsIn(const ModuleFolder& folder, const QString& module)
     return count != nullptr ? count() : -1;
 }
 
-/// Why loading fails; empty if it does not.
+/// Returns the reason if loading fails; empty if it succeeds.
 std::string whyNot(PluginLoader& loader, const char* module)
 {
     return loader.load(QString::fromLatin1(module)) ? std::string() : loader.errorText().toStdString();
@@ -90,7 +90,7 @@ TEST_F(PluginLoaderTest, TellsThatAModuleIsMissingAndWhereItLooked)
                 AllOf(HasSubstr("\"Absent\""), HasSubstr("Absent.module.json"), HasSubstr("/first/%1, /second")));
 }
 
-// --- One module that fails, and the others that work ---
+// --- A module that fails, and other modules that work ---
 
 TEST_F(PluginLoaderTest, NamesABrokenDescriptorAndLoadsTheRest)
 {
@@ -210,7 +210,7 @@ TEST_F(PluginLoaderTest, SurvivesAListenerThatClearsTheLog)
     QObject::disconnect(clearing);
 }
 
-// --- What modules need ---
+// --- Needed modules ---
 
 TEST_F(PluginLoaderTest, NamesWhatNeedsAModuleThatIsMissing)
 {

@@ -10,7 +10,7 @@ using vxtest::Part;
 class PropertyClassRegistration : public vxtest::ObjTest
 {};
 
-/// Reaches the protected operations.
+/// Makes the protected operations accessible.
 class OpenPart : public Part
 {
 public:

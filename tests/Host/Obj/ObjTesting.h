@@ -15,7 +15,7 @@
 
 namespace vxtest {
 
-/// What the operations of a Part that the host calls do, and what they have done.
+/// The settings for the operations of a Part that the host calls, and records of the calls.
 struct PartHooks
 {
     std::vector<std::string> calls;
@@ -31,8 +31,8 @@ struct PartHooks
     std::function<void(Obj::ProjectObject&, const std::string&)> action;
 };
 
-/// An object of a project, which notes what happens to it. Two further properties: "Width" can be edited, "Secret" is
-/// hidden and only read.
+/// An object of a project, which records the calls of its operations. Two further properties: "Width" is editable,
+/// "Secret" is hidden and read-only.
 class Part : public Obj::ProjectObject
 {
     OBJ_CLASS;
@@ -47,7 +47,7 @@ public:
     void on_project_restored() override;
     Obj::eVXObjectState check_input() override;
 
-    /// The class's own notes, cleared for each test.
+    /// The notes of the class, cleared for each test.
     static PartHooks& hooks();
     static int count();
 
@@ -63,7 +63,7 @@ private:
     void note(const char* what, const std::string& about);
 };
 
-/// A class derived from Part, which joins two others. It has a property of each type.
+/// A class derived from Part that connects two other parts. It has a property of each type.
 class Joint : public Part
 {
     OBJ_CLASS;
@@ -104,7 +104,7 @@ public:
     static bool& collectingThrows();
 };
 
-/// Classes registered, no project open, before and after each test.
+/// Classes are registered, and no project is open, before and after each test.
 class ObjTest : public testing::Test
 {
 protected:
@@ -115,7 +115,7 @@ protected:
     static Assembly& addAssembly(const std::string& name = "Assembly");
 };
 
-/// Names of objects, in order.
+/// Returns the names of objects, in order.
 std::vector<std::string> namesOf(const std::vector<Obj::ProjectObject*>& objects);
 
 /// Returns the place of a virtual operation in the table of virtual operations. The C++ ABI of this machine writes

@@ -38,7 +38,7 @@ TEST_F(ProjectObjectGroupTest, IsMadeByItsRegisteredName)
     EXPECT_EQ(group.get_property_type("ID"), 1);
 }
 
-/// Reaches the protected operations.
+/// Makes the protected operations accessible.
 class OpenGroup : public ProjectObjectGroup
 {
 public:

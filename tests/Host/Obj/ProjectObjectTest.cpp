@@ -21,7 +21,7 @@ using vxtest::slotOf;
 
 using ProjectObjectTest = vxtest::ObjTest;
 
-/// The bare class.
+/// The base class without overrides.
 class BareObject : public ProjectObject
 {
 public:

@@ -363,7 +363,7 @@ TEST_F(ProjectTest, IsClosedWhileItsObjectsAreObserved)
     const boost::signals2::scoped_connection changed =
         m_assembly.objectChanged.connect([&](ProjectObject& object, const Obj::Property*) { touch(object); });
     const boost::signals2::scoped_connection closed = application().projectRemoved.connect([&](Project& project) {
-        // What is closed is still whole.
+        // A closed project is still complete.
         EXPECT_EQ(project.get_object("a"), &part);
         part.label.setValue("last words");
     });
@@ -458,7 +458,7 @@ TEST_F(ProjectTest, DescribesItselfAndItsObjectsInARecord)
     EXPECT_THAT(names(), ElementsAre("a", "b"));
 }
 
-// --- Listeners that remove what they are told of ---
+// --- Listeners that remove the signal's argument ---
 
 TEST_F(ProjectTest, ReturnsNoObjectThatAListenerHasRemoved)
 {
@@ -601,7 +601,7 @@ TEST_F(ProjectTest, TakesTheMemoryOfItsObjectsToo)
 class ExecutionTest : public ProjectTest
 {
 protected:
-    /// The names of the objects that are executed now, in order.
+    /// Returns the names of the objects that are executed now, in order.
     std::vector<std::string> executed()
     {
         std::vector<std::string> names;
@@ -691,7 +691,7 @@ TEST_F(ExecutionTest, ReportsWhatAnObjectThrowsAndTriesItAgain)
     EXPECT_THAT(executed(), ElementsAre("a", "b"));
 }
 
-/// The bare class.
+/// The base class without overrides.
 class BareProject : public Project
 {
 public:

@@ -73,7 +73,7 @@ TEST_F(PropertyDSTest, ReturnsNothingForPropertiesOfOtherSets)
     EXPECT_FALSE(m_part.is_hidden(&m_other.secret));
 }
 
-/// A part that describes a property of its base class anew.
+/// A part that describes a property of its base class again.
 class SpecialPart : public Part
 {
 public:
@@ -92,7 +92,7 @@ TEST_F(PropertyDSTest, KnowsAPropertyOnceThatADerivedClassRegistersAgain)
     EXPECT_STREQ(m_part.get_property_group("Width"), "Size") << "others are as they were";
 }
 
-/// The bare class.
+/// The base class without overrides.
 class BareSet : public PropertyDS
 {
 public:
@@ -117,7 +117,7 @@ TEST_F(PropertyDSTest, IsARootOfDescriptions)
     EXPECT_EQ(set.number.getValue(), 4);
 }
 
-/// Reaches the protected operations.
+/// Makes the protected operations accessible.
 struct Slots : PropertyDS
 {
     static std::vector<std::ptrdiff_t> all()

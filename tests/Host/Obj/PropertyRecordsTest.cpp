@@ -20,7 +20,7 @@ using vxtest::Joint;
 using vxtest::namesOf;
 using vxtest::Part;
 
-/// Whole numbers are the same in JSON whatever their types in memory.
+/// Whole numbers are equal in JSON, whatever their types in memory.
 std::string textOf(const Json::Value& json)
 {
     return json.toStyledString();

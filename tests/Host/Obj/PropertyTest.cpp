@@ -20,7 +20,7 @@ using testing::IsEmpty;
 
 using Couples = PropertyCoupleArray::Couples;
 
-/// Whether a text is refused, and leaves the value alone.
+/// Returns whether a text is refused and leaves the value unchanged.
 template <typename SomeProperty>
 bool refuses(SomeProperty& property, const std::string& text)
 {
@@ -165,7 +165,7 @@ TEST(Property, HasItsTextInTheCLocaleWhateverTheLocaleOfTheUser)
     EXPECT_EQ(couples.toText(), "0.5, 1234.25");
 }
 
-// --- Real numbers, yes or no, choices ---
+// --- Real numbers, booleans, choices ---
 
 TEST_F(PropertyTest, OfARealNumberReadsBackTheVeryNumber)
 {
@@ -253,7 +253,7 @@ TEST_F(PropertyTest, OfAChoiceNeedsWordsThatDiffer)
     EXPECT_THROW(Obj::PropertyChoice({"a", "b"}, 2), std::out_of_range);
 }
 
-// --- JSON of the others ---
+// --- JSON of the other types ---
 
 TEST_F(PropertyTest, KeepsWholeNumbersOfEverySizeInJson)
 {

@@ -11,7 +11,7 @@
 
 namespace vxtest {
 
-/// What is reported to the message log while it lives.
+/// Collects the reports to the message log during its lifetime.
 class Reports
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     int errors() const { return count(Kelta::LogMessage::Severity::Error); }
     int warnings() const { return count(Kelta::LogMessage::Severity::Warning); }
-    /// All texts, a line each.
+    /// Returns all texts, one on each line.
     std::string text() const;
 
 private:
@@ -32,7 +32,7 @@ private:
     QMetaObject::Connection m_connection;
 };
 
-/// Lets no file of this process grow beyond `bytes` while it lives, as on a disk that is full.
+/// Limits each file of this process to `bytes` during its lifetime, to simulate a full disk.
 class FullDisk
 {
 public:

@@ -9,7 +9,7 @@ namespace {
 using vxCAE::CAESet;
 using vxCAE::CCaeManager;
 
-/// A set that notes when it is destroyed.
+/// A set that records its destruction.
 class WatchedSet : public CAESet
 {
 public:

@@ -8,7 +8,7 @@
 #include <random>
 #include <stdexcept>
 
-/// Listeners that change what they are told of, while requests are carried out. The sanitizers watch.
+/// Listeners that change the signal's argument while requests are carried out. Sanitizers detect invalid accesses.
 namespace {
 
 using boost::signals2::scoped_connection;
@@ -277,7 +277,7 @@ TEST_F(ListenerTest, HasAnObjectBackThatFailsWhenItComesBack)
 
 TEST_F(ListenerTest, MayChangeTheHistoryThatAForeignStepUndoes)
 {
-    /// A step of another module, which tells its listeners.
+    /// A step of another module that notifies its listeners.
     class Foreign : public QUndoCommand
     {
     public:
@@ -299,9 +299,9 @@ TEST_F(ListenerTest, MayChangeTheHistoryThatAForeignStepUndoes)
     EXPECT_THAT(names(), ElementsAre("added while undoing"));
 }
 
-// --- All of it at random ---
+// --- Random actions ---
 
-/// Does something to the open projects, by request or directly.
+/// Makes a random change to the open projects, by request or directly.
 class Mischief
 {
 public:
@@ -381,7 +381,7 @@ private:
     int m_depth = 0;
 };
 
-/// Every listener of every signal makes mischief.
+/// Every listener of every signal makes random changes.
 class EveryListener
 {
 public:
@@ -406,7 +406,7 @@ private:
     {
         const auto touch = [this](ProjectObject& object, auto&&...) {
             m_mischief.doSomething();
-            // It is whole whatever has been done to it.
+            // The argument is complete, whatever the other listeners changed.
             static_cast<void>(object.label.getValue().size() + object.get_linked_objects().size());
         };
         project.objectAdded.connect(touch);

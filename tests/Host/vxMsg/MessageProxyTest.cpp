@@ -77,7 +77,7 @@ TEST_F(MessageProxyTest, MakesANameUniqueThatAProjectHas)
     EXPECT_NE(projects()[1], "Machine");
 }
 
-// --- What is not known ---
+// --- Unknown names ---
 
 TEST_F(MessageProxyTest, ReportsNamesThatItDoesNotKnow)
 {
@@ -260,7 +260,7 @@ TEST_F(MessageProxyTest, DoesWhatIsRequestedThoughAListenerFails)
     EXPECT_THAT(names(), IsEmpty());
 }
 
-// --- What happens without a request ---
+// --- Changes without a request ---
 
 TEST_F(MessageProxyTest, MakesObjectsUndoableThatAreAddedWithoutARequest)
 {
@@ -658,7 +658,7 @@ TEST_F(MessageProxyTest, SuppressesAnObjectInOneStep)
     EXPECT_FALSE(proxy().setSuppressed(loose, true)) << "it is in no project";
 }
 
-// --- Handing over ---
+// --- Passing data to the solver side ---
 
 TEST_F(MessageProxyTest, HandsAProjectOverBehindTheExecutionOfWhatIsDue)
 {

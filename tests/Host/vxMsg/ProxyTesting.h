@@ -31,7 +31,7 @@ protected:
     /// Adds a part by request, which must succeed.
     Part& part(const std::string& name);
 
-    /// The names of the objects of "Machine", and of all open projects.
+    /// Return the names of the objects of "Machine", and of all open projects.
     std::vector<std::string> names() const { return namesOf(m_project->getObjects()); }
     static std::vector<std::string> projects();
 

@@ -8,7 +8,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Runs a function, which throws, when it receives an event.
+/// Runs a function that throws when the object receives an event.
 class Thrower : public QObject
 {
 public:

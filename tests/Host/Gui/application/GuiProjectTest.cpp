@@ -73,7 +73,7 @@ TEST_F(GuiProjectTest, MakesAPlainNodeWhenThereIsNoneOfTheName)
     }
 }
 
-/// A node that cannot be made.
+/// A node that cannot be created.
 class FailingNode final : public Gui::ViewFeederProjectObject
 {
 public:

@@ -238,7 +238,7 @@ TEST_F(Clipboard, SurvivesPartsThatAreOfTheWrongKind)
     }
 }
 
-/// References and links between objects, and to others.
+/// References and links between objects, and to other objects.
 class CopiedReferences : public Clipboard
 {
 protected:
@@ -285,7 +285,7 @@ TEST_F(CopiedReferences, AreLeftOutInOtherProjects)
 
 TEST_F(CopiedReferences, AreLeftOutInOtherPrograms)
 {
-    // A project of another program that has the same number.
+    // A project of another program with the same number.
     QByteArray text = clipboard().write({&first});
     text.replace(QByteArray("\"project\" : \""), QByteArray("\"project\" : \"another "));
     const auto pasted = clipboard().read(text, project);

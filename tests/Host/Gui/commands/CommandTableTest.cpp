@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Commands made of the rows of a table.
+/// Commands made from the rows of a table.
 class Table : public vxtest::Host
 {
 protected:

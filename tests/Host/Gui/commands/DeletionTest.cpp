@@ -7,7 +7,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using vxtest::MessageBoxes;
 
-/// A node that does not let its object be deleted.
+/// A node that refuses the deletion of its object.
 class FirmNode final : public Gui::ViewFeederProjectObject
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A document window with a line of text. The text becomes the document's when the edit is finished, as a step of the
+/// A document window with a line of text. The document takes the text when the edit is finished, as a step of the
 /// document's own undo stack.
 class TextDocument final : public Gui::MDIWindow
 {
@@ -62,7 +62,7 @@ protected:
         select({&object});
         panel().showSelection();
         undoStack().clear();
-        // The application keeps the command.
+        // The application owns the command.
         if (commands().findCommand("Test_Look") == nullptr)
             commands().new_command(new vxtest::TestCommand(
                 "Test_Look", [] { look(); }, Gui::CommandType::none, QKeySequence(QStringLiteral("Ctrl+Shift+K"))));
@@ -81,7 +81,7 @@ protected:
         document->line.setFocus();
         return document;
     }
-    /// Types a label for the object into the explorer, without an end.
+    /// Types a label for the object into the explorer, without finishing the edit.
     QLineEdit* typeLabel(const char* label) const
     {
         EXPECT_TRUE(explorer().renameSelected());
@@ -90,7 +90,7 @@ protected:
         QTest::keyClicks(line, label);
         return line;
     }
-    /// Types a count for the object into the property panel, without an end.
+    /// Types a count for the object into the property panel, without finishing the edit.
     void typeCount(const char* count) const
     {
         panel().editItem(panel().findItems(QStringLiteral("Count"), Qt::MatchExactly | Qt::MatchRecursive).first(), 1);
@@ -99,7 +99,7 @@ protected:
         QTest::keyClicks(line, count);
     }
 
-    static inline std::function<void()> look; ///< what the command "Test_Look" does
+    static inline std::function<void()> look; ///< the function that the command "Test_Look" runs
     vxtest::TestProject& project;
     vxtest::TestObject& object;
 };
@@ -132,7 +132,7 @@ TEST_F(EditsInProgress, OfALabelAreCompletedBeforeACommandRuns)
     EXPECT_TRUE(run("Test_Look"));
     EXPECT_EQ(seen, "Plate");
     EXPECT_FALSE(explorer().viewport()->findChild<QLineEdit*>()->isVisible());
-    // The label is a step of its own, which Undo takes back alone.
+    // The label is a separate step, which Undo reverts alone.
     EXPECT_EQ(undoStack().count(), 1);
     EXPECT_TRUE(run("Std_Undo"));
     EXPECT_EQ(object.label.getValue(), "Beam");
@@ -227,7 +227,7 @@ TEST_F(EditsInProgress, ThatFailAreReportedAndStopNothing)
     EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().isEmpty(); }));
 }
 
-/// Undo and Redo beside a document with edits of its own. One change of the object can be undone too.
+/// Undo and Redo beside a document with its own edits. One change of the object can be undone too.
 class DocumentUndo : public EditsInProgress
 {
 protected:

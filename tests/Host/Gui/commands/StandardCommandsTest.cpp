@@ -204,7 +204,7 @@ TEST_F(StandardCommands, ArrangeTheDocuments)
     EXPECT_TRUE(run("Std_CascadeWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::SubWindowView);
     EXPECT_TRUE(overlap());
-    // The title of each can be seen.
+    // The title of each window is visible.
     EXPECT_NE(area->subWindowList()[0]->pos(), area->subWindowList()[1]->pos());
     EXPECT_TRUE(run("Std_TabWindows"));
     EXPECT_EQ(area->viewMode(), QMdiArea::TabbedView);

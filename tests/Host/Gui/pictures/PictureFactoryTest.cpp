@@ -107,7 +107,7 @@ TEST_F(Pictures, OfAllCommandsAreThere)
     };
     for (const Gui::Command* const command : commands().getCommands())
         EXPECT_TRUE(*command->get_pixmap() == '\0' || isThere(command->get_pixmap())) << command->getName();
-    // The pictures of commands of the program.
+    // The pictures of the program's commands.
     for (const char* const name : {"kelta_open", "kelta_save"})
         EXPECT_TRUE(isThere(name)) << name;
 }

@@ -25,7 +25,7 @@ protected:
         panel().showSelection();
     }
 
-    /// "Group/Property" for each row, in order.
+    /// Returns "Group/Property" for each row, in order.
     QStringList rows() const
     {
         QStringList names;
@@ -51,7 +51,7 @@ protected:
         return item != nullptr ? item->text(1) : QStringLiteral("(none)");
     }
 
-    /// Edits a value as the user does: a double click, typing, Return. Returns false if no editor opens.
+    /// Edits a value like a user: a double click, typing, Return. Returns false if no editor opens.
     bool edit(const QString& name, const QString& text) const
     {
         const QRect place = panel().visualItemRect(row(name));
@@ -272,7 +272,7 @@ protected:
         const QRect place = panel().visualItemRect(row(name));
         return {panel().columnViewportPosition(1) + 8, place.center().y()};
     }
-    /// The list that a double click on a value opens; null if it opens none.
+    /// Returns the list that a double click on a value opens; null if it opens none.
     QComboBox* openList(const QString& name) const
     {
         panel().scrollToItem(row(name));
@@ -290,7 +290,7 @@ protected:
             texts << list.itemText(i);
         return texts;
     }
-    /// Chooses an entry as the user does with the keyboard: arrows, then Return.
+    /// Chooses an entry with the keyboard, like a user: arrows, then Return.
     static void choose(QComboBox& list, int index)
     {
         list.showPopup();

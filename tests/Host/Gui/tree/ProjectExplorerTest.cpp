@@ -54,7 +54,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    /// Returns the entries of the context menu at a place. Triggers the entry `choose`, and closes the menu.
+    /// Returns the entries of the context menu at a position. Triggers the entry `choose`, and closes the menu.
     QStringList contextMenuAt(const QPoint& place, const QString& choose = {}) const
     {
         QStringList offered;
@@ -92,7 +92,7 @@ protected:
             menu->close();
         });
         timer.start(1);
-        // The platform makes this event of the key.
+        // The platform makes this event from the key.
         QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
         QApplication::sendEvent(explorer().viewport(), &event);
     }
@@ -401,7 +401,7 @@ TEST_F(Explorer, HearsTheDeleteKeyBeforeTheCommandIsEnabled)
 
 TEST_F(Explorer, GivesAKeyOfTwoCommandsToTheFirst)
 {
-    // The application keeps the command.
+    // The application owns the command.
     static int runs;
     if (commands().findCommand("Test_Delete") == nullptr)
         commands().new_command(new vxtest::TestCommand(

@@ -18,7 +18,7 @@ namespace {
 
 using Gui::ProjectTreeModel;
 
-/// A model watched by Qt's tester, which ends the test program if the model breaks the rules.
+/// A model watched by Qt's tester, which ends the test program if the model breaks a rule of Qt's item models.
 class Tree : public vxtest::Host
 {
 protected:
@@ -92,7 +92,7 @@ TEST_F(Tree, MakesFewBlocksOfManyChanges)
         addObject(project);
     tree.synchronize();
     EXPECT_EQ(inserted.count(), 1);
-    // Every second one of the first ten, and all others.
+    // Every second object of the first ten, and all others.
     for (std::uint32_t id = 1; id <= 10; id += 2)
         project.removeObject(id);
     for (std::uint32_t id = 11; id <= 1000; ++id)
@@ -211,7 +211,7 @@ TEST_F(Tree, HoldsTenThousandObjects)
     EXPECT_EQ(tree.objectAt(tree.index(9999, 0, parent)), project.get_object(10000U));
 }
 
-/// A tree of groups and their members: "Group[A, Inner[B]], C".
+/// Returns the tree of groups and their members as text: "Group[A, Inner[B]], C".
 class Groups : public Tree
 {
 protected:
@@ -291,7 +291,7 @@ TEST_F(Groups, CanBeInGroups)
     inner.addMember(a);
     outer.addMember(inner);
     EXPECT_EQ(shape(), "Outer[Inner[A]]");
-    // The other way round.
+    // In the opposite order.
     outer.removeMember(inner);
     inner.addMember(outer);
     EXPECT_EQ(shape(), "Inner[A, Outer]");
@@ -412,7 +412,7 @@ TEST_F(Groups, FollowRandomChanges)
                 away.pop_back();
             }
         }
-        // A new model shows the same, and the tester has checked every step.
+        // A new model shows the same rows, and the tester has checked every step.
         const ProjectTreeModel fresh(*Gui::GuiApplication::Instance);
         tree.synchronize();
         for (const Obj::ProjectObject* const present : project.getObjects()) {

@@ -40,7 +40,7 @@ TEST_F(BaseViewTest, ForgetsAProjectThatIsClosed)
     EXPECT_EQ(view.getGuiProject(), nullptr);
 }
 
-/// Counts how often it is removed from the window.
+/// A view that counts its removals from the window.
 class RemovedView final : public BaseView
 {
 public:

@@ -4,7 +4,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Objects that name a window as their editor, for nodes that do not open anything themselves.
+/// Objects that name a window as their editor, for nodes that open nothing themselves.
 class CoreEditor : public vxtest::Host
 {
 protected:

@@ -42,7 +42,7 @@ TEST_F(WithoutModule, TheWelcomePageSaysWhatIsMissing)
     EXPECT_EQ(visibleButtons(), QStringList());
 }
 
-/// A module that offers a first step for every project, and further ones for its own class of projects.
+/// A module that offers a first step for every project, and further steps for its own class of projects.
 class Welcome : public Page
 {
 protected:
@@ -144,7 +144,7 @@ TEST_F(Welcome, SaysWhatTheHostCanSayOfProjectsOfOtherClasses)
     EXPECT_EQ(text(), "Double-click an object in the project explorer.");
 }
 
-// The application keeps the commands of these tests, which are therefore the last.
+// The application owns the commands of these tests, so these tests are the last.
 TEST_F(Welcome, OffersToOpenAProjectWhereThereIsSuchACommand)
 {
     ASSERT_TRUE(waitForButtons({"Test_New"}));

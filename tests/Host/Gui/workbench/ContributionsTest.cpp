@@ -19,7 +19,7 @@ namespace {
 using Gui::Contributions;
 using testing::HasSubstr;
 
-/// What modules add to the window. The commands stay in the application, so that each test uses names of its own.
+/// Contributions of modules to the window. The commands stay in the application, so each test uses its own names.
 class Contributed : public vxtest::Host
 {
 protected:
@@ -43,7 +43,7 @@ protected:
             titles << action->text();
         return titles;
     }
-    /// The commands of a menu or bar; "-" for a line.
+    /// Returns the commands of a menu or toolbar; "-" for a line.
     static QStringList namesIn(const QWidget* widget)
     {
         QStringList names;
@@ -225,7 +225,7 @@ TEST_F(Contributed, AboutTextsAreParagraphsOfTheBox)
     EXPECT_TRUE(boxes.shown()[0].text.contains("<p>Probes for every purpose.</p>"));
 }
 
-/// Two workbenches. Test projects have the second one as their own.
+/// Two workbenches. The second one is the workbench of test projects.
 class Workbenches : public Contributed
 {
 protected:
@@ -243,7 +243,7 @@ protected:
     {
         return QTest::qWaitFor([&] { return active() == workbench; });
     }
-    /// The entries of the switch in "View".
+    /// Returns the entries of the switch in "View".
     QList<QAction*> choices() const
     {
         for (const QAction* const action : menu("&View")->actions())
@@ -280,7 +280,7 @@ TEST_F(Workbenches, OfTheCurrentProjectAreChosen)
 {
     vxtest::TestProject& project = makeProject();
     EXPECT_TRUE(waitFor("Test::Workbench"));
-    // The user may choose otherwise, until another project becomes the current one.
+    // The user may choose another workbench until another project becomes the current one.
     EXPECT_TRUE(run("Workbench_Gui::StdSimModule"));
     ASSERT_TRUE(waitFor("Gui::StdSimModule"));
     addObject(project);
@@ -301,7 +301,7 @@ TEST_F(Workbenches, StayWhenTheCurrentProjectHasNone)
 
 TEST_F(Workbenches, AreNotReplacedWhileTheirOwnCommandRuns)
 {
-    // The command is in a menu of the workbench that its project replaces.
+    // The command is in a menu of the workbench that the command's project replaces.
     if (commands().findCommand("L_New") == nullptr)
         commands().new_command(new vxtest::TestCommand("L_New", [] { makeProject(); }));
     contributions.addToMenu("&File", "New", "L_New", "Gui::StdSimModule");

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Menus and bars made from trees of command names. The workbench has all kinds of items.
+/// Menus and toolbars made from trees of command names. The workbench has all kinds of items.
 class Bars : public vxtest::Host
 {
 protected:
@@ -26,7 +26,7 @@ protected:
 TEST_F(Bars, HaveMenusInMenus)
 {
     EXPECT_EQ(textsOf(*window->menuBar()), QStringList({"&Test"}));
-    // Menus without commands are left out, and so is the line before them.
+    // Menus without commands are left out, together with the line before them.
     EXPECT_EQ(textsOf(*menu()), QStringList({"&Copy", "-", "&More"}));
     EXPECT_EQ(textsOf(*menu()->actions().last()->menu()), QStringList({"&Undo", "-", "&Redo"}));
 }

@@ -25,7 +25,7 @@ TEST_F(StdSimModuleTest, HasTheMenuWindowsBeforeHelp)
 TEST_F(StdSimModuleTest, NamesCommandsOfTheHostAlone)
 {
     const std::unique_ptr<Gui::MenuItem> menus(Gui::StdSimModule().build_menu_bar());
-    // These come with the program, which knows files.
+    // The program adds these commands, because only the program uses files.
     const std::set<std::string> ofTheProgram = {"Std_Open", "Std_OpenRecent", "Std_Save", "Std_SaveAs"};
     for (const auto& menu : menus->items())
         for (const auto& item : menu->items()) {

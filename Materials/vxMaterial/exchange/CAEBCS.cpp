@@ -14,7 +14,7 @@ bool isComplete(const StepValue& step)
     return step.values.size() == step.count;
 }
 
-/// The flags of a complete step. Throws std::out_of_range for a step with fewer flags than values, if asserts are off.
+/// Returns the flags of a complete step. Throws std::out_of_range if flags are missing and asserts are off.
 Json::Value flagsOf(const StepValue& step)
 {
     assert(step.imposed.size() >= step.count);
@@ -36,7 +36,7 @@ Json::Value toJson(std::int32_t setId, const StepValue& step)
     return json;
 }
 
-/// The step that `json` describes; null if its arrays differ in length.
+/// Returns the step in `json`; null if its arrays differ in length.
 std::unique_ptr<StepValue> toStep(const Json::Value& json)
 {
     const Json::Value& imposed = json["imposed"];

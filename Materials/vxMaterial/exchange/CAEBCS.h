@@ -11,7 +11,7 @@
 
 namespace vxCAE {
 
-/// The values of a boundary condition in one load step, one for each component, and whether each of them is imposed.
+/// The values of a boundary condition in one load step, one for each component, with a flag for each imposed value.
 struct VXCAE_EXPORT StepValue
 {
     std::vector<double> values;
@@ -31,9 +31,9 @@ public:
 
     /// Sets the condition's members in `json`. Of an incomplete step only id and type are written.
     virtual void writeJson(Json::Value& json) const;
-    /// Reads the condition and adds its steps to those that it has. A step whose arrays differ in length is skipped;
-    /// checkDocument reports it.
-    /// \throws Json::LogicError if a value cannot be converted; the condition keeps what was read before
+    /// Reads the condition and adds its steps to the existing steps. Skips a step whose arrays differ in length;
+    /// checkDocument reports such a step.
+    /// \throws Json::LogicError if a value cannot be converted; the condition keeps the values before it
     virtual void readJson(const Json::Value& json);
     // Writing and reading must be the first two virtual operations, in front of the destructor.
     virtual ~CAEBC();

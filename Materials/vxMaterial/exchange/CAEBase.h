@@ -6,10 +6,10 @@
 
 #include <cstdint>
 
-/// The exchange set: the document that user interface and solver exchange.
+/// The exchange set: the document that the user interface and the solver exchange.
 namespace vxCAE {
 
-/// What a document is for: the values of "proj_type".
+/// The purpose of a document: the values of "proj_type".
 struct ProjectKind
 {
     enum : std::uint32_t
@@ -19,7 +19,7 @@ struct ProjectKind
     };
 };
 
-/// What is solved: the values of "physics_type".
+/// The physics of an analysis: the values of "physics_type".
 struct PhysicsType
 {
     enum : std::int32_t
@@ -46,8 +46,8 @@ struct AnalysisType
     };
 };
 
-/// One section of the exchange set. All sections are written into, and read from, one JSON object, in which each has other
-/// members.
+/// One section of the exchange set. All sections share one JSON object. Each section has its own members in this
+/// object.
 ///
 /// The keys in written documents are constants of this library, which must stay loaded as long as the documents exist.
 ///
@@ -63,14 +63,14 @@ public:
     virtual const char* typeName() const = 0;
 
     /// Adds the section to `document`, an object or null. Members of other sections stay.
-    /// \throws Json::LogicError if `document` is of another kind; std::out_of_range as CAESolve::writeJson says. The
-    /// document keeps what was written before.
+    /// \throws Json::LogicError if `document` has another kind; std::out_of_range as in CAESolve::writeJson. The
+    /// document keeps the members written before.
     virtual void writeJson(Json::Value& document) const = 0;
 
-    /// Fills the section from `document`. If a value cannot be read, a section that is one object of the document stays
-    /// unchanged, and a section that is a list keeps the elements before that value.
-    /// \throws Json::LogicError if a value cannot be converted: a text in place of a number, a negative number in place of
-    /// an unsigned one, an array in place of an object; Json::RuntimeError as CAESolve::readJson says
+    /// Fills the section from `document`. If a value cannot be read, a section that is one object stays unchanged, and
+    /// a section that is a list keeps the elements before that value.
+    /// \throws Json::LogicError if a value cannot be converted: a text in place of a number, a negative number in place
+    /// of an unsigned one, an array in place of an object; Json::RuntimeError as in CAESolve::readJson
     virtual void readJson(const Json::Value& document) = 0;
 
 protected:

@@ -12,8 +12,8 @@
 
 namespace vxCAE {
 
-/// The conditions of one body: its material, body force, topology and, for a shell, its section. A field has the name of
-/// its JSON member. It owns its material entry, of whose material only the name is exchanged here: the materials are
+/// The conditions of one body: its material, body force, topology and, for a shell, its section. A field has the name
+/// of its JSON member. The entry owns its material entry but exchanges only the name of the material: the materials are
 /// in the materials section and are matched by `mat_id`.
 struct VXCAE_EXPORT DomainEntry
 {
@@ -22,7 +22,7 @@ struct VXCAE_EXPORT DomainEntry
     DomainEntry& operator=(const DomainEntry&) = delete;
     ~DomainEntry();
 
-    /// Whether thickness and integration points matter: whether the topology is "Shell" or "shell".
+    /// Returns whether the topology is "Shell" or "shell". Thickness and integration points matter only for a shell.
     bool isShell() const;
 
     bool has_bforce = false;
@@ -43,7 +43,7 @@ struct VXCAE_EXPORT ContactEntry
     const std::string& getFormulation() const { return formulation; }
     bool getFiniteSliding() const { return finite_sliding; }
     void setFiniteSliding(bool finite) { finite_sliding = finite; }
-    /// Returns the solver's word for the sliding: "FSLID" if it is finite, else "SSLID".
+    /// Returns the solver's word for the sliding: "FSLID" if it is finite, otherwise "SSLID".
     const char* getSlidingText() const;
 
     std::uint32_t obj_id;
@@ -68,16 +68,16 @@ public:
     void writeJson(Json::Value& document) const override;
     void readJson(const Json::Value& document) override;
 
-    /// Stores `domain`, not null, under `objectId`, and destroys an earlier one.
+    /// Stores `domain`, which must not be null, under `objectId`, and destroys an earlier one.
     void addDomain(std::uint32_t objectId, std::unique_ptr<DomainEntry> domain);
-    /// Stores `contact`, not null, under `objectId`, and destroys an earlier one.
+    /// Stores `contact`, which must not be null, under `objectId`, and destroys an earlier one.
     void addContact(std::uint32_t objectId, std::unique_ptr<ContactEntry> contact);
 
-    /// Returns the material entry of a domain, which belongs to that; null if the domain is unknown.
+    /// Returns the material entry of a domain, which owns it; null if the domain is unknown.
     MaterialEntry* getDomainMaterial(std::uint32_t objectId) const;
-    /// Whether a domain has a material of any nonlinear kind.
+    /// Returns whether a domain has a material of any nonlinear kind.
     bool hasNonlinearMaterial() const;
-    /// Whether a domain has a material of a creep or viscous kind.
+    /// Returns whether a domain has a material of a creep or viscous kind.
     bool hasCreepOrViscousMaterial() const;
 
     std::map<std::uint32_t, std::unique_ptr<DomainEntry>> domains;   ///< by object id

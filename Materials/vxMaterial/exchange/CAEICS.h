@@ -10,8 +10,8 @@
 
 namespace vxCAE {
 
-/// One initial condition: a value of a type at the start of the analysis. Unlike a section, it is written into and read
-/// from an object of which it is the only content.
+/// One initial condition: a value of a type at the start of the analysis. Unlike a section, it is the only content of
+/// its JSON object.
 class VXCAE_EXPORT CAEIC : public CAEBase
 {
 public:

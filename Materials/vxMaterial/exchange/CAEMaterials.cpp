@@ -75,7 +75,7 @@ void CAEMaterials::readJson(const Json::Value& document)
 void CAEMaterials::addMaterial(std::uint32_t number, std::unique_ptr<MaterialEntry> entry)
 {
     assert(entry != nullptr);
-    // With the hint, materials in ascending order, which documents have, take constant time each.
+    // The hint makes an insertion in ascending order, as in documents, take constant time.
     entries.insert_or_assign(entries.end(), number, std::move(entry));
 }
 

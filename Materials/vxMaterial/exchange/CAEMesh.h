@@ -11,13 +11,13 @@
 namespace vxCAE {
 
 /// The mesh that the solver loads, and its contents. A field has the name of its JSON member. The solver numbers mesh
-/// sources and element types; the section carries them unchanged.
+/// sources and element types; the section does not interpret the numbers.
 class VXCAE_EXPORT CAEMesh : public CAEBase
 {
 public:
     const char* typeName() const override;
     void writeJson(Json::Value& document) const override;
-    /// Adds the mesh parts in the document to those of the section.
+    /// Adds the mesh parts in the document to the mesh parts of the section.
     void readJson(const Json::Value& document) override;
 
     /// Returns the names of the files of the mesh parts, by ascending id: "sm2.vxmsh", "sm10.vxmsh".

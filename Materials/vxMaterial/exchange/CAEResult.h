@@ -8,8 +8,8 @@
 
 namespace vxCAE {
 
-/// Where and how the solver writes results and logs. A field has the name of its JSON member. The solver numbers the result
-/// formats; the section carries them unchanged.
+/// The form and place of the results and logs of the solver. A field has the name of its JSON member. The solver
+/// numbers the result formats; the section does not interpret the numbers.
 class VXCAE_EXPORT CAEResult : public CAEBase
 {
 public:

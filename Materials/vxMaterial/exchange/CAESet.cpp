@@ -23,7 +23,7 @@ CAESet::CAESet(std::uint32_t project, std::uint32_t kind) : projectId(project), 
 
 CAESet::~CAESet()
 {
-    // In the order of construction, which is not the order in which members are destroyed.
+    // The order of construction differs from the order in which members are destroyed.
     system.reset();
     mesh.reset();
     boundaryConditions.reset();

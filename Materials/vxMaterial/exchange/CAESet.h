@@ -17,7 +17,7 @@
 
 namespace vxCAE {
 
-/// Returns the project kind in the member "proj_type" of a document; 0 if there is none. Throws nothing.
+/// Returns the project kind in the member "proj_type" of a document; 0 if there is none. Does not throw.
 VXCAE_EXPORT std::uint32_t readProjectKind(const Json::Value& document);
 
 /// The numbers of the sections in CAESet::getSection; 2 is unused.
@@ -36,8 +36,8 @@ struct SectionIndex
     };
 };
 
-/// The exchange set of one project, with all sections, which it owns. An analysis project exchanges all of them except the
-/// materials, a material project the materials only. The exchange-set manager takes ownership of the whole set.
+/// The exchange set of one project, which owns its sections. An analysis project exchanges all sections except the
+/// materials; a material project exchanges only the materials. The exchange-set manager owns the whole set.
 ///
 ///     vxCAE::CAESet set(projectId, vxCAE::ProjectKind::Material);
 ///     set.materials->addMaterial(number, std::move(entry));
@@ -46,25 +46,25 @@ struct SectionIndex
 class VXCAE_EXPORT CAESet
 {
 public:
-    /// Makes a set with all eight sections, which have their defaults.
+    /// Makes a set with all eight sections and their defaults.
     CAESet(std::uint32_t project, std::uint32_t kind);
     CAESet(const CAESet&) = delete;
     CAESet& operator=(const CAESet&) = delete;
     virtual ~CAESet();
 
-    /// Returns a section by its SectionIndex; null for every other number. The set keeps the section.
+    /// Returns a section by its SectionIndex; null for every other number. The set owns the section.
     CAEBase* getSection(int index) const;
 
     /// Writes "proj_type" and the sections that the project kind exchanges into `document`, an object or null. Writes
     /// nothing for an unknown kind.
-    /// \throws Json::LogicError, std::out_of_range as the sections do; the document keeps what was written before
+    /// \throws Json::LogicError, std::out_of_range as the sections do; the document keeps the members written before
     void writeJson(Json::Value& document) const;
 
-    /// Reads the sections that the set's own project kind exchanges, whatever "proj_type" the document has.
+    /// Reads the sections that the set's own project kind exchanges. Ignores "proj_type" of the document.
     /// \throws Json::LogicError, Json::RuntimeError as the sections do; the sections read before keep their new values
     void readJson(const Json::Value& document);
 
-    // From the system section, which must exist.
+    // Values of the system section, which must exist.
     struct PhysicsAndAnalysis
     {
         std::int32_t physics;
@@ -76,7 +76,7 @@ public:
     std::int32_t getDimension() const;
     bool getCalculateStress() const;
 
-    // From sections that may be missing; then the arguments are unchanged.
+    // Values of sections that may be missing. If the section is missing, the arguments are unchanged.
     void getModalSettings(std::uint32_t& eigenvalues, double& tolerance, std::uint32_t& iterationLimit) const;
     void getSpectrumModes(std::uint32_t& first, std::uint32_t& last) const;
     void getLogFlags(bool& timeLog, bool& iterationLog) const;
@@ -89,13 +89,13 @@ public:
     std::vector<std::int32_t> getSubsteps() const;
     std::vector<double> getTimeIncrements() const;
 
-    /// Returns "HEAT" for a thermal analysis, else "Unknown".
+    /// Returns "HEAT" for a thermal analysis, otherwise "Unknown".
     const char* getThermalLabel() const;
     /// Returns the solver's word for the analysis: "STATIC" or "NLSTATIC", "Dynamic" (also for a spectrum response),
     /// "Eigen", or "Unknown". A static analysis is nonlinear because of contact in the system or between domains, large
     /// deformation, or the material of a domain.
     const char* getAnalysisLabel() const;
-    /// Returns 11 if the time integration is "Explicit", in this spelling; else 1.
+    /// Returns 11 if the time integration is "Explicit", in this spelling; otherwise 1.
     int getSolverFamily() const;
     /// Returns whether contact in the system, large deformation or the material of a domain makes the analysis nonlinear.
     bool isNonlinear() const;
@@ -103,11 +103,11 @@ public:
     bool hasCreepOrViscousMaterial() const;
     /// Returns whether there are contacts between domains; true without a system section.
     bool hasContacts() const;
-    /// Does as CAESolve::getLoadStep; without a solve section as for a step that the table does not have.
+    /// Calls CAESolve::getLoadStep. Without a solve section, the table has no steps.
     void getLoadStep(std::uint32_t step, std::int32_t& substeps, double& absoluteTolerance,
                      std::int32_t& iterationLimit) const;
-    /// Return the names of mesh and solution: "p3o12" for object 12 of project 3; "error" if the section with the number of
-    /// the object is missing.
+    /// Return the names of mesh and solution: "p3o12" for object 12 of project 3; "error" if the section that contains
+    /// the number of the object is missing.
     std::string getMeshTag() const;
     std::string getSolutionTag() const;
 

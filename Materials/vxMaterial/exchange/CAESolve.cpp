@@ -9,8 +9,8 @@ namespace vxCAE {
 
 namespace {
 
-/// Reads an element for each step, by index. Elements that the array lacks become 0 or false; a value that is not an array
-/// is refused.
+/// Reads an element for each step, by index. Missing elements of the array become 0 or false; a value that is not an
+/// array is refused.
 template <class Element>
 void readColumn(std::vector<Element>& list, const Json::Value& array, const detail::StepColumn<Element>& column,
                 std::uint32_t steps)

@@ -9,7 +9,7 @@
 
 namespace vxCAE {
 
-/// How an analysis is solved: solver, limits, and the load-step table. A field has the name of its JSON member.
+/// The settings of the solution: solver, limits, and the load-step table. A field has the name of its JSON member.
 ///
 /// The seven lists form the table: element i of each belongs to load step i + 1. `n_load_steps` is the number of steps, and
 /// each list must have at least as many elements.
@@ -19,7 +19,7 @@ public:
     const char* typeName() const override;
     /// \throws std::out_of_range if a list is shorter than `n_load_steps`; the document is unchanged
     void writeJson(Json::Value& document) const override;
-    /// Reads elements that the arrays lack as 0 or false; refuses a column that is not an array.
+    /// Reads missing elements of the arrays as 0 or false; refuses a column that is not an array.
     /// \throws Json::RuntimeError if "n_load_steps" exceeds the length of the longest array by more than a million: no
     /// analysis has so many steps without values, and their lists could exhaust the memory
     void readJson(const Json::Value& document) override;

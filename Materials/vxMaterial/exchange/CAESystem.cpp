@@ -17,8 +17,8 @@ const char* CAESystem::typeName() const
 
 void CAESystem::writeJson(Json::Value& document) const
 {
-    // The modal and spectrum members are never written: the format adds them if the analysis type equals a word, but the
-    // type is a number.
+    // The modal and spectrum members are never written. The format requires that the analysis type equals a word, but
+    // the type is a number.
     Json::Value system(Json::objectValue);
     detail::writeMembers(*this, detail::systemMembers, system);
     document["system"] = std::move(system);

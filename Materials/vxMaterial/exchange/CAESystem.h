@@ -8,8 +8,8 @@
 
 namespace vxCAE {
 
-/// What an analysis solves. A field has the name of its JSON member. The solver defines the numbers of solver form and
-/// dimension; the section carries them unchanged.
+/// The system that an analysis solves. A field has the name of its JSON member. The solver defines the numbers of
+/// solver form and dimension; the section does not interpret the numbers.
 ///
 /// The format has two asymmetries: the deform type is written as "deform_type" and read as "defrom_type", and the settings
 /// of modal and spectrum analyses are read but never written.
@@ -28,7 +28,7 @@ public:
     void setPhysicsAndAnalysis(std::int32_t physics, std::int32_t analysis);
     std::int32_t getDimension() const;
     void setDimension(std::int32_t dimension);
-    /// Returns whether the system makes the analysis nonlinear, by contact or large deformation.
+    /// Returns whether contact or large deformation makes the analysis nonlinear.
     bool isNonlinear() const;
 
     std::int32_t physics_type = PhysicsType::NotSet;

@@ -30,7 +30,7 @@ void addCard(CardSet& set, const char* name, std::string text)
     set.cards.push_back({name, std::move(text)});
 }
 
-/// Returns the names of the words and lists that the material should have and a document does not carry.
+/// Returns the names of the words and lists that the material should have and a document does not contain.
 std::string lostWordsAndLists(const vxMat::CMaterial& material)
 {
     std::string names;
@@ -43,7 +43,7 @@ std::string lostWordsAndLists(const vxMat::CMaterial& material)
     return names;
 }
 
-/// Doubts that the numbers of a list from the place `first` on are not in the plasticity card.
+/// Adds a doubt: the plasticity card lacks the numbers of a list from the position `first` on.
 void doubtLeftOut(CardSet& set, const vxMat::CMaterial& material, std::int32_t id, std::size_t first,
                   const std::string& reason)
 {
@@ -55,7 +55,7 @@ void doubtLeftOut(CardSet& set, const vxMat::CMaterial& material, std::int32_t i
                          ", " + reason + ": " + vxjson::shortened(vxMat::formatNumberList(leftOut)));
 }
 
-/// Doubts the numbers of a hardening curve that a multilinear card leaves out.
+/// Adds doubts about the numbers of a hardening curve that a multilinear card omits.
 void doubtCurve(CardSet& set, const vxMat::CMaterial& material)
 {
     const std::string yield = material.getPropertyText(PropertyId::PlasticYieldType);
@@ -89,7 +89,7 @@ void addPlasticityCard(CardSet& set, const MaterialEntry& entry, MaterialSource 
         addCard(set, "plasticity", std::move(card));
 }
 
-/// Doubts the models of the material that get no card, since a material has only one kind.
+/// Adds doubts about the models of the material that get no card, since a material has only one kind.
 void doubtPassedOverModels(CardSet& set, const MaterialEntry& entry)
 {
     for (const auto& [id, kind] : {std::pair(PropertyId::ViscoElasticity, MaterialKind::ViscoElastic),

@@ -8,11 +8,11 @@
 
 namespace vxCAE {
 
-/// Where a material comes from, on which it depends what can be missing in its cards.
+/// The source of a material. It determines which data can be missing in the cards.
 enum class MaterialSource
 {
     Complete, ///< the library or a project: with words and lists
-    Document, ///< an exchange document, which carries only numbers
+    Document, ///< an exchange document, which contains only numbers
 };
 
 /// One card of a material.
@@ -20,19 +20,19 @@ struct SolverCard
 {
     std::string name; ///< "elasticity", "plasticity", "visco-elasticity", "creep", "density", "specific
                       ///< heat", "thermal conductivity"
-    std::string text; ///< as the solver reads it
+    std::string text; ///< in the form that the solver reads
 };
 
-/// The cards of a material, and their defects, which the user should read before using them.
+/// The cards of a material, and their defects. The user should read the defects before using the cards.
 struct CardSet
 {
-    std::vector<SolverCard> cards;   ///< every card that applies to the material, none of them empty
-    std::vector<std::string> doubts; ///< cards that are missing, are a message, or lack numbers
+    std::vector<SolverCard> cards;   ///< every card that applies to the material; no card is empty
+    std::vector<std::string> doubts; ///< cards that are missing, contain a message, or lack numbers
 };
 
 /// Returns every card that applies to the material of a classified entry: the elasticity line if the material has
-/// elastic data, the card of its kind, and a table for each of density, specific heat and thermal conductivity that it
-/// has.
+/// elastic data, the card of its kind, and a table for each existing value of density, specific heat and thermal
+/// conductivity.
 VXCAE_EXPORT CardSet makeCardSet(const MaterialEntry& entry, MaterialSource source);
 
 } // namespace vxCAE

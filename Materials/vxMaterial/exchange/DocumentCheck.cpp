@@ -104,7 +104,7 @@ const Json::Value* checkObject(MemberCheck& check, const Json::Value& document, 
     return nullptr;
 }
 
-/// Checks a member that is written under one key and read under another. What was written is lost unless it is the same.
+/// Checks a member whose keys for writing and reading differ. Reading loses the written value unless both are equal.
 template <class Row>
 void checkOneWayMember(MemberCheck& check, const Json::Value& section, const Row& row, const std::string& path)
 {

@@ -17,7 +17,7 @@ using vxMat::PropertyId;
 
 namespace {
 
-/// The numbers of a material under some ids, in their order; absent if one is missing.
+/// Returns the numbers of a material under some ids, in the order of the ids; absent if one is missing.
 std::optional<std::vector<double>> findNumbers(const vxMat::CMaterial& material,
                                                std::initializer_list<std::int32_t> ids)
 {
@@ -47,8 +47,8 @@ std::string dataLine(const std::vector<double>& numbers)
     return " " + joined(numbers) + "\n";
 }
 
-/// A card of one data line, or of a message in its place. A message of a plasticity card begins with the blank of the data
-/// line; the others do not.
+/// Returns a card of one data line, or of a message in its place. The message of a plasticity card begins with the
+/// blank of the data line; the messages of the other cards do not.
 std::string oneLineCard(const std::string& header, const std::optional<std::vector<double>>& numbers,
                         const char* message)
 {
@@ -97,8 +97,8 @@ std::string pressureDependentBilinear(const vxMat::CMaterial& material, const st
                        " Invalid dViscosity, dFAI, and dHFactor.\n");
 }
 
-/// The header of this card names MISES too, the friction angle is in front of the first line, and the yield stresses are
-/// not used.
+/// Returns a card whose header contains MISES too. The friction angle is in front of the first line, and the yield
+/// stresses are not used.
 std::string pressureDependentMultilinear(const vxMat::CMaterial& material)
 {
     std::string card = "!PLASTIC, YIELD=MISES, HARDEN=MULTILINEAR\n";

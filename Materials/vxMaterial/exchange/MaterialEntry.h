@@ -25,16 +25,16 @@ struct MaterialKind
     };
 };
 
-/// A material as it is passed to the solver, with its model kind and its solver cards. It owns the material.
+/// A material in the form for the solver, with its model kind and its solver cards. The entry owns the material.
 ///
 /// The cards are the solver's text form of nonlinear and thermal data. No operation fails: a model that does not apply
-/// gives the empty text, and a missing value one of the messages below in place of the data. Messages begin with
-/// "Invalid" and end with a line feed; the writer of solver input decides whether to use such a card. Numbers have six
+/// gives the empty text, and a missing value gives one of the messages below in place of the data. Messages begin with
+/// "Invalid" and end with a line feed. The writer of solver input decides whether to use such a card. Numbers have six
 /// significant digits unless noted otherwise.
 class VXCAE_EXPORT MaterialEntry
 {
 public:
-    /// A number of a material, and whether the material has it; 0.0 if it does not.
+    /// A number of a material with a flag for its presence; 0.0 if the material does not have it.
     struct FoundValue
     {
         double value = 0.0;
@@ -54,7 +54,7 @@ public:
     bool classifyKind();
 
     FoundValue getDensity() const;
-    /// Whether the material has all of density, specific heat and thermal conductivity.
+    /// Returns whether the material has all of density, specific heat and thermal conductivity.
     bool hasThermalData() const;
 
     /// Returns Young's modulus and Poisson's ratio with six decimals and without a line end,
@@ -68,13 +68,13 @@ public:
     /// - Mises, bilinear (also without a hardening type): initial yield stress and hardening factor, or "Invalid
     ///   dIniYStress and dHFactor\n";
     /// - Mises, multilinear: a line of yield stress and plastic strain for each pair of the two lists. Yield stresses
-    ///   without a strain at their position are left out;
+    ///   without a strain at their position are omitted;
     /// - Drucker-Prager and Mohr-Coulomb, bilinear (also without a hardening type): viscosity, friction angle and
     ///   hardening factor, or "Invalid dViscosity, dFAI, and dHFactor.\n";
     /// - Drucker-Prager and Mohr-Coulomb, multilinear: friction angle, then plastic strain and viscosity line by line
-    ///   under a header that says MISES, or "Invalid dFAI and dViscosity.\n". The solver expects this form.
+    ///   under a header that contains MISES, or "Invalid dFAI and dViscosity.\n". The solver expects this form.
     ///
-    /// Words are compared without regard to case.
+    /// The comparison of words ignores case.
     std::string getPlasticityCard() const;
 
     /// Returns the card of the visco-elastic kind: shear relaxation modulus and relaxation time, or "Invalid
@@ -90,7 +90,7 @@ public:
     std::string getThermalConductivityTable() const; ///< "Invalid dThermalConduct.\n" if it is missing
 
     std::int32_t kind = MaterialKind::Linear;
-    std::unique_ptr<vxMat::CMaterial> material; ///< never null, unless its owner has moved it away
+    std::unique_ptr<vxMat::CMaterial> material; ///< never null, unless its owner moves it away
 };
 
 } // namespace vxCAE

@@ -7,16 +7,16 @@
 #include <tuple>
 #include <type_traits>
 
-/// Member lists: which field of an object is exchanged under which key of its JSON object, and by which conversion. Each list
-/// exists once, as a tuple of rows (SectionMembers.h), which writers, readers and the check of documents walk.
+/// Member lists map the fields of an object to the keys of its JSON object, with the conversion. Each list exists once,
+/// as a tuple of rows (SectionMembers.h). Writers, readers and the check of documents use the same list.
 namespace vxCAE::detail {
 
-/// The conversion by which a reader takes a value.
+/// The conversion that a reader applies to a value.
 enum class Conversion
 {
     Signed,
     Unsigned,
-    Count, ///< an unsigned number for a signed field: beyond 2147483647 it turns negative
+    Count, ///< an unsigned number for a signed field: a number above 2147483647 becomes negative
     Real,
     Boolean,
     Text,
@@ -60,7 +60,7 @@ constexpr Member<Object, std::int32_t> count(const char* key, std::int32_t Objec
     return {key, field, Conversion::Count, key};
 }
 
-/// As `count`, for a field that is read under another key than it is written under.
+/// Like `count`, for a field whose keys for reading and writing differ.
 template <class Object>
 constexpr Member<Object, std::int32_t> countReadAs(const char* key, std::int32_t Object::*field, const char* readKey)
 {
@@ -107,8 +107,8 @@ void readMembers(Object& object, const Members& members, const Json::Value& json
     });
 }
 
-/// Calls `visit` with each element of an array in the order of the indices, with null for an index that is not used. It
-/// uses an iterator, since looking up every index costs n log n. A value that is not an array has no elements.
+/// Calls `visit` with each element of an array in the order of the indices, with null for an unused index. Uses an
+/// iterator, since looking up every index costs n log n. A value that is not an array has no elements.
 /// \throws Json::LogicError if `array` is an object that is not empty
 template <class Visit>
 void forEachElement(const Json::Value& array, Visit visit)
@@ -125,7 +125,7 @@ void forEachElement(const Json::Value& array, Visit visit)
     }
 }
 
-/// Returns a list as a JSON array; null if it is empty, as an array to which nothing was appended.
+/// Returns a list as a JSON array; null if it is empty, like an array without appended elements.
 template <class List>
 Json::Value toArray(const List& list)
 {

@@ -15,10 +15,10 @@
 #include <tuple>
 #include <vector>
 
-/// The member lists of the sections: which field is exchanged under which key.
+/// The member lists of the sections: the fields and the keys under which they are exchanged.
 namespace vxCAE::detail {
 
-// The format has "defrom_type" for the reading side, and keeps it.
+// The format has "defrom_type" for reading. This spelling must not change.
 inline constexpr auto systemMembers =
     std::make_tuple(count("physics_type", &CAESystem::physics_type), count("analysis_type", &CAESystem::analysis_type),
                     count("solver_form", &CAESystem::solver_form),
@@ -59,8 +59,8 @@ inline constexpr auto stepColumns =
                     StepColumn<double>{"nl_rel_tol", &CAESolve::nl_rel_tol, Conversion::Real},
                     StepColumn<std::int32_t>{"nl_max_its", &CAESolve::nl_max_its, Conversion::Count});
 
-/// Whether a document claims a million load steps more than its arrays have elements. Readers make room for every
-/// step that is claimed; the limit bounds the memory that one wrong number can ask for.
+/// Returns whether a document claims a million load steps more than its arrays have elements. Readers allocate memory
+/// for every claimed step; the limit bounds the memory that one wrong number can request.
 inline bool claimsTooManySteps(const Json::Value& solve, std::uint32_t steps)
 {
     constexpr std::uint64_t mostMissing = 1000000;

@@ -4,16 +4,16 @@
 
 #include <string>
 
-/// The texts of library and catalogue in the language of the user.
+/// The texts of the library and the catalogue in the language of the user.
 ///
-/// Each kind of text has a translation context of its own. A comment cannot tell apart a name and a key of the same
-/// spelling ("Plasticity", "Creep"): compiled translation files drop a comment that no other entry of the same text needs,
-/// and the translator then finds the translation of the name for the key as well. A translated key, unit or value would
-/// reach documents and solver cards; the translations of the program therefore contain names and descriptions only.
+/// Each kind of text has its own translation context. A comment cannot distinguish a name from a key of the same
+/// spelling ("Plasticity", "Creep"): compiled translation files drop a comment that no other entry of the same text
+/// needs. The translator then finds the translation of the name for the key. A translated key, unit or value would
+/// reach documents and solver cards; the translations therefore contain only names and descriptions.
 namespace MatGui {
 
-/// What a text of a property is. Each has the translation context "vxMat::Property" with the name of the enumerator:
-/// "vxMat::PropertyName".
+/// The kinds of texts of a property. Each kind has the translation context "vxMat::Property" with the name of the
+/// enumerator: "vxMat::PropertyName".
 enum class PropertyText
 {
     Name,
@@ -23,10 +23,10 @@ enum class PropertyText
     Unit,
 };
 
-/// Returns the name of a material, such as "Structural Steel", as the user reads it. The context is "vxMat::MaterialBase".
+/// Returns the translated name of a material, such as "Structural Steel". The context is "vxMat::MaterialBase".
 QString translateMaterialName(const std::string& name);
 
-/// Returns a text of a property as the user reads it.
+/// Returns the translated text of a property.
 QString translatePropertyText(const std::string& text, PropertyText kind);
 
 } // namespace MatGui

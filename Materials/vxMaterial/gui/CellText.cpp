@@ -15,9 +15,9 @@ namespace MatGui {
 namespace {
 
 constexpr QChar ellipsis(0x2026);
-constexpr QChar breakPlace(0x200b); // of no width
+constexpr QChar breakPlace(0x200b); // has no width
 
-/// A text with places for line breaks, cut to more than any cell can show, so that long lists cost no time.
+/// Returns a text with places for line breaks. Cuts it to more than any cell can show, so that long lists cost no time.
 QString withBreakPlaces(QString text)
 {
     constexpr int most = 4000;
@@ -25,7 +25,7 @@ QString withBreakPlaces(QString text)
         text = text.left(most) + ellipsis;
     for (const char separator : {',', ';'})
         text.replace(QLatin1Char(separator), QString(QLatin1Char(separator)) + breakPlace);
-    // The layout takes a line feed for a character like any other.
+    // The layout treats a line feed as a normal character.
     text.replace(QLatin1Char('\n'), QChar::LineSeparator);
     return text;
 }

@@ -68,7 +68,7 @@ constexpr Row rows[] = {
      "norvex_exportmaterial", "AppMaterial", "AppMaterial", std::nullopt, std::nullopt},
 };
 
-/// Objects of these classes are parts of every analysis, and are not deleted by the command.
+/// Objects of these classes are parts of every analysis. The command does not delete them.
 constexpr std::array<std::string_view, 5> protectedClasses = {
     "Fem::FemGeometryGroup", "Fem::FemMeshGroup", "Fem::FemStudy", "Fem::FemSolution", "Fem::FemConnections"};
 
@@ -78,7 +78,7 @@ bool isProtected(const Obj::ProjectObject& object)
            protectedClasses.end();
 }
 
-/// The first material project; null if there is none.
+/// Returns the first material project; null if there is none.
 Obj::Project* findMaterialProject()
 {
     const std::vector<Obj::Project*> projects = Obj::Application::get_projects(materialProjectTag);
@@ -136,7 +136,7 @@ void deleteEntries(const std::vector<Gui::CSelectionType>& entries)
 {
     const UpdatesOff quiet;
     for (const Gui::CSelectionType& entry : entries) {
-        // The deletion of one entry may have deleted another, or closed the project.
+        // The deletion of one entry may delete another entry or close the project.
         Obj::ProjectObject* const object = entry.get_object();
         if (object == nullptr || isProtected(*object))
             continue;
@@ -153,7 +153,7 @@ bool isOpen(std::uint32_t projectId)
     return Obj::Application::instance().get_project(projectId) != nullptr;
 }
 
-/// The only material project; null if there is none or more than one.
+/// Returns the only material project; null if there is none or more than one.
 Mat::DocumentMaterial* findProjectToExport()
 {
     const std::vector<Obj::Project*> projects = Obj::Application::get_projects(materialProjectTag);
@@ -261,7 +261,7 @@ void MatCmdDelete::activated(int)
     for (const Obj::Project* const project : Obj::Application::get_projects())
         projectIds.push_back(project->getProjectId());
     for (const std::uint32_t projectId : projectIds) {
-        // The project may be closed while the user answers a question about it or about another one.
+        // The project may be closed while a question about this project or another project is open.
         const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
         if (project == nullptr)
             continue;
@@ -319,7 +319,7 @@ void CmdMatImport::activated(int)
                                          translated("All (*)"), &selectedFilter);
     if (path.isEmpty())
         return;
-    // The project may have been closed while the dialog was open.
+    // The project may be closed while the dialog is open.
     Obj::Project* const project = Obj::Application::get_current_project();
     if (project == nullptr)
         return;
@@ -357,7 +357,7 @@ void CmdMatExport::activated(int)
         Gui::MainWindow::get_main_window_inst(), translated("Export materials"), QString(), filter, &selectedFilter);
     if (path.isEmpty())
         return;
-    // The project may have been closed while the dialog was open.
+    // The project may be closed while the dialog is open.
     if (Obj::Project* const project = Obj::Application::instance().get_project(projectId))
         static_cast<Mat::DocumentMaterial*>(project)->exportToFile(path.toStdString(), '\t', '"', '\\');
 }

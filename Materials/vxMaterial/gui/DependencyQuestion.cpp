@@ -9,7 +9,7 @@ namespace MatGui {
 
 namespace {
 
-/// A message box takes Escape and its close button for its only button, which would delete the objects here.
+/// A message box treats Escape and its close button like its only button, which would delete the objects here.
 class Question final : public QMessageBox
 {
 public:
@@ -39,8 +39,8 @@ bool askAboutDependencies(QWidget* parent)
                       QCoreApplication::translate("Mat_Delete", "This object is linked to other objects thus these "
                                                                 "objects might be broken.\nDo you want to continue?"),
                       QMessageBox::Yes, parent);
-    // The default button is No, which is not offered, so that no button is marked as the default. Return still means Yes: a
-    // dialog gives it to the button that has the keyboard.
+    // The default button is No, which is not visible, so that no button is marked as the default. Return still means
+    // Yes: a dialog sends it to the button that has the keyboard focus.
     question.setDefaultButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
 }

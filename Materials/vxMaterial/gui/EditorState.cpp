@@ -14,7 +14,7 @@ constexpr std::pair<const char*, QString SheetRow::*> textMembers[] = {
     {"key", &SheetRow::key},   {"unit", &SheetRow::unit},
 };
 
-/// A step of the undo stack. The editor already shows the later state while the step is made.
+/// A step of the undo stack. The editor already shows the later state when the step is pushed.
 class EditStep final : public QUndoCommand
 {
 public:

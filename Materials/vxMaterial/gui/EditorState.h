@@ -12,7 +12,7 @@
 
 namespace MatGui {
 
-/// What the user edits in a material editor.
+/// The state of a material editor that the user changes.
 struct EditorState
 {
     std::vector<SheetRow> rows;
@@ -27,7 +27,7 @@ struct EditorState
 /// Returns a state as a record: {"rows": [{"id": 4, "name": ..., "value": ...}, ...], "checked": [4, ...]}.
 Json::Value toJson(const EditorState& state);
 
-/// Returns the state in a record; absent if the value is not such a record.
+/// Returns the state in a record; absent if the value is not a valid record.
 std::optional<EditorState> toEditorState(const Json::Value& record);
 
 /// The edits of a material editor that are not applied, as an undo stack.
@@ -39,10 +39,10 @@ public:
 
     QUndoStack& stack() { return m_stack; }
 
-    /// Forgets all steps and starts at `state`, which is that of the material.
+    /// Removes all steps and starts at `state`, which is the state of the material.
     void restart(EditorState state);
 
-    /// Makes a step from the last state to `state`, unless they are the same.
+    /// Adds a step from the last state to `state`, unless they are the same.
     void note(EditorState state, const QString& text);
 
 private:

@@ -16,16 +16,16 @@ void storeText(const QComboBox& box, QAbstractItemModel& model, const QModelInde
     model.setData(index, box.currentText(), Qt::EditRole);
 }
 
-/// The date in a text; an invalid date if the text has another form than year-month-day, of which Qt's reader of ISO dates
-/// accepts some.
+/// Returns the date in a text; an invalid date if the text does not have the form year-month-day. Qt's reader of ISO
+/// dates accepts some other forms too.
 QDate dateFrom(const QString& text)
 {
     const QDate date = QDate::fromString(text, Qt::ISODate);
     return date.toString(Qt::ISODate) == text ? date : QDate();
 }
 
-/// Shows no date in an editor. Qt's editor ignores an invalid date and would show another one as if it were that of the
-/// cell; it can show a blank for its earliest date only.
+/// Shows no date in an editor. Qt's editor ignores an invalid date and would show another date as the date of the cell.
+/// It can show a blank only for its earliest date.
 void showNoDate(QDateTimeEdit& editor)
 {
     editor.setSpecialValueText(QStringLiteral(" "));
@@ -35,13 +35,13 @@ void showNoDate(QDateTimeEdit& editor)
     line->clear();
 }
 
-/// The date that the user sees in an editor; an invalid date if the editor shows none.
+/// Returns the date that an editor shows; an invalid date if the editor shows none.
 QDate shownDate(const QDateTimeEdit& editor)
 {
     return editor.text().trimmed().isEmpty() ? QDate() : editor.date();
 }
 
-/// Whether a key changes a date: a digit, or an arrow that steps.
+/// Returns whether a key changes a date: a digit, or an arrow that steps.
 bool changesDate(const QKeyEvent& key)
 {
     const QString text = key.text();
@@ -175,7 +175,7 @@ void DateDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewI
 
 bool DateDelegate::eventFilter(QObject* object, QEvent* event)
 {
-    // The editor takes typed digits for parts of the date that it shows. Where it shows none, it starts with today.
+    // The editor treats typed digits as parts of the date that it shows. If it shows none, it starts with today.
     auto* const editor = qobject_cast<QDateTimeEdit*>(object);
     if (editor != nullptr && event->type() == QEvent::KeyPress && changesDate(static_cast<QKeyEvent&>(*event)) &&
         !shownDate(*editor).isValid())

@@ -5,11 +5,11 @@
 #include <QItemDelegate>
 #include <QStyledItemDelegate>
 
-/// Delegates that give the cells of tables their editors. The property table installs NotEditableDelegate; other modules may
-/// use the others.
+/// Delegates that provide editors for the cells of tables. The property table installs NotEditableDelegate; other
+/// modules may use the other delegates.
 
-/// Cells of column 1 have a choice of three words that contain the number of their row, cells of other columns the editor
-/// of Qt.
+/// Cells of column 1 have a choice of three words that contain the number of their row. Cells of other columns have the
+/// editor of Qt.
 class VXMATERIAL_EXPORT ComboBoxItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ public:
     explicit ComboBoxItemDelegate(QObject* parent = nullptr);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Selects the word in the cell, of which the case matters; another text leaves the selection unchanged.
+    /// Selects the word in the cell, with regard to case. Another text leaves the selection unchanged.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 };
 
 namespace MatGui {
 
-/// Cells that cannot be edited: they have no editor and ignore every event. Long texts are drawn over several lines.
+/// Cells that cannot be edited: they have no editor and ignore every event. Long texts have several lines.
 class VXMATERIAL_EXPORT NotEditableDelegate : public QItemDelegate
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ public:
     explicit ComboDelegate(QObject* parent = nullptr);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Selects the text in the cell, of which the case matters; another text clears the selection.
+    /// Selects the text in the cell, with regard to case. Another text clears the selection.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -73,7 +73,7 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
-    /// Lets the user type a date where the editor shows none.
+    /// Lets the user type a date if the editor shows none.
     bool eventFilter(QObject* object, QEvent* event) override;
 };
 

@@ -28,7 +28,7 @@ namespace MatGui {
 
 namespace {
 
-/// Runs the action of a slot, which must not throw through Qt. Returns whether it ran to its end; otherwise tells the user
+/// Runs the action of a slot and catches its exceptions. Returns whether the action succeeded; otherwise shows the user
 /// the reason.
 template <class Action>
 bool guarded(const Action& action)
@@ -43,7 +43,7 @@ bool guarded(const Action& action)
     }
 }
 
-/// The windows with changes that are not applied and that wait to be closed.
+/// The windows with unapplied changes that wait to be closed.
 struct Closing
 {
     QPointer<MaterialView> asked; ///< the window whose question is open
@@ -62,7 +62,7 @@ void closeCurrentWindow()
         mainWindow->close_current_window();
 }
 
-/// A value as messages show it, which may be a list of thousands of numbers.
+/// Returns a value in the form for messages. The value may be a list of thousands of numbers.
 QString shortened(const QString& value)
 {
     constexpr int most = 80;
@@ -91,14 +91,14 @@ Qt::CheckState checkState(bool checked)
     return checked ? Qt::Checked : Qt::Unchecked;
 }
 
-/// The list at `index`; null if there is no such list or the index is out of range.
+/// Returns the list at `index`; null if there is no list at this index.
 QListWidget* listAt(std::initializer_list<QListWidget*> lists, int index)
 {
     const bool inside = index >= 0 && static_cast<std::size_t>(index) < lists.size();
     return inside ? lists.begin()[index] : nullptr;
 }
 
-/// The first row that was not among the earlier rows; -1 if there is none.
+/// Returns the first row that is not among the earlier rows; -1 if there is none.
 int firstNewRow(const std::vector<SheetRow>& before, const std::vector<SheetRow>& now)
 {
     const auto isNew = [&before](const SheetRow& row) {
@@ -113,7 +113,7 @@ bool isUndo(const QKeyEvent& key)
     return key.matches(QKeySequence::Undo);
 }
 
-/// Whether a key is the platform's key for redo, or Ctrl+Y, which users expect on every platform.
+/// Returns whether a key is the platform's key for redo, or Ctrl+Y, which users expect on every platform.
 bool isRedo(const QKeyEvent& key)
 {
     return key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier);
@@ -133,7 +133,7 @@ MaterialView::MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object,
     preloadMaterialProperties();
     m_ui->tableView->materialObject = m_materialObject;
     m_ui->tableView->loadMaterialObject();
-    // Last, so that the check states set above add no rows.
+    // This connection comes last, so that the check states set above add no rows.
     connectSignals();
     m_history->restart(state());
     setEditedObject(object);
@@ -172,7 +172,7 @@ void MaterialView::makeToolBoxesReachable()
     setTabOrder(lastOfLibrary, m_ui->btnAddMat);
     QWidget* const lastOfBuild = makePagesReachable(*m_ui->toolBoxBuild, m_ui->btnAddMat);
     setTabOrder(lastOfBuild, m_ui->tableView);
-    // The window itself does not take the keyboard.
+    // The window itself does not take the keyboard focus.
     setFocusProxy(m_ui->tabWidget);
 }
 
@@ -197,9 +197,9 @@ void MaterialView::connectSignals()
 
 void MaterialView::watchEdits()
 {
-    // The title has a mark, and the program asks before it ends, as long as edits are not applied.
+    // While edits are unapplied, the title has a mark, and the program asks before it ends.
     connect(&m_history->stack(), &QUndoStack::cleanChanged, this, [this](bool clean) { setWindowModified(!clean); });
-    // The delegate writes values that the user types into the model. Other edits are noted by the slots that make them.
+    // The delegate writes typed values into the model. The slots that make other edits note them.
     const auto note = [this] { guarded([this] { noteEdit(tr("Change value")); }); };
     const QAbstractItemModel* const model = m_ui->tableView->model();
     connect(model, &QAbstractItemModel::dataChanged, this, note);
@@ -329,7 +329,7 @@ void MaterialView::on_material_double_clicked(QListWidgetItem* item)
         return;
     edit(tr("Take library material"), [&] {
         vxMat::MaterialBase* const material = m_libraryItems[item];
-        // The table first: it either shows the whole material or stays as it is, and the check boxes follow it.
+        // Update the table first: it shows either the whole material or its old rows. The check boxes follow it.
         m_ui->tableView->showMaterial(material);
         updatePropertyList(material);
     });
@@ -356,7 +356,7 @@ void MaterialView::on_property_itemChanged(QListWidgetItem* item)
     const QString step = checked ? tr("Add property") : tr("Remove property");
     if (edit(step, [&] { m_ui->tableView->togglePropertyRow(checked, m_propertyItems[item]); }))
         return;
-    // The check box must agree with the table, which has not changed.
+    // The check box must agree with the table, which is unchanged.
     const QSignalBlocker blocker(item->listWidget());
     item->setCheckState(checkState(!checked));
 }
@@ -399,7 +399,7 @@ bool MaterialView::refuse(const QString& title, const QString& reason, int row)
 {
     const QPointer<MaterialView> self(this);
     Mat::showCritical(title, reason);
-    // The window may have been closed while the message was open.
+    // The window may be closed while the message is open.
     if (self != nullptr)
         m_ui->tableView->showRow(row);
     return false;
@@ -424,7 +424,7 @@ void MaterialView::on_btnOK_clicked()
 
 void MaterialView::on_btnCancel_clicked()
 {
-    // The button itself means that the changes are to be discarded.
+    // The Cancel button itself discards the changes.
     const QScopedValueRollback<bool> unasked(m_closesUnasked, true);
     guarded(closeCurrentWindow);
 }
@@ -474,8 +474,8 @@ bool MaterialView::keepsFromHost(const QKeyEvent& key) const
 {
     if (key.key() == Qt::Key_Delete)
         return true;
-    // The host's undo may remove the material, and this window with all edits. A key that is held down must not
-    // reach it after the last edit has been undone.
+    // The host's undo may remove the material, and this window with all edits. A key that the user holds down must not
+    // reach the host after the last edit is undone.
     const bool hasEdits = isWindowModified() || m_history->stack().canRedo();
     return (isUndo(key) && (isWindowModified() || key.isAutoRepeat())) ||
            (isRedo(key) && (hasEdits || key.isAutoRepeat()));
@@ -490,7 +490,7 @@ void MaterialView::closeEvent(QCloseEvent* event)
         m_ui->tableView->finishEditing();
         if (!isWindowModified())
             return;
-        // The answer comes later: the frame that closes the window must not be destroyed while it waits.
+        // The user decides later: the frame that closes the window must not be destroyed while it waits.
         event->ignore();
         askAboutChanges();
     });
@@ -498,7 +498,7 @@ void MaterialView::closeEvent(QCloseEvent* event)
 
 void MaterialView::askAboutChanges()
 {
-    // If all windows are to close, the user answers one question after the other.
+    // If all windows are to close, the windows ask their questions one after the other.
     Closing& closing = closingWindows();
     if (closing.asked == nullptr)
         openQuestion();
@@ -509,7 +509,7 @@ void MaterialView::askAboutChanges()
 void MaterialView::openQuestion()
 {
     const QString text = tr("The changes of \"%1\" have not been applied.");
-    // A child of this window, which destroys it.
+    // This window is the parent of the message box and destroys it.
     auto* const question = new QMessageBox(QMessageBox::Question, tr("Material editor"),
                                            text.arg(QString::fromStdString(m_materialObject->label.getValue())),
                                            QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);

@@ -37,13 +37,13 @@ namespace MatGui {
 class EditorHistory;
 struct EditorState;
 
-/// The window in which the user gives a material object its material: a material of the library, or quantities of the
-/// catalogue, whose values the user edits in the table.
+/// The window in which the user selects the material of a material object: a material of the library, or quantities of
+/// the catalogue, whose values the user edits in the table.
 ///
-/// The table is the working copy. Only Apply and OK write it into the material, either whole or not at all; afterwards it
-/// shows what the material holds. Until then every edit can be undone in the window. If the window is closed with edits
-/// that are not applied, and not by Cancel, it asks the user what to do with them and stays open until then. It is
-/// closed without a question when its material is removed.
+/// The table is the working copy. Only Apply and OK write it into the material, either completely or not at all; then
+/// the table shows the properties of the material. Until then every edit can be undone in the window. If the user
+/// closes the window with unapplied edits, and not by Cancel, it asks what to do with them and stays open until the
+/// user decides. It closes without a question when its material is removed.
 class VXMATERIAL_EXPORT MaterialView : public Gui::MDIWindow
 {
     Q_OBJECT
@@ -63,23 +63,23 @@ public:
     /// group has no page is not shown.
     void preloadMaterialLibrary();
     /// Appends the quantities of the catalogue to the lists of the Build tab, in the order of the catalogue, and checks
-    /// those that the material has.
+    /// the quantities of the material.
     void preloadMaterialProperties();
 
-    /// Leads the user to the row of a property, by its id: scrolls to it, selects it and takes the keyboard. Returns false
-    /// if the table has no such row.
+    /// Shows the user the row of a property, by its id: scrolls to it, selects it and takes the keyboard focus. Returns
+    /// false if the table does not have this row.
     bool showRow(int propertyId);
 
-    /// Returns the reason, in the user's language, against applying values of which a part would be ignored ("210 GPa");
-    /// absent if there are none. Apply itself accepts such values; an application that refuses them returns this in
-    /// Gui::MDIWindow::applying.
+    /// Returns the reason, in the user's language, against applying values of which a part would be ignored ("210
+    /// GPa"); absent if there is no reason. Apply itself accepts such values; an application that refuses them returns
+    /// this text in Gui::MDIWindow::applying.
     std::optional<Gui::ApplyRefusal> findIgnoredText() const;
 
-    /// Returns the edits that are not applied, with text that the user is typing, as a record for restoreUnapplied; null if
+    /// Returns the unapplied edits, including text that the user is typing, as a record for restoreUnapplied; null if
     /// there are none. The record does not depend on the language.
     Json::Value unappliedEdits() const;
-    /// Shows edits that unappliedEdits has returned, as one step of the undo stack. Returns false, and shows nothing, if the
-    /// value is not such a record.
+    /// Shows edits from a record of unappliedEdits, as one step of the undo stack. Returns false and shows nothing if
+    /// the value is not a valid record.
     bool restoreUnapplied(const Json::Value& record);
 
     const char* getName() const override; ///< "MaterialView"
@@ -107,7 +107,7 @@ protected Q_SLOTS:
     void on_property_double_clicked(QListWidgetItem* item);
 
 protected:
-    /// Checks the quantities on the Build tab that `material` has, and no others; the table stays. Does nothing for null.
+    /// Checks the quantities of `material` on the Build tab, and no others; does not change the table. Ignores null.
     void updatePropertyList(vxMat::MaterialBase* material);
 
     void keyPressEvent(QKeyEvent* event) override;
@@ -147,7 +147,7 @@ private:
 
     std::unique_ptr<Ui::MaterialWidget> m_ui;
     Mat::MaterialObject* m_materialObject;
-    // Not owning: the lists own the items, the database of the project owns the materials and properties.
+    // Not owning: the lists own the items; the database of the project owns the materials and properties.
     std::map<QListWidgetItem*, vxMat::MaterialBase*> m_libraryItems;
     std::map<QListWidgetItem*, vxMat::MaterialProperty*> m_propertyItems;
     std::vector<std::unique_ptr<QListWidgetItem>> m_itemsWithoutPage;

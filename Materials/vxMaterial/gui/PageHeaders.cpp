@@ -11,7 +11,7 @@ namespace MatGui {
 
 namespace {
 
-/// A frame over a widget, visible while the widget has the keyboard.
+/// A frame over a widget, visible while the widget has the keyboard focus.
 class FocusFrame final : public QWidget
 {
 public:
@@ -61,7 +61,7 @@ QWidget* makePagesReachable(const QToolBox& box, QWidget* before)
     const QList<QAbstractButton*> headers = headersOf(box);
     for (int page = 0; page < headers.size(); ++page) {
         headers[page]->setFocusPolicy(Qt::TabFocus);
-        new FocusFrame(*headers[page]); // which owns it
+        new FocusFrame(*headers[page]); // the header owns the frame
         QListWidget* const list = listOf(box, page);
         QWidget::setTabOrder(before, headers[page]);
         QWidget::setTabOrder(headers[page], list);

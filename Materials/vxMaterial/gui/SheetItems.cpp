@@ -12,11 +12,11 @@ namespace MatGui {
 
 namespace {
 
-/// What a cell keeps beside the text that it shows.
+/// The data that a cell stores beside the text that it shows.
 enum CellRole : int
 {
-    SourceRole = Qt::UserRole + 1, ///< the text that was translated
-    TranslationRole,               ///< its translation; the cell shows another text after the user has edited it
+    SourceRole = Qt::UserRole + 1, ///< the text before its translation
+    TranslationRole,               ///< the translation; the cell shows another text if the user has edited it
 };
 
 PropertyText kindOf(int column)
@@ -48,7 +48,7 @@ bool isEdited(const QStandardItem& item)
     return item.text() != item.data(TranslationRole).toString();
 }
 
-/// The text of the catalogue if a property has its translation; else the text of the property.
+/// Returns the text of the catalogue if a property has its translation; otherwise the text of the property.
 QString untranslated(const std::string& text, const char* catalogued, PropertyText kind)
 {
     const QString own = QString::fromStdString(text);

@@ -12,23 +12,23 @@ namespace vxMat {
 class MaterialProperty;
 } // namespace vxMat
 
-/// The cells of the property table. A cell keeps the text of the property beside the translation that it shows, so that the
+/// The cells of the property table. A cell stores the text of the property beside the shown translation, so that the
 /// table can follow a change of the language.
 namespace MatGui {
 
 using SheetItems = std::vector<std::unique_ptr<QStandardItem>>;
 
-/// Returns the row that shows a property. Name and description are those of the catalogue if the property has their
-/// translations, as properties made from a table have.
+/// Returns the row that shows a property. If the property has the translated name or description of the catalogue, as a
+/// property made from a row has, the row has the text of the catalogue.
 SheetRow rowOf(const vxMat::MaterialProperty& property);
 
-/// Makes the cells of a row, of which only the value can be edited.
+/// Makes the cells of a row. Only the value can be edited.
 SheetItems makeItems(const SheetRow& row);
 
 /// Appends a row to a model, which takes ownership of the cells.
 void appendRow(QStandardItemModel& model, SheetItems items);
 
-/// Returns the text of a cell before it was translated; the text that it shows if the user has edited it.
+/// Returns the text of a cell before its translation; the shown text if the user has edited the cell.
 QString sourceText(const QStandardItem& item);
 
 /// Translates the text of a cell again, unless the user has edited it.

@@ -4,7 +4,7 @@
 
 namespace MatGui {
 
-/// A row of the property table. The texts are those of the property, not translated; the value is as the user typed it.
+/// A row of the property table. The texts are the untranslated texts of the property; the value is the typed text.
 struct SheetRow
 {
     int id;
@@ -21,7 +21,7 @@ struct SheetRow
     }
 };
 
-/// A row from which no property can be made, because of its value.
+/// A row whose value prevents making a property from it.
 struct UnreadableRow
 {
     enum class Reason
@@ -35,7 +35,7 @@ struct UnreadableRow
     Reason reason;
 };
 
-/// A row of whose value a part would be ignored, as in "210 GPa".
+/// A row with a value that would be read only in part, such as "210 GPa".
 struct PartlyReadRow
 {
     int number; ///< of the row, from 1

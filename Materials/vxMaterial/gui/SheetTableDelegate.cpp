@@ -24,7 +24,7 @@ bool isReturn(const QKeyEvent& event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// The words that a quantity takes, in the language of the user.
+/// Returns the words that a quantity takes, in the language of the user.
 QStringList wordsOf(int id)
 {
     QStringList words;
@@ -33,7 +33,7 @@ QStringList wordsOf(int id)
     return words;
 }
 
-/// Writes the word that is chosen in the list of completions, if it is open, into the line.
+/// Writes the selected word of the list of completions into the line if the list is open.
 void takeChosenWord(QLineEdit& line)
 {
     const QCompleter* const completer = line.completer();
@@ -53,7 +53,7 @@ QWidget* SheetTableDelegate::createEditor(QWidget* parent, const QStyleOptionVie
                                           const QModelIndex& index) const
 {
     auto* const editor = new QLineEdit(parent);
-    // Lists may be longer than the default allows, which would cut them without a word.
+    // Lists may be longer than the default limit, which cuts them without a message.
     editor->setMaxLength(std::numeric_limits<int>::max());
     const QStringList words = wordsOf(index.sibling(index.row(), SheetTableView::Id).data().toInt());
     if (!words.isEmpty()) {
@@ -98,8 +98,8 @@ void SheetTableDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewIt
 
 bool SheetTableDelegate::eventFilter(QObject* object, QEvent* event)
 {
-    // The base would commit once more on Return, after the editor has been closed. The view must not get the key either:
-    // it would open the editor again.
+    // The base class would commit once more on Return, after the editor is closed. The view must not get the key
+    // either: it would open the editor again.
     auto* const line = qobject_cast<QLineEdit*>(object);
     if (line != nullptr && event->type() == QEvent::KeyPress && isReturn(static_cast<QKeyEvent&>(*event))) {
         line->event(event);

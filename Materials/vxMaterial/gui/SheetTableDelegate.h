@@ -6,8 +6,8 @@
 
 namespace MatGui {
 
-/// Edits a cell as a line of text of any length; Return commits it at once. In a row of a quantity whose value is a word
-/// the allowed words complete the text. Long texts are drawn over several lines, lists without blanks as well.
+/// Edits a cell as a line of text of any length; Return commits it at once. In the row of a quantity whose value is a
+/// word, the allowed words complete the text. Long texts, including lists without blanks, have several lines.
 class VXMATERIAL_EXPORT SheetTableDelegate : public QItemDelegate
 {
     Q_OBJECT

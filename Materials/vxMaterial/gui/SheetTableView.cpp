@@ -32,18 +32,18 @@ namespace MatGui {
 
 namespace {
 
-/// Posted to a table whose columns have new widths, before it is painted with them.
+/// An event for a table whose columns have new widths. The table gets it before it is painted.
 const auto fitEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// The value text that is given to the rules. The table reads numbers as QString does, the rules read them differently;
-/// they get the number that QString finds.
+/// Returns the value text for the rules. The table reads numbers as QString does, and the rules read them differently;
+/// the rules get the number that QString finds.
 std::string ruleText(int id, const QString& value)
 {
     const bool isNumber = vxMat::getValueKind(id) == vxMat::ValueKind::Number;
     return isNumber ? vxMat::formatNumber(value.toDouble()) : value.toStdString();
 }
 
-/// Whether a typed word means an allowed word, of which the program shows the translation.
+/// Returns whether a typed word means an allowed word. The program shows the translation of the word.
 bool matchesTranslated(std::string_view allowed, std::string_view typed)
 {
     const QString word = translatePropertyText(std::string(allowed), PropertyText::Value);
@@ -75,7 +75,7 @@ SheetTableView::SheetTableView(QWidget* parent) : QTableView(parent)
     m_model = std::make_unique<QStandardItemModel>(this);
     setupModel();
     connectActions();
-    // Tab leaves the table.
+    // Tab moves the keyboard focus out of the table.
     setTabKeyNavigation(false);
     // A row may be higher than the table.
     setVerticalScrollMode(ScrollPerPixel);
@@ -121,7 +121,7 @@ void SheetTableView::createDelegates()
 
 void SheetTableView::setReadablePalette()
 {
-    // The table is white with black text in dark colour schemes too; every other colour in it must suit this.
+    // The table is white with black text in dark colour schemes too; every other colour in it must fit.
     QPalette colours;
     colours.setBrush(QPalette::Base, QBrush(QColor(255, 255, 255)));
     colours.setBrush(QPalette::Text, QBrush(Qt::black));
@@ -215,7 +215,7 @@ void SheetTableView::togglePropertyRow(bool checked, const vxMat::MaterialProper
 std::vector<SheetRow> SheetTableView::rowsOf(const vxMat::MaterialBase& material) const
 {
     std::vector<SheetRow> rows;
-    // A property shows its own id, also in another slot: the acoustic library materials list density twice.
+    // A property shows its own id, in another slot too: the acoustic library materials list density twice.
     for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material))
         if (isCatalogued(property->id))
             rows.push_back(rowOf(*property));
@@ -364,7 +364,7 @@ void SheetTableView::applyToMaterial()
     vxMat::CMaterial* const material = materialObject != nullptr ? materialObject->getCMaterial() : nullptr;
     if (material == nullptr)
         return;
-    // Made beside the material, which stays as it is if a row cannot be read.
+    // The properties are made in a copy: the material stays unchanged if a row cannot be read.
     vxMat::CMaterial rebuilt;
     for (int row = 0; row < m_model->rowCount(); ++row)
         addRowTo(rebuilt, row);
@@ -452,7 +452,7 @@ int SheetTableView::cellPadding() const
 
 int SheetTableView::longestWord(int column) const
 {
-    // What a cell breaks a text at, unless a part between these is wider than the cell.
+    // A cell breaks a text at these characters, and inside a part that is wider than the cell.
     static const QRegularExpression breaks(QStringLiteral("(?<=[ ,;])"));
     int longest = 0;
     for (int row = 0; row < m_model->rowCount(); ++row)
@@ -476,7 +476,7 @@ int SheetTableView::sizeHintForRow(int row) const
 
 int SheetTableView::fittingWidth(int column) const
 {
-    // Long texts wrap, so that the descriptions have room too. A word or a number does not, as long as there is room.
+    // Long texts wrap, so that the descriptions have space too. Words and numbers do not wrap if there is space.
     const int table = viewport()->width();
     const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
     const int enough = std::max(table * 3 / 10, longestWord(column));
@@ -491,7 +491,7 @@ void SheetTableView::noteWidth(int column)
         return;
     if (column == Name || column == Value)
         m_columnsOfUser.insert(column);
-    // The header tells of a width before it has it.
+    // The header reports a width before it has it.
     if (!std::exchange(m_fitIsPosted, true))
         QCoreApplication::postEvent(this, new QEvent(fitEvent), Qt::HighEventPriority);
 }
@@ -524,7 +524,7 @@ void SheetTableView::fitRows()
     m_rowsAreOutdated = true;
     if (!m_sized || m_fittingColumns || m_fittingRows)
         return;
-    // The new heights may show or hide the scroll bar, which changes the widths, and by that the heights.
+    // The new heights may show or hide the scroll bar. This changes the widths, and the widths change the heights.
     constexpr int mostRounds = 3;
     const QScopedValueRollback<bool> fitting(m_fittingRows, true);
     for (int round = 0; m_rowsAreOutdated && round < mostRounds; ++round) {

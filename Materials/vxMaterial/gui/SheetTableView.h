@@ -38,18 +38,18 @@ public:
     explicit SheetViewHeader(Qt::Orientation orientation, QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    /// The user has released the mouse button over the header.
+    /// Sent when the user releases the mouse button over the header.
     void resizeFinished();
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
-/// The properties of the material that is being edited, one in each row: the working copy that Apply writes into the
-/// material object. Only values can be edited. Id, key and unit are in hidden columns. Rows are in the order of the
-/// catalogue until the user adds some at the end.
+/// The properties of the edited material, one in each row: the working copy that Apply writes into the material object.
+/// Only values can be edited. Id, key and unit are in hidden columns. Rows have the order of the catalogue; rows that
+/// the user adds are at the end.
 ///
-/// Rows are added and removed by the operations of this class only. The entries of the context menus do nothing.
+/// Only the operations of this class add and remove rows. The entries of the context menus do nothing.
 class VXMATERIAL_EXPORT SheetTableView : public QTableView
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ class VXMATERIAL_EXPORT SheetTableView : public QTableView
     QModelIndex m_lastEdited;
 
 public:
-    /// The material object whose material is edited, not owned; set by the window that contains the table. While it is
+    /// The material object whose material is edited, not owned. The window that contains the table sets it. While it is
     /// null, the table shows no materials and writes none.
     Mat::MaterialObject* materialObject = nullptr;
 
@@ -75,30 +75,30 @@ public:
     explicit SheetTableView(QWidget* parent = nullptr);
     ~SheetTableView() override;
 
-    /// Replaces the rows by those of the material of the material object; by none if it has no material.
+    /// Replaces the rows by the properties of the material object's material; removes all rows if it has no material.
     void loadMaterialObject();
-    /// Replaces the rows by those of `material`; does nothing for null. Properties that the catalogue does not have are
-    /// left out.
+    /// Replaces the rows by the properties of `material`; does nothing for null. Omits properties that the catalogue
+    /// does not have.
     void showMaterial(vxMat::MaterialBase* material);
-    /// If `checked`, appends a row for the property, even if there is one already; otherwise removes every row with its id.
-    /// Does nothing for null.
+    /// If `checked`, appends a row for the property, even if one exists; otherwise removes every row with its id. Does
+    /// nothing for null.
     void togglePropertyRow(bool checked, const vxMat::MaterialProperty* property);
 
     std::vector<SheetRow> rows() const;
-    /// As rows, with the text that the user is typing into a cell.
+    /// Returns the rows, including the text that the user is typing into a cell.
     std::vector<SheetRow> rowsWithTypedText() const;
     /// Replaces the rows. The current cell stays in the row of the same id.
     void setRows(const std::vector<SheetRow>& rows);
     /// Returns the first row, from 0, with the id; -1 if there is none.
     int findRow(int id) const;
-    /// Makes the value in a row, from 0, the current cell, selects the row and scrolls to it. Does nothing if there is no
-    /// such row.
+    /// Makes the value in a row, from 0, the current cell, selects the row and scrolls to it. Does nothing if the row
+    /// does not exist.
     void setCurrentRow(int row);
-    /// Does as setCurrentRow and takes the keyboard.
+    /// Calls setCurrentRow and takes the keyboard focus.
     void showRow(int row);
 
-    /// Returns whether the rows follow the rules of PropertyRules.h; if not, writes the reason to `message`, which is left
-    /// unchanged otherwise. Rows that follow the rules may still be unreadable.
+    /// Returns whether the rows follow the rules of PropertyRules.h. If not, writes the reason to `message`; otherwise
+    /// leaves it unchanged. Rows that follow the rules may still be unreadable.
     bool validateRows(QString& message) const;
     /// Returns the row, from 0, that validateRows refuses, or the row of the elasticity switch if it refuses the combination
     /// of the rows; -1 if it refuses nothing.
@@ -107,8 +107,8 @@ public:
     std::optional<UnreadableRow> findUnreadableRow() const;
     /// Returns the first row of which applyToMaterial would ignore a part; absent if there is none.
     std::optional<PartlyReadRow> findPartlyReadRow() const;
-    /// Replaces the properties of the material object's material by the rows, in their order; of several rows with the same
-    /// id the last one counts. Does nothing without a material.
+    /// Replaces the properties of the material object's material by the rows, in their order. If several rows have the
+    /// same id, the last one counts. Does nothing without a material.
     /// \throws std::invalid_argument, std::out_of_range if a row is unreadable; the material is unchanged
     void applyToMaterial();
 
@@ -117,7 +117,7 @@ public:
 
     /// Ends the edit of a cell, if one is in progress, and keeps the typed text.
     void finishEditing();
-    /// Sets all texts again, after the language has changed.
+    /// Sets all texts again after the language changes.
     void retranslate();
 
     using QTableView::edit;
@@ -135,9 +135,9 @@ protected:
     bool event(QEvent* event) override;
     int sizeHintForColumn(int column) const override;
     int sizeHintForRow(int row) const override;
-    /// F2 and Return edit the value of the current row, whichever of its cells is current.
+    /// Lets F2 and Return edit the value of the current row, for every current cell of the row.
     void keyPressEvent(QKeyEvent* event) override;
-    /// Makes the value the current cell of the row, unless a click of the mouse has chosen another cell.
+    /// Makes the value the current cell of the row, unless the user clicks another cell.
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -169,7 +169,7 @@ private:
     std::unique_ptr<NotEditableDelegate> m_readOnlyDelegate;
     std::unique_ptr<SheetTableDelegate> m_valueDelegate;
     std::unique_ptr<QStandardItemModel> m_model;
-    // Kept for extensions that mark rows and columns; not used here.
+    // Reserved for extensions that mark rows and columns; not used here.
     QMap<int, int> m_rowMarks;
     QMap<int, int> m_columnMarks;
 
@@ -179,8 +179,8 @@ private:
     QAction* m_removeColumns = nullptr;
     QAction* m_properties = nullptr;
 
-    std::set<int> m_columnsOfUser; ///< whose width the user has chosen
-    bool m_sized = false;          ///< whether the columns have been fitted once
+    std::set<int> m_columnsOfUser; ///< columns whose width the user has set
+    bool m_sized = false;          ///< true after the first fit of the columns
     bool m_fittingColumns = false;
     bool m_fittingRows = false;
     bool m_rowsAreOutdated = false;

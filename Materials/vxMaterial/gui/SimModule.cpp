@@ -16,7 +16,7 @@ namespace MatGui {
 
 namespace {
 
-/// Whether a material editor is active, which colours could be for.
+/// Returns whether a material editor is active. Only a material editor could use colours.
 bool isMaterialEditorActive()
 {
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
@@ -82,7 +82,7 @@ void SimModule::activated()
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (toolbarFound || mainWindow == nullptr)
         return;
-    // The flag means that the search is over, which it never is: toolbars may be added later.
+    // The flag would end the search. It is never set, since toolbars may be added later.
     if (mainWindow->findChildren<QToolBar*>(QStringLiteral("MaterialGUI")).size() == 1)
         toolbarFound = false;
 }

@@ -10,7 +10,7 @@ class QColor;
 
 namespace MatGui {
 
-/// Receives colours for the current material editor, which have no effect.
+/// Receives colours for the current material editor. The colours have no effect.
 class VXMATERIAL_EXPORT WorkbenchHelper : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ class VXMATERIAL_EXPORT SimModule : public Gui::StdSimModule
 
 public:
     SimModule();
-    /// Takes the helper of `other`, which has none afterwards.
+    /// Takes the helper of `other`, which then has no helper.
     SimModule(SimModule& other);
     SimModule& operator=(SimModule& other); // NOLINT(misc-unconventional-assign-operator): as the copy above
     ~SimModule() override;

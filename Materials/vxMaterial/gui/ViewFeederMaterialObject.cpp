@@ -108,7 +108,7 @@ MaterialView* ViewFeederMaterialObject::showMaterialView()
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     if (object == nullptr || mainWindow == nullptr || Gui::GuiApplication::Instance == nullptr)
         return nullptr;
-    // Other modules may register projects that take materials too. Only a material project has a database for the editor.
+    // Projects of other modules may take materials too. Only a material project has a database for the editor.
     if (!object->get_project()->is_inherited_from(Mat::DocumentMaterial::getClassTypeId()))
         return nullptr;
     materialView =
@@ -136,7 +136,7 @@ void ViewFeederMaterialObject::showLabel(const Mat::MaterialObject& object)
 
 bool ViewFeederMaterialObject::isOpen() const
 {
-    // The event loop destroys a window some time after the user has closed it.
+    // The event loop destroys a window some time after the user closes it.
     const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
     return materialView != nullptr && mainWindow != nullptr && mainWindow->getMdiWindows().contains(materialView);
 }

@@ -15,8 +15,8 @@ namespace MatGui {
 
 class MaterialView;
 
-/// The node of a material. It opens the editor of the material, has access to the editor as long as it is open, and closes
-/// it when the material leaves the tree.
+/// The node of a material. It opens the editor of the material, has access to the open editor, and closes it when the
+/// material leaves the tree.
 class VXMATERIAL_EXPORT ViewFeederMaterialObject : public Gui::ViewFeederProjectObject
 {
     OBJ_CLASS;
@@ -32,7 +32,7 @@ public:
     void setDisplayMode(const char* mode) override;
     std::vector<std::string> getDisplayModes() const override; ///< "MaterialObject" alone
     bool isShow() const override;                              ///< true
-    /// Opens the editor if `mode` is 0. Returns false in every case, so that the tree does not wait for the end of the
+    /// Opens the editor if `mode` is 0. Always returns false, so that the tree does not wait for the end of the
     /// edit.
     bool setEdit(int mode) override;
     /// Opens the editor, or brings it to the front if it is open. Returns true.

@@ -9,18 +9,18 @@
 
 namespace vxjson {
 
-/// A place in a JSON document, for messages: "materials[3].material.name". Names are kept by reference.
+/// A place in a JSON document, for messages: "materials[3].material.name". Names are stored by reference.
 class VXJSON_EXPORT JsonPath
 {
 public:
-    /// Enters an array or object. The element or member in it is set next.
+    /// Enters an array or object. The caller then sets the element or member in it.
     void enter() { m_levels.emplace_back(); }
     void leave() { m_levels.pop_back(); }
     void setName(std::string_view name) { m_levels.back().name = name; }
     void setIndex(std::size_t index) { m_levels.back().index = index; }
     std::size_t depth() const { return m_levels.size(); }
 
-    /// Returns the path; empty for the document as a whole. The middle of a long path is left out.
+    /// Returns the path; empty for the whole document. The middle of a long path is omitted.
     std::string toText() const;
 
 private:

@@ -12,8 +12,8 @@ JsonReading readJsonText(std::string_view text, JsonDialect dialect)
 
 std::string toStyledText(const Json::Value& document)
 {
-    // Files have been written by this writer from the start and are compared byte by byte; its successor in jsoncpp
-    // indents differently.
+    // All existing files come from this writer and are compared byte by byte. Its successor in jsoncpp indents
+    // differently.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
     Json::StyledWriter writer;

@@ -13,7 +13,7 @@
 
 namespace vxjson {
 
-/// What a text contained: the document, or why there is none.
+/// The content of a text: the document, or the error.
 struct JsonReading
 {
     Json::Value document; ///< null if there is an error
@@ -25,9 +25,9 @@ struct JsonReading
 [[nodiscard]] VXJSON_EXPORT JsonReading readJsonText(std::string_view text,
                                                      JsonDialect dialect = JsonDialect::WithComments);
 
-/// Returns a document as documents are kept in files: one member on each line, indented by three blanks, members in
-/// the order of their names. JSON cannot express what is not finite: an infinite number is written as 1e+9999, which
-/// readJsonText refuses, and what is not a number as null, which reads as 0.
+/// Returns a document in the form for files: one member on each line, indented by three blanks, members in the order of
+/// their names. JSON cannot express non-finite numbers: an infinite number is written as 1e+9999, which readJsonText
+/// refuses; not-a-number is written as null, which reads as 0.
 VXJSON_EXPORT std::string toStyledText(const Json::Value& document);
 
 } // namespace vxjson

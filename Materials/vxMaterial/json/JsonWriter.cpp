@@ -15,11 +15,11 @@ namespace vxjson {
 namespace {
 
 constexpr std::size_t indent = 2;
-/// Deeper arrays and objects are written in a line, since indenting each of their values would make the text many times
-/// as long as what it says.
+/// Deeper arrays and objects are written in one line. Indenting each of their values would make the text many times as
+/// long.
 constexpr std::size_t deepestBlock = 32;
 
-/// Longer than the text of any number.
+/// Exceeds the length of the text of any number.
 using NumberBuffer = std::array<char, 32>;
 
 template <class Number>
@@ -29,8 +29,8 @@ std::string_view shortest(NumberBuffer& buffer, Number number)
     return {buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())};
 }
 
-/// Whether a byte of a text must be written as an escape. DEL need not be, but is as invisible as the other control
-/// characters.
+/// Returns whether a byte of a text must be written as an escape. DEL is included, since it is as invisible as the
+/// other control characters.
 bool needsEscape(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
@@ -123,7 +123,7 @@ void JsonWriter::number(double value)
         return fail(QT_TRANSLATE_NOOP("vxjson::JsonError", "\"%1\" is not a finite number"));
     NumberBuffer buffer;
     m_text += shortest(buffer, value);
-    // Many readers take -0 for the whole number 0.
+    // Many readers read -0 as the whole number 0.
     if (value == 0.0 && std::signbit(value))
         m_text += ".0";
 }
@@ -132,7 +132,7 @@ void JsonWriter::number(float value)
 {
     NumberBuffer buffer;
     const std::string_view written = shortest(buffer, value);
-    // Readers read a double and round it, which may give a neighbour of the number.
+    // Readers read a double and round it, which may give an adjacent number.
     double read = 0.0;
     std::from_chars(written.data(), written.data() + written.size(), read);
     if (!std::isfinite(value) || static_cast<float>(read) != value || value == 0.0F)
@@ -181,7 +181,7 @@ void JsonWriter::anyReal(double value)
 {
     const std::size_t begin = m_text.size();
     number(value);
-    // A real number of jsoncpp does not become a whole one.
+    // A real number of jsoncpp must not become a whole number.
     if (m_text.find_first_of(".e", begin) == std::string::npos)
         m_text += ".0";
 }
@@ -211,7 +211,7 @@ void JsonWriter::anyObject(const Json::Value& value) // NOLINT(misc-no-recursion
 void JsonWriter::any(const Json::Value& value) // NOLINT(misc-no-recursion): no deeper than deepestNesting
 {
     if (m_levels.size() > deepestNesting)
-        return; // a fault already
+        return; // there is a fault already
     switch (value.type()) {
     case Json::nullValue:
         return null();

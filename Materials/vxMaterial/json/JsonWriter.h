@@ -16,15 +16,15 @@
 
 namespace vxjson {
 
-/// How an array or object is laid out. Everything inside a Line is in that line too.
+/// The layout of an array or object. The whole content of a Line is in the same line.
 enum class JsonLayout
 {
     Block, ///< each element or member on its own line
     Line,
 };
 
-/// Writes a JSON text value by value. The text reads back as the same values: numbers are the shortest texts that do.
-/// What could not be read back is a fault; the first one is kept, and the text is then of no use.
+/// Writes a JSON text value by value. The text reads back as the same values: each number has its shortest text that
+/// does. A value that cannot be read back is a fault. The writer keeps the first fault, and its text is then invalid.
 ///
 ///     JsonWriter writer;
 ///     writer.beginObject(JsonLayout::Block);
@@ -35,7 +35,7 @@ class VXJSON_EXPORT JsonWriter
 {
 public:
     void beginObject(JsonLayout layout) { begin('{', layout); }
-    /// Begins a member. The name must live until the next one is set.
+    /// Begins a member. The name must live until the next name is set.
     void name(std::string_view name);
     void endObject() { end('}'); }
 
@@ -56,12 +56,12 @@ public:
     /// Writes a value of jsoncpp, in blocks.
     void any(const Json::Value& value);
 
-    /// Makes the value that is written next a fault, if there is none yet: `reason` as in JsonError, with %1 for the
-    /// path of the value.
+    /// Makes the next written value a fault, if there is none yet. `reason` is as in JsonError, with %1 for the path of
+    /// the value.
     void fail(const char* reason);
     const std::optional<JsonError>& fault() const { return m_fault; }
 
-    /// Returns the text, and begins a new one.
+    /// Returns the text and begins a new text.
     std::string take() { return std::exchange(m_text, {}); }
 
 private:

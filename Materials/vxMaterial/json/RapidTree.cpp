@@ -13,7 +13,7 @@
 #include <system_error>
 #include <utility>
 
-/// Numbers are left to the standard library, since RapidJSON rounds some of them wrongly and takes 1e-999 for 0.
+/// The standard library reads the numbers, since RapidJSON rounds some of them wrongly and reads 1e-999 as 0.
 namespace vxjson::detail {
 
 namespace {
@@ -25,7 +25,7 @@ constexpr const char* beyondRange = QT_TRANSLATE_NOOP("vxjson::JsonError", "'%1'
 constexpr const char* halfOfPair =
     QT_TRANSLATE_NOOP("vxjson::JsonError", "an escape for half of a surrogate pair, which is not a character");
 
-/// The names that are in the range `from` to the end more than once: each once, where it is for the second time.
+/// Returns the names that occur more than once from `from` to the end: each once, at its second occurrence.
 Names findRepeated(const Names& names, std::size_t from)
 {
     constexpr std::size_t few = 16;
@@ -52,7 +52,7 @@ Names findRepeated(const Names& names, std::size_t from)
     return repeated;
 }
 
-/// Whether a text was made from an escape for half of a surrogate pair: the JSON text itself is UTF-8.
+/// Returns whether a text contains half of a surrogate pair, which comes from an escape: the JSON text is UTF-8.
 bool hasHalfOfPair(std::string_view text)
 {
     constexpr char lead = '\xED';
@@ -63,14 +63,14 @@ bool hasHalfOfPair(std::string_view text)
     return false;
 }
 
-/// Passes what RapidJSON reads to its document, and checks what RapidJSON does not: the range of numbers, the depth,
-/// members that are there twice, and halves of surrogate pairs.
+/// Passes the values from RapidJSON to its document, and makes the checks that RapidJSON lacks: the range of numbers,
+/// the depth, repeated members, and halves of surrogate pairs.
 class Builder
 {
 public:
     using Ch = char;
 
-    /// `buffer` is the copy of `text` that is read in place.
+    /// `buffer` is the copy of `text` that is parsed in place.
     Builder(std::string_view text, const char* buffer, JsonDialect dialect)
         : m_text(text),
           m_buffer(buffer),
@@ -99,7 +99,7 @@ public:
     bool EndObject(rapidjson::SizeType count) { return checkNames() && close() && m_document->EndObject(count); }
     bool EndArray(rapidjson::SizeType count) { return close() && m_document->EndArray(count); }
 
-    // Numbers come as texts.
+    // The parser passes numbers as texts.
     static bool Int(int /*number*/) { return false; }
     static bool Uint(unsigned /*number*/) { return false; }
     static bool Int64(std::int64_t /*number*/) { return false; }
@@ -107,15 +107,15 @@ public:
     static bool Double(double /*number*/) { return false; }
 
 private:
-    /// An array or object that has begun and not ended.
+    /// An array or object whose end is not read yet.
     struct Level
     {
         bool isObject;
-        std::size_t firstName; ///< in m_names
-        std::size_t count;     ///< of values so far
+        std::size_t firstName; ///< index in m_names
+        std::size_t count;     ///< number of values so far
     };
 
-    /// Ends the reading, with an error at a place of the copy.
+    /// Stops the parser with an error at a place of the copy.
     bool fail(const char* place, const char* reason, std::string_view shown)
     {
         m_error = errorAt(m_text, static_cast<std::size_t>(place - m_buffer), reason, shown);
@@ -153,7 +153,7 @@ private:
     bool m_mayHaveHalves;
     Document* m_document = nullptr;
     std::vector<Level> m_levels;
-    Names m_names; ///< of the members so far of all objects that have not ended
+    Names m_names; ///< names of the members so far in all open objects
     std::optional<JsonError> m_error;
     std::vector<std::string> m_repeatedMembers;
 };
@@ -199,7 +199,7 @@ std::string Builder::path(std::string_view lastName) const
     return shortened(path.append(".").append(lastName));
 }
 
-/// What the text lacks where RapidJSON stopped.
+/// The missing syntax for an error of RapidJSON.
 struct Lack
 {
     rapidjson::ParseErrorCode code;
@@ -217,7 +217,7 @@ constexpr std::array lacks{
     Lack{rapidjson::kParseErrorNumberMissExponent, Expected::Value},
 };
 
-/// What is wrong where RapidJSON stopped.
+/// The message for an error of RapidJSON.
 struct Fault
 {
     rapidjson::ParseErrorCode code;
@@ -231,14 +231,14 @@ constexpr std::array faults{
     Fault{rapidjson::kParseErrorStringUnicodeSurrogateInvalid, halfOfPair},
     Fault{rapidjson::kParseErrorStringMissQuotationMark,
           QT_TRANSLATE_NOOP("vxjson::JsonError", "the closing quote of a text is missing")},
-    // The builder has a message for everything else that it refuses.
+    // The builder has a message for every other value that it refuses.
     Fault{rapidjson::kParseErrorTermination,
           QT_TRANSLATE_NOOP("vxjson::JsonError", "nested more than 1000 levels deep")},
     Fault{rapidjson::kParseErrorUnspecificSyntaxError,
           QT_TRANSLATE_NOOP("vxjson::JsonError", "a comment that does not end")},
 };
 
-/// Of an escape, or a character that needs one.
+/// Returns the error of an escape, or of a character that needs an escape.
 JsonError explainEscape(std::string_view text, std::size_t offset)
 {
     if (text[offset] == '\\')
@@ -258,12 +258,12 @@ JsonError explain(std::string_view text, rapidjson::ParseErrorCode code, std::si
         return errorAt(text, offset, fault->reason);
     if (code == rapidjson::kParseErrorStringEscapeInvalid)
         return explainEscape(text, offset);
-    // The only other error: a number whose exponent, or digits before the point, are too large.
+    // The only other error is a number with a too large exponent or too many digits before the point.
     const std::size_t end = std::min(text.find_first_not_of("0123456789.eE+-", offset), text.size());
     return errorAt(text, offset, beyondRange, text.substr(offset, end - offset));
 }
 
-/// Finds bytes that no JSON text has, and that RapidJSON does not refuse.
+/// Finds bytes that a JSON text must not contain, and that RapidJSON does not refuse.
 std::optional<JsonError> findForeignBytes(std::string_view text)
 {
     if (text.size() > longestText) {
@@ -279,7 +279,7 @@ std::optional<JsonError> findForeignBytes(std::string_view text)
     return std::nullopt;
 }
 
-/// The length of the byte order mark at the start of a text; 0 if there is none.
+/// Returns the length of the byte order mark at the start of a text; 0 if there is none.
 std::size_t lengthOfMark(std::string_view text)
 {
     constexpr std::string_view mark = "\xEF\xBB\xBF";

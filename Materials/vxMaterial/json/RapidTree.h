@@ -15,7 +15,7 @@
 /// The tree of RapidJSON behind JsonTree. Nothing outside this folder uses RapidJSON.
 namespace vxjson::detail {
 
-/// RapidJSON does not check what malloc returns.
+/// An allocator that checks the result of malloc. RapidJSON does not check it.
 struct ThrowingAllocator
 {
     static void* Malloc(std::size_t size) { return size == 0 ? nullptr : checked(std::malloc(size)); }
@@ -37,8 +37,8 @@ using Pool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
 using TreeValue = rapidjson::GenericValue<Encoding, Pool>;
 using Document = rapidjson::GenericDocument<Encoding, Pool, ThrowingAllocator>;
 
-/// A text that has been read. It is read in place: the texts of the tree are parts of a copy of the JSON text, each where
-/// it is in that, so that the place of a text is known.
+/// A parsed text. It is parsed in place: the texts of the tree are parts of a copy of the JSON text, at the same
+/// positions, so that the place of a text is known.
 struct RapidTree
 {
     std::unique_ptr<char[]> buffer; ///< the copy. NOLINT(*-avoid-c-arrays): a std::string would be cleared first

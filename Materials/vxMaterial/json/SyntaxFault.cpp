@@ -12,7 +12,7 @@ constexpr std::string_view blanks = " \t\r\n";
 constexpr std::string_view delimiters = " \t\r\n,:[]{}\"/";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// Removes one of `letters` from the start of `text`, if one is there.
+/// Removes one of `letters` from the start of `text` if it begins with one.
 bool take(std::string_view& text, std::string_view letters)
 {
     if (text.empty() || letters.find(text.front()) == std::string_view::npos)
@@ -28,7 +28,7 @@ bool takeDigits(std::string_view& text)
     return count > 0;
 }
 
-/// Whether a token is a number by the grammar of JSON.
+/// Returns whether a token is a number by the grammar of JSON.
 bool isJsonNumber(std::string_view token)
 {
     take(token, "-");
@@ -49,7 +49,7 @@ bool looksLikeNumber(std::string_view token)
     return !token.empty() && std::string_view("0123456789+-.").find(token.front()) != std::string_view::npos;
 }
 
-/// The word or number around a place: what no delimiter interrupts.
+/// Returns the word or number around a place, between the nearest delimiters.
 std::string_view tokenAround(std::string_view text, std::size_t offset)
 {
     const std::size_t begin = text.substr(0, offset).find_last_of(delimiters) + 1; // 0 if there is none before

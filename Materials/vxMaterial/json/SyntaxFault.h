@@ -10,7 +10,7 @@
 
 namespace vxjson::detail {
 
-/// What the grammar requires at the place where reading stops.
+/// The syntax that the grammar requires at the place where reading stops.
 enum class Expected
 {
     Value,
@@ -18,14 +18,14 @@ enum class Expected
     Colon,
     CommaOrBracket,
     CommaOrBrace,
-    End, ///< nothing but blanks
+    End, ///< only blanks
 };
 
 /// Returns an error at the byte `offset` of a text, with its line and column.
 JsonError errorAt(std::string_view text, std::size_t offset, const char* reason, std::string_view shown = {});
 
-/// Returns the error for a text that at `offset` is not what was expected. The message names the first of these that
-/// applies: the text ends, a comment or something like a number is there, or what is needed.
+/// Returns the error for a text without the expected syntax at `offset`. The message names the first fact that applies:
+/// the end of the text, a comment or an invalid number at this place, or the required syntax.
 JsonError explainSyntaxError(std::string_view text, std::size_t offset, Expected expected);
 
 } // namespace vxjson::detail

@@ -14,7 +14,7 @@ bool isAscii(std::string_view text)
     return all < 0x80U;
 }
 
-/// The length of the UTF-8 character at the start of `text`; 0 if there is none.
+/// Returns the length of the UTF-8 character at the start of `text`; 0 if there is none.
 std::size_t lengthOfCharacter(std::string_view text)
 {
     const auto at = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
@@ -48,7 +48,7 @@ std::size_t lengthOfUtf8(std::string_view text)
     std::size_t length = 0;
     while (length < text.size()) {
         const std::size_t blockEnd = std::min(length + block, text.size());
-        // Most texts are ASCII for long stretches, which are checked block by block.
+        // Most texts contain long ASCII parts. These are checked block by block.
         if (isAscii(text.substr(length, block)))
             length = blockEnd;
         while (length < blockEnd) {

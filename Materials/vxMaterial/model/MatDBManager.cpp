@@ -10,7 +10,7 @@ namespace vxMat {
 
 namespace {
 
-/// The entries of a map in ascending order of `position` of their numbers, and of the numbers.
+/// Returns the entries of a map in ascending order of the `position` of their numbers, then of the numbers.
 template <class Entry, class Position>
 std::vector<Entry*> ordered(const std::unordered_map<std::int32_t, std::unique_ptr<Entry>>& map, Position position)
 {

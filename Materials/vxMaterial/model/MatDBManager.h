@@ -13,7 +13,7 @@ namespace vxMat {
 /// The material database of one material project: the library from which the user picks materials, and the catalogue of
 /// quantities. A project holds one database; editors read both maps. The materials of the user are not in it.
 ///
-/// Both maps own their entries. Filling a map again destroys its earlier entries, to which pointers may have been given.
+/// Both maps own their entries. Filling a map again destroys its earlier entries and invalidates pointers to them.
 class VXMAT_MODEL_EXPORT MatDBManager
 {
 public:
@@ -40,12 +40,12 @@ public:
     std::unordered_map<std::int32_t, std::unique_ptr<MaterialProperty>> propertyCatalogue; ///< by PropertyId
 };
 
-/// Returns the materials of a database, which keeps them, in the order of listings: built-in materials by
-/// getLibraryPosition, and after them others in ascending order of their numbers.
+/// Returns the materials of a database, which owns them, in the order of listings: built-in materials by
+/// getLibraryPosition, then other materials in ascending order of their numbers.
 VXMAT_MODEL_EXPORT std::vector<MaterialBase*> materialsInLibraryOrder(const MatDBManager& database);
 
-/// Returns the properties in the catalogue of a database, which keeps them, in the order of the catalogue
-/// (propertyRecords), and after them others in ascending order of their ids.
+/// Returns the properties in the catalogue of a database, which owns them, in the order of the catalogue
+/// (propertyRecords), then other properties in ascending order of their ids.
 VXMAT_MODEL_EXPORT std::vector<MaterialProperty*> propertiesInCatalogueOrder(const MatDBManager& database);
 
 } // namespace vxMat

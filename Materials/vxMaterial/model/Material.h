@@ -49,8 +49,8 @@ enum class eMaterialType : std::int32_t
 /// but need not be: the acoustic library materials hold the speed of sound in slot 401 as a second density, whose id is 4.
 /// Copies keep the slots.
 ///
-/// Materials are not copied by value: copyAllFrom copies everything; copyPropertiesFrom and CMaterial's copyTo and
-/// copyFrom copy what their comments say.
+/// Materials are not copied by value: copyAllFrom copies everything; the comments of copyPropertiesFrom and of
+/// CMaterial's copyTo and copyFrom tell which parts they copy.
 class VXMAT_MODEL_EXPORT MaterialBase
 {
 public:
@@ -73,7 +73,7 @@ public:
 
     bool hasProperty(std::int32_t slot) const;
 
-    /// Returns the property in a slot, which the material keeps; null if the slot is empty.
+    /// Returns the property in a slot, which the material owns; null if the slot is empty.
     const MaterialProperty* findProperty(std::int32_t slot) const;
 
     /// Writes the number of the property in a slot to `number` and returns true; if the slot is empty, leaves `number`
@@ -92,8 +92,8 @@ public:
 
     void clearProperties();
 
-    /// Replaces the properties by plain copies of those of `other`, in the same slots. Id, name and library group stay. If
-    /// memory runs out, the material is unchanged.
+    /// Replaces the properties by plain copies of the properties of `other`, in the same slots. Id, name and library
+    /// group stay. If memory runs out, the material is unchanged.
     /// \throws std::bad_alloc
     void copyPropertiesFrom(const MaterialBase& other);
 
@@ -106,12 +106,12 @@ public:
     void swap(MaterialBase& other) noexcept;
 
     std::int32_t id = 0;           ///< "mat_id" of a material read from a document; 0 in the library
-    std::string name;              ///< what the user sees
+    std::string name;              ///< the name that the user sees
     std::int32_t libraryGroup = 0; ///< page of the editor's library; 0 for a material of the user
     PropertyMap properties; ///< by slot, unordered; CataloguedMaterial.h walks them in the order of the catalogue
 };
 
-/// A material of the user: the one of a project object, or one in an exchange document.
+/// A material of the user: the material of a project object, or a material in an exchange document.
 class VXMAT_MODEL_EXPORT CMaterial : public MaterialBase
 {
 public:

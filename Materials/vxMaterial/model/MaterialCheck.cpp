@@ -39,7 +39,7 @@ FindingArgument textArgument(std::string text)
     return {FindingArgument::Kind::Text, std::move(text)};
 }
 
-/// The name of a quantity; its number if the catalogue does not have it.
+/// Returns the name of a quantity; its number if the catalogue does not have it.
 FindingArgument nameArgument(std::int32_t id)
 {
     const PropertyRecord* const record = findPropertyRecord(id);
@@ -76,8 +76,8 @@ const std::vector<ModelNeeds>& modelNeeds()
     return needs;
 }
 
-/// The parameters that plasticity needs beside the yield type, which depend on the words; none for words for which the
-/// solver has no card.
+/// Returns the parameters that plasticity needs beside the yield type. They depend on the words; empty for words for
+/// which the solver has no card.
 std::vector<std::int32_t> plasticityNeeds(const MaterialBase& material)
 {
     const std::string yield = toUpperAscii(material.getPropertyText(Id::PlasticYieldType));
@@ -145,7 +145,7 @@ void Check::checkProperty(std::int32_t slot, const MaterialProperty& property)
     checkFinite(slot, property, property.value);
     checkList(slot, property);
     checkRules(slot, property.id, property);
-    // The solver takes the property for what its slot says.
+    // The solver uses the property as the quantity of its slot.
     if (slot != property.id)
         checkRules(slot, slot, property);
 }
@@ -170,7 +170,7 @@ void Check::checkList(std::int32_t slot, const MaterialProperty& property)
 
 void Check::checkRules(std::int32_t slot, std::int32_t id, const MaterialProperty& property)
 {
-    // checkProperty has found a number that is not finite already.
+    // checkProperty reports numbers that are not finite.
     if (std::isfinite(property.value) && checkNumber(id, property.value) != nullptr)
         find(slot, id == Id::PoissonsRatio ? message::poissonsRatio : message::notPositive,
              {nameArgument(id), textArgument(formatNumber(property.value))});
@@ -224,7 +224,7 @@ std::vector<MaterialFinding> checkMaterial(const MaterialBase& material)
 
 std::string toText(const MaterialFinding& finding)
 {
-    // In one pass, since arguments may contain "%1" themselves.
+    // One pass is necessary, since arguments may contain "%1" themselves.
     std::string text;
     for (const char* at = finding.message; *at != '\0'; ++at) {
         const int argument = at[0] == '%' ? at[1] - '1' : -1;

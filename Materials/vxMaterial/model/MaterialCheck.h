@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-/// What is wrong with a material. Every place that judges a material uses these functions: the project tree, the check
-/// commands and the programs without windows. Only the input check of a material object has stricter rules of its own.
+/// The faults of a material. The project tree, the check commands and the programs without windows all use these
+/// functions. Only the input check of a material object has stricter rules of its own.
 namespace vxMat {
 
 enum class FindingSeverity
 {
-    Error,   ///< the solver cannot use the material as it is
+    Error,   ///< the solver cannot use the material
     Warning, ///< the solver can use it, but a part of it has no effect
 };
 
@@ -29,10 +29,10 @@ struct FindingArgument
     std::string text;
 };
 
-/// One thing that is wrong with a material.
+/// One fault of a material.
 struct MaterialFinding
 {
-    std::int32_t slot; ///< of the property that must be changed; 0 if the finding is about the whole material
+    std::int32_t slot; ///< slot of the property to change; 0 if the finding is about the whole material
     FindingSeverity severity;
     const char* message; ///< a sentence, with "%1" and so on for the arguments; to be translated in findingContext
     std::vector<FindingArgument> arguments;
@@ -41,8 +41,8 @@ struct MaterialFinding
 /// The translation context of the messages of findings.
 inline constexpr const char* findingContext = "vxMat::MaterialFinding";
 
-/// Returns everything that is wrong with a material: properties in the order of the catalogue, then what concerns several
-/// of them. The list is empty if nothing is wrong. It contains
+/// Returns all faults of a material: first the faults of single properties in the order of the catalogue, then the
+/// faults of several properties together. The list is empty if there are no faults. It contains
 /// - a material without properties,
 /// - numbers that are infinite or not a number, and numbers and words that break the rules of PropertyRules.h,
 /// - lists without a number, and yield stresses and plastic strains whose numbers differ,
@@ -54,7 +54,7 @@ VXMAT_MODEL_EXPORT std::vector<MaterialFinding> checkMaterial(const MaterialBase
 /// Returns the message of a finding in English, with its arguments.
 VXMAT_MODEL_EXPORT std::string toText(const MaterialFinding& finding);
 
-/// How far a material is.
+/// The state of a material.
 enum class MaterialState
 {
     Empty,        ///< it has no properties

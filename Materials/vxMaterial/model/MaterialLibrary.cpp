@@ -22,7 +22,7 @@ struct Given
 {
     std::int32_t quantity;
     Value value;
-    std::int32_t slot = quantity; ///< in which the material holds the property
+    std::int32_t slot = quantity; ///< the slot that holds the property
 };
 
 /// One built-in material.
@@ -55,8 +55,8 @@ enum LibraryGroup : std::int32_t
 
 constexpr double largest = std::numeric_limits<double>::max();
 
-// Users have run analyses with these values. Entries that look like slips (the copper alloys with the conductivities of
-// aluminium, the nonlinear structural steel with those of stainless steel, "Electromangetic") must not be changed.
+// Users have run analyses with these values. Entries that look like mistakes (the copper alloys with the conductivities
+// of aluminium, the nonlinear structural steel with those of stainless steel, "Electromangetic") must not be changed.
 // NOLINTNEXTLINE(readability-function-size): a table of 26 rows
 const std::vector<MaterialRecord>& materialRecords()
 {
@@ -170,7 +170,7 @@ const std::vector<MaterialRecord>& materialRecords()
     return records;
 }
 
-/// The order in which a database makes the materials, which differs from that of the table.
+/// The order in which a database makes the materials. It differs from the order of the table.
 constexpr std::array buildOrder{
     Type::StructuralSteel,
     Type::StainlessSteel,

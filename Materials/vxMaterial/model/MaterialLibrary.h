@@ -20,8 +20,8 @@ struct LibraryEntry
 /// Returns the 26 built-in materials in the order in which a database makes them. Listings use getLibraryPosition.
 VXMAT_MODEL_EXPORT const std::vector<LibraryEntry>& libraryEntries();
 
-/// Returns the position of a built-in material in listings, from 0: group by group, and in each group the basic materials
-/// first. Returns the number of built-in materials, 26, if the value selects none.
+/// Returns the position of a built-in material in listings, from 0: by group, and in each group with the basic
+/// materials first. Returns the number of built-in materials, 26, if the value selects none.
 VXMAT_MODEL_EXPORT std::size_t getLibraryPosition(eMaterialType type);
 
 /// Makes a built-in material; returns null if the value selects none.

@@ -30,22 +30,22 @@ enum class ValueKind
     Number,      ///< one number, in MaterialProperty::value
     Word,        ///< a word of a fixed list, in MaterialProperty::text
     NumberList,  ///< numbers, in MaterialProperty::values
-    ModelSwitch, ///< the property switches a material model on by its presence; its value has no meaning
+    ModelSwitch, ///< the presence of the property switches a material model on; its value has no meaning
 };
 
-/// Returns how text typed for the quantity `id` is read. The switches of visco-elasticity (42) and creep (45) are read
-/// as numbers, unlike the other switches; a text that is not a number is refused for them.
+/// Returns the form in which text typed for the quantity `id` is read. The switches of visco-elasticity (42) and creep
+/// (45) are read as numbers, unlike the other switches; they refuse a text that is not a number.
 VXMAT_MODEL_EXPORT ValueKind getValueKind(std::int32_t id);
 
 /// Returns the display name of a category number, "Linear Elastic" for 1; "Undefined" for a number outside 0 to 8.
 VXMAT_MODEL_EXPORT const char* getPropertyCategoryName(std::int32_t category);
 
-/// Returns the display name of five quantities, whose capitals differ from those of MaterialProperty::name ("Electrical
+/// Returns the display name of five quantities, whose capitals differ from MaterialProperty::name ("Electrical
 /// Conductivity" for 301); the empty text for every other id. 201, thermal expansion, has a name here although the
 /// catalogue has no such quantity.
 VXMAT_MODEL_EXPORT const char* getPropertyTypeName(std::int32_t id);
 
-/// The base class of what a material holds.
+/// The base class of the properties of a material.
 class VXMAT_MODEL_EXPORT ObjectBase
 {
 public:
@@ -68,13 +68,13 @@ public:
     MaterialProperty() = default;
 
     /// Makes a property from a row of the property table. `valueText` is read by its kind (getValueKind): a switch
-    /// becomes 1 whatever the text, a word is stored unchanged, a list is read by readNumberList, a number by readNumber.
+    /// becomes 1 for every text, a word is stored unchanged, a list is read by readNumberList, a number by readNumber.
     /// The unit is empty and the category Undefined.
     /// \throws std::invalid_argument, std::out_of_range as readNumber and readNumberList do
     MaterialProperty(std::int32_t propertyId, std::string displayName, const std::string& valueText,
                      std::string shortKey, std::string hint);
 
-    /// Makes a property from what an exchange document carries of it: id, name, key and number. The unit is "-" and the
+    /// Makes a property from the data in an exchange document: id, name, key and number. The unit is "-" and the
     /// category Undefined.
     MaterialProperty(std::int32_t propertyId, std::string displayName, std::string shortKey, double number);
 
@@ -90,8 +90,8 @@ public:
     double getValue() const { return value; }
     const std::string& getText() const { return text; }
 
-    std::int32_t id = 0;        ///< which quantity (PropertyId); normally also the slot in the material
-    std::string name;           ///< what the user sees: "Density"
+    std::int32_t id = 0;        ///< id of the quantity (PropertyId); normally also the slot in the material
+    std::string name;           ///< the name that the user sees: "Density"
     std::string key;            ///< short name in documents and solver cards: "rho"
     double value = 0.0;         ///< the number, in `unit`
     std::string text;           ///< the word
@@ -102,9 +102,9 @@ public:
     bool marked = false; ///< free for use by the owner; never copied
 };
 
-/// Returns the value of a property as a table shows it: the word unchanged, the list joined by ", ", or the number, also
-/// of a switch. Numbers are written by formatNumber, so that a property made from the text has the same value, unless it
-/// is a switch.
+/// Returns the value of a property in the form of a table: the word unchanged, the list joined by ", ", or the number,
+/// also for a switch. Numbers are written by formatNumber, so that a property made from the text has the same value,
+/// unless it is a switch.
 VXMAT_MODEL_EXPORT std::string formatValue(const MaterialProperty& property);
 
 } // namespace vxMat

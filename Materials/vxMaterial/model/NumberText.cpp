@@ -38,7 +38,7 @@ std::string_view withoutBlanksAround(std::string_view text)
     return text;
 }
 
-/// The locale in which numbers are written with a point. It lives as long as the program.
+/// Returns the locale that writes numbers with a point. It lives as long as the program.
 locale_t classicLocale()
 {
     static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
@@ -68,7 +68,7 @@ ReadPrefix readPrefix(std::string_view text)
     return prefix;
 }
 
-/// Where the digits of `text` from `at` on end.
+/// Returns the end of the digits of `text` from `at` on.
 std::size_t endOfDigits(std::string_view text, std::size_t at)
 {
     while (at < text.size() && isDigit(text[at]))
@@ -76,7 +76,7 @@ std::size_t endOfDigits(std::string_view text, std::size_t at)
     return at;
 }
 
-/// Where the number of a list that begins at `begin` ends; `begin` itself if no number begins there.
+/// Returns the end of the number of a list that begins at `begin`; `begin` itself if no number begins there.
 std::size_t endOfListNumber(std::string_view text, std::size_t begin)
 {
     const auto at = [text](std::size_t index) { return index < text.size() ? text[index] : '\0'; };

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-/// Numbers as text, always with a decimal point, whatever locale the user or the host has set. Texts of any length are
-/// read in linear time.
+/// Numbers as text, always with a decimal point, independently of the locale of the user or the host. Texts of any
+/// length are read in linear time.
 namespace vxMat {
 
 /// Returns the number at the start of `text`, as `std::stod` does in the C locale: blanks in front are skipped, the
@@ -32,16 +32,16 @@ struct LeadingNumber
 /// \throws std::invalid_argument, std::out_of_range as readNumber does
 VXMAT_MODEL_EXPORT LeadingNumber readLeadingNumber(std::string_view text);
 
-/// Returns a list of numbers as users type it: every decimal number in `text` from left to right, whatever is between
-/// them. "450, 608;679" gives three numbers, "abc" none. A sign belongs to the number that follows it, and an exponent
-/// counts only if it has digits: "1e" is 1.
+/// Returns a list of numbers in the form that users type: every decimal number in `text` from left to right, with any
+/// text between them. "450, 608;679" gives three numbers, "abc" gives no number. A sign belongs to the number that
+/// follows it, and an exponent counts only if it has digits: "1e" is 1.
 ///
 /// \throws std::out_of_range ("stod argument out of range") if a double cannot hold one of them
 VXMAT_MODEL_EXPORT std::vector<double> readNumberList(std::string_view text);
 
-/// Returns the number if `text` is one decimal number, "inf" or "nan" and nothing else but ASCII blanks around it;
-/// absent otherwise. A number beyond the range of a double is infinite and one below it is 0, so that a comparison with
-/// a bound is still right.
+/// Returns the number if `text` is one decimal number, "inf" or "nan", with only ASCII blanks around it; absent
+/// otherwise. A number above the range of a double is infinite and a number below it is 0, so that a comparison with a
+/// bound is still right.
 VXMAT_MODEL_EXPORT std::optional<double> readWholeNumber(std::string_view text);
 
 /// Returns the shortest decimal text that reads back to exactly the same double: 7850, 0.3, 2e+11, 1.7976931348623157e+308,
@@ -57,10 +57,10 @@ VXMAT_MODEL_EXPORT std::string formatFixed(double number);
 /// Returns the number in general notation with six significant digits, as C's "%g": 0, 0.1, 500, 1e+06, 2e+11.
 VXMAT_MODEL_EXPORT std::string formatGeneral(double number);
 
-/// Returns `text` with the letters a to z turned to A to Z, and all else as it is.
+/// Returns `text` with the letters a to z changed to A to Z, and all other characters unchanged.
 VXMAT_MODEL_EXPORT std::string toUpperAscii(std::string_view text);
 
-/// Whether two texts are the same apart from the case of the letters a to z.
+/// Returns whether two texts are equal apart from the case of the letters a to z.
 VXMAT_MODEL_EXPORT bool equalIgnoringAsciiCase(std::string_view one, std::string_view other);
 
 } // namespace vxMat

@@ -25,8 +25,8 @@ std::unique_ptr<MaterialProperty> create()
     return std::make_unique<Property>();
 }
 
-// The solver and all existing documents share these names, keys, units and descriptions. Entries that look like slips
-// ("Pa" of a stretch, "speHeat", "1/(Wm)") must not be changed.
+// The solver and all existing documents share these names, keys, units and descriptions. Entries that look like
+// mistakes ("Pa" of a stretch, "speHeat", "1/(Wm)") must not be changed.
 // clang-format off
 constexpr std::array<PropertyRecord, catalogueSize> records{{
     // id                                     name                              key             unit        description               category                 kind               default  class
@@ -71,7 +71,7 @@ constexpr std::array<PropertyRecord, catalogueSize> records{{
 
 constexpr std::size_t idLimit = PropertyId::SpeedOfSound + 1;
 
-/// The position of each id in the catalogue; catalogueSize for an id that names no quantity.
+/// The position of each id in the catalogue; catalogueSize for an id without a quantity.
 constexpr std::array<std::size_t, idLimit> positions = [] {
     std::array<std::size_t, idLimit> all{};
     for (std::size_t& position : all)

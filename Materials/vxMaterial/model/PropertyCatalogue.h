@@ -19,12 +19,12 @@ inline constexpr std::size_t catalogueSize = 36;
 struct PropertyRecord
 {
     std::int32_t id;                               ///< PropertyId
-    const char* name;                              ///< what the user sees
+    const char* name;                              ///< the name that the user sees
     const char* key;                               ///< short name in documents
     const char* unit;                              ///< "-" for a quantity without a unit
     const char* description;                       ///< a hint for the user; empty for a quantity without one
     ePropertyCategory category;                    ///< page of the editor
-    ValueKind kind;                                ///< form of the value; getValueKind says how typed text is read
+    ValueKind kind;                                ///< form of the value; getValueKind returns the form of typed text
     double defaultNumber;                          ///< of a number or switch; the only element of a list; 0 for a word
     std::unique_ptr<MaterialProperty> (*create)(); ///< makes a property of the quantity's class, with its default
 };
@@ -46,12 +46,12 @@ VXMAT_MODEL_EXPORT const std::vector<std::string>& getAllowedWords(std::int32_t 
 namespace detail {
 
 /// Sets name, key, unit, description, category and id, in this order, from the quantity's record. The description stays
-/// as it is if the quantity has none.
+/// unchanged if the quantity has none.
 VXMAT_MODEL_EXPORT void describe(MaterialProperty& property, std::int32_t id);
 
 } // namespace detail
 
-// The classes of the quantities. Id is a PropertyId of the kind that the class is for.
+// The classes of the quantities. Id is a PropertyId of the kind of the class.
 
 /// A quantity whose value is one number. All classes of quantities have the same constructors: the default constructor
 /// stores the catalogue's default, the second one the given value; both call initProperty, which sets the metadata.
@@ -68,7 +68,7 @@ public:
     void initProperty() override { detail::describe(*this, Id); }
 };
 
-/// A quantity that switches a material model on by its presence and takes no value.
+/// A quantity whose presence switches a material model on. It takes no value.
 template <std::int32_t Id>
 class VXMAT_MODEL_EXPORT SwitchProperty : public MaterialProperty
 {
@@ -81,7 +81,7 @@ public:
     void initProperty() override { detail::describe(*this, Id); }
 };
 
-/// A quantity whose value is a word. The class stores any word; the rules of PropertyRules.h accept those of
+/// A quantity whose value is a word. The class stores any word; the rules of PropertyRules.h accept the words of
 /// getAllowedWords.
 template <std::int32_t Id>
 class VXMAT_MODEL_EXPORT WordProperty : public MaterialProperty
@@ -203,11 +203,11 @@ using ThermalConductivity = NumberProperty<PropertyId::ThermalConductivity>;
 
 /// Electrical conductivity sigma of Ohm's law j = sigma E. The unit text "1/(Wm)" means 1/(Ohm m).
 using ElectricalConductivity = NumberProperty<PropertyId::ElectricalConductivity>;
-/// Relative permeability mu_r: permeability over that of vacuum; no unit.
+/// Relative permeability mu_r: permeability over the permeability of vacuum; no unit.
 using RelativePermeability = NumberProperty<PropertyId::RelativePermeability>;
 
-/// Relative permittivity epsilon_r: permittivity over that of vacuum; no unit. Unlike the other classes it sets its
-/// metadata in its constructors: initProperty does nothing.
+/// Relative permittivity epsilon_r: permittivity over the permittivity of vacuum; no unit. Unlike the other classes it
+/// sets its metadata in its constructors: initProperty does nothing.
 class VXMAT_MODEL_EXPORT RelativePermittivity : public MaterialProperty
 {
 public:

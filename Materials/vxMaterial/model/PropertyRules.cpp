@@ -32,13 +32,13 @@ std::optional<IgnoredText> ignoredBehindNumber(std::string_view valueText)
     return IgnoredText{std::string(rest), formatNumber(read.number)};
 }
 
-/// The first part of a list that is not one number; empty if there is none.
+/// Returns the first part of a list that is not one number; empty if there is none.
 std::string_view firstStrangePart(std::string_view list)
 {
     while (!list.empty()) {
         list.remove_prefix(std::min(list.find_first_not_of(listSeparators), list.size()));
         const std::string_view part = list.substr(0, list.find_first_of(listSeparators));
-        // "inf" fills its part as a number does, but lists ignore it.
+        // "inf" fills its part like a number, but lists ignore it.
         if (!part.empty() && (!readWholeNumber(part) || readNumberList(part).empty()))
             return part;
         list.remove_prefix(part.size());
@@ -59,7 +59,7 @@ std::optional<IgnoredText> ignoredInList(std::string_view valueText)
 
 const char* checkNumber(std::int32_t id, double number)
 {
-    // The comparisons are such that not-a-number breaks the rule.
+    // Not-a-number must break the rule; the comparisons are written for this.
     switch (id) {
     case PropertyId::Density:
         return number > 0.0 ? nullptr : "Row %1: Mass density must be positive!";
@@ -114,7 +114,7 @@ std::optional<IgnoredText> findIgnoredText(std::int32_t id, std::string_view val
         default:
             return std::nullopt;
         }
-    } catch (const std::logic_error&) { // no number, or one that a double cannot hold
+    } catch (const std::logic_error&) { // not a number, or a number that a double cannot hold
         return std::nullopt;
     }
 }

@@ -16,7 +16,7 @@ namespace Mat {
 
 namespace {
 
-/// From the first call on, the set of a project is destroyed when the project is closed.
+/// Makes the closing of a project destroy its set, from the first call on.
 void letGoOfSetsOfClosedProjects()
 {
     static const boost::signals2::scoped_connection closing = Obj::Application::instance().projectRemoved.connect(

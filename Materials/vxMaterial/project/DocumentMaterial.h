@@ -23,7 +23,7 @@ class MaterialObject;
 /// The document tag of material projects.
 inline constexpr Kelta::eDocumentTag materialProjectTag{2};
 
-/// The material project. Its objects are materials, which share its database of library and catalogue.
+/// The material project. Its objects are materials, which share its database with library and catalogue.
 class VXMATERIAL_EXPORT DocumentMaterial : public Obj::Project
 {
     OBJ_CLASS;
@@ -40,8 +40,8 @@ public:
     /// the set until the project is closed. First sets the name of each material to the label of its object, so that the
     /// solver has the name that the user sees.
     void collect_frontend_data() override;
-    /// Writes the project's record: tag, id, and of each material id, class, internal name and label. It contains no
-    /// values of properties.
+    /// Writes the project's record: tag and id, and for each material the id, class, internal name and label. The
+    /// record does not contain values of properties.
     void save_jsonDB(Json::Value& record) override;
     /// Does nothing: the application restores projects.
     void load_jsonDB(Json::Value& record) override;
@@ -51,18 +51,18 @@ public:
 
     vxMat::MatDBManager& getMatMgr() { return matMgr; }
 
-    /// Calls MaterialObject::check_input_data of each material in order, up to the first that fails, and returns whether
-    /// none has failed. A project without materials passes.
+    /// Calls MaterialObject::check_input_data of each material in order, up to the first failure, and returns whether
+    /// all calls succeed. A project without materials passes.
     bool check_all_materials();
-    /// Returns MaterialObject::check_input_data of one object, which must be a material; false if the project has no such
-    /// object.
+    /// Returns MaterialObject::check_input_data of one object, which must be a material; false if the project does not
+    /// have the object.
     bool check_material_input(unsigned int objectId);
 
     /// Writes the exchange set as styled JSON. The materials are named and copied as in collect_frontend_data. The three
     /// characters are not used.
     ///
-    /// Returns true, also if the file cannot be opened or written. The earlier contents of the file are lost when it is
-    /// opened; on a full disk the file contains a part of the document or nothing.
+    /// Returns true, even if the file cannot be opened or written. Opening the file discards its earlier contents; on a
+    /// full disk the file contains a part of the document or nothing.
     bool exportToFile(const std::string& path, char, char, char);
 
     Obj::PropertyString physicsType; ///< "PhysicsType"

@@ -31,7 +31,7 @@ class VXMATERIAL_EXPORT MaterialObject : public Obj::ProjectObject
     OBJ_CLASS;
 
 public:
-    /// Makes an object in state 0 whose material has no properties.
+    /// Makes an object in state 0. Its material has no properties.
     MaterialObject();
     ~MaterialObject() override;
 
@@ -39,15 +39,15 @@ public:
     void refreshProperties(bool stateToo) override;
     short always_run() const override; ///< -1: the host always executes the object
     void save_jsonDB(Json::Value& record) override;
-    /// Does nothing: the record contains only what the host restores.
+    /// Does nothing: the host restores the whole content of the record.
     void load_jsonDB(Json::Value& record) override;
-    /// Sets and returns state 3 if the material has at least one property, else state 0. Values are not checked.
+    /// Sets and returns state 3 if the material has at least one property, otherwise state 0. Does not check values.
     Obj::eVXObjectState check_input() override;
-    /// Returns a result that names the object, and does nothing else. The caller owns the result. Returns null if memory
-    /// runs out.
+    /// Returns a result that names the object, and has no other effect. The caller owns the result. Returns null if
+    /// memory runs out.
     Obj::ProjectObjectExecReturn* execute() override;
 
-    /// Returns the material, which the object keeps; never null.
+    /// Returns the material, which the object owns; never null.
     vxMat::CMaterial* getCMaterial() const { return material.get(); }
     /// Copies `source`, which must not be null, into the material, as CMaterial::copyFrom does.
     void setCMaterial(const vxMat::MaterialBase* source);

@@ -4,7 +4,7 @@
 
 namespace Mat {
 
-/// Shows a message box with one OK button on the main window until the user closes it. The text is shown literally, not as
+/// Shows a message box with one OK button on the main window until the user closes it. The text is not interpreted as
 /// markup. In a program without windows, writes the text to the message log.
 void showCritical(const QString& title, const QString& text);
 void showWarning(const QString& title, const QString& text);

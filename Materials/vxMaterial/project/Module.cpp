@@ -19,7 +19,7 @@
 
 namespace {
 
-/// Gives the manager a new command of each class, which it owns. It ignores null, for a command without memory.
+/// Gives the manager, which owns them, a new command of each class. Memory may run out; the manager ignores null.
 template <typename... Commands>
 void registerEach(Gui::CommandController& manager)
 {

@@ -2,8 +2,8 @@
 
 #include "vxMaterial/project/PluginExport.h"
 
-/// The entries of the plug-in, which the host calls when it loads the module. They throw nothing and report errors to the
-/// message log. Safe to call more than once.
+/// The entry functions of the plug-in. The host calls them when it loads the module. They do not throw, and report
+/// errors to the message log. Safe to call more than once.
 extern "C" {
 
 /// Registers the project classes. Must be called before a material project is made.

@@ -14,8 +14,8 @@ struct Request
     };
 };
 
-/// Registers the requests, and that materials belong into material projects. The application calls it after initMat,
-/// whose content is fixed. Safe to call more than once.
+/// Registers the requests, and the rule that materials belong into material projects. The application calls it after
+/// initMat, whose content is fixed. Safe to call more than once.
 VXMATERIAL_EXPORT void registerRequests();
 
 } // namespace Mat

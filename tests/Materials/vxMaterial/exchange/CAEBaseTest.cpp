@@ -65,7 +65,7 @@ TEST(Section, LeavesTheDocumentThatItReadsAsItWas)
     EXPECT_EQ(document, json(text));
 }
 
-/// A document with every member that is read set to something that is neither 0 nor empty.
+/// Returns a document in which every member for reading is neither 0 nor empty.
 Json::Value fullDocument()
 {
     return json(R"({
@@ -136,7 +136,7 @@ TEST(Section, ReplacesItsMemberWhenWrittenTwiceButTheMaterialsAreAddedTo)
     }
 }
 
-/// The elements of the list of a section.
+/// Returns the number of elements in the list of a section.
 Json::ArrayIndex lengthOf(const vxCAE::CAEBase& section, const char* member, const char* list)
 {
     return vxtest::written(section)[member][list].size();
@@ -161,7 +161,7 @@ TEST(Section, AddsTheElementsOfItsListsToThoseHeld)
     EXPECT_EQ(lengthOf(domains, "connections", "contacts"), 2U);
 }
 
-/// Every member that is read as an unsigned number, whatever it is written as.
+/// Covers every member that is read as an unsigned number.
 TEST(Section, RefusesANegativeNumberWhereAnUnsignedOneIsRead)
 {
     const std::pair<const char*, std::vector<const char*>> members[] = {
@@ -208,7 +208,7 @@ TEST(Section, ReadsASignedNumberInTheDimensionsAlone)
     EXPECT_EQ(set.mesh->mesh_dim, -2);
 }
 
-// What owns its elements is not copied.
+// Classes that own their elements are not copied.
 static_assert(!std::is_copy_constructible_v<vxCAE::CAEMaterials> && !std::is_copy_constructible_v<vxCAE::CAEBCS>);
 static_assert(!std::is_copy_constructible_v<vxCAE::CAEICS> && !std::is_copy_constructible_v<vxCAE::CAEDCS>);
 static_assert(!std::is_copy_constructible_v<vxCAE::DomainEntry> && !std::is_copy_constructible_v<vxCAE::CAESet>);

@@ -42,7 +42,7 @@ std::unique_ptr<MaterialEntry> countedEntry(int& alive)
     return entry;
 }
 
-/// The one property of "Props" with a type.
+/// Returns the only property of "Props" with a type.
 const Json::Value& propertyOf(const Json::Value& material, int type)
 {
     for (const Json::Value& property : material["Props"]) {
@@ -61,7 +61,7 @@ TEST(CAEMaterials, HasNoEntryForANumberThatItDoesNotHold)
         section.addMaterial(number, makeEntry({}));
     for (const unsigned number : {5U, 9U})
         EXPECT_NE(section.getMaterial(number), nullptr) << number;
-    // Below, between and above those that it holds.
+    // Numbers below, between and above the existing numbers.
     for (const unsigned number : {0U, 4U, 6U, 8U, 10U, 4294967295U})
         EXPECT_EQ(section.getMaterial(number), nullptr) << number;
 }

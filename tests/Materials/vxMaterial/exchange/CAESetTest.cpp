@@ -18,7 +18,7 @@ using vxtest::json;
 using vxtest::makeEntry;
 using vxtest::written;
 
-/// An analysis set with one domain whose material has a kind.
+/// Returns an analysis set with one domain whose material has a kind.
 std::unique_ptr<CAESet> withDomainKind(int kind)
 {
     auto set = std::make_unique<CAESet>(3, 1);
@@ -64,7 +64,7 @@ TEST(CAESet, HasNoSectionUnderZeroTwoAndOtherNumbers)
         EXPECT_EQ(set.getSection(index), nullptr) << index;
 }
 
-/// What was done to the sections of a set, in order.
+/// The calls of the sections of a set, in order.
 struct Log
 {
     std::vector<std::string> written;
@@ -72,7 +72,7 @@ struct Log
     std::vector<std::string> destroyed;
 };
 
-/// A section that logs what is done to it.
+/// A section that logs its calls.
 template <class Section>
 class Watched : public Section
 {
@@ -97,7 +97,7 @@ private:
     Log& m_log;
 };
 
-/// A set of a kind whose sections log what is done to them.
+/// Returns a set of a kind whose sections log their calls.
 std::unique_ptr<CAESet> watchedSet(unsigned kind, Log& log)
 {
     auto set = std::make_unique<CAESet>(3, kind);

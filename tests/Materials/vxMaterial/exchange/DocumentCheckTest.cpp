@@ -38,7 +38,7 @@ std::vector<std::string> findings(const std::string& text)
     return lines(checkDocument(json(text)).findings);
 }
 
-/// The findings about a material whose "Props" are given as text.
+/// Returns the findings about a material whose "Props" are given as text.
 std::vector<std::string> findingsOfProperties(const std::string& properties)
 {
     return findings(R"({"proj_type": 2, "material": [{"mat_id": 1, "mat_name": "m", "Props": )" + properties + "}]}");
@@ -50,7 +50,7 @@ std::string property(int type, const std::string& value)
            value + "}";
 }
 
-/// An analysis document without findings, which the tests change.
+/// Returns an analysis document without findings, which the tests change.
 Json::Value analysis()
 {
     CAESet set(1, 1);

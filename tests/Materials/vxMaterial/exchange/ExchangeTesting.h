@@ -13,7 +13,7 @@
 
 namespace vxtest {
 
-/// The document that a JSON text describes; the test fails if it is not JSON.
+/// Returns the document of a JSON text; the test fails if the text is not JSON.
 inline Json::Value json(const std::string& text)
 {
     auto reading = vxjson::readJsonText(text);
@@ -21,7 +21,7 @@ inline Json::Value json(const std::string& text)
     return std::move(reading.document);
 }
 
-/// What a section writes into an empty document.
+/// Returns the output of a section for an empty document.
 template <class Section>
 Json::Value written(const Section& section)
 {
@@ -30,7 +30,7 @@ Json::Value written(const Section& section)
     return document;
 }
 
-/// A material entry with numbers under ids, classified.
+/// Returns a classified material entry with numbers under ids.
 inline std::unique_ptr<vxCAE::MaterialEntry> makeEntry(std::initializer_list<std::pair<int, double>> numbers)
 {
     auto entry = std::make_unique<vxCAE::MaterialEntry>();

@@ -34,7 +34,7 @@ TEST(MaterialEntry, ClassifiesByTheFirstSwitchOfItsOrder)
     const std::pair<int, int> kinds[] = {{32, 12}, {29, 15}, {30, 11}, {28, 16}, {42, 20}, {45, 22}};
     auto entry = makeEntry({});
     EXPECT_FALSE(entry->classifyKind());
-    // From the last switch to the first: each takes precedence over those before.
+    // From the last switch to the first: each takes precedence over the switches before it.
     for (auto switchOf = std::rbegin(kinds); switchOf != std::rend(kinds); ++switchOf) {
         entry->material->setProperty(switchOf->first, vxMat::findPropertyRecord(switchOf->first)->create());
         EXPECT_TRUE(entry->classifyKind());

@@ -36,7 +36,7 @@ using testing::SizeIs;
 using vxtest::MessageBoxes;
 using vxtest::slotOf;
 
-/// The fields of a command that the user and the host see, written by hand.
+/// The expected fields of a command that the user and the host see.
 struct Row
 {
     const char* name;
@@ -112,7 +112,7 @@ const std::vector<Row>& expectedRows()
     return rows;
 }
 
-/// Gives access to fields of commands that the host keeps and does not show.
+/// Gives access to fields of commands that the host stores and does not show.
 struct ProtectedFields : Gui::Command
 {
     static auto moduleNameOf() { return &ProtectedFields::module; }
@@ -129,14 +129,14 @@ protected:
         return *Obj::Application::instance().createProject("Fem::FemProject", name);
     }
 
-    /// The message log says, once, that the analysis project takes no materials.
+    /// Expects the message log to contain once that the analysis project takes no materials.
     void expectRefusal()
     {
         EXPECT_EQ(Kelta::MessageLog::instance().errorCount(), ++errorsBefore);
         EXPECT_THAT(lastMessage(), HasSubstr("projects of class \"Fem::FemProject\" do not take such objects"));
     }
 
-    /// Opens the editor of a material and changes a value in it, without applying that.
+    /// Opens the editor of a material and changes a value in it, without Apply.
     MatGui::MaterialView& editUnapplied(Mat::MaterialObject& material) const
     {
         nodeOf(material).on_double_clicked();
@@ -152,7 +152,7 @@ protected:
         return *editor.findChild<MatGui::SheetTableView*>();
     }
 
-    /// Whether the editor that a double click opens shows what the material holds.
+    /// Returns whether the editor that a double click opens shows the values of the material.
     bool showsTheMaterial(Mat::MaterialObject& material) const
     {
         nodeOf(material).on_double_clicked();
@@ -216,7 +216,7 @@ TEST_F(Commands, ShowTheirFieldsInTheirActions)
         EXPECT_EQ(action->statusTip(), row.tip);
         EXPECT_EQ(action->whatsThis(), row.whatsThis);
         EXPECT_EQ(action->icon().isNull(), *row.pixmap == '\0');
-        // A picture that is missing would be shown as a grey square.
+        // A missing picture would be shown as a grey square.
         EXPECT_TRUE(*row.pixmap == '\0' ||
                     QFile::exists(QStringLiteral(":icons/%1.svg").arg(QLatin1String(row.pixmap))));
         EXPECT_EQ(action->shortcut(), row.shortcut);
@@ -233,7 +233,7 @@ TEST(CommandClasses, HaveTheVirtualOperationsInTheOrderOfTheHost)
         slotOf(&CommandBase::get_pixmap),       slotOf(&CommandBase::get_shortcut),
         slotOf(&CommandBase::activated),        slotOf(&CommandBase::is_applicable),
     };
-    // The two destructors are in front of them.
+    // The two destructors precede them.
     EXPECT_THAT(places, ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 11));
     EXPECT_EQ(slotOf(&MatGui::MatCmdDelete::activated), slotOf(&CommandBase::activated));
     EXPECT_EQ(slotOf(&MatGui::MatCmdDelete::is_applicable), slotOf(&CommandBase::is_applicable));
@@ -608,7 +608,7 @@ protected:
 
     bool isDeleted() const { return project.getObjects().size() == 1; }
 
-    /// Runs the command and calls `answer` with the box that is shown.
+    /// Runs the command and calls `answer` with the shown box.
     void deleteAnswering(const std::function<void(QMessageBox&)>& answer) const
     {
         QTimer timer;
@@ -664,7 +664,7 @@ TEST_F(DependencyQuestion, IsAnsweredWithYesByReturnAndSpace)
         ASSERT_FALSE(isDeleted());
         select({&material});
         deleteAnswering([key](QMessageBox& box) {
-            // It gets the keyboard soon after it has been shown.
+            // The box gets the keyboard focus soon after it is shown.
             if (box.focusWidget() == nullptr)
                 return;
             EXPECT_EQ(box.focusWidget(), box.button(QMessageBox::Yes));
@@ -803,7 +803,7 @@ TEST_F(Commands, DeletePassesOverWhatHasLeftTheProjectMeanwhile)
     Mat::MaterialObject& first = addMaterial(project, "First");
     Mat::MaterialObject& second = addMaterial(project, "Second");
     select({&first, &second});
-    // The removal of the first removes the second, as with an object that owns others.
+    // The removal of the first object removes the second, as for an object that owns others.
     const auto secondId = second.getObjectId();
     boost::signals2::scoped_connection chain = project.objectRemoved.connect([&](Obj::ProjectObject& object) {
         if (&object == &first)
@@ -865,7 +865,7 @@ TEST_F(Commands, DeleteOfAMaterialWithAnOpenEditorClosesItAndUndoBringsTheMateri
     Mat::MaterialObject& material = addMaterial(project);
     const std::size_t properties = material.getCMaterial()->properties.size();
     nodeOf(material).on_double_clicked();
-    // The table is emptied, and not applied.
+    // Empty the table without applying the change.
     QTest::mouseClick(activeEditor()->findChild<QPushButton*>(QStringLiteral("btnClear")), Qt::LeftButton);
     select({&material});
     EXPECT_TRUE(run("Mat_Delete"));
@@ -1070,7 +1070,7 @@ TEST_F(Commands, TheRequestToAddAMaterialIsRefusedByAProjectOfAnotherKind)
     EXPECT_EQ(undoStack().count(), 0);
 }
 
-/// What a file dialog showed before it was cancelled.
+/// The content of a file dialog before the user cancels it.
 struct ShownDialog
 {
     int count = 0;
@@ -1097,7 +1097,7 @@ ShownDialog cancelDialogsOf(const std::function<void()>& action)
     return shown;
 }
 
-/// Chooses a file in the dialog that comes up, after something else has happened meanwhile.
+/// Chooses a file in the next dialog, after another action.
 void chooseMeanwhile(const QString& path, const std::function<void()>& meanwhile, const std::function<void()>& action)
 {
     bool done = false;
@@ -1244,7 +1244,7 @@ TEST_F(Commands, ExportWritesNothingWhenNoFileIsChosen)
     ASSERT_EQ(material.getCMaterial()->name, "Structural Steel");
     Gui::FileDialog::answerNext({});
     EXPECT_TRUE(run("Mat_Export"));
-    // An export would have given it the label as its name.
+    // An export would set its name to the label.
     EXPECT_EQ(material.getCMaterial()->name, "Structural Steel");
 }
 

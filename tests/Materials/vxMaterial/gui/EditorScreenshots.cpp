@@ -1,4 +1,4 @@
-// Pictures of the material editor to look at: both tabs and a refused value, in one language and one scheme of colours.
+// Makes pictures of the material editor: both tabs and a refused value, in one language and one colour scheme.
 // Usage: editor_screenshots FOLDER LANGUAGE light|dark SUFFIX
 
 #include "Gui/GuiApplication.h"

@@ -72,7 +72,7 @@ void Editor::turnTo(QListWidget& list)
     QTest::mouseClick(buttons[box->indexOf(page)], Qt::LeftButton);
     EXPECT_EQ(box->currentWidget(), page);
     EXPECT_TRUE(list.isVisible());
-    // The page gets its size when the tool box is laid out.
+    // The tool box sets the size of the page in its layout.
     QCoreApplication::sendPostedEvents();
 }
 

@@ -49,7 +49,7 @@ private:
     Mat::MaterialObject* m_object;
 };
 
-/// An editor window in the main window of the program, and what a user does there.
+/// An editor window in the main window of the program, and the actions of a user in it.
 class Editor
 {
 public:
@@ -59,12 +59,12 @@ public:
 
     MaterialProject& project() { return m_project; }
     vxMat::CMaterial& material() { return m_project.material(); }
-    /// Null if the window has been closed.
+    /// Returns null if the window is closed.
     MatGui::MaterialView* view() const { return m_view; }
-    /// Waits until the window has been closed.
+    /// Waits until the window is closed.
     bool isClosed() const;
 
-    /// The widget or layout with this object name. Fails the test if there is none of this class.
+    /// Returns the widget or layout with this object name. Fails the test if there is none of this class.
     template <class Child>
     Child& child(const char* name) const
     {
@@ -75,7 +75,7 @@ public:
     }
     MatGui::SheetTableView& table() const { return child<MatGui::SheetTableView>("tableView"); }
     QListWidget& list(const char* name) const { return child<QListWidget>(name); }
-    /// The item with this text in one of the lists. Fails the test if there is none.
+    /// Returns the item with this text in one of the lists. Fails the test if there is none.
     QListWidgetItem* item(const QString& text) const;
 
     /// Brings the page of a list to the front by clicks on tab and tool box.
@@ -83,21 +83,21 @@ public:
     void click(const char* button);
     void select(QListWidgetItem* item);
     void doubleClick(QListWidgetItem* item);
-    /// A click on the check box of the item.
+    /// Clicks the check box of the item.
     void tickByMouse(QListWidgetItem* item);
     void tickBySpace(QListWidgetItem* item);
 
     int rowCount() const { return table().model()->rowCount(); }
     QString cell(int row, int column) const;
-    /// The ids of the rows from top to bottom.
+    /// Returns the ids of the rows from top to bottom.
     std::vector<int> rowIds() const;
-    /// The row of this id; -1 if there is none.
+    /// Returns the row with this id; -1 if there is none.
     int rowOf(int id) const;
-    /// Opens the value in the row of this id by the keyboard and returns its editor; null if none opens.
+    /// Opens the value in the row with this id by the keyboard and returns its editor; null if no editor opens.
     QLineEdit* openValue(int id);
-    /// Opens the value in the row of this id and types a text in place of the earlier one, without committing it.
+    /// Opens the value in the row with this id and types a text in place of the earlier text, without committing it.
     void startTyping(int id, const QString& text);
-    /// Types a value into the row of this id in place of the earlier one and presses Return.
+    /// Types a value into the row with this id in place of the earlier value and presses Return.
     void typeValue(int id, const QString& text);
 
 private:
@@ -106,10 +106,10 @@ private:
     QPointer<MatGui::MaterialView> m_view;
 };
 
-/// The editor that is open in a cell of the table; null if there is none.
+/// Returns the editor that is open in a cell of the table; null if there is none.
 QLineEdit* openEditor(const QAbstractItemView& view);
 
-/// The methods of this kind that a class itself declares, in their order: "on_btnOK_clicked()".
+/// Returns the methods of this kind that a class itself declares, in their order: "on_btnOK_clicked()".
 QStringList ownMethods(const QMetaObject& meta, QMetaMethod::MethodType kind);
 
 /// The values of a property.
@@ -128,11 +128,11 @@ std::map<int, Held> contents(const vxMat::MaterialBase& material);
 /// Texts in another language, by "context|comment|source text".
 using Translations = std::map<std::string, QString>;
 
-/// Translates some texts and no others.
+/// Translates only the given texts.
 class TestTranslator : public QTranslator
 {
 public:
-    /// The translator is installed as long as it exists.
+    /// Installs the translator as long as it exists.
     explicit TestTranslator(Translations texts);
     ~TestTranslator() override;
     TestTranslator(const TestTranslator&) = delete;
@@ -144,7 +144,7 @@ private:
     Translations m_texts;
 };
 
-/// Fails the test if Qt warns of anything as long as the object exists.
+/// Fails the test if Qt logs a warning as long as the object exists.
 class NoQtWarnings
 {
 public:

@@ -34,7 +34,7 @@ public:
     QTableView& view() { return m_view; }
     QModelIndex index(int row, int column) const { return m_model.index(row, column); }
 
-    /// The editor that the delegate makes for a cell, with the data of the cell. Fails the test if it has another class.
+    /// Returns the editor of the delegate for a cell, with the data of the cell. Fails the test if its class differs.
     template <class Editor>
     Editor* open(int row, int column, const QVariant& data)
     {
@@ -76,7 +76,7 @@ QStringList itemTexts(const QComboBox& box)
     return texts;
 }
 
-/// Whether the delegate closes the editor on Escape: it does if it is the editor's event filter.
+/// Returns whether the delegate closes the editor on Escape, which it does as the editor's event filter.
 bool filtersEventsOf(QAbstractItemDelegate& delegate, QWidget* editor)
 {
     bool closed = false;
@@ -265,7 +265,7 @@ TEST(DateDelegate, ShowsNoDateForAnotherFormOfText)
     }
 }
 
-/// A table with a text that is no date, in the first cell, whose editor can be opened.
+/// A table whose first cell contains a text that is not a date. The editor of the cell can be opened.
 class DateTable
 {
 public:
@@ -395,7 +395,7 @@ TEST(SpinDelegate, HasAFramedEditorThatFillsItsCellAndIsFiltered)
     EXPECT_TRUE(filtersEventsOf(delegate, box));
 }
 
-/// A model that tells two roles apart, which QStandardItemModel does not.
+/// A model that distinguishes two roles. QStandardItemModel does not distinguish them.
 class TwoRoles : public QStandardItemModel
 {
 public:

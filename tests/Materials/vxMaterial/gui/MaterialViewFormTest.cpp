@@ -199,7 +199,7 @@ TEST(MaterialView, LaysItsWidgetsOutAsTheFormSays)
         EXPECT_EQ(editor.child<QLayout>(name).spacing(), 1) << name;
 }
 
-/// The names of the widgets of a row, spacers as "-".
+/// Returns the names of the widgets of a row, spacers as "-".
 QStringList rowOf(const QLayout& layout)
 {
     QStringList names;
@@ -266,7 +266,7 @@ TEST(MaterialView, FollowsAChangeOfTheLanguageWithoutTouchingItsRows)
 
 // --- Keyboard and assistive technology ---
 
-/// The widgets that the Tab key visits, from the tabs on until they come again.
+/// Returns the widgets that the Tab key visits, from the tabs on, until they repeat.
 QStringList tabOrder(Editor& editor)
 {
     auto* const start = editor.child<QTabWidget>("tabWidget").tabBar();

@@ -1,4 +1,4 @@
-// What the material editor offers to the application: edits that are not applied, vetoes, and the way to a row.
+// The interface of the material editor to the application: unapplied edits, vetoes, and showing a row.
 
 #include "EditorTesting.h"
 #include "MessageBoxes.h"
@@ -32,7 +32,7 @@ TEST(MaterialViewHost, EndsAnEditForTheHostAndKeepsTheText)
     EXPECT_TRUE(window.isWindowModified());
 }
 
-// --- Edits that are not applied ---
+// --- Unapplied edits ---
 
 TEST(MaterialViewHost, HasNoRecordWithoutEdits)
 {
@@ -245,9 +245,9 @@ TEST(MaterialViewHost, KeepsTheCurrentRowWhenItApplies)
     EXPECT_EQ(editor.table().currentIndex(), editor.table().model()->index(editor.rowOf(203), 2));
 }
 
-// --- The way to a row ---
+// --- Showing a row ---
 
-/// Expects the value in a row to be current, selected, visible, and to have the keyboard.
+/// Expects the value in a row to be current, selected and visible, and to have the keyboard focus.
 void expectAtRow(Editor& editor, int row)
 {
     const QModelIndex value = editor.table().model()->index(row, 2);

@@ -1,4 +1,4 @@
-// The material editor with the translations that come with the program.
+// The material editor with the translations of the program.
 
 #include "EditorTesting.h"
 #include "MessageBoxes.h"

@@ -49,8 +49,8 @@ std::vector<double> numbers(const std::string& list)
     return all;
 }
 
-/// What a property made from a row with this value holds: words, lists and numbers unchanged, and 1 for the five switches
-/// whose presence alone has a meaning.
+/// Returns the data of a property made from a row with this value: words, lists and numbers unchanged, and 1 for the
+/// five switches, whose value has no meaning.
 Held read(int id, const std::string& value)
 {
     switch (id) {
@@ -123,7 +123,7 @@ TEST(MaterialViewLibrary, OpenedAndAppliedChangesNothing)
     for (const auto& [type, expected] : library()) {
         SCOPED_TRACE(expected.name);
         if (expected.group == "7")
-            continue; // loses its second density
+            continue; // it loses its second density
         Editor editor([t = type](vxtest::MaterialProject& project) {
             project.object().setCMaterial(project.database().materials.at(t).get());
         });

@@ -14,7 +14,7 @@ namespace {
 
 using vxtest::Editor;
 
-/// What the editor must show after the actions so far.
+/// The expected content of the editor after the actions so far.
 struct Notes
 {
     std::multiset<int> rows;
@@ -154,7 +154,7 @@ private:
         for (const auto& [slot, held] : after)
             appliedSlots.insert(slot);
         ASSERT_EQ(appliedSlots, std::set<int>(m_notes.rows.begin(), m_notes.rows.end()));
-        // The editor shows the material: of two rows of one id, one is left.
+        // The editor shows the material: of two rows with one id, one remains.
         m_notes.show(m_editor.material());
         ++applied;
     }
@@ -176,7 +176,7 @@ TEST(MaterialViewRandom, StaysConsistentThroughThousandsOfClicks)
         if (HasFatalFailure())
             return;
     }
-    // Both outcomes have occurred often enough.
+    // Both outcomes must occur often enough.
     EXPECT_GT(user.applied, 10);
     EXPECT_GT(user.refused, 10);
 }

@@ -28,7 +28,7 @@ using testing::UnorderedElementsAre;
 using vxtest::Editor;
 using vxtest::MessageBoxes;
 
-/// The ids of the quantities that are checked on the Build tab, by the names of the items.
+/// Returns the names of the items that are checked on the Build tab.
 std::set<QString> checkedItems(const Editor& editor)
 {
     std::set<QString> names;
@@ -57,7 +57,7 @@ bool apply(Editor& editor)
     return applied;
 }
 
-/// Calls a slot with an item, as a signal of a list would.
+/// Calls a slot with an item, like a signal of a list.
 void call(Editor& editor, const char* slot, QListWidgetItem* item)
 {
     EXPECT_TRUE(QMetaObject::invokeMethod(editor.view(), slot, Q_ARG(QListWidgetItem*, item)));
@@ -455,8 +455,8 @@ TEST(MaterialView, ShowsTheTextsOfItsBoxesInTheLanguageOfTheUser)
     expectOneBox(boxes, "Keine Eigenschaft", "Nichts da.");
 }
 
-/// Throws as if memory ran out while a text is translated. This is the only way to make a material of the database throw
-/// while it is shown.
+/// Throws while a text is translated, as if memory runs out. This is the only way to make a material of the database
+/// throw while it is shown.
 class ThrowingTranslator : public QTranslator
 {
 public:
@@ -504,7 +504,7 @@ TEST(MaterialView, ReportsWhatASlotThrowsAndLeavesMaterialAndTable)
 
 // --- Keys ---
 
-/// Notes the keys that reach a widget.
+/// Records the keys that reach a widget.
 class KeyNotes : public QObject
 {
 public:
@@ -571,14 +571,14 @@ TEST(MaterialView, IsMarkedAsModifiedUntilItsChangesAreApplied)
     EXPECT_FALSE(editor.view()->isWindowModified());
 }
 
-// --- Closing with changes that are not applied ---
+// --- Closing with unapplied changes ---
 
 void close()
 {
     Gui::MainWindow::get_main_window_inst()->close_current_window();
 }
 
-/// Closes the window and waits for `count` boxes, of which each is answered with `answer` if it has that button.
+/// Closes the window and waits for `count` boxes. Clicks `answer` in each box that has this button.
 std::vector<vxtest::ShownBox> closeAnswering(QMessageBox::StandardButton answer, std::size_t count = 1)
 {
     const MessageBoxes boxes(answer);
@@ -614,7 +614,7 @@ TEST(MaterialView, ShowsTheLabelLiterallyInItsQuestion)
 
 TEST(MaterialView, StaysOpenWithItsChangesWhenTheQuestionIsCancelledOrClosed)
 {
-    // A box without a No button is closed by its frame.
+    // The frame closes a box without a No button.
     for (const auto answer : {QMessageBox::Cancel, QMessageBox::No}) {
         Editor editor;
         editor.typeValue(4, "2700");

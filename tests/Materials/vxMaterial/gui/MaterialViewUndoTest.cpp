@@ -14,7 +14,7 @@ namespace {
 using testing::IsEmpty;
 using vxtest::Editor;
 
-/// Everything that the editor shows of the material: the cells of the table, and the names of the checked quantities.
+/// The material in the editor: the cells of the table, and the names of the checked quantities.
 struct Shown
 {
     QStringList cells;
@@ -38,7 +38,7 @@ Shown shown(const Editor& editor)
     return now;
 }
 
-/// Presses a key where the keyboard is.
+/// Presses a key in the widget with the keyboard focus.
 void press(int key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
@@ -110,7 +110,7 @@ TEST(MaterialViewUndo, IsReachedFromListsTableAndButtons)
     }
 }
 
-/// Counts how often the host undoes or redoes.
+/// Counts the undo and redo calls of the host.
 class HostHistory
 {
 public:
@@ -143,7 +143,7 @@ TEST(MaterialViewUndo, LeavesTheKeyToTheHostOnlyWithoutEdits)
     pressUndo();
     EXPECT_EQ(host.count, 1);
     EXPECT_FALSE(editor.view()->isWindowModified());
-    // What was undone can be redone here, so that the host must not redo something else.
+    // The editor can redo the undone step, so the host must not redo another step.
     press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(host.count, 1);
     EXPECT_EQ(editor.cell(editor.rowOf(4), 2), "2700");
@@ -153,7 +153,7 @@ TEST(MaterialViewUndo, DoesNothingInAModifiedEditorWithoutStepsToUndo)
 {
     Editor editor;
     HostHistory host;
-    // The window is marked by the application, which may mark it because of changes that are not in the window.
+    // The application marks the window. It may mark the window because of changes outside of it.
     editor.view()->setWindowModified(true);
     const Shown before = shown(editor);
     editor.table().setFocus();

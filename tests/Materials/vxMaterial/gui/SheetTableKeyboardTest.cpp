@@ -1,4 +1,4 @@
-// The property table under the keyboard: where it comes to, how values are opened, and how words are completed.
+// The property table with the keyboard: the focus, opening values, and completing words.
 
 #include "EditorTesting.h"
 
@@ -90,7 +90,7 @@ TEST(SheetTableKeyboard, KeepsAListOfAnyLengthThatIsOpenedAndClosed)
 
 // --- Words ---
 
-/// An editor with rows for both words.
+/// Adds rows for both words to an editor and returns it.
 Editor& withWords(Editor& editor)
 {
     editor.doubleClick(editor.item("Nonlinear Structural Steel"));

@@ -1,4 +1,4 @@
-// How the property table places its rows and columns.
+// The positions and sizes of the rows and columns of the property table.
 
 #include "EditorTesting.h"
 
@@ -19,7 +19,7 @@ namespace {
 
 using vxtest::Editor;
 
-/// Replaces a value as if the user had pasted it.
+/// Replaces a value as if the user pastes it.
 void enter(Editor& editor, int id, const QString& text)
 {
     editor.table().setFocus();
@@ -81,7 +81,7 @@ public:
         QCoreApplication::processEvents();
     }
     int viewportWidth() const { return m_table.viewport()->width(); }
-    /// The widths of the columns that are shown, and the heights of the rows.
+    /// Returns the widths of the shown columns, and the heights of the rows.
     std::vector<int> sizes() const
     {
         std::vector<int> all{m_table.columnWidth(1), m_table.columnWidth(2), m_table.columnWidth(3)};
@@ -122,7 +122,7 @@ TEST(SheetTableLooks, GivesEachRowTheHeightOfItsTextsAlsoIfTheScrollBarAppears)
         frame->resize(size);
         for (const char* const material : {"Air", "Nonlinear Structural Steel", "Concrete", "Plastic Example 1"}) {
             editor.doubleClick(editor.item(material));
-            // The scroll bar comes with the event loop.
+            // The event loop shows or hides the scroll bar.
             QCoreApplication::processEvents();
             EXPECT_TRUE(QTest::qWaitFor(rowsFit)) << material << " at " << size.width();
         }
@@ -172,7 +172,7 @@ TEST(SheetTableLooks, GivesAVeryLongListTenLines)
     EXPECT_LE(editor.table().rowHeight(editor.rowOf(38)), 11 * line);
 }
 
-/// The number of pixel columns of a picture in which something is drawn.
+/// Returns the number of pixel columns of a picture that are not blank.
 int drawnColumns(const QImage& image)
 {
     int drawn = 0;

@@ -46,7 +46,7 @@ public:
             all.push_back(cell(row, 0).toInt());
         return all;
     }
-    /// The values that the column "Value" shows, by id.
+    /// Returns the values that the column "Value" shows, by id.
     std::map<int, QString> values()
     {
         std::map<int, QString> all;
@@ -68,7 +68,7 @@ public:
     SheetTableView table;
 };
 
-/// What the whole table holds, cell by cell.
+/// Returns the texts of the whole table, cell by cell.
 QStringList texts(QAbstractItemModel& model)
 {
     QStringList all;
@@ -110,7 +110,7 @@ TEST(SheetTableDelegate, HasTheOneSlot)
     EXPECT_THAT(vxtest::ownMethods(meta, QMetaMethod::Signal), IsEmpty());
 }
 
-// --- As it is built ---
+// --- Initial state ---
 
 TEST(SheetTableView, HasSixColumnsOfWhichThreeAreHidden)
 {
@@ -195,7 +195,7 @@ TEST(SheetTableView, IsWhiteWithBlackTextWhateverTheColoursOfTheProgram)
     }
 }
 
-/// The contrast of two colours as accessibility guidelines define it, from 1 to 21.
+/// Returns the contrast of two colours as accessibility guidelines define it, from 1 to 21.
 double contrast(const QColor& one, const QColor& other)
 {
     const auto luminance = [](const QColor& colour) {
@@ -270,7 +270,7 @@ TEST(SheetTableView, IsLeftUnchangedByEveryEntryOfItsContextMenus)
     EXPECT_EQ(sheet.model().columnCount(), 6);
 }
 
-/// How many of the owner's actions trigger the slot: a connection exists if it can be removed.
+/// Returns the number of the owner's actions that trigger the slot: a connection exists if it can be removed.
 int triggering(const QWidget& owner, const SheetTableView& table, const char* slot)
 {
     int count = 0;
@@ -491,7 +491,7 @@ TEST(SheetTableView, CommitsTypedTextOnReturnAndClosesTheEditor)
     ASSERT_TRUE(sheet.show());
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         sheet.table.setCurrentIndex(sheet.model().index(0, 2));
-        // Typing replaces what was there.
+        // Typing replaces the earlier text.
         QTest::keyClicks(&sheet.table, "1");
         QPointer<QLineEdit> editor = vxtest::openEditor(sheet.table);
         ASSERT_NE(editor, nullptr);
@@ -684,7 +684,7 @@ TEST(SheetTableView, RebuildsTheMaterialFromItsRowsAlone)
     EXPECT_EQ(density.key, "rho");
     EXPECT_EQ(density.description, "Mass density");
     EXPECT_EQ(density.value, 7850.0);
-    // A property that is made from a row has no unit and no category.
+    // A property made from a row has no unit and no category.
     EXPECT_EQ(density.unit, "");
     EXPECT_EQ(density.category, vxMat::ePropertyCategory::Undefined);
     EXPECT_EQ(properties.at(33)->text, "Mises");

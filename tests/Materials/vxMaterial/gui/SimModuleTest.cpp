@@ -123,7 +123,7 @@ TEST_F(SimModuleTest, ShowsItsMenuAndToolbarsInTheMainWindow)
 
 TEST_F(SimModuleTest, HasDifferentKeysAndMnemonicsInEachMenu)
 {
-    // "Mat_Delete" has the key of "Std_Delete", which alone hears it.
+    // "Mat_Delete" has the key of "Std_Delete". Only "Std_Delete" gets the key.
     std::map<QKeySequence, std::string> users;
     for (const QAction* const action : window->actions() + window->getProjectExplorer().actions())
         if (!action->shortcut().isEmpty()) {
@@ -208,7 +208,7 @@ TEST(WorkbenchHelper, DeclaresTwoSlotsAndNothingElse)
 class Colours : public vxtest::Workbench
 {
 protected:
-    /// The whole window as the user sees it.
+    /// Returns a picture of the whole window.
     QImage lookAfter(const char* slot, const QColor& colour) const
     {
         WorkbenchHelper helper;

@@ -25,7 +25,7 @@ struct Row
     QVariant value;
 };
 
-/// The message about a table of these rows; empty if it passes.
+/// Returns the message about a table of these rows; empty if it passes.
 QString check(const std::vector<Row>& rows)
 {
     SheetTableView table;
@@ -155,9 +155,9 @@ TEST(TableValidation, ChangesNothing)
     EXPECT_EQ(model.index(0, 2).data().toString(), "bad");
 }
 
-// --- Agreement with the way in which texts are read as numbers ---
+// --- Agreement with the reading of texts as numbers ---
 
-/// The results of the rules for the number that QString reads from the text.
+/// Expects the results of the rules for the number that QString reads from the text.
 void expectAgreement(const QString& text)
 {
     const double number = text.toDouble();

@@ -5,7 +5,7 @@
 
 namespace vxtest {
 
-/// An object of a class that another module of the host would have registered under `Name`.
+/// An object of a class as another module of the host would register it under `Name`.
 template <const char* Name, const char* ParentName>
 class ForeignObject final : public Obj::ProjectObject
 {
@@ -33,7 +33,7 @@ inline constexpr char loadGroup[] = "Fem::FemLoadGroup";
 inline constexpr char analysis[] = "Fem::FemProject";
 inline constexpr const char* protectedNames[] = {geometryGroup, meshGroup, study, solution, connections};
 
-/// A project of a class that another module of the host would have registered under `Name`.
+/// A project of a class as another module of the host would register it under `Name`.
 template <const char* Name>
 class ForeignProject final : public Obj::Project
 {

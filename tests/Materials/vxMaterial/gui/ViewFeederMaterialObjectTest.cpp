@@ -16,7 +16,7 @@
 
 namespace {
 
-/// What has arrived at editors.
+/// Returns the properties that reached editors.
 std::vector<const Obj::Property*>& arrivedProperties()
 {
     static std::vector<const Obj::Property*> properties;
@@ -25,8 +25,8 @@ std::vector<const Obj::Property*>& arrivedProperties()
 
 } // namespace
 
-// The editor's own operation is empty, so that a call of it would have no visible effect. The loader finds this definition
-// first, also for calls from inside the plug-in.
+// The editor's own operation is empty, so that a call of it would have no visible effect. The loader finds this
+// definition first, also for calls from inside the plug-in.
 void MatGui::MaterialView::updateCell(const Obj::Property* property)
 {
     arrivedProperties().push_back(property);
@@ -166,7 +166,7 @@ TEST_F(MaterialNode, OffersItsCommandsInTheirOrder)
     EXPECT_EQ(contextMenu().back(), "Std_Unsuppress");
 }
 
-/// Keeps the data of the action that called it.
+/// Stores the data of the action that called it.
 class Receiver : public QObject
 {
     Q_OBJECT
@@ -244,7 +244,7 @@ TEST_F(MaterialNode, ShowsTheMaterialInTheWindowOfTheEditor)
     EXPECT_EQ(icon, QIcon(Gui::PictureFactory::get_pixmap(":icons/norvex_materialobject.svg")).pixmap(32).toImage());
 }
 
-/// The title that a frame shows for a window with this title, without the name of the program.
+/// Returns the title that a frame shows for a window with this title, without the name of the program.
 QString shownTitle(const QString& windowTitle, bool isModified)
 {
     QWidget frame;

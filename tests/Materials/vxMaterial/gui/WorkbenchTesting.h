@@ -28,7 +28,7 @@
 
 namespace vxtest {
 
-/// A test with the main window and the materials workbench, as the application has them after its start.
+/// A test with the main window and the materials workbench, in their state after the start of the application.
 class Workbench : public testing::Test
 {
 protected:
@@ -91,7 +91,7 @@ protected:
         return *Gui::GuiApplication::Instance->get_view_feeder(&object);
     }
 
-    /// The active editor; null if there is none.
+    /// Returns the active editor; null if there is none.
     MatGui::MaterialView* activeEditor() const
     {
         return dynamic_cast<MatGui::MaterialView*>(window->get_active_mdi_window());

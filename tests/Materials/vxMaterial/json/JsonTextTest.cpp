@@ -47,7 +47,7 @@ TEST(ReadJsonText, CountsColumnsInCharacters)
     EXPECT_EQ(errorOf("\xEF\xBB\xBF[x]").column, 2);
 }
 
-/// A wrong text, and what is said of it.
+/// An invalid text and its error message.
 struct Wrong
 {
     const char* text;
@@ -89,7 +89,7 @@ TEST(ReadJsonText, RefusesControlCharactersAsTheyAre)
             EXPECT_EQ(errorOf(std::string("[") + c + "]").column, 2) << static_cast<int>(c);
         }
     }
-    // Long enough for a reader that looks at many characters at once.
+    // Long enough for a reader that checks many characters at once.
     for (std::size_t at = 0; at < 64; ++at) {
         std::string text(64, 'a');
         text[at] = '\x1F';
@@ -166,7 +166,7 @@ TEST(ReadJsonText, RefusesANumberBeyondADouble)
     }
     EXPECT_FALSE(readJsonText("[0.0e-999, -0, 5e-324, 1.7976931348623157e308, 12345678901234567890123]").error);
     EXPECT_FALSE(readJsonText("[0.001e310, 0.0000000001e318]").error);
-    // The exponent, or the digits before the point, of these are beyond the range, though the number is not.
+    // The exponent or the digits before the point exceed the range, although the number does not.
     for (const std::string& number : {std::string("0e999"), std::string(400, '1') + "e-200"})
         EXPECT_EQ(errorOf("[" + number + "]").column, 2) << number;
 }
@@ -221,7 +221,7 @@ TEST(ReadJsonText, RefusesAZeroByteAndWhatFollowsIt)
 
 TEST(ReadJsonText, RefusesATextOfMoreThanTwoGibibytes)
 {
-    // Its length is enough to refuse it; no byte of it is read.
+    // Its length is sufficient to refuse it; no byte of it is read.
     const char first = '[';
     const auto reading = readJsonText({&first, vxjson::longestText + 1});
     ASSERT_TRUE(reading.error);
@@ -283,7 +283,7 @@ TEST(ReadJsonText, ReadsPointsUnderACommaLocale)
 TEST(ReadJsonText, LeavesBothLocalesOfTheProcessAsTheyWere)
 {
     const vxtest::CommaLocale comma;
-    // A program may well have commas in C++ and points in C, or the other way round.
+    // A program may have commas in C++ and points in C, or the reverse.
     std::setlocale(LC_NUMERIC, "C");
     const std::string before = std::setlocale(LC_ALL, nullptr);
     EXPECT_FALSE(readJsonText("{}").error);

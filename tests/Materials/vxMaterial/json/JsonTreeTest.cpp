@@ -99,7 +99,7 @@ TEST(JsonTree, TellsWholeNumbersThatFitHoweverTheyAreWritten)
 
 TEST(JsonTree, ReadsTheNearestDouble)
 {
-    // Numbers that are known to be rounded wrongly by readers that take a short cut.
+    // Readers that take a short cut are known to round these numbers wrongly.
     const std::pair<const char*, double> numbers[] = {
         {"9007199254740993", 9007199254740992.0},
         {"9007199254740993.0", 9007199254740992.0},
@@ -142,7 +142,7 @@ TEST(JsonTree, ReadsEveryDoubleFromItsShortestText)
 
 TEST(JsonTree, ReadsADigitBehindAHundredThousandOthers)
 {
-    // Half way between 1 and the next double, and a little more.
+    // The middle between 1 and the next double, and a little more.
     const std::string half = "1.00000000000000011102230246251565404236316680908203125";
     EXPECT_EQ(read("[" + half + "]").root().element(0).number(), 1.0);
     EXPECT_EQ(read("[" + half + std::string(100000, '0') + "1]").root().element(0).number(), 1.0000000000000002);

@@ -26,7 +26,7 @@ std::string textOf(const Json::Value& value)
     return writer.take();
 }
 
-/// What the writer says of a value that cannot be written.
+/// Returns the fault that the writer reports for a value that cannot be written.
 std::string faultOf(const Json::Value& value)
 {
     JsonWriter writer;
@@ -46,7 +46,7 @@ TEST(JsonWriter, LaysOutBlocksAndLines)
         writer.number(number);
     }
     writer.element();
-    writer.beginObject(JsonLayout::Block); // inside a line, so in that line
+    writer.beginObject(JsonLayout::Block); // inside a line, and therefore in the same line
     writer.name("b");
     writer.boolean(true);
     writer.endObject();
@@ -133,7 +133,7 @@ TEST(JsonWriter, WritesNoDeeperThanReadersRead)
 
 TEST(JsonWriter, DoesNotIndentWithoutEnd)
 {
-    // Indented by two blanks for each level, this would be a million blanks.
+    // With two blanks of indentation for each level, this would be a million blanks.
     EXPECT_LT(textOf(nested(1000)).size(), 10000U);
 }
 

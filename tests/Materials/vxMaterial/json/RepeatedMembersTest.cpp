@@ -64,7 +64,7 @@ TEST(RepeatedMembers, AreFoundAmongManyMembers)
 
 TEST(RepeatedMembers, AreNamedByShortPathsAndNotWithoutEnd)
 {
-    // Written out, the path of each of these members would be longer than all of them.
+    // The full path of each of these members would be longer than all of them.
     std::string text = std::string(900, '[') + "{\"x\": 0";
     for (int i = 0; i < 5000; ++i)
         text += ", \"m" + std::to_string(i) + "\": 0, \"m" + std::to_string(i) + "\": 0";

@@ -18,7 +18,7 @@ using testing::SizeIs;
 using vxMat::CMaterial;
 using vxMat::MatDBManager;
 
-/// The keys of a map that are in front of the others in `order`; the test fails if the map holds others as well.
+/// Returns the first keys of `order` that a map contains; the test fails if the map contains other keys as well.
 template <class Map>
 std::size_t countOfFirst(const Map& map, const std::vector<std::int32_t>& order)
 {
@@ -62,7 +62,7 @@ protected:
         EXPECT_EQ(ratio, 0.3);
     }
 
-    /// Copies with each allocation failing; then the copy succeeds.
+    /// Copies with each allocation failing in turn; then the copy succeeds.
     template <class Copy>
     void expectAllOrNothing(const Copy& copy)
     {
@@ -71,7 +71,7 @@ protected:
             expectTargetUnchanged();
             EXPECT_EQ(vxtest::blocksInUse(), before);
         });
-        // At least the two properties and the list of one of them.
+        // There are at least the two properties and the list of one of them.
         EXPECT_GE(failed, 3);
         EXPECT_THAT(target.properties, SizeIs(2));
         EXPECT_THAT(target.getPropertyValues(vxMat::PropertyId::PlasticYieldStress),
@@ -106,7 +106,7 @@ TEST_F(ExhaustedMemory, LeavesTheLibraryWithTheMaterialsMadeBeforeAndNothingElse
 {
     const std::vector<std::int32_t> order{0,  26, 4,  11, 46, 10, 27, 40, 39, 36, 38, 41, 32,
                                           33, 34, 35, 42, 43, 44, 45, 47, 48, 49, 50, 2,  53};
-    MatDBManager().initMaterialLibrary(); // makes what lives until the program ends
+    MatDBManager().initMaterialLibrary(); // makes the data that lives until the program ends
     MatDBManager manager;
     const long before = vxtest::blocksInUse();
     std::size_t most = 0;
@@ -115,7 +115,7 @@ TEST_F(ExhaustedMemory, LeavesTheLibraryWithTheMaterialsMadeBeforeAndNothingElse
                                      const std::size_t count = countOfFirst(manager.materials, order);
                                      EXPECT_GE(count, most);
                                      most = count;
-                                     // The manager owns the content of the map; everything else was freed.
+                                     // The manager owns the content of the map; all other memory must be free.
                                      MatDBManager().materials.swap(manager.materials);
                                      EXPECT_EQ(vxtest::blocksInUse(), before);
                                  });
@@ -128,7 +128,7 @@ TEST_F(ExhaustedMemory, LeavesTheCatalogueWithThePropertiesMadeBeforeAndNothingE
     const std::vector<std::int32_t> order{4,  401, 202, 203, 21, 31, 5,  6,  28, 29,  30,  23,
                                           27, 26,  128, 127, 25, 32, 33, 37, 34, 35,  36,  41,
                                           38, 39,  42,  44,  43, 45, 46, 47, 48, 301, 302, 303};
-    MatDBManager().initPropertyCatalogue(); // makes what lives until the program ends
+    MatDBManager().initPropertyCatalogue(); // makes the data that lives until the program ends
     MatDBManager manager;
     const long before = vxtest::blocksInUse();
     std::size_t most = 0;

@@ -49,8 +49,8 @@ TEST(MatDBManager, FindsNothingInTheGapsOfItsNumberings)
 
 TEST(MatDBManager, RebuildsTheCatalogueOfNewObjects)
 {
-    // Properties of the first catalogue are told from new ones by a mark, since a new object may take the
-    // place of an old one in memory.
+    // A mark distinguishes properties of the first catalogue from new ones, since a new object may have the address of
+    // an old one.
     MatDBManager manager;
     manager.initPropertyCatalogue();
     for (const auto& [id, property] : manager.propertyCatalogue)

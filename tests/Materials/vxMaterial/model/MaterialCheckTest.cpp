@@ -19,7 +19,7 @@ using testing::IsEmpty;
 using vxMat::CMaterial;
 using vxMat::MaterialState;
 
-/// The findings of a material, each as "slot: text".
+/// Returns the findings of a material, each as "slot: text".
 std::vector<std::string> findings(const vxMat::MaterialBase& material)
 {
     std::vector<std::string> texts;

@@ -24,7 +24,7 @@ using vxMat::eMaterialType;
 using vxMat::MaterialBase;
 using vxMat::MaterialProperty;
 
-/// Expects the value that the table of materials gives for a property.
+/// Expects the value that the table of materials contains for a property.
 void expectValue(const MaterialProperty& property, const std::string& value)
 {
     switch (vxMat::getValueKind(property.id)) {

@@ -207,7 +207,7 @@ TEST(PropertyValueText, IsTheShortestNumberTheWordOrTheJoinedListByTheKindOfTheI
     EXPECT_EQ(text(42, 1.0), "1");
     EXPECT_EQ(vxMat::formatValue({33, "", " Mises", "", ""}), " Mises");
     EXPECT_EQ(vxMat::formatValue({38, "", "450;608.5 1e-10", "", ""}), "450, 608.5, 1e-10");
-    // A property of a document has a number even where its kind is a word or a list; the number is not shown.
+    // A property of a document has a number even if its kind is a word or a list; the number is not shown.
     EXPECT_EQ(text(33, 5.0), "");
     EXPECT_EQ(text(39, 5.0), "");
 }

@@ -31,7 +31,7 @@ using vxMat::readWholeNumber;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// The text of the exception that reading `text` throws, after its class.
+/// Returns the text of the exception that reading `text` throws, after its class.
 std::string failureOf(const std::string& text)
 {
     try {

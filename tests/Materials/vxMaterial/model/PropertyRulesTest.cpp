@@ -167,7 +167,7 @@ TEST(PropertyRules, TakeNoHexadecimalNumbers)
     EXPECT_EQ(checkRow(4, "inf"), nullptr);
 }
 
-/// What reading ignores and what it reads, as "ignored|read"; empty if it ignores nothing.
+/// Returns the ignored text and the value that is read, as "ignored|read"; empty if nothing is ignored.
 std::string ignored(int id, std::string_view text)
 {
     const auto found = vxMat::findIgnoredText(id, text);

@@ -139,7 +139,7 @@ TEST_F(DocumentMaterialTest, LetsGoOfItsSetWhenItIsClosed)
     project->collect_frontend_data();
     other->collect_frontend_data();
 
-    // The project itself stays in memory, as when its closing may be undone.
+    // The project itself stays in memory, as if its closing may be undone.
     Obj::OwnedProject closed = Obj::Application::instance().takeProject(*project);
     EXPECT_EQ(manager.getCAE(projectId), nullptr);
     EXPECT_NE(manager.getCAE(other->getProjectId()), nullptr);
@@ -258,7 +258,7 @@ TEST_F(DocumentMaterialTest, TakesNothingFromARecord)
     }
 }
 
-/// A project whose descriptions of its properties the tests see.
+/// A project that gives the tests access to the descriptions of its properties.
 class OpenDocument : public DocumentMaterial
 {
 public:

@@ -10,7 +10,7 @@ using ExhaustedMemoryOfAProject = vxtest::MaterialProject;
 TEST_F(ExhaustedMemoryOfAProject, LeavesAMaterialWithoutAResultOfItsExecution)
 {
     Mat::MaterialObject& object = addMaterial("Steel");
-    // The result is one allocation, its text another.
+    // The result is one allocation; its text is another allocation.
     for (const int which : {1, 2}) {
         SCOPED_TRACE(which);
         const Obj::ProjectObjectExecReturn* result = nullptr;

@@ -26,7 +26,7 @@ using vxtest::MessageBoxes;
 class MaterialObjectTest : public vxtest::MaterialProject
 {
 protected:
-    /// The warnings of the check of a material whose only property has this number.
+    /// Returns the warnings of the check of a material whose only property has this number.
     std::vector<vxtest::ShownBox> warningsFor(double number) const
     {
         MaterialObject& object = addMaterial("Steel");
@@ -332,7 +332,7 @@ TEST_F(MaterialObjectTest, ReturnsTheResultOfTheLastListenerToARequestForData)
     EXPECT_EQ(boost::any_cast<std::string>(answer), "last");
 }
 
-/// A material whose descriptions of its properties the tests see.
+/// A material that gives the tests access to the descriptions of its properties.
 class OpenMaterial : public MaterialObject
 {
 public:

@@ -46,7 +46,7 @@ protected:
     Mat::DocumentMaterial* project = nullptr;
 };
 
-/// Records of the project database as no project writes them, of every kind of JSON.
+/// Returns records that no project writes, of every kind of JSON.
 inline std::vector<Json::Value> recordsOfEveryKind()
 {
     Json::Value record;

@@ -19,7 +19,7 @@ bool belongsTo(const Gui::MDIWindow& window, const Obj::Project& project)
     return window.getGuiProject() != nullptr && &window.getGuiProject()->get_project() == &project;
 }
 
-/// Asks about one window; returns Apply, Discard for continuing without the edits, or Cancel.
+/// Asks about one window. Returns Apply, Discard (to continue without the edits), or Cancel.
 int ask(Gui::MainWindow& mainWindow, const Gui::MDIWindow& window, const UnappliedQuestion& question)
 {
     const QString name = window.windowTitle().remove(QStringLiteral("[*]"));
@@ -45,7 +45,7 @@ bool apply(const QPointer<Gui::MDIWindow>& window)
     return applied || window == nullptr;
 }
 
-/// Returns whether the caller may continue as far as this window is concerned.
+/// Asks about the edits of one window. Returns whether the caller may continue.
 bool mayContinue(Gui::MainWindow& mainWindow, const QPointer<Gui::MDIWindow>& window, const UnappliedQuestion& question)
 {
     if (window == nullptr)

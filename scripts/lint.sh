@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Checks format, includes, spelling and translations, compiles the measurements, and runs clang-tidy. lint.sh --fast omits the last
-# two, for a hook before each push. lint.sh --all runs clang-tidy also on tests and measurements, which takes twice as
-# long as everything else.
+# Checks format, includes, spelling and translations, compiles the measurements, and runs clang-tidy. lint.sh --fast
+# omits the last two, for a hook before each push. lint.sh --all runs clang-tidy also on tests and measurements, which
+# takes twice as long as everything else.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

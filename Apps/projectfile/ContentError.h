@@ -10,8 +10,8 @@ namespace projectfile {
 /// An error in the content of a project file, of a record, or of a document to be imported. (An error of reading or
 /// writing a file is a StoreError.)
 ///
-/// The message is in the user's language and in UTF-8. It names the place in the file, but not the file itself, which
-/// the caller knows.
+/// The message is in the user's language and in UTF-8. It names the place in the file, but not the file itself; the
+/// caller knows the file.
 class PROJECTFILE_EXPORT ContentError : public std::runtime_error
 {
 public:

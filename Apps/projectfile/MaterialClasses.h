@@ -14,12 +14,12 @@ class MaterialBase;
 
 namespace projectfile {
 
-/// Returns the material that an object of a registered class holds. The object keeps it.
+/// Returns the material that an object of a registered class holds. The object owns it.
 using MaterialOf = vxMat::MaterialBase& (*)(Obj::ProjectObject& object);
 
-/// Registers a class whose objects hold a material each. Project files have these objects under "materials", and read and
-/// write the materials without a detour. The module that has the class calls this, so that programs that read and write
-/// files need not know it.
+/// Registers a class whose objects hold a material each. Project files have these objects under "materials", and read
+/// and write the materials directly. The module of the class calls this function, so that programs that read and write
+/// files do not depend on the module.
 PROJECTFILE_EXPORT void registerMaterialClass(const std::string& className, MaterialOf materialOf);
 
 /// Returns the access to the materials of a registered class; null for another class.

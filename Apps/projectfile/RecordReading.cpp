@@ -112,7 +112,7 @@ void readField(const Node& node, std::uint64_t& field)
     field = static_cast<std::uint64_t>(readWholeBetween(node, 1, most, nextObjectNumber));
 }
 
-/// The version of the format. Later versions have been refused before.
+/// The version of the format. Later versions are refused earlier.
 struct Version
 {};
 

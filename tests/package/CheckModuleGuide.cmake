@@ -13,8 +13,8 @@ endforeach()
 # The offscreen platform never frees its screen.
 set(ENV{ASAN_OPTIONS} detect_leaks=0)
 
-# Runs a list of commands in the folder of the lists; sets `printed` to its standard output, `said` to its standard error
-# and `result` to its exit status.
+# Runs a list of commands in the folder of the lists; sets `printed` to its standard output, `said` to its standard
+# error and `result` to its exit status.
 macro(run_list list)
     execute_process(COMMAND ${WORK}/installed/bin/kelta --batch ${list} WORKING_DIRECTORY ${WORK}/source
                     RESULT_VARIABLE result OUTPUT_VARIABLE printed ERROR_VARIABLE said)
@@ -41,7 +41,7 @@ if(NOT result EQUAL 1 OR NOT said MATCHES "wrong.batch:3: .*wide")
     message(FATAL_ERROR "a property took a wrong value:\n${result} ${said}")
 endif()
 
-# Without the module nothing is lost.
+# Without the module, the file keeps all data.
 set(ENV{KELTA_PLUGIN_PATH} "")
 file(WRITE ${WORK}/source/keep.batch "Std_Open bolts.vxmat\nStd_SaveAs kept.vxmat\n")
 expect_done(keep.batch)

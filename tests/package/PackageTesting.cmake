@@ -1,6 +1,6 @@
-# What the checks of an installed copy share. BUILD, CONFIG, GENERATOR, CXX_COMPILER, INSTRUMENT and WORK are given.
+# The common part of the checks of an installed copy. Needs BUILD, CONFIG, GENERATOR, CXX_COMPILER, INSTRUMENT and WORK.
 
-# Runs a command, which must succeed; sets `output` to all that it printed.
+# Runs a command, which must succeed. Sets `output` to the whole output of the command.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(result)

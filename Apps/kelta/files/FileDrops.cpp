@@ -39,8 +39,8 @@ bool FileDrops::eventFilter(QObject* watched, QEvent* event)
     if (files.isEmpty() || QApplication::activeModalWidget() != nullptr)
         return QObject::eventFilter(watched, event);
     drop->acceptProposedAction();
-    // Opened when the event loop is next idle: opening may ask questions, and the program from which the files are dragged
-    // waits until the drop has ended.
+    // Opened when the event loop is next idle: opening may ask questions, and the program from which the files are
+    // dragged waits until the drop has ended.
     if (event->type() == QEvent::Drop)
         QTimer::singleShot(0, this, [this, files] {
             for (const QString& file : files)

@@ -4,10 +4,10 @@
 
 namespace desktop {
 
-/// Copies the members of another record that a record does not have. Does nothing if `other` is not an object.
+/// Copies the members of `other` that a record does not have. Does nothing if `other` is not an object.
 void addMissing(Json::Value& record, const Json::Value& other);
 
-/// Returns a part of a record: the members of these names; null if there are none.
+/// Returns a part of a record: the members with these names; null if there are none.
 template <class Names>
 Json::Value membersOf(const Json::Value& record, const Names& names)
 {

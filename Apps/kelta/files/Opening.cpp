@@ -111,7 +111,7 @@ void Opening::rememberText(Obj::Project& project, Session& session) const
         const projectfile::ProjectRecord record = recordProject(project, session.kept);
         session.rememberText(projectfile::writeProject(record), record.nextObjectId);
     } catch (...) {
-        // What the user does in a project that cannot be written would be lost.
+        // Changes of a project that cannot be written would be lost.
         Obj::Application::instance().closeProject(project);
         throw;
     }

@@ -33,13 +33,13 @@ public:
         : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
     {}
 
-    /// Opens a file and selects the project. If that fails, tells the user the reason and returns false; no project has been
-    /// added then.
+    /// Opens a file and selects the project. If that fails, tells the user the reason, adds no project
+    /// and returns false.
     bool open(const QString& path);
 
-    /// Makes a project from a record and selects it. Writes doubts about the record to the message log; `source` is the file
-    /// that they name. Returns null, with the reason in the message log, if the project cannot be made.
-    /// \throws std::exception if the content is wrong; no project has been added then
+    /// Makes a project from a record and selects it. Writes doubts about the record to the message log, with the name
+    /// of the file `source`. Returns null, with the reason in the message log, if the project cannot be made.
+    /// \throws std::exception if the content is wrong; no project is added
     Obj::Project* makeProject(projectfile::ProjectRecord& record, const QString& source);
 
     /// Writes doubts about a file to the message log. Shows the log if there are any.

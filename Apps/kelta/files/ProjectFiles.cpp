@@ -31,7 +31,7 @@ ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow)
       m_projectClosing(vxMsg::MessageProxy::instance().projectClosing.connect(
           [this](Obj::Project& project, bool& refused) { refused = refused || !mayClose(project); }))
 {
-    // The title shows whether the project is modified, which not only steps of the history change.
+    // The title shows whether the project is modified. Changes outside the history modify a project too.
     connect(&m_sessions, &Sessions::becameModified, &mainWindow, &Gui::MainWindow::updateCommands,
             Qt::QueuedConnection);
     connect(&m_timer, &QTimer::timeout, this, &ProjectFiles::keepCopies);

@@ -21,7 +21,7 @@ class ProjectFiles final : public QObject, public FileService
 
 public:
     explicit ProjectFiles(Gui::MainWindow& mainWindow);
-    /// Does not delete the copies for recovery; end does.
+    /// Does not delete the copies for recovery; end() deletes them.
     ~ProjectFiles() override;
 
     bool open(const QString& path) override;
@@ -32,21 +32,21 @@ public:
     bool isModified(const Obj::Project& project) const override;
     void contentChanged(Obj::ProjectObject& object) override;
 
-    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if the
-    /// project cannot be saved.
+    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if
+    /// the project cannot be saved.
     bool save(Obj::Project& project);
-    /// Saves a project in a file that the user chooses, and returns the same.
+    /// Saves a project in a file that the user chooses. Returns the same as save().
     bool saveAs(Obj::Project& project);
-    /// Adds the content of an exchange document to a project. Returns false if that fails, after the user has been told the
-    /// reason, or if no module imports documents into such a project.
+    /// Adds the content of an exchange document to a project. Tells the user the reason and returns false if that
+    /// fails. Returns false too if no module imports documents into such a project.
     bool importDocument(Obj::Project& project, const QString& path);
 
     /// Writes a copy for recovery of every project that has changed since its last copy.
     void keepCopies();
 
 private:
-    /// Returns whether a project may be closed. Asks the user if it has changes that are not saved, or edits that are not
-    /// applied.
+    /// Returns whether a project may be closed. Asks the user if it has changes that are not saved, or edits that are
+    /// not applied.
     bool mayClose(Obj::Project& project);
 
     Gui::MainWindow& m_mainWindow;

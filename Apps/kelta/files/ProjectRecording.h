@@ -14,7 +14,7 @@ class ProjectObject;
 namespace desktop {
 
 /// Returns the content of a project file for a project of any class. The record points to the materials of the project.
-/// Throws what the codecs of modules throw.
+/// Throws the exceptions of the modules' codecs.
 projectfile::ProjectRecord recordProject(Obj::Project& project, const KeptMembers& kept);
 
 /// Returns the function that gets the material of an object of a class; null if neither the class nor a base class is a

@@ -14,9 +14,9 @@ class Project;
 namespace desktop {
 
 /// Moves the content of a record into an empty project. Objects of classes that are not registered become placeholders.
-/// Parts that this program cannot put into the objects are stored in `kept` and reported in `warnings`, a sentence each.
-/// Links that cannot be made are lost, and are reported in the doubts of the record.
-/// \throws std::exception if an object cannot be added, or a codec cannot read its content; the project is then incomplete
+/// Parts that this program cannot put into the objects are stored in `kept` and reported in `warnings`, a sentence
+/// each. Links that cannot be made are lost, and are reported in the doubts of the record.
+/// \throws std::exception if an object cannot be added or a codec cannot read content; the project is then incomplete
 void restoreProject(Obj::Project& project, projectfile::ProjectRecord& record, KeptMembers& kept,
                     std::vector<std::string>& warnings);
 

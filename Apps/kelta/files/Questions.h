@@ -25,10 +25,10 @@ public:
     /// `parent` is the parent of the boxes.
     explicit Questions(QWidget& parent) : m_parent(parent) {}
 
-    /// Tells the user an error.
+    /// Reports an error to the user.
     void complain(const QString& title, const QString& text) const;
 
-    /// Takes the lock of a file. If another program has it, asks the user whether to use the file all the same. Returns
+    /// Takes the lock of a file. If another program has it, asks the user whether to use the file anyway. Returns
     /// whether the file may be used.
     bool mayUse(projectfile::FileLock& lock, const QString& path) const;
 
@@ -53,7 +53,7 @@ public:
         Discard,
         Cancel,
     };
-    /// Asks what to do with the changes of a project that is to be closed.
+    /// Asks what to do with the changes of a project before it is closed.
     ClosingChoice askBeforeClosing(const QString& projectName, Unsaved unsaved) const;
 
     enum class RecoveryChoice
@@ -62,7 +62,7 @@ public:
         Discard,
         Later,
     };
-    /// Asks what to do with copies for recovery, of which `times` has the times.
+    /// Asks what to do with copies for recovery. `times` contains their times.
     RecoveryChoice askAboutCopies(const QStringList& times) const;
 
 private:
@@ -74,7 +74,7 @@ private:
         QString text;
         QString details;
     };
-    /// Returns the index of the choice; that of the last choice if the user closes the box.
+    /// Returns the index of the choice; the index of the last choice if the user closes the box.
     int ask(const Question& question, const Choices& choices) const;
 
     QWidget& m_parent;

@@ -10,7 +10,7 @@ class RecentFiles
 public:
     /// Returns the paths, the latest first.
     static QStringList list();
-    /// Puts a path at the front. Of the list, the latest ten are kept.
+    /// Puts a path at the front. Keeps the latest ten paths of the list.
     static void add(const QString& path);
     /// Removes a path. Does nothing if it is not in the list.
     static void remove(const QString& path);

@@ -10,12 +10,12 @@
 
 namespace desktop {
 
-/// A copy of a modified project, stored in the data folder of the user until the project is saved. The program that made it
-/// locks it as long as it runs.
+/// A copy of a modified project, stored in the data folder of the user until the project is saved. The program that
+/// made the copy locks it while the program runs.
 class RecoveryCopy
 {
 public:
-    /// Makes a copy with a unique name. It has no file before write is called.
+    /// Makes a copy with a unique name. The copy has no file before write() is called.
     RecoveryCopy();
     RecoveryCopy(RecoveryCopy&&) noexcept = default;
     RecoveryCopy& operator=(RecoveryCopy&&) noexcept = default;

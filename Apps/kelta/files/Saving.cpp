@@ -76,7 +76,7 @@ void Saving::write(Obj::Project& project, Session& session, const QString& path)
 bool Saving::mayWrite(Session& session, const QString& path) const
 {
     if (path == session.path) {
-        // A program that had the file may have released it.
+        // The program that had the file may have released it.
         if (session.lock && !session.lock->isLocked())
             static_cast<void>(session.lock->tryLock());
         return mayReplace(session, path);

@@ -26,17 +26,17 @@ public:
         : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
     {}
 
-    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if the
-    /// project cannot be saved, after the user has been told the reason; an existing file is unchanged then.
+    /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels. If the
+    /// project cannot be saved, tells the user the reason and returns false; an existing file is then unchanged.
     bool save(Obj::Project& project);
-    /// Saves a project in a file that the user chooses, and returns the same.
+    /// Saves a project in a file that the user chooses. Returns the same as save().
     bool saveAs(Obj::Project& project);
 
 private:
     bool saveTo(Obj::Project& project, const QString& path);
     void write(Obj::Project& project, Session& session, const QString& path) const;
-    /// Returns whether a project may be written to a file, and takes its lock. Asks the user if another program uses the file
-    /// or has changed it.
+    /// Returns whether a project may be written to a file, and takes its lock. Asks the user if another program uses
+    /// the file or has changed it.
     bool mayWrite(Session& session, const QString& path) const;
     bool mayReplace(const Session& session, const QString& path) const;
 

@@ -24,12 +24,12 @@ class ProjectObject;
 
 namespace desktop {
 
-/// The parts of an object in a project file beside its label, properties and material. When these change, a project sends the
-/// same signal as for a change of the state, which is not in the file. A comparison tells the two apart.
+/// The parts of an object in a project file besides its label, properties and material. A change of these parts sends
+/// the same signal as a change of the state, which is not in the file. A comparison distinguishes the two changes.
 struct Look
 {
     bool suppressed = false;
-    std::uint32_t group = 0; ///< the id of the group that it is a member of; 0 for none
+    std::uint32_t group = 0; ///< the id of the group that contains the object; 0 for none
     std::vector<std::uint32_t> links;
     Json::Value node;
     std::size_t content = 0; ///< a hash of its text
@@ -51,14 +51,14 @@ struct Session
     std::uint64_t nextObjectId = 1; ///< in that text
     std::optional<projectfile::FileLock> lock;
     KeptMembers kept;
-    bool isRecovered = false; ///< has been recovered, and not saved since; the file is older
+    bool isRecovered = false; ///< recovered and not saved afterwards; the file is older
     bool isModified = false;
     bool isCopyDue = false;
     std::unique_ptr<RecoveryCopy> copy;
     std::map<std::uint32_t, Look> looks; ///< by the id of the object
     std::vector<boost::signals2::scoped_connection> connections;
 
-    /// Remembers the text of the project when it agrees with the file.
+    /// Stores the checksum of the project's text, which agrees with the file.
     void rememberText(const std::string& text, std::uint64_t nextId);
     /// Returns whether the project, with this text, agrees with the file.
     bool isRememberedText(const std::string& text) const;

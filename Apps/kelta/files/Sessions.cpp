@@ -56,7 +56,7 @@ void Sessions::forgetCopies()
 
 void Sessions::add(Obj::Project& project)
 {
-    // A project that undo brings back has a session already. Another program may use its file meanwhile.
+    // A project that undo restores has a session already. Another program may use its file now.
     Session& session = m_sessions[project.getProjectId()];
     session.isCopyDue = session.isModified;
     if (!session.path.isEmpty() && !session.lock)
@@ -143,7 +143,7 @@ void Sessions::noteSaved(Obj::Project& project)
     session.isRecovered = false;
     session.isModified = false;
     session.forgetCopy();
-    // Fails while a step of the history is being made, as when saving has applied edits.
+    // Fails during a step of the history, for example if saving has applied edits.
     QUndoStack& history = vxMsg::MessageProxy::instance().undoStack();
     m_cleanProject = 0;
     history.setClean();
@@ -156,7 +156,7 @@ void Sessions::historyMoved()
 {
     if (vxMsg::MessageProxy::instance().undoStack().count() != 0)
         return;
-    // When the history ends, modified projects stay modified, and closed projects cannot come back.
+    // When the history ends, modified projects stay modified, and closed projects cannot be restored.
     m_cleanProject = std::exchange(m_openedProject, 0);
     for (auto session = m_sessions.begin(); session != m_sessions.end();) {
         const bool isOpen = Obj::Application::instance().get_project(session->first) != nullptr;
@@ -175,11 +175,11 @@ void Sessions::historyIsClean(bool clean)
 
 void Sessions::reconsider(Session& session, Obj::Project& project)
 {
-    // Not every change is a step of the history, so the content is compared.
+    // Some changes are not steps of the history, so the content is compared.
     projectfile::ProjectRecord record = recordProject(project, session.kept);
     if (!record.objects.empty() && record.objects.back().objectId >= session.nextObjectId)
         return;
-    // An id that was used in between, and is free again, is not a change.
+    // An id that was used meanwhile, and is free again, is not a change.
     record.nextObjectId = session.nextObjectId;
     if (!session.isRememberedText(projectfile::writeProject(record)))
         return;

@@ -15,7 +15,7 @@ class Property;
 
 namespace desktop {
 
-/// The sessions of all open projects, and of closed projects that undo can bring back. Detects changes of the projects.
+/// The sessions of all open projects, and of closed projects that undo can restore. Detects changes of the projects.
 class Sessions : public QObject
 {
     Q_OBJECT
@@ -32,14 +32,14 @@ public:
 
     /// Marks a project as modified, and its copy for recovery as due.
     void markModified(const Obj::Project& project);
-    /// To be called when a project has been opened. Its session must be complete, including whether it is modified already.
+    /// To be called when a project has been opened. Its session must be complete, with the flag of modification.
     void noteOpened(Obj::Project& project);
     /// To be called when a project has been saved.
     void noteSaved(Obj::Project& project);
     /// Deletes all copies for recovery.
     void forgetCopies();
 
-    /// Projects that are filled during its lifetime are not modified by that.
+    /// Filling a project during the lifetime of this object does not mark the project as modified.
     class Filling
     {
     public:
@@ -53,7 +53,7 @@ public:
     };
 
 Q_SIGNALS:
-    /// A project without changes has become modified.
+    /// Sent when a project without changes becomes modified.
     void becameModified();
 
 private:
@@ -64,7 +64,7 @@ private:
     void objectChanged(Obj::ProjectObject& object, const Obj::Property* property);
     void historyMoved();
     void historyIsClean(bool clean);
-    /// Compares a project with its file, when the history has returned to the step at which they agreed.
+    /// Compares a project with its file after the history has returned to the step at which they agreed.
     static void reconsider(Session& session, Obj::Project& project);
 
     std::map<std::uint32_t, Session> m_sessions; ///< by the id of the project

@@ -26,7 +26,7 @@ class EditorRecorder final : public QObject
 public:
     EditorRecorder(MatGui::MaterialView& editor, KeptEdits& kept) : QObject(&editor), m_editor(editor), m_kept(kept)
     {
-        // In front, since another listener closes the editor.
+        // Connected at the front, because another listener closes the editor.
         Obj::Project& project = *material().get_project();
         m_objectRemoved = project.objectRemoved.connect(
             [this, &project](const Obj::ProjectObject& removed) { keepEdits(project, removed); },

@@ -13,15 +13,15 @@ class KeptEdits;
 
 /// Completes what material editors apply, and makes each Apply one step of the undo stack.
 ///
-/// Before an Apply it refuses values of which a part would be ignored ("210 GPa"). After an Apply it sets names,
-/// descriptions, units and categories of the properties to those of the catalogue, since the table has them in the language
-/// of the user or not at all. Edits that are not applied come back with a material that undo or redo brings back.
+/// Before an Apply, refuses values of which a part would be ignored ("210 GPa"). After an Apply, takes the names,
+/// descriptions, units and categories of the properties from the catalogue, because the table has the names in the
+/// user's language and no categories. Restores edits that are not applied if undo or redo restores their material.
 class EditorWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Makes the main window its parent, and watches the editors that are added to it from then on.
+    /// Makes the main window its parent, and watches the editors that are added to the window afterwards.
     explicit EditorWatch(Gui::MainWindow& mainWindow);
     ~EditorWatch() override;
 

@@ -78,7 +78,7 @@ void KeptEdits::historyMoved()
         return;
     m_connections.clear();
     for (auto kept = m_edits.begin(); kept != m_edits.end();) {
-        // A material that has just come back shows its edits when the event loop is next idle.
+        // A restored material shows its edits when the event loop is next idle.
         const bool isBack = findObject(kept->first.first, kept->first.second) != nullptr;
         kept = isBack ? std::next(kept) : m_edits.erase(kept);
     }

@@ -39,7 +39,7 @@ Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectI
     return project != nullptr ? dynamic_cast<Mat::MaterialObject*>(project->get_object(objectId)) : nullptr;
 }
 
-/// Opens the editor of a material anew, to show the material as it is now. An editor with edits that are not applied stays.
+/// Reopens the editor of a material to show its present values. Keeps an editor with edits that are not applied.
 void reopenEditor(Mat::MaterialObject& object)
 {
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
@@ -56,7 +56,7 @@ void reopenEditor(Mat::MaterialObject& object)
         mainWindow->set_active_mdi_window(inFront);
 }
 
-/// A change of a material. Stores the ids of project and object, since the object may be deleted and come back.
+/// A change of a material. Stores the ids of project and object, because the object may be deleted and restored.
 class MaterialChange final : public QUndoCommand
 {
 public:
@@ -89,7 +89,7 @@ private:
 
     std::uint32_t m_projectId;
     std::uint32_t m_objectId;
-    std::unique_ptr<vxMat::CMaterial> m_other; ///< before the change; after it while the change is undone
+    std::unique_ptr<vxMat::CMaterial> m_other; ///< before the change; while the change is undone, after the change
     bool m_done = false;
 };
 

@@ -14,15 +14,15 @@ namespace desktop {
 /// Returns a copy of a material with all fields, the library group and the slots of the properties included.
 std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
 
-/// Returns whether two materials have the same fields and properties. Zero and negative zero are different; all NaN values
-/// are the same.
+/// Returns whether two materials have the same fields and properties. Zero and negative zero are different; all NaN
+/// values are equal.
 bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second);
 
 /// Sent after a step of the history has changed the material of an object, and after such a step was undone or redone.
 Obj::Signal<void(Mat::MaterialObject&)>& materialChanged();
 
-/// Records a change of the material of `object` as a step of the history, and updates the object. `before` is a copy of the
-/// material before the change. Returns false, and makes no step, if the material has not changed.
+/// Records a change of the material of `object` as a step of the history, and updates the object. `before` is a copy of
+/// the material before the change. Returns false, and makes no step, if the material has not changed.
 bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before);
 
 } // namespace desktop

@@ -22,8 +22,8 @@ struct CheckSummary
     QString toText(const QString& projectName) const;
 };
 
-/// Checks all materials of a project by vxMat::checkMaterial and writes each finding, with the label of its material, to
-/// the message log as a warning; after the first 1000 findings only a line that says that there are more.
+/// Checks all materials of a project by vxMat::checkMaterial and writes each finding, with the label of its material,
+/// to the message log as a warning; after the first 1000 findings only a line that says that there are more.
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project);
 
 } // namespace desktop

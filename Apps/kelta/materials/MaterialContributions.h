@@ -6,8 +6,8 @@ class GuiApplication;
 
 namespace desktop {
 
-/// Adds to the window what belongs to materials: the command "Mat_Check", the material commands in the menus, toolbars
-/// and the tree, what the welcome page says, a paragraph of the About box, and the workbench. Safe to call more than
+/// Adds to the window the parts for materials: the command "Mat_Check", the material commands in the menus, toolbars
+/// and the tree, texts of the welcome page, a paragraph of the About box, and the workbench. Safe to call more than
 /// once.
 void registerMaterialContributions(Gui::GuiApplication& application);
 

@@ -16,9 +16,9 @@ QString findExportObstacle(const Mat::DocumentMaterial& project);
 /// existing file is unchanged.
 QString findWriteObstacle(const QString& path);
 
-/// Tells the user what the export of a project has written to a file, which is read for this: the number of materials, how
-/// many of them are suppressed, and for each material the values that the document does not carry
-/// (vxCAE::findLostValues). Tells an error if the file is not a whole document.
+/// Reads the file that the export of a project has written, and reports to the user: the number of materials, the
+/// number of suppressed materials, and for each material the values that the document does not carry
+/// (vxCAE::findLostValues). Reports an error if the file is not a whole document.
 void reportExport(const Mat::DocumentMaterial& project, const QString& path);
 
 } // namespace desktop

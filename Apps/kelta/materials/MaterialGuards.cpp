@@ -47,7 +47,7 @@ void refuse(const QString& title, const QString& text)
     showBox(QMessageBox::Warning, title, text, QMessageBox::Ok);
 }
 
-/// Closes the material projects that are open, which asks about changes that are not saved. Returns whether none is left.
+/// Closes the open material projects and asks about changes that are not saved. Returns whether all are closed.
 bool closeProjects()
 {
     for (const Obj::Project* const project : materialProjects())
@@ -68,7 +68,7 @@ void guardNewProject(const Run& run)
         run();
 }
 
-/// Asks for the file with the same dialog as the command, which then gets the answer.
+/// Asks for the file with the same dialog as the command, and passes the file to the command.
 QString askForFile()
 {
     constexpr const char* context = "CmdMatExport";
@@ -124,7 +124,7 @@ std::ptrdiff_t countNewEditors()
 {
     const auto selected =
         Gui::TreeSelectionSingleton::instance().get_objects_of_type(Mat::MaterialObject::getClassTypeId());
-    // The command is refused, however many of these are open already. The search for their editors would take long.
+    // Does not subtract editors that are open already, because searching them would take too long.
     if (static_cast<std::ptrdiff_t>(selected.size()) > 2 * mostAtOnce)
         return static_cast<std::ptrdiff_t>(selected.size());
     const Gui::MainWindow& mainWindow = *Gui::MainWindow::get_main_window_inst();

@@ -38,7 +38,7 @@ Mat::DocumentMaterial* findProject()
     return projects.empty() ? nullptr : projects.front();
 }
 
-/// Returns the selected object; null unless it is a single material of a material project.
+/// Returns the selected object; null unless exactly one material of a material project is selected.
 Mat::MaterialObject* selectedMaterial()
 {
     const auto objects =
@@ -141,7 +141,7 @@ Failure checkMaterials(const QStringList& arguments)
     return summary.isReady() ? Failure() : Failure(summary.toText(QString::fromUtf8(project->get_name())));
 }
 
-/// The command asks whether to close the open project. A list has no user who answers, and must not lose the project.
+/// The command asks whether to close the open project. A list cannot ask the user, and must not lose the project.
 Failure makeProject(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
@@ -189,7 +189,7 @@ void registerMaterialVerbs()
     Batch::registerVerb(QStringLiteral("set"), setNamedQuantity);
     Batch::registerVerb(QStringLiteral("clear"), clearMaterial);
     Batch::registerVerb(QStringLiteral("check"), checkMaterials);
-    // The commands of the same names ask the user for what a list must say.
+    // The commands of the same names ask the user for data that a list must contain.
     Batch::registerVerb(QStringLiteral("Mat_Check"), checkMaterials);
     Batch::registerVerb(QStringLiteral("Mat_NewDoc"), makeProject);
     Batch::registerVerb(QStringLiteral("Mat_Export"), exportMaterials);

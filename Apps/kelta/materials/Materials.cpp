@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Makes a new material structural steel, so that the user has values to change.
+/// Fills a new material with structural steel, so that the user has values to change.
 void fillNewMaterial(Obj::ProjectObject& object)
 {
     if (auto* const material = dynamic_cast<Mat::MaterialObject*>(&object))

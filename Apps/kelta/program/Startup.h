@@ -6,8 +6,8 @@ class MainWindow;
 
 namespace desktop {
 
-/// Adds project files to the program: their commands, drops on the window, and recovery. To be called once, before modules
-/// are loaded.
+/// Adds project files to the program: their commands, drops on the window, and recovery. To be called once, before
+/// modules are loaded.
 void startFiles(Gui::MainWindow& window);
 
 /// Loads all modules and activates their first workbench, or the standard workbench if they have none. Returns false if

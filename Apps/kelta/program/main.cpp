@@ -58,7 +58,7 @@ bool runsAlone(const Options& options)
     return !options.batch.empty() || !options.screenshot.empty();
 }
 
-/// Writes each message of the message log to standard error too, since a program without a user shows no log.
+/// Writes each message of the message log to standard error too, because a program without a user shows no log.
 void echoMessages()
 {
     QObject::connect(
@@ -126,8 +126,8 @@ void openFiles(const std::vector<std::string>& paths)
         files.open(QFile::decodeName(path.c_str()));
 }
 
-/// Opens the files of the command line in a program without a user. Stops at the first that cannot be opened, writes the
-/// reason to standard error, and returns false.
+/// Opens the files of the command line in a program without a user. Stops at the first that cannot be opened, writes
+/// the reason to standard error, and returns false.
 bool openFilesAlone(const std::vector<std::string>& paths)
 {
     for (const std::string& path : paths) {
@@ -142,8 +142,8 @@ bool openFilesAlone(const std::vector<std::string>& paths)
 
 QtMessageHandler defaultHandler = nullptr;
 
-/// Drops the message that the offscreen platform writes for each window, since it has no window manager to pass size hints
-/// to.
+/// Drops the message that the offscreen platform writes for each window, since it has no window manager to pass size
+/// hints to.
 void leaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (!message.contains(QLatin1String("propagateSizeHints")))
@@ -189,11 +189,11 @@ int runWithWindows(int& argc, char** argv, const Options& options)
         if (runsAlone(options)) {
             status = openFilesAlone(options.files) ? runAlone(window, options) : 2;
         } else {
-            // When the window is shown, since questions may be asked.
+            // After the window is shown, because opening may ask questions.
             QTimer::singleShot(0, &window, [&options] { openFiles(options.files); });
             status = QApplication::exec();
         }
-        // A module is missing, so something that was asked for may not have been done.
+        // A module is missing, so a part of the requested work may not have been done.
         if (runsAlone(options) && !loaded && status == 0)
             status = 1;
     }

@@ -35,7 +35,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::Batch", text);
 }
 
-/// Presses buttons of the message boxes that are shown during its lifetime, since there is no user.
+/// Presses buttons of the message boxes that are shown during its lifetime, because there is no user.
 class BoxAnswers : public QObject
 {
 public:
@@ -129,7 +129,7 @@ std::optional<QString> handOver(const QStringList& arguments)
     const Obj::Project* const project = Obj::Application::get_current_project();
     if (project == nullptr)
         return tr("no project is open");
-    // If the request fails, the reason is in the message log, and Batch fails with it.
+    // If the request fails, the reason is in the message log, and Batch fails with this reason.
     vxMsg::MessageProxy::instance().handOver(project->get_name());
     return std::nullopt;
 }
@@ -212,7 +212,7 @@ std::optional<QString> Batch::runCommand(const QString& name, const QStringList&
     const auto verb = verbs().find(name);
     std::optional<QString> failure = verb != verbs().end() ? verb->second(arguments) : invokeCommand(name, arguments);
     QCoreApplication::processEvents();
-    // No event loop runs, which would destroy the windows that the command closed.
+    // No event loop runs, so the windows that the command closed must be destroyed here.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (!failure && !boxes.failure().isEmpty())
         failure = boxes.failure();
@@ -230,7 +230,7 @@ std::optional<QString> Batch::invokeCommand(const QString& name, const QStringLi
         return tr("%1 takes at most one argument, the file that it asks for").arg(name);
     if (!command->is_applicable())
         return tr("%1 cannot be done now").arg(name);
-    // A command that asks for a file, and has no argument, continues as if the user had chosen none.
+    // A command that asks for a file, and has no argument, continues as if the user had cancelled the dialog.
     Gui::FileDialog::answerNext(arguments.value(0));
     return command->invoke() ? std::nullopt : std::optional(tr("%1 failed").arg(name));
 }

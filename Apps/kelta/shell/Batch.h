@@ -12,12 +12,12 @@ namespace desktop {
 
 /// Runs lists of commands in the program without a user. Each line is a command, and the lines run one after the other.
 ///
-/// A line has the name of a command or of a verb, and its arguments, separated by blanks. An argument that contains blanks
-/// is written in double quotes. Empty lines, and lines that begin with "#", are skipped. A verb is a function that only
-/// lists have; docs/kelta.md lists the verbs.
+/// A line has the name of a command or of a verb, and its arguments, separated by blanks. An argument that contains
+/// blanks is written in double quotes. Empty lines, and lines that begin with "#", are skipped. A verb is a function
+/// that only lists have; docs/kelta.md lists the verbs.
 ///
-/// The text of each message box is written to standard error. Its button Yes or OK is pressed, or else the one that
-/// discards changes, since a list itself says what is to be saved; a box without such buttons is closed. A line fails if
+/// The text of each message box is written to standard error. Its button Yes or OK is pressed, otherwise the button
+/// that discards changes, because a list saves with commands; a box without such buttons is closed. A line fails if
 /// there is no such command, if the command cannot be applied now, if it reports an error to the message log, or if it
 /// shows a warning or critical box.
 class KELTA_SHELL_EXPORT Batch
@@ -36,8 +36,8 @@ public:
     static int runFile(const QString& path);
     /// Runs one verb or command as a line of a list does. Returns the reason if it fails.
     static std::optional<QString> runCommand(const QString& name, const QStringList& arguments);
-    /// Runs a command, also if a verb has its name, which may call this. A command that asks for a file gets the argument.
-    /// Returns the reason if it fails; errors in the message log and message boxes are left to the caller.
+    /// Runs a command, also if a verb has its name, which may call this. A command that asks for a file gets the
+    /// argument. Returns the reason if it fails. Does not check the message log and message boxes; the caller does.
     static std::optional<QString> invokeCommand(const QString& name, const QStringList& arguments);
 
 private:

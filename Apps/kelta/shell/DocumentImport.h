@@ -18,16 +18,16 @@ namespace desktop {
 /// The result of an import.
 struct ImportOutcome
 {
-    std::vector<Obj::ProjectObject*> objects; ///< that were added; the project owns them
-    std::vector<std::string> doubts;          ///< what the user must check, a sentence each
+    std::vector<Obj::ProjectObject*> objects; ///< the added objects; the project owns them
+    std::vector<std::string> doubts;          ///< sentences about data that the user must check
 };
 
 /// Adds the content of a document of a module to a project, as one step of the history. Throws a std::exception if the
-/// file cannot be read or is not such a document; nothing is added then.
+/// file cannot be read or is not such a document; nothing is then added.
 using DocumentImport = std::function<ImportOutcome(Obj::Project& project, const QString& path)>;
 
-/// Registers the import of exchange documents into projects of a class, and of derived classes that have no import
-/// themselves. A later import of a class replaces an earlier one.
+/// Registers the import of exchange documents into projects of a class, and of derived classes without an import
+/// of their own. A later import of a class replaces an earlier one.
 KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, DocumentImport import);
 
 /// Returns the import for a project; null if neither its class nor a base class has one.

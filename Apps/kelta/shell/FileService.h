@@ -13,8 +13,8 @@ class ProjectObject;
 
 namespace desktop {
 
-/// The project files of the program, for the program itself and for modules. Each operation reports its errors to the user,
-/// and asks the user before anything is lost.
+/// The project files of the program, for the program itself and for modules. Each operation reports its errors to the
+/// user, and asks the user before anything is lost.
 class KELTA_SHELL_EXPORT FileService
 {
 public:
@@ -25,11 +25,11 @@ public:
 
     /// Returns the service; null in a program without files, such as a test of a module.
     static FileService* instance();
-    /// Sets the service, and destroys the earlier one; null for none.
+    /// Sets the service, and destroys the earlier service; null for none.
     static void setInstance(std::unique_ptr<FileService> service);
 
-    /// Opens a project file and selects the project. A project that is open already is only selected. Returns false if the
-    /// file is not open afterwards.
+    /// Opens a project file and selects the project. A project that is open already is only selected. Returns false if
+    /// the file is not open afterwards.
     virtual bool open(const QString& path) = 0;
     /// Asks about all changes that are not saved. Returns false if the user does not want to end the program.
     virtual bool mayEnd() = 0;
@@ -41,8 +41,8 @@ public:
     virtual QString getFile(const Obj::Project& project) const = 0;
     /// Returns whether a project has changes that its file does not have.
     virtual bool isModified(const Obj::Project& project) const = 0;
-    /// Marks the project of an object as modified, and writes a copy for recovery. To be called by a module after it has
-    /// changed content of the object that is not a property, since the project sends no signal for that.
+    /// Marks the project of an object as modified, and writes a copy for recovery. To be called by a module after it
+    /// has changed content of the object that is not a property, because the project sends no signal for such a change.
     virtual void contentChanged(Obj::ProjectObject& object) = 0;
 };
 

@@ -30,7 +30,7 @@ std::optional<QString> set(Obj::ProjectObject& object, const QString& name, cons
 {
     if (object.get_property_by_name(name.toUtf8().constData()) == nullptr)
         return tr(R"("%1" has no property "%2")").arg(QString::fromStdString(object.label.getValue()), name);
-    // If the request is refused, the reason is in the message log, and Batch fails with it.
+    // If the request is refused, the reason is in the message log, and Batch fails with this reason.
     vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(object), name.toStdString(), value.toStdString());
     return std::nullopt;
 }

@@ -56,7 +56,7 @@ bool apply(const QPointer<Gui::MDIWindow>& window)
     return applied || window == nullptr;
 }
 
-/// Returns whether the caller may continue as far as this window is concerned.
+/// Asks about the edits of one window. Returns whether the caller may continue.
 bool mayContinue(Gui::MainWindow& mainWindow, const QPointer<Gui::MDIWindow>& window, const UnappliedQuestion& question)
 {
     if (window == nullptr)

@@ -18,7 +18,7 @@ class Project;
 
 namespace desktop {
 
-/// Returns the document windows of a project that have edits which are not applied, typed text included. Ends edits in
+/// Returns the document windows of a project that have unapplied edits, typed text included. Ends edits in
 /// progress.
 KELTA_SHELL_EXPORT std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Gui::MainWindow& mainWindow,
                                                                        const Obj::Project& project);
@@ -27,13 +27,13 @@ KELTA_SHELL_EXPORT std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Gui
 struct UnappliedQuestion
 {
     QString title;   ///< of the box
-    QString details; ///< what happens without them
-    QString without; ///< text of the button that continues without them
+    QString details; ///< the consequence of continuing without the edits
+    QString without; ///< text of the button that continues without the edits
 };
 
-/// Asks the user about each window of findUnapplied: applies its edits, continues without them, or stops. Returns false if
-/// the user stops, or if a window does not apply its edits, after it has told the user the reason. The project may have
-/// been closed while the user answered.
+/// Asks the user about each window of findUnapplied: applies its edits, continues without them, or stops. Returns false
+/// if the user stops, or if a window cannot apply its edits; the window then tells the user the reason. The project may
+/// have been closed while the user answered.
 KELTA_SHELL_EXPORT bool askToApply(Gui::MainWindow& mainWindow, const Obj::Project& project,
                                    const UnappliedQuestion& question);
 

@@ -36,8 +36,8 @@ double millisecondsOf(const std::function<void()>& action)
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-/// Runs a command, and then the event loop until all events are processed. Returns the time of the longest of these
-/// turns.
+/// Runs a command, and then the event loop until all events are processed. Returns the time of the longest turn of
+/// the loop, or of the command.
 double longestTurn(const std::function<void()>& command)
 {
     double longest = millisecondsOf(command);

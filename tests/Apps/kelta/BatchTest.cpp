@@ -65,7 +65,7 @@ TEST_F(Batch, CannotReadAFolder)
 
 TEST_F(Batch, ReadsStandardInput)
 {
-    // Which is closed.
+    // The standard input is closed.
     EXPECT_EQ(run({"--batch", "-"}).status, 0);
 }
 
@@ -124,7 +124,7 @@ TEST_F(Batch, CopiesAndPastesWordsAndLists)
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nuse \"Plastic Example 1\"\n"
                                      "Std_Copy\nStd_Paste\nlabel Copy\ncards\n");
     ASSERT_EQ(outcome.status, 0) << errorsOf(outcome);
-    // The cards of the copy are those of the original.
+    // The cards of the copy equal the cards of the original.
     const int copy = outcome.output.indexOf("\nCopy\n");
     ASSERT_GT(copy, 0);
     const QString original = outcome.output.mid(QString("Material\n").size(), copy + 1 - QString("Material\n").size());

@@ -7,7 +7,7 @@ using testing::HasSubstr;
 class Duplicate : public vxtest::Kelta
 {
 protected:
-    /// The cards of a material and of its duplicate, labelled Copy, after these further commands.
+    /// Runs further commands. Returns the cards of a material and of its duplicate, which is labelled Copy.
     std::pair<QString, QString> cardsAfter(const QByteArray& further) const
     {
         const vxtest::Outcome outcome =
@@ -29,7 +29,7 @@ TEST_F(Duplicate, KeepsTheWholeMaterial)
 {
     const auto [original, copy] = cardsAfter("");
     EXPECT_EQ(copy, original);
-    // It has lists of numbers.
+    // The material has lists of numbers.
     EXPECT_THAT(original.toStdString(), HasSubstr(","));
 }
 

@@ -20,10 +20,10 @@ using testing::StartsWith;
 
 using vxtest::patience;
 
-/// How long to wait, in milliseconds, before a key or a click is repeated. Repeating one too early does no harm.
+/// The time, in milliseconds, before a key or a click is repeated. An early repetition does no harm.
 constexpr int again = 3000;
 
-/// Asks again and again, until the condition holds or the time is over.
+/// Checks the condition repeatedly until it is true or the time is over. Returns whether it is true.
 bool waitUntil(const std::function<bool()>& condition, qint64 milliseconds = patience)
 {
     QElapsedTimer clock;
@@ -59,14 +59,14 @@ public:
 
     const QString& name() const { return m_name; }
 
-    /// Ends the display at once, as when a desktop dies.
+    /// Ends the display at once, like a desktop that crashes.
     void end()
     {
         m_server.kill();
         m_server.waitForFinished(patience);
     }
 
-    /// Sends events as a keyboard and a mouse do. Returns what is printed.
+    /// Sends events like a keyboard and a mouse. Returns the output of the sending program.
     QString ask(const QStringList& arguments) const
     {
         QProcess tool;
@@ -78,16 +78,16 @@ public:
         return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
     }
 
-    /// The windows of this title that can be seen.
+    /// Returns the visible windows with this title.
     QStringList windows(const QString& title) const
     {
         return ask({"search", "--onlyvisible", "--name", title}).split('\n', Qt::SkipEmptyParts);
     }
 
-    /// Waits for a window and gives it the keyboard, as a window manager would.
+    /// Waits for a window and gives it the keyboard focus, like a window manager.
     bool focus(const QString& title) const
     {
-        // Windows change their titles, and take the keyboard when they are ready for it.
+        // Windows change their titles, and take the keyboard focus when they are ready.
         return waitUntil([&] {
             const QStringList found = windows(title);
             if (found.isEmpty())
@@ -97,7 +97,7 @@ public:
         });
     }
 
-    /// What the screen shows. The server keeps it as a file: a header of 32-bit numbers, colours, pixels.
+    /// Returns the picture on the screen. The server keeps it as a file: a header of 32-bit numbers, colours, pixels.
     QImage picture() const
     {
         const QByteArray data = vxtest::readFile(m_folder + QStringLiteral("/Xvfb_screen0"));
@@ -128,7 +128,7 @@ protected:
         ASSERT_EQ(cmake.exitCode(), 0) << cmake.readAllStandardError().toStdString();
     }
 
-    /// Starts the program, and waits for its window, or for one of another title.
+    /// Starts the program, and waits for the window with this title.
     void start(const char* title = "^kelta$", const QStringList& files = {})
     {
         QProcessEnvironment environment = vxtest::cleanEnvironment(home.path());
@@ -142,7 +142,7 @@ protected:
 
     void key(const char* keys) const { display.ask({"key", "--clearmodifiers", keys}); }
 
-    /// Presses keys in a window, again if they have no effect: a window may have the keyboard before it takes keys.
+    /// Presses keys in a window. Repeats keys without effect: a window may have the focus before it accepts keys.
     bool press(const char* title, const char* keys, const std::function<bool()>& effect) const
     {
         return waitUntil([&] {
@@ -165,7 +165,7 @@ protected:
         return true;
     }
 
-    /// Types the name of a file into a dialog, again if that has no effect.
+    /// Types the name of a file into a dialog. Repeats this if it has no effect.
     bool answerWithFile(const char* title, const QString& file) const
     {
         return display.focus(title) && waitUntil([&] {
@@ -180,7 +180,7 @@ protected:
 
     bool hasTitle(const QString& title) const { return !display.windows(title).isEmpty(); }
 
-    /// Double-clicks in the project explorer, row by row, until the editor is there.
+    /// Double-clicks in the project explorer, row by row, until the editor is open.
     bool doubleClickMaterial(const char* title = "^Material - Materials\\*? - kelta$") const
     {
         int y = 60;
@@ -191,7 +191,7 @@ protected:
         });
     }
 
-    /// Double-clicks a material of the library, left in the document, and clicks the apply button, below the table.
+    /// Double-clicks a library material at the left of the document, and clicks the apply button below the table.
     void applyAnotherMaterial() const
     {
         display.ask({"mousemove", "360", "190", "click", "--repeat", "2", "--delay", "60", "1"});
@@ -205,7 +205,7 @@ protected:
     QProcess kelta;
 };
 
-/// How many colours a picture has.
+/// Returns the number of colours in a picture.
 int countColours(const QImage& picture)
 {
     QSet<QRgb> colours;
@@ -284,7 +284,7 @@ TEST_F(EndToEnd, AUserWhoseDesktopDiesFindsACopyTheNextTime)
               0);
     start("^kelta$", {"beams.vxmat"});
     ASSERT_TRUE(doubleClickMaterial("^Material - beams.vxmat\\*? - kelta$"));
-    // Another library material, applied: a copy is kept at once.
+    // Applying another library material writes a copy at once.
     ASSERT_TRUE(display.focus("^Material - beams.vxmat\\*? - kelta$"));
     const QDir recovery(home.filePath(QStringLiteral("vxMaterial/kelta/recovery")));
     const auto hasCopy = [&recovery] { return !recovery.entryList({"*.vxmat"}, QDir::Files).isEmpty(); };

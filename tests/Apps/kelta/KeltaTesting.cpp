@@ -14,7 +14,7 @@ QProcessEnvironment cleanEnvironment(const QString& home)
     environment.insert(QStringLiteral("XDG_DATA_HOME"), home);
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home);
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    // Whole call stacks, by which the leaks of the offscreen platform are told from ours.
+    // Whole call stacks distinguish the leaks of the offscreen platform from leaks of the application.
     const QString sanitizer = QStringLiteral("ASAN_OPTIONS");
     environment.insert(sanitizer, environment.value(sanitizer) + QStringLiteral(":fast_unwind_on_malloc=0"));
     return environment;

@@ -8,10 +8,10 @@
 
 namespace vxtest {
 
-/// The longest time to wait for another program, in milliseconds. Only a test that fails takes that long.
+/// The longest time to wait for another program, in milliseconds. Only a failing test takes this long.
 constexpr int patience = 120000;
 
-/// What a program printed, and how it ended.
+/// The output of a program and its exit status.
 struct Outcome
 {
     int status = -1;
@@ -19,7 +19,7 @@ struct Outcome
     QString errors;
 };
 
-/// The environment of a program that runs as on a machine without a display: settings of its own, English texts.
+/// Returns the environment of a program without a display, with its own settings and English texts.
 QProcessEnvironment cleanEnvironment(const QString& home);
 
 /// Runs the application without a display, from `folder`.
@@ -30,12 +30,12 @@ Outcome runKelta(const QString& program, const QStringList& arguments, const QSt
 void writeFile(const QString& path, const QByteArray& text);
 QByteArray readFile(const QString& path);
 
-/// A test of the application in the build tree, with a folder of its own.
+/// A test of the application in the build tree, with its own folder.
 class Kelta : public testing::Test
 {
 protected:
     Outcome run(const QStringList& arguments) const;
-    /// Runs a list of commands, which is called list.batch.
+    /// Runs a list of commands from the file list.batch.
     Outcome runBatch(const QByteArray& commands) const;
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 

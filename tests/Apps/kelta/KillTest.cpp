@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The change that a project file holds: its number is the density of the first material. The test fails if the file is
-/// not whole.
+/// Returns the number of the change in a project file: the density of the first material. The test fails if the file is
+/// incomplete.
 int changeIn(const QString& path)
 {
     try {
@@ -29,7 +29,7 @@ int changeIn(const QString& path)
     }
 }
 
-/// The number behind the last line that begins with `word`; 0 if there is none.
+/// Returns the number in the last line that begins with `word`; 0 if there is no such line.
 int lastSaid(const QByteArray& output, const QByteArray& word)
 {
     int last = 0;
@@ -39,8 +39,8 @@ int lastSaid(const QByteArray& output, const QByteArray& word)
     return last;
 }
 
-/// A program that is killed while it changes and saves a project: it dies in a given one of its calls that change files.
-/// So it is killed at each point of its work, however fast the machine is.
+/// A program that is killed while it changes and saves a project, in a given call that changes files. The calls, unlike
+/// times, cover each point of its work on a machine of any speed.
 class Kill : public vxtest::Kelta
 {
 protected:
@@ -71,8 +71,8 @@ protected:
         return paths;
     }
 
-    /// Opens the project and makes the next three changes, each followed by the commands `afterChange`, in which # is the
-    /// number of the change. Dies in the call with the number `lastCall`; 0 for never. Returns what the program printed.
+    /// Opens the project and makes the next three changes, each followed by the commands `afterChange`, in which # is
+    /// the number of the change. Kills the program in call `lastCall`; 0 for never. Returns its output.
     QByteArray change3Times(const QByteArray& afterChange, int lastCall)
     {
         QByteArray commands = "Std_Open p.vxmat\nselect Material1\n";
@@ -93,7 +93,7 @@ protected:
         return program.readAllStandardOutput();
     }
 
-    /// The calls of the last run, without those of the last command.
+    /// Returns the calls of the last run, except the calls of the last command.
     QList<QByteArray> calls() const
     {
         QList<QByteArray> names;
@@ -105,7 +105,7 @@ protected:
         return names;
     }
 
-    /// Kills the program in calls from the first to the last one, and passes to `check` what it printed before.
+    /// Kills the program in calls from the first to the last, and passes its output to `check`.
     template <class Check>
     void killInAllPartsOf(const QByteArray& afterChange, const Check& check)
     {
@@ -124,7 +124,7 @@ protected:
     }
 
     vxMat::CMaterial first;
-    int change = 1; ///< what the file holds
+    int change = 1; ///< the number of the change in the file
 };
 
 TEST_F(Kill, WhileSavingLeavesTheOldOrTheNewFile)

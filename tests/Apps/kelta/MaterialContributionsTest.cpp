@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using vxtest::Answers;
 
-/// What the user sees of materials in the window.
+/// The parts of the window that belong to materials.
 class Materials : public vxtest::Files
 {
 protected:

@@ -10,7 +10,7 @@ namespace {
 using testing::HasSubstr;
 using vxtest::Outcome;
 
-/// The program alone, in a folder where there is no plug-in beside it.
+/// The program alone, in a folder without plug-ins.
 class PluginMissing : public testing::Test
 {
 protected:

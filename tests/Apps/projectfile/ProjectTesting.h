@@ -33,7 +33,7 @@ projectfile::ProjectRecord makeSmallProject();
 /// classes: a probe with properties and content, and a group of the probe and a material.
 projectfile::ProjectRecord makeMixedProject();
 
-/// Makes random materials and projects with every kind of value in every field. Each run makes the same ones.
+/// Makes random materials and projects with every kind of value in every field, the same in each run.
 class Dice
 {
 public:

@@ -30,8 +30,8 @@
 #include <iostream>
 #include <memory>
 
-/// Does what a program outside the tree does, with every header that is installed: takes a material of the library,
-/// asks for a card, writes a document and reads its text.
+/// Uses every installed header like a program outside the tree: takes a material of the library,
+/// makes a card, writes a document and reads its text.
 int main()
 {
     auto entry = std::make_unique<vxCAE::MaterialEntry>();

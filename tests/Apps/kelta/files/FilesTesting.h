@@ -32,18 +32,18 @@
 
 namespace vxtest {
 
-/// Presses the buttons of these texts, without their mnemonics, in the message boxes that come up while it lives, one
-/// after the other; keeps the texts of the boxes. A box that is not expected is closed by its frame.
+/// Presses the buttons with these texts (without mnemonics) in the message boxes that open during its lifetime, one
+/// after the other. Records the texts of the boxes. Closes an unexpected box by its frame.
 class Answers : public QObject
 {
 public:
     explicit Answers(QStringList buttons = {});
-    /// All answers must have been asked for, and no more.
+    /// The test fails unless the number of boxes equals the number of texts.
     ~Answers() override;
     Answers(const Answers&) = delete;
     Answers& operator=(const Answers&) = delete;
 
-    /// "Title: text" of each box.
+    /// Returns "Title: text" of each box.
     const QStringList& boxes() const { return m_boxes; }
 
 private:
@@ -63,16 +63,16 @@ protected:
     ~FilesWindow() override;
 
     static bool run(const char* command);
-    /// Gives a command the file that it asks for.
+    /// Runs a command with the file that it asks for.
     static bool run(const char* command, const QString& file);
     static QUndoStack& history() { return vxMsg::MessageProxy::instance().undoStack(); }
 
     QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
     static QByteArray contentOf(const QString& path);
     static void writeFile(const QString& path, const QByteArray& content);
-    /// The copies for recovery that there are.
+    /// Returns the existing copies for recovery.
     static QStringList copies();
-    /// Ends the program without asking, as a crash does, as far as its files are concerned; begins it anew.
+    /// Simulates a crash and a new start of the program for its files: asks no questions.
     void crash();
 
     std::unique_ptr<Gui::MainWindow> window;
@@ -84,7 +84,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// The same with the materials module and its workbench.
+/// A test with project files, the materials module and its workbench.
 class Files : public FilesWindow
 {
 protected:
@@ -92,12 +92,12 @@ protected:
     ~Files() override;
 
     static Mat::DocumentMaterial& newProject();
-    /// Closes the current project, as its menu entry does.
+    /// Closes the current project with the command of the menu.
     static bool closeProject();
     static Mat::MaterialObject& addMaterial(const std::string& label = "Steel");
     static Mat::DocumentMaterial* currentProject();
     static Mat::MaterialObject* findMaterial(const std::string& label);
-    /// Gives the material another Young's modulus in its editor, in place of pressing keys, and leaves it open.
+    /// Sets the Young's modulus of the material in its editor without keys. Leaves the editor open, and returns it.
     Gui::MDIWindow& editModulus(Mat::MaterialObject& object, const QString& text);
     static double modulusOf(const Mat::MaterialObject& object);
     bool isModified() const { return files->isModified(*currentProject()); }

@@ -11,8 +11,8 @@
 
 namespace vxtest {
 
-/// A module of its own, which knows nothing of materials: frames of beams. An object with a property of each type that
-/// refers to or chooses something, and with loads, which are no properties.
+/// An object of a module that does not know materials: frames of beams. It has a reference, a choice and other
+/// properties, and loads, which are not properties.
 class Beam : public Obj::ProjectObject
 {
     OBJ_CLASS;
@@ -32,7 +32,7 @@ public:
     int restorations = 0;
 };
 
-/// The node of a beam.
+/// The tree node of a beam.
 class BeamNode : public Gui::ViewFeederProjectObject
 {
     OBJ_CLASS;
@@ -44,7 +44,7 @@ public:
     Obj::PropertyInteger lineWidth{1};
 };
 
-/// The project of beams, with the name of a standard, which is no property.
+/// The project of beams. It has the name of a standard, which is not a property.
 class Frame : public Obj::Project
 {
     OBJ_CLASS;
@@ -57,7 +57,7 @@ public:
     std::string standard;
 };
 
-/// Registers the classes and how their contents are carried. A beam with a negative load cannot be read.
+/// Registers the classes and the codecs of their contents. A beam with a negative load cannot be read.
 void registerFrames();
 
 } // namespace vxtest

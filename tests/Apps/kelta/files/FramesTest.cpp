@@ -52,7 +52,7 @@ protected:
     {
         return dynamic_cast<vxtest::BeamNode&>(*Gui::GuiApplication::Instance->get_view_feeder(&beam));
     }
-    /// Closes the frame, as its menu entry does. Returns whether it is closed.
+    /// Closes the frame with the command of the menu. Returns whether the frame is closed.
     static bool close()
     {
         const std::size_t open = Obj::Application::get_projects().size();
@@ -60,7 +60,7 @@ protected:
     }
     bool isModified() const { return files->isModified(frame()); }
 
-    /// A frame of two beams in a group, in which nothing has its default.
+    /// Makes a frame of two beams in a group. No value is the default.
     static void buildFrame()
     {
         Frame& project = newFrame();
@@ -119,7 +119,7 @@ TEST_F(FrameFiles, AreTheSameBytesAfterTheyWereOpened)
     ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
     projectfile::ProjectRecord first = projectfile::readProject(contentOf(path("a.vxmat")).toStdString());
     projectfile::ProjectRecord second = projectfile::readProject(contentOf(path("b.vxmat")).toStdString());
-    // The host's own record says which number the project has in this run.
+    // The host's record contains the number of the project in this run.
     first.database = second.database;
     EXPECT_EQ(projectfile::writeProject(first), projectfile::writeProject(second));
 }

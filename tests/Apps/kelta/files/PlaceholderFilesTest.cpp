@@ -18,7 +18,7 @@ class PlaceholderFiles : public vxtest::FilesWindow
 {
 protected:
     static Obj::Project& project() { return *Obj::Application::get_current_project(); }
-    /// Deletes an object as the user does, and presses these buttons in the questions.
+    /// Deletes an object with the command, and presses these buttons in the questions.
     static void deleteObject(Obj::ProjectObject& object, const QStringList& buttons = {})
     {
         const Answers answers(buttons);
@@ -46,7 +46,7 @@ protected:
      "links": [5, 2]}]})";
     }
 
-    /// A project of two materials.
+    /// Makes a project of two materials.
     static std::string materialText()
     {
         std::vector<projectfile::ImportedMaterial> materials(2);

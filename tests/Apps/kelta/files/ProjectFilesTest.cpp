@@ -37,7 +37,7 @@ std::string text(const QStringList& lines)
 
 TEST_F(ProjectFiles, HaveKeysAndMnemonicsOfTheirOwnInEveryLanguage)
 {
-    // "Mat_Delete" has the key of "Std_Delete", which alone hears it.
+    // "Mat_Delete" and "Std_Delete" have the same key; only "Std_Delete" reacts to it.
     std::map<QKeySequence, std::string> users;
     for (const QAction* const action : window->actions() + window->getProjectExplorer().actions())
         if (!action->shortcut().isEmpty()) {
@@ -88,7 +88,7 @@ TEST_F(ProjectFiles, GiveBackTheSameTreeWithNumbersNamesAndLabels)
     EXPECT_EQ(colourAgain->getValue(), (Obj::Color{0.25F, 0.5F, 0.75F, 1.0F}));
     EXPECT_FALSE(history().canUndo());
     EXPECT_FALSE(isModified());
-    // Not even the number of the one that was deleted is used again.
+    // The number of the deleted material is not used again either.
     EXPECT_EQ(addMaterial("Next").getObjectId(), 4U);
 }
 
@@ -334,7 +334,7 @@ TEST_F(ProjectFiles, MakeNoStepOfAnApplyThatChangesNothing)
     Mat::MaterialObject& steel = addMaterial();
     Gui::GuiApplication::Instance->get_view_feeder(&steel)->setEdit(0);
     auto* const apply = window->get_active_mdi_window()->findChild<QAbstractButton*>(QStringLiteral("btnApply"));
-    // The first time the properties lose their units and categories, which the table does not have.
+    // Only the first Apply may change the material.
     apply->click();
     const int steps = history().count();
     apply->click();
@@ -813,7 +813,7 @@ TEST_F(ProjectFiles, KeepTheOldCopyWhenNoNewOneCanBeWritten)
     crash();
     const QString copy = copies().front();
     {
-        // Nothing as large can be written any more.
+        // From now on, the disk is too full for a copy.
         const vxtest::FullDisk full(100);
         const Answers answers({"Recover"});
         files->offerRecovery();

@@ -74,7 +74,7 @@ TEST_F(AppliedEdits, FollowWhatCommandsDidWhileTheEditorWasOpen)
     type(editor, modulus, "7e10");
     apply(editor);
     history().undo();
-    // The density that the editor showed and wrote is taken back with the modulus.
+    // Undo restores the density, which the editor showed and wrote, together with the modulus.
     EXPECT_EQ(modulusOf(steel), 2e11);
     EXPECT_EQ(steel.getCMaterial()->findProperty(density)->value, 1000.0);
 }
@@ -120,7 +120,7 @@ class UnappliedEdits : public vxtest::Materials
 {
 protected:
     bool isEdited() const { return !window->getMdiWindows().isEmpty(); }
-    /// Waits until the steel is edited again, with the modulus that was typed and not applied.
+    /// Waits until the editor of the steel is open again and shows the modulus that was typed and not applied.
     void expectEditsAreBack()
     {
         ASSERT_TRUE(
@@ -210,7 +210,7 @@ protected:
 
     const vxMat::MaterialProperty& catalogued(int id) const { return *project.getMatMgr().propertyCatalogue.at(id); }
 
-    /// Opens the editor of a material, which shows the names of its properties in the other language, and applies.
+    /// Opens the editor of a material, which shows names in the other language, and presses Apply.
     void applyInEditor(Mat::MaterialObject& object)
     {
         MatGui::MaterialView& editor = edit(object);

@@ -17,7 +17,7 @@ using testing::Contains;
 using testing::HasSubstr;
 using vxtest::MessageBoxes;
 
-/// Presses the entry of a command in a menu of the window. Fails the test if the menu has no such entry, or if it is grey.
+/// Chooses a command in a menu of the window. The test fails if the menu has no such entry, or if the entry is grey.
 class Check : public vxtest::Materials
 {
 protected:

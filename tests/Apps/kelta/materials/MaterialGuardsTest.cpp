@@ -98,7 +98,7 @@ protected:
         const auto imported = projectfile::importExchange(projectfile::readFile(file));
         return imported.materials.at(0).material->findProperty(modulus)->value;
     }
-    /// Exports with one answer to the box that is expected, and returns what the box asked.
+    /// Exports, presses one button in the expected box, and returns the text of the box.
     std::string exportAnswering(QMessageBox::StandardButton answer)
     {
         const MessageBoxes boxes(answer);
@@ -170,7 +170,7 @@ TEST_F(Export, WritesNothingIfTheUserCancels)
 TEST_F(Export, WritesNothingIfEditsCannotBeApplied)
 {
     type(edit(steel), modulus, "stiff");
-    // The question, and the reason of the editor, whose box is closed.
+    // Two boxes: the question, and the editor's reason, which is closed.
     const MessageBoxes boxes(QMessageBox::Apply);
     EXPECT_TRUE(run("Mat_Export", file));
     EXPECT_EQ(boxes.shown().size(), 2U);
@@ -282,7 +282,7 @@ TEST_F(EditCommand, RefusesMoreThanAHundred)
     EXPECT_EQ(editors(), 0);
 }
 
-/// Deletion with the key, in the tree of a window in which materials and objects of the host are.
+/// Deletion with the key in a tree that contains materials and objects of the host.
 class DeleteKey : public vxtest::Materials
 {
 protected:

@@ -14,7 +14,7 @@ using testing::HasSubstr;
 class Verbs : public vxtest::Materials
 {
 protected:
-    /// Runs a line of a list; returns what is wrong, or an empty text.
+    /// Runs a line of a list. Returns the reason if the line fails; otherwise an empty text.
     static std::string run(const char* name, const QStringList& arguments = {})
     {
         return desktop::Batch::runCommand(QLatin1String(name), arguments).value_or(QString()).toStdString();

@@ -21,16 +21,16 @@
 
 namespace vxtest {
 
-/// A test with the main window and what the application adds to it for materials, without project files.
+/// A test with the main window and the application's additions for materials, without project files.
 class Materials : public testing::Test
 {
 protected:
     Materials();
     ~Materials() override;
 
-    /// Runs a command as its menu entry does.
+    /// Runs a command like its menu entry.
     static bool run(const char* command);
-    /// Gives a command the file that it asks for.
+    /// Runs a command with the file that it asks for.
     static bool run(const char* command, const QString& file);
     static QUndoStack& history() { return vxMsg::MessageProxy::instance().undoStack(); }
 
@@ -40,9 +40,9 @@ protected:
     static Mat::MaterialObject& addMaterials(Mat::DocumentMaterial& project, int count);
     static void select(const std::vector<Obj::ProjectObject*>& objects);
 
-    /// Opens the editor of a material, as a double click in the tree does.
+    /// Opens the editor of a material, like a double click in the tree.
     MatGui::MaterialView& edit(Mat::MaterialObject& object);
-    /// Types a value into the row of a property, in place of the earlier one, and presses Return.
+    /// Replaces the value in the row of a property by typing, and presses Return.
     static void type(MatGui::MaterialView& editor, int id, const QString& text);
     static void apply(MatGui::MaterialView& editor);
     static QString shownValue(const MatGui::MaterialView& editor, int id);

@@ -3,6 +3,7 @@
 #include "HostTesting.h"
 #include "SchemaJudge.h"
 
+#include "Gui/FileDialog.h"
 #include "Obj/Placeholder.h"
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/MaterialRecord.h"
@@ -148,7 +149,9 @@ TEST_F(PlaceholderFiles, AreRecovered)
         const Answers answers({"Recover"});
         files->offerRecovery();
     }
-    ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+    // The commands belong to the files of before the crash.
+    Gui::FileDialog::answerNext(path("b.vxmat"));
+    ASSERT_TRUE(files->saveAs(project()));
     projectfile::ProjectRecord expected = recordIn("a.vxmat");
     expected.objects[1].label = "Beam 1";
     EXPECT_EQ(textOf(recordIn("b.vxmat")), textOf(std::move(expected)));

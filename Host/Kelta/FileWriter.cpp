@@ -5,10 +5,11 @@
 #include <QSaveFile>
 
 #include <cerrno>
+#include <utility>
 
 namespace Kelta {
 
-FileWriter::FileWriter(const QString& path) : m_path(path), m_xml(&m_document)
+FileWriter::FileWriter(QString path) : m_path(std::move(path)), m_xml(&m_document)
 {
     m_xml.setAutoFormatting(true);
     m_xml.writeStartDocument();

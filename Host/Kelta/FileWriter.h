@@ -15,7 +15,7 @@ namespace Kelta {
 class KELTA_EXPORT FileWriter
 {
 public:
-    explicit FileWriter(const QString& path);
+    explicit FileWriter(QString path);
     FileWriter(const FileWriter&) = delete;
     FileWriter& operator=(const FileWriter&) = delete;
     ~FileWriter();

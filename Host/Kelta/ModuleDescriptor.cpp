@@ -15,7 +15,7 @@ namespace Kelta {
 namespace {
 
 /// More than any descriptor needs; a larger file is not a descriptor.
-constexpr qint64 largestDescriptor = 64 * 1024;
+constexpr qint64 largestDescriptor = qint64{64} * 1024;
 
 QString tr(const char* text)
 {
@@ -35,7 +35,7 @@ QByteArray readText(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         refuse(tr("the descriptor cannot be read: %1").arg(file.errorString()));
-    const QByteArray text = file.read(largestDescriptor + 1);
+    QByteArray text = file.read(largestDescriptor + 1);
     if (text.size() > largestDescriptor)
         refuse(tr("the descriptor is larger than %1 bytes").arg(largestDescriptor));
     return text;
@@ -43,7 +43,7 @@ QByteArray readText(const QString& path)
 
 QJsonObject parse(const QByteArray& text)
 {
-    QJsonParseError error;
+    QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
         refuse(tr("the descriptor is not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset));
@@ -102,7 +102,7 @@ void refuseUnknownMembers(const QJsonObject& json)
 
 QString readModule(const QJsonObject& json, const QString& path)
 {
-    const QString module = textOf(json, QStringLiteral("module"));
+    QString module = textOf(json, QStringLiteral("module"));
     if (module + QLatin1String(descriptorSuffix) != QFileInfo(path).fileName())
         refuse(tr(R"("module" in the descriptor is "%1"; the file is not called after it)").arg(module));
     return module;
@@ -120,7 +120,7 @@ QString readLibrary(const QJsonObject& json, const QString& module, const QStrin
 QStringList readEntries(const QJsonObject& json)
 {
     QStringList entries;
-    for (const QJsonValue& entry : json.value(QStringLiteral("entries")).toArray())
+    for (const auto& entry : json.value(QStringLiteral("entries")).toArray())
         entries << entry.toString();
     if (entries.isEmpty() || entries.contains(QString()))
         refuse(tr("\"entries\" in the descriptor is not a list of names of functions"));

@@ -7,7 +7,7 @@ namespace MatGui {
 /// A row of the property table. The texts are the untranslated texts of the property; the value is the typed text.
 struct SheetRow
 {
-    int id;
+    int id = 0;
     QString name;
     QString value;
     QString description;

@@ -250,6 +250,7 @@ void SheetTableView::setRows(const std::vector<SheetRow>& rows)
     const QModelIndex current = currentIndex();
     const int currentId = current.isValid() ? rowId(current.row()) : -1;
     std::vector<SheetItems> items;
+    items.reserve(rows.size());
     for (const SheetRow& row : rows)
         items.push_back(makeItems(row));
 

@@ -27,11 +27,11 @@ constexpr const char* notFinite = "\"%1\" is %2; a finite number is needed.";
 constexpr const char* noNumber = "\"%1\" contains no number.";
 constexpr const char* notPositive = "\"%1\" is %2; it must be greater than 0.";
 constexpr const char* poissonsRatio = "\"%1\" is %2; it must be from 0.001 to 0.499.";
-constexpr const char* unknownWord = "\"%1\" is \"%2\"; it must be one of %3.";
+constexpr const char* unknownWord = R"("%1" is "%2"; it must be one of %3.)";
 constexpr const char* unequalLists = "\"%1\" has %2 numbers and \"%3\" has %4; they form pairs, and numbers without a "
                                      "partner have no effect.";
-constexpr const char* exclusion = "\"%1\" and \"%2\" exclude each other; remove one of them.";
-constexpr const char* missingParameter = "\"%1\" needs \"%2\", which the material does not have.";
+constexpr const char* exclusion = R"("%1" and "%2" exclude each other; remove one of them.)";
+constexpr const char* missingParameter = R"("%1" needs "%2", which the material does not have.)";
 } // namespace message
 
 FindingArgument textArgument(std::string text)

@@ -223,6 +223,7 @@ const std::vector<LibraryEntry>& libraryEntries()
 {
     static const std::vector<LibraryEntry> entries = [] {
         std::vector<LibraryEntry> all;
+        all.reserve(std::size(buildOrder));
         for (const Type type : buildOrder)
             all.push_back(findRecord(type)->entry);
         return all;

@@ -4,9 +4,9 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
-#include <locale.h>
 #include <stdexcept>
 #include <utility>
 

@@ -39,8 +39,6 @@ private:
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home->path());
         if (Gui::Translator::instance()->language() != QLatin1String("en"))
             Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
-        // A change of language that is delivered later would give the buttons of message boxes their standard texts.
-        QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::LanguageChange);
     }
 
     void OnTestEnd(const testing::TestInfo& /*test*/) override

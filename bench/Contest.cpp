@@ -38,7 +38,7 @@ std::optional<std::string> valueOf(const char* flag, const std::vector<std::stri
     return std::nullopt;
 }
 
-// --- One contest, in a process of its own ---
+// --- One contest, in its own process ---
 
 /// Collects the time of every repetition of each side.
 class Collector : public benchmark::BenchmarkReporter

@@ -221,7 +221,7 @@ public:
                 m_last[stated[i]] = i;
     }
 
-    /// Whether the material at `index` keeps its number in the document.
+    /// Returns whether the material at `index` keeps its number in the document.
     bool keeps(std::size_t index, std::uint32_t stated) const { return stated != 0 && m_last.at(stated) == index; }
 
     /// Returns a number that no material has.

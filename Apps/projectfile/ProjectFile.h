@@ -83,7 +83,7 @@ PROJECTFILE_EXPORT std::string writeProject(const ProjectRecord& project);
 /// the same number or internal name, a number out of range, an object in the database that is not in `objects`
 PROJECTFILE_EXPORT ProjectRecord readProject(std::string_view text);
 
-/// Whether the member "format" of a JSON document has the value of project files. Other errors do not matter.
+/// Returns whether the member "format" of a JSON document has the value of project files. Other errors do not matter.
 PROJECTFILE_EXPORT bool isProject(const vxjson::JsonNode& document);
 
 } // namespace projectfile

@@ -40,8 +40,8 @@ PROJECTFILE_EXPORT std::string readFile(const QString& path, FileStamp* stamp = 
 /// \throws StoreError if this fails; an existing file is then unchanged
 PROJECTFILE_EXPORT FileStamp writeFile(const QString& path, const std::string& text);
 
-/// Whether the content of the file has changed since `stamp` was taken, or the file was deleted. A new modification
-/// time alone is not a change.
+/// Returns whether the content of the file has changed since `stamp` was taken, or the file was deleted. A new
+/// modification time alone is not a change.
 PROJECTFILE_EXPORT bool hasChanged(const QString& path, const FileStamp& stamp);
 
 /// Reserves a file among the programs that use such locks, by a lock file beside the file (or beside the target of a

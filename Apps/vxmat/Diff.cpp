@@ -126,7 +126,7 @@ bool isSame(const Field& one, const Field& other)
     return one == other;
 }
 
-/// Whether two numbers are the same. -0 differs from 0; NaN is the same as NaN.
+/// Returns whether two numbers are the same. -0 differs from 0; NaN is the same as NaN.
 bool isSame(double one, double other)
 {
     return std::isnan(one) ? std::isnan(other) : one == other && std::signbit(one) == std::signbit(other);

@@ -11,7 +11,7 @@ namespace commandline {
 
 namespace {
 
-/// Whether an object belongs to another program: it has members, but no member of an exchange document.
+/// Returns whether an object belongs to another program: it has members, but no member of an exchange document.
 bool isForeign(const vxjson::JsonNode& document)
 {
     static constexpr std::array<std::string_view, 10> members{

@@ -11,8 +11,8 @@ namespace commandline {
 /// The argument that means standard input or output instead of a file.
 inline constexpr const char* standardStream = "-";
 
-/// Whether an argument that is not the name of a material means a file: the file exists, or the argument has a slash or
-/// a dot.
+/// Returns whether an argument that is not the name of a material means a file: the file exists, or the argument has a
+/// slash or a dot.
 bool isFile(const std::string& argument);
 
 /// Returns the whole content of a file, or of standard input.

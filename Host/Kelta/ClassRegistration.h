@@ -5,7 +5,7 @@
 #include <new>
 
 /// The members by which the type system identifies a class. One line in its body declares them, and one line in its
-/// source file defines them. That line alone names the class and its parent, and says whether an object can be
+/// source file defines them. That line names the class and its parent, and states whether an object can be
 /// created by the name. `Obj/ClassRegistration.h` does the same for classes with host properties.
 ///
 ///     class Workbench : public Gui::StdSimModule          // header

@@ -16,7 +16,7 @@ KELTA_EXPORT QString currentExceptionText();
 /// called inside a handler. Throws nothing. Reports nothing if memory is insufficient.
 KELTA_EXPORT void reportException(const QString& failure) noexcept;
 
-/// Runs `action` and returns whether it ended without an exception. An exception is reported to the message log behind
+/// Runs `action` and returns whether it ended without an exception. An exception is reported to the message log after
 /// `failure`, a translated text about the failed operation. For every boundary that no exception may cross.
 ///
 ///     const bool done = Kelta::guarded(tr("The file cannot be saved"), [&] { save(path); });

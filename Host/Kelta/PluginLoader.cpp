@@ -105,7 +105,7 @@ void PluginLoader::Run::loadAll()
         load(name);
 }
 
-// As deep as the chain of modules that need each other.
+// The recursion is as deep as the chain of modules that need each other.
 // NOLINTNEXTLINE(misc-no-recursion)
 void PluginLoader::Run::load(const QString& name)
 {

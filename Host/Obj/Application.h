@@ -38,7 +38,7 @@ public:
     static std::vector<Project*> get_projects(std::uint32_t tag);
     /// Returns the current project; null if no project is open.
     static Project* get_current_project();
-    /// Returns a name from `stem` that no project has or had, a different name at each call.
+    /// Returns a name from `stem` that no project has or has had. Each call returns a different name.
     static std::string get_unique_project_name(std::string_view stem);
 
     /// Returns null if no open project has the name or the id.
@@ -50,7 +50,7 @@ public:
     /// cannot be created; and null if a listener has closed the project at once. Exceptions of the constructor of the
     /// project pass through.
     Project* createProject(const char* className, std::string_view name);
-    /// Adds an existing project, not null and never in the application before, in the same way.
+    /// Adds an existing project in the same way. It must not be null, nor have been in the application before.
     Project* addProject(OwnedProject project, std::string_view name);
     /// Makes an open project the current one.
     void setCurrentProject(Project& project);

@@ -62,7 +62,7 @@ Project::~Project()
 
 std::size_t Project::get_memory_usage() const
 {
-    // Each entry of the tables costs about three pointers beside its content.
+    // Each entry of the tables costs about three pointers besides its content.
     constexpr std::size_t perEntry = 3 * sizeof(void*);
     std::size_t bytes = PropertyDS::get_memory_usage() + heapSizeOf(m_name);
     bytes += m_objects.size() * (perEntry + sizeof(Objects::value_type));
@@ -302,7 +302,7 @@ ProjectObject* Project::ifStillThere(std::uint32_t objectId) const
     return RemovalGuard::isDoomed(*this) ? nullptr : get_object(objectId);
 }
 
-// --- Removing objects and having them back ---
+// --- Removing and restoring objects ---
 
 OwnedObject Project::takeObject(std::uint32_t objectId)
 {

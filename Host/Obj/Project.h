@@ -27,7 +27,7 @@ namespace Obj {
 /// A project: a top-level node of the project tree, and the owner of its objects.
 ///
 /// Objects are in the order of their ids, which is the order of their first addition. Ids begin at 1 and
-/// increase up to the largest number of 32 bits. Finding by id or by name is not a linear search.
+/// increase up to 4294967295. Finding by id or by name is not a linear search.
 class OBJ_EXPORT Project : public PropertyDS
 {
     OBJ_ABSTRACT_CLASS;
@@ -36,7 +36,7 @@ public:
     Project();
     ~Project() override;
 
-    /// Content that a module holds beside the properties of the project and its objects is not counted.
+    /// Content that a module holds besides the properties of the project and its objects is not counted.
     std::size_t get_memory_usage() const override;
 
     /// Returns the registered class of the project's node in the tree; empty for the standard node.
@@ -51,7 +51,7 @@ public:
     /// Reads nothing: the application restores projects.
     virtual void load_jsonDB(Json::Value& record);
     /// Hooks of modules for an XML file, by names that modules use. They do nothing: projects are kept in JSON files.
-    // NOLINTBEGIN(bugprone-virtual-near-miss): modules know these names, beside save and load of the properties.
+    // NOLINTBEGIN(bugprone-virtual-near-miss): modules use these names besides save and load of the properties.
     virtual void Save(Kelta::FileWriter& writer) const;
     virtual void Load(Kelta::XMLFileReader& reader);
     // NOLINTEND(bugprone-virtual-near-miss)
@@ -70,7 +70,7 @@ public:
     std::vector<ProjectObject*> get_objects_of_type(Kelta::TypeInfo type) const;
     std::size_t getObjectCount() const { return m_objects.size(); }
 
-    /// Returns a name from `stem` that no object of the project has or had, a different name at each call.
+    /// Returns a name from `stem` that no object of the project has or has had. Each call returns a different name.
     std::string get_unique_object_name(std::string_view stem);
 
     /// Returns whether the project takes objects of this type, see registerHome.
@@ -85,7 +85,7 @@ public:
     /// Adds an object under an id, for reading a project from a file. Returns null also if the id is 0, beyond 32 bits
     /// or the id that an object has or had, or if the name is empty or taken.
     ProjectObject* add_object(const char* className, std::string_view name, std::uint64_t objectId);
-    /// Adds an existing object, not null and never in a project before, in the same ways.
+    /// Adds an existing object in the same ways. It must not be null, nor have been in a project before.
     ProjectObject* add_object(OwnedObject object, std::string_view name);
     ProjectObject* add_object(OwnedObject object, std::string_view name, std::uint64_t objectId);
 
@@ -152,7 +152,7 @@ private:
     std::uint64_t m_serial;
     std::uint32_t m_projectId = 0;
     std::string m_name;
-    // A vector beside the map finds by id in 3 ns instead of 0.5 us among 100,000, which no user notices.
+    // A vector in addition to the map would find an id among 100,000 in 3 ns instead of 0.5 us, which no user notices.
     Objects m_objects;
     struct NameHash
     {

@@ -143,7 +143,7 @@ private:
     std::vector<PropertyReference*> findReferences(std::uint32_t targetId) const;
     void notifyReferences(std::uint32_t targetId) const;
 
-    /// Returns the links and references of others to this object, and notifies the others that it has left.
+    /// Notifies the objects that need this object that it has left, and returns their links and references to it.
     std::vector<Dependent> breakLinks();
     void mendLinks(const std::vector<Dependent>& dependents);
     static void mendLink(ProjectObject& dependent, ProjectObject& target, const Dependent& before);

@@ -19,7 +19,7 @@ public:
 
     /// Adds `object` to the group, and removes it from another group. Notifies the listeners of the project of the
     /// change of `object`. Returns false, with a report, if `object` belongs to another project, or is this group or a
-    /// group around it.
+    /// group that contains it.
     bool addMember(ProjectObject& object);
     /// Removes `object` from the group, and notifies the listeners. Does nothing if it is not a member.
     void removeMember(ProjectObject& object);

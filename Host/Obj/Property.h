@@ -37,7 +37,7 @@ public:
     /// Sets the value from such a text. Returns false, and leaves the value unchanged, if the text cannot be read.
     [[nodiscard]] virtual bool fromText(std::string_view text) = 0;
 
-    /// Returns the value as project files store it. Here the text.
+    /// Returns the value as project files store it. Here this is the text.
     virtual Json::Value toJson() const;
     /// Sets the value from such JSON. Returns false, and leaves the value unchanged, if the JSON cannot be read.
     [[nodiscard]] virtual bool fromJson(const Json::Value& json);

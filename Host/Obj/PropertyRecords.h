@@ -33,8 +33,9 @@ OBJ_EXPORT Json::Value writeProperties(const PropertyDS& set);
 /// there are none.
 OBJ_EXPORT Json::Value writeLinks(const ProjectObject& object);
 
-/// Links an object to the objects of the record, and returns the number of failed links: the other object is not in the
-/// project or cannot be a member of the group. A record that is not an array of ids throws std::runtime_error.
+/// Links an object to the objects of the record, and returns the number of failed links. A link fails if its object is
+/// not in the project or cannot be a member of the group. Throws std::runtime_error if the record is not an array of
+/// ids.
 [[nodiscard]] OBJ_EXPORT std::size_t readLinks(ProjectObject& object, const Json::Value& record,
                                                const Renumbering& newId = sameId);
 

@@ -10,7 +10,7 @@
 namespace Obj {
 
 /// Makes unused names: "Part", "Part1", "Part2". No name is made twice from one stem. Each name takes constant
-/// time on average, whatever the number of names.
+/// time on average, independently of the number of names.
 class OBJ_EXPORT UniqueNames
 {
 public:

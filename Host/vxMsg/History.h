@@ -31,11 +31,11 @@ public:
     void endGroup();
     bool isInGroup() const { return m_groupDepth > 0; }
 
-    /// A position in the history, behind the commands that have been recorded.
+    /// A position in the history, after the commands that have been recorded.
     struct Place
     {
         std::size_t index;
-        std::size_t endCount; ///< how often the history has ended
+        std::size_t endCount; ///< the number of times that the history has ended
     };
     Place place() const { return {m_commands.size(), m_endCount}; }
     /// Records a command that has been carried out. During an undo, ends the history and destroys the command instead.

@@ -144,8 +144,8 @@ QUndoStack& MessageProxy::undoStack()
 
 // --- Requests ---
 
-/// Makes one step of an act and of all resulting changes of listeners. The command of the act, null if nothing was
-/// done, comes before the commands of the listeners.
+/// Carries out an act, and makes one step of it and of all changes that listeners make because of it. The command of
+/// the act, null if nothing was done, precedes the commands of the listeners.
 bool MessageProxy::carryOut(const QString& text, const Act& act)
 {
     const Group group(text);

@@ -7,5 +7,5 @@ if(NOT output STREQUAL " 200000000000.000000, 0.300000 1\n")
     message(FATAL_ERROR "the outside project printed: ${output}")
 endif()
 
-# The installed program finds the installed libraries by itself.
+# The installed program finds the installed libraries without environment variables.
 run(${WORK}/installed/bin/vxmat show air)

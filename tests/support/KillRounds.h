@@ -4,8 +4,8 @@
 
 namespace vxtest {
 
-/// Returns how often a test kills a program: 15 times, or VX_KILL_ROUNDS times. The test preset "kill" sets this
-/// variable.
+/// Returns the number of times that a test kills a program: VX_KILL_ROUNDS if this environment variable is set,
+/// otherwise 15. The test preset "kill" sets the variable.
 inline int killRounds()
 {
     constexpr int usual = 15;

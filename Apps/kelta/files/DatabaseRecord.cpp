@@ -52,7 +52,7 @@ Json::Value entryOf(const projectfile::ObjectRecord& object, const Json::Value& 
 }
 
 /// Completes the record of a material project: afterwards it has an entry for each material, those of missing classes
-/// included. Entries of other objects stay.
+/// included. Entries of other objects are unchanged.
 void completeMaterials(Json::Value& database, const projectfile::ProjectRecord& record, const Json::Value& earlier)
 {
     const Json::Value present = objectsOf(database);

@@ -10,7 +10,7 @@ class ProjectFiles;
 
 /// Adds the commands about project files to the command manager: "Std_Open", "Std_OpenRecent", "Std_Save", "Std_SaveAs"
 /// and "Std_ImportDocument". `files` must outlive their use. From then on the command "Std_Collect" asks about edits
-/// that are not applied, before it hands a project over to the solver. To be called once.
+/// that are not applied, before it hands a project over to the solver. Must be called once.
 void addFileCommands(Gui::CommandController& commands, ProjectFiles& files);
 
 } // namespace desktop

@@ -21,7 +21,7 @@ struct KeptObject
 struct KeptMembers
 {
     Json::Value further;
-    Json::Value database;   ///< the whole record in the project database, as it was read
+    Json::Value database;   ///< the whole record in the project database, unchanged
     Json::Value properties; ///< by name, properties that the project does not have, or whose values it refuses
     Json::Value record;     ///< of a project whose class has no codec
     std::map<std::uint32_t, KeptObject> objects; ///< by id

@@ -28,7 +28,7 @@ public:
     /// Returns the time at which the copy was last written.
     QDateTime time() const;
 
-    /// Writes the copy in place of the earlier one, which stays if this fails.
+    /// Replaces the copy. If this fails, the earlier copy is kept.
     /// \throws projectfile::StoreError
     void write(const std::string& text);
     /// \throws projectfile::StoreError

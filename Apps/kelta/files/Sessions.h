@@ -32,9 +32,9 @@ public:
 
     /// Marks a project as modified, and its copy for recovery as due.
     void markModified(const Obj::Project& project);
-    /// To be called when a project has been opened. Its session must be complete, with the flag of modification.
+    /// Must be called when a project has been opened. Its session must be complete, with the flag of modification.
     void noteOpened(Obj::Project& project);
-    /// To be called when a project has been saved.
+    /// Must be called when a project has been saved.
     void noteSaved(Obj::Project& project);
     /// Deletes all copies for recovery.
     void forgetCopies();

@@ -78,7 +78,7 @@ QString askForFile()
             QCoreApplication::translate(context, "All files(*.*)"));
 }
 
-/// Returns the reason if no file can be exported, whatever its name; an empty text otherwise.
+/// Returns the reason if no file can be exported under any name; an empty text otherwise.
 QString findObstacle()
 {
     const auto open = materialProjects();

@@ -12,7 +12,7 @@ namespace desktop {
 ///   which data was written and which was not.
 /// - "Mat_Edit" asks before it opens more than ten editors, and refuses more than a hundred.
 /// - "Std_Delete" of the host runs "Mat_Delete" if only materials are selected.
-/// To be called once, after the commands are registered.
+/// Must be called once, after the commands are registered.
 void addMaterialGuards(Gui::CommandController& commands);
 
 } // namespace desktop

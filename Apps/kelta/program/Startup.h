@@ -6,7 +6,7 @@ class MainWindow;
 
 namespace desktop {
 
-/// Adds project files to the program: their commands, drops on the window, and recovery. To be called once, before
+/// Adds project files to the program: their commands, drops on the window, and recovery. Must be called once, before
 /// modules are loaded.
 void startFiles(Gui::MainWindow& window);
 
@@ -14,7 +14,7 @@ void startFiles(Gui::MainWindow& window);
 /// there is no module, or if one cannot be loaded; the reason is in the message log.
 bool loadModules(Gui::MainWindow& window);
 
-/// Destroys everything that modules have created. To be called while the modules are still loaded.
+/// Destroys everything that modules have created. Must be called while the modules are still loaded.
 void shutDown();
 
 } // namespace desktop

@@ -33,7 +33,7 @@ public:
     virtual bool open(const QString& path) = 0;
     /// Asks about all changes that are not saved. Returns false if the user does not want to end the program.
     virtual bool mayEnd() = 0;
-    /// Destroys the copies for recovery. To be called when the program ends normally, after mayEnd.
+    /// Destroys the copies for recovery. Must be called when the program ends normally, after mayEnd.
     virtual void end() = 0;
     /// Offers the user the copies for recovery of programs that ended before projects were saved.
     virtual void offerRecovery() = 0;
@@ -41,7 +41,7 @@ public:
     virtual QString getFile(const Obj::Project& project) const = 0;
     /// Returns whether a project has changes that its file does not have.
     virtual bool isModified(const Obj::Project& project) const = 0;
-    /// Marks the project of an object as modified, and writes a copy for recovery. To be called by a module after it
+    /// Marks the project of an object as modified, and writes a copy for recovery. Must be called by a module after it
     /// has changed content of the object that is not a property, because the project sends no signal for such a change.
     virtual void contentChanged(Obj::ProjectObject& object) = 0;
 };

@@ -5,8 +5,8 @@
 
 namespace Gui {
 
-/// The style of the platform, with own icons for the buttons that toolbars show if the window is too narrow. The
-/// platform reads its icons from files when a toolbar is made, which makes the start 6 % longer (gui_bench).
+/// The style of the platform, with the host's own icons for the buttons that toolbars show if the window is too narrow.
+/// The platform would read its icons from files when a toolbar is made, and the start would be 6 % longer (gui_bench).
 class HostStyle final : public QProxyStyle
 {
     Q_OBJECT

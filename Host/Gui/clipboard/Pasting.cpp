@@ -120,7 +120,7 @@ std::vector<Obj::ProjectObject*> Pasting::finish()
 
 bool Pasting::takes(const Json::Value& description) const
 {
-    // Only the source project tells whether projects of a class take objects of a missing class.
+    // The class is missing, so only projects of the class of the source project are known to take the object.
     if (isPlaceholder(description))
         return textOf(description, "project_class") == originalClassOf(m_project);
     const Kelta::TypeInfo type = typeOf(description);

@@ -22,7 +22,7 @@ enum class SectionLine
 /// title. An item owns its children.
 ///
 /// The children of a menu or toolbar can be divided into named sections, so that modules can add commands at the end of
-/// of a section. The items of a section are those between its beginning and the next section or separator.
+/// a section. The items of a section are those between its beginning and the next section or separator.
 template <typename Item>
 class CommandTree
 {
@@ -90,7 +90,7 @@ public:
         m_items.push_back(std::move(item));
     }
 
-    /// Adds a child at the end of a section. If the section does not exist, begins it at the end, behind a line. Takes
+    /// Adds a child at the end of a section. If the section does not exist, begins it at the end, after a line. Takes
     /// ownership of `item`; null is ignored.
     void addToSection(std::string_view name, Item* item)
     {

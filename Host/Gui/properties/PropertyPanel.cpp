@@ -17,7 +17,7 @@ namespace {
 
 constexpr int valueColumn = 1;
 
-// Data that the first column keeps beside the texts.
+// Data that the first column keeps in addition to the texts.
 constexpr int ownerRole = Qt::UserRole + 1; ///< index of the owner
 constexpr int nameRole = Qt::UserRole + 2;  ///< the property's own name
 

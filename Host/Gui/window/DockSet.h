@@ -40,7 +40,7 @@ public:
 private:
     QMainWindow& m_window;
     std::vector<DockEntry> m_entries;
-    std::size_t m_contributedCount = 0; ///< how many docks of modules have been made
+    std::size_t m_contributedCount = 0; ///< the number of docks of modules that have been made
 };
 
 } // namespace Gui

@@ -458,7 +458,7 @@ void MainWindow::addShortcuts()
             addAction(action);
             continue;
         }
-        // A key of two commands runs neither. A key that acts on the tree must not work while the user types a text.
+        // A key with two commands runs neither. A key that acts on the tree must not work while the user types a text.
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         if (action->shortcut().isEmpty() || treeKeys.insert(action->shortcut()).second)
             m_explorer->addAction(action);

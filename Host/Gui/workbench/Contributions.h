@@ -120,10 +120,10 @@ public:
     ~Contributions() override;
 
     /// Adds a command at the end of a section of a menu. A missing menu is made in front of "&Windows". A missing
-    /// section is made at the end of the menu, behind a line. Texts of menus are translated in the
+    /// section is made at the end of the menu, after a line. Texts of menus are translated in the
     /// context "Workbench".
     void addToMenu(const char* menu, const char* section, const char* command, const char* workbench = "");
-    /// Adds a command at the end of a section of a toolbar. A missing toolbar is made behind the others.
+    /// Adds a command at the end of a section of a toolbar. A missing toolbar is made after the existing ones.
     void addToToolBar(const char* bar, const char* section, const char* command, const char* workbench = "");
     /// Adds a command to the context menu of the empty area of the project explorer.
     void addToTreeMenu(const char* command);

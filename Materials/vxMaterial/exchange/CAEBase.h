@@ -51,8 +51,8 @@ struct AnalysisType
 ///
 /// The keys in written documents are constants of this library, which must stay loaded as long as the documents exist.
 ///
-/// A missing member is read as 0, 0.0, false or the empty text, a missing array as an empty one. Reading does not change
-/// the document.
+/// A missing member is read as 0, 0.0, false or the empty text, a missing array as an empty one. Reading does not
+/// change the document.
 class VXCAE_EXPORT CAEBase
 {
 public:
@@ -62,7 +62,7 @@ public:
     /// Returns the name of the section's class, "CAEMaterials".
     virtual const char* typeName() const = 0;
 
-    /// Adds the section to `document`, an object or null. Members of other sections stay.
+    /// Adds the section to `document`, an object or null. Members of other sections are unchanged.
     /// \throws Json::LogicError if `document` has another kind; std::out_of_range as in CAESolve::writeJson. The
     /// document keeps the members written before.
     virtual void writeJson(Json::Value& document) const = 0;

@@ -97,7 +97,8 @@ public:
     const char* getAnalysisLabel() const;
     /// Returns 11 if the time integration is "Explicit", in this spelling; otherwise 1.
     int getSolverFamily() const;
-    /// Returns whether contact in the system, large deformation or the material of a domain makes the analysis nonlinear.
+    /// Returns whether contact in the system, large deformation or the material of a domain makes the analysis
+    /// nonlinear.
     bool isNonlinear() const;
     /// Returns whether a domain has a creep or viscous material; true without a system section.
     bool hasCreepOrViscousMaterial() const;

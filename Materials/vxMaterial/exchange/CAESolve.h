@@ -11,8 +11,8 @@ namespace vxCAE {
 
 /// The settings of the solution: solver, limits, and the load-step table. A field has the name of its JSON member.
 ///
-/// The seven lists form the table: element i of each belongs to load step i + 1. `n_load_steps` is the number of steps, and
-/// each list must have at least as many elements.
+/// The seven lists form the table: element i of each belongs to load step i + 1. `n_load_steps` is the number of steps,
+/// and each list must have at least as many elements.
 class VXCAE_EXPORT CAESolve : public CAEBase
 {
 public:

@@ -11,8 +11,8 @@ namespace vxCAE {
 /// The system that an analysis solves. A field has the name of its JSON member. The solver defines the numbers of
 /// solver form and dimension; the section does not interpret the numbers.
 ///
-/// The format has two asymmetries: the deform type is written as "deform_type" and read as "defrom_type", and the settings
-/// of modal and spectrum analyses are read but never written.
+/// The format has two asymmetries: the deform type is written as "deform_type" and read as "defrom_type", and the
+/// settings of modal and spectrum analyses are read but never written.
 class VXCAE_EXPORT CAESystem : public CAEBase
 {
 public:

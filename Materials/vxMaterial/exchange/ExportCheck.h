@@ -30,9 +30,9 @@ struct ExportObstacle
 VXCAE_EXPORT std::vector<ExportObstacle> findExportObstacles(const vxMat::MaterialBase& material);
 
 /// Returns the properties whose values a document does not contain, in the order of the catalogue: words, lists, and
-/// numbers with a word or a list beside them. A document can be written, but the program must tell the user. Units,
-/// descriptions and categories do not count, since the catalogue has them. The pointers are valid as long as the
-/// material holds the properties.
+/// numbers of properties that also have a word or a list. A document can be written, but the program must tell the
+/// user. Units, descriptions and categories do not count, since the catalogue has them. The pointers are valid as long
+/// as the material holds the properties.
 /// \throws std::bad_alloc
 VXCAE_EXPORT std::vector<vxMat::HeldProperty> findLostValues(const vxMat::MaterialBase& material);
 

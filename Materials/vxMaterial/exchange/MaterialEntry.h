@@ -81,7 +81,8 @@ public:
     /// dShearRelaxation or dRelaxationTime.\n".
     std::string getViscoElasticCard() const;
 
-    /// Returns the card of the creep kind: A, N and M of Norton's law, or "Invalid dModulusA, dModulusN, or dModulusM.\n".
+    /// Returns the card of the creep kind: A, N and M of Norton's law, or "Invalid dModulusA, dModulusN, or
+    /// dModulusM.\n".
     std::string getCreepCard() const;
 
     // Tables over temperature: the constant value at 0 and at 1e+06. Materials of every kind have them.

@@ -59,8 +59,8 @@ inline constexpr auto stepColumns =
                     StepColumn<double>{"nl_rel_tol", &CAESolve::nl_rel_tol, Conversion::Real},
                     StepColumn<std::int32_t>{"nl_max_its", &CAESolve::nl_max_its, Conversion::Count});
 
-/// Returns whether a document claims a million load steps more than its arrays have elements. Readers allocate memory
-/// for every claimed step; the limit bounds the memory that one wrong number can request.
+/// Returns whether the number of load steps in a document exceeds the length of its longest array by more than a
+/// million. Readers allocate memory for every step; the limit bounds the memory that one wrong number can request.
 inline bool claimsTooManySteps(const Json::Value& solve, std::uint32_t steps)
 {
     constexpr std::uint64_t mostMissing = 1000000;

@@ -8,7 +8,7 @@ class QStyleOptionViewItem;
 class QWidget;
 
 /// The drawing of texts in cells of the property table. A long text has several lines. Lines break between words,
-/// behind the separators of a list without blanks, and inside a word that is wider than the cell.
+/// after the separators of a list without blanks, and inside a word that is wider than the cell.
 namespace MatGui {
 
 /// The maximum number of lines in a cell; the rest of a longer text is omitted.

@@ -199,7 +199,7 @@ void MaterialView::watchEdits()
 {
     // While edits are unapplied, the title has a mark, and the program asks before it ends.
     connect(&m_history->stack(), &QUndoStack::cleanChanged, this, [this](bool clean) { setWindowModified(!clean); });
-    // The delegate writes typed values into the model. The slots that make other edits note them.
+    // The delegate writes typed values into the model. The slots that make other edits record them.
     const auto note = [this] { guarded([this] { noteEdit(tr("Change value")); }); };
     const QAbstractItemModel* const model = m_ui->tableView->model();
     connect(model, &QAbstractItemModel::dataChanged, this, note);

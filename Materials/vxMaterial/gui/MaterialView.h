@@ -50,7 +50,8 @@ class VXMATERIAL_EXPORT MaterialView : public Gui::MDIWindow
     KELTA_ABSTRACT_CLASS;
 
 public:
-    /// Makes the window for `object`, which must be a Mat::MaterialObject in a material project and must outlive the window.
+    /// Makes the window for `object`, which must be a Mat::MaterialObject in a material project and must outlive the
+    /// window.
     MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object, QWidget* parent);
     ~MaterialView() override;
 
@@ -59,8 +60,8 @@ public:
 
     Mat::MaterialObject* getMaterialObject() const { return m_materialObject; }
 
-    /// Appends the materials of the library to the lists of the Library tab, in the order of the library. A material whose
-    /// group has no page is not shown.
+    /// Appends the materials of the library to the lists of the Library tab, in the order of the library. A material
+    /// whose group has no page is not shown.
     void preloadMaterialLibrary();
     /// Appends the quantities of the catalogue to the lists of the Build tab, in the order of the catalogue, and checks
     /// the quantities of the material.

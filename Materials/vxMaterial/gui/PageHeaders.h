@@ -8,7 +8,7 @@ namespace MatGui {
 
 /// Lets the Tab key visit the headers, each in front of its page, and not the frames around the pages. Marks the header
 /// that has the keyboard focus. Each page must contain one QListWidget. Returns the last widget of the tab order, which
-/// begins behind `before`.
+/// begins after `before`.
 QWidget* makePagesReachable(const QToolBox& box, QWidget* before);
 
 /// Gives the headers the accessible names of their lists. Must be called again after the language changes.

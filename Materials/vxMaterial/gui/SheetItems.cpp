@@ -12,7 +12,7 @@ namespace MatGui {
 
 namespace {
 
-/// The data that a cell stores beside the text that it shows.
+/// The data that a cell stores in addition to the shown text.
 enum CellRole : int
 {
     SourceRole = Qt::UserRole + 1, ///< the text before its translation

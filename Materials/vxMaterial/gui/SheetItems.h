@@ -12,7 +12,7 @@ namespace vxMat {
 class MaterialProperty;
 } // namespace vxMat
 
-/// The cells of the property table. A cell stores the text of the property beside the shown translation, so that the
+/// The cells of the property table. A cell stores the text of the property and the shown translation, so that the
 /// table can follow a change of the language.
 namespace MatGui {
 

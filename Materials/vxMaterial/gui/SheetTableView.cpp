@@ -492,7 +492,7 @@ void SheetTableView::noteWidth(int column)
         return;
     if (column == Name || column == Value)
         m_columnsOfUser.insert(column);
-    // The header reports a width before it has it.
+    // The header reports a width before it applies the width, so the columns are fitted later.
     if (!std::exchange(m_fitIsPosted, true))
         QCoreApplication::postEvent(this, new QEvent(fitEvent), Qt::HighEventPriority);
 }

@@ -100,8 +100,8 @@ public:
     /// Returns whether the rows follow the rules of PropertyRules.h. If not, writes the reason to `message`; otherwise
     /// leaves it unchanged. Rows that follow the rules may still be unreadable.
     bool validateRows(QString& message) const;
-    /// Returns the row, from 0, that validateRows refuses, or the row of the elasticity switch if it refuses the combination
-    /// of the rows; -1 if it refuses nothing.
+    /// Returns the row, from 0, that validateRows refuses, or the row of the elasticity switch if it refuses the
+    /// combination of the rows; -1 if it refuses nothing.
     int findRefusedRow() const;
     /// Returns the first row that applyToMaterial could not write; absent if there is none.
     std::optional<UnreadableRow> findUnreadableRow() const;

@@ -128,7 +128,7 @@ void ViewFeederMaterialObject::showLabel(const Mat::MaterialObject& object)
 {
     if (materialView == nullptr)
         return;
-    // Qt shows the mark of a modified window in place of "[*]", and "[*]" in place of two of them.
+    // In a window title, Qt replaces "[*]" by the mark of a modified window, and "[*][*]" by "[*]".
     const QString mark = QStringLiteral("[*]");
     QString label = QString::fromStdString(object.label.getValue());
     materialView->setWindowTitle(label.replace(mark, mark + mark) + mark);

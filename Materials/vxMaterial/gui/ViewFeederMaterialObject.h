@@ -49,8 +49,8 @@ public:
 protected:
     /// Passes the change to the editor if it is open.
     void updateData(const Obj::Property* changed) override;
-    /// Returns the open editor, or a new one in the main window; null if the node shows no material, or if the material is
-    /// not in a material project.
+    /// Returns the open editor, or a new one in the main window; null if the node shows no material, or if the material
+    /// is not in a material project.
     MaterialView* showMaterialView();
 
 private:

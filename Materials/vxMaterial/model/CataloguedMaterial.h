@@ -26,7 +26,7 @@ VXMAT_MODEL_EXPORT std::vector<HeldProperty> propertiesInCatalogueOrder(const Ma
 /// Sets name, description, unit and category of each property to the values of the catalogue, by the id of the
 /// property. Properties made from rows of a table lack the unit and have their texts in the language of the user; after
 /// this call the material is the same in every language. Keys, values and properties that the catalogue does not have
-/// stay. If memory runs out, some properties are unchanged.
+/// are unchanged. If memory runs out, some properties are unchanged.
 /// \throws std::bad_alloc
 VXMAT_MODEL_EXPORT void restoreCatalogueTexts(MaterialBase& material);
 

@@ -23,8 +23,8 @@ public:
     MatDBManager& operator=(const MatDBManager&) = delete;
     ~MatDBManager();
 
-    /// Replaces `materials` by a new instance of each of the 26 built-in materials. If memory runs out, the entries made
-    /// so far stay.
+    /// Replaces `materials` by a new instance of each of the 26 built-in materials. If memory runs out, the entries
+    /// made so far stay.
     /// \throws std::bad_alloc
     void initMaterialLibrary();
     /// Replaces `propertyCatalogue` by a default instance of each of the 36 quantities. If memory runs out, the entries

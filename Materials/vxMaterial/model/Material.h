@@ -45,9 +45,9 @@ enum class eMaterialType : std::int32_t
 
 /// A named set of properties, which the material owns.
 ///
-/// The integer under which a material holds a property is the property's **slot**. It is normally the id of the property,
-/// but need not be: the acoustic library materials hold the speed of sound in slot 401 as a second density, whose id is 4.
-/// Copies keep the slots.
+/// The integer under which a material holds a property is the property's **slot**. It is normally the id of the
+/// property, but need not be: the acoustic library materials hold the speed of sound in slot 401 as a second density,
+/// whose id is 4. Copies keep the slots.
 ///
 /// Materials are not copied by value: copyAllFrom copies everything; the comments of copyPropertiesFrom and of
 /// CMaterial's copyTo and copyFrom tell which parts they copy.
@@ -61,14 +61,14 @@ public:
     MaterialBase& operator=(const MaterialBase&) = delete;
     virtual ~MaterialBase();
 
-    /// Makes a property from a row of the property table (see MaterialProperty's constructor from text) and stores it in
-    /// the slot `propertyId`, as setProperty does.
+    /// Makes a property from a row of the property table (see MaterialProperty's constructor from text) and stores it
+    /// in the slot `propertyId`, as setProperty does.
     /// \throws std::invalid_argument, std::out_of_range if the text cannot be read; the material is unchanged
     void addProperty(std::int32_t propertyId, const std::string& displayName, const std::string& valueText,
                      const std::string& key, const std::string& description);
 
-    /// Stores `property`, which must not be null, in a slot and takes ownership of it. Destroys an earlier property of the
-    /// slot.
+    /// Stores `property`, which must not be null, in a slot and takes ownership of it. Destroys an earlier property of
+    /// the slot.
     void setProperty(std::int32_t slot, std::unique_ptr<MaterialProperty> property);
 
     bool hasProperty(std::int32_t slot) const;
@@ -93,12 +93,12 @@ public:
     void clearProperties();
 
     /// Replaces the properties by plain copies of the properties of `other`, in the same slots. Id, name and library
-    /// group stay. If memory runs out, the material is unchanged.
+    /// group are unchanged. If memory runs out, the material is unchanged.
     /// \throws std::bad_alloc
     void copyPropertiesFrom(const MaterialBase& other);
 
-    /// Makes this material the same as `other`: id, whole name, library group, and plain copies of the properties in the
-    /// same slots. If memory runs out, the material is unchanged.
+    /// Makes this material the same as `other`: id, whole name, library group, and plain copies of the properties in
+    /// the same slots. If memory runs out, the material is unchanged.
     /// \throws std::bad_alloc
     void copyAllFrom(const MaterialBase& other);
 
@@ -118,8 +118,8 @@ public:
     CMaterial();
     explicit CMaterial(const char* materialName); ///< must not be null
 
-    /// Copies id, name and properties to `target`, whose library group stays. Does nothing if `target` is null. If memory
-    /// runs out, the target is unchanged.
+    /// Copies id, name and properties to `target`, whose library group stays. Does nothing if `target` is null. If
+    /// memory runs out, the target is unchanged.
     /// \throws std::bad_alloc
     void copyTo(MaterialBase* target) const;
 

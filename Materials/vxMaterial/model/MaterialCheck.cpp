@@ -76,7 +76,7 @@ const std::vector<ModelNeeds>& modelNeeds()
     return needs;
 }
 
-/// Returns the parameters that plasticity needs beside the yield type. They depend on the words; empty for words for
+/// Returns the parameters that plasticity needs besides the yield type. They depend on the words; empty for words for
 /// which the solver has no card.
 std::vector<std::int32_t> plasticityNeeds(const MaterialBase& material)
 {

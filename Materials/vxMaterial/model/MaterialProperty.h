@@ -83,8 +83,8 @@ public:
     MaterialProperty& operator=(const MaterialProperty&) = delete;
     ~MaterialProperty() override;
 
-    /// Sets the metadata (name, key, unit, description if there is one, category, id) of a concrete quantity. Does nothing
-    /// in this class.
+    /// Sets the metadata (name, key, unit, description if there is one, category, id) of a concrete quantity. Does
+    /// nothing in this class.
     virtual void initProperty();
 
     double getValue() const { return value; }

@@ -19,14 +19,14 @@ namespace vxMat {
 /// \throws std::out_of_range ("stod argument out of range") if a double cannot hold it: 1e999, 1e-999
 VXMAT_MODEL_EXPORT double readNumber(std::string_view text);
 
-/// A number at the start of a text, and the text behind it.
+/// A number at the start of a text, and the text after it.
 struct LeadingNumber
 {
     double number;
     std::string_view rest;
 };
 
-/// Returns the number at the start of `text`, as readNumber does, and the text behind it, which readNumber ignores:
+/// Returns the number at the start of `text`, as readNumber does, and the text after it, which readNumber ignores:
 /// " GPa" of "210 GPa".
 ///
 /// \throws std::invalid_argument, std::out_of_range as readNumber does
@@ -44,8 +44,8 @@ VXMAT_MODEL_EXPORT std::vector<double> readNumberList(std::string_view text);
 /// bound is still right.
 VXMAT_MODEL_EXPORT std::optional<double> readWholeNumber(std::string_view text);
 
-/// Returns the shortest decimal text that reads back to exactly the same double: 7850, 0.3, 2e+11, 1.7976931348623157e+308,
-/// inf, nan.
+/// Returns the shortest decimal text that reads back to exactly the same double: 7850, 0.3, 2e+11,
+/// 1.7976931348623157e+308, inf, nan.
 VXMAT_MODEL_EXPORT std::string formatNumber(double number);
 
 /// Returns the numbers of a list, each by formatNumber, joined by ", ".

@@ -147,8 +147,8 @@ using MaterialConstantC10 = NumberProperty<PropertyId::MaterialConstantC10>;
 using MaterialConstantC01 = NumberProperty<PropertyId::MaterialConstantC01>;
 /// C11: factor of (I1 - 3)(I2 - 3); Pa.
 using MaterialConstantC11 = NumberProperty<PropertyId::MaterialConstantC11>;
-/// The stretch at which the chains of the eight-chain model are fully extended. It is a ratio; its unit text "Pa" is kept
-/// because existing documents have it.
+/// The stretch at which the chains of the eight-chain model are fully extended. It is a ratio; its unit text "Pa" is
+/// kept because existing documents have it.
 using LimitingNetworkStretch = NumberProperty<PropertyId::LimitingNetworkStretch>;
 
 // Plasticity. Its stresses are in the unit of the elastic moduli; the catalogue states none.

@@ -5,8 +5,8 @@
 namespace vxMat {
 
 /// The identifiers of the 36 quantities of the catalogue. The id of a quantity is also the number of its slot in a
-/// material, and its "prop_type" in documents; the solver cards look values up by it. User interface and solver share the
-/// numbers, which never change. No quantity has the numbers in the gaps (40, 201 ...).
+/// material, and its "prop_type" in documents; the solver cards look values up by it. User interface and solver share
+/// the numbers, which never change. No quantity has the numbers in the gaps (40, 201 ...).
 struct PropertyId
 {
     enum : std::int32_t

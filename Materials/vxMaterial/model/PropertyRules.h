@@ -60,7 +60,7 @@ struct IgnoredText
 };
 
 /// Returns the text that is ignored when `valueText` is read as a value of the quantity `id`. For a number this is all
-/// text behind it, as in "7850 kg" and "2,1e11"; for a list it is the first part that is not one number, as in "450
+/// text after it, as in "7850 kg" and "2,1e11"; for a list it is the first part that is not one number, as in "450
 /// MPa, 608" and "450-608". Blanks, "," and ";" separate the parts. Absent if nothing is ignored, if the text cannot be
 /// read at all (reading it throws), and for words and switches.
 VXMAT_MODEL_EXPORT std::optional<IgnoredText> findIgnoredText(std::int32_t id, std::string_view valueText);

@@ -36,9 +36,9 @@ public:
     const char* get_viewfeeder_name() const override; ///< "MatGui::ViewFeederDocumentMaterial"
     /// Returns state 0: a project as a whole has no state.
     Obj::eVXObjectState check_input() override;
-    /// Gives copies of all materials, as one exchange set under the project's id, to the exchange-set manager, which keeps
-    /// the set until the project is closed. First sets the name of each material to the label of its object, so that the
-    /// solver has the name that the user sees.
+    /// Gives copies of all materials, as one exchange set under the project's id, to the exchange-set manager, which
+    /// keeps the set until the project is closed. First sets the name of each material to the label of its object, so
+    /// that the solver has the name that the user sees.
     void collect_frontend_data() override;
     /// Writes the project's record: tag and id, and for each material the id, class, internal name and label. The
     /// record does not contain values of properties.
@@ -58,8 +58,8 @@ public:
     /// have the object.
     bool check_material_input(unsigned int objectId);
 
-    /// Writes the exchange set as styled JSON. The materials are named and copied as in collect_frontend_data. The three
-    /// characters are not used.
+    /// Writes the exchange set as styled JSON. The materials are named and copied as in collect_frontend_data. The
+    /// three characters are not used.
     ///
     /// Returns true, even if the file cannot be opened or written. Opening the file discards its earlier contents; on a
     /// full disk the file contains a part of the document or nothing.

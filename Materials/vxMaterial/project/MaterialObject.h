@@ -24,8 +24,8 @@ namespace Mat {
 
 /// One material of a material project: a node of the project tree that the user edits in the material editor.
 ///
-/// The object owns one CMaterial as long as it exists. The host has access to its id, class and label only; the properties
-/// of the material are not host properties.
+/// The object owns one CMaterial as long as it exists. The host has access to its id, class and label only; the
+/// properties of the material are not host properties.
 class VXMATERIAL_EXPORT MaterialObject : public Obj::ProjectObject
 {
     OBJ_CLASS;
@@ -51,8 +51,8 @@ public:
     vxMat::CMaterial* getCMaterial() const { return material.get(); }
     /// Copies `source`, which must not be null, into the material, as CMaterial::copyFrom does.
     void setCMaterial(const vxMat::MaterialBase* source);
-    /// Copies structural steel into the material if the type is eMaterialType::StructuralSteel; leaves the material unchanged
-    /// for every other type. Calls check_input in both cases.
+    /// Copies structural steel into the material if the type is eMaterialType::StructuralSteel; leaves the material
+    /// unchanged for every other type. Calls check_input in both cases.
     void initCMaterial(vxMat::eMaterialType type);
     /// Returns the database of the project of the object. The object must be in a project, which must be a
     /// DocumentMaterial.
@@ -62,11 +62,11 @@ public:
     void setRowCounts(int count) { rowCounts = count; }
     int getColumnCounts() const { return columnCounts; }
 
-    /// Returns whether the material has properties and the number of each of them is greater than 0. If not, shows the first
-    /// fault in a message box, or writes it to the message log in a program without windows.
+    /// Returns whether the material has properties and the number of each of them is greater than 0. If not, shows the
+    /// first fault in a message box, or writes it to the message log in a program without windows.
     ///
-    /// The check includes the numbers of words and lists, which are 0, and therefore refuses materials with such properties.
-    /// vxMat::checkMaterial has the rules that take the quantities into account.
+    /// The check includes the numbers of words and lists, which are 0, and therefore refuses materials with such
+    /// properties. vxMat::checkMaterial has the rules that take the quantities into account.
     bool check_input_data();
 
     /// Returns true and writes nothing: single materials are not exported.

@@ -315,7 +315,7 @@ TEST_F(ProjectStore, LeavesTheFileUnchangedIfItsFolderIsReadOnly)
     ASSERT_EQ(chmod(QFile::encodeName(file).constData(), 0666), 0);
     ASSERT_EQ(chmod(QFile::encodeName(shut).constData(), 0555), 0);
     ASSERT_EQ(chmod(QFile::encodeName(folder().path()).constData(), 0755), 0);
-    // Permissions do not bind root.
+    // Root may write to every file and folder, so another user saves.
     constexpr uid_t nobody = 65534;
     const auto becomeSomebody = [] { return geteuid() != 0 || setuid(nobody) == 0; };
     EXPECT_EQ(saveElsewhere(file, "new", becomeSomebody), Saving::Failed);

@@ -181,7 +181,7 @@ TEST(Schema, RefusesInvalidProjects)
                                                                        "\"new\": [], "
                                                                        "\"held_as\": 4"))}),
               "")
-        << "what is not known is kept";
+        << "unknown members are kept";
 }
 
 TEST(Schema, RefusesInvalidDocuments)

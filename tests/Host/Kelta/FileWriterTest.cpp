@@ -57,7 +57,7 @@ TEST_F(FileWriterTest, LeavesAnEarlierFileWhenItIsDestroyedBeforeCommit)
         writer.xml().writeStartElement(element);
     }
     EXPECT_EQ(vxtest::readFile(m_path), "earlier");
-    EXPECT_EQ(files(), QStringList{"out.xml"}) << "nothing is left behind";
+    EXPECT_EQ(files(), QStringList{"out.xml"}) << "no temporary file is left";
 }
 
 TEST_F(FileWriterTest, LeavesAnEarlierFileWholeWhenTheDiskIsFull)

@@ -34,7 +34,7 @@ TEST(MessageLog, CountsErrorsAlone)
     MessageLog::error(QStringLiteral("three"));
     EXPECT_EQ(MessageLog::instance().errorCount(), before + 1);
     MessageLog::instance().clear();
-    EXPECT_EQ(MessageLog::instance().errorCount(), before + 1) << "what happened stays counted";
+    EXPECT_EQ(MessageLog::instance().errorCount(), before + 1) << "cleared errors are still counted";
     EXPECT_TRUE(MessageLog::instance().messages().empty());
 }
 

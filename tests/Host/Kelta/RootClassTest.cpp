@@ -46,7 +46,7 @@ TEST(RootClass, CreatesNothingOfAClassThatIsNotRegistered)
     EXPECT_EQ(RootClass::createByName("Test::Nail"), nullptr);
     EXPECT_EQ(RootClass::createByName(""), nullptr);
     EXPECT_EQ(RootClass::createByName(nullptr), nullptr);
-    EXPECT_EQ(RootClass::createByName("Kelta::RootClass"), nullptr) << "it is not made this way";
+    EXPECT_EQ(RootClass::createByName("Kelta::RootClass"), nullptr) << "the root class cannot be created";
 }
 
 TEST(RootClass, LetsThroughWhatAConstructorThrows)
@@ -80,8 +80,8 @@ TEST(RootClass, RefusesAnotherClassUnderTheSameName)
     RootClass::initSubclass(other, "Test::Screw", "Kelta::RootClass", &createOther);
     EXPECT_EQ(reports.errors(), 1);
     EXPECT_THAT(reports.text(), HasSubstr("\"Test::Screw\" cannot be registered: another class has this name"));
-    EXPECT_FALSE(other.namesAType()) << "it must not be taken for the class that has the name";
-    EXPECT_NE(RootClass::createByName("Test::Screw"), nullptr) << "the first one stays";
+    EXPECT_FALSE(other.namesAType()) << "it must not be mistaken for the registered class";
+    EXPECT_NE(RootClass::createByName("Test::Screw"), nullptr) << "the first class stays registered";
 }
 
 TEST(RootClass, RefusesTheSameClassUnderAnotherParent)

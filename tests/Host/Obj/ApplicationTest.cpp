@@ -140,7 +140,7 @@ TEST_F(ApplicationTest, MakesTheLastOneCurrentWhenTheCurrentOneIsClosed)
     EXPECT_TRUE(application().closeProject(b));
     EXPECT_EQ(Application::get_current_project(), &c);
     EXPECT_TRUE(application().closeProject(a));
-    EXPECT_EQ(Application::get_current_project(), &c) << "the current one stays it";
+    EXPECT_EQ(Application::get_current_project(), &c) << "it stays the current project";
     EXPECT_TRUE(application().closeProject(c));
     EXPECT_EQ(Application::get_current_project(), nullptr);
 }

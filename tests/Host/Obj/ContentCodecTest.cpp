@@ -30,7 +30,7 @@ TEST_F(ContentCodecTest, IsFoundForAClassAndForThoseThatDescendFromIt)
     ASSERT_NE(ofParts, nullptr);
     EXPECT_EQ(Obj::findContentCodec(vxtest::Joint::getClassTypeId()), ofParts);
     Obj::registerContentCodec("vxtest::Joint", widthCodec("joint"));
-    EXPECT_NE(Obj::findContentCodec(vxtest::Joint::getClassTypeId()), ofParts) << "it has one itself now";
+    EXPECT_NE(Obj::findContentCodec(vxtest::Joint::getClassTypeId()), ofParts) << "the class has its own codec now";
 }
 
 TEST_F(ContentCodecTest, CarriesContentFromOneObjectToAnother)

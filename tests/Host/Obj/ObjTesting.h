@@ -47,7 +47,7 @@ public:
     void on_project_restored() override;
     Obj::eVXObjectState check_input() override;
 
-    /// The notes of the class, cleared for each test.
+    /// Returns the settings and records of the class, which are cleared for each test.
     static PartHooks& hooks();
     static int count();
 

@@ -180,7 +180,7 @@ TEST_F(ProjectObjectGroupTest, HasItsMembersBackWhenItComesBack)
     other.addMember(b);
     m_assembly.restoreObject(std::move(away));
     EXPECT_EQ(a.getParentGroup(), &group);
-    EXPECT_EQ(b.getParentGroup(), &other) << "it is in the group that took it last";
+    EXPECT_EQ(b.getParentGroup(), &other) << "it is in the last group to which it was added";
     EXPECT_THAT(namesOf(group.getMembers()), ElementsAre("a"));
 }
 

@@ -164,7 +164,7 @@ TEST_F(ProjectObjectTest, UnlinksOneDirectionAndLeavesTheOther)
     EXPECT_THAT(a.getNeededObjects(), IsEmpty());
     EXPECT_THAT(namesOf(b.getNeededObjects()), ElementsAre("a"));
     a.unlinkFrom(b);
-    EXPECT_EQ(Part::hooks().calls.size(), 1U) << "there is no link any more to be broken";
+    EXPECT_EQ(Part::hooks().calls.size(), 1U) << "the link was removed already";
 }
 
 TEST_F(ProjectObjectTest, KeepsItsLinksWhileOneOfTheTwoIsAwayForUndo)
@@ -182,7 +182,7 @@ TEST_F(ProjectObjectTest, KeepsItsLinksWhileOneOfTheTwoIsAwayForUndo)
     EXPECT_THAT(namesOf(a.getNeededObjects()), ElementsAre("b"));
 
     away = assembly.takeObject(a.getObjectId());
-    EXPECT_EQ(Part::hooks().calls.back(), "restored b") << "who needs nobody is not told";
+    EXPECT_EQ(Part::hooks().calls.back(), "restored b") << "an object that needs no other object is not notified";
     EXPECT_THAT(b.get_linked_objects(), IsEmpty());
     assembly.restoreObject(std::move(away));
     EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));

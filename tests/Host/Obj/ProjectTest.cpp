@@ -70,7 +70,7 @@ TEST_F(ProjectTest, MakesANameUniqueThatIsTakenOrEmpty)
     m_assembly.addPart("");
     EXPECT_THAT(names(), ElementsAre("Bolt", "Bolt1", "Object", "Bolt2", "Object1"));
     EXPECT_EQ(m_assembly.get_unique_object_name("Bolt"), "Bolt3");
-    EXPECT_EQ(m_assembly.get_unique_object_name("Bolt"), "Bolt4") << "each is answered once";
+    EXPECT_EQ(m_assembly.get_unique_object_name("Bolt"), "Bolt4") << "each name is returned once";
 }
 
 TEST_F(ProjectTest, TakesAnyTextAsAName)
@@ -101,7 +101,7 @@ TEST_F(ProjectTest, AddsNothingOfAClassThatIsNotRegisteredOrNoObject)
     EXPECT_EQ(m_assembly.add_object("Test::Nobody", "a"), nullptr);
     EXPECT_EQ(m_assembly.add_object(nullptr, "a"), nullptr);
     EXPECT_EQ(m_assembly.add_object("vxtest::Assembly", "a"), nullptr);
-    EXPECT_EQ(m_assembly.add_object("Obj::ProjectObject", "a"), nullptr) << "a class that makes none";
+    EXPECT_EQ(m_assembly.add_object("Obj::ProjectObject", "a"), nullptr) << "a class that creates no objects";
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_THAT(reports.text(), HasSubstr("No object of class \"Test::Nobody\" was added to the project \"Assembly\": "
                                           "this class is not known."));
@@ -131,7 +131,7 @@ TEST_F(ProjectTest, TakesAnObjectBackThatCannotBeConfigured)
     EXPECT_EQ(Part::count(), 0);
     EXPECT_EQ(m_assembly.get_object("a"), nullptr);
     Part::hooks().configuringThrows = false;
-    EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 2U) << "the id was handed out";
+    EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 2U) << "the id has been used";
 }
 
 TEST_F(ProjectTest, ConfiguresAnObjectBeforeListenersAreTold)
@@ -204,7 +204,7 @@ TEST_F(ProjectTest, RefusesIdsBeyond32Bits)
 {
     const vxtest::Reports reports;
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 4294967296), nullptr);
-    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 4294967297), nullptr) << "it must not pass for 1";
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 4294967297), nullptr) << "it must not be cut to 1";
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a", 0), nullptr);
     EXPECT_EQ(reports.errors(), 3);
     EXPECT_THAT(reports.text(), HasSubstr("\"a\""));
@@ -224,8 +224,8 @@ TEST_F(ProjectTest, AddsNothingWhenAllIdsAreUsedUp)
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr);
     EXPECT_THAT(reports.text(), HasSubstr("all ids are used up"));
     EXPECT_TRUE(m_assembly.removeObject(4294967295U));
-    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr) << "also when there is room again";
-    EXPECT_NE(m_assembly.add_object("vxtest::Part", "more", 17), nullptr) << "one that was left out may be asked for";
+    EXPECT_EQ(m_assembly.add_object("vxtest::Part", "more"), nullptr) << "also if an id is free again";
+    EXPECT_NE(m_assembly.add_object("vxtest::Part", "more", 17), nullptr) << "a skipped id can be requested";
 }
 
 TEST_F(ProjectTest, LeavesOutIds)
@@ -234,7 +234,7 @@ TEST_F(ProjectTest, LeavesOutIds)
     m_assembly.skipObjectIds(5);
     EXPECT_EQ(m_assembly.getNextObjectId(), 10U);
     EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 10U);
-    EXPECT_NE(m_assembly.add_object("vxtest::Part", "b", 9), nullptr) << "it comes from a file";
+    EXPECT_NE(m_assembly.add_object("vxtest::Part", "b", 9), nullptr) << "a skipped id can be requested, as by a file";
 }
 
 TEST_F(ProjectTest, RefusesANameThatIsTakenOrEmptyForAnObjectWithAnId)
@@ -368,7 +368,7 @@ TEST_F(ProjectTest, IsClosedWhileItsObjectsAreObserved)
         part.label.setValue("last words");
     });
     EXPECT_TRUE(application().closeProject(m_assembly));
-    EXPECT_EQ(calls, 1) << "the last words, and nothing while it is destroyed";
+    EXPECT_EQ(calls, 1) << "one for the label, none during the destruction";
     EXPECT_FALSE(added.connected());
 }
 
@@ -467,7 +467,7 @@ TEST_F(ProjectTest, ReturnsNoObjectThatAListenerHasRemoved)
     m_assembly.objectAdded.connect([&told](ProjectObject& object) { told.emplace_back(object.get_name_in_project()); });
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "a"), nullptr);
     EXPECT_EQ(m_assembly.add_object("vxtest::Part", "b", 7), nullptr);
-    EXPECT_THAT(told, ElementsAre("a", "b")) << "the next listener is told of an object that is still whole";
+    EXPECT_THAT(told, ElementsAre("a", "b")) << "the next listener gets a complete object";
     EXPECT_EQ(m_assembly.getObjectCount(), 0U);
     EXPECT_EQ(Part::count(), 0);
 }

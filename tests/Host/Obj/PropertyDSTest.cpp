@@ -89,7 +89,7 @@ TEST_F(PropertyDSTest, KnowsAPropertyOnceThatADerivedClassRegistersAgain)
     EXPECT_EQ(properties.size(), 5U);
     EXPECT_STREQ(special.get_property_group("Width"), "Special");
     EXPECT_EQ(special.get_property_type(&special.width), 9);
-    EXPECT_STREQ(m_part.get_property_group("Width"), "Size") << "others are as they were";
+    EXPECT_STREQ(m_part.get_property_group("Width"), "Size") << "other objects are unchanged";
 }
 
 /// The base class without overrides.

@@ -20,7 +20,7 @@ using vxtest::Joint;
 using vxtest::namesOf;
 using vxtest::Part;
 
-/// Whole numbers are equal in JSON, whatever their types in memory.
+/// Returns the JSON text. In it, equal whole numbers of different types in memory are the same.
 std::string textOf(const Json::Value& json)
 {
     return json.toStyledString();

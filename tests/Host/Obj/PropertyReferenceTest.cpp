@@ -51,7 +51,7 @@ TEST_F(PropertyReferenceTest, IsReadFromTextAndJson)
     EXPECT_TRUE(m_joint.first.fromText("Nut"));
     EXPECT_EQ(m_joint.first.getValue(), &m_nut);
     EXPECT_FALSE(m_joint.first.fromText("Washer"));
-    EXPECT_EQ(m_joint.first.getValue(), &m_nut) << "it stays as it was";
+    EXPECT_EQ(m_joint.first.getValue(), &m_nut) << "it is unchanged";
     EXPECT_TRUE(m_joint.first.fromText(""));
     EXPECT_EQ(m_joint.first.getValue(), nullptr);
     EXPECT_TRUE(m_joint.first.fromJson(m_bolt.getObjectId()));

@@ -33,7 +33,7 @@ TEST_F(RemovalTest, WaitsForTheLastGuard)
             EXPECT_TRUE(RemovalGuard::isDoomed(part));
         }
         EXPECT_EQ(Part::count(), 1);
-        EXPECT_STREQ(part.get_name_in_project(), "Bolt") << "it is still whole";
+        EXPECT_STREQ(part.get_name_in_project(), "Bolt") << "it is still complete";
         EXPECT_EQ(part.get_project(), nullptr);
     }
     EXPECT_EQ(Part::count(), 0);

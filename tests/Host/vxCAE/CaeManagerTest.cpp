@@ -67,7 +67,7 @@ TEST(CaeManager, MovesASetThatItIsGivenForAnotherProject)
     manager.setCAE(1, set);
     manager.setCAE(2, set);
     EXPECT_EQ(destroyed, 0);
-    EXPECT_EQ(manager.getCAE(1), nullptr) << "it has one owner, and one place";
+    EXPECT_EQ(manager.getCAE(1), nullptr) << "the set belongs to one project only";
     EXPECT_EQ(manager.getCAE(2), set);
 }
 

@@ -33,7 +33,7 @@ TEST_F(ListenerTest, MayCloseTheProjectDirectlyWhenAskedWhetherItMayClose)
     proxy().projectClosing.connect([&told](Obj::Project& project, bool&) { told.emplace_back(project.get_name()); });
     const vxtest::Reports reports;
     EXPECT_FALSE(closeProject("Machine"));
-    EXPECT_THAT(told, ElementsAre("Machine")) << "the next listener is told of a project that is still whole";
+    EXPECT_THAT(told, ElementsAre("Machine")) << "the next listener gets a complete project";
     EXPECT_THAT(reports.text(), HasSubstr("\"Machine\" was closed while its listeners were asked"));
     EXPECT_THAT(projects(), IsEmpty());
     EXPECT_EQ(stack().count(), 0);
@@ -245,7 +245,7 @@ TEST_F(ListenerTest, EndsTheHistoryIfItDestroysAnObjectThatARequestDeletes)
     Part::hooks().removesItselfWithWhatItNeeds = true;
     EXPECT_TRUE(remove("a"));
     EXPECT_THAT(names(), IsEmpty());
-    EXPECT_EQ(stack().count(), 0) << "the past cannot be restored";
+    EXPECT_EQ(stack().count(), 0) << "the changes cannot be undone any more";
 }
 
 TEST_F(ListenerTest, EndsTheHistoryIfItClosesAProjectDuringAnUndo)
@@ -406,7 +406,7 @@ private:
     {
         const auto touch = [this](ProjectObject& object, auto&&...) {
             m_mischief.doSomething();
-            // The argument is complete, whatever the other listeners changed.
+            // The argument is complete in spite of all changes of the other listeners.
             static_cast<void>(object.label.getValue().size() + object.get_linked_objects().size());
         };
         project.objectAdded.connect(touch);

@@ -63,7 +63,7 @@ TEST_F(MessageProxyTest, BringsBackTheVeryProjectWhenItsClosingIsUndone)
     EXPECT_EQ(application().get_project("Machine"), m_project);
     EXPECT_EQ(m_project->get_object("Bolt"), &bolt);
     stack().undo();
-    EXPECT_THAT(names(), IsEmpty()) << "what was before can be undone too";
+    EXPECT_THAT(names(), IsEmpty()) << "earlier steps can be undone too";
     stack().redo();
     stack().redo();
     EXPECT_THAT(projects(), IsEmpty());
@@ -113,11 +113,11 @@ TEST_F(MessageProxyTest, AddsAnObjectThatUndoTakesAwayAndRedoBringsBack)
     bolt.width.setValue(21);
     stack().undo();
     EXPECT_THAT(names(), IsEmpty());
-    EXPECT_EQ(bolt.get_project(), nullptr) << "it is kept";
+    EXPECT_EQ(bolt.get_project(), nullptr) << "the object is outside the project, but exists";
     stack().redo();
     EXPECT_EQ(m_project->get_object("Bolt"), &bolt);
     EXPECT_EQ(bolt.getObjectId(), 1U);
-    EXPECT_EQ(bolt.width.getValue(), 21) << "with what it had become";
+    EXPECT_EQ(bolt.width.getValue(), 21) << "with its changed value";
 }
 
 TEST_F(MessageProxyTest, BringsBackTheVeryObjectWhenADeletionIsUndone)
@@ -147,7 +147,7 @@ TEST_F(MessageProxyTest, NeverGivesAnIdTwiceThroughUndoAndRedo)
     part("a");
     part("b");
     stack().undo();
-    EXPECT_EQ(part("c").getObjectId(), 3U) << "the redo of b is gone, but not its id";
+    EXPECT_EQ(part("c").getObjectId(), 3U) << "the redo of b is lost, but its id is still used";
     EXPECT_TRUE(remove("c"));
     stack().undo();
     stack().redo();
@@ -178,7 +178,7 @@ TEST_F(MessageProxyTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndAl
 
     for (int i = 0; i < count; ++i)
         stack().undo();
-    EXPECT_EQ(m_project->getObjects(), objects) << "the very objects, in the same order";
+    EXPECT_EQ(m_project->getObjects(), objects) << "the same objects, in the same order";
     EXPECT_EQ(names(), namesBefore);
     for (std::size_t i = 0; i < objects.size(); ++i) {
         ASSERT_EQ(objects[i]->getObjectId(), i + 1);
@@ -186,7 +186,7 @@ TEST_F(MessageProxyTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndAl
         ASSERT_EQ(m_project->get_object(namesBefore[i]), objects[i]);
     }
     stack().setIndex(0);
-    EXPECT_EQ(m_project->getObjectCount(), 0U) << "their creation undone too";
+    EXPECT_EQ(m_project->getObjectCount(), 0U) << "their creation is undone too";
     EXPECT_EQ(part("next").getObjectId(), 10001U);
 }
 
@@ -230,7 +230,7 @@ TEST_F(MessageProxyTest, TellsOnceOfAnObjectThatARequestMade)
     stack().undo();
     EXPECT_EQ(made.size(), 1U);
     m_project->add_object("vxtest::Part", "direct");
-    EXPECT_EQ(made.size(), 1U) << "nobody requested it";
+    EXPECT_EQ(made.size(), 1U) << "there was no request for it";
 }
 
 TEST_F(MessageProxyTest, TellsOnceOfAProjectThatARequestMade)
@@ -289,7 +289,7 @@ TEST_F(MessageProxyTest, WatchesAProjectOnceThatWasAwayAndCameBack)
     EXPECT_TRUE(closeProject("Machine"));
     stack().undo();
     m_project->add_object("vxtest::Part", "b");
-    EXPECT_EQ(stack().count(), 2) << "the closing can be redone no more";
+    EXPECT_EQ(stack().count(), 2) << "the closing cannot be redone any more";
     stack().undo();
     EXPECT_THAT(names(), ElementsAre("a"));
 }
@@ -419,7 +419,7 @@ TEST_F(MessageProxyTest, LeavesNoTraceOfAGroupInWhichNothingHappens)
         EXPECT_FALSE(remove("Nobody"));
     }
     EXPECT_EQ(stack().count(), 1);
-    EXPECT_TRUE(stack().canRedo()) << "not even the redo is gone";
+    EXPECT_TRUE(stack().canRedo()) << "an empty group keeps the redo";
 }
 
 TEST_F(MessageProxyTest, NamesNestedGroupsByTheOutermost)
@@ -461,7 +461,7 @@ TEST_F(MessageProxyTest, EndsTheHistoryBehindAGroupInWhichAnObjectIsDestroyed)
     EXPECT_EQ(stack().count(), 0);
     EXPECT_THAT(names(), ElementsAre("Bolt"));
     part("Washer");
-    EXPECT_EQ(stack().count(), 1) << "and begins anew";
+    EXPECT_EQ(stack().count(), 1) << "a new history begins";
 }
 
 TEST_F(MessageProxyTest, UndoesWhatListenersAddBecauseOfARequestWithIt)
@@ -621,7 +621,7 @@ TEST_F(MessageProxyTest, FindsNodesByTheirFinder)
     stack().undo();
     EXPECT_EQ(node.width.getValue(), 7);
     EXPECT_TRUE(remove("Bolt"));
-    EXPECT_EQ(place.find(), nullptr) << "a node goes with its object";
+    EXPECT_EQ(place.find(), nullptr) << "a node is removed with its object";
 }
 
 TEST_F(MessageProxyTest, RecordsAChangeThoughTheObjectFailsAtIt)
@@ -647,7 +647,7 @@ TEST_F(MessageProxyTest, SuppressesAnObjectInOneStep)
     EXPECT_TRUE(bolt.isSuppressed());
     EXPECT_EQ(stack().undoText(), QStringLiteral("Suppress \"Bolt\""));
     EXPECT_TRUE(proxy().setSuppressed(bolt, true));
-    EXPECT_EQ(stack().count(), 2) << "it was so already";
+    EXPECT_EQ(stack().count(), 2) << "it was suppressed already";
     stack().undo();
     EXPECT_FALSE(bolt.isSuppressed());
     stack().redo();
@@ -753,8 +753,8 @@ TEST_F(MessageProxyTest, CanStillUndoWhatIsAddedElsewhereWhileAProjectIsOpened)
     EXPECT_EQ(stack().count(), 1);
     EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"Elsewhere\""));
     stack().undo();
-    EXPECT_THAT(names(), ElementsAre("Bolt")) << "the history before has ended";
-    EXPECT_EQ(opened->getObjectCount(), 1U) << "what came with the project stays";
+    EXPECT_THAT(names(), ElementsAre("Bolt")) << "the earlier history has ended";
+    EXPECT_EQ(opened->getObjectCount(), 1U) << "the objects of the opened project stay";
 }
 
 } // namespace

@@ -20,8 +20,9 @@ struct ShownBox
     const QWidget* parent;
 };
 
-/// Clicks the same button in every message box that opens, or closes the box if it has no such button. Discard also means
-/// a button of the box's own that has the destructive role. Records the content of the boxes. The destructor ends this.
+/// Clicks the same button in every message box that opens, or closes the box if it has no such button. Discard also
+/// means a button of the box's own that has the destructive role. Records the content of the boxes. The destructor ends
+/// this.
 class MessageBoxes : public QObject
 {
 public:

@@ -18,16 +18,16 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
     ~FailingAllocation();
 
-    /// Whether the allocation has failed.
+    /// Returns whether the allocation has failed.
     bool hasFailed() const;
 };
 
 /// Returns the number of memory blocks that the program has allocated and not freed.
 long blocksInUse();
 
-/// Calls `action` with its first allocation failing, then with its second, and so on, until `action` makes fewer
-/// allocations. With a failing allocation, `action` must throw std::bad_alloc; then calls `check`. Returns the number
-/// of failed allocations.
+/// Calls `action` repeatedly. In the first call the first allocation fails, in the second call the second one, and so
+/// on, until `action` makes fewer allocations. If an allocation fails, `action` must throw std::bad_alloc; the function
+/// then calls `check`. Returns the number of failed allocations.
 template <class Action, class Check>
 int failEachAllocationOf(const Action& action, const Check& check)
 {

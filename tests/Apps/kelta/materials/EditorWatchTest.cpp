@@ -174,7 +174,7 @@ TEST_F(UnappliedEdits, AreForgottenWhenTheHistoryEnds)
     type(edit(steel), modulus, "7e10");
     select({&steel});
     EXPECT_TRUE(run("Mat_Delete"));
-    EXPECT_EQ(project.objectAdded.num_slots(), listeners + 1) << "they wait for the material";
+    EXPECT_EQ(project.objectAdded.num_slots(), listeners + 1) << "the edits wait for the material";
     history().clear();
     EXPECT_EQ(project.objectAdded.num_slots(), listeners);
 }

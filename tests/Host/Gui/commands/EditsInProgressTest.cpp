@@ -227,7 +227,7 @@ TEST_F(EditsInProgress, ThatFailAreReportedAndStopNothing)
     EXPECT_TRUE(vxtest::waitFor([this] { return window->getMdiWindows().isEmpty(); }));
 }
 
-/// Undo and Redo beside a document with its own edits. One change of the object can be undone too.
+/// Undo and Redo while a document has its own edits. One change of the object can be undone too.
 class DocumentUndo : public EditsInProgress
 {
 protected:

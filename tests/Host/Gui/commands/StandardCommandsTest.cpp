@@ -26,7 +26,7 @@ protected:
     {
         return selection().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
     }
-    /// Presses the keys of a command while the tree has the keyboard.
+    /// Presses the keys of a command while the tree has the keyboard focus.
     void press(const char* command) const
     {
         window->updateCommands();

@@ -22,7 +22,7 @@ using vxtest::json;
 using vxtest::makeEntry;
 using vxtest::written;
 
-/// A material that counts how many of its kind are alive.
+/// A material that counts the existing objects of its class.
 class CountedMaterial : public vxMat::CMaterial
 {
 public:

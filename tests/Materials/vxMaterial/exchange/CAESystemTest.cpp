@@ -86,7 +86,7 @@ TEST(CAESystem, LosesItsDeformTypeWhenWrittenAndReadBack)
     EXPECT_EQ(system.deform_type, 0);
 }
 
-/// Returns a system with settings of its own for modal and spectrum analyses.
+/// Returns a system with different settings for modal and spectrum analyses.
 CAESystem withSettings()
 {
     CAESystem system;

@@ -964,7 +964,7 @@ TEST_F(ClosingEditors, HaveOneQuestionOpenAtATime)
     EXPECT_TRUE(run("Std_CloseAllWindows"));
     QCoreApplication::processEvents();
     EXPECT_THAT(window->findChildren<QMessageBox*>(), SizeIs(1));
-    EXPECT_THAT(window->getMdiWindows(), SizeIs(3)) << "the one without changes is closed";
+    EXPECT_THAT(window->getMdiWindows(), SizeIs(3)) << "the window without changes is closed";
 }
 
 TEST_F(ClosingEditors, StayOpenFromTheOneOnWhoseQuestionIsCancelled)
@@ -1140,7 +1140,7 @@ TEST_F(Commands, ExportSurvivesTheClosingOfTheProjectWhileTheDialogIsOpen)
             makeProject("Other");
         },
         [] { EXPECT_TRUE(run("Mat_Export")); });
-    EXPECT_FALSE(QFile::exists(path)) << "the other project was not what the user exported";
+    EXPECT_FALSE(QFile::exists(path)) << "the user did not export the other project";
 }
 
 TEST_F(Commands, ImportAsksForAFile)

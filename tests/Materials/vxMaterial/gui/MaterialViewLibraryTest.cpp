@@ -85,7 +85,8 @@ TEST(MaterialViewLibrary, PickedAndAppliedGivesWhatItsRowsSay)
         std::map<int, Held> held;
         for (const auto& property : expected.properties) {
             const int id = std::stoi(classes.at(property[1])[1]);
-            // The acoustic materials show their speed of sound as a second density; of the two rows the last one counts.
+            // The acoustic materials show their speed of sound as a second density; of the two rows the last one
+            // counts.
             const bool twice = expected.group == "7";
             const std::string value = twice ? editor.cell(editor.rowCount() - 1, 2).toStdString() : property[2];
             held[id] = read(id, value);

@@ -20,7 +20,7 @@ using vxMat::CMaterial;
 using vxMat::MaterialBase;
 using vxMat::MaterialProperty;
 
-/// A property that counts how many of its kind are alive.
+/// A property that counts the existing objects of its class.
 class CountedProperty : public MaterialProperty
 {
 public:

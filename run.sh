@@ -6,9 +6,9 @@ set -euo pipefail
 here=$PWD
 cd "$(dirname "$0")"
 
-scripts/install-packages.sh
-scripts/build.sh default vxmat kelta
-bin=$PWD/build/default/bin
+scripts/install-packages.sh build
+scripts/build.sh release vxmat kelta
+bin=$PWD/build/release/bin
 
 if [ $# -gt 0 ]; then
     cd "$here"
@@ -37,6 +37,6 @@ fi
 "$bin/kelta" --batch examples/tour.batch >out/tour.txt 2>out/tour-notes.txt || { cat out/tour-notes.txt >&2; exit 1; }
 echo
 echo "No display: examples/tour.batch made a material project, added and checked two materials, and wrote"
-echo "out/tour.vxmat: the project, for build/default/bin/kelta; out/tour.json: the document for the solver;"
+echo "out/tour.vxmat: the project, for build/release/bin/kelta; out/tour.json: the document for the solver;"
 echo "out/tour.png: a picture of the main window; out/tour.txt: the cards and the database record."
 echo "\"./run.sh --help\" lists the subcommands of the command-line tool."

@@ -3,6 +3,6 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-scripts/install-packages.sh
+scripts/install-packages.sh build test measure
 scripts/build.sh default
 ctest --preset default "$@"

@@ -23,12 +23,17 @@ if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
         ${VX_CCACHE})
 endif()
 
-# One folder for all programs and one folder for all libraries: programs find the libraries by a relative path.
+# One folder for all programs and one folder for all libraries, as in an installed copy: programs find the libraries by
+# a path relative to their own. The paths are the same in the build tree and in an installed copy, because CMake would
+# otherwise fill up the shorter one with empty elements, and the loader takes an empty element for the current folder.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 include(GNUInstallDirs)
 file(RELATIVE_PATH VX_LIB_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${VX_LIB_FROM_BIN}")
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib" "$ORIGIN/${VX_LIB_FROM_BIN}")
+list(REMOVE_DUPLICATES CMAKE_INSTALL_RPATH)
 
 add_library(vx_options INTERFACE)
 target_compile_options(vx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)

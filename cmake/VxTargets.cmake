@@ -33,7 +33,7 @@ function(vx_add_library target)
     target_link_libraries(${target} PUBLIC ${arg_PUBLIC_LINKS} PRIVATE ${arg_PRIVATE_LINKS} $<BUILD_INTERFACE:vx_options>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     # Before version 1, each minor version may break dependents. The version file of the package follows this rule too.
-    set_target_properties(${target} PROPERTIES AUTOMOC ON
+    set_target_properties(${target} PROPERTIES AUTOMOC ON INSTALL_RPATH "$ORIGIN"
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
     set_target_properties(${target} PROPERTIES VX_PUBLIC_HEADERS "${headers}" VX_INCLUDE_PATH ${arg_INCLUDE_PATH})

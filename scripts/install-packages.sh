@@ -1,11 +1,25 @@
 #!/usr/bin/env bash
-# Installs the missing packages of packaging/debian-packages.txt, with sudo if the user is not root. Asks no questions.
-# Does nothing if all packages are installed.
+# Installs the missing packages of sections of packaging/debian-packages.txt, with sudo if the user is not root:
+# install-packages.sh SECTION... Asks no questions. Does nothing if all packages are installed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 list=packaging/debian-packages.txt
-mapfile -t packages < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$list")
+[ $# -gt 0 ] || { echo "Usage: scripts/install-packages.sh SECTION... (the sections of $list)" >&2; exit 2; }
+
+# packages_of SECTION: prints the packages of a section; fails if there is no such section or if it is empty.
+packages_of() {
+    sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$list" | awk -v header="[$1]" '
+        /^\[/ { inside = ($0 == header); next }
+        inside { print; found = 1 }
+        END { exit !found }' || { echo "$list has no packages in a section [$1]." >&2; return 2; }
+}
+
+packages=()
+for section in "$@"; do
+    text=$(packages_of "$section")
+    mapfile -t -O "${#packages[@]}" packages <<<"$text"
+done
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     echo "This system has no apt-get, so missing packages cannot be installed." >&2

@@ -31,7 +31,7 @@ OwnedProject makeProject(const char* className)
     else if (void* const created = type.create())
         return OwnedProject(static_cast<Project*>(static_cast<Kelta::RootClass*>(created)));
     else
-        reason = tr("the class created none");
+        reason = tr("the class cannot create objects");
     Kelta::MessageLog::error(tr("No project of class \"%1\" was made: %2.")
                                  .arg(QString::fromUtf8(className != nullptr ? className : ""), reason));
     return nullptr;
@@ -163,7 +163,7 @@ void Application::giveFreeName(Project& project)
     if (get_project(project.m_name) == nullptr)
         return;
     std::string name = get_unique_project_name(project.m_name);
-    Kelta::MessageLog::warning(tr(R"(The project "%1" came back as "%2": another one has its name.)")
+    Kelta::MessageLog::warning(tr("The project \"%1\" was restored as \"%2\", because another project has its name.")
                                    .arg(QString::fromStdString(project.m_name), QString::fromStdString(name)));
     project.m_name = std::move(name);
 }

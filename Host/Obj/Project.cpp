@@ -1,5 +1,7 @@
 #include "Obj/Project.h"
 
+#include "ObjectIndex.h"
+
 #include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/ObjectHomes.h"
@@ -47,7 +49,7 @@ std::vector<std::uint32_t> idsOf(const std::vector<ProjectObject*>& objects)
 
 OBJ_REGISTER_ABSTRACT_CLASS(Obj::Project, Obj::PropertyDS)
 
-Project::Project() : m_serial(nextSerial()) {}
+Project::Project() : m_serial(nextSerial()), m_index(std::make_unique<ObjectIndex>()) {}
 
 Project::~Project()
 {
@@ -56,7 +58,7 @@ Project::~Project()
         object->forgetLinks();
     for (const auto& [objectId, object] : m_objects)
         object->m_project = nullptr;
-    m_objectsByName.clear();
+    m_index->clear();
     m_objects.clear();
 }
 
@@ -66,7 +68,7 @@ std::size_t Project::get_memory_usage() const
     constexpr std::size_t perEntry = 3 * sizeof(void*);
     std::size_t bytes = PropertyDS::get_memory_usage() + heapSizeOf(m_name);
     bytes += m_objects.size() * (perEntry + sizeof(Objects::value_type));
-    bytes += m_objectsByName.size() * (perEntry + sizeof(std::string_view));
+    bytes += sizeof(ObjectIndex) + m_index->getMemoryUsage();
     bytes += m_goneObjects.size() * perEntry + m_goneNames.size() * (perEntry + sizeof(std::string));
     for (const auto& [objectId, object] : m_objects)
         bytes += object->get_memory_usage();
@@ -118,14 +120,12 @@ void Project::on_changed(const Property* property)
 
 ProjectObject* Project::get_object(std::uint32_t objectId) const
 {
-    const auto found = m_objects.find(objectId);
-    return found != m_objects.end() ? found->second.get() : nullptr;
+    return m_index->find(objectId);
 }
 
 ProjectObject* Project::get_object(std::string_view name) const
 {
-    const auto found = m_objectsByName.find(name);
-    return found != m_objectsByName.end() ? found->second : nullptr;
+    return m_index->find(name);
 }
 
 std::vector<ProjectObject*> Project::getObjects() const
@@ -144,18 +144,6 @@ std::vector<ProjectObject*> Project::get_objects_of_type(Kelta::TypeInfo type) c
         if (object->is_inherited_from(type))
             objects.push_back(object.get());
     return objects;
-}
-
-/// Gives consecutively numbered names, as most objects have them, adjacent places. With the plain hash
-/// each object of 100,000 costs 0.6 us instead of 0.4 us, because the table is larger than the processor's cache.
-std::size_t Project::NameHash::operator()(std::string_view name) const
-{
-    std::size_t number = 0;
-    for (int digits = 0; digits < 2 && !name.empty() && name.back() >= '0' && name.back() <= '9'; ++digits) {
-        number = 10 * number + static_cast<std::size_t>(name.back() - '0');
-        name.remove_suffix(1);
-    }
-    return std::hash<std::string_view>()(name) + number;
 }
 
 // --- Adding objects ---
@@ -213,7 +201,7 @@ OwnedObject Project::createObject(const char* className) const
     else if (void* const created = type.create())
         return OwnedObject(static_cast<ProjectObject*>(static_cast<Kelta::RootClass*>(created)));
     else
-        reason = tr("the class created none");
+        reason = tr("the class cannot create objects");
     Kelta::MessageLog::error(tr(R"(No object of class "%1" was added to the project "%2": %3.)")
                                  .arg(shown(className != nullptr ? className : ""), shown(m_name), reason));
     return nullptr;
@@ -286,7 +274,7 @@ ProjectObject* Project::insert(OwnedObject object)
     ProjectObject* const inserted = object.get();
     const auto place = m_objects.emplace_hint(m_objects.end(), inserted->m_objectId, nullptr);
     try {
-        m_objectsByName.emplace(inserted->m_name, inserted);
+        m_index->add(*inserted, inserted->m_name);
     } catch (...) {
         m_objects.erase(place);
         throw;
@@ -322,7 +310,7 @@ OwnedObject Project::withdraw(Objects::iterator place)
     m_goneNames.insert(place->second->m_name);
     OwnedObject object(place->second.release());
     m_objects.erase(place);
-    m_objectsByName.erase(object->m_name);
+    m_index->remove(*object, object->m_name);
     object->m_project = nullptr;
     return object;
 }
@@ -332,7 +320,8 @@ ProjectObject* Project::restoreObject(OwnedObject object)
     const RemovalGuard guard;
     if (object == nullptr || object->m_origin != m_serial) {
         Kelta::MessageLog::error(
-            tr("The object that is to come back to the project \"%1\" does not come from it.").arg(shown(m_name)));
+            tr("The object cannot be restored in the project \"%1\", because it does not belong to this project.")
+                .arg(shown(m_name)));
         return nullptr;
     }
     const std::uint32_t objectId = object->m_objectId;
@@ -343,7 +332,7 @@ ProjectObject* Project::restoreObject(OwnedObject object)
     m_goneNames.erase(restored->m_name);
     restored->mendLinks(dependents);
     if (restored->m_project == this)
-        Kelta::guarded(tr("An object failed when it came back"), [restored] { restored->on_project_restored(); });
+        Kelta::guarded(tr("An object failed when it was restored"), [restored] { restored->on_project_restored(); });
     if (restored->m_project == this)
         objectAdded(*restored);
     return ifStillThere(objectId);
@@ -354,8 +343,8 @@ void Project::giveFreeName(ProjectObject& object)
     if (get_object(object.m_name) == nullptr)
         return;
     std::string name = get_unique_object_name(object.m_name);
-    Kelta::MessageLog::warning(
-        tr(R"(The object "%1" came back as "%2": another one has its name.)").arg(shown(object.m_name), shown(name)));
+    Kelta::MessageLog::warning(tr("The object \"%1\" was restored as \"%2\", because another object has its name.")
+                                   .arg(shown(object.m_name), shown(name)));
     object.m_name = std::move(name);
 }
 

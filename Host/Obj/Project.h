@@ -24,6 +24,8 @@
 
 namespace Obj {
 
+class ObjectIndex;
+
 /// A project: a top-level node of the project tree, and the owner of its objects.
 ///
 /// Objects are in the order of their ids, which is the order of their first addition. Ids begin at 1 and
@@ -152,13 +154,8 @@ private:
     std::uint64_t m_serial;
     std::uint32_t m_projectId = 0;
     std::string m_name;
-    // A vector in addition to the map would find an id among 100,000 in 3 ns instead of 0.5 us, which no user notices.
     Objects m_objects;
-    struct NameHash
-    {
-        std::size_t operator()(std::string_view name) const;
-    };
-    std::unordered_map<std::string_view, ProjectObject*, NameHash> m_objectsByName; ///< keys are names in the objects
+    std::unique_ptr<ObjectIndex> m_index; ///< of the objects in m_objects
     std::uint64_t m_nextObjectId = 1;
     // A removed object may return under its id and name, so no other object gets them.
     std::unordered_map<std::uint32_t, std::vector<ProjectObject::Dependent>> m_goneObjects; ///< by id

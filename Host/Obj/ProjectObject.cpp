@@ -133,7 +133,7 @@ bool ProjectObject::linkTo(ProjectObject& other)
         return false;
     if (!isOfSameProject(other)) {
         Kelta::MessageLog::error(
-            tr(R"("%1" cannot be linked to "%2": they are not in one project.)")
+            tr("\"%1\" cannot be linked to \"%2\": both must be in the same project.")
                 .arg(QString::fromStdString(label.getValue()), QString::fromStdString(other.label.getValue())));
         return false;
     }
@@ -308,7 +308,7 @@ std::vector<ProjectObject::Dependent> ProjectObject::breakLinks()
             !hasLink(*link.other, Direction::IsNeededBy))
             continue;
         dependents.push_back(describeDependent(link));
-        Kelta::guarded(tr("An object failed when its link was broken"), [&] {
+        Kelta::guarded(tr("An object failed when its link was removed"), [&] {
             link.other->on_break_object_link(this);
             link.other->notifyReferences(m_objectId);
         });
@@ -329,7 +329,7 @@ void ProjectObject::mendLinks(const std::vector<Dependent>& dependents)
     for (const Dependent& before : dependents) {
         ProjectObject* const dependent = m_project != nullptr ? m_project->get_object(before.objectId) : nullptr;
         if (dependent != nullptr)
-            Kelta::guarded(tr("An object failed when its link came back"),
+            Kelta::guarded(tr("An object failed when its link was restored"),
                            [&] { mendLink(*dependent, *this, before); });
     }
 }

@@ -127,8 +127,8 @@
 <context>
     <name>Gui::CoreEditor</name>
     <message>
-        <source>&quot;%1&quot; cannot be opened: its editor &quot;%2&quot; is missing. The module that has it may not be loaded.</source>
-        <translation>„%1“ kann nicht geöffnet werden: Der Editor „%2“ fehlt. Möglicherweise ist das zugehörige Modul nicht geladen.</translation>
+        <source>&quot;%1&quot; cannot be opened: its editor &quot;%2&quot; is missing. The module of the editor may not be loaded.</source>
+        <translation>„%1“ kann nicht geöffnet werden: Der Editor „%2“ fehlt. Möglicherweise ist das Modul des Editors nicht geladen.</translation>
     </message>
 </context>
 <context>
@@ -141,8 +141,8 @@
 <context>
     <name>Gui::GuiApplication</name>
     <message>
-        <source>Something went wrong</source>
-        <translation>Etwas ist schiefgegangen</translation>
+        <source>An error occurred</source>
+        <translation>Ein Fehler ist aufgetreten</translation>
     </message>
 </context>
 <context>
@@ -235,8 +235,8 @@ Suppressed</source>
 Unterdrückt</translation>
     </message>
     <message>
-        <source>The module for &quot;%1&quot; is not loaded. The data are kept as they are and saved again, but cannot be edited.</source>
-        <translation>Das Modul für „%1“ ist nicht geladen. Die Daten bleiben unverändert und werden wieder gespeichert, können aber nicht bearbeitet werden.</translation>
+        <source>The module for &quot;%1&quot; is not loaded. Its data are saved unchanged, but cannot be edited.</source>
+        <translation>Das Modul für „%1“ ist nicht geladen. Seine Daten werden unverändert gespeichert, können aber nicht bearbeitet werden.</translation>
     </message>
 </context>
 <context>
@@ -283,10 +283,6 @@ Unterdrückt</translation>
         <translation>Kein Projekt ist geöffnet</translation>
     </message>
     <message>
-        <source>Begin with a new project, or open a saved one.</source>
-        <translation>Beginnen Sie mit einem neuen Projekt, oder öffnen Sie ein gespeichertes.</translation>
-    </message>
-    <message>
         <source>The project is empty</source>
         <translation>Das Projekt ist leer</translation>
     </message>
@@ -307,8 +303,12 @@ Unterdrückt</translation>
         <translation>Kein Modul ist geladen</translation>
     </message>
     <message>
-        <source>The messages say which modules could not be loaded, and why.</source>
-        <translation>Die Meldungen sagen, welche Module nicht geladen werden konnten und warum.</translation>
+        <source>Make a new project, or open a saved one.</source>
+        <translation>Legen Sie ein neues Projekt an, oder öffnen Sie ein gespeichertes.</translation>
+    </message>
+    <message>
+        <source>The message log names the modules that could not be loaded, and the reasons.</source>
+        <translation>Das Meldungsprotokoll nennt die Module, die nicht geladen werden konnten, und die Gründe.</translation>
     </message>
 </context>
 <context>
@@ -384,14 +384,6 @@ Unterdrückt</translation>
         <translation>es benötigt Version %1 des Programms, das Version %2 hat</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; in the descriptor is not known; known are %2</source>
-        <translation>„%1“ in der Beschreibung ist unbekannt; bekannt sind %2</translation>
-    </message>
-    <message>
-        <source>&quot;module&quot; in the descriptor is &quot;%1&quot;; the file is not called after it</source>
-        <translation>„module“ in der Beschreibung ist „%1“; die Datei heißt nicht so</translation>
-    </message>
-    <message>
         <source>&quot;library&quot; in the descriptor is &quot;%1&quot;; it must be a file beside the descriptor, without a folder</source>
         <translation>„library“ in der Beschreibung ist „%1“; es muss eine Datei neben der Beschreibung sein, ohne Ordner</translation>
     </message>
@@ -402,6 +394,14 @@ Unterdrückt</translation>
     <message>
         <source>&quot;needs&quot; in the descriptor is not an object of modules with their versions</source>
         <translation>„needs“ in der Beschreibung ist kein Objekt aus Modulen mit ihren Versionen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the descriptor is unknown; the known members are %2</source>
+        <translation>„%1“ in der Beschreibung ist unbekannt; bekannt sind %2</translation>
+    </message>
+    <message>
+        <source>&quot;module&quot; in the descriptor is &quot;%1&quot;, which differs from the name of the file</source>
+        <translation>„module“ in der Beschreibung ist „%1“ und weicht vom Dateinamen ab</translation>
     </message>
 </context>
 <context>
@@ -462,12 +462,12 @@ Unterdrückt</translation>
         <translation>sie hat keinen Namen</translation>
     </message>
     <message>
-        <source>it would descend from itself</source>
-        <translation>sie würde von sich selbst abstammen</translation>
-    </message>
-    <message>
         <source>another class has this name</source>
         <translation>eine andere Klasse hat diesen Namen</translation>
+    </message>
+    <message>
+        <source>it would be derived from itself</source>
+        <translation>sie wäre von sich selbst abgeleitet</translation>
     </message>
 </context>
 <context>
@@ -599,10 +599,6 @@ Unterdrückt</translation>
         <translation>Materialeditor</translation>
     </message>
     <message>
-        <source>Something went wrong: %1</source>
-        <translation>Etwas ist schiefgegangen: %1</translation>
-    </message>
-    <message>
         <source>The changes of &quot;%1&quot; have not been applied.</source>
         <translation>Die Änderungen an „%1“ wurden nicht angewendet.</translation>
     </message>
@@ -633,6 +629,10 @@ Unterdrückt</translation>
     <message>
         <source>Restore changes</source>
         <translation>Änderungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>An error occurred: %1</source>
+        <translation>Ein Fehler ist aufgetreten: %1</translation>
     </message>
 </context>
 <context>
@@ -755,16 +755,8 @@ Möchten Sie fortfahren?</translation>
         <translation>Kein Projekt ist geöffnet</translation>
     </message>
     <message>
-        <source>A material project holds the materials of a model. Begin with a new one, or open a saved one.</source>
-        <translation>Ein Materialprojekt enthält die Materialien eines Modells. Beginnen Sie mit einem neuen, oder öffnen Sie ein gespeichertes.</translation>
-    </message>
-    <message>
         <source>The project has no materials yet</source>
         <translation>Das Projekt hat noch keine Materialien</translation>
-    </message>
-    <message>
-        <source>Add a material; it begins as structural steel, and the editor offers 25 others and every quantity.</source>
-        <translation>Fügen Sie ein Material hinzu; es beginnt als Baustahl, und der Editor bietet 25 andere und alle Größen.</translation>
     </message>
     <message>
         <source>No material is open</source>
@@ -773,6 +765,14 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Double-click a material in the project explorer, or select one and choose Edit.</source>
         <translation>Doppelklicken Sie ein Material im Projektbaum, oder wählen Sie eines aus und dann Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>A material project holds the materials of a model. Make a new one, or open a saved one.</source>
+        <translation>Ein Materialprojekt enthält die Materialien eines Modells. Legen Sie ein neues an, oder öffnen Sie ein gespeichertes.</translation>
+    </message>
+    <message>
+        <source>Add a material. It has the values of structural steel; the editor offers 25 other materials and all quantities.</source>
+        <translation>Fügen Sie ein Material hinzu. Es hat die Werte von Baustahl; der Editor bietet 25 andere Materialien und alle Größen.</translation>
     </message>
 </context>
 <context>
@@ -882,12 +882,12 @@ Möchten Sie fortfahren?</translation>
         <translation>Schreibt die Tabelle in das Material</translation>
     </message>
     <message>
-        <source>Closes the window and leaves the material as it was last applied</source>
-        <translation>Schließt das Fenster und lässt das Material, wie es zuletzt angewendet wurde</translation>
-    </message>
-    <message>
         <source>Removes all properties from the table</source>
         <translation>Entfernt alle Eigenschaften aus der Tabelle</translation>
+    </message>
+    <message>
+        <source>Closes the window and discards changes that are not applied</source>
+        <translation>Schließt das Fenster und verwirft Änderungen, die nicht angewendet sind</translation>
     </message>
 </context>
 <context>
@@ -908,16 +908,16 @@ Möchten Sie fortfahren?</translation>
         <translation>dies ist keine Projektklasse</translation>
     </message>
     <message>
-        <source>the class created none</source>
-        <translation>die Klasse hat keines erzeugt</translation>
-    </message>
-    <message>
         <source>No project of class &quot;%1&quot; was made: %2.</source>
         <translation>Es wurde kein Projekt der Klasse „%1“ angelegt: %2.</translation>
     </message>
     <message>
-        <source>The project &quot;%1&quot; came back as &quot;%2&quot;: another one has its name.</source>
-        <translation>Das Projekt „%1“ ist als „%2“ zurückgekommen: Ein anderes hat seinen Namen.</translation>
+        <source>the class cannot create objects</source>
+        <translation>die Klasse kann keine Objekte erzeugen</translation>
+    </message>
+    <message>
+        <source>The project &quot;%1&quot; was restored as &quot;%2&quot;, because another project has its name.</source>
+        <translation>Das Projekt „%1“ wurde als „%2“ wiederhergestellt, weil ein anderes Projekt seinen Namen hat.</translation>
     </message>
 </context>
 <context>
@@ -929,10 +929,6 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>this is not a class of objects of a project</source>
         <translation>dies ist keine Klasse von Projektobjekten</translation>
-    </message>
-    <message>
-        <source>the class created none</source>
-        <translation>die Klasse hat keines erzeugt</translation>
     </message>
     <message>
         <source>No object of class &quot;%1&quot; was added to the project &quot;%2&quot;: %3.</source>
@@ -951,18 +947,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Zum Projekt „%1“ kann kein Objekt hinzugefügt werden: Alle Nummern sind verbraucht.</translation>
     </message>
     <message>
-        <source>The object that is to come back to the project &quot;%1&quot; does not come from it.</source>
-        <translation>Das Objekt, das in das Projekt „%1“ zurückkommen soll, stammt nicht aus ihm.</translation>
-    </message>
-    <message>
-        <source>An object failed when it came back</source>
-        <translation>Ein Objekt ist beim Zurückkommen fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>The object &quot;%1&quot; came back as &quot;%2&quot;: another one has its name.</source>
-        <translation>Das Objekt „%1“ ist als „%2“ zurückgekommen: Ein anderes hat seinen Namen.</translation>
-    </message>
-    <message>
         <source>An object failed after its project had been read</source>
         <translation>Ein Objekt ist nach dem Lesen seines Projekts fehlgeschlagen</translation>
     </message>
@@ -970,27 +954,43 @@ Möchten Sie fortfahren?</translation>
         <source>The execution of an object failed</source>
         <translation>Die Ausführung eines Objekts ist fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>the class cannot create objects</source>
+        <translation>die Klasse kann keine Objekte erzeugen</translation>
+    </message>
+    <message>
+        <source>The object cannot be restored in the project &quot;%1&quot;, because it does not belong to this project.</source>
+        <translation>Das Objekt kann im Projekt „%1“ nicht wiederhergestellt werden, weil es nicht zu diesem Projekt gehört.</translation>
+    </message>
+    <message>
+        <source>An object failed when it was restored</source>
+        <translation>Ein Objekt ist beim Wiederherstellen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; was restored as &quot;%2&quot;, because another object has its name.</source>
+        <translation>Das Objekt „%1“ wurde als „%2“ wiederhergestellt, weil ein anderes Objekt seinen Namen hat.</translation>
+    </message>
 </context>
 <context>
     <name>Obj::ProjectObject</name>
     <message>
-        <source>&quot;%1&quot; cannot be linked to &quot;%2&quot;: they are not in one project.</source>
-        <translation>„%1“ kann nicht mit „%2“ verknüpft werden: Sie sind nicht im selben Projekt.</translation>
+        <source>&quot;%1&quot; cannot be linked to &quot;%2&quot;: both must be in the same project.</source>
+        <translation>„%1“ kann nicht mit „%2“ verknüpft werden: Beide müssen zum selben Projekt gehören.</translation>
     </message>
     <message>
-        <source>An object failed when its link was broken</source>
-        <translation>Ein Objekt ist beim Lösen seiner Verknüpfung fehlgeschlagen</translation>
+        <source>An object failed when its link was removed</source>
+        <translation>Ein Objekt ist beim Entfernen seiner Verknüpfung fehlgeschlagen</translation>
     </message>
     <message>
-        <source>An object failed when its link came back</source>
+        <source>An object failed when its link was restored</source>
         <translation>Ein Objekt ist beim Wiederherstellen seiner Verknüpfung fehlgeschlagen</translation>
     </message>
 </context>
 <context>
     <name>Obj::ProjectObjectGroup</name>
     <message>
-        <source>&quot;%1&quot; cannot be put into &quot;%2&quot;, which is a part of it.</source>
-        <translation>„%1“ kann nicht in „%2“ gelegt werden, das ein Teil davon ist.</translation>
+        <source>&quot;%1&quot; cannot be a member of &quot;%2&quot;, because &quot;%2&quot; is inside it.</source>
+        <translation>„%1“ kann kein Mitglied von „%2“ sein, weil „%2“ darin enthalten ist.</translation>
     </message>
 </context>
 <context>
@@ -1081,16 +1081,8 @@ Möchten Sie fortfahren?</translation>
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>Take back the last change</source>
-        <translation>Die letzte Änderung zurücknehmen</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
-        <source>Make again the change that was taken back</source>
-        <translation>Die zurückgenommene Änderung wiederholen</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -1205,10 +1197,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Ü&amp;ber</translation>
     </message>
     <message>
-        <source>What this program is</source>
-        <translation>Was dieses Programm ist</translation>
-    </message>
-    <message>
         <source>Copy the selected objects</source>
         <translation>Ausgewählte Objekte kopieren</translation>
     </message>
@@ -1219,14 +1207,6 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Add a copy of each selected object</source>
         <translation>Eine Kopie jedes ausgewählten Objekts hinzufügen</translation>
-    </message>
-    <message>
-        <source>Take the selected objects out of use</source>
-        <translation>Ausgewählte Objekte außer Gebrauch nehmen</translation>
-    </message>
-    <message>
-        <source>Take the selected objects into use again</source>
-        <translation>Ausgewählte Objekte wieder in Gebrauch nehmen</translation>
     </message>
     <message>
         <source>Give the selected object another label</source>
@@ -1253,12 +1233,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Objekte löschen</translation>
     </message>
     <message>
-        <source>These objects need what is to be deleted, and lose their references to it: %1.
-Delete all the same?</source>
-        <translation>Diese Objekte brauchen, was gelöscht werden soll, und verlieren ihre Verweise darauf: %1.
-Trotzdem löschen?</translation>
-    </message>
-    <message>
         <source>Dele&amp;te</source>
         <translation>&amp;Löschen</translation>
     </message>
@@ -1271,8 +1245,34 @@ Trotzdem löschen?</translation>
         <translation>Projekt s&amp;chließen</translation>
     </message>
     <message>
-        <source>Close the selected project, or else the one of the selected object</source>
-        <translation>Das ausgewählte Projekt schließen, sonst das des ausgewählten Objekts</translation>
+        <source>These objects refer to the objects to be deleted, and lose the references: %1.
+Delete anyway?</source>
+        <translation>Diese Objekte verweisen auf die zu löschenden Objekte und verlieren die Verweise: %1.
+Trotzdem löschen?</translation>
+    </message>
+    <message>
+        <source>Undo the last change</source>
+        <translation>Letzte Änderung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo the change that was undone last</source>
+        <translation>Zuletzt rückgängig gemachte Änderung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Close the selected project, or the project of the selected object</source>
+        <translation>Das ausgewählte Projekt oder das Projekt des ausgewählten Objekts schließen</translation>
+    </message>
+    <message>
+        <source>Suppress the selected objects: they are not used, but not deleted</source>
+        <translation>Ausgewählte Objekte unterdrücken: Sie werden nicht verwendet, aber nicht gelöscht</translation>
+    </message>
+    <message>
+        <source>End the suppression of the selected objects</source>
+        <translation>Unterdrückung der ausgewählten Objekte aufheben</translation>
+    </message>
+    <message>
+        <source>Show information about the program</source>
+        <translation>Informationen über das Programm anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1345,16 +1345,8 @@ Trotzdem löschen?</translation>
         <translation>%1 ist fehlgeschlagen</translation>
     </message>
     <message>
-        <source>nothing in the current project is labelled &quot;%1&quot;</source>
-        <translation>nichts im aktuellen Projekt heißt „%1“</translation>
-    </message>
-    <message>
         <source>there is no such project</source>
         <translation>es gibt kein solches Projekt</translation>
-    </message>
-    <message>
-        <source>one label, and one selected object, are needed</source>
-        <translation>eine Bezeichnung und ein ausgewähltes Objekt werden gebraucht</translation>
     </message>
     <message>
         <source>one file name is needed</source>
@@ -1365,20 +1357,8 @@ Trotzdem löschen?</translation>
         <translation>%1 kann nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>no argument is taken</source>
-        <translation>es wird kein Argument genommen</translation>
-    </message>
-    <message>
-        <source>the name of a library material, and one selected material, are needed</source>
-        <translation>der Name eines Bibliotheksmaterials und ein ausgewähltes Material werden gebraucht</translation>
-    </message>
-    <message>
         <source>the library has no material &quot;%1&quot;</source>
         <translation>die Bibliothek hat kein Material „%1“</translation>
-    </message>
-    <message>
-        <source>a quantity and its value, and one selected material, are needed</source>
-        <translation>eine Größe, ihr Wert und ein ausgewähltes Material werden gebraucht</translation>
     </message>
     <message>
         <source>the catalogue has no quantity &quot;%1&quot;</source>
@@ -1409,20 +1389,40 @@ Trotzdem löschen?</translation>
         <translation>Mat_Export benötigt ein Argument, den Namen der zu schreibenden Datei</translation>
     </message>
     <message>
-        <source>the name of a property, a value, and one selected object are needed</source>
-        <translation>der Name einer Eigenschaft, ein Wert und ein ausgewähltes Objekt sind nötig</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has no property &quot;%2&quot;</source>
         <translation>„%1“ hat keine Eigenschaft „%2“</translation>
     </message>
     <message>
-        <source>one selected object, and no argument, are needed</source>
-        <translation>ein ausgewähltes Objekt und kein Argument sind nötig</translation>
-    </message>
-    <message>
         <source>no project is open</source>
         <translation>es ist kein Projekt geöffnet</translation>
+    </message>
+    <message>
+        <source>give the name of a library material, and select exactly one material</source>
+        <translation>geben Sie den Namen eines Bibliotheksmaterials an und wählen Sie genau ein Material aus</translation>
+    </message>
+    <message>
+        <source>give a quantity and its value, and select exactly one material</source>
+        <translation>geben Sie eine Größe und ihren Wert an und wählen Sie genau ein Material aus</translation>
+    </message>
+    <message>
+        <source>arguments are not allowed here</source>
+        <translation>hier sind keine Argumente erlaubt</translation>
+    </message>
+    <message>
+        <source>the current project has no object with the label &quot;%1&quot;</source>
+        <translation>das aktuelle Projekt hat kein Objekt mit der Bezeichnung „%1“</translation>
+    </message>
+    <message>
+        <source>give the name of a property and a value, and select exactly one object</source>
+        <translation>geben Sie den Namen einer Eigenschaft und einen Wert an und wählen Sie genau ein Objekt aus</translation>
+    </message>
+    <message>
+        <source>give a label, and select exactly one object</source>
+        <translation>geben Sie eine Bezeichnung an und wählen Sie genau ein Objekt aus</translation>
+    </message>
+    <message>
+        <source>select exactly one object, and give no argument</source>
+        <translation>wählen Sie genau ein Objekt aus und geben Sie kein Argument an</translation>
     </message>
 </context>
 <context>
@@ -1432,8 +1432,8 @@ Trotzdem löschen?</translation>
         <translation>Die Werte eines Editors können nicht geprüft werden</translation>
     </message>
     <message>
-        <source>What was changed in an editor cannot be recorded</source>
-        <translation>Die Änderung in einem Editor kann nicht aufgezeichnet werden</translation>
+        <source>The changes in an editor cannot be recorded</source>
+        <translation>Die Änderungen in einem Editor können nicht aufgezeichnet werden</translation>
     </message>
 </context>
 <context>
@@ -1504,8 +1504,8 @@ Trotzdem löschen?</translation>
         <translation>Der Export nach „%1“ ist unvollständig: %2 Exportieren Sie erneut an einen anderen Ort.</translation>
     </message>
     <message>
-        <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material anew without this property, then export again.</source>
-        <translation>Die Eigenschaft „%1“ von „%2“ hat die Nummer %3. Leser von Austauschdokumenten lehnen Nummern unter 0 ab. Legen Sie das Material ohne diese Eigenschaft neu an und exportieren Sie erneut.</translation>
+        <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material again without this property, then export again.</source>
+        <translation>Die Eigenschaft „%1“ von „%2“ hat die Nummer %3. Leser von Austauschdokumenten lehnen Nummern unter 0 ab. Legen Sie das Material ohne diese Eigenschaft noch einmal an und exportieren Sie erneut.</translation>
     </message>
 </context>
 <context>
@@ -1523,16 +1523,8 @@ Trotzdem löschen?</translation>
         <translation>Es ist kein Materialprojekt geöffnet. Öffnen Sie eines und exportieren Sie es dann.</translation>
     </message>
     <message>
-        <source>Material projects that are open: %1. Only a single one can be exported. Close the others first.</source>
-        <translation>Geöffnete Materialprojekte: %1. Nur ein einzelnes kann exportiert werden. Schließen Sie zuerst die anderen.</translation>
-    </message>
-    <message>
         <source>Export materials</source>
         <translation>Materialien exportieren</translation>
-    </message>
-    <message>
-        <source>Only what has been applied is exported.</source>
-        <translation>Exportiert wird nur, was übernommen wurde.</translation>
     </message>
     <message>
         <source>&amp;Export without them</source>
@@ -1549,6 +1541,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>Open %1 editors?</source>
         <translation>%1 Editoren öffnen?</translation>
+    </message>
+    <message>
+        <source>Material projects that are open: %1. Only one project can be exported. Close the other projects first.</source>
+        <translation>Geöffnete Materialprojekte: %1. Es kann nur ein Projekt exportiert werden. Schließen Sie zuerst die anderen Projekte.</translation>
+    </message>
+    <message>
+        <source>The export contains only applied changes.</source>
+        <translation>Der Export enthält nur angewendete Änderungen.</translation>
     </message>
 </context>
 <context>
@@ -1578,14 +1578,6 @@ Trotzdem löschen?</translation>
         <translation>Datei in Verwendung</translation>
     </message>
     <message>
-        <source>What is saved by one of the programs replaces what the other one saved.</source>
-        <translation>Was eines der Programme speichert, ersetzt, was das andere gespeichert hat.</translation>
-    </message>
-    <message>
-        <source>&amp;Use all the same</source>
-        <translation>&amp;Trotzdem verwenden</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -1602,24 +1594,12 @@ Trotzdem löschen?</translation>
         <translation>„%1“ wurde gespeichert.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has been there since %2, before the project was recovered.</source>
-        <translation>„%1“ gibt es seit %2, von vor der Wiederherstellung des Projekts.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has been changed by another program, on %2.</source>
         <translation>„%1“ wurde am %2 von einem anderen Programm geändert.</translation>
     </message>
     <message>
-        <source>What is in the file now is lost when it is replaced.</source>
-        <translation>Was jetzt in der Datei steht, geht verloren, wenn sie ersetzt wird.</translation>
-    </message>
-    <message>
         <source>&amp;Replace</source>
         <translation>&amp;Ersetzen</translation>
-    </message>
-    <message>
-        <source>Only what has been applied is saved.</source>
-        <translation>Nur was angewendet wurde, wird gespeichert.</translation>
     </message>
     <message>
         <source>&amp;Save without them</source>
@@ -1678,20 +1658,12 @@ Trotzdem löschen?</translation>
         <translation>Import</translation>
     </message>
     <message>
-        <source>The message log says why.</source>
-        <translation>Das Meldungsprotokoll nennt den Grund.</translation>
-    </message>
-    <message>
         <source>Objects imported: %1</source>
         <translation>Importierte Objekte: %1</translation>
     </message>
     <message>
         <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is not a material class.</source>
         <translation>Das Objekt „%1“ hat die Klasse „%2“, die keine Materialklasse ist.</translation>
-    </message>
-    <message>
-        <source>The object &quot;%1&quot; of the class &quot;%2&quot; cannot be added to the project. The message log says why.</source>
-        <translation>Das Objekt „%1“ der Klasse „%2“ kann nicht zum Projekt hinzugefügt werden. Das Meldungsprotokoll nennt den Grund.</translation>
     </message>
     <message>
         <source>The content of &quot;%1&quot; is kept, but no module can read it.</source>
@@ -1713,12 +1685,40 @@ Trotzdem löschen?</translation>
         <translation>Diese Eigenschaften von „%1“ bleiben erhalten, können aber nicht gesetzt werden: %2.</translation>
     </message>
     <message>
-        <source>The module of these classes is missing: %1. Their objects are kept as they are.</source>
+        <source>Project (*.vxmat)</source>
+        <translation>Projekt (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>The message log gives the reason.</source>
+        <translation>Das Meldungsprotokoll nennt den Grund.</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; of the class &quot;%2&quot; cannot be added to the project. The message log gives the reason.</source>
+        <translation>Das Objekt „%1“ der Klasse „%2“ kann nicht zum Projekt hinzugefügt werden. Das Meldungsprotokoll nennt den Grund.</translation>
+    </message>
+    <message>
+        <source>The module of these classes is missing: %1. Their objects are kept unchanged.</source>
         <translation>Das Modul dieser Klassen fehlt: %1. Ihre Objekte bleiben unverändert erhalten.</translation>
     </message>
     <message>
-        <source>Project (*.vxmat)</source>
-        <translation>Projekt (*.vxmat)</translation>
+        <source>If both programs save the file, the later save replaces the earlier one.</source>
+        <translation>Wenn beide Programme die Datei speichern, ersetzt die spätere Fassung die frühere.</translation>
+    </message>
+    <message>
+        <source>&amp;Use anyway</source>
+        <translation>&amp;Trotzdem verwenden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was last changed on %2, before the project was recovered.</source>
+        <translation>„%1“ wurde zuletzt am %2 geändert, vor der Wiederherstellung des Projekts.</translation>
+    </message>
+    <message>
+        <source>Replacing the file deletes its present content.</source>
+        <translation>Beim Ersetzen geht der jetzige Inhalt der Datei verloren.</translation>
+    </message>
+    <message>
+        <source>The file contains only applied changes.</source>
+        <translation>Die Datei enthält nur angewendete Änderungen.</translation>
     </message>
 </context>
 <context>
@@ -1809,10 +1809,6 @@ Trotzdem löschen?</translation>
         <translation>Dokumente übertragen keine Listen; sie ist leer</translation>
     </message>
     <message>
-        <source>the catalogue does not know it; its unit, description and category are lost</source>
-        <translation>der Katalog kennt sie nicht; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
-    </message>
-    <message>
         <source>the document has it more than once; the last one was used</source>
         <translation>sie steht zweimal im Dokument; die letzte wurde genommen</translation>
     </message>
@@ -1851,6 +1847,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1: occurs more than once; the last one was used</source>
         <translation>%1: kommt mehrfach vor; das letzte wurde verwendet</translation>
+    </message>
+    <message>
+        <source>it is not in the catalogue; its unit, description and category are lost</source>
+        <translation>sie ist nicht im Katalog; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
     </message>
 </context>
 <context>
@@ -2390,10 +2390,6 @@ Trotzdem löschen?</translation>
         <translation>Das Projekt „%1“ hat kein Objekt „%2“; es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>Nothing can be requested while something is undone or redone; nothing was done.</source>
-        <translation>Während etwas rückgängig gemacht oder wiederhergestellt wird, kann nichts angefordert werden; es wurde nichts getan.</translation>
-    </message>
-    <message>
         <source>The request %1 cannot be registered for the class &quot;%2&quot;: it has another meaning.</source>
         <translation>Die Anforderung %1 kann nicht für die Klasse „%2“ registriert werden: Sie hat eine andere Bedeutung.</translation>
     </message>
@@ -2430,10 +2426,6 @@ Trotzdem löschen?</translation>
         <translation>Das Projekt „%1“ wird bereits geschlossen; es wurde nichts getan.</translation>
     </message>
     <message>
-        <source>The project &quot;%1&quot; was closed while its listeners were asked.</source>
-        <translation>Das Projekt „%1“ wurde geschlossen, während seine Empfänger gefragt wurden.</translation>
-    </message>
-    <message>
         <source>Change &quot;%1&quot;</source>
         <translation>„%1“ ändern</translation>
     </message>
@@ -2452,6 +2444,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>The project &quot;%1&quot; cannot be handed over</source>
         <translation>Das Projekt „%1“ kann nicht übergeben werden</translation>
+    </message>
+    <message>
+        <source>Requests are refused during undo and redo; nothing was done.</source>
+        <translation>Während des Rückgängigmachens und Wiederherstellens werden Anforderungen abgelehnt; es wurde nichts getan.</translation>
+    </message>
+    <message>
+        <source>A listener closed the project &quot;%1&quot; before the request was carried out.</source>
+        <translation>Ein Empfänger hat das Projekt „%1“ geschlossen, bevor die Anforderung ausgeführt wurde.</translation>
     </message>
 </context>
 <context>

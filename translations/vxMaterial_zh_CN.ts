@@ -127,8 +127,8 @@
 <context>
     <name>Gui::CoreEditor</name>
     <message>
-        <source>&quot;%1&quot; cannot be opened: its editor &quot;%2&quot; is missing. The module that has it may not be loaded.</source>
-        <translation>无法打开“%1”：缺少编辑器“%2”。相应的模块可能未加载。</translation>
+        <source>&quot;%1&quot; cannot be opened: its editor &quot;%2&quot; is missing. The module of the editor may not be loaded.</source>
+        <translation>无法打开“%1”：缺少编辑器“%2”。该编辑器的模块可能未加载。</translation>
     </message>
 </context>
 <context>
@@ -141,7 +141,7 @@
 <context>
     <name>Gui::GuiApplication</name>
     <message>
-        <source>Something went wrong</source>
+        <source>An error occurred</source>
         <translation>出现错误</translation>
     </message>
 </context>
@@ -235,8 +235,8 @@ Suppressed</source>
 已抑制</translation>
     </message>
     <message>
-        <source>The module for &quot;%1&quot; is not loaded. The data are kept as they are and saved again, but cannot be edited.</source>
-        <translation>“%1”所需的模块未加载。数据保持原样并会重新保存，但无法编辑。</translation>
+        <source>The module for &quot;%1&quot; is not loaded. Its data are saved unchanged, but cannot be edited.</source>
+        <translation>“%1”所需的模块未加载。其数据将原样保存，但无法编辑。</translation>
     </message>
 </context>
 <context>
@@ -283,10 +283,6 @@ Suppressed</source>
         <translation>没有打开的项目</translation>
     </message>
     <message>
-        <source>Begin with a new project, or open a saved one.</source>
-        <translation>请新建项目，或打开已保存的项目。</translation>
-    </message>
-    <message>
         <source>The project is empty</source>
         <translation>项目为空</translation>
     </message>
@@ -307,8 +303,12 @@ Suppressed</source>
         <translation>未加载任何模块</translation>
     </message>
     <message>
-        <source>The messages say which modules could not be loaded, and why.</source>
-        <translation>消息中说明哪些模块无法加载以及原因。</translation>
+        <source>Make a new project, or open a saved one.</source>
+        <translation>请新建项目，或打开已保存的项目。</translation>
+    </message>
+    <message>
+        <source>The message log names the modules that could not be loaded, and the reasons.</source>
+        <translation>消息日志列出了无法加载的模块及其原因。</translation>
     </message>
 </context>
 <context>
@@ -384,14 +384,6 @@ Suppressed</source>
         <translation>它需要程序的版本 %1，而程序版本为 %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; in the descriptor is not known; known are %2</source>
-        <translation>描述符中的“%1”未知；已知的有 %2</translation>
-    </message>
-    <message>
-        <source>&quot;module&quot; in the descriptor is &quot;%1&quot;; the file is not called after it</source>
-        <translation>描述符中的“module”为“%1”，与文件名不符</translation>
-    </message>
-    <message>
         <source>&quot;library&quot; in the descriptor is &quot;%1&quot;; it must be a file beside the descriptor, without a folder</source>
         <translation>描述符中的“library”为“%1”；它必须是描述符旁边的文件，不带文件夹</translation>
     </message>
@@ -402,6 +394,14 @@ Suppressed</source>
     <message>
         <source>&quot;needs&quot; in the descriptor is not an object of modules with their versions</source>
         <translation>描述符中的“needs”不是由模块及其版本组成的对象</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the descriptor is unknown; the known members are %2</source>
+        <translation>描述符中的“%1”未知；已知的成员有 %2</translation>
+    </message>
+    <message>
+        <source>&quot;module&quot; in the descriptor is &quot;%1&quot;, which differs from the name of the file</source>
+        <translation>描述符中的“module”为“%1”，与文件名不符</translation>
     </message>
 </context>
 <context>
@@ -462,12 +462,12 @@ Suppressed</source>
         <translation>它没有名称</translation>
     </message>
     <message>
-        <source>it would descend from itself</source>
-        <translation>它会派生自自身</translation>
-    </message>
-    <message>
         <source>another class has this name</source>
         <translation>另一个类已使用此名称</translation>
+    </message>
+    <message>
+        <source>it would be derived from itself</source>
+        <translation>它会派生自自身</translation>
     </message>
 </context>
 <context>
@@ -599,10 +599,6 @@ Suppressed</source>
         <translation>材料编辑器</translation>
     </message>
     <message>
-        <source>Something went wrong: %1</source>
-        <translation>出现错误：%1</translation>
-    </message>
-    <message>
         <source>The changes of &quot;%1&quot; have not been applied.</source>
         <translation>“%1”的更改尚未应用。</translation>
     </message>
@@ -633,6 +629,10 @@ Suppressed</source>
     <message>
         <source>Restore changes</source>
         <translation>恢复更改</translation>
+    </message>
+    <message>
+        <source>An error occurred: %1</source>
+        <translation>出现错误：%1</translation>
     </message>
 </context>
 <context>
@@ -755,16 +755,8 @@ Do you want to continue?</source>
         <translation>未打开任何项目</translation>
     </message>
     <message>
-        <source>A material project holds the materials of a model. Begin with a new one, or open a saved one.</source>
-        <translation>材料项目包含模型的材料。请新建一个，或打开已保存的项目。</translation>
-    </message>
-    <message>
         <source>The project has no materials yet</source>
         <translation>项目中还没有材料</translation>
-    </message>
-    <message>
-        <source>Add a material; it begins as structural steel, and the editor offers 25 others and every quantity.</source>
-        <translation>请添加一种材料；初始为结构钢，编辑器提供另外 25 种材料和所有物理量。</translation>
     </message>
     <message>
         <source>No material is open</source>
@@ -773,6 +765,14 @@ Do you want to continue?</source>
     <message>
         <source>Double-click a material in the project explorer, or select one and choose Edit.</source>
         <translation>请在项目浏览器中双击一种材料，或选中后选择“编辑”。</translation>
+    </message>
+    <message>
+        <source>A material project holds the materials of a model. Make a new one, or open a saved one.</source>
+        <translation>材料项目包含模型的材料。请新建一个，或打开已保存的项目。</translation>
+    </message>
+    <message>
+        <source>Add a material. It has the values of structural steel; the editor offers 25 other materials and all quantities.</source>
+        <translation>请添加一种材料。其初始值为结构钢；编辑器提供另外 25 种材料和所有物理量。</translation>
     </message>
 </context>
 <context>
@@ -882,12 +882,12 @@ Do you want to continue?</source>
         <translation>将表格写入材料</translation>
     </message>
     <message>
-        <source>Closes the window and leaves the material as it was last applied</source>
-        <translation>关闭窗口，材料保持上次应用时的状态</translation>
-    </message>
-    <message>
         <source>Removes all properties from the table</source>
         <translation>从表格中移除所有属性</translation>
+    </message>
+    <message>
+        <source>Closes the window and discards changes that are not applied</source>
+        <translation>关闭窗口并放弃未应用的更改</translation>
     </message>
 </context>
 <context>
@@ -908,16 +908,16 @@ Do you want to continue?</source>
         <translation>这不是项目类</translation>
     </message>
     <message>
-        <source>the class created none</source>
-        <translation>该类未能创建</translation>
-    </message>
-    <message>
         <source>No project of class &quot;%1&quot; was made: %2.</source>
         <translation>未创建类“%1”的项目：%2。</translation>
     </message>
     <message>
-        <source>The project &quot;%1&quot; came back as &quot;%2&quot;: another one has its name.</source>
-        <translation>项目“%1”以“%2”恢复：其名称已被另一个项目使用。</translation>
+        <source>the class cannot create objects</source>
+        <translation>该类无法创建对象</translation>
+    </message>
+    <message>
+        <source>The project &quot;%1&quot; was restored as &quot;%2&quot;, because another project has its name.</source>
+        <translation>项目“%1”已恢复为“%2”，因为其名称已被另一个项目使用。</translation>
     </message>
 </context>
 <context>
@@ -929,10 +929,6 @@ Do you want to continue?</source>
     <message>
         <source>this is not a class of objects of a project</source>
         <translation>这不是项目对象的类</translation>
-    </message>
-    <message>
-        <source>the class created none</source>
-        <translation>该类未能创建</translation>
     </message>
     <message>
         <source>No object of class &quot;%1&quot; was added to the project &quot;%2&quot;: %3.</source>
@@ -951,18 +947,6 @@ Do you want to continue?</source>
         <translation>无法向项目“%1”添加对象：所有编号已用完。</translation>
     </message>
     <message>
-        <source>The object that is to come back to the project &quot;%1&quot; does not come from it.</source>
-        <translation>要恢复到项目“%1”的对象并非来自该项目。</translation>
-    </message>
-    <message>
-        <source>An object failed when it came back</source>
-        <translation>对象在恢复时失败</translation>
-    </message>
-    <message>
-        <source>The object &quot;%1&quot; came back as &quot;%2&quot;: another one has its name.</source>
-        <translation>对象“%1”以“%2”恢复：其名称已被另一个对象使用。</translation>
-    </message>
-    <message>
         <source>An object failed after its project had been read</source>
         <translation>读取项目后，一个对象失败</translation>
     </message>
@@ -970,27 +954,43 @@ Do you want to continue?</source>
         <source>The execution of an object failed</source>
         <translation>对象的执行失败</translation>
     </message>
+    <message>
+        <source>the class cannot create objects</source>
+        <translation>该类无法创建对象</translation>
+    </message>
+    <message>
+        <source>The object cannot be restored in the project &quot;%1&quot;, because it does not belong to this project.</source>
+        <translation>无法在项目“%1”中恢复该对象，因为它不属于该项目。</translation>
+    </message>
+    <message>
+        <source>An object failed when it was restored</source>
+        <translation>对象在恢复时失败</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; was restored as &quot;%2&quot;, because another object has its name.</source>
+        <translation>对象“%1”已恢复为“%2”，因为其名称已被另一个对象使用。</translation>
+    </message>
 </context>
 <context>
     <name>Obj::ProjectObject</name>
     <message>
-        <source>&quot;%1&quot; cannot be linked to &quot;%2&quot;: they are not in one project.</source>
-        <translation>无法将“%1”链接到“%2”：它们不在同一项目中。</translation>
+        <source>&quot;%1&quot; cannot be linked to &quot;%2&quot;: both must be in the same project.</source>
+        <translation>无法将“%1”链接到“%2”：两者必须在同一项目中。</translation>
     </message>
     <message>
-        <source>An object failed when its link was broken</source>
-        <translation>对象在断开链接时失败</translation>
+        <source>An object failed when its link was removed</source>
+        <translation>对象在移除链接时失败</translation>
     </message>
     <message>
-        <source>An object failed when its link came back</source>
+        <source>An object failed when its link was restored</source>
         <translation>对象在恢复链接时失败</translation>
     </message>
 </context>
 <context>
     <name>Obj::ProjectObjectGroup</name>
     <message>
-        <source>&quot;%1&quot; cannot be put into &quot;%2&quot;, which is a part of it.</source>
-        <translation>无法将“%1”放入其自身的组成部分“%2”。</translation>
+        <source>&quot;%1&quot; cannot be a member of &quot;%2&quot;, because &quot;%2&quot; is inside it.</source>
+        <translation>“%1”不能成为“%2”的成员，因为“%2”包含在其中。</translation>
     </message>
 </context>
 <context>
@@ -1081,16 +1081,8 @@ Do you want to continue?</source>
         <translation>撤销(&amp;U)</translation>
     </message>
     <message>
-        <source>Take back the last change</source>
-        <translation>撤销上一次更改</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>重做(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Make again the change that was taken back</source>
-        <translation>重新执行已撤销的更改</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -1205,10 +1197,6 @@ Do you want to continue?</source>
         <translation>关于(&amp;A)</translation>
     </message>
     <message>
-        <source>What this program is</source>
-        <translation>关于本程序</translation>
-    </message>
-    <message>
         <source>Copy the selected objects</source>
         <translation>复制所选对象</translation>
     </message>
@@ -1219,14 +1207,6 @@ Do you want to continue?</source>
     <message>
         <source>Add a copy of each selected object</source>
         <translation>添加每个所选对象的副本</translation>
-    </message>
-    <message>
-        <source>Take the selected objects out of use</source>
-        <translation>停用所选对象</translation>
-    </message>
-    <message>
-        <source>Take the selected objects into use again</source>
-        <translation>重新启用所选对象</translation>
     </message>
     <message>
         <source>Give the selected object another label</source>
@@ -1253,12 +1233,6 @@ Do you want to continue?</source>
         <translation>删除对象</translation>
     </message>
     <message>
-        <source>These objects need what is to be deleted, and lose their references to it: %1.
-Delete all the same?</source>
-        <translation>以下对象需要将被删除的内容，并将失去对它的引用：%1。
-仍要删除吗？</translation>
-    </message>
-    <message>
         <source>Dele&amp;te</source>
         <translation>删除(&amp;T)</translation>
     </message>
@@ -1271,8 +1245,34 @@ Delete all the same?</source>
         <translation>关闭项目(&amp;C)</translation>
     </message>
     <message>
-        <source>Close the selected project, or else the one of the selected object</source>
-        <translation>关闭所选项目，否则关闭所选对象所在的项目</translation>
+        <source>These objects refer to the objects to be deleted, and lose the references: %1.
+Delete anyway?</source>
+        <translation>以下对象引用了要删除的对象，并将失去这些引用：%1。
+仍要删除吗？</translation>
+    </message>
+    <message>
+        <source>Undo the last change</source>
+        <translation>撤销上一次更改</translation>
+    </message>
+    <message>
+        <source>Redo the change that was undone last</source>
+        <translation>重做上一次撤销的更改</translation>
+    </message>
+    <message>
+        <source>Close the selected project, or the project of the selected object</source>
+        <translation>关闭所选项目或所选对象所在的项目</translation>
+    </message>
+    <message>
+        <source>Suppress the selected objects: they are not used, but not deleted</source>
+        <translation>抑制所选对象：不使用但不删除</translation>
+    </message>
+    <message>
+        <source>End the suppression of the selected objects</source>
+        <translation>取消抑制所选对象</translation>
+    </message>
+    <message>
+        <source>Show information about the program</source>
+        <translation>显示程序信息</translation>
     </message>
 </context>
 <context>
@@ -1345,16 +1345,8 @@ Delete all the same?</source>
         <translation>%1 失败</translation>
     </message>
     <message>
-        <source>nothing in the current project is labelled &quot;%1&quot;</source>
-        <translation>当前项目中没有标签为“%1”的对象</translation>
-    </message>
-    <message>
         <source>there is no such project</source>
         <translation>没有这样的项目</translation>
-    </message>
-    <message>
-        <source>one label, and one selected object, are needed</source>
-        <translation>需要一个标签和一个所选对象</translation>
     </message>
     <message>
         <source>one file name is needed</source>
@@ -1365,20 +1357,8 @@ Delete all the same?</source>
         <translation>无法写入 %1</translation>
     </message>
     <message>
-        <source>no argument is taken</source>
-        <translation>不接受参数</translation>
-    </message>
-    <message>
-        <source>the name of a library material, and one selected material, are needed</source>
-        <translation>需要一个库材料名称和一种所选材料</translation>
-    </message>
-    <message>
         <source>the library has no material &quot;%1&quot;</source>
         <translation>材料库中没有“%1”</translation>
-    </message>
-    <message>
-        <source>a quantity and its value, and one selected material, are needed</source>
-        <translation>需要一个物理量及其值，以及一种所选材料</translation>
     </message>
     <message>
         <source>the catalogue has no quantity &quot;%1&quot;</source>
@@ -1409,20 +1389,40 @@ Delete all the same?</source>
         <translation>Mat_Export 需要一个参数，即要写入的文件名</translation>
     </message>
     <message>
-        <source>the name of a property, a value, and one selected object are needed</source>
-        <translation>需要属性名称、值和一个所选对象</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has no property &quot;%2&quot;</source>
         <translation>“%1”没有属性“%2”</translation>
     </message>
     <message>
-        <source>one selected object, and no argument, are needed</source>
-        <translation>需要一个所选对象，不带参数</translation>
-    </message>
-    <message>
         <source>no project is open</source>
         <translation>没有打开的项目</translation>
+    </message>
+    <message>
+        <source>give the name of a library material, and select exactly one material</source>
+        <translation>请给出一个库材料的名称，并只选择一种材料</translation>
+    </message>
+    <message>
+        <source>give a quantity and its value, and select exactly one material</source>
+        <translation>请给出一个物理量及其值，并只选择一种材料</translation>
+    </message>
+    <message>
+        <source>arguments are not allowed here</source>
+        <translation>此处不允许使用参数</translation>
+    </message>
+    <message>
+        <source>the current project has no object with the label &quot;%1&quot;</source>
+        <translation>当前项目中没有标签为“%1”的对象</translation>
+    </message>
+    <message>
+        <source>give the name of a property and a value, and select exactly one object</source>
+        <translation>请给出属性名称和值，并只选择一个对象</translation>
+    </message>
+    <message>
+        <source>give a label, and select exactly one object</source>
+        <translation>请给出一个标签，并只选择一个对象</translation>
+    </message>
+    <message>
+        <source>select exactly one object, and give no argument</source>
+        <translation>请只选择一个对象，不带参数</translation>
     </message>
 </context>
 <context>
@@ -1432,7 +1432,7 @@ Delete all the same?</source>
         <translation>无法检查编辑器中的值</translation>
     </message>
     <message>
-        <source>What was changed in an editor cannot be recorded</source>
+        <source>The changes in an editor cannot be recorded</source>
         <translation>无法记录编辑器中的更改</translation>
     </message>
 </context>
@@ -1504,7 +1504,7 @@ Delete all the same?</source>
         <translation>导出到“%1”不完整：%2 请重新导出到其他位置。</translation>
     </message>
     <message>
-        <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material anew without this property, then export again.</source>
+        <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material again without this property, then export again.</source>
         <translation>“%2”的属性“%1”的编号为 %3。交换文档的读取程序拒绝小于 0 的编号。请重新创建不含该属性的材料，然后重新导出。</translation>
     </message>
 </context>
@@ -1523,16 +1523,8 @@ Delete all the same?</source>
         <translation>未打开任何材料项目。请先打开一个再导出。</translation>
     </message>
     <message>
-        <source>Material projects that are open: %1. Only a single one can be exported. Close the others first.</source>
-        <translation>已打开的材料项目：%1。只能导出单个项目。请先关闭其他项目。</translation>
-    </message>
-    <message>
         <source>Export materials</source>
         <translation>导出材料</translation>
-    </message>
-    <message>
-        <source>Only what has been applied is exported.</source>
-        <translation>只导出已应用的内容。</translation>
     </message>
     <message>
         <source>&amp;Export without them</source>
@@ -1549,6 +1541,14 @@ Delete all the same?</source>
     <message>
         <source>Open %1 editors?</source>
         <translation>要打开 %1 个编辑器吗？</translation>
+    </message>
+    <message>
+        <source>Material projects that are open: %1. Only one project can be exported. Close the other projects first.</source>
+        <translation>已打开的材料项目：%1。只能导出一个项目。请先关闭其他项目。</translation>
+    </message>
+    <message>
+        <source>The export contains only applied changes.</source>
+        <translation>导出内容只包含已应用的更改。</translation>
     </message>
 </context>
 <context>
@@ -1578,14 +1578,6 @@ Delete all the same?</source>
         <translation>文件正在使用</translation>
     </message>
     <message>
-        <source>What is saved by one of the programs replaces what the other one saved.</source>
-        <translation>一个程序保存的内容会替换另一个程序保存的内容。</translation>
-    </message>
-    <message>
-        <source>&amp;Use all the same</source>
-        <translation>仍然使用(&amp;U)</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -1602,24 +1594,12 @@ Delete all the same?</source>
         <translation>“%1”已保存。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has been there since %2, before the project was recovered.</source>
-        <translation>“%1”自 %2 起就已存在，早于项目恢复。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has been changed by another program, on %2.</source>
         <translation>“%1”已于 %2 被另一个程序更改。</translation>
     </message>
     <message>
-        <source>What is in the file now is lost when it is replaced.</source>
-        <translation>替换后，文件中现有的内容将丢失。</translation>
-    </message>
-    <message>
         <source>&amp;Replace</source>
         <translation>替换(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Only what has been applied is saved.</source>
-        <translation>只保存已应用的内容。</translation>
     </message>
     <message>
         <source>&amp;Save without them</source>
@@ -1678,20 +1658,12 @@ Delete all the same?</source>
         <translation>导入</translation>
     </message>
     <message>
-        <source>The message log says why.</source>
-        <translation>消息日志中说明了原因。</translation>
-    </message>
-    <message>
         <source>Objects imported: %1</source>
         <translation>已导入对象：%1</translation>
     </message>
     <message>
         <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is not a material class.</source>
         <translation>对象“%1”属于类“%2”，它不是材料类。</translation>
-    </message>
-    <message>
-        <source>The object &quot;%1&quot; of the class &quot;%2&quot; cannot be added to the project. The message log says why.</source>
-        <translation>类“%2”的对象“%1”无法添加到项目中。消息日志中说明了原因。</translation>
     </message>
     <message>
         <source>The content of &quot;%1&quot; is kept, but no module can read it.</source>
@@ -1712,12 +1684,40 @@ Delete all the same?</source>
         <translation>“%1”的以下属性已保留，但无法设置：%2。</translation>
     </message>
     <message>
-        <source>The module of these classes is missing: %1. Their objects are kept as they are.</source>
-        <translation>缺少以下类的模块：%1。其对象保持原样。</translation>
-    </message>
-    <message>
         <source>Project (*.vxmat)</source>
         <translation>项目 (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>The message log gives the reason.</source>
+        <translation>消息日志中说明了原因。</translation>
+    </message>
+    <message>
+        <source>The object &quot;%1&quot; of the class &quot;%2&quot; cannot be added to the project. The message log gives the reason.</source>
+        <translation>类“%2”的对象“%1”无法添加到项目中。消息日志中说明了原因。</translation>
+    </message>
+    <message>
+        <source>The module of these classes is missing: %1. Their objects are kept unchanged.</source>
+        <translation>缺少以下类的模块：%1。其对象保持不变。</translation>
+    </message>
+    <message>
+        <source>If both programs save the file, the later save replaces the earlier one.</source>
+        <translation>如果两个程序都保存该文件，后保存的内容会替换先保存的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Use anyway</source>
+        <translation>仍然使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was last changed on %2, before the project was recovered.</source>
+        <translation>“%1”上次更改于 %2，早于项目恢复。</translation>
+    </message>
+    <message>
+        <source>Replacing the file deletes its present content.</source>
+        <translation>替换后，文件的现有内容将丢失。</translation>
+    </message>
+    <message>
+        <source>The file contains only applied changes.</source>
+        <translation>文件只包含已应用的更改。</translation>
     </message>
 </context>
 <context>
@@ -1808,10 +1808,6 @@ Delete all the same?</source>
         <translation>文档不传递列表；它为空</translation>
     </message>
     <message>
-        <source>the catalogue does not know it; its unit, description and category are lost</source>
-        <translation>目录中没有它；它的单位、说明和类别已丢失</translation>
-    </message>
-    <message>
         <source>the document has it more than once; the last one was used</source>
         <translation>它在文档中出现两次；采用了最后一个</translation>
     </message>
@@ -1850,6 +1846,10 @@ Delete all the same?</source>
     <message>
         <source>%1: occurs more than once; the last one was used</source>
         <translation>%1：出现多次；使用最后一个</translation>
+    </message>
+    <message>
+        <source>it is not in the catalogue; its unit, description and category are lost</source>
+        <translation>目录中没有它；它的单位、说明和类别已丢失</translation>
     </message>
 </context>
 <context>
@@ -2389,10 +2389,6 @@ Delete all the same?</source>
         <translation>项目“%1”中没有对象“%2”；未执行任何操作。</translation>
     </message>
     <message>
-        <source>Nothing can be requested while something is undone or redone; nothing was done.</source>
-        <translation>撤销或重做期间不能提出请求；未执行任何操作。</translation>
-    </message>
-    <message>
         <source>The request %1 cannot be registered for the class &quot;%2&quot;: it has another meaning.</source>
         <translation>无法为类“%2”注册请求 %1：它已有其他含义。</translation>
     </message>
@@ -2429,10 +2425,6 @@ Delete all the same?</source>
         <translation>项目“%1”正在关闭；未执行任何操作。</translation>
     </message>
     <message>
-        <source>The project &quot;%1&quot; was closed while its listeners were asked.</source>
-        <translation>项目“%1”在询问监听器期间已关闭。</translation>
-    </message>
-    <message>
         <source>Change &quot;%1&quot;</source>
         <translation>更改“%1”</translation>
     </message>
@@ -2451,6 +2443,14 @@ Delete all the same?</source>
     <message>
         <source>The project &quot;%1&quot; cannot be handed over</source>
         <translation>无法移交项目“%1”</translation>
+    </message>
+    <message>
+        <source>Requests are refused during undo and redo; nothing was done.</source>
+        <translation>撤销或重做期间不接受请求；未执行任何操作。</translation>
+    </message>
+    <message>
+        <source>A listener closed the project &quot;%1&quot; before the request was carried out.</source>
+        <translation>在执行请求之前，监听器已关闭项目“%1”。</translation>
     </message>
 </context>
 <context>

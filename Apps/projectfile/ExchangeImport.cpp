@@ -202,7 +202,7 @@ void MaterialImport::addProperty(const JsonNode& json, const std::string& path)
     takeNameAndKey(*property, json, path);
     takeNumber(*property, json, path);
     if (quantity == nullptr)
-        doubtProperty(*property, tr("the catalogue does not know it; its unit, description and category are lost"));
+        doubtProperty(*property, tr("it is not in the catalogue; its unit, description and category are lost"));
     if (material->hasProperty(id))
         doubtProperty(*property, tr("the document has it more than once; the last one was used"));
     // Copies of materials hold plain properties too.

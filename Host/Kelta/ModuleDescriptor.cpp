@@ -96,7 +96,7 @@ void refuseUnknownMembers(const QJsonObject& json)
     static const QStringList known{"module", "version", "host", "library", "entries", "needs"};
     for (const QString& member : json.keys())
         if (!known.contains(member))
-            refuse(tr("\"%1\" in the descriptor is not known; known are %2")
+            refuse(tr("\"%1\" in the descriptor is unknown; the known members are %2")
                        .arg(member, known.join(QStringLiteral(", "))));
 }
 
@@ -104,7 +104,7 @@ QString readModule(const QJsonObject& json, const QString& path)
 {
     QString module = textOf(json, QStringLiteral("module"));
     if (module + QLatin1String(descriptorSuffix) != QFileInfo(path).fileName())
-        refuse(tr(R"("module" in the descriptor is "%1"; the file is not called after it)").arg(module));
+        refuse(tr("\"module\" in the descriptor is \"%1\", which differs from the name of the file").arg(module));
     return module;
 }
 

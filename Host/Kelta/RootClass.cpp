@@ -76,7 +76,7 @@ void RootClass::initSubclass(TypeInfo& classTypeId, const char* name, const char
         return refuse(QString(), tr("it has no name"));
     const TypeRecord* record = findTypeRecord(name);
     if (record == nullptr && descendsFrom(parent, name))
-        return refuse(QString::fromUtf8(name), tr("it would descend from itself"));
+        return refuse(QString::fromUtf8(name), tr("it would be derived from itself"));
 
     if (record == nullptr)
         record = addTypeRecord({name, std::string(parent), create, objectSize});

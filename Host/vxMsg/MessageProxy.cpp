@@ -46,8 +46,7 @@ bool isOpen(const Obj::Project& project)
 /// A request of a listener while a step is undone or redone would change the running stack.
 bool mayAct()
 {
-    return !History::isUndoing() ||
-           report(tr("Nothing can be requested while something is undone or redone; nothing was done."));
+    return !History::isUndoing() || report(tr("Requests are refused during undo and redo; nothing was done."));
 }
 
 QString labelOf(const Obj::ProjectObject& object)
@@ -194,7 +193,7 @@ bool MessageProxy::mayClose(Obj::Project& project)
     projectClosing(project, refused);
     m_closingProjects.erase(project.getProjectId());
     if (!refused && !isOpen(project))
-        return report(tr("The project \"%1\" was closed while its listeners were asked.").arg(name));
+        return report(tr("A listener closed the project \"%1\" before the request was carried out.").arg(name));
     return !refused;
 }
 

@@ -73,7 +73,7 @@ bool Opening::openFile(const QString& path)
     projectfile::ProjectRecord record = projectfile::readProject(projectfile::readFile(path, &stamp));
     Obj::Project* const project = makeProject(record, path);
     if (project == nullptr)
-        throw projectfile::ContentError(tr("The message log says why.").toStdString());
+        throw projectfile::ContentError(tr("The message log gives the reason.").toStdString());
     Session& session = *m_sessions.find(*project);
     session.path = path;
     session.stamp = stamp;

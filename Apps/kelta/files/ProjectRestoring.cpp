@@ -73,7 +73,8 @@ private:
     {
         Obj::ProjectObject* const object = makeObject(entry);
         if (object == nullptr)
-            refuse(tr(R"(The object "%1" of the class "%2" cannot be added to the project. The message log says why.)")
+            refuse(tr("The object \"%1\" of the class \"%2\" cannot be added to the project. The message log gives the "
+                      "reason.")
                        .arg(labelOf(entry), classOf(entry)));
         object->label.setValue(entry.label);
         object->setSuppressed(entry.suppressed);
@@ -187,7 +188,7 @@ private:
         QStringList list;
         for (const std::string& name : m_missingClasses)
             list << QString::fromStdString(name);
-        m_warnings.push_back(tr("The module of these classes is missing: %1. Their objects are kept as they are.")
+        m_warnings.push_back(tr("The module of these classes is missing: %1. Their objects are kept unchanged.")
                                  .arg(list.join(QStringLiteral(", ")))
                                  .toStdString());
     }

@@ -42,19 +42,18 @@ bool Questions::mayUse(projectfile::FileLock& lock, const QString& path) const
         return true;
     const Question question{QMessageBox::Warning, tr("File in use"),
                             tr("\"%1\" is in use by %2.").arg(shownPath(path), lock.holder()),
-                            tr("What is saved by one of the programs replaces what the other one saved.")};
-    return ask(question,
-               {{tr("&Use all the same"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
+                            tr("If both programs save the file, the later save replaces the earlier one.")};
+    return ask(question, {{tr("&Use anyway"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
 bool Questions::mayReplace(const QString& path, Difference difference) const
 {
     const QString time = QLocale().toString(QFileInfo(path).lastModified(), QLocale::ShortFormat);
     const QString text = difference == Difference::OlderThanRecoveredProject
-                             ? tr("\"%1\" has been there since %2, before the project was recovered.")
+                             ? tr("\"%1\" was last changed on %2, before the project was recovered.")
                              : tr("\"%1\" has been changed by another program, on %2.");
     const Question question{QMessageBox::Warning, tr("Save project"), text.arg(shownPath(path), time),
-                            tr("What is in the file now is lost when it is replaced.")};
+                            tr("Replacing the file deletes its present content.")};
     return ask(question, {{tr("&Replace"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 

@@ -42,7 +42,7 @@ bool Saving::saveTo(Obj::Project& project, const QString& path)
 {
     const std::uint32_t projectId = project.getProjectId();
     if (!askToApply(m_mainWindow, project,
-                    {tr("Save project"), tr("Only what has been applied is saved."), tr("&Save without them")}))
+                    {tr("Save project"), tr("The file contains only applied changes."), tr("&Save without them")}))
         return false;
     // The project may have been closed while the user answered.
     if (Obj::Application::instance().get_project(projectId) == nullptr)

@@ -47,7 +47,7 @@ private:
 
     void record()
     {
-        Kelta::guarded(EditorWatch::tr("What was changed in an editor cannot be recorded"), [&] {
+        Kelta::guarded(EditorWatch::tr("The changes in an editor cannot be recorded"), [&] {
             vxMat::restoreCatalogueTexts(*material().getCMaterial());
             if (m_before != nullptr)
                 recordChange(material(), std::move(m_before));

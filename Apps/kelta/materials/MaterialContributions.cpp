@@ -61,15 +61,17 @@ void addWelcome(Gui::Contributions& contributions)
         {WelcomeStep::NoProject,
          "",
          {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "No project is open")},
-         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "A material project holds the materials of a model. "
-                                                               "Begin with a new one, or open a saved one.")},
+         {welcomeContext,
+          QT_TRANSLATE_NOOP("MaterialWelcome",
+                            "A material project holds the materials of a model. Make a new one, or open a saved one.")},
          {"Mat_NewDoc"}});
     contributions.addWelcomeEntry(
         {WelcomeStep::EmptyProject,
          projectClass,
          {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "The project has no materials yet")},
-         {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "Add a material; it begins as structural steel, and the "
-                                                               "editor offers 25 others and every quantity.")},
+         {welcomeContext,
+          QT_TRANSLATE_NOOP("MaterialWelcome", "Add a material. It has the values of structural steel; the editor "
+                                               "offers 25 other materials and all quantities.")},
          {"Mat_AddMaterial"}});
     contributions.addWelcomeEntry(
         {WelcomeStep::NoDocument,

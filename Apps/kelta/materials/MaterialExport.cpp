@@ -39,7 +39,7 @@ QString describe(const vxCAE::ExportObstacle& obstacle, const Mat::MaterialObjec
     const QString name = QString::fromStdString(property->name);
     if (obstacle.fault == vxCAE::ExportFault::NegativeSlot)
         return tr("The property \"%1\" of \"%2\" has the number %3. Readers of exchange documents refuse numbers below "
-                  "0. Make the material anew without this property, then export again.")
+                  "0. Make the material again without this property, then export again.")
             .arg(name, labelOf(object), QString::number(slot));
     return tr("The value of \"%1\" of \"%2\" is %3. An exchange document contains only finite numbers. Change the "
               "value, "

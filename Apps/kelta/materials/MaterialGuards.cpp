@@ -85,7 +85,8 @@ QString findObstacle()
     if (open.empty())
         return tr("No material project is open. Open one, then export it.");
     if (open.size() > 1)
-        return tr("Material projects that are open: %1. Only a single one can be exported. Close the others first.")
+        return tr("Material projects that are open: %1. Only one project can be exported. Close the other projects "
+                  "first.")
             .arg(open.size());
     return {};
 }
@@ -106,7 +107,7 @@ void guardExport(const Run& run)
         return refuse(title, obstacle);
     const std::uint32_t projectId = materialProjects().front()->getProjectId();
     if (!askToApply(*Gui::MainWindow::get_main_window_inst(), *materialProjects().front(),
-                    {title, tr("Only what has been applied is exported."), tr("&Export without them")}))
+                    {title, tr("The export contains only applied changes."), tr("&Export without them")}))
         return;
     const QString path = askForFile();
     // The project may have been closed while the user answered.

@@ -57,7 +57,7 @@ Failure useLibraryMaterial(const QStringList& arguments)
 {
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr || arguments.size() != 1)
-        return tr("the name of a library material, and one selected material, are needed");
+        return tr("give the name of a library material, and select exactly one material");
     for (const auto& [type, material] : object->getMatMgr().materials) {
         if (!isSame(material->name, arguments[0]))
             continue;
@@ -109,7 +109,7 @@ Failure setNamedQuantity(const QStringList& arguments)
 {
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr || arguments.size() != 2)
-        return tr("a quantity and its value, and one selected material, are needed");
+        return tr("give a quantity and its value, and select exactly one material");
     for (const auto& [id, quantity] : object->getMatMgr().propertyCatalogue)
         if (isSame(quantity->name, arguments[0]) || isSame(quantity->key, arguments[0]))
             return setQuantity(*object, *quantity, arguments[1].toStdString());
@@ -119,7 +119,7 @@ Failure setNamedQuantity(const QStringList& arguments)
 Failure clearMaterial(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
-        return tr("no argument is taken");
+        return tr("arguments are not allowed here");
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr)
         return tr("one selected material is needed");
@@ -133,7 +133,7 @@ Failure clearMaterial(const QStringList& arguments)
 Failure checkMaterials(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
-        return tr("no argument is taken");
+        return tr("arguments are not allowed here");
     const Mat::DocumentMaterial* const project = findProject();
     if (project == nullptr)
         return tr("there is no material project");
@@ -145,7 +145,7 @@ Failure checkMaterials(const QStringList& arguments)
 Failure makeProject(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
-        return tr("no argument is taken");
+        return tr("arguments are not allowed here");
     if (const Obj::Project* const open = findProject())
         return tr("the material project \"%1\" is open; close it first with select-project and Mat_DelDoc")
             .arg(QString::fromUtf8(open->get_name()));
@@ -162,7 +162,7 @@ Failure exportMaterials(const QStringList& arguments)
 Failure printCards(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
-        return tr("no argument is taken");
+        return tr("arguments are not allowed here");
     const Mat::DocumentMaterial* const project = findProject();
     if (project == nullptr)
         return tr("there is no material project");

@@ -84,7 +84,7 @@ std::optional<QString> selectLabels(const QStringList& labels)
                 if (object->label.getValue() == label.toStdString())
                     objects.push_back(object);
         if (objects.size() == before)
-            return tr("nothing in the current project is labelled \"%1\"").arg(label);
+            return tr("the current project has no object with the label \"%1\"").arg(label);
     }
     Gui::TreeSelectionSingleton::instance().setSelection({}, objects);
     return std::nullopt;
@@ -117,7 +117,7 @@ std::optional<QString> takeScreenshot(const QStringList& arguments)
 std::optional<QString> saveDatabase(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
-        return tr("no argument is taken");
+        return tr("arguments are not allowed here");
     QTextStream(stdout) << QString::fromStdString(Obj::Application::instance().save_jsonDB().toStyledString());
     return std::nullopt;
 }
@@ -125,7 +125,7 @@ std::optional<QString> saveDatabase(const QStringList& arguments)
 std::optional<QString> handOver(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
-        return tr("no argument is taken");
+        return tr("arguments are not allowed here");
     const Obj::Project* const project = Obj::Application::get_current_project();
     if (project == nullptr)
         return tr("no project is open");

@@ -41,7 +41,7 @@ std::optional<QString> setProperty(const QStringList& arguments)
 {
     Obj::ProjectObject* const object = selectedObject();
     if (arguments.size() != 2 || object == nullptr)
-        return tr("the name of a property, a value, and one selected object are needed");
+        return tr("give the name of a property and a value, and select exactly one object");
     return set(*object, arguments[0], arguments[1]);
 }
 
@@ -49,7 +49,7 @@ std::optional<QString> setLabel(const QStringList& arguments)
 {
     Obj::ProjectObject* const object = selectedObject();
     if (arguments.size() != 1 || object == nullptr)
-        return tr("one label, and one selected object, are needed");
+        return tr("give a label, and select exactly one object");
     return set(*object, QStringLiteral("Label"), arguments[0]);
 }
 
@@ -57,7 +57,7 @@ std::optional<QString> printProperties(const QStringList& arguments)
 {
     const Obj::ProjectObject* const object = selectedObject();
     if (!arguments.isEmpty() || object == nullptr)
-        return tr("one selected object, and no argument, are needed");
+        return tr("select exactly one object, and give no argument");
     std::vector<Obj::Property*> properties;
     object->get_property_array(properties);
     QTextStream out(stdout);

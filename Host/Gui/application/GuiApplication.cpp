@@ -102,7 +102,7 @@ void GuiApplication::disconnect_view(BaseView* view)
 bool GuiApplication::notify(QObject* receiver, QEvent* event)
 {
     bool handled = false;
-    Kelta::guarded(tr("Something went wrong"), [&] { handled = QApplication::notify(receiver, event); });
+    Kelta::guarded(tr("An error occurred"), [&] { handled = QApplication::notify(receiver, event); });
     return handled;
 }
 

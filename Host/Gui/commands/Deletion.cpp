@@ -55,8 +55,7 @@ bool mayDelete(const TreeSelectionSingleton& selection)
     if (needy.isEmpty())
         return true;
     QMessageBox box(QMessageBox::Question, tr("Delete objects"),
-                    tr("These objects need what is to be deleted, and lose their references to it: %1.\n"
-                       "Delete all the same?")
+                    tr("These objects refer to the objects to be deleted, and lose the references: %1.\nDelete anyway?")
                         .arg(listOf(needy)),
                     QMessageBox::Yes | QMessageBox::No, MainWindow::get_main_window_inst());
     box.setTextFormat(Qt::PlainText);

@@ -114,12 +114,12 @@ std::vector<CommandRow> historyRows(QUndoStack& history)
 {
     return {
         {"Std_Undo", QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"), "kelta_undo", QKeySequence::Undo,
+         QT_TRANSLATE_NOOP("StandardCommand", "Undo the last change"), "kelta_undo", QKeySequence::Undo,
          CommandType::none, [&history] { stackToUndo(history).undo(); },
          [&history] { return stackToUndo(history).canUndo(); }},
         {"Std_Redo", QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"), "kelta_redo",
-         QKeySequence::Redo, CommandType::none, [&history] { stackToRedo(history).redo(); },
+         QT_TRANSLATE_NOOP("StandardCommand", "Redo the change that was undone last"), "kelta_redo", QKeySequence::Redo,
+         CommandType::none, [&history] { stackToRedo(history).redo(); },
          [&history] { return stackToRedo(history).canRedo(); }},
     };
 }
@@ -151,7 +151,7 @@ std::vector<CommandRow> deletionRows(vxMsg::MessageProxy& requests, const TreeSe
          [&selection] { return !selectedIn(selection).empty(); }},
         {"Std_CloseProject",
          QT_TRANSLATE_NOOP("StandardCommand", "&Close project"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Close the selected project, or else the one of the selected object"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Close the selected project, or the project of the selected object"),
          "",
          {},
          CommandType::none,
@@ -165,7 +165,7 @@ std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const Tre
     return {
         {"Std_Suppress",
          QT_TRANSLATE_NOOP("StandardCommand", "&Suppress"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Take the selected objects out of use"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Suppress the selected objects: they are not used, but not deleted"),
          "",
          {},
          CommandType::onTree,
@@ -173,7 +173,7 @@ std::vector<CommandRow> suppressionRows(vxMsg::MessageProxy& requests, const Tre
          [&selection] { return canSuppress(selection, true); }},
         {"Std_Unsuppress",
          QT_TRANSLATE_NOOP("StandardCommand", "U&nsuppress"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Take the selected objects into use again"),
+         QT_TRANSLATE_NOOP("StandardCommand", "End the suppression of the selected objects"),
          "",
          {},
          CommandType::onTree,

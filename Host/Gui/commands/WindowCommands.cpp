@@ -126,7 +126,7 @@ std::vector<CommandRow> programRows()
          [] { mainWindow()->close(); }, hasWindow},
         {"Std_About",
          QT_TRANSLATE_NOOP("StandardCommand", "&About"),
-         QT_TRANSLATE_NOOP("StandardCommand", "What this program is"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show information about the program"),
          "",
          {},
          CommandType::none,

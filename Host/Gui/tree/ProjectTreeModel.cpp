@@ -79,8 +79,7 @@ const Obj::Placeholder* placeholderOf(const Kelta::RootClass& thing)
 QString missingClassText(const Obj::Placeholder& placeholder)
 {
     return ProjectTreeModel::tr(
-               "The module for \"%1\" is not loaded. The data are kept as they are and saved again, but "
-               "cannot be edited.")
+               "The module for \"%1\" is not loaded. Its data are saved unchanged, but cannot be edited.")
         .arg(QString::fromStdString(placeholder.getOriginalClass()));
 }
 

@@ -20,9 +20,9 @@ MDIWindow* makeEditor(MainWindow& mainWindow, GuiProject& project, Obj::ProjectO
     auto* const window = dynamic_cast<MDIWindow*>(created.get());
     if (window == nullptr) {
         Kelta::MessageLog::error(
-            QCoreApplication::translate("Gui::CoreEditor",
-                                        "\"%1\" cannot be opened: its editor \"%2\" is missing. The module that has it "
-                                        "may not be loaded.")
+            QCoreApplication::translate(
+                "Gui::CoreEditor",
+                "\"%1\" cannot be opened: its editor \"%2\" is missing. The module of the editor may not be loaded.")
                 .arg(QString::fromStdString(object.label.getValue()), QString::fromUtf8(className)));
         return nullptr;
     }

@@ -24,7 +24,7 @@ struct HostTexts
 
 constexpr HostTexts hostTexts[] = {
     {QT_TRANSLATE_NOOP("Gui::WelcomePage", "No project is open"),
-     QT_TRANSLATE_NOOP("Gui::WelcomePage", "Begin with a new project, or open a saved one.")},
+     QT_TRANSLATE_NOOP("Gui::WelcomePage", "Make a new project, or open a saved one.")},
     {QT_TRANSLATE_NOOP("Gui::WelcomePage", "The project is empty"),
      QT_TRANSLATE_NOOP("Gui::WelcomePage", "The project menu offers what can be added.")},
     {QT_TRANSLATE_NOOP("Gui::WelcomePage", "No document is open"),
@@ -33,7 +33,8 @@ constexpr HostTexts hostTexts[] = {
 
 constexpr HostTexts withoutModules = {
     QT_TRANSLATE_NOOP("Gui::WelcomePage", "No module is loaded"),
-    QT_TRANSLATE_NOOP("Gui::WelcomePage", "The messages say which modules could not be loaded, and why.")};
+    QT_TRANSLATE_NOOP("Gui::WelcomePage",
+                      "The message log names the modules that could not be loaded, and the reasons.")};
 
 WelcomeStep stepOf(const Obj::Project* project)
 {

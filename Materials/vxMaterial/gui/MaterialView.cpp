@@ -38,7 +38,7 @@ bool guarded(const Action& action)
         return true;
     } catch (...) {
         Mat::showCritical(MaterialView::tr("Material editor"),
-                          MaterialView::tr("Something went wrong: %1").arg(Kelta::currentExceptionText()));
+                          MaterialView::tr("An error occurred: %1").arg(Kelta::currentExceptionText()));
         return false;
     }
 }

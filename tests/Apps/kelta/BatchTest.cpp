@@ -88,9 +88,9 @@ TEST_F(Batch, FailsWhenTheMaterialsAreNotReady)
 TEST_F(Batch, RefusesWrongArguments)
 {
     for (const auto& [line, reason] :
-         {std::pair("select Nobody", "nothing in the current project is labelled"),
-          std::pair("label", "one label, and one selected object, are needed"),
-          std::pair("label A B", "one label, and one selected object, are needed"),
+         {std::pair("select Nobody", "the current project has no object with the label"),
+          std::pair("label", "give a label, and select exactly one object"),
+          std::pair("label A B", "give a label, and select exactly one object"),
           std::pair("select-project Nowhere", "there is no such project"),
           std::pair("use Unobtainium", "the library has no material \"Unobtainium\""),
           std::pair("set Colour 7", "the catalogue has no quantity \"Colour\""),
@@ -100,9 +100,11 @@ TEST_F(Batch, RefusesWrongArguments)
           std::pair("set E \"210 GPa\"", "would be read as \"210\""),
           std::pair("screenshot", "one file name is needed"),
           std::pair("screenshot no/such/folder.png", "cannot be written"),
-          std::pair("database all", "no argument is taken"), std::pair("collect all", "no argument is taken"),
-          std::pair("clear all", "no argument is taken"), std::pair("cards all", "no argument is taken"),
-          std::pair("check all", "no argument is taken")})
+          std::pair("database all", "arguments are not allowed here"),
+          std::pair("collect all", "arguments are not allowed here"),
+          std::pair("clear all", "arguments are not allowed here"),
+          std::pair("cards all", "arguments are not allowed here"),
+          std::pair("check all", "arguments are not allowed here")})
     {
         SCOPED_TRACE(line);
         const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\nMat_AddMaterial\nselect Material\n") + line + "\n");

@@ -119,7 +119,7 @@ TEST(RootClass, RefusesAClassThatWouldDescendFromItself)
     RootClass::initSubclass(hen, "Test::Hen", "Test::Chick", nullptr);
     EXPECT_FALSE(hen.namesAType());
     EXPECT_EQ(reports.errors(), 2);
-    EXPECT_THAT(reports.text(), HasSubstr("\"Test::Hen\" cannot be registered: it would descend from itself"));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Test::Hen\" cannot be registered: it would be derived from itself"));
 }
 
 TEST(RootClass, MayBeTheRootOfALineOfItsOwn)

@@ -48,7 +48,7 @@ TEST_F(ApplicationTest, MakesNothingOfAClassThatIsNotRegisteredOrNoProject)
     EXPECT_EQ(reports.errors(), 4);
     EXPECT_THAT(reports.text(), HasSubstr("No project of class \"Test::Nobody\" was made: this class is not known."));
     EXPECT_THAT(reports.text(), HasSubstr("\"vxtest::Part\" was made: this is not a class of projects."));
-    EXPECT_THAT(reports.text(), HasSubstr("\"Obj::Project\" was made: the class created none."));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Obj::Project\" was made: the class cannot create objects."));
     EXPECT_THAT(openProjects(), IsEmpty());
 }
 

@@ -108,7 +108,7 @@ TEST_F(PlaceholderTest, IsNotMadeByItsName)
     EXPECT_EQ(m_assembly.add_object("Obj::PlaceholderObject", "Bolt"), nullptr);
     EXPECT_EQ(application().createProject("Obj::PlaceholderProject", "Machine"), nullptr);
     EXPECT_EQ(reports.errors(), 2);
-    EXPECT_THAT(reports.text(), HasSubstr("the class created none"));
+    EXPECT_THAT(reports.text(), HasSubstr("the class cannot create objects"));
 }
 
 TEST_F(PlaceholderTest, TakesARecordOfAnyForm)

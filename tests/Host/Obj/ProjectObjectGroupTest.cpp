@@ -136,7 +136,8 @@ TEST_F(ProjectObjectGroupTest, CannotBeInsideItselfOrItsMembers)
     EXPECT_FALSE(inner.addMember(outer));
     EXPECT_FALSE(inner.addMember(middle));
     EXPECT_EQ(reports.errors(), 3);
-    EXPECT_THAT(reports.text(), testing::HasSubstr("\"outer\" cannot be put into \"inner\", which is a part of it"));
+    EXPECT_THAT(reports.text(),
+                testing::HasSubstr("\"outer\" cannot be a member of \"inner\", because \"inner\" is inside it"));
     EXPECT_EQ(outer.getParentGroup(), nullptr);
     EXPECT_THAT(inner.getMembers(), IsEmpty());
 }

@@ -285,7 +285,7 @@ TEST_F(ProjectObjectTest, RefusesLinksToOtherProjectsAndToItself)
     EXPECT_FALSE(here.linkTo(loose));
     EXPECT_FALSE(loose.linkTo(here));
     EXPECT_EQ(reports.errors(), 3);
-    EXPECT_THAT(reports.text(), HasSubstr("\"a\" cannot be linked to \"b\": they are not in one project"));
+    EXPECT_THAT(reports.text(), HasSubstr("\"a\" cannot be linked to \"b\": both must be in the same project"));
     EXPECT_FALSE(here.linkTo(here));
     EXPECT_THAT(here.get_linked_objects(), IsEmpty());
     EXPECT_THAT(there.get_linked_objects(), IsEmpty());

@@ -106,7 +106,7 @@ TEST_F(ProjectTest, AddsNothingOfAClassThatIsNotRegisteredOrNoObject)
     EXPECT_THAT(reports.text(), HasSubstr("No object of class \"Test::Nobody\" was added to the project \"Assembly\": "
                                           "this class is not known."));
     EXPECT_THAT(reports.text(), HasSubstr("this is not a class of objects of a project"));
-    EXPECT_THAT(reports.text(), HasSubstr("the class created none"));
+    EXPECT_THAT(reports.text(), HasSubstr("the class cannot create objects"));
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_EQ(m_assembly.addPart().getObjectId(), 1U);
 }
@@ -284,7 +284,7 @@ TEST_F(ProjectTest, GivesAnObjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
     const vxtest::Reports reports;
     ASSERT_EQ(m_assembly.restoreObject(std::move(away)), &first);
     EXPECT_EQ(reports.warnings(), 1);
-    EXPECT_THAT(reports.text(), HasSubstr("\"Bolt\" came back as \"Bolt1\""));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Bolt\" was restored as \"Bolt1\""));
     EXPECT_EQ(m_assembly.get_object("Bolt"), &second);
     EXPECT_EQ(m_assembly.get_object("Bolt1"), &first);
     EXPECT_TRUE(m_assembly.removeObject(1));

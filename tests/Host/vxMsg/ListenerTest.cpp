@@ -34,7 +34,7 @@ TEST_F(ListenerTest, MayCloseTheProjectDirectlyWhenAskedWhetherItMayClose)
     const vxtest::Reports reports;
     EXPECT_FALSE(closeProject("Machine"));
     EXPECT_THAT(told, ElementsAre("Machine")) << "the next listener gets a complete project";
-    EXPECT_THAT(reports.text(), HasSubstr("\"Machine\" was closed while its listeners were asked"));
+    EXPECT_THAT(reports.text(), HasSubstr("A listener closed the project \"Machine\""));
     EXPECT_THAT(projects(), IsEmpty());
     EXPECT_EQ(stack().count(), 0);
 }

@@ -350,7 +350,7 @@ TEST_F(MessageProxyTest, RefusesRequestsOfListenersDuringAnUndo)
     stack().redo();
     EXPECT_THAT(answers, ElementsAre(false, false, false, false));
     EXPECT_EQ(reports.errors(), 4);
-    EXPECT_THAT(reports.text(), HasSubstr("Nothing can be requested while something is undone or redone"));
+    EXPECT_THAT(reports.text(), HasSubstr("Requests are refused during undo and redo"));
     EXPECT_THAT(names(), ElementsAre("Bolt"));
     EXPECT_THAT(projects(), ElementsAre("Machine"));
     EXPECT_EQ(stack().count(), 1);

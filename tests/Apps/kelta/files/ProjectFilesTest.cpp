@@ -612,7 +612,7 @@ TEST_F(ProjectFiles, WarnOfASecondProgramOnTheSameFile)
         EXPECT_THAT(text(answers.boxes()), HasSubstr("is in use by"));
     }
     EXPECT_EQ(currentProject(), nullptr);
-    const Answers answers({"Use all the same"});
+    const Answers answers({"Use anyway"});
     run("Std_Open", path("a.vxmat"));
     EXPECT_NE(currentProject(), nullptr);
 }

@@ -193,7 +193,7 @@ TEST_F(Export, RefusesAPropertyThatReadersOfDocumentsRefuse)
     steel.getCMaterial()->setProperty(-3, std::move(odd));
     EXPECT_EQ(exportAnswering(QMessageBox::Ok),
               "The property \"Odd\" of \"Steel\" has the number -3. Readers of exchange documents refuse numbers below "
-              "0. Make the material anew without this property, then export again.");
+              "0. Make the material again without this property, then export again.");
     EXPECT_FALSE(QFile::exists(file));
 }
 
@@ -212,7 +212,7 @@ TEST_F(Export, SaysThatItNeedsASingleProject)
 {
     newProject("Second");
     EXPECT_EQ(exportAnswering(QMessageBox::Ok),
-              "Material projects that are open: 2. Only a single one can be exported. Close the others first.");
+              "Material projects that are open: 2. Only one project can be exported. Close the other projects first.");
     EXPECT_FALSE(QFile::exists(file));
 }
 

@@ -127,7 +127,7 @@ TEST_F(Verbs, SetALabelAsAProperty)
     EXPECT_EQ(steel.label.getValue(), "Frame");
     EXPECT_EQ(run("label", {""}), "The label must not be empty; nothing was changed.");
     EXPECT_EQ(run("property", {"Label", ""}), "The label must not be empty; nothing was changed.");
-    EXPECT_EQ(run("label"), "one label, and one selected object, are needed");
+    EXPECT_EQ(run("label"), "give a label, and select exactly one object");
     EXPECT_EQ(steel.label.getValue(), "Frame");
 }
 

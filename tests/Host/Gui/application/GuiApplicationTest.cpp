@@ -36,7 +36,7 @@ TEST_F(Application, DoesNotEndByWhatReachesItsEventLoop)
     Thrower thrower([] { throw std::runtime_error("no more memory cards"); });
     QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
     QCoreApplication::processEvents();
-    EXPECT_EQ(lastMessage(), "Something went wrong: no more memory cards");
+    EXPECT_EQ(lastMessage(), "An error occurred: no more memory cards");
     Thrower other([] { throw 42; });
     QCoreApplication::postEvent(&other, new QEvent(QEvent::User));
     QCoreApplication::processEvents();

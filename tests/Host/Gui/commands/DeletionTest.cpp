@@ -104,8 +104,8 @@ TEST_F(Deletion, NamesTheObjectsThatNeedWhatIsDeleted)
         EXPECT_EQ(boxes.shown().front().icon, QMessageBox::Question);
         EXPECT_EQ(boxes.shown().front().title, "Delete objects");
         EXPECT_EQ(boxes.shown().front().text,
-                  "These objects need what is to be deleted, and lose their references to it: \"Plate\", \"Joint\".\n"
-                  "Delete all the same?");
+                  "These objects refer to the objects to be deleted, and lose the references: \"Plate\", \"Joint\".\n"
+                  "Delete anyway?");
         EXPECT_EQ(boxes.shown().front().parent, window.get());
     }
     EXPECT_THAT(project.getObjects(), SizeIs(4));

@@ -469,8 +469,8 @@ TEST_F(Tree, ShowsWhatBelongsToAMissingModuleGreyedAndSaysWhy)
     EXPECT_EQ(tree.indexOf(object).data().toString(), "Bolt");
     EXPECT_TRUE(isGrey(tree.indexOf(object)));
     EXPECT_EQ(tree.indexOf(object).data(Qt::ToolTipRole).toString(),
-              "Bolt\nThe module for \"Lost::Bolt\" is not loaded. The data are kept as they are and saved again, but "
-              "cannot be edited.");
+              "Bolt\nThe module for \"Lost::Bolt\" is not loaded. Its data are saved unchanged, but cannot be "
+              "edited.");
     EXPECT_FALSE(isGrey(tree.indexOf(project)));
     const Obj::Project* const lost = Gui::GuiApplication::Instance->requests().openProject(
         Obj::OwnedProject(new Obj::PlaceholderProject("Lost::Assembly", Json::Value())), "Assembly",

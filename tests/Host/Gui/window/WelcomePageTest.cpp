@@ -38,7 +38,7 @@ TEST_F(WithoutModule, TheWelcomePageSaysWhatIsMissing)
 {
     window->updateCommands();
     EXPECT_EQ(title(), "No module is loaded");
-    EXPECT_EQ(text(), "The messages say which modules could not be loaded, and why.");
+    EXPECT_EQ(text(), "The message log names the modules that could not be loaded, and the reasons.");
     EXPECT_EQ(visibleButtons(), QStringList());
 }
 

@@ -484,7 +484,7 @@ TEST(MaterialView, ReportsWhatASlotThrowsAndLeavesMaterialAndTable)
     {
         MessageBoxes boxes;
         editor.doubleClick(editor.item("Concrete"));
-        expectOneBox(boxes, "Material editor", "Something went wrong: no memory");
+        expectOneBox(boxes, "Material editor", "An error occurred: no memory");
     }
     EXPECT_EQ(editor.rowIds(), rows);
     EXPECT_EQ(checkedItems(editor), checked);
@@ -495,7 +495,7 @@ TEST(MaterialView, ReportsWhatASlotThrowsAndLeavesMaterialAndTable)
         MessageBoxes boxes;
         editor.table().model()->setData(editor.table().model()->index(0, 0), "33");
         EXPECT_FALSE(apply(editor));
-        expectOneBox(boxes, "Material editor", "Something went wrong: no memory");
+        expectOneBox(boxes, "Material editor", "An error occurred: no memory");
     }
     translator.armed = false;
     QCoreApplication::removeTranslator(&translator);
@@ -735,7 +735,7 @@ TEST(MaterialView, AsksAgainAfterApplyingHasThrown)
     translator.armed = false;
     QCoreApplication::removeTranslator(&translator);
     ASSERT_EQ(boxes.size(), 2U);
-    EXPECT_EQ(boxes[1].text, "Something went wrong: no memory");
+    EXPECT_EQ(boxes[1].text, "An error occurred: no memory");
     ASSERT_NE(editor.view(), nullptr);
     EXPECT_EQ(closeAnswering(QMessageBox::Discard).size(), 1U);
     EXPECT_TRUE(editor.isClosed());

@@ -52,6 +52,8 @@ public:
     Project* createProject(const char* className, std::string_view name);
     /// Adds an existing project, not null and never in the application before, in the same way.
     Project* addProject(OwnedProject project, std::string_view name);
+    /// Gives an open project another name. Returns false if the name is empty, or if another open project has it.
+    bool renameProject(Project& project, std::string_view name);
     /// Makes an open project the current one.
     void setCurrentProject(Project& project);
 

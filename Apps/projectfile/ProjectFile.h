@@ -65,6 +65,9 @@ struct PROJECTFILE_EXPORT ProjectRecord
     /// Only in a recovery copy: the path, in UTF-8, of the file from which the project was opened or to which it was
     /// last saved; empty if there is no such file. Absent in a file that the user saved.
     std::optional<std::string> recoveredFile;
+    /// Only in a recovery copy: the edits in open editors that were not applied, in the form that the application uses; an
+    /// array or null.
+    Json::Value unappliedEdits;
     Json::Value further; ///< unknown members of the file, which are written back
 
     /// Messages about data that the reader corrected, in the user's language: a label that differs in the database

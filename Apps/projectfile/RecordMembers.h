@@ -124,6 +124,7 @@ void visitProjectMembers(Text& format, Version& version, ClassName& className, P
     visit("name", Required{project.name});
     visit("next_object_id", Required{project.nextObjectId});
     visit("recovered_file", project.recoveredFile);
+    visit("unapplied_edits", Optional{project.unappliedEdits});
     visit("properties", OptionalObject{project.properties});
     visit("record", Optional{project.record});
     visit("database", project.database);

@@ -5,9 +5,20 @@
 #include <QObject>
 #include <QString>
 
+#include <cstdint>
 #include <deque>
 
 namespace Kelta {
+
+/// The object that a message is about, and a part of it, to which the log window leads the user.
+struct LogLink
+{
+    std::uint32_t projectId = 0; ///< 0 for a message that is not about an object
+    std::uint32_t objectId = 0;
+    int part = 0; ///< the number by which the editor of the object knows the part; 0 for the whole object
+
+    bool isSet() const { return projectId != 0; }
+};
 
 /// One line of the message log.
 struct LogMessage
@@ -20,6 +31,7 @@ struct LogMessage
     };
     Severity severity;
     QString text;
+    LogLink link = {};
 };
 
 /// The messages of the program that need no reply. The log window shows them; a program without windows
@@ -33,13 +45,19 @@ class KELTA_EXPORT MessageLog : public QObject
 public:
     static MessageLog& instance();
 
-    static void information(const QString& text) { instance().report(LogMessage::Severity::Information, text); }
-    static void warning(const QString& text) { instance().report(LogMessage::Severity::Warning, text); }
+    static void information(const QString& text, const LogLink& link = {})
+    {
+        instance().report(LogMessage::Severity::Information, text, link);
+    }
+    static void warning(const QString& text, const LogLink& link = {})
+    {
+        instance().report(LogMessage::Severity::Warning, text, link);
+    }
     static void error(const QString& text) { instance().report(LogMessage::Severity::Error, text); }
 
     /// Adds a message and notifies the listeners. Exceptions of listeners do not pass through: they become errors in
     /// the log, which are not sent to the listeners.
-    void report(LogMessage::Severity severity, const QString& text);
+    void report(LogMessage::Severity severity, const QString& text, const LogLink& link = {});
 
     /// Returns the latest messages, the oldest first, at most `capacity` of them.
     const std::deque<LogMessage>& messages() const { return m_messages; }
@@ -53,7 +71,7 @@ Q_SIGNALS:
     void reported(const Kelta::LogMessage& message);
 
 private:
-    void add(LogMessage::Severity severity, const QString& text);
+    void add(const LogMessage& message);
 
     std::deque<LogMessage> m_messages;
     std::size_t m_errorCount = 0;

@@ -121,6 +121,16 @@ Project* Application::addProject(OwnedProject project, std::string_view name)
     return restoreProject(std::move(project));
 }
 
+bool Application::renameProject(Project& project, std::string_view name)
+{
+    const Project* const holder = get_project(name);
+    if (name.empty() || (holder != nullptr && holder != &project))
+        return false;
+    project.m_name = name;
+    project.changed(nullptr);
+    return true;
+}
+
 void Application::setCurrentProject(Project& project)
 {
     if (get_project(project.m_projectId) == &project)

@@ -52,6 +52,8 @@ public:
     Project* createProject(const char* className, std::string_view name);
     /// Adds an existing project in the same way. It must not be null, nor have been in the application before.
     Project* addProject(OwnedProject project, std::string_view name);
+    /// Gives an open project another name. Returns false if the name is empty, or if another open project has it.
+    bool renameProject(Project& project, std::string_view name);
     /// Makes an open project the current one.
     void setCurrentProject(Project& project);
 

@@ -123,6 +123,7 @@ public:
     Signal<void(ProjectObject&)> objectRemoved;
     /// Sent with the changed property; null for another change: state, suppression, membership in a group.
     Signal<void(ProjectObject&, const Property*)> objectChanged;
+    /// Sent with the changed property of the project; null for a new name.
     Signal<void(const Property*)> changed;
 
     PropertyInteger id;        ///< "ID"

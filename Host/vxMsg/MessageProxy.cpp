@@ -197,6 +197,25 @@ bool MessageProxy::mayClose(Obj::Project& project)
     return !refused;
 }
 
+bool MessageProxy::renameProject(const std::string& name, const std::string& newName)
+{
+    Obj::Project* const project = mayAct() ? findProject(name) : nullptr;
+    if (project == nullptr)
+        return false;
+    if (newName == name)
+        return true;
+    if (shown(newName).trimmed().isEmpty())
+        return report(tr("The name of a project must not be empty; nothing was changed."));
+    if (Obj::Application::instance().get_project(newName) != nullptr)
+        return report(tr("Another open project has the name \"%1\"; nothing was changed.").arg(shown(newName)));
+    const QString text = tr("Rename \"%1\"").arg(shown(name));
+    return carryOut(text, [&]() -> std::unique_ptr<QUndoCommand> {
+        auto command = std::make_unique<RenameCommand>(text, project->getProjectId(), name, newName);
+        Obj::Application::instance().renameProject(*project, newName);
+        return command;
+    });
+}
+
 bool MessageProxy::addObject(const std::string& projectName, const std::string& className,
                              const std::string& objectName)
 {

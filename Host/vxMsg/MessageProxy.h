@@ -46,6 +46,9 @@ public:
     bool newProject(const std::string& className, const std::string& name);
     /// Closes a project, unless a listener of projectClosing refuses.
     bool closeProject(const std::string& name);
+    /// Gives a project another name. Refused if the name would be blank, or if another open project has it. The present
+    /// name makes no step.
+    bool renameProject(const std::string& name, const std::string& newName);
     /// Adds an object of a registered class. If an object has the name, derives a unique name from it.
     bool addObject(const std::string& projectName, const std::string& className, const std::string& objectName);
     bool deleteObject(const std::string& projectName, const std::string& objectName);

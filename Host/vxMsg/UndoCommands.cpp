@@ -74,6 +74,17 @@ void PropertyCommand::set(const Json::Value& value) const
         static_cast<void>(property->fromJson(value));
 }
 
+RenameCommand::RenameCommand(const QString& text, std::uint32_t projectId, std::string before, std::string after)
+    : DoneCommand(text), m_projectId(projectId), m_before(std::move(before)), m_after(std::move(after))
+{}
+
+void RenameCommand::set(const std::string& name) const
+{
+    Obj::Application& application = Obj::Application::instance();
+    if (Obj::Project* const project = application.get_project(m_projectId))
+        static_cast<void>(application.renameProject(*project, name));
+}
+
 SuppressionCommand::SuppressionCommand(const QString& text, PropertyPlace place, bool suppressed)
     : DoneCommand(text), m_place(std::move(place)), m_suppressed(suppressed)
 {}

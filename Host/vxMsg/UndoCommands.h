@@ -135,6 +135,25 @@ private:
     Json::Value m_after;
 };
 
+/// Another name of a project. If the name is taken meanwhile, the project keeps the name that it has.
+class RenameCommand final : public DoneCommand
+{
+public:
+    RenameCommand(const QString& text, std::uint32_t projectId, std::string before, std::string after);
+
+    void undo() override { set(m_before); }
+
+protected:
+    void doAgain() override { set(m_after); }
+
+private:
+    void set(const std::string& name) const;
+
+    std::uint32_t m_projectId;
+    std::string m_before;
+    std::string m_after;
+};
+
 class SuppressionCommand final : public DoneCommand
 {
 public:

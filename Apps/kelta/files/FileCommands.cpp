@@ -112,7 +112,7 @@ std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
         {"Std_ImportDocument",
          QT_TRANSLATE_NOOP("FileCommand", "I&mport exchange document..."),
          QT_TRANSLATE_NOOP("FileCommand", "Add the content of an exchange document to the project"),
-         "",
+         "kelta_import",
          {},
          none,
          [&files] { importDocument(files); },

@@ -10,6 +10,7 @@
 #include "Sessions.h"
 
 #include "Gui/MainWindow.h"
+#include "Gui/ProjectExplorer.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
@@ -80,6 +81,8 @@ bool Opening::openFile(const QString& path)
     session.lock = std::move(lock);
     session.isModified = !record.doubts.empty();
     m_sessions.noteOpened(*project);
+    // The next key acts on the opened project.
+    m_mainWindow.getProjectExplorer().setFocus(Qt::OtherFocusReason);
     RecentFiles::add(path);
     m_mainWindow.updateCommands();
     return true;

@@ -99,7 +99,12 @@ bool ProjectFiles::mayClose(Obj::Project& project)
     if (!unsaved.inProject && !unsaved.inEditors)
         return true;
     const auto choice = m_questions.askBeforeClosing(QString::fromUtf8(project.get_name()), unsaved);
-    return choice == Questions::ClosingChoice::Save ? save(project) : choice == Questions::ClosingChoice::Discard;
+    if (choice != Questions::ClosingChoice::Save)
+        return choice == Questions::ClosingChoice::Discard;
+    // The user has decided about the edits already.
+    const std::uint32_t projectId = project.getProjectId();
+    return applyAll(m_mainWindow, project) && Obj::Application::instance().get_project(projectId) == &project &&
+           save(project);
 }
 
 bool ProjectFiles::mayEnd()

@@ -41,7 +41,7 @@ public:
     /// fails. Returns false too if no module imports documents into such a project.
     bool importDocument(Obj::Project& project, const QString& path);
 
-    /// Writes a copy for recovery of every project that has changed since its last copy.
+    /// Writes a copy for recovery of every project that has changed since its last copy, or whose open editors have.
     void keepCopies();
 
 private:

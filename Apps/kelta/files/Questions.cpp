@@ -65,6 +65,8 @@ Questions::ClosingChoice Questions::askBeforeClosing(const QString& projectName,
         question.text = tr("The changes of the project \"%1\" have not been saved.").arg(projectName);
         question.details = unsaved.inEditors ? ofEditors : QString();
     }
+    if (unsaved.inEditors)
+        question.details = (question.details + QLatin1Char(' ') + tr("\"Save\" applies them first.")).trimmed();
     return static_cast<ClosingChoice>(ask(question, {{tr("&Save"), QMessageBox::AcceptRole},
                                                      {tr("&Discard"), QMessageBox::DestructiveRole},
                                                      {tr("Cancel"), QMessageBox::RejectRole}}));

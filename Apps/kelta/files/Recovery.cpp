@@ -10,6 +10,7 @@
 #include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
+#include "kelta/UnappliedEdits.h"
 
 #include <QLocale>
 
@@ -23,10 +24,10 @@ void Recovery::keepCopies()
 {
     for (Obj::Project* const project : Obj::Application::get_projects()) {
         Session* const session = m_sessions.find(*project);
-        if (session == nullptr || !session->isModified || !session->isCopyDue)
+        if (session == nullptr)
             continue;
         try {
-            keepCopy(*project, *session);
+            updateCopy(*project, *session);
         } catch (...) {
             // No message box, since the user has not asked for the copy.
             Kelta::MessageLog::warning(tr("No copy for recovery could be kept: %1").arg(Kelta::currentExceptionText()));
@@ -34,15 +35,26 @@ void Recovery::keepCopies()
     }
 }
 
-void Recovery::keepCopy(Obj::Project& project, Session& session)
+void Recovery::updateCopy(Obj::Project& project, Session& session)
+{
+    Json::Value edits = recordUnapplied(m_mainWindow, project);
+    if (!session.isModified && edits.isNull())
+        session.forgetCopy();
+    else if (session.isCopyDue || edits != session.editsInCopy)
+        keepCopy(project, session, std::move(edits));
+}
+
+void Recovery::keepCopy(Obj::Project& project, Session& session, Json::Value edits)
 {
     projectfile::ProjectRecord record = recordProject(project, session.kept);
     record.recoveredFile = session.path.toStdString();
+    record.unappliedEdits = edits;
     const std::string text = projectfile::writeProject(record);
     auto first = session.copy == nullptr ? std::make_unique<RecoveryCopy>() : nullptr;
     (first != nullptr ? *first : *session.copy).write(text);
     if (first != nullptr)
         session.copy = std::move(first);
+    session.editsInCopy = std::move(edits);
     session.isCopyDue = false;
 }
 
@@ -88,6 +100,7 @@ bool Recovery::recoverProject(RecoveryCopy& copy)
     session.isRecovered = true;
     session.isModified = true;
     m_sessions.noteOpened(*project);
+    showUnapplied(*project, record.unappliedEdits);
     // The caller deletes the old copy only if a new one has been written.
     keepCopies();
     m_mainWindow.updateCommands();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <json/value.h>
 
 namespace Gui {
 class MainWindow;
@@ -18,7 +19,8 @@ class RecoveryCopy;
 class Sessions;
 struct Session;
 
-/// Writes copies of modified projects, and offers the copies of programs that ended before projects were saved.
+/// Writes copies of modified projects and of the unapplied edits in their editors, and offers the copies of programs that
+/// ended before projects were saved.
 class Recovery
 {
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
@@ -28,13 +30,15 @@ public:
         : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions), m_opening(opening)
     {}
 
-    /// Writes a copy of every project that has changed since its last copy. Errors are written to the message log.
+    /// Writes a copy of every project that has changed since its last copy, or whose open editors have. Errors are written
+    /// to the message log.
     void keepCopies();
     /// If there are copies of programs that ended, asks whether to recover or discard them, and does so.
     void offer();
 
 private:
-    static void keepCopy(Obj::Project& project, Session& session);
+    void updateCopy(Obj::Project& project, Session& session);
+    static void keepCopy(Obj::Project& project, Session& session, Json::Value edits);
     bool recover(RecoveryCopy& copy);
     bool recoverProject(RecoveryCopy& copy);
 

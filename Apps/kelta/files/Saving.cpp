@@ -13,12 +13,26 @@
 #include "kelta/UnappliedEdits.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStatusBar>
 
 #include <exception>
 #include <utility>
 
 namespace desktop {
+
+namespace {
+
+/// Returns a name for the file of a project.
+QString proposedName(const Obj::Project& project)
+{
+    // Some systems allow none of these characters in names of files.
+    static const QRegularExpression unusable(QStringLiteral("[\\x00-\\x1f\\x7f\"*/:<>?\\\\|]"));
+    const QString name = QString::fromUtf8(project.get_name()).replace(unusable, QStringLiteral("_")).trimmed();
+    return name + QStringLiteral(".vxmat");
+}
+
+} // namespace
 
 bool Saving::save(Obj::Project& project)
 {
@@ -33,8 +47,9 @@ bool Saving::saveAs(Obj::Project& project)
     const Session* const session = m_sessions.find(project);
     if (session == nullptr)
         return false;
+    const QString proposed = session->path.isEmpty() ? proposedName(project) : session->path;
     const QString chosen =
-        Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), session->path, tr("Project (*.vxmat)"));
+        Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), proposed, tr("Project (*.vxmat)"));
     return !chosen.isEmpty() && saveTo(project, canonicalPath(chosen));
 }
 

@@ -74,6 +74,7 @@ void Session::takeLock()
 void Session::forgetCopy()
 {
     isCopyDue = false;
+    editsInCopy = Json::Value();
     if (copy != nullptr)
         copy->remove();
     copy.reset();

@@ -55,6 +55,7 @@ struct Session
     bool isModified = false;
     bool isCopyDue = false;
     std::unique_ptr<RecoveryCopy> copy;
+    Json::Value editsInCopy; ///< the unapplied edits in the copy, as a record of recordUnapplied; null for none
     std::map<std::uint32_t, Look> looks; ///< by the id of the object
     std::vector<boost::signals2::scoped_connection> connections;
 

@@ -10,15 +10,26 @@
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <boost/signals2/connection.hpp>
 
 #include <memory>
+#include <set>
+#include <string>
 #include <utility>
 
 namespace desktop {
 
 namespace {
+
+/// Returns whether a label is that of a new material: "Material", or "Material" with a number.
+bool isFirstLabel(const std::string& label)
+{
+    const std::string stem = "Material";
+    return label.compare(0, stem.size(), stem) == 0 &&
+           label.find_first_not_of("0123456789", stem.size()) == std::string::npos;
+}
 
 /// Follows one editor, which owns it.
 class EditorRecorder final : public QObject
@@ -49,15 +60,55 @@ private:
     {
         Kelta::guarded(EditorWatch::tr("The changes in an editor cannot be recorded"), [&] {
             vxMat::restoreCatalogueTexts(*material().getCMaterial());
-            if (m_before != nullptr)
-                recordChange(material(), std::move(m_before));
+            if (m_before == nullptr)
+                return;
+            const ChangeCount count = countChanges(*m_before, *material().getCMaterial());
+            const vxMsg::MessageProxy::Group oneStep{QString()};
+            recordChange(material(), std::move(m_before));
+            takeNameOfLibraryMaterial();
+            report(count);
         });
+    }
+
+    /// Gives a material that has its first label still the name of the library material that the user has picked.
+    void takeNameOfLibraryMaterial()
+    {
+        const std::string& label = material().label.getValue();
+        const std::string name = m_editor.getPickedName().toStdString();
+        if (!name.empty() && label == material().get_name_in_project() && isFirstLabel(label))
+            vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(material()), "Label", freeLabel(name));
+    }
+
+    /// Returns the name, with a number if another material has it.
+    std::string freeLabel(const std::string& name) const
+    {
+        std::set<std::string> taken;
+        for (const Obj::ProjectObject* const object : material().get_project()->getObjects())
+            taken.insert(object->label.getValue());
+        std::string label = name;
+        for (int number = 2; taken.count(label) != 0; ++number)
+            label = name + " " + std::to_string(number);
+        return label;
+    }
+
+    /// Says what an Apply has done.
+    void report(const ChangeCount& count) const
+    {
+        const QString label = QString::fromStdString(material().label.getValue());
+        const bool isSame = count.added + count.changed + count.removed == 0;
+        const QString text =
+            isSame ? EditorWatch::tr("\"%1\" was applied: no property has changed.").arg(label)
+                   : EditorWatch::tr("\"%1\" was applied. Properties added: %2, changed: %3, removed: %4.")
+                         .arg(label, QString::number(count.added), QString::number(count.changed),
+                              QString::number(count.removed));
+        Gui::MainWindow::announce(text, Kelta::LogMessage::Severity::Information,
+                                  {material().get_project()->getProjectId(), material().getObjectId(), 0});
     }
 
     void keepEdits(Obj::Project& project, const Obj::ProjectObject& removed)
     {
         if (&removed == &material())
-            m_kept.keep(project, removed.getObjectId(), m_editor.unappliedEdits());
+            m_kept.keep(project, removed.getObjectId(), m_editor.editSteps());
     }
 
     Mat::MaterialObject& material() const { return *m_editor.getMaterialObject(); }

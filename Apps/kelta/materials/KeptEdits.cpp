@@ -1,11 +1,8 @@
 #include "KeptEdits.h"
 
-#include "Gui/GuiApplication.h"
-#include "Gui/MainWindow.h"
-#include "Gui/ViewFeeder.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
-#include "vxMaterial/gui/MaterialView.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QTimer>
@@ -21,16 +18,6 @@ Obj::ProjectObject* findObject(std::uint32_t projectId, std::uint32_t objectId)
 {
     const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
     return project != nullptr ? project->get_object(objectId) : nullptr;
-}
-
-/// Opens the editor of an object, and returns it; null if the object has none.
-MatGui::MaterialView* openEditor(Obj::ProjectObject& object)
-{
-    Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
-    if (node == nullptr)
-        return nullptr;
-    node->setEdit(0);
-    return qobject_cast<MatGui::MaterialView*>(Gui::MainWindow::get_main_window_inst()->editorOf(object));
 }
 
 } // namespace
@@ -67,8 +54,7 @@ void KeptEdits::bringBack(const Place& place)
             return;
         const Json::Value edits = std::move(kept->second);
         m_edits.erase(kept);
-        if (MatGui::MaterialView* const editor = openEditor(*object))
-            editor->restoreUnapplied(edits);
+        static_cast<void>(showEdits(*object, edits));
     });
 }
 

@@ -14,9 +14,9 @@ class Project;
 
 namespace desktop {
 
-/// Keeps edits that are not applied when undo, redo or a deletion removes their material, which closes its editor. If
-/// undo or redo restores the material, opens its editor again and shows the edits. The edits are destroyed when the
-/// history ends, because nothing can restore the material afterwards.
+/// Keeps edits that are not applied, undone ones included, when undo, redo or a deletion removes their material, which
+/// closes its editor. If undo or redo restores the material, opens its editor again and shows the edits. The edits are
+/// destroyed when the history ends, because nothing can restore the material afterwards.
 class KeptEdits : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     explicit KeptEdits(QObject* parent);
     ~KeptEdits() override;
 
-    /// Keeps the result of MaterialView::unappliedEdits for a material that is being removed from the project. Does
+    /// Keeps the result of Gui::MDIWindow::editSteps for a material that is being removed from the project. Does
     /// nothing if the edits are null.
     void keep(Obj::Project& project, std::uint32_t objectId, Json::Value edits);
 

@@ -5,6 +5,7 @@
 #include "Gui/MainWindow.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "kelta/UnappliedEdits.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
@@ -39,15 +40,22 @@ Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectI
     return project != nullptr ? dynamic_cast<Mat::MaterialObject*>(project->get_object(objectId)) : nullptr;
 }
 
+/// Returns the open editor of a material; null if there is none, or if it has edits that are not applied, which must
+/// stay.
+Gui::MDIWindow* editorToReopen(const Mat::MaterialObject& object)
+{
+    const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    Gui::MDIWindow* const editor = mainWindow != nullptr ? mainWindow->editorOf(object) : nullptr;
+    return editor != nullptr && !editor->isWindowModified() ? editor : nullptr;
+}
+
 /// Reopens the editor of a material to show its present values. Keeps an editor with edits that are not applied.
 void reopenEditor(Mat::MaterialObject& object)
 {
+    Gui::MDIWindow* const editor = editorToReopen(object);
+    if (editor == nullptr)
+        return;
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
-    if (mainWindow == nullptr)
-        return;
-    Gui::MDIWindow* const editor = mainWindow->editorOf(object);
-    if (editor == nullptr || editor->isWindowModified())
-        return;
     Gui::MDIWindow* const inFront = mainWindow->get_active_mdi_window();
     const bool wasInFront = inFront == editor;
     editor->remove_viewself();
@@ -68,28 +76,41 @@ public:
           m_other(std::move(before))
     {}
 
-    void undo() override { swap(); }
-    void redo() override
-    {
-        if (std::exchange(m_done, true))
-            swap();
-    }
-
-private:
-    void swap()
+    void undo() override
     {
         Mat::MaterialObject* const object = findMaterial(m_projectId, m_objectId);
         if (object == nullptr)
             return;
-        object->getCMaterial()->swap(*m_other);
-        object->refreshProperties(true);
-        materialChanged()(*object);
-        reopenEditor(*object);
+        // The user has undone the edits that followed this change, and can redo them after this change.
+        const Gui::MDIWindow* const editor = editorToReopen(*object);
+        m_laterEdits = editor != nullptr ? editor->editSteps() : Json::Value();
+        swap(*object);
+    }
+
+    void redo() override
+    {
+        Mat::MaterialObject* const object = findMaterial(m_projectId, m_objectId);
+        if (!std::exchange(m_done, true) || object == nullptr)
+            return;
+        swap(*object);
+        const Json::Value edits = std::exchange(m_laterEdits, {});
+        if (!edits.isNull() && Gui::MainWindow::get_main_window_inst() != nullptr)
+            static_cast<void>(showEdits(*object, edits));
+    }
+
+private:
+    void swap(Mat::MaterialObject& object)
+    {
+        object.getCMaterial()->swap(*m_other);
+        object.refreshProperties(true);
+        materialChanged()(object);
+        reopenEditor(object);
     }
 
     std::uint32_t m_projectId;
     std::uint32_t m_objectId;
     std::unique_ptr<vxMat::CMaterial> m_other; ///< before the change; while the change is undone, after the change
+    Json::Value m_laterEdits; ///< while the change is undone, the steps of the editor that followed it; null for none
     bool m_done = false;
 };
 
@@ -110,6 +131,20 @@ bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second
                const vxMat::MaterialProperty* const other = second.findProperty(held.first);
                return other != nullptr && areSame(*held.second, *other);
            });
+}
+
+ChangeCount countChanges(const vxMat::MaterialBase& before, const vxMat::MaterialBase& after)
+{
+    ChangeCount count;
+    for (const auto& [slot, property] : after.properties) {
+        const vxMat::MaterialProperty* const earlier = before.findProperty(slot);
+        if (earlier == nullptr)
+            ++count.added;
+        else if (!areSame(*earlier, *property))
+            ++count.changed;
+    }
+    count.removed = before.properties.size() + count.added - after.properties.size();
+    return count;
 }
 
 Obj::Signal<void(Mat::MaterialObject&)>& materialChanged()

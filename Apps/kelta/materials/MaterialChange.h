@@ -3,6 +3,7 @@
 #include "Obj/Signal.h"
 #include "vxMaterial/model/Material.h"
 
+#include <cstddef>
 #include <memory>
 
 namespace Mat {
@@ -17,6 +18,16 @@ std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
 /// Returns whether two materials have the same fields and properties. Zero and negative zero are different; all NaN
 /// values are equal.
 bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second);
+
+/// The numbers of properties in which a material differs from another.
+struct ChangeCount
+{
+    std::size_t added = 0;
+    std::size_t changed = 0;
+    std::size_t removed = 0;
+};
+
+ChangeCount countChanges(const vxMat::MaterialBase& before, const vxMat::MaterialBase& after);
 
 /// Sent after a step of the history has changed the material of an object, and after such a step was undone or redone.
 Obj::Signal<void(Mat::MaterialObject&)>& materialChanged();

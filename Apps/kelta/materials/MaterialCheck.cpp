@@ -22,6 +22,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::MaterialCheck", text);
 }
 
+/// Returns the link to a material, and to the row of a finding. The table of the editor knows a property by its id, which
+/// may differ from its slot.
+Kelta::LogLink linkTo(const Mat::MaterialObject& object, std::int32_t slot)
+{
+    const vxMat::MaterialProperty* const property = object.getCMaterial()->findProperty(slot);
+    return {object.get_project()->getProjectId(), object.getObjectId(), property != nullptr ? property->id : slot};
+}
+
 /// Checks one material and writes its findings to the message log, up to the limit for all materials together.
 void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
 {
@@ -31,7 +39,8 @@ void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
     summary.notReady += findings.empty() ? 0 : 1;
     for (const vxMat::MaterialFinding& finding : findings)
         if (++summary.findings <= mostReported)
-            Kelta::MessageLog::warning(tr("\"%1\": %2").arg(label, MatGui::findingText(finding)));
+            Kelta::MessageLog::warning(tr("\"%1\": %2").arg(label, MatGui::findingText(finding)),
+                                       linkTo(object, finding.slot));
 }
 
 } // namespace
@@ -47,6 +56,18 @@ QString CheckSummary::toText(const QString& projectName) const
         text +=
             QLatin1Char(' ') + tr("Changes in open editors that are not applied were not checked: %1.").arg(unapplied);
     return text;
+}
+
+Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object)
+{
+    using Level = Gui::ObjectStatus::Level;
+    const vxMat::CMaterial& material = *object.getCMaterial();
+    if (material.properties.empty())
+        return {Level::Empty};
+    QStringList findings;
+    for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(material))
+        findings << MatGui::findingText(finding);
+    return {findings.isEmpty() ? Level::Ready : Level::WithFindings, findings};
 }
 
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project)

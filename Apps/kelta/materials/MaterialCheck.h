@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Gui/ObjectStatus.h"
+
 #include <QString>
 
 #include <cstddef>
 
 namespace Mat {
 class DocumentMaterial;
+class MaterialObject;
 } // namespace Mat
 
 namespace desktop {
@@ -23,7 +26,10 @@ struct CheckSummary
 };
 
 /// Checks all materials of a project by vxMat::checkMaterial and writes each finding, with the label of its material,
-/// to the message log as a warning; after the first 1000 findings only a line that says that there are more.
+/// to the message log as a warning that leads to the row of the finding; after the first 1000 findings only a line that says that there are more.
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project);
+
+/// Returns the status of a material for the tree, by the same check.
+Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object);
 
 } // namespace desktop

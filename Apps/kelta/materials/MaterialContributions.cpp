@@ -10,6 +10,7 @@
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
 
 namespace desktop {
 
@@ -45,10 +46,12 @@ void addToBars(Gui::Contributions& contributions)
     contributions.addToMenu("&File", "Import", "Std_ImportDocument");
     contributions.addToMenu("&Project", "Add", "Mat_AddMaterial");
     contributions.addToMenu("&Project", "Add", "Mat_Edit");
+    contributions.addToMenu("&Project", "Import", "Std_ImportDocument");
     contributions.addToMenu("&Project", "Import", "Mat_Import");
     contributions.addToMenu("&Material", "Check", "Mat_Check", workbenchClass);
     contributions.addToToolBar("File", "New", "Mat_NewDoc");
     contributions.addToToolBar("File", "Add", "Mat_AddMaterial");
+    contributions.addToToolBar("File", "Add", "Std_ImportDocument");
     contributions.addToTreeMenu("Mat_NewDoc");
 }
 
@@ -72,7 +75,7 @@ void addWelcome(Gui::Contributions& contributions)
          {welcomeContext,
           QT_TRANSLATE_NOOP("MaterialWelcome", "Add a material. It has the values of structural steel; the editor "
                                                "offers 25 other materials and all quantities.")},
-         {"Mat_AddMaterial"}});
+         {"Mat_AddMaterial", "Std_ImportDocument"}});
     contributions.addWelcomeEntry(
         {WelcomeStep::NoDocument,
          projectClass,
@@ -88,6 +91,9 @@ void addWelcome(Gui::Contributions& contributions)
 void registerMaterialContributions(Gui::GuiApplication& application)
 {
     addMaterialCommands(application.get_command_manager());
+    Gui::registerObjectJudge("Mat::MaterialObject", [](const Obj::ProjectObject& object) {
+        return judgeMaterial(static_cast<const Mat::MaterialObject&>(object));
+    });
     Gui::Contributions& contributions = application.contributions();
     addToBars(contributions);
     addWelcome(contributions);

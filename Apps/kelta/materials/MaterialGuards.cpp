@@ -145,6 +145,12 @@ void guardEdit(const Run& run)
         run();
 }
 
+bool isMaterialSelected()
+{
+    const Gui::TreeSelectionSingleton& selection = Gui::TreeSelectionSingleton::instance();
+    return !selection.get_objects_of_type(Mat::MaterialObject::getClassTypeId()).empty();
+}
+
 bool areOnlyMaterialsSelected()
 {
     const Gui::TreeSelectionSingleton& selection = Gui::TreeSelectionSingleton::instance();
@@ -168,6 +174,7 @@ void addMaterialGuards(Gui::CommandController& commands)
     commands.addGuard("Mat_NewDoc", guardNewProject);
     commands.addGuard("Mat_Export", guardExport);
     commands.addGuard("Mat_Edit", guardEdit);
+    commands.addCondition("Mat_Edit", isMaterialSelected);
     commands.addGuard("Std_Delete", [&commands](const Run& run) { guardDelete(commands, run); });
 }
 

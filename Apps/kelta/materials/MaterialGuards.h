@@ -10,7 +10,8 @@ namespace desktop {
 /// - "Mat_NewDoc" asks whether to close the open material project first, since only one can be used at a time.
 /// - "Mat_Export" asks about edits that are not applied, says why a project cannot be exported, and reports afterwards
 ///   which data was written and which was not.
-/// - "Mat_Edit" asks before it opens more than ten editors, and refuses more than a hundred.
+/// - "Mat_Edit" can be run only while a material is selected. It asks before it opens more than ten editors, and refuses
+///   more than a hundred.
 /// - "Std_Delete" of the host runs "Mat_Delete" if only materials are selected.
 /// Must be called once, after the commands are registered.
 void addMaterialGuards(Gui::CommandController& commands);

@@ -1,5 +1,6 @@
 #include "EditorWatch.h"
 #include "MaterialContributions.h"
+#include "MaterialCounts.h"
 #include "MaterialFiles.h"
 #include "MaterialGuards.h"
 #include "MaterialVerbs.h"
@@ -45,8 +46,11 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         desktop::registerMaterialVerbs();
         if (Gui::GuiApplication::Instance != nullptr)
             addToWindows(*Gui::GuiApplication::Instance);
-        if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
-            new desktop::EditorWatch(*mainWindow); // the main window owns it
+        if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst()) {
+            // The main window owns both.
+            new desktop::EditorWatch(*mainWindow);
+            new desktop::MaterialCounts(*mainWindow);
+        }
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
     });
 }

@@ -1,17 +1,15 @@
 #include "Startup.h"
+#include "WindowTitle.h"
 
 #include "Gui/GuiApplication.h"
-#include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
-#include "Obj/Application.h"
 #include "kelta/Batch.h"
 #include "kelta/FileService.h"
 
 #include <CLI/CLI.hpp>
 #include <QFile>
-#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -95,28 +93,6 @@ void askBeforeClosing(const Gui::MainWindow& window, bool& refused)
         window.saveLayout();
 }
 
-/// Returns the name of a project for the title: the name of its file, if it has one.
-QString nameOf(const Obj::Project& project)
-{
-    const QString file = desktop::FileService::instance()->getFile(project);
-    return file.isEmpty() ? QString::fromUtf8(project.get_name()) : QFileInfo(file).fileName();
-}
-
-/// Shows the names of the active document, the current project and the program in the title, and whether the project is
-/// modified.
-void updateTitle(Gui::MainWindow& window)
-{
-    QStringList parts;
-    if (const Gui::MDIWindow* const document = window.get_active_mdi_window())
-        parts << document->windowTitle().remove(QStringLiteral("[*]"));
-    const Obj::Project* const project = Obj::Application::get_current_project();
-    if (project != nullptr)
-        parts << nameOf(*project) + QStringLiteral("[*]");
-    parts << QCoreApplication::applicationName();
-    window.setWindowTitle(parts.join(QStringLiteral(" - ")));
-    window.setWindowModified(project != nullptr && desktop::FileService::instance()->isModified(*project));
-}
-
 /// Offers the copies for recovery of earlier runs, then opens the files of the command line.
 void openFiles(const std::vector<std::string>& paths)
 {
@@ -176,7 +152,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     {
         Gui::MainWindow window;
         desktop::startFiles(window);
-        QObject::connect(&window, &Gui::MainWindow::updated, [&window] { updateTitle(window); });
+        QObject::connect(&window, &Gui::MainWindow::updated, [&window] { desktop::updateTitle(window); });
         const bool loaded = desktop::loadModules(window);
         QObject::connect(&window, &Gui::MainWindow::closing,
                          [&window](bool& refused) { askBeforeClosing(window, refused); });

@@ -228,7 +228,7 @@ std::optional<QString> Batch::invokeCommand(const QString& name, const QStringLi
         return tr("there is no command \"%1\"").arg(name);
     if (arguments.size() > 1)
         return tr("%1 takes at most one argument, the file that it asks for").arg(name);
-    if (!command->is_applicable())
+    if (!command->canRun())
         return tr("%1 cannot be done now").arg(name);
     // A command that asks for a file, and has no argument, continues as if the user had cancelled the dialog.
     Gui::FileDialog::answerNext(arguments.value(0));

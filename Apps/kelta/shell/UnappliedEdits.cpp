@@ -1,14 +1,19 @@
 #include "kelta/UnappliedEdits.h"
 
+#include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
+#include "Gui/ViewFeeder.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Project.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace desktop {
 
@@ -81,11 +86,70 @@ std::vector<QPointer<Gui::MDIWindow>> findUnapplied(const Gui::MainWindow& mainW
     return windows;
 }
 
+Json::Value recordUnapplied(const Gui::MainWindow& mainWindow, const Obj::Project& project)
+{
+    Json::Value record;
+    for (const Gui::MDIWindow* const window : mainWindow.getMdiWindows()) {
+        if (!belongsTo(*window, project) || window->getEditedObject() == nullptr)
+            continue;
+        Json::Value edits = window->unappliedEdits();
+        if (edits.isNull())
+            continue;
+        Json::Value element;
+        element["object_id"] = window->getEditedObject()->getObjectId();
+        element["edits"] = std::move(edits);
+        record.append(std::move(element));
+    }
+    return record;
+}
+
+bool showEdits(Obj::ProjectObject& object, const Json::Value& edits)
+{
+    const Gui::MainWindow& mainWindow = *Gui::MainWindow::get_main_window_inst();
+    Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
+    if (node != nullptr && mainWindow.editorOf(object) == nullptr)
+        node->setEdit(0);
+    Gui::MDIWindow* const editor = mainWindow.editorOf(object);
+    return editor != nullptr && editor->restoreEdits(edits);
+}
+
+void showUnapplied(const Obj::Project& project, const Json::Value& record)
+{
+    for (const Json::Value& element : record.isArray() ? record : Json::Value()) {
+        const bool isValid = element.isObject() && element["object_id"].isUInt();
+        Obj::ProjectObject* const object = isValid ? project.get_object(element["object_id"].asUInt()) : nullptr;
+        if (object == nullptr)
+            continue;
+        const QString label = QString::fromStdString(object->label.getValue());
+        if (showEdits(*object, element["edits"]))
+            Kelta::MessageLog::information(
+                QCoreApplication::translate(
+                    "desktop::UnappliedEdits",
+                    "The changes of \"%1\" that were not applied are shown in its editor again.")
+                    .arg(label));
+        else
+            Kelta::MessageLog::warning(
+                QCoreApplication::translate("desktop::UnappliedEdits",
+                                            "The changes of \"%1\" that were not applied cannot be shown again.")
+                    .arg(label));
+    }
+}
+
 bool askToApply(Gui::MainWindow& mainWindow, const Obj::Project& project, const UnappliedQuestion& question)
 {
     const auto windows = findUnapplied(mainWindow, project);
     return std::all_of(windows.begin(), windows.end(),
                        [&](const auto& window) { return mayContinue(mainWindow, window, question); });
+}
+
+bool applyAll(Gui::MainWindow& mainWindow, const Obj::Project& project)
+{
+    const auto windows = findUnapplied(mainWindow, project);
+    return std::all_of(windows.begin(), windows.end(), [&mainWindow](const auto& window) {
+        if (window != nullptr)
+            mainWindow.set_active_mdi_window(window);
+        return apply(window);
+    });
 }
 
 } // namespace desktop

@@ -88,7 +88,7 @@ bool Pasting::takesAll(const Json::Value& descriptions) const
 
 void Pasting::add(const Json::Value& description)
 {
-    const std::string label = description.get("label", "").asString();
+    const QString label = QString::fromStdString(description.get("label", "").asString());
     const bool suppressed = description.get("suppressed", false).asBool();
     const Json::Value content = partOf(description, "content");
     const Obj::ContentCodec* const codec = content.isNull() ? nullptr : Obj::findContentCodec(typeOf(description));
@@ -97,7 +97,7 @@ void Pasting::add(const Json::Value& description)
     Obj::ProjectObject* const object = makeObject(description);
     if (object == nullptr)
         return;
-    object->label.setValue(label);
+    object->label.setValue(m_labels.make(label).toStdString());
     if (codec != nullptr)
         codec->read(*object, content);
     object->setSuppressed(suppressed);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "clipboard/CopyLabels.h"
+
 #include <json/value.h>
 
 #include <cstdint>
@@ -21,7 +23,9 @@ class GuiApplication;
 class Pasting
 {
 public:
-    Pasting(GuiApplication& application, Obj::Project& project) : m_application(application), m_project(project) {}
+    Pasting(GuiApplication& application, Obj::Project& project)
+        : m_application(application), m_project(project), m_labels(project)
+    {}
 
     /// Returns whether the project takes all of these objects. If not, the message log names the object it refuses.
     bool takesAll(const Json::Value& descriptions) const;
@@ -51,6 +55,7 @@ private:
     GuiApplication& m_application;
     Obj::Project& m_project;
     std::vector<Pasted> m_pasted;
+    CopyLabels m_labels;
     std::map<std::pair<std::string, std::uint32_t>, std::uint32_t> m_copies; ///< new ids by project and old id
 };
 

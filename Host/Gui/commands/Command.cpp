@@ -8,10 +8,28 @@
 
 #include <QAction>
 #include <QIcon>
+#include <QStatusBar>
+#include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace Gui {
+
+namespace {
+
+QString joined(const QString& text, const QString& subject)
+{
+    return subject.isEmpty() ? text : QCoreApplication::translate("Gui::Command", "%1: %2").arg(text, subject);
+}
+
+/// Returns the text so that a tool tip shows it as it is, also if it looks like markup.
+QString plain(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+} // namespace
 
 CommandBase::~CommandBase()
 {
@@ -32,19 +50,28 @@ void CommandBase::on_language_changed()
 {
     if (m_action == nullptr)
         return;
-    m_action->setText(get_menu_info());
-    m_action->setToolTip(get_tooltip_info());
-    m_action->setStatusTip(get_statustip());
+    showTexts();
     m_action->setWhatsThis(translated(whatsThis));
+}
+
+void CommandBase::showTexts()
+{
+    const QString now = subject ? subject() : QString();
+    // Behind a single "&", a letter would become the key of the entry.
+    m_action->setText(joined(get_menu_info(), QString(now).replace(QLatin1Char('&'), QLatin1String("&&"))));
+    m_action->setToolTip(plain(joined(get_tooltip_info(), now)));
+    m_action->setStatusTip(joined(get_statustip(), now));
 }
 
 void CommandBase::updateAction()
 {
     if (m_action == nullptr)
         return;
-    m_action->setEnabled(is_applicable());
+    m_action->setEnabled(canRun());
     m_action->setCheckable(static_cast<bool>(isChecked));
     m_action->setChecked(isChecked && isChecked());
+    if (subject)
+        showTexts();
 }
 
 const char* CommandBase::getClassName() const
@@ -84,6 +111,12 @@ bool CommandBase::is_applicable()
 
 Command::~Command() = default;
 
+bool CommandBase::canRun()
+{
+    return is_applicable() &&
+           std::all_of(m_conditions.begin(), m_conditions.end(), [](const auto& condition) { return condition(); });
+}
+
 QAction* Command::new_action(QObject* parent)
 {
     QAction* const action = CommandBase::new_action(parent);
@@ -94,12 +127,15 @@ QAction* Command::new_action(QObject* parent)
 
 bool Command::invoke(int index)
 {
-    if (MainWindow* const window = MainWindow::get_main_window_inst())
+    if (MainWindow* const window = MainWindow::get_main_window_inst()) {
         window->finishEditing();
+        // The result of an earlier command is not the result of this one.
+        window->statusBar()->clearMessage();
+    }
     const QString name = get_menu_info().remove(QLatin1Char('&'));
     bool done = false;
     Kelta::guarded(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed").arg(name), [&] {
-        if (!is_applicable())
+        if (!canRun())
             return;
         const vxMsg::MessageProxy::Group oneStep(name);
         runThroughGuards(index);

@@ -49,9 +49,15 @@ public:
     /// Returns whether the command is applicable now.
     virtual bool is_applicable();
 
+    /// Returns whether the command can be run now: it is applicable, and all added conditions are true.
+    bool canRun();
+    /// Adds a condition of the application around the command.
+    void addCondition(std::function<bool()> condition) { m_conditions.push_back(std::move(condition)); }
+
     /// Returns the action; null before new_action, and after its parent was destroyed.
     QAction* action() const { return m_action; }
-    /// Enables the action if the command is applicable now, and sets its check mark. Does nothing without an action.
+    /// Enables the action if the command is applicable now, sets its check mark, and shows what the command acts on. Does
+    /// nothing without an action.
     void updateAction();
     int getTypeFlags() const { return typeFlags; }
 
@@ -69,9 +75,15 @@ protected:
     int typeFlags = CommandType::none;
     /// Returns whether the entry of the command has a check mark now. An entry without this function never has one.
     std::function<bool()> isChecked;
+    /// Returns what the command acts on now, in the language of the user; the texts of the action show it. A command
+    /// without this function, or for which it returns an empty text, shows its own texts alone.
+    std::function<QString()> subject;
 
 private:
+    void showTexts();
+
     QPointer<QAction> m_action;
+    std::vector<std::function<bool()>> m_conditions;
 };
 
 /// Runs in place of a command. It calls `run` to run the command, or does not call it. It may ask the user before and

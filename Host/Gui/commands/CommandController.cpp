@@ -44,6 +44,15 @@ bool CommandController::addGuard(std::string_view name, CommandGuard guard)
     return true;
 }
 
+bool CommandController::addCondition(std::string_view name, std::function<bool()> condition)
+{
+    Command* const command = findCommand(name);
+    if (command == nullptr)
+        return false;
+    command->addCondition(std::move(condition));
+    return true;
+}
+
 void CommandController::updateActions()
 {
     for (Command* const command : m_order)

@@ -31,6 +31,8 @@ public:
     bool runCommand(std::string_view name);
     /// Adds a guard of a command, as Command::addGuard does. Returns false if there is no command with this name.
     bool addGuard(std::string_view name, CommandGuard guard);
+    /// Adds a condition of a command, as Command::addCondition does. Returns false if there is no command with this name.
+    bool addCondition(std::string_view name, std::function<bool()> condition);
     /// Returns all commands in the order of their registration.
     const std::vector<Command*>& getCommands() const { return m_order; }
 

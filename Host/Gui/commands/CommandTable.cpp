@@ -29,6 +29,7 @@ public:
         shortcut = row.shortcut;
         typeFlags = row.typeFlags;
         isChecked = std::move(row.isChecked);
+        subject = std::move(row.subject);
     }
 
     const char* getClassName() const override { return m_context; }

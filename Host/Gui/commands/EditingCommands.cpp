@@ -8,10 +8,10 @@
 #include "Gui/ProjectExplorer.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
+#include "commands/CellCopy.h"
 #include "commands/Deletion.h"
+#include "commands/HistoryCommands.h"
 #include "vxMsg/MessageProxy.h"
-
-#include <QUndoStack>
 
 #include <algorithm>
 
@@ -71,8 +71,7 @@ void rename()
 
 bool canRename(const TreeSelectionSingleton& selection)
 {
-    return MainWindow::get_main_window_inst() != nullptr && selection.getCount() == 1 &&
-           selectedIn(selection).size() == 1;
+    return MainWindow::get_main_window_inst() != nullptr && selection.getCount() == 1;
 }
 
 bool canSelectAll()
@@ -89,48 +88,37 @@ void collect(vxMsg::MessageProxy& requests)
                                  .arg(QString::fromStdString(name)));
 }
 
-/// Returns the undo stack of the document in which the user works; null if there is none.
-QUndoStack* documentStack()
+/// Returns whether a command for the selected objects may run. In an editor's table, the user means the table.
+bool hasAddressedObjects(const TreeSelectionSingleton& selection)
 {
     const MainWindow* const window = MainWindow::get_main_window_inst();
-    return window != nullptr ? window->documentUndoStack() : nullptr;
+    return (window == nullptr || window->isExplorerAddressed()) && !selectedIn(selection).empty();
 }
 
-/// The unapplied edits of a document are the latest changes.
-QUndoStack& stackToUndo(QUndoStack& history)
+/// Returns the list or table outside the project explorer in which the user works; null if there is none.
+QAbstractItemView* cellsToCopy()
 {
-    QUndoStack* const document = documentStack();
-    return document != nullptr && document->canUndo() ? *document : history;
+    const MainWindow* const window = MainWindow::get_main_window_inst();
+    const bool isElsewhere = window != nullptr && !window->isExplorerAddressed();
+    return isElsewhere ? findCells(window->getFocusedWidget()) : nullptr;
 }
 
-/// While a document has unapplied edits, older changes must not be redone.
-QUndoStack& stackToRedo(QUndoStack& history)
+void copySelected(const ObjectClipboard& clipboard, const TreeSelectionSingleton& selection)
 {
-    QUndoStack* const document = documentStack();
-    return document != nullptr && document->count() != 0 ? *document : history;
-}
-
-std::vector<CommandRow> historyRows(QUndoStack& history)
-{
-    return {
-        {"Std_Undo", QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Undo the last change"), "kelta_undo", QKeySequence::Undo,
-         CommandType::none, [&history] { stackToUndo(history).undo(); },
-         [&history] { return stackToUndo(history).canUndo(); }},
-        {"Std_Redo", QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Redo the change that was undone last"), "kelta_redo", QKeySequence::Redo,
-         CommandType::none, [&history] { stackToRedo(history).redo(); },
-         [&history] { return stackToRedo(history).canRedo(); }},
-    };
+    if (QAbstractItemView* const cells = cellsToCopy())
+        copyCells(*cells);
+    else
+        clipboard.copy(selectedIn(selection));
 }
 
 std::vector<CommandRow> clipboardRows(ObjectClipboard& clipboard, TreeSelectionSingleton& selection)
 {
-    const auto hasObjects = [&selection] { return !selectedIn(selection).empty(); };
+    const auto hasObjects = [&selection] { return hasAddressedObjects(selection); };
     return {
         {"Std_Copy", QT_TRANSLATE_NOOP("StandardCommand", "&Copy"),
          QT_TRANSLATE_NOOP("StandardCommand", "Copy the selected objects"), "kelta_copy", QKeySequence::Copy,
-         CommandType::onTree, [&clipboard, &selection] { clipboard.copy(selectedIn(selection)); }, hasObjects},
+         CommandType::onTree, [&clipboard, &selection] { copySelected(clipboard, selection); },
+         [&selection] { return cellsToCopy() != nullptr || hasAddressedObjects(selection); }},
         {"Std_Paste", QT_TRANSLATE_NOOP("StandardCommand", "&Paste"),
          QT_TRANSLATE_NOOP("StandardCommand", "Add the copied objects to the project"), "kelta_paste",
          QKeySequence::Paste, CommandType::onTree, [&clipboard, &selection] { paste(clipboard, selection); },
@@ -148,7 +136,7 @@ std::vector<CommandRow> deletionRows(vxMsg::MessageProxy& requests, const TreeSe
         {"Std_Delete", QT_TRANSLATE_NOOP("StandardCommand", "Dele&te"),
          QT_TRANSLATE_NOOP("StandardCommand", "Delete the selected objects"), "", QKeySequence::Delete,
          CommandType::onTree, [&requests, &selection] { deleteSelected(requests, selection); },
-         [&selection] { return !selectedIn(selection).empty(); }},
+         [&selection] { return hasAddressedObjects(selection); }},
         {"Std_CloseProject",
          QT_TRANSLATE_NOOP("StandardCommand", "&Close project"),
          QT_TRANSLATE_NOOP("StandardCommand", "Close the selected project, or the project of the selected object"),
@@ -186,7 +174,7 @@ std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSel
 {
     return {
         {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
-         QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object another label"), "", Qt::Key_F2,
+         QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object or project another name"), "", Qt::Key_F2,
          CommandType::onTree, rename, [&selection] { return canRename(selection); }},
         {"Std_SelectAll", QT_TRANSLATE_NOOP("StandardCommand", "Select &all"),
          QT_TRANSLATE_NOOP("StandardCommand", "Select all objects of the project"), "", QKeySequence::SelectAll,
@@ -208,7 +196,7 @@ std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSel
 void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& selection)
 {
     CommandController& commands = application.get_command_manager();
-    addCommands(commands, context, historyRows(application.requests().undoStack()));
+    addHistoryCommands(commands, application.requests().undoStack(), selection);
     addCommands(commands, context, clipboardRows(application.objectClipboard(), selection));
     addCommands(commands, context, deletionRows(application.requests(), selection));
     addCommands(commands, context, suppressionRows(application.requests(), selection));

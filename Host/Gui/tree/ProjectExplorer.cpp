@@ -9,6 +9,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "tree/NeighbourSelection.h"
 #include "window/CoreEditor.h"
 #include "window/OpenEditor.h"
 #include "workbench/MenuBuilder.h"
@@ -28,6 +29,7 @@ ProjectExplorer::ProjectExplorer(MainWindow& window, GuiApplication& application
 {
     setObjectName(QStringLiteral("projectExplorer"));
     setAccessibleName(tr("Project explorer"));
+    new NeighbourSelection(*this, m_model, m_selection); // this widget owns it
     configure();
     connectSelection();
 }
@@ -37,7 +39,7 @@ ProjectExplorer::~ProjectExplorer() = default;
 bool ProjectExplorer::renameSelected()
 {
     const QModelIndexList selected = selectionModel()->selectedIndexes();
-    if (selected.size() != 1 || m_model.objectAt(selected.first()) == nullptr)
+    if (selected.size() != 1)
         return false;
     selectionModel()->setCurrentIndex(selected.first(), QItemSelectionModel::NoUpdate);
     edit(selected.first());

@@ -29,7 +29,7 @@ public:
                     QWidget* parent = nullptr);
     ~ProjectExplorer() override;
 
-    /// Begins to rename the selected object. Returns false if not exactly one object is selected.
+    /// Begins to rename the selected object or project. Returns false if not exactly one is selected.
     bool renameSelected();
     /// Selects all objects of the current project.
     void selectAllObjects();

@@ -2,6 +2,7 @@
 
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
+#include "Gui/ObjectStatus.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
 #include "Obj/Placeholder.h"
@@ -67,7 +68,15 @@ QColor dotOf(const Obj::ProjectObject& object)
 {
     if (object.isSuppressed())
         return Qt::gray;
-    return object.getObjectState() == Obj::eVXObjectState::Ready ? QColor(0x2e, 0x9e, 0x4f) : QColor(0xe0, 0x8a, 0x1e);
+    switch (statusOf(object).level) {
+    case ObjectStatus::Level::Ready:
+        return {0x2e, 0x9e, 0x4f};
+    case ObjectStatus::Level::WithFindings:
+        return {0xd0, 0x2b, 0x2b};
+    case ObjectStatus::Level::Empty:
+        break;
+    }
+    return {0xe0, 0x8a, 0x1e};
 }
 
 /// Returns null if the class of the object or project is registered.
@@ -83,14 +92,28 @@ QString missingClassText(const Obj::Placeholder& placeholder)
         .arg(QString::fromStdString(placeholder.getOriginalClass()));
 }
 
+/// The maximum number of findings that a tool tip lists.
+constexpr int mostFindings = 10;
+
+QString describe(const ObjectStatus& status)
+{
+    if (status.level == ObjectStatus::Level::Ready)
+        return ProjectTreeModel::tr("Ready");
+    if (status.level == ObjectStatus::Level::Empty)
+        return ProjectTreeModel::tr("Empty: nothing is defined yet");
+    QStringList lines(ProjectTreeModel::tr("Not ready. Findings: %1").arg(status.findings.size()));
+    lines += status.findings.mid(0, mostFindings);
+    if (status.findings.size() > mostFindings)
+        lines << QStringLiteral("...");
+    return lines.join(QLatin1Char('\n'));
+}
+
 QString toolTipOf(const Obj::ProjectObject& object)
 {
     const QString label = QString::fromStdString(object.label.getValue());
     if (const Obj::Placeholder* const placeholder = placeholderOf(object))
         return label + QLatin1Char('\n') + missingClassText(*placeholder);
-    const QString state = object.getObjectState() == Obj::eVXObjectState::Ready
-                              ? ProjectTreeModel::tr("Ready")
-                              : ProjectTreeModel::tr("Empty: nothing is defined yet");
+    const QString state = describe(statusOf(object));
     const QString suppressed = object.isSuppressed() ? ProjectTreeModel::tr("\nSuppressed") : QString();
     return label + QLatin1Char('\n') + state + suppressed;
 }
@@ -194,8 +217,12 @@ QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const
 
 bool ProjectTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
+    if (role != Qt::EditRole)
+        return false;
+    if (const Obj::Project* const project = projectAt(index))
+        return m_application.requests().renameProject(project->get_name(), value.toString().toStdString());
     Obj::ProjectObject* const object = objectAt(index);
-    if (object == nullptr || role != Qt::EditRole)
+    if (object == nullptr)
         return false;
     return m_application.requests().setProperty(vxMsg::PropertyPlace(*object), "Label", value.toString().toStdString());
 }
@@ -205,7 +232,7 @@ Qt::ItemFlags ProjectTreeModel::flags(const QModelIndex& index) const
     Qt::ItemFlags flags = QAbstractItemModel::flags(index);
     Obj::ProjectObject* const object = objectAt(index);
     if (object == nullptr)
-        return flags;
+        return index.isValid() ? flags | Qt::ItemIsEditable : flags;
     flags |= Qt::ItemIsEditable;
     flags.setFlag(Qt::ItemNeverHasChildren, !isGroup(*object));
     const ViewFeeder* const node = m_application.get_view_feeder(object);
@@ -383,6 +410,7 @@ QVariant ProjectTreeModel::dataOf(Obj::Project& project, int role) const
     const Obj::Placeholder* const placeholder = placeholderOf(project);
     switch (role) {
     case Qt::DisplayRole:
+    case Qt::EditRole:
         return QString::fromUtf8(project.get_name());
     case Qt::ToolTipRole:
         return placeholder != nullptr ? missingClassText(*placeholder) : QVariant();

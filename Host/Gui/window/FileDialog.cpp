@@ -1,5 +1,6 @@
 #include "Gui/FileDialog.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
@@ -19,9 +20,13 @@ std::optional<QString>& preparedAnswer()
     return answer;
 }
 
-QString startFolder(const QString& folder)
+/// Returns the folder or file with which a dialog begins. A name without a folder is in the folder that was used last.
+QString startFolder(const QString& proposed)
 {
-    return folder.isEmpty() ? QSettings().value(QLatin1String(folderKey)).toString() : folder;
+    const QString last = QSettings().value(QLatin1String(folderKey)).toString();
+    if (proposed.isEmpty() || last.isEmpty())
+        return proposed.isEmpty() ? last : proposed;
+    return QDir(last).filePath(proposed);
 }
 
 QString remembered(const QString& path)

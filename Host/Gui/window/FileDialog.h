@@ -11,8 +11,8 @@ namespace Gui {
 class GUI_EXPORT FileDialog
 {
 public:
-    /// Returns the path that the user chose; an empty text if the user cancelled. An empty `folder` means the last
-    /// folder.
+    /// Returns the path that the user chose; an empty text if the user cancelled. `folder` may have the name of a proposed
+    /// file at its end. An empty `folder`, or a name alone, means the last folder.
     static QString getOpenFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});

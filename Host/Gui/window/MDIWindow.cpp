@@ -74,4 +74,24 @@ bool MDIWindow::applyEdits()
     return !isWindowModified();
 }
 
+Json::Value MDIWindow::unappliedEdits() const
+{
+    return {};
+}
+
+Json::Value MDIWindow::editSteps() const
+{
+    return {};
+}
+
+bool MDIWindow::restoreEdits(const Json::Value& /*record*/)
+{
+    return false;
+}
+
+bool MDIWindow::showRow(int /*part*/)
+{
+    return false;
+}
+
 } // namespace Gui

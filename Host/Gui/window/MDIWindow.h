@@ -6,6 +6,7 @@
 
 #include <QMainWindow>
 #include <boost/signals2/connection.hpp>
+#include <json/value.h>
 
 class QUndoStack;
 
@@ -67,6 +68,20 @@ public:
     /// told the user the reason. The call may ask the user, and so the window may be closed afterwards.
     /// Does nothing here.
     virtual bool applyEdits();
+
+    /// Returns the unapplied edits, including text that the user is typing, as a record for restoreEdits; null if there
+    /// are none, as here. The record does not depend on the language.
+    virtual Json::Value unappliedEdits() const;
+    /// Returns the steps of the undo stack, including undone ones, as a record for restoreEdits; null if there are none,
+    /// as here.
+    virtual Json::Value editSteps() const;
+    /// Shows edits from a record of unappliedEdits or editSteps, as steps of the undo stack. Returns false and shows
+    /// nothing if the value is not a valid record, as here.
+    virtual bool restoreEdits(const Json::Value& record);
+
+    /// Shows the user a part of the edited object, by the number by which the window knows the part, such as the row of a
+    /// property. Returns false if the window does not show this part, as here.
+    virtual bool showRow(int part);
 
 Q_SIGNALS:
     /// Sent when the user applies edits that the window accepts. A slot that sets a reason in `refusal` prevents it:

@@ -183,6 +183,13 @@ QUndoStack* MainWindow::documentUndoStack() const
     return document != nullptr && !isInDock(m_focus) ? document->getUndoStack() : nullptr;
 }
 
+bool MainWindow::isExplorerAddressed() const
+{
+    if (m_focus == nullptr || m_focus == m_explorer || m_explorer->isAncestorOf(m_focus))
+        return true;
+    return !isInDock(m_focus) && m_focus != m_documents && !m_documents->isAncestorOf(m_focus);
+}
+
 bool MainWindow::setWorkbench(const char* className)
 {
     std::unique_ptr<Kelta::RootClass> created = Kelta::RootClass::createByName(className);
@@ -210,9 +217,9 @@ void MainWindow::chooseWorkbench(const std::string& className)
     updateLater();
 }
 
-void MainWindow::announce(const QString& text, Kelta::LogMessage::Severity severity)
+void MainWindow::announce(const QString& text, Kelta::LogMessage::Severity severity, const Kelta::LogLink& link)
 {
-    Kelta::MessageLog::instance().report(severity, text);
+    Kelta::MessageLog::instance().report(severity, text, link);
     if (theMainWindow != nullptr)
         theMainWindow->statusBar()->showMessage(text, statusMilliseconds);
 }

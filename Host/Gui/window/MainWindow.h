@@ -81,6 +81,11 @@ public:
     /// Returns the undo stack of the document in front (MDIWindow::getUndoStack) while the user works there; null if
     /// the keyboard focus is in a dock, and if the document has no such stack.
     QUndoStack* documentUndoStack() const;
+    /// Returns whether commands that act on the selection in the project explorer, and have a meaning elsewhere too,
+    /// act on it now: true unless the keyboard focus is in a document or in another dock than the explorer.
+    bool isExplorerAddressed() const;
+    /// Returns the widget that has the keyboard focus, or had it before the menus took it; null if there is none.
+    QWidget* getFocusedWidget() const { return m_focus; }
 
     /// Makes a workbench of this registered class the active one, and shows its menus, toolbars and docks. Returns
     /// false, with the reason in the message log, if there is no such class. Must not be called while one of the
@@ -102,7 +107,8 @@ public:
 
     /// Shows a result to the user: writes `text` to the message log and, if there is a main window, to its status bar.
     static void announce(const QString& text,
-                         Kelta::LogMessage::Severity severity = Kelta::LogMessage::Severity::Information);
+                         Kelta::LogMessage::Severity severity = Kelta::LogMessage::Severity::Information,
+                         const Kelta::LogLink& link = {});
 
     /// Shows the message log, even if the user has hidden it, in front of docks at the same place; for messages that
     /// the user must see. showProjectExplorer does the same with the project explorer.

@@ -1,5 +1,7 @@
 #include "Gui/MessageLogView.h"
 
+#include "window/LogLinks.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -17,6 +19,7 @@ MessageLogView::MessageLogView(QWidget* parent) : QListWidget(parent)
     // Scrolling lays out all messages, which must not happen for each of thousands of messages.
     m_scrolling.setSingleShot(true);
     connect(&m_scrolling, &QTimer::timeout, this, &QListWidget::scrollToBottom);
+    followLinksOf(*this);
     for (const Kelta::LogMessage& message : Kelta::MessageLog::instance().messages())
         add(message);
     connect(&Kelta::MessageLog::instance(), &Kelta::MessageLog::reported, this, &MessageLogView::add);
@@ -54,7 +57,9 @@ void MessageLogView::add(const Kelta::LogMessage& message)
     QStyle::StandardPixmap icon = QStyle::SP_MessageBoxInformation;
     if (message.severity != Severity::Information)
         icon = message.severity == Severity::Error ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxWarning;
-    addItem(new QListWidgetItem(style()->standardIcon(icon), message.text));
+    auto* const item = new QListWidgetItem(style()->standardIcon(icon), message.text);
+    setLink(*item, message.link);
+    addItem(item);
     if (count() > static_cast<int>(Kelta::MessageLog::capacity))
         delete takeItem(0);
     m_scrolling.start(0);

@@ -22,6 +22,8 @@ public:
         : QUndoCommand(text), m_before(std::move(before)), m_after(std::move(after)), m_show(std::move(show))
     {}
 
+    const EditorState& after() const { return m_after; }
+
     void undo() override { m_show(m_before); }
     void redo() override
     {
@@ -70,6 +72,8 @@ Json::Value toJson(const EditorState& state)
     record["checked"] = Json::arrayValue;
     for (const int id : state.checked)
         record["checked"].append(id);
+    if (!state.picked.isEmpty())
+        record["picked"] = state.picked.toStdString();
     return record;
 }
 
@@ -89,7 +93,38 @@ std::optional<EditorState> toEditorState(const Json::Value& record)
             return std::nullopt;
         state.checked.insert(id.asInt());
     }
+    if (record["picked"].isString())
+        state.picked = QString::fromStdString(record["picked"].asString());
     return state;
+}
+
+Json::Value toJson(const EditorSteps& steps)
+{
+    Json::Value record(Json::objectValue);
+    record["steps"] = Json::arrayValue;
+    for (const EditorStep& step : steps.steps) {
+        Json::Value element = toJson(step.state);
+        element["text"] = step.text.toStdString();
+        record["steps"].append(std::move(element));
+    }
+    record["done"] = steps.done;
+    return record;
+}
+
+std::optional<EditorSteps> toEditorSteps(const Json::Value& record)
+{
+    if (!record.isObject() || !record["steps"].isArray() || !record["done"].isInt())
+        return std::nullopt;
+    EditorSteps steps;
+    for (const Json::Value& element : record["steps"]) {
+        auto state = toEditorState(element);
+        if (!state || !element["text"].isString())
+            return std::nullopt;
+        steps.steps.push_back({QString::fromStdString(element["text"].asString()), std::move(*state)});
+    }
+    steps.done = record["done"].asInt();
+    const bool isInside = steps.done >= 0 && static_cast<std::size_t>(steps.done) <= steps.steps.size();
+    return isInside && !steps.steps.empty() ? std::optional(std::move(steps)) : std::nullopt;
 }
 
 EditorHistory::EditorHistory(std::function<void(const EditorState&)> show) : m_show(std::move(show)) {}
@@ -103,7 +138,33 @@ void EditorHistory::restart(EditorState state)
 void EditorHistory::note(EditorState state, const QString& text)
 {
     if (state == m_last)
-        return;
+        m_last.picked = std::move(state.picked);
+    else
+        push(std::move(state), text);
+}
+
+EditorSteps EditorHistory::steps() const
+{
+    EditorSteps all;
+    for (int index = 0; index < m_stack.count(); ++index) {
+        const auto& step = static_cast<const EditStep&>(*m_stack.command(index));
+        all.steps.push_back({step.text(), step.after()});
+    }
+    all.done = m_stack.index();
+    return all;
+}
+
+void EditorHistory::add(const EditorSteps& added)
+{
+    const int before = m_stack.index();
+    for (const EditorStep& step : added.steps)
+        push(step.state, step.text);
+    m_show(m_last);
+    m_stack.setIndex(before + added.done);
+}
+
+void EditorHistory::push(EditorState state, const QString& text)
+{
     const auto show = [this](const EditorState& shown) {
         m_show(shown);
         m_last = shown;

@@ -234,7 +234,7 @@ void MaterialView::noteEdit(const QString& step)
 
 EditorState MaterialView::state() const
 {
-    EditorState now{m_ui->tableView->rows(), {}};
+    EditorState now{m_ui->tableView->rows(), {}, m_picked};
     for (const auto& [item, property] : m_propertyItems)
         if (property != nullptr && item->checkState() == Qt::Checked)
             now.checked.insert(property->id);
@@ -246,6 +246,7 @@ void MaterialView::showState(const EditorState& shown)
     asOneEdit([&] {
         const std::vector<SheetRow> before = m_ui->tableView->rows();
         m_ui->tableView->setRows(shown.rows);
+        m_picked = shown.picked;
         m_ui->tableView->setCurrentRow(firstNewRow(before, shown.rows));
         checkQuantities([&shown](int id) { return shown.checked.count(id) != 0; });
     });
@@ -332,6 +333,7 @@ void MaterialView::on_material_double_clicked(QListWidgetItem* item)
         // Update the table first: it shows either the whole material or its old rows. The check boxes follow it.
         m_ui->tableView->showMaterial(material);
         updatePropertyList(material);
+        m_picked = material != nullptr ? item->text() : m_picked;
     });
 }
 
@@ -412,6 +414,7 @@ void MaterialView::showApplied()
         m_ui->tableView->showMaterial(material);
         updatePropertyList(material);
     });
+    m_picked.clear();
     m_history->restart(state());
     setWindowModified(false);
 }
@@ -443,6 +446,7 @@ void MaterialView::clear()
                 list->item(row)->setCheckState(Qt::Unchecked);
     QAbstractItemModel& model = *m_ui->tableView->model();
     model.removeRows(0, model.rowCount());
+    m_picked.clear();
 }
 
 void MaterialView::currentTagChangedSlot(int /*index*/) {}
@@ -518,6 +522,9 @@ void MaterialView::openQuestion()
     question->setDefaultButton(QMessageBox::Apply);
     connect(question, &QDialog::finished, this, &MaterialView::answerQuestion, Qt::QueuedConnection);
     closingWindows() = {this, {}};
+    // The user must see the values in question, also if several windows close.
+    if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
+        mainWindow->set_active_mdi_window(this);
     question->open();
 }
 
@@ -640,18 +647,40 @@ std::optional<Gui::ApplyRefusal> MaterialView::findIgnoredText() const
     return Gui::ApplyRefusal{describe(*row), row->number - 1};
 }
 
-Json::Value MaterialView::unappliedEdits() const
+/// Returns the state with the text that the user is typing; absent if the text changes nothing.
+std::optional<EditorState> MaterialView::typedState() const
 {
     EditorState now = state();
-    now.rows = m_ui->tableView->rowsWithTypedText();
-    const bool isTyping = now.rows != m_ui->tableView->rows();
-    return isWindowModified() || isTyping ? toJson(now) : Json::Value();
+    std::vector<SheetRow> typed = m_ui->tableView->rowsWithTypedText();
+    if (typed == now.rows)
+        return std::nullopt;
+    now.rows = std::move(typed);
+    return now;
 }
 
-bool MaterialView::restoreUnapplied(const Json::Value& record)
+Json::Value MaterialView::unappliedEdits() const
 {
-    const auto restored = toEditorState(record);
-    return restored && edit(tr("Restore changes"), [&] { showState(*restored); });
+    std::optional<EditorState> now = typedState();
+    if (!now && !isWindowModified())
+        return {};
+    return toJson(EditorSteps{{{tr("Restore changes"), now ? std::move(*now) : state()}}, 1});
+}
+
+Json::Value MaterialView::editSteps() const
+{
+    EditorSteps all = m_history->steps();
+    if (std::optional<EditorState> typed = typedState()) {
+        all.steps.resize(static_cast<std::size_t>(all.done));
+        all.steps.push_back({tr("Change value"), std::move(*typed)});
+        ++all.done;
+    }
+    return all.steps.empty() ? Json::Value() : toJson(all);
+}
+
+bool MaterialView::restoreEdits(const Json::Value& record)
+{
+    const auto steps = toEditorSteps(record);
+    return steps && guarded([&] { m_history->add(*steps); });
 }
 
 } // namespace MatGui

@@ -69,19 +69,16 @@ public:
 
     /// Shows the user the row of a property, by its id: scrolls to it, selects it and takes the keyboard focus. Returns
     /// false if the table does not have this row.
-    bool showRow(int propertyId);
+    bool showRow(int propertyId) override;
+
+    /// Returns the name, in the user's language, of the library material that the user has taken since the last Apply;
+    /// empty if there is none, or if the user has cleared the rows afterwards.
+    const QString& getPickedName() const { return m_picked; }
 
     /// Returns the reason, in the user's language, against applying values of which a part would be ignored ("210
     /// GPa"); absent if there is no reason. Apply itself accepts such values; an application that refuses them returns
     /// this text in Gui::MDIWindow::applying.
     std::optional<Gui::ApplyRefusal> findIgnoredText() const;
-
-    /// Returns the unapplied edits, including text that the user is typing, as a record for restoreUnapplied; null if
-    /// there are none. The record does not depend on the language.
-    Json::Value unappliedEdits() const;
-    /// Shows edits from a record of unappliedEdits, as one step of the undo stack. Returns false and shows nothing if
-    /// the value is not a valid record.
-    bool restoreUnapplied(const Json::Value& record);
 
     const char* getName() const override; ///< "MaterialView"
     bool has_message_handler(const char* message) const override;
@@ -95,6 +92,9 @@ public:
     void finishEditing() override;
     QUndoStack* getUndoStack() override;
     bool applyEdits() override;
+    Json::Value unappliedEdits() const override;
+    Json::Value editSteps() const override;
+    bool restoreEdits(const Json::Value& record) override;
 
 protected Q_SLOTS:
     void on_btnOK_clicked();
@@ -131,6 +131,7 @@ private:
     void asOneEdit(const std::function<void()>& action);
     void noteEdit(const QString& step);
     EditorState state() const;
+    std::optional<EditorState> typedState() const;
     void showState(const EditorState& shown);
     void checkQuantities(const std::function<bool(int id)>& isChecked);
     void clear();
@@ -153,6 +154,7 @@ private:
     std::map<QListWidgetItem*, vxMat::MaterialProperty*> m_propertyItems;
     std::vector<std::unique_ptr<QListWidgetItem>> m_itemsWithoutPage;
     std::unique_ptr<EditorHistory> m_history;
+    QString m_picked;    ///< see getPickedName
     int m_openEdits = 0; ///< edits in progress, which become one step of the undo stack
     bool m_closesUnasked = false;
 };

@@ -67,7 +67,8 @@ TEST_F(Materials, HaveTheirCommandsInTheMenus)
     EXPECT_THAT(menu("&Edit"),
                 ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
                             "Std_Delete", "-", "Std_SelectAll", "Std_Rename", "-", "Std_Suppress", "Std_Unsuppress"));
-    EXPECT_THAT(menu("&Project"), ElementsAre("Mat_AddMaterial", "Mat_Edit", "-", "Mat_Import", "-", "Std_Collect"));
+    EXPECT_THAT(menu("&Project"), ElementsAre("Mat_AddMaterial", "Mat_Edit", "-", "Std_ImportDocument", "Mat_Import",
+                                              "-", "Std_Collect"));
     EXPECT_THAT(menu("&View"),
                 ElementsAre("Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "-", "Std_ClearMessages"));
     EXPECT_THAT(menu("&Material"), ElementsAre("Mat_Export", "-", "Mat_Check"));
@@ -75,7 +76,8 @@ TEST_F(Materials, HaveTheirCommandsInTheMenus)
 
 TEST_F(Materials, HaveTheirCommandsInTheToolbars)
 {
-    EXPECT_THAT(bar("File"), ElementsAre("Mat_NewDoc", "Std_Open", "Std_Save", "Mat_AddMaterial"));
+    EXPECT_THAT(bar("File"),
+                ElementsAre("Mat_NewDoc", "Std_Open", "Std_Save", "Mat_AddMaterial", "Std_ImportDocument"));
     EXPECT_THAT(bar("Edit"), ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste"));
     EXPECT_THAT(bar("Material"), ElementsAre("Mat_Export"));
     EXPECT_THAT(bar("BottomMaterial"), ElementsAre("Mat_Import", "Mat_Export"));
@@ -97,7 +99,7 @@ TEST_F(Materials, AreOfferedStepByStepOnTheWelcomePage)
     newProject();
     window->updateCommands();
     EXPECT_EQ(pageTitle(), "The project has no materials yet");
-    EXPECT_THAT(pageButtons(), ElementsAre("Mat_AddMaterial"));
+    EXPECT_THAT(pageButtons(), ElementsAre("Mat_AddMaterial", "Std_ImportDocument"));
     Mat::MaterialObject& steel = addMaterial();
     Gui::TreeSelectionSingleton::instance().clear();
     window->updateCommands();

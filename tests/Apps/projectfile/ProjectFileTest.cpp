@@ -203,6 +203,16 @@ TEST(ProjectFile, KeepsThePathOfTheRecoveredFile)
     EXPECT_EQ(readProject(writeProject(project)).recoveredFile, "");
 }
 
+TEST(ProjectFile, KeepsTheEditsOfOpenEditors)
+{
+    ProjectRecord project = makeSmallProject();
+    EXPECT_EQ(writeProject(project).find("unapplied_edits"), std::string::npos);
+    project.unappliedEdits[0]["object_id"] = 1;
+    project.unappliedEdits[0]["edits"]["rows"] = "any";
+    EXPECT_EQ(readProject(writeProject(project)).unappliedEdits.toStyledString(),
+              project.unappliedEdits.toStyledString());
+}
+
 TEST(ProjectFile, KeepsTheLargestObjectNumber)
 {
     ProjectRecord project = makeSmallProject();

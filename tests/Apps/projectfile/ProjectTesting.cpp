@@ -77,6 +77,7 @@ void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectR
     EXPECT_EQ(a.record.toStyledString(), b.record.toStyledString());
     EXPECT_EQ(a.database.toStyledString(), b.database.toStyledString());
     EXPECT_EQ(a.recoveredFile, b.recoveredFile);
+    EXPECT_EQ(a.unappliedEdits.toStyledString(), b.unappliedEdits.toStyledString());
     EXPECT_EQ(a.further.toStyledString(), b.further.toStyledString());
     ASSERT_EQ(a.objects.size(), b.objects.size());
     for (std::size_t i = 0; i < a.objects.size(); ++i) {

@@ -126,6 +126,8 @@ TEST(Schema, FitsAProjectWithEveryMember)
     project.name = "everything";
     project.nextObjectId = 4294967296U;
     project.recoveredFile = "/somewhere/else.vxmat";
+    project.unappliedEdits[0]["object_id"] = 4294967295U;
+    project.unappliedEdits[0]["edits"] = "any";
     project.further["later"] = "kept";
     projectfile::ObjectRecord& object = project.objects.emplace_back();
     object.objectId = 4294967295U;

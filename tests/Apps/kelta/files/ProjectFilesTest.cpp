@@ -3,6 +3,7 @@
 #include "Mnemonics.h"
 #include "RecentFiles.h"
 #include "SchemaJudge.h"
+#include "WindowTitle.h"
 
 #include "Gui/ProjectExplorer.h"
 #include "Gui/Translator.h"
@@ -13,7 +14,9 @@
 #include <QAction>
 #include <QDir>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QProcess>
@@ -517,6 +520,79 @@ TEST_F(ProjectFiles, AskAboutEveryProjectBeforeTheProgramEnds)
     }
 }
 
+TEST_F(ProjectFiles, AskOnceAboutAProjectWithChangesInItsEditorsBeforeTheProgramEnds)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    editModulus(steel, QStringLiteral("1e9"));
+    const Answers answers({"Save"});
+    EXPECT_TRUE(files->mayEnd());
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("Changes in open editors have not been applied."));
+    EXPECT_EQ(modulusOf(steel), 1e9);
+    EXPECT_FALSE(isModified());
+}
+
+TEST_F(ProjectFiles, KeepTheProgramOpenIfAnEditorCannotApplyBeforeItEnds)
+{
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    editModulus(addMaterial(), QStringLiteral("stiff"));
+    const Answers answers({"Save", "OK"});
+    EXPECT_FALSE(files->mayEnd());
+    EXPECT_TRUE(isModified());
+}
+
+TEST_F(ProjectFiles, MarkTheTitleWhileAnEditorHasChanges)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    desktop::updateTitle(*window);
+    EXPECT_FALSE(window->isWindowModified());
+    Gui::MDIWindow& editor = editModulus(steel, QStringLiteral("1e9"));
+    desktop::updateTitle(*window);
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_THAT(window->windowTitle().toStdString(), StartsWith("Steel - a.vxmat[*] - "));
+    editor.remove_viewself();
+    desktop::updateTitle(*window);
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(ProjectFiles, AreProposedWithTheNameOfTheProject)
+{
+    Mat::DocumentMaterial& project = newProject();
+    ASSERT_TRUE(vxMsg::MessageProxy::instance().renameProject(project.get_name(), "Bridge 7/8: deck"));
+    QString proposed;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            timer.stop();
+            proposed = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+            dialog->reject();
+        }
+    });
+    timer.start(1);
+    run("Std_Save");
+    EXPECT_EQ(proposed, "Bridge 7_8_ deck.vxmat");
+}
+
+TEST_F(ProjectFiles, AreCurrentInTheTreeWhenTheyAreOpened)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(closeProject());
+    history().clear();
+    ASSERT_TRUE(files->open(path("a.vxmat")));
+    QCoreApplication::processEvents();
+    Gui::ProjectExplorer& tree = window->getProjectExplorer();
+    EXPECT_EQ(tree.currentIndex(), tree.model()->index(0, 0));
+    EXPECT_EQ(window->focusWidget(), &tree);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Down);
+    EXPECT_TRUE(Gui::TreeSelectionSingleton::instance().is_selected(findMaterial("Steel"), nullptr));
+}
+
 TEST_F(ProjectFiles, OpenAFileOnceAlone)
 {
     newProject();
@@ -771,6 +847,65 @@ TEST_F(ProjectFiles, OfferWhatACrashLeftBehind)
     }
     EXPECT_EQ(copies().size(), 0);
     EXPECT_FALSE(contentOf(path("a.vxmat")).contains("recovered_file"));
+}
+
+TEST_F(ProjectFiles, RecoverTheUnappliedRowsOfAnOpenEditor)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    editModulus(steel, "7e10");
+    EXPECT_FALSE(isModified());
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 1) << "also without a change of the project";
+    crash();
+    const vxtest::Reports reports;
+    {
+        const Answers answers({"Recover"});
+        files->offerRecovery();
+    }
+    const Mat::MaterialObject* const recovered = findMaterial("Steel");
+    ASSERT_NE(recovered, nullptr);
+    EXPECT_EQ(modulusOf(*recovered), 2e11);
+    Gui::MDIWindow* const editor = window->editorOf(*recovered);
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->isWindowModified());
+    EXPECT_THAT(reports.text(),
+                HasSubstr("The changes of \"Steel\" that were not applied are shown in its editor again."));
+    EXPECT_EQ(copies().size(), 1) << "the rows are in the new copy too";
+    EXPECT_TRUE(editor->applyEdits());
+    EXPECT_EQ(modulusOf(*recovered), 7e10);
+}
+
+TEST_F(ProjectFiles, FollowTheUnappliedRowsInTheirCopy)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    editModulus(steel, "7e10");
+    files->keepCopies();
+    EXPECT_TRUE(contentOf(copies().front()).contains("7e10"));
+    editModulus(steel, "8e10");
+    files->keepCopies();
+    EXPECT_TRUE(contentOf(copies().front()).contains("8e10"));
+    window->editorOf(steel)->remove_viewself();
+    files->keepCopies();
+    EXPECT_EQ(copies().size(), 0) << "nothing is left that could be lost";
+}
+
+TEST_F(ProjectFiles, SayWhichRowsCannotBeRecovered)
+{
+    newProject();
+    editModulus(addMaterial(), "7e10");
+    files->keepCopies();
+    crash();
+    QByteArray copy = contentOf(copies().front());
+    ASSERT_TRUE(copy.contains("\"checked\""));
+    writeFile(copies().front(), copy.replace("\"checked\"", "\"damaged\""));
+    const vxtest::Reports reports;
+    const Answers answers({"Recover"});
+    files->offerRecovery();
+    EXPECT_THAT(reports.text(), HasSubstr("The changes of \"Steel\" that were not applied cannot be shown again."));
 }
 
 TEST_F(ProjectFiles, OfferACrashOfAProjectWithoutAFile)

@@ -9,6 +9,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QListWidget>
+#include <QStatusBar>
 
 #include <set>
 
@@ -116,6 +118,79 @@ TEST_F(AppliedEdits, AreShownAsTheMaterialHoldsThem)
     EXPECT_FALSE(editor.isWindowModified());
 }
 
+TEST_F(AppliedEdits, AreReportedWithTheirNumbers)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    // The value of a switch has no meaning; the first Apply sets it to 1.
+    apply(editor);
+    type(editor, modulus, "7e10");
+    type(editor, density, "4321");
+    apply(editor);
+    EXPECT_EQ(messages().back(), "\"Steel\" was applied. Properties added: 0, changed: 2, removed: 0.");
+    EXPECT_EQ(window->statusBar()->currentMessage().toStdString(), messages().back());
+    apply(editor);
+    EXPECT_EQ(messages().back(), "\"Steel\" was applied: no property has changed.");
+}
+
+/// A new material for which the user takes a material of the library.
+class PickedMaterial : public vxtest::Materials
+{
+protected:
+    static void pick(MatGui::MaterialView& editor, const char* name)
+    {
+        for (QListWidget* const list : editor.findChildren<QListWidget*>())
+            for (QListWidgetItem* const item : list->findItems(QLatin1String(name), Qt::MatchExactly))
+                Q_EMIT list->itemDoubleClicked(item);
+    }
+
+    Mat::DocumentMaterial& project = newProject();
+};
+
+TEST_F(PickedMaterial, GivesANewMaterialItsNameInTheSameStep)
+{
+    Mat::MaterialObject& material = addMaterial(project, "Material");
+    const int steps = history().count();
+    MatGui::MaterialView& editor = edit(material);
+    pick(editor, "Concrete");
+    EXPECT_EQ(material.label.getValue(), "Material") << "not applied";
+    apply(editor);
+    EXPECT_EQ(material.label.getValue(), "Concrete");
+    EXPECT_EQ(history().count(), steps + 1);
+    history().undo();
+    EXPECT_EQ(material.label.getValue(), "Material");
+}
+
+TEST_F(PickedMaterial, NumbersItsNameIfAnotherMaterialHasIt)
+{
+    addMaterial(project, "Concrete");
+    Mat::MaterialObject& material = addMaterial(project, "Material");
+    MatGui::MaterialView& editor = edit(material);
+    pick(editor, "Concrete");
+    apply(editor);
+    EXPECT_EQ(material.label.getValue(), "Concrete 2");
+}
+
+TEST_F(PickedMaterial, LeavesTheLabelOfTheUser)
+{
+    Mat::MaterialObject& material = addMaterial(project, "Material");
+    material.label.setValue("Foundation");
+    MatGui::MaterialView& editor = edit(material);
+    pick(editor, "Concrete");
+    apply(editor);
+    EXPECT_EQ(material.label.getValue(), "Foundation");
+}
+
+TEST_F(PickedMaterial, GivesNoNameIfItWasUndone)
+{
+    Mat::MaterialObject& material = addMaterial(project, "Material");
+    MatGui::MaterialView& editor = edit(material);
+    pick(editor, "Concrete");
+    editor.getUndoStack()->undo();
+    type(editor, modulus, "7e10");
+    apply(editor);
+    EXPECT_EQ(material.label.getValue(), "Material");
+}
+
 class UnappliedEdits : public vxtest::Materials
 {
 protected:
@@ -153,6 +228,43 @@ TEST_F(UnappliedEdits, ComeBackWithAMaterialWhoseDeletionIsUndone)
         history().undo();
         expectEditsAreBack();
     }
+}
+
+TEST_F(UnappliedEdits, ThatWereUndoneInTheEditorCanBeRedoneAfterTheMaterialComesBack)
+{
+    type(edit(steel), modulus, "7e10");
+    EXPECT_TRUE(run("Std_Undo"));
+    EXPECT_TRUE(run("Std_Undo"));
+    ASSERT_TRUE(vxtest::waitFor([this] { return !isEdited(); }));
+    EXPECT_TRUE(run("Std_Redo"));
+    ASSERT_TRUE(vxtest::waitFor([this] { return isEdited(); }));
+    EXPECT_FALSE(window->getMdiWindows().front()->isWindowModified());
+    EXPECT_TRUE(run("Std_Redo"));
+    expectEditsAreBack();
+}
+
+TEST_F(UnappliedEdits, ThatFollowedAnApplyComeBackByRedoInTheirOrder)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, "6e10");
+    apply(editor);
+    type(editor, modulus, "7e10");
+    // The typed value, the Apply, and the addition of the material.
+    for (int step = 0; step < 3; ++step)
+        EXPECT_TRUE(run("Std_Undo"));
+    ASSERT_TRUE(vxtest::waitFor([this] { return !isEdited(); }));
+    EXPECT_TRUE(run("Std_Redo"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_TRUE(run("Std_Redo"));
+    EXPECT_EQ(modulusOf(steel), 6e10);
+    ASSERT_TRUE(vxtest::waitFor([this] { return isEdited(); }));
+    const auto& again = dynamic_cast<const MatGui::MaterialView&>(*window->getMdiWindows().front());
+    EXPECT_FALSE(again.isWindowModified());
+    EXPECT_TRUE(run("Std_Redo"));
+    EXPECT_EQ(shownValue(again, modulus), "7e10");
+    EXPECT_TRUE(again.isWindowModified());
+    EXPECT_EQ(modulusOf(steel), 6e10);
 }
 
 TEST_F(UnappliedEdits, DoNotComeBackAfterTheyWereApplied)

@@ -2,9 +2,14 @@
 
 #include "Gui/Command.h"
 #include "Gui/CommandController.h"
+#include "Gui/MessageLogView.h"
+#include "Gui/ProjectExplorer.h"
+#include "Gui/ProjectTreeModel.h"
+#include "Gui/TreeSelectionSingleton.h"
 #include "kelta/Batch.h"
 #include "vxCAE/CaeManager.h"
 #include "vxMaterial/exchange/CAESet.h"
+#include "vxMaterial/gui/SheetTableView.h"
 
 #include <QAction>
 #include <QMenuBar>
@@ -64,6 +69,53 @@ TEST_F(Check, ListsEachFindingWithTheLabelOfItsMaterial)
     EXPECT_THAT(messages(), testing::Not(Contains(HasSubstr("\"Steel\": "))));
     EXPECT_EQ(lastMessage().text, "Not ready in \"Materials\": 2 of 3 materials. Findings: 2.");
     EXPECT_EQ(lastMessage().severity, Kelta::LogMessage::Severity::Warning);
+}
+
+TEST_F(Check, LeadsFromAFindingToItsRow)
+{
+    addMaterial(project);
+    Mat::MaterialObject& light = addMaterial(project, "Light");
+    setNumber(light, density, -1.0);
+    select({});
+    EXPECT_TRUE(run("Mat_Check"));
+    Gui::MessageLogView& log = window->getMessageLog();
+    const QList<QListWidgetItem*> lines = log.findItems(QStringLiteral("\"Light\": "), Qt::MatchStartsWith);
+    ASSERT_FALSE(lines.isEmpty());
+    log.setCurrentItem(lines.last());
+    QTest::keyClick(&log, Qt::Key_Return);
+    const Gui::MDIWindow* const editor = window->editorOf(light);
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(window->get_active_mdi_window(), editor);
+    const auto* const table = editor->findChild<MatGui::SheetTableView*>();
+    EXPECT_EQ(table->currentIndex(), table->model()->index(table->findRow(density), MatGui::SheetTableView::Value));
+    EXPECT_THAT(Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId()),
+                testing::ElementsAre(&light));
+}
+
+TEST_F(Check, IsShownInTheTreeByThreeStates)
+{
+    Mat::MaterialObject& ready = addMaterial(project, "Ready one");
+    Mat::MaterialObject& empty = addMaterial(project, "Empty one");
+    empty.getCMaterial()->clearProperties();
+    Mat::MaterialObject& light = addMaterial(project, "Light");
+    setNumber(light, density, -1.0);
+    auto& tree = dynamic_cast<Gui::ProjectTreeModel&>(*window->getProjectExplorer().model());
+    tree.synchronize();
+    const auto look = [&tree](const Obj::ProjectObject& object) {
+        return tree.indexOf(object).data(Qt::DecorationRole).value<QIcon>().pixmap(32).toImage();
+    };
+    EXPECT_NE(look(ready), look(empty));
+    EXPECT_NE(look(ready), look(light));
+    EXPECT_NE(look(empty), look(light));
+    const auto tip = [&tree](const Obj::ProjectObject& object) {
+        return tree.indexOf(object).data(Qt::ToolTipRole).toString().toStdString();
+    };
+    EXPECT_EQ(tip(ready), "Ready one\nReady");
+    EXPECT_EQ(tip(empty), "Empty one\nEmpty: nothing is defined yet");
+    EXPECT_THAT(tip(light), testing::StartsWith("Light\nNot ready. Findings: 1\n"));
+    EXPECT_TRUE(run("Mat_Check"));
+    const std::string finding = tip(light).substr(tip(light).rfind('\n') + 1);
+    EXPECT_THAT(messages(), Contains("\"Light\": " + finding));
 }
 
 TEST_F(Check, AcceptsMaterialsWithWordsAndLists)

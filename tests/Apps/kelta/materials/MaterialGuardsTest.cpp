@@ -1,7 +1,9 @@
 #include "MaterialsTesting.h"
 
+#include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"
 #include "Gui/ProjectExplorer.h"
+#include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "Obj/Placeholder.h"
 #include "projectfile/ExchangeImport.h"
@@ -241,6 +243,18 @@ TEST_F(EditCommand, OpensTenEditorsUnasked)
     EXPECT_TRUE(run("Mat_Edit"));
     EXPECT_TRUE(boxes.shown().empty());
     EXPECT_EQ(editors(), 10);
+}
+
+TEST_F(EditCommand, IsGreyWithoutASelectedMaterial)
+{
+    Mat::MaterialObject& material = addMaterial(project);
+    const Gui::Command* const command = Gui::GuiApplication::Instance->get_command_manager().findCommand("Mat_Edit");
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
+    window->updateCommands();
+    EXPECT_FALSE(command->action()->isEnabled());
+    select({&material});
+    window->updateCommands();
+    EXPECT_TRUE(command->action()->isEnabled());
 }
 
 TEST_F(EditCommand, AsksBeforeItOpensMore)

@@ -157,7 +157,7 @@ TEST_F(Clipboard, UndoesAndRedoesAPasteWithLabelAndContent)
     undoStack().redo();
     ASSERT_EQ(project.getObjectCount(), 2U);
     const auto& copy = static_cast<const vxtest::TestObject&>(*project.getObjects()[1]);
-    EXPECT_EQ(copy.label.getValue(), "Beam");
+    EXPECT_EQ(copy.label.getValue(), "Beam copy");
     EXPECT_EQ(copy.content, "red");
 }
 
@@ -379,7 +379,7 @@ TEST_F(CopiedPlaceholders, KeepTheirClassAndRecord)
     ASSERT_NE(copy, nullptr);
     EXPECT_EQ(copy->getOriginalClass(), "Lost::Bolt");
     EXPECT_EQ(copy->getRecord(), record());
-    EXPECT_EQ(copy->label.getValue(), "The bolt");
+    EXPECT_EQ(copy->label.getValue(), "The bolt copy");
 }
 
 TEST_F(CopiedPlaceholders, AreTakenByProjectsOfTheSameClassAlone)

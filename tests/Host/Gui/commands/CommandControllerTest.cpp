@@ -79,6 +79,27 @@ TEST_F(CommandControllerTest, RunsACommandByItsName)
     EXPECT_FALSE(controller.runCommand("Test_A"));
 }
 
+TEST_F(CommandControllerTest, RunsACommandOnlyUnderItsConditions)
+{
+    Gui::CommandController controller;
+    auto* const command = new TestCommand("Test_A", {});
+    controller.new_command(command);
+    const QAction* const action = command->new_action(window.get());
+    bool first = true;
+    bool second = true;
+    EXPECT_TRUE(controller.addCondition("Test_A", [&first] { return first; }));
+    EXPECT_TRUE(controller.addCondition("Test_A", [&second] { return second; }));
+    EXPECT_FALSE(controller.addCondition("Test_B", [] { return true; }));
+    EXPECT_TRUE(controller.runCommand("Test_A"));
+    second = false;
+    EXPECT_FALSE(controller.runCommand("Test_A"));
+    controller.updateActions();
+    EXPECT_FALSE(action->isEnabled());
+    second = true;
+    command->applicable = false;
+    EXPECT_FALSE(controller.runCommand("Test_A"));
+}
+
 TEST_F(CommandControllerTest, ReportsACommandThatItDoesNotHave)
 {
     Gui::CommandController controller;

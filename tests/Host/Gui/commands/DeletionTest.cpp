@@ -201,4 +201,40 @@ TEST_F(Deletion, EndsAtAProjectThatIsKeptOpen)
     EXPECT_THAT(openProjects(), ElementsAre("Other", "Last"));
 }
 
+TEST_F(Deletion, SelectsTheNeighbour)
+{
+    std::vector<Obj::ProjectObject*> objects;
+    for (const char* const label : {"A", "B", "C", "D"})
+        objects.push_back(&addObject(project, label));
+    const auto selected = [] { return selection().get_objects_of_type(Obj::ProjectObject::getClassTypeId()); };
+    const auto expectAfterDeletion = [&](const std::vector<Obj::ProjectObject*>& deleted,
+                                         Obj::ProjectObject* neighbour) {
+        focusExplorer();
+        select(deleted);
+        EXPECT_TRUE(run("Std_Delete"));
+        EXPECT_TRUE(vxtest::waitFor([&] { return selection().getCount() == 1; }));
+        EXPECT_THAT(selected(), ElementsAre(neighbour));
+        EXPECT_EQ(explorer().currentIndex(), model().indexOf(*neighbour));
+    };
+    expectAfterDeletion({objects[1]}, objects[2]);
+    expectAfterDeletion({objects[3]}, objects[2]);
+    expectAfterDeletion({objects[0]}, objects[2]);
+    EXPECT_TRUE(run("Std_Delete"));
+    EXPECT_TRUE(vxtest::waitFor([&] { return selection().getCount() == 1; }));
+    EXPECT_THAT(selection().get_projects(), ElementsAre(&project));
+}
+
+TEST_F(Deletion, SelectsNothingElseWhileOtherObjectsAreSelected)
+{
+    vxtest::TestObject& first = addObject(project, "First");
+    vxtest::TestObject& second = addObject(project, "Second");
+    addObject(project, "Third");
+    focusExplorer();
+    select({&first, &second});
+    EXPECT_TRUE(project.removeObject(first.getObjectId()));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(selection().is_selected(&second, nullptr));
+    EXPECT_EQ(selection().getCount(), 1U);
+}
+
 } // namespace

@@ -11,6 +11,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QStatusBar>
+#include <QTableWidget>
 
 namespace {
 
@@ -124,7 +125,7 @@ TEST_F(StandardCommands, CopyAndPasteInOneStep)
     undoStack().clear();
     EXPECT_TRUE(run("Std_Paste"));
     ASSERT_THAT(project.getObjects(), SizeIs(4));
-    EXPECT_EQ(project.getObjects()[2]->label.getValue(), "A");
+    EXPECT_EQ(project.getObjects()[2]->label.getValue(), "A copy");
     ASSERT_THAT(selected(), ElementsAre(project.getObjects()[2], project.getObjects()[3]));
     EXPECT_EQ(undoStack().count(), 1);
     const auto pasted = selected();
@@ -171,6 +172,104 @@ TEST_F(StandardCommands, UndoAndRedo)
     EXPECT_TRUE(run("Std_Redo"));
     EXPECT_EQ(project.getObjectCount(), 1U);
     EXPECT_FALSE(isApplicable("Std_Redo"));
+}
+
+TEST_F(StandardCommands, NameTheStepThatTheyUndoAndRedo)
+{
+    vxtest::TestProject& project = makeProject();
+    addObject(project, "A & <b>B</b>");
+    window->updateCommands();
+    const QAction* const undo = commands().findCommand("Std_Undo")->action();
+    const QAction* const redo = commands().findCommand("Std_Redo")->action();
+    EXPECT_EQ(undo->text(), "&Undo: Add \"A && <b>B</b>\"");
+    EXPECT_EQ(undo->statusTip(), "Take back the last change: Add \"A & <b>B</b>\"");
+    EXPECT_EQ(undo->toolTip(), "Take back the last change: Add &quot;A &amp; &lt;b&gt;B&lt;/b&gt;&quot;");
+    EXPECT_EQ(redo->text(), "&Redo");
+    EXPECT_TRUE(run("Std_Undo"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Undone: Add \"A & <b>B</b>\"");
+    window->updateCommands();
+    EXPECT_EQ(undo->text(), "&Undo");
+    EXPECT_EQ(redo->text(), "&Redo: Add \"A && <b>B</b>\"");
+    EXPECT_TRUE(run("Std_Redo"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Redone: Add \"A & <b>B</b>\"");
+}
+
+TEST_F(StandardCommands, SelectWhatUndoAndRedoChange)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& first = addObject(project, "First");
+    vxtest::TestObject& second = addObject(project, "Second");
+    select({&first});
+    EXPECT_TRUE(run("Std_Suppress"));
+    select({&second});
+    EXPECT_TRUE(run("Std_Undo"));
+    EXPECT_THAT(selected(), ElementsAre(&first));
+    EXPECT_FALSE(first.isSuppressed());
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().deleteObject(project.get_name(), first.get_name_in_project()));
+    select({&second});
+    EXPECT_TRUE(run("Std_Undo"));
+    EXPECT_THAT(selected(), ElementsAre(&first));
+}
+
+TEST_F(StandardCommands, RemoveTheResultOfTheCommandBefore)
+{
+    window->statusBar()->showMessage(QStringLiteral("saved"));
+    select({&addObject(makeProject())});
+    EXPECT_TRUE(run("Std_Suppress"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), "");
+}
+
+TEST_F(StandardCommands, GiveCopiesLabelsOfTheirOwn)
+{
+    vxtest::TestProject& project = makeProject();
+    select({&addObject(project, "Frame")});
+    for (const char* const label : {"Frame copy", "Frame copy 2", "Frame copy 3"}) {
+        // The copy of a copy is numbered like a copy of the original.
+        EXPECT_TRUE(run("Std_DuplicateSelection"));
+        EXPECT_EQ(project.getObjects().back()->label.getValue(), label);
+    }
+    EXPECT_TRUE(run("Std_Copy"));
+    vxtest::TestProject& other = makeProject("Other");
+    EXPECT_TRUE(run("Std_Paste"));
+    EXPECT_EQ(other.getObjects().back()->label.getValue(), "Frame copy 3");
+    EXPECT_TRUE(run("Std_Paste"));
+    EXPECT_EQ(other.getObjects().back()->label.getValue(), "Frame copy");
+}
+
+TEST_F(StandardCommands, RenameAProjectUndoably)
+{
+    vxtest::TestProject& project = makeProject("Project");
+    makeProject("Other");
+    selection().setSelection({&project}, {});
+    focusExplorer();
+    EXPECT_TRUE(run("Std_Rename"));
+    auto* const line = explorer().viewport()->findChild<QLineEdit*>();
+    ASSERT_NE(line, nullptr);
+    line->setText(QStringLiteral("Bridge"));
+    QTest::keyClick(line, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_STREQ(project.get_name(), "Bridge");
+    EXPECT_EQ(model().indexOf(project).data().toString(), "Bridge");
+    EXPECT_EQ(undoStack().undoText(), "Rename \"Project\"");
+    undoStack().undo();
+    EXPECT_STREQ(project.get_name(), "Project");
+    undoStack().redo();
+    EXPECT_STREQ(project.get_name(), "Bridge");
+}
+
+TEST_F(StandardCommands, RefuseNamesOfProjectsThatAreBlankOrTaken)
+{
+    vxtest::TestProject& project = makeProject("Project");
+    makeProject("Other");
+    model().synchronize();
+    undoStack().clear();
+    for (const char* const name : {"", "  ", "Other"}) {
+        EXPECT_FALSE(model().setData(model().indexOf(project), QLatin1String(name), Qt::EditRole)) << name;
+        EXPECT_STREQ(project.get_name(), "Project");
+    }
+    EXPECT_EQ(lastMessage(), "Another open project has the name \"Other\"; nothing was changed.");
+    EXPECT_TRUE(model().setData(model().indexOf(project), QStringLiteral("Project"), Qt::EditRole));
+    EXPECT_EQ(undoStack().count(), 0);
 }
 
 TEST_F(StandardCommands, ShowAndHideTheDocks)
@@ -245,6 +344,62 @@ TEST_F(StandardCommands, RunByTheirKeys)
     EXPECT_TRUE(window->getMdiWindows().isEmpty());
 }
 
+/// The commands while a table of a document has the keyboard focus, and an object is selected in the tree.
+class CommandsInADocument : public StandardCommands
+{
+protected:
+    CommandsInADocument()
+    {
+        auto* const document = new Gui::MDIWindow(nullptr, nullptr);
+        document->setCentralWidget(table);
+        window->add_mdi_window(document);
+        table->setItem(0, 0, new QTableWidgetItem(QStringLiteral("7850")));
+        table->setCurrentCell(0, 0);
+        select({&object});
+        table->setFocus();
+        EXPECT_TRUE(vxtest::waitFor([this] { return table->hasFocus(); }));
+        window->updateCommands();
+    }
+
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& object = addObject(project, "Beam");
+    QTableWidget* table = new QTableWidget(1, 1);
+};
+
+TEST_F(CommandsInADocument, DoNotDeleteOrDuplicateTheSelectedObject)
+{
+    for (const char* const command : {"Std_Delete", "Std_DuplicateSelection"}) {
+        EXPECT_FALSE(commands().findCommand(command)->action()->isEnabled()) << command;
+        run(command);
+        EXPECT_THAT(project.getObjects(), ElementsAre(&object)) << command;
+    }
+    focusExplorer();
+    for (const char* const command : {"Std_Delete", "Std_DuplicateSelection"})
+        EXPECT_TRUE(isApplicable(command)) << command;
+}
+
+TEST_F(CommandsInADocument, CopyTheCell)
+{
+    EXPECT_TRUE(commands().findCommand("Std_Copy")->action()->isEnabled());
+    EXPECT_TRUE(run("Std_Copy"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "7850");
+    focusExplorer();
+    EXPECT_TRUE(run("Std_Copy"));
+    EXPECT_TRUE(isApplicable("Std_Paste"));
+}
+
+TEST_F(CommandsInADocument, CopyNothingWithoutACell)
+{
+    table->setCurrentItem(nullptr);
+    EXPECT_FALSE(isApplicable("Std_Copy"));
+}
+
+TEST_F(CommandsInADocument, ActOnTheTreeAfterTheDocumentIsClosed)
+{
+    EXPECT_TRUE(run("Std_CloseWindow"));
+    EXPECT_TRUE(vxtest::waitFor([] { return isApplicable("Std_Delete"); }));
+}
+
 TEST_F(StandardCommands, RenameOneObjectAlone)
 {
     vxtest::TestProject& project = makeProject();
@@ -257,7 +412,7 @@ TEST_F(StandardCommands, RenameOneObjectAlone)
     selection().setSelection({&project}, {&a});
     EXPECT_FALSE(isApplicable("Std_Rename"));
     selection().setSelection({&project}, {});
-    EXPECT_FALSE(isApplicable("Std_Rename"));
+    EXPECT_TRUE(isApplicable("Std_Rename"));
 }
 
 TEST_F(StandardCommands, RenameInTheTreeAlsoWhenItIsHidden)

@@ -200,10 +200,12 @@ TEST_F(Panel, SaysHowManyAreSelected)
     EXPECT_EQ(rows(), QStringList({"2 entries are selected."}));
 }
 
-TEST_F(Panel, EmptiesWhenTheObjectIsRemoved)
+TEST_F(Panel, ShowsTheProjectWhenItsOnlyObjectIsRemoved)
 {
+    const QStringList before = rows();
     project.removeObject(object.getObjectId());
-    EXPECT_TRUE(vxtest::waitFor([this] { return rows() == QStringList({"Nothing is selected."}); }));
+    EXPECT_TRUE(vxtest::waitFor([this] { return selection().is_selected(&project); }));
+    EXPECT_TRUE(vxtest::waitFor([&] { return rows() != before; }));
 }
 
 TEST_F(Panel, SurvivesTheEndOfTheProjectDuringAnEdit)

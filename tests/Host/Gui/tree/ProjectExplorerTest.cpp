@@ -322,12 +322,12 @@ TEST_F(Explorer, DoesNotTakeAnEmptyLabel)
     EXPECT_EQ(first.label.getValue(), "First");
 }
 
-TEST_F(Explorer, RenamesOneObjectAlone)
+TEST_F(Explorer, RenamesOneObjectOrProjectAlone)
 {
     EXPECT_FALSE(explorer().renameSelected());
     select({&first, &second});
     EXPECT_FALSE(explorer().renameSelected());
-    selection().setSelection({&project}, {});
+    selection().setSelection({&project}, {&first});
     EXPECT_FALSE(explorer().renameSelected());
     select({&second});
     EXPECT_TRUE(explorer().renameSelected());

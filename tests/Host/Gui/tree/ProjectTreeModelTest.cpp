@@ -2,6 +2,7 @@
 
 #include "GuiTesting.h"
 
+#include "Gui/ObjectStatus.h"
 #include "Obj/Placeholder.h"
 #include "Obj/ProjectObjectGroup.h"
 
@@ -162,7 +163,9 @@ TEST_F(Tree, RenamesUndoably)
     undoStack().undo();
     EXPECT_EQ(index.data().toString(), "A");
     EXPECT_FALSE(tree.setData(index, "B", Qt::DisplayRole));
-    EXPECT_FALSE(tree.setData(tree.indexOf(project), "B", Qt::EditRole));
+    EXPECT_FALSE(tree.setData(tree.indexOf(project), "B", Qt::DisplayRole));
+    EXPECT_TRUE(tree.setData(tree.indexOf(project), "B", Qt::EditRole));
+    EXPECT_STREQ(project.get_name(), "B");
 }
 
 TEST_F(Tree, SaysWhichRowHasChanged)
@@ -175,6 +178,26 @@ TEST_F(Tree, SaysWhichRowHasChanged)
     object.label.setValue("C");
     ASSERT_EQ(spy.count(), 1);
     EXPECT_EQ(spy[0][0].toModelIndex(), tree.indexOf(object));
+}
+
+TEST_F(Tree, ShowsWhatTheJudgeOfTheClassFinds)
+{
+    vxtest::TypedObject& object = addTyped(makeProject(), "A");
+    tree.synchronize();
+    const auto tip = [&] { return tree.indexOf(object).data(Qt::ToolTipRole).toString().toStdString(); };
+    Gui::ObjectStatus status{Gui::ObjectStatus::Level::WithFindings, {"too short", "too thin"}};
+    Gui::registerObjectJudge("Test::Typed", [&status](const Obj::ProjectObject&) { return status; });
+    EXPECT_EQ(tip(), "A\nNot ready. Findings: 2\ntoo short\ntoo thin");
+    for (int i = 0; i < 10; ++i)
+        status.findings << QStringLiteral("more");
+    EXPECT_EQ(tip().substr(tip().size() - 9), "\nmore\n...");
+    status = {Gui::ObjectStatus::Level::Ready};
+    EXPECT_EQ(tip(), "A\nReady");
+    Gui::registerObjectJudge("Test::Typed", [](const Obj::ProjectObject&) -> Gui::ObjectStatus {
+        throw std::runtime_error("no tape measure");
+    });
+    EXPECT_EQ(tip(), "A\nNot ready. Findings: 1\nno tape measure");
+    Gui::registerObjectJudge("Test::Typed", [](const Obj::ProjectObject&) { return Gui::ObjectStatus(); });
 }
 
 TEST_F(Tree, ShowsWhetherAnObjectIsReadyEmptyOrSuppressed)

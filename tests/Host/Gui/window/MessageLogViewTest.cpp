@@ -3,6 +3,7 @@
 #include "GuiTesting.h"
 
 #include <QClipboard>
+#include <QStatusBar>
 
 namespace {
 
@@ -47,6 +48,32 @@ TEST_F(LogView, LeavesTheClipboardAloneWhenNothingIsSelected)
     view().clearSelection();
     QTest::keySequence(&view(), QKeySequence(QKeySequence::Copy));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "mine");
+}
+
+TEST_F(LogView, LeadsToTheObjectOfAMessage)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& object = addObject(project);
+    addObject(project, "Other");
+    Kelta::MessageLog::warning(QStringLiteral("wrong"), {project.getProjectId(), object.getObjectId(), 7});
+    Kelta::MessageLog::warning(QStringLiteral("general"));
+    EXPECT_FALSE(view().item(0)->toolTip().isEmpty());
+    EXPECT_TRUE(view().item(1)->toolTip().isEmpty());
+    const auto activate = [this](int row) {
+        view().setCurrentRow(row);
+        QTest::keyClick(&view(), Qt::Key_Return);
+    };
+    activate(0);
+    EXPECT_TRUE(selection().is_selected(&object, nullptr));
+    EXPECT_EQ(selection().getCount(), 1U);
+    EXPECT_EQ(nodeOf(object).editModes, std::vector<int>{0});
+    selection().clear();
+    activate(1);
+    EXPECT_EQ(selection().getCount(), 0U);
+    ASSERT_TRUE(project.removeObject(object.getObjectId()));
+    activate(0);
+    EXPECT_EQ(selection().getCount(), 0U);
+    EXPECT_EQ(window->statusBar()->currentMessage(), "The object of this message has been deleted or closed.");
 }
 
 TEST_F(LogView, KeepsNoMoreThanTheLog)

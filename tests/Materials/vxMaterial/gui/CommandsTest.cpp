@@ -959,6 +959,21 @@ TEST_F(ClosingEditors, AreAskedForOneByOneWhenAllAreToClose)
                 .arg(QString::fromStdString(project.getObjects()[static_cast<std::size_t>(i)]->label.getValue())));
 }
 
+TEST_F(ClosingEditors, AreInFrontWhileTheyAreAskedFor)
+{
+    nodeOf(*project.getObjects()[3]).on_double_clicked();
+    EXPECT_TRUE(run("Std_CloseAllWindows"));
+    for (int i = 0; i < 3; ++i) {
+        const Obj::ProjectObject* const material = project.getObjects()[static_cast<std::size_t>(i)];
+        ASSERT_TRUE(vxtest::waitFor([this] { return !window->findChildren<QMessageBox*>().isEmpty(); }));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->get_active_mdi_window(), window->editorOf(*material)) << i;
+        QMessageBox* const question = window->findChildren<QMessageBox*>().front();
+        question->button(QMessageBox::Discard)->click();
+        ASSERT_TRUE(vxtest::waitFor([&] { return window->editorOf(*material) == nullptr; }));
+    }
+}
+
 TEST_F(ClosingEditors, HaveOneQuestionOpenAtATime)
 {
     EXPECT_TRUE(run("Std_CloseAllWindows"));

@@ -58,7 +58,7 @@ TEST(MaterialViewHost, BringsEditsBackIntoANewWindow)
     }
     Editor editor;
     const auto before = vxtest::contents(editor.material());
-    ASSERT_TRUE(editor.view()->restoreUnapplied(record));
+    ASSERT_TRUE(editor.view()->restoreEdits(record));
     EXPECT_EQ(editor.rowIds(), ids);
     EXPECT_EQ(editor.cell(editor.rowOf(38), 2), "450, 608 MPa");
     EXPECT_EQ(editor.item("Yield stress")->checkState(), Qt::Checked);
@@ -78,7 +78,7 @@ TEST(MaterialViewHost, RecordsTextThatIsStillBeingTypedAndLeavesTheCellOpen)
     const Json::Value record = editor.view()->unappliedEdits();
     EXPECT_NE(vxtest::openEditor(editor.table()), nullptr);
     Editor other;
-    ASSERT_TRUE(other.view()->restoreUnapplied(record));
+    ASSERT_TRUE(other.view()->restoreEdits(record));
     EXPECT_EQ(other.cell(other.rowOf(5), 2), "1.5e1");
 }
 
@@ -94,25 +94,67 @@ TEST(MaterialViewHost, RecordsEditsWithoutTheLanguage)
         record = editor.view()->unappliedEdits();
     }
     Editor editor;
-    ASSERT_TRUE(editor.view()->restoreUnapplied(record));
+    ASSERT_TRUE(editor.view()->restoreEdits(record));
     EXPECT_EQ(editor.cell(editor.rowOf(4), 1), "Density");
     EXPECT_EQ(editor.cell(editor.rowOf(4), 3), "Mass density");
     EXPECT_EQ(editor.cell(editor.rowOf(4), 2), "2700");
+}
+
+TEST(MaterialViewHost, BringsBackUndoneEditsToBeRedone)
+{
+    Json::Value record;
+    {
+        Editor editor;
+        editor.typeValue(4, "2700");
+        editor.typeValue(5, "7e10");
+        for (int i = 0; i < 2; ++i)
+            editor.view()->getUndoStack()->undo();
+        EXPECT_TRUE(editor.view()->unappliedEdits().isNull());
+        record = editor.view()->editSteps();
+    }
+    Editor editor;
+    const QString density = editor.cell(editor.rowOf(4), 2);
+    ASSERT_TRUE(editor.view()->restoreEdits(record));
+    EXPECT_FALSE(editor.view()->isWindowModified());
+    EXPECT_EQ(editor.cell(editor.rowOf(4), 2), density);
+    editor.view()->getUndoStack()->redo();
+    EXPECT_EQ(editor.cell(editor.rowOf(4), 2), "2700");
+    EXPECT_TRUE(editor.view()->isWindowModified());
+    editor.view()->getUndoStack()->redo();
+    EXPECT_EQ(editor.cell(editor.rowOf(5), 2), "7e10");
+    EXPECT_FALSE(editor.view()->getUndoStack()->canRedo());
+}
+
+TEST(MaterialViewHost, HasNoStepsAfterApply)
+{
+    Editor editor;
+    EXPECT_TRUE(editor.view()->editSteps().isNull());
+    editor.typeValue(4, "2700");
+    EXPECT_FALSE(editor.view()->editSteps().isNull());
+    editor.click("btnApply");
+    EXPECT_TRUE(editor.view()->editSteps().isNull());
 }
 
 TEST(MaterialViewHost, ShowsNothingOfADamagedRecord)
 {
     Editor editor;
     const std::vector<int> before = editor.rowIds();
-    for (const char* const text :
-         {"null", "[]", "7", "{}", R"({"rows": [], "checked": 4})", R"({"rows": {}, "checked": []})",
-          R"({"rows": [4], "checked": []})", R"({"rows": [{"id": "4"}], "checked": []})",
-          R"({"rows": [{"id": 4, "name": "n", "value": 1, "description": "", "key": "", "unit": ""}], "checked": []})",
-          R"({"rows": [], "checked": ["4"]})"})
+    const auto step = [](const std::string& rows, const std::string& checked) {
+        return R"({"steps": [{"text": "t", "rows": )" + rows + R"(, "checked": )" + checked + R"(}], "done": 1})";
+    };
+    for (const std::string& text :
+         {std::string("null"), std::string("[]"), std::string("7"), std::string("{}"),
+          std::string(R"({"steps": [], "done": 0})"), std::string(R"({"steps": [7], "done": 1})"),
+          std::string(R"({"steps": [{"text": "t", "rows": [], "checked": []}], "done": 2})"),
+          std::string(R"({"steps": [{"text": "t", "rows": [], "checked": []}], "done": -1})"),
+          std::string(R"({"steps": [{"text": 1, "rows": [], "checked": []}], "done": 1})"), step("[]", "4"),
+          step("{}", "[]"), step("[4]", "[]"), step(R"([{"id": "4"}])", "[]"),
+          step(R"([{"id": 4, "name": "n", "value": 1, "description": "", "key": "", "unit": ""}])", "[]"),
+          step("[]", R"(["4"])")})
     {
         Json::Value record;
         std::istringstream(text) >> record;
-        EXPECT_FALSE(editor.view()->restoreUnapplied(record)) << text;
+        EXPECT_FALSE(editor.view()->restoreEdits(record)) << text;
     }
     EXPECT_EQ(editor.rowIds(), before);
     EXPECT_FALSE(editor.view()->isWindowModified());

@@ -1,0 +1,90 @@
+#include "commands/HistoryCommands.h"
+
+#include "Gui/CommandController.h"
+#include "Gui/CommandTable.h"
+#include "Gui/MainWindow.h"
+#include "commands/ChangedObjects.h"
+
+#include <QStatusBar>
+#include <QUndoStack>
+
+namespace Gui {
+
+namespace {
+
+constexpr const char* context = "StandardCommand";
+
+/// Returns the undo stack of the document in which the user works; null if there is none.
+QUndoStack* documentStack()
+{
+    const MainWindow* const window = MainWindow::get_main_window_inst();
+    return window != nullptr ? window->documentUndoStack() : nullptr;
+}
+
+/// The unapplied edits of a document are the latest changes.
+QUndoStack& stackToUndo(QUndoStack& history)
+{
+    QUndoStack* const document = documentStack();
+    return document != nullptr && document->canUndo() ? *document : history;
+}
+
+/// While a document has unapplied edits, older changes must not be redone.
+QUndoStack& stackToRedo(QUndoStack& history)
+{
+    QUndoStack* const document = documentStack();
+    return document != nullptr && document->count() != 0 ? *document : history;
+}
+
+/// The step may replace the main window's document, so its text is passed.
+void tell(const char* sentence, const QString& step)
+{
+    if (const MainWindow* const window = MainWindow::get_main_window_inst())
+        window->statusBar()->showMessage(QCoreApplication::translate(context, sentence).arg(step), 10000);
+}
+
+void undo(QUndoStack& history, TreeSelectionSingleton& selection)
+{
+    QUndoStack& stack = stackToUndo(history);
+    const QString step = stack.undoText();
+    const ChangedObjects changed;
+    stack.undo();
+    changed.select(selection);
+    tell(QT_TRANSLATE_NOOP("StandardCommand", "Undone: %1"), step);
+}
+
+void redo(QUndoStack& history, TreeSelectionSingleton& selection)
+{
+    QUndoStack& stack = stackToRedo(history);
+    const QString step = stack.redoText();
+    const ChangedObjects changed;
+    stack.redo();
+    changed.select(selection);
+    tell(QT_TRANSLATE_NOOP("StandardCommand", "Redone: %1"), step);
+}
+
+} // namespace
+
+void addHistoryCommands(CommandController& commands, QUndoStack& history, TreeSelectionSingleton& selection)
+{
+    CommandRow undoRow{"Std_Undo",
+                       QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
+                       QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"),
+                       "kelta_undo",
+                       QKeySequence::Undo,
+                       CommandType::none,
+                       [&history, &selection] { undo(history, selection); },
+                       [&history] { return stackToUndo(history).canUndo(); }};
+    undoRow.subject = [&history] { return stackToUndo(history).undoText(); };
+    CommandRow redoRow{"Std_Redo",
+                       QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
+                       QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"),
+                       "kelta_redo",
+                       QKeySequence::Redo,
+                       CommandType::none,
+                       [&history, &selection] { redo(history, selection); },
+                       [&history] { return stackToRedo(history).canRedo(); }};
+    redoRow.subject = [&history] { return stackToRedo(history).redoText(); };
+    addCommands(commands, context, {std::move(undoRow), std::move(redoRow)});
+}
+
+} // namespace Gui

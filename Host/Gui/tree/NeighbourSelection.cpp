@@ -1,0 +1,53 @@
+#include "tree/NeighbourSelection.h"
+
+#include "Gui/ProjectTreeModel.h"
+#include "Gui/TreeSelectionSingleton.h"
+
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace Gui {
+
+NeighbourSelection::NeighbourSelection(QTreeView& tree, const ProjectTreeModel& model,
+                                       TreeSelectionSingleton& selection)
+    : QObject(&tree), m_tree(tree), m_model(model), m_selection(selection)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &NeighbourSelection::selectNeighbour);
+    connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &NeighbourSelection::noteRemoval);
+}
+
+NeighbourSelection::~NeighbourSelection() = default;
+
+void NeighbourSelection::noteRemoval(const QModelIndex& parent, int first, int last)
+{
+    // The neighbour of a project is another project, on which the user does not work.
+    if (!parent.isValid())
+        return;
+    const QModelIndexList selected = m_tree.selectionModel()->selectedIndexes();
+    const bool isSelected = std::any_of(selected.begin(), selected.end(), [&](const QModelIndex& index) {
+        return index.parent() == parent && index.row() >= first && index.row() <= last;
+    });
+    if (!isSelected)
+        return;
+    // Blocks of rows are removed from the end, so the last block is the first one in the tree.
+    m_parent = parent;
+    m_row = first;
+    m_timer.start(0);
+}
+
+void NeighbourSelection::selectNeighbour()
+{
+    if (m_selection.getCount() != 0 || !m_parent.isValid())
+        return;
+    const int count = m_model.rowCount(m_parent);
+    const QModelIndex neighbour =
+        count == 0 ? QModelIndex(m_parent) : m_model.index(std::min(m_row, count - 1), 0, m_parent);
+    if (Obj::ProjectObject* const object = m_model.objectAt(neighbour))
+        m_selection.setSelection({}, {object});
+    else if (Obj::Project* const project = m_model.projectAt(neighbour))
+        m_selection.setSelection({project}, {});
+}
+
+} // namespace Gui

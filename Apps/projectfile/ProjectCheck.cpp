@@ -47,6 +47,9 @@ void checkNumbersAndNames(const std::vector<ObjectRecord>& objects)
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const ObjectRecord& object = objects[i];
         checkName(paths[i] + ".class", object.className);
+        if (object.material == nullptr && object.className == materialClass)
+            refuseMember(paths[i] + ".class", tr(R"("%1" is %2, but objects of this class belong in "materials")"),
+                         quoted(object.className));
         checkName(paths[i] + ".name_internal", object.internalName);
         if (object.objectId == 0)
             refuseMember(paths[i] + ".object_id", tr(R"("%1" is 0 but must be from 1 to 4294967295)"));
@@ -197,6 +200,22 @@ void doubtLabels(const ProjectRecord& project, std::vector<std::string>& doubts)
     }
 }
 
+/// Removes labels from the properties of objects, because the label is a member of the object.
+void removeSecondLabels(ProjectRecord& project, std::vector<std::string>& doubts)
+{
+    constexpr const char* name = "Label";
+    const std::vector<std::string> paths = pathsOf(project.objects);
+    for (std::size_t i = 0; i < project.objects.size(); ++i) {
+        Json::Value& properties = project.objects[i].properties;
+        if (!properties.isObject() || !properties.isMember(name))
+            continue;
+        properties.removeMember(name);
+        doubts.push_back(tr(R"("%1" is left out; the label of the object is %2.)")
+                             .arg(toQString(paths[i] + ".properties." + name), quoted(project.objects[i].label))
+                             .toStdString());
+    }
+}
+
 /// An invalid link.
 struct FalseLink
 {
@@ -263,6 +282,7 @@ std::vector<std::string> takeDoubts(ProjectRecord& project)
 {
     std::vector<std::string> doubts = findFalseLinks(project);
     removeFalseLinks(project.objects);
+    removeSecondLabels(project, doubts);
     doubtLabels(project, doubts);
     return doubts;
 }

@@ -446,6 +446,14 @@ TEST(MixedProject, LosesInvalidLinksWithADoubt)
     EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[0].links[0]\" is 9"));
 }
 
+TEST(MixedProject, LosesASecondLabelWithADoubt)
+{
+    const ProjectRecord read = projectfile::readProject(replaced(mixedText(), "\"properties\": {\n        \"Batch\"",
+                                                                 "\"properties\": {\n \"Label\": \"X\", \"Batch\""));
+    EXPECT_FALSE(read.objects[0].properties.isMember("Label"));
+    EXPECT_THAT(read.doubts, ElementsAre(HasSubstr("\"materials[0].properties.Label\" is left out")));
+}
+
 class WrongMixedProject : public testing::TestWithParam<Wrong>
 {};
 
@@ -472,6 +480,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"      \"class\": \"Stub::Probe\",\n", "", "\"objects[0].class\" is missing"},
         Wrong{"\"class\": \"Stub::Probe\"", "\"class\": \"\"", "\"objects[0].class\" must not be empty"},
         Wrong{"\"class\": \"Stub::Probe\"", R"("class": "Stub\u0000Probe")", "contains a zero character"},
+        Wrong{"\"class\": \"Stub::Probe\"", "\"class\": \"Mat::MaterialObject\"",
+              "\"objects[0].class\" is \"Mat::MaterialObject\", but objects of this class belong in"},
         Wrong{"\"name_internal\": \"Other3\"", "\"name_internal\": \"Material2\"",
               "\"objects[0].name_internal\" is \"Material2\", which is the name of materials[1]"},
         Wrong{"\"name_internal\": \"Other3\"", "\"name_internal\": \"\"", "\"objects[0].name_internal\" must not be"},

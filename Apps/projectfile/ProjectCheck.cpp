@@ -216,6 +216,30 @@ void removeSecondLabels(ProjectRecord& project, std::vector<std::string>& doubts
     }
 }
 
+/// The groups of objects. An object is in one group at most, and no group is inside itself.
+class Groups
+{
+public:
+    /// Puts an object into a group. Returns false, without a change, if this is not possible.
+    bool take(std::uint32_t member, std::uint32_t group)
+    {
+        for (std::uint32_t around = group; around != 0; around = groupOf(around))
+            if (around == member)
+                return false;
+        return m_groups.emplace(member, group).second;
+    }
+
+private:
+    /// Returns 0 if the object is in no group.
+    std::uint32_t groupOf(std::uint32_t member) const
+    {
+        const auto found = m_groups.find(member);
+        return found != m_groups.end() ? found->second : 0;
+    }
+
+    std::unordered_map<std::uint32_t, std::uint32_t> m_groups; ///< by the number of the member
+};
+
 /// An invalid link.
 struct FalseLink
 {
@@ -226,7 +250,9 @@ struct FalseLink
 
 std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
 {
+    constexpr std::string_view groupClass = "Obj::ProjectObjectGroup";
     const ObjectIndex known = byNumber(objects);
+    Groups groups;
     std::vector<FalseLink> found;
     for (std::size_t object = 0; object < objects.size(); ++object) {
         std::unordered_set<std::uint32_t> seen;
@@ -242,6 +268,11 @@ std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
             else if (!seen.insert(number).second)
                 found.push_back({object, link,
                                  QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which occurs twice.)")});
+            else if (objects[object].className == groupClass && !groups.take(number, objects[object].objectId))
+                found.push_back(
+                    {object, link,
+                     QT_TRANSLATE_NOOP("projectfile::ProjectFile",
+                                       R"("%1" is %2, which is in another group or contains this group.)")});
         }
     }
     return found;

@@ -40,6 +40,14 @@ QString toQString(const std::string& path)
     return name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name;
 }
 
+/// Returns whether an input with this beginning is certainly no JSON document: reading it to the end may take for ever.
+bool isHopeless(const std::string& beginning)
+{
+    const std::size_t first = beginning.find_first_not_of(" \t\r\n");
+    return beginning.find('\0') != std::string::npos ||
+           (first != std::string::npos && std::string_view("{[/\xEF").find(beginning[first]) == std::string_view::npos);
+}
+
 /// Reads an input of unknown length.
 std::string readAll(const std::string& path, QFile& file)
 {
@@ -47,8 +55,12 @@ std::string readAll(const std::string& path, QFile& file)
     std::string content;
     std::string block(blockSize, '\0');
     qint64 count = 0;
-    while (content.size() <= vxjson::longestText && (count = file.read(block.data(), blockSize)) > 0)
+    while (content.size() <= vxjson::longestText && (count = file.read(block.data(), blockSize)) > 0) {
+        const bool isFirst = content.empty();
         content.append(block, 0, static_cast<std::size_t>(count));
+        if (isFirst && isHopeless(content))
+            break;
+    }
     if (count < 0)
         fail(path, file.errorString());
     if (content.size() > vxjson::longestText)

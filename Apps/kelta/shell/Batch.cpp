@@ -31,6 +31,7 @@ namespace desktop {
 
 namespace {
 
+constexpr qint64 longestList = qint64{64} << 20U;
 constexpr const char* quitName = "Std_Quit";
 
 QTextStream& standardError()
@@ -215,9 +216,11 @@ std::optional<QString> readList(const QString& path, QString& text)
     QFile file(path);
     const bool opened =
         isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly | QIODevice::Text);
-    const QByteArray bytes = opened ? file.readAll() : QByteArray();
+    const QByteArray bytes = opened ? file.read(longestList + 1) : QByteArray();
     if (!opened || file.error() != QFileDevice::NoError)
         return file.errorString();
+    if (bytes.size() > longestList)
+        return tr("the list is longer than 64 MiB");
     QTextCodec::ConverterState state;
     text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars != 0 || state.remainingChars != 0)

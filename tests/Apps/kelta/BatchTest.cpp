@@ -1,6 +1,7 @@
 #include "KeltaTesting.h"
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -248,6 +249,9 @@ TEST_F(Batch, ReadsNoListThatNeverEnds)
     const Outcome outcome = run({"--batch", "/dev/zero"});
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(errorsOf(outcome), "/dev/zero: this is not a regular file\n");
+    QFile list(path("long.batch"));
+    ASSERT_TRUE(list.open(QIODevice::WriteOnly) && list.resize(qint64{100} << 20));
+    EXPECT_EQ(errorsOf(run({"--batch", "long.batch"})), "long.batch: the list is longer than 64 MiB\n");
 }
 
 TEST_F(Batch, TellsHowItIsUsed)

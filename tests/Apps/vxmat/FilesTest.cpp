@@ -179,6 +179,12 @@ TEST(Files, AreRefusedIfReadingThemWouldNeverBeginOrNeverEnd)
               "vxmat: /dev/zero: this is a device or a pipe; a file is needed, or \"-\" for standard input\n");
 }
 
+TEST(Files, AreReadOnlyAsFarAsTheyCanBeDocuments)
+{
+    EXPECT_THAT(shell("\"$VXMAT\" check - </dev/zero").err, HasSubstr("line 1, column 1: a zero byte"));
+    EXPECT_THAT(shell("yes | \"$VXMAT\" check -").err, HasSubstr("line 1, column 1: 'y' is not a JSON value"));
+}
+
 TEST(Files, MayBeReadFromADescriptorThatIsOpen)
 {
     for (const char* const path : {"/dev/stdin", "/dev/fd/0", "/proc/self/fd/0"})

@@ -1,3 +1,4 @@
+#include "DataFile.h"
 #include "FilesTesting.h"
 #include "HostTesting.h"
 #include "MaterialGuards.h"
@@ -240,6 +241,39 @@ TEST_F(ProjectFiles, KeepTheirNameIfAnotherProjectHasIt)
     addMaterial("Another");
     ASSERT_TRUE(run("Std_Save"));
     EXPECT_EQ(projectfile::readProject(contentOf(path("b.vxmat")).toStdString()).name, "Materials");
+}
+
+/// Returns the content of a project file without the record of the host, whose numbers differ from run to run, and
+/// without colours, of which the host writes the default too.
+std::string contentOfModules(const QByteArray& file)
+{
+    projectfile::ProjectRecord record = projectfile::readProject(file.toStdString());
+    record.database = Json::Value();
+    for (projectfile::ObjectRecord& object : record.objects)
+        object.colour.reset();
+    return projectfile::writeProject(record);
+}
+
+TEST_F(ProjectFiles, OpenUnchangedIfTheCheckFindsNothingAndNotAtAllIfItRefusesThem)
+{
+    // The exit status of "vxmat check" is the first line of the expected result beside each file.
+    const QDir corpus(QString::fromStdString(vxtest::dataPath("projects")));
+    for (const QString& name : corpus.entryList({QStringLiteral("*.vxmat")})) {
+        SCOPED_TRACE(name.toStdString());
+        const QByteArray status = contentOf(corpus.filePath(name.chopped(6) + QStringLiteral(".expected"))).left(1);
+        ASSERT_TRUE(QFile::copy(corpus.filePath(name), path("a.vxmat")));
+        const Answers answers(status == "2" ? QStringList("OK") : QStringList());
+        run("Std_Open", path("a.vxmat"));
+        EXPECT_EQ(Obj::Application::get_projects().size(), status == "2" ? 0U : 1U);
+        if (status == "0") {
+            EXPECT_FALSE(files->isModified(*Obj::Application::get_current_project()));
+            EXPECT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+            EXPECT_EQ(contentOfModules(contentOf(path("b.vxmat"))), contentOfModules(contentOf(path("a.vxmat"))));
+        }
+        Obj::Application::instance().closeAllProjects();
+        QFile::remove(path("a.vxmat"));
+        QFile::remove(path("b.vxmat"));
+    }
 }
 
 TEST_F(ProjectFiles, KeepANameThatIsNoneForAnOpenProject)

@@ -88,8 +88,7 @@ bool Opening::openFile(const QString& path)
     std::optional<projectfile::ProjectRecord> record = readRecord(path, stamp);
     if (!record)
         return m_onDocument(path);
-    const OpeningGuard* const guard = findOpeningGuard(record->className);
-    if (guard != nullptr && !(*guard)(path))
+    if (!mayOpen(*record, path))
         return false;
     Obj::Project& project = openProject(*record, path);
     Session& session = *m_sessions.find(project);
@@ -101,6 +100,12 @@ bool Opening::openFile(const QString& path)
     RecentFiles::add(path);
     m_mainWindow.updateCommands();
     return true;
+}
+
+bool Opening::mayOpen(const projectfile::ProjectRecord& record, const QString& path)
+{
+    const OpeningGuard* const guard = findOpeningGuard(record.className);
+    return guard == nullptr || (*guard)(path);
 }
 
 Obj::Project& Opening::openProject(projectfile::ProjectRecord& record, const QString& path)

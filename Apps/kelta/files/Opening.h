@@ -43,6 +43,9 @@ public:
     /// fails, tells the user the reason, adds no project and returns false.
     bool open(const QString& path);
 
+    /// Asks the guard of the class of a record, if there is one, whether a project may be opened from a file.
+    static bool mayOpen(const projectfile::ProjectRecord& record, const QString& path);
+
     /// Makes a project from a record and selects it. Writes doubts about the record to the message log, with the name
     /// of the file `source`. Returns null, with the reason in the message log, if the project cannot be made.
     /// \throws std::exception if the content is wrong; no project is added

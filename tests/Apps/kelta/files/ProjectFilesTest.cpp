@@ -391,6 +391,26 @@ TEST_F(SecondFile, DoesNotCloseTheFirstIfItIsNotAProject)
     EXPECT_THAT(labels(), testing::ElementsAre("First"));
 }
 
+TEST_F(SecondFile, IsRecoveredOnlyIfTheFirstIsClosed)
+{
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 1);
+    crash();
+    newProject();
+    addMaterial("Later");
+    {
+        const Answers answers({"Recover", "Cancel"});
+        files->offerRecovery();
+    }
+    EXPECT_THAT(labels(), testing::ElementsAre("Later"));
+    EXPECT_EQ(copies().size(), 1);
+    {
+        const Answers answers({"Recover", "Close and open", "Discard"});
+        files->offerRecovery();
+    }
+    EXPECT_THAT(labels(), testing::ElementsAre("First"));
+}
+
 TEST_F(SecondFile, IsNotReplacedByAnExportWithoutAQuestion)
 {
     const QByteArray before = contentOf(path("a.vxmat"));

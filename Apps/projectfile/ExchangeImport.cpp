@@ -330,6 +330,13 @@ ImportedMaterials importExchange(std::string_view text, Numbering numbering)
     return imported;
 }
 
+bool isMaterialDocument(std::string_view text)
+{
+    const vxjson::JsonTree tree = vxjson::JsonTree::read(text, vxjson::JsonDialect::WithComments);
+    const auto kind = unsignedNumber(tree.root()["proj_type"]);
+    return kind && *kind == vxCAE::ProjectKind::Material && !isProject(tree.root());
+}
+
 ProjectRecord makeProject(const std::string& name, std::vector<ImportedMaterial> materials)
 {
     ProjectRecord project;

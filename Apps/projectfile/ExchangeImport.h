@@ -53,6 +53,9 @@ enum class Numbering
 /// path of the member, for example "$.material[2].Props[0].prop_value"
 PROJECTFILE_EXPORT ImportedMaterials importExchange(std::string_view text, Numbering numbering = Numbering::OfDocument);
 
+/// Returns whether a text is a JSON object with "proj_type" 2, the mark of a material document. Its members may be wrong.
+PROJECTFILE_EXPORT bool isMaterialDocument(std::string_view text);
+
 /// Returns a project with this name and an object for each material, with the same database record as a project that
 /// the host makes. Moves the materials into the project.
 ///

@@ -47,6 +47,9 @@ void checkNumbersAndNames(const std::vector<ObjectRecord>& objects)
     for (std::size_t i = 0; i < objects.size(); ++i) {
         const ObjectRecord& object = objects[i];
         checkName(paths[i] + ".class", object.className);
+        if (object.material == nullptr && object.className == materialClass)
+            refuseMember(paths[i] + ".class", tr(R"("%1" is %2, but objects of this class belong in "materials")"),
+                         quoted(object.className));
         checkName(paths[i] + ".name_internal", object.internalName);
         if (object.objectId == 0)
             refuseMember(paths[i] + ".object_id", tr(R"("%1" is 0 but must be from 1 to 4294967295)"));
@@ -197,6 +200,46 @@ void doubtLabels(const ProjectRecord& project, std::vector<std::string>& doubts)
     }
 }
 
+/// Removes labels from the properties of objects, because the label is a member of the object.
+void removeSecondLabels(ProjectRecord& project, std::vector<std::string>& doubts)
+{
+    constexpr const char* name = "Label";
+    const std::vector<std::string> paths = pathsOf(project.objects);
+    for (std::size_t i = 0; i < project.objects.size(); ++i) {
+        Json::Value& properties = project.objects[i].properties;
+        if (!properties.isObject() || !properties.isMember(name))
+            continue;
+        properties.removeMember(name);
+        doubts.push_back(tr(R"("%1" is left out; the label of the object is %2.)")
+                             .arg(toQString(paths[i] + ".properties." + name), quoted(project.objects[i].label))
+                             .toStdString());
+    }
+}
+
+/// The groups of objects. An object is in one group at most, and no group is inside itself.
+class Groups
+{
+public:
+    /// Puts an object into a group. Returns false, without a change, if this is not possible.
+    bool take(std::uint32_t member, std::uint32_t group)
+    {
+        for (std::uint32_t around = group; around != 0; around = groupOf(around))
+            if (around == member)
+                return false;
+        return m_groups.emplace(member, group).second;
+    }
+
+private:
+    /// Returns 0 if the object is in no group.
+    std::uint32_t groupOf(std::uint32_t member) const
+    {
+        const auto found = m_groups.find(member);
+        return found != m_groups.end() ? found->second : 0;
+    }
+
+    std::unordered_map<std::uint32_t, std::uint32_t> m_groups; ///< by the number of the member
+};
+
 /// An invalid link.
 struct FalseLink
 {
@@ -207,7 +250,9 @@ struct FalseLink
 
 std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
 {
+    constexpr std::string_view groupClass = "Obj::ProjectObjectGroup";
     const ObjectIndex known = byNumber(objects);
+    Groups groups;
     std::vector<FalseLink> found;
     for (std::size_t object = 0; object < objects.size(); ++object) {
         std::unordered_set<std::uint32_t> seen;
@@ -223,6 +268,11 @@ std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
             else if (!seen.insert(number).second)
                 found.push_back({object, link,
                                  QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which occurs twice.)")});
+            else if (objects[object].className == groupClass && !groups.take(number, objects[object].objectId))
+                found.push_back(
+                    {object, link,
+                     QT_TRANSLATE_NOOP("projectfile::ProjectFile",
+                                       R"("%1" is %2, which is in another group or contains this group.)")});
         }
     }
     return found;
@@ -263,6 +313,7 @@ std::vector<std::string> takeDoubts(ProjectRecord& project)
 {
     std::vector<std::string> doubts = findFalseLinks(project);
     removeFalseLinks(project.objects);
+    removeSecondLabels(project, doubts);
     doubtLabels(project, doubts);
     return doubts;
 }

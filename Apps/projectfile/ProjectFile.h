@@ -71,7 +71,8 @@ struct PROJECTFILE_EXPORT ProjectRecord
     Json::Value further; ///< unknown members of the file, which are written back
 
     /// Messages about data that the reader corrected, in the user's language: a label that differs in the database
-    /// (the label beside the material is used), and an invalid link (it is removed).
+    /// (the label beside the material is used), a label among the properties of an object and an invalid link (both are
+    /// removed).
     std::vector<std::string> doubts;
 };
 

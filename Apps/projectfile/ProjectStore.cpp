@@ -17,6 +17,7 @@
 #include <fcntl.h>
 #include <new>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -158,19 +159,53 @@ void checkTarget(const QString& path, const QString& target)
         fail(path, tr("'%1' is a file; a folder is needed.").arg(QDir::toNativeSeparators(folder.filePath())));
 }
 
-/// Gives a new file the owner of the old one, if the system allows that.
-void keepOwner(const QString& target, int descriptor)
+constexpr const char* accessList = "system.posix_acl_access";
+
+/// Returns the POSIX access list of a file in the form of the system; empty if it has none.
+std::string readAccessList(const QByteArray& name)
 {
-    struct stat status = {};
+    const ssize_t size = getxattr(name.constData(), accessList, nullptr, 0);
+    std::string list(size > 0 ? static_cast<std::size_t>(size) : 0, '\0');
+    const ssize_t got = size > 0 ? getxattr(name.constData(), accessList, list.data(), list.size()) : 0;
+    list.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+    return list;
+}
+
+/// Gives a new file the owner and the group of the old one, as far as the system allows that. Returns whether it has
+/// them.
+bool keepOwner(const struct stat& old, int descriptor)
+{
     struct stat ours = {};
-    if (stat(systemName(target).constData(), &status) != 0 || fstat(descriptor, &ours) != 0)
+    if (fstat(descriptor, &ours) == 0 && ours.st_uid == old.st_uid && ours.st_gid == old.st_gid)
+        return true;
+    if (fchown(descriptor, old.st_uid, old.st_gid) == 0)
+        return true;
+    static_cast<void>(fchown(descriptor, static_cast<uid_t>(-1), old.st_gid));
+    return fstat(descriptor, &ours) == 0 && ours.st_uid == old.st_uid && ours.st_gid == old.st_gid;
+}
+
+/// Gives a new file the rights of the old one: owner, group, mode and access list. If the system does not allow that,
+/// the new file has fewer rights, so that nobody gains any. A file that replaces none keeps the rights of its folder.
+void keepRights(const QString& target, int descriptor)
+{
+    constexpr mode_t allRights = 07777U;
+    constexpr mode_t rightsOfOwner = 0700U;
+    const QByteArray name = systemName(target);
+    struct stat old = {};
+    if (stat(name.constData(), &old) != 0)
         return;
-    if (status.st_uid == ours.st_uid && status.st_gid == ours.st_gid)
+    const mode_t mode = old.st_mode & allRights;
+    const std::string list = readAccessList(name);
+    // The folder may have given the new file a list of its own.
+    static_cast<void>(fremovexattr(descriptor, accessList));
+    if (!keepOwner(old, descriptor)) {
+        static_cast<void>(fchmod(descriptor, mode & rightsOfOwner));
         return;
-    // Changing the owner removes some of the permissions that were copied from the old file.
-    if (fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
-        fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0)
-        static_cast<void>(fchmod(descriptor, status.st_mode & 07777U));
+    }
+    // Beside a list, the rights of the group in the mode are those of the list's mask.
+    static_cast<void>(fchmod(descriptor, list.empty() ? mode : mode & rightsOfOwner));
+    if (!list.empty() && fsetxattr(descriptor, accessList, list.data(), list.size(), 0) == 0)
+        static_cast<void>(fchmod(descriptor, mode));
 }
 
 /// Waits until the file is on the disk. Returns true also if the file system does not support this.
@@ -187,10 +222,16 @@ void syncFolder(const QString& folder)
         static_cast<void>(fsync(opened.number()));
 }
 
+/// Returns the path of the lock file of a file.
 QString lockPathOf(const QString& path)
 {
     const QFileInfo target(targetOf(path));
-    return QDir(target.path()).filePath(QStringLiteral(".%1.lock").arg(target.fileName()));
+    const QString lockPath = QDir(target.path()).filePath(QStringLiteral(".%1.lock").arg(target.fileName()));
+    // Reading a pipe or a device may never begin or never end.
+    struct stat status = {};
+    if (stat(systemName(lockPath).constData(), &status) == 0 && !S_ISREG(status.st_mode))
+        fail(path, tr("Its lock file '%1' is not a regular file. Remove it.").arg(QDir::toNativeSeparators(lockPath)));
+    return lockPath;
 }
 
 } // namespace
@@ -234,7 +275,7 @@ FileStamp writeFile(const QString& path, const std::string& text)
     file.setDirectWriteFallback(false);
     if (!file.open(QIODevice::WriteOnly))
         fail(path, file.errorString());
-    keepOwner(target, file.handle());
+    keepRights(target, file.handle());
     // A disk that is nearly full accepts a part of the text. The next attempt returns the reason.
     for (qint64 at = 0; at < size;) {
         const qint64 written = file.write(text.data() + at, size - at);
@@ -299,6 +340,11 @@ bool FileLock::tryLock()
     return isOld && m_lock->removeStaleLockFile() && m_lock->tryLock(0);
 }
 
+void FileLock::unlock()
+{
+    m_lock->unlock();
+}
+
 bool FileLock::isLocked() const
 {
     return m_lock->isLocked();
@@ -315,6 +361,19 @@ QString FileLock::holder() const
     if (isHere && kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH)
         return {};
     return tr("%1 (%2 on %3)").arg(program, QString::number(process), host);
+}
+
+bool FileLock::isHeldElsewhere() const
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return !isLocked() && m_lock->getLockInfo(&process, &host, &program) && host != QSysInfo::machineHostName();
+}
+
+bool FileLock::takeOver()
+{
+    return isHeldElsewhere() && m_lock->removeStaleLockFile() && m_lock->tryLock(0);
 }
 
 } // namespace projectfile

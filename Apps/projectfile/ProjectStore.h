@@ -35,7 +35,8 @@ struct PROJECTFILE_EXPORT FileStamp
 PROJECTFILE_EXPORT std::string readFile(const QString& path, FileStamp* stamp = nullptr);
 
 /// Replaces a file completely or not at all: writes a new file beside it, flushes the new file to the disk, and renames
-/// it. Keeps the permissions of an existing file. Replaces the target of a symbolic link. Returns the new state of the
+/// it. Keeps the owner, the permissions and the POSIX access list of an existing file; if the system does not allow
+/// that, only the owner of the new file has rights. Replaces the target of a symbolic link. Returns the new state of the
 /// file.
 /// \throws StoreError if this fails; an existing file is then unchanged
 PROJECTFILE_EXPORT FileStamp writeFile(const QString& path, const std::string& text);
@@ -49,6 +50,7 @@ PROJECTFILE_EXPORT bool hasChanged(const QString& path, const FileStamp& stamp);
 class PROJECTFILE_EXPORT FileLock
 {
 public:
+    /// \throws StoreError if the path is empty or a circle of links, or if the lock file is not a regular file
     explicit FileLock(const QString& path);
     ~FileLock();
     FileLock(FileLock&&) noexcept;
@@ -56,10 +58,17 @@ public:
 
     /// Returns false if another program has the lock, whose name holder() then returns, or if no lock file can be made.
     bool tryLock();
+    /// Releases the lock. Does nothing if this program does not have it.
+    void unlock();
     bool isLocked() const;
     /// Returns the program that has the lock, for example "kelta (1234 on host)"; empty if no program is known to have
     /// it.
     QString holder() const;
+    /// Whether the program that has the lock runs on another computer. This program cannot see whether it still runs.
+    bool isHeldElsewhere() const;
+    /// Takes the lock of a program on another computer away and locks the file. Returns false, without a change, if the
+    /// program runs on this computer, or if the lock file cannot be replaced.
+    bool takeOver();
 
 private:
     QString m_lockPath;

@@ -31,8 +31,7 @@ vxCAE::CheckReport check(const std::string& path, const std::optional<std::strin
     if (materialsPath)
         materials = readMaterialDocument(*materialsPath);
 
-    vxCAE::CheckReport report =
-        vxCAE::checkDocument(input.tree.root().toJsonValue(), materialsPath ? &materials : nullptr);
+    vxCAE::CheckReport report = vxCAE::checkDocument(toDocument(input), materialsPath ? &materials : nullptr);
     const auto repeated = findRepeatedMembers(input);
     report.findings.insert(report.findings.begin(), repeated.begin(), repeated.end());
     return report;

@@ -55,6 +55,7 @@ private:
     void addQuery();
 
     Form form() const { return m_json ? Form::Json : Form::Text; }
+    Existing existing() const { return m_force ? Existing::Replace : Existing::Keep; }
 
     CLI::App m_app{
         "Materials for finite-element simulation: the library, projects, exchange documents and solver cards.",
@@ -62,6 +63,7 @@ private:
     std::function<Answer()> m_action;
 
     bool m_json = false;
+    bool m_force = false;
     std::string m_name;
     std::vector<std::string> m_names;
     std::string m_file;
@@ -116,6 +118,8 @@ void CommandLine::addOutput(CLI::App* command)
     command->add_option("-o,--output", m_output, "The file to write; - is standard output")
         ->type_name("FILE")
         ->required();
+    command->add_flag("--force", m_force,
+                      "Replace an existing project, and take over a lock that a program on another computer has left");
 }
 
 void CommandLine::addLibrary()
@@ -146,16 +150,16 @@ void CommandLine::addNew()
 {
     CLI::App* const command = addCommand("new", "Make a project file of built-in materials",
                                          R"(vxmat new "Structural Steel=Frame" Air -o parts.vxmat)",
-                                         [this] { return newProject(m_names, m_output); });
+                                         [this] { return newProject(m_names, m_output, existing()); });
     command->add_option("NAME", m_names, "Library materials. The label is the name, or the given LABEL")->required();
     addOutput(command);
 }
 
 void CommandLine::addImport()
 {
-    CLI::App* const command =
-        addCommand("import", "Make a project file of a material document; the catalogue completes the materials",
-                   "vxmat import materials.json -o parts.vxmat", [this] { return importDocument(m_file, m_output); });
+    CLI::App* const command = addCommand(
+        "import", "Make a project file of a material document; the catalogue completes the materials",
+        "vxmat import materials.json -o parts.vxmat", [this] { return importDocument(m_file, m_output, existing()); });
     command->add_option("DOC", m_file, "A material document; - is standard input")->required();
     addOutput(command);
 }
@@ -165,7 +169,7 @@ void CommandLine::addExport()
     CLI::App* const command =
         addCommand("export", "Write built-in materials and the materials of projects to a document for the solver",
                    R"(vxmat export "Structural Steel" "Air=20" -o materials.json)",
-                   [this] { return exportMaterials(m_names, m_output); });
+                   [this] { return exportMaterials(m_names, m_output, existing()); });
     command
         ->add_option("NAME|PROJECT", m_names,
                      "Library materials, with the numbers 1, 2, ... or the given NUMBER, or project files, whose "

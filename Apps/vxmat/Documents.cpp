@@ -24,6 +24,25 @@ bool isForeign(const vxjson::JsonNode& document)
     return document.size() > 0;
 }
 
+/// Returns a value without the content of arrays and objects below `levels` levels.
+// NOLINTNEXTLINE(misc-no-recursion): as deep as `levels`
+Json::Value toJson(const vxjson::JsonNode& node, int levels)
+{
+    if (!node.isArray() && !node.isObject())
+        return node.toJsonValue();
+    Json::Value json(node.isArray() ? Json::arrayValue : Json::objectValue);
+    const std::size_t size = levels > 0 ? node.size() : 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        if (node.isArray()) {
+            json.append(toJson(node.element(i), levels - 1));
+            continue;
+        }
+        const std::string_view name = node.memberName(i);
+        *json.demand(name.data(), name.data() + name.size()) = toJson(node.member(i), levels - 1);
+    }
+    return json;
+}
+
 void requireMaterials(const std::string& path, const Json::Value& document)
 {
     const Json::Value& materials = document["material"];
@@ -35,7 +54,7 @@ void requireMaterials(const std::string& path, const Json::Value& document)
 
 MaterialFile readFromDocument(const Input& input)
 {
-    const Json::Value document = input.tree.root().toJsonValue();
+    const Json::Value document = toDocument(input);
     requireMaterials(input.path, document);
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
     readInto(set, input.path, document);
@@ -104,6 +123,13 @@ Input readInput(const std::string& path)
     return input;
 }
 
+Json::Value toDocument(const Input& document)
+{
+    // Readers look at five levels: $.domaincondition.DCs[0].bforce[0].
+    constexpr int mostLevels = 8;
+    return toJson(document.tree.root(), mostLevels);
+}
+
 std::vector<vxCAE::Finding> findRepeatedMembers(const Input& input)
 {
     std::vector<vxCAE::Finding> findings;
@@ -136,7 +162,7 @@ Json::Value readMaterialDocument(const std::string& path)
     Input input = readInput(path);
     Json::Value document;
     if (!input.project) {
-        document = input.tree.root().toJsonValue();
+        document = toDocument(input);
         requireMaterials(path, document);
         return document;
     }

@@ -113,7 +113,7 @@ void number(std::vector<Wanted>& all)
 
 } // namespace
 
-Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path)
+Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path, Existing existing)
 {
     Answer answer;
     std::vector<Wanted> all = collect(materials, path, answer);
@@ -128,6 +128,8 @@ Answer exportMaterials(const std::vector<std::string>& materials, const std::str
     const std::string text = vxjson::toStyledText(document);
     if (path == standardStream)
         answer.text = text;
+    else if (isProjectFile(path))
+        writeProjectFile(path, text, existing);
     else
         writeFile(path, text);
     return answer;

@@ -2,6 +2,7 @@
 
 #include "Answer.h"
 
+#include "projectfile/ProjectFile.h"
 #include "projectfile/ProjectStore.h"
 #include "vxMaterial/json/NumberWords.h"
 
@@ -39,16 +40,31 @@ QString toQString(const std::string& path)
     return name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name;
 }
 
+/// Returns whether an input with this beginning is certainly no JSON document: reading it to the end may take for ever.
+bool isHopeless(const std::string& beginning)
+{
+    const std::size_t first = beginning.find_first_not_of(" \t\r\n");
+    return beginning.find('\0') != std::string::npos ||
+           (first != std::string::npos && std::string_view("{[/\xEF").find(beginning[first]) == std::string_view::npos);
+}
+
+/// Reads an input of unknown length.
 std::string readAll(const std::string& path, QFile& file)
 {
     constexpr qint64 blockSize = 1 << 20;
     std::string content;
     std::string block(blockSize, '\0');
     qint64 count = 0;
-    while ((count = file.read(block.data(), blockSize)) > 0)
+    while (content.size() <= vxjson::longestText && (count = file.read(block.data(), blockSize)) > 0) {
+        const bool isFirst = content.empty();
         content.append(block, 0, static_cast<std::size_t>(count));
+        if (isFirst && isHopeless(content))
+            break;
+    }
     if (count < 0)
         fail(path, file.errorString());
+    if (content.size() > vxjson::longestText)
+        fail(path, QStringLiteral("the input is longer than 2 GiB"));
     return content;
 }
 
@@ -113,6 +129,21 @@ bool writeDirectly(const std::string& path, const std::string& text)
     return false;
 }
 
+/// Takes the lock of a project. If no lock file can be made, the project cannot be written either, and writing reports
+/// the reason.
+void lockProject(const std::string& path, projectfile::FileLock& lock, Existing existing)
+{
+    if (lock.tryLock() || (existing == Existing::Replace && lock.takeOver()))
+        return;
+    const QString holder = lock.holder();
+    if (holder.isEmpty())
+        return;
+    const QString hint = lock.isHeldElsewhere()
+                             ? QStringLiteral("; if this program no longer runs, --force takes over its lock")
+                             : QString();
+    fail(path, QStringLiteral("another program has it open: %1%2").arg(holder, hint));
+}
+
 /// Calls a function of projectfile and converts a StoreError, whose message begins with the name of the file too.
 template <class Work>
 auto fromStore(const Work& work)
@@ -146,10 +177,21 @@ std::string readFile(const std::string& path)
         fail(path, QStringLiteral("Is a directory"));
     if (!info.exists() || info.isFile())
         return fromStore([&] { return projectfile::readFile(QFile::decodeName(path.c_str())); });
-    QFile device(name);
-    if (!device.open(QIODevice::ReadOnly))
-        fail(path, device.errorString());
-    return readAll(path, device);
+    const auto descriptor = descriptorOf(path);
+    if (!descriptor)
+        fail(path, QStringLiteral("this is a device or a pipe; a file is needed, or \"-\" for standard input"));
+    QFile opened;
+    if (!opened.open(*descriptor, QIODevice::ReadOnly))
+        fail(path, opened.errorString());
+    return readAll(path, opened);
+}
+
+bool isProjectFile(const std::string& path)
+{
+    if (descriptorOf(path) || !QFileInfo(toQString(path)).isFile())
+        return false;
+    const auto tree = vxjson::JsonTree::read(readFile(path), vxjson::JsonDialect::WithComments);
+    return projectfile::isProject(tree.root());
 }
 
 vxjson::JsonTree parseDocument(const std::string& path, const std::string& text)
@@ -170,16 +212,16 @@ void writeFile(const std::string& path, const std::string& text)
         fromStore([&] { projectfile::writeFile(QFile::decodeName(path.c_str()), text); });
 }
 
-void writeProjectFile(const std::string& path, const std::string& text)
+void writeProjectFile(const std::string& path, const std::string& text, Existing existing)
 {
     if (writeDirectly(path, text))
         return;
     fromStore([&] {
         const QString name = QFile::decodeName(path.c_str());
         projectfile::FileLock lock(name);
-        // If no lock file can be made, the project cannot be written either, and writeFile() reports the reason.
-        if (const QString holder = lock.tryLock() ? QString() : lock.holder(); !holder.isEmpty())
-            fail(path, QStringLiteral("another program has it open: %1").arg(holder));
+        lockProject(path, lock, existing);
+        if (existing == Existing::Keep && QFileInfo::exists(name))
+            fail(path, QStringLiteral("this file exists already; give another name, or --force to replace it"));
         projectfile::writeFile(name, text);
     });
 }

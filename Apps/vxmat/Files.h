@@ -15,9 +15,13 @@ inline constexpr const char* standardStream = "-";
 /// slash or a dot.
 bool isFile(const std::string& argument);
 
-/// Returns the whole content of a file, or of standard input.
-/// \throws Failure if it cannot be read
+/// Returns the whole content of a file, of standard input, or of a file that this process has open already (/dev/stdin,
+/// /dev/fd/3). Refuses other pipes and devices, because reading them may never begin or never end.
+/// \throws Failure if it cannot be read, or is larger than 2 GiB
 std::string readFile(const std::string& path);
+
+/// Returns whether a path is the path of a regular file that is a project file.
+bool isProjectFile(const std::string& path);
 
 /// Parses a text that was read from `path`. Comments are accepted. The root of the returned tree is an object.
 /// \throws Failure if the text is not JSON (with line and column) or its root is not an object
@@ -28,9 +32,16 @@ vxjson::JsonTree parseDocument(const std::string& path, const std::string& text)
 /// \throws Failure if the file cannot be written; an existing file is then unchanged
 void writeFile(const std::string& path, const std::string& text);
 
-/// Writes a project file like writeFile().
-/// \throws Failure also if another program has the file open
-void writeProjectFile(const std::string& path, const std::string& text);
+/// What happens to a file that exists already, and to a lock of a program on another computer.
+enum class Existing
+{
+    Keep,    ///< writing fails
+    Replace, ///< the file is replaced, the lock is taken over
+};
+
+/// Writes a project file, or replaces one, like writeFile().
+/// \throws Failure also if the file exists and must be kept, or if another program has it open
+void writeProjectFile(const std::string& path, const std::string& text, Existing existing);
 
 /// Checks that writing `output` does not replace the file `input`.
 /// \throws Failure if both are the same file

@@ -35,7 +35,8 @@ std::string projectNameOf(const std::string& path)
     return name.empty() ? "Materials" : name;
 }
 
-void write(const std::string& path, std::vector<projectfile::ImportedMaterial> materials, Answer& answer)
+void write(const std::string& path, std::vector<projectfile::ImportedMaterial> materials, Existing existing,
+           Answer& answer)
 {
     const auto project = projectfile::makeProject(projectNameOf(path), std::move(materials));
     std::string text;
@@ -47,12 +48,12 @@ void write(const std::string& path, std::vector<projectfile::ImportedMaterial> m
     if (path == standardStream)
         answer.text = text;
     else
-        writeProjectFile(path, text);
+        writeProjectFile(path, text, existing);
 }
 
 } // namespace
 
-Answer newProject(const std::vector<std::string>& materials, const std::string& path)
+Answer newProject(const std::vector<std::string>& materials, const std::string& path, Existing existing)
 {
     const MaterialNames names;
     std::set<std::string> labels;
@@ -72,11 +73,11 @@ Answer newProject(const std::vector<std::string>& materials, const std::string& 
                           "\" already; NAME=LABEL gives it another");
     }
     Answer answer;
-    write(path, std::move(made), answer);
+    write(path, std::move(made), existing, answer);
     return answer;
 }
 
-Answer importDocument(const std::string& document, const std::string& path)
+Answer importDocument(const std::string& document, const std::string& path, Existing existing)
 {
     const Input input = readInput(document);
     if (input.project)
@@ -87,7 +88,7 @@ Answer importDocument(const std::string& document, const std::string& path)
         projectfile::ImportedMaterials imported = projectfile::importExchange(input.text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
-        write(path, std::move(imported.materials), answer);
+        write(path, std::move(imported.materials), existing, answer);
     } catch (const projectfile::ContentError& error) {
         throw Failure(document + ": " + error.what());
     }

@@ -1,20 +1,23 @@
 #pragma once
 
 #include "Answer.h"
+#include "Files.h"
 
 #include <string>
 #include <vector>
 
 namespace commandline {
 
-/// `vxmat new NAME[=LABEL]... -o FILE`: writes a project file of library materials, which become the objects 1, 2, ...
+/// `vxmat new NAME[=LABEL]... -o FILE [--force]`: writes a project file of library materials, which become the objects 1, 2, ...
 /// The default label is the name of the material. The project has the name of the file.
-/// \throws Failure for an unknown name, a label that is empty, not UTF-8 or repeated, a failed write
-Answer newProject(const std::vector<std::string>& materials, const std::string& path);
+/// \throws Failure for an unknown name, a label that is empty, not UTF-8 or repeated, an existing file that must be kept,
+/// a failed write
+Answer newProject(const std::vector<std::string>& materials, const std::string& path, Existing existing);
 
-/// `vxmat import DOC -o FILE`: writes a project file of the materials of a document. Restores data that the document
+/// `vxmat import DOC -o FILE [--force]`: writes a project file of the materials of a document. Restores data that the document
 /// does not carry from the catalogue. Doubts are written to standard error; the status is then Findings.
-/// \throws Failure if the document cannot be read or is not a material document, or if writing fails
-Answer importDocument(const std::string& document, const std::string& path);
+/// \throws Failure if the document cannot be read or is not a material document, if the file exists and must be kept, or
+/// if writing fails
+Answer importDocument(const std::string& document, const std::string& path, Existing existing);
 
 } // namespace commandline

@@ -97,7 +97,7 @@ Answer queryFile(const std::string& path, const std::optional<std::string>& mate
     const Input input = readInput(path);
     if (input.project)
         throw Failure(path + ": not an analysis document but a project file");
-    const Json::Value document = input.tree.root().toJsonValue();
+    const Json::Value document = toDocument(input);
     if (vxCAE::readProjectKind(document) != vxCAE::ProjectKind::Analysis)
         throw Failure(path + ": not an analysis document: \"proj_type\" must be 1");
 

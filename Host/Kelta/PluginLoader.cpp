@@ -6,8 +6,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLibrary>
 
+#include <cstring>
+#include <elf.h>
+#include <link.h>
 #include <stdexcept>
 #include <utility>
 
@@ -51,6 +56,38 @@ QString whyItFails(Entry entry)
     const QString thrown = whatItThrows(entry);
     QObject::disconnect(listening);
     return thrown.isNull() ? firstError : thrown;
+}
+
+/// Returns whether a library is cut off: a part that the system would map lies behind the end of the file. The system
+/// does not check this, and ends the program when it reads such a part. Files of another format are not judged.
+bool isCutOff(QFile& file)
+{
+    ElfW(Ehdr) header = {};
+    const auto* const magic = reinterpret_cast<const char*>(header.e_ident);
+    if (file.read(reinterpret_cast<char*>(&header), sizeof header) != sizeof header ||
+        std::memcmp(magic, ELFMAG, SELFMAG) != 0 || header.e_phentsize != sizeof(ElfW(Phdr)))
+        return false;
+    const auto size = static_cast<quint64>(file.size());
+    bool isComplete = file.seek(static_cast<qint64>(header.e_phoff));
+    for (unsigned part = 0; isComplete && part < header.e_phnum; ++part) {
+        ElfW(Phdr) segment = {};
+        isComplete = file.read(reinterpret_cast<char*>(&segment), sizeof segment) == sizeof segment &&
+                     segment.p_filesz <= size && segment.p_offset <= size - segment.p_filesz;
+    }
+    return !isComplete;
+}
+
+/// Refuses libraries that the system must not open: opening a pipe would wait for a writer.
+void refuseBrokenLibrary(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return; // the system gives the reason
+    if (!info.isFile())
+        fail(tr("its library %1 is not a regular file").arg(path));
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly) && isCutOff(file))
+        fail(tr("its library %1 is incomplete").arg(path));
 }
 
 } // namespace
@@ -182,6 +219,7 @@ PluginLoader::Library& PluginLoader::Run::openLibrary(const QString& path)
     const auto loaded = m_loader.m_libraries.find(path);
     if (loaded != m_loader.m_libraries.end())
         return *loaded->second;
+    refuseBrokenLibrary(path);
     auto library = std::make_unique<Library>();
     library->file.setFileName(path);
     // Resolves all symbols at once: a missing symbol is found now, not during later work.

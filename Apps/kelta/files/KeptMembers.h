@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <map>
+#include <string>
 
 namespace desktop {
 
@@ -17,9 +18,18 @@ struct KeptObject
     Json::Value content;    ///< of an object whose class has no codec
 };
 
+/// The name of a project in its file that the open project could not get, because another one had it or because it is
+/// no name for an open project.
+struct KeptName
+{
+    std::string inFile;
+    std::string whenOpen; ///< the name that the project got; the kept name ends if the project gets another one
+};
+
 /// Parts of the record of a project that this program cannot put into the project.
 struct KeptMembers
 {
+    KeptName name;
     Json::Value further;
     Json::Value database;   ///< the whole record in the project database, unchanged
     Json::Value properties; ///< by name, properties that the project does not have, or whose values it refuses

@@ -15,12 +15,13 @@
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "Obj/Placeholder.h"
+#include "kelta/OpeningGuard.h"
+#include "projectfile/ExchangeImport.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QFileInfo>
 
 #include <exception>
-#include <functional>
 #include <memory>
 #include <utility>
 
@@ -33,14 +34,28 @@ void select(Obj::Project& project)
     Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
 }
 
-/// Returns null, with the reason in the message log, if the project cannot be made.
-Obj::Project* requestProject(const projectfile::ProjectRecord& record, const std::function<void(Obj::Project&)>& fill)
+/// Returns a new project of the class of a record; a placeholder if there is no such class of projects.
+Obj::OwnedProject createProject(const projectfile::ProjectRecord& record)
 {
-    vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
-    if (Kelta::TypeInfo::find(record.className.c_str()).namesAType())
-        return requests.openProject(record.className, record.name, fill);
-    return requests.openProject(std::make_unique<Obj::PlaceholderProject>(record.className, recordOfProject(record)),
-                                record.name, fill);
+    const Kelta::TypeInfo type = Kelta::TypeInfo::find(record.className.c_str());
+    void* const created = type.is_inherited_from(Obj::Project::getClassTypeId()) ? type.create() : nullptr;
+    if (created != nullptr)
+        return Obj::OwnedProject(static_cast<Obj::Project*>(static_cast<Kelta::RootClass*>(created)));
+    return std::make_unique<Obj::PlaceholderProject>(record.className, recordOfProject(record));
+}
+
+/// Reads a project file. Returns nothing if the file is an exchange document.
+std::optional<projectfile::ProjectRecord> readRecord(const QString& path, projectfile::FileStamp& stamp)
+{
+    const BusyCursor busy;
+    const std::string text = projectfile::readFile(path, &stamp);
+    try {
+        return projectfile::readProject(text);
+    } catch (const projectfile::ContentError&) {
+        if (!projectfile::isMaterialDocument(text))
+            throw;
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -69,23 +84,40 @@ bool Opening::openFile(const QString& path)
     projectfile::FileLock lock(path);
     if (QFileInfo::exists(path) && !m_questions.mayUse(lock, path))
         return false;
-    const BusyCursor busy;
     projectfile::FileStamp stamp;
-    projectfile::ProjectRecord record = projectfile::readProject(projectfile::readFile(path, &stamp));
-    Obj::Project* const project = makeProject(record, path);
-    if (project == nullptr)
-        throw projectfile::ContentError(tr("The message log gives the reason.").toStdString());
-    Session& session = *m_sessions.find(*project);
+    // Read before the guard may close another project, which stays open if the file is wrong.
+    std::optional<projectfile::ProjectRecord> record = readRecord(path, stamp);
+    if (!record)
+        return m_onDocument(path);
+    if (!mayOpen(*record, path))
+        return false;
+    Obj::Project& project = openProject(*record, path);
+    Session& session = *m_sessions.find(project);
     session.path = path;
     session.stamp = stamp;
     session.lock = std::move(lock);
-    session.isModified = !record.doubts.empty();
-    m_sessions.noteOpened(*project);
+    session.isModified = !record->doubts.empty();
+    m_sessions.noteOpened(project);
     // The next key acts on the opened project.
     m_mainWindow.getProjectExplorer().setFocus(Qt::OtherFocusReason);
     RecentFiles::add(path);
     m_mainWindow.updateCommands();
     return true;
+}
+
+bool Opening::mayOpen(const projectfile::ProjectRecord& record, const QString& path)
+{
+    const OpeningGuard* const guard = findOpeningGuard(record.className);
+    return guard == nullptr || (*guard)(path);
+}
+
+Obj::Project& Opening::openProject(projectfile::ProjectRecord& record, const QString& path)
+{
+    const BusyCursor busy;
+    Obj::Project* const project = makeProject(record, path);
+    if (project == nullptr)
+        throw projectfile::ContentError(tr("The message log gives the reason.").toStdString());
+    return *project;
 }
 
 Obj::Project* Opening::makeProject(projectfile::ProjectRecord& record, const QString& source)
@@ -95,10 +127,19 @@ Obj::Project* Opening::makeProject(projectfile::ProjectRecord& record, const QSt
     Obj::Project* project = nullptr;
     {
         const Sessions::Filling filling(m_sessions);
-        project = requestProject(record, [&](Obj::Project& opened) { restoreProject(opened, record, kept, warnings); });
+        project = vxMsg::MessageProxy::instance().openProject(
+            createProject(record), record.name.c_str(), // without a part behind a zero character
+            [&](Obj::Project& opened) { restoreProject(opened, record, kept, warnings); });
     }
     if (project == nullptr)
         return nullptr;
+    if (record.name != project->get_name()) {
+        // The file keeps its name, although the open project cannot have it.
+        kept.name = {record.name, project->get_name()};
+        warnings.push_back(tr("The project \"%1\" is shown as \"%2\".")
+                               .arg(QString::fromStdString(record.name), QString::fromUtf8(project->get_name()))
+                               .toStdString());
+    }
     Session& session = *m_sessions.find(*project);
     session.kept = std::move(kept);
     rememberText(*project, session);

@@ -6,7 +6,10 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Gui {
@@ -29,13 +32,19 @@ class Opening
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
-    Opening(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions)
-        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions)
+    /// Handles a file that is an exchange document, not a project. Returns whether its content was imported.
+    using OnDocument = std::function<bool(const QString& path)>;
+
+    Opening(Gui::MainWindow& mainWindow, Sessions& sessions, const Questions& questions, OnDocument onDocument)
+        : m_mainWindow(mainWindow), m_sessions(sessions), m_questions(questions), m_onDocument(std::move(onDocument))
     {}
 
-    /// Opens a file and selects the project. If that fails, tells the user the reason, adds no project
-    /// and returns false.
+    /// Opens a file and selects the project. The guard of its class, if there is one, is asked before. If opening
+    /// fails, tells the user the reason, adds no project and returns false.
     bool open(const QString& path);
+
+    /// Asks the guard of the class of a record, if there is one, whether a project may be opened from a file.
+    static bool mayOpen(const projectfile::ProjectRecord& record, const QString& path);
 
     /// Makes a project from a record and selects it. Writes doubts about the record to the message log, with the name
     /// of the file `source`. Returns null, with the reason in the message log, if the project cannot be made.
@@ -47,11 +56,13 @@ public:
 
 private:
     bool openFile(const QString& path);
+    Obj::Project& openProject(projectfile::ProjectRecord& record, const QString& path);
     void rememberText(Obj::Project& project, Session& session) const;
 
     Gui::MainWindow& m_mainWindow;
     Sessions& m_sessions;
     const Questions& m_questions;
+    OnDocument m_onDocument;
 };
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 #include "ProjectFiles.h"
 
 #include "BusyCursor.h"
+#include "FilePaths.h"
 
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
@@ -9,10 +10,13 @@
 #include "kelta/UnappliedEdits.h"
 #include "vxMsg/MessageProxy.h"
 
+#include <QFileInfo>
 #include <QStatusBar>
 
 #include <algorithm>
+#include <cstdint>
 #include <exception>
+#include <vector>
 
 namespace desktop {
 
@@ -20,12 +24,25 @@ namespace {
 
 constexpr int copyInterval = 60 * 1000; // ms
 
+/// Returns a project that takes documents, the current one if possible; null if none is open.
+Obj::Project* findTarget()
+{
+    std::vector<Obj::Project*> projects = Obj::Application::get_projects();
+    if (Obj::Project* const current = Obj::Application::get_current_project())
+        projects.insert(projects.begin(), current);
+    const auto found = std::find_if(projects.begin(), projects.end(), [](const Obj::Project* project) {
+        return findDocumentImport(*project) != nullptr;
+    });
+    return found != projects.end() ? *found : nullptr;
+}
+
 } // namespace
 
-ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow)
+ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow, Copies copies)
     : m_mainWindow(mainWindow),
+      m_copies(copies),
       m_questions(mainWindow),
-      m_opening(mainWindow, m_sessions, m_questions),
+      m_opening(mainWindow, m_sessions, m_questions, [this](const QString& path) { return offerImport(path); }),
       m_saving(mainWindow, m_sessions, m_questions),
       m_recovery(mainWindow, m_sessions, m_questions, m_opening),
       m_projectClosing(vxMsg::MessageProxy::instance().projectClosing.connect(
@@ -70,6 +87,42 @@ bool ProjectFiles::importDocument(Obj::Project& project, const QString& path)
     } catch (const std::exception& error) {
         m_questions.complain(tr("Import"), QString::fromUtf8(error.what()));
     }
+    return false;
+}
+
+bool ProjectFiles::offerImport(const QString& path)
+{
+    Obj::Project* const target = findTarget();
+    const std::vector<std::string> classes = documentImportClasses();
+    if (target == nullptr && classes.empty()) {
+        m_questions.complain(tr("Open project"),
+                             tr("\"%1\" is an exchange document, not a project file. No module that "
+                                "imports such documents is loaded.")
+                                 .arg(shownPath(path)));
+        return false;
+    }
+    const std::uint32_t projectId = target != nullptr ? target->getProjectId() : 0;
+    if (!m_questions.mayImport(path, target != nullptr ? QString::fromUtf8(target->get_name()) : QString()))
+        return false;
+    if (projectId == 0)
+        return importIntoNewProject(classes.front(), path);
+    // The project may have been closed while the user answered.
+    Obj::Project* const project = Obj::Application::instance().get_project(projectId);
+    return project != nullptr && importDocument(*project, path);
+}
+
+bool ProjectFiles::importIntoNewProject(const std::string& projectClass, const QString& path)
+{
+    vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
+    const vxMsg::MessageProxy::Group oneStep(tr("Import \"%1\"").arg(QFileInfo(path).fileName()));
+    const std::string name =
+        Obj::Application::get_unique_project_name(QFileInfo(path).completeBaseName().toStdString());
+    if (!requests.newProject(projectClass, name))
+        return false;
+    Obj::Project* const project = Obj::Application::instance().get_project(name);
+    if (project != nullptr && importDocument(*project, path))
+        return true;
+    requests.closeProject(name);
     return false;
 }
 
@@ -120,7 +173,8 @@ void ProjectFiles::end()
 
 void ProjectFiles::keepCopies()
 {
-    m_recovery.keepCopies();
+    if (m_copies == Copies::Keep)
+        m_recovery.keepCopies();
 }
 
 void ProjectFiles::offerRecovery()

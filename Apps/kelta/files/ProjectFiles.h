@@ -20,7 +20,14 @@ class ProjectFiles final : public QObject, public FileService
     Q_OBJECT
 
 public:
-    explicit ProjectFiles(Gui::MainWindow& mainWindow);
+    /// Whether copies for recovery are kept.
+    enum class Copies
+    {
+        Keep,
+        None, ///< for a program without a user, since nobody recovers its work
+    };
+
+    explicit ProjectFiles(Gui::MainWindow& mainWindow, Copies copies = Copies::Keep);
     /// Does not delete the copies for recovery; end() deletes them.
     ~ProjectFiles() override;
 
@@ -48,8 +55,12 @@ private:
     /// Returns whether a project may be closed. Asks the user if it has changes that are not saved, or edits that are
     /// not applied.
     bool mayClose(Obj::Project& project);
+    /// Offers to import an exchange document that was given in place of a project file. Returns whether it was imported.
+    bool offerImport(const QString& path);
+    bool importIntoNewProject(const std::string& projectClass, const QString& path);
 
     Gui::MainWindow& m_mainWindow;
+    Copies m_copies;
     Questions m_questions;
     Sessions m_sessions;
     Opening m_opening;

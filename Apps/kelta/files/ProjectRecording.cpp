@@ -95,7 +95,7 @@ projectfile::ProjectRecord recordProject(Obj::Project& project, const KeptMember
 {
     static const KeptObject nothing;
     projectfile::ProjectRecord record;
-    record.name = project.get_name();
+    record.name = kept.name.whenOpen == project.get_name() ? kept.name.inFile : project.get_name();
     record.nextObjectId = project.getNextObjectId();
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderProject*>(&project))
         writePlaceholder(*placeholder, record);

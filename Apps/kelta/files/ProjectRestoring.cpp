@@ -56,14 +56,22 @@ private:
 
     bool isPlaceholder() const { return dynamic_cast<const Obj::PlaceholderProject*>(&m_project) != nullptr; }
 
-    Obj::ProjectObject* makeObject(const projectfile::ObjectRecord& entry)
+    /// Returns a new object of the class of a record; null if there is no such class, or if its objects cannot contain
+    /// the record or be in the project.
+    Obj::OwnedObject createObject(const projectfile::ObjectRecord& entry) const
     {
         const Kelta::TypeInfo type = Kelta::TypeInfo::find(entry.className.c_str());
-        if (entry.ownMaterial != nullptr && type.namesAType() && findMaterialAccess(type) == nullptr)
-            refuse(tr(R"(The object "%1" is of the class "%2", which is not a material class.)")
-                       .arg(labelOf(entry), classOf(entry)));
-        if (!isPlaceholder() && type.namesAType())
-            return m_project.add_object(entry.className.c_str(), entry.internalName, entry.objectId);
+        const bool fits = type.is_inherited_from(Obj::ProjectObject::getClassTypeId()) && !isPlaceholder() &&
+                          m_project.canTake(type) &&
+                          (entry.ownMaterial != nullptr) == (findMaterialAccess(type) != nullptr);
+        void* const created = fits ? type.create() : nullptr;
+        return Obj::OwnedObject(static_cast<Obj::ProjectObject*>(static_cast<Kelta::RootClass*>(created)));
+    }
+
+    Obj::ProjectObject* makeObject(const projectfile::ObjectRecord& entry)
+    {
+        if (Obj::OwnedObject object = createObject(entry))
+            return m_project.add_object(std::move(object), entry.internalName, entry.objectId);
         m_missingClasses.insert(entry.className);
         return m_project.add_object(std::make_unique<Obj::PlaceholderObject>(entry.className, recordOfObject(entry)),
                                     entry.internalName, entry.objectId);

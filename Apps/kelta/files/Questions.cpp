@@ -40,10 +40,24 @@ bool Questions::mayUse(projectfile::FileLock& lock, const QString& path) const
 {
     if (lock.tryLock() || lock.holder().isEmpty())
         return true;
-    const Question question{QMessageBox::Warning, tr("File in use"),
-                            tr("\"%1\" is in use by %2.").arg(shownPath(path), lock.holder()),
-                            tr("If both programs save the file, the later save replaces the earlier one.")};
+    const QString inUse = tr("\"%1\" is in use by %2.").arg(shownPath(path), lock.holder());
+    const QString danger = tr("If both programs save the file, the later save replaces the earlier one.");
+    if (lock.isHeldElsewhere())
+        return mayTakeOver(lock, inUse, danger);
+    const Question question{QMessageBox::Warning, tr("File in use"), inUse, danger};
     return ask(question, {{tr("&Use anyway"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
+}
+
+bool Questions::mayTakeOver(projectfile::FileLock& lock, const QString& inUse, const QString& danger) const
+{
+    const Question question{QMessageBox::Warning, tr("File in use"), inUse,
+                            tr("If this program no longer runs, take over its lock. If it runs:") + QLatin1Char(' ') +
+                                danger};
+    if (ask(question, {{tr("&Take over"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) != 0)
+        return false;
+    // If the lock file cannot be replaced, the file is used without a lock.
+    static_cast<void>(lock.takeOver());
+    return true;
 }
 
 bool Questions::mayReplace(const QString& path, Difference difference) const
@@ -70,6 +84,15 @@ Questions::ClosingChoice Questions::askBeforeClosing(const QString& projectName,
     return static_cast<ClosingChoice>(ask(question, {{tr("&Save"), QMessageBox::AcceptRole},
                                                      {tr("&Discard"), QMessageBox::DestructiveRole},
                                                      {tr("Cancel"), QMessageBox::RejectRole}}));
+}
+
+bool Questions::mayImport(const QString& path, const QString& projectName) const
+{
+    const Question question{QMessageBox::Question, tr("Open project"),
+                            tr("\"%1\" is an exchange document, not a project file.").arg(shownPath(path)),
+                            projectName.isEmpty() ? tr("Import its content into a new project?")
+                                                  : tr("Import its content into the project \"%1\"?").arg(projectName)};
+    return ask(question, {{tr("&Import"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
 Questions::RecoveryChoice Questions::askAboutCopies(const QStringList& times) const

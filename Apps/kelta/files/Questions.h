@@ -28,8 +28,8 @@ public:
     /// Reports an error to the user.
     void complain(const QString& title, const QString& text) const;
 
-    /// Takes the lock of a file. If another program has it, asks the user whether to use the file anyway. Returns
-    /// whether the file may be used.
+    /// Takes the lock of a file. If another program has it, asks the user whether to use the file anyway, or to take
+    /// over the lock if the program ran on another computer. Returns whether the file may be used.
     bool mayUse(projectfile::FileLock& lock, const QString& path) const;
 
     /// The reason why a file differs from the project as this program last read or wrote it.
@@ -56,6 +56,10 @@ public:
     /// Asks what to do with the changes of a project before it is closed.
     ClosingChoice askBeforeClosing(const QString& projectName, Unsaved unsaved) const;
 
+    /// Asks whether to import the exchange document `path`, which was given in place of a project file, into the project
+    /// of this name; into a new project if the name is empty.
+    bool mayImport(const QString& path, const QString& projectName) const;
+
     enum class RecoveryChoice
     {
         Recover,
@@ -66,6 +70,8 @@ public:
     RecoveryChoice askAboutCopies(const QStringList& times) const;
 
 private:
+    bool mayTakeOver(projectfile::FileLock& lock, const QString& inUse, const QString& danger) const;
+
     using Choices = std::vector<std::pair<QString, QMessageBox::ButtonRole>>;
     struct Question
     {

@@ -87,11 +87,14 @@ bool Recovery::recover(RecoveryCopy& copy)
 bool Recovery::recoverProject(RecoveryCopy& copy)
 {
     projectfile::ProjectRecord record = projectfile::readProject(copy.read());
+    const QString path = QString::fromStdString(record.recoveredFile.value_or(std::string()));
+    // A copy that is not recovered now is offered again.
+    if (!Opening::mayOpen(record, path.isEmpty() ? copy.path() : path))
+        return false;
     Obj::Project* const project = m_opening.makeProject(record, copy.path());
     if (project == nullptr)
         return false;
     Session& session = *m_sessions.find(*project);
-    const QString path = QString::fromStdString(record.recoveredFile.value_or(std::string()));
     // If there are two copies of a file, only one of them can be saved in that file.
     if (!path.isEmpty() && m_sessions.findOpen(path) == nullptr) {
         session.path = path;

@@ -1,40 +1,67 @@
 #include "RecoveryCopy.h"
 
+#include "Kelta/MessageLog.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUuid>
 
+#include <optional>
+#include <utility>
+
 namespace desktop {
 
 namespace {
 
-QDir recoveryFolder()
+/// Returns the folder of the copies; absent if neither HOME nor XDG_DATA_HOME names a folder. Qt would then use a folder
+/// of the root or of the current folder.
+std::optional<QDir> recoveryFolder()
 {
+    const QString home = qEnvironmentVariable("HOME");
+    const bool hasHome = QDir::isAbsolutePath(home) && QFileInfo(home).isDir();
+    if (!hasHome && !QDir::isAbsolutePath(qEnvironmentVariable("XDG_DATA_HOME")))
+        return std::nullopt;
     return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/recovery"));
+}
+
+QString newPath()
+{
+    const auto folder = recoveryFolder();
+    if (!folder)
+        throw projectfile::StoreError(
+            QCoreApplication::translate("desktop::ProjectFiles", "HOME is not the name of a folder.").toStdString());
+    return folder->filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".vxmat"));
+}
+
+/// Adds the copy of a program that no longer runs, and locks it.
+void addAbandoned(RecoveryCopy copy, std::vector<RecoveryCopy>& copies)
+{
+    // The program that had the lock may have removed the copy just before.
+    if (copy.tryLock() && QFileInfo::exists(copy.path()))
+        copies.push_back(std::move(copy));
 }
 
 } // namespace
 
-RecoveryCopy::RecoveryCopy()
-    : RecoveryCopy(
-          recoveryFolder().filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + QStringLiteral(".vxmat")))
-{}
+RecoveryCopy::RecoveryCopy() : RecoveryCopy(newPath()) {}
 
 RecoveryCopy::RecoveryCopy(const QString& path) : m_path(path), m_lock(path) {}
 
 std::vector<RecoveryCopy> RecoveryCopy::findAbandoned()
 {
     std::vector<RecoveryCopy> copies;
-    const QDir folder = recoveryFolder();
-    for (const QString& name : folder.entryList({QStringLiteral("*.vxmat")}, QDir::Files, QDir::Time | QDir::Reversed))
-    {
-        RecoveryCopy copy(folder.filePath(name));
-        // The program that had the lock may have removed the copy just before.
-        if (copy.m_lock.tryLock() && QFileInfo::exists(copy.m_path))
-            copies.push_back(std::move(copy));
-    }
+    const auto folder = recoveryFolder();
+    if (!folder)
+        return copies;
+    for (const QString& name : folder->entryList({QStringLiteral("*.vxmat")}, QDir::Files, QDir::Time | QDir::Reversed))
+        try {
+            addAbandoned(RecoveryCopy(folder->filePath(name)), copies);
+        } catch (const projectfile::StoreError& error) {
+            Kelta::MessageLog::warning(QString::fromUtf8(error.what()));
+        }
     return copies;
 }
 
@@ -63,7 +90,7 @@ std::string RecoveryCopy::read() const
 void RecoveryCopy::remove()
 {
     QFile::remove(m_path);
-    m_lock = projectfile::FileLock(m_path);
+    m_lock.unlock();
 }
 
 } // namespace desktop

@@ -16,6 +16,7 @@ class RecoveryCopy
 {
 public:
     /// Makes a copy with a unique name. The copy has no file before write() is called.
+    /// \throws projectfile::StoreError if the user has no folder for data
     RecoveryCopy();
     RecoveryCopy(RecoveryCopy&&) noexcept = default;
     RecoveryCopy& operator=(RecoveryCopy&&) noexcept = default;
@@ -25,6 +26,8 @@ public:
     static std::vector<RecoveryCopy> findAbandoned();
 
     const QString& path() const { return m_path; }
+    /// Returns whether this program has the lock now.
+    bool tryLock() { return m_lock.tryLock(); }
     /// Returns the time at which the copy was last written.
     QDateTime time() const;
 

@@ -7,12 +7,18 @@
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "kelta/FileService.h"
+#include "kelta/OpeningGuard.h"
 #include "kelta/UnappliedEdits.h"
+#include "projectfile/ProjectStore.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -54,6 +60,28 @@ bool closeProjects()
         if (!vxMsg::MessageProxy::instance().closeProject(project->get_name()))
             return false;
     return materialProjects().empty();
+}
+
+/// Asks a question with a button of its own for consent. In a list of commands such a question fails.
+bool consent(const QString& title, const QString& text, const QString& button)
+{
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Cancel, Gui::MainWindow::get_main_window_inst());
+    box.setTextFormat(Qt::PlainText);
+    const QAbstractButton* const yes = box.addButton(button, QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+/// Asks whether to close the open material project before another is opened from a file.
+bool mayOpen(const QString& path)
+{
+    const auto open = materialProjects();
+    return open.empty() ||
+           (consent(tr("Open project"),
+                    tr("Only one material project can be used at a time. Close \"%1\" and open \"%2\"?")
+                        .arg(QString::fromUtf8(open.front()->get_name()), QDir::toNativeSeparators(path)),
+                    tr("&Close and open")) &&
+            closeProjects());
 }
 
 void guardNewProject(const Run& run)
@@ -100,6 +128,30 @@ void exportTo(const QString& path, const Mat::DocumentMaterial& project, const R
         reportExport(static_cast<const Mat::DocumentMaterial&>(*exported), path);
 }
 
+/// Returns the use of an existing file as a project: by the name of the open project, or by another program. Empty if
+/// the file is not in use.
+QString findUse(const QString& path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    if (file.isEmpty())
+        return {};
+    for (const Obj::Project* const project : Obj::Application::get_projects())
+        if (const auto* const files = FileService::instance(); files != nullptr && files->getFile(*project) == file)
+            return tr("\"%1\" is the file of the project \"%2\", which is open.")
+                .arg(QDir::toNativeSeparators(path), QString::fromUtf8(project->get_name()));
+    projectfile::FileLock lock(file);
+    return lock.tryLock() || lock.holder().isEmpty()
+               ? QString()
+               : tr("\"%1\" is in use by %2.").arg(QDir::toNativeSeparators(path), lock.holder());
+}
+
+bool mayReplace(const QString& path)
+{
+    const QString use = findUse(path);
+    return use.isEmpty() || consent(tr("Export materials"),
+                                    use + QLatin1Char(' ') + tr("Replace it by an exchange document?"), tr("&Replace"));
+}
+
 void guardExport(const Run& run)
 {
     const QString title = tr("Export materials");
@@ -117,6 +169,8 @@ void guardExport(const Run& run)
     for (const QString& obstacle : {findExportObstacle(*open.front()), findWriteObstacle(path)})
         if (!obstacle.isEmpty())
             return refuse(title, obstacle);
+    if (!mayReplace(path) || Obj::Application::instance().get_project(projectId) == nullptr)
+        return;
     exportTo(path, *open.front(), run);
 }
 
@@ -172,6 +226,7 @@ void guardDelete(Gui::CommandController& commands, const Run& run)
 void addMaterialGuards(Gui::CommandController& commands)
 {
     commands.addGuard("Mat_NewDoc", guardNewProject);
+    registerOpeningGuard("Mat::DocumentMaterial", mayOpen);
     commands.addGuard("Mat_Export", guardExport);
     commands.addGuard("Mat_Edit", guardEdit);
     commands.addCondition("Mat_Edit", isMaterialSelected);

@@ -72,12 +72,13 @@ Failure useLibraryMaterial(const QStringList& arguments)
 /// Returns the reason if a value breaks a rule of the quantity, or if a part of its text would be ignored.
 Failure findFault(std::int32_t id, const std::string& value)
 {
-    if (const char* const wrong = vxMat::checkRow(id, value))
-        return QString::fromUtf8(vxMat::withoutRowNumber(wrong).data());
+    // The rules read "7850 kg" as 0, so the ignored text is the better reason.
     if (const auto ignored = vxMat::findIgnoredText(id, value))
         return tr(R"(the value "%1" would be read as "%2"; "%3" would be ignored; give the value without it)")
             .arg(QString::fromStdString(value), QString::fromStdString(ignored->readAs),
                  QString::fromStdString(ignored->text));
+    if (const char* const wrong = vxMat::checkRow(id, value))
+        return QString::fromUtf8(vxMat::withoutRowNumber(wrong).data());
     return std::nullopt;
 }
 
@@ -166,7 +167,8 @@ Failure printCards(const QStringList& arguments)
     const Mat::DocumentMaterial* const project = findProject();
     if (project == nullptr)
         return tr("there is no material project");
-    QTextStream output(stdout);
+    QString text;
+    QTextStream output(&text);
     for (const Mat::MaterialObject* const object : Mat::materialsOf(*project)) {
         vxCAE::MaterialEntry entry;
         object->getCMaterial()->copyTo(entry.material.get());
@@ -176,9 +178,42 @@ Failure printCards(const QStringList& arguments)
         for (const vxCAE::SolverCard& card : cards.cards)
             output << QString::fromStdString(card.name + ":\n" + card.text) << '\n';
         for (const std::string& doubt : cards.doubts)
-            QTextStream(stderr) << QString::fromStdString(object->label.getValue() + ": " + doubt) << '\n';
+            QTextStream(stderr) << Batch::printable(QString::fromStdString(object->label.getValue() + ": " + doubt))
+                                << '\n';
     }
-    return std::nullopt;
+    return Batch::print(text);
+}
+
+/// The command adds an empty material, because materials are imported from exchange documents only.
+Failure importMaterials(const QStringList&)
+{
+    return tr("Mat_Import reads no files; import an exchange document with Std_ImportDocument");
+}
+
+/// Runs a command on the selected objects. Fails if none of the class is selected, because it would do nothing.
+Failure runOnSelection(const char* command, Kelta::TypeInfo type, const QStringList& arguments)
+{
+    if (Gui::TreeSelectionSingleton::instance().get_objects_of_type(type).empty())
+        return tr("nothing is selected that %1 acts on").arg(QString::fromLatin1(command));
+    return Batch::invokeCommand(QString::fromLatin1(command), arguments);
+}
+
+Failure editMaterials(const QStringList& arguments)
+{
+    return runOnSelection("Mat_Edit", Mat::MaterialObject::getClassTypeId(), arguments);
+}
+
+Failure deleteObjects(const QStringList& arguments)
+{
+    return runOnSelection("Mat_Delete", Obj::ProjectObject::getClassTypeId(), arguments);
+}
+
+Failure closeProject(const QStringList& arguments)
+{
+    const auto tag = static_cast<std::uint32_t>(Mat::materialProjectTag);
+    if (Gui::TreeSelectionSingleton::instance().get_projects(tag).size() != 1)
+        return tr("one selected material project is needed");
+    return Batch::invokeCommand(QStringLiteral("Mat_DelDoc"), arguments);
 }
 
 } // namespace
@@ -194,6 +229,11 @@ void registerMaterialVerbs()
     Batch::registerVerb(QStringLiteral("Mat_NewDoc"), makeProject);
     Batch::registerVerb(QStringLiteral("Mat_Export"), exportMaterials);
     Batch::registerVerb(QStringLiteral("cards"), printCards);
+    Batch::registerVerb(QStringLiteral("Mat_Import"), importMaterials);
+    // The commands of the same names do nothing if nothing is selected.
+    Batch::registerVerb(QStringLiteral("Mat_Edit"), editMaterials);
+    Batch::registerVerb(QStringLiteral("Mat_Delete"), deleteObjects);
+    Batch::registerVerb(QStringLiteral("Mat_DelDoc"), closeProject);
 }
 
 } // namespace desktop

@@ -19,9 +19,10 @@
 
 namespace desktop {
 
-void startFiles(Gui::MainWindow& window)
+void startFiles(Gui::MainWindow& window, RecoveryCopies copies)
 {
-    auto files = std::make_unique<ProjectFiles>(window);
+    auto files = std::make_unique<ProjectFiles>(window, copies == RecoveryCopies::Keep ? ProjectFiles::Copies::Keep
+                                                                                       : ProjectFiles::Copies::None);
     addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
     window.setAcceptDrops(true);
     window.installEventFilter(new FileDrops(*files, window)); // the window owns it

@@ -1,4 +1,5 @@
 #include "Startup.h"
+#include "UserSettings.h"
 #include "WindowTitle.h"
 
 #include "Gui/GuiApplication.h"
@@ -10,11 +11,13 @@
 
 #include <CLI/CLI.hpp>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,6 +28,7 @@ struct Options
     std::string batch;
     std::string screenshot;
     std::string language;
+    bool keepsCopies = false;
     std::vector<std::string> files;
 };
 
@@ -41,6 +45,9 @@ void describe(CLI::App& program, Options& options)
         ->type_name("FILE");
     program.add_option("--language", options.language, "en, de or zh_CN; the default is the language of the system")
         ->type_name("LANGUAGE");
+    program.add_flag(
+        "--keep-copies", options.keepsCopies,
+        "with --batch: keep copies of modified projects, which the next start offers if this one is killed");
     program.add_option("files", options.files, "project files to open")->type_name("FILE");
     program.footer("Example: kelta --batch examples/tour.batch\n"
                    "Exit status: 0 for success, 1 if a command failed, 2 if a file cannot be read or written.");
@@ -59,28 +66,26 @@ bool runsAlone(const Options& options)
 /// Writes each message of the message log to standard error too, because a program without a user shows no log.
 void echoMessages()
 {
-    QObject::connect(
-        &Kelta::MessageLog::instance(), &Kelta::MessageLog::reported,
-        [](const Kelta::LogMessage& message) { QTextStream(stderr) << "kelta: " << message.text << '\n'; });
+    QObject::connect(&Kelta::MessageLog::instance(), &Kelta::MessageLog::reported,
+                     [](const Kelta::LogMessage& message) {
+                         QTextStream(stderr) << "kelta: " << desktop::Batch::printable(message.text) << '\n';
+                     });
 }
 
 int saveScreenshot(Gui::MainWindow& window, const std::string& path)
 {
     QCoreApplication::processEvents();
-    if (window.grab().save(QString::fromStdString(path), "PNG"))
-        return 0;
-    QTextStream(stderr)
-        << "kelta: "
-        << QCoreApplication::translate("desktop::Batch", "%1 cannot be written").arg(QString::fromStdString(path))
-        << '\n';
-    return 2;
+    const auto failure = desktop::Batch::saveScreenshot(window, QFile::decodeName(path.c_str()));
+    if (failure)
+        QTextStream(stderr) << "kelta: " << *failure << '\n';
+    return failure ? 2 : 0;
 }
 
 int runAlone(Gui::MainWindow& window, const Options& options)
 {
     int status = 0;
     if (!options.batch.empty())
-        status = desktop::Batch::runFile(QString::fromStdString(options.batch));
+        status = desktop::Batch::runFile(QFile::decodeName(options.batch.c_str()));
     if (status == 0 && !options.screenshot.empty())
         status = saveScreenshot(window, options.screenshot);
     return status;
@@ -126,6 +131,20 @@ void leaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const 
         defaultHandler(type, context, message);
 }
 
+desktop::RecoveryCopies copiesOf(const Options& options)
+{
+    const bool keeps = !runsAlone(options) || options.keepsCopies;
+    return keeps ? desktop::RecoveryCopies::Keep : desktop::RecoveryCopies::None;
+}
+
+void warn(Gui::MainWindow& window, const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    Kelta::MessageLog::warning(text);
+    window.showMessages();
+}
+
 int runWithWindows(int& argc, char** argv, const Options& options)
 {
     if (runsAlone(options) && !hasDisplay() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -140,18 +159,22 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTA_VERSION));
     if (!options.language.empty())
         Gui::Translator::instance()->setLanguage(QString::fromStdString(options.language));
-    // A program without a user does not change the user's settings.
-    const QTemporaryDir settings;
+    std::optional<QTemporaryDir> settings;
+    QString doubt;
     if (runsAlone(options)) {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+        settings.emplace();
+        desktop::chooseOwnSettings(settings->isValid() ? settings->path() : QString());
         defaultHandler = qInstallMessageHandler(leaveOutSizeHints);
         echoMessages();
+    } else {
+        doubt = desktop::chooseUserSettings();
     }
 
     int status = 0;
     {
         Gui::MainWindow window;
-        desktop::startFiles(window);
+        warn(window, doubt);
+        desktop::startFiles(window, copiesOf(options));
         QObject::connect(&window, &Gui::MainWindow::updated, [&window] { desktop::updateTitle(window); });
         const bool loaded = desktop::loadModules(window);
         QObject::connect(&window, &Gui::MainWindow::closing,

@@ -11,18 +11,28 @@
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
 
+#include <QBuffer>
+#include <QDialog>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QTextCodec>
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <utility>
 
 namespace desktop {
 
 namespace {
+
+constexpr qint64 longestList = qint64{64} << 20U;
+constexpr const char* quitName = "Std_Quit";
 
 QTextStream& standardError()
 {
@@ -30,9 +40,20 @@ QTextStream& standardError()
     return stream;
 }
 
+void complain(const QString& text)
+{
+    standardError() << Batch::printable(text) << '\n';
+    standardError().flush();
+}
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("desktop::Batch", text);
+}
+
+QString describe(const QDialog& dialog)
+{
+    return tr("the dialog \"%1\" needs a user").arg(dialog.windowTitle());
 }
 
 /// Presses buttons of the message boxes that are shown during its lifetime, because there is no user.
@@ -45,18 +66,18 @@ public:
         m_timer.start(0);
     }
 
-    /// The text of the first warning or critical box; empty if there was none.
+    /// The text of the first warning or critical box, or of the first box that was closed; empty if there was none.
     const QString& failure() const { return m_failure; }
 
 private:
     void answer()
     {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QWidget* const modal = QApplication::activeModalWidget();
+        auto* const box = qobject_cast<QMessageBox*>(modal);
         if (box == nullptr)
-            return;
+            return closeDialog(qobject_cast<QDialog*>(modal));
         const QString text = box->windowTitle() + QStringLiteral(": ") + box->text();
-        standardError() << text << '\n';
-        standardError().flush();
+        complain(text);
         const bool isFailure = box->icon() == QMessageBox::Critical || box->icon() == QMessageBox::Warning;
         if (isFailure && m_failure.isEmpty())
             m_failure = text;
@@ -66,7 +87,20 @@ private:
         for (QAbstractButton* const button : box->buttons())
             if (box->buttonRole(button) == QMessageBox::DestructiveRole)
                 return button->click();
+        // The command is cancelled, so the line does not do its work.
+        if (m_failure.isEmpty())
+            m_failure = text;
         box->reject();
+    }
+
+    /// Closes a dialog that nobody can answer. Does nothing if there is none.
+    void closeDialog(QDialog* dialog)
+    {
+        if (dialog == nullptr)
+            return;
+        if (m_failure.isEmpty())
+            m_failure = describe(*dialog);
+        dialog->reject();
     }
 
     QTimer m_timer;
@@ -109,17 +143,14 @@ std::optional<QString> takeScreenshot(const QStringList& arguments)
     QCoreApplication::processEvents();
     window->updateCommands();
     QCoreApplication::processEvents();
-    if (!window->grab().save(arguments[0], "PNG"))
-        return tr("%1 cannot be written").arg(arguments[0]);
-    return std::nullopt;
+    return Batch::saveScreenshot(*window, arguments[0]);
 }
 
 std::optional<QString> saveDatabase(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
         return tr("arguments are not allowed here");
-    QTextStream(stdout) << QString::fromStdString(Obj::Application::instance().save_jsonDB().toStyledString());
-    return std::nullopt;
+    return Batch::print(QString::fromStdString(Obj::Application::instance().save_jsonDB().toStyledString()));
 }
 
 std::optional<QString> handOver(const QStringList& arguments)
@@ -136,8 +167,15 @@ std::optional<QString> handOver(const QStringList& arguments)
 
 std::optional<QString> say(const QStringList& arguments)
 {
-    QTextStream(stdout) << arguments.join(QLatin1Char(' ')) << '\n';
-    return std::nullopt;
+    return Batch::print(arguments.join(QLatin1Char(' ')) + QLatin1Char('\n'));
+}
+
+std::optional<QString> quit(const QStringList& arguments)
+{
+    if (std::optional<QString> failure = Batch::invokeCommand(QString::fromLatin1(quitName), arguments))
+        return failure;
+    const Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
+    return window != nullptr && window->isVisible() ? std::optional(tr("the program was not closed")) : std::nullopt;
 }
 
 std::map<QString, Batch::Verb>& verbs()
@@ -147,7 +185,7 @@ std::map<QString, Batch::Verb>& verbs()
         {QStringLiteral("label"), setLabel},        {QStringLiteral("screenshot"), takeScreenshot},
         {QStringLiteral("database"), saveDatabase}, {QStringLiteral("say"), say},
         {QStringLiteral("property"), setProperty},  {QStringLiteral("properties"), printProperties},
-        {QStringLiteral("collect"), handOver},
+        {QStringLiteral("collect"), handOver},      {QString::fromLatin1(quitName), quit},
     };
     return registered;
 }
@@ -161,6 +199,35 @@ std::optional<QString> guarded(const std::function<std::optional<QString>()>& ru
     }
 }
 
+/// Returns whether a line contains no command.
+bool isSkipped(const QString& line)
+{
+    return QProcess::splitCommand(line).isEmpty() || line.trimmed().startsWith(QLatin1Char('#'));
+}
+
+/// Reads a list of commands. Returns the reason if that fails.
+std::optional<QString> readList(const QString& path, QString& text)
+{
+    const bool isStandardInput = path == QLatin1String("-");
+    const QFileInfo info(path);
+    // Reading a pipe or a device may never begin or never end.
+    if (!isStandardInput && info.exists() && !info.isFile())
+        return tr("this is not a regular file");
+    QFile file(path);
+    const bool opened =
+        isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly | QIODevice::Text);
+    const QByteArray bytes = opened ? file.read(longestList + 1) : QByteArray();
+    if (!opened || file.error() != QFileDevice::NoError)
+        return file.errorString();
+    if (bytes.size() > longestList)
+        return tr("the list is longer than 64 MiB");
+    QTextCodec::ConverterState state;
+    text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars != 0 || state.remainingChars != 0)
+        return tr("the list is not UTF-8");
+    return std::nullopt;
+}
+
 } // namespace
 
 void Batch::registerVerb(const QString& name, Verb verb)
@@ -171,36 +238,37 @@ void Batch::registerVerb(const QString& name, Verb verb)
 int Batch::run(const QString& text, const QString& fileName)
 {
     int number = 0;
+    bool hasQuit = false;
     for (const QString& line : text.split(QLatin1Char('\n'))) {
         ++number;
-        if (const auto failure = guarded([&line] { return runLine(line); })) {
-            standardError() << fileName << ':' << number << ": " << *failure << '\n';
-            standardError().flush();
+        if (isSkipped(line))
+            continue;
+        const auto failure = hasQuit ? std::optional(tr("the program has been closed by Std_Quit; no line may follow"))
+                                     : guarded([&line] { return runLine(line); });
+        if (failure) {
+            complain(QStringLiteral("%1:%2: %3").arg(fileName, QString::number(number), *failure));
             return 1;
         }
+        hasQuit = QProcess::splitCommand(line).constFirst() == QLatin1String(quitName);
     }
     return 0;
 }
 
 int Batch::runFile(const QString& path)
 {
-    QFile file(path);
-    const bool opened = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
-                                                   : file.open(QIODevice::ReadOnly | QIODevice::Text);
-    const QByteArray text = opened ? file.readAll() : QByteArray();
-    if (!opened || file.error() != QFileDevice::NoError) {
-        standardError() << path << ": " << file.errorString() << '\n';
-        standardError().flush();
+    QString text;
+    if (const auto failure = readList(path, text)) {
+        complain(QStringLiteral("%1: %2").arg(path, *failure));
         return 2;
     }
-    return run(QString::fromUtf8(text), path);
+    return run(text, path);
 }
 
 std::optional<QString> Batch::runLine(const QString& line)
 {
+    if (line.contains(QChar::Null))
+        return tr("the line contains a zero character");
     QStringList words = QProcess::splitCommand(line);
-    if (words.isEmpty() || line.trimmed().startsWith(QLatin1Char('#')))
-        return std::nullopt;
     const QString name = words.takeFirst();
     return runCommand(name, words);
 }
@@ -214,7 +282,8 @@ std::optional<QString> Batch::runCommand(const QString& name, const QStringList&
     QCoreApplication::processEvents();
     // No event loop runs, so the windows that the command closed must be destroyed here.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (!failure && !boxes.failure().isEmpty())
+    // The text of a box says more than a reason that results from it.
+    if (!boxes.failure().isEmpty())
         failure = boxes.failure();
     if (!failure && Kelta::MessageLog::instance().errorCount() != errorsBefore)
         failure = Kelta::MessageLog::instance().messages().back().text;
@@ -230,9 +299,54 @@ std::optional<QString> Batch::invokeCommand(const QString& name, const QStringLi
         return tr("%1 takes at most one argument, the file that it asks for").arg(name);
     if (!command->canRun())
         return tr("%1 cannot be done now").arg(name);
+    const QString file = arguments.value(0);
     // A command that asks for a file, and has no argument, continues as if the user had cancelled the dialog.
-    Gui::FileDialog::answerNext(arguments.value(0));
-    return command->invoke() ? std::nullopt : std::optional(tr("%1 failed").arg(name));
+    Gui::FileDialog::answerNext(file);
+    const bool done = command->invoke();
+    const bool asked = !Gui::FileDialog::dropAnswer();
+    if (!done)
+        return tr("%1 failed").arg(name);
+    if (asked && file.isEmpty())
+        return tr("%1 needs one argument, the name of a file").arg(name);
+    if (!asked && !arguments.isEmpty())
+        return tr("%1 did not use the argument \"%2\"").arg(name, file);
+    return std::nullopt;
+}
+
+QString Batch::printable(const QString& text)
+{
+    const auto isControl = [](QChar c) {
+        return c.category() == QChar::Other_Control && c != QLatin1Char('\n') && c != QLatin1Char('\t');
+    };
+    if (std::none_of(text.begin(), text.end(), isControl))
+        return text;
+    QString shown;
+    for (const QChar c : text)
+        shown += isControl(c) ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')) : QString(c);
+    return shown;
+}
+
+std::optional<QString> Batch::print(const QString& text)
+{
+    const QByteArray bytes = printable(text).toUtf8();
+    const auto size = static_cast<std::size_t>(bytes.size());
+    errno = 0;
+    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
+        return std::nullopt;
+    return tr("standard output cannot be written: %1").arg(qt_error_string(errno));
+}
+
+std::optional<QString> Batch::saveScreenshot(QWidget& window, const QString& path)
+{
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    buffer.open(QIODevice::WriteOnly);
+    QFile file(path);
+    // Opening a pipe would wait for a reader.
+    const bool isWritable = !file.exists() || QFileInfo(path).isFile();
+    const bool isSaved = isWritable && window.grab().save(&buffer, "PNG") && file.open(QIODevice::WriteOnly) &&
+                         file.write(picture) == picture.size() && file.flush();
+    return isSaved ? std::nullopt : std::optional(tr("%1 cannot be written").arg(path));
 }
 
 } // namespace desktop

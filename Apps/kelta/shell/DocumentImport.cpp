@@ -22,6 +22,14 @@ void registerDocumentImport(const std::string& projectClass, DocumentImport impo
     imports()[projectClass] = std::move(import);
 }
 
+std::vector<std::string> documentImportClasses()
+{
+    std::vector<std::string> classes;
+    for (const auto& [projectClass, import] : imports())
+        classes.push_back(projectClass);
+    return classes;
+}
+
 const DocumentImport* findDocumentImport(const Obj::Project& project)
 {
     for (Kelta::TypeInfo type = project.getTypeId(); type.namesAType(); type = type.getParent())

@@ -30,6 +30,9 @@ using DocumentImport = std::function<ImportOutcome(Obj::Project& project, const 
 /// of their own. A later import of a class replaces an earlier one.
 KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, DocumentImport import);
 
+/// Returns the classes of projects for which an import is registered.
+KELTA_SHELL_EXPORT std::vector<std::string> documentImportClasses();
+
 /// Returns the import for a project; null if neither its class nor a base class has one.
 KELTA_SHELL_EXPORT const DocumentImport* findDocumentImport(const Obj::Project& project);
 

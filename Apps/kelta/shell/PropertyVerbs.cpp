@@ -3,6 +3,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/ProjectObject.h"
+#include "kelta/Batch.h"
 #include "vxMsg/MessageProxy.h"
 #include "vxMsg/PropertyPlace.h"
 
@@ -60,8 +61,8 @@ std::optional<QString> printProperties(const QStringList& arguments)
         return tr("select exactly one object, and give no argument");
     std::vector<Obj::Property*> properties;
     object->get_property_array(properties);
-    QTextStream out(stdout);
-    out.setCodec("UTF-8");
+    QString text;
+    QTextStream out(&text);
     for (const Obj::Property* const property : properties) {
         if (object->is_hidden(property))
             continue;
@@ -69,7 +70,7 @@ std::optional<QString> printProperties(const QStringList& arguments)
         out << object->get_property_name(property) << (value.empty() ? " =" : " = ") << QString::fromStdString(value)
             << '\n';
     }
-    return std::nullopt;
+    return Batch::print(text);
 }
 
 } // namespace desktop

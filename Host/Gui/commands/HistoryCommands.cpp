@@ -68,7 +68,7 @@ void addHistoryCommands(CommandController& commands, QUndoStack& history, TreeSe
 {
     CommandRow undoRow{"Std_Undo",
                        QT_TRANSLATE_NOOP("StandardCommand", "&Undo"),
-                       QT_TRANSLATE_NOOP("StandardCommand", "Take back the last change"),
+                       QT_TRANSLATE_NOOP("StandardCommand", "Undo the last change"),
                        "kelta_undo",
                        QKeySequence::Undo,
                        CommandType::none,
@@ -77,7 +77,7 @@ void addHistoryCommands(CommandController& commands, QUndoStack& history, TreeSe
     undoRow.subject = [&history] { return stackToUndo(history).undoText(); };
     CommandRow redoRow{"Std_Redo",
                        QT_TRANSLATE_NOOP("StandardCommand", "&Redo"),
-                       QT_TRANSLATE_NOOP("StandardCommand", "Make again the change that was taken back"),
+                       QT_TRANSLATE_NOOP("StandardCommand", "Redo the change that was undone last"),
                        "kelta_redo",
                        QKeySequence::Redo,
                        CommandType::none,

@@ -80,6 +80,11 @@ void FileDialog::answerNext(const QString& path)
     preparedAnswer() = path;
 }
 
+bool FileDialog::dropAnswer()
+{
+    return std::exchange(preparedAnswer(), std::nullopt).has_value();
+}
+
 bool FileDialog::takeAnswer(QString& path)
 {
     if (!preparedAnswer())

@@ -24,6 +24,9 @@ public:
 
     /// Sets the result of the next call, which then does not ask the user; for programs that a script runs.
     static void answerNext(const QString& path);
+    /// Drops the result that answerNext() has set. Returns false if a call has taken the result already, or if there is
+    /// none.
+    static bool dropAnswer();
 
 private:
     static bool takeAnswer(QString& path);

@@ -383,7 +383,7 @@ bool MaterialView::apply()
         return refuse(tr("Empty property"), tr("No property is defined."));
     QString message;
     if (!table.validateRows(message))
-        return refuse(tr("Invalid material"), message, table.findRefusedRow());
+        return refuse(tr("Invalid material"), message, table.findRefusedRow(), reasonOf(table.findRefusedRow()));
     if (const auto row = table.findUnreadableRow())
         return refuse(tr("Invalid material"), describe(*row), row->number - 1);
     Gui::ApplyRefusal refusal;
@@ -397,10 +397,17 @@ bool MaterialView::apply()
     return true;
 }
 
-bool MaterialView::refuse(const QString& title, const QString& reason, int row)
+QString MaterialView::reasonOf(int refusedRow) const
+{
+    // The rules read "7850 kg" as 0, so their message is not the reason.
+    const auto partly = m_ui->tableView->findPartlyReadRow();
+    return partly && partly->number - 1 == refusedRow ? describe(*partly) : QString();
+}
+
+bool MaterialView::refuse(const QString& title, const QString& reason, int row, const QString& details)
 {
     const QPointer<MaterialView> self(this);
-    Mat::showCritical(title, reason);
+    Mat::showCritical(title, reason, details);
     // The window may be closed while the message is open.
     if (self != nullptr)
         m_ui->tableView->showRow(row);

@@ -10,10 +10,11 @@ namespace Mat {
 
 namespace {
 
-void show(QMessageBox::Icon icon, const QString& title, const QString& text)
+void show(QMessageBox::Icon icon, const QString& title, const QString& text, const QString& details = {})
 {
     QMessageBox box(icon, title, text, QMessageBox::Ok, Gui::MainWindow::get_main_window_inst());
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(details);
     box.exec();
 }
 
@@ -24,12 +25,12 @@ bool hasWindows()
 
 } // namespace
 
-void showCritical(const QString& title, const QString& text)
+void showCritical(const QString& title, const QString& text, const QString& details)
 {
     if (hasWindows())
-        show(QMessageBox::Critical, title, text);
+        show(QMessageBox::Critical, title, text, details);
     else
-        Kelta::MessageLog::error(title + QStringLiteral(": ") + text);
+        Kelta::MessageLog::error(QStringLiteral("%1: %2 %3").arg(title, text, details).trimmed());
 }
 
 void showWarning(const QString& title, const QString& text)

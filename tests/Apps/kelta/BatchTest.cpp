@@ -1,6 +1,7 @@
 #include "KeltaTesting.h"
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -163,6 +164,96 @@ TEST_F(Batch, DoesTheTour)
     const QImage picture(path("out/tour.png"));
     EXPECT_GE(picture.width(), 800);
     EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Resin"));
+}
+
+TEST_F(Batch, FailsIfACommandGetsNoFileName)
+{
+    for (const char* const line : {"Std_Save", "Std_SaveAs", "Std_SaveAs \"\"", "Std_Open", "Std_ImportDocument"}) {
+        SCOPED_TRACE(line);
+        const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\nMat_AddMaterial\n") + line + "\nsay more\n");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:3: "));
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("needs one argument, the name of a file"));
+        EXPECT_EQ(outcome.output, "");
+    }
+}
+
+TEST_F(Batch, FailsIfACommandDoesNotUseItsFile)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_Save first.vxmat\nStd_Save second.vxmat\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(errorsOf(outcome), "list.batch:4: Std_Save did not use the argument \"second.vxmat\"\n");
+    EXPECT_TRUE(QFile::exists(path("first.vxmat")));
+}
+
+TEST_F(Batch, FailsIfACommandHasNothingToActOn)
+{
+    for (const char* const line : {"Mat_Edit", "Mat_Delete", "Mat_DelDoc", "Mat_Import a.csv"}) {
+        SCOPED_TRACE(line);
+        const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\nMat_AddMaterial\nselect\n") + line + "\n");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:4: "));
+    }
+}
+
+TEST_F(Batch, FailsAtTextBehindAZeroCharacter)
+{
+    const Outcome outcome = runBatch(QByteArray("say one\nsay two\0 three\nsay four\n", 31));
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "one\n");
+    EXPECT_EQ(errorsOf(outcome), "list.batch:2: the line contains a zero character\n");
+}
+
+TEST_F(Batch, ReadsUtf8Alone)
+{
+    EXPECT_EQ(runBatch("say \xC3\xA4\xE5\xBC\xB9\n").output, QString::fromUtf8("\xC3\xA4\xE5\xBC\xB9\n"));
+    const Outcome outcome = runBatch("say one\nlabel \xE4\n");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(errorsOf(outcome), "list.batch: the list is not UTF-8\n");
+    EXPECT_EQ(outcome.output, "");
+}
+
+TEST_F(Batch, PassesNoControlCharactersToTheTerminal)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nlabel \"a\x1B[31mb\"\ncards\nproperties\n"
+                                     "select \"c\x1B[2J\xC2\x9B\"\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.output.toStdString(), testing::StartsWith("a\\u001b[31mb\n"));
+    EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Label = a\\u001b[31mb\n"));
+    EXPECT_EQ(errorsOf(outcome), "list.batch:6: nothing in the current project is labelled \"c\\u001b[2J\\u009b\"\n");
+}
+
+TEST_F(Batch, EndsAtQuit)
+{
+    EXPECT_EQ(runBatch("Mat_NewDoc\nStd_Quit\n\n# the end\n").status, 0);
+    const Outcome outcome = runBatch("Mat_NewDoc\nStd_Quit\nsay more\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_THAT(errorsOf(outcome), EndsWith("list.batch:3: the program has been closed by Std_Quit; no line may "
+                                            "follow\n"));
+}
+
+TEST_F(Batch, FailsIfItsOutputCannotBeWritten)
+{
+    for (const char* const line : {"say more", "cards", "database", "properties", "screenshot /dev/full"}) {
+        SCOPED_TRACE(line);
+        vxtest::writeFile(path("list.batch"),
+                          QByteArray("Mat_NewDoc\nMat_AddMaterial\nselect Material\n") + line + "\n");
+        const Outcome outcome = run({"--batch", "list.batch"}, "/dev/full");
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("list.batch:4: "));
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("cannot be written"));
+    }
+}
+
+TEST_F(Batch, ReadsNoListThatNeverEnds)
+{
+    const Outcome outcome = run({"--batch", "/dev/zero"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(errorsOf(outcome), "/dev/zero: this is not a regular file\n");
+    QFile list(path("long.batch"));
+    ASSERT_TRUE(list.open(QIODevice::WriteOnly) && list.resize(qint64{100} << 20));
+    EXPECT_EQ(errorsOf(run({"--batch", "long.batch"})), "long.batch: the list is longer than 64 MiB\n");
 }
 
 TEST_F(Batch, TellsHowItIsUsed)

@@ -257,7 +257,7 @@ TEST_F(EndToEnd, AUserGetsBackWhatACrashLeftBehind)
     vxtest::writeFile(home.filePath(QStringLiteral("list.batch")),
                       "Mat_NewDoc\nMat_AddMaterial\nlabel Beam\nStd_SaveAs beams.vxmat\nset Density 4321\nsay kept\n" +
                           QByteArray("screenshot a.png\n").repeated(1000));
-    crashing.start(program, {"--batch", "list.batch"});
+    crashing.start(program, {"--keep-copies", "--batch", "list.batch"});
     ASSERT_TRUE(crashing.waitForReadyRead(patience)) << crashing.readAllStandardError().toStdString();
     crashing.kill();
     ASSERT_TRUE(crashing.waitForFinished(patience));

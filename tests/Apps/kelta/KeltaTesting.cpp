@@ -21,9 +21,11 @@ QProcessEnvironment cleanEnvironment(const QString& home)
 }
 
 Outcome runKelta(const QString& program, const QStringList& arguments, const QString& folder,
-                 const QProcessEnvironment& environment)
+                 const QProcessEnvironment& environment, const QString& outputFile)
 {
     QProcess process;
+    if (!outputFile.isEmpty())
+        process.setStandardOutputFile(outputFile);
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
     process.start(program, arguments);
@@ -48,9 +50,10 @@ QByteArray readFile(const QString& path)
     return file.readAll();
 }
 
-Outcome Kelta::run(const QStringList& arguments) const
+Outcome Kelta::run(const QStringList& arguments, const QString& outputFile) const
 {
-    return runKelta(QStringLiteral(KELTA_PROGRAM), arguments, m_folder.path(), cleanEnvironment(m_folder.path()));
+    return runKelta(QStringLiteral(KELTA_PROGRAM), arguments, m_folder.path(), cleanEnvironment(m_folder.path()),
+                    outputFile);
 }
 
 Outcome Kelta::runBatch(const QByteArray& commands) const

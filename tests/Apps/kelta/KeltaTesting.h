@@ -22,9 +22,10 @@ struct Outcome
 /// Returns the environment of a program without a display, with its own settings and English texts.
 QProcessEnvironment cleanEnvironment(const QString& home);
 
-/// Runs the application without a display, from `folder`.
+/// Runs the application without a display, from `folder`. Its standard output is written to `outputFile` if there is
+/// one.
 Outcome runKelta(const QString& program, const QStringList& arguments, const QString& folder,
-                 const QProcessEnvironment& environment);
+                 const QProcessEnvironment& environment, const QString& outputFile = {});
 
 /// Writes a text to a file.
 void writeFile(const QString& path, const QByteArray& text);
@@ -34,7 +35,7 @@ QByteArray readFile(const QString& path);
 class Kelta : public testing::Test
 {
 protected:
-    Outcome run(const QStringList& arguments) const;
+    Outcome run(const QStringList& arguments, const QString& outputFile = {}) const;
     /// Runs a list of commands from the file list.batch.
     Outcome runBatch(const QByteArray& commands) const;
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }

@@ -87,7 +87,8 @@ protected:
         QProcess program;
         program.setProcessEnvironment(environment);
         program.setWorkingDirectory(path(""));
-        program.start(QStringLiteral(MORTAL_KELTA), {QStringLiteral("--batch"), QStringLiteral("list.batch")});
+        program.start(QStringLiteral(MORTAL_KELTA),
+                      {QStringLiteral("--keep-copies"), QStringLiteral("--batch"), QStringLiteral("list.batch")});
         EXPECT_TRUE(program.waitForFinished(vxtest::patience)) << program.errorString().toStdString();
         EXPECT_TRUE(lastCall > 0 || program.exitCode() == 0) << program.readAllStandardError().toStdString();
         return program.readAllStandardOutput();

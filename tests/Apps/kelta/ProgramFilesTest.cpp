@@ -70,4 +70,35 @@ TEST_F(ProgramFiles, FailToBeSavedOnAFullDevice)
     EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("/dev/full"));
 }
 
+TEST_F(ProgramFiles, LeaveNoCopiesOfAListThatIsKilled)
+{
+    vxtest::writeFile(path("list.batch"), "Mat_NewDoc\nMat_AddMaterial\nset Density 4321\nsay set\n" +
+                                              QByteArray("screenshot a.png\n").repeated(1000));
+    QProcess program;
+    program.setProcessEnvironment(vxtest::cleanEnvironment(path("")));
+    program.setWorkingDirectory(path(""));
+    program.start(QStringLiteral(KELTA_PROGRAM), {QStringLiteral("--batch"), QStringLiteral("list.batch")});
+    ASSERT_TRUE(program.waitForReadyRead(vxtest::patience));
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished(vxtest::patience));
+    EXPECT_FALSE(QDir(path("vxMaterial/kelta/recovery")).exists());
+}
+
+TEST_F(ProgramFiles, AreNotWrittenElsewhereWithoutAHomeAndATemporaryFolder)
+{
+    vxtest::writeFile(path("list.batch"), "Mat_NewDoc\nMat_AddMaterial\nset Density 4321\nStd_SaveAs a.vxmat\n");
+    QProcessEnvironment environment = vxtest::cleanEnvironment(path(""));
+    for (const char* const name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        environment.remove(QLatin1String(name));
+    environment.insert(QStringLiteral("TMPDIR"), QStringLiteral("/no/such/folder"));
+    const auto outcome = vxtest::runKelta(QStringLiteral(KELTA_PROGRAM), {"--keep-copies", "--batch", "list.batch"},
+                                          path(""), environment);
+    EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+    EXPECT_THAT(outcome.errors.toStdString(), testing::HasSubstr("HOME is not the name of a folder"));
+    EXPECT_EQ(QDir(path("")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name),
+              (QStringList{"a.vxmat", "list.batch"}));
+    EXPECT_FALSE(QDir(QStringLiteral("/.local/share/vxMaterial/kelta")).exists());
+    EXPECT_FALSE(QFile::exists(QStringLiteral("/.config/vxMaterial/kelta.conf")));
+}
+
 } // namespace

@@ -456,6 +456,28 @@ TEST(MixedProject, LosesInvalidLinksWithADoubt)
     EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[0].links[0]\" is 9"));
 }
 
+TEST(MixedProject, LosesMembersOfTwoGroupsAndOfCirclesWithADoubt)
+{
+    const ProjectRecord read = projectfile::readProject(R"({"format": "vxMaterial project", "format_version": 1,
+        "class": "Stub::Project", "name": "p", "next_object_id": 9, "materials": [], "objects": [
+        {"object_id": 1, "class": "Obj::ProjectObjectGroup", "name_internal": "a", "label": "a", "links": [2, 3]},
+        {"object_id": 2, "class": "Obj::ProjectObjectGroup", "name_internal": "b", "label": "b", "links": [4, 1]},
+        {"object_id": 3, "class": "Obj::ProjectObjectGroup", "name_internal": "c", "label": "c", "links": [4]},
+        {"object_id": 4, "class": "Stub::Probe", "name_internal": "d", "label": "d", "links": [1]}]})");
+    EXPECT_THAT(read.doubts, ElementsAre(HasSubstr("\"objects[1].links[1]\" is 1, which is in another group or"),
+                                         HasSubstr("\"objects[2].links[0]\" is 4, which is in another group or")));
+    EXPECT_THAT(read.objects[1].links, ElementsAre(4U));
+    EXPECT_THAT(read.objects[3].links, ElementsAre(1U));
+}
+
+TEST(MixedProject, LosesASecondLabelWithADoubt)
+{
+    const ProjectRecord read = projectfile::readProject(replaced(mixedText(), "\"properties\": {\n        \"Batch\"",
+                                                                 "\"properties\": {\n \"Label\": \"X\", \"Batch\""));
+    EXPECT_FALSE(read.objects[0].properties.isMember("Label"));
+    EXPECT_THAT(read.doubts, ElementsAre(HasSubstr("\"materials[0].properties.Label\" is left out")));
+}
+
 class WrongMixedProject : public testing::TestWithParam<Wrong>
 {};
 
@@ -482,6 +504,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"      \"class\": \"Stub::Probe\",\n", "", "\"objects[0].class\" is missing"},
         Wrong{"\"class\": \"Stub::Probe\"", "\"class\": \"\"", "\"objects[0].class\" must not be empty"},
         Wrong{"\"class\": \"Stub::Probe\"", R"("class": "Stub\u0000Probe")", "contains a zero character"},
+        Wrong{"\"class\": \"Stub::Probe\"", "\"class\": \"Mat::MaterialObject\"",
+              "\"objects[0].class\" is \"Mat::MaterialObject\", but objects of this class belong in"},
         Wrong{"\"name_internal\": \"Other3\"", "\"name_internal\": \"Material2\"",
               "\"objects[0].name_internal\" is \"Material2\", which is the name of materials[1]"},
         Wrong{"\"name_internal\": \"Other3\"", "\"name_internal\": \"\"", "\"objects[0].name_internal\" must not be"},

@@ -15,6 +15,7 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <cstdint>
 #include <random>
 #include <string>
 #include <sys/mount.h>
@@ -22,6 +23,7 @@
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -176,6 +178,81 @@ TEST_F(ProjectStore, KeepsTheOwnerOfTheFile)
     EXPECT_EQ(status.st_uid, other);
     EXPECT_EQ(status.st_gid, other);
     EXPECT_EQ(modeOf(file), mode_t{0640});
+}
+
+/// Returns a POSIX access list in the form of the system: the owner has all rights, the user 4711 may read and write, the
+/// group and others have no rights.
+std::string makeAccessList(std::uint16_t mask)
+{
+    struct Entry
+    {
+        std::uint16_t tag;
+        std::uint16_t rights;
+        std::uint32_t id;
+    };
+    constexpr std::uint32_t none = 0xFFFFFFFFU;
+    const Entry entries[] = {{1, 7, none}, {2, 6, 4711}, {4, 0, none}, {16, mask, none}, {32, 0, none}};
+    constexpr std::uint32_t version = 2;
+    std::string list(reinterpret_cast<const char*>(&version), sizeof version);
+    return list.append(reinterpret_cast<const char*>(entries), sizeof entries);
+}
+
+constexpr const char* accessList = "system.posix_acl_access";
+constexpr const char* defaultList = "system.posix_acl_default";
+
+std::string accessListOf(const QString& path)
+{
+    std::string list(1000, '\0');
+    const ssize_t size = getxattr(QFile::encodeName(path).constData(), accessList, list.data(), list.size());
+    list.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    return list;
+}
+
+TEST_F(ProjectStore, KeepsTheAccessListOfTheFile)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    scribble(file, "old");
+    const std::string list = makeAccessList(6);
+    if (setxattr(QFile::encodeName(file).constData(), accessList, list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "the file system has no access lists";
+    ASSERT_EQ(modeOf(file), 0760U) << "the mode has the mask in place of the group";
+    writeFile(file, "new");
+    EXPECT_EQ(accessListOf(file), list);
+    EXPECT_EQ(modeOf(file), 0760U);
+}
+
+TEST_F(ProjectStore, TakesNoRightsFromTheAccessListOfTheFolder)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    scribble(file, "old");
+    ASSERT_EQ(chmod(QFile::encodeName(file).constData(), 0640), 0);
+    const std::string list = makeAccessList(7);
+    if (setxattr(QFile::encodeName(path({})).constData(), defaultList, list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "the file system has no access lists";
+    writeFile(file, "new");
+    EXPECT_EQ(accessListOf(file), "");
+    EXPECT_EQ(modeOf(file), 0640U);
+}
+
+TEST_F(ProjectStore, GivesNobodyMoreRightsIfTheOwnerCannotBeKept)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make a file of another owner";
+    const QString file = path(QStringLiteral("a.vxmat"));
+    scribble(file, "old");
+    ASSERT_EQ(chown(QFile::encodeName(file).constData(), 4711, 4712), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(file).constData(), 0666), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(path({})).constData(), 0777), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        const bool isOther = setgid(4713) == 0 && setuid(4713) == 0;
+        writeFile(file, "new");
+        _exit(isOther ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_EQ(status, 0);
+    EXPECT_EQ(modeOf(file), 0600U);
 }
 
 TEST_F(ProjectStore, WritesTheTargetOfAChainOfSymbolicLinks)
@@ -511,6 +588,39 @@ TEST_F(ProjectStore, LockWithoutContentDoesNotCountIfItIsOld)
     EXPECT_FALSE(FileLock(file).tryLock());
     setTime(lockFile, past);
     EXPECT_TRUE(FileLock(file).tryLock());
+}
+
+TEST_F(ProjectStore, LockOfAnotherComputerCanBeTakenOver)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    scribble(path(QStringLiteral(".a.vxmat.lock")), "4711\nkelta\nfaraway\n\n\n");
+    FileLock lock(file);
+    EXPECT_FALSE(lock.tryLock());
+    EXPECT_EQ(lock.holder(), QStringLiteral("kelta (4711 on faraway)"));
+    EXPECT_TRUE(lock.isHeldElsewhere());
+    EXPECT_TRUE(lock.takeOver());
+    EXPECT_TRUE(lock.isLocked());
+    EXPECT_FALSE(lock.isHeldElsewhere());
+    EXPECT_FALSE(FileLock(file).tryLock());
+}
+
+TEST_F(ProjectStore, LockOfARunningProgramCannotBeTakenOver)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    const LockHolder other(file);
+    ASSERT_TRUE(other.hasLock());
+    FileLock lock(file);
+    EXPECT_FALSE(lock.tryLock());
+    EXPECT_FALSE(lock.isHeldElsewhere());
+    EXPECT_FALSE(lock.takeOver());
+    EXPECT_FALSE(lock.isLocked());
+}
+
+TEST_F(ProjectStore, LockFileThatIsNoFileIsRefused)
+{
+    const QString file = path(QStringLiteral("a.vxmat"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path(QStringLiteral(".a.vxmat.lock"))).constData(), 0600), 0);
+    EXPECT_THAT(refusalOf([&] { const FileLock lock(file); }), HasSubstr(".a.vxmat.lock' is not a regular file"));
 }
 
 TEST_F(ProjectStore, LockIsTheSameForASymbolicLinkAndItsTarget)

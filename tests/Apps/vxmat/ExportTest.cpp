@@ -128,7 +128,7 @@ TEST(Export, WritesTheMaterialsOfAProjectWithTheirNumbersAndLabels)
     EXPECT_EQ(vxmat({"diff", "-", document}, again.out).status, 0);
     EXPECT_EQ(vxmat({"export", "-", "-o", "-"}, vxtest::readText(project)).out, again.out);
 
-    ASSERT_EQ(vxmat({"new", "Air=Wind", "-o", project}).status, 0);
+    ASSERT_EQ(vxmat({"new", "Air=Wind", "-o", project, "--force"}).status, 0);
     const Outcome run = vxmat({"export", "Water", project, "Concrete=9", "-o", "-"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(numbersAndNames(run.out), (Materials{{1, "Wind"}, {2, "Water"}, {9, "Concrete"}}));

@@ -169,6 +169,28 @@ TEST(Files, KeepTheirContentIfTheyAreOpenAlready)
     }
 }
 
+TEST(Files, AreRefusedIfReadingThemWouldNeverBeginOrNeverEnd)
+{
+    const Folder folder;
+    const Outcome pipe = shell("cd '" + folder.path("") + "' && mkfifo pipe && \"$VXMAT\" check pipe");
+    EXPECT_EQ(pipe.status, 2);
+    EXPECT_EQ(pipe.err, "vxmat: pipe: this is a device or a pipe; a file is needed, or \"-\" for standard input\n");
+    EXPECT_EQ(vxmat({"cards", "/dev/zero"}).err,
+              "vxmat: /dev/zero: this is a device or a pipe; a file is needed, or \"-\" for standard input\n");
+}
+
+TEST(Files, AreReadOnlyAsFarAsTheyCanBeDocuments)
+{
+    EXPECT_THAT(shell("\"$VXMAT\" check - </dev/zero").err, HasSubstr("line 1, column 1: a zero byte"));
+    EXPECT_THAT(shell("yes | \"$VXMAT\" check -").err, HasSubstr("line 1, column 1: 'y' is not a JSON value"));
+}
+
+TEST(Files, MayBeReadFromADescriptorThatIsOpen)
+{
+    for (const char* const path : {"/dev/stdin", "/dev/fd/0", "/proc/self/fd/0"})
+        EXPECT_EQ(vxmat({"check", path}, R"({"proj_type": 2})").status, 0) << path;
+}
+
 TEST(Files, MayBePipes)
 {
     const Folder folder;

@@ -105,7 +105,8 @@ TEST(New, LeavesTheOldFileUnchangedIfWritingFails)
 {
     const Folder folder;
     const std::string file = folder.file("old.vxmat", "old");
-    const Outcome full = shell("ulimit -f 1; trap '' XFSZ; \"$VXMAT\" new 'Structural Steel' -o '" + file + "'");
+    const Outcome full =
+        shell("ulimit -f 1; trap '' XFSZ; \"$VXMAT\" new 'Structural Steel' --force -o '" + file + "'");
     EXPECT_EQ(full.status, 2);
     EXPECT_THAT(full.err, StartsWith("vxmat: " + file + ": "));
     EXPECT_EQ(vxtest::readText(file), "old");
@@ -124,13 +125,70 @@ TEST(New, DoesNotWriteToAFileThatAnotherProgramHasOpen)
     {
         projectfile::FileLock lock(QString::fromStdString(file));
         ASSERT_TRUE(lock.tryLock());
-        const Outcome run = vxmat({"new", "Water", "-o", file});
+        for (const char* const command : {"new", "export"}) {
+            const Outcome run = vxmat({command, "Water", "-o", file, "--force"});
+            EXPECT_EQ(run.status, 2);
+            EXPECT_THAT(run.err, StartsWith("vxmat: " + file + ": another program has it open: "));
+            EXPECT_EQ(vxtest::readText(file), before);
+        }
+    }
+    EXPECT_EQ(vxmat({"new", "Water", "-o", file, "--force"}).status, 0);
+    EXPECT_NE(vxtest::readText(file), before);
+}
+
+TEST(New, ReplacesAProjectOnlyByForce)
+{
+    const Folder folder;
+    const std::string file = folder.path("p.vxmat");
+    const std::string document = folder.path("d.json");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", file}).status, 0);
+    ASSERT_EQ(vxmat({"export", "Water", "-o", document}).status, 0);
+    const std::string before = vxtest::readText(file);
+    const std::vector<std::vector<std::string>> commands{
+        {"new", "Water", "-o", file}, {"import", document, "-o", file}, {"export", "Water", "-o", file}};
+    for (const std::vector<std::string>& command : commands) {
+        SCOPED_TRACE(command.front());
+        const Outcome run = vxmat(command);
         EXPECT_EQ(run.status, 2);
-        EXPECT_THAT(run.err, StartsWith("vxmat: " + file + ": another program has it open: "));
+        EXPECT_EQ(run.err, "vxmat: " + file +
+                               ": this file exists already; give another name, or --force to replace "
+                               "it\n");
         EXPECT_EQ(vxtest::readText(file), before);
     }
-    EXPECT_EQ(vxmat({"new", "Water", "-o", file}).status, 0);
+    EXPECT_EQ(vxmat({"export", "Air", "-o", document}).status, 0)
+        << "documents are replaced, as they can be made again";
+    for (std::vector<std::string> command : commands) {
+        command.emplace_back("--force");
+        EXPECT_EQ(vxmat(command).status, 0);
+        EXPECT_NE(vxtest::readText(file), before);
+    }
+    EXPECT_THAT(folder.names(), ElementsAre("d.json", "p.vxmat"));
+}
+
+TEST(New, TakesOverTheLockOfAnotherComputerByForce)
+{
+    const Folder folder;
+    const std::string file = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", file}).status, 0);
+    const std::string before = vxtest::readText(file);
+    folder.file(".p.vxmat.lock", "4711\nkelta\nfaraway\n0123456789abcdef\n0123456789abcdef\n");
+    const Outcome run = vxmat({"new", "Water", "-o", file});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "vxmat: " + file +
+                           ": another program has it open: kelta (4711 on faraway); if this program no longer runs, "
+                           "--force takes over its lock\n");
+    EXPECT_EQ(vxtest::readText(file), before);
+    EXPECT_EQ(vxmat({"new", "Water", "-o", file, "--force"}).status, 0);
     EXPECT_NE(vxtest::readText(file), before);
+    EXPECT_THAT(folder.names(), ElementsAre("p.vxmat"));
+}
+
+TEST(New, RefusesALockFileThatIsAPipe)
+{
+    const Folder folder;
+    const Outcome run = shell("cd '" + folder.path("") + "' && mkfifo .p.vxmat.lock && \"$VXMAT\" new Air -o p.vxmat");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("Its lock file './.p.vxmat.lock' is not a regular file. Remove it."));
 }
 
 TEST(Import, RestoresDataFromTheCatalogueAndReportsUnknownData)

@@ -64,18 +64,18 @@ TEST(CheckOfAProject, FindsNumbersOutOfRange)
 {
     const Outcome density = check(projectOf(std::make_unique<vxMat::Density>(-1.0)));
     EXPECT_EQ(density.status, 1);
-    EXPECT_EQ(density.out, "-: $.materials[0].material.properties[0].value: is -1: Mass density must be positive!\n");
+    EXPECT_EQ(density.out, "-: $.materials[0].material.properties[0]: \"Density\" is -1; it must be greater than 0.\n");
     EXPECT_EQ(density.err, "");
     EXPECT_THAT(check(projectOf(std::make_unique<vxMat::PoissonsRatio>(0.5))).out,
-                HasSubstr("properties[0].value: is 0.5: Poisson's ratio must be between [0.001, 0.499]!"));
+                HasSubstr("properties[0]: \"Poisson's ratio\" is 0.5; it must be from 0.001 to 0.499."));
 }
 
 TEST(CheckOfAProject, FindsWordsThatAreNotAllowed)
 {
     const Outcome run = check(projectOf(std::make_unique<vxMat::PlasticYieldType>("Tresca")));
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.out, "-: $.materials[0].material.properties[0].text: is \"Tresca\": Yield type must be Mises, "
-                       "Mohr-Coulomb, or Drucker-Prager!\n");
+    EXPECT_EQ(run.out, "-: $.materials[0].material.properties[0]: \"Yield type\" is \"Tresca\"; it must be one of "
+                       "Mises, Mohr-Coulomb, Drucker-Prager.\n");
     EXPECT_EQ(check(projectOf(std::make_unique<vxMat::PlasticYieldType>("MISES"))).status, 0);
 }
 
@@ -84,17 +84,19 @@ TEST(CheckOfAProject, FindsNumbersThatAreNotFinite)
     const double infinity = std::numeric_limits<double>::infinity();
     const Outcome number = check(projectOf(std::make_unique<vxMat::YoungsModulus>(infinity)));
     EXPECT_EQ(number.status, 1);
-    EXPECT_EQ(number.out, "-: $.materials[0].material.properties[0].value: is inf; a finite number is needed\n");
+    EXPECT_EQ(number.out, "-: $.materials[0].material.properties[0]: \"Young's modulus\" is inf; a finite number is "
+                          "needed.\n");
     const Outcome list = check(projectOf(std::make_unique<vxMat::PlasticYieldStress>(
         std::vector<double>{1.0, std::numeric_limits<double>::quiet_NaN()})));
-    EXPECT_EQ(list.out, "-: $.materials[0].material.properties[0].values[1]: is nan; a finite number is needed\n");
+    EXPECT_EQ(list.out, "-: $.materials[0].material.properties[0]: \"Yield stress\" is nan; a finite number is "
+                        "needed.\n");
 }
 
 TEST(CheckOfAProject, FindsEmptyLists)
 {
     const Outcome run = check(projectOf(std::make_unique<vxMat::PlasticStrain>(std::vector<double>{})));
     EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.out, HasSubstr("properties[0].values: is empty; \"Plastic strain\" is a list of numbers"));
+    EXPECT_THAT(run.out, HasSubstr("properties[0]: \"Plastic strain\" contains no number."));
 }
 
 TEST(CheckOfAProject, FindsQuantitiesThatTheCatalogueDoesNotKnow)
@@ -102,7 +104,7 @@ TEST(CheckOfAProject, FindsQuantitiesThatTheCatalogueDoesNotKnow)
     auto property = std::make_unique<vxMat::MaterialProperty>(201, "Thermal Expansion", "alpha", 1.0);
     const Outcome run = check(projectOf(std::move(property)));
     EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.out, HasSubstr("properties[0]: is property 201, which the catalogue does not know"));
+    EXPECT_THAT(run.out, HasSubstr("properties[0]: The catalogue has no quantity 201 (\"Thermal Expansion\")"));
 }
 
 TEST(CheckOfAProject, FindsCombinationsThatExcludeEachOther)
@@ -112,8 +114,8 @@ TEST(CheckOfAProject, FindsCombinationsThatExcludeEachOther)
     properties.push_back(std::make_unique<vxMat::NeoHooke>());
     const Outcome run = check(projectOf(std::move(properties)));
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.out,
-              "-: $.materials[0].material.properties: Elasticity and hyper-elasticy cannot be used togeter!\n");
+    EXPECT_THAT(run.out,
+                HasSubstr("\"Isotropic elasticity\" and \"Neo-Hookean\" exclude each other; remove one of them."));
 }
 
 TEST(CheckOfAProject, FindsUnequalNumbersOfYieldStressesAndPlasticStrains)
@@ -124,8 +126,8 @@ TEST(CheckOfAProject, FindsUnequalNumbersOfYieldStressesAndPlasticStrains)
     const Outcome run = check(projectOf(std::move(properties)));
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out,
-              "-: $.materials[0].material.properties: has 3 yield stresses and 2 plastic strains; both lists must have "
-              "the same length\n");
+              "-: $.materials[0].material.properties[0]: \"Yield stress\" has 3 numbers and \"Plastic strain\" "
+              "has 2; they form pairs, and numbers without a partner have no effect.\n");
 }
 
 TEST(CheckOfAProject, ChecksAPropertyAlsoAsTheQuantityUnderWhichItIsHeld)
@@ -138,7 +140,7 @@ TEST(CheckOfAProject, ChecksAPropertyAlsoAsTheQuantityUnderWhichItIsHeld)
     materials[0].material = std::move(material);
     const Outcome run = check(projectfile::writeProject(projectfile::makeProject("p", std::move(materials))));
     EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.out, HasSubstr("is 7850: Poisson's ratio must be between"));
+    EXPECT_THAT(run.out, HasSubstr("\"Poisson's ratio\" is 7850; it must be from 0.001 to 0.499."));
     EXPECT_THAT(run.err, HasSubstr("note: $.materials[0].material.properties[0]: is property 4 \"Density\" but held "
                                    "as 6 \"Poisson's ratio\""));
 }
@@ -152,8 +154,8 @@ TEST(CheckOfAProject, NamesThePlaceOfAValueInTheFile)
             {"id": 6, "value": 0.3}, {"id": 4, "value": -8}]}},
         {"object_id": 2, "class": "Mat::MaterialObject", "name_internal": "a", "label": "a", "material": {"properties": [
             {"id": 4, "value": -2}]}}]})");
-    EXPECT_EQ(run.out, "-: $.materials[0].material.properties[1].value: is -8: Mass density must be positive!\n"
-                       "-: $.materials[1].material.properties[0].value: is -2: Mass density must be positive!\n");
+    EXPECT_EQ(run.out, "-: $.materials[0].material.properties[1]: \"Density\" is -8; it must be greater than 0.\n"
+                       "-: $.materials[1].material.properties[0]: \"Density\" is -2; it must be greater than 0.\n");
 }
 
 TEST(CheckOfAProject, ReportsTheDoubtsOfTheReader)
@@ -170,11 +172,22 @@ TEST(CheckOfAProject, ReportsTheDoubtsOfTheReader)
     EXPECT_THAT(cards.err, HasSubstr("\"Wind\""));
 }
 
-TEST(CheckOfAProject, NotesMaterialsWithoutProperties)
+TEST(CheckOfAProject, FindsMaterialsWithoutProperties)
 {
     const Outcome run = check(projectOf(std::vector<std::unique_ptr<vxMat::MaterialProperty>>()));
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.err, "vxmat: -: note: $.materials[0].material: has no properties\n");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "-: $.materials[0].material: The material has no properties.\n");
+    EXPECT_EQ(run.err, "");
+}
+
+TEST(CheckOfAProject, FindsModelsThatLackAParameter)
+{
+    const Outcome run = check(projectOf(std::make_unique<vxMat::IsotropicElasticity>()));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "-: $.materials[0].material.properties[0]: \"Isotropic elasticity\" needs \"Young's modulus\", "
+                       "which the material does not have.\n"
+                       "-: $.materials[0].material.properties[0]: \"Isotropic elasticity\" needs \"Poisson's ratio\", "
+                       "which the material does not have.\n");
 }
 
 TEST(CheckOfAProject, PrintsFindingsAsJson)
@@ -183,7 +196,7 @@ TEST(CheckOfAProject, PrintsFindingsAsJson)
     EXPECT_EQ(run.status, 1);
     const auto reading = vxjson::readJsonText(run.out);
     ASSERT_FALSE(reading.error);
-    EXPECT_EQ(reading.document["findings"][0]["path"], "$.materials[0].material.properties[0].value");
+    EXPECT_EQ(reading.document["findings"][0]["path"], "$.materials[0].material.properties[0]");
     EXPECT_TRUE(reading.document["notes"].empty());
 }
 
@@ -198,7 +211,7 @@ TEST(CheckOfAProject, SuppliesTheMaterialsOfAnAnalysis)
     const Outcome run = vxmat({"check", analysis, "--materials", project});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "");
-    ASSERT_EQ(vxmat({"new", "Air", "-o", project}).status, 0);
+    ASSERT_EQ(vxmat({"new", "Air", "-o", project, "--force"}).status, 0);
     EXPECT_THAT(vxmat({"check", analysis, "--materials", project}).out, HasSubstr("is 7, a material that is neither"));
 }
 

@@ -244,6 +244,7 @@ TEST(Schema, RefusesInvalidObjectsOfOtherClasses)
         {"\"object_id\": 3", "\"object_id\": 0"},
         {"\"class\": \"Stub::Probe\",", ""},
         {"\"class\": \"Stub::Probe\"", R"("class": "Stub\u0000Probe")"},
+        {"\"class\": \"Stub::Probe\"", R"("class": "Mat::MaterialObject")"},
         {"\"name_internal\": \"Probe\"", "\"name_internal\": \"\""},
         {"\"label\": \"Probe A\"", "\"label\": 7"},
         {"\"properties\": {\n    \"Depth\": 0.5,", "\"properties\": [], \"more\": {"},

@@ -4,8 +4,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QLibrary>
 #include <gmock/gmock.h>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -110,6 +113,37 @@ TEST_F(PluginLoaderTest, NamesAMissingLibraryAndLoadsTheRest)
     folder.add("Whole", "GoodPlugin", R"(["enter"])");
     EXPECT_THAT(toStrings(loader.loadAll().loaded), ElementsAre("Whole"));
     EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Hollow\""), HasSubstr(folder.path("libHollow.so").toStdString())));
+}
+
+TEST_F(PluginLoaderTest, NamesALibraryThatIsAPipeAndLoadsTheRest)
+{
+    folder.addDescriptor("Pipe", R"({"module": "Pipe", "version": "1", "entries": ["enter"]})");
+    ASSERT_EQ(mkfifo(folder.path("libPipe.so").toLocal8Bit().constData(), 0600), 0);
+    folder.add("Whole", "GoodPlugin", R"(["enter"])");
+    EXPECT_THAT(toStrings(loader.loadAll().loaded), ElementsAre("Whole"));
+    EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Pipe\""), HasSubstr("is not a regular file")));
+}
+
+TEST_F(PluginLoaderTest, NamesALibraryThatIsCutOffAndLoadsTheRest)
+{
+    for (const char* const module : {"Cut1", "Cut2", "Cut3", "Cut4"}) {
+        folder.add(QString::fromLatin1(module), "GoodPlugin", R"(["enter"])");
+        QFile library(folder.path(QStringLiteral("lib%1.so").arg(QString::fromLatin1(module))));
+        // 40 %, 20 %, ... of the library
+        ASSERT_TRUE(library.resize(library.size() * ('5' - module[3]) / 10));
+    }
+    folder.add("Whole", "GoodPlugin", R"(["enter"])");
+    EXPECT_THAT(toStrings(loader.loadAll().loaded), ElementsAre("Whole"));
+    EXPECT_THAT(reports.text(),
+                AllOf(HasSubstr("\"Cut1\""), HasSubstr("libCut1.so is incomplete"), HasSubstr("\"Cut4\"")));
+}
+
+TEST_F(PluginLoaderTest, NamesALibraryWhoseInitialisationThrowsAndLoadsTheRest)
+{
+    folder.add("Lapsed", "StaticThrowPlugin", R"(["enter"])");
+    folder.add("Whole", "GoodPlugin", R"(["enter"])");
+    EXPECT_THAT(toStrings(loader.loadAll().loaded), ElementsAre("Whole"));
+    EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Lapsed\""), HasSubstr("the licence of the year has run out")));
 }
 
 TEST_F(PluginLoaderTest, TakesNoLibraryFromTheCurrentFolderOrThatOfTheSystem)

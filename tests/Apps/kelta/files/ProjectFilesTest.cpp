@@ -1,5 +1,7 @@
+#include "DataFile.h"
 #include "FilesTesting.h"
 #include "HostTesting.h"
+#include "MaterialGuards.h"
 #include "Mnemonics.h"
 #include "RecentFiles.h"
 #include "SchemaJudge.h"
@@ -8,6 +10,9 @@
 #include "Gui/ProjectExplorer.h"
 #include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
+#include "Obj/Placeholder.h"
+#include "kelta/OpeningGuard.h"
+#include "projectfile/ProjectStore.h"
 #include "vxCAE/CaeManager.h"
 
 #include <QAbstractButton>
@@ -215,16 +220,273 @@ TEST_F(ProjectFiles, LeaveTheCurrentProjectWhenAnotherCannotBeOpened)
     addMaterial();
     ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
     QByteArray content = contentOf(path("a.vxmat"));
-    writeFile(path("b.vxmat"), content.replace("Mat::MaterialObject", "Obj::ProjectObject"));
+    writeFile(path("b.vxmat"), content.replace("\"format_version\": 1", "\"format_version\": 9"));
     newProject();
     newProject();
     Obj::Project* const current = Obj::Application::get_projects().front();
     Obj::Application::instance().setCurrentProject(*current);
     const Answers answers({"OK"});
     run("Std_Open", path("b.vxmat"));
-    EXPECT_THAT(text(answers.boxes()), HasSubstr("which is not a material class"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("later version"));
     EXPECT_EQ(Obj::Application::get_current_project(), current);
     EXPECT_EQ(Obj::Application::get_projects().size(), 3U);
+}
+
+TEST_F(ProjectFiles, KeepTheirNameIfAnotherProjectHasIt)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(QFile::copy(path("a.vxmat"), path("b.vxmat")));
+    ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
+    EXPECT_STREQ(currentProject()->get_name(), "Materials1");
+    EXPECT_FALSE(isModified());
+    addMaterial("Another");
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_EQ(projectfile::readProject(contentOf(path("b.vxmat")).toStdString()).name, "Materials");
+}
+
+/// Returns the content of a project file without the record of the host, whose numbers differ from run to run, and
+/// without colours, of which the host writes the default too.
+std::string contentOfModules(const QByteArray& file)
+{
+    projectfile::ProjectRecord record = projectfile::readProject(file.toStdString());
+    record.database = Json::Value();
+    for (projectfile::ObjectRecord& object : record.objects)
+        object.colour.reset();
+    return projectfile::writeProject(record);
+}
+
+TEST_F(ProjectFiles, OpenUnchangedIfTheCheckFindsNothingAndNotAtAllIfItRefusesThem)
+{
+    // The exit status of "vxmat check" is the first line of the expected result beside each file.
+    const QDir corpus(QString::fromStdString(vxtest::dataPath("projects")));
+    for (const QString& name : corpus.entryList({QStringLiteral("*.vxmat")})) {
+        SCOPED_TRACE(name.toStdString());
+        const QByteArray status = contentOf(corpus.filePath(name.chopped(6) + QStringLiteral(".expected"))).left(1);
+        ASSERT_TRUE(QFile::copy(corpus.filePath(name), path("a.vxmat")));
+        const Answers answers(status == "2" ? QStringList("OK") : QStringList());
+        run("Std_Open", path("a.vxmat"));
+        EXPECT_EQ(Obj::Application::get_projects().size(), status == "2" ? 0U : 1U);
+        if (status == "0") {
+            EXPECT_FALSE(files->isModified(*Obj::Application::get_current_project()));
+            EXPECT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+            EXPECT_EQ(contentOfModules(contentOf(path("b.vxmat"))), contentOfModules(contentOf(path("a.vxmat"))));
+        }
+        Obj::Application::instance().closeAllProjects();
+        QFile::remove(path("a.vxmat"));
+        QFile::remove(path("b.vxmat"));
+    }
+}
+
+TEST_F(ProjectFiles, KeepANameThatIsNoneForAnOpenProject)
+{
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QByteArray content = contentOf(path("a.vxmat"));
+    Obj::Application::instance().closeAllProjects();
+    for (const auto& [name, whenOpen] : {std::pair("\"\"", "Project"), std::pair(R"("Mat\u0000x")", "Mat")}) {
+        SCOPED_TRACE(name);
+        writeFile(path("b.vxmat"),
+                  QByteArray(content).replace("\"name\": \"Materials\"", QByteArray("\"name\": ") + name));
+        ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
+        EXPECT_STREQ(currentProject()->get_name(), whenOpen);
+        EXPECT_FALSE(isModified());
+        ASSERT_TRUE(run("Std_SaveAs", path("c.vxmat")));
+        EXPECT_TRUE(contentOf(path("c.vxmat")).contains(QByteArray("\"name\": ") + name));
+        EXPECT_TRUE(closeProject());
+        QFile::remove(path("c.vxmat"));
+    }
+}
+
+TEST_F(ProjectFiles, KeepObjectsOfClassesThatCannotContainThem)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    for (const char* const name :
+         {"Obj::ProjectObject", "Obj::ProjectObjectGroup", "Obj::Project", "Mat::DocumentMaterial"})
+    {
+        SCOPED_TRACE(name);
+        QByteArray content = contentOf(path("a.vxmat"));
+        writeFile(path("b.vxmat"), content.replace("Mat::MaterialObject", name));
+        ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
+        EXPECT_FALSE(isModified());
+        ASSERT_TRUE(run("Std_SaveAs", path("c.vxmat")));
+        const auto record = projectfile::readProject(contentOf(path("c.vxmat")).toStdString());
+        EXPECT_EQ(record.objects.at(0).className, name);
+        EXPECT_EQ(record.objects.at(0).material->properties.size(), 9U);
+        Obj::Application::instance().closeProject(*currentProject());
+        QFile::remove(path("c.vxmat"));
+    }
+}
+
+TEST_F(ProjectFiles, OpenAProjectOfAClassThatIsNoneAsAPlaceholder)
+{
+    newProject();
+    addMaterial();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    QByteArray content = contentOf(path("a.vxmat"));
+    writeFile(path("b.vxmat"),
+              content.replace("\"name\": \"Materials\"", "\"class\": \"Obj::ProjectObject\", \"name\": \"Materials\""));
+    ASSERT_TRUE(run("Std_Open", path("b.vxmat")));
+    const Obj::Project& opened = *Obj::Application::get_current_project();
+    EXPECT_NE(dynamic_cast<const Obj::PlaceholderProject*>(&opened), nullptr);
+    EXPECT_FALSE(files->isModified(opened));
+}
+
+/// A material project is open, and another one is opened from a file.
+class SecondFile : public ProjectFiles
+{
+protected:
+    SecondFile()
+    {
+        desktop::addMaterialGuards(Gui::GuiApplication::Instance->get_command_manager());
+        newProject();
+        addMaterial("In the file");
+        run("Std_SaveAs", path("a.vxmat"));
+        closeProject();
+        newProject();
+        addMaterial("First");
+    }
+    ~SecondFile() override
+    {
+        desktop::registerOpeningGuard("Mat::DocumentMaterial", [](const QString&) { return true; });
+    }
+    static std::vector<std::string> labels()
+    {
+        std::vector<std::string> found;
+        for (const Obj::Project* const project : Obj::Application::get_projects())
+            for (const Obj::ProjectObject* const object : project->getObjects())
+                found.push_back(object->label.getValue());
+        return found;
+    }
+};
+
+TEST_F(SecondFile, IsOpenedAfterTheFirstIsClosed)
+{
+    const Answers answers({"Close and open", "Discard"});
+    ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
+    EXPECT_THAT(labels(), testing::ElementsAre("In the file"));
+    EXPECT_THAT(text(answers.boxes()), HasSubstr("Only one material project can be used at a time. Close \"Materials"));
+    EXPECT_FALSE(isModified());
+}
+
+TEST_F(SecondFile, IsNotOpenedIfTheUserKeepsTheFirst)
+{
+    {
+        const Answers answers({"Cancel"});
+        run("Std_Open", path("a.vxmat"));
+    }
+    EXPECT_THAT(labels(), testing::ElementsAre("First"));
+    {
+        const Answers answers({"Close and open", "Cancel"});
+        EXPECT_FALSE(files->open(path("a.vxmat")));
+    }
+    EXPECT_THAT(labels(), testing::ElementsAre("First"));
+}
+
+TEST_F(SecondFile, DoesNotCloseTheFirstIfItIsNotAProject)
+{
+    writeFile(path("b.vxmat"), "{}");
+    const Answers answers({"OK"});
+    run("Std_Open", path("b.vxmat"));
+    EXPECT_THAT(labels(), testing::ElementsAre("First"));
+}
+
+TEST_F(SecondFile, IsRecoveredOnlyIfTheFirstIsClosed)
+{
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 1);
+    crash();
+    newProject();
+    addMaterial("Later");
+    {
+        const Answers answers({"Recover", "Cancel"});
+        files->offerRecovery();
+    }
+    EXPECT_THAT(labels(), testing::ElementsAre("Later"));
+    EXPECT_EQ(copies().size(), 1);
+    {
+        const Answers answers({"Recover", "Close and open", "Discard"});
+        files->offerRecovery();
+    }
+    EXPECT_THAT(labels(), testing::ElementsAre("First"));
+}
+
+TEST_F(SecondFile, IsNotReplacedByAnExportWithoutAQuestion)
+{
+    const QByteArray before = contentOf(path("a.vxmat"));
+    ASSERT_TRUE(run("Std_SaveAs", path("b.vxmat")));
+    const QByteArray first = contentOf(path("b.vxmat"));
+    {
+        const Answers answers({"Cancel"});
+        run("Mat_Export", path("b.vxmat"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("is the file of the project"));
+    }
+    EXPECT_EQ(contentOf(path("b.vxmat")), first);
+    projectfile::FileLock lock(path("a.vxmat"));
+    ASSERT_TRUE(lock.tryLock());
+    {
+        const Answers answers({"Cancel"});
+        run("Mat_Export", path("a.vxmat"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("is in use by"));
+    }
+    EXPECT_EQ(contentOf(path("a.vxmat")), before);
+    {
+        const Answers answers({"Replace"});
+        run("Mat_Export", path("a.vxmat"));
+    }
+    EXPECT_TRUE(contentOf(path("a.vxmat")).contains("proj_type"));
+}
+
+TEST_F(ProjectFiles, OfferToImportADocument)
+{
+    newProject();
+    addMaterial("Frame");
+    ASSERT_TRUE(currentProject()->exportToFile(path("m.json").toStdString(), 0, 0, 0));
+    {
+        const Answers answers({"Cancel"});
+        run("Std_Open", path("m.json"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("is an exchange document, not a project file."));
+    }
+    EXPECT_EQ(currentProject()->getObjects().size(), 1U);
+    {
+        const Answers answers({"Import"});
+        run("Std_Open", path("m.json"));
+    }
+    EXPECT_EQ(currentProject()->getObjects().size(), 2U);
+    Obj::Application::instance().closeAllProjects();
+    const Answers answers({"Import"});
+    run("Std_Open", path("m.json"));
+    ASSERT_NE(currentProject(), nullptr);
+    EXPECT_STREQ(currentProject()->get_name(), "m");
+    EXPECT_NE(findMaterial("Frame"), nullptr);
+}
+
+TEST_F(ProjectFiles, LeaveNoNewProjectIfADocumentIsWrong)
+{
+    writeFile(path("m.json"), R"({"proj_type": 2, "material": [{"mat_id": "x"}]})");
+    const Answers answers({"Import", "OK"});
+    run("Std_Open", path("m.json"));
+    EXPECT_TRUE(Obj::Application::get_projects().empty());
+}
+
+TEST_F(ProjectFiles, TakeOverALockOfAnotherComputerAfterAQuestion)
+{
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    Obj::Application::instance().closeAllProjects();
+    writeFile(path(".a.vxmat.lock"), "4711\nkelta\nfaraway\n\n\n");
+    {
+        const Answers answers({"Cancel"});
+        run("Std_Open", path("a.vxmat"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("kelta (4711 on faraway)"));
+    }
+    EXPECT_EQ(currentProject(), nullptr);
+    const Answers answers({"Take over"});
+    ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
+    EXPECT_FALSE(contentOf(path(".a.vxmat.lock")).contains("faraway"));
 }
 
 TEST_F(ProjectFiles, MarkTheProjectThatHasChanges)

@@ -43,6 +43,8 @@ TEST_F(Verbs, SetNoNumberWithOtherTextBehindIt)
               "the value \"210 GPa\" would be read as \"210\"; \"GPa\" would be ignored; give the value without it");
     EXPECT_EQ(run("set", {"E", "2,1e11"}),
               "the value \"2,1e11\" would be read as \"2\"; \",1e11\" would be ignored; give the value without it");
+    EXPECT_EQ(run("set", {"Density", "7850 kg"}),
+              "the value \"7850 kg\" would be read as \"7850\"; \"kg\" would be ignored; give the value without it");
     EXPECT_EQ(modulusOf(steel), 2e11);
 }
 
@@ -129,6 +131,15 @@ TEST_F(Verbs, SetALabelAsAProperty)
     EXPECT_EQ(run("property", {"Label", ""}), "The label must not be empty; nothing was changed.");
     EXPECT_EQ(run("label"), "give a label, and select exactly one object");
     EXPECT_EQ(steel.label.getValue(), "Frame");
+}
+
+TEST_F(Verbs, FailWithoutASelection)
+{
+    addMaterial(newProject());
+    select({});
+    EXPECT_EQ(run("Mat_Edit"), "nothing is selected that Mat_Edit acts on");
+    EXPECT_EQ(run("Mat_Delete"), "nothing is selected that Mat_Delete acts on");
+    EXPECT_EQ(run("Mat_DelDoc"), "one selected material project is needed");
 }
 
 TEST_F(Verbs, FailToEditMoreThanAHundredMaterials)

@@ -5,7 +5,10 @@
 
 #include "vxMaterial/model/CataloguedMaterial.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
 #include <QUndoStack>
 #include <QtTest/QtTestGui>
 #include <gmock/gmock.h>
@@ -216,6 +219,28 @@ TEST(MaterialViewHost, FindsValuesOfWhichAPartWouldBeIgnored)
               QString("Row %1: The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\"; \"GPa\" would be "
                       "ignored. Type the value without it.")
                   .arg(editor.rowOf(5) + 1));
+}
+
+TEST(MaterialViewHost, SaysThatTextBehindANumberIsTheReasonOfARefusal)
+{
+    Editor editor;
+    editor.typeValue(4, "210 GPa");
+    QString text;
+    QString details;
+    QTimer::singleShot(0, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        text = box->text();
+        details = box->informativeText();
+        box->accept();
+    });
+    editor.click("btnApply");
+    const int row = editor.rowOf(4) + 1;
+    EXPECT_EQ(text, QString("Row %1: Mass density must be positive!").arg(row));
+    EXPECT_EQ(details,
+              QString("Row %1: The value \"210 GPa\" of \"Density\" would be read as \"210\"; \"GPa\" would be "
+                      "ignored. Type the value without it.")
+                  .arg(row));
 }
 
 TEST(MaterialViewHost, ShortensLongValuesInItsReasons)

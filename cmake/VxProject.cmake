@@ -36,7 +36,9 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib" "$ORIGIN/${VX_LIB_FROM_BIN}")
 list(REMOVE_DUPLICATES CMAKE_INSTALL_RPATH)
 
 add_library(vx_options INTERFACE)
-target_compile_options(vx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+# Qt 5 writes the keys of a shortcut as the sum of two enumerations, Qt::CTRL + Qt::Key_D, of which Clang warns.
+target_compile_options(vx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                                            $<$<CXX_COMPILER_ID:Clang>:-Wno-enum-enum-conversion>)
 if(VX_WARNINGS_AS_ERRORS)
     target_compile_options(vx_options INTERFACE -Werror)
 endif()

@@ -1,9 +1,11 @@
 #include "Gui/Translator.h"
 
 #include "Kelta/MessageLog.h"
+#include "application/TranslationCheck.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -46,6 +48,25 @@ QStringList toolkitFilesFor(const QString& language, const QString& folder)
             return {name};
     return {};
 }
+
+/// The texts of one file.
+class LoadedTranslation final : public QTranslator
+{
+public:
+    /// Returns false if the file cannot be read or is damaged.
+    bool loadFile(const QString& path)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return false;
+        m_content = file.readAll();
+        return isSoundTranslation(m_content) &&
+               load(reinterpret_cast<const uchar*>(m_content.constData()), m_content.size());
+    }
+
+private:
+    QByteArray m_content; // the base class reads from it
+};
 
 } // namespace
 
@@ -90,8 +111,8 @@ void Translator::refresh()
 
 void Translator::load(const QString& folder, const QString& name)
 {
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(name, folder)) {
+    auto translator = std::make_unique<LoadedTranslation>();
+    if (!translator->loadFile(QDir(folder).filePath(name))) {
         Kelta::MessageLog::warning(
             tr("The translation %1 cannot be read; its texts are shown in English.").arg(QDir(folder).filePath(name)));
         return;

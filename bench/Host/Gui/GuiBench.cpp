@@ -1,17 +1,22 @@
 #include "MaterialContributions.h"
+#include "MaterialFiles.h"
+#include "ProjectFiles.h"
 
+#include "Gui/FileDialog.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/ProjectTreeModel.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
+#include "vxMaterial/project/MaterialObject.h"
 #include "vxMaterial/project/Module.h"
 #include "vxMaterial/project/Requests.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -21,10 +26,12 @@
 #include <vector>
 
 /// Measures the times for which the user waits: commands on 10,000 materials, by the longest time in which the
-/// interface does not react, and the start of the program until its window is painted, compared with an empty window.
+/// interface does not react, project files of 1,000 materials, and the start of the program until its window is painted,
+/// compared with an empty window.
 namespace {
 
 constexpr int materialCount = 10000;
+constexpr int fileCount = 1000;
 constexpr double freezeLimit = 100.0; ///< milliseconds
 constexpr double startLimit = 1.5;
 
@@ -113,6 +120,48 @@ private:
     bool m_passed = true;
 };
 
+/// Runs `action`, and then the event loop until the window shows its result. Prints the time, and returns whether it is
+/// within the limit and whether the action succeeded.
+bool measureFile(const char* name, const std::function<bool()>& action)
+{
+    bool done = false;
+    const double time = millisecondsOf([&] {
+        done = action();
+        QCoreApplication::processEvents();
+    });
+    const bool within = time <= freezeLimit;
+    std::printf("%-50s %8.1f ms   %s %.0f%s\n", name, time, within ? "within" : "OVER", freezeLimit,
+                done ? "" : "   FAILED: it did not do its work");
+    return within && done;
+}
+
+/// Measures saving and opening a project file of materials, as the user waits for it.
+bool measureFiles(Gui::MainWindow& window)
+{
+    Obj::Application& application = Obj::Application::instance();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("materials.vxmat"));
+    desktop::registerMaterialFiles();
+    desktop::ProjectFiles files(window);
+    Obj::Project& project = *application.createProject("Mat::DocumentMaterial", "Materials");
+    for (int i = 0; i < fileCount; ++i)
+        dynamic_cast<Mat::MaterialObject&>(*project.add_object("Mat::MaterialObject", "Material"))
+            .initCMaterial(vxMat::eMaterialType::StructuralSteel);
+    const bool saved = measureFile("save a project of 1,000 materials", [&] {
+        Gui::FileDialog::answerNext(path);
+        return files.saveAs(project);
+    });
+    vxMsg::MessageProxy::instance().undoStack().clear();
+    application.closeAllProjects();
+    const bool opened = measureFile("open a project of 1,000 materials", [&] {
+        return files.open(path) && Obj::Application::get_current_project()->getObjectCount() == fileCount;
+    });
+    vxMsg::MessageProxy::instance().undoStack().clear();
+    application.closeAllProjects();
+    files.end();
+    return saved && opened;
+}
+
 bool measureCommands(int& argc, char** argv)
 {
     Gui::GuiApplication application(argc, argv);
@@ -123,6 +172,7 @@ bool measureCommands(int& argc, char** argv)
     Mat::registerRequests();
     window.setWorkbench("MatGui::SimModule");
     window.show();
+    const bool files = measureFiles(window);
     Commands commands(window);
     constexpr int all = materialCount;
     commands.measure("select all of 10,000 materials", "Std_SelectAll", all, all, 0);
@@ -134,7 +184,7 @@ bool measureCommands(int& argc, char** argv)
     commands.measure("redo the deletion", "Std_Redo", 0, 0, 0);
     vxMsg::MessageProxy::instance().undoStack().clear();
     Obj::Application::instance().closeAllProjects();
-    return commands.passed();
+    return commands.passed() && files;
 }
 
 /// Shows and paints `window` once. Returns the exit status.

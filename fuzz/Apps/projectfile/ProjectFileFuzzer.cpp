@@ -1,4 +1,3 @@
-#include "projectfile/ExchangeImport.h"
 #include "projectfile/MaterialRecord.h"
 #include "projectfile/ProjectFile.h"
 
@@ -8,15 +7,11 @@
 #include <string>
 #include <string_view>
 
-/// Reading any bytes as a project, or importing them as a document, succeeds or throws a ContentError. A project that
-/// was read can be written, and reading and writing it again gives the same text.
+/// Reading any bytes as a project succeeds or throws a ContentError. A project that was read can be written, and reading
+/// and writing it again gives the same text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    try {
-        projectfile::importExchange(text);
-    } catch (const projectfile::ContentError&) {
-    }
     projectfile::ProjectRecord project;
     try {
         project = projectfile::readProject(text);

@@ -90,6 +90,46 @@ TEST_F(Language, ReportsATranslationThatCannotBeRead)
     EXPECT_EQ(menus().first(), "&File");
 }
 
+/// Returns the beginning of a translation file.
+QByteArray magic()
+{
+    return QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd");
+}
+
+struct Damage
+{
+    const char* what;
+    const char* sections; ///< hexadecimal
+};
+
+const Damage damages[] = {
+    {"a message behind the end", "42 00000008 00000001 40000000  69 00000001 01"},
+    {"a text that is longer than the file", "42 00000008 00000001 00000000  69 00000006 03 7ffffffe 01"},
+    {"half a position", "42 00000006 00000001 0000  69 00000001 01"},
+    {"a table of contexts that is cut", "2f 00000004 00ff 0001"},
+    {"a table of no contexts", "2f 00000002 0000"},
+    {"a context without an end", "2f 00000006 0001 0001 05 61"},
+    {"a section that is cut", "69 000000ff 01"},
+    {"another file that it needs", "96 00000004 00000000"},
+};
+
+TEST_F(Language, ReportsATranslationThatIsDamaged)
+{
+    const QTemporaryDir folder;
+    Translator::instance()->addFolder(folder.path());
+    for (const Damage& damage : damages) {
+        SCOPED_TRACE(damage.what);
+        QFile file(folder.filePath(QStringLiteral("damaged_ww.qm")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(magic() + QByteArray::fromHex(damage.sections));
+        file.close();
+        Kelta::MessageLog::instance().clear();
+        Translator::instance()->setLanguage(QStringLiteral("ww"));
+        ASSERT_FALSE(Kelta::MessageLog::instance().messages().empty());
+        EXPECT_THAT(lastMessage(), HasSubstr("damaged_ww.qm cannot be read;"));
+    }
+}
+
 TEST_F(Language, IsThatOfQtsOwnTextsToo)
 {
     const QDir folder(QLibraryInfo::location(QLibraryInfo::TranslationsPath));

@@ -1,0 +1,43 @@
+# Makes the table of three runs, of which one was disturbed.
+file(REMOVE_RECURSE ${WORK})
+set(head "                                                      ours, us   other, us  ratio ours, MiB     other  ratio\n")
+set(run1 "write 100 materials                                  2000.0      4000.0   0.50      10.0      20.0   0.50   within 1.15\n")
+set(run2 "write 100 materials                                  3000.0      4000.0   0.75      10.0      20.0   0.50   within 1.15\n")
+set(run3 "write 100 materials                                  9000.0      4000.0   2.25      10.0      20.0   0.50   OVER 1.15\n")
+set(freeze "select all of 10,000 materials                         11.0 ms   within 100\n")
+foreach(run RANGE 1 3)
+    file(WRITE ${WORK}/exchange_bench.${run}.txt "${head}${run${run}}")
+    file(WRITE ${WORK}/gui_bench.${run}.txt "${freeze}")
+endforeach()
+
+# Sets `table` to the table and `result` to the exit status.
+macro(make_table)
+    file(GLOB files ${WORK}/*.txt)
+    execute_process(COMMAND ${PYTHON} ${SOURCE}/scripts/bench-table.py ${files}
+                    RESULT_VARIABLE result OUTPUT_VARIABLE table ERROR_VARIABLE table)
+endmacro()
+function(expect_line line)
+    string(FIND "${table}" "${line}\n" place)
+    if(place EQUAL -1)
+        message(FATAL_ERROR "the line \"${line}\" is not in the table:\n${table}")
+    endif()
+endfunction()
+
+make_table()
+expect_line("| write 100 materials | 3.00 (2.00 - 9.00) | 4.00 (4.00 - 4.00) | 0.75 (0.5 - 2.25) | 0.5 (0.5 - 0.5) | 1.15 |")
+expect_line("| select all of 10,000 materials | 11.00 (11.00 - 11.00) |  |  |  | 100 |")
+if(NOT result EQUAL 0)
+    message(FATAL_ERROR "one disturbed run of three failed the measurement:\n${table}")
+endif()
+
+file(WRITE ${WORK}/exchange_bench.2.txt "${run3}")
+make_table()
+if(NOT result EQUAL 1 OR NOT table MATCHES "1.15 OVER")
+    message(FATAL_ERROR "two runs of three over the limit passed:\n${table}")
+endif()
+
+file(WRITE ${WORK}/exchange_bench.2.txt "write 100 materials                                failed\n")
+make_table()
+if(NOT result EQUAL 1)
+    message(FATAL_ERROR "a failed run passed:\n${table}")
+endif()

@@ -123,6 +123,10 @@
         <source>The command &quot;%1&quot; failed</source>
         <translation>Der Befehl „%1“ ist fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Gui::CoreEditor</name>
@@ -184,6 +188,18 @@
         <source>Messages</source>
         <translation>Meldungen</translation>
     </message>
+    <message>
+        <source>Double-click the message, or press Return, to go to the object.</source>
+        <translation>Doppelklick oder Eingabetaste führt zum Objekt.</translation>
+    </message>
+    <message>
+        <source>The object of a message cannot be shown</source>
+        <translation>Das Objekt einer Meldung kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>The object of this message has been deleted or closed.</source>
+        <translation>Das Objekt dieser Meldung wurde gelöscht oder geschlossen.</translation>
+    </message>
 </context>
 <context>
     <name>Gui::ObjectClipboard</name>
@@ -198,6 +214,10 @@
     <message>
         <source>An object cannot be pasted completely</source>
         <translation>Ein Objekt kann nicht vollständig eingefügt werden</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
     </message>
 </context>
 <context>
@@ -237,6 +257,10 @@ Unterdrückt</translation>
     <message>
         <source>The module for &quot;%1&quot; is not loaded. Its data are saved unchanged, but cannot be edited.</source>
         <translation>Das Modul für „%1“ ist nicht geladen. Seine Daten werden unverändert gespeichert, können aber nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Not ready. Findings: %1</source>
+        <translation>Nicht bereit. Befunde: %1</translation>
     </message>
 </context>
 <context>
@@ -449,6 +473,14 @@ Unterdrückt</translation>
     <message>
         <source>The module &quot;%1&quot; was not loaded: %2</source>
         <translation>Das Modul „%1“ wurde nicht geladen: %2</translation>
+    </message>
+    <message>
+        <source>its library %1 is not a regular file</source>
+        <translation>ihre Bibliothek %1 ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>its library %1 is incomplete</source>
+        <translation>ihre Bibliothek %1 ist unvollständig</translation>
     </message>
 </context>
 <context>
@@ -1209,10 +1241,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Eine Kopie jedes ausgewählten Objekts hinzufügen</translation>
     </message>
     <message>
-        <source>Give the selected object another label</source>
-        <translation>Dem ausgewählten Objekt eine andere Beschriftung geben</translation>
-    </message>
-    <message>
         <source>Select all objects of the project</source>
         <translation>Alle Objekte des Projekts auswählen</translation>
     </message>
@@ -1273,6 +1301,18 @@ Trotzdem löschen?</translation>
     <message>
         <source>Show information about the program</source>
         <translation>Informationen über das Programm anzeigen</translation>
+    </message>
+    <message>
+        <source>Give the selected object or project another name</source>
+        <translation>Dem ausgewählten Objekt oder Projekt einen anderen Namen geben</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederhergestellt: %1</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1464,58 @@ Trotzdem löschen?</translation>
         <source>select exactly one object, and give no argument</source>
         <translation>wählen Sie genau ein Objekt aus und geben Sie kein Argument an</translation>
     </message>
+    <message>
+        <source>Mat_Import reads no files; import an exchange document with Std_ImportDocument</source>
+        <translation>Mat_Import liest keine Dateien; importieren Sie ein Austauschdokument mit Std_ImportDocument</translation>
+    </message>
+    <message>
+        <source>nothing is selected that %1 acts on</source>
+        <translation>nichts ist ausgewählt, worauf %1 wirkt</translation>
+    </message>
+    <message>
+        <source>one selected material project is needed</source>
+        <translation>ein ausgewähltes Materialprojekt wird gebraucht</translation>
+    </message>
+    <message>
+        <source>the dialog &quot;%1&quot; needs a user</source>
+        <translation>das Dialogfenster „%1“ braucht einen Benutzer</translation>
+    </message>
+    <message>
+        <source>the program was not closed</source>
+        <translation>das Programm wurde nicht beendet</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>dies ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the list is longer than 64 MiB</source>
+        <translation>die Liste ist länger als 64 MiB</translation>
+    </message>
+    <message>
+        <source>the list is not UTF-8</source>
+        <translation>die Liste ist nicht UTF-8</translation>
+    </message>
+    <message>
+        <source>the program has been closed by Std_Quit; no line may follow</source>
+        <translation>das Programm wurde mit Std_Quit beendet; danach darf keine Zeile stehen</translation>
+    </message>
+    <message>
+        <source>the line contains a zero character</source>
+        <translation>die Zeile enthält ein Nullzeichen</translation>
+    </message>
+    <message>
+        <source>%1 needs one argument, the name of a file</source>
+        <translation>%1 braucht ein Argument, den Namen einer Datei</translation>
+    </message>
+    <message>
+        <source>%1 did not use the argument &quot;%2&quot;</source>
+        <translation>%1 hat das Argument „%2“ nicht verwendet</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1</source>
+        <translation>die Standardausgabe kann nicht geschrieben werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::EditorWatch</name>
@@ -1434,6 +1526,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>The changes in an editor cannot be recorded</source>
         <translation>Die Änderungen in einem Editor können nicht aufgezeichnet werden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied: no property has changed.</source>
+        <translation>&quot;%1&quot; wurde übernommen: keine Eigenschaft hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
+        <translation>&quot;%1&quot; wurde übernommen. Eigenschaften hinzugefügt: %2, geändert: %3, entfernt: %4.</translation>
     </message>
 </context>
 <context>
@@ -1471,6 +1571,17 @@ Trotzdem löschen?</translation>
     <message>
         <source>Further findings are not listed: %1.</source>
         <translation>Weitere Befunde sind nicht aufgeführt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialCounts</name>
+    <message>
+        <source>The materials cannot be counted</source>
+        <translation>Die Materialien können nicht gezählt werden</translation>
+    </message>
+    <message>
+        <source>Materials: %1, selected: %2, not ready: %3</source>
+        <translation>Materialien: %1, ausgewählt: %2, nicht bereit: %3</translation>
     </message>
 </context>
 <context>
@@ -1549,6 +1660,34 @@ Trotzdem löschen?</translation>
     <message>
         <source>The export contains only applied changes.</source>
         <translation>Der Export enthält nur angewendete Änderungen.</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Only one material project can be used at a time. Close &quot;%1&quot; and open &quot;%2&quot;?</source>
+        <translation>Es kann nur ein Materialprojekt gleichzeitig verwendet werden. „%1“ schließen und „%2“ öffnen?</translation>
+    </message>
+    <message>
+        <source>&amp;Close and open</source>
+        <translation>S&amp;chließen und öffnen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the file of the project &quot;%2&quot;, which is open.</source>
+        <translation>„%1“ ist die Datei des Projekts „%2“, das geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in use by %2.</source>
+        <translation>„%1“ wird von %2 verwendet.</translation>
+    </message>
+    <message>
+        <source>Replace it by an exchange document?</source>
+        <translation>Durch ein Austauschdokument ersetzen?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>E&amp;rsetzen</translation>
     </message>
 </context>
 <context>
@@ -1662,10 +1801,6 @@ Trotzdem löschen?</translation>
         <translation>Importierte Objekte: %1</translation>
     </message>
     <message>
-        <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is not a material class.</source>
-        <translation>Das Objekt „%1“ hat die Klasse „%2“, die keine Materialklasse ist.</translation>
-    </message>
-    <message>
         <source>The content of &quot;%1&quot; is kept, but no module can read it.</source>
         <translation>Der Inhalt von „%1“ bleibt erhalten, aber kein Modul kann ihn lesen.</translation>
     </message>
@@ -1720,6 +1855,46 @@ Trotzdem löschen?</translation>
         <source>The file contains only applied changes.</source>
         <translation>Die Datei enthält nur angewendete Änderungen.</translation>
     </message>
+    <message>
+        <source>The project &quot;%1&quot; is shown as &quot;%2&quot;.</source>
+        <translation>Das Projekt „%1“ wird als „%2“ angezeigt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an exchange document, not a project file. No module that imports such documents is loaded.</source>
+        <translation>„%1“ ist ein Austauschdokument, keine Projektdatei. Kein Modul ist geladen, das solche Dokumente importiert.</translation>
+    </message>
+    <message>
+        <source>If this program no longer runs, take over its lock. If it runs:</source>
+        <translation>Wenn dieses Programm nicht mehr läuft, übernehmen Sie seine Sperre. Wenn es läuft:</translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message>
+        <source>&quot;Save&quot; applies them first.</source>
+        <translation>&quot;Speichern&quot; übernimmt sie zuerst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an exchange document, not a project file.</source>
+        <translation>„%1“ ist ein Austauschdokument, keine Projektdatei.</translation>
+    </message>
+    <message>
+        <source>Import its content into a new project?</source>
+        <translation>Seinen Inhalt in ein neues Projekt importieren?</translation>
+    </message>
+    <message>
+        <source>Import its content into the project &quot;%1&quot;?</source>
+        <translation>Seinen Inhalt in das Projekt „%1“ importieren?</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>HOME is not the name of a folder.</source>
+        <translation>HOME ist nicht der Name eines Ordners.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::Sessions</name>
@@ -1734,12 +1909,32 @@ Trotzdem löschen?</translation>
         <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
         <translation>Die Änderungen von „%1“ in seinem Editor wurden nicht übernommen.</translation>
     </message>
+    <message>
+        <source>The changes of &quot;%1&quot; that were not applied are shown in its editor again.</source>
+        <translation>Die nicht übernommenen Änderungen von &quot;%1&quot; stehen wieder in seinem Editor.</translation>
+    </message>
+    <message>
+        <source>The changes of &quot;%1&quot; that were not applied cannot be shown again.</source>
+        <translation>Die nicht übernommenen Änderungen von &quot;%1&quot; können nicht wieder gezeigt werden.</translation>
+    </message>
 </context>
 <context>
     <name>kelta</name>
     <message>
         <source>No module was found in %1.</source>
         <translation>In %1 wurde kein Modul gefunden.</translation>
+    </message>
+    <message>
+        <source>HOME is not the name of a folder. The settings of this run are not stored.</source>
+        <translation>HOME ist nicht der Name eines Ordners. Die Einstellungen dieses Laufs werden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular file. The settings of this run are not stored.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei. Die Einstellungen dieses Laufs werden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; is damaged or cannot be read. Settings that cannot be read have their defaults.</source>
+        <translation>Die Einstellungsdatei „%1“ ist beschädigt oder nicht lesbar. Nicht lesbare Einstellungen haben ihre Vorgabewerte.</translation>
     </message>
 </context>
 <context>
@@ -2019,6 +2214,18 @@ Trotzdem löschen?</translation>
         <source>&quot;%1&quot; is missing</source>
         <translation>„%1“ fehlt</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is %2, but objects of this class belong in &quot;materials&quot;</source>
+        <translation>„%1“ ist %2, aber Objekte dieser Klasse gehören in „materials“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out; the label of the object is %2.</source>
+        <translation>„%1“ wird weggelassen; die Bezeichnung des Objekts ist %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which is in another group or contains this group.</source>
+        <translation>„%1“ ist %2, das in einer anderen Gruppe ist oder diese Gruppe enthält.</translation>
+    </message>
 </context>
 <context>
     <name>projectfile::ProjectStore</name>
@@ -2057,6 +2264,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1 (%2 on %3)</source>
         <translation>%1 (%2 auf %3)</translation>
+    </message>
+    <message>
+        <source>Its lock file &apos;%1&apos; is not a regular file. Remove it.</source>
+        <translation>Ihre Sperrdatei „%1“ ist keine gewöhnliche Datei. Entfernen Sie sie.</translation>
     </message>
 </context>
 <context>
@@ -2452,6 +2663,18 @@ Trotzdem löschen?</translation>
     <message>
         <source>A listener closed the project &quot;%1&quot; before the request was carried out.</source>
         <translation>Ein Empfänger hat das Projekt „%1“ geschlossen, bevor die Anforderung ausgeführt wurde.</translation>
+    </message>
+    <message>
+        <source>The name of a project must not be empty; nothing was changed.</source>
+        <translation>Der Name eines Projekts darf nicht leer sein; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Another open project has the name &quot;%1&quot;; nothing was changed.</source>
+        <translation>Ein anderes geöffnetes Projekt hat den Namen &quot;%1&quot;; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Rename &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; umbenennen</translation>
     </message>
 </context>
 <context>

@@ -123,6 +123,10 @@
         <source>The command &quot;%1&quot; failed</source>
         <translation>命令“%1”失败</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>Gui::CoreEditor</name>
@@ -184,6 +188,18 @@
         <source>Messages</source>
         <translation>消息</translation>
     </message>
+    <message>
+        <source>Double-click the message, or press Return, to go to the object.</source>
+        <translation>双击消息或按回车键可转到该对象。</translation>
+    </message>
+    <message>
+        <source>The object of a message cannot be shown</source>
+        <translation>无法显示消息所指的对象</translation>
+    </message>
+    <message>
+        <source>The object of this message has been deleted or closed.</source>
+        <translation>此消息所指的对象已被删除或关闭。</translation>
+    </message>
 </context>
 <context>
     <name>Gui::ObjectClipboard</name>
@@ -198,6 +214,10 @@
     <message>
         <source>An object cannot be pasted completely</source>
         <translation>无法完整粘贴一个对象</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 副本</translation>
     </message>
 </context>
 <context>
@@ -237,6 +257,10 @@ Suppressed</source>
     <message>
         <source>The module for &quot;%1&quot; is not loaded. Its data are saved unchanged, but cannot be edited.</source>
         <translation>“%1”所需的模块未加载。其数据将原样保存，但无法编辑。</translation>
+    </message>
+    <message>
+        <source>Not ready. Findings: %1</source>
+        <translation>未就绪。检查结果：%1</translation>
     </message>
 </context>
 <context>
@@ -449,6 +473,14 @@ Suppressed</source>
     <message>
         <source>The module &quot;%1&quot; was not loaded: %2</source>
         <translation>模块“%1”未加载：%2</translation>
+    </message>
+    <message>
+        <source>its library %1 is not a regular file</source>
+        <translation>其库 %1 不是普通文件</translation>
+    </message>
+    <message>
+        <source>its library %1 is incomplete</source>
+        <translation>其库 %1 不完整</translation>
     </message>
 </context>
 <context>
@@ -1209,10 +1241,6 @@ Do you want to continue?</source>
         <translation>添加每个所选对象的副本</translation>
     </message>
     <message>
-        <source>Give the selected object another label</source>
-        <translation>为所选对象更改标签</translation>
-    </message>
-    <message>
         <source>Select all objects of the project</source>
         <translation>选择项目的所有对象</translation>
     </message>
@@ -1273,6 +1301,18 @@ Delete anyway?</source>
     <message>
         <source>Show information about the program</source>
         <translation>显示程序信息</translation>
+    </message>
+    <message>
+        <source>Give the selected object or project another name</source>
+        <translation>为选定的对象或项目指定另一个名称</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>已撤消：%1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>已重做：%1</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1464,58 @@ Delete anyway?</source>
         <source>select exactly one object, and give no argument</source>
         <translation>请只选择一个对象，不带参数</translation>
     </message>
+    <message>
+        <source>Mat_Import reads no files; import an exchange document with Std_ImportDocument</source>
+        <translation>Mat_Import 不读取文件；请用 Std_ImportDocument 导入交换文档</translation>
+    </message>
+    <message>
+        <source>nothing is selected that %1 acts on</source>
+        <translation>没有选中 %1 可作用的对象</translation>
+    </message>
+    <message>
+        <source>one selected material project is needed</source>
+        <translation>需要选中一个材料项目</translation>
+    </message>
+    <message>
+        <source>the dialog &quot;%1&quot; needs a user</source>
+        <translation>对话框“%1”需要用户操作</translation>
+    </message>
+    <message>
+        <source>the program was not closed</source>
+        <translation>程序未关闭</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>the list is longer than 64 MiB</source>
+        <translation>该列表超过 64 MiB</translation>
+    </message>
+    <message>
+        <source>the list is not UTF-8</source>
+        <translation>该列表不是 UTF-8 编码</translation>
+    </message>
+    <message>
+        <source>the program has been closed by Std_Quit; no line may follow</source>
+        <translation>程序已由 Std_Quit 关闭；其后不得再有命令行</translation>
+    </message>
+    <message>
+        <source>the line contains a zero character</source>
+        <translation>该行包含空字符</translation>
+    </message>
+    <message>
+        <source>%1 needs one argument, the name of a file</source>
+        <translation>%1 需要一个参数，即文件名</translation>
+    </message>
+    <message>
+        <source>%1 did not use the argument &quot;%2&quot;</source>
+        <translation>%1 没有使用参数“%2”</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1</source>
+        <translation>无法写入标准输出：%1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::EditorWatch</name>
@@ -1434,6 +1526,14 @@ Delete anyway?</source>
     <message>
         <source>The changes in an editor cannot be recorded</source>
         <translation>无法记录编辑器中的更改</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied: no property has changed.</source>
+        <translation>“%1”已应用：没有属性发生变化。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
+        <translation>“%1”已应用。添加的属性：%2，更改：%3，移除：%4。</translation>
     </message>
 </context>
 <context>
@@ -1471,6 +1571,17 @@ Delete anyway?</source>
     <message>
         <source>Further findings are not listed: %1.</source>
         <translation>未列出的其他问题：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialCounts</name>
+    <message>
+        <source>The materials cannot be counted</source>
+        <translation>无法统计材料数量</translation>
+    </message>
+    <message>
+        <source>Materials: %1, selected: %2, not ready: %3</source>
+        <translation>材料：%1，选定：%2，未就绪：%3</translation>
     </message>
 </context>
 <context>
@@ -1549,6 +1660,34 @@ Delete anyway?</source>
     <message>
         <source>The export contains only applied changes.</source>
         <translation>导出内容只包含已应用的更改。</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Only one material project can be used at a time. Close &quot;%1&quot; and open &quot;%2&quot;?</source>
+        <translation>一次只能使用一个材料项目。关闭“%1”并打开“%2”？</translation>
+    </message>
+    <message>
+        <source>&amp;Close and open</source>
+        <translation>关闭并打开(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the file of the project &quot;%2&quot;, which is open.</source>
+        <translation>“%1”是已打开的项目“%2”的文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in use by %2.</source>
+        <translation>“%1”正被 %2 使用。</translation>
+    </message>
+    <message>
+        <source>Replace it by an exchange document?</source>
+        <translation>用交换文档替换它？</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -1662,10 +1801,6 @@ Delete anyway?</source>
         <translation>已导入对象：%1</translation>
     </message>
     <message>
-        <source>The object &quot;%1&quot; is of the class &quot;%2&quot;, which is not a material class.</source>
-        <translation>对象“%1”属于类“%2”，它不是材料类。</translation>
-    </message>
-    <message>
         <source>The content of &quot;%1&quot; is kept, but no module can read it.</source>
         <translation>“%1”的内容已保留，但没有模块可以读取。</translation>
     </message>
@@ -1719,6 +1854,46 @@ Delete anyway?</source>
         <source>The file contains only applied changes.</source>
         <translation>文件只包含已应用的更改。</translation>
     </message>
+    <message>
+        <source>The project &quot;%1&quot; is shown as &quot;%2&quot;.</source>
+        <translation>项目“%1”显示为“%2”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an exchange document, not a project file. No module that imports such documents is loaded.</source>
+        <translation>“%1”是交换文档，不是项目文件。没有加载可导入此类文档的模块。</translation>
+    </message>
+    <message>
+        <source>If this program no longer runs, take over its lock. If it runs:</source>
+        <translation>如果该程序已不再运行，请接管其锁。如果它仍在运行：</translation>
+    </message>
+    <message>
+        <source>&amp;Take over</source>
+        <translation>接管(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&quot;Save&quot; applies them first.</source>
+        <translation>“保存”会先应用这些更改。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an exchange document, not a project file.</source>
+        <translation>“%1”是交换文档，不是项目文件。</translation>
+    </message>
+    <message>
+        <source>Import its content into a new project?</source>
+        <translation>将其内容导入新项目？</translation>
+    </message>
+    <message>
+        <source>Import its content into the project &quot;%1&quot;?</source>
+        <translation>将其内容导入项目“%1”？</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>HOME is not the name of a folder.</source>
+        <translation>HOME 不是文件夹的名称。</translation>
+    </message>
 </context>
 <context>
     <name>desktop::Sessions</name>
@@ -1733,12 +1908,32 @@ Delete anyway?</source>
         <source>The changes of &quot;%1&quot; in its editor have not been applied.</source>
         <translation>编辑器中对“%1”的更改尚未应用。</translation>
     </message>
+    <message>
+        <source>The changes of &quot;%1&quot; that were not applied are shown in its editor again.</source>
+        <translation>“%1”未应用的更改已重新显示在其编辑器中。</translation>
+    </message>
+    <message>
+        <source>The changes of &quot;%1&quot; that were not applied cannot be shown again.</source>
+        <translation>“%1”未应用的更改无法重新显示。</translation>
+    </message>
 </context>
 <context>
     <name>kelta</name>
     <message>
         <source>No module was found in %1.</source>
         <translation>在 %1 中未找到模块。</translation>
+    </message>
+    <message>
+        <source>HOME is not the name of a folder. The settings of this run are not stored.</source>
+        <translation>HOME 不是文件夹的名称。本次运行的设置不会保存。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a regular file. The settings of this run are not stored.</source>
+        <translation>“%1”不是普通文件。本次运行的设置不会保存。</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; is damaged or cannot be read. Settings that cannot be read have their defaults.</source>
+        <translation>设置文件“%1”已损坏或无法读取。无法读取的设置使用默认值。</translation>
     </message>
 </context>
 <context>
@@ -2018,6 +2213,18 @@ Delete anyway?</source>
         <source>&quot;%1&quot; is missing</source>
         <translation>缺少“%1”</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is %2, but objects of this class belong in &quot;materials&quot;</source>
+        <translation>“%1”是 %2，但此类对象应位于“materials”中</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is left out; the label of the object is %2.</source>
+        <translation>“%1”被忽略；该对象的标签是 %2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which is in another group or contains this group.</source>
+        <translation>“%1”是 %2，它已在另一个组中，或包含此组。</translation>
+    </message>
 </context>
 <context>
     <name>projectfile::ProjectStore</name>
@@ -2056,6 +2263,10 @@ Delete anyway?</source>
     <message>
         <source>%1 (%2 on %3)</source>
         <translation>%1（%3 上的 %2）</translation>
+    </message>
+    <message>
+        <source>Its lock file &apos;%1&apos; is not a regular file. Remove it.</source>
+        <translation>其锁文件“%1”不是普通文件。请将其删除。</translation>
     </message>
 </context>
 <context>
@@ -2451,6 +2662,18 @@ Delete anyway?</source>
     <message>
         <source>A listener closed the project &quot;%1&quot; before the request was carried out.</source>
         <translation>在执行请求之前，监听器已关闭项目“%1”。</translation>
+    </message>
+    <message>
+        <source>The name of a project must not be empty; nothing was changed.</source>
+        <translation>项目名称不能为空；未做任何更改。</translation>
+    </message>
+    <message>
+        <source>Another open project has the name &quot;%1&quot;; nothing was changed.</source>
+        <translation>另一个打开的项目已使用名称“%1”；未做任何更改。</translation>
+    </message>
+    <message>
+        <source>Rename &quot;%1&quot;</source>
+        <translation>重命名“%1”</translation>
     </message>
 </context>
 <context>

@@ -282,7 +282,7 @@ TEST_F(EndToEnd, AUserWhoseDesktopDiesFindsACopyTheNextTime)
                                vxtest::cleanEnvironment(home.path()))
                   .status,
               0);
-    start("^kelta$", {"beams.vxmat"});
+    start("^beams.vxmat - kelta$", {"beams.vxmat"});
     ASSERT_TRUE(doubleClickMaterial("^Material - beams.vxmat\\*? - kelta$"));
     // Applying another library material writes a copy at once.
     ASSERT_TRUE(display.focus("^Material - beams.vxmat\\*? - kelta$"));

@@ -241,7 +241,7 @@ TEST(ExchangeImport, ReportsMissingMembers)
         imported.doubts,
         ElementsAre(HasSubstr("the document has no name for it"),
                     HasSubstr("property 5 \"Young's modulus\": the document has no number for it, which is read"),
-                    HasSubstr("property 0 \"x\": the catalogue does not know it")));
+                    HasSubstr("property 0 \"x\": it is not in the catalogue")));
     EXPECT_THAT(importExchange((R"({"proj_type": 2})")).doubts, ElementsAre("the document holds no materials"));
 }
 

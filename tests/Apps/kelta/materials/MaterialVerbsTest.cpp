@@ -96,7 +96,7 @@ TEST_F(Verbs, FailToExportOneOfTwoProjects)
 {
     selectedSteel();
     newProject("Second");
-    EXPECT_THAT(run("Mat_Export", {path("a.json")}), HasSubstr("Only a single one can be exported."));
+    EXPECT_THAT(run("Mat_Export", {path("a.json")}), HasSubstr("Only one project can be exported."));
     EXPECT_FALSE(QFile::exists(path("a.json")));
 }
 

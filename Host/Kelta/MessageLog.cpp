@@ -14,24 +14,26 @@ MessageLog& MessageLog::instance()
 
 void MessageLog::report(LogMessage::Severity severity, const QString& text)
 {
-    add(severity, text);
+    // A separate message: a listener may report too, or clear the log.
+    const LogMessage message{severity, text, QDateTime::currentDateTime()};
+    add(message);
     try {
-        // Sends a separate message: a listener may report too, or clear the log.
-        Q_EMIT reported({severity, text});
+        Q_EMIT reported(message);
     } catch (...) {
         // Listeners do not receive this message, since one of them fails.
-        add(LogMessage::Severity::Error,
-            QCoreApplication::translate("Kelta", "A listener of the message log failed: %1")
-                .arg(currentExceptionText()));
+        add({LogMessage::Severity::Error,
+             QCoreApplication::translate("Kelta", "A listener of the message log failed: %1")
+                 .arg(currentExceptionText()),
+             message.time});
     }
 }
 
-void MessageLog::add(LogMessage::Severity severity, const QString& text)
+void MessageLog::add(const LogMessage& message)
 {
     if (m_messages.size() == capacity)
         m_messages.pop_front();
-    m_messages.push_back({severity, text});
-    if (severity == LogMessage::Severity::Error)
+    m_messages.push_back(message);
+    if (message.severity == LogMessage::Severity::Error)
         ++m_errorCount;
 }
 

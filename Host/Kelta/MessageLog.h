@@ -2,6 +2,7 @@
 
 #include "Kelta/KeltaExport.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 
@@ -20,6 +21,7 @@ struct LogMessage
     };
     Severity severity;
     QString text;
+    QDateTime time = {}; ///< when the message was reported
 };
 
 /// The messages of the program that need no reply. The log window shows them; a program without windows
@@ -53,7 +55,7 @@ Q_SIGNALS:
     void reported(const Kelta::LogMessage& message);
 
 private:
-    void add(LogMessage::Severity severity, const QString& text);
+    void add(const LogMessage& message);
 
     std::deque<LogMessage> m_messages;
     std::size_t m_errorCount = 0;

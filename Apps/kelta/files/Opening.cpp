@@ -46,8 +46,26 @@ Obj::Project* requestProject(const projectfile::ProjectRecord& record, const std
 
 bool Opening::open(const QString& path)
 {
+    return openOrComplain(path, [&] { return openFile(canonicalPath(path)); });
+}
+
+bool Opening::openCopy(const QString& path)
+{
+    return openOrComplain(path, [&] {
+        const BusyCursor busy;
+        projectfile::ProjectRecord record = projectfile::readProject(projectfile::readFile(path));
+        Obj::Project* const project = makeProject(record, path);
+        if (project != nullptr)
+            m_sessions.noteOpened(*project);
+        m_mainWindow.updateCommands();
+        return project != nullptr;
+    });
+}
+
+bool Opening::openOrComplain(const QString& path, const std::function<bool()>& action)
+{
     try {
-        return openFile(canonicalPath(path));
+        return action();
     } catch (const projectfile::StoreError& error) {
         if (!QFileInfo::exists(path))
             RecentFiles::remove(path);

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,9 @@ public:
     /// and returns false.
     bool open(const QString& path);
 
+    /// Makes a project from a file, as open does, without a connection to the file: Save asks for another file.
+    bool openCopy(const QString& path);
+
     /// Makes a project from a record and selects it. Writes doubts about the record to the message log, with the name
     /// of the file `source`. Returns null, with the reason in the message log, if the project cannot be made.
     /// \throws std::exception if the content is wrong; no project is added
@@ -47,6 +51,7 @@ public:
 
 private:
     bool openFile(const QString& path);
+    bool openOrComplain(const QString& path, const std::function<bool()>& action);
     void rememberText(Obj::Project& project, Session& session) const;
 
     Gui::MainWindow& m_mainWindow;

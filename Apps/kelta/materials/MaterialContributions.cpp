@@ -11,6 +11,10 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 
+#include <QKeySequence>
+
+#include <utility>
+
 namespace desktop {
 
 namespace {
@@ -37,6 +41,19 @@ void addMaterialCommands(Gui::CommandController& commands)
         {{"Mat_Check", QT_TRANSLATE_NOOP("MaterialCommand", "&Check materials"),
           QT_TRANSLATE_NOOP("MaterialCommand", "Check whether all materials of the project are ready"), "", Qt::Key_F7,
           Gui::CommandType::none, checkMaterials, [] { return currentMaterialProject() != nullptr; }}});
+}
+
+/// The keys of commands of the materials module, which has none for them.
+void addKeys(Gui::CommandController& commands)
+{
+    constexpr std::pair<const char*, int> keys[] = {
+        {"Mat_NewDoc", Qt::CTRL + Qt::Key_N},
+        {"Mat_AddMaterial", Qt::CTRL + Qt::Key_M},
+        {"Mat_Export", Qt::CTRL + Qt::Key_E},
+    };
+    for (const auto& [name, key] : keys)
+        if (Gui::Command* const command = commands.findCommand(name))
+            command->setShortcut(QKeySequence(key));
 }
 
 void addToBars(Gui::Contributions& contributions)
@@ -86,6 +103,7 @@ void addWelcome(Gui::Contributions& contributions)
 void registerMaterialContributions(Gui::GuiApplication& application)
 {
     addMaterialCommands(application.get_command_manager());
+    addKeys(application.get_command_manager());
     Gui::Contributions& contributions = application.contributions();
     addToBars(contributions);
     addWelcome(contributions);

@@ -2,8 +2,10 @@
 
 #include "FileCommands.h"
 #include "FileDrops.h"
+#include "Help.h"
 #include "ProjectFiles.h"
 
+#include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
@@ -22,7 +24,10 @@ namespace desktop {
 void startFiles(Gui::MainWindow& window)
 {
     auto files = std::make_unique<ProjectFiles>(window);
-    addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    Gui::GuiApplication& application = *Gui::GuiApplication::Instance;
+    addFileCommands(application.get_command_manager(), *files);
+    listRecentFilesOnWelcomePage(application.contributions(), *files);
+    addHelp(application, *files);
     window.setAcceptDrops(true);
     window.installEventFilter(new FileDrops(*files, window)); // the window owns it
     FileService::setInstance(std::move(files));

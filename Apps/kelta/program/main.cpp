@@ -3,7 +3,9 @@
 #include "Gui/GuiApplication.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
+#include "Gui/PictureFactory.h"
 #include "Gui/Translator.h"
+#include "Gui/WindowTitle.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "kelta/Batch.h"
@@ -108,10 +110,10 @@ void updateTitle(Gui::MainWindow& window)
 {
     QStringList parts;
     if (const Gui::MDIWindow* const document = window.get_active_mdi_window())
-        parts << document->windowTitle().remove(QStringLiteral("[*]"));
+        parts << Gui::escapedForTitle(Gui::shownTitle(document->windowTitle()));
     const Obj::Project* const project = Obj::Application::get_current_project();
     if (project != nullptr)
-        parts << nameOf(*project) + QStringLiteral("[*]");
+        parts << Gui::markedTitle(nameOf(*project));
     parts << QCoreApplication::applicationName();
     window.setWindowTitle(parts.join(QStringLiteral(" - ")));
     window.setWindowModified(project != nullptr && desktop::FileService::instance()->isModified(*project));
@@ -162,8 +164,12 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     QCoreApplication::setApplicationName(QStringLiteral("kelta"));
     QCoreApplication::setOrganizationName(QStringLiteral("vxMaterial"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("kelta"));
+    QGuiApplication::setWindowIcon(Gui::PictureFactory::getIcon(QStringLiteral("kelta")));
     if (!options.language.empty())
         Gui::Translator::instance()->setLanguage(QString::fromStdString(options.language));
+    else if (!runsAlone(options))
+        Gui::Translator::instance()->restoreLanguage();
     // A program without a user does not change the user's settings.
     const QTemporaryDir settings;
     if (runsAlone(options)) {
@@ -182,6 +188,9 @@ int runWithWindows(int& argc, char** argv, const Options& options)
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
             window.restoreLayout();
+        else
+            // A picture does not depend on the screen.
+            window.resize(Gui::MainWindow::usualSize);
         // The reason is in the message log, which the user may have hidden.
         if (!loaded)
             window.showMessages();

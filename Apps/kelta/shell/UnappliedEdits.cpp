@@ -3,6 +3,7 @@
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
+#include "Gui/WindowTitle.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -29,7 +30,7 @@ enum class Choice
 /// Asks about one window.
 Choice ask(Gui::MainWindow& mainWindow, const Gui::MDIWindow& window, const UnappliedQuestion& question)
 {
-    const QString name = window.windowTitle().remove(QStringLiteral("[*]"));
+    const QString name = Gui::shownTitle(window.windowTitle());
     QMessageBox box(QMessageBox::Question, question.title,
                     QCoreApplication::translate("desktop::UnappliedEdits",
                                                 "The changes of \"%1\" in its editor have not been applied.")

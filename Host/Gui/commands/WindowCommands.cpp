@@ -131,7 +131,7 @@ std::vector<CommandRow> paneRows()
 void listLanguages(QMenu& menu)
 {
     auto* const group = new QActionGroup(&menu);
-    const QString chosen = Translator::instance()->chosenLanguage();
+    const QString chosen = Translator::chosenLanguage();
     const auto add = [&](const QString& title, const QString& language) {
         QAction* const action = group->addAction(title);
         action->setCheckable(true);

@@ -119,6 +119,16 @@ function(vx_install_host_library target)
             DESTINATION ${folder}/${include_path} FILES_MATCHING PATTERN "*Export.h")
 endfunction()
 
+# vx_share(<folder> <file>...): installs files that the programs read, below the folder of shared data, and puts them at
+# the same place beside the programs of the build tree.
+function(vx_share folder)
+    foreach(file IN LISTS ARGN)
+        cmake_path(GET file FILENAME name)
+        configure_file(${file} ${CMAKE_BINARY_DIR}/share/${folder}/${name} COPYONLY)
+    endforeach()
+    install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_DATADIR}/${folder})
+endfunction()
+
 # vx_add_test(<name> [GUI] [ALONE] [ISOLATED]     ALONE: no other test runs at the same time
 #     SOURCES <file>... LINKS <target>... DEFINITIONS <definition>...)
 # Adds a GoogleTest program. Each of its suites is one CTest test. With ISOLATED, each of its tests is one CTest test

@@ -15,7 +15,7 @@ MessageLog& MessageLog::instance()
 void MessageLog::report(LogMessage::Severity severity, const QString& text, const LogLink& link)
 {
     // A separate message: a listener may report too, or clear the log.
-    const LogMessage message{severity, text, link};
+    const LogMessage message{severity, text, link, QDateTime::currentDateTime()};
     add(message);
     try {
         Q_EMIT reported(message);
@@ -23,7 +23,9 @@ void MessageLog::report(LogMessage::Severity severity, const QString& text, cons
         // Listeners do not receive this message, since one of them fails.
         add({LogMessage::Severity::Error,
              QCoreApplication::translate("Kelta", "A listener of the message log failed: %1")
-                 .arg(currentExceptionText())});
+                 .arg(currentExceptionText()),
+             {},
+             message.time});
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "Kelta/KeltaExport.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
 
@@ -32,6 +33,7 @@ struct LogMessage
     Severity severity;
     QString text;
     LogLink link = {};
+    QDateTime time = {}; ///< when the message was reported
 };
 
 /// The messages of the program that need no reply. The log window shows them; a program without windows

@@ -5,6 +5,7 @@
 
 #include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
+#include "Obj/ReadableName.h"
 
 #include <QCoreApplication>
 
@@ -69,7 +70,7 @@ Obj::Property* findSettable(const PropertyPlace& place, const std::string& name,
     if (property == nullptr)
         report(tr("There is no property \"%1\"; nothing was changed.").arg(shown(name)));
     else if (owner->is_read_only(property))
-        report(tr("The property \"%1\" is read-only; nothing was changed.").arg(shown(name)));
+        report(tr("The property \"%1\" is read-only; nothing was changed.").arg(Obj::readableName(name.c_str())));
     else if (isBlankLabel(*owner, *property, text))
         report(tr("The label must not be empty; nothing was changed."));
     else
@@ -81,10 +82,10 @@ Obj::Property* findSettable(const PropertyPlace& place, const std::string& name,
 bool setText(Obj::Property& property, const std::string& name, const std::string& text)
 {
     bool isRead = true;
-    Kelta::guarded(tr("An object failed when its property \"%1\" was changed").arg(shown(name)),
+    Kelta::guarded(tr("An object failed when its property \"%1\" was changed").arg(Obj::readableName(name.c_str())),
                    [&] { isRead = property.fromText(text); });
-    return isRead ||
-           report(tr(R"(The property "%1" cannot be "%2"; nothing was changed.)").arg(shown(name), shown(text)));
+    return isRead || report(tr(R"(The property "%1" cannot be "%2"; nothing was changed.)")
+                                .arg(Obj::readableName(name.c_str()), shown(text)));
 }
 
 } // namespace
@@ -255,7 +256,7 @@ bool MessageProxy::setProperty(const PropertyPlace& place, const std::string& pr
     if (property->toText() == text)
         return true;
     bool isRead = false;
-    const QString stepText = tr("Change \"%1\"").arg(shown(propertyName));
+    const QString stepText = tr("Change \"%1\"").arg(Obj::readableName(propertyName.c_str()));
     carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
         Json::Value before = property->toJson();
         isRead = setText(*property, propertyName, text);

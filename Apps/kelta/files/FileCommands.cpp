@@ -5,6 +5,7 @@
 
 #include "Gui/CommandController.h"
 #include "Gui/CommandTable.h"
+#include "Gui/Contributions.h"
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
 #include "Obj/Application.h"
@@ -12,6 +13,9 @@
 #include "kelta/UnappliedEdits.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QGuiApplication>
 #include <QMenu>
 
 #include <cstdint>
@@ -80,6 +84,21 @@ void listRecentFiles(ProjectFiles& files, QMenu& menu)
     }
 }
 
+/// Returns the latest files, with their folders.
+std::vector<Gui::WelcomeLink> recentLinks(ProjectFiles& files)
+{
+    constexpr int most = 5;
+    std::vector<Gui::WelcomeLink> links;
+    for (const QString& path : RecentFiles::list().mid(0, most)) {
+        const QFileInfo file(path);
+        const QString folder = QFontMetrics(QGuiApplication::font())
+                                   .elidedText(QDir::toNativeSeparators(file.path()), Qt::ElideMiddle, 300);
+        links.push_back({QStringLiteral("%1  (%2)").arg(file.fileName(), folder), QDir::toNativeSeparators(path),
+                         [&files, path] { files.open(path); }});
+    }
+    return links;
+}
+
 /// Asks about edits that are not applied before the command hands the current project over.
 void guardHandOver(const std::function<void()>& run)
 {
@@ -107,8 +126,8 @@ std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
          QT_TRANSLATE_NOOP("FileCommand", "Save the project in its file"), "kelta_save", QKeySequence::Save, none,
          [&files] { files.save(*Obj::Application::get_current_project()); }, hasProject},
         {"Std_SaveAs", QT_TRANSLATE_NOOP("FileCommand", "Save &as..."),
-         QT_TRANSLATE_NOOP("FileCommand", "Save the project in another file"), "", QKeySequence::SaveAs, none,
-         [&files] { files.saveAs(*Obj::Application::get_current_project()); }, hasProject},
+         QT_TRANSLATE_NOOP("FileCommand", "Save the project in another file"), "", Qt::CTRL + Qt::SHIFT + Qt::Key_S,
+         none, [&files] { files.saveAs(*Obj::Application::get_current_project()); }, hasProject},
         {"Std_ImportDocument",
          QT_TRANSLATE_NOOP("FileCommand", "I&mport exchange document..."),
          QT_TRANSLATE_NOOP("FileCommand", "Add the content of an exchange document to the project"),
@@ -136,6 +155,13 @@ void addFileCommands(Gui::CommandController& commands, ProjectFiles& files)
 {
     Gui::addCommands(commands, context, makeRows(files));
     commands.addGuard("Std_Collect", guardHandOver);
+}
+
+void listRecentFilesOnWelcomePage(Gui::Contributions& contributions, ProjectFiles& files)
+{
+    contributions.addWelcomeList({Gui::WelcomeStep::NoProject,
+                                  {context, QT_TRANSLATE_NOOP("FileCommand", "Recent projects")},
+                                  [&files] { return recentLinks(files); }});
 }
 
 } // namespace desktop

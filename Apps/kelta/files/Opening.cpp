@@ -62,8 +62,25 @@ std::optional<projectfile::ProjectRecord> readRecord(const QString& path, projec
 
 bool Opening::open(const QString& path)
 {
+    return openOrComplain(path, [&] { return openFile(canonicalPath(path)); });
+}
+
+bool Opening::openCopy(const QString& path)
+{
+    return openOrComplain(path, [&] {
+        projectfile::ProjectRecord record = projectfile::readProject(projectfile::readFile(path));
+        if (!mayOpen(record, path))
+            return false;
+        m_sessions.noteOpened(openProject(record, path));
+        m_mainWindow.updateCommands();
+        return true;
+    });
+}
+
+bool Opening::openOrComplain(const QString& path, const std::function<bool()>& action)
+{
     try {
-        return openFile(canonicalPath(path));
+        return action();
     } catch (const projectfile::StoreError& error) {
         if (!QFileInfo::exists(path))
             RecentFiles::remove(path);

@@ -43,6 +43,9 @@ public:
     /// fails, tells the user the reason, adds no project and returns false.
     bool open(const QString& path);
 
+    /// Makes a project from a file, as open does, without a connection to the file: Save asks for another file.
+    bool openCopy(const QString& path);
+
     /// Asks the guard of the class of a record, if there is one, whether a project may be opened from a file.
     static bool mayOpen(const projectfile::ProjectRecord& record, const QString& path);
 
@@ -57,6 +60,7 @@ public:
 private:
     bool openFile(const QString& path);
     Obj::Project& openProject(projectfile::ProjectRecord& record, const QString& path);
+    bool openOrComplain(const QString& path, const std::function<bool()>& action);
     void rememberText(Obj::Project& project, Session& session) const;
 
     Gui::MainWindow& m_mainWindow;

@@ -62,6 +62,11 @@ bool ProjectFiles::open(const QString& path)
     return m_opening.open(path);
 }
 
+bool ProjectFiles::openCopy(const QString& path)
+{
+    return m_opening.openCopy(path);
+}
+
 bool ProjectFiles::save(Obj::Project& project)
 {
     return m_saving.save(project);

@@ -39,6 +39,9 @@ public:
     bool isModified(const Obj::Project& project) const override;
     void contentChanged(Obj::ProjectObject& object) override;
 
+    /// Makes a project from a file that must stay as it is, such as an example. The project has no file. Returns false,
+    /// and tells the user the reason, if that fails.
+    bool openCopy(const QString& path);
     /// Saves a project in its file; asks the user for a file if it has none. Returns false if the user cancels, or if
     /// the project cannot be saved.
     bool save(Obj::Project& project);

@@ -3,6 +3,7 @@
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
+#include "Gui/WindowTitle.h"
 #include "Obj/Application.h"
 #include "kelta/FileService.h"
 
@@ -37,10 +38,10 @@ void updateTitle(Gui::MainWindow& window)
 {
     QStringList parts;
     if (const Gui::MDIWindow* const document = window.get_active_mdi_window())
-        parts << document->windowTitle().remove(QStringLiteral("[*]"));
+        parts << Gui::escapedForTitle(Gui::shownTitle(document->windowTitle()));
     const Obj::Project* const project = Obj::Application::get_current_project();
     if (project != nullptr)
-        parts << nameOf(*project) + QStringLiteral("[*]");
+        parts << Gui::markedTitle(nameOf(*project));
     parts << QCoreApplication::applicationName();
     window.setWindowTitle(parts.join(QStringLiteral(" - ")));
     window.setWindowModified(project != nullptr &&

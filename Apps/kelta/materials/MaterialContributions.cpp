@@ -12,6 +12,10 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
+#include <QKeySequence>
+
+#include <utility>
+
 namespace desktop {
 
 namespace {
@@ -38,6 +42,19 @@ void addMaterialCommands(Gui::CommandController& commands)
         {{"Mat_Check", QT_TRANSLATE_NOOP("MaterialCommand", "&Check materials"),
           QT_TRANSLATE_NOOP("MaterialCommand", "Check whether all materials of the project are ready"), "", Qt::Key_F7,
           Gui::CommandType::none, checkMaterials, [] { return currentMaterialProject() != nullptr; }}});
+}
+
+/// The keys of commands of the materials module, which has none for them.
+void addKeys(Gui::CommandController& commands)
+{
+    constexpr std::pair<const char*, int> keys[] = {
+        {"Mat_NewDoc", Qt::CTRL + Qt::Key_N},
+        {"Mat_AddMaterial", Qt::CTRL + Qt::Key_M},
+        {"Mat_Export", Qt::CTRL + Qt::Key_E},
+    };
+    for (const auto& [name, key] : keys)
+        if (Gui::Command* const command = commands.findCommand(name))
+            command->setShortcut(QKeySequence(key));
 }
 
 void addToBars(Gui::Contributions& contributions)
@@ -94,6 +111,7 @@ void registerMaterialContributions(Gui::GuiApplication& application)
     Gui::registerObjectJudge("Mat::MaterialObject", [](const Obj::ProjectObject& object) {
         return judgeMaterial(static_cast<const Mat::MaterialObject&>(object));
     });
+    addKeys(application.get_command_manager());
     Gui::Contributions& contributions = application.contributions();
     addToBars(contributions);
     addWelcome(contributions);

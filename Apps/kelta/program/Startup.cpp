@@ -2,8 +2,10 @@
 
 #include "FileCommands.h"
 #include "FileDrops.h"
+#include "Help.h"
 #include "ProjectFiles.h"
 
+#include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
@@ -23,7 +25,10 @@ void startFiles(Gui::MainWindow& window, RecoveryCopies copies)
 {
     auto files = std::make_unique<ProjectFiles>(window, copies == RecoveryCopies::Keep ? ProjectFiles::Copies::Keep
                                                                                        : ProjectFiles::Copies::None);
-    addFileCommands(Gui::GuiApplication::Instance->get_command_manager(), *files);
+    Gui::GuiApplication& application = *Gui::GuiApplication::Instance;
+    addFileCommands(application.get_command_manager(), *files);
+    listRecentFilesOnWelcomePage(application.contributions(), *files);
+    addHelp(application, *files);
     window.setAcceptDrops(true);
     window.installEventFilter(new FileDrops(*files, window)); // the window owns it
     FileService::setInstance(std::move(files));

@@ -4,6 +4,7 @@
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
+#include "Gui/PictureFactory.h"
 #include "Gui/Translator.h"
 #include "Kelta/MessageLog.h"
 #include "kelta/Batch.h"
@@ -157,6 +158,8 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     QCoreApplication::setApplicationName(QStringLiteral("kelta"));
     QCoreApplication::setOrganizationName(QStringLiteral("vxMaterial"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KELTA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("kelta"));
+    QGuiApplication::setWindowIcon(Gui::PictureFactory::getIcon(QStringLiteral("kelta")));
     if (!options.language.empty())
         Gui::Translator::instance()->setLanguage(QString::fromStdString(options.language));
     std::optional<QTemporaryDir> settings;
@@ -168,6 +171,8 @@ int runWithWindows(int& argc, char** argv, const Options& options)
         echoMessages();
     } else {
         doubt = desktop::chooseUserSettings();
+        if (options.language.empty())
+            Gui::Translator::instance()->restoreLanguage();
     }
 
     int status = 0;
@@ -181,6 +186,9 @@ int runWithWindows(int& argc, char** argv, const Options& options)
                          [&window](bool& refused) { askBeforeClosing(window, refused); });
         if (!runsAlone(options))
             window.restoreLayout();
+        else
+            // A picture does not depend on the screen.
+            window.resize(Gui::MainWindow::usualSize);
         // The reason is in the message log, which the user may have hidden.
         if (!loaded)
             window.showMessages();

@@ -5,6 +5,7 @@
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Gui/ViewFeeder.h"
+#include "Gui/WindowTitle.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Project.h"
 
@@ -34,7 +35,7 @@ enum class Choice
 /// Asks about one window.
 Choice ask(Gui::MainWindow& mainWindow, const Gui::MDIWindow& window, const UnappliedQuestion& question)
 {
-    const QString name = window.windowTitle().remove(QStringLiteral("[*]"));
+    const QString name = Gui::shownTitle(window.windowTitle());
     QMessageBox box(QMessageBox::Question, question.title,
                     QCoreApplication::translate("desktop::UnappliedEdits",
                                                 "The changes of \"%1\" in its editor have not been applied.")

@@ -2,7 +2,35 @@
 
 #include "Gui/PictureFactory.h"
 
+#include <QPainter>
+#include <QStyleOption>
+
 namespace Gui {
+
+namespace {
+
+/// Draws a cross, on a grey ground while the mouse is over it.
+void drawTabClose(const QStyleOption& option, QPainter& painter)
+{
+    const QColor text = option.palette.color(QPalette::Active, QPalette::WindowText);
+    const QRectF button = QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if ((option.state & (QStyle::State_Raised | QStyle::State_Sunken | QStyle::State_MouseOver)) != 0) {
+        QColor ground = text;
+        ground.setAlphaF((option.state & QStyle::State_Sunken) != 0 ? 0.35 : 0.2);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(button, 2.0, 2.0);
+    }
+    const QRectF cross = button.adjusted(3.0, 3.0, -3.0, -3.0);
+    painter.setPen(QPen(text, 1.6, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
+    painter.restore();
+}
+
+} // namespace
 
 HostStyle::HostStyle() = default;
 
@@ -18,6 +46,15 @@ QIcon HostStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* o
     default:
         return QProxyStyle::standardIcon(standardIcon, option, widget);
     }
+}
+
+void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    if (element == PE_IndicatorTabClose && option != nullptr && painter != nullptr)
+        drawTabClose(*option, *painter);
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 } // namespace Gui

@@ -5,8 +5,9 @@
 
 namespace Gui {
 
-/// The style of the platform, with the host's own icons for the buttons that toolbars show if the window is too narrow.
-/// The platform would read its icons from files when a toolbar is made, and the start would be 6 % longer (gui_bench).
+/// The style of the platform, with own icons for the buttons that toolbars show if the window is too narrow. The
+/// platform reads its icons from files when a toolbar is made, which makes the start 6 % longer (gui_bench). The close
+/// buttons of tabs have the colour of the text, because the dark picture of the platform is not visible on dark tabs.
 class HostStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -16,6 +17,8 @@ public:
     ~HostStyle() override;
 
     QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option = nullptr,
+                       const QWidget* widget = nullptr) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
 };
 

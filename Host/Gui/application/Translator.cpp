@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QRegularExpression>
+#include <QSettings>
 
 #include <algorithm>
 #include <iterator>
@@ -16,6 +18,8 @@
 namespace Gui {
 
 namespace {
+
+constexpr const char* settingsKey = "language";
 
 /// Returns the endings of file names that can serve a language, the best first: "zh_CN", then "zh".
 QStringList endingsFor(const QString& language)
@@ -89,6 +93,43 @@ void Translator::setLanguage(const QString& language)
 {
     m_language = language;
     refresh();
+}
+
+QStringList Translator::languages() const
+{
+    QStringList languages{QStringLiteral("en")};
+    const QRegularExpression ending(QStringLiteral("_([a-z]{2,3}(_[A-Z]{2})?)\\.qm$"));
+    for (const QString& folder : m_folders)
+        for (const QString& name : QDir(folder).entryList(QDir::Files))
+            if (const auto match = ending.match(name); match.hasMatch())
+                languages << match.captured(1);
+    languages.sort();
+    languages.removeDuplicates();
+    return languages;
+}
+
+QString Translator::nameOf(const QString& language)
+{
+    // The name of QLocale for English is that of a variant, "American English".
+    const QLocale locale(language);
+    return locale.language() == QLocale::English ? QStringLiteral("English") : locale.nativeLanguageName();
+}
+
+void Translator::chooseLanguage(const QString& language)
+{
+    QSettings().setValue(QLatin1String(settingsKey), language);
+    restoreLanguage();
+}
+
+QString Translator::chosenLanguage()
+{
+    return QSettings().value(QLatin1String(settingsKey)).toString();
+}
+
+void Translator::restoreLanguage()
+{
+    const QString chosen = chosenLanguage();
+    setLanguage(chosen.isEmpty() ? QLocale::system().name() : chosen);
 }
 
 void Translator::addFolder(const QString& folder)

@@ -27,6 +27,19 @@ public:
     const QString& language() const { return m_language; }
     void setLanguage(const QString& language);
 
+    /// Returns the languages of the program: English, and the languages of the translations in the folders, sorted.
+    QStringList languages() const;
+    /// Returns the name of a language in the language itself: "Deutsch".
+    static QString nameOf(const QString& language);
+
+    /// Sets the language, and stores it in the settings for the next start; an empty text for the language of the
+    /// system.
+    void chooseLanguage(const QString& language);
+    /// Returns the language that the user has chosen; an empty text for the language of the system.
+    static QString chosenLanguage();
+    /// Sets the language that the user has chosen.
+    void restoreLanguage();
+
     /// The folders with translations. The initial folder is beside the program, in a build tree and in an installation.
     const QStringList& folders() const { return m_folders; }
     void addFolder(const QString& folder);

@@ -8,6 +8,7 @@
 #include "Obj/Placeholder.h"
 #include "Obj/ProjectObjectGroup.h"
 #include "Obj/PropertyRecords.h"
+#include "Obj/ReadableName.h"
 #include "clipboard/ObjectDescription.h"
 
 #include <QCoreApplication>
@@ -65,7 +66,7 @@ void warnOfProperties(const Obj::ProjectObject& object, const std::vector<std::s
         return;
     QStringList list;
     for (const std::string& name : names)
-        list << QString::fromStdString(name);
+        list << Obj::readableName(name.c_str());
     Kelta::MessageLog::warning(
         tr("These properties of \"%1\" could not be pasted: %2.")
             .arg(QString::fromStdString(object.label.getValue()), list.join(QStringLiteral(", "))));

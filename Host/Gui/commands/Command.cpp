@@ -104,6 +104,13 @@ QKeySequence CommandBase::get_shortcut() const
     return shortcut;
 }
 
+void CommandBase::setShortcut(const QKeySequence& key)
+{
+    shortcut = key;
+    if (m_action != nullptr)
+        m_action->setShortcut(get_shortcut());
+}
+
 bool CommandBase::is_applicable()
 {
     return true;

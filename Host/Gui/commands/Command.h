@@ -44,6 +44,8 @@ public:
     virtual QString get_statustip() const;    ///< translated status tip
     virtual const char* get_pixmap() const;   ///< name for the picture factory; empty for none
     virtual QKeySequence get_shortcut() const;
+    /// Gives the command another key, such as a key that a program adds to the command of a module.
+    void setShortcut(const QKeySequence& key);
     /// Carries the command out. `index` is the chosen entry of a command that has several.
     virtual void activated(int index) = 0;
     /// Returns whether the command is applicable now.

@@ -7,13 +7,17 @@
 #include "Gui/ObjectClipboard.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
 #include "commands/CellCopy.h"
 #include "commands/Deletion.h"
 #include "commands/HistoryCommands.h"
+#include "properties/ColorChoice.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace Gui {
 
@@ -59,6 +63,45 @@ bool canSuppress(const TreeSelectionSingleton& selection, bool suppressed)
     const Objects objects = selectedIn(selection);
     return std::any_of(objects.begin(), objects.end(),
                        [suppressed](const auto* object) { return object->isSuppressed() != suppressed; });
+}
+
+/// Returns the colour of an object that the user may change; absent if it has none.
+std::optional<ColorPlace> colorOf(const GuiApplication& application, Obj::ProjectObject* object)
+{
+    const ViewFeeder* const node = application.get_view_feeder(object);
+    const Obj::PropertyColor* const color = node != nullptr ? findColor(*node) : nullptr;
+    if (color == nullptr)
+        return std::nullopt;
+    return ColorPlace{application.placeOf(*node), node->get_property_name(color)};
+}
+
+bool hasColor(const GuiApplication& application, const TreeSelectionSingleton& selection)
+{
+    const Objects objects = selectedIn(selection);
+    return MainWindow::get_main_window_inst() != nullptr &&
+           std::any_of(objects.begin(), objects.end(),
+                       [&application](auto* object) { return colorOf(application, object).has_value(); });
+}
+
+void chooseColorOfSelected(GuiApplication& application, const TreeSelectionSingleton& selection)
+{
+    std::vector<ColorPlace> places;
+    for (Obj::ProjectObject* const object : selectedIn(selection))
+        if (auto place = colorOf(application, object))
+            places.push_back(std::move(*place));
+    chooseColor(*MainWindow::get_main_window_inst(), application.requests(), places);
+}
+
+std::vector<CommandRow> colorRows(GuiApplication& application, const TreeSelectionSingleton& selection)
+{
+    return {{"Std_Color",
+             QT_TRANSLATE_NOOP("StandardCommand", "C&olor..."),
+             QT_TRANSLATE_NOOP("StandardCommand", "Choose the color of the selected objects"),
+             "",
+             {},
+             CommandType::onTree,
+             [&] { chooseColorOfSelected(application, selection); },
+             [&] { return hasColor(application, selection); }}};
 }
 
 void rename()
@@ -201,6 +244,7 @@ void addEditingCommands(GuiApplication& application, TreeSelectionSingleton& sel
     addCommands(commands, context, deletionRows(application.requests(), selection));
     addCommands(commands, context, suppressionRows(application.requests(), selection));
     addCommands(commands, context, projectRows(application.requests(), selection));
+    addCommands(commands, context, colorRows(application, selection));
 }
 
 } // namespace Gui

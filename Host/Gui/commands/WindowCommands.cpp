@@ -5,8 +5,12 @@
 #include "Gui/Contributions.h"
 #include "Gui/MainWindow.h"
 #include "Gui/MessageLogView.h"
+#include "Gui/Translator.h"
 
+#include <QActionGroup>
+#include <QMenu>
 #include <QMessageBox>
+#include <QToolBar>
 
 namespace Gui {
 
@@ -29,6 +33,28 @@ bool hasDocuments()
     return hasWindow() && mainWindow()->get_active_mdi_window() != nullptr;
 }
 
+bool isShown(const char* dock)
+{
+    return hasWindow() && mainWindow()->isDockShown(dock);
+}
+
+QList<QToolBar*> toolBars()
+{
+    return mainWindow()->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void listToolBars(QMenu& menu)
+{
+    for (const QToolBar* const bar : toolBars())
+        menu.addAction(bar->toggleViewAction());
+}
+
+void showAllToolBars()
+{
+    for (QToolBar* const bar : toolBars())
+        bar->show();
+}
+
 void showAbout()
 {
     QString text = QStringLiteral("<h3>%1 %2</h3>")
@@ -49,7 +75,8 @@ std::vector<CommandRow> dockRows()
          {},
          CommandType::none,
          [] { mainWindow()->toggleDock("ProjectExplorer"); },
-         hasWindow},
+         hasWindow,
+         [] { return isShown("ProjectExplorer"); }},
         {"Std_PropertyPanel",
          QT_TRANSLATE_NOOP("StandardCommand", "P&roperties"),
          QT_TRANSLATE_NOOP("StandardCommand", "Show or hide the properties"),
@@ -57,7 +84,8 @@ std::vector<CommandRow> dockRows()
          {},
          CommandType::none,
          [] { mainWindow()->toggleDock("PropertyPanel"); },
-         hasWindow},
+         hasWindow,
+         [] { return isShown("PropertyPanel"); }},
         {"Std_MessageLog",
          QT_TRANSLATE_NOOP("StandardCommand", "&Messages"),
          QT_TRANSLATE_NOOP("StandardCommand", "Show or hide the messages"),
@@ -65,7 +93,8 @@ std::vector<CommandRow> dockRows()
          {},
          CommandType::none,
          [] { mainWindow()->toggleDock("MessageLog"); },
-         hasWindow},
+         hasWindow,
+         [] { return isShown("MessageLog"); }},
         {"Std_ClearMessages",
          QT_TRANSLATE_NOOP("StandardCommand", "C&lear messages"),
          QT_TRANSLATE_NOOP("StandardCommand", "Empty the message log"),
@@ -74,6 +103,61 @@ std::vector<CommandRow> dockRows()
          CommandType::none,
          [] { mainWindow()->getMessageLog().clearMessages(); },
          hasWindow},
+    };
+}
+
+std::vector<CommandRow> paneRows()
+{
+    return {
+        {"Std_ToolBars",
+         QT_TRANSLATE_NOOP("StandardCommand", "&Toolbars"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show or hide toolbars"),
+         "",
+         {},
+         CommandType::none,
+         showAllToolBars,
+         hasWindow,
+         {},
+         listToolBars},
+        {"Std_NextPane", QT_TRANSLATE_NOOP("StandardCommand", "&Next pane"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Move the keyboard focus to the next part of the window"), "", Qt::Key_F6,
+         CommandType::none, [] { mainWindow()->focusNextPane(); }, hasWindow},
+        {"Std_PreviousPane", QT_TRANSLATE_NOOP("StandardCommand", "Pre&vious pane"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Move the keyboard focus to the previous part of the window"), "",
+         Qt::SHIFT + Qt::Key_F6, CommandType::none, [] { mainWindow()->focusPreviousPane(); }, hasWindow},
+    };
+}
+
+void listLanguages(QMenu& menu)
+{
+    auto* const group = new QActionGroup(&menu);
+    const QString chosen = Translator::chosenLanguage();
+    const auto add = [&](const QString& title, const QString& language) {
+        QAction* const action = group->addAction(title);
+        action->setCheckable(true);
+        action->setChecked(language == chosen);
+        menu.addAction(action);
+        QObject::connect(action, &QAction::triggered, [language] { Translator::instance()->chooseLanguage(language); });
+    };
+    add(QCoreApplication::translate(context, "&System"), QString());
+    menu.addSeparator();
+    for (const QString& language : Translator::instance()->languages())
+        add(Translator::nameOf(language), language);
+}
+
+std::vector<CommandRow> languageRows()
+{
+    return {
+        {"Std_Language",
+         QT_TRANSLATE_NOOP("StandardCommand", "Lan&guage"),
+         QT_TRANSLATE_NOOP("StandardCommand", "Choose the language of the program"),
+         "",
+         {},
+         CommandType::none,
+         [] { Translator::instance()->chooseLanguage({}); },
+         hasWindow,
+         {},
+         listLanguages},
     };
 }
 
@@ -140,6 +224,8 @@ std::vector<CommandRow> programRows()
 void addWindowCommands(CommandController& commands)
 {
     addCommands(commands, context, dockRows());
+    addCommands(commands, context, paneRows());
+    addCommands(commands, context, languageRows());
     addCommands(commands, context, documentRows());
     addCommands(commands, context, programRows());
 }

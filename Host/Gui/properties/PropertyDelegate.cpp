@@ -3,6 +3,7 @@
 #include "Obj/Project.h"
 #include "Obj/Property.h"
 #include "Obj/PropertyReference.h"
+#include "properties/ColorChoice.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -102,6 +103,8 @@ QString PropertyDelegate::shownText(const Obj::Property& property)
         return shownWord(choice->getWord());
     if (const auto* const reference = dynamic_cast<const Obj::PropertyReference*>(&property))
         return shownReference(*reference);
+    if (const auto* const color = dynamic_cast<const Obj::PropertyColor*>(&property))
+        return toQColor(*color).name();
     return QString::fromStdString(property.toText());
 }
 

@@ -5,6 +5,8 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "Obj/ReadableName.h"
+#include "properties/ColorChoice.h"
 #include "properties/PropertyDelegate.h"
 #include "vxMsg/MessageProxy.h"
 #include "window/OpenEditor.h"
@@ -30,11 +32,7 @@ QString translatedProperty(const char* text)
 QColor swatchOf(const Obj::Property& property)
 {
     const auto* const color = dynamic_cast<const Obj::PropertyColor*>(&property);
-    if (color == nullptr)
-        return {};
-    const Obj::Color& value = color->getValue();
-    return QColor::fromRgbF(static_cast<double>(value.red), static_cast<double>(value.green),
-                            static_cast<double>(value.blue));
+    return color != nullptr ? toQColor(*color) : QColor();
 }
 
 } // namespace
@@ -84,10 +82,27 @@ void PropertyPanel::finishEditing()
 
 bool PropertyPanel::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
+    if (isColor(index))
+        return (trigger & editTriggers()) != 0 && editColor(index);
     const bool isTaken = QTreeWidget::edit(index, trigger, event);
     if (isTaken && state() == EditingState)
         m_edited = index;
     return isTaken;
+}
+
+bool PropertyPanel::isColor(const QModelIndex& index) const
+{
+    return dynamic_cast<const Obj::PropertyColor*>(propertyAt(index)) != nullptr;
+}
+
+/// Returns false if the color must not be changed.
+bool PropertyPanel::editColor(const QModelIndex& index)
+{
+    if ((index.flags() & Qt::ItemIsEditable) == 0)
+        return false;
+    const QString name = index.sibling(index.row(), 0).data(nameRole).toString();
+    chooseColor(*this, m_application.requests(), {{*placeOf(index), name.toStdString()}});
+    return true;
 }
 
 void PropertyPanel::changeEvent(QEvent* event)
@@ -180,7 +195,7 @@ QTreeWidgetItem* PropertyPanel::makeItem(const Obj::PropertyDS& owner, const Obj
 {
     const char* const name = owner.get_property_name(&property);
     auto* const item = new QTreeWidgetItem(groupItem(translatedProperty(owner.get_property_group(&property))),
-                                           {translatedProperty(name)});
+                                           {Obj::readableName(name)});
     item->setData(0, nameRole, QString::fromUtf8(name));
     for (const int column : {0, valueColumn})
         item->setToolTip(column, translatedProperty(owner.get_property_description(&property)));
@@ -197,7 +212,9 @@ void PropertyPanel::showValue(QTreeWidgetItem& item, const Obj::Property& proper
         item.setCheckState(valueColumn, yesOrNo->getValue() ? Qt::Checked : Qt::Unchecked);
         editing = Qt::ItemIsUserCheckable;
     } else {
-        item.setText(valueColumn, PropertyDelegate::shownText(property));
+        // Texts that the user cannot change are the program's own, and follow its language.
+        const QString text = PropertyDelegate::shownText(property);
+        item.setText(valueColumn, isReadOnly ? translatedProperty(text.toUtf8().constData()) : text);
     }
     Qt::ItemFlags flags = item.flags() & ~(Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
     item.setFlags(flags.setFlag(editing, !isReadOnly));

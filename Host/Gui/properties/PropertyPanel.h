@@ -22,7 +22,7 @@ class GuiApplication;
 class TreeSelectionSingleton;
 
 /// The properties of the selected entry of the project tree, by group: those of the project or object and those of its
-/// node. The user edits them in place, undoably, with an editor for each type. A value that is being edited is not
+/// node. The user edits them in place, undoably, with an editor for each type; a colour is chosen in a dialog. A value that is being edited is not
 /// overwritten by other changes; it is kept if another entry is selected. If several entries are selected, the panel
 /// shows their number.
 class GUI_EXPORT PropertyPanel : public QTreeWidget
@@ -59,6 +59,8 @@ private:
     void retranslate();
     Owners owners() const;
     const Obj::Property* propertyAt(const QModelIndex& index) const;
+    bool isColor(const QModelIndex& index) const;
+    bool editColor(const QModelIndex& index);
     /// Returns the place of the owner of a row that shows a property.
     const std::optional<vxMsg::PropertyPlace>& placeOf(const QModelIndex& index) const;
     void showCount(std::size_t count);

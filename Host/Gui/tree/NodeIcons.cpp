@@ -3,6 +3,7 @@
 #include "Gui/PictureFactory.h"
 
 #include <QPainter>
+#include <QStringList>
 
 namespace Gui {
 
@@ -10,28 +11,37 @@ namespace {
 
 constexpr int iconSize = 32;
 
-QPixmap draw(const QString& pixmapName, const QColor& dot)
+QPixmap draw(const QString& pixmapName, const QColor& dot, const QColor& square)
 {
     QPixmap pixmap = PictureFactory::get_pixmap(pixmapName, iconSize);
-    if (!dot.isValid())
-        return pixmap;
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::white);
-    painter.setBrush(dot);
-    painter.drawEllipse(QRectF(iconSize * 0.58, iconSize * 0.58, iconSize * 0.38, iconSize * 0.38));
+    painter.setPen(QPen(Qt::white, 2.0));
+    if (dot.isValid()) {
+        painter.setBrush(dot);
+        painter.drawEllipse(QRectF(iconSize * 0.58, iconSize * 0.58, iconSize * 0.38, iconSize * 0.38));
+    }
+    if (square.isValid()) {
+        painter.setBrush(square);
+        painter.drawRect(QRectF(iconSize * 0.04, iconSize * 0.58, iconSize * 0.38, iconSize * 0.38));
+    }
     return pixmap;
+}
+
+QString nameOf(const QColor& color)
+{
+    return color.isValid() ? color.name() : QString();
 }
 
 } // namespace
 
-QIcon NodeIcons::get(const QString& pixmapName, const QColor& dot)
+QIcon NodeIcons::get(const QString& pixmapName, const QColor& dot, const QColor& square)
 {
     if (pixmapName.isEmpty())
         return {};
-    QIcon& icon = m_icons[pixmapName + (dot.isValid() ? dot.name() : QString())];
+    QIcon& icon = m_icons[QStringList{pixmapName, nameOf(dot), nameOf(square)}.join(QLatin1Char(' '))];
     if (icon.isNull())
-        icon = QIcon(draw(pixmapName, dot));
+        icon = QIcon(draw(pixmapName, dot, square));
     return icon;
 }
 

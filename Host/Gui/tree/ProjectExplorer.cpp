@@ -9,6 +9,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "properties/ColorChoice.h"
 #include "tree/NeighbourSelection.h"
 #include "window/CoreEditor.h"
 #include "window/OpenEditor.h"
@@ -243,6 +244,8 @@ void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
         node->build_context_menu("Tree", &items);
         if (!items.hasItems())
             items << (m_model.objectAt(index) != nullptr ? "Std_Delete" : "Std_CloseProject");
+        if (findColor(*node) != nullptr)
+            items << MenuItem::separator << "Std_Color";
     } else {
         for (const std::string& command : m_window.contributions().treeMenu())
             items << command.c_str();

@@ -4,9 +4,11 @@
 #include "Gui/GuiProject.h"
 #include "Gui/ObjectStatus.h"
 #include "Gui/ViewFeeder.h"
+#include "Gui/WindowTitle.h"
 #include "Obj/Application.h"
 #include "Obj/Placeholder.h"
 #include "Obj/ProjectObjectGroup.h"
+#include "properties/ColorChoice.h"
 #include "tree/NodeIcons.h"
 #include "tree/TreeShape.h"
 #include "vxMsg/MessageProxy.h"
@@ -77,6 +79,13 @@ QColor dotOf(const Obj::ProjectObject& object)
         break;
     }
     return {0xe0, 0x8a, 0x1e};
+}
+
+/// Returns the colour of an object in views; an invalid colour if it has none.
+QColor colorOf(const ViewFeeder& node)
+{
+    const Obj::PropertyColor* const color = findColor(node);
+    return color != nullptr ? toQColor(*color) : QColor();
 }
 
 /// Returns null if the class of the object or project is registered.
@@ -432,10 +441,10 @@ QVariant ProjectTreeModel::dataOf(Obj::ProjectObject& object, int role) const
     case Qt::EditRole:
         return QString::fromStdString(object.label.getValue());
     case Qt::ToolTipRole:
-        return toolTipOf(object);
+        return escapedForToolTip(toolTipOf(object));
     case Qt::DecorationRole:
         if (const ViewFeeder* const node = m_application.get_view_feeder(&object))
-            return m_icons->get(QString::fromUtf8(node->getPixmapName()), dotOf(object));
+            return m_icons->get(QString::fromUtf8(node->getPixmapName()), dotOf(object), colorOf(*node));
         return {};
     case Qt::FontRole:
         return fontOf(object);

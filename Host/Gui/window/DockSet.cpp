@@ -50,6 +50,10 @@ void addToggleCommand(const DockEntry& entry, CommandController& commands)
                   [name = entry.name] {
                       const MainWindow* const window = MainWindow::get_main_window_inst();
                       return window != nullptr && window->hasDock(name);
+                  },
+                  [name = entry.name] {
+                      const MainWindow* const window = MainWindow::get_main_window_inst();
+                      return window != nullptr && window->isDockShown(name);
                   }}});
 }
 

@@ -1,10 +1,18 @@
 #include "window/DocumentArea.h"
 
 #include "Gui/MDIWindow.h"
+#include "Gui/WindowTitle.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QEvent>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QPointer>
+#include <QTabBar>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace Gui {
 
@@ -53,12 +61,16 @@ void DocumentArea::add(MDIWindow* window)
         frame->showMaximized();
     else
         frame->show();
+    showTabTexts();
     connect(frame, &QObject::destroyed, this, &DocumentArea::windowDestroyed);
 }
 
 void DocumentArea::remove(const MDIWindow* window)
 {
-    delete frameOf(window);
+    QMdiSubWindow* const frame = frameOf(window);
+    if (frame != nullptr)
+        watchFocus(*frame);
+    delete frame;
 }
 
 void DocumentArea::removeAll()
@@ -111,6 +123,39 @@ void DocumentArea::cascade()
 void DocumentArea::showAsTabs()
 {
     setViewMode(QMdiArea::TabbedView);
+    showTabTexts();
+}
+
+bool DocumentArea::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* const frame = qobject_cast<const QMdiSubWindow*>(watched);
+    if (frame != nullptr && event->type() == QEvent::Close)
+        watchFocus(*frame);
+    const bool isFiltered = QMdiArea::eventFilter(watched, event);
+    if (frame != nullptr && (event->type() == QEvent::WindowTitleChange || event->type() == QEvent::ModifiedChange))
+        showTabTexts();
+    return isFiltered;
+}
+
+/// If the window that is about to close has the keyboard focus, and closes, says so when the event loop is next idle.
+void DocumentArea::watchFocus(const QMdiSubWindow& frame)
+{
+    const QWidget* const focus = QApplication::focusWidget();
+    if (focus == nullptr || !frame.isAncestorOf(focus))
+        return;
+    QTimer::singleShot(0, this, [this, closing = QPointer<const QMdiSubWindow>(&frame)] {
+        if (closing == nullptr || closing->isHidden())
+            Q_EMIT focusedWindowClosed();
+    });
+}
+
+void DocumentArea::showTabTexts()
+{
+    auto* const tabs = findChild<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
+    const QList<QMdiSubWindow*> frames = subWindowList();
+    for (int tab = 0; tabs != nullptr && tab < std::min(tabs->count(), frames.size()); ++tab)
+        tabs->setTabText(tab,
+                         escapedForMnemonics(shownTitle(frames[tab]->windowTitle(), frames[tab]->isWindowModified())));
 }
 
 QMdiSubWindow* DocumentArea::frontFrame() const

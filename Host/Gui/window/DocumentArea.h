@@ -35,15 +35,22 @@ public:
     void cascade();
     void showAsTabs();
 
+    /// Shows the titles of the documents as they are in the tabs. The base class interprets "&" and "[*]" in labels.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// Sent after a document window has come to the front. Null if the last window was closed.
     void windowActivated(Gui::MDIWindow* window);
     /// Sent after a document window was destroyed.
     void windowDestroyed();
+    /// Sent after a document window that had the keyboard focus was closed.
+    void focusedWindowClosed();
 
 private:
     QMdiSubWindow* frontFrame() const;
     QMdiSubWindow* frameOf(const MDIWindow* window) const;
+    void watchFocus(const QMdiSubWindow& frame);
+    void showTabTexts();
 };
 
 } // namespace Gui

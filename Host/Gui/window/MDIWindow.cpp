@@ -2,6 +2,7 @@
 
 #include "Gui/GuiProject.h"
 #include "Gui/MainWindow.h"
+#include "Gui/WindowTitle.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
 
@@ -46,14 +47,14 @@ void MDIWindow::editObject(GuiProject& project, Obj::ProjectObject& object)
 
 void MDIWindow::showLabel(const Obj::ProjectObject& object)
 {
-    setWindowTitle(QString::fromStdString(object.label.getValue()) + QStringLiteral("[*]"));
+    setWindowTitle(markedTitle(QString::fromStdString(object.label.getValue())));
 }
 
 void MDIWindow::finishEditing() {}
 
 void MDIWindow::completeEdits()
 {
-    Kelta::guarded(tr("An edit in \"%1\" cannot be completed").arg(windowTitle().remove(QStringLiteral("[*]"))),
+    Kelta::guarded(tr("An edit in \"%1\" cannot be completed").arg(shownTitle(windowTitle())),
                    [this] { finishEditing(); });
 }
 

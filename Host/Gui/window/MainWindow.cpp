@@ -14,6 +14,7 @@
 #include "vxMsg/MessageProxy.h"
 #include "window/DockSet.h"
 #include "window/DocumentArea.h"
+#include "window/Panes.h"
 #include "window/WelcomePage.h"
 #include "workbench/MenuBuilder.h"
 #include "workbench/WorkbenchBars.h"
@@ -26,6 +27,7 @@
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -48,6 +50,26 @@ constexpr int statusMilliseconds = 10000;
 constexpr const char* explorerDock = "ProjectExplorer";
 constexpr const char* propertiesDock = "PropertyPanel";
 constexpr const char* messagesDock = "MessageLog";
+
+/// Returns the size of the window at its first start: less than the screen, so that its frame fits too.
+QSize firstSize()
+{
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? MainWindow::usualSize.boundedTo(screen->availableSize() * 9 / 10)
+                             : MainWindow::usualSize;
+}
+
+bool deservesAttention(const Kelta::LogMessage& message)
+{
+    return message.severity != Kelta::LogMessage::Severity::Information;
+}
+
+/// Returns whether the message log has a warning or an error.
+bool logDeservesAttention()
+{
+    const auto& messages = Kelta::MessageLog::instance().messages();
+    return std::any_of(messages.begin(), messages.end(), deservesAttention);
+}
 
 bool isInDock(const QWidget* widget)
 {
@@ -86,13 +108,16 @@ MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
     watchProjects();
     watchRequests();
     watchWindow();
-    resize(1180, 760);
+    resize(firstSize());
 }
 
 MainWindow::~MainWindow()
 {
-    // The keyboard focus moves while widgets are destroyed.
+    // The keyboard focus moves, and docks are hidden, while widgets are destroyed.
     disconnect(&m_application, nullptr, this, nullptr);
+    disconnect(&Kelta::MessageLog::instance(), nullptr, this, nullptr);
+    for (const QDockWidget* const dock : docks())
+        disconnect(dock->toggleViewAction(), nullptr, this, nullptr);
     // The document windows are destroyed while the main window is still accessible.
     m_documents->removeAll();
     theMainWindow = nullptr;
@@ -234,6 +259,23 @@ void MainWindow::showProjectExplorer()
     m_docks->show(explorerDock);
 }
 
+void MainWindow::focusNextPane()
+{
+    Panes(*this).move(Panes::Step::Next);
+}
+
+void MainWindow::focusPreviousPane()
+{
+    Panes(*this).move(Panes::Step::Previous);
+}
+
+void MainWindow::focusDock(const std::string& name)
+{
+    m_docks->show(name);
+    if (QDockWidget* const dock = m_docks->find(name))
+        Panes::focus(*dock);
+}
+
 void MainWindow::toggleDock(const std::string& name)
 {
     m_docks->toggle(name);
@@ -242,6 +284,12 @@ void MainWindow::toggleDock(const std::string& name)
 bool MainWindow::hasDock(const std::string& name) const
 {
     return m_docks->find(name) != nullptr;
+}
+
+bool MainWindow::isDockShown(const std::string& name) const
+{
+    const QDockWidget* const dock = m_docks->find(name);
+    return dock != nullptr && dock->toggleViewAction()->isChecked();
 }
 
 QMenu* MainWindow::createPopupMenu()
@@ -267,6 +315,7 @@ void MainWindow::restoreLayout()
     const QSettings settings;
     restoreGeometry(settings.value(QLatin1String(geometryKey)).toByteArray());
     restoreState(settings.value(QLatin1String(stateKey)).toByteArray());
+    showMessagesIfDue();
 }
 
 void MainWindow::updateCommands()
@@ -315,6 +364,7 @@ void MainWindow::createDocks()
     resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
     resizeDocks({m_docks->find(explorerDock)}, {290}, Qt::Horizontal);
     resizeDocks({m_docks->find(messagesDock)}, {110}, Qt::Vertical);
+    showMessagesIfDue();
     m_bars = std::make_unique<WorkbenchBars>(*this, m_application.get_command_manager(), m_contributions);
 }
 
@@ -334,9 +384,17 @@ std::vector<DockEntry> MainWindow::hostDocks()
              {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Properties")},
              DockArea::Left,
              [=] { return frameless(m_properties); }},
-            {messagesDock, {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Messages")}, DockArea::Bottom, [=] {
-                 return frameless(m_log);
-             }}};
+            {messagesDock,
+             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Messages")},
+             DockArea::Bottom,
+             [=] { return frameless(m_log); },
+             DockVisibility::HiddenAtFirst}};
+}
+
+/// The messages are hidden until the user should read one of them.
+void MainWindow::showMessagesIfDue()
+{
+    m_docks->find(messagesDock)->setVisible(logDeservesAttention());
 }
 
 void MainWindow::watchProjects()
@@ -369,6 +427,15 @@ void MainWindow::watchWindow()
             [this](const QWidget*, QWidget* now) { followFocus(now); });
     connect(m_documents, &DocumentArea::windowActivated, this, &MainWindow::followDocument);
     connect(m_documents, &DocumentArea::windowDestroyed, this, &MainWindow::updateLater);
+    connect(m_documents, &DocumentArea::focusedWindowClosed, this, [this] {
+        if (m_explorer->isVisible())
+            m_explorer->setFocus(Qt::OtherFocusReason);
+    });
+    connect(&Kelta::MessageLog::instance(), &Kelta::MessageLog::reported, this,
+            [this](const Kelta::LogMessage& message) {
+                if (deservesAttention(message))
+                    showMessages();
+            });
     connect(&m_contributions, &Contributions::changed, this, [this] {
         m_barsAreOutdated = true;
         updateLater();
@@ -441,9 +508,17 @@ void MainWindow::buildBars()
     m_barsAreOutdated = false;
     CommandController& commands = m_application.get_command_manager();
     m_docks->addContributed(m_contributions, commands);
+    // The entries of the docks in "View" have check marks.
+    for (const QDockWidget* const dock : docks())
+        connect(dock->toggleViewAction(), &QAction::toggled, this, &MainWindow::updateLater, Qt::UniqueConnection);
     addWorkbenchCommands(m_contributions, commands);
     m_bars->build(*m_workbench);
     addShortcuts();
+}
+
+QList<QDockWidget*> MainWindow::docks() const
+{
+    return findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 void MainWindow::showWantedDocks()

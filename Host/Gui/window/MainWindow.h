@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QSize>
 #include <QTimer>
 #include <boost/signals2/connection.hpp>
 
@@ -13,6 +14,7 @@
 #include <string>
 #include <vector>
 
+class QDockWidget;
 class QStackedWidget;
 class QUndoStack;
 
@@ -45,6 +47,9 @@ class GUI_EXPORT MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /// The size of the window at its first start, if the screen is large enough.
+    static constexpr QSize usualSize{1180, 760};
+
     /// Needs the GuiApplication, which must outlive the window. Shows the contributions of the application.
     explicit MainWindow(QWidget* parent = nullptr);
     /// As above with other contributions, which must outlive the window.
@@ -111,12 +116,20 @@ public:
                          const Kelta::LogLink& link = {});
 
     /// Shows the message log, even if the user has hidden it, in front of docks at the same place; for messages that
-    /// the user must see. showProjectExplorer does the same with the project explorer.
+    /// the user must see. The window calls it for each warning and error, and hides the log at the start if there are
+    /// none. showProjectExplorer does the same with the project explorer.
     void showMessages();
     void showProjectExplorer();
     /// Shows or hides a dock, by its name. Does nothing if there is no such dock.
     void toggleDock(const std::string& name);
     bool hasDock(const std::string& name) const;
+    bool isDockShown(const std::string& name) const;
+    /// Shows a dock and gives it the keyboard focus. Does nothing if there is no such dock.
+    void focusDock(const std::string& name);
+    /// Gives the keyboard focus to the next or previous pane: a visible dock, or the documents. When a document that
+    /// has the focus closes, the project explorer gets it.
+    void focusNextPane();
+    void focusPreviousPane();
 
     /// Makes the context menu of bars and docks: it shows and hides them, and has the additions of the workbench.
     QMenu* createPopupMenu() override;
@@ -144,6 +157,7 @@ protected:
 private:
     void createCenter();
     void createDocks();
+    void showMessagesIfDue();
     std::vector<DockEntry> hostDocks();
     void watchProjects();
     void watchRequests();
@@ -156,6 +170,7 @@ private:
     void followDocument(const MDIWindow* window);
     void replaceWorkbench(std::unique_ptr<StdSimModule> workbench);
     void buildBars();
+    QList<QDockWidget*> docks() const;
     void showWantedDocks();
     void addShortcuts();
     void retranslate();

@@ -8,7 +8,8 @@
 
 namespace Gui {
 
-/// The message log, the newest message last. Messages can be selected and copied.
+/// The message log, each message with its time, the newest message last. Messages can be selected and copied, by the
+/// keyboard and from the context menu.
 class GUI_EXPORT MessageLogView : public QListWidget
 {
     Q_OBJECT
@@ -22,11 +23,16 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void createActions();
+    void retranslate();
+    void copy() const;
     void add(const Kelta::LogMessage& message);
 
+    QAction* m_copy;
+    QAction* m_selectAll;
+    QAction* m_clear;
     QTimer m_scrolling;
 };
 

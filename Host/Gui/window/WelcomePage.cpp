@@ -1,6 +1,7 @@
 #include "window/WelcomePage.h"
 
 #include "Gui/CommandController.h"
+#include "Gui/WindowTitle.h"
 #include "Obj/Project.h"
 
 #include <QHBoxLayout>
@@ -10,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace Gui {
 
@@ -83,13 +85,15 @@ WelcomePage::WelcomePage(CommandController& commands, const Contributions& contr
       m_contributions(contributions),
       m_title(new QLabel(this)),
       m_text(new QLabel(this)),
-      m_buttonRow(new QHBoxLayout)
+      m_buttonRow(new QHBoxLayout),
+      m_listTitle(new QLabel(this)),
+      m_links(new QVBoxLayout)
 {
     setObjectName(QStringLiteral("welcomePage"));
     QFont font = m_title->font();
     font.setPointSizeF(font.pointSizeF() * 1.6);
     m_title->setFont(font);
-    for (QLabel* const label : {m_title, m_text}) {
+    for (QLabel* const label : {m_title, m_text, m_listTitle}) {
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);
     }
@@ -104,6 +108,7 @@ void WelcomePage::refresh(const Obj::Project* project)
     const std::vector<const WelcomeEntry*> entries = entriesFor(project, m_contributions.welcomeEntries());
     showTexts(stepOf(project), entries);
     showButtons(stepOf(project), entries);
+    showLists(stepOf(project));
 }
 
 void WelcomePage::buildLayout()
@@ -114,6 +119,9 @@ void WelcomePage::buildLayout()
     layout->addWidget(m_text);
     layout->addSpacing(12);
     layout->addLayout(m_buttonRow);
+    layout->addSpacing(12);
+    layout->addWidget(m_listTitle);
+    layout->addLayout(m_links);
     layout->addStretch(3);
     m_buttonRow->addStretch();
     m_buttonRow->addStretch();
@@ -144,7 +152,7 @@ void WelcomePage::showButtons(WelcomeStep step, const std::vector<const WelcomeE
     }
 }
 
-/// Returns the existing commands, each once. Opening a file is always offered.
+/// Returns the existing commands, each once. Opening a file and the example of the program are always offered.
 std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
                                                       const std::vector<const WelcomeEntry*>& entries) const
 {
@@ -156,7 +164,8 @@ std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
     for (const WelcomeEntry* const entry : entries)
         std::for_each(entry->commands.begin(), entry->commands.end(), offer);
     if (step == WelcomeStep::NoProject)
-        offer("Std_Open");
+        for (const char* const name : {"Std_Open", "Std_OpenExample"})
+            offer(name);
     return names;
 }
 
@@ -183,6 +192,46 @@ void WelcomePage::addButton(const std::string& commandName)
     m_buttonRow->insertWidget(m_buttonRow->count() - 1, button);
     m_buttons.push_back(button);
     button->show();
+}
+
+void WelcomePage::showLists(WelcomeStep step)
+{
+    QString title;
+    std::vector<WelcomeLink> links;
+    for (const WelcomeList& list : m_contributions.welcomeLists()) {
+        if (list.step != step)
+            continue;
+        title = list.title.translated();
+        for (WelcomeLink& link : list.entries())
+            links.push_back(std::move(link));
+    }
+    QStringList shown{title};
+    for (const WelcomeLink& link : links)
+        shown << link.text;
+    m_listTitle->setVisible(!links.empty());
+    if (shown != m_shownLinks)
+        replaceLinks(title, links);
+    m_shownLinks = shown;
+}
+
+void WelcomePage::replaceLinks(const QString& title, const std::vector<WelcomeLink>& links)
+{
+    m_listTitle->setText(title);
+    // A link may be replaced while it is clicked, so it is destroyed later.
+    while (QLayoutItem* const item = m_links->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+    for (const WelcomeLink& link : links) {
+        auto* const button = new QPushButton(escapedForMnemonics(link.text), this);
+        button->setObjectName(QStringLiteral("welcomeLink"));
+        button->setFlat(true);
+        button->setToolTip(escapedForToolTip(link.toolTip));
+        connect(button, &QPushButton::clicked, this, [open = link.open] { open(); });
+        m_links->addWidget(button, 0, Qt::AlignHCenter);
+        button->show();
+    }
 }
 
 } // namespace Gui

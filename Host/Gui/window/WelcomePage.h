@@ -2,6 +2,7 @@
 
 #include "Gui/Contributions.h"
 
+#include <QStringList>
 #include <QWidget>
 
 #include <string>
@@ -10,6 +11,7 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace Obj {
 class Project;
@@ -19,8 +21,8 @@ namespace Gui {
 
 class CommandController;
 
-/// The page in the middle of the main window while no document is open. It shows the next steps, with buttons. Modules
-/// contribute entries; without them, the page shows the entries of the host.
+/// The page in the middle of the main window while no document is open. It shows the next steps, with buttons, and lists
+/// such as the recent files. Modules contribute entries; without them, the page shows the entries of the host.
 class WelcomePage : public QWidget
 {
     Q_OBJECT
@@ -39,6 +41,8 @@ private:
     std::vector<std::string> offeredCommands(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries) const;
     void replaceButtons(const std::vector<std::string>& names);
     void addButton(const std::string& commandName);
+    void showLists(WelcomeStep step);
+    void replaceLinks(const QString& title, const std::vector<WelcomeLink>& links);
 
     CommandController& m_commands;
     const Contributions& m_contributions;
@@ -46,6 +50,9 @@ private:
     QLabel* m_text;
     QHBoxLayout* m_buttonRow;
     std::vector<QPushButton*> m_buttons;
+    QLabel* m_listTitle;
+    QVBoxLayout* m_links;
+    QStringList m_shownLinks; ///< title and texts of the links
 };
 
 } // namespace Gui

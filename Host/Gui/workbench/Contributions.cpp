@@ -47,6 +47,12 @@ void Contributions::addWelcomeEntry(WelcomeEntry entry)
     add(m_welcomeEntries, std::move(entry), isSameWelcome);
 }
 
+void Contributions::addWelcomeList(WelcomeList list)
+{
+    add(m_welcomeLists, std::move(list),
+        [](const WelcomeList& a, const WelcomeList& b) { return a.step == b.step && a.title == b.title; });
+}
+
 void Contributions::addAboutText(TranslatableText text)
 {
     add(m_aboutTexts, text, std::equal_to<>());

@@ -67,6 +67,23 @@ struct WelcomeEntry
     std::function<bool()> canRun = {};
 };
 
+/// An entry of a list on the welcome page: a button with a text.
+struct WelcomeLink
+{
+    QString text;
+    QString toolTip;
+    std::function<void()> open;
+};
+
+/// A list on the welcome page for one step, such as the recent files, below the buttons.
+struct WelcomeList
+{
+    WelcomeStep step;
+    TranslatableText title;
+    /// Returns the entries of the list now; without entries the list is not shown.
+    std::function<std::vector<WelcomeLink>()> entries;
+};
+
 /// The initial place of a dock. Later the layout of the user decides.
 enum class DockArea
 {
@@ -130,6 +147,7 @@ public:
     /// Adds an entry to the welcome page. The page offers the commands of all entries for a step. If the entries have
     /// different titles, the page shows its own title.
     void addWelcomeEntry(WelcomeEntry entry);
+    void addWelcomeList(WelcomeList list);
     /// Adds a paragraph, as rich text, to the About box.
     void addAboutText(TranslatableText text);
     void addDock(DockEntry entry);
@@ -139,6 +157,7 @@ public:
     const std::vector<CommandPlace>& toolBarPlaces() const { return m_toolBarPlaces; }
     const std::vector<std::string>& treeMenu() const { return m_treeMenu; }
     const std::vector<WelcomeEntry>& welcomeEntries() const { return m_welcomeEntries; }
+    const std::vector<WelcomeList>& welcomeLists() const { return m_welcomeLists; }
     const std::vector<TranslatableText>& aboutTexts() const { return m_aboutTexts; }
     const std::vector<DockEntry>& docks() const { return m_docks; }
     const std::vector<WorkbenchEntry>& workbenches() const { return m_workbenches; }
@@ -155,6 +174,7 @@ private:
     std::vector<CommandPlace> m_toolBarPlaces;
     std::vector<std::string> m_treeMenu;
     std::vector<WelcomeEntry> m_welcomeEntries;
+    std::vector<WelcomeList> m_welcomeLists;
     std::vector<TranslatableText> m_aboutTexts;
     std::vector<DockEntry> m_docks;
     std::vector<WorkbenchEntry> m_workbenches;

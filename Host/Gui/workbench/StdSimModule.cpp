@@ -47,7 +47,7 @@ MenuItem* makeEditMenu()
     return makeGroup<MenuItem>("&Edit",
                                {{"Undo", line, {"Std_Undo", "Std_Redo"}},
                                 {"Clipboard", line, {"Std_Copy", "Std_Paste", "Std_DuplicateSelection", "Std_Delete"}},
-                                {"Select", line, {"Std_SelectAll", "Std_Rename"}},
+                                {"Select", line, {"Std_SelectAll", "Std_Rename", "Std_Color"}},
                                 {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}}});
 }
 
@@ -60,7 +60,10 @@ MenuItem* makeViewMenu()
 {
     return makeGroup<MenuItem>("&View",
                                {{"Docks", line, {"Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog"}},
+                                {"Bars", noLine, {"Std_ToolBars"}},
+                                {"Panes", line, {"Std_NextPane", "Std_PreviousPane"}},
                                 {"Messages", line, {"Std_ClearMessages"}},
+                                {"Language", line, {"Std_Language"}},
                                 {"Workbench", line, {}}});
 }
 
@@ -73,7 +76,7 @@ MenuItem* makeWindowsMenu()
 
 MenuItem* makeHelpMenu()
 {
-    return makeGroup<MenuItem>("&Help", {{"About", line, {"Std_About"}}});
+    return makeGroup<MenuItem>("&Help", {{"Guide", line, {}}, {"About", line, {"Std_About"}}});
 }
 
 } // namespace
@@ -121,8 +124,7 @@ ToolBarGadget* StdSimModule::build_docking_windows() const
 {
     auto docks = std::make_unique<ToolBarGadget>();
     *docks << "ProjectExplorer"
-           << "PropertyPanel"
-           << "MessageLog";
+           << "PropertyPanel";
     return docks.release();
 }
 

@@ -80,9 +80,11 @@ void addContributed(Tree& root, const std::vector<CommandPlace>& places, const S
     }
 }
 
-QString titleOf(const ToolBarGadget& gadget)
+/// A bar above and a bar below may have the same name; menus list both.
+QString titleOf(const ToolBarGadget& gadget, Qt::ToolBarArea area)
 {
-    return QCoreApplication::translate("Workbench", gadget.command().c_str());
+    const QString title = QCoreApplication::translate("Workbench", gadget.command().c_str());
+    return area == Qt::BottomToolBarArea ? QCoreApplication::translate("Workbench", "%1 (below)").arg(title) : title;
 }
 
 /// The layout is stored by these names. A bar above and a bar below with the same title are two bars.
@@ -135,7 +137,7 @@ std::unique_ptr<ToolBarGadget> WorkbenchBars::makeToolBars(const StdSimModule& w
 void WorkbenchBars::addToolBars(const ToolBarGadget& bars, Qt::ToolBarArea area) const
 {
     for (const auto& gadget : bars.items()) {
-        auto bar = std::make_unique<QToolBar>(titleOf(*gadget), &m_window);
+        auto bar = std::make_unique<QToolBar>(titleOf(*gadget, area), &m_window);
         MenuBuilder(m_commands, m_window).fillToolBar(*bar, *gadget);
         if (bar->actions().isEmpty())
             continue;

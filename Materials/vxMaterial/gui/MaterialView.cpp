@@ -20,6 +20,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QTabBar>
 
 #include <algorithm>
 #include <utility>
@@ -174,6 +175,12 @@ void MaterialView::makeToolBoxesReachable()
     setTabOrder(lastOfBuild, m_ui->tableView);
     // The window itself does not take the keyboard focus.
     setFocusProxy(m_ui->tabWidget);
+    keepTabsVisible();
+}
+
+void MaterialView::keepTabsVisible()
+{
+    m_ui->tabWidget->setMinimumWidth(m_ui->tabWidget->tabBar()->sizeHint().width());
 }
 
 void MaterialView::connectSignals()
@@ -576,6 +583,7 @@ void MaterialView::retranslate()
     m_ui->retranslateUi(centralWidget());
     namePageHeaders(*m_ui->toolBoxLibrary);
     namePageHeaders(*m_ui->toolBoxBuild);
+    keepTabsVisible();
     asOneEdit([this] { m_ui->tableView->retranslate(); });
     for (const auto& [item, material] : m_libraryItems)
         if (material != nullptr)

@@ -52,6 +52,14 @@ QListWidget* listOf(const QToolBox& box, int page)
     return box.widget(page)->findChild<QListWidget*>();
 }
 
+/// Lets a page of any height show a list, with the scroll bars of the list only.
+void shrinkToFewRows(QListWidget& list)
+{
+    constexpr int rows = 2;
+    constexpr int characters = 8;
+    list.setMinimumSize(characters * list.fontMetrics().averageCharWidth(), rows * list.fontMetrics().lineSpacing());
+}
+
 } // namespace
 
 QWidget* makePagesReachable(const QToolBox& box, QWidget* before)
@@ -63,6 +71,7 @@ QWidget* makePagesReachable(const QToolBox& box, QWidget* before)
         headers[page]->setFocusPolicy(Qt::TabFocus);
         new FocusFrame(*headers[page]); // the header owns the frame
         QListWidget* const list = listOf(box, page);
+        shrinkToFewRows(*list);
         QWidget::setTabOrder(before, headers[page]);
         QWidget::setTabOrder(headers[page], list);
         before = list;
@@ -75,8 +84,10 @@ void namePageHeaders(const QToolBox& box)
 {
     const QList<QAbstractButton*> headers = headersOf(box);
     for (int page = 0; page < headers.size(); ++page)
-        if (const QListWidget* const list = listOf(box, page))
+        if (const QListWidget* const list = listOf(box, page)) {
             headers[page]->setAccessibleName(list->accessibleName());
+            headers[page]->setToolTip(list->accessibleName());
+        }
 }
 
 } // namespace MatGui

@@ -10,6 +10,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyle>
 
 #include <algorithm>
 #include <limits>
@@ -31,6 +32,13 @@ QStringList wordsOf(int id)
     for (const std::string& word : vxMat::getAllowedWords(id))
         words << translatePropertyText(word, PropertyText::Value);
     return words;
+}
+
+/// Makes the list of completions wide enough for its words, since it has the width of the cell otherwise.
+void widenToWords(QAbstractItemView& list)
+{
+    const int border = 2 * list.frameWidth() + list.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &list);
+    list.setMinimumWidth(list.sizeHintForColumn(0) + border);
 }
 
 /// Writes the selected word of the list of completions into the line if the list is open.
@@ -59,6 +67,7 @@ QWidget* SheetTableDelegate::createEditor(QWidget* parent, const QStyleOptionVie
     if (!words.isEmpty()) {
         auto* const completer = new QCompleter(words, editor);
         completer->setCaseSensitivity(Qt::CaseInsensitive);
+        widenToWords(*completer->popup());
         editor->setCompleter(completer);
     }
     connect(editor, SIGNAL(returnPressed()), this, SLOT(commitAndCloseEditor()));

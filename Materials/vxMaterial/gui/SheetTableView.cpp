@@ -481,8 +481,9 @@ int SheetTableView::fittingWidth(int column) const
     const int table = viewport()->width();
     const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
     const int enough = std::max(table * 3 / 10, longestWord(column));
-    const int others =
-        column == Value ? columnWidth(Name) + horizontalHeader()->sectionSizeHint(Description) : table / 2;
+    const int description =
+        std::max(horizontalHeader()->sectionSizeHint(Description), std::min(longestWord(Description), table * 3 / 10));
+    const int others = column == Value ? columnWidth(Name) + description : table / 2;
     return std::min({whole, enough, std::max(table * 3 / 10, table - others)});
 }
 

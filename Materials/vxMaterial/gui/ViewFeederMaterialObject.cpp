@@ -3,6 +3,7 @@
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/PictureFactory.h"
+#include "Gui/WindowTitle.h"
 #include "Obj/Project.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/project/DocumentMaterial.h"
@@ -128,10 +129,7 @@ void ViewFeederMaterialObject::showLabel(const Mat::MaterialObject& object)
 {
     if (materialView == nullptr)
         return;
-    // In a window title, Qt replaces "[*]" by the mark of a modified window, and "[*][*]" by "[*]".
-    const QString mark = QStringLiteral("[*]");
-    QString label = QString::fromStdString(object.label.getValue());
-    materialView->setWindowTitle(label.replace(mark, mark + mark) + mark);
+    materialView->setWindowTitle(Gui::markedTitle(QString::fromStdString(object.label.getValue())));
 }
 
 bool ViewFeederMaterialObject::isOpen() const

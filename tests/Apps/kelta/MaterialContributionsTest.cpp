@@ -64,13 +64,14 @@ TEST_F(Materials, HaveTheirCommandsInTheMenus)
     EXPECT_THAT(menus(), ElementsAre("&File", "&Edit", "&Project", "&View", "&Material", "&Windows", "&Help"));
     EXPECT_THAT(menu("&File"), ElementsAre("Mat_NewDoc", "Std_Open", "Std_OpenRecent", "-", "Std_Save", "Std_SaveAs",
                                            "-", "Std_ImportDocument", "-", "Std_CloseProject", "Std_Quit"));
-    EXPECT_THAT(menu("&Edit"),
-                ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
-                            "Std_Delete", "-", "Std_SelectAll", "Std_Rename", "-", "Std_Suppress", "Std_Unsuppress"));
+    EXPECT_THAT(menu("&Edit"), ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste",
+                                           "Std_DuplicateSelection", "Std_Delete", "-", "Std_SelectAll", "Std_Rename",
+                                           "Std_Color", "-", "Std_Suppress", "Std_Unsuppress"));
     EXPECT_THAT(menu("&Project"), ElementsAre("Mat_AddMaterial", "Mat_Edit", "-", "Std_ImportDocument", "Mat_Import",
                                               "-", "Std_Collect"));
     EXPECT_THAT(menu("&View"),
-                ElementsAre("Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "-", "Std_ClearMessages"));
+                ElementsAre("Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "Std_ToolBars", "-",
+                            "Std_NextPane", "Std_PreviousPane", "-", "Std_ClearMessages", "-", "Std_Language"));
     EXPECT_THAT(menu("&Material"), ElementsAre("Mat_Export", "-", "Mat_Check"));
 }
 

@@ -120,8 +120,8 @@ TEST(ExchangeImport, KeepsTheDataOfAPropertyThatTheCatalogueDoesNotKnow)
     EXPECT_EQ(property.value, 1.2e-5);
     EXPECT_EQ(property.unit, "-");
     EXPECT_EQ(property.category, vxMat::ePropertyCategory::Undefined);
-    EXPECT_THAT(imported.doubts, ElementsAre(R"(material 7 "M": property 201 "Thermal Expansion": the catalogue does )"
-                                             "not know it; its unit, description and category are lost"));
+    EXPECT_THAT(imported.doubts, ElementsAre(R"(material 7 "M": property 201 "Thermal Expansion": it is not in the )"
+                                             "catalogue; its unit, description and category are lost"));
 }
 
 TEST(ExchangeImport, KeepsANameThatDiffersFromTheCatalogueWithADoubt)

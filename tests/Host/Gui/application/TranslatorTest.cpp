@@ -9,6 +9,8 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QLibraryInfo>
+#include <QLocale>
+#include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -150,6 +152,36 @@ TEST_F(Language, SaysWhenItChanges)
     Translator::instance()->setLanguage(QStringLiteral("de"));
     Translator::instance()->refresh();
     EXPECT_EQ(spy.count(), 2);
+}
+
+TEST_F(Language, IsChosenInViewAtOnceAndKeptForTheNextStart)
+{
+    QMenu* const menu = commands().findCommand("Std_Language")->action()->menu();
+    ASSERT_NE(menu, nullptr);
+    const auto choose = [menu](const QString& text) {
+        Q_EMIT menu->aboutToShow();
+        for (QAction* const action : menu->actions())
+            if (action->text() == text)
+                action->trigger();
+        QCoreApplication::processEvents();
+    };
+    Q_EMIT menu->aboutToShow();
+    QStringList texts;
+    for (const QAction* const action : menu->actions())
+        if (!action->isSeparator())
+            texts << action->text();
+    EXPECT_EQ(texts, QStringList({"&System", "Deutsch", "English", QStringLiteral("简体中文")}));
+    EXPECT_TRUE(menu->actions()[0]->isChecked());
+
+    choose(QStringLiteral("Deutsch"));
+    EXPECT_EQ(menus().first(), "&Datei");
+    EXPECT_EQ(Translator::chosenLanguage(), "de");
+    Translator::instance()->setLanguage(QStringLiteral("en"));
+    Translator::instance()->restoreLanguage();
+    EXPECT_EQ(Translator::instance()->language(), "de");
+    EXPECT_TRUE(run("Std_Language"));
+    EXPECT_EQ(Translator::chosenLanguage(), "");
+    EXPECT_EQ(Translator::instance()->language(), QLocale::system().name());
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -490,6 +491,27 @@ TEST_F(StandardCommands, ClearTheMessages)
     Kelta::MessageLog::information(QStringLiteral("hello"));
     EXPECT_TRUE(run("Std_ClearMessages"));
     EXPECT_TRUE(Kelta::MessageLog::instance().messages().empty());
+}
+
+TEST_F(StandardCommands, ChooseOneColorForAllSelectedObjectsInOneStep)
+{
+    vxtest::TestProject& project = makeProject();
+    vxtest::TestObject& first = addObject(project);
+    vxtest::TestObject& second = addObject(project);
+    EXPECT_FALSE(isApplicable("Std_Color"));
+    select({&first, &second});
+    undoStack().clear();
+    ASSERT_TRUE(isApplicable("Std_Color"));
+    EXPECT_TRUE(run("Std_Color"));
+    auto* const dialog = window->findChild<QColorDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    dialog->setCurrentColor(QColor(0, 255, 0));
+    dialog->accept();
+    EXPECT_EQ(nodeOf(first).color.getValue(), (Obj::Color{0.0F, 1.0F, 0.0F, 0.0F}));
+    EXPECT_EQ(nodeOf(second).color.getValue(), nodeOf(first).color.getValue());
+    EXPECT_EQ(undoStack().count(), 1);
+    undoStack().undo();
+    EXPECT_EQ(nodeOf(second).color.getValue(), (Obj::Color{0.5F, 0.25F, 1.0F, 0.0F}));
 }
 
 } // namespace

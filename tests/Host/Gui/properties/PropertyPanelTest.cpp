@@ -3,6 +3,7 @@
 #include "GuiTesting.h"
 
 #include <QAbstractItemView>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -13,6 +14,7 @@ class Panel : public vxtest::Host
 protected:
     Panel() : project(makeProject()), object(addObject(project, "Beam"))
     {
+        window->resize(Gui::MainWindow::usualSize); // all rows are visible
         window->activateWindow();
         EXPECT_TRUE(vxtest::waitUntilActive(window.get()));
         undoStack().clear();
@@ -81,7 +83,7 @@ TEST_F(Panel, ShowsPropertiesOfTheObjectAndItsNodeByGroup)
     EXPECT_EQ(value("Label"), "Beam");
     EXPECT_EQ(value("Count"), "3");
     EXPECT_EQ(value("Fixed"), "as it is");
-    EXPECT_EQ(value("Color"), "0.5, 0.25, 1, 0");
+    EXPECT_EQ(value("Color"), "#8040ff");
 }
 
 TEST_F(Panel, TellsWhatAPropertyMeans)
@@ -125,10 +127,28 @@ TEST_F(Panel, EditsALabel)
 
 TEST_F(Panel, EditsTheColourOfTheNodeUndoably)
 {
-    ASSERT_TRUE(edit("Color", "1, 0, 0.5, 1"));
-    EXPECT_EQ(nodeOf(object).color.getValue(), (Obj::Color{1.0F, 0.0F, 0.5F, 1.0F}));
+    EXPECT_FALSE(edit("Color", "1, 0, 0.5, 1")) << "a dialog opens, and no text field";
+    auto* const dialog = panel().findChild<QColorDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->currentColor(), QColor(0x80, 0x40, 0xff));
+    dialog->setCurrentColor(QColor(255, 0, 51));
+    dialog->accept();
+    EXPECT_EQ(nodeOf(object).color.getValue(), (Obj::Color{1.0F, 0.0F, 0.2F, 0.0F}));
+    EXPECT_TRUE(vxtest::waitFor([this] { return value("Color") == "#ff0033"; }));
     undoStack().undo();
     EXPECT_EQ(nodeOf(object).color.getValue(), (Obj::Color{0.5F, 0.25F, 1.0F, 0.0F}));
+}
+
+TEST_F(Panel, KeepsAColourWhoseDialogIsCancelled)
+{
+    edit("Color", "");
+    auto* const dialog = panel().findChild<QColorDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    dialog->setCurrentColor(Qt::red);
+    dialog->reject();
+    EXPECT_EQ(nodeOf(object).color.getValue(), (Obj::Color{0.5F, 0.25F, 1.0F, 0.0F}));
+    EXPECT_EQ(undoStack().count(), 0);
 }
 
 TEST_F(Panel, LetsWhatIsOnlyReadBe)

@@ -345,7 +345,8 @@ TEST_F(Explorer, SurvivesTheRemovalOfTheRowThatIsRenamed)
 
 TEST_F(Explorer, OffersWhatTheNodeDoes)
 {
-    EXPECT_EQ(contextMenuAt(placeOf(first)), QStringList({"Show it", "-", "&Copy", "-", "&Suppress"}));
+    EXPECT_EQ(contextMenuAt(placeOf(first)),
+              QStringList({"Show it", "-", "&Copy", "-", "&Suppress", "-", "C&olor..."}));
 }
 
 TEST_F(Explorer, HandsTheEditModeOfAChosenActionToTheNode)

@@ -223,6 +223,31 @@ TEST_F(Tree, ShowsWhetherAnObjectIsReadyEmptyOrSuppressed)
     EXPECT_FALSE(index.data(Qt::ForegroundRole).isValid());
 }
 
+TEST_F(Tree, ShowsTheColourOfAnObject)
+{
+    vxtest::TestObject& object = addObject(makeProject());
+    tree.synchronize();
+    const auto pixel = [&] {
+        const QImage picture = tree.indexOf(object).data(Qt::DecorationRole).value<QIcon>().pixmap(32).toImage();
+        return picture.pixelColor(7, 24);
+    };
+    EXPECT_EQ(pixel(), QColor(0x80, 0x40, 0xff));
+    nodeOf(object).color.setValue(Obj::Color{1.0F, 0.0F, 0.0F, 0.0F});
+    EXPECT_EQ(pixel(), QColor(255, 0, 0));
+}
+
+TEST_F(Tree, ShowsMarkupInALabelAsItIs)
+{
+    vxtest::TestObject& object = addObject(makeProject());
+    object.label.setValue("<b>5 & 6</b>");
+    tree.synchronize();
+    EXPECT_EQ(tree.indexOf(object).data().toString(), "<b>5 & 6</b>");
+    EXPECT_TRUE(tree.indexOf(object)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .startsWith(QStringLiteral("<qt>&lt;b&gt;5 &amp; 6&lt;/b&gt;<br>")));
+}
+
 TEST_F(Tree, HoldsTenThousandObjects)
 {
     vxtest::TestProject& project = makeProject();

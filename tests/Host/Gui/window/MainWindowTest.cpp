@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QTabBar>
 #include <QToolBar>
@@ -43,13 +44,92 @@ TEST_F(MainWindowTest, IsKnownWhileItLives)
     EXPECT_EQ(Gui::MainWindow::get_main_window_inst(), nullptr);
 }
 
-TEST_F(MainWindowTest, HasExplorerPropertiesAndMessagesAroundTheDocuments)
+TEST_F(MainWindowTest, HasExplorerAndPropertiesBesideTheDocuments)
 {
-    for (const char* const name : {"ProjectExplorer", "PropertyPanel", "MessageLog"}) {
+    for (const char* const name : {"ProjectExplorer", "PropertyPanel"}) {
         const auto* const dock = window->findChild<QDockWidget*>(QLatin1String(name));
         ASSERT_NE(dock, nullptr) << name;
         EXPECT_TRUE(dock->isVisible());
     }
+}
+
+TEST_F(MainWindowTest, FitsIntoTheScreenAtItsFirstStart)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    ASSERT_LT(screen.width(), Gui::MainWindow::usualSize.width()) << "the screen of the test is small";
+    EXPECT_LE(window->frameGeometry().width(), screen.width());
+    EXPECT_LE(window->frameGeometry().height(), screen.height());
+}
+
+TEST_F(MainWindowTest, HidesTheMessagesUntilThereIsAWarning)
+{
+    Kelta::MessageLog::instance().clear();
+    window.reset();
+    window = std::make_unique<Gui::MainWindow>(contributions);
+    window->setWorkbench("Gui::StdSimModule");
+    window->show();
+    const auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
+    EXPECT_FALSE(messages->isVisible());
+    Kelta::MessageLog::information(QStringLiteral("done"));
+    EXPECT_FALSE(messages->isVisible());
+    Kelta::MessageLog::warning(QStringLiteral("look"));
+    EXPECT_TRUE(messages->isVisible());
+    window->saveLayout();
+
+    Kelta::MessageLog::instance().clear();
+    window->restoreLayout();
+    EXPECT_FALSE(messages->isVisible()) << "there is nothing to read yet";
+}
+
+TEST_F(MainWindowTest, HasCheckMarksForItsDocksInView)
+{
+    QAction* const properties = commands().findCommand("Std_PropertyPanel")->action();
+    EXPECT_TRUE(properties->isCheckable());
+    EXPECT_TRUE(vxtest::waitFor([&] { return properties->isChecked(); }));
+    properties->trigger();
+    EXPECT_FALSE(window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->isVisible());
+    EXPECT_TRUE(vxtest::waitFor([&] { return !properties->isChecked(); }));
+    window->findChild<QDockWidget*>(QStringLiteral("PropertyPanel"))->show();
+    EXPECT_TRUE(vxtest::waitFor([&] { return properties->isChecked(); }));
+}
+
+TEST_F(MainWindowTest, ShowsAndHidesItsToolbarsFromView)
+{
+    QMenu* const bars = commands().findCommand("Std_ToolBars")->action()->menu();
+    ASSERT_NE(bars, nullptr);
+    Q_EMIT bars->aboutToShow();
+    QStringList titles;
+    for (const QAction* const action : bars->actions())
+        titles << action->text();
+    EXPECT_EQ(titles, QStringList({"Edit", "Messages (below)"}));
+    const auto* const edit = window->findChild<QToolBar*>(QStringLiteral("Edit"));
+    EXPECT_TRUE(bars->actions()[0]->isChecked());
+    bars->actions()[0]->trigger();
+    EXPECT_FALSE(edit->isVisible());
+    EXPECT_TRUE(run("Std_ToolBars"));
+    EXPECT_TRUE(edit->isVisible());
+}
+
+TEST_F(MainWindowTest, ShowsLabelsInTabsAsTheyAre)
+{
+    vxtest::TestProject& project = makeProject();
+    for (const char* const label : {"A & B", "x[*]y", "<b>bold</b>", "&Save[*]"}) {
+        vxtest::TestObject& object = addObject(project, label);
+        object.label.setValue(label);
+        auto* const editor = new vxtest::TestEditor;
+        editor->editObject(*Gui::GuiApplication::Instance->get_project(&project), object);
+        window->add_mdi_window(editor);
+        const int tab = tabs()->count() - 1;
+        const QString shown = QString(label).replace(QLatin1Char('&'), QStringLiteral("&&"));
+        EXPECT_EQ(tabs()->tabText(tab), shown) << "a tab shows && as &";
+        editor->setWindowModified(true);
+        EXPECT_EQ(tabs()->tabText(tab), shown + QLatin1Char('*'));
+        editor->setWindowModified(false);
+        EXPECT_EQ(tabs()->tabText(tab), shown);
+    }
+    window->tileWindows();
+    window->tabWindows();
+    EXPECT_EQ(tabs()->tabText(0), "A && B");
 }
 
 TEST_F(MainWindowTest, ShowsDocumentsAsTabsWithTheirTitles)

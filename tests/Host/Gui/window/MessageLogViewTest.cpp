@@ -12,6 +12,14 @@ class LogView : public vxtest::Host
 protected:
     LogView() { view().clearMessages(); }
 
+    void focusView() const
+    {
+        window->showMessages();
+        window->activateWindow();
+        ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
+        view().setFocus();
+    }
+
     Gui::MessageLogView& view() const { return window->getMessageLog(); }
 };
 
@@ -37,14 +45,43 @@ TEST_F(LogView, CopiesWhatIsSelected)
 {
     Kelta::MessageLog::error(QStringLiteral("one"));
     Kelta::MessageLog::error(QStringLiteral("two"));
-    view().selectAll();
+    focusView();
+    QTest::keySequence(&view(), QKeySequence(QKeySequence::SelectAll));
     QTest::keySequence(&view(), QKeySequence(QKeySequence::Copy));
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "one\ntwo");
+    EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(),
+                testing::MatchesRegex("[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\tone\n[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\ttwo"));
+}
+
+TEST_F(LogView, CopiesFromItsContextMenuToo)
+{
+    Kelta::MessageLog::error(QStringLiteral("one"));
+    EXPECT_EQ(view().contextMenuPolicy(), Qt::ActionsContextMenu);
+    QStringList entries;
+    for (QAction* const action : view().actions())
+        entries << action->text();
+    ASSERT_EQ(entries, QStringList({"&Copy", "Select &all", "C&lear messages"}));
+    view().actions()[1]->trigger();
+    view().actions()[0]->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(QStringLiteral("\tone")));
+    view().actions()[2]->trigger();
+    EXPECT_EQ(view().count(), 0);
+}
+
+TEST_F(LogView, ShowsWhenAMessageCame)
+{
+    const QDateTime before = QDateTime::currentDateTime();
+    Kelta::MessageLog::error(QStringLiteral("one"));
+    const QDateTime time = Kelta::MessageLog::instance().messages().back().time;
+    EXPECT_LE(before, time);
+    EXPECT_LE(time, QDateTime::currentDateTime());
+    EXPECT_EQ(view().item(0)->data(Qt::AccessibleTextRole).toString(),
+              time.toString(QStringLiteral("hh:mm:ss")) + QStringLiteral(" one"));
 }
 
 TEST_F(LogView, LeavesTheClipboardAloneWhenNothingIsSelected)
 {
     QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
+    focusView();
     view().clearSelection();
     QTest::keySequence(&view(), QKeySequence(QKeySequence::Copy));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "mine");

@@ -173,4 +173,34 @@ TEST_F(Welcome, OffersWhatSeveralModulesOfferUnderATitleOfItsOwn)
     EXPECT_EQ(text(), "Begin with a project of probes.\nOr with sensors.");
 }
 
+TEST_F(Welcome, ListsWhatModulesListUnderItsButtons)
+{
+    QStringList entries{"a & b.txt"};
+    QString opened;
+    contributions.addWelcomeList({WelcomeStep::NoProject, {"Test", "Recent probes"}, [&] {
+                                      std::vector<Gui::WelcomeLink> links;
+                                      for (const QString& entry : entries)
+                                          links.push_back({entry, "<i>" + entry, [&opened, entry] { opened = entry; }});
+                                      return links;
+                                  }});
+    window->updateCommands();
+    const auto links = [this] {
+        QList<QPushButton*> shown;
+        for (QPushButton* const link : page()->findChildren<QPushButton*>(QStringLiteral("welcomeLink")))
+            if (link->isVisible())
+                shown << link;
+        return shown;
+    };
+    ASSERT_EQ(links().size(), 1);
+    EXPECT_EQ(links()[0]->text(), "a && b.txt");
+    EXPECT_TRUE(links()[0]->toolTip().contains(QStringLiteral("&lt;i&gt;")));
+    QTest::mouseClick(links()[0], Qt::LeftButton);
+    EXPECT_EQ(opened, "a & b.txt");
+    EXPECT_TRUE(page()->findChildren<QLabel*>()[2]->isVisible());
+    entries.clear();
+    window->updateCommands();
+    EXPECT_TRUE(links().isEmpty());
+    EXPECT_FALSE(page()->findChildren<QLabel*>()[2]->isVisible());
+}
+
 } // namespace

@@ -77,7 +77,8 @@ TEST_F(Bars, OfOneTitleAboveAndBelowHaveDifferentNames)
     const auto* const above = window->findChild<QToolBar*>(QStringLiteral("Messages"));
     const auto* const below = window->findChild<QToolBar*>(QStringLiteral("BottomMessages"));
     ASSERT_TRUE(above != nullptr && below != nullptr);
-    EXPECT_EQ(above->windowTitle(), below->windowTitle());
+    EXPECT_EQ(above->windowTitle(), "Messages");
+    EXPECT_EQ(below->windowTitle(), "Messages (below)");
     EXPECT_EQ(textsOf(*above), QStringList({"&Paste"}));
     EXPECT_EQ(textsOf(*below), QStringList({"C&lear messages"}));
 }

@@ -1,0 +1,57 @@
+# Checks the entry of the program in the menus of desktops and the type of its project files.
+include(${CMAKE_CURRENT_LIST_DIR}/PackageTesting.cmake)
+install_build()
+set(share ${WORK}/installed/share)
+
+function(require_file path)
+    if(NOT EXISTS ${path})
+        message(FATAL_ERROR "${path} is not installed")
+    endif()
+endfunction()
+
+# Sets `variable` to the value of a key of the desktop entry.
+set(entry ${share}/applications/kelta.desktop)
+require_file(${entry})
+function(read_key key variable)
+    file(STRINGS ${entry} lines REGEX "^${key}=")
+    string(REGEX REPLACE "^${key}=" "" value "${lines}")
+    set(${variable} "${value}" PARENT_SCOPE)
+endfunction()
+
+read_key(Exec exec)
+string(REGEX MATCH "^[^ ]+" program "${exec}")
+require_file(${WORK}/installed/bin/${program})
+read_key(Icon icon)
+require_file(${share}/icons/hicolor/scalable/apps/${icon}.svg)
+
+# The type that the entry opens is the type of the files.
+require_file(${share}/mime/packages/kelta.xml)
+file(READ ${share}/mime/packages/kelta.xml types)
+read_key(MimeType type)
+string(REGEX REPLACE "\\\\?;$" "" type "${type}")
+if(NOT types MATCHES "<mime-type type=\"${type}\">.*<glob pattern=\"\\*\\.vxmat\"/>")
+    message(FATAL_ERROR "kelta.xml does not give the type \"${type}\" to *.vxmat")
+endif()
+string(REPLACE "/" "-" picture ${type})
+require_file(${share}/icons/hicolor/scalable/mimetypes/${picture}.svg)
+
+find_program(validator desktop-file-validate)
+if(validator)
+    run(${validator} ${entry})
+    if(output)
+        message(FATAL_ERROR "${output}")
+    endif()
+endif()
+find_program(updater update-mime-database)
+if(updater)
+    run(${updater} ${share}/mime)
+    file(STRINGS ${share}/mime/globs2 globs REGEX ":${type}:")
+    if(NOT globs MATCHES "\\*\\.vxmat$")
+        message(FATAL_ERROR "the database of types does not have *.vxmat: ${globs}")
+    endif()
+endif()
+
+# The program shows these files.
+foreach(file IN ITEMS doc/vxMaterial/kelta.md vxMaterial/examples/frame.vxmat)
+    require_file(${share}/${file})
+endforeach()

@@ -297,6 +297,10 @@ std::optional<QString> Batch::invokeCommand(const QString& name, const QStringLi
         return tr("there is no command \"%1\"").arg(name);
     if (arguments.size() > 1)
         return tr("%1 takes at most one argument, the file that it asks for").arg(name);
+    // A list has no keyboard focus; what it selects in the tree is what its commands act on.
+    Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
+    if (window != nullptr && (command->getTypeFlags() & Gui::CommandType::onTree) != 0)
+        window->set_active_mdi_window(nullptr);
     if (!command->canRun())
         return tr("%1 cannot be done now").arg(name);
     const QString file = arguments.value(0);

@@ -25,9 +25,9 @@ void NeighbourSelection::noteRemoval(const QModelIndex& parent, int first, int l
     // The neighbour of a project is another project, on which the user does not work.
     if (!parent.isValid())
         return;
-    const QModelIndexList selected = m_tree.selectionModel()->selectedIndexes();
-    const bool isSelected = std::any_of(selected.begin(), selected.end(), [&](const QModelIndex& index) {
-        return index.parent() == parent && index.row() >= first && index.row() <= last;
+    const QItemSelection selected = m_tree.selectionModel()->selection();
+    const bool isSelected = std::any_of(selected.begin(), selected.end(), [&](const QItemSelectionRange& range) {
+        return range.bottom() >= first && range.top() <= last && range.parent() == parent;
     });
     if (!isSelected)
         return;

@@ -145,8 +145,11 @@ void MainWindow::remove_mdi_window(MDIWindow* window)
 void MainWindow::set_active_mdi_window(MDIWindow* window)
 {
     m_documents->activate(window);
-    if (window != nullptr)
-        m_focus = window;
+    m_focus = window;
+    if (window == nullptr) {
+        m_explorer->setFocus();
+        m_focus = m_explorer;
+    }
 }
 
 MDIWindow* MainWindow::get_active_mdi_window() const

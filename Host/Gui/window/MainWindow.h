@@ -63,7 +63,7 @@ public:
     void add_mdi_window(MDIWindow* window);
     /// Removes a document window without asking, and destroys it. Does nothing if it is not a document window.
     void remove_mdi_window(MDIWindow* window);
-    /// Brings a document window to the front and gives it the keyboard focus.
+    /// Brings a document window to the front and gives it the keyboard focus; null gives it to the project explorer.
     void set_active_mdi_window(MDIWindow* window);
     /// Returns the document window in front; null if there is none.
     MDIWindow* get_active_mdi_window() const;

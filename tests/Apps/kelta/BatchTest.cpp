@@ -142,6 +142,13 @@ TEST_F(Batch, OpensEditorsAgainAfterTheyWereClosed)
     EXPECT_EQ(outcome.status, 0) << errorsOf(outcome);
 }
 
+TEST_F(Batch, ActsOnTheSelectionInTheTreeWhileAnEditorIsOpen)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\nMat_Edit\nStd_DuplicateSelection\n"
+                                     "Std_Copy\nStd_Paste\nMat_Edit\nStd_Delete\n");
+    EXPECT_EQ(outcome.status, 0) << errorsOf(outcome);
+}
+
 TEST_F(Batch, DeletesAndUndoes)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nMat_AddMaterial\nStd_SelectAll\nMat_Edit\n"

@@ -204,12 +204,16 @@ void doubtLabels(const ProjectRecord& project, std::vector<std::string>& doubts)
 void removeSecondLabels(ProjectRecord& project, std::vector<std::string>& doubts)
 {
     constexpr const char* name = "Label";
+    const auto hasSecond = [](const ObjectRecord& object) {
+        return object.properties.isObject() && object.properties.isMember(name);
+    };
+    if (std::none_of(project.objects.begin(), project.objects.end(), hasSecond))
+        return;
     const std::vector<std::string> paths = pathsOf(project.objects);
     for (std::size_t i = 0; i < project.objects.size(); ++i) {
-        Json::Value& properties = project.objects[i].properties;
-        if (!properties.isObject() || !properties.isMember(name))
+        if (!hasSecond(project.objects[i]))
             continue;
-        properties.removeMember(name);
+        project.objects[i].properties.removeMember(name);
         doubts.push_back(tr(R"("%1" is left out; the label of the object is %2.)")
                              .arg(toQString(paths[i] + ".properties." + name), quoted(project.objects[i].label))
                              .toStdString());

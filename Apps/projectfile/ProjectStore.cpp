@@ -226,7 +226,7 @@ void syncFolder(const QString& folder)
 QString lockPathOf(const QString& path)
 {
     const QFileInfo target(targetOf(path));
-    const QString lockPath = QDir(target.path()).filePath(QStringLiteral(".%1.lock").arg(target.fileName()));
+    QString lockPath = QDir(target.path()).filePath(QStringLiteral(".%1.lock").arg(target.fileName()));
     // Reading a pipe or a device may never begin or never end.
     struct stat status = {};
     if (stat(systemName(lockPath).constData(), &status) == 0 && !S_ISREG(status.st_mode))

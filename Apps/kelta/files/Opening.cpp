@@ -44,6 +44,12 @@ Obj::OwnedProject createProject(const projectfile::ProjectRecord& record)
     return std::make_unique<Obj::PlaceholderProject>(record.className, recordOfProject(record));
 }
 
+/// Returns the name of a project, without a part behind a zero character, which names of open projects cannot have.
+std::string nameOf(const projectfile::ProjectRecord& record)
+{
+    return record.name.substr(0, record.name.find('\0'));
+}
+
 /// Reads a project file. Returns nothing if the file is an exchange document.
 std::optional<projectfile::ProjectRecord> readRecord(const QString& path, projectfile::FileStamp& stamp)
 {
@@ -145,7 +151,7 @@ Obj::Project* Opening::makeProject(projectfile::ProjectRecord& record, const QSt
     {
         const Sessions::Filling filling(m_sessions);
         project = vxMsg::MessageProxy::instance().openProject(
-            createProject(record), record.name.c_str(), // without a part behind a zero character
+            createProject(record), nameOf(record),
             [&](Obj::Project& opened) { restoreProject(opened, record, kept, warnings); });
     }
     if (project == nullptr)
@@ -153,7 +159,7 @@ Obj::Project* Opening::makeProject(projectfile::ProjectRecord& record, const QSt
     if (record.name != project->get_name()) {
         // The file keeps its name, although the open project cannot have it.
         kept.name = {record.name, project->get_name()};
-        warnings.push_back(tr("The project \"%1\" is shown as \"%2\".")
+        warnings.push_back(tr(R"(The project "%1" is shown as "%2".)")
                                .arg(QString::fromStdString(record.name), QString::fromUtf8(project->get_name()))
                                .toStdString());
     }

@@ -68,6 +68,7 @@ bool consent(const QString& title, const QString& text, const QString& button)
     QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Cancel, Gui::MainWindow::get_main_window_inst());
     box.setTextFormat(Qt::PlainText);
     const QAbstractButton* const yes = box.addButton(button, QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == yes;
 }
@@ -78,7 +79,7 @@ bool mayOpen(const QString& path)
     const auto open = materialProjects();
     return open.empty() ||
            (consent(tr("Open project"),
-                    tr("Only one material project can be used at a time. Close \"%1\" and open \"%2\"?")
+                    tr(R"(Only one material project can be used at a time. Close "%1" and open "%2"?)")
                         .arg(QString::fromUtf8(open.front()->get_name()), QDir::toNativeSeparators(path)),
                     tr("&Close and open")) &&
             closeProjects());
@@ -137,7 +138,7 @@ QString findUse(const QString& path)
         return {};
     for (const Obj::Project* const project : Obj::Application::get_projects())
         if (const auto* const files = FileService::instance(); files != nullptr && files->getFile(*project) == file)
-            return tr("\"%1\" is the file of the project \"%2\", which is open.")
+            return tr(R"("%1" is the file of the project "%2", which is open.)")
                 .arg(QDir::toNativeSeparators(path), QString::fromUtf8(project->get_name()));
     projectfile::FileLock lock(file);
     return lock.tryLock() || lock.holder().isEmpty()

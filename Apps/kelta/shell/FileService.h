@@ -28,8 +28,8 @@ public:
     /// Sets the service, and destroys the earlier service; null for none.
     static void setInstance(std::unique_ptr<FileService> service);
 
-    /// Opens a project file and selects the project. A project that is open already is only selected. Returns false if
-    /// the file is not open afterwards.
+    /// Opens a project file and selects the project. A project that is open already is only selected. Offers to import
+    /// an exchange document. Returns false if the file is neither open nor imported afterwards.
     virtual bool open(const QString& path) = 0;
     /// Asks about all changes that are not saved. Returns false if the user does not want to end the program.
     virtual bool mayEnd() = 0;

@@ -70,4 +70,14 @@ TEST_F(FileDialogTest, DoesNotRememberAFolderThatWasCancelled)
     EXPECT_FALSE(QSettings().contains(QStringLiteral("files/folder")));
 }
 
+TEST(PreparedAnswer, IsDroppedIfNobodyAskedForIt)
+{
+    FileDialog::answerNext(QStringLiteral("/a/b.json"));
+    EXPECT_TRUE(FileDialog::dropAnswer());
+    EXPECT_FALSE(FileDialog::dropAnswer());
+    FileDialog::answerNext({});
+    EXPECT_EQ(FileDialog::getOpenFileName(nullptr, {}, {}, {}), QString());
+    EXPECT_FALSE(FileDialog::dropAnswer()) << "the call has taken it";
+}
+
 } // namespace

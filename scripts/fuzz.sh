@@ -65,7 +65,7 @@ run() {
 # keep FUZZER: adds inputs to the committed ones if these do not reach what they reach.
 keep() {
     mkdir -p "fuzz/corpus/$1" "build/fuzz/corpus/$1"
-    "build/fuzz/bin/$1" -set_cover_merge=1 -max_len=$longest_kept -close_fd_mask=3 \
+    "build/fuzz/bin/$1" -set_cover_merge=1 -use_counters=0 -max_len=$longest_kept -close_fd_mask=3 \
         "$root/fuzz/corpus/$1" "$root/build/fuzz/corpus/$1" >"build/fuzz/logs/$1-keep.log" 2>&1
     echo "$1: $(find "fuzz/corpus/$1" -type f | wc -l) inputs"
 }

@@ -32,13 +32,24 @@ seeds_of() {
     esac
 }
 
+# Words of the format, for the fuzzers that have such a list.
+dictionary_of() {
+    case $1 in
+        import_fuzzer | materials_file_fuzzer) echo "-dict=$root/fuzz/dictionaries/document_fuzzer.dict" ;;
+        recovery_fuzzer) echo "-dict=$root/fuzz/dictionaries/project_file_fuzzer.dict" ;;
+        *) [ ! -f "$root/fuzz/dictionaries/$1.dict" ] || echo "-dict=$root/fuzz/dictionaries/$1.dict" ;;
+    esac
+}
+
 # run FUZZER: runs a fuzzer and prints one line. Its output, and that of the programs that it runs, is in its log.
 run() {
     local fuzzer=$1 found=$root/build/fuzz/corpus/$1 kept=$root/fuzz/corpus/$1 log=build/fuzz/logs/$1.log status=0
     mkdir -p "$found" "$kept"
-    # shellcheck disable=SC2046 # one folder or none
-    "build/fuzz/bin/$fuzzer" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=3072 -print_final_stats=1 \
-        -close_fd_mask=3 -artifact_prefix="$root/build/fuzz/findings/$fuzzer-" \
+    # Leaks are looked for at the end, because that takes longer than most inputs.
+    # shellcheck disable=SC2046 # one word or none
+    "$root/build/fuzz/bin/$fuzzer" $(dictionary_of "$fuzzer") -max_total_time="$seconds" -timeout=20 -rss_limit_mb=3072 \
+        -detect_leaks=0 -print_final_stats=1 -close_fd_mask=3 \
+        -artifact_prefix="$root/build/fuzz/findings/$fuzzer-" \
         "$found" "$kept" $(seeds_of "$fuzzer") >"$log" 2>&1 || status=$?
     local executions
     executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
@@ -54,13 +65,13 @@ run() {
 # keep FUZZER: adds inputs to the committed ones if these do not reach what they reach.
 keep() {
     mkdir -p "fuzz/corpus/$1" "build/fuzz/corpus/$1"
-    "build/fuzz/bin/$1" -set_cover_merge=1 -max_len=$longest_kept -close_fd_mask=3 \
+    "$root/build/fuzz/bin/$1" -set_cover_merge=1 -use_counters=0 -max_len=$longest_kept -close_fd_mask=3 \
         "$root/fuzz/corpus/$1" "$root/build/fuzz/corpus/$1" >"build/fuzz/logs/$1-keep.log" 2>&1
     echo "$1: $(find "fuzz/corpus/$1" -type f | wc -l) inputs"
 }
 
 export root seconds longest_kept
-export -f run keep seeds_of
+export -f run keep seeds_of dictionary_of
 # The programs have no display and no leaks of their own; see the file for those of other libraries.
 export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/support/leaks-of-others.txt:print_suppressions=0

@@ -112,6 +112,21 @@
         <source>Add the content of an exchange document to the project</source>
         <translation>Den Inhalt eines Austauschdokuments zum Projekt hinzufügen</translation>
     </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Zuletzt verwendete Projekte</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::ColorChoice</name>
+    <message>
+        <source>Choose color</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>The color cannot be set</source>
+        <translation>Die Farbe kann nicht gesetzt werden</translation>
+    </message>
 </context>
 <context>
     <name>Gui::Command</name>
@@ -199,6 +214,18 @@
     <message>
         <source>The object of this message has been deleted or closed.</source>
         <translation>Das Objekt dieser Meldung wurde gelöscht oder geschlossen.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>C&amp;lear messages</source>
+        <translation>Meldungen &amp;leeren</translation>
     </message>
 </context>
 <context>
@@ -333,6 +360,37 @@ Unterdrückt</translation>
     <message>
         <source>The message log names the modules that could not be loaded, and the reasons.</source>
         <translation>Das Meldungsprotokoll nennt die Module, die nicht geladen werden konnten, und die Gründe.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpCommand</name>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Anleitung</translation>
+    </message>
+    <message>
+        <source>Show the guide to the program</source>
+        <translation>Die Anleitung zum Programm anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>Show the keys of all commands</source>
+        <translation>Die Tasten aller Befehle anzeigen</translation>
+    </message>
+    <message>
+        <source>Open &amp;example project</source>
+        <translation>Beispiel&amp;projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Open a copy of the example project</source>
+        <translation>Eine Kopie des Beispielprojekts öffnen</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Anleitung</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1144,22 @@ Möchten Sie fortfahren?</translation>
         <source>Color of material.</source>
         <translation>Farbe des Materials.</translation>
     </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Material Project</source>
+        <translation>Materialprojekt</translation>
+    </message>
+    <message>
+        <source>Structural</source>
+        <translation>Strukturmechanik</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1314,6 +1388,46 @@ Trotzdem löschen?</translation>
         <source>Redone: %1</source>
         <translation>Wiederhergestellt: %1</translation>
     </message>
+    <message>
+        <source>C&amp;olor...</source>
+        <translation>&amp;Farbe...</translation>
+    </message>
+    <message>
+        <source>Choose the color of the selected objects</source>
+        <translation>Die Farbe der ausgewählten Objekte wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Toolbars</source>
+        <translation>&amp;Werkzeugleisten</translation>
+    </message>
+    <message>
+        <source>Show or hide toolbars</source>
+        <translation>Werkzeugleisten ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Next pane</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>Move the keyboard focus to the next part of the window</source>
+        <translation>Tastaturfokus in den nächsten Teil des Fensters setzen</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious pane</source>
+        <translation>V&amp;origer Bereich</translation>
+    </message>
+    <message>
+        <source>Move the keyboard focus to the previous part of the window</source>
+        <translation>Tastaturfokus in den vorigen Teil des Fensters setzen</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>Sp&amp;rache</translation>
+    </message>
+    <message>
+        <source>Choose the language of the program</source>
+        <translation>Die Sprache des Programms wählen</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1364,6 +1478,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>&amp;Workbench</source>
         <translation>&amp;Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>%1 (below)</source>
+        <translation>%1 (unten)</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1652,21 @@ Trotzdem löschen?</translation>
     <message>
         <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
         <translation>&quot;%1&quot; wurde übernommen. Eigenschaften hinzugefügt: %2, geändert: %3, entfernt: %4.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::GuideView</name>
+    <message>
+        <source>Guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>The file %1 of the guide cannot be read. Install the program again.</source>
+        <translation>Die Datei %1 der Anleitung kann nicht gelesen werden. Installieren Sie das Programm erneut.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
     </message>
 </context>
 <context>

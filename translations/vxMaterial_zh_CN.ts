@@ -112,6 +112,21 @@
         <source>Add the content of an exchange document to the project</source>
         <translation>将交换文档的内容添加到项目</translation>
     </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>最近的项目</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::ColorChoice</name>
+    <message>
+        <source>Choose color</source>
+        <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>The color cannot be set</source>
+        <translation>无法设置颜色</translation>
+    </message>
 </context>
 <context>
     <name>Gui::Command</name>
@@ -199,6 +214,18 @@
     <message>
         <source>The object of this message has been deleted or closed.</source>
         <translation>此消息所指的对象已被删除或关闭。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear messages</source>
+        <translation>清空消息(&amp;L)</translation>
     </message>
 </context>
 <context>
@@ -333,6 +360,37 @@ Suppressed</source>
     <message>
         <source>The message log names the modules that could not be loaded, and the reasons.</source>
         <translation>消息日志列出了无法加载的模块及其原因。</translation>
+    </message>
+</context>
+<context>
+    <name>HelpCommand</name>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>指南(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Show the guide to the program</source>
+        <translation>显示程序指南</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>按键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show the keys of all commands</source>
+        <translation>显示所有命令的按键</translation>
+    </message>
+    <message>
+        <source>Open &amp;example project</source>
+        <translation>打开示例项目(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Open a copy of the example project</source>
+        <translation>打开示例项目的副本</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>指南</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1144,22 @@ Do you want to continue?</source>
         <source>Color of material.</source>
         <translation>材料的颜色。</translation>
     </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>Material Project</source>
+        <translation>材料项目</translation>
+    </message>
+    <message>
+        <source>Structural</source>
+        <translation>结构</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1314,6 +1388,46 @@ Delete anyway?</source>
         <source>Redone: %1</source>
         <translation>已重做：%1</translation>
     </message>
+    <message>
+        <source>C&amp;olor...</source>
+        <translation>颜色(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Choose the color of the selected objects</source>
+        <translation>选择所选对象的颜色</translation>
+    </message>
+    <message>
+        <source>&amp;Toolbars</source>
+        <translation>工具栏(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show or hide toolbars</source>
+        <translation>显示或隐藏工具栏</translation>
+    </message>
+    <message>
+        <source>&amp;Next pane</source>
+        <translation>下一窗格(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Move the keyboard focus to the next part of the window</source>
+        <translation>将键盘焦点移到窗口的下一部分</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious pane</source>
+        <translation>上一窗格(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Move the keyboard focus to the previous part of the window</source>
+        <translation>将键盘焦点移到窗口的上一部分</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage</source>
+        <translation>语言(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Choose the language of the program</source>
+        <translation>选择程序的语言</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1364,6 +1478,10 @@ Delete anyway?</source>
     <message>
         <source>&amp;Workbench</source>
         <translation>工作台(&amp;W)</translation>
+    </message>
+    <message>
+        <source>%1 (below)</source>
+        <translation>%1（下方）</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1652,21 @@ Delete anyway?</source>
     <message>
         <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
         <translation>“%1”已应用。添加的属性：%2，更改：%3，移除：%4。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::GuideView</name>
+    <message>
+        <source>Guide</source>
+        <translation>指南</translation>
+    </message>
+    <message>
+        <source>The file %1 of the guide cannot be read. Install the program again.</source>
+        <translation>无法读取指南文件 %1。请重新安装程序。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
     </message>
 </context>
 <context>

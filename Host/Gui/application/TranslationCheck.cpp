@@ -32,6 +32,9 @@ enum Part : quint8
     Comment = 8,
 };
 
+/// The length of a translation that is missing.
+constexpr quint32 lengthOfNoText = 0xFFFFFFFF;
+
 /// A part of the file, from which numbers in network order are read.
 class Bytes
 {
@@ -91,8 +94,8 @@ bool isSoundMessage(Bytes message)
             return true;
         if (!message.take(number))
             return false;
-        // An empty translation has the length 4294967295. QTranslator reads nothing behind an odd length.
-        if (part == Translation && number % 2 != 0)
+        // QTranslator takes this length as -1, and its last byte as the end of the message.
+        if (part == Translation && number == lengthOfNoText)
             return true;
         if (hasText(part) && !message.take(number, text))
             return false;

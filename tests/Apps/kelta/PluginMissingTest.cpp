@@ -27,8 +27,10 @@ protected:
     {
         QProcessEnvironment environment = vxtest::cleanEnvironment(folder.path());
         environment.insert(QStringLiteral("KELTA_PLUGIN_PATH"), folder.filePath(QStringLiteral("plugins")));
-        environment.insert(QStringLiteral("LD_LIBRARY_PATH"),
-                           QDir::cleanPath(QFileInfo(QStringLiteral(KELTA_PROGRAM)).path() + QStringLiteral("/../lib")));
+        // The program looks for its libraries relative to its own folder.
+        environment.insert(
+            QStringLiteral("LD_LIBRARY_PATH"),
+            QDir::cleanPath(QFileInfo(QStringLiteral(KELTA_PROGRAM)).path() + QStringLiteral("/../lib")));
         return vxtest::runKelta(program(), arguments, folder.path(), environment);
     }
 

@@ -108,6 +108,7 @@ const Damage damages[] = {
     {"a message behind the end", "42 00000008 00000001 40000000  69 00000001 01"},
     {"a text that is longer than the file", "42 00000008 00000001 00000000  69 00000006 03 7ffffffe 01"},
     {"half a position", "42 00000006 00000001 0000  69 00000001 01"},
+    {"a text with a negative length", "42 00000008 00000001 00000000  69 00000006 03 feffffff 01"},
     {"a table of contexts that is cut", "2f 00000004 00ff 0001"},
     {"a table of no contexts", "2f 00000002 0000"},
     {"a context without an end", "2f 00000006 0001 0001 05 61"},

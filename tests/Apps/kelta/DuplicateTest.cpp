@@ -40,7 +40,7 @@ TEST_F(Duplicate, KeepsTheWholeMaterialWhenItIsUndoneAndDoneAgain)
     EXPECT_THAT(original.toStdString(), HasSubstr(","));
 }
 
-TEST_F(Duplicate, GoesWhenItIsUndone)
+TEST_F(Duplicate, IsRemovedByUndo)
 {
     const auto [original, copy] = cardsAfter("Std_Undo\n");
     EXPECT_FALSE(original.isEmpty());

@@ -246,7 +246,7 @@ TEST_F(EndToEnd, AUserMakesAMaterialOpensItAndExportsIt)
     EXPECT_EQ(kelta.exitCode(), 0);
 }
 
-TEST_F(EndToEnd, AUserGetsBackWhatACrashLeftBehind)
+TEST_F(EndToEnd, AUserRecoversAProjectAfterACrash)
 {
     install();
     const QString program = installed.filePath(QStringLiteral("bin/kelta"));

@@ -130,7 +130,7 @@ TEST_F(Materials, CanBeBegunFromTheEmptyTree)
     EXPECT_THAT(offered, ElementsAre("Mat_NewDoc"));
 }
 
-TEST_F(Materials, AreToldOfInTheAboutBox)
+TEST_F(Materials, AreDescribedInTheAboutBox)
 {
     const Answers boxes({"OK"});
     EXPECT_TRUE(run("Std_About"));

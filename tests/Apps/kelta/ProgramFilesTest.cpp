@@ -39,7 +39,7 @@ TEST_F(ProgramFiles, ThatCannotBeOpenedEndAProgramWithoutWindows)
     EXPECT_FALSE(QFileInfo::exists(path("a.png")));
 }
 
-TEST_F(ProgramFiles, LeaveNoCopiesAndNoLocksBehind)
+TEST_F(ProgramFiles, LeaveNoCopiesAndNoLocks)
 {
     ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs a.vxmat\nset Density 1\n").status, 0);
     EXPECT_EQ(QDir(path("vxMaterial/kelta/recovery")).entryList(QDir::Files | QDir::Hidden).size(), 0);
@@ -54,7 +54,7 @@ TEST_F(ProgramFiles, ImportExchangeDocumentsCompletely)
     EXPECT_THAT(vxtest::readFile(path("a.vxmat")).toStdString(), HasSubstr("\"unit\": \"Pa\""));
 }
 
-TEST_F(ProgramFiles, AreWhatTheirSchemasWant)
+TEST_F(ProgramFiles, AreValidByTheirSchemas)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nuse \"Plastic Example 1\"\nMat_AddMaterial\nclear\n"
                                      "Mat_AddMaterial\nStd_Suppress\nStd_SaveAs a.vxmat\nMat_Export a.json\n");

@@ -98,7 +98,7 @@ public:
 };
 KELTA_REGISTER_CLASS(Ledger, Kelta::DataPersistence)
 
-TEST_F(DataPersistenceTest, KnowsWhatAnObjectOfItsClassTakes)
+TEST_F(DataPersistenceTest, ReturnsTheSizeOfItsClass)
 {
     Ledger::init();
     const Ledger ledger;
@@ -146,7 +146,7 @@ TEST_F(DataPersistenceTest, SetsNothingFromAFileThatIsCutOff)
     EXPECT_THAT(whyNotLoaded(""), HasSubstr("note.xml:1: "));
 }
 
-TEST_F(DataPersistenceTest, SetsNothingFromAFileWithMoreBehindItsEnd)
+TEST_F(DataPersistenceTest, SetsNothingFromAFileWithTextAfterItsEnd)
 {
     EXPECT_THAT(whyNotLoaded("<object class=\"Test::Note\"><line text=\"one\"/></object>\n<object/>"),
                 HasSubstr("note.xml:2: "));

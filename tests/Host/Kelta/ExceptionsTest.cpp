@@ -19,7 +19,7 @@ std::string textOf(const Thrown& thrown)
     }
 }
 
-TEST(Exceptions, HaveATextWhateverIsThrown)
+TEST(Exceptions, HaveATextForEveryThrownType)
 {
     EXPECT_EQ(textOf(std::runtime_error("the disk is 100 %1 full")), "the disk is 100 %1 full");
     EXPECT_EQ(textOf(std::runtime_error("结构钢")), "结构钢");
@@ -27,7 +27,7 @@ TEST(Exceptions, HaveATextWhateverIsThrown)
     EXPECT_EQ(textOf(42), "an exception of an unknown kind");
 }
 
-TEST(Exceptions, AreReportedBehindWhatFailed)
+TEST(Exceptions, AreReportedAfterTheNameOfTheFailure)
 {
     const vxtest::Reports reports;
     EXPECT_FALSE(

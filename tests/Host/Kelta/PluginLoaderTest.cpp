@@ -333,7 +333,7 @@ TEST_F(PluginLoaderTest, TakesAModuleFromTheFirstFolderThatHasIt)
     EXPECT_EQ(callsIn(second, "Good"), 0);
 }
 
-TEST_F(PluginLoaderTest, DoesNotHideABrokenModuleBehindOneOfALaterFolder)
+TEST_F(PluginLoaderTest, DoesNotReplaceABrokenModuleByOneOfALaterFolder)
 {
     const ModuleFolder second;
     folder.addDescriptor("Good", "no descriptor");

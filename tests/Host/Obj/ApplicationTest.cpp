@@ -85,7 +85,7 @@ TEST_F(ApplicationTest, MakesNamesUniqueThatAreTakenOrEmpty)
     EXPECT_THAT(addAssembly("").get_name(), HasSubstr("Project"));
 }
 
-TEST_F(ApplicationTest, MakesNoNameOfAProjectThatMayComeBack)
+TEST_F(ApplicationTest, MakesNoNameOfAProjectThatMayBeRestored)
 {
     Obj::OwnedProject away = application().takeProject(addAssembly("Machine1"));
     addAssembly("Machine");

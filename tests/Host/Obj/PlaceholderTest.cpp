@@ -63,7 +63,7 @@ TEST_F(PlaceholderTest, ShowsThePropertiesOfTheRecordReadOnly)
     EXPECT_TRUE(Obj::writeProperties(bolt).isNull()) << "the record has them";
 }
 
-TEST_F(PlaceholderTest, ShowsItsOwnLabelAndIdWhateverTheRecordSays)
+TEST_F(PlaceholderTest, ShowsItsOwnLabelAndIdInPlaceOfThoseInTheRecord)
 {
     Json::Value odd;
     odd["properties"]["Label"] = "Other";

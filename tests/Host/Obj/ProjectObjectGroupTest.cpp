@@ -168,7 +168,7 @@ TEST_F(ProjectObjectGroupTest, TellsThatAMemberCameOrLeft)
     EXPECT_THAT(told, ElementsAre(std::pair("a", true), std::pair("a", false)));
 }
 
-TEST_F(ProjectObjectGroupTest, HasItsMembersBackWhenItComesBack)
+TEST_F(ProjectObjectGroupTest, HasItsMembersAgainWhenItIsRestored)
 {
     ProjectObjectGroup& group = addGroup("Group");
     Part& a = m_assembly.addPart("a");

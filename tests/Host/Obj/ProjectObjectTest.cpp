@@ -134,7 +134,7 @@ TEST_F(ProjectObjectTest, IsSuppressedWithoutBeingDeleted)
     EXPECT_FALSE(part.isSuppressed());
 }
 
-TEST_F(ProjectObjectTest, KnowsTheObjectsThatAreLinkedWithItInEitherDirection)
+TEST_F(ProjectObjectTest, ReturnsTheObjectsThatAreLinkedWithItInEitherDirection)
 {
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");
@@ -212,7 +212,7 @@ TEST_F(ProjectObjectTest, MayOutliveTheProjectThatItIsLinkedInto)
     EXPECT_THAT(away->get_linked_objects(), IsEmpty());
 }
 
-TEST_F(ProjectObjectTest, MayGoWithWhatItNeeds)
+TEST_F(ProjectObjectTest, MayBeRemovedWithTheObjectThatItNeeds)
 {
     Assembly& assembly = addAssembly();
     Part& needed = assembly.addPart("needed");
@@ -223,7 +223,7 @@ TEST_F(ProjectObjectTest, MayGoWithWhatItNeeds)
     EXPECT_EQ(assembly.getObjectCount(), 0U);
 }
 
-TEST_F(ProjectObjectTest, ThatFailsWhenALinkBreaksDoesNotKeepOthersFromBeingTold)
+TEST_F(ProjectObjectTest, ThatFailsWhenALinkIsRemovedDoesNotPreventOtherNotifications)
 {
     Assembly& assembly = addAssembly();
     Part& needed = assembly.addPart("needed");
@@ -252,7 +252,7 @@ struct Slots : ProjectObject
     static std::ptrdiff_t configuring() { return slotOf(&Slots::on_configuring_project); }
 };
 
-TEST_F(ProjectObjectTest, HasItsVirtualOperationsBehindThoseOfASetOfProperties)
+TEST_F(ProjectObjectTest, HasItsVirtualOperationsAfterThoseOfASetOfProperties)
 {
     if (!vxtest::slotsCanBeRead)
         GTEST_SKIP() << "pointers to members are written differently here";
@@ -304,7 +304,7 @@ TEST_F(ProjectObjectTest, HasLinksBackThatItGaveUpWhenTheOtherLeft)
     EXPECT_THAT(namesOf(b.get_linked_objects()), ElementsAre("a"));
 }
 
-TEST_F(ProjectObjectTest, IsNotToldOfWhatLeavesWhileItIsAwayItself)
+TEST_F(ProjectObjectTest, IsNotNotifiedOfRemovalsWhileItIsRemovedItself)
 {
     Assembly& assembly = addAssembly();
     Part& a = assembly.addPart("a");

@@ -134,7 +134,7 @@ TEST_F(ProjectTest, TakesAnObjectBackThatCannotBeConfigured)
     EXPECT_EQ(m_assembly.addPart("a").getObjectId(), 2U) << "the id has been used";
 }
 
-TEST_F(ProjectTest, ConfiguresAnObjectBeforeListenersAreTold)
+TEST_F(ProjectTest, ConfiguresAnObjectBeforeListenersAreNotified)
 {
     m_assembly.objectAdded.connect([](ProjectObject&) { Part::hooks().calls.emplace_back("told"); });
     m_assembly.addPart("a");
@@ -291,7 +291,7 @@ TEST_F(ProjectTest, GivesAnObjectAUniqueNameWhenItsOwnHasBeenTakenMeanwhile)
     EXPECT_EQ(m_assembly.get_object("Bolt"), &second);
 }
 
-TEST_F(ProjectTest, TakesBackOnlyWhatCameFromIt)
+TEST_F(ProjectTest, RestoresOnlyItsOwnObjects)
 {
     Assembly& other = addAssembly("other");
     for (const char* const name : {"a", "b", "c"})
@@ -425,7 +425,7 @@ TEST_F(ProjectTest, ComesThroughTenThousandObjectsDeletedInRandomOrderAndBrought
     EXPECT_EQ(before[1234]->label.getValue(), "label 1234");
 }
 
-TEST_F(ProjectTest, DeterminesTheStatesOfItsObjectsAnew)
+TEST_F(ProjectTest, DeterminesTheStatesOfItsObjectsAgain)
 {
     Part& part = m_assembly.addPart("a");
     m_assembly.update();
@@ -479,7 +479,7 @@ TEST_F(ProjectTest, ReturnsNoObjectIfAListenerHasClosedIt)
     EXPECT_EQ(Part::count(), 0);
 }
 
-TEST_F(ProjectTest, ReturnsNoObjectThatAListenerRemovesWhenItComesBack)
+TEST_F(ProjectTest, ReturnsNullIfAListenerRemovesARestoredObject)
 {
     m_assembly.addPart("a");
     Obj::OwnedObject away = m_assembly.takeObject(1);
@@ -547,7 +547,7 @@ TEST_F(ProjectTest, MayBeClosedDuringItsUpdate)
     EXPECT_TRUE(Obj::Application::get_projects().empty());
 }
 
-TEST_F(ProjectTest, MakesNoNameOfAnObjectThatMayComeBack)
+TEST_F(ProjectTest, MakesNoNameOfAnObjectThatMayBeRestored)
 {
     m_assembly.addPart("Bolt");
     m_assembly.addPart("Bolt1");
@@ -710,7 +710,7 @@ TEST_F(ProjectTest, IsOfNoKindAndInNoApplicationAtFirst)
     EXPECT_EQ(&project.get_property_data(), BareProject::get_property_data_ref());
 }
 
-TEST_F(ProjectTest, HasItsVirtualOperationsBehindThoseOfASetOfProperties)
+TEST_F(ProjectTest, HasItsVirtualOperationsAfterThoseOfASetOfProperties)
 {
     if (!vxtest::slotsCanBeRead)
         GTEST_SKIP() << "pointers to members are written differently here";

@@ -81,7 +81,7 @@ public:
     static inline Obj::PropertyCoreData data;
 };
 
-TEST_F(PropertyDSTest, KnowsAPropertyOnceThatADerivedClassRegistersAgain)
+TEST_F(PropertyDSTest, HasAPropertyOnlyOnceIfADerivedClassRegistersItAgain)
 {
     const SpecialPart special;
     std::vector<Property*> properties;

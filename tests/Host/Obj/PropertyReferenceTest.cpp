@@ -135,7 +135,7 @@ TEST_F(PropertyReferenceTest, IsNoneWhileTheObjectIsDeletedAndBackWithIt)
     EXPECT_THAT(Part::hooks().calls, ElementsAre("changed Bolt", "restored Bolt"));
 }
 
-TEST_F(PropertyReferenceTest, ComesBackThoughTheOwnerClearedItWhenTheObjectLeft)
+TEST_F(PropertyReferenceTest, IsRestoredThoughTheOwnerClearedItWhenTheObjectLeft)
 {
     m_joint.first.setValue(&m_bolt);
     m_joint.second.setValue(&m_bolt);
@@ -156,7 +156,7 @@ TEST_F(PropertyReferenceTest, ComesBackThoughTheOwnerClearedItWhenTheObjectLeft)
     EXPECT_THAT(namesOf(m_joint.getLinks()), ElementsAre("Bolt"));
 }
 
-TEST_F(PropertyReferenceTest, FindsItsObjectAgainWhenTheOwnerComesBackAfterIt)
+TEST_F(PropertyReferenceTest, FindsItsObjectAgainIfTheOwnerIsRestoredAfterIt)
 {
     m_joint.first.setValue(&m_bolt);
     Obj::OwnedObject joint = m_assembly.takeObject(m_joint.getObjectId());

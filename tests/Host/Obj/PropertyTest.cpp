@@ -150,7 +150,7 @@ TEST(PropertyCoupleArray, ReadsPairsAndNothingElse)
     EXPECT_EQ(property.getValue(), (Couples{{1.0, 2.0}, {3.0, 4.0}}));
 }
 
-TEST(Property, HasItsTextInTheCLocaleWhateverTheLocaleOfTheUser)
+TEST(Property, HasItsTextInTheCLocaleInEveryLocaleOfTheUser)
 {
     const vxtest::CommaLocale locale;
     PropertyInteger integer(1234567);
@@ -302,7 +302,7 @@ TEST_F(PropertyTest, WritesCouplesInJson)
     EXPECT_EQ(other.getValue(), property.getValue());
 }
 
-TEST_F(PropertyTest, KnowsWhatItsValueTakes)
+TEST_F(PropertyTest, ReturnsTheMemoryOfItsValue)
 {
     EXPECT_EQ(PropertyString("short").get_memory_usage(), 0U) << "a short text is kept in the property itself";
     EXPECT_GT(PropertyString(std::string(1000, 'x')).get_memory_usage(), 1000U);

@@ -94,7 +94,7 @@ TEST(CaeManager, DestroysItsSetsWithItself)
     EXPECT_EQ(destroyed, 2);
 }
 
-TEST(CaeManager, IsOneForTheWholeProgram)
+TEST(CaeManager, IsTheSameInTheWholeProgram)
 {
     CCaeManager& manager = vxCAE::GetCaeManager();
     manager.setCAE(7, new CAESet(7, vxCAE::ProjectKind::Material));

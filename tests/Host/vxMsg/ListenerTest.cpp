@@ -76,7 +76,7 @@ TEST_F(ListenerTest, KeepsAProjectOpenByRefusing)
 
 // --- Objects that are removed at once ---
 
-TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDeletedByRequest)
+TEST_F(ListenerTest, IsNotNotifiedOfACreatedObjectThatAnotherListenerDeletedByRequest)
 {
     int created = 0;
     proxy().objectCreated.connect([&created](ProjectObject&) { ++created; });
@@ -90,7 +90,7 @@ TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDeletedByRequest)
     EXPECT_THAT(names(), IsEmpty()) << "both are undone together";
 }
 
-TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDestroyed)
+TEST_F(ListenerTest, IsNotNotifiedOfACreatedObjectThatAnotherListenerDestroyed)
 {
     int created = 0;
     proxy().objectCreated.connect([&created](ProjectObject&) { ++created; });
@@ -101,7 +101,7 @@ TEST_F(ListenerTest, IsNotToldOfACreatedObjectThatAnotherOneHasDestroyed)
     EXPECT_EQ(Part::count(), 0);
 }
 
-TEST_F(ListenerTest, MayDestroyACreatedObjectBeforeOthersAreTold)
+TEST_F(ListenerTest, MayDestroyACreatedObjectBeforeOthersAreNotified)
 {
     std::vector<std::string> told;
     proxy().objectCreated.connect([this](ProjectObject& object) { m_project->removeObject(object.getObjectId()); });
@@ -264,7 +264,7 @@ TEST_F(ListenerTest, EndsTheHistoryIfItClosesAProjectDuringAnUndo)
     EXPECT_THAT(projects(), ElementsAre("Other"));
 }
 
-TEST_F(ListenerTest, HasAnObjectBackThatFailsWhenItComesBack)
+TEST_F(ListenerTest, KeepsARestoredObjectThatThrows)
 {
     const Part& bolt = part("Bolt");
     stack().undo();

@@ -281,7 +281,7 @@ TEST_F(MessageProxyTest, WatchesProjectsThatWereMadeWithoutARequest)
     EXPECT_EQ(stack().count(), 1);
 }
 
-TEST_F(MessageProxyTest, WatchesAProjectOnceThatWasAwayAndCameBack)
+TEST_F(MessageProxyTest, WatchesARestoredProjectOnlyOnce)
 {
     application().restoreProject(application().takeProject(*m_project));
     m_project->add_object("vxtest::Part", "a");
@@ -450,7 +450,7 @@ TEST_F(MessageProxyTest, NamesAGroupWithoutATextByItsFirstStep)
     EXPECT_EQ(stack().undoText(), QStringLiteral("Add \"a\""));
 }
 
-TEST_F(MessageProxyTest, EndsTheHistoryBehindAGroupInWhichAnObjectIsDestroyed)
+TEST_F(MessageProxyTest, EndsTheHistoryAfterAGroupInWhichAnObjectIsDestroyed)
 {
     part("Nut");
     {
@@ -590,7 +590,7 @@ TEST_F(MessageProxyTest, RefusesPropertiesThatCannotBeSet)
     EXPECT_EQ(stack().count(), 1);
 }
 
-TEST_F(MessageProxyTest, FindsTheOwnerOfAPropertyAgainWhateverIsDeletedAndBroughtBack)
+TEST_F(MessageProxyTest, FindsTheOwnerOfAPropertyAgainAfterDeletionsAndTheirUndo)
 {
     Part& bolt = part("Bolt");
     EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Width", "12"));
@@ -660,7 +660,7 @@ TEST_F(MessageProxyTest, SuppressesAnObjectInOneStep)
 
 // --- Passing data to the solver side ---
 
-TEST_F(MessageProxyTest, HandsAProjectOverBehindTheExecutionOfWhatIsDue)
+TEST_F(MessageProxyTest, HandsAProjectOverAfterTheExecutionOfDueObjects)
 {
     part("Bolt");
     Part::hooks().calls.clear();

@@ -176,7 +176,7 @@ TEST_F(PlaceholderFiles, KeepMaterialsWithoutTheirModule)
     EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {path("b.vxmat").toStdString()}), "");
 }
 
-TEST_F(PlaceholderFiles, PairMaterialsWithTheDatabaseByIdInWhateverOrderTheyAre)
+TEST_F(PlaceholderFiles, PairMaterialsWithTheDatabaseByIdInAnyOrder)
 {
     projectfile::ProjectRecord turned = projectfile::readProject(materialText());
     std::swap(turned.objects[0], turned.objects[1]);

@@ -165,7 +165,7 @@ TEST_F(ProjectFiles, AreModifiedEachByItself)
     EXPECT_EQ(copies().size(), 1);
 }
 
-TEST_F(ProjectFiles, StayModifiedByWhatIsNoStepOfTheHistory)
+TEST_F(ProjectFiles, StayModifiedByChangesThatAreNoStepOfTheHistory)
 {
     newProject();
     Mat::MaterialObject& steel = addMaterial();
@@ -1083,7 +1083,7 @@ TEST_F(ProjectFiles, KeepNoCopyOfWhatHasNotChanged)
     EXPECT_EQ(copies().size(), 0);
 }
 
-TEST_F(ProjectFiles, OfferWhatACrashLeftBehind)
+TEST_F(ProjectFiles, OfferTheCopiesOfACrashedProgram)
 {
     newProject();
     addMaterial();
@@ -1240,7 +1240,7 @@ TEST_F(ProjectFiles, LeaveFileAndProjectAsTheyWereOnAFullDisk)
     EXPECT_TRUE(contentOf(path("elsewhere.vxmat")).contains("Another"));
 }
 
-TEST_F(ProjectFiles, AreSavedElsewhereWhenTheirFolderHasGone)
+TEST_F(ProjectFiles, AreSavedElsewhereIfTheirFolderWasRemoved)
 {
     QDir().mkdir(path("gone"));
     newProject();

@@ -92,7 +92,7 @@ TEST_F(AppliedEdits, HaveTheUnitsAndCategoriesOfTheCatalogue)
     EXPECT_EQ(held.category, vxMat::ePropertyCategory::LinearElastic);
 }
 
-TEST_F(AppliedEdits, AreRefusedIfTextBehindANumberWouldBeIgnored)
+TEST_F(AppliedEdits, AreRefusedIfTextAfterANumberWouldBeIgnored)
 {
     MatGui::MaterialView& editor = edit(steel);
     type(editor, modulus, "210 GPa");
@@ -209,7 +209,7 @@ protected:
     Mat::MaterialObject& steel = addMaterial(newProject());
 };
 
-TEST_F(UnappliedEdits, ComeBackWithANewMaterialThatIsUndoneAndRedone)
+TEST_F(UnappliedEdits, AreRestoredWithANewMaterialThatIsUndoneAndRedone)
 {
     type(edit(steel), modulus, "7e10");
     history().undo();
@@ -218,7 +218,7 @@ TEST_F(UnappliedEdits, ComeBackWithANewMaterialThatIsUndoneAndRedone)
     expectEditsAreBack();
 }
 
-TEST_F(UnappliedEdits, ComeBackWithAMaterialWhoseDeletionIsUndone)
+TEST_F(UnappliedEdits, AreRestoredWithAMaterialWhoseDeletionIsUndone)
 {
     type(edit(steel), modulus, "7e10");
     for (int round = 0; round < 2; ++round) {
@@ -267,7 +267,7 @@ TEST_F(UnappliedEdits, ThatFollowedAnApplyComeBackByRedoInTheirOrder)
     EXPECT_EQ(modulusOf(steel), 6e10);
 }
 
-TEST_F(UnappliedEdits, DoNotComeBackAfterTheyWereApplied)
+TEST_F(UnappliedEdits, AreNotRestoredAfterTheyWereApplied)
 {
     MatGui::MaterialView& editor = edit(steel);
     type(editor, modulus, "7e10");
@@ -291,7 +291,7 @@ TEST_F(UnappliedEdits, AreForgottenWhenTheHistoryEnds)
     EXPECT_EQ(project.objectAdded.num_slots(), listeners);
 }
 
-TEST_F(UnappliedEdits, ComeBackIfTheHistoryEndsBeforeTheyAreShown)
+TEST_F(UnappliedEdits, AreRestoredIfTheHistoryEndsBeforeTheyAreShown)
 {
     type(edit(steel), modulus, "7e10");
     select({&steel});

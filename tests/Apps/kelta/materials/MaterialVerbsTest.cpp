@@ -36,7 +36,7 @@ TEST_F(Verbs, SetAQuantity)
     EXPECT_EQ(modulusOf(steel), 2e11);
 }
 
-TEST_F(Verbs, SetNoNumberWithOtherTextBehindIt)
+TEST_F(Verbs, RefuseANumberWithOtherTextAfterIt)
 {
     const Mat::MaterialObject& steel = selectedSteel();
     EXPECT_EQ(run("set", {"E", "210 GPa"}),

@@ -40,7 +40,7 @@ TEST_F(Language, IsEnglishInTests)
     EXPECT_EQ(menus().first(), "&File");
 }
 
-TEST_F(Language, SwitchesTheWholeWindow)
+TEST_F(Language, ChangesAllTextsOfTheWindow)
 {
     Translator::instance()->setLanguage(QStringLiteral("de"));
     QCoreApplication::processEvents();

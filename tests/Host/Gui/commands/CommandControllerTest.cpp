@@ -160,7 +160,7 @@ TEST_F(CommandControllerTest, TakesNoGuardForACommandThatItDoesNotHave)
     EXPECT_FALSE(controller.addGuard("Test_A", [](const std::function<void()>& run) { run(); }));
 }
 
-TEST_F(CommandControllerTest, EnablesWhatIsApplicableAlone)
+TEST_F(CommandControllerTest, EnablesOnlyApplicableCommands)
 {
     Gui::CommandController controller;
     auto* const command = new TestCommand("Test_A", {});

@@ -266,7 +266,7 @@ TEST_F(DocumentUndo, MakesNoOlderChangeAgainUnderneathEdits)
     EXPECT_TRUE(object.isSuppressed());
 }
 
-TEST_F(DocumentUndo, TakesBackWhatIsBeingTyped)
+TEST_F(DocumentUndo, RevertsTextThatIsBeingTyped)
 {
     document->line.setFocus();
     QTest::keyClicks(&document->line, " and wood");

@@ -22,7 +22,7 @@ protected:
     vxtest::TestObject& object;
 };
 
-TEST_F(Edits, NameWhatTheyChange)
+TEST_F(Edits, NameTheChangedProperty)
 {
     EXPECT_TRUE(editLabel("Beam"));
     EXPECT_EQ(undoStack().undoText(), "Change \"Label\"");
@@ -44,7 +44,7 @@ TEST_F(Edits, AreUndoneAndDoneAgain)
     EXPECT_EQ(object.label.getValue(), "Plate");
 }
 
-TEST_F(Edits, ToWhatIsThereAlreadyAreNoStep)
+TEST_F(Edits, ThatChangeNothingAreNoStep)
 {
     EXPECT_TRUE(editLabel("Object"));
     EXPECT_EQ(undoStack().count(), 0);

@@ -448,7 +448,7 @@ TEST_F(StandardCommands, Quit)
     EXPECT_FALSE(window->isVisible());
 }
 
-TEST_F(StandardCommands, TellWhatTheProgramIs)
+TEST_F(StandardCommands, ShowInformationAboutTheProgram)
 {
     const vxtest::MessageBoxes boxes;
     EXPECT_TRUE(run("Std_About"));

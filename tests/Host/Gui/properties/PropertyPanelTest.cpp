@@ -86,7 +86,7 @@ TEST_F(Panel, ShowsPropertiesOfTheObjectAndItsNodeByGroup)
     EXPECT_EQ(value("Color"), "#8040ff");
 }
 
-TEST_F(Panel, TellsWhatAPropertyMeans)
+TEST_F(Panel, ShowsTheDescriptionOfAProperty)
 {
     EXPECT_EQ(row("Count")->toolTip(0), "How many");
     EXPECT_EQ(row("Count")->toolTip(1), "How many");
@@ -151,7 +151,7 @@ TEST_F(Panel, KeepsAColourWhoseDialogIsCancelled)
     EXPECT_EQ(undoStack().count(), 0);
 }
 
-TEST_F(Panel, LetsWhatIsOnlyReadBe)
+TEST_F(Panel, DoesNotEditReadOnlyProperties)
 {
     EXPECT_FALSE(edit("Fixed", "other"));
     EXPECT_EQ(object.fixed.getValue(), "as it is");
@@ -347,7 +347,7 @@ TEST_F(TypedPanel, TicksAndUnticksUndoably)
     EXPECT_TRUE(typed.active.getValue());
 }
 
-TEST_F(TypedPanel, DoesNotTickWhatIsOnlyRead)
+TEST_F(TypedPanel, DoesNotTickReadOnlyProperties)
 {
     QTest::mouseClick(panel().viewport(), Qt::LeftButton, {}, placeOf("Locked"));
     EXPECT_TRUE(typed.locked.getValue());

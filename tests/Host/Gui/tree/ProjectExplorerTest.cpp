@@ -433,7 +433,7 @@ TEST_F(Explorer, SelectsTheMembersOfGroupsToo)
     EXPECT_THAT(selectedObjects(), ElementsAre(&first, &second, group));
 }
 
-TEST_F(Explorer, KeepsTheSelectionOfWhatAGroupTakesIn)
+TEST_F(Explorer, KeepsTheSelectionOfObjectsThatEnterAGroup)
 {
     auto* const group = static_cast<Obj::ProjectObjectGroup*>(project.add_object("Obj::ProjectObjectGroup", "Group"));
     click(first);

@@ -103,7 +103,7 @@ TEST_F(Tree, MakesFewBlocksOfManyChanges)
     EXPECT_EQ(tree.rowCount(tree.indexOf(project)), 5);
 }
 
-TEST_F(Tree, PutsWhatUndoBringsBackWhereItWas)
+TEST_F(Tree, PutsRestoredObjectsAtTheirEarlierPlaces)
 {
     vxtest::TestProject& project = makeProject();
     vxtest::TestObject* objects[] = {&addObject(project, "A"), &addObject(project, "B"), &addObject(project, "C"),
@@ -504,7 +504,7 @@ TEST_F(Tree, DoesNotSelectNodesThatHaveASelectionOfTheirOwn)
     EXPECT_TRUE((tree.flags(tree.indexOf(object)) & Qt::ItemIsSelectable) == 0);
 }
 
-TEST_F(Tree, ShowsWhatBelongsToAMissingModuleGreyedAndSaysWhy)
+TEST_F(Tree, ShowsObjectsOfAMissingModuleGreyedWithTheReason)
 {
     const auto isGrey = [](const QModelIndex& index) {
         return index.data(Qt::ForegroundRole).value<QBrush>() ==

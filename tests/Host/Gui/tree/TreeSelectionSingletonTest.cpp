@@ -55,7 +55,7 @@ TEST_F(Selection, KeepsEntriesByNameSoThatTheirObjectsMayGo)
     EXPECT_EQ(entries[0].get_object(), nullptr);
 }
 
-TEST_F(Selection, LosesWhatLeavesTheTreeAndSaysSoOnce)
+TEST_F(Selection, LosesEntriesThatLeaveTheTreeAndNotifiesOnce)
 {
     vxtest::TestProject& project = makeProject();
     std::vector<Obj::ProjectObject*> objects;
@@ -80,7 +80,7 @@ TEST_F(Selection, LosesAProjectAndItsObjectsWhenTheProjectCloses)
     EXPECT_THAT(selection().get_projects(), IsEmpty());
 }
 
-TEST_F(Selection, TellsWhatIsSelectedAsAWhole)
+TEST_F(Selection, ReturnsObjectsThatAreSelectedAsAWhole)
 {
     vxtest::TestProject& project = makeProject();
     vxtest::TestObject& object = addObject(project);

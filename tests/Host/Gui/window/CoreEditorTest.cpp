@@ -99,7 +99,7 @@ TEST_F(CoreEditor, IsClosedWithItsProject)
     EXPECT_EQ(open, nullptr);
 }
 
-TEST_F(CoreEditor, ThatNobodyHasRegisteredIsReported)
+TEST_F(CoreEditor, ThatIsNotRegisteredIsReported)
 {
     for (const char* const name : {"No::Editor", "Test::Object"}) {
         object.coreEditor = name;

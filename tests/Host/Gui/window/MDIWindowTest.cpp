@@ -39,7 +39,7 @@ TEST_F(MDIWindowTest, RemovesItself)
     EXPECT_EQ(document, nullptr);
 }
 
-TEST_F(MDIWindowTest, KnowsItsProjectWhileThatIsOpen)
+TEST_F(MDIWindowTest, ReturnsItsProjectWhileTheProjectIsOpen)
 {
     vxtest::TestProject& project = makeProject();
     Gui::GuiProject* const side = Gui::GuiApplication::Instance->get_project(&project);

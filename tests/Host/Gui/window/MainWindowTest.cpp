@@ -248,7 +248,7 @@ TEST_F(MainWindowTest, ReportsAWorkbenchThatThereIsNot)
     EXPECT_EQ(window->getWorkbench(), before);
 }
 
-TEST_F(MainWindowTest, BuildsItsBarsAnewWithoutKeepingOldOnes)
+TEST_F(MainWindowTest, RebuildsItsBarsWithoutKeepingOldOnes)
 {
     const int bars = window->findChildren<QToolBar*>().size();
     const int menus = window->menuBar()->actions().size();
@@ -327,7 +327,7 @@ TEST_F(MainWindowTest, OffersWhatTheWorkbenchAddsInTheMenuOfItsBars)
     EXPECT_TRUE(offers("Std_About"));
 }
 
-TEST_F(MainWindowTest, ShowsTheMessagesInFrontWhateverTheUserDidWithThem)
+TEST_F(MainWindowTest, ShowsTheMessagesInFrontEvenIfTheUserHidThem)
 {
     auto* const messages = window->findChild<QDockWidget*>(QStringLiteral("MessageLog"));
     messages->hide();

@@ -34,7 +34,7 @@ protected:
 
 using WithoutModule = Page;
 
-TEST_F(WithoutModule, TheWelcomePageSaysWhatIsMissing)
+TEST_F(WithoutModule, TheWelcomePageNamesTheMissingModule)
 {
     window->updateCommands();
     EXPECT_EQ(title(), "No module is loaded");

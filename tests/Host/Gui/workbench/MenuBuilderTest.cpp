@@ -39,7 +39,7 @@ TEST_F(Bars, RunTheCommandsOfMenusInMenus)
     EXPECT_EQ(Obj::Application::get_current_project()->getObjectCount(), 0U);
 }
 
-TEST_F(Bars, HaveMenusBehindButtons)
+TEST_F(Bars, HaveButtonsThatOpenMenus)
 {
     const auto* const bar = window->findChild<QToolBar*>(QStringLiteral("Test"));
     ASSERT_NE(bar, nullptr);
@@ -62,7 +62,7 @@ TEST_F(Bars, EnableAtOnceWhatAppliesAlone)
     EXPECT_TRUE(menu()->actions().first()->isEnabled());
 }
 
-TEST_F(Bars, LeaveNothingBehindWhenTheyAreBuiltAnew)
+TEST_F(Bars, LeaveNoOldWidgetsWhenTheyAreRebuilt)
 {
     const auto count = [this] { return window->findChildren<QMenu*>().size(); };
     const int menus = count();

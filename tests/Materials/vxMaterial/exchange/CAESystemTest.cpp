@@ -168,7 +168,7 @@ TEST(CAESystem, KeepsWhatItHeldWhenAMemberCannotBeConverted)
     }
 }
 
-TEST(CAESystem, KnowsPhysicsByTheirWordsInAnyCase)
+TEST(CAESystem, FindsPhysicsByTheirWordsInAnyCase)
 {
     CAESystem system;
     const std::pair<const char*, int> words[] = {

@@ -289,7 +289,7 @@ TEST(DocumentCheck, NamesFaultsOfDomainsContactsAndMesh)
                             "$.initialcondition.ICs[0].value: is a text; a number is needed"));
 }
 
-TEST(DocumentCheck, ThrowsNothingWhateverAMemberIs)
+TEST(DocumentCheck, ThrowsNothingForAnyKindOfMember)
 {
     const std::string values[] = {"null", "true", "-1", "1e308", "\"x\"", "[]", "[[]]", "[{}]", "{}", "{\"a\": []}"};
     const Json::Value sound = analysis();

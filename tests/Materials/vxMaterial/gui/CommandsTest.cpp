@@ -240,7 +240,7 @@ TEST(CommandClasses, HaveTheVirtualOperationsInTheOrderOfTheHost)
     EXPECT_EQ(slotOf(&MatGui::CmdMatExport::getClassName), slotOf(&CommandBase::getClassName));
 }
 
-TEST_F(Commands, AreApplicableWithACurrentProjectOfWhateverKind)
+TEST_F(Commands, AreApplicableWithACurrentProjectOfAnyKind)
 {
     const std::vector<const char*> needProject = {"Mat_AddMaterial", "Mat_Delete", "Mat_Edit", "Mat_Import",
                                                   "Mat_Export"};
@@ -332,7 +332,7 @@ TEST_F(Commands, DelDocClosesTheMaterialProjectAmongOtherSelectedOnes)
     EXPECT_THAT(Obj::Application::get_projects(), ElementsAre(&analysis));
 }
 
-TEST_F(Commands, DelDocFindsTheSelectedMaterialProjectWhateverTheCurrentOneIs)
+TEST_F(Commands, DelDocFindsTheSelectedMaterialProjectEvenIfItIsNotCurrent)
 {
     Mat::DocumentMaterial& project = makeProject();
     Obj::Project& analysis = makeAnalysis();
@@ -405,7 +405,7 @@ TEST_F(Commands, AddMaterialSaysThatThereIsNoMaterialProject)
     EXPECT_EQ(boxes.shown()[0].parent, window.get());
 }
 
-TEST_F(Commands, AddMaterialAddsToTheMaterialProjectWhateverTheCurrentOneIs)
+TEST_F(Commands, AddMaterialAddsToTheMaterialProjectEvenIfItIsNotCurrent)
 {
     Mat::DocumentMaterial& project = makeProject();
     Obj::Project& analysis = makeAnalysis();
@@ -461,7 +461,7 @@ TEST_F(Commands, EditOpensTheEditorsOfAllSelectedMaterials)
     EXPECT_THAT(window->getMdiWindows(), SizeIs(10));
 }
 
-TEST_F(Commands, EditFindsTheMaterialProjectWhateverTheCurrentOneIs)
+TEST_F(Commands, EditFindsTheMaterialProjectEvenIfItIsNotCurrent)
 {
     Mat::MaterialObject& material = addMaterial(makeProject());
     select({&material});
@@ -797,7 +797,7 @@ TEST_F(Commands, DeleteDoesNothingWithoutASelection)
     EXPECT_EQ(undoStack().count(), 1);
 }
 
-TEST_F(Commands, DeletePassesOverWhatHasLeftTheProjectMeanwhile)
+TEST_F(Commands, DeleteIgnoresObjectsThatLeftTheProjectMeanwhile)
 {
     Mat::DocumentMaterial& project = makeProject();
     Mat::MaterialObject& first = addMaterial(project, "First");
@@ -848,7 +848,7 @@ private:
     static inline Kelta::TypeInfo type;
 };
 
-TEST_F(Commands, DeleteLeavesWhatItsNodeDoesNotLetGo)
+TEST_F(Commands, DeleteKeepsAnObjectIfItsNodeRefuses)
 {
     StubbornNode::init();
     StubbornObject::init();
@@ -1220,7 +1220,7 @@ TEST_F(Commands, ExportOpensNoDialogForAProjectThatOnlyHasTheTag)
     EXPECT_EQ(shown.count, 0);
 }
 
-TEST_F(Commands, ExportFindsTheMaterialProjectWhateverTheCurrentOneIs)
+TEST_F(Commands, ExportFindsTheMaterialProjectEvenIfItIsNotCurrent)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("materials.json"));

@@ -255,7 +255,7 @@ TEST(MaterialViewHost, ShortensLongValuesInItsReasons)
     EXPECT_TRUE(refusal->reason.contains("450, 450, "));
 }
 
-TEST(MaterialViewHost, AppliesThemAllTheSameIfNobodyObjects)
+TEST(MaterialViewHost, AppliesThemIfNoListenerRefuses)
 {
     Editor editor;
     editor.typeValue(5, "210 GPa");

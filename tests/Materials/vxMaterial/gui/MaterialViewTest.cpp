@@ -588,7 +588,7 @@ std::vector<vxtest::ShownBox> closeAnswering(QMessageBox::StandardButton answer,
     return boxes.shown();
 }
 
-TEST(MaterialView, AsksBeforeItClosesWhatIsToBecomeOfTheChanges)
+TEST(MaterialView, AsksWhetherToApplyTheChangesBeforeItCloses)
 {
     Editor editor;
     editor.typeValue(4, "2700");

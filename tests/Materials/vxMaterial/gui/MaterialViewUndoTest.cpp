@@ -49,7 +49,7 @@ void pressUndo()
     press(Qt::Key_Z, Qt::ControlModifier);
 }
 
-TEST(MaterialViewUndo, TakesBackEachKindOfEditAndMakesItAgain)
+TEST(MaterialViewUndo, UndoesAndRedoesEachKindOfEdit)
 {
     const std::vector<std::function<void(Editor&)>> edits{
         [](Editor& editor) { editor.typeValue(5, "7.1e10"); },
@@ -78,7 +78,7 @@ TEST(MaterialViewUndo, TakesBackEachKindOfEditAndMakesItAgain)
     }
 }
 
-TEST(MaterialViewUndo, TakesBackManyEditsOneByOne)
+TEST(MaterialViewUndo, UndoesManyEditsOneByOne)
 {
     Editor editor;
     std::vector<Shown> states{shown(editor)};
@@ -179,7 +179,7 @@ TEST(MaterialViewUndo, DoesNotGoOnToTheHostWhileTheKeyIsHeldDown)
     EXPECT_EQ(host.count, 0);
 }
 
-TEST(MaterialViewUndo, StartsAnewAfterApply)
+TEST(MaterialViewUndo, StartsAgainAfterApply)
 {
     Editor editor;
     HostHistory host;

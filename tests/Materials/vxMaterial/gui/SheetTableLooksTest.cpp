@@ -95,7 +95,7 @@ private:
     MatGui::SheetTableView m_table;
 };
 
-TEST(SheetTableLooks, HasTheSizesOfItsWidthWhateverItsWidthWasBefore)
+TEST(SheetTableLooks, HasTheSizesOfItsWidthAfterAnyEarlierWidth)
 {
     for (const int width : {350, 500, 800, 1200}) {
         const std::vector<int> expected = Table(width).sizes();

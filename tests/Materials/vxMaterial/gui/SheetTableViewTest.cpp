@@ -186,7 +186,7 @@ TEST(SheetTableView, EditsByTheValueDelegateAndKeepsNameDescriptionAndUnitReadOn
         EXPECT_EQ(table.itemDelegateForColumn(column), nullptr) << column;
 }
 
-TEST(SheetTableView, IsWhiteWithBlackTextWhateverTheColoursOfTheProgram)
+TEST(SheetTableView, IsWhiteWithBlackTextInEveryColourSchemeOfTheProgram)
 {
     const SheetTableView table;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
@@ -387,7 +387,7 @@ TEST(SheetTableView, ShowsAndTakesNothingWithoutAMaterialObject)
     EXPECT_FALSE(table.isCatalogued(4));
 }
 
-TEST(SheetTableView, KnowsTheIdsOfTheCatalogue)
+TEST(SheetTableView, HasTheIdsOfTheCatalogue)
 {
     Sheet sheet;
     EXPECT_TRUE(sheet.table.isCatalogued(4));
@@ -720,7 +720,7 @@ TEST(SheetTableView, LetsTheLaterOfTwoRowsOfOneIdStay)
     EXPECT_EQ(sheet.project.material().properties.at(4)->value, 3.0);
 }
 
-TEST(SheetTableView, TurnsSwitchesIntoOneWhateverTheirText)
+TEST(SheetTableView, TurnsSwitchesIntoOneForAnyText)
 {
     Sheet sheet;
     for (const int id : {28, 31, 32}) {

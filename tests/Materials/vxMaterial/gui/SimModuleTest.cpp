@@ -99,7 +99,7 @@ TEST_F(SimModuleTest, HasMessageBarsOfItsOwnAlone)
     EXPECT_THAT(childrenOf(*bars->items()[0]), ElementsAre("Mat_Import", "Mat_Export"));
 }
 
-TEST_F(SimModuleTest, BuildsItsTreesAnewEachTime)
+TEST_F(SimModuleTest, BuildsNewTreesEachTime)
 {
     const SimModule module;
     const std::unique_ptr<Gui::MenuItem> first(module.build_menu_bar());

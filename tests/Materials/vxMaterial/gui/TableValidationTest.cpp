@@ -107,7 +107,7 @@ TEST(TableValidation, ChecksEachOfTwoRowsOfOneId)
     EXPECT_EQ(check({{4, "1"}, {4, "0"}}), about(densityText, 2));
 }
 
-TEST(TableValidation, RefusesElasticityWithAHyperelasticModelWhateverElseThereIs)
+TEST(TableValidation, RefusesElasticityWithAHyperelasticModelInEveryTable)
 {
     const QString text = "Elasticity and hyper-elasticy cannot be used togeter!";
     for (const int model : {28, 29, 30}) {

@@ -140,7 +140,7 @@ TEST(JsonTree, ReadsEveryDoubleFromItsShortestText)
     }
 }
 
-TEST(JsonTree, ReadsADigitBehindAHundredThousandOthers)
+TEST(JsonTree, ReadsADigitAfterAHundredThousandOthers)
 {
     // The middle between 1 and the next double, and a little more.
     const std::string half = "1.00000000000000011102230246251565404236316680908203125";

@@ -52,7 +52,7 @@ TEST(MaterialPropertyFromText, StoresIdNameKeyAndDescriptionButNoUnit)
     EXPECT_FALSE(property.marked);
 }
 
-TEST(MaterialPropertyFromText, GivesEveryModelSwitchTheValueOneWhateverTheText)
+TEST(MaterialPropertyFromText, GivesEveryModelSwitchTheValueOneForAnyText)
 {
     for (const int id : {28, 29, 30, 31, 32}) {
         EXPECT_EQ(fromText(id, "abc").value, 1.0) << id;
@@ -97,7 +97,7 @@ TEST(MaterialPropertyFromText, StoresAWordUnchangedWithItsBlanks)
     EXPECT_EQ(fromText(37, "no such word").text, "no such word");
 }
 
-TEST(MaterialPropertyFromText, IgnoresTextBehindANumber)
+TEST(MaterialPropertyFromText, IgnoresTextAfterANumber)
 {
     EXPECT_EQ(fromText(4, "  7850 kg").value, 7850.0);
 }

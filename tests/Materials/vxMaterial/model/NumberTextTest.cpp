@@ -101,7 +101,7 @@ TEST(ReadNumber, ReadsTheLargestAndTheSmallestDouble)
     EXPECT_EQ(readNumber("5e-324"), 5e-324);
 }
 
-TEST(ReadNumberList, TakesNumbersWhateverSeparatesThem)
+TEST(ReadNumberList, ReadsNumbersWithAnySeparators)
 {
     EXPECT_THAT(readNumberList("450, 608,679"), ElementsAre(450.0, 608.0, 679.0));
     EXPECT_THAT(readNumberList("1;2 3"), ElementsAre(1.0, 2.0, 3.0));
@@ -209,7 +209,7 @@ TEST(ReadWholeNumber, IsInfiniteBeyondTheRangeAndZeroBelowIt)
     EXPECT_EQ(readWholeNumber("1000e-999"), 0.0);
 }
 
-TEST(ReadWholeNumber, KnowsTheLargestExponentsForWhatTheyAre)
+TEST(ReadWholeNumber, ReadsTheLargestExponentsAsInfinityOrZero)
 {
     EXPECT_EQ(readWholeNumber("1e9223372036854775807"), infinity);
     EXPECT_EQ(readWholeNumber("1e+9223372036854775808"), infinity);
@@ -294,7 +294,7 @@ TEST(AsciiCase, TouchesNothingButTheLettersAToZ)
     EXPECT_FALSE(vxMat::equalIgnoringAsciiCase("[", "{"));
 }
 
-TEST(ReadLeadingNumber, TellsTheTextBehindTheNumber)
+TEST(ReadLeadingNumber, ReturnsTheTextAfterTheNumber)
 {
     const auto read = [](std::string_view text) {
         const vxMat::LeadingNumber leading = vxMat::readLeadingNumber(text);

@@ -350,7 +350,7 @@ TEST_F(MaterialObjectTest, DescribesItsPropertiesBeforeThoseOfEveryProjectObject
     EXPECT_EQ(OpenMaterial().get_property_data().parent(), OpenObject::get_property_data_ref());
 }
 
-TEST_F(MaterialObjectTest, TellsObserversToReadItsPropertiesAnew)
+TEST_F(MaterialObjectTest, MakesObserversReadItsPropertiesAgain)
 {
     MaterialObject& object = addSteel("Steel");
     int changes = 0;

@@ -58,7 +58,7 @@ TEST(Module, MayBeInitialisedAgain)
     EXPECT_EQ(Mat::MaterialObject::getClassTypeId(), before);
 }
 
-TEST(Module, HasTheTranslationsLoadedAnewWhenEverythingElseIsThere)
+TEST(Module, ReloadsTheTranslationsAfterItsRegistration)
 {
     initMat();
     QSignalSpy refreshed(Gui::Translator::instance(), &Gui::Translator::languageChanged);

@@ -176,6 +176,7 @@ TEST_F(StandardCommands, UndoAndRedo)
 
 TEST_F(StandardCommands, ShowAndHideTheDocks)
 {
+    window->showMessages();
     for (const auto& [command, name] :
          {std::pair("Std_ProjectExplorer", "ProjectExplorer"), std::pair("Std_PropertyPanel", "PropertyPanel"),
           std::pair("Std_MessageLog", "MessageLog")})

@@ -195,7 +195,7 @@ protected:
     void applyAnotherMaterial() const
     {
         display.ask({"mousemove", "360", "190", "click", "--repeat", "2", "--delay", "60", "1"});
-        display.ask({"mousemove", "650", "580", "click", "1"});
+        display.ask({"mousemove", "620", "643", "click", "1"});
     }
 
     QTemporaryDir installed;

@@ -275,6 +275,7 @@ TEST_F(StandardCommands, RefuseNamesOfProjectsThatAreBlankOrTaken)
 
 TEST_F(StandardCommands, ShowAndHideTheDocks)
 {
+    window->showMessages();
     for (const auto& [command, name] :
          {std::pair("Std_ProjectExplorer", "ProjectExplorer"), std::pair("Std_PropertyPanel", "PropertyPanel"),
           std::pair("Std_MessageLog", "MessageLog")})

@@ -227,7 +227,8 @@ TEST_F(Batch, PassesNoControlCharactersToTheTerminal)
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.output.toStdString(), testing::StartsWith("a\\u001b[31mb\n"));
     EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Label = a\\u001b[31mb\n"));
-    EXPECT_EQ(errorsOf(outcome), "list.batch:6: the current project has no object with the label \"c\\u001b[2J\\u009b\"\n");
+    EXPECT_EQ(errorsOf(outcome),
+              "list.batch:6: the current project has no object with the label \"c\\u001b[2J\\u009b\"\n");
 }
 
 TEST_F(Batch, EndsAtQuit)

@@ -42,7 +42,7 @@ enum class Numbering
 ///
 /// Documents carry the id, key, name and number of each property. Other data comes from the catalogue of quantities if
 /// it knows the id: the unit, the description, the category, an empty name or key, and the first allowed word, with a
-/// doubt. Lists stay empty, with a doubt. A property that the catalogue does not know keeps the data of the document,
+/// doubt. Lists stay empty, with a doubt. A property that is not in the catalogue keeps the data of the document,
 /// with a doubt. A name or key that differs from the catalogue is kept, with a doubt.
 ///
 /// The label of a material is its name. A material keeps its number. A number that no object can have (0, or a missing

@@ -59,7 +59,7 @@ void CAESolve::readJson(const Json::Value& document)
     detail::readMembers(read, detail::solveMembers, solve);
     if (detail::claimsTooManySteps(solve, read.n_load_steps))
         throw Json::RuntimeError("\"n_load_steps\" is " + std::to_string(read.n_load_steps) +
-                                 ", far more than the arrays of the steps hold.");
+                                 ", which far exceeds the length of the arrays of the steps.");
     detail::forEachMember(detail::stepColumns, [&](const auto& column) {
         readColumn(read.*column.list, solve[column.key], column, read.n_load_steps);
     });

@@ -47,7 +47,7 @@ void checkProperty(MemberCheck& check, const Json::Value& property, const std::s
     const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
     if (quantity == nullptr) {
         check.find(path + ".prop_type",
-                   "is " + property["prop_type"].asString() + ", which the catalogue does not know");
+                   "is " + property["prop_type"].asString() + ", which is not in the catalogue");
         return;
     }
     noteWhatStaysBehind(check, *quantity, path);
@@ -149,7 +149,7 @@ void checkSolve(MemberCheck& check, const Json::Value& document)
     if (steps.isUInt() && detail::claimsTooManySteps(*solve, steps.asUInt())) {
         check.find(path + ".n_load_steps",
                    "is " + steps.asString() +
-                       ", far more than the arrays of the steps hold; readers refuse the document");
+                       ", which far exceeds the length of the arrays of the steps; readers refuse the document");
         return;
     }
     detail::forEachMember(detail::stepColumns, [&](const auto& column) {

@@ -95,8 +95,8 @@ TEST(DocumentCheck, WantsAKnownProjectType)
 TEST(DocumentCheck, NamesUnknownQuantitiesWithTheirPath)
 {
     EXPECT_THAT(findingsOfProperties("[" + property(40, "1") + "," + property(201, "1") + "]"),
-                ElementsAre("$.material[0].Props[0].prop_type: is 40, which the catalogue does not know",
-                            "$.material[0].Props[1].prop_type: is 201, which the catalogue does not know"));
+                ElementsAre("$.material[0].Props[0].prop_type: is 40, which is not in the catalogue",
+                            "$.material[0].Props[1].prop_type: is 201, which is not in the catalogue"));
 }
 
 TEST(DocumentCheck, AppliesTheRulesOfThePropertyTable)
@@ -209,9 +209,8 @@ TEST(DocumentCheck, NamesLoadStepsThatReadersRefuse)
 {
     Json::Value document = analysis();
     document["solve"]["n_load_steps"] = 4294967295U;
-    EXPECT_THAT(check(document),
-                ElementsAre("$.solve.n_load_steps: is 4294967295, far more than the arrays of the steps "
-                            "hold; readers refuse the document"));
+    EXPECT_THAT(check(document), ElementsAre("$.solve.n_load_steps: is 4294967295, which far exceeds the length of the "
+                                             "arrays of the steps; readers refuse the document"));
 }
 
 TEST(DocumentCheck, NamesLoadStepArraysOfAnotherLength)

@@ -93,10 +93,6 @@
         <translation>Eines der zuletzt verwendeten Projekte öffnen</translation>
     </message>
     <message>
-        <source>Material project (*.vxmat)</source>
-        <translation>Materialprojekt (*.vxmat)</translation>
-    </message>
-    <message>
         <source>Exchange document (*.json)</source>
         <translation>Austauschdokument (*.json)</translation>
     </message>
@@ -115,6 +111,22 @@
     <message>
         <source>Recent projects</source>
         <translation>Zuletzt verwendete Projekte</translation>
+    </message>
+    <message>
+        <source>Project (*.vxmat)</source>
+        <translation>Projekt (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>Hand over to the solver</source>
+        <translation>An den Solver übergeben</translation>
+    </message>
+    <message>
+        <source>Only what has been applied is handed over.</source>
+        <translation>Übergeben wird nur, was übernommen wurde.</translation>
+    </message>
+    <message>
+        <source>&amp;Hand over without them</source>
+        <translation>Ohne sie &amp;übergeben</translation>
     </message>
 </context>
 <context>
@@ -1427,6 +1439,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>Choose the language of the program</source>
         <translation>Die Sprache des Programms wählen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was handed over to the solver.</source>
+        <translation>„%1“ wurde an den Solver übergeben.</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
     </message>
 </context>
 <context>

@@ -93,10 +93,6 @@
         <translation>打开最近使用的项目之一</translation>
     </message>
     <message>
-        <source>Material project (*.vxmat)</source>
-        <translation>材料项目 (*.vxmat)</translation>
-    </message>
-    <message>
         <source>Exchange document (*.json)</source>
         <translation>交换文档 (*.json)</translation>
     </message>
@@ -115,6 +111,22 @@
     <message>
         <source>Recent projects</source>
         <translation>最近的项目</translation>
+    </message>
+    <message>
+        <source>Project (*.vxmat)</source>
+        <translation>项目 (*.vxmat)</translation>
+    </message>
+    <message>
+        <source>Hand over to the solver</source>
+        <translation>移交给求解器</translation>
+    </message>
+    <message>
+        <source>Only what has been applied is handed over.</source>
+        <translation>只移交已应用的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Hand over without them</source>
+        <translation>不含这些内容移交(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1427,6 +1439,14 @@ Delete anyway?</source>
     <message>
         <source>Choose the language of the program</source>
         <translation>选择程序的语言</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was handed over to the solver.</source>
+        <translation>“%1”已移交给求解器。</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>系统(&amp;S)</translation>
     </message>
 </context>
 <context>

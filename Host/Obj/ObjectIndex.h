@@ -28,7 +28,7 @@ public:
     void remove(const ProjectObject& object, std::string_view name);
     void clear();
 
-    std::size_t getMemoryUsage() const; ///< in bytes, without the index itself
+    std::size_t getMemoryUsage() const; ///< about, in bytes, without the index itself
 
 private:
     static constexpr bool storeHash = true; ///< so that a table that grows does not read the names

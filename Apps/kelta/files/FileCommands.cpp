@@ -8,6 +8,7 @@
 #include "Gui/Contributions.h"
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
+#include "Gui/WindowTitle.h"
 #include "Obj/Application.h"
 #include "kelta/DocumentImport.h"
 #include "kelta/UnappliedEdits.h"
@@ -76,8 +77,7 @@ void listRecentFiles(ProjectFiles& files, QMenu& menu)
 {
     const QStringList paths = RecentFiles::list();
     for (int index = 0; index < paths.size(); ++index) {
-        QString text = QDir::toNativeSeparators(paths[index]);
-        text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        const QString text = Gui::escapedForMnemonics(QDir::toNativeSeparators(paths[index]));
         const QString number = index < 9 ? QStringLiteral("&%1 ").arg(index + 1) : QString();
         QObject::connect(menu.addAction(number + text), &QAction::triggered, &menu,
                          [&files, path = paths[index]] { files.open(path); });

@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>

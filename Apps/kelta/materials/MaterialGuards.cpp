@@ -101,10 +101,10 @@ void guardNewProject(const Run& run)
 QString askForFile()
 {
     constexpr const char* context = "CmdMatExport";
-    return Gui::FileDialog::getSaveFileName(
-        Gui::MainWindow::get_main_window_inst(), QCoreApplication::translate(context, "Export materials"), {},
-        QCoreApplication::translate(context, "JSON file(*.json)") + QStringLiteral(";;") +
-            QCoreApplication::translate(context, "All files(*.*)"));
+    return Gui::FileDialog::getSaveFileName(Gui::MainWindow::get_main_window_inst(),
+                                            QCoreApplication::translate(context, "Export materials"), {},
+                                            QCoreApplication::translate(context, "JSON file(*.json)") +
+                                                QStringLiteral(";;") + QStringLiteral("All files(*.*)"));
 }
 
 /// Returns the reason if no file can be exported under any name; an empty text otherwise.

@@ -1,6 +1,6 @@
 #include "Startup.h"
+#include "TitleUpdate.h"
 #include "UserSettings.h"
-#include "WindowTitle.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
@@ -12,8 +12,6 @@
 
 #include <CLI/CLI.hpp>
 #include <QFile>
-#include <QFileInfo>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>

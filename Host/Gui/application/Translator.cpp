@@ -42,7 +42,7 @@ QStringList filesFor(const QString& language, const QStringList& names)
     return {};
 }
 
-/// Returns the file with Qt's own texts, such as those of message box buttons; an empty text if Qt's translations are
+/// Returns the file with Qt's own texts, such as those of message box buttons; an empty list if Qt's translations are
 /// not installed. The folder of Qt's translations may hold thousands of files, so it is not listed.
 QStringList toolkitFilesFor(const QString& language, const QString& folder)
 {

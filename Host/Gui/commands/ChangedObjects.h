@@ -25,7 +25,7 @@ public:
     ~ChangedObjects();
 
     /// Selects what was added; if nothing was added, what was changed; if there is nothing, leaves the selection as it
-    /// is. Things that are gone are left out.
+    /// is. Projects and objects that no longer exist are left out.
     void select(TreeSelectionSingleton& selection) const;
 
 private:

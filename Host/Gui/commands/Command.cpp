@@ -2,6 +2,7 @@
 
 #include "Gui/MainWindow.h"
 #include "Gui/PictureFactory.h"
+#include "Gui/WindowTitle.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
@@ -9,7 +10,6 @@
 #include <QAction>
 #include <QIcon>
 #include <QStatusBar>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <utility>
@@ -21,12 +21,6 @@ namespace {
 QString joined(const QString& text, const QString& subject)
 {
     return subject.isEmpty() ? text : QCoreApplication::translate("Gui::Command", "%1: %2").arg(text, subject);
-}
-
-/// Returns the text so that a tool tip shows it as it is, also if it looks like markup.
-QString plain(const QString& text)
-{
-    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
 } // namespace
@@ -58,8 +52,8 @@ void CommandBase::showTexts()
 {
     const QString now = subject ? subject() : QString();
     // Behind a single "&", a letter would become the key of the entry.
-    m_action->setText(joined(get_menu_info(), QString(now).replace(QLatin1Char('&'), QLatin1String("&&"))));
-    m_action->setToolTip(plain(joined(get_tooltip_info(), now)));
+    m_action->setText(joined(get_menu_info(), escapedForMnemonics(now)));
+    m_action->setToolTip(escapedForToolTip(joined(get_tooltip_info(), now)));
     m_action->setStatusTip(joined(get_statustip(), now));
 }
 

@@ -38,7 +38,6 @@ void registerObjectJudge(const char* className, ObjectJudge judge)
 ObjectStatus statusOf(const Obj::ProjectObject& object)
 {
     using Level = ObjectStatus::Level;
-    const bool isReady = object.getObjectState() == Obj::eVXObjectState::Ready;
     if (const ObjectJudge* const judge = findJudge(object.getTypeId())) {
         try {
             return (*judge)(object);
@@ -47,7 +46,7 @@ ObjectStatus statusOf(const Obj::ProjectObject& object)
             return {Level::WithFindings, {Kelta::currentExceptionText()}};
         }
     }
-    return {isReady ? Level::Ready : Level::Empty};
+    return {object.getObjectState() == Obj::eVXObjectState::Ready ? Level::Ready : Level::Empty};
 }
 
 } // namespace Gui

@@ -50,7 +50,7 @@ public:
     int rowCount(const QModelIndex& parent) const override;
     int columnCount(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    /// Gives an object a new label, undoably.
+    /// Gives an object a new label, or a project a new name, undoably.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     /// The tree does not select a node that has its own selection.
     Qt::ItemFlags flags(const QModelIndex& index) const override;

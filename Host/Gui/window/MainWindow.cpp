@@ -465,7 +465,7 @@ void MainWindow::updateLater()
     m_update.start(0);
 }
 
-/// Replaces menus and toolbars only here, when none of them runs a command.
+/// Runs when the event loop is idle, so that no menu or toolbar is replaced while it runs a command.
 void MainWindow::updateNow()
 {
     const std::string chosen = std::exchange(m_chosenWorkbench, {});

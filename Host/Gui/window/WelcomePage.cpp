@@ -207,7 +207,7 @@ void WelcomePage::showLists(WelcomeStep step)
     }
     QStringList shown{title};
     for (const WelcomeLink& link : links)
-        shown << link.text;
+        shown << link.text << link.toolTip;
     m_listTitle->setVisible(!links.empty());
     if (shown != m_shownLinks)
         replaceLinks(title, links);

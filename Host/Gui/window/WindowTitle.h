@@ -4,10 +4,10 @@
 
 #include <QString>
 
-/// Titles of windows. Qt shows a mark of modification in place of "[*]" in a title, and "[*]" in place of two of them.
+/// Titles of windows, and texts for widgets that interpret some characters. Qt shows a mark of modification in place of "[*]" in a title, and "[*]" in place of two of them.
 namespace Gui {
 
-/// Returns the title of a window that shows `text` as it is, and the mark behind it while the window is modified.
+/// Returns the title of a window that shows `text` as it is, and the mark after it while the window is modified.
 GUI_EXPORT QString markedTitle(const QString& text);
 
 /// Returns a text as a part of a title that shows it as it is.

@@ -1,11 +1,14 @@
 #include "vxMaterial/exchange/CardSet.h"
 
 #include "vxMaterial/json/Utf8.h"
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialProperty.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <utility>
 
@@ -101,6 +104,17 @@ void doubtPassedOverModels(CardSet& set, const MaterialEntry& entry)
     }
 }
 
+/// Adds a doubt for each property with a number that is infinite or not a number.
+void doubtNumbersThatAreNotFinite(CardSet& set, const vxMat::CMaterial& material)
+{
+    const auto isFinite = [](double number) { return std::isfinite(number); };
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
+        const std::vector<double>& list = property->values;
+        if (!isFinite(property->value) || !std::all_of(list.begin(), list.end(), isFinite))
+            set.doubts.push_back(quoted(property->name) + " has a number that is not finite, which no solver reads");
+    }
+}
+
 void addTable(CardSet& set, const MaterialEntry& entry, std::int32_t id, const char* name,
               std::string (MaterialEntry::*table)() const)
 {
@@ -125,6 +139,8 @@ CardSet makeCardSet(const MaterialEntry& entry, MaterialSource source)
     else if (entry.kind == MaterialKind::Creep)
         addCard(set, "creep", entry.getCreepCard());
     doubtPassedOverModels(set, entry);
+
+    doubtNumbersThatAreNotFinite(set, material);
 
     addTable(set, entry, PropertyId::Density, "density", &MaterialEntry::getDensityTable);
     addTable(set, entry, PropertyId::SpecificHeat, "specific heat", &MaterialEntry::getSpecificHeatTable);

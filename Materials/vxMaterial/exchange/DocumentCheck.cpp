@@ -46,8 +46,7 @@ void checkProperty(MemberCheck& check, const Json::Value& property, const std::s
     const auto id = static_cast<std::int32_t>(property["prop_type"].asUInt());
     const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
     if (quantity == nullptr) {
-        check.find(path + ".prop_type",
-                   "is " + property["prop_type"].asString() + ", which is not in the catalogue");
+        check.find(path + ".prop_type", "is " + property["prop_type"].asString() + ", which is not in the catalogue");
         return;
     }
     noteWhatStaysBehind(check, *quantity, path);

@@ -5,7 +5,7 @@
 #include "Mnemonics.h"
 #include "RecentFiles.h"
 #include "SchemaJudge.h"
-#include "WindowTitle.h"
+#include "TitleUpdate.h"
 
 #include "Gui/ProjectExplorer.h"
 #include "Gui/Translator.h"

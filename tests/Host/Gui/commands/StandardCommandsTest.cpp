@@ -184,7 +184,7 @@ TEST_F(StandardCommands, NameTheStepThatTheyUndoAndRedo)
     const QAction* const redo = commands().findCommand("Std_Redo")->action();
     EXPECT_EQ(undo->text(), "&Undo: Add \"A && <b>B</b>\"");
     EXPECT_EQ(undo->statusTip(), "Undo the last change: Add \"A & <b>B</b>\"");
-    EXPECT_EQ(undo->toolTip(), "Undo the last change: Add &quot;A &amp; &lt;b&gt;B&lt;/b&gt;&quot;");
+    EXPECT_EQ(undo->toolTip(), "<qt>Undo the last change: Add &quot;A &amp; &lt;b&gt;B&lt;/b&gt;&quot;</qt>");
     EXPECT_EQ(redo->text(), "&Redo");
     EXPECT_TRUE(run("Std_Undo"));
     EXPECT_EQ(window->statusBar()->currentMessage(), "Undone: Add \"A & <b>B</b>\"");

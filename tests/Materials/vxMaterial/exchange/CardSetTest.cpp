@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using testing::ElementsAre;
@@ -64,6 +66,19 @@ TEST(CardSet, DoubtsACardThatLacksAValue)
     const CardSet creep = cardsOf(makeEntry({{45, 1.0}}));
     EXPECT_THAT(namesOf(creep), ElementsAre("creep"));
     EXPECT_THAT(creep.doubts, ElementsAre(HasSubstr("Invalid dModulusA, dModulusN, or dModulusM.")));
+}
+
+TEST(CardSet, DoubtsNumbersThatAreNotFinite)
+{
+    auto entry = makeEntry({{5, std::numeric_limits<double>::infinity()}, {6, 0.3}});
+    EXPECT_THAT(cardsOf(entry).doubts,
+                ElementsAre("\"Young's modulus\" has a number that is not finite, which no solver reads"));
+    entry = makeEntry({{5, 1.0}, {6, 0.3}});
+    auto stresses = vxMat::findPropertyRecord(38)->create();
+    stresses->values = {1.0, std::numeric_limits<double>::quiet_NaN()};
+    const std::string name = stresses->name;
+    entry->material->setProperty(38, std::move(stresses));
+    EXPECT_THAT(cardsOf(entry).doubts, ElementsAre(HasSubstr(name)));
 }
 
 TEST(CardSet, DoubtsAPlasticityThatTheSolverDoesNotKnow)

@@ -1,4 +1,4 @@
-#include "WindowTitle.h"
+#include "TitleUpdate.h"
 
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"

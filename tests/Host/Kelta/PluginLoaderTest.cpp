@@ -10,6 +10,10 @@
 
 #include <sys/stat.h>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
 namespace {
 
 using Kelta::PluginLoader;
@@ -138,11 +142,20 @@ TEST_F(PluginLoaderTest, NamesALibraryThatIsCutOffAndLoadsTheRest)
                 AllOf(HasSubstr("\"Cut1\""), HasSubstr("libCut1.so is incomplete"), HasSubstr("\"Cut4\"")));
 }
 
+/// Loads without leak detection, because Qt does not free the name of a library whose initialisation throws.
+PluginLoader::Outcome loadAllDespiteALeakOfQt(PluginLoader& loader)
+{
+#ifdef __SANITIZE_ADDRESS__
+    const __lsan::ScopedDisabler disabler;
+#endif
+    return loader.loadAll();
+}
+
 TEST_F(PluginLoaderTest, NamesALibraryWhoseInitialisationThrowsAndLoadsTheRest)
 {
     folder.add("Lapsed", "StaticThrowPlugin", R"(["enter"])");
     folder.add("Whole", "GoodPlugin", R"(["enter"])");
-    EXPECT_THAT(toStrings(loader.loadAll().loaded), ElementsAre("Whole"));
+    EXPECT_THAT(toStrings(loadAllDespiteALeakOfQt(loader).loaded), ElementsAre("Whole"));
     EXPECT_THAT(reports.text(), AllOf(HasSubstr("\"Lapsed\""), HasSubstr("the licence of the year has run out")));
 }
 

@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static desktop::Questions questions(vxfuzz::mainWindow());
     static desktop::Sessions sessions;
-    static desktop::Opening opening(vxfuzz::mainWindow(), sessions, questions);
+    static desktop::Opening opening(vxfuzz::mainWindow(), sessions, questions, [](const QString&) { return false; });
     if (Obj::Project* const project = open(opening, vxfuzz::textOf(data, size))) {
         const desktop::Session* const session = sessions.find(*project);
         const auto record = desktop::recordProject(*project, session->kept);

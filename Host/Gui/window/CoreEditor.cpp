@@ -22,7 +22,7 @@ MDIWindow* makeEditor(MainWindow& mainWindow, GuiProject& project, Obj::ProjectO
         Kelta::MessageLog::error(
             QCoreApplication::translate(
                 "Gui::CoreEditor",
-                "\"%1\" cannot be opened: its editor \"%2\" is missing. The module of the editor may not be loaded.")
+                R"("%1" cannot be opened: its editor "%2" is missing. The module of the editor may not be loaded.)")
                 .arg(QString::fromStdString(object.label.getValue()), QString::fromUtf8(className)));
         return nullptr;
     }

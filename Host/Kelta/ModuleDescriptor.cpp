@@ -104,7 +104,7 @@ QString readModule(const QJsonObject& json, const QString& path)
 {
     QString module = textOf(json, QStringLiteral("module"));
     if (module + QLatin1String(descriptorSuffix) != QFileInfo(path).fileName())
-        refuse(tr("\"module\" in the descriptor is \"%1\", which differs from the name of the file").arg(module));
+        refuse(tr(R"("module" in the descriptor is "%1", which differs from the name of the file)").arg(module));
     return module;
 }
 

@@ -173,7 +173,7 @@ void Application::giveFreeName(Project& project)
     if (get_project(project.m_name) == nullptr)
         return;
     std::string name = get_unique_project_name(project.m_name);
-    Kelta::MessageLog::warning(tr("The project \"%1\" was restored as \"%2\", because another project has its name.")
+    Kelta::MessageLog::warning(tr(R"(The project "%1" was restored as "%2", because another project has its name.)")
                                    .arg(QString::fromStdString(project.m_name), QString::fromStdString(name)));
     project.m_name = std::move(name);
 }

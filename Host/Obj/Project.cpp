@@ -343,7 +343,7 @@ void Project::giveFreeName(ProjectObject& object)
     if (get_object(object.m_name) == nullptr)
         return;
     std::string name = get_unique_object_name(object.m_name);
-    Kelta::MessageLog::warning(tr("The object \"%1\" was restored as \"%2\", because another object has its name.")
+    Kelta::MessageLog::warning(tr(R"(The object "%1" was restored as "%2", because another object has its name.)")
                                    .arg(shown(object.m_name), shown(name)));
     object.m_name = std::move(name);
 }

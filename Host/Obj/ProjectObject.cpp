@@ -133,7 +133,7 @@ bool ProjectObject::linkTo(ProjectObject& other)
         return false;
     if (!isOfSameProject(other)) {
         Kelta::MessageLog::error(
-            tr("\"%1\" cannot be linked to \"%2\": both must be in the same project.")
+            tr(R"("%1" cannot be linked to "%2": both must be in the same project.)")
                 .arg(QString::fromStdString(label.getValue()), QString::fromStdString(other.label.getValue())));
         return false;
     }

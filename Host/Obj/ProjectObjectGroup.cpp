@@ -24,7 +24,7 @@ bool ProjectObjectGroup::addMember(ProjectObject& object)
     if (isInside(object)) {
         Kelta::MessageLog::error(
             QCoreApplication::translate("Obj::ProjectObjectGroup",
-                                        "\"%1\" cannot be a member of \"%2\", because \"%2\" is inside it.")
+                                        R"("%1" cannot be a member of "%2", because "%2" is inside it.)")
                 .arg(QString::fromStdString(object.label.getValue()), QString::fromStdString(label.getValue())));
         return false;
     }

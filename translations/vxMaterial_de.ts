@@ -1094,6 +1094,10 @@ Möchten Sie fortfahren?</translation>
         <source>&quot;%1&quot; cannot be a member of &quot;%2&quot;, because &quot;%2&quot; is inside it.</source>
         <translation>„%1“ kann kein Mitglied von „%2“ sein, weil „%2“ darin enthalten ist.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a member of &quot;%2&quot;, because groups would be nested too deeply.</source>
+        <translation>„%1“ kann kein Mitglied von „%2“ sein, weil Gruppen dann zu tief verschachtelt wären.</translation>
+    </message>
 </context>
 <context>
     <name>Obj::PropertyRecords</name>
@@ -2378,6 +2382,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>&quot;%1&quot; is %2, which is in another group or contains this group.</source>
         <translation>„%1“ ist %2, das in einer anderen Gruppe ist oder diese Gruppe enthält.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which is nested in too many groups.</source>
+        <translation>„%1“ ist %2, das in zu vielen Gruppen verschachtelt ist.</translation>
     </message>
 </context>
 <context>

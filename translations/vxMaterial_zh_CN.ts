@@ -1094,6 +1094,10 @@ Do you want to continue?</source>
         <source>&quot;%1&quot; cannot be a member of &quot;%2&quot;, because &quot;%2&quot; is inside it.</source>
         <translation>“%1”不能成为“%2”的成员，因为“%2”包含在其中。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a member of &quot;%2&quot;, because groups would be nested too deeply.</source>
+        <translation>“%1”不能成为“%2”的成员，因为组会嵌套过深。</translation>
+    </message>
 </context>
 <context>
     <name>Obj::PropertyRecords</name>
@@ -2377,6 +2381,10 @@ Delete anyway?</source>
     <message>
         <source>&quot;%1&quot; is %2, which is in another group or contains this group.</source>
         <translation>“%1”是 %2，它已在另一个组中，或包含此组。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2, which is nested in too many groups.</source>
+        <translation>“%1”是%2，它嵌套在过多的组中。</translation>
     </message>
 </context>
 <context>

@@ -220,28 +220,45 @@ void removeSecondLabels(ProjectRecord& project, std::vector<std::string>& doubts
     }
 }
 
-/// The groups of objects. An object is in one group at most, and no group is inside itself.
+/// The groups of objects. An object is in one group at most, no group is inside itself, and groups are nested only as
+/// deeply as the program nests them.
 class Groups
 {
 public:
-    /// Puts an object into a group. Returns false, without a change, if this is not possible.
-    bool take(std::uint32_t member, std::uint32_t group)
+    /// Puts an object into a group. Returns the reason, without a change, if this is not possible, and otherwise null.
+    const char* take(std::uint32_t member, std::uint32_t group)
     {
-        for (std::uint32_t around = group; around != 0; around = groupOf(around))
+        int levels = m_places[member].levelsBelow;
+        for (std::uint32_t around = group; around != 0; around = m_places[around].group, ++levels)
             if (around == member)
-                return false;
-        return m_groups.emplace(member, group).second;
+                return impossible;
+        if (m_places[member].group != 0)
+            return impossible;
+        if (levels > deepestGroups)
+            return QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which is nested in too many groups.)");
+        put(member, group);
+        return nullptr;
     }
 
 private:
-    /// Returns 0 if the object is in no group.
-    std::uint32_t groupOf(std::uint32_t member) const
+    struct Place
     {
-        const auto found = m_groups.find(member);
-        return found != m_groups.end() ? found->second : 0;
+        std::uint32_t group = 0; ///< 0 if the object is in no group
+        int levelsBelow = 0;     ///< how many levels of members the object has
+    };
+
+    void put(std::uint32_t member, std::uint32_t group)
+    {
+        m_places[member].group = group;
+        int levels = m_places[member].levelsBelow;
+        for (std::uint32_t around = group; around != 0; around = m_places[around].group)
+            m_places[around].levelsBelow = std::max(m_places[around].levelsBelow, ++levels);
     }
 
-    std::unordered_map<std::uint32_t, std::uint32_t> m_groups; ///< by the number of the member
+    static constexpr const char* impossible = QT_TRANSLATE_NOOP(
+        "projectfile::ProjectFile", R"("%1" is %2, which is in another group or contains this group.)");
+
+    std::unordered_map<std::uint32_t, Place> m_places; ///< by the number of the object
 };
 
 /// An invalid link.
@@ -272,11 +289,10 @@ std::vector<FalseLink> falseLinks(const std::vector<ObjectRecord>& objects)
             else if (!seen.insert(number).second)
                 found.push_back({object, link,
                                  QT_TRANSLATE_NOOP("projectfile::ProjectFile", R"("%1" is %2, which occurs twice.)")});
-            else if (objects[object].className == groupClass && !groups.take(number, objects[object].objectId))
-                found.push_back(
-                    {object, link,
-                     QT_TRANSLATE_NOOP("projectfile::ProjectFile",
-                                       R"("%1" is %2, which is in another group or contains this group.)")});
+            else if (const char* const reason = objects[object].className == groupClass
+                                                    ? groups.take(number, objects[object].objectId)
+                                                    : nullptr)
+                found.push_back({object, link, reason});
         }
     }
     return found;

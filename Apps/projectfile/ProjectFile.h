@@ -20,6 +20,9 @@ namespace projectfile {
 /// The version of the format that this program writes. The program reads this version and earlier ones.
 inline constexpr int formatVersion = 1;
 
+/// The maximum number of groups around an object.
+inline constexpr int deepestGroups = 100;
+
 /// The class of a material project, and the default if a file names no class.
 inline constexpr const char* materialProjectClass = "Mat::DocumentMaterial";
 /// The class of the materials in a material project.

@@ -9,6 +9,37 @@ namespace Obj {
 
 OBJ_REGISTER_CLASS(Obj::ProjectObjectGroup, Obj::ProjectObject)
 
+namespace {
+
+std::vector<ProjectObject*> membersOf(const ProjectObject& object)
+{
+    const auto* const group = dynamic_cast<const ProjectObjectGroup*>(&object);
+    return group != nullptr ? group->getMembers() : std::vector<ProjectObject*>();
+}
+
+/// Returns how many levels of members an object has; 0 if it is not a group, or empty.
+int countLevelsBelow(const ProjectObject& object)
+{
+    int levels = 0;
+    for (std::vector<ProjectObject*> level = membersOf(object), next; !level.empty(); level.swap(next), ++levels) {
+        next.clear();
+        for (const ProjectObject* const member : level) {
+            const std::vector<ProjectObject*> members = membersOf(*member);
+            next.insert(next.end(), members.begin(), members.end());
+        }
+    }
+    return levels;
+}
+
+void reportRefusal(const char* reason, const ProjectObject& member, const ProjectObjectGroup& group)
+{
+    Kelta::MessageLog::error(
+        QCoreApplication::translate("Obj::ProjectObjectGroup", reason)
+            .arg(QString::fromStdString(member.label.getValue()), QString::fromStdString(group.label.getValue())));
+}
+
+} // namespace
+
 ProjectObjectGroup::ProjectObjectGroup()
 {
     classLabel.setValue("Group");
@@ -22,15 +53,21 @@ bool ProjectObjectGroup::addMember(ProjectObject& object)
 {
     const RemovalGuard guard;
     if (isInside(object)) {
-        Kelta::MessageLog::error(
-            QCoreApplication::translate("Obj::ProjectObjectGroup",
-                                        R"("%1" cannot be a member of "%2", because "%2" is inside it.)")
-                .arg(QString::fromStdString(object.label.getValue()), QString::fromStdString(label.getValue())));
+        reportRefusal(QT_TRANSLATE_NOOP("Obj::ProjectObjectGroup",
+                                        R"("%1" cannot be a member of "%2", because "%2" is inside it.)"),
+                      object, *this);
         return false;
     }
     ProjectObjectGroup* const former = object.getParentGroup();
     if (former == this)
         return true;
+    if (countLevelsAround() + 1 + countLevelsBelow(object) > deepestNesting) {
+        reportRefusal(
+            QT_TRANSLATE_NOOP("Obj::ProjectObjectGroup",
+                              R"("%1" cannot be a member of "%2", because groups would be nested too deeply.)"),
+            object, *this);
+        return false;
+    }
     if (!linkTo(object))
         return false;
     if (former != nullptr)
@@ -64,6 +101,15 @@ bool ProjectObjectGroup::isInside(const ProjectObject& object) const
     while (around != nullptr && around != &object)
         around = around->getParentGroup();
     return around != nullptr;
+}
+
+/// Returns how many groups this group is in.
+int ProjectObjectGroup::countLevelsAround() const
+{
+    int levels = 0;
+    for (const ProjectObjectGroup* group = getParentGroup(); group != nullptr; group = group->getParentGroup())
+        ++levels;
+    return levels;
 }
 
 } // namespace Obj

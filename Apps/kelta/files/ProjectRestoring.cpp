@@ -8,6 +8,7 @@
 #include "Gui/ViewFeeder.h"
 #include "Obj/ContentCodec.h"
 #include "Obj/Placeholder.h"
+#include "Obj/ProjectObjectGroup.h"
 #include "Obj/PropertyRecords.h"
 
 #include <QCoreApplication>
@@ -19,6 +20,9 @@
 #include <utility>
 
 namespace desktop {
+
+static_assert(projectfile::deepestGroups == Obj::ProjectObjectGroup::deepestNesting,
+              "what the check of a file accepts can be opened");
 
 namespace {
 

@@ -206,7 +206,7 @@ void ProjectExplorer::makeCurrent(const std::vector<Obj::Project*>& projects,
         Obj::Application::instance().setCurrentProject(*objects.front()->get_project());
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
+// NOLINTNEXTLINE(misc-no-recursion): at most ProjectObjectGroup::deepestNesting deep
 void ProjectExplorer::selectBelow(const QModelIndex& parent, QItemSelection& items) const
 {
     const int count = parent.isValid() ? m_model.rowCount(parent) : 0;

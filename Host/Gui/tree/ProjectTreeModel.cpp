@@ -311,7 +311,7 @@ void ProjectTreeModel::synchronizeObjects(const Obj::Project& project)
     removeSurplusBelow(keyOf(id, 0), shape);
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
+// NOLINTNEXTLINE(misc-no-recursion): at most ProjectObjectGroup::deepestNesting deep
 void ProjectTreeModel::removeSurplusBelow(Key node, const TreeShape& shape)
 {
     removeSurplus(node, shape.childrenOf(objectIdOf(node)));
@@ -393,7 +393,7 @@ void ProjectTreeModel::removeBlock(Key parent, int first, int last)
     endRemoveRows();
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): as deep as groups contain each other
+// NOLINTNEXTLINE(misc-no-recursion): at most ProjectObjectGroup::deepestNesting deep
 void ProjectTreeModel::erase(Key node)
 {
     const auto found = m_nodes.find(node);

@@ -470,6 +470,53 @@ TEST(MixedProject, LosesMembersOfTwoGroupsAndOfCirclesWithADoubt)
     EXPECT_THAT(read.objects[3].links, ElementsAre(1U));
 }
 
+/// Returns a project of groups, of which each has the next as its only member, or the one before it.
+ProjectRecord nestedGroups(std::uint32_t count, bool isOutermostFirst)
+{
+    ProjectRecord project;
+    project.className = "Stub::Project";
+    project.name = "Frame";
+    project.nextObjectId = count + 1;
+    for (std::uint32_t id = 1; id <= count; ++id) {
+        projectfile::ObjectRecord& group = project.objects.emplace_back();
+        group.objectId = id;
+        group.className = "Obj::ProjectObjectGroup";
+        group.internalName = group.label = "Group" + std::to_string(id);
+        const std::uint32_t member = isOutermostFirst ? id + 1 : id - 1;
+        if (member >= 1 && member <= count)
+            group.links = {member};
+    }
+    return project;
+}
+
+TEST(MixedProject, LosesMembersThatAreNestedTooDeeplyWithADoubt)
+{
+    for (const bool isOutermostFirst : {true, false}) {
+        SCOPED_TRACE(isOutermostFirst);
+        const auto deepest = static_cast<std::uint32_t>(projectfile::deepestGroups) + 1;
+        EXPECT_THAT(readProject(writeProject(nestedGroups(deepest, isOutermostFirst))).doubts, IsEmpty());
+        EXPECT_THAT(refusalOf(nestedGroups(deepest + 1, isOutermostFirst)), HasSubstr("nested in too many groups"));
+    }
+}
+
+TEST(MixedProject, CutsTensOfThousandsOfNestedGroupsIntoParts)
+{
+    for (const bool isOutermostFirst : {true, false}) {
+        SCOPED_TRACE(isOutermostFirst);
+        const std::uint32_t count = 50000;
+        const ProjectRecord project = nestedGroups(count, isOutermostFirst);
+        std::string text =
+            R"({"format": "vxMaterial project", "format_version": 1, "class": "Stub::Project", "name": "p",
+            "next_object_id": 50001, "materials": [], "objects": [)";
+        for (const projectfile::ObjectRecord& group : project.objects)
+            text += R"({"object_id": )" + std::to_string(group.objectId) + R"(, "class": ")" + group.className +
+                    R"(", "name_internal": ")" + group.internalName + R"(", "label": "g", "links": [)" +
+                    (group.links.empty() ? "" : std::to_string(group.links.front())) +
+                    (group.objectId < count ? "]}," : "]}]}");
+        EXPECT_THAT(readProject(text).doubts, SizeIs(count / (projectfile::deepestGroups + 1)));
+    }
+}
+
 TEST(MixedProject, LosesASecondLabelWithADoubt)
 {
     const ProjectRecord read = projectfile::readProject(replaced(mixedText(), "\"properties\": {\n        \"Batch\"",

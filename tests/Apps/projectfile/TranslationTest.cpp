@@ -104,7 +104,7 @@ TEST_F(Translation, CoversTheDescriptionsOfExpectedValues)
 
 TEST_F(Translation, CoversTheDoubtsOfAProjectFile)
 {
-    for (const char* const name : {"11-wrong-links", "12-labels-that-differ", "13-false-groups"}) {
+    for (const char* const name : {"11-wrong-links", "12-labels-that-differ", "13-false-groups", "14-deep-groups"}) {
         const auto project =
             projectfile::readProject(vxtest::readText(vxtest::dataPath("projects/" + std::string(name) + ".vxmat")));
         ASSERT_FALSE(project.doubts.empty());

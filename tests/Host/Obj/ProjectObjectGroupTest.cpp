@@ -142,6 +142,28 @@ TEST_F(ProjectObjectGroupTest, CannotBeInsideItselfOrItsMembers)
     EXPECT_THAT(inner.getMembers(), IsEmpty());
 }
 
+TEST_F(ProjectObjectGroupTest, IsNestedOnlyAHundredLevelsDeep)
+{
+    std::vector<ProjectObjectGroup*> groups;
+    for (int i = 0; i <= ProjectObjectGroup::deepestNesting; ++i) {
+        groups.push_back(&addGroup("Group"));
+        if (i > 0) {
+            EXPECT_TRUE(groups[groups.size() - 2]->addMember(*groups.back()));
+        }
+    }
+    ProjectObjectGroup& outer = addGroup("outer");
+    ProjectObjectGroup& inner = addGroup("inner");
+    const vxtest::Reports reports;
+    EXPECT_FALSE(groups.back()->addMember(inner));
+    EXPECT_FALSE(outer.addMember(*groups.front()));
+    EXPECT_TRUE(groups[groups.size() - 2]->addMember(inner));
+    EXPECT_EQ(reports.errors(), 2);
+    EXPECT_THAT(reports.text(),
+                testing::HasSubstr("\"inner\" cannot be a member of \"Group100\", because groups would be "
+                                   "nested too deeply"));
+    EXPECT_EQ(groups.front()->getParentGroup(), nullptr);
+}
+
 TEST_F(ProjectObjectGroupTest, RefusesMembersOfOtherProjects)
 {
     ProjectObjectGroup& group = addGroup("Group");

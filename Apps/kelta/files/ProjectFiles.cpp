@@ -38,10 +38,10 @@ Obj::Project* findTarget()
 
 } // namespace
 
-ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow, Copies copies)
+ProjectFiles::ProjectFiles(Gui::MainWindow& mainWindow, Options options)
     : m_mainWindow(mainWindow),
-      m_copies(copies),
-      m_questions(mainWindow),
+      m_copies(options.copies),
+      m_questions(mainWindow, options.foreignLocks),
       m_opening(mainWindow, m_sessions, m_questions, [this](const QString& path) { return offerImport(path); }),
       m_saving(mainWindow, m_sessions, m_questions),
       m_recovery(mainWindow, m_sessions, m_questions, m_opening),

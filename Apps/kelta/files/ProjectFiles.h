@@ -27,7 +27,13 @@ public:
         None, ///< for a program without a user, since nobody recovers its work
     };
 
-    explicit ProjectFiles(Gui::MainWindow& mainWindow, Copies copies = Copies::Keep);
+    struct Options
+    {
+        Copies copies = Copies::Keep;
+        Questions::ForeignLocks foreignLocks = Questions::ForeignLocks::Ask;
+    };
+
+    ProjectFiles(Gui::MainWindow& mainWindow, Options options);
     /// Does not delete the copies for recovery; end() deletes them.
     ~ProjectFiles() override;
 

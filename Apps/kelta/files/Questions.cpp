@@ -42,22 +42,23 @@ bool Questions::mayUse(projectfile::FileLock& lock, const QString& path) const
         return true;
     const QString inUse = tr("\"%1\" is in use by %2.").arg(shownPath(path), lock.holder());
     const QString danger = tr("If both programs save the file, the later save replaces the earlier one.");
-    if (lock.isHeldElsewhere())
-        return mayTakeOver(lock, inUse, danger);
+    if (lock.isHeldElsewhere()) {
+        if (m_foreignLocks == ForeignLocks::Ask && !mayTakeOver(inUse, danger))
+            return false;
+        // If the lock file cannot be replaced, the file is used without a lock.
+        static_cast<void>(lock.takeOver());
+        return true;
+    }
     const Question question{QMessageBox::Warning, tr("File in use"), inUse, danger};
     return ask(question, {{tr("&Use anyway"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
-bool Questions::mayTakeOver(projectfile::FileLock& lock, const QString& inUse, const QString& danger) const
+bool Questions::mayTakeOver(const QString& inUse, const QString& danger) const
 {
     const Question question{QMessageBox::Warning, tr("File in use"), inUse,
                             tr("If this program no longer runs, take over its lock. If it runs:") + QLatin1Char(' ') +
                                 danger};
-    if (ask(question, {{tr("&Take over"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) != 0)
-        return false;
-    // If the lock file cannot be replaced, the file is used without a lock.
-    static_cast<void>(lock.takeOver());
-    return true;
+    return ask(question, {{tr("&Take over"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
 bool Questions::mayReplace(const QString& path, Difference difference) const

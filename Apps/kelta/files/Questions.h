@@ -22,14 +22,21 @@ class Questions
     Q_DECLARE_TR_FUNCTIONS(desktop::ProjectFiles)
 
 public:
+    /// What happens if a program on another computer has the lock of a file.
+    enum class ForeignLocks
+    {
+        Ask,
+        TakeOver, ///< without a question
+    };
     /// `parent` is the parent of the boxes.
-    explicit Questions(QWidget& parent) : m_parent(parent) {}
+    Questions(QWidget& parent, ForeignLocks locks) : m_parent(parent), m_foreignLocks(locks) {}
 
     /// Reports an error to the user.
     void complain(const QString& title, const QString& text) const;
 
     /// Takes the lock of a file. If another program has it, asks the user whether to use the file anyway, or to take
-    /// over the lock if the program ran on another computer. Returns whether the file may be used.
+    /// over the lock if the program ran on another computer and ForeignLocks does not say so. Returns whether the file
+    /// may be used.
     bool mayUse(projectfile::FileLock& lock, const QString& path) const;
 
     /// The reason why a file differs from the project as this program last read or wrote it.
@@ -70,7 +77,7 @@ public:
     RecoveryChoice askAboutCopies(const QStringList& times) const;
 
 private:
-    bool mayTakeOver(projectfile::FileLock& lock, const QString& inUse, const QString& danger) const;
+    bool mayTakeOver(const QString& inUse, const QString& danger) const;
 
     using Choices = std::vector<std::pair<QString, QMessageBox::ButtonRole>>;
     struct Question
@@ -84,6 +91,7 @@ private:
     int ask(const Question& question, const Choices& choices) const;
 
     QWidget& m_parent;
+    ForeignLocks m_foreignLocks;
 };
 
 } // namespace desktop

@@ -3,7 +3,6 @@
 #include "FileCommands.h"
 #include "FileDrops.h"
 #include "Help.h"
-#include "ProjectFiles.h"
 
 #include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
@@ -21,10 +20,9 @@
 
 namespace desktop {
 
-void startFiles(Gui::MainWindow& window, RecoveryCopies copies)
+void startFiles(Gui::MainWindow& window, ProjectFiles::Options options)
 {
-    auto files = std::make_unique<ProjectFiles>(window, copies == RecoveryCopies::Keep ? ProjectFiles::Copies::Keep
-                                                                                       : ProjectFiles::Copies::None);
+    auto files = std::make_unique<ProjectFiles>(window, options);
     Gui::GuiApplication& application = *Gui::GuiApplication::Instance;
     addFileCommands(application.get_command_manager(), *files);
     listRecentFilesOnWelcomePage(application.contributions(), *files);

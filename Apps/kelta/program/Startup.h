@@ -1,21 +1,16 @@
 #pragma once
 
+#include "ProjectFiles.h"
+
 namespace Gui {
 class MainWindow;
 } // namespace Gui
 
 namespace desktop {
 
-/// Whether the program keeps copies of modified projects for recovery.
-enum class RecoveryCopies
-{
-    Keep,
-    None,
-};
-
 /// Adds project files to the program: their commands, drops on the window, and recovery. Must be called once, before
 /// modules are loaded.
-void startFiles(Gui::MainWindow& window, RecoveryCopies copies);
+void startFiles(Gui::MainWindow& window, ProjectFiles::Options options);
 
 /// Loads all modules and activates their first workbench, or the standard workbench if they have none. Returns false if
 /// there is no module, or if one cannot be loaded; the reason is in the message log.

@@ -28,6 +28,7 @@ struct Options
     std::string screenshot;
     std::string language;
     bool keepsCopies = false;
+    bool takesLocksOver = false;
     std::vector<std::string> files;
 };
 
@@ -47,6 +48,8 @@ void describe(CLI::App& program, Options& options)
     program.add_flag(
         "--keep-copies", options.keepsCopies,
         "with --batch: keep copies of modified projects, which the next start offers if this one is killed");
+    program.add_flag("--force", options.takesLocksOver,
+                     "take over the locks that programs on other computers have on files, without a question");
     program.add_option("files", options.files, "project files to open")->type_name("FILE");
     program.footer("Example: kelta --batch examples/tour.batch\n"
                    "Exit status: 0 for success, 1 if a command failed, 2 if a file cannot be read or written.");
@@ -130,10 +133,13 @@ void leaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const 
         defaultHandler(type, context, message);
 }
 
-desktop::RecoveryCopies copiesOf(const Options& options)
+desktop::ProjectFiles::Options optionsOfFiles(const Options& options)
 {
+    using desktop::ProjectFiles;
+    using Locks = desktop::Questions::ForeignLocks;
     const bool keeps = !runsAlone(options) || options.keepsCopies;
-    return keeps ? desktop::RecoveryCopies::Keep : desktop::RecoveryCopies::None;
+    return {keeps ? ProjectFiles::Copies::Keep : ProjectFiles::Copies::None,
+            options.takesLocksOver ? Locks::TakeOver : Locks::Ask};
 }
 
 void warn(Gui::MainWindow& window, const QString& text)
@@ -177,7 +183,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     {
         Gui::MainWindow window;
         warn(window, doubt);
-        desktop::startFiles(window, copiesOf(options));
+        desktop::startFiles(window, optionsOfFiles(options));
         QObject::connect(&window, &Gui::MainWindow::updated, [&window] { desktop::updateTitle(window); });
         const bool loaded = desktop::loadModules(window);
         QObject::connect(&window, &Gui::MainWindow::closing,

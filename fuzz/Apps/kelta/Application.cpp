@@ -36,7 +36,7 @@ void startApplication()
     static char* arguments[] = {name, nullptr};
     auto* const application = new Gui::GuiApplication(count, arguments); // lives as long as the process
     window = new Gui::MainWindow();                                      // so does the window
-    auto files = std::make_unique<desktop::ProjectFiles>(*window);
+    auto files = std::make_unique<desktop::ProjectFiles>(*window, desktop::ProjectFiles::Options());
     desktop::addFileCommands(application->get_command_manager(), *files);
     desktop::FileService::setInstance(std::move(files));
     initMat();

@@ -46,6 +46,21 @@ TEST_F(ProgramFiles, LeaveNoCopiesAndNoLocks)
     EXPECT_EQ(QDir(path("")).entryList({"*lock*"}, QDir::Files | QDir::Hidden).size(), 0);
 }
 
+TEST_F(ProgramFiles, WithALockOfAnotherComputerAreUsedOnlyIfForced)
+{
+    ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs a.vxmat\n").status, 0);
+    vxtest::writeFile(path(".a.vxmat.lock"), "4711\nkelta\nfaraway\n\n\n");
+    const QByteArray list = "Std_Open a.vxmat\nselect Material\nset Density 4321\nStd_Save\n";
+    const Outcome refused = runBatch(list);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.errors.toStdString(), HasSubstr("kelta (4711 on faraway)"));
+    EXPECT_FALSE(vxtest::readFile(path("a.vxmat")).contains("4321"));
+    vxtest::writeFile(path("list.batch"), list);
+    const Outcome forced = run({"--force", "--batch", "list.batch"});
+    EXPECT_EQ(forced.status, 0) << forced.errors.toStdString();
+    EXPECT_TRUE(vxtest::readFile(path("a.vxmat")).contains("4321"));
+}
+
 TEST_F(ProgramFiles, ImportExchangeDocumentsCompletely)
 {
     ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nMat_Export a.json\n").status, 0);

@@ -188,7 +188,7 @@ void FilesWindow::crash()
 
 void FilesWindow::startFiles()
 {
-    auto service = std::make_unique<desktop::ProjectFiles>(*window);
+    auto service = std::make_unique<desktop::ProjectFiles>(*window, desktop::ProjectFiles::Options());
     files = service.get();
     desktop::FileService::setInstance(std::move(service));
 }

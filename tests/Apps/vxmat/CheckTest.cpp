@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sys/resource.h>
 
 namespace {
 
@@ -98,34 +97,6 @@ TEST(Check, ReadsTheMaterialsOfAnAnalysisFromAnotherDocument)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(vxmat({"check", analysis, "--materials", "/no/such/file"}).status, 2);
-}
-
-/// Returns the most memory that a program of this test has taken so far, in kB.
-long mostMemory()
-{
-    rusage usage = {};
-    EXPECT_EQ(getrusage(RUSAGE_CHILDREN, &usage), 0);
-    return usage.ru_maxrss;
-}
-
-TEST(Check, TakesNoMoreMemoryForADeepDocumentThanForAFlatOne)
-{
-    constexpr int depth = 900;
-    constexpr int repetitions = 1000;
-    std::string flat;
-    std::string deep;
-    for (int i = 0; i < repetitions; ++i) {
-        for (int j = 0; j < depth; ++j)
-            flat += "[],";
-        deep += std::string(depth, '[') + std::string(depth, ']') + ",";
-    }
-    const auto check = [](const std::string& values) {
-        return vxmat({"check", "-"}, R"({"proj_type": 2, "material": [], "unknown": [)" + values + "0]}").status;
-    };
-    ASSERT_EQ(check(flat), 0);
-    const long forFlat = mostMemory();
-    ASSERT_EQ(check(deep), 0);
-    EXPECT_LE(mostMemory(), forFlat + forFlat / 10);
 }
 
 } // namespace

@@ -58,7 +58,7 @@ QString whyItFails(Entry entry)
     return thrown.isNull() ? firstError : thrown;
 }
 
-/// Returns whether a library is cut off: a part that the system would map lies behind the end of the file. The system
+/// Returns whether a library is cut off: a part that the system would map lies after the end of the file. The system
 /// does not check this, and ends the program when it reads such a part. Files of another format are not judged.
 bool isCutOff(QFile& file)
 {
@@ -142,8 +142,7 @@ void PluginLoader::Run::loadAll()
         load(name);
 }
 
-// The recursion is as deep as the chain of modules that need each other.
-// NOLINTNEXTLINE(misc-no-recursion)
+// NOLINTNEXTLINE(misc-no-recursion): as deep as the chain of modules that need each other
 void PluginLoader::Run::load(const QString& name)
 {
     if (m_versions.count(name) != 0 || m_outcome.failed.count(name) != 0)

@@ -18,7 +18,7 @@ inline std::string_view textOf(const std::uint8_t* data, std::size_t size)
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// Makes a new empty folder the current folder of the process and the home of its settings. To be called once, before
+/// Makes a new empty folder the current folder of the process and the home of its settings. Must be called once, before
 /// the first input. The folder is removed when the process ends normally.
 void enterOwnFolder();
 

@@ -14,7 +14,7 @@ class ProjectFiles;
 /// that are not applied, before it hands a project over to the solver. Must be called once.
 void addFileCommands(Gui::CommandController& commands, ProjectFiles& files);
 
-/// Lists the recent files on the welcome page. `files` opens them and must outlive the window. To be called once.
+/// Lists the recent files on the welcome page. `files` opens them and must outlive the window. Must be called once.
 void listRecentFilesOnWelcomePage(Gui::Contributions& contributions, ProjectFiles& files);
 
 } // namespace desktop

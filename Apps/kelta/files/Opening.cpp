@@ -44,7 +44,7 @@ Obj::OwnedProject createProject(const projectfile::ProjectRecord& record)
     return std::make_unique<Obj::PlaceholderProject>(record.className, recordOfProject(record));
 }
 
-/// Returns the name of a project, without a part behind a zero character, which names of open projects cannot have.
+/// Returns the name of a project, up to its first zero character, which names of open projects cannot have.
 std::string nameOf(const projectfile::ProjectRecord& record)
 {
     return record.name.substr(0, record.name.find('\0'));

@@ -44,7 +44,7 @@ public:
 
     std::size_t size() const { return m_size; }
 
-    /// Returns the bytes from a position on; none if the position is behind the end.
+    /// Returns the bytes from a position on; none if the position is after the end.
     Bytes from(std::size_t position) const
     {
         const std::size_t begin = std::min(position, m_size);
@@ -114,7 +114,7 @@ bool areSoundMessages(Bytes hashes, const Bytes& messages)
     return hashes.size() == 0;
 }
 
-/// Checks a list of names, each behind its length, which ends with the length 0.
+/// Checks a list of names, each after its length, which ends with the length 0.
 bool isSoundNameList(Bytes names)
 {
     quint8 length = 0;

@@ -28,7 +28,7 @@ struct CommandRow
     std::function<bool()> isApplicable = {};   ///< whether the command is applicable now; always if empty
     std::function<bool()> isChecked = {};      ///< whether its entry has a check mark now; never if empty
     std::function<void(QMenu&)> fillMenu = {}; ///< makes the entries of a menu that opens beside the command's entry
-    std::function<QString()> subject = {};     ///< what the command acts on now, shown behind its texts; none if empty
+    std::function<QString()> subject = {};     ///< what the command acts on now, shown after its texts; none if empty
 };
 
 /// Makes a command from each row and adds it to the controller. `context` is the translation context of the texts, and

@@ -139,7 +139,7 @@ private:
 
     bool apply();
     bool refuse(const QString& title, const QString& reason, int row = -1, const QString& details = {});
-    /// Returns the real reason if the rules refuse a row because of text behind its number; otherwise an empty text.
+    /// Returns the real reason if the rules refuse a row because of text after its number; otherwise an empty text.
     QString reasonOf(int refusedRow) const;
     void showApplied();
     bool keepsFromHost(const QKeyEvent& key) const;

@@ -105,7 +105,7 @@ struct Damage
 };
 
 const Damage damages[] = {
-    {"a message behind the end", "42 00000008 00000001 40000000  69 00000001 01"},
+    {"a message after the end", "42 00000008 00000001 40000000  69 00000001 01"},
     {"a text that is longer than the file", "42 00000008 00000001 00000000  69 00000006 03 7ffffffe 01"},
     {"half a position", "42 00000006 00000001 0000  69 00000001 01"},
     {"a text with a negative length", "42 00000008 00000001 00000000  69 00000006 03 feffffff 01"},

@@ -1,5 +1,5 @@
 # The CMake packages of an installed copy:
-#   find_package(vxMaterial) provides vxMaterial::model, vxMaterial::json and vxMaterial::exchange;
+#   find_package(vxMaterial) provides vxMaterial::model, vxMaterial::json, vxMaterial::units and vxMaterial::exchange;
 #   find_package(KeltaHost) provides Host::Kelta, Host::Obj, Host::vxMsg, Host::Gui and Host::CaeManager, and
 # vx_add_module.
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "vxUnits/UnitsExport.h"
+
+#include <string>
+#include <vector>
+
+namespace vxUnits {
+
+/// A text of messages: an id that never changes, and the English text.
+struct MessageText
+{
+    const char* id = "";
+    const char* english = ""; ///< with the places %1 to %9 for arguments
+};
+
+/// A message to a user: an English text and its arguments, which are separate so that a program can translate the text.
+/// The English text is the source of translation. An argument that is one of wordTexts() is translated too.
+struct Message
+{
+    const char* id = "";                ///< "units.unknown-unit"; does not change with the English text
+    const char* english = "";           ///< lives as long as the program
+    std::vector<std::string> arguments; ///< UTF-8; numbers have a decimal point whatever the locale
+
+    /// Returns the English text with the arguments in their places.
+    VXUNITS_EXPORT std::string text() const;
+};
+
+/// Returns every text that a Message can have, for translators.
+VXUNITS_EXPORT const std::vector<MessageText>& messageTexts();
+
+/// Returns every argument that needs a translation: names of dimensions and of kinds of materials.
+VXUNITS_EXPORT const std::vector<std::string>& wordTexts();
+
+} // namespace vxUnits

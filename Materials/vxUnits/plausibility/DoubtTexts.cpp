@@ -1,0 +1,201 @@
+#include "plausibility/DoubtTexts.h"
+
+#include "plausibility/KindFit.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/Quantity.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxUnits {
+
+namespace {
+
+/// The text of a rule. %1 is the quantity in doubt and %2 its value, %3 the other quantities with their values, %4 the value
+/// of the relation, %5 and %6 its bounds, %7 and %8 the materials at the bounds.
+struct RuleText
+{
+    MessageText text;
+    const char* unit = ""; ///< the unit of the relation; empty for the unit of the quantity
+};
+
+/// In the order of Rule.
+constexpr RuleText ruleTexts[] = {
+    {{"plausibility.not-finite", "%1 is not a finite number."}, ""},
+    {{"plausibility.not-positive", "%1 = %2: the value must be above 0."}, ""},
+    {{"plausibility.negative", "%1 = %2: the value must not be negative."}, ""},
+    {{"plausibility.below-range", "%1 = %2 is below what known materials have, %5 (%7) to %6 (%8)."}, ""},
+    {{"plausibility.above-range", "%1 = %2 is above what known materials have, %5 (%7) to %6 (%8)."}, ""},
+    {{"plausibility.ratio-outside", "%1 = %2 is outside -1 to 0.5; such a solid would release energy by itself."}, ""},
+    {{"plausibility.ratio-near-half",
+      "%1 = %2 is so near 0.5 that elements lock; take a hyperelastic model, or at most %6."},
+     ""},
+    {{"plausibility.ratio-of-stiff", "%1 = %2 with %3: only rubber and gels are above %6."}, "1"},
+    {{"plausibility.wave-speed",
+      "%1 = %2 with %3 gives a wave speed of %4; known solids of such a density have %5 to %6."},
+     "m/s"},
+    {{"plausibility.light-and-stiff", "%1 = %2 with %3: known solids so light have at most %6."}, "Pa"},
+    {{"plausibility.heat-per-volume", "%1 = %2 with %3 gives a heat capacity of %4; known matter has %5 to %6."},
+     "MJ/(m^3 K)"},
+    {{"plausibility.diffusivity", "%1 = %2 with %3 gives a thermal diffusivity of %4; known materials have %5 to %6."},
+     "m^2/s"},
+    {{"plausibility.lorenz-number", "%1 = %2 with %3 gives a Lorenz number of %4; known metals have %5 to %6."},
+     "W Ohm/K^2"},
+    {{"plausibility.sound-in-solid", "%1 = %2 with %3: the moduli give %5 to %6."}, "m/s"},
+    {{"plausibility.acoustic-modulus",
+      "%1 = %2 with %3 gives a bulk modulus of %4; known fluids of such a density have %5 to %6."},
+     "Pa"},
+    {{"plausibility.water-viscosity", "%1 = %2 with %3: these are heat and conductivity of water, which has %5 to %6."},
+     "Pa s"},
+    {{"plausibility.yield-ratio", "%1 = %2 with %3 is a share of the modulus of %4; known solids have %5 to %6."}, "1"},
+    {{"plausibility.hardening-ratio",
+      "%1 = %2 with %3 is a share of the modulus of %4; known metals have %5 to %6, or 0."},
+     "1"},
+    {{"plausibility.initial-modulus",
+      "%1 = %2 with %3: the initial modulus of the hyperelastic model is %4 times Young's modulus; %5 to %6 times is "
+      "sensible."},
+     "1"},
+    {{"plausibility.bulk-over-shear", "%1 = %2 with %3: the initial bulk modulus is %4 times the shear modulus; known "
+                                      "rubbers and gels have %5 to %6 times."},
+     "1"},
+    {{"plausibility.initial-shear", "%1 = %2 with %3: the initial shear modulus is %4; it must be above 0."}, "Pa"},
+    {{"plausibility.list-lengths", "%1 has %4 numbers and %3; each strain needs one stress."}, "1"},
+    {{"plausibility.strain-start", "%1 begins with %4; the first plastic strain is 0, at the first yield."}, "1"},
+    {{"plausibility.strain-order", "%1 does not rise from %5 to %4."}, "1"},
+    {{"plausibility.hardening-falls", "%1 falls below %5 to %4; hardening does not fall."}, ""},
+    {{"plausibility.creep-rate",
+      "%1 = %2 with %3 gives a strain rate of %4 at a thousandth of the modulus; %5 to %6 is within reach."},
+     "1/s"},
+    {{"plausibility.unlike-any-material", "%1 = %2 does not fit the other values."}, ""},
+};
+static_assert(std::size(ruleTexts) == static_cast<std::size_t>(Rule::Count));
+
+constexpr MessageText remedyUsual{"plausibility.remedy-usual", "%1 is usual for %2: multiply by %3"};
+constexpr MessageText remedyFits{"plausibility.remedy-fits", "%1 would not be doubted: multiply by %2"};
+constexpr MessageText remedyReciprocal{"plausibility.remedy-reciprocal",
+                                       "%1 is usual for the resistivity of %2: take the reciprocal"};
+constexpr MessageText remedyStresses{"plausibility.remedy-stresses", "The stresses look like %1: convert them"};
+constexpr MessageText remedySystem{"plausibility.remedy-system", "The values look like %1: convert the material"};
+
+std::string nameOf(std::int32_t id)
+{
+    const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(id);
+    return record != nullptr ? record->name : std::to_string(id);
+}
+
+std::string unitOf(std::int32_t id, const MaterialValues& values)
+{
+    const auto unit = unitOfQuantity(id, UnitSystem::si(), values.creepExponents());
+    return unit ? unit->text() : std::string("1");
+}
+
+/// Returns a number with six digits, which are enough for a doubt, and its unit.
+std::string rounded(double number, const std::string& unit)
+{
+    const double shown = std::isfinite(number) ? vxMat::readNumber(vxMat::formatGeneral(number)) : number;
+    return vxMat::formatNumber(shown) + (unit == "1" || unit.empty() ? "" : " " + unit);
+}
+
+std::string valueText(std::int32_t id, const MaterialValues& values)
+{
+    const std::string unit = unitOf(id, values);
+    const auto& list = values.list(id);
+    if (list.empty())
+        return vxMat::formatNumber(values.number(id).value_or(0.0)) + (unit == "1" ? "" : " " + unit);
+    constexpr std::size_t most = 8;
+    const std::vector<double> first(list.begin(),
+                                    list.begin() + static_cast<std::ptrdiff_t>(std::min(list.size(), most)));
+    return vxMat::formatNumberList(first) + (list.size() > most ? ", ..." : "") + (unit == "1" ? "" : " " + unit);
+}
+
+std::string othersText(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
+{
+    std::string text;
+    for (const std::int32_t id : finding.ids) {
+        if (id != 0 && id != blamed)
+            text += (text.empty() ? "" : ", ") + nameOf(id) + " = " + valueText(id, values);
+    }
+    return text;
+}
+
+/// Returns a factor as it is usually typed: 1e6 instead of 1e+06.
+std::string factorText(double factor)
+{
+    std::string text = vxMat::formatGeneral(factor);
+    const std::size_t exponent = text.find('e');
+    if (exponent == std::string::npos)
+        return text;
+    const std::size_t sign = text[exponent + 1] == '-' ? 2 : 1;
+    text.erase(text.begin() + static_cast<std::ptrdiff_t>(exponent + sign),
+               text.begin() + static_cast<std::ptrdiff_t>(text.find_first_not_of("+-0", exponent + 1)));
+    return text;
+}
+
+/// Returns the material at a bound of the range of a quantity.
+std::string landmark(std::int32_t id, double bound)
+{
+    const Quantity* const quantity = findQuantity(id);
+    for (const auto* const range : {&quantity->solids, &quantity->liquids, &quantity->gases}) {
+        if (*range && (*range)->lowest == bound)
+            return (*range)->lowestIs;
+        if (*range && (*range)->highest == bound)
+            return (*range)->highestIs;
+    }
+    return {};
+}
+
+} // namespace
+
+Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
+{
+    const RuleText& rule = ruleTexts[static_cast<std::size_t>(finding.rule)];
+    const std::string unit = *rule.unit == '\0' ? unitOf(blamed, values) : rule.unit;
+    const std::string lowest = rounded(finding.lowest, unit);
+    const std::string highest = rounded(finding.highest, unit);
+    Doubt doubt;
+    doubt.id = blamed;
+    const auto& list = values.list(blamed);
+    doubt.value =
+        blamed == finding.ids[0] ? finding.value : values.number(blamed).value_or(list.empty() ? 0.0 : list.front());
+    if (finding.lowest != finding.highest) {
+        doubt.lowest = lowest;
+        doubt.highest = highest;
+    }
+    doubt.severity = finding.severity;
+    doubt.message = {rule.text.id,
+                     rule.text.english,
+                     {nameOf(blamed), valueText(blamed, values), othersText(finding, blamed, values),
+                      rounded(finding.relation, unit), lowest, highest, landmark(blamed, finding.lowest),
+                      landmark(blamed, finding.highest)}};
+    return doubt;
+}
+
+Message remedyMessage(const Slip& slip, const MaterialValues& values, const MaterialKind* kind)
+{
+    if (!slip.system.empty())
+        return {remedySystem.id, remedySystem.english, {slip.system}};
+    if (!slip.unit.empty())
+        return {remedyStresses.id, remedyStresses.english, {slip.unit}};
+    const Change& change = slip.changes.front();
+    const auto& list = values.list(change.id);
+    const double number = values.number(change.id).value_or(list.empty() ? 0.0 : list.front());
+    const std::string typed = vxMat::formatNumber(number) + " " + change.unit;
+    const Feature feature = featureOf(change.id);
+    const bool usual = kind != nullptr && feature != Feature::Count && kind->span(feature).known();
+    if (change.reciprocal)
+        return {remedyReciprocal.id, remedyReciprocal.english, {typed, kind != nullptr ? kind->name : ""}};
+    const std::string factor = factorText(change.factor);
+    if (usual)
+        return {remedyUsual.id, remedyUsual.english, {typed, kind->name, factor}};
+    return {remedyFits.id, remedyFits.english, {typed, factor}};
+}
+
+void addDoubtTexts(std::vector<MessageText>& texts)
+{
+    for (const RuleText& one : ruleTexts)
+        texts.push_back(one.text);
+    texts.insert(texts.end(), {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySystem});
+}
+
+} // namespace vxUnits

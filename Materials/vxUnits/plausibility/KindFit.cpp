@@ -1,0 +1,164 @@
+#include "plausibility/KindFit.h"
+
+#include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/DerivedValues.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxUnits {
+
+namespace {
+
+using Id = vxMat::PropertyId;
+
+/// The distance from the span of a kind at which a value counts against the kind, in decades, or as a difference for
+/// Poisson's ratio. Densities scatter little, conductivities of insulators much.
+constexpr std::array<double, featureCount> tolerances{0.05, 0.12, 0.025, 0.22, 0.08, 0.15, 0.4, 0.06, 0.25, 0.06};
+
+constexpr double missing = 0.5;   ///< for a value that a kind does not have
+constexpr double otherState = 50; ///< for a modulus of a fluid or the viscosity of a solid
+constexpr double inside = 0.15;   ///< at the end of a span; 0 in its middle
+constexpr double perDecade = 0.1; ///< so that of two kinds that fit the narrower one is taken
+
+double logarithm(std::optional<double> number)
+{
+    return number && *number > 0.0 && std::isfinite(*number) ? std::log10(*number) : std::nan("");
+}
+
+std::optional<double> firstYield(const MaterialValues& values)
+{
+    const auto& list = values.list(Id::PlasticYieldStress);
+    return list.empty() ? values.number(Id::PlasticInitialYieldStress) : std::optional<double>(list.front());
+}
+
+void addInitialModuli(Features& features, const MaterialValues& values)
+{
+    const auto moduli = initialModuli(values);
+    if (!moduli || values.has(Id::YoungsModulus))
+        return;
+    features[static_cast<std::size_t>(Feature::YoungsModulus)] = logarithm(moduli->youngs());
+    if (moduli->bulk)
+        features[static_cast<std::size_t>(Feature::PoissonsRatio)] =
+            (3.0 * *moduli->bulk - 2.0 * moduli->shear) / (6.0 * *moduli->bulk + 2.0 * moduli->shear);
+}
+
+struct LogSpan
+{
+    double lowest;
+    double highest;
+};
+
+/// Returns the spans of the kinds as logarithms, as in Features.
+const std::vector<std::array<LogSpan, featureCount>>& logSpans()
+{
+    static const std::vector<std::array<LogSpan, featureCount>> spans = [] {
+        std::vector<std::array<LogSpan, featureCount>> all;
+        for (const MaterialKind& kind : materialKinds()) {
+            auto& row = all.emplace_back();
+            for (std::size_t i = 0; i < featureCount; ++i) {
+                const Span& span = kind.spans[i];
+                const bool ratio = i == static_cast<std::size_t>(Feature::PoissonsRatio);
+                row[i] = ratio ? LogSpan{span.lowest, span.highest}
+                               : LogSpan{logarithm(span.lowest), logarithm(span.highest)};
+            }
+        }
+        return all;
+    }();
+    return spans;
+}
+
+bool isOfFluids(std::size_t feature)
+{
+    return feature == static_cast<std::size_t>(Feature::Viscosity);
+}
+
+bool isOfSolids(std::size_t feature)
+{
+    return feature >= static_cast<std::size_t>(Feature::YoungsModulus) &&
+           feature <= static_cast<std::size_t>(Feature::YieldStress);
+}
+
+double misfitOf(std::size_t feature, double value, const MaterialKind& kind, const LogSpan& span)
+{
+    if (!kind.spans[feature].known()) {
+        const bool other = kind.isFluid() ? isOfSolids(feature) : isOfFluids(feature);
+        return other ? otherState : missing;
+    }
+    const double beyond = std::max({span.lowest - value, value - span.highest, 0.0}) / tolerances[feature];
+    if (beyond > 0.0)
+        return inside + beyond * beyond;
+    const double width = span.highest - span.lowest;
+    const double place = (2.0 * value - span.lowest - span.highest) / width;
+    return inside * place * place + perDecade * width;
+}
+
+} // namespace
+
+Features featuresOf(const MaterialValues& values)
+{
+    Features features{};
+    features.fill(std::nan(""));
+    for (const std::int32_t id : {Id::Density, Id::YoungsModulus, Id::SpecificHeat, Id::ThermalConductivity,
+                                  Id::ElectricalConductivity, Id::SpeedOfSound, Id::DynamicViscosity})
+        features[static_cast<std::size_t>(featureOf(id))] = logarithm(values.number(id));
+    features[static_cast<std::size_t>(Feature::PoissonsRatio)] =
+        values.number(Id::PoissonsRatio).value_or(std::nan(""));
+    features[static_cast<std::size_t>(Feature::YieldStress)] = logarithm(firstYield(values));
+    addInitialModuli(features, values);
+    features[static_cast<std::size_t>(Feature::WaveSpeed)] =
+        0.5 * (features[static_cast<std::size_t>(Feature::YoungsModulus)] -
+               features[static_cast<std::size_t>(Feature::Density)]);
+    for (double& feature : features)
+        feature = std::isfinite(feature) ? feature : std::nan("");
+    return features;
+}
+
+KindFit nearestKind(const Features& features)
+{
+    std::vector<std::size_t> present;
+    for (std::size_t i = 0; i < featureCount; ++i) {
+        if (!std::isnan(features[i]))
+            present.push_back(i);
+    }
+    const auto& kinds = materialKinds();
+    const auto& spans = logSpans();
+    KindFit nearest{nullptr, HUGE_VAL};
+    for (std::size_t k = 0; k < kinds.size(); ++k) {
+        double misfit = 0.0;
+        for (std::size_t i = 0; i < present.size() && misfit < nearest.misfit; ++i)
+            misfit += misfitOf(present[i], features[present[i]], kinds[k], spans[k][present[i]]);
+        if (misfit < nearest.misfit)
+            nearest = {&kinds[k], misfit};
+    }
+    return nearest;
+}
+
+Feature featureOf(std::int32_t id)
+{
+    switch (id) {
+    case Id::Density:
+        return Feature::Density;
+    case Id::YoungsModulus:
+        return Feature::YoungsModulus;
+    case Id::PoissonsRatio:
+        return Feature::PoissonsRatio;
+    case Id::PlasticYieldStress:
+    case Id::PlasticInitialYieldStress:
+        return Feature::YieldStress;
+    case Id::SpecificHeat:
+        return Feature::SpecificHeat;
+    case Id::ThermalConductivity:
+        return Feature::ThermalConductivity;
+    case Id::ElectricalConductivity:
+        return Feature::ElectricalConductivity;
+    case Id::SpeedOfSound:
+        return Feature::SpeedOfSound;
+    case Id::DynamicViscosity:
+        return Feature::Viscosity;
+    default:
+        return Feature::Count;
+    }
+}
+
+} // namespace vxUnits

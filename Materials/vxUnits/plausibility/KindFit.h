@@ -1,0 +1,28 @@
+#pragma once
+
+#include "plausibility/MaterialKinds.h"
+#include "vxUnits/MaterialValues.h"
+
+#include <array>
+
+namespace vxUnits {
+
+/// The features of a material: logarithms to the base of ten, except Poisson's ratio; NaN for a feature that it does not
+/// have.
+using Features = std::array<double, featureCount>;
+
+Features featuresOf(const MaterialValues& values);
+
+/// The kind that is nearest to a material.
+struct KindFit
+{
+    const MaterialKind* kind = nullptr;
+    double misfit = 0.0; ///< below 1 inside the spans; grows by the square of the distance from them
+};
+
+KindFit nearestKind(const Features& features);
+
+/// Returns the feature of a quantity; Feature::Count if it is not a feature.
+Feature featureOf(std::int32_t id);
+
+} // namespace vxUnits

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "vxUnits/Plausibility.h"
+
+#include <string>
+#include <vector>
+
+namespace vxUnits {
+
+/// A possible error of units: one number of a material, all stresses, or all numbers are in other units.
+struct Slip
+{
+    std::vector<Change> changes;
+    std::string system;    ///< the unit system, if all numbers are in another one
+    std::string unit;      ///< the unit of stresses, if all of them are in another one
+    double rareness = 0.0; ///< 0 for the usual slips, higher for rare ones
+};
+
+/// Returns the slips that are possible in a material with these quantities. Of their numbers, only the exponents of creep
+/// matter.
+std::vector<Slip> possibleSlips(const MaterialValues& values);
+
+/// Returns the values after the correction of a slip, with rounding errors.
+MaterialValues corrected(const MaterialValues& values, const Slip& slip);
+
+} // namespace vxUnits

@@ -1,0 +1,479 @@
+#include "vxUnits/Reading.h"
+
+#include "units/NumberScan.h"
+#include "units/ScaleArithmetic.h"
+#include "units/Spelling.h"
+#include "units/Texts.h"
+#include "units/UnitParser.h"
+#include "units/UnitReading.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxUnits {
+
+using vxMat::formatNumber;
+
+namespace {
+
+/// Returns "210 GPa", or "0.3" for a pure number.
+std::string joined(const std::string& number, const std::string& unit)
+{
+    return unit == "1" ? number : number + " " + unit;
+}
+
+/// A number that was read, in its unit and in the unit in which it was typed.
+struct TypedNumber
+{
+    double value = 0.0;          ///< in the unit of the target
+    std::optional<double> typed; ///< absent if a double cannot hold it
+    std::string unit;            ///< text of the unit that it was typed in
+    Message note;
+};
+
+/// Reads one number for a target.
+class NumberReader
+{
+public:
+    NumberReader(const ReadingTarget& target, std::string_view text) : m_target(target), m_text(text) {}
+
+    Result<TypedNumber> read()
+    {
+        const FoldedText folded = fold(m_text);
+        if (folded.fault != FoldedText::Fault::None)
+            return failureOf(folded, m_text);
+        Result<ScannedNumber> number = scanNumber(folded.text);
+        if (!number)
+            return number.failure();
+        m_number = *std::move(number);
+        if (m_number.rest.empty())
+            return valueIn(m_target.plain);
+        m_numberText = std::string_view(folded.text).substr(0, folded.text.size() - m_number.rest.size());
+        return readWithUnit();
+    }
+
+private:
+    Failure failure(FaultCode code, Text text, std::vector<std::string> arguments = {},
+                    std::string suggestion = {}) const
+    {
+        arguments.insert(arguments.begin(), excerpt(m_text));
+        return makeFailure(code, text, std::move(arguments), std::move(suggestion));
+    }
+
+    /// Returns the number as it was typed, with another unit; empty if `unit` is empty.
+    std::string typedWith(const std::string& unit) const
+    {
+        if (unit.empty())
+            return {};
+        const std::string number(m_numberText.substr(0, m_numberText.find_last_not_of(' ') + 1));
+        return joined(number, unit);
+    }
+
+    Result<TypedNumber> readWithUnit()
+    {
+        ParsedUnit parsed = parseUnit(m_number.rest, m_text);
+        const Dimension& wanted = m_target.unit.dimension();
+        if (!parsed.valid) {
+            parsed.failure.suggestion = typedWith(suggestUnit(m_number.rest, &wanted));
+            return std::move(parsed.failure);
+        }
+        if (!m_target.takesUnit)
+            return refuseUnit();
+        const Unit unit = UnitBuilder::build(parsed.terms);
+        if (unit.dimension() != wanted)
+            return refuseDimension(unit, parsed.terms);
+        if (unit.isTemperatureScale() && m_target.meaning == TemperatureMeaning::Refused)
+            return failure(FaultCode::TemperatureScale, Text::TemperatureScale, {},
+                           typedWith(unit.text() == "degF" ? "delta_degF" : "K"));
+        return valueIn(unit);
+    }
+
+    Failure refuseUnit() const
+    {
+        const auto nameOf = [](std::int32_t id) { return std::string(vxMat::findPropertyRecord(id)->name); };
+        return makeFailure(
+            FaultCode::UnitNotKnown, Text::UnitOfCreep,
+            {m_target.name, nameOf(vxMat::PropertyId::CreepModulusN), nameOf(vxMat::PropertyId::CreepModulusM)},
+            std::string(m_numberText.substr(0, m_numberText.find_last_not_of(' ') + 1)));
+    }
+
+    Failure refuseDimension(const Unit& unit, const std::vector<Term>& terms) const
+    {
+        const Dimension& wanted = m_target.unit.dimension();
+        if (wanted == dimensions::electricalConductivity && unit.dimension() == dimensions::electricalResistivity)
+            return refuseResistivity(unit);
+        const std::string suggestion = typedWith(suggestTerms(terms, wanted));
+        const std::string measure = measureOf(unit.dimension());
+        if (m_target.name.empty())
+            return failure(FaultCode::WrongDimension, Text::WrongDimension, {measure, m_target.unit.text()},
+                           suggestion);
+        if (wanted.isNone())
+            return failure(FaultCode::WrongDimension, Text::NotPure, {measure, m_target.name}, suggestion);
+        return failure(FaultCode::WrongDimension, Text::WrongDimensionOf,
+                       {measure, m_target.unit.text(), m_target.name}, suggestion);
+    }
+
+    Failure refuseResistivity(const Unit& unit) const
+    {
+        const double reciprocal = 1.0 / m_number.times(unit.scale() * m_target.unit.scale()).value_or(0.0);
+        const std::string suggestion =
+            std::isfinite(reciprocal) ? joined(formatNumber(reciprocal), m_target.unit.text()) : std::string();
+        const std::string name = m_target.name.empty() ? measureOf(m_target.unit.dimension()) : m_target.name;
+        return failure(FaultCode::WrongDimension, Text::Reciprocal,
+                       {measureOf(unit.dimension()), m_target.unit.text(), name}, suggestion);
+    }
+
+    bool isTemperature() const
+    {
+        return m_target.meaning == TemperatureMeaning::Absolute && m_target.unit.dimension() == dimensions::temperature;
+    }
+
+    Result<TypedNumber> valueIn(const Unit& unit) const
+    {
+        if (isTemperature() && (m_number.exact() + exactZero(unit)).high < 0.0)
+            return failure(FaultCode::BelowAbsoluteZero, Text::BelowAbsoluteZero);
+        const auto value = isTemperature() ? temperatureIn(unit) : m_number.times(unit.scale() / m_target.unit.scale());
+        if (!value)
+            return failure(FaultCode::OutOfRange, Text::OutOfRange);
+        return TypedNumber{*value, m_number.times(Scale()), unit.text(), unit.note()};
+    }
+
+    std::optional<double> temperatureIn(const Unit& unit) const
+    {
+        const DoubleDouble kelvin = times(m_number.exact() + exactZero(unit), unit.scale());
+        const DoubleDouble value = dividedBy(kelvin, m_target.unit.scale()) + -exactZero(m_target.unit);
+        return std::isfinite(value.high) ? std::optional<double>(value.high) : std::nullopt;
+    }
+
+    const ReadingTarget& m_target;
+    std::string_view m_text;
+    ScannedNumber m_number;
+    std::string_view m_numberText; ///< the folded text up to the unit
+};
+
+Reading toReading(const TypedNumber& number, const std::string& unit)
+{
+    const std::string result = joined(formatNumber(number.value), unit);
+    if (number.unit == unit || !number.typed)
+        return {number.value, result, number.note};
+    return {number.value, joined(formatNumber(*number.typed), number.unit) + " = " + result, number.note};
+}
+
+/// Reads by `read`. Keeps a suggestion in the failure only if it can be read; otherwise tries the suggestion for it.
+template <class Read>
+auto readWithSuggestion(std::string_view text, Read read) -> decltype(read(text))
+{
+    auto reading = read(text);
+    if (reading || reading.failure().suggestion.empty())
+        return reading;
+    Failure failure = reading.failure();
+    for (int left = 2; left > 0 && !failure.suggestion.empty(); --left) {
+        const auto again = read(failure.suggestion);
+        if (again)
+            return failure;
+        failure.suggestion = again.failure().suggestion;
+    }
+    failure.suggestion.clear();
+    return failure;
+}
+
+/// Returns the target for a quantity, or the reason why its value is not a number.
+Result<ReadingTarget> targetOf(std::int32_t id, const ReadingContext& context)
+{
+    const Result<Unit> unit = unitOfQuantity(id, UnitSystem::si(), context.creep);
+    const bool unknown = !unit && unit.failure().code == FaultCode::UnitNotKnown;
+    const bool other = context.plainNumbers != nullptr && *context.plainNumbers != UnitSystem::si();
+    if (!unit && (!unknown || other)) // a plain number of another system cannot be converted without the unit
+        return unit.failure();
+    ReadingTarget target;
+    target.name = vxMat::findPropertyRecord(id)->name;
+    target.takesUnit = !unknown;
+    if (unknown)
+        return target;
+    target.unit = *unit;
+    target.plain = context.plainNumbers != nullptr ? *unitOfQuantity(id, *context.plainNumbers, context.creep) : *unit;
+    return target;
+}
+
+// --- Lists ---
+
+struct Item
+{
+    std::string_view text;
+    std::size_t begin; ///< in the list
+};
+
+/// Returns the length of a separator of list items, ASCII or full-width, at a place of a text; 0 if there is none.
+std::size_t separatorLength(std::string_view text, std::size_t at, bool commas)
+{
+    const char c = text[at];
+    if (c == ';' || c == '\n' || c == '\r' || c == '\t' || (commas && c == ','))
+        return 1;
+    const std::string_view wide = text.substr(at, 3);
+    if (wide == "\xEF\xBC\x9B" || wide == "\xE3\x80\x81" || (commas && wide == "\xEF\xBC\x8C"))
+        return 3;
+    return 0;
+}
+
+/// Returns the item between two places of a list, without blanks around it.
+Item itemOf(std::string_view text, std::size_t begin, std::size_t end)
+{
+    while (begin < end && text[begin] == ' ')
+        ++begin;
+    while (end > begin && text[end - 1] == ' ')
+        --end;
+    return {text.substr(begin, end - begin), begin};
+}
+
+/// Splits a list. If there are semicolons, commas do not separate: they can only be decimal commas.
+std::vector<Item> splitList(std::string_view text)
+{
+    const bool commas = text.find(';') == std::string_view::npos;
+    std::vector<Item> items;
+    std::size_t begin = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = separatorLength(text, at, commas);
+        if (length > 0) {
+            items.push_back(itemOf(text, begin, at));
+            begin = at + length;
+        }
+        at += std::max<std::size_t>(length, 1);
+    }
+    items.push_back(itemOf(text, begin, text.size()));
+    while (items.size() > 1 && items.back().text.empty())
+        items.pop_back();
+    return items;
+}
+
+/// Returns whether an item begins with a superfluous 0 directly after a comma, as decimals do.
+bool looksLikeDecimals(std::string_view list, const Item& item)
+{
+    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
+    const bool behindComma = item.begin > 0 && list[item.begin - 1] == ',';
+    return behindComma && item.text.size() > 1 && item.text[0] == '0' && digit(item.text[1]);
+}
+
+/// Returns the list with a point for every comma without a blank after it.
+std::string withPoints(std::string_view text)
+{
+    std::string changed(text);
+    for (std::size_t i = 0; i + 1 < changed.size(); ++i) {
+        if (changed[i] == ',' && changed[i + 1] != ' ')
+            changed[i] = '.';
+    }
+    return changed;
+}
+
+/// Returns the list with a comma between numbers that only a blank separates.
+std::string withCommas(std::string_view text)
+{
+    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
+    std::string changed;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        changed += text[i];
+        if (i + 2 < text.size() && digit(text[i]) && text[i + 1] == ' ' && digit(text[i + 2]))
+            changed += ',';
+    }
+    return changed;
+}
+
+class ListReader
+{
+public:
+    ListReader(const ReadingTarget& target, std::string_view text)
+        : m_target(target), m_text(text), m_items(splitList(text))
+    {}
+
+    Result<ListReading> read()
+    {
+        if (!readLast())
+            return std::move(m_failure);
+        for (std::size_t i = 0; i < m_items.size(); ++i) {
+            auto number = readItem(i);
+            if (!number)
+                return std::move(m_failure);
+            m_numbers.push_back(*std::move(number));
+        }
+        return summary();
+    }
+
+private:
+    void refuse(const Item& item, Failure failure)
+    {
+        m_failure = std::move(failure);
+        const bool several =
+            m_failure.code == FaultCode::SeveralNumbers || m_failure.code == FaultCode::ThousandsSeparator;
+        if (several && item.text.find(' ') != std::string_view::npos)
+            m_failure.suggestion = withCommas(m_text);
+        else if (!m_failure.suggestion.empty())
+            m_failure.suggestion = std::string(m_text.substr(0, item.begin)) + m_failure.suggestion +
+                                   std::string(m_text.substr(item.begin + item.text.size()));
+    }
+
+    /// Finds out whether all numbers have the unit of the last one.
+    bool readLast()
+    {
+        const Item& last = m_items.back();
+        auto [unit, failure] = unitOf(last);
+        if (!unit) {
+            refuse(last, std::move(*failure));
+            return false;
+        }
+        m_lastUnit = std::move(*unit);
+        if (m_items.size() == 1)
+            return true;
+        auto [first, firstFailure] = unitOf(m_items.front());
+        m_oneUnit = first && first->empty() && !m_lastUnit.empty();
+        return !m_oneUnit || checkLast();
+    }
+
+    /// Reports a fault in the unit of all numbers at the last number, where it is typed, not at the first one.
+    bool checkLast()
+    {
+        const auto number = NumberReader(m_target, m_items.back().text).read();
+        if (!number)
+            refuse(m_items.back(), number.failure());
+        return number.hasValue();
+    }
+
+    /// Returns the text of the unit of an item, or the reason why there is no number.
+    std::pair<std::optional<std::string>, std::optional<Failure>> unitOf(const Item& item) const
+    {
+        const FoldedText folded = fold(item.text);
+        if (folded.fault != FoldedText::Fault::None)
+            return {std::nullopt, failureOf(folded, item.text)};
+        const auto number = scanNumber(folded.text);
+        if (!number)
+            return {std::nullopt, number.failure()};
+        return {std::string(number->rest), std::nullopt};
+    }
+
+    std::optional<TypedNumber> readItem(std::size_t index)
+    {
+        const Item& item = m_items[index];
+        if (item.text.empty() && m_items.size() > 1) {
+            m_failure = makeFailure(FaultCode::Empty, Text::ListItemEmpty, {std::to_string(index + 1)});
+            return std::nullopt;
+        }
+        if (looksLikeDecimals(m_text, item)) {
+            m_failure =
+                makeFailure(FaultCode::DecimalComma, Text::ListDecimalComma, {excerpt(item.text)}, withPoints(m_text));
+            return std::nullopt;
+        }
+        return readNumberOf(item, index + 1 == m_items.size());
+    }
+
+    std::optional<TypedNumber> readNumberOf(const Item& item, bool last)
+    {
+        std::string text(item.text);
+        if (!last) {
+            const auto unit = unitOf(item).first;
+            const bool needed = !m_lastUnit.empty() && !m_oneUnit;
+            if (unit && unit->empty() == needed) {
+                const Item& without = needed ? item : m_items.back();
+                refuse(item, makeFailure(FaultCode::UnitMissing, Text::ListUnitMissing, {excerpt(without.text)}));
+                return std::nullopt;
+            }
+            if (m_oneUnit)
+                text += " " + m_lastUnit;
+        }
+        auto reading = NumberReader(m_target, text).read();
+        if (reading)
+            return *std::move(reading);
+        refuse(item, reading.failure());
+        return std::nullopt;
+    }
+
+    ListReading summary() const
+    {
+        ListReading list;
+        for (const TypedNumber& number : m_numbers)
+            list.values.push_back(number.value);
+        list.note = m_numbers.back().note;
+        const std::string unit = m_target.unit.text();
+        const std::string typed = typedText();
+        const std::string result = joined(vxMat::formatNumberList(list.values), unit);
+        list.understood = typed == result ? result : typed + " = " + result;
+        return list;
+    }
+
+    /// Returns the numbers as typed, with one unit for all of them or one for each.
+    std::string typedText() const
+    {
+        const std::string& unit = m_numbers.back().unit;
+        const bool one = std::all_of(m_numbers.begin(), m_numbers.end(),
+                                     [&](const TypedNumber& number) { return number.unit == unit; });
+        std::string text;
+        for (const TypedNumber& number : m_numbers) {
+            const std::string digits = formatNumber(number.typed.value_or(number.value));
+            text += (text.empty() ? "" : ", ") + (one ? digits : joined(digits, number.unit));
+        }
+        return one ? joined(text, unit) : text;
+    }
+
+    const ReadingTarget& m_target;
+    std::string_view m_text;
+    std::vector<Item> m_items;
+    std::string m_lastUnit; ///< as typed; empty if the last number has none
+    bool m_oneUnit = false; ///< whether it is the unit of all
+    std::vector<TypedNumber> m_numbers;
+    Failure m_failure;
+};
+
+} // namespace
+
+Failure failureOf(const FoldedText& folded, std::string_view text)
+{
+    if (folded.fault == FoldedText::Fault::BadEncoding)
+        return makeFailure(FaultCode::BadEncoding, Text::BadEncoding);
+    return makeFailure(FaultCode::IllegalCharacter, Text::IllegalCharacter, {excerpt(text), folded.illegal});
+}
+
+std::string measureOf(const Dimension& dimension)
+{
+    const std::string name = dimension.name();
+    return name.empty() ? UnitSystem::si().unitOf(dimension).text() : name;
+}
+
+DoubleDouble exactZero(const Unit& unit)
+{
+    constexpr double hundredths = 100.0; // 273.15 and 459.67 have two decimals
+    return DoubleDouble{std::round(unit.zero() * hundredths), 0.0} / DoubleDouble{hundredths, 0.0};
+}
+
+Result<Reading> readFor(const ReadingTarget& target, std::string_view text)
+{
+    return readWithSuggestion(text, [&](std::string_view one) -> Result<Reading> {
+        const auto number = NumberReader(target, one).read();
+        if (!number)
+            return number.failure();
+        return toReading(*number, target.unit.text());
+    });
+}
+
+Result<ListReading> readListFor(const ReadingTarget& target, std::string_view text)
+{
+    return readWithSuggestion(text, [&](std::string_view one) { return ListReader(target, one).read(); });
+}
+
+Result<Reading> readNumber(std::string_view text, const Unit& unit, TemperatureMeaning meaning)
+{
+    return readFor({unit, unit, meaning, {}, true}, text);
+}
+
+Result<Reading> readQuantity(std::int32_t id, std::string_view text, const ReadingContext& context)
+{
+    const auto target = targetOf(id, context);
+    return target ? readFor(*target, text) : Result<Reading>(target.failure());
+}
+
+Result<ListReading> readQuantityList(std::int32_t id, std::string_view text, const ReadingContext& context)
+{
+    const auto target = targetOf(id, context);
+    return target ? readListFor(*target, text) : Result<ListReading>(target.failure());
+}
+
+} // namespace vxUnits

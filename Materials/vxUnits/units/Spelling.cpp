@@ -1,0 +1,176 @@
+#include "units/Spelling.h"
+
+#include "vxMaterial/model/NumberText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace vxUnits {
+
+namespace {
+
+constexpr std::size_t longestText = 200;
+constexpr std::size_t mostCandidates = 8;
+constexpr int mostCorrections = 2;
+
+using Terms = std::vector<Term>;
+
+/// A unit that users write for another one.
+struct Confusion
+{
+    const char* written;
+    const char* meant;
+};
+constexpr Confusion massForForce[] = {{"lb", "lbf"}, {"kg", "kgf"}, {"g", "gf"}, {"oz", "ozf"}, {"t", "tf"}};
+constexpr Confusion letterForDegree[] = {{"C", "degC"}, {"F", "degF"}};
+
+template <std::size_t Size>
+Terms exchanged(Terms terms, const Confusion (&confusions)[Size])
+{
+    for (Term& term : terms) {
+        for (const Confusion& one : confusions) {
+            if (term.atom.symbol != one.written)
+                continue;
+            term.atom = *findBuiltIn(one.meant);
+            break;
+        }
+    }
+    return terms;
+}
+
+/// Returns the terms with everything after the first "/" in the denominator.
+Terms grouped(Terms terms)
+{
+    for (Term& term : terms)
+        term.power = term.behindSlash ? -std::abs(term.power) : term.power;
+    return terms;
+}
+
+std::optional<Terms> fitted(const Terms& terms, const Dimension& target)
+{
+    const Terms degrees = exchanged(terms, letterForDegree);
+    const Terms forces = exchanged(terms, massForForce);
+    for (const Terms& candidate : {terms, grouped(terms), degrees, grouped(degrees), forces, grouped(forces),
+                                   grouped(exchanged(degrees, massForForce))})
+    {
+        if (dimensionOf(candidate) == target)
+            return candidate;
+    }
+    return std::nullopt;
+}
+
+/// Returns whether two texts differ by one letter more, less or exchanged, or by two letters swapped.
+bool differByOne(std::string_view one, std::string_view other)
+{
+    if (one.size() < other.size())
+        std::swap(one, other);
+    if (one.size() > other.size() + 1)
+        return false;
+    const auto length = static_cast<std::ptrdiff_t>(other.size());
+    const std::ptrdiff_t start = std::mismatch(one.begin(), one.begin() + length, other.begin()).first - one.begin();
+    const std::string_view restOfOne = one.substr(static_cast<std::size_t>(start));
+    const std::string_view restOfOther = other.substr(static_cast<std::size_t>(start));
+    if (one.size() > other.size())
+        return restOfOne.substr(1) == restOfOther;
+    if (restOfOne.empty() || restOfOne.substr(1) == restOfOther.substr(1))
+        return true;
+    return restOfOne.size() > 1 && restOfOne[0] == restOfOther[1] && restOfOne[1] == restOfOther[0] &&
+           restOfOne.substr(2) == restOfOther.substr(2);
+}
+
+/// The spellings that may have been meant by an unknown one, the most likely first.
+class Candidates
+{
+public:
+    explicit Candidates(std::string_view spelling) : m_spelling(spelling)
+    {
+        if (const AmbiguousSpelling* const ambiguous = findAmbiguous(spelling))
+            add(ambiguous->suggestion);
+        addMatches([this](const std::string& one) { return vxMat::equalIgnoringAsciiCase(one, m_spelling); });
+        addSplit();
+        addMatches([this](const std::string& one) { return differByOne(one, m_spelling); });
+    }
+
+    const std::vector<std::string>& all() const { return m_all; }
+
+private:
+    void add(const std::string& candidate)
+    {
+        const bool known = std::find(m_all.begin(), m_all.end(), candidate) != m_all.end();
+        if (!known && m_all.size() < mostCandidates)
+            m_all.push_back(candidate);
+    }
+
+    template <class Matches>
+    void addMatches(Matches matches)
+    {
+        for (const std::string& one : commonSpellings()) {
+            if (matches(one))
+                add(one);
+        }
+    }
+
+    /// "Pa s" for "Pas".
+    void addSplit()
+    {
+        for (std::size_t at = 1; at < m_spelling.size(); ++at) {
+            if (findBuiltIn(m_spelling.substr(0, at)) && findBuiltIn(m_spelling.substr(at)))
+                add(std::string(m_spelling.substr(0, at)) + " " + std::string(m_spelling.substr(at)));
+        }
+    }
+
+    std::string_view m_spelling;
+    std::vector<std::string> m_all;
+};
+
+/// Replaces the unknown spelling in a text by each candidate.
+void addCorrections(std::vector<std::string>& corrections, const std::string& text, const Place& place)
+{
+    const Candidates candidates(std::string_view(text).substr(place.begin, place.length));
+    for (const std::string& candidate : candidates.all()) {
+        corrections.push_back(text);
+        corrections.back().replace(place.begin, place.length, candidate);
+    }
+}
+
+/// Corrects one spelling after another until a text can be read and has the dimension.
+std::optional<Terms> corrected(const std::string& text, const Dimension* target)
+{
+    std::vector<std::string> texts{text};
+    for (int round = 0; round <= mostCorrections; ++round) {
+        std::vector<std::string> corrections;
+        for (const std::string& one : texts) {
+            ParsedUnit unit = parseUnit(one, one);
+            auto terms = target == nullptr ? std::optional<Terms>(unit.terms) : fitted(unit.terms, *target);
+            if (unit.valid && terms)
+                return terms;
+            if (!unit.valid && unit.unresolved.length > 0)
+                addCorrections(corrections, one, unit.unresolved);
+        }
+        texts = std::move(corrections);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string suggestUnit(std::string_view folded, const Dimension* target)
+{
+    if (folded.size() > longestText)
+        return {};
+    folded = folded.substr(0, folded.find_last_not_of(" .,;:") + 1);
+    const auto opened = std::count(folded.begin(), folded.end(), '(');
+    const auto closed = std::count(folded.begin(), folded.end(), ')');
+    const std::string missing(static_cast<std::size_t>(std::max<std::ptrdiff_t>(opened - closed, 0)), ')');
+    const auto terms = corrected(std::string(folded) + missing, target);
+    return terms ? UnitBuilder::build(*terms).text() : std::string();
+}
+
+std::string suggestTerms(const std::vector<Term>& terms, const Dimension& target)
+{
+    const auto found = fitted(terms, target);
+    return found ? UnitBuilder::build(*found).text() : std::string();
+}
+
+} // namespace vxUnits

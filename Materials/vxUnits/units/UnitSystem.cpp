@@ -1,0 +1,309 @@
+#include "vxUnits/UnitSystem.h"
+
+#include "units/FoldedText.h"
+#include "units/Reader.h"
+#include "units/Spelling.h"
+#include "units/Texts.h"
+#include "units/UnitParser.h"
+#include "units/UnitReading.h"
+#include "vxMaterial/model/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace vxUnits {
+
+namespace d = dimensions;
+
+namespace {
+
+constexpr std::size_t baseUnitCount = 5;
+
+constexpr const char* baseWords[baseUnitCount] = {"length", "mass", "time", "temperature", "current"};
+
+/// The base units of a built-in system, and the derived units that engineers do not write as products of base units.
+struct BuiltInSystem
+{
+    const char* name;
+    const char* otherNames; ///< separated by commas
+    const char* bases[baseUnitCount];
+    const char* pressure;
+    const char* density;
+    const char* viscosity;
+    const char* specificHeat;
+    const char* thermalConductivity;
+    const char* electricalConductivity;
+};
+
+constexpr BuiltInSystem builtInSystems[] = {
+    {"SI", "m-kg-s,mks", {"m", "kg", "s", "K", "A"}, "Pa", "kg/m^3", "Pa s", "J/(kg K)", "W/(m K)", "S/m"},
+    {"mm-t-s",
+     "mm-tonne-s,mm-ton-s",
+     {"mm", "t", "s", "K", "A"},
+     "MPa",
+     "t/mm^3",
+     "MPa s",
+     "mJ/(t K)",
+     "mW/(mm K)",
+     "kS/mm"},
+    {"mm-kg-ms", "", {"mm", "kg", "ms", "K", "A"}, "GPa", "kg/mm^3", "GPa ms", "J/(kg K)", "kW/(mm K)", "S/m"},
+    {"cm-g-s", "cgs", {"cm", "g", "s", "K", "A"}, "dyn/cm^2", "g/cm^3", "P", "erg/(g K)", "erg/(s cm K)", "GS/m"},
+    {"ft-slug-s",
+     "",
+     {"ft", "slug", "s", "degF", "A"},
+     "psf",
+     "slug/ft^3",
+     "lbf s/ft^2",
+     "ft lbf/(slug degF)",
+     "lbf/(s degF)",
+     "A^2 s/(lbf ft^2)"},
+    {"in-lbf-s",
+     "",
+     {"in", "lbf s^2/in", "s", "degF", "A"},
+     "psi",
+     "lbf s^2/in^4",
+     "psi s",
+     "in^2/(s^2 degF)",
+     "lbf/(s degF)",
+     "A^2 s/(lbf in^2)"},
+};
+
+/// Returns the terms of a text that is known to be a unit.
+std::vector<Term> termsOf(std::string_view text)
+{
+    return parseUnit(fold(text).text, text).terms;
+}
+
+void append(std::vector<Term>& terms, std::vector<Term> others, double power)
+{
+    for (Term& term : others) {
+        term.power *= power;
+        terms.push_back(std::move(term));
+    }
+}
+
+bool isSeparator(char c)
+{
+    return c == ',' || c == ';';
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    return text;
+}
+
+} // namespace
+
+/// Shared by the copies of a system.
+struct UnitSystem::Bases
+{
+    std::array<std::string, baseUnitCount> texts;
+    std::array<std::vector<Term>, baseUnitCount> terms;
+    std::vector<Unit> named; ///< derived units with names of their own
+};
+
+/// Makes unit systems of rows of the table and of texts.
+class SystemParser
+{
+public:
+    static UnitSystem make(const BuiltInSystem& row)
+    {
+        auto bases = std::make_shared<UnitSystem::Bases>();
+        for (std::size_t i = 0; i < baseUnitCount; ++i)
+            setBase(*bases, i, row.bases[i]);
+        for (const char* const name : {row.pressure, row.density, row.viscosity, row.specificHeat,
+                                       row.thermalConductivity, row.electricalConductivity})
+            bases->named.push_back(UnitBuilder::build(termsOf(name)).named(name));
+        UnitSystem system;
+        system.m_text = row.name;
+        system.m_builtIn = true;
+        system.m_bases = std::move(bases);
+        return system;
+    }
+
+    Result<UnitSystem> parse(const std::string& folded)
+    {
+        for (std::size_t begin = 0; begin <= folded.size();) {
+            const auto* const from = folded.data() + begin;
+            const auto* const end = std::find_if(from, folded.data() + folded.size(), isSeparator);
+            if (!readBase(trimmed({from, static_cast<std::size_t>(end - from)})))
+                return std::move(m_failure);
+            begin = static_cast<std::size_t>(end - folded.data()) + 1;
+        }
+        return complete();
+    }
+
+private:
+    static void setBase(UnitSystem::Bases& bases, std::size_t base, std::string_view unit)
+    {
+        bases.terms[base] = termsOf(unit);
+        bases.texts[base] = UnitBuilder::build(bases.terms[base]).text();
+    }
+
+    bool refuse(Text text, std::vector<std::string> arguments)
+    {
+        m_failure = makeFailure(FaultCode::MalformedUnitSystem, text, std::move(arguments));
+        return false;
+    }
+
+    /// "mass lbf s^2/in"
+    bool readBase(std::string_view text)
+    {
+        Reader reader(text);
+        const std::string word(reader.takeWhile(isLetter));
+        const auto* const found = std::find_if(std::begin(baseWords), std::end(baseWords), [&](const char* one) {
+            return vxMat::equalIgnoringAsciiCase(one, word);
+        });
+        if (found == std::end(baseWords))
+            return refuse(Text::SystemBaseUnknown, {excerpt(text)});
+        const auto base = static_cast<std::size_t>(found - std::begin(baseWords));
+        if (!m_bases->texts[base].empty())
+            return refuse(Text::SystemBaseRepeated, {*found});
+        return readUnit(base, trimmed(reader.rest()));
+    }
+
+    bool readUnit(std::size_t base, std::string_view text)
+    {
+        const auto wanted = static_cast<Dimension::Base>(base);
+        const ParsedUnit parsed = parseUnit(text, text);
+        const Dimension dimension(wanted);
+        const Dimension given = dimensionOf(parsed.terms);
+        if (parsed.valid && given == dimension) {
+            setBase(*m_bases, base, text);
+            return true;
+        }
+        m_failure = parsed.failure;
+        if (parsed.valid)
+            m_failure =
+                makeFailure(FaultCode::WrongDimension, Text::WrongDimensionOf,
+                            {excerpt(text), measureOf(given), UnitSystem::si().baseUnit(wanted), baseWords[base]});
+        else
+            m_failure.suggestion = suggestUnit(text, &dimension);
+        return false;
+    }
+
+    Result<UnitSystem> complete()
+    {
+        for (const Dimension::Base base : {Dimension::Temperature, Dimension::Current}) {
+            if (m_bases->texts[base].empty())
+                setBase(*m_bases, base, UnitSystem::si().baseUnit(base));
+        }
+        UnitSystem system;
+        for (std::size_t i = 0; i < baseUnitCount; ++i) {
+            if (m_bases->texts[i].empty())
+                return makeFailure(FaultCode::MalformedUnitSystem, Text::SystemBaseMissing, {baseWords[i]});
+            system.m_text += std::string(i > 0 ? ", " : "") + baseWords[i] + " " + m_bases->texts[i];
+        }
+        system.m_bases = std::move(m_bases);
+        return system;
+    }
+
+    std::shared_ptr<UnitSystem::Bases> m_bases = std::make_shared<UnitSystem::Bases>();
+    Failure m_failure;
+};
+
+namespace {
+
+/// Returns whether a text is one of the names of a row.
+bool isNameOf(const BuiltInSystem& row, std::string_view text)
+{
+    if (vxMat::equalIgnoringAsciiCase(row.name, text))
+        return true;
+    const std::string_view others = row.otherNames;
+    for (std::size_t begin = 0; begin < others.size();) {
+        const std::size_t end = std::min(others.find(',', begin), others.size());
+        if (vxMat::equalIgnoringAsciiCase(others.substr(begin, end - begin), text))
+            return true;
+        begin = end + 1;
+    }
+    return false;
+}
+
+std::string builtInNames()
+{
+    std::string names;
+    for (const BuiltInSystem& row : builtInSystems)
+        names += std::string(names.empty() ? "" : ", ") + row.name;
+    return names;
+}
+
+} // namespace
+
+const UnitSystem& UnitSystem::si()
+{
+    return builtIn().front();
+}
+
+const std::vector<UnitSystem>& UnitSystem::builtIn()
+{
+    static const std::vector<UnitSystem> systems = [] {
+        std::vector<UnitSystem> made;
+        for (const BuiltInSystem& row : builtInSystems)
+            made.push_back(SystemParser::make(row));
+        return made;
+    }();
+    return systems;
+}
+
+Result<UnitSystem> UnitSystem::parse(std::string_view text)
+{
+    const FoldedText folded = fold(text);
+    if (folded.fault != FoldedText::Fault::None)
+        return failureOf(folded, text);
+    if (folded.text.empty())
+        return makeFailure(FaultCode::MalformedUnitSystem, Text::SystemEmpty,
+                           {builtInNames(), "length cm, mass g, time us"});
+    const auto* const row = std::find_if(std::begin(builtInSystems), std::end(builtInSystems),
+                                         [&](const BuiltInSystem& one) { return isNameOf(one, folded.text); });
+    if (row != std::end(builtInSystems))
+        return builtIn()[static_cast<std::size_t>(row - std::begin(builtInSystems))];
+    return SystemParser().parse(folded.text);
+}
+
+const std::string& UnitSystem::baseUnit(Dimension::Base base) const
+{
+    static const std::string degree = "deg";
+    static const std::string none;
+    if (base == Dimension::Angle)
+        return degree;
+    return base < baseUnitCount ? m_bases->texts[base] : none;
+}
+
+Unit UnitSystem::unitOf(const Dimension& dimension) const
+{
+    const auto named = std::find_if(m_bases->named.begin(), m_bases->named.end(),
+                                    [&](const Unit& one) { return one.dimension() == dimension; });
+    if (named != m_bases->named.end())
+        return *named;
+    // 1/MPa rather than mm s^2/t
+    const Dimension inverse = d::none / dimension;
+    const auto reciprocal = std::find_if(m_bases->named.begin(), m_bases->named.end(),
+                                         [&](const Unit& one) { return one.dimension() == inverse; });
+    std::vector<Term> terms;
+    if (reciprocal != m_bases->named.end()) {
+        append(terms, termsOf(reciprocal->text()), -1.0);
+        return UnitBuilder::build(terms);
+    }
+    for (const Dimension::Base base :
+         {Dimension::Mass, Dimension::Length, Dimension::Time, Dimension::Temperature, Dimension::Current})
+        append(terms, m_bases->terms[base], dimension.exponent(base));
+    append(terms, termsOf("deg"), dimension.exponent(Dimension::Angle));
+    append(terms, termsOf("mol"), dimension.exponent(Dimension::Amount));
+    append(terms, termsOf("cd"), dimension.exponent(Dimension::LuminousIntensity));
+    return UnitBuilder::build(terms);
+}
+
+Unit UnitSystem::unitOfCreep(const CreepExponents& exponents) const
+{
+    std::vector<Term> terms;
+    append(terms, termsOf(unitOf(d::pressure).text()), -exponents.n);
+    append(terms, m_bases->terms[Dimension::Time], -(exponents.m + 1.0));
+    return UnitBuilder::build(terms);
+}
+
+} // namespace vxUnits

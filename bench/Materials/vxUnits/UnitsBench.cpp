@@ -1,0 +1,137 @@
+#include "Contest.h"
+
+#include "vxMaterial/model/MaterialLibrary.h"
+#include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/Plausibility.h"
+#include "vxUnits/Reading.h"
+#include "vxUnits/Unit.h"
+
+#include <memory>
+#include <numeric>
+#include <string>
+#include <udunits2.h>
+#include <vector>
+
+/// Conversions and readings against UDUNITS, which does both for a text that it takes.
+namespace {
+
+using vxbench::timed;
+using vxUnits::Converter;
+using vxUnits::Unit;
+
+constexpr std::size_t million = 1000000;
+constexpr double limit = 1.5;
+
+/// Read when it is first needed, so that a process that measures the other side does not hold it.
+ut_system* database()
+{
+    static ut_system* const system = [] {
+        ut_set_error_message_handler(ut_ignore);
+        return ut_read_xml(nullptr);
+    }();
+    return system;
+}
+
+struct FreeUnit
+{
+    void operator()(ut_unit* unit) const { ut_free(unit); }
+};
+struct FreeConverter
+{
+    void operator()(cv_converter* converter) const { cv_free(converter); }
+};
+using UnitPointer = std::unique_ptr<ut_unit, FreeUnit>;
+using ConverterPointer = std::unique_ptr<cv_converter, FreeConverter>;
+
+ConverterPointer otherConverter(const char* from, const char* to)
+{
+    const UnitPointer one(ut_parse(database(), from, UT_UTF8));
+    const UnitPointer other(ut_parse(database(), to, UT_UTF8));
+    return ConverterPointer(ut_get_converter(one.get(), other.get()));
+}
+
+std::vector<double> numbers()
+{
+    std::vector<double> made(million);
+    std::iota(made.begin(), made.end(), 1.0);
+    return made;
+}
+
+std::chrono::nanoseconds convertByOurs(const char* from, const char* to)
+{
+    static const std::vector<double> in = numbers();
+    static std::vector<double> out(million);
+    const Converter converter = *Converter::between(*Unit::parse(from), *Unit::parse(to));
+    return timed([&] {
+        converter.convert(in.data(), in.size(), out.data());
+        return out.back();
+    });
+}
+
+std::chrono::nanoseconds convertByOther(const char* from, const char* to)
+{
+    static const std::vector<double> in = numbers();
+    static std::vector<double> out(million);
+    const ConverterPointer converter = otherConverter(from, to);
+    return timed([&] {
+        for (std::size_t i = 0; i < million; ++i)
+            out[i] = cv_convert_double(converter.get(), in[i]);
+        return out.back();
+    });
+}
+
+void addConversion(const char* from, const char* to)
+{
+    vxbench::addContest({std::string("a million numbers from ") + from + " to " + to,
+                         [=] { return convertByOurs(from, to); }, [=] { return convertByOther(from, to); }, limit,
+                         false});
+}
+
+/// What each side makes of a text of one unit; UDUNITS takes the unit without the number.
+void addReading()
+{
+    constexpr int times = 1000;
+    const auto ours = [] {
+        return timed([] {
+            double sum = 0.0;
+            for (int i = 0; i < times; ++i)
+                sum += vxUnits::readQuantity(vxMat::PropertyId::ThermalConductivity, "31 Btu/(h ft degF)")->value;
+            return sum;
+        });
+    };
+    const auto other = [] {
+        database();
+        return timed([] {
+            double sum = 0.0;
+            for (int i = 0; i < times; ++i)
+                sum += cv_convert_double(otherConverter("Btu/(h ft degF)", "W/(m K)").get(), 31.0);
+            return sum;
+        });
+    };
+    vxbench::addContest({"a thousand texts read", ours, other, 0.0, false});
+}
+
+/// The check of the largest library material, which an editor makes at each keystroke, against a tenth of the 16 ms of a
+/// frame.
+void addCheck()
+{
+    const auto ours = [] {
+        const vxMat::StructuralSteelNL steel;
+        return timed([&] { return vxUnits::checkPlausibility(steel); });
+    };
+    vxbench::addContest({"plausibility of a material against 1.6 ms", ours,
+                         [] { return std::chrono::microseconds(1600); }, 1.0, false});
+}
+
+} // namespace
+
+int main(int argc, char** argv) // NOLINT(bugprone-exception-escape): a text that is refused ends the measurement
+{
+    addConversion("MPa", "Pa");
+    addConversion("Pa", "GPa");
+    addConversion("psi", "Pa");
+    addConversion("W/(m K)", "mW/(mm K)");
+    addReading();
+    addCheck();
+    return vxbench::runContests(argc, argv);
+}

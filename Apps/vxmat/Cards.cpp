@@ -3,6 +3,7 @@
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
+#include "ShownUnits.h"
 
 #include "vxMaterial/exchange/CardSet.h"
 
@@ -99,14 +100,18 @@ Json::Value toJson(const CardMaterial& material, const vxCAE::CardSet& set)
 
 } // namespace
 
-Answer printCards(const std::vector<std::string>& sources, Form form)
+Answer printCards(const std::vector<std::string>& sources, Form form, const ShownUnits& units)
 {
     Answer answer;
     Json::Value document;
+    if (units.areGiven())
+        document["units"] = units.name();
     document["materials"] = Json::arrayValue;
     for (const CardMaterial& material : collect(sources, answer)) {
-        const vxCAE::CardSet set = makeCardSet(*material.entry, material.completeness);
         const std::string title = (material.source.empty() ? "" : material.source + ": ") + titleOf(material) + ": ";
+        if (const std::string note = units.apply(*material.entry->material); !note.empty())
+            answer.messages.push_back(std::string("note: ").append(title).append(note));
+        const vxCAE::CardSet set = makeCardSet(*material.entry, material.completeness);
         for (const std::string& doubt : set.doubts) {
             answer.messages.push_back(std::string(title).append(doubt));
             answer.status = Status::Findings;
@@ -118,6 +123,8 @@ Answer printCards(const std::vector<std::string>& sources, Form form)
     }
     if (form == Form::Json)
         answer.text = toJsonText(document);
+    if (units.areGiven())
+        answer.messages.push_back(units.note("the cards are"));
     return answer;
 }
 

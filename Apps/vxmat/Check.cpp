@@ -5,6 +5,13 @@
 #include "ProjectFindings.h"
 
 #include "vxMaterial/exchange/DocumentCheck.h"
+#include "vxMaterial/model/MaterialCheck.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/Plausibility.h"
+
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace commandline {
 
@@ -22,9 +29,69 @@ Json::Value toJson(const std::vector<vxCAE::Finding>& findings)
     return list;
 }
 
-vxCAE::CheckReport check(const std::string& path, const std::optional<std::string>& materialsPath)
+/// A doubt about a material of the file.
+struct MaterialDoubt
 {
-    const Input input = readInput(path);
+    std::uint32_t number;
+    std::string label;
+    vxUnits::Doubt doubt;
+};
+
+/// Returns the slots of a material that an error is about. An error about yield stresses and plastic strains together is in
+/// the slot of the stresses.
+std::set<std::int32_t> slotsWithErrors(const vxMat::MaterialBase& material)
+{
+    std::set<std::int32_t> slots;
+    for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(material))
+        slots.insert(finding.slot);
+    if (slots.count(vxMat::PropertyId::PlasticYieldStress) != 0)
+        slots.insert(vxMat::PropertyId::PlasticStrain);
+    return slots;
+}
+
+/// Adds the doubts about a material. A doubt about a value that is an error already is only added if it has a remedy.
+void addDoubts(const FileMaterial& material, std::vector<MaterialDoubt>& doubts)
+{
+    const std::set<std::int32_t> errors = slotsWithErrors(*material.entry->material);
+    for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(*material.entry->material)) {
+        if (doubt.remedy || errors.count(doubt.id) == 0)
+            doubts.push_back({material.number, material.label, std::move(doubt)});
+    }
+}
+
+/// Returns the doubts about the materials of a file; none if the materials cannot be read.
+std::vector<MaterialDoubt> findDoubts(Input input)
+try {
+    if (!input.project && vxCAE::readProjectKind(toDocument(input)) == vxCAE::ProjectKind::Analysis)
+        return {};
+    std::vector<MaterialDoubt> doubts;
+    for (const FileMaterial& material : readMaterials(std::move(input)).materials)
+        addDoubts(material, doubts);
+    return doubts;
+} catch (const Failure&) {
+    return {}; // the findings name the reason
+}
+
+Json::Value toJson(const std::vector<MaterialDoubt>& doubts)
+{
+    Json::Value list(Json::arrayValue);
+    for (const MaterialDoubt& one : doubts) {
+        Json::Value json;
+        json["number"] = one.number;
+        json["material"] = one.label;
+        json["id"] = one.doubt.id;
+        json["quantity"] = vxMat::findPropertyRecord(one.doubt.id)->name;
+        json["value"] = toJsonNumber(one.doubt.value);
+        json["message"] = one.doubt.message.text();
+        json["impossible"] = one.doubt.severity == vxUnits::Severity::Impossible;
+        json["remedy"] = one.doubt.remedy ? Json::Value(one.doubt.remedy->message.text()) : Json::Value();
+        list.append(std::move(json));
+    }
+    return list;
+}
+
+vxCAE::CheckReport check(const Input& input, const std::optional<std::string>& materialsPath)
+{
     if (input.project)
         return checkProject(input);
     Json::Value materials;
@@ -39,21 +106,30 @@ vxCAE::CheckReport check(const std::string& path, const std::optional<std::strin
 
 } // namespace
 
-Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Form form)
+Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Strictness strictness,
+                 Form form)
 {
-    const vxCAE::CheckReport report = check(path, materialsPath);
+    Input input = readInput(path);
+    const vxCAE::CheckReport report = check(input, materialsPath);
+    const std::vector<MaterialDoubt> doubts = findDoubts(std::move(input));
+    const bool isClean = report.findings.empty() && (doubts.empty() || strictness == Strictness::Errors);
     Answer answer;
-    answer.status = report.findings.empty() ? Status::Clean : Status::Findings;
+    answer.status = isClean ? Status::Clean : Status::Findings;
     if (form == Form::Json) {
         Json::Value document;
         document["file"] = path;
         document["findings"] = toJson(report.findings);
         document["notes"] = toJson(report.notes);
+        document["doubts"] = toJson(doubts);
         answer.text = toJsonText(document);
         return answer;
     }
     for (const vxCAE::Finding& finding : report.findings)
         answer.text += path + ": " + printable(finding.path) + ": " + printable(finding.message) + "\n";
+    for (const MaterialDoubt& one : doubts) {
+        answer.text += path + ": doubt: " + std::to_string(one.number) + " " + printable(one.label) + ": " +
+                       printable(one.doubt.text()) + "\n";
+    }
     for (const vxCAE::Finding& note : report.notes)
         answer.messages.push_back(path + ": note: " + note.path + ": " + note.message);
     return answer;

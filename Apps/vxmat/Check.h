@@ -7,9 +7,19 @@
 
 namespace commandline {
 
+/// What counts as a finding in the exit status.
+enum class Strictness
+{
+    Errors,
+    Doubts, ///< errors and doubts
+};
+
 /// `vxmat check FILE`: prints the errors in a document or project, one line each with its JSON path. `materialsPath` is
-/// the material document or project that belongs to an analysis document; absent if there is none.
+/// the material document or project that belongs to an analysis document; absent if there is none. Doubts about the values
+/// of materials follow, if the materials can be read. They are no errors, but with Strictness::Doubts the status is
+/// Findings for them too.
 /// \throws Failure if a file cannot be read
-Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Form form);
+Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Strictness strictness,
+                 Form form);
 
 } // namespace commandline

@@ -4,12 +4,16 @@
 #include "Arguments.h"
 #include "Cards.h"
 #include "Check.h"
+#include "Convert.h"
 #include "Diff.h"
 #include "Export.h"
 #include "Files.h"
 #include "Listings.h"
 #include "NewProject.h"
 #include "Query.h"
+#include "SetQuantity.h"
+#include "ShownUnits.h"
+#include "UnitListing.h"
 
 #include <CLI/CLI.hpp>
 
@@ -42,6 +46,7 @@ private:
     void addForm(CLI::App* command);
     void addMaterialsFile(CLI::App* command);
     void addOutput(CLI::App* command);
+    void addUnits(CLI::App* command);
 
     void addLibrary();
     void addCatalogue();
@@ -53,9 +58,13 @@ private:
     void addCheck();
     void addDiff();
     void addQuery();
+    void addSet();
+    void addConvert();
+    void addUnitListing();
 
     Form form() const { return m_json ? Form::Json : Form::Text; }
     Existing existing() const { return m_force ? Existing::Replace : Existing::Keep; }
+    ShownUnits units() const { return ShownUnits(m_units); }
 
     CLI::App m_app{
         "Materials for finite-element simulation: the library, projects, exchange documents and solver cards.",
@@ -64,12 +73,18 @@ private:
 
     bool m_json = false;
     bool m_force = false;
+    bool m_strict = false;
+    bool m_difference = false;
     std::string m_name;
     std::vector<std::string> m_names;
+    std::vector<std::string> m_emptyNames;
     std::string m_file;
     std::string m_otherFile;
     std::string m_output;
     std::optional<std::string> m_materialsFile;
+    std::optional<std::string> m_units;
+    std::string m_unit;
+    Setting m_setting;
     std::string m_project = "0";
     std::string m_examples;
 };
@@ -83,12 +98,15 @@ CommandLine::CommandLine()
     addCatalogue();
     addShow();
     addNew();
+    addSet();
     addImport();
     addExport();
     addCards();
     addCheck();
     addDiff();
     addQuery();
+    addConvert();
+    addUnitListing();
     m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 success, 1 findings or differences, 2 error.");
 }
 
@@ -122,37 +140,74 @@ void CommandLine::addOutput(CLI::App* command)
                       "Replace an existing project, and take over a lock that a program on another computer has left");
 }
 
+void CommandLine::addUnits(CLI::App* command)
+{
+    command
+        ->add_option("--units", m_units,
+                     "The unit system of all numbers, such as mm-t-s, or base units, such as \"length cm, mass g, time "
+                     "us\"")
+        ->type_name("SYSTEM");
+}
+
 void CommandLine::addLibrary()
 {
-    addForm(addCommand("library", "List the built-in materials: name, group, number of quantities",
-                       "vxmat library --json", [this] { return listLibrary(form()); }));
+    CLI::App* const command =
+        addCommand("library",
+                   "List the built-in materials: name, group, number of quantities, with --units also density and "
+                   "Young's modulus",
+                   "vxmat library --json", [this] { return listLibrary(form(), units()); });
+    addUnits(command);
+    addForm(command);
 }
 
 void CommandLine::addCatalogue()
 {
-    addForm(addCommand("catalogue", "List the quantities that a material can have", "vxmat catalogue",
-                       [this] { return listCatalogue(form()); }));
+    CLI::App* const command = addCommand("catalogue", "List the quantities that a material can have", "vxmat catalogue",
+                                         [this] { return listCatalogue(form(), units()); });
+    addUnits(command);
+    addForm(command);
 }
 
 void CommandLine::addShow()
 {
-    CLI::App* const command =
-        addCommand("show", "Show a built-in material, or the materials of a file: name, value, unit, description",
-                   R"(vxmat show "structural steel")", [this] { return showMaterial(m_name, form()); });
+    CLI::App* const command = addCommand(
+        "show", "Show a built-in material, or the materials of a file: name, value, unit, description",
+        R"(vxmat show "structural steel" --units mm-t-s)", [this] { return showMaterial(m_name, form(), units()); });
     command
         ->add_option("NAME|FILE", m_name,
                      "A library material, in upper or lower case, or a project or document; - is standard input")
         ->required();
+    addUnits(command);
     addForm(command);
 }
 
 void CommandLine::addNew()
 {
-    CLI::App* const command = addCommand("new", "Make a project file of built-in materials",
+    CLI::App* const command = addCommand("new", "Make a project file of built-in materials and empty ones",
                                          R"(vxmat new "Structural Steel=Frame" Air -o parts.vxmat)",
-                                         [this] { return newProject(m_names, m_output, existing()); });
-    command->add_option("NAME", m_names, "Library materials. The label is the name, or the given LABEL")->required();
+                                         [this] { return newProject(m_names, m_emptyNames, m_output, existing()); });
+    command->add_option("NAME", m_names, "Library materials. The label is the name, or the given LABEL");
+    command->add_option("--empty", m_emptyNames, "A material without quantities, with this label; may be repeated")
+        ->type_name("LABEL")
+        ->allow_extra_args(false);
     addOutput(command);
+}
+
+void CommandLine::addSet()
+{
+    CLI::App* const command =
+        addCommand("set", "Set a quantity of a material in a project file; adds the quantity if it is missing",
+                   R"(vxmat set parts.vxmat Frame "Young's modulus" "210 GPa")",
+                   [this] { return setQuantity(m_setting, existing()); });
+    command->add_option("PROJECT", m_setting.project, "The project file, which is changed in place")->required();
+    command->add_option("MATERIAL", m_setting.material, "The label of the material, or its number")->required();
+    command->add_option("QUANTITY", m_setting.quantity, "The name, key or id of a quantity")->required();
+    command
+        ->add_option("VALUE", m_setting.value,
+                     "A number with a unit, or in the unit of the catalogue; a list of numbers; a word; \"on\" for a "
+                     "switch")
+        ->required();
+    command->add_flag("--force", m_force, "Take over a lock that a program on another computer has left");
 }
 
 void CommandLine::addImport()
@@ -169,44 +224,52 @@ void CommandLine::addExport()
     CLI::App* const command =
         addCommand("export", "Write built-in materials and the materials of projects to a document for the solver",
                    R"(vxmat export "Structural Steel" "Air=20" -o materials.json)",
-                   [this] { return exportMaterials(m_names, m_output, existing()); });
+                   [this] { return exportMaterials(m_names, m_output, existing(), units()); });
     command
         ->add_option("NAME|PROJECT", m_names,
                      "Library materials, with the numbers 1, 2, ... or the given NUMBER, or project files, whose "
                      "materials keep their numbers")
         ->required();
+    addUnits(command);
     addOutput(command);
 }
 
 void CommandLine::addCards()
 {
-    CLI::App* const command =
-        addCommand("cards", "Print the solver cards of built-in materials, of projects and of material documents",
-                   R"(vxmat cards "Plastic Example 1" materials.json)", [this] { return printCards(m_names, form()); });
+    CLI::App* const command = addCommand(
+        "cards", "Print the solver cards of built-in materials, of projects and of material documents",
+        R"(vxmat cards "Plastic Example 1" materials.json)", [this] { return printCards(m_names, form(), units()); });
     command->add_option("NAME|FILE", m_names, "Library materials, projects or documents; - is standard input")
         ->required();
+    addUnits(command);
     addForm(command);
 }
 
 void CommandLine::addCheck()
 {
     CLI::App* const command =
-        addCommand("check", "Report the errors in an exchange document or a project, with their JSON paths",
-                   "vxmat check analysis.json --materials materials.json",
-                   [this] { return checkFile(m_file, m_materialsFile, form()); });
+        addCommand("check",
+                   "Report the errors in an exchange document or a project, with their JSON paths, and the values that "
+                   "no known material has",
+                   "vxmat check analysis.json --materials materials.json", [this] {
+                       const Strictness strictness = m_strict ? Strictness::Doubts : Strictness::Errors;
+                       return checkFile(m_file, m_materialsFile, strictness, form());
+                   });
     command->add_option("FILE", m_file, "An exchange document of either kind, or a project; - is standard input")
         ->required();
     addMaterialsFile(command);
+    command->add_flag("--strict", m_strict, "Exit with status 1 for doubts too");
     addForm(command);
 }
 
 void CommandLine::addDiff()
 {
-    CLI::App* const command =
-        addCommand("diff", "Compare the materials of two projects or material documents by label",
-                   "vxmat diff parts.vxmat materials.json", [this] { return diffFiles(m_file, m_otherFile, form()); });
+    CLI::App* const command = addCommand("diff", "Compare the materials of two projects or material documents by label",
+                                         "vxmat diff parts.vxmat materials.json",
+                                         [this] { return diffFiles(m_file, m_otherFile, form(), units()); });
     command->add_option("A", m_file, "A project or material document; - is standard input")->required();
     command->add_option("B", m_otherFile, "Another project or material document")->required();
+    addUnits(command);
     addForm(command);
 }
 
@@ -219,6 +282,28 @@ void CommandLine::addQuery()
     command->add_option("FILE", m_file, "An analysis document; - is standard input")->required();
     command->add_option("--project", m_project, "The number of the project, for the tags")->type_name("NUMBER");
     addMaterialsFile(command);
+    addForm(command);
+}
+
+void CommandLine::addConvert()
+{
+    CLI::App* const command =
+        addCommand("convert", "Convert a number with a unit to another unit", R"(vxmat convert "30e6 psi" Pa)", [this] {
+            using vxUnits::TemperatureMeaning;
+            const auto meaning = m_difference ? TemperatureMeaning::Difference : TemperatureMeaning::Absolute;
+            return convertText(m_name, m_unit, meaning, form());
+        });
+    command->add_option("NUMBER", m_name, "A number with a unit, in quotes")->required();
+    command->add_option("UNIT", m_unit, "The unit of the result")->required();
+    command->add_flag("--difference", m_difference, "The number is a difference of temperatures: 20 degC is 20 K");
+    addForm(command);
+}
+
+void CommandLine::addUnitListing()
+{
+    CLI::App* const command = addCommand("units", "List the unit systems, and the units of the quantities in them",
+                                         "vxmat units", [this] { return listUnits(m_units, form()); });
+    command->add_option("SYSTEM", m_units, "Another system: \"length cm, mass g, time us\"");
     addForm(command);
 }
 

@@ -2,6 +2,7 @@
 
 #include "Documents.h"
 #include "Files.h"
+#include "ShownUnits.h"
 
 #include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
@@ -218,11 +219,18 @@ std::vector<vxMat::HeldProperty> propertiesOfEither(const vxMat::MaterialBase& o
     return all;
 }
 
-/// Compares the materials and other objects of two files.
+/// A property and the material that has it.
+struct PropertyOf
+{
+    const vxMat::MaterialBase& material;
+    const MaterialProperty& property;
+};
+
+/// Compares the materials and other objects of two files. Compares the stored numbers, and shows them in the given units.
 class Comparison
 {
 public:
-    explicit Comparison(vxCAE::MaterialSource extent) : m_extent(extent) {}
+    Comparison(vxCAE::MaterialSource extent, const ShownUnits& units) : m_extent(extent), m_units(units) {}
 
     void compare(const Pair<FileMaterial>& pair);
     void compare(const Pair<ObjectRecord>& pair);
@@ -239,11 +247,17 @@ private:
     }
     void compareObjects(const ObjectRecord& one, const ObjectRecord& other);
     void compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
-    void compareProperty(const MaterialProperty& one, const MaterialProperty& other);
-    void compareWhatDocumentsLeaveBehind(const MaterialProperty& one, const MaterialProperty& other);
+    void compareProperty(const PropertyOf& one, const PropertyOf& other);
+    void compareWhatDocumentsLeaveBehind(const PropertyOf& left, const PropertyOf& right);
+    template <class Numbers>
+    void compareNumbers(const char* field, Numbers MaterialProperty::*numbers, const PropertyOf& one,
+                        const PropertyOf& other);
+    template <class Numbers>
+    Side shown(const Numbers& numbers, const vxMat::MaterialBase& material) const;
     bool isComplete() const { return m_extent == vxCAE::MaterialSource::Complete; }
 
     vxCAE::MaterialSource m_extent;
+    const ShownUnits& m_units;
     Difference m_place; ///< the material and property that are being compared
 };
 
@@ -303,23 +317,56 @@ void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::
         if (left == nullptr || right == nullptr)
             add("", sideOf(left != nullptr), sideOf(right != nullptr));
         else
-            compareProperty(*left, *right);
+            compareProperty({one, *left}, {other, *right});
     }
 }
 
-void Comparison::compareProperty(const MaterialProperty& one, const MaterialProperty& other)
+double convert(double number, const ShownUnits& units, std::int32_t slot, const vxMat::MaterialBase& material)
 {
-    compareField("name", one.name, other.name);
-    compareField("key", one.key, other.key);
-    compareField("value", one.value, other.value);
+    return units.convert(number, slot, material);
+}
+
+std::vector<double> convert(std::vector<double> numbers, const ShownUnits& units, std::int32_t slot,
+                            const vxMat::MaterialBase& material)
+{
+    for (double& number : numbers)
+        number = units.convert(number, slot, material);
+    return numbers;
+}
+
+template <class Numbers>
+Side Comparison::shown(const Numbers& numbers, const vxMat::MaterialBase& material) const
+{
+    Side side = sideOf(convert(numbers, m_units, *m_place.property, material));
+    const auto unit = m_units.unitOf(*m_place.property, material);
+    if (unit && unit->text() != "1")
+        side.text += " " + unit->text();
+    return side;
+}
+
+template <class Numbers>
+void Comparison::compareNumbers(const char* field, Numbers MaterialProperty::*numbers, const PropertyOf& one,
+                                const PropertyOf& other)
+{
+    if (!isSame(one.property.*numbers, other.property.*numbers))
+        add(field, shown(one.property.*numbers, one.material), shown(other.property.*numbers, other.material));
+}
+
+void Comparison::compareProperty(const PropertyOf& one, const PropertyOf& other)
+{
+    compareField("name", one.property.name, other.property.name);
+    compareField("key", one.property.key, other.property.key);
+    compareNumbers("value", &MaterialProperty::value, one, other);
     if (isComplete())
         compareWhatDocumentsLeaveBehind(one, other);
 }
 
-void Comparison::compareWhatDocumentsLeaveBehind(const MaterialProperty& one, const MaterialProperty& other)
+void Comparison::compareWhatDocumentsLeaveBehind(const PropertyOf& left, const PropertyOf& right)
 {
+    const MaterialProperty& one = left.property;
+    const MaterialProperty& other = right.property;
     compareField("word", one.text, other.text);
-    compareField("list", one.values, other.values);
+    compareNumbers("list", &MaterialProperty::values, left, right);
     compareField("unit", one.unit, other.unit);
     compareField("description", one.description, other.description);
     compareField("id", one.id, other.id);
@@ -351,7 +398,7 @@ Json::Value toJson(const Difference& difference)
 
 } // namespace
 
-Answer diffFiles(const std::string& one, const std::string& other, Form form)
+Answer diffFiles(const std::string& one, const std::string& other, Form form, const ShownUnits& units)
 {
     const MaterialFile left = readMaterials(one);
     const MaterialFile right = readMaterials(other);
@@ -365,7 +412,7 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form)
                                   "other objects are not compared");
 
     const bool complete = left.source == vxCAE::MaterialSource::Complete && right.source == left.source;
-    Comparison comparison(complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document);
+    Comparison comparison(complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document, units);
     for (const auto& pair : pairUp(left.materials, right.materials))
         comparison.compare(pair);
     if (complete) {
@@ -374,6 +421,10 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form)
     }
 
     Json::Value document;
+    if (units.areGiven()) {
+        document["units"] = units.name();
+        answer.messages.push_back("note: numbers are in " + units.name());
+    }
     document["a"] = one;
     document["b"] = other;
     document["differences"] = Json::arrayValue;

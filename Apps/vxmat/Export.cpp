@@ -4,6 +4,7 @@
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
+#include "ShownUnits.h"
 
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/ExportCheck.h"
@@ -111,15 +112,28 @@ void number(std::vector<Wanted>& all)
     }
 }
 
+/// Converts a material to the given units, notes the quantities that stay unchanged, and refuses a number that is out of
+/// range in the units.
+void convert(Wanted& wanted, const ShownUnits& units, const std::string& path, Answer& answer)
+{
+    const std::string note = units.apply(*wanted.entry->material);
+    if (!note.empty())
+        answer.messages.push_back("note: " + wanted.argument + ": " + note);
+    if (units.areGiven())
+        requireThatReadersTake(path, *wanted.entry->material);
+}
+
 } // namespace
 
-Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path, Existing existing)
+Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path, Existing existing,
+                       const ShownUnits& units)
 {
     Answer answer;
     std::vector<Wanted> all = collect(materials, path, answer);
     number(all);
     vxCAE::CAESet set(0, vxCAE::ProjectKind::Material);
     for (Wanted& wanted : all) {
+        convert(wanted, units, path, answer);
         noteWhatStaysBehind(*wanted.entry->material, answer);
         set.materials->addMaterial(*wanted.number, std::move(wanted.entry));
     }
@@ -132,6 +146,8 @@ Answer exportMaterials(const std::vector<std::string>& materials, const std::str
         writeProjectFile(path, text, existing);
     else
         writeFile(path, text);
+    if (units.areGiven())
+        answer.messages.push_back(units.note(path + " is"));
     return answer;
 }
 

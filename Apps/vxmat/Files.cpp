@@ -226,6 +226,19 @@ void writeProjectFile(const std::string& path, const std::string& text, Existing
     });
 }
 
+void changeProjectFile(const std::string& path, const std::function<std::string(const std::string&)>& change,
+                       Existing existing)
+{
+    const QString name = toQString(path);
+    if (path == standardStream || (QFileInfo::exists(name) && !QFileInfo(name).isFile()))
+        fail(path, QStringLiteral("this file is changed in place; the path of a regular file is needed"));
+    fromStore([&] {
+        projectfile::FileLock lock(name);
+        lockProject(path, lock, existing);
+        projectfile::writeFile(name, change(projectfile::readFile(name)));
+    });
+}
+
 void requireAnotherFile(const std::string& input, const std::string& output)
 {
     if (input == standardStream || output == standardStream)

@@ -4,6 +4,7 @@
 
 #include <json/value.h>
 
+#include <functional>
 #include <string>
 
 namespace commandline {
@@ -42,6 +43,12 @@ enum class Existing
 /// Writes a project file, or replaces one, like writeFile().
 /// \throws Failure also if the file exists and must be kept, or if another program has it open
 void writeProjectFile(const std::string& path, const std::string& text, Existing existing);
+
+/// Replaces a project file by the text that `change` returns for its text. Other programs cannot write the file meanwhile.
+/// \throws Failure as readFile() and writeProjectFile() do, or if the path is not the path of a regular file; passes on
+/// what `change` throws; the file is then unchanged
+void changeProjectFile(const std::string& path, const std::function<std::string(const std::string&)>& change,
+                       Existing existing);
 
 /// Checks that writing `output` does not replace the file `input`.
 /// \throws Failure if both are the same file

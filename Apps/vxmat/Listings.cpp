@@ -3,12 +3,14 @@
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
+#include "ShownUnits.h"
 #include "TextTable.h"
 
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/Quantity.h"
 
 #include <algorithm>
 #include <vector>
@@ -76,16 +78,17 @@ std::vector<const PropertyRecord*> recordsById()
     return records;
 }
 
-Json::Value toJson(const PropertyRecord& record)
+/// `property` has the default of the quantity.
+Json::Value toJson(const PropertyRecord& record, const MaterialProperty& property)
 {
     Json::Value json;
     json["id"] = record.id;
     json["name"] = record.name;
     json["key"] = record.key;
-    json["unit"] = record.unit;
+    json["unit"] = property.unit;
     json["category"] = vxMat::getPropertyCategoryName(static_cast<std::int32_t>(record.category));
     json["kind"] = kindName(record.kind);
-    json["default"] = valueJson(*record.create());
+    json["default"] = valueJson(property);
     json["words"] = Json::arrayValue;
     for (const std::string& word : vxMat::getAllowedWords(record.id))
         json["words"].append(word);
@@ -133,17 +136,38 @@ PropertyListing listProperties(const vxMat::MaterialBase& material, const std::s
     return listing;
 }
 
-Answer showLibraryMaterial(const vxMat::MaterialBase& material, vxMat::eMaterialType type, Form form)
+/// Converts a material to the given units, and notes the quantities that stay unchanged.
+void convert(vxMat::MaterialBase& material, const ShownUnits& units, const std::string& title, Answer& answer)
+{
+    const std::string note = units.apply(material);
+    if (!note.empty())
+        answer.messages.push_back("note: " + title + ": " + note);
+}
+
+/// Names the unit system in a document, if one is given.
+void addUnits(Json::Value& document, const ShownUnits& units)
+{
+    if (units.areGiven())
+        document["units"] = units.name();
+}
+
+Answer showLibraryMaterial(const vxMat::MaterialBase& original, vxMat::eMaterialType type, Form form,
+                           const ShownUnits& units)
 {
     Answer answer;
+    vxMat::MaterialBase material;
+    material.copyAllFrom(original);
+    convert(material, units, material.name, answer);
     const PropertyListing listing = listProperties(material, material.name, answer);
     Json::Value document;
+    addUnits(document, units);
     document["name"] = material.name;
     document["type"] = static_cast<std::int32_t>(type);
     document["group"] = material.libraryGroup;
     document["group_name"] = vxMat::getLibraryGroupName(material.libraryGroup);
     document["properties"] = listing.json;
-    answer.text = form == Form::Json ? toJsonText(document) : material.name + "\n\n" + listing.table.text();
+    answer.text =
+        form == Form::Json ? toJsonText(document) : material.name + units.suffix() + "\n\n" + listing.table.text();
     return answer;
 }
 
@@ -173,19 +197,21 @@ std::string listOthers(const std::vector<projectfile::ObjectRecord>& objects)
     return "Objects of other classes\n\n" + table.text();
 }
 
-Answer showFile(const std::string& path, Form form)
+Answer showFile(const std::string& path, Form form, const ShownUnits& units)
 {
     const MaterialFile file = readMaterials(path);
     Answer answer;
     answer.messages = file.doubts;
     Json::Value document;
+    addUnits(document, units);
     document["file"] = path;
     document["materials"] = Json::arrayValue;
     for (const FileMaterial& material : file.materials) {
         const std::string title = std::to_string(material.number) + " " + printable(material.label);
-        const PropertyListing listing =
-            listProperties(*material.entry->material, std::string(path).append(": ").append(title), answer);
-        answer.text += (answer.text.empty() ? "" : "\n") + title + "\n\n" + listing.table.text();
+        const std::string place = std::string(path).append(": ").append(title);
+        convert(*material.entry->material, units, place, answer);
+        const PropertyListing listing = listProperties(*material.entry->material, place, answer);
+        answer.text += (answer.text.empty() ? "" : "\n") + title + units.suffix() + "\n\n" + listing.table.text();
         Json::Value json;
         json["number"] = material.number;
         json["name"] = material.label;
@@ -203,50 +229,103 @@ Answer showFile(const std::string& path, Form form)
     return answer;
 }
 
+/// The quantities whose values the list of the library shows in a unit system.
+struct KeyQuantity
+{
+    std::int32_t id;
+    const char* title;
+    const char* member; ///< in JSON
+};
+constexpr KeyQuantity keyQuantities[] = {
+    {vxMat::PropertyId::Density, "Density", "density"},
+    {vxMat::PropertyId::YoungsModulus, "Young's modulus", "youngs_modulus"},
+};
+
+TextTable::Row libraryHeading(const ShownUnits& units)
+{
+    TextTable::Row heading{"Name", "Group", "Quantities"};
+    for (const KeyQuantity& quantity : keyQuantities) {
+        if (const auto unit = units.unitOf(quantity.id, vxMat::MaterialBase()))
+            heading.push_back(std::string(quantity.title) + " [" + unit->text() + "]" + units.suffix());
+    }
+    return heading;
+}
+
+/// Adds the values of the key quantities to a row of the list of the library, and to its JSON.
+void addKeyValues(const vxMat::MaterialBase& material, const ShownUnits& units, TextTable::Row& row, Json::Value& json)
+{
+    for (const KeyQuantity& quantity : keyQuantities) {
+        double number = 0.0;
+        if (!material.getPropertyValue(quantity.id, number)) {
+            row.emplace_back();
+            json[quantity.member] = Json::Value();
+            continue;
+        }
+        const double shown = units.convert(number, quantity.id, material);
+        row.push_back(vxMat::formatNumber(shown));
+        json[quantity.member] = toJsonNumber(shown);
+    }
+}
+
 } // namespace
 
-Answer listLibrary(Form form)
+Answer listLibrary(Form form, const ShownUnits& units)
 {
     const MaterialNames names;
-    TextTable table({"Name", "Group", "Quantities"});
+    TextTable table(libraryHeading(units));
     Json::Value list(Json::arrayValue);
     for (const vxMat::eMaterialType type : names.types()) {
         const vxMat::MaterialBase& material = names.get(type);
         const char* const group = vxMat::getLibraryGroupName(material.libraryGroup);
-        table.add({material.name, group, std::to_string(material.properties.size())});
+        TextTable::Row row{material.name, group, std::to_string(material.properties.size())};
         Json::Value json;
         json["type"] = static_cast<std::int32_t>(type);
         json["name"] = material.name;
         json["group"] = material.libraryGroup;
         json["group_name"] = group;
         json["quantities"] = static_cast<Json::UInt>(material.properties.size());
+        if (units.areGiven())
+            addKeyValues(material, units, row, json);
+        table.add(std::move(row));
         list.append(std::move(json));
     }
     Json::Value document;
+    addUnits(document, units);
     document["materials"] = std::move(list);
     return {form == Form::Json ? toJsonText(document) : table.text(), {}, Status::Clean};
 }
 
-Answer listCatalogue(Form form)
+Answer listCatalogue(Form form, const ShownUnits& units)
 {
-    TextTable table({"Id", "Name", "Key", "Unit", "Category", "Default", "Words", "Description"});
+    Answer answer;
+    vxMat::MaterialBase defaults;
+    for (const PropertyRecord& record : vxMat::propertyRecords())
+        defaults.setProperty(record.id, record.create());
+    units.apply(defaults);
+    TextTable table({"Id", "Name", "Key", "Unit" + units.suffix(), "Category", "Default", "Words", "Description"});
     Json::Value document;
+    addUnits(document, units);
     for (const PropertyRecord* const record : recordsById()) {
-        table.add({std::to_string(record->id), record->name, record->key, record->unit,
+        const MaterialProperty& property = *defaults.findProperty(record->id);
+        table.add({std::to_string(record->id), record->name, record->key, property.unit,
                    vxMat::getPropertyCategoryName(static_cast<std::int32_t>(record->category)),
-                   vxMat::formatValue(*record->create()), joinedWords(record->id), record->description});
-        document["quantities"].append(toJson(*record));
+                   vxMat::formatValue(property), joinedWords(record->id), record->description});
+        document["quantities"].append(toJson(*record, property));
     }
-    return {form == Form::Json ? toJsonText(document) : table.text(), {}, Status::Clean};
+    if (units.areGiven())
+        answer.messages.emplace_back("note: the unit of Creep Modulus A depends on Creep Modulus N and M; it is listed "
+                                     "for their defaults");
+    answer.text = form == Form::Json ? toJsonText(document) : table.text();
+    return answer;
 }
 
-Answer showMaterial(const std::string& name, Form form)
+Answer showMaterial(const std::string& name, Form form, const ShownUnits& units)
 {
     const MaterialNames names;
     if (const auto type = names.find(name))
-        return showLibraryMaterial(names.get(*type), *type, form);
+        return showLibraryMaterial(names.get(*type), *type, form, units);
     if (isFile(name))
-        return showFile(name, form);
+        return showFile(name, form, units);
     throw Failure(names.unknown(name));
 }
 

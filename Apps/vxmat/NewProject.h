@@ -8,11 +8,13 @@
 
 namespace commandline {
 
-/// `vxmat new NAME[=LABEL]... -o FILE [--force]`: writes a project file of library materials, which become the objects 1, 2, ...
-/// The default label is the name of the material. The project has the name of the file.
-/// \throws Failure for an unknown name, a label that is empty, not UTF-8 or repeated, an existing file that must be kept,
-/// a failed write
-Answer newProject(const std::vector<std::string>& materials, const std::string& path, Existing existing);
+/// `vxmat new [NAME[=LABEL]...] [--empty LABEL...] -o FILE [--force]`: writes a project file of library materials and then of
+/// materials without quantities, which become the objects 1, 2, ... The default label of a library material is its name. The
+/// project has the name of the file.
+/// \throws Failure for an unknown name, a label that is empty, not UTF-8 or repeated, no material at all, an existing file
+/// that must be kept, a failed write
+Answer newProject(const std::vector<std::string>& materials, const std::vector<std::string>& emptyMaterials,
+                  const std::string& path, Existing existing);
 
 /// `vxmat import DOC -o FILE [--force]`: writes a project file of the materials of a document. Restores data that the document
 /// does not carry from the catalogue. Doubts are written to standard error; the status is then Findings.

@@ -2,6 +2,7 @@
 #include "Diff.h"
 #include "Fuzzing.h"
 #include "Query.h"
+#include "ShownUnits.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -38,10 +39,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view second = separator < text.size() ? text.substr(separator + 1) : first;
     vxfuzz::writeFile(QString::fromStdString(analysis), first);
     vxfuzz::writeFile(QString::fromStdString(materials), second);
+    constexpr auto strictness = commandline::Strictness::Doubts;
     for (const auto form : {commandline::Form::Text, commandline::Form::Json})
-        attempt([form] { return commandline::checkFile(analysis, materials, form); });
-    attempt([] { return commandline::checkFile(materials, {}, commandline::Form::Text); });
+        attempt([form] { return commandline::checkFile(analysis, materials, strictness, form); });
+    attempt([] { return commandline::checkFile(materials, {}, strictness, commandline::Form::Text); });
     attempt([] { return commandline::queryFile(analysis, materials, 1, commandline::Form::Text); });
-    attempt([] { return commandline::diffFiles(analysis, materials, commandline::Form::Text); });
+    const commandline::ShownUnits units("mm-t-s");
+    attempt([&units] { return commandline::diffFiles(analysis, materials, commandline::Form::Text, units); });
     return 0;
 }

@@ -99,4 +99,35 @@ TEST(Check, ReadsTheMaterialsOfAnAnalysisFromAnotherDocument)
     EXPECT_EQ(vxmat({"check", analysis, "--materials", "/no/such/file"}).status, 2);
 }
 
+TEST(Check, PrintsDoubtsApartFromErrors)
+{
+    const std::string document = vxmat({"export", "Plastic Example 2=3", "Air", "-o", "-"}).out;
+    const Outcome run = vxmat({"check", "-"}, document);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out,
+                testing::StartsWith("-: doubt: 3 Plastic Example 2: Young's modulus = 206900 Pa with Density = "
+                                    "7850 kg/m^3 gives a wave speed of 5.13388 m/s;"));
+    EXPECT_THAT(run.out, testing::EndsWith(" 206900 MPa is usual for steel: multiply by 1e6.\n"));
+    EXPECT_EQ(vxmat({"check", "-", "--strict"}, document).status, 1);
+    EXPECT_EQ(vxmat({"check", "-", "--strict"}, vxmat({"export", "Air", "-o", "-"}).out).status, 0);
+    const std::string project = vxmat({"new", "Plastic Example 2", "-o", "-"}).out;
+    EXPECT_EQ(vxmat({"check", "-"}, project).status, 0);
+    EXPECT_EQ(vxmat({"check", "-", "--strict"}, project).status, 1);
+}
+
+TEST(Check, PrintsDoubtsAsJson)
+{
+    const Outcome run = vxmat({"check", "-", "--json"}, vxmat({"new", "Plastic Example 2=Tough", "-o", "-"}).out);
+    EXPECT_EQ(run.status, 0);
+    const Json::Value doubts = vxjson::readJsonText(run.out).document["doubts"];
+    ASSERT_EQ(doubts.size(), 1U);
+    EXPECT_EQ(doubts[0]["number"], 1);
+    EXPECT_EQ(doubts[0]["material"], "Tough");
+    EXPECT_EQ(doubts[0]["id"], 5);
+    EXPECT_EQ(doubts[0]["quantity"], "Young's modulus");
+    EXPECT_EQ(doubts[0]["value"], 206900.0);
+    EXPECT_EQ(doubts[0]["impossible"], false);
+    EXPECT_EQ(doubts[0]["remedy"], "206900 MPa is usual for steel: multiply by 1e6");
+}
+
 } // namespace

@@ -54,6 +54,22 @@ TEST(New, MakesAProjectOfLibraryMaterials)
     EXPECT_THAT(folder.names(), ElementsAre("My parts.vxmat")) << "no lock file is left";
 }
 
+TEST(New, MakesMaterialsWithoutQuantities)
+{
+    const Folder folder;
+    const std::string file = folder.path("p.vxmat");
+    const Outcome run = vxmat({"new", "--empty", "Mine", "Air", "--empty", "Air=2", "-o", file});
+    EXPECT_EQ(run.status, 0) << run.err;
+    const auto project = readProject(file);
+    EXPECT_THAT(labelsOf(project), ElementsAre("1 Air", "2 Mine", "3 Air=2"));
+    EXPECT_THAT(project.objects[1].material->properties, IsEmpty());
+    EXPECT_EQ(project.objects[1].material->name, "Mine");
+    EXPECT_THAT(vxmat({"new", "-o", folder.path("q.vxmat")}).err, HasSubstr("the project needs a material"));
+    EXPECT_THAT(vxmat({"new", "Air", "--empty", "Air", "-o", "-"}).err, HasSubstr("another material has the label"));
+    EXPECT_THAT(vxmat({"new", "--empty", "", "-o", "-"}).err, HasSubstr("the label must not be empty"));
+    EXPECT_THAT(folder.names(), ElementsAre("p.vxmat"));
+}
+
 TEST(New, KeepsEveryFieldOfTheLibrary)
 {
     for (const auto& entry : vxMat::libraryEntries()) {

@@ -1,0 +1,164 @@
+#include "SetQuantity.h"
+
+#include "projectfile/ProjectFile.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyRules.h"
+#include "vxUnits/Plausibility.h"
+#include "vxUnits/Reading.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace commandline {
+
+namespace {
+
+using projectfile::ObjectRecord;
+using projectfile::ProjectRecord;
+using vxMat::equalIgnoringAsciiCase;
+using vxMat::MaterialProperty;
+using vxMat::PropertyRecord;
+using vxMat::ValueKind;
+
+const PropertyRecord& findQuantity(const std::string& name)
+{
+    for (const PropertyRecord& record : vxMat::propertyRecords()) {
+        if (equalIgnoringAsciiCase(record.name, name) || equalIgnoringAsciiCase(record.key, name) ||
+            std::to_string(record.id) == name)
+            return record;
+    }
+    throw Failure("no quantity is called \"" + name + R"("; "vxmat catalogue" lists them)");
+}
+
+/// Finds a material by its label, otherwise by its number.
+ObjectRecord& findMaterial(const Setting& setting, ProjectRecord& project)
+{
+    std::vector<ObjectRecord*> found;
+    for (ObjectRecord& object : project.objects) {
+        if (object.material != nullptr && object.label == setting.material)
+            found.push_back(&object);
+    }
+    for (ObjectRecord& object : project.objects) {
+        if (found.empty() && object.material != nullptr && std::to_string(object.objectId) == setting.material)
+            found.push_back(&object);
+    }
+    if (found.size() == 1)
+        return *found.front();
+    throw Failure(setting.project + ": " +
+                  (found.empty() ? "no material has the label or number \"" + setting.material + "\""
+                                 : "several materials have the label \"" + setting.material + "\"; give the number"));
+}
+
+[[noreturn]] void refuse(const PropertyRecord& quantity, const std::string& reason)
+{
+    throw Failure(std::string(quantity.name) + ": " + reason);
+}
+
+void requireRule(const PropertyRecord& quantity, const char* fault)
+{
+    if (fault != nullptr)
+        refuse(quantity, std::string(vxMat::withoutRowNumber(fault)));
+}
+
+/// A property with the value that was read, and how it was read.
+struct ReadValue
+{
+    std::unique_ptr<MaterialProperty> property;
+    std::string understood;
+    vxUnits::Message note;
+};
+
+ReadValue readSwitch(const PropertyRecord& quantity, const std::string& value)
+{
+    if (!equalIgnoringAsciiCase(value, "on") && value != "1")
+        refuse(quantity, "\"" + value + R"(" is not a value of a switch; give "on")");
+    return {quantity.create(), "on", {}};
+}
+
+ReadValue readWord(const PropertyRecord& quantity, const std::string& value)
+{
+    requireRule(quantity, vxMat::checkWord(quantity.id, value));
+    ReadValue read{quantity.create(), value, {}};
+    for (const std::string& word : vxMat::getAllowedWords(quantity.id)) {
+        if (equalIgnoringAsciiCase(word, value))
+            read.understood = word;
+    }
+    read.property->text = read.understood;
+    return read;
+}
+
+ReadValue readList(const PropertyRecord& quantity, const std::string& value)
+{
+    const auto reading = vxUnits::readQuantityList(quantity.id, value);
+    if (!reading)
+        refuse(quantity, reading.failure().text());
+    ReadValue read{quantity.create(), reading->understood, reading->note};
+    read.property->values = reading->values;
+    return read;
+}
+
+ReadValue readNumber(const PropertyRecord& quantity, const std::string& value, const vxMat::MaterialBase& material)
+{
+    const vxUnits::ReadingContext context{nullptr, vxUnits::creepExponents(material)};
+    const auto reading = vxUnits::readQuantity(quantity.id, value, context);
+    if (!reading)
+        refuse(quantity, reading.failure().text());
+    requireRule(quantity, vxMat::checkNumber(quantity.id, reading->value));
+    ReadValue read{quantity.create(), reading->understood, reading->note};
+    read.property->value = reading->value;
+    return read;
+}
+
+ReadValue readValue(const PropertyRecord& quantity, const std::string& value, const vxMat::MaterialBase& material)
+{
+    switch (quantity.kind) {
+    case ValueKind::ModelSwitch:
+        return readSwitch(quantity, value);
+    case ValueKind::Word:
+        return readWord(quantity, value);
+    case ValueKind::NumberList:
+        return readList(quantity, value);
+    default:
+        return readNumber(quantity, value, material);
+    }
+}
+
+void addDoubts(const PropertyRecord& quantity, const vxMat::MaterialBase& material, Answer& answer)
+{
+    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
+        if (doubt.id == quantity.id)
+            answer.messages.push_back("doubt: " + doubt.text());
+    }
+}
+
+} // namespace
+
+Answer setQuantity(const Setting& setting, Existing existing)
+{
+    const PropertyRecord& quantity = findQuantity(setting.quantity);
+    Answer answer;
+    const auto change = [&](const std::string& text) {
+        ProjectRecord project = projectfile::readProject(text);
+        for (const std::string& doubt : project.doubts)
+            answer.messages.push_back(setting.project + ": " + doubt);
+        ObjectRecord& object = findMaterial(setting, project);
+        vxMat::MaterialBase& material = *object.ownMaterial;
+        ReadValue read = readValue(quantity, setting.value, material);
+        material.setProperty(quantity.id, std::move(read.property));
+        answer.text = printable(object.label) + ": " + quantity.name + ": " + printable(read.understood) + "\n";
+        if (*read.note.id != '\0')
+            answer.messages.push_back("note: " + read.note.text());
+        addDoubts(quantity, material, answer);
+        return projectfile::writeProject(project);
+    };
+    try {
+        changeProjectFile(setting.project, change, existing);
+    } catch (const projectfile::ContentError& error) {
+        throw Failure(setting.project + ": " + error.what());
+    }
+    return answer;
+}
+
+} // namespace commandline

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "vxMaterial/model/Material.h"
+#include "vxUnits/UnitSystem.h"
+
+#include <optional>
+#include <string>
+
+namespace commandline {
+
+/// The unit system of --units, in which a subcommand prints numbers. Without the option, numbers are in the units of the
+/// catalogue.
+class ShownUnits
+{
+public:
+    ShownUnits() = default;
+
+    /// \throws Failure if a given text is not a unit system
+    explicit ShownUnits(const std::optional<std::string>& text);
+
+    bool areGiven() const { return m_system.has_value(); }
+
+    /// Returns the name of the system, or the base units of a system of the user; empty if --units is not given.
+    std::string name() const;
+
+    /// Returns the name in parentheses after a blank, for titles; empty if --units is not given.
+    std::string suffix() const;
+
+    /// Returns the note that numbers, for which a format has no place for the unit system, are in this system. `subject`
+    /// is the subject of the sentence with its verb: "the cards are".
+    std::string note(const std::string& subject) const;
+
+    /// Returns the unit of a quantity of a material in this system. Absent if --units is not given, if the value of the
+    /// quantity is not a number, or if its unit is unknown.
+    std::optional<vxUnits::Unit> unitOf(std::int32_t slot, const vxMat::MaterialBase& material) const;
+
+    /// Returns a number of a quantity, which is in the unit of the catalogue, in this system. Returns the same number if
+    /// unitOf is absent.
+    double convert(double number, std::int32_t slot, const vxMat::MaterialBase& material) const;
+
+    /// Converts all numbers of a material, and replaces its unit texts. Returns a note about the quantities that stay
+    /// unchanged because their units are unknown; empty if there are none.
+    std::string apply(vxMat::MaterialBase& material) const;
+
+private:
+    std::optional<vxUnits::UnitSystem> m_system;
+};
+
+/// Returns a unit as tables show it: "-" for pure numbers.
+std::string textOf(const vxUnits::Unit& unit);
+
+} // namespace commandline

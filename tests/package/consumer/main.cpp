@@ -26,12 +26,23 @@
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "vxMaterial/model/PropertyRules.h"
+#include "vxUnits/DerivedValues.h"
+#include "vxUnits/Dimension.h"
+#include "vxUnits/MaterialValues.h"
+#include "vxUnits/Message.h"
+#include "vxUnits/Plausibility.h"
+#include "vxUnits/Quantity.h"
+#include "vxUnits/Reading.h"
+#include "vxUnits/Result.h"
+#include "vxUnits/Unit.h"
+#include "vxUnits/UnitSystem.h"
+#include "vxUnits/Writing.h"
 
 #include <iostream>
 #include <memory>
 
 /// Uses every installed header like a program outside the tree: takes a material of the library,
-/// makes a card, writes a document and reads its text.
+/// makes a card, writes a document and reads its text, and reads a number with a unit.
 int main()
 {
     auto entry = std::make_unique<vxCAE::MaterialEntry>();
@@ -44,5 +55,8 @@ int main()
     Json::Value document;
     set.writeJson(document);
     const auto reading = vxjson::readJsonText(vxjson::toStyledText(document), vxjson::JsonDialect::Strict);
-    std::cout << ' ' << reading.document["material"].size() << '\n';
+    std::cout << ' ' << reading.document["material"].size();
+
+    const auto modulus = vxUnits::readQuantity(vxMat::PropertyId::YoungsModulus, "210 GPa");
+    std::cout << ' ' << modulus->value << '\n';
 }

@@ -37,9 +37,9 @@ TEST(HostileTexts, OfAHundredThousandCharactersAreRefused)
           "µ", "\xFF", " 1", ".", "e",  "1e", "_",    "'",   "deg C ", "(m", "m)", "furlong ", "per "})
     {
         const std::string tail = repeated(part);
-        const std::string texts[] = {"5 " + tail, tail, "5 GPa" + tail};
-        for (int i = 0; i < vxtest::repetitions(3, 1); ++i) {
-            const std::string& text = texts[i];
+        std::vector<std::string> texts{"5 " + tail, tail, "5 GPa" + tail};
+        texts.resize(vxtest::repetitions<std::size_t>(3, 1));
+        for (const std::string& text : texts) {
             const auto reading = readQuantity(Id::YoungsModulus, text);
             EXPECT_FALSE(reading) << part;
             EXPECT_LT(reading.failure().message.text().size(), 300U) << part;

@@ -123,7 +123,7 @@ TEST_P(PlausibilityRatesOfSystems, NineInTenMaterialsAreRecognised)
     const std::string system = GetParam();
     Rate rate;
     const auto materials = makeMaterials(0);
-    constexpr auto step = static_cast<std::size_t>(repetitions(1, 10));
+    constexpr auto step = repetitions<std::size_t>(1, 10);
     for (std::size_t i = 0; i < materials.size(); i += step) {
         const SampleMaterial& material = materials[i];
         const auto doubts = checkPlausibility(inSystem(material.values, system));

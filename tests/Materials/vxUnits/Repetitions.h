@@ -4,7 +4,8 @@ namespace vxtest {
 
 /// Returns `usual`, or `sanitized` in a program with AddressSanitizer, which takes about twenty times as long: how often a
 /// test repeats something.
-constexpr int repetitions([[maybe_unused]] int usual, [[maybe_unused]] int sanitized)
+template <class Count>
+constexpr Count repetitions([[maybe_unused]] Count usual, [[maybe_unused]] Count sanitized)
 {
 #ifdef __SANITIZE_ADDRESS__
     return sanitized;

@@ -70,10 +70,10 @@ TEST(Writing, AnyNumberIsReadBackExactlyInAnyUnit)
         if (!std::isfinite(number) || std::abs(number) < 1e-290)
             continue;
         const std::string unit = units[random() % std::size(units)];
-        const std::string text = written(number, unit);
-        const auto back = vxUnits::readNumber(text + " " + unit, pascal);
-        ASSERT_TRUE(back) << text << ' ' << unit << ": " << back.failure().text();
-        ASSERT_EQ(back->value, number) << text << ' ' << unit;
+        const std::string text = written(number, unit).append(" ").append(unit);
+        const auto back = vxUnits::readNumber(text, pascal);
+        ASSERT_TRUE(back) << text << ": " << back.failure().text();
+        ASSERT_EQ(back->value, number) << text;
     }
 }
 

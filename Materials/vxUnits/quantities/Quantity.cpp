@@ -117,7 +117,7 @@ constexpr std::array<Quantity, quantityCount> table{{
     modelSwitch(Id::Creep, "on: creep strain rate = A stress^N time^M",
                 "Norton, The Creep of Steel at High Temperatures, 1929"),
     {Id::CreepModulusA, number, d::none, "Pa^-N s^-(M+1)", missing,
-     "factor of the creep law in its rate form; the unit follows from N and M",
+     "factor of the creep law in its rate form; the unit depends on N and M",
      "Boyle and Spence, Stress Analysis for Creep, 1983", unknown, unknown, unknown, noRange},
     {Id::CreepModulusN, number, d::none, "1", right, "exponent of the stress",
      "Boyle and Spence, Stress Analysis for Creep, 1983",

@@ -198,7 +198,7 @@ relaxation times, the conductivity of insulators, C01 with a larger C10.
 
 ## Unit systems
 
-Angles are in degrees in all of them. The unit of Creep Modulus A follows from its exponents: stress^-N time^-(M+1).
+Angles are in degrees in all of them. The unit of Creep Modulus A depends on its exponents: stress^-N time^-(M+1).
 
 )" + systems() +
            R"(

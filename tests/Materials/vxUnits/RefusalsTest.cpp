@@ -207,7 +207,7 @@ TEST(Refusals, NamesTheThingItsValueAndWhatToDo)
               "as S/m. Did you mean \"5e+07 S/m\"?");
     EXPECT_EQ(
         readQuantity(Id::CreepModulusA, "1 h").failure().message.text(),
-        "The unit of Creep Modulus A follows from Creep Modulus N and Creep Modulus M, which are not given; write the "
+        "The unit of Creep Modulus A depends on Creep Modulus N and Creep Modulus M, which are not given; write the "
         "number without a unit.");
 }
 

@@ -1,9 +1,9 @@
 #include "Cards.h"
 
+#include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
-#include "ShownUnits.h"
 
 #include "vxMaterial/exchange/CardSet.h"
 
@@ -100,7 +100,7 @@ Json::Value toJson(const CardMaterial& material, const vxCAE::CardSet& set)
 
 } // namespace
 
-Answer printCards(const std::vector<std::string>& sources, Form form, const ShownUnits& units)
+Answer printCards(const std::vector<std::string>& sources, Form form, const ChosenUnits& units)
 {
     Answer answer;
     Json::Value document;

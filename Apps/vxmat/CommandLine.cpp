@@ -4,6 +4,7 @@
 #include "Arguments.h"
 #include "Cards.h"
 #include "Check.h"
+#include "ChosenUnits.h"
 #include "Convert.h"
 #include "Diff.h"
 #include "Export.h"
@@ -12,7 +13,6 @@
 #include "NewProject.h"
 #include "Query.h"
 #include "SetQuantity.h"
-#include "ShownUnits.h"
 #include "UnitListing.h"
 
 #include <CLI/CLI.hpp>
@@ -64,7 +64,7 @@ private:
 
     Form form() const { return m_json ? Form::Json : Form::Text; }
     Existing existing() const { return m_force ? Existing::Replace : Existing::Keep; }
-    ShownUnits units() const { return ShownUnits(m_units); }
+    ChosenUnits units() const { return ChosenUnits(m_units); }
 
     CLI::App m_app{
         "Materials for finite-element simulation: the library, projects, exchange documents and solver cards.",
@@ -212,10 +212,12 @@ void CommandLine::addSet()
 
 void CommandLine::addImport()
 {
-    CLI::App* const command = addCommand(
-        "import", "Make a project file of a material document; the catalogue completes the materials",
-        "vxmat import materials.json -o parts.vxmat", [this] { return importDocument(m_file, m_output, existing()); });
+    CLI::App* const command =
+        addCommand("import", "Make a project file of a material document; the catalogue completes the materials",
+                   "vxmat import materials.json -o parts.vxmat",
+                   [this] { return importDocument(m_file, m_output, existing(), units()); });
     command->add_option("DOC", m_file, "A material document; - is standard input")->required();
+    addUnits(command);
     addOutput(command);
 }
 

@@ -1,8 +1,8 @@
 #include "Diff.h"
 
+#include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
-#include "ShownUnits.h"
 
 #include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
@@ -230,7 +230,7 @@ struct PropertyOf
 class Comparison
 {
 public:
-    Comparison(vxCAE::MaterialSource extent, const ShownUnits& units) : m_extent(extent), m_units(units) {}
+    Comparison(vxCAE::MaterialSource extent, const ChosenUnits& units) : m_extent(extent), m_units(units) {}
 
     void compare(const Pair<FileMaterial>& pair);
     void compare(const Pair<ObjectRecord>& pair);
@@ -257,7 +257,7 @@ private:
     bool isComplete() const { return m_extent == vxCAE::MaterialSource::Complete; }
 
     vxCAE::MaterialSource m_extent;
-    const ShownUnits& m_units;
+    const ChosenUnits& m_units;
     Difference m_place; ///< the material and property that are being compared
 };
 
@@ -321,12 +321,12 @@ void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::
     }
 }
 
-double convert(double number, const ShownUnits& units, std::int32_t slot, const vxMat::MaterialBase& material)
+double convert(double number, const ChosenUnits& units, std::int32_t slot, const vxMat::MaterialBase& material)
 {
     return units.convert(number, slot, material);
 }
 
-std::vector<double> convert(std::vector<double> numbers, const ShownUnits& units, std::int32_t slot,
+std::vector<double> convert(std::vector<double> numbers, const ChosenUnits& units, std::int32_t slot,
                             const vxMat::MaterialBase& material)
 {
     for (double& number : numbers)
@@ -398,7 +398,7 @@ Json::Value toJson(const Difference& difference)
 
 } // namespace
 
-Answer diffFiles(const std::string& one, const std::string& other, Form form, const ShownUnits& units)
+Answer diffFiles(const std::string& one, const std::string& other, Form form, const ChosenUnits& units)
 {
     const MaterialFile left = readMaterials(one);
     const MaterialFile right = readMaterials(other);

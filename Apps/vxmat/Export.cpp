@@ -1,10 +1,10 @@
 #include "Export.h"
 
 #include "Arguments.h"
+#include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
-#include "ShownUnits.h"
 
 #include "vxMaterial/exchange/CAESet.h"
 #include "vxMaterial/exchange/ExportCheck.h"
@@ -114,7 +114,7 @@ void number(std::vector<Wanted>& all)
 
 /// Converts a material to the given units, notes the quantities that stay unchanged, and refuses a number that is out of
 /// range in the units.
-void convert(Wanted& wanted, const ShownUnits& units, const std::string& path, Answer& answer)
+void convert(Wanted& wanted, const ChosenUnits& units, const std::string& path, Answer& answer)
 {
     const std::string note = units.apply(*wanted.entry->material);
     if (!note.empty())
@@ -126,7 +126,7 @@ void convert(Wanted& wanted, const ShownUnits& units, const std::string& path, A
 } // namespace
 
 Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path, Existing existing,
-                       const ShownUnits& units)
+                       const ChosenUnits& units)
 {
     Answer answer;
     std::vector<Wanted> all = collect(materials, path, answer);

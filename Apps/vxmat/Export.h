@@ -8,7 +8,7 @@
 
 namespace commandline {
 
-class ShownUnits;
+class ChosenUnits;
 
 /// `vxmat export NAME[=NUMBER]|PROJECT... -o FILE [--force]`: writes library materials and the materials of project files as a
 /// material document. The materials of a project keep the numbers of their objects, and their labels become their
@@ -17,6 +17,6 @@ class ShownUnits;
 /// \throws Failure for an unknown name, a file that is not a project, an invalid or repeated number, a value that
 /// documents cannot carry, an existing project file that must be kept, a failed write
 Answer exportMaterials(const std::vector<std::string>& materials, const std::string& path, Existing existing,
-                       const ShownUnits& units);
+                       const ChosenUnits& units);
 
 } // namespace commandline

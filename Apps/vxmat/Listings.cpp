@@ -1,9 +1,9 @@
 #include "Listings.h"
 
+#include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
-#include "ShownUnits.h"
 #include "TextTable.h"
 
 #include "vxMaterial/model/CataloguedMaterial.h"
@@ -137,7 +137,7 @@ PropertyListing listProperties(const vxMat::MaterialBase& material, const std::s
 }
 
 /// Converts a material to the given units, and notes the quantities that stay unchanged.
-void convert(vxMat::MaterialBase& material, const ShownUnits& units, const std::string& title, Answer& answer)
+void convert(vxMat::MaterialBase& material, const ChosenUnits& units, const std::string& title, Answer& answer)
 {
     const std::string note = units.apply(material);
     if (!note.empty())
@@ -145,14 +145,14 @@ void convert(vxMat::MaterialBase& material, const ShownUnits& units, const std::
 }
 
 /// Names the unit system in a document, if one is given.
-void addUnits(Json::Value& document, const ShownUnits& units)
+void addUnits(Json::Value& document, const ChosenUnits& units)
 {
     if (units.areGiven())
         document["units"] = units.name();
 }
 
 Answer showLibraryMaterial(const vxMat::MaterialBase& original, vxMat::eMaterialType type, Form form,
-                           const ShownUnits& units)
+                           const ChosenUnits& units)
 {
     Answer answer;
     vxMat::MaterialBase material;
@@ -197,7 +197,7 @@ std::string listOthers(const std::vector<projectfile::ObjectRecord>& objects)
     return "Objects of other classes\n\n" + table.text();
 }
 
-Answer showFile(const std::string& path, Form form, const ShownUnits& units)
+Answer showFile(const std::string& path, Form form, const ChosenUnits& units)
 {
     const MaterialFile file = readMaterials(path);
     Answer answer;
@@ -241,7 +241,7 @@ constexpr KeyQuantity keyQuantities[] = {
     {vxMat::PropertyId::YoungsModulus, "Young's modulus", "youngs_modulus"},
 };
 
-TextTable::Row libraryHeading(const ShownUnits& units)
+TextTable::Row libraryHeading(const ChosenUnits& units)
 {
     TextTable::Row heading{"Name", "Group", "Quantities"};
     for (const KeyQuantity& quantity : keyQuantities) {
@@ -252,7 +252,7 @@ TextTable::Row libraryHeading(const ShownUnits& units)
 }
 
 /// Adds the values of the key quantities to a row of the list of the library, and to its JSON.
-void addKeyValues(const vxMat::MaterialBase& material, const ShownUnits& units, TextTable::Row& row, Json::Value& json)
+void addKeyValues(const vxMat::MaterialBase& material, const ChosenUnits& units, TextTable::Row& row, Json::Value& json)
 {
     for (const KeyQuantity& quantity : keyQuantities) {
         double number = 0.0;
@@ -269,7 +269,7 @@ void addKeyValues(const vxMat::MaterialBase& material, const ShownUnits& units, 
 
 } // namespace
 
-Answer listLibrary(Form form, const ShownUnits& units)
+Answer listLibrary(Form form, const ChosenUnits& units)
 {
     const MaterialNames names;
     TextTable table(libraryHeading(units));
@@ -295,7 +295,7 @@ Answer listLibrary(Form form, const ShownUnits& units)
     return {form == Form::Json ? toJsonText(document) : table.text(), {}, Status::Clean};
 }
 
-Answer listCatalogue(Form form, const ShownUnits& units)
+Answer listCatalogue(Form form, const ChosenUnits& units)
 {
     Answer answer;
     vxMat::MaterialBase defaults;
@@ -319,7 +319,7 @@ Answer listCatalogue(Form form, const ShownUnits& units)
     return answer;
 }
 
-Answer showMaterial(const std::string& name, Form form, const ShownUnits& units)
+Answer showMaterial(const std::string& name, Form form, const ChosenUnits& units)
 {
     const MaterialNames names;
     if (const auto type = names.find(name))

@@ -1,12 +1,14 @@
 #include "NewProject.h"
 
 #include "Arguments.h"
+#include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
 
 #include "projectfile/ExchangeImport.h"
 #include "vxMaterial/json/Utf8.h"
+#include "vxUnits/Plausibility.h"
 
 #include <QFileInfo>
 
@@ -74,6 +76,37 @@ void write(const std::string& path, std::vector<projectfile::ImportedMaterial> m
         writeProjectFile(path, text, existing);
 }
 
+/// Returns the name of the unit system that all numbers of a material fit, if it is not the system of the catalogue; empty
+/// otherwise.
+std::string fittingSystem(const vxMat::MaterialBase& material)
+{
+    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
+        if (doubt.remedy && !doubt.remedy->system.empty())
+            return doubt.remedy->system;
+    }
+    return {};
+}
+
+/// Converts materials from the given units. Returns notes about numbers that stay unchanged, and about materials that seem
+/// to be in other units.
+std::vector<std::string> convert(std::vector<projectfile::ImportedMaterial>& materials, const ChosenUnits& units,
+                                 const std::string& document)
+{
+    std::vector<std::string> notes;
+    for (projectfile::ImportedMaterial& imported : materials) {
+        const std::string title =
+            "note: " + document + ": " + std::to_string(imported.objectId) + " " + imported.label + ": ";
+        if (const std::string note = units.revert(*imported.material); !note.empty())
+            notes.push_back(title + note);
+        if (const std::string system = fittingSystem(*imported.material); !system.empty())
+            notes.push_back(std::string(title)
+                                .append("the values look like ")
+                                .append(system)
+                                .append("; --units gives the unit system of the document"));
+    }
+    return notes;
+}
+
 } // namespace
 
 Answer newProject(const std::vector<std::string>& materials, const std::vector<std::string>& emptyMaterials,
@@ -98,22 +131,25 @@ Answer newProject(const std::vector<std::string>& materials, const std::vector<s
     return answer;
 }
 
-Answer importDocument(const std::string& document, const std::string& path, Existing existing)
+Answer importDocument(const std::string& document, const std::string& path, Existing existing, const ChosenUnits& units)
 {
     const Input input = readInput(document);
     if (input.project)
         throw Failure(document + ": it is a project file, which needs no import");
     requireAnotherFile(document, path);
     Answer answer;
+    std::vector<std::string> notes;
     try {
         projectfile::ImportedMaterials imported = projectfile::importExchange(input.text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
+        notes = convert(imported.materials, units, document);
         write(path, std::move(imported.materials), existing, answer);
     } catch (const projectfile::ContentError& error) {
         throw Failure(document + ": " + error.what());
     }
     answer.status = answer.messages.empty() ? Status::Clean : Status::Findings;
+    answer.add(notes);
     return answer;
 }
 

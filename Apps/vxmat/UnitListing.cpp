@@ -1,7 +1,7 @@
 #include "UnitListing.h"
 
+#include "ChosenUnits.h"
 #include "Files.h"
-#include "ShownUnits.h"
 #include "TextTable.h"
 
 #include "vxMaterial/model/PropertyCatalogue.h"

@@ -1,8 +1,8 @@
 #include "Check.h"
+#include "ChosenUnits.h"
 #include "Diff.h"
 #include "Fuzzing.h"
 #include "Query.h"
-#include "ShownUnits.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         attempt([form] { return commandline::checkFile(analysis, materials, strictness, form); });
     attempt([] { return commandline::checkFile(materials, {}, strictness, commandline::Form::Text); });
     attempt([] { return commandline::queryFile(analysis, materials, 1, commandline::Form::Text); });
-    const commandline::ShownUnits units("mm-t-s");
+    const commandline::ChosenUnits units("mm-t-s");
     attempt([&units] { return commandline::diffFiles(analysis, materials, commandline::Form::Text, units); });
     return 0;
 }

@@ -1,4 +1,4 @@
-#include "ShownUnits.h"
+#include "ChosenUnits.h"
 
 #include "Answer.h"
 
@@ -28,30 +28,41 @@ bool hasUnknownUnit(std::int32_t slot, const vxMat::MaterialBase& material)
             !vxUnits::unitOfQuantity(slot, vxUnits::UnitSystem::si(), vxUnits::creepExponents(material)));
 }
 
+/// Returns a note about the quantities that no conversion changes; empty if there are none.
+std::string noteUnchanged(const vxMat::MaterialBase& material)
+{
+    std::string unchanged;
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
+        if (hasUnknownUnit(slot, material))
+            unchanged += (unchanged.empty() ? "\"" : ", \"") + property->name + "\"";
+    }
+    return unchanged.empty() ? unchanged : "unchanged, because the unit is not known: " + unchanged;
+}
+
 } // namespace
 
-ShownUnits::ShownUnits(const std::optional<std::string>& text)
+ChosenUnits::ChosenUnits(const std::optional<std::string>& text)
 {
     if (text)
         m_system = readSystem(*text);
 }
 
-std::string ShownUnits::name() const
+std::string ChosenUnits::name() const
 {
     return m_system ? m_system->text() : std::string();
 }
 
-std::string ShownUnits::suffix() const
+std::string ChosenUnits::suffix() const
 {
     return m_system ? " (" + m_system->text() + ")" : std::string();
 }
 
-std::string ShownUnits::note(const std::string& subject) const
+std::string ChosenUnits::note(const std::string& subject) const
 {
     return "note: " + subject + " in " + name() + "; the format has no place for the unit system";
 }
 
-std::optional<vxUnits::Unit> ShownUnits::unitOf(std::int32_t slot, const vxMat::MaterialBase& material) const
+std::optional<vxUnits::Unit> ChosenUnits::unitOf(std::int32_t slot, const vxMat::MaterialBase& material) const
 {
     if (!m_system)
         return std::nullopt;
@@ -59,7 +70,7 @@ std::optional<vxUnits::Unit> ShownUnits::unitOf(std::int32_t slot, const vxMat::
     return unit ? std::optional<vxUnits::Unit>(*std::move(unit)) : std::nullopt;
 }
 
-double ShownUnits::convert(double number, std::int32_t slot, const vxMat::MaterialBase& material) const
+double ChosenUnits::convert(double number, std::int32_t slot, const vxMat::MaterialBase& material) const
 {
     const auto shown = unitOf(slot, material);
     if (!shown)
@@ -68,19 +79,24 @@ double ShownUnits::convert(double number, std::int32_t slot, const vxMat::Materi
     return vxUnits::convertNumber(number, *stored, *shown);
 }
 
-std::string ShownUnits::apply(vxMat::MaterialBase& material) const
+std::string ChosenUnits::apply(vxMat::MaterialBase& material) const
 {
     if (!m_system)
         return {};
     vxUnits::convertMaterial(material, vxUnits::UnitSystem::si(), *m_system);
-    std::string unchanged;
-    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
+    for (const auto& [slot, property] : material.properties) {
         if (const auto unit = unitOf(slot, material))
-            material.properties.at(slot)->unit = textOf(*unit);
-        else if (hasUnknownUnit(slot, material))
-            unchanged += (unchanged.empty() ? "\"" : ", \"") + property->name + "\"";
+            property->unit = textOf(*unit);
     }
-    return unchanged.empty() ? unchanged : "unchanged, because the unit is not known: " + unchanged;
+    return noteUnchanged(material);
+}
+
+std::string ChosenUnits::revert(vxMat::MaterialBase& material) const
+{
+    if (!m_system)
+        return {};
+    vxUnits::convertMaterial(material, *m_system, vxUnits::UnitSystem::si());
+    return noteUnchanged(material);
 }
 
 std::string textOf(const vxUnits::Unit& unit)

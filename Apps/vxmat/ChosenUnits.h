@@ -8,15 +8,15 @@
 
 namespace commandline {
 
-/// The unit system of --units, in which a subcommand prints numbers. Without the option, numbers are in the units of the
-/// catalogue.
-class ShownUnits
+/// The unit system of --units, in which a subcommand prints or reads numbers. Without the option, numbers are in the units of
+/// the catalogue.
+class ChosenUnits
 {
 public:
-    ShownUnits() = default;
+    ChosenUnits() = default;
 
     /// \throws Failure if a given text is not a unit system
-    explicit ShownUnits(const std::optional<std::string>& text);
+    explicit ChosenUnits(const std::optional<std::string>& text);
 
     bool areGiven() const { return m_system.has_value(); }
 
@@ -38,9 +38,12 @@ public:
     /// unitOf is absent.
     double convert(double number, std::int32_t slot, const vxMat::MaterialBase& material) const;
 
-    /// Converts all numbers of a material, and replaces its unit texts. Returns a note about the quantities that stay
-    /// unchanged because their units are unknown; empty if there are none.
+    /// Converts all numbers of a material from the units of the catalogue to this system, and replaces its unit texts.
+    /// Returns a note about the quantities that stay unchanged because their units are unknown; empty if there are none.
     std::string apply(vxMat::MaterialBase& material) const;
+
+    /// Converts all numbers of a material from this system to the units of the catalogue. Returns a note as apply() does.
+    std::string revert(vxMat::MaterialBase& material) const;
 
 private:
     std::optional<vxUnits::UnitSystem> m_system;

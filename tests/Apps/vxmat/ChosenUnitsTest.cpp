@@ -28,7 +28,7 @@ Json::Value propertyOf(const Json::Value& material, const std::string& name)
     return {};
 }
 
-TEST(ShownUnits, OfAMaterialAreThoseOfTheSystem)
+TEST(ChosenUnits, OfAMaterialAreThoseOfTheSystem)
 {
     const Outcome run = vxmat({"show", "structural steel", "--units", "MM-T-S"});
     EXPECT_EQ(run.status, 0);
@@ -48,7 +48,7 @@ TEST(ShownUnits, OfAMaterialAreThoseOfTheSystem)
     EXPECT_EQ(propertyOf(json, "Plastic strain")["unit"], "-");
 }
 
-TEST(ShownUnits, OfTheCreepFactorFollowFromTheExponents)
+TEST(ChosenUnits, OfTheCreepFactorFollowFromTheExponents)
 {
     const Json::Value creep = vxmatJson({"show", "creep example", "--units", "mm-t-s", "--json"});
     const Json::Value factor = propertyOf(creep, "Creep Modulus A"); // N = 5, M = 0
@@ -56,7 +56,7 @@ TEST(ShownUnits, OfTheCreepFactorFollowFromTheExponents)
     EXPECT_EQ(factor["unit"], "1/(MPa^5 s)");
 }
 
-TEST(ShownUnits, OfThePropertyOfAnotherQuantityAreThoseOfItsSlot)
+TEST(ChosenUnits, OfThePropertyOfAnotherQuantityAreThoseOfItsSlot)
 {
     const Outcome run = vxmat({"show", "acoustic material 2", "--units", "mm-t-s", "--json"}); // has a note
     const Json::Value material = vxjson::readJsonText(run.out).document;
@@ -70,7 +70,7 @@ TEST(ShownUnits, OfThePropertyOfAnotherQuantityAreThoseOfItsSlot)
     EXPECT_EQ(speeds, 1);
 }
 
-TEST(ShownUnits, OfUnknownQuantitiesStayUnchangedWithANote)
+TEST(ChosenUnits, OfUnknownQuantitiesStayUnchangedWithANote)
 {
     const Outcome run = vxmat({"show", "-", "--units", "mm-t-s"},
                               R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "m", "Props":
@@ -82,7 +82,7 @@ TEST(ShownUnits, OfUnknownQuantitiesStayUnchangedWithANote)
     EXPECT_THAT(run.out, AllOf(ContainsRegex("\nThermal Expansion +0.5 "), ContainsRegex("\nCreep Modulus A +2 ")));
 }
 
-TEST(ShownUnits, OfTheCatalogueAreThoseOfTheSystem)
+TEST(ChosenUnits, OfTheCatalogueAreThoseOfTheSystem)
 {
     const Outcome run = vxmat({"catalogue", "--units", "cm-g-s"});
     EXPECT_EQ(run.status, 0);
@@ -94,7 +94,7 @@ TEST(ShownUnits, OfTheCatalogueAreThoseOfTheSystem)
               "defaults\n");
 }
 
-TEST(ShownUnits, OfTheLibraryShowDensityAndModulus)
+TEST(ChosenUnits, OfTheLibraryShowDensityAndModulus)
 {
     const Outcome run = vxmat({"library", "--units", "mm-t-s"});
     EXPECT_EQ(run.status, 0);
@@ -107,7 +107,7 @@ TEST(ShownUnits, OfTheLibraryShowDensityAndModulus)
     EXPECT_TRUE(json["materials"][1]["youngs_modulus"].isNull());
 }
 
-TEST(ShownUnits, OfCardsAreNamedInANote)
+TEST(ChosenUnits, OfCardsAreNamedInANote)
 {
     const Outcome run = vxmat({"cards", "structural steel", "--units", "mm-t-s"});
     EXPECT_EQ(run.status, 0);
@@ -115,7 +115,7 @@ TEST(ShownUnits, OfCardsAreNamedInANote)
     EXPECT_THAT(run.out, AllOf(HasSubstr(" 200000.000000, 0.300000\n"), HasSubstr(" 7.85e-09, 0\n")));
 }
 
-TEST(ShownUnits, OfADocumentAreNamedInANote)
+TEST(ChosenUnits, OfADocumentAreNamedInANote)
 {
     const Folder folder;
     const std::string file = folder.path("m.json");
@@ -128,7 +128,7 @@ TEST(ShownUnits, OfADocumentAreNamedInANote)
     EXPECT_EQ(propertyOf(material, "Poisson's ratio")["value"], 0.3);
 }
 
-TEST(ShownUnits, OfANumberThatTheyPutOutOfRangeAreRefused)
+TEST(ChosenUnits, OfANumberThatTheyPutOutOfRangeAreRefused)
 {
     const Folder folder;
     const std::string project = folder.path("p.vxmat");
@@ -139,7 +139,7 @@ TEST(ShownUnits, OfANumberThatTheyPutOutOfRangeAreRefused)
     EXPECT_THAT(run.err, HasSubstr("exchange documents carry only finite numbers"));
 }
 
-TEST(ShownUnits, OfDifferencesFollowTheNumbers)
+TEST(ChosenUnits, OfDifferencesFollowTheNumbers)
 {
     const Folder folder;
     const std::string one = folder.path("one.vxmat");
@@ -154,7 +154,33 @@ TEST(ShownUnits, OfDifferencesFollowTheNumbers)
     EXPECT_EQ(vxmat({"diff", one, one, "--units", "mm-t-s"}).status, 0);
 }
 
-TEST(ShownUnits, AreRefusedIfTheyAreNoSystem)
+TEST(ChosenUnits, OfAnImportedDocumentAreConvertedToThoseOfTheCatalogue)
+{
+    const Folder folder;
+    const std::string document = folder.path("m.json");
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"export", "Structural Steel=3", "--units", "mm-t-s", "-o", document}).status, 0);
+    const Outcome run = vxmat({"import", document, "--units", "mm-t-s", "-o", project});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    const std::string same = folder.path("same.vxmat");
+    ASSERT_EQ(vxmat({"import", "-", "-o", same}, vxmat({"export", "Structural Steel=3", "-o", "-"}).out).status, 0);
+    EXPECT_EQ(vxmat({"diff", project, same}).out, "");
+}
+
+TEST(ChosenUnits, OfAnImportedDocumentAreNamedIfTheValuesLookLikeOthers)
+{
+    const Folder folder;
+    const std::string document = folder.path("m.json");
+    ASSERT_EQ(vxmat({"export", "Structural Steel=3", "--units", "mm-t-s", "-o", document}).status, 0);
+    const Outcome run = vxmat({"import", document, "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "vxmat: note: " + document +
+                           ": 3 Structural Steel: the values look like mm-t-s; --units gives the unit system of the "
+                           "document\n");
+}
+
+TEST(ChosenUnits, AreRefusedIfTheyAreNoSystem)
 {
     const Outcome run = vxmat({"show", "Air", "--units", "mm"});
     EXPECT_EQ(run.status, 2);

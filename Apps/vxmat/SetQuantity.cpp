@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace commandline {
 
@@ -22,6 +23,23 @@ using vxMat::MaterialProperty;
 using vxMat::PropertyRecord;
 using vxMat::ValueKind;
 
+/// Returns a question for the quantities whose names contain a text; empty if there are none, or too many.
+std::string suggest(const std::string& text)
+{
+    constexpr std::size_t mostSuggestions = 3;
+    std::vector<std::string> names;
+    for (const PropertyRecord& record : vxMat::propertyRecords()) {
+        if (vxMat::toUpperAscii(record.name).find(vxMat::toUpperAscii(text)) != std::string::npos)
+            names.emplace_back(record.name);
+    }
+    if (names.empty() || names.size() > mostSuggestions)
+        return {};
+    std::string question = "did you mean ";
+    for (std::size_t i = 0; i < names.size(); ++i)
+        question.append(i == 0 ? "\"" : i + 1 < names.size() ? ", \"" : " or \"").append(names[i]).append("\"");
+    return question + "?";
+}
+
 const PropertyRecord& findQuantity(const std::string& name)
 {
     for (const PropertyRecord& record : vxMat::propertyRecords()) {
@@ -29,7 +47,9 @@ const PropertyRecord& findQuantity(const std::string& name)
             std::to_string(record.id) == name)
             return record;
     }
-    throw Failure("no quantity is called \"" + name + R"("; "vxmat catalogue" lists them)");
+    const std::string question = suggest(name);
+    throw Failure("no quantity is called \"" + name +
+                  (question.empty() ? R"("; "vxmat catalogue" lists them)" : "\"; " + question));
 }
 
 /// Finds a material by its label, otherwise by its number.

@@ -64,7 +64,9 @@ std::string unitOf(const Quantity& quantity, const UnitSystem& system)
 {
     if (const auto unit = vxUnits::unitOfQuantity(quantity.id, system))
         return textOf(*unit);
-    return system.unitOf(vxUnits::dimensions::pressure).text() + "^-N " + system.baseUnit(Dimension::Time) + "^-(M+1)";
+    const std::string stress = system.unitOf(vxUnits::dimensions::pressure).text();
+    const bool isProduct = stress.find_first_of("/ ^") != std::string::npos;
+    return (isProduct ? "(" + stress + ")" : stress) + "^-N " + system.baseUnit(Dimension::Time) + "^-(M+1)";
 }
 
 std::string listQuantities(const std::vector<UnitSystem>& systems)

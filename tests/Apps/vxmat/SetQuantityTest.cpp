@@ -107,7 +107,9 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
         {"Frame", "Hardening type", "soft", "vxmat: Hardening type: Hardening type must be Bilinear"},
         {"Frame", "Plasticity", "off", "vxmat: Plasticity: \"off\" is not a value of a switch; give \"on\""},
         {"Frame", "Plastic strain", "0, 0,05", "vxmat: Plastic strain: "},
-        {"Frame", "Elasticity", "1", "vxmat: no quantity is called \"Elasticity\"; \"vxmat catalogue\" lists them"},
+        {"Frame", "Elasticity", "1",
+         "vxmat: no quantity is called \"Elasticity\"; did you mean \"Isotropic elasticity\" or \"Visco-elasticity\"?"},
+        {"Frame", "weight", "1", "vxmat: no quantity is called \"weight\"; \"vxmat catalogue\" lists them"},
         {"frame", "E", "1 GPa", "no material has the label or number \"frame\""},
     };
     for (const auto& [material, quantity, value, reason] : cases) {

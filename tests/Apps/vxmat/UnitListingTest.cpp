@@ -22,6 +22,7 @@ TEST(Units, ListsSystemsAndQuantities)
                 ContainsRegex("Density +rho +kg/m\\^3 +t/mm\\^3 +kg/mm\\^3 +g/cm\\^3 +slug/ft\\^3 +lbf s\\^2"));
     EXPECT_THAT(run.out, ContainsRegex("Limiting Network Stretch +HyperLNS +- +-"));
     EXPECT_THAT(run.out, ContainsRegex("Creep Modulus A +CreepA +Pa\\^-N s\\^-\\(M\\+1\\) +MPa\\^-N"));
+    EXPECT_THAT(run.out, HasSubstr("(dyn/cm^2)^-N s^-(M+1)"));
     EXPECT_THAT(run.out, testing::Not(HasSubstr("Yield type"))) << "a word has no unit";
 }
 

@@ -70,4 +70,9 @@ bool isProject(const vxjson::JsonNode& document)
     return document["format"].text() == detail::projectFormat;
 }
 
+bool isProjectText(std::string_view text)
+{
+    return isProject(vxjson::JsonTree::read(text, vxjson::JsonDialect::WithComments).root());
+}
+
 } // namespace projectfile

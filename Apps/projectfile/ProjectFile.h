@@ -92,5 +92,8 @@ PROJECTFILE_EXPORT ProjectRecord readProject(std::string_view text);
 
 /// Returns whether the member "format" of a JSON document has the value of project files. Other errors do not matter.
 PROJECTFILE_EXPORT bool isProject(const vxjson::JsonNode& document);
+/// The same for the text of a file.
+/// \throws std::exception if the text is not JSON
+PROJECTFILE_EXPORT bool isProjectText(std::string_view text);
 
 } // namespace projectfile

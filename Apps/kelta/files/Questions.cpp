@@ -22,7 +22,8 @@ int Questions::ask(const Question& question, const Choices& choices) const
     buttons.reserve(choices.size());
     for (const auto& [label, role] : choices)
         buttons.push_back(box.addButton(label, role));
-    box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+    box.setDefaultButton(
+        static_cast<QPushButton*>(question.preferred == Choice::First ? buttons.front() : buttons.back()));
     box.setEscapeButton(buttons.back());
     box.exec();
     const auto chosen = std::find(buttons.begin(), buttons.end(), box.clickedButton());
@@ -49,7 +50,7 @@ bool Questions::mayUse(projectfile::FileLock& lock, const QString& path) const
         static_cast<void>(lock.takeOver());
         return true;
     }
-    const Question question{QMessageBox::Warning, tr("File in use"), inUse, danger};
+    const Question question{QMessageBox::Warning, tr("File in use"), inUse, danger, Choice::Last};
     return ask(question, {{tr("&Use anyway"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 
@@ -57,7 +58,8 @@ bool Questions::mayTakeOver(const QString& inUse, const QString& danger) const
 {
     const Question question{QMessageBox::Warning, tr("File in use"), inUse,
                             tr("If this program no longer runs, take over its lock. If it runs:") + QLatin1Char(' ') +
-                                danger};
+                                danger,
+                            Choice::Last};
     return ask(question, {{tr("&Take over"), QMessageBox::AcceptRole}, {tr("Cancel"), QMessageBox::RejectRole}}) == 0;
 }
 

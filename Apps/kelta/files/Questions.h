@@ -80,12 +80,19 @@ private:
     bool mayTakeOver(const QString& inUse, const QString& danger) const;
 
     using Choices = std::vector<std::pair<QString, QMessageBox::ButtonRole>>;
+    /// The choice that the Return key takes.
+    enum class Choice
+    {
+        First,
+        Last,
+    };
     struct Question
     {
         QMessageBox::Icon icon;
         QString title;
         QString text;
         QString details;
+        Choice preferred = Choice::First;
     };
     /// Returns the index of the choice; the index of the last choice if the user closes the box.
     int ask(const Question& question, const Choices& choices) const;

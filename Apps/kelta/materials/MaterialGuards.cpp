@@ -10,6 +10,7 @@
 #include "kelta/FileService.h"
 #include "kelta/OpeningGuard.h"
 #include "kelta/UnappliedEdits.h"
+#include "projectfile/ProjectFile.h"
 #include "projectfile/ProjectStore.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -21,6 +22,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <exception>
 
 namespace desktop {
 
@@ -146,9 +148,23 @@ QString findUse(const QString& path)
                : tr("\"%1\" is in use by %2.").arg(QDir::toNativeSeparators(path), lock.holder());
 }
 
+/// Returns a sentence if an existing file is a project file; an empty text otherwise.
+QString findProject(const QString& path)
+{
+    try {
+        if (QFileInfo::exists(path) && projectfile::isProjectText(projectfile::readFile(path)))
+            return tr("\"%1\" is a project file.").arg(QDir::toNativeSeparators(path));
+    } catch (const std::exception&) {
+        // Not readable, and therefore not a project; the export reports whether the file can be written.
+    }
+    return {};
+}
+
 bool mayReplace(const QString& path)
 {
-    const QString use = findUse(path);
+    QString use = findUse(path);
+    if (use.isEmpty())
+        use = findProject(path);
     return use.isEmpty() || consent(tr("Export materials"),
                                     use + QLatin1Char(' ') + tr("Replace it by an exchange document?"), tr("&Replace"));
 }

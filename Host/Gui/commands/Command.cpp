@@ -35,7 +35,8 @@ QAction* CommandBase::new_action(QObject* parent)
     m_action = new QAction(parent);
     if (*get_pixmap() != '\0')
         m_action->setIcon(PictureFactory::getIcon(QString::fromUtf8(get_pixmap())));
-    m_action->setShortcut(get_shortcut());
+    m_action->setShortcuts(secondShortcut.isEmpty() ? QList<QKeySequence>{get_shortcut()}
+                                                    : QList<QKeySequence>{get_shortcut(), secondShortcut});
     on_language_changed();
     return m_action;
 }

@@ -74,6 +74,7 @@ protected:
     const char* module = "";
     const char* group = "Standard";
     QKeySequence shortcut;
+    QKeySequence secondShortcut; ///< runs the command too; menus show the first one
     int typeFlags = CommandType::none;
     /// Returns whether the entry of the command has a check mark now. An entry without this function never has one.
     std::function<bool()> isChecked;

@@ -27,6 +27,7 @@ public:
         whatsThis = row.toolTip;
         pixmap = row.pixmap;
         shortcut = row.shortcut;
+        secondShortcut = row.secondShortcut;
         typeFlags = row.typeFlags;
         isChecked = std::move(row.isChecked);
         subject = std::move(row.subject);

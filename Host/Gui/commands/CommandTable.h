@@ -29,6 +29,7 @@ struct CommandRow
     std::function<bool()> isChecked = {};      ///< whether its entry has a check mark now; never if empty
     std::function<void(QMenu&)> fillMenu = {}; ///< makes the entries of a menu that opens beside the command's entry
     std::function<QString()> subject = {};     ///< what the command acts on now, shown after its texts; none if empty
+    QKeySequence secondShortcut = {};          ///< runs the command too; menus show the first one
 };
 
 /// Makes a command from each row and adds it to the controller. `context` is the translation context of the texts, and

@@ -84,6 +84,10 @@ void addHistoryCommands(CommandController& commands, QUndoStack& history, TreeSe
                        [&history, &selection] { redo(history, selection); },
                        [&history] { return stackToRedo(history).canRedo(); }};
     redoRow.subject = [&history] { return stackToRedo(history).redoText(); };
+    // The standard key of redoing depends on the desktop; users know both keys.
+    const QKeySequence ctrlY(Qt::CTRL + Qt::Key_Y);
+    redoRow.secondShortcut =
+        QKeySequence(QKeySequence::Redo) == ctrlY ? QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z) : ctrlY;
     addCommands(commands, context, {std::move(undoRow), std::move(redoRow)});
 }
 

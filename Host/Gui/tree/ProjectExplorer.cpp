@@ -177,6 +177,9 @@ void ProjectExplorer::showSelection()
     selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
     makeRowCurrent(items.indexes());
     m_selecting = false;
+    // On the start page, the next key is meant for what the command of its button has selected.
+    if (!items.isEmpty() && m_window.isExplorerAddressed())
+        setFocus(Qt::OtherFocusReason);
 }
 
 /// A node that has its own selection cannot be selected here.

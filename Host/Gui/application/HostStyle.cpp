@@ -1,6 +1,7 @@
 #include "application/HostStyle.h"
 
 #include "Gui/PictureFactory.h"
+#include "Gui/WindowTitle.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -30,6 +31,18 @@ void drawTabClose(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
+/// Returns a text as it is shown: without the marks of mnemonics.
+QString withoutMarks(const QString& text)
+{
+    QString shown;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('&') && ++i == text.size())
+            break;
+        shown += text[i];
+    }
+    return shown;
+}
+
 } // namespace
 
 HostStyle::HostStyle() = default;
@@ -55,6 +68,29 @@ void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         drawTabClose(*option, *painter);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void HostStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const auto* const title = qstyleoption_cast<const QStyleOptionToolBox*>(option);
+    if (element == CE_ToolBoxTabLabel && title != nullptr)
+        drawToolBoxTitle(*title, painter, widget);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+/// The base style would cut the text with its marks, perhaps between the two characters of "&&".
+void HostStyle::drawToolBoxTitle(const QStyleOptionToolBox& title, QPainter* painter, const QWidget* widget) const
+{
+    constexpr int margins = 12; // of the base style
+    const QString text = withoutMarks(title.text);
+    // The base style measures each "&" twice.
+    const int marks = text.count(QLatin1Char('&')) * title.fontMetrics.horizontalAdvance(QLatin1Char('&'));
+    const int width = subElementRect(SE_ToolBoxTabContents, &title, widget).width() - margins - marks;
+    QStyleOptionToolBox fitting(title);
+    fitting.text = escapedForMnemonics(title.fontMetrics.elidedText(text, Qt::ElideRight, width));
+    QProxyStyle::drawControl(CE_ToolBoxTabLabel, &fitting, painter, widget);
 }
 
 } // namespace Gui

@@ -5,7 +5,6 @@
 #include "Gui/MainWindow.h"
 #include "commands/ChangedObjects.h"
 
-#include <QStatusBar>
 #include <QUndoStack>
 
 namespace Gui {
@@ -35,31 +34,18 @@ QUndoStack& stackToRedo(QUndoStack& history)
     return document != nullptr && document->count() != 0 ? *document : history;
 }
 
-/// The step may replace the main window's document, so its text is passed.
-void tell(const char* sentence, const QString& step)
-{
-    if (const MainWindow* const window = MainWindow::get_main_window_inst())
-        window->statusBar()->showMessage(QCoreApplication::translate(context, sentence).arg(step), 10000);
-}
-
 void undo(QUndoStack& history, TreeSelectionSingleton& selection)
 {
-    QUndoStack& stack = stackToUndo(history);
-    const QString step = stack.undoText();
     const ChangedObjects changed;
-    stack.undo();
+    MainWindow::undoStep(stackToUndo(history));
     changed.select(selection);
-    tell(QT_TRANSLATE_NOOP("StandardCommand", "Undone: %1"), step);
 }
 
 void redo(QUndoStack& history, TreeSelectionSingleton& selection)
 {
-    QUndoStack& stack = stackToRedo(history);
-    const QString step = stack.redoText();
     const ChangedObjects changed;
-    stack.redo();
+    MainWindow::redoStep(stackToRedo(history));
     changed.select(selection);
-    tell(QT_TRANSLATE_NOOP("StandardCommand", "Redone: %1"), step);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "Kelta/MessageLog.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QIconEngine>
 #include <QImageReader>
@@ -36,6 +37,21 @@ void reportMissing(const QString& path)
         QCoreApplication::translate("Gui::PictureFactory", "The picture %1 is missing.").arg(path));
 }
 
+/// Returns whether windows are dark now.
+bool isDark()
+{
+    constexpr int middle = 128;
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < middle;
+}
+
+/// Returns the text of a drawing. On dark windows, its lines in the colour of writing are bright.
+QByteArray readDrawing(const QString& path)
+{
+    QFile file(path);
+    QByteArray drawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return isDark() ? drawing.replace("#44525f", "#c3ccd5") : drawing;
+}
+
 /// Returns a null image if there is no picture. Does not read drawings with the image reader, which would load the
 /// plug-ins of all other formats first.
 QImage read(const QString& path, const QSize& size)
@@ -47,7 +63,7 @@ QImage read(const QString& path, const QSize& size)
         reader.setScaledSize(size);
         return reader.read();
     }
-    QSvgRenderer drawing(path);
+    QSvgRenderer drawing(readDrawing(path));
     if (!drawing.isValid())
         return {};
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -82,7 +98,7 @@ public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
         const int side = std::min(size.width(), size.height());
-        const QString key = QStringLiteral("Gui::DrawnIcon %1 %2 %3").arg(m_path).arg(side).arg(mode);
+        const QString key = QStringLiteral("Gui::DrawnIcon %1 %2 %3 %4").arg(m_path).arg(side).arg(mode).arg(isDark());
         QPixmap picture;
         if (!QPixmapCache::find(key, &picture)) {
             picture = draw(side, mode);

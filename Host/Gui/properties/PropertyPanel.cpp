@@ -11,6 +11,7 @@
 #include "vxMsg/MessageProxy.h"
 #include "window/OpenEditor.h"
 
+#include <QFocusEvent>
 #include <QHeaderView>
 
 namespace Gui {
@@ -72,6 +73,8 @@ void PropertyPanel::showSelection()
         showCount(count);
     expandAll();
     m_filling = false;
+    if (hasFocus())
+        makeValueCurrent();
 }
 
 void PropertyPanel::finishEditing()
@@ -112,6 +115,22 @@ void PropertyPanel::changeEvent(QEvent* event)
         retranslate();
         m_refresh.start(0);
     }
+}
+
+void PropertyPanel::focusInEvent(QFocusEvent* event)
+{
+    QTreeWidget::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        makeValueCurrent();
+}
+
+void PropertyPanel::makeValueCurrent()
+{
+    QTreeWidgetItem* item = currentItem() != nullptr ? currentItem() : topLevelItem(0);
+    while (item != nullptr && (item->flags() & Qt::ItemIsSelectable) == 0)
+        item = itemBelow(item);
+    if (item != nullptr)
+        setCurrentItem(item, valueColumn);
 }
 
 void PropertyPanel::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)

@@ -43,6 +43,8 @@ protected:
     using QTreeWidget::edit;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    /// If the focus comes by the Tab key, makes the value of the first property current unless another one is.
+    void focusInEvent(QFocusEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
@@ -55,6 +57,7 @@ private:
     };
 
     void configure();
+    void makeValueCurrent();
     void refresh();
     void retranslate();
     Owners owners() const;

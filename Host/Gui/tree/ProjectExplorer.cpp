@@ -178,7 +178,7 @@ void ProjectExplorer::showSelection()
     makeRowCurrent(items.indexes());
     m_selecting = false;
     // On the start page, the next key is meant for what the command of its button has selected.
-    if (!items.isEmpty() && m_window.isExplorerAddressed())
+    if (!items.isEmpty() && m_window.getMdiWindows().isEmpty() && m_window.isExplorerAddressed())
         setFocus(Qt::OtherFocusReason);
 }
 

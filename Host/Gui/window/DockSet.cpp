@@ -4,7 +4,9 @@
 #include "Gui/CommandTable.h"
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
+#include "window/DockFocus.h"
 
+#include <QAbstractScrollArea>
 #include <QDockWidget>
 #include <QMainWindow>
 
@@ -25,6 +27,16 @@ Qt::DockWidgetArea areaOf(DockArea area)
         break;
     }
     return Qt::BottomDockWidgetArea;
+}
+
+/// Lets a view with scroll bars shrink to one line, so that all docks fit into the window on a small screen.
+void shrinkToOneLine(QWidget& content)
+{
+    constexpr int lines = 1;
+    constexpr int characters = 12;
+    const QFontMetrics font = content.fontMetrics();
+    if (qobject_cast<QAbstractScrollArea*>(&content) != nullptr)
+        content.setMinimumSize(characters * font.averageCharWidth(), lines * font.lineSpacing());
 }
 
 QString nameOf(const DockEntry& entry)
@@ -68,7 +80,9 @@ void DockSet::add(const DockEntry& entry)
         return;
     auto* const dock = new QDockWidget(entry.title.translated(), &m_window);
     dock->setObjectName(nameOf(entry));
+    shrinkToOneLine(*content);
     dock->setWidget(content.release());
+    new DockFocus(*dock, m_window); // the dock owns it
     m_entries.push_back(entry);
     if (m_window.restoreDockWidget(dock))
         return;

@@ -12,6 +12,7 @@
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "vxMsg/MessageProxy.h"
+#include "window/CenterArea.h"
 #include "window/DockSet.h"
 #include "window/DocumentArea.h"
 #include "window/Panes.h"
@@ -31,6 +32,7 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QUndoStack>
 
 #include <algorithm>
 #include <utility>
@@ -108,7 +110,7 @@ MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
     watchProjects();
     watchRequests();
     watchWindow();
-    resize(firstSize());
+    resizeWithDocks(firstSize());
 }
 
 MainWindow::~MainWindow()
@@ -252,6 +254,31 @@ void MainWindow::announce(const QString& text, Kelta::LogMessage::Severity sever
         theMainWindow->statusBar()->showMessage(text, statusMilliseconds);
 }
 
+void MainWindow::undoStep(QUndoStack& stack)
+{
+    if (!stack.canUndo())
+        return;
+    const QString step = stack.undoText();
+    stack.undo();
+    if (theMainWindow != nullptr)
+        theMainWindow->tellStep(QCoreApplication::translate("StandardCommand", "Undone: %1"), step);
+}
+
+void MainWindow::redoStep(QUndoStack& stack)
+{
+    if (!stack.canRedo())
+        return;
+    const QString step = stack.redoText();
+    stack.redo();
+    if (theMainWindow != nullptr)
+        theMainWindow->tellStep(QCoreApplication::translate("StandardCommand", "Redone: %1"), step);
+}
+
+void MainWindow::tellStep(const QString& sentence, const QString& step)
+{
+    statusBar()->showMessage(sentence.arg(step), statusMilliseconds);
+}
+
 void MainWindow::showMessages()
 {
     m_docks->show(messagesDock);
@@ -306,6 +333,15 @@ QMenu* MainWindow::createPopupMenu()
     return menu;
 }
 
+void MainWindow::resizeWithDocks(const QSize& size)
+{
+    constexpr int widest = 290;
+    resize(size);
+    resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
+    resizeDocks({m_docks->find(explorerDock)}, {std::min(widest, size.width() / 4)}, Qt::Horizontal);
+    resizeDocks({m_docks->find(messagesDock)}, {std::min(110, size.height() / 6)}, Qt::Vertical);
+}
+
 void MainWindow::saveLayout() const
 {
     QSettings settings;
@@ -353,7 +389,7 @@ void MainWindow::createCenter()
     m_documents = new DocumentArea;
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_documents);
-    setCentralWidget(m_center);
+    setCentralWidget(new CenterArea(m_center));
 }
 
 void MainWindow::createDocks()
@@ -364,9 +400,6 @@ void MainWindow::createDocks()
     m_docks = std::make_unique<DockSet>(*this);
     for (const DockEntry& entry : hostDocks())
         m_docks->add(entry);
-    resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
-    resizeDocks({m_docks->find(explorerDock)}, {290}, Qt::Horizontal);
-    resizeDocks({m_docks->find(messagesDock)}, {110}, Qt::Vertical);
     showMessagesIfDue();
     m_bars = std::make_unique<WorkbenchBars>(*this, m_application.get_command_manager(), m_contributions);
 }

@@ -115,6 +115,11 @@ public:
                          Kelta::LogMessage::Severity severity = Kelta::LogMessage::Severity::Information,
                          const Kelta::LogLink& link = {});
 
+    /// Undoes the next step of an undo stack, or redoes it, and names the step in the status bar. Does nothing if there is
+    /// no such step. For Undo and Redo, and for document windows that take their keys.
+    static void undoStep(QUndoStack& stack);
+    static void redoStep(QUndoStack& stack);
+
     /// Shows the message log, even if the user has hidden it, in front of docks at the same place; for messages that
     /// the user must see. The window calls it for each warning and error, and hides the log at the start if there are
     /// none. showProjectExplorer does the same with the project explorer.
@@ -134,6 +139,8 @@ public:
     /// Makes the context menu of bars and docks: it shows and hides them, and has the additions of the workbench.
     QMenu* createPopupMenu() override;
 
+    /// Resizes the window, and gives its docks the shares of a first start.
+    void resizeWithDocks(const QSize& size);
     /// Stores place and size of the window and its docks in the settings, and restores them from there.
     void saveLayout() const;
     void restoreLayout();
@@ -174,6 +181,7 @@ private:
     void showWantedDocks();
     void addShortcuts();
     void retranslate();
+    void tellStep(const QString& sentence, const QString& step);
 
     GuiApplication& m_application;
     Contributions& m_contributions;

@@ -5,7 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QPainter>
 #include <QStringList>
 #include <QStyle>
@@ -99,6 +99,16 @@ void MessageLogView::changeEvent(QEvent* event)
     QListWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+}
+
+void MessageLogView::focusInEvent(QFocusEvent* event)
+{
+    // The base class makes the first message of all current, even if it is not visible.
+    const bool hadCurrent = currentIndex().isValid();
+    QListWidget::focusInEvent(event);
+    const bool isTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (isTab && selectedItems().isEmpty())
+        setCurrentIndex(hadCurrent ? currentIndex() : indexAt(viewport()->rect().topLeft()));
 }
 
 void MessageLogView::createActions()

@@ -23,6 +23,8 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    /// If the focus comes by the Tab key and nothing is selected, selects the first message that is visible.
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     void createActions();

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScrollArea>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -33,8 +34,10 @@ QWidget* contentOf(QWidget& pane)
 {
     if (const auto* const dock = qobject_cast<const QDockWidget*>(&pane))
         return dock->widget();
-    const auto* const pages = qobject_cast<const QStackedWidget*>(&pane);
-    QWidget* const page = pages != nullptr ? pages->currentWidget() : &pane;
+    const auto* const scrolled = qobject_cast<const QScrollArea*>(&pane);
+    QWidget* const content = scrolled != nullptr ? scrolled->widget() : &pane;
+    const auto* const pages = qobject_cast<const QStackedWidget*>(content);
+    QWidget* const page = pages != nullptr ? pages->currentWidget() : content;
     const auto* const documents = qobject_cast<const QMdiArea*>(page);
     const QMdiSubWindow* const document = documents != nullptr ? documents->currentSubWindow() : nullptr;
     return document != nullptr ? document->widget() : page;

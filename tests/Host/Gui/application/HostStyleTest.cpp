@@ -1,6 +1,10 @@
 #include "GuiTesting.h"
 
 #include <QImage>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QSet>
+#include <QStyleOptionToolBox>
 #include <QTabBar>
 
 #include <algorithm>
@@ -36,6 +40,59 @@ int contrastOfCloseButton(const QColor& ground, const QColor& text)
     const QImage picture = button->grab().toImage();
     EXPECT_FALSE(picture.isNull());
     return contrast(picture);
+}
+
+/// Collects the texts that are drawn, as they are seen.
+class TextCollector final : public QPaintEngine
+{
+public:
+    TextCollector() : QPaintEngine(AllFeatures) {}
+    bool begin(QPaintDevice* /*device*/) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState& /*state*/) override {}
+    void drawPixmap(const QRectF& /*target*/, const QPixmap& /*pixmap*/, const QRectF& /*source*/) override {}
+    Type type() const override { return User; }
+    void drawTextItem(const QPointF& /*place*/, const QTextItem& item) override
+    {
+        text += item.text();
+        hasUnderline = hasUnderline || (item.renderFlags() & QTextItem::Underline) != 0;
+    }
+
+    QString text;
+    bool hasUnderline = false;
+};
+
+class TextDevice final : public QPaintDevice
+{
+public:
+    QPaintEngine* paintEngine() const override { return &collector; }
+    mutable TextCollector collector;
+
+protected:
+    int metric(PaintDeviceMetric which) const override { return which == PdmWidth || which == PdmHeight ? 1000 : 96; }
+};
+
+TEST(HostStyle, KeepsTheAmpersandInATitleOfAToolBoxThatIsCut)
+{
+    const QString whole = QStringLiteral("Thermal & Fluid Materials");
+    QStyleOptionToolBox title;
+    title.text = QStringLiteral("Thermal && Fluid Materials");
+    title.fontMetrics = QFontMetrics(QApplication::font());
+    QSet<QString> texts;
+    for (int width = 100; width < 400; ++width) {
+        title.rect = QRect(0, 0, width, 30);
+        TextDevice device;
+        QPainter painter(&device);
+        QApplication::style()->drawControl(QStyle::CE_ToolBoxTabLabel, &title, &painter);
+        painter.end();
+        const QString shown = device.collector.text;
+        EXPECT_TRUE(shown == whole || (shown.endsWith(QChar(0x2026)) && whole.startsWith(shown.chopped(1))))
+            << shown.toStdString() << ", width " << width;
+        EXPECT_FALSE(device.collector.hasUnderline) << shown.toStdString();
+        texts.insert(shown);
+    }
+    EXPECT_TRUE(texts.contains(whole));
+    EXPECT_TRUE(texts.contains(QStringLiteral("Thermal &") + QChar(0x2026)));
 }
 
 TEST(HostStyle, DrawsTheCloseButtonsOfTabsVisiblyInEveryColourScheme)

@@ -175,6 +175,20 @@ TEST_F(StandardCommands, UndoAndRedo)
     EXPECT_FALSE(isApplicable("Std_Redo"));
 }
 
+TEST_F(StandardCommands, RedoByEitherOfTheUsualKeys)
+{
+    vxtest::TestProject& project = makeProject();
+    focusExplorer();
+    for (const char* const key : {"Ctrl+Y", "Ctrl+Shift+Z"}) {
+        addObject(project);
+        const std::size_t count = project.getObjectCount();
+        EXPECT_TRUE(run("Std_Undo"));
+        window->updateCommands();
+        QTest::keySequence(&explorer(), QKeySequence(QLatin1String(key)));
+        EXPECT_EQ(project.getObjectCount(), count) << key;
+    }
+}
+
 TEST_F(StandardCommands, NameTheStepThatTheyUndoAndRedo)
 {
     vxtest::TestProject& project = makeProject();

@@ -67,6 +67,29 @@ TEST_F(Pictures, AreGreyIconsWhereDisabled)
     EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
 }
 
+/// Returns the brightness of the most opaque pixel in the middle row of a picture.
+int brightnessOf(const QImage& picture)
+{
+    QColor opaque(0, 0, 0, 0);
+    for (int x = 0; x < picture.width(); ++x)
+        if (const QColor color = picture.pixelColor(x, picture.height() / 2); color.alpha() > opaque.alpha())
+            opaque = color;
+    return opaque.lightness();
+}
+
+TEST_F(Pictures, OfArrowsAreVisibleOnDarkWindowsToo)
+{
+    const QIcon icon = PictureFactory::getIcon(QStringLiteral("kelta_undo"));
+    const QPalette before = QApplication::palette();
+    EXPECT_LT(brightnessOf(icon.pixmap(32).toImage()), 110);
+    QPalette dark = before;
+    dark.setColor(QPalette::Window, QColor(0x23, 0x26, 0x29));
+    QApplication::setPalette(dark);
+    EXPECT_GT(brightnessOf(icon.pixmap(32).toImage()), 170);
+    QApplication::setPalette(before);
+    EXPECT_LT(brightnessOf(icon.pixmap(32).toImage()), 110);
+}
+
 TEST_F(Pictures, AreDrawnAsIconsAtThePlaceAskedFor)
 {
     QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);

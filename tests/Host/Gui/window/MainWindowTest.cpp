@@ -4,12 +4,15 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTabBar>
 #include <QToolBar>
@@ -59,6 +62,68 @@ TEST_F(MainWindowTest, FitsIntoTheScreenAtItsFirstStart)
     ASSERT_LT(screen.width(), Gui::MainWindow::usualSize.width()) << "the screen of the test is small";
     EXPECT_LE(window->frameGeometry().width(), screen.width());
     EXPECT_LE(window->frameGeometry().height(), screen.height());
+}
+
+/// Adds a document that needs much space, with fields at its top and bottom.
+struct TallDocument
+{
+    explicit TallDocument(Gui::MainWindow& window) : document(new MDIWindow(nullptr, &window))
+    {
+        auto* const content = new QWidget(document);
+        content->setMinimumSize(1500, 1500);
+        top->setParent(content);
+        bottom->setParent(content);
+        bottom->move(0, 1450);
+        document->setCentralWidget(content);
+        window.add_mdi_window(document);
+        window.set_active_mdi_window(document);
+    }
+
+    MDIWindow* document;
+    QLineEdit* top = new QLineEdit;
+    QLineEdit* bottom = new QLineEdit;
+};
+
+TEST_F(MainWindowTest, FitsIntoASmallScreenWithAnyDocumentAndAllDocks)
+{
+    const TallDocument tall(*window);
+    makeProject();
+    window->showMessages();
+    QCoreApplication::processEvents();
+    // A screen of 1024 x 700 at 200 %, without the frame of the window.
+    window->resize(500, 310);
+    EXPECT_EQ(window->size(), QSize(500, 310));
+    EXPECT_LE(window->minimumSizeHint().width(), 500);
+    EXPECT_LE(window->minimumSizeHint().height(), 310);
+}
+
+TEST_F(MainWindowTest, ScrollsADocumentThatDoesNotFitToTheFieldWithTheKeyboard)
+{
+    const TallDocument tall(*window);
+    ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
+    window->resize(500, 310);
+    for (const auto& [focused, hidden] : {std::pair(tall.bottom, tall.top), std::pair(tall.top, tall.bottom)}) {
+        focused->setFocus();
+        EXPECT_FALSE(focused->visibleRegion().isEmpty());
+        EXPECT_TRUE(hidden->visibleRegion().isEmpty());
+    }
+}
+
+TEST_F(MainWindowTest, DoesNotScrollADocumentUnderTheMouse)
+{
+    const TallDocument tall(*window);
+    ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
+    window->resize(500, 310);
+    tall.top->setFocus();
+    auto& scrolled = dynamic_cast<QScrollArea&>(*window->centralWidget());
+    // A part of the field is visible.
+    scrolled.verticalScrollBar()->setValue(tall.top->height() / 2 + 40);
+    const int value = scrolled.verticalScrollBar()->value();
+    window->getProjectExplorer().setFocus();
+    QTest::mousePress(tall.top, Qt::LeftButton, {}, QPoint(5, tall.top->height() - 2));
+    EXPECT_EQ(QApplication::focusWidget(), tall.top);
+    EXPECT_EQ(scrolled.verticalScrollBar()->value(), value);
+    QTest::mouseRelease(tall.top, Qt::LeftButton, {}, QPoint(5, tall.top->height() - 2));
 }
 
 TEST_F(MainWindowTest, HidesTheMessagesUntilThereIsAWarning)

@@ -92,6 +92,72 @@ TEST_F(PanesTest, GiveTheFocusToTheExplorerWhenTheDocumentCloses)
     EXPECT_TRUE(vxtest::waitFor([this] { return QApplication::focusWidget() == &explorer(); }));
 }
 
+TEST_F(PanesTest, GiveTheFocusOfAHiddenDockBackToTheDocumentInFront)
+{
+    addDocument();
+    const Gui::MDIWindow* const inFront = addDocument();
+    addDocument();
+    window->set_active_mdi_window(const_cast<Gui::MDIWindow*>(inFront));
+    window->showMessages();
+    window->getMessageLog().setFocus();
+    window->findChild<QDockWidget*>(QStringLiteral("MessageLog"))->close();
+    EXPECT_EQ(window->get_active_mdi_window(), inFront);
+    EXPECT_EQ(QApplication::focusWidget(), inFront->centralWidget());
+}
+
+TEST_F(PanesTest, GiveTheFocusOfAHiddenDockBackToTheDockThatHadIt)
+{
+    addDocument();
+    window->showMessages();
+    focusExplorer();
+    window->getMessageLog().setFocus();
+    window->toggleDock("MessageLog");
+    EXPECT_EQ(QApplication::focusWidget(), &explorer());
+    // Hiding a dock without the focus does not move it.
+    window->showMessages();
+    panel().setFocus();
+    window->toggleDock("MessageLog");
+    EXPECT_EQ(QApplication::focusWidget(), &panel());
+}
+
+TEST_F(PanesTest, SelectARowOfTheMessagesWhenTheyGetTheFocus)
+{
+    for (const char* const text : {"first", "second"})
+        Kelta::MessageLog::information(QLatin1String(text));
+    window->showMessages();
+    Gui::MessageLogView& log = window->getMessageLog();
+    ASSERT_TRUE(log.selectedItems().isEmpty());
+    press(Qt::Key_F6, Qt::ShiftModifier);
+    ASSERT_EQ(QApplication::focusWidget(), &log);
+    EXPECT_TRUE(log.item(0)->isSelected());
+    EXPECT_EQ(log.currentRow(), 0);
+    // A row that the user has chosen stays.
+    press(Qt::Key_Down);
+    press(Qt::Key_F6);
+    press(Qt::Key_F6, Qt::ShiftModifier);
+    ASSERT_EQ(QApplication::focusWidget(), &log);
+    EXPECT_EQ(log.currentRow(), 1);
+    EXPECT_TRUE(log.item(1)->isSelected());
+}
+
+TEST_F(PanesTest, SelectTheFirstPropertyWhenThePanelGetsTheFocus)
+{
+    select({&addObject(makeProject())});
+    panel().showSelection();
+    press(Qt::Key_F6);
+    ASSERT_EQ(QApplication::focusWidget(), &panel());
+    ASSERT_NE(panel().currentItem(), nullptr);
+    EXPECT_EQ(panel().currentItem(), panel().topLevelItem(0)->child(0)) << "groups cannot be selected";
+    EXPECT_TRUE(panel().currentItem()->isSelected());
+    EXPECT_EQ(panel().currentColumn(), 1);
+    panel().showSelection();
+    ASSERT_NE(panel().currentItem(), nullptr) << "an update keeps a current row";
+    EXPECT_TRUE(panel().currentItem()->isSelected());
+    selection().clear();
+    panel().showSelection();
+    EXPECT_EQ(panel().currentItem(), nullptr) << "there is nothing to select";
+}
+
 TEST_F(PanesTest, KeepTheFocusThatAnotherPaneHasWhenADocumentCloses)
 {
     const QPointer<Gui::MDIWindow> document = addDocument();

@@ -102,6 +102,7 @@ TEST_F(MainWindowTest, ScrollsADocumentThatDoesNotFitToTheFieldWithTheKeyboard)
     const TallDocument tall(*window);
     ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
     window->resize(500, 310);
+    QCoreApplication::processEvents();
     for (const auto& [focused, hidden] : {std::pair(tall.bottom, tall.top), std::pair(tall.top, tall.bottom)}) {
         focused->setFocus();
         EXPECT_FALSE(focused->visibleRegion().isEmpty());
@@ -114,6 +115,7 @@ TEST_F(MainWindowTest, DoesNotScrollADocumentUnderTheMouse)
     const TallDocument tall(*window);
     ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
     window->resize(500, 310);
+    QCoreApplication::processEvents();
     tall.top->setFocus();
     auto& scrolled = dynamic_cast<QScrollArea&>(*window->centralWidget());
     // A part of the field is visible.

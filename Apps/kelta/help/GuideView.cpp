@@ -4,8 +4,13 @@
 
 #include "Gui/CommandController.h"
 
-#include <QEvent>
+#include <QAction>
+#include <QDockWidget>
 #include <QFileInfo>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <set>
 
 namespace desktop {
 
@@ -20,6 +25,56 @@ QUrl keysUrl()
 QString plainText(QString menuText)
 {
     return menuText.remove(QLatin1Char('&')).remove(QStringLiteral("..."));
+}
+
+/// A key that works in a part of the window only.
+struct PartKey
+{
+    const char* part;
+    const char* key;
+    const char* effect;
+};
+
+constexpr PartKey partKeys[] = {
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "everywhere"), QT_TRANSLATE_NOOP("desktop::GuideView", "Tab, Shift+Tab"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "moves between the fields of a part")},
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "explorer"), QT_TRANSLATE_NOOP("desktop::GuideView", "Return"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "opens the material")},
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "page headers of an editor"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "Space"), QT_TRANSLATE_NOOP("desktop::GuideView", "opens the page")},
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "lists of an editor"), QT_TRANSLATE_NOOP("desktop::GuideView", "Space"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "selects a library material; checks or unchecks a quantity")},
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "table of an editor"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "F2 or Return, then Return or Escape"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "edits the value of the row; keeps or discards the text")},
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "editor"), QT_TRANSLATE_NOOP("desktop::GuideView", "Ctrl+Z, Ctrl+Y"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "undoes and redoes changes that have not been applied")},
+    {QT_TRANSLATE_NOOP("desktop::GuideView", "guide"), QT_TRANSLATE_NOOP("desktop::GuideView", "Escape"),
+     QT_TRANSLATE_NOOP("desktop::GuideView", "closes the guide")},
+};
+
+/// Returns a row of a table.
+QString row(const QStringList& texts)
+{
+    QString cells;
+    for (const QString& text : texts)
+        cells += QStringLiteral("<td>%1</td>").arg(text.toHtmlEscaped());
+    return QStringLiteral("<tr>%1</tr>").arg(cells);
+}
+
+QString table(const QString& title, const QString& rows)
+{
+    return QStringLiteral("<h2>%1</h2><table cellspacing=\"6\">%2</table>").arg(title.toHtmlEscaped(), rows);
+}
+
+/// Returns all keys of a command, separated by commas; an empty text if it has none.
+QString keysOf(const Gui::Command& command)
+{
+    QList<QKeySequence> keys{command.get_shortcut()};
+    if (command.action() != nullptr)
+        keys = command.action()->shortcuts();
+    return QKeySequence::listToString(keys, QKeySequence::NativeText)
+        .replace(QStringLiteral("; "), QStringLiteral(", "));
 }
 
 } // namespace
@@ -47,6 +102,11 @@ void GuideView::showKeys()
     reload();
 }
 
+bool GuideView::isGuideVisible() const
+{
+    return !visibleRegion().isEmpty() && source() != keysUrl();
+}
+
 QVariant GuideView::loadResource(int type, const QUrl& name)
 {
     if (name == keysUrl())
@@ -59,7 +119,17 @@ QVariant GuideView::loadResource(int type, const QUrl& name)
 QSize GuideView::sizeHint() const
 {
     constexpr int charactersPerLine = 60;
-    return {fontMetrics().averageCharWidth() * charactersPerLine, QTextBrowser::sizeHint().height()};
+    const int wanted = fontMetrics().averageCharWidth() * charactersPerLine;
+    return {std::min(wanted, window()->width() * 3 / 10), QTextBrowser::sizeHint().height()};
+}
+
+void GuideView::keyPressEvent(QKeyEvent* event)
+{
+    auto* const dock = qobject_cast<QDockWidget*>(parentWidget());
+    if (event->key() == Qt::Key_Escape && dock != nullptr)
+        dock->close();
+    else
+        QTextBrowser::keyPressEvent(event);
 }
 
 void GuideView::showEvent(QShowEvent* event)
@@ -81,12 +151,18 @@ void GuideView::changeEvent(QEvent* event)
 
 QString GuideView::keysAsHtml() const
 {
-    QString rows;
-    for (const Gui::Command* const command : m_commands.getCommands())
-        if (const QString key = command->get_shortcut().toString(QKeySequence::NativeText); !key.isEmpty())
-            rows += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
-                        .arg(key.toHtmlEscaped(), plainText(command->get_menu_info()).toHtmlEscaped());
-    return QStringLiteral("<h2>%1</h2><table cellspacing=\"6\">%2</table>").arg(tr("Keys").toHtmlEscaped(), rows);
+    QString commandRows;
+    std::set<QString> listed;
+    for (const Gui::Command* const command : m_commands.getCommands()) {
+        // If two commands have one key, the key runs the command that was registered first.
+        const QString keys = keysOf(*command);
+        if (!keys.isEmpty() && listed.insert(keys).second)
+            commandRows += row({keys, plainText(command->get_menu_info())});
+    }
+    QString partRows;
+    for (const PartKey& key : partKeys)
+        partRows += row({tr(key.part), tr(key.key), tr(key.effect)});
+    return table(tr("Keys"), commandRows) + table(tr("Keys in the parts of the window"), partRows);
 }
 
 } // namespace desktop

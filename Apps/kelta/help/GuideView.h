@@ -8,8 +8,8 @@ class CommandController;
 
 namespace desktop {
 
-/// The guide to the program, and a list of the keys of all commands in the language of the user. The guide is read from
-/// its file when it is first shown.
+/// The guide to the program, and a list of all keys in the language of the user. The guide is read from its file when it
+/// is first shown. The Escape key closes the dock of the view.
 class GuideView final : public QTextBrowser
 {
     Q_OBJECT
@@ -21,12 +21,16 @@ public:
 
     void showGuide();
     void showKeys();
+    /// Returns whether the user sees the guide, or a page to which it leads.
+    bool isGuideVisible() const;
 
     /// Returns the text of a page of the guide, or the reason why it cannot be read.
     QVariant loadResource(int type, const QUrl& name) override;
+    /// Returns a size for long lines, which leaves most of the main window to documents.
     QSize sizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 

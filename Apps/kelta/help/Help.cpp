@@ -34,13 +34,24 @@ void showGuide(const std::function<void(GuideView&)>& show)
     window.focusDock(guideDock);
 }
 
+/// Shows the guide, or closes it if the user sees it already.
+void toggleGuide()
+{
+    Gui::MainWindow& window = *Gui::MainWindow::get_main_window_inst();
+    const auto* const guide = window.findChild<GuideView*>();
+    if (guide != nullptr && guide->isGuideVisible())
+        window.toggleDock(guideDock);
+    else
+        showGuide(&GuideView::showGuide);
+}
+
 std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
 {
     constexpr int none = Gui::CommandType::none;
     return {
         {"Std_Help", QT_TRANSLATE_NOOP("HelpCommand", "&Guide"),
-         QT_TRANSLATE_NOOP("HelpCommand", "Show the guide to the program"), "", Qt::Key_F1, none,
-         [] { showGuide(&GuideView::showGuide); }, hasWindow},
+         QT_TRANSLATE_NOOP("HelpCommand", "Show the guide to the program, or close it"), "", Qt::Key_F1, none,
+         toggleGuide, hasWindow},
         {"Std_Keys",
          QT_TRANSLATE_NOOP("HelpCommand", "&Keys"),
          QT_TRANSLATE_NOOP("HelpCommand", "Show the keys of all commands"),

@@ -34,6 +34,13 @@ bool areSame(const vxMat::MaterialProperty& first, const vxMat::MaterialProperty
            first.description == second.description && first.unit == second.unit && first.category == second.category;
 }
 
+/// Returns whether a property means the same: the number of a switch has no meaning, and an Apply may replace it.
+bool meanSame(const vxMat::MaterialProperty& first, const vxMat::MaterialProperty& second)
+{
+    return first.id == second.id &&
+           (vxMat::getValueKind(first.id) == vxMat::ValueKind::ModelSwitch || areSame(first, second));
+}
+
 Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectId)
 {
     const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
@@ -140,7 +147,7 @@ ChangeCount countChanges(const vxMat::MaterialBase& before, const vxMat::Materia
         const vxMat::MaterialProperty* const earlier = before.findProperty(slot);
         if (earlier == nullptr)
             ++count.added;
-        else if (!areSame(*earlier, *property))
+        else if (!meanSame(*earlier, *property))
             ++count.changed;
     }
     count.removed = before.properties.size() + count.added - after.properties.size();

@@ -8,7 +8,6 @@
 #include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
-#include "Gui/TreeSelectionSingleton.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
@@ -100,7 +99,7 @@ void addWelcome(Gui::Contributions& contributions)
          {welcomeContext, QT_TRANSLATE_NOOP("MaterialWelcome", "Double-click a material in the project explorer, or "
                                                                "select one and choose Edit.")},
          {"Mat_Edit"},
-         [] { return Gui::TreeSelectionSingleton::instance().getCount() != 0; }});
+         isMaterialSelected});
 }
 
 } // namespace

@@ -38,21 +38,26 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::MaterialGuards", text);
 }
 
-int showBox(QMessageBox::Icon icon, const QString& title, const QString& text, QMessageBox::StandardButtons buttons)
+/// Shows a box. Return takes its preferred button.
+int showBox(QMessageBox::Icon icon, const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+            QMessageBox::StandardButton preferred)
 {
     QMessageBox box(icon, title, text, buttons, Gui::MainWindow::get_main_window_inst());
     box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(preferred);
     return box.exec();
 }
 
+/// Asks a question. Return, which users press by habit, means No.
 bool confirm(const QString& title, const QString& text)
 {
-    return showBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    return showBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+           QMessageBox::Yes;
 }
 
 void refuse(const QString& title, const QString& text)
 {
-    showBox(QMessageBox::Warning, title, text, QMessageBox::Ok);
+    showBox(QMessageBox::Warning, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 /// Closes the open material projects and asks about changes that are not saved. Returns whether all are closed.
@@ -214,12 +219,6 @@ void guardEdit(const Run& run)
                                  .arg(QString::number(count), QString::number(mostAtOnce)));
     if (count <= mostUnasked || confirm(title, tr("Open %1 editors?").arg(count)))
         run();
-}
-
-bool isMaterialSelected()
-{
-    const Gui::TreeSelectionSingleton& selection = Gui::TreeSelectionSingleton::instance();
-    return !selection.get_objects_of_type(Mat::MaterialObject::getClassTypeId()).empty();
 }
 
 bool areOnlyMaterialsSelected()

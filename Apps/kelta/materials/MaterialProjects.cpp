@@ -1,7 +1,9 @@
 #include "MaterialProjects.h"
 
+#include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "vxMaterial/project/DocumentMaterial.h"
+#include "vxMaterial/project/MaterialObject.h"
 
 namespace desktop {
 
@@ -18,6 +20,12 @@ std::vector<Mat::DocumentMaterial*> materialProjects()
 Mat::DocumentMaterial* currentMaterialProject()
 {
     return dynamic_cast<Mat::DocumentMaterial*>(Obj::Application::get_current_project());
+}
+
+bool isMaterialSelected()
+{
+    const Gui::TreeSelectionSingleton& selection = Gui::TreeSelectionSingleton::instance();
+    return !selection.get_objects_of_type(Mat::MaterialObject::getClassTypeId()).empty();
 }
 
 } // namespace desktop

@@ -14,4 +14,7 @@ std::vector<Mat::DocumentMaterial*> materialProjects();
 /// Returns the current project if it is a material project; null otherwise.
 Mat::DocumentMaterial* currentMaterialProject();
 
+/// Returns whether the user has selected a material.
+bool isMaterialSelected();
+
 } // namespace desktop

@@ -125,11 +125,14 @@ bool openFilesAlone(const std::vector<std::string>& paths)
 
 QtMessageHandler defaultHandler = nullptr;
 
-/// Drops the message that the offscreen platform writes for each window, since it has no window manager to pass size
-/// hints to.
-void leaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& message)
+/// Drops two messages that users cannot act on: the offscreen platform writes one for each window, since it has no window
+/// manager to pass size hints to; and Qt writes one if the folder of the running session is not set, which is so on
+/// servers, and then uses another folder.
+void writeUsefulMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (!message.contains(QLatin1String("propagateSizeHints")))
+    const bool isUseless =
+        message.contains(QLatin1String("propagateSizeHints")) || message.contains(QLatin1String("XDG_RUNTIME_DIR"));
+    if (!isUseless)
         defaultHandler(type, context, message);
 }
 
@@ -156,6 +159,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!options.batch.empty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    defaultHandler = qInstallMessageHandler(writeUsefulMessage);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     Gui::GuiApplication application(argc, argv);
@@ -171,7 +175,6 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     if (runsAlone(options)) {
         settings.emplace();
         desktop::chooseOwnSettings(settings->isValid() ? settings->path() : QString());
-        defaultHandler = qInstallMessageHandler(leaveOutSizeHints);
         echoMessages();
     } else {
         doubt = desktop::chooseUserSettings();
@@ -192,7 +195,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
             window.restoreLayout();
         else
             // A picture does not depend on the screen.
-            window.resize(Gui::MainWindow::usualSize);
+            window.resizeWithDocks(Gui::MainWindow::usualSize);
         // The reason is in the message log, which the user may have hidden.
         if (!loaded)
             window.showMessages();

@@ -4,6 +4,7 @@
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
+#include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Gui/WindowTitle.h"
 #include "Kelta/MessageLog.h"
@@ -116,13 +117,17 @@ bool showEdits(Obj::ProjectObject& object, const Json::Value& edits)
 
 void showUnapplied(const Obj::Project& project, const Json::Value& record)
 {
+    std::vector<Obj::ProjectObject*> shown;
     for (const Json::Value& element : record.isArray() ? record : Json::Value()) {
         const bool isValid = element.isObject() && element["object_id"].isUInt();
         Obj::ProjectObject* const object = isValid ? project.get_object(element["object_id"].asUInt()) : nullptr;
         if (object == nullptr)
             continue;
         const QString label = QString::fromStdString(object->label.getValue());
-        if (showEdits(*object, element["edits"]))
+        const bool isShown = showEdits(*object, element["edits"]);
+        if (isShown)
+            shown.push_back(object);
+        if (isShown)
             Kelta::MessageLog::information(
                 QCoreApplication::translate(
                     "desktop::UnappliedEdits",
@@ -134,6 +139,8 @@ void showUnapplied(const Obj::Project& project, const Json::Value& record)
                                             "The changes of \"%1\" that were not applied cannot be shown again.")
                     .arg(label));
     }
+    if (!shown.empty())
+        Gui::TreeSelectionSingleton::instance().setSelection({}, shown);
 }
 
 bool askToApply(Gui::MainWindow& mainWindow, const Obj::Project& project, const UnappliedQuestion& question)

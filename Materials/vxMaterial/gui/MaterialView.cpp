@@ -80,11 +80,13 @@ QString describe(const UnreadableRow& row)
 
 QString describe(const PartlyReadRow& row)
 {
-    return MaterialView::tr(
-               "Row %1: The value \"%2\" of \"%3\" would be read as \"%4\"; \"%5\" would be ignored. Type the "
-               "value without it.")
-        .arg(QString::number(row.number), shortened(row.value), row.name, shortened(row.readAs),
-             shortened(row.ignored));
+    const QString reason = MaterialView::tr("Row %1: The value \"%2\" of \"%3\" would be read as \"%4\": \"%5\" is not "
+                                            "part of the number.");
+    const QString remedy = row.unit.isEmpty() ? MaterialView::tr("Type the value without it.")
+                                              : MaterialView::tr("Type the value in %1, without a unit.").arg(row.unit);
+    return reason.arg(QString::number(row.number), shortened(row.value), row.name, shortened(row.readAs),
+                      shortened(row.ignored)) +
+           QLatin1Char(' ') + remedy;
 }
 
 Qt::CheckState checkState(bool checked)
@@ -134,6 +136,7 @@ MaterialView::MaterialView(Gui::GuiProject* project, Obj::ProjectObject* object,
     preloadMaterialProperties();
     m_ui->tableView->materialObject = m_materialObject;
     m_ui->tableView->loadMaterialObject();
+    chooseFocus();
     // This connection comes last, so that the check states set above add no rows.
     connectSignals();
     m_history->restart(state());
@@ -173,9 +176,14 @@ void MaterialView::makeToolBoxesReachable()
     setTabOrder(lastOfLibrary, m_ui->btnAddMat);
     QWidget* const lastOfBuild = makePagesReachable(*m_ui->toolBoxBuild, m_ui->btnAddMat);
     setTabOrder(lastOfBuild, m_ui->tableView);
-    // The window itself does not take the keyboard focus.
-    setFocusProxy(m_ui->tabWidget);
     keepTabsVisible();
+}
+
+void MaterialView::chooseFocus()
+{
+    // The window itself does not take the keyboard focus. An empty table has nothing to edit.
+    const bool hasRows = m_ui->tableView->model()->rowCount() != 0;
+    setFocusProxy(hasRows ? static_cast<QWidget*>(m_ui->tableView) : m_ui->tabWidget);
 }
 
 void MaterialView::keepTabsVisible()
@@ -210,8 +218,10 @@ void MaterialView::watchEdits()
     const auto note = [this] { guarded([this] { noteEdit(tr("Change value")); }); };
     const QAbstractItemModel* const model = m_ui->tableView->model();
     connect(model, &QAbstractItemModel::dataChanged, this, note);
-    connect(model, &QAbstractItemModel::rowsInserted, this, note);
-    connect(model, &QAbstractItemModel::rowsRemoved, this, note);
+    for (const auto rowsChange : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(model, rowsChange, this, note);
+        connect(model, rowsChange, this, &MaterialView::chooseFocus);
+    }
 }
 
 bool MaterialView::edit(const QString& step, const std::function<void()>& action)
@@ -471,9 +481,9 @@ void MaterialView::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Delete)
         event->accept();
     else if (isUndo(*event) && keepsFromHost(*event))
-        guarded([this] { m_history->stack().undo(); });
+        guarded([this] { Gui::MainWindow::undoStep(m_history->stack()); });
     else if (isRedo(*event) && keepsFromHost(*event))
-        guarded([this] { m_history->stack().redo(); });
+        guarded([this] { Gui::MainWindow::redoStep(m_history->stack()); });
     else
         MDIWindow::keyPressEvent(event);
 }

@@ -119,6 +119,7 @@ protected:
 private:
     void initUI();
     void makeToolBoxesReachable();
+    void chooseFocus();
     void keepTabsVisible();
     void connectSignals();
     void watchEdits();

@@ -43,6 +43,7 @@ struct PartlyReadRow
     QString value;
     QString ignored; ///< the text that would be ignored: "GPa"
     QString readAs;  ///< the value that would be read: "210"
+    QString unit;    ///< of the value: "Pa"; empty if it has none
 };
 
 } // namespace MatGui

@@ -41,7 +41,14 @@ void widenToWords(QAbstractItemView& list)
     list.setMinimumWidth(list.sizeHintForColumn(0) + border);
 }
 
-/// Writes the selected word of the list of completions into the line if the list is open.
+/// Returns whether the typed text is the beginning of a single word.
+bool isBeginningOfOne(const QCompleter& completer, const QString& typed)
+{
+    return completer.completionCount() == 1 && !typed.isEmpty() && completer.currentCompletion().size() > typed.size();
+}
+
+/// Writes the selected word of the list of completions into the line if the list is open; without a selection, the
+/// only word that begins as typed.
 void takeChosenWord(QLineEdit& line)
 {
     const QCompleter* const completer = line.completer();
@@ -51,6 +58,8 @@ void takeChosenWord(QLineEdit& line)
     completer->popup()->hide();
     if (chosen.isValid())
         line.setText(chosen.data().toString());
+    else if (isBeginningOfOne(*completer, line.text()))
+        line.setText(completer->currentCompletion());
 }
 
 } // namespace

@@ -351,12 +351,23 @@ std::optional<UnreadableRow> SheetTableView::findUnreadableRow() const
     return std::nullopt;
 }
 
+/// The catalogue writes "-" for a quantity without a unit.
+QString SheetTableView::unitOf(int row) const
+{
+    const QString unit = cellText(row, Unit);
+    return unit != QLatin1String("-") ? unit : QString();
+}
+
 std::optional<PartlyReadRow> SheetTableView::findPartlyReadRow() const
 {
     for (int row = 0; row < m_model->rowCount(); ++row)
         if (const auto ignored = vxMat::findIgnoredText(rowId(row), cellText(row, Value).toStdString()))
-            return PartlyReadRow{row + 1, cellText(row, Name), cellText(row, Value),
-                                 QString::fromStdString(ignored->text), QString::fromStdString(ignored->readAs)};
+            return PartlyReadRow{row + 1,
+                                 cellText(row, Name),
+                                 cellText(row, Value),
+                                 QString::fromStdString(ignored->text),
+                                 QString::fromStdString(ignored->readAs),
+                                 unitOf(row)};
     return std::nullopt;
 }
 

@@ -156,6 +156,7 @@ private:
     QWidget* openEditor(int row) const;
     int rowId(int row) const;
     QString cellText(int row, int column) const;
+    QString unitOf(int row) const;
     void addRowTo(vxMat::MaterialBase& material, int row) const;
     std::optional<vxMat::RuleFailure> findBrokenRule() const;
     std::optional<UnreadableRow::Reason> unreadableReason(int row) const;

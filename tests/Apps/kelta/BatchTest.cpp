@@ -29,6 +29,17 @@ TEST_F(Batch, DoesNothingWithAnEmptyList)
     EXPECT_EQ(outcome.output, "");
 }
 
+TEST_F(Batch, IsSilentWithoutAFolderOfTheSession)
+{
+    vxtest::writeFile(path("list.batch"), "Mat_NewDoc\n");
+    QProcessEnvironment environment = vxtest::cleanEnvironment(path(""));
+    environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    const Outcome outcome =
+        vxtest::runKelta(QStringLiteral(KELTA_PROGRAM), {"--batch", path("list.batch")}, path(""), environment, {});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(errorsOf(outcome), "");
+}
+
 TEST_F(Batch, MakesAMaterialAndExportsIt)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\r\nMat_AddMaterial\r\nMat_Export \"a b.json\"\r\n");

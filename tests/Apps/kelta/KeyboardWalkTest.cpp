@@ -49,12 +49,13 @@ TEST_F(KeyboardWalk, LeadsFromTheEmptyProgramToAnAppliedMaterialAndBackToTheExpl
 {
     press(Qt::Key_N, Qt::ControlModifier);
     ASSERT_NE(currentProject(), nullptr);
+    EXPECT_EQ(focus(), "projectExplorer");
     press(Qt::Key_M, Qt::ControlModifier);
     ASSERT_EQ(currentProject()->getObjectCount(), 1U);
+    EXPECT_EQ(focus(), "projectExplorer");
     auto& object = dynamic_cast<Mat::MaterialObject&>(*currentProject()->getObjects().front());
     EXPECT_TRUE(object.getCMaterial()->properties.empty());
 
-    pressUntil(Qt::Key_F6, "projectExplorer");
     press(Qt::Key_Return);
     Gui::MDIWindow* const editor = window->get_active_mdi_window();
     ASSERT_NE(editor, nullptr);
@@ -92,6 +93,8 @@ TEST_F(KeyboardWalk, LeadsFromTheEmptyProgramToAnAppliedMaterialAndBackToTheExpl
     EXPECT_TRUE(window->getMdiWindows().isEmpty());
     press(Qt::Key_Return);
     EXPECT_EQ(window->getMdiWindows().size(), 1) << "the material is still the current entry";
+    EXPECT_EQ(focus(), "tableView") << "the material has values to edit";
+    EXPECT_EQ(window->get_active_mdi_window()->findChild<QTableView*>("tableView")->currentIndex().column(), 2);
 }
 
 TEST_F(KeyboardWalk, HasKeysForTheCommandsThatAreUsedMost)

@@ -107,6 +107,9 @@ TEST_F(Materials, AreOfferedStepByStepOnTheWelcomePage)
     EXPECT_EQ(pageTitle(), "No material is open");
     EXPECT_THAT(pageButtons(), ElementsAre("Mat_Edit"));
     EXPECT_FALSE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());
+    Gui::TreeSelectionSingleton::instance().setSelection({currentProject()}, {});
+    window->updateCommands();
+    EXPECT_FALSE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());
     Gui::TreeSelectionSingleton::instance().setSelection({}, {&steel});
     window->updateCommands();
     EXPECT_TRUE(page()->findChild<QPushButton*>(QStringLiteral("Mat_Edit"))->isEnabled());

@@ -34,7 +34,8 @@ void MessageBoxes::answerOpenBox()
     if (box == nullptr || !box->isVisible())
         return;
     m_shown.push_back({box->icon(), box->windowTitle(), box->text(), box->standardButtons(),
-                       box->defaultButton() != nullptr, box->parentWidget()});
+                       box->defaultButton() != nullptr, box->standardButton(box->defaultButton()),
+                       box->parentWidget()});
     if (QAbstractButton* const button = findButton(*box, m_answer))
         QTest::mouseClick(button, Qt::LeftButton);
     else

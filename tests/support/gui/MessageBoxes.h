@@ -17,6 +17,7 @@ struct ShownBox
     QString text;
     QMessageBox::StandardButtons buttons;
     bool hasDefaultButton;
+    QMessageBox::StandardButton preferred; ///< the standard button that Return presses; NoButton for another button
     const QWidget* parent;
 };
 

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTableView>
 
@@ -48,6 +49,7 @@ void Answers::answer()
     if (box == nullptr || !box->isVisible())
         return;
     m_boxes << box->windowTitle() + QStringLiteral(": ") + box->text();
+    m_preferred = box->defaultButton() != nullptr ? box->defaultButton()->text() : QString();
     const QString wanted = m_buttons.isEmpty() ? QString() : m_buttons.takeFirst();
     for (QAbstractButton* const button : box->buttons())
         if (!wanted.isEmpty() && button->text().remove(QLatin1Char('&')) == wanted)

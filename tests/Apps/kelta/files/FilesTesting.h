@@ -45,12 +45,15 @@ public:
 
     /// Returns "Title: text" of each box.
     const QStringList& boxes() const { return m_boxes; }
+    /// Returns the text of the button that Return presses in the last box.
+    const QString& preferred() const { return m_preferred; }
 
 private:
     void answer();
 
     QStringList m_buttons;
     QStringList m_boxes;
+    QString m_preferred;
     int m_unexpected = 0;
     QTimer m_timer;
 };

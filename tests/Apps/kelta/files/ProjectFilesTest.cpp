@@ -948,6 +948,7 @@ TEST_F(ProjectFiles, WarnOfASecondProgramOnTheSameFile)
         const Answers answers({"Cancel"});
         run("Std_Open", path("a.vxmat"));
         EXPECT_THAT(text(answers.boxes()), HasSubstr("is in use by"));
+        EXPECT_EQ(answers.preferred(), "Cancel");
     }
     EXPECT_EQ(currentProject(), nullptr);
     const Answers answers({"Use anyway"});
@@ -1134,6 +1135,8 @@ TEST_F(ProjectFiles, RecoverTheUnappliedRowsOfAnOpenEditor)
     EXPECT_TRUE(editor->isWindowModified());
     EXPECT_THAT(reports.text(),
                 HasSubstr("The changes of \"Steel\" that were not applied are shown in its editor again."));
+    EXPECT_TRUE(Gui::TreeSelectionSingleton::instance().is_selected(recovered, nullptr));
+    EXPECT_EQ(Gui::TreeSelectionSingleton::instance().getCount(), 1U);
     EXPECT_EQ(copies().size(), 1) << "the rows are in the new copy too";
     EXPECT_TRUE(editor->applyEdits());
     EXPECT_EQ(modulusOf(*recovered), 7e10);

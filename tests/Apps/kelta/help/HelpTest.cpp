@@ -4,6 +4,8 @@
 #include "GuideView.h"
 #include "RecentFiles.h"
 
+#include "Gui/ProjectExplorer.h"
+
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QtTest/QtTestGui>
@@ -29,6 +31,8 @@ protected:
     desktop::GuideView& guide() const { return *window->findChild<desktop::GuideView*>(); }
     std::string shown() const { return guide().toPlainText().toStdString(); }
 };
+
+constexpr auto multiline = QRegularExpression::MultilineOption;
 
 /// Returns "key: command" for each row of the table below "## Keys" in the guide.
 std::multiset<std::string> keysInGuide(const QByteArray& text)
@@ -87,6 +91,71 @@ TEST_F(Help, ShowsTheKeysInTheProgram)
     EXPECT_THAT(shown(), HasSubstr("New material project"));
     ASSERT_TRUE(run("Std_Help"));
     EXPECT_THAT(shown(), HasSubstr("kelta, the desktop application"));
+}
+
+TEST_F(Help, ListsEveryKeyOnce)
+{
+    ASSERT_TRUE(run("Std_Keys"));
+    EXPECT_EQ(guide().toPlainText().count(QRegularExpression(QStringLiteral("^Del$"), multiline)), 1);
+    EXPECT_EQ(
+        guide().toPlainText().count(QRegularExpression(QStringLiteral("^Ctrl\\+Y, Ctrl\\+Shift\\+Z$"), multiline)) +
+            guide().toPlainText().count(QRegularExpression(QStringLiteral("^Ctrl\\+Shift\\+Z, Ctrl\\+Y$"), multiline)),
+        1);
+    for (const char* const text :
+         {"F2 or Return, then Return or Escape", "selects a library material", "closes the guide"})
+        EXPECT_THAT(shown(), HasSubstr(text));
+}
+
+TEST_F(Help, ClosesTheGuideByASecondF1AndByEscape)
+{
+    newProject();
+    addMaterial("First");
+    editModulus(addMaterial("Second"), "2e11");
+    const Gui::MDIWindow* const inFront = window->get_active_mdi_window();
+    editModulus(*findMaterial("First"), "2e11");
+    window->set_active_mdi_window(window->editorOf(*findMaterial("Second")));
+    const QWidget* const before = QApplication::focusWidget();
+    for (const auto key : {Qt::Key_F1, Qt::Key_Escape}) {
+        QTest::keyClick(window.get(), Qt::Key_F1);
+        ASSERT_EQ(QApplication::focusWidget(), &guide());
+        QTest::keyClick(&guide(), key);
+        EXPECT_FALSE(guide().isVisible());
+        EXPECT_EQ(window->get_active_mdi_window(), inFront);
+        EXPECT_EQ(QApplication::focusWidget(), before);
+    }
+    // Where the list of keys is shown, F1 leads to the guide.
+    ASSERT_TRUE(run("Std_Keys"));
+    QTest::keyClick(&guide(), Qt::Key_F1);
+    EXPECT_TRUE(guide().isVisible());
+    EXPECT_THAT(shown(), HasSubstr("kelta, the desktop application"));
+}
+
+TEST_F(Help, LeavesTheExplorerAsWideAsItIs)
+{
+    newProject();
+    editModulus(addMaterial(), "2e11");
+    window->resizeWithDocks(QSize(1024, 700));
+    QCoreApplication::processEvents();
+    const int width = window->getProjectExplorer().width();
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->getProjectExplorer().width(), width);
+    EXPECT_LT(guide().width(), 1024 / 3);
+    QTest::keyClick(&guide(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->getProjectExplorer().width(), width);
+}
+
+TEST_F(Help, FitsIntoASmallScreenBesideAnEditorAndTheMessages)
+{
+    newProject();
+    editModulus(addMaterial(), "2e11");
+    window->showMessages();
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    QCoreApplication::processEvents();
+    // A screen of 1024 x 700 at 200 %, without the frame of the window.
+    window->resize(500, 310);
+    EXPECT_EQ(window->size(), QSize(500, 310));
 }
 
 TEST_F(Help, SaysWhichPageIsMissing)

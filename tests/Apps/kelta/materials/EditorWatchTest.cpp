@@ -101,7 +101,8 @@ TEST_F(AppliedEdits, AreRefusedIfTextAfterANumberWouldBeIgnored)
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_THAT(
         boxes.shown().front().text.toStdString(),
-        HasSubstr("The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\"; \"GPa\" would be ignored."));
+        HasSubstr("The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\": \"GPa\" is not part of "
+                  "the number. Type the value in Pa, without a unit."));
     EXPECT_EQ(modulusOf(steel), 2e11);
     EXPECT_EQ(history().count(), stepsBefore);
     const auto* const table = editor.findChild<MatGui::SheetTableView*>();
@@ -121,8 +122,7 @@ TEST_F(AppliedEdits, AreShownAsTheMaterialHoldsThem)
 TEST_F(AppliedEdits, AreReportedWithTheirNumbers)
 {
     MatGui::MaterialView& editor = edit(steel);
-    // The value of a switch has no meaning; the first Apply sets it to 1.
-    apply(editor);
+    // Apply sets the number of a switch, which has no meaning, to 1. This is not counted.
     type(editor, modulus, "7e10");
     type(editor, density, "4321");
     apply(editor);

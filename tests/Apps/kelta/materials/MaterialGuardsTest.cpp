@@ -40,6 +40,7 @@ TEST_F(SecondProject, IsMadeAfterTheFirstIsClosed)
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_EQ(boxes.shown().front().icon, QMessageBox::Question);
     EXPECT_EQ(boxes.shown().front().buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(boxes.shown().front().preferred, QMessageBox::No);
     EXPECT_EQ(boxes.shown().front().text,
               "Only one material project can be used at a time. Close \"First\" and make a new one?");
     EXPECT_THAT(projectNames(), testing::ElementsAre("Materials"));
@@ -141,6 +142,22 @@ TEST_F(Export, NamesWordsAndListsThatAreNotWritten)
     EXPECT_THAT(messages(), Contains(testing::AllOf(HasSubstr("\"Steel\": An exchange document carries no words and "
                                                               "lists. Not written: \""),
                                                     HasSubstr("\"Yield stress\""))));
+}
+
+TEST_F(Export, AsksBeforeItReplacesAProjectFileThatIsNotOpen)
+{
+    const std::string text = R"({"format": "vxMaterial project"})";
+    projectfile::writeFile(file, text);
+    exportAnswering(QMessageBox::Cancel);
+    EXPECT_EQ(projectfile::readFile(file), text);
+    const MessageBoxes boxes(QMessageBox::Cancel);
+    EXPECT_TRUE(run("Mat_Export", file));
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().text, "\"" + file + "\" is a project file. Replace it by an exchange document?");
+    projectfile::writeFile(file, R"({"format": "another"})");
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(projectfile::readFile(file), HasSubstr("proj_type"));
 }
 
 TEST_F(Export, AppliesEditsIfTheUserWants)

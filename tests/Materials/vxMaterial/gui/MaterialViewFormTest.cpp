@@ -300,7 +300,7 @@ TEST(MaterialView, TurnsItsPagesByTheKeyboard)
 {
     Editor editor;
     auto& box = editor.child<QToolBox>("toolBoxLibrary");
-    editor.view()->setFocus();
+    editor.child<QTabWidget>("tabWidget").setFocus();
     for (int presses = 0; presses < 30 && QApplication::focusWidget()->accessibleName() != "Acoustic Materials";
          ++presses)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -308,9 +308,19 @@ TEST(MaterialView, TurnsItsPagesByTheKeyboard)
     EXPECT_EQ(box.currentIndex(), 5);
 }
 
-TEST(MaterialView, GivesTheKeyboardToItsTabsWhenItIsActivated)
+TEST(MaterialView, GivesTheKeyboardToTheValuesWhenItIsActivated)
 {
     Editor editor;
+    Gui::MainWindow::get_main_window_inst()->set_active_mdi_window(editor.view());
+    EXPECT_EQ(QApplication::focusWidget(), &editor.table());
+    EXPECT_EQ(editor.table().currentIndex(), editor.table().model()->index(0, 2));
+    EXPECT_TRUE(editor.table().selectionModel()->isSelected(editor.table().currentIndex()));
+}
+
+TEST(MaterialView, GivesTheKeyboardToItsTabsWhenItHasNoValues)
+{
+    Editor editor;
+    editor.click("btnClear");
     editor.view()->setFocus();
     EXPECT_EQ(QApplication::focusWidget(), editor.child<QTabWidget>("tabWidget").tabBar());
 }

@@ -216,9 +216,14 @@ TEST(MaterialViewHost, FindsValuesOfWhichAPartWouldBeIgnored)
     ASSERT_TRUE(refusal);
     EXPECT_EQ(refusal->row, editor.rowOf(5));
     EXPECT_EQ(refusal->reason,
-              QString("Row %1: The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\"; \"GPa\" would be "
-                      "ignored. Type the value without it.")
+              QString("Row %1: The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\": \"GPa\" is not "
+                      "part of the number. Type the value in Pa, without a unit.")
                   .arg(editor.rowOf(5) + 1));
+    editor.typeValue(5, "2e11");
+    editor.typeValue(6, "0.3 or so");
+    ASSERT_TRUE(editor.view()->findIgnoredText());
+    EXPECT_TRUE(editor.view()->findIgnoredText()->reason.endsWith(
+        "\"or so\" is not part of the number. Type the value without it."));
 }
 
 TEST(MaterialViewHost, SaysThatTextBehindANumberIsTheReasonOfARefusal)
@@ -238,8 +243,8 @@ TEST(MaterialViewHost, SaysThatTextBehindANumberIsTheReasonOfARefusal)
     const int row = editor.rowOf(4) + 1;
     EXPECT_EQ(text, QString("Row %1: Mass density must be positive!").arg(row));
     EXPECT_EQ(details,
-              QString("Row %1: The value \"210 GPa\" of \"Density\" would be read as \"210\"; \"GPa\" would be "
-                      "ignored. Type the value without it.")
+              QString("Row %1: The value \"210 GPa\" of \"Density\" would be read as \"210\": \"GPa\" is not part "
+                      "of the number. Type the value in kg/m3, without a unit.")
                   .arg(row));
 }
 

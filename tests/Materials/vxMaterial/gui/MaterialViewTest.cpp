@@ -192,7 +192,7 @@ TEST(MaterialView, ImportsByTheKeyboardAlone)
 {
     Editor editor;
     QListWidget& list = editor.list("lw_lib_general");
-    editor.view()->setFocus();
+    editor.child<QTabWidget>("tabWidget").setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget(), &list);

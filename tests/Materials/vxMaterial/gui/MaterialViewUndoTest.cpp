@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QUndoStack>
+#include <QStatusBar>
 #include <QtTest/QtTestGui>
 #include <gmock/gmock.h>
 
@@ -97,6 +98,17 @@ TEST(MaterialViewUndo, UndoesManyEditsOneByOne)
         press(Qt::Key_Y, Qt::ControlModifier);
         EXPECT_TRUE(shown(editor) == states[step]);
     }
+}
+
+TEST(MaterialViewUndo, NamesTheStepInTheStatusBar)
+{
+    Editor editor;
+    const QStatusBar& status = *Gui::MainWindow::get_main_window_inst()->statusBar();
+    editor.typeValue(4, "2700");
+    pressUndo();
+    EXPECT_EQ(status.currentMessage(), "Undone: Change value");
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(status.currentMessage(), "Redone: Change value");
 }
 
 TEST(MaterialViewUndo, IsReachedFromListsTableAndButtons)

@@ -129,6 +129,13 @@ TEST(WordCompletion, TakesTheChosenWordOnReturn)
     EXPECT_EQ(vxtest::openEditor(editor.table()), nullptr);
 }
 
+TEST(WordCompletion, TakesTheOnlyWordOnReturn)
+{
+    Editor editor;
+    withWords(editor).typeValue(37, "s");
+    EXPECT_EQ(editor.cell(editor.rowOf(37), 2), "Swift");
+}
+
 TEST(WordCompletion, LeavesOtherTextAsItIsTyped)
 {
     Editor editor;

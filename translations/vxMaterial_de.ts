@@ -381,10 +381,6 @@ Unterdrückt</translation>
         <translation>&amp;Anleitung</translation>
     </message>
     <message>
-        <source>Show the guide to the program</source>
-        <translation>Die Anleitung zum Programm anzeigen</translation>
-    </message>
-    <message>
         <source>&amp;Keys</source>
         <translation>&amp;Tasten</translation>
     </message>
@@ -403,6 +399,10 @@ Unterdrückt</translation>
     <message>
         <source>Guide</source>
         <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>Show the guide to the program, or close it</source>
+        <translation>Die Anleitung zum Programm zeigen oder schließen</translation>
     </message>
 </context>
 <context>
@@ -705,10 +705,6 @@ Unterdrückt</translation>
         <translation>Die Änderungen an „%1“ wurden nicht angewendet.</translation>
     </message>
     <message>
-        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; would be read as &quot;%4&quot;; &quot;%5&quot; would be ignored. Type the value without it.</source>
-        <translation>Zeile %1: Der Wert „%2“ von „%3“ würde als „%4“ gelesen; „%5“ würde ignoriert. Geben Sie den Wert ohne diesen Teil ein.</translation>
-    </message>
-    <message>
         <source>Change value</source>
         <translation>Wert ändern</translation>
     </message>
@@ -735,6 +731,18 @@ Unterdrückt</translation>
     <message>
         <source>An error occurred: %1</source>
         <translation>Ein Fehler ist aufgetreten: %1</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; would be read as &quot;%4&quot;: &quot;%5&quot; is not part of the number.</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ würde als „%4“ gelesen: „%5“ gehört nicht zur Zahl.</translation>
+    </message>
+    <message>
+        <source>Type the value without it.</source>
+        <translation>Geben Sie den Wert ohne diesen Teil ein.</translation>
+    </message>
+    <message>
+        <source>Type the value in %1, without a unit.</source>
+        <translation>Geben Sie den Wert in %1 ein, ohne Einheit.</translation>
     </message>
 </context>
 <context>
@@ -1671,11 +1679,11 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was applied: no property has changed.</source>
-        <translation>&quot;%1&quot; wurde übernommen: keine Eigenschaft hat sich geändert.</translation>
+        <translation>„%1“ wurde übernommen: keine Eigenschaft hat sich geändert.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
-        <translation>&quot;%1&quot; wurde übernommen. Eigenschaften hinzugefügt: %2, geändert: %3, entfernt: %4.</translation>
+        <translation>„%1“ wurde übernommen. Eigenschaften hinzugefügt: %2, geändert: %3, entfernt: %4.</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +1699,90 @@ Trotzdem löschen?</translation>
     <message>
         <source>Keys</source>
         <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>everywhere</source>
+        <translation>überall</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Umschalt+Tab</translation>
+    </message>
+    <message>
+        <source>moves between the fields of a part</source>
+        <translation>wechselt zwischen den Feldern eines Teils</translation>
+    </message>
+    <message>
+        <source>explorer</source>
+        <translation>Explorer</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabetaste</translation>
+    </message>
+    <message>
+        <source>opens the material</source>
+        <translation>öffnet das Material</translation>
+    </message>
+    <message>
+        <source>page headers of an editor</source>
+        <translation>Seitentitel eines Editors</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>opens the page</source>
+        <translation>öffnet die Seite</translation>
+    </message>
+    <message>
+        <source>lists of an editor</source>
+        <translation>Listen eines Editors</translation>
+    </message>
+    <message>
+        <source>selects a library material; checks or unchecks a quantity</source>
+        <translation>wählt ein Material der Bibliothek; setzt oder entfernt das Häkchen einer Größe</translation>
+    </message>
+    <message>
+        <source>table of an editor</source>
+        <translation>Tabelle eines Editors</translation>
+    </message>
+    <message>
+        <source>F2 or Return, then Return or Escape</source>
+        <translation>F2 oder Eingabetaste, dann Eingabetaste oder Esc</translation>
+    </message>
+    <message>
+        <source>edits the value of the row; keeps or discards the text</source>
+        <translation>bearbeitet den Wert der Zeile; behält oder verwirft den Text</translation>
+    </message>
+    <message>
+        <source>editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z, Ctrl+Y</source>
+        <translation>Strg+Z, Strg+Y</translation>
+    </message>
+    <message>
+        <source>undoes and redoes changes that have not been applied</source>
+        <translation>macht nicht übernommene Änderungen rückgängig und stellt sie wieder her</translation>
+    </message>
+    <message>
+        <source>guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>closes the guide</source>
+        <translation>schließt die Anleitung</translation>
+    </message>
+    <message>
+        <source>Keys in the parts of the window</source>
+        <translation>Tasten in den Teilen des Fensters</translation>
     </message>
 </context>
 <context>
@@ -1845,6 +1937,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>&amp;Replace</source>
         <translation>E&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a project file.</source>
+        <translation>„%1“ ist eine Projektdatei.</translation>
     </message>
 </context>
 <context>
@@ -2030,7 +2126,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&quot;Save&quot; applies them first.</source>
-        <translation>&quot;Speichern&quot; übernimmt sie zuerst.</translation>
+        <translation>„Speichern“ übernimmt sie zuerst.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is an exchange document, not a project file.</source>
@@ -2068,11 +2164,11 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The changes of &quot;%1&quot; that were not applied are shown in its editor again.</source>
-        <translation>Die nicht übernommenen Änderungen von &quot;%1&quot; stehen wieder in seinem Editor.</translation>
+        <translation>Die nicht übernommenen Änderungen von „%1“ stehen wieder in seinem Editor.</translation>
     </message>
     <message>
         <source>The changes of &quot;%1&quot; that were not applied cannot be shown again.</source>
-        <translation>Die nicht übernommenen Änderungen von &quot;%1&quot; können nicht wieder gezeigt werden.</translation>
+        <translation>Die nicht übernommenen Änderungen von „%1“ können nicht wieder gezeigt werden.</translation>
     </message>
 </context>
 <context>
@@ -2831,11 +2927,11 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Another open project has the name &quot;%1&quot;; nothing was changed.</source>
-        <translation>Ein anderes geöffnetes Projekt hat den Namen &quot;%1&quot;; nichts wurde geändert.</translation>
+        <translation>Ein anderes geöffnetes Projekt hat den Namen „%1“; nichts wurde geändert.</translation>
     </message>
     <message>
         <source>Rename &quot;%1&quot;</source>
-        <translation>&quot;%1&quot; umbenennen</translation>
+        <translation>„%1“ umbenennen</translation>
     </message>
 </context>
 <context>

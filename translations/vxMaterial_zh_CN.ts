@@ -381,10 +381,6 @@ Suppressed</source>
         <translation>指南(&amp;G)</translation>
     </message>
     <message>
-        <source>Show the guide to the program</source>
-        <translation>显示程序指南</translation>
-    </message>
-    <message>
         <source>&amp;Keys</source>
         <translation>按键(&amp;K)</translation>
     </message>
@@ -403,6 +399,10 @@ Suppressed</source>
     <message>
         <source>Guide</source>
         <translation>指南</translation>
+    </message>
+    <message>
+        <source>Show the guide to the program, or close it</source>
+        <translation>显示或关闭程序指南</translation>
     </message>
 </context>
 <context>
@@ -705,10 +705,6 @@ Suppressed</source>
         <translation>“%1”的更改尚未应用。</translation>
     </message>
     <message>
-        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; would be read as &quot;%4&quot;; &quot;%5&quot; would be ignored. Type the value without it.</source>
-        <translation>第 %1 行：“%3”的值“%2”将被读作“%4”；“%5”将被忽略。请输入不含该部分的值。</translation>
-    </message>
-    <message>
         <source>Change value</source>
         <translation>更改值</translation>
     </message>
@@ -735,6 +731,18 @@ Suppressed</source>
     <message>
         <source>An error occurred: %1</source>
         <translation>出现错误：%1</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; would be read as &quot;%4&quot;: &quot;%5&quot; is not part of the number.</source>
+        <translation>第 %1 行：“%3”的值“%2”将被读作“%4”：“%5”不是数字的一部分。</translation>
+    </message>
+    <message>
+        <source>Type the value without it.</source>
+        <translation>请输入不含该部分的值。</translation>
+    </message>
+    <message>
+        <source>Type the value in %1, without a unit.</source>
+        <translation>请输入以 %1 为单位的值，不带单位。</translation>
     </message>
 </context>
 <context>
@@ -1692,6 +1700,90 @@ Delete anyway?</source>
         <source>Keys</source>
         <translation>按键</translation>
     </message>
+    <message>
+        <source>everywhere</source>
+        <translation>任何位置</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab、Shift+Tab</translation>
+    </message>
+    <message>
+        <source>moves between the fields of a part</source>
+        <translation>在一个部分的字段之间移动</translation>
+    </message>
+    <message>
+        <source>explorer</source>
+        <translation>项目浏览器</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>回车键</translation>
+    </message>
+    <message>
+        <source>opens the material</source>
+        <translation>打开材料</translation>
+    </message>
+    <message>
+        <source>page headers of an editor</source>
+        <translation>编辑器的页标题</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格键</translation>
+    </message>
+    <message>
+        <source>opens the page</source>
+        <translation>打开该页</translation>
+    </message>
+    <message>
+        <source>lists of an editor</source>
+        <translation>编辑器的列表</translation>
+    </message>
+    <message>
+        <source>selects a library material; checks or unchecks a quantity</source>
+        <translation>选择库中的材料；勾选或取消勾选一个量</translation>
+    </message>
+    <message>
+        <source>table of an editor</source>
+        <translation>编辑器的表格</translation>
+    </message>
+    <message>
+        <source>F2 or Return, then Return or Escape</source>
+        <translation>F2 或回车键，然后回车键或 Esc</translation>
+    </message>
+    <message>
+        <source>edits the value of the row; keeps or discards the text</source>
+        <translation>编辑该行的值；保留或放弃文本</translation>
+    </message>
+    <message>
+        <source>editor</source>
+        <translation>编辑器</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z, Ctrl+Y</source>
+        <translation>Ctrl+Z、Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>undoes and redoes changes that have not been applied</source>
+        <translation>撤销和重做尚未应用的更改</translation>
+    </message>
+    <message>
+        <source>guide</source>
+        <translation>指南</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>closes the guide</source>
+        <translation>关闭指南</translation>
+    </message>
+    <message>
+        <source>Keys in the parts of the window</source>
+        <translation>窗口各部分中的按键</translation>
+    </message>
 </context>
 <context>
     <name>desktop::KeptEdits</name>
@@ -1845,6 +1937,10 @@ Delete anyway?</source>
     <message>
         <source>&amp;Replace</source>
         <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a project file.</source>
+        <translation>“%1”是项目文件。</translation>
     </message>
 </context>
 <context>

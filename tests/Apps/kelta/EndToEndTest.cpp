@@ -42,8 +42,9 @@ class Display
 public:
     explicit Display(const QString& folder) : m_folder(folder)
     {
-        m_server.start(QStringLiteral("Xvfb"),
-                       {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-fbdir", folder});
+        // Without "-noreset" the server disconnects a program that starts while the last other one ends.
+        m_server.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp",
+                                                "-noreset", "-fbdir", folder});
         QByteArray number;
         while (!number.contains('\n') && m_server.waitForReadyRead(patience))
             number += m_server.readAllStandardOutput();

@@ -98,7 +98,8 @@ public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
         const int side = std::min(size.width(), size.height());
-        const QString key = QStringLiteral("Gui::DrawnIcon %1 %2 %3 %4").arg(m_path).arg(side).arg(mode).arg(isDark());
+        const QString key =
+            QStringLiteral("Gui::DrawnIcon %1 %2 %3 %4").arg(m_path).arg(side).arg(mode).arg(isDark() ? 1 : 0);
         QPixmap picture;
         if (!QPixmapCache::find(key, &picture)) {
             picture = draw(side, mode);

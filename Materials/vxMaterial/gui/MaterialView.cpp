@@ -475,6 +475,16 @@ void MaterialView::clear()
 
 void MaterialView::currentTagChangedSlot(int /*index*/) {}
 
+/// The Tab key stops at a widget with a focus proxy. After the last button it must go on at the tabs, which are the first
+/// in the order, and not at the table.
+bool MaterialView::focusNextPrevChild(bool next)
+{
+    setFocusProxy(m_ui->tabWidget);
+    const bool isMoved = MDIWindow::focusNextPrevChild(next);
+    chooseFocus();
+    return isMoved;
+}
+
 void MaterialView::keyPressEvent(QKeyEvent* event)
 {
     // A user who edits values must not delete the material in the tree by mistake.

@@ -111,6 +111,7 @@ protected:
     /// Checks the quantities of `material` on the Build tab, and no others; does not change the table. Ignores null.
     void updatePropertyList(vxMat::MaterialBase* material);
 
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;

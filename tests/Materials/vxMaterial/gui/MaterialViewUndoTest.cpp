@@ -3,8 +3,8 @@
 
 #include <QAction>
 #include <QLineEdit>
-#include <QUndoStack>
 #include <QStatusBar>
+#include <QUndoStack>
 #include <QtTest/QtTestGui>
 #include <gmock/gmock.h>
 

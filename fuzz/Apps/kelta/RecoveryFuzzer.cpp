@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 /// was opened can be saved, and the saved text is read without an error.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static desktop::Questions questions(vxfuzz::mainWindow());
+    static desktop::Questions questions(vxfuzz::mainWindow(), desktop::Questions::ForeignLocks::Ask);
     static desktop::Sessions sessions;
     static desktop::Opening opening(vxfuzz::mainWindow(), sessions, questions, [](const QString&) { return false; });
     if (Obj::Project* const project = open(opening, vxfuzz::textOf(data, size))) {

@@ -82,7 +82,7 @@ public:
 
     /// Declares that this object needs `other`. The link is kept while one of them is kept for undo. Returns false if
     /// `other` is this object itself, or belongs to another project, which is reported to the message log.
-    bool linkTo(ProjectObject& other);
+    virtual bool linkTo(ProjectObject& other);
     /// Removes such a link; a link in the other direction is kept. Does nothing if there is none.
     void unlinkFrom(ProjectObject& other);
     /// Returns the objects of the project that this object needs by a link or a PropertyReference, in order of linking.

@@ -68,12 +68,17 @@ bool ProjectObjectGroup::addMember(ProjectObject& object)
             object, *this);
         return false;
     }
-    if (!linkTo(object))
+    if (!ProjectObject::linkTo(object))
         return false;
     if (former != nullptr)
         former->unlinkFrom(object);
     object.notifyChange();
     return true;
+}
+
+bool ProjectObjectGroup::linkTo(ProjectObject& other)
+{
+    return addMember(other);
 }
 
 void ProjectObjectGroup::removeMember(ProjectObject& object)

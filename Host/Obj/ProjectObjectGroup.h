@@ -24,6 +24,8 @@ public:
     /// change of `object`. Returns false, with a report, if `object` belongs to another project, is this group or a
     /// group that contains it, or if it or its members would be nested too deeply.
     bool addMember(ProjectObject& object);
+    /// Adds `other` as addMember() does: the links of a group are its members.
+    bool linkTo(ProjectObject& other) override;
     /// Removes `object` from the group, and notifies the listeners. Does nothing if it is not a member.
     void removeMember(ProjectObject& object);
     /// Returns the members that are in the project, in the order of their addition.

@@ -1,7 +1,6 @@
 #include "Obj/PropertyRecords.h"
 
 #include "Obj/Project.h"
-#include "Obj/ProjectObjectGroup.h"
 #include "Obj/PropertyReference.h"
 
 #include <QCoreApplication>
@@ -38,10 +37,7 @@ bool readLink(ProjectObject& object, const Json::Value& value, const Renumbering
     const Project* const project = object.get_project();
     ProjectObject* const other =
         project != nullptr && objectId.isUInt() ? project->get_object(objectId.asUInt()) : nullptr;
-    if (other == nullptr)
-        return false;
-    auto* const group = dynamic_cast<ProjectObjectGroup*>(&object);
-    return group != nullptr ? group->addMember(*other) : object.linkTo(*other);
+    return other != nullptr && object.linkTo(*other);
 }
 
 } // namespace

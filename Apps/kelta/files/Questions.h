@@ -34,9 +34,8 @@ public:
     /// Reports an error to the user.
     void complain(const QString& title, const QString& text) const;
 
-    /// Takes the lock of a file. If another program has it, asks the user whether to use the file anyway, or to take
-    /// over the lock if the program ran on another computer and ForeignLocks does not say so. Returns whether the file
-    /// may be used.
+    /// Takes the lock of a file. If a program on this computer has it, asks the user whether to use the file anyway; if a
+    /// program on another computer has it, takes it over as ForeignLocks says. Returns whether the file may be used.
     bool mayUse(projectfile::FileLock& lock, const QString& path) const;
 
     /// The reason why a file differs from the project as this program last read or wrote it.

@@ -3,6 +3,7 @@
 #include "Help.h"
 
 #include "Gui/CommandController.h"
+#include "Gui/WindowTitle.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -22,9 +23,9 @@ QUrl keysUrl()
 }
 
 /// Returns the text of a menu entry without the marks of its mnemonic and of its dialog.
-QString plainText(QString menuText)
+QString plainText(const QString& menuText)
 {
-    return menuText.remove(QLatin1Char('&')).remove(QStringLiteral("..."));
+    return Gui::withoutMnemonics(menuText).remove(QStringLiteral("..."));
 }
 
 /// A key that works in a part of the window only.

@@ -31,18 +31,6 @@ void drawTabClose(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
-/// Returns a text as it is shown: without the marks of mnemonics.
-QString withoutMarks(const QString& text)
-{
-    QString shown;
-    for (int i = 0; i < text.size(); ++i) {
-        if (text[i] == QLatin1Char('&') && ++i == text.size())
-            break;
-        shown += text[i];
-    }
-    return shown;
-}
-
 } // namespace
 
 HostStyle::HostStyle() = default;
@@ -84,7 +72,7 @@ void HostStyle::drawControl(ControlElement element, const QStyleOption* option, 
 void HostStyle::drawToolBoxTitle(const QStyleOptionToolBox& title, QPainter* painter, const QWidget* widget) const
 {
     constexpr int margins = 12; // of the base style
-    const QString text = withoutMarks(title.text);
+    const QString text = withoutMnemonics(title.text);
     // The base style measures each "&" twice.
     const int marks = text.count(QLatin1Char('&')) * title.fontMetrics.horizontalAdvance(QLatin1Char('&'));
     const int width = subElementRect(SE_ToolBoxTabContents, &title, widget).width() - margins - marks;

@@ -134,7 +134,7 @@ bool Command::invoke(int index)
         // The result of an earlier command is not the result of this one.
         window->statusBar()->clearMessage();
     }
-    const QString name = get_menu_info().remove(QLatin1Char('&'));
+    const QString name = withoutMnemonics(get_menu_info());
     bool done = false;
     Kelta::guarded(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed").arg(name), [&] {
         if (!canRun())

@@ -45,6 +45,17 @@ QString escapedForMnemonics(QString text)
     return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+QString withoutMnemonics(const QString& text)
+{
+    QString shown;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('&') && ++i == text.size())
+            break;
+        shown += text[i];
+    }
+    return shown;
+}
+
 QString escapedForToolTip(const QString& text)
 {
     if (!Qt::mightBeRichText(text))

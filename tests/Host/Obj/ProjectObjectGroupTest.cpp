@@ -142,6 +142,18 @@ TEST_F(ProjectObjectGroupTest, CannotBeInsideItselfOrItsMembers)
     EXPECT_THAT(inner.getMembers(), IsEmpty());
 }
 
+TEST_F(ProjectObjectGroupTest, TakesAsMembersWhatItIsLinkedTo)
+{
+    ProjectObjectGroup& outer = addGroup("outer");
+    ProjectObjectGroup& inner = addGroup("inner");
+    EXPECT_TRUE(outer.linkTo(inner));
+    EXPECT_EQ(inner.getParentGroup(), &outer);
+    const vxtest::Reports reports;
+    EXPECT_FALSE(inner.linkTo(outer));
+    EXPECT_EQ(reports.errors(), 1);
+    EXPECT_EQ(outer.getParentGroup(), nullptr);
+}
+
 TEST_F(ProjectObjectGroupTest, IsNestedOnlyAHundredLevelsDeep)
 {
     std::vector<ProjectObjectGroup*> groups;

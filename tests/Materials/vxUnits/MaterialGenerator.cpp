@@ -1,6 +1,6 @@
 #include "MaterialGenerator.h"
 
-#include "TestTable.h"
+#include "DataFile.h"
 
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -301,7 +301,7 @@ bool isVisible(const UsualSlip& slip, const SampleMaterial& material)
 
 std::vector<SampleMaterial> makeMaterials(int variations)
 {
-    const std::vector<Row> rows = readTestTable("materials.tsv");
+    const std::vector<Row> rows = readTable("units/materials.tsv");
     std::vector<SampleMaterial> materials;
     std::uint32_t seed = 1;
     for (const Row& row : rows) {

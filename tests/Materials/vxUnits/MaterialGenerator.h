@@ -17,8 +17,9 @@ struct SampleMaterial
     vxUnits::MaterialValues values;
 };
 
-/// The materials of materials.tsv, and `variations` of each: values that scatter together as they do in nature (a denser
-/// foam is stiffer), with plasticity, visco-elasticity and creep where they are usual. The same ones at each call.
+/// The materials of tests/data/units/materials.tsv, and `variations` of each: values that scatter together as they do in
+/// nature (a denser foam is stiffer), with plasticity, visco-elasticity and creep where they are usual. The same ones at
+/// each call.
 std::vector<SampleMaterial> makeMaterials(int variations);
 
 /// A value that somebody typed in another unit than that of the catalogue.

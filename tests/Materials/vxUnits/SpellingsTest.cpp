@@ -1,5 +1,5 @@
+#include "DataFile.h"
 #include "ExactNumber.h"
-#include "TestTable.h"
 
 #include "vxUnits/Reading.h"
 
@@ -24,7 +24,7 @@ TemperatureMeaning meaningOf(const std::string& word)
 
 TEST(Spellings, EachGivesTheNumberThatFollowsFromTheDefinitions)
 {
-    const auto rows = vxtest::readTestTable("spellings.tsv");
+    const auto rows = vxtest::readTable("units/spellings.tsv");
     EXPECT_GE(rows.size(), 200U);
     for (const auto& row : rows) {
         const auto unit = Unit::parse(row.at(1));
@@ -40,7 +40,7 @@ TEST(Spellings, EachGivesTheNumberThatFollowsFromTheDefinitions)
 
 TEST(Spellings, WhatWasUnderstoodReadsAsTheSame)
 {
-    for (const auto& row : vxtest::readTestTable("spellings.tsv")) {
+    for (const auto& row : vxtest::readTable("units/spellings.tsv")) {
         const Unit unit = *Unit::parse(row.at(1));
         const TemperatureMeaning meaning = meaningOf(row.size() > 3 ? row[3] : "");
         const auto reading = readNumber(row[0], unit, meaning);

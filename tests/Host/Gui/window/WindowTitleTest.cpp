@@ -40,6 +40,15 @@ TEST(WindowTitle, IsWhatTheWindowSystemShows)
     }
 }
 
+TEST(WindowTitle, IsShownWithoutTheMarksOfMnemonics)
+{
+    for (const auto& [text, shown] : {std::pair("&Edit", "Edit"), std::pair("Thermal && &Fluid", "Thermal & Fluid"),
+                                      std::pair("a&&&&b", "a&&b"), std::pair("end&", "end"), std::pair("", "")})
+        EXPECT_EQ(Gui::withoutMnemonics(text), shown) << text;
+    const QString anything = QStringLiteral("&a && &&& b&");
+    EXPECT_EQ(Gui::withoutMnemonics(Gui::escapedForMnemonics(anything)), anything);
+}
+
 TEST(WindowTitle, LeavesToolTipsWithoutMarkupAsTheyAre)
 {
     EXPECT_EQ(Gui::escapedForToolTip("a & b\nc"), "a & b\nc");

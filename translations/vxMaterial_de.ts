@@ -2935,6 +2935,1104 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxUnits::Message</name>
+    <message>
+        <source>Did you mean &quot;%1&quot;?</source>
+        <translation>Meinten Sie „%1“?</translation>
+    </message>
+    <message>
+        <source>Nothing was typed; a number is needed.</source>
+        <translation>Es wurde nichts eingegeben; eine Zahl ist nötig.</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8.</source>
+        <translation>Der Text ist kein gültiges UTF-8.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not begin with a number.</source>
+        <translation>„%1“ beginnt nicht mit einer Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number.</source>
+        <translation>„%1“ ist keine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a hexadecimal number; write it in decimals.</source>
+        <translation>„%1“ ist eine Hexadezimalzahl; schreiben Sie sie dezimal.</translation>
+    </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; has no digits.</source>
+        <translation>Der Exponent in „%1“ hat keine Ziffern.</translation>
+    </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; is not a whole number.</source>
+        <translation>Der Exponent in „%1“ ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; must be written with the letter e.</source>
+        <translation>Der Exponent in „%1“ muss mit dem Buchstaben e geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than one decimal point.</source>
+        <translation>„%1“ hat mehr als einen Dezimalpunkt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a decimal comma; the decimal sign is a point.</source>
+        <translation>„%1“ hat ein Dezimalkomma; das Dezimalzeichen ist ein Punkt.</translation>
+    </message>
+    <message>
+        <source>The comma in &quot;%1&quot; may separate decimals or thousands; write %2 or %3.</source>
+        <translation>Das Komma in „%1“ kann Dezimalen oder Tausender trennen; schreiben Sie %2 oder %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has digits in groups; write the number without separators.</source>
+        <translation>„%1“ hat Ziffern in Gruppen; schreiben Sie die Zahl ohne Trennzeichen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than one number; one number is needed.</source>
+        <translation>„%1“ enthält mehr als eine Zahl; eine Zahl ist nötig.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is outside the range of numbers, 1e-308 to 1e308.</source>
+        <translation>„%1“ liegt außerhalb des Zahlenbereichs 1e-308 bis 1e308.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains the character %2, which no number and no unit has.</source>
+        <translation>„%1“ enthält das Zeichen %2, das in keiner Zahl und keiner Einheit vorkommt.</translation>
+    </message>
+    <message>
+        <source>A unit is missing in &quot;%1&quot; after &quot;%2&quot;.</source>
+        <translation>In „%1“ fehlt nach „%2“ eine Einheit.</translation>
+    </message>
+    <message>
+        <source>The number %2 must not stand in the unit &quot;%1&quot;.</source>
+        <translation>Die Zahl %2 darf nicht in der Einheit „%1“ stehen.</translation>
+    </message>
+    <message>
+        <source>A power is missing in the unit &quot;%1&quot;.</source>
+        <translation>In der Einheit „%1“ fehlt ein Exponent.</translation>
+    </message>
+    <message>
+        <source>A power in the unit &quot;%1&quot; is not between -50 and 50.</source>
+        <translation>Ein Exponent in der Einheit „%1“ liegt nicht zwischen -50 und 50.</translation>
+    </message>
+    <message>
+        <source>A parenthesis in the unit &quot;%1&quot; is not closed.</source>
+        <translation>Eine Klammer in der Einheit „%1“ ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A parenthesis in the unit &quot;%1&quot; is closed but not opened.</source>
+        <translation>Eine Klammer in der Einheit „%1“ ist geschlossen, aber nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; has more than 40 parts.</source>
+        <translation>Die Einheit „%1“ hat mehr als 40 Teile.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; has more than 20 parentheses inside each other.</source>
+        <translation>Die Einheit „%1“ hat mehr als 20 verschachtelte Klammern.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; is not known.</source>
+        <translation>Die Einheit „%1“ ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than one meaning; write %2.</source>
+        <translation>„%1“ hat mehrere Bedeutungen; schreiben Sie %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; a unit such as %3 is needed.</source>
+        <translation>„%1“ ist eine Angabe für: %2; nötig ist eine Einheit wie %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; %4 needs a unit such as %3.</source>
+        <translation>„%1“ ist eine Angabe für: %2; %4 benötigt eine Einheit wie %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; %3 is a pure number.</source>
+        <translation>„%1“ ist eine Angabe für: %2; %3 ist eine reine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; %4 is its reciprocal and needs a unit such as %3.</source>
+        <translation>„%1“ ist eine Angabe für: %2; %4 ist der Kehrwert und benötigt eine Einheit wie %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a temperature; a difference of temperatures is needed.</source>
+        <translation>„%1“ ist eine Temperatur; nötig ist eine Temperaturdifferenz.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is below the absolute zero of temperature.</source>
+        <translation>„%1“ liegt unter dem absoluten Nullpunkt der Temperatur.</translation>
+    </message>
+    <message>
+        <source>%1 is a word; it takes no number.</source>
+        <translation>%1 ist ein Wort und nimmt keine Zahl an.</translation>
+    </message>
+    <message>
+        <source>%1 is a switch; it takes no number.</source>
+        <translation>%1 ist ein Schalter und nimmt keine Zahl an.</translation>
+    </message>
+    <message>
+        <source>No quantity has the id %1.</source>
+        <translation>Keine Größe hat die Kennung %1.</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2 and %3, which are not given; write the number without a unit.</source>
+        <translation>Die Einheit von %1 hängt von %2 und %3 ab, die nicht angegeben sind; schreiben Sie die Zahl ohne Einheit.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; is not built in, and the database of units cannot be read: %2. Install the data of UDUNITS-2, or have the environment variable UDUNITS2_XML_PATH name the file udunits2.xml.</source>
+        <translation>Die Einheit „%1“ ist nicht eingebaut, und die Einheitendatenbank kann nicht gelesen werden: %2. Installieren Sie die Daten von UDUNITS-2, oder geben Sie in der Umgebungsvariablen UDUNITS2_XML_PATH die Datei udunits2.xml an.</translation>
+    </message>
+    <message>
+        <source>Number %1 of the list is missing.</source>
+        <translation>Die Zahl %1 der Liste fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no unit. Give one unit after the last number, or a unit after each number.</source>
+        <translation>„%1“ hat keine Einheit. Geben Sie eine Einheit nach der letzten Zahl an, oder eine nach jeder Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; looks like decimals after a comma. The decimal sign is a point; commas separate the numbers of a list.</source>
+        <translation>„%1“ sieht wie Dezimalen nach einem Komma aus. Das Dezimalzeichen ist ein Punkt; Kommas trennen die Zahlen einer Liste.</translation>
+    </message>
+    <message>
+        <source>A unit system needs a name (%1) or its base units (%2).</source>
+        <translation>Ein Einheitensystem benötigt einen Namen (%1) oder seine Basiseinheiten (%2).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not begin with one of length, mass, time, temperature and current.</source>
+        <translation>„%1“ beginnt nicht mit length, mass, time, temperature oder current.</translation>
+    </message>
+    <message>
+        <source>The unit system gives the unit of %1 twice.</source>
+        <translation>Das Einheitensystem gibt die Einheit von %1 zweimal an.</translation>
+    </message>
+    <message>
+        <source>The unit system gives no unit of %1.</source>
+        <translation>Das Einheitensystem gibt keine Einheit von %1 an.</translation>
+    </message>
+    <message>
+        <source>cal is the International Table calorie, 4.1868 J; cal_th is 4.184 J.</source>
+        <translation>cal ist die Internationale Tafelkalorie, 4.1868 J; cal_th ist 4.184 J.</translation>
+    </message>
+    <message>
+        <source>Btu is the International Table unit, 1055.05585262 J; Btu_th is 1054.35026 J.</source>
+        <translation>Btu ist die Einheit der Internationalen Tafel, 1055.05585262 J; Btu_th ist 1054.35026 J.</translation>
+    </message>
+    <message>
+        <source>The year has 365.25 days.</source>
+        <translation>Das Jahr hat 365.25 Tage.</translation>
+    </message>
+    <message>
+        <source>oz is the avoirdupois ounce, 1/16 lb; the ounce of force is ozf.</source>
+        <translation>oz ist die Avoirdupois-Unze, 1/16 lb; die Unze als Kraft ist ozf.</translation>
+    </message>
+    <message>
+        <source>The gallon is the gallon of the United States, 231 in^3.</source>
+        <translation>Die Gallone ist die der Vereinigten Staaten, 231 in^3.</translation>
+    </message>
+    <message>
+        <source>hp is 550 ft lbf/s; the metric horsepower is PS.</source>
+        <translation>hp ist 550 ft lbf/s; die metrische Pferdestärke ist PS.</translation>
+    </message>
+    <message>
+        <source>100 %IACS is 58 MS/m (IEC 60028).</source>
+        <translation>100 %IACS sind 58 MS/m (IEC 60028).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is taken from the database of UDUNITS, with as many digits as it has there.</source>
+        <translation>„%1“ stammt aus der Datenbank von UDUNITS, mit so vielen Stellen wie dort.</translation>
+    </message>
+    <message>
+        <source>%1 is not a finite number.</source>
+        <translation>%1 ist keine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 = %2: the value must be above 0.</source>
+        <translation>%1 = %2: Der Wert muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>%1 = %2: the value must not be negative.</source>
+        <translation>%1 = %2: Der Wert darf nicht negativ sein.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is below what known materials have, %5 (%7) to %6 (%8).</source>
+        <translation>%1 = %2 liegt unter den Werten bekannter Materialien, %5 (%7) bis %6 (%8).</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is above what known materials have, %5 (%7) to %6 (%8).</source>
+        <translation>%1 = %2 liegt über den Werten bekannter Materialien, %5 (%7) bis %6 (%8).</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is outside -1 to 0.5; such a solid would release energy by itself.</source>
+        <translation>%1 = %2 liegt außerhalb von -1 bis 0.5; ein solcher Körper würde von selbst Energie abgeben.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is so near 0.5 that elements lock; take a hyperelastic model, or at most %6.</source>
+        <translation>%1 = %2 ist so nahe an 0.5, dass Elemente sperren; nehmen Sie ein hyperelastisches Modell oder höchstens %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: only rubber and gels are above %6.</source>
+        <translation>%1 = %2 mit %3: Nur Gummi und Gele liegen über %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a wave speed of %4; known solids of such a density have %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ergibt eine Wellengeschwindigkeit von %4; bekannte Festkörper dieser Dichte haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: known solids so light have at most %6.</source>
+        <translation>%1 = %2 mit %3: Bekannte so leichte Festkörper haben höchstens %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a heat capacity of %4; known matter has %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ergibt eine Wärmekapazität von %4; bekannte Stoffe haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a thermal diffusivity of %4; known materials have %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ergibt eine Temperaturleitfähigkeit von %4; bekannte Materialien haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a Lorenz number of %4; known metals have %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ergibt eine Lorenz-Zahl von %4; bekannte Metalle haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the moduli give speeds from %5 to %6.</source>
+        <translation>%1 = %2 mit %3: Die Moduln ergeben Geschwindigkeiten von %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a bulk modulus of %4; known fluids of such a density have %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ergibt einen Kompressionsmodul von %4; bekannte Fluide dieser Dichte haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: heat and conductivity are those of water, which has %5 to %6.</source>
+        <translation>%1 = %2 mit %3: Wärme und Leitfähigkeit sind die von Wasser, das %5 bis %6 hat.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 is a share of the modulus of %4; known solids have %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ist ein Anteil von %4 am Modul; bekannte Festkörper haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 is a share of the modulus of %4; known metals have %5 to %6, or 0.</source>
+        <translation>%1 = %2 mit %3 ist ein Anteil von %4 am Modul; bekannte Metalle haben %5 bis %6 oder 0.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the initial modulus of the hyperelastic model is %4 times Young&apos;s modulus; %5 to %6 times is sensible.</source>
+        <translation>%1 = %2 mit %3: Der Anfangsmodul des hyperelastischen Modells ist das %4-Fache des Elastizitätsmoduls; sinnvoll ist das %5- bis %6-Fache.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the initial bulk modulus is %4 times the shear modulus; known rubbers and gels have %5 to %6 times.</source>
+        <translation>%1 = %2 mit %3: Der anfängliche Kompressionsmodul ist das %4-Fache des Schubmoduls; bei bekannten Gummis und Gelen ist es das %5- bis %6-Fache.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the initial shear modulus is %4; it must be above 0.</source>
+        <translation>%1 = %2 mit %3: Der anfängliche Schubmodul ist %4; er muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>%1 has %4 numbers and %3; each strain needs one stress.</source>
+        <translation>%1 hat %4 Zahlen und %3; jede Dehnung benötigt eine Spannung.</translation>
+    </message>
+    <message>
+        <source>%1 begins with %4; the first plastic strain is 0, at the first yield.</source>
+        <translation>%1 beginnt mit %4; die erste plastische Dehnung ist 0, beim ersten Fließen.</translation>
+    </message>
+    <message>
+        <source>%1 does not rise from %5 to %4.</source>
+        <translation>%1 steigt von %5 zu %4 nicht an.</translation>
+    </message>
+    <message>
+        <source>%1 falls below %5 to %4; hardening does not fall.</source>
+        <translation>%1 fällt unter %5 auf %4; Verfestigung fällt nicht.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a strain rate of %4 at a thousandth of the modulus; %5 to %6 is within reach.</source>
+        <translation>%1 = %2 mit %3 ergibt bei einem Tausendstel des Moduls eine Dehnrate von %4; möglich sind %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 does not fit the other values.</source>
+        <translation>%1 = %2 passt nicht zu den anderen Werten.</translation>
+    </message>
+    <message>
+        <source>%1 is usual for %2: multiply by %3</source>
+        <translation>%1 ist üblich für %2: mit %3 multiplizieren</translation>
+    </message>
+    <message>
+        <source>%1 would not be doubted: multiply by %2</source>
+        <translation>%1 wäre nicht zweifelhaft: mit %2 multiplizieren</translation>
+    </message>
+    <message>
+        <source>%1 is usual for the resistivity of %2: take the reciprocal</source>
+        <translation>%1 ist üblich für den spezifischen Widerstand von %2: den Kehrwert nehmen</translation>
+    </message>
+    <message>
+        <source>The stresses look like %1: convert them</source>
+        <translation>Die Spannungen sehen wie %1 aus: umrechnen</translation>
+    </message>
+    <message>
+        <source>The values look like %1: convert the material</source>
+        <translation>Die Werte sehen wie %1 aus: das Material umrechnen</translation>
+    </message>
+</context>
+<context>
+    <name>vxUnits::Word</name>
+    <message>
+        <source>N-methylformamide</source>
+        <translation>N-Methylformamid</translation>
+    </message>
+    <message>
+        <source>a pure number</source>
+        <translation>eine reine Zahl</translation>
+    </message>
+    <message>
+        <source>acceleration</source>
+        <translation>Beschleunigung</translation>
+    </message>
+    <message>
+        <source>aerogel</source>
+        <translation>Aerogel</translation>
+    </message>
+    <message>
+        <source>air or a similar gas</source>
+        <translation>Luft oder ein ähnliches Gas</translation>
+    </message>
+    <message>
+        <source>alcohol, hydrocarbon or solvent</source>
+        <translation>Alkohol, Kohlenwasserstoff oder Lösungsmittel</translation>
+    </message>
+    <message>
+        <source>alkali or alkaline earth metal</source>
+        <translation>Alkali- oder Erdalkalimetall</translation>
+    </message>
+    <message>
+        <source>aluminium alloy</source>
+        <translation>Aluminiumlegierung</translation>
+    </message>
+    <message>
+        <source>aluminium nitride or beryllia</source>
+        <translation>Aluminiumnitrid oder Berylliumoxid</translation>
+    </message>
+    <message>
+        <source>amount of substance</source>
+        <translation>Stoffmenge</translation>
+    </message>
+    <message>
+        <source>angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>asphalt</source>
+        <translation>Asphalt</translation>
+    </message>
+    <message>
+        <source>auxetic foam</source>
+        <translation>auxetischer Schaum</translation>
+    </message>
+    <message>
+        <source>bamboo</source>
+        <translation>Bambus</translation>
+    </message>
+    <message>
+        <source>bentonite</source>
+        <translation>Bentonit</translation>
+    </message>
+    <message>
+        <source>beryllium</source>
+        <translation>Beryllium</translation>
+    </message>
+    <message>
+        <source>bismuth or antimony</source>
+        <translation>Bismut oder Antimon</translation>
+    </message>
+    <message>
+        <source>blood, milk or suspension</source>
+        <translation>Blut, Milch oder Suspension</translation>
+    </message>
+    <message>
+        <source>bone or tooth</source>
+        <translation>Knochen oder Zahn</translation>
+    </message>
+    <message>
+        <source>boride or carbide of a heavy metal</source>
+        <translation>Borid oder Carbid eines Schwermetalls</translation>
+    </message>
+    <message>
+        <source>boron carbide</source>
+        <translation>Borcarbid</translation>
+    </message>
+    <message>
+        <source>boron fibre composite</source>
+        <translation>Borfaser-Verbundwerkstoff</translation>
+    </message>
+    <message>
+        <source>boron nitride, pressed</source>
+        <translation>Bornitrid, gepresst</translation>
+    </message>
+    <message>
+        <source>calcium copper titanate</source>
+        <translation>Calcium-Kupfer-Titanat</translation>
+    </message>
+    <message>
+        <source>carbon fibre</source>
+        <translation>Kohlenstofffaser</translation>
+    </message>
+    <message>
+        <source>carbon fibre composite</source>
+        <translation>Kohlenstofffaser-Verbundwerkstoff</translation>
+    </message>
+    <message>
+        <source>carbon or graphite</source>
+        <translation>Kohlenstoff oder Graphit</translation>
+    </message>
+    <message>
+        <source>cast iron</source>
+        <translation>Gusseisen</translation>
+    </message>
+    <message>
+        <source>chromium, manganese or vanadium</source>
+        <translation>Chrom, Mangan oder Vanadium</translation>
+    </message>
+    <message>
+        <source>cobalt alloy</source>
+        <translation>Kobaltlegierung</translation>
+    </message>
+    <message>
+        <source>compressed gas</source>
+        <translation>verdichtetes Gas</translation>
+    </message>
+    <message>
+        <source>compressed hydrogen or helium</source>
+        <translation>verdichteter Wasserstoff oder verdichtetes Helium</translation>
+    </message>
+    <message>
+        <source>compressibility</source>
+        <translation>Kompressibilität</translation>
+    </message>
+    <message>
+        <source>concrete</source>
+        <translation>Beton</translation>
+    </message>
+    <message>
+        <source>copper alloy</source>
+        <translation>Kupferlegierung</translation>
+    </message>
+    <message>
+        <source>cork</source>
+        <translation>Kork</translation>
+    </message>
+    <message>
+        <source>cryogenic liquid</source>
+        <translation>tiefkalte Flüssigkeit</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>diamond</source>
+        <translation>Diamant</translation>
+    </message>
+    <message>
+        <source>diffusion creep</source>
+        <translation>Diffusionskriechen</translation>
+    </message>
+    <message>
+        <source>dispersion-strengthened alloy</source>
+        <translation>dispersionsverfestigte Legierung</translation>
+    </message>
+    <message>
+        <source>dry gas</source>
+        <translation>trockenes Gas</translation>
+    </message>
+    <message>
+        <source>dynamic viscosity</source>
+        <translation>dynamische Viskosität</translation>
+    </message>
+    <message>
+        <source>ebonite</source>
+        <translation>Hartgummi</translation>
+    </message>
+    <message>
+        <source>elastic solid</source>
+        <translation>elastischer Festkörper</translation>
+    </message>
+    <message>
+        <source>electric charge</source>
+        <translation>elektrische Ladung</translation>
+    </message>
+    <message>
+        <source>electric current</source>
+        <translation>elektrischer Strom</translation>
+    </message>
+    <message>
+        <source>electrical conductance</source>
+        <translation>elektrischer Leitwert</translation>
+    </message>
+    <message>
+        <source>electrical conductivity</source>
+        <translation>elektrische Leitfähigkeit</translation>
+    </message>
+    <message>
+        <source>electrical resistance</source>
+        <translation>elektrischer Widerstand</translation>
+    </message>
+    <message>
+        <source>electrical resistivity</source>
+        <translation>spezifischer elektrischer Widerstand</translation>
+    </message>
+    <message>
+        <source>energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message>
+        <source>energy per mass</source>
+        <translation>Energie je Masse</translation>
+    </message>
+    <message>
+        <source>ferrite</source>
+        <translation>Ferrit</translation>
+    </message>
+    <message>
+        <source>ferrofluid</source>
+        <translation>Ferrofluid</translation>
+    </message>
+    <message>
+        <source>filled rubber</source>
+        <translation>gefüllter Gummi</translation>
+    </message>
+    <message>
+        <source>first yield</source>
+        <translation>erstes Fließen</translation>
+    </message>
+    <message>
+        <source>fitted constant</source>
+        <translation>angepasste Konstante</translation>
+    </message>
+    <message>
+        <source>fluid</source>
+        <translation>Fluid</translation>
+    </message>
+    <message>
+        <source>fluoropolymer</source>
+        <translation>Fluorpolymer</translation>
+    </message>
+    <message>
+        <source>force</source>
+        <translation>Kraft</translation>
+    </message>
+    <message>
+        <source>force per length</source>
+        <translation>Kraft je Länge</translation>
+    </message>
+    <message>
+        <source>force per volume</source>
+        <translation>Kraft je Volumen</translation>
+    </message>
+    <message>
+        <source>frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>gel</source>
+        <translation>Gel</translation>
+    </message>
+    <message>
+        <source>germanium or gallium arsenide</source>
+        <translation>Germanium oder Galliumarsenid</translation>
+    </message>
+    <message>
+        <source>glass</source>
+        <translation>Glas</translation>
+    </message>
+    <message>
+        <source>glass ceramic</source>
+        <translation>Glaskeramik</translation>
+    </message>
+    <message>
+        <source>glass or aramid fibre composite</source>
+        <translation>Glas- oder Aramidfaser-Verbundwerkstoff</translation>
+    </message>
+    <message>
+        <source>glass transition of a fluid</source>
+        <translation>Glasübergang eines Fluids</translation>
+    </message>
+    <message>
+        <source>glass, basalt or ceramic fibre</source>
+        <translation>Glas-, Basalt- oder Keramikfaser</translation>
+    </message>
+    <message>
+        <source>graphene aerogel</source>
+        <translation>Graphen-Aerogel</translation>
+    </message>
+    <message>
+        <source>halogenated liquid</source>
+        <translation>halogenierte Flüssigkeit</translation>
+    </message>
+    <message>
+        <source>hard metal</source>
+        <translation>Hartmetall</translation>
+    </message>
+    <message>
+        <source>heat capacity</source>
+        <translation>Wärmekapazität</translation>
+    </message>
+    <message>
+        <source>heat transfer coefficient</source>
+        <translation>Wärmeübergangskoeffizient</translation>
+    </message>
+    <message>
+        <source>heavy gas</source>
+        <translation>schweres Gas</translation>
+    </message>
+    <message>
+        <source>helium</source>
+        <translation>Helium</translation>
+    </message>
+    <message>
+        <source>hexane</source>
+        <translation>Hexan</translation>
+    </message>
+    <message>
+        <source>honeycomb</source>
+        <translation>Wabe</translation>
+    </message>
+    <message>
+        <source>hot gas</source>
+        <translation>heißes Gas</translation>
+    </message>
+    <message>
+        <source>hot neon</source>
+        <translation>heißes Neon</translation>
+    </message>
+    <message>
+        <source>hydrocarbon vapour</source>
+        <translation>Kohlenwasserstoffdampf</translation>
+    </message>
+    <message>
+        <source>hydrogel</source>
+        <translation>Hydrogel</translation>
+    </message>
+    <message>
+        <source>hydrogen</source>
+        <translation>Wasserstoff</translation>
+    </message>
+    <message>
+        <source>hydrogen or helium</source>
+        <translation>Wasserstoff oder Helium</translation>
+    </message>
+    <message>
+        <source>ice</source>
+        <translation>Eis</translation>
+    </message>
+    <message>
+        <source>ideal plasticity</source>
+        <translation>ideale Plastizität</translation>
+    </message>
+    <message>
+        <source>insulating wool or granulate</source>
+        <translation>Dämmwolle oder Dämmschüttung</translation>
+    </message>
+    <message>
+        <source>ionised air</source>
+        <translation>ionisierte Luft</translation>
+    </message>
+    <message>
+        <source>kinematic viscosity or diffusivity</source>
+        <translation>kinematische Viskosität oder Temperaturleitfähigkeit</translation>
+    </message>
+    <message>
+        <source>lead, tin or solder</source>
+        <translation>Blei, Zinn oder Lot</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>light concrete</source>
+        <translation>Leichtbeton</translation>
+    </message>
+    <message>
+        <source>light gas</source>
+        <translation>leichtes Gas</translation>
+    </message>
+    <message>
+        <source>liquefied gas or refrigerant</source>
+        <translation>Flüssiggas oder Kältemittel</translation>
+    </message>
+    <message>
+        <source>liquid aluminium</source>
+        <translation>flüssiges Aluminium</translation>
+    </message>
+    <message>
+        <source>liquid helium</source>
+        <translation>flüssiges Helium</translation>
+    </message>
+    <message>
+        <source>liquid hydrogen</source>
+        <translation>flüssiger Wasserstoff</translation>
+    </message>
+    <message>
+        <source>liquid lead, tin, bismuth or gallium</source>
+        <translation>flüssiges Blei, Zinn, Bismut oder Gallium</translation>
+    </message>
+    <message>
+        <source>liquid lithium</source>
+        <translation>flüssiges Lithium</translation>
+    </message>
+    <message>
+        <source>liquid sodium</source>
+        <translation>flüssiges Natrium</translation>
+    </message>
+    <message>
+        <source>liquid sodium or potassium</source>
+        <translation>flüssiges Natrium oder Kalium</translation>
+    </message>
+    <message>
+        <source>magnesium alloy</source>
+        <translation>Magnesiumlegierung</translation>
+    </message>
+    <message>
+        <source>mass</source>
+        <translation>Masse</translation>
+    </message>
+    <message>
+        <source>mass flow</source>
+        <translation>Massenstrom</translation>
+    </message>
+    <message>
+        <source>mass per area</source>
+        <translation>Masse je Fläche</translation>
+    </message>
+    <message>
+        <source>mass per length</source>
+        <translation>Masse je Länge</translation>
+    </message>
+    <message>
+        <source>melt or bitumen</source>
+        <translation>Schmelze oder Bitumen</translation>
+    </message>
+    <message>
+        <source>mercury</source>
+        <translation>Quecksilber</translation>
+    </message>
+    <message>
+        <source>metal at first yield</source>
+        <translation>Metall beim ersten Fließen</translation>
+    </message>
+    <message>
+        <source>metal foam</source>
+        <translation>Metallschaum</translation>
+    </message>
+    <message>
+        <source>metal matrix composite</source>
+        <translation>Metallmatrix-Verbundwerkstoff</translation>
+    </message>
+    <message>
+        <source>metallic glass</source>
+        <translation>metallisches Glas</translation>
+    </message>
+    <message>
+        <source>molten metal</source>
+        <translation>Metallschmelze</translation>
+    </message>
+    <message>
+        <source>molten salt</source>
+        <translation>Salzschmelze</translation>
+    </message>
+    <message>
+        <source>mortar, plaster or brick</source>
+        <translation>Mörtel, Putz oder Ziegel</translation>
+    </message>
+    <message>
+        <source>nickel alloy</source>
+        <translation>Nickellegierung</translation>
+    </message>
+    <message>
+        <source>nitrogen</source>
+        <translation>Stickstoff</translation>
+    </message>
+    <message>
+        <source>nuclear oxide</source>
+        <translation>Kernbrennstoffoxid</translation>
+    </message>
+    <message>
+        <source>oil</source>
+        <translation>Öl</translation>
+    </message>
+    <message>
+        <source>osmium</source>
+        <translation>Osmium</translation>
+    </message>
+    <message>
+        <source>oxide ceramic</source>
+        <translation>Oxidkeramik</translation>
+    </message>
+    <message>
+        <source>oxygen</source>
+        <translation>Sauerstoff</translation>
+    </message>
+    <message>
+        <source>paper, leather or textile</source>
+        <translation>Papier, Leder oder Textil</translation>
+    </message>
+    <message>
+        <source>permanent magnet</source>
+        <translation>Dauermagnet</translation>
+    </message>
+    <message>
+        <source>piezoceramic or titanate</source>
+        <translation>Piezokeramik oder Titanat</translation>
+    </message>
+    <message>
+        <source>pitch</source>
+        <translation>Pech</translation>
+    </message>
+    <message>
+        <source>plastic</source>
+        <translation>Kunststoff</translation>
+    </message>
+    <message>
+        <source>polymer or natural fibre</source>
+        <translation>Polymer- oder Naturfaser</translation>
+    </message>
+    <message>
+        <source>polyolefin</source>
+        <translation>Polyolefin</translation>
+    </message>
+    <message>
+        <source>polytetrafluoroethylene</source>
+        <translation>Polytetrafluorethylen</translation>
+    </message>
+    <message>
+        <source>porcelain or clay ceramic</source>
+        <translation>Porzellan oder Tonkeramik</translation>
+    </message>
+    <message>
+        <source>power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>precious metal</source>
+        <translation>Edelmetall</translation>
+    </message>
+    <message>
+        <source>pressure or stress</source>
+        <translation>Druck oder Spannung</translation>
+    </message>
+    <message>
+        <source>primary creep</source>
+        <translation>primäres Kriechen</translation>
+    </message>
+    <message>
+        <source>pure copper at 4 K</source>
+        <translation>reines Kupfer bei 4 K</translation>
+    </message>
+    <message>
+        <source>pure diamond</source>
+        <translation>reiner Diamant</translation>
+    </message>
+    <message>
+        <source>radon</source>
+        <translation>Radon</translation>
+    </message>
+    <message>
+        <source>railway ballast</source>
+        <translation>Gleisschotter</translation>
+    </message>
+    <message>
+        <source>refractory metal</source>
+        <translation>Refraktärmetall</translation>
+    </message>
+    <message>
+        <source>reinforced or filled plastic</source>
+        <translation>verstärkter oder gefüllter Kunststoff</translation>
+    </message>
+    <message>
+        <source>rigid foam</source>
+        <translation>Hartschaum</translation>
+    </message>
+    <message>
+        <source>rock</source>
+        <translation>Gestein</translation>
+    </message>
+    <message>
+        <source>rubber</source>
+        <translation>Gummi</translation>
+    </message>
+    <message>
+        <source>shape memory alloy</source>
+        <translation>Formgedächtnislegierung</translation>
+    </message>
+    <message>
+        <source>silicon</source>
+        <translation>Silicium</translation>
+    </message>
+    <message>
+        <source>silicon carbide</source>
+        <translation>Siliciumcarbid</translation>
+    </message>
+    <message>
+        <source>silicon nitride</source>
+        <translation>Siliciumnitrid</translation>
+    </message>
+    <message>
+        <source>slurry</source>
+        <translation>Schlamm</translation>
+    </message>
+    <message>
+        <source>snow</source>
+        <translation>Schnee</translation>
+    </message>
+    <message>
+        <source>soft foam</source>
+        <translation>Weichschaum</translation>
+    </message>
+    <message>
+        <source>soft plastic</source>
+        <translation>weicher Kunststoff</translation>
+    </message>
+    <message>
+        <source>soft tissue or gel</source>
+        <translation>Weichgewebe oder Gel</translation>
+    </message>
+    <message>
+        <source>soil</source>
+        <translation>Boden</translation>
+    </message>
+    <message>
+        <source>specific heat</source>
+        <translation>spezifische Wärmekapazität</translation>
+    </message>
+    <message>
+        <source>speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>stainless steel</source>
+        <translation>nichtrostender Stahl</translation>
+    </message>
+    <message>
+        <source>steel</source>
+        <translation>Stahl</translation>
+    </message>
+    <message>
+        <source>stiff polymer</source>
+        <translation>steifes Polymer</translation>
+    </message>
+    <message>
+        <source>superconductor</source>
+        <translation>Supraleiter</translation>
+    </message>
+    <message>
+        <source>syrup, glycol or glycerol</source>
+        <translation>Sirup, Glykol oder Glycerin</translation>
+    </message>
+    <message>
+        <source>temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>tendon, skin or cartilage</source>
+        <translation>Sehne, Haut oder Knorpel</translation>
+    </message>
+    <message>
+        <source>tertiary creep</source>
+        <translation>tertiäres Kriechen</translation>
+    </message>
+    <message>
+        <source>thermal conductivity</source>
+        <translation>Wärmeleitfähigkeit</translation>
+    </message>
+    <message>
+        <source>thermal expansion</source>
+        <translation>Wärmeausdehnung</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>tissue</source>
+        <translation>Gewebe</translation>
+    </message>
+    <message>
+        <source>titanium alloy</source>
+        <translation>Titanlegierung</translation>
+    </message>
+    <message>
+        <source>titanium boride, carbide or nitride</source>
+        <translation>Titanborid, -carbid oder -nitrid</translation>
+    </message>
+    <message>
+        <source>torsion at high temperature</source>
+        <translation>Torsion bei hoher Temperatur</translation>
+    </message>
+    <message>
+        <source>tungsten hexafluoride</source>
+        <translation>Wolframhexafluorid</translation>
+    </message>
+    <message>
+        <source>uranium</source>
+        <translation>Uran</translation>
+    </message>
+    <message>
+        <source>uranium or thorium</source>
+        <translation>Uran oder Thorium</translation>
+    </message>
+    <message>
+        <source>vacuum insulation</source>
+        <translation>Vakuumdämmung</translation>
+    </message>
+    <message>
+        <source>vapour</source>
+        <translation>Dampf</translation>
+    </message>
+    <message>
+        <source>volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>water</source>
+        <translation>Wasser</translation>
+    </message>
+    <message>
+        <source>water or aqueous solution</source>
+        <translation>Wasser oder wässrige Lösung</translation>
+    </message>
+    <message>
+        <source>whisker</source>
+        <translation>Whisker</translation>
+    </message>
+    <message>
+        <source>wood, across the grain, or board</source>
+        <translation>Holz quer zur Faser oder Holzwerkstoffplatte</translation>
+    </message>
+    <message>
+        <source>wood, along the grain</source>
+        <translation>Holz in Faserrichtung</translation>
+    </message>
+    <message>
+        <source>xenon</source>
+        <translation>Xenon</translation>
+    </message>
+    <message>
+        <source>zinc alloy</source>
+        <translation>Zinklegierung</translation>
+    </message>
+    <message>
+        <source>zirconia</source>
+        <translation>Zirkoniumdioxid</translation>
+    </message>
+    <message>
+        <source>zirconium or hafnium</source>
+        <translation>Zirconium oder Hafnium</translation>
+    </message>
+</context>
+<context>
     <name>vxjson::JsonError</name>
     <message>
         <source>&quot;%1&quot; must be a number from 0 to 1</source>

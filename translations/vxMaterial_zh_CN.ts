@@ -2934,6 +2934,1104 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxUnits::Message</name>
+    <message>
+        <source>Did you mean &quot;%1&quot;?</source>
+        <translation>您是否要输入“%1”？</translation>
+    </message>
+    <message>
+        <source>Nothing was typed; a number is needed.</source>
+        <translation>没有输入任何内容；需要一个数字。</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8.</source>
+        <translation>文本不是有效的 UTF-8。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not begin with a number.</source>
+        <translation>“%1”不以数字开头。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number.</source>
+        <translation>“%1”不是有限的数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a hexadecimal number; write it in decimals.</source>
+        <translation>“%1”是十六进制数；请用十进制书写。</translation>
+    </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; has no digits.</source>
+        <translation>“%1”中的指数没有数字。</translation>
+    </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; is not a whole number.</source>
+        <translation>“%1”中的指数不是整数。</translation>
+    </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; must be written with the letter e.</source>
+        <translation>“%1”中的指数必须用字母 e 书写。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than one decimal point.</source>
+        <translation>“%1”中的小数点多于一个。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a decimal comma; the decimal sign is a point.</source>
+        <translation>“%1”使用了小数逗号；小数符号应为点。</translation>
+    </message>
+    <message>
+        <source>The comma in &quot;%1&quot; may separate decimals or thousands; write %2 or %3.</source>
+        <translation>“%1”中的逗号可能分隔小数或千位；请写 %2 或 %3。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has digits in groups; write the number without separators.</source>
+        <translation>“%1”中的数字被分组；请不带分隔符书写。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than one number; one number is needed.</source>
+        <translation>“%1”包含多个数字；只需要一个数字。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is outside the range of numbers, 1e-308 to 1e308.</source>
+        <translation>“%1”超出数的范围 1e-308 至 1e308。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains the character %2, which no number and no unit has.</source>
+        <translation>“%1”包含字符 %2，任何数字和单位都没有该字符。</translation>
+    </message>
+    <message>
+        <source>A unit is missing in &quot;%1&quot; after &quot;%2&quot;.</source>
+        <translation>“%1”中“%2”之后缺少单位。</translation>
+    </message>
+    <message>
+        <source>The number %2 must not stand in the unit &quot;%1&quot;.</source>
+        <translation>单位“%1”中不能有数字 %2。</translation>
+    </message>
+    <message>
+        <source>A power is missing in the unit &quot;%1&quot;.</source>
+        <translation>单位“%1”中缺少幂。</translation>
+    </message>
+    <message>
+        <source>A power in the unit &quot;%1&quot; is not between -50 and 50.</source>
+        <translation>单位“%1”中的幂不在 -50 与 50 之间。</translation>
+    </message>
+    <message>
+        <source>A parenthesis in the unit &quot;%1&quot; is not closed.</source>
+        <translation>单位“%1”中的括号没有闭合。</translation>
+    </message>
+    <message>
+        <source>A parenthesis in the unit &quot;%1&quot; is closed but not opened.</source>
+        <translation>单位“%1”中的括号已闭合但没有打开。</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; has more than 40 parts.</source>
+        <translation>单位“%1”的组成部分多于 40 个。</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; has more than 20 parentheses inside each other.</source>
+        <translation>单位“%1”的嵌套括号多于 20 层。</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; is not known.</source>
+        <translation>未知的单位“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than one meaning; write %2.</source>
+        <translation>“%1”有多种含义；请写 %2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; a unit such as %3 is needed.</source>
+        <translation>“%1”表示%2；需要如 %3 的单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; %4 needs a unit such as %3.</source>
+        <translation>“%1”表示%2；%4 需要如 %3 的单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; %3 is a pure number.</source>
+        <translation>“%1”表示%2；%3 是无量纲数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; measures %2; %4 is its reciprocal and needs a unit such as %3.</source>
+        <translation>“%1”表示%2；%4 是其倒数，需要如 %3 的单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a temperature; a difference of temperatures is needed.</source>
+        <translation>“%1”是温度；需要的是温度差。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is below the absolute zero of temperature.</source>
+        <translation>“%1”低于绝对零度。</translation>
+    </message>
+    <message>
+        <source>%1 is a word; it takes no number.</source>
+        <translation>%1 是词语，不接受数字。</translation>
+    </message>
+    <message>
+        <source>%1 is a switch; it takes no number.</source>
+        <translation>%1 是开关，不接受数字。</translation>
+    </message>
+    <message>
+        <source>No quantity has the id %1.</source>
+        <translation>没有编号为 %1 的量。</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2 and %3, which are not given; write the number without a unit.</source>
+        <translation>%1 的单位取决于未给出的 %2 和 %3；请不带单位书写数字。</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; is not built in, and the database of units cannot be read: %2. Install the data of UDUNITS-2, or have the environment variable UDUNITS2_XML_PATH name the file udunits2.xml.</source>
+        <translation>单位“%1”不是内置单位，且无法读取单位数据库：%2。请安装 UDUNITS-2 的数据，或用环境变量 UDUNITS2_XML_PATH 指定文件 udunits2.xml。</translation>
+    </message>
+    <message>
+        <source>Number %1 of the list is missing.</source>
+        <translation>列表缺少第 %1 个数字。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no unit. Give one unit after the last number, or a unit after each number.</source>
+        <translation>“%1”没有单位。请在最后一个数字之后给出单位，或在每个数字之后给出单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; looks like decimals after a comma. The decimal sign is a point; commas separate the numbers of a list.</source>
+        <translation>“%1”看起来像逗号后的小数。小数符号为点；逗号分隔列表中的数字。</translation>
+    </message>
+    <message>
+        <source>A unit system needs a name (%1) or its base units (%2).</source>
+        <translation>单位制需要名称 (%1) 或其基本单位 (%2)。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not begin with one of length, mass, time, temperature and current.</source>
+        <translation>“%1”不以 length、mass、time、temperature 或 current 开头。</translation>
+    </message>
+    <message>
+        <source>The unit system gives the unit of %1 twice.</source>
+        <translation>单位制两次给出 %1 的单位。</translation>
+    </message>
+    <message>
+        <source>The unit system gives no unit of %1.</source>
+        <translation>单位制没有给出 %1 的单位。</translation>
+    </message>
+    <message>
+        <source>cal is the International Table calorie, 4.1868 J; cal_th is 4.184 J.</source>
+        <translation>cal 是国际蒸汽表卡，4.1868 J；cal_th 为 4.184 J。</translation>
+    </message>
+    <message>
+        <source>Btu is the International Table unit, 1055.05585262 J; Btu_th is 1054.35026 J.</source>
+        <translation>Btu 是国际蒸汽表单位，1055.05585262 J；Btu_th 为 1054.35026 J。</translation>
+    </message>
+    <message>
+        <source>The year has 365.25 days.</source>
+        <translation>一年为 365.25 天。</translation>
+    </message>
+    <message>
+        <source>oz is the avoirdupois ounce, 1/16 lb; the ounce of force is ozf.</source>
+        <translation>oz 是常衡盎司，1/16 lb；盎司力为 ozf。</translation>
+    </message>
+    <message>
+        <source>The gallon is the gallon of the United States, 231 in^3.</source>
+        <translation>加仑为美制加仑，231 in^3。</translation>
+    </message>
+    <message>
+        <source>hp is 550 ft lbf/s; the metric horsepower is PS.</source>
+        <translation>hp 为 550 ft lbf/s；公制马力为 PS。</translation>
+    </message>
+    <message>
+        <source>100 %IACS is 58 MS/m (IEC 60028).</source>
+        <translation>100 %IACS 为 58 MS/m (IEC 60028)。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is taken from the database of UDUNITS, with as many digits as it has there.</source>
+        <translation>“%1”取自 UDUNITS 数据库，位数与其中相同。</translation>
+    </message>
+    <message>
+        <source>%1 is not a finite number.</source>
+        <translation>%1 不是有限的数。</translation>
+    </message>
+    <message>
+        <source>%1 = %2: the value must be above 0.</source>
+        <translation>%1 = %2：值必须大于 0。</translation>
+    </message>
+    <message>
+        <source>%1 = %2: the value must not be negative.</source>
+        <translation>%1 = %2：值不能为负。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is below what known materials have, %5 (%7) to %6 (%8).</source>
+        <translation>%1 = %2 低于已知材料的值：%5 (%7) 至 %6 (%8)。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is above what known materials have, %5 (%7) to %6 (%8).</source>
+        <translation>%1 = %2 高于已知材料的值：%5 (%7) 至 %6 (%8)。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is outside -1 to 0.5; such a solid would release energy by itself.</source>
+        <translation>%1 = %2 超出 -1 至 0.5；这样的固体会自行释放能量。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is so near 0.5 that elements lock; take a hyperelastic model, or at most %6.</source>
+        <translation>%1 = %2 太接近 0.5，单元会锁死；请使用超弹性模型，或最多取 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: only rubber and gels are above %6.</source>
+        <translation>%1 = %2，且 %3：只有橡胶和凝胶高于 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a wave speed of %4; known solids of such a density have %5 to %6.</source>
+        <translation>%1 = %2，且 %3，得到波速 %4；具有此密度的已知固体为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: known solids so light have at most %6.</source>
+        <translation>%1 = %2，且 %3：如此轻的已知固体最多为 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a heat capacity of %4; known matter has %5 to %6.</source>
+        <translation>%1 = %2，且 %3，得到热容 %4；已知物质为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a thermal diffusivity of %4; known materials have %5 to %6.</source>
+        <translation>%1 = %2，且 %3，得到热扩散率 %4；已知材料为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a Lorenz number of %4; known metals have %5 to %6.</source>
+        <translation>%1 = %2，且 %3，得到洛伦兹数 %4；已知金属为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the moduli give speeds from %5 to %6.</source>
+        <translation>%1 = %2，且 %3：由模量得到的速度为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a bulk modulus of %4; known fluids of such a density have %5 to %6.</source>
+        <translation>%1 = %2，且 %3，得到体积模量 %4；具有此密度的已知流体为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: heat and conductivity are those of water, which has %5 to %6.</source>
+        <translation>%1 = %2，且 %3：热容和导热率与水相同，水为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 is a share of the modulus of %4; known solids have %5 to %6.</source>
+        <translation>%1 = %2，且 %3，与模量之比为 %4；已知固体为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 is a share of the modulus of %4; known metals have %5 to %6, or 0.</source>
+        <translation>%1 = %2，且 %3，与模量之比为 %4；已知金属为 %5 至 %6，或 0。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the initial modulus of the hyperelastic model is %4 times Young&apos;s modulus; %5 to %6 times is sensible.</source>
+        <translation>%1 = %2，且 %3：超弹性模型的初始模量是杨氏模量的 %4 倍；合理的为 %5 至 %6 倍。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the initial bulk modulus is %4 times the shear modulus; known rubbers and gels have %5 to %6 times.</source>
+        <translation>%1 = %2，且 %3：初始体积模量是剪切模量的 %4 倍；已知橡胶和凝胶为 %5 至 %6 倍。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3: the initial shear modulus is %4; it must be above 0.</source>
+        <translation>%1 = %2，且 %3：初始剪切模量为 %4；必须大于 0。</translation>
+    </message>
+    <message>
+        <source>%1 has %4 numbers and %3; each strain needs one stress.</source>
+        <translation>%1 有 %4 个数字，且 %3；每个应变需要一个应力。</translation>
+    </message>
+    <message>
+        <source>%1 begins with %4; the first plastic strain is 0, at the first yield.</source>
+        <translation>%1 从 %4 开始；第一个塑性应变为 0，即初始屈服。</translation>
+    </message>
+    <message>
+        <source>%1 does not rise from %5 to %4.</source>
+        <translation>%1 从 %5 到 %4 没有增大。</translation>
+    </message>
+    <message>
+        <source>%1 falls below %5 to %4; hardening does not fall.</source>
+        <translation>%1 从 %5 降至 %4；硬化不会下降。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a strain rate of %4 at a thousandth of the modulus; %5 to %6 is within reach.</source>
+        <translation>%1 = %2，且 %3，在模量的千分之一处得到应变率 %4；可达到的为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 does not fit the other values.</source>
+        <translation>%1 = %2 与其他值不相符。</translation>
+    </message>
+    <message>
+        <source>%1 is usual for %2: multiply by %3</source>
+        <translation>%1 对%2是常见的：乘以 %3</translation>
+    </message>
+    <message>
+        <source>%1 would not be doubted: multiply by %2</source>
+        <translation>%1 不会有疑问：乘以 %2</translation>
+    </message>
+    <message>
+        <source>%1 is usual for the resistivity of %2: take the reciprocal</source>
+        <translation>%1 对%2的电阻率是常见的：取倒数</translation>
+    </message>
+    <message>
+        <source>The stresses look like %1: convert them</source>
+        <translation>应力看起来以 %1 为单位：进行换算</translation>
+    </message>
+    <message>
+        <source>The values look like %1: convert the material</source>
+        <translation>数值看起来属于 %1：换算该材料</translation>
+    </message>
+</context>
+<context>
+    <name>vxUnits::Word</name>
+    <message>
+        <source>N-methylformamide</source>
+        <translation>N-甲基甲酰胺</translation>
+    </message>
+    <message>
+        <source>a pure number</source>
+        <translation>无量纲数</translation>
+    </message>
+    <message>
+        <source>acceleration</source>
+        <translation>加速度</translation>
+    </message>
+    <message>
+        <source>aerogel</source>
+        <translation>气凝胶</translation>
+    </message>
+    <message>
+        <source>air or a similar gas</source>
+        <translation>空气或类似气体</translation>
+    </message>
+    <message>
+        <source>alcohol, hydrocarbon or solvent</source>
+        <translation>醇、烃或溶剂</translation>
+    </message>
+    <message>
+        <source>alkali or alkaline earth metal</source>
+        <translation>碱金属或碱土金属</translation>
+    </message>
+    <message>
+        <source>aluminium alloy</source>
+        <translation>铝合金</translation>
+    </message>
+    <message>
+        <source>aluminium nitride or beryllia</source>
+        <translation>氮化铝或氧化铍</translation>
+    </message>
+    <message>
+        <source>amount of substance</source>
+        <translation>物质的量</translation>
+    </message>
+    <message>
+        <source>angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>area</source>
+        <translation>面积</translation>
+    </message>
+    <message>
+        <source>asphalt</source>
+        <translation>沥青混凝土</translation>
+    </message>
+    <message>
+        <source>auxetic foam</source>
+        <translation>拉胀泡沫</translation>
+    </message>
+    <message>
+        <source>bamboo</source>
+        <translation>竹材</translation>
+    </message>
+    <message>
+        <source>bentonite</source>
+        <translation>膨润土</translation>
+    </message>
+    <message>
+        <source>beryllium</source>
+        <translation>铍</translation>
+    </message>
+    <message>
+        <source>bismuth or antimony</source>
+        <translation>铋或锑</translation>
+    </message>
+    <message>
+        <source>blood, milk or suspension</source>
+        <translation>血液、牛奶或悬浮液</translation>
+    </message>
+    <message>
+        <source>bone or tooth</source>
+        <translation>骨或牙齿</translation>
+    </message>
+    <message>
+        <source>boride or carbide of a heavy metal</source>
+        <translation>重金属硼化物或碳化物</translation>
+    </message>
+    <message>
+        <source>boron carbide</source>
+        <translation>碳化硼</translation>
+    </message>
+    <message>
+        <source>boron fibre composite</source>
+        <translation>硼纤维复合材料</translation>
+    </message>
+    <message>
+        <source>boron nitride, pressed</source>
+        <translation>压制氮化硼</translation>
+    </message>
+    <message>
+        <source>calcium copper titanate</source>
+        <translation>钛酸铜钙</translation>
+    </message>
+    <message>
+        <source>carbon fibre</source>
+        <translation>碳纤维</translation>
+    </message>
+    <message>
+        <source>carbon fibre composite</source>
+        <translation>碳纤维复合材料</translation>
+    </message>
+    <message>
+        <source>carbon or graphite</source>
+        <translation>碳或石墨</translation>
+    </message>
+    <message>
+        <source>cast iron</source>
+        <translation>铸铁</translation>
+    </message>
+    <message>
+        <source>chromium, manganese or vanadium</source>
+        <translation>铬、锰或钒</translation>
+    </message>
+    <message>
+        <source>cobalt alloy</source>
+        <translation>钴合金</translation>
+    </message>
+    <message>
+        <source>compressed gas</source>
+        <translation>压缩气体</translation>
+    </message>
+    <message>
+        <source>compressed hydrogen or helium</source>
+        <translation>压缩氢气或氦气</translation>
+    </message>
+    <message>
+        <source>compressibility</source>
+        <translation>压缩率</translation>
+    </message>
+    <message>
+        <source>concrete</source>
+        <translation>混凝土</translation>
+    </message>
+    <message>
+        <source>copper alloy</source>
+        <translation>铜合金</translation>
+    </message>
+    <message>
+        <source>cork</source>
+        <translation>软木</translation>
+    </message>
+    <message>
+        <source>cryogenic liquid</source>
+        <translation>低温液体</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>密度</translation>
+    </message>
+    <message>
+        <source>diamond</source>
+        <translation>金刚石</translation>
+    </message>
+    <message>
+        <source>diffusion creep</source>
+        <translation>扩散蠕变</translation>
+    </message>
+    <message>
+        <source>dispersion-strengthened alloy</source>
+        <translation>弥散强化合金</translation>
+    </message>
+    <message>
+        <source>dry gas</source>
+        <translation>干燥气体</translation>
+    </message>
+    <message>
+        <source>dynamic viscosity</source>
+        <translation>动力黏度</translation>
+    </message>
+    <message>
+        <source>ebonite</source>
+        <translation>硬橡胶</translation>
+    </message>
+    <message>
+        <source>elastic solid</source>
+        <translation>弹性固体</translation>
+    </message>
+    <message>
+        <source>electric charge</source>
+        <translation>电荷</translation>
+    </message>
+    <message>
+        <source>electric current</source>
+        <translation>电流</translation>
+    </message>
+    <message>
+        <source>electrical conductance</source>
+        <translation>电导</translation>
+    </message>
+    <message>
+        <source>electrical conductivity</source>
+        <translation>电导率</translation>
+    </message>
+    <message>
+        <source>electrical resistance</source>
+        <translation>电阻</translation>
+    </message>
+    <message>
+        <source>electrical resistivity</source>
+        <translation>电阻率</translation>
+    </message>
+    <message>
+        <source>energy</source>
+        <translation>能量</translation>
+    </message>
+    <message>
+        <source>energy per mass</source>
+        <translation>单位质量能量</translation>
+    </message>
+    <message>
+        <source>ferrite</source>
+        <translation>铁氧体</translation>
+    </message>
+    <message>
+        <source>ferrofluid</source>
+        <translation>磁流体</translation>
+    </message>
+    <message>
+        <source>filled rubber</source>
+        <translation>填充橡胶</translation>
+    </message>
+    <message>
+        <source>first yield</source>
+        <translation>初始屈服</translation>
+    </message>
+    <message>
+        <source>fitted constant</source>
+        <translation>拟合常数</translation>
+    </message>
+    <message>
+        <source>fluid</source>
+        <translation>流体</translation>
+    </message>
+    <message>
+        <source>fluoropolymer</source>
+        <translation>含氟聚合物</translation>
+    </message>
+    <message>
+        <source>force</source>
+        <translation>力</translation>
+    </message>
+    <message>
+        <source>force per length</source>
+        <translation>单位长度力</translation>
+    </message>
+    <message>
+        <source>force per volume</source>
+        <translation>单位体积力</translation>
+    </message>
+    <message>
+        <source>frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>gel</source>
+        <translation>凝胶</translation>
+    </message>
+    <message>
+        <source>germanium or gallium arsenide</source>
+        <translation>锗或砷化镓</translation>
+    </message>
+    <message>
+        <source>glass</source>
+        <translation>玻璃</translation>
+    </message>
+    <message>
+        <source>glass ceramic</source>
+        <translation>微晶玻璃</translation>
+    </message>
+    <message>
+        <source>glass or aramid fibre composite</source>
+        <translation>玻璃纤维或芳纶复合材料</translation>
+    </message>
+    <message>
+        <source>glass transition of a fluid</source>
+        <translation>流体的玻璃化转变</translation>
+    </message>
+    <message>
+        <source>glass, basalt or ceramic fibre</source>
+        <translation>玻璃、玄武岩或陶瓷纤维</translation>
+    </message>
+    <message>
+        <source>graphene aerogel</source>
+        <translation>石墨烯气凝胶</translation>
+    </message>
+    <message>
+        <source>halogenated liquid</source>
+        <translation>卤化液体</translation>
+    </message>
+    <message>
+        <source>hard metal</source>
+        <translation>硬质合金</translation>
+    </message>
+    <message>
+        <source>heat capacity</source>
+        <translation>热容</translation>
+    </message>
+    <message>
+        <source>heat transfer coefficient</source>
+        <translation>传热系数</translation>
+    </message>
+    <message>
+        <source>heavy gas</source>
+        <translation>重气体</translation>
+    </message>
+    <message>
+        <source>helium</source>
+        <translation>氦</translation>
+    </message>
+    <message>
+        <source>hexane</source>
+        <translation>己烷</translation>
+    </message>
+    <message>
+        <source>honeycomb</source>
+        <translation>蜂窝</translation>
+    </message>
+    <message>
+        <source>hot gas</source>
+        <translation>热气体</translation>
+    </message>
+    <message>
+        <source>hot neon</source>
+        <translation>高温氖气</translation>
+    </message>
+    <message>
+        <source>hydrocarbon vapour</source>
+        <translation>烃蒸气</translation>
+    </message>
+    <message>
+        <source>hydrogel</source>
+        <translation>水凝胶</translation>
+    </message>
+    <message>
+        <source>hydrogen</source>
+        <translation>氢</translation>
+    </message>
+    <message>
+        <source>hydrogen or helium</source>
+        <translation>氢气或氦气</translation>
+    </message>
+    <message>
+        <source>ice</source>
+        <translation>冰</translation>
+    </message>
+    <message>
+        <source>ideal plasticity</source>
+        <translation>理想塑性</translation>
+    </message>
+    <message>
+        <source>insulating wool or granulate</source>
+        <translation>绝热棉或颗粒</translation>
+    </message>
+    <message>
+        <source>ionised air</source>
+        <translation>电离空气</translation>
+    </message>
+    <message>
+        <source>kinematic viscosity or diffusivity</source>
+        <translation>运动黏度或扩散率</translation>
+    </message>
+    <message>
+        <source>lead, tin or solder</source>
+        <translation>铅、锡或焊料</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>light concrete</source>
+        <translation>轻质混凝土</translation>
+    </message>
+    <message>
+        <source>light gas</source>
+        <translation>轻气体</translation>
+    </message>
+    <message>
+        <source>liquefied gas or refrigerant</source>
+        <translation>液化气体或制冷剂</translation>
+    </message>
+    <message>
+        <source>liquid aluminium</source>
+        <translation>液态铝</translation>
+    </message>
+    <message>
+        <source>liquid helium</source>
+        <translation>液氦</translation>
+    </message>
+    <message>
+        <source>liquid hydrogen</source>
+        <translation>液氢</translation>
+    </message>
+    <message>
+        <source>liquid lead, tin, bismuth or gallium</source>
+        <translation>液态铅、锡、铋或镓</translation>
+    </message>
+    <message>
+        <source>liquid lithium</source>
+        <translation>液态锂</translation>
+    </message>
+    <message>
+        <source>liquid sodium</source>
+        <translation>液态钠</translation>
+    </message>
+    <message>
+        <source>liquid sodium or potassium</source>
+        <translation>液态钠或钾</translation>
+    </message>
+    <message>
+        <source>magnesium alloy</source>
+        <translation>镁合金</translation>
+    </message>
+    <message>
+        <source>mass</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>mass flow</source>
+        <translation>质量流量</translation>
+    </message>
+    <message>
+        <source>mass per area</source>
+        <translation>单位面积质量</translation>
+    </message>
+    <message>
+        <source>mass per length</source>
+        <translation>单位长度质量</translation>
+    </message>
+    <message>
+        <source>melt or bitumen</source>
+        <translation>熔体或沥青</translation>
+    </message>
+    <message>
+        <source>mercury</source>
+        <translation>汞</translation>
+    </message>
+    <message>
+        <source>metal at first yield</source>
+        <translation>初始屈服的金属</translation>
+    </message>
+    <message>
+        <source>metal foam</source>
+        <translation>金属泡沫</translation>
+    </message>
+    <message>
+        <source>metal matrix composite</source>
+        <translation>金属基复合材料</translation>
+    </message>
+    <message>
+        <source>metallic glass</source>
+        <translation>金属玻璃</translation>
+    </message>
+    <message>
+        <source>molten metal</source>
+        <translation>熔融金属</translation>
+    </message>
+    <message>
+        <source>molten salt</source>
+        <translation>熔盐</translation>
+    </message>
+    <message>
+        <source>mortar, plaster or brick</source>
+        <translation>砂浆、灰泥或砖</translation>
+    </message>
+    <message>
+        <source>nickel alloy</source>
+        <translation>镍合金</translation>
+    </message>
+    <message>
+        <source>nitrogen</source>
+        <translation>氮</translation>
+    </message>
+    <message>
+        <source>nuclear oxide</source>
+        <translation>核燃料氧化物</translation>
+    </message>
+    <message>
+        <source>oil</source>
+        <translation>油</translation>
+    </message>
+    <message>
+        <source>osmium</source>
+        <translation>锇</translation>
+    </message>
+    <message>
+        <source>oxide ceramic</source>
+        <translation>氧化物陶瓷</translation>
+    </message>
+    <message>
+        <source>oxygen</source>
+        <translation>氧</translation>
+    </message>
+    <message>
+        <source>paper, leather or textile</source>
+        <translation>纸、皮革或织物</translation>
+    </message>
+    <message>
+        <source>permanent magnet</source>
+        <translation>永磁体</translation>
+    </message>
+    <message>
+        <source>piezoceramic or titanate</source>
+        <translation>压电陶瓷或钛酸盐</translation>
+    </message>
+    <message>
+        <source>pitch</source>
+        <translation>沥青（柏油）</translation>
+    </message>
+    <message>
+        <source>plastic</source>
+        <translation>塑料</translation>
+    </message>
+    <message>
+        <source>polymer or natural fibre</source>
+        <translation>聚合物或天然纤维</translation>
+    </message>
+    <message>
+        <source>polyolefin</source>
+        <translation>聚烯烃</translation>
+    </message>
+    <message>
+        <source>polytetrafluoroethylene</source>
+        <translation>聚四氟乙烯</translation>
+    </message>
+    <message>
+        <source>porcelain or clay ceramic</source>
+        <translation>瓷或黏土陶瓷</translation>
+    </message>
+    <message>
+        <source>power</source>
+        <translation>功率</translation>
+    </message>
+    <message>
+        <source>precious metal</source>
+        <translation>贵金属</translation>
+    </message>
+    <message>
+        <source>pressure or stress</source>
+        <translation>压力或应力</translation>
+    </message>
+    <message>
+        <source>primary creep</source>
+        <translation>初始蠕变</translation>
+    </message>
+    <message>
+        <source>pure copper at 4 K</source>
+        <translation>4 K 的纯铜</translation>
+    </message>
+    <message>
+        <source>pure diamond</source>
+        <translation>纯金刚石</translation>
+    </message>
+    <message>
+        <source>radon</source>
+        <translation>氡</translation>
+    </message>
+    <message>
+        <source>railway ballast</source>
+        <translation>铁路道砟</translation>
+    </message>
+    <message>
+        <source>refractory metal</source>
+        <translation>难熔金属</translation>
+    </message>
+    <message>
+        <source>reinforced or filled plastic</source>
+        <translation>增强或填充塑料</translation>
+    </message>
+    <message>
+        <source>rigid foam</source>
+        <translation>硬质泡沫</translation>
+    </message>
+    <message>
+        <source>rock</source>
+        <translation>岩石</translation>
+    </message>
+    <message>
+        <source>rubber</source>
+        <translation>橡胶</translation>
+    </message>
+    <message>
+        <source>shape memory alloy</source>
+        <translation>形状记忆合金</translation>
+    </message>
+    <message>
+        <source>silicon</source>
+        <translation>硅</translation>
+    </message>
+    <message>
+        <source>silicon carbide</source>
+        <translation>碳化硅</translation>
+    </message>
+    <message>
+        <source>silicon nitride</source>
+        <translation>氮化硅</translation>
+    </message>
+    <message>
+        <source>slurry</source>
+        <translation>浆体</translation>
+    </message>
+    <message>
+        <source>snow</source>
+        <translation>雪</translation>
+    </message>
+    <message>
+        <source>soft foam</source>
+        <translation>软质泡沫</translation>
+    </message>
+    <message>
+        <source>soft plastic</source>
+        <translation>软质塑料</translation>
+    </message>
+    <message>
+        <source>soft tissue or gel</source>
+        <translation>软组织或凝胶</translation>
+    </message>
+    <message>
+        <source>soil</source>
+        <translation>土壤</translation>
+    </message>
+    <message>
+        <source>specific heat</source>
+        <translation>比热</translation>
+    </message>
+    <message>
+        <source>speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>stainless steel</source>
+        <translation>不锈钢</translation>
+    </message>
+    <message>
+        <source>steel</source>
+        <translation>钢</translation>
+    </message>
+    <message>
+        <source>stiff polymer</source>
+        <translation>刚性聚合物</translation>
+    </message>
+    <message>
+        <source>superconductor</source>
+        <translation>超导体</translation>
+    </message>
+    <message>
+        <source>syrup, glycol or glycerol</source>
+        <translation>糖浆、乙二醇或甘油</translation>
+    </message>
+    <message>
+        <source>temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>tendon, skin or cartilage</source>
+        <translation>肌腱、皮肤或软骨</translation>
+    </message>
+    <message>
+        <source>tertiary creep</source>
+        <translation>第三阶段蠕变</translation>
+    </message>
+    <message>
+        <source>thermal conductivity</source>
+        <translation>导热率</translation>
+    </message>
+    <message>
+        <source>thermal expansion</source>
+        <translation>热膨胀</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>tissue</source>
+        <translation>组织</translation>
+    </message>
+    <message>
+        <source>titanium alloy</source>
+        <translation>钛合金</translation>
+    </message>
+    <message>
+        <source>titanium boride, carbide or nitride</source>
+        <translation>硼化钛、碳化钛或氮化钛</translation>
+    </message>
+    <message>
+        <source>torsion at high temperature</source>
+        <translation>高温扭转</translation>
+    </message>
+    <message>
+        <source>tungsten hexafluoride</source>
+        <translation>六氟化钨</translation>
+    </message>
+    <message>
+        <source>uranium</source>
+        <translation>铀</translation>
+    </message>
+    <message>
+        <source>uranium or thorium</source>
+        <translation>铀或钍</translation>
+    </message>
+    <message>
+        <source>vacuum insulation</source>
+        <translation>真空绝热</translation>
+    </message>
+    <message>
+        <source>vapour</source>
+        <translation>蒸气</translation>
+    </message>
+    <message>
+        <source>volume</source>
+        <translation>体积</translation>
+    </message>
+    <message>
+        <source>water</source>
+        <translation>水</translation>
+    </message>
+    <message>
+        <source>water or aqueous solution</source>
+        <translation>水或水溶液</translation>
+    </message>
+    <message>
+        <source>whisker</source>
+        <translation>晶须</translation>
+    </message>
+    <message>
+        <source>wood, across the grain, or board</source>
+        <translation>横纹木材或板材</translation>
+    </message>
+    <message>
+        <source>wood, along the grain</source>
+        <translation>顺纹木材</translation>
+    </message>
+    <message>
+        <source>xenon</source>
+        <translation>氙</translation>
+    </message>
+    <message>
+        <source>zinc alloy</source>
+        <translation>锌合金</translation>
+    </message>
+    <message>
+        <source>zirconia</source>
+        <translation>氧化锆</translation>
+    </message>
+    <message>
+        <source>zirconium or hafnium</source>
+        <translation>锆或铪</translation>
+    </message>
+</context>
+<context>
     <name>vxjson::JsonError</name>
     <message>
         <source>&quot;%1&quot; must be a number from 0 to 1</source>

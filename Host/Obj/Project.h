@@ -72,6 +72,13 @@ public:
     std::vector<ProjectObject*> get_objects_of_type(Kelta::TypeInfo type) const;
     std::size_t getObjectCount() const { return m_objects.size(); }
 
+    /// Returns the settings of the project: texts that modules keep with it, by names such as "unit_system".
+    const std::map<std::string, std::string>& getSettings() const { return m_settings; }
+    /// Returns a setting; an empty text if the project does not have it.
+    std::string getSetting(const std::string& name) const;
+    /// Stores a setting, or removes it if `text` is empty, and sends `changed` with null. The present text makes no change.
+    void setSetting(const std::string& name, const std::string& text);
+
     /// Returns a name from `stem` that no object of the project has or has had. Each call returns a different name.
     std::string get_unique_object_name(std::string_view stem);
 
@@ -123,7 +130,7 @@ public:
     Signal<void(ProjectObject&)> objectRemoved;
     /// Sent with the changed property; null for another change: state, suppression, membership in a group.
     Signal<void(ProjectObject&, const Property*)> objectChanged;
-    /// Sent with the changed property of the project; null for a new name.
+    /// Sent with the changed property of the project; null for a new name and for a setting.
     Signal<void(const Property*)> changed;
 
     PropertyInteger id;        ///< "ID"
@@ -155,6 +162,7 @@ private:
     std::uint64_t m_serial;
     std::uint32_t m_projectId = 0;
     std::string m_name;
+    std::map<std::string, std::string> m_settings;
     Objects m_objects;
     std::unique_ptr<ObjectIndex> m_index; ///< of the objects in m_objects
     std::uint64_t m_nextObjectId = 1;

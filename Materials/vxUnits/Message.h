@@ -2,6 +2,7 @@
 
 #include "vxUnits/UnitsExport.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,10 @@ struct MessageText
     const char* english = ""; ///< with the places %1 to %9 for arguments
 };
 
+/// Returns the translation of an English text, or the text itself if it has none. The context is "vxUnits::Message" for the
+/// texts of messages and "vxUnits::Word" for arguments, which may be words, numbers or texts of the user.
+using Translator = std::function<std::string(const char* context, const char* english)>;
+
 /// A message to a user: an English text and its arguments, which are separate so that a program can translate the text.
 /// The English text is the source of translation. An argument that is one of wordTexts() is translated too.
 struct Message
@@ -22,8 +27,8 @@ struct Message
     const char* english = "";           ///< lives as long as the program
     std::vector<std::string> arguments; ///< UTF-8; numbers have a decimal point whatever the locale
 
-    /// Returns the English text with the arguments in their places.
-    VXUNITS_EXPORT std::string text() const;
+    /// Returns the text with the arguments in their places: in English, or translated.
+    VXUNITS_EXPORT std::string text(const Translator& translator = {}) const;
 };
 
 /// Returns every text that a Message can have, for translators.

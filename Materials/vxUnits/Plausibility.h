@@ -56,8 +56,8 @@ struct Doubt
     Severity severity = Severity::Unlikely;
     std::optional<Remedy> remedy;
 
-    /// Returns the English message, followed by that of the remedy if there is one.
-    VXUNITS_EXPORT std::string text() const;
+    /// Returns the message, followed by that of the remedy if there is one: in English, or translated.
+    VXUNITS_EXPORT std::string text(const Translator& translator = {}) const;
 };
 
 /// A relation between quantities that lies within bounds for all known materials.

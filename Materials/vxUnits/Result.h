@@ -43,8 +43,8 @@ struct Failure
     Message message;
     std::string suggestion; ///< a text that is accepted in place of the typed one; empty if there is none
 
-    /// Returns the English message, followed by `Did you mean "..."?` if there is a suggestion.
-    VXUNITS_EXPORT std::string text() const;
+    /// Returns the message, followed by `Did you mean "..."?` if there is a suggestion: in English, or translated.
+    VXUNITS_EXPORT std::string text(const Translator& translator = {}) const;
 };
 
 /// A value, or the reason why there is none. Test it before using the value:

@@ -251,9 +251,9 @@ double Change::apply(double number) const
     return reciprocal ? 1.0 / multiplied : multiplied;
 }
 
-std::string Doubt::text() const
+std::string Doubt::text(const Translator& translator) const
 {
-    return remedy ? message.text() + " " + remedy->message.text() + "." : message.text();
+    return remedy ? message.text(translator) + " " + remedy->message.text(translator) + "." : message.text(translator);
 }
 
 std::vector<Doubt> checkPlausibility(const MaterialValues& values)

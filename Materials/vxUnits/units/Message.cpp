@@ -91,9 +91,14 @@ std::string fill(std::string_view text, const std::vector<std::string>& argument
 
 } // namespace
 
-std::string Message::text() const
+std::string Message::text(const Translator& translator) const
 {
-    return fill(english, arguments);
+    if (!translator)
+        return fill(english, arguments);
+    std::vector<std::string> translated;
+    for (const std::string& argument : arguments)
+        translated.push_back(translator("vxUnits::Word", argument.c_str()));
+    return fill(translator("vxUnits::Message", english), translated);
 }
 
 const std::vector<MessageText>& messageTexts()
@@ -117,11 +122,11 @@ const std::vector<std::string>& wordTexts()
     return all;
 }
 
-std::string Failure::text() const
+std::string Failure::text(const Translator& translator) const
 {
-    std::string whole = message.text();
+    std::string whole = message.text(translator);
     if (!suggestion.empty())
-        whole += " " + makeMessage(Text::DidYouMean, {suggestion}).text();
+        whole += " " + makeMessage(Text::DidYouMean, {suggestion}).text(translator);
     return whole;
 }
 

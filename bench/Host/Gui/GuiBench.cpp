@@ -104,9 +104,10 @@ private:
         const auto objects =
             Gui::TreeSelectionSingleton::instance().get_objects_of_type(Obj::ProjectObject::getClassTypeId());
         // The commands must act on the objects that are highlighted in the tree.
-        return objects.size() == static_cast<std::size_t>(m_tree.selectionModel()->selectedIndexes().size())
-                   ? static_cast<int>(objects.size())
-                   : -1;
+        const QModelIndexList highlighted = m_tree.selectionModel()->selectedIndexes();
+        const auto inProject = std::count_if(highlighted.begin(), highlighted.end(),
+                                             [](const QModelIndex& index) { return index.parent().isValid(); });
+        return objects.size() == static_cast<std::size_t>(inProject) ? static_cast<int>(objects.size()) : -1;
     }
     int countSuppressed() const
     {
@@ -178,9 +179,9 @@ bool measureCommands(int& argc, char** argv)
     commands.measure("select all of 10,000 materials", "Std_SelectAll", all, all, 0);
     commands.measure("suppress them", "Std_Suppress", all, all, all);
     commands.measure("delete them", "Mat_Delete", 0, 0, 0);
-    commands.measure("undo", "Std_Undo", all, 0, all);
-    commands.measure("undo the suppression", "Std_Undo", all, 0, 0);
-    commands.measure("redo it", "Std_Redo", all, 0, all);
+    commands.measure("undo", "Std_Undo", all, all, all);
+    commands.measure("undo the suppression", "Std_Undo", all, all, 0);
+    commands.measure("redo it", "Std_Redo", all, all, all);
     commands.measure("redo the deletion", "Std_Redo", 0, 0, 0);
     vxMsg::MessageProxy::instance().undoStack().clear();
     Obj::Application::instance().closeAllProjects();

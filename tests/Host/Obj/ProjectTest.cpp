@@ -710,6 +710,28 @@ TEST_F(ProjectTest, IsOfNoKindAndInNoApplicationAtFirst)
     EXPECT_EQ(&project.get_property_data(), BareProject::get_property_data_ref());
 }
 
+TEST_F(ProjectTest, KeepsSettingsAndReportsOnlyChanges)
+{
+    int changes = 0;
+    const boost::signals2::scoped_connection connection =
+        m_assembly.changed.connect([&](const Obj::Property* property) {
+            EXPECT_EQ(property, nullptr);
+            ++changes;
+        });
+    EXPECT_EQ(m_assembly.getSetting("view"), "");
+    const std::size_t empty = m_assembly.get_memory_usage();
+    m_assembly.setSetting("view", "side");
+    m_assembly.setSetting("view", "side");
+    EXPECT_EQ(m_assembly.getSetting("view"), "side");
+    EXPECT_THAT(m_assembly.getSettings(), ElementsAre(testing::Pair("view", "side")));
+    EXPECT_GT(m_assembly.get_memory_usage(), empty);
+    EXPECT_EQ(changes, 1);
+    m_assembly.setSetting("view", "");
+    m_assembly.setSetting("other", "");
+    EXPECT_THAT(m_assembly.getSettings(), IsEmpty());
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(ProjectTest, HasItsVirtualOperationsAfterThoseOfASetOfProperties)
 {
     if (!vxtest::slotsCanBeRead)

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "vxUnits/Message.h"
+#include "vxUnits/Plausibility.h"
+#include "vxUnits/Result.h"
+
+#include <QString>
+
+namespace vxInspector {
+
+/// Return the texts of messages about units and values in the user's language.
+QString translated(const vxUnits::Message& message);
+QString translated(const vxUnits::Failure& failure); ///< with the suggestion
+QString translated(const vxUnits::Doubt& doubt);     ///< with the remedy
+
+/// Returns a word of the library of units, such as the name of a derived value, in the user's language.
+QString translatedWord(const char* english);
+
+} // namespace vxInspector

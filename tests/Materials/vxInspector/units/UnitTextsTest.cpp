@@ -1,0 +1,87 @@
+#include "vxInspector/units/UnitTexts.h"
+
+#include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/Reading.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+
+/// Shows texts in a language while it lives. Only an application can translate.
+class Language
+{
+public:
+    explicit Language(const char* language) : m_application(m_count, m_arguments)
+    {
+        const QString file = QStringLiteral(VX_TRANSLATIONS "/vxMaterial_%1.qm").arg(QLatin1String(language));
+        EXPECT_TRUE(m_translator.load(file)) << file.toStdString();
+        QCoreApplication::installTranslator(&m_translator);
+    }
+
+private:
+    int m_count = 1;
+    char m_name[6] = "units";
+    char* m_arguments[2] = {m_name, nullptr};
+    QCoreApplication m_application;
+    QTranslator m_translator;
+};
+
+vxUnits::Failure wrongDimension()
+{
+    return vxUnits::readQuantity(vxMat::PropertyId::YoungsModulus, "210 kg").failure();
+}
+
+/// Returns what a user reads who types a text as Young's modulus.
+std::string refusalOf(const char* text)
+{
+    return vxInspector::translated(vxUnits::readQuantity(vxMat::PropertyId::YoungsModulus, text).failure())
+        .toStdString();
+}
+
+TEST(UnitTexts, AreEnglishWithoutATranslation)
+{
+    EXPECT_EQ(vxInspector::translated(wrongDimension()).toStdString(), wrongDimension().text());
+    EXPECT_EQ(vxInspector::translatedWord("mass"), "mass");
+}
+
+TEST(UnitTexts, HaveTheLanguageOfTheUserWithTheirWordsAndSuggestions)
+{
+    const Language german("de");
+    const std::string text = vxInspector::translated(wrongDimension()).toStdString();
+    EXPECT_THAT(text, HasSubstr("kg"));
+    EXPECT_THAT(text, HasSubstr("Masse"));
+    EXPECT_THAT(refusalOf("2,1 GPa"), EndsWith("Meinten Sie „2.1 GPa“?"));
+}
+
+TEST(UnitTexts, HaveTheSamePlacesForArgumentsInEveryLanguage)
+{
+    for (const char* const language : {"de", "zh_CN"}) {
+        const Language chosen(language);
+        for (const vxUnits::MessageText& text : vxUnits::messageTexts()) {
+            const QString shown = QCoreApplication::translate("vxUnits::Message", text.english);
+            EXPECT_NE(shown.toStdString(), text.english) << language;
+            for (char place = '1'; place <= '9'; ++place) {
+                const QString mark = QStringLiteral("%") + QLatin1Char(place);
+                EXPECT_EQ(shown.contains(mark), QString::fromUtf8(text.english).contains(mark))
+                    << language << ": " << text.english;
+            }
+        }
+    }
+}
+
+TEST(UnitTexts, HaveATranslationOfEveryWord)
+{
+    const Language chinese("zh_CN");
+    for (const std::string& word : vxUnits::wordTexts())
+        EXPECT_NE(vxInspector::translatedWord(word.c_str()).toStdString(), word);
+}
+
+} // namespace

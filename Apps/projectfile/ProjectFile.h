@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -27,6 +28,10 @@ inline constexpr int deepestGroups = 100;
 inline constexpr const char* materialProjectClass = "Mat::DocumentMaterial";
 /// The class of the materials in a material project.
 inline constexpr const char* materialClass = "Mat::MaterialObject";
+
+/// The setting that names the unit system in which the values of a project are shown. The numbers of the file are in the
+/// units of the catalogue whatever it is.
+inline constexpr const char* unitSystemSetting = "unit_system";
 
 /// One object of a project: a material, which has `material`, or an object of another class, which may have `content`.
 struct PROJECTFILE_EXPORT ObjectRecord
@@ -59,6 +64,7 @@ struct PROJECTFILE_EXPORT ProjectRecord
     std::string className = materialProjectClass; ///< the registered class of the project; not empty
     std::string name;                             ///< the name of the project
     std::uint64_t nextObjectId = 1;               ///< larger than all object numbers; at most 4294967296
+    std::map<std::string, std::string> settings;  ///< texts by name; settings of any name are kept
     Json::Value properties;                       ///< the properties of the project by name; an object or null
     Json::Value record;                           ///< the record that the module of the class writes; or null
     /// The record of the project in the host's project database, or null. In a material project, its objects agree with

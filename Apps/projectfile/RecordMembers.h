@@ -125,6 +125,7 @@ void visitProjectMembers(Text& format, Version& version, ClassName& className, P
     visit("next_object_id", Required{project.nextObjectId});
     visit("recovered_file", project.recoveredFile);
     visit("unapplied_edits", Optional{project.unappliedEdits});
+    visit("settings", project.settings);
     visit("properties", OptionalObject{project.properties});
     visit("record", Optional{project.record});
     visit("database", project.database);

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -131,6 +132,16 @@ void readField(const Node& node, std::string& field)
 {
     demand(node, node.value.isText(), aText);
     field = node.value.text();
+}
+
+void readField(const Node& node, std::map<std::string, std::string>& field)
+{
+    demand(node, node.value.isObject(), anObject);
+    const std::size_t size = node.value.size();
+    for (std::size_t index = 0; index < size; ++index) {
+        const Node member{node.value.member(index), &node, node.value.memberName(index)};
+        readField(member, field[std::string(member.name)]);
+    }
 }
 
 void readField(const Node& node, double& field)

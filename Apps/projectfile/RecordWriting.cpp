@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -63,6 +64,16 @@ void writeField(JsonWriter& writer, bool field)
 void writeField(JsonWriter& writer, const std::string& field)
 {
     writer.text(field);
+}
+
+void writeField(JsonWriter& writer, const std::map<std::string, std::string>& field)
+{
+    writer.beginObject(JsonLayout::Block);
+    for (const auto& [name, text] : field) {
+        writer.name(name);
+        writer.text(text);
+    }
+    writer.endObject();
 }
 
 void writeField(JsonWriter& writer, double field)
@@ -147,6 +158,11 @@ bool isMaterial(const ObjectRecord& object)
 bool isThere(const std::vector<std::uint32_t>& links)
 {
     return !links.empty();
+}
+
+bool isThere(const std::map<std::string, std::string>& settings)
+{
+    return !settings.empty();
 }
 
 bool isThere(const OtherObjects& field)

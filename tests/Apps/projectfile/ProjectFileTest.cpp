@@ -901,4 +901,28 @@ TEST(ProjectFile, IsNotWrittenIfItCouldNotBeReadBack)
     EXPECT_THAT(refusalOf(project), HasSubstr("\"database.weight\""));
 }
 
+// --- Settings ---
+
+TEST(ProjectFile, KeepsSettingsOfAnyName)
+{
+    ProjectRecord project = makeSmallProject();
+    project.settings = {{"unit_system", "length cm, mass g, time us"}, {"", "a"}, {"\xE9\x92\xA2 \"\n", "\xC2\xB5m"}};
+    const std::string text = writeProject(project);
+    EXPECT_THAT(text, HasSubstr("  \"settings\": {\n    \"\": \"a\",\n    \"unit_system\": "
+                                "\"length cm, mass g, time us\",\n"));
+    expectSame(readProject(text), project);
+}
+
+TEST(ProjectFile, WritesNoSettingsIfThereAreNone)
+{
+    EXPECT_EQ(smallText().find("settings"), std::string::npos);
+}
+
+TEST(ProjectFile, RefusesSettingsThatAreNotUtf8)
+{
+    ProjectRecord project = makeSmallProject();
+    project.settings["unit_system"] = "\xFF";
+    EXPECT_THAT(refusalOf(project), HasSubstr("settings.unit_system"));
+}
+
 } // namespace

@@ -77,6 +77,7 @@ void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectR
     EXPECT_EQ(a.record.toStyledString(), b.record.toStyledString());
     EXPECT_EQ(a.database.toStyledString(), b.database.toStyledString());
     EXPECT_EQ(a.recoveredFile, b.recoveredFile);
+    EXPECT_EQ(a.settings, b.settings);
     EXPECT_EQ(a.unappliedEdits.toStyledString(), b.unappliedEdits.toStyledString());
     EXPECT_EQ(a.further.toStyledString(), b.further.toStyledString());
     ASSERT_EQ(a.objects.size(), b.objects.size());
@@ -227,6 +228,8 @@ projectfile::ProjectRecord Dice::makeMixedProject(int objects)
     }
     if (upTo(1) == 1)
         project.further["later"] = anything(2);
+    if (upTo(1) == 0)
+        project.settings[text()] = text();
     return project;
 }
 

@@ -225,7 +225,7 @@ TEST(Schema, FitsProjectsWithObjectsOfOtherClasses)
     const Folder folder;
     std::vector<std::string> files;
     for (const char* const name :
-         {"01-materials", "02-mixed", "03-other-class", "04-any-order", "05-members-of-later-programs"})
+         {"01-materials", "02-mixed", "03-other-class", "04-any-order", "05-members-of-later-programs", "07-settings"})
     {
         const projectfile::ProjectRecord project = projectfile::readProject(vxtest::readText(projectFile(name)));
         files.push_back(projectFile(name));
@@ -241,6 +241,9 @@ TEST(Schema, RefusesInvalidObjectsOfOtherClasses)
     const std::pair<std::string, std::string> changes[] = {
         {"\"format_version\": 1,", "\"format_version\": 1, \"class\": \"\","},
         {"\"format_version\": 1,", "\"format_version\": 1, \"properties\": [],"},
+        {"\"format_version\": 1,", R"("format_version": 1, "settings": ["SI"],)"},
+        {"\"format_version\": 1,", R"("format_version": 1, "settings": {"unit_system": 3},)"},
+        {"\"format_version\": 1,", R"("format_version": 1, "settings": {"later": 3},)"},
         {"\"object_id\": 3", "\"object_id\": 0"},
         {"\"class\": \"Stub::Probe\",", ""},
         {"\"class\": \"Stub::Probe\"", R"("class": "Stub\u0000Probe")"},

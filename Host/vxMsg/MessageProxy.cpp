@@ -270,6 +270,26 @@ bool MessageProxy::setProperty(const PropertyPlace& place, const std::string& pr
     return isRead;
 }
 
+bool MessageProxy::setSetting(const std::string& projectName, const std::string& name, const std::string& text)
+{
+    Obj::Project* const project = mayAct() ? findProject(projectName) : nullptr;
+    if (project == nullptr)
+        return false;
+    if (name.empty())
+        return report(tr("The name of a setting must not be empty; nothing was changed."));
+    const std::string before = project->getSetting(name);
+    if (before == text)
+        return true;
+    const QString readable = Obj::readableName(name.c_str());
+    const QString stepText =
+        text.empty() ? tr("Reset \"%1\"").arg(readable) : tr(R"(Change "%1" to "%2")").arg(readable, shown(text));
+    return carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
+        auto command = std::make_unique<SettingCommand>(stepText, project->getProjectId(), name, before, text);
+        project->setSetting(name, text);
+        return command;
+    });
+}
+
 bool MessageProxy::setSuppressed(Obj::ProjectObject& object, bool suppressed)
 {
     if (!mayAct() || object.get_project() == nullptr)

@@ -55,6 +55,8 @@ public:
     /// Sets a property from a text. Refused if there is no such property, if it is read-only, if it cannot read the
     /// text, or if a label would be empty or blank. Setting the present text is not a step.
     bool setProperty(const PropertyPlace& place, const std::string& propertyName, const std::string& text);
+    /// Sets a setting of a project (Obj::Project::setSetting); an empty text removes it. The present text makes no step.
+    bool setSetting(const std::string& projectName, const std::string& name, const std::string& text);
     /// Suppresses an object of a project, or ends the suppression. Setting the present state is not a step.
     bool setSuppressed(Obj::ProjectObject& object, bool suppressed);
     /// Executes the due objects of a project, and passes its data to the solver side. Not a step: it changes nothing

@@ -85,6 +85,21 @@ void RenameCommand::set(const std::string& name) const
         static_cast<void>(application.renameProject(*project, name));
 }
 
+SettingCommand::SettingCommand(const QString& text, std::uint32_t projectId, std::string name, std::string before,
+                               std::string after)
+    : DoneCommand(text),
+      m_projectId(projectId),
+      m_name(std::move(name)),
+      m_before(std::move(before)),
+      m_after(std::move(after))
+{}
+
+void SettingCommand::set(const std::string& text) const
+{
+    if (Obj::Project* const project = Obj::Application::instance().get_project(m_projectId))
+        project->setSetting(m_name, text);
+}
+
 SuppressionCommand::SuppressionCommand(const QString& text, PropertyPlace place, bool suppressed)
     : DoneCommand(text), m_place(std::move(place)), m_suppressed(suppressed)
 {}

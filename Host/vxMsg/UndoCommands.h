@@ -154,6 +154,27 @@ private:
     std::string m_after;
 };
 
+/// Another text of a setting of a project; an empty text if the setting is missing.
+class SettingCommand final : public DoneCommand
+{
+public:
+    SettingCommand(const QString& text, std::uint32_t projectId, std::string name, std::string before,
+                   std::string after);
+
+    void undo() override { set(m_before); }
+
+protected:
+    void doAgain() override { set(m_after); }
+
+private:
+    void set(const std::string& text) const;
+
+    std::uint32_t m_projectId;
+    std::string m_name;
+    std::string m_before;
+    std::string m_after;
+};
+
 class SuppressionCommand final : public DoneCommand
 {
 public:

@@ -74,6 +74,19 @@ TEST_F(ListenerTest, KeepsAProjectOpenByRefusing)
     EXPECT_EQ(reports.errors(), 1);
 }
 
+TEST_F(ListenerTest, MayCloseTheProjectWhoseSettingIsChanged)
+{
+    scoped_connection listening =
+        m_project->changed.connect([](const Obj::Property*) { EXPECT_TRUE(closeProject("Machine")); });
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", "1:10"));
+    EXPECT_THAT(projects(), IsEmpty());
+    listening.disconnect();
+    EXPECT_EQ(stack().count(), 1) << "both are undone together";
+    stack().undo();
+    ASSERT_THAT(projects(), ElementsAre("Machine"));
+    EXPECT_EQ(application().get_project("Machine")->getSetting("drawing_scale"), "");
+}
+
 // --- Objects that are removed at once ---
 
 TEST_F(ListenerTest, IsNotNotifiedOfACreatedObjectThatAnotherListenerDeletedByRequest)

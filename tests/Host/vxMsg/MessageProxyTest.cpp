@@ -564,6 +564,67 @@ TEST_F(MessageProxyTest, ChangesAPropertyOfAProject)
     EXPECT_EQ(m_project->classLabel.getValue(), "");
 }
 
+// --- Settings of projects ---
+
+TEST_F(MessageProxyTest, ChangesASettingInOneStep)
+{
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", "1:10"));
+    EXPECT_EQ(m_project->getSetting("drawing_scale"), "1:10");
+    EXPECT_EQ(stack().count(), 1);
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"drawing_scale\" to \"1:10\""));
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", ""));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Reset \"drawing_scale\""));
+    EXPECT_THAT(m_project->getSettings(), IsEmpty());
+    stack().undo();
+    EXPECT_EQ(m_project->getSetting("drawing_scale"), "1:10");
+    stack().undo();
+    EXPECT_THAT(m_project->getSettings(), IsEmpty());
+    stack().redo();
+    EXPECT_EQ(m_project->getSetting("drawing_scale"), "1:10");
+}
+
+TEST_F(MessageProxyTest, TellsListenersOfASettingAndItsUndo)
+{
+    std::vector<std::string> seen;
+    const boost::signals2::scoped_connection listening = m_project->changed.connect([&](const Obj::Property* property) {
+        EXPECT_EQ(property, nullptr);
+        seen.push_back(m_project->getSetting("drawing_scale"));
+    });
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", "1:10"));
+    stack().undo();
+    stack().redo();
+    EXPECT_THAT(seen, ElementsAre("1:10", "", "1:10"));
+}
+
+TEST_F(MessageProxyTest, MakesNoStepOfTheTextThatASettingHas)
+{
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", ""));
+    EXPECT_EQ(stack().count(), 0);
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", "1:10"));
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", "1:10"));
+    EXPECT_EQ(stack().count(), 1);
+}
+
+TEST_F(MessageProxyTest, RefusesASettingWithoutANameAndOfNoProject)
+{
+    const vxtest::Reports reports;
+    EXPECT_FALSE(proxy().setSetting("Machine", "", "1:10"));
+    EXPECT_FALSE(proxy().setSetting("Nowhere", "drawing_scale", "1:10"));
+    EXPECT_EQ(reports.errors(), 2);
+    EXPECT_THAT(reports.text(), HasSubstr("The name of a setting must not be empty; nothing was changed."));
+    EXPECT_EQ(stack().count(), 0);
+}
+
+TEST_F(MessageProxyTest, RestoresASettingWithItsProject)
+{
+    EXPECT_TRUE(proxy().setSetting("Machine", "drawing_scale", "1:10"));
+    EXPECT_TRUE(closeProject("Machine"));
+    stack().undo();
+    EXPECT_EQ(application().get_project("Machine")->getSetting("drawing_scale"), "1:10");
+    stack().undo();
+    EXPECT_EQ(application().get_project("Machine")->getSetting("drawing_scale"), "");
+}
+
 TEST_F(MessageProxyTest, MakesNoStepOfTheValueThatAPropertyHas)
 {
     Part& bolt = part("Bolt");

@@ -76,17 +76,6 @@ void write(const std::string& path, std::vector<projectfile::ImportedMaterial> m
         writeProjectFile(path, text, existing);
 }
 
-/// Returns the name of the unit system that all numbers of a material fit, if it is not the system of the catalogue; empty
-/// otherwise.
-std::string fittingSystem(const vxMat::MaterialBase& material)
-{
-    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
-        if (doubt.remedy && !doubt.remedy->system.empty())
-            return doubt.remedy->system;
-    }
-    return {};
-}
-
 /// Converts materials from the given units. Returns notes about numbers that stay unchanged, and about materials that seem
 /// to be in other units.
 std::vector<std::string> convert(std::vector<projectfile::ImportedMaterial>& materials, const ChosenUnits& units,
@@ -98,7 +87,7 @@ std::vector<std::string> convert(std::vector<projectfile::ImportedMaterial>& mat
             "note: " + document + ": " + std::to_string(imported.objectId) + " " + imported.label + ": ";
         if (const std::string note = units.revert(*imported.material); !note.empty())
             notes.push_back(title + note);
-        if (const std::string system = fittingSystem(*imported.material); !system.empty())
+        if (const std::string system = vxUnits::fittingSystem(*imported.material); !system.empty())
             notes.push_back(std::string(title)
                                 .append("the values look like ")
                                 .append(system)

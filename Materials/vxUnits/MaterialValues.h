@@ -61,4 +61,8 @@ private:
 /// a creep law does not change if the material has no exponents, because its unit is then unknown.
 VXUNITS_EXPORT void convertMaterial(vxMat::MaterialBase& material, const UnitSystem& from, const UnitSystem& to);
 
+/// Returns the slots of the properties whose numbers no conversion changes because their units are not known, in the order
+/// of the catalogue: those of quantities that are not in the catalogue, and the factor of a creep law without exponents.
+VXUNITS_EXPORT std::vector<std::int32_t> slotsWithoutUnit(const vxMat::MaterialBase& material);
+
 } // namespace vxUnits

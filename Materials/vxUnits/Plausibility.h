@@ -80,6 +80,10 @@ VXUNITS_EXPORT const std::vector<Relation>& relations();
 VXUNITS_EXPORT std::vector<Doubt> checkPlausibility(const MaterialValues& values);
 VXUNITS_EXPORT std::vector<Doubt> checkPlausibility(const vxMat::MaterialBase& material);
 
+/// Returns the text of the unit system that all numbers of a material fit, if it is not the system of the catalogue; empty
+/// otherwise.
+VXUNITS_EXPORT std::string fittingSystem(const vxMat::MaterialBase& material);
+
 /// Applies the changes of a remedy to the quantities that the material has.
 VXUNITS_EXPORT void applyRemedy(const Remedy& remedy, vxMat::MaterialBase& material);
 VXUNITS_EXPORT void applyRemedy(const Remedy& remedy, MaterialValues& values);

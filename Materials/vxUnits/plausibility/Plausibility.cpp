@@ -266,6 +266,15 @@ std::vector<Doubt> checkPlausibility(const vxMat::MaterialBase& material)
     return checkPlausibility(MaterialValues(material));
 }
 
+std::string fittingSystem(const vxMat::MaterialBase& material)
+{
+    for (const Doubt& doubt : checkPlausibility(material)) {
+        if (doubt.remedy && !doubt.remedy->system.empty())
+            return doubt.remedy->system;
+    }
+    return {};
+}
+
 void applyRemedy(const Remedy& remedy, vxMat::MaterialBase& material)
 {
     for (const Change& change : remedy.changes) {

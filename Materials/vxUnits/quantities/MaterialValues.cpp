@@ -1,5 +1,6 @@
 #include "vxUnits/MaterialValues.h"
 
+#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
@@ -114,6 +115,18 @@ void convertMaterial(vxMat::MaterialBase& material, const UnitSystem& from, cons
         for (double& number : property->values)
             number = convertNumber(number, *one, *other);
     }
+}
+
+std::vector<std::int32_t> slotsWithoutUnit(const vxMat::MaterialBase& material)
+{
+    const auto creep = creepExponents(material);
+    std::vector<std::int32_t> slots;
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
+        const Quantity* const quantity = findQuantity(slot);
+        if (quantity == nullptr || (quantity->hasNumber() && !unitOfQuantity(slot, UnitSystem::si(), creep)))
+            slots.push_back(slot);
+    }
+    return slots;
 }
 
 } // namespace vxUnits

@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -406,6 +408,37 @@ TEST(Messages, WordsOfArgumentsAreListedForTranslators)
     EXPECT_NE(std::find(words.begin(), words.end(), "pressure or stress"), words.end());
     EXPECT_NE(std::find(words.begin(), words.end(), "stainless steel"), words.end());
     EXPECT_NE(std::find(words.begin(), words.end(), "osmium"), words.end());
+}
+
+// --- The unit system that a material fits ---
+
+TEST(FittingSystem, IsTheOneInWhichAllNumbersOfAMaterialAreUsual)
+{
+    for (const char* const name : {"mm-t-s", "mm-kg-ms", "cm-g-s", "in-lbf-s"}) {
+        vxMat::StructuralSteel material;
+        EXPECT_EQ(vxUnits::fittingSystem(material), "") << "in SI";
+        vxUnits::convertMaterial(material, vxUnits::UnitSystem::si(), *vxUnits::UnitSystem::parse(name));
+        EXPECT_EQ(vxUnits::fittingSystem(material), name);
+    }
+}
+
+TEST(FittingSystem, IsNoneIfOnlyOneNumberIsUnusual)
+{
+    vxMat::StructuralSteel material;
+    material.properties.at(Id::Density)->value = 7.85e-9;
+    EXPECT_EQ(vxUnits::fittingSystem(material), "");
+}
+
+TEST(SlotsWithoutUnit, AreThoseOfUnknownQuantitiesAndOfACreepFactorWithoutExponents)
+{
+    vxMat::StructuralSteel material;
+    EXPECT_TRUE(vxUnits::slotsWithoutUnit(material).empty());
+    for (const std::int32_t id : {Id::CreepModulusA, 999}) {
+        auto property = std::make_unique<vxMat::MaterialProperty>();
+        property->id = id;
+        material.setProperty(id, std::move(property));
+    }
+    EXPECT_EQ(vxUnits::slotsWithoutUnit(material), (std::vector<std::int32_t>{Id::CreepModulusA, 999}));
 }
 
 } // namespace

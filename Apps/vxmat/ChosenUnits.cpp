@@ -2,7 +2,6 @@
 
 #include "Answer.h"
 
-#include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxUnits/MaterialValues.h"
 #include "vxUnits/Quantity.h"
 
@@ -10,41 +9,43 @@ namespace commandline {
 
 namespace {
 
-vxUnits::UnitSystem readSystem(const std::string& text)
-{
-    auto system = vxUnits::UnitSystem::parse(text);
-    if (!system)
-        throw Failure("--units: " + system.failure().text() + " \"vxmat units\" lists the systems.");
-    return *std::move(system);
-}
-
-/// Returns whether a quantity has numbers whose unit is unknown: the quantity is not in the catalogue, or it is the
-/// factor of a creep law without exponents.
-bool hasUnknownUnit(std::int32_t slot, const vxMat::MaterialBase& material)
-{
-    const vxUnits::Quantity* const quantity = vxUnits::findQuantity(slot);
-    return quantity == nullptr ||
-           (quantity->hasNumber() &&
-            !vxUnits::unitOfQuantity(slot, vxUnits::UnitSystem::si(), vxUnits::creepExponents(material)));
-}
-
 /// Returns a note about the quantities that no conversion changes; empty if there are none.
 std::string noteUnchanged(const vxMat::MaterialBase& material)
 {
     std::string unchanged;
-    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
-        if (hasUnknownUnit(slot, material))
-            unchanged += (unchanged.empty() ? "\"" : ", \"") + property->name + "\"";
-    }
+    for (const std::int32_t slot : vxUnits::slotsWithoutUnit(material))
+        unchanged += (unchanged.empty() ? "\"" : ", \"") + material.findProperty(slot)->name + "\"";
     return unchanged.empty() ? unchanged : "unchanged, because the unit is not known: " + unchanged;
 }
 
 } // namespace
 
+vxUnits::UnitSystem readSystem(const std::string& option, const std::string& text)
+{
+    auto system = vxUnits::UnitSystem::parse(text);
+    if (!system)
+        throw Failure(option + ": " + system.failure().text() + " \"vxmat units\" lists the systems.");
+    return *std::move(system);
+}
+
 ChosenUnits::ChosenUnits(const std::optional<std::string>& text)
 {
     if (text)
-        m_system = readSystem(*text);
+        m_system = readSystem("--units", *text);
+}
+
+ChosenUnits ChosenUnits::orOfProject(const std::string& recorded, const std::string& path,
+                                     std::vector<std::string>& messages) const
+{
+    if (m_system || recorded.empty())
+        return *this;
+    ChosenUnits units;
+    if (auto system = vxUnits::UnitSystem::parse(recorded))
+        units.m_system = *std::move(system);
+    else
+        messages.push_back(path + ": the unit system of the project cannot be read: " + system.failure().text() +
+                           " SI is used.");
+    return units;
 }
 
 std::string ChosenUnits::name() const

@@ -5,11 +5,12 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace commandline {
 
 /// The unit system of --units, in which a subcommand prints or reads numbers. Without the option, numbers are in the units of
-/// the catalogue.
+/// the catalogue, and subcommands that print a project use the unit system of the project.
 class ChosenUnits
 {
 public:
@@ -17,6 +18,11 @@ public:
 
     /// \throws Failure if a given text is not a unit system
     explicit ChosenUnits(const std::optional<std::string>& text);
+
+    /// Returns these units. If --units is not given, returns those of a project whose setting has the text `recorded`, which
+    /// is empty if there is none. If the setting cannot be read, adds a message that begins with `path`.
+    ChosenUnits orOfProject(const std::string& recorded, const std::string& path,
+                            std::vector<std::string>& messages) const;
 
     bool areGiven() const { return m_system.has_value(); }
 
@@ -48,6 +54,10 @@ public:
 private:
     std::optional<vxUnits::UnitSystem> m_system;
 };
+
+/// Returns the unit system in a text that was given for an option.
+/// \throws Failure with the name of the option if the text is not a unit system
+vxUnits::UnitSystem readSystem(const std::string& option, const std::string& text);
 
 /// Returns a unit as tables show it: "-" for pure numbers.
 std::string textOf(const vxUnits::Unit& unit);

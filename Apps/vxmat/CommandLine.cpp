@@ -195,18 +195,20 @@ void CommandLine::addNew()
 
 void CommandLine::addSet()
 {
-    CLI::App* const command =
-        addCommand("set", "Set a quantity of a material in a project file; adds the quantity if it is missing",
-                   R"(vxmat set parts.vxmat Frame "Young's modulus" "210 GPa")",
-                   [this] { return setQuantity(m_setting, existing()); });
+    CLI::App* const command = addCommand(
+        "set",
+        "Set a quantity of a material in a project file, which gets the quantity if it is missing, or the unit "
+        "system in which the project is shown",
+        R"(vxmat set parts.vxmat Frame "Young's modulus" "210 GPa")",
+        [this] { return setQuantity(m_setting, existing()); });
     command->add_option("PROJECT", m_setting.project, "The project file, which is changed in place")->required();
-    command->add_option("MATERIAL", m_setting.material, "The label of the material, or its number")->required();
-    command->add_option("QUANTITY", m_setting.quantity, "The name, key or id of a quantity")->required();
-    command
-        ->add_option("VALUE", m_setting.value,
-                     "A number with a unit, or in the unit of the catalogue; a list of numbers; a word; \"on\" for a "
-                     "switch")
-        ->required();
+    command->add_option("MATERIAL", m_setting.material, "The label of the material, or its number");
+    command->add_option("QUANTITY", m_setting.quantity, "The name, key or id of a quantity");
+    command->add_option(
+        "VALUE", m_setting.value,
+        "A number with a unit, or in the unit of the catalogue; a list of numbers; a word; \"on\" for a switch");
+    command->add_option("--project-units", m_setting.projectUnits, "The unit system in which programs show the project")
+        ->type_name("SYSTEM");
     command->add_flag("--force", m_force, "Take over a lock that a program on another computer has left");
 }
 

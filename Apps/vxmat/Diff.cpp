@@ -398,13 +398,15 @@ Json::Value toJson(const Difference& difference)
 
 } // namespace
 
-Answer diffFiles(const std::string& one, const std::string& other, Form form, const ChosenUnits& units)
+Answer diffFiles(const std::string& one, const std::string& other, Form form, const ChosenUnits& given)
 {
     const MaterialFile left = readMaterials(one);
     const MaterialFile right = readMaterials(other);
     Answer answer;
     answer.add(left.doubts);
     answer.add(right.doubts);
+    const std::string shared = left.unitSystem == right.unitSystem ? left.unitSystem : std::string();
+    const ChosenUnits units = given.orOfProject(shared, one, answer.messages);
     if (left.source != right.source)
         answer.messages.push_back("note: " + (left.source == vxCAE::MaterialSource::Document ? one : other) +
                                   " is an exchange document, which carries only the key, name and number of a "

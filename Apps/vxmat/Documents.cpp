@@ -89,6 +89,9 @@ MaterialFile readFromProject(Input input)
     MaterialFile file;
     file.path = input.path;
     file.source = vxCAE::MaterialSource::Complete;
+    if (const auto setting = input.project->settings.find(projectfile::unitSystemSetting);
+        setting != input.project->settings.end())
+        file.unitSystem = setting->second;
     for (const std::string& doubt : input.project->doubts)
         file.doubts.push_back(input.path + ": " + doubt);
     for (projectfile::ObjectRecord& object : input.project->objects) {

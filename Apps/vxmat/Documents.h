@@ -58,7 +58,8 @@ struct MaterialFile
     vxCAE::MaterialSource source = vxCAE::MaterialSource::Document; ///< Complete if the file is a project
     std::vector<FileMaterial> materials;                            ///< by number
     std::vector<projectfile::ObjectRecord> others;                  ///< other objects of a project, by number
-    std::vector<std::string> doubts;                                ///< of the reader, with the name of the file
+    std::string unitSystem;          ///< the setting of a project; empty if there is none
+    std::vector<std::string> doubts; ///< of the reader, with the name of the file
 };
 
 /// Reads the materials of a material document, or of a project.

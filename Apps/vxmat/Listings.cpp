@@ -197,11 +197,12 @@ std::string listOthers(const std::vector<projectfile::ObjectRecord>& objects)
     return "Objects of other classes\n\n" + table.text();
 }
 
-Answer showFile(const std::string& path, Form form, const ChosenUnits& units)
+Answer showFile(const std::string& path, Form form, const ChosenUnits& given)
 {
     const MaterialFile file = readMaterials(path);
     Answer answer;
     answer.messages = file.doubts;
+    const ChosenUnits units = given.orOfProject(file.unitSystem, path, answer.messages);
     Json::Value document;
     addUnits(document, units);
     document["file"] = path;

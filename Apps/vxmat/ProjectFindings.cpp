@@ -2,6 +2,7 @@
 
 #include "vxMaterial/model/MaterialCheck.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/UnitSystem.h"
 
 #include <string>
 #include <unordered_map>
@@ -27,6 +28,7 @@ public:
             note("$.objects", "are objects of other classes, which are not checked");
         for (const std::string& doubt : project.doubts)
             find("$", doubt);
+        checkUnitSystem(project);
     }
 
     void checkMaterials(const vxjson::JsonNode& materials);
@@ -36,6 +38,7 @@ public:
 private:
     void find(const std::string& path, const std::string& message) { report.findings.push_back({path, message}); }
     void note(const std::string& path, const std::string& message) { report.notes.push_back({path, message}); }
+    void checkUnitSystem(const projectfile::ProjectRecord& project);
     void checkMaterial(const vxMat::MaterialBase& material, const vxjson::JsonNode& properties,
                        const std::string& path);
     void noteSlot(std::int32_t slot, const MaterialProperty& property, const std::string& path);
@@ -54,6 +57,15 @@ std::string nameOf(std::int32_t id)
 {
     const vxMat::PropertyRecord* const quantity = vxMat::findPropertyRecord(id);
     return std::to_string(id) + (quantity != nullptr ? " \"" + std::string(quantity->name) + "\"" : "");
+}
+
+void ProjectCheck::checkUnitSystem(const projectfile::ProjectRecord& project)
+{
+    const auto setting = project.settings.find(projectfile::unitSystemSetting);
+    if (setting == project.settings.end() || setting->second.empty())
+        return;
+    if (const auto system = vxUnits::UnitSystem::parse(setting->second); !system)
+        find(std::string("$.settings.") + projectfile::unitSystemSetting, system.failure().text() + " SI is used.");
 }
 
 void ProjectCheck::noteSlot(std::int32_t slot, const MaterialProperty& property, const std::string& path)

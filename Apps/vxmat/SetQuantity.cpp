@@ -1,5 +1,7 @@
 #include "SetQuantity.h"
 
+#include "ChosenUnits.h"
+
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
@@ -153,24 +155,51 @@ void addDoubts(const PropertyRecord& quantity, const vxMat::MaterialBase& materi
     }
 }
 
+/// Sets the quantity of a material, and adds to the answer how the value was read.
+void setValue(const Setting& setting, ProjectRecord& project, Answer& answer)
+{
+    const PropertyRecord& quantity = findQuantity(setting.quantity);
+    ObjectRecord& object = findMaterial(setting, project);
+    vxMat::MaterialBase& material = *object.ownMaterial;
+    ReadValue read = readValue(quantity, setting.value, material);
+    material.setProperty(quantity.id, std::move(read.property));
+    answer.text += printable(object.label) + ": " + quantity.name + ": " + printable(read.understood) + "\n";
+    if (*read.note.id != '\0')
+        answer.messages.push_back("note: " + read.note.text());
+    addDoubts(quantity, material, answer);
+}
+
+/// Records the unit system in which the project is shown.
+void setUnits(const std::string& system, ProjectRecord& project, Answer& answer)
+{
+    const std::string text = readSystem("--project-units", system).text();
+    project.settings[projectfile::unitSystemSetting] = text;
+    answer.text += "unit system: " + printable(text) + "\n";
+}
+
+bool hasMaterial(const Setting& setting)
+{
+    const bool isComplete = !setting.material.empty() && !setting.quantity.empty() && !setting.value.empty();
+    const bool isAbsent = setting.material.empty() && setting.quantity.empty() && setting.value.empty();
+    if (!isComplete && (!isAbsent || !setting.projectUnits))
+        throw Failure("give a material, a quantity and a value, or --project-units");
+    return isComplete;
+}
+
 } // namespace
 
 Answer setQuantity(const Setting& setting, Existing existing)
 {
-    const PropertyRecord& quantity = findQuantity(setting.quantity);
+    const bool givesValue = hasMaterial(setting);
     Answer answer;
     const auto change = [&](const std::string& text) {
         ProjectRecord project = projectfile::readProject(text);
         for (const std::string& doubt : project.doubts)
             answer.messages.push_back(setting.project + ": " + doubt);
-        ObjectRecord& object = findMaterial(setting, project);
-        vxMat::MaterialBase& material = *object.ownMaterial;
-        ReadValue read = readValue(quantity, setting.value, material);
-        material.setProperty(quantity.id, std::move(read.property));
-        answer.text = printable(object.label) + ": " + quantity.name + ": " + printable(read.understood) + "\n";
-        if (*read.note.id != '\0')
-            answer.messages.push_back("note: " + read.note.text());
-        addDoubts(quantity, material, answer);
+        if (givesValue)
+            setValue(setting, project, answer);
+        if (setting.projectUnits)
+            setUnits(*setting.projectUnits, project, answer);
         return projectfile::writeProject(project);
     };
     try {

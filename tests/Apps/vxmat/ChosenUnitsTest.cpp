@@ -188,4 +188,66 @@ TEST(ChosenUnits, AreRefusedIfTheyAreNoSystem)
     EXPECT_THAT(run.err, AllOf(StartsWith("vxmat: --units: "), HasSubstr("\"vxmat units\" lists the systems.")));
 }
 
+/// A project of structural steel that records its unit system.
+class UnitsOfAProject : public testing::Test
+{
+protected:
+    UnitsOfAProject()
+    {
+        EXPECT_EQ(vxmat({"new", "Structural Steel=Frame", "-o", file}).status, 0);
+        EXPECT_EQ(vxmat({"set", file, "--project-units", "mm-t-s"}).status, 0);
+    }
+    Folder folder;
+    std::string file = folder.path("p.vxmat");
+};
+
+TEST_F(UnitsOfAProject, AreThoseInWhichItIsShown)
+{
+    const Outcome run = vxmat({"show", file});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Frame (mm-t-s)\n"), ContainsRegex("\nDensity +7.85e-09 +t/mm\\^3 "),
+                               ContainsRegex("\nYoung's modulus +2e\\+05 +MPa ")));
+    const Json::Value json = vxmatJson({"show", file, "--json"});
+    EXPECT_EQ(json["units"], "mm-t-s");
+    EXPECT_EQ(propertyOf(json["materials"][0], "Young's modulus")["value"], 200000.0);
+}
+
+TEST_F(UnitsOfAProject, GiveWayToUnitsOfTheCommandLine)
+{
+    const Outcome run = vxmat({"show", file, "--units", "SI"});
+    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Frame (SI)\n"), ContainsRegex("\nYoung's modulus +2e\\+11 +Pa ")));
+}
+
+TEST_F(UnitsOfAProject, DoNotChangeDocumentsAndCards)
+{
+    const std::string document = folder.path("m.json");
+    const Outcome written = vxmat({"export", file, "-o", document});
+    EXPECT_EQ(written.err, "");
+    EXPECT_EQ(propertyOf(vxmatJson({"show", document, "--json"})["materials"][0], "Young's modulus")["value"], 2e11);
+    EXPECT_EQ(vxmat({"cards", file}).out, vxmat({"cards", file, "--units", "SI"}).out);
+}
+
+TEST_F(UnitsOfAProject, AreUsedForDifferencesIfBothProjectsRecordThem)
+{
+    const std::string other = folder.path("q.vxmat");
+    ASSERT_EQ(vxmat({"new", "Structural Steel=Frame", "-o", other}).status, 0);
+    ASSERT_EQ(vxmat({"set", other, "Frame", "E", "210 GPa"}).status, 0);
+    EXPECT_THAT(vxmat({"diff", file, other}).out, HasSubstr("value: 2e+11 -> 2.1e+11\n"));
+    ASSERT_EQ(vxmat({"set", other, "--project-units", "mm-t-s"}).status, 0);
+    const Outcome run = vxmat({"diff", file, other});
+    EXPECT_THAT(run.out, HasSubstr("2e+05 MPa -> 2.1e+05 MPa\n"));
+    EXPECT_EQ(run.err, "vxmat: note: numbers are in mm-t-s\n");
+}
+
+TEST(ChosenUnits, AreSiIfThoseOfTheProjectCannotBeRead)
+{
+    const std::string file = vxtest::dataPath("projects/15-unreadable-unit-system.vxmat");
+    const Outcome run = vxmat({"show", file});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.err, AllOf(HasSubstr(file + ": the unit system of the project cannot be read: "),
+                               HasSubstr(" SI is used.\n")));
+    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Steel\n"), ContainsRegex("\nDensity +7850 +kg/m3 ")));
+}
+
 } // namespace

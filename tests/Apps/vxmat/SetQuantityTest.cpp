@@ -159,4 +159,46 @@ TEST_F(SetQuantity, NeedsAProjectFileThatItCanReplace)
     EXPECT_THAT(folder.names(), ElementsAre("m.json")) << "no lock file is left";
 }
 
+TEST_F(SetQuantity, RecordsTheUnitSystemInWhichTheProjectIsShown)
+{
+    const auto before = propertyOf("Frame", 5);
+    const Outcome run = vxmat({"set", file(), "--project-units", "MM-T-S"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "unit system: mm-t-s\n");
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(projectfile::readProject(vxtest::readText(file())).settings,
+                ElementsAre(std::pair<const std::string, std::string>("unit_system", "mm-t-s")));
+    EXPECT_EQ(propertyOf("Frame", 5).value, before.value) << "the numbers of the file are in SI";
+}
+
+TEST_F(SetQuantity, TakesAValueAndAUnitSystemAtOnce)
+{
+    const Outcome run = vxmat({"set", file(), "Frame", "E", "210 GPa", "--project-units", "cm-g-s"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "Frame: Young's modulus: 210 GPa = 2.1e+11 Pa\nunit system: cm-g-s\n");
+}
+
+TEST_F(SetQuantity, ChangesNothingIfTheUnitSystemCannotBeRead)
+{
+    const std::string before = vxtest::readText(file());
+    const Outcome run = vxmat({"set", file(), "Frame", "E", "210 GPa", "--project-units", "mm-t"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, StartsWith("vxmat: --project-units: "));
+    EXPECT_THAT(run.err, HasSubstr("\"vxmat units\" lists the systems"));
+    EXPECT_EQ(vxtest::readText(file()), before);
+}
+
+TEST_F(SetQuantity, NeedsAWholeValueOrAUnitSystem)
+{
+    for (const auto& arguments : {std::vector<std::string>{"set", file()},
+                                  {"set", file(), "Frame"},
+                                  {"set", file(), "Frame", "E"},
+                                  {"set", file(), "Frame", "--project-units", "SI"}})
+    {
+        const Outcome run = vxmat(arguments);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.err, "vxmat: give a material, a quantity and a value, or --project-units\n");
+    }
+}
+
 } // namespace

@@ -6,6 +6,8 @@
 #include "Gui/MainWindow.h"
 #include "Gui/MessageLogView.h"
 #include "Gui/Translator.h"
+#include "application/LanguageChoice.h"
+#include "preferences/PreferencesDialog.h"
 
 #include <QActionGroup>
 #include <QMenu>
@@ -132,17 +134,19 @@ void listLanguages(QMenu& menu)
 {
     auto* const group = new QActionGroup(&menu);
     const QString chosen = Translator::chosenLanguage();
-    const auto add = [&](const QString& title, const QString& language) {
-        QAction* const action = group->addAction(title);
+    const auto add = [&](const LanguageChoice& choice) {
+        QAction* const action = group->addAction(choice.title);
         action->setCheckable(true);
-        action->setChecked(language == chosen);
+        action->setChecked(choice.language == chosen);
         menu.addAction(action);
-        QObject::connect(action, &QAction::triggered, [language] { Translator::instance()->chooseLanguage(language); });
+        QObject::connect(action, &QAction::triggered,
+                         [language = choice.language] { Translator::instance()->chooseLanguage(language); });
     };
-    add(QCoreApplication::translate(context, "&System"), QString());
-    menu.addSeparator();
-    for (const QString& language : Translator::instance()->languages())
-        add(Translator::nameOf(language), language);
+    for (const LanguageChoice& choice : languageChoices()) {
+        add(choice);
+        if (choice.language.isEmpty())
+            menu.addSeparator();
+    }
 }
 
 std::vector<CommandRow> languageRows()
@@ -205,6 +209,9 @@ std::vector<CommandRow> documentRows()
 std::vector<CommandRow> programRows()
 {
     return {
+        {"Std_Preferences", QT_TRANSLATE_NOOP("StandardCommand", "Pr&eferences..."),
+         QT_TRANSLATE_NOOP("StandardCommand", "Choose the settings of the program"), "", Qt::CTRL + Qt::Key_Comma,
+         CommandType::none, openPreferences, hasWindow},
         {"Std_Quit", QT_TRANSLATE_NOOP("StandardCommand", "&Quit"),
          QT_TRANSLATE_NOOP("StandardCommand", "Close the program"), "", Qt::CTRL + Qt::Key_Q, CommandType::none,
          [] { mainWindow()->close(); }, hasWindow},

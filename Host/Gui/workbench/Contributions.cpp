@@ -63,6 +63,12 @@ void Contributions::addDock(DockEntry entry)
     add(m_docks, std::move(entry), [](const DockEntry& a, const DockEntry& b) { return a.name == b.name; });
 }
 
+void Contributions::addPreferencesPage(PreferencesEntry entry)
+{
+    add(m_preferencesPages, std::move(entry),
+        [](const PreferencesEntry& a, const PreferencesEntry& b) { return a.name == b.name; });
+}
+
 void Contributions::addWorkbench(WorkbenchEntry entry)
 {
     add(m_workbenches, std::move(entry),

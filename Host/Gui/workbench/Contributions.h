@@ -13,6 +13,8 @@ class QWidget;
 
 namespace Gui {
 
+class PreferencesPage;
+
 /// A text that is translated when it is shown, and so follows the language of the user. Both strings must outlive
 /// the windows, as literals do: {"Probes", QT_TRANSLATE_NOOP("Probes", "No probe is open")}.
 struct TranslatableText
@@ -109,6 +111,15 @@ struct DockEntry
     DockVisibility visibility = DockVisibility::ShownAtFirst;
 };
 
+/// A page of the preferences dialog ("Edit > Preferences").
+struct PreferencesEntry
+{
+    std::string name; ///< unique
+    TranslatableText title;
+    /// Makes the page. Called each time the dialog opens; the dialog owns the result.
+    std::function<PreferencesPage*()> make;
+};
+
 /// A workbench of a module. If there are several, "View" contains a switch between them.
 struct WorkbenchEntry
 {
@@ -120,8 +131,8 @@ struct WorkbenchEntry
 };
 
 /// Additions of modules to the window besides those of their workbenches: commands in menus and toolbars, entries of
-/// the welcome page, text in the About box, docking windows, and the workbenches. The application has one set of
-/// contributions. The main window shows them, and shows later additions when the event loop is next idle.
+/// the welcome page, text in the About box, docking windows, pages of the preferences, and the workbenches. The
+/// application has one set of contributions. The main window shows them, and shows later additions when the event loop is next idle.
 ///
 /// An entry that exists already is ignored. Entries are shown in the order of their registration. Their functions must
 /// be callable as long as the application lives.
@@ -151,6 +162,7 @@ public:
     /// Adds a paragraph, as rich text, to the About box.
     void addAboutText(TranslatableText text);
     void addDock(DockEntry entry);
+    void addPreferencesPage(PreferencesEntry entry);
     void addWorkbench(WorkbenchEntry entry);
 
     const std::vector<CommandPlace>& menuPlaces() const { return m_menuPlaces; }
@@ -160,6 +172,7 @@ public:
     const std::vector<WelcomeList>& welcomeLists() const { return m_welcomeLists; }
     const std::vector<TranslatableText>& aboutTexts() const { return m_aboutTexts; }
     const std::vector<DockEntry>& docks() const { return m_docks; }
+    const std::vector<PreferencesEntry>& preferencesPages() const { return m_preferencesPages; }
     const std::vector<WorkbenchEntry>& workbenches() const { return m_workbenches; }
 
 Q_SIGNALS:
@@ -177,6 +190,7 @@ private:
     std::vector<WelcomeList> m_welcomeLists;
     std::vector<TranslatableText> m_aboutTexts;
     std::vector<DockEntry> m_docks;
+    std::vector<PreferencesEntry> m_preferencesPages;
     std::vector<WorkbenchEntry> m_workbenches;
 };
 

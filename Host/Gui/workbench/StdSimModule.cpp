@@ -48,7 +48,8 @@ MenuItem* makeEditMenu()
                                {{"Undo", line, {"Std_Undo", "Std_Redo"}},
                                 {"Clipboard", line, {"Std_Copy", "Std_Paste", "Std_DuplicateSelection", "Std_Delete"}},
                                 {"Select", line, {"Std_SelectAll", "Std_Rename", "Std_Color"}},
-                                {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}}});
+                                {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}},
+                                {"Preferences", line, {"Std_Preferences"}}});
 }
 
 MenuItem* makeProjectMenu()

@@ -28,8 +28,8 @@ public:
     virtual void activated();
     virtual void deactivated();
     /// Menus and their sections: "&File" (New, Open, Save, Import, Close, Quit), "&Edit" (Undo, Clipboard, Select,
-    /// Suppress), "&Project" (Add, Import, Solve), "&View" (Docks, Bars, Panes, Messages, Language, Workbench),
-    /// "&Windows" (Arrange, Close) and "&Help" (Guide, About).
+    /// Suppress, Preferences), "&Project" (Add, Import, Solve), "&View" (Docks, Bars, Panes, Messages, Language,
+    /// Workbench), "&Windows" (Arrange, Close) and "&Help" (Guide, About).
     virtual MenuItem* build_menu_bar() const;
     /// Toolbars and their sections: "File" (New, Open, Add) and "Edit" (Undo, Clipboard).
     virtual ToolBarGadget* build_toolbars() const;

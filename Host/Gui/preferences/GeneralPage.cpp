@@ -1,0 +1,57 @@
+#include "preferences/GeneralPage.h"
+
+#include "Gui/Translator.h"
+#include "Gui/WindowTitle.h"
+#include "application/LanguageChoice.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QFormLayout>
+#include <QLabel>
+
+namespace Gui {
+
+GeneralPage::GeneralPage(QWidget* parent)
+    : PreferencesPage(parent), m_title(new QLabel(this)), m_languages(new QComboBox(this))
+{
+    m_languages->setObjectName(QStringLiteral("language"));
+    for (const LanguageChoice& choice : languageChoices())
+        m_languages->addItem(withoutMnemonics(choice.title), choice.language);
+    m_stored = m_languages->findData(Translator::chosenLanguage());
+    m_languages->setCurrentIndex(m_stored);
+    auto* const layout = new QFormLayout(this);
+    layout->addRow(m_title, m_languages);
+    m_title->setBuddy(m_languages);
+    setFocusProxy(m_languages);
+    retranslate();
+    connect(m_languages, qOverload<int>(&QComboBox::currentIndexChanged), this, &GeneralPage::edited);
+}
+
+GeneralPage::~GeneralPage() = default;
+
+bool GeneralPage::isChanged() const
+{
+    return m_languages->currentIndex() != m_stored;
+}
+
+void GeneralPage::store()
+{
+    m_stored = m_languages->currentIndex();
+    Translator::instance()->chooseLanguage(m_languages->currentData().toString());
+}
+
+void GeneralPage::retranslate()
+{
+    m_title->setText(tr("&Language:"));
+    // Only the title of the system's language is translated.
+    m_languages->setItemText(0, withoutMnemonics(languageChoices().front().title));
+}
+
+void GeneralPage::changeEvent(QEvent* event)
+{
+    PreferencesPage::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+} // namespace Gui

@@ -36,7 +36,7 @@ bool hasProject()
 /// Returns whether the module of the current project imports documents.
 bool canImport()
 {
-    return hasProject() && findDocumentImport(*Obj::Application::get_current_project()) != nullptr;
+    return hasProject() && findDocumentImport(Obj::Application::get_current_project()->getTypeId()) != nullptr;
 }
 
 QString askForFile(const char* title, const QString& filter)

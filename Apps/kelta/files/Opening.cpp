@@ -1,6 +1,5 @@
 #include "Opening.h"
 
-#include "BusyCursor.h"
 #include "FilePaths.h"
 #include "PlaceholderRecord.h"
 #include "ProjectRecording.h"
@@ -15,6 +14,7 @@
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "Obj/Placeholder.h"
+#include "kelta/BusyCursor.h"
 #include "kelta/OpeningGuard.h"
 #include "projectfile/ExchangeImport.h"
 #include "vxMsg/MessageProxy.h"

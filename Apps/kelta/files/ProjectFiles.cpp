@@ -1,12 +1,11 @@
 #include "ProjectFiles.h"
 
-#include "BusyCursor.h"
 #include "FilePaths.h"
 
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
-#include "kelta/DocumentImport.h"
+#include "kelta/BusyCursor.h"
 #include "kelta/UnappliedEdits.h"
 #include "vxMsg/MessageProxy.h"
 
@@ -31,7 +30,7 @@ Obj::Project* findTarget()
     if (Obj::Project* const current = Obj::Application::get_current_project())
         projects.insert(projects.begin(), current);
     const auto found = std::find_if(projects.begin(), projects.end(), [](const Obj::Project* project) {
-        return findDocumentImport(*project) != nullptr;
+        return findDocumentImport(project->getTypeId()) != nullptr;
     });
     return found != projects.end() ? *found : nullptr;
 }
@@ -79,12 +78,30 @@ bool ProjectFiles::saveAs(Obj::Project& project)
 
 bool ProjectFiles::importDocument(Obj::Project& project, const QString& path)
 {
-    const DocumentImport* const import = findDocumentImport(project);
+    const std::uint32_t projectId = project.getProjectId();
+    const ImportStep add = readDocument(project.getTypeId(), path);
+    // The project may have been closed while the user answered.
+    return add && Obj::Application::instance().get_project(projectId) == &project && addDocument(project, add, path);
+}
+
+ImportStep ProjectFiles::readDocument(Kelta::TypeInfo projectClass, const QString& path)
+{
+    const DocumentImport* const import = findDocumentImport(projectClass);
     if (import == nullptr)
-        return false;
+        return {};
+    try {
+        return (*import)(path);
+    } catch (const std::exception& error) {
+        m_questions.complain(tr("Import"), QString::fromUtf8(error.what()));
+    }
+    return {};
+}
+
+bool ProjectFiles::addDocument(Obj::Project& project, const ImportStep& add, const QString& path)
+{
     try {
         const BusyCursor busy;
-        const ImportOutcome outcome = (*import)(project, path);
+        const ImportOutcome outcome = add(project);
         m_opening.warn(path, outcome.doubts);
         Gui::TreeSelectionSingleton::instance().setSelection({}, outcome.objects);
         m_mainWindow.statusBar()->showMessage(tr("Objects imported: %1").arg(outcome.objects.size()), 5000);
@@ -118,6 +135,10 @@ bool ProjectFiles::offerImport(const QString& path)
 
 bool ProjectFiles::importIntoNewProject(const std::string& projectClass, const QString& path)
 {
+    // Nothing is made for a document that cannot be read.
+    const ImportStep add = readDocument(Kelta::TypeInfo::find(projectClass.c_str()), path);
+    if (!add)
+        return false;
     vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
     const vxMsg::MessageProxy::Group oneStep(tr("Import \"%1\"").arg(QFileInfo(path).fileName()));
     const std::string name =
@@ -125,7 +146,7 @@ bool ProjectFiles::importIntoNewProject(const std::string& projectClass, const Q
     if (!requests.newProject(projectClass, name))
         return false;
     Obj::Project* const project = Obj::Application::instance().get_project(name);
-    if (project != nullptr && importDocument(*project, path))
+    if (project != nullptr && addDocument(*project, add, path))
         return true;
     requests.closeProject(name);
     return false;

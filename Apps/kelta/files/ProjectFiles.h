@@ -6,6 +6,7 @@
 #include "Saving.h"
 #include "Sessions.h"
 
+#include "kelta/DocumentImport.h"
 #include "kelta/FileService.h"
 
 #include <QObject>
@@ -54,7 +55,7 @@ public:
     /// Saves a project in a file that the user chooses. Returns the same as save().
     bool saveAs(Obj::Project& project);
     /// Adds the content of an exchange document to a project. Tells the user the reason and returns false if that
-    /// fails. Returns false too if no module imports documents into such a project.
+    /// fails. Returns false too if the user cancels, or if no module imports documents into such a project.
     bool importDocument(Obj::Project& project, const QString& path);
 
     /// Writes a copy for recovery of every project that has changed since its last copy, or whose open editors have.
@@ -67,6 +68,11 @@ private:
     /// Offers to import an exchange document that was given in place of a project file. Returns whether it was imported.
     bool offerImport(const QString& path);
     bool importIntoNewProject(const std::string& projectClass, const QString& path);
+    /// Reads an exchange document for projects of a class. Tells the user the reason if that fails. Returns an empty function
+    /// then, if the user cancels, and if no module imports documents into such projects.
+    ImportStep readDocument(Kelta::TypeInfo projectClass, const QString& path);
+    /// Adds what was read from a file to a project. Tells the user the reason and returns false if that fails.
+    bool addDocument(Obj::Project& project, const ImportStep& add, const QString& path);
 
     Gui::MainWindow& m_mainWindow;
     Copies m_copies;

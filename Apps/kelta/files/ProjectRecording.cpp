@@ -97,6 +97,7 @@ projectfile::ProjectRecord recordProject(Obj::Project& project, const KeptMember
     projectfile::ProjectRecord record;
     record.name = kept.name.whenOpen == project.get_name() ? kept.name.inFile : project.get_name();
     record.nextObjectId = project.getNextObjectId();
+    record.settings = project.getSettings();
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderProject*>(&project))
         writePlaceholder(*placeholder, record);
     else

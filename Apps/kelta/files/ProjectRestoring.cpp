@@ -165,6 +165,8 @@ private:
     {
         m_kept.further = std::move(m_record.further);
         m_kept.database = std::move(m_record.database);
+        for (const auto& [name, text] : m_record.settings)
+            m_project.setSetting(name, text);
         if (isPlaceholder()) {
             m_missingClasses.insert(m_record.className);
             return;

@@ -1,6 +1,5 @@
 #include "Saving.h"
 
-#include "BusyCursor.h"
 #include "FilePaths.h"
 #include "ProjectRecording.h"
 #include "Questions.h"
@@ -10,6 +9,7 @@
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
 #include "Obj/Application.h"
+#include "kelta/BusyCursor.h"
 #include "kelta/UnappliedEdits.h"
 
 #include <QFileInfo>

@@ -2,6 +2,8 @@
 
 #include "MaterialCheck.h"
 #include "MaterialProjects.h"
+#include "ProjectUnitsDialog.h"
+#include "UnitsPage.h"
 
 #include "Gui/CommandController.h"
 #include "Gui/CommandTable.h"
@@ -34,13 +36,26 @@ void checkMaterials()
         Gui::MainWindow::get_main_window_inst()->showMessages();
 }
 
+void chooseUnits()
+{
+    openProjectUnits(*currentMaterialProject(), *Gui::MainWindow::get_main_window_inst());
+}
+
 void addMaterialCommands(Gui::CommandController& commands)
 {
     Gui::addCommands(
         commands, commandContext,
         {{"Mat_Check", QT_TRANSLATE_NOOP("MaterialCommand", "&Check materials"),
           QT_TRANSLATE_NOOP("MaterialCommand", "Check whether all materials of the project are ready"), "", Qt::Key_F7,
-          Gui::CommandType::none, checkMaterials, [] { return currentMaterialProject() != nullptr; }}});
+          Gui::CommandType::none, checkMaterials, [] { return currentMaterialProject() != nullptr; }},
+         {"Mat_Units",
+          QT_TRANSLATE_NOOP("MaterialCommand", "&Units..."),
+          QT_TRANSLATE_NOOP("MaterialCommand", "Choose the unit system in which the project is shown"),
+          "",
+          {},
+          Gui::CommandType::none,
+          chooseUnits,
+          [] { return currentMaterialProject() != nullptr; }}});
 }
 
 /// The keys of commands of the materials module, which has none for them.
@@ -64,6 +79,7 @@ void addToBars(Gui::Contributions& contributions)
     contributions.addToMenu("&Project", "Add", "Mat_Edit");
     contributions.addToMenu("&Project", "Import", "Std_ImportDocument");
     contributions.addToMenu("&Project", "Import", "Mat_Import");
+    contributions.addToMenu("&Project", "Units", "Mat_Units");
     contributions.addToMenu("&Material", "Check", "Mat_Check", workbenchClass);
     contributions.addToToolBar("File", "New", "Mat_NewDoc");
     contributions.addToToolBar("File", "Add", "Mat_AddMaterial");
@@ -118,6 +134,9 @@ void registerMaterialContributions(Gui::GuiApplication& application)
         {"MaterialAbout",
          QT_TRANSLATE_NOOP("MaterialAbout", "Materials for finite-element simulation: 26 ready-made materials, 36 "
                                             "quantities, and the documents and cards that the solver reads.")});
+    contributions.addPreferencesPage({"Units",
+                                      {"desktop::UnitsPage", QT_TRANSLATE_NOOP("desktop::UnitsPage", "Units")},
+                                      [] { return new UnitsPage; }});
     contributions.addWorkbench(
         {workbenchClass, {"Workbench", QT_TRANSLATE_NOOP("Workbench", "Material")}, projectClass});
 }

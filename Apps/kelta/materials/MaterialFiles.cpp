@@ -8,7 +8,6 @@
 #include "kelta/FileService.h"
 #include "projectfile/MaterialClasses.h"
 #include "projectfile/MaterialRecord.h"
-#include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
 namespace desktop {
@@ -33,11 +32,6 @@ void readContent(Obj::ProjectObject& object, const Json::Value& content)
     projectfile::readMaterial(materialOf(object), content);
 }
 
-ImportOutcome import(Obj::Project& project, const QString& path)
-{
-    return importDocument(static_cast<Mat::DocumentMaterial&>(project), path);
-}
-
 void tellFiles(Mat::MaterialObject& object)
 {
     if (FileService* const files = FileService::instance())
@@ -50,7 +44,7 @@ void registerMaterialFiles()
 {
     projectfile::registerMaterialClass(objectClass, materialOf);
     Obj::registerContentCodec(objectClass, {writeContent, readContent});
-    registerDocumentImport(projectClass, import);
+    registerDocumentImport(projectClass, readMaterialDocument);
     materialChanged().connect(tellFiles);
 }
 

@@ -1,5 +1,9 @@
 #include "MaterialImport.h"
 
+#include "ImportUnits.h"
+
+#include "Kelta/MessageLog.h"
+#include "kelta/BusyCursor.h"
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
 #include "vxMaterial/project/DocumentMaterial.h"
@@ -11,39 +15,73 @@
 
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
 namespace desktop {
 
-ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path)
+namespace {
+
+projectfile::ImportedMaterials read(const QString& path)
 {
-    projectfile::ImportedMaterials imported;
+    const BusyCursor busy;
     try {
-        imported = projectfile::importExchange(projectfile::readFile(path), projectfile::Numbering::Anew);
+        return projectfile::importExchange(projectfile::readFile(path), projectfile::Numbering::Anew);
     } catch (const projectfile::ContentError& error) {
         throw std::runtime_error(path.toStdString() + ": " + error.what());
     }
+}
+
+Obj::ProjectObject* addMaterial(Obj::Project& project, const projectfile::ImportedMaterial& entry)
+{
+    auto* const object =
+        static_cast<Mat::MaterialObject*>(project.add_object("Mat::MaterialObject", entry.label.c_str()));
+    object->label.setValue(entry.label);
+    vxMat::CMaterial& material = *object->getCMaterial();
+    material.name = entry.material->name;
+    material.properties = std::move(entry.material->properties);
+    object->refreshProperties(true);
+    return object;
+}
+
+void requireNumbers(const Obj::Project& project, std::size_t count)
+{
     constexpr std::uint64_t lastNumber = std::numeric_limits<std::uint32_t>::max();
-    if (project.getNextObjectId() + imported.materials.size() > lastNumber + 1)
+    if (project.getNextObjectId() + count > lastNumber + 1)
         throw std::runtime_error(QCoreApplication::translate("desktop::ProjectFiles",
                                                              "The project has no numbers left for so many materials.")
                                      .toStdString());
+}
+
+ImportOutcome addMaterials(Obj::Project& project, const projectfile::ImportedMaterials& imported, const QString& path)
+{
+    requireNumbers(project, imported.materials.size());
     ImportOutcome outcome;
     const vxMsg::MessageProxy::Group group(
         QCoreApplication::translate("desktop::ProjectFiles", "Import \"%1\"").arg(QFileInfo(path).fileName()));
-    for (projectfile::ImportedMaterial& entry : imported.materials) {
-        auto* const object =
-            static_cast<Mat::MaterialObject*>(project.add_object("Mat::MaterialObject", entry.label.c_str()));
-        object->label.setValue(entry.label);
-        vxMat::CMaterial& material = *object->getCMaterial();
-        material.name = entry.material->name;
-        material.properties = std::move(entry.material->properties);
-        object->refreshProperties(true);
-        outcome.objects.push_back(object);
-    }
-    outcome.doubts = std::move(imported.doubts);
+    for (const projectfile::ImportedMaterial& entry : imported.materials)
+        outcome.objects.push_back(addMaterial(project, entry));
+    outcome.doubts = imported.doubts;
     return outcome;
+}
+
+} // namespace
+
+ImportStep readMaterialDocument(const QString& path)
+{
+    // The step is a function object that can be copied; the materials cannot be.
+    const auto imported = std::make_shared<projectfile::ImportedMaterials>(read(path));
+    const auto units = chooseImportUnits(path, *imported);
+    if (!units)
+        return {};
+    const QString report = convertToCatalogue(*imported, *units);
+    return [imported, path, report](Obj::Project& project) {
+        ImportOutcome outcome = addMaterials(project, *imported, path);
+        if (!report.isEmpty())
+            Kelta::MessageLog::information(path + QStringLiteral(": ") + report);
+        return outcome;
+    };
 }
 
 } // namespace desktop

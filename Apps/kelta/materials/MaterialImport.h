@@ -4,15 +4,12 @@
 
 #include <QString>
 
-namespace Mat {
-class DocumentMaterial;
-} // namespace Mat
-
 namespace desktop {
 
-/// Adds the materials of an exchange document to a project, with new ids of the project, as one step of the history.
-/// Takes data that the document does not contain from the catalogue.
-/// \throws std::exception if the file cannot be read or is not such a document; nothing is then added
-ImportOutcome importDocument(Mat::DocumentMaterial& project, const QString& path);
+/// Reads an exchange document, and asks in which units its numbers are (ImportUnits.h). The step adds its materials to a
+/// material project, with new ids of the project. Takes data that the document does not contain from the catalogue.
+/// Returns an empty step if the user cancels.
+/// \throws std::exception if the file cannot be read or is not such a document
+ImportStep readMaterialDocument(const QString& path);
 
 } // namespace desktop

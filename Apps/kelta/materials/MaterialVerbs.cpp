@@ -1,11 +1,14 @@
 #include "MaterialVerbs.h"
 
+#include "ImportUnits.h"
 #include "MaterialChange.h"
 #include "MaterialCheck.h"
 #include "MaterialProjects.h"
+#include "ProjectUnitsDialog.h"
 
 #include "Gui/TreeSelectionSingleton.h"
 #include "kelta/Batch.h"
+#include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/PropertyRules.h"
@@ -190,6 +193,36 @@ Failure importMaterials(const QStringList&)
     return tr("Mat_Import reads no files; import an exchange document with Std_ImportDocument");
 }
 
+/// The command asks for the units of the document.
+Failure importDocument(const QStringList& arguments)
+{
+    if (arguments.size() > 2)
+        return tr("give the name of a document, and the unit system of its numbers if it is not SI");
+    const auto system = vxUnits::UnitSystem::parse(arguments.value(1, QStringLiteral("SI")).toStdString());
+    if (!system)
+        return vxInspector::translated(system.failure());
+    const UnaskedImport unasked(*system);
+    return Batch::invokeCommand(QStringLiteral("Std_ImportDocument"), arguments.mid(0, 1));
+}
+
+/// The command opens a dialog.
+Failure setUnits(const QStringList& arguments)
+{
+    const Mat::DocumentMaterial* const project = currentMaterialProject();
+    if (project == nullptr || arguments.size() != 1)
+        return tr("give a unit system, and make a material project the current one");
+    if (arguments.front().isEmpty()) {
+        setProjectUnits(*project, {});
+        return std::nullopt;
+    }
+    const auto system = vxUnits::UnitSystem::parse(arguments.front().toStdString());
+    if (!system)
+        return vxInspector::translated(system.failure());
+    // If the request is refused, the reason is in the message log, and Batch fails with this reason.
+    setProjectUnits(*project, QString::fromStdString(system->text()));
+    return std::nullopt;
+}
+
 /// Runs a command on the selected objects. Fails if none of the class is selected, because it would do nothing.
 Failure runOnSelection(const char* command, Kelta::TypeInfo type, const QStringList& arguments)
 {
@@ -230,6 +263,8 @@ void registerMaterialVerbs()
     Batch::registerVerb(QStringLiteral("Mat_Export"), exportMaterials);
     Batch::registerVerb(QStringLiteral("cards"), printCards);
     Batch::registerVerb(QStringLiteral("Mat_Import"), importMaterials);
+    Batch::registerVerb(QStringLiteral("Mat_Units"), setUnits);
+    Batch::registerVerb(QStringLiteral("Std_ImportDocument"), importDocument);
     // The commands of the same names do nothing if nothing is selected.
     Batch::registerVerb(QStringLiteral("Mat_Edit"), editMaterials);
     Batch::registerVerb(QStringLiteral("Mat_Delete"), deleteObjects);

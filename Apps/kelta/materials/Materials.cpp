@@ -4,6 +4,7 @@
 #include "MaterialFiles.h"
 #include "MaterialGuards.h"
 #include "MaterialVerbs.h"
+#include "UnitsDisplay.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
@@ -47,9 +48,10 @@ extern "C" __attribute__((visibility("default"))) void initKeltaMaterials()
         if (Gui::GuiApplication::Instance != nullptr)
             addToWindows(*Gui::GuiApplication::Instance);
         if (Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst()) {
-            // The main window owns both.
+            // The main window owns them.
             new desktop::EditorWatch(*mainWindow);
             new desktop::MaterialCounts(*mainWindow);
+            new desktop::UnitsDisplay(*mainWindow);
         }
         vxMsg::MessageProxy::instance().objectCreated.connect(fillNewMaterial);
     });

@@ -1,7 +1,5 @@
 #include "kelta/DocumentImport.h"
 
-#include "Obj/Project.h"
-
 #include <map>
 #include <utility>
 
@@ -30,9 +28,9 @@ std::vector<std::string> documentImportClasses()
     return classes;
 }
 
-const DocumentImport* findDocumentImport(const Obj::Project& project)
+const DocumentImport* findDocumentImport(Kelta::TypeInfo projectClass)
 {
-    for (Kelta::TypeInfo type = project.getTypeId(); type.namesAType(); type = type.getParent())
+    for (Kelta::TypeInfo type = projectClass; type.namesAType(); type = type.getParent())
         if (const auto found = imports().find(type.get_name()); found != imports().end())
             return &found->second;
     return nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Kelta/TypeInfo.h"
 #include "kelta/KeltaShellExport.h"
 
 #include <QString>
@@ -22,9 +23,13 @@ struct ImportOutcome
     std::vector<std::string> doubts;          ///< sentences about data that the user must check
 };
 
-/// Adds the content of a document of a module to a project, as one step of the history. Throws a std::exception if the
-/// file cannot be read or is not such a document; nothing is then added.
-using DocumentImport = std::function<ImportOutcome(Obj::Project& project, const QString& path)>;
+/// Adds the content of a document that was read to a project, as one step of the history. Called at most once. Throws a
+/// std::exception if the project cannot contain it; nothing is then added.
+using ImportStep = std::function<ImportOutcome(Obj::Project& project)>;
+
+/// Reads a document of a module, and asks the user for data that the document does not carry. Returns an empty function if
+/// the user cancels. Throws a std::exception if the file cannot be read or is not such a document.
+using DocumentImport = std::function<ImportStep(const QString& path)>;
 
 /// Registers the import of exchange documents into projects of a class, and of derived classes without an import
 /// of their own. A later import of a class replaces an earlier one.
@@ -33,7 +38,7 @@ KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, 
 /// Returns the classes of projects for which an import is registered.
 KELTA_SHELL_EXPORT std::vector<std::string> documentImportClasses();
 
-/// Returns the import for a project; null if neither its class nor a base class has one.
-KELTA_SHELL_EXPORT const DocumentImport* findDocumentImport(const Obj::Project& project);
+/// Returns the import into projects of a class; null if neither the class nor a base class has one.
+KELTA_SHELL_EXPORT const DocumentImport* findDocumentImport(Kelta::TypeInfo projectClass);
 
 } // namespace desktop

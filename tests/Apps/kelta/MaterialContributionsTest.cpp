@@ -66,9 +66,9 @@ TEST_F(Materials, HaveTheirCommandsInTheMenus)
                                            "-", "Std_ImportDocument", "-", "Std_CloseProject", "Std_Quit"));
     EXPECT_THAT(menu("&Edit"), ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste",
                                            "Std_DuplicateSelection", "Std_Delete", "-", "Std_SelectAll", "Std_Rename",
-                                           "Std_Color", "-", "Std_Suppress", "Std_Unsuppress"));
+                                           "Std_Color", "-", "Std_Suppress", "Std_Unsuppress", "-", "Std_Preferences"));
     EXPECT_THAT(menu("&Project"), ElementsAre("Mat_AddMaterial", "Mat_Edit", "-", "Std_ImportDocument", "Mat_Import",
-                                              "-", "Std_Collect"));
+                                              "-", "Std_Collect", "-", "Mat_Units"));
     EXPECT_THAT(menu("&View"),
                 ElementsAre("Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "Std_ToolBars", "-",
                             "Std_NextPane", "Std_PreviousPane", "-", "Std_ClearMessages", "-", "Std_Language"));

@@ -69,6 +69,38 @@ TEST_F(ProgramFiles, ImportExchangeDocumentsCompletely)
     EXPECT_THAT(vxtest::readFile(path("a.vxmat")).toStdString(), HasSubstr("\"unit\": \"Pa\""));
 }
 
+TEST_F(ProgramFiles, ImportDocumentsInTheUnitsOfTheList)
+{
+    vxtest::writeFile(path("a.json"),
+                      R"({"proj_type": 2, "material": [{"mat_id": 1, "mat_name": "Steel", "Props": [)"
+                      R"({"prop_type": 5, "prop_key": "E", "prop_name": "Young's modulus", "prop_value": 206900},)"
+                      R"({"prop_type": 6, "prop_key": "nu", "prop_name": "Poisson's ratio", "prop_value": 0.3},)"
+                      R"({"prop_type": 4, "prop_key": "rho", "prop_name": "Density", "prop_value": 7.85e-9}]}]})");
+    const Outcome converted = runBatch("Mat_NewDoc\nStd_ImportDocument a.json mm-t-s\nStd_SaveAs a.vxmat\n");
+    EXPECT_EQ(converted.status, 0);
+    EXPECT_THAT(converted.errors.toStdString(),
+                HasSubstr("The numbers were converted from mm-t-s to the units of the catalogue. Materials: 1\n"));
+    EXPECT_TRUE(vxtest::readFile(path("a.vxmat")).contains("\"value\": 206900000000,"));
+    const Outcome asTheyAre = runBatch("Mat_NewDoc\nStd_ImportDocument a.json\nStd_SaveAs b.vxmat\n");
+    EXPECT_EQ(asTheyAre.status, 0) << "a list is not asked";
+    EXPECT_THAT(asTheyAre.errors.toStdString(), HasSubstr("\"Steel\": the numbers look like mm-t-s."));
+    EXPECT_TRUE(vxtest::readFile(path("b.vxmat")).contains("\"value\": 206900,"));
+    const Outcome wrong = runBatch("Mat_NewDoc\nStd_ImportDocument a.json mm-t\n");
+    EXPECT_EQ(wrong.status, 1);
+    EXPECT_THAT(wrong.errors.toStdString(), HasSubstr("list.batch:2: "));
+}
+
+TEST_F(ProgramFiles, RecordTheUnitSystemOfTheirProject)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_Units MM-T-S\nStd_SaveAs a.vxmat\nMat_Units \"\"\n"
+                                     "Std_SaveAs b.vxmat\nStd_Undo\nStd_SaveAs c.vxmat\nMat_Units furlongs\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("list.batch:8: "));
+    EXPECT_TRUE(vxtest::readFile(path("a.vxmat")).contains("\"unit_system\": \"mm-t-s\""));
+    EXPECT_FALSE(vxtest::readFile(path("b.vxmat")).contains("settings"));
+    EXPECT_TRUE(vxtest::readFile(path("c.vxmat")).contains("\"unit_system\": \"mm-t-s\""));
+}
+
 TEST_F(ProgramFiles, AreValidByTheirSchemas)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nuse \"Plastic Example 1\"\nMat_AddMaterial\nclear\n"

@@ -5,8 +5,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -45,17 +47,20 @@ Answers::~Answers()
 
 void Answers::answer()
 {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr || !box->isVisible())
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    const auto* const buttons = dialog != nullptr ? dialog->findChild<QDialogButtonBox*>() : nullptr;
+    if (buttons == nullptr || !dialog->isVisible())
         return;
-    m_boxes << box->windowTitle() + QStringLiteral(": ") + box->text();
-    m_preferred = box->defaultButton() != nullptr ? box->defaultButton()->text() : QString();
+    const auto* const box = qobject_cast<QMessageBox*>(dialog);
+    m_boxes << dialog->windowTitle() + QStringLiteral(": ") +
+                   (box != nullptr ? box->text() : dialog->findChild<QLabel*>()->text());
+    m_preferred = box != nullptr && box->defaultButton() != nullptr ? box->defaultButton()->text() : QString();
     const QString wanted = m_buttons.isEmpty() ? QString() : m_buttons.takeFirst();
-    for (QAbstractButton* const button : box->buttons())
+    for (QAbstractButton* const button : buttons->buttons())
         if (!wanted.isEmpty() && button->text().remove(QLatin1Char('&')) == wanted)
             return button->click();
     ++m_unexpected;
-    box->close();
+    dialog->close();
 }
 
 FilesWindow::FilesWindow() : window(std::make_unique<Gui::MainWindow>())

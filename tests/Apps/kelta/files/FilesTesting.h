@@ -32,8 +32,9 @@
 
 namespace vxtest {
 
-/// Presses the buttons with these texts (without mnemonics) in the message boxes that open during its lifetime, one
-/// after the other. Records the texts of the boxes. Closes an unexpected box by its frame.
+/// Presses the buttons with these texts (without mnemonics) in the message boxes, and in other dialogs with a row of
+/// buttons, that open during its lifetime, one after the other. Records the texts of the boxes, and the first text of
+/// dialogs. Closes an unexpected one by its frame.
 class Answers : public QObject
 {
 public:

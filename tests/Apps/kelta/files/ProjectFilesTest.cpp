@@ -452,16 +452,30 @@ TEST_F(ProjectFiles, OfferToImportADocument)
     }
     EXPECT_EQ(currentProject()->getObjects().size(), 1U);
     {
-        const Answers answers({"Import"});
+        const Answers answers({"Import", "Import"});
         run("Std_Open", path("m.json"));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("Unit system of the numbers in \"m.json\""));
     }
     EXPECT_EQ(currentProject()->getObjects().size(), 2U);
     Obj::Application::instance().closeAllProjects();
-    const Answers answers({"Import"});
+    const Answers answers({"Import", "Import"});
     run("Std_Open", path("m.json"));
     ASSERT_NE(currentProject(), nullptr);
     EXPECT_STREQ(currentProject()->get_name(), "m");
     EXPECT_NE(findMaterial("Frame"), nullptr);
+}
+
+TEST_F(ProjectFiles, LeaveNoNewProjectAndNoStepIfTheUnitsAreNotChosen)
+{
+    newProject();
+    addMaterial("Frame");
+    ASSERT_TRUE(currentProject()->exportToFile(path("m.json").toStdString(), 0, 0, 0));
+    Obj::Application::instance().closeAllProjects();
+    history().clear();
+    const Answers answers({"Import", "Cancel"});
+    run("Std_Open", path("m.json"));
+    EXPECT_TRUE(Obj::Application::get_projects().empty());
+    EXPECT_EQ(history().count(), 0);
 }
 
 TEST_F(ProjectFiles, LeaveNoNewProjectIfADocumentIsWrong)
@@ -1017,6 +1031,7 @@ TEST_F(ProjectFiles, TakeInExchangeDocumentsAsOneStep)
     addMaterial("Steel");
     ASSERT_TRUE(run("Mat_Export", path("a.json")));
     const int steps = history().count();
+    const Answers answers({"Import"});
     ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
     ASSERT_EQ(currentProject()->getObjectCount(), 2U);
     const auto* const copy = dynamic_cast<Mat::MaterialObject*>(currentProject()->getObjects().back());
@@ -1027,6 +1042,81 @@ TEST_F(ProjectFiles, TakeInExchangeDocumentsAsOneStep)
     EXPECT_EQ(history().count(), steps + 1);
     history().undo();
     EXPECT_EQ(currentProject()->getObjectCount(), 1U);
+}
+
+/// A material document of steel, with its modulus and density in mm-t-s.
+QByteArray steelInMillimetres()
+{
+    return R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "Steel", "Props": [
+        {"prop_type": 5, "prop_key": "E", "prop_name": "Young's modulus", "prop_value": 206900},
+        {"prop_type": 6, "prop_key": "nu", "prop_name": "Poisson's ratio", "prop_value": 0.3},
+        {"prop_type": 4, "prop_key": "rho", "prop_name": "Density", "prop_value": 7.85e-9}]}]})";
+}
+
+TEST_F(ProjectFiles, ConvertTheNumbersOfADocumentThatLookLikeAnotherUnitSystem)
+{
+    newProject();
+    writeFile(path("a.json"), steelInMillimetres());
+    const vxtest::Reports reports;
+    {
+        const Answers answers({"Import", "Convert from mm-t-s"});
+        ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("The numbers in \"a.json\" look like mm-t-s."));
+    }
+    const Mat::MaterialObject* const steel = findMaterial("Steel");
+    ASSERT_NE(steel, nullptr);
+    EXPECT_DOUBLE_EQ(modulusOf(*steel), 2.069e11);
+    EXPECT_DOUBLE_EQ(steel->getCMaterial()->findProperty(4)->value, 7850.0);
+    EXPECT_EQ(steel->getCMaterial()->findProperty(4)->unit, "kg/m3");
+    EXPECT_THAT(reports.text(), HasSubstr("The numbers were converted from mm-t-s to the units of the catalogue. "
+                                          "Materials: 1"));
+    history().undo();
+    EXPECT_EQ(currentProject()->getObjectCount(), 0U) << "one step of the history";
+}
+
+TEST_F(ProjectFiles, TakeInNumbersAsTheyAreIfTheUserWantsThat)
+{
+    newProject();
+    writeFile(path("a.json"), steelInMillimetres());
+    const vxtest::Reports reports;
+    const Answers answers({"Import", "Import as they are"});
+    ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
+    EXPECT_EQ(modulusOf(*findMaterial("Steel")), 206900.0);
+    EXPECT_EQ(reports.text(), "") << "the user has decided about the doubt";
+}
+
+TEST_F(ProjectFiles, TakeInNothingIfTheUserCancelsTheQuestionAboutUnits)
+{
+    newProject();
+    writeFile(path("a.json"), steelInMillimetres());
+    const int steps = history().count();
+    const Answers answers({"Import", "Cancel"});
+    run("Std_ImportDocument", path("a.json"));
+    EXPECT_EQ(currentProject()->getObjectCount(), 0U);
+    EXPECT_EQ(history().count(), steps);
+}
+
+TEST_F(ProjectFiles, KeepTheSettingsOfTheirProjectWithTheirHistory)
+{
+    newProject();
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    EXPECT_FALSE(contentOf(path("a.vxmat")).contains("settings"));
+    ASSERT_TRUE(vxMsg::MessageProxy::instance().setSetting("Materials", "unit_system", "mm-t-s"));
+    EXPECT_TRUE(isModified());
+    history().undo();
+    EXPECT_FALSE(isModified());
+    history().redo();
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 1);
+    EXPECT_TRUE(contentOf(copies().front()).contains("\"unit_system\": \"mm-t-s\"")) << "recovery restores it";
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_FALSE(isModified());
+    EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {path("a.vxmat").toStdString()}), "");
+    ASSERT_TRUE(closeProject());
+    ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
+    EXPECT_EQ(currentProject()->getSetting("unit_system"), "mm-t-s");
+    EXPECT_FALSE(isModified());
+    EXPECT_FALSE(history().canUndo());
 }
 
 TEST_F(ProjectFiles, TakeInNothingOfAWrongDocument)

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "vxUnits/UnitSystem.h"
+
+#include <QDialog>
+#include <QString>
+
+#include <optional>
+
+namespace projectfile {
+struct ImportedMaterials;
+} // namespace projectfile
+
+namespace desktop {
+
+class UnitChoice;
+
+/// The units of the numbers in a document.
+struct ImportUnits
+{
+    vxUnits::UnitSystem system = vxUnits::UnitSystem::si();
+    bool areConfirmed = false; ///< whether the user has decided about numbers that look like another system
+};
+
+/// While an instance lives, imports take the numbers of documents to be in this system and ask nothing; for a program
+/// without a user.
+class UnaskedImport
+{
+public:
+    explicit UnaskedImport(vxUnits::UnitSystem system);
+    UnaskedImport(const UnaskedImport&) = delete;
+    UnaskedImport& operator=(const UnaskedImport&) = delete;
+    ~UnaskedImport();
+};
+
+/// Asks the user for the unit system of the numbers in a document. The proposal is SI, which the format of documents
+/// prescribes. If the user keeps SI and the numbers fit another system, asks whether to convert them. Absent if the user
+/// cancels.
+std::optional<ImportUnits> chooseImportUnits(const QString& path, const projectfile::ImportedMaterials& imported);
+
+/// Returns the unit system that the numbers of all materials fit, if it is not SI: at least one material fits it, and a
+/// conversion gives no material more doubts. Empty if there is none.
+QString findFittingSystem(const projectfile::ImportedMaterials& imported);
+
+/// Converts all numbers to the units of the catalogue. Adds to the doubts which numbers stay unchanged because their units
+/// are not known, and which materials look like another unit system, unless the user has decided about them. Returns a
+/// sentence about the conversion; empty if the numbers are in SI.
+QString convertToCatalogue(projectfile::ImportedMaterials& imported, const ImportUnits& units);
+
+/// The dialog in which the user chooses the units of a document.
+class ImportUnitsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    ImportUnitsDialog(const QString& path, QWidget* parent);
+    ~ImportUnitsDialog() override;
+
+    /// Returns the chosen system; absent if it cannot be read.
+    std::optional<vxUnits::UnitSystem> system() const;
+
+private:
+    UnitChoice* m_choice;
+};
+
+} // namespace desktop

@@ -10,6 +10,19 @@
 
 namespace vxUnits {
 
+/// A quantity that is computed from the quantities of a material.
+struct DerivedQuantity
+{
+    const char* id = "";      ///< "shear-modulus"; never changes
+    const char* name = "";    ///< "Shear modulus"; a source of translation
+    const char* symbol = "";  ///< "G"
+    const char* formula = ""; ///< "E / (2 (1 + nu))"
+    Dimension dimension;      ///< UnitSystem::unitOf gives its unit
+};
+
+/// Returns all derived quantities, in the order of derivedValues(). The list lives as long as the program.
+VXUNITS_EXPORT const std::vector<DerivedQuantity>& derivedQuantities();
+
 /// A value that is computed from the values of a material.
 struct DerivedValue
 {

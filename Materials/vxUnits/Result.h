@@ -34,6 +34,9 @@ enum class FaultCode
     UnitNotKnown,        ///< the unit of the creep factor without the exponents that it depends on
     DatabaseUnreadable,  ///< the unit is not built in, and the database of UDUNITS cannot be read
     MalformedUnitSystem, ///< the text of a unit system
+    MalformedFilter,     ///< a condition, value, quotation mark or parenthesis of a filter is missing or out of place
+    UnknownQuantity,     ///< a filter compares something that is not a quantity
+    UnknownWord,         ///< a filter compares a quantity with a word that it does not take
 };
 
 /// The reason of a failure, and what the user probably meant.

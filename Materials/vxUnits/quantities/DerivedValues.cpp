@@ -139,6 +139,17 @@ std::optional<InitialModuli> initialModuli(const MaterialValues& values)
     return InitialModuli{*shear, d1 != 0.0 ? std::optional<double>(2.0 / d1) : std::nullopt};
 }
 
+const std::vector<DerivedQuantity>& derivedQuantities()
+{
+    static const std::vector<DerivedQuantity> all = [] {
+        std::vector<DerivedQuantity> listed;
+        for (const Derivation& one : derivations)
+            listed.push_back({one.id, one.name, one.symbol, one.formula, one.dimension});
+        return listed;
+    }();
+    return all;
+}
+
 std::vector<DerivedValue> derivedValues(const MaterialValues& values)
 {
     const Inputs inputs(values);

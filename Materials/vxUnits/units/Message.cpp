@@ -1,5 +1,6 @@
 #include "vxUnits/Message.h"
 
+#include "filter/FilterTexts.h"
 #include "plausibility/DoubtTexts.h"
 #include "units/FoldedText.h"
 #include "units/Texts.h"
@@ -106,6 +107,7 @@ const std::vector<MessageText>& messageTexts()
     static const std::vector<MessageText> all = [] {
         std::vector<MessageText> collected(texts.begin(), texts.end());
         addDoubtTexts(collected);
+        addFilterTexts(collected);
         return collected;
     }();
     return all;

@@ -29,6 +29,9 @@ public:
     /// Returns the name of the system, or the base units of a system of the user; empty if --units is not given.
     std::string name() const;
 
+    /// Returns the system; SI, whose units the catalogue has, if --units is not given.
+    const vxUnits::UnitSystem& system() const { return m_system ? *m_system : vxUnits::UnitSystem::si(); }
+
     /// Returns the name in parentheses after a blank, for titles; empty if --units is not given.
     std::string suffix() const;
 

@@ -9,6 +9,7 @@
 #include "Diff.h"
 #include "Export.h"
 #include "Files.h"
+#include "Find.h"
 #include "Listings.h"
 #include "NewProject.h"
 #include "Query.h"
@@ -59,6 +60,7 @@ private:
     void addDiff();
     void addQuery();
     void addSet();
+    void addFind();
     void addConvert();
     void addUnitListing();
 
@@ -80,6 +82,7 @@ private:
     std::vector<std::string> m_emptyNames;
     std::string m_file;
     std::string m_otherFile;
+    std::string m_expression;
     std::string m_output;
     std::optional<std::string> m_materialsFile;
     std::optional<std::string> m_units;
@@ -105,6 +108,7 @@ CommandLine::CommandLine()
     addCheck();
     addDiff();
     addQuery();
+    addFind();
     addConvert();
     addUnitListing();
     m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 success, 1 findings or differences, 2 error.");
@@ -286,6 +290,25 @@ void CommandLine::addQuery()
     command->add_option("FILE", m_file, "An analysis document; - is standard input")->required();
     command->add_option("--project", m_project, "The number of the project, for the tags")->type_name("NUMBER");
     addMaterialsFile(command);
+    addForm(command);
+}
+
+void CommandLine::addFind()
+{
+    CLI::App* const command =
+        addCommand("find", "Find materials by their labels and values, and print the values that the expression names",
+                   R"(vxmat find library "E > 100 GPa and rho < 5 g/cm3")",
+                   [this] { return findMaterials(m_file, m_expression, form(), units()); });
+    command
+        ->add_option("FILE|library", m_file, "A project or document, - for standard input, or the built-in materials")
+        ->required();
+    command
+        ->add_option(
+            "EXPRESSION", m_expression,
+            "Comparisons of quantities with values, \"has QUANTITY\" and words of labels, combined by and, or, "
+            "not and parentheses, in quotes")
+        ->required();
+    addUnits(command);
     addForm(command);
 }
 

@@ -112,6 +112,18 @@ void rename()
     window.getProjectExplorer().renameSelected();
 }
 
+void find()
+{
+    MainWindow& window = *MainWindow::get_main_window_inst();
+    window.showProjectExplorer();
+    window.getProjectExplorer().find();
+}
+
+bool canFind()
+{
+    return MainWindow::get_main_window_inst() != nullptr && hasProject();
+}
+
 bool canRename(const TreeSelectionSingleton& selection)
 {
     return MainWindow::get_main_window_inst() != nullptr && selection.getCount() == 1;
@@ -219,6 +231,9 @@ std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSel
         {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
          QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object or project another name"), "", Qt::Key_F2,
          CommandType::onTree, rename, [&selection] { return canRename(selection); }},
+        {"Std_Find", QT_TRANSLATE_NOOP("StandardCommand", "&Find..."),
+         QT_TRANSLATE_NOOP("StandardCommand", "Show only the objects that match an expression"), "", QKeySequence::Find,
+         CommandType::none, find, canFind},
         {"Std_SelectAll", QT_TRANSLATE_NOOP("StandardCommand", "Select &all"),
          QT_TRANSLATE_NOOP("StandardCommand", "Select all objects of the project"), "", QKeySequence::SelectAll,
          CommandType::onTree, [] { MainWindow::get_main_window_inst()->getProjectExplorer().selectAllObjects(); },

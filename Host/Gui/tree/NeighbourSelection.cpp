@@ -27,7 +27,8 @@ void NeighbourSelection::noteRemoval(const QModelIndex& parent, int first, int l
         return;
     const QItemSelection selected = m_tree.selectionModel()->selection();
     const bool isSelected = std::any_of(selected.begin(), selected.end(), [&](const QItemSelectionRange& range) {
-        return range.bottom() >= first && range.top() <= last && range.parent() == parent;
+        return range.parent() == parent &&
+               isAnyDeleted(parent, std::max(range.top(), first), std::min(range.bottom(), last));
     });
     if (!isSelected)
         return;
@@ -35,6 +36,15 @@ void NeighbourSelection::noteRemoval(const QModelIndex& parent, int first, int l
     m_parent = parent;
     m_row = first;
     m_timer.start(0);
+}
+
+/// A filter removes rows of objects that still exist. The next key must not act on another object then.
+bool NeighbourSelection::isAnyDeleted(const QModelIndex& parent, int first, int last) const
+{
+    for (int row = first; row <= last; ++row)
+        if (m_model.objectAt(m_model.index(row, 0, parent)) == nullptr)
+            return true;
+    return false;
 }
 
 void NeighbourSelection::selectNeighbour()

@@ -25,6 +25,7 @@ public:
 
 private:
     void noteRemoval(const QModelIndex& parent, int first, int last);
+    bool isAnyDeleted(const QModelIndex& parent, int first, int last) const;
     void selectNeighbour();
 
     QTreeView& m_tree;

@@ -21,6 +21,10 @@
 #include <QItemSelection>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
 
 namespace Gui {
 
@@ -64,6 +68,30 @@ void ProjectExplorer::finishEditing()
 {
     if (state() == EditingState)
         Gui::finishEditing(*this, m_edited);
+}
+
+void ProjectExplorer::setFilter(ProjectTreeModel::Filter filter)
+{
+    {
+        const QScopedValueRollback<bool> selecting(m_selecting, true);
+        m_model.setFilter(std::move(filter));
+    }
+    deselectHidden();
+    selectRows();
+}
+
+void ProjectExplorer::enter()
+{
+    setFocus(Qt::OtherFocusReason);
+    if (m_selection.getCount() != 0 || !m_model.isFiltered())
+        return;
+    for (QModelIndex index = m_model.index(0, 0, {}); index.isValid(); index = indexBelow(index)) {
+        Obj::ProjectObject* const object = m_model.objectAt(index);
+        if (object == nullptr || !m_model.isFound(*object))
+            continue;
+        m_selection.setSelection({}, {object});
+        return;
+    }
 }
 
 bool ProjectExplorer::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
@@ -131,6 +159,14 @@ void ProjectExplorer::configure()
             expand(parent);
     };
     connect(&m_model, &QAbstractItemModel::rowsInserted, this, expandParent);
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &ProjectExplorer::restoreExpansion);
+    connect(&m_model, &ProjectTreeModel::filtered, this, [this](const QStringList& hiddenLabels) {
+        deselectHidden();
+        selectRows();
+        Q_EMIT filtered(hiddenLabels);
+    });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) { noteExpansion(index, true); });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& index) { noteExpansion(index, false); });
     connect(&m_model, &QAbstractItemModel::rowsMoved, this,
             [expandParent](const QModelIndex&, int, int, const QModelIndex& target) { expandParent(target); });
 }
@@ -166,6 +202,16 @@ void ProjectExplorer::showSelection()
     m_selecting = true;
     // Removed entries are no longer selected.
     m_model.synchronize();
+    m_selecting = false;
+    selectRows();
+    // What a filter hides is deselected later, because a new object may not have its content yet.
+    if (m_model.isFiltered())
+        m_model.synchronizeLater();
+}
+
+void ProjectExplorer::selectRows()
+{
+    m_selecting = true;
     const std::vector<Obj::Project*> projects = m_selection.get_projects();
     const auto objects = m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
     makeCurrent(projects, objects);
@@ -173,13 +219,47 @@ void ProjectExplorer::showSelection()
     for (const Obj::Project* const project : projects)
         items.select(m_model.indexOf(*project), m_model.indexOf(*project));
     for (const Obj::ProjectObject* const object : objects)
-        items.select(m_model.indexOf(*object), m_model.indexOf(*object));
+        if (const QModelIndex index = m_model.indexOf(*object); index.isValid())
+            items.select(index, index);
     selectionModel()->select(items, QItemSelectionModel::ClearAndSelect);
     makeRowCurrent(items.indexes());
     m_selecting = false;
     // On the start page, the next key is meant for what the command of its button has selected.
     if (!items.isEmpty() && m_window.getMdiWindows().isEmpty() && m_window.isExplorerAddressed())
         setFocus(Qt::OtherFocusReason);
+}
+
+void ProjectExplorer::deselectHidden()
+{
+    std::vector<Obj::ProjectObject*> objects = m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
+    const auto isHidden = [this](const Obj::ProjectObject* object) { return !m_model.indexOf(*object).isValid(); };
+    const auto hidden = std::remove_if(objects.begin(), objects.end(), isHidden);
+    if (!m_model.isFiltered() || hidden == objects.end())
+        return;
+    objects.erase(hidden, objects.end());
+    m_selecting = true;
+    m_selection.setSelection(m_selection.get_projects(), objects);
+    m_selecting = false;
+}
+
+/// After a reset, all rows are collapsed.
+void ProjectExplorer::restoreExpansion()
+{
+    m_restoring = true;
+    for (const QModelIndex& index : m_model.parents())
+        if (m_model.isFiltered() || m_collapsed.count(index.internalId()) == 0)
+            expand(index);
+    m_restoring = false;
+}
+
+void ProjectExplorer::noteExpansion(const QModelIndex& index, bool isExpanded)
+{
+    if (m_restoring)
+        return;
+    if (isExpanded)
+        m_collapsed.erase(index.internalId());
+    else
+        m_collapsed.insert(index.internalId());
 }
 
 /// A node that has its own selection cannot be selected here.

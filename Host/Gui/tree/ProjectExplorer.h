@@ -5,6 +5,7 @@
 
 #include <QTreeView>
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,20 @@ public:
     /// Ends the editing of a label, and keeps the typed text.
     void finishEditing();
 
+    /// Shows only the objects that a filter finds, with their groups expanded, or all objects for an empty filter. What is
+    /// hidden is not selected. Without a filter, groups are expanded and collapsed as before.
+    void setFilter(ProjectTreeModel::Filter filter);
+    ProjectTreeModel::MatchCounts matchCounts() const { return m_model.matchCounts(); }
+    /// Gives the keyboard to the tree, and selects the first object that the filter finds if nothing is selected.
+    void enter();
+    /// Gives the keyboard to the field for the filter.
+    void find() { Q_EMIT findRequested(); }
+
+Q_SIGNALS:
+    void findRequested();
+    /// As ProjectTreeModel::filtered.
+    void filtered(const QStringList& hiddenLabels);
+
 protected:
     using QTreeView::edit;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -53,6 +68,10 @@ private:
     void connectSelection();
     void takeOverSelection();
     void showSelection();
+    void selectRows();
+    void deselectHidden();
+    void restoreExpansion();
+    void noteExpansion(const QModelIndex& index, bool isExpanded);
     void makeCurrent(const std::vector<Obj::Project*>& projects, const std::vector<Obj::ProjectObject*>& objects);
     QModelIndex rowForKeys() const;
     void makeRowCurrent(const QModelIndexList& selected);
@@ -70,6 +89,8 @@ private:
     bool m_selecting = false;
     QPersistentModelIndex m_menuIndex;
     QPersistentModelIndex m_edited;
+    std::set<quintptr> m_collapsed; ///< rows that the user has collapsed, by the ids of the model
+    bool m_restoring = false;
 };
 
 } // namespace Gui

@@ -19,6 +19,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <utility>
 
 namespace Gui {
 
@@ -152,13 +153,14 @@ ProjectTreeModel::ProjectTreeModel(GuiApplication& application, QObject* parent)
 {
     m_nodes[root] = {root, {}};
     m_synchronization.setSingleShot(true);
-    connect(&m_synchronization, &QTimer::timeout, this, &ProjectTreeModel::synchronize);
+    connect(&m_synchronization, &QTimer::timeout, this, &ProjectTreeModel::synchronizeAndReport);
     Obj::Application& projects = Obj::Application::instance();
     for (Obj::Project* const project : Obj::Application::get_projects())
         watch(*project);
     m_connections.emplace_back(projects.projectAdded.connect([this](Obj::Project& project) { watch(project); }));
     m_connections.emplace_back(projects.projectRemoved.connect([this](const Obj::Project& project) {
         m_projectConnections.erase(project.getProjectId());
+        m_counts.erase(project.getProjectId());
         m_synchronization.start(0);
     }));
     synchronize();
@@ -255,15 +257,105 @@ void ProjectTreeModel::synchronize()
     synchronizeProjects();
     for (const Obj::Project* const project : Obj::Application::get_projects())
         synchronizeObjects(*project);
+    if (!m_news.empty())
+        synchronizeLater();
+}
+
+void ProjectTreeModel::synchronizeLater()
+{
+    m_synchronization.start(0);
+}
+
+void ProjectTreeModel::setFilter(Filter filter)
+{
+    m_filter = std::move(filter);
+    m_counts.clear();
+    m_news.clear();
+    m_synchronization.stop();
+    Nodes nodes = wantedNodes();
+    if (nodes == m_nodes)
+        return;
+    beginResetModel();
+    m_nodes = std::move(nodes);
+    endResetModel();
+}
+
+ProjectTreeModel::MatchCounts ProjectTreeModel::matchCounts() const
+{
+    MatchCounts sum;
+    for (const auto& [project, counts] : m_counts) {
+        sum.matching += counts.matching;
+        sum.all += counts.all;
+    }
+    return sum;
+}
+
+QModelIndexList ProjectTreeModel::parents() const
+{
+    QModelIndexList parents;
+    for (const auto& [key, node] : m_nodes)
+        if (key != root && !node.children.empty())
+            parents << indexOf(key);
+    return parents;
+}
+
+/// An object may be added before it has its content, so that what is hidden is reported later.
+void ProjectTreeModel::synchronizeAndReport()
+{
+    const std::set<Key> news = std::exchange(m_news, {});
+    synchronize();
+    if (!isFiltered())
+        return;
+    QStringList hidden;
+    for (const Key key : news) {
+        const Obj::Project* const project = findProject(key);
+        Obj::ProjectObject* const object = project != nullptr ? project->get_object(objectIdOf(key)) : nullptr;
+        if (object != nullptr && !has(key) && isShown(*object))
+            hidden << QString::fromStdString(object->label.getValue());
+    }
+    Q_EMIT filtered(hidden);
+}
+
+TreeShape ProjectTreeModel::shapeOf(const Obj::Project& project)
+{
+    TreeShape shape(project, [this](Obj::ProjectObject& object) { return isShown(object); });
+    if (!isFiltered())
+        return shape;
+    MatchCounts counts;
+    shape.keep([&](std::uint32_t id) {
+        const bool isMatch = m_filter(*project.get_object(id));
+        ++counts.all;
+        counts.matching += isMatch ? 1 : 0;
+        return isMatch;
+    });
+    m_counts[project.getProjectId()] = counts;
+    return shape;
+}
+
+ProjectTreeModel::Nodes ProjectTreeModel::wantedNodes()
+{
+    Nodes nodes;
+    nodes[root] = {root, {}};
+    for (const Obj::Project* const project : Obj::Application::get_projects()) {
+        const std::uint32_t id = project->getProjectId();
+        nodes[root].children.push_back(id);
+        nodes[keyOf(id, 0)].parent = root;
+        const TreeShape shape = shapeOf(*project);
+        for (const std::uint32_t parent : shape.parentsFromTop()) {
+            nodes[keyOf(id, parent)].children = shape.childrenOf(parent);
+            for (const std::uint32_t child : shape.childrenOf(parent))
+                nodes[keyOf(id, child)].parent = keyOf(id, parent);
+        }
+    }
+    return nodes;
 }
 
 void ProjectTreeModel::watch(Obj::Project& project)
 {
     auto& connections = m_projectConnections[project.getProjectId()];
     connections.clear();
-    const auto later = [this](Obj::ProjectObject&) { m_synchronization.start(0); };
-    connections.emplace_back(project.objectAdded.connect(later));
-    connections.emplace_back(project.objectRemoved.connect(later));
+    connections.emplace_back(project.objectAdded.connect([this](Obj::ProjectObject& object) { objectAdded(object); }));
+    connections.emplace_back(project.objectRemoved.connect([this](Obj::ProjectObject&) { synchronizeLater(); }));
     connections.emplace_back(project.objectChanged.connect(
         [this](Obj::ProjectObject& object, const Obj::Property*) { objectChanged(object); }));
     connections.emplace_back(project.changed.connect([this, &project](const Obj::Property*) {
@@ -274,9 +366,21 @@ void ProjectTreeModel::watch(Obj::Project& project)
     m_synchronization.start(0);
 }
 
+void ProjectTreeModel::objectAdded(const Obj::ProjectObject& object)
+{
+    if (isFiltered())
+        m_news.insert(keyOf(object.get_project()->getProjectId(), object.getObjectId()));
+    synchronizeLater();
+}
+
 void ProjectTreeModel::objectChanged(Obj::ProjectObject& object)
 {
     const QModelIndex index = indexOf(object);
+    if (isFiltered()) {
+        if (index.isValid())
+            m_news.insert(keyOf(index));
+        synchronizeLater();
+    }
     if (index.isValid())
         Q_EMIT dataChanged(index, index);
     // The object may have entered a group, or changed its visibility. A group takes its members with it.
@@ -304,7 +408,7 @@ void ProjectTreeModel::synchronizeProjects()
 void ProjectTreeModel::synchronizeObjects(const Obj::Project& project)
 {
     const std::uint32_t id = project.getProjectId();
-    const TreeShape shape(project, [this](Obj::ProjectObject& object) { return isShown(object); });
+    const TreeShape shape = shapeOf(project);
     const Ids parents = shape.parentsFromTop();
     for (const std::uint32_t parent : parents)
         addMissing(keyOf(id, parent), shape.childrenOf(parent));

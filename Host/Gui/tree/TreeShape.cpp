@@ -3,6 +3,8 @@
 #include "Obj/Project.h"
 #include "Obj/ProjectObjectGroup.h"
 
+#include <algorithm>
+
 namespace Gui {
 
 TreeShape::TreeShape(const Obj::Project& project, const std::function<bool(Obj::ProjectObject&)>& isShown)
@@ -12,6 +14,19 @@ TreeShape::TreeShape(const Obj::Project& project, const std::function<bool(Obj::
             continue;
         Obj::ProjectObjectGroup* const group = object->getParentGroup();
         m_children[group != nullptr && isShown(*group) ? group->getObjectId() : 0].push_back(object->getObjectId());
+    }
+}
+
+/// Members are judged before their groups.
+void TreeShape::keep(const std::function<bool(std::uint32_t)>& matches)
+{
+    const std::vector<std::uint32_t> parents = parentsFromTop();
+    for (auto parent = parents.rbegin(); parent != parents.rend(); ++parent) {
+        std::vector<std::uint32_t>& children = m_children[*parent];
+        const auto isSurplus = [&](std::uint32_t child) { return !matches(child) && childrenOf(child).empty(); };
+        children.erase(std::remove_if(children.begin(), children.end(), isSurplus), children.end());
+        if (children.empty())
+            m_children.erase(*parent);
     }
 }
 

@@ -21,6 +21,10 @@ public:
     /// members are shown as if they were in no group.
     TreeShape(const Obj::Project& project, const std::function<bool(Obj::ProjectObject&)>& isShown);
 
+    /// Keeps the objects for which `matches` returns true, and the groups with a member that is kept. Calls `matches` once
+    /// for the id of each object.
+    void keep(const std::function<bool(std::uint32_t)>& matches);
+
     /// Returns the children of a node; none if the tree does not have it.
     const std::vector<std::uint32_t>& childrenOf(std::uint32_t objectId) const;
     /// Returns the project's node and all other nodes with children, each after its parent.

@@ -11,6 +11,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
+#include "tree/ExplorerPane.h"
 #include "vxMsg/MessageProxy.h"
 #include "window/CenterArea.h"
 #include "window/DockSet.h"
@@ -415,7 +416,7 @@ std::vector<DockEntry> MainWindow::hostDocks()
     return {{explorerDock,
              {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Project explorer")},
              DockArea::Left,
-             [=] { return frameless(m_explorer); }},
+             [=] { return new ExplorerPane(*m_explorer, m_contributions); }},
             {propertiesDock,
              {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Properties")},
              DockArea::Left,

@@ -1,5 +1,7 @@
 #include "Gui/Contributions.h"
 
+#include "Gui/TreeFilter.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -73,6 +75,13 @@ void Contributions::addWorkbench(WorkbenchEntry entry)
 {
     add(m_workbenches, std::move(entry),
         [](const WorkbenchEntry& a, const WorkbenchEntry& b) { return a.className == b.className; });
+}
+
+void Contributions::setTreeFilter(std::unique_ptr<TreeFilter> filter)
+{
+    // The former filter lives until its users have heard of the new one.
+    m_treeFilter.swap(filter);
+    Q_EMIT changed();
 }
 
 template <typename Entry, typename IsSame>

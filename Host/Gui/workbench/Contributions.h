@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ class QWidget;
 namespace Gui {
 
 class PreferencesPage;
+class TreeFilter;
 
 /// A text that is translated when it is shown, and so follows the language of the user. Both strings must outlive
 /// the windows, as literals do: {"Probes", QT_TRANSLATE_NOOP("Probes", "No probe is open")}.
@@ -164,6 +166,8 @@ public:
     void addDock(DockEntry entry);
     void addPreferencesPage(PreferencesEntry entry);
     void addWorkbench(WorkbenchEntry entry);
+    /// Gives the field above the project tree its meaning. Replaces the filter of another module.
+    void setTreeFilter(std::unique_ptr<TreeFilter> filter);
 
     const std::vector<CommandPlace>& menuPlaces() const { return m_menuPlaces; }
     const std::vector<CommandPlace>& toolBarPlaces() const { return m_toolBarPlaces; }
@@ -174,6 +178,8 @@ public:
     const std::vector<DockEntry>& docks() const { return m_docks; }
     const std::vector<PreferencesEntry>& preferencesPages() const { return m_preferencesPages; }
     const std::vector<WorkbenchEntry>& workbenches() const { return m_workbenches; }
+    /// Returns the filter of the project tree; null if no module has registered one.
+    TreeFilter* treeFilter() const { return m_treeFilter.get(); }
 
 Q_SIGNALS:
     /// Sent after an addition.
@@ -192,6 +198,7 @@ private:
     std::vector<DockEntry> m_docks;
     std::vector<PreferencesEntry> m_preferencesPages;
     std::vector<WorkbenchEntry> m_workbenches;
+    std::unique_ptr<TreeFilter> m_treeFilter;
 };
 
 } // namespace Gui

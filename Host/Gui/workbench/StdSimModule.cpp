@@ -47,7 +47,7 @@ MenuItem* makeEditMenu()
     return makeGroup<MenuItem>("&Edit",
                                {{"Undo", line, {"Std_Undo", "Std_Redo"}},
                                 {"Clipboard", line, {"Std_Copy", "Std_Paste", "Std_DuplicateSelection", "Std_Delete"}},
-                                {"Select", line, {"Std_SelectAll", "Std_Rename", "Std_Color"}},
+                                {"Select", line, {"Std_Find", "Std_SelectAll", "Std_Rename", "Std_Color"}},
                                 {"Suppress", line, {"Std_Suppress", "Std_Unsuppress"}},
                                 {"Preferences", line, {"Std_Preferences"}}});
 }

@@ -58,7 +58,7 @@ private:
     };
 
     bool readNext();
-    bool readKeyword(const FilterToken& token);
+    bool readKeyword(const FilterToken& next);
     bool readHas();
     bool readWords();
     bool readComparison(std::size_t firstWord, const FilterQuantity& quantity, const FilterToken& sign);

@@ -34,6 +34,6 @@ enum class FilterText : std::size_t
 Failure makeFailure(FaultCode code, FilterText text, std::vector<std::string> arguments = {},
                     std::string suggestion = {});
 
-void addFilterTexts(std::vector<MessageText>& texts);
+void addFilterTexts(std::vector<MessageText>& collected);
 
 } // namespace vxUnits

@@ -64,9 +64,10 @@ TEST_F(Materials, HaveTheirCommandsInTheMenus)
     EXPECT_THAT(menus(), ElementsAre("&File", "&Edit", "&Project", "&View", "&Material", "&Windows", "&Help"));
     EXPECT_THAT(menu("&File"), ElementsAre("Mat_NewDoc", "Std_Open", "Std_OpenRecent", "-", "Std_Save", "Std_SaveAs",
                                            "-", "Std_ImportDocument", "-", "Std_CloseProject", "Std_Quit"));
-    EXPECT_THAT(menu("&Edit"), ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste",
-                                           "Std_DuplicateSelection", "Std_Delete", "-", "Std_SelectAll", "Std_Rename",
-                                           "Std_Color", "-", "Std_Suppress", "Std_Unsuppress", "-", "Std_Preferences"));
+    EXPECT_THAT(menu("&Edit"),
+                ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
+                            "Std_Delete", "-", "Std_Find", "Std_SelectAll", "Std_Rename", "Std_Color", "-",
+                            "Std_Suppress", "Std_Unsuppress", "-", "Std_Preferences"));
     EXPECT_THAT(menu("&Project"), ElementsAre("Mat_AddMaterial", "Mat_Edit", "-", "Std_ImportDocument", "Mat_Import",
                                               "-", "Std_Collect", "-", "Mat_Units"));
     EXPECT_THAT(menu("&View"),

@@ -68,7 +68,7 @@ TEST_F(Contributed, CommandsStandAtTheEndOfTheirSections)
     contributions.addToMenu("&Edit", "Clipboard", "A_Add");
     contributions.addToMenu("&Edit", "Clipboard", "A_Second");
     EXPECT_TRUE(waitForMenu("&Edit", {"Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
-                                      "Std_Delete", "A_Add", "A_Second", "-", "Std_SelectAll", "Std_Rename",
+                                      "Std_Delete", "A_Add", "A_Second", "-", "Std_Find", "Std_SelectAll", "Std_Rename",
                                       "Std_Color", "-", "Std_Suppress", "Std_Unsuppress", "-", "Std_Preferences"}));
     EXPECT_EQ(namesIn(menu("&File")).front(), "A_New");
     EXPECT_EQ(namesIn(menu("&File")).back(), "Std_Quit");

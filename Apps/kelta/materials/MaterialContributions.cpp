@@ -1,6 +1,7 @@
 #include "MaterialContributions.h"
 
 #include "MaterialCheck.h"
+#include "MaterialFilter.h"
 #include "MaterialProjects.h"
 #include "ProjectUnitsDialog.h"
 #include "UnitsPage.h"
@@ -130,6 +131,7 @@ void registerMaterialContributions(Gui::GuiApplication& application)
     Gui::Contributions& contributions = application.contributions();
     addToBars(contributions);
     addWelcome(contributions);
+    registerMaterialFilter(contributions);
     contributions.addAboutText(
         {"MaterialAbout",
          QT_TRANSLATE_NOOP("MaterialAbout", "Materials for finite-element simulation: 26 ready-made materials, 36 "

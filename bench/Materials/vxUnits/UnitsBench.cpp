@@ -2,6 +2,7 @@
 
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/Filter.h"
 #include "vxUnits/Plausibility.h"
 #include "vxUnits/Reading.h"
 #include "vxUnits/Unit.h"
@@ -120,6 +121,50 @@ void addCheck(vxMat::eMaterialType type)
                          [] { return std::chrono::microseconds(1600); }, 1.0, false});
 }
 
+/// Ten thousand materials with the values of steel, which differ.
+std::vector<vxUnits::FilterSubject> manySubjects()
+{
+    constexpr int count = 10000;
+    const auto material = vxMat::createLibraryMaterial(vxMat::eMaterialType::StructuralSteel);
+    std::vector<vxUnits::FilterSubject> subjects;
+    for (int i = 0; i < count; ++i) {
+        vxUnits::MaterialValues values(*material);
+        values.setNumber(vxMat::PropertyId::YoungsModulus, 2e7 * (i * 7919 % count));
+        values.setNumber(vxMat::PropertyId::Density, 1.0 * (i * 104729 % count));
+        subjects.emplace_back("Material " + std::to_string(i), std::move(values));
+    }
+    return subjects;
+}
+
+/// A filter over the values of many materials against a loop that compares the same values with the same numbers.
+void addFilter()
+{
+    static const auto subjects = vxbench::lazily(manySubjects);
+    const auto ours = [] {
+        const vxUnits::Filter filter = *vxUnits::readFilter("E > 100 GPa and rho < 3 g/cm3").filter;
+        const auto& all = subjects();
+        return timed([&] {
+            std::size_t found = 0;
+            for (const vxUnits::FilterSubject& subject : all)
+                found += filter.matches(subject) ? 1 : 0;
+            return found;
+        });
+    };
+    const auto other = [] {
+        const auto& all = subjects();
+        return timed([&] {
+            std::size_t found = 0;
+            for (const vxUnits::FilterSubject& subject : all) {
+                const bool isStiff = subject.number(vxMat::PropertyId::YoungsModulus) > 1e11;
+                found += isStiff && subject.number(vxMat::PropertyId::Density) < 3000.0 ? 1 : 0;
+            }
+            return found;
+        });
+    };
+    constexpr double limitOfFilter = 2.0;
+    vxbench::addContest({"a filter over 10,000 materials", ours, other, limitOfFilter, false});
+}
+
 } // namespace
 
 int main(int argc, char** argv) // NOLINT(bugprone-exception-escape): a text that is refused ends the measurement
@@ -129,6 +174,7 @@ int main(int argc, char** argv) // NOLINT(bugprone-exception-escape): a text tha
     addConversion("psi", "Pa");
     addConversion("W/(m K)", "mW/(mm K)");
     addReading();
+    addFilter();
     addCheck(vxMat::eMaterialType::StructuralSteelNL); // the largest one
     addCheck(vxMat::eMaterialType::CreepMaterial1);    // with doubts, for which remedies are looked for
     return vxbench::runContests(argc, argv);

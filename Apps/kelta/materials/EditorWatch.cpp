@@ -2,12 +2,14 @@
 
 #include "KeptEdits.h"
 #include "MaterialChange.h"
+#include "cells/ValueCellDelegate.h"
 
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
 #include "vxMaterial/gui/MaterialView.h"
+#include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
@@ -15,9 +17,11 @@
 #include <boost/signals2/connection.hpp>
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace desktop {
 
@@ -31,12 +35,25 @@ bool isFirstLabel(const std::string& label)
            label.find_first_not_of("0123456789", stem.size()) == std::string::npos;
 }
 
+/// Returns a value in the form for messages. The value may be a list of thousands of numbers.
+QString shortened(const QString& value)
+{
+    constexpr int most = 80;
+    return value.size() <= most ? value : value.left(most) + QChar(0x2026);
+}
+
 /// Follows one editor, which owns it.
 class EditorRecorder final : public QObject
 {
 public:
-    EditorRecorder(MatGui::MaterialView& editor, KeptEdits& kept) : QObject(&editor), m_editor(editor), m_kept(kept)
+    EditorRecorder(MatGui::MaterialView& editor, KeptEdits& kept)
+        : QObject(&editor),
+          m_editor(editor),
+          m_table(*editor.findChild<MatGui::SheetTableView*>()),
+          m_delegate(*new ValueCellDelegate(&m_table)),
+          m_kept(kept)
     {
+        m_table.setItemDelegateForColumn(MatGui::SheetTableView::Value, &m_delegate);
         // Connected at the front, because another listener closes the editor.
         Obj::Project& project = *material().get_project();
         m_objectRemoved = project.objectRemoved.connect(
@@ -52,8 +69,39 @@ private:
         Kelta::guarded(EditorWatch::tr("The values of an editor cannot be checked"), [&] {
             if (auto ignored = m_editor.findIgnoredText())
                 refusal = std::move(*ignored);
+            else if (auto unread = findUnreadValue())
+                refusal = std::move(*unread);
             m_before = copyOf(*material().getCMaterial());
         });
+    }
+
+    /// Returns the reason against a typed value that the table reads and the program refuses, such as "inf" and "0x10".
+    /// Values that the material holds already are left.
+    std::optional<Gui::ApplyRefusal> findUnreadValue() const
+    {
+        const std::vector<MatGui::SheetRow> rows = m_table.rows();
+        for (int row = 0; row < m_table.model()->rowCount(); ++row) {
+            const MatGui::SheetRow& typed = rows[static_cast<std::size_t>(row)];
+            const QString fault = m_delegate.findFault(m_table.model()->index(row, MatGui::SheetTableView::Value));
+            if (!fault.isEmpty() && !isHeld(typed))
+                return Gui::ApplyRefusal{describe(row, fault), row};
+        }
+        return std::nullopt;
+    }
+
+    QString describe(int row, const QString& fault) const
+    {
+        const auto text = [this, row](int column) { return m_table.model()->index(row, column).data().toString(); };
+        const QString message = EditorWatch::tr(R"(Row %1: The value "%2" of "%3" cannot be read. %4)");
+        return message.arg(QString::number(row + 1), shortened(text(MatGui::SheetTableView::Value)),
+                           text(MatGui::SheetTableView::Name), fault);
+    }
+
+    /// Returns whether the material has the value of a row.
+    bool isHeld(const MatGui::SheetRow& row) const
+    {
+        const vxMat::MaterialProperty* const held = material().getCMaterial()->findProperty(row.id);
+        return held != nullptr && vxMat::formatValue(*held) == row.value.toStdString();
     }
 
     void record()
@@ -114,6 +162,8 @@ private:
     Mat::MaterialObject& material() const { return *m_editor.getMaterialObject(); }
 
     MatGui::MaterialView& m_editor;
+    MatGui::SheetTableView& m_table;
+    ValueCellDelegate& m_delegate; ///< a child of the table
     KeptEdits& m_kept;
     boost::signals2::scoped_connection m_objectRemoved;
     std::unique_ptr<vxMat::CMaterial> m_before; ///< the material before the Apply that is in progress

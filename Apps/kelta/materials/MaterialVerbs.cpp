@@ -5,6 +5,8 @@
 #include "MaterialCheck.h"
 #include "MaterialProjects.h"
 #include "ProjectUnitsDialog.h"
+#include "cells/CellReading.h"
+#include "cells/TypedValue.h"
 
 #include "Gui/TreeSelectionSingleton.h"
 #include "kelta/Batch.h"
@@ -14,6 +16,7 @@
 #include "vxMaterial/model/PropertyRules.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxUnits/Quantity.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -91,9 +94,9 @@ bool isFinite(const vxMat::MaterialProperty& property)
                                                         [](double number) { return std::isfinite(number); });
 }
 
-/// Gives a material a quantity of the catalogue. Reads the value from the text as the editor does, and takes name, unit
-/// and description from the catalogue.
-Failure setQuantity(Mat::MaterialObject& object, const vxMat::MaterialProperty& quantity, const std::string& value)
+/// Gives a material a quantity of the catalogue. Takes the value from a text of the editor's table, and name, unit and
+/// description from the catalogue.
+Failure setValue(Mat::MaterialObject& object, const vxMat::MaterialProperty& quantity, const std::string& value)
 {
     if (Failure fault = findFault(quantity.id, value))
         return fault;
@@ -107,6 +110,15 @@ Failure setQuantity(Mat::MaterialObject& object, const vxMat::MaterialProperty& 
     object.getCMaterial()->setProperty(quantity.id, std::move(property));
     recordChange(object, std::move(before));
     return std::nullopt;
+}
+
+/// Gives a material a quantity of the catalogue. Reads a number as the editor does: with a unit, or in SI.
+Failure setQuantity(Mat::MaterialObject& object, const vxMat::MaterialProperty& quantity, const std::string& value)
+{
+    if (!takesNumbers(quantity.id))
+        return setValue(object, quantity, value);
+    const auto typed = readTyped(quantity.id, value, vxUnits::creepExponents(*object.getCMaterial()));
+    return typed ? setValue(object, quantity, typed->stored) : reasonOf(typed.failure(), QString::fromStdString(value));
 }
 
 Failure setNamedQuantity(const QStringList& arguments)

@@ -80,6 +80,9 @@ QString describe(const UnreadableRow& row)
 
 QString describe(const PartlyReadRow& row)
 {
+    if (!row.fault.isEmpty())
+        return MaterialView::tr(R"(Row %1: The value "%2" of "%3" cannot be read. %4)")
+            .arg(QString::number(row.number), shortened(row.value), row.name, row.fault);
     const QString reason = MaterialView::tr("Row %1: The value \"%2\" of \"%3\" would be read as \"%4\": \"%5\" is not "
                                             "part of the number.");
     const QString remedy = row.unit.isEmpty() ? MaterialView::tr("Type the value without it.")

@@ -44,6 +44,7 @@ struct PartlyReadRow
     QString ignored; ///< the text that would be ignored: "GPa"
     QString readAs;  ///< the value that would be read: "210"
     QString unit;    ///< of the value: "Pa"; empty if it has none
+    QString fault;   ///< the reason of the delegate, see SheetTableDelegate::findFault; empty if it has none
 };
 
 } // namespace MatGui

@@ -92,7 +92,17 @@ void SheetTableDelegate::setEditorData(QWidget* editor, const QModelIndex& index
 void SheetTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
     if (const auto* const line = qobject_cast<QLineEdit*>(editor))
-        model->setData(index, line->text(), Qt::EditRole);
+        model->setData(index, textToStore(*line, index), Qt::EditRole);
+}
+
+QString SheetTableDelegate::textToStore(const QLineEdit& editor, const QModelIndex& /*index*/) const
+{
+    return editor.text();
+}
+
+QString SheetTableDelegate::findFault(const QModelIndex& /*index*/) const
+{
+    return {};
 }
 
 void SheetTableDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

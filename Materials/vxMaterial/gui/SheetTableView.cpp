@@ -233,9 +233,12 @@ std::vector<SheetRow> SheetTableView::rows() const
 std::vector<SheetRow> SheetTableView::rowsWithTypedText() const
 {
     std::vector<SheetRow> all = rows();
-    for (std::size_t row = 0; row < all.size(); ++row)
-        if (const auto* const editor = qobject_cast<QLineEdit*>(openEditor(static_cast<int>(row))))
-            all[row].value = editor->text();
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const auto* const editor = qobject_cast<QLineEdit*>(openEditor(row));
+        const SheetTableDelegate* const delegate = valueDelegate(row);
+        if (editor != nullptr && delegate != nullptr)
+            all[static_cast<std::size_t>(row)].value = delegate->textToStore(*editor, m_model->index(row, Value));
+    }
     return all;
 }
 
@@ -360,14 +363,19 @@ QString SheetTableView::unitOf(int row) const
 
 std::optional<PartlyReadRow> SheetTableView::findPartlyReadRow() const
 {
-    for (int row = 0; row < m_model->rowCount(); ++row)
-        if (const auto ignored = vxMat::findIgnoredText(rowId(row), cellText(row, Value).toStdString()))
-            return PartlyReadRow{row + 1,
-                                 cellText(row, Name),
-                                 cellText(row, Value),
-                                 QString::fromStdString(ignored->text),
-                                 QString::fromStdString(ignored->readAs),
-                                 unitOf(row)};
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const auto ignored = vxMat::findIgnoredText(rowId(row), cellText(row, Value).toStdString());
+        if (!ignored)
+            continue;
+        const SheetTableDelegate* const delegate = valueDelegate(row);
+        return PartlyReadRow{row + 1,
+                             cellText(row, Name),
+                             cellText(row, Value),
+                             QString::fromStdString(ignored->text),
+                             QString::fromStdString(ignored->readAs),
+                             unitOf(row),
+                             delegate != nullptr ? delegate->findFault(m_model->index(row, Value)) : QString()};
+    }
     return std::nullopt;
 }
 
@@ -399,6 +407,12 @@ bool SheetTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*
 QWidget* SheetTableView::openEditor(int row) const
 {
     return indexWidget(m_model->index(row, Value));
+}
+
+/// Returns null if the application has installed a delegate of another kind.
+const SheetTableDelegate* SheetTableView::valueDelegate(int row) const
+{
+    return qobject_cast<const SheetTableDelegate*>(itemDelegate(m_model->index(row, Value)));
 }
 
 void SheetTableView::finishEditing()

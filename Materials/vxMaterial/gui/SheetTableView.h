@@ -154,6 +154,7 @@ private:
     std::vector<SheetRow> rowsOf(const vxMat::MaterialBase& material) const;
     SheetRow rowAt(int row) const;
     QWidget* openEditor(int row) const;
+    const SheetTableDelegate* valueDelegate(int row) const;
     int rowId(int row) const;
     QString cellText(int row, int column) const;
     QString unitOf(int row) const;

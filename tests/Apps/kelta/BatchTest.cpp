@@ -109,7 +109,7 @@ TEST_F(Batch, RefusesWrongArguments)
           std::pair("set Density", "a quantity and its value"), std::pair("Mat_Export a b", "needs one argument"),
           std::pair("Mat_Export", "needs one argument"), std::pair("Mat_NewDoc", "is open; close it first"),
           std::pair("Std_Copy a b", "takes at most one argument"),
-          std::pair("set E \"210 GPa\"", "would be read as \"210\""),
+          std::pair("set E \"210 GPas\"", "Did you mean \"210 GPa\"?"),
           std::pair("screenshot", "one file name is needed"),
           std::pair("screenshot no/such/folder.png", "cannot be written"),
           std::pair("database all", "arguments are not allowed here"),

@@ -36,16 +36,45 @@ TEST_F(Verbs, SetAQuantity)
     EXPECT_EQ(modulusOf(steel), 2e11);
 }
 
-TEST_F(Verbs, RefuseANumberWithOtherTextAfterIt)
+TEST_F(Verbs, SetANumberWithAUnit)
 {
     const Mat::MaterialObject& steel = selectedSteel();
-    EXPECT_EQ(run("set", {"E", "210 GPa"}),
-              "the value \"210 GPa\" would be read as \"210\"; \"GPa\" would be ignored; give the value without it");
+    EXPECT_EQ(run("set", {"Young's modulus", "210 GPa"}), "");
+    EXPECT_EQ(modulusOf(steel), 2.1e11);
+    EXPECT_EQ(run("set", {"Density", "7.85 g/cm^3"}), "");
+    EXPECT_EQ(steel.getCMaterial()->findProperty(density)->value, 7850.0);
+    EXPECT_EQ(run("set", {"Yield stress", "250, 300 MPa"}), "");
+    EXPECT_THAT(steel.getCMaterial()->findProperty(38)->values, testing::ElementsAre(2.5e8, 3e8));
+}
+
+TEST_F(Verbs, TakeTheUnitOfTheCreepFactorFromTheExponentsOfTheMaterial)
+{
+    const Mat::MaterialObject& steel = selectedSteel();
+    EXPECT_THAT(run("set", {"Creep Modulus A", "1 MPa^-2 s^-1"}),
+                testing::StartsWith("The unit of Creep Modulus A depends on Creep Modulus N and Creep Modulus M"));
+    EXPECT_EQ(run("set", {"Creep Modulus N", "2"}), "");
+    EXPECT_EQ(run("set", {"Creep Modulus M", "0"}), "");
+    EXPECT_EQ(run("set", {"Creep Modulus A", "1 MPa^-2 s^-1"}), "");
+    EXPECT_EQ(steel.getCMaterial()->findProperty(46)->value, 1e-12);
+}
+
+TEST_F(Verbs, SetNoValueThatCannotBeRead)
+{
+    const Mat::MaterialObject& steel = selectedSteel();
+    const int steps = history().count();
+    EXPECT_EQ(run("set", {"E", "210 GPas"}), "The unit \"GPas\" is not known. Did you mean \"210 GPa\"?");
     EXPECT_EQ(run("set", {"E", "2,1e11"}),
-              "the value \"2,1e11\" would be read as \"2\"; \",1e11\" would be ignored; give the value without it");
-    EXPECT_EQ(run("set", {"Density", "7850 kg"}),
-              "the value \"7850 kg\" would be read as \"7850\"; \"kg\" would be ignored; give the value without it");
+              "\"2,1e11\" has a decimal comma; the decimal sign is a point. Did you mean \"2.1e11\"?");
+    EXPECT_THAT(run("set", {"Density", "7850 kg"}), testing::StartsWith("\"7850 kg\" measures mass; Density needs a unit"));
+    EXPECT_EQ(run("set", {"E", ""}), "Nothing was typed; a number is needed.");
     EXPECT_EQ(modulusOf(steel), 2e11);
+    EXPECT_EQ(history().count(), steps);
+}
+
+TEST_F(Verbs, SetNoNumberThatBreaksARule)
+{
+    selectedSteel();
+    EXPECT_EQ(run("set", {"Poisson's ratio", "60 %"}), "Poisson's ratio must be between [0.001, 0.499]!");
 }
 
 TEST_F(Verbs, SetNoNumberThatIsNotFinite)
@@ -57,7 +86,7 @@ TEST_F(Verbs, SetNoNumberThatIsNotFinite)
         EXPECT_NE(run("set", {"Dynamic viscosity", value}), "");
         EXPECT_NE(run("set", {"E", value}), "");
     }
-    EXPECT_EQ(run("set", {"Dynamic viscosity", "inf"}), "the value \"inf\" is not a finite number");
+    EXPECT_EQ(run("set", {"Dynamic viscosity", "inf"}), "\"inf\" is not a finite number.");
     EXPECT_EQ(modulusOf(steel), 2e11);
     EXPECT_EQ(messages().size(), before);
 }

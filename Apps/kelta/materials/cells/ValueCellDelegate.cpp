@@ -1,0 +1,102 @@
+#include "ValueCellDelegate.h"
+
+#include "CellReading.h"
+#include "ValueEditing.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QToolTip>
+
+namespace desktop {
+
+namespace {
+
+/// Returns whether a key stores the text of an editor and closes it.
+bool endsEditing(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool leavesForOtherProgram(const QEvent& event)
+{
+    return event.type() == QEvent::FocusOut &&
+           static_cast<const QFocusEvent&>(event).reason() == Qt::ActiveWindowFocusReason;
+}
+
+void markAsUnreadable(QStyleOptionViewItem& option)
+{
+    option.font.setUnderline(true);
+    option.palette.setColor(QPalette::Text, QColor(0xb3, 0x26, 0x1e));
+    option.palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xd6, 0xd2));
+}
+
+} // namespace
+
+ValueCellDelegate::ValueCellDelegate(QObject* parent) : SheetTableDelegate(parent) {}
+
+QWidget* ValueCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                         const QModelIndex& index) const
+{
+    QWidget* const editor = SheetTableDelegate::createEditor(parent, option, index);
+    auto* const line = qobject_cast<QLineEdit*>(editor);
+    if (line != nullptr && readCell(index, line->text()))
+        new ValueEditing(*line, index); // the editor owns it
+    return editor;
+}
+
+bool ValueCellDelegate::eventFilter(QObject* object, QEvent* event)
+{
+    ValueEditing* const editing = ValueEditing::of(*object);
+    if (editing == nullptr || editing->isRead())
+        return SheetTableDelegate::eventFilter(object, event);
+    if (leavesForOtherProgram(*event))
+        return false; // the base class would close the editor
+    if (event->type() != QEvent::KeyPress || !endsEditing(static_cast<const QKeyEvent&>(*event)))
+        return SheetTableDelegate::eventFilter(object, event);
+    editing->insist();
+    event->accept();
+    return true;
+}
+
+QString ValueCellDelegate::textToStore(const QLineEdit& editor, const QModelIndex& index) const
+{
+    const auto reading = readCell(index, editor.text());
+    return reading ? reading->stored : SheetTableDelegate::textToStore(editor, index);
+}
+
+QString ValueCellDelegate::findFault(const QModelIndex& index) const
+{
+    const auto reading = readCell(index, index.data(Qt::EditRole).toString());
+    return reading && !reading->isRead ? reading->remark : QString();
+}
+
+void ValueCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyleOptionViewItem marked(option);
+    if (!findFault(index).isEmpty())
+        markAsUnreadable(marked);
+    SheetTableDelegate::paint(painter, marked, index);
+}
+
+bool ValueCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                                  const QModelIndex& index)
+{
+    const QString fault = event->type() == QEvent::ToolTip ? findFault(index) : QString();
+    if (fault.isEmpty())
+        return SheetTableDelegate::helpEvent(event, view, option, index);
+    // A tool tip shows a text with markup otherwise.
+    QToolTip::showText(event->globalPos(), QStringLiteral("<p>%1</p>").arg(fault.toHtmlEscaped()), view);
+    return true;
+}
+
+} // namespace desktop

@@ -1,13 +1,13 @@
 #include "EditorWatch.h"
 
 #include "KeptEdits.h"
-#include "MaterialChange.h"
 #include "cells/ValueCellDelegate.h"
 
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+#include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
@@ -71,7 +71,7 @@ private:
                 refusal = std::move(*ignored);
             else if (auto unread = findUnreadValue())
                 refusal = std::move(*unread);
-            m_before = copyOf(*material().getCMaterial());
+            m_before = MatGui::copyOf(*material().getCMaterial());
         });
     }
 
@@ -110,9 +110,9 @@ private:
             vxMat::restoreCatalogueTexts(*material().getCMaterial());
             if (m_before == nullptr)
                 return;
-            const ChangeCount count = countChanges(*m_before, *material().getCMaterial());
+            const MatGui::ChangeCount count = MatGui::countChanges(*m_before, *material().getCMaterial());
             const vxMsg::MessageProxy::Group oneStep{QString()};
-            recordChange(material(), std::move(m_before));
+            MatGui::recordChange(material(), std::move(m_before));
             takeNameOfLibraryMaterial();
             report(count);
         });
@@ -140,7 +140,7 @@ private:
     }
 
     /// Says what an Apply has done.
-    void report(const ChangeCount& count) const
+    void report(const MatGui::ChangeCount& count) const
     {
         const QString label = QString::fromStdString(material().label.getValue());
         const bool isSame = count.added + count.changed + count.removed == 0;

@@ -1,6 +1,5 @@
 #include "MaterialFiles.h"
 
-#include "MaterialChange.h"
 #include "MaterialImport.h"
 
 #include "Obj/ContentCodec.h"
@@ -8,6 +7,7 @@
 #include "kelta/FileService.h"
 #include "projectfile/MaterialClasses.h"
 #include "projectfile/MaterialRecord.h"
+#include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/project/MaterialObject.h"
 
 namespace desktop {
@@ -45,7 +45,7 @@ void registerMaterialFiles()
     projectfile::registerMaterialClass(objectClass, materialOf);
     Obj::registerContentCodec(objectClass, {writeContent, readContent});
     registerDocumentImport(projectClass, readMaterialDocument);
-    materialChanged().connect(tellFiles);
+    MatGui::materialChanged().connect(tellFiles);
 }
 
 } // namespace desktop

@@ -1,7 +1,6 @@
 #include "MaterialVerbs.h"
 
 #include "ImportUnits.h"
-#include "MaterialChange.h"
 #include "MaterialCheck.h"
 #include "MaterialProjects.h"
 #include "ProjectUnitsDialog.h"
@@ -12,6 +11,7 @@
 #include "kelta/Batch.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/exchange/CardSet.h"
+#include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/PropertyRules.h"
 #include "vxMaterial/project/DocumentMaterial.h"
@@ -67,9 +67,9 @@ Failure useLibraryMaterial(const QStringList& arguments)
     for (const auto& [type, material] : object->getMatMgr().materials) {
         if (!isSame(material->name, arguments[0]))
             continue;
-        auto before = copyOf(*object->getCMaterial());
+        auto before = MatGui::copyOf(*object->getCMaterial());
         object->setCMaterial(material.get());
-        recordChange(*object, std::move(before));
+        MatGui::recordChange(*object, std::move(before));
         return std::nullopt;
     }
     return tr("the library has no material \"%1\"").arg(arguments[0]);
@@ -106,9 +106,9 @@ Failure setValue(Mat::MaterialObject& object, const vxMat::MaterialProperty& qua
         return tr("the value \"%1\" is not a finite number").arg(QString::fromStdString(value));
     property->unit = quantity.unit;
     property->category = quantity.category;
-    auto before = copyOf(*object.getCMaterial());
+    auto before = MatGui::copyOf(*object.getCMaterial());
     object.getCMaterial()->setProperty(quantity.id, std::move(property));
-    recordChange(object, std::move(before));
+    MatGui::recordChange(object, std::move(before));
     return std::nullopt;
 }
 
@@ -139,9 +139,9 @@ Failure clearMaterial(const QStringList& arguments)
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr)
         return tr("one selected material is needed");
-    auto before = copyOf(*object->getCMaterial());
+    auto before = MatGui::copyOf(*object->getCMaterial());
     object->getCMaterial()->clearProperties();
-    recordChange(*object, std::move(before));
+    MatGui::recordChange(*object, std::move(before));
     return std::nullopt;
 }
 

@@ -677,6 +677,19 @@ bool MaterialView::showRow(int propertyId)
     return row >= 0;
 }
 
+void MaterialView::setValues(const std::map<int, QString>& values, const QString& step)
+{
+    if (!guarded([this] { m_ui->tableView->finishEditing(); }))
+        return;
+    edit(step, [&] {
+        std::vector<SheetRow> rows = m_ui->tableView->rows();
+        for (const auto& [row, value] : values)
+            if (row >= 0 && static_cast<std::size_t>(row) < rows.size())
+                rows[static_cast<std::size_t>(row)].value = value;
+        m_ui->tableView->setRows(rows);
+    });
+}
+
 std::optional<Gui::ApplyRefusal> MaterialView::findIgnoredText() const
 {
     const auto row = m_ui->tableView->findPartlyReadRow();

@@ -71,6 +71,10 @@ public:
     /// false if the table does not have this row.
     bool showRow(int propertyId) override;
 
+    /// Writes values into rows of the table, by their numbers from 0, as one step of the undo stack with the text
+    /// `step`. First ends the edit of a cell. Ignores numbers without a row.
+    void setValues(const std::map<int, QString>& values, const QString& step);
+
     /// Returns the name, in the user's language, of the library material that the user has taken since the last Apply;
     /// empty if there is none, or if the user has cleared the rows afterwards.
     const QString& getPickedName() const { return m_picked; }

@@ -1,7 +1,7 @@
-#include "MaterialChange.h"
 #include "MaterialsTesting.h"
 
 #include "Gui/Translator.h"
+#include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/MatDBManager.h"
 
@@ -70,9 +70,9 @@ TEST_F(AppliedEdits, AreNoStepIfTheMaterialIsAsBefore)
 TEST_F(AppliedEdits, FollowWhatCommandsDidWhileTheEditorWasOpen)
 {
     MatGui::MaterialView& editor = edit(steel);
-    auto before = desktop::copyOf(*steel.getCMaterial());
+    auto before = MatGui::copyOf(*steel.getCMaterial());
     setNumber(steel, density, 1000.0);
-    desktop::recordChange(steel, std::move(before));
+    MatGui::recordChange(steel, std::move(before));
     type(editor, modulus, "7e10");
     apply(editor);
     history().undo();
@@ -363,7 +363,7 @@ TEST_P(Language, LeavesNoTranslationInMaterials)
 {
     for (Mat::MaterialObject* const object : objects) {
         SCOPED_TRACE(object->label.getValue());
-        const auto before = desktop::copyOf(*object->getCMaterial());
+        const auto before = MatGui::copyOf(*object->getCMaterial());
         applyInEditor(*object);
         expectCatalogueTexts(*before, *object->getCMaterial());
     }

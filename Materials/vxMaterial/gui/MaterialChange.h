@@ -2,6 +2,7 @@
 
 #include "Obj/Signal.h"
 #include "vxMaterial/model/Material.h"
+#include "vxMaterial/project/PluginExport.h"
 
 #include <cstddef>
 #include <memory>
@@ -10,14 +11,19 @@ namespace Mat {
 class MaterialObject;
 } // namespace Mat
 
-namespace desktop {
+/// Changes of materials as steps of the history of the host:
+///
+///     auto before = MatGui::copyOf(*object.getCMaterial());
+///     change(*object.getCMaterial());
+///     MatGui::recordChange(object, std::move(before));
+namespace MatGui {
 
 /// Returns a copy of a material with all fields, the library group and the slots of the properties included.
-std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
+VXMATERIAL_EXPORT std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material);
 
 /// Returns whether two materials have the same fields and properties. Zero and negative zero are different; all NaN
 /// values are equal.
-bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second);
+VXMATERIAL_EXPORT bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second);
 
 /// The numbers of properties in which a material differs from another.
 struct ChangeCount
@@ -27,13 +33,13 @@ struct ChangeCount
     std::size_t removed = 0;
 };
 
-ChangeCount countChanges(const vxMat::MaterialBase& before, const vxMat::MaterialBase& after);
+VXMATERIAL_EXPORT ChangeCount countChanges(const vxMat::MaterialBase& before, const vxMat::MaterialBase& after);
 
 /// Sent after a step of the history has changed the material of an object, and after such a step was undone or redone.
-Obj::Signal<void(Mat::MaterialObject&)>& materialChanged();
+VXMATERIAL_EXPORT Obj::Signal<void(Mat::MaterialObject&)>& materialChanged();
 
 /// Records a change of the material of `object` as a step of the history, and updates the object. `before` is a copy of
 /// the material before the change. Returns false, and makes no step, if the material has not changed.
-bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before);
+VXMATERIAL_EXPORT bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before);
 
-} // namespace desktop
+} // namespace MatGui

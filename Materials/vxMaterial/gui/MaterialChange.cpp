@@ -1,11 +1,10 @@
-#include "MaterialChange.h"
+#include "vxMaterial/gui/MaterialChange.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
-#include "kelta/UnappliedEdits.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
@@ -16,7 +15,7 @@
 #include <cmath>
 #include <utility>
 
-namespace desktop {
+namespace MatGui {
 
 namespace {
 
@@ -71,12 +70,25 @@ void reopenEditor(Mat::MaterialObject& object)
         mainWindow->set_active_mdi_window(inFront);
 }
 
+/// Shows edits, a record of MDIWindow::editSteps, in the editor of a material. Opens the editor if it is not open.
+void showEdits(Mat::MaterialObject& object, const Json::Value& edits)
+{
+    const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    Gui::ViewFeeder* const node = Gui::GuiApplication::Instance->get_view_feeder(&object);
+    if (mainWindow == nullptr || node == nullptr)
+        return;
+    if (mainWindow->editorOf(object) == nullptr)
+        node->setEdit(0);
+    if (Gui::MDIWindow* const editor = mainWindow->editorOf(object))
+        editor->restoreEdits(edits);
+}
+
 /// A change of a material. Stores the ids of project and object, because the object may be deleted and restored.
 class MaterialChange final : public QUndoCommand
 {
 public:
     MaterialChange(const Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial> before)
-        : QUndoCommand(QCoreApplication::translate("desktop::MaterialChange", "Change \"%1\"")
+        : QUndoCommand(QCoreApplication::translate("MatGui::MaterialChange", "Change \"%1\"")
                            .arg(QString::fromStdString(object.label.getValue()))),
           m_projectId(object.get_project()->getProjectId()),
           m_objectId(object.getObjectId()),
@@ -101,8 +113,8 @@ public:
             return;
         swap(*object);
         const Json::Value edits = std::exchange(m_laterEdits, {});
-        if (!edits.isNull() && Gui::MainWindow::get_main_window_inst() != nullptr)
-            static_cast<void>(showEdits(*object, edits));
+        if (!edits.isNull())
+            showEdits(*object, edits);
     }
 
 private:
@@ -170,4 +182,4 @@ bool recordChange(Mat::MaterialObject& object, std::unique_ptr<vxMat::CMaterial>
     return true;
 }
 
-} // namespace desktop
+} // namespace MatGui

@@ -4,6 +4,7 @@
 #include "vxUnits/Unit.h"
 #include "vxUnits/UnitsExport.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,12 +27,13 @@ VXUNITS_EXPORT const std::vector<DerivedQuantity>& derivedQuantities();
 /// A value that is computed from the values of a material.
 struct DerivedValue
 {
-    const char* id = "";      ///< "shear-modulus"; never changes
-    const char* name = "";    ///< "Shear modulus"; a source of translation
-    const char* symbol = "";  ///< "G"
-    const char* formula = ""; ///< "E / (2 (1 + nu))"
-    double value = 0.0;       ///< finite, in coherent SI units
-    Dimension dimension;      ///< UnitSystem::unitOf gives its unit
+    const char* id = "";       ///< "shear-modulus"; never changes
+    const char* name = "";     ///< "Shear modulus"; a source of translation
+    const char* symbol = "";   ///< "G"
+    const char* formula = "";  ///< "E / (2 (1 + nu))"
+    double value = 0.0;        ///< finite, in coherent SI units
+    Dimension dimension;       ///< UnitSystem::unitOf gives its unit
+    std::int32_t position = 0; ///< in the fixed order of all derived values
 };
 
 /// Returns the derived values of a material: moduli, wave speeds, diffusivity and others, in a fixed order. Omits values

@@ -154,10 +154,12 @@ std::vector<DerivedValue> derivedValues(const MaterialValues& values)
 {
     const Inputs inputs(values);
     std::vector<DerivedValue> derived;
+    std::int32_t position = 0;
     for (const Derivation& one : derivations) {
         const double value = one.compute(inputs);
         if (std::isfinite(value))
-            derived.push_back({one.id, one.name, one.symbol, one.formula, value, one.dimension});
+            derived.push_back({one.id, one.name, one.symbol, one.formula, value, one.dimension, position});
+        ++position;
     }
     return derived;
 }

@@ -1,0 +1,56 @@
+#include "cards/CardTable.h"
+
+#include "values/ValueTable.h"
+#include "vxMaterial/exchange/CardSet.h"
+
+#include <QCoreApplication>
+
+namespace vxInspector {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("vxInspector::CardTable", text);
+}
+
+vxCAE::CardSet cardsOf(const vxMat::CMaterial& material)
+{
+    vxCAE::MaterialEntry entry;
+    material.copyTo(entry.material.get());
+    entry.classifyKind();
+    return vxCAE::makeCardSet(entry, vxCAE::MaterialSource::Complete);
+}
+
+Cell cardCell(const std::string& text)
+{
+    QString shown = QString::fromStdString(text);
+    if (shown.endsWith(QLatin1Char('\n')))
+        shown.chop(1);
+    Cell cell{shortened(shown, 4000)};
+    cell.isFixed = true;
+    if (cell.text != shown)
+        cell.whole = shown;
+    return cell;
+}
+
+} // namespace
+
+TableContent cardTable(const InspectedMaterial& inspected)
+{
+    const vxCAE::CardSet set = cardsOf(*inspected.material);
+    TableContent table{materialSentence(inspected), {tr("Card"), tr("Text")}, {}};
+    table.sentence += QLatin1Char(' ') +
+                      (set.cards.empty() ? tr("No card applies to it.") : tr("The numbers of cards are in SI units."));
+    for (const UnreadRow& unread : inspected.unreadRows)
+        table.rows.push_back({{{tr("Missing"), {}, {}, true},
+                               textCell(tr("Row %1 cannot be read: %2").arg(unread.number).arg(unread.reason))}});
+    for (const std::string& doubt : set.doubts)
+        table.rows.push_back({{{tr("Missing"), {}, {}, true}, textCell(QString::fromStdString(doubt))}});
+    for (const vxCAE::SolverCard& card : set.cards)
+        table.rows.push_back(
+            {{{QCoreApplication::translate("vxCAE::SolverCard", card.name.c_str())}, cardCell(card.text)}});
+    return table;
+}
+
+} // namespace vxInspector

@@ -1,0 +1,104 @@
+#include "findings/FindingTable.h"
+
+#include "values/ValueText.h"
+#include "vxInspector/units/UnitTexts.h"
+#include "vxMaterial/gui/FindingText.h"
+#include "vxMaterial/model/MaterialCheck.h"
+#include "vxMaterial/model/MaterialProperty.h"
+#include "vxUnits/Plausibility.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace vxInspector {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("vxInspector::FindingTable", text);
+}
+
+/// Makes the rows of one material.
+class Findings
+{
+public:
+    explicit Findings(const InspectedMaterial& inspected) : m_inspected(inspected) {}
+
+    std::vector<Row> rows() const
+    {
+        std::vector<Row> all;
+        for (const UnreadRow& unread : m_inspected.unreadRows)
+            all.push_back(row(tr("Error"), unread.id, textOf(unread)));
+        for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(*m_inspected.material))
+            all.push_back(row(kindOf(finding), idIn(finding.slot), MatGui::findingText(finding)));
+        for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(m_inspected.values))
+            all.push_back(doubtRow(doubt));
+        return all;
+    }
+
+private:
+    static QString kindOf(const vxMat::MaterialFinding& finding)
+    {
+        return finding.severity == vxMat::FindingSeverity::Error ? tr("Error") : tr("Warning");
+    }
+
+    static QString textOf(const UnreadRow& unread)
+    {
+        return tr("Row %1: The value \"%2\" of \"%3\" cannot be read: %4")
+            .arg(QString::number(unread.number), shortened(unread.value), quantityName(unread.id), unread.reason);
+    }
+
+    /// Returns the id by which the editor knows the property in a slot.
+    std::int32_t idIn(std::int32_t slot) const
+    {
+        const vxMat::MaterialProperty* const property = m_inspected.material->findProperty(slot);
+        return property != nullptr ? property->id : slot;
+    }
+
+    Row row(const QString& kind, std::int32_t id, const QString& text) const
+    {
+        Cell finding = textCell(text);
+        finding.text = shortened(text, 600);
+        return {{{kind}, textCell(m_inspected.label), finding, {}}, {m_inspected.projectId, m_inspected.objectId, id}};
+    }
+
+    Row doubtRow(vxUnits::Doubt& doubt) const
+    {
+        // The remedy has its own cell.
+        std::optional<vxUnits::Remedy> remedy = std::exchange(doubt.remedy, std::nullopt);
+        Row made = row(tr("Doubt"), idIn(doubt.id), translated(doubt));
+        if (remedy)
+            made.cells[FindingColumn::Remedy] = {translated(remedy->message)};
+        made.remedy = std::move(remedy);
+        return made;
+    }
+
+    const InspectedMaterial& m_inspected;
+};
+
+} // namespace
+
+TableContent findingTable(const std::vector<InspectedMaterial>& materials)
+{
+    TableContent table{{}, {tr("Kind"), tr("Material"), tr("Finding"), tr("Remedy")}, {}};
+    std::size_t more = 0;
+    for (const InspectedMaterial& inspected : materials)
+        for (Row& row : Findings(inspected).rows())
+            if (table.rows.size() < mostFindings)
+                table.rows.push_back(std::move(row));
+            else
+                ++more;
+    table.sentence = table.rows.empty() ? tr("Nothing is found.") : tr("Findings: %1.").arg(table.rows.size() + more);
+    if (more != 0)
+        table.sentence += QLatin1Char(' ') + tr("The last %1 are not listed.").arg(more);
+    return table;
+}
+
+bool hasErrors(const InspectedMaterial& inspected)
+{
+    return !inspected.unreadRows.empty() || !vxMat::checkMaterial(*inspected.material).empty();
+}
+
+} // namespace vxInspector

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "subject/InspectedMaterial.h"
+#include "table/TableContent.h"
+
+namespace vxInspector {
+
+/// The columns of the table of findings.
+struct FindingColumn
+{
+    enum : int
+    {
+        Kind,
+        Material,
+        Finding,
+        Remedy,
+    };
+};
+
+/// The number of findings in a table. Further ones are counted.
+inline constexpr std::size_t mostFindings = 1000;
+
+/// Returns the errors and warnings of the check, the rows that cannot be read, and the doubts about the values.
+TableContent findingTable(const std::vector<InspectedMaterial>& materials);
+
+/// Returns whether the check finds an error or a warning in a material, or one of its rows cannot be read.
+bool hasErrors(const InspectedMaterial& inspected);
+
+} // namespace vxInspector

@@ -1,0 +1,211 @@
+#include "plugin/Inspector.h"
+
+#include "Kelta/Exceptions.h"
+#include "Obj/Application.h"
+#include "findings/FindingsPage.h"
+#include "plugin/TabContents.h"
+#include "plugin/TabPage.h"
+#include "subject/SubjectWatch.h"
+#include "table/ContentView.h"
+#include "vxInspector/units/ProjectUnits.h"
+#include "vxMaterial/project/MaterialObject.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace vxInspector {
+
+namespace {
+
+/// Returns the unit system in which a subject is shown if the user has not chosen one.
+vxUnits::UnitSystem systemOf(const Subject& subject)
+{
+    const Obj::Project* const project =
+        subject.materials.empty() ? Obj::Application::get_current_project() : subject.materials.front()->get_project();
+    return project != nullptr ? shownSystem(*project) : defaultSystem();
+}
+
+} // namespace
+
+Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
+    : QWidget(parent),
+      m_watch(watch),
+      m_unitsLabel(new QLabel(this)),
+      m_systems(new QComboBox(this)),
+      m_tabs(new QTabWidget(this)),
+      m_values(new TabPage("inspectorValues", m_tabs)),
+      m_findings(new FindingsPage(m_tabs)),
+      m_cards(new TabPage("inspectorCards", m_tabs)),
+      m_compare(new TabPage("inspectorCompare", m_tabs))
+{
+    m_systems->setObjectName(QStringLiteral("inspectorUnits"));
+    m_systems->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_unitsLabel->setBuddy(m_systems);
+    auto* const units = new QHBoxLayout;
+    units->addWidget(m_unitsLabel);
+    units->addWidget(m_systems, 1);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(units);
+    layout->addWidget(m_tabs, 1);
+    createTabs();
+    retranslate();
+    const auto refreshNow = [this] { Kelta::guarded(tr("The inspector cannot be updated"), [this] { refresh(); }); };
+    connect(m_tabs, &QTabWidget::currentChanged, this, refreshNow);
+    connect(m_systems, QOverload<int>::of(&QComboBox::currentIndexChanged), this, refreshNow);
+}
+
+Inspector::~Inspector() = default;
+
+void Inspector::createTabs()
+{
+    m_tabs->setObjectName(QStringLiteral("inspectorTabs"));
+    m_tabs->setDocumentMode(true);
+    for (QWidget* const page : {static_cast<QWidget*>(m_values), static_cast<QWidget*>(m_findings),
+                                static_cast<QWidget*>(m_cards), static_cast<QWidget*>(m_compare)})
+        m_tabs->addTab(page, QString());
+}
+
+void Inspector::retranslate()
+{
+    m_unitsLabel->setText(tr("&Units:"));
+    m_systems->setToolTip(tr("The unit system of the values and the comparison. It changes no value."));
+    const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare")};
+    TabPage* const pages[] = {m_values, m_findings, m_cards, m_compare};
+    for (int tab = 0; tab < m_tabs->count(); ++tab) {
+        m_tabs->setTabText(tab, titles[tab]);
+        pages[tab]->view().setAccessibleName(titles[tab]);
+        pages[tab]->retranslate();
+    }
+    m_ofProject.clear();
+}
+
+/// The first entry follows the project.
+void Inspector::fillSystems(const vxUnits::UnitSystem& ofProject)
+{
+    if (m_ofProject == ofProject.text())
+        return;
+    m_ofProject = ofProject.text();
+    const int chosen = std::max(m_systems->currentIndex(), 0);
+    const QSignalBlocker blocker(m_systems);
+    m_systems->clear();
+    m_systems->addItem(tr("As the project (%1)").arg(QString::fromStdString(m_ofProject)));
+    for (const vxUnits::UnitSystem& system : vxUnits::UnitSystem::builtIn())
+        m_systems->addItem(QString::fromStdString(system.text()));
+    m_systems->setCurrentIndex(chosen);
+}
+
+vxUnits::UnitSystem Inspector::chosenSystem(const vxUnits::UnitSystem& ofProject) const
+{
+    const int chosen = m_systems->currentIndex();
+    return chosen <= 0 ? ofProject : vxUnits::UnitSystem::builtIn()[static_cast<std::size_t>(chosen - 1)];
+}
+
+void Inspector::refresh()
+{
+    const Subject subject = m_watch.current();
+    const vxUnits::UnitSystem ofProject = systemOf(subject);
+    fillSystems(ofProject);
+    m_watch.follow(subject);
+    fillVisibleTab(subject, chosenSystem(ofProject));
+}
+
+void Inspector::fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system)
+{
+    const QWidget* const page = m_tabs->currentWidget();
+    if (page == m_values)
+        m_values->setContent(valuesTab(subject, system));
+    else if (page == m_findings)
+        m_findings->setContent(findingsTab(subject));
+    else if (page == m_cards)
+        m_cards->setContent(cardsTab(subject));
+    else
+        m_compare->setContent(compareTab(subject, system));
+}
+
+void Inspector::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        Kelta::guarded(tr("The inspector cannot be updated"), [this] {
+            retranslate();
+            refresh();
+        });
+}
+
+InspectorDock::InspectorDock(QWidget* parent) : QWidget(parent), m_hint(new QLabel(this))
+{
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    (new QVBoxLayout(this))->addWidget(m_hint);
+    retranslate();
+}
+
+InspectorDock::~InspectorDock() = default;
+
+QSize InspectorDock::sizeHint() const
+{
+    const QFontMetrics font = fontMetrics();
+    return {46 * font.averageCharWidth(), 24 * font.lineSpacing()};
+}
+
+void InspectorDock::retranslate()
+{
+    m_hint->setText(tr("Select a material in the project explorer, or open its editor."));
+}
+
+void InspectorDock::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The main window exists when the dock is shown, but not when it is made.
+    if (m_watch == nullptr) {
+        m_watch = new SubjectWatch(this);
+        connect(m_watch, &SubjectWatch::changed, this, &InspectorDock::refreshIfNeeded);
+    }
+    if (m_isPainted)
+        refreshIfNeeded();
+}
+
+void InspectorDock::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(m_isPainted, true))
+        QTimer::singleShot(0, this, &InspectorDock::refreshIfNeeded);
+}
+
+void InspectorDock::refreshIfNeeded()
+{
+    if (isVisible() && m_isPainted)
+        Kelta::guarded(tr("The inspector cannot be updated"), [this] { refresh(); });
+}
+
+void InspectorDock::refresh()
+{
+    if (m_inspector == nullptr && m_watch->current().kind == Subject::Kind::Nothing)
+        return;
+    if (m_inspector == nullptr) {
+        m_inspector = new Inspector(*m_watch, this);
+        layout()->addWidget(m_inspector);
+        delete std::exchange(m_hint, nullptr);
+        m_inspector->show();
+    }
+    m_inspector->refresh();
+}
+
+void InspectorDock::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_hint != nullptr)
+        retranslate();
+}
+
+} // namespace vxInspector

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "vxUnits/UnitSystem.h"
+
+#include <QTabWidget>
+#include <QWidget>
+
+#include <optional>
+
+class QComboBox;
+class QLabel;
+
+namespace vxInspector {
+
+class FindingsPage;
+class SubjectWatch;
+class TabPage;
+struct Subject;
+
+/// The tabs of the inspector below the choice of the unit system. Only the visible tab is updated, once for all changes
+/// before the event loop is next idle.
+class Inspector : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `watch` must outlive the widget.
+    explicit Inspector(SubjectWatch& watch, QWidget* parent = nullptr);
+    ~Inspector() override;
+
+    /// Updates the visible tab at once.
+    void refresh();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void createTabs();
+    void retranslate();
+    void fillSystems(const vxUnits::UnitSystem& ofProject);
+    vxUnits::UnitSystem chosenSystem(const vxUnits::UnitSystem& ofProject) const;
+    void fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system);
+
+    SubjectWatch& m_watch;
+    QLabel* m_unitsLabel;
+    QComboBox* m_systems;
+    QTabWidget* m_tabs;
+    TabPage* m_values;
+    FindingsPage* m_findings;
+    TabPage* m_cards;
+    TabPage* m_compare;
+    std::string m_ofProject; ///< the unit system of the project in the first entry of the choice
+};
+
+/// The content of the inspector's dock. It makes the tabs when there is something to show and the dock is painted for the
+/// first time, so that the start of the program and the first picture of an editor do not wait for it.
+class InspectorDock : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit InspectorDock(QWidget* parent = nullptr);
+    ~InspectorDock() override;
+
+    QSize sizeHint() const override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void refreshIfNeeded();
+    void refresh();
+    void retranslate();
+
+    SubjectWatch* m_watch = nullptr;
+    QLabel* m_hint;
+    Inspector* m_inspector = nullptr; ///< null until there is something to show
+    bool m_isPainted = false;
+};
+
+} // namespace vxInspector

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "subject/Subject.h"
+#include "table/TableContent.h"
+#include "vxUnits/UnitSystem.h"
+
+/// The contents of the tabs of the inspector for everything that can be selected.
+namespace vxInspector {
+
+/// The most materials of a selection or a project that are checked. A table that omits materials says so.
+inline constexpr std::size_t mostChecked = 200;
+
+/// Returns the values of the first material; for a project the numbers of its materials.
+TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system);
+/// Returns the findings of all materials.
+TableContent findingsTab(const Subject& subject);
+/// Returns the cards of the first material.
+TableContent cardsTab(const Subject& subject);
+/// Returns the comparison of all materials.
+TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& system);
+
+} // namespace vxInspector

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "table/TableContent.h"
+
+#include <QTableView>
+
+#include <set>
+
+class QAction;
+
+namespace vxInspector {
+
+class ContentModel;
+
+/// A table of the inspector. Long texts wrap; the columns share the width. Cells can be copied, as text and as an HTML
+/// table at once.
+class ContentView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit ContentView(QWidget* parent = nullptr);
+    ~ContentView() override;
+
+    const TableContent& content() const;
+    /// Shows a table. The current cell stays in the row with the same place and the same first cell.
+    void setContent(TableContent content);
+    /// Sets the texts of the context menu in the language of the user.
+    void retranslate();
+
+    /// Copies the selected cells: one cell as its text, several ones with their headers.
+    void copySelected() const;
+    /// Copies all cells with their headers.
+    void copyAll() const;
+
+Q_SIGNALS:
+    /// Sent when the user clicks a cell, and when the user presses Return.
+    void chosen(int row, int column);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void createActions();
+    void copy(const TablePart& part) const;
+    void fitColumns();
+
+    ContentModel* m_model;
+    QAction* m_copy;
+    QAction* m_copyAll;
+    QAction* m_selectAll;
+    std::set<int> m_columnsOfUser; ///< columns whose width the user has set
+    bool m_fitting = false;
+};
+
+} // namespace vxInspector

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace vxInspector {
+
+/// Paints the cells with a bar as a bar: a line for the range of each state of matter, and a mark for each value. A
+/// triangle at an end shows a value beyond the known range. Other cells are painted as usual.
+class RangeDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit RangeDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+} // namespace vxInspector

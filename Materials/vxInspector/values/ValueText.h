@@ -1,0 +1,38 @@
+#pragma once
+
+#include "vxMaterial/model/CataloguedMaterial.h"
+#include "vxUnits/DerivedValues.h"
+#include "vxUnits/MaterialValues.h"
+#include "vxUnits/UnitSystem.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace vxInspector {
+
+/// A value of a material as texts in a unit system.
+struct ValueText
+{
+    QString number; ///< "7850"; a word; "on" for a switch
+    QString unit;   ///< "kg/m^3"; empty for pure numbers, words and switches
+    QString note;   ///< the reason if the number is not converted; otherwise empty
+};
+
+/// Returns the name of a quantity of the catalogue in the language of the user. For other ids, returns `otherName`.
+QString quantityName(std::int32_t id, const std::string& otherName = {});
+
+/// Returns the numbers of a property: the list of a list, otherwise its number; empty for words and switches.
+std::vector<double> numbersOf(const vxMat::HeldProperty& held);
+
+/// Returns the texts of a property of a material. The slot decides which quantity it is.
+ValueText valueText(const vxMat::HeldProperty& held, const vxUnits::MaterialValues& values,
+                    const vxUnits::UnitSystem& system);
+
+/// Returns the texts of a derived value.
+ValueText valueText(const vxUnits::DerivedValue& derived, const vxUnits::UnitSystem& system);
+
+/// Returns the name of a derived value in the language of the user.
+QString derivedName(const vxUnits::DerivedValue& derived);
+
+} // namespace vxInspector

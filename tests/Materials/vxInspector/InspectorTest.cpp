@@ -1,0 +1,380 @@
+// The dock of the inspector in the main window, as a user works with it.
+
+#include "InspectorTesting.h"
+
+#include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
+#include "Obj/Application.h"
+#include "findings/FindingTable.h"
+#include "plugin/TabContents.h"
+#include "table/ContentView.h"
+#include "vxMsg/MessageProxy.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QMimeData>
+#include <QPushButton>
+#include <QtTest/QtTestGui>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+using vxInspector::FindingColumn;
+using vxtest::waitFor;
+
+class Inspector : public vxtest::InspectorTest
+{
+protected:
+    static constexpr int value = 1;
+    static constexpr int unit = 2;
+
+    QComboBox& systems() const { return *window->findChild<QComboBox*>(QStringLiteral("inspectorUnits")); }
+    QPushButton& applyButton() const { return *window->findChild<QPushButton*>(QStringLiteral("applyRemedy")); }
+
+    void click(Tab tab, int row, int column) const
+    {
+        vxInspector::ContentView& table = view(tab);
+        const QModelIndex index = table.model()->index(row, column);
+        table.scrollTo(index);
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(index).center());
+    }
+
+    /// Shows the findings of a material whose Young's modulus was typed in MPa, and returns the row of its doubt.
+    int showDoubt(Mat::MaterialObject& object) const
+    {
+        setNumber(object, Id::YoungsModulus, 206900.0);
+        select({&object});
+        turnTo(Findings);
+        EXPECT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
+        return findRow(Findings, "Doubt");
+    }
+};
+
+TEST_F(Inspector, ShowsOnlyAHintUntilSomethingIsSelected)
+{
+    const auto* const dock = window->findChild<QDockWidget*>(QStringLiteral("Inspector"));
+    ASSERT_NE(dock, nullptr);
+    EXPECT_TRUE(dock->isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->findChild<QTabWidget*>(QStringLiteral("inspectorTabs")), nullptr);
+}
+
+TEST_F(Inspector, FollowsTheSelectionOfTheExplorer)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    Mat::MaterialObject& water = addMaterial(project, "Water", vxMat::eMaterialType::Water);
+    select({&steel});
+    EXPECT_TRUE(becomes(Values, "Density", value, "7850"));
+    EXPECT_EQ(cell(Values, findRow(Values, "Density"), unit), "kg/m^3");
+    select({&water});
+    EXPECT_TRUE(says(Values, "Water"));
+    Gui::TreeSelectionSingleton::instance().clear();
+    EXPECT_TRUE(says(Values, "Select a material in the project explorer, or open its editor."));
+}
+
+TEST_F(Inspector, FollowsChangesAndTheDeletionOfTheMaterial)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    setNumber(steel, Id::Density, 7000.0);
+    steel.refreshProperties(true);
+    EXPECT_TRUE(becomes(Values, "Density", value, "7000"));
+    vxMsg::MessageProxy::instance().deleteObject("Materials", steel.get_name_in_project());
+    EXPECT_TRUE(says(Values, "The project has no materials yet."));
+}
+
+TEST_F(Inspector, ShowsTypedTextBeforeItIsApplied)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    MatGui::MaterialView& editor = edit(steel);
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    QLineEdit* const line = startTyping(editor, Id::Density, "8000");
+    EXPECT_TRUE(becomes(Values, "Density", value, "8000"));
+    EXPECT_TRUE(says(Values, "not applied"));
+    line->selectAll();
+    QTest::keyClicks(line, "7.9 g/cm^3");
+    EXPECT_TRUE(becomes(Values, "Density", value, "7900"));
+    QTest::keyClick(line, Qt::Key_Escape);
+    EXPECT_TRUE(becomes(Values, "Density", value, "7850"));
+    EXPECT_EQ(numberOf(steel, Id::Density), 7850.0);
+}
+
+TEST_F(Inspector, SaysWhichTypedRowCannotBeRead)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    MatGui::MaterialView& editor = edit(steel);
+    startTyping(editor, Id::Density, "7,85 g/cm^3");
+    EXPECT_TRUE(becomes(Values, "Density", value, "7,85 g/cm^3"));
+    EXPECT_THAT(cell(Values, findRow(Values, "Density"), 3), StartsWith("cannot be read: "));
+}
+
+TEST_F(Inspector, ShowsTheMaterialOfTheEditorThatGetsTheKeyboard)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project, "Frame");
+    Mat::MaterialObject& other = addMaterial(project, "Skin");
+    MatGui::MaterialView& editor = edit(steel);
+    ASSERT_TRUE(says(Values, "Frame"));
+    select({&other});
+    ASSERT_TRUE(says(Values, "Skin"));
+    startTyping(editor, Id::Density, "1234");
+    EXPECT_TRUE(says(Values, "Frame"));
+    EXPECT_TRUE(becomes(Values, "Density", value, "1234"));
+}
+
+TEST_F(Inspector, ShowsTheUnitSystemOfTheProjectUntilTheUserChoosesAnother)
+{
+    Mat::DocumentMaterial& project = newProject();
+    select({&addMaterial(project)});
+    ASSERT_TRUE(becomes(Values, "Young's modulus", value, "2e+11"));
+    project.setSetting("unit_system", "mm-t-s");
+    EXPECT_TRUE(becomes(Values, "Young's modulus", value, "2e+05"));
+    EXPECT_EQ(systems().currentText(), "As the project (mm-t-s)");
+    systems().setCurrentIndex(systems().findText(QStringLiteral("cm-g-s")));
+    EXPECT_TRUE(becomes(Values, "Density", value, "7.85"));
+    EXPECT_EQ(project.getSetting("unit_system"), "mm-t-s");
+}
+
+TEST_F(Inspector, UpdatesOnlyTheVisibleTab)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    turnTo(Cards);
+    setNumber(steel, Id::Density, 7000.0);
+    steel.refreshProperties(true);
+    ASSERT_TRUE(
+        waitFor([this] { return cell(Cards, findRow(Cards, "density"), 1).find("7000") != std::string::npos; }));
+    EXPECT_EQ(cell(Values, findRow(Values, "Density"), value), "7850");
+    turnTo(Values);
+    EXPECT_EQ(cell(Values, findRow(Values, "Density"), value), "7000");
+}
+
+TEST_F(Inspector, AppliesARemedyAsAStepOfTheHistoryIfNoEditorIsOpen)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    const int row = showDoubt(steel);
+    EXPECT_FALSE(applyButton().isEnabled());
+    const int steps = history().count();
+    click(Findings, row, FindingColumn::Remedy);
+    EXPECT_EQ(window->get_active_mdi_window(), nullptr);
+    QTest::mouseClick(&applyButton(), Qt::LeftButton);
+    EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 2.069e11);
+    EXPECT_EQ(history().count(), steps + 1);
+    EXPECT_TRUE(says(Findings, "Nothing is found."));
+    history().undo();
+    EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 206900.0);
+    EXPECT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
+}
+
+TEST_F(Inspector, AppliesARemedyAsAStepOfAnOpenEditor)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    MatGui::MaterialView& editor = edit(steel);
+    turnTo(Findings);
+    QLineEdit* const line = startTyping(editor, Id::YoungsModulus, "206900");
+    ASSERT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
+    QTest::keyClick(line, Qt::Key_Return);
+    const int steps = editor.getUndoStack()->count();
+    const int stepsOfHost = history().count();
+    click(Findings, findRow(Findings, "Doubt"), FindingColumn::Remedy);
+    QTest::mouseClick(&applyButton(), Qt::LeftButton);
+    MatGui::SheetTableView& table = tableOf(editor);
+    const auto shown = [&table] {
+        return table.model()->index(table.findRow(Id::YoungsModulus), MatGui::SheetTableView::Value).data().toString();
+    };
+    EXPECT_EQ(shown(), "2.069e+11");
+    EXPECT_EQ(editor.getUndoStack()->count(), steps + 1);
+    EXPECT_EQ(history().count(), stepsOfHost);
+    EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 2e11);
+    editor.getUndoStack()->undo();
+    EXPECT_EQ(shown(), "206900");
+}
+
+TEST_F(Inspector, LeadsFromAFindingToItsRowByAClickAndByReturn)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    const int row = showDoubt(steel);
+    click(Findings, row, FindingColumn::Finding);
+    auto* const editor = qobject_cast<MatGui::MaterialView*>(window->get_active_mdi_window());
+    ASSERT_NE(editor, nullptr);
+    MatGui::SheetTableView& table = tableOf(*editor);
+    EXPECT_EQ(table.currentIndex().row(), table.findRow(Id::YoungsModulus));
+    table.setCurrentRow(0);
+    view(Findings).setFocus();
+    QTest::keyClick(&view(Findings), Qt::Key_Return);
+    EXPECT_EQ(table.currentIndex().row(), table.findRow(Id::YoungsModulus));
+    EXPECT_TRUE(table.hasFocus());
+}
+
+TEST_F(Inspector, ShowsTheCardsOfTypedText)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    MatGui::MaterialView& editor = edit(steel);
+    turnTo(Cards);
+    startTyping(editor, Id::PoissonsRatio, "0.25");
+    EXPECT_TRUE(waitFor([this] {
+        return cell(Cards, findRow(Cards, "elasticity"), 1).find("200000000000.000000, 0.250000") != std::string::npos;
+    }));
+}
+
+TEST_F(Inspector, ComparesTheSelectedMaterials)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project, "Frame");
+    Mat::MaterialObject& other = addMaterial(project, "Skin", vxMat::eMaterialType::AluminumAlloy);
+    select({&steel});
+    turnTo(Compare);
+    EXPECT_TRUE(says(Compare, "Select two or more materials to compare them."));
+    select({&steel, &other});
+    EXPECT_TRUE(becomes(Compare, "Density", 3, "7850"));
+    EXPECT_EQ(cell(Compare, findRow(Compare, "Density"), 2), "\u2260");
+    turnTo(Values);
+    EXPECT_THAT(sentence(Values), StartsWith("2 materials are selected; this is the first."));
+}
+
+TEST_F(Inspector, CountsTheMaterialsOfAProject)
+{
+    Mat::DocumentMaterial& project = newProject();
+    addMaterial(project, "Frame");
+    setNumber(addMaterial(project, "Soft"), Id::YoungsModulus, 206900.0);
+    Mat::MaterialObject& broken = addMaterial(project, "Broken");
+    setNumber(broken, Id::PoissonsRatio, 0.7);
+    broken.setSuppressed(true);
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
+    EXPECT_TRUE(becomes(Values, "In the project", 1, "3"));
+    EXPECT_EQ(cell(Values, findRow(Values, "Suppressed"), 1), "1");
+    EXPECT_EQ(cell(Values, findRow(Values, "Not ready"), 1), "1");
+    turnTo(Findings);
+    EXPECT_EQ(cell(Findings, findRow(Findings, "Error"), FindingColumn::Material), "Broken");
+    turnTo(Cards);
+    EXPECT_EQ(sentence(Cards), "Select a material to see its cards.");
+}
+
+TEST_F(Inspector, SaysThatAMaterialIsSuppressed)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    steel.setSuppressed(true);
+    select({&steel});
+    EXPECT_TRUE(says(Values, "It is suppressed."));
+    EXPECT_EQ(cell(Values, findRow(Values, "Density"), value), "7850");
+}
+
+TEST_F(Inspector, LimitsWhatItShowsOfTenThousandMaterialsAndSaysSo)
+{
+    constexpr int count = 10000;
+    Mat::DocumentMaterial& project = newProject();
+    std::vector<Mat::MaterialObject*> all;
+    for (int i = 0; i < count; ++i)
+        all.push_back(&addMaterial(project, "Steel"));
+    select(all);
+    EXPECT_TRUE(says(Values, "10000 materials are selected; this is the first."));
+    turnTo(Findings);
+    EXPECT_THAT(sentence(Findings), HasSubstr("Only the first 200 of 10000 materials are checked."));
+    turnTo(Compare);
+    EXPECT_THAT(sentence(Compare), HasSubstr("Only the first 20 of 10000 materials are shown."));
+    EXPECT_EQ(view(Compare).model()->columnCount(), 3 + 20);
+}
+
+TEST_F(Inspector, CopiesTheSelectedCellsAsTextAndAsATable)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject(), "<b>Frame</b>");
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    vxInspector::ContentView& table = view(Values);
+    const int row = findRow(Values, "Density");
+    click(Values, row, value);
+    EXPECT_TRUE(table.hasFocus());
+    EXPECT_EQ(table.currentIndex().row(), row);
+    QCoreApplication::processEvents();
+    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "7850");
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                      table.visualRect(table.model()->index(row, unit)).center());
+    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "Value\tUnit\n7850\tkg/m^3");
+    EXPECT_THAT(QApplication::clipboard()->mimeData()->html().toStdString(), HasSubstr("<td>7850</td><td>kg/m^3</td>"));
+}
+
+TEST_F(Inspector, CopiesTheWholeTableByItsMenu)
+{
+    Mat::DocumentMaterial& project = newProject();
+    select({&addMaterial(project, "<b>Frame</b>"), &addMaterial(project, "Skin")});
+    turnTo(Compare);
+    ASSERT_TRUE(becomes(Compare, "Density", 3, "7850"));
+    for (QAction* const action : view(Compare).actions())
+        if (action->text() == QLatin1String("Copy &table"))
+            action->trigger();
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(),
+                StartsWith("Quantity\tUnit\t\u2260\t<b>Frame</b>\tSkin\n"));
+    EXPECT_THAT(QApplication::clipboard()->mimeData()->html().toStdString(),
+                HasSubstr("<th>&lt;b&gt;Frame&lt;/b&gt;</th>"));
+}
+
+TEST_F(Inspector, ShowsHostileLabelsAsPlainText)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject(), "<img src=x><h1>" + std::string(100000, 'x'));
+    select({&steel});
+    EXPECT_TRUE(says(Values, "<img src=x><h1>x"));
+    EXPECT_LT(sentence(Values).size(), 300U);
+    const QVariant tip = view(Values).model()->index(0, 3).data(Qt::ToolTipRole);
+    EXPECT_THAT(tip.toString().toStdString(), StartsWith("<p style="));
+}
+
+TEST_F(Inspector, ShowsNumbersThatAreNotFinite)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    setNumber(steel, Id::Density, std::nan(""));
+    setNumber(steel, Id::YoungsModulus, std::numeric_limits<double>::infinity());
+    select({&steel});
+    EXPECT_TRUE(becomes(Values, "Density", value, "nan"));
+    turnTo(Findings);
+    EXPECT_GE(findRow(Findings, "Error"), 0);
+    turnTo(Cards);
+    EXPECT_GE(findRow(Cards, "Missing"), 0);
+}
+
+TEST_F(Inspector, IsReachedByF6)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    edit(steel);
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    const auto* const dock = window->findChild<QDockWidget*>(QStringLiteral("Inspector"));
+    const auto isInside = [dock] { return dock->isAncestorOf(QApplication::focusWidget()); };
+    constexpr int most = 8;
+    for (int i = 0; i < most && !isInside(); ++i)
+        window->focusNextPane();
+    EXPECT_TRUE(isInside());
+}
+
+TEST_F(Inspector, CanBeHiddenAndShowsThePresentMaterialWhenShownAgain)
+{
+    Mat::DocumentMaterial& project = newProject();
+    select({&addMaterial(project, "Frame")});
+    ASSERT_TRUE(says(Values, "Frame"));
+    window->toggleDock("Inspector");
+    EXPECT_FALSE(window->isDockShown("Inspector"));
+    select({&addMaterial(project, "Skin")});
+    window->toggleDock("Inspector");
+    EXPECT_TRUE(says(Values, "Skin"));
+}
+
+TEST_F(Inspector, SurvivesTheCloseOfItsProjectAndEditor)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    edit(steel);
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    Obj::Application::instance().closeAllProjects();
+    EXPECT_TRUE(says(Values, "Select a material"));
+    EXPECT_TRUE(Kelta::MessageLog::instance().messages().empty());
+}
+
+} // namespace

@@ -1,0 +1,336 @@
+// The tables of the inspector without its widgets.
+
+#include "InspectorTesting.h"
+
+#include "cards/CardTable.h"
+#include "compare/CompareTable.h"
+#include "findings/FindingTable.h"
+#include "values/RangeBar.h"
+#include "values/ValueTable.h"
+#include "vxMaterial/model/MaterialLibrary.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using vxInspector::InspectedMaterial;
+using vxInspector::TableContent;
+using vxtest::rowOf;
+using vxtest::textsOf;
+using vxUnits::UnitSystem;
+using Id = vxMat::PropertyId;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+template <class Library>
+InspectedMaterial inspected(const char* label)
+{
+    InspectedMaterial result;
+    result.projectId = 1;
+    result.objectId = 7;
+    result.label = QString::fromUtf8(label);
+    result.material = std::make_unique<vxMat::CMaterial>();
+    result.material->copyPropertiesFrom(Library());
+    result.values = vxUnits::MaterialValues(*result.material);
+    return result;
+}
+
+void setNumber(InspectedMaterial& material, std::int32_t id, double number)
+{
+    material.material->properties.at(id)->value = number;
+    material.values = vxUnits::MaterialValues(*material.material);
+}
+
+UnitSystem system(const char* name)
+{
+    return *UnitSystem::parse(name);
+}
+
+MatGui::SheetRow sheetRow(std::int32_t id, const char* value)
+{
+    const vxMat::PropertyRecord& record = *vxMat::findPropertyRecord(id);
+    return {id, QString::fromUtf8(record.name), QString::fromUtf8(value), {}, QString::fromUtf8(record.key), {}};
+}
+
+InspectedMaterial readRows(const std::vector<MatGui::SheetRow>& rows)
+{
+    InspectedMaterial result;
+    result.material = std::make_unique<vxMat::CMaterial>();
+    vxInspector::readRows(rows, result);
+    result.values = vxUnits::MaterialValues(*result.material);
+    return result;
+}
+
+TEST(ValueTable, HasTheValuesOfAMaterialWithTheirUnits)
+{
+    const TableContent table = valueTable(inspected<vxMat::StructuralSteel>("Frame"), UnitSystem::si());
+    EXPECT_THAT(textsOf(table, rowOf(table, "Density")),
+                ElementsAre("Density", "7850", "kg/m^3", "within the known range"));
+    EXPECT_THAT(textsOf(table, rowOf(table, "Young's modulus")),
+                ElementsAre("Young's modulus", "2e+11", "Pa", "within the known range"));
+    EXPECT_THAT(table.sentence.toStdString(), HasSubstr("Frame"));
+}
+
+TEST(ValueTable, ConvertsToAnotherUnitSystem)
+{
+    const TableContent table = valueTable(inspected<vxMat::StructuralSteel>("Frame"), system("mm-t-s"));
+    EXPECT_THAT(textsOf(table, rowOf(table, "Density")),
+                ElementsAre("Density", "7.85e-09", "t/mm^3", "within the known range"));
+    EXPECT_THAT(textsOf(table, rowOf(table, "Young's modulus")),
+                ElementsAre("Young's modulus", "2e+05", "MPa", "within the known range"));
+}
+
+TEST(ValueTable, MarksDerivedValuesAndHasTheirFormulas)
+{
+    const TableContent table = valueTable(inspected<vxMat::StructuralSteel>("Frame"), UnitSystem::si());
+    const std::size_t row = rowOf(table, "Shear modulus (derived)");
+    // 2e11 / (2 * 1.3)
+    EXPECT_THAT(textsOf(table, row), ElementsAre("Shear modulus (derived)", "76923100000", "Pa", ""));
+    EXPECT_THAT(table.rows[row].cells[0].toolTip.toStdString(), HasSubstr("E / (2 (1 + nu))"));
+    EXPECT_FALSE(table.rows[row].place.isSet());
+}
+
+TEST(ValueTable, ShowsNumbersThatAreNotFiniteAndNoBarForThem)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    setNumber(material, Id::Density, std::nan(""));
+    setNumber(material, Id::YoungsModulus, infinity);
+    const TableContent table = valueTable(material, system("mm-t-s"));
+    EXPECT_THAT(textsOf(table, rowOf(table, "Density")), ElementsAre("Density", "nan", "t/mm^3", ""));
+    EXPECT_THAT(textsOf(table, rowOf(table, "Young's modulus")), ElementsAre("Young's modulus", "inf", "MPa", ""));
+}
+
+TEST(ValueTable, LeavesACreepFactorAsItIsIfItsUnitIsUnknown)
+{
+    InspectedMaterial material = inspected<vxMat::CreepMaterial1>("Lead");
+    material.material->properties.erase(Id::CreepModulusN);
+    material.values = vxUnits::MaterialValues(*material.material);
+    const TableContent table = valueTable(material, system("mm-t-s"));
+    const std::size_t row = rowOf(table, "Creep Modulus A");
+    EXPECT_EQ(table.rows[row].cells[vxInspector::ValueColumn::Unit].text, "");
+    EXPECT_NE(table.rows[row].cells[vxInspector::ValueColumn::Value].toolTip, "");
+}
+
+TEST(ValueTable, ShowsTheBeginningOfALongListAndCopiesAllOfIt)
+{
+    InspectedMaterial material = inspected<vxMat::PlasticMaterial1>("Frame");
+    material.material->properties.at(Id::PlasticYieldStress)->values.assign(20000, 2.5e8);
+    const TableContent table = valueTable(material, UnitSystem::si());
+    const auto& cell = table.rows[rowOf(table, vxMat::findPropertyRecord(Id::PlasticYieldStress)->name)].cells[1];
+    EXPECT_LT(cell.text.size(), 200);
+    EXPECT_EQ(cell.copied().count(QStringLiteral("2.5e+08")), 20000);
+}
+
+TEST(EditorRows, AreReadAsApplyReadsThemAndWithUnits)
+{
+    const InspectedMaterial material =
+        readRows({sheetRow(Id::Density, "7.85 g/cm^3"), sheetRow(Id::YoungsModulus, "2e11"),
+                  sheetRow(Id::PlasticYieldStress, "250, 300 MPa")});
+    EXPECT_EQ(material.values.number(Id::Density), 7850.0);
+    EXPECT_EQ(material.values.number(Id::YoungsModulus), 2e11);
+    EXPECT_THAT(material.values.list(Id::PlasticYieldStress), ElementsAre(2.5e8, 3e8));
+    EXPECT_TRUE(material.unreadRows.empty());
+}
+
+TEST(EditorRows, ThatCannotBeReadAreNamedWithTheReason)
+{
+    const InspectedMaterial material =
+        readRows({sheetRow(Id::YoungsModulus, "2e11"), sheetRow(Id::Density, "7,85 g/cm^3")});
+    EXPECT_FALSE(material.values.has(Id::Density));
+    ASSERT_EQ(material.unreadRows.size(), 1U);
+    EXPECT_EQ(material.unreadRows.front().number, 2);
+    const TableContent values = valueTable(material, UnitSystem::si());
+    EXPECT_THAT(textsOf(values, rowOf(values, "Density"))[3], HasSubstr("cannot be read: "));
+    std::vector<InspectedMaterial> all(1);
+    all.front() = readRows({sheetRow(Id::Density, "7,85 g/cm^3")});
+    const TableContent findings = findingTable(all);
+    EXPECT_THAT(textsOf(findings, 0)[2], HasSubstr(R"(Row 1: The value "7,85 g/cm^3" of "Density" cannot be read: )"));
+}
+
+TEST(RangeBar, IsLogarithmicIfTheRangeSpansDecades)
+{
+    const auto bar = vxInspector::rangeBar(*vxUnits::findQuantity(Id::YoungsModulus), {2e11});
+    ASSERT_TRUE(bar);
+    EXPECT_TRUE(bar->isLogarithmic);
+    ASSERT_EQ(bar->marks.size(), 1U);
+    EXPECT_NEAR(bar->marks.front().position, 0.9291, 0.0005); // ln(2e11 / 10) / ln(1.22e12 / 10)
+}
+
+TEST(RangeBar, IsLinearOtherwise)
+{
+    const auto bar = vxInspector::rangeBar(*vxUnits::findQuantity(Id::PoissonsRatio), {0.3});
+    ASSERT_TRUE(bar);
+    EXPECT_FALSE(bar->isLogarithmic);
+    EXPECT_NEAR(bar->marks.front().position, 0.83337, 0.0001); // (0.3 + 0.7) / (0.49995 + 0.7)
+}
+
+TEST(RangeBar, ShowsValuesBeyondTheRangeAtItsEnds)
+{
+    using Side = vxInspector::RangeBar::Side;
+    const auto bar = vxInspector::rangeBar(*vxUnits::findQuantity(Id::PlasticYieldStress), {1.0, 1e12});
+    ASSERT_TRUE(bar);
+    ASSERT_EQ(bar->marks.size(), 2U);
+    EXPECT_EQ(bar->marks[0].side, Side::Below);
+    EXPECT_EQ(bar->marks[0].position, 0.0);
+    EXPECT_EQ(bar->marks[1].side, Side::Above);
+    EXPECT_EQ(bar->marks[1].position, 1.0);
+    EXPECT_EQ(vxInspector::rangeText(*bar), "beyond the known range");
+}
+
+TEST(RangeBar, NamesTheExtremesAndTheSource)
+{
+    const std::string tip =
+        vxInspector::rangeToolTip(*vxUnits::findQuantity(Id::Density), UnitSystem::si()).toStdString();
+    EXPECT_THAT(tip, HasSubstr("Solids: 0.16 kg/m^3 (graphene aerogel) to 22600 kg/m^3 (osmium)"));
+    EXPECT_THAT(tip, HasSubstr("Gases: 0.08 kg/m^3 (hydrogen) to 13 kg/m^3 (tungsten hexafluoride)"));
+    EXPECT_THAT(tip, HasSubstr("Source: CRC Handbook"));
+}
+
+TEST(FindingTable, HasErrorsAndDoubtsWithTheirRowsAndRemedies)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
+    setNumber(all.back(), Id::PoissonsRatio, 0.7);
+    all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
+    setNumber(all.back(), Id::YoungsModulus, 206900.0);
+    const TableContent table = findingTable(all);
+    const auto& error = table.rows[rowOf(table, "Error")];
+    EXPECT_EQ(error.place.propertyId, Id::PoissonsRatio);
+    EXPECT_EQ(error.place.objectId, 7U);
+    const auto& doubt = table.rows[rowOf(table, "Soft", vxInspector::FindingColumn::Material)];
+    EXPECT_EQ(doubt.cells[vxInspector::FindingColumn::Kind].text, "Doubt");
+    EXPECT_EQ(doubt.place.propertyId, Id::YoungsModulus);
+    ASSERT_TRUE(doubt.remedy);
+    EXPECT_EQ(doubt.remedy->changes.front().apply(206900.0), 2.069e11);
+    EXPECT_NE(doubt.cells[vxInspector::FindingColumn::Remedy].text, "");
+}
+
+TEST(FindingTable, SaysThatNothingIsFound)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
+    const TableContent table = findingTable(all);
+    EXPECT_TRUE(table.rows.empty());
+    EXPECT_EQ(table.sentence, "Nothing is found.");
+}
+
+TEST(FindingTable, CountsTheFindingsThatItDoesNotList)
+{
+    std::vector<InspectedMaterial> all(vxInspector::mostFindings + 5);
+    for (InspectedMaterial& empty : all)
+        empty.material = std::make_unique<vxMat::CMaterial>(); // a material without properties is one error
+    const TableContent table = findingTable(all);
+    EXPECT_EQ(table.rows.size(), vxInspector::mostFindings);
+    EXPECT_THAT(table.sentence.toStdString(), HasSubstr("Findings: 1005."));
+    EXPECT_THAT(table.sentence.toStdString(), HasSubstr("The last 5 are not listed."));
+}
+
+TEST(CardTable, HasTheCardsOfTheSolver)
+{
+    const TableContent table = cardTable(inspected<vxMat::StructuralSteel>("Frame"));
+    EXPECT_THAT(textsOf(table, rowOf(table, "elasticity"))[1], HasSubstr("200000000000.000000, 0.300000"));
+}
+
+TEST(CardTable, SaysFirstWhatIsMissing)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    material.material->properties.erase(Id::PoissonsRatio);
+    const TableContent table = cardTable(material);
+    EXPECT_EQ(textsOf(table, 0)[0], "Missing");
+    EXPECT_THAT(textsOf(table, 0)[1], HasSubstr("Invalid young_modulus or poisson_ratio"));
+}
+
+TEST(CardTable, SaysThatNoCardApplies)
+{
+    InspectedMaterial material;
+    material.material = std::make_unique<vxMat::CMaterial>();
+    const TableContent table = cardTable(material);
+    EXPECT_TRUE(table.rows.empty());
+    EXPECT_THAT(table.sentence.toStdString(), HasSubstr("No card applies to it."));
+}
+
+std::vector<InspectedMaterial> steelAndAluminium()
+{
+    std::vector<InspectedMaterial> both;
+    both.push_back(inspected<vxMat::StructuralSteel>("Frame"));
+    both.push_back(inspected<vxMat::AluminumAlloy>("Skin"));
+    return both;
+}
+
+TEST(CompareTable, HasTheMaterialsSideBySideAndMarksDifferences)
+{
+    const TableContent table = compareTable(steelAndAluminium(), UnitSystem::si());
+    EXPECT_EQ(table.headers.mid(3).join(QLatin1Char('|')), "Frame|Skin");
+    const std::size_t row = rowOf(table, "Density");
+    EXPECT_EQ(textsOf(table, row)[2], "\u2260");
+    EXPECT_EQ(textsOf(table, row)[3], "7850");
+    EXPECT_FALSE(table.rows[row].cells[3].isBold);
+    EXPECT_TRUE(table.rows[row].cells[4].isBold);
+}
+
+TEST(CompareTable, MarksADifferenceThatRoundingHides)
+{
+    std::vector<InspectedMaterial> both;
+    both.push_back(inspected<vxMat::StructuralSteel>("one"));
+    both.push_back(inspected<vxMat::StructuralSteel>("other"));
+    EXPECT_EQ(compareTable(both, system("in-lbf-s")).sentence, "The materials have the same values.");
+    setNumber(both[1], Id::Density, std::nextafter(7850.0, 8000.0));
+    const TableContent table = compareTable(both, system("in-lbf-s"));
+    const std::size_t row = rowOf(table, "Density");
+    EXPECT_EQ(textsOf(table, row)[3], textsOf(table, row)[4]);
+    EXPECT_EQ(textsOf(table, row)[2], "\u2260");
+}
+
+TEST(CompareTable, HasADashForAMissingQuantity)
+{
+    std::vector<InspectedMaterial> both = steelAndAluminium();
+    both[0].material->properties.erase(Id::Density);
+    const TableContent table = compareTable(both, UnitSystem::si());
+    const std::size_t row = rowOf(table, "Density");
+    EXPECT_EQ(textsOf(table, row)[3], "\u2013");
+    EXPECT_EQ(textsOf(table, row)[2], "\u2260");
+}
+
+TEST(CompareTable, KeepsTheOrderOfTheCatalogueAndOfDerivedValues)
+{
+    std::vector<InspectedMaterial> both;
+    both.push_back(inspected<vxMat::Water>("Water"));
+    both.push_back(inspected<vxMat::StructuralSteel>("Frame"));
+    const TableContent table = compareTable(both, UnitSystem::si());
+    EXPECT_LT(rowOf(table, "Density"), rowOf(table, "Young's modulus"));
+    EXPECT_LT(rowOf(table, "Young's modulus"), rowOf(table, "Shear modulus (derived)"));
+    EXPECT_LT(rowOf(table, "Shear modulus (derived)"), rowOf(table, "Thermal diffusivity (derived)"));
+}
+
+TableContent hostileTable()
+{
+    return {{},
+            {QStringLiteral("a"), QStringLiteral("b")},
+            {{{{QStringLiteral("<b>1</b>\t2\n3")}, {QStringLiteral("x")}}}}};
+}
+
+TEST(CopiedTable, HasOneCellForEachCellAsText)
+{
+    const TableContent table = hostileTable();
+    EXPECT_EQ(toTabText(table, wholeOf(table)), "a\tb\n<b>1</b> 2 3\tx");
+}
+
+TEST(CopiedTable, EscapesTheTextsAsHtml)
+{
+    const TableContent table = hostileTable();
+    EXPECT_THAT(toHtml(table, wholeOf(table)).toStdString(),
+                HasSubstr("<td>&lt;b&gt;1&lt;/b&gt;\t2<br>3</td><td>x</td>"));
+}
+
+TEST(CopiedTable, MayBeAPart)
+{
+    const TableContent table = hostileTable();
+    EXPECT_EQ(toTabText(table, {{0}, {1}}), "b\nx");
+}
+
+} // namespace

@@ -170,6 +170,43 @@
     </message>
 </context>
 <context>
+    <name>Gui::ExplorerPane</name>
+    <message>
+        <source>Filter of the project explorer</source>
+        <translation>Filter des Projekt-Explorers</translation>
+    </message>
+    <message>
+        <source>The project explorer cannot be filtered</source>
+        <translation>Der Projekt-Explorer kann nicht gefiltert werden</translation>
+    </message>
+    <message>
+        <source>Matches: %1 of %2</source>
+        <translation>Treffer: %1 von %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not match and is hidden.</source>
+        <translation>„%1“ passt nicht und ist ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>New or changed objects that do not match and are hidden: %1</source>
+        <translation>Neue oder geänderte Objekte, die nicht passen und ausgeblendet sind: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::FilterField</name>
+    <message>
+        <source>The text cannot be completed</source>
+        <translation>Der Text kann nicht vervollständigt werden</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+</context>
+<context>
     <name>Gui::GuiApplication</name>
     <message>
         <source>An error occurred</source>
@@ -267,6 +304,29 @@
     </message>
 </context>
 <context>
+    <name>Gui::PreferencesDialog</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>A page of the preferences cannot be made</source>
+        <translation>Eine Seite der Einstellungen kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>A page of the preferences cannot be stored</source>
+        <translation>Eine Seite der Einstellungen kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>The preferences are in use, but cannot be stored for the next start: &quot;%1&quot; cannot be written.</source>
+        <translation>Die Einstellungen gelten, können aber nicht für den nächsten Start gespeichert werden: „%1“ ist nicht beschreibbar.</translation>
+    </message>
+</context>
+<context>
     <name>Gui::ProjectExplorer</name>
     <message>
         <source>Project explorer</source>
@@ -337,6 +397,17 @@ Unterdrückt</translation>
     <message>
         <source>The translation %1 cannot be read; its texts are shown in English.</source>
         <translation>Die Übersetzung %1 kann nicht gelesen werden; ihre Texte werden auf Englisch angezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::TreeFilter</name>
+    <message>
+        <source>Filter by label</source>
+        <translation>Nach Bezeichnung filtern</translation>
+    </message>
+    <message>
+        <source>Shows only objects whose labels have all of these words.</source>
+        <translation>Zeigt nur Objekte, deren Bezeichnungen alle diese Wörter enthalten.</translation>
     </message>
 </context>
 <context>
@@ -667,6 +738,13 @@ Unterdrückt</translation>
     </message>
 </context>
 <context>
+    <name>MatGui::MaterialChange</name>
+    <message>
+        <source>Change &quot;%1&quot;</source>
+        <translation>„%1“ ändern</translation>
+    </message>
+</context>
+<context>
     <name>MatGui::MaterialView</name>
     <message>
         <source>Invalid selection</source>
@@ -743,6 +821,10 @@ Unterdrückt</translation>
     <message>
         <source>Type the value in %1, without a unit.</source>
         <translation>Geben Sie den Wert in %1 ein, ohne Einheit.</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ kann nicht gelesen werden. %4</translation>
     </message>
 </context>
 <context>
@@ -856,6 +938,33 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Check whether all materials of the project are ready</source>
         <translation>Prüfen, ob alle Materialien des Projekts bereit sind</translation>
+    </message>
+    <message>
+        <source>&amp;Units...</source>
+        <translation>&amp;Einheiten...</translation>
+    </message>
+    <message>
+        <source>Choose the unit system in which the project is shown</source>
+        <translation>Wählt das Einheitensystem, in dem das Projekt gezeigt wird</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialFilter</name>
+    <message>
+        <source>Filter: label, or E &gt; 100 GPa</source>
+        <translation>Filter: Bezeichnung oder E &gt; 100 GPa</translation>
+    </message>
+    <message>
+        <source>Shows only materials whose labels have these words, or whose values satisfy conditions:
+E &gt; 100 GPa and rho &lt; 3 g/cm3
+steel and not has Creep
+nu 0.25..0.35 or Yield type = Mises
+Numbers without a unit are in SI.</source>
+        <translation>Zeigt nur Materialien, deren Bezeichnungen diese Wörter enthalten oder deren Werte Bedingungen erfüllen:
+E &gt; 100 GPa and rho &lt; 3 g/cm3
+steel and not has Creep
+nu 0.25..0.35 or Yield type = Mises
+Zahlen ohne Einheit sind in SI.</translation>
     </message>
 </context>
 <context>
@@ -1460,6 +1569,22 @@ Trotzdem löschen?</translation>
         <source>&amp;System</source>
         <translation>&amp;System</translation>
     </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message>
+        <source>Show only the objects that match an expression</source>
+        <translation>Nur die Objekte zeigen, die zu einem Ausdruck passen</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eferences...</source>
+        <translation>E&amp;instellungen...</translation>
+    </message>
+    <message>
+        <source>Choose the settings of the program</source>
+        <translation>Wählt die Einstellungen des Programms</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1666,6 +1791,41 @@ Trotzdem löschen?</translation>
         <source>standard output cannot be written: %1</source>
         <translation>die Standardausgabe kann nicht geschrieben werden: %1</translation>
     </message>
+    <message>
+        <source>give the name of a document, and the unit system of its numbers if it is not SI</source>
+        <translation>geben Sie den Namen eines Dokuments an und das Einheitensystem seiner Zahlen, wenn es nicht SI ist</translation>
+    </message>
+    <message>
+        <source>give a unit system, and make a material project the current one</source>
+        <translation>geben Sie ein Einheitensystem an und machen Sie ein Materialprojekt zum aktuellen</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::CellReading</name>
+    <message>
+        <source>Type numbers, separated by commas.</source>
+        <translation>Geben Sie Zahlen ein, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>Type numbers in %1, or with a unit, separated by commas.</source>
+        <translation>Geben Sie Zahlen in %1 oder mit einer Einheit ein, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>Type a number.</source>
+        <translation>Geben Sie eine Zahl ein.</translation>
+    </message>
+    <message>
+        <source>Type a number in %1, or with a unit.</source>
+        <translation>Geben Sie eine Zahl in %1 oder mit einer Einheit ein.</translation>
+    </message>
+    <message>
+        <source>%1 numbers: %2, ..., %3</source>
+        <translation>%1 Zahlen: %2, ..., %3</translation>
+    </message>
+    <message>
+        <source>%1 (pure number)</source>
+        <translation>%1 (reine Zahl)</translation>
+    </message>
 </context>
 <context>
     <name>desktop::EditorWatch</name>
@@ -1684,6 +1844,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
         <translation>„%1“ wurde übernommen. Eigenschaften hinzugefügt: %2, geändert: %3, entfernt: %4.</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ kann nicht gelesen werden. %4</translation>
     </message>
 </context>
 <context>
@@ -1786,17 +1950,53 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>desktop::ImportUnitsDialog</name>
+    <message>
+        <source>Import exchange document</source>
+        <translation>Austauschdokument importieren</translation>
+    </message>
+    <message>
+        <source>The numbers in &quot;%1&quot; look like %2.</source>
+        <translation>Die Zahlen in „%1“ sehen nach %2 aus.</translation>
+    </message>
+    <message>
+        <source>In SI, they would be unusual. %1</source>
+        <translation>In SI wären sie ungewöhnlich. %1</translation>
+    </message>
+    <message>
+        <source>&amp;Convert from %1</source>
+        <translation>Von %1 &amp;umrechnen</translation>
+    </message>
+    <message>
+        <source>&amp;Import as they are</source>
+        <translation>&amp;Unverändert importieren</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: these numbers were not converted, because their units are not known: %2</source>
+        <translation>„%1“: Diese Zahlen wurden nicht umgerechnet, weil ihre Einheiten nicht bekannt sind: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: the numbers look like %2. The import of the document can convert them.</source>
+        <translation>„%1“: Die Zahlen sehen nach %2 aus. Der Import des Dokuments kann sie umrechnen.</translation>
+    </message>
+    <message>
+        <source>The numbers were converted from %1 to the units of the catalogue. Materials: %2</source>
+        <translation>Die Zahlen wurden von %1 in die Einheiten des Katalogs umgerechnet. Materialien: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers in &quot;%1&quot;:</source>
+        <translation>&amp;Einheitensystem der Zahlen in „%1“:</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+</context>
+<context>
     <name>desktop::KeptEdits</name>
     <message>
         <source>Changes that were not applied cannot be shown again</source>
         <translation>Nicht übernommene Änderungen können nicht wieder angezeigt werden</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::MaterialChange</name>
-    <message>
-        <source>Change &quot;%1&quot;</source>
-        <translation>„%1“ ändern</translation>
     </message>
 </context>
 <context>
@@ -2150,6 +2350,33 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>desktop::ProjectUnitsDialog</name>
+    <message>
+        <source>Show &quot;%1&quot; in the units of the preferences</source>
+        <translation>„%1“ in den Einheiten der Einstellungen zeigen</translation>
+    </message>
+    <message>
+        <source>Show &quot;%1&quot; in %2</source>
+        <translation>„%1“ in %2 zeigen</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system in which &quot;%1&quot; is shown:</source>
+        <translation>&amp;Einheitensystem, in dem „%1“ gezeigt wird:</translation>
+    </message>
+    <message>
+        <source>The values do not change, nor do the documents and cards of the solver.</source>
+        <translation>Die Werte ändern sich nicht, ebenso wenig die Dokumente und Karten des Solvers.</translation>
+    </message>
+    <message>
+        <source>The units cannot be set</source>
+        <translation>Die Einheiten können nicht gesetzt werden</translation>
+    </message>
+</context>
+<context>
     <name>desktop::Sessions</name>
     <message>
         <source>Changes of a project cannot be determined</source>
@@ -2169,6 +2396,67 @@ Trotzdem löschen?</translation>
     <message>
         <source>The changes of &quot;%1&quot; that were not applied cannot be shown again.</source>
         <translation>Die nicht übernommenen Änderungen von „%1“ können nicht wieder gezeigt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnitChoice</name>
+    <message>
+        <source>As in the preferences (%1)</source>
+        <translation>Wie in den Einstellungen (%1)</translation>
+    </message>
+    <message>
+        <source>Own base units</source>
+        <translation>Eigene Basiseinheiten</translation>
+    </message>
+    <message>
+        <source>Unit system</source>
+        <translation>Einheitensystem</translation>
+    </message>
+    <message>
+        <source>Base units</source>
+        <translation>Basiseinheiten</translation>
+    </message>
+    <message>
+        <source>Stress in %1, density in %2, thermal conductivity in %3</source>
+        <translation>Spannung in %1, Dichte in %2, Wärmeleitfähigkeit in %3</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnitsDisplay</name>
+    <message>
+        <source>The unit system cannot be shown</source>
+        <translation>Das Einheitensystem kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Units: %1</source>
+        <translation>Einheiten: %1</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <translation>eigene</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is shown in %2. &quot;Project &gt; Units&quot; changes this.</source>
+        <translation>„%1“ wird in %2 gezeigt. „Projekt &gt; Einheiten“ ändert das.</translation>
+    </message>
+    <message>
+        <source>The unit system of the project &quot;%1&quot; cannot be read: %2</source>
+        <translation>Das Einheitensystem des Projekts „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnitsPage</name>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of projects:</source>
+        <translation>&amp;Einheitensystem von Projekten:</translation>
+    </message>
+    <message>
+        <source>Projects that have no unit system of their own are shown in it. &quot;Project &gt; Units&quot; gives a project its own.</source>
+        <translation>Projekte ohne eigenes Einheitensystem werden darin gezeigt. „Projekt &gt; Einheiten“ gibt einem Projekt ein eigenes.</translation>
     </message>
 </context>
 <context>
@@ -2525,6 +2813,358 @@ Trotzdem löschen?</translation>
     <message>
         <source>Its lock file &apos;%1&apos; is not a regular file. Remove it.</source>
         <translation>Ihre Sperrdatei „%1“ ist keine gewöhnliche Datei. Entfernen Sie sie.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector</name>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CardTable</name>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>No card applies to it.</source>
+        <translation>Keine Karte gilt dafür.</translation>
+    </message>
+    <message>
+        <source>The numbers of cards are in SI units.</source>
+        <translation>Die Zahlen der Karten sind in SI-Einheiten.</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>Row %1 cannot be read: %2</source>
+        <translation>Zeile %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CompareTable</name>
+    <message>
+        <source>%1 (derived)</source>
+        <translation>%1 (abgeleitet)</translation>
+    </message>
+    <message>
+        <source>The values differ.</source>
+        <translation>Die Werte sind verschieden.</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>The materials have the same values.</source>
+        <translation>Die Materialien haben die gleichen Werte.</translation>
+    </message>
+    <message>
+        <source>Different in %1 of %2 quantities.</source>
+        <translation>Verschieden in %1 von %2 Größen.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::ContentView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;table</source>
+        <translation>&amp;Tabelle kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>The cells cannot be copied</source>
+        <translation>Die Zellen können nicht kopiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FindingTable</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read: %4</source>
+        <translation>Zeile %1: Der Wert „%2“ von „%3“ kann nicht gelesen werden: %4</translation>
+    </message>
+    <message>
+        <source>Doubt</source>
+        <translation>Zweifel</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>Remedy</source>
+        <translation>Abhilfe</translation>
+    </message>
+    <message>
+        <source>Nothing is found.</source>
+        <translation>Kein Befund.</translation>
+    </message>
+    <message>
+        <source>Findings: %1.</source>
+        <translation>Befunde: %1.</translation>
+    </message>
+    <message>
+        <source>The last %1 are not listed.</source>
+        <translation>Die letzten %1 sind nicht aufgeführt.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FindingsPage</name>
+    <message>
+        <source>&amp;Apply remedy</source>
+        <translation>&amp;Abhilfe anwenden</translation>
+    </message>
+    <message>
+        <source>Change the value as the remedy of the selected finding says. The change can be undone.</source>
+        <translation>Ändert den Wert, wie es die Abhilfe des ausgewählten Befunds sagt. Die Änderung kann rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>The finding cannot be shown in the editor</source>
+        <translation>Der Befund kann im Editor nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>The remedy cannot be applied</source>
+        <translation>Die Abhilfe kann nicht angewandt werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::Inspector</name>
+    <message>
+        <source>The inspector cannot be updated</source>
+        <translation>Der Inspektor kann nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>&amp;Units:</source>
+        <translation>&amp;Einheiten:</translation>
+    </message>
+    <message>
+        <source>The unit system of the values and the comparison. It changes no value.</source>
+        <translation>Das Einheitensystem der Werte und des Vergleichs. Es ändert keinen Wert.</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleich</translation>
+    </message>
+    <message>
+        <source>As the project (%1)</source>
+        <translation>Wie das Projekt (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::InspectorDock</name>
+    <message>
+        <source>Select a material in the project explorer, or open its editor.</source>
+        <translation>Wählen Sie ein Material im Projektbaum aus, oder öffnen Sie seinen Editor.</translation>
+    </message>
+    <message>
+        <source>The inspector cannot be updated</source>
+        <translation>Der Inspektor kann nicht aktualisiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::RangeBar</name>
+    <message>
+        <source>Solids: %1 to %2</source>
+        <translation>Festkörper: %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Liquids: %1 to %2</source>
+        <translation>Flüssigkeiten: %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Gases: %1 to %2</source>
+        <translation>Gase: %1 bis %2</translation>
+    </message>
+    <message>
+        <source>beyond the known range</source>
+        <translation>außerhalb des bekannten Bereichs</translation>
+    </message>
+    <message>
+        <source>below the known range</source>
+        <translation>unter dem bekannten Bereich</translation>
+    </message>
+    <message>
+        <source>above the known range</source>
+        <translation>über dem bekannten Bereich</translation>
+    </message>
+    <message>
+        <source>within the known range</source>
+        <translation>im bekannten Bereich</translation>
+    </message>
+    <message>
+        <source>The scale is logarithmic.</source>
+        <translation>Die Skala ist logarithmisch.</translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation>Quelle: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::Remedying</name>
+    <message>
+        <source>Apply remedy</source>
+        <translation>Abhilfe anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::TabContents</name>
+    <message>
+        <source>The project has no materials yet.</source>
+        <translation>Das Projekt hat noch keine Materialien.</translation>
+    </message>
+    <message>
+        <source>The selection contains no materials.</source>
+        <translation>Die Auswahl enthält keine Materialien.</translation>
+    </message>
+    <message>
+        <source>Select a material in the project explorer, or open its editor.</source>
+        <translation>Wählen Sie ein Material im Projektbaum aus, oder öffnen Sie seinen Editor.</translation>
+    </message>
+    <message>
+        <source>%1 materials are selected; this is the first. Compare shows them side by side.</source>
+        <translation>%1 Materialien sind ausgewählt; dies ist das erste. „Vergleich“ zeigt sie nebeneinander.</translation>
+    </message>
+    <message>
+        <source>A project is selected. Select a material to see its values.</source>
+        <translation>Ein Projekt ist ausgewählt. Wählen Sie ein Material aus, um seine Werte zu sehen.</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>Im Projekt</translation>
+    </message>
+    <message>
+        <source>Suppressed</source>
+        <translation>Unterdrückt</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>Nicht bereit</translation>
+    </message>
+    <message>
+        <source>With doubtful values</source>
+        <translation>Mit zweifelhaften Werten</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 materials are checked.</source>
+        <translation>Nur die ersten %1 von %2 Materialien werden geprüft.</translation>
+    </message>
+    <message>
+        <source>Select a material to see its cards.</source>
+        <translation>Wählen Sie ein Material aus, um seine Karten zu sehen.</translation>
+    </message>
+    <message>
+        <source>Select two or more materials to compare them.</source>
+        <translation>Wählen Sie zwei oder mehr Materialien aus, um sie zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 materials are shown.</source>
+        <translation>Nur die ersten %1 von %2 Materialien werden gezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::ValueTable</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 (derived)</source>
+        <translation>%1 (abgeleitet)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, with the changes in its editor that are not applied.</source>
+        <translation>„%1“ mit den nicht angewandten Änderungen in seinem Editor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is suppressed.</source>
+        <translation>Es ist unterdrückt.</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Known range</source>
+        <translation>Bekannter Bereich</translation>
+    </message>
+    <message>
+        <source>It has no quantities yet.</source>
+        <translation>Es hat noch keine Größen.</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
     </message>
 </context>
 <context>
@@ -2933,6 +3573,18 @@ Trotzdem löschen?</translation>
         <source>Rename &quot;%1&quot;</source>
         <translation>„%1“ umbenennen</translation>
     </message>
+    <message>
+        <source>The name of a setting must not be empty; nothing was changed.</source>
+        <translation>Der Name einer Einstellung darf nicht leer sein; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Reset &quot;%1&quot;</source>
+        <translation>„%1“ zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Change &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>„%1“ in „%2“ ändern</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Message</name>
@@ -3271,6 +3923,78 @@ Trotzdem löschen?</translation>
     <message>
         <source>The values look like %1: convert the material</source>
         <translation>Die Werte sehen wie %1 aus: das Material umrechnen</translation>
+    </message>
+    <message>
+        <source>A quotation mark is not closed.</source>
+        <translation>Ein Anführungszeichen ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A condition is missing before &quot;%1&quot;.</source>
+        <translation>Vor „%1“ fehlt eine Bedingung.</translation>
+    </message>
+    <message>
+        <source>A condition is missing after &quot;%1&quot;.</source>
+        <translation>Nach „%1“ fehlt eine Bedingung.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed.</source>
+        <translation>Eine Klammer ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is closed but not opened.</source>
+        <translation>Eine Klammer ist geschlossen, aber nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>More than %1 parentheses are inside each other.</source>
+        <translation>Mehr als %1 Klammern sind ineinander verschachtelt.</translation>
+    </message>
+    <message>
+        <source>A quantity is missing before &quot;%1&quot;.</source>
+        <translation>Vor „%1“ fehlt eine Größe.</translation>
+    </message>
+    <message>
+        <source>A quantity is missing after &quot;%1&quot;.</source>
+        <translation>Nach „%1“ fehlt eine Größe.</translation>
+    </message>
+    <message>
+        <source>No quantity is called &quot;%1&quot;.</source>
+        <translation>Keine Größe heißt „%1“.</translation>
+    </message>
+    <message>
+        <source>A value is missing after &quot;%1&quot;.</source>
+        <translation>Nach „%1“ fehlt ein Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; follows a comparison; write &quot;and&quot; between two comparisons.</source>
+        <translation>„%1“ folgt auf einen Vergleich; schreiben Sie „and“ zwischen zwei Vergleiche.</translation>
+    </message>
+    <message>
+        <source>Write the quantity before the value.</source>
+        <translation>Schreiben Sie die Größe vor den Wert.</translation>
+    </message>
+    <message>
+        <source>%1 is a word; only &quot;=&quot; and &quot;!=&quot; compare it.</source>
+        <translation>%1 ist ein Wort; nur „=“ und „!=“ vergleichen es.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2, which is one of %3.</source>
+        <translation>„%1“ ist kein Wert von %2; möglich sind %3.</translation>
+    </message>
+    <message>
+        <source>%1 is a switch and has no value; write &quot;has&quot;.</source>
+        <translation>%1 ist ein Schalter ohne Wert; schreiben Sie „has“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a range; only &quot;=&quot; and &quot;!=&quot; compare it.</source>
+        <translation>„%1“ ist ein Bereich; nur „=“ und „!=“ vergleichen ihn.</translation>
+    </message>
+    <message>
+        <source>The range &quot;%1&quot; needs a number on each side of &quot;..&quot;.</source>
+        <translation>Der Bereich „%1“ braucht auf jeder Seite von „..“ eine Zahl.</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on other values of each material; only numbers in SI compare it.</source>
+        <translation>Die Einheit von %1 hängt von anderen Werten jedes Materials ab; nur Zahlen in SI vergleichen sie.</translation>
     </message>
 </context>
 <context>

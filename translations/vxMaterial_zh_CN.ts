@@ -170,6 +170,43 @@
     </message>
 </context>
 <context>
+    <name>Gui::ExplorerPane</name>
+    <message>
+        <source>Filter of the project explorer</source>
+        <translation>项目浏览器的筛选器</translation>
+    </message>
+    <message>
+        <source>The project explorer cannot be filtered</source>
+        <translation>无法筛选项目浏览器</translation>
+    </message>
+    <message>
+        <source>Matches: %1 of %2</source>
+        <translation>匹配：%1 / %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not match and is hidden.</source>
+        <translation>“%1”不匹配，已隐藏。</translation>
+    </message>
+    <message>
+        <source>New or changed objects that do not match and are hidden: %1</source>
+        <translation>不匹配而被隐藏的新对象或已更改的对象：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::FilterField</name>
+    <message>
+        <source>The text cannot be completed</source>
+        <translation>无法补全文本</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::GeneralPage</name>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>语言(&amp;L)：</translation>
+    </message>
+</context>
+<context>
     <name>Gui::GuiApplication</name>
     <message>
         <source>An error occurred</source>
@@ -267,6 +304,29 @@
     </message>
 </context>
 <context>
+    <name>Gui::PreferencesDialog</name>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>A page of the preferences cannot be made</source>
+        <translation>无法创建首选项页面</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>A page of the preferences cannot be stored</source>
+        <translation>无法保存首选项页面</translation>
+    </message>
+    <message>
+        <source>The preferences are in use, but cannot be stored for the next start: &quot;%1&quot; cannot be written.</source>
+        <translation>首选项已生效，但无法保存到下次启动：“%1”无法写入。</translation>
+    </message>
+</context>
+<context>
     <name>Gui::ProjectExplorer</name>
     <message>
         <source>Project explorer</source>
@@ -337,6 +397,17 @@ Suppressed</source>
     <message>
         <source>The translation %1 cannot be read; its texts are shown in English.</source>
         <translation>无法读取翻译 %1；其文本以英文显示。</translation>
+    </message>
+</context>
+<context>
+    <name>Gui::TreeFilter</name>
+    <message>
+        <source>Filter by label</source>
+        <translation>按名称筛选</translation>
+    </message>
+    <message>
+        <source>Shows only objects whose labels have all of these words.</source>
+        <translation>只显示名称包含所有这些词的对象。</translation>
     </message>
 </context>
 <context>
@@ -667,6 +738,13 @@ Suppressed</source>
     </message>
 </context>
 <context>
+    <name>MatGui::MaterialChange</name>
+    <message>
+        <source>Change &quot;%1&quot;</source>
+        <translation>更改“%1”</translation>
+    </message>
+</context>
+<context>
     <name>MatGui::MaterialView</name>
     <message>
         <source>Invalid selection</source>
@@ -743,6 +821,10 @@ Suppressed</source>
     <message>
         <source>Type the value in %1, without a unit.</source>
         <translation>请输入以 %1 为单位的值，不带单位。</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
+        <translation>第 %1 行：无法读取“%3”的值“%2”。%4</translation>
     </message>
 </context>
 <context>
@@ -856,6 +938,33 @@ Do you want to continue?</source>
     <message>
         <source>Check whether all materials of the project are ready</source>
         <translation>检查项目的所有材料是否就绪</translation>
+    </message>
+    <message>
+        <source>&amp;Units...</source>
+        <translation>单位(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Choose the unit system in which the project is shown</source>
+        <translation>选择显示项目所用的单位制</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialFilter</name>
+    <message>
+        <source>Filter: label, or E &gt; 100 GPa</source>
+        <translation>筛选：名称，或 E &gt; 100 GPa</translation>
+    </message>
+    <message>
+        <source>Shows only materials whose labels have these words, or whose values satisfy conditions:
+E &gt; 100 GPa and rho &lt; 3 g/cm3
+steel and not has Creep
+nu 0.25..0.35 or Yield type = Mises
+Numbers without a unit are in SI.</source>
+        <translation>只显示名称包含这些词或数值满足条件的材料：
+E &gt; 100 GPa and rho &lt; 3 g/cm3
+steel and not has Creep
+nu 0.25..0.35 or Yield type = Mises
+没有单位的数字采用 SI 单位。</translation>
     </message>
 </context>
 <context>
@@ -1460,6 +1569,22 @@ Delete anyway?</source>
         <source>&amp;System</source>
         <translation>系统(&amp;S)</translation>
     </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>查找(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Show only the objects that match an expression</source>
+        <translation>只显示符合表达式的对象</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eferences...</source>
+        <translation>首选项(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Choose the settings of the program</source>
+        <translation>选择程序的设置</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -1666,6 +1791,41 @@ Delete anyway?</source>
         <source>standard output cannot be written: %1</source>
         <translation>无法写入标准输出：%1</translation>
     </message>
+    <message>
+        <source>give the name of a document, and the unit system of its numbers if it is not SI</source>
+        <translation>请给出文档的名称；若其数字不是 SI，请给出单位制</translation>
+    </message>
+    <message>
+        <source>give a unit system, and make a material project the current one</source>
+        <translation>请给出单位制，并将材料项目设为当前项目</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::CellReading</name>
+    <message>
+        <source>Type numbers, separated by commas.</source>
+        <translation>请输入数字，用逗号分隔。</translation>
+    </message>
+    <message>
+        <source>Type numbers in %1, or with a unit, separated by commas.</source>
+        <translation>请输入以 %1 为单位或带单位的数字，用逗号分隔。</translation>
+    </message>
+    <message>
+        <source>Type a number.</source>
+        <translation>请输入一个数字。</translation>
+    </message>
+    <message>
+        <source>Type a number in %1, or with a unit.</source>
+        <translation>请输入以 %1 为单位或带单位的数字。</translation>
+    </message>
+    <message>
+        <source>%1 numbers: %2, ..., %3</source>
+        <translation>%1 个数字：%2, ..., %3</translation>
+    </message>
+    <message>
+        <source>%1 (pure number)</source>
+        <translation>%1（无量纲）</translation>
+    </message>
 </context>
 <context>
     <name>desktop::EditorWatch</name>
@@ -1684,6 +1844,10 @@ Delete anyway?</source>
     <message>
         <source>&quot;%1&quot; was applied. Properties added: %2, changed: %3, removed: %4.</source>
         <translation>“%1”已应用。添加的属性：%2，更改：%3，移除：%4。</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
+        <translation>第 %1 行：无法读取“%3”的值“%2”。%4</translation>
     </message>
 </context>
 <context>
@@ -1786,17 +1950,53 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>desktop::ImportUnitsDialog</name>
+    <message>
+        <source>Import exchange document</source>
+        <translation>导入交换文档</translation>
+    </message>
+    <message>
+        <source>The numbers in &quot;%1&quot; look like %2.</source>
+        <translation>“%1”中的数字看起来是 %2。</translation>
+    </message>
+    <message>
+        <source>In SI, they would be unusual. %1</source>
+        <translation>按 SI 它们不寻常。%1</translation>
+    </message>
+    <message>
+        <source>&amp;Convert from %1</source>
+        <translation>从 %1 转换(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Import as they are</source>
+        <translation>按原样导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: these numbers were not converted, because their units are not known: %2</source>
+        <translation>“%1”：以下数字未转换，因为其单位未知：%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: the numbers look like %2. The import of the document can convert them.</source>
+        <translation>“%1”：这些数字看起来是 %2。导入文档时可以转换它们。</translation>
+    </message>
+    <message>
+        <source>The numbers were converted from %1 to the units of the catalogue. Materials: %2</source>
+        <translation>数字已从 %1 转换为目录的单位。材料数：%2</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers in &quot;%1&quot;:</source>
+        <translation>“%1”中数字的单位制(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+</context>
+<context>
     <name>desktop::KeptEdits</name>
     <message>
         <source>Changes that were not applied cannot be shown again</source>
         <translation>无法重新显示未应用的更改</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::MaterialChange</name>
-    <message>
-        <source>Change &quot;%1&quot;</source>
-        <translation>更改“%1”</translation>
     </message>
 </context>
 <context>
@@ -2149,6 +2349,33 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>desktop::ProjectUnitsDialog</name>
+    <message>
+        <source>Show &quot;%1&quot; in the units of the preferences</source>
+        <translation>以首选项中的单位显示“%1”</translation>
+    </message>
+    <message>
+        <source>Show &quot;%1&quot; in %2</source>
+        <translation>以 %2 显示“%1”</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system in which &quot;%1&quot; is shown:</source>
+        <translation>显示“%1”所用的单位制(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>The values do not change, nor do the documents and cards of the solver.</source>
+        <translation>数值不会改变，求解器的文档和卡片也不会改变。</translation>
+    </message>
+    <message>
+        <source>The units cannot be set</source>
+        <translation>无法设置单位</translation>
+    </message>
+</context>
+<context>
     <name>desktop::Sessions</name>
     <message>
         <source>Changes of a project cannot be determined</source>
@@ -2168,6 +2395,67 @@ Delete anyway?</source>
     <message>
         <source>The changes of &quot;%1&quot; that were not applied cannot be shown again.</source>
         <translation>“%1”未应用的更改无法重新显示。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnitChoice</name>
+    <message>
+        <source>As in the preferences (%1)</source>
+        <translation>与首选项相同 (%1)</translation>
+    </message>
+    <message>
+        <source>Own base units</source>
+        <translation>自定义基本单位</translation>
+    </message>
+    <message>
+        <source>Unit system</source>
+        <translation>单位制</translation>
+    </message>
+    <message>
+        <source>Base units</source>
+        <translation>基本单位</translation>
+    </message>
+    <message>
+        <source>Stress in %1, density in %2, thermal conductivity in %3</source>
+        <translation>应力 %1，密度 %2，导热系数 %3</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnitsDisplay</name>
+    <message>
+        <source>The unit system cannot be shown</source>
+        <translation>无法显示单位制</translation>
+    </message>
+    <message>
+        <source>Units: %1</source>
+        <translation>单位：%1</translation>
+    </message>
+    <message>
+        <source>own</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is shown in %2. &quot;Project &gt; Units&quot; changes this.</source>
+        <translation>“%1”以 %2 显示。可通过“项目 &gt; 单位”更改。</translation>
+    </message>
+    <message>
+        <source>The unit system of the project &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取项目“%1”的单位制：%2</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnitsPage</name>
+    <message>
+        <source>Units</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of projects:</source>
+        <translation>项目的单位制(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Projects that have no unit system of their own are shown in it. &quot;Project &gt; Units&quot; gives a project its own.</source>
+        <translation>没有自己单位制的项目以此显示。“项目 &gt; 单位”为项目设置自己的单位制。</translation>
     </message>
 </context>
 <context>
@@ -2524,6 +2812,358 @@ Delete anyway?</source>
     <message>
         <source>Its lock file &apos;%1&apos; is not a regular file. Remove it.</source>
         <translation>其锁文件“%1”不是普通文件。请将其删除。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector</name>
+    <message>
+        <source>Inspector</source>
+        <translation>检查器</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CardTable</name>
+    <message>
+        <source>Card</source>
+        <translation>卡片</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>No card applies to it.</source>
+        <translation>没有适用的卡片。</translation>
+    </message>
+    <message>
+        <source>The numbers of cards are in SI units.</source>
+        <translation>卡片中的数值采用 SI 单位。</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>缺少</translation>
+    </message>
+    <message>
+        <source>Row %1 cannot be read: %2</source>
+        <translation>无法读取第 %1 行：%2</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CompareTable</name>
+    <message>
+        <source>%1 (derived)</source>
+        <translation>%1（导出）</translation>
+    </message>
+    <message>
+        <source>The values differ.</source>
+        <translation>值不同。</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>The materials have the same values.</source>
+        <translation>这些材料的值相同。</translation>
+    </message>
+    <message>
+        <source>Different in %1 of %2 quantities.</source>
+        <translation>%2 个量中有 %1 个不同。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::ContentView</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;table</source>
+        <translation>复制表格(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The cells cannot be copied</source>
+        <translation>无法复制单元格</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FindingTable</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read: %4</source>
+        <translation>第 %1 行：无法读取“%3”的值“%2”：%4</translation>
+    </message>
+    <message>
+        <source>Doubt</source>
+        <translation>疑问</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Remedy</source>
+        <translation>修正</translation>
+    </message>
+    <message>
+        <source>Nothing is found.</source>
+        <translation>未发现问题。</translation>
+    </message>
+    <message>
+        <source>Findings: %1.</source>
+        <translation>结果：%1。</translation>
+    </message>
+    <message>
+        <source>The last %1 are not listed.</source>
+        <translation>最后 %1 个未列出。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FindingsPage</name>
+    <message>
+        <source>&amp;Apply remedy</source>
+        <translation>应用修正(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Change the value as the remedy of the selected finding says. The change can be undone.</source>
+        <translation>按所选结果的修正建议更改值。更改可以撤消。</translation>
+    </message>
+    <message>
+        <source>The finding cannot be shown in the editor</source>
+        <translation>无法在编辑器中显示该结果</translation>
+    </message>
+    <message>
+        <source>The remedy cannot be applied</source>
+        <translation>无法应用修正</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::Inspector</name>
+    <message>
+        <source>The inspector cannot be updated</source>
+        <translation>无法更新检查器</translation>
+    </message>
+    <message>
+        <source>&amp;Units:</source>
+        <translation>单位(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>The unit system of the values and the comparison. It changes no value.</source>
+        <translation>值和比较所用的单位制。它不会更改任何值。</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>卡片</translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>As the project (%1)</source>
+        <translation>与项目相同 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::InspectorDock</name>
+    <message>
+        <source>Select a material in the project explorer, or open its editor.</source>
+        <translation>在项目浏览器中选择一个材料，或打开其编辑器。</translation>
+    </message>
+    <message>
+        <source>The inspector cannot be updated</source>
+        <translation>无法更新检查器</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::RangeBar</name>
+    <message>
+        <source>Solids: %1 to %2</source>
+        <translation>固体：%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Liquids: %1 to %2</source>
+        <translation>液体：%1 至 %2</translation>
+    </message>
+    <message>
+        <source>Gases: %1 to %2</source>
+        <translation>气体：%1 至 %2</translation>
+    </message>
+    <message>
+        <source>beyond the known range</source>
+        <translation>超出已知范围</translation>
+    </message>
+    <message>
+        <source>below the known range</source>
+        <translation>低于已知范围</translation>
+    </message>
+    <message>
+        <source>above the known range</source>
+        <translation>高于已知范围</translation>
+    </message>
+    <message>
+        <source>within the known range</source>
+        <translation>在已知范围内</translation>
+    </message>
+    <message>
+        <source>The scale is logarithmic.</source>
+        <translation>刻度为对数。</translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation>来源：%1</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::Remedying</name>
+    <message>
+        <source>Apply remedy</source>
+        <translation>应用修正</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::TabContents</name>
+    <message>
+        <source>The project has no materials yet.</source>
+        <translation>项目中还没有材料。</translation>
+    </message>
+    <message>
+        <source>The selection contains no materials.</source>
+        <translation>所选内容不包含材料。</translation>
+    </message>
+    <message>
+        <source>Select a material in the project explorer, or open its editor.</source>
+        <translation>在项目浏览器中选择一个材料，或打开其编辑器。</translation>
+    </message>
+    <message>
+        <source>%1 materials are selected; this is the first. Compare shows them side by side.</source>
+        <translation>已选择 %1 个材料；这是第一个。“比较”并排显示它们。</translation>
+    </message>
+    <message>
+        <source>A project is selected. Select a material to see its values.</source>
+        <translation>已选择一个项目。选择一个材料以查看其值。</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>In the project</source>
+        <translation>项目中</translation>
+    </message>
+    <message>
+        <source>Suppressed</source>
+        <translation>已抑制</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>未就绪</translation>
+    </message>
+    <message>
+        <source>With doubtful values</source>
+        <translation>含可疑值</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 materials are checked.</source>
+        <translation>仅检查 %2 个材料中的前 %1 个。</translation>
+    </message>
+    <message>
+        <source>Select a material to see its cards.</source>
+        <translation>选择一个材料以查看其卡片。</translation>
+    </message>
+    <message>
+        <source>Select two or more materials to compare them.</source>
+        <translation>选择两个或更多材料进行比较。</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 materials are shown.</source>
+        <translation>仅显示 %2 个材料中的前 %1 个。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::ValueTable</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>%1 (derived)</source>
+        <translation>%1（导出）</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, with the changes in its editor that are not applied.</source>
+        <translation>“%1”，包含其编辑器中未应用的更改。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is suppressed.</source>
+        <translation>它已被抑制。</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>量</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Known range</source>
+        <translation>已知范围</translation>
+    </message>
+    <message>
+        <source>It has no quantities yet.</source>
+        <translation>它还没有任何量。</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
     </message>
 </context>
 <context>
@@ -2932,6 +3572,18 @@ Delete anyway?</source>
         <source>Rename &quot;%1&quot;</source>
         <translation>重命名“%1”</translation>
     </message>
+    <message>
+        <source>The name of a setting must not be empty; nothing was changed.</source>
+        <translation>设置的名称不能为空；未做任何更改。</translation>
+    </message>
+    <message>
+        <source>Reset &quot;%1&quot;</source>
+        <translation>重置“%1”</translation>
+    </message>
+    <message>
+        <source>Change &quot;%1&quot; to &quot;%2&quot;</source>
+        <translation>将“%1”更改为“%2”</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Message</name>
@@ -3270,6 +3922,78 @@ Delete anyway?</source>
     <message>
         <source>The values look like %1: convert the material</source>
         <translation>数值看起来属于 %1：换算该材料</translation>
+    </message>
+    <message>
+        <source>A quotation mark is not closed.</source>
+        <translation>引号没有闭合。</translation>
+    </message>
+    <message>
+        <source>A condition is missing before &quot;%1&quot;.</source>
+        <translation>“%1”之前缺少条件。</translation>
+    </message>
+    <message>
+        <source>A condition is missing after &quot;%1&quot;.</source>
+        <translation>“%1”之后缺少条件。</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed.</source>
+        <translation>括号没有闭合。</translation>
+    </message>
+    <message>
+        <source>A parenthesis is closed but not opened.</source>
+        <translation>有右括号，但没有左括号。</translation>
+    </message>
+    <message>
+        <source>More than %1 parentheses are inside each other.</source>
+        <translation>括号嵌套超过 %1 层。</translation>
+    </message>
+    <message>
+        <source>A quantity is missing before &quot;%1&quot;.</source>
+        <translation>“%1”之前缺少物理量。</translation>
+    </message>
+    <message>
+        <source>A quantity is missing after &quot;%1&quot;.</source>
+        <translation>“%1”之后缺少物理量。</translation>
+    </message>
+    <message>
+        <source>No quantity is called &quot;%1&quot;.</source>
+        <translation>没有名为“%1”的物理量。</translation>
+    </message>
+    <message>
+        <source>A value is missing after &quot;%1&quot;.</source>
+        <translation>“%1”之后缺少数值。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; follows a comparison; write &quot;and&quot; between two comparisons.</source>
+        <translation>“%1”跟在一个比较之后；请在两个比较之间写“and”。</translation>
+    </message>
+    <message>
+        <source>Write the quantity before the value.</source>
+        <translation>请把物理量写在数值之前。</translation>
+    </message>
+    <message>
+        <source>%1 is a word; only &quot;=&quot; and &quot;!=&quot; compare it.</source>
+        <translation>%1 的值是单词；只能用“=”和“!=”比较。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of %2, which is one of %3.</source>
+        <translation>“%1”不是 %2 的值，可用的值为：%3。</translation>
+    </message>
+    <message>
+        <source>%1 is a switch and has no value; write &quot;has&quot;.</source>
+        <translation>%1 是开关，没有数值；请写“has”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a range; only &quot;=&quot; and &quot;!=&quot; compare it.</source>
+        <translation>“%1”是一个范围；只能用“=”和“!=”比较。</translation>
+    </message>
+    <message>
+        <source>The range &quot;%1&quot; needs a number on each side of &quot;..&quot;.</source>
+        <translation>范围“%1”的“..”两边都需要数字。</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on other values of each material; only numbers in SI compare it.</source>
+        <translation>%1 的单位取决于每种材料的其他值；只能用 SI 单位的数值比较。</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -84,7 +85,6 @@ void PreferencesDialog::buildLayout()
     connect(m_buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &PreferencesDialog::reject);
     connect(m_buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { apply(); });
-    m_pages.front().page->setFocus();
     // Not left to the tabs, because a closed list of choices takes the keys.
     addKey(Qt::CTRL + Qt::Key_Tab, 1);
     addKey(Qt::CTRL + Qt::SHIFT + Qt::Key_Backtab, -1);
@@ -104,6 +104,14 @@ void PreferencesDialog::retranslate()
     setWindowTitle(tr("Preferences"));
     for (std::size_t index = 0; index < m_pages.size(); ++index)
         m_tabs->setTabText(static_cast<int>(index), m_pages[index].title.translated());
+}
+
+/// The tabs forget the focus of a page that was not shown yet.
+void PreferencesDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        m_pages.front().page->setFocus();
 }
 
 void PreferencesDialog::changeEvent(QEvent* event)
@@ -159,7 +167,9 @@ void PreferencesDialog::accept()
 void openPreferences()
 {
     MainWindow& window = *MainWindow::get_main_window_inst();
-    if (auto* const open = window.findChild<PreferencesDialog*>(QString(), Qt::FindDirectChildrenOnly))
+    // A dialog that has just been closed is destroyed later.
+    auto* const open = window.findChild<PreferencesDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    if (open != nullptr && open->isVisible())
         return open->activateWindow();
     auto* const dialog = new PreferencesDialog(window.contributions().preferencesPages(), &window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

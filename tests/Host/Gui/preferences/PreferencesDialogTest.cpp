@@ -68,8 +68,10 @@ protected:
     }
     QDialog* dialog() const
     {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return window->findChild<QDialog*>(QStringLiteral("preferences"));
+        for (QDialog* const found : window->findChildren<QDialog*>(QStringLiteral("preferences")))
+            if (found->isVisible())
+                return found;
+        return nullptr;
     }
     QTabWidget& tabs() const { return *dialog()->findChild<QTabWidget*>(); }
     QComboBox& languages() const { return *dialog()->findChild<QComboBox*>(QStringLiteral("language")); }
@@ -119,8 +121,8 @@ TEST_F(Preferences, OpenByTheirKeyAndOnlyOnce)
 TEST_F(Preferences, BeginInTheFirstField)
 {
     open();
-    ASSERT_TRUE(vxtest::waitUntilActive(dialog()));
-    EXPECT_TRUE(languages().hasFocus());
+    dialog()->activateWindow();
+    EXPECT_TRUE(vxtest::waitFor([this] { return languages().hasFocus(); }));
     QTest::keyClick(&languages(), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(tabs().currentIndex(), 1) << "the keyboard reaches the other pages";
 }

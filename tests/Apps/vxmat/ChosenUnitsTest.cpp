@@ -207,7 +207,7 @@ TEST_F(UnitsOfAProject, AreThoseInWhichItIsShown)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_THAT(run.out, AllOf(HasSubstr("1 Frame (mm-t-s)\n"), ContainsRegex("\nDensity +7.85e-09 +t/mm\\^3 "),
-                               ContainsRegex("\nYoung's modulus +2e\\+05 +MPa ")));
+                               ContainsRegex("\nYoung's modulus +2e\\+05 +MPa\n")));
     const Json::Value json = vxmatJson({"show", file, "--json"});
     EXPECT_EQ(json["units"], "mm-t-s");
     EXPECT_EQ(propertyOf(json["materials"][0], "Young's modulus")["value"], 200000.0);
@@ -216,7 +216,7 @@ TEST_F(UnitsOfAProject, AreThoseInWhichItIsShown)
 TEST_F(UnitsOfAProject, GiveWayToUnitsOfTheCommandLine)
 {
     const Outcome run = vxmat({"show", file, "--units", "SI"});
-    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Frame (SI)\n"), ContainsRegex("\nYoung's modulus +2e\\+11 +Pa ")));
+    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Frame (SI)\n"), ContainsRegex("\nYoung's modulus +2e\\+11 +Pa\n")));
 }
 
 TEST_F(UnitsOfAProject, DoNotChangeDocumentsAndCards)
@@ -236,7 +236,7 @@ TEST_F(UnitsOfAProject, AreUsedForDifferencesIfBothProjectsRecordThem)
     EXPECT_THAT(vxmat({"diff", file, other}).out, HasSubstr("value: 2e+11 -> 2.1e+11\n"));
     ASSERT_EQ(vxmat({"set", other, "--project-units", "mm-t-s"}).status, 0);
     const Outcome run = vxmat({"diff", file, other});
-    EXPECT_THAT(run.out, HasSubstr("2e+05 MPa -> 2.1e+05 MPa\n"));
+    EXPECT_THAT(run.out, HasSubstr("2e+05 MPa -> 210000 MPa\n"));
     EXPECT_EQ(run.err, "vxmat: note: numbers are in mm-t-s\n");
 }
 
@@ -247,7 +247,7 @@ TEST(ChosenUnits, AreSiIfThoseOfTheProjectCannotBeRead)
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.err, AllOf(HasSubstr(file + ": the unit system of the project cannot be read: "),
                                HasSubstr(" SI is used.\n")));
-    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Steel\n"), ContainsRegex("\nDensity +7850 +kg/m3 ")));
+    EXPECT_THAT(run.out, AllOf(HasSubstr("1 Steel\n"), ContainsRegex("\nDensity +7850 +kg/m3\n")));
 }
 
 } // namespace

@@ -221,9 +221,9 @@ Failure importDocument(const QStringList& arguments)
 Failure setUnits(const QStringList& arguments)
 {
     const Mat::DocumentMaterial* const project = currentMaterialProject();
-    if (project == nullptr || arguments.size() != 1)
-        return tr("give a unit system, and make a material project the current one");
-    if (arguments.front().isEmpty()) {
+    if (project == nullptr || arguments.size() > 1)
+        return tr("give one unit system at most, and make a material project the current one");
+    if (arguments.isEmpty()) {
         setProjectUnits(*project, {});
         return std::nullopt;
     }

@@ -80,7 +80,7 @@ TEST_F(ProgramFiles, ImportDocumentsInTheUnitsOfTheList)
     EXPECT_EQ(converted.status, 0);
     EXPECT_THAT(converted.errors.toStdString(),
                 HasSubstr("The numbers were converted from mm-t-s to the units of the catalogue. Materials: 1\n"));
-    EXPECT_TRUE(vxtest::readFile(path("a.vxmat")).contains("\"value\": 206900000000,"));
+    EXPECT_TRUE(vxtest::readFile(path("a.vxmat")).contains("\"value\": 2.069e+11,"));
     const Outcome asTheyAre = runBatch("Mat_NewDoc\nStd_ImportDocument a.json\nStd_SaveAs b.vxmat\n");
     EXPECT_EQ(asTheyAre.status, 0) << "a list is not asked";
     EXPECT_THAT(asTheyAre.errors.toStdString(), HasSubstr("\"Steel\": the numbers look like mm-t-s."));
@@ -92,7 +92,7 @@ TEST_F(ProgramFiles, ImportDocumentsInTheUnitsOfTheList)
 
 TEST_F(ProgramFiles, RecordTheUnitSystemOfTheirProject)
 {
-    const Outcome outcome = runBatch("Mat_NewDoc\nMat_Units MM-T-S\nStd_SaveAs a.vxmat\nMat_Units \"\"\n"
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_Units MM-T-S\nStd_SaveAs a.vxmat\nMat_Units\n"
                                      "Std_SaveAs b.vxmat\nStd_Undo\nStd_SaveAs c.vxmat\nMat_Units furlongs\n");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("list.batch:8: "));

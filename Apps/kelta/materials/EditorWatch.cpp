@@ -1,12 +1,12 @@
 #include "EditorWatch.h"
 
 #include "KeptEdits.h"
-#include "cells/ValueCellDelegate.h"
 
 #include "Gui/MDIWindow.h"
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+#include "cells/ValueCellDelegate.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"

@@ -4,10 +4,10 @@
 #include "MaterialCheck.h"
 #include "MaterialProjects.h"
 #include "ProjectUnitsDialog.h"
-#include "cells/CellReading.h"
-#include "cells/TypedValue.h"
 
 #include "Gui/TreeSelectionSingleton.h"
+#include "cells/CellReading.h"
+#include "cells/TypedValue.h"
 #include "kelta/Batch.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/exchange/CardSet.h"

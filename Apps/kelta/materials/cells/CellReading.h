@@ -14,9 +14,10 @@ struct CellReading
 {
     bool isRead = false;
     bool isBlank = false; ///< the text is empty or has only blanks
-    QString stored;       ///< the text for the cell: the number in the SI unit of the quantity; the text itself if it is not read
-    QString remark;       ///< what the text becomes ("210 GPa = 2.1e+11 Pa"), the reason why it cannot be read, or, for a
-                          ///< blank text, what to type; at most a few lines long
+    QString
+        stored; ///< the text for the cell: the number in the SI unit of the quantity; the text itself if it is not read
+    QString remark; ///< what the text becomes ("210 GPa = 2.1e+11 Pa"), the reason why it cannot be read, or, for a
+                    ///< blank text, what to type; at most a few lines long
 };
 
 /// Reads a text for a value cell of the table MatGui::SheetTableView. An empty list is a value. Absent if the row of the

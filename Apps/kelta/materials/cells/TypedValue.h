@@ -17,7 +17,8 @@ namespace desktop {
 /// A value that was read.
 struct TypedValue
 {
-    std::string stored; ///< the text that tables and materials hold: numbers in the SI unit, without it, separated by ", "
+    std::string
+        stored; ///< the text that tables and materials hold: numbers in the SI unit, without it, separated by ", "
     std::vector<double> numbers; ///< in the SI unit; one, unless the value of the quantity is a list
     std::string understood;      ///< "210 GPa = 2.1e+11 Pa"
     vxUnits::Message note;       ///< a remark about the unit; the id is empty if there is none

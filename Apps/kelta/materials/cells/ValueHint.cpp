@@ -26,7 +26,6 @@ ValueHint::ValueHint(QWidget& editor) : QLabel(editor.parentWidget()), m_editor(
 {
     setObjectName(QStringLiteral("valueHint"));
     setTextFormat(Qt::PlainText);
-    setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setContentsMargins(padding, 1, padding, 1);
     setFocusPolicy(Qt::NoFocus);
@@ -60,18 +59,23 @@ void ValueHint::follow()
     raise();
 }
 
-/// Returns the size of the note if it is at most `width` wide.
-QSize ValueHint::sizeFor(int width) const
+/// Breaks the text into lines if it is wider than `width`, and returns the size of the note.
+QSize ValueHint::wrappedTo(int width)
 {
-    const QSize border(2 * (padding + 2), 2 * 3);
-    const QRect space(0, 0, std::max(narrowest, width) - border.width(), QWIDGETSIZE_MAX);
-    return fontMetrics().boundingRect(space, Qt::TextWordWrap, text()).size() + border;
+    ensurePolished();
+    setWordWrap(false);
+    const QSize oneLine = sizeHint();
+    if (oneLine.width() <= width)
+        return oneLine;
+    setWordWrap(true);
+    const int enough = std::max(narrowest, width);
+    return {enough, heightForWidth(enough)};
 }
 
-QRect ValueHint::placeFor(const QRect& editor) const
+QRect ValueHint::placeFor(const QRect& editor)
 {
     const QSize area = parentWidget()->size();
-    const QSize size = sizeFor(area.width());
+    const QSize size = wrappedTo(area.width());
     const int left = std::max(0, std::min(editor.left(), area.width() - size.width()));
     const QRect below(QPoint(left, editor.bottom() + gap), size);
     const QRect above(QPoint(left, editor.top() - gap - size.height()), size);
@@ -79,11 +83,12 @@ QRect ValueHint::placeFor(const QRect& editor) const
         return below;
     if (above.top() >= 0)
         return above;
-    const QSize atSide = sizeFor(area.width() - editor.right() - gap);
+    const QSize atSide = wrappedTo(area.width() - editor.right() - gap);
     const QRect right(QPoint(editor.right() + gap, std::max(0, area.height() - atSide.height())), atSide);
     if (right.right() < area.width() && right.bottom() < area.height())
         return right;
     // A part of the text is better than none.
+    wrappedTo(area.width());
     const bool isRoomBelow = area.height() - editor.bottom() > editor.top();
     return (isRoomBelow ? below : above).intersected(QRect(QPoint(), area));
 }

@@ -28,8 +28,8 @@ public:
 
 private:
     void setTone(Tone tone);
-    QSize sizeFor(int width) const;
-    QRect placeFor(const QRect& editor) const;
+    QSize wrappedTo(int width);
+    QRect placeFor(const QRect& editor);
 
     QWidget& m_editor; ///< a sibling, which outlives the note as long as the note is used
 };

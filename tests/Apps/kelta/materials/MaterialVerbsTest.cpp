@@ -65,7 +65,8 @@ TEST_F(Verbs, SetNoValueThatCannotBeRead)
     EXPECT_EQ(run("set", {"E", "210 GPas"}), "The unit \"GPas\" is not known. Did you mean \"210 GPa\"?");
     EXPECT_EQ(run("set", {"E", "2,1e11"}),
               "\"2,1e11\" has a decimal comma; the decimal sign is a point. Did you mean \"2.1e11\"?");
-    EXPECT_THAT(run("set", {"Density", "7850 kg"}), testing::StartsWith("\"7850 kg\" measures mass; Density needs a unit"));
+    EXPECT_THAT(run("set", {"Density", "7850 kg"}),
+                testing::StartsWith("\"7850 kg\" measures mass; Density needs a unit"));
     EXPECT_EQ(run("set", {"E", ""}), "Nothing was typed; a number is needed.");
     EXPECT_EQ(modulusOf(steel), 2e11);
     EXPECT_EQ(history().count(), steps);

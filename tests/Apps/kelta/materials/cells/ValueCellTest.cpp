@@ -212,7 +212,8 @@ TEST_F(ValueCells, StayOpenWithTheReasonAndTheNearestSpelling)
 
 TEST_F(ValueCells, TakeNoNumberThatWouldBeCutAtItsFirstWrongCharacter)
 {
-    for (const char* const text : {"2,1e11", "7.85x", "12,5", "210 GPa 5", "1e", "0x10", "inf", "nan", "1 000", "5 kg"}) {
+    for (const char* const text : {"2,1e11", "7.85x", "12,5", "210 GPa 5", "1e", "0x10", "inf", "nan", "1 000", "5 kg"})
+    {
         SCOPED_TRACE(text);
         QLineEdit& line = typeInto(editor, modulus, text);
         QTest::keyClick(&line, Qt::Key_Return);
@@ -260,9 +261,10 @@ TEST_F(ValueCells, KeepAnUnreadableTextThatApplyRefusesWithTheReason)
     const MessageBoxes boxes;
     apply(editor);
     ASSERT_EQ(boxes.shown().size(), 1U);
-    EXPECT_THAT(boxes.shown().front().text.toStdString(),
-                EndsWith("The value \"210 GPas\" of \"Young's modulus\" cannot be read. The unit \"GPas\" is not known. "
-                         "Did you mean \"210 GPa\"?"));
+    EXPECT_THAT(
+        boxes.shown().front().text.toStdString(),
+        EndsWith("The value \"210 GPas\" of \"Young's modulus\" cannot be read. The unit \"GPas\" is not known. "
+                 "Did you mean \"210 GPa\"?"));
     EXPECT_EQ(modulusOf(steel), 2e11);
     EXPECT_EQ(table.currentIndex(), cell(editor, modulus));
 }
@@ -549,7 +551,8 @@ TEST_F(ValueCells, TakeBuiltInUnitsIfTheDatabaseOfUnitsIsMissing)
     QLineEdit& line = typeInto(editor, modulus, "5 N/furlong^2");
     QTest::keyClick(&line, Qt::Key_Return);
     EXPECT_EQ(lineOf(editor, modulus), &line);
-    EXPECT_THAT(hint(editor), HasSubstr("the database of units cannot be read: /nowhere/udunits2.xml cannot be opened"));
+    EXPECT_THAT(hint(editor),
+                HasSubstr("the database of units cannot be read: /nowhere/udunits2.xml cannot be opened"));
     QTest::keyClick(&line, Qt::Key_Escape);
     type(editor, modulus, "70 GPa");
     EXPECT_EQ(stored(editor, modulus), "7e+10");
@@ -577,7 +580,8 @@ TEST_F(ValueCells, RefuseNumbersOfAHundredThousandCharactersInAFewLines)
     const MessageBoxes boxes;
     QLineEdit& line = open(editor, modulus);
     for (const QString& text : {QString(100000, 'x'), QString(100000, '1') + "x", "1 " + QString(100000, 'm'),
-                                "1 " + QString("m/").repeated(50000), "1 " + QString(100000, '(')}) {
+                                "1 " + QString("m/").repeated(50000), "1 " + QString(100000, '(')})
+    {
         line.setText(text);
         QTest::keyClick(&line, Qt::Key_Return);
         ASSERT_EQ(lineOf(editor, modulus), &line);

@@ -2,18 +2,18 @@
 # Makes pictures of the main window and of both tabs of the material editor, light and dark.
 #
 #   docs/screenshots.sh             replaces the pictures of the documentation, docs/images
-#   docs/screenshots.sh all FOLDER  makes pictures of the editor in all languages, at 100 % and 200 %, for a review by
+#   docs/screenshots.sh all FOLDER  makes pictures of editor and inspector in all languages, at 100 % and 200 %, for a review by
 #                                   eye. Chinese needs a font with its characters, such as Debian's fonts-wqy-zenhei.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/build.sh default editor_screenshots kelta KeltaMaterials vxMaterial vx_translations
+scripts/build.sh default editor_screenshots inspector_screenshots kelta KeltaMaterials vxMaterial vx_translations
 export QT_QPA_PLATFORM=offscreen
 bin=$PWD/build/default/bin
 
-# editor FOLDER LANGUAGE light|dark SCALE SUFFIX
-editor() {
-    QT_SCALE_FACTOR=$4 "$bin/editor_screenshots" "$1" "$2" "$3" "$5" 2>&1 |
+# shoot PROGRAM FOLDER LANGUAGE light|dark SCALE SUFFIX
+shoot() {
+    QT_SCALE_FACTOR=$5 "$bin/$1" "$2" "$3" "$4" "$6" 2>&1 |
         { grep -v 'propagateSizeHints\|XDG_RUNTIME_DIR' || true; }
 }
 
@@ -23,7 +23,9 @@ if [ "${1:-}" = all ]; then
     for language in en de zh_CN; do
         for colours in light dark; do
             for scale in 1 2; do
-                editor "$folder" "$language" "$colours" "$scale" "$language-$colours-${scale}00"
+                for program in editor_screenshots inspector_screenshots; do
+                    shoot "$program" "$folder" "$language" "$colours" "$scale" "$language-$colours-${scale}00"
+                done
             done
         done
     done
@@ -32,7 +34,7 @@ fi
 
 mkdir -p docs/images
 for colours in light dark; do
-    editor docs/images en "$colours" 1 "$colours"
+    shoot editor_screenshots docs/images en "$colours" 1 "$colours"
 done
 rm docs/images/disabled-*.png
 

@@ -48,7 +48,7 @@ class GUI_EXPORT MainWindow : public QMainWindow
 
 public:
     /// The size of the window at its first start, if the screen is large enough.
-    static constexpr QSize usualSize{1180, 760};
+    static constexpr QSize usualSize{1440, 860};
 
     /// Needs the GuiApplication, which must outlive the window. Shows the contributions of the application.
     explicit MainWindow(QWidget* parent = nullptr);

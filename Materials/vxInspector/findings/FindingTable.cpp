@@ -61,7 +61,7 @@ private:
     {
         Cell finding = textCell(text);
         finding.text = shortened(text, 600);
-        return {{{kind}, textCell(m_inspected.label), finding, {}}, {m_inspected.projectId, m_inspected.objectId, id}};
+        return {{{kind}, finding, {}, textCell(m_inspected.label)}, {m_inspected.projectId, m_inspected.objectId, id}};
     }
 
     Row doubtRow(vxUnits::Doubt& doubt) const
@@ -82,7 +82,7 @@ private:
 
 TableContent findingTable(const std::vector<InspectedMaterial>& materials)
 {
-    TableContent table{{}, {tr("Kind"), tr("Material"), tr("Finding"), tr("Remedy")}, {}};
+    TableContent table{{}, {tr("Kind"), tr("Finding"), tr("Remedy"), tr("Material")}, {}};
     std::size_t more = 0;
     for (const InspectedMaterial& inspected : materials)
         for (Row& row : Findings(inspected).rows())
@@ -90,6 +90,8 @@ TableContent findingTable(const std::vector<InspectedMaterial>& materials)
                 table.rows.push_back(std::move(row));
             else
                 ++more;
+    if (materials.size() == 1)
+        table.headers.removeAt(FindingColumn::Material);
     table.sentence = table.rows.empty() ? tr("Nothing is found.") : tr("Findings: %1.").arg(table.rows.size() + more);
     if (more != 0)
         table.sentence += QLatin1Char(' ') + tr("The last %1 are not listed.").arg(more);

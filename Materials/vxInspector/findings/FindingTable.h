@@ -11,9 +11,9 @@ struct FindingColumn
     enum : int
     {
         Kind,
-        Material,
         Finding,
         Remedy,
+        Material, ///< only in a table of several materials
     };
 };
 

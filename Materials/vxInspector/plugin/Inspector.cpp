@@ -155,7 +155,7 @@ InspectorDock::~InspectorDock() = default;
 QSize InspectorDock::sizeHint() const
 {
     const QFontMetrics font = fontMetrics();
-    return {46 * font.averageCharWidth(), 24 * font.lineSpacing()};
+    return {56 * font.averageCharWidth(), 24 * font.lineSpacing()};
 }
 
 void InspectorDock::retranslate()

@@ -30,6 +30,16 @@ MatGui::MaterialView* editorAround(QWidget* widget)
     return nullptr;
 }
 
+/// Returns the material of an open editor; null if the editor is about to close because its material was removed.
+Mat::MaterialObject* materialOf(MatGui::MaterialView* editor)
+{
+    const Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
+    if (editor == nullptr || window == nullptr || !window->getMdiWindows().contains(editor))
+        return nullptr;
+    Mat::MaterialObject* const material = editor->getMaterialObject();
+    return material->get_project() != nullptr ? material : nullptr;
+}
+
 } // namespace
 
 SubjectWatch::SubjectWatch(QObject* parent) : QObject(parent)
@@ -50,11 +60,10 @@ void SubjectWatch::watchHost()
     if (const Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst())
         connect(window, &Gui::MainWindow::updated, this, &SubjectWatch::followWindow);
     Obj::Application& application = Obj::Application::instance();
-    m_connections.emplace_back(application.projectRemoved.connect([this](const Obj::Project& project) {
-        m_objectChanged.erase(project.getProjectId());
-        m_projectChanged.erase(project.getProjectId());
+    m_projectRemoved = application.projectRemoved.connect([this](const Obj::Project& project) {
+        m_projects.erase(project.getProjectId());
         noteLater();
-    }));
+    });
 }
 
 void SubjectWatch::noteLater()
@@ -105,13 +114,13 @@ void SubjectWatch::followFocus(QWidget* /*before*/, QWidget* now)
 
 Subject SubjectWatch::current() const
 {
-    if (m_editor != nullptr)
-        return {Subject::Kind::Materials, {m_editor->getMaterialObject()}};
-    const Subject selected = ofSelection();
+    if (Mat::MaterialObject* const edited = materialOf(m_editor))
+        return {Subject::Kind::Materials, {edited}};
+    Subject selected = ofSelection();
     if (selected.kind != Subject::Kind::Nothing)
         return selected;
-    const auto* const front = qobject_cast<MatGui::MaterialView*>(m_front.data());
-    return front != nullptr ? Subject{Subject::Kind::Materials, {front->getMaterialObject()}} : selected;
+    Mat::MaterialObject* const inFront = materialOf(qobject_cast<MatGui::MaterialView*>(m_front.data()));
+    return inFront != nullptr ? Subject{Subject::Kind::Materials, {inFront}} : selected;
 }
 
 Subject SubjectWatch::ofSelection() const
@@ -164,11 +173,14 @@ void SubjectWatch::watchEditor(const Gui::MDIWindow& editor)
 
 void SubjectWatch::watchProject(Obj::Project& project)
 {
-    const std::uint32_t id = project.getProjectId();
-    if (m_objectChanged.count(id) != 0)
+    const auto [place, isNew] = m_projects.try_emplace(project.getProjectId());
+    if (!isNew)
         return;
-    m_objectChanged[id] = project.objectChanged.connect([this](auto&, const auto*) { noteLater(); });
-    m_projectChanged[id] = project.changed.connect([this](const auto*) { noteLater(); });
+    auto& connections = place->second;
+    connections.emplace_back(project.objectAdded.connect([this](const auto&) { noteLater(); }));
+    connections.emplace_back(project.objectRemoved.connect([this](const auto&) { noteLater(); }));
+    connections.emplace_back(project.objectChanged.connect([this](const auto&, const auto*) { noteLater(); }));
+    connections.emplace_back(project.changed.connect([this](const auto*) { noteLater(); }));
 }
 
 } // namespace vxInspector

@@ -63,9 +63,8 @@ private:
     QPointer<MatGui::MaterialView> m_editor; ///< whose material is shown; null if the selection decides
     QPointer<QWidget> m_front;               ///< the document in front at the last update of the main window
     std::vector<QMetaObject::Connection> m_editorConnections;
-    std::map<std::uint32_t, boost::signals2::scoped_connection> m_objectChanged; ///< by project id
-    std::map<std::uint32_t, boost::signals2::scoped_connection> m_projectChanged;
-    std::vector<boost::signals2::scoped_connection> m_connections;
+    std::map<std::uint32_t, std::vector<boost::signals2::scoped_connection>> m_projects; ///< by project id
+    boost::signals2::scoped_connection m_projectRemoved;
     QTimer m_note;
 };
 

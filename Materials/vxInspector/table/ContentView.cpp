@@ -11,31 +11,43 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QStyle>
 
 #include <algorithm>
 #include <memory>
-#include <numeric>
 #include <utility>
 
 namespace vxInspector {
 
 namespace {
 
-/// Returns the widths of columns that share a width: narrow ones get what they need, the others the same share of the
-/// rest, but at least `least`.
-std::vector<int> shareWidth(const std::vector<int>& needed, int width, int least)
+/// Returns the widths of columns that share a width. If the texts do not fit in one line, all columns get the same part of
+/// what their texts need, so that these have a similar number of lines; but no column is narrower than its words.
+std::vector<int> shareWidth(const std::vector<NeededWidth>& needed, int width)
 {
-    std::vector<std::size_t> order(needed.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::sort(order.begin(), order.end(), [&](auto one, auto other) { return needed[one] < needed[other]; });
-    std::vector<int> widths(needed.size());
-    auto left = static_cast<int>(needed.size());
-    for (const std::size_t column : order) {
-        widths[column] = std::min(needed[column], std::max(width / left, least));
-        width -= widths[column];
-        --left;
+    int whole = 0;
+    int longest = 0;
+    for (const NeededWidth& column : needed) {
+        whole += column.whole;
+        longest += column.longest;
     }
+    const bool isEnough = whole <= width;
+    const double share = whole > longest ? std::max(width - longest, 0) / static_cast<double>(whole - longest) : 0.0;
+    std::vector<int> widths;
+    widths.reserve(needed.size());
+    for (const NeededWidth& column : needed)
+        widths.push_back(isEnough ? column.whole
+                                  : column.longest + static_cast<int>(share * (column.whole - column.longest)));
     return widths;
+}
+
+int longestWord(const QString& text, const QFontMetrics& font)
+{
+    int longest = 0;
+    for (const QString& line : text.split(QLatin1Char('\n')))
+        for (const QString& word : line.split(QLatin1Char(' ')))
+            longest = std::max(longest, font.horizontalAdvance(word));
+    return longest;
 }
 
 /// Returns the row of a table with the same place and the same first cell; -1 if there is none.
@@ -174,18 +186,36 @@ void ContentView::changeEvent(QEvent* event)
         fitColumns();
 }
 
+NeededWidth ContentView::neededWidth(int column) const
+{
+    if (m_columnsOfUser.count(column) != 0)
+        return {columnWidth(column), columnWidth(column)};
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics boldMetrics(bold);
+    const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+    int longest = 0;
+    for (const Row& row : content().rows) {
+        const Cell& cell = row.cells[static_cast<std::size_t>(column)];
+        if (cell.bar)
+            return {whole, whole * 2 / 3};
+        longest = std::max(longest, longestWord(cell.text, cell.isBold ? boldMetrics : fontMetrics()));
+    }
+    // The margins of a cell, and one pixel because advances are rounded.
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
+    const int most = viewport()->width() / 3;
+    return {whole, std::min({longest + margin, whole, most})};
+}
+
 void ContentView::fitColumns()
 {
     if (m_fitting)
         return;
     const QScopedValueRollback<bool> fitting(m_fitting, true);
-    const int least = 9 * fontMetrics().averageCharWidth();
-    std::vector<int> needed;
+    std::vector<NeededWidth> needed;
     for (int column = 0; column < m_model->columnCount(); ++column)
-        needed.push_back(m_columnsOfUser.count(column) != 0
-                             ? columnWidth(column)
-                             : std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)));
-    const std::vector<int> widths = shareWidth(needed, viewport()->width(), least);
+        needed.push_back(neededWidth(column));
+    const std::vector<int> widths = shareWidth(needed, viewport()->width());
     for (int column = 0; column < m_model->columnCount(); ++column)
         if (m_columnsOfUser.count(column) == 0)
             setColumnWidth(column, widths[static_cast<std::size_t>(column)]);

@@ -12,6 +12,13 @@ namespace vxInspector {
 
 class ContentModel;
 
+/// The widths of a column that its texts need.
+struct NeededWidth
+{
+    int whole;   ///< for texts in one line
+    int longest; ///< for the longest word
+};
+
 /// A table of the inspector. Long texts wrap; the columns share the width. Cells can be copied, as text and as an HTML
 /// table at once.
 class ContentView : public QTableView
@@ -45,6 +52,7 @@ protected:
 private:
     void createActions();
     void copy(const TablePart& part) const;
+    NeededWidth neededWidth(int column) const;
     void fitColumns();
 
     ContentModel* m_model;

@@ -42,7 +42,7 @@ struct RowPlace
 
 struct Row
 {
-    std::vector<Cell> cells; ///< one for each column
+    std::vector<Cell> cells; ///< one for each column; further ones are not shown
     RowPlace place = {};
     std::optional<vxUnits::Remedy> remedy = std::nullopt; ///< of a finding
 };

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QStringList>
 
 #include <algorithm>
 #include <optional>
@@ -15,6 +16,20 @@ namespace {
 const std::optional<RangeBar>& barOf(const QModelIndex& index)
 {
     return static_cast<const ContentModel*>(index.model())->cell(index).bar;
+}
+
+/// Returns a text in which words that are wider than `width` can be broken after each character.
+QString breakable(const QString& text, const QFontMetrics& font, int width)
+{
+    constexpr QChar breakPlace(0x200b); // has no width
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString& word : words) {
+        if (font.horizontalAdvance(word) <= width)
+            continue;
+        for (int i = word.size() - 1; i > 0; --i)
+            word.insert(i, breakPlace);
+    }
+    return words.join(QLatin1Char(' '));
 }
 
 /// Paints one bar into a rectangle.
@@ -79,6 +94,16 @@ private:
 };
 
 } // namespace
+
+void RangeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QStyle* const style = option->widget != nullptr ? option->widget->style() : QApplication::style();
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
+    const int width = option->rect.width() - 2 * margin;
+    if (width > 0)
+        option->text = breakable(option->text, QFontMetrics(option->font), width);
+}
 
 void RangeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {

@@ -4,8 +4,8 @@
 
 namespace vxInspector {
 
-/// Paints the cells with a bar as a bar: a line for the range of each state of matter, and a mark for each value. A
-/// triangle at an end shows a value beyond the known range. Other cells are painted as usual.
+/// Breaks words that are wider than their cell. Paints the cells with a bar as a bar: a line for the range of each state of matter, and a mark for each value. A
+/// triangle at an end shows a value beyond the known range.
 class RangeDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -15,6 +15,9 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
 } // namespace vxInspector

@@ -1,6 +1,7 @@
 #include "values/ValueTable.h"
 
 #include "values/ValueText.h"
+#include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialProperty.h"
 #include "vxUnits/DerivedValues.h"
@@ -45,7 +46,7 @@ Cell nameCell(std::int32_t id, const std::string& otherName)
     const vxUnits::Quantity* const quantity = vxUnits::findQuantity(id);
     Cell cell = textCell(quantityName(id, otherName));
     if (quantity != nullptr && cell.whole.isEmpty())
-        cell.toolTip = QString::fromUtf8(quantity->meaning);
+        cell.toolTip = translatedWord(quantity->meaning);
     return cell;
 }
 
@@ -77,7 +78,7 @@ Row derivedRow(const vxUnits::DerivedValue& derived, const vxUnits::UnitSystem& 
 QString materialSentence(const InspectedMaterial& inspected)
 {
     QString sentence =
-        inspected.hasUnappliedRows ? tr("\"%1\", with the changes in its editor that are not applied.") : tr("\"%1\"");
+        inspected.hasUnappliedRows ? tr("\"%1\", with the changes in its editor that are not applied.") : tr("\"%1\".");
     sentence = sentence.arg(shortened(inspected.label));
     if (inspected.isSuppressed)
         sentence += QLatin1Char(' ') + tr("It is suppressed.");

@@ -72,7 +72,7 @@ ValueText valueText(const vxMat::HeldProperty& held, const vxUnits::MaterialValu
 
 ValueText valueText(const vxUnits::DerivedValue& derived, const vxUnits::UnitSystem& system)
 {
-    constexpr int digits = 6;
+    constexpr int digits = 5;
     const vxUnits::Unit unit = system.unitOf(derived.dimension);
     return {QString::fromStdString(vxUnits::writeNumber(derived.value, unit, digits)),
             derived.dimension.isNone() ? QString() : QString::fromStdString(unit.text()),

@@ -49,6 +49,14 @@ TEST_F(Batch, MakesAMaterialAndExportsIt)
     EXPECT_EQ(document["material"].toArray().size(), 1);
 }
 
+TEST_F(Batch, ShowsAndHidesTheDockOfTheInspector)
+{
+    const Outcome outcome =
+        runBatch("Mat_NewDoc\nMat_AddMaterial\nlabel Frame\nselect Frame\nDock_Inspector\nDock_Inspector\n");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(errorsOf(outcome), "");
+}
+
 TEST_F(Batch, NamesFileAndLineOfAnUnknownCommand)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\n\nMat_Nowhere\nMat_AddMaterial\n");

@@ -90,7 +90,7 @@ TEST(ValueTable, MarksDerivedValuesAndHasTheirFormulas)
     const TableContent table = valueTable(inspected<vxMat::StructuralSteel>("Frame"), UnitSystem::si());
     const std::size_t row = rowOf(table, "Shear modulus (derived)");
     // 2e11 / (2 * 1.3)
-    EXPECT_THAT(textsOf(table, row), ElementsAre("Shear modulus (derived)", "76923100000", "Pa", ""));
+    EXPECT_THAT(textsOf(table, row), ElementsAre("Shear modulus (derived)", "7.6923e+10", "Pa", ""));
     EXPECT_THAT(table.rows[row].cells[0].toolTip.toStdString(), HasSubstr("E / (2 (1 + nu))"));
     EXPECT_FALSE(table.rows[row].place.isSet());
 }
@@ -149,7 +149,8 @@ TEST(EditorRows, ThatCannotBeReadAreNamedWithTheReason)
     std::vector<InspectedMaterial> all(1);
     all.front() = readRows({sheetRow(Id::Density, "7,85 g/cm^3")});
     const TableContent findings = findingTable(all);
-    EXPECT_THAT(textsOf(findings, 0)[2], HasSubstr(R"(Row 1: The value "7,85 g/cm^3" of "Density" cannot be read: )"));
+    EXPECT_THAT(textsOf(findings, 0)[vxInspector::FindingColumn::Finding],
+                HasSubstr(R"(Row 1: The value "7,85 g/cm^3" of "Density" cannot be read: )"));
 }
 
 TEST(RangeBar, IsLogarithmicIfTheRangeSpansDecades)

@@ -231,7 +231,7 @@ std::vector<CommandRow> projectRows(vxMsg::MessageProxy& requests, const TreeSel
         {"Std_Rename", QT_TRANSLATE_NOOP("StandardCommand", "Rena&me"),
          QT_TRANSLATE_NOOP("StandardCommand", "Give the selected object or project another name"), "", Qt::Key_F2,
          CommandType::onTree, rename, [&selection] { return canRename(selection); }},
-        {"Std_Find", QT_TRANSLATE_NOOP("StandardCommand", "&Find..."),
+        {"Std_Find", QT_TRANSLATE_NOOP("StandardCommand", "F&ind..."),
          QT_TRANSLATE_NOOP("StandardCommand", "Show only the objects that match an expression"), "", QKeySequence::Find,
          CommandType::none, find, canFind},
         {"Std_SelectAll", QT_TRANSLATE_NOOP("StandardCommand", "Select &all"),

@@ -19,11 +19,40 @@ using Kind = FilterToken::Kind;
 using Completions = std::vector<Completion>;
 
 /// Units that engineers write and that are not in the lists of units: with prefixes, or products.
-constexpr const char* usualUnits[] = {
-    "GPa",     "MPa",      "kPa",      "N/mm^2", "1/MPa",      "1/GPa",         "g/cm^3",         "kg/m^3",
-    "t/mm^3",  "lb/in^3",  "lb/ft^3",  "km/s",   "mm/s",       "mPa s",         "kJ/(kg K)",      "J/(kg K)",
-    "W/(m K)", "W/(cm K)", "mW/(m K)", "MS/m",   "S/m",        "S/cm",          "Ohm m",          "mm^2/s",
-    "cSt",     "MRayl",    "ms",       "us",     "MJ/(m^3 K)", "Btu/(lb degF)", "Btu/(h ft degF)"};
+constexpr const char* usualUnits[] = {"GPa",
+                                      "MPa",
+                                      "kPa",
+                                      "Pa",
+                                      "N/mm^2",
+                                      "psi",
+                                      "ksi",
+                                      "1/MPa",
+                                      "1/GPa",
+                                      "g/cm^3",
+                                      "kg/m^3",
+                                      "t/mm^3",
+                                      "lb/in^3",
+                                      "lb/ft^3",
+                                      "km/s",
+                                      "mm/s",
+                                      "mPa s",
+                                      "kJ/(kg K)",
+                                      "J/(kg K)",
+                                      "W/(m K)",
+                                      "W/(cm K)",
+                                      "mW/(m K)",
+                                      "MS/m",
+                                      "S/m",
+                                      "S/cm",
+                                      "Ohm m",
+                                      "mm^2/s",
+                                      "cSt",
+                                      "MRayl",
+                                      "ms",
+                                      "us",
+                                      "MJ/(m^3 K)",
+                                      "Btu/(lb degF)",
+                                      "Btu/(h ft degF)"};
 
 void addUnit(std::vector<Unit>& units, const Unit& unit)
 {

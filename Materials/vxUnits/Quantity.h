@@ -71,8 +71,8 @@ VXUNITS_EXPORT const Quantity* findQuantity(std::int32_t id);
 /// Returns the exponents of the creep law of a material; absent if the material does not have both.
 VXUNITS_EXPORT std::optional<CreepExponents> creepExponents(const vxMat::MaterialBase& material);
 
-/// Returns the unit of a quantity in a unit system. Fails for words and switches, and for the factor of creep without the
-/// exponents of the creep law, because its unit is the unit of stress^-n time^-(m+1).
+/// Returns the unit of a quantity in a unit system. Fails for words and switches, and for the factor of creep, whose
+/// unit is that of stress^-n time^-(m+1), if the exponents are missing or not between -50 and 50.
 VXUNITS_EXPORT Result<Unit> unitOfQuantity(std::int32_t id, const UnitSystem& system = UnitSystem::si(),
                                            const std::optional<CreepExponents>& creep = std::nullopt);
 

@@ -165,9 +165,22 @@ constexpr std::array<Quantity, quantityCount> table{{
      "Kaye and Laby, Tables of Physical and Chemical Constants, 1995; CRC Handbook of Chemistry and Physics"},
 }};
 
+/// Returns the name of a quantity of the catalogue.
+std::string nameOf(std::int32_t id)
+{
+    return vxMat::findPropertyRecord(id)->name;
+}
+
+/// Returns whether the unit of the creep factor can be written and read. Exponents of known materials are below 30.
+bool giveUnit(const CreepExponents& creep)
+{
+    constexpr double largest = 50.0;                                     // the largest power in a unit
+    return std::abs(creep.n) <= largest && std::abs(creep.m) <= largest; // false if not a number
+}
+
 Failure refuse(std::int32_t id, FaultCode code, Text text)
 {
-    return makeFailure(code, text, {vxMat::findPropertyRecord(id)->name});
+    return makeFailure(code, text, {nameOf(id)});
 }
 
 } // namespace
@@ -203,9 +216,8 @@ Result<Unit> unitOfQuantity(std::int32_t id, const UnitSystem& system, const std
         return refuse(id, FaultCode::TakesNoNumber, Text::TakesSwitch);
     if (id != Id::CreepModulusA)
         return system.unitOf(quantity->dimension);
-    if (creep)
+    if (creep && giveUnit(*creep))
         return system.unitOfCreep(*creep);
-    const auto nameOf = [](std::int32_t one) { return std::string(vxMat::findPropertyRecord(one)->name); };
     return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreep,
                        {nameOf(id), nameOf(Id::CreepModulusN), nameOf(Id::CreepModulusM)});
 }

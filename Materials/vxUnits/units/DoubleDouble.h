@@ -77,10 +77,13 @@ inline DoubleDouble powerOfTen(int exponent)
     return result;
 }
 
-/// Returns number * 10^exponent; infinite or 0 if it is out of range, with fewer digits below 1e-290.
+/// Returns number * 10^exponent; infinite or 0 if it is out of range, with fewer digits below 1e-290. A number that is not
+/// finite does not change.
 inline DoubleDouble timesPowerOfTen(DoubleDouble number, int exponent)
 {
     constexpr int step = 150; // each step stays far inside the range of a double
+    if (!std::isfinite(number.high))
+        return number;
     while (exponent > 0 && number.high != 0.0) {
         const int taken = exponent < step ? exponent : step;
         const DoubleDouble larger = number * powerOfTen(taken);

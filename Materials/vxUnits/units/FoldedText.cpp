@@ -43,14 +43,14 @@ struct Folding
 
 /// In ascending order.
 constexpr Folding foldings[] = {
-    {0x0025, "percent"},  {0x00A0, " "},      {0x00B0, "deg"}, {0x00B5, "u"},      {0x00B7, "*"},
-    {0x00C5, "angstrom"}, {0x00D7, "*"},      {0x00F7, "/"},   {0x0394, "delta_"}, {0x03A9, "Ohm"},
-    {0x03B5, "strain"},   {0x03BC, "u"},      {0x2002, " "},   {0x2003, " "},      {0x2007, " "},
-    {0x2008, " "},        {0x2009, " "},      {0x200A, " "},   {0x2010, "-"},      {0x2011, "-"},
-    {0x202F, " "},        {0x2030, "permil"}, {0x2044, "/"},   {0x205F, " "},      {0x2103, "degC"},
-    {0x2109, "degF"},     {0x2126, "Ohm"},    {0x2127, "mho"}, {0x212A, "K"},      {0x212B, "angstrom"},
-    {0x2206, "delta_"},   {0x2212, "-"},      {0x2215, "/"},   {0x2219, "*"},      {0x22C5, "*"},
-    {0x3000, " "},        {0xFEFF, ""},
+    {0x0025, "percent"}, {0x00A0, " "},        {0x00B0, "deg"},    {0x00B5, "u"},      {0x00B7, "*"},
+    {0x00BA, "deg"},     {0x00C5, "angstrom"}, {0x00D7, "*"},      {0x00F7, "/"},      {0x0394, "delta_"},
+    {0x03A9, "Ohm"},     {0x03B5, "strain"},   {0x03BC, "u"},      {0x2002, " "},      {0x2003, " "},
+    {0x2007, " "},       {0x2008, " "},        {0x2009, " "},      {0x200A, " "},      {0x2010, "-"},
+    {0x2011, "-"},       {0x2019, "'"},        {0x202F, " "},      {0x2030, "permil"}, {0x2044, "/"},
+    {0x205F, " "},       {0x2103, "degC"},     {0x2109, "degF"},   {0x2126, "Ohm"},    {0x2127, "mho"},
+    {0x212A, "K"},       {0x212B, "angstrom"}, {0x2206, "delta_"}, {0x2212, "-"},      {0x2215, "/"},
+    {0x2219, "*"},       {0x22C5, "*"},        {0x3000, " "},      {0xFEFF, ""},
 };
 
 /// Returns the digit or sign of a superscript; '\0' for any other character.
@@ -90,16 +90,6 @@ bool isPlain(std::uint32_t character)
 bool isBlank(std::uint32_t character)
 {
     return character == ' ' || (character >= '\t' && character <= '\r');
-}
-
-std::string nameOf(std::uint32_t character)
-{
-    std::array<char, 8> digits{};
-    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), character, 16);
-    std::string name(digits.data(), written.ptr);
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return "U+" + std::string(name.size() < 4 ? 4 - name.size() : 0, '0') + name;
 }
 
 /// Returns the ASCII text for a character; absent if the table does not have it.
@@ -151,6 +141,16 @@ private:
 };
 
 } // namespace
+
+std::string nameOf(std::uint32_t character)
+{
+    std::array<char, 8> digits{};
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), character, 16);
+    std::string name(digits.data(), written.ptr);
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return "U+" + std::string(name.size() < 4 ? 4 - name.size() : 0, '0') + name;
+}
 
 CodePoint readCodePoint(std::string_view text, std::size_t at)
 {

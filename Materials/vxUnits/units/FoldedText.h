@@ -16,6 +16,9 @@ struct CodePoint
 };
 CodePoint readCodePoint(std::string_view text, std::size_t at);
 
+/// Returns "U+2192", the name of a character for messages.
+std::string nameOf(std::uint32_t character);
+
 /// A text in the characters of the grammar of numbers and units.
 struct FoldedText
 {

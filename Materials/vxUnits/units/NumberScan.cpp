@@ -1,5 +1,6 @@
 #include "units/NumberScan.h"
 
+#include "units/FoldedText.h"
 #include "units/Reader.h"
 #include "units/ScaleArithmetic.h"
 #include "units/Texts.h"
@@ -36,11 +37,11 @@ int readExponent(std::string_view text)
     return std::clamp(exponent, -largestExponent, largestExponent);
 }
 
-/// Reads one number; each step either goes on or leaves the reason in m_failure.
+/// Reads one number. Each step returns whether it succeeds; otherwise m_failure is the reason.
 class Scanner
 {
 public:
-    explicit Scanner(std::string_view text) : m_text(text), m_reader(text) {}
+    Scanner(std::string_view text, std::string_view typed) : m_text(text), m_typed(typed), m_reader(text) {}
 
     Result<ScannedNumber> scan()
     {
@@ -57,7 +58,7 @@ public:
 private:
     bool refuse(FaultCode code, Text text, std::string suggestion = {})
     {
-        m_failure = makeFailure(code, text, {excerpt(m_text)}, std::move(suggestion));
+        m_failure = makeFailure(code, text, {excerpt(m_typed)}, std::move(suggestion));
         return false;
     }
 
@@ -102,6 +103,8 @@ private:
 
     bool refuseSeparators(std::string_view digits, std::ptrdiff_t points)
     {
+        if (digits.back() == '\'')
+            return refuseFoot(digits);
         if (digits.find_first_of("'_") != std::string_view::npos)
             return refuse(FaultCode::ThousandsSeparator, Text::ThousandsSeparator,
                           corrected(signedText(without(digits, "'_"))));
@@ -118,6 +121,14 @@ private:
                    : refuse(FaultCode::SeveralNumbers, Text::SeveralNumbers);
     }
 
+    /// Refuses "5'", which separates no groups of digits.
+    bool refuseFoot(std::string_view digits)
+    {
+        m_failure = makeFailure(FaultCode::IllegalCharacter, Text::IllegalCharacter, {excerpt(m_typed), nameOf('\'')},
+                                corrected(signedText(without(digits, "'")) + " ft"));
+        return false;
+    }
+
     bool refusePoints(std::string_view digits)
     {
         if (inThousands(digits, '.'))
@@ -131,12 +142,14 @@ private:
         const std::size_t comma = digits.find(',');
         const std::string decimal = decimalText(without(digits.substr(0, comma), "."), digits.substr(comma + 1));
         const std::string whole = without(digits, ",");
-        if (points > 0 && comma < digits.find('.'))
+        if (points > 0 && comma < digits.find('.') && inThousands(digits.substr(0, digits.find('.')), ','))
             return refuse(FaultCode::ThousandsSeparator, Text::ThousandsSeparator, corrected(signedText(whole)));
+        if (points > 0 && !inThousands(digits.substr(0, comma), '.'))
+            return refuse(FaultCode::SeveralNumbers, Text::SeveralNumbers);
         if (points > 0 || !inThousands(digits, ',') || digits.front() == '0')
             return refuse(FaultCode::DecimalComma, Text::DecimalComma, corrected(decimal));
         m_failure = makeFailure(FaultCode::ThousandsSeparator, Text::CommaNotClear,
-                                {excerpt(m_text), signedText(whole), decimal}, corrected(signedText(whole)));
+                                {excerpt(m_typed), signedText(whole), decimal}, corrected(signedText(whole)));
         return false;
     }
 
@@ -248,6 +261,8 @@ private:
             m_reader.goTo(end);
             return true;
         }
+        if (m_reader.rest().substr(0, 3) == "10^") // "1.2 10^6"
+            return refuse(FaultCode::SeveralNumbers, Text::SeveralNumbers, corrected(m_number.mantissa + "*"));
         const std::string joined = joinGroups();
         return joined.empty() ? refuse(FaultCode::SeveralNumbers, Text::SeveralNumbers)
                               : refuse(FaultCode::ThousandsSeparator, Text::ThousandsSeparator, corrected(joined));
@@ -280,6 +295,7 @@ private:
     }
 
     std::string_view m_text;
+    std::string_view m_typed; ///< for messages
     Reader m_reader;
     ScannedNumber m_number;
     Failure m_failure;
@@ -349,9 +365,9 @@ DoubleDouble ScannedNumber::exact() const
     return mantissa.front() == '-' ? -number : number;
 }
 
-Result<ScannedNumber> scanNumber(std::string_view text)
+Result<ScannedNumber> scanNumber(std::string_view text, std::string_view typed)
 {
-    return Scanner(text).scan();
+    return Scanner(text, typed.empty() ? text : typed).scan();
 }
 
 } // namespace vxUnits

@@ -27,7 +27,7 @@ struct ScannedNumber
 
 /// Reads the number at the start of a folded text. Accepts "210", "2.1e11", "2.1*10^11" and "10^6". Refuses, with the
 /// nearest spelling: decimal commas, thousands separators, several numbers, exponents without digits or with D,
-/// nan, inf, hexadecimals.
-Result<ScannedNumber> scanNumber(std::string_view text);
+/// nan, inf, hexadecimals. Messages quote `typed`, the text before it was folded; without it, they quote `text`.
+Result<ScannedNumber> scanNumber(std::string_view text, std::string_view typed = {});
 
 } // namespace vxUnits

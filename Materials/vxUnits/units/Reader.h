@@ -16,6 +16,16 @@ inline bool isLetter(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
+/// Returns a text without the blanks around it.
+inline std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    return text;
+}
+
 /// Reads a text from the left.
 class Reader
 {
@@ -37,7 +47,7 @@ public:
     std::string_view from(std::size_t begin) const { return m_text.substr(begin, m_at - begin); }
     std::string_view rest() const { return m_text.substr(m_at); }
 
-    /// Takes "^" or "**" if it stands here.
+    /// Takes "^" or "**" if it comes next.
     bool skipPowerSign()
     {
         const bool stars = peek() == '*' && peek(1) == '*';

@@ -1,6 +1,7 @@
 #include "vxUnits/Reading.h"
 
 #include "units/NumberScan.h"
+#include "units/Reader.h"
 #include "units/ScaleArithmetic.h"
 #include "units/Spelling.h"
 #include "units/Texts.h"
@@ -38,14 +39,17 @@ struct TypedNumber
 class NumberReader
 {
 public:
-    NumberReader(const ReadingTarget& target, std::string_view text) : m_target(target), m_text(text) {}
+    /// Messages quote `typed` in place of `text`, if it is given.
+    NumberReader(const ReadingTarget& target, std::string_view text, std::string_view typed = {})
+        : m_target(target), m_text(text), m_typed(typed.empty() ? text : typed)
+    {}
 
     Result<TypedNumber> read()
     {
         const FoldedText folded = fold(m_text);
         if (folded.fault != FoldedText::Fault::None)
-            return failureOf(folded, m_text);
-        Result<ScannedNumber> number = scanNumber(folded.text);
+            return failureOf(folded, m_typed);
+        Result<ScannedNumber> number = scanNumber(folded.text, m_typed);
         if (!number)
             return number.failure();
         m_number = *std::move(number);
@@ -59,7 +63,7 @@ private:
     Failure failure(FaultCode code, Text text, std::vector<std::string> arguments = {},
                     std::string suggestion = {}) const
     {
-        arguments.insert(arguments.begin(), excerpt(m_text));
+        arguments.insert(arguments.begin(), excerpt(m_typed));
         return makeFailure(code, text, std::move(arguments), std::move(suggestion));
     }
 
@@ -74,7 +78,7 @@ private:
 
     Result<TypedNumber> readWithUnit()
     {
-        ParsedUnit parsed = parseUnit(m_number.rest, m_text);
+        ParsedUnit parsed = parseUnit(m_number.rest, m_typed);
         const Dimension& wanted = m_target.unit.dimension();
         if (!parsed.valid) {
             parsed.failure.suggestion = typedWith(suggestUnit(m_number.rest, &wanted));
@@ -93,10 +97,10 @@ private:
 
     Failure refuseUnit() const
     {
-        const auto nameOf = [](std::int32_t id) { return std::string(vxMat::findPropertyRecord(id)->name); };
+        const auto name = [](std::int32_t id) { return std::string(vxMat::findPropertyRecord(id)->name); };
         return makeFailure(
             FaultCode::UnitNotKnown, Text::UnitOfCreep,
-            {m_target.name, nameOf(vxMat::PropertyId::CreepModulusN), nameOf(vxMat::PropertyId::CreepModulusM)},
+            {m_target.name, name(vxMat::PropertyId::CreepModulusN), name(vxMat::PropertyId::CreepModulusM)},
             std::string(m_numberText.substr(0, m_numberText.find_last_not_of(' ') + 1)));
     }
 
@@ -105,7 +109,10 @@ private:
         const Dimension& wanted = m_target.unit.dimension();
         if (wanted == dimensions::electricalConductivity && unit.dimension() == dimensions::electricalResistivity)
             return refuseResistivity(unit);
-        const std::string suggestion = typedWith(suggestTerms(terms, wanted));
+        std::string unitMeant = suggestTerms(terms, wanted);
+        if (unitMeant.empty())
+            unitMeant = suggestUnit(m_number.rest, &wanted);
+        const std::string suggestion = typedWith(unitMeant);
         const std::string measure = measureOf(unit.dimension());
         if (m_target.name.empty())
             return failure(FaultCode::WrongDimension, Text::WrongDimension, {measure, m_target.unit.text()},
@@ -131,8 +138,24 @@ private:
         return m_target.meaning == TemperatureMeaning::Absolute && m_target.unit.dimension() == dimensions::temperature;
     }
 
+    /// Returns whether a unit is that of differences of temperatures, and of nothing else.
+    static bool isDifference(const Unit& unit) { return unit.text().substr(0, 6) == "delta_"; }
+
+    /// Refuses a difference for a temperature of a scale, and such a temperature for a difference.
+    Failure refuseMeaning(const Unit& unit) const
+    {
+        if (isDifference(unit))
+            return failure(FaultCode::TemperatureScale, Text::TemperatureDifference, {},
+                           typedWith(unit.text().substr(6)));
+        return failure(FaultCode::TemperatureScale, Text::TemperatureScale, {}, typedWith("delta_" + unit.text()));
+    }
+
     Result<TypedNumber> valueIn(const Unit& unit) const
     {
+        const bool difference = isDifference(unit);
+        if (isTemperature() && difference != isDifference(m_target.unit) &&
+            (difference ? m_target.unit : unit).isTemperatureScale())
+            return refuseMeaning(unit);
         if (isTemperature() && (m_number.exact() + exactZero(unit)).high < 0.0)
             return failure(FaultCode::BelowAbsoluteZero, Text::BelowAbsoluteZero);
         const auto value = isTemperature() ? temperatureIn(unit) : m_number.times(unit.scale() / m_target.unit.scale());
@@ -150,6 +173,7 @@ private:
 
     const ReadingTarget& m_target;
     std::string_view m_text;
+    std::string_view m_typed; ///< for messages
     ScannedNumber m_number;
     std::string_view m_numberText; ///< the folded text up to the unit
 };
@@ -223,9 +247,7 @@ Item itemOf(std::string_view text, std::size_t begin, std::size_t end)
 {
     while (begin < end && text[begin] == ' ')
         ++begin;
-    while (end > begin && text[end - 1] == ' ')
-        --end;
-    return {text.substr(begin, end - begin), begin};
+    return {trimmed(text.substr(begin, end - begin)), begin};
 }
 
 /// Splits a list. If there are semicolons, commas do not separate: they can only be decimal commas.
@@ -251,9 +273,14 @@ std::vector<Item> splitList(std::string_view text)
 /// Returns whether an item begins with a superfluous 0 directly after a comma, as decimals do.
 bool looksLikeDecimals(std::string_view list, const Item& item)
 {
-    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
     const bool behindComma = item.begin > 0 && list[item.begin - 1] == ',';
-    return behindComma && item.text.size() > 1 && item.text[0] == '0' && digit(item.text[1]);
+    return behindComma && item.text.size() > 1 && item.text[0] == '0' && isDigit(item.text[1]);
+}
+
+/// Returns whether a separator between two digits is at a place of a text.
+bool isBetweenDigits(std::string_view text, std::size_t at)
+{
+    return at > 0 && at + 1 < text.size() && isDigit(text[at - 1]) && isDigit(text[at + 1]);
 }
 
 /// Returns the list with a point for every comma without a blank after it.
@@ -267,17 +294,73 @@ std::string withPoints(std::string_view text)
     return changed;
 }
 
-/// Returns the list with a comma between numbers that only a blank separates.
+/// Returns the list with a comma between numbers that only a blank separates; empty if a number would begin with a
+/// superfluous 0, as the groups of thousands do.
 std::string withCommas(std::string_view text)
 {
-    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
     std::string changed;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        changed += text[i];
-        if (i + 2 < text.size() && digit(text[i]) && text[i + 1] == ' ' && digit(text[i + 2]))
-            changed += ',';
+        const bool between = text[i] == ' ' && isBetweenDigits(text, i);
+        if (between && text[i + 1] == '0' && i + 2 < text.size() && isDigit(text[i + 2]))
+            return {};
+        changed += between ? ", " : std::string(1, text[i]);
     }
     return changed;
+}
+
+/// Returns the list without the separators between digits.
+std::string withoutGroups(std::string_view text, char separator)
+{
+    std::string changed;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != separator || !isBetweenDigits(text, i))
+            changed += text[i];
+    }
+    return changed;
+}
+
+/// The commas of a list that are directly between the digits of two whole numbers: each may be a decimal comma.
+struct DoubtfulCommas
+{
+    std::size_t count = 0;
+    std::size_t first = 0; ///< the place of the first one
+    bool thousands = true; ///< whether groups of three digits follow all of them
+    bool others = false;   ///< whether other signs separate numbers too
+};
+
+std::size_t digitsBehind(std::string_view text, std::size_t at)
+{
+    std::size_t end = at;
+    while (end < text.size() && isDigit(text[end]))
+        ++end;
+    return end - at;
+}
+
+/// Returns whether the number that ends at a place, or the one that begins behind it, has a decimal point.
+bool hasPointBeside(std::string_view text, std::size_t at)
+{
+    std::size_t begin = at;
+    while (begin > 0 && isDigit(text[begin - 1]))
+        --begin;
+    const std::size_t end = at + 1 + digitsBehind(text, at + 1);
+    return (begin > 0 && text[begin - 1] == '.') || (end < text.size() && text[end] == '.');
+}
+
+DoubtfulCommas findDoubtfulCommas(std::string_view text)
+{
+    constexpr std::size_t group = 3;
+    DoubtfulCommas commas;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool comma = text[i] == ',';
+        if (comma && isBetweenDigits(text, i) && !hasPointBeside(text, i)) {
+            commas.first = commas.count == 0 ? i : commas.first;
+            ++commas.count;
+            commas.thousands = commas.thousands && digitsBehind(text, i + 1) == group;
+        } else if (comma || text[i] == '\n' || text[i] == '\t' || (text[i] == ' ' && isBetweenDigits(text, i))) {
+            commas.others = commas.others || i + 1 < text.size();
+        }
+    }
+    return commas;
 }
 
 class ListReader
@@ -289,7 +372,7 @@ public:
 
     Result<ListReading> read()
     {
-        if (!readLast())
+        if (!checkCommas() || !readLast())
             return std::move(m_failure);
         for (std::size_t i = 0; i < m_items.size(); ++i) {
             auto number = readItem(i);
@@ -306,11 +389,59 @@ private:
         m_failure = std::move(failure);
         const bool several =
             m_failure.code == FaultCode::SeveralNumbers || m_failure.code == FaultCode::ThousandsSeparator;
-        if (several && item.text.find(' ') != std::string_view::npos)
-            m_failure.suggestion = withCommas(m_text);
+        const bool grouped = m_failure.code == FaultCode::ThousandsSeparator &&
+                             (m_items.size() > 1 || digitsBehind(item.text, 0) < 3 || withCommas(item.text).empty());
+        const bool unitAlone = m_failure.code == FaultCode::NumberMissing && m_items.size() > 1 &&
+                               item.begin == m_items.back().begin && isLetter(item.text.front());
+        if (unitAlone)
+            m_failure.suggestion = withUnitOfLast();
+        else if (several && item.text.find(' ') != std::string_view::npos)
+            m_failure.suggestion = grouped ? withoutGroups(m_text, ' ') : withCommas(m_text);
         else if (!m_failure.suggestion.empty())
             m_failure.suggestion = std::string(m_text.substr(0, item.begin)) + m_failure.suggestion +
                                    std::string(m_text.substr(item.begin + item.text.size()));
+    }
+
+    /// Returns "250, 300 MPa" for "250, 300, MPa".
+    std::string withUnitOfLast() const
+    {
+        const Item& before = m_items[m_items.size() - 2];
+        return std::string(m_text.substr(0, before.begin + before.text.size())) + " " +
+               std::string(m_items.back().text);
+    }
+
+    /// Refuses a list with commas that may be decimal commas, unless commas alone, and more than one, separate its numbers.
+    bool checkCommas()
+    {
+        const DoubtfulCommas commas = findDoubtfulCommas(m_text);
+        const bool semicolons = m_text.find(';') != std::string_view::npos; // commas are then errors of the numbers
+        if (semicolons || commas.count == 0 || (commas.count > 1 && !commas.others))
+            return true;
+        const std::string decimals = withPoints(m_text);
+        if (!commas.others)
+            m_failure = makeFailure(FaultCode::DecimalComma, Text::ListCommaNotClear,
+                                    {excerpt(m_text), decimals, withBlank(commas.first)});
+        else if (commas.thousands)
+            refuseThousands();
+        else
+            m_failure = makeFailure(FaultCode::DecimalComma, Text::ListDecimalComma,
+                                    {excerpt(m_text.substr(commas.first + 1, digitsBehind(m_text, commas.first + 1)))},
+                                    decimals);
+        return false;
+    }
+
+    void refuseThousands()
+    {
+        const std::string whole = withCommas(withoutGroups(m_text, ','));
+        m_failure = makeFailure(FaultCode::ThousandsSeparator, Text::CommaNotClear,
+                                {excerpt(m_text), whole, withCommas(withPoints(m_text))}, whole);
+    }
+
+    /// Returns the list with a blank after a comma.
+    std::string withBlank(std::size_t comma) const
+    {
+        std::string text(m_text);
+        return text.insert(comma + 1, " ");
     }
 
     /// Finds out whether all numbers have the unit of the last one.
@@ -345,7 +476,7 @@ private:
         const FoldedText folded = fold(item.text);
         if (folded.fault != FoldedText::Fault::None)
             return {std::nullopt, failureOf(folded, item.text)};
-        const auto number = scanNumber(folded.text);
+        const auto number = scanNumber(folded.text, item.text);
         if (!number)
             return {std::nullopt, number.failure()};
         return {std::string(number->rest), std::nullopt};
@@ -373,14 +504,14 @@ private:
             const auto unit = unitOf(item).first;
             const bool needed = !m_lastUnit.empty() && !m_oneUnit;
             if (unit && unit->empty() == needed) {
-                const Item& without = needed ? item : m_items.back();
+                const Item& without = needed ? item : m_oneUnit ? m_items.front() : m_items.back();
                 refuse(item, makeFailure(FaultCode::UnitMissing, Text::ListUnitMissing, {excerpt(without.text)}));
                 return std::nullopt;
             }
             if (m_oneUnit)
                 text += " " + m_lastUnit;
         }
-        auto reading = NumberReader(m_target, text).read();
+        auto reading = NumberReader(m_target, text, item.text).read();
         if (reading)
             return *std::move(reading);
         refuse(item, reading.failure());

@@ -17,6 +17,8 @@ Scale normalised(DoubleDouble number, int exponent)
 {
     if (number.high == 1.0 && number.low == 0.0)
         return {1.0, 0.0, exponent};
+    if (!(number.high > 0.0) || !std::isfinite(number.high))
+        return {number.high, 0.0, 0}; // no power of ten can be taken out
     const int shift = static_cast<int>(std::floor(std::log10(number.high)));
     number = timesPowerOfTen(number, -shift);
     return {number.high, number.low, exponent + shift};
@@ -69,6 +71,9 @@ Scale operator/(const Scale& one, const Scale& other)
 
 Scale power(const Scale& scale, double exponent)
 {
+    constexpr double largest = 10000.0; // an int holds the power of ten of the result
+    if (!(std::abs(exponent) <= largest))
+        return {std::nan(""), 0.0, 0};
     const bool whole = exponent == std::floor(exponent);
     return whole ? wholePower(scale, static_cast<int>(exponent)) : brokenPower(scale, exponent);
 }

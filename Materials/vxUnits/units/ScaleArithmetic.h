@@ -13,7 +13,8 @@ Scale makeScale(std::uint64_t numerator, std::uint64_t denominator, int exponent
 Scale operator*(const Scale& one, const Scale& other);
 Scale operator/(const Scale& one, const Scale& other);
 
-/// Returns a power of a scale, with all digits for a whole exponent, and about 18 digits for others.
+/// Returns a power of a scale, with all digits for a whole exponent, and about 18 digits for others. The
+/// result is not a number if the exponent is not between -10000 and 10000.
 Scale power(const Scale& scale, double exponent);
 
 /// Returns whether the scale is a power of ten and nothing else.

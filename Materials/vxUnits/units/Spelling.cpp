@@ -1,5 +1,6 @@
 #include "units/Spelling.h"
 
+#include "units/Reader.h"
 #include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
@@ -37,6 +38,93 @@ Terms exchanged(Terms terms, const Confusion (&confusions)[Size])
         }
     }
     return terms;
+}
+
+/// Words that users write for a unit, in lower case.
+constexpr Confusion phrases[] = {
+    {"degrees celsius", "degC"},
+    {"degree celsius", "degC"},
+    {"degrees fahrenheit", "degF"},
+    {"degree fahrenheit", "degF"},
+    {"percent iacs", "percentIACS"},
+    {"pct", "percent"},
+    {"mph", "mi/h"},
+    {"kph", "km/h"},
+    {"kmh", "km/h"},
+};
+
+/// Words for powers, which come before the unit: "square inch".
+struct PowerWord
+{
+    const char* word;
+    const char* power;
+};
+constexpr PowerWord powerWords[] = {{"square", "^2"}, {"sq", "^2"}, {"cubic", "^3"}, {"cu", "^3"}};
+
+bool belongsToWord(const std::string& text, std::size_t at)
+{
+    return at < text.size() && (isLetter(text[at]) || text[at] == '_');
+}
+
+/// Returns the place of a word or phrase in a text, without regard to case; npos if there is none.
+std::size_t findPhrase(const std::string& text, const std::string& phrase)
+{
+    const std::string upper = vxMat::toUpperAscii(text);
+    const std::string wanted = vxMat::toUpperAscii(phrase);
+    for (std::size_t at = upper.find(wanted); at != std::string::npos; at = upper.find(wanted, at + 1)) {
+        if ((at == 0 || !belongsToWord(text, at - 1)) && !belongsToWord(text, at + phrase.size()))
+            return at;
+    }
+    return std::string::npos;
+}
+
+/// Returns "pounds per inch^2" for "pounds per square inch".
+std::string withPower(std::string text, const PowerWord& power)
+{
+    const std::size_t at = findPhrase(text, power.word);
+    if (at == std::string::npos)
+        return text;
+    text.erase(at, std::string_view(power.word).size());
+    std::size_t end = at;
+    while (end < text.size() && (text[end] == ' ' || text[end] == '.'))
+        ++end;
+    text.erase(at, end - at);
+    for (end = at; belongsToWord(text, end);)
+        ++end;
+    return text.insert(end, power.power);
+}
+
+/// Returns a text in the signs of the grammar: brackets as parentheses, words for powers as powers, phrases as units.
+std::string inSigns(std::string text)
+{
+    std::replace(text.begin(), text.end(), '[', '(');
+    std::replace(text.begin(), text.end(), ']', ')');
+    for (const PowerWord& power : powerWords)
+        text = withPower(std::move(text), power);
+    for (const Confusion& phrase : phrases) {
+        const std::size_t at = findPhrase(text, phrase.written);
+        if (at != std::string::npos)
+            text.replace(at, std::string_view(phrase.written).size(), phrase.meant);
+    }
+    return text;
+}
+
+/// Returns the terms with a unit that has a prefix read as two units: "m K" for "mK". Absent if there is none.
+std::optional<Terms> split(const Terms& terms)
+{
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+        const std::string& symbol = terms[i].atom.symbol;
+        auto one = findBuiltIn(symbol.substr(0, 1));
+        auto other = symbol.size() > 1 ? findBuiltIn(symbol.substr(1)) : std::nullopt;
+        if (!one || !other)
+            continue;
+        Terms parts = terms;
+        parts[i].atom = *std::move(other);
+        parts.insert(parts.begin() + static_cast<std::ptrdiff_t>(i), terms[i]);
+        parts[i].atom = *std::move(one);
+        return parts;
+    }
+    return std::nullopt;
 }
 
 /// Returns the terms with everything after the first "/" in the denominator.
@@ -115,8 +203,10 @@ private:
     void addSplit()
     {
         for (std::size_t at = 1; at < m_spelling.size(); ++at) {
-            if (findBuiltIn(m_spelling.substr(0, at)) && findBuiltIn(m_spelling.substr(at)))
-                add(std::string(m_spelling.substr(0, at)) + " " + std::string(m_spelling.substr(at)));
+            const std::string one(m_spelling.substr(0, at));
+            const std::string other(m_spelling.substr(at));
+            if (findBuiltIn(one) && findBuiltIn(other))
+                add(one == other ? one : one + " " + other); // "%%" is one sign typed twice
         }
     }
 
@@ -160,16 +250,19 @@ std::string suggestUnit(std::string_view folded, const Dimension* target)
     if (folded.size() > longestText)
         return {};
     folded = folded.substr(0, folded.find_last_not_of(" .,;:") + 1);
-    const auto opened = std::count(folded.begin(), folded.end(), '(');
-    const auto closed = std::count(folded.begin(), folded.end(), ')');
+    const std::string text = inSigns(std::string(folded));
+    const auto opened = std::count(text.begin(), text.end(), '(');
+    const auto closed = std::count(text.begin(), text.end(), ')');
     const std::string missing(static_cast<std::size_t>(std::max<std::ptrdiff_t>(opened - closed, 0)), ')');
-    const auto terms = corrected(std::string(folded) + missing, target);
+    const auto terms = corrected(text + missing, target);
     return terms ? UnitBuilder::build(*terms).text() : std::string();
 }
 
 std::string suggestTerms(const std::vector<Term>& terms, const Dimension& target)
 {
-    const auto found = fitted(terms, target);
+    auto found = fitted(terms, target);
+    if (const auto parts = split(terms); !found && parts)
+        found = fitted(*parts, target);
     return found ? UnitBuilder::build(*found).text() : std::string();
 }
 

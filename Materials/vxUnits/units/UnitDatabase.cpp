@@ -19,18 +19,24 @@ namespace {
 class PlainLocale
 {
 public:
-    PlainLocale() : m_locale(newlocale(LC_ALL_MASK, "C", nullptr)), m_before(uselocale(m_locale)) {}
+    PlainLocale() : m_locale(newlocale(LC_ALL_MASK, "C", nullptr))
+    {
+        if (m_locale != nullptr) // otherwise memory is short, and the locale of the thread stays
+            m_before = uselocale(m_locale);
+    }
     PlainLocale(const PlainLocale&) = delete;
     PlainLocale& operator=(const PlainLocale&) = delete;
     ~PlainLocale()
     {
+        if (m_locale == nullptr)
+            return;
         uselocale(m_before);
         freelocale(m_locale);
     }
 
 private:
     locale_t m_locale;
-    locale_t m_before;
+    locale_t m_before = nullptr;
 };
 
 /// Keeps UDUNITS from writing to standard error, until it is destroyed.

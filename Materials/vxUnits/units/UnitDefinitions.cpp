@@ -94,7 +94,7 @@ constexpr UnitDefinition definitions[] = {
     {"Msi", "", "", poundForce, squareInch, 1, d::pressure},
     {"psf PSF", "", "", poundForce, squareFoot, -5, d::pressure},
     {"ksf KSF", "", "", poundForce, squareFoot, -2, d::pressure},
-    {"bar", "bars", "GMkmu", 1, 1, 5, d::pressure},
+    {"bar", "bar bars", "GMkmu", 1, 1, 5, d::pressure},
     {"atm", "atmosphere atmospheres", "", 101325, 1, 0, d::pressure},
     {"at", "technical_atmosphere", "", 980665, 1, -1, d::pressure},
     {"Torr torr", "", "mu", 101325, 760, 0, d::pressure},
@@ -131,9 +131,9 @@ constexpr UnitDefinition definitions[] = {
     {"A", "ampere amperes amp amps", thousands, 1, 1, 0, d::current},
     {"C", "coulomb coulombs", thousands, 1, 1, 0, d::current* d::time},
     {"V", "volt volts", thousands, 1, 1, 0, d::power / d::current},
-    {"Ohm ohm", "ohms", thousands, 1, 1, 0, d::power / d::current / d::current},
+    {"Ohm ohm", "ohm ohms", thousands, 1, 1, 0, d::power / d::current / d::current},
     {"S", "siemens", thousands, 1, 1, 0, d::current* d::current / d::power},
-    {"mho", "mhos", "mu", 1, 1, 0, d::current* d::current / d::power},
+    {"mho", "mho mhos", "mu", 1, 1, 0, d::current* d::current / d::power},
     {"F", "farad farads", "munp", 1, 1, 0, d::current* d::current* d::time / d::power},
     {"H", "henry henries", "mun", 1, 1, 0, d::power* d::time / d::current / d::current},
     {"Wb", "weber webers", "mu", 1, 1, 0, d::power* d::time / d::current},
@@ -149,7 +149,7 @@ constexpr UnitDefinition definitions[] = {
     {"permil", "", "", 1, 1, -3, d::none},
     {"ppm", "", "", 1, 1, -6, d::none},
     {"ppb", "", "", 1, 1, -9, d::none},
-    {"strain", "strains", "mu", 1, 1, 0, d::none},
+    {"strain", "strain strains", "mu", 1, 1, 0, d::none},
 };
 
 struct Prefix

@@ -1,5 +1,6 @@
 #include "units/UnitParser.h"
 
+#include "units/FoldedText.h"
 #include "units/Reader.h"
 #include "units/ScaleArithmetic.h"
 #include "units/Texts.h"
@@ -27,6 +28,13 @@ struct Group
     double sign;
 };
 
+/// Returns a power without the error of sums such as 1 - 0.667: nine decimals, which are more than a user types.
+double withoutError(double power)
+{
+    constexpr double decimals = 1e9;
+    return std::round(power * decimals) / decimals;
+}
+
 /// Returns the terms with those of the same symbol combined, without those whose power is 0.
 std::vector<Term> drawnTogether(const std::vector<Term>& terms)
 {
@@ -39,6 +47,8 @@ std::vector<Term> drawnTogether(const std::vector<Term>& terms)
         else
             same->power += term.power;
     }
+    for (Term& term : together)
+        term.power = withoutError(term.power);
     together.erase(std::remove_if(together.begin(), together.end(), [](const Term& one) { return one.power == 0.0; }),
                    together.end());
     return together;
@@ -78,7 +88,7 @@ private:
         return m_groups.empty() || refuse(Text::ParenthesisNotClosed);
     }
 
-    /// A group may begin with "1/" or "/".
+    /// A group may begin with "1/", "/" or "per".
     void startGroup()
     {
         m_reader.skipBlanks();
@@ -86,17 +96,20 @@ private:
         if (m_reader.peek() == '1' && !isDigit(m_reader.peek(1)))
             m_reader.skip();
         m_reader.skipBlanks();
-        if (m_reader.peek() == '/')
-            startDenominator();
-        else
+        if (!startDenominator())
             m_reader.goTo(begin);
     }
 
-    void startDenominator()
+    /// Takes "/" or "per" if it comes next. Returns whether it does.
+    bool startDenominator()
     {
-        m_reader.skip();
+        const bool slash = m_reader.peek() == '/';
+        if (!slash && !startsWithPer())
+            return false;
+        m_reader.skip(slash ? 1 : 3);
         m_sign = -1.0;
         m_behindSlash = true;
+        return true;
     }
 
     bool readOperatorAndOperand()
@@ -112,14 +125,8 @@ private:
     void readOperator()
     {
         const char sign = m_reader.peek();
-        if (sign == '/')
-            startDenominator();
-        else if (sign == '*' || sign == '.' || (sign == '-' && isLetter(m_reader.peek(1))))
+        if (!startDenominator() && (sign == '*' || sign == '.' || (sign == '-' && isLetter(m_reader.peek(1)))))
             m_reader.skip();
-        else if (startsWithPer()) {
-            m_reader.skip(2); // the third character is skipped as the sign would be
-            startDenominator();
-        }
     }
 
     bool startsWithPer() const
@@ -139,6 +146,9 @@ private:
             return refuse(Text::NumberInUnit, excerpt(m_reader.takeWhile(isNumeric)));
         if (m_reader.peek() == ')' && m_groups.empty())
             return refuse(Text::ParenthesisNotOpened);
+        if (!m_reader.atEnd() && std::string_view("/*.-^()").find(m_reader.peek()) == std::string_view::npos)
+            return refuse(Text::IllegalCharacter, nameOf(static_cast<unsigned char>(m_reader.peek())),
+                          FaultCode::IllegalCharacter);
         return refuse(Text::UnitMissing, excerpt(m_reader.from(0)));
     }
 
@@ -244,6 +254,12 @@ private:
         constexpr std::size_t shortestName = 3;
         if (m_spelling.size() < shortestName)
             return false;
+        const auto& builtIn = commonSpellings();
+        const bool inOtherCase = std::any_of(builtIn.begin(), builtIn.end(), [this](const std::string& one) {
+            return vxMat::equalIgnoringAsciiCase(one, m_spelling);
+        });
+        if (inOtherCase) // the names of the database ignore case, and some of its units have fewer digits
+            return false;
         auto found = findInDatabase(m_spelling);
         if (const auto* const fault = std::get_if<DatabaseFault>(&found)) {
             m_unit.failure =
@@ -302,6 +318,9 @@ private:
         const std::string_view digits = m_reader.from(begin);
         if (digits.empty())
             return refuse(Text::PowerMissing);
+        const char next = m_reader.peek(1);
+        if ((m_reader.peek() == 'e' || m_reader.peek() == 'E') && (isDigit(next) || next == '-' || next == '+'))
+            return refuse(Text::PowerWithExponent);
         const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), power);
         power = negative ? -power : power;
         return (read.ec == std::errc() && std::abs(power) <= largestPower) || refuse(Text::PowerTooLarge);

@@ -88,15 +88,6 @@ bool isSeparator(char c)
     return c == ',' || c == ';';
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
-}
-
 } // namespace
 
 /// Shared by the copies of a system.

@@ -94,6 +94,9 @@ TEST(ReadingLists, TakeOneUnitForAllOrOneForEach)
     EXPECT_THAT(readQuantityList(Id::PlasticYieldStress, "２５０，３００ MPa")->values, ElementsAre(250e6, 300e6));
     EXPECT_THAT(readQuantityList(Id::PlasticYieldStress, "250 MPa")->values, ElementsAre(250e6));
     EXPECT_THAT(readQuantityList(Id::PlasticYieldStress, "250, 300,")->values, ElementsAre(250, 300));
+    EXPECT_THAT(readQuantityList(Id::PlasticYieldStress, "250.5,300.25")->values, ElementsAre(250.5, 300.25));
+    EXPECT_THAT(readQuantityList(Id::PlasticStrain, "0.0,0.1")->values, ElementsAre(0.0, 0.1));
+    EXPECT_THAT(readQuantityList(Id::PlasticYieldStress, "250 MPa,300 MPa")->values, ElementsAre(250e6, 300e6));
 }
 
 TEST(ReadingLists, ShowWhatTheyBecome)
@@ -102,7 +105,7 @@ TEST(ReadingLists, ShowWhatTheyBecome)
     EXPECT_EQ(readQuantityList(Id::PlasticYieldStress, "250 MPa; 0.3 GPa")->understood,
               "250 MPa, 0.3 GPa = 2.5e+08, 3e+08 Pa");
     EXPECT_EQ(readQuantityList(Id::PlasticStrain, "0, 5 %")->understood, "0, 5 % = 0, 0.05");
-    EXPECT_EQ(readQuantityList(Id::PlasticYieldStress, "450,608")->understood, "450, 608 Pa");
+    EXPECT_EQ(readQuantityList(Id::PlasticYieldStress, "450,608,679")->understood, "450, 608, 679 Pa");
 }
 
 TEST(Reading, DoesNotDependOnTheLocale)

@@ -75,7 +75,11 @@ const Refusal refusals[] = {
     {e, "206\u2009900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
     {e, "206'900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
     {e, "206_900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
+    {e, "206’900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
     {e, "5 5 MPa", FaultCode::SeveralNumbers, ""},
+    {e, "1.5,5 Pa", FaultCode::SeveralNumbers, ""},
+    {e, "1.2 10^6 Pa", FaultCode::SeveralNumbers, "1.2*10^6 Pa"},
+    {e, "5'", FaultCode::IllegalCharacter, ""},
     {e, "1 0000 Pa", FaultCode::SeveralNumbers, ""},
     {e, "250, 300 MPa", FaultCode::SeveralNumbers, ""},
     {e, "1,2,3", FaultCode::SeveralNumbers, ""},
@@ -115,10 +119,19 @@ const Refusal refusals[] = {
     {mu, "0.89 mPas", FaultCode::UnknownUnit, "0.89 mPa s"},
     {mu, "0.89 Pas", FaultCode::UnknownUnit, "0.89 Pa s"},
     {cp, "0.49 kJ/kgK", FaultCode::UnknownUnit, "0.49 kJ/(kg K)"},
-    {k, "54 W/mK", FaultCode::WrongDimension, ""},
+    {k, "54 W/mK", FaultCode::WrongDimension, "54 W/(m K)"},
+    {k, "54 W/(mK)", FaultCode::WrongDimension, "54 W/(m K)"},
+    {e, "3e7 pounds per square inch", FaultCode::UnknownUnit, "3e7 lbf/in^2"},
+    {rho, "490 lb/cu ft", FaultCode::UnknownUnit, "490 lb/ft^3"},
+    {Id::SpeedOfSound, "60 mph", FaultCode::UnknownUnit, "60 mi/h"},
+    {nu, "30 pct", FaultCode::UnknownUnit, "30 %"},
+    {nu, "30%%", FaultCode::UnknownUnit, "30 %"},
+    {sigma, "100 % IACS", FaultCode::UnknownUnit, "100 %IACS"},
+    {e, "1 TORR", FaultCode::UnknownUnit, "1 Torr"},
+    {e, "210 [GPa]", FaultCode::IllegalCharacter, "210 GPa"},
     {e, "210 →", FaultCode::IllegalCharacter, ""},
     {e, "210 帕", FaultCode::IllegalCharacter, ""},
-    {e, "210 GPa!", FaultCode::MalformedUnit, ""},
+    {e, "210 GPa!", FaultCode::IllegalCharacter, ""},
     {e, "210 \xFF", FaultCode::BadEncoding, ""},
     {e, "210 \xC3(", FaultCode::BadEncoding, ""},
     {e, "210 \xED\xA0\x80", FaultCode::BadEncoding, ""},
@@ -133,6 +146,7 @@ const Refusal refusals[] = {
     {e, "210 N/mm^", FaultCode::MalformedUnit, ""},
     {e, "210 N/mm^x", FaultCode::MalformedUnit, ""},
     {e, "210 N/mm^99", FaultCode::MalformedUnit, ""},
+    {e, "210 Pa^1e3", FaultCode::MalformedUnit, ""},
     {e, "210 N//mm^2", FaultCode::MalformedUnit, ""},
     {e, "210 N/2", FaultCode::MalformedUnit, ""},
     {e, "1/2 psi", FaultCode::MalformedUnit, ""},
@@ -205,10 +219,43 @@ TEST(Refusals, NamesTheThingItsValueAndWhatToDo)
               "\"2e-8 ohm.m\" measures electrical resistivity; Electrical conductivity is its reciprocal and needs a "
               "unit such "
               "as S/m. Did you mean \"5e+07 S/m\"?");
-    EXPECT_EQ(
-        readQuantity(Id::CreepModulusA, "1 h").failure().message.text(),
-        "The unit of Creep Modulus A depends on Creep Modulus N and Creep Modulus M, which are not given; write the "
-        "number without a unit.");
+    EXPECT_EQ(readQuantity(Id::CreepModulusA, "1 h").failure().message.text(),
+              "The unit of Creep Modulus A depends on Creep Modulus N and Creep Modulus M, which are not given or not "
+              "between "
+              "-50 and 50; write the number without a unit.");
+}
+
+TEST(Refusals, QuoteWhatWasTyped)
+{
+    EXPECT_EQ(readQuantity(nu, "0 10 %").failure().message.arguments.front(), "0 10 %");
+    EXPECT_EQ(readQuantityList(Id::PlasticStrain, "0 10 20 %").failure().message.arguments.front(), "0 10 20 %");
+    EXPECT_EQ(readQuantity(e, "210 [GPa]").failure().message.arguments,
+              (std::vector<std::string>{"210 [GPa]", "U+005B"}));
+}
+
+TEST(Refusals, OfAListSayWhichNumberHasNoUnit)
+{
+    const auto reading = readQuantityList(Id::PlasticStrain, "0, 5 %, 10 %");
+    ASSERT_FALSE(reading);
+    EXPECT_EQ(reading.failure().message.arguments.front(), "0");
+}
+
+TEST(Refusals, OfADoubtfulCommaGiveBothReadings)
+{
+    EXPECT_EQ(readQuantityList(Id::PlasticYieldStress, "0,25 GPa").failure().text(),
+              "The comma in \"0,25 GPa\" may be a decimal sign or separate two numbers; write \"0.25 GPa\" or "
+              "\"0, 25 GPa\".");
+}
+
+TEST(Refusals, ADifferenceDoesNotBecomeATemperature)
+{
+    const Unit celsius = *Unit::parse("degC");
+    const auto reading = readNumber("20 delta_degC", celsius, TemperatureMeaning::Absolute);
+    ASSERT_FALSE(reading);
+    EXPECT_EQ(reading.failure().code, FaultCode::TemperatureScale);
+    EXPECT_EQ(reading.failure().suggestion, "20 degC");
+    EXPECT_FALSE(readNumber("20 degC", *Unit::parse("delta_degC"), TemperatureMeaning::Absolute));
+    EXPECT_EQ(readNumber("20 delta_degC", *Unit::parse("K"), TemperatureMeaning::Absolute)->value, 20.0);
 }
 
 TEST(Refusals, AMessageKeepsItsArgumentsApartForTranslation)
@@ -269,6 +316,16 @@ TEST(Refusals, OfListsNameTheNumber)
         {"5 5 MPa", FaultCode::SeveralNumbers, "5, 5 MPa"},
         {"250; 300,5 MPa", FaultCode::DecimalComma, "250; 300.5 MPa"},
         {"0, 0,05, 0,1", FaultCode::DecimalComma, "0, 0.05, 0.1"},
+        {"1 000, 2 000, 3 000 MPa", FaultCode::ThousandsSeparator, "1000, 2000, 3000 MPa"},
+        {"20 000 MPa", FaultCode::ThousandsSeparator, "20000 MPa"},
+        {"1 000 2 000 MPa", FaultCode::SeveralNumbers, ""},
+        {"1,000, 2,000 MPa", FaultCode::ThousandsSeparator, "1000, 2000 MPa"},
+        {"1,000 2,000 MPa", FaultCode::ThousandsSeparator, "1000, 2000 MPa"},
+        {"250, 300, MPa", FaultCode::NumberMissing, "250, 300 MPa"},
+        {"0,1", FaultCode::DecimalComma, ""},
+        {"250,5 MPa", FaultCode::DecimalComma, ""},
+        {"2,5e2, 3e2", FaultCode::DecimalComma, "2.5e2, 3e2"},
+        {"1\n2,5\n3", FaultCode::DecimalComma, "1\n2.5\n3"},
         {"250, 300 GPas", FaultCode::UnknownUnit, "250, 300 GPa"},
         {"250, 300 kg", FaultCode::WrongDimension, ""},
         {"250, x", FaultCode::NumberMissing, ""},

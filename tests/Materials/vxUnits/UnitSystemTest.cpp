@@ -131,6 +131,8 @@ TEST(UnitSystems, TheUnitOfCreepFollowsFromItsExponents)
 {
     const vxUnits::CreepExponents exponents{5.0, 0.0};
     EXPECT_EQ(UnitSystem::si().unitOfCreep(exponents).text(), "1/(Pa^5 s)");
+    EXPECT_EQ(UnitSystem::si().unitOfCreep({1.0, -0.667}).text(), "1/(Pa s^0.333)");
+    EXPECT_TRUE(std::isnan(UnitSystem::si().unitOfCreep({2147483648.0, 1e300}).factor()));
     EXPECT_EQ(parsed("mm-t-s").unitOfCreep(exponents).text(), "1/(MPa^5 s)");
     EXPECT_EQ(parsed("in-lbf-s").unitOfCreep({4.5, -0.5}).text(), "1/(psi^4.5 s^0.5)");
     EXPECT_EQ(parsed("mm-kg-ms").unitOfCreep({1.0, -1.0}).text(), "1/GPa");

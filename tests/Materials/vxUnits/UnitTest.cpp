@@ -56,6 +56,13 @@ TEST(UnitText, IsWrittenAsEngineersDo)
         {"kp/mm^2", "kgf/mm^2"},
         {"1 / ( h ft degF )", "1/(h ft degF)"},
         {"J per kg per K", "J/(kg K)"},
+        {"per K", "1/K"},
+        {"s/s^0.667", "s^0.333"},
+        {"millibar", "mbar"},
+        {"kilobars", "kbar"},
+        {"microohm cm", "uOhm cm"},
+        {"microstrain", "ustrain"},
+        {"BAR", "bar"},
     };
     for (const auto& [typed, written] : texts)
         EXPECT_EQ(unit(typed).text(), written) << typed;
@@ -228,6 +235,16 @@ TEST(Database, IsReadForAUnitThatIsNotBuiltIn)
     EXPECT_EQ(furlong.note().text(),
               "\"furlong\" is taken from the database of UDUNITS, with as many digits as it has there.");
     EXPECT_EQ(unit("acre").dimension(), d::area);
+}
+
+TEST(Database, DoesNotReplaceABuiltInUnitInOtherLetters)
+{
+    for (const char* const text : {"Slug", "TORR", "GAL", "Gal", "KIP", "SEC"}) {
+        const auto parsed = Unit::parse(text);
+        ASSERT_FALSE(parsed) << text;
+        EXPECT_FALSE(parsed.failure().suggestion.empty()) << text;
+    }
+    EXPECT_EQ(Unit::parse("Slug").failure().suggestion, "slug");
 }
 
 TEST(Database, GivesNoScalesAndNoTemperaturesOfItsOwn)

@@ -6,6 +6,7 @@
 #include "vxUnits/UnitsExport.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,6 +28,8 @@ public:
     VXUNITS_EXPORT void setList(std::int32_t id, std::vector<double> numbers);
     VXUNITS_EXPORT void setWord(std::int32_t id, std::string word);
     VXUNITS_EXPORT void setSwitch(std::int32_t id);
+    /// Replaces each number of a quantity, alone or in a list, by its image. Does nothing without the quantity.
+    VXUNITS_EXPORT void transform(std::int32_t id, const std::function<double(double)>& image);
 
     VXUNITS_EXPORT bool has(std::int32_t id) const;
     /// Returns the number of a quantity; absent if there is none, or if its value is not a number.

@@ -76,6 +76,8 @@ constexpr MessageText remedyFits{"plausibility.remedy-fits", "%1 would not be do
 constexpr MessageText remedyReciprocal{"plausibility.remedy-reciprocal",
                                        "%1 is usual for the resistivity of %2: take the reciprocal"};
 constexpr MessageText remedyStresses{"plausibility.remedy-stresses", "The stresses look like %1: convert them"};
+constexpr MessageText remedySheet{"plausibility.remedy-sheet",
+                                  "The stresses look like %1, and the density like %2: convert them"};
 constexpr MessageText remedySystem{"plausibility.remedy-system", "The values look like %1: convert the material"};
 
 std::string nameOf(std::int32_t id)
@@ -90,11 +92,26 @@ std::string unitOf(std::int32_t id, const MaterialValues& values)
     return unit ? unit->text() : std::string("1");
 }
 
-/// Returns a number with six digits, which are enough for a doubt, and its unit.
+/// Returns a number with six digits, which are enough for a doubt.
+double sixDigits(double number)
+{
+    return std::isfinite(number) ? vxMat::readNumber(vxMat::formatGeneral(number)) : number;
+}
+
+/// Returns a number with six digits and its unit. A relation of numbers at the ends of the range may be out of range.
 std::string rounded(double number, const std::string& unit)
 {
-    const double shown = std::isfinite(number) ? vxMat::readNumber(vxMat::formatGeneral(number)) : number;
-    return vxMat::formatNumber(shown) + (unit == "1" || unit.empty() ? "" : " " + unit);
+    const std::string text = std::isinf(number) ? "> 1e308" : vxMat::formatNumber(sixDigits(number));
+    return text + (unit == "1" || unit.empty() ? "" : " " + unit);
+}
+
+/// Returns the first numbers of a list, and "..." if there are more.
+std::string listText(const std::vector<double>& list)
+{
+    constexpr std::size_t most = 8;
+    const std::vector<double> first(list.begin(),
+                                    list.begin() + static_cast<std::ptrdiff_t>(std::min(list.size(), most)));
+    return vxMat::formatNumberList(first) + (list.size() > most ? ", ..." : "");
 }
 
 std::string valueText(std::int32_t id, const MaterialValues& values)
@@ -103,10 +120,17 @@ std::string valueText(std::int32_t id, const MaterialValues& values)
     const auto& list = values.list(id);
     if (list.empty())
         return vxMat::formatNumber(values.number(id).value_or(0.0)) + (unit == "1" ? "" : " " + unit);
-    constexpr std::size_t most = 8;
-    const std::vector<double> first(list.begin(),
-                                    list.begin() + static_cast<std::ptrdiff_t>(std::min(list.size(), most)));
-    return vxMat::formatNumberList(first) + (list.size() > most ? ", ..." : "") + (unit == "1" ? "" : " " + unit);
+    return listText(list) + (unit == "1" ? "" : " " + unit);
+}
+
+/// Returns the number or the list of a quantity with six digits, in the unit that a remedy assumes.
+std::string typedText(const Change& change, const MaterialValues& values)
+{
+    std::vector<double> numbers = values.list(change.id);
+    if (numbers.empty())
+        return rounded(values.number(change.id).value_or(0.0), change.unit);
+    std::transform(numbers.begin(), numbers.end(), numbers.begin(), sixDigits);
+    return listText(numbers) + " " + change.unit;
 }
 
 std::string othersText(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
@@ -159,8 +183,8 @@ Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues&
     doubt.value =
         blamed == finding.ids[0] ? finding.value : values.number(blamed).value_or(list.empty() ? 0.0 : list.front());
     if (finding.lowest != finding.highest) {
-        doubt.lowest = lowest;
-        doubt.highest = highest;
+        doubt.lowest = std::isinf(finding.lowest) ? std::string() : lowest;
+        doubt.highest = std::isinf(finding.highest) ? std::string() : highest;
     }
     doubt.severity = finding.severity;
     doubt.message = {rule.text.id,
@@ -175,12 +199,12 @@ Message remedyMessage(const Slip& slip, const MaterialValues& values, const Mate
 {
     if (!slip.system.empty())
         return {remedySystem.id, remedySystem.english, {slip.system}};
+    if (!slip.density.empty())
+        return {remedySheet.id, remedySheet.english, {slip.unit, slip.density}};
     if (!slip.unit.empty())
         return {remedyStresses.id, remedyStresses.english, {slip.unit}};
     const Change& change = slip.changes.front();
-    const auto& list = values.list(change.id);
-    const double number = values.number(change.id).value_or(list.empty() ? 0.0 : list.front());
-    const std::string typed = vxMat::formatNumber(number) + " " + change.unit;
+    const std::string typed = typedText(change, values);
     const Feature feature = featureOf(change.id);
     const bool usual = kind != nullptr && feature != Feature::Count && kind->span(feature).known();
     if (change.reciprocal)
@@ -195,7 +219,7 @@ void addDoubtTexts(std::vector<MessageText>& texts)
 {
     for (const RuleText& one : ruleTexts)
         texts.push_back(one.text);
-    texts.insert(texts.end(), {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySystem});
+    texts.insert(texts.end(), {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySheet, remedySystem});
 }
 
 } // namespace vxUnits

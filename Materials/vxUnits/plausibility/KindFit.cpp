@@ -43,11 +43,22 @@ void addInitialModuli(Features& features, const MaterialValues& values)
             (3.0 * *moduli->bulk - 2.0 * moduli->shear) / (6.0 * *moduli->bulk + 2.0 * moduli->shear);
 }
 
+/// The span of a feature as in Features; not a number if it is not known.
 struct LogSpan
 {
     double lowest;
     double highest;
+
+    bool known() const { return !std::isnan(lowest); }
 };
+
+/// Returns the span of the wave speed that follows from those of modulus and density.
+LogSpan waveSpeedOf(const MaterialKind& kind)
+{
+    const Span& modulus = kind.span(Feature::YoungsModulus);
+    const Span& density = kind.span(Feature::Density);
+    return {0.5 * logarithm(modulus.lowest / density.highest), 0.5 * logarithm(modulus.highest / density.lowest)};
+}
 
 /// Returns the spans of the kinds as logarithms, as in Features.
 const std::vector<std::array<LogSpan, featureCount>>& logSpans()
@@ -59,9 +70,12 @@ const std::vector<std::array<LogSpan, featureCount>>& logSpans()
             for (std::size_t i = 0; i < featureCount; ++i) {
                 const Span& span = kind.spans[i];
                 const bool ratio = i == static_cast<std::size_t>(Feature::PoissonsRatio);
-                row[i] = ratio ? LogSpan{span.lowest, span.highest}
-                               : LogSpan{logarithm(span.lowest), logarithm(span.highest)};
+                row[i] = ratio && span.known() ? LogSpan{span.lowest, span.highest}
+                                               : LogSpan{logarithm(span.lowest), logarithm(span.highest)};
             }
+            LogSpan& waveSpeed = row[static_cast<std::size_t>(Feature::WaveSpeed)];
+            if (!waveSpeed.known())
+                waveSpeed = waveSpeedOf(kind);
         }
         return all;
     }();
@@ -81,7 +95,7 @@ bool isOfSolids(std::size_t feature)
 
 double misfitOf(std::size_t feature, double value, const MaterialKind& kind, const LogSpan& span)
 {
-    if (!kind.spans[feature].known()) {
+    if (!span.known()) {
         const bool other = kind.isFluid() ? isOfSolids(feature) : isOfFluids(feature);
         return other ? otherState : missing;
     }
@@ -123,13 +137,17 @@ KindFit nearestKind(const Features& features)
     }
     const auto& kinds = materialKinds();
     const auto& spans = logSpans();
-    KindFit nearest{nullptr, HUGE_VAL};
+    KindFit nearest{nullptr, HUGE_VAL, HUGE_VAL};
     for (std::size_t k = 0; k < kinds.size(); ++k) {
         double misfit = 0.0;
-        for (std::size_t i = 0; i < present.size() && misfit < nearest.misfit; ++i)
+        for (std::size_t i = 0; i < present.size() && misfit < nearest.cost; ++i)
             misfit += misfitOf(present[i], features[present[i]], kinds[k], spans[k][present[i]]);
-        if (misfit < nearest.misfit)
-            nearest = {&kinds[k], misfit};
+        const double cost = misfit + kinds[k].rareness;
+        if (cost < nearest.cost) {
+            nearest.kind = &kinds[k];
+            nearest.cost = cost;
+        }
+        nearest.misfit = std::min(nearest.misfit, misfit);
     }
     return nearest;
 }

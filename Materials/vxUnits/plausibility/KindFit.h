@@ -16,8 +16,10 @@ Features featuresOf(const MaterialValues& values);
 /// The kind that is nearest to a material.
 struct KindFit
 {
-    const MaterialKind* kind = nullptr;
-    double misfit = 0.0; ///< below 1 inside the spans; grows by the square of the distance from them
+    const MaterialKind* kind = nullptr; ///< the most likely one: a common kind is taken before a rare one
+    double misfit =
+        0.0;           ///< of the nearest kind: below 1 inside the spans; grows by the square of the distance from them
+    double cost = 0.0; ///< the misfit of `kind` with its rareness
 };
 
 KindFit nearestKind(const Features& features);

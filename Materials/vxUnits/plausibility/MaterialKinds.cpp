@@ -17,14 +17,21 @@ constexpr Span none{};
 constexpr MaterialKind solid(const char* name, Span density, Span modulus, Span ratio, Span strength, Span heat,
                              Span conductivity, Span electrical, Span waveSpeed = none)
 {
-    return {name, {density, modulus, ratio, strength, heat, conductivity, electrical, none, none, waveSpeed}};
+    return {name, {density, modulus, ratio, strength, heat, conductivity, electrical, none, none, waveSpeed}, 1.0};
+}
+
+/// One of the kinds that most models are made of.
+constexpr MaterialKind common(MaterialKind kind)
+{
+    kind.rareness = 0.0;
+    return kind;
 }
 
 /// A fluid: density, speed of sound, specific heat, thermal conductivity, dynamic viscosity, electrical conductivity.
 constexpr MaterialKind fluid(const char* name, Span density, Span sound, Span heat, Span conductivity, Span viscosity,
                              Span electrical)
 {
-    return {name, {density, none, none, none, heat, conductivity, electrical, sound, viscosity, none}};
+    return {name, {density, none, none, none, heat, conductivity, electrical, sound, viscosity, none}, 1.0};
 }
 
 /// Sources: Ashby, Materials Selection in Mechanical Design, 4th ed., 2011, appendix A, and the Cambridge Materials Data
@@ -34,18 +41,19 @@ constexpr MaterialKind fluid(const char* name, Span density, Span sound, Span he
 /// 2nd ed.; NIST Chemistry WebBook (fluids); OECD NEA Handbook on Lead-bismuth Eutectic, 2015 (liquid metals).
 constexpr MaterialKind table[] = {
     // Metals
-    solid("steel", {7650, 7950}, {188e9, 220e9}, {.26, .32}, {150e6, 2.4e9}, {420, 530}, {24, 75}, {2e6, 1.05e7}),
-    solid("stainless steel", {7500, 8150}, {183e9, 216e9}, {.25, .33}, {160e6, 2.1e9}, {430, 530}, {10, 32},
-          {9e5, 2e6}),
-    solid("cast iron", {6800, 7450}, {65e9, 182e9}, {.2, .31}, {60e6, 1.2e9}, {420, 560}, {18, 80}, {6e5, 3e6}),
-    solid("aluminium alloy", {2500, 2900}, {65e9, 83e9}, {.31, .36}, {10e6, 700e6}, {830, 980}, {80, 245},
-          {1.2e7, 3.9e7}),
+    common(
+        solid("steel", {7650, 7950}, {188e9, 220e9}, {.26, .32}, {150e6, 2.4e9}, {420, 530}, {24, 75}, {2e6, 1.05e7})),
+    common(solid("stainless steel", {7500, 8150}, {183e9, 216e9}, {.25, .33}, {160e6, 2.1e9}, {430, 530}, {10, 32},
+                 {9e5, 2e6})),
+    common(solid("cast iron", {6800, 7450}, {65e9, 182e9}, {.2, .31}, {60e6, 1.2e9}, {420, 560}, {18, 80}, {6e5, 3e6})),
+    common(solid("aluminium alloy", {2500, 2900}, {65e9, 83e9}, {.31, .36}, {10e6, 700e6}, {830, 980}, {80, 245},
+                 {1.2e7, 3.9e7})),
     solid("magnesium alloy", {1340, 1950}, {40e9, 49e9}, {.27, .37}, {40e6, 420e6}, {930, 1110}, {40, 165},
           {4e6, 2.5e7}),
-    solid("titanium alloy", {4300, 5150}, {55e9, 128e9}, {.29, .39}, {120e6, 1.6e9}, {450, 730}, {4.5, 24},
-          {4.5e5, 2.7e6}),
-    solid("copper alloy", {7300, 8990}, {90e9, 160e9}, {.29, .37}, {25e6, 1.5e9}, {360, 450}, {18, 410},
-          {1.7e6, 6.1e7}),
+    common(solid("titanium alloy", {4300, 5150}, {55e9, 128e9}, {.29, .39}, {120e6, 1.6e9}, {450, 730}, {4.5, 24},
+                 {4.5e5, 2.7e6})),
+    common(solid("copper alloy", {7300, 8990}, {90e9, 160e9}, {.29, .37}, {25e6, 1.5e9}, {360, 450}, {18, 410},
+                 {1.7e6, 6.1e7})),
     solid("nickel alloy", {7600, 9350}, {140e9, 250e9}, {.26, .35}, {60e6, 2e9}, {370, 550}, {7, 98}, {5e5, 1.6e7}),
     solid("cobalt alloy", {8100, 9350}, {190e9, 255e9}, {.27, .34}, {220e6, 2.2e9}, {370, 460}, {8, 105}, {8e5, 1.8e7}),
     solid("zinc alloy", {4900, 7250}, {60e9, 115e9}, {.23, .35}, {30e6, 480e6}, {360, 540}, {80, 140}, {8e6, 1.9e7}),
@@ -96,7 +104,7 @@ constexpr MaterialKind table[] = {
     solid("germanium or gallium arsenide", {5250, 5450}, {75e9, 160e9}, {.19, .34}, {40e6, 4e9}, {300, 360}, {35, 68},
           {1e-7, 2e5}),
     solid("diamond", {3300, 3570}, {700e9, 1300e9}, {.04, .24}, {400e6, 6e10}, {450, 660}, {400, 3400}, {1e-19, 1e4}),
-    solid("glass", {2100, 5200}, {44e9, 100e9}, {.14, .31}, {20e6, 3e9}, {480, 950}, {.6, 1.6}, {1e-19, 1e-7}),
+    common(solid("glass", {2100, 5200}, {44e9, 100e9}, {.14, .31}, {20e6, 3e9}, {480, 950}, {.6, 1.6}, {1e-19, 1e-7})),
     solid("glass ceramic", {2350, 2900}, {55e9, 140e9}, {.2, .32}, {30e6, 2e9}, {650, 1000}, {1, 5}, {1e-17, 1e-7}),
     solid("porcelain or clay ceramic", {1900, 2800}, {15e9, 160e9}, {.13, .32}, {10e6, 1.5e9}, {650, 1150}, {.7, 6},
           {1e-16, 1e-6}),
@@ -108,23 +116,23 @@ constexpr MaterialKind table[] = {
     solid("nuclear oxide", {9800, 11200}, {150e9, 235e9}, {.28, .34}, {50e6, 1.5e9}, {210, 340}, {2, 11}, {1e-7, 1e2}),
     solid("carbon or graphite", {1400, 2270}, {3.5e9, 36e9}, {.06, .36}, {8e6, 600e6}, {620, 1100}, {2, 500},
           {5e3, 2.5e6}),
-    solid("concrete", {1900, 2700}, {9e9, 65e9}, {.08, .29}, {1e6, 220e6}, {720, 1200}, {.7, 3.6}, {1e-9, 1e-1},
-          {1900, 5300}),
+    common(solid("concrete", {1900, 2700}, {9e9, 65e9}, {.08, .29}, {1e6, 220e6}, {720, 1200}, {.7, 3.6}, {1e-9, 1e-1},
+                 {1900, 5300})),
     solid("light concrete", {280, 2050}, {.4e9, 24e9}, {.08, .3}, {.4e6, 70e6}, {780, 1250}, {.06, 1.3}, {1e-9, 1e-1},
           {800, 4300}),
     solid("mortar, plaster or brick", {600, 2450}, {.8e9, 52e9}, {.06, .32}, {.2e6, 150e6}, {720, 1250}, {.13, 1.9},
           {1e-10, 1e-1}, {900, 5000}),
     solid("rock", {1700, 3450}, {1e9, 180e9}, {.05, .4}, {.5e6, 500e6}, {620, 1200}, {.6, 9}, {1e-12, 1e0},
           {500, 7700}),
-    solid("soil", {900, 2400}, {.5e6, 1.5e9}, {.05, .498}, {.5e3, 2e6}, {650, 2700}, {.12, 4.5}, {1e-6, 1e1},
-          {8, 1000}),
+    common(solid("soil", {900, 2400}, {.5e6, 1.5e9}, {.05, .498}, {.5e3, 2e6}, {650, 2700}, {.12, 4.5}, {1e-6, 1e1},
+                 {8, 1000})),
     solid("ice", {860, 935}, {3e9, 12e9}, {.27, .4}, {.3e6, 30e6}, {1850, 2200}, {1.8, 3.2}, {1e-10, 1e-4}),
     solid("snow", {40, 700}, {5e4, 3e9}, {.02, .4}, {1e3, 5e6}, {1850, 2200}, {.02, 1.2}, none, {25, 2400}),
     solid("asphalt", {1900, 2650}, {.05e9, 25e9}, {.2, .5}, {.1e6, 30e6}, {780, 1300}, {.4, 2.9}, {1e-14, 1e-4}),
 
     // Living and grown
-    solid("wood, along the grain", {70, 1400}, {1e9, 30e9}, {.1, .6}, {2e6, 180e6}, {1050, 3000}, {.035, .8},
-          {1e-17, 1e-2}, {2200, 6600}),
+    common(solid("wood, along the grain", {70, 1400}, {1e9, 30e9}, {.1, .6}, {2e6, 180e6}, {1050, 3000}, {.035, .8},
+                 {1e-17, 1e-2}, {2200, 6600})),
     solid("wood, across the grain, or board", {70, 1450}, {.03e9, 6e9}, {.01, .7}, {.3e6, 60e6}, {1050, 3000},
           {.03, .5}, {1e-17, 1e-2}, {350, 4400}),
     solid("bamboo", {450, 1100}, {5e9, 28e9}, {.15, .5}, {10e6, 350e6}, {1100, 2800}, {.08, .5}, {1e-14, 1e-2}),
@@ -139,17 +147,17 @@ constexpr MaterialKind table[] = {
           {.2, .7}, {1e-4, 5e0}, {5, 1400}),
 
     // Plastics and composites
-    solid("plastic", {980, 1550}, {.9e9, 6e9}, {.3, .46}, {12e6, 160e6}, {900, 2000}, {.1, .5}, {1e-20, 1e-6},
-          {780, 2300}),
-    solid("polyolefin", {820, 1000}, {.05e9, 2.3e9}, {.36, .49}, {3e6, 55e6}, {1600, 2700}, {.1, .6}, {1e-20, 1e-8},
-          {230, 1650}),
+    common(solid("plastic", {980, 1550}, {.9e9, 6e9}, {.3, .46}, {12e6, 160e6}, {900, 2000}, {.1, .5}, {1e-20, 1e-6},
+                 {780, 2300})),
+    common(solid("polyolefin", {820, 1000}, {.05e9, 2.3e9}, {.36, .49}, {3e6, 55e6}, {1600, 2700}, {.1, .6},
+                 {1e-20, 1e-8}, {230, 1650})),
     solid("fluoropolymer", {1650, 2300}, {.25e9, 3e9}, {.34, .49}, {5e6, 80e6}, {850, 1450}, {.1, .4}, {1e-25, 1e-8}),
-    solid("reinforced or filled plastic", {1000, 2600}, {1.5e9, 40e9}, {.22, .45}, {15e6, 450e6}, {750, 1800},
-          {.15, 25}, {1e-18, 1e3}, {1000, 5500}),
+    common(solid("reinforced or filled plastic", {1000, 2600}, {1.5e9, 40e9}, {.22, .45}, {15e6, 450e6}, {750, 1800},
+                 {.15, 25}, {1e-18, 1e3}, {1000, 5500})),
     solid("soft plastic", {850, 1450}, {3e6, 1.2e9}, {.37, .4995}, {1.5e6, 80e6}, {1100, 2500}, {.1, .4}, {1e-19, 1e-4},
           {40, 1000}),
-    solid("rubber", {820, 2150}, {.15e6, 150e6}, {.43, .49999}, {.3e6, 60e6}, {900, 2600}, {.08, 1.8}, {1e-18, 1e3},
-          {8, 450}),
+    common(solid("rubber", {820, 2150}, {.15e6, 150e6}, {.43, .49999}, {.3e6, 60e6}, {900, 2600}, {.08, 1.8},
+                 {1e-18, 1e3}, {8, 450})),
     solid("ebonite", {1080, 1500}, {.4e9, 4e9}, {.33, .46}, {15e6, 90e6}, {1100, 1700}, {.13, .3}, {1e-18, 1e-9}),
     solid("carbon fibre composite", {1300, 1900}, {4e9, 420e9}, {.02, .6}, {20e6, 4e9}, {650, 1300}, {.3, 120},
           {1e0, 2e5}, {1600, 16000}),
@@ -172,12 +180,12 @@ constexpr MaterialKind table[] = {
     solid("honeycomb", {12, 250}, {3e6, 4e9}, {0, .5}, {.1e6, 30e6}, {750, 1700}, {.03, 12}, none, {350, 5200}),
 
     // Liquids
-    fluid("water or aqueous solution", {930, 1350}, {1350, 2000}, {2300, 4350}, {.38, .72}, {2e-4, 3e-2},
-          {1e-7, 1.5e2}),
+    common(fluid("water or aqueous solution", {930, 1350}, {1350, 2000}, {2300, 4350}, {.38, .72}, {2e-4, 3e-2},
+                 {1e-7, 1.5e2})),
     fluid("alcohol, hydrocarbon or solvent", {580, 1280}, {850, 1700}, {1300, 3100}, {.08, .28}, {1.5e-4, 6e-2},
           {1e-17, 1e-2}),
     fluid("halogenated liquid", {1100, 3400}, {420, 1250}, {350, 1500}, {.04, .15}, {1.5e-4, 3e-2}, {1e-16, 1e-6}),
-    fluid("oil", {750, 1050}, {900, 1700}, {1300, 2700}, {.09, .22}, {2e-3, 8}, {1e-16, 1e-7}),
+    common(fluid("oil", {750, 1050}, {900, 1700}, {1300, 2700}, {.09, .22}, {2e-3, 8}, {1e-16, 1e-7})),
     fluid("syrup, glycol or glycerol", {1000, 1550}, {1400, 2300}, {1500, 3700}, {.18, .5}, {8e-3, 100}, {1e-9, 1e0}),
     fluid("blood, milk or suspension", {980, 1300}, {1350, 1800}, {2800, 4200}, {.38, .68}, {8e-4, 5e-2}, {1e-2, 1e1}),
     fluid("mercury", {13300, 13700}, {1350, 1500}, {132, 145}, {6, 13}, {1e-3, 2e-3}, {8e5, 1.2e6}),
@@ -194,7 +202,8 @@ constexpr MaterialKind table[] = {
     // Gases at atmospheric pressure
     fluid("hydrogen or helium", {.065, .22}, {850, 1400}, {5000, 15000}, {.13, .2}, {8e-6, 2.2e-5}, none),
     fluid("light gas", {.35, 1.0}, {380, 520}, {1000, 2400}, {.019, .06}, {8e-6, 3.4e-5}, none),
-    fluid("air or a similar gas", {1.0, 1.55}, {300, 365}, {700, 1700}, {.015, .03}, {8e-6, 2.4e-5}, {1e-16, 1e-9}),
+    common(fluid("air or a similar gas", {1.0, 1.55}, {300, 365}, {700, 1700}, {.015, .03}, {8e-6, 2.4e-5},
+                 {1e-16, 1e-9})),
     fluid("heavy gas", {1.4, 14}, {75, 340}, {90, 1900}, {.0045, .021}, {6e-6, 2.7e-5}, none),
     fluid("hot gas", {.1, 1.1}, {330, 1000}, {900, 2600}, {.02, .16}, {1.2e-5, 8e-5}, none),
     fluid("compressed gas", {1.5, 350}, {130, 650}, {450, 4000}, {.009, .1}, {8e-6, 6e-5}, none),

@@ -37,6 +37,7 @@ struct MaterialKind
 {
     const char* name = ""; ///< a word for messages: "steel"
     std::array<Span, featureCount> spans;
+    double rareness = 1.0; ///< 0 for the common kinds of a desk, which are more likely than others
 
     const Span& span(Feature feature) const { return spans[static_cast<std::size_t>(feature)]; }
     bool isFluid() const { return span(Feature::Viscosity).known(); }

@@ -62,7 +62,7 @@ View viewOf(const MaterialValues& values, Trust trust)
                             view.findings.end());
     }
     view.fit = nearestKind(features);
-    view.cost += view.fit.misfit;
+    view.cost += view.fit.cost;
     for (const Finding& finding : view.findings)
         view.cost += costOf(finding);
     return view;
@@ -290,15 +290,8 @@ void applyRemedy(const Remedy& remedy, vxMat::MaterialBase& material)
 
 void applyRemedy(const Remedy& remedy, MaterialValues& values)
 {
-    for (const Change& change : remedy.changes) {
-        if (const auto number = values.number(change.id))
-            values.setNumber(change.id, change.apply(*number));
-        std::vector<double> list = values.list(change.id);
-        if (list.empty())
-            continue;
-        std::transform(list.begin(), list.end(), list.begin(), [&](double one) { return change.apply(one); });
-        values.setList(change.id, std::move(list));
-    }
+    for (const Change& change : remedy.changes)
+        values.transform(change.id, [&change](double number) { return change.apply(number); });
 }
 
 } // namespace vxUnits

@@ -67,10 +67,15 @@ constexpr UsualUnit usualUnits[] = {
     {d::none, "%", 0.0},
 };
 
-/// Returns whether a number may be in percent. Exponents and stretches are not.
-bool mayBePercent(std::int32_t id)
+/// Returns whether the number of a quantity may be in percent. Exponents and stretches are not; a Poisson's ratio and a
+/// share are only if they are too large otherwise.
+bool mayBePercent(std::int32_t id, const MaterialValues& values)
 {
-    return id == Id::PoissonsRatio || id == Id::PlasticStrain || id == Id::ShearRelaxationModulus;
+    constexpr double largestRatio = 0.5;
+    constexpr double largestShare = 1.0;
+    const double size = std::abs(values.number(id).value_or(0.0));
+    return id == Id::PlasticStrain || (id == Id::PoissonsRatio && size > largestRatio) ||
+           (id == Id::ShearRelaxationModulus && size > largestShare);
 }
 
 struct ParsedUnit
@@ -98,26 +103,33 @@ const std::vector<ParsedUnit>& parsedUnits()
 }
 
 /// Adds the slips of one quantity.
-void addOwn(std::vector<Slip>& slips, std::int32_t id, const Quantity& quantity)
+void addOwn(std::vector<Slip>& slips, std::int32_t id, const MaterialValues& values)
 {
+    const Dimension& dimension = findQuantity(id)->dimension;
+    if (dimension.isNone() && !mayBePercent(id, values))
+        return;
     for (const ParsedUnit& unit : parsedUnits()) {
-        if (unit.dimension != quantity.dimension || (quantity.dimension.isNone() && !mayBePercent(id)))
+        if (unit.dimension != dimension)
             continue;
-        slips.push_back({{{id, unit.text, unit.factor, unit.reciprocal}}, "", "", unit.rareness});
+        slips.push_back({{{id, unit.text, unit.factor, unit.reciprocal}}, "", "", unit.rareness, ""});
     }
 }
 
-/// Returns the change of the creep factor from other units of stress and time; absent if there is no such unit.
-std::optional<Change> creepChange(const CreepExponents& creep, const std::string& stress, const std::string& time)
+/// Returns the change of the creep factor from other units of stress and time; absent if the material has no factor, or if
+/// there is no such unit.
+std::optional<Change> creepChange(const MaterialValues& values, const std::string& stress, const std::string& time)
 {
+    const auto creep = values.creepExponents();
+    if (!creep || !values.has(Id::CreepModulusA))
+        return std::nullopt;
     const auto power = [](double exponent) { return "^(" + vxMat::formatNumber(exponent) + ") "; };
-    const auto unit = Unit::parse(stress + power(-creep.n) + time + power(-creep.m - 1.0));
+    const auto unit = Unit::parse(stress + power(-creep->n) + time + power(-creep->m - 1.0));
     if (!unit)
         return std::nullopt;
     return Change{Id::CreepModulusA, unit->text(), unit->factor(), false};
 }
 
-void addCreep(std::vector<Slip>& slips, const CreepExponents& creep)
+void addCreep(std::vector<Slip>& slips, const MaterialValues& values)
 {
     struct Usual
     {
@@ -127,54 +139,98 @@ void addCreep(std::vector<Slip>& slips, const CreepExponents& creep)
     };
     constexpr Usual usual[] = {{"MPa", "s", 0.0}, {"MPa", "h", 0.4}, {"ksi", "h", 1.0}, {"kPa", "s", 1.2}};
     for (const Usual& one : usual) {
-        if (auto change = creepChange(creep, one.stress, one.time))
-            slips.push_back({{*std::move(change)}, "", "", one.rareness});
+        if (auto change = creepChange(values, one.stress, one.time))
+            slips.push_back({{*std::move(change)}, "", "", one.rareness, ""});
     }
 }
 
-/// Adds slips of all stresses, and of quantities in units of stress, to one unit.
+/// Returns "1/MPa" for "MPa", and "1/(kgf/mm^2)" for "kgf/mm^2".
+std::string reciprocalOf(const std::string& unit)
+{
+    return Unit::parse("1/(" + unit + ")")->text();
+}
+
+/// Returns the changes of all stresses, and of quantities in units of stress, from one unit.
+std::vector<Change> stressChanges(const MaterialValues& values, const std::string& unit, double factor)
+{
+    std::vector<Change> changes;
+    for (const std::int32_t id : values.numericIds()) {
+        const Dimension& dimension = findQuantity(id)->dimension;
+        if (dimension == d::pressure)
+            changes.push_back({id, unit, factor, false});
+        if (dimension == d::compressibility)
+            changes.push_back({id, reciprocalOf(unit), 1.0 / factor, false});
+    }
+    if (auto change = creepChange(values, "(" + unit + ")", "s"))
+        changes.push_back(*std::move(change));
+    return changes;
+}
+
+/// Adds slips of all stresses to one unit.
 void addStresses(std::vector<Slip>& slips, const MaterialValues& values)
 {
     for (const ParsedUnit& unit : parsedUnits()) {
         if (unit.dimension != d::pressure)
             continue;
-        Slip slip{{}, "", unit.text, unit.rareness};
-        for (const std::int32_t id : values.numericIds()) {
-            const Dimension& dimension = findQuantity(id)->dimension;
-            if (dimension == d::pressure)
-                slip.changes.push_back({id, unit.text, unit.factor, false});
-            if (dimension == d::compressibility)
-                slip.changes.push_back({id, "1/(" + unit.text + ")", 1.0 / unit.factor, false});
-        }
-        const auto creep = values.creepExponents();
-        if (creep && values.has(Id::CreepModulusA)) {
-            if (auto change = creepChange(*creep, "(" + unit.text + ")", "s"))
-                slip.changes.push_back(*std::move(change));
-        }
-        if (slip.changes.size() > 1)
-            slips.push_back(std::move(slip));
+        auto changes = stressChanges(values, unit.text, unit.factor);
+        if (changes.size() > 1)
+            slips.push_back({std::move(changes), "", unit.text, unit.rareness, ""});
+    }
+}
+
+/// Adds slips of the density and all stresses, as data sheets give them.
+void addDataSheets(std::vector<Slip>& slips, const MaterialValues& values)
+{
+    struct Sheet
+    {
+        const char* stress;
+        const char* density;
+        double rareness;
+    };
+    constexpr Sheet sheets[] = {{"MPa", "g/cm^3", 0.2},
+                                {"GPa", "g/cm^3", 0.4},
+                                {"psi", "lb/in^3", 0.6},
+                                {"psi", "lb/ft^3", 0.6},
+                                {"ksi", "lb/in^3", 0.7}};
+    if (!values.has(Id::Density))
+        return;
+    for (const Sheet& sheet : sheets) {
+        auto changes = stressChanges(values, sheet.stress, Unit::parse(sheet.stress)->factor());
+        if (changes.empty())
+            continue;
+        changes.push_back({Id::Density, sheet.density, Unit::parse(sheet.density)->factor(), false});
+        slips.push_back({std::move(changes), "", sheet.stress, sheet.rareness, sheet.density});
     }
 }
 
 /// The changes from a unit system to the catalogue's units, apart from the creep factor.
 struct SystemChanges
 {
-    const UnitSystem* system;
+    UnitSystem system;
     std::vector<Change> changes; ///< of all quantities that have a unit
+    double rareness;
 };
+
+SystemChanges changesOf(const UnitSystem& system, double rareness)
+{
+    SystemChanges row{system, {}, rareness};
+    for (const Quantity& quantity : quantities()) {
+        const Unit unit = system.unitOf(quantity.dimension);
+        if (!quantity.dimension.isNone())
+            row.changes.push_back({quantity.id, unit.text(), unit.factor(), false});
+    }
+    return row;
+}
 
 const std::vector<SystemChanges>& systemChanges()
 {
     static const std::vector<SystemChanges> all = [] {
         std::vector<SystemChanges> made;
-        for (const UnitSystem& system : UnitSystem::builtIn()) {
-            SystemChanges& row = made.emplace_back(SystemChanges{&system, {}});
-            for (const Quantity& quantity : quantities()) {
-                const Unit unit = system.unitOf(quantity.dimension);
-                if (!quantity.dimension.isNone())
-                    row.changes.push_back({quantity.id, unit.text(), unit.factor(), false});
-            }
-        }
+        for (const UnitSystem& system : UnitSystem::builtIn())
+            made.push_back(changesOf(system, 0.0));
+        for (const char* const other : {"length m, mass t, time s", "length mm, mass kg, time s",
+                                        "length mm, mass g, time ms", "length cm, mass g, time us"})
+            made.push_back(changesOf(*UnitSystem::parse(other), 0.8));
         return made;
     }();
     return all;
@@ -182,13 +238,12 @@ const std::vector<SystemChanges>& systemChanges()
 
 void addSystem(std::vector<Slip>& slips, const MaterialValues& values, const SystemChanges& system)
 {
-    Slip slip{{}, system.system->text(), "", 0.0};
+    Slip slip{{}, system.system.text(), "", system.rareness, ""};
     std::copy_if(system.changes.begin(), system.changes.end(), std::back_inserter(slip.changes),
                  [&](const Change& change) { return values.has(change.id); });
-    const auto creep = values.creepExponents();
-    if (creep && values.has(Id::CreepModulusA)) {
-        const Unit unit = system.system->unitOfCreep(*creep);
-        slip.changes.push_back({Id::CreepModulusA, unit.text(), unit.factor(), false});
+    if (values.has(Id::CreepModulusA)) {
+        if (const auto unit = unitOfQuantity(Id::CreepModulusA, system.system, values.creepExponents()))
+            slip.changes.push_back({Id::CreepModulusA, unit->text(), unit->factor(), false});
     }
     const auto other = std::count_if(slip.changes.begin(), slip.changes.end(),
                                      [](const Change& change) { return change.factor != 1.0; });
@@ -208,11 +263,10 @@ std::vector<Slip> possibleSlips(const MaterialValues& values)
 {
     std::vector<Slip> slips;
     for (const std::int32_t id : values.numericIds())
-        addOwn(slips, id, *findQuantity(id));
-    const auto creep = values.creepExponents();
-    if (creep && values.has(Id::CreepModulusA))
-        addCreep(slips, *creep);
+        addOwn(slips, id, values);
+    addCreep(slips, values);
     addStresses(slips, values);
+    addDataSheets(slips, values);
     for (const SystemChanges& system : systemChanges())
         addSystem(slips, values, system); // SI itself changes nothing and is left out
     return slips;
@@ -221,15 +275,8 @@ std::vector<Slip> possibleSlips(const MaterialValues& values)
 MaterialValues corrected(const MaterialValues& values, const Slip& slip)
 {
     MaterialValues result = values;
-    for (const Change& change : slip.changes) {
-        if (const auto number = values.number(change.id))
-            result.setNumber(change.id, changed(*number, change));
-        std::vector<double> list = values.list(change.id);
-        if (list.empty())
-            continue;
-        std::transform(list.begin(), list.end(), list.begin(), [&](double one) { return changed(one, change); });
-        result.setList(change.id, std::move(list));
-    }
+    for (const Change& change : slip.changes)
+        result.transform(change.id, [&change](double number) { return changed(number, change); });
     return result;
 }
 

@@ -43,6 +43,16 @@ void MaterialValues::setSwitch(std::int32_t id)
     set({id, formOf(id), 1.0, {}, {}});
 }
 
+void MaterialValues::transform(std::int32_t id, const std::function<double(double)>& image)
+{
+    if (const auto one = number(id))
+        setNumber(id, image(*one));
+    std::vector<double> numbers = list(id);
+    std::transform(numbers.begin(), numbers.end(), numbers.begin(), image);
+    if (!numbers.empty())
+        setList(id, std::move(numbers));
+}
+
 void MaterialValues::set(Entry entry)
 {
     const auto place = std::lower_bound(m_entries.begin(), m_entries.end(), entry.id,

@@ -1,3 +1,5 @@
+#include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/Plausibility.h"
 #include "vxUnits/Reading.h"
 #include "vxUnits/UnitSystem.h"
 #include "vxUnits/Writing.h"
@@ -6,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -75,9 +78,41 @@ void checkSystem(std::string_view text)
         require(UnitSystem::parse(system->text())->text() == system->text());
 }
 
+/// Makes a material of the bytes: a quantity by one byte and its number by the eight bytes of a double, so that infinities
+/// and other wild numbers occur.
+vxUnits::MaterialValues makeValues(const std::uint8_t* data, std::size_t size)
+{
+    constexpr std::size_t step = 1 + sizeof(double);
+    vxUnits::MaterialValues values;
+    for (; size >= step; data += step, size -= step) {
+        const Quantity& quantity = quantities()[data[0] % quantities().size()];
+        double number = 0.0;
+        std::memcpy(&number, data + 1, sizeof number);
+        if (quantity.form == vxUnits::QuantityForm::Number)
+            values.setNumber(quantity.id, number);
+        else if (quantity.form == vxUnits::QuantityForm::NumberList)
+            values.setList(quantity.id, {0.0, number});
+        else
+            values.setSwitch(quantity.id);
+    }
+    return values;
+}
+
+/// A check ends, every doubt has a text, and every remedy can be applied.
+void checkDoubts(vxUnits::MaterialValues values)
+{
+    for (const vxUnits::Doubt& doubt : checkPlausibility(values)) {
+        require(!doubt.text().empty() && vxUnits::findQuantity(doubt.id) != nullptr);
+        if (doubt.remedy)
+            applyRemedy(*doubt.remedy, values);
+    }
+    const auto unit = unitOfQuantity(vxMat::PropertyId::CreepModulusA, UnitSystem::si(), values.creepExponents());
+    require(!unit || !unit->text().empty());
+}
+
 } // namespace
 
-/// The first byte chooses the quantity, the rest is typed.
+/// The first byte chooses the quantity, the rest is typed. All bytes are the numbers of a material, too.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     if (size == 0)
@@ -88,5 +123,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkList(quantity, text);
     checkUnit(text);
     checkSystem(text);
+    checkDoubts(makeValues(data, size));
     return 0;
 }

@@ -223,8 +223,8 @@ struct UsualSlip
     std::int32_t id = 0;
     const char* unit = "";
     double factor = 1.0;
-    const char* groups = ""; ///< groups or materials in which it is realistic; empty for all
-    const char* hidden = ""; ///< groups or materials whose other values cannot tell
+    const char* groups = ""; ///< groups in which it is realistic, separated by blanks; empty for all
+    const char* hidden = ""; ///< groups whose other values cannot tell
     bool reciprocal = false;
 };
 

@@ -186,7 +186,7 @@ Ranges at room temperature and atmospheric pressure, with the materials at both 
 ## Relations between quantities
 
 A material whose values are outside one of these bounds is in doubt. In addition, plastic strains must begin with 0 and
-ascend, each of them needs one yield stress, and yield stresses must not fall. A material that is like none of about ninety
+ascend, each of them needs one yield stress, and yield stresses must not fall. A material that is like none of about a hundred
 kinds of materials is in doubt if a usual error of one unit makes it like one of them.
 
 )" + relations() +

@@ -6,7 +6,12 @@
 #include "MaterialNames.h"
 
 #include "vxMaterial/exchange/CardSet.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -65,6 +70,27 @@ std::vector<CardMaterial> collect(const std::vector<std::string>& sources, Answe
     return materials;
 }
 
+/// Returns notes about the numbers that lose digits in the line of elasticity, which has six decimals. Young's modulus of a
+/// gel in GPa is such a number.
+std::vector<std::string> notesOnDigits(const vxMat::MaterialBase& material, const vxCAE::CardSet& set)
+{
+    constexpr double tolerance = 1e-5; // five digits stay
+    const bool elastic = std::any_of(set.cards.begin(), set.cards.end(),
+                                     [](const vxCAE::SolverCard& card) { return card.name == "elasticity"; });
+    std::vector<std::string> notes;
+    for (const std::int32_t id : {vxMat::PropertyId::YoungsModulus, vxMat::PropertyId::PoissonsRatio}) {
+        double number = 0.0;
+        if (!elastic || !material.getPropertyValue(id, number) || !std::isfinite(number))
+            continue;
+        const std::string printed = vxMat::formatFixed(number);
+        if (std::abs(vxMat::readNumber(printed) - number) > tolerance * std::abs(number))
+            notes.push_back("the elasticity card has six decimals, so that " +
+                            std::string(vxMat::findPropertyRecord(id)->name) + " " + vxMat::formatNumber(number) +
+                            " becomes " + printed + "; choose a unit system with a smaller unit");
+    }
+    return notes;
+}
+
 std::string toText(const CardMaterial& material, const vxCAE::CardSet& set)
 {
     std::string text = "== " + titleOf(material) + "\n";
@@ -112,6 +138,8 @@ Answer printCards(const std::vector<std::string>& sources, Form form, const Chos
         if (const std::string note = units.apply(*material.entry->material); !note.empty())
             answer.messages.push_back(std::string("note: ").append(title).append(note));
         const vxCAE::CardSet set = makeCardSet(*material.entry, material.completeness);
+        for (const std::string& note : notesOnDigits(*material.entry->material, set))
+            answer.messages.push_back(std::string("note: ").append(title).append(note));
         for (const std::string& doubt : set.doubts) {
             answer.messages.push_back(std::string(title).append(doubt));
             answer.status = Status::Findings;

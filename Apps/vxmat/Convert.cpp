@@ -5,6 +5,8 @@
 #include "vxMaterial/model/NumberText.h"
 #include "vxUnits/Reading.h"
 
+#include <set>
+
 namespace commandline {
 
 namespace {
@@ -36,8 +38,9 @@ Answer convertText(const std::string& text, const std::string& unit, vxUnits::Te
     Answer answer;
     answer.text =
         form == Form::Json ? toJsonText(toJson(*reading, *target)) : vxMat::formatNumber(reading->value) + "\n";
+    std::set<std::string> notes; // the unit of the number may be that of the result
     for (const vxUnits::Message* const note : {&reading->note, &target->note()}) {
-        if (*note->id != '\0')
+        if (*note->id != '\0' && notes.insert(note->text()).second)
             answer.messages.push_back("note: " + note->text());
     }
     return answer;

@@ -25,13 +25,24 @@ using vxMat::MaterialProperty;
 using vxMat::PropertyRecord;
 using vxMat::ValueKind;
 
-/// Returns a question for the quantities whose names contain a text; empty if there are none, or too many.
+/// Returns the letters and digits of a name in upper case: "YOUNGSMODULUS" for "Young's modulus".
+std::string lettersOf(std::string_view name)
+{
+    std::string letters = vxMat::toUpperAscii(name);
+    letters.erase(std::remove_if(letters.begin(), letters.end(),
+                                 [](char c) { return (c < 'A' || c > 'Z') && (c < '0' || c > '9'); }),
+                  letters.end());
+    return letters;
+}
+
+/// Returns a question for the quantities whose names contain the letters of a text; empty if there are none, or too many.
 std::string suggest(const std::string& text)
 {
-    constexpr std::size_t mostSuggestions = 3;
+    constexpr std::size_t mostSuggestions = 6;
+    const std::string letters = lettersOf(text);
     std::vector<std::string> names;
     for (const PropertyRecord& record : vxMat::propertyRecords()) {
-        if (vxMat::toUpperAscii(record.name).find(vxMat::toUpperAscii(text)) != std::string::npos)
+        if (!letters.empty() && lettersOf(record.name).find(letters) != std::string::npos)
             names.emplace_back(record.name);
     }
     if (names.empty() || names.size() > mostSuggestions)

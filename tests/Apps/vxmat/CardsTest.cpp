@@ -125,6 +125,22 @@ TEST(Cards, AreCompleteForAProject)
     EXPECT_TRUE(json[0]["doubts"].empty());
 }
 
+TEST(Cards, SayWhichNumbersLoseDigits)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "--empty", "Gel", "-o", project}).status, 0);
+    ASSERT_EQ(vxmat({"set", project, "Gel", "IsoElastic", "on"}).status, 0);
+    ASSERT_EQ(vxmat({"set", project, "Gel", "E", "5.55 kPa"}).status, 0);
+    ASSERT_EQ(vxmat({"set", project, "Gel", "nu", "0.45"}).status, 0);
+    EXPECT_EQ(vxmat({"cards", project}).err, "");
+    const Outcome run = vxmat({"cards", project, "--units", "mm-kg-ms"});
+    EXPECT_THAT(run.out, HasSubstr(" 0.000006, 0.450000\n"));
+    EXPECT_THAT(run.err,
+                HasSubstr("1 Gel: the elasticity card has six decimals, so that Young's modulus 5.55e-06 becomes "
+                          "0.000006; choose a unit system with a smaller unit\n"));
+}
+
 TEST(Cards, ReportAProjectWithoutMaterials)
 {
     const Outcome run = vxmat({"cards", "-"}, R"({"format": "vxMaterial project", "format_version": 1, "name": "p",

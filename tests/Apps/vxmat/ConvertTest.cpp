@@ -66,6 +66,11 @@ TEST(Convert, SaysWhichCalorieIsMeant)
     EXPECT_EQ(run.err, "vxmat: note: cal is the International Table calorie, 4.1868 J; cal_th is 4.184 J.\n");
 }
 
+TEST(Convert, WritesANoteOnce)
+{
+    EXPECT_EQ(vxmat({"convert", "1", "percentIACS"}).err, "vxmat: note: 100 %IACS is 58 MS/m (IEC 60028).\n");
+}
+
 TEST(Convert, WorksWithoutTheDatabaseOfUnits)
 {
     const std::string without = "UDUNITS2_XML_PATH=/nowhere/udunits2.xml \"$VXMAT\" convert ";

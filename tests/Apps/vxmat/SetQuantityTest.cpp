@@ -109,6 +109,9 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
         {"Frame", "Plastic strain", "0, 0,05", "vxmat: Plastic strain: "},
         {"Frame", "Elasticity", "1",
          "vxmat: no quantity is called \"Elasticity\"; did you mean \"Isotropic elasticity\" or \"Visco-elasticity\"?"},
+        {"Frame", "Youngs", "1", "did you mean \"Young's modulus\"?"},
+        {"Frame", "Youngs modulus", "1", "did you mean \"Young's modulus\"?"},
+        {"Frame", "modulus", "1", "did you mean \"Young's modulus\", "},
         {"Frame", "weight", "1", "vxmat: no quantity is called \"weight\"; \"vxmat catalogue\" lists them"},
         {"frame", "E", "1 GPa", "no material has the label or number \"frame\""},
     };

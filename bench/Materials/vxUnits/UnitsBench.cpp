@@ -88,6 +88,33 @@ void addConversion(const char* from, const char* to)
                          false});
 }
 
+/// Numbers that are rounded as if they were typed in the unit, as the programs convert the numbers of materials.
+void addMaterialConversion(const char* from, const char* to)
+{
+    constexpr int times = 1000;
+    const auto ours = [=] {
+        const Unit one = *Unit::parse(from);
+        const Unit other = *Unit::parse(to);
+        return timed([&] {
+            double sum = 0.0;
+            for (int i = 0; i < times; ++i)
+                sum += vxUnits::convertNumber(i + 0.1, one, other);
+            return sum;
+        });
+    };
+    const auto other = [=] {
+        const ConverterPointer converter = otherConverter(from, to);
+        return timed([&] {
+            double sum = 0.0;
+            for (int i = 0; i < times; ++i)
+                sum += cv_convert_double(converter.get(), i + 0.1);
+            return sum;
+        });
+    };
+    vxbench::addContest({std::string("a thousand numbers, rounded once, from ") + from + " to " + to, ours, other, 0.0,
+                         false}); // no limit: the other side rounds twice
+}
+
 /// What each side makes of a text of one unit; UDUNITS takes the unit without the number.
 void addReading()
 {
@@ -173,6 +200,7 @@ int main(int argc, char** argv) // NOLINT(bugprone-exception-escape): a text tha
     addConversion("Pa", "GPa");
     addConversion("psi", "Pa");
     addConversion("W/(m K)", "mW/(mm K)");
+    addMaterialConversion("psi", "Pa");
     addReading();
     addFilter();
     addCheck(vxMat::eMaterialType::StructuralSteelNL); // the largest one

@@ -13,6 +13,8 @@
 #include "commands/StandardCommands.h"
 #include "vxMsg/MessageProxy.h"
 
+#include <QUndoStack>
+
 namespace Gui {
 
 GuiApplication* GuiApplication::Instance = nullptr;
@@ -58,6 +60,7 @@ GuiApplication::GuiApplication(int& argc, char** argv)
         addProject(*project);
     m_projectAdded = application.projectAdded.connect([this](Obj::Project& project) { addProject(project); });
     m_projectRemoved = application.projectRemoved.connect([this](Obj::Project& project) { removeProject(project); });
+    connect(&m_requests.undoStack(), &QUndoStack::indexChanged, this, &GuiApplication::historyMoved);
 }
 
 GuiApplication::~GuiApplication()
@@ -108,7 +111,8 @@ bool GuiApplication::notify(QObject* receiver, QEvent* event)
 
 void GuiApplication::addProject(Obj::Project& project)
 {
-    m_projects.emplace(&project, std::make_unique<GuiProject>(project));
+    const auto closed = m_closedProjects.extract(project.getProjectId());
+    m_projects.emplace(&project, std::make_unique<GuiProject>(project, closed ? closed.mapped() : NodeProperties()));
 }
 
 void GuiApplication::removeProject(Obj::Project& project)
@@ -123,6 +127,14 @@ void GuiApplication::removeProject(Obj::Project& project)
         return;
     const std::unique_ptr<GuiProject> removed = std::move(found->second);
     m_projects.erase(found);
+    m_closedProjects[project.getProjectId()] = removed->recordNodes();
+}
+
+void GuiApplication::historyMoved()
+{
+    // When the history ends, closed projects cannot be restored.
+    if (m_requests.undoStack().count() == 0)
+        m_closedProjects.clear();
 }
 
 } // namespace Gui

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <boost/signals2/connection.hpp>
 
+#include <cstdint>
 #include <map>
 #include <memory>
 
@@ -26,6 +27,7 @@ class BaseView;
 class Contributions;
 class GuiProject;
 class ObjectClipboard;
+struct NodeProperties;
 class ViewFeederProjectObject;
 
 /// Registers the classes of this library and of the libraries below it. Safe to call more than once.
@@ -70,12 +72,14 @@ public:
 private:
     void addProject(Obj::Project& project);
     void removeProject(Obj::Project& project);
+    void historyMoved();
 
     CommandController m_commands;
     std::unique_ptr<Contributions> m_contributions;
     vxMsg::MessageProxy& m_requests;
     std::unique_ptr<ObjectClipboard> m_clipboard;
     std::map<const Obj::Project*, std::unique_ptr<GuiProject>> m_projects;
+    std::map<std::uint32_t, NodeProperties> m_closedProjects; ///< by the ids of projects that undo can restore
     boost::signals2::scoped_connection m_projectAdded;
     boost::signals2::scoped_connection m_projectRemoved;
 };

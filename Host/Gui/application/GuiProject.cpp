@@ -5,10 +5,12 @@
 #include "Gui/ViewFeeder.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+#include "Obj/PropertyRecords.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace Gui {
 
@@ -29,9 +31,17 @@ std::unique_ptr<Feeder> makeFeeder(const char* className)
     return std::make_unique<Feeder>();
 }
 
+/// Gives a new node the properties of an earlier one. Must be called before the node is attached: restoring is not a
+/// change of the project.
+void restoreProperties(ViewFeeder& node, const Json::Value& record)
+{
+    Kelta::guarded(QCoreApplication::translate("Gui::GuiProject", "The properties of a tree node cannot be restored"),
+                   [&] { static_cast<void>(Obj::readProperties(node, record)); });
+}
+
 } // namespace
 
-GuiProject::GuiProject(Obj::Project& project) : m_project(project)
+GuiProject::GuiProject(Obj::Project& project, NodeProperties kept) : m_project(project), m_kept(std::move(kept))
 {
     m_objectRemoved = project.objectRemoved.connect([this](Obj::ProjectObject& object) { removeFeeder(object); });
     m_objectChanged = project.objectChanged.connect(
@@ -52,6 +62,7 @@ ViewFeederProject* GuiProject::get_view_feeder()
 {
     if (m_projectFeeder == nullptr) {
         m_projectFeeder = makeFeeder<ViewFeederProject>(m_project.get_viewfeeder_name());
+        restoreProperties(*m_projectFeeder, std::exchange(m_kept.ofProject, {}));
         m_projectFeeder->attach(m_project);
     }
     return m_projectFeeder.get();
@@ -64,9 +75,21 @@ ViewFeederProjectObject* GuiProject::get_view_feeder(Obj::ProjectObject* object)
     std::unique_ptr<ViewFeederProjectObject>& feeder = m_feeders[object];
     if (feeder == nullptr) {
         feeder = makeFeeder<ViewFeederProjectObject>(object->get_viewfeeder_name());
+        if (const auto kept = m_kept.ofObjects.extract(object->getObjectId()))
+            restoreProperties(*feeder, kept.mapped());
         feeder->attach(*object);
     }
     return feeder.get();
+}
+
+NodeProperties GuiProject::recordNodes() const
+{
+    NodeProperties nodes = m_kept;
+    if (m_projectFeeder != nullptr)
+        nodes.ofProject = Obj::writeProperties(*m_projectFeeder);
+    for (const auto& [object, feeder] : m_feeders)
+        nodes.ofObjects[object->getObjectId()] = Obj::writeProperties(*feeder);
+    return nodes;
 }
 
 void GuiProject::connectView(BaseView* view)
@@ -82,7 +105,11 @@ void GuiProject::disconnect_view(BaseView* view)
 void GuiProject::removeFeeder(const Obj::ProjectObject& object)
 {
     TreeSelectionSingleton::instance().forget(object);
-    m_feeders.erase(&object);
+    const auto found = m_feeders.find(&object);
+    if (found == m_feeders.end())
+        return;
+    m_kept.ofObjects[object.getObjectId()] = Obj::writeProperties(*found->second);
+    m_feeders.erase(found);
 }
 
 void GuiProject::passOn(const Obj::ProjectObject& object, const Obj::Property* property)

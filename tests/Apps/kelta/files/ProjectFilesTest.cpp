@@ -540,6 +540,51 @@ TEST_F(ProjectFiles, AreUnmodifiedAgainWhenTheChangeIsUndone)
     EXPECT_TRUE(isModified()) << "the file has the first material";
 }
 
+constexpr Obj::Color red{1.0F, 0.25F, 0.0F, 0.0F};
+
+Obj::PropertyColor& colourOf(Obj::ProjectObject* object)
+{
+    Obj::Property* const property =
+        Gui::GuiApplication::Instance->get_view_feeder(object)->get_property_by_name("MaterialColor");
+    return dynamic_cast<Obj::PropertyColor&>(*property);
+}
+
+TEST_F(ProjectFiles, HaveTheColoursAgainAfterUndo)
+{
+    newProject();
+    colourOf(&addMaterial()).setValue(red);
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    const QByteArray saved = contentOf(path("a.vxmat"));
+    ASSERT_TRUE(closeProject());
+    history().undo();
+    ASSERT_NE(currentProject(), nullptr);
+    EXPECT_EQ(colourOf(findMaterial("Steel")).getValue(), red);
+    EXPECT_FALSE(isModified());
+
+    Gui::TreeSelectionSingleton::instance().setSelection({}, {findMaterial("Steel")});
+    ASSERT_TRUE(run("Mat_Delete"));
+    history().undo();
+    EXPECT_EQ(colourOf(findMaterial("Steel")).getValue(), red);
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_EQ(contentOf(path("a.vxmat")), saved);
+}
+
+TEST_F(ProjectFiles, PasteTheColourAgainAfterRedo)
+{
+    newProject();
+    Mat::MaterialObject& steel = addMaterial();
+    colourOf(&steel).setValue(red);
+    Gui::TreeSelectionSingleton::instance().setSelection({}, {&steel});
+    ASSERT_TRUE(run("Std_Copy"));
+    ASSERT_TRUE(run("Std_Paste"));
+    ASSERT_EQ(currentProject()->getObjectCount(), 2U);
+    history().undo();
+    ASSERT_EQ(currentProject()->getObjectCount(), 1U);
+    history().redo();
+    ASSERT_EQ(currentProject()->getObjectCount(), 2U);
+    EXPECT_EQ(colourOf(currentProject()->getObjects().back()).getValue(), red);
+}
+
 TEST_F(ProjectFiles, StayModifiedWhenTheHistoryEnds)
 {
     newProject();

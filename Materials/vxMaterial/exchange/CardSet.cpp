@@ -58,19 +58,44 @@ void doubtLeftOut(CardSet& set, const vxMat::CMaterial& material, std::int32_t i
                          ", " + reason + ": " + vxjson::shortened(vxMat::formatNumberList(leftOut)));
 }
 
-/// Adds doubts about the numbers of a hardening curve that a multilinear card omits.
+/// Adds a doubt if the list is empty, so that the card has no line of its numbers.
+void doubtEmptyList(CardSet& set, const vxMat::CMaterial& material, std::int32_t id)
+{
+    if (material.getPropertyValues(id).empty())
+        set.doubts.push_back("the plasticity card has no hardening curve: the material has no numbers of " +
+                             quoted(vxMat::findPropertyRecord(id)->name));
+}
+
+void doubtListsOfBilinearCard(CardSet& set, const vxMat::CMaterial& material)
+{
+    for (const std::int32_t id : {PropertyId::PlasticYieldStress, PropertyId::PlasticStrain})
+        doubtLeftOut(set, material, id, 0, "which the solver does not use with bilinear hardening");
+}
+
+/// Adds doubts about the numbers of a hardening curve that a multilinear card omits or lacks.
 void doubtCurve(CardSet& set, const vxMat::CMaterial& material)
 {
+    doubtEmptyList(set, material, PropertyId::PlasticStrain);
     const std::string yield = material.getPropertyText(PropertyId::PlasticYieldType);
     if (!vxMat::equalIgnoringAsciiCase(yield, "Mises")) {
         doubtLeftOut(set, material, PropertyId::PlasticYieldStress, 0,
                      "which the solver does not use with yield type " + quoted(yield));
         return;
     }
+    doubtEmptyList(set, material, PropertyId::PlasticYieldStress);
     const std::size_t stresses = material.getPropertyValues(PropertyId::PlasticYieldStress).size();
     const std::size_t strains = material.getPropertyValues(PropertyId::PlasticStrain).size();
     doubtLeftOut(set, material, PropertyId::PlasticYieldStress, strains, "which have no plastic strain");
     doubtLeftOut(set, material, PropertyId::PlasticStrain, stresses, "which have no yield stress");
+}
+
+/// Adds doubts about the lists of the material and the lines of its card, which is not empty.
+void doubtLists(CardSet& set, const vxMat::CMaterial& material, const std::string& card)
+{
+    if (card.find("HARDEN=MULTILINEAR") != std::string::npos)
+        doubtCurve(set, material);
+    else
+        doubtListsOfBilinearCard(set, material);
 }
 
 void addPlasticityCard(CardSet& set, const MaterialEntry& entry, MaterialSource source)
@@ -85,8 +110,8 @@ void addPlasticityCard(CardSet& set, const MaterialEntry& entry, MaterialSource 
         set.doubts.push_back("no plasticity card is written for yield type " +
                              quoted(material.getPropertyText(PropertyId::PlasticYieldType)) + " with hardening type " +
                              quoted(material.getPropertyText(PropertyId::PlasticHardeningType)));
-    } else if (card.find("HARDEN=MULTILINEAR") != std::string::npos) {
-        doubtCurve(set, material);
+    } else {
+        doubtLists(set, material, card);
     }
     if (!card.empty())
         addCard(set, "plasticity", std::move(card));

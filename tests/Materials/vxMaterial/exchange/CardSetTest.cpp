@@ -125,6 +125,36 @@ TEST(CardSet, DoubtsYieldStressesThatACardHasNoPlaceFor)
                             "with yield type \"Drucker-Prager\": 450, 608"));
 }
 
+TEST(CardSet, DoubtsTheCurveOfABilinearMaterial)
+{
+    for (const char* const yield : {"Mises", "Drucker-Prager"}) {
+        auto entry = makeEntry({{32, 1.0}, {34, 2.0}, {35, 30.0}, {36, 5.0}, {41, 450.0}});
+        entry->material->setProperty(33, std::make_unique<vxMat::PlasticYieldType>(yield));
+        entry->material->setProperty(37, std::make_unique<vxMat::PlasticHardeningType>("Bilinear"));
+        entry->material->setProperty(38, std::make_unique<vxMat::PlasticYieldStress>(std::vector{450.0, 608.0}));
+        entry->material->setProperty(39, std::make_unique<vxMat::PlasticStrain>(std::vector{0.0, 0.1}));
+        EXPECT_THAT(cardsOf(entry).doubts,
+                    ElementsAre("the plasticity card leaves out numbers of \"Yield stress\", which the solver does not "
+                                "use with bilinear hardening: 450, 608",
+                                "the plasticity card leaves out numbers of \"Plastic strain\", which the solver does "
+                                "not use with bilinear hardening: 0, 0.1"))
+            << yield;
+    }
+}
+
+TEST(CardSet, DoubtsAMultilinearCardWithoutACurve)
+{
+    auto entry = makeEntry({{32, 1.0}, {33, 0.0}, {34, 2.0}, {35, 30.0}});
+    entry->material->setProperty(37, std::make_unique<vxMat::PlasticHardeningType>("Multilinear"));
+    const std::string noStrain =
+        "the plasticity card has no hardening curve: the material has no numbers of \"Plastic strain\"";
+    EXPECT_THAT(cardsOf(entry).doubts,
+                ElementsAre(noStrain, "the plasticity card has no hardening curve: the material has no numbers of "
+                                      "\"Yield stress\""));
+    entry->material->setProperty(33, std::make_unique<vxMat::PlasticYieldType>("Mohr-Coulomb"));
+    EXPECT_THAT(cardsOf(entry).doubts, ElementsAre(noStrain));
+}
+
 TEST(CardSet, DoubtsTheModelsThatAnotherTakesPrecedenceOver)
 {
     EXPECT_THAT(cardsOf(makeEntry({{42, 1.0}, {43, 1.0}, {44, 1.0}, {45, 1.0}})).doubts,

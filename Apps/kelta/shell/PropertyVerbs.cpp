@@ -1,14 +1,17 @@
 #include "PropertyVerbs.h"
 
+#include "Gui/GuiApplication.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Gui/ViewFeeder.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/ProjectObject.h"
 #include "kelta/Batch.h"
 #include "vxMsg/MessageProxy.h"
-#include "vxMsg/PropertyPlace.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
+
+#include <vector>
 
 namespace desktop {
 
@@ -27,13 +30,38 @@ Obj::ProjectObject* selectedObject()
     return objects.size() == 1 ? objects.front() : nullptr;
 }
 
+/// Returns the properties that the user sees of an object: its own, then those of its tree node.
+std::vector<const Obj::PropertyDS*> propertySets(Obj::ProjectObject& object)
+{
+    std::vector<const Obj::PropertyDS*> sets = {&object};
+    if (const Obj::PropertyDS* const node = Gui::GuiApplication::Instance->get_view_feeder(&object))
+        sets.push_back(node);
+    return sets;
+}
+
 std::optional<QString> set(Obj::ProjectObject& object, const QString& name, const QString& value)
 {
-    if (object.get_property_by_name(name.toUtf8().constData()) == nullptr)
-        return tr(R"("%1" has no property "%2")").arg(QString::fromStdString(object.label.getValue()), name);
-    // If the request is refused, the reason is in the message log, and Batch fails with this reason.
-    vxMsg::MessageProxy::instance().setProperty(vxMsg::PropertyPlace(object), name.toStdString(), value.toStdString());
-    return std::nullopt;
+    for (const Obj::PropertyDS* const owner : propertySets(object))
+        if (owner->get_property_by_name(name.toUtf8().constData()) != nullptr) {
+            // If the request is refused, the reason is in the message log, and Batch fails with this reason.
+            vxMsg::MessageProxy::instance().setProperty(Gui::GuiApplication::Instance->placeOf(*owner),
+                                                        name.toStdString(), value.toStdString());
+            return std::nullopt;
+        }
+    return tr(R"("%1" has no property "%2")").arg(QString::fromStdString(object.label.getValue()), name);
+}
+
+void print(const Obj::PropertyDS& owner, QTextStream& out)
+{
+    std::vector<Obj::Property*> properties;
+    owner.get_property_array(properties);
+    for (const Obj::Property* const property : properties) {
+        if (owner.is_hidden(property))
+            continue;
+        const std::string value = property->toText();
+        out << owner.get_property_name(property) << (value.empty() ? " =" : " = ") << QString::fromStdString(value)
+            << '\n';
+    }
 }
 
 } // namespace
@@ -56,20 +84,13 @@ std::optional<QString> setLabel(const QStringList& arguments)
 
 std::optional<QString> printProperties(const QStringList& arguments)
 {
-    const Obj::ProjectObject* const object = selectedObject();
+    Obj::ProjectObject* const object = selectedObject();
     if (!arguments.isEmpty() || object == nullptr)
         return tr("select exactly one object, and give no argument");
-    std::vector<Obj::Property*> properties;
-    object->get_property_array(properties);
     QString text;
     QTextStream out(&text);
-    for (const Obj::Property* const property : properties) {
-        if (object->is_hidden(property))
-            continue;
-        const std::string value = property->toText();
-        out << object->get_property_name(property) << (value.empty() ? " =" : " = ") << QString::fromStdString(value)
-            << '\n';
-    }
+    for (const Obj::PropertyDS* const owner : propertySets(*object))
+        print(*owner, out);
     return Batch::print(text);
 }
 

@@ -192,6 +192,17 @@ TEST_F(Batch, DoesTheTour)
     EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Resin"));
 }
 
+TEST_F(Batch, SavesTheColoursThatUndoRestores)
+{
+    const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\n"
+                                     "property MaterialColor \"1, 0.25, 0, 0\"\nStd_SaveAs a.vxmat\n"
+                                     "Mat_Delete\nStd_Undo\nStd_CloseProject\nStd_Undo\nStd_SaveAs b.vxmat\n"
+                                     "select Material\nproperties\n");
+    ASSERT_EQ(outcome.status, 0) << errorsOf(outcome);
+    EXPECT_THAT(outcome.output.toStdString(), HasSubstr("MaterialColor = 1, 0.25, 0, 0\n"));
+    EXPECT_EQ(vxtest::readFile(path("b.vxmat")), vxtest::readFile(path("a.vxmat")));
+}
+
 TEST_F(Batch, FailsIfACommandGetsNoFileName)
 {
     for (const char* const line : {"Std_Save", "Std_SaveAs", "Std_SaveAs \"\"", "Std_Open", "Std_ImportDocument"}) {

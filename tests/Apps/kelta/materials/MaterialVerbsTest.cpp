@@ -1,5 +1,6 @@
 #include "MaterialsTesting.h"
 
+#include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
 #include "kelta/Batch.h"
 #include "vxCAE/CaeManager.h"
@@ -161,6 +162,20 @@ TEST_F(Verbs, SetALabelAsAProperty)
     EXPECT_EQ(run("property", {"Label", ""}), "The label must not be empty; nothing was changed.");
     EXPECT_EQ(run("label"), "give a label, and select exactly one object");
     EXPECT_EQ(steel.label.getValue(), "Frame");
+}
+
+TEST_F(Verbs, SetThePropertiesOfTheTreeNodeToo)
+{
+    Mat::MaterialObject& steel = selectedSteel();
+    const Obj::Property* const colour =
+        Gui::GuiApplication::Instance->get_view_feeder(&steel)->get_property_by_name("MaterialColor");
+    const std::string before = colour->toText();
+    EXPECT_EQ(run("property", {"MaterialColor", "1, 0.25, 0, 0"}), "");
+    EXPECT_EQ(colour->toText(), "1, 0.25, 0, 0");
+    EXPECT_THAT(run("property", {"MaterialColor", "red"}), HasSubstr("\"red\"; nothing was changed"));
+    EXPECT_EQ(run("property", {"Colour", "1, 0, 0, 0"}), "\"Steel\" has no property \"Colour\"");
+    history().undo();
+    EXPECT_EQ(colour->toText(), before);
 }
 
 TEST_F(Verbs, FailWithoutASelection)

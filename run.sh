@@ -34,6 +34,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "Opening the desktop application."
     exec "$bin/kelta"
 fi
+rm -f out/tour.vxmat
 "$bin/kelta" --batch examples/tour.batch >out/tour.txt 2>out/tour-notes.txt || { cat out/tour-notes.txt >&2; exit 1; }
 echo
 echo "No display: examples/tour.batch made a material project, added and checked two materials, and wrote"

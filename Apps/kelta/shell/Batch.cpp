@@ -228,6 +228,17 @@ std::optional<QString> readList(const QString& path, QString& text)
     return std::nullopt;
 }
 
+/// Returns whether a picture may replace a file: it is a picture, empty or absent. Another file may be a project.
+bool mayBecomePicture(const QString& path)
+{
+    static const QByteArray pngSignature("\x89PNG\r\n\x1a\n");
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(pngSignature.size()) : QByteArray();
+    return start.isEmpty() || start == pngSignature;
+}
+
 } // namespace
 
 void Batch::registerVerb(const QString& name, Verb verb)
@@ -348,6 +359,8 @@ std::optional<QString> Batch::saveScreenshot(QWidget& window, const QString& pat
     QFile file(path);
     // Opening a pipe would wait for a reader.
     const bool isWritable = !file.exists() || QFileInfo(path).isFile();
+    if (isWritable && !mayBecomePicture(path))
+        return tr("%1 is not a picture and is not replaced; give another name").arg(path);
     const bool isSaved = isWritable && window.grab().save(&buffer, "PNG") && file.open(QIODevice::WriteOnly) &&
                          file.write(picture) == picture.size() && file.flush();
     return isSaved ? std::nullopt : std::optional(tr("%1 cannot be written").arg(path));

@@ -53,7 +53,8 @@ public:
     /// Writes a text to standard output in UTF-8, at once, as printable() returns it. Returns the reason if it fails, for
     /// example on a full disk.
     static std::optional<QString> print(const QString& text);
-    /// Saves the picture of a window as a PNG file. Returns the reason if it fails.
+    /// Saves the picture of a window as a PNG file. Replaces only pictures and empty files. Returns the reason if it
+    /// fails.
     static std::optional<QString> saveScreenshot(QWidget& window, const QString& path);
 
 private:

@@ -192,6 +192,32 @@ TEST_F(Batch, DoesTheTour)
     EXPECT_THAT(outcome.output.toStdString(), HasSubstr("Resin"));
 }
 
+TEST_F(Batch, ReplacesNoOtherProject)
+{
+    ASSERT_EQ(runBatch("Mat_NewDoc\nMat_AddMaterial\nStd_SaveAs own.vxmat\nStd_SaveAs own.vxmat\n").status, 0);
+    const QByteArray before = vxtest::readFile(path("own.vxmat"));
+    ASSERT_FALSE(before.isEmpty());
+    for (const char* const command : {"Std_SaveAs", "Std_Save"}) {
+        const Outcome outcome = runBatch(QByteArray("Mat_NewDoc\n") + command + " own.vxmat\n");
+        EXPECT_EQ(outcome.status, 1) << command;
+        EXPECT_THAT(errorsOf(outcome), HasSubstr("own.vxmat\" exists already")) << command;
+        EXPECT_EQ(vxtest::readFile(path("own.vxmat")), before) << command;
+    }
+}
+
+TEST_F(Batch, ReplacesNoProjectByAPicture)
+{
+    vxtest::writeFile(path("own.vxmat"), "{}");
+    const Outcome verb = runBatch("Mat_NewDoc\nscreenshot own.vxmat\n");
+    EXPECT_EQ(verb.status, 1);
+    EXPECT_THAT(errorsOf(verb), HasSubstr("own.vxmat is not a picture and is not replaced"));
+    EXPECT_EQ(run({"--screenshot", "own.vxmat"}).status, 2);
+    EXPECT_EQ(vxtest::readFile(path("own.vxmat")), "{}");
+    vxtest::writeFile(path("empty.png"), "");
+    EXPECT_EQ(runBatch("screenshot empty.png\nscreenshot empty.png\n").status, 0);
+    EXPECT_FALSE(QImage(path("empty.png")).isNull());
+}
+
 TEST_F(Batch, SavesTheColoursThatUndoRestores)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_AddMaterial\nselect Material\n"

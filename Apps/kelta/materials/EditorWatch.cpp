@@ -110,6 +110,7 @@ private:
             vxMat::restoreCatalogueTexts(*material().getCMaterial());
             if (m_before == nullptr)
                 return;
+            MatGui::keepSwitchNumbers(*material().getCMaterial(), *m_before);
             const MatGui::ChangeCount count = MatGui::countChanges(*m_before, *material().getCMaterial());
             const vxMsg::MessageProxy::Group oneStep{QString()};
             MatGui::recordChange(material(), std::move(m_before));

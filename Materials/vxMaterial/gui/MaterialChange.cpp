@@ -40,6 +40,18 @@ bool meanSame(const vxMat::MaterialProperty& first, const vxMat::MaterialPropert
            (vxMat::getValueKind(first.id) == vxMat::ValueKind::ModelSwitch || areSame(first, second));
 }
 
+/// Returns whether two materials have the same fields, and properties for which `same` returns true.
+bool agree(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second,
+           bool (*same)(const vxMat::MaterialProperty&, const vxMat::MaterialProperty&))
+{
+    return first.id == second.id && first.name == second.name && first.libraryGroup == second.libraryGroup &&
+           first.properties.size() == second.properties.size() &&
+           std::all_of(first.properties.begin(), first.properties.end(), [&](const auto& held) {
+               const vxMat::MaterialProperty* const other = second.findProperty(held.first);
+               return other != nullptr && same(*held.second, *other);
+           });
+}
+
 Mat::MaterialObject* findMaterial(std::uint32_t projectId, std::uint32_t objectId)
 {
     const Obj::Project* const project = Obj::Application::instance().get_project(projectId);
@@ -144,12 +156,15 @@ std::unique_ptr<vxMat::CMaterial> copyOf(const vxMat::MaterialBase& material)
 
 bool areSame(const vxMat::MaterialBase& first, const vxMat::MaterialBase& second)
 {
-    return first.id == second.id && first.name == second.name && first.libraryGroup == second.libraryGroup &&
-           first.properties.size() == second.properties.size() &&
-           std::all_of(first.properties.begin(), first.properties.end(), [&second](const auto& held) {
-               const vxMat::MaterialProperty* const other = second.findProperty(held.first);
-               return other != nullptr && areSame(*held.second, *other);
-           });
+    return agree(first, second, areSame);
+}
+
+void keepSwitchNumbers(vxMat::MaterialBase& material, const vxMat::MaterialBase& before)
+{
+    if (!agree(before, material, meanSame))
+        return;
+    for (const auto& [slot, property] : material.properties)
+        property->value = before.findProperty(slot)->value;
 }
 
 ChangeCount countChanges(const vxMat::MaterialBase& before, const vxMat::MaterialBase& after)

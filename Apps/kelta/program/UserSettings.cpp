@@ -2,9 +2,11 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTextCodec>
 
 namespace desktop {
 
@@ -34,6 +36,16 @@ bool hasFolder()
            (QDir::isAbsolutePath(home) && QFileInfo(home).isDir());
 }
 
+/// Returns whether a file cannot be one of settings: it has a zero byte or is not UTF-8. QSettings ignores such bytes.
+bool isDamaged(const QString& path)
+{
+    QFile file(path);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QTextCodec::ConverterState state;
+    static_cast<void>(QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state));
+    return bytes.contains('\0') || state.invalidChars != 0 || state.remainingChars != 0;
+}
+
 } // namespace
 
 QString chooseUserSettings()
@@ -52,7 +64,7 @@ QString chooseUserSettings()
             return tr("\"%1\" is not a regular file. The settings of this run are not stored.")
                 .arg(QDir::toNativeSeparators(read));
         }
-    if (QSettings().status() == QSettings::NoError)
+    if (!isDamaged(file) && QSettings().status() == QSettings::NoError)
         return {};
     return tr("The settings file \"%1\" is damaged or cannot be read. Settings that cannot be read have their "
               "defaults.")

@@ -57,9 +57,22 @@ TEST_F(UserSettings, AreInTheHomeOfTheUser)
 
 TEST_F(UserSettings, AreNamedIfTheyAreDamaged)
 {
-    vxtest::writeFile(file(), QByteArray("[files\nfolder\n\0\xff\n", 17));
-    EXPECT_THAT(desktop::chooseUserSettings().toStdString(),
-                testing::AllOf(HasSubstr(file().toStdString()), HasSubstr("is damaged or cannot be read")));
+    for (const QByteArray& content : {QByteArray("[files\nfolder\n\0\xff\n", 17), QByteArray(300, '\0'),
+                                      QByteArray("[files]\nfolder=\xff\xfe\n"), QByteArray("[a]\nb=\xc3")})
+    {
+        vxtest::writeFile(file(), content);
+        EXPECT_THAT(desktop::chooseUserSettings().toStdString(),
+                    testing::AllOf(HasSubstr(file().toStdString()), HasSubstr("is damaged or cannot be read")));
+    }
+}
+
+TEST_F(UserSettings, AreNotDamagedByAnyValue)
+{
+    QSettings().setValue(QStringLiteral("text"), QString::fromUtf8("\xe9\x92\xa2 \xc3\xa9\x01"));
+    QSettings().setValue(QStringLiteral("bytes"), QByteArray("\0\xff\x80", 3));
+    QSettings().sync();
+    ASSERT_TRUE(QFile::exists(file()));
+    EXPECT_EQ(desktop::chooseUserSettings().toStdString(), "");
 }
 
 TEST_F(UserSettings, AreNotReadFromAPipe)

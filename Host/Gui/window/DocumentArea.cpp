@@ -44,6 +44,8 @@ DocumentArea::DocumentArea(QWidget* parent) : QMdiArea(parent)
     setTabsClosable(true);
     setTabsMovable(true);
     setDocumentMode(true);
+    // When a window is closed, the window that was used before comes to the front.
+    setActivationOrder(QMdiArea::ActivationHistoryOrder);
     connect(this, &QMdiArea::subWindowActivated, this,
             [this](QMdiSubWindow* frame) { Q_EMIT windowActivated(windowIn(frame)); });
 }

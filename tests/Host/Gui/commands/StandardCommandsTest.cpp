@@ -336,6 +336,21 @@ TEST_F(StandardCommands, CloseDocuments)
     EXPECT_FALSE(isApplicable("Std_CloseWindow"));
 }
 
+TEST_F(StandardCommands, BringTheDocumentThatWasUsedBeforeToTheFrontWhenOneIsClosed)
+{
+    for (int i = 0; i < 5; ++i)
+        addDocument();
+    const QList<Gui::MDIWindow*> documents = window->getMdiWindows();
+    window->set_active_mdi_window(documents[1]);
+    window->set_active_mdi_window(documents[4]);
+    for (Gui::MDIWindow* const next : {documents[1], documents[3], documents[2]}) {
+        const int count = window->getMdiWindows().size();
+        ASSERT_TRUE(run("Std_CloseWindow"));
+        ASSERT_TRUE(vxtest::waitFor([&] { return window->getMdiWindows().size() == count - 1; }));
+        EXPECT_EQ(window->get_active_mdi_window(), next);
+    }
+}
+
 TEST_F(StandardCommands, RunByTheirKeys)
 {
     vxtest::TestProject& project = makeProject();

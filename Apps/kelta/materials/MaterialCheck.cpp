@@ -47,15 +47,16 @@ void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
 
 QString CheckSummary::toText(const QString& projectName) const
 {
-    QString text =
+    const QString text =
         isReady()
             ? tr("All materials of \"%1\" are ready (%2 checked).").arg(projectName, QString::number(materials))
             : tr("Not ready in \"%1\": %2 of %3 materials. Findings: %4.")
                   .arg(projectName, QString::number(notReady), QString::number(materials), QString::number(findings));
-    if (unapplied != 0)
-        text +=
-            QLatin1Char(' ') + tr("Changes in open editors that are not applied were not checked: %1.").arg(unapplied);
-    return text;
+    if (unapplied == 0)
+        return text;
+    // The doubt is first, because a narrow window cuts the end.
+    return tr("Changes in open editors that are not applied were not checked: %1.").arg(unapplied) + QLatin1Char(' ') +
+           text;
 }
 
 Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object)

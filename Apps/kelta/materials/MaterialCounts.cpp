@@ -24,6 +24,7 @@ MaterialCounts::MaterialCounts(Gui::MainWindow& mainWindow)
     mainWindow.statusBar()->addPermanentWidget(m_label);
     connect(&mainWindow, &Gui::MainWindow::updated, this,
             [this] { Kelta::guarded(tr("The materials cannot be counted"), [this] { update(); }); });
+    connect(mainWindow.statusBar(), &QStatusBar::messageChanged, this, &MaterialCounts::giveWay);
 }
 
 MaterialCounts::~MaterialCounts() = default;
@@ -31,13 +32,22 @@ MaterialCounts::~MaterialCounts() = default;
 void MaterialCounts::update()
 {
     Mat::DocumentMaterial* const project = currentMaterialProject();
-    m_label->setVisible(project != nullptr);
     if (project == nullptr || project->getProjectId() != m_projectId)
         follow(project);
-    if (project == nullptr)
-        return;
-    judgeChanged(*project);
-    showCounts(*project);
+    if (project != nullptr) {
+        judgeChanged(*project);
+        showCounts(*project);
+    }
+    giveWay();
+}
+
+void MaterialCounts::giveWay()
+{
+    const auto& statusBar = *static_cast<const QStatusBar*>(m_label->parent());
+    const QString message = statusBar.currentMessage();
+    const int needed = statusBar.fontMetrics().horizontalAdvance(message + QStringLiteral("    "));
+    const bool isRoom = message.isEmpty() || needed + m_label->sizeHint().width() <= statusBar.width();
+    m_label->setVisible(m_projectId != 0 && isRoom);
 }
 
 void MaterialCounts::follow(Mat::DocumentMaterial* project)

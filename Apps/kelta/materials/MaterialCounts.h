@@ -25,7 +25,8 @@ class ProjectObject;
 namespace desktop {
 
 /// Shows at the end of the status bar how many materials the current project has, how many of them are selected and how
-/// many are not ready. Shows nothing if the current project is not a material project.
+/// many are not ready. Shows nothing if the current project is not a material project, and while the status bar has no
+/// room beside a message.
 class MaterialCounts : public QObject
 {
     Q_OBJECT
@@ -40,6 +41,8 @@ private:
     void follow(Mat::DocumentMaterial* project);
     void judgeChanged(const Mat::DocumentMaterial& project);
     void showCounts(const Mat::DocumentMaterial& project);
+    /// Shows the counts only if the message of the status bar leaves room for them.
+    void giveWay();
 
     QLabel* m_label; ///< the status bar owns it
     std::uint32_t m_projectId = 0;

@@ -107,7 +107,8 @@ MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
     setObjectName(QStringLiteral("mainWindow"));
     createCenter();
     createDocks();
-    statusBar();
+    // A message may be wider than the window.
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QStatusBar::setToolTip);
     watchProjects();
     watchRequests();
     watchWindow();

@@ -5,6 +5,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 
 #include <QLabel>
+#include <QStatusBar>
 
 namespace {
 
@@ -47,6 +48,24 @@ TEST_F(Counts, FollowMaterialsTheirStateAndTheSelection)
     EXPECT_EQ(shown(), "Materials: 1, selected: 1, not ready: 1");
     history().undo();
     EXPECT_EQ(shown(), "Materials: 2, selected: 1, not ready: 2");
+}
+
+TEST_F(Counts, GiveWayToAMessageThatNeedsTheirPlace)
+{
+    addMaterial(newProject());
+    window->resize(900, 600);
+    const std::string counts = shown();
+    ASSERT_NE(counts, "");
+    const QString message(400, QLatin1Char('x'));
+    Gui::MainWindow::announce(message);
+    EXPECT_EQ(shown(), "");
+    EXPECT_EQ(window->statusBar()->toolTip(), message);
+    Gui::MainWindow::announce(QStringLiteral("short"));
+    EXPECT_EQ(shown(), counts);
+    Gui::MainWindow::announce(message);
+    window->statusBar()->clearMessage();
+    EXPECT_EQ(shown(), counts);
+    EXPECT_EQ(window->statusBar()->toolTip(), "");
 }
 
 TEST_F(Counts, AreThoseOfTheCurrentProject)

@@ -1,5 +1,7 @@
 #include "History.h"
 
+#include "UndoCommands.h"
+
 #include "Kelta/Exceptions.h"
 #include "Obj/Removal.h"
 
@@ -61,6 +63,22 @@ private:
     Commands m_commands;
     bool m_isPushed = false;
 };
+
+bool isDeletion(const std::unique_ptr<QUndoCommand>& command)
+{
+    const auto* const object = dynamic_cast<const ObjectCommand*>(command.get());
+    return object != nullptr && object->isRemoval();
+}
+
+/// Returns the text of a step. A step that only deletes objects names its object, or the number of its objects.
+QString textOf(const Commands& commands, const QString& groupText)
+{
+    if (commands.size() == 1 && isDeletion(commands.front()))
+        return commands.front()->text();
+    if (std::all_of(commands.begin(), commands.end(), isDeletion))
+        return QCoreApplication::translate("vxMsg", "Delete %1 objects").arg(commands.size());
+    return groupText.isEmpty() ? commands.front()->text() : groupText;
+}
 
 } // namespace
 
@@ -142,7 +160,7 @@ void History::finish()
     }
     if (commands.empty())
         return;
-    const QString text = m_text.isEmpty() ? commands.front()->text() : m_text;
+    const QString text = textOf(commands, m_text);
     m_stack.push(new Step(text, std::move(commands))); // takes ownership
 }
 

@@ -26,7 +26,8 @@ public:
     static bool isUndoing();
 
     /// Begin and end a group: its commands become one step. Groups may be nested. The outermost group provides the
-    /// text, or its first command if the text is empty.
+    /// text, or its first command if the text is empty; a group that only deletes objects gets a text of its own, which
+    /// names the object or the number of objects.
     void beginGroup(const QString& text);
     void endGroup();
     bool isInGroup() const { return m_groupDepth > 0; }

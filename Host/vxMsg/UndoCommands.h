@@ -63,6 +63,7 @@ public:
     PresenceCommand(const QString& text, Presence presence) : DoneCommand(text), m_presence(presence) {}
 
     void undo() override { m_presence == Presence::Here ? remove() : restore(); }
+    bool isRemoval() const { return m_presence == Presence::Gone; }
 
 protected:
     void doAgain() override { m_presence == Presence::Here ? restore() : remove(); }

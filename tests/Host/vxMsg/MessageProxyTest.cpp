@@ -409,6 +409,23 @@ TEST_F(MessageProxyTest, UndoesAGroupInOneStep)
     EXPECT_THAT(names(), ElementsAre("Bolt", "Imported"));
 }
 
+TEST_F(MessageProxyTest, NamesAGroupOfDeletionsByItsObjects)
+{
+    for (const char* const name : {"Nut", "Bolt", "Washer"})
+        part(name);
+    {
+        const MessageProxy::Group group(QStringLiteral("Delete"));
+        EXPECT_TRUE(remove("Nut"));
+    }
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Delete \"Nut\""));
+    {
+        const MessageProxy::Group group(QStringLiteral("Delete"));
+        EXPECT_TRUE(remove("Bolt"));
+        EXPECT_TRUE(remove("Washer"));
+    }
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Delete 2 objects"));
+}
+
 TEST_F(MessageProxyTest, LeavesNoTraceOfAGroupInWhichNothingHappens)
 {
     const vxtest::Reports reports;

@@ -347,7 +347,7 @@ TEST_F(DeleteKey, DeletesMaterialsWithTheQuestionOfTheirModule)
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_EQ(boxes.shown().front().title, "Object dependencies");
     EXPECT_THAT(project.getObjects(), testing::ElementsAre(&alloy));
-    EXPECT_EQ(history().undoText(), "Delete");
+    EXPECT_EQ(history().undoText(), "Delete \"Steel\"");
     history().undo();
     EXPECT_THAT(project.getObjects(), testing::ElementsAre(&steel, &alloy));
 }

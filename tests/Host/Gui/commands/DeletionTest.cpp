@@ -73,7 +73,7 @@ TEST_F(Deletion, TakesSelectedObjectsOfAllProjectsInOneStep)
     EXPECT_THAT(project.getObjects(), ElementsAre(&kept));
     EXPECT_THAT(other.getObjects(), IsEmpty());
     EXPECT_EQ(undoStack().count(), 1);
-    EXPECT_EQ(undoStack().undoText(), "Delete");
+    EXPECT_EQ(undoStack().undoText(), "Delete 2 objects");
     undoStack().undo();
     EXPECT_THAT(project.getObjects(), ElementsAre(&first, &kept));
     EXPECT_THAT(other.getObjects(), ElementsAre(&there));

@@ -139,7 +139,7 @@ std::optional<Search::Shown> Search::show(const FilterQuantity& quantity, const 
 
 std::string Search::heading(const FilterQuantity& quantity) const
 {
-    const std::string name = quantity.name();
+    std::string name = quantity.name();
     if (!hasOneUnit(quantity))
         return name;
     const vxUnits::Unit unit = quantity.derived != nullptr ? m_system.unitOf(quantity.derived->dimension)

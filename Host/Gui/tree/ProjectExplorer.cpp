@@ -72,6 +72,8 @@ void ProjectExplorer::finishEditing()
 
 void ProjectExplorer::setFilter(ProjectTreeModel::Filter filter)
 {
+    if (filter == nullptr && !m_model.isFiltered())
+        return;
     {
         const QScopedValueRollback<bool> selecting(m_selecting, true);
         m_model.setFilter(std::move(filter));
@@ -202,6 +204,7 @@ void ProjectExplorer::showSelection()
     m_selecting = true;
     // Removed entries are no longer selected.
     m_model.synchronize();
+    makeCurrent(m_selection.get_projects(), m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId()));
     m_selecting = false;
     selectRows();
     // What a filter hides is deselected later, because a new object may not have its content yet.
@@ -214,7 +217,6 @@ void ProjectExplorer::selectRows()
     m_selecting = true;
     const std::vector<Obj::Project*> projects = m_selection.get_projects();
     const auto objects = m_selection.get_objects_of_type(Obj::ProjectObject::getClassTypeId());
-    makeCurrent(projects, objects);
     QItemSelection items;
     for (const Obj::Project* const project : projects)
         items.select(m_model.indexOf(*project), m_model.indexOf(*project));

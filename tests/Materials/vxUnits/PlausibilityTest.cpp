@@ -522,14 +522,15 @@ TEST(FittingSystem, IsNoneIfOnlyOneNumberIsUnusual)
 
 TEST(SlotsWithoutUnit, AreThoseOfUnknownQuantitiesAndOfACreepFactorWithoutExponents)
 {
+    const std::vector<std::int32_t> slots{Id::CreepModulusA, 999};
     vxMat::StructuralSteel material;
     EXPECT_TRUE(vxUnits::slotsWithoutUnit(material).empty());
-    for (const std::int32_t id : {Id::CreepModulusA, 999}) {
+    for (const std::int32_t id : slots) {
         auto property = std::make_unique<vxMat::MaterialProperty>();
         property->id = id;
         material.setProperty(id, std::move(property));
     }
-    EXPECT_EQ(vxUnits::slotsWithoutUnit(material), (std::vector<std::int32_t>{Id::CreepModulusA, 999}));
+    EXPECT_EQ(vxUnits::slotsWithoutUnit(material), slots);
 }
 
 } // namespace

@@ -219,6 +219,10 @@
         <source>The tree node &quot;%1&quot; cannot be made</source>
         <translation>Der Baumknoten „%1“ kann nicht angelegt werden</translation>
     </message>
+    <message>
+        <source>The properties of a tree node cannot be restored</source>
+        <translation>Die Eigenschaften eines Baumknotens können nicht wiederhergestellt werden</translation>
+    </message>
 </context>
 <context>
     <name>Gui::MDIWindow</name>
@@ -1570,10 +1574,6 @@ Trotzdem löschen?</translation>
         <translation>&amp;System</translation>
     </message>
     <message>
-        <source>&amp;Find...</source>
-        <translation>&amp;Suchen...</translation>
-    </message>
-    <message>
         <source>Show only the objects that match an expression</source>
         <translation>Nur die Objekte zeigen, die zu einem Ausdruck passen</translation>
     </message>
@@ -1584,6 +1584,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>Choose the settings of the program</source>
         <translation>Wählt die Einstellungen des Programms</translation>
+    </message>
+    <message>
+        <source>F&amp;ind...</source>
+        <translation>&amp;Suchen...</translation>
     </message>
 </context>
 <context>
@@ -1796,8 +1800,12 @@ Trotzdem löschen?</translation>
         <translation>geben Sie den Namen eines Dokuments an und das Einheitensystem seiner Zahlen, wenn es nicht SI ist</translation>
     </message>
     <message>
-        <source>give a unit system, and make a material project the current one</source>
-        <translation>geben Sie ein Einheitensystem an und machen Sie ein Materialprojekt zum aktuellen</translation>
+        <source>give one unit system at most, and make a material project the current one</source>
+        <translation>geben Sie höchstens ein Einheitensystem an und machen Sie ein Materialprojekt zum aktuellen</translation>
+    </message>
+    <message>
+        <source>%1 is not a picture and is not replaced; give another name</source>
+        <translation>%1 ist kein Bild und wird nicht ersetzt; geben Sie einen anderen Namen an</translation>
     </message>
 </context>
 <context>
@@ -2348,6 +2356,10 @@ Trotzdem löschen?</translation>
         <source>HOME is not the name of a folder.</source>
         <translation>HOME ist nicht der Name eines Ordners.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; exists already. A list of commands does not replace other files; delete the file, or give another name.</source>
+        <translation>„%1“ existiert bereits. Eine Befehlsliste ersetzt keine anderen Dateien; löschen Sie die Datei, oder geben Sie einen anderen Namen an.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ProjectUnitsDialog</name>
@@ -2816,6 +2828,37 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxCAE::SolverCard</name>
+    <message>
+        <source>elasticity</source>
+        <translation>Elastizität</translation>
+    </message>
+    <message>
+        <source>plasticity</source>
+        <translation>Plastizität</translation>
+    </message>
+    <message>
+        <source>visco-elasticity</source>
+        <translation>Viskoelastizität</translation>
+    </message>
+    <message>
+        <source>creep</source>
+        <translation>Kriechen</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>specific heat</source>
+        <translation>Spezifische Wärmekapazität</translation>
+    </message>
+    <message>
+        <source>thermal conductivity</source>
+        <translation>Wärmeleitfähigkeit</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector</name>
     <message>
         <source>Inspector</source>
@@ -3135,10 +3178,6 @@ Trotzdem löschen?</translation>
         <translation>„%1“ mit den nicht angewandten Änderungen in seinem Editor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>It is suppressed.</source>
         <translation>Es ist unterdrückt.</translation>
     </message>
@@ -3165,6 +3204,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>on</source>
         <translation>ein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;.</source>
+        <translation>„%1“.</translation>
     </message>
 </context>
 <context>
@@ -3585,6 +3628,10 @@ Trotzdem löschen?</translation>
         <source>Change &quot;%1&quot; to &quot;%2&quot;</source>
         <translation>„%1“ in „%2“ ändern</translation>
     </message>
+    <message>
+        <source>Delete %1 objects</source>
+        <translation>%1 Objekte löschen</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Message</name>
@@ -3657,10 +3704,6 @@ Trotzdem löschen?</translation>
         <translation>In „%1“ fehlt nach „%2“ eine Einheit.</translation>
     </message>
     <message>
-        <source>The number %2 must not stand in the unit &quot;%1&quot;.</source>
-        <translation>Die Zahl %2 darf nicht in der Einheit „%1“ stehen.</translation>
-    </message>
-    <message>
         <source>A power is missing in the unit &quot;%1&quot;.</source>
         <translation>In der Einheit „%1“ fehlt ein Exponent.</translation>
     </message>
@@ -3727,10 +3770,6 @@ Trotzdem löschen?</translation>
     <message>
         <source>No quantity has the id %1.</source>
         <translation>Keine Größe hat die Kennung %1.</translation>
-    </message>
-    <message>
-        <source>The unit of %1 depends on %2 and %3, which are not given; write the number without a unit.</source>
-        <translation>Die Einheit von %1 hängt von %2 und %3 ab, die nicht angegeben sind; schreiben Sie die Zahl ohne Einheit.</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; is not built in, and the database of units cannot be read: %2. Install the data of UDUNITS-2, or have the environment variable UDUNITS2_XML_PATH name the file udunits2.xml.</source>
@@ -3995,6 +4034,30 @@ Trotzdem löschen?</translation>
     <message>
         <source>The unit of %1 depends on other values of each material; only numbers in SI compare it.</source>
         <translation>Die Einheit von %1 hängt von anderen Werten jedes Materials ab; nur Zahlen in SI vergleichen sie.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; must not contain the number %2.</source>
+        <translation>Die Einheit „%1“ darf die Zahl %2 nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>A power in the unit &quot;%1&quot; has an exponent; write the power as a plain number.</source>
+        <translation>Eine Potenz in der Einheit „%1“ hat einen Exponenten; schreiben Sie die Potenz als einfache Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a difference of temperatures; a temperature is needed.</source>
+        <translation>„%1“ ist eine Temperaturdifferenz; benötigt wird eine Temperatur.</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2 and %3, which are not given or not between -50 and 50; write the number without a unit.</source>
+        <translation>Die Einheit von %1 hängt von %2 und %3 ab, die fehlen oder nicht zwischen -50 und 50 liegen; schreiben Sie die Zahl ohne Einheit.</translation>
+    </message>
+    <message>
+        <source>The comma in &quot;%1&quot; may be a decimal sign or separate two numbers; write &quot;%2&quot; or &quot;%3&quot;.</source>
+        <translation>Das Komma in „%1“ kann ein Dezimalzeichen sein oder zwei Zahlen trennen; schreiben Sie „%2“ oder „%3“.</translation>
+    </message>
+    <message>
+        <source>The stresses look like %1, and the density like %2: convert them</source>
+        <translation>Die Spannungen sehen nach %1 aus, die Dichte nach %2: rechnen Sie sie um</translation>
     </message>
 </context>
 <context>
@@ -4754,6 +4817,86 @@ Trotzdem löschen?</translation>
     <message>
         <source>zirconium or hafnium</source>
         <translation>Zirconium oder Hafnium</translation>
+    </message>
+    <message>
+        <source>Shear modulus</source>
+        <translation>Schubmodul</translation>
+    </message>
+    <message>
+        <source>Bulk modulus</source>
+        <translation>Kompressionsmodul</translation>
+    </message>
+    <message>
+        <source>First Lame constant</source>
+        <translation>Erste Lamé-Konstante</translation>
+    </message>
+    <message>
+        <source>Constrained modulus</source>
+        <translation>Longitudinalmodul</translation>
+    </message>
+    <message>
+        <source>Wave speed in a bar</source>
+        <translation>Wellengeschwindigkeit im Stab</translation>
+    </message>
+    <message>
+        <source>Longitudinal wave speed</source>
+        <translation>Longitudinalwellengeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Shear wave speed</source>
+        <translation>Scherwellengeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Tangent modulus beyond yield</source>
+        <translation>Tangentenmodul nach dem Fließen</translation>
+    </message>
+    <message>
+        <source>Relaxed shear modulus</source>
+        <translation>Relaxierter Schubmodul</translation>
+    </message>
+    <message>
+        <source>Initial shear modulus</source>
+        <translation>Anfangsschubmodul</translation>
+    </message>
+    <message>
+        <source>Initial bulk modulus</source>
+        <translation>Anfangskompressionsmodul</translation>
+    </message>
+    <message>
+        <source>Initial Young&apos;s modulus</source>
+        <translation>Anfangselastizitätsmodul</translation>
+    </message>
+    <message>
+        <source>Initial Poisson&apos;s ratio</source>
+        <translation>Anfangsquerkontraktionszahl</translation>
+    </message>
+    <message>
+        <source>Heat capacity per volume</source>
+        <translation>Wärmekapazität je Volumen</translation>
+    </message>
+    <message>
+        <source>Thermal diffusivity</source>
+        <translation>Temperaturleitfähigkeit</translation>
+    </message>
+    <message>
+        <source>Kinematic viscosity</source>
+        <translation>Kinematische Viskosität</translation>
+    </message>
+    <message>
+        <source>Prandtl number</source>
+        <translation>Prandtl-Zahl</translation>
+    </message>
+    <message>
+        <source>Acoustic bulk modulus</source>
+        <translation>Akustischer Kompressionsmodul</translation>
+    </message>
+    <message>
+        <source>Acoustic impedance</source>
+        <translation>Schallimpedanz</translation>
+    </message>
+    <message>
+        <source>Electrical resistivity</source>
+        <translation>Spezifischer elektrischer Widerstand</translation>
     </message>
 </context>
 <context>

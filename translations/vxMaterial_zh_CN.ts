@@ -219,6 +219,10 @@
         <source>The tree node &quot;%1&quot; cannot be made</source>
         <translation>无法创建树节点“%1”</translation>
     </message>
+    <message>
+        <source>The properties of a tree node cannot be restored</source>
+        <translation>无法恢复树节点的属性</translation>
+    </message>
 </context>
 <context>
     <name>Gui::MDIWindow</name>
@@ -1570,10 +1574,6 @@ Delete anyway?</source>
         <translation>系统(&amp;S)</translation>
     </message>
     <message>
-        <source>&amp;Find...</source>
-        <translation>查找(&amp;F)...</translation>
-    </message>
-    <message>
         <source>Show only the objects that match an expression</source>
         <translation>只显示符合表达式的对象</translation>
     </message>
@@ -1584,6 +1584,10 @@ Delete anyway?</source>
     <message>
         <source>Choose the settings of the program</source>
         <translation>选择程序的设置</translation>
+    </message>
+    <message>
+        <source>F&amp;ind...</source>
+        <translation>查找(&amp;I)...</translation>
     </message>
 </context>
 <context>
@@ -1796,8 +1800,12 @@ Delete anyway?</source>
         <translation>请给出文档的名称；若其数字不是 SI，请给出单位制</translation>
     </message>
     <message>
-        <source>give a unit system, and make a material project the current one</source>
-        <translation>请给出单位制，并将材料项目设为当前项目</translation>
+        <source>give one unit system at most, and make a material project the current one</source>
+        <translation>请最多给出一个单位制，并将材料项目设为当前项目</translation>
+    </message>
+    <message>
+        <source>%1 is not a picture and is not replaced; give another name</source>
+        <translation>%1 不是图片，因此不会被替换；请指定其他名称</translation>
     </message>
 </context>
 <context>
@@ -2347,6 +2355,10 @@ Delete anyway?</source>
         <source>HOME is not the name of a folder.</source>
         <translation>HOME 不是文件夹的名称。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; exists already. A list of commands does not replace other files; delete the file, or give another name.</source>
+        <translation>“%1”已存在。命令列表不会替换其他文件；请删除该文件或指定其他名称。</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ProjectUnitsDialog</name>
@@ -2815,6 +2827,37 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxCAE::SolverCard</name>
+    <message>
+        <source>elasticity</source>
+        <translation>弹性</translation>
+    </message>
+    <message>
+        <source>plasticity</source>
+        <translation>塑性</translation>
+    </message>
+    <message>
+        <source>visco-elasticity</source>
+        <translation>粘弹性</translation>
+    </message>
+    <message>
+        <source>creep</source>
+        <translation>蠕变</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>密度</translation>
+    </message>
+    <message>
+        <source>specific heat</source>
+        <translation>比热</translation>
+    </message>
+    <message>
+        <source>thermal conductivity</source>
+        <translation>热导率</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector</name>
     <message>
         <source>Inspector</source>
@@ -3134,10 +3177,6 @@ Delete anyway?</source>
         <translation>“%1”，包含其编辑器中未应用的更改。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>It is suppressed.</source>
         <translation>它已被抑制。</translation>
     </message>
@@ -3164,6 +3203,10 @@ Delete anyway?</source>
     <message>
         <source>on</source>
         <translation>开</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;.</source>
+        <translation>“%1”。</translation>
     </message>
 </context>
 <context>
@@ -3584,6 +3627,10 @@ Delete anyway?</source>
         <source>Change &quot;%1&quot; to &quot;%2&quot;</source>
         <translation>将“%1”更改为“%2”</translation>
     </message>
+    <message>
+        <source>Delete %1 objects</source>
+        <translation>删除 %1 个对象</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Message</name>
@@ -3656,10 +3703,6 @@ Delete anyway?</source>
         <translation>“%1”中“%2”之后缺少单位。</translation>
     </message>
     <message>
-        <source>The number %2 must not stand in the unit &quot;%1&quot;.</source>
-        <translation>单位“%1”中不能有数字 %2。</translation>
-    </message>
-    <message>
         <source>A power is missing in the unit &quot;%1&quot;.</source>
         <translation>单位“%1”中缺少幂。</translation>
     </message>
@@ -3726,10 +3769,6 @@ Delete anyway?</source>
     <message>
         <source>No quantity has the id %1.</source>
         <translation>没有编号为 %1 的量。</translation>
-    </message>
-    <message>
-        <source>The unit of %1 depends on %2 and %3, which are not given; write the number without a unit.</source>
-        <translation>%1 的单位取决于未给出的 %2 和 %3；请不带单位书写数字。</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; is not built in, and the database of units cannot be read: %2. Install the data of UDUNITS-2, or have the environment variable UDUNITS2_XML_PATH name the file udunits2.xml.</source>
@@ -3994,6 +4033,30 @@ Delete anyway?</source>
     <message>
         <source>The unit of %1 depends on other values of each material; only numbers in SI compare it.</source>
         <translation>%1 的单位取决于每种材料的其他值；只能用 SI 单位的数值比较。</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; must not contain the number %2.</source>
+        <translation>单位“%1”中不得包含数字 %2。</translation>
+    </message>
+    <message>
+        <source>A power in the unit &quot;%1&quot; has an exponent; write the power as a plain number.</source>
+        <translation>单位“%1”中的幂带有指数；请将幂写成普通数字。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a difference of temperatures; a temperature is needed.</source>
+        <translation>“%1”是温度差；需要温度。</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2 and %3, which are not given or not between -50 and 50; write the number without a unit.</source>
+        <translation>%1 的单位取决于 %2 和 %3，它们未给出或不在 -50 到 50 之间；请写不带单位的数字。</translation>
+    </message>
+    <message>
+        <source>The comma in &quot;%1&quot; may be a decimal sign or separate two numbers; write &quot;%2&quot; or &quot;%3&quot;.</source>
+        <translation>“%1”中的逗号可能是小数点，也可能分隔两个数字；请写“%2”或“%3”。</translation>
+    </message>
+    <message>
+        <source>The stresses look like %1, and the density like %2: convert them</source>
+        <translation>应力看起来是 %1，密度看起来是 %2：请换算</translation>
     </message>
 </context>
 <context>
@@ -4753,6 +4816,86 @@ Delete anyway?</source>
     <message>
         <source>zirconium or hafnium</source>
         <translation>锆或铪</translation>
+    </message>
+    <message>
+        <source>Shear modulus</source>
+        <translation>剪切模量</translation>
+    </message>
+    <message>
+        <source>Bulk modulus</source>
+        <translation>体积模量</translation>
+    </message>
+    <message>
+        <source>First Lame constant</source>
+        <translation>第一拉梅常数</translation>
+    </message>
+    <message>
+        <source>Constrained modulus</source>
+        <translation>约束模量</translation>
+    </message>
+    <message>
+        <source>Wave speed in a bar</source>
+        <translation>杆中波速</translation>
+    </message>
+    <message>
+        <source>Longitudinal wave speed</source>
+        <translation>纵波速度</translation>
+    </message>
+    <message>
+        <source>Shear wave speed</source>
+        <translation>剪切波速度</translation>
+    </message>
+    <message>
+        <source>Tangent modulus beyond yield</source>
+        <translation>屈服后切线模量</translation>
+    </message>
+    <message>
+        <source>Relaxed shear modulus</source>
+        <translation>松弛剪切模量</translation>
+    </message>
+    <message>
+        <source>Initial shear modulus</source>
+        <translation>初始剪切模量</translation>
+    </message>
+    <message>
+        <source>Initial bulk modulus</source>
+        <translation>初始体积模量</translation>
+    </message>
+    <message>
+        <source>Initial Young&apos;s modulus</source>
+        <translation>初始弹性模量</translation>
+    </message>
+    <message>
+        <source>Initial Poisson&apos;s ratio</source>
+        <translation>初始泊松比</translation>
+    </message>
+    <message>
+        <source>Heat capacity per volume</source>
+        <translation>体积热容</translation>
+    </message>
+    <message>
+        <source>Thermal diffusivity</source>
+        <translation>热扩散率</translation>
+    </message>
+    <message>
+        <source>Kinematic viscosity</source>
+        <translation>运动粘度</translation>
+    </message>
+    <message>
+        <source>Prandtl number</source>
+        <translation>普朗特数</translation>
+    </message>
+    <message>
+        <source>Acoustic bulk modulus</source>
+        <translation>声学体积模量</translation>
+    </message>
+    <message>
+        <source>Acoustic impedance</source>
+        <translation>声阻抗</translation>
+    </message>
+    <message>
+        <source>Electrical resistivity</source>
+        <translation>电阻率</translation>
     </message>
 </context>
 <context>

@@ -10,7 +10,9 @@
 #include "Gui/MainWindow.h"
 #include "Gui/WindowTitle.h"
 #include "Obj/Application.h"
+#include "kelta/Batch.h"
 #include "kelta/DocumentImport.h"
+#include "kelta/FileService.h"
 #include "kelta/UnappliedEdits.h"
 
 #include <QDir>
@@ -21,6 +23,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace desktop {
 
@@ -115,6 +118,18 @@ void guardHandOver(const std::function<void()>& run)
         run();
 }
 
+/// Saves the current project in a list of commands, where nobody can be asked before another file is replaced.
+std::optional<QString> saveInList(const QString& command, const QStringList& arguments)
+{
+    const Obj::Project* const project = Obj::Application::get_current_project();
+    const QFileInfo file(arguments.value(0));
+    if (project != nullptr && file.isFile() && file.canonicalFilePath() != FileService::instance()->getFile(*project))
+        return QCoreApplication::translate(context, "\"%1\" exists already. A list of commands does not replace other "
+                                                    "files; delete the file, or give another name.")
+            .arg(QDir::toNativeSeparators(arguments[0]));
+    return Batch::invokeCommand(command, arguments);
+}
+
 std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
 {
     constexpr int none = Gui::CommandType::none;
@@ -155,6 +170,8 @@ void addFileCommands(Gui::CommandController& commands, ProjectFiles& files)
 {
     Gui::addCommands(commands, context, makeRows(files));
     commands.addGuard("Std_Collect", guardHandOver);
+    for (const QString& name : {QStringLiteral("Std_Save"), QStringLiteral("Std_SaveAs")})
+        Batch::registerVerb(name, [name](const QStringList& arguments) { return saveInList(name, arguments); });
 }
 
 void listRecentFilesOnWelcomePage(Gui::Contributions& contributions, ProjectFiles& files)

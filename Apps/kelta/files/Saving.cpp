@@ -48,25 +48,9 @@ bool Saving::saveAs(Obj::Project& project)
     if (session == nullptr)
         return false;
     const QString proposed = session->path.isEmpty() ? proposedName(project) : session->path;
-    const bool isUserAsked = !Gui::FileDialog::hasAnswer();
     const QString chosen =
         Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), proposed, tr("Project (*.vxmat)"));
-    if (chosen.isEmpty())
-        return false;
-    const QString path = canonicalPath(chosen);
-    return (isUserAsked || mayName(*session, path)) && saveTo(project, path);
-}
-
-bool Saving::mayName(const Session& session, const QString& path) const
-{
-    // If the file is the file of an open project, mayWrite gives the reason.
-    if (path == session.path || !QFileInfo(path).isFile() || m_sessions.findOpen(path) != nullptr)
-        return true;
-    m_questions.complain(tr("Save project"),
-                         tr("\"%1\" exists already. A list of commands does not replace other files; delete the file, "
-                            "or give another name.")
-                             .arg(shownPath(path)));
-    return false;
+    return !chosen.isEmpty() && saveTo(project, canonicalPath(chosen));
 }
 
 bool Saving::saveTo(Obj::Project& project, const QString& path)

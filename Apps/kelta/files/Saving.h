@@ -33,8 +33,6 @@ public:
     bool saveAs(Obj::Project& project);
 
 private:
-    /// Returns whether a list of commands, which nobody asks before a file is replaced, may name a file for a project.
-    bool mayName(const Session& session, const QString& path) const;
     bool saveTo(Obj::Project& project, const QString& path);
     void write(Obj::Project& project, Session& session, const QString& path) const;
     /// Returns whether a project may be written to a file, and takes its lock. Asks the user if another program uses

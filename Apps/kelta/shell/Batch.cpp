@@ -235,7 +235,9 @@ bool mayBecomePicture(const QString& path)
     QFile file(path);
     if (!file.exists())
         return true;
-    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(pngSignature.size()) : QByteArray();
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.read(pngSignature.size());
     return start.isEmpty() || start == pngSignature;
 }
 

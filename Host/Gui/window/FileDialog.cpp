@@ -80,11 +80,6 @@ void FileDialog::answerNext(const QString& path)
     preparedAnswer() = path;
 }
 
-bool FileDialog::hasAnswer()
-{
-    return preparedAnswer().has_value();
-}
-
 bool FileDialog::dropAnswer()
 {
     return std::exchange(preparedAnswer(), std::nullopt).has_value();

@@ -24,8 +24,6 @@ public:
 
     /// Sets the result of the next call, which then does not ask the user; for programs that a script runs.
     static void answerNext(const QString& path);
-    /// Returns whether the next call has a result already, so that it does not ask before a file is replaced.
-    static bool hasAnswer();
     /// Drops the result that answerNext() has set. Returns false if a call has taken the result already, or if there is
     /// none.
     static bool dropAnswer();

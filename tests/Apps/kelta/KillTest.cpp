@@ -81,6 +81,7 @@ protected:
                 QByteArray("set Density #\nsay applied #\n" + afterChange).replace('#', QByteArray::number(number));
         vxtest::writeFile(path("list.batch"), commands + "Std_SaveAs end.vxmat\n");
         QFile::remove(path("calls"));
+        QFile::remove(path("end.vxmat"));
         QProcessEnvironment environment = vxtest::cleanEnvironment(path(""));
         environment.insert(QStringLiteral("VX_DIE_IN_FILE_CALL"), QString::number(lastCall));
         environment.insert(QStringLiteral("VX_FILE_CALLS"), path("calls"));

@@ -43,15 +43,10 @@ TEST_F(GuiProjectTest, HasNoNodeForWhatIsNotInTheProject)
 
 constexpr Obj::Color red{1.0F, 0.25F, 0.0F, 0.0F};
 
-vxtest::TestNode& nodeOf(Obj::ProjectObject* object)
-{
-    return dynamic_cast<vxtest::TestNode&>(*Gui::GuiApplication::Instance->get_view_feeder(object));
-}
-
 TEST_F(GuiProjectTest, GivesARestoredObjectTheNodeThatItHad)
 {
     vxtest::TestObject& object = addObject(project);
-    nodeOf(&object).color.setValue(red);
+    nodeOf(object).color.setValue(red);
     const std::uint32_t objectId = object.getObjectId();
     const std::string name = object.get_name_in_project();
     for (int round = 0; round < 2; ++round) {
@@ -59,16 +54,16 @@ TEST_F(GuiProjectTest, GivesARestoredObjectTheNodeThatItHad)
         vxMsg::MessageProxy::instance().undoStack().undo();
         vxMsg::MessageProxy::instance().undoStack().redo();
         vxMsg::MessageProxy::instance().undoStack().undo();
-        EXPECT_EQ(nodeOf(project.get_object(objectId)).color.getValue(), red) << round;
+        EXPECT_EQ(nodeOf(*project.get_object(objectId)).color.getValue(), red) << round;
     }
 }
 
 TEST_F(GuiProjectTest, KeepsThePropertiesOfANodeThatNobodyMadeBetweenTwoDeletions)
 {
     vxtest::TestObject& object = addObject(project);
-    nodeOf(&object).color.setValue(red);
+    nodeOf(object).color.setValue(red);
     const std::uint32_t objectId = object.getObjectId();
-    Gui::NodeProperties nodes = side.recordNodes();
+    const Gui::NodeProperties nodes = side.recordNodes();
     Gui::GuiProject again(project, nodes);
     ASSERT_NE(project.restoreObject(project.takeObject(objectId)), nullptr);
     EXPECT_EQ(again.recordNodes().ofObjects.at(objectId), nodes.ofObjects.at(objectId));
@@ -78,30 +73,30 @@ TEST_F(GuiProjectTest, RestoresTheNodesOfAProjectThatIsReopened)
 {
     vxtest::TestObject& object = addObject(project);
     vxtest::TestObject& deleted = addObject(project, "Deleted");
-    nodeOf(&object).color.setValue(red);
-    nodeOf(&deleted).color.setValue(red);
+    nodeOf(object).color.setValue(red);
+    nodeOf(deleted).color.setValue(red);
     dynamic_cast<vxtest::TestProjectNode*>(side.get_view_feeder())->order.setValue(7);
     const std::uint32_t deletedId = deleted.getObjectId();
     vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
     ASSERT_TRUE(requests.deleteObject(project.get_name(), deleted.get_name_in_project()));
     ASSERT_TRUE(requests.closeProject(project.get_name()));
     requests.undoStack().undo();
-    EXPECT_EQ(nodeOf(&object).color.getValue(), red);
+    EXPECT_EQ(nodeOf(object).color.getValue(), red);
     auto* const node = Gui::GuiApplication::Instance->get_project(&project)->get_view_feeder();
     EXPECT_EQ(dynamic_cast<vxtest::TestProjectNode*>(node)->order.getValue(), 7);
     requests.undoStack().undo();
-    EXPECT_EQ(nodeOf(project.get_object(deletedId)).color.getValue(), red);
+    EXPECT_EQ(nodeOf(*project.get_object(deletedId)).color.getValue(), red);
 }
 
 TEST_F(GuiProjectTest, RestoresANodeWithoutAChangeOfTheProject)
 {
     vxtest::TestObject& object = addObject(project);
-    nodeOf(&object).color.setValue(red);
+    nodeOf(object).color.setValue(red);
     ASSERT_TRUE(vxMsg::MessageProxy::instance().closeProject(project.get_name()));
     int changes = 0;
     const boost::signals2::scoped_connection counting = project.objectChanged.connect([&](auto&&...) { ++changes; });
     vxMsg::MessageProxy::instance().undoStack().undo();
-    EXPECT_EQ(nodeOf(&object).color.getValue(), red);
+    EXPECT_EQ(nodeOf(object).color.getValue(), red);
     EXPECT_EQ(changes, 0);
 }
 

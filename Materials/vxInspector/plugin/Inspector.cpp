@@ -154,8 +154,9 @@ InspectorDock::~InspectorDock() = default;
 
 QSize InspectorDock::sizeHint() const
 {
+    constexpr int most = 380; // leaves the editor its usual width at the first start
     const QFontMetrics font = fontMetrics();
-    return {56 * font.averageCharWidth(), 24 * font.lineSpacing()};
+    return {std::min(56 * font.averageCharWidth(), most), 24 * font.lineSpacing()};
 }
 
 void InspectorDock::retranslate()

@@ -16,6 +16,7 @@
 #include <QDockWidget>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTranslator>
 #include <QtTest/QtTestGui>
 
 #include <cmath>
@@ -27,6 +28,22 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using vxInspector::FindingColumn;
 using vxtest::waitFor;
+
+/// Puts a sign before each text of the inspector's tabs, in place of a language.
+class SignTranslator : public QTranslator
+{
+public:
+    SignTranslator() { QCoreApplication::installTranslator(this); }
+    ~SignTranslator() override { QCoreApplication::removeTranslator(this); }
+    SignTranslator(const SignTranslator&) = delete;
+    SignTranslator& operator=(const SignTranslator&) = delete;
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* text, const char* /*comment*/, int /*n*/) const override
+    {
+        const bool isOurs = QByteArray(context).startsWith("vxInspector::") || qstrcmp(context, "vxUnits::Word") == 0;
+        return isOurs ? QLatin1Char('*') + QString::fromUtf8(text) : QString();
+    }
+};
 
 class Inspector : public vxtest::InspectorTest
 {
@@ -340,6 +357,18 @@ TEST_F(Inspector, ShowsNumbersThatAreNotFinite)
     EXPECT_GE(findRow(Findings, "Error"), 0);
     turnTo(Cards);
     EXPECT_GE(findRow(Cards, "Missing"), 0);
+}
+
+TEST_F(Inspector, FollowsAChangeOfTheLanguage)
+{
+    select({&addMaterial(newProject(), "Frame")});
+    ASSERT_TRUE(says(Values, "\"Frame\"."));
+    const SignTranslator other;
+    EXPECT_TRUE(says(Values, "*\"Frame\"."));
+    EXPECT_EQ(tabs().tabText(Compare), "*Compare");
+    EXPECT_EQ(systems().currentText(), "*As the project (SI)");
+    EXPECT_GE(findRow(Values, "**Shear modulus (derived)"), 0);
+    EXPECT_EQ(cell(Values, findRow(Values, "Density"), 3), "*within the known range");
 }
 
 TEST_F(Inspector, IsReachedByF6)

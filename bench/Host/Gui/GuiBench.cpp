@@ -279,7 +279,7 @@ int startEmpty(int& argc, char** argv)
 {
     QApplication application(argc, argv);
     QMainWindow window;
-    window.resize(1180, 760);
+    window.resize(Gui::MainWindow::usualSize);
     return paintOnce(window);
 }
 

@@ -338,7 +338,7 @@ TEST_F(Batch, SpeaksTheLanguageItIsAskedTo)
 TEST_F(Batch, SavesAScreenshot)
 {
     EXPECT_EQ(run({"--screenshot", "window.png"}).status, 0);
-    EXPECT_EQ(QImage(path("window.png")).size(), QSize(1180, 760));
+    EXPECT_EQ(QImage(path("window.png")).size(), QSize(1440, 860));
     const Outcome refused = run({"--language", "de", "--screenshot", "no/such/window.png"});
     EXPECT_EQ(refused.status, 2);
     EXPECT_EQ(errorsOf(refused), "kelta: no/such/window.png kann nicht geschrieben werden\n");

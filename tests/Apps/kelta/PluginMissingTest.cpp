@@ -41,7 +41,7 @@ TEST_F(PluginMissing, StartsAndSaysSo)
 {
     const Outcome outcome = run({"--screenshot", "window.png"});
     EXPECT_THAT(outcome.errors.toStdString(), HasSubstr("No module was found in"));
-    EXPECT_EQ(QImage(folder.filePath(QStringLiteral("window.png"))).size(), QSize(1180, 760));
+    EXPECT_EQ(QImage(folder.filePath(QStringLiteral("window.png"))).size(), QSize(1440, 860));
     EXPECT_EQ(outcome.status, 1);
 }
 

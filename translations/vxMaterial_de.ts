@@ -2356,10 +2356,6 @@ Trotzdem löschen?</translation>
         <source>HOME is not the name of a folder.</source>
         <translation>HOME ist nicht der Name eines Ordners.</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; exists already. A list of commands does not replace other files; delete the file, or give another name.</source>
-        <translation>„%1“ existiert bereits. Eine Befehlsliste ersetzt keine anderen Dateien; löschen Sie die Datei, oder geben Sie einen anderen Namen an.</translation>
-    </message>
 </context>
 <context>
     <name>desktop::ProjectUnitsDialog</name>

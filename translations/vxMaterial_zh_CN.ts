@@ -2355,10 +2355,6 @@ Delete anyway?</source>
         <source>HOME is not the name of a folder.</source>
         <translation>HOME 不是文件夹的名称。</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; exists already. A list of commands does not replace other files; delete the file, or give another name.</source>
-        <translation>“%1”已存在。命令列表不会替换其他文件；请删除该文件或指定其他名称。</translation>
-    </message>
 </context>
 <context>
     <name>desktop::ProjectUnitsDialog</name>

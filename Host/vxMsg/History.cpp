@@ -70,14 +70,16 @@ bool isDeletion(const std::unique_ptr<QUndoCommand>& command)
     return object != nullptr && object->isRemoval();
 }
 
-/// Returns the text of a step. A step that only deletes objects names its object, or the number of its objects.
+/// Returns the text of a step. A step that only deletes objects names its object, or the number of its objects, unless
+/// the user has asked to delete one that its text names.
 QString textOf(const Commands& commands, const QString& groupText)
 {
-    if (commands.size() == 1 && isDeletion(commands.front()))
-        return commands.front()->text();
-    if (std::all_of(commands.begin(), commands.end(), isDeletion))
-        return QCoreApplication::translate("vxMsg", "Delete %1 objects").arg(commands.size());
-    return groupText.isEmpty() ? commands.front()->text() : groupText;
+    const auto isNamed = [&](const std::unique_ptr<QUndoCommand>& command) { return command->text() == groupText; };
+    if (!std::all_of(commands.begin(), commands.end(), isDeletion) ||
+        std::any_of(commands.begin(), commands.end(), isNamed))
+        return groupText.isEmpty() ? commands.front()->text() : groupText;
+    return commands.size() == 1 ? commands.front()->text()
+                                : QCoreApplication::translate("vxMsg", "Delete %1 objects").arg(commands.size());
 }
 
 } // namespace

@@ -27,7 +27,7 @@ VXMATERIAL_EXPORT bool areSame(const vxMat::MaterialBase& first, const vxMat::Ma
 
 /// Gives a material the numbers of its switches in `before`, if it differs from `before` in nothing else: these numbers
 /// have no meaning, so replacing them is not a change.
-void keepSwitchNumbers(vxMat::MaterialBase& material, const vxMat::MaterialBase& before);
+VXMATERIAL_EXPORT void keepSwitchNumbers(vxMat::MaterialBase& material, const vxMat::MaterialBase& before);
 
 /// The numbers of properties in which a material differs from another.
 struct ChangeCount

@@ -139,97 +139,6 @@ TEST(Doubts, AResistivityIsRecognised)
     EXPECT_NEAR(doubt.remedy->changes.front().apply(2.5e-7), 4e6, 1e-8);
 }
 
-MaterialValues elastic(double density, double modulus, double ratio)
-{
-    MaterialValues values;
-    values.setNumber(Id::Density, density);
-    values.setNumber(Id::YoungsModulus, modulus);
-    values.setNumber(Id::PoissonsRatio, ratio);
-    return values;
-}
-
-std::string firstRemedy(const MaterialValues& values)
-{
-    const auto doubts = checkPlausibility(values);
-    return doubts.empty() || !doubts.front().remedy ? std::string() : doubts.front().remedy->message.text();
-}
-
-TEST(Remedies, OfMetalsAreFoundByDensityAndElasticityAlone)
-{
-    EXPECT_EQ(firstRemedy(elastic(7.345e-4, 30.46e6, 0.3)), "The values look like in-lbf-s: convert the material");
-    EXPECT_EQ(firstRemedy(elastic(5.239, 1.462e9, 0.33)), "The values look like ft-slug-s: convert the material");
-    EXPECT_EQ(firstRemedy(elastic(2700, 70000, 0.33)), "70000 MPa is usual for aluminium alloy: multiply by 1e6");
-    EXPECT_EQ(firstRemedy(elastic(4430, 114, 0.34)), "114 GPa is usual for titanium alloy: multiply by 1e9");
-}
-
-TEST(Remedies, PreferCommonKinds)
-{
-    EXPECT_EQ(firstRemedy(elastic(7850, 30460, 0.3)), "30460 ksi is usual for steel: multiply by 6.89476e6");
-    EXPECT_EQ(firstRemedy(elastic(7850, 2141000, 0.3)), "2141000 kgf/cm^2 is usual for steel: multiply by 98066.5");
-}
-
-TEST(Remedies, NameTheUnitsOfDataSheets)
-{
-    EXPECT_EQ(firstRemedy(elastic(7.85, 210, 0.3)),
-              "The stresses look like GPa, and the density like g/cm^3: convert them");
-    MaterialValues values = elastic(2.7, 70, 0.33);
-    applyRemedy(*checkPlausibility(values).front().remedy, values);
-    EXPECT_EQ(*values.number(Id::Density), 2700.0);
-    EXPECT_EQ(*values.number(Id::YoungsModulus), 70e9);
-    EXPECT_EQ(firstRemedy(elastic(7.85e-6, 2.1e8, 0.3)),
-              "The values look like length mm, mass kg, time s, temperature K, current A: convert the material");
-}
-
-TEST(Remedies, OfANearlyIncompressibleSolidAreNotInPercent)
-{
-    EXPECT_EQ(theDoubt(elastic(1100, 3e6, 0.4999)).remedy, std::nullopt);
-    EXPECT_EQ(firstRemedy(elastic(1100, 3e6, 49)), "49 % is usual for rubber: multiply by 0.01");
-}
-
-TEST(Remedies, OfAListShowItsNumbers)
-{
-    MaterialValues values = steel();
-    values.setList(Id::PlasticYieldStress, {250e6, 300e6, 350e6});
-    values.setList(Id::PlasticStrain, {0, 5, 10});
-    EXPECT_EQ(firstRemedy(values), "0, 5, 10 % would not be doubted: multiply by 0.01");
-}
-
-TEST(Remedies, HaveSixDigits)
-{
-    EXPECT_EQ(firstRemedy(elastic(7850, 206912.3456789, 0.3)), "206912 MPa is usual for steel: multiply by 1e6");
-}
-
-TEST(Remedies, OfStressesWriteReciprocalUnitsPlainly)
-{
-    MaterialValues values = rubber();
-    values.setNumber(Id::MaterialConstantC10, 0.4);
-    values.setNumber(Id::IncompressibilityParameterD1, 1e-3);
-    const auto doubts = checkPlausibility(values);
-    ASSERT_FALSE(doubts.empty());
-    std::vector<std::string> units;
-    for (const vxUnits::Change& change : doubts.front().remedy->changes)
-        units.push_back(change.unit);
-    EXPECT_NE(std::find(units.begin(), units.end(), "1/MPa"), units.end());
-}
-
-TEST(WildExponentsOfCreep, AreDoubtedAndEndTheCheck)
-{
-    for (const double wild : {2147483647.0, 2147483648.0, -1e10, 1e300, HUGE_VAL, std::nan("")}) {
-        for (const std::int32_t id : {Id::CreepModulusN, Id::CreepModulusM}) {
-            MaterialValues values = steel();
-            values.setNumber(Id::CreepModulusA, 1e-50);
-            values.setNumber(Id::CreepModulusN, 5);
-            values.setNumber(Id::CreepModulusM, 0);
-            values.setNumber(id, wild);
-            const auto doubts = checkPlausibility(values);
-            EXPECT_TRUE(std::any_of(doubts.begin(), doubts.end(), [id = id](const Doubt& one) { return one.id == id; }))
-                << wild;
-            EXPECT_FALSE(
-                vxUnits::unitOfQuantity(Id::CreepModulusA, vxUnits::UnitSystem::si(), values.creepExponents()));
-        }
-    }
-}
-
 // --- Each number alone ---
 
 TEST(DoubtsAboutNumbers, WhatIsNoNumberIsImpossible)
@@ -522,15 +431,14 @@ TEST(FittingSystem, IsNoneIfOnlyOneNumberIsUnusual)
 
 TEST(SlotsWithoutUnit, AreThoseOfUnknownQuantitiesAndOfACreepFactorWithoutExponents)
 {
-    const std::vector<std::int32_t> slots{Id::CreepModulusA, 999};
     vxMat::StructuralSteel material;
     EXPECT_TRUE(vxUnits::slotsWithoutUnit(material).empty());
-    for (const std::int32_t id : slots) {
+    for (const std::int32_t id : std::vector<std::int32_t>{Id::CreepModulusA, 999}) {
         auto property = std::make_unique<vxMat::MaterialProperty>();
         property->id = id;
         material.setProperty(id, std::move(property));
     }
-    EXPECT_EQ(vxUnits::slotsWithoutUnit(material), slots);
+    EXPECT_EQ(vxUnits::slotsWithoutUnit(material), (std::vector<std::int32_t>{Id::CreepModulusA, 999}));
 }
 
 } // namespace

@@ -57,8 +57,8 @@ QString UnitsDisplay::findFault(const Mat::DocumentMaterial& project)
     const auto system = vxUnits::UnitSystem::parse(setting);
     if (system)
         return {};
-    const QString fault = tr("The unit system of the project \"%1\" cannot be read: %2")
-                              .arg(QString::fromUtf8(project.get_name()), vxInspector::translated(system.failure()));
+    QString fault = tr("The unit system of the project \"%1\" cannot be read: %2")
+                        .arg(QString::fromUtf8(project.get_name()), vxInspector::translated(system.failure()));
     if (project.getProjectId() != m_warnedProject || setting != m_warnedSetting)
         Kelta::MessageLog::warning(fault);
     m_warnedProject = project.getProjectId();

@@ -4,6 +4,7 @@
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/MatDBManager.h"
+#include "vxMaterial/model/PropertyId.h"
 
 #include <QFile>
 #include <QJsonArray>

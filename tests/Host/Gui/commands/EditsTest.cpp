@@ -79,7 +79,7 @@ TEST_F(Edits, AreNoStepIfAListenerDeletesTheObject)
     EXPECT_TRUE(editLabel("Beam"));
     EXPECT_EQ(project.getObjectCount(), 0U);
     EXPECT_EQ(undoStack().count(), 1);
-    EXPECT_EQ(undoStack().text(0).toStdString(), "Change \"Label\"");
+    EXPECT_EQ(undoStack().text(0).toStdString(), R"(Delete "Beam")");
     undoStack().undo();
     EXPECT_EQ(project.getObjectCount(), 1U);
 }

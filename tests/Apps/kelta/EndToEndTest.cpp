@@ -192,6 +192,16 @@ protected:
         });
     }
 
+    /// Types a value into the first row of the editor that has the focus, and applies it.
+    void applyFirstValue(const char* value) const
+    {
+        key("Return");
+        key("ctrl+a");
+        display.ask({"type", value});
+        for (const char* const next : {"Return", "Tab", "Tab", "space"})
+            key(next);
+    }
+
     QTemporaryDir installed;
     QTemporaryDir home;
     QTemporaryDir screen;
@@ -279,8 +289,13 @@ TEST_F(EndToEnd, AUserWhoseDesktopDiesFindsACopyTheNextTime)
     start("^beams.vxmat - kelta$", {"beams.vxmat"});
     const QDir recovery(home.filePath(QStringLiteral("vxMaterial/kelta/recovery")));
     const auto hasCopy = [&recovery] { return !recovery.entryList({"*.vxmat"}, QDir::Files).isEmpty(); };
-    // A step of the history writes a copy at once.
-    ASSERT_TRUE(press("^beams.vxmat\\*? - kelta$", "ctrl+m", hasCopy));
+    ASSERT_TRUE(doubleClickMaterial("^Material - beams.vxmat\\*? - kelta$"));
+    ASSERT_TRUE(display.focus("^Material - beams.vxmat\\*? - kelta$"));
+    // Applying another value writes a copy at once.
+    ASSERT_TRUE(waitUntil([&] {
+        applyFirstValue("4321");
+        return waitUntil(hasCopy, again);
+    }));
     display.end();
     ASSERT_TRUE(kelta.waitForFinished(patience));
     EXPECT_TRUE(hasCopy());

@@ -81,8 +81,9 @@ ContentView::ContentView(QWidget* parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // The header resizes its last column by itself too.
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
-        if (!m_fitting)
+        if (!m_fitting && QApplication::mouseButtons() != Qt::NoButton)
             m_columnsOfUser.insert(column);
     });
     connect(this, &QTableView::clicked, this,
@@ -190,21 +191,24 @@ NeededWidth ContentView::neededWidth(int column) const
 {
     if (m_columnsOfUser.count(column) != 0)
         return {columnWidth(column), columnWidth(column)};
-    QFont bold = font();
-    bold.setBold(true);
-    const QFontMetrics boldMetrics(bold);
-    const int whole = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
-    int longest = 0;
-    for (const Row& row : content().rows) {
-        const Cell& cell = row.cells[static_cast<std::size_t>(column)];
-        if (cell.bar)
-            return {whole, whole * 2 / 3};
-        longest = std::max(longest, longestWord(cell.text, cell.isBold ? boldMetrics : fontMetrics()));
-    }
+    const int header = horizontalHeader()->sectionSizeHint(column);
     // The margins of a cell, and one pixel because advances are rounded.
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
+    int whole = header;
+    int longest = 0;
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const Cell& cell = content().rows[static_cast<std::size_t>(row)].cells[static_cast<std::size_t>(column)];
+        if (cell.bar)
+            return {std::max(header, sizeHintForIndex(m_model->index(row, column)).width()), header};
+        const QFont own = m_model->index(row, column).data(Qt::FontRole).value<QFont>();
+        const QFontMetrics metrics(own.resolve(font()));
+        // The size hint of a wrapped cell would depend on the present width of the column.
+        for (const QString& line : cell.text.split(QLatin1Char('\n')))
+            whole = std::max(whole, metrics.horizontalAdvance(line) + margin);
+        longest = std::max(longest, longestWord(cell.text, metrics) + margin);
+    }
     const int most = viewport()->width() / 3;
-    return {whole, std::min({longest + margin, whole, most})};
+    return {whole, std::min({std::max(longest, header), whole, most})};
 }
 
 void ContentView::fitColumns()

@@ -301,6 +301,19 @@ TEST_F(Inspector, LimitsWhatItShowsOfTenThousandMaterialsAndSaysSo)
     EXPECT_EQ(view(Compare).model()->columnCount(), 3 + 20);
 }
 
+TEST_F(Inspector, ShowsNumbersInOneLineAfterTheTableOfAProject)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
+    ASSERT_TRUE(becomes(Values, "In the project", 1, "1"));
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Shear modulus", value, "7.6923e+10"));
+    QCoreApplication::processEvents();
+    const vxInspector::ContentView& table = view(Values);
+    EXPECT_GT(table.columnWidth(value), table.fontMetrics().horizontalAdvance(QStringLiteral("7.6923e+10")));
+}
+
 TEST_F(Inspector, CopiesTheSelectedCellsAsTextAndAsATable)
 {
     Mat::MaterialObject& steel = addMaterial(newProject(), "<b>Frame</b>");

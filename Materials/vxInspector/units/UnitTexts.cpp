@@ -11,27 +11,28 @@ std::string translate(const char* context, const char* english)
     return QCoreApplication::translate(context, english).toStdString();
 }
 
-template <class Text>
-QString inUsersLanguage(const Text& text)
+/// Translates the names of quantities too. In a failure, a text that the user has typed may be the same as a name.
+std::string translateWithNames(const char* context, const char* english)
 {
-    return QString::fromStdString(text.text(translate));
+    std::string text = translate(context, english);
+    return text == english ? translate("vxMat::PropertyName", english) : text;
 }
 
 } // namespace
 
 QString translated(const vxUnits::Message& message)
 {
-    return inUsersLanguage(message);
+    return QString::fromStdString(message.text(translateWithNames));
 }
 
 QString translated(const vxUnits::Failure& failure)
 {
-    return inUsersLanguage(failure);
+    return QString::fromStdString(failure.text(translate));
 }
 
 QString translated(const vxUnits::Doubt& doubt)
 {
-    return inUsersLanguage(doubt);
+    return QString::fromStdString(doubt.text(translateWithNames));
 }
 
 QString translatedWord(const char* english)

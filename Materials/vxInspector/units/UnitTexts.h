@@ -8,7 +8,8 @@
 
 namespace vxInspector {
 
-/// Return the texts of messages about units and values in the user's language.
+/// Return the texts of messages about units and values in the user's language. Names of quantities are translated in a
+/// message and in a doubt, but not in a failure, which may quote a text of the user.
 QString translated(const vxUnits::Message& message);
 QString translated(const vxUnits::Failure& failure); ///< with the suggestion
 QString translated(const vxUnits::Doubt& doubt);     ///< with the remedy

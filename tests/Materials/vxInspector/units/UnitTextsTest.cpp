@@ -1,6 +1,7 @@
 #include "vxInspector/units/UnitTexts.h"
 
 #include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/Plausibility.h"
 #include "vxUnits/Reading.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -59,6 +61,19 @@ TEST(UnitTexts, HaveTheLanguageOfTheUserWithTheirWordsAndSuggestions)
     EXPECT_THAT(text, HasSubstr("kg"));
     EXPECT_THAT(text, HasSubstr("Masse"));
     EXPECT_THAT(refusalOf("2,1 GPa"), EndsWith("Meinten Sie „2.1 GPa“?"));
+}
+
+TEST(UnitTexts, NameTheQuantitiesOfADoubtInTheLanguageOfTheUser)
+{
+    const Language german("de");
+    vxUnits::MaterialValues values;
+    values.setNumber(vxMat::PropertyId::YoungsModulus, 206900.0);
+    values.setNumber(vxMat::PropertyId::Density, 7850.0);
+    const std::vector<vxUnits::Doubt> doubts = vxUnits::checkPlausibility(values);
+    ASSERT_FALSE(doubts.empty());
+    const std::string text = vxInspector::translated(doubts.front()).toStdString();
+    EXPECT_THAT(text, HasSubstr("Elastizitätsmodul"));
+    EXPECT_EQ(text.find("Young's modulus"), std::string::npos) << text;
 }
 
 TEST(UnitTexts, HaveTheSamePlacesForArgumentsInEveryLanguage)

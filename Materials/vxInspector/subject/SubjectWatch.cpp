@@ -5,6 +5,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
+#include "vxInspector/units/ProjectUnits.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/project/DocumentMaterial.h"
@@ -88,6 +89,11 @@ void SubjectWatch::followWindow()
 {
     const Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
     Gui::MDIWindow* const front = window != nullptr ? window->get_active_mdi_window() : nullptr;
+    // The window does not say whether the user has changed a preference.
+    if (std::string preferred = defaultSystem().text(); preferred != m_preferredSystem) {
+        m_preferredSystem = std::move(preferred);
+        noteLater();
+    }
     if (m_front == front)
         return;
     m_front = front;

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <map>
+#include <string>
 #include <vector>
 
 class QWidget;
@@ -62,6 +63,7 @@ private:
 
     QPointer<MatGui::MaterialView> m_editor; ///< whose material is shown; null if the selection decides
     QPointer<QWidget> m_front;               ///< the document in front at the last update of the main window
+    std::string m_preferredSystem;           ///< the unit system of the user's preferences at that time
     std::vector<QMetaObject::Connection> m_editorConnections;
     std::map<std::uint32_t, std::vector<boost::signals2::scoped_connection>> m_projects; ///< by project id
     boost::signals2::scoped_connection m_projectRemoved;

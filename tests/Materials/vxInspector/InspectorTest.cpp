@@ -8,6 +8,7 @@
 #include "findings/FindingTable.h"
 #include "plugin/TabContents.h"
 #include "table/ContentView.h"
+#include "vxInspector/units/ProjectUnits.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QApplication>
@@ -158,6 +159,18 @@ TEST_F(Inspector, ShowsTheUnitSystemOfTheProjectUntilTheUserChoosesAnother)
     systems().setCurrentIndex(systems().findText(QStringLiteral("cm-g-s")));
     EXPECT_TRUE(becomes(Values, "Density", value, "7.85"));
     EXPECT_EQ(project.getSetting("unit_system"), "mm-t-s");
+}
+
+TEST_F(Inspector, FollowsThePreferredUnitSystem)
+{
+    select({&addMaterial(newProject())});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    vxInspector::setDefaultSystem(*vxUnits::UnitSystem::parse("cm-g-s"));
+    window->updateCommands();
+    EXPECT_TRUE(becomes(Values, "Density", value, "7.85"));
+    vxInspector::setDefaultSystem(vxUnits::UnitSystem::si());
+    window->updateCommands();
+    EXPECT_TRUE(becomes(Values, "Density", value, "7850"));
 }
 
 TEST_F(Inspector, UpdatesOnlyTheVisibleTab)

@@ -47,7 +47,7 @@ void checkMaterial(const Mat::MaterialObject& object, CheckSummary& summary)
 
 QString CheckSummary::toText(const QString& projectName) const
 {
-    const QString text =
+    QString text =
         isReady()
             ? tr("All materials of \"%1\" are ready (%2 checked).").arg(projectName, QString::number(materials))
             : tr("Not ready in \"%1\": %2 of %3 materials. Findings: %4.")

@@ -14,6 +14,6 @@ class ChosenUnits;
 /// documents cannot carry is not compared, and a note says so. Numbers are printed in the given units; without
 /// them, in the unit system that both projects record.
 /// \throws Failure if a file cannot be read or is an analysis document
-Answer diffFiles(const std::string& one, const std::string& other, Form form, const ChosenUnits& units);
+Answer diffFiles(const std::string& one, const std::string& other, Form form, const ChosenUnits& given);
 
 } // namespace commandline

@@ -71,7 +71,7 @@ std::size_t Project::get_memory_usage() const
     bytes += sizeof(ObjectIndex) + m_index->getMemoryUsage();
     bytes += m_goneObjects.size() * perEntry + m_goneNames.size() * (perEntry + sizeof(std::string));
     for (const auto& [name, text] : m_settings)
-        bytes += perEntry + sizeof(name) + sizeof(text) + heapSizeOf(name) + heapSizeOf(text);
+        bytes += perEntry + sizeof(std::pair<std::string, std::string>) + heapSizeOf(name) + heapSizeOf(text);
     for (const auto& [objectId, object] : m_objects)
         bytes += object->get_memory_usage();
     return bytes;

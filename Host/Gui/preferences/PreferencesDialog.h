@@ -34,7 +34,7 @@ private:
     /// A page and its title.
     struct Page
     {
-        PreferencesPage* page; ///< the tabs own it
+        PreferencesPage* page = nullptr; ///< the tabs own it
         TranslatableText title;
     };
 

@@ -46,7 +46,7 @@ private:
 
     static QString textOf(const UnreadRow& unread)
     {
-        return tr("Row %1: The value \"%2\" of \"%3\" cannot be read: %4")
+        return tr(R"(Row %1: The value "%2" of "%3" cannot be read: %4)")
             .arg(QString::number(unread.number), shortened(unread.value), quantityName(unread.id), unread.reason);
     }
 

@@ -200,7 +200,7 @@ NeededWidth ContentView::neededWidth(int column) const
         const Cell& cell = content().rows[static_cast<std::size_t>(row)].cells[static_cast<std::size_t>(column)];
         if (cell.bar)
             return {std::max(header, sizeHintForIndex(m_model->index(row, column)).width()), header};
-        const QFont own = m_model->index(row, column).data(Qt::FontRole).value<QFont>();
+        const auto own = m_model->index(row, column).data(Qt::FontRole).value<QFont>();
         const QFontMetrics metrics(own.resolve(font()));
         // The size hint of a wrapped cell would depend on the present width of the column.
         for (const QString& line : cell.text.split(QLatin1Char('\n')))

@@ -205,8 +205,12 @@ private:
         for (std::size_t at = 1; at < m_spelling.size(); ++at) {
             const std::string one(m_spelling.substr(0, at));
             const std::string other(m_spelling.substr(at));
-            if (findBuiltIn(one) && findBuiltIn(other))
-                add(one == other ? one : one + " " + other); // "%%" is one sign typed twice
+            if (!findBuiltIn(one) || !findBuiltIn(other))
+                continue;
+            std::string both = one;
+            if (one != other) // "%%" is one sign typed twice
+                both.append(" ").append(other);
+            add(both);
         }
     }
 

@@ -85,10 +85,11 @@ ViewFeederProjectObject* GuiProject::get_view_feeder(Obj::ProjectObject* object)
 NodeProperties GuiProject::recordNodes() const
 {
     NodeProperties nodes = m_kept;
-    if (m_projectFeeder != nullptr)
+    if (m_projectFeeder != nullptr && m_projectFeeder->hasChanged())
         nodes.ofProject = Obj::writeProperties(*m_projectFeeder);
     for (const auto& [object, feeder] : m_feeders)
-        nodes.ofObjects[object->getObjectId()] = Obj::writeProperties(*feeder);
+        if (feeder->hasChanged())
+            nodes.ofObjects[object->getObjectId()] = Obj::writeProperties(*feeder);
     return nodes;
 }
 
@@ -108,7 +109,8 @@ void GuiProject::removeFeeder(const Obj::ProjectObject& object)
     const auto found = m_feeders.find(&object);
     if (found == m_feeders.end())
         return;
-    m_kept.ofObjects[object.getObjectId()] = Obj::writeProperties(*found->second);
+    if (found->second->hasChanged())
+        m_kept.ofObjects[object.getObjectId()] = Obj::writeProperties(*found->second);
     m_feeders.erase(found);
 }
 

@@ -53,7 +53,7 @@ public:
     /// node has the properties of the old one.
     ViewFeederProjectObject* get_view_feeder(Obj::ProjectObject* object);
 
-    /// Returns the properties of the nodes, including the nodes of deleted objects.
+    /// Returns the properties of the nodes that have changed, including the nodes of deleted objects.
     NodeProperties recordNodes() const;
 
     /// Returns the open views of the project.

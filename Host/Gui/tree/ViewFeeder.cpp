@@ -51,6 +51,12 @@ void ViewFeeder::build_context_menu(const char*, MenuItem*) {}
 
 void ViewFeeder::build_context_menu(QMenu*, QObject*, const char*) {}
 
+void ViewFeeder::on_changed(const Obj::Property* property)
+{
+    Obj::PropertyDS::on_changed(property);
+    m_hasChanged = true;
+}
+
 OBJ_REGISTER_CLASS(Gui::ViewFeederProject, Gui::ViewFeeder)
 
 ViewFeederProject::ViewFeederProject() = default;

@@ -58,12 +58,17 @@ public:
     /// Returns the name of the node's picture for the picture factory.
     const char* getPixmapName() const { return pixmapName; }
     const std::string& getDisplayMode() const { return m_displayMode; }
+    /// Returns whether a property has been set since the node was made. If not, a new node is the same.
+    bool hasChanged() const { return m_hasChanged; }
 
 protected:
+    void on_changed(const Obj::Property* property) override;
+
     const char* pixmapName = "";
 
 private:
     std::string m_displayMode;
+    bool m_hasChanged = false;
 };
 
 /// The node of a project.

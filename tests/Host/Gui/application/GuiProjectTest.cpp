@@ -69,6 +69,15 @@ TEST_F(GuiProjectTest, KeepsThePropertiesOfANodeThatNobodyMadeBetweenTwoDeletion
     EXPECT_EQ(again.recordNodes().ofObjects.at(objectId), nodes.ofObjects.at(objectId));
 }
 
+TEST_F(GuiProjectTest, RecordsOnlyNodesThatHaveChanged)
+{
+    vxtest::TestObject& object = addObject(project);
+    nodeOf(object);
+    EXPECT_TRUE(side.recordNodes().ofObjects.empty());
+    nodeOf(object).color.setValue(red);
+    EXPECT_EQ(side.recordNodes().ofObjects.size(), 1U);
+}
+
 TEST_F(GuiProjectTest, RestoresTheNodesOfAProjectThatIsReopened)
 {
     vxtest::TestObject& object = addObject(project);

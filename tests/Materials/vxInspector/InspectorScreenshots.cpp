@@ -1,6 +1,8 @@
 // Makes pictures of the main window with each tab of the inspector, in one language and one colour scheme.
 // Usage: inspector_screenshots FOLDER LANGUAGE light|dark SUFFIX
 
+#include "Screenshots.h"
+
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
@@ -14,23 +16,13 @@
 #include "vxMaterial/project/Module.h"
 #include "vxMaterial/project/Requests.h"
 
-#include <QPixmap>
 #include <QStyleFactory>
 #include <QTabWidget>
-#include <QtTest/QtTestGui>
 
 namespace {
 
+using vxtest::Shooting;
 using Type = vxMat::eMaterialType;
-
-QPalette darkColours()
-{
-    QPalette colours(QColor(53, 53, 53));
-    colours.setColor(QPalette::Base, QColor(35, 35, 35));
-    colours.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    colours.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return colours;
-}
 
 Mat::MaterialObject& add(Mat::DocumentMaterial& project, const char* label, Type type)
 {
@@ -39,19 +31,6 @@ Mat::MaterialObject& add(Mat::DocumentMaterial& project, const char* label, Type
     object.refreshProperties(true);
     return object;
 }
-
-struct Shooting
-{
-    QString folder;
-    QString suffix;
-    QWidget& window;
-
-    void take(const char* name) const
-    {
-        QTest::qWait(300); // until the window is laid out, which no signal reports
-        window.grab().save(QStringLiteral("%1/inspector-%2-%3.png").arg(folder, QLatin1String(name), suffix));
-    }
-};
 
 void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
 {
@@ -63,16 +42,16 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     };
     select({&frame});
     Gui::GuiApplication::Instance->get_view_feeder(&frame)->on_double_clicked();
-    shooting.take("values");
+    shooting.take("inspector-values");
     auto& tabs = *shooting.window.findChild<QTabWidget*>(QStringLiteral("inspectorTabs"));
     select({&shaft});
     tabs.setCurrentIndex(1);
-    shooting.take("findings");
+    shooting.take("inspector-findings");
     tabs.setCurrentIndex(2);
-    shooting.take("cards");
+    shooting.take("inspector-cards");
     select({&frame, &shaft, &skin});
     tabs.setCurrentIndex(3);
-    shooting.take("compare");
+    shooting.take("inspector-compare");
 }
 
 } // namespace
@@ -84,7 +63,7 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     Gui::GuiApplication application(argc, argv);
     if (qstrcmp(argv[3], "dark") == 0)
-        QApplication::setPalette(darkColours());
+        QApplication::setPalette(vxtest::darkColours());
     initMat();
     initMatGui();
     Mat::registerRequests();

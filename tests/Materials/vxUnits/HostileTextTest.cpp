@@ -1,3 +1,4 @@
+#include "LongText.h"
 #include "Repetitions.h"
 
 #include "vxMaterial/model/PropertyId.h"
@@ -15,20 +16,12 @@
 namespace {
 
 using Id = vxMat::PropertyId;
+using vxtest::longLength;
+using vxtest::repeated;
 using vxUnits::readQuantity;
 using vxUnits::readQuantityList;
 using vxUnits::Unit;
 using vxUnits::UnitSystem;
-
-constexpr std::size_t longLength = 100000;
-
-std::string repeated(const std::string& part)
-{
-    std::string text;
-    while (text.size() < longLength)
-        text += part;
-    return text;
-}
 
 TEST(HostileTexts, OfAHundredThousandCharactersAreRefused)
 {

@@ -1,6 +1,8 @@
 // Makes pictures of the material editor: both tabs and a refused value, in one language and one colour scheme.
 // Usage: editor_screenshots FOLDER LANGUAGE light|dark SUFFIX
 
+#include "Screenshots.h"
+
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
 #include "Gui/Translator.h"
@@ -14,35 +16,13 @@
 #include "vxMaterial/project/Requests.h"
 
 #include <QListWidget>
-#include <QPixmap>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QToolBox>
-#include <QtTest/QtTestGui>
 
 namespace {
 
-QPalette darkColours()
-{
-    QPalette colours(QColor(53, 53, 53));
-    colours.setColor(QPalette::Base, QColor(35, 35, 35));
-    colours.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    colours.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return colours;
-}
-
-struct Shooting
-{
-    QString folder;
-    QString suffix;
-    QWidget& window;
-
-    void take(const char* name) const
-    {
-        QTest::qWait(50); // until the window is laid out, which no signal reports
-        window.grab().save(QStringLiteral("%1/%2-%3.png").arg(folder, QLatin1String(name), suffix));
-    }
-};
+using vxtest::Shooting;
 
 void shootAll(const Shooting& shooting, MatGui::MaterialView& view)
 {
@@ -77,7 +57,7 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     Gui::GuiApplication application(argc, argv);
     if (qstrcmp(argv[3], "dark") == 0)
-        QApplication::setPalette(darkColours());
+        QApplication::setPalette(vxtest::darkColours());
     initMat();
     initMatGui();
     Mat::registerRequests();

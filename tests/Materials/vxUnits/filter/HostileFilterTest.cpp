@@ -1,3 +1,4 @@
+#include "LongText.h"
 #include "Repetitions.h"
 
 #include "vxUnits/Filter.h"
@@ -11,18 +12,10 @@
 /// Expressions that nobody types. None takes more than linear time, which the time limit of the tests would show.
 namespace {
 
+using vxtest::longLength;
+using vxtest::repeated;
 using vxUnits::completionsFor;
 using vxUnits::readFilter;
-
-constexpr std::size_t longLength = 100000;
-
-std::string repeated(const std::string& part)
-{
-    std::string text;
-    while (text.size() < longLength)
-        text += part;
-    return text;
-}
 
 TEST(HostileFilters, OfAHundredThousandCharactersAreReadOrRefused)
 {

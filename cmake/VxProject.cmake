@@ -1,5 +1,5 @@
 # Settings of all targets: language level, warnings, symbol visibility, the compiler's cache, and the instrumentation of
-# the presets sanitize, coverage and fuzz.
+# the presets sanitize, fuzz and coverage.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -12,7 +12,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 option(VX_BUILD_TESTS "Build the tests" ON)
 option(VX_BUILD_BENCH "Build the speed measurements" ON)
 option(VX_WARNINGS_AS_ERRORS "Stop the build at the first compiler warning" ON)
-set(VX_INSTRUMENT "" CACHE STRING "Instrumentation: empty, sanitize, coverage or fuzz")
+set(VX_INSTRUMENT "" CACHE STRING "Instrumentation: empty, sanitize or coverage")
 
 find_program(VX_CCACHE ccache)
 if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -44,17 +44,15 @@ if(VX_WARNINGS_AS_ERRORS)
 endif()
 
 if(VX_INSTRUMENT STREQUAL "sanitize")
-    # GCC reports false positives in the instrumented standard library; the other presets keep the warning.
-    target_compile_options(vx_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                                                -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+    # With the counters that fuzzers follow, so that tests and fuzzers use the same libraries. Only Clang has them; it
+    # also compiles in two thirds of the time of GCC.
+    target_compile_options(vx_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+                                                -fno-omit-frame-pointer)
+    target_compile_definitions(vx_options INTERFACE VX_ADDRESS_SANITIZER)
     target_link_options(vx_options INTERFACE -fsanitize=address,undefined)
 elseif(VX_INSTRUMENT STREQUAL "coverage")
     target_compile_options(vx_options INTERFACE --coverage -fprofile-update=atomic)
     target_link_options(vx_options INTERFACE --coverage)
-elseif(VX_INSTRUMENT STREQUAL "fuzz")
-    target_compile_options(vx_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
-                                                -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(vx_options INTERFACE -fsanitize=address,undefined)
 elseif(VX_INSTRUMENT)
-    message(FATAL_ERROR "VX_INSTRUMENT is \"${VX_INSTRUMENT}\"; it must be empty, sanitize, coverage or fuzz")
+    message(FATAL_ERROR "VX_INSTRUMENT is \"${VX_INSTRUMENT}\"; it must be empty, sanitize or coverage")
 endif()

@@ -21,7 +21,7 @@ scripts/build.sh fuzz fuzzers
 mkdir -p build/fuzz/findings build/fuzz/logs
 fuzzers=("$@")
 if [ ${#fuzzers[@]} -eq 0 ]; then
-    for program in build/fuzz/bin/*_fuzzer; do fuzzers+=("$(basename "$program")"); done
+    for program in build/sanitize/bin/*_fuzzer; do fuzzers+=("$(basename "$program")"); done
 fi
 
 # Documents and projects of the tests, for the fuzzers that read them.
@@ -47,7 +47,7 @@ run() {
     mkdir -p "$found" "$kept"
     # Leaks are looked for at the end, because that takes longer than most inputs.
     # shellcheck disable=SC2046 # one word or none
-    "$root/build/fuzz/bin/$fuzzer" $(dictionary_of "$fuzzer") -max_total_time="$seconds" -timeout=20 -rss_limit_mb=3072 \
+    "$root/build/sanitize/bin/$fuzzer" $(dictionary_of "$fuzzer") -max_total_time="$seconds" -timeout=20 -rss_limit_mb=3072 \
         -detect_leaks=0 -print_final_stats=1 -close_fd_mask=3 \
         -artifact_prefix="$root/build/fuzz/findings/$fuzzer-" \
         "$found" "$kept" $(seeds_of "$fuzzer") >"$log" 2>&1 || status=$?
@@ -65,7 +65,7 @@ run() {
 # keep FUZZER: adds inputs to the committed ones if these do not reach what they reach.
 keep() {
     mkdir -p "fuzz/corpus/$1" "build/fuzz/corpus/$1"
-    "$root/build/fuzz/bin/$1" -set_cover_merge=1 -use_counters=0 -max_len=$longest_kept -close_fd_mask=3 \
+    "$root/build/sanitize/bin/$1" -set_cover_merge=1 -use_counters=0 -max_len=$longest_kept -close_fd_mask=3 \
         "$root/fuzz/corpus/$1" "$root/build/fuzz/corpus/$1" >"build/fuzz/logs/$1-keep.log" 2>&1
     echo "$1: $(find "fuzz/corpus/$1" -type f | wc -l) inputs"
 }

@@ -10,7 +10,7 @@
 
 #include <sys/stat.h>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VX_ADDRESS_SANITIZER
 #include <sanitizer/lsan_interface.h>
 #endif
 
@@ -145,7 +145,7 @@ TEST_F(PluginLoaderTest, NamesALibraryThatIsCutOffAndLoadsTheRest)
 /// Loads without leak detection, because Qt does not free the name of a library whose initialisation throws.
 PluginLoader::Outcome loadAllDespiteALeakOfQt(PluginLoader& loader)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VX_ADDRESS_SANITIZER
     const __lsan::ScopedDisabler disabler;
 #endif
     return loader.loadAll();

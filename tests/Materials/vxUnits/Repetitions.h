@@ -7,7 +7,7 @@ namespace vxtest {
 template <class Count>
 constexpr Count repetitions([[maybe_unused]] Count usual, [[maybe_unused]] Count sanitized)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VX_ADDRESS_SANITIZER
     return sanitized;
 #else
     return usual;

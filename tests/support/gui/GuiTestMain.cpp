@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VX_ADDRESS_SANITIZER
 #include <sanitizer/lsan_interface.h>
 #endif
 
@@ -19,7 +19,7 @@ namespace {
 /// Makes the application without leak detection, because Qt's offscreen platform never frees its screen.
 std::unique_ptr<Gui::GuiApplication> makeApplication(int& argc, char** argv)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VX_ADDRESS_SANITIZER
     const __lsan::ScopedDisabler disabler;
 #endif
     return std::make_unique<Gui::GuiApplication>(argc, argv);

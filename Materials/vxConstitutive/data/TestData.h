@@ -1,0 +1,52 @@
+#pragma once
+
+#include "vxConstitutive/ConstitutiveExport.h"
+#include "vxConstitutive/Curve.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vxConstitutive {
+
+/// What kind of number a column holds, for the conversion of its unit.
+enum class Dimension
+{
+    Number, ///< stretch, strain
+    Stress, ///< and moduli
+    Time,
+    Rate ///< 1/time
+};
+
+/// Returns the factor from a unit to SI (1, Pa, s, 1/s); absent if the unit is unknown or of another dimension. The
+/// texts are UTF-8, without brackets: "MPa", "%", "mm/mm", "1/h".
+using UnitFactor = std::function<std::optional<double>(std::string_view unit, Dimension dimension)>;
+
+/// One test as fits take it, in SI units. The meaning of the numbers depends on the mode:
+///
+/// | mode | abscissa | ordinate | parameter |
+/// |---|---|---|---|
+/// | Uniaxial, Equibiaxial, Planar | stretch > 0 | nominal stress, tension positive | |
+/// | SimpleShear | amount of shear | shear stress | |
+/// | Volumetric | volume ratio > 0 | mean true stress, tension positive | |
+/// | Tensile | engineering strain > -1 | engineering stress | |
+/// | Plastic | logarithmic plastic strain | true stress | |
+/// | Creep | time >= 0 | creep strain | stress |
+/// | CreepRate | stress | rate of creep strain | |
+/// | Relaxation | time >= 0 | shear modulus | |
+struct TestData
+{
+    std::string name;
+    Mode mode = Mode::Uniaxial;
+    std::vector<double> abscissas;
+    std::vector<double> ordinates; ///< as many as abscissas
+    double parameter = 0.0;
+    double weight = 1.0; ///< in a fit of several tests; a test without a weight greater than 0 is left out
+};
+
+/// Whether a point of a test, in the meaning of TestData, is finite and inside the domain of its mode.
+VXCONSTITUTIVE_EXPORT bool isInDomain(Mode mode, double abscissa, double ordinate);
+
+} // namespace vxConstitutive

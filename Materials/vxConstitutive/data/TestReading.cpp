@@ -1,0 +1,410 @@
+#include "vxConstitutive/data/TestReading.h"
+
+#include "TranslatedText.h"
+
+#include "vxMaterial/model/NumberText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+namespace vxConstitutive {
+
+namespace {
+
+const std::vector<MeasureRecord>& measureTable()
+{
+    static const std::vector<MeasureRecord> table{
+        {Measure::Stretch, "stretch", QT_TRANSLATE_NOOP("vxConstitutive", "stretch"), Dimension::Number},
+        {Measure::EngineeringStrain, "engineering-strain", QT_TRANSLATE_NOOP("vxConstitutive", "engineering strain"),
+         Dimension::Number},
+        {Measure::TrueStrain, "true-strain", QT_TRANSLATE_NOOP("vxConstitutive", "true strain"), Dimension::Number},
+        {Measure::VolumeRatio, "volume-ratio", QT_TRANSLATE_NOOP("vxConstitutive", "volume ratio"), Dimension::Number},
+        {Measure::VolumetricStrain, "volumetric-strain", QT_TRANSLATE_NOOP("vxConstitutive", "volumetric strain"),
+         Dimension::Number},
+        {Measure::AmountOfShear, "amount-of-shear", QT_TRANSLATE_NOOP("vxConstitutive", "amount of shear"),
+         Dimension::Number},
+        {Measure::PlasticStrain, "plastic-strain", QT_TRANSLATE_NOOP("vxConstitutive", "plastic strain"),
+         Dimension::Number},
+        {Measure::NominalStress, "nominal-stress", QT_TRANSLATE_NOOP("vxConstitutive", "nominal stress"),
+         Dimension::Stress},
+        {Measure::TrueStress, "true-stress", QT_TRANSLATE_NOOP("vxConstitutive", "true stress"), Dimension::Stress},
+        {Measure::Pressure, "pressure", QT_TRANSLATE_NOOP("vxConstitutive", "pressure"), Dimension::Stress},
+        {Measure::Time, "time", QT_TRANSLATE_NOOP("vxConstitutive", "time"), Dimension::Time},
+        {Measure::CreepStrain, "creep-strain", QT_TRANSLATE_NOOP("vxConstitutive", "creep strain"), Dimension::Number},
+        {Measure::StrainRate, "strain-rate", QT_TRANSLATE_NOOP("vxConstitutive", "strain rate"), Dimension::Rate},
+        {Measure::Modulus, "modulus", QT_TRANSLATE_NOOP("vxConstitutive", "modulus"), Dimension::Stress},
+    };
+    return table;
+}
+
+/// The measures of each axis of a mode, the usual ones first.
+struct Axes
+{
+    Mode mode;
+    std::vector<Measure> abscissa;
+    std::vector<Measure> ordinate;
+};
+
+const std::vector<Axes>& axesTable()
+{
+    const std::vector<Measure> length{Measure::Stretch, Measure::EngineeringStrain, Measure::TrueStrain};
+    const std::vector<Measure> stress{Measure::NominalStress, Measure::TrueStress};
+    static const std::vector<Axes> table{
+        {Mode::Uniaxial, length, stress},
+        {Mode::Equibiaxial, length, stress},
+        {Mode::Planar, length, stress},
+        {Mode::SimpleShear, {Measure::AmountOfShear}, stress},
+        {Mode::Volumetric, {Measure::VolumeRatio, Measure::VolumetricStrain}, {Measure::Pressure, Measure::TrueStress}},
+        {Mode::Tensile, {Measure::EngineeringStrain, Measure::TrueStrain, Measure::Stretch}, stress},
+        {Mode::Plastic, {Measure::PlasticStrain}, {Measure::TrueStress}},
+        {Mode::Creep, {Measure::Time}, {Measure::CreepStrain}},
+        {Mode::CreepRate, {Measure::TrueStress}, {Measure::StrainRate}},
+        {Mode::Relaxation, {Measure::Time}, {Measure::Modulus}},
+    };
+    return table;
+}
+
+const Axes* findAxes(Mode mode)
+{
+    const auto found =
+        std::find_if(axesTable().begin(), axesTable().end(), [mode](const Axes& axes) { return axes.mode == mode; });
+    return found == axesTable().end() ? nullptr : &*found;
+}
+
+bool contains(const std::vector<Measure>& measures, Measure measure)
+{
+    return std::find(measures.begin(), measures.end(), measure) != measures.end();
+}
+
+/// Words of a header and the measures that they name, capitals. The first row that fits counts.
+struct Word
+{
+    std::string_view word;
+    std::vector<Measure> measures;
+};
+
+const std::vector<Word>& words()
+{
+    const std::vector<Measure> strain{Measure::EngineeringStrain, Measure::AmountOfShear, Measure::CreepStrain,
+                                      Measure::PlasticStrain};
+    const std::vector<Measure> stress{Measure::NominalStress, Measure::Modulus, Measure::TrueStress};
+    static const std::vector<Word> table{
+        {"STRETCH", {Measure::Stretch}},
+        {"LAMBDA", {Measure::Stretch}},
+        {"\xCE\xBB", {Measure::Stretch}}, // the letter itself
+        {"RATE", {Measure::StrainRate}},
+        {"VOLUMETRIC", {Measure::VolumetricStrain}},
+        {"VOLUME", {Measure::VolumeRatio}},
+        {"SHEAR STRAIN", {Measure::AmountOfShear}},
+        {"AMOUNT OF SHEAR", {Measure::AmountOfShear}},
+        {"GAMMA", {Measure::AmountOfShear}},
+        {"PLASTIC", {Measure::PlasticStrain}},
+        {"CREEP", {Measure::CreepStrain}},
+        {"STRAIN", strain},
+        {"ELONGATION", strain},
+        {"EXTENSION", strain},
+        {"DEHNUNG", strain},
+        {"EPSILON", strain},
+        {"\xCE\xB5", strain},
+        {"MODULUS", {Measure::Modulus}},
+        {"MODUL", {Measure::Modulus}},
+        {"PRESSURE", {Measure::Pressure}},
+        {"DRUCK", {Measure::Pressure}},
+        {"STRESS", stress},
+        {"SPANNUNG", stress},
+        {"SIGMA", stress},
+        {"\xCF\x83", stress},
+        {"TIME", {Measure::Time}},
+        {"ZEIT", {Measure::Time}},
+    };
+    return table;
+}
+
+bool hasWord(const std::string& upper, std::initializer_list<std::string_view> list)
+{
+    return std::any_of(list.begin(), list.end(),
+                       [&](std::string_view word) { return upper.find(word) != std::string::npos; });
+}
+
+/// The measure that a header names, of those that an axis can have; `stated` tells whether it says that it is true or
+/// engineering where that matters.
+struct Recognised
+{
+    Measure measure;
+    bool stated;
+};
+
+std::optional<Recognised> recognise(Measure measure, bool isTrue, bool isEngineering,
+                                    const std::vector<Measure>& possible)
+{
+    if (measure == Measure::EngineeringStrain && isTrue && contains(possible, Measure::TrueStrain))
+        return Recognised{Measure::TrueStrain, true};
+    if (measure == Measure::NominalStress && isTrue && contains(possible, Measure::TrueStress))
+        return Recognised{Measure::TrueStress, true};
+    if (!contains(possible, measure))
+        return std::nullopt;
+    const bool matters = measure == Measure::EngineeringStrain || measure == Measure::NominalStress;
+    return Recognised{measure, isEngineering || !matters};
+}
+
+std::optional<Recognised> recognise(const std::string& name, const std::vector<Measure>& possible)
+{
+    const std::string upper = vxMat::toUpperAscii(name);
+    const bool isTrue = hasWord(upper, {"TRUE", "LOG", "CAUCHY", "HENCKY", "WAHRE"});
+    const bool isEngineering = hasWord(upper, {"ENG", "NOM", "TECH"});
+    for (const Word& word : words()) {
+        if (upper.find(word.word) == std::string::npos)
+            continue;
+        for (const Measure measure : word.measures) {
+            if (const auto found = recognise(measure, isTrue, isEngineering, possible))
+                return found;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Decides what column, measure and unit an axis has, and asks for what cannot be known.
+class AxisReader
+{
+public:
+    AxisReader(const TestTable& table, const TestReadRequest& request, const UnitFactor& units, TestReading& reading)
+        : m_table(table), m_request(request), m_units(units), m_reading(reading)
+    {}
+
+    /// The factor to SI; 0 if there are questions.
+    double read(Axis axis)
+    {
+        const bool abscissa = axis == Axis::Abscissa;
+        ColumnChoice& choice = abscissa ? m_reading.abscissa : m_reading.ordinate;
+        choice = abscissa ? m_request.abscissa : m_request.ordinate;
+        const std::vector<Measure>& possible =
+            abscissa ? abscissaMeasures(m_request.mode) : ordinateMeasures(m_request.mode);
+        if (!chooseColumn(choice, axis, possible))
+            return ask(QuestionKind::WhichColumn, axis, makeFinding(FindingId::ColumnNeeded, {namesOf(possible)}));
+        if (!chooseMeasure(choice, axis, possible))
+            return ask(QuestionKind::WhichMeasure, axis,
+                       makeFinding(FindingId::MeasureNeeded, {nameOf(*choice.column), namesOf(possible)}));
+        return chooseUnit(choice, axis);
+    }
+
+private:
+    double ask(QuestionKind kind, Axis axis, Finding why)
+    {
+        m_reading.questions.push_back({kind, axis});
+        m_reading.findings.push_back(std::move(why));
+        return 0.0;
+    }
+
+    bool chooseColumn(ColumnChoice& choice, Axis axis, const std::vector<Measure>& possible)
+    {
+        if (choice.column)
+            return *choice.column < m_table.columns.size();
+        std::size_t found = 0;
+        for (std::size_t i = 0; i < m_table.columns.size(); ++i) {
+            if (!recognise(m_table.columns[i].name, possible) || isTaken(i, axis))
+                continue;
+            if (found++ == 0)
+                choice.column = i;
+        }
+        if (found > 1)
+            m_reading.findings.push_back(makeFinding(FindingId::ColumnRepeated, {nameOf(*choice.column)}));
+        if (found == 0 && m_table.columns.size() == 2 && m_table.headerLine == 0)
+            choice.column = axis == Axis::Abscissa ? 0 : 1;
+        return choice.column.has_value();
+    }
+
+    bool isTaken(std::size_t column, Axis axis) const
+    {
+        return axis == Axis::Ordinate && m_reading.abscissa.column == column;
+    }
+
+    bool chooseMeasure(ColumnChoice& choice, Axis axis, const std::vector<Measure>& possible)
+    {
+        if (choice.measure)
+            return contains(possible, *choice.measure);
+        const auto recognised = recognise(m_table.columns[*choice.column].name, possible);
+        if (recognised)
+            choice.measure = recognised->measure;
+        else if (possible.size() == 1)
+            choice.measure = possible.front();
+        const bool matters = possible.size() > 1 && m_request.mode != Mode::SimpleShear;
+        if (recognised && !recognised->stated && matters)
+            m_reading.findings.push_back(
+                makeFinding(FindingId::MeasureAssumed,
+                            {nameOf(*choice.column), std::string(measureRecord(recognised->measure).name)}));
+        if (!choice.measure && axis == Axis::Ordinate && m_request.mode == Mode::SimpleShear)
+            choice.measure = Measure::NominalStress; // the same as the true one
+        return choice.measure.has_value();
+    }
+
+    double chooseUnit(ColumnChoice& choice, Axis axis)
+    {
+        const std::string& fromHeader = m_table.columns[*choice.column].unit;
+        if (!choice.unit && !fromHeader.empty())
+            choice.unit = fromHeader;
+        const bool plain = choice.measure == Measure::Stretch || choice.measure == Measure::VolumeRatio;
+        if (!choice.unit && plain)
+            choice.unit = "1";
+        if (!choice.unit)
+            return ask(QuestionKind::WhichUnit, axis, makeFinding(FindingId::UnitNeeded, {nameOf(*choice.column)}));
+        const Dimension dimension = measureRecord(*choice.measure).dimension;
+        if (dimension == Dimension::Number && (*choice.unit == "1" || *choice.unit == "-"))
+            return 1.0;
+        const std::optional<double> factor = m_units ? m_units(*choice.unit, dimension) : std::nullopt;
+        if (!factor || !(*factor > 0.0) || !std::isfinite(*factor))
+            return ask(QuestionKind::WhichUnit, axis,
+                       makeFinding(FindingId::UnitUnknown, {nameOf(*choice.column), *choice.unit}));
+        return *factor;
+    }
+
+    static std::string namesOf(const std::vector<Measure>& measures)
+    {
+        std::string names;
+        for (const Measure measure : measures)
+            names += (names.empty() ? "" : ", ") + std::string(measureRecord(measure).name);
+        return names;
+    }
+
+    std::string nameOf(std::size_t column) const
+    {
+        const std::string& name = m_table.columns[column].name;
+        return name.empty() ? std::to_string(column + 1) : name;
+    }
+
+    const TestTable& m_table;
+    const TestReadRequest& m_request;
+    const UnitFactor& m_units;
+    TestReading& m_reading;
+};
+
+double canonicalAbscissa(Mode mode, Measure measure, double value)
+{
+    if (mode == Mode::Tensile && measure == Measure::Stretch)
+        return value - 1.0;
+    if (mode == Mode::Tensile && measure == Measure::TrueStrain)
+        return std::expm1(value);
+    if (mode == Mode::Tensile)
+        return value;
+    if (measure == Measure::EngineeringStrain || measure == Measure::VolumetricStrain)
+        return 1.0 + value;
+    return measure == Measure::TrueStrain ? std::exp(value) : value;
+}
+
+/// `abscissa` is the canonical one. Nominal stresses follow from true ones for an unchanged volume.
+double canonicalOrdinate(Mode mode, Measure measure, double value, double abscissa)
+{
+    if (measure == Measure::Pressure)
+        return -value;
+    if (measure != Measure::TrueStress)
+        return value;
+    if (mode == Mode::Tensile)
+        return value / (1.0 + abscissa);
+    const bool stretched = mode == Mode::Uniaxial || mode == Mode::Equibiaxial || mode == Mode::Planar;
+    return stretched ? value / abscissa : value;
+}
+
+/// The abscissa of the state of rest.
+double restOf(Mode mode)
+{
+    const bool ratio =
+        mode == Mode::Uniaxial || mode == Mode::Equibiaxial || mode == Mode::Planar || mode == Mode::Volumetric;
+    return ratio ? 1.0 : 0.0;
+}
+
+void countUnusual(TestReading& reading)
+{
+    const TestData& data = *reading.data;
+    std::vector<std::pair<double, double>> points;
+    points.reserve(data.abscissas.size());
+    const double rest = restOf(data.mode);
+    for (std::size_t i = 0; i < data.abscissas.size(); ++i) {
+        if (i > 0 && data.abscissas[i] < data.abscissas[i - 1])
+            ++reading.unsorted;
+        if (data.abscissas[i] < rest || data.ordinates[i] < 0.0)
+            ++reading.negative;
+        points.emplace_back(data.abscissas[i], data.ordinates[i]);
+    }
+    std::sort(points.begin(), points.end());
+    const auto end = std::unique(points.begin(), points.end());
+    reading.repeated = static_cast<std::size_t>(points.end() - end);
+    const auto note = [&](FindingId id, std::size_t number) {
+        if (number > 0)
+            reading.findings.push_back(makeFinding(id, {static_cast<double>(number)}));
+    };
+    note(FindingId::PointsOutside, reading.leftOut);
+    note(FindingId::PointsUnsorted, reading.unsorted);
+    note(FindingId::PointsRepeated, reading.repeated);
+    note(FindingId::PointsNegative, reading.negative);
+}
+
+void takePoints(const TestTable& table, const TestReadRequest& request, double abscissaFactor, double ordinateFactor,
+                TestReading& reading)
+{
+    TestData data;
+    data.name = request.name;
+    data.mode = request.mode;
+    data.parameter = request.stress.value_or(0.0);
+    data.weight = request.weight;
+    const std::vector<double>& x = table.columns[*reading.abscissa.column].cells;
+    const std::vector<double>& y = table.columns[*reading.ordinate.column].cells;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        const double abscissa = canonicalAbscissa(request.mode, *reading.abscissa.measure, x[i] * abscissaFactor);
+        const double ordinate =
+            canonicalOrdinate(request.mode, *reading.ordinate.measure, y[i] * ordinateFactor, abscissa);
+        if (!isInDomain(request.mode, abscissa, ordinate)) {
+            ++reading.leftOut;
+            continue;
+        }
+        data.abscissas.push_back(abscissa);
+        data.ordinates.push_back(ordinate);
+    }
+    reading.data = std::move(data);
+    countUnusual(reading);
+    if (reading.data->abscissas.empty())
+        reading.findings.push_back(makeFinding(FindingId::NoPoints, {request.name}));
+}
+
+} // namespace
+
+const std::vector<MeasureRecord>& measureRecords()
+{
+    return measureTable();
+}
+
+const MeasureRecord& measureRecord(Measure measure)
+{
+    return measureTable()[static_cast<std::size_t>(measure)];
+}
+
+const std::vector<Measure>& abscissaMeasures(Mode mode)
+{
+    static const std::vector<Measure> none;
+    const Axes* const axes = findAxes(mode);
+    return axes != nullptr ? axes->abscissa : none;
+}
+
+const std::vector<Measure>& ordinateMeasures(Mode mode)
+{
+    static const std::vector<Measure> none;
+    const Axes* const axes = findAxes(mode);
+    return axes != nullptr ? axes->ordinate : none;
+}
+
+TestReading takeTest(const TestTable& table, const TestReadRequest& request, const UnitFactor& units)
+{
+    TestReading reading;
+    AxisReader axes(table, request, units, reading);
+    const double abscissaFactor = axes.read(Axis::Abscissa);
+    const double ordinateFactor = axes.read(Axis::Ordinate);
+    if (request.mode == Mode::Creep && !request.stress) {
+        reading.findings.push_back(makeFinding(FindingId::StressOfTestNeeded));
+        reading.questions.push_back({QuestionKind::WhichStress, Axis::Ordinate});
+    }
+    if (reading.questions.empty())
+        takePoints(table, request, abscissaFactor, ordinateFactor, reading);
+    return reading;
+}
+
+} // namespace vxConstitutive

@@ -1,0 +1,154 @@
+#include "fit/HyperelasticFitParts.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace vxConstitutive {
+
+namespace {
+
+using vxMat::PropertyId;
+
+/// Between these the limiting stretch is looked for. At the upper one the series is Neo-Hookean.
+constexpr Bounds limitingStretches{1.0, 1000.0};
+
+/// The least squares problem of Arruda-Boyce. Its parameters are Mu by the largest stress, and 1/lm^2, which is 0 where
+/// the chains have no limit.
+class ArrudaBoyceProblem
+{
+public:
+    explicit ArrudaBoyceProblem(const HyperelasticFitData& data) : m_scale(data.shape.largestOrdinate)
+    {
+        // The stress is dW/dI1 times that of a Neo-Hookean material with C10 = 1.
+        const StrainEnergy neoHooke = StrainEnergy::mooneyRivlin(m_scale);
+        for (const FitPoint& point : data.shape.points) {
+            const double stress = incompressibleStress(neoHooke, point.test->mode, point.x);
+            m_rows.push_back(
+                {point.factor * stress, incompressibleInvariant(point.test->mode, point.x), point.factor * point.y});
+        }
+        const Bounds mu = boundsOf(data.bounds, PropertyId::InitialShearModulusMu, {0.0, Bounds().upper});
+        const Bounds limit = boundsOf(data.bounds, PropertyId::LimitingNetworkStretch, limitingStretches);
+        m_problem.residuals = m_rows.size();
+        m_problem.bounds = {{mu.lower / m_scale, mu.upper / m_scale},
+                            {inverseSquare(limit.upper), inverseSquare(limit.lower)}};
+        m_problem.evaluate = [this](const double* parameters, double* residuals, double* jacobian) {
+            evaluate(parameters, residuals, jacobian);
+            return true;
+        };
+    }
+    ArrudaBoyceProblem(const ArrudaBoyceProblem&) = delete;
+    ArrudaBoyceProblem& operator=(const ArrudaBoyceProblem&) = delete;
+    ~ArrudaBoyceProblem() = default;
+
+    const LeastSquares& problem() const { return m_problem; }
+    double scale() const { return m_scale; }
+
+    double largestChainStretch() const
+    {
+        double invariant = 3.0;
+        for (const Row& row : m_rows)
+            invariant = std::max(invariant, row.invariant);
+        return std::sqrt(invariant / 3.0);
+    }
+
+    /// The best Mu for a limiting stretch.
+    std::vector<double> startAt(double limitingStretch) const
+    {
+        const double theta = inverseSquare(limitingStretch);
+        double product = 0.0;
+        double square = 0.0;
+        for (const Row& row : m_rows) {
+            const double stress = row.stress * StrainEnergy::fiveTermSlope(row.invariant * theta).value;
+            product += stress * row.target;
+            square += stress * stress;
+        }
+        return {square > 0.0 ? product / square : 1.0, theta};
+    }
+
+private:
+    struct Row
+    {
+        double stress;
+        double invariant;
+        double target;
+    };
+
+    static double inverseSquare(double stretch) { return 1.0 / (stretch * stretch); }
+
+    void evaluate(const double* parameters, double* residuals, double* jacobian) const
+    {
+        for (std::size_t i = 0; i < m_rows.size(); ++i) {
+            const Row& row = m_rows[i];
+            const ValueAndSlope slope = StrainEnergy::fiveTermSlope(row.invariant * parameters[1]);
+            residuals[i] = row.stress * parameters[0] * slope.value - row.target;
+            if (jacobian == nullptr)
+                continue;
+            jacobian[2 * i] = row.stress * slope.value;
+            jacobian[2 * i + 1] = row.stress * parameters[0] * slope.slope * row.invariant;
+        }
+    }
+
+    double m_scale;
+    std::vector<Row> m_rows;
+    LeastSquares m_problem;
+};
+
+std::vector<std::vector<double>> startsOf(const ArrudaBoyceProblem& problem)
+{
+    std::vector<std::vector<double>> starts;
+    const double chains = problem.largestChainStretch();
+    for (const double part : {0.6, 0.8, 0.95, 1.1, 1.4, 2.0, 4.0, 10.0})
+        starts.push_back(problem.startAt(std::max(part * chains, 1.01)));
+    return starts;
+}
+
+} // namespace
+
+HyperelasticMinimum fitArrudaBoyce(const HyperelasticFitData& data, const std::function<void(double)>& progress)
+{
+    const ArrudaBoyceProblem series(data);
+    const LeastSquares& problem = series.problem();
+    const Minimum best = minimiseFromMany(problem, startsOf(series), data.cancelled, progress);
+    HyperelasticMinimum result;
+    if (best.parameters.empty())
+        return result;
+
+    const double theta = best.parameters[1];
+    const double limit = 1.0 / std::sqrt(theta);
+    result.constants.kind = ModelKind::ArrudaBoyce;
+    result.constants.mu = best.parameters[0] * series.scale();
+    result.constants.limitingStretch = limit;
+    result.found = true;
+
+    const Certainty certainty = certaintyAt(problem, best.parameters);
+    const Bounds& muBounds = problem.bounds[0];
+    const Bounds& thetaBounds = problem.bounds[1];
+    result.fitted.push_back({PropertyId::InitialShearModulusMu,
+                             "Mu",
+                             "Pa",
+                             result.constants.mu,
+                             certainty.errors[0] * series.scale(),
+                             {muBounds.lower * series.scale(), muBounds.upper * series.scale()},
+                             {}});
+    result.fitted.push_back({PropertyId::LimitingNetworkStretch,
+                             "lm",
+                             "1",
+                             limit,
+                             certainty.errors[1] * limit * limit * limit / 2.0,
+                             {1.0 / std::sqrt(thetaBounds.upper), 1.0 / std::sqrt(thetaBounds.lower)},
+                             {}});
+    result.freedoms = countFree(problem.bounds);
+
+    // Where the chains of the data are far from the limit, it has no say.
+    constexpr double far = 10.0;
+    if (limit > far * series.largestChainStretch()) {
+        result.fitted.back().determinedInstead = "Mu";
+        result.findings.push_back(makeFinding(FindingId::LimitingStretchInfinite, {series.largestChainStretch()}));
+    }
+    return result;
+}
+
+} // namespace vxConstitutive

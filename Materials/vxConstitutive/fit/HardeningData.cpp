@@ -1,0 +1,324 @@
+#include "fit/HardeningData.h"
+
+#include "fit/FitSupport.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <utility>
+
+namespace vxConstitutive {
+
+namespace {
+
+/// A tensile curve in rising order of engineering strain.
+struct TensileCurve
+{
+    std::vector<double> strain;
+    std::vector<double> stress;
+
+    std::size_t size() const { return strain.size(); }
+};
+
+TensileCurve sorted(const TestData& test)
+{
+    std::vector<std::size_t> order(test.abscissas.size());
+    std::iota(order.begin(), order.end(), std::size_t(0));
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return test.abscissas[a] < test.abscissas[b]; });
+    TensileCurve curve;
+    for (const std::size_t index : order) {
+        if (test.abscissas[index] < 0.0)
+            continue;
+        curve.strain.push_back(test.abscissas[index]);
+        curve.stress.push_back(test.ordinates[index]);
+    }
+    return curve;
+}
+
+/// A straight line by least squares.
+struct Line
+{
+    double slope = 0.0;
+    double foot = 0.0; ///< strain at which the stress is 0
+    std::optional<double> standardError;
+};
+
+std::optional<Line> fitLine(const TensileCurve& curve, double lowStress, double highStress)
+{
+    std::vector<std::size_t> used;
+    for (std::size_t i = 0; i < curve.size() && curve.stress[i] <= highStress; ++i) {
+        if (curve.stress[i] >= lowStress)
+            used.push_back(i);
+    }
+    const auto count = static_cast<double>(used.size());
+    double x = 0.0;
+    double y = 0.0;
+    for (const std::size_t i : used) {
+        x += curve.strain[i] / count;
+        y += curve.stress[i] / count;
+    }
+    double xx = 0.0;
+    double xy = 0.0;
+    double yy = 0.0;
+    for (const std::size_t i : used) {
+        xx += (curve.strain[i] - x) * (curve.strain[i] - x);
+        xy += (curve.strain[i] - x) * (curve.stress[i] - y);
+        yy += (curve.stress[i] - y) * (curve.stress[i] - y);
+    }
+    if (used.size() < 2 || !(xy > 0.0))
+        return std::nullopt;
+    Line line;
+    line.slope = xy / xx;
+    line.foot = x - y / line.slope;
+    if (used.size() > 2)
+        line.standardError = std::sqrt(std::max(0.0, yy - line.slope * xy) / (xx * (count - 2.0)));
+    return line;
+}
+
+/// Where a curve crosses the elastic line moved by the offset.
+struct Yield
+{
+    double strain = 0.0;
+    double stress = 0.0;
+};
+
+std::optional<Yield> findYield(const TensileCurve& curve, double modulus, double offset)
+{
+    const auto above = [&](std::size_t i) { return curve.stress[i] - modulus * (curve.strain[i] - offset); };
+    for (std::size_t i = 1; i < curve.size(); ++i) {
+        if (!(above(i) <= 0.0) || !(above(i - 1) > 0.0))
+            continue;
+        const double part = above(i - 1) / (above(i - 1) - above(i));
+        return Yield{curve.strain[i - 1] + part * (curve.strain[i] - curve.strain[i - 1]),
+                     curve.stress[i - 1] + part * (curve.stress[i] - curve.stress[i - 1])};
+    }
+    return std::nullopt;
+}
+
+/// The slope of the elastic part, which depends on the yield stress, which depends on the slope.
+std::optional<Line> findElasticLine(const TensileCurve& curve, double offset)
+{
+    if (curve.size() == 0)
+        return std::nullopt;
+    constexpr double low = 0.1;
+    constexpr double high = 0.5;
+    double yield = 0.5 * *std::max_element(curve.stress.begin(), curve.stress.end());
+    std::optional<Line> line;
+    for (int step = 0; step < 10; ++step) {
+        const std::optional<Line> next = fitLine(curve, low * yield, high * yield);
+        if (!next)
+            break;
+        line = next;
+        TensileCurve moved = curve;
+        for (double& strain : moved.strain)
+            strain -= line->foot;
+        const std::optional<Yield> found = findYield(moved, line->slope, offset);
+        if (!found || found->stress == yield)
+            break;
+        yield = found->stress;
+    }
+    return line;
+}
+
+/// True stress by the change of the cross section that PlasticModel has: sigma = s exp(ep + 2 nu sigma/E).
+double trueStress(double stress, double strain, const ElasticConstants& elastic)
+{
+    const double logStrain = std::log1p(strain);
+    double sigma = stress * (1.0 + strain);
+    for (int step = 0; step < 20; ++step) {
+        const double next =
+            stress * std::exp(logStrain - sigma / elastic.youngsModulus * (1.0 - 2.0 * elastic.poissonsRatio));
+        if (next == sigma)
+            break;
+        sigma = next;
+    }
+    return sigma;
+}
+
+/// The index behind the largest force of those behind the yield point; an upper yield stress does not count.
+std::size_t endOfUniformStrain(const TensileCurve& curve, double yieldStrain)
+{
+    const auto begin = std::upper_bound(curve.strain.begin(), curve.strain.end(), yieldStrain) - curve.strain.begin();
+    const auto largest = std::max_element(curve.stress.begin() + begin, curve.stress.end());
+    return largest == curve.stress.end() ? curve.size() : static_cast<std::size_t>(largest - curve.stress.begin()) + 1;
+}
+
+/// The plastic part of a tensile curve whose strain begins at 0.
+std::optional<TestData> plasticPart(const TestData& test, const TensileCurve& curve, const ElasticConstants& elastic,
+                                    double offset, std::vector<Finding>& findings)
+{
+    const std::optional<Yield> yield = findYield(curve, elastic.youngsModulus, offset);
+    if (!yield) {
+        findings.push_back(makeFinding(FindingId::NoPlasticPart, {test.name}));
+        return std::nullopt;
+    }
+    const std::size_t end = endOfUniformStrain(curve, yield->strain);
+    if (end < curve.size())
+        findings.push_back(
+            makeFinding(FindingId::CutAtNecking, {curve.strain[end - 1], static_cast<double>(curve.size() - end)}));
+    TestData plastic;
+    plastic.name = test.name;
+    plastic.mode = Mode::Plastic;
+    plastic.weight = test.weight;
+    plastic.abscissas.push_back(0.0);
+    plastic.ordinates.push_back(trueStress(yield->stress, yield->strain, elastic));
+    for (std::size_t i = 0; i < end; ++i) {
+        if (curve.strain[i] <= yield->strain)
+            continue;
+        const double stress = trueStress(curve.stress[i], curve.strain[i], elastic);
+        const double strain = std::log1p(curve.strain[i]) - stress / elastic.youngsModulus;
+        if (strain > 0.0 && std::isfinite(stress)) {
+            plastic.abscissas.push_back(strain);
+            plastic.ordinates.push_back(stress);
+        }
+    }
+    return plastic;
+}
+
+/// Takes Young's modulus from the first tensile curve that has an elastic part.
+std::optional<Line> modulusOf(const std::vector<TestData>& tests, double offset)
+{
+    for (const TestData& test : tests) {
+        if (test.mode != Mode::Tensile)
+            continue;
+        if (const auto line = findElasticLine(sorted(test), offset))
+            return line;
+    }
+    return std::nullopt;
+}
+
+void takeTensile(const PlasticFitRequest& request, const TestData& test, HardeningData& data)
+{
+    TensileCurve curve = sorted(test);
+    if (!request.youngsModulus) {
+        const std::optional<Line> line = findElasticLine(curve, request.offset);
+        for (double& strain : curve.strain)
+            strain -= line ? line->foot : 0.0;
+    }
+    auto plastic = plasticPart(test, curve, *data.elastic, request.offset, data.findings);
+    if (plastic)
+        data.tests.push_back(std::move(*plastic));
+}
+
+} // namespace
+
+double HardeningData::largestStress() const
+{
+    double largest = 0.0;
+    for (const TestData& test : tests) {
+        for (const double stress : test.ordinates)
+            largest = std::max(largest, stress);
+    }
+    return largest;
+}
+
+HardeningData takeHardening(const PlasticFitRequest& request)
+{
+    HardeningData data;
+    const std::vector<TestData> tests = usableTests(request.tests, data.findings);
+    if (request.youngsModulus && *request.youngsModulus > 0.0) {
+        data.elastic = ElasticConstants{*request.youngsModulus, request.poissonsRatio};
+    } else if (const auto line = modulusOf(tests, request.offset)) {
+        data.modulus = MeasuredModulus{line->slope, line->standardError};
+        data.elastic = ElasticConstants{line->slope, request.poissonsRatio};
+        data.findings.push_back(makeFinding(FindingId::ModulusFromCurve, {line->slope}));
+    }
+    for (const TestData& test : tests) {
+        if (test.mode == Mode::Plastic && !test.abscissas.empty())
+            data.tests.push_back(test);
+        if (test.mode == Mode::Tensile && data.elastic)
+            takeTensile(request, test, data);
+        if (test.mode == Mode::Tensile && !data.elastic)
+            data.findings.push_back(makeFinding(FindingId::NoElasticPart, {test.name}));
+    }
+    return data;
+}
+
+std::vector<HardeningPoint> risingPoints(const HardeningData& data, double tolerance, std::vector<Finding>& findings)
+{
+    std::vector<HardeningPoint> points;
+    for (const TestData& test : data.tests) {
+        for (std::size_t i = 0; i < test.abscissas.size(); ++i)
+            points.push_back({test.abscissas[i], test.ordinates[i]});
+    }
+    std::sort(points.begin(), points.end(), [](const HardeningPoint& a, const HardeningPoint& b) {
+        return std::pair(a.plasticStrain, a.stress) < std::pair(b.plasticStrain, b.stress);
+    });
+
+    // Blocks of neighbours with their mean; a block that is not above the one before is joined with it.
+    struct Block
+    {
+        double strain;
+        double stress;
+        double count;
+    };
+    std::vector<Block> blocks;
+    for (const HardeningPoint& point : points) {
+        blocks.push_back({point.plasticStrain, point.stress, 1.0});
+        while (blocks.size() > 1) {
+            Block& last = blocks[blocks.size() - 1];
+            Block& before = blocks[blocks.size() - 2];
+            if (last.stress >= before.stress && last.strain > before.strain)
+                break;
+            const double count = last.count + before.count;
+            before = {(last.strain * last.count + before.strain * before.count) / count,
+                      (last.stress * last.count + before.stress * before.count) / count, count};
+            blocks.pop_back();
+        }
+    }
+
+    double largestFall = 0.0;
+    double highest = -std::numeric_limits<double>::infinity();
+    for (const HardeningPoint& point : points) {
+        highest = std::max(highest, point.stress);
+        largestFall = std::max(largestFall, highest - point.stress);
+    }
+    constexpr double percent = 100.0;
+    const double largest = data.largestStress();
+    if (largestFall > tolerance * largest)
+        findings.push_back(makeFinding(FindingId::StressFalls, {percent * largestFall / largest}));
+
+    std::vector<HardeningPoint> rising;
+    rising.reserve(blocks.size());
+    for (const Block& block : blocks)
+        rising.push_back({block.strain, block.stress});
+    if (!rising.empty())
+        rising.front().plasticStrain = 0.0;
+    return rising;
+}
+
+std::vector<HardeningPoint> reducePoints(const std::vector<HardeningPoint>& points, double tolerance)
+{
+    if (points.size() < 3)
+        return points;
+    // The fewest lines to each point, by a search from the first one: a line from i reaches k if its slope lies in the
+    // wedge that all points between leave.
+    const std::size_t none = points.size();
+    std::vector<std::size_t> lines(points.size(), none);
+    std::vector<std::size_t> before(points.size(), none);
+    lines[0] = 0;
+    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
+        double low = -std::numeric_limits<double>::infinity();
+        double high = std::numeric_limits<double>::infinity();
+        for (std::size_t k = i + 1; k < points.size() && low <= high; ++k) {
+            const double length = points[k].plasticStrain - points[i].plasticStrain;
+            const double rise = points[k].stress - points[i].stress;
+            const double slope = rise / length;
+            if (slope >= low && slope <= high && lines[i] + 1 < lines[k]) {
+                lines[k] = lines[i] + 1;
+                before[k] = i;
+            }
+            low = std::max(low, (rise - tolerance) / length);
+            high = std::min(high, (rise + tolerance) / length);
+        }
+    }
+    std::vector<HardeningPoint> reduced;
+    for (std::size_t k = points.size() - 1; k != none; k = before[k])
+        reduced.push_back(points[k]);
+    std::reverse(reduced.begin(), reduced.end());
+    return reduced;
+}
+
+} // namespace vxConstitutive

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "fit/FitSupport.h"
+#include "vxConstitutive/fit/HyperelasticFit.h"
+#include "vxConstitutive/response/HyperelasticModel.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace vxConstitutive {
+
+/// What the fits of all hyperelastic forms share.
+struct HyperelasticFitData
+{
+    std::vector<const TestData*> shapeTests;
+    std::vector<const TestData*> volumeTests;
+    FitSet shape;
+    FitSet volume;
+    ErrorMeasure error = ErrorMeasure::OfLargest;
+    BoundsById bounds;
+    std::optional<Range> stableRange; ///< absent without a demand for stability
+    std::function<bool()> cancelled;
+};
+
+/// The constants of one form before they are judged.
+struct HyperelasticMinimum
+{
+    HyperelasticConstants constants;
+    std::vector<ConstantOfFit> fitted;
+    std::size_t freedoms = 0;
+    std::optional<HyperelasticConstants> withoutStability; ///< if the demand for stability changed the result
+    bool found = false;
+    std::vector<Finding> findings;
+};
+
+/// The nominal stress of an incompressible material in a test.
+double incompressibleStress(const StrainEnergy& energy, Mode mode, double abscissa);
+
+/// The first invariant of an incompressible material in a test.
+double incompressibleInvariant(Mode mode, double abscissa);
+
+/// Whether a model is stable in uniaxial, equibiaxial and planar tests.
+bool isStable(const HyperelasticConstants& constants, Range range);
+
+/// Fits the first `count` of C10, C01 and C11. The shape tests are usable.
+HyperelasticMinimum fitMooneyRivlin(const HyperelasticFitData& data, HyperelasticForm form, std::size_t count);
+
+/// Fits Mu and the limiting stretch. The shape tests are usable.
+HyperelasticMinimum fitArrudaBoyce(const HyperelasticFitData& data, const std::function<void(double)>& progress);
+
+} // namespace vxConstitutive

@@ -1,0 +1,222 @@
+#include "vxConstitutive/fit/PlasticFit.h"
+
+#include "TranslatedText.h"
+
+#include "fit/FitSupport.h"
+#include "fit/HardeningData.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+namespace vxConstitutive {
+
+namespace {
+
+using vxMat::PropertyId;
+
+/// More points than this are averaged before the fewest are looked for, which takes time by their square.
+constexpr std::size_t mostPoints = 1000;
+
+std::vector<const TestData*> pointersTo(const std::vector<TestData>& tests)
+{
+    std::vector<const TestData*> pointers;
+    pointers.reserve(tests.size());
+    for (const TestData& test : tests)
+        pointers.push_back(&test);
+    return pointers;
+}
+
+FitResult beginResult(const char* model, const HardeningData& data)
+{
+    FitResult result;
+    result.model = model;
+    result.findings = data.findings;
+    if (data.tests.empty())
+        result.findings.push_back(makeFinding(FindingId::DataMissing, {result.model}));
+    return result;
+}
+
+void addModulus(const HardeningData& data, FitResult& result)
+{
+    if (data.modulus)
+        result.constants.push_back({PropertyId::YoungsModulus, "E", "Pa", data.modulus->value,
+                                    data.modulus->standardError, Determination::Determined});
+}
+
+/// The switch and the words of Mises plasticity, and no constants of other kinds.
+MaterialChange misesChange(const char* hardening, const HardeningData& data)
+{
+    MaterialChange change;
+    if (data.modulus)
+        change.set.push_back({PropertyId::YoungsModulus, data.modulus->value, {}, {}});
+    change.set.push_back({PropertyId::Plasticity, 1.0, {}, {}});
+    change.set.push_back({PropertyId::PlasticYieldType, 0.0, "Mises", {}});
+    change.set.push_back({PropertyId::PlasticHardeningType, 0.0, hardening, {}});
+    change.remove = {PropertyId::PlasticViscosity, PropertyId::PlasticFAI};
+    return change;
+}
+
+bool endIfCancelled(Jobs& jobs, FitResult& result)
+{
+    if (!jobs.cancelled())
+        return false;
+    result.status = FitStatus::Cancelled;
+    result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+    return true;
+}
+
+/// Averages neighbours, leaving the first point, whose strain is 0, as it is.
+std::vector<HardeningPoint> condensed(const std::vector<HardeningPoint>& points)
+{
+    if (points.size() <= mostPoints)
+        return points;
+    std::vector<HardeningPoint> averages{points.front()};
+    const std::size_t rest = points.size() - 1;
+    const std::size_t groups = mostPoints - 1;
+    for (std::size_t group = 0; group < groups; ++group) {
+        const std::size_t from = 1 + group * rest / groups;
+        const std::size_t to = 1 + (group + 1) * rest / groups;
+        HardeningPoint average;
+        for (std::size_t i = from; i < to; ++i) {
+            average.plasticStrain += points[i].plasticStrain / static_cast<double>(to - from);
+            average.stress += points[i].stress / static_cast<double>(to - from);
+        }
+        averages.push_back(average);
+    }
+    return averages;
+}
+
+Prediction predictionOf(const PlasticModel& model)
+{
+    return [&model](const TestData& /*test*/, double strain) { return model.stressAt(strain); };
+}
+
+void finish(FitResult& result, std::shared_ptr<const Model> model)
+{
+    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
+    result.fitted = std::move(model);
+    result.status = FitStatus::Done;
+}
+
+MaterialChange multilinearChange(const HardeningData& data, const std::vector<HardeningPoint>& points)
+{
+    MaterialChange change = misesChange("Multilinear", data);
+    PropertyValue stresses{PropertyId::PlasticYieldStress, 0.0, {}, {}};
+    PropertyValue strains{PropertyId::PlasticStrain, 0.0, {}, {}};
+    for (const HardeningPoint& point : points) {
+        stresses.values.push_back(point.stress);
+        strains.values.push_back(point.plasticStrain);
+    }
+    change.set.push_back(std::move(stresses));
+    change.set.push_back(std::move(strains));
+    change.remove.push_back(PropertyId::PlasticInitialYieldStress);
+    change.remove.push_back(PropertyId::PlasticHardeningFactor);
+    return change;
+}
+
+MaterialChange bilinearChange(const HardeningData& data, double yield, double modulus)
+{
+    MaterialChange change = misesChange("Bilinear", data);
+    change.set.push_back({PropertyId::PlasticInitialYieldStress, yield, {}, {}});
+    change.set.push_back({PropertyId::PlasticHardeningFactor, modulus, {}, {}});
+    change.remove.push_back(PropertyId::PlasticYieldStress);
+    change.remove.push_back(PropertyId::PlasticStrain);
+    return change;
+}
+
+/// The straight line through the points, with yield stress and modulus in units of the largest stress.
+LeastSquares bilinearProblem(const FitSet& set, const BoundsById& bounds)
+{
+    const double scale = set.largestOrdinate;
+    const auto scaled = [&](std::int32_t id) {
+        const Bounds given = boundsOf(bounds, id, {0.0, Bounds().upper});
+        return Bounds{given.lower / scale, given.upper / scale};
+    };
+    LeastSquares problem;
+    problem.residuals = set.points.size();
+    problem.bounds = {scaled(PropertyId::PlasticInitialYieldStress), scaled(PropertyId::PlasticHardeningFactor)};
+    problem.evaluate = [&set, scale](const double* parameters, double* residuals, double* jacobian) {
+        for (std::size_t i = 0; i < set.points.size(); ++i) {
+            const FitPoint& point = set.points[i];
+            residuals[i] = point.factor * (scale * (parameters[0] + parameters[1] * point.x) - point.y);
+            if (jacobian == nullptr)
+                continue;
+            jacobian[2 * i] = point.factor * scale;
+            jacobian[2 * i + 1] = point.factor * scale * point.x;
+        }
+        return true;
+    };
+    return problem;
+}
+
+} // namespace
+
+FitResult fitMultilinear(const PlasticFitRequest& request, const FitControl& control)
+{
+    Jobs jobs(control, 1);
+    jobs.begin(QT_TRANSLATE_NOOP("vxConstitutive", "multilinear hardening"));
+    const HardeningData data = takeHardening(request);
+    FitResult result = beginResult("multilinear hardening", data);
+    if (data.tests.empty() || endIfCancelled(jobs, result))
+        return result;
+
+    const double tolerance = std::max(0.0, request.tolerance);
+    const std::vector<HardeningPoint> rising = condensed(risingPoints(data, tolerance, result.findings));
+    const std::vector<HardeningPoint> points = reducePoints(rising, tolerance * data.largestStress());
+    auto model = std::make_shared<PlasticModel>(points, data.elastic);
+    const FitSet set = makeFitSet(pointersTo(data.tests), ErrorMeasure::OfLargest);
+    judge(result, pointersTo(data.tests), ErrorMeasure::OfLargest, set, predictionOf(*model), points.size());
+
+    addModulus(data, result);
+    result.change = multilinearChange(data, points);
+    finish(result, std::move(model));
+    jobs.progress()(1.0);
+    return result;
+}
+
+FitResult fitBilinear(const PlasticFitRequest& request, const FitControl& control)
+{
+    Jobs jobs(control, 1);
+    jobs.begin(QT_TRANSLATE_NOOP("vxConstitutive", "bilinear hardening"));
+    const HardeningData data = takeHardening(request);
+    FitResult result = beginResult("bilinear hardening", data);
+    const std::vector<const TestData*> tests = pointersTo(data.tests);
+    const FitSet set = makeFitSet(tests, ErrorMeasure::OfLargest);
+    if (!set.usable() || endIfCancelled(jobs, result))
+        return result;
+
+    const LeastSquares problem = bilinearProblem(set, request.bounds);
+    const Minimum minimum = minimise(problem, {0.5, 1.0}, jobs.cancelledFunction());
+    const double scale = set.largestOrdinate;
+    const double yield = scale * minimum.parameters[0];
+    const double modulus = scale * minimum.parameters[1];
+    auto model = std::make_shared<PlasticModel>(yield, modulus, data.elastic);
+
+    const std::size_t freedoms = countFree(problem.bounds);
+    judge(result, tests, ErrorMeasure::OfLargest, set, predictionOf(*model), freedoms);
+    const Certainty certainty = certaintyAt(problem, minimum.parameters);
+    const auto add = [&](std::size_t i, std::int32_t id, const char* symbol) {
+        const Bounds& bounds = problem.bounds[i];
+        addConstant(result,
+                    {id,
+                     symbol,
+                     "Pa",
+                     scale * minimum.parameters[i],
+                     scale * certainty.errors[i],
+                     {scale * bounds.lower, scale * bounds.upper},
+                     {}},
+                    set.total, freedoms);
+    };
+    add(0, PropertyId::PlasticInitialYieldStress, "sigma0");
+    add(1, PropertyId::PlasticHardeningFactor, "H");
+    addModulus(data, result);
+    result.change = bilinearChange(data, yield, modulus);
+    finish(result, std::move(model));
+    jobs.progress()(1.0);
+    return result;
+}
+
+} // namespace vxConstitutive

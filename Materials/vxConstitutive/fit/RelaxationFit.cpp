@@ -1,0 +1,148 @@
+#include "TranslatedText.h"
+
+#include "fit/FitSupport.h"
+#include "vxConstitutive/fit/RateFits.h"
+#include "vxConstitutive/response/ViscoElasticModel.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace vxConstitutive {
+
+namespace {
+
+using vxMat::PropertyId;
+
+/// The times of the tests that are greater than 0.
+Range timesOf(const FitSet& set)
+{
+    Range times{std::numeric_limits<double>::infinity(), 0.0};
+    for (const FitPoint& point : set.points) {
+        if (point.x > 0.0)
+            times = {std::min(times.from, point.x), std::max(times.to, point.x)};
+    }
+    return times.to > 0.0 ? times : Range{1.0, 1.0};
+}
+
+/// The least squares problem of the modulus at once by the largest, g, and ln of the relaxation time.
+LeastSquares problemOf(const FitSet& set, Range times, const BoundsById& bounds)
+{
+    constexpr double beyond = 100.0; // of the times measured
+    const Bounds g = boundsOf(bounds, PropertyId::ShearRelaxationModulus, {0.0, 1.0});
+    const Bounds tau = boundsOf(bounds, PropertyId::RelaxationTime, {times.from / beyond, times.to * beyond});
+    LeastSquares problem;
+    problem.residuals = set.points.size();
+    problem.bounds = {{0.0, Bounds().upper},
+                      {std::max(0.0, g.lower), std::min(1.0, g.upper)},
+                      {std::log(std::max(tau.lower, 1e-300)), std::log(tau.upper)}};
+    problem.evaluate = [&set](const double* p, double* residuals, double* jacobian) {
+        const double time = std::exp(p[2]);
+        for (std::size_t i = 0; i < set.points.size(); ++i) {
+            const FitPoint& point = set.points[i];
+            const double factor = point.factor * set.largestOrdinate;
+            const double x = point.x / time;
+            const double decay = std::exp(-x);
+            const double shape = 1.0 - p[1] + p[1] * decay;
+            residuals[i] = factor * p[0] * shape - point.factor * point.y;
+            if (jacobian == nullptr)
+                continue;
+            jacobian[3 * i] = factor * shape;
+            jacobian[3 * i + 1] = factor * p[0] * (decay - 1.0);
+            jacobian[3 * i + 2] = factor * p[0] * p[1] * decay * x;
+        }
+        return true;
+    };
+    return problem;
+}
+
+std::vector<std::vector<double>> startsOf(Range times)
+{
+    std::vector<std::vector<double>> starts;
+    for (const double tau : spacedByFactor(times.from / 2.0, times.to * 2.0, 8))
+        starts.push_back({1.0, 0.5, std::log(tau)});
+    return starts;
+}
+
+void describeConstants(const LeastSquares& problem, const std::vector<double>& p, const FitSet& set, Range times,
+                       FitResult& result)
+{
+    const std::size_t freedoms = countFree(problem.bounds);
+    const double tau = std::exp(p[2]);
+    const Certainty certainty = certaintyAt(problem, p);
+    addConstant(result,
+                {0,
+                 "G0",
+                 "Pa",
+                 p[0] * set.largestOrdinate,
+                 certainty.errors[0] * set.largestOrdinate,
+                 {-1.0, Bounds().upper},
+                 {}},
+                set.total, freedoms);
+    addConstant(result,
+                {PropertyId::ShearRelaxationModulus, "g", "1", p[1], certainty.errors[1], problem.bounds[1], {}},
+                set.total, freedoms);
+    addConstant(result,
+                {PropertyId::RelaxationTime,
+                 "tau",
+                 "s",
+                 tau,
+                 certainty.errors[2] * tau,
+                 {std::exp(problem.bounds[2].lower), std::exp(problem.bounds[2].upper)},
+                 {}},
+                set.total, freedoms);
+    if (tau < times.from || tau > times.to)
+        result.findings.push_back(makeFinding(FindingId::RelaxationTimeOutside, {tau, times.from, times.to}));
+    result.change.set = {{PropertyId::ViscoElasticity, 1.0, {}, {}},
+                         {PropertyId::ShearRelaxationModulus, p[1], {}, {}},
+                         {PropertyId::RelaxationTime, tau, {}, {}}};
+}
+
+} // namespace
+
+FitResult fitRelaxation(const RelaxationFitRequest& request, const FitControl& control)
+{
+    FitResult result;
+    result.model = QT_TRANSLATE_NOOP("vxConstitutive", "visco-elasticity");
+    Jobs jobs(control, 1);
+    jobs.begin(result.model);
+    const std::vector<TestData> tests = usableTests(request.tests, result.findings);
+    std::vector<const TestData*> used;
+    for (const TestData& test : tests) {
+        if (test.mode == Mode::Relaxation)
+            used.push_back(&test);
+    }
+    const FitSet set = makeFitSet(used, request.error);
+    result.findings.insert(result.findings.end(), set.findings.begin(), set.findings.end());
+    if (!set.usable()) {
+        result.findings.push_back(makeFinding(FindingId::DataMissing, {result.model}));
+        return result;
+    }
+
+    const Range times = timesOf(set);
+    const LeastSquares problem = problemOf(set, times, request.bounds);
+    const Minimum minimum = minimiseFromMany(problem, startsOf(times), jobs.cancelledFunction(), jobs.progress());
+    const bool cancelled = jobs.cancelled();
+    result.status = cancelled ? FitStatus::Cancelled : FitStatus::Done;
+    if (cancelled)
+        result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+    if (minimum.parameters.empty())
+        return result;
+
+    const std::vector<double>& p = minimum.parameters;
+    const double modulus = p[0] * set.largestOrdinate;
+    const double tau = std::exp(p[2]);
+    const auto predict = [&](const TestData& /*test*/, double time) {
+        return modulus * (1.0 - p[1] + p[1] * std::exp(-time / tau));
+    };
+    judge(result, used, request.error, set, predict, countFree(problem.bounds));
+    describeConstants(problem, p, set, times, result);
+    auto model = std::make_shared<ViscoElasticModel>(p[1], tau, modulus);
+    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
+    result.fitted = std::move(model);
+    return result;
+}
+
+} // namespace vxConstitutive

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "vxConstitutive/ConstitutiveExport.h"
+
+namespace vxConstitutive {
+
+/// A value and its derivative.
+struct ValueAndSlope
+{
+    double value = 0.0;
+    double slope = 0.0;
+};
+
+/// The inverse of the Langevin function L(b) = coth(b) - 1/b, to the precision of a double, and its derivative.
+///
+/// It gives the force on a freely jointed chain (in kT per link length) whose ends are at the part `x` of its full
+/// length from each other. Valid for -1 < x < 1; NaN elsewhere.
+///
+/// Source: W. Kuhn, F. Gruen, "Beziehungen zwischen elastischen Konstanten und Dehnungsdoppelbrechung hochelastischer
+/// Stoffe", Kolloid-Zeitschrift 101 (1942), 248-271.
+VXCONSTITUTIVE_EXPORT ValueAndSlope inverseLangevin(double x);
+
+} // namespace vxConstitutive

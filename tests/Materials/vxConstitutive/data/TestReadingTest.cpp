@@ -1,0 +1,218 @@
+#include "vxConstitutive/data/TestReading.h"
+
+#include "ConstitutiveTesting.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string>
+
+using namespace vxConstitutive;
+using vxtest::firstArgument;
+using vxtest::has;
+
+namespace {
+
+TestReading take(const std::string& text, const TestReadRequest& request)
+{
+    return takeTest(readTestTable(text, vxtest::unitFactor), request, vxtest::unitFactor);
+}
+
+TestReading take(const std::string& text, Mode mode)
+{
+    TestReadRequest request;
+    request.name = "test";
+    request.mode = mode;
+    return take(text, request);
+}
+
+bool asks(const TestReading& reading, QuestionKind kind, Axis axis)
+{
+    return std::any_of(reading.questions.begin(), reading.questions.end(),
+                       [=](const Question& question) { return question.kind == kind && question.axis == axis; });
+}
+
+TEST(MeasureVocabulary, RecordsStandAtTheirEnumerators)
+{
+    for (std::size_t i = 0; i < measureRecords().size(); ++i)
+        EXPECT_EQ(static_cast<std::size_t>(measureRecords()[i].measure), i);
+    EXPECT_TRUE(abscissaMeasures(Mode::Yield).empty());
+    EXPECT_TRUE(ordinateMeasures(Mode::Dynamic).empty());
+}
+
+TEST(TestColumns, AreFoundByTheirNamesAndConverted)
+{
+    const TestReading reading =
+        take("Time [s];Engineering stress [MPa];Engineering strain [%]\n0;0;0\n1;2.5;50\n", Mode::Uniaxial);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_EQ(reading.abscissa.column, 2U);
+    EXPECT_EQ(reading.abscissa.measure, Measure::EngineeringStrain);
+    EXPECT_EQ(reading.ordinate.unit, "MPa");
+    EXPECT_EQ(reading.data->abscissas, (std::vector<double>{1.0, 1.5}));
+    EXPECT_EQ(reading.data->ordinates, (std::vector<double>{0.0, 2.5e6}));
+    EXPECT_FALSE(has(reading.findings, FindingId::MeasureAssumed));
+}
+
+TEST(TestColumns, GermanHeadersAreUnderstood)
+{
+    const TestReading reading = take("Technische Dehnung [%];Techn. Spannung [MPa]\n0;0\n50;2,5\n", Mode::Uniaxial);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_EQ(reading.data->ordinates[1], 2.5e6);
+}
+
+TEST(TestColumns, TrueValuesBecomeNominalOnes)
+{
+    const TestReading rubber = take("true strain [-],true stress [Pa]\n0.6931471805599453,8\n", Mode::Planar);
+    ASSERT_TRUE(rubber.data.has_value());
+    EXPECT_NEAR(rubber.data->abscissas[0], 2.0, 1e-14);
+    EXPECT_NEAR(rubber.data->ordinates[0], 4.0, 1e-14);
+    const TestReading metal = take("true strain [-],Cauchy stress [Pa]\n0.6931471805599453,8\n", Mode::Tensile);
+    ASSERT_TRUE(metal.data.has_value());
+    EXPECT_NEAR(metal.data->abscissas[0], 1.0, 1e-14);
+    EXPECT_NEAR(metal.data->ordinates[0], 4.0, 1e-14);
+}
+
+TEST(TestColumns, AHeaderThatDoesNotSayTrueIsTakenAsEngineeringAndSaysSo)
+{
+    const TestReading reading = take("strain [-],stress [Pa]\n0.5,8\n", Mode::Uniaxial);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_EQ(reading.data->ordinates[0], 8.0);
+    EXPECT_EQ(firstArgument(reading.findings, FindingId::MeasureAssumed, 1), "engineering strain");
+}
+
+TEST(TestColumns, OfTheOtherModes)
+{
+    const TestReading volume = take("volume ratio;pressure [MPa]\n0.99;20\n", Mode::Volumetric);
+    EXPECT_EQ(volume.data.value().abscissas[0], 0.99);
+    EXPECT_EQ(volume.data.value().ordinates[0], -20e6);
+    const TestReading strain = take("volumetric strain [%];pressure [MPa]\n-1;20\n", Mode::Volumetric);
+    EXPECT_NEAR(strain.data.value().abscissas[0], 0.99, 1e-15);
+    const TestReading shear = take("shear strain [-];shear stress [kPa]\n1.5;3\n", Mode::SimpleShear);
+    EXPECT_EQ(shear.data.value().ordinates[0], 3e3);
+    const TestReading plastic = take("plastic strain [-];true stress [MPa]\n0.1;679\n", Mode::Plastic);
+    EXPECT_EQ(plastic.data.value().ordinates[0], 679e6);
+    const TestReading relaxation = take("time [h];shear modulus [MPa]\n1;5\n", Mode::Relaxation);
+    EXPECT_EQ(relaxation.data.value().abscissas[0], 3600.0);
+    const TestReading rates = take("stress [MPa];creep rate [1/h]\n100;3.6\n", Mode::CreepRate);
+    EXPECT_NEAR(rates.data.value().ordinates[0], 1e-3, 1e-15);
+}
+
+TEST(TestQuestions, AUnitIsAskedForNeverGuessed)
+{
+    const std::string text = "strain,stress\n0.1,2\n";
+    TestReading reading = take(text, Mode::Uniaxial);
+    EXPECT_FALSE(reading.data.has_value());
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichUnit, Axis::Abscissa));
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichUnit, Axis::Ordinate));
+    EXPECT_EQ(firstArgument(reading.findings, FindingId::UnitNeeded), "strain");
+
+    TestReadRequest request;
+    request.abscissa.unit = "%";
+    request.ordinate.unit = "MPa";
+    reading = take(text, request);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_NEAR(reading.data->abscissas[0], 1.001, 1e-15);
+}
+
+TEST(TestQuestions, AnUnknownUnitOrOneOfAnotherDimensionIsAskedForAgain)
+{
+    TestReading reading = take("stretch,stress [furlong]\n1.1,2\n", Mode::Uniaxial);
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichUnit, Axis::Ordinate));
+    EXPECT_EQ(firstArgument(reading.findings, FindingId::UnitUnknown, 1), "furlong");
+    reading = take("stretch,stress [%]\n1.1,2\n", Mode::Uniaxial);
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichUnit, Axis::Ordinate));
+}
+
+TEST(TestQuestions, AStretchWithoutAUnitIsANumber)
+{
+    EXPECT_TRUE(take("stretch,stress [Pa]\n1.1,2\n", Mode::Uniaxial).data.has_value());
+}
+
+TEST(TestQuestions, TwoColumnsWithoutAHeaderNeedTheirMeaning)
+{
+    const std::string text = "1.1,2\n1.2,3\n";
+    TestReading reading = take(text, Mode::Uniaxial);
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichMeasure, Axis::Abscissa));
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichMeasure, Axis::Ordinate));
+    TestReadRequest request;
+    request.abscissa.measure = Measure::Stretch;
+    request.ordinate.measure = Measure::TrueStress;
+    request.ordinate.unit = "Pa";
+    reading = take(text, request);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_NEAR(reading.data->ordinates[0], 2.0 / 1.1, 1e-15);
+}
+
+TEST(TestQuestions, AColumnThatNobodyNamesIsAskedFor)
+{
+    const TestReading reading = take("time [s];force [N];stress [Pa]\n1;2;3\n", Mode::Uniaxial);
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichColumn, Axis::Abscissa));
+    EXPECT_FALSE(asks(reading, QuestionKind::WhichColumn, Axis::Ordinate));
+    TestReadRequest request;
+    request.abscissa.column = 7;
+    EXPECT_TRUE(asks(take("a;b\n1;2\n", request), QuestionKind::WhichColumn, Axis::Abscissa));
+    request.abscissa = {std::nullopt, Measure::Time, std::nullopt};
+    EXPECT_TRUE(asks(take("1;2\n", request), QuestionKind::WhichMeasure, Axis::Abscissa));
+}
+
+TEST(TestQuestions, ACreepCurveNeedsItsStress)
+{
+    const std::string text = "time [s];creep strain [-]\n1;0.001\n";
+    EXPECT_TRUE(asks(take(text, Mode::Creep), QuestionKind::WhichStress, Axis::Ordinate));
+    TestReadRequest request;
+    request.mode = Mode::Creep;
+    request.stress = 1e8;
+    ASSERT_TRUE(take(text, request).data.has_value());
+    EXPECT_EQ(take(text, request).data->parameter, 1e8);
+}
+
+TEST(TestQuestions, AModeThatIsNotMeasuredHasNoColumns)
+{
+    EXPECT_FALSE(take("stretch,stress [Pa]\n1.1,2\n", Mode::Yield).data.has_value());
+}
+
+TEST(TestPoints, WhatIsUnusualIsCounted)
+{
+    const TestReading reading =
+        take("stretch,nominal stress [Pa]\n1.2,3\n1.1,2\n1.1,2\n0.9,-2\n1.3,\n-1,5\n1.4,4\n", Mode::Uniaxial);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_EQ(reading.data->abscissas, (std::vector<double>{1.2, 1.1, 1.1, 0.9, 1.4}));
+    EXPECT_EQ(reading.unsorted, 2U);
+    EXPECT_EQ(reading.repeated, 1U);
+    EXPECT_EQ(reading.negative, 1U);
+    EXPECT_EQ(reading.leftOut, 1U);
+    for (const FindingId id :
+         {FindingId::PointsUnsorted, FindingId::PointsRepeated, FindingId::PointsNegative, FindingId::PointsOutside})
+        EXPECT_TRUE(has(reading.findings, id)) << findingRecord(id).key;
+}
+
+TEST(TestPoints, ATestMayHaveNoneLeft)
+{
+    const TestReading reading = take("stretch,stress [Pa]\n-1,2\n0,3\n", Mode::Uniaxial);
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_TRUE(reading.data->abscissas.empty());
+    EXPECT_TRUE(has(reading.findings, FindingId::NoPoints));
+}
+
+TEST(TestPoints, AFactorThatOverflowsLeavesPointsOut)
+{
+    TestReadRequest request;
+    const TestTable table = readTestTable("stretch,stress [MPa]\n1.1,1e305\n1.2,2\n", vxtest::unitFactor);
+    EXPECT_EQ(takeTest(table, request, vxtest::unitFactor).leftOut, 1U);
+}
+
+TEST(TestDomain, DependsOnTheMode)
+{
+    EXPECT_TRUE(isInDomain(Mode::SimpleShear, -3.0, 1.0));
+    EXPECT_FALSE(isInDomain(Mode::Uniaxial, 0.0, 1.0));
+    EXPECT_TRUE(isInDomain(Mode::Tensile, -0.9, 1.0));
+    EXPECT_FALSE(isInDomain(Mode::Tensile, -1.0, 1.0));
+    EXPECT_TRUE(isInDomain(Mode::Creep, 0.0, 1.0));
+    EXPECT_FALSE(isInDomain(Mode::Creep, -1.0, 1.0));
+    EXPECT_FALSE(isInDomain(Mode::SimpleShear, 1.0, std::nan("")));
+    EXPECT_FALSE(isInDomain(Mode::SimpleShear, std::numeric_limits<double>::infinity(), 1.0));
+}
+
+} // namespace

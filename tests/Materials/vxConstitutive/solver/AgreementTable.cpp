@@ -21,7 +21,7 @@ std::vector<AgreementRow>& rows()
     return all;
 }
 
-/// What identifies a row.
+/// Returns the columns that identify a row.
 std::string beginning(const AgreementRow& row)
 {
     return "| " + row.model + " | " + row.mode + " | " + row.range + " | ";
@@ -29,7 +29,7 @@ std::string beginning(const AgreementRow& row)
 
 std::string textOf(const AgreementRow& row)
 {
-    // Two digits of a percentage; what is smaller than the solver's output resolves is not told apart.
+    // Differences below the resolution of the solver's output are not told apart.
     char difference[32] = "less than 0.0001";
     if (row.difference >= 1e-6)
         std::snprintf(difference, sizeof difference, "%.2g", row.difference * 100.0);
@@ -45,32 +45,33 @@ std::string tableText()
     return text;
 }
 
-constexpr const char* introduction =
-    "# Curves and a solver\n\n"
-    "This table is made by the program `solver_agreement_tests`; do not edit it. For each row CalculiX 2.20 computed "
-    "a\n"
-    "cube of one element (C3D8) in small increments, and the nominal stress (force on a face), the true stress or the\n"
-    "strain that it printed was compared with the curve at the same abscissas. The difference is the largest of all\n"
-    "points, in percent of the largest value of the curve. To make it anew:\n\n"
-    "    VX_AGREEMENT_TABLE=docs/solver-agreement.md build/default/bin/solver_agreement_tests\n\n"
-    "Numbers are in MPa (D1 in 1/MPa), h for creep; K/mu is the ratio of the initial bulk and shear modulus. "
-    "Incompressible\n"
-    "curves are compared with a solver material of K/mu = 1e7. What no solver here can prove stands below the "
-    "table.\n\n";
+constexpr const char* introduction = R"(# Agreement of the curves with a solver
 
-constexpr const char* without =
-    "\nWithout a proof by this solver:\n\n"
-    "- Drucker-Prager and Mohr-Coulomb: CalculiX 2.20 has no such keyword; the yield surfaces are checked by hand\n"
-    "  calculations in the unit tests.\n"
-    "- Visco-elasticity has no keyword either. Relaxation and creep in shear are proved by two elements on the same "
-    "nodes,\n"
-    "  one of them elastic, the other one creeping in proportion to its stress (`*CREEP` with n = 1): together the "
-    "same\n"
-    "  solid. Storage and loss modulus follow from the relaxation curve by a Fourier integral, which a unit test does\n"
-    "  numerically.\n"
-    "- The inverse Langevin function: solvers compute the five-term series.\n";
+The program `solver_agreement_tests` writes this table; do not edit it. For each row, CalculiX 2.20 computed a cube of one
+element (C3D8) in small increments. The test compares its nominal stress (force on a face), true stress or strain with the
+curve at the same abscissas. The difference is the largest of all points, in percent of the largest value of the curve.
+To update the table:
 
-/// Prints the table, or writes it, when all tests have run.
+    VX_AGREEMENT_TABLE=docs/solver-agreement.md build/default/bin/solver_agreement_tests
+
+Numbers are in MPa (D1 in 1/MPa), and in h for creep. K/mu is the ratio of the initial bulk modulus to the initial shear
+modulus. Incompressible curves are compared with a solver material of K/mu = 1e7. Models that this solver cannot prove are
+listed below the table.
+
+)";
+
+constexpr const char* unproved = R"(
+Not proved by this solver:
+
+- Drucker-Prager and Mohr-Coulomb: CalculiX 2.20 has no such keyword. Unit tests compare the yield surfaces with hand
+  calculations.
+- Visco-elasticity: there is no keyword either. Relaxation and creep in shear are proved by two elements on the same nodes.
+  One is elastic, the second creeps in proportion to its stress (`*CREEP` with n = 1); together they are the same solid.
+  Storage and loss modulus follow from the relaxation curve by a Fourier integral, which a unit test computes numerically.
+- The inverse Langevin function: solvers compute the five-term series.
+)";
+
+/// Prints the table, or writes it, after the last test.
 class TableAtEnd : public ::testing::Environment
 {
 public:
@@ -81,7 +82,7 @@ public:
         std::cout << tableText();
         const char* const path = std::getenv("VX_AGREEMENT_TABLE"); // NOLINT(concurrency-mt-unsafe): one thread
         if (path != nullptr)
-            std::ofstream(path) << introduction << tableText() << without;
+            std::ofstream(path) << introduction << tableText() << unproved;
     }
 };
 
@@ -95,7 +96,7 @@ void recordAgreement(const AgreementRow& row)
     if (std::getenv("VX_AGREEMENT_TABLE") != nullptr) // NOLINT(concurrency-mt-unsafe): one thread
         return;
     EXPECT_NE(readText(VX_AGREEMENT_DOC).find(beginning(row)), std::string::npos)
-        << "docs/solver-agreement.md has no row " << beginning(row) << "; make it anew as it says";
+        << "docs/solver-agreement.md has no row " << beginning(row) << "; update it as its introduction says";
 }
 
 double largestDifference(const std::vector<double>& curve, const std::vector<double>& solver)

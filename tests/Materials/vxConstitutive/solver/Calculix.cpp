@@ -40,7 +40,7 @@ std::string stepText(const SolverStep& step)
     if (!step.forces.empty())
         text += "*CLOAD\n";
     for (const FaceValue& force : step.forces) {
-        // Of one face with four nodes; each element of the cube has the same nodes.
+        // A face has four nodes, which all elements of the cube share.
         text += std::string(nameOf(force.face)) + "," + std::to_string(force.direction) + "," +
                 deckNumber(force.value / 4.0) + "\n";
     }
@@ -57,7 +57,7 @@ std::string deckText(const SolverModel& model)
         text += "*ELEMENT,TYPE=C3D8,ELSET=E" + number + "\n" + number + ",1,2,3,4,5,6,7,8\n*MATERIAL,NAME=M" + number +
                 "\n" + model.materials[i] + "*SOLID SECTION,ELSET=E" + number + ",MATERIAL=M" + number + "\n";
     }
-    // Residual forces and corrections of the displacements well below what is compared.
+    // Residual forces and corrections of the displacements are well below the compared differences.
     text += "*CONTROLS,PARAMETERS=FIELD\n1.e-7,1.e-6\n*BOUNDARY\n";
     for (const FaceValue& support : model.supports)
         text += boundaryLine(support);
@@ -69,7 +69,7 @@ std::string deckText(const SolverModel& model)
     return text;
 }
 
-/// The numbers of a line, however many there are.
+/// Returns the numbers at the start of a line.
 std::vector<double> numbersOf(const std::string& line)
 {
     std::istringstream stream(line);
@@ -79,7 +79,7 @@ std::vector<double> numbersOf(const std::string& line)
     return numbers;
 }
 
-/// The first line with numbers behind a heading.
+/// Returns the numbers of the next line that has any.
 std::vector<double> nextNumbers(std::istream& stream)
 {
     std::string line;
@@ -91,7 +91,7 @@ std::vector<double> nextNumbers(std::istream& stream)
     return {};
 }
 
-/// Puts what stands behind a heading into a state; returns whether it was the last part of an increment.
+/// Stores the numbers below a heading in a state. Returns whether they are the last part of an increment.
 bool readBlock(const std::string& heading, std::istream& stream, SolverState& state)
 {
     const std::vector<double> numbers = nextNumbers(stream);
@@ -150,7 +150,7 @@ std::vector<SolverState> runCalculix(const SolverModel& model)
     std::ofstream(folder / "job.inp") << deckText(model);
     const std::string command =
         "cd '" + folder.string() + "' && OMP_NUM_THREADS=1 '" VX_CCX "' -i job > job.log 2>&1 < /dev/null";
-    const int status = std::system(command.c_str()); // NOLINT(cert-env33-c): the solver, in a folder of ours
+    const int status = std::system(command.c_str()); // NOLINT(cert-env33-c): starts the solver in a temporary folder
     auto states = readStates((folder / "job.dat").string());
     double duration = 0.0;
     for (const SolverStep& step : model.steps)

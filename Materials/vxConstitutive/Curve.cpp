@@ -1,11 +1,11 @@
 #include "vxConstitutive/Curve.h"
 
-#include "TranslatedText.h"
-
+#include "vxConstitutive/Texts.h"
 #include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vxConstitutive {
 
@@ -14,22 +14,19 @@ namespace {
 const std::vector<ModeRecord>& modeTable()
 {
     static const std::vector<ModeRecord> table{
-        {Mode::Uniaxial, "uniaxial", QT_TRANSLATE_NOOP("vxConstitutive", "uniaxial tension and compression"),
-         Quantity::Stretch},
-        {Mode::Equibiaxial, "equibiaxial", QT_TRANSLATE_NOOP("vxConstitutive", "equibiaxial tension"),
-         Quantity::Stretch},
-        {Mode::Planar, "planar", QT_TRANSLATE_NOOP("vxConstitutive", "planar tension (pure shear)"), Quantity::Stretch},
-        {Mode::SimpleShear, "simple-shear", QT_TRANSLATE_NOOP("vxConstitutive", "simple shear"),
-         Quantity::AmountOfShear},
-        {Mode::Volumetric, "volumetric", QT_TRANSLATE_NOOP("vxConstitutive", "volumetric"), Quantity::Stretch},
-        {Mode::Plastic, "plastic", QT_TRANSLATE_NOOP("vxConstitutive", "hardening curve"), Quantity::PlasticStrain},
-        {Mode::Tensile, "tensile", QT_TRANSLATE_NOOP("vxConstitutive", "tensile test"), Quantity::EngineeringStrain},
-        {Mode::Yield, "yield", QT_TRANSLATE_NOOP("vxConstitutive", "yield surface"), Quantity::Pressure},
-        {Mode::Creep, "creep", QT_TRANSLATE_NOOP("vxConstitutive", "creep"), Quantity::Time},
-        {Mode::CreepRate, "creep-rate", QT_TRANSLATE_NOOP("vxConstitutive", "creep rate"), Quantity::Stress},
-        {Mode::Relaxation, "relaxation", QT_TRANSLATE_NOOP("vxConstitutive", "shear relaxation"), Quantity::Time},
-        {Mode::ShearCreep, "shear-creep", QT_TRANSLATE_NOOP("vxConstitutive", "shear creep"), Quantity::Time},
-        {Mode::Dynamic, "dynamic", QT_TRANSLATE_NOOP("vxConstitutive", "storage and loss"), Quantity::Frequency},
+        {Mode::Uniaxial, "uniaxial", "uniaxial tension and compression", Quantity::Stretch},
+        {Mode::Equibiaxial, "equibiaxial", "equibiaxial tension", Quantity::Stretch},
+        {Mode::Planar, "planar", "planar tension (pure shear)", Quantity::Stretch},
+        {Mode::SimpleShear, "simple-shear", "simple shear", Quantity::AmountOfShear},
+        {Mode::Volumetric, "volumetric", "volumetric", Quantity::Stretch},
+        {Mode::Plastic, "plastic", "hardening curve", Quantity::PlasticStrain},
+        {Mode::Tensile, "tensile", "tensile test", Quantity::EngineeringStrain},
+        {Mode::Yield, "yield", "yield surface", Quantity::Pressure},
+        {Mode::Creep, "creep", "creep", Quantity::Time},
+        {Mode::CreepRate, "creep-rate", "creep rate", Quantity::Stress},
+        {Mode::Relaxation, "relaxation", "shear relaxation", Quantity::Time},
+        {Mode::ShearCreep, "shear-creep", "shear creep", Quantity::Time},
+        {Mode::Dynamic, "dynamic", "storage and loss", Quantity::Frequency},
     };
     return table;
 }
@@ -37,36 +34,35 @@ const std::vector<ModeRecord>& modeTable()
 const std::vector<QuantityRecord>& quantityTable()
 {
     static const std::vector<QuantityRecord> table{
-        {Quantity::Stretch, QT_TRANSLATE_NOOP("vxConstitutive", "stretch"), "1"},
-        {Quantity::AmountOfShear, QT_TRANSLATE_NOOP("vxConstitutive", "amount of shear"), "1"},
-        {Quantity::EngineeringStrain, QT_TRANSLATE_NOOP("vxConstitutive", "engineering strain"), "1"},
-        {Quantity::PlasticStrain, QT_TRANSLATE_NOOP("vxConstitutive", "plastic strain"), "1"},
-        {Quantity::Pressure, QT_TRANSLATE_NOOP("vxConstitutive", "pressure"), "Pa"},
-        {Quantity::Time, QT_TRANSLATE_NOOP("vxConstitutive", "time"), "s"},
-        {Quantity::Stress, QT_TRANSLATE_NOOP("vxConstitutive", "stress"), "Pa"},
-        {Quantity::Frequency, QT_TRANSLATE_NOOP("vxConstitutive", "frequency"), "Hz"},
-        {Quantity::NominalStress, QT_TRANSLATE_NOOP("vxConstitutive", "nominal stress"), "Pa"},
-        {Quantity::TrueStress, QT_TRANSLATE_NOOP("vxConstitutive", "true stress"), "Pa"},
-        {Quantity::NominalShearStress, QT_TRANSLATE_NOOP("vxConstitutive", "nominal shear stress"), "Pa"},
-        {Quantity::TrueShearStress, QT_TRANSLATE_NOOP("vxConstitutive", "true shear stress"), "Pa"},
-        {Quantity::NormalStressDifference, QT_TRANSLATE_NOOP("vxConstitutive", "normal stress difference"), "Pa"},
-        {Quantity::Slope, QT_TRANSLATE_NOOP("vxConstitutive", "slope"), ""},
-        {Quantity::LateralStretch, QT_TRANSLATE_NOOP("vxConstitutive", "lateral stretch"), "1"},
-        {Quantity::VolumeRatio, QT_TRANSLATE_NOOP("vxConstitutive", "volume ratio"), "1"},
-        {Quantity::MisesStress, QT_TRANSLATE_NOOP("vxConstitutive", "Mises stress"), "Pa"},
-        {Quantity::MisesStressCompression, QT_TRANSLATE_NOOP("vxConstitutive", "Mises stress, compression meridian"),
-         "Pa"},
-        {Quantity::MisesStressExtension, QT_TRANSLATE_NOOP("vxConstitutive", "Mises stress, extension meridian"), "Pa"},
-        {Quantity::MisesStressOuter, QT_TRANSLATE_NOOP("vxConstitutive", "Mises stress, outer cone"), "Pa"},
-        {Quantity::MisesStressInner, QT_TRANSLATE_NOOP("vxConstitutive", "Mises stress, inner cone"), "Pa"},
-        {Quantity::MisesStressPlaneStrain, QT_TRANSLATE_NOOP("vxConstitutive", "Mises stress, plane strain"), "Pa"},
-        {Quantity::CreepStrain, QT_TRANSLATE_NOOP("vxConstitutive", "creep strain"), "1"},
-        {Quantity::CreepStrainRate, QT_TRANSLATE_NOOP("vxConstitutive", "creep strain rate"), "1/s"},
-        {Quantity::RelaxationModulus, QT_TRANSLATE_NOOP("vxConstitutive", "relaxation modulus"), "Pa"},
-        {Quantity::CreepCompliance, QT_TRANSLATE_NOOP("vxConstitutive", "creep compliance"), "1/Pa"},
-        {Quantity::StorageModulus, QT_TRANSLATE_NOOP("vxConstitutive", "storage modulus"), "Pa"},
-        {Quantity::LossModulus, QT_TRANSLATE_NOOP("vxConstitutive", "loss modulus"), "Pa"},
-        {Quantity::LossFactor, QT_TRANSLATE_NOOP("vxConstitutive", "loss factor"), "1"},
+        {Quantity::Stretch, "stretch", "1"},
+        {Quantity::AmountOfShear, "amount of shear", "1"},
+        {Quantity::EngineeringStrain, "engineering strain", "1"},
+        {Quantity::PlasticStrain, "plastic strain", "1"},
+        {Quantity::Pressure, "pressure", "Pa"},
+        {Quantity::Time, "time", "s"},
+        {Quantity::Stress, "stress", "Pa"},
+        {Quantity::Frequency, "frequency", "Hz"},
+        {Quantity::NominalStress, "nominal stress", "Pa"},
+        {Quantity::TrueStress, "true stress", "Pa"},
+        {Quantity::NominalShearStress, "nominal shear stress", "Pa"},
+        {Quantity::TrueShearStress, "true shear stress", "Pa"},
+        {Quantity::NormalStressDifference, "normal stress difference", "Pa"},
+        {Quantity::Slope, "slope", ""},
+        {Quantity::LateralStretch, "lateral stretch", "1"},
+        {Quantity::VolumeRatio, "volume ratio", "1"},
+        {Quantity::MisesStress, "Mises stress", "Pa"},
+        {Quantity::MisesStressCompression, "Mises stress, compression meridian", "Pa"},
+        {Quantity::MisesStressExtension, "Mises stress, extension meridian", "Pa"},
+        {Quantity::MisesStressOuter, "Mises stress, outer cone", "Pa"},
+        {Quantity::MisesStressInner, "Mises stress, inner cone", "Pa"},
+        {Quantity::MisesStressPlaneStrain, "Mises stress, plane strain", "Pa"},
+        {Quantity::CreepStrain, "creep strain", "1"},
+        {Quantity::CreepStrainRate, "creep strain rate", "1/s"},
+        {Quantity::RelaxationModulus, "relaxation modulus", "Pa"},
+        {Quantity::CreepCompliance, "creep compliance", "1/Pa"},
+        {Quantity::StorageModulus, "storage modulus", "Pa"},
+        {Quantity::LossModulus, "loss modulus", "Pa"},
+        {Quantity::LossFactor, "loss factor", "1"},
     };
     return table;
 }
@@ -133,16 +129,20 @@ std::vector<double> spacedByFactor(double from, double to, std::size_t count)
     return values;
 }
 
-std::string columnName(const Column& column)
+std::string columnName(const Column& column, const vxUnits::Translator& translator)
 {
-    std::string name = quantityRecord(column.quantity).name;
+    std::string name = translatedWord(quantityRecord(column.quantity).name, translator);
+    const auto apply = [&](const char* pattern, std::vector<std::string> arguments) {
+        const std::string text = translatedWord(pattern, translator);
+        name = vxUnits::Message{"", text.c_str(), std::move(arguments)}.text();
+    };
     if (column.relative == Relative::ToCohesion)
-        name += " / cohesion";
+        apply("%1 / cohesion", {name});
     if (column.relative == Relative::ToShearModulus)
-        name += column.quantity == Quantity::CreepCompliance ? " x shear modulus" : " / shear modulus";
+        apply(column.quantity == Quantity::CreepCompliance ? "%1 x shear modulus" : "%1 / shear modulus", {name});
     if (column.parameter)
-        name += " at " + vxMat::formatGeneral(*column.parameter) +
-                (column.quantity == Quantity::CreepStrainRate ? " s" : " Pa");
+        apply(column.quantity == Quantity::CreepStrainRate ? "%1 at %2 s" : "%1 at %2 Pa",
+              {name, vxMat::formatGeneral(*column.parameter)});
     return name;
 }
 

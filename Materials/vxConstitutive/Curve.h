@@ -10,14 +10,14 @@
 
 namespace vxConstitutive {
 
-/// The tests that a material can be put to. Each has one abscissa.
+/// The kinds of tests. Each has one abscissa.
 enum class Mode
 {
     Uniaxial,    ///< tension and compression of a bar; stretch
-    Equibiaxial, ///< two directions stretched alike; stretch
-    Planar,      ///< pure shear of a wide strip: one direction stretched, one held; stretch
+    Equibiaxial, ///< equal stretch in two directions; stretch
+    Planar,      ///< pure shear of a wide strip: one direction is stretched, one is held; stretch
     SimpleShear, ///< planes slide over each other; amount of shear
-    Volumetric,  ///< all directions stretched alike; stretch
+    Volumetric,  ///< equal stretch in all directions; stretch
     Plastic,     ///< true stress of a metal; plastic strain
     Tensile,     ///< tensile test of a metal; engineering strain
     Yield,       ///< yield surface in the meridian plane; pressure
@@ -28,7 +28,7 @@ enum class Mode
     Dynamic,     ///< storage and loss modulus in shear; frequency
 };
 
-/// What stands in a column of a curve.
+/// The quantity in a column of a curve.
 enum class Quantity
 {
     // Abscissas
@@ -42,30 +42,30 @@ enum class Quantity
     Frequency,
 
     // Responses
-    NominalStress,          ///< force by the area before the test
-    TrueStress,             ///< force by the area during the test
-    NominalShearStress,     ///<
-    TrueShearStress,        ///<
-    NormalStressDifference, ///< of simple shear: along the planes that slide less across them
-    Slope,                  ///< derivative of the first response by the abscissa, exact
+    NominalStress, ///< force by the area before the test
+    TrueStress,    ///< force by the area during the test
+    NominalShearStress,
+    TrueShearStress,
+    NormalStressDifference, ///< of simple shear: the stress along the sliding planes less the stress across them
+    Slope,                  ///< exact derivative of the first response by the abscissa
     LateralStretch,         ///< in the direction without stress
-    VolumeRatio,            ///<
+    VolumeRatio,
     MisesStress,            ///< of a yield surface
-    MisesStressCompression, ///< the same on the meridian of triaxial compression
-    MisesStressExtension,   ///< the same on the meridian of triaxial extension
+    MisesStressCompression, ///< on the meridian of triaxial compression
+    MisesStressExtension,   ///< on the meridian of triaxial extension
     MisesStressOuter,       ///< of a cone through the compression meridian
     MisesStressInner,       ///< of a cone through the extension meridian
-    MisesStressPlaneStrain, ///< of a cone that yields alike in plane strain
-    CreepStrain,            ///<
-    CreepStrainRate,        ///<
-    RelaxationModulus,      ///<
-    CreepCompliance,        ///<
-    StorageModulus,         ///<
-    LossModulus,            ///<
-    LossFactor,             ///< loss modulus by storage modulus
+    MisesStressPlaneStrain, ///< of the cone that yields equally in plane strain
+    CreepStrain,
+    CreepStrainRate,
+    RelaxationModulus,
+    CreepCompliance,
+    StorageModulus,
+    LossModulus,
+    LossFactor, ///< loss modulus by storage modulus
 };
 
-/// What is fixed about a quantity.
+/// The fixed properties of a quantity.
 struct QuantityRecord
 {
     Quantity quantity;
@@ -73,23 +73,23 @@ struct QuantityRecord
     const char* unit; ///< SI: "Pa"; "1" for a plain number; empty if it depends on the curve
 };
 
-/// What is fixed about a mode.
+/// The fixed properties of a mode.
 struct ModeRecord
 {
     Mode mode;
-    const char* key;   ///< on command lines: "simple-shear"
-    const char* name;  ///< English, the source of translations: "simple shear"
-    Quantity abscissa; ///<
+    const char* key;  ///< on command lines: "simple-shear"
+    const char* name; ///< English, the source of translations: "simple shear"
+    Quantity abscissa;
 };
 
-/// All modes in the order of Mode.
+/// Returns all modes, in the order of Mode.
 VXCONSTITUTIVE_EXPORT const std::vector<ModeRecord>& modeRecords();
 VXCONSTITUTIVE_EXPORT const ModeRecord& modeRecord(Mode mode);
 
-/// The mode with a key; absent for an unknown one.
+/// Returns the mode with a key; nothing if there is none.
 VXCONSTITUTIVE_EXPORT std::optional<Mode> findMode(std::string_view key);
 
-/// All quantities in the order of Quantity.
+/// Returns all quantities, in the order of Quantity.
 VXCONSTITUTIVE_EXPORT const std::vector<QuantityRecord>& quantityRecords();
 VXCONSTITUTIVE_EXPORT const QuantityRecord& quantityRecord(Quantity quantity);
 
@@ -100,12 +100,12 @@ struct Range
     double to = 0.0;
 };
 
-/// What the values of a column are multiples of, where a constant that the curve needs is not there.
+/// The unit of the values of a column if a constant that the curve needs is not known.
 enum class Relative
 {
     No,
     ToCohesion,
-    ToShearModulus ///< the shear modulus at once after loading
+    ToShearModulus ///< the instantaneous shear modulus
 };
 
 /// One column of a curve.
@@ -114,44 +114,44 @@ struct Column
     Quantity quantity = Quantity::Stretch;
     std::string unit; ///< SI: "Pa", "1/Pa", "1"
     Relative relative = Relative::No;
-    std::optional<double> parameter; ///< the stress in Pa of a creep curve, the time in s of a curve of rates
-    std::vector<double> values;      ///< NaN where the model has no value
+    std::optional<double> parameter; ///< the stress in Pa of a creep curve; the time in s of a curve of rates
+    std::vector<double> values;      ///< NaN if the model has no value
 };
 
 /// The response of one model in one mode.
 struct Curve
 {
     Mode mode = Mode::Uniaxial;
-    std::vector<Column> columns;   ///< all of the same length; the abscissas come first, as they were asked for
-    std::vector<Range> unstable;   ///< parts of the abscissa where the response must not be trusted, in rising order
-    std::vector<Finding> findings; ///<
+    std::vector<Column> columns; ///< of equal length; the first has the abscissas of the request
+    std::vector<Range> unstable; ///< ranges of the abscissa in which the response must not be trusted, in rising order
+    std::vector<Finding> findings;
 
-    /// The values of the first column of a quantity; null if there is none.
+    /// Returns the values of the first column with a quantity; null if there is none.
     VXCONSTITUTIVE_EXPORT const std::vector<double>* find(Quantity quantity) const;
 };
 
-/// Which volume change a hyperelastic or elastic curve is drawn with.
+/// The change of volume of a hyperelastic or elastic curve.
 enum class Compressibility
 {
     AsGiven,       ///< with D1 or Poisson's ratio; incompressible if D1 is absent
-    Incompressible ///< whatever D1 or Poisson's ratio say
+    Incompressible ///< in spite of D1 or Poisson's ratio
 };
 
-/// Which columns a curve has.
+/// The columns of a curve.
 enum class Detail
 {
-    Stresses, ///< the abscissa and what a test measures
-    Full      ///< with tangents, lateral stretch and volume ratio
+    Stresses, ///< the abscissa and the measured quantities
+    Full      ///< also tangents, lateral stretch and volume ratio
 };
 
-/// How the chains of the Arruda-Boyce model resist.
+/// The law of the chains of the Arruda-Boyce model.
 enum class ChainStatistics
 {
-    FiveTermSeries,  ///< what solvers compute
-    InverseLangevin, ///< what the series approximates; infinite at the limiting stretch
+    FiveTermSeries,  ///< as solvers compute it
+    InverseLangevin, ///< the function that the series approximates; infinite at the limiting stretch
 };
 
-/// What a curve is asked for.
+/// A request for a curve.
 struct CurveRequest
 {
     Mode mode = Mode::Uniaxial;
@@ -159,17 +159,17 @@ struct CurveRequest
     Compressibility compressibility = Compressibility::AsGiven;
     Detail detail = Detail::Stresses;
     ChainStatistics chains = ChainStatistics::FiveTermSeries;
-    std::vector<double> stresses;   ///< Pa; of creep: one column each
+    std::vector<double> stresses;   ///< Pa; of creep, with one column each
     double time = 1.0;              ///< s; of creep rates
-    std::optional<double> cohesion; ///< Pa; of yield surfaces, for which the catalogue has none
+    std::optional<double> cohesion; ///< Pa; of yield surfaces, since the catalogue has no cohesion
 };
 
-/// `count` values from `from` to `to`, both included; evenly spaced, or by equal factors. Empty if `count` is 0; a
-/// single value is `from`. Equal factors need bounds of the same sign that are not 0; otherwise the result is empty.
+/// Return `count` values from `from` to `to`, with equal differences or with equal factors. A single value is `from`. Equal
+/// factors need bounds of the same sign that are not 0; otherwise the result is empty.
 VXCONSTITUTIVE_EXPORT std::vector<double> evenlySpaced(double from, double to, std::size_t count);
 VXCONSTITUTIVE_EXPORT std::vector<double> spacedByFactor(double from, double to, std::size_t count);
 
-/// The English name of a column: "nominal stress", "creep strain at 1e+08 Pa", "pressure / cohesion".
-VXCONSTITUTIVE_EXPORT std::string columnName(const Column& column);
+/// Returns the name of a column, in English or translated: "nominal stress", "creep strain at 1e+08 Pa", "pressure / cohesion".
+VXCONSTITUTIVE_EXPORT std::string columnName(const Column& column, const vxUnits::Translator& translator = {});
 
 } // namespace vxConstitutive

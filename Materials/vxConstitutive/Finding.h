@@ -1,24 +1,25 @@
 #pragma once
 
 #include "vxConstitutive/ConstitutiveExport.h"
+#include "vxUnits/Message.h"
 
 #include <initializer_list>
 #include <string>
 #include <variant>
 #include <vector>
 
-/// What the constants of a material mean: curves of stress and strain, and constants from measured curves.
+/// Curves of the response of materials, and constants fitted to measured curves.
 namespace vxConstitutive {
 
-/// How much a finding matters to the reader of a curve or a fit.
+/// The importance of a finding for the reader of a curve or a fit.
 enum class Severity
 {
-    Note,    ///< worth knowing; the numbers are as they should be
-    Warning, ///< the numbers are right, but not what a user may take them for
+    Note,    ///< the numbers are right
+    Warning, ///< the numbers are right, but a user may misread them
     Error    ///< numbers are missing or must not be used
 };
 
-/// What the library has to say about models, curves, test data and fits. The comment names the arguments in order.
+/// The findings about models, curves, test data and fits. The comments name the arguments in order.
 enum class FindingId
 {
     // Models of a material
@@ -97,7 +98,7 @@ enum class FindingId
     // Fits
     DataMissing,             ///< model
     FewPoints,               ///< model, points
-    Undetermined,            ///< constant, what is determined
+    Undetermined,            ///< constant, the determined combination
     NoInfluence,             ///< constant
     PoorlyDetermined,        ///< constant, percent
     AtBound,                 ///< constant, bound
@@ -117,38 +118,41 @@ enum class FindingId
     RelaxationTimeOutside,   ///< time, first, last
 };
 
-/// A thing worth saying, as a record that a user interface can translate and show.
+/// A remark for the user about a model, curve, test or fit. Its text is made from a table, so that a user interface can
+/// translate it.
 struct Finding
 {
     FindingId id = FindingId::NoNumbers;
-    std::vector<std::string> arguments; ///< texts; numbers in SI units with a decimal point
+    std::vector<std::string> arguments; ///< UTF-8; numbers in SI units with a decimal point in any locale
 };
 
-/// What is fixed about a finding.
+/// The fixed properties of a finding.
 struct FindingRecord
 {
     FindingId id;
-    const char* key; ///< stable name for machines: "unstable-from"
+    const char* key; ///< "unstable-from"; does not change with the English text
     Severity severity;
-    const char* text; ///< English, the source of translations; "%1" is the first argument
+    const char* text; ///< English, with the places %1 to %9 for arguments; the source of translations
 };
 
-/// All records in the order of FindingId.
+/// Returns all records, in the order of FindingId. Their texts are the list for translators.
 VXCONSTITUTIVE_EXPORT const std::vector<FindingRecord>& findingRecords();
 
-/// The record of one finding.
+/// Returns the record of a finding.
 VXCONSTITUTIVE_EXPORT const FindingRecord& findingRecord(FindingId id);
 
-/// The English text of a finding with its arguments put in.
-VXCONSTITUTIVE_EXPORT std::string describe(const Finding& finding);
+/// Returns the text of a finding with its arguments in their places: in English, or translated. The context is
+/// "vxConstitutive::Finding" for the text. Arguments are translated as words (Texts.h), except those that the text has in
+/// quotation marks: they are texts of the user.
+VXCONSTITUTIVE_EXPORT std::string describe(const Finding& finding, const vxUnits::Translator& translator = {});
 
 /// Returns whether one of the findings is an error.
 VXCONSTITUTIVE_EXPORT bool hasError(const std::vector<Finding>& findings);
 
-/// An argument of a finding: a text, or a number that is written with six digits.
+/// An argument of a finding: a text, or a number, which is written with six digits.
 using FindingArgument = std::variant<std::string, double>;
 
-/// Makes a finding.
+/// Returns a finding with these arguments.
 VXCONSTITUTIVE_EXPORT Finding makeFinding(FindingId id, std::initializer_list<FindingArgument> arguments = {});
 
 } // namespace vxConstitutive

@@ -27,7 +27,7 @@ std::string nameOf(std::int32_t propertyId)
     return record != nullptr ? record->name : std::to_string(propertyId);
 }
 
-/// Reads the constants of one model, and notes what is missing or not finite.
+/// Reads the constants of one model. Notes those that are missing or not finite.
 class Constants
 {
 public:
@@ -35,7 +35,7 @@ public:
         : m_material(material), m_kind(kind), m_result(result)
     {}
 
-    /// A constant that the model can do without.
+    /// Returns an optional constant.
     std::optional<double> find(std::int32_t propertyId)
     {
         double value = 0.0;
@@ -49,7 +49,7 @@ public:
         return std::nullopt;
     }
 
-    /// A constant that the model needs; 0 if it is not there.
+    /// Returns a required constant; 0 if it is missing.
     double need(std::int32_t propertyId)
     {
         if (!m_material.hasProperty(propertyId))
@@ -69,7 +69,7 @@ public:
         return vxMat::toUpperAscii(m_material.getPropertyText(propertyId));
     }
 
-    /// D1 as the models take it: 0 if they are incompressible.
+    /// Returns D1; 0 if the material is incompressible.
     double compressibility()
     {
         const double d1 = find(PropertyId::IncompressibilityParameterD1).value_or(0.0);
@@ -80,7 +80,7 @@ public:
         return std::max(d1, 0.0);
     }
 
-    /// The elastic constants, if the material has a Young's modulus.
+    /// Returns the elastic constants; nothing without a Young's modulus.
     std::optional<ElasticConstants> elastic()
     {
         const std::optional<double> modulus = find(PropertyId::YoungsModulus);
@@ -197,7 +197,7 @@ void addMultilinear(Constants constants)
 void addMises(Constants constants)
 {
     const std::string hardening = constants.word(PropertyId::PlasticHardeningType);
-    if (hardening == "BILINEAR" || hardening.empty()) // as the solver cards take it
+    if (hardening == "BILINEAR" || hardening.empty()) // the solver cards do the same
         return addBilinear(constants);
     if (hardening == "MULTILINEAR")
         return addMultilinear(constants);
@@ -255,7 +255,7 @@ void addViscoElasticity(Constants constants)
     constants.make<ViscoElasticModel>(ratio, time, shear);
 }
 
-/// The switches whose model needs nothing but its constants.
+/// A switch and the model that it selects.
 struct SwitchedModel
 {
     std::int32_t switchId;

@@ -1,7 +1,5 @@
 #include "vxConstitutive/Model.h"
 
-#include "TranslatedText.h"
-
 namespace vxConstitutive {
 
 namespace {
@@ -9,15 +7,15 @@ namespace {
 const std::vector<ModelRecord>& modelTable()
 {
     static const std::vector<ModelRecord> table{
-        {ModelKind::LinearElasticity, "linear-elasticity", QT_TRANSLATE_NOOP("vxConstitutive", "linear elasticity")},
-        {ModelKind::NeoHooke, "neo-hooke", QT_TRANSLATE_NOOP("vxConstitutive", "Neo-Hookean")},
-        {ModelKind::MooneyRivlin, "mooney-rivlin", QT_TRANSLATE_NOOP("vxConstitutive", "Mooney-Rivlin")},
-        {ModelKind::ArrudaBoyce, "arruda-boyce", QT_TRANSLATE_NOOP("vxConstitutive", "Arruda-Boyce")},
-        {ModelKind::MisesPlasticity, "mises", QT_TRANSLATE_NOOP("vxConstitutive", "Mises plasticity")},
-        {ModelKind::DruckerPrager, "drucker-prager", QT_TRANSLATE_NOOP("vxConstitutive", "Drucker-Prager")},
-        {ModelKind::MohrCoulomb, "mohr-coulomb", QT_TRANSLATE_NOOP("vxConstitutive", "Mohr-Coulomb")},
-        {ModelKind::NortonCreep, "norton", QT_TRANSLATE_NOOP("vxConstitutive", "Norton creep")},
-        {ModelKind::ViscoElasticity, "visco-elasticity", QT_TRANSLATE_NOOP("vxConstitutive", "visco-elasticity")},
+        {ModelKind::LinearElasticity, "linear-elasticity", "linear elasticity"},
+        {ModelKind::NeoHooke, "neo-hooke", "Neo-Hookean"},
+        {ModelKind::MooneyRivlin, "mooney-rivlin", "Mooney-Rivlin"},
+        {ModelKind::ArrudaBoyce, "arruda-boyce", "Arruda-Boyce"},
+        {ModelKind::MisesPlasticity, "mises", "Mises plasticity"},
+        {ModelKind::DruckerPrager, "drucker-prager", "Drucker-Prager"},
+        {ModelKind::MohrCoulomb, "mohr-coulomb", "Mohr-Coulomb"},
+        {ModelKind::NortonCreep, "norton", "Norton creep"},
+        {ModelKind::ViscoElasticity, "visco-elasticity", "visco-elasticity"},
     };
     return table;
 }

@@ -23,7 +23,7 @@ enum class ModelKind
     ViscoElasticity,
 };
 
-/// What is fixed about a model.
+/// The fixed properties of a model.
 struct ModelRecord
 {
     ModelKind kind;
@@ -31,18 +31,18 @@ struct ModelRecord
     const char* name; ///< English, the source of translations: "Mooney-Rivlin"
 };
 
-/// All models in the order of ModelKind.
+/// Returns all models, in the order of ModelKind.
 VXCONSTITUTIVE_EXPORT const std::vector<ModelRecord>& modelRecords();
 VXCONSTITUTIVE_EXPORT const ModelRecord& modelRecord(ModelKind kind);
 
-/// Whether a constant was given or computed from others.
+/// Whether a constant was given or computed from other constants.
 enum class Origin
 {
     Given,
     Derived
 };
 
-/// A constant of a model, for people to read.
+/// A constant of a model, for display.
 struct Constant
 {
     const char* name; ///< English, the source of translations: "initial shear modulus"
@@ -52,8 +52,8 @@ struct Constant
     Origin origin;
 };
 
-/// A material model with its constants: a function from abscissas to stresses, strains or moduli. It does not change
-/// and may be used by several threads.
+/// A material model with its constants: a function from abscissas to stresses, strains or moduli. Immutable, so safe to use
+/// from several threads.
 class VXCONSTITUTIVE_EXPORT Model
 {
 public:
@@ -64,17 +64,17 @@ public:
 
     ModelKind kind() const { return m_kind; }
 
-    /// The modes that the model has a response in.
+    /// Returns the modes in which the model has a response.
     virtual std::vector<Mode> modes() const = 0;
 
-    /// The response. A mode that is not the model's gives a curve without columns and a finding; an abscissa outside
-    /// the model's domain gives NaN and a finding. Throws nothing but std::bad_alloc.
+    /// Returns the response. If the model does not have the mode, the curve has no columns and a finding. If an abscissa is
+    /// outside the domain of the model, its values are NaN and there is a finding. Throws only std::bad_alloc.
     virtual Curve curve(const CurveRequest& request) const = 0;
 
-    /// The constants as given and what follows from them.
+    /// Returns the given constants and those that follow from them.
     virtual std::vector<Constant> constants() const = 0;
 
-    /// What is doubtful about the constants, whatever the curve.
+    /// Returns the findings about the constants.
     const std::vector<Finding>& findings() const { return m_findings; }
 
 protected:

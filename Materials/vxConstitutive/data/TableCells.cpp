@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t";
 
-/// Takes the next cell of a line from `rest`, up to the separator that is not in quotes.
+/// Removes the next cell from `rest` and returns it. Separators in quotation marks do not end a cell.
 std::string_view takeCell(std::string_view& rest, char separator)
 {
     std::size_t from = 0;
@@ -48,7 +48,7 @@ bool canBeginNumber(char c)
     return (c >= '0' && c <= '9') || c == '-' || c == '+' || c == '.' || c == ',';
 }
 
-/// A candidate for the format of a table. In the order in which they are tried: the first of equals wins.
+/// A candidate for the format of a table. Candidates are in order of preference: the first of equals is chosen.
 constexpr std::array<TableFormat, 10> candidates{{{'\t', '.'},
                                                   {'\t', ','},
                                                   {';', '.'},
@@ -69,7 +69,7 @@ struct Score
 
 void score(Score& result, const std::vector<std::string_view>& cells, char decimalMark)
 {
-    constexpr std::size_t onlyNumbers = 4; // a line with texts among its numbers may have been split wrongly
+    constexpr std::size_t onlyNumbers = 4; // in lines with texts, the split may be wrong
     const CellCount count = countCells(cells, decimalMark);
     result.singleNumbers = result.singleNumbers || (count.numbers == 1 && count.texts == 0);
     if (count.numbers < 2)
@@ -78,7 +78,7 @@ void score(Score& result, const std::vector<std::string_view>& cells, char decim
     result.columns = std::max(result.columns, cells.size());
 }
 
-/// Some thousand lines spread over a text.
+/// Returns up to some thousand lines, spread over a text.
 std::vector<std::string_view> sampleLines(std::string_view text, std::size_t lines)
 {
     constexpr std::size_t wanted = 2000;
@@ -99,7 +99,7 @@ bool isAllowed(const TableFormat& candidate, const TableOptions& options)
            candidate.decimalMark == options.decimalMark.value_or(candidate.decimalMark);
 }
 
-/// Words in round brackets that say how a strain or stress was measured, not its unit.
+/// Words in round brackets that are a kind of strain or stress, not a unit.
 bool isMeasureWord(std::string_view text)
 {
     constexpr std::array<std::string_view, 9> words{"TRUE", "ENG",    "NOM",  "LOG",  "CAUCHY",
@@ -109,7 +109,7 @@ bool isMeasureWord(std::string_view text)
                        [&](std::string_view word) { return upper.find(word) != std::string::npos; });
 }
 
-/// The text between the last `open` and the `close` behind it; absent if there is none.
+/// Returns the text between the last `open` and the `close` after it; nothing if there is none.
 std::optional<HeaderCell> readBrackets(std::string_view cell, char open, char close)
 {
     const std::size_t from = cell.rfind(open);
@@ -122,7 +122,7 @@ std::optional<HeaderCell> readBrackets(std::string_view cell, char open, char cl
                       std::string(trimmed(cell.substr(from + 1, to - from - 1)))};
 }
 
-/// A name and a unit around a mark: "stress/MPa", "stress in MPa", "stress MPa".
+/// Returns the name and the unit around a mark: "stress/MPa", "stress in MPa", "stress MPa".
 std::optional<HeaderCell> readAround(std::string_view cell, std::size_t at, std::size_t length, const UnitFactor& units)
 {
     if (at == std::string_view::npos || at == 0)

@@ -9,17 +9,17 @@
 
 namespace vxConstitutive {
 
-/// No column beyond this one is read, so that a hostile line cannot ask for any amount of memory.
+/// Further columns are ignored, so that a hostile line cannot exhaust the memory.
 inline constexpr std::size_t mostColumns = 64;
 
-/// Splits a line into its cells, trimmed; `cells` is emptied first. A cell in double quotes may contain separators.
-/// With ' ', each run of blanks separates, and those around the line do not count.
+/// Stores the trimmed cells of a line in `cells`. A cell in double quotes may contain separators. If the separator is ' ', each
+/// run of blanks separates two cells, and blanks around the line are ignored.
 void splitCells(std::string_view line, char separator, std::vector<std::string_view>& cells);
 
-/// The finite number that fills a cell; absent if there is none.
+/// Returns the finite number in a cell; nothing if the cell has anything else.
 std::optional<double> readCell(std::string_view cell, char decimalMark);
 
-/// What the cells of a line are.
+/// The number of cells of each kind in a line.
 struct CellCount
 {
     std::size_t numbers = 0;
@@ -28,7 +28,7 @@ struct CellCount
 
 CellCount countCells(const std::vector<std::string_view>& cells, char decimalMark);
 
-/// How a table is written, and how many columns hold numbers.
+/// The format of a table and its number of columns with numbers.
 struct DetectedFormat
 {
     TableFormat format;
@@ -36,8 +36,8 @@ struct DetectedFormat
     bool singleNumbers = false; ///< there are lines of one number
 };
 
-/// Finds the separator and decimal mark by which most lines are numbers, from at most some thousand lines spread over
-/// the text.
+/// Returns the separator and decimal mark with which most lines are numbers. Reads at most some thousand lines, spread over the
+/// text.
 DetectedFormat detectFormat(std::string_view text, std::size_t lines, const TableOptions& options);
 
 /// A name and its unit.
@@ -47,10 +47,10 @@ struct HeaderCell
     std::string unit;
 };
 
-/// Whether a text is a unit of some dimension. "1" and "-" are units of numbers.
+/// Returns whether a text is a unit of one of the dimensions. "1" and "-" are units of numbers.
 bool isUnit(std::string_view text, const UnitFactor& units);
 
-/// Takes "Stress [MPa]", "stress/MPa" and the like apart.
+/// Returns the name and unit in "Stress [MPa]", "stress/MPa" and similar texts.
 HeaderCell readHeaderCell(std::string_view cell, const UnitFactor& units);
 
 } // namespace vxConstitutive

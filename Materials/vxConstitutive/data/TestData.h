@@ -11,7 +11,7 @@
 
 namespace vxConstitutive {
 
-/// What kind of number a column holds, for the conversion of its unit.
+/// The kind of the numbers in a column, for the conversion of its unit.
 enum class Dimension
 {
     Number, ///< stretch, strain
@@ -20,11 +20,11 @@ enum class Dimension
     Rate ///< 1/time
 };
 
-/// Returns the factor from a unit to SI (1, Pa, s, 1/s); absent if the unit is unknown or of another dimension. The
-/// texts are UTF-8, without brackets: "MPa", "%", "mm/mm", "1/h".
+/// Returns the factor from a unit to SI (1, Pa, s, 1/s); nothing if the unit is unknown or of another dimension. The text is
+/// UTF-8 without brackets: "MPa", "%", "mm/mm", "1/h". See unitFactor().
 using UnitFactor = std::function<std::optional<double>(std::string_view unit, Dimension dimension)>;
 
-/// One test as fits take it, in SI units. The meaning of the numbers depends on the mode:
+/// The data of a test in SI units. Their meaning depends on the mode:
 ///
 /// | mode | abscissa | ordinate | parameter |
 /// |---|---|---|---|
@@ -43,10 +43,10 @@ struct TestData
     std::vector<double> abscissas;
     std::vector<double> ordinates; ///< as many as abscissas
     double parameter = 0.0;
-    double weight = 1.0; ///< in a fit of several tests; a test without a weight greater than 0 is left out
+    double weight = 1.0; ///< in a fit of several tests; a test is left out unless its weight is greater than 0
 };
 
-/// Whether a point of a test, in the meaning of TestData, is finite and inside the domain of its mode.
+/// Returns whether a point of a test, in the meaning of TestData, is finite and inside the domain of its mode.
 VXCONSTITUTIVE_EXPORT bool isInDomain(Mode mode, double abscissa, double ordinate);
 
 } // namespace vxConstitutive

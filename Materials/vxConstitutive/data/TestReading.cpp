@@ -1,7 +1,5 @@
 #include "vxConstitutive/data/TestReading.h"
 
-#include "TranslatedText.h"
-
 #include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
@@ -16,30 +14,25 @@ namespace {
 const std::vector<MeasureRecord>& measureTable()
 {
     static const std::vector<MeasureRecord> table{
-        {Measure::Stretch, "stretch", QT_TRANSLATE_NOOP("vxConstitutive", "stretch"), Dimension::Number},
-        {Measure::EngineeringStrain, "engineering-strain", QT_TRANSLATE_NOOP("vxConstitutive", "engineering strain"),
-         Dimension::Number},
-        {Measure::TrueStrain, "true-strain", QT_TRANSLATE_NOOP("vxConstitutive", "true strain"), Dimension::Number},
-        {Measure::VolumeRatio, "volume-ratio", QT_TRANSLATE_NOOP("vxConstitutive", "volume ratio"), Dimension::Number},
-        {Measure::VolumetricStrain, "volumetric-strain", QT_TRANSLATE_NOOP("vxConstitutive", "volumetric strain"),
-         Dimension::Number},
-        {Measure::AmountOfShear, "amount-of-shear", QT_TRANSLATE_NOOP("vxConstitutive", "amount of shear"),
-         Dimension::Number},
-        {Measure::PlasticStrain, "plastic-strain", QT_TRANSLATE_NOOP("vxConstitutive", "plastic strain"),
-         Dimension::Number},
-        {Measure::NominalStress, "nominal-stress", QT_TRANSLATE_NOOP("vxConstitutive", "nominal stress"),
-         Dimension::Stress},
-        {Measure::TrueStress, "true-stress", QT_TRANSLATE_NOOP("vxConstitutive", "true stress"), Dimension::Stress},
-        {Measure::Pressure, "pressure", QT_TRANSLATE_NOOP("vxConstitutive", "pressure"), Dimension::Stress},
-        {Measure::Time, "time", QT_TRANSLATE_NOOP("vxConstitutive", "time"), Dimension::Time},
-        {Measure::CreepStrain, "creep-strain", QT_TRANSLATE_NOOP("vxConstitutive", "creep strain"), Dimension::Number},
-        {Measure::StrainRate, "strain-rate", QT_TRANSLATE_NOOP("vxConstitutive", "strain rate"), Dimension::Rate},
-        {Measure::Modulus, "modulus", QT_TRANSLATE_NOOP("vxConstitutive", "modulus"), Dimension::Stress},
+        {Measure::Stretch, "stretch", "stretch", Dimension::Number},
+        {Measure::EngineeringStrain, "engineering-strain", "engineering strain", Dimension::Number},
+        {Measure::TrueStrain, "true-strain", "true strain", Dimension::Number},
+        {Measure::VolumeRatio, "volume-ratio", "volume ratio", Dimension::Number},
+        {Measure::VolumetricStrain, "volumetric-strain", "volumetric strain", Dimension::Number},
+        {Measure::AmountOfShear, "amount-of-shear", "amount of shear", Dimension::Number},
+        {Measure::PlasticStrain, "plastic-strain", "plastic strain", Dimension::Number},
+        {Measure::NominalStress, "nominal-stress", "nominal stress", Dimension::Stress},
+        {Measure::TrueStress, "true-stress", "true stress", Dimension::Stress},
+        {Measure::Pressure, "pressure", "pressure", Dimension::Stress},
+        {Measure::Time, "time", "time", Dimension::Time},
+        {Measure::CreepStrain, "creep-strain", "creep strain", Dimension::Number},
+        {Measure::StrainRate, "strain-rate", "strain rate", Dimension::Rate},
+        {Measure::Modulus, "modulus", "modulus", Dimension::Stress},
     };
     return table;
 }
 
-/// The measures of each axis of a mode, the usual ones first.
+/// The possible measures of each axis of a mode, the usual one first.
 struct Axes
 {
     Mode mode;
@@ -78,7 +71,7 @@ bool contains(const std::vector<Measure>& measures, Measure measure)
     return std::find(measures.begin(), measures.end(), measure) != measures.end();
 }
 
-/// Words of a header and the measures that they name, capitals. The first row that fits counts.
+/// A word of a header, in capitals, and the measures that it may name. The first row with a possible measure is used.
 struct Word
 {
     std::string_view word;
@@ -93,7 +86,7 @@ const std::vector<Word>& words()
     static const std::vector<Word> table{
         {"STRETCH", {Measure::Stretch}},
         {"LAMBDA", {Measure::Stretch}},
-        {"\xCE\xBB", {Measure::Stretch}}, // the letter itself
+        {"\xCE\xBB", {Measure::Stretch}}, // the Greek letter
         {"RATE", {Measure::StrainRate}},
         {"VOLUMETRIC", {Measure::VolumetricStrain}},
         {"VOLUME", {Measure::VolumeRatio}},
@@ -128,8 +121,8 @@ bool hasWord(const std::string& upper, std::initializer_list<std::string_view> l
                        [&](std::string_view word) { return upper.find(word) != std::string::npos; });
 }
 
-/// The measure that a header names, of those that an axis can have; `stated` tells whether it says that it is true or
-/// engineering where that matters.
+/// The measure that a header names. `stated` is false if the header does not say whether a strain or stress is true or
+/// engineering.
 struct Recognised
 {
     Measure measure;
@@ -165,7 +158,7 @@ std::optional<Recognised> recognise(const std::string& name, const std::vector<M
     return std::nullopt;
 }
 
-/// Decides what column, measure and unit an axis has, and asks for what cannot be known.
+/// Chooses the column, measure and unit of each axis. Adds questions for those that the table does not tell.
 class AxisReader
 {
 public:
@@ -173,7 +166,7 @@ public:
         : m_table(table), m_request(request), m_units(units), m_reading(reading)
     {}
 
-    /// The factor to SI; 0 if there are questions.
+    /// Returns the factor from the unit of an axis to SI; 0 if there are questions.
     double read(Axis axis)
     {
         const bool abscissa = axis == Axis::Abscissa;
@@ -235,7 +228,7 @@ private:
                 makeFinding(FindingId::MeasureAssumed,
                             {nameOf(*choice.column), std::string(measureRecord(recognised->measure).name)}));
         if (!choice.measure && axis == Axis::Ordinate && m_request.mode == Mode::SimpleShear)
-            choice.measure = Measure::NominalStress; // the same as the true one
+            choice.measure = Measure::NominalStress; // equal to the true stress
         return choice.measure.has_value();
     }
 
@@ -279,6 +272,7 @@ private:
     TestReading& m_reading;
 };
 
+/// Returns the abscissa in the meaning of TestData.
 double canonicalAbscissa(Mode mode, Measure measure, double value)
 {
     if (mode == Mode::Tensile && measure == Measure::Stretch)
@@ -292,7 +286,7 @@ double canonicalAbscissa(Mode mode, Measure measure, double value)
     return measure == Measure::TrueStrain ? std::exp(value) : value;
 }
 
-/// `abscissa` is the canonical one. Nominal stresses follow from true ones for an unchanged volume.
+/// Returns the ordinate in the meaning of TestData. Nominal stresses follow from true ones at constant volume.
 double canonicalOrdinate(Mode mode, Measure measure, double value, double abscissa)
 {
     if (measure == Measure::Pressure)
@@ -305,7 +299,7 @@ double canonicalOrdinate(Mode mode, Measure measure, double value, double abscis
     return stretched ? value / abscissa : value;
 }
 
-/// The abscissa of the state of rest.
+/// Returns the abscissa of the unloaded state.
 double restOf(Mode mode)
 {
     const bool ratio =

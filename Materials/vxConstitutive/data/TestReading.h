@@ -11,17 +11,17 @@
 
 namespace vxConstitutive {
 
-/// What a column was measured as.
+/// The quantity that a column was measured as.
 enum class Measure
 {
     Stretch,
     EngineeringStrain,
-    TrueStrain,       ///< logarithmic
-    VolumeRatio,      ///<
+    TrueStrain, ///< logarithmic
+    VolumeRatio,
     VolumetricStrain, ///< volume ratio - 1
-    AmountOfShear,    ///<
-    PlasticStrain,    ///< logarithmic
-    NominalStress,    ///< engineering
+    AmountOfShear,
+    PlasticStrain, ///< logarithmic
+    NominalStress, ///< engineering
     TrueStress,
     Pressure, ///< positive in compression
     Time,
@@ -30,7 +30,7 @@ enum class Measure
     Modulus
 };
 
-/// What is fixed about a measure.
+/// The fixed properties of a measure.
 struct MeasureRecord
 {
     Measure measure;
@@ -39,15 +39,15 @@ struct MeasureRecord
     Dimension dimension;
 };
 
-/// All measures in the order of Measure.
+/// Returns all measures, in the order of Measure.
 VXCONSTITUTIVE_EXPORT const std::vector<MeasureRecord>& measureRecords();
 VXCONSTITUTIVE_EXPORT const MeasureRecord& measureRecord(Measure measure);
 
-/// The measures that a test of a mode can have on each axis; empty for modes that are not measured.
+/// Return the measures that a test of a mode can have on each axis; empty for modes without test data.
 VXCONSTITUTIVE_EXPORT const std::vector<Measure>& abscissaMeasures(Mode mode);
 VXCONSTITUTIVE_EXPORT const std::vector<Measure>& ordinateMeasures(Mode mode);
 
-/// A column of a table as one axis of a test. What is absent is taken from the header.
+/// A column of a table for one axis of a test. Absent members are taken from the header.
 struct ColumnChoice
 {
     std::optional<std::size_t> column;
@@ -55,7 +55,7 @@ struct ColumnChoice
     std::optional<std::string> unit;
 };
 
-/// How a test is taken from a table.
+/// A request to read a test from a table.
 struct TestReadRequest
 {
     std::string name;
@@ -66,7 +66,7 @@ struct TestReadRequest
     double weight = 1.0;
 };
 
-/// What a user has to be asked before the test can be used.
+/// The kind of information that a user must add.
 enum class QuestionKind
 {
     WhichColumn,
@@ -87,24 +87,24 @@ struct Question
     Axis axis;
 };
 
-/// What was taken from a table.
+/// The result of reading a test from a table.
 struct TestReading
 {
-    std::optional<TestData> data; ///< absent while there are questions
+    std::optional<TestData> data; ///< absent if there are questions
     ColumnChoice abscissa;        ///< as understood
     ColumnChoice ordinate;
     std::vector<Question> questions;
     std::vector<Finding> findings; ///< about the columns and points of this test
     std::size_t leftOut = 0;       ///< rows without a number, or outside the domain of the mode
-    std::size_t unsorted = 0;      ///< points whose abscissa is less than that of the point before
-    std::size_t repeated = 0;      ///< points that another point equals
-    std::size_t negative = 0;      ///< points whose abscissa or ordinate is less than that of the state of rest
+    std::size_t unsorted = 0;      ///< points with a smaller abscissa than the point before
+    std::size_t repeated = 0;      ///< points that are equal to another point
+    std::size_t negative = 0;      ///< points with an abscissa or ordinate below that of the unloaded state
 };
 
-/// Takes one test from a table: chooses the columns by their headers, converts units and measures, drops what is
-/// outside the domain of the mode, and counts what is unusual. The points stay in their order. A unit that is not
-/// known is asked for, never guessed; a stretch or volume ratio without a unit is a plain number. A strain or stress
-/// whose header does not say whether it is true is taken as engineering, which a finding says.
+/// Reads a test from a table: chooses the columns by their headers, converts units and measures, leaves out points outside the
+/// domain of the mode, and counts unusual points. Keeps the order of the points. Never guesses a unit: if one is missing or
+/// unknown, there is a question. A stretch or volume ratio without a unit is a plain number. A strain or stress is taken as
+/// engineering, with a finding, if the header does not say that it is true.
 VXCONSTITUTIVE_EXPORT TestReading takeTest(const TestTable& table, const TestReadRequest& request,
                                            const UnitFactor& units);
 

@@ -22,7 +22,7 @@ std::size_t countLines(std::string_view text)
     return count;
 }
 
-/// Something that is counted, and where it was met first.
+/// A number of lines, and the first of them.
 struct Tally
 {
     std::size_t number = 0;
@@ -35,7 +35,7 @@ struct Tally
     }
 };
 
-/// Whether a cell could be a number in groups of three digits as well as one with a decimal comma: "1,000".
+/// Returns whether a cell may be a number in groups of three digits or one with a decimal comma: "1,000".
 bool mayGroupThousands(std::string_view cell)
 {
     const std::size_t comma = cell.find(',');
@@ -44,7 +44,7 @@ bool mayGroupThousands(std::string_view cell)
            cell.front() != '0';
 }
 
-/// A line in front of the numbers that may be a header.
+/// A line before the numbers that may be a header.
 struct EarlierLine
 {
     std::string_view text;
@@ -136,7 +136,7 @@ private:
     std::string m_firstGrouped;
 };
 
-/// Splits a header of a table whose columns are separated by blanks: names and units in brackets belong together.
+/// Splits the header of a table with columns separated by blanks. A unit in brackets belongs to the name before it.
 void joinBrackets(std::vector<std::string>& cells)
 {
     std::vector<std::string> joined;
@@ -168,7 +168,7 @@ bool areUnits(const std::vector<std::string>& cells, const UnitFactor& units)
     });
 }
 
-/// A header needs a cell for each column, except that the last columns may have none.
+/// Returns whether a line has a cell for each column; the last columns may have none.
 bool fits(const std::vector<std::string>& cells, const TestTable& table)
 {
     return cells.size() >= 2 && (table.format.separator != ' ' || cells.size() == table.columns.size());

@@ -15,46 +15,45 @@ namespace vxConstitutive {
 /// A column of a table of measured numbers.
 struct TableColumn
 {
-    std::string name;          ///< from the header, without its unit; empty if there is none
+    std::string name;          ///< from the header, without the unit; empty if there is none
     std::string unit;          ///< from the header, without brackets; empty if there is none
-    std::vector<double> cells; ///< one for each row; NaN where the cell has no number
+    std::vector<double> cells; ///< one for each row; NaN if the cell has no number
 };
 
-/// How the text of a table is written.
+/// The format of the text of a table.
 struct TableFormat
 {
     char separator = ','; ///< '\t', ';', '|', ',' or ' ' for any run of blanks
     char decimalMark = '.';
 };
 
-/// A table of measured numbers, and what was understood of its text.
+/// A table of measured numbers, and the format in which it was read.
 struct TestTable
 {
     TableFormat format;
     std::vector<TableColumn> columns;
     std::size_t lines = 0;      ///< of the text
-    std::size_t headerLine = 0; ///< the line, counted from 1, that the names are from; 0 if there is none
+    std::size_t headerLine = 0; ///< the number of the line with the names, from 1; 0 if there is none
     std::vector<Finding> findings;
 
     std::size_t rows() const { return columns.empty() ? 0 : columns.front().cells.size(); }
 };
 
-/// What a caller knows better than the text says.
+/// Properties of the format that a caller prescribes.
 struct TableOptions
 {
     std::optional<char> separator;
     std::optional<char> decimalMark;
 };
 
-/// Reads a table from a file's bytes or pasted text.
+/// Reads a table from the bytes of a file or from pasted text.
 ///
-/// Separator and decimal mark are those by which most lines are numbers. Lines in front are the header if they are
-/// written in as many cells; units stand behind the names, as in "Stress [MPa]", "stress (MPa)", "stress/MPa" or
-/// "stress in MPa", or in a line below them. Lines that are not numbers are left out and counted. Cells may be quoted.
-/// UTF-8, UTF-16 with a byte order mark, and Latin-1 are read. The locale plays no part.
+/// The separator and the decimal mark are those with which most lines are numbers. A line before the numbers is the header if
+/// it has as many cells. Units follow the names, as in "Stress [MPa]", "stress (MPa)", "stress/MPa" or "stress in MPa", or are
+/// in the line below them. Lines that are not numbers are left out and counted. Cells may be in quotation marks. Reads UTF-8,
+/// UTF-16 with a byte order mark, and Latin-1, in any locale.
 ///
-/// Any bytes can be read; a text without numbers gives a table without columns and a finding that is an error. The time
-/// is proportional to the length.
+/// Accepts any bytes: for a text without numbers, the table has no columns and a finding that is an error. Takes linear time.
 VXCONSTITUTIVE_EXPORT TestTable readTestTable(std::string_view bytes, const UnitFactor& units,
                                               const TableOptions& options = {});
 

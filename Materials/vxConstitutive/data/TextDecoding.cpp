@@ -27,7 +27,8 @@ void appendUtf8(std::string& text, std::uint32_t code)
     }
 }
 
-/// Characters beyond the first 65536 are of no use in a table; their halves become three bytes each.
+/// Appends a character as UTF-8. The halves of a surrogate pair become three bytes each, since tables have no use for
+/// such characters.
 std::string fromUtf16(std::string_view bytes, bool bigEndian)
 {
     std::string text;
@@ -51,7 +52,7 @@ std::string fromLatin1(std::string_view bytes)
     return text;
 }
 
-/// How many bytes follow the first of a character; absent if none begins with it.
+/// Returns the number of bytes that follow the first byte of a character; nothing if no character begins with it.
 std::optional<std::size_t> followers(unsigned char first)
 {
     if (first < 0x80U)

@@ -12,11 +12,11 @@ namespace {
 
 using vxMat::PropertyId;
 
-/// Between these the limiting stretch is looked for. At the upper one the series is Neo-Hookean.
+/// The default bounds of the limiting stretch. At the upper one, the series is Neo-Hookean.
 constexpr Bounds limitingStretches{1.0, 1000.0};
 
-/// The least squares problem of Arruda-Boyce. Its parameters are Mu by the largest stress, and 1/lm^2, which is 0 where
-/// the chains have no limit.
+/// The least squares problem of Arruda-Boyce. Its parameters are Mu by the largest stress, and 1/lm^2, which is 0 for
+/// chains without a limit.
 class ArrudaBoyceProblem
 {
 public:
@@ -54,7 +54,7 @@ public:
         return std::sqrt(invariant / 3.0);
     }
 
-    /// The best Mu for a limiting stretch.
+    /// Returns the parameters of a limiting stretch with the best Mu.
     std::vector<double> startAt(double limitingStretch) const
     {
         const double theta = inverseSquare(limitingStretch);
@@ -105,6 +105,20 @@ std::vector<std::vector<double>> startsOf(const ArrudaBoyceProblem& problem)
     return starts;
 }
 
+std::vector<ConstantOfFit> fittedConstants(const ArrudaBoyceProblem& series, const HyperelasticConstants& constants,
+                                           const Certainty& certainty)
+{
+    const double scale = series.scale();
+    const double limit = constants.limitingStretch;
+    const Bounds& mu = series.problem().bounds[0];
+    const Bounds& theta = series.problem().bounds[1];
+    const Bounds muBounds{mu.lower * scale, mu.upper * scale};
+    const Bounds limitBounds{1.0 / std::sqrt(theta.upper), 1.0 / std::sqrt(theta.lower)};
+    const double limitError = certainty.errors[1] * limit * limit * limit / 2.0;
+    return {{PropertyId::InitialShearModulusMu, "Mu", "Pa", constants.mu, certainty.errors[0] * scale, muBounds, {}},
+            {PropertyId::LimitingNetworkStretch, "lm", "1", limit, limitError, limitBounds, {}}};
+}
+
 } // namespace
 
 HyperelasticMinimum fitArrudaBoyce(const HyperelasticFitData& data, const std::function<void(double)>& progress)
@@ -116,33 +130,15 @@ HyperelasticMinimum fitArrudaBoyce(const HyperelasticFitData& data, const std::f
     if (best.parameters.empty())
         return result;
 
-    const double theta = best.parameters[1];
-    const double limit = 1.0 / std::sqrt(theta);
+    const double limit = 1.0 / std::sqrt(best.parameters[1]);
     result.constants.kind = ModelKind::ArrudaBoyce;
     result.constants.mu = best.parameters[0] * series.scale();
     result.constants.limitingStretch = limit;
     result.found = true;
-
-    const Certainty certainty = certaintyAt(problem, best.parameters);
-    const Bounds& muBounds = problem.bounds[0];
-    const Bounds& thetaBounds = problem.bounds[1];
-    result.fitted.push_back({PropertyId::InitialShearModulusMu,
-                             "Mu",
-                             "Pa",
-                             result.constants.mu,
-                             certainty.errors[0] * series.scale(),
-                             {muBounds.lower * series.scale(), muBounds.upper * series.scale()},
-                             {}});
-    result.fitted.push_back({PropertyId::LimitingNetworkStretch,
-                             "lm",
-                             "1",
-                             limit,
-                             certainty.errors[1] * limit * limit * limit / 2.0,
-                             {1.0 / std::sqrt(thetaBounds.upper), 1.0 / std::sqrt(thetaBounds.lower)},
-                             {}});
+    result.fitted = fittedConstants(series, result.constants, certaintyAt(problem, best.parameters));
     result.freedoms = countFree(problem.bounds);
 
-    // Where the chains of the data are far from the limit, it has no say.
+    // If the chains of the data are far from the limit, it has no influence.
     constexpr double far = 10.0;
     if (limit > far * series.largestChainStretch()) {
         result.fitted.back().determinedInstead = "Mu";

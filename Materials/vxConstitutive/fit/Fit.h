@@ -16,15 +16,15 @@
 
 namespace vxConstitutive {
 
-/// What a fit makes small.
+/// The differences that a fit minimises.
 enum class ErrorMeasure
 {
-    OfLargest, ///< differences by the largest ordinate of their test: each test counts alike
-    OfEach,    ///< differences by each ordinate, but at least 1 % of the largest: small strains count alike
-    Absolute   ///< differences as they are, in SI units: tests with large ordinates count most
+    OfLargest, ///< differences by the largest ordinate of their test: all tests have equal weight
+    OfEach,    ///< differences by each ordinate, but at least 1 % of the largest: all strains have equal weight
+    Absolute   ///< differences in SI units: tests with large ordinates have more weight
 };
 
-/// Where a constant may lie; equal bounds hold it fixed.
+/// The bounds of a constant. Equal bounds fix it.
 struct Bounds
 {
     double lower = -std::numeric_limits<double>::infinity();
@@ -34,41 +34,42 @@ struct Bounds
 /// Bounds by vxMat::PropertyId, in SI units.
 using BoundsById = std::map<std::int32_t, Bounds>;
 
-/// How far a fit is.
+/// The progress of a fit.
 struct FitProgress
 {
     std::string model; ///< English: "Mooney-Rivlin"
-    double part = 0.0; ///< of all that was asked for, 0 to 1
+    double part = 0.0; ///< of the whole request, 0 to 1
 };
 
-/// How a caller follows and ends a fit. Both functions are called in the thread of the fit, some hundred times a second
-/// or more; they must not throw.
+/// The functions by which a caller observes and cancels a fit. Both are called in the thread of the fit, some hundred times a
+/// second or more. They must not throw.
 struct FitControl
 {
     std::function<void(const FitProgress&)> progress;
-    std::function<bool()> cancelled; ///< the fit ends soon after this returns true
+    std::function<bool()> cancelled; ///< the fit ends soon after this has returned true
 };
 
 enum class FitStatus
 {
     Done,
-    Cancelled, ///< the constants are those of the best start so far, if there is any
-    Failed     ///< there are no constants; a finding says why
+    Cancelled, ///< the constants are the best ones so far, if there are any
+    Failed     ///< there are no constants; a finding has the reason
 };
 
-/// How well the data fix a constant.
+/// How well the data determine a constant.
 enum class Determination
 {
     Determined,
     Poor,         ///< the standard error is more than half of the constant
-    AtBound,      ///< the constant lies at a bound; the standard error has no meaning
-    Undetermined, ///< other values fit as well; the value was chosen
-    Fixed         ///< by equal bounds
+    AtBound,      ///< the constant is at a bound; its standard error has no meaning
+    Undetermined, ///< other values fit equally well; the value is arbitrary
+    Fixed         ///< fixed by equal bounds
 };
 
+/// A constant that a fit found.
 struct FittedConstant
 {
-    std::int32_t propertyId = 0; ///< vxMat::PropertyId; 0 for a quantity that no property holds
+    std::int32_t propertyId = 0; ///< vxMat::PropertyId; 0 for a quantity without a property
     std::string symbol;          ///< "C10"
     std::string unit;            ///< SI
     double value = 0.0;
@@ -76,7 +77,7 @@ struct FittedConstant
     Determination determination = Determination::Determined;
 };
 
-/// How well one test is met.
+/// The agreement of a fitted model with a test.
 struct TestAgreement
 {
     std::string test;
@@ -88,16 +89,16 @@ struct TestAgreement
     double rSquared = 0.0;      ///< 1 is perfect; less than 0 is worse than the mean of the test
 };
 
-/// Where a model is stable in one mode, as far as it was looked at.
+/// The range in which a model is stable in a mode. The search is from the stretch 0.1 to 10.
 struct StableRange
 {
     Mode mode = Mode::Uniaxial;
     Range range;
-    bool unstableBelow = false; ///< whether the model is unstable below the range, or it was not looked at
-    bool unstableAbove = false; ///< likewise above
+    bool unstableBelow = false; ///< the model is unstable below the range
+    bool unstableAbove = false; ///< the model is unstable above the range
 };
 
-/// A property as a material would hold it.
+/// A property of a material.
 struct PropertyValue
 {
     std::int32_t propertyId = 0;
@@ -106,30 +107,31 @@ struct PropertyValue
     std::vector<double> values; ///< of lists
 };
 
-/// What a material needs to hold a fitted model.
+/// The change of a material to a fitted model.
 struct MaterialChange
 {
     std::vector<PropertyValue> set;
-    std::vector<std::int32_t> remove; ///< properties that contradict the model, whether or not the material has them
+    std::vector<std::int32_t> remove; ///< properties that contradict the model; the material need not have them
 };
 
-/// One fitted model.
+/// A fitted model.
 struct FitResult
 {
     std::string model; ///< English, the source of translations: "Mooney-Rivlin with C11"
     FitStatus status = FitStatus::Failed;
     std::vector<FittedConstant> constants;
     std::vector<TestAgreement> tests;
-    double residual = 0.0; ///< root of the mean square of what the fit makes small, over all points with their weights
-    double residualPerFreedom = 0.0; ///< the same by the number of points less that of constants; ranks the models
+    double residual = 0.0; ///< root of the weighted mean square of the differences (ErrorMeasure) over all points
+    double residualPerFreedom = 0.0; ///< residual for the number of points less the number of constants; ranks models
     double rSquared = 0.0;           ///< over all tests
     std::optional<double> residualWithoutStability; ///< if the demand for stability changed the result
     std::vector<StableRange> stable;                ///< of hyperelastic models
     std::shared_ptr<const Model> fitted;            ///< null if the fit failed
-    MaterialChange change;                          ///< what a material must be given; nothing is written by the fit
+    MaterialChange change;                          ///< the fit itself changes no material
     std::vector<Finding> findings;
 
-    VXCONSTITUTIVE_EXPORT const FittedConstant* find(std::int32_t propertyId) const; ///< null if there is none
+    /// Returns the constant of a property; null if there is none.
+    VXCONSTITUTIVE_EXPORT const FittedConstant* find(std::int32_t propertyId) const;
 };
 
 } // namespace vxConstitutive

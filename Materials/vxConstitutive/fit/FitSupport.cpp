@@ -10,10 +10,10 @@ namespace vxConstitutive {
 
 namespace {
 
-/// More points of a test than this are averaged.
+/// A test with more points is fitted by averages.
 constexpr std::size_t mostPoints = 2000;
 
-/// Of relative differences: the part of the largest ordinate below which an ordinate is taken for 0.
+/// Relative differences are never divided by less than this part of the largest ordinate.
 constexpr double smallestPart = 0.01;
 
 double largestOf(const TestData& test)
@@ -24,7 +24,7 @@ double largestOf(const TestData& test)
     return largest;
 }
 
-/// What the difference at an ordinate is divided by.
+/// Returns the divisor of the difference at an ordinate.
 double divisor(ErrorMeasure error, double ordinate, double largestOfTest, double largestOfAll)
 {
     if (error == ErrorMeasure::Absolute)
@@ -43,7 +43,7 @@ std::vector<std::size_t> orderOf(const TestData& test)
     return order;
 }
 
-/// The points of a test in rising order, averaged in groups if there are many; the factor holds how many a point is.
+/// Returns the points of a test in rising order, averaged in groups if there are many. The factor is the size of the group.
 std::vector<FitPoint> pointsOf(const TestData& test)
 {
     const std::vector<std::size_t> order = orderOf(test);
@@ -63,7 +63,7 @@ std::vector<FitPoint> pointsOf(const TestData& test)
     return points;
 }
 
-/// The weight of each point of a test, so that all weights of all tests add up to 1.
+/// Returns the weight of each point of a test. The weights of all points of all tests add up to 1.
 double weightOfPoint(const TestData& test, ErrorMeasure error, double allWeights, std::size_t allPoints)
 {
     if (error == ErrorMeasure::Absolute)
@@ -71,7 +71,7 @@ double weightOfPoint(const TestData& test, ErrorMeasure error, double allWeights
     return test.weight / allWeights / static_cast<double>(test.abscissas.size());
 }
 
-/// The sum of the weights: of points if differences are absolute, of tests otherwise.
+/// Returns the sum of the weights: over points if differences are absolute, over tests otherwise.
 double sumOfWeights(const std::vector<const TestData*>& tests, ErrorMeasure error, std::size_t total)
 {
     double sum = 0.0;
@@ -143,7 +143,7 @@ namespace {
 /// Sums over the points of one test.
 struct Sums
 {
-    double weighted = 0.0; ///< squares of what the fit makes small, with their weights
+    double weighted = 0.0; ///< weighted squares of the residuals
     double squares = 0.0;  ///< squares of the differences
     double spread = 0.0;   ///< squares of the distances from the mean of the test
     double farthest = 0.0; ///< the largest difference
@@ -285,6 +285,28 @@ void Jobs::report(double partOfJob) const
 {
     if (m_control.progress)
         m_control.progress({m_name, (static_cast<double>(m_begun) - 1.0 + partOfJob) / static_cast<double>(m_count)});
+}
+
+bool hasData(FitResult& result, const FitSet& set)
+{
+    result.findings.insert(result.findings.end(), set.findings.begin(), set.findings.end());
+    if (!set.usable())
+        result.findings.push_back(makeFinding(FindingId::DataMissing, {result.model}));
+    return set.usable();
+}
+
+void setStatus(FitResult& result, Jobs& jobs)
+{
+    const bool cancelled = jobs.cancelled();
+    result.status = cancelled ? FitStatus::Cancelled : FitStatus::Done;
+    if (cancelled)
+        result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+}
+
+void setFitted(FitResult& result, std::shared_ptr<const Model> model)
+{
+    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
+    result.fitted = std::move(model);
 }
 
 void rank(std::vector<FitResult>& results)

@@ -4,25 +4,26 @@
 #include "vxConstitutive/fit/Fit.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace vxConstitutive {
 
-/// The tests with their unusable points left out: those that are not finite or outside the domain of the mode. Tests
-/// whose weight is not greater than 0 are left out as a whole.
+/// Returns the tests without points that are not finite or outside the domain of the mode, and without tests whose weight is
+/// not greater than 0.
 std::vector<TestData> usableTests(const std::vector<TestData>& tests, std::vector<Finding>& findings);
 
-/// A point of a test, or the average of neighbours, as a fit takes it.
+/// A point of a test, or the average of neighbours, for a fit.
 struct FitPoint
 {
     const TestData* test = nullptr;
     double x = 0.0;
     double y = 0.0;
-    double factor = 1.0; ///< of the difference: root of the point's weight by what the error measure divides by
+    double factor = 1.0; ///< of the difference: root of the weight by the divisor of the error measure
 };
 
-/// The points of several tests. The weights add up to 1, so that the sum of the squared residuals is a mean.
+/// The points of several tests. Their weights add up to 1, so that the sum of the squared residuals is a mean.
 struct FitSet
 {
     std::vector<FitPoint> points;
@@ -35,15 +36,15 @@ struct FitSet
 
 FitSet makeFitSet(const std::vector<const TestData*>& tests, ErrorMeasure error);
 
-/// The ordinate that a model predicts at an abscissa of a test.
+/// Returns the ordinate that a model predicts at an abscissa of a test.
 using Prediction = std::function<double(const TestData& test, double abscissa)>;
 
-/// Sets residuals, tests and coefficients of determination of a result, over all points. `freedoms` is the number of
-/// constants that were free.
+/// Sets residuals, tests and coefficients of determination of a result, over all points. `freedoms` is the number of free
+/// constants.
 void judge(FitResult& result, const std::vector<const TestData*>& tests, ErrorMeasure error, const FitSet& set,
            const Prediction& predict, std::size_t freedoms);
 
-/// A constant of a fit before it is judged.
+/// A constant of a fit, before its determination is known.
 struct ConstantOfFit
 {
     std::int32_t propertyId = 0;
@@ -52,30 +53,32 @@ struct ConstantOfFit
     double value = 0.0;
     double error = 0.0; ///< for residuals of standard deviation 1; infinite if undetermined
     Bounds bounds;
-    std::string determinedInstead; ///< not empty if the data determine only this
+    std::string determinedInstead; ///< the combination that the data determine; empty if they determine the constant
 };
 
-/// Adds a constant with its standard error and how well it is determined, and notes what is doubtful about it. Needs
-/// the residuals of the result.
+/// Adds a constant with its standard error and determination to a result, with findings about doubts. Needs the residuals of
+/// the result.
 void addConstant(FitResult& result, const ConstantOfFit& constant, std::size_t points, std::size_t freedoms);
 
-/// Bounds of a property, `fallback` if a caller gave none. Crossed bounds are sorted.
+/// Returns the bounds of a property, in rising order; `fallback` if there are none.
 Bounds boundsOf(const BoundsById& bounds, std::int32_t propertyId, Bounds fallback);
 
-/// Returns how many parameters are not fixed by their bounds.
+/// Returns the number of parameters that are not fixed by their bounds.
 std::size_t countFree(const std::vector<Bounds>& bounds);
 
-/// Reports the progress of a number of equal jobs, and asks whether to go on. The functions that it hands out refer to
-/// it.
+/// Reports the progress of a number of equal jobs and asks for cancellation. The functions that it returns refer to it.
 class Jobs
 {
 public:
     Jobs(const FitControl& control, std::size_t count) : m_control(control), m_count(count) {}
 
-    void begin(std::string name);              ///< begins the next job
-    std::function<void(double)> progress();    ///< takes the part done of the current job
-    bool cancelled();                          ///< once true, true for ever, and the caller is no longer asked
-    std::function<bool()> cancelledFunction(); ///< the same as a function
+    /// Begins the next job.
+    void begin(std::string name);
+    /// Returns a function that takes the finished part of the current job.
+    std::function<void(double)> progress();
+    /// Returns whether the fit is cancelled. After the first true, does not ask again.
+    bool cancelled();
+    std::function<bool()> cancelledFunction();
 
 private:
     void report(double partOfJob) const;
@@ -87,7 +90,16 @@ private:
     std::string m_name;
 };
 
-/// Sorts results: those that failed last, then those with undetermined constants, then by residual per freedom.
+/// Adds the findings about the points to a result. Returns false and adds a finding if there is nothing to fit.
+bool hasData(FitResult& result, const FitSet& set);
+
+/// Sets the status to Done, or to Cancelled with a finding.
+void setStatus(FitResult& result, Jobs& jobs);
+
+/// Stores the fitted model in a result and adds its findings.
+void setFitted(FitResult& result, std::shared_ptr<const Model> model);
+
+/// Sorts results by residual per freedom. Failed results are last; results with undetermined constants are before them.
 void rank(std::vector<FitResult>& results);
 
 } // namespace vxConstitutive

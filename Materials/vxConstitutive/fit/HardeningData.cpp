@@ -77,7 +77,7 @@ std::optional<Line> fitLine(const TensileCurve& curve, double lowStress, double 
     return line;
 }
 
-/// Where a curve crosses the elastic line moved by the offset.
+/// Returns the point at which a curve crosses the elastic line moved by the offset.
 struct Yield
 {
     double strain = 0.0;
@@ -97,7 +97,7 @@ std::optional<Yield> findYield(const TensileCurve& curve, double modulus, double
     return std::nullopt;
 }
 
-/// The slope of the elastic part, which depends on the yield stress, which depends on the slope.
+/// Returns the line of the elastic part. Iterates, because its range depends on the yield stress, which depends on its slope.
 std::optional<Line> findElasticLine(const TensileCurve& curve, double offset)
 {
     if (curve.size() == 0)
@@ -122,7 +122,7 @@ std::optional<Line> findElasticLine(const TensileCurve& curve, double offset)
     return line;
 }
 
-/// True stress by the change of the cross section that PlasticModel has: sigma = s exp(ep + 2 nu sigma/E).
+/// Returns the true stress by the change of the cross section in PlasticModel: sigma = s exp(ep + 2 nu sigma/E).
 double trueStress(double stress, double strain, const ElasticConstants& elastic)
 {
     const double logStrain = std::log1p(strain);
@@ -137,7 +137,7 @@ double trueStress(double stress, double strain, const ElasticConstants& elastic)
     return sigma;
 }
 
-/// The index behind the largest force of those behind the yield point; an upper yield stress does not count.
+/// Returns the index after the largest force beyond the yield point. An upper yield stress is ignored.
 std::size_t endOfUniformStrain(const TensileCurve& curve, double yieldStrain)
 {
     const auto begin = std::upper_bound(curve.strain.begin(), curve.strain.end(), yieldStrain) - curve.strain.begin();
@@ -145,7 +145,7 @@ std::size_t endOfUniformStrain(const TensileCurve& curve, double yieldStrain)
     return largest == curve.stress.end() ? curve.size() : static_cast<std::size_t>(largest - curve.stress.begin()) + 1;
 }
 
-/// The plastic part of a tensile curve whose strain begins at 0.
+/// Returns the plastic part of a tensile curve whose strain begins at 0.
 std::optional<TestData> plasticPart(const TestData& test, const TensileCurve& curve, const ElasticConstants& elastic,
                                     double offset, std::vector<Finding>& findings)
 {
@@ -177,7 +177,7 @@ std::optional<TestData> plasticPart(const TestData& test, const TensileCurve& cu
     return plastic;
 }
 
-/// Takes Young's modulus from the first tensile curve that has an elastic part.
+/// Returns the elastic line of the first tensile curve that has an elastic part.
 std::optional<Line> modulusOf(const std::vector<TestData>& tests, double offset)
 {
     for (const TestData& test : tests) {
@@ -200,6 +200,62 @@ void takeTensile(const PlasticFitRequest& request, const TestData& test, Hardeni
     auto plastic = plasticPart(test, curve, *data.elastic, request.offset, data.findings);
     if (plastic)
         data.tests.push_back(std::move(*plastic));
+}
+
+/// Returns all points in rising order.
+std::vector<HardeningPoint> sortedPoints(const std::vector<TestData>& tests)
+{
+    std::vector<HardeningPoint> points;
+    for (const TestData& test : tests) {
+        for (std::size_t i = 0; i < test.abscissas.size(); ++i)
+            points.push_back({test.abscissas[i], test.ordinates[i]});
+    }
+    std::sort(points.begin(), points.end(), [](const HardeningPoint& a, const HardeningPoint& b) {
+        return std::pair(a.plasticStrain, a.stress) < std::pair(b.plasticStrain, b.stress);
+    });
+    return points;
+}
+
+/// The mean of neighbouring points.
+struct Block
+{
+    double strain;
+    double stress;
+    double count;
+};
+
+Block joined(const Block& one, const Block& other)
+{
+    const double count = one.count + other.count;
+    return {(one.strain * one.count + other.strain * other.count) / count,
+            (one.stress * one.count + other.stress * other.count) / count, count};
+}
+
+/// Returns blocks whose strain and stress rise. Joins each block that is not above the one before with it (pool adjacent
+/// violators).
+std::vector<Block> risingBlocks(const std::vector<HardeningPoint>& points)
+{
+    std::vector<Block> blocks;
+    for (const HardeningPoint& point : points) {
+        Block last{point.plasticStrain, point.stress, 1.0};
+        while (!blocks.empty() && (last.stress < blocks.back().stress || last.strain <= blocks.back().strain)) {
+            last = joined(last, blocks.back());
+            blocks.pop_back();
+        }
+        blocks.push_back(last);
+    }
+    return blocks;
+}
+
+double largestFall(const std::vector<HardeningPoint>& points)
+{
+    double fall = 0.0;
+    double highest = -std::numeric_limits<double>::infinity();
+    for (const HardeningPoint& point : points) {
+        highest = std::max(highest, point.stress);
+        fall = std::max(fall, highest - point.stress);
+    }
+    return fall;
 }
 
 } // namespace
@@ -238,51 +294,15 @@ HardeningData takeHardening(const PlasticFitRequest& request)
 
 std::vector<HardeningPoint> risingPoints(const HardeningData& data, double tolerance, std::vector<Finding>& findings)
 {
-    std::vector<HardeningPoint> points;
-    for (const TestData& test : data.tests) {
-        for (std::size_t i = 0; i < test.abscissas.size(); ++i)
-            points.push_back({test.abscissas[i], test.ordinates[i]});
-    }
-    std::sort(points.begin(), points.end(), [](const HardeningPoint& a, const HardeningPoint& b) {
-        return std::pair(a.plasticStrain, a.stress) < std::pair(b.plasticStrain, b.stress);
-    });
-
-    // Blocks of neighbours with their mean; a block that is not above the one before is joined with it.
-    struct Block
-    {
-        double strain;
-        double stress;
-        double count;
-    };
-    std::vector<Block> blocks;
-    for (const HardeningPoint& point : points) {
-        blocks.push_back({point.plasticStrain, point.stress, 1.0});
-        while (blocks.size() > 1) {
-            Block& last = blocks[blocks.size() - 1];
-            Block& before = blocks[blocks.size() - 2];
-            if (last.stress >= before.stress && last.strain > before.strain)
-                break;
-            const double count = last.count + before.count;
-            before = {(last.strain * last.count + before.strain * before.count) / count,
-                      (last.stress * last.count + before.stress * before.count) / count, count};
-            blocks.pop_back();
-        }
-    }
-
-    double largestFall = 0.0;
-    double highest = -std::numeric_limits<double>::infinity();
-    for (const HardeningPoint& point : points) {
-        highest = std::max(highest, point.stress);
-        largestFall = std::max(largestFall, highest - point.stress);
-    }
+    const std::vector<HardeningPoint> points = sortedPoints(data.tests);
     constexpr double percent = 100.0;
+    const double fall = largestFall(points);
     const double largest = data.largestStress();
-    if (largestFall > tolerance * largest)
-        findings.push_back(makeFinding(FindingId::StressFalls, {percent * largestFall / largest}));
+    if (fall > tolerance * largest)
+        findings.push_back(makeFinding(FindingId::StressFalls, {percent * fall / largest}));
 
     std::vector<HardeningPoint> rising;
-    rising.reserve(blocks.size());
-    for (const Block& block : blocks)
+    for (const Block& block : risingBlocks(points))
         rising.push_back({block.strain, block.stress});
     if (!rising.empty())
         rising.front().plasticStrain = 0.0;
@@ -293,8 +313,8 @@ std::vector<HardeningPoint> reducePoints(const std::vector<HardeningPoint>& poin
 {
     if (points.size() < 3)
         return points;
-    // The fewest lines to each point, by a search from the first one: a line from i reaches k if its slope lies in the
-    // wedge that all points between leave.
+    // For each point, finds the fewest lines from the first point to it. A line from i to k is allowed if its slope is in the
+    // wedge that the points between them leave.
     const std::size_t none = points.size();
     std::vector<std::size_t> lines(points.size(), none);
     std::vector<std::size_t> before(points.size(), none);

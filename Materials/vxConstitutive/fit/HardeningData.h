@@ -18,7 +18,7 @@ struct MeasuredModulus
 /// The plastic part of all tests of a request.
 struct HardeningData
 {
-    std::vector<TestData> tests;             ///< true stress against plastic strain, one for each test that has it
+    std::vector<TestData> tests; ///< true stress against plastic strain, one for each test with a plastic part
     std::optional<MeasuredModulus> modulus;  ///< if it was taken from the curves
     std::optional<ElasticConstants> elastic; ///< absent if there are no tensile tests and no given modulus
     std::vector<Finding> findings;
@@ -26,14 +26,15 @@ struct HardeningData
     double largestStress() const;
 };
 
+/// Returns the plastic part of the tests of a request.
 HardeningData takeHardening(const PlasticFitRequest& request);
 
-/// All points in rising order of strain, averaged so that the stress does not fall. Notes where it fell by more than
-/// the tolerance.
+/// Returns all points in rising order of strain, averaged so that the stress does not fall. Adds a finding if it fell by more
+/// than the tolerance.
 std::vector<HardeningPoint> risingPoints(const HardeningData& data, double tolerance, std::vector<Finding>& findings);
 
-/// The fewest of the points, the first and last among them, between which straight lines stay within `tolerance` (Pa)
-/// of all of them.
+/// Returns the fewest points, with the first and the last, such that straight lines between them are within `tolerance` (Pa) of
+/// all points.
 std::vector<HardeningPoint> reducePoints(const std::vector<HardeningPoint>& points, double tolerance);
 
 } // namespace vxConstitutive

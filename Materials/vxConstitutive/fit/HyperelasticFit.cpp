@@ -1,7 +1,5 @@
 #include "vxConstitutive/fit/HyperelasticFit.h"
 
-#include "TranslatedText.h"
-
 #include "fit/HyperelasticFitParts.h"
 #include "response/PrincipalStress.h"
 #include "response/TestResponse.h"
@@ -21,11 +19,10 @@ using vxMat::PropertyId;
 const std::vector<HyperelasticFormRecord>& formTable()
 {
     static const std::vector<HyperelasticFormRecord> table{
-        {HyperelasticForm::NeoHooke, "neo-hooke", QT_TRANSLATE_NOOP("vxConstitutive", "Neo-Hookean")},
-        {HyperelasticForm::MooneyRivlin, "mooney-rivlin", QT_TRANSLATE_NOOP("vxConstitutive", "Mooney-Rivlin")},
-        {HyperelasticForm::MooneyRivlinC11, "mooney-rivlin-c11",
-         QT_TRANSLATE_NOOP("vxConstitutive", "Mooney-Rivlin with C11")},
-        {HyperelasticForm::ArrudaBoyce, "arruda-boyce", QT_TRANSLATE_NOOP("vxConstitutive", "Arruda-Boyce")},
+        {HyperelasticForm::NeoHooke, "neo-hooke", "Neo-Hookean"},
+        {HyperelasticForm::MooneyRivlin, "mooney-rivlin", "Mooney-Rivlin"},
+        {HyperelasticForm::MooneyRivlinC11, "mooney-rivlin-c11", "Mooney-Rivlin with C11"},
+        {HyperelasticForm::ArrudaBoyce, "arruda-boyce", "Arruda-Boyce"},
     };
     return table;
 }
@@ -42,7 +39,7 @@ bool isShapeTest(Mode mode)
     return mode == Mode::SimpleShear || std::find(stretchModes.begin(), stretchModes.end(), mode) != stretchModes.end();
 }
 
-/// The stretches of the tests, with the greatest principal stretch of simple shear.
+/// Returns the range of stretches of the tests. The stretch of simple shear is its greatest principal stretch.
 Range stretchesOf(const std::vector<const TestData*>& tests)
 {
     Range range{1.0, 1.0};
@@ -83,7 +80,7 @@ HyperelasticFitData collect(const HyperelasticFitRequest& request, const std::ve
     return data;
 }
 
-/// D1 by linear least squares in 1/D1, to which the stress is proportional.
+/// Fits D1 by linear least squares in 1/D1, to which the stress is proportional.
 void fitVolume(const HyperelasticFitData& data, HyperelasticConstants& constants, FitResult& result)
 {
     if (!data.volume.usable())
@@ -121,7 +118,7 @@ StrainEnergy energyOf(const HyperelasticConstants& constants)
     return StrainEnergy::mooneyRivlin(constants.c10, constants.c01, constants.c11);
 }
 
-/// Looks for instabilities between a tenth and ten times the length.
+/// Returns the stable ranges between the stretches 0.1 and 10.
 std::vector<StableRange> stableRangesOf(const HyperelasticModel& model)
 {
     constexpr Range looked{0.1, 10.0};
@@ -216,18 +213,17 @@ FitResult fitForm(HyperelasticForm form, const HyperelasticFitData& data, Jobs& 
             makeFinding(FindingId::FewPoints, {result.model, static_cast<double>(data.shape.total)}));
     fitVolume(data, minimum.constants, result);
     auto model = std::make_shared<HyperelasticModel>(minimum.constants);
-    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
     if (data.stableRange && !isStable(minimum.constants, *data.stableRange))
         result.findings.push_back(makeFinding(FindingId::StabilityNotReached, {result.model}));
     result.stable = stableRangesOf(*model);
     result.change = changeOf(form, minimum.constants);
-    result.fitted = std::move(model);
+    setFitted(result, std::move(model));
     if (result.status == FitStatus::Failed)
         result.status = FitStatus::Done;
     return result;
 }
 
-/// The result for a form that cannot be fitted at all.
+/// Returns the result for a form that cannot be fitted.
 FitResult refused(HyperelasticForm form, const HyperelasticFitData& data)
 {
     FitResult result;

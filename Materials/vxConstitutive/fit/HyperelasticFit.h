@@ -17,7 +17,7 @@ enum class HyperelasticForm
     ArrudaBoyce
 };
 
-/// All of them, simple ones first.
+/// Returns all forms, simple ones first.
 VXCONSTITUTIVE_EXPORT const std::vector<HyperelasticForm>& hyperelasticForms();
 
 /// The key on command lines ("mooney-rivlin-c11") and the English name of a form.
@@ -29,14 +29,15 @@ struct HyperelasticFormRecord
 };
 VXCONSTITUTIVE_EXPORT const HyperelasticFormRecord& hyperelasticFormRecord(HyperelasticForm form);
 
-/// Where a fitted model must be stable.
+/// The range in which a fitted model must be stable.
 enum class StabilityDemand
 {
-    OverData, ///< in uniaxial, equibiaxial and planar tests over the stretches of all data, from 1 on
-    OverRange,
+    OverData,  ///< uniaxial, equibiaxial and planar tests over the stretches of all data and 1
+    OverRange, ///< the same tests over `stableRange`
     None
 };
 
+/// A request for a fit of hyperelastic models.
 struct HyperelasticFitRequest
 {
     std::vector<TestData> tests; ///< uniaxial, equibiaxial, planar, simple shear and volumetric
@@ -47,19 +48,18 @@ struct HyperelasticFitRequest
     BoundsById bounds;           ///< of C10 26, C01 27, C11 128, Mu 23 and the limiting stretch 127
 };
 
-/// Fits hyperelastic models to tests and returns them best first: those that failed last, and among the others by the
-/// residual per freedom.
+/// Fits hyperelastic models to tests. Returns them by residual per freedom, with undetermined and failed models last.
 ///
-/// The tests are compared with the incompressible responses of HyperelasticModel; tests of volume determine D1 alone.
+/// The tests are compared with the incompressible responses of HyperelasticModel; volumetric tests determine only D1.
 /// Neo-Hookean and Mooney-Rivlin are linear in their constants and have one minimum; Arruda-Boyce starts from many
 /// limiting stretches. Least squares by the Levenberg-Marquardt method of Ceres with exact derivatives.
 ///
-/// Stability is Drucker's criterion (HyperelasticModel.h). Where it binds, the constants are the best ones inside the
-/// stable region, and `residualWithoutStability` tells its price. Standard errors come from the derivatives at the
-/// result and the scatter of the data; they hold for independent errors and a model that can follow the data.
+/// Stability is Drucker's criterion (HyperelasticModel.h). If it is active, the constants are the best stable ones, and
+/// `residualWithoutStability` is the residual without it. Standard errors follow from the derivatives at the result and the
+/// scatter of the data. They are valid for independent errors and a model that can follow the data.
 ///
-/// A test of more than 2000 points is fitted by 2000 averages of neighbours; residuals are of all points. The result
-/// does not depend on the order of points. Throws nothing but std::bad_alloc.
+/// A test of more than 2000 points is fitted by 2000 averages of neighbours; residuals are over all points. The result does not
+/// depend on the order of the points. Throws only std::bad_alloc.
 VXCONSTITUTIVE_EXPORT std::vector<FitResult> fitHyperelastic(const HyperelasticFitRequest& request,
                                                              const FitControl& control = {});
 

@@ -10,7 +10,7 @@
 
 namespace vxConstitutive {
 
-/// What the fits of all hyperelastic forms share.
+/// The data of the fits of all hyperelastic forms.
 struct HyperelasticFitData
 {
     std::vector<const TestData*> shapeTests;
@@ -23,7 +23,7 @@ struct HyperelasticFitData
     std::function<bool()> cancelled;
 };
 
-/// The constants of one form before they are judged.
+/// The fitted constants of a form, before they are judged.
 struct HyperelasticMinimum
 {
     HyperelasticConstants constants;
@@ -34,19 +34,19 @@ struct HyperelasticMinimum
     std::vector<Finding> findings;
 };
 
-/// The nominal stress of an incompressible material in a test.
+/// Returns the nominal stress of an incompressible material in a test.
 double incompressibleStress(const StrainEnergy& energy, Mode mode, double abscissa);
 
-/// The first invariant of an incompressible material in a test.
+/// Returns the first invariant of an incompressible material in a test.
 double incompressibleInvariant(Mode mode, double abscissa);
 
-/// Whether a model is stable in uniaxial, equibiaxial and planar tests.
+/// Returns whether a model is stable in uniaxial, equibiaxial and planar tests.
 bool isStable(const HyperelasticConstants& constants, Range range);
 
-/// Fits the first `count` of C10, C01 and C11. The shape tests are usable.
+/// Fits the first `count` of C10, C01 and C11. The shape tests must be usable.
 HyperelasticMinimum fitMooneyRivlin(const HyperelasticFitData& data, HyperelasticForm form, std::size_t count);
 
-/// Fits Mu and the limiting stretch. The shape tests are usable.
+/// Fits Mu and the limiting stretch. The shape tests must be usable.
 HyperelasticMinimum fitArrudaBoyce(const HyperelasticFitData& data, const std::function<void(double)>& progress);
 
 } // namespace vxConstitutive

@@ -11,7 +11,7 @@ namespace {
 
 using RowMajor = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
 
-/// The parameters that may move.
+/// Returns the indices of the parameters that are not fixed.
 std::vector<std::size_t> freeParameters(const LeastSquares& problem)
 {
     std::vector<std::size_t> free;
@@ -63,7 +63,7 @@ private:
     std::vector<double> m_all;
 };
 
-/// Ends a minimisation that was cancelled.
+/// Stops a cancelled minimisation.
 class Watch final : public ceres::IterationCallback
 {
 public:
@@ -103,6 +103,67 @@ double costAt(const LeastSquares& problem, const std::vector<double>& parameters
     return std::isfinite(sum) ? sum / 2.0 : std::numeric_limits<double>::infinity();
 }
 
+void setBounds(const LeastSquares& problem, const std::vector<std::size_t>& free, double* values,
+               ceres::Problem& ceresProblem)
+{
+    for (std::size_t i = 0; i < free.size(); ++i) {
+        const Bounds& bounds = problem.bounds[free[i]];
+        if (std::isfinite(bounds.lower))
+            ceresProblem.SetParameterLowerBound(values, static_cast<int>(i), bounds.lower);
+        if (std::isfinite(bounds.upper))
+            ceresProblem.SetParameterUpperBound(values, static_cast<int>(i), bounds.upper);
+    }
+}
+
+struct Solution
+{
+    std::vector<double> parameters;
+    bool converged = false;
+};
+
+/// Minimises over the free parameters by the Levenberg-Marquardt method.
+Solution solve(const LeastSquares& problem, const std::vector<std::size_t>& free, const std::vector<double>& start,
+               const std::function<bool()>& cancelled)
+{
+    std::vector<double> values;
+    for (const std::size_t index : free)
+        values.push_back(start[index]);
+    Cost cost(problem, free, start);
+    ceres::Problem::Options ownership;
+    ownership.cost_function_ownership = ceres::DO_NOT_TAKE_OWNERSHIP;
+    ceres::Problem ceresProblem(ownership);
+    ceresProblem.AddResidualBlock(&cost, nullptr, values.data());
+    setBounds(problem, free, values.data(), ceresProblem);
+    Watch watch(cancelled);
+    ceres::Solver::Summary summary;
+    ceres::Solve(optionsFor(watch), &ceresProblem, &summary);
+
+    Solution solution{start, summary.termination_type == ceres::CONVERGENCE};
+    for (std::size_t i = 0; i < free.size(); ++i)
+        solution.parameters[free[i]] = values[i];
+    return solution;
+}
+
+/// The derivatives by the free parameters, in columns of length 1.
+struct NormalisedJacobian
+{
+    Eigen::MatrixXd columns;
+    Eigen::VectorXd lengths; ///< before the normalisation
+};
+
+NormalisedJacobian normalised(const RowMajor& jacobian, const std::vector<std::size_t>& free)
+{
+    const auto count = static_cast<Eigen::Index>(free.size());
+    NormalisedJacobian result{Eigen::MatrixXd(jacobian.rows(), count), Eigen::VectorXd(count)};
+    for (Eigen::Index i = 0; i < count; ++i) {
+        result.columns.col(i) = jacobian.col(static_cast<Eigen::Index>(free[static_cast<std::size_t>(i)]));
+        result.lengths(i) = result.columns.col(i).norm();
+        if (result.lengths(i) > 0.0)
+            result.columns.col(i) /= result.lengths(i);
+    }
+    return result;
+}
+
 } // namespace
 
 Minimum minimise(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled)
@@ -116,35 +177,13 @@ Minimum minimise(const LeastSquares& problem, std::vector<double> start, const s
     if (free.empty() || !std::isfinite(result.cost))
         return result;
 
-    std::vector<double> values;
-    values.reserve(free.size());
-    for (const std::size_t index : free)
-        values.push_back(start[index]);
-    Cost cost(problem, free, start);
-    ceres::Problem::Options ownership;
-    ownership.cost_function_ownership = ceres::DO_NOT_TAKE_OWNERSHIP;
-    ceres::Problem ceresProblem(ownership);
-    ceresProblem.AddResidualBlock(&cost, nullptr, values.data());
-    for (std::size_t i = 0; i < free.size(); ++i) {
-        const Bounds& bounds = problem.bounds[free[i]];
-        if (std::isfinite(bounds.lower))
-            ceresProblem.SetParameterLowerBound(values.data(), static_cast<int>(i), bounds.lower);
-        if (std::isfinite(bounds.upper))
-            ceresProblem.SetParameterUpperBound(values.data(), static_cast<int>(i), bounds.upper);
+    Solution solution = solve(problem, free, start, cancelled);
+    result.converged = solution.converged;
+    const double cost = costAt(problem, solution.parameters);
+    if (cost <= result.cost) {
+        result.parameters = std::move(solution.parameters);
+        result.cost = cost;
     }
-    Watch watch(cancelled);
-    ceres::Solver::Summary summary;
-    ceres::Solve(optionsFor(watch), &ceresProblem, &summary);
-
-    std::vector<double> found = start;
-    for (std::size_t i = 0; i < free.size(); ++i)
-        found[free[i]] = values[i];
-    const double foundCost = costAt(problem, found);
-    if (foundCost <= result.cost) {
-        result.parameters = std::move(found);
-        result.cost = foundCost;
-    }
-    result.converged = summary.termination_type == ceres::CONVERGENCE;
     return result;
 }
 
@@ -178,24 +217,17 @@ Certainty certaintyAt(const LeastSquares& problem, const std::vector<double>& pa
     if (free.empty())
         return certainty;
 
-    Eigen::MatrixXd jacobian(full.rows(), static_cast<Eigen::Index>(free.size()));
-    Eigen::VectorXd lengths(jacobian.cols());
-    for (Eigen::Index i = 0; i < jacobian.cols(); ++i) {
-        jacobian.col(i) = full.col(static_cast<Eigen::Index>(free[static_cast<std::size_t>(i)]));
-        lengths(i) = jacobian.col(i).norm();
-        if (lengths(i) > 0.0)
-            jacobian.col(i) /= lengths(i);
-    }
-    const Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> solver(jacobian.transpose() * jacobian);
+    const auto [columns, lengths] = normalised(full, free);
+    const Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> solver(columns.transpose() * columns);
     const Eigen::ArrayXd squares = solver.eigenvalues().cwiseMax(0.0).array();
-    for (Eigen::Index i = 0; i < jacobian.cols(); ++i) {
-        for (Eigen::Index k = 0; k < jacobian.cols(); ++k) {
+    for (Eigen::Index i = 0; i < columns.cols(); ++i) {
+        const std::size_t row = free[static_cast<std::size_t>(i)];
+        for (Eigen::Index k = 0; k < columns.cols(); ++k) {
             const Eigen::ArrayXd product = solver.eigenvectors().row(i).array() * solver.eigenvectors().row(k).array();
-            certainty.covariances[free[static_cast<std::size_t>(i)] * count + free[static_cast<std::size_t>(k)]] =
+            certainty.covariances[row * count + free[static_cast<std::size_t>(k)]] =
                 (product / squares).sum() / (lengths(i) * lengths(k));
         }
-        const std::size_t parameter = free[static_cast<std::size_t>(i)];
-        certainty.errors[parameter] = std::sqrt(certainty.covariance(parameter, parameter));
+        certainty.errors[row] = std::sqrt(certainty.covariance(row, row));
     }
     return certainty;
 }

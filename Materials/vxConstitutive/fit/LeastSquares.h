@@ -12,10 +12,10 @@ namespace vxConstitutive {
 struct LeastSquares
 {
     std::size_t residuals = 0;
-    std::vector<Bounds> bounds; ///< one for each parameter; equal ones hold it fixed
+    std::vector<Bounds> bounds; ///< one for each parameter; equal bounds fix it
 
-    /// Writes the residuals and, unless `jacobian` is null, their derivatives row by row; returns false if the
-    /// residuals do not exist at these parameters.
+    /// Stores the residuals and, unless `jacobian` is null, their derivatives row by row. Returns false if the residuals do
+    /// not exist at these parameters.
     std::function<bool(const double* parameters, double* residuals, double* jacobian)> evaluate;
 };
 
@@ -26,22 +26,22 @@ struct Minimum
     bool converged = false;
 };
 
-/// Minimises from one start, which is moved inside the bounds. Ends soon after `cancelled` returns true, with the best
+/// Minimises from one start, which is moved inside the bounds. Ends soon after `cancelled` has returned true, with the best
 /// parameters so far.
 Minimum minimise(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled);
 
-/// The best of several starts; each is tried unless cancelled. Calls `progress` after each with the part done.
+/// Returns the best minimum of several starts. Calls `progress` with the finished part after each start.
 Minimum minimiseFromMany(const LeastSquares& problem, const std::vector<std::vector<double>>& starts,
                          const std::function<bool()>& cancelled, const std::function<void(double)>& progress);
 
-/// What the derivatives at a minimum say of its parameters.
+/// The certainty of the parameters at a minimum, from the derivatives of the residuals.
 struct Certainty
 {
-    /// For each parameter, its standard error if the residuals had the standard deviation 1; 0 for one that is fixed,
-    /// infinite for one that the residuals do not depend on.
+    /// The standard error of each parameter for residuals of standard deviation 1: 0 for a fixed parameter, infinite for a
+    /// parameter without influence.
     std::vector<double> errors;
 
-    /// The covariances behind the errors, row by row; 0 where a parameter is fixed.
+    /// The covariances for the same residuals, row by row; 0 for fixed parameters.
     std::vector<double> covariances;
 
     double covariance(std::size_t i, std::size_t k) const { return covariances[i * errors.size() + k]; }

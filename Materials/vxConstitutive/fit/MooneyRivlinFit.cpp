@@ -22,7 +22,7 @@ StrainEnergy energyOf(const MooneyConstants& c)
     return StrainEnergy::mooneyRivlin(c[0], c[1], c[2]);
 }
 
-/// The linear least squares problem of the constants, which are in units of the largest stress.
+/// The linear least squares problem of the constants in units of the largest stress.
 class MooneyProblem
 {
 public:
@@ -56,7 +56,7 @@ public:
         return problem;
     }
 
-    /// With residuals that grow as states come nearer to instability than `margin`.
+    /// Returns the problem with penalties for states whose stability is less than `margin`.
     LeastSquares penalised(const StabilityRegion& region, double weight, double margin) const
     {
         LeastSquares problem;
@@ -119,7 +119,7 @@ private:
             row[k] = lack > 0.0 ? -factor * state.slope[k] : 0.0;
     }
 
-    /// A constant whose column is a combination of those before it is held at the value in its bounds nearest to 0.
+    /// Fixes each constant whose column is a combination of the columns before it, at the value in its bounds nearest to 0.
     void findIndependent()
     {
         constexpr double resolution = 1e-7;
@@ -127,7 +127,7 @@ private:
         for (std::size_t k = 0; k < m_count; ++k) {
             std::vector<double> rest = m_columns[k];
             const double length = norm(rest);
-            for (int pass = 0; pass < 2; ++pass) { // twice, since once leaves rounding errors of the first
+            for (int pass = 0; pass < 2; ++pass) { // a second pass removes the rounding errors of the first
                 for (const auto& direction : basis)
                     subtractPart(rest, direction);
             }
@@ -181,7 +181,7 @@ HyperelasticConstants constantsOf(HyperelasticForm form, const MooneyConstants& 
     return constants;
 }
 
-/// Moves constants towards Neo-Hookean ones, which are stable everywhere, just so far that they are stable too.
+/// Moves constants towards Neo-Hookean ones, which are stable everywhere, by the smallest step that makes them stable.
 MooneyConstants moveInside(HyperelasticForm form, const MooneyConstants& from, double neoHooke, double scale,
                            Range range)
 {
@@ -201,8 +201,8 @@ MooneyConstants moveInside(HyperelasticForm form, const MooneyConstants& from, d
     return mixed(stable);
 }
 
-/// The best constants among those that are stable; `start` are the best of all. Absent if even Neo-Hookean ones are
-/// not.
+/// Returns the best stable constants; nothing if even Neo-Hookean ones are unstable. `start` are the best constants without
+/// regard to stability.
 std::optional<std::vector<double>> minimiseStably(const HyperelasticFitData& data, HyperelasticForm form,
                                                   const MooneyProblem& mooney, std::vector<double> start)
 {
@@ -211,7 +211,7 @@ std::optional<std::vector<double>> minimiseStably(const HyperelasticFitData& dat
     if (!(neoHooke > 0.0))
         return std::nullopt;
 
-    // Nearer and nearer from outside to a boundary that lies a little inside the true one.
+    // The penalty grows step by step. Its boundary is slightly inside the true one.
     constexpr double margin = 2e-4;
     const StabilityRegion region(*data.stableRange);
     for (const double weight : {1e2, 1e4, 1e6, 1e8}) {

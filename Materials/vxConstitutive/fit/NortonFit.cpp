@@ -1,5 +1,3 @@
-#include "TranslatedText.h"
-
 #include "fit/FitSupport.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxConstitutive/response/NortonModel.h"
@@ -17,17 +15,18 @@ namespace {
 
 using vxMat::PropertyId;
 
-/// A point in logarithms: of the stress and the time by reference values.
+/// A point with the logarithms of stress and time by their reference values.
 struct LogPoint
 {
     double stress = 0.0;
     double time = 0.0;
-    double target = 0.0; ///< strain or rate by the largest
+    double target = 0.0; ///< strain or rate by the largest one
     double factor = 0.0;
-    bool silent = false; ///< at time 0 or stress 0, where the law has 0
+    bool silent = false; ///< at time 0 or stress 0, where the law is 0
 };
 
-/// ln of the largest strain at the reference stress and time, n, and m + 1 (1 for rates).
+/// The least squares problem. Its parameters are the logarithm of the strain at the reference stress and time by the largest
+/// strain, n, and m + 1 (1 for rates).
 using Parameters = std::array<double, 3>;
 
 class NortonProblem
@@ -42,7 +41,7 @@ public:
         const Bounds n = boundsOf(bounds, PropertyId::CreepModulusN, {0.1, 50.0});
         const Bounds m = boundsOf(bounds, PropertyId::CreepModulusM, {-0.99, 0.0});
         const double fixedN = std::max(n.lower, std::min(1.0, n.upper));
-        constexpr double widest = 200.0; // as a power of e
+        constexpr double widest = 200.0; // as an exponent of e
         m_problem.bounds = {{-widest, widest},
                             spreadsStress() ? n : Bounds{fixedN, fixedN},
                             rates ? Bounds{1.0, 1.0} : Bounds{std::max(1e-3, m.lower + 1.0), m.upper + 1.0}};
@@ -58,7 +57,7 @@ public:
 
     const LeastSquares& problem() const { return m_problem; }
 
-    /// Whether the tests have more than one stress, without which n has no say.
+    /// Returns whether the tests have more than one stress. Otherwise n has no influence.
     bool spreadsStress() const
     {
         const auto [low, high] = std::minmax_element(m_points.begin(), m_points.end(),
@@ -79,7 +78,7 @@ public:
 
     double a(const std::vector<double>& p) const { return std::exp(logA(p)); }
 
-    /// The standard error of A for residuals of standard deviation 1, by its derivatives.
+    /// Returns the standard error of A for residuals of standard deviation 1, from the derivatives of A.
     double errorOfA(const std::vector<double>& p, const Certainty& certainty) const
     {
         const Parameters slope{1.0, -m_logStress, (m_rates ? 0.0 : 1.0 / p[2]) - m_logTime};
@@ -98,7 +97,7 @@ private:
         return m_rates ? level : level + std::log(p[2]) - p[2] * m_logTime;
     }
 
-    /// The references are the geometric means, where the exponents tilt the curves least.
+    /// Sets the references to the geometric means, which makes the exponents nearly independent of the level.
     void findReferences(const FitSet& set)
     {
         double count = 0.0;
@@ -146,7 +145,7 @@ private:
 
     double exponent(const double* p) const { return m_rates ? 0.0 : p[2]; }
 
-    /// The mean level of the data in logarithms, for given exponents.
+    /// Returns the mean logarithmic level of the data for given exponents.
     double levelFor(double n, double q) const
     {
         double sum = 0.0;
@@ -178,7 +177,7 @@ std::vector<const TestData*> testsOf(const std::vector<TestData>& tests, Mode mo
     return found;
 }
 
-/// Creep curves, or rates if there are none.
+/// Returns the creep curves, or the rates if there are no curves.
 std::vector<const TestData*> chooseTests(const std::vector<TestData>& tests, std::vector<Finding>& findings)
 {
     std::vector<const TestData*> curves = testsOf(tests, Mode::Creep);
@@ -216,13 +215,15 @@ void describeConstants(const NortonProblem& norton, const std::vector<double>& p
                          {PropertyId::CreepModulusM, p[2] - 1.0, {}, {}}};
 }
 
-double predictNorton(double a, double n, double m, const TestData& test, double abscissa)
+Prediction predictionOf(double a, double n, double m)
 {
-    CurveRequest request;
-    request.mode = test.mode;
-    request.abscissas = {abscissa};
-    request.stresses = {test.parameter};
-    return NortonModel(a, n, m).curve(request).columns[1].values.front();
+    return [a, n, m](const TestData& test, double abscissa) {
+        CurveRequest request;
+        request.mode = test.mode;
+        request.abscissas = {abscissa};
+        request.stresses = {test.parameter};
+        return NortonModel(a, n, m).curve(request).columns[1].values.front();
+    };
 }
 
 } // namespace
@@ -230,39 +231,27 @@ double predictNorton(double a, double n, double m, const TestData& test, double 
 FitResult fitNorton(const NortonFitRequest& request, const FitControl& control)
 {
     FitResult result;
-    result.model = QT_TRANSLATE_NOOP("vxConstitutive", "Norton creep");
+    result.model = "Norton creep";
     Jobs jobs(control, 1);
     jobs.begin(result.model);
     const std::vector<TestData> tests = usableTests(request.tests, result.findings);
     const std::vector<const TestData*> used = chooseTests(tests, result.findings);
     const bool rates = !used.empty() && used.front()->mode == Mode::CreepRate;
     const FitSet set = makeFitSet(used, request.error);
-    result.findings.insert(result.findings.end(), set.findings.begin(), set.findings.end());
-    if (!set.usable()) {
-        result.findings.push_back(makeFinding(FindingId::DataMissing, {result.model}));
+    if (!hasData(result, set))
         return result;
-    }
 
     const NortonProblem norton(set, rates, request.bounds);
     const Minimum minimum =
         minimiseFromMany(norton.problem(), norton.starts(), jobs.cancelledFunction(), jobs.progress());
-    const bool cancelled = jobs.cancelled();
-    result.status = cancelled ? FitStatus::Cancelled : FitStatus::Done;
-    if (cancelled)
-        result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+    setStatus(result, jobs);
     if (minimum.parameters.empty())
         return result;
-
     const std::vector<double>& p = minimum.parameters;
     const std::size_t freedoms = countFree(norton.problem().bounds);
-    const auto predict = [&](const TestData& test, double abscissa) {
-        return predictNorton(norton.a(p), p[1], p[2] - 1.0, test, abscissa);
-    };
-    judge(result, used, request.error, set, predict, freedoms);
+    judge(result, used, request.error, set, predictionOf(norton.a(p), p[1], p[2] - 1.0), freedoms);
     describeConstants(norton, p, set, freedoms, result);
-    auto model = std::make_shared<NortonModel>(norton.a(p), p[1], p[2] - 1.0);
-    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
-    result.fitted = std::move(model);
+    setFitted(result, std::make_shared<NortonModel>(norton.a(p), p[1], p[2] - 1.0));
     return result;
 }
 

@@ -1,7 +1,5 @@
 #include "vxConstitutive/fit/PlasticFit.h"
 
-#include "TranslatedText.h"
-
 #include "fit/FitSupport.h"
 #include "fit/HardeningData.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -17,7 +15,7 @@ namespace {
 
 using vxMat::PropertyId;
 
-/// More points than this are averaged before the fewest are looked for, which takes time by their square.
+/// More points are averaged before they are reduced, because the reduction takes quadratic time.
 constexpr std::size_t mostPoints = 1000;
 
 std::vector<const TestData*> pointersTo(const std::vector<TestData>& tests)
@@ -46,7 +44,7 @@ void addModulus(const HardeningData& data, FitResult& result)
                                     data.modulus->standardError, Determination::Determined});
 }
 
-/// The switch and the words of Mises plasticity, and no constants of other kinds.
+/// Returns the change to Mises plasticity, without the constants of hardening.
 MaterialChange misesChange(const char* hardening, const HardeningData& data)
 {
     MaterialChange change;
@@ -59,16 +57,23 @@ MaterialChange misesChange(const char* hardening, const HardeningData& data)
     return change;
 }
 
+/// Stores the model in a result that was not cancelled.
+void finish(FitResult& result, std::shared_ptr<const Model> model, Jobs& jobs)
+{
+    setFitted(result, std::move(model));
+    result.status = FitStatus::Done;
+    jobs.progress()(1.0);
+}
+
 bool endIfCancelled(Jobs& jobs, FitResult& result)
 {
     if (!jobs.cancelled())
         return false;
-    result.status = FitStatus::Cancelled;
-    result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+    setStatus(result, jobs);
     return true;
 }
 
-/// Averages neighbours, leaving the first point, whose strain is 0, as it is.
+/// Averages neighbours if there are too many points. Keeps the first point, whose strain is 0.
 std::vector<HardeningPoint> condensed(const std::vector<HardeningPoint>& points)
 {
     if (points.size() <= mostPoints)
@@ -92,13 +97,6 @@ std::vector<HardeningPoint> condensed(const std::vector<HardeningPoint>& points)
 Prediction predictionOf(const PlasticModel& model)
 {
     return [&model](const TestData& /*test*/, double strain) { return model.stressAt(strain); };
-}
-
-void finish(FitResult& result, std::shared_ptr<const Model> model)
-{
-    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
-    result.fitted = std::move(model);
-    result.status = FitStatus::Done;
 }
 
 MaterialChange multilinearChange(const HardeningData& data, const std::vector<HardeningPoint>& points)
@@ -127,7 +125,8 @@ MaterialChange bilinearChange(const HardeningData& data, double yield, double mo
     return change;
 }
 
-/// The straight line through the points, with yield stress and modulus in units of the largest stress.
+/// Returns the problem of a straight line through the points. Its parameters are yield stress and modulus by the largest
+/// stress.
 LeastSquares bilinearProblem(const FitSet& set, const BoundsById& bounds)
 {
     const double scale = set.largestOrdinate;
@@ -152,12 +151,26 @@ LeastSquares bilinearProblem(const FitSet& set, const BoundsById& bounds)
     return problem;
 }
 
+void addBilinearConstants(const LeastSquares& problem, const std::vector<double>& parameters, const FitSet& set,
+                          FitResult& result)
+{
+    const double scale = set.largestOrdinate;
+    const Certainty certainty = certaintyAt(problem, parameters);
+    const auto add = [&](std::size_t i, std::int32_t id, const char* symbol) {
+        const Bounds bounds{scale * problem.bounds[i].lower, scale * problem.bounds[i].upper};
+        addConstant(result, {id, symbol, "Pa", scale * parameters[i], scale * certainty.errors[i], bounds, {}},
+                    set.total, countFree(problem.bounds));
+    };
+    add(0, PropertyId::PlasticInitialYieldStress, "sigma0");
+    add(1, PropertyId::PlasticHardeningFactor, "H");
+}
+
 } // namespace
 
 FitResult fitMultilinear(const PlasticFitRequest& request, const FitControl& control)
 {
     Jobs jobs(control, 1);
-    jobs.begin(QT_TRANSLATE_NOOP("vxConstitutive", "multilinear hardening"));
+    jobs.begin("multilinear hardening");
     const HardeningData data = takeHardening(request);
     FitResult result = beginResult("multilinear hardening", data);
     if (data.tests.empty() || endIfCancelled(jobs, result))
@@ -172,15 +185,14 @@ FitResult fitMultilinear(const PlasticFitRequest& request, const FitControl& con
 
     addModulus(data, result);
     result.change = multilinearChange(data, points);
-    finish(result, std::move(model));
-    jobs.progress()(1.0);
+    finish(result, std::move(model), jobs);
     return result;
 }
 
 FitResult fitBilinear(const PlasticFitRequest& request, const FitControl& control)
 {
     Jobs jobs(control, 1);
-    jobs.begin(QT_TRANSLATE_NOOP("vxConstitutive", "bilinear hardening"));
+    jobs.begin("bilinear hardening");
     const HardeningData data = takeHardening(request);
     FitResult result = beginResult("bilinear hardening", data);
     const std::vector<const TestData*> tests = pointersTo(data.tests);
@@ -195,27 +207,11 @@ FitResult fitBilinear(const PlasticFitRequest& request, const FitControl& contro
     const double modulus = scale * minimum.parameters[1];
     auto model = std::make_shared<PlasticModel>(yield, modulus, data.elastic);
 
-    const std::size_t freedoms = countFree(problem.bounds);
-    judge(result, tests, ErrorMeasure::OfLargest, set, predictionOf(*model), freedoms);
-    const Certainty certainty = certaintyAt(problem, minimum.parameters);
-    const auto add = [&](std::size_t i, std::int32_t id, const char* symbol) {
-        const Bounds& bounds = problem.bounds[i];
-        addConstant(result,
-                    {id,
-                     symbol,
-                     "Pa",
-                     scale * minimum.parameters[i],
-                     scale * certainty.errors[i],
-                     {scale * bounds.lower, scale * bounds.upper},
-                     {}},
-                    set.total, freedoms);
-    };
-    add(0, PropertyId::PlasticInitialYieldStress, "sigma0");
-    add(1, PropertyId::PlasticHardeningFactor, "H");
+    judge(result, tests, ErrorMeasure::OfLargest, set, predictionOf(*model), countFree(problem.bounds));
+    addBilinearConstants(problem, minimum.parameters, set, result);
     addModulus(data, result);
     result.change = bilinearChange(data, yield, modulus);
-    finish(result, std::move(model));
-    jobs.progress()(1.0);
+    finish(result, std::move(model), jobs);
     return result;
 }
 

@@ -1,5 +1,3 @@
-#include "TranslatedText.h"
-
 #include "fit/FitSupport.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxConstitutive/response/ViscoElasticModel.h"
@@ -16,7 +14,7 @@ namespace {
 
 using vxMat::PropertyId;
 
-/// The times of the tests that are greater than 0.
+/// Returns the range of the times greater than 0.
 Range timesOf(const FitSet& set)
 {
     Range times{std::numeric_limits<double>::infinity(), 0.0};
@@ -27,10 +25,11 @@ Range timesOf(const FitSet& set)
     return times.to > 0.0 ? times : Range{1.0, 1.0};
 }
 
-/// The least squares problem of the modulus at once by the largest, g, and ln of the relaxation time.
+/// Returns the least squares problem. Its parameters are the instantaneous modulus by the largest measured one, g, and the
+/// logarithm of the relaxation time.
 LeastSquares problemOf(const FitSet& set, Range times, const BoundsById& bounds)
 {
-    constexpr double beyond = 100.0; // of the times measured
+    constexpr double beyond = 100.0; // the measured times
     const Bounds g = boundsOf(bounds, PropertyId::ShearRelaxationModulus, {0.0, 1.0});
     const Bounds tau = boundsOf(bounds, PropertyId::RelaxationTime, {times.from / beyond, times.to * beyond});
     LeastSquares problem;
@@ -100,48 +99,49 @@ void describeConstants(const LeastSquares& problem, const std::vector<double>& p
                          {PropertyId::RelaxationTime, tau, {}, {}}};
 }
 
-} // namespace
-
-FitResult fitRelaxation(const RelaxationFitRequest& request, const FitControl& control)
+std::vector<const TestData*> relaxationTests(const std::vector<TestData>& tests)
 {
-    FitResult result;
-    result.model = QT_TRANSLATE_NOOP("vxConstitutive", "visco-elasticity");
-    Jobs jobs(control, 1);
-    jobs.begin(result.model);
-    const std::vector<TestData> tests = usableTests(request.tests, result.findings);
     std::vector<const TestData*> used;
     for (const TestData& test : tests) {
         if (test.mode == Mode::Relaxation)
             used.push_back(&test);
     }
+    return used;
+}
+
+Prediction predictionOf(double modulus, double ratio, double relaxationTime)
+{
+    return [=](const TestData& /*test*/, double time) {
+        return modulus * (1.0 - ratio + ratio * std::exp(-time / relaxationTime));
+    };
+}
+
+} // namespace
+
+FitResult fitRelaxation(const RelaxationFitRequest& request, const FitControl& control)
+{
+    FitResult result;
+    result.model = "visco-elasticity";
+    Jobs jobs(control, 1);
+    jobs.begin(result.model);
+    const std::vector<TestData> tests = usableTests(request.tests, result.findings);
+    const std::vector<const TestData*> used = relaxationTests(tests);
     const FitSet set = makeFitSet(used, request.error);
-    result.findings.insert(result.findings.end(), set.findings.begin(), set.findings.end());
-    if (!set.usable()) {
-        result.findings.push_back(makeFinding(FindingId::DataMissing, {result.model}));
+    if (!hasData(result, set))
         return result;
-    }
 
     const Range times = timesOf(set);
     const LeastSquares problem = problemOf(set, times, request.bounds);
     const Minimum minimum = minimiseFromMany(problem, startsOf(times), jobs.cancelledFunction(), jobs.progress());
-    const bool cancelled = jobs.cancelled();
-    result.status = cancelled ? FitStatus::Cancelled : FitStatus::Done;
-    if (cancelled)
-        result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+    setStatus(result, jobs);
     if (minimum.parameters.empty())
         return result;
-
     const std::vector<double>& p = minimum.parameters;
     const double modulus = p[0] * set.largestOrdinate;
     const double tau = std::exp(p[2]);
-    const auto predict = [&](const TestData& /*test*/, double time) {
-        return modulus * (1.0 - p[1] + p[1] * std::exp(-time / tau));
-    };
-    judge(result, used, request.error, set, predict, countFree(problem.bounds));
+    judge(result, used, request.error, set, predictionOf(modulus, p[1], tau), countFree(problem.bounds));
     describeConstants(problem, p, set, times, result);
-    auto model = std::make_shared<ViscoElasticModel>(p[1], tau, modulus);
-    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
-    result.fitted = std::move(model);
+    setFitted(result, std::make_shared<ViscoElasticModel>(p[1], tau, modulus));
     return result;
 }
 

@@ -10,7 +10,7 @@ namespace vxConstitutive {
 
 namespace {
 
-/// States of each mode on each side of the state of rest.
+/// The number of states of each mode on each side of the unloaded state.
 constexpr std::size_t statesOfSide = 24;
 
 ShapeStiffness stiffnessOf(const StrainEnergy& energy, const Triple& shape)
@@ -36,7 +36,7 @@ StabilityRegion::StabilityRegion(Range range)
 void StabilityRegion::add(Mode mode, double stretch)
 {
     const Triple shape = testPath(mode).shape(std::log(stretch), 0.0);
-    // With the Cholesky factor L of the Neo-Hookean stiffness, H becomes inv(L) H inv(L)^T.
+    // Transforms H to inv(L) H inv(L)^T with the Cholesky factor L of the Neo-Hookean stiffness.
     const ShapeStiffness base = stiffnessOf(StrainEnergy::mooneyRivlin(1.0), shape);
     const double l11 = std::sqrt(base.uu);
     const double l21 = base.uv / l11;
@@ -66,7 +66,7 @@ StateMargin StabilityRegion::margin(std::size_t state, const MooneyConstants& co
     const double vv = combine(m01.vv, m11.vv);
     const double radius = std::hypot(0.5 * (uu - vv), uv);
 
-    // The eigenvector (c, s) of the smallest eigenvalue.
+    // (c, s) is the eigenvector of the smallest eigenvalue.
     const double angle = 0.5 * std::atan2(-uv, -0.5 * (uu - vv));
     const double c = std::cos(angle);
     const double s = std::sin(angle);

@@ -7,22 +7,22 @@
 
 namespace vxConstitutive {
 
-/// C10, C01 and C11 of Mooney-Rivlin.
+/// The constants C10, C01 and C11 of Mooney-Rivlin.
 using MooneyConstants = std::array<double, 3>;
 
-/// The smallest stiffness of a state by that of a Neo-Hookean material with C10 = 1, and its derivatives by the
-/// constants. It is concave in the constants; the state is stable if it is greater than 0.
+/// The smallest stiffness of a state by the stiffness of a Neo-Hookean material with C10 = 1, and its derivatives by the
+/// constants. Concave in the constants. The state is stable if it is greater than 0.
 struct StateMargin
 {
     double value = 0.0;
     MooneyConstants slope{};
 };
 
-/// The constants of Mooney-Rivlin with which some states are stable: a convex region.
+/// The convex region of the constants of Mooney-Rivlin with which a set of states is stable.
 class StabilityRegion
 {
 public:
-    /// States spread over uniaxial, equibiaxial and planar tests at stretches of `range`, and the state of rest.
+    /// The states are spread over uniaxial, equibiaxial and planar tests at stretches of `range`, with the unloaded state.
     explicit StabilityRegion(Range range);
 
     std::size_t size() const { return m_states.size(); }
@@ -30,7 +30,7 @@ public:
     double smallestMargin(const MooneyConstants& constants) const;
 
 private:
-    /// The stiffness of C01 = 1 or C11 = 1 on the changes of shape, in a basis in which that of C10 = 1 is the unit
+    /// The stiffness of C01 = 1 or C11 = 1 for changes of shape, in a basis in which the stiffness of C10 = 1 is the unit
     /// matrix.
     struct Matrix
     {

@@ -1,7 +1,6 @@
 #include "vxConstitutive/response/FrictionModel.h"
 
 #include "CurveBuilder.h"
-#include "TranslatedText.h"
 
 #include <cmath>
 #include <limits>
@@ -12,7 +11,7 @@ namespace {
 
 constexpr double pi = 3.14159265358979323846;
 
-/// A line q = slope p + cohesive c.
+/// The line q = slope p + cohesive c.
 struct Meridian
 {
     double slope;
@@ -113,11 +112,9 @@ Curve FrictionModel::curve(const CurveRequest& request) const
 
 std::vector<Constant> FrictionModel::constants() const
 {
-    std::vector<Constant> list{{QT_TRANSLATE_NOOP("vxConstitutive", "friction angle"), "phi", "degree",
-                                m_constants.frictionAngle, Origin::Given}};
+    std::vector<Constant> list{{"friction angle", "phi", "degree", m_constants.frictionAngle, Origin::Given}};
     if (m_constants.hardeningModulus)
-        list.push_back({QT_TRANSLATE_NOOP("vxConstitutive", "hardening modulus"), "H", "Pa",
-                        *m_constants.hardeningModulus, Origin::Given});
+        list.push_back({"hardening modulus", "H", "Pa", *m_constants.hardeningModulus, Origin::Given});
     return list;
 }
 

@@ -10,7 +10,7 @@ namespace vxConstitutive {
 
 class CurveBuilder;
 
-/// What the catalogue has of a material whose yield stress rises with the pressure.
+/// The constants in the catalogue for a material whose yield stress rises with the pressure.
 struct FrictionConstants
 {
     ModelKind kind = ModelKind::DruckerPrager; ///< DruckerPrager or MohrCoulomb
@@ -22,20 +22,19 @@ struct FrictionConstants
 /// Soil, rock and concrete: the yield surface in the meridian plane, Mises stress q against pressure p (Pa, positive in
 /// compression), with the friction angle f and the cohesion c.
 ///
-/// Mohr-Coulomb has six sides; two meridians bound it:
+/// Mohr-Coulomb has six sides between two meridians:
 ///
 ///  - triaxial compression: q = (6 p sin f + 6 c cos f) / (3 - sin f)
 ///  - triaxial extension:   q = (6 p sin f + 6 c cos f) / (3 + sin f)
 ///
-/// Drucker-Prager is a cone. Which one belongs to a friction angle is a matter of choice:
+/// Drucker-Prager is a cone. There are three usual choices of the cone for a friction angle:
 ///
 ///  - outer: through the compression meridian above
 ///  - inner: through the extension meridian above
 ///  - plane strain: q = sqrt(3) (3 p tan f + 3 c) / sqrt(9 + 12 tan^2 f), if plastic flow is associated
 ///
-/// The catalogue has no cohesion, no dilation angle and no choice of the cone. A cohesion can be given with the request;
-/// without one, q and p are multiples of c. The apex is at p = -c cot f; there is no yield surface at lower pressures,
-/// where the curve is NaN.
+/// The catalogue has no cohesion, no dilation angle and no choice of the cone. The request may have a cohesion; otherwise q and
+/// p are multiples of c. The apex is at p = -c cot f. There is no yield surface at lower pressures: the curve is NaN there.
 ///
 /// Sources: C. A. Coulomb, "Essai sur une application des regles de maximis et minimis a quelques problemes de statique",
 /// Memoires de l'Academie Royale 7 (1776); D. C. Drucker, W. Prager, "Soil mechanics and plastic analysis or limit

@@ -1,7 +1,6 @@
 #include "vxConstitutive/response/HyperelasticModel.h"
 
 #include "CurveBuilder.h"
-#include "TranslatedText.h"
 
 #include "response/TestResponse.h"
 
@@ -15,11 +14,11 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// Below this ratio of bulk to shear modulus an incompressible curve is no picture of the material: Poisson's ratio is
-/// less than 0.475.
+/// Below this ratio of bulk to shear modulus, an incompressible curve misrepresents the material: Poisson's ratio is less than
+/// 0.475.
 constexpr double nearlyIncompressible = 20.0;
 
-/// Above it the two curves are not compared.
+/// Above this ratio, the incompressible and the compressible curve are not compared.
 constexpr double practicallyIncompressible = 100.0;
 
 StrainEnergy energyOf(const HyperelasticConstants& constants, ChainStatistics chains)
@@ -72,7 +71,7 @@ void addRow(CurveBuilder& builder, Mode mode, double abscissa, const TestPoint& 
     builder.row({abscissa, point.nominalStress, point.trueStress, point.slope, fifth, point.volumeRatio});
 }
 
-/// How far apart a curve without change of volume and one with it are.
+/// Notes the largest factor between the incompressible curve and the compressible one.
 void compareWithCompressible(CurveBuilder& builder, const TestResponse& compressible, Mode mode)
 {
     double largest = 1.0;
@@ -175,7 +174,7 @@ void HyperelasticModel::noteChains(CurveBuilder& builder, const TestResponse& re
     if (kind() != ModelKind::ArrudaBoyce || mode == Mode::Volumetric || !range || !(m_constants.limitingStretch > 1.0))
         return;
 
-    // The chains are stretched most at one end of the range.
+    // The stretch of the chains is largest at one end of the range.
     const double low = m_energy.partOfLimit(response.firstInvariant(mode, range->from));
     const double high = m_energy.partOfLimit(response.firstInvariant(mode, range->to));
     const double part = std::max(low, high);
@@ -212,7 +211,7 @@ double HyperelasticModel::lockingStretch(Mode mode) const
     if (mode == Mode::SimpleShear)
         return std::sqrt(limit - 3.0);
 
-    // The first invariant rises with the stretch, and is at least its square.
+    // The first invariant rises with the stretch and is not less than the square of the stretch.
     double low = 0.0;
     double high = 0.5 * std::log(limit);
     for (int step = 0; step < 60; ++step) {
@@ -231,17 +230,17 @@ std::vector<Constant> HyperelasticModel::constants() const
         list.push_back({name, symbol, unit, value, Origin::Given});
     };
     if (kind() == ModelKind::ArrudaBoyce) {
-        given(QT_TRANSLATE_NOOP("vxConstitutive", "factor of the series"), "mu", "Pa", m_constants.mu);
-        given(QT_TRANSLATE_NOOP("vxConstitutive", "limiting stretch"), "lm", "1", m_constants.limitingStretch);
+        given("factor of the series", "mu", "Pa", m_constants.mu);
+        given("limiting stretch", "lm", "1", m_constants.limitingStretch);
     } else {
-        given(QT_TRANSLATE_NOOP("vxConstitutive", "first constant"), "C10", "Pa", m_constants.c10);
+        given("first constant", "C10", "Pa", m_constants.c10);
     }
     if (kind() == ModelKind::MooneyRivlin) {
-        given(QT_TRANSLATE_NOOP("vxConstitutive", "second constant"), "C01", "Pa", m_constants.c01);
-        given(QT_TRANSLATE_NOOP("vxConstitutive", "mixed constant"), "C11", "Pa", m_constants.c11);
+        given("second constant", "C01", "Pa", m_constants.c01);
+        given("mixed constant", "C11", "Pa", m_constants.c11);
     }
     if (!m_volumetric.isIncompressible())
-        given(QT_TRANSLATE_NOOP("vxConstitutive", "compressibility"), "D1", "1/Pa", m_constants.d1);
+        given("compressibility", "D1", "1/Pa", m_constants.d1);
 
     const double shear = m_energy.initialShearModulus();
     const double bulk = m_volumetric.initialBulkModulus();
@@ -249,11 +248,11 @@ std::vector<Constant> HyperelasticModel::constants() const
     const auto derived = [&](const char* name, const char* symbol, const char* unit, double value) {
         list.push_back({name, symbol, unit, value, Origin::Derived});
     };
-    derived(QT_TRANSLATE_NOOP("vxConstitutive", "initial shear modulus"), "mu0", "Pa", shear);
-    derived(QT_TRANSLATE_NOOP("vxConstitutive", "initial Young's modulus"), "E0", "Pa", 2.0 * shear * (1.0 + poisson));
-    derived(QT_TRANSLATE_NOOP("vxConstitutive", "initial Poisson's ratio"), "nu0", "1", poisson);
+    derived("initial shear modulus", "mu0", "Pa", shear);
+    derived("initial Young's modulus", "E0", "Pa", 2.0 * shear * (1.0 + poisson));
+    derived("initial Poisson's ratio", "nu0", "1", poisson);
     if (!m_volumetric.isIncompressible())
-        derived(QT_TRANSLATE_NOOP("vxConstitutive", "initial bulk modulus"), "K0", "Pa", bulk);
+        derived("initial bulk modulus", "K0", "Pa", bulk);
     return list;
 }
 

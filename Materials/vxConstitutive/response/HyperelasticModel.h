@@ -12,7 +12,7 @@ namespace vxConstitutive {
 class CurveBuilder;
 class TestResponse;
 
-/// The constants of a hyperelastic model. Those that are not the model's are ignored.
+/// The constants of a hyperelastic model. Constants of other kinds are ignored.
 struct HyperelasticConstants
 {
     ModelKind kind = ModelKind::NeoHooke; ///< NeoHooke, MooneyRivlin or ArrudaBoyce
@@ -27,8 +27,8 @@ struct HyperelasticConstants
 /// Rubber: Neo-Hookean, Mooney-Rivlin and Arruda-Boyce, by the energies of StrainEnergy.h.
 ///
 /// With l the stretch of the test, s_i = dW/d(ln l_i) and U the volumetric energy, the true stresses are
-/// sigma_i = (s_i + J dU/dJ)/J, and the direction that is free of stress takes the stretch that makes sigma_3 = 0.
-/// Hence sigma_1 = (s_1 - s_3)/J and the nominal stress P = J sigma_1/l in each of these modes:
+/// sigma_i = (s_i + J dU/dJ)/J. The stretch of a direction without stress follows from sigma_3 = 0. Hence
+/// sigma_1 = (s_1 - s_3)/J, and the nominal stress is P = J sigma_1/l in each of these modes:
 ///
 ///  - uniaxial: l_2 = l_3 free. Incompressible: P = 2 (l - l^-2) (W1 + W2/l)
 ///  - equibiaxial: l_1 = l_2 = l, l_3 free. Incompressible: P = 2 (l - l^-5) (W1 + W2 l^2)
@@ -36,12 +36,12 @@ struct HyperelasticConstants
 ///  - simple shear by the amount g: sigma_12 = P_12 = 2 (W1 + W2) g, sigma_11 - sigma_22 = g sigma_12; J = 1
 ///  - volumetric: l_1 = l_2 = l_3 = l: sigma = dU/dJ, P = l^2 sigma
 ///
-/// Wk is dW/dIk at the state. Stresses in Pa, positive in tension. The modes need stretches greater than 0; a curve is
-/// exact to about 12 digits, its slope included, which is no difference quotient.
+/// Wk is dW/dIk at the state. Stresses are in Pa, positive in tension. Stretches must be greater than 0. Stresses and slopes are
+/// exact to about 12 digits; the slope is a derivative, not a difference quotient.
 ///
-/// A state is stable by Drucker's criterion if each small change of the principal stretches does work:
-/// sum of d(tau_i) d(ln l_i) > 0, tau the Kirchhoff stress. For an isotropic energy that is so if H_ij = ds_i/d(ln l_j)
-/// is positive on the changes of shape and, with D1, d(J dU/dJ)/d(ln J) > 0.
+/// A state is stable by Drucker's criterion if every small change of the principal stretches does work:
+/// sum of d(tau_i) d(ln l_i) > 0, where tau is the Kirchhoff stress. For an isotropic energy, this is the case if
+/// H_ij = ds_i/d(ln l_j) is positive definite for changes of shape and, with D1, d(J dU/dJ)/d(ln J) > 0.
 ///
 /// Sources: R. W. Ogden, "Non-linear elastic deformations", Ellis Horwood, 1984; D. C. Drucker, "A definition of stable
 /// inelastic material", Journal of Applied Mechanics 26 (1959), 101-106.
@@ -55,11 +55,11 @@ public:
     Curve curve(const CurveRequest& request) const override;
     std::vector<Constant> constants() const override;
 
-    /// Where Drucker's criterion fails between two abscissas of a mode.
+    /// Returns the ranges between two abscissas of a mode in which Drucker's criterion is violated.
     StabilityReport stability(Mode mode, Range range, Compressibility compressibility = Compressibility::AsGiven) const;
 
-    /// The stretch (amount of shear) above the state of rest at which the chains reach their limit, the volume
-    /// unchanged; infinite for models without a limit and in volumetric tests.
+    /// Returns the stretch (amount of shear) above the unloaded state at which the chains reach their limit at constant volume;
+    /// infinity for models without a limit and in volumetric tests.
     double lockingStretch(Mode mode) const;
 
 private:

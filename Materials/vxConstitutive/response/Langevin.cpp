@@ -8,7 +8,7 @@ namespace vxConstitutive {
 
 namespace {
 
-/// L and its derivative by their series, for arguments where coth(b) - 1/b loses digits.
+/// Returns L and its derivative by their series, for small arguments, for which coth(b) - 1/b loses digits.
 ValueAndSlope langevinNearZero(double b)
 {
     constexpr std::array<double, 6> coefficients{1.0 / 3.0,     -1.0 / 45.0,   2.0 / 945.0,
@@ -41,7 +41,7 @@ ValueAndSlope inverseLangevin(double x)
     if (!(std::fabs(x) < 1.0))
         return {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::quiet_NaN()};
     const double a = std::fabs(x);
-    // A rational approximation that is good to 1 %, from which Newton's method needs three steps.
+    // From this rational approximation, whose error is 1 %, Newton's method needs three steps.
     double b = a * (3.0 - 2.6 * a + 0.7 * a * a) / ((1.0 - a) * (1.0 + 0.1 * a));
     for (int step = 0; step < 6; ++step) {
         const ValueAndSlope l = langevin(b);

@@ -11,10 +11,10 @@ struct ValueAndSlope
     double slope = 0.0;
 };
 
-/// The inverse of the Langevin function L(b) = coth(b) - 1/b, to the precision of a double, and its derivative.
+/// Returns the inverse of the Langevin function L(b) = coth(b) - 1/b to the precision of a double, and its derivative.
 ///
-/// It gives the force on a freely jointed chain (in kT per link length) whose ends are at the part `x` of its full
-/// length from each other. Valid for -1 < x < 1; NaN elsewhere.
+/// This is the force on a freely jointed chain (in kT per length of a link) if the distance of its ends is the part `x` of its
+/// full length. Valid for -1 < x < 1; NaN elsewhere.
 ///
 /// Source: W. Kuhn, F. Gruen, "Beziehungen zwischen elastischen Konstanten und Dehnungsdoppelbrechung hochelastischer
 /// Stoffe", Kolloid-Zeitschrift 101 (1942), 248-271.

@@ -1,7 +1,6 @@
 #include "vxConstitutive/response/LinearElasticModel.h"
 
 #include "CurveBuilder.h"
-#include "TranslatedText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +9,7 @@ namespace vxConstitutive {
 
 namespace {
 
-/// The strain up to which Hooke's law is meant.
+/// The largest strain for which Hooke's law is valid.
 constexpr double smallStrain = 0.05;
 
 } // namespace
@@ -84,12 +83,10 @@ Curve LinearElasticModel::curve(const CurveRequest& request) const
 std::vector<Constant> LinearElasticModel::constants() const
 {
     return {
-        {QT_TRANSLATE_NOOP("vxConstitutive", "Young's modulus"), "E", "Pa", m_youngsModulus, Origin::Given},
-        {QT_TRANSLATE_NOOP("vxConstitutive", "Poisson's ratio"), "nu", "1", m_poissonsRatio, Origin::Given},
-        {QT_TRANSLATE_NOOP("vxConstitutive", "shear modulus"), "G", "Pa", stiffness(Mode::SimpleShear, m_poissonsRatio),
-         Origin::Derived},
-        {QT_TRANSLATE_NOOP("vxConstitutive", "bulk modulus"), "K", "Pa",
-         stiffness(Mode::Volumetric, m_poissonsRatio) / 3.0, Origin::Derived},
+        {"Young's modulus", "E", "Pa", m_youngsModulus, Origin::Given},
+        {"Poisson's ratio", "nu", "1", m_poissonsRatio, Origin::Given},
+        {"shear modulus", "G", "Pa", stiffness(Mode::SimpleShear, m_poissonsRatio), Origin::Derived},
+        {"bulk modulus", "K", "Pa", stiffness(Mode::Volumetric, m_poissonsRatio) / 3.0, Origin::Derived},
     };
 }
 

@@ -15,8 +15,8 @@ namespace vxConstitutive {
 ///  - simple shear: tau = E/(2 (1 + nu)) g, g the amount of shear
 ///  - volumetric:   sigma = E/(1 - 2 nu) e
 ///
-/// E in Pa, greater than 0; -1 < nu < 0.5. Stresses in Pa. At small strains the nominal and the true stress are one;
-/// beyond 5 % a curve says that the law is no longer meant. Drawn incompressible, nu is 0.5.
+/// E > 0 in Pa; -1 < nu < 0.5. Stresses are in Pa. At small strains, nominal and true stress are equal. A curve beyond 5 % has a
+/// finding that the law is not valid there. An incompressible curve has nu = 0.5.
 ///
 /// Source: S. Timoshenko, J. N. Goodier, "Theory of Elasticity", McGraw-Hill, 1951, chapter 1.
 class VXCONSTITUTIVE_EXPORT LinearElasticModel final : public Model

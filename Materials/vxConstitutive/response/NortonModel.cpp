@@ -1,7 +1,6 @@
 #include "vxConstitutive/response/NortonModel.h"
 
 #include "CurveBuilder.h"
-#include "TranslatedText.h"
 
 #include <cmath>
 
@@ -9,10 +8,10 @@ namespace vxConstitutive {
 
 namespace {
 
-/// CalculiX takes a smaller A for this one.
+/// CalculiX replaces a smaller A by this value.
 constexpr double smallestOfSolver = 1e-20;
 
-/// a x^n with the sign of x, by way of logarithms: a and x^n alone can leave the range of a double.
+/// Returns a |x|^n with the sign of x. Uses logarithms, since a and x^n alone may be outside the range of a double.
 double signedPower(double a, double x, double n)
 {
     if (x == 0.0 || a == 0.0)
@@ -27,7 +26,7 @@ NortonModel::NortonModel(double a, double stressExponent, double timeExponent)
 {
     if (!(a > 0.0))
         note(makeFinding(FindingId::ConstantNotPositive,
-                         {std::string(modelRecord(kind()).name), std::string("Creep Modulus A"), a}));
+                         {std::string(modelRecord(kind()).name), std::string("creep constant"), a}));
     else if (a < smallestOfSolver)
         note(makeFinding(FindingId::CreepConstantSmall, {a}));
     if (!(stressExponent > 0.0))
@@ -74,7 +73,7 @@ Curve NortonModel::strains(const CurveRequest& request) const
     for (std::size_t i = 0; full && i < request.stresses.size(); ++i)
         builder.add(Quantity::Slope, "1/s", request.stresses[i]);
     for (const double time : request.abscissas) {
-        // The strain grows without bound as soon as the load is on if m is -1 or less.
+        // If m <= -1, the strain is infinite immediately after loading.
         if (!builder.checkDomain(time, time >= 0.0 && std::isfinite(time) && m_timeExponent > -1.0))
             continue;
         std::vector<double> row{time};
@@ -106,9 +105,9 @@ Curve NortonModel::rates(const CurveRequest& request) const
 std::vector<Constant> NortonModel::constants() const
 {
     return {
-        {QT_TRANSLATE_NOOP("vxConstitutive", "creep constant"), "A", "Pa^-n s^-(m+1)", m_a, Origin::Given},
-        {QT_TRANSLATE_NOOP("vxConstitutive", "stress exponent"), "n", "1", m_stressExponent, Origin::Given},
-        {QT_TRANSLATE_NOOP("vxConstitutive", "time exponent"), "m", "1", m_timeExponent, Origin::Given},
+        {"creep constant", "A", "Pa^-n s^-(m+1)", m_a, Origin::Given},
+        {"stress exponent", "n", "1", m_stressExponent, Origin::Given},
+        {"time exponent", "m", "1", m_timeExponent, Origin::Given},
     };
 }
 

@@ -1,7 +1,6 @@
 #include "vxConstitutive/response/PlasticModel.h"
 
 #include "CurveBuilder.h"
-#include "TranslatedText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,12 +11,12 @@ namespace vxConstitutive {
 
 namespace {
 
-/// A hardening modulus above this part of Young's modulus makes nobody's metal.
+/// No metal has a hardening modulus above this part of Young's modulus.
 constexpr double stiffPart = 0.1;
 
 } // namespace
 
-/// A bar in tension, by magnitude.
+/// A state of a bar in tension; magnitudes.
 struct PlasticModel::State
 {
     double stress = 0.0;
@@ -134,7 +133,7 @@ PlasticModel::State PlasticModel::stateAt(double logStrain) const
     if (trial <= m_points.front().stress)
         return {trial, 0.0, modulus};
 
-    // In each segment the elastic and the plastic part of the strain rise linearly with the stress.
+    // In each segment, the elastic and the plastic strain rise linearly with the stress.
     std::size_t segment = 0;
     while (segment + 1 < m_points.size() &&
            m_points[segment + 1].stress / modulus + m_points[segment + 1].plasticStrain < logStrain)
@@ -155,7 +154,7 @@ std::optional<PlasticModel::Necking> PlasticModel::necking() const
     for (std::size_t i = 0; i < m_points.size(); ++i) {
         const double modulus = modulusOf(i);
         const HardeningPoint& from = m_points[i];
-        // The stress at which the force is largest, if this segment went on for ever.
+        // The stress at which the force would be largest if this segment had no end.
         const double critical = modulus > 0.0 ? 1.0 / (1.0 / modulus + lateral) : 0.0;
         const double stress = std::max(critical, from.stress);
         const bool inside = i + 1 == m_points.size() || stress < m_points[i + 1].stress || modulus <= 0.0;
@@ -175,7 +174,7 @@ void PlasticModel::addTensileRow(CurveBuilder& builder, double strain) const
     const double sign = strain < 0.0 ? -1.0 : 1.0;
     const State state = stateAt(std::fabs(std::log1p(strain)));
     const double area = std::exp(-sign * (state.plasticStrain + lateral * state.stress));
-    // How fast the logarithm of the cross section shrinks.
+    // The rate at which the logarithm of the cross section decreases.
     const double plasticSlope = 1.0 - state.stressSlope / m_elastic->youngsModulus;
     const double shrinkage = plasticSlope + lateral * state.stressSlope;
     const double slope = area * (state.stressSlope - sign * state.stress * shrinkage) / (1.0 + strain);
@@ -230,19 +229,15 @@ Curve PlasticModel::yieldCurve(const CurveRequest& request) const
 
 std::vector<Constant> PlasticModel::constants() const
 {
-    std::vector<Constant> list{{QT_TRANSLATE_NOOP("vxConstitutive", "initial yield stress"), "sigma0", "Pa",
-                                m_points.front().stress, Origin::Given}};
+    std::vector<Constant> list{{"initial yield stress", "sigma0", "Pa", m_points.front().stress, Origin::Given}};
     if (m_bilinear)
-        list.push_back(
-            {QT_TRANSLATE_NOOP("vxConstitutive", "hardening modulus"), "H", "Pa", m_lastModulus, Origin::Given});
+        list.push_back({"hardening modulus", "H", "Pa", m_lastModulus, Origin::Given});
     if (m_bilinear && m_elastic)
-        list.push_back({QT_TRANSLATE_NOOP("vxConstitutive", "tangent modulus"), "Et", "Pa",
-                        m_lastModulus / (1.0 + m_lastModulus / m_elastic->youngsModulus), Origin::Derived});
-    if (const auto neck = necking()) {
-        list.push_back({QT_TRANSLATE_NOOP("vxConstitutive", "engineering strain at necking"), "Ag", "1",
-                        neck->engineeringStrain, Origin::Derived});
-        list.push_back({QT_TRANSLATE_NOOP("vxConstitutive", "tensile strength"), "Rm", "Pa", neck->engineeringStress,
+        list.push_back({"tangent modulus", "Et", "Pa", m_lastModulus / (1.0 + m_lastModulus / m_elastic->youngsModulus),
                         Origin::Derived});
+    if (const auto neck = necking()) {
+        list.push_back({"engineering strain at necking", "Ag", "1", neck->engineeringStrain, Origin::Derived});
+        list.push_back({"tensile strength", "Rm", "Pa", neck->engineeringStress, Origin::Derived});
     }
     return list;
 }

@@ -10,14 +10,14 @@ namespace vxConstitutive {
 
 class CurveBuilder;
 
-/// True stress against plastic strain, by straight lines between points.
+/// A point of true stress against plastic strain. There are straight lines between points.
 struct HardeningPoint
 {
     double plasticStrain = 0.0; ///< logarithmic, 1; the first point has 0
     double stress = 0.0;        ///< true stress, Pa
 };
 
-/// The elastic side of a plastic material.
+/// The elastic constants of a plastic material.
 struct ElasticConstants
 {
     double youngsModulus = 0.0; ///< Pa
@@ -26,18 +26,17 @@ struct ElasticConstants
 
 /// Mises plasticity with isotropic hardening, at one temperature and independent of the rate.
 ///
-/// Bilinear: sigma = sigma_0 + H ep with the initial yield stress sigma_0 (Pa) and the hardening modulus H (Pa): the
-/// slope of true stress against plastic strain, not against total strain. Multilinear: straight lines between points,
-/// and a constant stress beyond the last one, as solvers continue it. ep is the logarithmic plastic strain, sigma the
-/// true stress.
+/// Bilinear: sigma = sigma_0 + H ep with the initial yield stress sigma_0 (Pa) and the hardening modulus H (Pa), which is the
+/// slope of true stress against plastic strain, not against total strain. Multilinear: straight lines between points, and a
+/// constant stress after the last point, as in solvers. ep is the logarithmic plastic strain, sigma the true stress.
 ///
-/// The tensile test at engineering strain e: ln(1 + e) = sigma/E + ep; the cross section shrinks by
-/// exp(-ep - 2 nu sigma/E), so that the engineering stress is s = sigma exp(-ep - 2 nu sigma/E). It is no longer a
-/// property of the material once the bar necks, which happens when the force is largest (Considere):
+/// The tensile test at engineering strain e: ln(1 + e) = sigma/E + ep. The cross section shrinks by the factor
+/// exp(-ep - 2 nu sigma/E), so the engineering stress is s = sigma exp(-ep - 2 nu sigma/E). The curve is no property of the
+/// material after the bar necks, which happens at the largest force (Considere):
 ///
 ///     ds = 0:     H (1/sigma - 2 nu/E) = 1     or, with nu = 0.5 and E infinite, H = sigma
 ///
-/// From there on the curve is NaN. In compression (e < 0) the bar does not neck.
+/// After it, the curve is NaN. In compression (e < 0), the bar does not neck.
 ///
 /// The yield surface in the meridian plane is the Mises stress sigma_0 at every pressure.
 ///
@@ -50,7 +49,7 @@ public:
     /// Bilinear, up to any strain.
     PlasticModel(double initialYieldStress, double hardeningModulus, std::optional<ElasticConstants> elastic);
 
-    /// Multilinear. At least one point; those whose strain does not rise above the strain before are left out.
+    /// Multilinear. There must be at least one point. A point is left out unless its strain is above the strain before.
     PlasticModel(const std::vector<HardeningPoint>& points, std::optional<ElasticConstants> elastic);
     ~PlasticModel() override;
 
@@ -58,17 +57,17 @@ public:
     Curve curve(const CurveRequest& request) const override;
     std::vector<Constant> constants() const override;
 
-    /// The true stress at a plastic strain, Pa; below 0 that at 0.
+    /// Returns the true stress in Pa at a plastic strain; at a negative strain, the stress at 0.
     double stressAt(double plasticStrain) const;
 
-    /// The engineering strain and stress at which a bar necks; absent without elastic constants, and if it does not
-    /// neck in the range of a double.
+    /// The state in which a bar necks.
     struct Necking
     {
         double engineeringStrain = 0.0;
         double engineeringStress = 0.0;
         double trueStress = 0.0;
     };
+    /// Returns the state in which a bar necks; nothing without elastic constants, or if it does not neck in the range of a double.
     std::optional<Necking> necking() const;
 
 private:

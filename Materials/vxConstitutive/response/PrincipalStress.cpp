@@ -6,7 +6,7 @@ namespace vxConstitutive {
 
 namespace {
 
-/// An invariant I = sum of l_i^p for p = 2 or -2, with its derivatives by ln l_j on the changes of shape.
+/// The invariant I = sum of l_i^p for p = 2 or -2, and its derivatives by ln l_j for changes of shape.
 struct Invariant
 {
     double value = 0.0;

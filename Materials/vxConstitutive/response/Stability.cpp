@@ -9,7 +9,7 @@ namespace {
 
 using Margin = std::function<double(double)>;
 
-/// Where between `one` and `other`, which lie on different sides of it, the margin changes its sign.
+/// Returns the abscissa between `one` and `other` at which the margin changes its sign.
 double findEdge(const Margin& margin, double one, double other)
 {
     const bool stableAtOne = margin(one) > 0.0;
@@ -28,7 +28,7 @@ struct Sample
     double margin = 0.0;
 };
 
-/// The smallest margin between two samples that lie on either side of a minimum, by golden sections.
+/// Returns the sample with the smallest margin between two samples around a minimum. Uses golden sections.
 Sample findMinimum(const Margin& margin, double from, double to)
 {
     constexpr double golden = 0.61803398874989485;
@@ -52,7 +52,7 @@ Sample findMinimum(const Margin& margin, double from, double to)
     return low.margin < high.margin ? low : high;
 }
 
-/// Samples on the way from `rest` to `end`, with the minima between them where the margin dips below 0.
+/// Returns samples from `rest` to `end`, with the minima between them at which the margin is less than 0.
 std::vector<Sample> sampleWay(const Margin& margin, double rest, double end)
 {
     const std::vector<double> way = rest > 0.0 && end > 0.0 ? spacedByFactor(rest, end, stabilitySamples + 1)
@@ -77,7 +77,7 @@ std::vector<Sample> sampleWay(const Margin& margin, double rest, double end)
     return samples;
 }
 
-/// The unstable parts on the way from `rest` to `end`, in the order of the way.
+/// Returns the unstable ranges from `rest` to `end`, in this order.
 std::vector<Range> walk(const Margin& margin, double rest, double end)
 {
     std::vector<Range> parts;

@@ -9,22 +9,22 @@
 
 namespace vxConstitutive {
 
-/// Where along a test a model is unstable.
+/// The unstable ranges of a model in a test.
 struct StabilityReport
 {
-    std::vector<Range> unstable;      ///< inside the range that was looked at, in rising order
-    std::optional<double> firstBelow; ///< first unstable abscissa on the way down from the state of rest
-    std::optional<double> firstAbove; ///< first unstable abscissa on the way up from the state of rest
+    std::vector<Range> unstable;      ///< inside the searched range, in rising order
+    std::optional<double> firstBelow; ///< first unstable abscissa below the unloaded state
+    std::optional<double> firstAbove; ///< first unstable abscissa above the unloaded state
 
     bool isStable() const { return unstable.empty(); }
 };
 
-/// How fine the search for instabilities is.
+/// The number of samples in the search for instabilities.
 inline constexpr std::size_t stabilitySamples = 128;
 
-/// Searches `range` for abscissas where `margin` is not greater than 0, from the state of rest (stretch 1, shear 0)
-/// outwards, over 128 samples and the minima between them; the ends of what it finds are exact. Where `margin` is NaN the
-/// search ends.
+/// Returns the ranges inside `range` in which `margin` is not greater than 0. Searches away from the unloaded state `rest`
+/// (stretch 1, shear 0) with 128 samples and the minima between them. The ends of the ranges are exact. Stops if `margin` is
+/// NaN.
 VXCONSTITUTIVE_EXPORT StabilityReport findInstability(const std::function<double(double)>& margin, double rest,
                                                       Range range);
 

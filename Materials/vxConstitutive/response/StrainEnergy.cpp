@@ -35,7 +35,7 @@ EnergySlopes StrainEnergy::slopes(double i1, double i2) const
 ValueAndSlope StrainEnergy::fiveTermSlope(double invariantByLimit)
 {
     const double u = invariantByLimit;
-    // Each term is k times the coefficient of I1^k.
+    // The coefficient of I1^k in the energy, times k.
     constexpr double b1 = 1.0 / 2.0;
     constexpr double b2 = 2.0 / 20.0;
     constexpr double b3 = 3.0 * 11.0 / 1050.0;
@@ -78,7 +78,7 @@ double VolumetricEnergy::initialBulkModulus() const
 
 ValueAndSlope VolumetricEnergy::kirchhoffStress(double logVolumeRatio) const
 {
-    // In terms of expm1, since a stiff material changes its volume by less than the last digit of 1.
+    // expm1 keeps the digits of stiff materials, whose change of volume is less than the last digit of 1.
     const double ratio = std::exp(logVolumeRatio);
     if (m_form == Form::Logarithmic)
         return {std::expm1(2.0 * logVolumeRatio) / m_d1, 2.0 * ratio * ratio / m_d1};

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace vxConstitutive {
 
@@ -15,45 +16,65 @@ double product(const Triple& row, const Triple& direction)
     return row[0] * direction[0] + row[1] * direction[1] + row[2] * direction[2];
 }
 
-/// Finds the zero of a function that mostly rises, near 0. `function` returns value and slope.
-template <class Function>
-double findZero(const Function& function)
+/// An interval at whose ends a function has different signs.
+struct Bracket
 {
-    const ValueAndSlope atRest = function(0.0);
-    if (atRest.value == 0.0 || !std::isfinite(atRest.value))
-        return atRest.value == 0.0 ? 0.0 : notANumber;
+    double near = 0.0; ///< the sign is that at 0
+    double far = 0.0;
+    ValueAndSlope atFar;
+};
 
-    // Goes outwards, faster and faster, until the sign changes.
+/// Steps away from 0, further each time, until the function changes its sign. Returns nothing beyond 100.
+template <class Function>
+std::optional<Bracket> findBracket(const Function& function, const ValueAndSlope& atRest)
+{
     constexpr double farthest = 100.0;
     double factor = 2.0;
-    double near = 0.0;
-    double far = -atRest.value / std::fabs(atRest.slope);
-    if (!(std::fabs(far) < 1.0))
-        far = std::copysign(0.1, -atRest.value);
-    ValueAndSlope atFar = function(far);
-    while ((atFar.value > 0.0) == (atRest.value > 0.0)) {
-        near = far;
-        far *= factor;
+    Bracket bracket;
+    bracket.far = -atRest.value / std::fabs(atRest.slope);
+    if (!(std::fabs(bracket.far) < 1.0))
+        bracket.far = std::copysign(0.1, -atRest.value);
+    bracket.atFar = function(bracket.far);
+    while ((bracket.atFar.value > 0.0) == (atRest.value > 0.0)) {
+        bracket.near = bracket.far;
+        bracket.far *= factor;
         factor *= 2.0;
-        if (!(std::fabs(far) < farthest))
-            return notANumber;
-        atFar = function(far);
+        if (!(std::fabs(bracket.far) < farthest))
+            return std::nullopt;
+        bracket.atFar = function(bracket.far);
     }
+    return bracket;
+}
 
-    // Newton's method, kept between the two.
-    double at = far;
-    ValueAndSlope here = atFar;
+/// Returns the zero inside a bracket by Newton's method, with bisection where a step leaves the bracket.
+template <class Function>
+double findZeroInside(const Function& function, Bracket bracket)
+{
+    double at = bracket.far;
+    ValueAndSlope here = bracket.atFar;
+    const bool farIsPositive = here.value > 0.0;
     for (int step = 0; step < 100 && here.value != 0.0; ++step) {
-        ((here.value > 0.0) == (atRest.value > 0.0) ? near : far) = at;
+        ((here.value > 0.0) == farIsPositive ? bracket.far : bracket.near) = at;
         double next = at - here.value / here.slope;
-        if (!(next > std::min(near, far) && next < std::max(near, far)))
-            next = 0.5 * (near + far);
+        if (!(next > std::min(bracket.near, bracket.far) && next < std::max(bracket.near, bracket.far)))
+            next = 0.5 * (bracket.near + bracket.far);
         if (std::fabs(next - at) <= 1e-15 * std::fabs(at))
             break;
         at = next;
         here = function(at);
     }
     return at;
+}
+
+/// Returns the zero of a rising function that is next to 0, or NaN. `function` returns value and slope.
+template <class Function>
+double findZero(const Function& function)
+{
+    const ValueAndSlope atRest = function(0.0);
+    if (atRest.value == 0.0 || !std::isfinite(atRest.value))
+        return atRest.value == 0.0 ? 0.0 : notANumber;
+    const std::optional<Bracket> bracket = findBracket(function, atRest);
+    return bracket ? findZeroInside(function, *bracket) : notANumber;
 }
 
 } // namespace
@@ -75,7 +96,7 @@ TestPoint TestResponse::onPath(const TestPath& path, double stretch) const
     const Triple& h1 = state.stiffness[0];
     const Triple& h3 = state.stiffness[2];
 
-    // How the volume follows the stretch, since the third stress stays 0.
+    // The third stress stays 0, which gives the derivative of the volume by the stretch.
     double volumeSlope = 0.0;
     if (!m_volumetric.isIncompressible()) {
         const double stiffness = product(h3, path.free) + m_volumetric.kirchhoffStress(logVolume).slope;
@@ -151,7 +172,7 @@ double TestResponse::stabilityMargin(Mode mode, double abscissa) const
 {
     const State state = stateAt(mode, abscissa);
     const ShapeStiffness stiffness = onChangesOfShape(principalStress(m_energy, state.shape).stiffness);
-    // At extreme stretches the eigenvalues differ by more than a double resolves.
+    // At extreme stretches, the ratio of the eigenvalues exceeds the resolution of a double.
     constexpr double resolution = 1e-13;
     const double margin = stiffness.smallestEigenvalue() - resolution * stiffness.largestEigenvalue();
     if (m_volumetric.isIncompressible() || std::isnan(margin))

@@ -8,7 +8,7 @@
 
 namespace vxConstitutive {
 
-/// What a test measures at one abscissa. NaN where there is no state of equilibrium.
+/// The measured quantities of a test at one abscissa; NaN if there is no state of equilibrium.
 struct TestPoint
 {
     double nominalStress = 0.0;
@@ -19,19 +19,19 @@ struct TestPoint
     double volumeRatio = 1.0;
 };
 
-/// A hyperelastic energy in the tests of HyperelasticModel.h.
+/// The response of a hyperelastic energy in the tests of HyperelasticModel.h.
 class TestResponse
 {
 public:
-    /// `volumetric` plays no part if it is incompressible.
+    /// `volumetric` has no effect if it is incompressible.
     TestResponse(StrainEnergy energy, VolumetricEnergy volumetric) : m_energy(energy), m_volumetric(volumetric) {}
 
     TestPoint at(Mode mode, double abscissa) const;
 
-    /// Greater than 0 if the state is stable; Pa.
+    /// Returns a number in Pa that is greater than 0 if the state is stable.
     double stabilityMargin(Mode mode, double abscissa) const;
 
-    /// The first invariant of the shape at an abscissa.
+    /// Returns the first invariant of the shape at an abscissa.
     double firstInvariant(Mode mode, double abscissa) const;
 
 private:
@@ -46,7 +46,7 @@ private:
     TestPoint dilated(double stretch) const;
     State stateAt(Mode mode, double abscissa) const;
 
-    /// ln J at which the third direction is free of stress; NaN if there is none.
+    /// Returns ln J at which the third direction has no stress; NaN if there is none.
     double findLogVolumeRatio(const TestPath& path, double logStretch) const;
 
     StrainEnergy m_energy;

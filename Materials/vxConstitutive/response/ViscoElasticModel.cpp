@@ -1,7 +1,6 @@
 #include "vxConstitutive/response/ViscoElasticModel.h"
 
 #include "CurveBuilder.h"
-#include "TranslatedText.h"
 
 #include <cmath>
 #include <limits>
@@ -41,7 +40,7 @@ ViscoElasticModel::ViscoElasticModel(double ratio, double relaxationTime, std::o
     else if (!(ratio >= 0.0 && ratio < 1.0))
         note(makeFinding(FindingId::RelaxationRatioOutside, {ratio}));
     if (!(relaxationTime > 0.0))
-        note(makeFinding(FindingId::ConstantNotPositive, {name, std::string("Relaxation time"), relaxationTime}));
+        note(makeFinding(FindingId::ConstantNotPositive, {name, std::string("relaxation time"), relaxationTime}));
     if (shearModulus && !(*shearModulus > 0.0))
         note(makeFinding(FindingId::ConstantNotPositive, {name, std::string("shear modulus"), *shearModulus}));
     if (!shearModulus)
@@ -64,7 +63,7 @@ std::vector<double> ViscoElasticModel::row(Mode mode, double abscissa) const
         return {abscissa, modulus * (rest + relaxing), -modulus * relaxing / m_time};
     }
     if (mode == Mode::ShearCreep) {
-        // Written so that g = 1, which flows, keeps its digits: 1/rest (1 - exp(-rest x)) -> x.
+        // This form keeps the digits for g near 1: (1 - exp(-rest x))/rest tends to x.
         const double x = abscissa / m_time;
         const double flow = rest == 0.0 ? x : -std::expm1(-rest * x) / rest;
         return {abscissa, (1.0 + m_ratio * flow) / modulus, m_ratio * std::exp(-rest * x) / (m_time * modulus)};
@@ -112,14 +111,12 @@ Curve ViscoElasticModel::curve(const CurveRequest& request) const
 std::vector<Constant> ViscoElasticModel::constants() const
 {
     std::vector<Constant> list{
-        {QT_TRANSLATE_NOOP("vxConstitutive", "part that relaxes"), "g", "1", m_ratio, Origin::Given},
-        {QT_TRANSLATE_NOOP("vxConstitutive", "relaxation time"), "tau", "s", m_time, Origin::Given},
+        {"relaxing part", "g", "1", m_ratio, Origin::Given},
+        {"relaxation time", "tau", "s", m_time, Origin::Given},
     };
     if (m_shearModulus) {
-        list.push_back({QT_TRANSLATE_NOOP("vxConstitutive", "shear modulus at once"), "G0", "Pa", *m_shearModulus,
-                        Origin::Derived});
-        list.push_back({QT_TRANSLATE_NOOP("vxConstitutive", "shear modulus in the end"), "Ginf", "Pa",
-                        *m_shearModulus * (1.0 - m_ratio), Origin::Derived});
+        list.push_back({"instantaneous shear modulus", "G0", "Pa", *m_shearModulus, Origin::Derived});
+        list.push_back({"long-term shear modulus", "Ginf", "Pa", *m_shearModulus * (1.0 - m_ratio), Origin::Derived});
     }
     return list;
 }

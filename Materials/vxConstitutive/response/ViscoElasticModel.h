@@ -14,10 +14,10 @@ namespace vxConstitutive {
 ///  - creep at constant stress:      J(t) = 1/Ginf - (1/Ginf - 1/G0) exp(-t (1 - g)/tau),  Ginf = (1 - g) G0
 ///  - at the frequency f, w = 2 pi f: G' = G0 (1 - g + g w^2 tau^2/(1 + w^2 tau^2)),  G'' = G0 g w tau/(1 + w^2 tau^2)
 ///
-/// G0 = E/(2 (1 + nu)) is the modulus at once after loading, in Pa: Young's modulus and Poisson's ratio are those of
-/// fast loading. g is the part of it that relaxes, a number with 0 <= g < 1 (the catalogue's "shear relaxation modulus"
-/// taken as the ratio that keyword solvers expect; with g = 1 the material flows and J rises without bound). tau > 0 is
-/// the relaxation time in s. The change of volume stays elastic. Without G0 the curves are multiples of it.
+/// G0 = E/(2 (1 + nu)) is the instantaneous shear modulus in Pa: Young's modulus and Poisson's ratio are those of fast loading.
+/// g is the relaxing part of G0, with 0 <= g < 1. It is the "shear relaxation modulus" of the catalogue, read as the ratio that
+/// keyword solvers expect. (With g = 1, the material flows and J rises without bound.) tau > 0 is the relaxation time in s. The
+/// change of volume is elastic. If G0 is not known, the curves are multiples of it.
 ///
 /// Source: J. D. Ferry, "Viscoelastic Properties of Polymers", Wiley, 1980, chapters 1 and 3.
 class VXCONSTITUTIVE_EXPORT ViscoElasticModel final : public Model

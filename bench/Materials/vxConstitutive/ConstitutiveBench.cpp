@@ -1,6 +1,7 @@
 #include "Contest.h"
 
 #include "vxConstitutive/data/TestReading.h"
+#include "vxConstitutive/data/UnitFactor.h"
 #include "vxConstitutive/fit/HyperelasticFit.h"
 #include "vxConstitutive/fit/PlasticFit.h"
 #include "vxConstitutive/response/HyperelasticModel.h"
@@ -22,7 +23,7 @@ using vxbench::timed;
 
 namespace {
 
-/// A side that takes as long as the other one may: the ratio is the part of the budget that is used.
+/// Returns a side that takes the whole budget, so that the ratio is the used part of it.
 vxbench::Measured budget(std::chrono::nanoseconds time)
 {
     return [time] { return time; };
@@ -77,13 +78,10 @@ TestData readTest(const std::string& file, Mode mode)
 {
     std::ifstream stream(std::string(VX_RUBBER_DATA) + "/" + file);
     const std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
-    const UnitFactor units = [](std::string_view unit, Dimension) -> std::optional<double> {
-        return unit == "MPa" ? std::optional(1e6) : std::nullopt;
-    };
     TestReadRequest request;
     request.name = file;
     request.mode = mode;
-    return takeTest(readTestTable(text, units), request, units).data.value();
+    return takeTest(readTestTable(text, unitFactor), request, unitFactor).data.value();
 }
 
 HyperelasticFitRequest treloar(std::vector<HyperelasticForm> forms)
@@ -101,7 +99,8 @@ vxbench::Measured fit(const HyperelasticFitRequest& request)
     return [request] { return timed([&] { return fitHyperelastic(request); }); };
 }
 
-/// What the plain fits make small: the difference by the largest stress of the test, so that each test counts alike.
+/// A point of the plain fits. Its residual is the difference by the largest stress of the test, so that all tests have equal
+/// weight.
 struct PlainPoint
 {
     double neoHooke;  ///< stress of C10 = 1
@@ -179,7 +178,7 @@ private:
     PlainPoint m_point;
 };
 
-/// The library's Levenberg-Marquardt method as its tutorial uses it, from one start.
+/// Minimises by the Levenberg-Marquardt method of Ceres with its default options, from one start.
 template <class Cost>
 double solvePlainly(const std::vector<PlainPoint>& points, std::array<double, 2> start)
 {
@@ -206,11 +205,11 @@ void addFitContests()
     using namespace std::chrono_literals;
     addBudget("fit of all models to three tests", fit(treloar(hyperelasticForms())), 1s);
 
-    // From the same start; ours judges its result too, with standard errors, stability and agreement.
+    // Both from one start. Ours also computes standard errors, stability and agreement.
     const HyperelasticFitRequest mooney = treloar({HyperelasticForm::MooneyRivlin});
     vxbench::addContest(
         {"mooney-rivlin against a plain fit", fit(mooney), plainFit<PlainMooney>(mooney, {1.0, 1.0}), 0.0});
-    // From eight starts against one.
+    // Ours has eight starts, the plain fit has one.
     const HyperelasticFitRequest chains = treloar({HyperelasticForm::ArrudaBoyce});
     vxbench::addContest({"arruda-boyce, eight starts against a plain fit of one", fit(chains),
                          plainFit<PlainArrudaBoyce>(chains, {0.3, 6.0}), 0.0});

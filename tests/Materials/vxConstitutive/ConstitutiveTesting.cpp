@@ -3,13 +3,12 @@
 #include "DataFile.h"
 
 #include "vxConstitutive/data/TestReading.h"
+#include "vxConstitutive/data/UnitFactor.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <utility>
 
 using namespace vxConstitutive;
 
@@ -57,21 +56,7 @@ double derivative(const std::function<double(double)>& function, double at, doub
     return sum / step;
 }
 
-std::optional<double> unitFactor(std::string_view unit, Dimension dimension)
-{
-    static const std::map<std::pair<std::string, Dimension>, double> table{
-        {{"Pa", Dimension::Stress}, 1.0},       {{"kPa", Dimension::Stress}, 1e3},
-        {{"MPa", Dimension::Stress}, 1e6},      {{"GPa", Dimension::Stress}, 1e9},
-        {{"psi", Dimension::Stress}, 6894.757}, {{"N/mm\xC2\xB2", Dimension::Stress}, 1e6},
-        {{"%", Dimension::Number}, 0.01},       {{"mm/mm", Dimension::Number}, 1.0},
-        {{"s", Dimension::Time}, 1.0},          {{"h", Dimension::Time}, 3600.0},
-        {{"1/s", Dimension::Rate}, 1.0},        {{"1/h", Dimension::Rate}, 1.0 / 3600.0},
-    };
-    const auto found = table.find({std::string(unit), dimension});
-    return found == table.end() ? std::nullopt : std::optional(found->second);
-}
-
-TestData testOf(Mode mode, const std::vector<double>& abscissas, const std::function<double(double)>& ordinate)
+TestData makeTest(Mode mode, const std::vector<double>& abscissas, const std::function<double(double)>& ordinate)
 {
     TestData test;
     test.name = modeRecord(mode).key;

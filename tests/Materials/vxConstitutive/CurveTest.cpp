@@ -12,7 +12,7 @@ using namespace vxConstitutive;
 
 namespace {
 
-TEST(CurveVocabulary, RecordsStandAtTheirEnumerators)
+TEST(CurveVocabulary, RecordsAreInTheOrderOfTheirEnumeration)
 {
     for (std::size_t i = 0; i < modeRecords().size(); ++i)
         EXPECT_EQ(static_cast<std::size_t>(modeRecords()[i].mode), i);
@@ -75,31 +75,6 @@ TEST(CurveColumns, NamesTellParametersAndWhatValuesAreMultiplesOf)
     column.quantity = Quantity::CreepCompliance;
     column.relative = Relative::ToShearModulus;
     EXPECT_EQ(columnName(column), "creep compliance x shear modulus");
-}
-
-TEST(FindingText, ArgumentsTakeTheirPlacesWhateverTheySay)
-{
-    Finding finding = makeFinding(FindingId::UnstableFrom, {std::string("uniaxial 100%2"), 1.25});
-    EXPECT_EQ(
-        describe(finding),
-        "In uniaxial 100%2 the material is unstable from 1.25 on by Drucker's criterion; a solver may fail there.");
-    finding.arguments.pop_back();
-    EXPECT_NE(describe(finding).find("%2 on by"), std::string::npos);
-}
-
-TEST(FindingText, PercentSignsThatNameNoArgumentStay)
-{
-    const Finding finding = makeFinding(FindingId::SeriesFarFromLangevin, {4.0, 10.0, 0.8});
-    EXPECT_EQ(describe(finding),
-              "At 4 the chains are at 0.8 of their limiting stretch; the five-term series is 10 % below "
-              "the inverse Langevin function.");
-}
-
-TEST(FindingText, OnlyErrorsAreErrors)
-{
-    EXPECT_FALSE(hasError({}));
-    EXPECT_FALSE(hasError({makeFinding(FindingId::D1Zero, {std::string("m")})}));
-    EXPECT_TRUE(hasError({makeFinding(FindingId::D1Zero, {std::string("m")}), makeFinding(FindingId::NoNumbers)}));
 }
 
 } // namespace

@@ -16,7 +16,7 @@ using vxtest::valueAt;
 
 namespace {
 
-/// A material of numbers by their ids.
+/// Sets quantities of a material by their ids.
 vxMat::CMaterial& fill(vxMat::CMaterial& material, const std::vector<std::pair<std::int32_t, double>>& numbers)
 {
     for (const auto& [id, number] : numbers)
@@ -71,7 +71,7 @@ TEST(LibraryMaterial, CurvesHaveTheLibrarysNumbers)
     EXPECT_EQ(steel.find(ModelKind::NeoHooke), nullptr);
 }
 
-TEST(LibraryMaterial, ElastomersSayThatTheyAreNoRubber)
+TEST(LibraryMaterial, ElastomersFarFromIncompressibleAreReported)
 {
     // K/mu of 1, 20 and 15; neoprene has 257.
     EXPECT_TRUE(has(modelsOf(vxMat::Elastomer1()).findings, FindingId::FarFromIncompressible));
@@ -102,7 +102,7 @@ TEST(MaterialConstants, AMissingOneIsNamed)
     EXPECT_EQ(vxtest::firstArgument(models.findings, FindingId::ConstantMissing, 1), "Material Constant C01");
 }
 
-TEST(MaterialConstants, EverySwitchAloneNamesAllThatItNeeds)
+TEST(MaterialConstants, EverySwitchAloneReportsAllItsConstants)
 {
     const std::vector<std::pair<std::int32_t, std::size_t>> needs{
         {PropertyId::IsotropicElasticity, 2}, {PropertyId::NeoHooke, 1},        {PropertyId::MooneyRivlin, 2},
@@ -115,7 +115,7 @@ TEST(MaterialConstants, EverySwitchAloneNamesAllThatItNeeds)
     }
 }
 
-TEST(MaterialConstants, NeoHookeanTakesHalfOfMuWhereC10IsAbsent)
+TEST(MaterialConstants, NeoHookeanTakesHalfOfMuIfC10IsAbsent)
 {
     vxMat::CMaterial material;
     fill(material, {{PropertyId::NeoHooke, 1.0}, {PropertyId::InitialShearModulusMu, 2.0}});
@@ -128,7 +128,7 @@ TEST(MaterialConstants, NeoHookeanTakesHalfOfMuWhereC10IsAbsent)
     EXPECT_DOUBLE_EQ(valueAt(*both.models.at(0), Mode::Uniaxial, 2.0, Quantity::NominalStress), 10.5);
 }
 
-TEST(MaterialConstants, C11IsTakenWhereItIsPresent)
+TEST(MaterialConstants, C11IsTakenIfItIsPresent)
 {
     vxMat::CMaterial material;
     fill(material, {{PropertyId::MooneyRivlin, 1.0},
@@ -138,7 +138,7 @@ TEST(MaterialConstants, C11IsTakenWhereItIsPresent)
     EXPECT_NEAR(valueAt(*modelsOf(material).models.at(0), Mode::Uniaxial, 2.0, Quantity::NominalStress), 7.875, 1e-13);
 }
 
-TEST(MaterialConstants, D1OfZeroOrLessIsIncompressibleAndSaysSo)
+TEST(MaterialConstants, D1OfZeroOrLessIsIncompressibleAndReported)
 {
     vxMat::CMaterial material;
     fill(material, {{PropertyId::NeoHooke, 1.0},
@@ -161,7 +161,7 @@ TEST(MaterialConstants, OneThatIsNotFiniteLeavesTheModelOut)
     EXPECT_TRUE(has(models.findings, FindingId::ConstantNotFinite));
 }
 
-TEST(PlasticWords, HardeningTypesWithoutConstantsSaySo)
+TEST(PlasticWords, HardeningTypesWithoutConstantsAreReported)
 {
     for (const char* word : {"Swift", "Ramberg-Osgood", "KINEMATIC", "combined"}) {
         vxMat::CMaterial material;

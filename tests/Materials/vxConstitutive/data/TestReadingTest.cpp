@@ -2,6 +2,8 @@
 
 #include "ConstitutiveTesting.h"
 
+#include "vxConstitutive/data/UnitFactor.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,7 +19,7 @@ namespace {
 
 TestReading take(const std::string& text, const TestReadRequest& request)
 {
-    return takeTest(readTestTable(text, vxtest::unitFactor), request, vxtest::unitFactor);
+    return takeTest(readTestTable(text, unitFactor), request, unitFactor);
 }
 
 TestReading take(const std::string& text, Mode mode)
@@ -34,7 +36,7 @@ bool asks(const TestReading& reading, QuestionKind kind, Axis axis)
                        [=](const Question& question) { return question.kind == kind && question.axis == axis; });
 }
 
-TEST(MeasureVocabulary, RecordsStandAtTheirEnumerators)
+TEST(MeasureVocabulary, RecordsAreInTheOrderOfTheirEnumeration)
 {
     for (std::size_t i = 0; i < measureRecords().size(); ++i)
         EXPECT_EQ(static_cast<std::size_t>(measureRecords()[i].measure), i);
@@ -74,7 +76,7 @@ TEST(TestColumns, TrueValuesBecomeNominalOnes)
     EXPECT_NEAR(metal.data->ordinates[0], 4.0, 1e-14);
 }
 
-TEST(TestColumns, AHeaderThatDoesNotSayTrueIsTakenAsEngineeringAndSaysSo)
+TEST(TestColumns, AHeaderThatDoesNotSayTrueIsReadAsEngineeringWithAFinding)
 {
     const TestReading reading = take("strain [-],stress [Pa]\n0.5,8\n", Mode::Uniaxial);
     ASSERT_TRUE(reading.data.has_value());
@@ -99,7 +101,7 @@ TEST(TestColumns, OfTheOtherModes)
     EXPECT_NEAR(rates.data.value().ordinates[0], 1e-3, 1e-15);
 }
 
-TEST(TestQuestions, AUnitIsAskedForNeverGuessed)
+TEST(TestQuestions, AMissingUnitIsAQuestionAndNeverGuessed)
 {
     const std::string text = "strain,stress\n0.1,2\n";
     TestReading reading = take(text, Mode::Uniaxial);
@@ -116,7 +118,7 @@ TEST(TestQuestions, AUnitIsAskedForNeverGuessed)
     EXPECT_NEAR(reading.data->abscissas[0], 1.001, 1e-15);
 }
 
-TEST(TestQuestions, AnUnknownUnitOrOneOfAnotherDimensionIsAskedForAgain)
+TEST(TestQuestions, AnUnknownUnitOrOneOfAnotherDimensionIsAQuestion)
 {
     TestReading reading = take("stretch,stress [furlong]\n1.1,2\n", Mode::Uniaxial);
     EXPECT_TRUE(asks(reading, QuestionKind::WhichUnit, Axis::Ordinate));
@@ -145,7 +147,7 @@ TEST(TestQuestions, TwoColumnsWithoutAHeaderNeedTheirMeaning)
     EXPECT_NEAR(reading.data->ordinates[0], 2.0 / 1.1, 1e-15);
 }
 
-TEST(TestQuestions, AColumnThatNobodyNamesIsAskedFor)
+TEST(TestQuestions, AColumnWithoutAKnownNameIsAQuestion)
 {
     const TestReading reading = take("time [s];force [N];stress [Pa]\n1;2;3\n", Mode::Uniaxial);
     EXPECT_TRUE(asks(reading, QuestionKind::WhichColumn, Axis::Abscissa));
@@ -168,12 +170,12 @@ TEST(TestQuestions, ACreepCurveNeedsItsStress)
     EXPECT_EQ(take(text, request).data->parameter, 1e8);
 }
 
-TEST(TestQuestions, AModeThatIsNotMeasuredHasNoColumns)
+TEST(TestQuestions, AModeWithoutTestDataHasNoColumns)
 {
     EXPECT_FALSE(take("stretch,stress [Pa]\n1.1,2\n", Mode::Yield).data.has_value());
 }
 
-TEST(TestPoints, WhatIsUnusualIsCounted)
+TEST(TestPoints, UnusualPointsAreCounted)
 {
     const TestReading reading =
         take("stretch,nominal stress [Pa]\n1.2,3\n1.1,2\n1.1,2\n0.9,-2\n1.3,\n-1,5\n1.4,4\n", Mode::Uniaxial);
@@ -188,7 +190,7 @@ TEST(TestPoints, WhatIsUnusualIsCounted)
         EXPECT_TRUE(has(reading.findings, id)) << findingRecord(id).key;
 }
 
-TEST(TestPoints, ATestMayHaveNoneLeft)
+TEST(TestPoints, ATestMayHaveNoUsablePoint)
 {
     const TestReading reading = take("stretch,stress [Pa]\n-1,2\n0,3\n", Mode::Uniaxial);
     ASSERT_TRUE(reading.data.has_value());
@@ -199,8 +201,8 @@ TEST(TestPoints, ATestMayHaveNoneLeft)
 TEST(TestPoints, AFactorThatOverflowsLeavesPointsOut)
 {
     TestReadRequest request;
-    const TestTable table = readTestTable("stretch,stress [MPa]\n1.1,1e305\n1.2,2\n", vxtest::unitFactor);
-    EXPECT_EQ(takeTest(table, request, vxtest::unitFactor).leftOut, 1U);
+    const TestTable table = readTestTable("stretch,stress [MPa]\n1.1,1e305\n1.2,2\n", unitFactor);
+    EXPECT_EQ(takeTest(table, request, unitFactor).leftOut, 1U);
 }
 
 TEST(TestDomain, DependsOnTheMode)

@@ -3,6 +3,8 @@
 #include "CommaLocale.h"
 #include "ConstitutiveTesting.h"
 
+#include "vxConstitutive/data/UnitFactor.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -16,10 +18,10 @@ namespace {
 
 TestTable read(const std::string& text, const TableOptions& options = {})
 {
-    return readTestTable(text, vxtest::unitFactor, options);
+    return readTestTable(text, unitFactor, options);
 }
 
-/// Three rows of two numbers, whatever they are written like.
+/// Expects three rows of two numbers.
 void expectNumbers(const TestTable& table)
 {
     ASSERT_EQ(table.columns.size(), 2U);
@@ -27,7 +29,7 @@ void expectNumbers(const TestTable& table)
     EXPECT_EQ(table.columns[1].cells, (std::vector<double>{0.0, 10.75, -2e3}));
 }
 
-TEST(TableFormat, SeparatorAndDecimalMarkShowInTheNumbers)
+TEST(TableFormat, SeparatorAndDecimalMarkAreRecognisedByTheNumbers)
 {
     struct Case
     {
@@ -52,7 +54,7 @@ TEST(TableFormat, SeparatorAndDecimalMarkShowInTheNumbers)
     }
 }
 
-TEST(TableFormat, ACellInFrontOfTheFirstSeparatorIsAColumnWithoutNumbers)
+TEST(TableFormat, AnEmptyCellBeforeTheFirstSeparatorIsAColumnWithoutNumbers)
 {
     const TestTable table = read("| 0 | 0 |\n| 0.5 | 10.75 |\n");
     ASSERT_EQ(table.columns.size(), 3U);
@@ -69,14 +71,14 @@ TEST(TableFormat, LineEndsOfAllSystemsAreRead)
     }
 }
 
-TEST(TableFormat, TheLocalePlaysNoPart)
+TEST(TableFormat, TheLocaleHasNoEffect)
 {
     const vxtest::CommaLocale locale;
     expectNumbers(read("0,0\n0.5,10.75\n1.25,-2e3\n"));
     expectNumbers(read("0;0\n0,5;10,75\n1,25;-2e3\n"));
 }
 
-TEST(TableFormat, ACallerKnowsBetter)
+TEST(TableFormat, ACallerCanPrescribeTheFormat)
 {
     TableOptions options;
     options.separator = ' ';
@@ -96,7 +98,7 @@ TEST(TableFormat, CommasThatMayGroupThousandsAreDoubted)
     EXPECT_FALSE(has(read("0,001;0,002\n").findings, FindingId::CommaMayGroupThousands));
 }
 
-TEST(TableHeader, NamesAndUnitsAreTakenApart)
+TEST(TableHeader, NamesAndUnitsAreSeparated)
 {
     struct Case
     {
@@ -121,7 +123,7 @@ TEST(TableHeader, NamesAndUnitsAreTakenApart)
     }
 }
 
-TEST(TableHeader, UnitsMayStandBelowTheNames)
+TEST(TableHeader, UnitsMayBeBelowTheNames)
 {
     const TestTable brackets = read("Strain;Stress\n[%];[MPa]\n1;2\n");
     EXPECT_EQ(brackets.columns[0].name, "Strain");
@@ -140,7 +142,7 @@ TEST(TableHeader, BlanksSeparateNamesButNotTheirUnits)
     EXPECT_EQ(table.columns[1].unit, "MPa");
 }
 
-TEST(TableHeader, TextInFrontOfItIsSkipped)
+TEST(TableHeader, TextBeforeItIsLeftOut)
 {
     const TestTable table = read("Report of test 7\n\nDate;2024-05-01\nWidth;10\nStrain [%];Stress [MPa]\n1;2\n3;4\n");
     EXPECT_EQ(table.headerLine, 5U);
@@ -164,7 +166,7 @@ TEST(TableRows, TextBetweenThemIsLeftOutAndCounted)
     EXPECT_EQ(firstArgument(table.findings, FindingId::LinesSkipped, 1), "3");
 }
 
-TEST(TableRows, MissingAndBadCellsAreNoNumbers)
+TEST(TableRows, MissingAndInvalidCellsAreNotNumbers)
 {
     const TestTable table = read("1,2,3\n4,,6\n7,x,9\n10,nan,12\n13,inf,1e999\n14,15,16\n");
     ASSERT_EQ(table.rows(), 5U);
@@ -214,7 +216,7 @@ TEST(TableEncoding, MarksAndLatinLettersAreUnderstood)
               2.0);
 }
 
-TEST(TableRefusal, WhatIsNoTableIsAnError)
+TEST(TableRefusal, ATextWithoutATableIsAnError)
 {
     EXPECT_TRUE(has(read("").findings, FindingId::NoNumbers));
     EXPECT_TRUE(has(read("Dear all,\nplease find the data attached.\n").findings, FindingId::NoNumbers));

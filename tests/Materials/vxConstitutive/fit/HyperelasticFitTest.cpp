@@ -15,7 +15,7 @@ using namespace vxConstitutive;
 using vxMat::PropertyId;
 using vxtest::firstArgument;
 using vxtest::has;
-using vxtest::testOf;
+using vxtest::makeTest;
 using vxtest::valueAt;
 
 namespace {
@@ -34,12 +34,12 @@ HyperelasticConstants constantsOf(ModelKind kind, double a, double b, double c =
     return constants;
 }
 
-/// A test that a model would pass without error.
+/// Returns the test data of a model, without noise.
 TestData exactTest(const HyperelasticConstants& constants, Mode mode, const std::vector<double>& abscissas)
 {
     const HyperelasticModel model(constants);
     const Quantity quantity = mode == Mode::SimpleShear ? Quantity::NominalShearStress : Quantity::NominalStress;
-    return testOf(mode, abscissas, [&](double at) { return valueAt(model, mode, at, quantity); });
+    return makeTest(mode, abscissas, [&](double at) { return valueAt(model, mode, at, quantity); });
 }
 
 FitResult fitOne(HyperelasticForm form, std::vector<TestData> tests,
@@ -75,12 +75,12 @@ double changed(const FitResult& result, std::int32_t id)
 /// A Neo-Hookean fit in simple shear is a straight line through 0 with the slope 2 C10.
 TestData shearOf(std::vector<double> amounts, std::vector<double> stresses)
 {
-    TestData test = testOf(Mode::SimpleShear, amounts, [](double) { return 0.0; });
+    TestData test = makeTest(Mode::SimpleShear, amounts, [](double) { return 0.0; });
     test.ordinates = std::move(stresses);
     return test;
 }
 
-// --- What comes back ---
+// --- Results ---
 
 TEST(HyperelasticFit, FindsTheConstantsOfExactData)
 {
@@ -133,7 +133,7 @@ TEST(HyperelasticFit, StandardErrorsAreThoseOfLinearRegression)
     EXPECT_NEAR(result.residual, std::sqrt(0.1) / 5.0, 1e-12);
 }
 
-TEST(HyperelasticFit, TheErrorMeasureDecidesWhatCounts)
+TEST(HyperelasticFit, TheErrorMeasureSetsTheWeightOfSmallStrains)
 {
     // Two slopes that contradict each other: 2 at small and 1 at large amounts of shear.
     HyperelasticFitRequest request;
@@ -208,9 +208,9 @@ TEST(HyperelasticFit, TheModelDrawsTheFittedCurve)
                 1.0);
 }
 
-// --- What a material is given ---
+// --- Changes of materials ---
 
-TEST(HyperelasticFitChange, SetsTheModelAndRemovesWhatContradictsIt)
+TEST(HyperelasticFitChange, SetsTheModelAndRemovesContradictingConstants)
 {
     const auto mooney = constantsOf(ModelKind::MooneyRivlin, 3e5, 5e4);
     const FitResult result = fitOne(HyperelasticForm::MooneyRivlin, {exactTest(mooney, Mode::Uniaxial, stretches)});
@@ -222,7 +222,7 @@ TEST(HyperelasticFitChange, SetsTheModelAndRemovesWhatContradictsIt)
           PropertyId::MaterialConstantC11, PropertyId::LimitingNetworkStretch, PropertyId::InitialShearModulusMu})
         EXPECT_NE(std::find(result.change.remove.begin(), result.change.remove.end(), id), result.change.remove.end())
             << id;
-    // Without volumetric data nothing is known of D1, and a D1 that is there stays.
+    // Without volumetric data, the fit does not change D1.
     for (const PropertyValue& value : result.change.set)
         EXPECT_NE(value.propertyId, PropertyId::IncompressibilityParameterD1);
 }
@@ -233,14 +233,14 @@ TEST(HyperelasticFitVolume, D1ComesFromVolumetricTestsAlone)
     const TestData shape = exactTest(mooney, Mode::Uniaxial, stretches);
     const double d1 = 1e-9;
     const TestData quadratic =
-        testOf(Mode::Volumetric, {0.95, 0.97, 0.99}, [=](double ratio) { return 2.0 * (ratio - 1.0) / d1; });
+        makeTest(Mode::Volumetric, {0.95, 0.97, 0.99}, [=](double ratio) { return 2.0 * (ratio - 1.0) / d1; });
     const FitResult result = fitOne(HyperelasticForm::MooneyRivlin, {shape, quadratic});
     EXPECT_NEAR(fittedValue(result, PropertyId::IncompressibilityParameterD1), d1, 1e-15);
     EXPECT_NEAR(fittedValue(result, PropertyId::MaterialConstantC01), 5e4, 1e-3);
     EXPECT_NEAR(changed(result, PropertyId::IncompressibilityParameterD1), d1, 1e-15);
 
     const TestData logarithmic =
-        testOf(Mode::Volumetric, {0.9, 0.95}, [=](double ratio) { return (ratio - 1.0 / ratio) / d1; });
+        makeTest(Mode::Volumetric, {0.9, 0.95}, [=](double ratio) { return (ratio - 1.0 / ratio) / d1; });
     EXPECT_NEAR(fittedValue(fitOne(HyperelasticForm::ArrudaBoyce, {shape, logarithmic}),
                             PropertyId::IncompressibilityParameterD1),
                 d1, 1e-15);
@@ -249,15 +249,15 @@ TEST(HyperelasticFitVolume, D1ComesFromVolumetricTestsAlone)
 TEST(HyperelasticFitVolume, PressuresOfTheWrongSignAreReported)
 {
     const auto mooney = constantsOf(ModelKind::MooneyRivlin, 3e5, 5e4);
-    const TestData wrong = testOf(Mode::Volumetric, {0.95, 0.97}, [](double) { return 1e7; });
+    const TestData wrong = makeTest(Mode::Volumetric, {0.95, 0.97}, [](double) { return 1e7; });
     const FitResult result = fitOne(HyperelasticForm::NeoHooke, {exactTest(mooney, Mode::Uniaxial, stretches), wrong});
     EXPECT_TRUE(has(result.findings, FindingId::VolumetricIgnored));
     EXPECT_EQ(result.find(PropertyId::IncompressibilityParameterD1), nullptr);
 }
 
-// --- What data do not say ---
+// --- Undetermined constants ---
 
-TEST(HyperelasticFitDoubts, PlanarDataAloneKnowTheSumOfTheConstantsOnly)
+TEST(HyperelasticFitDoubts, PlanarDataAloneDetermineOnlyTheSumOfTheConstants)
 {
     const auto mooney = constantsOf(ModelKind::MooneyRivlin, 3e5, 5e4);
     for (const Mode mode : {Mode::Planar, Mode::SimpleShear}) {
@@ -278,7 +278,7 @@ TEST(HyperelasticFitDoubts, UndeterminedModelsAreRankedBehindDeterminedOnes)
     EXPECT_EQ(results.at(1).model, "Neo-Hookean");
 }
 
-TEST(HyperelasticFitDoubts, ALimitingStretchRunsToInfinityWhereNothingStiffens)
+TEST(HyperelasticFitDoubts, ALimitingStretchTendsToInfinityIfTheDataDoNotStiffen)
 {
     const auto neoHooke = constantsOf(ModelKind::NeoHooke, 3e5, 0.0);
     const FitResult result = fitOne(HyperelasticForm::ArrudaBoyce, {exactTest(neoHooke, Mode::Uniaxial, stretches)});
@@ -287,7 +287,7 @@ TEST(HyperelasticFitDoubts, ALimitingStretchRunsToInfinityWhereNothingStiffens)
     EXPECT_NEAR(fittedValue(result, PropertyId::InitialShearModulusMu), 6e5, 1.0);
 }
 
-TEST(HyperelasticFitDoubts, OnePointIsEnoughForOneConstantButTellsNoError)
+TEST(HyperelasticFitDoubts, OnePointIsEnoughForOneConstantButNotForItsError)
 {
     const FitResult result = fitOne(HyperelasticForm::NeoHooke, {shearOf({1.0}, {3.0})});
     EXPECT_NEAR(fittedValue(result, PropertyId::MaterialConstantC10), 1.5, 1e-12);
@@ -324,7 +324,7 @@ TEST(HyperelasticFitBounds, AreKeptAndReported)
     EXPECT_EQ(result.find(PropertyId::MaterialConstantC01)->determination, Determination::Fixed);
 }
 
-TEST(HyperelasticFitBounds, OfTheLimitingStretch)
+TEST(HyperelasticFitBounds, AlsoHoldForTheLimitingStretch)
 {
     HyperelasticFitRequest request;
     request.forms = {HyperelasticForm::ArrudaBoyce};
@@ -369,7 +369,7 @@ TEST_F(StableFit, BlindLeastSquaresOfUniaxialDataIsUnstableFromStretchOne)
     EXPECT_FALSE(result.residualWithoutStability.has_value());
 }
 
-TEST_F(StableFit, KeepsEveryModeStableOverTheDataAndTellsThePrice)
+TEST_F(StableFit, KeepsEveryModeStableOverTheDataAndShowsTheCost)
 {
     for (const HyperelasticForm form : {HyperelasticForm::MooneyRivlin, HyperelasticForm::MooneyRivlinC11}) {
         const FitResult free = fit(form, StabilityDemand::None);
@@ -385,7 +385,7 @@ TEST_F(StableFit, KeepsEveryModeStableOverTheDataAndTellsThePrice)
 
 TEST_F(StableFit, IsAsGoodAsAnyStableNeighbour)
 {
-    // A search of its own: no stable pair of constants on a fine grid has a smaller residual.
+    // An independent search: no stable pair of constants on a fine grid has a smaller residual.
     const FitResult result = fit(HyperelasticForm::MooneyRivlin, StabilityDemand::OverData);
     const TestData& test = m_request.tests[0];
     const double largest = *std::max_element(test.ordinates.begin(), test.ordinates.end());
@@ -407,7 +407,7 @@ TEST_F(StableFit, IsAsGoodAsAnyStableNeighbour)
     EXPECT_LE(result.residual, best * 1.001);
 }
 
-TEST_F(StableFit, ARangeCanBeAskedFor)
+TEST_F(StableFit, ARangeCanBeRequested)
 {
     m_request.stableRange = {0.9, 1.5};
     const FitResult narrow = fit(HyperelasticForm::MooneyRivlinC11, StabilityDemand::OverRange);
@@ -416,7 +416,7 @@ TEST_F(StableFit, ARangeCanBeAskedFor)
     EXPECT_LE(narrow.residual, wide.residual);
 }
 
-TEST_F(StableFit, ArrudaBoyceIsStableByItself)
+TEST_F(StableFit, ArrudaBoyceIsStableWithoutTheDemand)
 {
     const FitResult result = fit(HyperelasticForm::ArrudaBoyce, StabilityDemand::OverData);
     EXPECT_TRUE(isStable(result, {1.0, 7.61}));
@@ -425,7 +425,7 @@ TEST_F(StableFit, ArrudaBoyceIsStableByItself)
 
 TEST_F(StableFit, DataOfAMaterialThatSoftensHaveNoStableFit)
 {
-    m_request.tests = {testOf(Mode::Uniaxial, stretches, [](double l) { return 1.0 - l; })};
+    m_request.tests = {makeTest(Mode::Uniaxial, stretches, [](double l) { return 1.0 - l; })};
     for (const HyperelasticForm form : hyperelasticForms()) {
         const FitResult result = fit(form, StabilityDemand::OverData);
         const bool refused = result.status == FitStatus::Failed && has(result.findings, FindingId::NoMinimum);
@@ -433,7 +433,7 @@ TEST_F(StableFit, DataOfAMaterialThatSoftensHaveNoStableFit)
     }
 }
 
-// --- Ends and bad data ---
+// --- Cancellation and invalid data ---
 
 TEST(HyperelasticFitControl, ProgressRisesToTheEnd)
 {
@@ -476,13 +476,13 @@ TEST(HyperelasticFitControl, CanBeCancelledAtAnyMoment)
         EXPECT_TRUE(std::any_of(results.begin(), results.end(), [](const FitResult& result) {
             return result.status == FitStatus::Cancelled;
         })) << end;
-        EXPECT_EQ(calls, end + 1); // nobody is asked again after the first "yes"
+        EXPECT_EQ(calls, end + 1); // no further call after the first true
         for (const FitResult& result : results)
             EXPECT_EQ(has(result.findings, FindingId::Cancelled), result.status == FitStatus::Cancelled);
     }
 }
 
-TEST(HyperelasticFitRobustness, NothingToFitIsSaid)
+TEST(HyperelasticFitRobustness, MissingDataAreReported)
 {
     HyperelasticFitRequest request;
     for (const FitResult& result : fitHyperelastic(request)) {
@@ -491,9 +491,9 @@ TEST(HyperelasticFitRobustness, NothingToFitIsSaid)
         EXPECT_EQ(result.fitted, nullptr);
         EXPECT_TRUE(result.change.set.empty());
     }
-    request.tests = {testOf(Mode::Volumetric, {0.9}, [](double) { return -1e6; }),
-                     testOf(Mode::Creep, {1.0}, [](double) { return 1.0; }),
-                     testOf(Mode::Uniaxial, {}, [](double) { return 1.0; })};
+    request.tests = {makeTest(Mode::Volumetric, {0.9}, [](double) { return -1e6; }),
+                     makeTest(Mode::Creep, {1.0}, [](double) { return 1.0; }),
+                     makeTest(Mode::Uniaxial, {}, [](double) { return 1.0; })};
     EXPECT_TRUE(has(fitHyperelastic(request).front().findings, FindingId::DataMissing));
     request.forms.clear();
     EXPECT_TRUE(fitHyperelastic(request).empty());
@@ -502,12 +502,12 @@ TEST(HyperelasticFitRobustness, NothingToFitIsSaid)
 TEST(HyperelasticFitRobustness, AllZerosAreRefused)
 {
     const FitResult result =
-        fitOne(HyperelasticForm::ArrudaBoyce, {testOf(Mode::Uniaxial, stretches, [](double) { return 0.0; })});
+        fitOne(HyperelasticForm::ArrudaBoyce, {makeTest(Mode::Uniaxial, stretches, [](double) { return 0.0; })});
     EXPECT_EQ(result.status, FitStatus::Failed);
     EXPECT_TRUE(has(result.findings, FindingId::AllZero));
 }
 
-TEST(HyperelasticFitRobustness, PointsThatAreNoneAreLeftOut)
+TEST(HyperelasticFitRobustness, InvalidPointsAreLeftOut)
 {
     TestData test = shearOf({1.0, std::nan(""), 2.0, 3.0}, {2.0, 1.0, HUGE_VAL, 6.0});
     test.ordinates.push_back(9.0); // without an abscissa
@@ -521,8 +521,8 @@ TEST(HyperelasticFitRobustness, HugeTinyAndAbsurdNumbersEndInResultsOrFindings)
     for (const double scale : {1e-300, 1e-30, 1e30, 1e150, 1e300}) {
         for (const double factor : {1e-6, 1.0, 1e3, 1e100}) {
             HyperelasticFitRequest request;
-            request.tests = {testOf(Mode::Uniaxial, {1.0 + 0.1 * factor, 1.0 + 0.3 * factor, 1.0 + 0.5 * factor},
-                                    [=](double l) { return scale * (l - 1.0); })};
+            request.tests = {makeTest(Mode::Uniaxial, {1.0 + 0.1 * factor, 1.0 + 0.3 * factor, 1.0 + 0.5 * factor},
+                                      [=](double l) { return scale * (l - 1.0); })};
             for (const FitResult& result : fitHyperelastic(request)) {
                 EXPECT_TRUE(result.fitted != nullptr || !result.findings.empty()) << scale << " " << factor;
             }

@@ -15,7 +15,7 @@ using namespace vxConstitutive;
 using vxMat::PropertyId;
 using vxtest::firstArgument;
 using vxtest::has;
-using vxtest::testOf;
+using vxtest::makeTest;
 using vxtest::valueAt;
 
 namespace {
@@ -42,10 +42,10 @@ std::string wordOf(const FitResult& result, std::int32_t id)
     return {};
 }
 
-/// The engineering curve of a model up to a strain; behind necking the stress falls by itself.
+/// Returns the engineering curve of a model up to a strain. After necking, the stress falls.
 TestData tensileTest(const PlasticModel& model, double to, std::size_t points)
 {
-    return testOf(Mode::Tensile, evenlySpaced(0.0, to, points), [&](double strain) {
+    return makeTest(Mode::Tensile, evenlySpaced(0.0, to, points), [&](double strain) {
         const auto neck = model.necking();
         const double end = neck ? neck->engineeringStrain : 1e300;
         if (strain <= end)
@@ -83,8 +83,8 @@ TEST(MultilinearFit, FindsTheCornersOfAPiecewiseStraightCurve)
 TEST(MultilinearFit, FewerPointsSufficeForAWiderTolerance)
 {
     // A smooth curve: sigma = 300 + 500 ep^0.4 MPa.
-    const TestData test =
-        testOf(Mode::Plastic, evenlySpaced(0.0, 0.3, 301), [](double ep) { return 300e6 + 500e6 * std::pow(ep, 0.4); });
+    const TestData test = makeTest(Mode::Plastic, evenlySpaced(0.0, 0.3, 301),
+                                   [](double ep) { return 300e6 + 500e6 * std::pow(ep, 0.4); });
     PlasticFitRequest request;
     request.tests = {test};
     std::size_t before = 1000;
@@ -99,13 +99,13 @@ TEST(MultilinearFit, FewerPointsSufficeForAWiderTolerance)
     EXPECT_EQ(before, 2U);
 }
 
-TEST(MultilinearFit, NoFewerPointsWouldDo)
+TEST(MultilinearFit, NoCurveWithFewerPointsIsWithinTheTolerance)
 {
-    // Of all subsets of a small curve, none that stays within the tolerance has fewer points.
+    // Tries all subsets of the points of a small curve.
     const std::vector<double> strains{0.0, 0.01, 0.02, 0.04, 0.06, 0.09, 0.12, 0.16, 0.2, 0.25};
     const auto curve = [](double ep) { return 300e6 + 500e6 * std::pow(ep, 0.4); };
     PlasticFitRequest request;
-    request.tests = {testOf(Mode::Plastic, strains, curve)};
+    request.tests = {makeTest(Mode::Plastic, strains, curve)};
     request.tolerance = 0.02;
     const std::size_t found = listOf(fitMultilinear(request), PropertyId::PlasticStrain).size();
     std::size_t fewest = strains.size();
@@ -126,7 +126,7 @@ TEST(MultilinearFit, NoFewerPointsWouldDo)
     EXPECT_EQ(found, fewest);
 }
 
-TEST(MultilinearFit, CutsTheCurveWhereTheBarNecks)
+TEST(MultilinearFit, LeavesOutThePartAfterNecking)
 {
     const PlasticModel model({{0.0, 300e6}, {0.1, 500e6}, {0.3, 520e6}}, steel);
     const auto neck = model.necking();
@@ -162,9 +162,9 @@ TEST(MultilinearFit, AveragesNoiseUntilTheStressDoesNotFall)
 {
     std::mt19937 random(5);
     std::normal_distribution<double> noise(0.0, 5e6);
-    TestData test = testOf(Mode::Plastic, evenlySpaced(0.0, 0.2, 2000),
-                           [&](double ep) { return 300e6 + 400e6 * std::sqrt(ep) + noise(random); });
-    std::shuffle(test.ordinates.begin(), test.ordinates.end(), random); // and once in no order at all
+    TestData test = makeTest(Mode::Plastic, evenlySpaced(0.0, 0.2, 2000),
+                             [&](double ep) { return 300e6 + 400e6 * std::sqrt(ep) + noise(random); });
+    std::shuffle(test.ordinates.begin(), test.ordinates.end(), random); // and once without any order
     PlasticFitRequest request;
     request.tests = {test};
     for (int pass = 0; pass < 2; ++pass) {
@@ -175,19 +175,19 @@ TEST(MultilinearFit, AveragesNoiseUntilTheStressDoesNotFall)
         EXPECT_TRUE(std::adjacent_find(strains.begin(), strains.end(), std::greater_equal<>()) == strains.end());
         EXPECT_TRUE(has(result.findings, FindingId::StressFalls));
         EXPECT_LT(stresses.size(), 40U);
-        request.tests = {testOf(Mode::Plastic, evenlySpaced(0.0, 0.2, 2000),
-                                [&](double ep) { return 300e6 + 400e6 * std::sqrt(ep) + noise(random); })};
+        request.tests = {makeTest(Mode::Plastic, evenlySpaced(0.0, 0.2, 2000),
+                                  [&](double ep) { return 300e6 + 400e6 * std::sqrt(ep) + noise(random); })};
     }
 }
 
 TEST(MultilinearFit, CurvesThatDoNotYieldOrHaveNoElasticPartAreRefused)
 {
     PlasticFitRequest request;
-    request.tests = {testOf(Mode::Tensile, evenlySpaced(0.0, 0.001, 11), [](double e) { return 210e9 * e; })};
+    request.tests = {makeTest(Mode::Tensile, evenlySpaced(0.0, 0.001, 11), [](double e) { return 210e9 * e; })};
     FitResult result = fitMultilinear(request);
     EXPECT_EQ(result.status, FitStatus::Failed);
     EXPECT_TRUE(has(result.findings, FindingId::NoPlasticPart));
-    request.tests = {testOf(Mode::Tensile, {0.1, 0.2}, [](double) { return 400e6; })};
+    request.tests = {makeTest(Mode::Tensile, {0.1, 0.2}, [](double) { return 400e6; })};
     result = fitMultilinear(request);
     EXPECT_TRUE(has(result.findings, FindingId::NoElasticPart));
     request.tests.clear();
@@ -213,7 +213,7 @@ TEST(BilinearFit, StandardErrorsAreThoseOfLinearRegression)
 {
     // By hand: points (0, 1), (1, 2), (2, 4): line 5/6 + 3/2 x; residuals 1/6, -1/3, 1/6, variance 1/6.
     PlasticFitRequest request;
-    request.tests = {testOf(Mode::Plastic, {0.0, 1.0, 2.0}, [](double x) { return x == 2.0 ? 4.0 : 1.0 + x; })};
+    request.tests = {makeTest(Mode::Plastic, {0.0, 1.0, 2.0}, [](double x) { return x == 2.0 ? 4.0 : 1.0 + x; })};
     const FitResult result = fitBilinear(request);
     const FittedConstant* const slope = result.find(PropertyId::PlasticHardeningFactor);
     const FittedConstant* const yield = result.find(PropertyId::PlasticInitialYieldStress);
@@ -227,7 +227,7 @@ TEST(BilinearFit, StandardErrorsAreThoseOfLinearRegression)
 TEST(BilinearFit, SofteningEndsAtTheBoundOfNoHardening)
 {
     PlasticFitRequest request;
-    request.tests = {testOf(Mode::Plastic, {0.0, 0.1, 0.2}, [](double x) { return 400e6 - 1e8 * x; })};
+    request.tests = {makeTest(Mode::Plastic, {0.0, 0.1, 0.2}, [](double x) { return 400e6 - 1e8 * x; })};
     const FitResult result = fitBilinear(request);
     EXPECT_EQ(result.find(PropertyId::PlasticHardeningFactor)->determination, Determination::AtBound);
     request.bounds[PropertyId::PlasticHardeningFactor] = {-1e9, 1e9};
@@ -237,7 +237,7 @@ TEST(BilinearFit, SofteningEndsAtTheBoundOfNoHardening)
 TEST(PlasticFitControl, CanBeCancelled)
 {
     PlasticFitRequest request;
-    request.tests = {testOf(Mode::Plastic, {0.0, 0.1, 0.2}, [](double x) { return 400e6 + 1e8 * x; })};
+    request.tests = {makeTest(Mode::Plastic, {0.0, 0.1, 0.2}, [](double x) { return 400e6 + 1e8 * x; })};
     FitControl control;
     control.cancelled = [] { return true; };
     for (const FitResult& result : {fitMultilinear(request, control), fitBilinear(request, control)}) {
@@ -249,15 +249,15 @@ TEST(PlasticFitControl, CanBeCancelled)
 TEST(PlasticFitRobustness, AnyCurveEndsInAResultOrFindings)
 {
     const std::vector<TestData> tests{
-        testOf(Mode::Tensile, {0.1}, [](double) { return 1e6; }),
-        testOf(Mode::Tensile, {0.0, 0.0, 0.0}, [](double) { return 0.0; }),
-        testOf(Mode::Tensile, {0.0, 0.1, 0.1, 0.1}, [](double x) { return x; }),
-        testOf(Mode::Tensile, evenlySpaced(-0.5, 0.5, 100), [](double x) { return std::sin(100.0 * x) * 1e9; }),
-        testOf(Mode::Tensile, evenlySpaced(0.0, 0.5, 100), [](double x) { return -1e9 * x; }),
-        testOf(Mode::Tensile, evenlySpaced(0.0, 1e300, 100), [](double x) { return x; }),
-        testOf(Mode::Plastic, {0.3, 0.3, 0.3}, [](double) { return 1e6; }),
-        testOf(Mode::Plastic, {0.0, 1.0}, [](double) { return -1e6; }),
-        testOf(Mode::Uniaxial, {1.0, 1.1}, [](double x) { return x; })};
+        makeTest(Mode::Tensile, {0.1}, [](double) { return 1e6; }),
+        makeTest(Mode::Tensile, {0.0, 0.0, 0.0}, [](double) { return 0.0; }),
+        makeTest(Mode::Tensile, {0.0, 0.1, 0.1, 0.1}, [](double x) { return x; }),
+        makeTest(Mode::Tensile, evenlySpaced(-0.5, 0.5, 100), [](double x) { return std::sin(100.0 * x) * 1e9; }),
+        makeTest(Mode::Tensile, evenlySpaced(0.0, 0.5, 100), [](double x) { return -1e9 * x; }),
+        makeTest(Mode::Tensile, evenlySpaced(0.0, 1e300, 100), [](double x) { return x; }),
+        makeTest(Mode::Plastic, {0.3, 0.3, 0.3}, [](double) { return 1e6; }),
+        makeTest(Mode::Plastic, {0.0, 1.0}, [](double) { return -1e6; }),
+        makeTest(Mode::Uniaxial, {1.0, 1.1}, [](double x) { return x; })};
     for (const TestData& test : tests) {
         PlasticFitRequest request;
         request.tests = {test};

@@ -13,8 +13,8 @@ using namespace vxConstitutive;
 using vxMat::PropertyId;
 using vxtest::rubberTest;
 
-/// The curves of L. R. G. Treloar, Transactions of the Faraday Society 40 (1944), 59-70; the files tell where their
-/// numbers are from.
+/// The curves of L. R. G. Treloar, Transactions of the Faraday Society 40 (1944), 59-70; the files name the
+/// sources of their numbers.
 namespace {
 
 class Treloar : public ::testing::Test
@@ -41,7 +41,7 @@ protected:
         return result;
     }
 
-    /// Root of the mean square of the differences by the largest stress of the test.
+    /// Returns the root of the mean square of the differences by the largest stress of the test.
     static double relativeError(const TestData& test, const std::function<double(double)>& stress)
     {
         double sum = 0.0;
@@ -53,7 +53,7 @@ protected:
         return std::sqrt(sum / static_cast<double>(test.abscissas.size())) / largest;
     }
 
-    /// The part of a test up to a stretch.
+    /// Returns the part of a test up to a stretch.
     static TestData upTo(const TestData& test, double stretch)
     {
         TestData part = test;
@@ -69,7 +69,7 @@ protected:
     }
 };
 
-TEST_F(Treloar, FilesHoldAllPoints)
+TEST_F(Treloar, FilesHaveAllPoints)
 {
     EXPECT_EQ(m_uniaxial.abscissas.size(), 24U);
     EXPECT_EQ(m_equibiaxial.abscissas.size(), 16U);
@@ -77,10 +77,10 @@ TEST_F(Treloar, FilesHoldAllPoints)
     EXPECT_EQ(m_uniaxial.ordinates.back(), 6.3e6);
 }
 
-TEST_F(Treloar, ArrudaBoyceMeetsUniaxialTensionBetterThanThePublishedConstants)
+TEST_F(Treloar, ArrudaBoyceFitsUniaxialTensionBetterThanThePublishedConstants)
 {
     // E. M. Arruda, M. C. Boyce, Journal of the Mechanics and Physics of Solids 41 (1993), 389-412: CR = 0.27 MPa and
-    // N = 26.5 for these data, with the inverse Langevin function. The five terms, fitted, are to come as near.
+    // N = 26.5 for these data, with the inverse Langevin function. The fitted series must be at least as good.
     HyperelasticConstants published;
     published.kind = ModelKind::ArrudaBoyce;
     published.mu = 0.27e6;
@@ -96,7 +96,7 @@ TEST_F(Treloar, ArrudaBoyceMeetsUniaxialTensionBetterThanThePublishedConstants)
     const FitResult result = fit(HyperelasticForm::ArrudaBoyce, {m_uniaxial});
     EXPECT_LE(result.tests.at(0).relativeError, reported);
 
-    // With all three kinds of tests the constants come near to the published ones; the five terms need a lower limit.
+    // With all three tests, the constants are near the published ones. The five terms need a lower limit.
     const FitResult all = fit(HyperelasticForm::ArrudaBoyce, {m_uniaxial, m_equibiaxial, m_planar});
     EXPECT_NEAR(all.find(PropertyId::InitialShearModulusMu)->value, 0.27e6, 0.1 * 0.27e6);
     EXPECT_NEAR(all.find(PropertyId::LimitingNetworkStretch)->value, std::sqrt(26.5), 0.1 * std::sqrt(26.5));
@@ -148,10 +148,10 @@ TEST_F(Treloar, LinearFitsAreTheSolutionsOfTheirNormalEquations)
     EXPECT_NEAR(result.find(PropertyId::MaterialConstantC01)->value, (aa * by - ab * ay) / determinant, 1.0);
 }
 
-TEST_F(Treloar, ModelsWithoutALimitMissTheUpturnThatArrudaBoyceHas)
+TEST_F(Treloar, OnlyArrudaBoyceHasTheUpturnAtLargeStretches)
 {
-    // As every review of these data finds: in uniaxial tension the first three are off by more than a tenth of the largest
-    // stress at its end, Arruda-Boyce is not.
+    // Reviews of these data agree: at the end of uniaxial tension, the error of the first three models is more than a tenth of
+    // the largest stress. The error of Arruda-Boyce is less.
     for (const HyperelasticForm form : {HyperelasticForm::NeoHooke, HyperelasticForm::MooneyRivlin})
         EXPECT_GT(fit(form, {m_uniaxial, m_equibiaxial, m_planar}).tests.at(0).largestError, 0.4);
     const FitResult chains = fit(HyperelasticForm::ArrudaBoyce, {m_uniaxial, m_equibiaxial, m_planar});

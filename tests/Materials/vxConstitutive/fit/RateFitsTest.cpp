@@ -13,14 +13,14 @@
 using namespace vxConstitutive;
 using vxMat::PropertyId;
 using vxtest::has;
-using vxtest::testOf;
+using vxtest::makeTest;
 
 namespace {
 
-/// A creep curve without error.
+/// Returns a creep curve without noise.
 TestData creepTest(double a, double n, double m, double stress, const std::vector<double>& times)
 {
-    TestData test = testOf(Mode::Creep, times, [=](double t) {
+    TestData test = makeTest(Mode::Creep, times, [=](double t) {
         return std::copysign(std::exp(std::log(a) + n * std::log(std::fabs(stress))), stress) * std::pow(t, m + 1.0) /
                (m + 1.0);
     });
@@ -57,7 +57,7 @@ TEST(NortonFit, FindsTheConstantsOfCreepCurves)
     }
 }
 
-TEST(NortonFit, CompressionCreepsAlike)
+TEST(NortonFit, CompressionCreepsLikeTension)
 {
     NortonFitRequest request;
     request.tests = {creepTest(1e-46, 5.0, -0.3, 80e6, hours), creepTest(1e-46, 5.0, -0.3, -120e6, hours)};
@@ -67,7 +67,7 @@ TEST(NortonFit, CompressionCreepsAlike)
 TEST(NortonFit, RatesGiveSecondaryCreep)
 {
     NortonFitRequest request;
-    request.tests = {testOf(Mode::CreepRate, {50e6, 80e6, 130e6}, [](double s) { return 2e-46 * std::pow(s, 5.0); })};
+    request.tests = {makeTest(Mode::CreepRate, {50e6, 80e6, 130e6}, [](double s) { return 2e-46 * std::pow(s, 5.0); })};
     const FitResult result = fitNorton(request);
     EXPECT_NEAR(fittedValue(result, PropertyId::CreepModulusN), 5.0, 1e-7);
     EXPECT_EQ(fittedValue(result, PropertyId::CreepModulusM), 0.0);
@@ -92,7 +92,7 @@ TEST(NortonFit, OneStressDoesNotDetermineItsExponent)
 
 TEST(NortonFit, StandardErrorsCoverTheScatterOfManyFits)
 {
-    // Of many fits to the same law with fresh noise, the results scatter as the standard errors say.
+    // The scatter of the results of many fits with different noise must agree with the standard errors.
     std::mt19937 random(11);
     std::normal_distribution<double> noise(0.0, 0.01);
     double sum = 0.0;
@@ -127,9 +127,9 @@ TEST(NortonFit, BadDataAndCancellingEndInFindings)
     request.tests = {creepTest(1e-46, 5.0, 0.0, 80e6, {})};
     EXPECT_EQ(fitNorton(request).status, FitStatus::Failed);
     request.tests = {creepTest(1e-46, 5.0, 0.0, 80e6, {0.0})};
-    EXPECT_EQ(fitNorton(request).status, FitStatus::Failed); // a strain of 0 alone
+    EXPECT_EQ(fitNorton(request).status, FitStatus::Failed); // all strains are 0
     for (const double stress : {0.0, -1e8, 1e300}) {
-        request.tests = {testOf(Mode::Creep, hours, [](double t) { return 1e-9 * t; })};
+        request.tests = {makeTest(Mode::Creep, hours, [](double t) { return 1e-9 * t; })};
         request.tests[0].parameter = stress;
         EXPECT_FALSE(fitNorton(request).findings.empty());
     }
@@ -144,7 +144,7 @@ TEST(NortonFit, BadDataAndCancellingEndInFindings)
 
 TestData relaxationTest(double modulus, double g, double tau, const std::vector<double>& times)
 {
-    return testOf(Mode::Relaxation, times, [=](double t) { return modulus * (1.0 - g + g * std::exp(-t / tau)); });
+    return makeTest(Mode::Relaxation, times, [=](double t) { return modulus * (1.0 - g + g * std::exp(-t / tau)); });
 }
 
 TEST(RelaxationFit, FindsTheConstantsOfExactData)
@@ -171,7 +171,7 @@ TEST(RelaxationFit, ARelaxationTimeOutsideTheDataIsReported)
 TEST(RelaxationFit, AModulusThatDoesNotRelaxHasNoRelaxationTime)
 {
     RelaxationFitRequest request;
-    request.tests = {testOf(Mode::Relaxation, evenlySpaced(0.0, 10.0, 40), [](double) { return 2e6; })};
+    request.tests = {makeTest(Mode::Relaxation, evenlySpaced(0.0, 10.0, 40), [](double) { return 2e6; })};
     const FitResult result = fitRelaxation(request);
     EXPECT_NEAR(fittedValue(result, PropertyId::ShearRelaxationModulus), 0.0, 1e-6);
     EXPECT_NE(result.find(PropertyId::RelaxationTime)->determination, Determination::Determined);
@@ -181,11 +181,11 @@ TEST(RelaxationFit, BadDataAndCancellingEndInFindings)
 {
     RelaxationFitRequest request;
     EXPECT_TRUE(has(fitRelaxation(request).findings, FindingId::DataMissing));
-    request.tests = {testOf(Mode::Relaxation, {0.0}, [](double) { return 2e6; })};
+    request.tests = {makeTest(Mode::Relaxation, {0.0}, [](double) { return 2e6; })};
     EXPECT_FALSE(fitRelaxation(request).findings.empty());
-    request.tests = {testOf(Mode::Relaxation, {1.0, 2.0}, [](double) { return 0.0; })};
+    request.tests = {makeTest(Mode::Relaxation, {1.0, 2.0}, [](double) { return 0.0; })};
     EXPECT_EQ(fitRelaxation(request).status, FitStatus::Failed);
-    request.tests = {testOf(Mode::Relaxation, evenlySpaced(0.0, 10.0, 5), [](double t) { return 1.0 + t; })};
+    request.tests = {makeTest(Mode::Relaxation, evenlySpaced(0.0, 10.0, 5), [](double t) { return 1.0 + t; })};
     EXPECT_FALSE(fitRelaxation(request).findings.empty());
     FitControl control;
     control.cancelled = [] { return true; };

@@ -29,7 +29,7 @@ Curve yieldOf(ModelKind kind, double angle, std::vector<double> pressures, std::
     return modelOf(kind, angle).curve(request);
 }
 
-/// Mises stress and pressure of principal stresses, positive in tension.
+/// Returns Mises stress and pressure of principal stresses, which are positive in tension.
 struct State
 {
     double pressure;
@@ -41,7 +41,7 @@ State stateOf(double a, double b, double c)
     return {-(a + b + c) / 3.0, std::sqrt(0.5 * ((a - b) * (a - b) + (b - c) * (b - c) + (c - a) * (c - a)))};
 }
 
-TEST(MohrCoulomb, MeridiansHoldTheStressesThatTheCriterionSays)
+TEST(MohrCoulomb, MeridiansHaveTheStressesOfTheCriterion)
 {
     // Triaxial tests with c = 3 and 30 degrees: sigma_max = sigma_min (1 + sin)/(1 - sin) + 2 c cos/(1 - sin) in compression.
     const double cohesion = 3.0;
@@ -99,7 +99,7 @@ TEST(FrictionSurface, EndsAtItsApex)
     EXPECT_FALSE(has(curve.findings, FindingId::ResultNotFinite));
 }
 
-TEST(FrictionConstants, WhatTheCatalogueLacksIsSaid)
+TEST(FrictionConstants, MissingConstantsOfTheCatalogueAreReported)
 {
     FrictionConstants constants;
     constants.frictionAngle = 20.0;
@@ -111,7 +111,7 @@ TEST(FrictionConstants, WhatTheCatalogueLacksIsSaid)
     EXPECT_FALSE(has(modelOf(ModelKind::MohrCoulomb, 20.0).findings(), FindingId::FrictionMatchMissing));
 }
 
-TEST(FrictionConstants, AnglesThatAreNoneAreRefusedAndSmallOnesDoubted)
+TEST(FrictionConstants, AnglesOutsideTheirRangeAreErrorsAndSmallOnesDoubts)
 {
     for (const double angle : {-1.0, 90.0, 1e300, std::nan("")}) {
         EXPECT_TRUE(has(modelOf(ModelKind::DruckerPrager, angle).findings(), FindingId::FrictionAngleOutside)) << angle;

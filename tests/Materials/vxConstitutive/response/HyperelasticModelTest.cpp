@@ -169,14 +169,14 @@ TEST(CompressibleStress, AVanishingD1GivesTheIncompressibleCurveToTheLastDigits)
     }
 }
 
-TEST(CompressibleStress, ARequestCanBeDrawnIncompressible)
+TEST(CompressibleStress, ARequestCanDemandAnIncompressibleCurve)
 {
     const HyperelasticModel model(neoHooke(1.0, 1.0));
     EXPECT_DOUBLE_EQ(valueAt(model, Mode::Uniaxial, 2.0, Quantity::NominalStress, Compressibility::Incompressible),
                      3.5);
 }
 
-TEST(CompressibleStress, AnIncompressibleCurveOfACompressibleMaterialSaysHowFarItIsOff)
+TEST(CompressibleStress, AnIncompressibleCurveOfACompressibleMaterialReportsTheDifference)
 {
     CurveRequest request;
     request.mode = Mode::Equibiaxial;
@@ -245,9 +245,9 @@ TEST(Slope, OfTheInverseLangevinFunctionIsItsDerivative)
 
 // --- Stability ---
 
-/// With C10 = 1, Drucker's criterion fails in equibiaxial tension where l^2 + 2 l^-4 + C01 (2 l^4 + l^-2) = 0, for a change
-/// of the stretch itself. This C01 puts it at a stretch of 2: (4 + 1/8)/(32 + 1/4). For a change that stretches the one
-/// direction and shortens the other it fails where l^2 + C01 l^-2 = 0, in compression.
+/// With C10 = 1, equibiaxial tension is unstable for a change of the stretch where l^2 + 2 l^-4 + C01 (2 l^4 + l^-2) = 0. With
+/// this C01 that is at a stretch of 2: (4 + 1/8)/(32 + 1/4). For a change that extends one direction and shortens the second,
+/// it is unstable where l^2 + C01 l^-2 = 0, in compression.
 constexpr double c01FromTwo = 4.125 / 32.25;
 const HyperelasticConstants unstableFromTwo = mooneyRivlin(1.0, -c01FromTwo);
 
@@ -263,7 +263,7 @@ TEST(Stability, TheFirstUnstableStretchesAreFoundExactly)
     EXPECT_EQ(report.unstable[1].to, 4.0);
 }
 
-TEST(Stability, AUniaxialTestFailsWhereTheEquibiaxialOneOfTheOtherSignDoes)
+TEST(Stability, AUniaxialTestIsUnstableWhereTheEquibiaxialTestOfTheSameStateIs)
 {
     const StabilityReport report = HyperelasticModel(unstableFromTwo).stability(Mode::Uniaxial, {0.1, 4.0});
     ASSERT_TRUE(report.firstAbove && report.firstBelow);
@@ -273,7 +273,7 @@ TEST(Stability, AUniaxialTestFailsWhereTheEquibiaxialOneOfTheOtherSignDoes)
 
 TEST(Stability, ANarrowUnstablePartBetweenSamplesIsFound)
 {
-    // A margin that is negative on a ten-thousandth of the way.
+    // The margin is negative in a ten-thousandth of the range.
     const auto margin = [](double at) { return (at - 2.034567) * (at - 2.034567) - 2.5e-9; };
     const StabilityReport report = findInstability(margin, 1.0, {1.0, 3.0});
     ASSERT_EQ(report.unstable.size(), 1U);
@@ -281,7 +281,7 @@ TEST(Stability, ANarrowUnstablePartBetweenSamplesIsFound)
     EXPECT_NEAR(report.unstable[0].to, 2.034567 + 5e-5, 1e-9);
 }
 
-TEST(Stability, SeveralUnstablePartsStandInRisingOrder)
+TEST(Stability, SeveralUnstablePartsAreInRisingOrder)
 {
     const auto margin = [](double at) { return std::cos(3.0 * at); }; // negative from pi/6 to pi/2, mirrored below 0
     const StabilityReport report = findInstability(margin, 0.0, {-2.0, 2.0});
@@ -292,7 +292,7 @@ TEST(Stability, SeveralUnstablePartsStandInRisingOrder)
     EXPECT_NEAR(*report.firstBelow, -M_PI / 6.0, 1e-9);
 }
 
-TEST(Stability, ACurveTellsItsUnstablePartAndWhereItBegins)
+TEST(Stability, ACurveReportsItsUnstablePartAndItsStart)
 {
     const Curve curve = curveOf(unstableFromTwo, Mode::Equibiaxial, {1.0, 3.0});
     ASSERT_EQ(curve.unstable.size(), 1U);
@@ -326,7 +326,7 @@ TEST(Stability, GreatStretchesOfAStableMaterialAreStable)
     }
 }
 
-TEST(Stability, SimpleShearFailsWhereItsPrincipalStretchesDoInPlanarTension)
+TEST(Stability, SimpleShearIsUnstableWherePlanarTensionWithItsPrincipalStretchesIs)
 {
     const HyperelasticModel model(mooneyRivlin(1.0, -0.3));
     const StabilityReport planar = model.stability(Mode::Planar, {1.0, 5.0});
@@ -380,7 +380,7 @@ TEST(Chains, TheInitialModulusIsNotMu)
     }
 }
 
-// --- Bad input ---
+// --- Invalid input ---
 
 TEST(HyperelasticRobustness, AnyConstantsGiveACurveOrFindings)
 {

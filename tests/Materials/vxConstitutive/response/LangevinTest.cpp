@@ -10,14 +10,14 @@ using vxConstitutive::inverseLangevin;
 
 namespace {
 
-// The Langevin function of b, computed with thirty digits.
+// Values of the Langevin function, computed with thirty digits.
 struct Pair
 {
     double b;
     double x;
 };
 
-TEST(InverseLangevin, UndoesTheLangevinFunction)
+TEST(InverseLangevin, IsTheInverseOfTheLangevinFunction)
 {
     for (const Pair& pair :
          {Pair{1e-8, 3.3333333333333333e-9}, Pair{0.01, 0.003333311111322751}, Pair{1.0, 0.31303528549933130},
@@ -41,7 +41,7 @@ TEST(InverseLangevin, SlopeIsTheDerivative)
     }
 }
 
-TEST(InverseLangevin, HasNoValueFromTheFullLengthOn)
+TEST(InverseLangevin, HasNoValueAtTheFullLengthAndBeyond)
 {
     EXPECT_TRUE(std::isnan(inverseLangevin(1.0).value));
     EXPECT_TRUE(std::isnan(inverseLangevin(-1.0).value));

@@ -24,7 +24,7 @@ TEST(LinearElasticity, StiffnessesOfTheTestsByHand)
     EXPECT_NEAR(valueAt(model, Mode::Uniaxial, 1.3, Quantity::Slope), 210.0, 1e-12);
 }
 
-TEST(LinearElasticity, DrawnIncompressiblePoissonsRatioIsOneHalf)
+TEST(LinearElasticity, AnIncompressibleCurveHasThePoissonsRatioOneHalf)
 {
     const LinearElasticModel model(210.0, 0.25);
     EXPECT_NEAR(valueAt(model, Mode::Equibiaxial, 1.01, Quantity::NominalStress, Compressibility::Incompressible), 4.2,

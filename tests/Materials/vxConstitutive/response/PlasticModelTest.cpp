@@ -26,7 +26,7 @@ TEST(HardeningCurve, BilinearRisesByTheHardeningModulus)
     EXPECT_DOUBLE_EQ(valueAt(model, Mode::Plastic, 0.2, Quantity::Slope), 1450.0);
 }
 
-TEST(HardeningCurve, MultilinearIsStraightBetweenPointsAndConstantBehindThem)
+TEST(HardeningCurve, MultilinearIsStraightBetweenPointsAndConstantAfterThem)
 {
     const PlasticModel model(example, std::nullopt);
     EXPECT_DOUBLE_EQ(valueAt(model, Mode::Plastic, 0.025, Quantity::TrueStress), 529.0);
@@ -37,7 +37,7 @@ TEST(HardeningCurve, MultilinearIsStraightBetweenPointsAndConstantBehindThem)
     EXPECT_EQ(valueAt(model, Mode::Plastic, 9.0, Quantity::Slope), 0.0);
 }
 
-TEST(HardeningCurve, StrainsBehindTheLastRowAreReported)
+TEST(HardeningCurve, StrainsAfterTheLastRowAreReported)
 {
     CurveRequest request;
     request.mode = Mode::Plastic;
@@ -46,7 +46,7 @@ TEST(HardeningCurve, StrainsBehindTheLastRowAreReported)
     EXPECT_FALSE(has(PlasticModel(250.0, 1.0, std::nullopt).curve(request).findings, FindingId::PastLastRow));
 }
 
-TEST(HardeningCurve, ATableThatIsNoneIsReported)
+TEST(HardeningCurve, AnInvalidTableIsReported)
 {
     const PlasticModel late({{0.01, 450.0}, {0.02, 500.0}}, std::nullopt);
     EXPECT_EQ(vxtest::firstArgument(late.findings(), FindingId::TableFirstStrain), "0.01");
@@ -72,7 +72,7 @@ TEST(TensileTest, FollowsYoungsModulusUpToTheYieldStress)
     EXPECT_EQ(valueAt(model, Mode::Tensile, strain, Quantity::PlasticStrain), 0.0);
 }
 
-TEST(TensileTest, AddsElasticAndPlasticStrainBehindIt)
+TEST(TensileTest, AddsElasticAndPlasticStrainAfterIt)
 {
     // At the second point: sigma = 608, ep = 0.05.
     const PlasticModel model(example, steel);
@@ -114,7 +114,7 @@ TEST(Necking, OfARigidPlasticMaterialIsWhereTheModulusIsTheStress)
 
 TEST(Necking, AtACornerWhereTheModulusDropsBelowTheStress)
 {
-    // 1420 MPa before and 530 MPa behind the point at 0.1, where the stress is 679 MPa.
+    // 1420 MPa before and 530 MPa after the point at 0.1, where the stress is 679 MPa.
     const auto neck = PlasticModel(example, steel).necking();
     ASSERT_TRUE(neck.has_value());
     EXPECT_NEAR(neck->trueStress, 679.0, 1e-9);

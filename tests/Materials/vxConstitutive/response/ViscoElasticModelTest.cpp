@@ -14,7 +14,7 @@ using vxtest::valueAt;
 
 namespace {
 
-TEST(ViscoElasticity, RelaxesFromTheModulusAtOnceToThatInTheEnd)
+TEST(ViscoElasticity, RelaxesFromTheInstantaneousToTheLongTermModulus)
 {
     const ViscoElasticModel model(0.5, 2.0, 100.0);
     EXPECT_DOUBLE_EQ(valueAt(model, Mode::Relaxation, 0.0, Quantity::RelaxationModulus), 100.0);
@@ -22,7 +22,7 @@ TEST(ViscoElasticity, RelaxesFromTheModulusAtOnceToThatInTheEnd)
     EXPECT_NEAR(valueAt(model, Mode::Relaxation, 1e3, Quantity::RelaxationModulus), 50.0, 1e-12);
 }
 
-TEST(ViscoElasticity, CreepsFromTheComplianceAtOnceToThatInTheEnd)
+TEST(ViscoElasticity, CreepsFromTheInstantaneousToTheLongTermCompliance)
 {
     const ViscoElasticModel model(0.75, 2.0, 100.0);
     EXPECT_DOUBLE_EQ(valueAt(model, Mode::ShearCreep, 0.0, Quantity::CreepCompliance), 0.01);
@@ -40,7 +40,7 @@ double integral(const std::function<double(double)>& function, double to, int st
     return sum * h / 3.0;
 }
 
-TEST(ViscoElasticity, CreepAndRelaxationBelongTogether)
+TEST(ViscoElasticity, CreepAndRelaxationAreInverseToEachOther)
 {
     // The integral of G(t - s) J(s) over s from 0 to t is t, for every linear material.
     const ViscoElasticModel model(0.6, 1.5, 40.0);
@@ -83,7 +83,7 @@ TEST(ViscoElasticity, SlopesAreTheDerivatives)
     }
 }
 
-TEST(ViscoElasticity, EverythingThatRelaxesFlows)
+TEST(ViscoElasticity, AMaterialThatRelaxesCompletelyFlows)
 {
     const ViscoElasticModel model(1.0, 2.0, 100.0);
     EXPECT_TRUE(has(model.findings(), FindingId::RelaxationRatioOutside));
@@ -130,7 +130,7 @@ TEST(ViscoElasticity, AnyConstantsGiveACurveOrFindings)
     }
 }
 
-TEST(ViscoElasticity, VeryHighFrequenciesMeetTheModulusAtOnce)
+TEST(ViscoElasticity, VeryHighFrequenciesHaveTheInstantaneousModulus)
 {
     const ViscoElasticModel model(0.5, 2.0, 100.0);
     EXPECT_EQ(valueAt(model, Mode::Dynamic, 1e200, Quantity::StorageModulus), 100.0);

@@ -5,22 +5,22 @@
 
 namespace vxtest {
 
-/// How well a curve and a solver agree.
+/// The agreement of a curve and a solver.
 struct AgreementRow
 {
     std::string model; ///< with its constants
-    std::string mode;  ///< what was compared
+    std::string mode;  ///< the compared test
     std::string range; ///< of the abscissa
     std::size_t points = 0;
     double difference = 0.0; ///< largest difference by the largest value of the curve
-    std::string remark;      ///< why the difference is larger than elsewhere; empty if it is not
+    std::string remark;      ///< the reason of a large difference, or empty
 };
 
-/// Takes a row into the table, which is printed when all tests have run, and expects that docs/solver-agreement.md has
-/// the row too. With VX_AGREEMENT_TABLE in the environment, the table is written to the file that it names instead.
+/// Adds a row to the table, which is printed after the last test. Expects that docs/solver-agreement.md has the row. If the
+/// environment variable VX_AGREEMENT_TABLE has the path of a file, writes the table to it instead.
 void recordAgreement(const AgreementRow& row);
 
-/// The largest difference of two lists by the largest value of the first. The test fails if their lengths differ.
+/// Returns the largest difference of two lists by the largest value of the first. The test fails if their lengths differ.
 double largestDifference(const std::vector<double>& curve, const std::vector<double>& solver);
 
 } // namespace vxtest

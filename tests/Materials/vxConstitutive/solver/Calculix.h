@@ -29,7 +29,7 @@ struct FaceValue
 struct SolverStep
 {
     bool largeStrain = false;
-    bool creeps = false;    ///< *VISCO rather than *STATIC
+    bool creeps = false;    ///< *VISCO in place of *STATIC
     double increment = 1.0; ///< fixed
     double duration = 1.0;
     std::vector<FaceValue> displacements; ///< reached at the end of the step
@@ -39,26 +39,26 @@ struct SolverStep
 /// A cube of one or more elements of eight nodes (C3D8) on the same nodes.
 struct SolverModel
 {
-    std::vector<std::string> materials; ///< the keyword lines of each element's material
+    std::vector<std::string> materials; ///< the keyword lines of the material of each element
     std::vector<FaceValue> supports;    ///< displacements that hold in all steps
-    Face loaded = Face::X1;             ///< whose force and displacement are printed
+    Face loaded = Face::X1;             ///< the face with printed force and displacement
     std::vector<SolverStep> steps;
 };
 
-/// What the solver printed at the end of an increment. Stresses and strains are those of the first element.
+/// The output of the solver at the end of an increment. Stresses and strains are those of the first element.
 struct SolverState
 {
-    double time = 0.0;                    ///< since the begin of the first step
+    double time = 0.0;                    ///< since the start of the first step
     std::array<double, 6> stress{};       ///< true: xx, yy, zz, xy, xz, yz
     double plasticStrain = 0.0;           ///< equivalent; the creep strain of a material that creeps
     std::array<double, 3> force{};        ///< on the loaded face
     std::array<double, 3> displacement{}; ///< of a corner of the loaded face that belongs to X1, Y1 and Z1
 };
 
-/// A number as decks have it: the solver reads no more than 20 characters.
+/// Returns a number for a deck: the solver reads no more than 20 characters.
 std::string deckNumber(double number);
 
-/// Runs CalculiX in a folder of its own; the test fails if it does not run to the end.
+/// Runs CalculiX in a temporary folder. The test fails if it does not run to the end.
 std::vector<SolverState> runCalculix(const SolverModel& model);
 
 } // namespace vxtest

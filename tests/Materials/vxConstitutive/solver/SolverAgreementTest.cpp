@@ -86,7 +86,7 @@ void runTo(Mode mode, double abscissa, const std::string& material, bool largeSt
     }
 }
 
-/// Compares a model and a solver material in one mode, from the state of rest to both ends of a range.
+/// Compares a model and a solver material in one mode, from the unloaded state to both ends of a range.
 void compare(const Model& model, const std::string& name, const std::string& material, Mode mode, Range range,
              bool largeStrain = true)
 {
@@ -382,7 +382,7 @@ INSTANTIATE_TEST_SUITE_P(
                   0.0,
                   0.1}));
 
-TEST(NeckingAgreement, ABarInTheSolverReachesItsLargestForceWhereTheCurveNecks)
+TEST(NeckingAgreement, TheForceInTheSolverIsLargestWhereTheCurveNecks)
 {
     const std::vector<HardeningPoint> points{{0.0, 450.0}, {0.05, 608.0}, {0.1, 679.0}, {0.2, 732.0}};
     SolverModel cube = cubeFor(Mode::Uniaxial, 1.2, elasticCard(206900.0, 0.29) + plasticCard(points), true);

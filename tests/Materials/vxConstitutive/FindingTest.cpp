@@ -1,0 +1,63 @@
+#include "vxConstitutive/Finding.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace vxConstitutive;
+
+namespace {
+
+/// Returns a text with its context, in place of a translation.
+std::string marked(const std::string& context, const std::string& english)
+{
+    return context == "vxConstitutive::Word" ? "<" + english + ">" : "[" + english + "]";
+}
+
+TEST(FindingText, ArgumentsTakeTheirPlacesEvenIfTheyLookLikePlaces)
+{
+    Finding finding = makeFinding(FindingId::UnstableFrom, {std::string("uniaxial 100%2"), 1.25});
+    EXPECT_EQ(describe(finding),
+              "uniaxial 100%2: the material is unstable from 1.25 on by Drucker's criterion. A solver "
+              "may fail there.");
+    finding.arguments.pop_back();
+    EXPECT_NE(describe(finding).find("%2 on by"), std::string::npos);
+}
+
+TEST(FindingText, PercentSignsThatNameNoArgumentStay)
+{
+    const Finding finding = makeFinding(FindingId::SeriesFarFromLangevin, {4.0, 10.0, 0.8});
+    EXPECT_EQ(describe(finding),
+              "At 4, the chains are at 0.8 of their limiting stretch. The five-term series is 10 % below "
+              "the inverse Langevin function.");
+}
+
+TEST(FindingText, TextAndWordsAreTranslatedInTheirOwnContexts)
+{
+    const Finding finding = makeFinding(FindingId::ModeNotOfModel, {std::string("simple shear"), std::string("creep")});
+    EXPECT_EQ(describe(finding, marked), "[<creep> has no response in the mode <simple shear>.]");
+}
+
+TEST(FindingText, TextsOfTheUserAreNotTranslated)
+{
+    const Finding finding =
+        makeFinding(FindingId::MeasureAssumed, {std::string("stress"), std::string("nominal stress")});
+    EXPECT_EQ(describe(finding, marked),
+              "[Column \"stress\" does not say whether it is true or engineering. It is taken as "
+              "<nominal stress>.]");
+}
+
+TEST(FindingText, EachWordOfAListIsTranslated)
+{
+    const Finding finding = makeFinding(FindingId::ColumnNeeded, {std::string("stretch, true strain")});
+    EXPECT_EQ(describe(finding, marked), "[No column was found for: <stretch>, <true strain>. Choose a column.]");
+}
+
+TEST(FindingText, OnlyErrorsAreErrors)
+{
+    EXPECT_FALSE(hasError({}));
+    EXPECT_FALSE(hasError({makeFinding(FindingId::D1Zero, {std::string("m")})}));
+    EXPECT_TRUE(hasError({makeFinding(FindingId::D1Zero, {std::string("m")}), makeFinding(FindingId::NoNumbers)}));
+}
+
+} // namespace

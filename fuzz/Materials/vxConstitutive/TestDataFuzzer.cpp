@@ -17,7 +17,7 @@ void require(bool condition)
         std::abort();
 }
 
-/// A few units, one of them with a factor that overflows.
+/// Knows a few units; the factor of one overflows.
 std::optional<double> factorOf(std::string_view unit, Dimension dimension)
 {
     if (unit == "MPa" && dimension == Dimension::Stress)
@@ -49,7 +49,7 @@ void takeAll(const TestTable& table, Mode mode)
 
 } // namespace
 
-/// Any bytes are read or refused, every cell is a finite number or none, and what is taken for a test is inside its
+/// Requires that any bytes are read or refused, that each cell is finite or NaN, and that the points of a test are inside its
 /// domain.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -1,3 +1,25 @@
+#include "vxConstitutive/Curve.h"
+#include "vxConstitutive/Finding.h"
+#include "vxConstitutive/MaterialModels.h"
+#include "vxConstitutive/Model.h"
+#include "vxConstitutive/Texts.h"
+#include "vxConstitutive/data/TestData.h"
+#include "vxConstitutive/data/TestReading.h"
+#include "vxConstitutive/data/TestTable.h"
+#include "vxConstitutive/data/UnitFactor.h"
+#include "vxConstitutive/fit/Fit.h"
+#include "vxConstitutive/fit/HyperelasticFit.h"
+#include "vxConstitutive/fit/PlasticFit.h"
+#include "vxConstitutive/fit/RateFits.h"
+#include "vxConstitutive/response/FrictionModel.h"
+#include "vxConstitutive/response/HyperelasticModel.h"
+#include "vxConstitutive/response/Langevin.h"
+#include "vxConstitutive/response/LinearElasticModel.h"
+#include "vxConstitutive/response/NortonModel.h"
+#include "vxConstitutive/response/PlasticModel.h"
+#include "vxConstitutive/response/Stability.h"
+#include "vxConstitutive/response/StrainEnergy.h"
+#include "vxConstitutive/response/ViscoElasticModel.h"
 #include "vxMaterial/exchange/CAEBCS.h"
 #include "vxMaterial/exchange/CAEBase.h"
 #include "vxMaterial/exchange/CAEDCS.h"
@@ -42,7 +64,7 @@
 #include <memory>
 
 /// Uses every installed header like a program outside the tree: takes a material of the library,
-/// makes a card, writes a document and reads its text, and reads a number with a unit.
+/// makes a card, writes a document and reads its text, reads a number with a unit, and finds a model.
 int main()
 {
     auto entry = std::make_unique<vxCAE::MaterialEntry>();
@@ -58,5 +80,8 @@ int main()
     std::cout << ' ' << reading.document["material"].size();
 
     const auto modulus = vxUnits::readQuantity(vxMat::PropertyId::YoungsModulus, "210 GPa");
-    std::cout << ' ' << modulus->value << '\n';
+    std::cout << ' ' << modulus->value;
+
+    const vxConstitutive::MaterialModels models = vxConstitutive::modelsOf(vxMat::StructuralSteel());
+    std::cout << ' ' << vxConstitutive::modelRecord(models.models.front()->kind()).key << '\n';
 }

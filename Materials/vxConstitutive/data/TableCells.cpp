@@ -211,7 +211,9 @@ bool isUnit(std::string_view text, const UnitFactor& units)
     if (text == "1" || text == "-")
         return true;
     constexpr std::array<Dimension, 4> all{Dimension::Number, Dimension::Stress, Dimension::Time, Dimension::Rate};
-    return !text.empty() && units &&
+    // The word is a unit of numbers too, but in a header it is the name of a column.
+    const bool isName = vxMat::equalIgnoringAsciiCase(text, "strain");
+    return !text.empty() && !isName && units &&
            std::any_of(all.begin(), all.end(), [&](Dimension dimension) { return units(text, dimension).has_value(); });
 }
 

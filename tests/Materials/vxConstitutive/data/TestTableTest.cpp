@@ -113,7 +113,8 @@ TEST(TableHeader, NamesAndUnitsAreSeparated)
           Case{"Strain %", "Strain", "%"}, Case{"Strain [-]", "Strain", "-"},
           Case{"Stress (engineering)", "Stress (engineering)", ""}, Case{"Stress (true) [kPa]", "Stress (true)", "kPa"},
           Case{"Stress [furlong]", "Stress", "furlong"}, Case{"stress/strain", "stress/strain", ""},
-          Case{"Run 1", "Run 1", ""}})
+          Case{"Run 1", "Run 1", ""}, Case{"Creep strain", "Creep strain", ""},
+          Case{"Strain ustrain", "Strain", "ustrain"}})
     {
         const TestTable table = read(std::string("x;") + c.cell + "\n1;2\n");
         ASSERT_EQ(table.columns.size(), 2U) << c.cell;

@@ -1,6 +1,7 @@
 #include "vxConstitutive/response/HyperelasticModel.h"
 
 #include "ConstitutiveTesting.h"
+#include "RubberConstants.h"
 
 #include <gtest/gtest.h>
 
@@ -8,45 +9,18 @@
 #include <limits>
 
 using namespace vxConstitutive;
+using vxtest::arrudaBoyce;
 using vxtest::derivative;
 using vxtest::firstArgument;
 using vxtest::has;
+using vxtest::mooneyRivlin;
+using vxtest::neoHooke;
 using vxtest::valueAt;
 
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 const std::vector<Mode> stretchModes{Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar};
-
-HyperelasticConstants neoHooke(double c10, double d1 = 0.0)
-{
-    HyperelasticConstants c;
-    c.kind = ModelKind::NeoHooke;
-    c.c10 = c10;
-    c.d1 = d1;
-    return c;
-}
-
-HyperelasticConstants mooneyRivlin(double c10, double c01, double c11 = 0.0, double d1 = 0.0)
-{
-    HyperelasticConstants c;
-    c.kind = ModelKind::MooneyRivlin;
-    c.c10 = c10;
-    c.c01 = c01;
-    c.c11 = c11;
-    c.d1 = d1;
-    return c;
-}
-
-HyperelasticConstants arrudaBoyce(double mu, double limit, double d1 = 0.0)
-{
-    HyperelasticConstants c;
-    c.kind = ModelKind::ArrudaBoyce;
-    c.mu = mu;
-    c.limitingStretch = limit;
-    c.d1 = d1;
-    return c;
-}
 
 double nominal(const HyperelasticConstants& constants, Mode mode, double abscissa)
 {

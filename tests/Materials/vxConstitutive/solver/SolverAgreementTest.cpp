@@ -1,5 +1,6 @@
 #include "AgreementTable.h"
 #include "Calculix.h"
+#include "RubberConstants.h"
 
 #include "vxConstitutive/response/HyperelasticModel.h"
 #include "vxConstitutive/response/LinearElasticModel.h"
@@ -15,10 +16,13 @@
 #include <vector>
 
 using namespace vxConstitutive;
+using vxtest::arrudaBoyce;
 using vxtest::deckNumber;
 using vxtest::Face;
 using vxtest::FaceValue;
 using vxtest::largestDifference;
+using vxtest::mooneyRivlin;
+using vxtest::neoHooke;
 using vxtest::recordAgreement;
 using vxtest::runCalculix;
 using vxtest::SolverModel;
@@ -143,36 +147,6 @@ struct RubberCase
 void PrintTo(const RubberCase& rubber, std::ostream* stream)
 {
     *stream << rubber.name;
-}
-
-HyperelasticConstants neoHooke(double c10, double d1)
-{
-    HyperelasticConstants c;
-    c.kind = ModelKind::NeoHooke;
-    c.c10 = c10;
-    c.d1 = d1;
-    return c;
-}
-
-HyperelasticConstants mooneyRivlin(double c10, double c01, double c11, double d1)
-{
-    HyperelasticConstants c;
-    c.kind = ModelKind::MooneyRivlin;
-    c.c10 = c10;
-    c.c01 = c01;
-    c.c11 = c11;
-    c.d1 = d1;
-    return c;
-}
-
-HyperelasticConstants arrudaBoyce(double mu, double limit, double d1)
-{
-    HyperelasticConstants c;
-    c.kind = ModelKind::ArrudaBoyce;
-    c.mu = mu;
-    c.limitingStretch = limit;
-    c.d1 = d1;
-    return c;
 }
 
 class RubberAgreement : public ::testing::TestWithParam<RubberCase>

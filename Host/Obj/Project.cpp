@@ -70,28 +70,16 @@ std::size_t Project::get_memory_usage() const
     bytes += m_objects.size() * (perEntry + sizeof(Objects::value_type));
     bytes += sizeof(ObjectIndex) + m_index->getMemoryUsage();
     bytes += m_goneObjects.size() * perEntry + m_goneNames.size() * (perEntry + sizeof(std::string));
-    for (const auto& [name, text] : m_settings)
-        bytes += perEntry + sizeof(std::pair<std::string, std::string>) + heapSizeOf(name) + heapSizeOf(text);
+    bytes += m_settings.getMemoryUsage();
     for (const auto& [objectId, object] : m_objects)
         bytes += object->get_memory_usage();
     return bytes;
 }
 
-std::string Project::getSetting(const std::string& name) const
+void Project::setSetting(const std::string& name, std::string text)
 {
-    const auto setting = m_settings.find(name);
-    return setting != m_settings.end() ? setting->second : std::string();
-}
-
-void Project::setSetting(const std::string& name, const std::string& text)
-{
-    if (getSetting(name) == text)
-        return;
-    if (text.empty())
-        m_settings.erase(name);
-    else
-        m_settings[name] = text;
-    changed(nullptr);
+    if (m_settings.set(name, std::move(text)))
+        changed(nullptr);
 }
 
 const char* Project::get_viewfeeder_name() const

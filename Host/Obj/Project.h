@@ -8,6 +8,7 @@
 #include "Obj/ProjectObjectExecReturn.h"
 #include "Obj/PropertyDS.h"
 #include "Obj/Removal.h"
+#include "Obj/Settings.h"
 #include "Obj/Signal.h"
 #include "Obj/UniqueNames.h"
 
@@ -73,11 +74,11 @@ public:
     std::size_t getObjectCount() const { return m_objects.size(); }
 
     /// Returns the settings of the project: texts that modules keep with it, by names such as "unit_system".
-    const std::map<std::string, std::string>& getSettings() const { return m_settings; }
-    /// Returns a setting; an empty text if the project does not have it.
-    std::string getSetting(const std::string& name) const;
+    const std::map<std::string, std::string>& getSettings() const { return m_settings.getAll(); }
+    /// Returns a setting; an empty text if the project does not have it. The text is valid until the setting changes.
+    const std::string& getSetting(const std::string& name) const { return m_settings.get(name); }
     /// Stores a setting, or removes it if `text` is empty, and sends `changed` with null. The present text makes no change.
-    void setSetting(const std::string& name, const std::string& text);
+    void setSetting(const std::string& name, std::string text);
 
     /// Returns a name from `stem` that no object of the project has or has had. Each call returns a different name.
     std::string get_unique_object_name(std::string_view stem);
@@ -162,7 +163,7 @@ private:
     std::uint64_t m_serial;
     std::uint32_t m_projectId = 0;
     std::string m_name;
-    std::map<std::string, std::string> m_settings;
+    Settings m_settings;
     Objects m_objects;
     std::unique_ptr<ObjectIndex> m_index; ///< of the objects in m_objects
     std::uint64_t m_nextObjectId = 1;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace Obj {
 
@@ -38,7 +39,8 @@ ProjectObject::~ProjectObject()
 
 std::size_t ProjectObject::get_memory_usage() const
 {
-    return PropertyDS::get_memory_usage() + heapSizeOf(m_name) + m_links.capacity() * sizeof(Link);
+    return PropertyDS::get_memory_usage() + heapSizeOf(m_name) + m_links.capacity() * sizeof(Link) +
+           m_settings.getMemoryUsage();
 }
 
 const char* ProjectObject::get_viewfeeder_name() const
@@ -123,6 +125,12 @@ void ProjectObject::setSuppressed(bool suppressed)
         return;
     m_suppressed = suppressed;
     notifyChange();
+}
+
+void ProjectObject::setSetting(const std::string& name, std::string text)
+{
+    if (m_settings.set(name, std::move(text)))
+        notifyChange();
 }
 
 // --- Links ---

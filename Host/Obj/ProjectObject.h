@@ -4,10 +4,12 @@
 #include "Obj/ObjExport.h"
 #include "Obj/ObjectState.h"
 #include "Obj/PropertyDS.h"
+#include "Obj/Settings.h"
 
 #include <json/value.h>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -31,8 +33,8 @@ public:
     ProjectObject();
     ~ProjectObject() override;
 
-    /// Returns the size that PropertyDS counts, plus the internal name and the links. Content that a module holds
-    /// besides the properties is not counted.
+    /// Returns the size that PropertyDS counts, plus the internal name, the links and the settings. Content that a module
+    /// holds besides the properties is not counted.
     std::size_t get_memory_usage() const override;
 
     /// Returns the registered class of the object's node in the tree; empty for the standard node.
@@ -99,6 +101,14 @@ public:
     bool isSuppressed() const { return m_suppressed; }
     void setSuppressed(bool suppressed);
 
+    /// Returns the settings of the object: texts that modules keep with it, by names such as "measurements". Project
+    /// files and copies contain them, also if no module knows them.
+    const std::map<std::string, std::string>& getSettings() const { return m_settings.getAll(); }
+    /// Returns a setting; an empty text if the object does not have it. The text is valid until the setting changes.
+    const std::string& getSetting(const std::string& name) const { return m_settings.get(name); }
+    /// Stores a setting, or removes it if `text` is empty, and calls notifyChange. The present text makes no change.
+    void setSetting(const std::string& name, std::string text);
+
     PropertyInteger id;        ///< "ID"
     PropertyString classLabel; ///< "ClassLabel"
     PropertyString label;      ///< "Label", which the user sees and edits
@@ -156,6 +166,7 @@ private:
     std::uint64_t m_origin = 0; ///< the serial of the project that holds or held it
     std::string m_name;
     Links m_links;
+    Settings m_settings;
     eVXObjectState m_state = eVXObjectState::Initial;
     bool m_suppressed = false;
     bool m_isDue = true; ///< to be executed

@@ -277,15 +277,36 @@ bool MessageProxy::setSetting(const std::string& projectName, const std::string&
         return false;
     if (name.empty())
         return report(tr("The name of a setting must not be empty; nothing was changed."));
-    const std::string before = project->getSetting(name);
-    if (before == text)
+    if (project->getSetting(name) == text)
         return true;
     const QString readable = Obj::readableName(name.c_str());
     const QString stepText =
         text.empty() ? tr("Reset \"%1\"").arg(readable) : tr(R"(Change "%1" to "%2")").arg(readable, shown(text));
     return carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
-        auto command = std::make_unique<SettingCommand>(stepText, project->getProjectId(), name, before, text);
+        auto command =
+            std::make_unique<SettingCommand>(stepText, PropertyPlace(*project), name, project->getSetting(name), text);
         project->setSetting(name, text);
+        return command;
+    });
+}
+
+bool MessageProxy::setSetting(Obj::ProjectObject& object, const std::string& name, const std::string& text)
+{
+    if (!mayAct())
+        return false;
+    if (object.get_project() == nullptr)
+        return report(tr("\"%1\" is in no project; nothing was changed.").arg(labelOf(object)));
+    if (name.empty())
+        return report(tr("The name of a setting must not be empty; nothing was changed."));
+    if (object.getSetting(name) == text)
+        return true;
+    // The text is not shown: it may be very long.
+    const QString stepText = (text.empty() ? tr(R"(Remove "%1" of "%2")") : tr(R"(Change "%1" of "%2")"))
+                                 .arg(Obj::readableName(name.c_str()), labelOf(object));
+    return carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
+        auto command =
+            std::make_unique<SettingCommand>(stepText, PropertyPlace(object), name, object.getSetting(name), text);
+        object.setSetting(name, text);
         return command;
     });
 }

@@ -57,6 +57,8 @@ public:
     bool setProperty(const PropertyPlace& place, const std::string& propertyName, const std::string& text);
     /// Sets a setting of a project (Obj::Project::setSetting); an empty text removes it. The present text makes no step.
     bool setSetting(const std::string& projectName, const std::string& name, const std::string& text);
+    /// Sets a setting of an object of a project (Obj::ProjectObject::setSetting) in the same way.
+    bool setSetting(Obj::ProjectObject& object, const std::string& name, const std::string& text);
     /// Suppresses an object of a project, or ends the suppression. Setting the present state is not a step.
     bool setSuppressed(Obj::ProjectObject& object, bool suppressed);
     /// Executes the due objects of a project, and passes its data to the solver side. Not a step: it changes nothing

@@ -85,10 +85,10 @@ void RenameCommand::set(const std::string& name) const
         static_cast<void>(application.renameProject(*project, name));
 }
 
-SettingCommand::SettingCommand(const QString& text, std::uint32_t projectId, std::string name, std::string before,
+SettingCommand::SettingCommand(const QString& text, PropertyPlace place, std::string name, std::string before,
                                std::string after)
     : DoneCommand(text),
-      m_projectId(projectId),
+      m_place(std::move(place)),
       m_name(std::move(name)),
       m_before(std::move(before)),
       m_after(std::move(after))
@@ -96,7 +96,10 @@ SettingCommand::SettingCommand(const QString& text, std::uint32_t projectId, std
 
 void SettingCommand::set(const std::string& text) const
 {
-    if (Obj::Project* const project = Obj::Application::instance().get_project(m_projectId))
+    Obj::PropertyDS* const owner = m_place.find();
+    if (auto* const object = dynamic_cast<Obj::ProjectObject*>(owner))
+        object->setSetting(m_name, text);
+    else if (auto* const project = dynamic_cast<Obj::Project*>(owner))
         project->setSetting(m_name, text);
 }
 

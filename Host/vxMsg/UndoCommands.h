@@ -155,12 +155,11 @@ private:
     std::string m_after;
 };
 
-/// Another text of a setting of a project; an empty text if the setting is missing.
+/// Another text of a setting of a project or an object; an empty text if the setting is missing.
 class SettingCommand final : public DoneCommand
 {
 public:
-    SettingCommand(const QString& text, std::uint32_t projectId, std::string name, std::string before,
-                   std::string after);
+    SettingCommand(const QString& text, PropertyPlace place, std::string name, std::string before, std::string after);
 
     void undo() override { set(m_before); }
 
@@ -170,7 +169,7 @@ protected:
 private:
     void set(const std::string& text) const;
 
-    std::uint32_t m_projectId;
+    PropertyPlace m_place;
     std::string m_name;
     std::string m_before;
     std::string m_after;

@@ -22,9 +22,10 @@ class GuiApplication;
 /// version 1, and "objects", an array of objects with the members
 /// - "class", "label" and "suppressed"; earlier programs write only these and "content";
 /// - "project", "project_class", "id" and "name": the source of the copy;
-/// - "properties", "node" (properties of the tree node), "links" (ids of objects), "group" (id) and "content" (of the
-/// class's codec, see Obj::ContentCodec), each if it is not empty;
-/// - "record" instead of these for an object whose class is missing (Obj::PlaceholderObject).
+/// - "properties", "node" (properties of the tree node), "links" (ids of objects), "group" (id), "settings" (texts by
+/// name) and "content" (of the class's codec, see Obj::ContentCodec), each if it is not empty;
+/// - "record" instead of "properties", "node" and "content" for an object whose class is missing
+/// (Obj::PlaceholderObject).
 ///
 /// References and links between objects that are pasted together refer to the copies. References and links to other
 /// objects are kept in the project that the objects were copied from, and left out in other projects.

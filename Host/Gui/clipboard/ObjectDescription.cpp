@@ -40,6 +40,15 @@ Json::Value describeProperties(const Obj::ProjectObject& object)
     return properties.empty() ? Json::Value() : properties;
 }
 
+/// Returns texts by name; null if there are none.
+Json::Value describeSettings(const Obj::ProjectObject& object)
+{
+    Json::Value settings;
+    for (const auto& [name, text] : object.getSettings())
+        settings[name] = text;
+    return settings;
+}
+
 Json::Value describeOrigin(const Obj::ProjectObject& object)
 {
     const Obj::Project& project = *object.get_project();
@@ -61,6 +70,7 @@ Json::Value describeObject(const GuiApplication& application, Obj::ProjectObject
     description["label"] = object.label.getValue();
     description["suppressed"] = object.isSuppressed();
     addMember(description, "links", Obj::writeLinks(object));
+    addMember(description, "settings", describeSettings(object));
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderObject*>(&object)) {
         description["class"] = placeholder->getOriginalClass();
         description["record"] = placeholder->getRecord();

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <stdexcept>
 #include <string_view>
 
 namespace Gui {
@@ -50,6 +51,22 @@ Json::Value partOf(const Json::Value& description, const char* name)
 {
     const Json::Value& whole = description.isMember("record") ? description["record"] : description;
     return whole.isObject() ? whole[name] : Json::Value();
+}
+
+/// Throws if the settings are not texts by name.
+std::map<std::string, std::string> settingsOf(const Json::Value& description)
+{
+    const Json::Value& settings = description["settings"];
+    std::map<std::string, std::string> texts;
+    if (!settings.isNull() && !settings.isObject())
+        throw std::runtime_error(tr("The settings are not an object.").toStdString());
+    for (const std::string& name : settings.getMemberNames()) {
+        if (!settings[name].isString())
+            throw std::runtime_error(
+                tr("The setting \"%1\" is not a text.").arg(QString::fromStdString(name)).toStdString());
+        texts.emplace(name, settings[name].asString());
+    }
+    return texts;
 }
 
 /// Throws if the content cannot be read. The object is outside the project: inside, it would add a step to the history.
@@ -91,6 +108,7 @@ void Pasting::add(const Json::Value& description)
 {
     const QString label = QString::fromStdString(description.get("label", "").asString());
     const bool suppressed = description.get("suppressed", false).asBool();
+    const std::map<std::string, std::string> settings = settingsOf(description);
     const Json::Value content = partOf(description, "content");
     const Obj::ContentCodec* const codec = content.isNull() ? nullptr : Obj::findContentCodec(typeOf(description));
     if (codec != nullptr)
@@ -102,6 +120,8 @@ void Pasting::add(const Json::Value& description)
     if (codec != nullptr)
         codec->read(*object, content);
     object->setSuppressed(suppressed);
+    for (const auto& [name, text] : settings)
+        object->setSetting(name, text);
     m_pasted.push_back({object->getObjectId(), description});
     if (description["id"].isUInt())
         m_copies[{textOf(description, "project"), description["id"].asUInt()}] = object->getObjectId();

@@ -105,6 +105,30 @@ TEST_F(ProjectObjectTest, TellsItsProjectWhatChanges)
     EXPECT_THAT(changesNow(), ElementsAre(otherChange));
 }
 
+TEST_F(ProjectObjectTest, KeepsSettingsAndReportsOnlyChanges)
+{
+    Assembly& assembly = addAssembly();
+    Part& part = assembly.addPart();
+    int changes = 0;
+    assembly.objectChanged.connect([&](ProjectObject& object, const Obj::Property* property) {
+        EXPECT_EQ(&object, &part);
+        EXPECT_EQ(property, nullptr);
+        ++changes;
+    });
+    EXPECT_EQ(part.getSetting("measurements"), "");
+    const std::size_t empty = part.get_memory_usage();
+    part.setSetting("measurements", std::string(1000, 'm'));
+    part.setSetting("measurements", std::string(1000, 'm'));
+    EXPECT_EQ(part.getSetting("measurements"), std::string(1000, 'm'));
+    EXPECT_GT(part.get_memory_usage(), empty + 1000);
+    EXPECT_EQ(changes, 1);
+    part.setSetting("measurements", "");
+    part.setSetting("other", "");
+    EXPECT_THAT(part.getSettings(), IsEmpty());
+    EXPECT_EQ(part.get_memory_usage(), empty);
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(ProjectObjectTest, FindsItsStateWhenItIsRefreshed)
 {
     Part& part = addAssembly().addPart();

@@ -87,6 +87,21 @@ TEST_F(ListenerTest, MayCloseTheProjectWhoseSettingIsChanged)
     EXPECT_EQ(application().get_project("Machine")->getSetting("drawing_scale"), "");
 }
 
+TEST_F(ListenerTest, MayDeleteTheObjectWhoseSettingIsChanged)
+{
+    ASSERT_TRUE(add("Bolt"));
+    const int before = stack().count();
+    scoped_connection listening = m_project->objectChanged.connect(
+        [](ProjectObject& object, const Obj::Property*) { EXPECT_TRUE(remove(object.get_name_in_project())); });
+    EXPECT_TRUE(proxy().setSetting(*m_project->get_object("Bolt"), "measurements", "first"));
+    listening.disconnect();
+    EXPECT_EQ(m_project->get_object("Bolt"), nullptr);
+    EXPECT_EQ(stack().count(), before + 1) << "both are undone together";
+    stack().undo();
+    ASSERT_NE(m_project->get_object("Bolt"), nullptr);
+    EXPECT_THAT(m_project->get_object("Bolt")->getSettings(), IsEmpty());
+}
+
 // --- Objects that are removed at once ---
 
 TEST_F(ListenerTest, IsNotNotifiedOfACreatedObjectThatAnotherListenerDeletedByRequest)

@@ -642,6 +642,61 @@ TEST_F(MessageProxyTest, RestoresASettingWithItsProject)
     EXPECT_EQ(application().get_project("Machine")->getSetting("drawing_scale"), "");
 }
 
+// --- Settings of objects ---
+
+TEST_F(MessageProxyTest, ChangesASettingOfAnObjectInOneStep)
+{
+    Part& bolt = part("Bolt");
+    bolt.label.setValue("Long bolt");
+    const int before = stack().count();
+    EXPECT_TRUE(proxy().setSetting(bolt, "measurements", "first"));
+    EXPECT_TRUE(proxy().setSetting(bolt, "measurements", "first"));
+    EXPECT_EQ(stack().count(), before + 1) << "the present text makes no step";
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"measurements\" of \"Long bolt\""));
+    EXPECT_TRUE(proxy().setSetting(bolt, "measurements", "second"));
+    EXPECT_TRUE(proxy().setSetting(bolt, "measurements", ""));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Remove \"measurements\" of \"Long bolt\""));
+    EXPECT_THAT(bolt.getSettings(), IsEmpty());
+    stack().undo();
+    EXPECT_EQ(bolt.getSetting("measurements"), "second");
+    stack().undo();
+    EXPECT_EQ(bolt.getSetting("measurements"), "first");
+    stack().undo();
+    EXPECT_THAT(bolt.getSettings(), IsEmpty());
+    stack().redo();
+    EXPECT_EQ(bolt.getSetting("measurements"), "first");
+    EXPECT_THAT(m_project->getSettings(), IsEmpty());
+}
+
+TEST_F(MessageProxyTest, RefusesASettingOfAnObjectWithoutANameOrAProject)
+{
+    Part& bolt = part("Bolt");
+    const int before = stack().count();
+    const vxtest::Reports reports;
+    EXPECT_FALSE(proxy().setSetting(bolt, "", "first"));
+    EXPECT_THAT(reports.text(), HasSubstr("The name of a setting must not be empty; nothing was changed."));
+    Part outside;
+    outside.label.setValue("Loose");
+    EXPECT_FALSE(proxy().setSetting(outside, "measurements", "first"));
+    EXPECT_THAT(reports.text(), HasSubstr("\"Loose\" is in no project; nothing was changed."));
+    EXPECT_THAT(outside.getSettings(), IsEmpty());
+    EXPECT_EQ(stack().count(), before);
+}
+
+TEST_F(MessageProxyTest, RestoresASettingWithItsObjectAndItsProject)
+{
+    EXPECT_TRUE(proxy().setSetting(part("Bolt"), "measurements", "first"));
+    EXPECT_TRUE(proxy().deleteObject("Machine", "Bolt"));
+    stack().undo();
+    EXPECT_EQ(application().get_project("Machine")->get_object("Bolt")->getSetting("measurements"), "first");
+    EXPECT_TRUE(closeProject("Machine"));
+    stack().undo();
+    const Obj::ProjectObject* const bolt = application().get_project("Machine")->get_object("Bolt");
+    EXPECT_EQ(bolt->getSetting("measurements"), "first");
+    stack().undo();
+    EXPECT_EQ(bolt->getSetting("measurements"), "") << "the step finds the object that has returned";
+}
+
 TEST_F(MessageProxyTest, MakesNoStepOfTheValueThatAPropertyHas)
 {
     Part& bolt = part("Bolt");

@@ -62,6 +62,38 @@ TEST_F(Clipboard, CarriesLabelContentAndSuppression)
     EXPECT_FALSE(object.content.empty());
 }
 
+TEST_F(Clipboard, CarriesSettings)
+{
+    vxtest::TestObject& object = addObject(project, "Beam");
+    const std::string text("{\"a\": [1, 2]} \xE2\x82\xAC\n\0.", 20);
+    object.setSetting("measurements", text);
+    object.setSetting("later", "kept");
+    for (const auto& copies :
+         {clipboard().duplicate({&object}), clipboard().read(clipboard().write({&object}), makeProject("Other"))})
+    {
+        ASSERT_THAT(copies, SizeIs(1));
+        EXPECT_EQ(copies[0]->getSettings(), object.getSettings());
+        EXPECT_EQ(copies[0]->getSetting("measurements"), text);
+    }
+    undoStack().undo();
+    undoStack().redo();
+    EXPECT_EQ(Obj::Application::instance().get_project("Other")->getObjects().at(0)->getSettings(),
+              object.getSettings());
+}
+
+TEST_F(Clipboard, AddsNothingWhoseSettingsCannotBeRead)
+{
+    for (const char* const settings : {"[]", "7", "\"text\"", "{\"measurements\": 3}", "{\"measurements\": null}"}) {
+        SCOPED_TRACE(settings);
+        const QByteArray text =
+            QByteArray(R"({"kelta_objects": 1, "objects": [{"class": "Test::Object", "label": "A", "settings": )") +
+            settings + "}]}";
+        EXPECT_THAT(clipboard().read(text, project), IsEmpty());
+        EXPECT_THAT(lastMessage(), HasSubstr("setting"));
+    }
+    EXPECT_EQ(undoStack().count(), 0);
+}
+
 TEST_F(Clipboard, HoldsTheSameAsTextForOthers)
 {
     clipboard().copy({&addObject(project)});
@@ -370,15 +402,18 @@ protected:
     }
 };
 
-TEST_F(CopiedPlaceholders, KeepTheirClassAndRecord)
+TEST_F(CopiedPlaceholders, KeepTheirClassRecordAndSettings)
 {
-    addPlaceholder(project).label.setValue("The bolt");
+    Obj::PlaceholderObject& bolt = addPlaceholder(project);
+    bolt.label.setValue("The bolt");
+    bolt.setSetting("torque_test", "80 Nm");
     const auto copies = clipboard().duplicate(project.getObjects());
     ASSERT_THAT(copies, SizeIs(1));
     const auto* const copy = dynamic_cast<const Obj::PlaceholderObject*>(copies[0]);
     ASSERT_NE(copy, nullptr);
     EXPECT_EQ(copy->getOriginalClass(), "Lost::Bolt");
     EXPECT_EQ(copy->getRecord(), record());
+    EXPECT_EQ(copy->getSetting("torque_test"), "80 Nm");
     EXPECT_EQ(copy->label.getValue(), "The bolt copy");
 }
 

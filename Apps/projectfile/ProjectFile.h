@@ -48,6 +48,7 @@ struct PROJECTFILE_EXPORT ObjectRecord
     /// The numbers of the objects that this one needs, in order; for a group, the numbers of its members. Each number
     /// occurs once and belongs to another object of the project.
     std::vector<std::uint32_t> links;
+    std::map<std::string, std::string> settings;   ///< texts by name; settings of any name are kept
     const vxMat::MaterialBase* material = nullptr; ///< null for an object of another class; see `ownMaterial`
     /// The content of an object of another class, in the form that its module writes; null if there is none.
     Json::Value content;

@@ -87,11 +87,12 @@ void visitIdentity(Object& object, const Visit& visit)
 }
 
 template <class Object, class Visit>
-void visitPropertiesAndLinks(Object& object, const Visit& visit)
+void visitCommonMembers(Object& object, const Visit& visit)
 {
     visit("properties", OptionalObject{object.properties});
     visit("node", OptionalObject{object.node});
     visit("links", object.links);
+    visit("settings", object.settings);
 }
 
 /// The members of an object that is a material. `material` is the visitor's own representation of the material.
@@ -100,7 +101,7 @@ void visitMaterialObjectMembers(Object& object, MaterialField& material, const V
 {
     visitIdentity(object, visit);
     visit("colour", object.colour);
-    visitPropertiesAndLinks(object, visit);
+    visitCommonMembers(object, visit);
     visit("material", Required{material});
 }
 
@@ -109,7 +110,7 @@ template <class Object, class Visit>
 void visitOtherObjectMembers(Object& object, const Visit& visit)
 {
     visitIdentity(object, visit);
-    visitPropertiesAndLinks(object, visit);
+    visitCommonMembers(object, visit);
     visit("content", Optional{object.content});
 }
 

@@ -45,6 +45,7 @@ projectfile::ObjectRecord recordObject(Obj::ProjectObject& object, const KeptObj
     record.suppressed = object.isSuppressed();
     for (const Obj::ProjectObject* const other : object.getLinks())
         record.links.push_back(other->getObjectId());
+    record.settings = object.getSettings();
     record.further = kept.further;
     if (const auto* const placeholder = dynamic_cast<const Obj::PlaceholderObject*>(&object))
         writePlaceholder(*placeholder, record);

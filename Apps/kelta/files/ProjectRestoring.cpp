@@ -90,6 +90,8 @@ private:
                        .arg(labelOf(entry), classOf(entry)));
         object->label.setValue(entry.label);
         object->setSuppressed(entry.suppressed);
+        for (auto& [name, text] : entry.settings)
+            object->setSetting(name, std::move(text));
         if (!entry.further.isNull())
             keep(entry).further = std::move(entry.further);
         if (dynamic_cast<const Obj::PlaceholderObject*>(object) == nullptr)
@@ -165,8 +167,8 @@ private:
     {
         m_kept.further = std::move(m_record.further);
         m_kept.database = std::move(m_record.database);
-        for (const auto& [name, text] : m_record.settings)
-            m_project.setSetting(name, text);
+        for (auto& [name, text] : m_record.settings)
+            m_project.setSetting(name, std::move(text));
         if (isPlaceholder()) {
             m_missingClasses.insert(m_record.className);
             return;

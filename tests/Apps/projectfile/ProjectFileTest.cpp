@@ -918,6 +918,48 @@ TEST(ProjectFile, WritesNoSettingsIfThereAreNone)
     EXPECT_EQ(smallText().find("settings"), std::string::npos);
 }
 
+TEST(ProjectFile, KeepsSettingsOfEveryObject)
+{
+    ProjectRecord project = makeMixedProject();
+    project.objects[0].settings = {{"measurements", "{\"version\": 1}"}, {"", std::string("a\0b", 3)}};
+    project.objects[2].settings = {{"\xE9\x92\xA2 \"\n", "\xC2\xB5m"}};
+    const std::string text = writeProject(project);
+    EXPECT_THAT(text, HasSubstr("      \"settings\": {\n        \"\": \"a\\u0000b\",\n        \"measurements\": "
+                                "\"{\\\"version\\\": 1}\"\n      },\n      \"material\": {\n"));
+    expectSame(readProject(text), project);
+    EXPECT_EQ(writeProject(readProject(text)), text);
+}
+
+TEST(ProjectFile, RefusesWrongSettingsOfObjects)
+{
+    ProjectRecord project = makeMixedProject();
+    project.objects[0].settings = {{"measurements", "m"}};
+    project.objects[2].settings = {{"probe", "p"}};
+    const std::string text = writeProject(project);
+    const std::string measured = "\"measurements\": \"m\"";
+    EXPECT_EQ(refusalOf(replaced(text, measured, "\"measurements\": 3")),
+              "\"materials[0].settings.measurements\" is 3 but must be a text");
+    EXPECT_EQ(refusalOf(replaced(text, measured, "\"measurements\": null")),
+              "\"materials[0].settings.measurements\" is null but must be a text");
+    EXPECT_EQ(refusalOf(replaced(text, "\"probe\": \"p\"", "\"probe\": {}")),
+              "\"objects[0].settings.probe\" is an object but must be a text");
+    EXPECT_THAT(refusalOf(replaced(text, measured, measured + ", " + measured)), HasSubstr("measurements"));
+    EXPECT_THAT(
+        refusalOf(replaced(text, "\"settings\": {\n        \"measurements\": \"m\"\n      }", "\"settings\": []")),
+        HasSubstr("\"materials[0].settings\" is an array but must be an object"));
+    project.objects[0].settings["measurements"] = "\xFF";
+    EXPECT_THAT(refusalOf(project), HasSubstr("\"materials[0].settings.measurements\""));
+}
+
+TEST(ProjectFile, KeepsASettingOfFortyMegabytes)
+{
+    ProjectRecord project = makeSmallProject();
+    std::string& text = project.objects[0].settings["measurements"];
+    while (text.size() < 40000000U)
+        text += "1.2345678901234567, ";
+    expectSame(readProject(writeProject(project)), project);
+}
+
 TEST(ProjectFile, RefusesSettingsThatAreNotUtf8)
 {
     ProjectRecord project = makeSmallProject();

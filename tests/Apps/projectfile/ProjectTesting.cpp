@@ -94,6 +94,7 @@ void expectSame(const projectfile::ProjectRecord& a, const projectfile::ProjectR
         EXPECT_EQ(one.properties.toStyledString(), other.properties.toStyledString());
         EXPECT_EQ(one.node.toStyledString(), other.node.toStyledString());
         EXPECT_EQ(one.links, other.links);
+        EXPECT_EQ(one.settings, other.settings);
         EXPECT_EQ(one.content.toStyledString(), other.content.toStyledString());
         EXPECT_EQ(one.further.toStyledString(), other.further.toStyledString());
         ASSERT_EQ(one.material == nullptr, other.material == nullptr);
@@ -225,6 +226,8 @@ projectfile::ProjectRecord Dice::makeMixedProject(int objects)
             if (upTo(3) == 0)
                 object.links.push_back(other);
         }
+        if (upTo(2) == 0)
+            object.settings[text()] = text();
     }
     if (upTo(1) == 1)
         project.further["later"] = anything(2);

@@ -137,6 +137,7 @@ TEST(Schema, FitsAProjectWithEveryMember)
     object.suppressed = true;
     object.colour = {0.0F, 0.25F, 1.0F, 0.1F};
     object.material = &material;
+    object.settings = {{"measurements", "\n"}, {"later", "kept"}};
     object.further["object"]["later"] = Json::arrayValue;
     const Folder folder;
     EXPECT_EQ(faultsBySchema(projects, {folder.file("everything.vxmat", projectfile::writeProject(project)),
@@ -224,8 +225,8 @@ TEST(Schema, FitsProjectsWithObjectsOfOtherClasses)
 {
     const Folder folder;
     std::vector<std::string> files;
-    for (const char* const name :
-         {"01-materials", "02-mixed", "03-other-class", "04-any-order", "05-members-of-later-programs", "07-settings"})
+    for (const char* const name : {"01-materials", "02-mixed", "03-other-class", "04-any-order",
+                                   "05-members-of-later-programs", "07-settings", "08-settings-of-objects"})
     {
         const projectfile::ProjectRecord project = projectfile::readProject(vxtest::readText(projectFile(name)));
         files.push_back(projectFile(name));
@@ -245,6 +246,9 @@ TEST(Schema, RefusesInvalidObjectsOfOtherClasses)
         {"\"format_version\": 1,", R"("format_version": 1, "settings": {"unit_system": 3},)"},
         {"\"format_version\": 1,", R"("format_version": 1, "settings": {"later": 3},)"},
         {"\"object_id\": 3", "\"object_id\": 0"},
+        {"\"object_id\": 3", R"("object_id": 3, "settings": [])"},
+        {"\"object_id\": 3", R"("object_id": 3, "settings": {})"},
+        {"\"object_id\": 3", R"("object_id": 3, "settings": {"later": 3})"},
         {"\"class\": \"Stub::Probe\",", ""},
         {"\"class\": \"Stub::Probe\"", R"("class": "Stub\u0000Probe")"},
         {"\"class\": \"Stub::Probe\"", R"("class": "Mat::MaterialObject")"},

@@ -174,6 +174,16 @@ TEST_F(SetQuantity, RecordsTheUnitSystemInWhichTheProjectIsShown)
     EXPECT_EQ(propertyOf("Frame", 5).value, before.value) << "the numbers of the file are in SI";
 }
 
+TEST_F(SetQuantity, KeepsWhatTheProjectKeepsBesideAMaterial)
+{
+    projectfile::ProjectRecord before = projectfile::readProject(vxtest::readText(file()));
+    before.objects.at(1).settings = {{"measurements", "[1, 2]"}, {"later", "\xC2\xB5"}};
+    projectfile::writeFile(QString::fromStdString(file()), projectfile::writeProject(before));
+    ASSERT_EQ(set("Pipe", "E", "210 GPa").status, 0);
+    ASSERT_EQ(vxmat({"set", file(), "--project-units", "mm-t-s"}).status, 0);
+    EXPECT_EQ(projectfile::readProject(vxtest::readText(file())).objects.at(1).settings, before.objects[1].settings);
+}
+
 TEST_F(SetQuantity, TakesAValueAndAUnitSystemAtOnce)
 {
     const Outcome run = vxmat({"set", file(), "Frame", "E", "210 GPa", "--project-units", "cm-g-s"});

@@ -40,6 +40,7 @@ protected:
   "database": {"proj_id": 7, "owner": "Ada"}, "materials": [], "objects": [
     {"object_id": 2, "class": "absent::Beam", "name_internal": "Column", "label": "Column", "suppressed": true,
      "properties": {"Length": 1.25, "Hollow": false, "Support": null}, "node": {"LineWidth": 3},
+     "settings": {"load_test": "kept"},
      "content": {"loads": [0.1, 1e300]}, "supplier": "Mill 7"},
     {"object_id": 5, "class": "absent::Beam", "name_internal": "Girder", "label": "Girder", "suppressed": false,
      "properties": {"Support": 2}, "links": [2], "content": [1, {"deep": [null, true]}]},

@@ -1164,6 +1164,31 @@ TEST_F(ProjectFiles, KeepTheSettingsOfTheirProjectWithTheirHistory)
     EXPECT_FALSE(history().canUndo());
 }
 
+TEST_F(ProjectFiles, KeepTheMeasurementsOfAMaterialWithItsHistory)
+{
+    newProject();
+    Mat::MaterialObject& rubber = addMaterial("Rubber");
+    ASSERT_TRUE(run("Std_SaveAs", path("a.vxmat")));
+    ASSERT_TRUE(vxMsg::MessageProxy::instance().setSetting(rubber, "measurements", "[1, 2]"));
+    EXPECT_TRUE(isModified());
+    history().undo();
+    EXPECT_FALSE(isModified());
+    history().redo();
+    files->keepCopies();
+    ASSERT_EQ(copies().size(), 1);
+    EXPECT_TRUE(contentOf(copies().front()).contains("\"measurements\": \"[1, 2]\"")) << "recovery restores it";
+    Gui::TreeSelectionSingleton::instance().setSelection({}, {&rubber});
+    ASSERT_TRUE(run("Std_DuplicateSelection"));
+    ASSERT_TRUE(run("Std_Save"));
+    EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {path("a.vxmat").toStdString()}), "");
+    ASSERT_TRUE(closeProject());
+    ASSERT_TRUE(run("Std_Open", path("a.vxmat")));
+    EXPECT_EQ(findMaterial("Rubber")->getSetting("measurements"), "[1, 2]");
+    EXPECT_EQ(findMaterial("Rubber copy")->getSetting("measurements"), "[1, 2]");
+    EXPECT_FALSE(isModified());
+    EXPECT_FALSE(history().canUndo());
+}
+
 TEST_F(ProjectFiles, TakeInNothingOfAWrongDocument)
 {
     newProject();

@@ -17,6 +17,7 @@
 #include <iterator>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace commandline {
@@ -200,6 +201,19 @@ Side sideOf(const std::optional<std::array<float, 4>>& colour)
     return colour ? sideOfNumbers(*colour) : Side{Json::Value(), "none"};
 }
 
+/// Returns a setting; an empty text if it is missing.
+std::string textOf(const std::map<std::string, std::string>& settings, const std::string& name)
+{
+    const auto setting = settings.find(name);
+    return setting != settings.end() ? setting->second : std::string();
+}
+
+/// Returns a setting, which may be very long, as one line, shortened. An empty setting is the same as a missing one.
+Side sideOfSetting(const std::string& text)
+{
+    return text.empty() ? Side{Json::Value(), "none"} : Side{text, sideOf(vxjson::shortened(text)).text};
+}
+
 Side sideOf(vxMat::ePropertyCategory category)
 {
     return sideOf(std::string(vxMat::getPropertyCategoryName(static_cast<std::int32_t>(category))));
@@ -246,6 +260,7 @@ private:
             add(field, sideOf(one), sideOf(other));
     }
     void compareObjects(const ObjectRecord& one, const ObjectRecord& other);
+    void compareSettings(const ObjectRecord& one, const ObjectRecord& other);
     void compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other);
     void compareProperty(const PropertyOf& one, const PropertyOf& other);
     void compareWhatDocumentsLeaveBehind(const PropertyOf& left, const PropertyOf& right);
@@ -304,6 +319,22 @@ void Comparison::compareObjects(const ObjectRecord& one, const ObjectRecord& oth
     compareField("properties", one.properties, other.properties);
     compareField("node", one.node, other.node);
     compareField("links", one.links, other.links);
+    compareSettings(one, other);
+}
+
+/// Compares the texts that modules keep with an object, such as the measurements of a material.
+void Comparison::compareSettings(const ObjectRecord& one, const ObjectRecord& other)
+{
+    std::set<std::string> names;
+    for (const ObjectRecord* const object : {&one, &other})
+        for (const auto& [name, text] : object->settings)
+            names.insert(name);
+    for (const std::string& name : names) {
+        const std::string left = textOf(one.settings, name);
+        const std::string right = textOf(other.settings, name);
+        if (left != right)
+            add(("settings." + name).c_str(), sideOfSetting(left), sideOfSetting(right));
+    }
 }
 
 void Comparison::compareProperties(const vxMat::MaterialBase& one, const vxMat::MaterialBase& other)
@@ -380,7 +411,7 @@ std::string toText(const Difference& difference, const std::string& one, const s
         text += printable(difference.quantity) + " (" + std::to_string(*difference.property) + "): ";
     if (difference.field.empty())
         return text + "only in " + (difference.one.json.asBool() ? one : other) + "\n";
-    return text + difference.field + ": " + difference.one.text + " -> " + difference.other.text + "\n";
+    return text + printable(difference.field) + ": " + difference.one.text + " -> " + difference.other.text + "\n";
 }
 
 Json::Value toJson(const Difference& difference)

@@ -39,6 +39,18 @@ void noteWhatStaysBehind(const vxMat::MaterialBase& material, Answer& answer)
                                   ": exchange documents carry no words and lists; lost: " + lost);
 }
 
+/// Adds a note about the texts that a project keeps beside a material, such as its measurements.
+void noteSettings(const FileMaterial& material, Answer& answer)
+{
+    std::string lost;
+    for (const auto& [name, text] : material.object.settings)
+        lost += (lost.empty() ? "\"" : ", \"") + name + "\"";
+    if (!lost.empty())
+        answer.messages.push_back(
+            "note: " + material.label +
+            ": exchange documents carry no data that a project keeps beside a material; left out: " + lost);
+}
+
 /// Throws a Failure for the first property for which readers refuse a document.
 void requireThatReadersTake(const std::string& path, const vxMat::MaterialBase& material)
 {
@@ -66,6 +78,7 @@ void addProject(const std::string& path, std::vector<Wanted>& all, Answer& answe
                                   ": exchange documents carry only materials; the other objects are left out");
     for (FileMaterial& material : file.materials) {
         requireThatReadersTake(path, *material.entry->material);
+        noteSettings(material, answer);
         all.push_back({path + ": " + material.label, material.number, std::move(material.entry)});
     }
 }

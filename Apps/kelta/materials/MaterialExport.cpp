@@ -2,6 +2,7 @@
 
 #include "Gui/MainWindow.h"
 #include "Kelta/MessageLog.h"
+#include "Obj/ReadableName.h"
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
 #include "vxMaterial/exchange/ExportCheck.h"
@@ -47,15 +48,31 @@ QString describe(const vxCAE::ExportObstacle& obstacle, const Mat::MaterialObjec
         .arg(name, labelOf(object), QString::fromStdString(vxMat::formatNumber(property->value)));
 }
 
+QString quoted(const QStringList& names)
+{
+    return QLatin1Char('"') + names.join(QStringLiteral("\", \"")) + QLatin1Char('"');
+}
+
 void reportLosses(const Mat::MaterialObject& object)
 {
     QStringList lost;
     for (const auto& [slot, property] : vxCAE::findLostValues(*object.getCMaterial()))
         lost << QString::fromStdString(property->name);
     if (!lost.isEmpty())
-        Kelta::MessageLog::warning(
-            tr("\"%1\": An exchange document carries no words and lists. Not written: %2.")
-                .arg(labelOf(object), QLatin1Char('"') + lost.join(QStringLiteral("\", \"")) + QLatin1Char('"')));
+        Kelta::MessageLog::warning(tr("\"%1\": An exchange document carries no words and lists. Not written: %2.")
+                                       .arg(labelOf(object), quoted(lost)));
+}
+
+/// Reports the texts that the project keeps beside a material, such as its measurements.
+void reportLostSettings(const Mat::MaterialObject& object)
+{
+    QStringList lost;
+    for (const auto& [name, text] : object.getSettings())
+        lost << Obj::readableName(name.c_str());
+    if (!lost.isEmpty())
+        Kelta::MessageLog::warning(tr("\"%1\": An exchange document carries no data that a project keeps beside a "
+                                      "material. Not written: %2.")
+                                       .arg(labelOf(object), quoted(lost)));
 }
 
 } // namespace
@@ -90,8 +107,10 @@ void reportExport(const Mat::DocumentMaterial& project, const QString& path)
     try {
         const std::size_t written = projectfile::importExchange(projectfile::readFile(path)).materials.size();
         const auto materials = Mat::materialsOf(project);
-        for (const Mat::MaterialObject* const object : materials)
+        for (const Mat::MaterialObject* const object : materials) {
             reportLosses(*object);
+            reportLostSettings(*object);
+        }
         QString text = tr("Materials written to \"%1\": %2.").arg(shown, QString::number(written));
         const auto suppressed = std::count_if(materials.begin(), materials.end(),
                                               [](const auto* object) { return object->isSuppressed(); });

@@ -71,6 +71,8 @@ TEST(Diff, PrintsOneLineForEachDifferenceOfTwoProjects)
         {{"\"suppressed\": false", "\"suppressed\": true"}, "suppressed: no -> yes"},
         {{"\"suppressed\": false", "\"suppressed\": false, \"colour\": [0, 0.5, 1, 1]"},
          "colour: none -> [0, 0.5, 1, 1]"},
+        {{"\"suppressed\": false", "\"suppressed\": false, \"settings\": {\"measurements\": \"m\\n1\"}"},
+         "settings.measurements: none -> \"m\\u000a1\""},
     };
     for (const auto& [change, line] : cases) {
         const Outcome run = vxmat({"diff", one, changed(folder, one, change.first, change.second)});

@@ -1,6 +1,7 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
+#include "projectfile/ProjectFile.h"
 #include "vxMaterial/json/JsonText.h"
 
 #include <gmock/gmock.h>
@@ -144,6 +145,21 @@ TEST(Export, NotesTheWordsAndListsOfAProjectThatAreLost)
     const Outcome run = vxmat({"export", project, "-o", "-"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "vxmat: note: Clay: exchange documents carry no words and lists; lost: \"Yield type\"\n");
+}
+
+TEST(Export, NotesWhatAProjectKeepsBesideAMaterial)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", project}).status, 0);
+    projectfile::ProjectRecord record = projectfile::readProject(vxtest::readText(project));
+    record.objects.at(0).settings = {{"later", "l"}, {"measurements", "m"}};
+    folder.file("p.vxmat", projectfile::writeProject(record));
+    const Outcome run = vxmat({"export", project, "-o", "-"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "vxmat: note: Air: exchange documents carry no data that a project keeps beside a material; "
+                       "left out: \"later\", \"measurements\"\n");
+    EXPECT_EQ(run.out.find("measurements"), std::string::npos);
 }
 
 TEST(Export, PrefersALibraryMaterialToAFileWithTheSameName)

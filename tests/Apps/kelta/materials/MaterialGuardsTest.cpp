@@ -144,6 +144,15 @@ TEST_F(Export, NamesWordsAndListsThatAreNotWritten)
                                                     HasSubstr("\"Yield stress\""))));
 }
 
+TEST_F(Export, NamesWhatTheProjectKeepsBesideAMaterial)
+{
+    steel.setSetting("measurements", "[1, 2]");
+    EXPECT_TRUE(run("Mat_Export", file));
+    EXPECT_THAT(messages(), Contains("\"Steel\": An exchange document carries no data that a project keeps beside a "
+                                     "material. Not written: \"measurements\"."));
+    EXPECT_EQ(projectfile::readFile(file).find("measurements"), std::string::npos);
+}
+
 TEST_F(Export, AsksBeforeItReplacesAProjectFileThatIsNotOpen)
 {
     const std::string text = R"({"format": "vxMaterial project"})";

@@ -3,7 +3,9 @@
 #include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
+#include "Measured.h"
 
+#include "vxConstitutive/record/Measurements.h"
 #include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/NumberText.h"
@@ -214,6 +216,21 @@ Side sideOfSetting(const std::string& text)
     return text.empty() ? Side{Json::Value(), "none"} : Side{text, sideOf(vxjson::shortened(text)).text};
 }
 
+/// Shows the tests and fits in place of the beginning of their text, if these differ.
+void summarise(Side& one, Side& other)
+{
+    const auto text = [](const Side& side) {
+        const auto measured = summariseMeasurements(side.json.asString());
+        return measured ? measured->text : side.text;
+    };
+    std::string left = text(one);
+    std::string right = text(other);
+    if (left == right)
+        return;
+    one.text = std::move(left);
+    other.text = std::move(right);
+}
+
 Side sideOf(vxMat::ePropertyCategory category)
 {
     return sideOf(std::string(vxMat::getPropertyCategoryName(static_cast<std::int32_t>(category))));
@@ -330,10 +347,13 @@ void Comparison::compareSettings(const ObjectRecord& one, const ObjectRecord& ot
         for (const auto& [name, text] : object->settings)
             names.insert(name);
     for (const std::string& name : names) {
-        const std::string left = textOf(one.settings, name);
-        const std::string right = textOf(other.settings, name);
-        if (left != right)
-            add(("settings." + name).c_str(), sideOfSetting(left), sideOfSetting(right));
+        Side left = sideOfSetting(textOf(one.settings, name));
+        Side right = sideOfSetting(textOf(other.settings, name));
+        if (left.json == right.json)
+            continue;
+        if (name == vxConstitutive::measurementsSetting)
+            summarise(left, right);
+        add(("settings." + name).c_str(), std::move(left), std::move(right));
     }
 }
 

@@ -4,8 +4,10 @@
 #include "Documents.h"
 #include "Files.h"
 #include "MaterialNames.h"
+#include "Measured.h"
 #include "TextTable.h"
 
+#include "vxConstitutive/record/Measurements.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/NumberText.h"
@@ -197,6 +199,20 @@ std::string listOthers(const std::vector<projectfile::ObjectRecord>& objects)
     return "Objects of other classes\n\n" + table.text();
 }
 
+/// Adds the measurements of a material of a project to its listing, and a note if they are unreadable.
+void addMeasurements(const FileMaterial& material, const std::string& place, Answer& answer, Json::Value& json)
+{
+    const auto setting = material.object.settings.find(vxConstitutive::measurementsSetting);
+    const auto measured =
+        setting != material.object.settings.end() ? summariseMeasurements(setting->second) : std::nullopt;
+    if (!measured)
+        return;
+    json["measurements"] = measured->json;
+    answer.text += "\nMeasurements: " + measured->text + "\n";
+    if (!measured->fault.empty())
+        answer.messages.push_back("note: " + place + ": the measurements are unreadable: " + measured->fault);
+}
+
 Answer showFile(const std::string& path, Form form, const ChosenUnits& given)
 {
     const MaterialFile file = readMaterials(path);
@@ -218,6 +234,7 @@ Answer showFile(const std::string& path, Form form, const ChosenUnits& given)
         json["name"] = material.label;
         json["suppressed"] = material.object.suppressed;
         json["properties"] = listing.json;
+        addMeasurements(material, place, answer, json);
         document["materials"].append(std::move(json));
     }
     document["objects"] = Json::arrayValue;

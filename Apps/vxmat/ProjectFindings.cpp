@@ -1,5 +1,8 @@
 #include "ProjectFindings.h"
 
+#include "Measured.h"
+
+#include "vxConstitutive/record/Measurements.h"
 #include "vxMaterial/model/MaterialCheck.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/UnitSystem.h"
@@ -39,6 +42,7 @@ private:
     void find(const std::string& path, const std::string& message) { report.findings.push_back({path, message}); }
     void note(const std::string& path, const std::string& message) { report.notes.push_back({path, message}); }
     void checkUnitSystem(const projectfile::ProjectRecord& project);
+    void checkMeasurements(const vxjson::JsonNode& settings, const std::string& path);
     void checkMaterial(const vxMat::MaterialBase& material, const vxjson::JsonNode& properties,
                        const std::string& path);
     void noteSlot(std::int32_t slot, const MaterialProperty& property, const std::string& path);
@@ -68,6 +72,13 @@ void ProjectCheck::checkUnitSystem(const projectfile::ProjectRecord& project)
         find(std::string("$.settings.") + projectfile::unitSystemSetting, system.failure().text() + " SI is used.");
 }
 
+void ProjectCheck::checkMeasurements(const vxjson::JsonNode& settings, const std::string& path)
+{
+    const auto measured = summariseMeasurements(settings[vxConstitutive::measurementsSetting].text());
+    if (measured && !measured->fault.empty())
+        find(path + "." + vxConstitutive::measurementsSetting, "is unreadable: " + measured->fault);
+}
+
 void ProjectCheck::noteSlot(std::int32_t slot, const MaterialProperty& property, const std::string& path)
 {
     if (slot != property.id)
@@ -94,8 +105,9 @@ void ProjectCheck::checkMaterials(const vxjson::JsonNode& materials)
     for (std::size_t i = 0; i < materials.size(); ++i) {
         const vxjson::JsonNode object = materials.element(i);
         const auto number = static_cast<std::uint32_t>(*object["object_id"].whole());
-        checkMaterial(*m_materials.at(number), object["material"]["properties"],
-                      "$.materials[" + std::to_string(i) + "].material");
+        const std::string path = "$.materials[" + std::to_string(i) + "]";
+        checkMeasurements(object["settings"], path + ".settings");
+        checkMaterial(*m_materials.at(number), object["material"]["properties"], path + ".material");
     }
 }
 

@@ -72,7 +72,9 @@ TEST(Diff, PrintsOneLineForEachDifferenceOfTwoProjects)
         {{"\"suppressed\": false", "\"suppressed\": false, \"colour\": [0, 0.5, 1, 1]"},
          "colour: none -> [0, 0.5, 1, 1]"},
         {{"\"suppressed\": false", "\"suppressed\": false, \"settings\": {\"measurements\": \"m\\n1\"}"},
-         "settings.measurements: none -> \"m\\u000a1\""},
+         "settings.measurements: none -> unreadable"},
+        {{"\"suppressed\": false", "\"suppressed\": false, \"settings\": {\"later\": \"m\\n1\"}"},
+         "settings.later: none -> \"m\\u000a1\""},
     };
     for (const auto& [change, line] : cases) {
         const Outcome run = vxmat({"diff", one, changed(folder, one, change.first, change.second)});
@@ -80,6 +82,27 @@ TEST(Diff, PrintsOneLineForEachDifferenceOfTwoProjects)
         EXPECT_EQ(run.out, "Plastic Example 1: " + line + "\n");
         EXPECT_EQ(run.err, "");
     }
+}
+
+TEST(Diff, NamesTheTestsAndFitsThatWereMeasured)
+{
+    const Folder folder;
+    const std::string one = make(folder, "new", {"Air"}, "a.vxmat");
+    projectfile::ProjectRecord project = projectfile::readProject(vxtest::readText(one));
+    const auto diff = [&](const std::string& before, const std::string& after) {
+        project.objects.at(0).settings["measurements"] = before;
+        const std::string left = folder.file("left", projectfile::writeProject(project));
+        project.objects[0].settings["measurements"] = after;
+        return vxmat({"diff", left, folder.file("right", projectfile::writeProject(project))}).out;
+    };
+    const std::string test = R"({"name": "tension", "mode": "uniaxial", "parameter": 0, "weight": 1, )"
+                             R"("abscissas": [1.5], "ordinates": [2e5]})";
+    const std::string measured = R"({"version": 1, "tests": [)" + test + R"(], "fits": []})";
+    EXPECT_EQ(diff("", measured), "Air: settings.measurements: none -> 1 test (tension)\n");
+    EXPECT_EQ(diff(R"({"version": 1, "tests": [)" + test + ", " + test + R"(], "fits": []})", "x"),
+              "Air: settings.measurements: 2 tests (tension, tension) -> unreadable\n");
+    EXPECT_THAT(diff(measured, measured + " "), HasSubstr("Air: settings.measurements: \"{\"version\": 1"));
+    EXPECT_EQ(diff(measured, measured), "");
 }
 
 TEST(Diff, DistinguishesMinusZeroFromZeroButNotNanFromNan)

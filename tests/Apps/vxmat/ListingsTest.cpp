@@ -175,6 +175,30 @@ TEST(Show, PrintsTheMaterialsOfAProject)
     EXPECT_EQ(document["materials"][1]["properties"][0]["held_under"], 4);
 }
 
+TEST(Show, CountsTheMeasurementsOfAMaterial)
+{
+    const std::string project = vxtest::dataPath("projects/08-settings-of-objects.vxmat");
+    EXPECT_THAT(vxmat({"show", project}).out, testing::EndsWith("\n\nMeasurements: 1 test (bar 3)\n"));
+    const Json::Value measured = vxmatJson({"show", project, "--json"})["materials"][0]["measurements"];
+    EXPECT_EQ(measured["tests"][0]["name"], "bar 3");
+    EXPECT_EQ(measured["tests"][0]["mode"], "tensile");
+    EXPECT_EQ(measured["tests"][0]["points"], 2);
+    EXPECT_EQ(measured["fits"], Json::arrayValue);
+}
+
+TEST(Show, NotesMeasurementsThatAreUnreadable)
+{
+    std::string text = vxtest::readText(vxtest::dataPath("projects/08-settings-of-objects.vxmat"));
+    const std::size_t at = text.find("tensile");
+    ASSERT_NE(at, std::string::npos);
+    const Outcome run = vxmat({"show", "-"}, text.replace(at, 7, "tearing"));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, testing::EndsWith("\nMeasurements: unreadable\n"));
+    EXPECT_EQ(run.err,
+              "vxmat: note: -: 1 Steel: the measurements are unreadable: \"tests[0].mode\" must be the name of "
+              "a mode\n");
+}
+
 TEST(Show, PrintsTheMaterialsOfADocument)
 {
     const Outcome run = vxmat({"show", "-"}, R"({"proj_type": 2, "material": [{"mat_id": 7, "mat_name": "a\nb", "Props":

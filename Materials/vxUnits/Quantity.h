@@ -68,7 +68,7 @@ VXUNITS_EXPORT const std::array<Quantity, quantityCount>& quantities();
 /// Returns the quantity of an id; null if there is none.
 VXUNITS_EXPORT const Quantity* findQuantity(std::int32_t id);
 
-/// Returns the exponents of the creep law of a material; absent if the material does not have both.
+/// Returns the exponents of the creep law of a material; absent if the material has neither.
 VXUNITS_EXPORT std::optional<CreepExponents> creepExponents(const vxMat::MaterialBase& material);
 
 /// Returns the unit of a quantity in a unit system. Fails for words and switches, and for the factor of creep, whose

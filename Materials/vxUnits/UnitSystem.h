@@ -6,6 +6,7 @@
 #include "vxUnits/UnitsExport.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,8 +16,10 @@ namespace vxUnits {
 /// The exponents of a creep law, strain rate = A stress^n time^m. The unit of A depends on them.
 struct CreepExponents
 {
-    double n = 0.0;
-    double m = 0.0;
+    std::optional<double> n; ///< absent if the material does not have it
+    std::optional<double> m;
+
+    bool areBothGiven() const { return n && m; }
 };
 
 /// A consistent system of units: units of length, mass, time, temperature and current. All other units are products of
@@ -48,7 +51,7 @@ public:
     /// Returns the coherent unit of a dimension, as engineers write it in this system: "MPa", "t/mm^3", "mW/(mm K)".
     VXUNITS_EXPORT Unit unitOf(const Dimension& dimension) const;
 
-    /// Returns the unit of the factor A of a creep law: "1/(MPa^5 s)".
+    /// Returns the unit of the factor A of a creep law: "1/(MPa^5 s)". Both exponents must be given.
     VXUNITS_EXPORT Unit unitOfCreep(const CreepExponents& exponents) const;
 
 private:

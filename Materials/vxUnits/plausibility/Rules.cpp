@@ -492,12 +492,12 @@ private:
     {
         const auto exponents = m_values.creepExponents();
         const double a = number(Id::CreepModulusA);
-        if (!exponents)
+        if (!exponents || !exponents->areBothGiven())
             return;
         constexpr double usualStress = 1e8;
         constexpr double hour = 3600.0;
         const double stress = m_e > 0.0 ? m_e / 1000.0 : usualStress;
-        const double rate = std::log10(a) + exponents->n * std::log10(stress) + exponents->m * std::log10(hour);
+        const double rate = std::log10(a) + *exponents->n * std::log10(stress) + *exponents->m * std::log10(hour);
         const Ids ids{Id::CreepModulusA, Id::CreepModulusN,
                       m_e > 0.0 ? static_cast<std::int32_t>(Id::YoungsModulus) : 0};
         const Relation& known = relation(Row::CreepRate);

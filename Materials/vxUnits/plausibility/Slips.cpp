@@ -120,10 +120,10 @@ void addOwn(std::vector<Slip>& slips, std::int32_t id, const MaterialValues& val
 std::optional<Change> creepChange(const MaterialValues& values, const std::string& stress, const std::string& time)
 {
     const auto creep = values.creepExponents();
-    if (!creep || !values.has(Id::CreepModulusA))
+    if (!creep || !creep->areBothGiven() || !values.has(Id::CreepModulusA))
         return std::nullopt;
     const auto power = [](double exponent) { return "^(" + vxMat::formatNumber(exponent) + ") "; };
-    const auto unit = Unit::parse(stress + power(-creep->n) + time + power(-creep->m - 1.0));
+    const auto unit = Unit::parse(stress + power(-*creep->n) + time + power(-*creep->m - 1.0));
     if (!unit)
         return std::nullopt;
     return Change{Id::CreepModulusA, unit->text(), unit->factor(), false};

@@ -110,7 +110,7 @@ std::optional<CreepExponents> MaterialValues::creepExponents() const
 {
     const auto n = number(vxMat::PropertyId::CreepModulusN);
     const auto m = number(vxMat::PropertyId::CreepModulusM);
-    return n && m ? std::optional<CreepExponents>({*n, *m}) : std::nullopt;
+    return n || m ? std::optional<CreepExponents>({n, m}) : std::nullopt;
 }
 
 void convertMaterial(vxMat::MaterialBase& material, const UnitSystem& from, const UnitSystem& to)

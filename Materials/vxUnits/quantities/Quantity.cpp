@@ -171,16 +171,31 @@ std::string nameOf(std::int32_t id)
     return vxMat::findPropertyRecord(id)->name;
 }
 
-/// Returns whether the unit of the creep factor can be written and read. Exponents of known materials are below 30.
-bool giveUnit(const CreepExponents& creep)
+/// Returns whether a unit can have the power of a creep exponent. Exponents of known materials are below 30.
+bool isPower(double exponent)
 {
-    constexpr double largest = 50.0;                                     // the largest power in a unit
-    return std::abs(creep.n) <= largest && std::abs(creep.m) <= largest; // false if not a number
+    constexpr double largest = 50.0;
+    return std::abs(exponent) <= largest; // false if not a number
 }
 
 Failure refuse(std::int32_t id, FaultCode code, Text text)
 {
     return makeFailure(code, text, {nameOf(id)});
+}
+
+/// Returns the reason why the unit of the creep factor is not known; absent if it is known.
+std::optional<Failure> refuseCreepUnit(const CreepExponents& creep)
+{
+    const std::string factor = nameOf(Id::CreepModulusA);
+    const std::string n = nameOf(Id::CreepModulusN);
+    const std::string m = nameOf(Id::CreepModulusM);
+    if (!creep.n && !creep.m)
+        return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreep, {factor, n, m});
+    if (!creep.areBothGiven())
+        return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreepPart, {factor, creep.n ? m : n});
+    if (!isPower(*creep.n) || !isPower(*creep.m))
+        return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreepRange, {factor, isPower(*creep.n) ? m : n});
+    return std::nullopt;
 }
 
 } // namespace
@@ -199,10 +214,12 @@ const Quantity* findQuantity(std::int32_t id)
 
 std::optional<CreepExponents> creepExponents(const vxMat::MaterialBase& material)
 {
-    CreepExponents exponents;
-    const bool both = material.getPropertyValue(Id::CreepModulusN, exponents.n) &&
-                      material.getPropertyValue(Id::CreepModulusM, exponents.m);
-    return both ? std::optional<CreepExponents>(exponents) : std::nullopt;
+    const auto number = [&material](std::int32_t id) {
+        double value = 0.0;
+        return material.getPropertyValue(id, value) ? std::optional<double>(value) : std::nullopt;
+    };
+    const CreepExponents exponents{number(Id::CreepModulusN), number(Id::CreepModulusM)};
+    return exponents.n || exponents.m ? std::optional<CreepExponents>(exponents) : std::nullopt;
 }
 
 Result<Unit> unitOfQuantity(std::int32_t id, const UnitSystem& system, const std::optional<CreepExponents>& creep)
@@ -216,10 +233,10 @@ Result<Unit> unitOfQuantity(std::int32_t id, const UnitSystem& system, const std
         return refuse(id, FaultCode::TakesNoNumber, Text::TakesSwitch);
     if (id != Id::CreepModulusA)
         return system.unitOf(quantity->dimension);
-    if (creep && giveUnit(*creep))
-        return system.unitOfCreep(*creep);
-    return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreep,
-                       {nameOf(id), nameOf(Id::CreepModulusN), nameOf(Id::CreepModulusM)});
+    const CreepExponents exponents = creep.value_or(CreepExponents());
+    if (auto failure = refuseCreepUnit(exponents))
+        return *std::move(failure);
+    return system.unitOfCreep(exponents);
 }
 
 Result<Converter> converterOfQuantity(std::int32_t id, const UnitSystem& from, const UnitSystem& to,

@@ -51,9 +51,11 @@ constexpr std::array<MessageText, static_cast<std::size_t>(Text::Count)> texts{{
     {"units.takes-word", "%1 is a word; it takes no number."},
     {"units.takes-switch", "%1 is a switch; it takes no number."},
     {"units.no-quantity", "No quantity has the id %1."},
-    {"units.unit-of-creep",
-     "The unit of %1 depends on %2 and %3, which are not given or not between -50 and 50; write the number without a "
-     "unit."},
+    {"units.unit-of-creep", "The unit of %1 depends on %2 and %3, which are not given; give them first."},
+    {"units.unit-of-creep-part", "The unit of %1 depends on %2, which is not given; give it first."},
+    {"units.unit-of-creep-range",
+     "The unit of %1 depends on %2, which is not between -50 and 50; convert the number to SI units and write it "
+     "without a unit."},
     {"units.database-unreadable",
      R"(The unit "%1" is not built in, and the database of units cannot be read: %2. Install the data of UDUNITS-2, or )"
      "have the environment variable UDUNITS2_XML_PATH name the file udunits2.xml."},

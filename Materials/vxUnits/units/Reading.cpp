@@ -9,7 +9,6 @@
 #include "units/UnitReading.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
-#include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
 #include <cmath>
@@ -84,8 +83,8 @@ private:
             parsed.failure.suggestion = typedWith(suggestUnit(m_number.rest, &wanted));
             return std::move(parsed.failure);
         }
-        if (!m_target.takesUnit)
-            return refuseUnit();
+        if (m_target.unitFault)
+            return *m_target.unitFault; // no suggestion: the number in the typed unit is another number
         const Unit unit = UnitBuilder::build(parsed.terms);
         if (unit.dimension() != wanted)
             return refuseDimension(unit, parsed.terms);
@@ -93,15 +92,6 @@ private:
             return failure(FaultCode::TemperatureScale, Text::TemperatureScale, {},
                            typedWith(unit.text() == "degF" ? "delta_degF" : "K"));
         return valueIn(unit);
-    }
-
-    Failure refuseUnit() const
-    {
-        const auto name = [](std::int32_t id) { return std::string(vxMat::findPropertyRecord(id)->name); };
-        return makeFailure(
-            FaultCode::UnitNotKnown, Text::UnitOfCreep,
-            {m_target.name, name(vxMat::PropertyId::CreepModulusN), name(vxMat::PropertyId::CreepModulusM)},
-            std::string(m_numberText.substr(0, m_numberText.find_last_not_of(' ') + 1)));
     }
 
     Failure refuseDimension(const Unit& unit, const std::vector<Term>& terms) const
@@ -214,9 +204,10 @@ Result<ReadingTarget> targetOf(std::int32_t id, const ReadingContext& context)
         return unit.failure();
     ReadingTarget target;
     target.name = vxMat::findPropertyRecord(id)->name;
-    target.takesUnit = !unknown;
-    if (unknown)
+    if (unknown) {
+        target.unitFault = unit.failure();
         return target;
+    }
     target.unit = *unit;
     target.plain = context.plainNumbers != nullptr ? *unitOfQuantity(id, *context.plainNumbers, context.creep) : *unit;
     return target;
@@ -592,7 +583,7 @@ Result<ListReading> readListFor(const ReadingTarget& target, std::string_view te
 
 Result<Reading> readNumber(std::string_view text, const Unit& unit, TemperatureMeaning meaning)
 {
-    return readFor({unit, unit, meaning, {}, true}, text);
+    return readFor({unit, unit, meaning, {}, {}}, text);
 }
 
 Result<Reading> readQuantity(std::int32_t id, std::string_view text, const ReadingContext& context)

@@ -49,6 +49,8 @@ enum class Text : std::size_t
     TakesSwitch,
     NoQuantity,
     UnitOfCreep,
+    UnitOfCreepPart,
+    UnitOfCreepRange,
     DatabaseUnreadable,
     ListItemEmpty,
     ListUnitMissing,

@@ -5,6 +5,7 @@
 #include "vxUnits/Reading.h"
 #include "vxUnits/Unit.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,8 +26,8 @@ struct ReadingTarget
     Unit unit;  ///< of the result
     Unit plain; ///< of numbers without a unit
     TemperatureMeaning meaning = TemperatureMeaning::Refused;
-    std::string name;      ///< of the quantity, for messages; may be empty
-    bool takesUnit = true; ///< false if the unit of the quantity is not known
+    std::string name;                 ///< of the quantity, for messages; may be empty
+    std::optional<Failure> unitFault; ///< the reason why the unit of the quantity is not known; absent if it is known
 };
 
 /// Reads one number. The suggestion of a failure is a text that can be read.

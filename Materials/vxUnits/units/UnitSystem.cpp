@@ -292,8 +292,8 @@ Unit UnitSystem::unitOf(const Dimension& dimension) const
 Unit UnitSystem::unitOfCreep(const CreepExponents& exponents) const
 {
     std::vector<Term> terms;
-    append(terms, termsOf(unitOf(d::pressure).text()), -exponents.n);
-    append(terms, m_bases->terms[Dimension::Time], -(exponents.m + 1.0));
+    append(terms, termsOf(unitOf(d::pressure).text()), -exponents.n.value());
+    append(terms, m_bases->terms[Dimension::Time], -(exponents.m.value() + 1.0));
     return UnitBuilder::build(terms);
 }
 

@@ -343,9 +343,9 @@ MaterialValues inSystem(const MaterialValues& values, const std::string& system)
     MaterialValues changed = values;
     for (const std::int32_t id : values.numericIds()) {
         vxUnits::Dimension dimension = vxUnits::findQuantity(id)->dimension;
-        if (id == Id::CreepModulusA && creep)
+        if (id == Id::CreepModulusA && creep && creep->areBothGiven())
             dimension =
-                vxUnits::dimensions::pressure.power(-creep->n) * vxUnits::dimensions::time.power(-creep->m - 1.0);
+                vxUnits::dimensions::pressure.power(-*creep->n) * vxUnits::dimensions::time.power(-*creep->m - 1.0);
         const double factor = std::pow(bases.length, dimension.exponent(vxUnits::Dimension::Length)) *
                               std::pow(bases.mass, dimension.exponent(vxUnits::Dimension::Mass)) *
                               std::pow(bases.time, dimension.exponent(vxUnits::Dimension::Time)) *

@@ -219,10 +219,25 @@ TEST(Refusals, NamesTheThingItsValueAndWhatToDo)
               "\"2e-8 ohm.m\" measures electrical resistivity; Electrical conductivity is its reciprocal and needs a "
               "unit such "
               "as S/m. Did you mean \"5e+07 S/m\"?");
-    EXPECT_EQ(readQuantity(Id::CreepModulusA, "1 h").failure().message.text(),
-              "The unit of Creep Modulus A depends on Creep Modulus N and Creep Modulus M, which are not given or not "
-              "between "
-              "-50 and 50; write the number without a unit.");
+}
+
+TEST(Refusals, NamesTheExponentThatTheUnitOfCreepLacksAndKeepsTheUnit)
+{
+    const auto refusal = [](std::optional<double> n, std::optional<double> m) {
+        vxUnits::ReadingContext context;
+        context.creep = vxUnits::CreepExponents{n, m};
+        return readQuantity(Id::CreepModulusA, "1e-10 MPa^-4.5 s^-1", context).failure().text();
+    };
+    EXPECT_EQ(readQuantity(Id::CreepModulusA, "1 h").failure().text(),
+              "The unit of Creep Modulus A depends on Creep Modulus N and Creep Modulus M, which are not given; give "
+              "them first.");
+    EXPECT_EQ(refusal(4.5, std::nullopt),
+              "The unit of Creep Modulus A depends on Creep Modulus M, which is not given; give it first.");
+    EXPECT_EQ(refusal(std::nullopt, 0.0),
+              "The unit of Creep Modulus A depends on Creep Modulus N, which is not given; give it first.");
+    EXPECT_EQ(refusal(4.5, 60.0),
+              "The unit of Creep Modulus A depends on Creep Modulus M, which is not between -50 and 50; convert the "
+              "number to SI units and write it without a unit.");
 }
 
 TEST(Refusals, QuoteWhatWasTyped)

@@ -42,12 +42,11 @@ std::optional<double> numberIn(const QAbstractItemModel& rows, int id)
     return std::nullopt;
 }
 
-/// Returns the exponents of the creep law in the rows of a table; absent unless both are in it.
+/// Returns the exponents of the creep law in the rows of a table.
 Creep exponentsIn(const QAbstractItemModel& rows)
 {
-    const auto n = numberIn(rows, vxMat::PropertyId::CreepModulusN);
-    const auto m = numberIn(rows, vxMat::PropertyId::CreepModulusM);
-    return n && m ? Creep({*n, *m}) : Creep();
+    return vxUnits::CreepExponents{numberIn(rows, vxMat::PropertyId::CreepModulusN),
+                                   numberIn(rows, vxMat::PropertyId::CreepModulusM)};
 }
 
 QString shortened(const QString& text)

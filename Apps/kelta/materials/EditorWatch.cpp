@@ -6,16 +6,19 @@
 #include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
+#include "cells/CellReading.h"
 #include "cells/ValueCellDelegate.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
+#include "vxMaterial/model/PropertyRules.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <boost/signals2/connection.hpp>
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -67,12 +70,29 @@ private:
     void begin(Gui::ApplyRefusal& refusal)
     {
         Kelta::guarded(EditorWatch::tr("The values of an editor cannot be checked"), [&] {
+            convertReadableTexts();
             if (auto ignored = m_editor.findIgnoredText())
                 refusal = std::move(*ignored);
             else if (auto unread = findUnreadValue())
                 refusal = std::move(*unread);
             m_before = MatGui::copyOf(*material().getCMaterial());
         });
+    }
+
+    /// Converts the texts that have become readable since they were typed, such as a unit of creep before its exponents.
+    void convertReadableTexts()
+    {
+        std::map<int, QString> values;
+        for (int row = 0; row < m_table.model()->rowCount(); ++row) {
+            const QModelIndex cell = m_table.model()->index(row, MatGui::SheetTableView::Value);
+            const QString text = cell.data(Qt::EditRole).toString();
+            const auto reading = readCell(cell, text);
+            const int id = cell.sibling(row, MatGui::SheetTableView::Id).data().toInt();
+            if (reading && reading->isRead && vxMat::findIgnoredText(id, text.toStdString()))
+                values[row] = reading->stored;
+        }
+        if (!values.empty())
+            m_editor.setValues(values, EditorWatch::tr("Convert values"));
     }
 
     /// Returns the reason against a typed value that the table reads and the program refuses, such as "inf" and "0x10".

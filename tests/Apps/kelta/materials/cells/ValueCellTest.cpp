@@ -525,6 +525,22 @@ public:
     {
         const std::string place = context;
         const bool isSentence = place == "desktop::CellReading" || place == "vxUnits::Message";
+TEST_F(ValueCells, AreConvertedByApplyIfTheyHaveBecomeReadable)
+{
+    MatGui::MaterialView& creep = editorOf(eMaterialType::CreepMaterial1);
+    typeInto(creep, Id::CreepModulusN, "4,5");
+    clickOn(creep, density);
+    typeInto(creep, Id::CreepModulusA, "1e-10 MPa^-4.5 s^-1");
+    clickOn(creep, density);
+    EXPECT_EQ(stored(creep, Id::CreepModulusA), "1e-10 MPa^-4.5 s^-1") << "N cannot be read yet";
+    type(creep, Id::CreepModulusN, "4.5");
+    const MessageBoxes boxes;
+    apply(creep);
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_EQ(stored(creep, Id::CreepModulusA), "1e-37"); // 1e-10 / (1e6 Pa)^4.5 / s
+    EXPECT_EQ(creep.getMaterialObject()->getCMaterial()->findProperty(Id::CreepModulusA)->value, 1e-37);
+}
+
         return isSentence ? QStringLiteral("[%1]").arg(QString::fromUtf8(text)) : QString();
     }
     bool isEmpty() const override { return false; }

@@ -38,7 +38,9 @@ constexpr StateRange states[] = {
     {RangeBar::Matter::Gases, &Quantity::gases, QT_TRANSLATE_NOOP("vxInspector::RangeBar", "Gases: %1 to %2")},
 };
 
-/// The range over all states of matter, and the map from it to the interval from 0 to 1.
+/// The range over all states of matter, and the map from it to the interval from 0 to 1. A range that begins with 0 is
+/// logarithmic from its smallest positive end on, because steel and rubber would have the same place otherwise; 0 is at the
+/// left end too.
 class Scale
 {
 public:
@@ -48,18 +50,26 @@ public:
             if (const auto& range = quantity.*state.range) {
                 m_lowest = std::min(m_lowest, range->lowest);
                 m_highest = std::max(m_highest, range->highest);
+                noteEnd(range->lowest);
+                noteEnd(range->highest);
             }
+        // Shares and strains from 0 on remain linear.
+        constexpr double decades = 1e6;
+        if (m_lowest == 0.0 && m_first == m_highest && !quantity.dimension.isNone())
+            m_first = m_highest / decades;
     }
 
     bool isKnown() const { return m_lowest <= m_highest; }
-    bool isLogarithmic() const { return m_lowest > 0.0 && m_highest / m_lowest > 100.0; }
+    bool isLogarithmic() const { return m_lowest >= 0.0 && m_highest / m_first > 100.0; }
+    bool beginsWithZero() const { return m_lowest == 0.0; }
 
     double position(double value) const
     {
-        if (value <= m_lowest || m_highest == m_lowest)
+        const double begin = isLogarithmic() ? m_first : m_lowest;
+        if (value <= begin || m_highest == begin)
             return 0.0;
-        const double share = isLogarithmic() ? std::log(value / m_lowest) / std::log(m_highest / m_lowest)
-                                             : (value - m_lowest) / (m_highest - m_lowest);
+        const double share = isLogarithmic() ? std::log(value / begin) / std::log(m_highest / begin)
+                                             : (value - begin) / (m_highest - begin);
         return std::clamp(share, 0.0, 1.0);
     }
 
@@ -70,6 +80,13 @@ public:
     }
 
 private:
+    void noteEnd(double end)
+    {
+        if (end > 0.0)
+            m_first = std::min(m_first, end);
+    }
+
+    double m_first = std::numeric_limits<double>::infinity(); ///< the smallest positive end
     double m_lowest = std::numeric_limits<double>::infinity();
     double m_highest = -std::numeric_limits<double>::infinity();
 };
@@ -133,8 +150,9 @@ QString rangeToolTip(const Quantity& quantity, const vxUnits::UnitSystem& system
             lines << tr(state.title)
                          .arg(endText(quantity, range->lowest, range->lowestIs, system),
                               endText(quantity, range->highest, range->highestIs, system));
-    if (Scale(quantity).isLogarithmic())
-        lines << tr("The scale is logarithmic.");
+    if (const Scale scale(quantity); scale.isLogarithmic())
+        lines << (scale.beginsWithZero() ? tr("The scale is logarithmic; 0 is at its left end.")
+                                         : tr("The scale is logarithmic."));
     if (!lines.isEmpty())
         lines << tr("Source: %1").arg(QString::fromUtf8(quantity.rangeSource));
     return lines.join(QLatin1Char('\n'));

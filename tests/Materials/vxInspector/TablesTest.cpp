@@ -170,6 +170,29 @@ TEST(RangeBar, IsLinearOtherwise)
     EXPECT_NEAR(bar->marks.front().position, 0.83337, 0.0001); // (0.3 + 0.7) / (0.49995 + 0.7)
 }
 
+TEST(RangeBar, IsLogarithmicFromTheSmallestPositiveEndIfTheRangeBeginsWithZero)
+{
+    using Side = vxInspector::RangeBar::Side;
+    const auto at = [](std::int32_t id, double value) {
+        const auto bar = vxInspector::rangeBar(*vxUnits::findQuantity(id), {value});
+        return bar && bar->isLogarithmic ? bar->marks.front().position : -1.0;
+    };
+    EXPECT_NEAR(at(Id::ElectricalConductivity, 4e6), 0.9029, 0.0001);   // lg(4e6 / 1e-25) / 35
+    EXPECT_NEAR(at(Id::ElectricalConductivity, 1e-20), 0.1429, 0.0001); // 5 / 35
+    EXPECT_NEAR(at(Id::RelativePermeability, 1000.0), 0.5001, 0.0002);  // lg(1000 / 0.999) / lg(1e6 / 0.999)
+    EXPECT_NEAR(at(Id::PlasticHardeningFactor, 1e9), 0.6667, 0.0001);   // the last 6 decades below 1e11: 4 / 6
+    const auto insulator = vxInspector::rangeBar(*vxUnits::findQuantity(Id::ElectricalConductivity), {0.0});
+    ASSERT_TRUE(insulator);
+    EXPECT_EQ(insulator->marks.front().position, 0.0);
+    EXPECT_EQ(insulator->marks.front().side, Side::Inside);
+    EXPECT_THAT(
+        vxInspector::rangeToolTip(*vxUnits::findQuantity(Id::ElectricalConductivity), UnitSystem::si()).toStdString(),
+        HasSubstr("The scale is logarithmic; 0 is at its left end."));
+    const auto share = vxInspector::rangeBar(*vxUnits::findQuantity(Id::ShearRelaxationModulus), {0.25});
+    ASSERT_TRUE(share);
+    EXPECT_EQ(share->marks.front().position, 0.25);
+}
+
 TEST(RangeBar, ShowsValuesBeyondTheRangeAtItsEnds)
 {
     using Side = vxInspector::RangeBar::Side;

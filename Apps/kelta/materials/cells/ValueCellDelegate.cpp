@@ -12,19 +12,18 @@
 namespace desktop {
 
 namespace {
+#include <algorithm>
+#include <array>
+#include <utility>
 
-/// Returns whether a key stores the text of an editor and closes it.
+
+/// Returns whether a key stores the text of an editor and closes it. A line of text leaves the vertical keys to the table,
+/// which then moves to another row.
 bool endsEditing(const QKeyEvent& event)
 {
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-        return true;
-    default:
-        return false;
-    }
+    constexpr std::array<int, 8> keys{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab,    Qt::Key_Backtab,
+                                      Qt::Key_Up,     Qt::Key_Down,  Qt::Key_PageUp, Qt::Key_PageDown};
+    return std::find(keys.begin(), keys.end(), event.key()) != keys.end();
 }
 
 bool leavesForOtherProgram(const QEvent& event)

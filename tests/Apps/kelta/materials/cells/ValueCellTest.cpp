@@ -193,7 +193,9 @@ TEST_F(ValueCells, StayOpenWithTheReasonAndTheNearestSpelling)
     const MessageBoxes boxes;
     QLineEdit& line = typeInto(editor, modulus, "210 GPas");
     const std::string reason = "The unit \"GPas\" is not known. Did you mean \"210 GPa\"?";
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab}) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down,
+                              Qt::Key_PageUp, Qt::Key_PageDown})
+    {
         QTest::keyClick(&line, key);
         ASSERT_EQ(lineOf(editor, modulus), &line) << key;
         EXPECT_TRUE(line.hasFocus());

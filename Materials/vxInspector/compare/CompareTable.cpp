@@ -4,6 +4,7 @@
 #include "vxMaterial/model/MaterialProperty.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/Quantity.h"
 
 #include <QCoreApplication>
 
@@ -39,6 +40,14 @@ struct ComparedRow
 /// The rows in their order: the quantities of the catalogue, other properties, derived values.
 using ComparedRows = std::map<std::pair<std::size_t, std::int32_t>, ComparedRow>;
 
+/// Returns the value without rounding. A switch that is held is on, whatever its number.
+std::string exactValue(const vxMat::HeldProperty& held)
+{
+    const vxUnits::Quantity* const quantity = vxUnits::findQuantity(held.slot);
+    const bool isSwitch = quantity != nullptr && quantity->form == vxUnits::QuantityForm::Switch;
+    return isSwitch ? std::string("on") : vxMat::formatValue(*held.property);
+}
+
 class Comparison
 {
 public:
@@ -57,7 +66,7 @@ private:
         for (const vxMat::HeldProperty& held : vxMat::propertiesInCatalogueOrder(*inspected.material))
             valueAt({vxMat::getCataloguePosition(held.slot), held.slot}, column,
                     quantityName(held.slot, held.property->name)) = {valueText(held, inspected.values, m_system),
-                                                                     vxMat::formatValue(*held.property)};
+                                                                     exactValue(held)};
         for (const UnreadRow& unread : inspected.unreadRows)
             valueAt({vxMat::getCataloguePosition(unread.id), unread.id}, column,
                     quantityName(unread.id)) = {{unread.value, {}, unread.reason}, unread.value.toStdString()};

@@ -310,6 +310,18 @@ TEST(CompareTable, MarksADifferenceThatRoundingHides)
     EXPECT_EQ(textsOf(table, row)[2], "\u2260");
 }
 
+TEST(CompareTable, TakesSwitchesThatAreOnAsEqualWhateverTheirNumbers)
+{
+    std::vector<InspectedMaterial> both;
+    both.push_back(inspected<vxMat::StructuralSteel>("applied"));
+    both.push_back(inspected<vxMat::StructuralSteel>("with unapplied rows"));
+    both[0].material->properties.at(Id::IsotropicElasticity)->value = std::numeric_limits<double>::max();
+    both[1].material->properties.at(Id::IsotropicElasticity)->value = 1.0;
+    const TableContent table = compareTable(both, UnitSystem::si());
+    EXPECT_EQ(table.sentence, "The materials have the same values.");
+    EXPECT_EQ(textsOf(table, rowOf(table, "Isotropic elasticity"))[2], "");
+}
+
 TEST(CompareTable, HasADashForAMissingQuantity)
 {
     std::vector<InspectedMaterial> both = steelAndAluminium();

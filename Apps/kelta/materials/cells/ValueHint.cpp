@@ -20,6 +20,26 @@ constexpr std::array<const char*, 3> styles{
     "color: #ffffff; background: #b3261e; border: 1px solid #7a1510; border-radius: 3px;",
 };
 
+/// Returns the part of a widget that no widget around it cuts off. A window with docks can be narrower than its content.
+QRect visiblePart(const QWidget& widget)
+{
+    QRect part = widget.rect();
+    QPoint place; // of the widget in the one around it
+    for (const QWidget* inner = &widget; !inner->isWindow() && inner->parentWidget() != nullptr;
+         inner = inner->parentWidget())
+    {
+        place += inner->pos();
+        part &= inner->parentWidget()->rect().translated(-place);
+    }
+    return part.isEmpty() ? widget.rect() : part;
+}
+
+/// Returns the point beside the bottom right corner, since QRect::right() is the last pixel inside.
+QPoint endOf(const QRect& area)
+{
+    return {area.x() + area.width(), area.y() + area.height()};
+}
+
 } // namespace
 
 ValueHint::ValueHint(QWidget& editor) : QLabel(editor.parentWidget()), m_editor(editor)
@@ -74,23 +94,24 @@ QSize ValueHint::wrappedTo(int width)
 
 QRect ValueHint::placeFor(const QRect& editor)
 {
-    const QSize area = parentWidget()->size();
+    const QRect area = visiblePart(*parentWidget());
     const QSize size = wrappedTo(area.width());
-    const int left = std::max(0, std::min(editor.left(), area.width() - size.width()));
+    const int left = std::max(area.left(), std::min(editor.left(), endOf(area).x() - size.width()));
     const QRect below(QPoint(left, editor.bottom() + gap), size);
     const QRect above(QPoint(left, editor.top() - gap - size.height()), size);
-    if (below.bottom() < area.height())
+    if (area.contains(below))
         return below;
-    if (above.top() >= 0)
+    if (area.contains(above))
         return above;
-    const QSize atSide = wrappedTo(area.width() - editor.right() - gap);
-    const QRect right(QPoint(editor.right() + gap, std::max(0, area.height() - atSide.height())), atSide);
-    if (right.right() < area.width() && right.bottom() < area.height())
+    const QSize atSide = wrappedTo(endOf(area).x() - editor.right() - gap);
+    const int top = std::max(area.top(), endOf(area).y() - atSide.height());
+    const QRect right(QPoint(editor.right() + gap, top), atSide);
+    if (area.contains(right))
         return right;
     // A part of the text is better than none.
     wrappedTo(area.width());
-    const bool isRoomBelow = area.height() - editor.bottom() > editor.top();
-    return (isRoomBelow ? below : above).intersected(QRect(QPoint(), area));
+    const bool isRoomBelow = area.bottom() - editor.bottom() > editor.top() - area.top();
+    return (isRoomBelow ? below : above).intersected(area);
 }
 
 } // namespace desktop

@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-/// A note beside the editor of a table cell, inside the table: below the editor if there is room, otherwise above it or
+/// A note beside the editor of a table cell, inside the visible part of the table: below the editor if there is room, otherwise above it or
 /// at its side, so that the typed text stays visible. It takes neither the keyboard nor the mouse. Its colours fit the
 /// table, which is white in dark colour schemes too.
 class ValueHint : public QLabel

@@ -78,11 +78,28 @@ QString describe(const UnreadableRow& row)
     return text.arg(QString::number(row.number), shortened(row.value), row.name);
 }
 
+QString describeUnread(int number, const QString& value, const QString& name, const QString& fault)
+{
+    return MaterialView::tr(R"(Row %1: The value "%2" of "%3" cannot be read. %4)")
+        .arg(QString::number(number), shortened(value), name, fault);
+}
+
+/// Returns the reason of the delegate why the value in a row cannot be read; empty if it has none, or if there is no text.
+QString unreadReason(const SheetTableView& table, int row)
+{
+    const QModelIndex cell = table.model()->index(row, SheetTableView::Value);
+    const auto* const delegate = qobject_cast<const SheetTableDelegate*>(table.itemDelegate(cell));
+    const QString value = cell.data().toString();
+    const QString fault = delegate != nullptr && cell.isValid() ? delegate->findFault(cell) : QString();
+    if (fault.isEmpty() || value.trimmed().isEmpty())
+        return {};
+    return describeUnread(row + 1, value, cell.sibling(row, SheetTableView::Name).data().toString(), fault);
+}
+
 QString describe(const PartlyReadRow& row)
 {
     if (!row.fault.isEmpty())
-        return MaterialView::tr(R"(Row %1: The value "%2" of "%3" cannot be read. %4)")
-            .arg(QString::number(row.number), shortened(row.value), row.name, row.fault);
+        return describeUnread(row.number, row.value, row.name, row.fault);
     const QString reason = MaterialView::tr("Row %1: The value \"%2\" of \"%3\" would be read as \"%4\": \"%5\" is not "
                                             "part of the number.");
     const QString remedy = row.unit.isEmpty() ? MaterialView::tr("Type the value without it.")
@@ -402,8 +419,12 @@ bool MaterialView::apply()
     if (table.model()->rowCount() == 0)
         return refuse(tr("Empty property"), tr("No property is defined."));
     QString message;
-    if (!table.validateRows(message))
-        return refuse(tr("Invalid material"), message, table.findRefusedRow(), reasonOf(table.findRefusedRow()));
+    if (!table.validateRows(message)) {
+        const int row = table.findRefusedRow();
+        const QString unread = unreadReason(table, row); // the rules read it as 0
+        return unread.isEmpty() ? refuse(tr("Invalid material"), message, row, reasonOf(row))
+                                : refuse(tr("Invalid material"), unread, row);
+    }
     if (const auto row = table.findUnreadableRow())
         return refuse(tr("Invalid material"), describe(*row), row->number - 1);
     Gui::ApplyRefusal refusal;

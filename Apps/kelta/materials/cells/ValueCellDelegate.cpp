@@ -3,19 +3,22 @@
 #include "CellReading.h"
 #include "ValueEditing.h"
 
+#include "vxMaterial/gui/SheetTableView.h"
+#include "vxMaterial/model/PropertyId.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolTip>
 
-namespace desktop {
-
-namespace {
 #include <algorithm>
 #include <array>
 #include <utility>
 
+namespace desktop {
+
+namespace {
 
 /// Returns whether a key stores the text of an editor and closes it. A line of text leaves the vertical keys to the table,
 /// which then moves to another row.
@@ -79,10 +82,22 @@ QString ValueCellDelegate::findFault(const QModelIndex& index) const
     return reading && !reading->isRead ? reading->remark : QString();
 }
 
+/// A list may have thousands of numbers, and is painted often.
+bool ValueCellDelegate::isUnreadable(const QModelIndex& index) const
+{
+    const int id = index.sibling(index.row(), MatGui::SheetTableView::Id).data().toInt();
+    if (id == vxMat::PropertyId::CreepModulusA) // its unit depends on other rows
+        return !findFault(index).isEmpty();
+    Painted& last = m_painted[id];
+    if (QString text = index.data(Qt::EditRole).toString(); last.text != text || last.text.isNull())
+        last = {std::move(text), !findFault(index).isEmpty()};
+    return last.isUnreadable;
+}
+
 void ValueCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     QStyleOptionViewItem marked(option);
-    if (!findFault(index).isEmpty())
+    if (isUnreadable(index))
         markAsUnreadable(marked);
     SheetTableDelegate::paint(painter, marked, index);
 }

@@ -28,6 +28,7 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::StartsWith;
 using vxMat::eMaterialType;
 using vxtest::MessageBoxes;
 
@@ -313,6 +314,49 @@ TEST_F(ValueCells, MarkAValueThatCannotBeReadAndExplainIt)
     QToolTip::hideText();
 }
 
+TEST_F(ValueCells, AreMarkedUntilTheirTextCanBeRead)
+{
+    MatGui::MaterialView& plastic = editorOf(eMaterialType::PlasticMaterial1);
+    const auto isMarked = [&plastic] {
+        const QRect place = tableOf(plastic).visualRect(cell(plastic, Id::PlasticYieldStress));
+        const QImage shown = tableOf(plastic).viewport()->grab(place).toImage();
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                if (shown.pixelColor(x, y) == QColor(0xb3, 0x26, 0x1e))
+                    return true;
+        return false;
+    };
+    EXPECT_FALSE(isMarked());
+    typeInto(plastic, Id::PlasticYieldStress, "250, 300 MPas");
+    clickOn(plastic, density);
+    EXPECT_TRUE(isMarked());
+    EXPECT_TRUE(isMarked()) << "painted again";
+    type(plastic, Id::PlasticYieldStress, "250, 300 MPa");
+    clickOn(plastic, density);
+    EXPECT_FALSE(isMarked());
+}
+
+TEST_F(ValueCells, MoveToAnotherRowByTheArrowKeysWithAValueThatIsRead)
+{
+    QTest::keyClick(&typeInto(editor, modulus, "70 GPa"), Qt::Key_Down);
+    EXPECT_EQ(lineOf(editor, modulus), nullptr);
+    EXPECT_EQ(stored(editor, modulus), "7e+10");
+    EXPECT_EQ(table.currentIndex(), cell(editor, Id::PoissonsRatio));
+}
+
+TEST_F(ValueCells, RefuseAnUnreadableDensityForTheReasonAloneAndNotAsOneThatIsNotPositive)
+{
+    typeInto(editor, density, "7,85 g/cm^3");
+    clickOn(editor, modulus);
+    const MessageBoxes boxes;
+    apply(editor);
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown().front().text.toStdString(),
+                StartsWith("Row 1: The value \"7,85 g/cm^3\" of \"Density\" cannot be read."));
+    EXPECT_THAT(boxes.shown().front().text.toStdString(), Not(HasSubstr("positive")));
+    EXPECT_EQ(table.currentIndex(), cell(editor, density));
+}
+
 TEST_F(ValueCells, EndTheirEditForCommands)
 {
     typeInto(editor, modulus, "210 GPa");
@@ -481,6 +525,22 @@ TEST_F(ValueCells, TakeNoUnitForACreepFactorWithoutExponents)
     EXPECT_EQ(lineOf(creep, Id::CreepModulusA), &factor);
 }
 
+TEST_F(ValueCells, AreConvertedByApplyIfTheyHaveBecomeReadable)
+{
+    MatGui::MaterialView& creep = editorOf(eMaterialType::CreepMaterial1);
+    typeInto(creep, Id::CreepModulusN, "4,5");
+    clickOn(creep, density);
+    typeInto(creep, Id::CreepModulusA, "1e-10 MPa^-4.5 s^-1");
+    clickOn(creep, density);
+    EXPECT_EQ(stored(creep, Id::CreepModulusA), "1e-10 MPa^-4.5 s^-1") << "N cannot be read yet";
+    type(creep, Id::CreepModulusN, "4.5");
+    const MessageBoxes boxes;
+    apply(creep);
+    EXPECT_THAT(boxes.shown(), IsEmpty());
+    EXPECT_EQ(stored(creep, Id::CreepModulusA), "1e-37"); // 1e-10 / (1e6 Pa)^4.5 / s
+    EXPECT_EQ(creep.getMaterialObject()->getCMaterial()->findProperty(Id::CreepModulusA)->value, 1e-37);
+}
+
 // --- Locales, languages, files that are missing, long texts ---
 
 TEST_F(ValueCells, ReadAndWriteADecimalPointInEveryLocale)
@@ -527,22 +587,6 @@ public:
     {
         const std::string place = context;
         const bool isSentence = place == "desktop::CellReading" || place == "vxUnits::Message";
-TEST_F(ValueCells, AreConvertedByApplyIfTheyHaveBecomeReadable)
-{
-    MatGui::MaterialView& creep = editorOf(eMaterialType::CreepMaterial1);
-    typeInto(creep, Id::CreepModulusN, "4,5");
-    clickOn(creep, density);
-    typeInto(creep, Id::CreepModulusA, "1e-10 MPa^-4.5 s^-1");
-    clickOn(creep, density);
-    EXPECT_EQ(stored(creep, Id::CreepModulusA), "1e-10 MPa^-4.5 s^-1") << "N cannot be read yet";
-    type(creep, Id::CreepModulusN, "4.5");
-    const MessageBoxes boxes;
-    apply(creep);
-    EXPECT_THAT(boxes.shown(), IsEmpty());
-    EXPECT_EQ(stored(creep, Id::CreepModulusA), "1e-37"); // 1e-10 / (1e6 Pa)^4.5 / s
-    EXPECT_EQ(creep.getMaterialObject()->getCMaterial()->findProperty(Id::CreepModulusA)->value, 1e-37);
-}
-
         return isSentence ? QStringLiteral("[%1]").arg(QString::fromUtf8(text)) : QString();
     }
     bool isEmpty() const override { return false; }
@@ -665,6 +709,26 @@ TEST_F(ValueCells, HaveTheirHintBesideThemInTheTable)
                 QTest::keyClick(&line, Qt::Key_Escape);
             }
         }
+    }
+}
+
+TEST_F(ValueCells, HaveTheirHintInTheVisiblePartOfAnEditorThatIsWiderThanItsArea)
+{
+    auto* const frame = new QWidget(editor.parentWidget());
+    frame->resize(420, 400);
+    editor.setParent(frame);
+    editor.setGeometry(0, 0, 900, 600);
+    editor.show();
+    frame->show();
+    QCoreApplication::processEvents();
+    for (const char* const text : {"5", "7,85 g/cm^3"}) {
+        QLineEdit& line = typeInto(editor, density, text);
+        ASSERT_NE(hintOf(editor), nullptr);
+        const QLabel& label = *hintOf(editor);
+        const QRect shown(label.mapTo(frame, QPoint()), label.size());
+        EXPECT_TRUE(frame->rect().contains(shown)) << text << ' ' << shown.right();
+        EXPECT_GE(label.height(), label.heightForWidth(label.width())) << "the whole text is visible";
+        QTest::keyClick(&line, Qt::Key_Escape);
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "vxUnits/UnitsExport.h"
 
+#include <cstddef>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -26,6 +28,9 @@ struct Message
     const char* id = "";                ///< "units.unknown-unit"; does not change with the English text
     const char* english = "";           ///< lives as long as the program
     std::vector<std::string> arguments; ///< UTF-8; numbers have a decimal point whatever the locale
+    /// The parts of arguments that join several texts, such as "Density = 7850 kg/m^3, Specific heat = 434 J/(kg K)", by the
+    /// index of the argument. Each part is translated, in place of the argument.
+    std::map<std::size_t, std::vector<std::string>> parts = {};
 
     /// Returns the text with the arguments in their places: in English, or translated.
     VXUNITS_EXPORT std::string text(const Translator& translator = {}) const;
@@ -34,7 +39,8 @@ struct Message
 /// Returns every text that a Message can have, for translators.
 VXUNITS_EXPORT const std::vector<MessageText>& messageTexts();
 
-/// Returns every argument that needs a translation: names of dimensions and of kinds of materials.
+/// Returns every word that needs a translation: names of dimensions and of kinds of materials, which are arguments, and the
+/// meanings of the quantities.
 VXUNITS_EXPORT const std::vector<std::string>& wordTexts();
 
 } // namespace vxUnits

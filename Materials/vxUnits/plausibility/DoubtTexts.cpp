@@ -7,10 +7,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <utility>
 
 namespace vxUnits {
 
 namespace {
+
+constexpr std::size_t othersPlace = 2; ///< the index of %3 in the texts of rules
 
 /// The text of a rule. %1 is the quantity in doubt and %2 its value, %3 the other quantities with their values, %4 the value
 /// of the relation, %5 and %6 its bounds, %7 and %8 the materials at the bounds.
@@ -133,14 +137,20 @@ std::string typedText(const Change& change, const MaterialValues& values)
     return listText(numbers) + " " + change.unit;
 }
 
-std::string othersText(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
+/// Returns the quantities of a finding beside the one in doubt, with their values: "Density", " = 7850 kg/m^3", ", ",
+/// "Specific heat", and so on.
+std::vector<std::string> partsOfOthers(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
 {
-    std::string text;
+    std::vector<std::string> parts;
     for (const std::int32_t id : finding.ids) {
-        if (id != 0 && id != blamed)
-            text += (text.empty() ? "" : ", ") + nameOf(id) + " = " + valueText(id, values);
+        if (id == 0 || id == blamed)
+            continue;
+        if (!parts.empty())
+            parts.emplace_back(", ");
+        parts.push_back(nameOf(id));
+        parts.push_back(" = " + valueText(id, values));
     }
-    return text;
+    return parts;
 }
 
 /// Returns a factor as it is usually typed: 1e6 instead of 1e+06.
@@ -187,11 +197,13 @@ Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues&
         doubt.highest = std::isinf(finding.highest) ? std::string() : highest;
     }
     doubt.severity = finding.severity;
+    std::vector<std::string> others = partsOfOthers(finding, blamed, values);
     doubt.message = {rule.text.id,
                      rule.text.english,
-                     {nameOf(blamed), valueText(blamed, values), othersText(finding, blamed, values),
-                      rounded(finding.relation, unit), lowest, highest, landmark(blamed, finding.lowest),
-                      landmark(blamed, finding.highest)}};
+                     {nameOf(blamed), valueText(blamed, values),
+                      std::accumulate(others.begin(), others.end(), std::string()), rounded(finding.relation, unit),
+                      lowest, highest, landmark(blamed, finding.lowest), landmark(blamed, finding.highest)},
+                     {{othersPlace, std::move(others)}}};
     return doubt;
 }
 

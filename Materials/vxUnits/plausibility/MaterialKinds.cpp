@@ -223,6 +223,7 @@ void addMaterialWords(std::vector<std::string>& words)
     for (const MaterialKind& kind : materialKinds())
         words.emplace_back(kind.name);
     for (const Quantity& quantity : quantities()) {
+        words.emplace_back(quantity.meaning);
         for (const auto* const range : {&quantity.solids, &quantity.liquids, &quantity.gases}) {
             if (*range)
                 words.insert(words.end(), {(*range)->lowestIs, (*range)->highestIs});

@@ -97,6 +97,15 @@ std::string fill(std::string_view text, const std::vector<std::string>& argument
     return filled;
 }
 
+/// Returns the translations of the parts of an argument, joined.
+std::string translateAll(const std::vector<std::string>& parts, const Translator& translator)
+{
+    std::string text;
+    for (const std::string& part : parts)
+        text += translator("vxUnits::Word", part.c_str());
+    return text;
+}
+
 } // namespace
 
 std::string Message::text(const Translator& translator) const
@@ -104,8 +113,11 @@ std::string Message::text(const Translator& translator) const
     if (!translator)
         return fill(english, arguments);
     std::vector<std::string> translated;
-    for (const std::string& argument : arguments)
-        translated.push_back(translator("vxUnits::Word", argument.c_str()));
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const auto found = parts.find(i);
+        const bool isOne = found == parts.end();
+        translated.push_back(translateAll(isOne ? std::vector{arguments[i]} : found->second, translator));
+    }
     return fill(translator("vxUnits::Message", english), translated);
 }
 

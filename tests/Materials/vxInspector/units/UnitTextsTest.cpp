@@ -74,6 +74,24 @@ TEST(UnitTexts, NameTheQuantitiesOfADoubtInTheLanguageOfTheUser)
     const std::string text = vxInspector::translated(doubts.front()).toStdString();
     EXPECT_THAT(text, HasSubstr("Elastizitätsmodul"));
     EXPECT_EQ(text.find("Young's modulus"), std::string::npos) << text;
+    EXPECT_THAT(text, HasSubstr("Dichte = 7850 kg/m^3"));
+    EXPECT_EQ(text.find("Density"), std::string::npos) << text;
+}
+
+TEST(UnitTexts, NameAllQuantitiesOfADoubtInTheLanguageOfTheUser)
+{
+    const Language chinese("zh_CN");
+    vxUnits::MaterialValues values;
+    values.setNumber(vxMat::PropertyId::Density, 1000.0);
+    values.setNumber(vxMat::PropertyId::SpecificHeat, 1000.0);
+    values.setNumber(vxMat::PropertyId::ThermalConductivity, 3000.0);
+    const std::vector<vxUnits::Doubt> doubts = vxUnits::checkPlausibility(values);
+    ASSERT_FALSE(doubts.empty());
+    const std::string text = vxInspector::translated(doubts.front().message).toStdString();
+    for (const char* const name : {"Density", "Specific heat", "Thermal conductivity"}) {
+        EXPECT_EQ(text.find(name), std::string::npos) << text;
+        EXPECT_THAT(text, HasSubstr(QCoreApplication::translate("vxMat::PropertyName", name).toStdString()));
+    }
 }
 
 TEST(UnitTexts, HaveTheSamePlacesForArgumentsInEveryLanguage)

@@ -119,8 +119,8 @@ Json::Value toJson(const CardMaterial& material, const vxCAE::CardSet& set)
         json["cards"].append(std::move(item));
     }
     json["doubts"] = Json::arrayValue;
-    for (const std::string& doubt : set.doubts)
-        json["doubts"].append(doubt);
+    for (const vxMat::MaterialFinding& doubt : set.doubts)
+        json["doubts"].append(toText(doubt));
     return json;
 }
 
@@ -140,8 +140,8 @@ Answer printCards(const std::vector<std::string>& sources, Form form, const Chos
         const vxCAE::CardSet set = makeCardSet(*material.entry, material.completeness);
         for (const std::string& note : notesOnDigits(*material.entry->material, set))
             answer.messages.push_back(std::string("note: ").append(title).append(note));
-        for (const std::string& doubt : set.doubts) {
-            answer.messages.push_back(std::string(title).append(doubt));
+        for (const vxMat::MaterialFinding& doubt : set.doubts) {
+            answer.messages.push_back(std::string(title).append(toText(doubt)));
             answer.status = Status::Findings;
         }
         if (form == Form::Json)

@@ -11,6 +11,7 @@
 #include "kelta/Batch.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/exchange/CardSet.h"
+#include "vxMaterial/gui/FindingText.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/PropertyRules.h"
@@ -189,12 +190,12 @@ Failure printCards(const QStringList& arguments)
         object->getCMaterial()->copyTo(entry.material.get());
         entry.classifyKind();
         const vxCAE::CardSet cards = vxCAE::makeCardSet(entry, vxCAE::MaterialSource::Complete);
-        output << QString::fromStdString(object->label.getValue()) << '\n';
+        const QString label = QString::fromStdString(object->label.getValue());
+        output << label << '\n';
         for (const vxCAE::SolverCard& card : cards.cards)
             output << QString::fromStdString(card.name + ":\n" + card.text) << '\n';
-        for (const std::string& doubt : cards.doubts)
-            QTextStream(stderr) << Batch::printable(QString::fromStdString(object->label.getValue() + ": " + doubt))
-                                << '\n';
+        for (const vxMat::MaterialFinding& doubt : cards.doubts)
+            QTextStream(stderr) << Batch::printable(label + QStringLiteral(": ") + MatGui::findingText(doubt)) << '\n';
     }
     return Batch::print(text);
 }

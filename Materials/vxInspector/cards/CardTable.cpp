@@ -2,6 +2,7 @@
 
 #include "values/ValueTable.h"
 #include "vxMaterial/exchange/CardSet.h"
+#include "vxMaterial/gui/FindingText.h"
 
 #include <QCoreApplication>
 
@@ -20,6 +21,14 @@ vxCAE::CardSet cardsOf(const vxMat::CMaterial& material)
     material.copyTo(entry.material.get());
     entry.classifyKind();
     return vxCAE::makeCardSet(entry, vxCAE::MaterialSource::Complete);
+}
+
+/// Returns a text that begins with a capital letter.
+QString sentence(QString text)
+{
+    if (!text.isEmpty())
+        text[0] = text[0].toUpper();
+    return text;
 }
 
 Cell cardCell(const std::string& text)
@@ -45,8 +54,8 @@ TableContent cardTable(const InspectedMaterial& inspected)
     for (const UnreadRow& unread : inspected.unreadRows)
         table.rows.push_back({{{tr("Missing"), {}, {}, true},
                                textCell(tr("Row %1 cannot be read: %2").arg(unread.number).arg(unread.reason))}});
-    for (const std::string& doubt : set.doubts)
-        table.rows.push_back({{{tr("Missing"), {}, {}, true}, textCell(QString::fromStdString(doubt))}});
+    for (const vxMat::MaterialFinding& doubt : set.doubts)
+        table.rows.push_back({{{tr("Missing"), {}, {}, true}, textCell(sentence(MatGui::findingText(doubt)))}});
     for (const vxCAE::SolverCard& card : set.cards)
         table.rows.push_back(
             {{{QCoreApplication::translate("vxCAE::SolverCard", card.name.c_str())}, cardCell(card.text)}});

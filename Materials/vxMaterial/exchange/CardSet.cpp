@@ -18,18 +18,56 @@ namespace {
 
 using vxMat::PropertyId;
 
-std::string quoted(const std::string& text)
+using Argument = vxMat::FindingArgument;
+
+/// The doubts, sources of translations in vxMat::findingContext.
+namespace doubt {
+constexpr const char* lacksValue = R"(the %1 card lacks a value: "%2")";
+constexpr const char* documentLoses =
+    "the plasticity card cannot be complete: exchange documents carry no words and lists";
+constexpr const char* documentLosesThese =
+    "the plasticity card cannot be complete: exchange documents carry no words and lists (%1)";
+constexpr const char* noPlasticity = R"(no plasticity card is written for yield type "%1" with hardening type "%2")";
+constexpr const char* noCurve = R"(the plasticity card has no hardening curve: the material has no numbers of "%1")";
+constexpr const char* unusedIfBilinear = R"(the plasticity card leaves out numbers of "%1", which the solver does not )"
+                                         "use with bilinear hardening: %2";
+constexpr const char* unusedWithYieldType =
+    R"(the plasticity card leaves out numbers of "%1", which the solver does not use with yield type "%3": %2)";
+constexpr const char* withoutStrain =
+    R"(the plasticity card leaves out numbers of "%1", which have no plastic strain: %2)";
+constexpr const char* withoutStress =
+    R"(the plasticity card leaves out numbers of "%1", which have no yield stress: %2)";
+constexpr const char* passedOver = R"(no card is written for "%1": another model of the material takes precedence)";
+constexpr const char* notFinite = R"("%1" has a number that is not finite, which no solver reads)";
+} // namespace doubt
+
+void addDoubt(CardSet& set, std::int32_t slot, const char* message, std::vector<Argument> arguments)
 {
-    return "\"" + text + "\"";
+    set.doubts.push_back({slot, vxMat::FindingSeverity::Warning, message, std::move(arguments)});
+}
+
+Argument textArgument(std::string text)
+{
+    return {Argument::Kind::Text, std::move(text)};
+}
+
+Argument nameArgument(std::int32_t id)
+{
+    return {Argument::Kind::QuantityName, vxMat::findPropertyRecord(id)->name};
+}
+
+Argument wordArgument(const vxMat::CMaterial& material, std::int32_t id)
+{
+    return {Argument::Kind::Word, material.getPropertyText(id)};
 }
 
 void addCard(CardSet& set, const char* name, std::string text)
 {
     const std::size_t message = text.find("Invalid");
-    if (message != std::string::npos) {
-        const std::string reason = text.substr(message, text.find('\n', message) - message);
-        set.doubts.push_back(std::string("the ") + name + " card lacks a value: " + quoted(reason));
-    }
+    if (message != std::string::npos)
+        addDoubt(
+            set, 0, doubt::lacksValue,
+            {{Argument::Kind::CardName, name}, textArgument(text.substr(message, text.find('\n', message) - message))});
     set.cards.push_back({name, std::move(text)});
 }
 
@@ -41,52 +79,53 @@ std::string lostWordsAndLists(const vxMat::CMaterial& material)
                                   PropertyId::PlasticYieldStress, PropertyId::PlasticStrain})
     {
         if (material.hasProperty(id))
-            names += (names.empty() ? "" : ", ") + quoted(vxMat::findPropertyRecord(id)->name);
+            names += std::string(names.empty() ? "" : ", ") + '"' + vxMat::findPropertyRecord(id)->name + '"';
     }
     return names;
 }
 
-/// Adds a doubt: the plasticity card lacks the numbers of a list from the position `first` on.
+/// Adds a doubt: the plasticity card lacks the numbers of a list from the position `first` on. The message has the places
+/// of the name of the list and its numbers, and of `more`.
 void doubtLeftOut(CardSet& set, const vxMat::CMaterial& material, std::int32_t id, std::size_t first,
-                  const std::string& reason)
+                  const char* message, const std::vector<Argument>& more = {})
 {
     const std::vector<double>& all = material.getPropertyValues(id);
     if (first >= all.size())
         return;
     const std::vector<double> leftOut(all.begin() + static_cast<std::ptrdiff_t>(first), all.end());
-    set.doubts.push_back("the plasticity card leaves out numbers of " + quoted(vxMat::findPropertyRecord(id)->name) +
-                         ", " + reason + ": " + vxjson::shortened(vxMat::formatNumberList(leftOut)));
+    std::vector<Argument> arguments{nameArgument(id),
+                                    textArgument(vxjson::shortened(vxMat::formatNumberList(leftOut)))};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    addDoubt(set, id, message, std::move(arguments));
 }
 
 /// Adds a doubt if the list is empty, so that the card has no line of its numbers.
 void doubtEmptyList(CardSet& set, const vxMat::CMaterial& material, std::int32_t id)
 {
     if (material.getPropertyValues(id).empty())
-        set.doubts.push_back("the plasticity card has no hardening curve: the material has no numbers of " +
-                             quoted(vxMat::findPropertyRecord(id)->name));
+        addDoubt(set, id, doubt::noCurve, {nameArgument(id)});
 }
 
 void doubtListsOfBilinearCard(CardSet& set, const vxMat::CMaterial& material)
 {
     for (const std::int32_t id : {PropertyId::PlasticYieldStress, PropertyId::PlasticStrain})
-        doubtLeftOut(set, material, id, 0, "which the solver does not use with bilinear hardening");
+        doubtLeftOut(set, material, id, 0, doubt::unusedIfBilinear);
 }
 
 /// Adds doubts about the numbers of a hardening curve that a multilinear card omits or lacks.
 void doubtCurve(CardSet& set, const vxMat::CMaterial& material)
 {
     doubtEmptyList(set, material, PropertyId::PlasticStrain);
-    const std::string yield = material.getPropertyText(PropertyId::PlasticYieldType);
-    if (!vxMat::equalIgnoringAsciiCase(yield, "Mises")) {
-        doubtLeftOut(set, material, PropertyId::PlasticYieldStress, 0,
-                     "which the solver does not use with yield type " + quoted(yield));
+    const Argument yield = wordArgument(material, PropertyId::PlasticYieldType);
+    if (!vxMat::equalIgnoringAsciiCase(yield.text, "Mises")) {
+        doubtLeftOut(set, material, PropertyId::PlasticYieldStress, 0, doubt::unusedWithYieldType, {yield});
         return;
     }
     doubtEmptyList(set, material, PropertyId::PlasticYieldStress);
     const std::size_t stresses = material.getPropertyValues(PropertyId::PlasticYieldStress).size();
     const std::size_t strains = material.getPropertyValues(PropertyId::PlasticStrain).size();
-    doubtLeftOut(set, material, PropertyId::PlasticYieldStress, strains, "which have no plastic strain");
-    doubtLeftOut(set, material, PropertyId::PlasticStrain, stresses, "which have no yield stress");
+    doubtLeftOut(set, material, PropertyId::PlasticYieldStress, strains, doubt::withoutStrain);
+    doubtLeftOut(set, material, PropertyId::PlasticStrain, stresses, doubt::withoutStress);
 }
 
 /// Adds doubts about the lists of the material and the lines of its card, which is not empty.
@@ -98,21 +137,27 @@ void doubtLists(CardSet& set, const vxMat::CMaterial& material, const std::strin
         doubtListsOfBilinearCard(set, material);
 }
 
+void doubtPlasticityOfDocument(CardSet& set, const vxMat::CMaterial& material)
+{
+    const std::string lost = lostWordsAndLists(material);
+    if (lost.empty())
+        addDoubt(set, PropertyId::Plasticity, doubt::documentLoses, {});
+    else
+        addDoubt(set, PropertyId::Plasticity, doubt::documentLosesThese, {textArgument(lost)});
+}
+
 void addPlasticityCard(CardSet& set, const MaterialEntry& entry, MaterialSource source)
 {
     const vxMat::CMaterial& material = *entry.material;
     std::string card = entry.getPlasticityCard();
-    if (source == MaterialSource::Document) {
-        const std::string lost = lostWordsAndLists(material);
-        set.doubts.push_back("the plasticity card cannot be complete: exchange documents carry no words and lists" +
-                             (lost.empty() ? "" : " (" + lost + ")"));
-    } else if (card.empty()) {
-        set.doubts.push_back("no plasticity card is written for yield type " +
-                             quoted(material.getPropertyText(PropertyId::PlasticYieldType)) + " with hardening type " +
-                             quoted(material.getPropertyText(PropertyId::PlasticHardeningType)));
-    } else {
+    if (source == MaterialSource::Document)
+        doubtPlasticityOfDocument(set, material);
+    else if (card.empty())
+        addDoubt(set, PropertyId::PlasticYieldType, doubt::noPlasticity,
+                 {wordArgument(material, PropertyId::PlasticYieldType),
+                  wordArgument(material, PropertyId::PlasticHardeningType)});
+    else
         doubtLists(set, material, card);
-    }
     if (!card.empty())
         addCard(set, "plasticity", std::move(card));
 }
@@ -124,8 +169,7 @@ void doubtPassedOverModels(CardSet& set, const MaterialEntry& entry)
                                    std::pair(PropertyId::Creep, MaterialKind::Creep)})
     {
         if (entry.material->hasProperty(id) && entry.kind != kind)
-            set.doubts.push_back("no card is written for " + quoted(vxMat::findPropertyRecord(id)->name) +
-                                 ": another model of the material takes precedence");
+            addDoubt(set, id, doubt::passedOver, {nameArgument(id)});
     }
 }
 
@@ -136,7 +180,7 @@ void doubtNumbersThatAreNotFinite(CardSet& set, const vxMat::CMaterial& material
     for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(material)) {
         const std::vector<double>& list = property->values;
         if (!isFinite(property->value) || !std::all_of(list.begin(), list.end(), isFinite))
-            set.doubts.push_back(quoted(property->name) + " has a number that is not finite, which no solver reads");
+            addDoubt(set, slot, doubt::notFinite, {{Argument::Kind::QuantityName, property->name}});
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "vxMaterial/exchange/ExchangeExport.h"
 #include "vxMaterial/exchange/MaterialEntry.h"
+#include "vxMaterial/model/MaterialCheck.h"
 
 #include <string>
 #include <vector>
@@ -26,8 +27,9 @@ struct SolverCard
 /// The cards of a material, and their defects. The user should read the defects before using the cards.
 struct CardSet
 {
-    std::vector<SolverCard> cards;   ///< every card that applies to the material; no card is empty
-    std::vector<std::string> doubts; ///< cards that are missing, contain a message, or lack numbers
+    std::vector<SolverCard> cards; ///< every card that applies to the material; no card is empty
+    /// Warnings of cards that are missing, contain a message, or lack numbers. The messages begin with a small letter.
+    std::vector<vxMat::MaterialFinding> doubts;
 };
 
 /// Returns every card that applies to the material of a classified entry: the elasticity line if the material has

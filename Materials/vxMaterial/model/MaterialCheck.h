@@ -22,8 +22,10 @@ struct FindingArgument
 {
     enum class Kind
     {
-        Text,         ///< a number or a word; the same in every language
-        QuantityName, ///< the name of a quantity in the catalogue, which a user interface translates
+        Text,         ///< a number or a text of the user; the same in every language
+        QuantityName, ///< the name of a quantity in the catalogue, which a user interface translates, as it does the others
+        Word,         ///< a value of a quantity that takes words
+        CardName,     ///< the name of a solver card
     };
     Kind kind;
     std::string text;

@@ -10,6 +10,9 @@
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <cmath>
 #include <limits>
 
@@ -267,6 +270,33 @@ TEST(CardTable, SaysFirstWhatIsMissing)
     const TableContent table = cardTable(material);
     EXPECT_EQ(textsOf(table, 0)[0], "Missing");
     EXPECT_THAT(textsOf(table, 0)[1], HasSubstr("Invalid young_modulus or poisson_ratio"));
+}
+
+/// Translates every text to the text in brackets.
+class Brackets : public QTranslator
+{
+public:
+    QString translate(const char* /*context*/, const char* text, const char* /*comment*/, int /*n*/) const override
+    {
+        return QStringLiteral("[%1]").arg(QString::fromUtf8(text));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST(CardTable, SaysWhatIsMissingInTheLanguageOfTheUser)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    material.material->properties.erase(Id::PoissonsRatio);
+    EXPECT_EQ(textsOf(cardTable(material), 0)[1],
+              "The elasticity card lacks a value: \"Invalid young_modulus or poisson_ratio.\"");
+    setNumber(material, Id::Density, infinity);
+    Brackets translator;
+    QCoreApplication::installTranslator(&translator);
+    const TableContent table = cardTable(material);
+    QCoreApplication::removeTranslator(&translator);
+    EXPECT_EQ(textsOf(table, 0)[1],
+              "[the [elasticity] card lacks a value: \"Invalid young_modulus or poisson_ratio.\"]");
+    EXPECT_EQ(textsOf(table, 1)[1], "[\"[Density]\" has a number that is not finite, which no solver reads]");
 }
 
 TEST(CardTable, SaysThatNoCardApplies)

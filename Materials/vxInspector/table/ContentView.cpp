@@ -10,44 +10,68 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QStyle>
 
 #include <algorithm>
 #include <memory>
+#include <numeric>
 #include <utility>
 
 namespace vxInspector {
 
 namespace {
 
+int sumOf(const std::vector<NeededWidth>& needed, int NeededWidth::*width)
+{
+    return std::accumulate(needed.begin(), needed.end(), 0,
+                           [width](int sum, const NeededWidth& column) { return sum + column.*width; });
+}
+
 /// Returns the widths of columns that share a width. If the texts do not fit in one line, all columns get the same part of
-/// what their texts need, so that these have a similar number of lines; but no column is narrower than its words.
+/// what their texts need, so that these have a similar number of lines. If the words do not fit, all columns get the same
+/// part of what their words need beyond the least width, and none gets less than that.
 std::vector<int> shareWidth(const std::vector<NeededWidth>& needed, int width)
 {
-    int whole = 0;
-    int longest = 0;
-    for (const NeededWidth& column : needed) {
-        whole += column.whole;
-        longest += column.longest;
-    }
-    const bool isEnough = whole <= width;
-    const double share = whole > longest ? std::max(width - longest, 0) / static_cast<double>(whole - longest) : 0.0;
+    const bool doWordsFit = sumOf(needed, &NeededWidth::longest) <= width;
+    const auto most = doWordsFit ? &NeededWidth::whole : &NeededWidth::longest;
+    const auto least = doWordsFit ? &NeededWidth::longest : &NeededWidth::least;
+    const int wanted = sumOf(needed, most);
+    const int needs = sumOf(needed, least);
+    const double share =
+        wanted > needs ? std::clamp((width - needs) / static_cast<double>(wanted - needs), 0.0, 1.0) : 1.0;
     std::vector<int> widths;
     widths.reserve(needed.size());
     for (const NeededWidth& column : needed)
-        widths.push_back(isEnough ? column.whole
-                                  : column.longest + static_cast<int>(share * (column.whole - column.longest)));
+        widths.push_back(column.*least + static_cast<int>(share * (column.*most - column.*least)));
     return widths;
 }
 
-int longestWord(const QString& text, const QFontMetrics& font)
+bool isNumber(const QString& word)
+{
+    static const QRegularExpression begin(QStringLiteral("^[-+]?[.0-9]"));
+    return begin.match(word).hasMatch();
+}
+
+/// The widths that the words of a text need.
+struct WordWidths
 {
     int longest = 0;
+    int longestNumber = 0;
+};
+
+WordWidths wordWidths(const QString& text, const QFontMetrics& font)
+{
+    WordWidths widths;
     for (const QString& line : text.split(QLatin1Char('\n')))
-        for (const QString& word : line.split(QLatin1Char(' ')))
-            longest = std::max(longest, font.horizontalAdvance(word));
-    return longest;
+        for (const QString& word : line.split(QLatin1Char(' '))) {
+            const int width = font.horizontalAdvance(word);
+            widths.longest = std::max(widths.longest, width);
+            if (isNumber(word))
+                widths.longestNumber = std::max(widths.longestNumber, width);
+        }
+    return widths;
 }
 
 /// Returns the row of a table with the same place and the same first cell; -1 if there is none.
@@ -190,25 +214,41 @@ void ContentView::changeEvent(QEvent* event)
 NeededWidth ContentView::neededWidth(int column) const
 {
     if (m_columnsOfUser.count(column) != 0)
-        return {columnWidth(column), columnWidth(column)};
+        return {columnWidth(column), columnWidth(column), columnWidth(column)};
     const int header = horizontalHeader()->sectionSizeHint(column);
+    NeededWidth needed{header, header, 0};
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const NeededWidth ofCell = neededWidth(m_model->index(row, column));
+        needed.whole = std::max(needed.whole, ofCell.whole);
+        needed.longest = std::max(needed.longest, ofCell.longest);
+        needed.least = std::max(needed.least, ofCell.least);
+    }
+    return needed;
+}
+
+NeededWidth ContentView::neededWidth(const QModelIndex& index) const
+{
+    const Cell& cell = m_model->cell(index);
+    if (cell.bar) {
+        const int bar = sizeHintForIndex(index).width();
+        return {bar, bar, bar};
+    }
     // The margins of a cell, and one pixel because advances are rounded.
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
-    int whole = header;
-    int longest = 0;
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        const Cell& cell = content().rows[static_cast<std::size_t>(row)].cells[static_cast<std::size_t>(column)];
-        if (cell.bar)
-            return {std::max(header, sizeHintForIndex(m_model->index(row, column)).width()), header};
-        const auto own = m_model->index(row, column).data(Qt::FontRole).value<QFont>();
-        const QFontMetrics metrics(own.resolve(font()));
-        // The size hint of a wrapped cell would depend on the present width of the column.
-        for (const QString& line : cell.text.split(QLatin1Char('\n')))
-            whole = std::max(whole, metrics.horizontalAdvance(line) + margin);
-        longest = std::max(longest, longestWord(cell.text, metrics) + margin);
-    }
+    const QFontMetrics metrics(index.data(Qt::FontRole).value<QFont>().resolve(font()));
+    // The size hint of a wrapped cell would depend on the present width of the column.
+    int whole = 0;
+    for (const QString& line : cell.text.split(QLatin1Char('\n')))
+        whole = std::max(whole, metrics.horizontalAdvance(line) + margin);
+    if (cell.isFixed)
+        return {whole, whole, whole};
+    constexpr int namePart = 8; // characters of a name in a line
+    const WordWidths words = wordWidths(cell.text, metrics);
     const int most = viewport()->width() / 3;
-    return {whole, std::min({std::max(longest, header), whole, most})};
+    const int longest = std::min(words.longest + margin, most);
+    const int least = index.column() == 0 ? std::min(longest, namePart * metrics.averageCharWidth() + margin) : longest;
+    const int number = std::min(words.longestNumber + margin, viewport()->width() / 2);
+    return {whole, std::max(longest, number), std::max(least, number)};
 }
 
 void ContentView::fitColumns()

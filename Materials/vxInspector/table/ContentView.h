@@ -16,11 +16,12 @@ class ContentModel;
 struct NeededWidth
 {
     int whole;   ///< for texts in one line
-    int longest; ///< for the longest word
+    int longest; ///< for the longest word and the header
+    int least;   ///< for what must not be broken: numbers, bars, lines of cards; at most `longest`
 };
 
-/// A table of the inspector. Long texts wrap; the columns share the width. Cells can be copied, as text and as an HTML
-/// table at once.
+/// A table of the inspector. Long texts wrap; the columns share the width. If there is too little of it, names are broken
+/// before numbers and bars. Cells can be copied, as text and as an HTML table at once.
 class ContentView : public QTableView
 {
     Q_OBJECT
@@ -53,6 +54,7 @@ private:
     void createActions();
     void copy(const TablePart& part) const;
     NeededWidth neededWidth(int column) const;
+    NeededWidth neededWidth(const QModelIndex& index) const;
     void fitColumns();
 
     ContentModel* m_model;

@@ -336,6 +336,23 @@ TEST_F(Inspector, CopiesTheSelectedCellsAsTextAndAsATable)
     const int row = findRow(Values, "Density");
     click(Values, row, value);
     EXPECT_TRUE(table.hasFocus());
+TEST_F(Inspector, BreaksNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
+{
+    select({&addMaterial(newProject(), "Shaft", vxMat::eMaterialType::PlasticMaterial1)});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    vxInspector::ContentView& table = view(Values);
+    const QFontMetrics font = table.fontMetrics();
+    for (const int characters : {60, 50}) {
+        table.setFixedWidth(characters * font.averageCharWidth());
+        QCoreApplication::processEvents();
+        const QModelIndex shear = table.model()->index(findRow(Values, "Shear modulus"), value);
+        EXPECT_GT(table.columnWidth(value), font.horizontalAdvance(shear.data().toString())) << characters;
+        const int bars = table.columnViewportPosition(3);
+        EXPECT_LE(bars + 12 * font.averageCharWidth(), table.viewport()->width()) << characters;
+        EXPECT_LT(table.columnWidth(0), font.horizontalAdvance(QStringLiteral("Shear modulus (derived)")));
+    }
+}
+
     EXPECT_EQ(table.currentIndex().row(), row);
     QCoreApplication::processEvents();
     QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);

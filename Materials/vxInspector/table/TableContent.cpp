@@ -6,12 +6,18 @@ namespace vxInspector {
 
 namespace {
 
-QString oneLine(QString text)
+/// Returns a text as one cell of a text with tabs: in quotes if it has tabs or ends of lines, as spreadsheets write and read
+/// it.
+QString asOneCell(QString text)
 {
-    for (const QChar separator :
-         {QChar('\t'), QChar('\n'), QChar('\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
-        text.replace(separator, QLatin1Char(' '));
-    return text;
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (const QChar end : {QChar('\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
+        text.replace(end, QLatin1Char('\n'));
+    const bool isPlain =
+        !text.contains(QLatin1Char('\t')) && !text.contains(QLatin1Char('\n')) && !text.startsWith(QLatin1Char('"'));
+    if (isPlain)
+        return text;
+    return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
 }
 
 const Cell& cellAt(const Row& row, int column)
@@ -75,7 +81,7 @@ QString toTabText(const TableContent& table, const TablePart& part)
     QStringList lines;
     const auto add = [&lines](QStringList texts) {
         for (QString& text : texts)
-            text = oneLine(text);
+            text = asOneCell(text);
         lines << texts.join(QLatin1Char('\t'));
     };
     add(headersOf(table, part));

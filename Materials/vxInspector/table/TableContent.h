@@ -70,8 +70,8 @@ struct TablePart
 /// Returns all rows and columns of a table.
 TablePart wholeOf(const TableContent& table);
 
-/// Returns headers and cells separated by tabs, one line for each row. Tabs and ends of lines in a text become blanks,
-/// so that a spreadsheet gets one cell for each cell.
+/// Returns headers and cells separated by tabs, one line for each row. A text with tabs or several lines is in quotes, so
+/// that a spreadsheet gets one cell for each cell, and the lines of a card are kept.
 QString toTabText(const TableContent& table, const TablePart& part);
 
 /// Returns headers and cells as an HTML table, with the special characters of the texts escaped.

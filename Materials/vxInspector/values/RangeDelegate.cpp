@@ -98,6 +98,10 @@ private:
 void RangeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (static_cast<const ContentModel*>(index.model())->cell(index).isFixed) {
+        option->features &= ~QStyleOptionViewItem::ViewItemFeatures(QStyleOptionViewItem::WrapText);
+        return;
+    }
     const QStyle* const style = option->widget != nullptr ? option->widget->style() : QApplication::style();
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
     const int width = option->rect.width() - 2 * margin;

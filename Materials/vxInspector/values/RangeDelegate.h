@@ -4,8 +4,9 @@
 
 namespace vxInspector {
 
-/// Breaks words that are wider than their cell. Paints the cells with a bar as a bar: a line for the range of each state of matter, and a mark for each value. A
-/// triangle at an end shows a value beyond the known range.
+/// Breaks words that are wider than their cell, but not the lines of cards, because each line has a meaning. Paints the
+/// cells with a bar as a bar: a line for the range of each state of matter, and a mark for each value. A triangle at an end
+/// shows a value beyond the known range.
 class RangeDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -383,7 +383,13 @@ TableContent hostileTable()
 TEST(CopiedTable, HasOneCellForEachCellAsText)
 {
     const TableContent table = hostileTable();
-    EXPECT_EQ(toTabText(table, wholeOf(table)), "a\tb\n<b>1</b> 2 3\tx");
+    EXPECT_EQ(toTabText(table, wholeOf(table)), "a\tb\n\"<b>1</b>\t2\n3\"\tx");
+}
+
+TEST(CopiedTable, KeepsTheLinesOfACard)
+{
+    const TableContent table{{}, {"Card", "Text"}, {{{{"plasticity"}, {"!PLASTIC\r\n2.5e+08, \"1\""}}}}};
+    EXPECT_EQ(toTabText(table, wholeOf(table)), "Card\tText\nplasticity\t\"!PLASTIC\n2.5e+08, \"\"1\"\"\"");
 }
 
 TEST(CopiedTable, EscapesTheTextsAsHtml)

@@ -1,5 +1,6 @@
 #include "findings/FindingTable.h"
 
+#include "findings/Remedying.h"
 #include "values/ValueText.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/gui/FindingText.h"
@@ -9,6 +10,7 @@
 
 #include <QCoreApplication>
 
+#include <set>
 #include <utility>
 
 namespace vxInspector {
@@ -31,10 +33,14 @@ public:
         std::vector<Row> all;
         for (const UnreadRow& unread : m_inspected.unreadRows)
             all.push_back(row(tr("Error"), unread.id, textOf(unread)));
-        for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(*m_inspected.material))
+        std::set<std::int32_t> wrong;
+        for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(*m_inspected.material)) {
             all.push_back(row(kindOf(finding), idIn(finding.slot), MatGui::findingText(finding)));
+            wrong.insert(finding.slot);
+        }
         for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(m_inspected.values))
-            all.push_back(doubtRow(doubt));
+            if (doubt.remedy || doubt.severity != vxUnits::Severity::Impossible || wrong.count(doubt.id) == 0)
+                all.push_back(doubtRow(doubt)); // otherwise an error says the same
         return all;
     }
 
@@ -70,7 +76,8 @@ private:
         std::optional<vxUnits::Remedy> remedy = std::exchange(doubt.remedy, std::nullopt);
         Row made = row(tr("Doubt"), idIn(doubt.id), translated(doubt));
         if (remedy)
-            made.cells[FindingColumn::Remedy] = {translated(remedy->message)};
+            made.cells[FindingColumn::Remedy] = {translated(remedy->message),
+                                                 changesText(*remedy, m_inspected.values, QStringLiteral("\n"))};
         made.remedy = std::move(remedy);
         return made;
     }

@@ -102,8 +102,15 @@ void FindingsPage::applyRemedy() const
         const Row* const row = currentRow();
         if (row == nullptr || !row->remedy)
             return;
-        if (Mat::MaterialObject* const object = findMaterial(row->place))
-            vxInspector::applyRemedy(vxUnits::Remedy(*row->remedy), *object, SubjectWatch::editorOf(*object));
+        Mat::MaterialObject* const object = findMaterial(row->place);
+        if (object == nullptr)
+            return;
+        MatGui::MaterialView* const editor = SubjectWatch::editorOf(*object);
+        const RowPlace place = row->place; // the table is filled again
+        vxInspector::applyRemedy(vxUnits::Remedy(*row->remedy), *object, editor);
+        // The editor has the step, and gets the keyboard, so that Undo can undo it.
+        if (editor != nullptr)
+            showInEditor(place);
     });
 }
 

@@ -1,14 +1,22 @@
 #include "findings/Remedying.h"
 
+#include "Gui/MainWindow.h"
+#include "Obj/Project.h"
 #include "subject/InspectedMaterial.h"
+#include "table/TableContent.h"
+#include "values/ValueText.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialProperty.h"
+#include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
+#include "vxUnits/Quantity.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 #include <cstdint>
 #include <map>
@@ -54,15 +62,56 @@ void applyInEditor(const vxUnits::Remedy& remedy, const Mat::MaterialObject& obj
     editor.setValues(values, stepText());
 }
 
+/// Says what a remedy has changed, since no editor shows it.
+void announce(const Mat::MaterialObject& object, const QString& changes)
+{
+    const QString text = QCoreApplication::translate("vxInspector::Remedying", "The remedy was applied to \"%1\": %2.");
+    Gui::MainWindow::announce(text.arg(shortened(QString::fromStdString(object.label.getValue())), changes),
+                              Kelta::LogMessage::Severity::Information,
+                              {object.get_project()->getProjectId(), object.getObjectId(), 0});
+}
+
+/// Returns the number of a quantity, or the beginning of its list.
+QString numberText(std::int32_t id, const vxUnits::MaterialValues& values)
+{
+    constexpr int most = 60;
+    const std::vector<double>& list = values.list(id);
+    return shortened(QString::fromStdString(list.empty() ? vxMat::formatNumber(values.number(id).value_or(0.0))
+                                                         : vxMat::formatNumberList(list)),
+                     most);
+}
+
 } // namespace
+
+QString changesText(const vxUnits::Remedy& remedy, const vxUnits::MaterialValues& before, const QString& separator)
+{
+    vxUnits::MaterialValues after = before;
+    vxUnits::applyRemedy(remedy, after);
+    QStringList changes;
+    for (const vxUnits::Change& change : remedy.changes) {
+        if (!before.has(change.id))
+            continue;
+        const auto unit = vxUnits::unitOfQuantity(change.id, vxUnits::UnitSystem::si(), before.creepExponents());
+        const QString number = numberText(change.id, after);
+        changes << QCoreApplication::translate("vxInspector::Remedying", "%1: %2 becomes %3")
+                       .arg(quantityName(change.id), numberText(change.id, before),
+                            unit && unit->text() != "1"
+                                ? number + QLatin1Char(' ') + QString::fromStdString(unit->text())
+                                : number);
+    }
+    return changes.join(separator);
+}
 
 void applyRemedy(const vxUnits::Remedy& remedy, Mat::MaterialObject& object, MatGui::MaterialView* editor)
 {
     if (editor != nullptr)
         return applyInEditor(remedy, object, *editor);
     auto before = MatGui::copyOf(*object.getCMaterial());
+    const QString changes = changesText(remedy, vxUnits::MaterialValues(*before), QStringLiteral("; "));
     vxUnits::applyRemedy(remedy, *object.getCMaterial());
-    MatGui::recordChange(object, std::move(before));
+    const vxMsg::MessageProxy::Group step{stepText()};
+    if (MatGui::recordChange(object, std::move(before)))
+        announce(object, changes);
 }
 
 } // namespace vxInspector

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "vxUnits/MaterialValues.h"
 #include "vxUnits/Plausibility.h"
+
+#include <QString>
 
 namespace Mat {
 class MaterialObject;
@@ -13,8 +16,12 @@ class MaterialView;
 namespace vxInspector {
 
 /// Applies a remedy to a material. If `editor`, the open editor of the material, is not null, changes its rows as one
-/// step of its own undo stack; otherwise changes the material as one step of the history. Does nothing if the material
-/// no longer has the quantities.
+/// step of its own undo stack; otherwise changes the material as one step of the history, and announces what it has changed,
+/// because no editor shows it. Does nothing if the material no longer has the quantities.
 void applyRemedy(const vxUnits::Remedy& remedy, Mat::MaterialObject& object, MatGui::MaterialView* editor);
+
+/// Returns what a remedy changes, in SI units: "Young's modulus: 206900 becomes 2.069e+11 Pa"; several changes with
+/// `separator` between them.
+QString changesText(const vxUnits::Remedy& remedy, const vxUnits::MaterialValues& before, const QString& separator);
 
 } // namespace vxInspector

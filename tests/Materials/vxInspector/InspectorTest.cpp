@@ -63,6 +63,12 @@ protected:
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(index).center());
     }
 
+    static std::string lastMessage()
+    {
+        const auto& messages = Kelta::MessageLog::instance().messages();
+        return messages.empty() ? std::string() : messages.back().text.toStdString();
+    }
+
     /// Shows the findings of a material whose Young's modulus was typed in MPa, and returns the row of its doubt.
     int showDoubt(Mat::MaterialObject& object) const
     {
@@ -199,6 +205,8 @@ TEST_F(Inspector, AppliesARemedyAsAStepOfTheHistoryIfNoEditorIsOpen)
     QTest::mouseClick(&applyButton(), Qt::LeftButton);
     EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 2.069e11);
     EXPECT_EQ(history().count(), steps + 1);
+    EXPECT_EQ(history().undoText(), "Apply remedy");
+    EXPECT_THAT(lastMessage(), HasSubstr("Young's modulus: 206900 becomes 2.069e+11 Pa"));
     EXPECT_TRUE(says(Findings, "Nothing is found."));
     history().undo();
     EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 206900.0);
@@ -222,6 +230,7 @@ TEST_F(Inspector, AppliesARemedyAsAStepOfAnOpenEditor)
         return table.model()->index(table.findRow(Id::YoungsModulus), MatGui::SheetTableView::Value).data().toString();
     };
     EXPECT_EQ(shown(), "2.069e+11");
+    EXPECT_TRUE(table.hasFocus()) << "Undo undoes the remedy";
     EXPECT_EQ(editor.getUndoStack()->count(), steps + 1);
     EXPECT_EQ(history().count(), stepsOfHost);
     EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 2e11);
@@ -327,15 +336,6 @@ TEST_F(Inspector, ShowsNumbersInOneLineAfterTheTableOfAProject)
     EXPECT_GT(table.columnWidth(value), table.fontMetrics().horizontalAdvance(QStringLiteral("7.6923e+10")));
 }
 
-TEST_F(Inspector, CopiesTheSelectedCellsAsTextAndAsATable)
-{
-    Mat::MaterialObject& steel = addMaterial(newProject(), "<b>Frame</b>");
-    select({&steel});
-    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
-    vxInspector::ContentView& table = view(Values);
-    const int row = findRow(Values, "Density");
-    click(Values, row, value);
-    EXPECT_TRUE(table.hasFocus());
 TEST_F(Inspector, BreaksNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
 {
     select({&addMaterial(newProject(), "Shaft", vxMat::eMaterialType::PlasticMaterial1)});
@@ -353,6 +353,15 @@ TEST_F(Inspector, BreaksNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
     }
 }
 
+TEST_F(Inspector, CopiesTheSelectedCellsAsTextAndAsATable)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject(), "<b>Frame</b>");
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    vxInspector::ContentView& table = view(Values);
+    const int row = findRow(Values, "Density");
+    click(Values, row, value);
+    EXPECT_TRUE(table.hasFocus());
     EXPECT_EQ(table.currentIndex().row(), row);
     QCoreApplication::processEvents();
     QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);

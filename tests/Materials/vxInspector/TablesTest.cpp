@@ -274,6 +274,26 @@ TEST(CardTable, SaysFirstWhatIsMissing)
 
 /// Translates every text to the text in brackets.
 class Brackets : public QTranslator
+TEST(FindingTable, SaysWhatARemedyChanges)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
+    setNumber(all.back(), Id::YoungsModulus, 206900.0);
+    const TableContent table = findingTable(all);
+    EXPECT_EQ(table.rows[rowOf(table, "Doubt")].cells[vxInspector::FindingColumn::Remedy].toolTip,
+              "Young's modulus: 206900 becomes 2.069e+11 Pa");
+}
+
+TEST(FindingTable, SaysOnceThatANumberIsNotFinite)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
+    setNumber(all.back(), Id::Density, infinity);
+    const TableContent table = findingTable(all);
+    ASSERT_EQ(table.rows.size(), 1U);
+    EXPECT_EQ(textsOf(table, 0)[0], "Error");
+}
+
 {
 public:
     QString translate(const char* /*context*/, const char* text, const char* /*comment*/, int /*n*/) const override

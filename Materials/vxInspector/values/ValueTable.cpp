@@ -4,11 +4,14 @@
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/MaterialProperty.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/DerivedValues.h"
 #include "vxUnits/Quantity.h"
 
 #include <QCoreApplication>
 
+#include <cstddef>
+#include <map>
 #include <utility>
 
 namespace vxInspector {
@@ -66,6 +69,17 @@ Row unreadRow(const InspectedMaterial& inspected, const UnreadRow& unread)
     return {{nameCell(unread.id, {}), value, {}, reason}, {inspected.projectId, inspected.objectId, unread.id}};
 }
 
+/// Returns the rows of the quantities, in the order of the catalogue. A row that cannot be read keeps its place.
+std::multimap<std::size_t, Row> rowsByPosition(const InspectedMaterial& inspected, const vxUnits::UnitSystem& system)
+{
+    std::multimap<std::size_t, Row> rows;
+    for (const vxMat::HeldProperty& held : vxMat::propertiesInCatalogueOrder(*inspected.material))
+        rows.emplace(vxMat::getCataloguePosition(held.slot), heldRow(inspected, held, system));
+    for (const UnreadRow& unread : inspected.unreadRows)
+        rows.emplace(vxMat::getCataloguePosition(unread.id), unreadRow(inspected, unread));
+    return rows;
+}
+
 Row derivedRow(const vxUnits::DerivedValue& derived, const vxUnits::UnitSystem& system)
 {
     const ValueText text = valueText(derived, system);
@@ -88,10 +102,8 @@ QString materialSentence(const InspectedMaterial& inspected)
 TableContent valueTable(const InspectedMaterial& inspected, const vxUnits::UnitSystem& system)
 {
     TableContent table{materialSentence(inspected), {tr("Quantity"), tr("Value"), tr("Unit"), tr("Known range")}, {}};
-    for (const vxMat::HeldProperty& held : vxMat::propertiesInCatalogueOrder(*inspected.material))
-        table.rows.push_back(heldRow(inspected, held, system));
-    for (const UnreadRow& unread : inspected.unreadRows)
-        table.rows.push_back(unreadRow(inspected, unread));
+    for (auto& [position, row] : rowsByPosition(inspected, system))
+        table.rows.push_back(std::move(row));
     for (const vxUnits::DerivedValue& derived : vxUnits::derivedValues(inspected.values))
         table.rows.push_back(derivedRow(derived, system));
     if (table.rows.empty())

@@ -41,6 +41,16 @@ ValueText numbersText(std::int32_t id, const std::vector<double>& numbers, const
     return texts;
 }
 
+/// Returns a note if the number of a switch looks as if the switch were off.
+QString noteOnSwitch(const vxMat::MaterialProperty& property)
+{
+    if (property.value != 0.0)
+        return {};
+    return QCoreApplication::translate("vxInspector::ValueTable",
+                                       "A switch is on if the material has it, whatever its number. Remove the "
+                                       "quantity to switch it off.");
+}
+
 } // namespace
 
 QString quantityName(std::int32_t id, const std::string& otherName)
@@ -64,7 +74,7 @@ ValueText valueText(const vxMat::HeldProperty& held, const vxUnits::MaterialValu
 {
     const vxUnits::Quantity* const quantity = vxUnits::findQuantity(held.slot);
     if (quantity != nullptr && quantity->form == vxUnits::QuantityForm::Switch)
-        return {QCoreApplication::translate("vxInspector::ValueTable", "on"), {}, {}};
+        return {QCoreApplication::translate("vxInspector::ValueTable", "on"), {}, noteOnSwitch(*held.property)};
     if (quantity == nullptr || !quantity->hasNumber())
         return {QString::fromStdString(vxMat::formatValue(*held.property)), {}, {}};
     return numbersText(held.slot, numbersOf(held), values, system);

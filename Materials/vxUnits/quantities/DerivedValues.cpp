@@ -11,10 +11,12 @@ namespace {
 namespace d = dimensions;
 using Id = vxMat::PropertyId;
 
-/// Returns NaN if the material does not have the quantity, so that everything computed from it is NaN too.
+/// Returns NaN if the material does not have the quantity or if its number is infinite, so that everything computed from it
+/// is NaN too.
 double numberOrNone(const MaterialValues& values, std::int32_t id)
 {
-    return values.number(id).value_or(std::nan(""));
+    const auto number = values.number(id);
+    return number && std::isfinite(*number) ? *number : std::nan("");
 }
 
 /// The values from which derived values are computed.

@@ -34,10 +34,11 @@ struct BuiltInSystem
     const char* specificHeat;
     const char* thermalConductivity;
     const char* electricalConductivity;
+    const char* electricalResistivity = nullptr; ///< null for the reciprocal of the conductivity
 };
 
 constexpr BuiltInSystem builtInSystems[] = {
-    {"SI", "m-kg-s,mks", {"m", "kg", "s", "K", "A"}, "Pa", "kg/m^3", "Pa s", "J/(kg K)", "W/(m K)", "S/m"},
+    {"SI", "m-kg-s,mks", {"m", "kg", "s", "K", "A"}, "Pa", "kg/m^3", "Pa s", "J/(kg K)", "W/(m K)", "S/m", "Ohm m"},
     {"mm-t-s",
      "mm-tonne-s,mm-ton-s",
      {"mm", "t", "s", "K", "A"},
@@ -108,8 +109,9 @@ public:
         for (std::size_t i = 0; i < baseUnitCount; ++i)
             setBase(*bases, i, row.bases[i]);
         for (const char* const name : {row.pressure, row.density, row.viscosity, row.specificHeat,
-                                       row.thermalConductivity, row.electricalConductivity})
-            bases->named.push_back(UnitBuilder::build(termsOf(name)).named(name));
+                                       row.thermalConductivity, row.electricalConductivity, row.electricalResistivity})
+            if (name != nullptr)
+                bases->named.push_back(UnitBuilder::build(termsOf(name)).named(name));
         UnitSystem system;
         system.m_text = row.name;
         system.m_builtIn = true;

@@ -129,6 +129,43 @@ TEST(ValueTable, ShowsTheBeginningOfALongListAndCopiesAllOfIt)
     EXPECT_EQ(cell.copied().count(QStringLiteral("2.5e+08")), 20000);
 }
 
+TEST(ValueTable, KeepsTheRowOfAValueThatCannotBeReadInItsPlace)
+{
+    const InspectedMaterial material =
+        readRows({sheetRow(Id::Density, "7,85 g/cm^3"), sheetRow(Id::YoungsModulus, "2e11"),
+                  sheetRow(Id::PoissonsRatio, "0.3")});
+    const TableContent table = valueTable(material, UnitSystem::si());
+    EXPECT_EQ(textsOf(table, 0)[0], "Density");
+    EXPECT_EQ(textsOf(table, 1)[0], "Young's modulus");
+}
+
+TEST(ValueTable, DerivesNothingFromNumbersThatAreNotFinite)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    setNumber(material, Id::Density, infinity);
+    const TableContent table = valueTable(material, UnitSystem::si());
+    for (std::size_t row = 0; row < table.rows.size(); ++row)
+        EXPECT_NE(textsOf(table, row)[0], "Thermal diffusivity (derived)");
+}
+
+TEST(ValueTable, NamesTheOhmInTheUnitOfTheResistivity)
+{
+    const TableContent table = valueTable(inspected<vxMat::EMMaterial1>("Wire"), UnitSystem::si());
+    EXPECT_EQ(textsOf(table, rowOf(table, "Electrical resistivity (derived)"))[2], "Ohm m");
+}
+
+TEST(ValueTable, SaysThatASwitchWithTheNumber0IsOn)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    const auto toolTip = [&material] {
+        const TableContent table = valueTable(material, UnitSystem::si());
+        return table.rows[rowOf(table, "Isotropic elasticity")].cells[1].toolTip.toStdString();
+    };
+    EXPECT_EQ(toolTip(), "");
+    setNumber(material, Id::IsotropicElasticity, 0.0);
+    EXPECT_THAT(toolTip(), HasSubstr("whatever its number"));
+}
+
 TEST(EditorRows, AreReadAsApplyReadsThemAndWithUnits)
 {
     const InspectedMaterial material =

@@ -126,6 +126,16 @@ Row toRow(const ComparedRow& compared)
     return row;
 }
 
+/// Returns the labels of the materials in a state, separated by commas.
+QString labelsWith(const std::vector<InspectedMaterial>& materials, bool InspectedMaterial::*state)
+{
+    QStringList labels;
+    for (const InspectedMaterial& inspected : materials)
+        if (inspected.*state)
+            labels << shortened(inspected.label, 40);
+    return labels.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 TableContent compareTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system)
@@ -141,6 +151,12 @@ TableContent compareTable(const std::vector<InspectedMaterial>& materials, const
     }
     table.sentence = different == 0 ? tr("The materials have the same values.")
                                     : tr("Different in %1 of %2 quantities.").arg(different).arg(table.rows.size());
+    const auto tell = [&](const QString& text, bool InspectedMaterial::*state) {
+        if (const QString labels = labelsWith(materials, state); !labels.isEmpty())
+            table.sentence += QLatin1Char(' ') + text.arg(labels);
+    };
+    tell(tr("With changes that are not applied: %1."), &InspectedMaterial::hasUnappliedRows);
+    tell(tr("Suppressed: %1."), &InspectedMaterial::isSuppressed);
     return table;
 }
 

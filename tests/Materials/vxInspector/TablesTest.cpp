@@ -274,6 +274,26 @@ TEST(FindingTable, HasErrorsAndDoubtsWithTheirRowsAndRemedies)
     EXPECT_NE(doubt.cells[vxInspector::FindingColumn::Remedy].text, "");
 }
 
+TEST(FindingTable, SaysWhatARemedyChanges)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
+    setNumber(all.back(), Id::YoungsModulus, 206900.0);
+    const TableContent table = findingTable(all);
+    EXPECT_EQ(table.rows[rowOf(table, "Doubt")].cells[vxInspector::FindingColumn::Remedy].toolTip,
+              "Young's modulus: 206900 becomes 2.069e+11 Pa");
+}
+
+TEST(FindingTable, SaysOnceThatANumberIsNotFinite)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
+    setNumber(all.back(), Id::Density, infinity);
+    const TableContent table = findingTable(all);
+    ASSERT_EQ(table.rows.size(), 1U);
+    EXPECT_EQ(textsOf(table, 0)[0], "Error");
+}
+
 TEST(FindingTable, SaysThatNothingIsFound)
 {
     std::vector<InspectedMaterial> all;
@@ -311,26 +331,6 @@ TEST(CardTable, SaysFirstWhatIsMissing)
 
 /// Translates every text to the text in brackets.
 class Brackets : public QTranslator
-TEST(FindingTable, SaysWhatARemedyChanges)
-{
-    std::vector<InspectedMaterial> all;
-    all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
-    setNumber(all.back(), Id::YoungsModulus, 206900.0);
-    const TableContent table = findingTable(all);
-    EXPECT_EQ(table.rows[rowOf(table, "Doubt")].cells[vxInspector::FindingColumn::Remedy].toolTip,
-              "Young's modulus: 206900 becomes 2.069e+11 Pa");
-}
-
-TEST(FindingTable, SaysOnceThatANumberIsNotFinite)
-{
-    std::vector<InspectedMaterial> all;
-    all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
-    setNumber(all.back(), Id::Density, infinity);
-    const TableContent table = findingTable(all);
-    ASSERT_EQ(table.rows.size(), 1U);
-    EXPECT_EQ(textsOf(table, 0)[0], "Error");
-}
-
 {
 public:
     QString translate(const char* /*context*/, const char* text, const char* /*comment*/, int /*n*/) const override
@@ -407,6 +407,16 @@ TEST(CompareTable, TakesSwitchesThatAreOnAsEqualWhateverTheirNumbers)
     const TableContent table = compareTable(both, UnitSystem::si());
     EXPECT_EQ(table.sentence, "The materials have the same values.");
     EXPECT_EQ(textsOf(table, rowOf(table, "Isotropic elasticity"))[2], "");
+}
+
+TEST(CompareTable, NamesTheMaterialsThatAreSuppressedOrHaveUnappliedChanges)
+{
+    std::vector<InspectedMaterial> both = steelAndAluminium();
+    both[0].hasUnappliedRows = true;
+    both[1].isSuppressed = true;
+    const std::string sentence = compareTable(both, UnitSystem::si()).sentence.toStdString();
+    EXPECT_THAT(sentence, HasSubstr("With changes that are not applied: Frame."));
+    EXPECT_THAT(sentence, HasSubstr("Suppressed: Skin."));
 }
 
 TEST(CompareTable, HasADashForAMissingQuantity)

@@ -29,10 +29,14 @@ bool endsEditing(const QKeyEvent& event)
     return std::find(keys.begin(), keys.end(), event.key()) != keys.end();
 }
 
-bool leavesForOtherProgram(const QEvent& event)
+/// Returns whether the user leaves an editor for another program, or for the menus by the keyboard; a menu that is opened
+/// with the mouse does not take the focus.
+bool leavesForWhile(const QEvent& event)
 {
-    return event.type() == QEvent::FocusOut &&
-           static_cast<const QFocusEvent&>(event).reason() == Qt::ActiveWindowFocusReason;
+    if (event.type() != QEvent::FocusOut)
+        return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
 }
 
 void markAsUnreadable(QStyleOptionViewItem& option)
@@ -61,7 +65,7 @@ bool ValueCellDelegate::eventFilter(QObject* object, QEvent* event)
     ValueEditing* const editing = ValueEditing::of(*object);
     if (editing == nullptr || editing->isRead())
         return SheetTableDelegate::eventFilter(object, event);
-    if (leavesForOtherProgram(*event))
+    if (leavesForWhile(*event))
         return false; // the base class would close the editor
     if (event->type() != QEvent::KeyPress || !endsEditing(static_cast<const QKeyEvent&>(*event)))
         return SheetTableDelegate::eventFilter(object, event);

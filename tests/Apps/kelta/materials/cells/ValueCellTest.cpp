@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMdiSubWindow>
 #include <QMimeData>
 #include <QToolTip>
 #include <QTranslator>
@@ -390,6 +391,15 @@ TEST_F(ValueCells, KeepAnUnfinishedTextOpenWhileTheUserIsInAnotherProgram)
     EXPECT_EQ(stored(editor, modulus), "2.1e+11");
 }
 
+TEST_F(ValueCells, KeepAnUnreadableTextOpenWhileTheUserIsInAMenu)
+{
+    QLineEdit& line = typeInto(editor, modulus, "210 GPas");
+    QFocusEvent leave(QEvent::FocusOut, Qt::MenuBarFocusReason);
+    QCoreApplication::sendEvent(&line, &leave);
+    EXPECT_EQ(lineOf(editor, modulus), &line);
+    EXPECT_EQ(stored(editor, modulus), "2e+11");
+}
+
 // --- Undo and recovery ---
 
 TEST_F(ValueCells, MakeOneUndoStepOfATypedValue)
@@ -714,19 +724,18 @@ TEST_F(ValueCells, HaveTheirHintBesideThemInTheTable)
 
 TEST_F(ValueCells, HaveTheirHintInTheVisiblePartOfAnEditorThatIsWiderThanItsArea)
 {
-    auto* const frame = new QWidget(editor.parentWidget());
-    frame->resize(420, 400);
-    editor.setParent(frame);
-    editor.setGeometry(0, 0, 900, 600);
-    editor.show();
-    frame->show();
+    auto* const sub = qobject_cast<QMdiSubWindow*>(editor.parentWidget());
+    ASSERT_NE(sub, nullptr);
+    QWidget& area = *sub->parentWidget();
+    sub->showNormal();
+    sub->setGeometry(0, 0, area.width() * 3 / 2, area.height());
     QCoreApplication::processEvents();
     for (const char* const text : {"5", "7,85 g/cm^3"}) {
         QLineEdit& line = typeInto(editor, density, text);
         ASSERT_NE(hintOf(editor), nullptr);
         const QLabel& label = *hintOf(editor);
-        const QRect shown(label.mapTo(frame, QPoint()), label.size());
-        EXPECT_TRUE(frame->rect().contains(shown)) << text << ' ' << shown.right();
+        const QRect shown(label.mapTo(&area, QPoint()), label.size());
+        EXPECT_TRUE(area.rect().contains(shown)) << text << ' ' << shown.right();
         EXPECT_GE(label.height(), label.heightForWidth(label.width())) << "the whole text is visible";
         QTest::keyClick(&line, Qt::Key_Escape);
     }

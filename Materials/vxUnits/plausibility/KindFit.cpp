@@ -19,6 +19,7 @@ constexpr std::array<double, featureCount> tolerances{0.05, 0.12, 0.025, 0.22, 0
 constexpr double missing = 0.5;   ///< for a value that a kind does not have
 constexpr double otherState = 50; ///< for a modulus of a fluid or the viscosity of a solid
 constexpr double inside = 0.15;   ///< at the end of a span; 0 in its middle
+constexpr double farthest = 36.0; ///< of one value; otherwise one absurd value would choose the kind
 constexpr double perDecade = 0.1; ///< so that of two kinds that fit the narrower one is taken
 
 double logarithm(std::optional<double> number)
@@ -82,6 +83,30 @@ const std::vector<std::array<LogSpan, featureCount>>& logSpans()
     return spans;
 }
 
+/// Returns the span of each feature over all kinds.
+const std::array<LogSpan, featureCount>& spansOfAll()
+{
+    static const std::array<LogSpan, featureCount> spans = [] {
+        std::array<LogSpan, featureCount> all{};
+        all.fill({HUGE_VAL, -HUGE_VAL});
+        for (const auto& row : logSpans()) {
+            for (std::size_t i = 0; i < featureCount; ++i) {
+                if (row[i].known())
+                    all[i] = {std::min(all[i].lowest, row[i].lowest), std::max(all[i].highest, row[i].highest)};
+            }
+        }
+        return all;
+    }();
+    return spans;
+}
+
+/// Returns the square of the distance of a value from a span; 0 inside.
+double squareBeyond(std::size_t feature, double value, const LogSpan& span)
+{
+    const double beyond = std::max({span.lowest - value, value - span.highest, 0.0}) / tolerances[feature];
+    return std::min(beyond * beyond, farthest);
+}
+
 bool isOfFluids(std::size_t feature)
 {
     return feature == static_cast<std::size_t>(Feature::Viscosity);
@@ -97,11 +122,11 @@ double misfitOf(std::size_t feature, double value, const MaterialKind& kind, con
 {
     if (!span.known()) {
         const bool other = kind.isFluid() ? isOfSolids(feature) : isOfFluids(feature);
-        return other ? otherState : missing;
+        // A value that no kind has also contradicts the kinds whose span is not known.
+        return other ? otherState : missing + squareBeyond(feature, value, spansOfAll()[feature]);
     }
-    const double beyond = std::max({span.lowest - value, value - span.highest, 0.0}) / tolerances[feature];
-    if (beyond > 0.0)
-        return inside + beyond * beyond;
+    if (const double beyond = squareBeyond(feature, value, span); beyond > 0.0)
+        return inside + beyond;
     const double width = span.highest - span.lowest;
     const double place = (2.0 * value - span.lowest - span.highest) / width;
     return inside * place * place + perDecade * width;

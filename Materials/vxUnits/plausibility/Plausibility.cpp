@@ -211,11 +211,15 @@ private:
         return m_doubts.size() - count;
     }
 
-    /// Gives each doubt its remedy. The kind of the material is known only when all remedies are applied.
+    /// Gives each doubt its remedy. The kind of the material is known only when all remedies are applied. If several
+    /// remedies lead to no known kind, they contradict each other or the other values, and are not given.
     void addRemedies()
     {
         const bool several = m_explained.size() > 1;
-        const MaterialKind* const kind = several ? nearestKind(featuresOf(m_rest)).kind : nullptr;
+        const KindFit fit = several ? nearestKind(featuresOf(m_rest)) : KindFit();
+        if (fit.misfit >= nearSome)
+            return;
+        const MaterialKind* const kind = fit.kind;
         auto doubt = m_doubts.begin();
         for (const Explained& one : m_explained) {
             const Message message = remedyMessage(one.slip, m_values, several ? kind : one.kind);

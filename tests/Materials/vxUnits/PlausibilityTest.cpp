@@ -128,6 +128,26 @@ TEST(Doubts, TwoSlipsHaveTwoRemedies)
     EXPECT_TRUE(checkPlausibility(values).empty());
 }
 
+TEST(Doubts, OfThreeSlipsFromOneDataSheetTheRemediesLeadToTheMaterial)
+{
+    MaterialValues values;
+    values.setNumber(Id::YoungsModulus, 206900); // MPa
+    values.setNumber(Id::PoissonsRatio, 0.3);
+    values.setNumber(Id::Density, 7.85);      // g/cm^3
+    values.setNumber(Id::SpecificHeat, 0.48); // J/(g K)
+    for (int step = 0; step < 3; ++step) {
+        const auto doubts = checkPlausibility(values);
+        const auto remedied = std::find_if(doubts.begin(), doubts.end(), [](const Doubt& one) { return !!one.remedy; });
+        if (remedied == doubts.end())
+            break;
+        applyRemedy(*remedied->remedy, values);
+    }
+    EXPECT_NEAR(*values.number(Id::YoungsModulus), 2.069e11, 1.0);
+    EXPECT_NEAR(*values.number(Id::Density), 7850.0, 1e-9);
+    EXPECT_NEAR(*values.number(Id::SpecificHeat), 480.0, 1e-9);
+    EXPECT_TRUE(checkPlausibility(values).empty());
+}
+
 TEST(Doubts, AResistivityIsRecognised)
 {
     MaterialValues values{vxMat::StructuralSteel()};

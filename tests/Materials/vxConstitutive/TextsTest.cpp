@@ -1,5 +1,7 @@
 #include "vxConstitutive/Texts.h"
 
+#include "DataFile.h"
+
 #include "vxConstitutive/Finding.h"
 #include "vxConstitutive/MaterialModels.h"
 #include "vxConstitutive/data/TestReading.h"
@@ -12,8 +14,26 @@
 
 using namespace vxConstitutive;
 using ::testing::Contains;
+using ::testing::HasSubstr;
 
 namespace {
+
+/// Returns the line of a text in the list from which the translations are made.
+std::string lineOf(const std::string& context, std::string text)
+{
+    for (std::size_t at = text.find('"'); at != std::string::npos; at = text.find('"', at + 2))
+        text.insert(at, "\\");
+    return "QT_TRANSLATE_NOOP(\"" + context + "\", \"" + text + "\"),\n";
+}
+
+TEST(TextsForTranslators, AreInTheListOfTheTranslations)
+{
+    const std::string list = vxtest::readText(VX_TABLE_TEXTS);
+    for (const FindingRecord& record : findingRecords())
+        EXPECT_THAT(list, HasSubstr(lineOf("vxConstitutive::Finding", record.text)));
+    for (const std::string& word : wordTexts())
+        EXPECT_THAT(list, HasSubstr(lineOf("vxConstitutive::Word", word)));
+}
 
 TEST(WordsForTranslators, AreNotRepeated)
 {

@@ -99,7 +99,7 @@ bool isAllowed(const TableFormat& candidate, const TableOptions& options)
            candidate.decimalMark == options.decimalMark.value_or(candidate.decimalMark);
 }
 
-/// Words in round brackets that are a kind of strain or stress, not a unit.
+/// Returns whether a text in round brackets is a kind of strain or stress, not a unit.
 bool isMeasureWord(std::string_view text)
 {
     constexpr std::array<std::string_view, 9> words{"TRUE", "ENG",    "NOM",  "LOG",  "CAUCHY",

@@ -66,7 +66,7 @@ public:
         m_table.lines = number;
     }
 
-    /// The last lines before the first row, the nearest first.
+    /// Returns the last lines before the first row, the nearest first.
     const std::vector<EarlierLine>& linesInFront() const { return m_linesInFront; }
 
     void report() const

@@ -77,7 +77,7 @@ std::optional<Line> fitLine(const TensileCurve& curve, double lowStress, double 
     return line;
 }
 
-/// Returns the point at which a curve crosses the elastic line moved by the offset.
+/// The point at which a curve crosses the elastic line moved by the offset.
 struct Yield
 {
     double strain = 0.0;

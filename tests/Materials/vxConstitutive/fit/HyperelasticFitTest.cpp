@@ -72,7 +72,7 @@ double changed(const FitResult& result, std::int32_t id)
     return std::nan("");
 }
 
-/// A Neo-Hookean fit in simple shear is a straight line through 0 with the slope 2 C10.
+/// Returns a test in simple shear. Its Neo-Hookean fit is a straight line through 0 with the slope 2 C10.
 TestData shearOf(std::vector<double> amounts, std::vector<double> stresses)
 {
     TestData test = makeTest(Mode::SimpleShear, amounts, [](double) { return 0.0; });

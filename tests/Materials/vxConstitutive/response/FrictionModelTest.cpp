@@ -29,7 +29,7 @@ Curve yieldOf(ModelKind kind, double angle, std::vector<double> pressures, std::
     return modelOf(kind, angle).curve(request);
 }
 
-/// Returns Mises stress and pressure of principal stresses, which are positive in tension.
+/// The Mises stress and the pressure of principal stresses, which are positive in tension.
 struct State
 {
     double pressure;

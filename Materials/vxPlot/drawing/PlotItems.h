@@ -1,0 +1,60 @@
+#pragma once
+
+#include "vxPlot/PlotData.h"
+#include "vxPlot/drawing/PlotLook.h"
+
+#include <memory>
+#include <vector>
+
+class QwtPlot;
+class QwtPlotCurve;
+class QwtPlotGrid;
+class QwtPlotZoneItem;
+
+namespace vxPlot {
+
+/// The most entries of a legend. A line below the plot tells the number of further series.
+inline constexpr std::size_t mostInLegend = 24;
+
+/// Shows plot data in a plot widget of Qwt. The items belong to the plot; the plot must outlive this object. Data with the
+/// same series as before only get new points, so that a plot follows a value while it is dragged.
+class PlotItems
+{
+public:
+    PlotItems(QwtPlot& plot, PlotLook look);
+    ~PlotItems();
+    PlotItems(const PlotItems&) = delete;
+    PlotItems& operator=(const PlotItems&) = delete;
+
+    /// Makes the plot show the data. The caller replots.
+    void show(const PlotData& data);
+
+    void setLook(PlotLook look);
+
+    /// The curves in the order of the series of the shown data.
+    const std::vector<QwtPlotCurve*>& curves() const { return m_curves; }
+    const PlotData& data() const { return m_data; }
+
+private:
+    bool hasSameItems(const PlotData& data) const;
+    void makeItems();
+    void addCurve(const Series& series, bool isInLegend);
+    void setPoints();
+    void makeBands();
+    void setAxes();
+    void setFooter();
+    void colourPlot();
+
+    QwtPlot& m_plot;
+    PlotLook m_look;
+    PlotData m_data;
+    std::vector<QwtPlotCurve*> m_curves;
+    std::vector<QwtPlotZoneItem*> m_bands;
+    QwtPlotGrid* m_grid = nullptr;
+};
+
+/// Returns the text of a number on an axis or beside the cross-hair: "0.25", "2e8". It has a decimal point whatever the
+/// language of the user.
+QString numberText(double number, int digits);
+
+} // namespace vxPlot

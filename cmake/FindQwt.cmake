@@ -1,0 +1,15 @@
+# Finds Qwt for Qt 5, which has no CMake package of its own: sets Qwt_FOUND and offers Qwt::Qwt.
+find_path(QWT_INCLUDE_DIR qwt_plot.h PATH_SUFFIXES qwt qwt-qt5)
+find_library(QWT_LIBRARY NAMES qwt-qt5 qwt)
+if(QWT_INCLUDE_DIR)
+    file(STRINGS ${QWT_INCLUDE_DIR}/qwt_global.h QWT_VERSION REGEX "QWT_VERSION_STR")
+    string(REGEX REPLACE ".*\"(.*)\".*" "\\1" QWT_VERSION "${QWT_VERSION}")
+endif()
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(Qwt REQUIRED_VARS QWT_LIBRARY QWT_INCLUDE_DIR VERSION_VAR QWT_VERSION)
+if(Qwt_FOUND AND NOT TARGET Qwt::Qwt)
+    add_library(Qwt::Qwt UNKNOWN IMPORTED)
+    set_target_properties(Qwt::Qwt PROPERTIES
+        IMPORTED_LOCATION ${QWT_LIBRARY} INTERFACE_INCLUDE_DIRECTORIES ${QWT_INCLUDE_DIR})
+endif()
+mark_as_advanced(QWT_INCLUDE_DIR QWT_LIBRARY)

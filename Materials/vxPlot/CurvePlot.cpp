@@ -258,11 +258,7 @@ private:
     void addBand(const vxConstitutive::Range& range, const Series& series)
     {
         const Interval shown{m_x.convert(range.from), m_x.convert(range.to)};
-        const std::string name =
-            m_drawn.size() == 1
-                ? translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "unstable"))
-                : replaced(translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "%1: unstable")), "%1", series.name);
-        m_plot.bands.push_back({name, series.style, shown});
+        m_plot.bands.push_back({translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "unstable")), series.style, shown});
     }
 
     /// Points have the colour of the first curve of their mode.

@@ -2,6 +2,7 @@
 
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
+#include "curves/CurvesPage.h"
 #include "findings/FindingsPage.h"
 #include "plugin/TabContents.h"
 #include "plugin/TabPage.h"
@@ -44,7 +45,8 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
       m_values(new TabPage("inspectorValues", m_tabs)),
       m_findings(new FindingsPage(m_tabs)),
       m_cards(new TabPage("inspectorCards", m_tabs)),
-      m_compare(new TabPage("inspectorCompare", m_tabs))
+      m_compare(new TabPage("inspectorCompare", m_tabs)),
+      m_curves(new CurvesPage(m_tabs))
 {
     m_systems->setObjectName(QStringLiteral("inspectorUnits"));
     m_systems->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -60,6 +62,7 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
     retranslate();
     const auto refreshNow = [this] { Kelta::guarded(tr("The inspector cannot be updated"), [this] { refresh(); }); };
     connect(m_tabs, &QTabWidget::currentChanged, this, refreshNow);
+    connect(m_curves, &CurvesPage::chosen, this, refreshNow);
     connect(m_systems, QOverload<int>::of(&QComboBox::currentIndexChanged), this, refreshNow);
 }
 
@@ -69,22 +72,24 @@ void Inspector::createTabs()
 {
     m_tabs->setObjectName(QStringLiteral("inspectorTabs"));
     m_tabs->setDocumentMode(true);
-    for (QWidget* const page : {static_cast<QWidget*>(m_values), static_cast<QWidget*>(m_findings),
-                                static_cast<QWidget*>(m_cards), static_cast<QWidget*>(m_compare)})
+    for (QWidget* const page :
+         {static_cast<QWidget*>(m_values), static_cast<QWidget*>(m_findings), static_cast<QWidget*>(m_cards),
+          static_cast<QWidget*>(m_compare), static_cast<QWidget*>(m_curves)})
         m_tabs->addTab(page, QString());
 }
 
 void Inspector::retranslate()
 {
     m_unitsLabel->setText(tr("&Units:"));
-    m_systems->setToolTip(tr("The unit system of the values and the comparison. It changes no value."));
-    const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare")};
-    TabPage* const pages[] = {m_values, m_findings, m_cards, m_compare};
-    for (int tab = 0; tab < m_tabs->count(); ++tab) {
+    m_systems->setToolTip(tr("The unit system of values, comparison and curves. It changes no value."));
+    const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves")};
+    for (int tab = 0; tab < m_tabs->count(); ++tab)
         m_tabs->setTabText(tab, titles[tab]);
-        pages[tab]->view().setAccessibleName(titles[tab]);
-        pages[tab]->retranslate();
+    for (TabPage* const page : {m_values, static_cast<TabPage*>(m_findings), m_cards, m_compare}) {
+        page->view().setAccessibleName(titles[m_tabs->indexOf(page)]);
+        page->retranslate();
     }
+    m_curves->retranslate();
     m_ofProject.clear();
 }
 
@@ -119,6 +124,17 @@ void Inspector::refresh()
 }
 
 void Inspector::fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system)
+{
+    if (m_tabs->currentWidget() != m_curves)
+        return fillTable(subject, system);
+    const DrawnMaterials drawn = drawnMaterials(subject);
+    if (drawn.materials.empty())
+        m_curves->setSentence(drawn.sentence);
+    else
+        m_curves->setMaterials(drawn.materials, system, drawn.limit);
+}
+
+void Inspector::fillTable(const Subject& subject, const vxUnits::UnitSystem& system)
 {
     const QWidget* const page = m_tabs->currentWidget();
     if (page == m_values)

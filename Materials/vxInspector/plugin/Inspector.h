@@ -12,6 +12,7 @@ class QLabel;
 
 namespace vxInspector {
 
+class CurvesPage;
 class FindingsPage;
 class SubjectWatch;
 class TabPage;
@@ -39,6 +40,7 @@ private:
     void retranslate();
     void fillSystems(const vxUnits::UnitSystem& ofProject);
     vxUnits::UnitSystem chosenSystem(const vxUnits::UnitSystem& ofProject) const;
+    void fillTable(const Subject& subject, const vxUnits::UnitSystem& system);
     void fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system);
 
     SubjectWatch& m_watch;
@@ -49,6 +51,7 @@ private:
     FindingsPage* m_findings;
     TabPage* m_cards;
     TabPage* m_compare;
+    CurvesPage* m_curves;
     std::string m_ofProject; ///< the unit system of the project in the first entry of the choice
 };
 

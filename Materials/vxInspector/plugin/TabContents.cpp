@@ -2,6 +2,7 @@
 
 #include "cards/CardTable.h"
 #include "compare/CompareTable.h"
+#include "curves/CurvesContent.h"
 #include "findings/FindingTable.h"
 #include "subject/SubjectWatch.h"
 #include "values/ValueTable.h"
@@ -127,6 +128,18 @@ TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& syste
     tellLimit(table, subject, mostCompared,
               QT_TRANSLATE_NOOP("vxInspector::TabContents", "Only the first %1 of %2 materials are shown."));
     return table;
+}
+
+DrawnMaterials drawnMaterials(const Subject& subject)
+{
+    if (subject.materials.empty())
+        return {emptySentence(subject)};
+    if (subject.kind == Kind::Project)
+        return {tr("A project is selected. Select one or more materials to see their curves.")};
+    DrawnMaterials drawn{{}, inspectFirst(subject, mostDrawn)};
+    if (subject.materials.size() > mostDrawn)
+        drawn.limit = tr("Only the first %1 of %2 materials are shown.").arg(mostDrawn).arg(subject.materials.size());
+    return drawn;
 }
 
 } // namespace vxInspector

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "subject/InspectedMaterial.h"
 #include "subject/Subject.h"
 #include "table/TableContent.h"
 #include "vxUnits/UnitSystem.h"
@@ -18,5 +19,14 @@ TableContent findingsTab(const Subject& subject);
 TableContent cardsTab(const Subject& subject);
 /// Returns the comparison of all materials.
 TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& system);
+
+/// The materials whose curves are drawn.
+struct DrawnMaterials
+{
+    QString sentence = {}; ///< why there are none
+    std::vector<InspectedMaterial> materials = {};
+    QString limit = {}; ///< says that further ones are not drawn; empty if all are
+};
+DrawnMaterials drawnMaterials(const Subject& subject);
 
 } // namespace vxInspector

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QPainter>
 #include <QRegularExpression>
+#include <qwt_graphic.h>
+#include <qwt_painter.h>
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
@@ -73,8 +75,12 @@ public:
     void drawSeries(QPainter* painter, const QwtScaleMap& x, const QwtScaleMap& y, const QRectF& canvas, int /*from*/,
                     int /*to*/) const override
     {
+        // Whole pixels would make steps of a smooth curve.
+        const bool wasRounding = QwtPainter::roundingAlignment();
+        QwtPainter::setRoundingAlignment(false);
         for (const auto& [first, last] : m_runs)
             QwtPlotCurve::drawSeries(painter, x, y, canvas, first, last);
+        QwtPainter::setRoundingAlignment(wasRounding);
     }
 
 private:
@@ -94,6 +100,7 @@ class Shading : public QwtPlotZoneItem
 {
 public:
     QRectF boundingRect() const override { return {0.0, 0.0, -1.0, -1.0}; }
+    QwtGraphic legendIcon(int /*index*/, const QSizeF& size) const override { return defaultIcon(brush(), size); }
 };
 
 QwtText plain(const std::string& text)
@@ -165,7 +172,9 @@ PlotItems::PlotItems(QwtPlot& plot, PlotLook look) : m_plot(plot), m_look(std::m
         m_plot.setAxisScaleDraw(axis, new NumberScale);
     if (auto* const canvas = qobject_cast<QwtPlotCanvas*>(m_plot.canvas()))
         canvas->setFrameStyle(QFrame::NoFrame);
-    m_plot.plotLayout()->setAlignCanvasToScales(true);
+    constexpr int room = 6; // for symbols at the ends of the axes
+    m_plot.plotLayout()->setAlignCanvasToScales(false);
+    m_plot.plotLayout()->setCanvasMargin(room);
     m_grid = new QwtPlotGrid;
     m_grid->attach(&m_plot);
     colourPlot();
@@ -205,10 +214,11 @@ bool PlotItems::hasSameItems(const PlotData& data) const
 
 void PlotItems::makeItems()
 {
-    for (QwtPlotCurve* const curve : std::exchange(m_curves, {})) {
-        curve->detach();
+    // The legend lists items in the order in which they are attached: curves first.
+    for (QwtPlotCurve* const curve : std::exchange(m_curves, {}))
         delete curve;
-    }
+    for (QwtPlotZoneItem* const band : std::exchange(m_bands, {}))
+        delete band;
     for (const Series& series : m_data.series)
         addCurve(series, m_curves.size() < mostInLegend);
     setFooter();
@@ -221,8 +231,7 @@ void PlotItems::addCurve(const Series& series, bool isInLegend)
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     curve->setLegendAttribute(QwtPlotCurve::LegendShowLine, series.kind == SeriesKind::Line);
     curve->setLegendAttribute(QwtPlotCurve::LegendShowSymbol, series.kind == SeriesKind::Symbols);
-    const int iconWidth = static_cast<int>(m_look.lineWidth * 18.0);
-    curve->setLegendIconSize(QSize(iconWidth, static_cast<int>(m_look.symbolSize * 1.25)));
+    curve->setLegendIconSize(legendIconSize());
     curve->setPen(m_look.linePen(series.style));
     if (series.kind == SeriesKind::Symbols) {
         curve->setStyle(QwtPlotCurve::NoCurve);
@@ -239,10 +248,14 @@ void PlotItems::setPoints()
         static_cast<GapCurve*>(m_curves[i])->setPoints(pointsOf(m_data.series[i], m_data));
 }
 
+QSize PlotItems::legendIconSize() const
+{
+    return {static_cast<int>(m_look.lineWidth * 18.0), static_cast<int>(m_look.symbolSize * 1.25)};
+}
+
 void PlotItems::makeBands()
 {
     while (m_bands.size() > m_data.bands.size()) {
-        m_bands.back()->detach();
         delete m_bands.back();
         m_bands.pop_back();
     }
@@ -258,6 +271,7 @@ void PlotItems::makeBands()
         shade.setAlphaF(0.16F);
         m_bands[i]->setPen(QPen(Qt::NoPen));
         m_bands[i]->setBrush(shade);
+        m_bands[i]->setLegendIconSize(QSize(legendIconSize().width() / 2, legendIconSize().height()));
         m_bands[i]->setInterval(band.range.from, band.range.to);
         m_bands[i]->setTitle(plain(band.name));
         const bool isInLegend = named.insert(band.name).second && named.size() <= mostInLegend;

@@ -3,7 +3,9 @@
 #include "vxPlot/PlotData.h"
 #include "vxPlot/drawing/PlotLook.h"
 
-#include <memory>
+#include <QSize>
+#include <QString>
+
 #include <vector>
 
 class QwtPlot;
@@ -31,8 +33,9 @@ public:
 
     void setLook(PlotLook look);
 
-    /// The curves in the order of the series of the shown data.
+    /// The items in the order of the series and bands of the shown data.
     const std::vector<QwtPlotCurve*>& curves() const { return m_curves; }
+    const std::vector<QwtPlotZoneItem*>& bands() const { return m_bands; }
     const PlotData& data() const { return m_data; }
 
 private:
@@ -41,6 +44,7 @@ private:
     void addCurve(const Series& series, bool isInLegend);
     void setPoints();
     void makeBands();
+    QSize legendIconSize() const;
     void setAxes();
     void setFooter();
     void colourPlot();

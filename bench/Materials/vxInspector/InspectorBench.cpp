@@ -82,6 +82,44 @@ int report(const QString& tab, double milliseconds)
     return within ? 0 : 1;
 }
 
+/// A value of several rubbers is dragged while the tab of the curves is visible.
+int reportCurves()
+{
+    auto& project = static_cast<Mat::DocumentMaterial&>(*materialObject().get_project());
+    std::vector<Obj::ProjectObject*> rubbers;
+    for (const char* const label : {"Seal", "Pad", "Mount", "Hose"}) {
+        auto* const rubber = static_cast<Mat::MaterialObject*>(project.add_object("Mat::MaterialObject", label));
+        rubber->getCMaterial()->copyPropertiesFrom(
+            *project.getMatMgr().materials.at(static_cast<std::int32_t>(vxMat::eMaterialType::Elastomer1)));
+        rubbers.push_back(rubber);
+    }
+    vxInspector::SubjectWatch watch(nullptr);
+    vxInspector::Inspector inspector(watch);
+    inspector.resize(400, 800);
+    inspector.findChild<QTabWidget*>()->setCurrentIndex(4);
+    inspector.show();
+    int failures = 0;
+    for (const std::size_t count : {std::size_t(1), rubbers.size()}) {
+        Gui::TreeSelectionSingleton::instance().setSelection({}, {rubbers.begin(), rubbers.begin() + long(count)});
+        inspector.refresh();
+        QCoreApplication::processEvents();
+        auto& dragged = *static_cast<Mat::MaterialObject*>(rubbers.front())->getCMaterial();
+        double shortest = 1e9;
+        for (int i = 0; i < 20; ++i) {
+            for (auto& [slot, property] : dragged.properties)
+                property->value *= 1.01;
+            const auto time = timed([&inspector] {
+                inspector.refresh();
+                inspector.repaint();
+                return 0;
+            });
+            shortest = std::min(shortest, std::chrono::duration<double, std::milli>(time).count());
+        }
+        failures += report(QString::number(3 * count) + " curves, a value dragged", shortest);
+    }
+    return failures;
+}
+
 int reportTabs()
 {
     Gui::MainWindow window;
@@ -112,5 +150,5 @@ int main(int argc, char** argv)
     Mat::registerRequests();
     vxbench::addContest({"table of values in another unit system / plain reads", makeTable, readValues, 0.0});
     const int contests = vxbench::runContests(argc, argv);
-    return argc > 1 ? contests : contests + reportTabs();
+    return argc > 1 ? contests : contests + reportTabs() + reportCurves();
 }

@@ -52,6 +52,15 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     select({&frame, &shaft, &skin});
     tabs.setCurrentIndex(3);
     shooting.take("inspector-compare");
+    Mat::MaterialObject& seal = add(project, "Seal", Type::Elastomer1);
+    Mat::MaterialObject& pad = add(project, "Pad", Type::Elastomer2);
+    select({&seal});
+    tabs.setCurrentIndex(4);
+    shooting.take("inspector-curves");
+    select({&seal, &pad});
+    shooting.take("inspector-curves-two");
+    select({&frame, &skin});
+    shooting.take("inspector-curves-metals");
 }
 
 } // namespace

@@ -39,6 +39,7 @@ protected:
         Findings,
         Cards,
         Compare,
+        Curves,
     };
 
     InspectorTest();

@@ -142,7 +142,7 @@ TEST(CurvePlot, ShadesWhereACurveIsUnstable)
     request.curves.push_back({"Seal", &other});
     plot = curvePlot(request);
     ASSERT_EQ(plot.bands.size(), 1U);
-    EXPECT_EQ(plot.bands[0].name, "uniaxial: unstable");
+    EXPECT_EQ(plot.bands[0].name, "unstable");
 }
 
 TEST(CurvePlot, TellsTheStressesOfCreepCurvesInTheChosenUnits)

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "subject/InspectedMaterial.h"
+#include "table/TableContent.h"
+#include "vxConstitutive/Curve.h"
+#include "vxPlot/PlotData.h"
+#include "vxUnits/UnitSystem.h"
+
+#include <QString>
+
+#include <optional>
+#include <set>
+#include <vector>
+
+/// The curves of the selected materials without widgets.
+namespace vxInspector {
+
+/// The most materials in a plot.
+inline constexpr std::size_t mostDrawn = 20;
+
+/// What the user has chosen. What is absent is chosen by the materials.
+struct CurveSettings
+{
+    std::set<vxConstitutive::Mode> modes = {}; ///< those that the materials do not have are ignored
+    std::size_t ordinates = 0;                 ///< a position in vxPlot::ordinatesOf
+    std::optional<double> from = {};           ///< SI; of the horizontal axis
+    std::optional<double> to = {};
+    std::optional<vxPlot::Scale> horizontal = {};
+    std::optional<vxPlot::Scale> vertical = {};
+    vxConstitutive::Compressibility compressibility = vxConstitutive::Compressibility::AsGiven;
+};
+
+/// The curves of materials.
+struct CurvesContent
+{
+    QString sentence;                             ///< why there are no curves, or of which materials they are
+    std::vector<vxConstitutive::Mode> modes = {}; ///< that the materials have, in the order of Mode
+    std::vector<vxConstitutive::Mode> shown = {}; ///< which fit into one plot
+    bool canBeIncompressible = false;             ///< whether a shown curve depends on the compressibility
+    vxConstitutive::Range range = {};             ///< SI
+    vxPlot::PlotData plot = {};
+    TableContent findings = {};
+};
+
+/// Returns the curves of materials in a unit system.
+CurvesContent curvesOf(const std::vector<InspectedMaterial>& materials, const CurveSettings& settings,
+                       const vxUnits::UnitSystem& system);
+
+/// Returns the modes that are shown if `chosen` was chosen of `available`: those that fit to the first of them; if there
+/// are none, the usual ones.
+std::vector<vxConstitutive::Mode> shownModes(const std::vector<vxConstitutive::Mode>& available,
+                                             const std::set<vxConstitutive::Mode>& chosen, bool hasRubber);
+
+} // namespace vxInspector

@@ -1,0 +1,236 @@
+// What the tab of the curves shows, without widgets.
+
+#include "curves/CurvesContent.h"
+
+#include "curves/ConstitutiveTexts.h"
+#include "vxMaterial/model/MatDBManager.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace {
+
+using testing::DoubleNear;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using vxConstitutive::Mode;
+using vxInspector::CurvesContent;
+using vxInspector::CurveSettings;
+using vxInspector::InspectedMaterial;
+using Id = vxMat::PropertyId;
+
+using Numbers = std::vector<std::pair<int, std::string>>;
+
+/// A material with the given values of quantities.
+InspectedMaterial material(const QString& label, const Numbers& values)
+{
+    InspectedMaterial inspected;
+    inspected.label = label;
+    inspected.objectId = static_cast<std::uint32_t>(label.size());
+    inspected.material = std::make_unique<vxMat::CMaterial>();
+    for (const auto& [id, value] : values)
+        inspected.material->addProperty(id, "", value, "", "");
+    return inspected;
+}
+
+InspectedMaterial rubber(const QString& label = "Seal", const std::string& c10 = "500000")
+{
+    return material(label, {{Id::NeoHooke, "1"}, {Id::MaterialConstantC10, c10}});
+}
+
+InspectedMaterial steel()
+{
+    return material("Frame", {{Id::IsotropicElasticity, "1"},
+                              {Id::YoungsModulus, "2e11"},
+                              {Id::PoissonsRatio, "0.3"},
+                              {Id::Plasticity, "1"},
+                              {Id::PlasticYieldType, "Mises"},
+                              {Id::PlasticHardeningType, "Multilinear"},
+                              {Id::PlasticYieldStress, "3e8, 4e8, 4.5e8"},
+                              {Id::PlasticStrain, "0, 0.033, 0.1"}});
+}
+
+CurvesContent drawn(std::vector<InspectedMaterial> materials, const CurveSettings& settings = {},
+                    const char* system = "mm-t-s")
+{
+    return vxInspector::curvesOf(materials, settings, *vxUnits::UnitSystem::parse(system));
+}
+
+CurvesContent drawn(InspectedMaterial one, const CurveSettings& settings = {}, const char* system = "mm-t-s")
+{
+    std::vector<InspectedMaterial> materials;
+    materials.push_back(std::move(one));
+    return drawn(std::move(materials), settings, system);
+}
+
+std::vector<std::string> namesOf(const CurvesContent& content)
+{
+    std::vector<std::string> names;
+    for (const vxPlot::Series& series : content.plot.series)
+        names.push_back(series.name);
+    return names;
+}
+
+double valueAt(const vxPlot::Series& series, double x)
+{
+    for (std::size_t i = 0; i < series.x.size(); ++i)
+        if (std::fabs(series.x[i] - x) < 1e-12)
+            return series.y[i];
+    return std::nan("");
+}
+
+TEST(CurvesContent, ShowsTheThreeTensileModesOfRubber)
+{
+    const CurvesContent content = drawn(rubber());
+    EXPECT_THAT(namesOf(content), ElementsAre("uniaxial", "equibiaxial", "planar"));
+    EXPECT_EQ(content.plot.y.unit, "MPa");
+    EXPECT_EQ(content.sentence, "\"Seal\".");
+    EXPECT_TRUE(content.canBeIncompressible);
+}
+
+TEST(CurvesContent, HasTheValuesOfTheModelInTheChosenRange)
+{
+    CurveSettings settings;
+    settings.from = 1.0;
+    settings.to = 2.0;
+    const CurvesContent content = drawn(rubber(), settings);
+    EXPECT_THAT(valueAt(content.plot.series.at(0), 2.0), DoubleNear(2.0 * 0.5 * (2.0 - 0.25), 1e-9));
+    EXPECT_EQ(content.plot.series[0].x.size(), 201U);
+    std::swap(settings.from, settings.to);
+    EXPECT_EQ(drawn(rubber(), settings).range.from, 1.0);
+}
+
+TEST(CurvesContent, OffersOnlyTheModesThatTheMaterialsHave)
+{
+    EXPECT_THAT(drawn(rubber()).modes,
+                ElementsAre(Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar, Mode::SimpleShear, Mode::Volumetric));
+    EXPECT_THAT(
+        drawn(material("Bearing",
+                       {{Id::ViscoElasticity, "1"}, {Id::ShearRelaxationModulus, "0.4"}, {Id::RelaxationTime, "2"}}))
+            .modes,
+        ElementsAre(Mode::Relaxation, Mode::ShearCreep, Mode::Dynamic));
+}
+
+TEST(CurvesContent, ShowsTheHardeningOfAMetalWithItsCorners)
+{
+    const CurvesContent content = drawn(steel());
+    EXPECT_THAT(content.shown, ElementsAre(Mode::Plastic));
+    EXPECT_THAT(namesOf(content), ElementsAre("Frame"));
+    EXPECT_EQ(content.plot.x.name, "plastic strain");
+    EXPECT_THAT(content.range.to, DoubleNear(0.11, 1e-12));
+    EXPECT_THAT(valueAt(content.plot.series[0], 0.033), DoubleNear(400.0, 1e-9));
+}
+
+TEST(CurvesContent, StopsBeforeTheLimitOfTheChains)
+{
+    const CurvesContent content = drawn(material(
+        "Seal", {{Id::ArrudaBoyce, "1"}, {Id::InitialShearModulusMu, "500000"}, {Id::LimitingNetworkStretch, "1.4"}}));
+    EXPECT_LT(content.range.to, 2.5);
+    EXPECT_GT(content.range.to, 1.4);
+}
+
+TEST(CurvesContent, ShadesAndTellsWhereRubberIsUnstable)
+{
+    CurveSettings settings;
+    settings.to = 3.0;
+    const CurvesContent content = drawn(
+        material("Seal",
+                 {{Id::MooneyRivlin, "1"}, {Id::MaterialConstantC10, "500000"}, {Id::MaterialConstantC01, "-100000"}}),
+        settings);
+    ASSERT_FALSE(content.plot.bands.empty());
+    EXPECT_GT(content.plot.bands[0].range.from, 1.0);
+    bool isTold = false;
+    for (const vxInspector::Row& row : content.findings.rows)
+        isTold = isTold || row.cells[1].copied().contains("unstable");
+    EXPECT_TRUE(isTold);
+}
+
+TEST(CurvesContent, DrawsSeveralMaterialsOverTheRangeOfAll)
+{
+    std::vector<InspectedMaterial> materials;
+    materials.push_back(rubber("Seal"));
+    materials.push_back(rubber("Pad", "1000000"));
+    materials.push_back(steel());
+    materials.push_back(material("Gas", {{Id::Density, "1.2"}}));
+    CurveSettings settings;
+    settings.modes = {Mode::Uniaxial};
+    const CurvesContent content = drawn(std::move(materials), settings);
+    EXPECT_THAT(namesOf(content), ElementsAre("Seal", "Pad", "Frame"));
+    EXPECT_EQ(content.sentence, "Materials without a model: 1.");
+    EXPECT_THAT(content.findings.headers, ElementsAre("Kind", "Finding", "Material"));
+}
+
+TEST(CurvesContent, TellsAFindingOfAMaterialOnce)
+{
+    InspectedMaterial soft = rubber();
+    soft.material->addProperty(Id::IncompressibilityParameterD1, "", "0", "", "");
+    const CurvesContent content = drawn(std::move(soft));
+    int count = 0;
+    for (const vxInspector::Row& row : content.findings.rows)
+        count += row.cells[1].copied().contains("D1 is 0") ? 1 : 0;
+    EXPECT_EQ(count, 1);
+}
+
+TEST(CurvesContent, MarksSuppressedMaterials)
+{
+    InspectedMaterial suppressed = rubber();
+    suppressed.isSuppressed = true;
+    CurveSettings settings;
+    settings.modes = {Mode::SimpleShear};
+    const CurvesContent content = drawn(std::move(suppressed), settings);
+    EXPECT_THAT(namesOf(content), ElementsAre("Seal (suppressed)"));
+    EXPECT_THAT(content.sentence.toStdString(), HasSubstr("It is suppressed."));
+}
+
+TEST(CurvesContent, SaysWhyThereAreNoCurves)
+{
+    const CurvesContent content = drawn(material("Gas", {{Id::Density, "1.2"}}));
+    EXPECT_THAT(content.plot.series, IsEmpty());
+    EXPECT_THAT(content.shown, IsEmpty());
+    EXPECT_THAT(content.sentence.toStdString(), HasSubstr("It has no constants of a model with curves"));
+    const CurvesContent lacking = drawn(material("Seal", {{Id::NeoHooke, "1"}}));
+    ASSERT_FALSE(lacking.findings.rows.empty());
+    EXPECT_EQ(lacking.findings.rows[0].cells[0].text, "Error");
+}
+
+TEST(CurvesContent, SurvivesConstantsThatMakeNoSense)
+{
+    for (const char* const c10 : {"0", "-1", "nan", "inf", "1e308", "1e-308"})
+        for (const Mode mode : {Mode::Uniaxial, Mode::SimpleShear, Mode::Volumetric}) {
+            CurveSettings settings;
+            settings.modes = {mode};
+            settings.from = -1.0;
+            settings.to = 1e6;
+            const CurvesContent content = drawn(rubber("Seal", c10), settings);
+            EXPECT_LE(content.plot.series.size(), 3U) << c10;
+        }
+}
+
+TEST(CurvesContent, UsesLogarithmicAxesWhereTheyAreUsual)
+{
+    CurveSettings settings;
+    settings.modes = {Mode::CreepRate};
+    const InspectedMaterial blade = material(
+        "Blade", {{Id::Creep, "1"}, {Id::CreepModulusA, "1e-40"}, {Id::CreepModulusN, "4"}, {Id::CreepModulusM, "0"}});
+    std::vector<InspectedMaterial> one;
+    one.push_back(material("Blade", {}));
+    one[0].material->copyAllFrom(*blade.material);
+    const CurvesContent content = drawn(std::move(one), settings);
+    EXPECT_EQ(content.plot.x.scale, vxPlot::Scale::Logarithmic);
+    EXPECT_EQ(content.plot.y.scale, vxPlot::Scale::Logarithmic);
+    const auto& x = content.plot.series.at(0).x;
+    EXPECT_THAT(x[1] / x[0], DoubleNear(x[200] / x[199], 1e-9));
+}
+
+TEST(CurvesContent, PutsTheArgumentsIntoTheTextsOfFindings)
+{
+    using namespace vxConstitutive;
+    const QString text = vxInspector::translated(
+        makeFinding(FindingId::ConstantNotPositive, {std::string("Neo-Hookean"), std::string("%2"), -1.0}));
+    EXPECT_EQ(text, "Neo-Hookean: the constant \"%2\" is -1; it must be greater than 0.");
+}
+
+} // namespace

@@ -6,6 +6,7 @@
 #include "Check.h"
 #include "ChosenUnits.h"
 #include "Convert.h"
+#include "Deck.h"
 #include "Diff.h"
 #include "Export.h"
 #include "Files.h"
@@ -63,6 +64,8 @@ private:
     void addFind();
     void addConvert();
     void addUnitListing();
+    void addDeck();
+    void addSolvers();
 
     Form form() const { return m_json ? Form::Json : Form::Text; }
     Existing existing() const { return m_force ? Existing::Replace : Existing::Keep; }
@@ -88,6 +91,7 @@ private:
     std::optional<std::string> m_units;
     std::string m_unit;
     Setting m_setting;
+    DeckRequest m_deck;
     std::string m_project = "0";
     std::string m_examples;
 };
@@ -111,6 +115,8 @@ CommandLine::CommandLine()
     addFind();
     addConvert();
     addUnitListing();
+    addDeck();
+    addSolvers();
     m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 success, 1 findings or differences, 2 error.");
 }
 
@@ -331,6 +337,31 @@ void CommandLine::addUnitListing()
     CLI::App* const command = addCommand("units", "List the unit systems, and the units of the quantities in them",
                                          "vxmat units", [this] { return listUnits(m_units, form()); });
     command->add_option("SYSTEM", m_units, "Another system: \"length cm, mass g, time us\"");
+    addForm(command);
+}
+
+void CommandLine::addDeck()
+{
+    CLI::App* const command =
+        addCommand("deck", "Write materials in the input format of a solver, with a report of what it does not carry",
+                   R"(vxmat deck "Structural Steel" --solver calculix --units mm-t-s -o steel.inp)", [this] {
+                       m_deck.units = m_units;
+                       return writeSolverDeck(m_deck, form());
+                   });
+    command->add_option("NAME|FILE", m_deck.sources, "Library materials, projects or documents; - is standard input")
+        ->required();
+    command->add_option("--solver", m_deck.solver, "A solver of \"vxmat solvers\"")->type_name("NAME")->required();
+    command->add_option("--ids", m_deck.firstNumber, "The number of the first material; the next ones follow")
+        ->type_name("FROM");
+    command->add_option("-o,--output", m_deck.output, "The file to write; - is standard output")->type_name("FILE");
+    addUnits(command);
+    addForm(command);
+}
+
+void CommandLine::addSolvers()
+{
+    CLI::App* const command = addCommand("solvers", "List the solvers, and their card for each quantity",
+                                         "vxmat solvers", [this] { return listSolvers(form()); });
     addForm(command);
 }
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "vxDecks/DecksExport.h"
+#include "vxDecks/Format.h"
+#include "vxDecks/Report.h"
+#include "vxMaterial/model/Material.h"
+#include "vxUnits/UnitSystem.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vxDecks {
+
+/// A material that is written to a deck. Its numbers are in the units of the catalogue.
+struct DeckMaterial
+{
+    std::string name;                              ///< the name that the user sees; UTF-8
+    std::optional<std::uint32_t> number;           ///< its number in a project; absent if any will do
+    const vxMat::MaterialBase* material = nullptr; ///< not null; the caller keeps it
+};
+
+/// The choices of a user for a deck.
+struct DeckOptions
+{
+    /// The unit system of the deck. If it is absent, the deck is in SI, or in mm-t-s if the solver would misread a number
+    /// in SI; the report then says so.
+    std::optional<vxUnits::UnitSystem> units;
+    /// The number of the first material; the next materials have the next numbers. If it is absent, the materials keep
+    /// their numbers.
+    std::optional<std::uint32_t> firstNumber;
+};
+
+/// The text of a deck, and its report.
+struct Deck
+{
+    std::string text;
+    Report report;
+};
+
+/// Returns the deck of materials in a format. The deck has no number that the solver would misread: a quantity whose number
+/// cannot be written is left out, and the report gives the reason. Numbers have a decimal point in any locale.
+///
+///     const Deck deck = writeDeck(Format::Calculix, {{"Steel", 1, &steel}}, {});
+///
+/// \throws std::bad_alloc
+VXDECKS_EXPORT Deck writeDeck(Format format, const std::vector<DeckMaterial>& materials, const DeckOptions& options);
+
+} // namespace vxDecks

@@ -1,0 +1,61 @@
+#include "texts/DeckTexts.h"
+
+#include <array>
+#include <utility>
+
+namespace vxDecks {
+
+namespace {
+
+constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)> texts{{
+    {"decks.carried", "carried"},
+    {"decks.converted", "converted"},
+    {"decks.approximated", "approximated"},
+    {"decks.lost", "lost"},
+    {"decks.units", "The deck is in the unit system %1."},
+    {"decks.units-chosen", "The deck is in %1, because the solver would misread numbers in %2."},
+    {"decks.renamed", R"(renamed "%1", because the format does not take the name or has it already)"},
+    {"decks.renumbered", "has the number %1 instead of %2"},
+    {"decks.other-unit", "in %1 instead of %2"},
+    {"decks.two-points", "as two points of the curve, up to a plastic strain of %1"},
+    {"decks.first-point-added", "the initial yield stress is the point at plastic strain 0"},
+    {"decks.bulk-modulus-limited",
+     "the solver has no incompressible solid; the bulk modulus is %1 times the initial shear modulus"},
+    {"decks.points-of-curve", "as the points of the curve"},
+    {"decks.not-finite", "the number is not finite in the unit system of the deck"},
+    {"decks.not-in-catalogue", "the catalogue does not have the quantity"},
+    {"decks.needs-another", "the card needs %1 too"},
+    {"decks.needs-model", "the model needs linear elasticity"},
+    {"decks.value-outside", "%1 = %2 is not possible; the value must be %3"},
+    {"decks.not-used-by-model", "the material model does not use it"},
+    {"decks.model-replaces", "the hyperelastic model replaces it"},
+    {"decks.several-models", "more than one hyperelastic model is switched on"},
+    {"decks.no-model", "the model is not switched on"},
+    {"decks.yield-type-lost", R"(the format has no card for the yield type "%1" with the quantities of the catalogue)"},
+    {"decks.no-hardening-data", R"(the hardening type "%1" needs a curve of yield stresses and plastic strains)"},
+    {"decks.combined-shares", "the catalogue does not have the shares of isotropic and kinematic hardening"},
+    {"decks.curve-lengths", "there are %1 yield stresses and %2 plastic strains"},
+    {"decks.curve-empty", "the curve has no points"},
+    {"decks.curve-start", "the first plastic strain is %1, but the solver takes the first stress as the yield stress "
+                          "at 0; add a point at 0"},
+    {"decks.curve-order", "the plastic strains do not ascend"},
+    {"decks.curve-gives-yield", "the curve begins with another yield stress, %1"},
+    {"decks.below-floor", "the solver replaces %1 by %2; choose another unit system"},
+    {"decks.creep-beside-plasticity", "beside plasticity, the solver applies the law to the overstress only"},
+    {"decks.factor-needs-exponents", "the unit of the factor depends on both exponents, of which one is missing"},
+}};
+
+} // namespace
+
+vxUnits::Message makeMessage(Text text, std::vector<std::string> arguments)
+{
+    const vxUnits::MessageText& one = texts[static_cast<std::size_t>(text)];
+    return {one.id, one.english, std::move(arguments)};
+}
+
+std::vector<vxUnits::MessageText> deckTexts()
+{
+    return {texts.begin(), texts.end()};
+}
+
+} // namespace vxDecks

@@ -1,0 +1,154 @@
+#include "writing/MaterialDeck.h"
+
+#include "texts/DeckTexts.h"
+#include "vxMaterial/model/CataloguedMaterial.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vxDecks {
+
+namespace {
+
+using Id = vxMat::PropertyId;
+using vxUnits::Message;
+using vxUnits::UnitSystem;
+
+bool isFinite(const vxMat::MaterialProperty& property)
+{
+    return std::isfinite(property.value) && std::all_of(property.values.begin(), property.values.end(),
+                                                        [](double number) { return std::isfinite(number); });
+}
+
+/// Returns the reason why a quantity has no outcome; absent if the mapping table has the reason.
+std::optional<Message> reasonOf(std::int32_t id, const MaterialModels& models, const vxUnits::MaterialValues& values)
+{
+    switch (vxMat::findPropertyRecord(id)->category) {
+    case vxMat::ePropertyCategory::LinearElastic:
+        return models.elastic.reason;
+    case vxMat::ePropertyCategory::Hyperelastic:
+        return models.hyperelastic.model ? makeMessage(Text::NotUsedByModel) : models.hyperelastic.reason;
+    case vxMat::ePropertyCategory::Plastic:
+        if (!values.has(Id::Plasticity))
+            return makeMessage(Text::NoModel);
+        return models.plastic.model ? makeMessage(Text::NotUsedByModel) : models.plastic.reason;
+    case vxMat::ePropertyCategory::Creep:
+        return models.creep.reason;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, const UnitSystem& units)
+    : m_format(format), m_source(material), m_units(units)
+{
+    m_converted.copyAllFrom(*material.material);
+    if (units != UnitSystem::si())
+        vxUnits::convertMaterial(m_converted, UnitSystem::si(), units);
+    removeNumbersThatAreNotFinite();
+    m_values = vxUnits::MaterialValues(m_converted);
+    m_models = resolveModels(m_values);
+}
+
+void MaterialDeck::removeNumbersThatAreNotFinite()
+{
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(m_converted)) {
+        const vxUnits::Quantity* const quantity = vxUnits::findQuantity(slot);
+        if (quantity == nullptr || !quantity->hasNumber() || isFinite(*property))
+            continue;
+        refuse({slot}, makeMessage(Text::NotFinite));
+        m_converted.removeProperty(property);
+    }
+}
+
+void MaterialDeck::line(std::string_view text)
+{
+    m_text.append(text).append("\n");
+}
+
+std::vector<Message> MaterialDeck::unitChange(std::int32_t id) const
+{
+    if (m_units == UnitSystem::si())
+        return {};
+    const auto creep = m_values.creepExponents();
+    const auto stored = vxUnits::unitOfQuantity(id, UnitSystem::si(), creep);
+    const auto written = vxUnits::unitOfQuantity(id, m_units, creep);
+    if (!stored || !written || stored->factor() == written->factor())
+        return {};
+    return {makeMessage(Text::OtherUnit, {written->text(), stored->text()})};
+}
+
+void MaterialDeck::decide(std::int32_t id, Outcome outcome, std::vector<Message> how)
+{
+    if (!m_source.material->hasProperty(id) || m_rows.count(id) != 0)
+        return;
+    const Mapping* const mapping = findMapping(m_format, id);
+    const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(id);
+    const bool isLost = outcome == Outcome::Lost;
+    m_rows[id] = {id, record->name, outcome, isLost ? "" : mapping->card, std::move(how), isLost};
+}
+
+void MaterialDeck::carry(std::int32_t id)
+{
+    std::vector<Message> change = unitChange(id);
+    const Outcome outcome = change.empty() ? Outcome::Carried : Outcome::Converted;
+    decide(id, outcome, std::move(change));
+}
+
+void MaterialDeck::convert(std::int32_t id, Message how)
+{
+    std::vector<Message> all = unitChange(id);
+    all.push_back(std::move(how));
+    decide(id, Outcome::Converted, std::move(all));
+}
+
+void MaterialDeck::approximate(std::int32_t id, Message how)
+{
+    std::vector<Message> all = unitChange(id);
+    all.push_back(std::move(how));
+    decide(id, Outcome::Approximated, std::move(all));
+}
+
+void MaterialDeck::refuse(const std::vector<std::int32_t>& ids, const Message& why)
+{
+    for (const std::int32_t id : ids)
+        decide(id, Outcome::Lost, {why});
+}
+
+ReportRow MaterialDeck::lostRow(std::int32_t id) const
+{
+    ReportRow row;
+    row.slot = id;
+    const Mapping* const mapping = findMapping(m_format, id);
+    if (mapping == nullptr) {
+        row.name = m_source.material->findProperty(id)->name;
+        row.how = {makeMessage(Text::NotInCatalogue)};
+        return row;
+    }
+    row.name = vxMat::findPropertyRecord(id)->name;
+    if (mapping->transport == Transport::None) {
+        row.how = {{mapping->how.id, mapping->how.english, {}}};
+        return row;
+    }
+    row.how = {reasonOf(id, m_models, m_values).value_or(makeMessage(Text::NotUsedByModel))};
+    row.refused = true;
+    return row;
+}
+
+MaterialReport MaterialDeck::finish()
+{
+    MaterialReport report;
+    report.name = m_source.name;
+    for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(*m_source.material)) {
+        const auto found = m_rows.find(slot);
+        report.rows.push_back(found != m_rows.end() ? found->second : lostRow(slot));
+    }
+    return report;
+}
+
+} // namespace vxDecks

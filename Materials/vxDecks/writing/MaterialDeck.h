@@ -1,0 +1,61 @@
+#pragma once
+
+#include "models/MaterialModels.h"
+#include "vxDecks/Deck.h"
+#include "vxDecks/Mapping.h"
+#include "vxMaterial/model/Material.h"
+#include "vxUnits/MaterialValues.h"
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vxDecks {
+
+/// One material while it is written: its values in the unit system of the deck, its text, and the outcome for each of its
+/// quantities. A writer adds lines and says what becomes of the quantities; finish() reports the others as lost.
+class MaterialDeck
+{
+public:
+    MaterialDeck(Format format, const DeckMaterial& material, const vxUnits::UnitSystem& units);
+
+    const vxUnits::MaterialValues& values() const { return m_values; }
+    const MaterialModels& models() const { return m_models; }
+    const vxUnits::UnitSystem& units() const { return m_units; }
+
+    /// Adds a line to the text.
+    void line(std::string_view text);
+
+    /// Reports a quantity as carried, or as converted if its unit differs from the unit of the catalogue. Does nothing if the
+    /// material does not have the quantity.
+    void carry(std::int32_t id);
+    /// Reports a quantity as written in another form.
+    void convert(std::int32_t id, vxUnits::Message how);
+    void approximate(std::int32_t id, vxUnits::Message how);
+    /// Reports quantities as lost although the format takes them.
+    void refuse(const std::vector<std::int32_t>& ids, const vxUnits::Message& why);
+
+    /// Reports each quantity that has no outcome yet as lost, and returns the report.
+    MaterialReport finish();
+
+    const std::string& text() const { return m_text; }
+
+private:
+    void removeNumbersThatAreNotFinite();
+    void decide(std::int32_t id, Outcome outcome, std::vector<vxUnits::Message> how);
+    ReportRow lostRow(std::int32_t id) const;
+    std::vector<vxUnits::Message> unitChange(std::int32_t id) const;
+
+    Format m_format;
+    const DeckMaterial& m_source;
+    vxUnits::UnitSystem m_units;
+    vxMat::CMaterial m_converted;
+    vxUnits::MaterialValues m_values;
+    MaterialModels m_models;
+    std::map<std::int32_t, ReportRow> m_rows;
+    std::string m_text;
+};
+
+} // namespace vxDecks

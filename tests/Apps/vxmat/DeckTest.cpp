@@ -1,0 +1,93 @@
+#include "DataFile.h"
+#include "VxmatTesting.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::HasSubstr;
+using vxtest::Folder;
+using vxtest::Outcome;
+using vxtest::vxmat;
+using vxtest::vxmatJson;
+
+TEST(Deck, IsPrintedWithItsReportOnStandardError)
+{
+    const Outcome run = vxmat({"deck", "concrete", "--solver", "CalculiX", "--units", "mm-t-s"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "** Units: mm, t, s, K, A\n*MATERIAL, NAME=Concrete\n*DENSITY\n2.3e-9\n*SPECIFIC HEAT\n8.8e8\n"
+                       "*CONDUCTIVITY\n1.8\n*ELASTIC\n30000, 0.18\n");
+    EXPECT_THAT(run.err, HasSubstr("vxmat: note: The deck is in the unit system mm-t-s.\n"));
+    EXPECT_THAT(run.err, HasSubstr("vxmat: note: Concrete: converted: Young's modulus: in MPa instead of Pa\n"));
+}
+
+TEST(Deck, OfAProjectIsWrittenToAFileAndReportedAsJson)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    const std::string deck = folder.path("p.inp");
+    ASSERT_EQ(vxmat({"new", "Plastic Example 1=Tough one", "Air", "-o", project}).status, 0);
+    const Json::Value json = vxmatJson({"deck", project, "--solver", "calculix", "--json", "-o", deck});
+    EXPECT_EQ(json["units"], "SI");
+    EXPECT_EQ(json["materials"].size(), 2U);
+    EXPECT_EQ(json["materials"][0]["written_name"], "Tough_one");
+    EXPECT_FALSE(json.isMember("deck"));
+    EXPECT_THAT(vxtest::readText(deck), HasSubstr("*MATERIAL, NAME=Tough_one\n*DENSITY\n7850\n*ELASTIC\n206900, 0.29\n"
+                                                  "*PLASTIC\n450, 0\n608, 0.05\n"));
+    EXPECT_EQ(vxmatJson({"deck", project, "--solver", "calculix", "--json"})["deck"], vxtest::readText(deck));
+}
+
+TEST(Deck, IsAFindingIfAModelOfTheFormatCannotBeWritten)
+{
+    const Outcome run = vxmat({"deck", "Plastic Example 2", "--solver", "calculix"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err,
+                HasSubstr("lost: Plasticity, Yield type, Hardening factor: the format has no card for the yield "
+                          "type \"DRUCKER-PRAGER\""));
+}
+
+TEST(Deck, OfADocumentSaysThatWordsAndListsAreMissing)
+{
+    const Folder folder;
+    const std::string document = folder.path("m.json");
+    ASSERT_EQ(vxmat({"export", "Concrete", "-o", document}).status, 0);
+    const Outcome run = vxmat({"deck", document, "--solver", "calculix"});
+    EXPECT_THAT(run.err, HasSubstr("note: " + document + ": exchange documents carry no words and lists\n"));
+    EXPECT_THAT(run.out, HasSubstr("*ELASTIC\n3e10, 0.18\n"));
+    const std::string before = vxtest::readText(document);
+    EXPECT_EQ(vxmat({"deck", document, "--solver", "calculix", "-o", document}).status, 2);
+    EXPECT_EQ(vxtest::readText(document), before) << "a file that is read is not overwritten";
+}
+
+TEST(Deck, RefusesWhatItDoesNotKnow)
+{
+    EXPECT_THAT(vxmat({"deck", "Air", "--solver", "solvix"}).err,
+                HasSubstr("--solver: there is no solver \"solvix\"; the solvers are: calculix"));
+    EXPECT_THAT(vxmat({"deck", "Air", "--solver", "calculix", "--units", "mm"}).err, HasSubstr("--units: "));
+    EXPECT_THAT(vxmat({"deck", "Air", "--solver", "calculix", "--ids", "0"}).err,
+                HasSubstr("--ids: the number of a material must be above 0"));
+    EXPECT_THAT(vxmat({"deck", "Airr", "--solver", "calculix"}).err, HasSubstr("Air"));
+    for (const std::string wrong : {"--solver=x", "--ids=-1"})
+        EXPECT_EQ(vxmat({"deck", "Air", "--solver", "calculix", wrong}).status, 2) << wrong;
+}
+
+TEST(Solvers, AreListedWithTheirCards)
+{
+    const Outcome run = vxmat({"solvers"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, testing::ContainsRegex("Quantity +Key +calculix"));
+    EXPECT_THAT(run.out, testing::ContainsRegex("Young's modulus +E +\\*ELASTIC"));
+    EXPECT_THAT(run.out, testing::ContainsRegex("Relaxation time +RTime +-"));
+    const Json::Value json = vxmatJson({"solvers", "--json"});
+    EXPECT_EQ(json["solvers"][0]["name"], "calculix");
+    ASSERT_EQ(json["quantities"].size(), 36U);
+    const Json::Value& density = json["quantities"][0]["solvers"]["calculix"];
+    EXPECT_EQ(density["card"], "*DENSITY");
+    EXPECT_EQ(density["proof"], "run");
+    const Json::Value& sound = json["quantities"][1]["solvers"]["calculix"];
+    EXPECT_TRUE(sound["card"].isNull());
+    EXPECT_EQ(sound["how"], "the solver computes sound only as an analogy of heat conduction");
+}
+
+} // namespace

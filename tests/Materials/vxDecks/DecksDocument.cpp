@@ -1,0 +1,91 @@
+#include "DecksDocument.h"
+
+#include "vxDecks/Mapping.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+
+#include <vector>
+
+namespace vxtest {
+
+namespace {
+
+using vxDecks::FormatInfo;
+using vxDecks::Mapping;
+using vxDecks::Transport;
+
+using Cells = std::vector<std::string>;
+
+std::string row(const Cells& cells)
+{
+    std::string text = "|";
+    for (const std::string& cell : cells)
+        text += " " + cell + " |";
+    return text + "\n";
+}
+
+std::string header(const Cells& cells)
+{
+    std::string line = "|";
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        line += "---|";
+    return row(cells) + line + "\n";
+}
+
+std::string code(const std::string& text)
+{
+    return text.empty() ? "-" : "`" + text + "`";
+}
+
+std::string overview()
+{
+    Cells heading{"quantity"};
+    for (const FormatInfo& format : vxDecks::formats())
+        heading.emplace_back(format.title);
+    std::string text = header(heading);
+    for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
+        Cells cells{record.name};
+        for (const FormatInfo& format : vxDecks::formats()) {
+            const Mapping& mapping = *vxDecks::findMapping(format.format, record.id);
+            const bool isCarried = mapping.transport != Transport::None;
+            cells.push_back(isCarried ? code(mapping.card) + ", " + nameOf(mapping.proof) : "-");
+        }
+        text += row(cells);
+    }
+    return text;
+}
+
+std::string detailsOf(const FormatInfo& format)
+{
+    std::string text =
+        header({"quantity", "card", "field", "form, or why it is lost", "section of the manual", "proof"});
+    for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
+        const Mapping& one = *vxDecks::findMapping(format.format, record.id);
+        const bool isCarried = one.transport != Transport::None;
+        text += row({record.name, code(one.card), isCarried ? one.field : "-",
+                     *one.how.english ? one.how.english : "as it is", one.manual, isCarried ? nameOf(one.proof) : "-"});
+    }
+    return text;
+}
+
+constexpr const char* tablesHeading = "## Tables\n";
+
+} // namespace
+
+std::string decksTables()
+{
+    std::string text =
+        std::string(tablesHeading) +
+        "\nThe tables are made from the table of `vxMaterial::decks` by `ninja vx_decks_document`; do not "
+        "edit them.\n\n" +
+        overview();
+    for (const FormatInfo& format : vxDecks::formats())
+        text += std::string("\n### ") + format.title + "\n\nAfter: " + format.manual + ".\n\n" + detailsOf(format);
+    return text;
+}
+
+std::string withNewTables(const std::string& document)
+{
+    return document.substr(0, document.find(tablesHeading)) + decksTables();
+}
+
+} // namespace vxtest

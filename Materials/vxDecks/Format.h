@@ -12,6 +12,11 @@ namespace vxDecks {
 enum class Format
 {
     Calculix,
+    Nastran,
+    Apdl,
+    LsDyna,
+    Elmer,
+    Matml,
 };
 
 /// The name, the manual and the file name extension of a format.

@@ -10,6 +10,11 @@ const std::vector<FormatInfo>& formats()
 {
     static const std::vector<FormatInfo> all{
         {Format::Calculix, "calculix", "CalculiX", "CalculiX CrunchiX User's Manual, version 2.20", "inp"},
+        {Format::Nastran, "nastran", "Nastran", "MSC Nastran Quick Reference Guide, bulk data entries", "bdf"},
+        {Format::Apdl, "apdl", "Mechanical APDL", "Mechanical APDL Command Reference and Material Reference", "mac"},
+        {Format::LsDyna, "lsdyna", "LS-DYNA", "LS-DYNA Keyword User's Manual, volumes I and II", "k"},
+        {Format::Elmer, "elmer", "Elmer", "Elmer Models Manual", "sif"},
+        {Format::Matml, "matml", "MatML", "MatML 3.1 schema", "xml"},
     };
     return all;
 }

@@ -243,6 +243,21 @@ Resolved<CreepModel> resolveCreep(const MaterialValues& values, bool isElastic)
             std::nullopt};
 }
 
+Resolved<PronyModel> resolveProny(const MaterialValues& values, bool isElastic)
+{
+    if (!hasAny(values, {Id::ViscoElasticity, Id::ShearRelaxationModulus, Id::RelaxationTime}))
+        return {};
+    if (!values.has(Id::ViscoElasticity))
+        return {std::nullopt, makeMessage(Text::NoModel)};
+    if (!isElastic)
+        return {std::nullopt, makeMessage(Text::NeedsModel)};
+    constexpr double beyondOne = 1.0000000000000002; // 1 itself is possible
+    if (auto fault = findFault(values, {{Id::ShearRelaxationModulus, 0.0, beyondOne, "above 0 and at most 1"},
+                                        {Id::RelaxationTime, 0.0, unlimited, positive}}))
+        return {std::nullopt, fault};
+    return {PronyModel{*values.number(Id::ShearRelaxationModulus), *values.number(Id::RelaxationTime)}, std::nullopt};
+}
+
 } // namespace
 
 MaterialModels resolveModels(const MaterialValues& values)
@@ -253,6 +268,7 @@ MaterialModels resolveModels(const MaterialValues& values)
     const bool isElastic = models.elastic.model.has_value();
     models.plastic = resolvePlastic(values, isElastic);
     models.creep = resolveCreep(values, isElastic);
+    models.prony = resolveProny(values, isElastic);
     return models;
 }
 

@@ -72,6 +72,13 @@ struct CreepModel
     double m = 0.0;
 };
 
+/// One term of a Prony series of the shear modulus: G(t) / G(0) = 1 - ratio (1 - exp(-t / time)).
+struct PronyModel
+{
+    double ratio = 0.0;
+    double time = 0.0;
+};
+
 /// The models of a material that solvers can compute.
 struct MaterialModels
 {
@@ -79,6 +86,7 @@ struct MaterialModels
     Resolved<HyperelasticModel> hyperelastic;
     Resolved<PlasticModel> plastic;
     Resolved<CreepModel> creep;
+    Resolved<PronyModel> prony;
 };
 
 /// Returns the models of a material. The values must be finite, in one consistent unit system. A model whose numbers

@@ -1,9 +1,9 @@
 #include "texts/DeckTexts.h"
-#include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
+#include "writing/DeckWriter.h"
+#include "writing/ModelReports.h"
 #include "writing/NumberField.h"
-#include "writing/Writers.h"
 
 #include <initializer_list>
 
@@ -22,9 +22,6 @@ constexpr std::size_t longestComment = 100;
 /// A smaller D1 is replaced by 0.1 over the shear modulus, a smaller creep factor by this one.
 constexpr double smallestD1 = 1e-10;
 constexpr double smallestCreepFactor = 1e-20;
-
-/// The bulk modulus of an incompressible solid over its shear modulus; Poisson's ratio is then 0.499.
-constexpr double bulkOverShear = 500.0;
 
 /// The plastic strain of the second point of a bilinear curve. The solver keeps the stress constant beyond it.
 constexpr double lastStrain = 10.0;
@@ -92,20 +89,7 @@ void writeElastic(MaterialDeck& deck)
         return;
     deck.line("*ELASTIC");
     deck.line(numbers({model->youngsModulus, model->poissonsRatio}));
-    for (const std::int32_t id : {Id::IsotropicElasticity, Id::YoungsModulus, Id::PoissonsRatio})
-        deck.carry(id);
-}
-
-/// Returns D1 of a model, and reports it. An incompressible solid gets a small one.
-double takeD1(MaterialDeck& deck, const HyperelasticModel& model)
-{
-    if (model.d1) {
-        deck.carry(Id::IncompressibilityParameterD1);
-        return *model.d1;
-    }
-    deck.approximate(Id::IncompressibilityParameterD1,
-                     makeMessage(Text::BulkModulusLimited, {writeWithin(bulkOverShear, longestNumber)}));
-    return 2.0 / (bulkOverShear * model.shear);
+    reportElastic(deck);
 }
 
 void writeConstants(MaterialDeck& deck, const HyperelasticModel& model, double d1)
@@ -125,20 +109,6 @@ void writeConstants(MaterialDeck& deck, const HyperelasticModel& model, double d
     }
 }
 
-const std::vector<std::int32_t>& hyperelasticIds()
-{
-    static const std::vector<std::int32_t> ids{Id::NeoHooke,
-                                               Id::MooneyRivlin,
-                                               Id::ArrudaBoyce,
-                                               Id::InitialShearModulusMu,
-                                               Id::LimitingNetworkStretch,
-                                               Id::MaterialConstantC01,
-                                               Id::MaterialConstantC10,
-                                               Id::MaterialConstantC11,
-                                               Id::IncompressibilityParameterD1};
-    return ids;
-}
-
 void writeHyperelastic(MaterialDeck& deck)
 {
     const auto& model = deck.models().hyperelastic.model;
@@ -148,11 +118,9 @@ void writeHyperelastic(MaterialDeck& deck)
         deck.refuse(hyperelasticIds(), makeMessage(Text::BelowFloor, {"D1 below 1e-10", "K = 20 mu"}));
         return;
     }
-    writeConstants(deck, *model, takeD1(deck, *model));
-    for (const std::int32_t id : {Id::NeoHooke, Id::MooneyRivlin, Id::ArrudaBoyce})
-        deck.carry(id);
-    for (const std::int32_t id : model->quantities)
-        deck.carry(id);
+    const double bulk = takeBulkModulus(deck, *model, std::nullopt);
+    writeConstants(deck, *model, model->d1.value_or(2.0 / bulk));
+    reportConstants(deck, *model);
 }
 
 void writeCurve(MaterialDeck& deck, const PlasticModel& model)
@@ -167,32 +135,6 @@ void writeCurve(MaterialDeck& deck, const PlasticModel& model)
         deck.line(numbers({model.yieldStress + lastStrain * model.modulus, lastStrain}));
 }
 
-/// Reports the hardening type. The types of which the card has only the curve are converted.
-void reportHardeningType(MaterialDeck& deck, const PlasticModel& model)
-{
-    const std::string type = vxMat::toUpperAscii(deck.values().word(Id::PlasticHardeningType));
-    const bool hasOwnForm = type != "SWIFT" && type != "RAMBERG-OSGOOD";
-    if (hasOwnForm || model.source == HardeningSource::Modulus)
-        deck.carry(Id::PlasticHardeningType);
-    else
-        deck.convert(Id::PlasticHardeningType, makeMessage(Text::PointsOfCurve));
-}
-
-/// Reports an initial yield stress beside a curve, which begins with its own one.
-void reportInitialYield(MaterialDeck& deck, const PlasticModel& model)
-{
-    const auto initial = deck.values().number(Id::PlasticInitialYieldStress);
-    if (!initial)
-        return;
-    if (model.hasAddedPoint)
-        deck.convert(Id::PlasticInitialYieldStress, makeMessage(Text::FirstPointAdded));
-    else if (*initial == model.yieldStress)
-        deck.carry(Id::PlasticInitialYieldStress);
-    else
-        deck.refuse({Id::PlasticInitialYieldStress},
-                    makeMessage(Text::CurveGivesYield, {writeWithin(model.yieldStress, longestNumber)}));
-}
-
 void writePlastic(MaterialDeck& deck)
 {
     const auto& model = deck.models().plastic.model;
@@ -200,17 +142,7 @@ void writePlastic(MaterialDeck& deck)
         return;
     deck.line(model->isKinematic ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC");
     writeCurve(deck, *model);
-    deck.carry(Id::Plasticity);
-    deck.carry(Id::PlasticYieldType);
-    reportHardeningType(deck, *model);
-    reportInitialYield(deck, *model);
-    if (model->source == HardeningSource::Modulus) {
-        deck.convert(Id::PlasticHardeningFactor,
-                     makeMessage(Text::TwoPoints, {writeWithin(lastStrain, longestNumber)}));
-        return;
-    }
-    deck.carry(Id::PlasticYieldStress);
-    deck.carry(Id::PlasticStrain);
+    reportPlastic(deck, *model, makeMessage(Text::TwoPoints, {writeWithin(lastStrain, longestNumber)}));
 }
 
 void writeCreep(MaterialDeck& deck)
@@ -218,16 +150,14 @@ void writeCreep(MaterialDeck& deck)
     const auto& model = deck.models().creep.model;
     if (!model)
         return;
-    const std::vector<std::int32_t> ids{Id::Creep, Id::CreepModulusA, Id::CreepModulusN, Id::CreepModulusM};
     if (deck.models().plastic.model)
-        deck.refuse(ids, makeMessage(Text::CreepBesidePlasticity));
+        deck.refuse(creepIds(), makeMessage(Text::CreepBesidePlasticity));
     else if (model->factor < smallestCreepFactor)
-        deck.refuse(ids, makeMessage(Text::BelowFloor, {"A below 1e-20", "1e-20"}));
+        deck.refuse(creepIds(), makeMessage(Text::BelowFloor, {"A below 1e-20", "1e-20"}));
     else {
         deck.line("*CREEP");
         deck.line(numbers({model->factor, model->n, model->m}));
-        for (const std::int32_t id : ids)
-            deck.carry(id);
+        carryAll(deck, creepIds());
     }
 }
 
@@ -236,31 +166,32 @@ std::string beginDeck(const vxUnits::UnitSystem& units)
     return "** Units: " + baseUnits(units) + "\n";
 }
 
-void beginMaterial(MaterialDeck& deck, const Heading& heading, const std::string& userName)
+void beginMaterial(MaterialDeck& deck)
 {
-    if (heading.name != userName)
-        deck.line("** " + commentText(userName, longestComment));
-    deck.line("*MATERIAL, NAME=" + heading.name);
+    if (deck.heading().name != deck.userName())
+        deck.line("** " + commentText(deck.userName(), longestComment));
+    deck.line("*MATERIAL, NAME=" + deck.heading().name);
 }
 
 } // namespace
 
-const FormatWriter& calculixWriter()
+const CardFormat& calculixFormat()
 {
-    static const FormatWriter writer{{80, "_-", "M_"},
-                                     0,
-                                     beginDeck,
-                                     beginMaterial,
-                                     {{"*DENSITY", writeDensity},
-                                      {"*SPECIFIC HEAT", writeSpecificHeat},
-                                      {"*CONDUCTIVITY", writeConductivity},
-                                      {"*FLUID CONSTANTS", writeFluidConstants},
-                                      {"*ELASTIC", writeElastic},
-                                      {"*HYPERELASTIC", writeHyperelastic},
-                                      {"*PLASTIC", writePlastic},
-                                      {"*CREEP", writeCreep},
-                                      {"*ELECTRICAL CONDUCTIVITY", writeElectricalConductivity}}};
-    return writer;
+    static const CardFormat format{Format::Calculix,
+                                   {{80, "_-", "M_"}, 0},
+                                   beginDeck,
+                                   beginMaterial,
+                                   {{"*DENSITY", writeDensity},
+                                    {"*SPECIFIC HEAT", writeSpecificHeat},
+                                    {"*CONDUCTIVITY", writeConductivity},
+                                    {"*FLUID CONSTANTS", writeFluidConstants},
+                                    {"*ELASTIC", writeElastic},
+                                    {"*HYPERELASTIC", writeHyperelastic},
+                                    {"*PLASTIC", writePlastic},
+                                    {"*CREEP", writeCreep},
+                                    {"*ELECTRICAL CONDUCTIVITY", writeElectricalConductivity}},
+                                   nullptr};
+    return format;
 }
 
 } // namespace vxDecks

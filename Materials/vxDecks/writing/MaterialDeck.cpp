@@ -23,7 +23,7 @@ bool isFinite(const vxMat::MaterialProperty& property)
                                                         [](double number) { return std::isfinite(number); });
 }
 
-/// Returns the reason why a quantity has no outcome; absent if the mapping table has the reason.
+/// Returns the reason why a quantity that the format takes has no outcome; absent if its model is written without it.
 std::optional<Message> reasonOf(std::int32_t id, const MaterialModels& models, const vxUnits::MaterialValues& values)
 {
     switch (vxMat::findPropertyRecord(id)->category) {
@@ -37,15 +37,17 @@ std::optional<Message> reasonOf(std::int32_t id, const MaterialModels& models, c
         return models.plastic.model ? makeMessage(Text::NotUsedByModel) : models.plastic.reason;
     case vxMat::ePropertyCategory::Creep:
         return models.creep.reason;
+    case vxMat::ePropertyCategory::Viscoelastic:
+        return models.prony.reason;
     default:
-        return std::nullopt;
+        return makeMessage(Text::NoCardHasPlace);
     }
 }
 
 } // namespace
 
-MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, const UnitSystem& units)
-    : m_format(format), m_source(material), m_units(units)
+MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const UnitSystem& units)
+    : m_format(format), m_source(material), m_heading(std::move(heading)), m_units(units)
 {
     m_converted.copyAllFrom(*material.material);
     if (units != UnitSystem::si())

@@ -14,13 +14,23 @@
 
 namespace vxDecks {
 
+/// The name and the number of a material in a deck.
+struct Heading
+{
+    std::string name;
+    std::uint32_t number = 0; ///< 0 if materials have names only
+};
+
 /// One material while it is written: its values in the unit system of the deck, its text, and the outcome for each of its
 /// quantities. A writer adds lines and says what becomes of the quantities; finish() reports the others as lost.
 class MaterialDeck
 {
 public:
-    MaterialDeck(Format format, const DeckMaterial& material, const vxUnits::UnitSystem& units);
+    MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const vxUnits::UnitSystem& units);
 
+    const Heading& heading() const { return m_heading; }
+    /// Returns the name that the user sees.
+    const std::string& userName() const { return m_source.name; }
     const vxUnits::MaterialValues& values() const { return m_values; }
     const MaterialModels& models() const { return m_models; }
     const vxUnits::UnitSystem& units() const { return m_units; }
@@ -50,6 +60,7 @@ private:
 
     Format m_format;
     const DeckMaterial& m_source;
+    Heading m_heading;
     vxUnits::UnitSystem m_units;
     vxMat::CMaterial m_converted;
     vxUnits::MaterialValues m_values;

@@ -40,6 +40,8 @@ std::string Names::clean(const std::string& name) const
 
 std::string Names::take(const std::string& name)
 {
+    if (m_rules.longest == 0)
+        return name;
     const std::string wanted = clean(name);
     std::string free = wanted;
     for (int count = 2; !m_taken.insert(vxMat::toUpperAscii(free)).second; ++count) {

@@ -12,10 +12,16 @@ namespace vxDecks {
 /// The rules of a format for names.
 struct NameRules
 {
-    std::size_t longest = 80;  ///< in bytes
+    std::size_t longest = 80;  ///< in bytes; 0 if the format takes any name, any number of times
     const char* signs = "_-";  ///< characters beside letters and digits
     const char* prefix = "M_"; ///< of a name that does not begin with a letter
 };
+
+/// Returns the rules of a format that takes any name, any number of times.
+inline NameRules anyName()
+{
+    return {0, "", ""};
+}
 
 /// Makes names that a format takes, each of them once. Names that differ in case only are equal.
 class Names

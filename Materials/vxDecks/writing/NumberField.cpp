@@ -2,6 +2,9 @@
 
 #include "vxMaterial/model/NumberText.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <iomanip>
 #include <locale>
 #include <sstream>
@@ -29,7 +32,89 @@ std::string rounded(double number, int digits)
     return withShortExponent(text.str());
 }
 
+/// Returns the digits of a number without a point and without zeros at the end, and sets the exponent of the first digit.
+struct Digits
+{
+    std::string sign;
+    std::string digits;
+    int exponent = 0;
+};
+
+Digits digitsOf(double number, int count)
+{
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::scientific << std::setprecision(count - 1) << std::abs(number);
+    const std::string written = text.str();
+    const std::size_t e = written.find('e');
+    std::string digits = written.substr(0, 1) + (count > 1 ? written.substr(2, e - 2) : std::string());
+    digits.erase(std::max<std::size_t>(digits.find_last_not_of('0') + 1, 1));
+    return {number < 0.0 ? "-" : "", digits, std::stoi(written.substr(e + 1))};
+}
+
+/// Returns "2.1+11".
+std::string withExponent(const Digits& all)
+{
+    const std::string exponent = (all.exponent < 0 ? "" : "+") + std::to_string(all.exponent);
+    return all.sign + all.digits.substr(0, 1) + "." + all.digits.substr(1) + exponent;
+}
+
+/// Returns "7850." or ".3".
+std::string withoutExponent(const Digits& all)
+{
+    const auto count = static_cast<int>(all.digits.size());
+    if (all.exponent < 0)
+        return all.sign + "." + std::string(static_cast<std::size_t>(-all.exponent - 1), '0') + all.digits;
+    const auto whole = static_cast<std::size_t>(all.exponent + 1);
+    if (all.exponent + 1 >= count)
+        return all.sign + all.digits + std::string(whole - all.digits.size(), '0') + ".";
+    return all.sign + all.digits.substr(0, whole) + "." + all.digits.substr(whole);
+}
+
+std::string shortestOf(const Digits& all)
+{
+    constexpr int mostZeros = 17; // more would be longer than an exponent
+    std::string text = withExponent(all);
+    if (std::abs(all.exponent) > mostZeros)
+        return text;
+    const std::string plain = withoutExponent(all);
+    return plain.size() <= text.size() ? plain : text;
+}
+
+/// Returns the number of digits from which a double can be read back.
+int neededDigits(double number)
+{
+    constexpr int most = 17;
+    const std::string text = vxMat::formatNumber(number);
+    const std::size_t end = std::min(text.find('e'), text.size());
+    const auto digits = std::count_if(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end),
+                                      [](char c) { return c >= '0' && c <= '9'; });
+    return std::clamp(static_cast<int>(digits), 1, most);
+}
+
 } // namespace
+
+std::string writeBulkReal(double number, std::size_t longest)
+{
+    if (number == 0.0)
+        return "0.";
+    std::string text;
+    for (int digits = neededDigits(number); digits > 0; --digits) {
+        text = shortestOf(digitsOf(number, digits));
+        if (text.size() <= longest)
+            break;
+    }
+    return text;
+}
+
+double readBulkReal(const std::string& text)
+{
+    std::string number = text;
+    const std::size_t sign = number.find_last_of("+-");
+    if (sign != std::string::npos && sign > 0)
+        number.insert(sign, "e");
+    return vxMat::readNumber(number);
+}
 
 std::string writeWithin(double number, std::size_t longest)
 {

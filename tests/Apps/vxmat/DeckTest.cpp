@@ -60,10 +60,37 @@ TEST(Deck, OfADocumentSaysThatWordsAndListsAreMissing)
     EXPECT_EQ(vxtest::readText(document), before) << "a file that is read is not overwritten";
 }
 
+TEST(Deck, NumbersMaterialsFromTheChosenNumber)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Concrete", "Cast Iron", "-o", project}).status, 0);
+    const std::string own = vxmat({"deck", project, "--solver", "nastran"}).out;
+    EXPECT_THAT(own, HasSubstr("$ Material 1: Concrete\nMAT1    1       3.+10           .18     2300.\n"));
+    EXPECT_THAT(own, HasSubstr("MAT1    2 "));
+    const std::string chosen = vxmat({"deck", project, "--solver", "nastran", "--ids", "101"}).out;
+    EXPECT_THAT(chosen, HasSubstr("MAT1    101     3.+10           .18     2300.\n"));
+    EXPECT_THAT(chosen, HasSubstr("MAT1    102 "));
+}
+
+TEST(Deck, IsWrittenForEverySolverThatIsListed)
+{
+    const Json::Value solvers = vxmatJson({"solvers", "--json"})["solvers"];
+    EXPECT_EQ(solvers.size(), 6U);
+    for (const Json::Value& solver : solvers) {
+        const std::string name = solver["name"].asString();
+        const Outcome run = vxmat({"deck", "Concrete", "--solver", name});
+        EXPECT_EQ(run.status, 0) << name << run.err;
+        EXPECT_THAT(run.out, HasSubstr("Concrete")) << name;
+    }
+}
+
 TEST(Deck, RefusesWhatItDoesNotKnow)
 {
-    EXPECT_THAT(vxmat({"deck", "Air", "--solver", "solvix"}).err,
-                HasSubstr("--solver: there is no solver \"solvix\"; the solvers are: calculix"));
+    EXPECT_THAT(
+        vxmat({"deck", "Air", "--solver", "solvix"}).err,
+        HasSubstr(
+            "--solver: there is no solver \"solvix\"; the solvers are: calculix, nastran, apdl, lsdyna, elmer, matml"));
     EXPECT_THAT(vxmat({"deck", "Air", "--solver", "calculix", "--units", "mm"}).err, HasSubstr("--units: "));
     EXPECT_THAT(vxmat({"deck", "Air", "--solver", "calculix", "--ids", "0"}).err,
                 HasSubstr("--ids: the number of a material must be above 0"));

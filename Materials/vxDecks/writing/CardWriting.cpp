@@ -1,0 +1,82 @@
+#include "writing/DeckWriter.h"
+
+#include <algorithm>
+#include <set>
+
+namespace vxDecks {
+
+namespace {
+
+using vxUnits::Dimension;
+
+class CardDeckWriter : public DeckWriter
+{
+public:
+    explicit CardDeckWriter(const CardFormat& format) : m_format(format) {}
+
+    WriterRules rules() const override { return m_format.rules; }
+    std::string begin(const vxUnits::UnitSystem& units) override { return m_format.begin(units); }
+    void write(MaterialDeck& deck) override;
+
+private:
+    void writeCards(MaterialDeck& deck) const;
+
+    const CardFormat& m_format;
+};
+
+void CardDeckWriter::write(MaterialDeck& deck)
+{
+    if (m_format.beginMaterial != nullptr)
+        m_format.beginMaterial(deck);
+    writeCards(deck);
+    if (m_format.endMaterial != nullptr)
+        m_format.endMaterial(deck);
+}
+
+/// Calls the writer of each card in the order of the mapping table.
+void CardDeckWriter::writeCards(MaterialDeck& deck) const
+{
+    std::set<std::string_view> written{""};
+    for (const Mapping& row : mappings()) {
+        if (row.format != m_format.format || !written.insert(row.card).second)
+            continue;
+        const auto& cards = m_format.cards;
+        const auto card = std::find_if(cards.begin(), cards.end(), [&row](const CardWriter& one) {
+            return std::string_view(one.card) == row.card;
+        });
+        if (card != cards.end())
+            card->write(deck);
+    }
+}
+
+} // namespace
+
+std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format)
+{
+    return std::make_unique<CardDeckWriter>(format);
+}
+
+std::string commentText(std::string_view text, std::size_t longest)
+{
+    const auto continuesCharacter = [text](std::size_t at) {
+        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+    };
+    std::size_t length = std::min(text.size(), longest);
+    while (length > 0 && continuesCharacter(length))
+        --length;
+    std::string comment(text.substr(0, length));
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+    std::replace_if(comment.begin(), comment.end(), isControl, ' ');
+    return comment;
+}
+
+std::string baseUnits(const vxUnits::UnitSystem& units)
+{
+    std::string text;
+    for (const auto base :
+         {Dimension::Length, Dimension::Mass, Dimension::Time, Dimension::Temperature, Dimension::Current})
+        text += (text.empty() ? "" : ", ") + units.baseUnit(base);
+    return text;
+}
+
+} // namespace vxDecks

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "writing/MaterialDeck.h"
+#include "writing/Names.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vxDecks {
+
+/// The rules of a format for names and numbers of materials.
+struct WriterRules
+{
+    NameRules names;
+    std::uint32_t largestNumber = 0; ///< 0 if materials have names only
+};
+
+/// Writes one deck in a format. A writer is used once.
+class DeckWriter
+{
+public:
+    virtual ~DeckWriter() = default;
+
+    virtual WriterRules rules() const = 0;
+    /// Returns the text before the first material.
+    virtual std::string begin(const vxUnits::UnitSystem& units) = 0;
+    /// Adds the text of a material, and reports its quantities.
+    virtual void write(MaterialDeck& deck) = 0;
+    /// Returns the text after the last material.
+    virtual std::string end() { return {}; }
+};
+
+/// A card of a format, and the function that writes it if the material has its quantities. The card is that of the mapping
+/// table.
+struct CardWriter
+{
+    const char* card;
+    void (*write)(MaterialDeck& deck);
+};
+
+/// A format whose materials consist of cards.
+struct CardFormat
+{
+    Format format = Format::Calculix;
+    WriterRules rules;
+    std::string (*begin)(const vxUnits::UnitSystem& units) = nullptr;
+    void (*beginMaterial)(MaterialDeck& deck) = nullptr; ///< null if a material has no heading
+    std::vector<CardWriter> cards;
+    void (*endMaterial)(MaterialDeck& deck) = nullptr; ///< null if a material has no end
+};
+
+const CardFormat& calculixFormat();
+const CardFormat& nastranFormat();
+const CardFormat& apdlFormat();
+const CardFormat& lsDynaFormat();
+const CardFormat& elmerFormat();
+
+/// Returns the writer of a format whose materials consist of cards. It writes the cards in the order of the mapping table.
+std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format);
+std::unique_ptr<DeckWriter> makeMatmlWriter();
+
+/// Returns a text of the user for a comment, of at most `longest` bytes and without control characters, so that it stays on
+/// its line.
+std::string commentText(std::string_view text, std::size_t longest);
+
+/// Returns the base units of a system for a comment: "mm, t, s, K, A".
+std::string baseUnits(const vxUnits::UnitSystem& units);
+
+} // namespace vxDecks

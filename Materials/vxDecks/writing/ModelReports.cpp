@@ -1,0 +1,115 @@
+#include "writing/ModelReports.h"
+
+#include "texts/DeckTexts.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyId.h"
+
+namespace vxDecks {
+
+namespace {
+
+using Id = vxMat::PropertyId;
+using vxUnits::Message;
+
+/// Reports the hardening type. The types of which formats have only the curve are converted.
+void reportHardeningType(MaterialDeck& deck, const PlasticModel& model)
+{
+    const std::string type = vxMat::toUpperAscii(deck.values().word(Id::PlasticHardeningType));
+    const bool hasOwnForm = type != "SWIFT" && type != "RAMBERG-OSGOOD";
+    if (hasOwnForm || model.source == HardeningSource::Modulus)
+        deck.carry(Id::PlasticHardeningType);
+    else
+        deck.convert(Id::PlasticHardeningType, makeMessage(Text::PointsOfCurve));
+}
+
+/// Reports an initial yield stress beside a curve, which begins with its own one.
+void reportInitialYield(MaterialDeck& deck, const PlasticModel& model)
+{
+    const auto initial = deck.values().number(Id::PlasticInitialYieldStress);
+    if (!initial)
+        return;
+    if (model.hasAddedPoint)
+        deck.convert(Id::PlasticInitialYieldStress, makeMessage(Text::FirstPointAdded));
+    else if (*initial == model.yieldStress)
+        deck.carry(Id::PlasticInitialYieldStress);
+    else
+        deck.refuse({Id::PlasticInitialYieldStress},
+                    makeMessage(Text::CurveGivesYield, {vxMat::formatNumber(model.yieldStress)}));
+}
+
+void carryOrConvert(MaterialDeck& deck, std::int32_t id, const std::optional<Message>& form)
+{
+    if (form)
+        deck.convert(id, *form);
+    else
+        deck.carry(id);
+}
+
+} // namespace
+
+const std::vector<std::int32_t>& hyperelasticIds()
+{
+    static const std::vector<std::int32_t> ids{Id::NeoHooke,
+                                               Id::MooneyRivlin,
+                                               Id::ArrudaBoyce,
+                                               Id::InitialShearModulusMu,
+                                               Id::LimitingNetworkStretch,
+                                               Id::MaterialConstantC01,
+                                               Id::MaterialConstantC10,
+                                               Id::MaterialConstantC11,
+                                               Id::IncompressibilityParameterD1};
+    return ids;
+}
+
+const std::vector<std::int32_t>& creepIds()
+{
+    static const std::vector<std::int32_t> ids{Id::Creep, Id::CreepModulusA, Id::CreepModulusN, Id::CreepModulusM};
+    return ids;
+}
+
+const std::vector<std::int32_t>& pronyIds()
+{
+    static const std::vector<std::int32_t> ids{Id::ViscoElasticity, Id::ShearRelaxationModulus, Id::RelaxationTime};
+    return ids;
+}
+
+void carryAll(MaterialDeck& deck, const std::vector<std::int32_t>& ids)
+{
+    for (const std::int32_t id : ids)
+        deck.carry(id);
+}
+
+void reportElastic(MaterialDeck& deck)
+{
+    carryAll(deck, {Id::IsotropicElasticity, Id::YoungsModulus, Id::PoissonsRatio});
+}
+
+void reportPlastic(MaterialDeck& deck, const PlasticModel& model, const std::optional<Message>& modulusForm)
+{
+    carryAll(deck, {Id::Plasticity, Id::PlasticYieldType});
+    reportHardeningType(deck, model);
+    reportInitialYield(deck, model);
+    if (model.source == HardeningSource::Modulus)
+        carryOrConvert(deck, Id::PlasticHardeningFactor, modulusForm);
+    else
+        carryAll(deck, {Id::PlasticYieldStress, Id::PlasticStrain});
+}
+
+void reportConstants(MaterialDeck& deck, const HyperelasticModel& model)
+{
+    carryAll(deck, {Id::NeoHooke, Id::MooneyRivlin, Id::ArrudaBoyce});
+    carryAll(deck, model.quantities);
+}
+
+double takeBulkModulus(MaterialDeck& deck, const HyperelasticModel& model, const std::optional<Message>& form)
+{
+    if (model.d1) {
+        carryOrConvert(deck, Id::IncompressibilityParameterD1, form);
+        return 2.0 / *model.d1;
+    }
+    deck.approximate(Id::IncompressibilityParameterD1,
+                     makeMessage(Text::BulkModulusLimited, {vxMat::formatNumber(bulkOverShear)}));
+    return bulkOverShear * model.shear;
+}
+
+} // namespace vxDecks

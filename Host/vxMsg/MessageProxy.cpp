@@ -78,6 +78,15 @@ Obj::Property* findSettable(const PropertyPlace& place, const std::string& name,
     return nullptr;
 }
 
+/// Returns the text of a step that changes a property. Names the object by its label before the change.
+QString textOfChange(const PropertyPlace& place, const std::string& propertyName)
+{
+    const QString property = Obj::readableName(propertyName.c_str());
+    const Obj::ProjectObject* const object = place.findObject();
+    return object != nullptr ? tr(R"(Change "%1" of "%2")").arg(property, labelOf(*object))
+                             : tr("Change \"%1\"").arg(property);
+}
+
 /// Sets the property. Returns false if it cannot read the text. Exceptions of listeners are reported; the value is set.
 bool setText(Obj::Property& property, const std::string& name, const std::string& text)
 {
@@ -256,7 +265,7 @@ bool MessageProxy::setProperty(const PropertyPlace& place, const std::string& pr
     if (property->toText() == text)
         return true;
     bool isRead = false;
-    const QString stepText = tr("Change \"%1\"").arg(Obj::readableName(propertyName.c_str()));
+    const QString stepText = textOfChange(place, propertyName);
     carryOut(stepText, [&]() -> std::unique_ptr<QUndoCommand> {
         Json::Value before = property->toJson();
         isRead = setText(*property, propertyName, text);

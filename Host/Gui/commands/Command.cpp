@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QIcon>
+#include <QRegularExpression>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -21,6 +22,14 @@ namespace {
 QString joined(const QString& text, const QString& subject)
 {
     return subject.isEmpty() ? text : QCoreApplication::translate("Gui::Command", "%1: %2").arg(text, subject);
+}
+
+/// Returns the name of a command in sentences and in the history: the text of its entry without the mnemonic, which some
+/// languages add in brackets, and without the dots that announce a dialog.
+QString nameOf(QString menuText)
+{
+    static const QRegularExpression marks(QStringLiteral(R"(\(&\w\)|\s*(\.\.\.|\x{2026})$)"));
+    return withoutMnemonics(menuText.remove(marks));
 }
 
 } // namespace
@@ -134,7 +143,7 @@ bool Command::invoke(int index)
         // The result of an earlier command is not the result of this one.
         window->statusBar()->clearMessage();
     }
-    const QString name = withoutMnemonics(get_menu_info());
+    const QString name = nameOf(get_menu_info());
     bool done = false;
     Kelta::guarded(QCoreApplication::translate("Gui::Command", "The command \"%1\" failed").arg(name), [&] {
         if (!canRun())

@@ -239,7 +239,7 @@ TEST_F(ListenerTest, HasWhatItAddsUndoneBeforeTheChangeThatCausedIt)
     });
     EXPECT_TRUE(proxy().setProperty(vxMsg::PropertyPlace(bolt), "Width", "9"));
     EXPECT_EQ(stack().count(), 2);
-    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Width\""));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Width\" of \"Bolt\""));
     listening.disconnect();
     m_project->objectChanged.connect([&order](ProjectObject&, const Obj::Property*) { order.emplace_back("changed"); });
     m_project->objectRemoved.connect([&order](ProjectObject&) { order.emplace_back("removed"); });

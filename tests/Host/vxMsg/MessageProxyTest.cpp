@@ -544,11 +544,19 @@ TEST_F(MessageProxyTest, ChangesAPropertyInOneStep)
     Part& bolt = part("Bolt");
     EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Width", "12"));
     EXPECT_EQ(bolt.width.getValue(), 12);
-    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Width\""));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Width\" of \"Bolt\""));
     stack().undo();
     EXPECT_EQ(bolt.width.getValue(), 7);
     stack().redo();
     EXPECT_EQ(bolt.width.getValue(), 12);
+}
+
+TEST_F(MessageProxyTest, NamesAnObjectWithANewLabelByTheOldOne)
+{
+    Part& bolt = part("Bolt");
+    bolt.label.setValue("Bolt %1");
+    EXPECT_TRUE(proxy().setProperty(PropertyPlace(bolt), "Label", "Screw"));
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Label\" of \"Bolt %1\""));
 }
 
 TEST_F(MessageProxyTest, ChangesPropertiesOfEveryTypeAndBack)
@@ -577,6 +585,7 @@ TEST_F(MessageProxyTest, ChangesAPropertyOfAProject)
 {
     EXPECT_TRUE(proxy().setProperty(PropertyPlace(*m_project), "ClassLabel", "Engine"));
     EXPECT_EQ(m_project->classLabel.getValue(), "Engine");
+    EXPECT_EQ(stack().undoText(), QStringLiteral("Change \"Class label\""));
     stack().undo();
     EXPECT_EQ(m_project->classLabel.getValue(), "");
 }

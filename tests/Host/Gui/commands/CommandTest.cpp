@@ -147,4 +147,30 @@ TEST_F(CommandTest, NamesObjectsAsNoObjectOfTheCurrentProjectHasOrHad)
     EXPECT_NE(Gui::Command::get_unique_object_name("Beam"), first);
 }
 
+/// A command with the text of an entry in a menu.
+class Entry final : public TestCommand
+{
+public:
+    Entry(const char* text, std::function<void()> action) : TestCommand("Test_Entry", std::move(action))
+    {
+        menuText = text;
+    }
+};
+
+TEST_F(CommandTest, GivesItsStepANameWithoutTheMarksOfAMenu)
+{
+    vxtest::TestProject& project = makeProject();
+    const std::vector<std::pair<const char*, const char*>> names{
+        {"I&mport document...", "Import document"},
+        {"Import \u2026", "Import"},
+        {"\u5bfc\u5165\u6587\u6863(&M)...", "\u5bfc\u5165\u6587\u6863"},
+        {"Save && close", "Save & close"},
+        {"Version 1.0", "Version 1.0"}};
+    for (const auto& [text, name] : names) {
+        Entry command(text, [&] { addObject(project); });
+        EXPECT_TRUE(command.invoke());
+        EXPECT_EQ(undoStack().undoText(), QString::fromUtf8(name));
+    }
+}
+
 } // namespace

@@ -22,10 +22,10 @@ protected:
     vxtest::TestObject& object;
 };
 
-TEST_F(Edits, NameTheChangedProperty)
+TEST_F(Edits, NameTheChangedPropertyAndItsObject)
 {
     EXPECT_TRUE(editLabel("Beam"));
-    EXPECT_EQ(undoStack().undoText(), "Change \"Label\"");
+    EXPECT_EQ(undoStack().undoText(), "Change \"Label\" of \"Object\"");
     select({&object});
     EXPECT_TRUE(run("Std_Suppress"));
     EXPECT_EQ(undoStack().undoText(), "Suppress");

@@ -4,6 +4,7 @@
 
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "kelta/BusyCursor.h"
 #include "kelta/UnappliedEdits.h"
@@ -33,6 +34,34 @@ Obj::Project* findTarget()
         return findDocumentImport(project->getTypeId()) != nullptr;
     });
     return found != projects.end() ? *found : nullptr;
+}
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("desktop::ProjectFiles", text);
+}
+
+/// Returns a sentence about objects with another label than in their document; empty if there is none.
+QString describe(const std::vector<NewLabel>& labels)
+{
+    if (labels.empty())
+        return {};
+    constexpr std::size_t mostNames = 10;
+    QStringList names;
+    for (std::size_t i = 0; i < std::min(labels.size(), mostNames); ++i)
+        names << tr(R"("%1" is now "%2")").arg(labels[i].inDocument, labels[i].inProject);
+    if (labels.size() > mostNames)
+        names << tr("%1 more").arg(labels.size() - mostNames);
+    return tr("Objects with a label that was in use have got another one: %1.").arg(names.join(QStringLiteral(", ")));
+}
+
+/// Returns the result of an import for the status bar.
+QString summaryOf(const ImportOutcome& outcome)
+{
+    if (outcome.newLabels.empty())
+        return tr("Objects imported: %1").arg(outcome.objects.size());
+    return tr("Objects imported: %1, with another label: %2")
+        .arg(QString::number(outcome.objects.size()), QString::number(outcome.newLabels.size()));
 }
 
 } // namespace
@@ -104,7 +133,9 @@ bool ProjectFiles::addDocument(Obj::Project& project, const ImportStep& add, con
         const ImportOutcome outcome = add(project);
         m_opening.warn(path, outcome.doubts);
         Gui::TreeSelectionSingleton::instance().setSelection({}, outcome.objects);
-        m_mainWindow.statusBar()->showMessage(tr("Objects imported: %1").arg(outcome.objects.size()), 5000);
+        if (const QString labels = describe(outcome.newLabels); !labels.isEmpty())
+            Kelta::MessageLog::information(shownPath(path) + QStringLiteral(": ") + labels);
+        m_mainWindow.statusBar()->showMessage(summaryOf(outcome), 5000);
         return true;
     } catch (const std::exception& error) {
         m_questions.complain(tr("Import"), QString::fromUtf8(error.what()));

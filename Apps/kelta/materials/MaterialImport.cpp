@@ -2,6 +2,7 @@
 
 #include "ImportUnits.h"
 
+#include "Gui/CopyLabels.h"
 #include "Kelta/MessageLog.h"
 #include "kelta/BusyCursor.h"
 #include "projectfile/ExchangeImport.h"
@@ -33,11 +34,12 @@ projectfile::ImportedMaterials read(const QString& path)
     }
 }
 
-Obj::ProjectObject* addMaterial(Obj::Project& project, const projectfile::ImportedMaterial& entry)
+Obj::ProjectObject* addMaterial(Obj::Project& project, const projectfile::ImportedMaterial& entry,
+                                const std::string& label)
 {
     auto* const object =
         static_cast<Mat::MaterialObject*>(project.add_object("Mat::MaterialObject", entry.label.c_str()));
-    object->label.setValue(entry.label);
+    object->label.setValue(label);
     vxMat::CMaterial& material = *object->getCMaterial();
     material.name = entry.material->name;
     material.properties = std::move(entry.material->properties);
@@ -60,8 +62,14 @@ ImportOutcome addMaterials(Obj::Project& project, const projectfile::ImportedMat
     ImportOutcome outcome;
     const vxMsg::MessageProxy::Group group(
         QCoreApplication::translate("desktop::ProjectFiles", "Import \"%1\"").arg(QFileInfo(path).fileName()));
-    for (const projectfile::ImportedMaterial& entry : imported.materials)
-        outcome.objects.push_back(addMaterial(project, entry));
+    Gui::CopyLabels labels(project);
+    for (const projectfile::ImportedMaterial& entry : imported.materials) {
+        const QString wanted = QString::fromStdString(entry.label);
+        const QString label = labels.make(wanted);
+        outcome.objects.push_back(addMaterial(project, entry, label.toStdString()));
+        if (label != wanted)
+            outcome.newLabels.push_back({wanted, label});
+    }
     outcome.doubts = imported.doubts;
     return outcome;
 }

@@ -16,11 +16,19 @@ class ProjectObject;
 
 namespace desktop {
 
+/// An object with another label than its document gives it, because the project has an object with that label.
+struct NewLabel
+{
+    QString inDocument;
+    QString inProject;
+};
+
 /// The result of an import.
 struct ImportOutcome
 {
     std::vector<Obj::ProjectObject*> objects; ///< the added objects; the project owns them
     std::vector<std::string> doubts;          ///< sentences about data that the user must check
+    std::vector<NewLabel> newLabels;          ///< in the order of the objects
 };
 
 /// Adds the content of a document that was read to a project, as one step of the history. Called at most once. Throws a

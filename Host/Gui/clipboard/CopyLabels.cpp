@@ -1,4 +1,4 @@
-#include "clipboard/CopyLabels.h"
+#include "Gui/CopyLabels.h"
 
 #include "Obj/Project.h"
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Gui/GuiExport.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -10,9 +12,9 @@ class Project;
 
 namespace Gui {
 
-/// Makes labels for copies of objects, so that the user can distinguish a copy from its original: "Frame copy", then
+/// Makes labels for copies of objects and for imported objects, so that the user can distinguish a copy from its original: "Frame copy", then
 /// "Frame copy 2". Project objects may have equal labels, but the user rarely wants that.
-class CopyLabels
+class GUI_EXPORT CopyLabels
 {
 public:
     /// Takes the labels in the project at this time into account.

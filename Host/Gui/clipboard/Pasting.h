@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clipboard/CopyLabels.h"
+#include "Gui/CopyLabels.h"
 
 #include <json/value.h>
 

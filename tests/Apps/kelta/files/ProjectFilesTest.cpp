@@ -26,6 +26,7 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QSettings>
+#include <QStatusBar>
 #include <QUrl>
 #include <QtTest/QtTestGui>
 
@@ -1080,13 +1081,33 @@ TEST_F(ProjectFiles, TakeInExchangeDocumentsAsOneStep)
     ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
     ASSERT_EQ(currentProject()->getObjectCount(), 2U);
     const auto* const copy = dynamic_cast<Mat::MaterialObject*>(currentProject()->getObjects().back());
-    EXPECT_EQ(copy->label.getValue(), "Steel");
+    EXPECT_EQ(copy->label.getValue(), "Steel copy");
     EXPECT_EQ(modulusOf(*copy), 2e11);
     EXPECT_EQ(copy->getCMaterial()->findProperty(5)->unit, "Pa");
     EXPECT_EQ(copy->getObjectState(), Obj::eVXObjectState::Ready);
     EXPECT_EQ(history().count(), steps + 1);
     history().undo();
     EXPECT_EQ(currentProject()->getObjectCount(), 1U);
+}
+
+TEST_F(ProjectFiles, GiveImportedObjectsLabelsOfTheirOwnAndSaySo)
+{
+    newProject();
+    addMaterial("Beams");
+    addMaterial("Beams copy");
+    writeFile(path("a.json"), R"({"proj_type": 2, "material": [{"mat_id": 1, "mat_name": "Beams"},
+        {"mat_id": 2, "mat_name": "Beams"}, {"mat_id": 3, "mat_name": "Joints"}]})");
+    const vxtest::Reports reports;
+    const Answers answers({"Import"});
+    ASSERT_TRUE(run("Std_ImportDocument", path("a.json")));
+    std::vector<std::string> labels;
+    for (const Obj::ProjectObject* const object : currentProject()->getObjects())
+        labels.push_back(object->label.getValue());
+    EXPECT_THAT(labels, testing::ElementsAre("Beams", "Beams copy", "Beams copy 2", "Beams copy 3", "Joints"));
+    EXPECT_THAT(reports.text(), HasSubstr("a.json: Objects with a label that was in use have got another one: "
+                                          R"("Beams" is now "Beams copy 2", "Beams" is now "Beams copy 3".)"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Objects imported: 3, with another label: 2");
+    EXPECT_EQ(history().undoText(), "Import exchange document");
 }
 
 /// A material document of steel, with its modulus and density in mm-t-s.

@@ -60,7 +60,9 @@ GuiApplication::GuiApplication(int& argc, char** argv)
         addProject(*project);
     m_projectAdded = application.projectAdded.connect([this](Obj::Project& project) { addProject(project); });
     m_projectRemoved = application.projectRemoved.connect([this](Obj::Project& project) { removeProject(project); });
-    connect(&m_requests.undoStack(), &QUndoStack::indexChanged, this, &GuiApplication::historyMoved);
+    // Queued: a step that ends the history is recorded after the history has been cleared.
+    connect(&m_requests.undoStack(), &QUndoStack::indexChanged, this, &GuiApplication::historyMoved,
+            Qt::QueuedConnection);
 }
 
 GuiApplication::~GuiApplication()
@@ -132,9 +134,12 @@ void GuiApplication::removeProject(Obj::Project& project)
 
 void GuiApplication::historyMoved()
 {
-    // When the history ends, closed projects cannot be restored.
-    if (m_requests.undoStack().count() == 0)
-        m_closedProjects.clear();
+    // When the history has ended, closed projects and deleted objects cannot be restored.
+    if (m_requests.undoStack().count() != 0)
+        return;
+    m_closedProjects.clear();
+    for (const auto& [project, guiProject] : m_projects)
+        guiProject->forgetDeletedNodes();
 }
 
 } // namespace Gui

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Gui {
@@ -91,6 +92,12 @@ NodeProperties GuiProject::recordNodes() const
         if (feeder->hasChanged())
             nodes.ofObjects[object->getObjectId()] = Obj::writeProperties(*feeder);
     return nodes;
+}
+
+void GuiProject::forgetDeletedNodes()
+{
+    for (auto kept = m_kept.ofObjects.begin(); kept != m_kept.ofObjects.end();)
+        kept = m_project.get_object(kept->first) == nullptr ? m_kept.ofObjects.erase(kept) : std::next(kept);
 }
 
 void GuiProject::connectView(BaseView* view)

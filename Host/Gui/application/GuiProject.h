@@ -56,6 +56,9 @@ public:
     /// Returns the properties of the nodes that have changed, including the nodes of deleted objects.
     NodeProperties recordNodes() const;
 
+    /// Forgets the properties of the nodes of deleted objects, which undo cannot restore any more.
+    void forgetDeletedNodes();
+
     /// Returns the open views of the project.
     const std::vector<BaseView*>& getViews() const { return m_views; }
     void connectView(BaseView* view);

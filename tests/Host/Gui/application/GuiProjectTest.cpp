@@ -199,4 +199,40 @@ TEST_F(GuiProjectTest, RemovesItsViewsWhenItIsClosed)
     EXPECT_EQ(notShown.getGuiProject(), nullptr);
 }
 
+TEST_F(GuiProjectTest, ForgetsTheNodesOfDeletedObjectsWhenTheHistoryEnds)
+{
+    vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
+    vxtest::TestObject& deleted = addObject(project, "Deleted");
+    vxtest::TestObject& restored = addObject(project, "Restored");
+    const std::uint32_t restoredId = restored.getObjectId();
+    for (vxtest::TestObject* const object : {&deleted, &restored}) {
+        nodeOf(*object).color.setValue(red);
+        ASSERT_TRUE(requests.deleteObject(project.get_name(), object->get_name_in_project()));
+    }
+    EXPECT_EQ(side.recordNodes().ofObjects.size(), 2U);
+    requests.undoStack().undo();
+    requests.undoStack().clear();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(side.recordNodes().ofObjects.size(), 1U);
+    EXPECT_EQ(side.recordNodes().ofObjects.begin()->first, restoredId);
+}
+
+TEST_F(GuiProjectTest, KeepsTheNodeOfAnObjectWhoseDeletionBeginsANewHistory)
+{
+    vxMsg::MessageProxy& requests = vxMsg::MessageProxy::instance();
+    vxtest::TestObject& object = addObject(project, "Kept");
+    vxtest::TestObject& destroyed = addObject(project, "Destroyed");
+    nodeOf(object).color.setValue(red);
+    const std::uint32_t objectId = object.getObjectId();
+    {
+        const vxMsg::MessageProxy::Group group(QStringLiteral("Tidy"));
+        project.removeObject(destroyed.getObjectId());
+        ASSERT_TRUE(requests.deleteObject(project.get_name(), "Kept"));
+    }
+    QCoreApplication::processEvents();
+    ASSERT_EQ(requests.undoStack().count(), 1);
+    requests.undoStack().undo();
+    EXPECT_EQ(nodeOf(*project.get_object(objectId)).color.getValue(), red);
+}
+
 } // namespace

@@ -121,17 +121,43 @@ std::int32_t idOf(const JsonNode& property, const std::string& path)
     refuse(path + ".prop_type", type, tr("a whole number from 0 to 4294967295"));
 }
 
+/// Collects the first doubts about a document, and counts the others.
+class Doubts
+{
+public:
+    /// Adds the text that `make` returns, unless there are mostDoubts already: texts cost time.
+    template <class Make>
+    void add(const Make& make)
+    {
+        if (m_list.size() < mostDoubts)
+            m_list.push_back(make().toStdString());
+        else
+            ++m_omitted;
+    }
+
+    std::vector<std::string> take()
+    {
+        if (m_omitted > 0)
+            m_list.push_back(tr("Further doubts are not listed: %1.").arg(m_omitted).toStdString());
+        return std::move(m_list);
+    }
+
+private:
+    std::vector<std::string> m_list;
+    std::size_t m_omitted = 0;
+};
+
 /// Makes one material, and collects the doubts about it.
 class MaterialImport
 {
 public:
-    MaterialImport(const ImportedMaterial& target, std::vector<std::string>& doubts)
+    MaterialImport(const ImportedMaterial& target, Doubts& doubts)
         : m_number(QString::number(target.objectId)), m_label(text(target.label)), m_doubts(doubts)
     {}
 
     void doubt(const QString& about)
     {
-        m_doubts.push_back(tr("material %1 \"%2\": %3").arg(m_number, m_label, about).toStdString());
+        m_doubts.add([&] { return tr("material %1 \"%2\": %3").arg(m_number, m_label, about); });
     }
     void addProperty(const JsonNode& json, const std::string& path);
 
@@ -150,7 +176,7 @@ private:
 
     QString m_number;
     QString m_label;
-    std::vector<std::string>& m_doubts;
+    Doubts& m_doubts;
 };
 
 void MaterialImport::takeNumber(vxMat::MaterialProperty& property, const JsonNode& json, const std::string& path)
@@ -255,7 +281,7 @@ QString renumbered(const JsonNode& material, std::uint32_t stated, std::uint32_t
 
 /// `stated` is the number in the document; 0 if there is no valid number.
 ImportedMaterial readMaterial(const JsonNode& json, const std::string& path, std::uint32_t stated,
-                              std::uint32_t objectId, std::vector<std::string>& doubts)
+                              std::uint32_t objectId, Doubts& doubts)
 {
     ImportedMaterial target;
     target.objectId = objectId;
@@ -290,10 +316,10 @@ void requireMaterialDocument(const JsonNode& document)
         throw ContentError(tr("it is not a material document: \"proj_type\" must be 2").toStdString());
 }
 
-void doubtRepeatedMembers(const vxjson::JsonTree& tree, std::vector<std::string>& doubts)
+void doubtRepeatedMembers(const vxjson::JsonTree& tree, Doubts& doubts)
 {
     for (const std::string& path : tree.repeatedMembers())
-        doubts.push_back(tr("%1: occurs more than once; the last one was used").arg(text(path)).toStdString());
+        doubts.add([&] { return tr("%1: occurs more than once; the last one was used").arg(text(path)); });
 }
 
 } // namespace
@@ -307,6 +333,7 @@ ImportedMaterials importExchange(std::string_view text, Numbering numbering)
     requireMaterialDocument(document);
     const JsonNode list = arrayUnder(document, "material", "$");
     std::vector<std::uint32_t> stated;
+    stated.reserve(list.size());
     for (std::size_t i = 0; i < list.size(); ++i) {
         const std::string path = pathOf("$", "material", i);
         stated.push_back(numberOf(objectAt(list, i, path), path));
@@ -314,17 +341,20 @@ ImportedMaterials importExchange(std::string_view text, Numbering numbering)
 
     Numbers numbers(stated);
     ImportedMaterials imported;
-    doubtRepeatedMembers(tree, imported.doubts);
+    imported.materials.reserve(list.size());
+    Doubts doubts;
+    doubtRepeatedMembers(tree, doubts);
     if (list.size() == 0)
-        imported.doubts.push_back(tr("the document holds no materials").toStdString());
+        doubts.add([] { return tr("the document holds no materials"); });
     for (std::size_t i = 0; i < list.size(); ++i) {
         if (numbering == Numbering::Anew)
             stated[i] = static_cast<std::uint32_t>(i + 1);
         const std::uint32_t objectId =
             numbering == Numbering::Anew || numbers.keeps(i, stated[i]) ? stated[i] : numbers.next();
         imported.materials.push_back(
-            readMaterial(list.element(i), pathOf("$", "material", i), stated[i], objectId, imported.doubts));
+            readMaterial(list.element(i), pathOf("$", "material", i), stated[i], objectId, doubts));
     }
+    imported.doubts = doubts.take();
     std::sort(imported.materials.begin(), imported.materials.end(),
               [](const auto& one, const auto& other) { return one.objectId < other.objectId; });
     return imported;
@@ -344,6 +374,7 @@ ProjectRecord makeProject(const std::string& name, std::vector<ImportedMaterial>
     project.database["proj_tag"] = "Material";
     project.database["proj_id"] = 1U;
     project.database["physics_type"] = "Material";
+    project.objects.reserve(materials.size());
     Json::Value objects; // stays null, as in the host, if there are no materials
     for (ImportedMaterial& imported : materials) {
         ObjectRecord object;

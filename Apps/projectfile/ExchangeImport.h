@@ -5,6 +5,7 @@
 #include "projectfile/ProjectFileExport.h"
 #include "vxMaterial/model/Material.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -21,13 +22,17 @@ struct PROJECTFILE_EXPORT ImportedMaterial
     std::unique_ptr<vxMat::MaterialBase> material; ///< never null
 };
 
+/// The maximum number of doubts in ImportedMaterials. A document may have millions of empty materials, and a message about
+/// each of them takes many times as much memory as the material.
+inline constexpr std::size_t mostDoubts = 1000;
+
 /// The materials of an exchange document, completed from the catalogue.
 struct PROJECTFILE_EXPORT ImportedMaterials
 {
     std::vector<ImportedMaterial> materials; ///< by objectId
     /// Messages about data that the user must check, in the user's language: data that the document does not carry and
     /// that the catalogue does not have, and repeated or missing data. A message names the material and, if it is about
-    /// a property, the id of the property.
+    /// a property, the id of the property. If there are more than mostDoubts, one more message says how many are omitted.
     std::vector<std::string> doubts;
 };
 

@@ -9,6 +9,7 @@
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/Plausibility.h"
 
+#include <cstddef>
 #include <set>
 #include <utility>
 #include <vector>
@@ -37,6 +38,13 @@ struct MaterialDoubt
     vxUnits::Doubt doubt;
 };
 
+/// The doubts about the materials of a file: the first of them, and the number of the others.
+struct MaterialDoubts
+{
+    std::vector<MaterialDoubt> list;
+    std::size_t omitted = 0;
+};
+
 /// Returns the slots of a material that an error is about. An error about yield stresses and plastic strains together is in
 /// the slot of the stresses.
 std::set<std::int32_t> slotsWithErrors(const vxMat::MaterialBase& material)
@@ -50,21 +58,27 @@ std::set<std::int32_t> slotsWithErrors(const vxMat::MaterialBase& material)
 }
 
 /// Adds the doubts about a material. A doubt about a value that is an error already is only added if it has a remedy.
-void addDoubts(const FileMaterial& material, std::vector<MaterialDoubt>& doubts)
+void addDoubts(const FileMaterial& material, MaterialDoubts& doubts)
 {
     const std::set<std::int32_t> errors = slotsWithErrors(*material.entry->material);
     for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(*material.entry->material)) {
-        if (doubt.remedy || errors.count(doubt.id) == 0)
-            doubts.push_back({material.number, material.label, std::move(doubt)});
+        if (!doubt.remedy && errors.count(doubt.id) != 0)
+            continue;
+        if (doubts.list.size() < vxCAE::mostFindings)
+            doubts.list.push_back({material.number, material.label, std::move(doubt)});
+        else
+            ++doubts.omitted;
     }
 }
 
 /// Returns the doubts about the materials of a file; none if the materials cannot be read.
-std::vector<MaterialDoubt> findDoubts(Input input)
+MaterialDoubts findDoubts(Input input)
 try {
-    if (!input.project && vxCAE::readProjectKind(toDocument(input)) == vxCAE::ProjectKind::Analysis)
+    Json::Value kind(Json::objectValue);
+    kind["proj_type"] = input.tree.root()["proj_type"].toJsonValue();
+    if (!input.project && vxCAE::readProjectKind(kind) == vxCAE::ProjectKind::Analysis)
         return {};
-    std::vector<MaterialDoubt> doubts;
+    MaterialDoubts doubts;
     for (const FileMaterial& material : readMaterials(std::move(input)).materials)
         addDoubts(material, doubts);
     return doubts;
@@ -104,6 +118,13 @@ vxCAE::CheckReport check(const Input& input, const std::optional<std::string>& m
     return report;
 }
 
+/// Adds the number of messages of a kind that are not listed.
+void addOmitted(Answer& answer, const std::string& path, const char* kind, std::size_t count)
+{
+    if (count > 0)
+        answer.messages.push_back(path + ": note: further " + kind + " are not listed: " + std::to_string(count));
+}
+
 } // namespace
 
 Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Strictness strictness,
@@ -111,8 +132,8 @@ Answer checkFile(const std::string& path, const std::optional<std::string>& mate
 {
     Input input = readInput(path);
     const vxCAE::CheckReport report = check(input, materialsPath);
-    const std::vector<MaterialDoubt> doubts = findDoubts(std::move(input));
-    const bool isClean = report.findings.empty() && (doubts.empty() || strictness == Strictness::Errors);
+    const MaterialDoubts doubts = findDoubts(std::move(input));
+    const bool isClean = report.findings.empty() && (doubts.list.empty() || strictness == Strictness::Errors);
     Answer answer;
     answer.status = isClean ? Status::Clean : Status::Findings;
     if (form == Form::Json) {
@@ -120,18 +141,24 @@ Answer checkFile(const std::string& path, const std::optional<std::string>& mate
         document["file"] = path;
         document["findings"] = toJson(report.findings);
         document["notes"] = toJson(report.notes);
-        document["doubts"] = toJson(doubts);
+        document["doubts"] = toJson(doubts.list);
+        document["omitted"]["findings"] = Json::UInt64(report.omittedFindings);
+        document["omitted"]["notes"] = Json::UInt64(report.omittedNotes);
+        document["omitted"]["doubts"] = Json::UInt64(doubts.omitted);
         answer.text = toJsonText(document);
         return answer;
     }
     for (const vxCAE::Finding& finding : report.findings)
         answer.text += path + ": " + printable(finding.path) + ": " + printable(finding.message) + "\n";
-    for (const MaterialDoubt& one : doubts) {
+    for (const MaterialDoubt& one : doubts.list) {
         answer.text += path + ": doubt: " + std::to_string(one.number) + " " + printable(one.label) + ": " +
                        printable(one.doubt.text()) + "\n";
     }
     for (const vxCAE::Finding& note : report.notes)
         answer.messages.push_back(path + ": note: " + note.path + ": " + note.message);
+    addOmitted(answer, path, "errors", report.omittedFindings);
+    addOmitted(answer, path, "doubts", doubts.omitted);
+    addOmitted(answer, path, "notes", report.omittedNotes);
     return answer;
 }
 

@@ -96,6 +96,15 @@ std::vector<std::string> convert(std::vector<projectfile::ImportedMaterial>& mat
     return notes;
 }
 
+/// Returns the text of a document. The tree of its values, which takes more memory than the text, is not kept.
+std::string readText(const std::string& document)
+{
+    Input input = readInput(document);
+    if (input.project)
+        throw Failure(document + ": it is a project file, which needs no import");
+    return std::move(input.text);
+}
+
 } // namespace
 
 Answer newProject(const std::vector<std::string>& materials, const std::vector<std::string>& emptyMaterials,
@@ -122,14 +131,12 @@ Answer newProject(const std::vector<std::string>& materials, const std::vector<s
 
 Answer importDocument(const std::string& document, const std::string& path, Existing existing, const ChosenUnits& units)
 {
-    const Input input = readInput(document);
-    if (input.project)
-        throw Failure(document + ": it is a project file, which needs no import");
+    const std::string text = readText(document);
     requireAnotherFile(document, path);
     Answer answer;
     std::vector<std::string> notes;
     try {
-        projectfile::ImportedMaterials imported = projectfile::importExchange(input.text);
+        projectfile::ImportedMaterials imported = projectfile::importExchange(text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
         notes = convert(imported.materials, units, document);

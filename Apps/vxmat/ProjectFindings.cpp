@@ -39,8 +39,8 @@ public:
     vxCAE::CheckReport report;
 
 private:
-    void find(const std::string& path, const std::string& message) { report.findings.push_back({path, message}); }
-    void note(const std::string& path, const std::string& message) { report.notes.push_back({path, message}); }
+    void find(const std::string& path, const std::string& message) { report.find(path, message); }
+    void note(const std::string& path, const std::string& message) { report.note(path, message); }
     void checkUnitSystem(const projectfile::ProjectRecord& project);
     void checkMeasurements(const vxjson::JsonNode& settings, const std::string& path);
     void checkMaterial(const vxMat::MaterialBase& material, const vxjson::JsonNode& properties,

@@ -4,6 +4,7 @@
 
 #include <json/value.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -16,12 +17,32 @@ struct Finding
     std::string message;
 };
 
+/// The maximum number of findings, and of notes, in a CheckReport. A document may have millions of empty elements, and a
+/// message about each of them takes many times as much memory as the element.
+inline constexpr std::size_t mostFindings = 1000;
+
 /// The result of a check, in the order of the document's sections. The messages are English: only the command line
 /// shows them, and other programs read its output.
 struct CheckReport
 {
+    /// Add a finding or note, or count it if there are mostFindings already.
+    void find(const std::string& path, const std::string& message) { add(findings, omittedFindings, path, message); }
+    void note(const std::string& path, const std::string& message) { add(notes, omittedNotes, path, message); }
+
     std::vector<Finding> findings; ///< faults: a reader loses, misreads or refuses a value, or it is out of its range
     std::vector<Finding> notes;    ///< correct but worth knowing: words and lists are not exchanged
+    std::size_t omittedFindings = 0;
+    std::size_t omittedNotes = 0;
+
+private:
+    static void add(std::vector<Finding>& list, std::size_t& omitted, const std::string& path,
+                    const std::string& message)
+    {
+        if (list.size() < mostFindings)
+            list.push_back({path, message});
+        else
+            ++omitted;
+    }
 };
 
 /// Checks whether readers take every value of an exchange document of either kind without loss, and whether it keeps

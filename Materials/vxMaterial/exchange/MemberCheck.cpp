@@ -92,12 +92,12 @@ const char* fallbackName(Conversion conversion)
 
 void MemberCheck::find(const std::string& path, const std::string& message)
 {
-    m_report.findings.push_back({path, message});
+    m_report.find(path, message);
 }
 
 void MemberCheck::note(const std::string& path, const std::string& message)
 {
-    m_report.notes.push_back({path, message});
+    m_report.note(path, message);
 }
 
 bool MemberCheck::checkValue(const Json::Value& parent, const char* key, Conversion conversion,

@@ -441,4 +441,17 @@ TEST(ExchangeImport, NumbersMaterialsFromOneWithoutDoubtsIfTheCallerRenumbersThe
     EXPECT_TRUE(imported.doubts.empty()) << imported.doubts.front();
 }
 
+TEST(ExchangeImport, ListsOnlyTheFirstDoubtsAboutManyMaterials)
+{
+    std::string materials;
+    for (int i = 0; i < 600; ++i)
+        materials += "{},";
+    const ImportedMaterials imported = importExchange(R"({"proj_type": 2, "material": [)" + materials + "{}]}");
+    EXPECT_THAT(imported.materials, SizeIs(601));
+    // Each material lacks a name and a number.
+    ASSERT_THAT(imported.doubts, SizeIs(1001));
+    EXPECT_THAT(imported.doubts[999], HasSubstr("material 500 "));
+    EXPECT_EQ(imported.doubts.back(), "Further doubts are not listed: 202.");
+}
+
 } // namespace

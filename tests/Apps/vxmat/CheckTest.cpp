@@ -130,4 +130,46 @@ TEST(Check, PrintsDoubtsAsJson)
     EXPECT_EQ(doubts[0]["remedy"], "206900 MPa is usual for steel: multiply by 1e6");
 }
 
+/// Returns a document with this element `count` times as material.
+std::string documentOf(const std::string& material, int count)
+{
+    std::string materials;
+    for (int i = 0; i < count; ++i)
+        materials += (i == 0 ? "" : ",") + material;
+    return R"({"proj_type": 2, "material": [)" + materials + "]}";
+}
+
+TEST(Check, ListsOnlyTheFirstErrorsAndNotesAndCountsTheOthers)
+{
+    // Two errors and one note for each.
+    const Outcome run = vxmat({"check", "-"}, documentOf("{}", 1100));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 1000);
+    EXPECT_THAT(run.out, testing::EndsWith("-: $.material[499].mat_name: is missing and read as the empty text\n"));
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1002);
+    EXPECT_THAT(run.err, testing::EndsWith("vxmat: -: note: further errors are not listed: 1200\n"
+                                           "vxmat: -: note: further notes are not listed: 100\n"));
+    const Outcome json = vxmat({"check", "-", "--json"}, documentOf("{}", 1100));
+    const Json::Value document = vxjson::readJsonText(json.out).document;
+    EXPECT_EQ(document["findings"].size(), 1000U);
+    EXPECT_EQ(document["notes"].size(), 1000U);
+    EXPECT_EQ(document["omitted"]["findings"], 1200);
+    EXPECT_EQ(document["omitted"]["notes"], 100);
+    EXPECT_EQ(document["omitted"]["doubts"], 0);
+}
+
+TEST(Check, ListsOnlyTheFirstDoubtsAndCountsTheOthers)
+{
+    std::string materials;
+    for (int i = 1; i <= 1003; ++i)
+        materials += R"({"mat_id": )" + std::to_string(i) +
+                     R"(, "mat_name": "m", "Props": [{"prop_type": 4, "prop_key": "rho", "prop_name": "Density", )"
+                     R"("prop_value": 1e9}]})" +
+                     (i == 1003 ? "" : ",");
+    const Outcome run = vxmat({"check", "-"}, R"({"proj_type": 2, "material": [)" + materials + "]}");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 1000);
+    EXPECT_EQ(run.err, "vxmat: -: note: further doubts are not listed: 3\n");
+}
+
 } // namespace

@@ -67,6 +67,35 @@ TEST_F(Pictures, AreGreyIconsWhereDisabled)
     EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
 }
 
+/// Returns how much an icon differs from its ground, over all pixels.
+int strengthOn(const QColor& ground, QIcon::Mode mode)
+{
+    QImage image(32, 32, QImage::Format_RGB32);
+    image.fill(ground);
+    QPainter painter(&image);
+    PictureFactory::getIcon(QStringLiteral("kelta_paste")).paint(&painter, image.rect(), Qt::AlignCenter, mode);
+    painter.end();
+    int strength = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            strength += std::abs(qGray(image.pixel(x, y)) - qGray(ground.rgb()));
+    return strength;
+}
+
+TEST_F(Pictures, AreMuchPalerWhereDisabledOnLightAndOnDarkWindows)
+{
+    const QPalette before = QApplication::palette();
+    for (const QColor& ground : {QColor(0xef, 0xf0, 0xf1), QColor(0x23, 0x26, 0x29)}) {
+        QPalette colors = before;
+        colors.setColor(QPalette::Window, ground);
+        QApplication::setPalette(colors);
+        const int enabled = strengthOn(ground, QIcon::Normal);
+        EXPECT_LT(strengthOn(ground, QIcon::Disabled), enabled / 2);
+        EXPECT_GT(strengthOn(ground, QIcon::Disabled), enabled / 5) << "it remains visible";
+    }
+    QApplication::setPalette(before);
+}
+
 /// Returns the brightness of the most opaque pixel in the middle row of a picture.
 int brightnessOf(const QImage& picture)
 {

@@ -1,6 +1,9 @@
 #include "GuiTesting.h"
 
+#include <QHBoxLayout>
 #include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QSet>
@@ -8,6 +11,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -99,6 +103,84 @@ TEST(HostStyle, DrawsTheCloseButtonsOfTabsVisiblyInEveryColourScheme)
 {
     EXPECT_GT(contrastOfCloseButton(QColor(0x23, 0x26, 0x29), QColor(0xef, 0xf0, 0xf1)), 100);
     EXPECT_GT(contrastOfCloseButton(QColor(0xef, 0xf0, 0xf1), QColor(0x23, 0x26, 0x29)), 100);
+}
+
+QPalette paletteOf(const QColor& ground, const QColor& text)
+{
+    QPalette colors = QApplication::style()->standardPalette();
+    for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::Button})
+        colors.setColor(role, ground);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        colors.setColor(role, text);
+    return colors;
+}
+
+const std::vector<QPalette>& lightAndDark()
+{
+    static const std::vector<QPalette> palettes{paletteOf(Qt::white, Qt::black),
+                                                paletteOf(QColor(0x23, 0x26, 0x29), QColor(0xef, 0xf0, 0xf1))};
+    return palettes;
+}
+
+int distance(const QColor& one, const QColor& other)
+{
+    return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
+           std::abs(one.blue() - other.blue());
+}
+
+/// Returns how much the selected row differs from the ground below it.
+int strengthOfSelection(QListWidget& list)
+{
+    const QRect row = list.visualItemRect(list.currentItem());
+    const QImage picture = list.viewport()->grab().toImage();
+    return distance(picture.pixelColor(row.right() - 5, row.center().y()),
+                    picture.pixelColor(row.right() - 5, picture.height() - 2));
+}
+
+TEST(HostStyle, DrawsASelectionPalerWhereTheKeyboardDoesNotAct)
+{
+    for (const QPalette& colors : lightAndDark()) {
+        QWidget window;
+        window.setPalette(colors);
+        QHBoxLayout layout(&window);
+        std::vector<QListWidget*> lists;
+        for (int i = 0; i < 2; ++i) {
+            lists.push_back(new QListWidget);
+            lists.back()->addItems({"a", "b"});
+            lists.back()->setCurrentRow(0);
+            layout.addWidget(lists.back());
+        }
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        for (const std::size_t focused : {0U, 1U}) {
+            lists.at(focused)->setFocus();
+            const int strong = strengthOfSelection(*lists.at(focused));
+            const int pale = strengthOfSelection(*lists.at(1 - focused));
+            EXPECT_GT(strong, 2 * pale);
+            EXPECT_GT(pale, 40) << "the selection remains visible";
+        }
+        // The editor of a cell belongs to the view.
+        QListWidgetItem* const edited = lists[0]->item(1);
+        edited->setFlags(edited->flags() | Qt::ItemIsEditable);
+        lists[0]->openPersistentEditor(edited);
+        lists[0]->viewport()->findChild<QLineEdit*>()->setFocus();
+        EXPECT_GT(strengthOfSelection(*lists[0]), 2 * strengthOfSelection(*lists[1]));
+    }
+}
+
+TEST(HostStyle, DrawsEmptyCheckBoxesVisiblyInEveryColourScheme)
+{
+    for (const QPalette& colors : lightAndDark()) {
+        QListWidget list;
+        list.setPalette(colors);
+        list.setFrameShape(QFrame::NoFrame);
+        auto* const item = new QListWidgetItem(QString(), &list);
+        item->setCheckState(Qt::Unchecked);
+        list.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+        EXPECT_GT(contrast(list.viewport()->grab().toImage()), 55);
+    }
 }
 
 } // namespace

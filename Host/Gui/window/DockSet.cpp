@@ -39,6 +39,14 @@ void shrinkToOneLine(QWidget& content)
         content.setMinimumSize(characters * font.averageCharWidth(), lines * font.lineSpacing());
 }
 
+/// Returns whether a dock beside the documents would leave them no room.
+bool isTooWideFor(const QMainWindow& window, DockArea area)
+{
+    constexpr int charactersOfThreeColumns = 80;
+    return area == DockArea::Right &&
+           window.width() < charactersOfThreeColumns * window.fontMetrics().averageCharWidth();
+}
+
 QString nameOf(const DockEntry& entry)
 {
     return QString::fromStdString(entry.name);
@@ -87,7 +95,7 @@ void DockSet::add(const DockEntry& entry)
     if (m_window.restoreDockWidget(dock))
         return;
     m_window.addDockWidget(areaOf(entry.area), dock);
-    if (entry.visibility == DockVisibility::HiddenAtFirst)
+    if (entry.visibility == DockVisibility::HiddenAtFirst || isTooWideFor(m_window, entry.area))
         dock->hide();
     else if (m_window.isVisible())
         dock->show();

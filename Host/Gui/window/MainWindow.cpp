@@ -183,6 +183,10 @@ void MainWindow::close_current_window()
 void MainWindow::closeAllWindows()
 {
     m_documents->closeAllSubWindows();
+    // The user has kept this editor open; commands then act on its object.
+    const MDIWindow* const kept = get_active_mdi_window();
+    if (kept != nullptr && kept->getEditedObject() != nullptr)
+        m_selection.setSelection({}, {kept->getEditedObject()});
 }
 
 void MainWindow::tileWindows()
@@ -337,10 +341,12 @@ QMenu* MainWindow::createPopupMenu()
 
 void MainWindow::resizeWithDocks(const QSize& size)
 {
+    // In a small window the labels in the explorer are more important than the proportion.
     constexpr int widest = 290;
+    const int legible = std::min(22 * fontMetrics().averageCharWidth(), size.width() * 2 / 5);
     resize(size);
     resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
-    resizeDocks({m_docks->find(explorerDock)}, {std::min(widest, size.width() / 4)}, Qt::Horizontal);
+    resizeDocks({m_docks->find(explorerDock)}, {std::min(widest, std::max(legible, size.width() / 4))}, Qt::Horizontal);
     resizeDocks({m_docks->find(messagesDock)}, {std::min(110, size.height() / 6)}, Qt::Vertical);
 }
 

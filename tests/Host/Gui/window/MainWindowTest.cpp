@@ -275,6 +275,36 @@ protected:
     void closeEvent(QCloseEvent* event) override { event->ignore(); }
 };
 
+TEST_F(MainWindowTest, SelectsTheObjectOfADocumentThatRefusesToCloseWithTheOthers)
+{
+    vxtest::TestProject& project = makeProject();
+    Gui::GuiProject& side = *Gui::GuiApplication::Instance->get_project(&project);
+    vxtest::TestObject& kept = addObject(project, "Kept");
+    vxtest::TestObject& other = addObject(project, "Other");
+    auto* const stubborn = new Stubborn;
+    auto* const willing = new MDIWindow(nullptr, nullptr);
+    window->add_mdi_window(stubborn);
+    window->add_mdi_window(willing);
+    stubborn->editObject(side, kept);
+    willing->editObject(side, other);
+    select({&other});
+    window->closeAllWindows();
+    EXPECT_EQ(window->get_active_mdi_window(), stubborn);
+    EXPECT_TRUE(selection().is_selected(&kept, nullptr));
+    EXPECT_FALSE(selection().is_selected(&other, nullptr));
+}
+
+TEST_F(MainWindowTest, GivesTheExplorerRoomForLabelsOnASmallScreen)
+{
+    for (const QSize& size : {QSize(460, 315), QSize(920, 630)}) {
+        window->resizeWithDocks(size);
+        QCoreApplication::processEvents();
+        const int letters = window->getProjectExplorer().viewport()->width() / window->fontMetrics().averageCharWidth();
+        EXPECT_GE(letters, 20) << size.width();
+        EXPECT_LE(window->getProjectExplorer().width(), window->width() * 2 / 5);
+    }
+}
+
 TEST_F(MainWindowTest, KeepsADocumentThatRefusesToClose)
 {
     window->add_mdi_window(new Stubborn);

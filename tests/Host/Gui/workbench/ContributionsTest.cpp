@@ -153,6 +153,16 @@ TEST_F(Contributed, DocksAppearAndAreShownAndHiddenFromView)
     EXPECT_TRUE(dock("Gauges")->isVisible());
 }
 
+TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstInANarrowWindow)
+{
+    window->resizeWithDocks({500, 310}); // a screen of 1024 x 700 at 200 %
+    contributions.addDock(dockEntry("Gauges", "All gauges", Gui::DockVisibility::ShownAtFirst));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Gauges") != nullptr; }));
+    EXPECT_FALSE(dock("Gauges")->isVisible());
+    EXPECT_TRUE(run("Dock_Gauges"));
+    EXPECT_TRUE(dock("Gauges")->isVisible());
+}
+
 TEST_F(Contributed, DocksThatAreHiddenAtFirstAreShownWhenAWorkbenchWantsThem)
 {
     contributions.addDock(dockEntry("NoSuchDock", "Wanted by the test workbench", Gui::DockVisibility::HiddenAtFirst));

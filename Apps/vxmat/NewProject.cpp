@@ -8,7 +8,7 @@
 
 #include "projectfile/ExchangeImport.h"
 #include "vxMaterial/json/Utf8.h"
-#include "vxUnits/Plausibility.h"
+#include "vxUnits/SystemFit.h"
 
 #include <QFileInfo>
 
@@ -76,23 +76,45 @@ void write(const std::string& path, std::vector<projectfile::ImportedMaterial> m
         writeProjectFile(path, text, existing);
 }
 
-/// Converts materials from the given units. Returns notes about numbers that stay unchanged, and about materials that seem
-/// to be in other units.
-std::vector<std::string> convert(std::vector<projectfile::ImportedMaterial>& materials, const ChosenUnits& units,
-                                 const std::string& document)
+using ImportedMaterials = std::vector<projectfile::ImportedMaterial>;
+
+std::string noteOnSystem(const std::string& subject, const std::string& fitting, const vxUnits::UnitSystem& assumed)
+{
+    return "note: " + subject + ": the numbers look like " + fitting + ", not " + assumed.text() +
+           "; --units gives the unit system of the document";
+}
+
+std::string titleOf(const projectfile::ImportedMaterial& imported, const std::string& document)
+{
+    return document + ": " + std::to_string(imported.objectId) + " " + imported.label;
+}
+
+/// Returns notes about numbers that look like another system than the assumed one: one note if this system explains most
+/// doubts about all materials, otherwise one for each such material.
+std::vector<std::string> findOtherSystems(const ImportedMaterials& materials, const vxUnits::UnitSystem& assumed,
+                                          const std::string& document)
+{
+    std::vector<const vxMat::MaterialBase*> all;
+    for (const projectfile::ImportedMaterial& imported : materials)
+        all.push_back(imported.material.get());
+    if (const std::string fitting = vxUnits::betterFittingSystem(all, assumed); !fitting.empty())
+        return {noteOnSystem(document, fitting, assumed)};
+    std::vector<std::string> notes;
+    for (const projectfile::ImportedMaterial& imported : materials) {
+        const std::string fitting = vxUnits::betterFittingSystem({imported.material.get()}, assumed);
+        if (!fitting.empty())
+            notes.push_back(noteOnSystem(titleOf(imported, document), fitting, assumed));
+    }
+    return notes;
+}
+
+/// Converts materials from the given units. Returns notes about numbers that stay unchanged.
+std::vector<std::string> convert(ImportedMaterials& materials, const ChosenUnits& units, const std::string& document)
 {
     std::vector<std::string> notes;
-    for (projectfile::ImportedMaterial& imported : materials) {
-        const std::string title =
-            "note: " + document + ": " + std::to_string(imported.objectId) + " " + imported.label + ": ";
+    for (projectfile::ImportedMaterial& imported : materials)
         if (const std::string note = units.revert(*imported.material); !note.empty())
-            notes.push_back(title + note);
-        if (const std::string system = vxUnits::fittingSystem(*imported.material); !system.empty())
-            notes.push_back(std::string(title)
-                                .append("the values look like ")
-                                .append(system)
-                                .append("; --units gives the unit system of the document"));
-    }
+            notes.push_back("note: " + titleOf(imported, document) + ": " + note);
     return notes;
 }
 
@@ -139,7 +161,9 @@ Answer importDocument(const std::string& document, const std::string& path, Exis
         projectfile::ImportedMaterials imported = projectfile::importExchange(text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
-        notes = convert(imported.materials, units, document);
+        notes = findOtherSystems(imported.materials, units.system(), document);
+        for (std::string& note : convert(imported.materials, units, document))
+            notes.push_back(std::move(note));
         write(path, std::move(imported.materials), existing, answer);
     } catch (const projectfile::ContentError& error) {
         throw Failure(document + ": " + error.what());

@@ -168,16 +168,43 @@ TEST(ChosenUnits, OfAnImportedDocumentAreConvertedToThoseOfTheCatalogue)
     EXPECT_EQ(vxmat({"diff", project, same}).out, "");
 }
 
-TEST(ChosenUnits, OfAnImportedDocumentAreNamedIfTheValuesLookLikeOthers)
+TEST(ChosenUnits, OfAnImportedDocumentAreNamedIfTheNumbersLookLikeOthers)
 {
     const Folder folder;
     const std::string document = folder.path("m.json");
+    const std::pair<std::vector<std::string>, std::vector<std::string>> cases[] = {
+        {{"--units", "mm-t-s"}, {}},
+        {{}, {"--units", "mm-t-s"}},
+        {{"--units", "in-lbf-s"}, {"--units", "cm-g-s"}},
+    };
+    const char* const notes[] = {"look like mm-t-s, not SI", "look like SI, not mm-t-s",
+                                 "look like in-lbf-s, not cm-g-s"};
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        std::vector<std::string> write{"export", "Structural Steel=3", "Water", "-o", document};
+        std::vector<std::string> read{"import", document, "--force", "-o", folder.path("p.vxmat")};
+        write.insert(write.end(), cases[i].first.begin(), cases[i].first.end());
+        read.insert(read.end(), cases[i].second.begin(), cases[i].second.end());
+        ASSERT_EQ(vxmat(write).status, 0);
+        const Outcome run = vxmat(read);
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.err, "vxmat: note: " + document + ": the numbers " + notes[i] +
+                               "; --units gives the unit system of the document\n");
+    }
+}
+
+TEST(ChosenUnits, OfAnImportedDocumentAreNamedForEachMaterialThatDiffersFromTheOthers)
+{
+    const Folder folder;
+    const std::string document = folder.path("m.json");
+    const std::string project = folder.path("p.vxmat");
     ASSERT_EQ(vxmat({"export", "Structural Steel=3", "--units", "mm-t-s", "-o", document}).status, 0);
-    const Outcome run = vxmat({"import", document, "-o", folder.path("p.vxmat")});
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.err, "vxmat: note: " + document +
-                           ": 3 Structural Steel: the values look like mm-t-s; --units gives the unit system of the "
-                           "document\n");
+    ASSERT_EQ(vxmat({"import", document, "-o", project}).status, 0);
+    ASSERT_EQ(vxmat({"export", project, "Water", "Structural Steel=5", "-o", document}).status, 0);
+    const Outcome run = vxmat({"import", document, "--force", "-o", project});
+    EXPECT_EQ(run.err,
+              "vxmat: note: " + document +
+                  ": 3 Structural Steel: the numbers look like mm-t-s, not SI; --units gives the unit system of "
+                  "the document\n");
 }
 
 TEST(ChosenUnits, AreRefusedIfTheyAreNoSystem)

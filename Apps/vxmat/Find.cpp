@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace commandline {
@@ -33,7 +34,7 @@ std::size_t characterAt(std::string_view text, std::size_t byte)
     return static_cast<std::size_t>(std::count_if(before.begin(), before.end(), isFirst)) + 1;
 }
 
-vxUnits::Filter readExpression(const std::string& expression, const UnitSystem& system)
+vxUnits::FilterReading readExpression(const std::string& expression, const UnitSystem& system)
 {
     vxUnits::ReadingContext context;
     context.plainNumbers = &system;
@@ -41,7 +42,7 @@ vxUnits::Filter readExpression(const std::string& expression, const UnitSystem& 
     if (!reading)
         throw Failure("the expression, character " + std::to_string(characterAt(expression, reading.position)) + ": " +
                       reading.failure.text());
-    return *std::move(reading.filter);
+    return reading;
 }
 
 /// A found material, which its source owns.
@@ -55,9 +56,14 @@ struct FoundMaterial
 class Search
 {
 public:
-    Search(const std::string& expression, const UnitSystem& system)
-        : m_system(system), m_filter(readExpression(expression, system))
-    {}
+    /// Plain numbers of the expression are in `typed`; printed numbers are in `shown`.
+    Search(const std::string& expression, const UnitSystem& typed, UnitSystem shown) : m_system(std::move(shown))
+    {
+        vxUnits::FilterReading reading = readExpression(expression, typed);
+        m_filter = *std::move(reading.filter);
+        if (reading.remark)
+            m_note = "note: " + reading.remark->text();
+    }
 
     void add(std::optional<std::uint32_t> number, const std::string& label, const vxMat::MaterialBase& material)
     {
@@ -67,6 +73,8 @@ public:
     }
 
     const std::vector<FoundMaterial>& found() const { return m_found; }
+    /// Returns a note about an expression that was probably meant in another way; empty if there is none.
+    const std::string& note() const { return m_note; }
     std::string text() const;
     Json::Value json() const;
 
@@ -86,8 +94,9 @@ private:
     std::string cell(const FilterQuantity& quantity, const FoundMaterial& material) const;
     Json::Value json(const FilterQuantity& quantity, const FoundMaterial& material) const;
 
-    const UnitSystem& m_system;
+    UnitSystem m_system;
     vxUnits::Filter m_filter;
+    std::string m_note;
     std::vector<FoundMaterial> m_found;
 };
 
@@ -229,24 +238,25 @@ void addLibrary(Search& search)
 
 Answer findMaterials(const std::string& source, const std::string& expression, Form form, const ChosenUnits& units)
 {
-    Search search(expression, units.system());
     Answer answer;
     const bool isLibrary = source == librarySource;
-    if (isLibrary) {
+    const MaterialFile file = isLibrary ? MaterialFile() : readMaterials(source);
+    answer.messages = file.doubts;
+    const ChosenUnits shown = units.orOfProject(file.unitSystem, source, answer.messages);
+    Search search(expression, units.system(), shown.system());
+    if (!search.note().empty())
+        answer.messages.push_back(search.note());
+    if (isLibrary)
         addLibrary(search);
-    } else {
-        const MaterialFile file = readMaterials(source);
-        answer.messages = file.doubts;
-        for (const FileMaterial& material : file.materials)
-            search.add(material.number, material.label, *material.entry->material);
-    }
+    for (const FileMaterial& material : file.materials)
+        search.add(material.number, material.label, *material.entry->material);
     answer.status = search.found().empty() ? Status::Findings : Status::Clean;
     answer.text = search.text();
     if (form == Form::Json) {
         Json::Value document;
         document["file"] = isLibrary ? Json::Value() : Json::Value(source);
         document["expression"] = expression;
-        document["units"] = units.system().text();
+        document["units"] = shown.system().text();
         document["materials"] = search.json();
         answer.text = toJsonText(document);
     }

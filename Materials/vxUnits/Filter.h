@@ -23,7 +23,8 @@
 /// `and`, `or`, `not` and parentheses combine conditions; `not` binds before `and`, and `and` before `or`. Conditions
 /// beside each other must all be satisfied. Upper and lower case are equal. A label with blanks or signs is put in quotes.
 ///
-/// A quantity is a name, key or id of the catalogue, or the name or symbol of a derived quantity. A symbol that is typed
+/// A quantity is a name, key or id of the catalogue, the name or symbol of a derived quantity, or a name in the language of
+/// the user. A symbol that is typed
 /// exactly wins, so that "g" and "G" differ. The comparisons are `<`, `<=`, `>`, `>=`, `=` and `!=`; "E 100..200 GPa" is a
 /// range with both ends. A list matches if one of its numbers does. A material without the quantity matches no comparison.
 namespace vxUnits {
@@ -45,6 +46,17 @@ struct FilterQuantity
         return one.id == other.id && one.derived == other.derived;
     }
 };
+
+/// A name by which filters take a quantity besides those that they know.
+struct FilterName
+{
+    FilterQuantity quantity;
+    std::string text; ///< UTF-8
+};
+
+/// The names of quantities in the language of a user, which messages, suggestions and completions then use. English names,
+/// keys and symbols win against them.
+using FilterNames = std::vector<FilterName>;
 
 /// A material as filters look at it. Made once and matched many times; to be made again if the material changes. A filter
 /// computes the derived values when it first needs them, so that a subject must not be used in several threads at once.
@@ -147,6 +159,10 @@ struct FilterReading
     std::size_t position = 0; ///< of this part, in bytes
     std::size_t length = 0;   ///< of this part, in bytes; 0 if something is missing at the position
 
+    /// Says that words of a filter that look like a condition are searched in labels, and suggests an expression. Absent if
+    /// no words do. A symbol of one letter beside a plain number is taken to be a label: "A 36".
+    std::optional<Message> remark;
+
     explicit operator bool() const { return filter.has_value(); }
 };
 
@@ -155,6 +171,10 @@ inline constexpr std::size_t deepestFilter = 100;
 
 /// Reads a filter expression; an empty text is a filter that matches everything. Numbers without a unit are in the system
 /// of the context, SI if it has none. Takes linear time in the length of the text. Safe to call from several threads.
-VXUNITS_EXPORT FilterReading readFilter(std::string_view text, const ReadingContext& context = {});
+VXUNITS_EXPORT FilterReading readFilter(std::string_view text, const ReadingContext& context = {},
+                                        const FilterNames& names = {});
+
+/// Returns the English name of the quantity of the catalogue that a text probably means; empty if none is near.
+VXUNITS_EXPORT std::string nearestQuantityName(std::string_view typed);
 
 } // namespace vxUnits

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vxUnits/Filter.h"
 #include "vxUnits/UnitsExport.h"
 
 #include <cstddef>
@@ -31,7 +32,9 @@ struct Completion
 
 /// Returns the texts that complete a filter expression at the cursor, the likely ones first: quantities, comparisons, units
 /// of the dimension of the quantity, words of the quantity, keywords. Empty if nothing fits, for example in quotes. Takes
-/// linear time in the length of the text. `cursor` is in bytes.
-VXUNITS_EXPORT std::vector<Completion> completionsFor(std::string_view text, std::size_t cursor);
+/// linear time in the length of the text. `cursor` is in bytes. Quantities with an additional name are offered by it, and by
+/// their English name if only that fits.
+VXUNITS_EXPORT std::vector<Completion> completionsFor(std::string_view text, std::size_t cursor,
+                                                      const FilterNames& names = {});
 
 } // namespace vxUnits

@@ -112,7 +112,8 @@ Dimension dimensionOfQuantity(const FilterQuantity& quantity)
 class Completer
 {
 public:
-    explicit Completer(std::string_view text) : m_text(text), m_tokens(splitFilter(text))
+    Completer(std::string_view text, const FilterNames& names)
+        : m_text(text), m_names(names), m_tokens(splitFilter(text))
     {
         m_end = m_tokens.size() - 1;
         m_isTyping = m_end > 0 && m_tokens[m_end - 1].end == m_text.size();
@@ -177,7 +178,7 @@ private:
 
     void completeValue(std::size_t comparison)
     {
-        const NamedWords named = quantityAtEnd(m_text, m_tokens, firstOfWords(comparison), comparison);
+        const NamedWords named = quantityAtEnd(m_names, m_text, m_tokens, firstOfWords(comparison), comparison);
         if (named.count == 0 || (comparison + 1 == m_end && m_isTyping))
             return;
         const std::size_t begin = comparison + 1 < m_end ? m_tokens[comparison + 1].begin : m_text.size();
@@ -259,12 +260,12 @@ private:
                 addKeywords(m_text.size(), {"and", "or"});
             return;
         }
-        if (const RangeWords range = findRange(m_text, m_tokens, first, m_end); range.value != 0)
+        if (const RangeWords range = findRange(m_names, m_text, m_tokens, first, m_end); range.value != 0)
             return completeNumber(range.quantity, m_tokens[range.value].begin);
-        const NamedWords named = quantityAtEnd(m_text, m_tokens, first, m_end);
+        const NamedWords named = quantityAtEnd(m_names, m_text, m_tokens, first, m_end);
         if (named.count > 0 && !m_isTyping)
             addAfterQuantity(named.quantity, isAfterHas);
-        for (std::size_t count = std::min(m_end - first, longestQuantityName()); count > 0 && m_all.empty(); --count)
+        for (std::size_t count = std::min(m_end - first, m_names.longest()); count > 0 && m_all.empty(); --count)
             addQuantities(m_tokens[m_end - count].begin);
         if (!m_isTyping || isAfterHas)
             return;
@@ -302,21 +303,24 @@ private:
             if (std::find(offered.begin(), offered.end(), name.quantity) != offered.end())
                 return;
             offered.push_back(name.quantity);
-            add(begin, name.text, CompletionKind::Quantity, name.isSymbol ? name.quantity.name() : "");
+            add(begin, name.text, CompletionKind::Quantity, name.isSymbol ? m_names.nameOf(name.quantity) : "");
         };
-        for (const QuantityName& name : quantityNames())
-            if (!name.isSymbol && begins(name.folded, typed))
-                offer(name);
-        for (const QuantityName& name : quantityNames())
+        for (const auto* const names : {&m_names.added(), &englishNames()})
+            for (const QuantityName& name : *names)
+                if (!name.isSymbol && begins(name.folded, typed))
+                    offer(name);
+        for (const QuantityName& name : englishNames())
             if (name.isSymbol && !typed.empty() && !isDigit(name.text.front()) && begins(name.folded, typed))
                 offer(name);
-        for (const QuantityName& name : quantityNames())
-            if (!name.isSymbol && typed.size() >= fewestOfLaterWord &&
-                name.folded.find(" " + typed) != std::string::npos)
-                offer(name);
+        for (const auto* const names : {&m_names.added(), &englishNames()})
+            for (const QuantityName& name : *names)
+                if (!name.isSymbol && typed.size() >= fewestOfLaterWord &&
+                    name.folded.find(" " + typed) != std::string::npos)
+                    offer(name);
     }
 
     std::string_view m_text; ///< up to the cursor
+    QuantityNames m_names;
     std::vector<FilterToken> m_tokens;
     std::size_t m_end; ///< the token End
     bool m_isTyping;   ///< whether the cursor touches the last token
@@ -325,9 +329,9 @@ private:
 
 } // namespace
 
-std::vector<Completion> completionsFor(std::string_view text, std::size_t cursor)
+std::vector<Completion> completionsFor(std::string_view text, std::size_t cursor, const FilterNames& names)
 {
-    return Completer(text.substr(0, cursor)).complete();
+    return Completer(text.substr(0, cursor), names).complete();
 }
 
 } // namespace vxUnits

@@ -1,6 +1,7 @@
 #include "filter/FilterParser.h"
 
 #include "filter/FoldedLabel.h"
+#include "filter/MeantExpression.h"
 #include "filter/QuantityNames.h"
 #include "units/Reader.h"
 #include "units/Texts.h"
@@ -103,12 +104,6 @@ bool isUtf8(std::string_view text)
     return true;
 }
 
-bool beginsNumber(std::string_view text)
-{
-    const std::size_t at = text.find_first_not_of("+-.");
-    return at != std::string_view::npos && isDigit(text[at]);
-}
-
 /// Returns the unit system of plain numbers.
 const UnitSystem& systemOf(const ReadingContext& context)
 {
@@ -123,29 +118,36 @@ ReadingTarget targetOf(const DerivedQuantity& derived, const ReadingContext& con
 
 } // namespace
 
-NamedWords quantityAtEnd(std::string_view text, const std::vector<FilterToken>& tokens, std::size_t first,
-                         std::size_t last)
+bool beginsNumber(std::string_view text)
 {
-    for (std::size_t count = std::min(last - first, longestQuantityName()); count > 0; --count) {
+    const std::size_t at = text.find_first_not_of("+-.");
+    return at != std::string_view::npos && isDigit(text[at]);
+}
+
+NamedWords quantityAtEnd(const QuantityNames& names, std::string_view text, const std::vector<FilterToken>& tokens,
+                         std::size_t first, std::size_t last)
+{
+    for (std::size_t count = std::min(last - first, names.longest()); count > 0; --count) {
         const std::size_t begin = tokens[last - count].begin;
-        if (const auto quantity = findQuantityByName(text.substr(begin, tokens[last - 1].end - begin)))
+        if (const auto quantity = names.find(text.substr(begin, tokens[last - 1].end - begin)))
             return {count, *quantity};
     }
     return {};
 }
 
-NamedWords quantityAtStart(std::string_view text, const std::vector<FilterToken>& tokens, std::size_t first,
-                           std::size_t last)
+NamedWords quantityAtStart(const QuantityNames& names, std::string_view text, const std::vector<FilterToken>& tokens,
+                           std::size_t first, std::size_t last)
 {
-    for (std::size_t count = std::min(last - first, longestQuantityName()); count > 0; --count) {
+    for (std::size_t count = std::min(last - first, names.longest()); count > 0; --count) {
         const std::size_t begin = tokens[first].begin;
-        if (const auto quantity = findQuantityByName(text.substr(begin, tokens[first + count - 1].end - begin)))
+        if (const auto quantity = names.find(text.substr(begin, tokens[first + count - 1].end - begin)))
             return {count, *quantity};
     }
     return {};
 }
 
-RangeWords findRange(std::string_view text, const std::vector<FilterToken>& tokens, std::size_t first, std::size_t last)
+RangeWords findRange(const QuantityNames& names, std::string_view text, const std::vector<FilterToken>& tokens,
+                     std::size_t first, std::size_t last)
 {
     if (first == last || tokens[first].kind != Kind::Word)
         return {};
@@ -155,14 +157,16 @@ RangeWords findRange(std::string_view text, const std::vector<FilterToken>& toke
     for (std::size_t i = first + 1; i < last; ++i) {
         if (!beginsNumber(tokens[i].text))
             continue;
-        const NamedWords named = quantityAtEnd(text, tokens, first, i);
+        const NamedWords named = quantityAtEnd(names, text, tokens, first, i);
         if (named.count > 0)
             return {i - named.count, i, named.quantity};
     }
     return {};
 }
 
-FilterParser::FilterParser(std::string_view text, const ReadingContext& context) : m_text(text), m_context(context) {}
+FilterParser::FilterParser(std::string_view text, const ReadingContext& context, const QuantityNames& names)
+    : m_text(text), m_context(context), m_names(names)
+{}
 
 FilterReading FilterParser::read()
 {
@@ -228,14 +232,14 @@ bool FilterParser::readHas()
     if (first == m_next)
         return fail(partOf(has),
                     makeFailure(FaultCode::MalformedFilter, FilterText::QuantityMissingAfter, {std::string(has.text)}));
-    NamedWords named = quantityAtStart(m_text, m_tokens, first, m_next);
+    NamedWords named = quantityAtStart(m_names, m_text, m_tokens, first, m_next);
     if (m_tokens[first].kind == Kind::Quoted)
-        if (const auto quantity = findQuantityByName(m_tokens[first].text))
+        if (const auto quantity = m_names.find(m_tokens[first].text))
             named = {1, *quantity};
     if (named.count == 0) {
         const Part part{m_tokens[first].begin, m_tokens[m_next - 1].end};
         return fail(part, makeFailure(FaultCode::UnknownQuantity, FilterText::UnknownQuantity, {excerpt(textOf(part))},
-                                      nearestQuantityName(textOf(part))));
+                                      m_names.nearest(textOf(part))));
     }
     m_next = first + named.count;
     if (!beginOperand(partOf(has)))
@@ -258,14 +262,14 @@ bool FilterParser::readWords()
         return false;
     if (token().kind != Kind::Comparison)
         return readRangeOrLabel(first, last);
-    NamedWords named = quantityAtEnd(m_text, m_tokens, first, last);
+    NamedWords named = quantityAtEnd(m_names, m_text, m_tokens, first, last);
     if (m_tokens[first].kind == Kind::Quoted)
-        if (const auto quantity = findQuantityByName(m_tokens[first].text))
+        if (const auto quantity = m_names.find(m_tokens[first].text))
             named = {1, *quantity};
     if (named.count == 0)
         return refuseComparison(first, last);
     const std::size_t firstOfName = last - named.count;
-    if (findRange(m_text, m_tokens, first, firstOfName).value != 0)
+    if (findRange(m_names, m_text, m_tokens, first, firstOfName).value != 0)
         return fail(partOf(token()),
                     makeFailure(FaultCode::MalformedFilter, FilterText::TwoComparisons, {std::string(token().text)}));
     if (firstOfName > first) {
@@ -278,7 +282,7 @@ bool FilterParser::readWords()
 
 bool FilterParser::readRangeOrLabel(std::size_t first, std::size_t last)
 {
-    const RangeWords range = findRange(m_text, m_tokens, first, last);
+    const RangeWords range = findRange(m_names, m_text, m_tokens, first, last);
     if (range.value == 0) {
         addLabelTests(first, last);
         return true;
@@ -286,32 +290,47 @@ bool FilterParser::readRangeOrLabel(std::size_t first, std::size_t last)
     addLabelTests(first, range.name);
     m_next = range.value;
     Part value{};
-    return beginOperand(partOf(m_tokens[range.name])) && takeValue(range.quantity.name(), value) &&
+    return beginOperand(partOf(m_tokens[range.name])) && takeValue(m_names.nameOf(range.quantity), value) &&
            addNumberTest(range.quantity, Comparison::Equal, value);
+}
+
+/// Suggests the comparisons of "1 GPa < E < 5 GPa" one after the other.
+bool FilterParser::refuseValueFirst(std::size_t first, std::size_t last)
+{
+    const auto endOfWords = [this](std::size_t at) {
+        while (m_tokens[at].kind == Kind::Word)
+            ++at;
+        return at;
+    };
+    const std::size_t afterSign = m_next + 1;
+    const NamedWords named = quantityAtStart(m_names, m_text, m_tokens, afterSign, endOfWords(afterSign));
+    const Part value{m_tokens[first].begin, m_tokens[last - 1].end};
+    std::size_t end = afterSign + named.count;
+    std::string suggestion;
+    if (named.count > 0) {
+        const std::string name = m_names.nameOf(named.quantity);
+        suggestion = name + " " + spellingOf(mirrored(token().comparison)) + " " + excerpt(textOf(value));
+        const std::size_t lastOfSecond = m_tokens[end].kind == Kind::Comparison ? endOfWords(end + 1) : end;
+        if (lastOfSecond > end + 1) {
+            const Part second{m_tokens[end + 1].begin, m_tokens[lastOfSecond - 1].end};
+            suggestion.append(" and ").append(name).append(" ").append(spellingOf(m_tokens[end].comparison));
+            suggestion.append(" ").append(excerpt(textOf(second)));
+            end = lastOfSecond;
+        }
+    }
+    return fail({value.begin, m_tokens[end - 1].end},
+                makeFailure(FaultCode::MalformedFilter, FilterText::QuantityFirst, {}, suggestion));
 }
 
 bool FilterParser::refuseComparison(std::size_t first, std::size_t last)
 {
-    const FilterToken& sign = token();
-    if (beginsNumber(m_tokens[first].text)) {
-        std::size_t end = m_next + 1;
-        while (m_tokens[end].kind == Kind::Word)
-            ++end;
-        const NamedWords named = quantityAtStart(m_text, m_tokens, m_next + 1, end);
-        const Part value{m_tokens[first].begin, m_tokens[last - 1].end};
-        std::string suggestion;
-        if (named.count > 0)
-            suggestion = std::string(named.quantity.name()) + " " + spellingOf(mirrored(sign.comparison)) + " " +
-                         excerpt(textOf(value));
-        const std::size_t lastToken = m_next + named.count;
-        return fail({value.begin, m_tokens[lastToken].end},
-                    makeFailure(FaultCode::MalformedFilter, FilterText::QuantityFirst, {}, suggestion));
-    }
-    const std::size_t count = std::min(last - first, longestQuantityName());
+    if (beginsNumber(m_tokens[first].text))
+        return refuseValueFirst(first, last);
+    const std::size_t count = std::min(last - first, m_names.longest());
     const FilterToken& lastWord = m_tokens[last - 1];
     for (std::size_t words = count; words > 0; --words) {
         const Part part{m_tokens[last - words].begin, lastWord.end};
-        const std::string nearest = nearestQuantityName(textOf(part));
+        const std::string nearest = m_names.nearest(textOf(part));
         if (!nearest.empty())
             return fail(part, makeFailure(FaultCode::UnknownQuantity, FilterText::UnknownQuantity,
                                           {excerpt(textOf(part))}, nearest));
@@ -326,10 +345,11 @@ bool FilterParser::readComparison(std::size_t firstWord, const FilterQuantity& q
     const QuantityForm form = formOf(quantity);
     const Part comparison{m_tokens[firstWord].begin, sign.end};
     if (form == QuantityForm::Switch)
-        return fail(comparison, makeFailure(FaultCode::TakesNoNumber, FilterText::SwitchHasNoValue, {quantity.name()},
-                                            std::string("has ") + quantity.name()));
+        return fail(comparison, makeFailure(FaultCode::TakesNoNumber, FilterText::SwitchHasNoValue,
+                                            {m_names.nameOf(quantity)}, "has " + m_names.nameOf(quantity)));
     if (form == QuantityForm::Word && !isEquality(sign.comparison))
-        return fail(partOf(sign), makeFailure(FaultCode::TakesNoNumber, FilterText::OnlyEqual, {quantity.name()}, "="));
+        return fail(partOf(sign),
+                    makeFailure(FaultCode::TakesNoNumber, FilterText::OnlyEqual, {m_names.nameOf(quantity)}, "="));
     Part value{};
     if (!takeValue(std::string(sign.text), value))
         return false;
@@ -390,13 +410,12 @@ bool FilterParser::addNumberTest(const FilterQuantity& quantity, Comparison comp
 {
     const bool isCreepFactor = quantity.id == vxMat::PropertyId::CreepModulusA;
     if (isCreepFactor && systemOf(m_context) != UnitSystem::si())
-        return fail(value,
-                    makeFailure(FaultCode::UnitNotKnown, FilterText::CreepInSystem, {std::string(quantity.name())}));
+        return fail(value, makeFailure(FaultCode::UnitNotKnown, FilterText::CreepInSystem, {m_names.nameOf(quantity)}));
     if (textOf(value).find(rangeSign) != std::string_view::npos)
         return addRangeTest(quantity, comparison, value);
     const Result<double> number = readOne(quantity, textOf(value));
     if (!number)
-        return fail(value, number.failure());
+        return refuseValue(quantity, value, number.failure());
     const Interval interval = accepted(comparison, *number);
     Filter::Test test;
     test.kind = Filter::Test::Kind::Number;
@@ -406,6 +425,27 @@ bool FilterParser::addNumberTest(const FilterQuantity& quantity, Comparison comp
     test.isInside = comparison != Comparison::Unequal;
     addTest(std::move(test));
     return true;
+}
+
+/// Suggests "and" before the words behind a value if the unit is not like a known one.
+bool FilterParser::refuseValue(const FilterQuantity& quantity, Part value, Failure failure)
+{
+    if (failure.code != FaultCode::UnknownUnit || !failure.suggestion.empty())
+        return fail(value, std::move(failure));
+    constexpr std::size_t mostWords = 8; // of a value that can be read; so that long texts take linear time
+    const auto first = static_cast<std::size_t>(
+        std::lower_bound(m_tokens.begin(), m_tokens.end(), value.begin,
+                         [](const FilterToken& token, std::size_t place) { return token.begin < place; }) -
+        m_tokens.begin());
+    for (std::size_t last = std::min(first + mostWords, m_next - 1); last > first; --last) {
+        const Part before{value.begin, m_tokens[last - 1].end};
+        const Part rest{m_tokens[last].begin, value.end};
+        if (m_tokens[last].kind != Kind::Word || !readOne(quantity, textOf(before)))
+            continue;
+        return fail(value, makeFailure(FaultCode::UnknownUnit, FilterText::UnitOrCondition, {excerpt(textOf(rest))},
+                                       excerpt(textOf(before)) + " and " + excerpt(textOf(rest))));
+    }
+    return fail(value, std::move(failure));
 }
 
 bool FilterParser::addRangeTest(const FilterQuantity& quantity, Comparison comparison, Part value)
@@ -448,7 +488,7 @@ bool FilterParser::addWordTest(const FilterQuantity& quantity, Comparison compar
                                      [&test](const std::string& word) { return foldName(word) == test.text; });
     if (!isKnown)
         return fail(value, makeFailure(FaultCode::UnknownWord, FilterText::UnknownWord,
-                                       {excerpt(textOf(value)), quantity.name(), joinedWords(words)},
+                                       {excerpt(textOf(value)), m_names.nameOf(quantity), joinedWords(words)},
                                        nearestWord(words, test.text)));
     addTest(std::move(test));
     return true;
@@ -465,6 +505,8 @@ void FilterParser::addHasTest(const FilterQuantity& quantity)
 /// Words beside each other must all occur in the label.
 void FilterParser::addLabelTests(std::size_t first, std::size_t last)
 {
+    if (first < last && m_tokens[first].kind == Kind::Word)
+        m_labelWords.push_back({first, last});
     for (std::size_t i = first; i < last; ++i) {
         if (i > first)
             beginOperand(partOf(m_tokens[i]));
@@ -579,9 +621,17 @@ bool FilterParser::fail(Part part, Failure failure)
     return false;
 }
 
-FilterReading readFilter(std::string_view text, const ReadingContext& context)
+FilterReading readFilter(std::string_view text, const ReadingContext& context, const FilterNames& names)
 {
-    return FilterParser(text, context).read();
+    const QuantityNames all(names);
+    FilterParser parser(text, context, all);
+    FilterReading reading = parser.read();
+    if (!reading || parser.labelWords().empty())
+        return reading;
+    const std::string meant = meantExpression(text, context, all);
+    if (!meant.empty())
+        reading.remark = makeMessage(FilterText::SearchedInLabels, {meant});
+    return reading;
 }
 
 } // namespace vxUnits

@@ -2,6 +2,7 @@
 
 #include "filter/FilterTexts.h"
 #include "filter/FilterTokens.h"
+#include "filter/QuantityNames.h"
 #include "vxUnits/Filter.h"
 
 #include <string>
@@ -19,10 +20,10 @@ struct NamedWords
 
 /// Returns the longest name of a quantity at the end of the words [first, last) of an expression; count is 0 if there is
 /// none. Likewise at their start.
-NamedWords quantityAtEnd(std::string_view text, const std::vector<FilterToken>& tokens, std::size_t first,
-                         std::size_t last);
-NamedWords quantityAtStart(std::string_view text, const std::vector<FilterToken>& tokens, std::size_t first,
-                           std::size_t last);
+NamedWords quantityAtEnd(const QuantityNames& names, std::string_view text, const std::vector<FilterToken>& tokens,
+                         std::size_t first, std::size_t last);
+NamedWords quantityAtStart(const QuantityNames& names, std::string_view text, const std::vector<FilterToken>& tokens,
+                           std::size_t first, std::size_t last);
 
 /// A range without a comparison: "E 100..200 GPa".
 struct RangeWords
@@ -33,15 +34,31 @@ struct RangeWords
 };
 
 /// Returns the first range among the words [first, last) of an expression.
-RangeWords findRange(std::string_view text, const std::vector<FilterToken>& tokens, std::size_t first,
-                     std::size_t last);
+RangeWords findRange(const QuantityNames& names, std::string_view text, const std::vector<FilterToken>& tokens,
+                     std::size_t first, std::size_t last);
+
+/// Returns whether a word begins with a number: "+5", ".5", "100GPa".
+bool beginsNumber(std::string_view text);
+
+/// The words [first, last) of an expression, which are searched in labels.
+struct LabelWords
+{
+    std::size_t first = 0;
+    std::size_t last = 0;
+};
 
 /// Reads a filter expression from the left, with a stack of the operators that are not complete.
 class FilterParser
 {
 public:
-    FilterParser(std::string_view text, const ReadingContext& context);
+    /// `names` must outlive the parser.
+    FilterParser(std::string_view text, const ReadingContext& context, const QuantityNames& names);
     FilterReading read();
+
+    // After read():
+    const std::vector<FilterToken>& tokens() const { return m_tokens; }
+    /// Returns the words that are searched in labels, without those in quotes.
+    const std::vector<LabelWords>& labelWords() const { return m_labelWords; }
 
 private:
     /// An operator or parenthesis whose right side is not complete.
@@ -64,6 +81,8 @@ private:
     bool readComparison(std::size_t firstWord, const FilterQuantity& quantity, const FilterToken& sign);
     bool readRangeOrLabel(std::size_t first, std::size_t last);
     bool refuseComparison(std::size_t first, std::size_t last);
+    bool refuseValueFirst(std::size_t first, std::size_t last);
+    bool refuseValue(const FilterQuantity& quantity, Part value, Failure failure);
     bool finish();
 
     bool takeValue(const std::string& after, Part& value);
@@ -91,6 +110,7 @@ private:
 
     std::string_view m_text;
     ReadingContext m_context;
+    const QuantityNames& m_names;
     std::vector<FilterToken> m_tokens;
     std::size_t m_next = 0;    ///< token
     bool m_isComplete = false; ///< whether an operand comes before
@@ -98,6 +118,7 @@ private:
     std::size_t m_depth = 0; ///< of parentheses and `not`
     Filter m_filter;
     FilterReading m_reading;
+    std::vector<LabelWords> m_labelWords;
 };
 
 } // namespace vxUnits

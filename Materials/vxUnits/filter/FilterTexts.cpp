@@ -12,7 +12,7 @@ constexpr std::array<MessageText, static_cast<std::size_t>(FilterText::Count)> t
     {"filter.condition-missing-after", R"(A condition is missing after "%1".)"},
     {"filter.parenthesis-not-closed", "A parenthesis is not closed."},
     {"filter.parenthesis-not-opened", "A parenthesis is closed but not opened."},
-    {"filter.too-deep", "More than %1 parentheses are inside each other."},
+    {"filter.too-deep", R"(More than %1 parentheses and "not" are inside each other.)"},
     {"filter.quantity-missing-before", R"(A quantity is missing before "%1".)"},
     {"filter.quantity-missing-after", R"(A quantity is missing after "%1".)"},
     {"filter.unknown-quantity", R"(No quantity is called "%1".)"},
@@ -26,14 +26,21 @@ constexpr std::array<MessageText, static_cast<std::size_t>(FilterText::Count)> t
     {"filter.range-end-missing", R"(The range "%1" needs a number on each side of "..".)"},
     {"filter.creep-in-system",
      "The unit of %1 depends on other values of each material; only numbers in SI compare it."},
+    {"filter.unit-or-condition", R"("%1" is not a known unit; write "and" before another condition.)"},
+    {"filter.searched-in-labels", R"(Searched in labels; did you mean "%1"?)"},
 }};
 
 } // namespace
 
 Failure makeFailure(FaultCode code, FilterText text, std::vector<std::string> arguments, std::string suggestion)
 {
+    return {code, makeMessage(text, std::move(arguments)), std::move(suggestion)};
+}
+
+Message makeMessage(FilterText text, std::vector<std::string> arguments)
+{
     const MessageText& one = texts[static_cast<std::size_t>(text)];
-    return {code, {one.id, one.english, std::move(arguments)}, std::move(suggestion)};
+    return {one.id, one.english, std::move(arguments)};
 }
 
 void addFilterTexts(std::vector<MessageText>& collected)

@@ -28,11 +28,15 @@ enum class FilterText : std::size_t
     RangeIsNotCompared,
     RangeEndMissing,
     CreepInSystem,
+    UnitOrCondition,
+    SearchedInLabels,
     Count
 };
 
 Failure makeFailure(FaultCode code, FilterText text, std::vector<std::string> arguments = {},
                     std::string suggestion = {});
+
+Message makeMessage(FilterText text, std::vector<std::string> arguments);
 
 void addFilterTexts(std::vector<MessageText>& collected);
 

@@ -5,7 +5,7 @@
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <utility>
 
 namespace vxUnits {
 
@@ -72,10 +72,10 @@ std::vector<QuantityName> collectNames()
 using NameMap = std::unordered_map<std::string, FilterQuantity>;
 
 /// The first quantity with a name has it.
-NameMap mapNames(std::string QuantityName::*spelling)
+NameMap mapNames(const std::vector<QuantityName>& names, std::string QuantityName::*spelling)
 {
     NameMap map;
-    for (const QuantityName& name : quantityNames())
+    for (const QuantityName& name : names)
         map.emplace(name.*spelling, name.quantity);
     return map;
 }
@@ -87,58 +87,119 @@ bool beginsWord(const std::string& name, const std::string& typed)
     return at != std::string::npos && (at == 0 || name[at - 1] == ' ');
 }
 
+std::size_t mostWords(const std::vector<QuantityName>& names)
+{
+    std::ptrdiff_t blanks = 0;
+    for (const QuantityName& name : names)
+        blanks = std::max(blanks, std::count(name.folded.begin(), name.folded.end(), ' '));
+    return static_cast<std::size_t>(blanks) + 1;
+}
+
+std::optional<FilterQuantity> lookUp(const NameMap& map, const std::string& name)
+{
+    const auto found = map.find(name);
+    return found != map.end() ? std::optional<FilterQuantity>(found->second) : std::nullopt;
+}
+
+/// Collects the name that is nearest to a typed text.
+class NearestName
+{
+public:
+    explicit NearestName(std::string_view typed) : m_typed(foldName(typed.substr(0, mostBytes)))
+    {
+        m_fewest = m_typed.size() / lettersPerError + 1;
+    }
+
+    void compareWith(const std::vector<QuantityName>& names)
+    {
+        constexpr std::size_t fewestLetters = 3; // shorter texts are near to any symbol
+        if (m_typed.size() < fewestLetters)
+            return;
+        for (const QuantityName& name : names) {
+            if (name.folded.size() < fewestLetters)
+                continue;
+            const std::size_t errors =
+                beginsWord(name.folded, m_typed) ? std::size_t(1) : editDistance(m_typed, name.folded);
+            if (errors >= m_fewest)
+                continue;
+            m_fewest = errors;
+            m_nearest = name.text;
+        }
+    }
+
+    std::string text() const { return m_nearest; }
+
+private:
+    static constexpr std::size_t mostBytes = 60;
+    static constexpr std::size_t lettersPerError = 3;
+
+    std::string m_typed;
+    std::size_t m_fewest = 0;
+    std::string m_nearest;
+};
+
 } // namespace
 
-const std::vector<QuantityName>& quantityNames()
+const std::vector<QuantityName>& englishNames()
 {
     static const std::vector<QuantityName> names = collectNames();
     return names;
 }
 
-std::size_t longestQuantityName()
+QuantityNames::QuantityNames(const FilterNames& added)
 {
-    static const std::size_t longest = [] {
-        std::ptrdiff_t blanks = 0;
-        for (const QuantityName& name : quantityNames())
-            blanks = std::max(blanks, std::count(name.folded.begin(), name.folded.end(), ' '));
-        return static_cast<std::size_t>(blanks) + 1;
-    }();
-    return longest;
+    static const std::size_t longestEnglish = mostWords(englishNames());
+    for (const FilterName& name : added)
+        if (std::string folded = foldName(name.text); !folded.empty())
+            m_added.push_back({name.quantity, name.text, std::move(folded), false});
+    m_exact = mapNames(m_added, &QuantityName::text);
+    m_folded = mapNames(m_added, &QuantityName::folded);
+    m_longest = std::max(longestEnglish, mostWords(m_added));
 }
 
-std::optional<FilterQuantity> findQuantityByName(std::string_view name)
+std::string QuantityNames::nameOf(const FilterQuantity& quantity) const
 {
-    static const NameMap exact = mapNames(&QuantityName::text);
-    static const NameMap folded = mapNames(&QuantityName::folded);
+    const auto found = std::find_if(m_added.begin(), m_added.end(),
+                                    [&quantity](const QuantityName& name) { return name.quantity == quantity; });
+    return found != m_added.end() ? found->text : quantity.name();
+}
+
+std::optional<FilterQuantity> QuantityNames::find(std::string_view name) const
+{
+    static const NameMap exact = mapNames(englishNames(), &QuantityName::text);
+    static const NameMap folded = mapNames(englishNames(), &QuantityName::folded);
     constexpr std::size_t longest = 200; // in bytes; no name has as many
     if (name.size() > longest)
         return std::nullopt;
-    if (const auto found = exact.find(std::string(name)); found != exact.end())
-        return found->second;
-    const auto found = folded.find(foldName(name));
-    return found != folded.end() ? std::optional<FilterQuantity>(found->second) : std::nullopt;
+    const std::string text(name);
+    if (const auto found = lookUp(exact, text))
+        return found;
+    if (const auto found = lookUp(m_exact, text))
+        return found;
+    const std::string simple = foldName(name);
+    const auto found = lookUp(folded, simple);
+    return found ? found : lookUp(m_folded, simple);
+}
+
+std::string QuantityNames::nearest(std::string_view typed) const
+{
+    NearestName nearest(typed);
+    nearest.compareWith(m_added);
+    nearest.compareWith(englishNames());
+    return nearest.text();
 }
 
 std::string nearestQuantityName(std::string_view typed)
 {
-    constexpr std::size_t mostBytes = 60;
-    constexpr std::size_t fewestLetters = 3; // shorter texts are near to any symbol
-    constexpr std::size_t lettersPerError = 3;
-    const std::string folded = foldName(typed.substr(0, mostBytes));
-    if (folded.size() < fewestLetters)
-        return {};
-    std::string nearest;
-    std::size_t fewest = folded.size() / lettersPerError + 1;
-    for (const QuantityName& name : quantityNames()) {
-        if (name.folded.size() < fewestLetters)
-            continue;
-        const std::size_t errors = beginsWord(name.folded, folded) ? std::size_t(1) : editDistance(folded, name.folded);
-        if (errors >= fewest)
-            continue;
-        fewest = errors;
-        nearest = name.text;
-    }
-    return nearest;
+    static const std::vector<QuantityName> catalogue = [] {
+        std::vector<QuantityName> names;
+        for (const vxMat::PropertyRecord& record : vxMat::propertyRecords())
+            names.push_back({{record.id, nullptr}, record.name, foldName(record.name), false});
+        return names;
+    }();
+    NearestName nearest(typed);
+    nearest.compareWith(catalogue);
+    return nearest.text();
 }
 
 std::size_t editDistance(std::string_view one, std::string_view other)

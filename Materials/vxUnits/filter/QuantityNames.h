@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vxUnits {
@@ -18,18 +19,40 @@ struct QuantityName
     bool isSymbol = false; ///< whether it is shorter than the name that the user sees
 };
 
-/// Returns all names of all quantities, those of the catalogue first. The first name of each quantity is the one that users
-/// see.
-const std::vector<QuantityName>& quantityNames();
+/// Returns all names that filters know without additional ones, those of the catalogue first. The first name of each quantity
+/// is its English one.
+const std::vector<QuantityName>& englishNames();
 
-/// The most words that a name of a quantity has.
-std::size_t longestQuantityName();
+/// The names of quantities: those that filters know, and additional ones.
+class QuantityNames
+{
+public:
+    explicit QuantityNames(const FilterNames& added);
 
-/// Returns the quantity of a name, key, symbol or id. An exact spelling wins against one that differs in case.
-std::optional<FilterQuantity> findQuantityByName(std::string_view name);
+    /// Returns the additional names.
+    const std::vector<QuantityName>& added() const { return m_added; }
 
-/// Returns the name of a quantity that was probably meant; empty if none is near. Looks at the first 60 bytes.
-std::string nearestQuantityName(std::string_view typed);
+    /// Returns the name that the user sees: the first additional one, otherwise the English one.
+    std::string nameOf(const FilterQuantity& quantity) const;
+
+    /// The most words that a name has.
+    std::size_t longest() const { return m_longest; }
+
+    /// Returns the quantity of a name, key, symbol or id. An exact spelling wins against one that differs in case, and an
+    /// English name against an additional one.
+    std::optional<FilterQuantity> find(std::string_view name) const;
+
+    /// Returns the name of a quantity that was probably meant; empty if none is near. Looks at the first 60 bytes.
+    std::string nearest(std::string_view typed) const;
+
+private:
+    using Map = std::unordered_map<std::string, FilterQuantity>;
+
+    std::vector<QuantityName> m_added;
+    Map m_exact; ///< of the additional names
+    Map m_folded;
+    std::size_t m_longest = 0;
+};
 
 /// Returns the number of letters to add, to remove or to exchange, or to swap with their neighbours, in one text to get the
 /// other. Takes the product of their lengths.

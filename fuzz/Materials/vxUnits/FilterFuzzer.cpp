@@ -65,6 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto reading = vxUnits::readFilter(text, context);
     require(reading || !reading.failure.message.text().empty());
     require(reading.position + reading.length <= text.size());
+    require(!reading.remark || vxUnits::readFilter(reading.remark->arguments.front(), context));
     if (reading && data[0] % systems.size() == 0)
         checkMatches(*reading.filter, std::string(text));
     checkCompletions(text, text.size());

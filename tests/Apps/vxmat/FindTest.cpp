@@ -44,6 +44,22 @@ TEST(Find, ReadsPlainNumbersAndPrintsNumbersInTheUnitsOfTheCommandLine)
                        "Aluminum Alloy  2.7e-09\n");
 }
 
+TEST(Find, PrintsNumbersInTheUnitSystemOfTheProject)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Structural Steel=Frame", "-o", project}).status, 0);
+    ASSERT_EQ(vxmat({"set", project, "--project-units", "mm-t-s"}).status, 0);
+    const Outcome run = vxmat({"find", project, "E = 2e11"});
+    EXPECT_EQ(run.status, 0) << "a plain number is in SI";
+    EXPECT_EQ(run.out, "Number  Name   Young's modulus [MPa] (mm-t-s)\n"
+                       "1       Frame  2e+05\n");
+    const Json::Value json = vxmatJson({"find", project, "E = 2e11", "--json"});
+    EXPECT_EQ(json["units"].asString(), "mm-t-s");
+    EXPECT_EQ(vxmat({"find", project, "E = 2e11", "--units", "SI"}).out, "Number  Name   Young's modulus [Pa] (SI)\n"
+                                                                         "1       Frame  2e+11\n");
+}
+
 TEST(Find, FindsByDerivedValuesWordsAndLists)
 {
     // 200 GPa / (2 * 1.3) = 76.923 GPa
@@ -78,6 +94,17 @@ TEST(Find, SearchesProjectsAndDocumentsAndNamesTheNumbers)
     EXPECT_EQ(json["units"].asString(), "SI");
     EXPECT_EQ(json["materials"][0]["number"].asUInt(), 1U);
     EXPECT_EQ(json["materials"][0]["values"].size(), 0U);
+}
+
+TEST(Find, SuggestsTheConditionThatWordsForLabelsLookLike)
+{
+    const Outcome run = vxmat({"find", "library", "E 200 GPa"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "vxmat: note: Searched in labels; did you mean \"E = 200 GPa\"?\n");
+    const Outcome found = vxmat({"find", "library", "!steel"});
+    EXPECT_EQ(found.status, 1);
+    EXPECT_EQ(found.err, "vxmat: note: Searched in labels; did you mean \"not steel\"?\n");
 }
 
 TEST(Find, HasTheStatusOfFindingsIfNothingIsFound)

@@ -64,8 +64,14 @@ const Refusal refusals[] = {
     {"E > soft", FaultCode::NumberMissing, 4, "soft", "\"soft\" does not begin with a number."},
     {"E > nan", FaultCode::NotFinite, 4, "nan", "\"nan\" is not a finite number."},
     {"E > 1e999", FaultCode::OutOfRange, 4, "1e999", "\"1e999\" is outside the range of numbers, 1e-308 to 1e308."},
-    {"1 GPa < E < 5 GPa", malformed, 0, "1 GPa < E",
+    {"1 GPa < E < 5 GPa", malformed, 0, "1 GPa < E < 5 GPa",
+     "Write the quantity before the value. Did you mean \"Young's modulus > 1 GPa and Young's modulus < 5 GPa\"?"},
+    {"1 GPa < E < ", malformed, 0, "1 GPa < E",
      "Write the quantity before the value. Did you mean \"Young's modulus > 1 GPa\"?"},
+    {"E > 5 steel", FaultCode::UnknownUnit, 4, "5 steel",
+     R"("steel" is not a known unit; write "and" before another condition. Did you mean "5 and steel"?)"},
+    {"E > 5 GPa old steel", FaultCode::UnknownUnit, 4, "5 GPa old steel",
+     R"("old steel" is not a known unit; write "and" before another condition. Did you mean "5 GPa and old steel"?)"},
     {"E > 1 GPa < 5 GPa", malformed, 10, "<", "\"<\" follows a comparison; write \"and\" between two comparisons."},
     {"rho 1..2 nu > 0.3", malformed, 12, ">", "\">\" follows a comparison; write \"and\" between two comparisons."},
     {"E > 1..2 GPa", malformed, 4, "1..2 GPa", "\"1..2 GPa\" is a range; only \"=\" and \"!=\" compare it."},
@@ -99,7 +105,8 @@ TEST(FilterRefusals, SuggestWhatIsTakenInPlaceOfTheFault)
 {
     for (const char* const expression :
          {"densty > 5", "yuongs modulus < 5 GPa and steel", "E > 2,1 GPa", "100 GPa < E", "Yield type = Misses",
-          "Yield type < Mises", "creep = 1", "has creeep and E > 1", "\"steel", "E 1..2 gpa"})
+          "Yield type < Mises", "creep = 1", "1 GPa < E < 5 GPa", "E > 5 steel", "E > 5 GPa old steel",
+          "has creeep and E > 1", "\"steel", "E 1..2 gpa"})
     {
         const FilterReading reading = readFilter(expression);
         ASSERT_FALSE(reading) << expression;
@@ -116,7 +123,7 @@ TEST(FilterRefusals, BoundTheDepth)
     const FilterReading reading = readFilter(nested(vxUnits::deepestFilter + 1));
     ASSERT_FALSE(reading);
     EXPECT_EQ(reading.position, vxUnits::deepestFilter);
-    EXPECT_EQ(reading.failure.text(), "More than 100 parentheses are inside each other.");
+    EXPECT_EQ(reading.failure.text(), R"(More than 100 parentheses and "not" are inside each other.)");
     EXPECT_TRUE(readFilter(nested(60) + " and " + nested(60)));
 }
 

@@ -23,7 +23,8 @@ TEST(HostileFilters, OfAHundredThousandCharactersAreReadOrRefused)
          {"(",       ")",        "not ", "and ",       "E > 1 and ", "E>",       "x",
           "x ",      "1 ",       "1..",  "1.. ",       "\"",         "\"a\" ",   "has ",
           "has E ",  "has x ",   "=",    "E = 1 or (", "\xFF",       "\xE2\x89", "wave speed in a ",
-          "E 1..2 ", "(E > 1) ", "..",   "'",          "- ",         "E > 5 (",  "G > 1 furlong and "})
+          "E 1..2 ", "(E > 1) ", "..",   "'",          "- ",         "E > 5 (",  "G > 1 furlong and ",
+          "E > 5 x "})
     {
         const std::string tail = repeated(part);
         for (const std::string& text : {tail, "E > " + tail, "has " + tail, tail + " > 5"}) {
@@ -64,6 +65,7 @@ TEST(HostileFilters, OfAnyTokensAreReadOrRefusedWithAMessage)
         const auto reading = readFilter(text);
         EXPECT_TRUE(reading || !reading.failure.message.text().empty()) << text;
         EXPECT_LE(reading.position + reading.length, text.size()) << text;
+        EXPECT_TRUE(!reading.remark || readFilter(reading.remark->arguments.front())) << text;
         for (const auto& completion : completionsFor(text, text.size() / 2))
             EXPECT_EQ(completion.begin + completion.length, text.size() / 2) << text;
     }

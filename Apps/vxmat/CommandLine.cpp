@@ -217,7 +217,9 @@ void CommandLine::addSet()
     command->add_option(
         "VALUE", m_setting.value,
         "A number with a unit, or in the unit of the catalogue; a list of numbers; a word; \"on\" for a switch");
-    command->add_option("--project-units", m_setting.projectUnits, "The unit system in which programs show the project")
+    command
+        ->add_option("--project-units", m_setting.projectUnits,
+                     "The unit system in which programs show the project; \"\" removes it")
         ->type_name("SYSTEM");
     command->add_flag("--force", m_force, "Take over a lock that a program on another computer has left");
 }

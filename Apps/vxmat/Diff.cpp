@@ -35,11 +35,19 @@ struct Side
     std::string text;
 };
 
+/// The thing whose data differ.
+enum class Subject
+{
+    Project,
+    Material,
+    Object, ///< of another class
+};
+
 /// One difference between the files.
 struct Difference
 {
-    std::string title;      ///< the label of the material or object, and its number if others have the label too
-    bool isMaterial = true; ///< false for an object of another class
+    std::string title; ///< the label of the material or object, and its number if others have the label too
+    Subject subject = Subject::Material;
     std::optional<std::int32_t> property{}; ///< the slot; absent for a whole material
     std::string quantity{};                 ///< the name of the property
     std::string field{};                    ///< empty if only one file has the material, object or property
@@ -263,6 +271,7 @@ class Comparison
 public:
     Comparison(vxCAE::MaterialSource extent, const ChosenUnits& units) : m_extent(extent), m_units(units) {}
 
+    void compareSettings(const MaterialFile& one, const MaterialFile& other);
     void compare(const Pair<FileMaterial>& pair);
     void compare(const Pair<ObjectRecord>& pair);
 
@@ -302,6 +311,15 @@ void Comparison::add(const char* field, Side one, Side other)
     differences.push_back(std::move(difference));
 }
 
+void Comparison::compareSettings(const MaterialFile& one, const MaterialFile& other)
+{
+    const auto valueOf = [](const std::string& setting) {
+        return setting.empty() ? Json::Value() : Json::Value(setting);
+    };
+    m_place = Difference{"", Subject::Project};
+    compareField("unit system", valueOf(one.unitSystem), valueOf(other.unitSystem));
+}
+
 void Comparison::compare(const Pair<FileMaterial>& pair)
 {
     m_place = Difference{titleOf(pair)};
@@ -317,7 +335,7 @@ void Comparison::compare(const Pair<FileMaterial>& pair)
 
 void Comparison::compare(const Pair<ObjectRecord>& pair)
 {
-    m_place = Difference{titleOf(pair), false};
+    m_place = Difference{titleOf(pair), Subject::Object};
     if (pair.one == nullptr || pair.other == nullptr) {
         add("", sideOf(pair.one != nullptr), sideOf(pair.other != nullptr));
         return;
@@ -426,7 +444,7 @@ void Comparison::compareWhatDocumentsLeaveBehind(const PropertyOf& left, const P
 
 std::string toText(const Difference& difference, const std::string& one, const std::string& other)
 {
-    std::string text = printable(difference.title) + ": ";
+    std::string text = difference.subject == Subject::Project ? "" : printable(difference.title) + ": ";
     if (difference.property)
         text += printable(difference.quantity) + " (" + std::to_string(*difference.property) + "): ";
     if (difference.field.empty())
@@ -437,8 +455,8 @@ std::string toText(const Difference& difference, const std::string& one, const s
 Json::Value toJson(const Difference& difference)
 {
     Json::Value json;
-    json["material"] = difference.isMaterial ? Json::Value(difference.title) : Json::Value();
-    json["object"] = difference.isMaterial ? Json::Value() : Json::Value(difference.title);
+    json["material"] = difference.subject == Subject::Material ? Json::Value(difference.title) : Json::Value();
+    json["object"] = difference.subject == Subject::Object ? Json::Value(difference.title) : Json::Value();
     json["property"] = difference.property ? Json::Value(*difference.property) : Json::Value();
     json["property_name"] = difference.property ? Json::Value(difference.quantity) : Json::Value();
     json["field"] = difference.field.empty() ? Json::Value() : Json::Value(difference.field);
@@ -466,6 +484,8 @@ Answer diffFiles(const std::string& one, const std::string& other, Form form, co
 
     const bool complete = left.source == vxCAE::MaterialSource::Complete && right.source == left.source;
     Comparison comparison(complete ? vxCAE::MaterialSource::Complete : vxCAE::MaterialSource::Document, units);
+    if (complete)
+        comparison.compareSettings(left, right);
     for (const auto& pair : pairUp(left.materials, right.materials))
         comparison.compare(pair);
     if (complete) {

@@ -31,8 +31,6 @@ public:
     std::string unknownNameOrFile(const std::string& name) const;
 
 private:
-    std::vector<std::string> nearest(const std::string& name) const;
-
     vxMat::MatDBManager m_manager;
 };
 

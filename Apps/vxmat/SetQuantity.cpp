@@ -1,11 +1,13 @@
 #include "SetQuantity.h"
 
 #include "ChosenUnits.h"
+#include "Suggestions.h"
 
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyRules.h"
+#include "vxUnits/Filter.h"
 #include "vxUnits/Plausibility.h"
 #include "vxUnits/Reading.h"
 
@@ -35,7 +37,8 @@ std::string lettersOf(std::string_view name)
     return letters;
 }
 
-/// Returns a question for the quantities whose names contain the letters of a text; empty if there are none, or too many.
+/// Returns a question for the quantities whose names contain the letters of a text, or are near to it; empty if there are
+/// none, or too many.
 std::string suggest(const std::string& text)
 {
     constexpr std::size_t mostSuggestions = 6;
@@ -45,12 +48,11 @@ std::string suggest(const std::string& text)
         if (!letters.empty() && lettersOf(record.name).find(letters) != std::string::npos)
             names.emplace_back(record.name);
     }
-    if (names.empty() || names.size() > mostSuggestions)
+    if (names.size() > mostSuggestions)
         return {};
-    std::string question = "did you mean ";
-    for (std::size_t i = 0; i < names.size(); ++i)
-        question.append(i == 0 ? "\"" : i + 1 < names.size() ? ", \"" : " or \"").append(names[i]).append("\"");
-    return question + "?";
+    if (const std::string nearest = vxUnits::nearestQuantityName(text); names.empty() && !nearest.empty())
+        names.push_back(nearest);
+    return didYouMean(names);
 }
 
 const PropertyRecord& findQuantity(const std::string& name)
@@ -65,6 +67,17 @@ const PropertyRecord& findQuantity(const std::string& name)
                   (question.empty() ? R"("; "vxmat catalogue" lists them)" : "\"; " + question));
 }
 
+[[noreturn]] void refuseMaterial(const Setting& setting, const ProjectRecord& project)
+{
+    std::vector<std::string> labels;
+    for (const ObjectRecord& object : project.objects)
+        if (object.material != nullptr)
+            labels.push_back(object.label);
+    const std::string question = didYouMean(nearestNames(setting.material, labels));
+    throw Failure(setting.project + ": no material has the label or number \"" + setting.material + "\"" +
+                  (question.empty() ? question : "; " + question));
+}
+
 /// Finds a material by its label, otherwise by its number.
 ObjectRecord& findMaterial(const Setting& setting, ProjectRecord& project)
 {
@@ -77,11 +90,12 @@ ObjectRecord& findMaterial(const Setting& setting, ProjectRecord& project)
         if (found.empty() && object.material != nullptr && std::to_string(object.objectId) == setting.material)
             found.push_back(&object);
     }
-    if (found.size() == 1)
-        return *found.front();
-    throw Failure(setting.project + ": " +
-                  (found.empty() ? "no material has the label or number \"" + setting.material + "\""
-                                 : "several materials have the label \"" + setting.material + "\"; give the number"));
+    if (found.empty())
+        refuseMaterial(setting, project);
+    if (found.size() > 1)
+        throw Failure(setting.project + ": several materials have the label \"" + setting.material +
+                      "\"; give the number");
+    return *found.front();
 }
 
 [[noreturn]] void refuse(const PropertyRecord& quantity, const std::string& reason)
@@ -180,9 +194,14 @@ void setValue(const Setting& setting, ProjectRecord& project, Answer& answer)
     addDoubts(quantity, material, answer);
 }
 
-/// Records the unit system in which the project is shown.
+/// Records the unit system in which the project is shown, or removes it if the text is empty.
 void setUnits(const std::string& system, ProjectRecord& project, Answer& answer)
 {
+    if (system.empty()) {
+        project.settings.erase(projectfile::unitSystemSetting);
+        answer.text += "unit system: none\n";
+        return;
+    }
     const std::string text = readSystem("--project-units", system).text();
     project.settings[projectfile::unitSystemSetting] = text;
     answer.text += "unit system: " + printable(text) + "\n";

@@ -51,6 +51,26 @@ TEST(Diff, PrintsNothingForEqualFiles)
     }
 }
 
+TEST(Diff, PrintsADifferenceOfTheUnitSystemsOfTwoProjects)
+{
+    const Folder folder;
+    const std::string one = make(folder, "new", {"Air"}, "a.vxmat");
+    const std::string other = make(folder, "new", {"Air"}, "b.vxmat");
+    ASSERT_EQ(vxmat({"set", one, "--project-units", "mm-t-s"}).status, 0);
+    const Outcome run = vxmat({"diff", one, other});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "unit system: \"mm-t-s\" -> none\n");
+    const Outcome json = vxmat({"diff", other, one, "--json"});
+    const Json::Value difference = vxjson::readJsonText(json.out).document["differences"][0];
+    EXPECT_TRUE(difference["material"].isNull());
+    EXPECT_TRUE(difference["object"].isNull());
+    EXPECT_EQ(difference["field"].asString(), "unit system");
+    EXPECT_TRUE(difference["a"].isNull());
+    EXPECT_EQ(difference["b"].asString(), "mm-t-s");
+    const std::string document = make(folder, "export", {one}, "a.json");
+    EXPECT_EQ(vxmat({"diff", one, document}).status, 0) << "a document has no place for it";
+}
+
 TEST(Diff, PrintsOneLineForEachDifferenceOfTwoProjects)
 {
     const Folder folder;

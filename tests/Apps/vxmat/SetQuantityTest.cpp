@@ -113,7 +113,10 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
         {"Frame", "Youngs modulus", "1", "did you mean \"Young's modulus\"?"},
         {"Frame", "modulus", "1", "did you mean \"Young's modulus\", "},
         {"Frame", "weight", "1", "vxmat: no quantity is called \"weight\"; \"vxmat catalogue\" lists them"},
-        {"frame", "E", "1 GPa", "no material has the label or number \"frame\""},
+        {"Frame", "Densty", "1", "vxmat: no quantity is called \"Densty\"; did you mean \"Density\"?"},
+        {"FRAME", "E", "1 GPa", "no material has the label or number \"FRAME\"; did you mean \"Frame\"?"},
+        {"Frme", "E", "1 GPa", "no material has the label or number \"Frme\"; did you mean \"Frame\"?"},
+        {"4711", "E", "1 GPa", "no material has the label or number \"4711\"\n"},
     };
     for (const auto& [material, quantity, value, reason] : cases) {
         const Outcome run = set(material, quantity, value);
@@ -182,6 +185,17 @@ TEST_F(SetQuantity, KeepsWhatTheProjectKeepsBesideAMaterial)
     ASSERT_EQ(set("Pipe", "E", "210 GPa").status, 0);
     ASSERT_EQ(vxmat({"set", file(), "--project-units", "mm-t-s"}).status, 0);
     EXPECT_EQ(projectfile::readProject(vxtest::readText(file())).objects.at(1).settings, before.objects[1].settings);
+}
+
+TEST_F(SetQuantity, RemovesTheUnitSystemOfTheProject)
+{
+    ASSERT_EQ(vxmat({"set", file(), "--project-units", "mm-t-s"}).status, 0);
+    for (int i = 0; i < 2; ++i) {
+        const Outcome run = vxmat({"set", file(), "--project-units", ""});
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.out, "unit system: none\n");
+        EXPECT_TRUE(projectfile::readProject(vxtest::readText(file())).settings.empty());
+    }
 }
 
 TEST_F(SetQuantity, TakesAValueAndAUnitSystemAtOnce)

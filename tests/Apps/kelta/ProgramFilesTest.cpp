@@ -83,8 +83,11 @@ TEST_F(ProgramFiles, ImportDocumentsInTheUnitsOfTheList)
     EXPECT_TRUE(vxtest::readFile(path("a.vxmat")).contains("\"value\": 2.069e+11,"));
     const Outcome asTheyAre = runBatch("Mat_NewDoc\nStd_ImportDocument a.json\nStd_SaveAs b.vxmat\n");
     EXPECT_EQ(asTheyAre.status, 0) << "a list is not asked";
-    EXPECT_THAT(asTheyAre.errors.toStdString(), HasSubstr("\"Steel\": the numbers look like mm-t-s."));
+    EXPECT_THAT(asTheyAre.errors.toStdString(), HasSubstr("The numbers look like mm-t-s, not SI. "));
     EXPECT_TRUE(vxtest::readFile(path("b.vxmat")).contains("\"value\": 206900,"));
+    const Outcome other = runBatch("Mat_NewDoc\nStd_ImportDocument a.json in-lbf-s\n");
+    EXPECT_THAT(other.errors.toStdString(), HasSubstr("The numbers look like mm-t-s, not in-lbf-s. "));
+    EXPECT_THAT(other.errors.toStdString(), HasSubstr("the second argument of Std_ImportDocument gives it"));
     const Outcome wrong = runBatch("Mat_NewDoc\nStd_ImportDocument a.json mm-t\n");
     EXPECT_EQ(wrong.status, 1);
     EXPECT_THAT(wrong.errors.toStdString(), HasSubstr("list.batch:2: "));

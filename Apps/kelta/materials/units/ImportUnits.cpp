@@ -7,7 +7,7 @@
 #include "projectfile/ExchangeImport.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxUnits/MaterialValues.h"
-#include "vxUnits/Plausibility.h"
+#include "vxUnits/SystemFit.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
@@ -18,8 +18,9 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace desktop {
 
@@ -40,63 +41,53 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::ImportUnitsDialog", text);
 }
 
-/// Returns whether a conversion of a material from a system gives it more doubts than it has.
-bool suffersFrom(const UnitSystem& system, const vxMat::MaterialBase& material)
+/// Returns the first doubt about numbers in a system, with the label of its material; empty if there is none.
+QString firstDoubt(const ImportedMaterials& imported, const UnitSystem& system)
 {
-    vxMat::MaterialBase converted;
-    converted.copyAllFrom(material);
-    vxUnits::convertMaterial(converted, system, UnitSystem::si());
-    return vxUnits::checkPlausibility(converted).size() > vxUnits::checkPlausibility(material).size();
-}
-
-/// Returns the first doubt that another unit system explains, with the label of its material; empty if there is none.
-QString firstDoubt(const ImportedMaterials& imported)
-{
-    for (const ImportedMaterial& entry : imported.materials)
-        for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(*entry.material))
-            if (doubt.remedy && !doubt.remedy->system.empty())
-                return QString::fromStdString(entry.label) + QStringLiteral(": ") + vxInspector::translated(doubt);
+    for (const ImportedMaterial& entry : imported.materials) {
+        const auto doubts = vxUnits::checkPlausibilityIn(system, *entry.material);
+        if (!doubts.empty())
+            return QString::fromStdString(entry.label) + QStringLiteral(": ") + vxInspector::translated(doubts.front());
+    }
     return {};
 }
 
-enum class Answer
+/// Returns the text of the button that takes the numbers to be in a system.
+QString textOfButton(const QString& system)
 {
-    Convert,
-    Keep,
-    Cancel,
-};
-
-Answer askToConvert(const QString& path, const QString& system, const QString& doubt)
-{
-    QMessageBox box(QMessageBox::Question, tr("Import exchange document"),
-                    tr("The numbers in \"%1\" look like %2.").arg(QFileInfo(path).fileName(), system),
-                    QMessageBox::Cancel, Gui::MainWindow::get_main_window_inst());
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("In SI, they would be unusual. %1").arg(doubt));
-    QPushButton* const convert = box.addButton(tr("&Convert from %1").arg(system), QMessageBox::AcceptRole);
-    const QAbstractButton* const keep = box.addButton(tr("&Import as they are"), QMessageBox::AcceptRole);
-    box.setDefaultButton(convert);
-    box.exec();
-    if (box.clickedButton() == convert)
-        return Answer::Convert;
-    return box.clickedButton() == keep ? Answer::Keep : Answer::Cancel;
+    return system == QString::fromStdString(UnitSystem::si().text()) ? tr("&Import as they are")
+                                                                     : tr("&Convert from %1").arg(system);
 }
 
-/// Asks about numbers that look like another system than SI.
-std::optional<ImportUnits> confirmSi(const QString& path, const ImportedMaterials& imported)
+/// Asks which of two systems numbers are in. Absent if the user cancels.
+std::optional<UnitSystem> askForSystem(const QString& path, const UnitSystem& chosen, const UnitSystem& fitting,
+                                       const QString& doubt)
 {
-    const QString fitting = findFittingSystem(imported);
+    const QString chosenName = QString::fromStdString(chosen.text());
+    const QString fittingName = QString::fromStdString(fitting.text());
+    QMessageBox box(QMessageBox::Question, tr("Import exchange document"),
+                    tr("The numbers in \"%1\" look like %2.").arg(QFileInfo(path).fileName(), fittingName),
+                    QMessageBox::Cancel, Gui::MainWindow::get_main_window_inst());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("In %1, they would be unusual. %2").arg(chosenName, doubt));
+    QPushButton* const other = box.addButton(textOfButton(fittingName), QMessageBox::AcceptRole);
+    const QAbstractButton* const keep = box.addButton(textOfButton(chosenName), QMessageBox::AcceptRole);
+    box.setDefaultButton(other);
+    box.exec();
+    if (box.clickedButton() == other)
+        return fitting;
+    return box.clickedButton() == keep ? std::optional<UnitSystem>(chosen) : std::nullopt;
+}
+
+/// Asks about numbers that look like another system than the chosen one.
+std::optional<ImportUnits> confirm(const QString& path, const ImportedMaterials& imported, const UnitSystem& chosen)
+{
+    const QString fitting = findFittingSystem(imported, chosen);
     const auto system = UnitSystem::parse(fitting.toStdString());
     if (fitting.isEmpty() || !system)
-        return ImportUnits{};
-    switch (askToConvert(path, fitting, firstDoubt(imported))) {
-    case Answer::Convert:
-        return ImportUnits{*system, true};
-    case Answer::Keep:
-        return ImportUnits{UnitSystem::si(), true};
-    default:
-        return std::nullopt;
-    }
+        return ImportUnits{chosen};
+    const auto decided = askForSystem(path, chosen, *system, firstDoubt(imported, chosen));
+    return decided ? std::optional<ImportUnits>(ImportUnits{*decided, true}) : std::nullopt;
 }
 
 /// Returns a sentence about the numbers that no conversion changes; empty if there are none.
@@ -111,14 +102,25 @@ std::string doubtUnchanged(const ImportedMaterial& entry)
                                  .toStdString();
 }
 
-/// Returns a sentence about a material that looks like another unit system; empty otherwise.
-std::string doubtSystem(const ImportedMaterial& entry)
+/// Returns sentences about numbers that look like another system than the assumed one: one sentence if this system
+/// explains most doubts about all materials, otherwise one for each such material.
+std::vector<std::string> doubtSystem(const ImportedMaterials& imported, const UnitSystem& assumed)
 {
-    const std::string fitting = vxUnits::fittingSystem(*entry.material);
-    return fitting.empty() ? std::string()
-                           : tr("\"%1\": the numbers look like %2. The import of the document can convert them.")
-                                 .arg(QString::fromStdString(entry.label), QString::fromStdString(fitting))
-                                 .toStdString();
+    const QString name = QString::fromStdString(assumed.text());
+    if (const QString fitting = findFittingSystem(imported, assumed); !fitting.isEmpty())
+        return {tr("The numbers look like %1, not %2. Import the document again in this unit system; in a list of "
+                   "commands, the second argument of Std_ImportDocument gives it.")
+                    .arg(fitting, name)
+                    .toStdString()};
+    std::vector<std::string> doubts;
+    for (const ImportedMaterial& entry : imported.materials) {
+        const std::string fitting = vxUnits::betterFittingSystem({entry.material.get()}, assumed);
+        if (!fitting.empty())
+            doubts.push_back(tr("\"%1\": the numbers look like %2, not %3.")
+                                 .arg(QString::fromStdString(entry.label), QString::fromStdString(fitting), name)
+                                 .toStdString());
+    }
+    return doubts;
 }
 
 void add(std::string doubt, ImportedMaterials& imported)
@@ -147,35 +149,27 @@ std::optional<ImportUnits> chooseImportUnits(const QString& path, const Imported
     const auto system = dialog.exec() == QDialog::Accepted ? dialog.system() : std::nullopt;
     if (!system)
         return std::nullopt;
-    return *system == UnitSystem::si() ? confirmSi(path, imported) : ImportUnits{*system};
+    return confirm(path, imported, *system);
 }
 
-QString findFittingSystem(const ImportedMaterials& imported)
+QString findFittingSystem(const ImportedMaterials& imported, const UnitSystem& assumed)
 {
-    std::string fitting;
-    for (const ImportedMaterial& entry : imported.materials) {
-        const std::string system = vxUnits::fittingSystem(*entry.material);
-        if (!fitting.empty() && !system.empty() && system != fitting)
-            return {};
-        fitting = system.empty() ? fitting : system;
-    }
-    const auto system = UnitSystem::parse(fitting);
-    const bool isShared = system && std::none_of(imported.materials.begin(), imported.materials.end(),
-                                                 [&system](const ImportedMaterial& entry) {
-                                                     return suffersFrom(*system, *entry.material);
-                                                 });
-    return isShared ? QString::fromStdString(fitting) : QString();
+    std::vector<const vxMat::MaterialBase*> materials;
+    for (const ImportedMaterial& entry : imported.materials)
+        materials.push_back(entry.material.get());
+    return QString::fromStdString(vxUnits::betterFittingSystem(materials, assumed));
 }
 
 QString convertToCatalogue(ImportedMaterials& imported, const ImportUnits& units)
 {
     const bool areOther = units.system != UnitSystem::si();
+    if (!units.areConfirmed)
+        for (std::string& doubt : doubtSystem(imported, units.system))
+            add(std::move(doubt), imported);
     for (const ImportedMaterial& entry : imported.materials) {
         vxUnits::convertMaterial(*entry.material, units.system, UnitSystem::si());
         if (areOther)
             add(doubtUnchanged(entry), imported);
-        if (!units.areConfirmed)
-            add(doubtSystem(entry), imported);
     }
     if (!areOther)
         return {};

@@ -34,17 +34,18 @@ public:
 };
 
 /// Asks the user for the unit system of the numbers in a document. The proposal is SI, which the format of documents
-/// prescribes. If the user keeps SI and the numbers fit another system, asks whether to convert them. Absent if the user
+/// prescribes. If the numbers fit another system than the chosen one, asks which of both they are in. Absent if the user
 /// cancels.
 std::optional<ImportUnits> chooseImportUnits(const QString& path, const projectfile::ImportedMaterials& imported);
 
-/// Returns the unit system that the numbers of all materials fit, if it is not SI: at least one material fits it, and a
-/// conversion gives no material more doubts. Empty if there is none.
-QString findFittingSystem(const projectfile::ImportedMaterials& imported);
+/// Returns the built-in unit system that the numbers of the materials together fit better than the assumed one (see
+/// vxUnits/SystemFit.h). Empty if there is none.
+QString findFittingSystem(const projectfile::ImportedMaterials& imported,
+                          const vxUnits::UnitSystem& assumed = vxUnits::UnitSystem::si());
 
 /// Converts all numbers to the units of the catalogue. Adds to the doubts which numbers stay unchanged because their units
-/// are not known, and which materials look like another unit system, unless the user has decided about them. Returns a
-/// sentence about the conversion; empty if the numbers are in SI.
+/// are not known, and which other unit system the numbers of all materials, or of single ones, look like, unless the user
+/// has decided about it. Returns a sentence about the conversion; empty if the numbers are in SI.
 QString convertToCatalogue(projectfile::ImportedMaterials& imported, const ImportUnits& units);
 
 /// The dialog in which the user chooses the units of a document.

@@ -171,6 +171,7 @@ void UnitChoice::systemChosen()
     m_bases->setEnabled(isOwn());
     if (const auto chosen = read(); !isOwn() && chosen)
         m_bases->setText(basesOf(*chosen));
+    m_bases->setCursorPosition(0); // a text that is longer than the field shows its start
     showUnits();
     Q_EMIT edited();
 }

@@ -11,20 +11,24 @@
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest/QtTestGui>
 
 namespace {
 
 using desktop::UnitChoice;
 using testing::Contains;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -350,11 +354,95 @@ TEST_F(ImportedUnits, AreRecognisedIfAllMaterialsFitThem)
     EXPECT_EQ(fitting(), "mm-t-s");
 }
 
-TEST_F(ImportedUnits, AreNotRecognisedIfAConversionSpoilsAMaterial)
+TEST_F(ImportedUnits, AreNotRecognisedIfAConversionSpoilsAsManyMaterialsAsItMends)
 {
     add("Steel", 210000.0, 7.85e-9);
     add("Aluminium", 7e10, 2700.0);
     EXPECT_EQ(fitting(), "");
+    desktop::convertToCatalogue(document, {});
+    EXPECT_THAT(document.doubts, ElementsAre("\"Steel\": the numbers look like mm-t-s, not SI."));
+}
+
+TEST_F(ImportedUnits, AreRecognisedAlthoughOneMaterialFitsOthers)
+{
+    add("Steel", 210000.0, 7.85e-9);
+    add("Copper", 110000.0, 8.3e-9);
+    add("Aluminium", 7e10, 2700.0);
+    EXPECT_EQ(fitting(), "mm-t-s");
+}
+
+TEST_F(ImportedUnits, AreComparedWithTheChosenOnes)
+{
+    add("Steel", 2.1e11, 7850.0);
+    add("Aluminium", 7e10, 2700.0);
+    const auto millimetres = *vxUnits::UnitSystem::parse("mm-t-s");
+    EXPECT_EQ(desktop::findFittingSystem(document, millimetres).toStdString(), "SI");
+    desktop::convertToCatalogue(document, {millimetres});
+    EXPECT_THAT(document.doubts, Contains(HasSubstr("The numbers look like SI, not mm-t-s.")));
+}
+
+/// Answers the dialog of units with a system, and the question after it by a button.
+class UnitAnswers : public QObject
+{
+public:
+    UnitAnswers(const QString& system, const QString& button) : m_system(system), m_button(button)
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this] { answer(); });
+        m_timer.start(0);
+    }
+    std::string question() const { return m_question.toStdString(); }
+
+private:
+    void answer()
+    {
+        QWidget* const window = QApplication::activeModalWidget();
+        if (auto* const dialog = qobject_cast<desktop::ImportUnitsDialog*>(window)) {
+            systemsOf(*dialog).setCurrentText(m_system);
+            dialog->accept();
+        } else if (const auto* const box = qobject_cast<QMessageBox*>(window)) {
+            m_question = box->text() + QLatin1Char(' ') + box->informativeText();
+            for (QAbstractButton* const button : box->buttons())
+                if (button->text().remove(QLatin1Char('&')) == m_button)
+                    button->click();
+        }
+    }
+
+    QString m_system;
+    QString m_button;
+    QString m_question;
+    QTimer m_timer;
+};
+
+TEST_F(ImportedUnits, AreAskedForIfTheNumbersLookLikeAnotherSystemThanTheChosenOne)
+{
+    add("Steel", 2.1e11, 7850.0);
+    for (const auto& [button, system] :
+         {std::pair("Import as they are", "SI"), std::pair("Convert from mm-t-s", "mm-t-s")}) {
+        const UnitAnswers answers(QStringLiteral("mm-t-s"), QString::fromLatin1(button));
+        const auto units = desktop::chooseImportUnits(QStringLiteral("/tmp/a.json"), document);
+        ASSERT_TRUE(units);
+        EXPECT_EQ(units->system.text(), system);
+        EXPECT_TRUE(units->areConfirmed);
+        EXPECT_THAT(answers.question(), HasSubstr("The numbers in \"a.json\" look like SI. In mm-t-s, they would be "
+                                                  "unusual. Steel: "));
+    }
+}
+
+TEST_F(ImportedUnits, AreNotAskedForTwiceIfTheChosenOnesFit)
+{
+    add("Steel", 2.1e11, 7850.0);
+    const UnitAnswers answers(QStringLiteral("SI"), QString());
+    const auto units = desktop::chooseImportUnits(QStringLiteral("/tmp/a.json"), document);
+    ASSERT_TRUE(units);
+    EXPECT_EQ(units->system, vxUnits::UnitSystem::si());
+    EXPECT_EQ(answers.question(), "");
+}
+
+TEST_F(ImportedUnits, AreNotChosenIfTheUserCancelsTheQuestion)
+{
+    add("Steel", 2.1e11, 7850.0);
+    const UnitAnswers answers(QStringLiteral("mm-t-s"), QStringLiteral("Cancel"));
+    EXPECT_FALSE(desktop::chooseImportUnits(QStringLiteral("/tmp/a.json"), document));
 }
 
 TEST_F(ImportedUnits, AreConvertedWithAReport)
@@ -373,7 +461,7 @@ TEST_F(ImportedUnits, AreDoubtedWithoutAUser)
     add("Steel", 210000.0, 7.85e-9);
     EXPECT_EQ(desktop::convertToCatalogue(document, {}), QString());
     EXPECT_EQ(modulusOf(0), 210000.0);
-    EXPECT_THAT(document.doubts, Contains(HasSubstr("\"Steel\": the numbers look like mm-t-s.")));
+    EXPECT_THAT(document.doubts, Contains(HasSubstr("The numbers look like mm-t-s, not SI.")));
 }
 
 TEST_F(ImportedUnits, NameTheNumbersThatCannotBeConverted)
@@ -394,6 +482,7 @@ TEST_F(ImportedUnits, AreChosenInADialogThatProposesSi)
     EXPECT_EQ(*dialog.system(), vxUnits::UnitSystem::si());
     systemsOf(dialog).setCurrentText(QStringLiteral("in-lbf-s"));
     EXPECT_EQ(dialog.system()->text(), "in-lbf-s");
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("baseUnits"))->cursorPosition(), 0) << "shows its start";
     const auto buttons = dialog.findChild<QDialogButtonBox*>()->buttons();
     const auto import = std::find_if(buttons.begin(), buttons.end(),
                                      [](const QAbstractButton* button) { return button->text() == "&Import"; });

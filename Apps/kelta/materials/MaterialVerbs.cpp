@@ -17,6 +17,7 @@
 #include "vxMaterial/model/PropertyRules.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxUnits/Filter.h"
 #include "vxUnits/Quantity.h"
 
 #include <QCoreApplication>
@@ -130,7 +131,10 @@ Failure setNamedQuantity(const QStringList& arguments)
     for (const auto& [id, quantity] : object->getMatMgr().propertyCatalogue)
         if (isSame(quantity->name, arguments[0]) || isSame(quantity->key, arguments[0]))
             return setQuantity(*object, *quantity, arguments[1].toStdString());
-    return tr("the catalogue has no quantity \"%1\"").arg(arguments[0]);
+    const QString nearest = QString::fromStdString(vxUnits::nearestQuantityName(arguments[0].toStdString()));
+    return nearest.isEmpty()
+               ? tr("the catalogue has no quantity \"%1\"").arg(arguments[0])
+               : tr(R"(the catalogue has no quantity "%1"; did you mean "%2"?)").arg(arguments[0], nearest);
 }
 
 Failure clearMaterial(const QStringList& arguments)

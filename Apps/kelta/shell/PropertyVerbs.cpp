@@ -39,10 +39,22 @@ std::vector<const Obj::PropertyDS*> propertySets(Obj::ProjectObject& object)
     return sets;
 }
 
+/// Returns the values that a color takes if a text is not one of them.
+std::optional<QString> refuseColor(const Obj::Property& property, const QString& name, const QString& value)
+{
+    if (dynamic_cast<const Obj::PropertyColor*>(&property) == nullptr ||
+        Obj::PropertyColor().fromText(value.toStdString()))
+        return std::nullopt;
+    return tr(R"("%1" is not a value of "%2": give red, green, blue and opacity as four numbers from 0 to 1, "0.5, 0, 0, 1")")
+        .arg(value, name);
+}
+
 std::optional<QString> set(Obj::ProjectObject& object, const QString& name, const QString& value)
 {
     for (const Obj::PropertyDS* const owner : propertySets(object))
-        if (owner->get_property_by_name(name.toUtf8().constData()) != nullptr) {
+        if (const Obj::Property* const property = owner->get_property_by_name(name.toUtf8().constData())) {
+            if (auto refusal = refuseColor(*property, name, value))
+                return refusal;
             // If the request is refused, the reason is in the message log, and Batch fails with this reason.
             vxMsg::MessageProxy::instance().setProperty(Gui::GuiApplication::Instance->placeOf(*owner),
                                                         name.toStdString(), value.toStdString());

@@ -32,6 +32,8 @@ TEST_F(Verbs, SetAQuantity)
 {
     const Mat::MaterialObject& steel = selectedSteel();
     EXPECT_EQ(run("set", {"Young's modulus", "7e10"}), "");
+    EXPECT_EQ(run("set", {"Densty", "7850"}), R"(the catalogue has no quantity "Densty"; did you mean "Density"?)");
+    EXPECT_EQ(run("set", {"G", "7850"}), R"(the catalogue has no quantity "G")");
     EXPECT_EQ(modulusOf(steel), 7e10);
     history().undo();
     EXPECT_EQ(modulusOf(steel), 2e11);
@@ -172,7 +174,7 @@ TEST_F(Verbs, SetThePropertiesOfTheTreeNodeToo)
     const std::string before = colour->toText();
     EXPECT_EQ(run("property", {"MaterialColor", "1, 0.25, 0, 0"}), "");
     EXPECT_EQ(colour->toText(), "1, 0.25, 0, 0");
-    EXPECT_THAT(run("property", {"MaterialColor", "red"}), HasSubstr("\"red\"; nothing was changed"));
+    EXPECT_THAT(run("property", {"MaterialColor", "red"}), HasSubstr("four numbers from 0 to 1"));
     EXPECT_EQ(run("property", {"Colour", "1, 0, 0, 0"}), "\"Steel\" has no property \"Colour\"");
     history().undo();
     EXPECT_EQ(colour->toText(), before);

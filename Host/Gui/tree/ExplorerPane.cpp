@@ -109,11 +109,8 @@ void ExplorerPane::apply()
     const auto fault = filter().setExpression(m_field->text());
     m_field->mark(fault);
     m_hasFault = fault.has_value();
-    if (fault) {
-        m_state->setText(fault->reason);
-        m_state->show();
-        return;
-    }
+    if (fault)
+        return showLines(fault->reason);
     if (m_field->text().trimmed().isEmpty())
         m_explorer->setFilter({});
     else
@@ -140,9 +137,19 @@ void ExplorerPane::showState(const QStringList& hiddenLabels)
         lines << tr(R"("%1" does not match and is hidden.)").arg(shortened(hiddenLabels.first()));
     else if (!hiddenLabels.isEmpty())
         lines << tr("New or changed objects that do not match and are hidden: %1").arg(hiddenLabels.size());
+    if (const QString remark = filter().remark(); !remark.isEmpty())
+        lines << remark;
     const bool hasText = !m_field->text().trimmed().isEmpty();
-    m_state->setText(lines.join(QLatin1Char('\n')));
-    m_state->setVisible(hasText);
+    showLines(hasText ? lines.join(QLatin1Char('\n')) : QString());
+}
+
+/// The list of completions follows the new height of the lines.
+void ExplorerPane::showLines(const QString& lines)
+{
+    m_state->setText(lines);
+    m_state->setVisible(!lines.isEmpty());
+    layout()->activate();
+    m_field->keepListBelow(*m_state);
 }
 
 void ExplorerPane::abandon()

@@ -17,8 +17,8 @@ class TreeFilter;
 struct FilterFault;
 
 /// The content of the dock of the project explorer: the tree, and above it the field for its filter with a line that says
-/// how many objects match, which objects the filter has just hidden, or why the text cannot be read. The tree keeps its last
-/// filter while the text cannot be read. The text is cleared when the last project is closed.
+/// how many objects match, which objects the filter has just hidden, what the filter remarks on the text, or why the text cannot
+/// be read. The tree keeps its last filter while the text cannot be read. The text is cleared when the last project is closed.
 class ExplorerPane : public QWidget
 {
     Q_OBJECT
@@ -40,6 +40,7 @@ private:
     void apply();
     void follow(const QStringList& hiddenLabels);
     void showState(const QStringList& hiddenLabels);
+    void showLines(const QString& lines);
     void abandon();
 
     const Contributions& m_contributions;

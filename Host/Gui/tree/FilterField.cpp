@@ -35,6 +35,23 @@ FilterField::FilterField(Source source, QWidget* parent)
 
 FilterField::~FilterField() = default;
 
+void FilterField::keepListBelow(const QWidget& widget)
+{
+    QRect anchor = rect();
+    if (widget.isVisible())
+        anchor.setBottom(mapFromGlobal(widget.mapToGlobal(QPoint(0, widget.height()))).y());
+    const bool isElsewhere = anchor != m_anchor;
+    m_anchor = anchor;
+    if (isElsewhere && isOffering())
+        showList();
+}
+
+/// The list begins below the anchor, or ends above it if the screen has no room there.
+void FilterField::showList()
+{
+    m_completer->complete(m_anchor);
+}
+
 void FilterField::mark(const std::optional<FilterFault>& fault)
 {
     m_warning->setVisible(fault.has_value());
@@ -106,7 +123,7 @@ void FilterField::offer()
         if (m_offered.empty())
             m_completer->popup()->hide();
         else
-            m_completer->complete();
+            showList();
     });
 }
 

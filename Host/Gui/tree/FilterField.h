@@ -3,6 +3,7 @@
 #include "Gui/TreeFilter.h"
 
 #include <QLineEdit>
+#include <QRect>
 
 #include <functional>
 #include <optional>
@@ -27,6 +28,10 @@ public:
     explicit FilterField(Source source, QWidget* parent = nullptr);
     ~FilterField() override;
 
+    /// Moves the list of completions so that it covers neither the field nor a widget below the field. To be called again
+    /// if the place, size or visibility of the widget changes.
+    void keepListBelow(const QWidget& widget);
+
     /// Underlines the part of the text that is at fault, and shows a warning sign; removes both if there is no fault.
     void mark(const std::optional<FilterFault>& fault);
 
@@ -44,11 +49,13 @@ private:
     void offer();
     bool take(int row);
     bool isOffering() const;
+    void showList();
 
     Source m_source;
     std::vector<FilterCompletion> m_offered;
     QStandardItemModel* m_list;
     QCompleter* m_completer;
+    QRect m_anchor; ///< the place that the list does not cover; invalid before keepListBelow()
     QAction* m_warning;
 };
 

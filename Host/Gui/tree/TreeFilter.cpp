@@ -8,6 +8,11 @@ TreeFilter::TreeFilter() = default;
 
 TreeFilter::~TreeFilter() = default;
 
+QString TreeFilter::remark() const
+{
+    return {};
+}
+
 std::vector<FilterCompletion> TreeFilter::completionsFor(const QString&, int) const
 {
     return {};

@@ -43,6 +43,8 @@ public:
     /// Takes a text that the user has typed. Returns the fault of a text that cannot be read; the expression before it
     /// then stays.
     virtual std::optional<FilterFault> setExpression(const QString& text) = 0;
+    /// Returns a remark about the expression, in the language of the user: "did you mean ..."; empty by default.
+    virtual QString remark() const;
     /// Returns whether the expression finds an object. Called for every object after each keystroke: must be fast. Must
     /// not change the object.
     virtual bool matches(const Obj::ProjectObject& object) = 0;

@@ -40,6 +40,7 @@ public:
         return {{0, cursor, QStringLiteral("colour"), QString()}, {0, cursor, QStringLiteral("count"), "a number"}};
     }
     QString hint() const override { return QStringLiteral("count 5"); }
+    QString remark() const override { return m_count == 13 ? QStringLiteral("Did you mean 12?") : QString(); }
 
 private:
     int m_count = 0;
@@ -299,6 +300,27 @@ TEST_F(TreeFilter, CompletesTheTextByAListWhileTheUserTypes)
     QTest::keyClick(completions(), Qt::Key_Escape);
     EXPECT_EQ(completions(), nullptr);
     EXPECT_EQ(field().text(), "co");
+}
+
+TEST_F(TreeFilter, KeepsTheListClearOfTheFieldAndTheLinesBelow)
+{
+    const auto placeOf = [](const QWidget& widget) { return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size()); };
+    contributions.setTreeFilter(std::make_unique<CountFilter>());
+    type("co");
+    ASSERT_NE(completions(), nullptr);
+    ASSERT_EQ(state().text(), "Write count and a number.");
+    settle();
+    EXPECT_FALSE(placeOf(*completions()->window()).intersects(placeOf(state())));
+    EXPECT_FALSE(placeOf(*completions()->window()).intersects(placeOf(field())));
+}
+
+TEST_F(TreeFilter, ShowsTheRemarkOfTheFilter)
+{
+    contributions.setTreeFilter(std::make_unique<CountFilter>());
+    type("count 13");
+    EXPECT_EQ(state().text(), "Matches: 0 of 3\nDid you mean 12?");
+    QTest::keyClick(&field(), Qt::Key_Backspace);
+    EXPECT_EQ(state().text(), "Matches: 0 of 3");
 }
 
 TEST_F(TreeFilter, IsClearedWhenTheLastProjectIsClosed)

@@ -3,6 +3,7 @@
 #include "Gui/Contributions.h"
 #include "Obj/Application.h"
 #include "vxInspector/units/UnitTexts.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxUnits/FilterCompletion.h"
 
@@ -16,6 +17,21 @@ namespace {
 int characters(const QByteArray& utf8, std::size_t bytes)
 {
     return QString::fromUtf8(utf8.left(static_cast<int>(bytes))).size();
+}
+
+/// Returns the names of quantities that the user sees. Looked up for each text, because the language can change.
+vxUnits::FilterNames translatedNames()
+{
+    vxUnits::FilterNames names;
+    const auto add = [&names](const vxUnits::FilterQuantity& quantity, const QString& name) {
+        if (name != QLatin1String(quantity.name()))
+            names.push_back({quantity, name.toStdString()});
+    };
+    for (const vxMat::PropertyRecord& record : vxMat::propertyRecords())
+        add({record.id, nullptr}, QCoreApplication::translate("vxMat::PropertyName", record.name));
+    for (const vxUnits::DerivedQuantity& derived : vxUnits::derivedQuantities())
+        add({0, &derived}, vxInspector::translatedWord(derived.name));
+    return names;
 }
 
 std::string_view viewOf(const QByteArray& utf8)
@@ -42,16 +58,22 @@ MaterialFilter::~MaterialFilter() = default;
 std::optional<Gui::FilterFault> MaterialFilter::setExpression(const QString& text)
 {
     const QByteArray utf8 = text.toUtf8();
-    vxUnits::FilterReading reading = vxUnits::readFilter(viewOf(utf8));
+    vxUnits::FilterReading reading = vxUnits::readFilter(viewOf(utf8), {}, translatedNames());
     if (!reading) {
         const int begin = characters(utf8, reading.position);
         const int end = characters(utf8, reading.position + reading.length);
         return Gui::FilterFault{vxInspector::translated(reading.failure), begin, end - begin};
     }
     m_filter = *std::move(reading.filter);
+    m_remark = std::move(reading.remark);
     if (m_filter.isEmpty())
         m_subjects.clear();
     return std::nullopt;
+}
+
+QString MaterialFilter::remark() const
+{
+    return m_remark ? vxInspector::translated(*m_remark) : QString();
 }
 
 bool MaterialFilter::matches(const Obj::ProjectObject& object)
@@ -63,7 +85,8 @@ std::vector<Gui::FilterCompletion> MaterialFilter::completionsFor(const QString&
 {
     const QByteArray utf8 = text.left(cursor).toUtf8();
     std::vector<Gui::FilterCompletion> completions;
-    for (const vxUnits::Completion& one : vxUnits::completionsFor(viewOf(utf8), viewOf(utf8).size())) {
+    for (const vxUnits::Completion& one : vxUnits::completionsFor(viewOf(utf8), viewOf(utf8).size(), translatedNames()))
+    {
         const int begin = characters(utf8, one.begin);
         completions.push_back(
             {begin, cursor - begin, QString::fromStdString(one.text), QString::fromStdString(one.meaning)});

@@ -21,7 +21,8 @@ class Project;
 namespace desktop {
 
 /// The filter of the project explorer: finds materials by their labels and values, as vxUnits/Filter.h describes, and other
-/// objects by their labels. Numbers without a unit are in SI. Reads the values of a material once until it changes.
+/// objects by their labels. Takes the names of quantities in English and in the user's language. Numbers without a unit are in
+/// SI. Reads the values of a material once until it changes.
 class MaterialFilter : public Gui::TreeFilter
 {
 public:
@@ -29,6 +30,7 @@ public:
     ~MaterialFilter() override;
 
     std::optional<Gui::FilterFault> setExpression(const QString& text) override;
+    QString remark() const override;
     bool matches(const Obj::ProjectObject& object) override;
     std::vector<Gui::FilterCompletion> completionsFor(const QString& text, int cursor) const override;
     QString hint() const override;
@@ -39,6 +41,7 @@ private:
     vxUnits::FilterSubject& subjectOf(const Obj::ProjectObject& object);
 
     vxUnits::Filter m_filter;
+    std::optional<vxUnits::Message> m_remark;
     std::unordered_map<const Obj::ProjectObject*, vxUnits::FilterSubject> m_subjects;
     std::map<const Obj::Project*, std::vector<boost::signals2::scoped_connection>> m_projectConnections;
     std::vector<boost::signals2::scoped_connection> m_connections;

@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTranslator>
 #include <QtTest/QtTestGui>
 
 #include <algorithm>
@@ -89,6 +90,46 @@ TEST_F(MaterialFilter, SaysWhyAnExpressionCannotBeReadAndKeepsTheTree)
     EXPECT_THAT(shown(), ElementsAre("Soft"));
 }
 
+TEST_F(MaterialFilter, SuggestsTheConditionThatWordsForLabelsLookLike)
+{
+    filter("rho 7850");
+    EXPECT_EQ(state(), "Matches: 0 of 3\nSearched in labels; did you mean \"rho = 7850\"?");
+    filter("soft");
+    EXPECT_EQ(state(), "Matches: 1 of 3");
+}
+
+/// The names of two quantities in German.
+class GermanNames : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        const QByteArray name = QByteArray(context) + "/" + text;
+        if (name == "vxMat::PropertyName/Density")
+            return QStringLiteral("Dichte");
+        return name == "vxUnits::Word/Shear modulus" ? QStringLiteral("Schubmodul") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(MaterialFilter, TakesAndCompletesTheNamesOfQuantitiesInTheLanguageOfTheUser)
+{
+    filter("Dichte < 3 g/cm3");
+    EXPECT_EQ(state(), "No quantity is called \"Dichte\".");
+    GermanNames names;
+    QCoreApplication::installTranslator(&names);
+    filter("Dichte < 3 g/cm3 and Schubmodul > 1 GPa");
+    EXPECT_THAT(shown(), ElementsAre("Light"));
+    filter("Density < 3 g/cm3");
+    EXPECT_THAT(shown(), ElementsAre("Light"));
+    filter("Dihcte > 5");
+    EXPECT_EQ(state(), "No quantity is called \"Dihcte\". Did you mean \"Dichte\"?");
+    filter("dich");
+    ASSERT_NE(completions(), nullptr);
+    QTest::keyClick(completions(), Qt::Key_Tab);
+    EXPECT_EQ(field().text(), "Dichte ");
+}
+
 TEST_F(MaterialFilter, FollowsAppliedEditsAndTheirUndo)
 {
     filter("E > 100 GPa");
@@ -144,6 +185,21 @@ TEST_F(MaterialFilter, CompletesQuantitiesSignsAndUnits)
     EXPECT_THAT(shown(), ElementsAre("Steel", "Light"));
 }
 
+TEST_F(MaterialFilter, KeepsTheListOfCompletionsClearOfTheReasonAndTheMatches)
+{
+    const auto placeOf = [](const QWidget& widget) { return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size()); };
+    const QWidget& line = *window->findChild<QLabel*>(QStringLiteral("treeFilterState"));
+    filter("E > 100 G");
+    ASSERT_NE(completions(), nullptr);
+    EXPECT_EQ(state(), "The unit \"G\" is not known.");
+    EXPECT_FALSE(placeOf(*completions()->window()).intersects(placeOf(line)));
+    EXPECT_FALSE(placeOf(*completions()->window()).intersects(placeOf(field())));
+    QTest::keyClick(completions(), Qt::Key_Tab);
+    ASSERT_NE(completions(), nullptr) << "and, or";
+    EXPECT_EQ(state(), "Matches: 2 of 3");
+    EXPECT_FALSE(placeOf(*completions()->window()).intersects(placeOf(line)));
+}
+
 TEST_F(MaterialFilter, IsConfirmedByReturnIfItCanBeReadAlthoughTextsAreOffered)
 {
     filter("creep");
@@ -162,7 +218,7 @@ TEST_F(MaterialFilter, SurvivesUnitsAndTextsOfOtherScripts)
     EXPECT_THAT(shown(), IsEmpty());
     field().setText(QString(100000, QLatin1Char('(')));
     // The field takes 32767 characters.
-    EXPECT_EQ(state(), "More than 100 parentheses are inside each other.");
+    EXPECT_EQ(state(), R"(More than 100 parentheses and "not" are inside each other.)");
 }
 
 } // namespace

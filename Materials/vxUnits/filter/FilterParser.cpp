@@ -432,7 +432,8 @@ bool FilterParser::refuseValue(const FilterQuantity& quantity, Part value, Failu
 {
     if (failure.code != FaultCode::UnknownUnit || !failure.suggestion.empty())
         return fail(value, std::move(failure));
-    constexpr std::size_t mostWords = 8; // of a value that can be read; so that long texts take linear time
+    constexpr std::size_t longestUnitStart = 3; // a user who has typed "100 G" has not finished
+    constexpr std::size_t mostWords = 8;        // of a value that can be read; so that long texts take linear time
     const auto first = static_cast<std::size_t>(
         std::lower_bound(m_tokens.begin(), m_tokens.end(), value.begin,
                          [](const FilterToken& token, std::size_t place) { return token.begin < place; }) -
@@ -440,7 +441,9 @@ bool FilterParser::refuseValue(const FilterQuantity& quantity, Part value, Failu
     for (std::size_t last = std::min(first + mostWords, m_next - 1); last > first; --last) {
         const Part before{value.begin, m_tokens[last - 1].end};
         const Part rest{m_tokens[last].begin, value.end};
-        if (m_tokens[last].kind != Kind::Word || !readOne(quantity, textOf(before)))
+        const bool hasUnit = textOf(before).find_first_not_of("0123456789.+-eE") != std::string_view::npos;
+        const bool mayBeUnit = !hasUnit && m_tokens[last].text.size() <= longestUnitStart;
+        if (m_tokens[last].kind != Kind::Word || mayBeUnit || !readOne(quantity, textOf(before)))
             continue;
         return fail(value, makeFailure(FaultCode::UnknownUnit, FilterText::UnitOrCondition, {excerpt(textOf(rest))},
                                        excerpt(textOf(before)) + " and " + excerpt(textOf(rest))));

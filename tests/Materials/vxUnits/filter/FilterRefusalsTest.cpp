@@ -70,6 +70,7 @@ const Refusal refusals[] = {
      "Write the quantity before the value. Did you mean \"Young's modulus > 1 GPa\"?"},
     {"E > 5 steel", FaultCode::UnknownUnit, 4, "5 steel",
      R"("steel" is not a known unit; write "and" before another condition. Did you mean "5 and steel"?)"},
+    {"E > 100 G", FaultCode::UnknownUnit, 4, "100 G", R"(The unit "G" is not known.)"},
     {"E > 5 GPa old steel", FaultCode::UnknownUnit, 4, "5 GPa old steel",
      R"("old steel" is not a known unit; write "and" before another condition. Did you mean "5 GPa and old steel"?)"},
     {"E > 1 GPa < 5 GPa", malformed, 10, "<", "\"<\" follows a comparison; write \"and\" between two comparisons."},

@@ -26,7 +26,9 @@ struct Need
     const char* range;
 };
 
-constexpr double unlimited = 1.7976931348623157e308;
+/// The bounds of numbers with which models compute: far outside of physics, so that products and quotients are finite.
+constexpr double smallest = 1e-100;
+constexpr double unlimited = 1e100;
 constexpr const char* positive = "above 0";
 constexpr const char* any = "finite";
 
@@ -63,14 +65,14 @@ struct HyperelasticNeeds
 const std::vector<HyperelasticNeeds>& hyperelasticKinds()
 {
     static const std::vector<HyperelasticNeeds> kinds{
-        {Id::NeoHooke, HyperelasticKind::NeoHooke, {{Id::MaterialConstantC10, 0.0, unlimited, positive}}},
+        {Id::NeoHooke, HyperelasticKind::NeoHooke, {{Id::MaterialConstantC10, smallest, unlimited, positive}}},
         {Id::MooneyRivlin,
          HyperelasticKind::MooneyRivlin,
          {{Id::MaterialConstantC10, -unlimited, unlimited, any},
           {Id::MaterialConstantC01, -unlimited, unlimited, any}}},
         {Id::ArrudaBoyce,
          HyperelasticKind::ArrudaBoyce,
-         {{Id::InitialShearModulusMu, 0.0, unlimited, positive},
+         {{Id::InitialShearModulusMu, smallest, unlimited, positive},
           {Id::LimitingNetworkStretch, 1.0, unlimited, "above 1"}}},
     };
     return kinds;
@@ -111,11 +113,11 @@ Resolved<HyperelasticModel> resolveHyperelastic(const MaterialValues& values)
         return {std::nullopt, makeMessage(Text::NoModel)};
     std::vector<Need> needs = chosen->needs;
     if (values.number(Id::IncompressibilityParameterD1).value_or(0.0) != 0.0)
-        needs.push_back({Id::IncompressibilityParameterD1, 0.0, unlimited, "0 or above"});
+        needs.push_back({Id::IncompressibilityParameterD1, smallest, unlimited, "0 or above"});
     if (auto fault = findFault(values, needs))
         return {std::nullopt, fault};
     HyperelasticModel model = makeHyperelastic(values, *chosen);
-    if (!(model.shear > 0.0))
+    if (!(model.shear > smallest))
         return {std::nullopt,
                 makeMessage(Text::ValueOutside, {"C10 + C01", vxMat::formatNumber(model.c10 + model.c01), positive})};
     return {std::move(model), std::nullopt};
@@ -127,7 +129,7 @@ Resolved<ElasticModel> resolveElastic(const MaterialValues& values)
         return {};
     if (hasAny(values, {Id::NeoHooke, Id::MooneyRivlin, Id::ArrudaBoyce}))
         return {std::nullopt, makeMessage(Text::ModelReplaces)};
-    if (auto fault = findFault(values, {{Id::YoungsModulus, 0.0, unlimited, positive},
+    if (auto fault = findFault(values, {{Id::YoungsModulus, smallest, unlimited, positive},
                                         {Id::PoissonsRatio, -1.0, 0.5, "above -1 and below 0.5"}}))
         return {std::nullopt, fault};
     return {ElasticModel{*values.number(Id::YoungsModulus), *values.number(Id::PoissonsRatio)}, std::nullopt};
@@ -144,10 +146,14 @@ std::optional<Message> findFaultOfPoints(const std::vector<double>& stresses, co
         return makeMessage(Text::CurveStart, {vxMat::formatNumber(strains.front())});
     if (std::adjacent_find(strains.begin(), strains.end(), std::greater_equal<>()) != strains.end())
         return makeMessage(Text::CurveOrder);
-    const auto lowest = std::min_element(stresses.begin(), stresses.end());
-    if (*lowest <= 0.0)
+    if (strains.back() >= unlimited)
         return makeMessage(Text::ValueOutside,
-                           {nameOf(Id::PlasticYieldStress), vxMat::formatNumber(*lowest), positive});
+                           {nameOf(Id::PlasticStrain), vxMat::formatNumber(strains.back()), "a logarithmic strain"});
+    const auto isOutside = [](double stress) { return stress <= smallest || stress >= unlimited; };
+    const auto outside = std::find_if(stresses.begin(), stresses.end(), isOutside);
+    if (outside != stresses.end())
+        return makeMessage(Text::ValueOutside,
+                           {nameOf(Id::PlasticYieldStress), vxMat::formatNumber(*outside), positive});
     return std::nullopt;
 }
 
@@ -171,7 +177,7 @@ Resolved<PlasticModel> resolvePoints(const MaterialValues& values, PlasticModel 
 
 Resolved<PlasticModel> resolveModulus(const MaterialValues& values, PlasticModel model)
 {
-    if (auto fault = findFault(values, {{Id::PlasticInitialYieldStress, 0.0, unlimited, positive},
+    if (auto fault = findFault(values, {{Id::PlasticInitialYieldStress, smallest, unlimited, positive},
                                         {Id::PlasticHardeningFactor, -unlimited, unlimited, any}}))
         return {std::nullopt, fault};
     model.yieldStress = *values.number(Id::PlasticInitialYieldStress);
@@ -253,7 +259,7 @@ Resolved<PronyModel> resolveProny(const MaterialValues& values, bool isElastic)
         return {std::nullopt, makeMessage(Text::NeedsModel)};
     constexpr double beyondOne = 1.0000000000000002; // 1 itself is possible
     if (auto fault = findFault(values, {{Id::ShearRelaxationModulus, 0.0, beyondOne, "above 0 and at most 1"},
-                                        {Id::RelaxationTime, 0.0, unlimited, positive}}))
+                                        {Id::RelaxationTime, smallest, unlimited, positive}}))
         return {std::nullopt, fault};
     return {PronyModel{*values.number(Id::ShearRelaxationModulus), *values.number(Id::RelaxationTime)}, std::nullopt};
 }

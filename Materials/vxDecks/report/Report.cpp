@@ -120,7 +120,11 @@ std::vector<std::string> toLines(const Report& report, const Translator& transla
             lines.push_back(title + note.text(translator));
         for (const Line& line : linesOf(material, translator)) {
             const std::string why = line.how.empty() ? std::string() : ": " + line.how;
-            lines.push_back(title + outcomeText(line.outcome, translator) + ": " + line.names + why);
+            lines.push_back(std::string(title)
+                                .append(outcomeText(line.outcome, translator))
+                                .append(": ")
+                                .append(line.names)
+                                .append(why));
         }
     }
     return lines;

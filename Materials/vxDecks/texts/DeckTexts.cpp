@@ -63,6 +63,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
     {"decks.as-decay", "as the decay constant, 1 / tau"},
     {"decks.as-parameter", "as a parameter of the yield stress"},
     {"decks.no-card-has-place", "no card of the material has a place for it"},
+    {"decks.names-only", "The format has no numbers of materials; the chosen number has no effect."},
 }};
 
 } // namespace

@@ -62,6 +62,7 @@ enum class Text : std::size_t
     AsDecay,
     AsParameter,
     NoCardHasPlace,
+    NamesOnly,
     Count
 };
 

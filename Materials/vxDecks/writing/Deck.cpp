@@ -41,17 +41,23 @@ std::vector<std::uint32_t> numbersOf(const std::vector<DeckMaterial>& materials,
     return numberMaterials(wanted, options.firstNumber, rules.largestNumber);
 }
 
-void noteHeading(MaterialReport& report, const DeckMaterial& material, const Heading& heading,
-                 const DeckOptions& options)
+/// Returns the number that a material should have; absent if any will do.
+std::optional<std::uint32_t> expectedNumber(const DeckMaterial& material, std::size_t index, const DeckOptions& options)
+{
+    if (options.firstNumber)
+        return *options.firstNumber + static_cast<std::uint32_t>(index);
+    return material.number;
+}
+
+void noteHeading(MaterialReport& report, const Heading& heading, const std::optional<std::uint32_t>& expected)
 {
     report.writtenName = heading.name;
     report.id = heading.number;
-    if (heading.name != material.name)
+    if (heading.name != report.name)
         report.notes.push_back(makeMessage(Text::Renamed, {heading.name}));
-    const bool isOwn = !options.firstNumber && material.number && heading.number != 0;
-    if (isOwn && *material.number != heading.number)
+    if (expected && heading.number != 0 && *expected != heading.number)
         report.notes.push_back(
-            makeMessage(Text::Renumbered, {std::to_string(heading.number), std::to_string(*material.number)}));
+            makeMessage(Text::Renumbered, {std::to_string(heading.number), std::to_string(*expected)}));
 }
 
 Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMaterial>& materials,
@@ -62,13 +68,15 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
     const std::vector<std::uint32_t> numbers = numbersOf(materials, rules, options);
     Names names(rules.names);
     Deck deck{writer->begin(units), {format, units.text(), {}, {}}};
+    if (options.firstNumber && rules.largestNumber == 0)
+        deck.report.notes.push_back(makeMessage(Text::NamesOnly));
     for (std::size_t i = 0; i < materials.size(); ++i) {
         const Heading heading{names.take(materials[i].name), numbers[i]};
         MaterialDeck one(format, materials[i], heading, units);
         writer->write(one);
         deck.text += one.text();
         deck.report.materials.push_back(one.finish());
-        noteHeading(deck.report.materials.back(), materials[i], heading, options);
+        noteHeading(deck.report.materials.back(), heading, expectedNumber(materials[i], i, options));
     }
     deck.text += writer->end();
     return deck;

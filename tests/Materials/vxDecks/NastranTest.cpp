@@ -146,9 +146,24 @@ TEST(NastranDeck, NumbersMaterialsFromTheChosenNumber)
             all.push_back(one.id);
         return all;
     };
-    EXPECT_THAT(numbers({}), testing::ElementsAre(7, 2, 3, 1));
+    EXPECT_THAT(numbers({}), testing::ElementsAre(7, 2, 3, 1)) << "the second 7 gets a free number";
     EXPECT_THAT(numbers({std::nullopt, 100}), testing::ElementsAre(100, 101, 102, 103));
     EXPECT_THAT(numbers({std::nullopt, 99999998}), testing::ElementsAre(99999998, 99999999, 1, 2));
+}
+
+TEST(NastranDeck, TellsWhichMaterialsHaveOtherNumbers)
+{
+    const auto steel = vxtest::steel();
+    const vxMat::MaterialBase* const material = &steel->get();
+    const auto deck = vxDecks::writeDeck(Format::Nastran, {{"A", 7, material}, {"B", 7, material}}, {});
+    EXPECT_TRUE(deck.report.materials[0].notes.empty());
+    ASSERT_EQ(deck.report.materials[1].notes.size(), 1U);
+    EXPECT_EQ(deck.report.materials[1].notes[0].text(), "has the number 1 instead of 7");
+    const auto high = vxDecks::writeDeck(Format::Nastran, {{"A", 7, material}}, {std::nullopt, 100000000});
+    EXPECT_EQ(high.report.materials[0].notes.at(0).text(), "has the number 1 instead of 100000000");
+    const auto names = vxDecks::writeDeck(Format::Calculix, {{"A", 7, material}}, {std::nullopt, 5});
+    EXPECT_EQ(names.report.notes.at(0).text(),
+              "The format has no numbers of materials; the chosen number has no effect.");
 }
 
 } // namespace

@@ -116,11 +116,11 @@ void writeMats1(MaterialDeck& deck)
     if (!model)
         return;
     const std::string rule = model->isKinematic ? "2" : "1";
-    const bool hasTable = model->source == HardeningSource::Points;
-    const Cell table = hasTable ? Cell(numberOf(deck)) : blank;
-    const Cell modulus = hasTable ? blank : Cell(model->modulus);
+    const bool isTabulated = model->source == HardeningSource::Points;
+    const Cell table = isTabulated ? Cell(numberOf(deck)) : blank;
+    const Cell modulus = isTabulated ? blank : Cell(model->modulus);
     writeEntry(deck, "MATS1", {numberOf(deck), table, "PLASTIC", modulus, "1", rule, model->yieldStress});
-    if (hasTable) {
+    if (isTabulated) {
         writeStressStrainTable(deck, *model);
         deck.convert(Id::PlasticStrain, makeMessage(Text::AsTotalStrain));
     }

@@ -36,6 +36,7 @@ std::vector<std::uint32_t> numbersOf(const std::vector<DeckMaterial>& materials,
     if (rules.largestNumber == 0)
         return std::vector<std::uint32_t>(materials.size(), 0);
     std::vector<std::optional<std::uint32_t>> wanted;
+    wanted.reserve(materials.size());
     for (const DeckMaterial& material : materials)
         wanted.push_back(material.number);
     return numberMaterials(wanted, options.firstNumber, rules.largestNumber);

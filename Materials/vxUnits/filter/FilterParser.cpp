@@ -112,8 +112,11 @@ const UnitSystem& systemOf(const ReadingContext& context)
 
 ReadingTarget targetOf(const DerivedQuantity& derived, const ReadingContext& context)
 {
-    return {UnitSystem::si().unitOf(derived.dimension), systemOf(context).unitOf(derived.dimension),
-            TemperatureMeaning::Refused, derived.name, {}};
+    return {UnitSystem::si().unitOf(derived.dimension),
+            systemOf(context).unitOf(derived.dimension),
+            TemperatureMeaning::Refused,
+            derived.name,
+            {}};
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "plausibility/KindFit.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/Quantity.h"
 
 #include <algorithm>
@@ -82,6 +83,9 @@ constexpr MessageText remedyReciprocal{"plausibility.remedy-reciprocal",
 constexpr MessageText remedyStresses{"plausibility.remedy-stresses", "The stresses look like %1: convert them"};
 constexpr MessageText remedySheet{"plausibility.remedy-sheet",
                                   "The stresses look like %1, and the density like %2: convert them"};
+constexpr MessageText remedySheetWithHeat{
+    "plausibility.remedy-sheet-with-heat",
+    "The stresses look like %1, the density like %2, and the specific heat like %3: convert them"};
 constexpr MessageText remedySystem{"plausibility.remedy-system", "The values look like %1: convert the material"};
 
 std::string nameOf(std::int32_t id)
@@ -211,6 +215,10 @@ Message remedyMessage(const Slip& slip, const MaterialValues& values, const Mate
 {
     if (!slip.system.empty())
         return {remedySystem.id, remedySystem.english, {slip.system}};
+    const auto heat = std::find_if(slip.changes.begin(), slip.changes.end(),
+                                   [](const Change& change) { return change.id == vxMat::PropertyId::SpecificHeat; });
+    if (!slip.density.empty() && heat != slip.changes.end())
+        return {remedySheetWithHeat.id, remedySheetWithHeat.english, {slip.unit, slip.density, heat->unit}};
     if (!slip.density.empty())
         return {remedySheet.id, remedySheet.english, {slip.unit, slip.density}};
     if (!slip.unit.empty())
@@ -231,7 +239,8 @@ void addDoubtTexts(std::vector<MessageText>& texts)
 {
     for (const RuleText& one : ruleTexts)
         texts.push_back(one.text);
-    texts.insert(texts.end(), {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySheet, remedySystem});
+    texts.insert(texts.end(), {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySheet,
+                               remedySheetWithHeat, remedySystem});
 }
 
 } // namespace vxUnits

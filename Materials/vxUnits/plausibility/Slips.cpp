@@ -178,7 +178,7 @@ void addStresses(std::vector<Slip>& slips, const MaterialValues& values)
     }
 }
 
-/// Adds slips of the density and all stresses, as data sheets give them.
+/// Adds slips of the density and all stresses, and of the specific heat too, as data sheets give them.
 void addDataSheets(std::vector<Slip>& slips, const MaterialValues& values)
 {
     struct Sheet
@@ -186,18 +186,19 @@ void addDataSheets(std::vector<Slip>& slips, const MaterialValues& values)
         const char* stress;
         const char* density;
         double rareness;
+        const char* heat = nullptr; ///< null for the unit of the catalogue
     };
-    constexpr Sheet sheets[] = {{"MPa", "g/cm^3", 0.2},
-                                {"GPa", "g/cm^3", 0.4},
-                                {"psi", "lb/in^3", 0.6},
-                                {"psi", "lb/ft^3", 0.6},
-                                {"ksi", "lb/in^3", 0.7}};
+    constexpr Sheet sheets[] = {{"MPa", "g/cm^3", 0.2},  {"MPa", "g/cm^3", 0.2, "kJ/(kg K)"},
+                                {"GPa", "g/cm^3", 0.4},  {"psi", "lb/in^3", 0.6},
+                                {"psi", "lb/ft^3", 0.6}, {"ksi", "lb/in^3", 0.7}};
     if (!values.has(Id::Density))
         return;
     for (const Sheet& sheet : sheets) {
         auto changes = stressChanges(values, sheet.stress, Unit::parse(sheet.stress)->factor());
-        if (changes.empty())
+        if (changes.empty() || (sheet.heat != nullptr && !values.has(Id::SpecificHeat)))
             continue;
+        if (sheet.heat != nullptr)
+            changes.push_back({Id::SpecificHeat, sheet.heat, Unit::parse(sheet.heat)->factor(), false});
         changes.push_back({Id::Density, sheet.density, Unit::parse(sheet.density)->factor(), false});
         slips.push_back({std::move(changes), "", sheet.stress, sheet.rareness, sheet.density});
     }

@@ -9,9 +9,10 @@ namespace commandline {
 /// The exit statuses of the program.
 enum class Status : int
 {
-    Clean = 0,    ///< done; no findings
-    Findings = 1, ///< done; the input has errors or differences
-    Error = 2,    ///< not done: an invalid command line, an unreadable file, a failed write
+    Clean = 0,         ///< done; no findings
+    Findings = 1,      ///< done; the input has errors or differences
+    Error = 2,         ///< not done: an invalid command line, an unreadable file, a failed write
+    Interrupted = 130, ///< the user ended it (Ctrl+C); nothing is written
 };
 
 /// The output of a subcommand and its exit status.

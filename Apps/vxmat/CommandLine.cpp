@@ -6,11 +6,13 @@
 #include "Check.h"
 #include "ChosenUnits.h"
 #include "Convert.h"
+#include "Curve.h"
 #include "Deck.h"
 #include "Diff.h"
 #include "Export.h"
 #include "Files.h"
 #include "Find.h"
+#include "Fit.h"
 #include "Listings.h"
 #include "NewProject.h"
 #include "Query.h"
@@ -62,6 +64,12 @@ private:
     void addQuery();
     void addSet();
     void addFind();
+    void addCurve();
+    void addCurvePoints(CLI::App* command);
+    void addCurveModel(CLI::App* command);
+    void addFit();
+    void addTestOptions(CLI::App* command);
+    void addFitSettings(CLI::App* command);
     void addConvert();
     void addUnitListing();
     void addDeck();
@@ -92,6 +100,8 @@ private:
     std::string m_unit;
     Setting m_setting;
     DeckRequest m_deck;
+    CurveArguments m_curve;
+    FitArguments m_fit;
     std::string m_project = "0";
     std::string m_examples;
 };
@@ -113,11 +123,14 @@ CommandLine::CommandLine()
     addDiff();
     addQuery();
     addFind();
+    addCurve();
+    addFit();
     addConvert();
     addUnitListing();
     addDeck();
     addSolvers();
-    m_app.footer("Examples:" + m_examples + "\n\nExit status: 0 success, 1 findings or differences, 2 error.");
+    m_app.footer("Examples:" + m_examples +
+                 "\n\nExit status: 0 success, 1 findings or differences, 2 error, 130 ended by Ctrl+C.");
 }
 
 CLI::App* CommandLine::addCommand(const std::string& name, const std::string& description, const std::string& example,
@@ -318,6 +331,154 @@ void CommandLine::addFind()
         ->required();
     addUnits(command);
     addForm(command);
+}
+
+void CommandLine::addCurve()
+{
+    CLI::App* const command = addCommand(
+        "curve",
+        "Print stress, strain or modulus of materials in a test, as comma-separated values, or write them to "
+        "a file",
+        R"(vxmat curve "Elastomer Mooney-Rivlin" --mode uniaxial --from 0.5 --to 3 --points 26)",
+        [this] { return printCurves(m_curve, form(), units(), existing()); });
+    command
+        ->add_option("NAME|FILE", m_curve.sources,
+                     "Library materials, and projects or documents, of which all materials are drawn; - is standard "
+                     "input")
+        ->required();
+    addCurvePoints(command);
+    addCurveModel(command);
+    addUnits(command);
+    command->add_option("-o,--output", m_curve.output, "The file to write; - is standard output, the default")
+        ->type_name("FILE.csv");
+    command->add_flag("--force", m_force, "Replace an existing file");
+    addForm(command);
+}
+
+void CommandLine::addCurvePoints(CLI::App* command)
+{
+    command
+        ->add_option("--mode", m_curve.mode,
+                     "The test: uniaxial, equibiaxial, planar, volumetric (against stretch), simple-shear (amount of "
+                     "shear), plastic (plastic strain), tensile (engineering strain), yield (pressure), creep, "
+                     "relaxation, shear-creep (time), creep-rate (stress), dynamic (frequency)")
+        ->type_name("MODE")
+        ->required();
+    command->add_option("--from", m_curve.from, "The first abscissa, with or without a unit: 0.5, \"1 h\"")
+        ->type_name("A");
+    command->add_option("--to", m_curve.to, "The last abscissa")->type_name("B");
+    command->add_option("--points", m_curve.points, "The number of abscissas; 101 if not given")->type_name("N");
+    command->add_flag("--log", m_curve.logarithmic, "Space the abscissas by equal factors");
+    command->add_option("--at", m_curve.at, "The abscissas, instead of --from and --to")->type_name("X,Y,...");
+}
+
+void CommandLine::addCurveModel(CLI::App* command)
+{
+    command
+        ->add_option("--model", m_curve.model,
+                     "Only this model of the materials: linear-elasticity, neo-hooke, mooney-rivlin, arruda-boyce, "
+                     "mises, drucker-prager, mohr-coulomb, norton, visco-elasticity")
+        ->type_name("MODEL");
+    command
+        ->add_option("--material", m_curve.materials,
+                     "Of files, only the material with this label or number; may be repeated")
+        ->type_name("MATERIAL")
+        ->allow_extra_args(false);
+    command->add_flag("--incompressible", m_curve.incompressible, "Ignore D1 and Poisson's ratio");
+    command->add_flag("--full", m_curve.full, "Add slope, lateral stretch and volume ratio");
+    command->add_flag("--langevin", m_curve.inverseLangevin,
+                      "Draw Arruda-Boyce with the inverse Langevin function instead of its five-term series");
+    command->add_option("--stress", m_curve.stresses, "The stresses of creep curves")->type_name("X,Y,...");
+    command->add_option("--time", m_curve.time, "The time of creep rates; 1 s if not given")->type_name("TIME");
+    command->add_option("--cohesion", m_curve.cohesion, "The cohesion of a yield surface")->type_name("STRESS");
+}
+
+void CommandLine::addFit()
+{
+    CLI::App* const command =
+        addCommand("fit", "Fit material models to measured tests, and compare them",
+                   "vxmat fit uniaxial=pull.csv planar=shear.csv --model all --into parts.vxmat --as Seal",
+                   [this] { return fitModels(m_fit, form(), units(), existing()); });
+    command
+        ->add_option(
+            "[MODE=]FILE", m_fit.tests.files,
+            "Files of comma-separated values or the like, each with the test that it is of; - is standard input")
+        ->required();
+    command
+        ->add_option(
+            "--mode", m_fit.tests.mode,
+            "The test of files without MODE=: uniaxial, equibiaxial, planar, simple-shear, volumetric, plastic, "
+            "tensile, creep, creep-rate, relaxation")
+        ->type_name("MODE");
+    addFitSettings(command);
+    addTestOptions(command);
+    command->add_option("--into", m_fit.project, "The project file that gets the constants of the best model")
+        ->type_name("PROJECT");
+    command
+        ->add_option("--as", m_fit.label, "The label of the material in this project, which is added if it is missing")
+        ->type_name("NAME");
+    command->add_flag("--force", m_force, "Take over a lock that a program on another computer has left");
+    addUnits(command);
+    addForm(command);
+}
+
+void CommandLine::addFitSettings(CLI::App* command)
+{
+    FitSettings& settings = m_fit.settings;
+    command
+        ->add_option("--model", settings.models,
+                     "all, or one of neo-hooke, mooney-rivlin, mooney-rivlin-c11, arruda-boyce, multilinear, bilinear, "
+                     "norton, visco-elasticity; may be repeated")
+        ->type_name("MODEL")
+        ->allow_extra_args(false)
+        ->required();
+    command
+        ->add_option("--stable", settings.stability,
+                     "Where rubber must be stable: data (the stretches of the data, the default), none, or FROM:TO")
+        ->type_name("RANGE");
+    command
+        ->add_option(
+            "--error", settings.error,
+            "What is made small: differences by the largest value of their test (largest, the default), by each "
+            "value (each), or as they are (absolute)")
+        ->type_name("MEASURE");
+    command
+        ->add_option("--bound", settings.bounds,
+                     "Bounds of a constant, CONSTANT=LOWER:UPPER, or its value, CONSTANT=VALUE; may be repeated")
+        ->type_name("BOUND")
+        ->allow_extra_args(false);
+    command->add_option("--youngs-modulus", settings.youngsModulus, "Of a metal, instead of the slope of the curve")
+        ->type_name("STRESS");
+    command->add_option("--poissons-ratio", settings.poissonsRatio, "Of a metal; 0.5 if not given")
+        ->type_name("NUMBER");
+    command->add_option("--offset", settings.offset, "The plastic strain at which a metal yields; 0.2 % if not given")
+        ->type_name("STRAIN");
+    command
+        ->add_option("--tolerance", settings.tolerance,
+                     "Of a multilinear curve, as a part of its largest stress; 0.5 % if not given")
+        ->type_name("PART");
+}
+
+void CommandLine::addTestOptions(CLI::App* command)
+{
+    TestArguments& tests = m_fit.tests;
+    const auto add = [command](const char* name, std::vector<std::string>& values, const char* type,
+                               const std::string& text) {
+        command->add_option(name, values, text + "; TEST=" + type + " for one of several tests")
+            ->type_name(type)
+            ->allow_extra_args(false);
+    };
+    add("--x-column", tests.xColumns, "COLUMN", "The column of strain, stretch, time or stress, by its name or number");
+    add("--y-column", tests.yColumns, "COLUMN", "The column of what was measured");
+    add("--x-measure", tests.xMeasures, "MEASURE",
+        "What the column has: stretch, engineering-strain, true-strain, volume-ratio, volumetric-strain, ...");
+    add("--y-measure", tests.yMeasures, "MEASURE", "Likewise: nominal-stress, true-stress, pressure, ...");
+    add("--x-unit", tests.xUnits, "UNIT", "The unit of the column");
+    add("--y-unit", tests.yUnits, "UNIT", "The unit of the column of what was measured");
+    add("--stress", tests.stresses, "STRESS", "The stress of a creep test");
+    add("--weight", tests.weights, "NUMBER", "The weight of a test, 1 if not given");
+    add("--separator", tests.separators, "SIGN", "comma, semicolon, tab, space or bar, if it is not understood");
+    add("--decimal-mark", tests.decimalMarks, "SIGN", "point or comma, if it is not understood");
 }
 
 void CommandLine::addConvert()

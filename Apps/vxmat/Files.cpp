@@ -49,7 +49,7 @@ bool isHopeless(const std::string& beginning)
 }
 
 /// Reads an input of unknown length.
-std::string readAll(const std::string& path, QFile& file)
+std::string readAll(const std::string& path, QFile& file, Content kind)
 {
     constexpr qint64 blockSize = 1 << 20;
     std::string content;
@@ -58,7 +58,7 @@ std::string readAll(const std::string& path, QFile& file)
     while (content.size() <= vxjson::longestText && (count = file.read(block.data(), blockSize)) > 0) {
         const bool isFirst = content.empty();
         content.append(block, 0, static_cast<std::size_t>(count));
-        if (isFirst && isHopeless(content))
+        if (isFirst && kind == Content::Json && isHopeless(content))
             break;
     }
     if (count < 0)
@@ -163,13 +163,13 @@ bool isFile(const std::string& argument)
            QFile::exists(QFile::decodeName(argument.c_str()));
 }
 
-std::string readFile(const std::string& path)
+std::string readFile(const std::string& path, Content content)
 {
     if (path == standardStream) {
         QFile input;
         if (!input.open(stdin, QIODevice::ReadOnly))
             fail("standard input", input.errorString());
-        return readAll("standard input", input);
+        return readAll("standard input", input, content);
     }
     const QString name = toQString(path);
     const QFileInfo info(name);
@@ -183,7 +183,7 @@ std::string readFile(const std::string& path)
     QFile opened;
     if (!opened.open(*descriptor, QIODevice::ReadOnly))
         fail(path, opened.errorString());
-    return readAll(path, opened);
+    return readAll(path, opened, content);
 }
 
 bool isProjectFile(const std::string& path)

@@ -16,10 +16,17 @@ inline constexpr const char* standardStream = "-";
 /// slash or a dot.
 bool isFile(const std::string& argument);
 
+/// What a file that is read may contain.
+enum class Content
+{
+    Json, ///< reading an input of unknown length ends at the first part that cannot be JSON
+    Any
+};
+
 /// Returns the whole content of a file, of standard input, or of a file that this process has open already (/dev/stdin,
 /// /dev/fd/3). Refuses other pipes and devices, because reading them may never begin or never end.
 /// \throws Failure if it cannot be read, or is larger than 2 GiB
-std::string readFile(const std::string& path);
+std::string readFile(const std::string& path, Content content = Content::Json);
 
 /// Returns whether a path is the path of a regular file that is a project file.
 bool isProjectFile(const std::string& path);

@@ -1,0 +1,44 @@
+#include "Findings.h"
+
+#include <utility>
+
+namespace commandline {
+
+namespace {
+
+using vxConstitutive::Finding;
+using vxConstitutive::Severity;
+
+const char* nameOf(Severity severity)
+{
+    static constexpr const char* names[] = {"note", "warning", "error"};
+    return names[static_cast<std::size_t>(severity)];
+}
+
+} // namespace
+
+std::vector<std::string> messagesAbout(const std::string& title, const std::vector<Finding>& findings)
+{
+    std::vector<std::string> messages;
+    for (const Finding& finding : findings) {
+        const bool isNote = findingRecord(finding.id).severity == Severity::Note;
+        messages.push_back((isNote ? "note: " : "") + title + ": " + describe(finding));
+    }
+    return messages;
+}
+
+Json::Value findingsToJson(const std::vector<Finding>& findings)
+{
+    Json::Value json = Json::arrayValue;
+    for (const Finding& finding : findings) {
+        const vxConstitutive::FindingRecord& record = findingRecord(finding.id);
+        Json::Value item;
+        item["id"] = record.key;
+        item["severity"] = nameOf(record.severity);
+        item["message"] = describe(finding);
+        json.append(std::move(item));
+    }
+    return json;
+}
+
+} // namespace commandline

@@ -1,0 +1,96 @@
+#include "Fit.h"
+
+#include "FitReport.h"
+#include "FitTarget.h"
+#include "Interruption.h"
+
+#include <utility>
+
+namespace commandline {
+
+namespace {
+
+using vxConstitutive::FitResult;
+using vxConstitutive::FitStatus;
+
+/// Returns the material that gets the constants; absent if none is asked for.
+std::optional<FitTarget> targetOf(const FitArguments& arguments)
+{
+    if (arguments.project.has_value() != arguments.label.has_value())
+        throw Failure("--into and --as belong together: the project file, and the label of the material");
+    if (!arguments.project)
+        return std::nullopt;
+    FitTarget target{*arguments.project, *arguments.label};
+    requireTarget(target);
+    return target;
+}
+
+/// Fits the models; empty if the user ended the fit.
+std::optional<std::vector<FitResult>> run(const Fitting& fitting)
+{
+    const Interruption interruption;
+    ProgressLine line;
+    vxConstitutive::FitControl control;
+    control.cancelled = Interruption::isRequested;
+    control.progress = [&line](const vxConstitutive::FitProgress& progress) { line.show(progress); };
+    std::vector<FitResult> results = fitting.run(control);
+    if (Interruption::isRequested())
+        return std::nullopt;
+    return results;
+}
+
+/// Returns whether a solver can use the constants of a fit.
+bool isUsable(const FitResult& result)
+{
+    return result.status == FitStatus::Done && !hasError(result.findings);
+}
+
+Json::Value toJson(const std::optional<FitTarget>& target, const FitResult& best)
+{
+    if (!target)
+        return {};
+    Json::Value json;
+    json["file"] = target->project;
+    json["material"] = target->label;
+    json["model"] = keyOf(best);
+    return json;
+}
+
+} // namespace
+
+Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& units, Existing existing)
+{
+    std::optional<FitTarget> target = targetOf(arguments);
+    Answer answer;
+    const std::vector<MeasuredTest> tests = readTests(arguments.tests, units.system(), answer);
+    if (answer.status == Status::Error)
+        return answer;
+    const auto results = run(Fitting(arguments.settings, tests, units.system()));
+    if (!results) {
+        answer.messages.emplace_back("the fit was ended; nothing is written");
+        answer.status = Status::Interrupted;
+        return answer;
+    }
+    answer.add(messagesAbout(*results));
+    const FitResult& best = results->front();
+    if (!isUsable(best)) {
+        answer.messages.emplace_back("no model with constants that a solver can use could be fitted");
+        answer.status = Status::Findings;
+        target.reset();
+    }
+    if (target)
+        writeFit(*target, best, existing, answer);
+    if (form == Form::Json) {
+        Json::Value json = fitToJson(tests, *results, units.system());
+        json["written"] = toJson(target, best);
+        answer.text = toJsonText(json);
+        return answer;
+    }
+    answer.text = fitText(tests, *results, units.system());
+    if (target)
+        answer.text +=
+            "\n" + printable(target->label) + ": " + keyOf(best) + " written to " + printable(target->project) + "\n";
+    return answer;
+}
+
+} // namespace commandline

@@ -1,0 +1,156 @@
+#include "FitTarget.h"
+
+#include "projectfile/ProjectFile.h"
+#include "vxMaterial/json/Utf8.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/Plausibility.h"
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace commandline {
+
+namespace {
+
+using projectfile::ObjectRecord;
+using projectfile::ProjectRecord;
+
+/// Returns the material with a label; null if there is none.
+ObjectRecord* findMaterial(const FitTarget& target, ProjectRecord& project)
+{
+    ObjectRecord* found = nullptr;
+    for (ObjectRecord& object : project.objects) {
+        if (object.material == nullptr || object.label != target.label)
+            continue;
+        if (found != nullptr)
+            throw Failure(target.project + ": several materials have the label \"" + target.label +
+                          "\"; give one of them another label");
+        found = &object;
+    }
+    return found;
+}
+
+/// Returns the first internal name of a new material that no object has.
+std::string freeInternalName(const ProjectRecord& project)
+{
+    std::set<std::string> names;
+    for (const ObjectRecord& object : project.objects)
+        names.insert(object.internalName);
+    const std::string base = "Material";
+    std::string name = base;
+    for (std::size_t number = 1; names.count(name) > 0; ++number)
+        name = base + std::to_string(number);
+    return name;
+}
+
+/// Adds the record of an object to the database of the host, if the project has one.
+void addToDatabase(const ObjectRecord& object, ProjectRecord& project)
+{
+    if (!project.database.isObject())
+        return;
+    Json::Value record;
+    record["obj_id"] = object.objectId;
+    record["class"] = object.className;
+    record["name_internal"] = object.internalName;
+    record["label"] = object.label;
+    project.database["objects"]["object"].append(std::move(record));
+}
+
+ObjectRecord& addMaterial(const FitTarget& target, ProjectRecord& project)
+{
+    if (project.className != projectfile::materialProjectClass)
+        throw Failure(target.project +
+                      ": materials can only be added to a material project; this is a project of the "
+                      "class " +
+                      project.className);
+    if (project.nextObjectId > std::numeric_limits<std::uint32_t>::max())
+        throw Failure(target.project + ": the project has no number left for another material");
+    ObjectRecord object;
+    object.objectId = static_cast<std::uint32_t>(project.nextObjectId++);
+    object.className = projectfile::materialClass;
+    object.internalName = freeInternalName(project);
+    object.label = target.label;
+    object.ownMaterial = std::make_unique<vxMat::CMaterial>(target.label.c_str());
+    object.material = object.ownMaterial.get();
+    addToDatabase(object, project);
+    return project.objects.emplace_back(std::move(object));
+}
+
+ObjectRecord& findOrAdd(const FitTarget& target, ProjectRecord& project)
+{
+    if (target.label.empty() || vxjson::lengthOfUtf8(target.label) != target.label.size())
+        throw Failure("--as: a label that is UTF-8 and not empty is needed");
+    ObjectRecord* const object = findMaterial(target, project);
+    return object != nullptr ? *object : addMaterial(target, project);
+}
+
+void setValue(const vxConstitutive::PropertyValue& value, vxMat::MaterialBase& material)
+{
+    const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(value.propertyId);
+    auto property = record->create();
+    if (record->kind == vxMat::ValueKind::Word)
+        property->text = value.text;
+    else if (record->kind == vxMat::ValueKind::NumberList)
+        property->values = value.values;
+    else if (record->kind != vxMat::ValueKind::ModelSwitch)
+        property->value = value.value;
+    material.setProperty(value.propertyId, std::move(property));
+}
+
+void applyChange(const vxConstitutive::MaterialChange& change, vxMat::MaterialBase& material)
+{
+    for (const std::int32_t propertyId : change.remove)
+        material.removeProperty(material.findProperty(propertyId));
+    for (const vxConstitutive::PropertyValue& value : change.set)
+        setValue(value, material);
+}
+
+void addDoubts(const vxConstitutive::MaterialChange& change, const vxMat::MaterialBase& material, Answer& answer)
+{
+    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
+        if (std::any_of(change.set.begin(), change.set.end(),
+                        [&](const vxConstitutive::PropertyValue& value) { return value.propertyId == doubt.id; }))
+            answer.messages.push_back("doubt: " + doubt.text());
+    }
+}
+
+ProjectRecord readProject(const FitTarget& target, const std::string& text)
+{
+    try {
+        return projectfile::readProject(text);
+    } catch (const projectfile::ContentError& error) {
+        throw Failure(target.project + ": " + error.what());
+    }
+}
+
+} // namespace
+
+void requireTarget(const FitTarget& target)
+{
+    ProjectRecord project = readProject(target, readFile(target.project));
+    findOrAdd(target, project);
+}
+
+void writeFit(const FitTarget& target, const vxConstitutive::FitResult& result, Existing existing, Answer& answer)
+{
+    const auto change = [&](const std::string& text) {
+        ProjectRecord project = readProject(target, text);
+        for (const std::string& doubt : project.doubts)
+            answer.messages.push_back(target.project + ": " + doubt);
+        vxMat::MaterialBase& material = *findOrAdd(target, project).ownMaterial;
+        applyChange(result.change, material);
+        addDoubts(result.change, material, answer);
+        try {
+            return projectfile::writeProject(project);
+        } catch (const projectfile::ContentError& error) {
+            throw Failure(target.project + ": " + error.what());
+        }
+    };
+    changeProjectFile(target.project, change, existing);
+}
+
+} // namespace commandline

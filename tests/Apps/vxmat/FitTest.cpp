@@ -1,0 +1,478 @@
+#include "DataFile.h"
+#include "SchemaJudge.h"
+#include "VxmatTesting.h"
+
+#include "projectfile/ProjectFile.h"
+#include "projectfile/ProjectStore.h"
+#include "vxMaterial/json/JsonText.h"
+
+#include <QProcess>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+using testing::AllOf;
+using testing::DoubleNear;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+using vxtest::Folder;
+using vxtest::Outcome;
+using vxtest::vxmat;
+
+/// Returns the table of a uniaxial test of an incompressible Neo-Hookean material: P = 2 C10 (l - 1/l^2), in MPa.
+std::string neoHookean(double c10, const std::string& header)
+{
+    std::string text = header;
+    for (int i = 1; i <= 10; ++i) {
+        const double stretch = 1.0 + 0.1 * i;
+        text +=
+            std::to_string(stretch) + "," + std::to_string(2.0 * c10 * (stretch - 1.0 / (stretch * stretch))) + "\n";
+    }
+    return text;
+}
+
+constexpr const char* header = "stretch,nominal stress [MPa]\n";
+
+/// Returns the JSON output of a fit.
+Json::Value fitJson(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), "fit");
+    arguments.emplace_back("--json");
+    const Outcome run = vxmat(arguments);
+    EXPECT_EQ(run.status, 0) << run.err;
+    return vxjson::readJsonText(run.out).document;
+}
+
+/// Returns the constant of a fit with a symbol; null if there is none.
+Json::Value constantOf(const Json::Value& fit, const std::string& symbol)
+{
+    for (const Json::Value& constant : fit["constants"]) {
+        if (constant["symbol"].asString() == symbol)
+            return constant;
+    }
+    return {};
+}
+
+class Fit : public testing::Test
+{
+protected:
+    std::string file(const std::string& name, const std::string& text) const { return m_folder.file(name, text); }
+    const Folder& folder() const { return m_folder; }
+
+    /// Returns a project with a material "Seal" of structural steel.
+    std::string project() const
+    {
+        const std::string path = m_folder.path("p.vxmat");
+        EXPECT_EQ(vxmat({"new", "Structural Steel=Seal", "-o", path}).status, 0);
+        return path;
+    }
+
+private:
+    Folder m_folder;
+};
+
+TEST_F(Fit, FindsTheConstantsThatMadeTheData)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const Json::Value json = fitJson({"uniaxial=" + data, "--model", "neo-hooke"});
+    ASSERT_EQ(json["fits"].size(), 1U);
+    const Json::Value& fit = json["fits"][0];
+    EXPECT_EQ(fit["model"].asString(), "neo-hooke");
+    EXPECT_EQ(fit["status"].asString(), "done");
+    EXPECT_THAT(constantOf(fit, "C10")["value"].asDouble(), DoubleNear(0.3e6, 1.0));
+    EXPECT_EQ(constantOf(fit, "C10")["id"].asInt(), 26);
+    EXPECT_GT(fit["r_squared"].asDouble(), 0.999999);
+    EXPECT_EQ(json["tests"][0]["points"].asInt(), 10);
+    EXPECT_EQ(json["tests"][0]["x"]["measure"].asString(), "stretch");
+    EXPECT_EQ(json["tests"][0]["y"]["unit"].asString(), "MPa");
+    EXPECT_TRUE(json["written"].isNull());
+    EXPECT_THAT(
+        constantOf(fitJson({data, "--mode", "uniaxial", "--model", "neo-hooke", "--units", "mm-t-s"})["fits"][0],
+                   "C10")["value"]
+            .asDouble(),
+        DoubleNear(0.3, 1e-6));
+}
+
+TEST_F(Fit, PrintsWhatWasUnderstoodAndTheModelsSideBySide)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const Outcome run = vxmat({"fit", "uniaxial=" + data, "--model", "all", "--units", "mm-t-s"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, StartsWith(data + ": uniaxial tension and compression, 10 points; column \"stretch\" is the "
+                                           "stretch in 1, column \"nominal stress\" is the nominal stress in MPa\n"));
+    for (const char* const part : {"neo-hooke", "mooney-rivlin", "mooney-rivlin-c11", "arruda-boyce", "C10 [MPa]",
+                                   "lm [1]", "residual", "R2", "relative error, ", "stable, equibiaxial"})
+        EXPECT_THAT(run.out, HasSubstr(part));
+}
+
+TEST_F(Fit, RanksTheModelsOfPublishedTests)
+{
+    const auto test = [](const char* mode) {
+        return std::string(mode) + "=" + vxtest::dataPath("rubber/treloar-" + std::string(mode) + ".csv");
+    };
+    const Json::Value json = fitJson({test("uniaxial"), test("equibiaxial"), test("planar"), "--model", "all"});
+    ASSERT_EQ(json["fits"].size(), 4U);
+    double last = 0.0;
+    for (const Json::Value& fit : json["fits"]) {
+        EXPECT_GE(fit["residual_per_freedom"].asDouble(), last);
+        last = fit["residual_per_freedom"].asDouble();
+        EXPECT_EQ(fit["tests"].size(), 3U);
+    }
+    EXPECT_EQ(json["fits"][0]["model"].asString(), "arruda-boyce") << "the only model that stiffens at large stretches";
+    // The Gaussian theory of this rubber has a shear modulus of 0.39 MPa, twice C10, at small stretches.
+    const auto neoHooke = std::find_if(json["fits"].begin(), json["fits"].end(),
+                                       [](const Json::Value& fit) { return fit["model"].asString() == "neo-hooke"; });
+    ASSERT_NE(neoHooke, json["fits"].end());
+    EXPECT_THAT(constantOf(*neoHooke, "C10")["value"].asDouble(), DoubleNear(0.195e6, 0.02e6));
+}
+
+TEST_F(Fit, SaysWhichOptionGivesWhatTheFileDoesNotTell)
+{
+    const std::string noUnit = file("unit.csv", neoHookean(0.3, "stretch,nominal stress\n"));
+    const Outcome unit = vxmat({"fit", "uniaxial=" + noUnit, "--model", "neo-hooke"});
+    EXPECT_EQ(unit.status, 2);
+    EXPECT_EQ(unit.out, "");
+    EXPECT_THAT(unit.err, AllOf(HasSubstr("Column \"nominal stress\" has no unit"),
+                                HasSubstr(noUnit + ": --y-unit gives the unit of the column")));
+    for (const std::string& option : {std::string("MPa"), noUnit + "=MPa", std::string("uniaxial=MPa"),
+                                      std::string("1=MPa"), "uniaxial=" + noUnit + "=MPa"})
+        EXPECT_EQ(vxmat({"fit", "uniaxial=" + noUnit, "--model", "neo-hooke", "--y-unit", option}).status, 0) << option;
+
+    const std::string noHeader = file("header.csv", neoHookean(0.3, ""));
+    const Outcome measure = vxmat({"fit", "uniaxial=" + noHeader, "--model", "neo-hooke"});
+    EXPECT_EQ(measure.status, 2);
+    EXPECT_THAT(measure.err,
+                AllOf(HasSubstr("--x-measure gives what is measured: stretch, engineering-strain, true-strain"),
+                      HasSubstr("--y-measure gives what is measured: nominal-stress, true-stress")));
+    EXPECT_EQ(vxmat({"fit", "uniaxial=" + noHeader, "--model", "neo-hooke", "--x-measure", "stretch", "--y-measure",
+                     "nominal-stress", "--y-unit", "MPa"})
+                  .status,
+              0);
+
+    const std::string odd = file("odd.csv", "a [1],b [MPa],c [MPa]\n1.1,1,2\n1.2,2,3\n1.3,3,4\n");
+    const Outcome column = vxmat({"fit", "uniaxial=" + odd, "--model", "neo-hooke"});
+    EXPECT_EQ(column.status, 2);
+    EXPECT_THAT(column.err, HasSubstr("--x-column gives the column by its name or number: 1 \"a\", 2 \"b\", 3 \"c\""));
+    const Json::Value json = fitJson({"uniaxial=" + odd, "--model", "neo-hooke", "--x-column", "A", "--x-measure",
+                                      "stretch", "--y-column", "3", "--y-measure", "nominal-stress"});
+    EXPECT_EQ(json["tests"][0]["y"]["name"].asString(), "c");
+
+    const std::string creep = file("creep.csv", "time [h],creep strain [%]\n1,0.1\n2,0.2\n3,0.3\n4,0.4\n");
+    EXPECT_THAT(vxmat({"fit", "creep=" + creep, "--model", "norton"}).err,
+                HasSubstr("--stress gives the stress of the test"));
+}
+
+TEST_F(Fit, ReadsDecimalCommas)
+{
+    const std::string data = file("a.csv", "stretch;nominal stress [MPa]\n1,5;0,633333\n2,0;1,05\n2,5;1,404\n");
+    const Json::Value json = fitJson({"uniaxial=" + data, "--model", "neo-hooke"});
+    EXPECT_THAT(constantOf(json["fits"][0], "C10")["value"].asDouble(), DoubleNear(0.3e6, 1.0));
+    EXPECT_EQ(json["tests"][0]["separator"].asString(), ";");
+    EXPECT_EQ(json["tests"][0]["decimal_mark"].asString(), ",");
+}
+
+TEST_F(Fit, WritesTheBestModelIntoAMaterial)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const std::string target = project();
+    const Outcome run = vxmat({"fit", "uniaxial=" + data, "--model", "neo-hooke", "--into", target, "--as", "Seal"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("\nSeal: neo-hooke written to " + target + "\n"));
+    const auto record = projectfile::readProject(vxtest::readText(target));
+    ASSERT_EQ(record.objects.size(), 1U);
+    const vxMat::MaterialBase& seal = *record.objects[0].material;
+    EXPECT_THAT(seal.findProperty(26)->value, DoubleNear(0.3e6, 1.0));
+    EXPECT_EQ(seal.findProperty(26)->unit, "Pa");
+    EXPECT_TRUE(seal.hasProperty(28)) << "the model is switched on";
+    EXPECT_FALSE(seal.hasProperty(31)) << "isotropic elasticity contradicts it";
+    EXPECT_TRUE(seal.hasProperty(4)) << "the density stays";
+    EXPECT_EQ(vxmat({"cards", target}).status, 0);
+}
+
+TEST_F(Fit, AddsTheMaterialIfTheProjectDoesNotHaveIt)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const std::string target = project();
+    const Outcome run = vxmat({"fit", "uniaxial=" + data, "--model", "neo-hooke", "--into", target, "--as", "New"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    const auto record = projectfile::readProject(vxtest::readText(target));
+    ASSERT_EQ(record.objects.size(), 2U);
+    EXPECT_EQ(record.objects[1].label, "New");
+    EXPECT_EQ(record.objects[1].objectId, 2U);
+    EXPECT_EQ(record.nextObjectId, 3U);
+    EXPECT_TRUE(record.doubts.empty());
+    EXPECT_EQ(record.objects[0].material->hasProperty(26), false) << "other materials stay as they are";
+    EXPECT_EQ(vxtest::faultsBySchema("project-file.schema.json", {target}), "");
+}
+
+TEST_F(Fit, WritesNothingIfTheProjectIsOpenElsewhere)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const std::string target = project();
+    const std::string before = vxtest::readText(target);
+    projectfile::FileLock lock(QString::fromStdString(target));
+    ASSERT_TRUE(lock.tryLock());
+    const Outcome run = vxmat({"fit", "uniaxial=" + data, "--model", "neo-hooke", "--into", target, "--as", "Seal"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("another program has it open"));
+    EXPECT_EQ(vxtest::readText(target), before);
+}
+
+TEST_F(Fit, WritesNothingIfTheConstantsAreOfNoUse)
+{
+    const std::string data = file("a.csv", "stretch,nominal stress [MPa]\n1.1,-1\n1.2,-2\n1.3,-3\n1.4,-4\n");
+    const std::string target = project();
+    const std::string before = vxtest::readText(target);
+    for (const char* const model : {"mooney-rivlin", "neo-hooke"}) {
+        const Outcome run = vxmat({"fit", "uniaxial=" + data, "--model", model, "--into", target, "--as", "Seal"});
+        EXPECT_EQ(run.status, 1) << run.out;
+        EXPECT_THAT(run.out, Not(HasSubstr("written")));
+        EXPECT_THAT(run.err, HasSubstr("vxmat: no model with constants that a solver can use could be fitted\n"));
+        EXPECT_EQ(vxtest::readText(target), before);
+    }
+    const Outcome failed = vxmat({"fit", "uniaxial=" + data, "--model", "mooney-rivlin"});
+    EXPECT_THAT(failed.out, HasSubstr("mooney-rivlin (failed)"));
+    EXPECT_THAT(failed.err, HasSubstr("Check signs, units and the mode of the tests"));
+}
+
+/// Returns the engineering curve of a metal that yields at 200 MPa and hardens, in MPa, up to a strain of 8 %.
+std::string tensileTest()
+{
+    std::string text = "eng strain [%],eng stress [MPa]\n";
+    const double modulus = 200000.0;
+    const double yield = 200.0;
+    const double hardening = 1000.0;
+    for (int i = 0; i <= 160; ++i) {
+        const double strain = 0.0005 * i;
+        const double total = std::log1p(strain);
+        const double elastic = modulus * total;
+        const double plastic = (elastic - yield) / (modulus + hardening);
+        const double stress = elastic <= yield ? elastic : yield + hardening * plastic;
+        text += std::to_string(100.0 * strain) + "," + std::to_string(stress / (1.0 + strain)) + "\n";
+    }
+    return text;
+}
+
+TEST_F(Fit, MakesHardeningCurvesOfATensileTest)
+{
+    const std::string data = file("pull.csv", tensileTest());
+    const Json::Value json =
+        fitJson({"tensile=" + data, "--model", "all", "--youngs-modulus", "200 GPa", "--units", "mm-t-s"});
+    ASSERT_EQ(json["fits"].size(), 2U);
+    for (const Json::Value& fit : json["fits"]) {
+        if (fit["model"].asString() == "bilinear") {
+            EXPECT_THAT(constantOf(fit, "sigma0")["value"].asDouble(), DoubleNear(200.0, 3.0));
+            EXPECT_THAT(constantOf(fit, "H")["value"].asDouble(), DoubleNear(1000.0, 60.0));
+        } else {
+            EXPECT_EQ(fit["hardening"]["unit"].asString(), "MPa");
+            EXPECT_EQ(fit["hardening"]["plastic_strain"].size(), fit["hardening"]["yield_stress"].size());
+            EXPECT_EQ(fit["hardening"]["plastic_strain"][0].asDouble(), 0.0);
+        }
+    }
+    const std::string target = project();
+    const Outcome run = vxmat({"fit", "tensile=" + data, "--model", "multilinear", "--youngs-modulus", "200 GPa",
+                               "--into", target, "--as", "Seal"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, HasSubstr("plastic strain [1]  yield stress [Pa]"));
+    const auto record = projectfile::readProject(vxtest::readText(target));
+    EXPECT_EQ(record.objects[0].material->getPropertyText(37), "Multilinear");
+    EXPECT_EQ(record.objects[0].material->getPropertyText(33), "Mises");
+    EXPECT_GE(record.objects[0].material->getPropertyValues(38).size(), 2U);
+}
+
+TEST_F(Fit, FindsNortonsConstantsFromRates)
+{
+    // rate = 1e-20 s^3 in Pa and s
+    const std::string data = file("rates.csv", "stress [MPa],strain rate [1/s]\n10,10\n20,80\n30,270\n40,640\n");
+    const Json::Value json = fitJson({"creep-rate=" + data, "--model", "norton", "--units", "mm-t-s"});
+    EXPECT_THAT(constantOf(json["fits"][0], "n")["value"].asDouble(), DoubleNear(3.0, 1e-6));
+    EXPECT_THAT(constantOf(json["fits"][0], "A")["value"].asDouble(), DoubleNear(1e-2, 1e-7));
+    EXPECT_THAT(constantOf(json["fits"][0], "A")["unit"].asString(), HasSubstr("MPa"));
+}
+
+TEST_F(Fit, FindsRelaxation)
+{
+    std::string text = "time [s],modulus [MPa]\n";
+    for (int i = 0; i <= 20; ++i)
+        text += std::to_string(i) + "," + std::to_string(2.0 * (0.6 + 0.4 * std::exp(-i / 5.0))) + "\n";
+    const Json::Value json = fitJson({"relaxation=" + file("r.csv", text), "--model", "visco-elasticity"});
+    EXPECT_THAT(constantOf(json["fits"][0], "g")["value"].asDouble(), DoubleNear(0.4, 1e-5));
+    EXPECT_THAT(constantOf(json["fits"][0], "tau")["value"].asDouble(), DoubleNear(5.0, 1e-3));
+    EXPECT_TRUE(constantOf(json["fits"][0], "G0")["id"].isNull());
+}
+
+TEST_F(Fit, HoldsAConstantAtItsBounds)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const Json::Value fixed =
+        fitJson({"uniaxial=" + data, "--model", "mooney-rivlin", "--bound", "C01=0.05 MPa"})["fits"][0];
+    EXPECT_THAT(constantOf(fixed, "C01")["value"].asDouble(), DoubleNear(5e4, 1e-3));
+    EXPECT_EQ(constantOf(fixed, "C01")["determination"].asString(), "fixed");
+    const Json::Value bounded =
+        fitJson({"uniaxial=" + data, "--model", "neo-hooke", "--bound", "C10=0:0.2 MPa"})["fits"][0];
+    EXPECT_THAT(constantOf(bounded, "C10")["value"].asDouble(), DoubleNear(2e5, 1.0));
+    EXPECT_EQ(constantOf(bounded, "C10")["determination"].asString(), "at-bound");
+}
+
+TEST_F(Fit, RefusesAWrongCommandLine)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const std::string uniaxial = "uniaxial=" + data;
+    const std::string text = file("t.csv", "a\nb\n");
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{data, "--model", "all"}, data + ": say which test this is: --mode MODE or MODE=" + data},
+        {{data, "--mode", "torsion", "--model", "all"}, "--mode: \"torsion\" is not a test; the tests are uniaxial"},
+        {{"dynamic=" + data, "--model", "all"}, "dynamic=" + data + ": \"dynamic\" is not a test"},
+        {{"uniaxal=" + data, "--model", "all"}, "uniaxal=" + data + ": \"uniaxal\" is not a test"},
+        {{uniaxial, "--model", "ogden"}, "--model: \"ogden\" is not a model that can be fitted; possible are all, neo"},
+        {{uniaxial, "--model", "norton"}, "--model norton: this model is fitted to these tests: creep, creep-rate"},
+        {{uniaxial, "relaxation=" + data, "--model", "all", "--x-measure", "relaxation=time", "--y-measure",
+          "relaxation=modulus", "--x-unit", "relaxation=s", "--y-unit", "MPa", "--x-column", "relaxation=1",
+          "--y-column", "relaxation=2"},
+         "uniaxial and relaxation tests have no model in common"},
+        {{uniaxial, "--model", "all", "--stable", "always"}, "--stable: \"always\" is not one of data, none, FROM:TO"},
+        {{uniaxial, "--model", "all", "--stable", "2:1"}, "--stable: the stretches must be greater than 0 and rise"},
+        {{uniaxial, "--model", "all", "--error", "small"}, "--error: \"small\" is not one of largest, each, absolute"},
+        {{uniaxial, "--model", "all", "--bound", "C10"}, "--bound: \"C10\" must have the form"},
+        {{uniaxial, "--model", "all", "--bound", "n=3"},
+         "--bound: \"n\" is not a constant of these models; they have C10"},
+        {{uniaxial, "--model", "all", "--bound", "C10=2:1"}, "--bound C10: the lower bound is above the upper one"},
+        {{uniaxial, "--model", "all", "--bound", "C10=1 kg"}, "--bound C10: "},
+        {{uniaxial, "--model", "all", "--offset", "0.1"}, "--offset has no effect on these models"},
+        {{uniaxial, "--model", "all", "--weight", "-1"}, "--weight: a weight is at least 0"},
+        {{uniaxial, "--model", "all", "--separator", "dot"}, "--separator: \"dot\" is not one of comma, semicolon"},
+        {{uniaxial, "--model", "all", "--x-column", "7"},
+         "--x-column: there is no column \"7\"; the columns are 1 \"str"},
+        {{uniaxial, "--model", "all", "--x-measure", "time"}, "--x-measure: \"time\" is not measured in this test"},
+        {{uniaxial, "--model", "all", "--into", "x.vxmat"}, "--into and --as belong together"},
+        {{uniaxial, "--model", "all", "--into", "/no/x.vxmat", "--as", "a"}, "/no/x.vxmat: No such file or directory"},
+        {{uniaxial, "--model", "all", "--into", data, "--as", "a"}, data + ": "},
+        {{"uniaxial=/tmp", "--model", "all"}, "/tmp: Is a directory"},
+        {{"uniaxial=/dev/null", "--model", "all"}, "/dev/null: this is a device or a pipe"},
+        {{"uniaxial=/no/a.csv", "--model", "all"}, "/no/a.csv: No such file or directory"},
+        {{"uniaxial=" + text, "--model", "all"}, text + ": There are no lines with two numbers"},
+    };
+    for (const auto& [more, reason] : cases) {
+        std::vector<std::string> arguments{"fit"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        const Outcome run = vxmat(arguments);
+        EXPECT_EQ(run.status, 2) << reason;
+        EXPECT_EQ(run.out, "") << reason;
+        EXPECT_THAT(run.err, AllOf(StartsWith("vxmat: "), HasSubstr(reason)));
+    }
+}
+
+TEST_F(Fit, ReadsALongTableFromStandardInput)
+{
+    std::string text = header;
+    for (int i = 0; i < 100000; ++i)
+        text += "1.5,0.633333333333\n2.0,1.05\n";
+    const Outcome run = vxmat({"fit", "-", "--mode", "uniaxial", "--model", "neo-hooke", "--json"}, text);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(vxjson::readJsonText(run.out).document["tests"][0]["points"].asInt(), 200000);
+}
+
+TEST_F(Fit, PrintsJsonThatFitsItsSchema)
+{
+    const std::string rubber = file("a.csv", neoHookean(0.3, header));
+    const std::string metal = file("b.csv", tensileTest());
+    const std::string rates = file("c.csv", "stress [MPa],strain rate [1/h]\n10,1e-6\n20,8e-6\n30,2.7e-5\n40,6.4e-5\n");
+    const std::string target = project();
+    std::vector<std::string> files;
+    for (const std::vector<std::string>& run : std::vector<std::vector<std::string>>{
+             {"uniaxial=" + rubber, "--model", "all"},
+             {"uniaxial=" + rubber, "--model", "neo-hooke", "--into", target, "--as", "Seal"},
+             {"tensile=" + metal, "--model", "all", "--youngs-modulus", "200 GPa"},
+             {"creep-rate=" + rates, "--model", "all"}})
+    {
+        std::vector<std::string> arguments{"fit"};
+        arguments.insert(arguments.end(), run.begin(), run.end());
+        arguments.emplace_back("--json");
+        const Outcome outcome = vxmat(arguments);
+        EXPECT_EQ(outcome.status, 0) << outcome.err;
+        files.push_back(file("out" + std::to_string(files.size()) + ".json", outcome.out));
+    }
+    EXPECT_EQ(vxtest::faultsBySchema("fit.schema.json", files), "");
+}
+
+/// A terminal that a program can use as its standard error.
+class Terminal
+{
+public:
+    Terminal() : m_master(posix_openpt(O_RDWR | O_NOCTTY))
+    {
+        EXPECT_EQ(grantpt(m_master), 0);
+        EXPECT_EQ(unlockpt(m_master), 0);
+        m_slave = open(ptsname(m_master), O_RDWR | O_NOCTTY); // keeps the terminal open before and after the program
+    }
+    ~Terminal()
+    {
+        close(m_slave);
+        close(m_master);
+    }
+    Terminal(const Terminal&) = delete;
+    Terminal& operator=(const Terminal&) = delete;
+
+    QString path() const { return QString::fromLocal8Bit(ptsname(m_master)); }
+
+    /// Waits until the program has written something.
+    std::string read() const
+    {
+        std::string text(4096, '\0');
+        const ssize_t count = ::read(m_master, text.data(), text.size());
+        text.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+        return text;
+    }
+
+private:
+    int m_master;
+    int m_slave = -1;
+};
+
+TEST_F(Fit, ShowsProgressOnATerminalAndEndsOnCtrlCWithoutWriting)
+{
+    // Tests of many points, and models that start from many places: this takes much longer than a signal.
+    const std::string data = file("a.csv", [] {
+        std::string text = header;
+        for (int i = 0; i < 4000; ++i) {
+            const double stretch = 1.0 + 0.001 * i;
+            text += std::to_string(stretch) + "," + std::to_string(std::sin(40.0 * stretch) + stretch) + "\n";
+        }
+        return text;
+    }());
+    const std::string target = project();
+    const std::string before = vxtest::readText(target);
+    QStringList arguments{QStringLiteral("fit")};
+    for (int i = 0; i < 40; ++i)
+        arguments << QString::fromStdString("uniaxial=" + data);
+    arguments << QStringLiteral("--model") << QStringLiteral("all") << QStringLiteral("--into")
+              << QString::fromStdString(target) << QStringLiteral("--as") << QStringLiteral("Seal");
+
+    const Terminal terminal;
+    QProcess process;
+    process.setStandardErrorFile(terminal.path());
+    process.start(QStringLiteral(VXMAT_PROGRAM), arguments);
+    ASSERT_TRUE(process.waitForStarted());
+    std::string shown;
+    while (shown.find(" %") == std::string::npos)
+        shown += terminal.read();
+    EXPECT_THAT(shown, HasSubstr("Neo-Hookean: 0 %"));
+    ASSERT_EQ(kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
+    ASSERT_TRUE(process.waitForFinished(120000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 130);
+    EXPECT_EQ(process.readAllStandardOutput().toStdString(), "");
+    EXPECT_EQ(vxtest::readText(target), before);
+}
+
+} // namespace

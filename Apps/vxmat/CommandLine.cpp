@@ -349,8 +349,10 @@ void CommandLine::addCurve()
     addCurvePoints(command);
     addCurveModel(command);
     addUnits(command);
-    command->add_option("-o,--output", m_curve.output, "The file to write; - is standard output, the default")
-        ->type_name("FILE.csv");
+    command
+        ->add_option("-o,--output", m_curve.output,
+                     "The file to write, a table or a picture; - is standard output, the default")
+        ->type_name("FILE.csv|.svg|.png|.pdf");
     command->add_flag("--force", m_force, "Replace an existing file");
     addForm(command);
 }
@@ -368,7 +370,7 @@ void CommandLine::addCurvePoints(CLI::App* command)
         ->type_name("A");
     command->add_option("--to", m_curve.to, "The last abscissa")->type_name("B");
     command->add_option("--points", m_curve.points, "The number of abscissas; 101 if not given")->type_name("N");
-    command->add_flag("--log", m_curve.logarithmic, "Space the abscissas by equal factors");
+    command->add_flag("--log", m_curve.logarithmic, "Space the abscissas by equal factors, in pictures too");
     command->add_option("--at", m_curve.at, "The abscissas, instead of --from and --to")->type_name("X,Y,...");
 }
 

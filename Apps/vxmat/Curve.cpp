@@ -1,5 +1,6 @@
 #include "Curve.h"
 
+#include "CurvePicture.h"
 #include "CurveSeries.h"
 #include "CurveTable.h"
 
@@ -23,18 +24,23 @@ CurveChoice choiceOf(const CurveArguments& arguments)
     return choice;
 }
 
-bool endsWith(const std::string& path, std::string_view suffix)
+bool isTableName(const std::string& path)
 {
-    return path.size() >= suffix.size() &&
-           vxMat::equalIgnoringAsciiCase(std::string_view(path).substr(path.size() - suffix.size()), suffix);
+    constexpr std::string_view suffix = ".csv";
+    const bool isStream = path == standardStream || path.rfind("/dev/", 0) == 0;
+    return isStream ||
+           (path.size() > suffix.size() &&
+            vxMat::equalIgnoringAsciiCase(std::string_view(path).substr(path.size() - suffix.size()), suffix));
 }
 
 /// Checks that the name of the output agrees with what is written to it.
 void requireKnownSuffix(const std::string& path, Form form)
 {
-    const bool isStream = path == standardStream || path.rfind("/dev/", 0) == 0;
-    if (!isStream && form == Form::Text && !endsWith(path, ".csv"))
-        throw Failure(path + ": the name of the file must end in .csv");
+    const bool isPicture = pictureFormatOf(path).has_value();
+    if (isPicture && form == Form::Json)
+        throw Failure(path + ": --json writes no picture; give another name, or leave out --json");
+    if (!isPicture && form == Form::Text && !isTableName(path))
+        throw Failure(path + ": the name of the file must end in .csv, .svg, .png or .pdf");
 }
 
 /// Checks that the curves fit into memory.
@@ -75,9 +81,14 @@ Answer printCurves(const CurveArguments& arguments, Form form, const ChosenUnits
         write(series, request, units.system(), form, writeStandardOutput);
         return answer;
     }
-    std::string text;
-    write(series, request, units.system(), form, [&text](const std::string& part) { text += part; });
-    writeProjectFile(arguments.output, text, existing);
+    std::string content;
+    if (const auto format = pictureFormatOf(arguments.output)) {
+        const AbscissaScale scale = arguments.logarithmic ? AbscissaScale::Logarithmic : AbscissaScale::Linear;
+        content = makePicture(series, request.mode, units.system(), scale, *format);
+    } else {
+        write(series, request, units.system(), form, [&content](const std::string& part) { content += part; });
+    }
+    writeProjectFile(arguments.output, content, existing);
     return answer;
 }
 

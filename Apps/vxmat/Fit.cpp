@@ -65,7 +65,8 @@ Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& un
     const std::vector<MeasuredTest> tests = readTests(arguments.tests, units.system(), answer);
     if (answer.status == Status::Error)
         return answer;
-    const auto results = run(Fitting(arguments.settings, tests, units.system()));
+    const Fitting fitting(arguments.settings, tests, units.system());
+    const auto results = run(fitting);
     if (!results) {
         answer.messages.emplace_back("the fit was ended; nothing is written");
         answer.status = Status::Interrupted;
@@ -79,7 +80,7 @@ Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& un
         target.reset();
     }
     if (target)
-        writeFit(*target, best, existing, answer);
+        writeFit(*target, {&best.change, &fitting.tests(), fitting.record(best)}, existing, answer);
     if (form == Form::Json) {
         Json::Value json = fitToJson(tests, *results, units.system());
         json["written"] = toJson(target, best);

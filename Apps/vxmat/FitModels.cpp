@@ -3,7 +3,6 @@
 #include "Answer.h"
 #include "ShownUnits.h"
 
-#include "vxConstitutive/fit/HyperelasticFit.h"
 #include "vxConstitutive/fit/PlasticFit.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxMaterial/model/NumberText.h"
@@ -288,7 +287,7 @@ Fitting::Fitting(const FitSettings& settings, const std::vector<MeasuredTest>& t
     m_tolerance = readOptional("--tolerance", settings.tolerance, "1", system, 0.0, 1.0);
 }
 
-std::vector<FitResult> Fitting::fitRubber(const FitControl& control) const
+vxConstitutive::HyperelasticFitRequest Fitting::rubberRequest() const
 {
     using vxConstitutive::StabilityDemand;
     vxConstitutive::HyperelasticFitRequest request;
@@ -307,7 +306,7 @@ std::vector<FitResult> Fitting::fitRubber(const FitControl& control) const
                         [key](const FitModelRecord* model) { return key == model->key; }))
             request.forms.push_back(form);
     }
-    return vxConstitutive::fitHyperelastic(request, control);
+    return request;
 }
 
 std::vector<FitResult> Fitting::fitMetal(const FitControl& control) const
@@ -330,11 +329,16 @@ std::vector<FitResult> Fitting::fitMetal(const FitControl& control) const
     return results;
 }
 
+vxConstitutive::FitRecord Fitting::record(const FitResult& result) const
+{
+    return m_family == FitFamily::Rubber ? recordFit(result, rubberRequest()) : recordFit(result, m_error);
+}
+
 std::vector<FitResult> Fitting::run(const FitControl& control) const
 {
     switch (m_family) {
     case FitFamily::Rubber:
-        return fitRubber(control);
+        return vxConstitutive::fitHyperelastic(rubberRequest(), control);
     case FitFamily::Metal:
         return fitMetal(control);
     case FitFamily::Creep:

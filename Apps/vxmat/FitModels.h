@@ -2,7 +2,8 @@
 
 #include "TestFiles.h"
 
-#include "vxConstitutive/fit/Fit.h"
+#include "vxConstitutive/fit/HyperelasticFit.h"
+#include "vxConstitutive/record/Measurements.h"
 #include "vxUnits/UnitSystem.h"
 
 #include <optional>
@@ -58,8 +59,13 @@ public:
 
     std::vector<vxConstitutive::FitResult> run(const vxConstitutive::FitControl& control) const;
 
+    /// Returns how a result was fitted, for the project that keeps it.
+    vxConstitutive::FitRecord record(const vxConstitutive::FitResult& result) const;
+
+    const std::vector<vxConstitutive::TestData>& tests() const { return m_tests; }
+
 private:
-    std::vector<vxConstitutive::FitResult> fitRubber(const vxConstitutive::FitControl& control) const;
+    vxConstitutive::HyperelasticFitRequest rubberRequest() const;
     std::vector<vxConstitutive::FitResult> fitMetal(const vxConstitutive::FitControl& control) const;
 
     FitFamily m_family;

@@ -109,6 +109,38 @@ void applyChange(const vxConstitutive::MaterialChange& change, vxMat::MaterialBa
         setValue(value, material);
 }
 
+vxConstitutive::Measurements readMeasurements(const FitTarget& target, const ObjectRecord& object)
+{
+    const auto setting = object.settings.find(vxConstitutive::measurementsSetting);
+    if (setting == object.settings.end())
+        return {};
+    try {
+        return vxConstitutive::readMeasurements(setting->second);
+    } catch (const vxConstitutive::MeasurementsError& error) {
+        throw Failure(target.project + ": the measurements of " + object.label + " cannot be read: " + error.what());
+    }
+}
+
+/// Keeps the tests and the record of a fit beside the material.
+void keepMeasurements(const FitTarget& target, const KeptFit& fit, ObjectRecord& object)
+{
+    vxConstitutive::Measurements kept = readMeasurements(target, object);
+    for (const vxConstitutive::TestData& test : *fit.tests) {
+        const auto same = std::find_if(kept.tests.begin(), kept.tests.end(),
+                                       [&](const vxConstitutive::TestData& one) { return one.name == test.name; });
+        if (same == kept.tests.end())
+            kept.tests.push_back(test);
+        else
+            *same = test;
+    }
+    kept.fits.push_back(fit.record);
+    try {
+        object.settings[vxConstitutive::measurementsSetting] = writeMeasurements(kept);
+    } catch (const vxConstitutive::MeasurementsError& error) {
+        throw Failure(target.project + ": the tests cannot be kept: " + error.what());
+    }
+}
+
 void addDoubts(const vxConstitutive::MaterialChange& change, const vxMat::MaterialBase& material, Answer& answer)
 {
     for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
@@ -132,18 +164,19 @@ ProjectRecord readProject(const FitTarget& target, const std::string& text)
 void requireTarget(const FitTarget& target)
 {
     ProjectRecord project = readProject(target, readFile(target.project));
-    findOrAdd(target, project);
+    readMeasurements(target, findOrAdd(target, project));
 }
 
-void writeFit(const FitTarget& target, const vxConstitutive::FitResult& result, Existing existing, Answer& answer)
+void writeFit(const FitTarget& target, const KeptFit& fit, Existing existing, Answer& answer)
 {
     const auto change = [&](const std::string& text) {
         ProjectRecord project = readProject(target, text);
         for (const std::string& doubt : project.doubts)
             answer.messages.push_back(target.project + ": " + doubt);
-        vxMat::MaterialBase& material = *findOrAdd(target, project).ownMaterial;
-        applyChange(result.change, material);
-        addDoubts(result.change, material, answer);
+        ObjectRecord& object = findOrAdd(target, project);
+        applyChange(*fit.change, *object.ownMaterial);
+        keepMeasurements(target, fit, object);
+        addDoubts(*fit.change, *object.ownMaterial, answer);
         try {
             return projectfile::writeProject(project);
         } catch (const projectfile::ContentError& error) {

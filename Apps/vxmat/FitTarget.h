@@ -4,8 +4,10 @@
 #include "Files.h"
 
 #include "vxConstitutive/fit/Fit.h"
+#include "vxConstitutive/record/Measurements.h"
 
 #include <string>
+#include <vector>
 
 namespace commandline {
 
@@ -18,13 +20,22 @@ struct FitTarget
 
 /// Checks that fitted constants can be written to a material, so that a long fit is not in vain.
 /// \throws Failure if the file cannot be read or is not a project file, if the label is empty or several materials have
-/// it, or if a material of this label cannot be added
+/// it, if a material of this label cannot be added, or if its kept measurements cannot be read
 void requireTarget(const FitTarget& target);
 
-/// Writes the constants of a fit to a material of a project file, and removes the quantities that contradict them. Adds
-/// to `answer` what is doubtful about the new values.
-/// \throws Failure as requireTarget() does, if another program has the file open, or if it cannot be written; the file is
-/// then unchanged
-void writeFit(const FitTarget& target, const vxConstitutive::FitResult& result, Existing existing, Answer& answer);
+/// A fit that a material gets.
+struct KeptFit
+{
+    const vxConstitutive::MaterialChange* change = nullptr;       ///< never null
+    const std::vector<vxConstitutive::TestData>* tests = nullptr; ///< never null
+    vxConstitutive::FitRecord record;
+};
+
+/// Writes the constants of a fit to a material of a project file, and removes the quantities that contradict them. The
+/// tests and the record of the fit are kept beside the material: a test replaces a kept one of the same name, the record
+/// follows those of earlier fits. Adds to `answer` what is doubtful about the new values.
+/// \throws Failure as requireTarget() does, if the kept measurements cannot be read, if another program has the file open,
+/// or if it cannot be written; the file is then unchanged
+void writeFit(const FitTarget& target, const KeptFit& fit, Existing existing, Answer& answer);
 
 } // namespace commandline

@@ -165,6 +165,11 @@ char readCharacter(const std::string& option, const std::string& text, const std
     throw Failure(option + ": \"" + text + "\" is not one of " + possible);
 }
 
+std::string fileNameOf(const std::string& path)
+{
+    return path == standardStream ? "standard input" : path.substr(path.find_last_of('/') + 1);
+}
+
 /// Reads the tests of a command line one after another.
 class TestReader
 {
@@ -189,6 +194,7 @@ private:
     ColumnChoice choice(Axis axis, const TestName& name, const TestTable& table) const;
     double weight(const TestName& name) const;
     std::string titleOf(const TestName& name) const;
+    std::string shortNameOf(const TestName& name) const;
     void refuse(const TestName& name, const TestTable& table, const TestReading& reading);
     void hintAtFormat(const TestName& name, const TestTable& table);
 
@@ -280,15 +286,25 @@ double TestReader::weight(const TestName& name) const
     return weight;
 }
 
+/// Returns the name of a test in messages: its file, and more if several tests have this file.
 std::string TestReader::titleOf(const TestName& name) const
 {
-    const auto sameFile =
-        std::count_if(m_names.begin(), m_names.end(), [&](const TestName& other) { return other.file == name.file; });
-    const auto same = std::count_if(m_names.begin(), m_names.end(),
-                                    [&](const TestName& other) { return other.argument == name.argument; });
-    if (same > 1)
+    const auto count = [&](std::string TestName::*part) {
+        return std::count_if(m_names.begin(), m_names.end(),
+                             [&](const TestName& other) { return other.*part == name.*part; });
+    };
+    if (count(&TestName::argument) > 1)
         return name.argument + " (" + name.position + ")";
-    return sameFile > 1 ? name.argument : name.file;
+    return count(&TestName::file) > 1 ? name.argument : name.file;
+}
+
+/// Returns the name of a test in results: its file without folders if no other test has such a file.
+std::string TestReader::shortNameOf(const TestName& name) const
+{
+    const std::string file = fileNameOf(name.file);
+    const auto same = std::count_if(m_names.begin(), m_names.end(),
+                                    [&](const TestName& other) { return fileNameOf(other.file) == file; });
+    return same > 1 ? titleOf(name) : file;
 }
 
 void TestReader::hintAtFormat(const TestName& name, const TestTable& table)
@@ -343,8 +359,8 @@ std::optional<MeasuredTest> TestReader::read(const TestName& name)
         return std::nullopt;
     }
     vxConstitutive::TestReadRequest request{
-        titleOf(name), name.mode,   choice(Axis::Abscissa, name, table), choice(Axis::Ordinate, name, table),
-        std::nullopt,  weight(name)};
+        shortNameOf(name), name.mode,   choice(Axis::Abscissa, name, table), choice(Axis::Ordinate, name, table),
+        std::nullopt,      weight(name)};
     if (const auto text = m_options.find(m_arguments.stresses, name))
         request.stress = readAmount("--stress", *text, "Pa", m_system);
     TestReading reading = takeTest(table, request, factorOf);

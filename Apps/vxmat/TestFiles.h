@@ -42,7 +42,7 @@ struct TestAxis
 struct MeasuredTest
 {
     std::string file;
-    vxConstitutive::TestData data; ///< its name is the file, and the mode if the file has several tests
+    vxConstitutive::TestData data; ///< its name is the file without folders, or the argument if that is not unique
     vxConstitutive::TableFormat format;
     TestAxis abscissa;
     TestAxis ordinate;

@@ -12,8 +12,8 @@ class Project;
 
 namespace Gui {
 
-/// Makes labels for copies of objects and for imported objects, so that the user can distinguish a copy from its original: "Frame copy", then
-/// "Frame copy 2". Project objects may have equal labels, but the user rarely wants that.
+/// Makes labels for copies of objects and for imported objects, so that the user can distinguish a copy from its
+/// original: "Frame copy", then "Frame copy 2". Project objects may have equal labels, but the user rarely wants that.
 class GUI_EXPORT CopyLabels
 {
 public:

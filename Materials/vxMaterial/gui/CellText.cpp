@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QLocale>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOptionViewItem>
 #include <QTextLayout>
@@ -17,12 +19,37 @@ namespace {
 constexpr QChar ellipsis(0x2026);
 constexpr QChar breakPlace(0x200b); // has no width
 
+bool isNumber(const QString& word)
+{
+    bool isRead = false;
+    QLocale::c().toDouble(word, &isRead);
+    return isRead;
+}
+
+/// Shortens the numbers that are wider than a line: a part of a number could be read as another number.
+QString withFittingNumbers(const QString& text, const QFont& font, int width)
+{
+    static const QRegularExpression separators(QStringLiteral("(?<=[\\s,;])|(?=[\\s,;])"));
+    const QFontMetrics metrics(font);
+    const int digit = metrics.horizontalAdvance(QLatin1Char('0'));
+    // The signs may be wider than digits. Most texts have no such number, and splitting costs time.
+    const auto mayBeTooWide = [&](const QString& part) { return (part.size() + 2) * digit > width; };
+    if (!mayBeTooWide(text))
+        return text;
+    QStringList words = text.split(separators);
+    for (QString& word : words)
+        if (mayBeTooWide(word) && isNumber(word) && metrics.horizontalAdvance(word) > width)
+            word = metrics.elidedText(word, Qt::ElideRight, width);
+    return words.join(QString());
+}
+
 /// Returns a text with places for line breaks. Cuts it to more than any cell can show, so that long lists cost no time.
-QString withBreakPlaces(QString text)
+QString withBreakPlaces(QString text, const QFont& font, int width)
 {
     constexpr int most = 4000;
     if (text.size() > most)
         text = text.left(most) + ellipsis;
+    text = withFittingNumbers(text, font, width);
     for (const char separator : {',', ';'})
         text.replace(QLatin1Char(separator), QString(QLatin1Char(separator)) + breakPlace);
     // The layout treats a line feed as a normal character.
@@ -55,9 +82,14 @@ QString lineText(const QString& text, const QTextLine& line)
 
 } // namespace
 
+bool isCellTextCut(const QString& text, const QFont& font, const QSize& size)
+{
+    return wrapCellText(text, font, size).count(ellipsis) > text.count(ellipsis);
+}
+
 QString wrapCellText(const QString& text, const QFont& font, const QSize& size)
 {
-    const QString breakable = withBreakPlaces(text);
+    const QString breakable = withBreakPlaces(text, font, size.width());
     QTextLayout layout(breakable, font);
     layOut(layout, size.width());
     QStringList lines;
@@ -74,7 +106,7 @@ QString wrapCellText(const QString& text, const QFont& font, const QSize& size)
 
 QSize cellTextSize(const QString& text, const QFont& font, int width)
 {
-    QTextLayout layout(withBreakPlaces(text), font);
+    QTextLayout layout(withBreakPlaces(text, font, width), font);
     layOut(layout, width);
     const QRectF bounds = layout.boundingRect();
     qreal widest = 0.0;
@@ -89,10 +121,14 @@ int cellTextMargin(const QWidget* view)
     return style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1;
 }
 
+QSize cellTextArea(const QSize& cell, const QWidget* view)
+{
+    return {cell.width() - 2 * cellTextMargin(view), cell.height()};
+}
+
 QString wrappedForCell(const QString& text, const QStyleOptionViewItem& option)
 {
-    const int width = option.rect.width() - 2 * cellTextMargin(option.widget);
-    return wrapCellText(text, option.font, QSize(width, option.rect.height()));
+    return wrapCellText(text, option.font, cellTextArea(option.rect.size(), option.widget));
 }
 
 } // namespace MatGui

@@ -13,13 +13,15 @@
 #include "vxMaterial/project/MaterialObject.h"
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QStandardItemModel>
+#include <QToolTip>
 
 #include <algorithm>
 #include <memory>
@@ -49,6 +51,14 @@ bool matchesTranslated(std::string_view allowed, std::string_view typed)
     const QString word = translatePropertyText(std::string(allowed), PropertyText::Value);
     const QString text = QString::fromUtf8(typed.data(), static_cast<int>(typed.size()));
     return word.compare(text, Qt::CaseInsensitive) == 0;
+}
+
+/// Returns a text for a tool tip, in lines of a readable length. A list of thousands of numbers is cut.
+QString toolTipOf(const QString& text)
+{
+    constexpr int most = 2000;
+    const QString shown = text.size() <= most ? text : text.left(most) + QChar(0x2026);
+    return QStringLiteral("<qt>%1</qt>").arg(shown.toHtmlEscaped().replace(QLatin1Char(','), QLatin1String(",<wbr>")));
 }
 
 } // namespace
@@ -129,6 +139,8 @@ void SheetTableView::setReadablePalette()
     colours.setBrush(QPalette::PlaceholderText, QBrush(QColor(96, 96, 96)));
     colours.setBrush(QPalette::Highlight, QBrush(QColor(31, 99, 168)));
     colours.setBrush(QPalette::HighlightedText, QBrush(Qt::white));
+    colours.setBrush(QPalette::Inactive, QPalette::Highlight, QBrush(QColor(177, 200, 225)));
+    colours.setBrush(QPalette::Inactive, QPalette::HighlightedText, QBrush(Qt::black));
     colours.setBrush(QPalette::Disabled, QPalette::Highlight, QBrush(QColor(208, 208, 208)));
     colours.setBrush(QPalette::Disabled, QPalette::HighlightedText, QBrush(Qt::black));
     setPalette(colours);
@@ -529,6 +541,29 @@ bool SheetTableView::event(QEvent* event)
         return QTableView::event(event);
     m_fitIsPosted = false;
     fitColumns();
+    return true;
+}
+
+QStyleOptionViewItem SheetTableView::viewOptions() const
+{
+    QStyleOptionViewItem options = QTableView::viewOptions();
+    const QWidget* const focus = QApplication::focusWidget();
+    const bool hasKeyboard = focus != nullptr && (focus == this || isAncestorOf(focus));
+    options.state.setFlag(QStyle::State_Active, hasKeyboard);
+    return options;
+}
+
+bool SheetTableView::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    const auto* const help = static_cast<const QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = cellText(index.row(), index.column());
+    const QRect cell = visualRect(index);
+    if (!index.isValid() || !isCellTextCut(text, font(), cellTextArea(cell.size(), this)))
+        return QTableView::viewportEvent(event);
+    QToolTip::showText(help->globalPos(), toolTipOf(text), viewport(), cell);
     return true;
 }
 

@@ -133,6 +133,10 @@ public Q_SLOTS:
 
 protected:
     bool event(QEvent* event) override;
+    /// The tool tip of a cell that cannot show its whole text is the text.
+    bool viewportEvent(QEvent* event) override;
+    /// The selection is paler while the keyboard acts on another widget.
+    QStyleOptionViewItem viewOptions() const override;
     int sizeHintForColumn(int column) const override;
     int sizeHintForRow(int row) const override;
     /// Lets F2 and Return edit the value of the current row, for every current cell of the row.

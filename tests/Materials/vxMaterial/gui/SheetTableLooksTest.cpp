@@ -7,8 +7,11 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QToolBox>
+#include <QToolTip>
 #include <QtTest/QtTestGui>
 #include <QtTest/qtestmouse.h>
 #include <gtest/gtest.h>
@@ -278,6 +281,53 @@ TEST(PageHeader, TurnsItsPageByAClickAsBefore)
     EXPECT_EQ(target, nullptr) << "the frame must be transparent for the mouse";
     QTest::mouseClick(headers[2], Qt::LeftButton);
     EXPECT_EQ(box.currentIndex(), 2);
+}
+
+/// Shows the value of a row in a column of this width.
+void narrow(Editor& editor, int width)
+{
+    editor.table().horizontalHeader()->setMinimumSectionSize(10);
+    editor.table().setColumnWidth(MatGui::SheetTableView::Value, width);
+    QCoreApplication::processEvents();
+}
+
+TEST(SheetTableLooks, ShowsANumberThatIsWiderThanItsCellInTheToolTip)
+{
+    const QString number = "1.7976931348623157e+308";
+    Editor editor;
+    enter(editor, 5, number);
+    narrow(editor, 70);
+    const QRect cell = editor.table().visualRect(editor.table().model()->index(editor.rowOf(5), 2));
+    QHelpEvent help(QEvent::ToolTip, cell.center(), editor.table().viewport()->mapToGlobal(cell.center()));
+    QCoreApplication::sendEvent(editor.table().viewport(), &help);
+    EXPECT_TRUE(QToolTip::text().contains(number)) << QToolTip::text().toStdString();
+    QToolTip::hideText();
+}
+
+TEST(SheetTableLooks, ShowsNoToolTipForACellThatShowsItsWholeText)
+{
+    Editor editor;
+    const QRect cell = editor.table().visualRect(editor.table().model()->index(0, 2));
+    QHelpEvent help(QEvent::ToolTip, cell.center(), editor.table().viewport()->mapToGlobal(cell.center()));
+    QCoreApplication::sendEvent(editor.table().viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), QString());
+}
+
+TEST(SheetTableLooks, DrawsTheSelectionPalerWhereTheKeyboardDoesNotAct)
+{
+    Editor editor;
+    MatGui::SheetTableView& table = editor.table();
+    table.setFocus();
+    table.setCurrentRow(1);
+    const auto colour = [&table] {
+        const QRect cell = table.visualRect(table.model()->index(1, 1));
+        return table.viewport()->grab().toImage().pixelColor(cell.right() - 2, cell.bottom() - 2);
+    };
+    const QColor strong = colour();
+    EXPECT_LT(strong.lightness(), 128);
+    editor.list("lw_lib_general").setFocus();
+    EXPECT_GT(colour().lightness(), 180);
+    EXPECT_NE(colour(), QColor(Qt::white));
 }
 
 } // namespace

@@ -1,0 +1,64 @@
+#include "CellText.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList linesOf(const QString& text, int width)
+{
+    return MatGui::wrapCellText(text, QApplication::font(), QSize(width, 1000)).split(QLatin1Char('\n'));
+}
+
+int widthOf(const QString& text)
+{
+    return QFontMetrics(QApplication::font()).horizontalAdvance(text);
+}
+
+/// Returns the lines without the places for line breaks, which have no width.
+QStringList wordsOf(const QString& text, int width)
+{
+    return linesOf(text, width).replaceInStrings(QString(QChar(0x200b)), QString());
+}
+
+TEST(CellText, CutsANumberThatIsWiderThanTheCell)
+{
+    const QString number = QStringLiteral("-1.7976931348623157e+308");
+    for (int width = widthOf(QStringLiteral("-1.79")) + 20; width < widthOf(number); width += 7) {
+        const QStringList lines = linesOf(number, width);
+        ASSERT_EQ(lines.size(), 1) << width;
+        EXPECT_TRUE(lines[0].endsWith(QChar(0x2026))) << lines[0].toStdString();
+        EXPECT_TRUE(number.startsWith(lines[0].chopped(1)));
+        EXPECT_TRUE(MatGui::isCellTextCut(number, QApplication::font(), QSize(width, 1000)));
+    }
+    EXPECT_EQ(linesOf(number, widthOf(number) + 1), QStringList(number));
+    EXPECT_FALSE(MatGui::isCellTextCut(number, QApplication::font(), QSize(widthOf(number) + 1, 1000)));
+}
+
+TEST(CellText, BreaksAListOnlyBetweenItsNumbers)
+{
+    const QString wide = QStringLiteral("-1.7976931348623157e+308");
+    const QStringList lines = wordsOf(QStringLiteral("206.5,1.25e-10;300.125,") + wide, widthOf("1.25e-10;W"));
+    EXPECT_EQ(lines.mid(0, 3), QStringList({"206.5,", "1.25e-10;", "300.125,"}));
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_TRUE(lines[3].endsWith(QChar(0x2026)));
+}
+
+TEST(CellText, BreaksALongWordThatIsNoNumber)
+{
+    const QString word = QStringLiteral("Elastizitaetskonstantenmatrix");
+    const QStringList lines = linesOf(word, widthOf(word) / 2 + 10);
+    EXPECT_GT(lines.size(), 1);
+    EXPECT_EQ(lines.join(QString()), word);
+}
+
+TEST(CellText, IsCutIfItHasMoreLinesThanTheCell)
+{
+    const QFont font = QApplication::font();
+    const int line = QFontMetrics(font).lineSpacing();
+    EXPECT_TRUE(MatGui::isCellTextCut(QStringLiteral("Mass density"), font, QSize(widthOf("density") + 2, line)));
+    EXPECT_FALSE(MatGui::isCellTextCut(QStringLiteral("Mass density"), font, QSize(widthOf("density") + 2, 3 * line)));
+}
+
+} // namespace

@@ -14,6 +14,8 @@
 #include <QFocusEvent>
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace Gui {
 
 namespace {
@@ -34,6 +36,15 @@ QColor swatchOf(const Obj::Property& property)
 {
     const auto* const color = dynamic_cast<const Obj::PropertyColor*>(&property);
     return color != nullptr ? toQColor(*color) : QColor();
+}
+
+/// Returns the colour of a value that cannot be changed: paler than other texts, but readable, unlike disabled text.
+QColor paleText(const QPalette& colors)
+{
+    const QColor text = colors.color(QPalette::Text);
+    const QColor base = colors.color(QPalette::Base);
+    const auto mixed = [](int one, int other) { return (13 * one + 7 * other) / 20; };
+    return {mixed(text.red(), base.red()), mixed(text.green(), base.green()), mixed(text.blue(), base.blue())};
 }
 
 } // namespace
@@ -68,10 +79,10 @@ void PropertyPanel::showSelection()
     const std::size_t count = m_selection.getCount();
     // The columns are properties and values, not sentences.
     setHeaderHidden(count != 1);
-    header()->setSectionResizeMode(0, count == 1 ? QHeaderView::ResizeToContents : QHeaderView::Fixed);
     if (count != 1)
         showCount(count);
     expandAll();
+    fitColumns();
     m_filling = false;
     if (hasFocus())
         makeValueCurrent();
@@ -124,6 +135,22 @@ void PropertyPanel::focusInEvent(QFocusEvent* event)
         makeValueCurrent();
 }
 
+void PropertyPanel::resizeEvent(QResizeEvent* event)
+{
+    QTreeWidget::resizeEvent(event);
+    fitColumns();
+}
+
+void PropertyPanel::fitColumns()
+{
+    // Names and values share a narrow panel: a name that is cut is in the tool tip.
+    const int width = viewport()->width();
+    const int most = std::max(width * 11 / 20, width - sizeHintForColumn(valueColumn));
+    const int name = std::min(std::max(sizeHintForColumn(0), header()->sectionSizeHint(0)), most);
+    header()->resizeSection(0, name);
+    header()->resizeSection(valueColumn, width - name);
+}
+
 void PropertyPanel::makeValueCurrent()
 {
     QTreeWidgetItem* item = currentItem() != nullptr ? currentItem() : topLevelItem(0);
@@ -151,6 +178,10 @@ void PropertyPanel::configure()
 {
     setColumnCount(2);
     setAlternatingRowColors(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::Fixed);
+    // The usual minimum is the width of the widest character, which may be half of the panel.
+    header()->setMinimumSectionSize(1);
     setItemDelegate(new PropertyDelegate([this](const QModelIndex& index) { return propertyAt(index); }, this));
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed);
@@ -196,7 +227,8 @@ void PropertyPanel::showCount(std::size_t count)
 {
     const QString text = count == 0 ? tr("Nothing is selected.") : tr("%1 entries are selected.").arg(count);
     auto* const item = new QTreeWidgetItem(this, {text});
-    item->setFlags(Qt::NoItemFlags);
+    // Information, not an entry that can be chosen.
+    item->setFlags(Qt::ItemIsEnabled);
     item->setFirstColumnSpanned(true);
 }
 
@@ -216,8 +248,9 @@ QTreeWidgetItem* PropertyPanel::makeItem(const Obj::PropertyDS& owner, const Obj
     auto* const item = new QTreeWidgetItem(groupItem(translatedProperty(owner.get_property_group(&property))),
                                            {Obj::readableName(name)});
     item->setData(0, nameRole, QString::fromUtf8(name));
-    for (const int column : {0, valueColumn})
-        item->setToolTip(column, translatedProperty(owner.get_property_description(&property)));
+    const QString description = translatedProperty(owner.get_property_description(&property));
+    item->setToolTip(0, description.isEmpty() ? item->text(0) : item->text(0) + QLatin1Char('\n') + description);
+    item->setToolTip(valueColumn, description);
     showValue(*item, property, owner.is_read_only(&property));
     return item;
 }
@@ -238,7 +271,7 @@ void PropertyPanel::showValue(QTreeWidgetItem& item, const Obj::Property& proper
     Qt::ItemFlags flags = item.flags() & ~(Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
     item.setFlags(flags.setFlag(editing, !isReadOnly));
     if (isReadOnly)
-        item.setForeground(valueColumn, palette().brush(QPalette::Disabled, QPalette::Text));
+        item.setForeground(valueColumn, paleText(palette()));
     if (const QColor color = swatchOf(property); color.isValid())
         item.setData(valueColumn, Qt::DecorationRole, color);
 }

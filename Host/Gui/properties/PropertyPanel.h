@@ -45,6 +45,7 @@ protected:
     void changeEvent(QEvent* event) override;
     /// If the focus comes by the Tab key, makes the value of the first property current unless another one is.
     void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
@@ -58,6 +59,7 @@ private:
 
     void configure();
     void makeValueCurrent();
+    void fitColumns();
     void refresh();
     void retranslate();
     Owners owners() const;

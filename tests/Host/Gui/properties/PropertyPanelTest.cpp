@@ -6,6 +6,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScrollBar>
 
 namespace {
 
@@ -88,7 +89,7 @@ TEST_F(Panel, ShowsPropertiesOfTheObjectAndItsNodeByGroup)
 
 TEST_F(Panel, ShowsTheDescriptionOfAProperty)
 {
-    EXPECT_EQ(row("Count")->toolTip(0), "How many");
+    EXPECT_EQ(row("Count")->toolTip(0), "Count\nHow many");
     EXPECT_EQ(row("Count")->toolTip(1), "How many");
 }
 
@@ -212,6 +213,20 @@ TEST_F(Panel, SaysWhenNothingIsSelected)
 {
     show({});
     EXPECT_EQ(rows(), QStringList({"Nothing is selected."}));
+    const Qt::ItemFlags flags = panel().topLevelItem(0)->flags();
+    EXPECT_TRUE(flags.testFlag(Qt::ItemIsEnabled)) << "in the color of a text";
+    EXPECT_FALSE(flags.testFlag(Qt::ItemIsSelectable));
+}
+
+TEST_F(Panel, ShowsNamesAndValuesInANarrowWindow)
+{
+    panel().setFixedWidth(130);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(vxtest::waitFor([this] { return panel().horizontalScrollBar()->maximum() == 0; }));
+    EXPECT_GE(panel().columnWidth(0), 60);
+    EXPECT_GE(panel().columnWidth(1), 50);
+    panel().setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(panel().horizontalScrollBar()->value(), 0);
 }
 
 TEST_F(Panel, SaysHowManyAreSelected)

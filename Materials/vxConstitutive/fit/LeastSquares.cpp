@@ -126,6 +126,7 @@ Solution solve(const LeastSquares& problem, const std::vector<std::size_t>& free
                const std::function<bool()>& cancelled)
 {
     std::vector<double> values;
+    values.reserve(free.size());
     for (const std::size_t index : free)
         values.push_back(start[index]);
     Cost cost(problem, free, start);

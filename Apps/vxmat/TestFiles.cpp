@@ -6,12 +6,12 @@
 #include "Findings.h"
 #include "ShownUnits.h"
 
+#include "vxConstitutive/data/UnitFactor.h"
 #include "vxMaterial/model/NumberText.h"
 
 #include <QFile>
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -134,18 +134,6 @@ private:
 
     const std::vector<TestName>& m_tests;
 };
-
-/// Returns the factor of a unit as headers and options have it.
-std::optional<double> factorOf(std::string_view unit, vxConstitutive::Dimension dimension)
-{
-    static constexpr std::array<vxUnits::Dimension, 4> dimensions{
-        vxUnits::dimensions::none, vxUnits::dimensions::pressure, vxUnits::dimensions::time,
-        vxUnits::Dimension(0, 0, -1)};
-    const auto parsed = vxUnits::Unit::parse(unit);
-    if (!parsed || parsed->dimension() != dimensions[static_cast<std::size_t>(dimension)])
-        return std::nullopt;
-    return parsed->factor();
-}
 
 /// A word for a character that is hard to type.
 struct CharacterWord
@@ -351,7 +339,7 @@ TestAxis axisOf(const ColumnChoice& choice, const TestTable& table)
 std::optional<MeasuredTest> TestReader::read(const TestName& name)
 {
     const TestTable table =
-        vxConstitutive::readTestTable(readFile(name.file, Content::Any), factorOf, tableOptions(name));
+        vxConstitutive::readTestTable(readFile(name.file, Content::Any), vxConstitutive::unitFactor, tableOptions(name));
     m_answer.add(messagesAbout(titleOf(name), table.findings));
     hintAtFormat(name, table);
     if (hasError(table.findings) || table.columns.empty()) {
@@ -363,7 +351,7 @@ std::optional<MeasuredTest> TestReader::read(const TestName& name)
         std::nullopt,      weight(name)};
     if (const auto text = m_options.find(m_arguments.stresses, name))
         request.stress = readAmount("--stress", *text, "Pa", m_system);
-    TestReading reading = takeTest(table, request, factorOf);
+    TestReading reading = takeTest(table, request, vxConstitutive::unitFactor);
     m_answer.add(messagesAbout(titleOf(name), reading.findings));
     refuse(name, table, reading);
     if (!reading.data || hasError(reading.findings)) {

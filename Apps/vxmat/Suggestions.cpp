@@ -62,6 +62,7 @@ std::vector<std::string> nearestNames(const std::string& typed, const std::vecto
     constexpr std::size_t mostSuggestions = 3;
     const std::string letters = vxMat::toUpperAscii(typed.substr(0, longest));
     std::vector<std::pair<Distance, std::string>> candidates;
+    candidates.reserve(names.size());
     for (const std::string& name : names)
         candidates.emplace_back(distanceOfName(letters, vxMat::toUpperAscii(name.substr(0, longest))), name);
     std::sort(candidates.begin(), candidates.end());

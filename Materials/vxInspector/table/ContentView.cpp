@@ -231,7 +231,7 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
     const Cell& cell = m_model->cell(index);
     if (cell.bar) {
         const int bar = sizeHintForIndex(index).width();
-        return {bar, bar, 2 * bar / 3};
+        return {bar, bar, bar / 2};
     }
     // The margins of a cell, and one pixel because advances are rounded.
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;

@@ -348,7 +348,7 @@ TEST_F(Inspector, BreaksNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
         const QModelIndex shear = table.model()->index(findRow(Values, "Shear modulus"), value);
         EXPECT_GT(table.columnWidth(value), font.horizontalAdvance(shear.data().toString())) << characters;
         const int bars = table.columnViewportPosition(3);
-        EXPECT_LE(bars + 8 * font.averageCharWidth(), table.viewport()->width()) << characters;
+        EXPECT_LE(bars + 6 * font.averageCharWidth(), table.viewport()->width()) << characters;
         EXPECT_LT(table.columnWidth(0), font.horizontalAdvance(QStringLiteral("Shear modulus (derived)")));
     }
 }

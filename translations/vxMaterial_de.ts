@@ -299,6 +299,14 @@
         <source>%1 copy</source>
         <translation>%1 Kopie</translation>
     </message>
+    <message>
+        <source>The settings are not an object.</source>
+        <translation>Die Einstellungen sind kein Objekt.</translation>
+    </message>
+    <message>
+        <source>The setting &quot;%1&quot; is not a text.</source>
+        <translation>Die Einstellung „%1“ ist kein Text.</translation>
+    </message>
 </context>
 <context>
     <name>Gui::PictureFactory</name>
@@ -1297,6 +1305,10 @@ Zahlen ohne Einheit sind in SI.</translation>
         <source>Structural</source>
         <translation>Strukturmechanik</translation>
     </message>
+    <message>
+        <source>measurements</source>
+        <translation>Messungen</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1807,6 +1819,14 @@ Trotzdem löschen?</translation>
         <source>%1 is not a picture and is not replaced; give another name</source>
         <translation>%1 ist kein Bild und wird nicht ersetzt; geben Sie einen anderen Namen an</translation>
     </message>
+    <message>
+        <source>the catalogue has no quantity &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>der Katalog hat keine Größe „%1“; meinten Sie „%2“?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of &quot;%2&quot;: give red, green, blue and opacity as four numbers from 0 to 1, &quot;0.5, 0, 0, 1&quot;</source>
+        <translation>„%1“ ist kein Wert von „%2“: Geben Sie Rot, Grün, Blau und Deckkraft als vier Zahlen von 0 bis 1 an, „0.5, 0, 0, 1“</translation>
+    </message>
 </context>
 <context>
     <name>desktop::CellReading</name>
@@ -1856,6 +1876,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
         <translation>Zeile %1: Der Wert „%2“ von „%3“ kann nicht gelesen werden. %4</translation>
+    </message>
+    <message>
+        <source>Convert values</source>
+        <translation>Werte umrechnen</translation>
     </message>
 </context>
 <context>
@@ -1968,10 +1992,6 @@ Trotzdem löschen?</translation>
         <translation>Die Zahlen in „%1“ sehen nach %2 aus.</translation>
     </message>
     <message>
-        <source>In SI, they would be unusual. %1</source>
-        <translation>In SI wären sie ungewöhnlich. %1</translation>
-    </message>
-    <message>
         <source>&amp;Convert from %1</source>
         <translation>Von %1 &amp;umrechnen</translation>
     </message>
@@ -1984,10 +2004,6 @@ Trotzdem löschen?</translation>
         <translation>„%1“: Diese Zahlen wurden nicht umgerechnet, weil ihre Einheiten nicht bekannt sind: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: the numbers look like %2. The import of the document can convert them.</source>
-        <translation>„%1“: Die Zahlen sehen nach %2 aus. Der Import des Dokuments kann sie umrechnen.</translation>
-    </message>
-    <message>
         <source>The numbers were converted from %1 to the units of the catalogue. Materials: %2</source>
         <translation>Die Zahlen wurden von %1 in die Einheiten des Katalogs umgerechnet. Materialien: %2</translation>
     </message>
@@ -1998,6 +2014,18 @@ Trotzdem löschen?</translation>
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>In %1, they would be unusual. %2</source>
+        <translation>In %1 wären sie ungewöhnlich. %2</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1, not %2. Import the document again in this unit system; in a list of commands, the second argument of Std_ImportDocument gives it.</source>
+        <translation>Die Zahlen sehen nach %1 aus, nicht nach %2. Importieren Sie das Dokument noch einmal in diesem Einheitensystem; in einer Befehlsliste gibt es das zweite Argument von Std_ImportDocument an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: the numbers look like %2, not %3.</source>
+        <translation>„%1“: Die Zahlen sehen nach %2 aus, nicht nach %3.</translation>
     </message>
 </context>
 <context>
@@ -2074,6 +2102,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material again without this property, then export again.</source>
         <translation>Die Eigenschaft „%1“ von „%2“ hat die Nummer %3. Leser von Austauschdokumenten lehnen Nummern unter 0 ab. Legen Sie das Material ohne diese Eigenschaft noch einmal an und exportieren Sie erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: An exchange document carries no data that a project keeps beside a material. Not written: %2.</source>
+        <translation>„%1“: Ein Austauschdokument enthält keine Daten, die ein Projekt neben einem Material aufbewahrt. Nicht geschrieben: %2.</translation>
     </message>
 </context>
 <context>
@@ -2356,6 +2388,22 @@ Trotzdem löschen?</translation>
         <source>HOME is not the name of a folder.</source>
         <translation>HOME ist nicht der Name eines Ordners.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is now &quot;%2&quot;</source>
+        <translation>„%1“ heißt jetzt „%2“</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>Objects with a label that was in use have got another one: %1.</source>
+        <translation>Objekte mit einer bereits vergebenen Bezeichnung haben eine andere erhalten: %1.</translation>
+    </message>
+    <message>
+        <source>Objects imported: %1, with another label: %2</source>
+        <translation>Objekte importiert: %1, mit anderer Bezeichnung: %2</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ProjectUnitsDialog</name>
@@ -2595,6 +2643,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>it is not in the catalogue; its unit, description and category are lost</source>
         <translation>sie ist nicht im Katalog; ihre Einheit, Beschreibung und Kategorie sind verloren</translation>
+    </message>
+    <message>
+        <source>Further doubts are not listed: %1.</source>
+        <translation>Weitere Zweifel sind nicht aufgeführt: %1.</translation>
     </message>
 </context>
 <context>
@@ -2855,6 +2907,724 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxConstitutive::Finding</name>
+    <message>
+        <source>%1: the constant %2 is missing. The model has no curve without it.</source>
+        <translation>%1: Die Konstante %2 fehlt. Ohne sie hat das Modell keine Kurve.</translation>
+    </message>
+    <message>
+        <source>%1: the constant %2 is %3. It must be a finite number.</source>
+        <translation>%1: Die Konstante %2 ist %3. Sie muss eine endliche Zahl sein.</translation>
+    </message>
+    <message>
+        <source>%1: the constant %2 is %3. It must be greater than 0.</source>
+        <translation>%1: Die Konstante %2 ist %3. Sie muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio is %1. It must be greater than -1 and less than 0.5.</source>
+        <translation>Die Querkontraktionszahl ist %1. Sie muss größer als -1 und kleiner als 0.5 sein.</translation>
+    </message>
+    <message>
+        <source>C10 is %1 Pa, but half of Mu is %2 Pa. The curve uses C10. Remove one of the two constants.</source>
+        <translation>C10 ist %1 Pa, die Hälfte von Mu aber %2 Pa. Die Kurve verwendet C10. Entfernen Sie eine der beiden Konstanten.</translation>
+    </message>
+    <message>
+        <source>%1: D1 is 0, so the curve is incompressible. Some solvers do the same, others use a bulk modulus of 20 times the shear modulus. Remove D1 or give it a value.</source>
+        <translation>%1: D1 ist 0, daher ist die Kurve inkompressibel. Manche Solver rechnen ebenso, andere mit einem Kompressionsmodul vom 20-Fachen des Schubmoduls. Entfernen Sie D1 oder geben Sie einen Wert an.</translation>
+    </message>
+    <message>
+        <source>%1: D1 is %2 1/Pa. A bulk modulus cannot be negative. The curve is incompressible.</source>
+        <translation>%1: D1 ist %2 1/Pa. Ein Kompressionsmodul kann nicht negativ sein. Die Kurve ist inkompressibel.</translation>
+    </message>
+    <message>
+        <source>The bulk modulus is only %1 times the shear modulus (Poisson&apos;s ratio %2). For rubber it is some hundred times. Check D1.</source>
+        <translation>Der Kompressionsmodul ist nur das %1-Fache des Schubmoduls (Querkontraktionszahl %2). Bei Gummi ist er einige hundert Mal so groß. Prüfen Sie D1.</translation>
+    </message>
+    <message>
+        <source>The limiting stretch is %1. It must be greater than 1, which is the stretch of the chains at rest.</source>
+        <translation>Die Grenzstreckung ist %1. Sie muss größer als 1 sein; das ist die Streckung der Ketten in Ruhe.</translation>
+    </message>
+    <message>
+        <source>%1: the initial shear modulus is %2 Pa. It must be greater than 0; otherwise the material is unstable without any load.</source>
+        <translation>%1: Der Anfangsschubmodul ist %2 Pa. Er muss größer als 0 sein, sonst ist das Material schon ohne Last instabil.</translation>
+    </message>
+    <message>
+        <source>Mu, the factor of the series, is %1 Pa. The initial shear modulus is %2 Pa.</source>
+        <translation>Mu, der Faktor der Reihe, ist %1 Pa. Der Anfangsschubmodul ist %2 Pa.</translation>
+    </message>
+    <message>
+        <source>The catalogue has no constants for the hardening type &quot;%1&quot;, so there is no curve. Use Bilinear or Multilinear.</source>
+        <translation>Der Katalog hat keine Konstanten für den Verfestigungstyp „%1“, daher gibt es keine Kurve. Verwenden Sie Bilinear oder Multilinear.</translation>
+    </message>
+    <message>
+        <source>The hardening type &quot;%1&quot; is not known. Use Bilinear or Multilinear.</source>
+        <translation>Der Verfestigungstyp „%1“ ist nicht bekannt. Verwenden Sie Bilinear oder Multilinear.</translation>
+    </message>
+    <message>
+        <source>The yield type &quot;%1&quot; is not known. Use Mises, Mohr-Coulomb or Drucker-Prager.</source>
+        <translation>Der Fließtyp „%1“ ist nicht bekannt. Verwenden Sie Mises, Mohr-Coulomb oder Drucker-Prager.</translation>
+    </message>
+    <message>
+        <source>The stress falls from the plastic strain %1 on. A solver finds no unique solution there.</source>
+        <translation>Ab der plastischen Dehnung %1 fällt die Spannung. Ein Solver findet dort keine eindeutige Lösung.</translation>
+    </message>
+    <message>
+        <source>The hardening modulus %1 Pa is more than a tenth of Young&apos;s modulus %2 Pa. Check that it is the slope against plastic strain.</source>
+        <translation>Der Verfestigungsmodul %1 Pa ist mehr als ein Zehntel des Elastizitätsmoduls %2 Pa. Prüfen Sie, ob er die Steigung über der plastischen Dehnung ist.</translation>
+    </message>
+    <message>
+        <source>There are %1 yield stresses and %2 plastic strains. The values without a partner are left out.</source>
+        <translation>Es gibt %1 Fließspannungen und %2 plastische Dehnungen. Werte ohne Partner werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>The first plastic strain is %1. A table must begin with 0. Some solvers shift it without a message.</source>
+        <translation>Die erste plastische Dehnung ist %1. Eine Tabelle muss mit 0 beginnen. Manche Solver verschieben sie ohne Meldung.</translation>
+    </message>
+    <message>
+        <source>Row %1: the plastic strain %2 is not greater than the one in the row before. The row is left out.</source>
+        <translation>Zeile %1: Die plastische Dehnung %2 ist nicht größer als die der Zeile davor. Die Zeile wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>%1: the catalogue has no cohesion. Give a cohesion with the curve, or read the curve in multiples of the cohesion.</source>
+        <translation>%1: Der Katalog hat keine Kohäsion. Geben Sie eine zur Kurve an, oder lesen Sie die Kurve in Vielfachen der Kohäsion.</translation>
+    </message>
+    <message>
+        <source>The plastic viscosity is %1. Solver cards have a cohesion in its place. No curve uses it.</source>
+        <translation>Die plastische Viskosität ist %1. Solverkarten haben an ihrer Stelle eine Kohäsion. Keine Kurve verwendet sie.</translation>
+    </message>
+    <message>
+        <source>Drucker-Prager: the catalogue does not say which cone belongs to the friction angle. The curve shows three cones: through the compression meridian, through the extension meridian, and for plane strain.</source>
+        <translation>Drucker-Prager: Der Katalog sagt nicht, welcher Kegel zum Reibungswinkel gehört. Die Kurve zeigt drei Kegel: durch den Druckmeridian, durch den Zugmeridian und für ebene Verzerrung.</translation>
+    </message>
+    <message>
+        <source>%1: the catalogue has no dilation angle. Solvers need one.</source>
+        <translation>%1: Der Katalog hat keinen Dilatanzwinkel. Solver brauchen einen.</translation>
+    </message>
+    <message>
+        <source>The friction angle is %1 degrees. It must be at least 0 and less than 90.</source>
+        <translation>Der Reibungswinkel ist %1 Grad. Er muss mindestens 0 und kleiner als 90 sein.</translation>
+    </message>
+    <message>
+        <source>The friction angle is taken as %1 degrees. If it is in radians, multiply it by 57.3.</source>
+        <translation>Der Reibungswinkel wird als %1 Grad gelesen. Ist er im Bogenmaß angegeben, multiplizieren Sie ihn mit 57.3.</translation>
+    </message>
+    <message>
+        <source>The time exponent m is %1. The rate form needs -1 &lt; m &lt;= 0. A value between 0 and 1 belongs to the total form, whose exponent is m + 1.</source>
+        <translation>Der Zeitexponent m ist %1. Die Ratenform braucht -1 &lt; m &lt;= 0. Ein Wert zwischen 0 und 1 gehört zur Gesamtform, deren Exponent m + 1 ist.</translation>
+    </message>
+    <message>
+        <source>The stress exponent n is %1. It must be greater than 0.</source>
+        <translation>Der Spannungsexponent n ist %1. Er muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>The creep constant A is %1 in Pa and s. CalculiX replaces a value below 1e-20 by 1e-20. Write its input in MPa.</source>
+        <translation>Die Kriechkonstante A ist %1 in Pa und s. CalculiX ersetzt einen Wert unter 1e-20 durch 1e-20. Schreiben Sie die Eingabe in MPa.</translation>
+    </message>
+    <message>
+        <source>The relaxing part of the shear modulus is %1. It must be at least 0 and less than 1.</source>
+        <translation>Der relaxierende Teil des Schubmoduls ist %1. Er muss mindestens 0 und kleiner als 1 sein.</translation>
+    </message>
+    <message>
+        <source>The shear relaxation modulus is %1. It is taken as the relaxing part of the shear modulus, which must be less than 1. Divide a modulus in Pa by the shear modulus.</source>
+        <translation>Der Schubrelaxationsmodul ist %1. Er wird als relaxierender Teil des Schubmoduls gelesen, der kleiner als 1 sein muss. Teilen Sie einen Modul in Pa durch den Schubmodul.</translation>
+    </message>
+    <message>
+        <source>%1: without Young&apos;s modulus and Poisson&apos;s ratio, some curves are missing or are multiples of a modulus.</source>
+        <translation>%1: Ohne Elastizitätsmodul und Querkontraktionszahl fehlen manche Kurven oder sind Vielfache eines Moduls.</translation>
+    </message>
+    <message>
+        <source>%2 has no response in the mode %1.</source>
+        <translation>%2 hat keine Antwort in der Versuchsart %1.</translation>
+    </message>
+    <message>
+        <source>The model has no value at %3 points. At the first of them, the %1 is %2.</source>
+        <translation>Das Modell hat an %3 Punkten keinen Wert. Am ersten davon ist %1 %2.</translation>
+    </message>
+    <message>
+        <source>No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too large, the chains are at their limit, or there is no equilibrium.</source>
+        <translation>An %3 Punkten gibt es keinen endlichen Wert. Am ersten davon ist %1 %2. Die Konstanten oder der Bereich sind zu groß, die Ketten sind an ihrer Grenze, oder es gibt kein Gleichgewicht.</translation>
+    </message>
+    <message>
+        <source>%1: the material is unstable from %2 on by Drucker&apos;s criterion. A solver may fail there.</source>
+        <translation>%1: Das Material ist nach dem Kriterium von Drucker ab %2 instabil. Ein Solver kann dort versagen.</translation>
+    </message>
+    <message>
+        <source>The curve has strains up to %1. Linear elasticity is valid for strains below 0.05.</source>
+        <translation>Die Kurve hat Dehnungen bis %1. Lineare Elastizität gilt für Dehnungen unter 0.05.</translation>
+    </message>
+    <message>
+        <source>%1: the chains reach their limiting stretch at %2, inside the range up to %3. The five-term series has no limit there.</source>
+        <translation>%1: Die Ketten erreichen ihre Grenzstreckung bei %2, innerhalb des Bereichs bis %3. Die fünfgliedrige Reihe hat dort keine Grenze.</translation>
+    </message>
+    <message>
+        <source>At %1, the chains are at %3 of their limiting stretch. The five-term series is %2 % below the inverse Langevin function.</source>
+        <translation>Bei %1 sind die Ketten bei %3 ihrer Grenzstreckung. Die fünfgliedrige Reihe liegt %2 % unter der inversen Langevin-Funktion.</translation>
+    </message>
+    <message>
+        <source>The curve is incompressible, but the material has a D1. With D1 the stress differs by a factor of up to %1, at the stretch %2.</source>
+        <translation>Die Kurve ist inkompressibel, das Material hat aber ein D1. Mit D1 weicht die Spannung bis zum Faktor %1 ab, bei der Streckung %2.</translation>
+    </message>
+    <message>
+        <source>%1: an incompressible material has no volumetric response. Give D1 or Poisson&apos;s ratio, and do not request an incompressible curve.</source>
+        <translation>%1: Ein inkompressibles Material hat keine volumetrische Antwort. Geben Sie D1 oder die Querkontraktionszahl an und fordern Sie keine inkompressible Kurve an.</translation>
+    </message>
+    <message>
+        <source>The bar necks at the engineering strain %1, where the engineering stress is largest: %2 Pa (Considere).</source>
+        <translation>Der Stab schnürt sich bei der technischen Dehnung %1 ein, wo die technische Spannung am größten ist: %2 Pa (Considère).</translation>
+    </message>
+    <message>
+        <source>A creep curve needs at least one stress.</source>
+        <translation>Eine Kriechkurve braucht mindestens eine Spannung.</translation>
+    </message>
+    <message>
+        <source>After the last row, from the plastic strain %1 on, the stress stays constant, as in solvers.</source>
+        <translation>Nach der letzten Zeile, ab der plastischen Dehnung %1, bleibt die Spannung konstant wie in Solvern.</translation>
+    </message>
+    <message>
+        <source>%1: the cohesion is not known. Pressure and Mises stress are multiples of it.</source>
+        <translation>%1: Die Kohäsion ist nicht bekannt. Druck und Mises-Spannung sind Vielfache von ihr.</translation>
+    </message>
+    <message>
+        <source>The instantaneous shear modulus is not known. The curve is a multiple of it.</source>
+        <translation>Der Sofort-Schubmodul ist nicht bekannt. Die Kurve ist ein Vielfaches davon.</translation>
+    </message>
+    <message>
+        <source>There is no yield surface below the pressure %1, which is its apex.</source>
+        <translation>Unter dem Druck %1, der Spitze der Fließfläche, gibt es keine Fließfläche.</translation>
+    </message>
+    <message>
+        <source>The data are not text: byte %1 is a character that text does not have. Export the data as CSV.</source>
+        <translation>Die Daten sind kein Text: Byte %1 ist ein Zeichen, das in Text nicht vorkommt. Exportieren Sie die Daten als CSV.</translation>
+    </message>
+    <message>
+        <source>No line has two numbers. A test needs a column such as strain, stretch or time, and a column such as stress.</source>
+        <translation>Keine Zeile hat zwei Zahlen. Ein Versuch braucht eine Spalte wie Dehnung, Streckung oder Zeit und eine Spalte wie Spannung.</translation>
+    </message>
+    <message>
+        <source>Each line has only one number. If there are more, give the separator.</source>
+        <translation>Jede Zeile hat nur eine Zahl. Wenn es mehr sind, geben Sie das Trennzeichen an.</translation>
+    </message>
+    <message>
+        <source>%1 lines between or after the numbers are not numbers and are left out. The first is line %2.</source>
+        <translation>%1 Zeilen zwischen oder nach den Zahlen sind keine Zahlen und werden weggelassen. Die erste ist Zeile %2.</translation>
+    </message>
+    <message>
+        <source>%1 lines have a cell that is not a number or belongs to no column. The first is line %2.</source>
+        <translation>%1 Zeilen haben eine Zelle, die keine Zahl ist oder zu keiner Spalte gehört. Die erste ist Zeile %2.</translation>
+    </message>
+    <message>
+        <source>The numbers have decimal commas.</source>
+        <translation>Die Zahlen haben Dezimalkommas.</translation>
+    </message>
+    <message>
+        <source>Commas are read as decimal commas, but they may group thousands: &quot;%1&quot;. Give the decimal mark.</source>
+        <translation>Kommas werden als Dezimalkommas gelesen, könnten aber Tausender gruppieren: „%1“. Geben Sie das Dezimalzeichen an.</translation>
+    </message>
+    <message>
+        <source>No column was found for: %1. Choose a column.</source>
+        <translation>Es wurde keine Spalte gefunden für: %1. Wählen Sie eine Spalte.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot;: choose its meaning: %2.</source>
+        <translation>Spalte „%1“: Wählen Sie ihre Bedeutung: %2.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has no unit. Give one.</source>
+        <translation>Spalte „%1“ hat keine Einheit. Geben Sie eine an.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot;: the unit &quot;%2&quot; is not known or does not fit. Give another unit.</source>
+        <translation>Spalte „%1“: Die Einheit „%2“ ist nicht bekannt oder passt nicht. Geben Sie eine andere an.</translation>
+    </message>
+    <message>
+        <source>A creep curve needs the stress of the test. Give the stress.</source>
+        <translation>Eine Kriechkurve braucht die Spannung des Versuchs. Geben Sie die Spannung an.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; does not say whether it is true or engineering. It is taken as %2.</source>
+        <translation>Spalte „%1“ sagt nicht, ob sie wahre oder technische Werte hat. Sie wird gelesen als: %2.</translation>
+    </message>
+    <message>
+        <source>Several columns fit. Column &quot;%1&quot; is used.</source>
+        <translation>Mehrere Spalten passen. Spalte „%1“ wird verwendet.</translation>
+    </message>
+    <message>
+        <source>%1 points have a smaller abscissa than the point before.</source>
+        <translation>%1 Punkte haben eine kleinere Abszisse als der Punkt davor.</translation>
+    </message>
+    <message>
+        <source>%1 points repeat another point.</source>
+        <translation>%1 Punkte wiederholen einen anderen Punkt.</translation>
+    </message>
+    <message>
+        <source>%1 points are in compression or below 0.</source>
+        <translation>%1 Punkte liegen im Druckbereich oder unter 0.</translation>
+    </message>
+    <message>
+        <source>%1 points are left out: they are incomplete or outside the domain of the test.</source>
+        <translation>%1 Punkte werden weggelassen: Sie sind unvollständig oder außerhalb des Bereichs des Versuchs.</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot;: all measured values are 0.</source>
+        <translation>Versuch „%1“: Alle Messwerte sind 0.</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; has no usable point.</source>
+        <translation>Versuch „%1“ hat keinen brauchbaren Punkt.</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; has %2 points. The fit uses %3 averages of neighbours.</source>
+        <translation>Versuch „%1“ hat %2 Punkte. Die Anpassung verwendet %3 Mittelwerte von Nachbarn.</translation>
+    </message>
+    <message>
+        <source>%1: there are no data for a fit of this model.</source>
+        <translation>%1: Es gibt keine Daten für eine Anpassung dieses Modells.</translation>
+    </message>
+    <message>
+        <source>%1: there are %2 points, no more than constants. The error cannot be estimated.</source>
+        <translation>%1: Es gibt %2 Punkte, nicht mehr als Konstanten. Der Fehler kann nicht geschätzt werden.</translation>
+    </message>
+    <message>
+        <source>The data do not determine %1. They determine only %2. Add another kind of test.</source>
+        <translation>Die Daten bestimmen %1 nicht. Sie bestimmen nur %2. Fügen Sie eine andere Art von Versuch hinzu.</translation>
+    </message>
+    <message>
+        <source>%1 has no influence on these tests. Its value is arbitrary. Add another kind of test, or hold it fixed.</source>
+        <translation>%1 hat keinen Einfluss auf diese Versuche. Der Wert ist willkürlich. Fügen Sie eine andere Art von Versuch hinzu, oder halten Sie ihn fest.</translation>
+    </message>
+    <message>
+        <source>%1 is poorly determined: its standard error is %2 % of its value.</source>
+        <translation>%1 ist schlecht bestimmt: Der Standardfehler ist %2 % des Wertes.</translation>
+    </message>
+    <message>
+        <source>%1 is at its bound %2. The best fit is beyond it.</source>
+        <translation>%1 ist an der Schranke %2. Die beste Anpassung liegt jenseits davon.</translation>
+    </message>
+    <message>
+        <source>The limiting stretch tends to infinity: the data, with chain stretches up to %1, show no stiffening. Use a model without a limiting stretch.</source>
+        <translation>Die Grenzstreckung strebt gegen unendlich: Die Daten, mit Kettenstreckungen bis %1, zeigen keine Versteifung. Verwenden Sie ein Modell ohne Grenzstreckung.</translation>
+    </message>
+    <message>
+        <source>Stability over the range raises the residual from %2 to %1.</source>
+        <translation>Stabilität über den Bereich erhöht den Restfehler von %2 auf %1.</translation>
+    </message>
+    <message>
+        <source>%1: the constants are not stable over the whole requested range.</source>
+        <translation>%1: Die Konstanten sind nicht im ganzen verlangten Bereich stabil.</translation>
+    </message>
+    <message>
+        <source>%1: no constants of a stable material come near the data. Check the signs, units and modes of the tests.</source>
+        <translation>%1: Keine Konstanten eines stabilen Materials kommen den Daten nahe. Prüfen Sie Vorzeichen, Einheiten und Arten der Versuche.</translation>
+    </message>
+    <message>
+        <source>%1: the fit was cancelled.</source>
+        <translation>%1: Die Anpassung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The stress falls by up to %1 % of its largest value while the plastic strain rises. Neighbours are averaged so that it does not fall.</source>
+        <translation>Die Spannung fällt bei steigender plastischer Dehnung um bis zu %1 % ihres größten Wertes. Nachbarn werden gemittelt, damit sie nicht fällt.</translation>
+    </message>
+    <message>
+        <source>%2 points after the largest force, at the engineering strain %1, are left out because the bar necks there.</source>
+        <translation>%2 Punkte nach der größten Kraft, bei der technischen Dehnung %1, werden weggelassen, weil sich der Stab dort einschnürt.</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus %1 Pa is taken from the first part of the curve. Give it if it is known.</source>
+        <translation>Der Elastizitätsmodul %1 Pa wird dem ersten Teil der Kurve entnommen. Geben Sie ihn an, wenn er bekannt ist.</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; has no elastic part for Young&apos;s modulus. Give Young&apos;s modulus.</source>
+        <translation>Versuch „%1“ hat keinen elastischen Teil für den Elastizitätsmodul. Geben Sie den Elastizitätsmodul an.</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; does not reach the offset yield stress.</source>
+        <translation>Versuch „%1“ erreicht die Dehngrenze nicht.</translation>
+    </message>
+    <message>
+        <source>In the volumetric tests, the stress opposes the change of volume. D1 is not fitted. Check the sign of the stress.</source>
+        <translation>In den Volumenversuchen wirkt die Spannung der Volumenänderung entgegen. D1 wird nicht angepasst. Prüfen Sie das Vorzeichen der Spannung.</translation>
+    </message>
+    <message>
+        <source>Creep rates are left out because there are creep curves.</source>
+        <translation>Kriechraten werden weggelassen, weil es Kriechkurven gibt.</translation>
+    </message>
+    <message>
+        <source>All creep data are at one stress, which does not determine the exponent n. Add another stress, or hold n fixed.</source>
+        <translation>Alle Kriechdaten sind bei einer Spannung, die den Exponenten n nicht bestimmt. Fügen Sie eine andere Spannung hinzu, oder halten Sie n fest.</translation>
+    </message>
+    <message>
+        <source>The relaxation time %1 s is outside the measured times, %2 s to %3 s.</source>
+        <translation>Die Relaxationszeit %1 s liegt außerhalb der gemessenen Zeiten, %2 s bis %3 s.</translation>
+    </message>
+</context>
+<context>
+    <name>vxConstitutive::Word</name>
+    <message>
+        <source>linear elasticity</source>
+        <translation>lineare Elastizität</translation>
+    </message>
+    <message>
+        <source>Neo-Hookean</source>
+        <translation>Neo-Hooke</translation>
+    </message>
+    <message>
+        <source>Mooney-Rivlin</source>
+        <translation>Mooney-Rivlin</translation>
+    </message>
+    <message>
+        <source>Mooney-Rivlin with C11</source>
+        <translation>Mooney-Rivlin mit C11</translation>
+    </message>
+    <message>
+        <source>Arruda-Boyce</source>
+        <translation>Arruda-Boyce</translation>
+    </message>
+    <message>
+        <source>Mises plasticity</source>
+        <translation>Mises-Plastizität</translation>
+    </message>
+    <message>
+        <source>Drucker-Prager</source>
+        <translation>Drucker-Prager</translation>
+    </message>
+    <message>
+        <source>Mohr-Coulomb</source>
+        <translation>Mohr-Coulomb</translation>
+    </message>
+    <message>
+        <source>Norton creep</source>
+        <translation>Norton-Kriechen</translation>
+    </message>
+    <message>
+        <source>visco-elasticity</source>
+        <translation>Viskoelastizität</translation>
+    </message>
+    <message>
+        <source>multilinear hardening</source>
+        <translation>multilineare Verfestigung</translation>
+    </message>
+    <message>
+        <source>bilinear hardening</source>
+        <translation>bilineare Verfestigung</translation>
+    </message>
+    <message>
+        <source>uniaxial tension and compression</source>
+        <translation>einachsiger Zug und Druck</translation>
+    </message>
+    <message>
+        <source>equibiaxial tension</source>
+        <translation>gleichmäßig zweiachsiger Zug</translation>
+    </message>
+    <message>
+        <source>planar tension (pure shear)</source>
+        <translation>ebener Zug (reiner Schub)</translation>
+    </message>
+    <message>
+        <source>simple shear</source>
+        <translation>einfache Scherung</translation>
+    </message>
+    <message>
+        <source>volumetric</source>
+        <translation>volumetrisch</translation>
+    </message>
+    <message>
+        <source>hardening curve</source>
+        <translation>Verfestigungskurve</translation>
+    </message>
+    <message>
+        <source>tensile test</source>
+        <translation>Zugversuch</translation>
+    </message>
+    <message>
+        <source>yield surface</source>
+        <translation>Fließfläche</translation>
+    </message>
+    <message>
+        <source>creep</source>
+        <translation>Kriechen</translation>
+    </message>
+    <message>
+        <source>creep rate</source>
+        <translation>Kriechrate</translation>
+    </message>
+    <message>
+        <source>shear relaxation</source>
+        <translation>Schubrelaxation</translation>
+    </message>
+    <message>
+        <source>shear creep</source>
+        <translation>Scherkriechen</translation>
+    </message>
+    <message>
+        <source>storage and loss</source>
+        <translation>Speicherung und Verlust</translation>
+    </message>
+    <message>
+        <source>stretch</source>
+        <translation>Streckung</translation>
+    </message>
+    <message>
+        <source>amount of shear</source>
+        <translation>Schiebung</translation>
+    </message>
+    <message>
+        <source>engineering strain</source>
+        <translation>technische Dehnung</translation>
+    </message>
+    <message>
+        <source>plastic strain</source>
+        <translation>plastische Dehnung</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>stress</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>nominal stress</source>
+        <translation>Nennspannung</translation>
+    </message>
+    <message>
+        <source>true stress</source>
+        <translation>wahre Spannung</translation>
+    </message>
+    <message>
+        <source>nominal shear stress</source>
+        <translation>Nennschubspannung</translation>
+    </message>
+    <message>
+        <source>true shear stress</source>
+        <translation>wahre Schubspannung</translation>
+    </message>
+    <message>
+        <source>normal stress difference</source>
+        <translation>Normalspannungsdifferenz</translation>
+    </message>
+    <message>
+        <source>slope</source>
+        <translation>Steigung</translation>
+    </message>
+    <message>
+        <source>lateral stretch</source>
+        <translation>Querstreckung</translation>
+    </message>
+    <message>
+        <source>volume ratio</source>
+        <translation>Volumenverhältnis</translation>
+    </message>
+    <message>
+        <source>Mises stress</source>
+        <translation>Mises-Spannung</translation>
+    </message>
+    <message>
+        <source>Mises stress, compression meridian</source>
+        <translation>Mises-Spannung, Druckmeridian</translation>
+    </message>
+    <message>
+        <source>Mises stress, extension meridian</source>
+        <translation>Mises-Spannung, Zugmeridian</translation>
+    </message>
+    <message>
+        <source>Mises stress, outer cone</source>
+        <translation>Mises-Spannung, äußerer Kegel</translation>
+    </message>
+    <message>
+        <source>Mises stress, inner cone</source>
+        <translation>Mises-Spannung, innerer Kegel</translation>
+    </message>
+    <message>
+        <source>Mises stress, plane strain</source>
+        <translation>Mises-Spannung, ebene Verzerrung</translation>
+    </message>
+    <message>
+        <source>creep strain</source>
+        <translation>Kriechdehnung</translation>
+    </message>
+    <message>
+        <source>creep strain rate</source>
+        <translation>Kriechdehnrate</translation>
+    </message>
+    <message>
+        <source>relaxation modulus</source>
+        <translation>Relaxationsmodul</translation>
+    </message>
+    <message>
+        <source>creep compliance</source>
+        <translation>Kriechnachgiebigkeit</translation>
+    </message>
+    <message>
+        <source>storage modulus</source>
+        <translation>Speichermodul</translation>
+    </message>
+    <message>
+        <source>loss modulus</source>
+        <translation>Verlustmodul</translation>
+    </message>
+    <message>
+        <source>loss factor</source>
+        <translation>Verlustfaktor</translation>
+    </message>
+    <message>
+        <source>%1 / cohesion</source>
+        <translation>%1 / Kohäsion</translation>
+    </message>
+    <message>
+        <source>%1 / shear modulus</source>
+        <translation>%1 / Schubmodul</translation>
+    </message>
+    <message>
+        <source>%1 x shear modulus</source>
+        <translation>%1 x Schubmodul</translation>
+    </message>
+    <message>
+        <source>%1 at %2 Pa</source>
+        <translation>%1 bei %2 Pa</translation>
+    </message>
+    <message>
+        <source>%1 at %2 s</source>
+        <translation>%1 bei %2 s</translation>
+    </message>
+    <message>
+        <source>true strain</source>
+        <translation>wahre Dehnung</translation>
+    </message>
+    <message>
+        <source>volumetric strain</source>
+        <translation>Volumendehnung</translation>
+    </message>
+    <message>
+        <source>strain rate</source>
+        <translation>Dehnrate</translation>
+    </message>
+    <message>
+        <source>modulus</source>
+        <translation>Modul</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus</source>
+        <translation>Elastizitätsmodul</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Querkontraktionszahl</translation>
+    </message>
+    <message>
+        <source>shear modulus</source>
+        <translation>Schubmodul</translation>
+    </message>
+    <message>
+        <source>bulk modulus</source>
+        <translation>Kompressionsmodul</translation>
+    </message>
+    <message>
+        <source>factor of the series</source>
+        <translation>Faktor der Reihe</translation>
+    </message>
+    <message>
+        <source>limiting stretch</source>
+        <translation>Grenzstreckung</translation>
+    </message>
+    <message>
+        <source>first constant</source>
+        <translation>erste Konstante</translation>
+    </message>
+    <message>
+        <source>second constant</source>
+        <translation>zweite Konstante</translation>
+    </message>
+    <message>
+        <source>mixed constant</source>
+        <translation>gemischte Konstante</translation>
+    </message>
+    <message>
+        <source>compressibility</source>
+        <translation>Kompressibilität</translation>
+    </message>
+    <message>
+        <source>initial shear modulus</source>
+        <translation>Anfangsschubmodul</translation>
+    </message>
+    <message>
+        <source>initial Young&apos;s modulus</source>
+        <translation>Anfangselastizitätsmodul</translation>
+    </message>
+    <message>
+        <source>initial Poisson&apos;s ratio</source>
+        <translation>Anfangsquerkontraktionszahl</translation>
+    </message>
+    <message>
+        <source>initial bulk modulus</source>
+        <translation>Anfangskompressionsmodul</translation>
+    </message>
+    <message>
+        <source>creep constant</source>
+        <translation>Kriechkonstante</translation>
+    </message>
+    <message>
+        <source>stress exponent</source>
+        <translation>Spannungsexponent</translation>
+    </message>
+    <message>
+        <source>time exponent</source>
+        <translation>Zeitexponent</translation>
+    </message>
+    <message>
+        <source>initial yield stress</source>
+        <translation>Anfangsfließspannung</translation>
+    </message>
+    <message>
+        <source>yield stress</source>
+        <translation>Fließspannung</translation>
+    </message>
+    <message>
+        <source>hardening modulus</source>
+        <translation>Verfestigungsmodul</translation>
+    </message>
+    <message>
+        <source>tangent modulus</source>
+        <translation>Tangentenmodul</translation>
+    </message>
+    <message>
+        <source>engineering strain at necking</source>
+        <translation>technische Dehnung bei Einschnürung</translation>
+    </message>
+    <message>
+        <source>tensile strength</source>
+        <translation>Zugfestigkeit</translation>
+    </message>
+    <message>
+        <source>friction angle</source>
+        <translation>Reibungswinkel</translation>
+    </message>
+    <message>
+        <source>relaxing part</source>
+        <translation>relaxierender Teil</translation>
+    </message>
+    <message>
+        <source>relaxation time</source>
+        <translation>Relaxationszeit</translation>
+    </message>
+    <message>
+        <source>instantaneous shear modulus</source>
+        <translation>Sofort-Schubmodul</translation>
+    </message>
+    <message>
+        <source>long-term shear modulus</source>
+        <translation>Langzeit-Schubmodul</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector</name>
     <message>
         <source>Inspector</source>
@@ -2914,6 +3684,14 @@ Trotzdem löschen?</translation>
         <source>Different in %1 of %2 quantities.</source>
         <translation>Verschieden in %1 von %2 Größen.</translation>
     </message>
+    <message>
+        <source>With changes that are not applied: %1.</source>
+        <translation>Mit nicht angewendeten Änderungen: %1.</translation>
+    </message>
+    <message>
+        <source>Suppressed: %1.</source>
+        <translation>Unterdrückt: %1.</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::ContentView</name>
@@ -2932,6 +3710,116 @@ Trotzdem löschen?</translation>
     <message>
         <source>The cells cannot be copied</source>
         <translation>Die Zellen können nicht kopiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CurvesContent</name>
+    <message>
+        <source>%1 (suppressed)</source>
+        <translation>%1 (unterdrückt)</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>It has no constants of a model with curves: elasticity, hyperelasticity, plasticity, creep or visco-elasticity.</source>
+        <translation>Es hat keine Konstanten eines Modells mit Kurven: Elastizität, Hyperelastizität, Plastizität, Kriechen oder Viskoelastizität.</translation>
+    </message>
+    <message>
+        <source>The materials have no constants of a model with curves: elasticity, hyperelasticity, plasticity, creep or visco-elasticity.</source>
+        <translation>Die Materialien haben keine Konstanten eines Modells mit Kurven: Elastizität, Hyperelastizität, Plastizität, Kriechen oder Viskoelastizität.</translation>
+    </message>
+    <message>
+        <source>Materials without a model: %1.</source>
+        <translation>Materialien ohne Modell: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CurvesPage</name>
+    <message>
+        <source>The curves cannot be drawn</source>
+        <translation>Die Kurven können nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>&amp;Von:</translation>
+    </message>
+    <message>
+        <source>t&amp;o:</source>
+        <translation>&amp;bis:</translation>
+    </message>
+    <message>
+        <source>log x</source>
+        <translation>log x</translation>
+    </message>
+    <message>
+        <source>Horizontal axis with a logarithmic scale</source>
+        <translation>Waagerechte Achse mit logarithmischer Teilung</translation>
+    </message>
+    <message>
+        <source>log y</source>
+        <translation>log y</translation>
+    </message>
+    <message>
+        <source>Vertical axis with a logarithmic scale</source>
+        <translation>Senkrechte Achse mit logarithmischer Teilung</translation>
+    </message>
+    <message>
+        <source>The tests whose curves are drawn. Tests with the same axes can be drawn together.</source>
+        <translation>Die Versuche, deren Kurven gezeichnet werden. Versuche mit gleichen Achsen können zusammen gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The quantity on the vertical axis</source>
+        <translation>Die Größe auf der senkrechten Achse</translation>
+    </message>
+    <message>
+        <source>Vertical axis</source>
+        <translation>Senkrechte Achse</translation>
+    </message>
+    <message>
+        <source>Beginning of the horizontal axis</source>
+        <translation>Anfang der waagerechten Achse</translation>
+    </message>
+    <message>
+        <source>End of the horizontal axis</source>
+        <translation>Ende der waagerechten Achse</translation>
+    </message>
+    <message>
+        <source>Show everything</source>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Findings about the curves</source>
+        <translation>Befunde zu den Kurven</translation>
+    </message>
+    <message>
+        <source>Tests: %1</source>
+        <translation>Versuche: %1</translation>
+    </message>
+    <message>
+        <source>Draw as incompressible</source>
+        <translation>Inkompressibel zeichnen</translation>
+    </message>
+    <message>
+        <source>This number cannot be read.</source>
+        <translation>Diese Zahl kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -3011,10 +3899,6 @@ Trotzdem löschen?</translation>
         <translation>&amp;Einheiten:</translation>
     </message>
     <message>
-        <source>The unit system of the values and the comparison. It changes no value.</source>
-        <translation>Das Einheitensystem der Werte und des Vergleichs. Es ändert keinen Wert.</translation>
-    </message>
-    <message>
         <source>Values</source>
         <translation>Werte</translation>
     </message>
@@ -3034,6 +3918,14 @@ Trotzdem löschen?</translation>
         <source>As the project (%1)</source>
         <translation>Wie das Projekt (%1)</translation>
     </message>
+    <message>
+        <source>The unit system of values, comparison and curves. It changes no value.</source>
+        <translation>Das Einheitensystem von Werten, Vergleich und Kurven. Es ändert keinen Wert.</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>Kurven</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::InspectorDock</name>
@@ -3044,6 +3936,69 @@ Trotzdem löschen?</translation>
     <message>
         <source>The inspector cannot be updated</source>
         <translation>Der Inspektor kann nicht aktualisiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::PlotView</name>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>Bild &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;table</source>
+        <translation>&amp;Tabelle kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>&amp;Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Show &amp;everything</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Diagramm</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle or turn the wheel to zoom; Home shows everything. A click on the legend hides a curve.</source>
+        <translation>Ziehen Sie ein Rechteck auf oder drehen Sie das Mausrad, um zu vergrößern; Pos1 zeigt alles. Ein Klick auf die Legende blendet eine Kurve aus.</translation>
+    </message>
+    <message>
+        <source>The plot cannot be drawn</source>
+        <translation>Das Diagramm kann nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>The picture cannot be copied</source>
+        <translation>Das Bild kann nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>The table cannot be copied</source>
+        <translation>Die Tabelle kann nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>The plot cannot be saved</source>
+        <translation>Das Diagramm kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Picture (*.png);;Drawing (*.svg);;Document (*.pdf);;Table (*.csv)</source>
+        <translation>Bild (*.png);;Zeichnung (*.svg);;Dokument (*.pdf);;Tabelle (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save plot</source>
+        <translation>Diagramm speichern</translation>
+    </message>
+    <message>
+        <source>curves</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is not written: its name must end in png, svg, pdf or csv.</source>
+        <translation>Die Datei „%1“ wird nicht geschrieben: Ihr Name muss auf png, svg, pdf oder csv enden.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -3084,12 +4039,24 @@ Trotzdem löschen?</translation>
         <source>Source: %1</source>
         <translation>Quelle: %1</translation>
     </message>
+    <message>
+        <source>The scale is logarithmic; 0 is at its left end.</source>
+        <translation>Die Skala ist logarithmisch; 0 liegt an ihrem linken Ende.</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::Remedying</name>
     <message>
         <source>Apply remedy</source>
         <translation>Abhilfe anwenden</translation>
+    </message>
+    <message>
+        <source>The remedy was applied to &quot;%1&quot;: %2.</source>
+        <translation>Die Abhilfe wurde auf „%1“ angewendet: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 becomes %3</source>
+        <translation>%1: %2 wird zu %3</translation>
     </message>
 </context>
 <context>
@@ -3154,6 +4121,10 @@ Trotzdem löschen?</translation>
         <source>Only the first %1 of %2 materials are shown.</source>
         <translation>Nur die ersten %1 von %2 Materialien werden gezeigt.</translation>
     </message>
+    <message>
+        <source>A project is selected. Select one or more materials to see their curves.</source>
+        <translation>Ein Projekt ist ausgewählt. Wählen Sie ein oder mehrere Materialien aus, um ihre Kurven zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::ValueTable</name>
@@ -3204,6 +4175,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>&quot;%1&quot;.</source>
         <translation>„%1“.</translation>
+    </message>
+    <message>
+        <source>A switch is on if the material has it, whatever its number. Remove the quantity to switch it off.</source>
+        <translation>Ein Schalter ist ein, wenn das Material ihn hat, unabhängig von seiner Zahl. Entfernen Sie die Größe, um ihn auszuschalten.</translation>
     </message>
 </context>
 <context>
@@ -3311,6 +4286,93 @@ Trotzdem löschen?</translation>
     <message>
         <source>Acoustic Material 2</source>
         <translation>Akustisches Material 2</translation>
+    </message>
+</context>
+<context>
+    <name>vxMat::MaterialFinding</name>
+    <message>
+        <source>the %1 card lacks a value: &quot;%2&quot;</source>
+        <translation>in der Karte „%1“ fehlt ein Wert: „%2“</translation>
+    </message>
+    <message>
+        <source>the plasticity card cannot be complete: exchange documents carry no words and lists</source>
+        <translation>die Karte der Plastizität kann nicht vollständig sein: Austauschdokumente enthalten keine Wörter und Listen</translation>
+    </message>
+    <message>
+        <source>the plasticity card cannot be complete: exchange documents carry no words and lists (%1)</source>
+        <translation>die Karte der Plastizität kann nicht vollständig sein: Austauschdokumente enthalten keine Wörter und Listen (%1)</translation>
+    </message>
+    <message>
+        <source>no plasticity card is written for yield type &quot;%1&quot; with hardening type &quot;%2&quot;</source>
+        <translation>für die Fließart „%1“ mit der Verfestigungsart „%2“ wird keine Karte der Plastizität geschrieben</translation>
+    </message>
+    <message>
+        <source>the plasticity card has no hardening curve: the material has no numbers of &quot;%1&quot;</source>
+        <translation>die Karte der Plastizität hat keine Verfestigungskurve: Das Material hat keine Zahlen für „%1“</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which the solver does not use with bilinear hardening: %2</source>
+        <translation>die Karte der Plastizität lässt Zahlen von „%1“ weg, die der Solver bei bilinearer Verfestigung nicht verwendet: %2</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which the solver does not use with yield type &quot;%3&quot;: %2</source>
+        <translation>die Karte der Plastizität lässt Zahlen von „%1“ weg, die der Solver bei der Fließart „%3“ nicht verwendet: %2</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which have no plastic strain: %2</source>
+        <translation>die Karte der Plastizität lässt Zahlen von „%1“ weg, zu denen keine plastische Dehnung gehört: %2</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which have no yield stress: %2</source>
+        <translation>die Karte der Plastizität lässt Zahlen von „%1“ weg, zu denen keine Fließspannung gehört: %2</translation>
+    </message>
+    <message>
+        <source>no card is written for &quot;%1&quot;: another model of the material takes precedence</source>
+        <translation>für „%1“ wird keine Karte geschrieben: Ein anderes Modell des Materials hat Vorrang</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is not finite, which no solver reads</source>
+        <translation>„%1“ hat eine Zahl, die nicht endlich ist; kein Solver liest sie</translation>
+    </message>
+    <message>
+        <source>The material has no properties.</source>
+        <translation>Das Material hat keine Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>The catalogue has no quantity %1 (&quot;%2&quot;); the editor does not show it, and applying changes there removes it.</source>
+        <translation>Der Katalog hat keine Größe %1 („%2“); der Editor zeigt sie nicht an, und das Anwenden von Änderungen dort entfernt sie.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; a finite number is needed.</source>
+        <translation>„%1“ ist %2; nötig ist eine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no number.</source>
+        <translation>„%1“ enthält keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; it must be greater than 0.</source>
+        <translation>„%1“ ist %2; der Wert muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; it must be from 0.001 to 0.499.</source>
+        <translation>„%1“ ist %2; der Wert muss zwischen 0.001 und 0.499 liegen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;; it must be one of %3.</source>
+        <translation>„%1“ ist „%2“; möglich ist nur eines von %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 numbers and &quot;%3&quot; has %4; they form pairs, and numbers without a partner have no effect.</source>
+        <translation>„%1“ hat %2 Zahlen und „%3“ hat %4; sie bilden Paare, und Zahlen ohne Gegenstück haben keine Wirkung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; exclude each other; remove one of them.</source>
+        <translation>„%1“ und „%2“ schließen einander aus; entfernen Sie eines davon.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs &quot;%2&quot;, which the material does not have.</source>
+        <translation>„%1“ benötigt „%2“; das Material hat diesen Wert nicht.</translation>
     </message>
 </context>
 <context>
@@ -3627,6 +4689,101 @@ Trotzdem löschen?</translation>
     <message>
         <source>Delete %1 objects</source>
         <translation>%1 Objekte löschen</translation>
+    </message>
+    <message>
+        <source>Change &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>„%1“ von „%2“ ändern</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in no project; nothing was changed.</source>
+        <translation>„%1“ ist in keinem Projekt; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Remove &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>„%1“ von „%2“ entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>vxPlot</name>
+    <message>
+        <source>storage and loss modulus</source>
+        <translation>Speicher- und Verlustmodul</translation>
+    </message>
+    <message>
+        <source>uniaxial</source>
+        <translation>einachsig</translation>
+    </message>
+    <message>
+        <source>equibiaxial</source>
+        <translation>gleich-zweiachsig</translation>
+    </message>
+    <message>
+        <source>planar</source>
+        <translation>planar</translation>
+    </message>
+    <message>
+        <source>simple shear</source>
+        <translation>einfache Scherung</translation>
+    </message>
+    <message>
+        <source>volumetric</source>
+        <translation>volumetrisch</translation>
+    </message>
+    <message>
+        <source>hardening</source>
+        <translation>Verfestigung</translation>
+    </message>
+    <message>
+        <source>tensile test</source>
+        <translation>Zugversuch</translation>
+    </message>
+    <message>
+        <source>yield surface</source>
+        <translation>Fließfläche</translation>
+    </message>
+    <message>
+        <source>creep</source>
+        <translation>Kriechen</translation>
+    </message>
+    <message>
+        <source>creep rate</source>
+        <translation>Kriechrate</translation>
+    </message>
+    <message>
+        <source>relaxation</source>
+        <translation>Relaxation</translation>
+    </message>
+    <message>
+        <source>shear creep</source>
+        <translation>Scherkriechen</translation>
+    </message>
+    <message>
+        <source>storage and loss</source>
+        <translation>Speicherung und Verlust</translation>
+    </message>
+    <message>
+        <source>%1 / cohesion</source>
+        <translation>%1 / Kohäsion</translation>
+    </message>
+    <message>
+        <source>%1 × shear modulus</source>
+        <translation>%1 × Schubmodul</translation>
+    </message>
+    <message>
+        <source>%1 / shear modulus</source>
+        <translation>%1 / Schubmodul</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message>
+        <source>unstable</source>
+        <translation>instabil</translation>
+    </message>
+    <message>
+        <source>The legend shows the first %1 of %2 curves.</source>
+        <translation>Die Legende zeigt die ersten %1 von %2 Kurven.</translation>
     </message>
 </context>
 <context>
@@ -3980,10 +5137,6 @@ Trotzdem löschen?</translation>
         <translation>Eine Klammer ist geschlossen, aber nicht geöffnet.</translation>
     </message>
     <message>
-        <source>More than %1 parentheses are inside each other.</source>
-        <translation>Mehr als %1 Klammern sind ineinander verschachtelt.</translation>
-    </message>
-    <message>
         <source>A quantity is missing before &quot;%1&quot;.</source>
         <translation>Vor „%1“ fehlt eine Größe.</translation>
     </message>
@@ -4044,16 +5197,40 @@ Trotzdem löschen?</translation>
         <translation>„%1“ ist eine Temperaturdifferenz; benötigt wird eine Temperatur.</translation>
     </message>
     <message>
-        <source>The unit of %1 depends on %2 and %3, which are not given or not between -50 and 50; write the number without a unit.</source>
-        <translation>Die Einheit von %1 hängt von %2 und %3 ab, die fehlen oder nicht zwischen -50 und 50 liegen; schreiben Sie die Zahl ohne Einheit.</translation>
-    </message>
-    <message>
         <source>The comma in &quot;%1&quot; may be a decimal sign or separate two numbers; write &quot;%2&quot; or &quot;%3&quot;.</source>
         <translation>Das Komma in „%1“ kann ein Dezimalzeichen sein oder zwei Zahlen trennen; schreiben Sie „%2“ oder „%3“.</translation>
     </message>
     <message>
         <source>The stresses look like %1, and the density like %2: convert them</source>
         <translation>Die Spannungen sehen nach %1 aus, die Dichte nach %2: rechnen Sie sie um</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2 and %3, which are not given; give them first.</source>
+        <translation>Die Einheit von %1 hängt von %2 und %3 ab, die nicht angegeben sind; geben Sie diese zuerst an.</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2, which is not given; give it first.</source>
+        <translation>Die Einheit von %1 hängt von %2 ab; diese Größe ist nicht angegeben; geben Sie sie zuerst an.</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2, which is not between -50 and 50; convert the number to SI units and write it without a unit.</source>
+        <translation>Die Einheit von %1 hängt von %2 ab, und dieser Wert liegt nicht zwischen -50 und 50; rechnen Sie die Zahl in SI-Einheiten um und geben Sie sie ohne Einheit ein.</translation>
+    </message>
+    <message>
+        <source>The stresses look like %1, the density like %2, and the specific heat like %3: convert them</source>
+        <translation>Die Spannungen sehen nach %1 aus, die Dichte nach %2 und die spezifische Wärmekapazität nach %3: Rechnen Sie sie um</translation>
+    </message>
+    <message>
+        <source>More than %1 parentheses and &quot;not&quot; are inside each other.</source>
+        <translation>Mehr als %1 Klammern und „not“ sind ineinander geschachtelt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a known unit; write &quot;and&quot; before another condition.</source>
+        <translation>„%1“ ist keine bekannte Einheit; schreiben Sie „and“ vor eine weitere Bedingung.</translation>
+    </message>
+    <message>
+        <source>Searched in labels; did you mean &quot;%1&quot;?</source>
+        <translation>In den Bezeichnungen gesucht; meinten Sie „%1“?</translation>
     </message>
 </context>
 <context>
@@ -4894,6 +6071,150 @@ Trotzdem löschen?</translation>
         <source>Electrical resistivity</source>
         <translation>Spezifischer elektrischer Widerstand</translation>
     </message>
+    <message>
+        <source>mass per volume</source>
+        <translation>Masse je Volumen</translation>
+    </message>
+    <message>
+        <source>stress over strain in uniaxial tension at small strain, of an isotropic solid</source>
+        <translation>Spannung durch Dehnung im einachsigen Zug bei kleiner Dehnung, für einen isotropen Festkörper</translation>
+    </message>
+    <message>
+        <source>transverse over axial strain in uniaxial tension</source>
+        <translation>Querdehnung durch Längsdehnung im einachsigen Zug</translation>
+    </message>
+    <message>
+        <source>shear stress over shear rate, of a Newtonian fluid</source>
+        <translation>Schubspannung durch Scherrate, für ein newtonsches Fluid</translation>
+    </message>
+    <message>
+        <source>coefficient mu of the series of the eight-chain model; the initial shear modulus is mu (1 + 3/(5 lm^2) + 99/(175 lm^4) + 513/(875 lm^6) + 42039/(67375 lm^8)), up to a third more</source>
+        <translation>Koeffizient mu der Reihe des Acht-Ketten-Modells; der Anfangsschubmodul ist mu (1 + 3/(5 lm^2) + 99/(175 lm^4) + 513/(875 lm^6) + 42039/(67375 lm^8)), bis zu einem Drittel mehr</translation>
+    </message>
+    <message>
+        <source>2 over the initial bulk modulus; energy (J - 1)^2 / D1; 0 is exactly incompressible</source>
+        <translation>2 durch den Anfangskompressionsmodul; Energie (J - 1)^2 / D1; 0 ist genau inkompressibel</translation>
+    </message>
+    <message>
+        <source>factor of I1 - 3; half the initial shear modulus of a neo-Hookean solid</source>
+        <translation>Faktor von I1 - 3; die Hälfte des Anfangsschubmoduls eines neo-hookeschen Festkörpers</translation>
+    </message>
+    <message>
+        <source>factor of I2 - 3; may be negative</source>
+        <translation>Faktor von I2 - 3; kann negativ sein</translation>
+    </message>
+    <message>
+        <source>on: W = C10 (I1 - 3) + (J - 1)^2 / D1</source>
+        <translation>ein: W = C10 (I1 - 3) + (J - 1)^2 / D1</translation>
+    </message>
+    <message>
+        <source>on: W = C10 (I1 - 3) + C01 (I2 - 3) + (J - 1)^2 / D1</source>
+        <translation>ein: W = C10 (I1 - 3) + C01 (I2 - 3) + (J - 1)^2 / D1</translation>
+    </message>
+    <message>
+        <source>on: eight-chain model by mu, limiting stretch and D1</source>
+        <translation>ein: Acht-Ketten-Modell mit mu, Grenzstreckung und D1</translation>
+    </message>
+    <message>
+        <source>on: linear elasticity by Young&apos;s modulus and Poisson&apos;s ratio; the number is without meaning</source>
+        <translation>ein: lineare Elastizität mit Elastizitätsmodul und Querkontraktionszahl; die Zahl hat keine Bedeutung</translation>
+    </message>
+    <message>
+        <source>on: plasticity by yield and hardening type</source>
+        <translation>ein: Plastizität nach Fließart und Verfestigungsart</translation>
+    </message>
+    <message>
+        <source>yield criterion</source>
+        <translation>Fließbedingung</translation>
+    </message>
+    <message>
+        <source>viscosity of viscoplastic flow: overstress over plastic strain rate; no cohesion, which the catalogue lacks</source>
+        <translation>Viskosität des viskoplastischen Fließens: Überspannung durch plastische Dehnrate; keine Kohäsion, die im Katalog fehlt</translation>
+    </message>
+    <message>
+        <source>angle of internal friction; degrees, not radians</source>
+        <translation>Winkel der inneren Reibung; Grad, nicht Radiant</translation>
+    </message>
+    <message>
+        <source>plastic modulus: slope of true stress over plastic strain, not over total strain</source>
+        <translation>plastischer Modul: Steigung der wahren Spannung über der plastischen Dehnung, nicht über der Gesamtdehnung</translation>
+    </message>
+    <message>
+        <source>hardening law</source>
+        <translation>Verfestigungsgesetz</translation>
+    </message>
+    <message>
+        <source>true yield stresses, one for each plastic strain</source>
+        <translation>wahre Fließspannungen, eine für jede plastische Dehnung</translation>
+    </message>
+    <message>
+        <source>logarithmic plastic strains, ascending, the first one 0</source>
+        <translation>logarithmische plastische Dehnungen, aufsteigend, die erste 0</translation>
+    </message>
+    <message>
+        <source>true stress at the first yield</source>
+        <translation>wahre Spannung beim ersten Fließen</translation>
+    </message>
+    <message>
+        <source>on: one term of a Prony series, G(t) / G(0) = 1 - g (1 - exp(-t / tau))</source>
+        <translation>ein: ein Glied einer Prony-Reihe, G(t) / G(0) = 1 - g (1 - exp(-t / tau))</translation>
+    </message>
+    <message>
+        <source>g: the share of the instantaneous shear modulus that relaxes; a ratio, not a modulus</source>
+        <translation>g: der Anteil des Anfangsschubmoduls, der relaxiert; ein Verhältnis, kein Modul</translation>
+    </message>
+    <message>
+        <source>tau of the Prony term</source>
+        <translation>tau des Prony-Glieds</translation>
+    </message>
+    <message>
+        <source>on: creep strain rate = A stress^N time^M</source>
+        <translation>ein: Kriechdehnrate = A Spannung^N Zeit^M</translation>
+    </message>
+    <message>
+        <source>factor of the creep law in its rate form; the unit depends on N and M</source>
+        <translation>Faktor des Kriechgesetzes in Ratenform; die Einheit hängt von N und M ab</translation>
+    </message>
+    <message>
+        <source>exponent of the stress</source>
+        <translation>Exponent der Spannung</translation>
+    </message>
+    <message>
+        <source>exponent of the time in the rate form; 0 is secondary creep</source>
+        <translation>Exponent der Zeit in der Ratenform; 0 ist sekundäres Kriechen</translation>
+    </message>
+    <message>
+        <source>lm: the stretch at which the chains are extended fully; a ratio, whatever the unit text says</source>
+        <translation>lm: die Streckung, bei der die Ketten ganz ausgezogen sind; ein Verhältnis, was auch immer der Einheitentext sagt</translation>
+    </message>
+    <message>
+        <source>factor of (I1 - 3)(I2 - 3); may be negative</source>
+        <translation>Faktor von (I1 - 3)(I2 - 3); kann negativ sein</translation>
+    </message>
+    <message>
+        <source>heat per mass and change of temperature</source>
+        <translation>Wärme je Masse und Temperaturänderung</translation>
+    </message>
+    <message>
+        <source>heat flux over gradient of temperature</source>
+        <translation>Wärmestromdichte durch Temperaturgradient</translation>
+    </message>
+    <message>
+        <source>current density over electric field; the W of the unit text is an Omega; 0 is a perfect insulator</source>
+        <translation>Stromdichte durch elektrische Feldstärke; das W im Einheitentext ist ein Omega; 0 ist ein vollkommener Isolator</translation>
+    </message>
+    <message>
+        <source>permittivity over that of vacuum, static</source>
+        <translation>Permittivität durch die des Vakuums, statisch</translation>
+    </message>
+    <message>
+        <source>permeability over that of vacuum, initial</source>
+        <translation>Permeabilität durch die des Vakuums, Anfangswert</translation>
+    </message>
+    <message>
+        <source>speed of longitudinal waves</source>
+        <translation>Geschwindigkeit der Longitudinalwellen</translation>
+    </message>
 </context>
 <context>
     <name>vxjson::JsonError</name>
@@ -5008,6 +6329,66 @@ Trotzdem löschen?</translation>
     <message>
         <source>&apos;%1&apos; is not a JSON value</source>
         <translation>„%1“ ist kein JSON-Wert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>„%1“ muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be true or false</source>
+        <translation>„%1“ muss true oder false sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number of 32 bits</source>
+        <translation>„%1“ muss eine ganze Zahl mit 32 Bit sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be 1; a later program wrote another version</source>
+        <translation>„%1“ muss 1 sein; eine andere Version stammt von einem neueren Programm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number from 0</source>
+        <translation>„%1“ muss eine ganze Zahl ab 0 sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a number</source>
+        <translation>„%1“ muss eine Zahl sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be the name of a mode</source>
+        <translation>„%1“ muss der Name einer Prüfart sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>„%1“ muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a finite number</source>
+        <translation>„%1“ muss eine endliche Zahl sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a word that this member can have</source>
+        <translation>„%1“ ist keines der Wörter, die hier möglich sind</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a known member</source>
+        <translation>„%1“ ist kein bekanntes Element</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an array</source>
+        <translation>„%1“ muss eine Liste sein</translation>
+    </message>
+    <message>
+        <source>the text is not an object</source>
+        <translation>der Text ist kein Objekt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must have as many ordinates as abscissas</source>
+        <translation>„%1“ muss ebenso viele Ordinaten wie Abszissen haben</translation>
     </message>
 </context>
 </TS>

@@ -299,6 +299,14 @@
         <source>%1 copy</source>
         <translation>%1 副本</translation>
     </message>
+    <message>
+        <source>The settings are not an object.</source>
+        <translation>设置不是对象。</translation>
+    </message>
+    <message>
+        <source>The setting &quot;%1&quot; is not a text.</source>
+        <translation>设置“%1”不是文本。</translation>
+    </message>
 </context>
 <context>
     <name>Gui::PictureFactory</name>
@@ -1297,6 +1305,10 @@ nu 0.25..0.35 or Yield type = Mises
         <source>Structural</source>
         <translation>结构</translation>
     </message>
+    <message>
+        <source>measurements</source>
+        <translation>测量数据</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -1807,6 +1819,14 @@ Delete anyway?</source>
         <source>%1 is not a picture and is not replaced; give another name</source>
         <translation>%1 不是图片，因此不会被替换；请指定其他名称</translation>
     </message>
+    <message>
+        <source>the catalogue has no quantity &quot;%1&quot;; did you mean &quot;%2&quot;?</source>
+        <translation>目录中没有量“%1”；您是想输入“%2”吗？</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a value of &quot;%2&quot;: give red, green, blue and opacity as four numbers from 0 to 1, &quot;0.5, 0, 0, 1&quot;</source>
+        <translation>“%1”不是“%2”的值：请用 0 到 1 的四个数给出红、绿、蓝和不透明度，例如“0.5, 0, 0, 1”</translation>
+    </message>
 </context>
 <context>
     <name>desktop::CellReading</name>
@@ -1856,6 +1876,10 @@ Delete anyway?</source>
     <message>
         <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
         <translation>第 %1 行：无法读取“%3”的值“%2”。%4</translation>
+    </message>
+    <message>
+        <source>Convert values</source>
+        <translation>换算数值</translation>
     </message>
 </context>
 <context>
@@ -1968,10 +1992,6 @@ Delete anyway?</source>
         <translation>“%1”中的数字看起来是 %2。</translation>
     </message>
     <message>
-        <source>In SI, they would be unusual. %1</source>
-        <translation>按 SI 它们不寻常。%1</translation>
-    </message>
-    <message>
         <source>&amp;Convert from %1</source>
         <translation>从 %1 转换(&amp;C)</translation>
     </message>
@@ -1984,10 +2004,6 @@ Delete anyway?</source>
         <translation>“%1”：以下数字未转换，因为其单位未知：%2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot;: the numbers look like %2. The import of the document can convert them.</source>
-        <translation>“%1”：这些数字看起来是 %2。导入文档时可以转换它们。</translation>
-    </message>
-    <message>
         <source>The numbers were converted from %1 to the units of the catalogue. Materials: %2</source>
         <translation>数字已从 %1 转换为目录的单位。材料数：%2</translation>
     </message>
@@ -1998,6 +2014,18 @@ Delete anyway?</source>
     <message>
         <source>&amp;Import</source>
         <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>In %1, they would be unusual. %2</source>
+        <translation>按 %1 它们不寻常。%2</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1, not %2. Import the document again in this unit system; in a list of commands, the second argument of Std_ImportDocument gives it.</source>
+        <translation>这些数字看起来是 %1，而不是 %2。请以该单位制重新导入文档；在命令列表中，由 Std_ImportDocument 的第二个参数给出。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: the numbers look like %2, not %3.</source>
+        <translation>“%1”：这些数字看起来是 %2，而不是 %3。</translation>
     </message>
 </context>
 <context>
@@ -2074,6 +2102,10 @@ Delete anyway?</source>
     <message>
         <source>The property &quot;%1&quot; of &quot;%2&quot; has the number %3. Readers of exchange documents refuse numbers below 0. Make the material again without this property, then export again.</source>
         <translation>“%2”的属性“%1”的编号为 %3。交换文档的读取程序拒绝小于 0 的编号。请重新创建不含该属性的材料，然后重新导出。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: An exchange document carries no data that a project keeps beside a material. Not written: %2.</source>
+        <translation>“%1”：交换文档不包含项目在材料旁保存的数据。未写入：%2。</translation>
     </message>
 </context>
 <context>
@@ -2355,6 +2387,22 @@ Delete anyway?</source>
         <source>HOME is not the name of a folder.</source>
         <translation>HOME 不是文件夹的名称。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is now &quot;%2&quot;</source>
+        <translation>“%1”现为“%2”</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另有 %1 个</translation>
+    </message>
+    <message>
+        <source>Objects with a label that was in use have got another one: %1.</source>
+        <translation>标签已被占用的对象已改用其他标签：%1。</translation>
+    </message>
+    <message>
+        <source>Objects imported: %1, with another label: %2</source>
+        <translation>已导入对象：%1，其中改用其他标签：%2</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ProjectUnitsDialog</name>
@@ -2594,6 +2642,10 @@ Delete anyway?</source>
     <message>
         <source>it is not in the catalogue; its unit, description and category are lost</source>
         <translation>目录中没有它；它的单位、说明和类别已丢失</translation>
+    </message>
+    <message>
+        <source>Further doubts are not listed: %1.</source>
+        <translation>未列出的其他疑问：%1。</translation>
     </message>
 </context>
 <context>
@@ -2854,6 +2906,724 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxConstitutive::Finding</name>
+    <message>
+        <source>%1: the constant %2 is missing. The model has no curve without it.</source>
+        <translation>%1：缺少常数%2。没有该常数，模型就没有曲线。</translation>
+    </message>
+    <message>
+        <source>%1: the constant %2 is %3. It must be a finite number.</source>
+        <translation>%1：常数%2为%3，必须是有限的数。</translation>
+    </message>
+    <message>
+        <source>%1: the constant %2 is %3. It must be greater than 0.</source>
+        <translation>%1：常数%2为%3，必须大于0。</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio is %1. It must be greater than -1 and less than 0.5.</source>
+        <translation>泊松比为%1，必须大于-1且小于0.5。</translation>
+    </message>
+    <message>
+        <source>C10 is %1 Pa, but half of Mu is %2 Pa. The curve uses C10. Remove one of the two constants.</source>
+        <translation>C10为%1 Pa，而Mu的一半为%2 Pa。曲线使用C10。请删除其中一个常数。</translation>
+    </message>
+    <message>
+        <source>%1: D1 is 0, so the curve is incompressible. Some solvers do the same, others use a bulk modulus of 20 times the shear modulus. Remove D1 or give it a value.</source>
+        <translation>%1：D1为0，因此曲线不可压缩。有些求解器也这样处理，另一些则采用剪切模量20倍的体积模量。请删除D1或给出数值。</translation>
+    </message>
+    <message>
+        <source>%1: D1 is %2 1/Pa. A bulk modulus cannot be negative. The curve is incompressible.</source>
+        <translation>%1：D1为%2 1/Pa。体积模量不能为负。曲线按不可压缩计算。</translation>
+    </message>
+    <message>
+        <source>The bulk modulus is only %1 times the shear modulus (Poisson&apos;s ratio %2). For rubber it is some hundred times. Check D1.</source>
+        <translation>体积模量仅为剪切模量的%1倍（泊松比%2）。橡胶的体积模量是其数百倍。请检查D1。</translation>
+    </message>
+    <message>
+        <source>The limiting stretch is %1. It must be greater than 1, which is the stretch of the chains at rest.</source>
+        <translation>极限伸长比为%1，必须大于1，即静止时分子链的伸长比。</translation>
+    </message>
+    <message>
+        <source>%1: the initial shear modulus is %2 Pa. It must be greater than 0; otherwise the material is unstable without any load.</source>
+        <translation>%1：初始剪切模量为%2 Pa，必须大于0，否则材料在无载荷时就不稳定。</translation>
+    </message>
+    <message>
+        <source>Mu, the factor of the series, is %1 Pa. The initial shear modulus is %2 Pa.</source>
+        <translation>Mu是级数的系数，为%1 Pa。初始剪切模量为%2 Pa。</translation>
+    </message>
+    <message>
+        <source>The catalogue has no constants for the hardening type &quot;%1&quot;, so there is no curve. Use Bilinear or Multilinear.</source>
+        <translation>目录中没有硬化类型“%1”的常数，因此没有曲线。请使用Bilinear或Multilinear。</translation>
+    </message>
+    <message>
+        <source>The hardening type &quot;%1&quot; is not known. Use Bilinear or Multilinear.</source>
+        <translation>硬化类型“%1”未知。请使用Bilinear或Multilinear。</translation>
+    </message>
+    <message>
+        <source>The yield type &quot;%1&quot; is not known. Use Mises, Mohr-Coulomb or Drucker-Prager.</source>
+        <translation>屈服类型“%1”未知。请使用Mises、Mohr-Coulomb或Drucker-Prager。</translation>
+    </message>
+    <message>
+        <source>The stress falls from the plastic strain %1 on. A solver finds no unique solution there.</source>
+        <translation>从塑性应变%1起应力下降，求解器在那里找不到唯一解。</translation>
+    </message>
+    <message>
+        <source>The hardening modulus %1 Pa is more than a tenth of Young&apos;s modulus %2 Pa. Check that it is the slope against plastic strain.</source>
+        <translation>硬化模量%1 Pa超过杨氏模量%2 Pa的十分之一。请确认它是对塑性应变的斜率。</translation>
+    </message>
+    <message>
+        <source>There are %1 yield stresses and %2 plastic strains. The values without a partner are left out.</source>
+        <translation>有%1个屈服应力和%2个塑性应变。没有配对的值被忽略。</translation>
+    </message>
+    <message>
+        <source>The first plastic strain is %1. A table must begin with 0. Some solvers shift it without a message.</source>
+        <translation>第一个塑性应变为%1。表格必须从0开始。有些求解器会不加提示地平移它。</translation>
+    </message>
+    <message>
+        <source>Row %1: the plastic strain %2 is not greater than the one in the row before. The row is left out.</source>
+        <translation>第%1行：塑性应变%2不大于上一行的值。该行被忽略。</translation>
+    </message>
+    <message>
+        <source>%1: the catalogue has no cohesion. Give a cohesion with the curve, or read the curve in multiples of the cohesion.</source>
+        <translation>%1：目录中没有黏聚力。请随曲线给出黏聚力，或以黏聚力的倍数读取曲线。</translation>
+    </message>
+    <message>
+        <source>The plastic viscosity is %1. Solver cards have a cohesion in its place. No curve uses it.</source>
+        <translation>塑性黏度为%1。求解器卡片在该位置是黏聚力。没有曲线使用它。</translation>
+    </message>
+    <message>
+        <source>Drucker-Prager: the catalogue does not say which cone belongs to the friction angle. The curve shows three cones: through the compression meridian, through the extension meridian, and for plane strain.</source>
+        <translation>Drucker-Prager：目录没有说明摩擦角对应哪个圆锥。曲线显示三个圆锥：通过压缩子午线、通过拉伸子午线和平面应变。</translation>
+    </message>
+    <message>
+        <source>%1: the catalogue has no dilation angle. Solvers need one.</source>
+        <translation>%1：目录中没有剪胀角，而求解器需要它。</translation>
+    </message>
+    <message>
+        <source>The friction angle is %1 degrees. It must be at least 0 and less than 90.</source>
+        <translation>摩擦角为%1度，必须不小于0且小于90。</translation>
+    </message>
+    <message>
+        <source>The friction angle is taken as %1 degrees. If it is in radians, multiply it by 57.3.</source>
+        <translation>摩擦角按%1度处理。若以弧度给出，请乘以57.3。</translation>
+    </message>
+    <message>
+        <source>The time exponent m is %1. The rate form needs -1 &lt; m &lt;= 0. A value between 0 and 1 belongs to the total form, whose exponent is m + 1.</source>
+        <translation>时间指数m为%1。率形式要求-1 &lt; m &lt;= 0。0到1之间的值属于总量形式，其指数为m + 1。</translation>
+    </message>
+    <message>
+        <source>The stress exponent n is %1. It must be greater than 0.</source>
+        <translation>应力指数n为%1，必须大于0。</translation>
+    </message>
+    <message>
+        <source>The creep constant A is %1 in Pa and s. CalculiX replaces a value below 1e-20 by 1e-20. Write its input in MPa.</source>
+        <translation>蠕变常数A以Pa和s计为%1。CalculiX会把小于1e-20的值替换为1e-20。请以MPa书写其输入。</translation>
+    </message>
+    <message>
+        <source>The relaxing part of the shear modulus is %1. It must be at least 0 and less than 1.</source>
+        <translation>剪切模量的松弛部分为%1，必须不小于0且小于1。</translation>
+    </message>
+    <message>
+        <source>The shear relaxation modulus is %1. It is taken as the relaxing part of the shear modulus, which must be less than 1. Divide a modulus in Pa by the shear modulus.</source>
+        <translation>剪切松弛模量为%1。它按剪切模量的松弛部分处理，必须小于1。请将以Pa计的模量除以剪切模量。</translation>
+    </message>
+    <message>
+        <source>%1: without Young&apos;s modulus and Poisson&apos;s ratio, some curves are missing or are multiples of a modulus.</source>
+        <translation>%1：没有杨氏模量和泊松比，部分曲线缺失或为某个模量的倍数。</translation>
+    </message>
+    <message>
+        <source>%2 has no response in the mode %1.</source>
+        <translation>%2在模式%1下没有响应。</translation>
+    </message>
+    <message>
+        <source>The model has no value at %3 points. At the first of them, the %1 is %2.</source>
+        <translation>模型在%3个点上没有值。其中第一个点的%1为%2。</translation>
+    </message>
+    <message>
+        <source>No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too large, the chains are at their limit, or there is no equilibrium.</source>
+        <translation>%3个点上不存在有限值。其中第一个点的%1为%2。常数或范围过大、分子链已达极限，或不存在平衡。</translation>
+    </message>
+    <message>
+        <source>%1: the material is unstable from %2 on by Drucker&apos;s criterion. A solver may fail there.</source>
+        <translation>%1：按Drucker准则，材料从%2起不稳定。求解器在那里可能失败。</translation>
+    </message>
+    <message>
+        <source>The curve has strains up to %1. Linear elasticity is valid for strains below 0.05.</source>
+        <translation>曲线的应变达到%1。线弹性适用于小于0.05的应变。</translation>
+    </message>
+    <message>
+        <source>%1: the chains reach their limiting stretch at %2, inside the range up to %3. The five-term series has no limit there.</source>
+        <translation>%1：分子链在%2处达到极限伸长比，位于到%3为止的范围之内。五项级数在那里没有极限。</translation>
+    </message>
+    <message>
+        <source>At %1, the chains are at %3 of their limiting stretch. The five-term series is %2 % below the inverse Langevin function.</source>
+        <translation>在%1处，分子链达到其极限伸长比的%3。五项级数比逆Langevin函数低%2 %。</translation>
+    </message>
+    <message>
+        <source>The curve is incompressible, but the material has a D1. With D1 the stress differs by a factor of up to %1, at the stretch %2.</source>
+        <translation>曲线按不可压缩绘制，但材料有D1。考虑D1时，应力最多相差%1倍，出现在伸长比%2处。</translation>
+    </message>
+    <message>
+        <source>%1: an incompressible material has no volumetric response. Give D1 or Poisson&apos;s ratio, and do not request an incompressible curve.</source>
+        <translation>%1：不可压缩材料没有体积响应。请给出D1或泊松比，并且不要请求不可压缩曲线。</translation>
+    </message>
+    <message>
+        <source>The bar necks at the engineering strain %1, where the engineering stress is largest: %2 Pa (Considere).</source>
+        <translation>试棒在工程应变%1处颈缩，此时工程应力最大：%2 Pa（Considère）。</translation>
+    </message>
+    <message>
+        <source>A creep curve needs at least one stress.</source>
+        <translation>蠕变曲线至少需要一个应力。</translation>
+    </message>
+    <message>
+        <source>After the last row, from the plastic strain %1 on, the stress stays constant, as in solvers.</source>
+        <translation>最后一行之后，从塑性应变%1起，应力保持不变，与求解器一致。</translation>
+    </message>
+    <message>
+        <source>%1: the cohesion is not known. Pressure and Mises stress are multiples of it.</source>
+        <translation>%1：黏聚力未知。压力和Mises应力为其倍数。</translation>
+    </message>
+    <message>
+        <source>The instantaneous shear modulus is not known. The curve is a multiple of it.</source>
+        <translation>瞬时剪切模量未知。曲线为其倍数。</translation>
+    </message>
+    <message>
+        <source>There is no yield surface below the pressure %1, which is its apex.</source>
+        <translation>在压力%1（屈服面顶点）以下没有屈服面。</translation>
+    </message>
+    <message>
+        <source>The data are not text: byte %1 is a character that text does not have. Export the data as CSV.</source>
+        <translation>数据不是文本：第%1字节是文本中不会出现的字符。请将数据导出为CSV。</translation>
+    </message>
+    <message>
+        <source>No line has two numbers. A test needs a column such as strain, stretch or time, and a column such as stress.</source>
+        <translation>没有一行含有两个数。试验需要一列应变、伸长比或时间之类的数据，以及一列应力之类的数据。</translation>
+    </message>
+    <message>
+        <source>Each line has only one number. If there are more, give the separator.</source>
+        <translation>每行只有一个数。若不止一个，请给出分隔符。</translation>
+    </message>
+    <message>
+        <source>%1 lines between or after the numbers are not numbers and are left out. The first is line %2.</source>
+        <translation>数字之间或之后有%1行不是数字，已忽略。第一处是第%2行。</translation>
+    </message>
+    <message>
+        <source>%1 lines have a cell that is not a number or belongs to no column. The first is line %2.</source>
+        <translation>%1行含有不是数字或不属于任何列的单元格。第一处是第%2行。</translation>
+    </message>
+    <message>
+        <source>The numbers have decimal commas.</source>
+        <translation>数字使用小数逗号。</translation>
+    </message>
+    <message>
+        <source>Commas are read as decimal commas, but they may group thousands: &quot;%1&quot;. Give the decimal mark.</source>
+        <translation>逗号按小数逗号读取，但也可能是千位分隔符：“%1”。请给出小数点符号。</translation>
+    </message>
+    <message>
+        <source>No column was found for: %1. Choose a column.</source>
+        <translation>未找到对应的列：%1。请选择一列。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot;: choose its meaning: %2.</source>
+        <translation>列“%1”：请选择其含义：%2。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has no unit. Give one.</source>
+        <translation>列“%1”没有单位。请给出单位。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot;: the unit &quot;%2&quot; is not known or does not fit. Give another unit.</source>
+        <translation>列“%1”：单位“%2”未知或不适用。请给出其他单位。</translation>
+    </message>
+    <message>
+        <source>A creep curve needs the stress of the test. Give the stress.</source>
+        <translation>蠕变曲线需要试验的应力。请给出应力。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; does not say whether it is true or engineering. It is taken as %2.</source>
+        <translation>列“%1”没有说明是真实值还是工程值，按%2处理。</translation>
+    </message>
+    <message>
+        <source>Several columns fit. Column &quot;%1&quot; is used.</source>
+        <translation>多列符合条件，使用列“%1”。</translation>
+    </message>
+    <message>
+        <source>%1 points have a smaller abscissa than the point before.</source>
+        <translation>%1个点的横坐标小于前一个点。</translation>
+    </message>
+    <message>
+        <source>%1 points repeat another point.</source>
+        <translation>%1个点与其他点重复。</translation>
+    </message>
+    <message>
+        <source>%1 points are in compression or below 0.</source>
+        <translation>%1个点处于压缩状态或低于0。</translation>
+    </message>
+    <message>
+        <source>%1 points are left out: they are incomplete or outside the domain of the test.</source>
+        <translation>%1个点被忽略：它们不完整或超出试验的定义域。</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot;: all measured values are 0.</source>
+        <translation>试验“%1”：所有测量值均为0。</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; has no usable point.</source>
+        <translation>试验“%1”没有可用的点。</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; has %2 points. The fit uses %3 averages of neighbours.</source>
+        <translation>试验“%1”有%2个点。拟合使用%3个相邻点的平均值。</translation>
+    </message>
+    <message>
+        <source>%1: there are no data for a fit of this model.</source>
+        <translation>%1：没有可用于拟合该模型的数据。</translation>
+    </message>
+    <message>
+        <source>%1: there are %2 points, no more than constants. The error cannot be estimated.</source>
+        <translation>%1：只有%2个点，不多于常数个数。无法估计误差。</translation>
+    </message>
+    <message>
+        <source>The data do not determine %1. They determine only %2. Add another kind of test.</source>
+        <translation>数据不能确定%1，只能确定%2。请增加另一种试验。</translation>
+    </message>
+    <message>
+        <source>%1 has no influence on these tests. Its value is arbitrary. Add another kind of test, or hold it fixed.</source>
+        <translation>%1对这些试验没有影响，其值是任意的。请增加另一种试验，或将其固定。</translation>
+    </message>
+    <message>
+        <source>%1 is poorly determined: its standard error is %2 % of its value.</source>
+        <translation>%1的确定性较差：其标准误差为其值的%2 %。</translation>
+    </message>
+    <message>
+        <source>%1 is at its bound %2. The best fit is beyond it.</source>
+        <translation>%1处于边界%2上。最佳拟合在边界之外。</translation>
+    </message>
+    <message>
+        <source>The limiting stretch tends to infinity: the data, with chain stretches up to %1, show no stiffening. Use a model without a limiting stretch.</source>
+        <translation>极限伸长比趋于无穷：数据的链伸长比最大为%1，没有显示硬化。请使用没有极限伸长比的模型。</translation>
+    </message>
+    <message>
+        <source>Stability over the range raises the residual from %2 to %1.</source>
+        <translation>在该范围内保持稳定使残差从%2增大到%1。</translation>
+    </message>
+    <message>
+        <source>%1: the constants are not stable over the whole requested range.</source>
+        <translation>%1：常数在所要求的整个范围内并不都稳定。</translation>
+    </message>
+    <message>
+        <source>%1: no constants of a stable material come near the data. Check the signs, units and modes of the tests.</source>
+        <translation>%1：没有稳定材料的常数能接近数据。请检查试验的符号、单位和模式。</translation>
+    </message>
+    <message>
+        <source>%1: the fit was cancelled.</source>
+        <translation>%1：拟合已取消。</translation>
+    </message>
+    <message>
+        <source>The stress falls by up to %1 % of its largest value while the plastic strain rises. Neighbours are averaged so that it does not fall.</source>
+        <translation>塑性应变增大时，应力下降最多达其最大值的%1 %。对相邻点取平均，使其不下降。</translation>
+    </message>
+    <message>
+        <source>%2 points after the largest force, at the engineering strain %1, are left out because the bar necks there.</source>
+        <translation>最大力（工程应变%1）之后的%2个点被忽略，因为试棒在那里颈缩。</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus %1 Pa is taken from the first part of the curve. Give it if it is known.</source>
+        <translation>杨氏模量%1 Pa取自曲线的起始段。若已知，请给出。</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; has no elastic part for Young&apos;s modulus. Give Young&apos;s modulus.</source>
+        <translation>试验“%1”没有可用于确定杨氏模量的弹性段。请给出杨氏模量。</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; does not reach the offset yield stress.</source>
+        <translation>试验“%1”没有达到规定残余应变的屈服应力。</translation>
+    </message>
+    <message>
+        <source>In the volumetric tests, the stress opposes the change of volume. D1 is not fitted. Check the sign of the stress.</source>
+        <translation>在体积试验中，应力与体积变化方向相反。不拟合D1。请检查应力的符号。</translation>
+    </message>
+    <message>
+        <source>Creep rates are left out because there are creep curves.</source>
+        <translation>由于有蠕变曲线，蠕变速率被忽略。</translation>
+    </message>
+    <message>
+        <source>All creep data are at one stress, which does not determine the exponent n. Add another stress, or hold n fixed.</source>
+        <translation>所有蠕变数据都在同一应力下，无法确定指数n。请增加另一应力，或固定n。</translation>
+    </message>
+    <message>
+        <source>The relaxation time %1 s is outside the measured times, %2 s to %3 s.</source>
+        <translation>松弛时间%1 s超出测量时间范围（%2 s至%3 s）。</translation>
+    </message>
+</context>
+<context>
+    <name>vxConstitutive::Word</name>
+    <message>
+        <source>linear elasticity</source>
+        <translation>线弹性</translation>
+    </message>
+    <message>
+        <source>Neo-Hookean</source>
+        <translation>Neo-Hookean</translation>
+    </message>
+    <message>
+        <source>Mooney-Rivlin</source>
+        <translation>Mooney-Rivlin</translation>
+    </message>
+    <message>
+        <source>Mooney-Rivlin with C11</source>
+        <translation>含C11的Mooney-Rivlin</translation>
+    </message>
+    <message>
+        <source>Arruda-Boyce</source>
+        <translation>Arruda-Boyce</translation>
+    </message>
+    <message>
+        <source>Mises plasticity</source>
+        <translation>Mises塑性</translation>
+    </message>
+    <message>
+        <source>Drucker-Prager</source>
+        <translation>Drucker-Prager</translation>
+    </message>
+    <message>
+        <source>Mohr-Coulomb</source>
+        <translation>Mohr-Coulomb</translation>
+    </message>
+    <message>
+        <source>Norton creep</source>
+        <translation>Norton蠕变</translation>
+    </message>
+    <message>
+        <source>visco-elasticity</source>
+        <translation>黏弹性</translation>
+    </message>
+    <message>
+        <source>multilinear hardening</source>
+        <translation>多线性硬化</translation>
+    </message>
+    <message>
+        <source>bilinear hardening</source>
+        <translation>双线性硬化</translation>
+    </message>
+    <message>
+        <source>uniaxial tension and compression</source>
+        <translation>单轴拉伸和压缩</translation>
+    </message>
+    <message>
+        <source>equibiaxial tension</source>
+        <translation>等双轴拉伸</translation>
+    </message>
+    <message>
+        <source>planar tension (pure shear)</source>
+        <translation>平面拉伸（纯剪切）</translation>
+    </message>
+    <message>
+        <source>simple shear</source>
+        <translation>简单剪切</translation>
+    </message>
+    <message>
+        <source>volumetric</source>
+        <translation>体积</translation>
+    </message>
+    <message>
+        <source>hardening curve</source>
+        <translation>硬化曲线</translation>
+    </message>
+    <message>
+        <source>tensile test</source>
+        <translation>拉伸试验</translation>
+    </message>
+    <message>
+        <source>yield surface</source>
+        <translation>屈服面</translation>
+    </message>
+    <message>
+        <source>creep</source>
+        <translation>蠕变</translation>
+    </message>
+    <message>
+        <source>creep rate</source>
+        <translation>蠕变率</translation>
+    </message>
+    <message>
+        <source>shear relaxation</source>
+        <translation>剪切松弛</translation>
+    </message>
+    <message>
+        <source>shear creep</source>
+        <translation>剪切蠕变</translation>
+    </message>
+    <message>
+        <source>storage and loss</source>
+        <translation>储能与损耗</translation>
+    </message>
+    <message>
+        <source>stretch</source>
+        <translation>伸长比</translation>
+    </message>
+    <message>
+        <source>amount of shear</source>
+        <translation>剪切量</translation>
+    </message>
+    <message>
+        <source>engineering strain</source>
+        <translation>工程应变</translation>
+    </message>
+    <message>
+        <source>plastic strain</source>
+        <translation>塑性应变</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <translation>压力</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>stress</source>
+        <translation>应力</translation>
+    </message>
+    <message>
+        <source>frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>nominal stress</source>
+        <translation>名义应力</translation>
+    </message>
+    <message>
+        <source>true stress</source>
+        <translation>真实应力</translation>
+    </message>
+    <message>
+        <source>nominal shear stress</source>
+        <translation>名义剪应力</translation>
+    </message>
+    <message>
+        <source>true shear stress</source>
+        <translation>真实剪应力</translation>
+    </message>
+    <message>
+        <source>normal stress difference</source>
+        <translation>法向应力差</translation>
+    </message>
+    <message>
+        <source>slope</source>
+        <translation>斜率</translation>
+    </message>
+    <message>
+        <source>lateral stretch</source>
+        <translation>横向伸长比</translation>
+    </message>
+    <message>
+        <source>volume ratio</source>
+        <translation>体积比</translation>
+    </message>
+    <message>
+        <source>Mises stress</source>
+        <translation>Mises应力</translation>
+    </message>
+    <message>
+        <source>Mises stress, compression meridian</source>
+        <translation>Mises应力，压缩子午线</translation>
+    </message>
+    <message>
+        <source>Mises stress, extension meridian</source>
+        <translation>Mises应力，拉伸子午线</translation>
+    </message>
+    <message>
+        <source>Mises stress, outer cone</source>
+        <translation>Mises应力，外圆锥</translation>
+    </message>
+    <message>
+        <source>Mises stress, inner cone</source>
+        <translation>Mises应力，内圆锥</translation>
+    </message>
+    <message>
+        <source>Mises stress, plane strain</source>
+        <translation>Mises应力，平面应变</translation>
+    </message>
+    <message>
+        <source>creep strain</source>
+        <translation>蠕变应变</translation>
+    </message>
+    <message>
+        <source>creep strain rate</source>
+        <translation>蠕变应变率</translation>
+    </message>
+    <message>
+        <source>relaxation modulus</source>
+        <translation>松弛模量</translation>
+    </message>
+    <message>
+        <source>creep compliance</source>
+        <translation>蠕变柔量</translation>
+    </message>
+    <message>
+        <source>storage modulus</source>
+        <translation>储能模量</translation>
+    </message>
+    <message>
+        <source>loss modulus</source>
+        <translation>损耗模量</translation>
+    </message>
+    <message>
+        <source>loss factor</source>
+        <translation>损耗因子</translation>
+    </message>
+    <message>
+        <source>%1 / cohesion</source>
+        <translation>%1 / 黏聚力</translation>
+    </message>
+    <message>
+        <source>%1 / shear modulus</source>
+        <translation>%1 / 剪切模量</translation>
+    </message>
+    <message>
+        <source>%1 x shear modulus</source>
+        <translation>%1 × 剪切模量</translation>
+    </message>
+    <message>
+        <source>%1 at %2 Pa</source>
+        <translation>%1（%2 Pa）</translation>
+    </message>
+    <message>
+        <source>%1 at %2 s</source>
+        <translation>%1（%2 s）</translation>
+    </message>
+    <message>
+        <source>true strain</source>
+        <translation>真实应变</translation>
+    </message>
+    <message>
+        <source>volumetric strain</source>
+        <translation>体积应变</translation>
+    </message>
+    <message>
+        <source>strain rate</source>
+        <translation>应变率</translation>
+    </message>
+    <message>
+        <source>modulus</source>
+        <translation>模量</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus</source>
+        <translation>杨氏模量</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>泊松比</translation>
+    </message>
+    <message>
+        <source>shear modulus</source>
+        <translation>剪切模量</translation>
+    </message>
+    <message>
+        <source>bulk modulus</source>
+        <translation>体积模量</translation>
+    </message>
+    <message>
+        <source>factor of the series</source>
+        <translation>级数系数</translation>
+    </message>
+    <message>
+        <source>limiting stretch</source>
+        <translation>极限伸长比</translation>
+    </message>
+    <message>
+        <source>first constant</source>
+        <translation>第一常数</translation>
+    </message>
+    <message>
+        <source>second constant</source>
+        <translation>第二常数</translation>
+    </message>
+    <message>
+        <source>mixed constant</source>
+        <translation>混合常数</translation>
+    </message>
+    <message>
+        <source>compressibility</source>
+        <translation>可压缩性</translation>
+    </message>
+    <message>
+        <source>initial shear modulus</source>
+        <translation>初始剪切模量</translation>
+    </message>
+    <message>
+        <source>initial Young&apos;s modulus</source>
+        <translation>初始杨氏模量</translation>
+    </message>
+    <message>
+        <source>initial Poisson&apos;s ratio</source>
+        <translation>初始泊松比</translation>
+    </message>
+    <message>
+        <source>initial bulk modulus</source>
+        <translation>初始体积模量</translation>
+    </message>
+    <message>
+        <source>creep constant</source>
+        <translation>蠕变常数</translation>
+    </message>
+    <message>
+        <source>stress exponent</source>
+        <translation>应力指数</translation>
+    </message>
+    <message>
+        <source>time exponent</source>
+        <translation>时间指数</translation>
+    </message>
+    <message>
+        <source>initial yield stress</source>
+        <translation>初始屈服应力</translation>
+    </message>
+    <message>
+        <source>yield stress</source>
+        <translation>屈服应力</translation>
+    </message>
+    <message>
+        <source>hardening modulus</source>
+        <translation>硬化模量</translation>
+    </message>
+    <message>
+        <source>tangent modulus</source>
+        <translation>切线模量</translation>
+    </message>
+    <message>
+        <source>engineering strain at necking</source>
+        <translation>颈缩时的工程应变</translation>
+    </message>
+    <message>
+        <source>tensile strength</source>
+        <translation>抗拉强度</translation>
+    </message>
+    <message>
+        <source>friction angle</source>
+        <translation>摩擦角</translation>
+    </message>
+    <message>
+        <source>relaxing part</source>
+        <translation>松弛部分</translation>
+    </message>
+    <message>
+        <source>relaxation time</source>
+        <translation>松弛时间</translation>
+    </message>
+    <message>
+        <source>instantaneous shear modulus</source>
+        <translation>瞬时剪切模量</translation>
+    </message>
+    <message>
+        <source>long-term shear modulus</source>
+        <translation>长期剪切模量</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector</name>
     <message>
         <source>Inspector</source>
@@ -2913,6 +3683,14 @@ Delete anyway?</source>
         <source>Different in %1 of %2 quantities.</source>
         <translation>%2 个量中有 %1 个不同。</translation>
     </message>
+    <message>
+        <source>With changes that are not applied: %1.</source>
+        <translation>含未应用的更改：%1。</translation>
+    </message>
+    <message>
+        <source>Suppressed: %1.</source>
+        <translation>已抑制：%1。</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::ContentView</name>
@@ -2931,6 +3709,116 @@ Delete anyway?</source>
     <message>
         <source>The cells cannot be copied</source>
         <translation>无法复制单元格</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CurvesContent</name>
+    <message>
+        <source>%1 (suppressed)</source>
+        <translation>%1（已抑制）</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>发现</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>It has no constants of a model with curves: elasticity, hyperelasticity, plasticity, creep or visco-elasticity.</source>
+        <translation>它没有带曲线的模型的常数：弹性、超弹性、塑性、蠕变或黏弹性。</translation>
+    </message>
+    <message>
+        <source>The materials have no constants of a model with curves: elasticity, hyperelasticity, plasticity, creep or visco-elasticity.</source>
+        <translation>这些材料没有带曲线的模型的常数：弹性、超弹性、塑性、蠕变或黏弹性。</translation>
+    </message>
+    <message>
+        <source>Materials without a model: %1.</source>
+        <translation>没有模型的材料：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CurvesPage</name>
+    <message>
+        <source>The curves cannot be drawn</source>
+        <translation>无法绘制曲线</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>从(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>t&amp;o:</source>
+        <translation>到(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>log x</source>
+        <translation>对数 x</translation>
+    </message>
+    <message>
+        <source>Horizontal axis with a logarithmic scale</source>
+        <translation>对数刻度的水平轴</translation>
+    </message>
+    <message>
+        <source>log y</source>
+        <translation>对数 y</translation>
+    </message>
+    <message>
+        <source>Vertical axis with a logarithmic scale</source>
+        <translation>对数刻度的垂直轴</translation>
+    </message>
+    <message>
+        <source>The tests whose curves are drawn. Tests with the same axes can be drawn together.</source>
+        <translation>要绘制曲线的试验。坐标轴相同的试验可以一起绘制。</translation>
+    </message>
+    <message>
+        <source>The quantity on the vertical axis</source>
+        <translation>垂直轴上的量</translation>
+    </message>
+    <message>
+        <source>Vertical axis</source>
+        <translation>垂直轴</translation>
+    </message>
+    <message>
+        <source>Beginning of the horizontal axis</source>
+        <translation>水平轴的起点</translation>
+    </message>
+    <message>
+        <source>End of the horizontal axis</source>
+        <translation>水平轴的终点</translation>
+    </message>
+    <message>
+        <source>Show everything</source>
+        <translation>全部显示</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>另存为…</translation>
+    </message>
+    <message>
+        <source>Findings about the curves</source>
+        <translation>关于曲线的发现</translation>
+    </message>
+    <message>
+        <source>Tests: %1</source>
+        <translation>试验：%1</translation>
+    </message>
+    <message>
+        <source>Draw as incompressible</source>
+        <translation>按不可压缩绘制</translation>
+    </message>
+    <message>
+        <source>This number cannot be read.</source>
+        <translation>无法读取此数字。</translation>
     </message>
 </context>
 <context>
@@ -3010,10 +3898,6 @@ Delete anyway?</source>
         <translation>单位(&amp;U)：</translation>
     </message>
     <message>
-        <source>The unit system of the values and the comparison. It changes no value.</source>
-        <translation>值和比较所用的单位制。它不会更改任何值。</translation>
-    </message>
-    <message>
         <source>Values</source>
         <translation>值</translation>
     </message>
@@ -3033,6 +3917,14 @@ Delete anyway?</source>
         <source>As the project (%1)</source>
         <translation>与项目相同 (%1)</translation>
     </message>
+    <message>
+        <source>The unit system of values, comparison and curves. It changes no value.</source>
+        <translation>数值、比较和曲线的单位制。它不改变任何数值。</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>曲线</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::InspectorDock</name>
@@ -3043,6 +3935,69 @@ Delete anyway?</source>
     <message>
         <source>The inspector cannot be updated</source>
         <translation>无法更新检查器</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::PlotView</name>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>复制图片(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;table</source>
+        <translation>复制表格(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Show &amp;everything</source>
+        <translation>全部显示(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>图</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle or turn the wheel to zoom; Home shows everything. A click on the legend hides a curve.</source>
+        <translation>拖动矩形或滚动滚轮可缩放；按 Home 键全部显示。单击图例可隐藏曲线。</translation>
+    </message>
+    <message>
+        <source>The plot cannot be drawn</source>
+        <translation>无法绘制图</translation>
+    </message>
+    <message>
+        <source>The picture cannot be copied</source>
+        <translation>无法复制图片</translation>
+    </message>
+    <message>
+        <source>The table cannot be copied</source>
+        <translation>无法复制表格</translation>
+    </message>
+    <message>
+        <source>The plot cannot be saved</source>
+        <translation>无法保存图</translation>
+    </message>
+    <message>
+        <source>Picture (*.png);;Drawing (*.svg);;Document (*.pdf);;Table (*.csv)</source>
+        <translation>图片 (*.png);;矢量图 (*.svg);;文档 (*.pdf);;表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save plot</source>
+        <translation>保存图</translation>
+    </message>
+    <message>
+        <source>curves</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is not written: its name must end in png, svg, pdf or csv.</source>
+        <translation>未写入文件“%1”：其名称必须以 png、svg、pdf 或 csv 结尾。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2</source>
+        <translation>无法写入文件“%1”：%2</translation>
     </message>
 </context>
 <context>
@@ -3083,12 +4038,24 @@ Delete anyway?</source>
         <source>Source: %1</source>
         <translation>来源：%1</translation>
     </message>
+    <message>
+        <source>The scale is logarithmic; 0 is at its left end.</source>
+        <translation>标度为对数；0 位于其左端。</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::Remedying</name>
     <message>
         <source>Apply remedy</source>
         <translation>应用修正</translation>
+    </message>
+    <message>
+        <source>The remedy was applied to &quot;%1&quot;: %2.</source>
+        <translation>已对“%1”应用修正：%2。</translation>
+    </message>
+    <message>
+        <source>%1: %2 becomes %3</source>
+        <translation>%1：%2 变为 %3</translation>
     </message>
 </context>
 <context>
@@ -3153,6 +4120,10 @@ Delete anyway?</source>
         <source>Only the first %1 of %2 materials are shown.</source>
         <translation>仅显示 %2 个材料中的前 %1 个。</translation>
     </message>
+    <message>
+        <source>A project is selected. Select one or more materials to see their curves.</source>
+        <translation>已选择一个项目。请选择一个或多个材料以查看其曲线。</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::ValueTable</name>
@@ -3203,6 +4174,10 @@ Delete anyway?</source>
     <message>
         <source>&quot;%1&quot;.</source>
         <translation>“%1”。</translation>
+    </message>
+    <message>
+        <source>A switch is on if the material has it, whatever its number. Remove the quantity to switch it off.</source>
+        <translation>只要材料具有该开关，它就是打开的，与其数值无关。要关闭它，请删除该量。</translation>
     </message>
 </context>
 <context>
@@ -3310,6 +4285,93 @@ Delete anyway?</source>
     <message>
         <source>Acoustic Material 2</source>
         <translation>声学材料 2</translation>
+    </message>
+</context>
+<context>
+    <name>vxMat::MaterialFinding</name>
+    <message>
+        <source>the %1 card lacks a value: &quot;%2&quot;</source>
+        <translation>卡片“%1”缺少一个值：“%2”</translation>
+    </message>
+    <message>
+        <source>the plasticity card cannot be complete: exchange documents carry no words and lists</source>
+        <translation>塑性卡片不可能完整：交换文档不含单词和列表</translation>
+    </message>
+    <message>
+        <source>the plasticity card cannot be complete: exchange documents carry no words and lists (%1)</source>
+        <translation>塑性卡片不可能完整：交换文档不含单词和列表（%1）</translation>
+    </message>
+    <message>
+        <source>no plasticity card is written for yield type &quot;%1&quot; with hardening type &quot;%2&quot;</source>
+        <translation>对于屈服类型“%1”与硬化类型“%2”，不写出塑性卡片</translation>
+    </message>
+    <message>
+        <source>the plasticity card has no hardening curve: the material has no numbers of &quot;%1&quot;</source>
+        <translation>塑性卡片没有硬化曲线：材料没有“%1”的数值</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which the solver does not use with bilinear hardening: %2</source>
+        <translation>塑性卡片省略了“%1”的数值，求解器在双线性硬化时不使用它们：%2</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which the solver does not use with yield type &quot;%3&quot;: %2</source>
+        <translation>塑性卡片省略了“%1”的数值，求解器在屈服类型“%3”时不使用它们：%2</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which have no plastic strain: %2</source>
+        <translation>塑性卡片省略了“%1”的数值，它们没有对应的塑性应变：%2</translation>
+    </message>
+    <message>
+        <source>the plasticity card leaves out numbers of &quot;%1&quot;, which have no yield stress: %2</source>
+        <translation>塑性卡片省略了“%1”的数值，它们没有对应的屈服应力：%2</translation>
+    </message>
+    <message>
+        <source>no card is written for &quot;%1&quot;: another model of the material takes precedence</source>
+        <translation>不为“%1”写出卡片：材料的另一个模型优先</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is not finite, which no solver reads</source>
+        <translation>“%1”含有非有限的数，没有求解器能够读取</translation>
+    </message>
+    <message>
+        <source>The material has no properties.</source>
+        <translation>该材料没有属性。</translation>
+    </message>
+    <message>
+        <source>The catalogue has no quantity %1 (&quot;%2&quot;); the editor does not show it, and applying changes there removes it.</source>
+        <translation>目录中没有量 %1（“%2”）；编辑器不显示它，在那里应用更改会将其删除。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; a finite number is needed.</source>
+        <translation>“%1”为 %2；需要一个有限的数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no number.</source>
+        <translation>“%1”不包含数。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; it must be greater than 0.</source>
+        <translation>“%1”为 %2；它必须大于 0。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2; it must be from 0.001 to 0.499.</source>
+        <translation>“%1”为 %2；它必须在 0.001 到 0.499 之间。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;; it must be one of %3.</source>
+        <translation>“%1”为“%2”；它必须是 %3 之一。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has %2 numbers and &quot;%3&quot; has %4; they form pairs, and numbers without a partner have no effect.</source>
+        <translation>“%1”有 %2 个数，“%3”有 %4 个；它们成对出现，没有对应项的数不起作用。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; exclude each other; remove one of them.</source>
+        <translation>“%1”和“%2”互相排斥；请删除其中之一。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs &quot;%2&quot;, which the material does not have.</source>
+        <translation>“%1”需要“%2”，而该材料没有它。</translation>
     </message>
 </context>
 <context>
@@ -3626,6 +4688,101 @@ Delete anyway?</source>
     <message>
         <source>Delete %1 objects</source>
         <translation>删除 %1 个对象</translation>
+    </message>
+    <message>
+        <source>Change &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>更改“%2”的“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in no project; nothing was changed.</source>
+        <translation>“%1”不在任何项目中；未作任何更改。</translation>
+    </message>
+    <message>
+        <source>Remove &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>移除“%2”的“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>vxPlot</name>
+    <message>
+        <source>storage and loss modulus</source>
+        <translation>储能模量和损耗模量</translation>
+    </message>
+    <message>
+        <source>uniaxial</source>
+        <translation>单轴</translation>
+    </message>
+    <message>
+        <source>equibiaxial</source>
+        <translation>等双轴</translation>
+    </message>
+    <message>
+        <source>planar</source>
+        <translation>平面</translation>
+    </message>
+    <message>
+        <source>simple shear</source>
+        <translation>简单剪切</translation>
+    </message>
+    <message>
+        <source>volumetric</source>
+        <translation>体积</translation>
+    </message>
+    <message>
+        <source>hardening</source>
+        <translation>硬化</translation>
+    </message>
+    <message>
+        <source>tensile test</source>
+        <translation>拉伸试验</translation>
+    </message>
+    <message>
+        <source>yield surface</source>
+        <translation>屈服面</translation>
+    </message>
+    <message>
+        <source>creep</source>
+        <translation>蠕变</translation>
+    </message>
+    <message>
+        <source>creep rate</source>
+        <translation>蠕变率</translation>
+    </message>
+    <message>
+        <source>relaxation</source>
+        <translation>松弛</translation>
+    </message>
+    <message>
+        <source>shear creep</source>
+        <translation>剪切蠕变</translation>
+    </message>
+    <message>
+        <source>storage and loss</source>
+        <translation>储能与损耗</translation>
+    </message>
+    <message>
+        <source>%1 / cohesion</source>
+        <translation>%1 / 黏聚力</translation>
+    </message>
+    <message>
+        <source>%1 × shear modulus</source>
+        <translation>%1 × 剪切模量</translation>
+    </message>
+    <message>
+        <source>%1 / shear modulus</source>
+        <translation>%1 / 剪切模量</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%2 时的%1</translation>
+    </message>
+    <message>
+        <source>unstable</source>
+        <translation>不稳定</translation>
+    </message>
+    <message>
+        <source>The legend shows the first %1 of %2 curves.</source>
+        <translation>图例显示 %2 条曲线中的前 %1 条。</translation>
     </message>
 </context>
 <context>
@@ -3979,10 +5136,6 @@ Delete anyway?</source>
         <translation>有右括号，但没有左括号。</translation>
     </message>
     <message>
-        <source>More than %1 parentheses are inside each other.</source>
-        <translation>括号嵌套超过 %1 层。</translation>
-    </message>
-    <message>
         <source>A quantity is missing before &quot;%1&quot;.</source>
         <translation>“%1”之前缺少物理量。</translation>
     </message>
@@ -4043,16 +5196,40 @@ Delete anyway?</source>
         <translation>“%1”是温度差；需要温度。</translation>
     </message>
     <message>
-        <source>The unit of %1 depends on %2 and %3, which are not given or not between -50 and 50; write the number without a unit.</source>
-        <translation>%1 的单位取决于 %2 和 %3，它们未给出或不在 -50 到 50 之间；请写不带单位的数字。</translation>
-    </message>
-    <message>
         <source>The comma in &quot;%1&quot; may be a decimal sign or separate two numbers; write &quot;%2&quot; or &quot;%3&quot;.</source>
         <translation>“%1”中的逗号可能是小数点，也可能分隔两个数字；请写“%2”或“%3”。</translation>
     </message>
     <message>
         <source>The stresses look like %1, and the density like %2: convert them</source>
         <translation>应力看起来是 %1，密度看起来是 %2：请换算</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2 and %3, which are not given; give them first.</source>
+        <translation>%1 的单位取决于 %2 和 %3，但它们未给出；请先给出它们。</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2, which is not given; give it first.</source>
+        <translation>%1 的单位取决于 %2，但它未给出；请先给出它。</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2, which is not between -50 and 50; convert the number to SI units and write it without a unit.</source>
+        <translation>%1 的单位取决于 %2，但该值不在 -50 到 50 之间；请将数字换算为 SI 单位，并且不带单位输入。</translation>
+    </message>
+    <message>
+        <source>The stresses look like %1, the density like %2, and the specific heat like %3: convert them</source>
+        <translation>应力看似采用 %1，密度看似采用 %2，比热看似采用 %3：请换算它们</translation>
+    </message>
+    <message>
+        <source>More than %1 parentheses and &quot;not&quot; are inside each other.</source>
+        <translation>嵌套的括号和“not”超过 %1 层。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a known unit; write &quot;and&quot; before another condition.</source>
+        <translation>“%1”不是已知的单位；请在另一个条件前写上“and”。</translation>
+    </message>
+    <message>
+        <source>Searched in labels; did you mean &quot;%1&quot;?</source>
+        <translation>已在标签中搜索；您是想输入“%1”吗？</translation>
     </message>
 </context>
 <context>
@@ -4893,6 +6070,150 @@ Delete anyway?</source>
         <source>Electrical resistivity</source>
         <translation>电阻率</translation>
     </message>
+    <message>
+        <source>mass per volume</source>
+        <translation>单位体积的质量</translation>
+    </message>
+    <message>
+        <source>stress over strain in uniaxial tension at small strain, of an isotropic solid</source>
+        <translation>各向同性固体在小应变单轴拉伸时的应力与应变之比</translation>
+    </message>
+    <message>
+        <source>transverse over axial strain in uniaxial tension</source>
+        <translation>单轴拉伸时横向应变与轴向应变之比</translation>
+    </message>
+    <message>
+        <source>shear stress over shear rate, of a Newtonian fluid</source>
+        <translation>牛顿流体的剪应力与剪切速率之比</translation>
+    </message>
+    <message>
+        <source>coefficient mu of the series of the eight-chain model; the initial shear modulus is mu (1 + 3/(5 lm^2) + 99/(175 lm^4) + 513/(875 lm^6) + 42039/(67375 lm^8)), up to a third more</source>
+        <translation>八链模型级数的系数 mu；初始剪切模量为 mu (1 + 3/(5 lm^2) + 99/(175 lm^4) + 513/(875 lm^6) + 42039/(67375 lm^8))，最多大三分之一</translation>
+    </message>
+    <message>
+        <source>2 over the initial bulk modulus; energy (J - 1)^2 / D1; 0 is exactly incompressible</source>
+        <translation>2 除以初始体积模量；能量为 (J - 1)^2 / D1；0 表示完全不可压缩</translation>
+    </message>
+    <message>
+        <source>factor of I1 - 3; half the initial shear modulus of a neo-Hookean solid</source>
+        <translation>I1 - 3 的系数；neo-Hooke 固体初始剪切模量的一半</translation>
+    </message>
+    <message>
+        <source>factor of I2 - 3; may be negative</source>
+        <translation>I2 - 3 的系数；可以为负</translation>
+    </message>
+    <message>
+        <source>on: W = C10 (I1 - 3) + (J - 1)^2 / D1</source>
+        <translation>开：W = C10 (I1 - 3) + (J - 1)^2 / D1</translation>
+    </message>
+    <message>
+        <source>on: W = C10 (I1 - 3) + C01 (I2 - 3) + (J - 1)^2 / D1</source>
+        <translation>开：W = C10 (I1 - 3) + C01 (I2 - 3) + (J - 1)^2 / D1</translation>
+    </message>
+    <message>
+        <source>on: eight-chain model by mu, limiting stretch and D1</source>
+        <translation>开：由 mu、极限伸长和 D1 确定的八链模型</translation>
+    </message>
+    <message>
+        <source>on: linear elasticity by Young&apos;s modulus and Poisson&apos;s ratio; the number is without meaning</source>
+        <translation>开：由杨氏模量和泊松比确定的线弹性；数值没有意义</translation>
+    </message>
+    <message>
+        <source>on: plasticity by yield and hardening type</source>
+        <translation>开：由屈服类型和硬化类型确定的塑性</translation>
+    </message>
+    <message>
+        <source>yield criterion</source>
+        <translation>屈服准则</translation>
+    </message>
+    <message>
+        <source>viscosity of viscoplastic flow: overstress over plastic strain rate; no cohesion, which the catalogue lacks</source>
+        <translation>粘塑性流动的粘度：过应力与塑性应变率之比；不是黏聚力，目录中没有黏聚力</translation>
+    </message>
+    <message>
+        <source>angle of internal friction; degrees, not radians</source>
+        <translation>内摩擦角；单位为度，不是弧度</translation>
+    </message>
+    <message>
+        <source>plastic modulus: slope of true stress over plastic strain, not over total strain</source>
+        <translation>塑性模量：真应力对塑性应变（而非总应变）的斜率</translation>
+    </message>
+    <message>
+        <source>hardening law</source>
+        <translation>硬化规律</translation>
+    </message>
+    <message>
+        <source>true yield stresses, one for each plastic strain</source>
+        <translation>真屈服应力，每个塑性应变对应一个</translation>
+    </message>
+    <message>
+        <source>logarithmic plastic strains, ascending, the first one 0</source>
+        <translation>对数塑性应变，递增，第一个为 0</translation>
+    </message>
+    <message>
+        <source>true stress at the first yield</source>
+        <translation>初始屈服时的真应力</translation>
+    </message>
+    <message>
+        <source>on: one term of a Prony series, G(t) / G(0) = 1 - g (1 - exp(-t / tau))</source>
+        <translation>开：Prony 级数的一项，G(t) / G(0) = 1 - g (1 - exp(-t / tau))</translation>
+    </message>
+    <message>
+        <source>g: the share of the instantaneous shear modulus that relaxes; a ratio, not a modulus</source>
+        <translation>g：瞬时剪切模量中松弛的份额；是比值，不是模量</translation>
+    </message>
+    <message>
+        <source>tau of the Prony term</source>
+        <translation>Prony 项的 tau</translation>
+    </message>
+    <message>
+        <source>on: creep strain rate = A stress^N time^M</source>
+        <translation>开：蠕变应变率 = A 应力^N 时间^M</translation>
+    </message>
+    <message>
+        <source>factor of the creep law in its rate form; the unit depends on N and M</source>
+        <translation>速率形式蠕变律的系数；单位取决于 N 和 M</translation>
+    </message>
+    <message>
+        <source>exponent of the stress</source>
+        <translation>应力的指数</translation>
+    </message>
+    <message>
+        <source>exponent of the time in the rate form; 0 is secondary creep</source>
+        <translation>速率形式中时间的指数；0 表示第二阶段蠕变</translation>
+    </message>
+    <message>
+        <source>lm: the stretch at which the chains are extended fully; a ratio, whatever the unit text says</source>
+        <translation>lm：分子链完全伸展时的伸长比；是比值，无论单位文本如何</translation>
+    </message>
+    <message>
+        <source>factor of (I1 - 3)(I2 - 3); may be negative</source>
+        <translation>(I1 - 3)(I2 - 3) 的系数；可以为负</translation>
+    </message>
+    <message>
+        <source>heat per mass and change of temperature</source>
+        <translation>单位质量、单位温度变化的热量</translation>
+    </message>
+    <message>
+        <source>heat flux over gradient of temperature</source>
+        <translation>热流密度与温度梯度之比</translation>
+    </message>
+    <message>
+        <source>current density over electric field; the W of the unit text is an Omega; 0 is a perfect insulator</source>
+        <translation>电流密度与电场强度之比；单位文本中的 W 是 Omega；0 表示理想绝缘体</translation>
+    </message>
+    <message>
+        <source>permittivity over that of vacuum, static</source>
+        <translation>静态介电常数与真空介电常数之比</translation>
+    </message>
+    <message>
+        <source>permeability over that of vacuum, initial</source>
+        <translation>初始磁导率与真空磁导率之比</translation>
+    </message>
+    <message>
+        <source>speed of longitudinal waves</source>
+        <translation>纵波速度</translation>
+    </message>
 </context>
 <context>
     <name>vxjson::JsonError</name>
@@ -5007,6 +6328,66 @@ Delete anyway?</source>
     <message>
         <source>&apos;%1&apos; is not a JSON value</source>
         <translation>“%1”不是 JSON 值</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a text</source>
+        <translation>“%1”必须是文本</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be true or false</source>
+        <translation>“%1”必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number of 32 bits</source>
+        <translation>“%1”必须是 32 位整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be 1; a later program wrote another version</source>
+        <translation>“%1”必须为 1；其他版本由更新的程序写入</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a whole number from 0</source>
+        <translation>“%1”必须是不小于 0 的整数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a number</source>
+        <translation>“%1”必须是数字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be the name of a mode</source>
+        <translation>“%1”必须是试验模式的名称</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>“%1”必须是对象</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be a finite number</source>
+        <translation>“%1”必须是有限数字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a word that this member can have</source>
+        <translation>“%1”不是此成员允许的词</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a known member</source>
+        <translation>“%1”不是已知成员</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an array</source>
+        <translation>“%1”必须是数组</translation>
+    </message>
+    <message>
+        <source>the text is not an object</source>
+        <translation>该文本不是对象</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must have as many ordinates as abscissas</source>
+        <translation>“%1”的纵坐标与横坐标数量必须相同</translation>
     </message>
 </context>
 </TS>

@@ -338,8 +338,8 @@ TestAxis axisOf(const ColumnChoice& choice, const TestTable& table)
 
 std::optional<MeasuredTest> TestReader::read(const TestName& name)
 {
-    const TestTable table =
-        vxConstitutive::readTestTable(readFile(name.file, Content::Any), vxConstitutive::unitFactor, tableOptions(name));
+    const TestTable table = vxConstitutive::readTestTable(readFile(name.file, Content::Any), vxConstitutive::unitFactor,
+                                                          tableOptions(name));
     m_answer.add(messagesAbout(titleOf(name), table.findings));
     hintAtFormat(name, table);
     if (hasError(table.findings) || table.columns.empty()) {

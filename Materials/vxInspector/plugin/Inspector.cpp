@@ -4,6 +4,7 @@
 #include "Obj/Application.h"
 #include "curves/CurvesPage.h"
 #include "findings/FindingsPage.h"
+#include "fit/FitPage.h"
 #include "plugin/TabContents.h"
 #include "plugin/TabPage.h"
 #include "subject/SubjectWatch.h"
@@ -46,7 +47,8 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
       m_findings(new FindingsPage(m_tabs)),
       m_cards(new TabPage("inspectorCards", m_tabs)),
       m_compare(new TabPage("inspectorCompare", m_tabs)),
-      m_curves(new CurvesPage(m_tabs))
+      m_curves(new CurvesPage(m_tabs)),
+      m_fit(new FitPage(m_tabs))
 {
     m_systems->setObjectName(QStringLiteral("inspectorUnits"));
     m_systems->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -74,7 +76,7 @@ void Inspector::createTabs()
     m_tabs->setDocumentMode(true);
     for (QWidget* const page :
          {static_cast<QWidget*>(m_values), static_cast<QWidget*>(m_findings), static_cast<QWidget*>(m_cards),
-          static_cast<QWidget*>(m_compare), static_cast<QWidget*>(m_curves)})
+          static_cast<QWidget*>(m_compare), static_cast<QWidget*>(m_curves), static_cast<QWidget*>(m_fit)})
         m_tabs->addTab(page, QString());
 }
 
@@ -82,7 +84,7 @@ void Inspector::retranslate()
 {
     m_unitsLabel->setText(tr("&Units:"));
     m_systems->setToolTip(tr("The unit system of values, comparison and curves. It changes no value."));
-    const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves")};
+    const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves"), tr("Fit")};
     for (int tab = 0; tab < m_tabs->count(); ++tab)
         m_tabs->setTabText(tab, titles[tab]);
     for (TabPage* const page : {m_values, static_cast<TabPage*>(m_findings), m_cards, m_compare}) {
@@ -90,6 +92,7 @@ void Inspector::retranslate()
         page->retranslate();
     }
     m_curves->retranslate();
+    m_fit->retranslate();
     m_ofProject.clear();
 }
 
@@ -125,6 +128,8 @@ void Inspector::refresh()
 
 void Inspector::fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system)
 {
+    if (m_tabs->currentWidget() == m_fit)
+        return m_fit->setSubject(subject, system);
     if (m_tabs->currentWidget() != m_curves)
         return fillTable(subject, system);
     const DrawnMaterials drawn = drawnMaterials(subject);

@@ -14,6 +14,7 @@ namespace vxInspector {
 
 class CurvesPage;
 class FindingsPage;
+class FitPage;
 class SubjectWatch;
 class TabPage;
 struct Subject;
@@ -52,6 +53,7 @@ private:
     TabPage* m_cards;
     TabPage* m_compare;
     CurvesPage* m_curves;
+    FitPage* m_fit;
     std::string m_ofProject; ///< the unit system of the project in the first entry of the choice
 };
 

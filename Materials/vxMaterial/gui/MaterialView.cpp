@@ -711,6 +711,18 @@ void MaterialView::setValues(const std::map<int, QString>& values, const QString
     });
 }
 
+void MaterialView::setRows(const std::vector<SheetRow>& rows, const QString& step)
+{
+    if (!guarded([this] { m_ui->tableView->finishEditing(); }))
+        return;
+    edit(step, [&] {
+        m_ui->tableView->setRows(rows);
+        checkQuantities([&rows](int id) {
+            return std::any_of(rows.begin(), rows.end(), [id](const SheetRow& row) { return row.id == id; });
+        });
+    });
+}
+
 std::optional<Gui::ApplyRefusal> MaterialView::findIgnoredText() const
 {
     const auto row = m_ui->tableView->findPartlyReadRow();

@@ -36,6 +36,7 @@ namespace MatGui {
 
 class EditorHistory;
 struct EditorState;
+struct SheetRow;
 
 /// The window in which the user selects the material of a material object: a material of the library, or quantities of
 /// the catalogue, whose values the user edits in the table.
@@ -74,6 +75,10 @@ public:
     /// Writes values into rows of the table, by their numbers from 0, as one step of the undo stack with the text
     /// `step`. First ends the edit of a cell. Ignores numbers without a row.
     void setValues(const std::map<int, QString>& values, const QString& step);
+
+    /// Replaces the rows of the table, and checks their quantities on the Build tab, as one step of the undo stack with the
+    /// text `step`. First ends the edit of a cell.
+    void setRows(const std::vector<SheetRow>& rows, const QString& step);
 
     /// Returns the name, in the user's language, of the library material that the user has taken since the last Apply;
     /// empty if there is none, or if the user has cleared the rows afterwards.

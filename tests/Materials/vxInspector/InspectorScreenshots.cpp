@@ -9,6 +9,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "fit/FitPage.h"
 #include "plugin/Module.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/project/DocumentMaterial.h"
@@ -16,6 +17,7 @@
 #include "vxMaterial/project/Module.h"
 #include "vxMaterial/project/Requests.h"
 
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QTabWidget>
 
@@ -30,6 +32,25 @@ Mat::MaterialObject& add(Mat::DocumentMaterial& project, const char* label, Type
     object.getCMaterial()->copyPropertiesFrom(*project.getMatMgr().materials.at(static_cast<std::int32_t>(type)));
     object.refreshProperties(true);
     return object;
+}
+
+/// Fits models to points of a Neo-Hookean rubber with C10 = 0.5 MPa, to which a scatter is added.
+void fitRubber(const Shooting& shooting, vxInspector::FitPage& page)
+{
+    std::string text = "stretch;nominal stress [MPa]\n";
+    for (int i = 1; i <= 20; ++i) {
+        const double stretch = 1.0 + 0.1 * i;
+        const double scatter = i % 2 == 0 ? 0.02 : -0.02;
+        text += std::to_string(stretch) + ';' + std::to_string(stretch - 1.0 / (stretch * stretch) + scatter) + '\n';
+    }
+    vxInspector::LoadedTest test = vxInspector::loadTest(QStringLiteral("tension"), text);
+    test.mode = vxConstitutive::Mode::Uniaxial;
+    readAgain(test);
+    page.addTest(std::move(test));
+    shooting.take("inspector-fit-tests");
+    page.findChild<QPushButton*>(QStringLiteral("fitStart"))->click();
+    while (page.isFitting())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
@@ -61,6 +82,11 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     shooting.take("inspector-curves-two");
     select({&frame, &skin});
     shooting.take("inspector-curves-metals");
+    select({&seal});
+    tabs.setCurrentIndex(5);
+    shooting.take("inspector-fit-empty");
+    fitRubber(shooting, *tabs.findChild<vxInspector::FitPage*>());
+    shooting.take("inspector-fit");
 }
 
 } // namespace

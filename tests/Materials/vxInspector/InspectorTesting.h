@@ -40,6 +40,7 @@ protected:
         Cards,
         Compare,
         Curves,
+        Fit,
     };
 
     InspectorTest();

@@ -1,0 +1,119 @@
+#include "fit/FitJob.h"
+
+#include "vxConstitutive/fit/PlasticFit.h"
+#include "vxConstitutive/fit/RateFits.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <utility>
+
+namespace vxInspector {
+
+namespace {
+
+using vxConstitutive::FitControl;
+using vxConstitutive::FitResult;
+using vxConstitutive::Mode;
+using vxConstitutive::TestData;
+
+std::vector<TestData> testsOf(const std::vector<TestData>& tests, const std::set<Mode>& modes)
+{
+    std::vector<TestData> some;
+    std::copy_if(tests.begin(), tests.end(), std::back_inserter(some),
+                 [&modes](const TestData& test) { return modes.count(test.mode) != 0; });
+    return some;
+}
+
+void fitRubber(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)
+{
+    vxConstitutive::HyperelasticFitRequest request;
+    request.tests =
+        testsOf(order.tests, {Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar, Mode::SimpleShear, Mode::Volumetric});
+    request.stability = order.stability;
+    if (request.tests.empty())
+        return;
+    for (FitResult& result : vxConstitutive::fitHyperelastic(request, control))
+        results.push_back(std::move(result));
+}
+
+void fitMetal(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)
+{
+    vxConstitutive::PlasticFitRequest request;
+    request.tests = testsOf(order.tests, {Mode::Tensile, Mode::Plastic});
+    if (request.tests.empty())
+        return;
+    results.push_back(vxConstitutive::fitMultilinear(request, control));
+    results.push_back(vxConstitutive::fitBilinear(request, control));
+}
+
+void fitCreep(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)
+{
+    vxConstitutive::NortonFitRequest request;
+    request.tests = testsOf(order.tests, {Mode::Creep, Mode::CreepRate});
+    if (!request.tests.empty())
+        results.push_back(vxConstitutive::fitNorton(request, control));
+}
+
+void fitRelaxing(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)
+{
+    vxConstitutive::RelaxationFitRequest request;
+    request.tests = testsOf(order.tests, {Mode::Relaxation});
+    if (!request.tests.empty())
+        results.push_back(vxConstitutive::fitRelaxation(request, control));
+}
+
+} // namespace
+
+std::vector<FitResult> fitAll(const FitOrder& order, const FitControl& control)
+{
+    std::vector<FitResult> results;
+    for (const auto fit : {fitRubber, fitMetal, fitCreep, fitRelaxing})
+        if (!control.cancelled || !control.cancelled())
+            fit(order, control, results);
+    return results;
+}
+
+FitJob::FitJob(FitOrder order, QObject* parent) : QObject(parent)
+{
+    m_thread = std::thread([this, order = std::move(order)] { run(order); });
+}
+
+FitJob::~FitJob()
+{
+    m_cancelled = true;
+    m_thread.join();
+}
+
+void FitJob::cancel()
+{
+    m_cancelled = true;
+}
+
+void FitJob::run(const FitOrder& order)
+{
+    FitControl control;
+    control.progress = [this](const vxConstitutive::FitProgress& progress) { tell(progress); };
+    control.cancelled = [this] { return m_cancelled.load(); };
+    try {
+        m_results = fitAll(order, control);
+    } catch (const std::exception& problem) {
+        m_failure = QString::fromLocal8Bit(problem.what());
+    } catch (...) {
+        m_failure = QStringLiteral("?");
+    }
+    QMetaObject::invokeMethod(this, &FitJob::finished, Qt::QueuedConnection);
+}
+
+/// Fits report some hundred times a second; the interface is told each hundredth once.
+void FitJob::tell(const vxConstitutive::FitProgress& progress)
+{
+    const int hundredths = static_cast<int>(progress.part * 100.0);
+    if (m_told.exchange(hundredths) == hundredths)
+        return;
+    const QString model = QString::fromStdString(progress.model);
+    QMetaObject::invokeMethod(
+        this, [this, model, part = progress.part] { Q_EMIT progressed(model, part); }, Qt::QueuedConnection);
+}
+
+} // namespace vxInspector

@@ -1,0 +1,560 @@
+#include "fit/FitPage.h"
+
+#include "Gui/FileDialog.h"
+#include "Kelta/Exceptions.h"
+#include "Obj/Application.h"
+#include "fit/FitApplying.h"
+#include "fit/FitTables.h"
+#include "plot/PlotView.h"
+#include "subject/SubjectWatch.h"
+#include "table/ContentView.h"
+#include "vxMaterial/project/MaterialObject.h"
+#include "vxPlot/CurvePlot.h"
+#include "vxPlot/drawing/PlotItems.h"
+#include "vxUnits/Reading.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <initializer_list>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+namespace vxInspector {
+
+namespace {
+
+using vxConstitutive::ColumnChoice;
+using vxConstitutive::FitResult;
+using vxConstitutive::Measure;
+using vxConstitutive::Mode;
+using vxConstitutive::TestReading;
+using vxConstitutive::TestReadRequest;
+
+constexpr qint64 mostBytes = qint64(200) * 1024 * 1024; // of a file with test data
+
+template <class Widget>
+Widget* named(Widget* widget, const char* name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+QLabel* makeText(QWidget* parent, const char* name)
+{
+    QLabel* const label = named(new QLabel(parent), name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return label;
+}
+
+QComboBox* makeChoice(QWidget* parent, const QString& name)
+{
+    auto* const choice = new QComboBox(parent);
+    choice->setObjectName(name);
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    choice->setMinimumContentsLength(4);
+    return choice;
+}
+
+/// Returns the number in a field in the unit `unit`; absent if it cannot be read.
+std::optional<double> numberIn(const QLineEdit& field, const char* unit)
+{
+    const auto read = vxUnits::readNumber(field.text().trimmed().toStdString(), *vxUnits::Unit::parse(unit));
+    return read ? std::optional(read->value) : std::nullopt;
+}
+
+bool isSame(const ColumnChoice& one, const ColumnChoice& other)
+{
+    return one.column == other.column && one.measure == other.measure && one.unit == other.unit;
+}
+
+Mat::MaterialObject* findMaterial(const RowPlace& place)
+{
+    const Obj::Project* const project = Obj::Application::instance().get_project(place.projectId);
+    return project != nullptr ? dynamic_cast<Mat::MaterialObject*>(project->get_object(place.objectId)) : nullptr;
+}
+
+} // namespace
+
+FitPage::FitPage(QWidget* parent)
+    : QWidget(parent),
+      m_sentence(makeText(this, "sentence")),
+      m_load(named(new QPushButton(this), "fitLoad")),
+      m_paste(named(new QPushButton(this), "fitPaste")),
+      m_remove(named(new QPushButton(this), "fitRemove")),
+      m_testView(named(new ContentView(this), "fitTests")),
+      m_form(new QWidget(this)),
+      m_modeLabel(new QLabel(m_form)),
+      m_mode(makeChoice(m_form, QStringLiteral("fitMode"))),
+      m_abscissa(makeAxis("fitX")),
+      m_ordinate(makeAxis("fitY")),
+      m_stressLabel(new QLabel(m_form)),
+      m_stress(named(new QLineEdit(m_form), "fitStress")),
+      m_weightLabel(new QLabel(m_form)),
+      m_weight(named(new QLineEdit(m_form), "fitWeight")),
+      m_preview(makeText(this, "fitPreview")),
+      m_stable(named(new QCheckBox(this), "fitStable")),
+      m_fit(named(new QPushButton(this), "fitStart")),
+      m_cancel(named(new QPushButton(this), "fitCancel")),
+      m_progress(named(new QProgressBar(this), "fitProgress")),
+      m_models(named(new ContentView(this), "fitModels")),
+      m_constants(named(new ContentView(this), "fitConstants")),
+      m_plot(new PlotView(this)),
+      m_apply(named(new QPushButton(this), "fitApply"))
+{
+    setObjectName(QStringLiteral("inspectorFit"));
+    m_stable->setChecked(true);
+    m_progress->setRange(0, 100);
+    for (ContentView* const view : {m_testView, m_models, m_constants})
+        view->setMinimumHeight(view->fontMetrics().lineSpacing() * 6);
+    for (QPushButton* const button : {m_load, m_paste, m_remove, m_fit, m_cancel, m_apply})
+        button->setAutoDefault(false);
+    layOut();
+    retranslate();
+    connectControls();
+    showTests();
+    showResults();
+}
+
+FitPage::~FitPage() = default;
+
+FitPage::AxisControls FitPage::makeAxis(const char* name)
+{
+    const QString own = QLatin1String(name);
+    AxisControls axis{new QLabel(m_form), makeChoice(m_form, own + QStringLiteral("Column")),
+                      makeChoice(m_form, own + QStringLiteral("Measure")), new QLineEdit(m_form)};
+    axis.unit->setObjectName(own + QStringLiteral("Unit"));
+    axis.label->setBuddy(axis.column);
+    return axis;
+}
+
+void FitPage::addAxis(QGridLayout& grid, int row, const AxisControls& axis) const
+{
+    grid.addWidget(axis.label, row, 0);
+    grid.addWidget(axis.column, row, 1);
+    grid.addWidget(axis.measure, row, 2);
+    grid.addWidget(axis.unit, row, 3);
+}
+
+void FitPage::layOut()
+{
+    auto* const grid = new QGridLayout(m_form);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(m_modeLabel, 0, 0);
+    grid->addWidget(m_mode, 0, 1, 1, 3);
+    addAxis(*grid, 1, m_abscissa);
+    addAxis(*grid, 2, m_ordinate);
+    grid->addWidget(m_stressLabel, 3, 0);
+    grid->addWidget(m_stress, 3, 1, 1, 3);
+    grid->addWidget(m_weightLabel, 4, 0);
+    grid->addWidget(m_weight, 4, 1);
+    for (const auto& [column, stretch] : {std::pair(1, 3), std::pair(2, 3), std::pair(3, 2)})
+        grid->setColumnStretch(column, stretch);
+    const auto rowOf = [](std::initializer_list<QWidget*> widgets) {
+        auto* const row = new QHBoxLayout;
+        for (QWidget* const widget : widgets)
+            row->addWidget(widget);
+        row->addStretch(1);
+        return row;
+    };
+    auto* const content = new QWidget;
+    auto* const layout = new QVBoxLayout(content);
+    layout->addWidget(m_sentence);
+    layout->addLayout(rowOf({m_load, m_paste, m_remove}));
+    for (QWidget* const widget :
+         {static_cast<QWidget*>(m_testView), m_form, static_cast<QWidget*>(m_preview), static_cast<QWidget*>(m_stable)})
+        layout->addWidget(widget);
+    layout->addLayout(rowOf({m_fit, m_cancel}));
+    for (QWidget* const widget : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_plot),
+                                  static_cast<QWidget*>(m_models), static_cast<QWidget*>(m_constants)})
+        layout->addWidget(widget);
+    layout->addLayout(rowOf({m_apply}));
+    layout->addStretch(1);
+    auto* const scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    auto* const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll);
+}
+
+void FitPage::connectControls()
+{
+    const auto guard = [this](void (FitPage::*action)()) {
+        return [this, action] {
+            Kelta::guarded(tr("The test data cannot be used"), [this, action] { (this->*action)(); });
+        };
+    };
+    connect(m_load, &QPushButton::clicked, this, guard(&FitPage::load));
+    connect(m_paste, &QPushButton::clicked, this, guard(&FitPage::paste));
+    connect(m_remove, &QPushButton::clicked, this, guard(&FitPage::removeTest));
+    connect(m_fit, &QPushButton::clicked, this, guard(&FitPage::startFit));
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        if (m_job != nullptr)
+            m_job->cancel();
+    });
+    connect(m_apply, &QPushButton::clicked, this,
+            [this] { Kelta::guarded(tr("The constants cannot be applied"), [this] { apply(); }); });
+    connect(m_testView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, guard(&FitPage::showForm));
+    connect(m_models->selectionModel(), &QItemSelectionModel::currentRowChanged, this, guard(&FitPage::showModel));
+    connect(m_mode, QOverload<int>::of(&QComboBox::activated), this, guard(&FitPage::readForm));
+    connectAxis(m_abscissa, &TestReadRequest::abscissa);
+    connectAxis(m_ordinate, &TestReadRequest::ordinate);
+    for (QLineEdit* const field : {m_stress, m_weight})
+        connect(field, &QLineEdit::editingFinished, this, guard(&FitPage::readForm));
+}
+
+/// The first entry of a choice leaves it to the header of the column.
+void FitPage::connectAxis(const AxisControls& axis, ColumnChoice TestReadRequest::*choice)
+{
+    const auto change = [this, axis, choice] {
+        LoadedTest* const test = currentTest();
+        if (test == nullptr)
+            return;
+        ColumnChoice chosen;
+        if (axis.column->currentIndex() > 0)
+            chosen.column = static_cast<std::size_t>(axis.column->currentIndex() - 1);
+        if (axis.measure->currentIndex() > 0)
+            chosen.measure = static_cast<Measure>(axis.measure->currentData().toInt());
+        if (!axis.unit->text().trimmed().isEmpty())
+            chosen.unit = axis.unit->text().trimmed().toStdString();
+        if (isSame(chosen, test->request.*choice))
+            return;
+        test->request.*choice = chosen;
+        readCurrent(*test);
+    };
+    const auto guarded = [this, change] { Kelta::guarded(tr("The test data cannot be used"), change); };
+    connect(axis.column, QOverload<int>::of(&QComboBox::activated), this, guarded);
+    connect(axis.measure, QOverload<int>::of(&QComboBox::activated), this, guarded);
+    connect(axis.unit, &QLineEdit::editingFinished, this, guarded);
+}
+
+void FitPage::retranslateAxis(const AxisControls& axis, const QString& label) const
+{
+    axis.label->setText(label);
+    axis.column->setAccessibleName(tr("Column"));
+    axis.measure->setAccessibleName(tr("Measured quantity"));
+    axis.unit->setAccessibleName(tr("Unit"));
+    axis.column->setToolTip(tr("The column of the file"));
+    axis.measure->setToolTip(tr("What the column measures"));
+    axis.unit->setToolTip(tr("The unit of the column, such as MPa or %"));
+}
+
+void FitPage::retranslate()
+{
+    m_load->setText(tr("&Load…"));
+    m_load->setToolTip(tr("Load test data from a file with columns of numbers"));
+    m_paste->setText(tr("&Paste"));
+    m_paste->setToolTip(tr("Take columns of numbers from the clipboard"));
+    m_remove->setText(tr("&Remove"));
+    m_modeLabel->setText(tr("&Test:"));
+    m_modeLabel->setBuddy(m_mode);
+    retranslateAxis(m_abscissa, tr("Hori&zontal:"));
+    retranslateAxis(m_ordinate, tr("&Vertical:"));
+    m_stressLabel->setText(tr("&Stress:"));
+    m_stressLabel->setBuddy(m_stress);
+    m_weightLabel->setText(tr("&Weight:"));
+    m_weightLabel->setBuddy(m_weight);
+    m_stable->setText(tr("&Keep rubber stable over the stretches of the tests"));
+    m_stable->setToolTip(tr("Without this, a fit may be unstable in tests that were not made."));
+    m_fit->setText(tr("F&it"));
+    m_cancel->setText(tr("&Cancel"));
+    m_testView->setAccessibleName(tr("Tests"));
+    m_models->setAccessibleName(tr("Fitted models"));
+    m_constants->setAccessibleName(tr("Constants of the model"));
+    for (ContentView* const view : {m_testView, m_models, m_constants})
+        view->retranslate();
+    m_plot->retranslate();
+    const QSignalBlocker blocker(m_mode);
+    m_mode->clear();
+    m_mode->addItem(tr("Choose the test"));
+    for (const Mode mode : measuredModes())
+        m_mode->addItem(QCoreApplication::translate("vxConstitutive", vxConstitutive::modeRecord(mode).name),
+                        static_cast<int>(mode));
+    showTests();
+    showResults();
+}
+
+void FitPage::setSubject(const Subject& subject, const vxUnits::UnitSystem& system)
+{
+    const bool isMaterial = subject.kind == Subject::Kind::Materials && !subject.materials.empty();
+    m_target = {};
+    m_targetLabel.clear();
+    if (isMaterial) {
+        const Mat::MaterialObject& object = *subject.materials.front();
+        m_target = {object.get_project()->getProjectId(), object.getObjectId(), 0};
+        m_targetLabel = shortened(QString::fromStdString(object.label.getValue()), 30);
+    }
+    if (m_system != system) {
+        m_system = system;
+        showModel();
+    }
+    enableControls();
+}
+
+void FitPage::load()
+{
+    const QString path = Gui::FileDialog::getOpenFileName(this, tr("Load test data"), {},
+                                                          tr("Test data (*.csv *.txt *.dat *.tsv);;All files (*)"));
+    if (path.isEmpty())
+        return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error(tr(R"(The file "%1" cannot be read: %2)").arg(path, file.errorString()).toStdString());
+    if (file.size() > mostBytes)
+        throw std::runtime_error(tr(R"(The file "%1" is larger than 200 MB and is not read.)").arg(path).toStdString());
+    addTest(loadTest(QFileInfo(path).completeBaseName(), file.readAll().toStdString()));
+}
+
+void FitPage::paste()
+{
+    const QString text = QApplication::clipboard()->text();
+    if (!text.isEmpty())
+        addTest(loadTest(tr("Test %1").arg(m_tests.size() + 1), text.toStdString()));
+}
+
+void FitPage::addTest(LoadedTest test)
+{
+    m_tests.push_back(std::move(test));
+    dropResults();
+    showTests();
+    m_testView->setCurrentIndex(m_testView->model()->index(static_cast<int>(m_tests.size()) - 1, 0));
+    showForm();
+}
+
+void FitPage::removeTest()
+{
+    const int row = m_testView->currentIndex().row();
+    if (row < 0 || static_cast<std::size_t>(row) >= m_tests.size())
+        return;
+    m_tests.erase(m_tests.begin() + row);
+    dropResults();
+    showTests();
+}
+
+LoadedTest* FitPage::currentTest()
+{
+    const int row = m_testView->currentIndex().row();
+    return row >= 0 && static_cast<std::size_t>(row) < m_tests.size() ? &m_tests[static_cast<std::size_t>(row)]
+                                                                      : nullptr;
+}
+
+/// Reads the fields of the form into the current test.
+void FitPage::readForm()
+{
+    LoadedTest* const test = currentTest();
+    if (test == nullptr)
+        return;
+    std::optional<Mode> mode;
+    if (m_mode->currentIndex() > 0)
+        mode = static_cast<Mode>(m_mode->currentData().toInt());
+    const std::optional<double> stress = numberIn(*m_stress, "Pa");
+    const double weight = numberIn(*m_weight, "1").value_or(1.0);
+    // A field that only loses the keyboard changes nothing.
+    if (mode == test->mode && stress == test->request.stress && weight == test->request.weight)
+        return;
+    test->mode = mode;
+    test->request.stress = stress;
+    test->request.weight = weight;
+    readCurrent(*test);
+}
+
+void FitPage::readCurrent(LoadedTest& test)
+{
+    readAgain(test);
+    dropResults();
+    showTests();
+    showForm();
+}
+
+void FitPage::showTests()
+{
+    const int row = m_testView->currentIndex().row();
+    m_testView->setContent(testTable(m_tests));
+    m_testView->setHidden(m_tests.empty());
+    if (!m_tests.empty() && !m_testView->currentIndex().isValid())
+        m_testView->setCurrentIndex(
+            m_testView->model()->index(std::clamp(row, 0, static_cast<int>(m_tests.size()) - 1), 0));
+    showForm();
+    showModel();
+}
+
+void FitPage::showForm()
+{
+    const LoadedTest* const test = currentTest();
+    m_form->setHidden(test == nullptr);
+    m_preview->setHidden(test == nullptr);
+    if (test != nullptr) {
+        m_mode->setCurrentIndex(test->mode ? m_mode->findData(static_cast<int>(*test->mode)) : 0);
+        const Mode mode = test->mode.value_or(Mode::Uniaxial);
+        showAxis(m_abscissa, *test, &TestReadRequest::abscissa, &TestReading::abscissa,
+                 vxConstitutive::abscissaMeasures(mode));
+        showAxis(m_ordinate, *test, &TestReadRequest::ordinate, &TestReading::ordinate,
+                 vxConstitutive::ordinateMeasures(mode));
+        const bool isCreep = test->mode == Mode::Creep;
+        m_stressLabel->setVisible(isCreep);
+        m_stress->setVisible(isCreep);
+        constexpr int digits = 10;
+        m_stress->setText(test->request.stress ? vxPlot::numberText(*test->request.stress, digits) + tr(" Pa")
+                                               : QString());
+        m_weight->setText(vxPlot::numberText(test->request.weight, digits));
+        m_preview->setText(readingText(*test));
+    }
+    enableControls();
+}
+
+void FitPage::showAxis(const AxisControls& axis, const LoadedTest& test, ColumnChoice TestReadRequest::*choice,
+                       ColumnChoice TestReading::*understood, const std::vector<Measure>& measures) const
+{
+    const ColumnChoice& chosen = test.request.*choice;
+    axis.column->clear();
+    axis.column->addItem(tr("by its header"));
+    for (std::size_t i = 0; i < test.table->columns.size(); ++i) {
+        const std::string& name = test.table->columns[i].name;
+        axis.column->addItem(name.empty() ? tr("Column %1").arg(i + 1) : QString::fromStdString(name));
+    }
+    axis.column->setCurrentIndex(chosen.column ? static_cast<int>(*chosen.column) + 1 : 0);
+    axis.measure->clear();
+    axis.measure->addItem(tr("by its header"));
+    for (const Measure measure : measures)
+        axis.measure->addItem(
+            QCoreApplication::translate("vxConstitutive", vxConstitutive::measureRecord(measure).name),
+            static_cast<int>(measure));
+    axis.measure->setCurrentIndex(
+        chosen.measure ? std::max(axis.measure->findData(static_cast<int>(*chosen.measure)), 0) : 0);
+    axis.unit->setText(QString::fromStdString(chosen.unit.value_or("")));
+    axis.unit->setPlaceholderText(QString::fromStdString((test.reading.*understood).unit.value_or("")));
+    const bool isKnown = test.mode.has_value();
+    for (QWidget* const widget :
+         {static_cast<QWidget*>(axis.column), static_cast<QWidget*>(axis.measure), static_cast<QWidget*>(axis.unit)})
+        widget->setEnabled(isKnown);
+}
+
+std::vector<vxConstitutive::TestData> FitPage::readTests() const
+{
+    std::vector<vxConstitutive::TestData> all;
+    for (const LoadedTest& test : m_tests)
+        if (test.reading.data)
+            all.push_back(*test.reading.data);
+    return all;
+}
+
+/// Results of other tests must not be taken for those of the present ones.
+void FitPage::dropResults()
+{
+    m_job.reset();
+    m_results.clear();
+    showResults();
+}
+
+void FitPage::startFit()
+{
+    FitOrder order{readTests(), m_stable->isChecked() ? vxConstitutive::StabilityDemand::OverData
+                                                      : vxConstitutive::StabilityDemand::None};
+    if (order.tests.empty())
+        return;
+    dropResults();
+    m_progress->setValue(0);
+    m_progress->setFormat(QStringLiteral("%p %"));
+    m_job = std::make_unique<FitJob>(std::move(order));
+    connect(m_job.get(), &FitJob::progressed, this, [this](const QString& model, double part) {
+        m_progress->setValue(static_cast<int>(part * 100.0));
+        m_progress->setFormat(QCoreApplication::translate("vxConstitutive", model.toUtf8()) + QStringLiteral(" %p %"));
+    });
+    connect(m_job.get(), &FitJob::finished, this,
+            [this] { Kelta::guarded(tr("The result of the fit cannot be shown"), [this] { finishFit(); }); });
+    enableControls();
+}
+
+void FitPage::finishFit()
+{
+    FitJob* const job = m_job.release();
+    job->deleteLater(); // this is a slot of its signal
+    m_results = job->results();
+    showResults();
+    if (!job->failure().isEmpty())
+        throw std::runtime_error(tr("The fit has failed: %1").arg(job->failure()).toStdString());
+}
+
+void FitPage::showResults()
+{
+    m_models->setContent(modelTable(m_results));
+    m_models->setHidden(m_results.empty());
+    if (!m_results.empty())
+        m_models->setCurrentIndex(m_models->model()->index(0, 0));
+    showModel();
+}
+
+const FitResult* FitPage::currentResult() const
+{
+    const int row = m_models->currentIndex().row();
+    return row >= 0 && static_cast<std::size_t>(row) < m_results.size() ? &m_results[static_cast<std::size_t>(row)]
+                                                                        : nullptr;
+}
+
+void FitPage::showModel()
+{
+    const FitResult* const result = currentResult();
+    m_constants->setHidden(result == nullptr);
+    m_constants->setContent(result != nullptr ? constantTable(*result, m_system) : TableContent{});
+    const std::vector<vxConstitutive::TestData> tests = readTests();
+    m_plot->setHidden(tests.empty());
+    if (!tests.empty())
+        m_plot->setPlot(
+            fitPlot(tests, result != nullptr ? std::vector{result} : std::vector<const FitResult*>{}, m_system));
+    enableControls();
+}
+
+void FitPage::enableControls()
+{
+    const FitResult* const result = currentResult();
+    const bool hasConstants = result != nullptr && !result->change.set.empty();
+    m_sentence->setText(m_tests.empty() ? tr("Load test data from a file, or paste columns of numbers, to fit the "
+                                             "constants of models to them.")
+                                        : QString());
+    m_sentence->setHidden(!m_tests.empty());
+    m_remove->setEnabled(currentTest() != nullptr);
+    m_stable->setHidden(m_tests.empty());
+    m_fit->setHidden(m_tests.empty());
+    m_fit->setEnabled(!readTests().empty() && !isFitting());
+    m_cancel->setVisible(isFitting());
+    m_progress->setVisible(isFitting());
+    m_apply->setHidden(m_results.empty());
+    m_apply->setEnabled(hasConstants && m_target.isSet());
+    m_apply->setText(
+        m_target.isSet()
+            ? tr("&Apply to \"%1\"").arg(QString(m_targetLabel).replace(QLatin1Char('&'), QLatin1String("&&")))
+            : tr("&Apply"));
+    m_apply->setToolTip(
+        m_target.isSet() ? tr("Write the constants of the selected model into the material. The change can be undone.")
+                         : tr("Select a material that gets the constants."));
+}
+
+void FitPage::apply() const
+{
+    const FitResult* const result = currentResult();
+    Mat::MaterialObject* const object = findMaterial(m_target);
+    if (result != nullptr && object != nullptr)
+        applyFit(vxConstitutive::MaterialChange(result->change), *object, SubjectWatch::editorOf(*object));
+}
+
+} // namespace vxInspector

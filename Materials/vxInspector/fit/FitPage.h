@@ -1,0 +1,120 @@
+#pragma once
+
+#include "fit/FitJob.h"
+#include "fit/LoadedTest.h"
+#include "subject/Subject.h"
+#include "table/TableContent.h"
+#include "vxUnits/UnitSystem.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+
+namespace vxInspector {
+
+class ContentView;
+class PlotView;
+
+/// The tab of the fits: tests from files or the clipboard, models that are fitted to them beside the interface, their
+/// constants and curves, and a button that writes the constants of one model into the selected material. The tests stay
+/// while the user selects other materials.
+class FitPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FitPage(QWidget* parent = nullptr);
+    ~FitPage() override;
+
+    /// Takes note of the material into which constants would be written.
+    void setSubject(const Subject& subject, const vxUnits::UnitSystem& system);
+    void retranslate();
+
+    void addTest(LoadedTest test);
+    const std::vector<LoadedTest>& tests() const { return m_tests; }
+    const std::vector<vxConstitutive::FitResult>& results() const { return m_results; }
+    bool isFitting() const { return m_job != nullptr; }
+    PlotView& plot() const { return *m_plot; }
+
+private:
+    /// The controls of one axis of a test.
+    struct AxisControls
+    {
+        QLabel* label;
+        QComboBox* column;
+        QComboBox* measure;
+        QLineEdit* unit;
+    };
+
+    void layOut();
+    AxisControls makeAxis(const char* name);
+    void addAxis(QGridLayout& grid, int row, const AxisControls& axis) const;
+    void connectControls();
+    void connectAxis(const AxisControls& axis, vxConstitutive::ColumnChoice vxConstitutive::TestReadRequest::*choice);
+    void retranslateAxis(const AxisControls& axis, const QString& label) const;
+
+    void load();
+    void paste();
+    void removeTest();
+    LoadedTest* currentTest();
+    void readForm();
+    void readCurrent(LoadedTest& test);
+    void showTests();
+    void showForm();
+    void showAxis(const AxisControls& axis, const LoadedTest& test,
+                  vxConstitutive::ColumnChoice vxConstitutive::TestReadRequest::*choice,
+                  vxConstitutive::ColumnChoice vxConstitutive::TestReading::*understood,
+                  const std::vector<vxConstitutive::Measure>& measures) const;
+    std::vector<vxConstitutive::TestData> readTests() const;
+    void dropResults();
+
+    void startFit();
+    void finishFit();
+    void showResults();
+    void showModel();
+    void enableControls();
+    const vxConstitutive::FitResult* currentResult() const;
+    void apply() const;
+
+    std::vector<LoadedTest> m_tests;
+    std::vector<vxConstitutive::FitResult> m_results;
+    std::unique_ptr<FitJob> m_job; ///< null if no fit runs
+    vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
+    RowPlace m_target; ///< the material that gets the constants
+    QString m_targetLabel;
+
+    QLabel* m_sentence;
+    QPushButton* m_load;
+    QPushButton* m_paste;
+    QPushButton* m_remove;
+    ContentView* m_testView;
+    QWidget* m_form;
+    QLabel* m_modeLabel;
+    QComboBox* m_mode;
+    AxisControls m_abscissa;
+    AxisControls m_ordinate;
+    QLabel* m_stressLabel;
+    QLineEdit* m_stress;
+    QLabel* m_weightLabel;
+    QLineEdit* m_weight;
+    QLabel* m_preview;
+    QCheckBox* m_stable;
+    QPushButton* m_fit;
+    QPushButton* m_cancel;
+    QProgressBar* m_progress;
+    ContentView* m_models;
+    ContentView* m_constants;
+    PlotView* m_plot;
+    QPushButton* m_apply;
+};
+
+} // namespace vxInspector

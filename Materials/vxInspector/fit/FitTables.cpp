@@ -1,0 +1,228 @@
+#include "fit/FitTables.h"
+
+#include "curves/ConstitutiveTexts.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxPlot/CurvePlot.h"
+#include "vxPlot/drawing/PlotItems.h"
+#include "vxUnits/Quantity.h"
+#include "vxUnits/Writing.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <deque>
+#include <map>
+#include <utility>
+
+namespace vxInspector {
+
+namespace {
+
+using vxConstitutive::Determination;
+using vxConstitutive::FitResult;
+using vxConstitutive::FitStatus;
+using vxConstitutive::Mode;
+using vxConstitutive::TestData;
+
+constexpr int digits = 5;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("vxInspector::FitTables", text);
+}
+
+QString modeText(Mode mode)
+{
+    return QString::fromStdString(vxPlot::shortModeName(mode, constitutiveTranslator()));
+}
+
+QString percent(double part)
+{
+    constexpr double hundred = 100.0;
+    return QString::number(part * hundred, 'g', 3) + QStringLiteral(" %");
+}
+
+QString stableText(const FitResult& result)
+{
+    QStringList parts;
+    for (const vxConstitutive::StableRange& stable : result.stable) {
+        const QString from =
+            (stable.unstableBelow ? QString() : QStringLiteral("≤ ")) + vxPlot::numberText(stable.range.from, 4);
+        const QString to =
+            (stable.unstableAbove ? QString() : QStringLiteral("≥ ")) + vxPlot::numberText(stable.range.to, 4);
+        parts << tr("%1 %2 to %3").arg(modeText(stable.mode), from, to);
+    }
+    return parts.join(QStringLiteral("; "));
+}
+
+QString statusText(const FitResult& result)
+{
+    if (result.status == FitStatus::Cancelled)
+        return tr("cancelled");
+    return result.status == FitStatus::Failed ? tr("failed") : percent(result.residual);
+}
+
+QString determinationText(Determination determination)
+{
+    switch (determination) {
+    case Determination::Poor:
+        return tr("poorly determined");
+    case Determination::AtBound:
+        return tr("at its bound");
+    case Determination::Undetermined:
+        return tr("not determined by the data");
+    case Determination::Fixed:
+        return tr("fixed");
+    case Determination::Determined:
+        break;
+    }
+    return {};
+}
+
+/// A constant in a unit system; the factor of creep stays in SI units, since its unit depends on the exponents.
+Row constantRow(const vxConstitutive::FittedConstant& constant, const vxUnits::UnitSystem& system)
+{
+    const auto si = vxUnits::Unit::parse(constant.unit);
+    const vxUnits::Unit unit = si ? system.unitOf(si->dimension()) : vxUnits::Unit();
+    const auto written = [&](double number) {
+        return si ? QString::fromStdString(vxUnits::writeNumber(number, unit, digits))
+                  : vxPlot::numberText(number, digits);
+    };
+    QString value = written(constant.value);
+    if (constant.standardError)
+        value += QStringLiteral(" ± ") + written(*constant.standardError);
+    const QString unitText = QString::fromStdString(si ? unit.text() : constant.unit);
+    return {{{QString::fromStdString(constant.symbol)},
+             {value},
+             {unitText == QLatin1String("1") ? QString() : unitText},
+             textCell(determinationText(constant.determination))}};
+}
+
+Row agreementRow(const vxConstitutive::TestAgreement& test)
+{
+    return {{textCell(QString::fromStdString(test.test)),
+             {percent(test.relativeError)},
+             {},
+             {tr("R² %1, %2 points").arg(vxPlot::numberText(test.rSquared, digits)).arg(test.points)}}};
+}
+
+Row findingRow(const vxConstitutive::Finding& finding)
+{
+    Cell cell = textCell(translated(finding));
+    cell.text = translated(finding);
+    return {{{severityText(vxConstitutive::findingRecord(finding.id).severity)}, {}, {}, cell}};
+}
+
+/// The abscissas of the tests of each mode.
+std::map<Mode, vxConstitutive::Range> rangesOf(const std::vector<TestData>& tests)
+{
+    std::map<Mode, vxConstitutive::Range> ranges;
+    for (const TestData& test : tests) {
+        if (test.abscissas.empty())
+            continue;
+        const auto [least, most] = std::minmax_element(test.abscissas.begin(), test.abscissas.end());
+        const auto [range, isNew] = ranges.emplace(test.mode, vxConstitutive::Range{*least, *most});
+        if (!isNew)
+            range->second = {std::min(range->second.from, *least), std::max(range->second.to, *most)};
+    }
+    return ranges;
+}
+
+/// Curves begin where the test begins: at stretch 1, or at 0.
+vxConstitutive::Range withStart(Mode mode, vxConstitutive::Range range)
+{
+    const bool isStretch = vxConstitutive::modeRecord(mode).abscissa == vxConstitutive::Quantity::Stretch;
+    const double start = isStretch ? 1.0 : 0.0;
+    if (mode == Mode::Volumetric)
+        range = {std::cbrt(range.from), std::cbrt(range.to)};
+    return {std::min(range.from, start), std::max(range.to, start)};
+}
+
+vxConstitutive::CurveRequest requestOf(Mode mode, const vxConstitutive::Range& range,
+                                       const std::vector<TestData>& tests)
+{
+    constexpr std::size_t count = 200;
+    vxConstitutive::CurveRequest request;
+    request.mode = mode;
+    request.abscissas = vxConstitutive::evenlySpaced(range.from, range.to, count);
+    request.compressibility = vxConstitutive::Compressibility::Incompressible;
+    for (const TestData& test : tests)
+        if (test.mode == Mode::Creep &&
+            std::find(request.stresses.begin(), request.stresses.end(), test.parameter) == request.stresses.end())
+            request.stresses.push_back(test.parameter);
+    if (mode == Mode::Volumetric)
+        request.compressibility = vxConstitutive::Compressibility::AsGiven;
+    return request;
+}
+
+} // namespace
+
+QString modelName(const FitResult& result)
+{
+    return QCoreApplication::translate("vxConstitutive", result.model.c_str());
+}
+
+TableContent testTable(const std::vector<LoadedTest>& tests)
+{
+    TableContent table{{}, {tr("Test"), tr("Kind"), tr("Points"), tr("Weight")}, {}};
+    for (const LoadedTest& test : tests)
+        table.rows.push_back(
+            {{textCell(QString::fromStdString(test.request.name)),
+              {test.mode ? modeText(*test.mode) : tr("to be chosen")},
+              {test.reading.data ? QString::number(test.reading.data->abscissas.size()) : QString(QChar(0x2013))},
+              {vxPlot::numberText(test.request.weight, digits)}}});
+    if (tests.empty())
+        table.headers.clear();
+    return table;
+}
+
+TableContent modelTable(const std::vector<FitResult>& results)
+{
+    TableContent table{{}, {tr("Model"), tr("Residual"), tr("R²"), tr("Without stability"), tr("Stable")}, {}};
+    for (const FitResult& result : results) {
+        const bool isDone = result.status != FitStatus::Failed;
+        table.rows.push_back(
+            {{textCell(modelName(result)),
+              {statusText(result)},
+              {isDone ? vxPlot::numberText(result.rSquared, digits) : QString()},
+              {result.residualWithoutStability ? percent(*result.residualWithoutStability) : QString()},
+              textCell(stableText(result))}});
+    }
+    if (results.empty())
+        table.headers.clear();
+    return table;
+}
+
+TableContent constantTable(const FitResult& result, const vxUnits::UnitSystem& system)
+{
+    TableContent table{{}, {tr("Constant"), tr("Value"), tr("Unit"), tr("Remark")}, {}};
+    for (const vxConstitutive::FittedConstant& constant : result.constants)
+        table.rows.push_back(constantRow(constant, system));
+    for (const vxConstitutive::TestAgreement& test : result.tests)
+        table.rows.push_back(agreementRow(test));
+    for (const vxConstitutive::Finding& finding : result.findings)
+        table.rows.push_back(findingRow(finding));
+    return table;
+}
+
+vxPlot::PlotData fitPlot(const std::vector<TestData>& tests, const std::vector<const FitResult*>& results,
+                         const vxUnits::UnitSystem& system)
+{
+    vxPlot::CurvePlotRequest request;
+    request.system = system;
+    request.translator = constitutiveTranslator();
+    std::deque<vxConstitutive::Curve> curves; // which does not move them
+    for (const auto& [mode, range] : rangesOf(tests))
+        for (const FitResult* const result : results) {
+            if (result->fitted == nullptr)
+                continue;
+            curves.push_back(result->fitted->curve(requestOf(mode, withStart(mode, range), tests)));
+            request.curves.push_back({modelName(*result).toStdString(), &curves.back()});
+        }
+    for (const TestData& test : tests)
+        request.tests.push_back({test.name, &test});
+    return vxPlot::curvePlot(request);
+}
+
+} // namespace vxInspector

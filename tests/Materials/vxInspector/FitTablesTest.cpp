@@ -1,0 +1,166 @@
+// Test data, fits and their tables, without the main window.
+
+#include "fit/FitTables.h"
+
+#include "Waiting.h"
+
+#include "fit/FitJob.h"
+#include "fit/LoadedTest.h"
+
+#include <QCoreApplication>
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using vxConstitutive::Mode;
+using vxInspector::LoadedTest;
+
+/// A tensile test of a Neo-Hookean rubber with C10 = 0.5 MPa.
+std::string rubberTable(const std::string& header = "stretch,nominal stress [MPa]\n")
+{
+    std::string text = header;
+    for (int i = 1; i <= 20; ++i) {
+        const double stretch = 1.0 + 0.1 * i;
+        text += std::to_string(stretch) + ',' + std::to_string(stretch - 1.0 / (stretch * stretch)) + '\n';
+    }
+    return text;
+}
+
+LoadedTest loaded(const std::string& text, Mode mode = Mode::Uniaxial)
+{
+    LoadedTest test = vxInspector::loadTest(QStringLiteral("a"), text);
+    test.mode = mode;
+    readAgain(test);
+    return test;
+}
+
+TEST(LoadedTestText, SaysWhatWasUnderstood)
+{
+    const std::string text = readingText(loaded(rubberTable())).toStdString();
+    EXPECT_THAT(text, HasSubstr("2 columns, 20 rows."));
+    EXPECT_THAT(text, HasSubstr("20 points: \"nominal stress\" as nominal stress in MPa against \"stretch\""));
+}
+
+TEST(LoadedTestText, AsksForTheTestFirst)
+{
+    const LoadedTest test = vxInspector::loadTest(QStringLiteral("a"), rubberTable());
+    EXPECT_FALSE(test.reading.data);
+    EXPECT_THAT(readingText(test).toStdString(), HasSubstr("Choose which test it is."));
+}
+
+TEST(LoadedTestText, AsksForTheUnitThatTheHeaderDoesNotTell)
+{
+    LoadedTest test = loaded(rubberTable("stretch,nominal stress\n"));
+    EXPECT_FALSE(test.reading.data);
+    EXPECT_THAT(readingText(test).toStdString(), HasSubstr("Enter the unit of the vertical axis."));
+    test.request.ordinate.unit = "MPa";
+    readAgain(test);
+    ASSERT_TRUE(test.reading.data);
+    EXPECT_NEAR(test.reading.data->ordinates.back(), (3.0 - 1.0 / 9.0) * 1e6, 1.0);
+}
+
+TEST(LoadedTestText, SaysThatATextHasNoNumbers)
+{
+    const LoadedTest test = loaded("nothing here\n");
+    EXPECT_FALSE(test.reading.data);
+    EXPECT_THAT(readingText(test).toStdString(), HasSubstr("0 columns"));
+}
+
+TEST(LoadedTestText, KnowsTheUnitsOfEachDimension)
+{
+    using vxConstitutive::Dimension;
+    EXPECT_EQ(vxInspector::unitFactor("MPa", Dimension::Stress), 1e6);
+    EXPECT_EQ(vxInspector::unitFactor("%", Dimension::Number), 0.01);
+    EXPECT_EQ(vxInspector::unitFactor("h", Dimension::Time), 3600.0);
+    EXPECT_NEAR(vxInspector::unitFactor("1/h", Dimension::Rate).value_or(0.0), 1.0 / 3600.0, 1e-15);
+    EXPECT_FALSE(vxInspector::unitFactor("MPa", Dimension::Time));
+    EXPECT_FALSE(vxInspector::unitFactor("furniture", Dimension::Stress));
+    EXPECT_FALSE(vxInspector::unitFactor("degC", Dimension::Number));
+}
+
+TEST(FitTables, ShowConstantsWithUnitsAndErrors)
+{
+    const auto results = vxInspector::fitAll(vxInspector::FitOrder{{*loaded(rubberTable()).reading.data}}, {});
+    ASSERT_EQ(results.size(), 4U);
+    for (const vxConstitutive::FitResult& result : results) {
+        if (result.model != "Neo-Hookean")
+            continue;
+        const auto table = vxInspector::constantTable(result, *vxUnits::UnitSystem::parse("mm-t-s"));
+        const auto& cells = table.rows.at(0).cells;
+        EXPECT_EQ(cells[0].text, "C10");
+        EXPECT_THAT(cells[1].text.toStdString(), testing::StartsWith("0.5"));
+        EXPECT_THAT(cells[1].text.toStdString(), HasSubstr(" ± "));
+        EXPECT_EQ(cells[2].text, "MPa");
+        return;
+    }
+    FAIL() << "there is no Neo-Hookean model";
+}
+
+TEST(FitTables, RankTheModelsWithTheirResiduals)
+{
+    const auto results = vxInspector::fitAll(vxInspector::FitOrder{{*loaded(rubberTable()).reading.data}}, {});
+    const auto table = vxInspector::modelTable(results);
+    ASSERT_EQ(table.rows.size(), 4U);
+    EXPECT_EQ(table.headers.size(), 5);
+    for (const vxInspector::Row& row : table.rows) {
+        EXPECT_THAT(row.cells[1].text.toStdString(), HasSubstr("%"));
+        EXPECT_THAT(row.cells[4].text.toStdString(), HasSubstr("uniaxial"));
+    }
+}
+
+TEST(FitTables, PlotTheTestBesideTheFittedCurve)
+{
+    const auto test = *loaded(rubberTable()).reading.data;
+    const auto results = vxInspector::fitAll(vxInspector::FitOrder{{test}}, {});
+    const auto plot = vxInspector::fitPlot({test}, {&results[0], &results[1]}, *vxUnits::UnitSystem::parse("mm-t-s"));
+    ASSERT_EQ(plot.series.size(), 3U);
+    EXPECT_EQ(plot.series[2].kind, vxPlot::SeriesKind::Symbols);
+    EXPECT_NEAR(plot.series[0].y.back(), 3.0 - 1.0 / 9.0, 1e-3);
+    EXPECT_NEAR(plot.series[2].y.back(), 3.0 - 1.0 / 9.0, 1e-5);
+}
+
+TEST(FitTables, FitTheModelsOfTheKindOfTheTests)
+{
+    std::string text = "time [s],strain\n";
+    for (int i = 1; i <= 10; ++i)
+        text += std::to_string(i * 1000) + ',' + std::to_string(i * 1e-4) + '\n';
+    LoadedTest creep = loaded(text, Mode::Creep);
+    EXPECT_THAT(readingText(creep).toStdString(), HasSubstr("Enter the stress of the creep test."));
+    creep.request.stress = 1e8;
+    creep.request.ordinate.unit = "1";
+    creep.request.ordinate.measure = vxConstitutive::Measure::CreepStrain;
+    readAgain(creep);
+    ASSERT_TRUE(creep.reading.data) << readingText(creep).toStdString();
+    EXPECT_EQ(vxInspector::fitAll(vxInspector::FitOrder{{*creep.reading.data}}, {}).size(), 1U);
+    EXPECT_THAT(vxInspector::fitAll(vxInspector::FitOrder{}, {}), IsEmpty());
+}
+
+TEST(FitJob, FitsBesideTheEventLoop)
+{
+    vxInspector::FitJob job(vxInspector::FitOrder{{*loaded(rubberTable()).reading.data}});
+    bool finished = false;
+    QObject::connect(&job, &vxInspector::FitJob::finished, [&finished] { finished = true; });
+    EXPECT_FALSE(finished);
+    ASSERT_TRUE(vxtest::waitFor([&finished] { return finished; }));
+    EXPECT_EQ(job.results().size(), 4U);
+    EXPECT_EQ(job.failure(), "");
+}
+
+TEST(FitJob, MayBeDeletedAtAnyMoment)
+{
+    const vxConstitutive::TestData test = *loaded(rubberTable()).reading.data;
+    for (int round = 0; round < 50; ++round) {
+        vxInspector::FitJob job(vxInspector::FitOrder{{test, test, test}});
+        if (round % 2 == 0)
+            job.cancel();
+    }
+    QCoreApplication::processEvents();
+}
+
+} // namespace

@@ -122,6 +122,7 @@ FitPage::FitPage(QWidget* parent)
     setObjectName(QStringLiteral("inspectorFit"));
     m_stable->setChecked(true);
     m_progress->setRange(0, 100);
+    m_testView->setMaximumHeight(m_testView->fontMetrics().lineSpacing() * 7);
     for (ContentView* const view : {m_testView, m_models, m_constants})
         view->setMinimumHeight(view->fontMetrics().lineSpacing() * 6);
     for (QPushButton* const button : {m_load, m_paste, m_remove, m_fit, m_cancel, m_apply})
@@ -274,7 +275,7 @@ void FitPage::retranslate()
     m_stressLabel->setBuddy(m_stress);
     m_weightLabel->setText(tr("&Weight:"));
     m_weightLabel->setBuddy(m_weight);
-    m_stable->setText(tr("&Keep rubber stable over the stretches of the tests"));
+    m_stable->setText(tr("&Keep rubber stable"));
     m_stable->setToolTip(tr("Without this, a fit may be unstable in tests that were not made."));
     m_fit->setText(tr("F&it"));
     m_cancel->setText(tr("&Cancel"));

@@ -142,6 +142,11 @@ FitPage::AxisControls FitPage::makeAxis(const char* name)
     AxisControls axis{new QLabel(m_form), makeChoice(m_form, own + QStringLiteral("Column")),
                       makeChoice(m_form, own + QStringLiteral("Measure")), new QLineEdit(m_form)};
     axis.unit->setObjectName(own + QStringLiteral("Unit"));
+    // The row must not be wider than the dock.
+    for (QWidget* const widget : std::initializer_list<QWidget*>{axis.column, axis.measure, axis.unit}) {
+        widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * 5);
+    }
     axis.label->setBuddy(axis.column);
     return axis;
 }
@@ -188,6 +193,7 @@ void FitPage::layOut()
         layout->addWidget(widget);
     layout->addLayout(rowOf({m_apply}));
     layout->addStretch(1);
+    content->setMinimumWidth(1); // it scrolls downwards only
     auto* const scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);

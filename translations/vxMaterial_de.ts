@@ -3889,6 +3889,271 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxInspector::FitApplying</name>
+    <message>
+        <source>Apply fit</source>
+        <translation>Anpassung übernehmen</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FitPage</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>Die Versuchsdaten können nicht verwendet werden</translation>
+    </message>
+    <message>
+        <source>The constants cannot be applied</source>
+        <translation>Die Konstanten können nicht übernommen werden</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>Measured quantity</source>
+        <translation>Gemessene Größe</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>The column of the file</source>
+        <translation>Die Spalte der Datei</translation>
+    </message>
+    <message>
+        <source>What the column measures</source>
+        <translation>Was die Spalte misst</translation>
+    </message>
+    <message>
+        <source>The unit of the column, such as MPa or %</source>
+        <translation>Die Einheit der Spalte, etwa MPa oder %</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>&amp;Laden…</translation>
+    </message>
+    <message>
+        <source>Load test data from a file with columns of numbers</source>
+        <translation>Versuchsdaten aus einer Datei mit Zahlenspalten laden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ein&amp;fügen</translation>
+    </message>
+    <message>
+        <source>Take columns of numbers from the clipboard</source>
+        <translation>Zahlenspalten aus der Zwischenablage übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Test:</source>
+        <translation>&amp;Versuch:</translation>
+    </message>
+    <message>
+        <source>Hori&amp;zontal:</source>
+        <translation>&amp;Waagerecht:</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical:</source>
+        <translation>&amp;Senkrecht:</translation>
+    </message>
+    <message>
+        <source>&amp;Stress:</source>
+        <translation>S&amp;pannung:</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>&amp;Gewicht:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep rubber stable</source>
+        <translation>Gummi stabil &amp;halten</translation>
+    </message>
+    <message>
+        <source>Without this, a fit may be unstable in tests that were not made.</source>
+        <translation>Ohne dies kann eine Anpassung in nicht gemachten Versuchen instabil sein.</translation>
+    </message>
+    <message>
+        <source>F&amp;it</source>
+        <translation>&amp;Anpassen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>Versuche</translation>
+    </message>
+    <message>
+        <source>Fitted models</source>
+        <translation>Angepasste Modelle</translation>
+    </message>
+    <message>
+        <source>Constants of the model</source>
+        <translation>Konstanten des Modells</translation>
+    </message>
+    <message>
+        <source>Choose the test</source>
+        <translation>Versuch wählen</translation>
+    </message>
+    <message>
+        <source>Load test data</source>
+        <translation>Versuchsdaten laden</translation>
+    </message>
+    <message>
+        <source>Test data (*.csv *.txt *.dat *.tsv);;All files (*)</source>
+        <translation>Versuchsdaten (*.csv *.txt *.dat *.tsv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than 200 MB and is not read.</source>
+        <translation>Die Datei „%1“ ist größer als 200 MB und wird nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>Test %1</source>
+        <translation>Versuch %1</translation>
+    </message>
+    <message>
+        <source> Pa</source>
+        <translation> Pa</translation>
+    </message>
+    <message>
+        <source>by its header</source>
+        <translation>nach der Überschrift</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>The result of the fit cannot be shown</source>
+        <translation>Das Ergebnis der Anpassung kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>The fit has failed: %1</source>
+        <translation>Die Anpassung ist gescheitert: %1</translation>
+    </message>
+    <message>
+        <source>Load test data from a file, or paste columns of numbers, to fit the constants of models to them.</source>
+        <translation>Laden Sie Versuchsdaten aus einer Datei oder fügen Sie Zahlenspalten ein, um Konstanten von Modellen daran anzupassen.</translation>
+    </message>
+    <message>
+        <source>&amp;Apply to &quot;%1&quot;</source>
+        <translation>Auf „%1“ &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message>
+        <source>Write the constants of the selected model into the material. The change can be undone.</source>
+        <translation>Die Konstanten des ausgewählten Modells in das Material schreiben. Die Änderung kann rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Select a material that gets the constants.</source>
+        <translation>Wählen Sie ein Material aus, das die Konstanten erhält.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FitTables</name>
+    <message>
+        <source>%1 %2 to %3</source>
+        <translation>%1 %2 bis %3</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>gescheitert</translation>
+    </message>
+    <message>
+        <source>poorly determined</source>
+        <translation>schlecht bestimmt</translation>
+    </message>
+    <message>
+        <source>at its bound</source>
+        <translation>an seiner Grenze</translation>
+    </message>
+    <message>
+        <source>not determined by the data</source>
+        <translation>von den Daten nicht bestimmt</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>festgehalten</translation>
+    </message>
+    <message>
+        <source>R² %1, %2 points</source>
+        <translation>R² %1, %2 Punkte</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Versuch</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Gewicht</translation>
+    </message>
+    <message>
+        <source>to be chosen</source>
+        <translation>zu wählen</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Residual</source>
+        <translation>Restfehler</translation>
+    </message>
+    <message>
+        <source>R²</source>
+        <translation>R²</translation>
+    </message>
+    <message>
+        <source>Without stability</source>
+        <translation>Ohne Stabilität</translation>
+    </message>
+    <message>
+        <source>Stable</source>
+        <translation>Stabil</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Konstante</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::Inspector</name>
     <message>
         <source>The inspector cannot be updated</source>
@@ -3926,6 +4191,10 @@ Trotzdem löschen?</translation>
         <source>Curves</source>
         <translation>Kurven</translation>
     </message>
+    <message>
+        <source>Fit</source>
+        <translation>Anpassung</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::InspectorDock</name>
@@ -3936,6 +4205,61 @@ Trotzdem löschen?</translation>
     <message>
         <source>The inspector cannot be updated</source>
         <translation>Der Inspektor kann nicht aktualisiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::LoadedTest</name>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>%1 as %2 in %3</source>
+        <translation>%1 als %2 in %3</translation>
+    </message>
+    <message>
+        <source>Enter the stress of the creep test.</source>
+        <translation>Geben Sie die Spannung des Kriechversuchs ein.</translation>
+    </message>
+    <message>
+        <source>Choose the column of the horizontal axis.</source>
+        <translation>Wählen Sie die Spalte der waagerechten Achse.</translation>
+    </message>
+    <message>
+        <source>Choose the column of the vertical axis.</source>
+        <translation>Wählen Sie die Spalte der senkrechten Achse.</translation>
+    </message>
+    <message>
+        <source>Choose what the column of the horizontal axis measures.</source>
+        <translation>Wählen Sie, was die Spalte der waagerechten Achse misst.</translation>
+    </message>
+    <message>
+        <source>Choose what the column of the vertical axis measures.</source>
+        <translation>Wählen Sie, was die Spalte der senkrechten Achse misst.</translation>
+    </message>
+    <message>
+        <source>Enter the unit of the horizontal axis.</source>
+        <translation>Geben Sie die Einheit der waagerechten Achse ein.</translation>
+    </message>
+    <message>
+        <source>Enter the unit of the vertical axis.</source>
+        <translation>Geben Sie die Einheit der senkrechten Achse ein.</translation>
+    </message>
+    <message>
+        <source>%1 columns, %2 rows.</source>
+        <translation>%1 Spalten, %2 Zeilen.</translation>
+    </message>
+    <message>
+        <source>Choose which test it is.</source>
+        <translation>Wählen Sie, welcher Versuch es ist.</translation>
+    </message>
+    <message>
+        <source>%1 points: %2 against %3.</source>
+        <translation>%1 Punkte: %2 über %3.</translation>
     </message>
 </context>
 <context>

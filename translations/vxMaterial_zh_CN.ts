@@ -3888,6 +3888,271 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxInspector::FitApplying</name>
+    <message>
+        <source>Apply fit</source>
+        <translation>应用拟合</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FitPage</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>无法使用试验数据</translation>
+    </message>
+    <message>
+        <source>The constants cannot be applied</source>
+        <translation>无法应用常数</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Measured quantity</source>
+        <translation>测量的量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>The column of the file</source>
+        <translation>文件中的列</translation>
+    </message>
+    <message>
+        <source>What the column measures</source>
+        <translation>该列测量的量</translation>
+    </message>
+    <message>
+        <source>The unit of the column, such as MPa or %</source>
+        <translation>该列的单位，例如 MPa 或 %</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>加载(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Load test data from a file with columns of numbers</source>
+        <translation>从含数字列的文件加载试验数据</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Take columns of numbers from the clipboard</source>
+        <translation>从剪贴板获取数字列</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Test:</source>
+        <translation>试验(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Hori&amp;zontal:</source>
+        <translation>水平(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical:</source>
+        <translation>垂直(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>&amp;Stress:</source>
+        <translation>应力(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>权重(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Keep rubber stable</source>
+        <translation>保持橡胶稳定(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Without this, a fit may be unstable in tests that were not made.</source>
+        <translation>否则，拟合在未进行的试验中可能不稳定。</translation>
+    </message>
+    <message>
+        <source>F&amp;it</source>
+        <translation>拟合(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>试验</translation>
+    </message>
+    <message>
+        <source>Fitted models</source>
+        <translation>已拟合的模型</translation>
+    </message>
+    <message>
+        <source>Constants of the model</source>
+        <translation>模型的常数</translation>
+    </message>
+    <message>
+        <source>Choose the test</source>
+        <translation>选择试验</translation>
+    </message>
+    <message>
+        <source>Load test data</source>
+        <translation>加载试验数据</translation>
+    </message>
+    <message>
+        <source>Test data (*.csv *.txt *.dat *.tsv);;All files (*)</source>
+        <translation>试验数据 (*.csv *.txt *.dat *.tsv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than 200 MB and is not read.</source>
+        <translation>文件“%1”大于 200 MB，未读取。</translation>
+    </message>
+    <message>
+        <source>Test %1</source>
+        <translation>试验 %1</translation>
+    </message>
+    <message>
+        <source> Pa</source>
+        <translation> Pa</translation>
+    </message>
+    <message>
+        <source>by its header</source>
+        <translation>按标题</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>第 %1 列</translation>
+    </message>
+    <message>
+        <source>The result of the fit cannot be shown</source>
+        <translation>无法显示拟合结果</translation>
+    </message>
+    <message>
+        <source>The fit has failed: %1</source>
+        <translation>拟合失败：%1</translation>
+    </message>
+    <message>
+        <source>Load test data from a file, or paste columns of numbers, to fit the constants of models to them.</source>
+        <translation>从文件加载试验数据或粘贴数字列，以便据此拟合模型的常数。</translation>
+    </message>
+    <message>
+        <source>&amp;Apply to &quot;%1&quot;</source>
+        <translation>应用到“%1”(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Write the constants of the selected model into the material. The change can be undone.</source>
+        <translation>将所选模型的常数写入材料。此更改可以撤销。</translation>
+    </message>
+    <message>
+        <source>Select a material that gets the constants.</source>
+        <translation>请选择接收常数的材料。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::FitTables</name>
+    <message>
+        <source>%1 %2 to %3</source>
+        <translation>%1 %2 至 %3</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>poorly determined</source>
+        <translation>确定性差</translation>
+    </message>
+    <message>
+        <source>at its bound</source>
+        <translation>处于边界</translation>
+    </message>
+    <message>
+        <source>not determined by the data</source>
+        <translation>数据无法确定</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>R² %1, %2 points</source>
+        <translation>R² %1，%2 个点</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>试验</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点数</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>权重</translation>
+    </message>
+    <message>
+        <source>to be chosen</source>
+        <translation>待选择</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>模型</translation>
+    </message>
+    <message>
+        <source>Residual</source>
+        <translation>残差</translation>
+    </message>
+    <message>
+        <source>R²</source>
+        <translation>R²</translation>
+    </message>
+    <message>
+        <source>Without stability</source>
+        <translation>不要求稳定</translation>
+    </message>
+    <message>
+        <source>Stable</source>
+        <translation>稳定</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>常数</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::Inspector</name>
     <message>
         <source>The inspector cannot be updated</source>
@@ -3925,6 +4190,10 @@ Delete anyway?</source>
         <source>Curves</source>
         <translation>曲线</translation>
     </message>
+    <message>
+        <source>Fit</source>
+        <translation>拟合</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::InspectorDock</name>
@@ -3935,6 +4204,61 @@ Delete anyway?</source>
     <message>
         <source>The inspector cannot be updated</source>
         <translation>无法更新检查器</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::LoadedTest</name>
+    <message>
+        <source>column %1</source>
+        <translation>第 %1 列</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>%1 as %2 in %3</source>
+        <translation>%1 作为%2，单位 %3</translation>
+    </message>
+    <message>
+        <source>Enter the stress of the creep test.</source>
+        <translation>请输入蠕变试验的应力。</translation>
+    </message>
+    <message>
+        <source>Choose the column of the horizontal axis.</source>
+        <translation>请选择水平轴的列。</translation>
+    </message>
+    <message>
+        <source>Choose the column of the vertical axis.</source>
+        <translation>请选择垂直轴的列。</translation>
+    </message>
+    <message>
+        <source>Choose what the column of the horizontal axis measures.</source>
+        <translation>请选择水平轴的列所测量的量。</translation>
+    </message>
+    <message>
+        <source>Choose what the column of the vertical axis measures.</source>
+        <translation>请选择垂直轴的列所测量的量。</translation>
+    </message>
+    <message>
+        <source>Enter the unit of the horizontal axis.</source>
+        <translation>请输入水平轴的单位。</translation>
+    </message>
+    <message>
+        <source>Enter the unit of the vertical axis.</source>
+        <translation>请输入垂直轴的单位。</translation>
+    </message>
+    <message>
+        <source>%1 columns, %2 rows.</source>
+        <translation>%1 列，%2 行。</translation>
+    </message>
+    <message>
+        <source>Choose which test it is.</source>
+        <translation>请选择这是哪种试验。</translation>
+    </message>
+    <message>
+        <source>%1 points: %2 against %3.</source>
+        <translation>%1 个点：%2 对 %3。</translation>
     </message>
 </context>
 <context>

@@ -21,7 +21,6 @@ using vxConstitutive::Column;
 using vxConstitutive::Curve;
 using vxConstitutive::Mode;
 using vxConstitutive::Quantity;
-using vxConstitutive::TestData;
 
 // The names that quantities of their own have are translated in the context "vxConstitutive".
 const std::vector<Ordinates> ordinatesOfStretch{

@@ -176,7 +176,7 @@ private:
     {
         if (m_materials.size() == 1)
             m_content.sentence = materialSentence(m_materials.front().inspected);
-        const std::size_t without = static_cast<std::size_t>(
+        const auto without = static_cast<std::size_t>(
             std::count_if(m_materials.begin(), m_materials.end(),
                           [](const Modelled& modelled) { return modelled.models.models.empty(); }));
         const auto append = [this](const QString& sentence) {

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <boost/container_hash/hash.hpp>
 #include <json/writer.h>
 
 #include <functional>
@@ -45,6 +46,7 @@ Look Look::of(Obj::ProjectObject& object)
         look.links.push_back(other->getObjectId());
     look.node = recordNode(object);
     look.content = hashOfContent(object);
+    look.settings = boost::hash_value(object.getSettings());
     return look;
 }
 

@@ -32,13 +32,14 @@ struct Look
     std::uint32_t group = 0; ///< the id of the group that contains the object; 0 for none
     std::vector<std::uint32_t> links;
     Json::Value node;
-    std::size_t content = 0; ///< a hash of its text
+    std::size_t content = 0;  ///< a hash of its text
+    std::size_t settings = 0; ///< a hash of their texts
 
     static Look of(Obj::ProjectObject& object);
     friend bool operator==(const Look& a, const Look& b)
     {
         return a.suppressed == b.suppressed && a.group == b.group && a.links == b.links && a.node == b.node &&
-               a.content == b.content;
+               a.content == b.content && a.settings == b.settings;
     }
 };
 

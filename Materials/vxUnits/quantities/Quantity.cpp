@@ -214,11 +214,11 @@ const Quantity* findQuantity(std::int32_t id)
 
 std::optional<CreepExponents> creepExponents(const vxMat::MaterialBase& material)
 {
-    const auto number = [&material](std::int32_t id) {
+    const auto valueOf = [&material](std::int32_t id) {
         double value = 0.0;
         return material.getPropertyValue(id, value) ? std::optional<double>(value) : std::nullopt;
     };
-    const CreepExponents exponents{number(Id::CreepModulusN), number(Id::CreepModulusM)};
+    const CreepExponents exponents{valueOf(Id::CreepModulusN), valueOf(Id::CreepModulusM)};
     return exponents.n || exponents.m ? std::optional<CreepExponents>(exponents) : std::nullopt;
 }
 

@@ -126,8 +126,8 @@ TEST_F(CurveOfProject, LeavesTheCellEmptyWhereThereIsNoValueAndSaysSo)
     const Outcome run = vxmat({"curve", file(), "--mode", "uniaxial", "--at", "0, 1, -2"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "stretch [1],nominal stress [Pa],true stress [Pa]\n0,,\n1,0,0\n-2,,\n");
-    EXPECT_EQ(run.err,
-              "vxmat: " + file() + ": 1 Rubber: The model has no value at 2 points; the first has the stretch 0.\n");
+    EXPECT_EQ(run.err, "vxmat: " + file() +
+                           ": 1 Rubber: The model has no value at 2 points. At the first of them, the stretch is 0.\n");
 }
 
 TEST_F(CurveOfProject, IsNotWrittenIfNothingCanBeDrawn)

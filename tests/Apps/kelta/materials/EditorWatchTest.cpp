@@ -108,19 +108,18 @@ TEST_F(AppliedEdits, HaveTheUnitsAndCategoriesOfTheCatalogue)
     EXPECT_EQ(held.category, vxMat::ePropertyCategory::LinearElastic);
 }
 
-TEST_F(AppliedEdits, AreRefusedIfTextAfterANumberWouldBeIgnored)
+TEST_F(AppliedEdits, AreRefusedIfTheUnitOfANumberIsNotKnown)
 {
     MatGui::MaterialView& editor = edit(steel);
     // A cell stores the number alone; recovery copies of earlier versions can have such a text.
     auto* const table = editor.findChild<MatGui::SheetTableView*>();
-    table->model()->setData(table->model()->index(table->findRow(modulus), MatGui::SheetTableView::Value), "210 GPa");
+    table->model()->setData(table->model()->index(table->findRow(modulus), MatGui::SheetTableView::Value), "210 giga");
     const MessageBoxes boxes;
     apply(editor);
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_THAT(
         boxes.shown().front().text.toStdString(),
-        HasSubstr("The value \"210 GPa\" of \"Young's modulus\" would be read as \"210\": \"GPa\" is not part of "
-                  "the number. Type the value in Pa, without a unit."));
+        HasSubstr("The value \"210 giga\" of \"Young's modulus\" cannot be read. The unit \"giga\" is not known."));
     EXPECT_EQ(modulusOf(steel), 2e11);
     EXPECT_EQ(history().count(), stepsBefore);
     EXPECT_EQ(table->currentIndex().row(), table->findRow(modulus));

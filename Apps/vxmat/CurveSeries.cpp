@@ -22,7 +22,6 @@ namespace {
 
 using vxConstitutive::Finding;
 using vxConstitutive::Model;
-using vxConstitutive::ModelKind;
 using vxMat::PropertyId;
 
 /// The switches of the models, in the order in which their curves are drawn.

@@ -186,7 +186,7 @@ void writeColumn(const Column& column, const UnitSystem& system, PartedText& tex
 
 std::string nameOfColumn(const Column& column, const UnitSystem& system)
 {
-    const std::string name = vxConstitutive::columnName({column.quantity, {}, column.relative, std::nullopt, {}});
+    std::string name = vxConstitutive::columnName({column.quantity, {}, column.relative, std::nullopt, {}});
     if (!column.parameter)
         return name;
     const ShownUnit unit = showIn(system, column.quantity == Quantity::CreepStrainRate ? "s" : "Pa");

@@ -312,7 +312,11 @@ void TestReader::refuse(const TestName& name, const TestTable& table, const Test
         const std::string option = question.axis == Axis::Abscissa ? "--x" : "--y";
         std::string columns;
         for (std::size_t i = 0; i < table.columns.size(); ++i)
-            columns += (i == 0 ? "" : ", ") + std::to_string(i + 1) + " \"" + table.columns[i].name + "\"";
+            columns.append(i == 0 ? "" : ", ")
+                .append(std::to_string(i + 1))
+                .append(" \"")
+                .append(table.columns[i].name)
+                .append("\"");
         switch (question.kind) {
         case QuestionKind::WhichColumn:
             hint(name, option + "-column gives the column by its name or number: " + columns);

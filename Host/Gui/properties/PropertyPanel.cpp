@@ -41,8 +41,8 @@ QColor swatchOf(const Obj::Property& property)
 /// Returns the colour of a value that cannot be changed: paler than other texts, but readable, unlike disabled text.
 QColor paleText(const QPalette& colors)
 {
-    const QColor text = colors.color(QPalette::Text);
-    const QColor base = colors.color(QPalette::Base);
+    const QColor& text = colors.color(QPalette::Text);
+    const QColor& base = colors.color(QPalette::Base);
     const auto mixed = [](int one, int other) { return (13 * one + 7 * other) / 20; };
     return {mixed(text.red(), base.red()), mixed(text.green(), base.green()), mixed(text.blue(), base.blue())};
 }

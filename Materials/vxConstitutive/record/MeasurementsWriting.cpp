@@ -61,7 +61,7 @@ public:
     void writeObject(const WriteMembers& writeMembers)
     {
         m_writer.beginObject(JsonLayout::Line);
-        writeMembers([this](const char* name, const auto& field) { writeMember(name, field); });
+        writeMembers([this](const char* name, const auto& field) { this->writeMember(name, field); });
         m_writer.endObject();
     }
 

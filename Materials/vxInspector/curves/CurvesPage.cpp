@@ -137,8 +137,8 @@ void CurvesPage::layOut()
 
 void CurvesPage::connectControls()
 {
-    const auto guard = [this](auto action) {
-        return [this, action] { Kelta::guarded(tr("The curves cannot be drawn"), action); };
+    const auto guard = [](auto action) {
+        return [action] { Kelta::guarded(tr("The curves cannot be drawn"), action); };
     };
     connect(m_ordinates, QOverload<int>::of(&QComboBox::activated), this, guard([this] {
                 m_settings.ordinates = static_cast<std::size_t>(std::max(m_ordinates->currentIndex(), 0));

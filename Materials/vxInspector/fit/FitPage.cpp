@@ -249,7 +249,7 @@ void FitPage::connectAxis(const AxisControls& axis, ColumnChoice TestReadRequest
         test->request.*choice = chosen;
         readCurrent(*test);
     };
-    const auto guarded = [this, change] { Kelta::guarded(tr("The test data cannot be used"), change); };
+    const auto guarded = [change] { Kelta::guarded(tr("The test data cannot be used"), change); };
     connect(axis.column, QOverload<int>::of(&QComboBox::activated), this, guarded);
     connect(axis.measure, QOverload<int>::of(&QComboBox::activated), this, guarded);
     connect(axis.unit, &QLineEdit::editingFinished, this, guarded);

@@ -99,7 +99,7 @@ struct Conversion
     }
 };
 
-/// A unit that cannot be read is kept.
+/// A unit that cannot be read is kept, and so is one whose numbers do not change: a frequency in Hz is not shown in 1/s.
 Conversion conversionOf(const std::string& unitInSi, const vxUnits::UnitSystem& system)
 {
     const auto from = vxUnits::Unit::parse(unitInSi);
@@ -107,7 +107,8 @@ Conversion conversionOf(const std::string& unitInSi, const vxUnits::UnitSystem& 
         return {unitInSi};
     const vxUnits::Unit to = system.unitOf(from->dimension());
     const auto converter = vxUnits::Converter::between(*from, to);
-    return converter ? Conversion{to.text(), *converter} : Conversion{unitInSi};
+    const bool isSame = !converter || (*converter)(1.0) == 1.0;
+    return isSame ? Conversion{unitInSi} : Conversion{to.text(), *converter};
 }
 
 /// Makes one plot.
@@ -236,7 +237,7 @@ private:
         std::string name =
             m_materials.size() > 1 || (m_modes.size() < 2 && m_columns.size() < 2) ? drawn.named.name : std::string();
         const auto append = [&name](const std::string& part) { name += (name.empty() ? "" : ", ") + part; };
-        if (m_modes.size() > 1 || name.empty())
+        if (m_modes.size() > 1 || (name.empty() && m_columns.size() < 2))
             append(shortModeName(drawn.named.curve->mode, m_request.translator));
         if (m_columns.size() > 1)
             append(columnName(drawn.column));

@@ -59,6 +59,13 @@ Collected collect(const DeckRequest& request, const MaterialNames& names, Answer
     return collected;
 }
 
+/// Checks that a deck replaces no project, whose materials would be lost.
+void requireNoProject(const std::string& output)
+{
+    if (output != standardStream && isProjectFile(output))
+        throw Failure(output + ": this file is a project, which the deck would replace; give another name");
+}
+
 const vxDecks::FormatInfo& findSolver(const std::string& name)
 {
     if (const vxDecks::FormatInfo* const format = vxDecks::findFormat(name))
@@ -127,6 +134,7 @@ Answer writeSolverDeck(const DeckRequest& request, Form form)
 {
     const vxDecks::FormatInfo& format = findSolver(request.solver);
     const vxDecks::DeckOptions options = optionsOf(request);
+    requireNoProject(request.output);
     Answer answer;
     const MaterialNames names;
     const Collected collected = collect(request, names, answer);

@@ -56,7 +56,8 @@ std::string MaterialNames::unknown(const std::string& name) const
 
 std::string MaterialNames::unknownNameOrFile(const std::string& name) const
 {
-    return unknown(name) + " There is no file of that name either.";
+    const std::string text = unknown(name);
+    return text + (text.back() == '?' ? "" : ".") + " There is no file of that name either.";
 }
 
 } // namespace commandline

@@ -38,6 +38,22 @@ TEST(Deck, OfAProjectIsWrittenToAFileAndReportedAsJson)
     EXPECT_EQ(vxmatJson({"deck", project, "--solver", "calculix", "--json"})["deck"], vxtest::readText(deck));
 }
 
+TEST(Deck, ReplacesADeckButNoProject)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", project}).status, 0);
+    const std::string before = vxtest::readText(project);
+    const Outcome run = vxmat({"deck", "Concrete", "--solver", "apdl", "-o", project});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err,
+              "vxmat: " + project + ": this file is a project, which the deck would replace; give another name\n");
+    EXPECT_EQ(vxtest::readText(project), before);
+    const std::string deck = folder.file("old.mac", "! an older deck\n");
+    EXPECT_EQ(vxmat({"deck", "Concrete", "--solver", "apdl", "-o", deck}).status, 0);
+    EXPECT_THAT(vxtest::readText(deck), HasSubstr("MP,DENS,1,2300\n"));
+}
+
 TEST(Deck, IsAFindingIfAModelOfTheFormatCannotBeWritten)
 {
     const Outcome run = vxmat({"deck", "Plastic Example 2", "--solver", "calculix"});

@@ -189,7 +189,10 @@ TEST(Export, RefusesFilesThatAreNotProjects)
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.err, "vxmat: " + document + ": not a project file; give library materials or project files\n");
     EXPECT_THAT(vxmat({"export", "./missing", "-o", "-"}).err, HasSubstr("vxmat: ./missing: No such file"));
-    EXPECT_THAT(vxmat({"export", "missing", "-o", "-"}).err, HasSubstr("There is no file of that name either."));
+    EXPECT_THAT(vxmat({"export", "missing", "-o", "-"}).err,
+                HasSubstr(R"("vxmat library" lists them. There is no file of that name either.)"));
+    EXPECT_THAT(vxmat({"export", "Concret", "-o", "-"}).err,
+                HasSubstr(R"(did you mean "Concrete"? There is no file of that name either.)"));
     EXPECT_THAT(folder.names(), ElementsAre("d.json"));
 }
 

@@ -319,7 +319,8 @@ void TestReader::refuse(const TestName& name, const TestTable& table, const Test
                 .append("\"");
         switch (question.kind) {
         case QuestionKind::WhichColumn:
-            hint(name, option + "-column gives the column by its name or number: " + columns);
+            columns.insert(0, option + "-column gives the column by its name or number: ");
+            hint(name, columns);
             break;
         case QuestionKind::WhichMeasure:
             hint(name, option + "-measure gives what is measured: " + keysOf(measuresOf(question.axis, name.mode)));

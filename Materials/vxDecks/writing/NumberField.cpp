@@ -65,7 +65,7 @@ std::string withoutExponent(const Digits& all)
     const auto count = static_cast<int>(all.digits.size());
     if (all.exponent < 0)
         return all.sign + "." + std::string(static_cast<std::size_t>(-all.exponent - 1), '0') + all.digits;
-    const auto whole = static_cast<std::size_t>(all.exponent + 1);
+    const auto whole = static_cast<std::size_t>(all.exponent) + 1;
     if (all.exponent + 1 >= count)
         return all.sign + all.digits + std::string(whole - all.digits.size(), '0') + ".";
     return all.sign + all.digits.substr(0, whole) + "." + all.digits.substr(whole);

@@ -25,7 +25,7 @@ struct ModeUse
 {
     Range ofRubber;
     Range ofOthers;
-    UsualScales scales;
+    UsualScales scales{};
 };
 
 // In the order of Mode. Linear elasticity is for small strains; creep is measured over 1000 hours.

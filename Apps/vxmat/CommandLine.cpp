@@ -339,7 +339,7 @@ void CommandLine::addCurve()
         "curve",
         "Print stress, strain or modulus of materials in a test, as comma-separated values, or write them to "
         "a file",
-        R"(vxmat curve "Elastomer Mooney-Rivlin" --mode uniaxial --from 0.5 --to 3 --points 26)",
+        R"#(vxmat curve "Elastomer 2 (Mooney-Rivlin)" --mode uniaxial --from 0.5 --to 3 --points 26)#",
         [this] { return printCurves(m_curve, form(), units(), existing()); });
     command
         ->add_option("NAME|FILE", m_curve.sources,

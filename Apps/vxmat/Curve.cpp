@@ -72,7 +72,7 @@ Answer printCurves(const CurveArguments& arguments, Form form, const ChosenUnits
             requireAnotherFile(source, arguments.output);
     }
     Answer answer;
-    const std::vector<CurveSeries> series = drawSeries(choiceOf(arguments), request, answer);
+    const std::vector<CurveSeries> series = drawSeries(choiceOf(arguments), request, units.system(), answer);
     if (series.empty()) {
         answer.status = Status::Findings;
         return answer;

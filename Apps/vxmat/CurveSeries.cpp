@@ -60,8 +60,9 @@ bool hasMode(const Model& model, vxConstitutive::Mode mode)
 class Drawing
 {
 public:
-    Drawing(const CurveChoice& choice, const vxConstitutive::CurveRequest& request, Answer& answer)
-        : m_choice(choice), m_request(request), m_answer(answer)
+    Drawing(const CurveChoice& choice, const vxConstitutive::CurveRequest& request, const vxUnits::UnitSystem& system,
+            Answer& answer)
+        : m_choice(choice), m_request(request), m_system(system), m_answer(answer)
     {}
 
     void add(const std::string& source, std::optional<std::uint32_t> number, const std::string& label,
@@ -75,6 +76,7 @@ private:
 
     const CurveChoice& m_choice;
     const vxConstitutive::CurveRequest& m_request;
+    const vxUnits::UnitSystem& m_system;
     Answer& m_answer;
     std::vector<CurveSeries> m_series;
 };
@@ -98,7 +100,7 @@ void Drawing::add(const std::string& source, std::optional<std::uint32_t> number
         vxMat::MaterialBase copy;
         vxConstitutive::MaterialModels models = vxConstitutive::modelsOf(reduceTo(modelSwitch, material, copy));
         if (models.models.empty())
-            m_answer.add(messagesAbout(title, models.findings));
+            m_answer.add(messagesAbout(title, models.findings, m_system));
         for (const auto& model : models.models) {
             if (m_choice.model && model->kind() != *m_choice.model)
                 continue;
@@ -120,7 +122,7 @@ void Drawing::draw(const Model& model, CurveSeries series)
     std::vector<Finding> own = std::move(series.curve.findings);
     series.curve.findings.clear();
     series.findings.insert(series.findings.end(), own.begin(), own.end());
-    m_answer.add(messagesAbout(nameIn(series.source, series.number, series.material), series.findings));
+    m_answer.add(messagesAbout(nameIn(series.source, series.number, series.material), series.findings, m_system));
     if (hasValue(series.curve))
         m_series.push_back(std::move(series));
 }
@@ -214,15 +216,16 @@ void addTitles(std::vector<CurveSeries>& series)
     addToRepeated(series, [](const CurveSeries& one) { return std::string(modelRecord(one.model).name); });
     addToRepeated(series, [](const CurveSeries& one) { return one.number ? std::to_string(*one.number) : ""; });
     addToRepeated(series, [](const CurveSeries& one) { return printable(one.source); });
+    addToRepeated(series, [&series](const CurveSeries& one) { return std::to_string(&one - series.data() + 1); });
 }
 
 } // namespace
 
 std::vector<CurveSeries> drawSeries(const CurveChoice& choice, const vxConstitutive::CurveRequest& request,
-                                    Answer& answer)
+                                    const vxUnits::UnitSystem& system, Answer& answer)
 {
     const MaterialNames names;
-    Drawing drawing(choice, request, answer);
+    Drawing drawing(choice, request, system, answer);
     Selection selection(choice.materials);
     for (const std::string& source : choice.sources) {
         if (const auto type = names.find(source))

@@ -4,6 +4,7 @@
 
 #include "vxConstitutive/Curve.h"
 #include "vxConstitutive/Model.h"
+#include "vxUnits/UnitSystem.h"
 
 #include <cstdint>
 #include <optional>
@@ -22,7 +23,7 @@ struct CurveSeries
     std::vector<vxConstitutive::Constant> constants;
     std::vector<vxConstitutive::Finding> findings; ///< about the constants and the curve
     vxConstitutive::Curve curve;                   ///< its findings have moved to `findings`
-    std::string title; ///< the shortest name that no other curve has: label, model, number and file
+    std::string title; ///< the shortest name that no other curve has: label, model, number, file and position
 };
 
 /// Which curves are drawn.
@@ -34,9 +35,9 @@ struct CurveChoice
 };
 
 /// Computes a curve of each model of each material that has a response in the mode. Adds to `answer` the findings, and
-/// why a material has no curve. Curves without a finite value are left out.
+/// why a material has no curve, with numbers in the units of `system`. Curves without a finite value are left out.
 /// \throws Failure for an unknown name, a file that cannot be read, a material that no file has
 std::vector<CurveSeries> drawSeries(const CurveChoice& choice, const vxConstitutive::CurveRequest& request,
-                                    Answer& answer);
+                                    const vxUnits::UnitSystem& system, Answer& answer);
 
 } // namespace commandline

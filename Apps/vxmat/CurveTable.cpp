@@ -159,7 +159,7 @@ Json::Value headOf(const CurveSeries& series, const UnitSystem& system)
     json["model"] = modelRecord(series.model).key;
     json["constants"] = constantsOf(series, system);
     json["unstable"] = rangesOf(series, system);
-    json["findings"] = findingsToJson(series.findings);
+    json["findings"] = findingsToJson(series.findings, system);
     return json;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vxConstitutive/Finding.h"
+#include "vxUnits/UnitSystem.h"
 
 #include <json/value.h>
 
@@ -10,10 +11,11 @@
 namespace commandline {
 
 /// Returns the messages about findings for standard error, each with the text `title` of its subject in front. A finding
-/// that is only worth knowing begins with "note: ".
-std::vector<std::string> messagesAbout(const std::string& title, const std::vector<vxConstitutive::Finding>& findings);
+/// that is only worth knowing begins with "note: ". Stresses and times are in the units of `system`.
+std::vector<std::string> messagesAbout(const std::string& title, const std::vector<vxConstitutive::Finding>& findings,
+                                       const vxUnits::UnitSystem& system);
 
 /// Returns findings for --json: id, severity ("note", "warning", "error") and message.
-Json::Value findingsToJson(const std::vector<vxConstitutive::Finding>& findings);
+Json::Value findingsToJson(const std::vector<vxConstitutive::Finding>& findings, const vxUnits::UnitSystem& system);
 
 } // namespace commandline

@@ -72,7 +72,7 @@ Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& un
         answer.status = Status::Interrupted;
         return answer;
     }
-    answer.add(messagesAbout(*results));
+    answer.add(messagesAbout(*results, units.system()));
     const FitResult& best = results->front();
     if (!isUsable(best)) {
         answer.messages.emplace_back("no model with constants that a solver can use could be fitted");

@@ -92,6 +92,29 @@ ShownConstant show(const FittedConstant& constant, const FitResult& result, cons
     return {convert(constant.value), shownError(convert), unit.text()};
 }
 
+/// Returns the constant with a symbol; null if there is none.
+const FittedConstant* findConstant(const FitResult& result, const std::string& symbol)
+{
+    const auto found = std::find_if(result.constants.begin(), result.constants.end(),
+                                    [&](const FittedConstant& constant) { return constant.symbol == symbol; });
+    return found == result.constants.end() ? nullptr : &*found;
+}
+
+/// Returns the findings of a fit; a bound that a constant reached is in the unit of the constant.
+std::vector<Finding> shownFindings(const FitResult& result, const UnitSystem& system)
+{
+    std::vector<Finding> findings = result.findings;
+    for (Finding& finding : findings) {
+        if (finding.id != vxConstitutive::FindingId::AtBound)
+            continue;
+        if (const FittedConstant* const constant = findConstant(result, finding.arguments[0])) {
+            const ShownConstant bound = show(*constant, result, system);
+            finding.arguments[1] = rounded(bound.value) + (bound.unit == "1" ? "" : " " + bound.unit);
+        }
+    }
+    return findings;
+}
+
 /// Returns the unit of SI of what is measured in a mode.
 const char* ordinateUnitOf(vxConstitutive::Mode mode)
 {
@@ -163,13 +186,6 @@ std::vector<std::string> symbolsOf(const std::vector<FitResult>& results)
         }
     }
     return symbols;
-}
-
-const FittedConstant* findConstant(const FitResult& result, const std::string& symbol)
-{
-    const auto found = std::find_if(result.constants.begin(), result.constants.end(),
-                                    [&](const FittedConstant& constant) { return constant.symbol == symbol; });
-    return found == result.constants.end() ? nullptr : &*found;
 }
 
 std::string headingOf(const std::string& symbol, const std::vector<FitResult>& results, const UnitSystem& system)
@@ -268,7 +284,7 @@ Json::Value toJson(const TestAxis& axis)
     return json;
 }
 
-Json::Value toJson(const MeasuredTest& test)
+Json::Value toJson(const MeasuredTest& test, const UnitSystem& system)
 {
     Json::Value json;
     json["file"] = test.file;
@@ -282,7 +298,7 @@ Json::Value toJson(const MeasuredTest& test)
     json["decimal_mark"] = std::string(1, test.format.decimalMark);
     json["x"] = toJson(test.abscissa);
     json["y"] = toJson(test.ordinate);
-    json["findings"] = findingsToJson(test.findings);
+    json["findings"] = findingsToJson(test.findings, system);
     return json;
 }
 
@@ -361,7 +377,7 @@ Json::Value toJson(const FitResult& result, const UnitSystem& system)
     json["residual_without_stability"] =
         result.residualWithoutStability ? toJsonNumber(*result.residualWithoutStability) : Json::Value();
     json["hardening"] = hardeningToJson(result, system);
-    json["findings"] = findingsToJson(result.findings);
+    json["findings"] = findingsToJson(shownFindings(result, system), system);
     return json;
 }
 
@@ -372,7 +388,7 @@ std::string fitText(const std::vector<MeasuredTest>& tests, const std::vector<Fi
 {
     std::string text;
     for (const MeasuredTest& test : tests)
-        text += describe(test) + "\n";
+        text += describe(test, system) + "\n";
     ModelTable table(results);
     addConstants(table, results, system);
     addAgreement(table, tests);
@@ -391,13 +407,13 @@ Json::Value fitToJson(const std::vector<MeasuredTest>& tests, const std::vector<
     json["tests"] = Json::arrayValue;
     json["fits"] = Json::arrayValue;
     for (const MeasuredTest& test : tests)
-        json["tests"].append(toJson(test));
+        json["tests"].append(toJson(test, system));
     for (const FitResult& result : results)
         json["fits"].append(toJson(result, system));
     return json;
 }
 
-std::vector<std::string> messagesAbout(const std::vector<FitResult>& results)
+std::vector<std::string> messagesAbout(const std::vector<FitResult>& results, const UnitSystem& system)
 {
     struct Shared
     {
@@ -406,7 +422,7 @@ std::vector<std::string> messagesAbout(const std::vector<FitResult>& results)
     };
     std::vector<Shared> all;
     for (const FitResult& result : results) {
-        for (const Finding& finding : result.findings) {
+        for (const Finding& finding : shownFindings(result, system)) {
             const auto same = std::find_if(all.begin(), all.end(), [&](const Shared& one) {
                 return one.finding.id == finding.id && one.finding.arguments == finding.arguments;
             });
@@ -418,7 +434,7 @@ std::vector<std::string> messagesAbout(const std::vector<FitResult>& results)
     }
     std::vector<std::string> messages;
     for (const Shared& one : all) {
-        const std::vector<std::string> text = messagesAbout(one.models, {one.finding});
+        const std::vector<std::string> text = messagesAbout(one.models, {one.finding}, system);
         messages.insert(messages.end(), text.begin(), text.end());
     }
     return messages;

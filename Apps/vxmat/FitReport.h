@@ -21,7 +21,9 @@ std::string fitText(const std::vector<MeasuredTest>& tests, const std::vector<vx
 Json::Value fitToJson(const std::vector<MeasuredTest>& tests, const std::vector<vxConstitutive::FitResult>& results,
                       const vxUnits::UnitSystem& system);
 
-/// Returns the messages about the findings of fits. A finding that several models share is one message.
-std::vector<std::string> messagesAbout(const std::vector<vxConstitutive::FitResult>& results);
+/// Returns the messages about the findings of fits, with numbers in the units of `system`. A finding that several models
+/// share is one message.
+std::vector<std::string> messagesAbout(const std::vector<vxConstitutive::FitResult>& results,
+                                       const vxUnits::UnitSystem& system);
 
 } // namespace commandline

@@ -345,7 +345,7 @@ std::optional<MeasuredTest> TestReader::read(const TestName& name)
 {
     const TestTable table = vxConstitutive::readTestTable(readFile(name.file, Content::Any), vxConstitutive::unitFactor,
                                                           tableOptions(name));
-    m_answer.add(messagesAbout(titleOf(name), table.findings));
+    m_answer.add(messagesAbout(titleOf(name), table.findings, m_system));
     hintAtFormat(name, table);
     if (hasError(table.findings) || table.columns.empty()) {
         m_answer.status = Status::Error;
@@ -357,7 +357,7 @@ std::optional<MeasuredTest> TestReader::read(const TestName& name)
     if (const auto text = m_options.find(m_arguments.stresses, name))
         request.stress = readAmount("--stress", *text, "Pa", m_system);
     TestReading reading = takeTest(table, request, vxConstitutive::unitFactor);
-    m_answer.add(messagesAbout(titleOf(name), reading.findings));
+    m_answer.add(messagesAbout(titleOf(name), reading.findings, m_system));
     refuse(name, table, reading);
     if (!reading.data || hasError(reading.findings)) {
         m_answer.status = Status::Error;
@@ -383,11 +383,13 @@ std::string describe(const TestAxis& axis)
 
 } // namespace
 
-std::string describe(const MeasuredTest& test)
+std::string describe(const MeasuredTest& test, const UnitSystem& system)
 {
     std::string text = printable(test.data.name) + ": " + vxConstitutive::modeRecord(test.data.mode).name;
-    if (test.data.mode == Mode::Creep)
-        text += " at " + vxMat::formatNumber(test.data.parameter) + " Pa";
+    if (test.data.mode == Mode::Creep) {
+        const ShownUnit unit = showIn(system, "Pa");
+        text += " at " + vxMat::formatNumber(unit.convert(test.data.parameter)) + " " + unit.text;
+    }
     text += ", " + std::to_string(test.data.abscissas.size()) + " points; " + describe(test.abscissa) + ", " +
             describe(test.ordinate);
     if (test.data.weight != 1.0)

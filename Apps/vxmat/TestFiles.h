@@ -55,7 +55,7 @@ struct MeasuredTest
 /// \throws Failure for options that cannot be read, tests without a mode, files that cannot be read
 std::vector<MeasuredTest> readTests(const TestArguments& arguments, const vxUnits::UnitSystem& system, Answer& answer);
 
-/// Returns one line about what was understood of a test.
-std::string describe(const MeasuredTest& test);
+/// Returns one line about what was understood of a test, with the stress of a creep test in the unit of `system`.
+std::string describe(const MeasuredTest& test, const vxUnits::UnitSystem& system);
 
 } // namespace commandline

@@ -169,6 +169,31 @@ TEST_F(CurveOfProject, TellsWhereItIsUnstableAndThatItIsDrawnIncompressible)
                 AllOf(HasSubstr("the material is unstable from "), HasSubstr("The curve is incompressible, but")));
 }
 
+TEST_F(CurveOfProject, HasFindingsInTheUnitsOfTheOption)
+{
+    set("Arruda-Boyce", "on");
+    set("HyperMu", "0.25 MPa");
+    set("HyperLNS", "4");
+    set("HyperD1", "-2 1/MPa");
+    const auto findings = [&](const std::string& system) {
+        return vxmat({"curve", file(), "--mode", "uniaxial", "--at", "2", "--units", system}).err;
+    };
+    EXPECT_THAT(findings("SI"),
+                AllOf(HasSubstr("the factor of the series, is 250000 Pa."), HasSubstr("D1 is -2e-06 1/Pa.")));
+    EXPECT_THAT(findings("mm-t-s"),
+                AllOf(HasSubstr("the factor of the series, is 0.25 MPa."), HasSubstr("D1 is -2 1/MPa.")));
+    EXPECT_THAT(vxmat({"curve", file(), "--mode", "uniaxial", "--at", "2", "--units", "mm-t-s", "--json"}).out,
+                HasSubstr("the factor of the series, is 0.25 MPa."));
+}
+
+TEST_F(CurveOfProject, NumbersTheTitlesOfAFileThatIsGivenTwice)
+{
+    makeNeoHookean();
+    EXPECT_EQ(curve({file(), file(), "--mode", "uniaxial", "--at", "1"}).front(),
+              "stretch [1],Rubber (1): nominal stress [Pa],Rubber (1): true stress [Pa],Rubber (2): nominal stress "
+              "[Pa],Rubber (2): true stress [Pa]");
+}
+
 TEST_F(CurveOfProject, DrawsEachModelOfAMaterialThatHasTheMode)
 {
     makeNeoHookean();
@@ -287,6 +312,23 @@ TEST(Curve, HasTheModesOfAllModels)
     };
     for (const auto& [material, mode, at, header] : cases)
         EXPECT_THAT(curve({material, "--mode", mode, "--at", at}).front(), StartsWith(header)) << mode;
+}
+
+TEST(Curve, NamesTheUnitOfAnAbscissaWithoutAValue)
+{
+    const auto errors = [](const std::string& system) {
+        return vxmat({"curve", "Creep Example", "--mode", "creep", "--at", "-1 min", "--stress", "1 Pa", "--units",
+                      system})
+            .err;
+    };
+    EXPECT_THAT(errors("SI"), HasSubstr("the time is -60 s."));
+    EXPECT_THAT(errors("length mm, mass t, time min"), HasSubstr("the time is -1 min."));
+}
+
+TEST(Curve, HasAnExampleOfAMaterialOfTheLibrary)
+{
+    const std::string help = vxmat({"curve", "--help"}).out;
+    EXPECT_THAT(help, HasSubstr("\n  vxmat curve \"" + std::string(mooney) + "\" --mode uniaxial "));
 }
 
 TEST(Curve, SpacesByEqualFactorsOnRequest)

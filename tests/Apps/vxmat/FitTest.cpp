@@ -136,6 +136,20 @@ TEST_F(Fit, RanksTheModelsOfPublishedTests)
     EXPECT_THAT(constantOf(*neoHooke, "C10")["value"].asDouble(), DoubleNear(0.195e6, 0.02e6));
 }
 
+TEST_F(Fit, HasFindingsInTheUnitsOfTheOption)
+{
+    const std::string data = file("a.csv", neoHookean(0.3, header)); // C10 is 0.3 MPa
+    const auto errors = [&](const std::string& system) {
+        return vxmat({"fit", "uniaxial=" + data, "--model", "neo-hooke", "--bound", "C10=0:100 kPa", "--units", system})
+            .err;
+    };
+    EXPECT_THAT(errors("SI"), HasSubstr("C10 is at its bound 100000 Pa."));
+    EXPECT_THAT(errors("mm-t-s"), HasSubstr("C10 is at its bound 0.1 MPa."));
+    const std::string creep = file("creep.csv", "time [s],creep strain [1]\n1,0.1\n2,0.2\n3,0.3\n4,0.4\n");
+    EXPECT_THAT(vxmat({"fit", "creep=" + creep, "--model", "norton", "--stress", "5 MPa", "--units", "mm-t-s"}).out,
+                HasSubstr("creep.csv: creep at 5 MPa, 4 points"));
+}
+
 TEST_F(Fit, SaysWhichOptionGivesWhatTheFileDoesNotTell)
 {
     const std::string noUnit = file("unit.csv", neoHookean(0.3, "stretch,nominal stress\n"));

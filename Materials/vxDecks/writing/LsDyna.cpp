@@ -53,9 +53,16 @@ void writeKeyword(MaterialDeck& deck, const std::string& keyword, const std::str
     }
 }
 
+/// Returns the line of a title. In the first column, "*" would begin a keyword and "$" a comment.
+std::string titleOf(const std::string& name)
+{
+    const bool isKeywordOrComment = !name.empty() && (name[0] == '*' || name[0] == '$');
+    return commentText((isKeywordOrComment ? " " : "") + name, longestTitle);
+}
+
 void writeMaterial(MaterialDeck& deck, const std::string& keyword, const std::vector<Row>& rows)
 {
-    writeKeyword(deck, keyword + "_TITLE", commentText(deck.heading().name, longestTitle), deck.heading().number, rows);
+    writeKeyword(deck, keyword + "_TITLE", titleOf(deck.heading().name), deck.heading().number, rows);
     deck.carry(Id::Density);
 }
 

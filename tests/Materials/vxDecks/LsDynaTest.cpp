@@ -36,6 +36,15 @@ TEST(LsDynaDeck, HasElasticityAndHeat)
                                         "     4.9e8        54\n");
 }
 
+TEST(LsDynaDeck, HasNoTitleThatIsAKeywordOrAComment)
+{
+    const auto steel = vxtest::elastic();
+    for (const char* const name : {"*END", "$ steel"}) {
+        const auto deck = vxDecks::writeDeck(Format::LsDyna, {{name, 1, &steel->get()}}, {});
+        EXPECT_THAT(deck.text, HasSubstr(std::string("*MAT_ELASTIC_TITLE\n ") + name + "\n         1"));
+    }
+}
+
 TEST(LsDynaDeck, HasLongFieldsIfANumberWouldLoseDigits)
 {
     auto steel = vxtest::elastic();

@@ -22,7 +22,7 @@ using vxConstitutive::Curve;
 using vxConstitutive::Mode;
 using vxConstitutive::Quantity;
 
-// The names that quantities of their own have are translated in the context "vxConstitutive".
+// The names that quantities of their own have are translated in the context "vxConstitutive::Word".
 const std::vector<Ordinates> ordinatesOfStretch{
     {"nominal stress", {Quantity::NominalStress}},
     {"true stress", {Quantity::TrueStress}},
@@ -157,7 +157,7 @@ private:
 
     std::string quantityName(const char* english) const
     {
-        std::string name = translated("vxConstitutive", english);
+        std::string name = translated("vxConstitutive::Word", english);
         return name == english ? translated("vxPlot", english) : name;
     }
 

@@ -48,7 +48,7 @@ struct CurvePlotRequest
     Scale horizontal = Scale::Linear;
     Scale vertical = Scale::Linear;
     vxUnits::UnitSystem system = vxUnits::UnitSystem::si();
-    vxUnits::Translator translator = {}; ///< contexts "vxConstitutive" and "vxPlot"
+    vxUnits::Translator translator = {}; ///< contexts "vxConstitutive::Word" and "vxPlot"
 };
 
 /// Returns the plot of the curves and tests in the chosen units. The unstable ranges of the curves are its bands. Curves

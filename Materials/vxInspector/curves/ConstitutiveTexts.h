@@ -5,13 +5,18 @@
 
 #include <QString>
 
+#include <string_view>
+
 namespace vxInspector {
 
-/// Returns the translator of the texts of models, curves and plots into the user's language.
+/// Returns the translator of the texts of models, curves and plots into the user's language. A word that these do not have
+/// may be the name of a quantity of the catalogue.
 vxUnits::Translator constitutiveTranslator();
 
-/// Returns the text of a finding in the user's language. Arguments that are names, such as those of models, are
-/// translated too.
+/// Returns a word of the library of models, such as the name of a model, in the user's language.
+QString constitutiveWord(std::string_view english);
+
+/// Returns the text of a finding in the user's language.
 QString translated(const vxConstitutive::Finding& finding);
 
 /// Returns "Note", "Warning" or "Error" in the user's language.

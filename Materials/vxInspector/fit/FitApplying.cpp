@@ -1,5 +1,6 @@
 #include "fit/FitApplying.h"
 
+#include "vxConstitutive/record/Measurements.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/MaterialView.h"
 #include "vxMaterial/gui/SheetTableView.h"
@@ -8,6 +9,7 @@
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <QCoreApplication>
 
@@ -23,6 +25,11 @@ namespace {
 using MatGui::SheetRow;
 using vxConstitutive::MaterialChange;
 using vxConstitutive::PropertyValue;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("vxInspector::FitApplying", text);
+}
 
 std::string textOf(const PropertyValue& value)
 {
@@ -75,18 +82,28 @@ void applyInEditor(const MaterialChange& change, MatGui::MaterialView& editor)
     for (const PropertyValue& value : change.set)
         if (const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(value.propertyId))
             rowOf(rows, *record).value = QString::fromStdString(textOf(value));
-    editor.setRows(rows, QCoreApplication::translate("vxInspector::FitApplying", "Apply fit"));
+    editor.setRows(rows, tr("Apply fit"));
+}
+
+void changeMaterial(const MaterialChange& change, Mat::MaterialObject& object)
+{
+    auto before = MatGui::copyOf(*object.getCMaterial());
+    applyToMaterial(change, *object.getCMaterial());
+    MatGui::recordChange(object, std::move(before));
 }
 
 } // namespace
 
-void applyFit(const MaterialChange& change, Mat::MaterialObject& object, MatGui::MaterialView* editor)
+void applyFit(const AppliedFit& fit, Mat::MaterialObject& object, MatGui::MaterialView* editor)
 {
+    const vxMsg::MessageProxy::Group step(
+        tr("Apply fit to \"%1\"").arg(QString::fromStdString(object.label.getValue())));
     if (editor != nullptr)
-        return applyInEditor(change, *editor);
-    auto before = MatGui::copyOf(*object.getCMaterial());
-    applyToMaterial(change, *object.getCMaterial());
-    MatGui::recordChange(object, std::move(before));
+        applyInEditor(fit.change, *editor);
+    else
+        changeMaterial(fit.change, object);
+    if (fit.measurements)
+        vxMsg::MessageProxy::instance().setSetting(object, vxConstitutive::measurementsSetting, *fit.measurements);
 }
 
 } // namespace vxInspector

@@ -2,6 +2,7 @@
 
 #include "vxConstitutive/fit/PlasticFit.h"
 #include "vxConstitutive/fit/RateFits.h"
+#include "vxConstitutive/response/HyperelasticModel.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,12 +26,18 @@ std::vector<TestData> testsOf(const std::vector<TestData>& tests, const std::set
     return some;
 }
 
-void fitRubber(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)
+vxConstitutive::HyperelasticFitRequest rubberRequest(const FitOrder& order)
 {
     vxConstitutive::HyperelasticFitRequest request;
     request.tests =
         testsOf(order.tests, {Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar, Mode::SimpleShear, Mode::Volumetric});
     request.stability = order.stability;
+    return request;
+}
+
+void fitRubber(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)
+{
+    const vxConstitutive::HyperelasticFitRequest request = rubberRequest(order);
     if (request.tests.empty())
         return;
     for (FitResult& result : vxConstitutive::fitHyperelastic(request, control))
@@ -72,6 +79,13 @@ std::vector<FitResult> fitAll(const FitOrder& order, const FitControl& control)
         if (!control.cancelled || !control.cancelled())
             fit(order, control, results);
     return results;
+}
+
+vxConstitutive::FitRecord recordOf(const FitResult& result, const FitOrder& order)
+{
+    const bool isRubber = dynamic_cast<const vxConstitutive::HyperelasticModel*>(result.fitted.get()) != nullptr;
+    return isRubber ? recordFit(result, rubberRequest(order))
+                    : recordFit(result, vxConstitutive::ErrorMeasure::OfLargest);
 }
 
 FitJob::FitJob(FitOrder order, QObject* parent) : QObject(parent)

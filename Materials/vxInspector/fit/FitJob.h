@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vxConstitutive/fit/HyperelasticFit.h"
+#include "vxConstitutive/record/Measurements.h"
 
 #include <QObject>
 
@@ -20,6 +21,9 @@ struct FitOrder
 
 /// Fits all models that the tests of an order can determine, best first for each kind of model.
 std::vector<vxConstitutive::FitResult> fitAll(const FitOrder& order, const vxConstitutive::FitControl& control);
+
+/// Returns the record of a result of fitAll().
+vxConstitutive::FitRecord recordOf(const vxConstitutive::FitResult& result, const FitOrder& order);
 
 /// A fit in a thread of its own. The destructor cancels it and waits for its end, which is soon, so that the job may be
 /// deleted at any moment. The signals are sent in the thread of the job.

@@ -3,8 +3,10 @@
 #include "Gui/FileDialog.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
+#include "curves/ConstitutiveTexts.h"
 #include "fit/FitApplying.h"
 #include "fit/FitTables.h"
+#include "measured/KeptMeasurements.h"
 #include "plot/PlotView.h"
 #include "subject/SubjectWatch.h"
 #include "table/ContentView.h"
@@ -295,8 +297,7 @@ void FitPage::retranslate()
     m_mode->clear();
     m_mode->addItem(tr("Choose the test"));
     for (const Mode mode : measuredModes())
-        m_mode->addItem(QCoreApplication::translate("vxConstitutive", vxConstitutive::modeRecord(mode).name),
-                        static_cast<int>(mode));
+        m_mode->addItem(constitutiveWord(vxConstitutive::modeRecord(mode).name), static_cast<int>(mode));
     showTests();
     showResults();
 }
@@ -310,12 +311,43 @@ void FitPage::setSubject(const Subject& subject, const vxUnits::UnitSystem& syst
         const Mat::MaterialObject& object = *subject.materials.front();
         m_target = {object.get_project()->getProjectId(), object.getObjectId(), 0};
         m_targetLabel = shortened(QString::fromStdString(object.label.getValue()), 30);
+        readKept(object);
     }
     if (m_system != system) {
         m_system = system;
         showModel();
     }
     enableControls();
+}
+
+/// Shows the tests that a material keeps. If the measurements of the same material change, as by Undo, the shown tests stay:
+/// they may not be kept any more.
+void FitPage::readKept(const Mat::MaterialObject& object)
+{
+    const std::string& text = object.getSetting(vxConstitutive::measurementsSetting);
+    const bool isSameMaterial = std::exchange(m_keptOf, m_target) == m_target;
+    if (text == m_keptText)
+        return;
+    const KeptMeasurements kept = readMeasurements(text);
+    m_keptText = text;
+    m_keptFault = kept.fault;
+    const std::vector<vxConstitutive::TestData>& tests = kept.measurements.tests;
+    if (m_hasOwnTests || areSame(tests, readTests()))
+        return;
+    if (isSameMaterial && !m_tests.empty())
+        m_hasOwnTests = true;
+    else if (!tests.empty())
+        setTests(tests);
+}
+
+void FitPage::setTests(const std::vector<vxConstitutive::TestData>& tests)
+{
+    m_tests.clear();
+    for (const vxConstitutive::TestData& test : tests)
+        if (!vxConstitutive::abscissaMeasures(test.mode).empty())
+            m_tests.push_back(keptTest(test));
+    dropResults();
+    showTests();
 }
 
 void FitPage::load()
@@ -341,11 +373,23 @@ void FitPage::paste()
 
 void FitPage::addTest(LoadedTest test)
 {
+    test.request.name = freeName(test.request.name);
     m_tests.push_back(std::move(test));
+    m_hasOwnTests = true;
     dropResults();
     showTests();
     m_testView->setCurrentIndex(m_testView->model()->index(static_cast<int>(m_tests.size()) - 1, 0));
     showForm();
+}
+
+/// Materials keep one test of each name.
+std::string FitPage::freeName(const std::string& name) const
+{
+    std::string free = name;
+    const auto hasName = [&free](const LoadedTest& test) { return test.request.name == free; };
+    for (int number = 2; std::any_of(m_tests.begin(), m_tests.end(), hasName); ++number)
+        free = name + " (" + std::to_string(number) + ')';
+    return free;
 }
 
 void FitPage::removeTest()
@@ -354,6 +398,7 @@ void FitPage::removeTest()
     if (row < 0 || static_cast<std::size_t>(row) >= m_tests.size())
         return;
     m_tests.erase(m_tests.begin() + row);
+    m_hasOwnTests = !m_tests.empty();
     dropResults();
     showTests();
 }
@@ -388,6 +433,7 @@ void FitPage::readForm()
 void FitPage::readCurrent(LoadedTest& test)
 {
     readAgain(test);
+    m_hasOwnTests = true;
     dropResults();
     showTests();
     showForm();
@@ -443,9 +489,7 @@ void FitPage::showAxis(const AxisControls& axis, const LoadedTest& test, ColumnC
     axis.measure->clear();
     axis.measure->addItem(tr("by its header"));
     for (const Measure measure : measures)
-        axis.measure->addItem(
-            QCoreApplication::translate("vxConstitutive", vxConstitutive::measureRecord(measure).name),
-            static_cast<int>(measure));
+        axis.measure->addItem(constitutiveWord(vxConstitutive::measureRecord(measure).name), static_cast<int>(measure));
     axis.measure->setCurrentIndex(
         chosen.measure ? std::max(axis.measure->findData(static_cast<int>(*chosen.measure)), 0) : 0);
     axis.unit->setText(QString::fromStdString(chosen.unit.value_or("")));
@@ -480,12 +524,14 @@ void FitPage::startFit()
     if (order.tests.empty())
         return;
     dropResults();
+    m_order = order;
+    m_hasOwnTests = true;
     m_progress->setValue(0);
     m_progress->setFormat(QStringLiteral("%p %"));
     m_job = std::make_unique<FitJob>(std::move(order));
     connect(m_job.get(), &FitJob::progressed, this, [this](const QString& model, double part) {
         m_progress->setValue(static_cast<int>(part * 100.0));
-        m_progress->setFormat(QCoreApplication::translate("vxConstitutive", model.toUtf8()) + QStringLiteral(" %p %"));
+        m_progress->setFormat(constitutiveWord(model.toStdString()) + QStringLiteral(" %p %"));
     });
     connect(m_job.get(), &FitJob::finished, this,
             [this] { Kelta::guarded(tr("The result of the fit cannot be shown"), [this] { finishFit(); }); });
@@ -531,14 +577,22 @@ void FitPage::showModel()
     enableControls();
 }
 
+QString FitPage::sentence() const
+{
+    if (m_keptFault && m_target.isSet())
+        return faultText(*m_keptFault);
+    return m_tests.empty()
+               ? tr("Load test data from a file, or paste columns of numbers, to fit the constants of models "
+                    "to them.")
+               : QString();
+}
+
 void FitPage::enableControls()
 {
     const FitResult* const result = currentResult();
     const bool hasConstants = result != nullptr && !result->change.set.empty();
-    m_sentence->setText(m_tests.empty() ? tr("Load test data from a file, or paste columns of numbers, to fit the "
-                                             "constants of models to them.")
-                                        : QString());
-    m_sentence->setHidden(!m_tests.empty());
+    m_sentence->setText(sentence());
+    m_sentence->setHidden(m_sentence->text().isEmpty());
     m_remove->setEnabled(currentTest() != nullptr);
     m_stable->setHidden(m_tests.empty());
     m_fit->setHidden(m_tests.empty());
@@ -552,16 +606,37 @@ void FitPage::enableControls()
             ? tr("&Apply to \"%1\"").arg(QString(m_targetLabel).replace(QLatin1Char('&'), QLatin1String("&&")))
             : tr("&Apply"));
     m_apply->setToolTip(
-        m_target.isSet() ? tr("Write the constants of the selected model into the material. The change can be undone.")
-                         : tr("Select a material that gets the constants."));
+        m_target.isSet()
+            ? tr("Write the constants of the selected model into the material, and keep the tests with it. The "
+                 "change can be undone.")
+            : tr("Select a material that gets the constants."));
 }
 
-void FitPage::apply() const
+/// Tests that cannot be kept do not prevent the constants from being applied.
+void FitPage::apply()
 {
     const FitResult* const result = currentResult();
     Mat::MaterialObject* const object = findMaterial(m_target);
-    if (result != nullptr && object != nullptr)
-        applyFit(vxConstitutive::MaterialChange(result->change), *object, SubjectWatch::editorOf(*object));
+    if (result == nullptr || object == nullptr)
+        return;
+    const AppliedFit fit{result->change, measurementsWith(*result, *object)};
+    if (fit.measurements) {
+        m_keptText = *fit.measurements;
+        m_keptFault.reset();
+        m_hasOwnTests = false;
+    }
+    applyFit(fit, *object, SubjectWatch::editorOf(*object));
+}
+
+/// Returns the measurements of a material with the tests and the fit; absent if they cannot be kept, which the message log
+/// tells.
+std::optional<std::string> FitPage::measurementsWith(const FitResult& result, const Mat::MaterialObject& object) const
+{
+    std::optional<std::string> text;
+    Kelta::guarded(tr("The tests are not kept with \"%1\"").arg(m_targetLabel), [&] {
+        text = addFit(object.getSetting(vxConstitutive::measurementsSetting), m_order.tests, recordOf(result, m_order));
+    });
+    return text;
 }
 
 } // namespace vxInspector

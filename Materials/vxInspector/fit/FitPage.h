@@ -9,6 +9,8 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 class QCheckBox;
@@ -19,14 +21,19 @@ class QLineEdit;
 class QProgressBar;
 class QPushButton;
 
+namespace Mat {
+class MaterialObject;
+} // namespace Mat
+
 namespace vxInspector {
 
 class ContentView;
 class PlotView;
 
 /// The tab of the fits: tests from files or the clipboard, models that are fitted to them beside the interface, their
-/// constants and curves, and a button that writes the constants of one model into the selected material. The tests stay
-/// while the user selects other materials.
+/// constants and curves, and a button that writes the constants of one model into the selected material and keeps the tests
+/// with it. Shows the tests that the selected material keeps. Tests that the user has loaded or changed stay while the user
+/// selects other materials, until they are kept.
 class FitPage : public QWidget
 {
     Q_OBJECT
@@ -39,6 +46,7 @@ public:
     void setSubject(const Subject& subject, const vxUnits::UnitSystem& system);
     void retranslate();
 
+    /// Adds a test; gives it another name if a test has the name.
     void addTest(LoadedTest test);
     const std::vector<LoadedTest>& tests() const { return m_tests; }
     const std::vector<vxConstitutive::FitResult>& results() const { return m_results; }
@@ -65,6 +73,9 @@ private:
     void load();
     void paste();
     void removeTest();
+    void readKept(const Mat::MaterialObject& object);
+    void setTests(const std::vector<vxConstitutive::TestData>& tests);
+    std::string freeName(const std::string& name) const;
     LoadedTest* currentTest();
     void readForm();
     void readCurrent(LoadedTest& test);
@@ -83,14 +94,22 @@ private:
     void showModel();
     void enableControls();
     const vxConstitutive::FitResult* currentResult() const;
-    void apply() const;
+    QString sentence() const;
+    void apply();
+    std::optional<std::string> measurementsWith(const vxConstitutive::FitResult& result,
+                                                const Mat::MaterialObject& object) const;
 
     std::vector<LoadedTest> m_tests;
     std::vector<vxConstitutive::FitResult> m_results;
+    FitOrder m_order;              ///< of the results
     std::unique_ptr<FitJob> m_job; ///< null if no fit runs
     vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
     RowPlace m_target; ///< the material that gets the constants
     QString m_targetLabel;
+    bool m_hasOwnTests = false;                   ///< whether tests are not kept as they are here
+    RowPlace m_keptOf;                            ///< the material of m_keptText
+    std::string m_keptText;                       ///< the measurements of the material, as they were last read
+    std::optional<vxjson::JsonError> m_keptFault; ///< of m_keptText
 
     QLabel* m_sentence;
     QPushButton* m_load;

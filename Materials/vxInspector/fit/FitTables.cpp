@@ -160,7 +160,7 @@ vxConstitutive::CurveRequest requestOf(Mode mode, const vxConstitutive::Range& r
 
 QString modelName(const FitResult& result)
 {
-    return QCoreApplication::translate("vxConstitutive", result.model.c_str());
+    return constitutiveWord(result.model);
 }
 
 TableContent testTable(const std::vector<LoadedTest>& tests)

@@ -1,7 +1,7 @@
 #include "fit/LoadedTest.h"
 
 #include "curves/ConstitutiveTexts.h"
-#include "vxUnits/Unit.h"
+#include "vxConstitutive/data/UnitFactor.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -13,6 +13,7 @@ namespace vxInspector {
 namespace {
 
 using vxConstitutive::Axis;
+using vxConstitutive::Measure;
 using vxConstitutive::Mode;
 using vxConstitutive::Question;
 using vxConstitutive::QuestionKind;
@@ -31,9 +32,17 @@ QString columnText(const LoadedTest& test, const vxConstitutive::ColumnChoice& c
                                              : tr(R"("%1")").arg(QString::fromStdString(column.name));
     if (!choice.measure || !choice.unit)
         return name;
-    const char* const measure = vxConstitutive::measureRecord(*choice.measure).name;
     return tr("%1 as %2 in %3")
-        .arg(name, QCoreApplication::translate("vxConstitutive", measure), QString::fromStdString(*choice.unit));
+        .arg(name, constitutiveWord(vxConstitutive::measureRecord(*choice.measure).name),
+             QString::fromStdString(*choice.unit));
+}
+
+/// Returns a column of numbers in SI units.
+vxConstitutive::TableColumn siColumn(Measure measure, const std::vector<double>& numbers)
+{
+    constexpr const char* units[]{"1", "Pa", "s", "1/s"}; // in the order of Dimension
+    const vxConstitutive::MeasureRecord& record = vxConstitutive::measureRecord(measure);
+    return {constitutiveWord(record.name).toStdString(), units[static_cast<std::size_t>(record.dimension)], numbers};
 }
 
 QString questionText(const Question& question)
@@ -52,22 +61,34 @@ QString questionText(const Question& question)
 
 } // namespace
 
-std::optional<double> unitFactor(std::string_view unit, vxConstitutive::Dimension dimension)
-{
-    static const vxUnits::Dimension dimensions[]{vxUnits::dimensions::none, vxUnits::dimensions::pressure,
-                                                 vxUnits::dimensions::time,
-                                                 vxUnits::dimensions::none / vxUnits::dimensions::time};
-    const auto read = vxUnits::Unit::parse(unit);
-    if (!read || read->isTemperatureScale() || read->dimension() != dimensions[static_cast<std::size_t>(dimension)])
-        return std::nullopt;
-    return read->factor();
-}
-
 LoadedTest loadTest(const QString& name, const std::string& bytes)
 {
     LoadedTest test;
-    test.table = std::make_shared<vxConstitutive::TestTable>(vxConstitutive::readTestTable(bytes, unitFactor));
+    test.table =
+        std::make_shared<vxConstitutive::TestTable>(vxConstitutive::readTestTable(bytes, vxConstitutive::unitFactor));
     test.request.name = name.toStdString();
+    return test;
+}
+
+LoadedTest keptTest(const vxConstitutive::TestData& data)
+{
+    // The first measures are those of TestData, except that a pressure has the other sign.
+    const Measure abscissa = vxConstitutive::abscissaMeasures(data.mode).front();
+    const Measure ordinate =
+        data.mode == Mode::Volumetric ? Measure::TrueStress : vxConstitutive::ordinateMeasures(data.mode).front();
+    vxConstitutive::TestTable table;
+    table.columns = {siColumn(abscissa, data.abscissas), siColumn(ordinate, data.ordinates)};
+    LoadedTest test;
+    test.request.name = data.name;
+    test.request.abscissa = {0, abscissa, table.columns[0].unit};
+    test.request.ordinate = {1, ordinate, table.columns[1].unit};
+    test.request.weight = data.weight;
+    if (data.mode == Mode::Creep)
+        test.request.stress = data.parameter;
+    test.table = std::make_shared<vxConstitutive::TestTable>(std::move(table));
+    test.mode = data.mode;
+    readAgain(test);
+    test.reading.data = data;
     return test;
 }
 
@@ -77,7 +98,7 @@ void readAgain(LoadedTest& test)
     if (!test.mode)
         return;
     test.request.mode = *test.mode;
-    test.reading = vxConstitutive::takeTest(*test.table, test.request, unitFactor);
+    test.reading = vxConstitutive::takeTest(*test.table, test.request, vxConstitutive::unitFactor);
 }
 
 QString readingText(const LoadedTest& test)

@@ -23,6 +23,9 @@ struct LoadedTest
 /// Returns the table in the bytes of a file or in pasted text, without a mode.
 LoadedTest loadTest(const QString& name, const std::string& bytes);
 
+/// Returns a test that a material keeps, with a table of its points in SI units. Its mode must be one of measuredModes().
+LoadedTest keptTest(const vxConstitutive::TestData& data);
+
 /// Takes the test from its table again after the user has changed the mode or the request.
 void readAgain(LoadedTest& test);
 
@@ -31,8 +34,5 @@ QString readingText(const LoadedTest& test);
 
 /// The modes that are measured.
 std::vector<vxConstitutive::Mode> measuredModes();
-
-/// Converts units of measured columns with the library of units.
-std::optional<double> unitFactor(std::string_view unit, vxConstitutive::Dimension dimension);
 
 } // namespace vxInspector

@@ -6,6 +6,7 @@
 
 #include "fit/FitJob.h"
 #include "fit/LoadedTest.h"
+#include "vxConstitutive/record/Measurements.h"
 
 #include <QCoreApplication>
 #include <gmock/gmock.h>
@@ -72,16 +73,18 @@ TEST(LoadedTestText, SaysThatATextHasNoNumbers)
     EXPECT_THAT(readingText(test).toStdString(), HasSubstr("0 columns"));
 }
 
-TEST(LoadedTestText, KnowsTheUnitsOfEachDimension)
+TEST(LoadedTestText, ShowsAKeptTestOfEachModeAsItIs)
 {
-    using vxConstitutive::Dimension;
-    EXPECT_EQ(vxInspector::unitFactor("MPa", Dimension::Stress), 1e6);
-    EXPECT_EQ(vxInspector::unitFactor("%", Dimension::Number), 0.01);
-    EXPECT_EQ(vxInspector::unitFactor("h", Dimension::Time), 3600.0);
-    EXPECT_NEAR(vxInspector::unitFactor("1/h", Dimension::Rate).value_or(0.0), 1.0 / 3600.0, 1e-15);
-    EXPECT_FALSE(vxInspector::unitFactor("MPa", Dimension::Time));
-    EXPECT_FALSE(vxInspector::unitFactor("furniture", Dimension::Stress));
-    EXPECT_FALSE(vxInspector::unitFactor("degC", Dimension::Number));
+    for (const Mode mode : vxInspector::measuredModes()) {
+        vxConstitutive::TestData data{"kept", mode, {1.5, 2.0}, {1e6, 2e6}, 0.0, 3.0};
+        if (mode == Mode::Creep)
+            data.parameter = 5e7;
+        LoadedTest test = vxInspector::keptTest(data);
+        readAgain(test);
+        ASSERT_TRUE(test.reading.data) << readingText(test).toStdString();
+        EXPECT_EQ(vxConstitutive::writeMeasurements({{*test.reading.data}, {}}),
+                  vxConstitutive::writeMeasurements({{data}, {}}));
+    }
 }
 
 TEST(FitTables, ShowConstantsWithUnitsAndErrors)

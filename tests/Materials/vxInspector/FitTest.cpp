@@ -4,10 +4,12 @@
 
 #include "Gui/FileDialog.h"
 #include "Gui/TreeSelectionSingleton.h"
+#include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "fit/FitPage.h"
 #include "plot/PlotView.h"
 #include "table/ContentView.h"
+#include "vxConstitutive/record/Measurements.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -75,6 +77,23 @@ protected:
         ASSERT_EQ(mode.currentText().left(int(qstrlen(text))), QLatin1String(text));
     }
 
+    void fitRubberFor(Mat::MaterialObject& material) const
+    {
+        select({&material});
+        turnTo(Fit);
+        ASSERT_TRUE(waitFor([this] { return page().isVisible(); }));
+        fitRubber();
+    }
+
+    /// The text of a tensile test with three points.
+    static std::string keptText(const char* name)
+    {
+        return vxConstitutive::writeMeasurements(
+            {{{name, vxConstitutive::Mode::Uniaxial, {1.5, 2.0, 3.0}, {1e6, 1.75e6, 3e6}}}, {}});
+    }
+
+    static constexpr const char* setting = vxConstitutive::measurementsSetting;
+
     std::string preview() const { return control<QLabel>("fitPreview").text().toStdString(); }
 
     /// Pastes the test of a rubber, fits all models and selects Neo-Hookean.
@@ -82,6 +101,12 @@ protected:
     {
         paste(rubberTable());
         chooseMode("uniaxial");
+        fitTests();
+    }
+
+    /// Fits all models and selects Neo-Hookean.
+    void fitTests() const
+    {
         press("fitStart");
         ASSERT_TRUE(waitFor([this] { return !page().isFitting() && !page().results().empty(); }));
         auto& models = control<vxInspector::ContentView>("fitModels");
@@ -164,6 +189,137 @@ TEST_F(FitTab, AppliesTheConstantsToTheRowsOfAnOpenEditor)
     EXPECT_NEAR(written, 0.5e6, 500.0);
     editor.getUndoStack()->undo();
     EXPECT_FALSE(editor.isWindowModified());
+}
+
+TEST_F(FitTab, KeepsTheTestsAndTheFitWithTheMaterialInTheSameStep)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    const int steps = history().count();
+    fitRubber();
+    EXPECT_EQ(seal.getSetting(setting), "");
+    press("fitApply");
+    EXPECT_EQ(history().count(), steps + 1);
+    const auto kept = vxConstitutive::readMeasurements(seal.getSetting(setting));
+    ASSERT_EQ(kept.tests.size(), 1U);
+    EXPECT_EQ(kept.tests[0].name, "Test 1");
+    EXPECT_EQ(kept.tests[0].mode, vxConstitutive::Mode::Uniaxial);
+    EXPECT_DOUBLE_EQ(kept.tests[0].abscissas.at(9), 2.0);
+    EXPECT_DOUBLE_EQ(kept.tests[0].ordinates.at(9), 1.75e6);
+    ASSERT_EQ(kept.fits.size(), 1U);
+    EXPECT_EQ(kept.fits[0].model, "Neo-Hookean");
+    EXPECT_EQ(kept.fits[0].stability, vxConstitutive::StabilityDemand::OverData);
+    EXPECT_NEAR(kept.fits[0].constants.at(0).value, 0.5e6, 500.0);
+    history().undo();
+    EXPECT_EQ(seal.getSetting(setting), "");
+    history().redo();
+    EXPECT_EQ(seal.getSetting(setting), vxConstitutive::writeMeasurements(kept));
+}
+
+TEST_F(FitTab, ReplacesAKeptTestOfTheSameNameAndAddsTheFit)
+{
+    Mat::MaterialObject& seal = addMaterial(newProject(), "Seal", vxMat::eMaterialType::Elastomer1);
+    fitRubberFor(seal);
+    press("fitApply");
+    auto kept = vxConstitutive::readMeasurements(seal.getSetting(setting));
+    kept.tests[0].ordinates[0] = 1.0;
+    kept.tests.push_back(kept.tests[0]);
+    kept.tests[1].name = "other";
+    seal.setSetting(setting, vxConstitutive::writeMeasurements(kept));
+    press("fitApply");
+    const auto now = vxConstitutive::readMeasurements(seal.getSetting(setting));
+    ASSERT_EQ(now.tests.size(), 2U);
+    EXPECT_GT(now.tests[0].ordinates[0], 1e5);
+    EXPECT_EQ(now.tests[1].ordinates[0], 1.0);
+    EXPECT_EQ(now.fits.size(), 2U);
+}
+
+TEST_F(FitTab, DoesNotOverwriteMeasurementsThatItCannotRead)
+{
+    Mat::MaterialObject& seal = addMaterial(newProject(), "Seal", vxMat::eMaterialType::Elastomer1);
+    seal.setSetting(setting, "{\"version\": 99}");
+    fitRubberFor(seal);
+    EXPECT_THAT(control<QLabel>("sentence").text().toStdString(), HasSubstr("The kept tests cannot be read"));
+    press("fitApply");
+    EXPECT_EQ(seal.getSetting(setting), "{\"version\": 99}");
+    EXPECT_NEAR(numberOf(seal, Id::MaterialConstantC10), 0.5e6, 500.0);
+    ASSERT_FALSE(Kelta::MessageLog::instance().messages().empty());
+    EXPECT_THAT(Kelta::MessageLog::instance().messages().back().text.toStdString(),
+                HasSubstr("The tests are not kept with \"Seal\""));
+}
+
+TEST_F(FitTab, KeepsTheTestsOfAMaterialWithAnOpenEditor)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    MatGui::MaterialView& editor = edit(seal);
+    const int steps = history().count();
+    fitRubber();
+    press("fitApply");
+    EXPECT_EQ(history().count(), steps + 1);
+    EXPECT_EQ(vxConstitutive::readMeasurements(seal.getSetting(setting)).tests.size(), 1U);
+    EXPECT_TRUE(editor.isWindowModified());
+    history().undo();
+    EXPECT_EQ(seal.getSetting(setting), "");
+    EXPECT_TRUE(editor.isWindowModified());
+    editor.getUndoStack()->undo();
+}
+
+TEST_F(FitTab, LoadsTheTestsThatAMaterialKeeps)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    seal.setSetting(setting, keptText("tension"));
+    pad.setSetting(setting, keptText("pad test"));
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    EXPECT_EQ(page().tests()[0].request.name, "tension");
+    EXPECT_EQ(page().tests()[0].reading.data->ordinates.back(), 3e6);
+    EXPECT_EQ(control<QComboBox>("fitMode").currentText().left(8), "uniaxial");
+    EXPECT_THAT(preview(), HasSubstr("3 points: \"nominal stress\" as nominal stress in Pa against \"stretch\""));
+    fitTests();
+    EXPECT_FALSE(page().results().empty());
+    press("fitRemove");
+    select({&pad});
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    EXPECT_EQ(page().tests()[0].request.name, "pad test");
+}
+
+TEST_F(FitTab, KeepsTheTestsOfTheUserWhenAnotherMaterialIsSelected)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    Mat::MaterialObject& pad =
+        addMaterial(*dynamic_cast<Mat::DocumentMaterial*>(seal.get_project()), "Pad", vxMat::eMaterialType::Elastomer1);
+    pad.setSetting(setting, keptText("pad test"));
+    paste(rubberTable());
+    select({&pad});
+    paste(rubberTable());
+    ASSERT_EQ(page().tests().size(), 2U);
+    EXPECT_EQ(page().tests()[0].request.name, "Test 1");
+}
+
+TEST_F(FitTab, KeepsTestsWhoseKeepingIsUndone)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    pad.setSetting(setting, keptText("pad test"));
+    fitRubberFor(seal);
+    press("fitApply");
+    history().undo();
+    QCoreApplication::processEvents();
+    select({&pad});
+    ASSERT_TRUE(waitFor([this] { return control<QPushButton>("fitApply").text().contains("Pad"); }));
+    ASSERT_EQ(page().tests().size(), 1U);
+    EXPECT_EQ(page().tests()[0].request.name, "Test 1");
+}
+
+TEST_F(FitTab, GivesEachTestANameOfItsOwn)
+{
+    showMaterial();
+    page().addTest(vxInspector::loadTest(QStringLiteral("tension"), rubberTable().toStdString()));
+    page().addTest(vxInspector::loadTest(QStringLiteral("tension"), rubberTable().toStdString()));
+    EXPECT_EQ(page().tests().at(1).request.name, "tension (2)");
 }
 
 TEST_F(FitTab, ShowsTheTestAndTheCurveOfTheSelectedModel)

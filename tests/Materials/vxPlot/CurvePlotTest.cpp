@@ -209,7 +209,7 @@ TEST(CurvePlot, TranslatesNamesOfQuantitiesAndModes)
     request.curves = {{"", &bar}};
     request.translator = [](const char* context, const char* text) { return std::string(context) + ':' + text; };
     const PlotData plot = curvePlot(request);
-    EXPECT_EQ(plot.x.name, "vxConstitutive:stretch");
+    EXPECT_EQ(plot.x.name, "vxConstitutive::Word:stretch");
     EXPECT_THAT(namesOf(plot), ElementsAre("vxPlot:uniaxial"));
 }
 

@@ -2,6 +2,7 @@
 
 #include "curves/ConstitutiveTexts.h"
 #include "curves/CurveRanges.h"
+#include "measured/KeptMeasurements.h"
 #include "values/ValueTable.h"
 #include "values/ValueText.h"
 #include "vxConstitutive/MaterialModels.h"
@@ -10,6 +11,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <deque>
 #include <utility>
 
@@ -22,6 +24,7 @@ using vxConstitutive::Mode;
 using vxConstitutive::Model;
 using vxConstitutive::ModelKind;
 using vxConstitutive::Range;
+using vxConstitutive::TestData;
 
 QString tr(const char* text)
 {
@@ -37,21 +40,22 @@ bool isRubber(const Model& model)
 /// A material with its models.
 struct Modelled
 {
-    const InspectedMaterial& inspected;
+    const DrawnMaterial& inspected;
     vxConstitutive::MaterialModels models;
 };
 
-/// Collects the curves and findings of several materials.
+/// Collects the curves, tests and findings of several materials.
 class Curves
 {
 public:
-    Curves(const std::vector<InspectedMaterial>& materials, const CurveSettings& settings,
+    Curves(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
            const vxUnits::UnitSystem& system)
         : m_settings(settings)
     {
-        for (const InspectedMaterial& inspected : materials)
+        for (const DrawnMaterial& inspected : materials)
             m_materials.push_back({inspected, vxConstitutive::modelsOf(*inspected.material)});
         chooseModes();
+        chooseTests();
         chooseRange();
         drawCurves();
         m_content.plot = vxPlot::curvePlot(plotRequest(system));
@@ -65,18 +69,42 @@ private:
     void chooseModes()
     {
         std::set<Mode> all;
+        std::set<Mode> measured;
         bool hasRubber = false;
-        for (const Modelled& modelled : m_materials)
+        for (const Modelled& modelled : m_materials) {
             for (const auto& model : modelled.models.models) {
                 const std::vector<Mode> modes = model->modes();
                 all.insert(modes.begin(), modes.end());
                 hasRubber = hasRubber || isRubber(*model);
             }
+            for (const TestData& test : testsOf(modelled))
+                measured.insert(test.mode);
+        }
+        all.insert(measured.begin(), measured.end());
         m_content.modes.assign(all.begin(), all.end());
-        m_content.shown = shownModes(m_content.modes, m_settings.modes, hasRubber);
+        const bool showsMeasured = m_settings.modes.empty() && !hasRubber;
+        m_content.shown = shownModes(m_content.modes, showsMeasured ? measured : m_settings.modes, hasRubber);
         const UsualScales usual = usualScales(firstMode());
         m_horizontal = m_settings.horizontal.value_or(usual.horizontal);
         m_vertical = m_settings.vertical.value_or(usual.vertical);
+    }
+
+    static const std::vector<TestData>& testsOf(const Modelled& modelled)
+    {
+        static const std::vector<TestData> none;
+        return modelled.inspected.kept != nullptr ? modelled.inspected.kept->measurements.tests : none;
+    }
+
+    void chooseTests()
+    {
+        for (const Modelled& modelled : m_materials)
+            for (const TestData& test : testsOf(modelled)) {
+                if (std::count(m_content.shown.begin(), m_content.shown.end(), test.mode) == 0)
+                    continue;
+                const std::string material =
+                    m_materials.size() > 1 ? labelOf(modelled.inspected).toStdString() + ", " : std::string();
+                m_tests.push_back({material + test.name, &test});
+            }
     }
 
     Mode firstMode() const { return m_content.shown.empty() ? Mode::Uniaxial : m_content.shown.front(); }
@@ -91,14 +119,22 @@ private:
                     function(modelled, *model, mode);
     }
 
-    /// The range shows what is typical of each curve, unless the user has chosen another one.
+    /// The range shows what is typical of each curve, and all tests, unless the user has chosen another one.
     void chooseRange()
     {
         std::optional<Range> all;
-        forEachCurve([&all](const Modelled& modelled, const Model& model, Mode mode) {
-            const Range one = usualRange(model, mode, *modelled.inspected.material);
+        const auto include = [&all](const Range& one) {
             all = all ? Range{std::min(all->from, one.from), std::max(all->to, one.to)} : one;
+        };
+        forEachCurve([&include](const Modelled& modelled, const Model& model, Mode mode) {
+            include(usualRange(model, mode, *modelled.inspected.material));
         });
+        for (const vxPlot::NamedTest& named : m_tests)
+            for (const double abscissa : named.test->abscissas) {
+                // The curve is drawn against the stretch, and the test is measured with the volume ratio.
+                const double drawn = named.test->mode == Mode::Volumetric ? std::cbrt(abscissa) : abscissa;
+                include({drawn, drawn});
+            }
         Range range = all.value_or(Range{});
         range.from = m_settings.from.value_or(range.from);
         range.to = m_settings.to.value_or(range.to);
@@ -114,13 +150,23 @@ private:
             request.mode = mode;
             request.abscissas = abscissasOf(mode, m_content.range, m_horizontal, *modelled.inspected.material);
             request.compressibility = m_settings.compressibility;
-            request.stresses = creepStresses();
+            request.stresses = stressesOfCreep();
             m_curves.push_back(model.curve(request));
             m_drawn.push_back({labelOf(modelled.inspected).toStdString(), &m_curves.back()});
             m_of.push_back(&modelled.inspected);
             m_content.canBeIncompressible =
                 m_content.canBeIncompressible || isRubber(model) || model.kind() == ModelKind::LinearElasticity;
         });
+    }
+
+    /// Returns the stresses of the creep tests; the usual ones if there are none.
+    std::vector<double> stressesOfCreep() const
+    {
+        std::set<double> stresses;
+        for (const vxPlot::NamedTest& named : m_tests)
+            if (named.test->mode == Mode::Creep)
+                stresses.insert(named.test->parameter);
+        return stresses.empty() ? creepStresses() : std::vector<double>(stresses.begin(), stresses.end());
     }
 
     static QString labelOf(const InspectedMaterial& inspected)
@@ -133,6 +179,7 @@ private:
     {
         vxPlot::CurvePlotRequest request;
         request.curves = m_drawn;
+        request.tests = m_tests;
         request.ordinates = m_settings.ordinates;
         request.horizontal = m_horizontal;
         request.vertical = m_vertical;
@@ -147,29 +194,34 @@ private:
         table.headers = QStringList{tr("Kind"), tr("Finding")};
         if (m_materials.size() > 1)
             table.headers << tr("Material");
-        for (const Modelled& modelled : m_materials)
+        for (const Modelled& modelled : m_materials) {
             add(modelled.inspected, modelled.models.findings);
+            if (modelled.inspected.kept != nullptr && modelled.inspected.kept->fault)
+                add(modelled.inspected, vxConstitutive::Severity::Error, faultText(*modelled.inspected.kept->fault));
+        }
         for (std::size_t i = 0; i < m_curves.size(); ++i)
             add(*m_of[i], m_curves[i].findings);
         if (table.rows.empty())
             table.headers.clear();
     }
 
-    /// A finding that holds for several curves of a material is told once.
     void add(const InspectedMaterial& inspected, const std::vector<Finding>& findings)
     {
-        for (const Finding& finding : findings) {
-            const QString text = translated(finding);
-            const RowPlace place{inspected.projectId, inspected.objectId, 0};
-            const auto isSame = [&](const Row& row) { return row.cells[1].copied() == text && row.place == place; };
-            std::vector<Row>& rows = m_content.findings.rows;
-            if (std::any_of(rows.begin(), rows.end(), isSame))
-                continue;
-            const QString kind = severityText(vxConstitutive::findingRecord(finding.id).severity);
-            Cell cell = textCell(text);
-            cell.text = text;
-            rows.push_back({{{kind}, cell, textCell(inspected.label)}, place});
-        }
+        for (const Finding& finding : findings)
+            add(inspected, vxConstitutive::findingRecord(finding.id).severity, translated(finding));
+    }
+
+    /// A finding that holds for several curves of a material is told once.
+    void add(const InspectedMaterial& inspected, vxConstitutive::Severity severity, const QString& text)
+    {
+        const RowPlace place{inspected.projectId, inspected.objectId, 0};
+        const auto isSame = [&](const Row& row) { return row.cells[1].copied() == text && row.place == place; };
+        std::vector<Row>& rows = m_content.findings.rows;
+        if (std::any_of(rows.begin(), rows.end(), isSame))
+            return;
+        Cell cell = textCell(text);
+        cell.text = text;
+        rows.push_back({{{severityText(severity)}, cell, textCell(inspected.label)}, place});
     }
 
     void tellSentence()
@@ -197,6 +249,7 @@ private:
     vxPlot::Scale m_vertical = vxPlot::Scale::Linear;
     std::deque<vxConstitutive::Curve> m_curves; // which does not move them
     std::vector<vxPlot::NamedCurve> m_drawn;
+    std::vector<vxPlot::NamedTest> m_tests;     ///< of the shown modes
     std::vector<const InspectedMaterial*> m_of; ///< the material of each curve
     CurvesContent m_content;
 };
@@ -227,7 +280,7 @@ std::vector<Mode> shownModes(const std::vector<Mode>& available, const std::set<
     return modes.empty() ? filtered(usualModes(available, hasRubber)) : modes;
 }
 
-CurvesContent curvesOf(const std::vector<InspectedMaterial>& materials, const CurveSettings& settings,
+CurvesContent curvesOf(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
                        const vxUnits::UnitSystem& system)
 {
     return Curves(materials, settings, system).take();

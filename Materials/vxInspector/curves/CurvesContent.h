@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measured/KeptMeasurements.h"
 #include "subject/InspectedMaterial.h"
 #include "table/TableContent.h"
 #include "vxConstitutive/Curve.h"
@@ -8,6 +9,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <set>
 #include <vector>
@@ -17,6 +19,12 @@ namespace vxInspector {
 
 /// The most materials in a plot.
 inline constexpr std::size_t mostDrawn = 20;
+
+/// A material whose curves and tests are drawn.
+struct DrawnMaterial : InspectedMaterial
+{
+    std::shared_ptr<const KeptMeasurements> kept = {}; ///< null if there are none
+};
 
 /// What the user has chosen. What is absent is chosen by the materials.
 struct CurveSettings
@@ -34,7 +42,7 @@ struct CurveSettings
 struct CurvesContent
 {
     QString sentence;                             ///< why there are no curves, or of which materials they are
-    std::vector<vxConstitutive::Mode> modes = {}; ///< that the materials have, in the order of Mode
+    std::vector<vxConstitutive::Mode> modes = {}; ///< that the materials have models or tests of, in the order of Mode
     std::vector<vxConstitutive::Mode> shown = {}; ///< which fit into one plot
     bool canBeIncompressible = false;             ///< whether a shown curve depends on the compressibility
     vxConstitutive::Range range = {};             ///< SI
@@ -42,8 +50,8 @@ struct CurvesContent
     TableContent findings = {};
 };
 
-/// Returns the curves of materials in a unit system.
-CurvesContent curvesOf(const std::vector<InspectedMaterial>& materials, const CurveSettings& settings,
+/// Returns the curves and tests of materials in a unit system.
+CurvesContent curvesOf(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
                        const vxUnits::UnitSystem& system);
 
 /// Returns the modes that are shown if `chosen` was chosen of `available`: those that fit to the first of them; if there

@@ -140,6 +140,7 @@ void CurvesPage::connectControls()
     const auto guard = [](auto action) {
         return [action] { Kelta::guarded(tr("The curves cannot be drawn"), action); };
     };
+    connect(m_modeMenu, &QMenu::aboutToShow, this, guard([this] { fillModeMenu(); }));
     connect(m_ordinates, QOverload<int>::of(&QComboBox::activated), this, guard([this] {
                 m_settings.ordinates = static_cast<std::size_t>(std::max(m_ordinates->currentIndex(), 0));
                 Q_EMIT chosen();
@@ -199,7 +200,7 @@ void CurvesPage::setSentence(const QString& sentence)
     m_findings->hide();
 }
 
-void CurvesPage::setMaterials(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system,
+void CurvesPage::setMaterials(const std::vector<DrawnMaterial>& materials, const vxUnits::UnitSystem& system,
                               const QString& limit)
 {
     CurvesContent content = curvesOf(materials, m_settings, system);
@@ -213,10 +214,12 @@ void CurvesPage::showContent(CurvesContent content)
 {
     m_sentence->setText(content.sentence);
     m_sentence->setHidden(content.sentence.isEmpty());
+    m_available = content.modes;
     m_shown = content.shown;
+    m_canBeIncompressible = content.canBeIncompressible;
     showControls(!m_shown.empty());
     if (!m_shown.empty()) {
-        fillModes(content);
+        showModes();
         fillOrdinates(content);
         fillRange(content);
         fillScales(content);
@@ -226,33 +229,42 @@ void CurvesPage::showContent(CurvesContent content)
     m_plot->setPlot(std::move(content.plot));
 }
 
-/// The menu is made again while it is closed only.
-void CurvesPage::fillModes(const CurvesContent& content)
+void CurvesPage::showModes()
 {
     const vxUnits::Translator translator = constitutiveTranslator();
     QStringList names;
-    for (const Mode mode : content.shown)
+    for (const Mode mode : m_shown)
         names << QString::fromStdString(vxPlot::shortModeName(mode, translator));
     m_modeNames = names.join(QStringLiteral(", "));
     m_modes->setAccessibleName(tr("Tests: %1").arg(m_modeNames));
     elideModes();
-    if (m_modeMenu->isVisible())
-        return;
+}
+
+/// Fills the menu before it opens: an action must not be deleted while it is being triggered.
+void CurvesPage::fillModeMenu()
+{
     m_modeMenu->clear();
-    for (std::size_t i = 0; i < content.modes.size(); ++i) {
-        const Mode mode = content.modes[i];
-        if (i > 0 && !vxPlot::fitTogether(content.modes[i - 1], mode))
+    for (std::size_t i = 0; i < m_available.size(); ++i) {
+        if (i > 0 && !vxPlot::fitTogether(m_available[i - 1], m_available[i]))
             m_modeMenu->addSeparator();
-        QAction* const action =
-            m_modeMenu->addAction(QCoreApplication::translate("vxConstitutive", vxConstitutive::modeRecord(mode).name));
-        action->setCheckable(true);
-        action->setChecked(std::count(content.shown.begin(), content.shown.end(), mode) != 0);
-        connect(action, &QAction::triggered, this, [this, mode](bool isOn) {
-            Kelta::guarded(tr("The curves cannot be drawn"), [this, mode, isOn] { chooseMode(mode, isOn); });
-        });
+        addMode(m_available[i]);
     }
-    if (!content.canBeIncompressible)
-        return;
+    if (m_canBeIncompressible)
+        addCompressibility();
+}
+
+void CurvesPage::addMode(Mode mode)
+{
+    QAction* const action = m_modeMenu->addAction(constitutiveWord(vxConstitutive::modeRecord(mode).name));
+    action->setCheckable(true);
+    action->setChecked(std::count(m_shown.begin(), m_shown.end(), mode) != 0);
+    connect(action, &QAction::triggered, this, [this, mode](bool isOn) {
+        Kelta::guarded(tr("The curves cannot be drawn"), [this, mode, isOn] { chooseMode(mode, isOn); });
+    });
+}
+
+void CurvesPage::addCompressibility()
+{
     using vxConstitutive::Compressibility;
     m_modeMenu->addSeparator();
     QAction* const action = m_modeMenu->addAction(tr("Draw as incompressible"));
@@ -307,7 +319,7 @@ void CurvesPage::fillOrdinates(const CurvesContent& content)
     const QSignalBlocker blocker(m_ordinates);
     m_ordinates->clear();
     for (const vxPlot::Ordinates& one : choices) {
-        const QString name = QCoreApplication::translate("vxConstitutive", one.name);
+        const QString name = constitutiveWord(one.name);
         m_ordinates->addItem(name == QLatin1String(one.name) ? QCoreApplication::translate("vxPlot", one.name) : name);
     }
     m_settings.ordinates = std::min(m_settings.ordinates, choices.size() - 1);

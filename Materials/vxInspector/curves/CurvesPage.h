@@ -25,7 +25,7 @@ public:
     ~CurvesPage() override;
 
     /// Shows the curves of materials.
-    void setMaterials(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system,
+    void setMaterials(const std::vector<DrawnMaterial>& materials, const vxUnits::UnitSystem& system,
                       const QString& limit);
     /// Shows only a sentence.
     void setSentence(const QString& sentence);
@@ -45,7 +45,10 @@ private:
     void elideModes();
     void connectControls();
     void showContent(CurvesContent content);
-    void fillModes(const CurvesContent& content);
+    void showModes();
+    void fillModeMenu();
+    void addMode(vxConstitutive::Mode mode);
+    void addCompressibility();
     void fillOrdinates(const CurvesContent& content);
     void fillRange(const CurvesContent& content);
     void fillScales(const CurvesContent& content);
@@ -55,7 +58,9 @@ private:
     void showControls(bool isShown);
 
     CurveSettings m_settings;
+    std::vector<vxConstitutive::Mode> m_available; ///< that the materials have
     std::vector<vxConstitutive::Mode> m_shown;
+    bool m_canBeIncompressible = false;
     std::vector<vxConstitutive::Mode> m_ordinatesOf; ///< the modes whose ordinates are in the choice
     std::string m_rangeUnit;
     QString m_modeNames;

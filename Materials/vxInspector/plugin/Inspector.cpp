@@ -132,7 +132,7 @@ void Inspector::fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem
         return m_fit->setSubject(subject, system);
     if (m_tabs->currentWidget() != m_curves)
         return fillTable(subject, system);
-    const DrawnMaterials drawn = drawnMaterials(subject);
+    const DrawnMaterials drawn = drawnMaterials(subject, m_measurements);
     if (drawn.materials.empty())
         m_curves->setSentence(drawn.sentence);
     else

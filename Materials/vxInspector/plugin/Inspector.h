@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measured/KeptMeasurements.h"
 #include "vxUnits/UnitSystem.h"
 
 #include <QTabWidget>
@@ -54,6 +55,7 @@ private:
     TabPage* m_compare;
     CurvesPage* m_curves;
     FitPage* m_fit;
+    MeasurementsCache m_measurements;
     std::string m_ofProject; ///< the unit system of the project in the first entry of the choice
 };
 

@@ -2,7 +2,6 @@
 
 #include "cards/CardTable.h"
 #include "compare/CompareTable.h"
-#include "curves/CurvesContent.h"
 #include "findings/FindingTable.h"
 #include "subject/SubjectWatch.h"
 #include "values/ValueTable.h"
@@ -130,13 +129,18 @@ TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& syste
     return table;
 }
 
-DrawnMaterials drawnMaterials(const Subject& subject)
+DrawnMaterials drawnMaterials(const Subject& subject, MeasurementsCache& cache)
 {
     if (subject.materials.empty())
         return {emptySentence(subject)};
     if (subject.kind == Kind::Project)
         return {tr("A project is selected. Select one or more materials to see their curves.")};
-    DrawnMaterials drawn{{}, inspectFirst(subject, mostDrawn)};
+    DrawnMaterials drawn;
+    for (std::size_t i = 0; i < std::min(subject.materials.size(), mostDrawn); ++i) {
+        const Mat::MaterialObject& object = *subject.materials[i];
+        drawn.materials.push_back(
+            {inspect(object), cache.read(object.getSetting(vxConstitutive::measurementsSetting))});
+    }
     if (subject.materials.size() > mostDrawn)
         drawn.limit = tr("Only the first %1 of %2 materials are shown.").arg(mostDrawn).arg(subject.materials.size());
     return drawn;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "subject/InspectedMaterial.h"
+#include "curves/CurvesContent.h"
 #include "subject/Subject.h"
 #include "table/TableContent.h"
 #include "vxUnits/UnitSystem.h"
@@ -20,13 +20,13 @@ TableContent cardsTab(const Subject& subject);
 /// Returns the comparison of all materials.
 TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& system);
 
-/// The materials whose curves are drawn.
+/// The materials whose curves and tests are drawn.
 struct DrawnMaterials
 {
     QString sentence = {}; ///< why there are none
-    std::vector<InspectedMaterial> materials = {};
+    std::vector<DrawnMaterial> materials = {};
     QString limit = {}; ///< says that further ones are not drawn; empty if all are
 };
-DrawnMaterials drawnMaterials(const Subject& subject);
+DrawnMaterials drawnMaterials(const Subject& subject, MeasurementsCache& cache);
 
 } // namespace vxInspector

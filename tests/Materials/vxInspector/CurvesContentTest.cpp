@@ -3,6 +3,7 @@
 #include "curves/CurvesContent.h"
 
 #include "curves/ConstitutiveTexts.h"
+#include "measured/KeptMeasurements.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/PropertyId.h"
 
@@ -19,7 +20,7 @@ using testing::IsEmpty;
 using vxConstitutive::Mode;
 using vxInspector::CurvesContent;
 using vxInspector::CurveSettings;
-using vxInspector::InspectedMaterial;
+using InspectedMaterial = vxInspector::DrawnMaterial;
 using Id = vxMat::PropertyId;
 
 using Numbers = std::vector<std::pair<int, std::string>>;
@@ -225,12 +226,84 @@ TEST(CurvesContent, UsesLogarithmicAxesWhereTheyAreUsual)
     EXPECT_THAT(x[1] / x[0], DoubleNear(x[200] / x[199], 1e-9));
 }
 
+/// A tensile test of a rubber.
+vxConstitutive::TestData tension(Mode mode = Mode::Uniaxial)
+{
+    return {"tension", mode, {1.5, 2.0}, {1e6, 1.75e6}};
+}
+
+InspectedMaterial withTests(InspectedMaterial one, std::vector<vxConstitutive::TestData> tests)
+{
+    one.kept = std::make_shared<vxInspector::KeptMeasurements>(
+        vxInspector::KeptMeasurements{{std::move(tests), {}}, std::nullopt});
+    return one;
+}
+
+TEST(CurvesContent, ShowsTheKeptTestsOfTheShownModes)
+{
+    const CurvesContent content = drawn(withTests(rubber(), {tension(), tension(Mode::SimpleShear)}));
+    EXPECT_THAT(namesOf(content), ElementsAre("uniaxial", "equibiaxial", "planar", "tension"));
+    EXPECT_EQ(content.plot.series[3].kind, vxPlot::SeriesKind::Symbols);
+    EXPECT_EQ(content.plot.series[3].style, content.plot.series[0].style);
+    EXPECT_THAT(content.plot.series[3].y, ElementsAre(testing::DoubleEq(1.0), testing::DoubleEq(1.75)));
+}
+
+TEST(CurvesContent, NamesTheMaterialOfATestIfThereAreSeveral)
+{
+    std::vector<InspectedMaterial> materials;
+    materials.push_back(withTests(rubber("Seal"), {tension()}));
+    materials.push_back(withTests(rubber("Pad"), {tension()}));
+    CurveSettings settings;
+    settings.modes = {Mode::Uniaxial};
+    EXPECT_THAT(namesOf(drawn(std::move(materials), settings)),
+                ElementsAre("Seal", "Pad", "Seal, tension", "Pad, tension"));
+}
+
+TEST(CurvesContent, ShowsTestsOfAMaterialWithoutAModel)
+{
+    const CurvesContent content = drawn(withTests(material("New", {{Id::Density, "1200"}}), {tension()}));
+    EXPECT_THAT(content.shown, ElementsAre(Mode::Uniaxial));
+    EXPECT_THAT(namesOf(content), ElementsAre("tension"));
+    EXPECT_EQ(content.range.to, 2.0);
+}
+
+TEST(CurvesContent, ShowsTheModeInWhichAMetalWasTested)
+{
+    vxConstitutive::TestData test{"bar", Mode::Tensile, {0.01, 0.05}, {3e8, 4e8}};
+    EXPECT_THAT(drawn(withTests(steel(), {test})).shown, ElementsAre(Mode::Tensile));
+}
+
+TEST(CurvesContent, DrawsCreepAtTheStressesOfTheTests)
+{
+    InspectedMaterial blade = material(
+        "Blade", {{Id::Creep, "1"}, {Id::CreepModulusA, "1e-40"}, {Id::CreepModulusN, "4"}, {Id::CreepModulusM, "0"}});
+    const CurvesContent content =
+        drawn(withTests(std::move(blade), {{"slow", Mode::Creep, {1.0, 1e6}, {1e-9, 1e-3}, 7e7}}));
+    EXPECT_EQ(content.plot.series.size(), 2U);
+    EXPECT_NEAR(content.plot.series.at(0).y.back() / content.plot.series[0].x.back(), 1e-40 * std::pow(7e7, 4.0),
+                1e-12);
+}
+
+TEST(MeasurementsCache, ReadsATextOnce)
+{
+    vxInspector::MeasurementsCache cache;
+    EXPECT_EQ(cache.read(""), nullptr);
+    const std::string text = vxConstitutive::writeMeasurements({{tension()}, {}});
+    const auto first = cache.read(text);
+    ASSERT_EQ(first->measurements.tests.size(), 1U);
+    EXPECT_TRUE(cache.read("{")->fault);
+    EXPECT_EQ(cache.read(text), first);
+    for (int i = 0; i < 20; ++i)
+        cache.read(std::string(static_cast<std::size_t>(i), ' ') + '{');
+    EXPECT_NE(cache.read(text), first);
+}
+
 TEST(CurvesContent, PutsTheArgumentsIntoTheTextsOfFindings)
 {
     using namespace vxConstitutive;
     const QString text = vxInspector::translated(
         makeFinding(FindingId::ConstantNotPositive, {std::string("Neo-Hookean"), std::string("%2"), -1.0}));
-    EXPECT_EQ(text, "Neo-Hookean: the constant \"%2\" is -1; it must be greater than 0.");
+    EXPECT_EQ(text, "Neo-Hookean: the constant %2 is -1. It must be greater than 0.");
 }
 
 } // namespace

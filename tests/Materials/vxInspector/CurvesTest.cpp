@@ -7,6 +7,8 @@
 #include "curves/CurvesPage.h"
 #include "plot/PlotView.h"
 #include "table/ContentView.h"
+#include "vxConstitutive/record/Measurements.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -24,6 +26,8 @@
 #include <qwt_legend_label.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -71,12 +75,27 @@ protected:
         return *page().findChild<Widget*>(QLatin1String(name));
     }
 
-    QAction& mode(const char* text) const
+    /// Opens the menu of the tests and clicks an entry.
+    void chooseMode(const char* text) const
     {
-        for (QAction* const action : control<QMenu>("curveModeMenu").actions())
+        auto& menu = control<QMenu>("curveModeMenu");
+        menu.popup(control<QToolButton>("curveModes").mapToGlobal(QPoint()));
+        for (QAction* const action : menu.actions())
             if (action->text() == QLatin1String(text))
-                return *action;
+                return QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
         throw std::logic_error("there is no such test");
+    }
+
+    bool isChecked(const char* text) const
+    {
+        auto& menu = control<QMenu>("curveModeMenu");
+        menu.popup(QPoint());
+        const auto actions = menu.actions();
+        const auto found = std::find_if(actions.begin(), actions.end(),
+                                        [&](QAction* action) { return action->text() == QLatin1String(text); });
+        const bool isOn = found != actions.end() && (*found)->isChecked();
+        menu.close();
+        return isOn;
     }
 
     /// Drags a rectangle over the middle of the plot.
@@ -144,14 +163,43 @@ TEST_F(CurvesTab, SaysHowManyOfManyMaterialsAreDrawn)
 TEST_F(CurvesTab, DrawsTheChosenTests)
 {
     showRubber();
-    mode("equibiaxial tension").trigger();
+    chooseMode("equibiaxial tension");
     EXPECT_TRUE(waitFor([this] { return names() == std::vector<std::string>{"uniaxial", "planar"}; }));
-    mode("simple shear").trigger();
+    chooseMode("simple shear");
     EXPECT_TRUE(waitFor([this] { return plot().plot().x.name == "amount of shear"; }));
     EXPECT_EQ(control<QToolButton>("curveModes").text(), "simple shear");
-    mode("simple shear").trigger();
+    EXPECT_TRUE(isChecked("simple shear"));
+    EXPECT_FALSE(isChecked("planar tension"));
+    chooseMode("simple shear");
     QCoreApplication::processEvents();
     EXPECT_EQ(plot().plot().x.name, "amount of shear");
+}
+
+TEST_F(CurvesTab, ShowsTheTestsThatTheMaterialKeeps)
+{
+    Mat::MaterialObject& seal = showRubber();
+    const std::string text = vxConstitutive::writeMeasurements(
+        {{{"tension", vxConstitutive::Mode::Uniaxial, {1.5, 2.0, 7.0}, {1e6, 1.75e6, 3e6}}}, {}});
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().setSetting(seal, vxConstitutive::measurementsSetting, text));
+    ASSERT_TRUE(waitFor([this] { return names().size() == 4; }));
+    EXPECT_THAT(names(), ElementsAre("uniaxial", "equibiaxial", "planar", "tension"));
+    EXPECT_EQ(plot().plot().series[3].kind, vxPlot::SeriesKind::Symbols);
+    EXPECT_THAT(plot().plot().series[3].y, ElementsAre(1e6, 1.75e6, 3e6));
+    EXPECT_EQ(plot().plot().series[0].x.back(), 7.0);
+    history().undo();
+    EXPECT_TRUE(waitFor([this] { return names().size() == 3; }));
+}
+
+TEST_F(CurvesTab, TellsThatKeptTestsCannotBeRead)
+{
+    Mat::MaterialObject& seal = showRubber();
+    EXPECT_TRUE(vxMsg::MessageProxy::instance().setSetting(seal, vxConstitutive::measurementsSetting, "{"));
+    EXPECT_TRUE(waitFor([this] {
+        const QAbstractItemModel& findings = *page().findings().model();
+        return findings.index(0, 0).data().toString() == QLatin1String("Error") &&
+               findings.index(0, 1).data().toString().startsWith(QLatin1String("The kept tests cannot be read"));
+    }));
+    EXPECT_EQ(names().size(), 3U);
 }
 
 TEST_F(CurvesTab, DrawsTheChosenRangeAndQuantity)

@@ -3894,6 +3894,10 @@ Trotzdem löschen?</translation>
         <source>Apply fit</source>
         <translation>Anpassung übernehmen</translation>
     </message>
+    <message>
+        <source>Apply fit to &quot;%1&quot;</source>
+        <translation>Anpassung auf &quot;%1&quot; anwenden</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FitPage</name>
@@ -4054,12 +4058,16 @@ Trotzdem löschen?</translation>
         <translation>&amp;Übernehmen</translation>
     </message>
     <message>
-        <source>Write the constants of the selected model into the material. The change can be undone.</source>
-        <translation>Die Konstanten des ausgewählten Modells in das Material schreiben. Die Änderung kann rückgängig gemacht werden.</translation>
-    </message>
-    <message>
         <source>Select a material that gets the constants.</source>
         <translation>Wählen Sie ein Material aus, das die Konstanten erhält.</translation>
+    </message>
+    <message>
+        <source>Write the constants of the selected model into the material, and keep the tests with it. The change can be undone.</source>
+        <translation>Schreibt die Konstanten des gewählten Modells in den Werkstoff und bewahrt die Versuche bei ihm auf. Die Änderung kann rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>The tests are not kept with &quot;%1&quot;</source>
+        <translation>Die Versuche werden nicht bei &quot;%1&quot; aufbewahrt</translation>
     </message>
 </context>
 <context>
@@ -4205,6 +4213,17 @@ Trotzdem löschen?</translation>
     <message>
         <source>The inspector cannot be updated</source>
         <translation>Der Inspektor kann nicht aktualisiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::KeptMeasurements</name>
+    <message>
+        <source>The kept tests cannot be read: %1. They are left as they are.</source>
+        <translation>Die aufbewahrten Versuche können nicht gelesen werden: %1. Sie bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>The tests cannot be written: %1.</source>
+        <translation>Die Versuche können nicht geschrieben werden: %1.</translation>
     </message>
 </context>
 <context>

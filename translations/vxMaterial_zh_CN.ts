@@ -3893,6 +3893,10 @@ Delete anyway?</source>
         <source>Apply fit</source>
         <translation>应用拟合</translation>
     </message>
+    <message>
+        <source>Apply fit to &quot;%1&quot;</source>
+        <translation>将拟合应用于“%1”</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FitPage</name>
@@ -4053,12 +4057,16 @@ Delete anyway?</source>
         <translation>应用(&amp;A)</translation>
     </message>
     <message>
-        <source>Write the constants of the selected model into the material. The change can be undone.</source>
-        <translation>将所选模型的常数写入材料。此更改可以撤销。</translation>
-    </message>
-    <message>
         <source>Select a material that gets the constants.</source>
         <translation>请选择接收常数的材料。</translation>
+    </message>
+    <message>
+        <source>Write the constants of the selected model into the material, and keep the tests with it. The change can be undone.</source>
+        <translation>将所选模型的常数写入材料，并随材料保存试验。此更改可以撤销。</translation>
+    </message>
+    <message>
+        <source>The tests are not kept with &quot;%1&quot;</source>
+        <translation>试验未随“%1”保存</translation>
     </message>
 </context>
 <context>
@@ -4204,6 +4212,17 @@ Delete anyway?</source>
     <message>
         <source>The inspector cannot be updated</source>
         <translation>无法更新检查器</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::KeptMeasurements</name>
+    <message>
+        <source>The kept tests cannot be read: %1. They are left as they are.</source>
+        <translation>无法读取保存的试验：%1。这些试验保持不变。</translation>
+    </message>
+    <message>
+        <source>The tests cannot be written: %1.</source>
+        <translation>无法写入试验：%1。</translation>
     </message>
 </context>
 <context>

@@ -125,15 +125,7 @@ vxConstitutive::Measurements readMeasurements(const FitTarget& target, const Obj
 void keepMeasurements(const FitTarget& target, const KeptFit& fit, ObjectRecord& object)
 {
     vxConstitutive::Measurements kept = readMeasurements(target, object);
-    for (const vxConstitutive::TestData& test : *fit.tests) {
-        const auto same = std::find_if(kept.tests.begin(), kept.tests.end(),
-                                       [&](const vxConstitutive::TestData& one) { return one.name == test.name; });
-        if (same == kept.tests.end())
-            kept.tests.push_back(test);
-        else
-            *same = test;
-    }
-    kept.fits.push_back(fit.record);
+    kept.addFit(*fit.tests, fit.record);
     try {
         object.settings[vxConstitutive::measurementsSetting] = writeMeasurements(kept);
     } catch (const vxConstitutive::MeasurementsError& error) {

@@ -1,8 +1,22 @@
 #include "vxConstitutive/record/Measurements.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vxConstitutive {
+
+void Measurements::addFit(const std::vector<TestData>& fitted, FitRecord record)
+{
+    for (const TestData& test : fitted) {
+        const auto same =
+            std::find_if(tests.begin(), tests.end(), [&test](const TestData& one) { return one.name == test.name; });
+        if (same == tests.end())
+            tests.push_back(test);
+        else
+            *same = test;
+    }
+    fits.push_back(std::move(record));
+}
 
 FitRecord recordFit(const FitResult& result, ErrorMeasure error)
 {

@@ -40,6 +40,9 @@ struct Measurements
     std::vector<FitRecord> fits; ///< the latest is last
 
     bool empty() const { return tests.empty() && fits.empty(); }
+
+    /// Adds the tests and the record of a fit. A test replaces a test of the same name.
+    VXCONSTITUTIVE_EXPORT void addFit(const std::vector<TestData>& fitted, FitRecord record);
 };
 
 /// Returns the record of a fit; the demand for stability is left for the caller to add.

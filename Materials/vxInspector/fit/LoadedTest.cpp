@@ -28,8 +28,8 @@ QString columnText(const LoadedTest& test, const vxConstitutive::ColumnChoice& c
     if (!choice.column || *choice.column >= test.table->columns.size())
         return {};
     const vxConstitutive::TableColumn& column = test.table->columns[*choice.column];
-    const QString name = column.name.empty() ? tr("column %1").arg(*choice.column + 1)
-                                             : tr(R"("%1")").arg(QString::fromStdString(column.name));
+    QString name = column.name.empty() ? tr("column %1").arg(*choice.column + 1)
+                                       : tr(R"("%1")").arg(QString::fromStdString(column.name));
     if (!choice.measure || !choice.unit)
         return name;
     return tr("%1 as %2 in %3")

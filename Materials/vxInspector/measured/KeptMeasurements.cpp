@@ -23,16 +23,6 @@ QString reasonText(const vxjson::JsonError& fault)
     return reason.contains(QLatin1String("%1")) ? reason.arg(QString::fromStdString(fault.shown)) : reason;
 }
 
-void replaceOrAdd(const TestData& test, std::vector<TestData>& tests)
-{
-    const auto same =
-        std::find_if(tests.begin(), tests.end(), [&test](const TestData& one) { return one.name == test.name; });
-    if (same == tests.end())
-        tests.push_back(test);
-    else
-        *same = test;
-}
-
 } // namespace
 
 KeptMeasurements readMeasurements(const std::string& text)
@@ -60,9 +50,7 @@ std::string addFit(const std::string& text, const std::vector<TestData>& tests, 
     KeptMeasurements kept = readMeasurements(text);
     if (kept.fault)
         throw std::runtime_error(faultText(*kept.fault).toStdString());
-    for (const TestData& test : tests)
-        replaceOrAdd(test, kept.measurements.tests);
-    kept.measurements.fits.push_back(std::move(record));
+    kept.measurements.addFit(tests, std::move(record));
     try {
         return vxConstitutive::writeMeasurements(kept.measurements);
     } catch (const MeasurementsError& error) {

@@ -243,6 +243,24 @@ TEST(Measurements, KeepResultsThatAreNotFinite)
     EXPECT_TRUE(std::isnan(read.fits[0].rSquared));
 }
 
+TEST(Measurements, ReplaceATestOfTheSameNameIfAFitIsAdded)
+{
+    Measurements measurements;
+    measurements.tests = {TestData{"tension", Mode::Uniaxial, {1.0}, {0.0}},
+                          TestData{"shear", Mode::SimpleShear, {0.1}, {2.0}}};
+    FitRecord record;
+    record.model = "Neo-Hookean";
+    measurements.addFit(
+        {TestData{"tension", Mode::Uniaxial, {1.5}, {3.0}}, TestData{"relaxation", Mode::Relaxation, {1.0}, {4.0}}},
+        record);
+    ASSERT_EQ(measurements.tests.size(), 3U);
+    EXPECT_EQ(measurements.tests[0].abscissas, std::vector<double>{1.5});
+    EXPECT_EQ(measurements.tests[1].name, "shear");
+    EXPECT_EQ(measurements.tests[2].name, "relaxation");
+    ASSERT_EQ(measurements.fits.size(), 1U);
+    EXPECT_EQ(measurements.fits[0].model, "Neo-Hookean");
+}
+
 TEST(Measurements, TellHowAModelWasFitted)
 {
     HyperelasticFitRequest request;

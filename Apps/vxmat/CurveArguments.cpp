@@ -4,6 +4,8 @@
 #include "Arguments.h"
 #include "ShownUnits.h"
 
+#include "vxMaterial/model/NumberText.h"
+
 #include <string_view>
 #include <utility>
 
@@ -114,7 +116,7 @@ Mode readMode(const std::string& option, const std::string& key)
 vxConstitutive::ModelKind readModelKind(const std::string& option, const std::string& key)
 {
     for (const vxConstitutive::ModelRecord& record : vxConstitutive::modelRecords()) {
-        if (key == record.key)
+        if (vxMat::equalIgnoringAsciiCase(key, record.key))
             return record.kind;
     }
     throw Failure(option + ": \"" + key + "\" is not a model; the models are " +

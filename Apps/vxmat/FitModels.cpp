@@ -152,7 +152,7 @@ const FitModelRecord& findModel(const std::string& key)
 {
     std::string possible = "all";
     for (const FitModelRecord& record : fitModelRecords()) {
-        if (key == record.key)
+        if (vxMat::equalIgnoringAsciiCase(key, record.key))
             return record;
         possible += ", " + std::string(record.key);
     }

@@ -82,7 +82,7 @@ const ModeRecord& modeRecord(Mode mode)
 std::optional<Mode> findMode(std::string_view key)
 {
     for (const ModeRecord& record : modeTable()) {
-        if (key == record.key)
+        if (vxMat::equalIgnoringAsciiCase(key, record.key))
             return record.mode;
     }
     return std::nullopt;

@@ -86,7 +86,7 @@ struct ModeRecord
 VXCONSTITUTIVE_EXPORT const std::vector<ModeRecord>& modeRecords();
 VXCONSTITUTIVE_EXPORT const ModeRecord& modeRecord(Mode mode);
 
-/// Returns the mode with a key; nothing if there is none.
+/// Returns the mode with a key, in upper or lower case; nothing if there is none.
 VXCONSTITUTIVE_EXPORT std::optional<Mode> findMode(std::string_view key);
 
 /// Returns all quantities, in the order of Quantity.

@@ -109,6 +109,15 @@ TEST_F(CurveOfProject, IsInTheUnitsOfTheOption)
     EXPECT_THAT(numbersOf(lines[1]), near({2.0, 1.75, 3.5}));
 }
 
+TEST_F(CurveOfProject, TakesModesAndModelsInUpperCase)
+{
+    makeNeoHookean();
+    const Outcome lower = vxmat({"curve", file(), "--mode", "uniaxial", "--model", "neo-hooke", "--at", "1, 2"});
+    const Outcome upper = vxmat({"curve", file(), "--mode", "Uniaxial", "--model", "Neo-Hooke", "--at", "1, 2"});
+    EXPECT_EQ(upper.status, 0) << upper.err;
+    EXPECT_EQ(upper.out, lower.out);
+}
+
 TEST_F(CurveOfProject, AddsTangentsOnlyIfAsked)
 {
     makeNeoHookean();

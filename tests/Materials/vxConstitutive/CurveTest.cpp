@@ -34,7 +34,8 @@ TEST(CurveVocabulary, KeysAreUniqueAndFindTheirModes)
     for (const FindingRecord& record : findingRecords())
         EXPECT_TRUE(keys.insert(record.key).second) << record.key;
     EXPECT_EQ(findMode("simple-shear"), Mode::SimpleShear);
-    EXPECT_EQ(findMode("Simple-Shear"), std::nullopt);
+    EXPECT_EQ(findMode("Simple-Shear"), Mode::SimpleShear);
+    EXPECT_EQ(findMode("simple shear"), std::nullopt);
     EXPECT_EQ(findMode(""), std::nullopt);
 }
 

@@ -3868,6 +3868,10 @@ Trotzdem löschen?</translation>
         <source>The last %1 are not listed.</source>
         <translation>Die letzten %1 sind nicht aufgeführt.</translation>
     </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FindingsPage</name>

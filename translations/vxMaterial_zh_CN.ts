@@ -3867,6 +3867,10 @@ Delete anyway?</source>
         <source>The last %1 are not listed.</source>
         <translation>最后 %1 个未列出。</translation>
     </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FindingsPage</name>

@@ -336,7 +336,7 @@ void FitPage::readKept(const Mat::MaterialObject& object)
         return;
     if (isSameMaterial && !m_tests.empty())
         m_hasOwnTests = true;
-    else if (!tests.empty())
+    else
         setTests(tests);
 }
 

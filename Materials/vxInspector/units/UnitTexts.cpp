@@ -30,6 +30,15 @@ QString translated(const vxUnits::Failure& failure)
     return QString::fromStdString(failure.text(translate));
 }
 
+QString translated(vxUnits::Failure failure, const std::string& typed)
+{
+    for (std::string& argument : failure.message.arguments) {
+        if (argument != typed)
+            argument = translate("vxMat::PropertyName", argument.c_str());
+    }
+    return translated(failure);
+}
+
 QString translated(const vxUnits::Doubt& doubt)
 {
     return QString::fromStdString(doubt.text(translateWithNames));

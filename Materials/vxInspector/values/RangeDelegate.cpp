@@ -104,7 +104,7 @@ void RangeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIn
     }
     const QStyle* const style = option->widget != nullptr ? option->widget->style() : QApplication::style();
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
-    const int width = option->rect.width() - 2 * margin;
+    const int width = option->rect.width() - 2 * margin - 1; // advances are rounded
     if (width > 0)
         option->text = breakable(option->text, QFontMetrics(option->font), width);
 }

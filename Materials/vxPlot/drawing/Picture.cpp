@@ -58,14 +58,14 @@ QImage image(PrintedPlot& plot, const QSize& size)
     QImage image(size * scale, QImage::Format_RGB32);
     if (image.isNull())
         return image;
-    const int dots = static_cast<int>(plot.dotsInInch() * scale / metresInInch + 0.5);
+    const int dots = qRound(plot.dotsInInch() * scale / metresInInch);
     image.setDotsPerMeterX(dots);
     image.setDotsPerMeterY(dots);
     QPainter painter(&image);
     plot.paint(painter, QRectF(QPointF(), image.size()));
     painter.end();
     // What the file says about its size does not depend on the screen.
-    const int written = static_cast<int>(pixelsInInch * scale / metresInInch + 0.5);
+    const int written = qRound(pixelsInInch * scale / metresInInch);
     image.setDotsPerMeterX(written);
     image.setDotsPerMeterY(written);
     return image;

@@ -63,7 +63,7 @@ public:
                 continue;
             }
             if (i > from)
-                m_runs.push_back({from, i - 1});
+                m_runs.emplace_back(from, i - 1);
             from = i + 1;
         }
         m_bounds = bounds;

@@ -47,9 +47,9 @@ PlotLook screenLook(const QWidget& widget)
 {
     constexpr int half = 128;
     constexpr double usualHeight = 16.0; // of a line of text, in pixels
-    const QPalette colours = widget.palette();
-    const QColor ground = colours.color(QPalette::Base);
-    const QColor text = colours.color(QPalette::WindowText);
+    const QPalette& colours = widget.palette();
+    const QColor& ground = colours.color(QPalette::Base);
+    const QColor& text = colours.color(QPalette::WindowText);
     const double scale = QFontMetricsF(widget.font()).height() / usualHeight;
     return {ground,
             colours.color(QPalette::Window),

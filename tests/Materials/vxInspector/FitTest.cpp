@@ -298,6 +298,19 @@ TEST_F(FitTab, KeepsTheTestsOfTheUserWhenAnotherMaterialIsSelected)
     EXPECT_EQ(page().tests()[0].request.name, "Test 1");
 }
 
+TEST_F(FitTab, ShowsNoTestsOfAnotherMaterialForOneThatKeepsNone)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    pad.setSetting(setting, keptText("pad test"));
+    select({&pad});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    select({&seal});
+    EXPECT_TRUE(waitFor([this] { return page().tests().empty(); }));
+}
+
 TEST_F(FitTab, KeepsTestsWhoseKeepingIsUndone)
 {
     Mat::DocumentMaterial& project = newProject();

@@ -70,14 +70,6 @@ QString partToChange(const QString& suggestion, const QString& typed)
     return start + suggestion.mid(begin, place - begin + after) + end;
 }
 
-/// Names quantities as the table does.
-void translateNames(vxUnits::Failure& failure, const std::string& typed)
-{
-    for (std::string& argument : failure.message.arguments)
-        if (argument != typed)
-            argument = QCoreApplication::translate("vxMat::PropertyName", argument.c_str()).toStdString();
-}
-
 /// Returns what to type into a blank cell.
 QString promptFor(int id, const QString& unit)
 {
@@ -120,9 +112,8 @@ CellReading accepted(const TypedValue& value, const QString& unit)
 
 QString reasonOf(vxUnits::Failure failure, const QString& typed)
 {
-    translateNames(failure, typed.toStdString());
     failure.suggestion = partToChange(QString::fromStdString(failure.suggestion), typed).toStdString();
-    return vxInspector::translated(failure);
+    return vxInspector::translated(std::move(failure), typed.toStdString());
 }
 
 std::optional<CellReading> readCell(const QModelIndex& cell, const QString& text)

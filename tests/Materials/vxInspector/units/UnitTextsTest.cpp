@@ -16,6 +16,7 @@ namespace {
 
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 
 /// Shows texts in a language while it lives. Only an application can translate.
 class Language
@@ -61,6 +62,16 @@ TEST(UnitTexts, HaveTheLanguageOfTheUserWithTheirWordsAndSuggestions)
     EXPECT_THAT(text, HasSubstr("kg"));
     EXPECT_THAT(text, HasSubstr("Masse"));
     EXPECT_THAT(refusalOf("2,1 GPa"), EndsWith("Meinten Sie „2.1 GPa“?"));
+}
+
+TEST(UnitTexts, NameTheQuantitiesOfAFailureIfTheTextOfTheUserIsKnown)
+{
+    const Language german("de");
+    vxUnits::ReadingContext context;
+    context.creep = vxUnits::CreepExponents{4.5, std::nullopt};
+    const char* const typed = "1e-10 MPa^-4.5 s^-1";
+    const auto failure = vxUnits::readQuantity(vxMat::PropertyId::CreepModulusA, typed, context).failure();
+    EXPECT_THAT(vxInspector::translated(failure, typed).toStdString(), Not(HasSubstr("Creep Modulus")));
 }
 
 TEST(UnitTexts, NameTheQuantitiesOfADoubtInTheLanguageOfTheUser)

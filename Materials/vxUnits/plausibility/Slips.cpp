@@ -183,9 +183,9 @@ void addDataSheets(std::vector<Slip>& slips, const MaterialValues& values)
 {
     struct Sheet
     {
-        const char* stress;
-        const char* density;
-        double rareness;
+        const char* stress = nullptr;
+        const char* density = nullptr;
+        double rareness = 0.0;
         const char* heat = nullptr; ///< null for the unit of the catalogue
     };
     constexpr Sheet sheets[] = {{"MPa", "g/cm^3", 0.2},  {"MPa", "g/cm^3", 0.2, "kJ/(kg K)"},

@@ -25,15 +25,15 @@ constexpr const char* baseWords[baseUnitCount] = {"length", "mass", "time", "tem
 /// The base units of a built-in system, and the derived units that engineers do not write as products of base units.
 struct BuiltInSystem
 {
-    const char* name;
-    const char* otherNames; ///< separated by commas
-    const char* bases[baseUnitCount];
-    const char* pressure;
-    const char* density;
-    const char* viscosity;
-    const char* specificHeat;
-    const char* thermalConductivity;
-    const char* electricalConductivity;
+    const char* name = nullptr;
+    const char* otherNames = nullptr; ///< separated by commas
+    const char* bases[baseUnitCount] = {};
+    const char* pressure = nullptr;
+    const char* density = nullptr;
+    const char* viscosity = nullptr;
+    const char* specificHeat = nullptr;
+    const char* thermalConductivity = nullptr;
+    const char* electricalConductivity = nullptr;
     const char* electricalResistivity = nullptr; ///< null for the reciprocal of the conductivity
 };
 

@@ -15,7 +15,7 @@ namespace vxInspector {
 QString translated(const vxUnits::Message& message);
 QString translated(const vxUnits::Failure& failure); ///< with the suggestion
 QString translated(vxUnits::Failure failure, const std::string& typed);
-QString translated(const vxUnits::Doubt& doubt);     ///< with the remedy
+QString translated(const vxUnits::Doubt& doubt); ///< with the remedy
 
 /// Returns a word of the library of units, such as the name of a derived value, in the user's language.
 QString translatedWord(const char* english);

@@ -8,7 +8,7 @@ namespace commandline {
 
 namespace {
 
-// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): a handler of signals can only set such a flag
+/// A handler of signals can do no more than set a flag of this type.
 volatile std::sig_atomic_t isInterrupted = 0;
 
 extern "C" void noteInterruption(int /*signal*/)
@@ -16,12 +16,18 @@ extern "C" void noteInterruption(int /*signal*/)
     isInterrupted = 1;
 }
 
-void handle(int signal)
+/// Handles a signal, unless the program was started with this signal ignored, as in the background. Returns what the signal
+/// did before.
+struct sigaction handle(int signal)
 {
+    struct sigaction earlier = {};
+    sigaction(signal, nullptr, &earlier);
+    if (earlier.sa_handler == SIG_IGN) return earlier;
     struct sigaction action = {};
     action.sa_handler = noteInterruption;
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigaction(signal, &action, nullptr);
+    return earlier;
 }
 
 constexpr const char* clearLine = "\r\033[K";
@@ -31,14 +37,14 @@ constexpr const char* clearLine = "\r\033[K";
 Interruption::Interruption()
 {
     isInterrupted = 0;
-    handle(SIGINT);
-    handle(SIGTERM);
+    m_earlierInterrupt = handle(SIGINT);
+    m_earlierTermination = handle(SIGTERM);
 }
 
 Interruption::~Interruption()
 {
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
+    sigaction(SIGINT, &m_earlierInterrupt, nullptr);
+    sigaction(SIGTERM, &m_earlierTermination, nullptr);
 }
 
 bool Interruption::isRequested()

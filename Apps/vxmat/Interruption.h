@@ -2,12 +2,14 @@
 
 #include "vxConstitutive/fit/Fit.h"
 
+#include <csignal>
 #include <string>
 
 namespace commandline {
 
 /// While an object of this class exists, the first SIGINT (Ctrl+C) or SIGTERM does not end the program, but sets a flag. The
-/// next one ends the program. There must be one object at a time.
+/// next one ends the program. A signal that the program ignores from its start stays ignored. The destructor restores what
+/// the signals did before. There must be one object at a time.
 class Interruption
 {
 public:
@@ -18,6 +20,10 @@ public:
 
     /// Returns whether such a signal has come since the construction.
     static bool isRequested();
+
+private:
+    struct sigaction m_earlierInterrupt = {};
+    struct sigaction m_earlierTermination = {};
 };
 
 /// Shows on standard error how far a fit is, if standard error is a terminal. The destructor removes the text.

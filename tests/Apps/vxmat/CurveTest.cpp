@@ -18,22 +18,13 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 using vxtest::Folder;
+using vxtest::linesOf;
 using vxtest::Outcome;
 using vxtest::vxmat;
 using vxtest::vxmatJson;
 
 constexpr const char* elastomer = "Elastomer 3 (Arruda-Boyce)";
 constexpr const char* mooney = "Elastomer 2 (Mooney-Rivlin)";
-
-/// Returns the lines of a text.
-std::vector<std::string> linesOf(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
-}
 
 /// Runs vxmat curve and returns the lines of its output.
 std::vector<std::string> curve(std::vector<std::string> arguments)

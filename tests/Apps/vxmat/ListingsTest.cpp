@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <set>
-#include <sstream>
 
 namespace {
 
@@ -13,18 +12,10 @@ using testing::AllOf;
 using testing::ContainsRegex;
 using testing::HasSubstr;
 using vxtest::Folder;
+using vxtest::linesOf;
 using vxtest::Outcome;
 using vxtest::vxmat;
 using vxtest::vxmatJson;
-
-std::vector<std::string> linesOf(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
-}
 
 TEST(Library, ListsTheMaterialsWithGroupAndCount)
 {

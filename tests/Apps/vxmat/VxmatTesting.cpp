@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <utility>
 
 namespace vxtest {
@@ -54,6 +55,15 @@ Json::Value vxmatJson(const std::vector<std::string>& arguments)
     auto reading = vxjson::readJsonText(result.out);
     EXPECT_FALSE(reading.error);
     return std::move(reading.document);
+}
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 std::string Folder::path(const std::string& name) const

@@ -26,6 +26,9 @@ Outcome shell(const std::string& command);
 /// empty.
 Json::Value vxmatJson(const std::vector<std::string>& arguments);
 
+/// Returns the lines of a text.
+std::vector<std::string> linesOf(const std::string& text);
+
 /// A temporary folder. The destructor removes it with its files.
 class Folder
 {

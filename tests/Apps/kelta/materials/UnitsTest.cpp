@@ -381,7 +381,7 @@ TEST_F(ImportedUnits, AreComparedWithTheChosenOnes)
     EXPECT_THAT(document.doubts, Contains(HasSubstr("The numbers look like SI, not mm-t-s.")));
 }
 
-/// Answers the dialog of units with a system, and the question after it by a button.
+/// Chooses a system in the dialog of units, and then presses a button of the question.
 class UnitAnswers : public QObject
 {
 public:

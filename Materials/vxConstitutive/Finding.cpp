@@ -194,6 +194,8 @@ constexpr FindingRecord findingTable[]{
      "All creep data are at one stress, which does not determine the exponent n. Add another stress, or hold n fixed."},
     {FindingId::RelaxationTimeOutside, "relaxation-time-outside", Severity::Warning,
      "The relaxation time %1 s is outside the measured times, %2 s to %3 s."},
+    {FindingId::SolverUnavailable, "solver-unavailable", Severity::Error,
+     "%1: the library of the solver cannot be loaded: %2. Install the program again."},
 };
 
 std::string textOf(const FindingArgument& argument)

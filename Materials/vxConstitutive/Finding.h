@@ -116,6 +116,7 @@ enum class FindingId
     RatesIgnored,            ///< no argument
     OneStressOnly,           ///< no argument
     RelaxationTimeOutside,   ///< time, first, last
+    SolverUnavailable,       ///< model, reason
 };
 
 /// A remark for the user about a model, curve, test or fit. Its text is made from a table, so that a user interface can

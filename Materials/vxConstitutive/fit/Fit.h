@@ -4,10 +4,10 @@
 #include "vxConstitutive/Finding.h"
 #include "vxConstitutive/Model.h"
 #include "vxConstitutive/data/TestData.h"
+#include "vxConstitutive/fit/Bounds.h"
 
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -22,13 +22,6 @@ enum class ErrorMeasure
     OfLargest, ///< differences by the largest ordinate of their test: all tests have equal weight
     OfEach,    ///< differences by each ordinate, but at least 1 % of the largest: all strains have equal weight
     Absolute   ///< differences in SI units: tests with large ordinates have more weight
-};
-
-/// The bounds of a constant. Equal bounds fix it.
-struct Bounds
-{
-    double lower = -std::numeric_limits<double>::infinity();
-    double upper = std::numeric_limits<double>::infinity();
 };
 
 /// Bounds by vxMat::PropertyId, in SI units.

@@ -1,5 +1,7 @@
 #include "fit/FitSupport.h"
 
+#include "fit/SolverLibrary.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -301,6 +303,18 @@ void setStatus(FitResult& result, Jobs& jobs)
     result.status = cancelled ? FitStatus::Cancelled : FitStatus::Done;
     if (cancelled)
         result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
+}
+
+FitResult fitWithSolver(const std::string& model, const std::function<FitResult()>& fit)
+{
+    try {
+        return fit();
+    } catch (const SolverMissing& missing) {
+        FitResult failed;
+        failed.model = model;
+        failed.findings.push_back(makeFinding(FindingId::SolverUnavailable, {model, std::string(missing.what())}));
+        return failed;
+    }
 }
 
 void setFitted(FitResult& result, std::shared_ptr<const Model> model)

@@ -96,6 +96,9 @@ bool hasData(FitResult& result, const FitSet& set);
 /// Sets the status to Done, or to Cancelled with a finding.
 void setStatus(FitResult& result, Jobs& jobs);
 
+/// Returns the result of a fit of a model, or a failed result with a finding if the library of the solver is missing.
+FitResult fitWithSolver(const std::string& model, const std::function<FitResult()>& fit);
+
 /// Stores the fitted model in a result and adds its findings.
 void setFitted(FitResult& result, std::shared_ptr<const Model> model);
 

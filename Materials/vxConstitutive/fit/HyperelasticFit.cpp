@@ -278,8 +278,10 @@ std::vector<FitResult> fitHyperelastic(const HyperelasticFitRequest& request, co
     data.cancelled = jobs.cancelledFunction();
     std::vector<FitResult> results;
     for (const HyperelasticForm form : request.forms) {
-        jobs.begin(hyperelasticFormRecord(form).name);
-        results.push_back(data.shape.usable() ? fitForm(form, data, jobs) : refused(form, data));
+        const char* const name = hyperelasticFormRecord(form).name;
+        jobs.begin(name);
+        results.push_back(data.shape.usable() ? fitWithSolver(name, [&] { return fitForm(form, data, jobs); })
+                                              : refused(form, data));
         auto& own = results.back().findings;
         own.insert(own.begin(), findings.begin(), findings.end());
         if (data.shape.usable())

@@ -1,9 +1,12 @@
 #include "fit/LeastSquares.h"
 
+#include "fit/SolverLibrary.h"
+
 #include <Eigen/Dense>
 #include <algorithm>
-#include <ceres/ceres.h>
 #include <cmath>
+#include <new>
+#include <utility>
 
 namespace vxConstitutive {
 
@@ -11,85 +14,10 @@ namespace {
 
 using RowMajor = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
 
-/// Returns the indices of the parameters that are not fixed.
-std::vector<std::size_t> freeParameters(const LeastSquares& problem)
-{
-    std::vector<std::size_t> free;
-    for (std::size_t i = 0; i < problem.bounds.size(); ++i) {
-        if (problem.bounds[i].lower < problem.bounds[i].upper)
-            free.push_back(i);
-    }
-    return free;
-}
-
 void moveInside(const std::vector<Bounds>& bounds, std::vector<double>& parameters)
 {
     for (std::size_t i = 0; i < bounds.size(); ++i)
         parameters[i] = std::max(bounds[i].lower, std::min(parameters[i], bounds[i].upper));
-}
-
-/// The residuals as a function of the free parameters.
-class Cost final : public ceres::CostFunction
-{
-public:
-    Cost(const LeastSquares& problem, std::vector<std::size_t> free, std::vector<double> all)
-        : m_problem(problem), m_free(std::move(free)), m_all(std::move(all))
-    {
-        set_num_residuals(static_cast<int>(problem.residuals));
-        mutable_parameter_block_sizes()->push_back(static_cast<int>(m_free.size()));
-    }
-
-    bool Evaluate(double const* const* parameters, double* residuals, double** jacobians) const override
-    {
-        std::vector<double> all = m_all;
-        for (std::size_t i = 0; i < m_free.size(); ++i)
-            all[m_free[i]] = parameters[0][i];
-        if (jacobians == nullptr || jacobians[0] == nullptr)
-            return m_problem.evaluate(all.data(), residuals, nullptr);
-        std::vector<double> full(m_problem.residuals * all.size());
-        if (!m_problem.evaluate(all.data(), residuals, full.data()))
-            return false;
-        double* target = jacobians[0];
-        for (std::size_t row = 0; row < m_problem.residuals; ++row) {
-            for (const std::size_t column : m_free)
-                *target++ = full[row * all.size() + column];
-        }
-        return true;
-    }
-
-private:
-    const LeastSquares& m_problem;
-    std::vector<std::size_t> m_free;
-    std::vector<double> m_all;
-};
-
-/// Stops a cancelled minimisation.
-class Watch final : public ceres::IterationCallback
-{
-public:
-    explicit Watch(const std::function<bool()>& cancelled) : m_cancelled(cancelled) {}
-
-    ceres::CallbackReturnType operator()(const ceres::IterationSummary& /*summary*/) override
-    {
-        return m_cancelled && m_cancelled() ? ceres::SOLVER_ABORT : ceres::SOLVER_CONTINUE;
-    }
-
-private:
-    const std::function<bool()>& m_cancelled;
-};
-
-ceres::Solver::Options optionsFor(Watch& watch)
-{
-    ceres::Solver::Options options;
-    options.linear_solver_type = ceres::DENSE_QR;
-    options.max_num_iterations = 200;
-    options.function_tolerance = 1e-15;
-    options.gradient_tolerance = 1e-14;
-    options.parameter_tolerance = 1e-12;
-    options.logging_type = ceres::SILENT;
-    options.callbacks.push_back(&watch);
-    options.update_state_every_iteration = true; // so that a cancelled fit has its best parameters
-    return options;
 }
 
 double costAt(const LeastSquares& problem, const std::vector<double>& parameters)
@@ -101,48 +29,6 @@ double costAt(const LeastSquares& problem, const std::vector<double>& parameters
     for (const double residual : residuals)
         sum += residual * residual;
     return std::isfinite(sum) ? sum / 2.0 : std::numeric_limits<double>::infinity();
-}
-
-void setBounds(const LeastSquares& problem, const std::vector<std::size_t>& free, double* values,
-               ceres::Problem& ceresProblem)
-{
-    for (std::size_t i = 0; i < free.size(); ++i) {
-        const Bounds& bounds = problem.bounds[free[i]];
-        if (std::isfinite(bounds.lower))
-            ceresProblem.SetParameterLowerBound(values, static_cast<int>(i), bounds.lower);
-        if (std::isfinite(bounds.upper))
-            ceresProblem.SetParameterUpperBound(values, static_cast<int>(i), bounds.upper);
-    }
-}
-
-struct Solution
-{
-    std::vector<double> parameters;
-    bool converged = false;
-};
-
-/// Minimises over the free parameters by the Levenberg-Marquardt method.
-Solution solve(const LeastSquares& problem, const std::vector<std::size_t>& free, const std::vector<double>& start,
-               const std::function<bool()>& cancelled)
-{
-    std::vector<double> values;
-    values.reserve(free.size());
-    for (const std::size_t index : free)
-        values.push_back(start[index]);
-    Cost cost(problem, free, start);
-    ceres::Problem::Options ownership;
-    ownership.cost_function_ownership = ceres::DO_NOT_TAKE_OWNERSHIP;
-    ceres::Problem ceresProblem(ownership);
-    ceresProblem.AddResidualBlock(&cost, nullptr, values.data());
-    setBounds(problem, free, values.data(), ceresProblem);
-    Watch watch(cancelled);
-    ceres::Solver::Summary summary;
-    ceres::Solve(optionsFor(watch), &ceresProblem, &summary);
-
-    Solution solution{start, summary.termination_type == ceres::CONVERGENCE};
-    for (std::size_t i = 0; i < free.size(); ++i)
-        solution.parameters[free[i]] = values[i];
-    return solution;
 }
 
 /// The derivatives by the free parameters, in columns of length 1.
@@ -170,19 +56,21 @@ NormalisedJacobian normalised(const RowMajor& jacobian, const std::vector<std::s
 Minimum minimise(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled)
 {
     moveInside(problem.bounds, start);
-    const std::vector<std::size_t> free = freeParameters(problem);
+    const bool isFixed = freeParameters(problem).empty();
     Minimum result;
     result.parameters = start;
     result.cost = costAt(problem, start);
-    result.converged = free.empty();
-    if (free.empty() || !std::isfinite(result.cost))
+    result.converged = isFixed;
+    if (isFixed || !std::isfinite(result.cost))
         return result;
 
-    Solution solution = solve(problem, free, start, cancelled);
-    result.converged = solution.converged;
-    const double cost = costAt(problem, solution.parameters);
+    const SolverResult solved = loadedSolver()(problem, cancelled, start);
+    if (solved == SolverExhausted)
+        throw std::bad_alloc();
+    result.converged = solved == SolverConverged;
+    const double cost = costAt(problem, start);
     if (cost <= result.cost) {
-        result.parameters = std::move(solution.parameters);
+        result.parameters = std::move(start);
         result.cost = cost;
     }
     return result;

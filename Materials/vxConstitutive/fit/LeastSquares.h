@@ -1,9 +1,10 @@
 #pragma once
 
-#include "vxConstitutive/fit/Fit.h"
+#include "vxConstitutive/fit/Bounds.h"
 
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace vxConstitutive {
@@ -19,6 +20,17 @@ struct LeastSquares
     std::function<bool(const double* parameters, double* residuals, double* jacobian)> evaluate;
 };
 
+/// Returns the indices of the parameters that are not fixed.
+inline std::vector<std::size_t> freeParameters(const LeastSquares& problem)
+{
+    std::vector<std::size_t> free;
+    for (std::size_t i = 0; i < problem.bounds.size(); ++i) {
+        if (problem.bounds[i].lower < problem.bounds[i].upper)
+            free.push_back(i);
+    }
+    return free;
+}
+
 struct Minimum
 {
     std::vector<double> parameters;
@@ -27,10 +39,11 @@ struct Minimum
 };
 
 /// Minimises from one start, which is moved inside the bounds. Ends soon after `cancelled` has returned true, with the best
-/// parameters so far.
+/// parameters so far. Throws SolverMissing (SolverLibrary.h).
 Minimum minimise(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled);
 
 /// Returns the best minimum of several starts. Calls `progress` with the finished part after each start.
+/// Throws SolverMissing.
 Minimum minimiseFromMany(const LeastSquares& problem, const std::vector<std::vector<double>>& starts,
                          const std::function<bool()>& cancelled, const std::function<void(double)>& progress);
 

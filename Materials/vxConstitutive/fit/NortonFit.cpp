@@ -226,12 +226,12 @@ Prediction predictionOf(double a, double n, double m)
     };
 }
 
-} // namespace
+constexpr const char* modelName = "Norton creep";
 
-FitResult fitNorton(const NortonFitRequest& request, const FitControl& control)
+FitResult fitTests(const NortonFitRequest& request, const FitControl& control)
 {
     FitResult result;
-    result.model = "Norton creep";
+    result.model = modelName;
     Jobs jobs(control, 1);
     jobs.begin(result.model);
     const std::vector<TestData> tests = usableTests(request.tests, result.findings);
@@ -253,6 +253,13 @@ FitResult fitNorton(const NortonFitRequest& request, const FitControl& control)
     describeConstants(norton, p, set, freedoms, result);
     setFitted(result, std::make_shared<NortonModel>(norton.a(p), p[1], p[2] - 1.0));
     return result;
+}
+
+} // namespace
+
+FitResult fitNorton(const NortonFitRequest& request, const FitControl& control)
+{
+    return fitWithSolver(modelName, [&] { return fitTests(request, control); });
 }
 
 } // namespace vxConstitutive

@@ -165,6 +165,34 @@ void addBilinearConstants(const LeastSquares& problem, const std::vector<double>
     add(1, PropertyId::PlasticHardeningFactor, "H");
 }
 
+constexpr const char* bilinearName = "bilinear hardening";
+
+FitResult fitLine(const PlasticFitRequest& request, const FitControl& control)
+{
+    Jobs jobs(control, 1);
+    jobs.begin(bilinearName);
+    const HardeningData data = takeHardening(request);
+    FitResult result = beginResult(bilinearName, data);
+    const std::vector<const TestData*> tests = pointersTo(data.tests);
+    const FitSet set = makeFitSet(tests, ErrorMeasure::OfLargest);
+    if (!set.usable() || endIfCancelled(jobs, result))
+        return result;
+
+    const LeastSquares problem = bilinearProblem(set, request.bounds);
+    const Minimum minimum = minimise(problem, {0.5, 1.0}, jobs.cancelledFunction());
+    const double scale = set.largestOrdinate;
+    const double yield = scale * minimum.parameters[0];
+    const double modulus = scale * minimum.parameters[1];
+    auto model = std::make_shared<PlasticModel>(yield, modulus, data.elastic);
+
+    judge(result, tests, ErrorMeasure::OfLargest, set, predictionOf(*model), countFree(problem.bounds));
+    addBilinearConstants(problem, minimum.parameters, set, result);
+    addModulus(data, result);
+    result.change = bilinearChange(data, yield, modulus);
+    finish(result, std::move(model), jobs);
+    return result;
+}
+
 } // namespace
 
 FitResult fitMultilinear(const PlasticFitRequest& request, const FitControl& control)
@@ -191,28 +219,7 @@ FitResult fitMultilinear(const PlasticFitRequest& request, const FitControl& con
 
 FitResult fitBilinear(const PlasticFitRequest& request, const FitControl& control)
 {
-    Jobs jobs(control, 1);
-    jobs.begin("bilinear hardening");
-    const HardeningData data = takeHardening(request);
-    FitResult result = beginResult("bilinear hardening", data);
-    const std::vector<const TestData*> tests = pointersTo(data.tests);
-    const FitSet set = makeFitSet(tests, ErrorMeasure::OfLargest);
-    if (!set.usable() || endIfCancelled(jobs, result))
-        return result;
-
-    const LeastSquares problem = bilinearProblem(set, request.bounds);
-    const Minimum minimum = minimise(problem, {0.5, 1.0}, jobs.cancelledFunction());
-    const double scale = set.largestOrdinate;
-    const double yield = scale * minimum.parameters[0];
-    const double modulus = scale * minimum.parameters[1];
-    auto model = std::make_shared<PlasticModel>(yield, modulus, data.elastic);
-
-    judge(result, tests, ErrorMeasure::OfLargest, set, predictionOf(*model), countFree(problem.bounds));
-    addBilinearConstants(problem, minimum.parameters, set, result);
-    addModulus(data, result);
-    result.change = bilinearChange(data, yield, modulus);
-    finish(result, std::move(model), jobs);
-    return result;
+    return fitWithSolver(bilinearName, [&] { return fitLine(request, control); });
 }
 
 } // namespace vxConstitutive

@@ -116,12 +116,12 @@ Prediction predictionOf(double modulus, double ratio, double relaxationTime)
     };
 }
 
-} // namespace
+constexpr const char* modelName = "visco-elasticity";
 
-FitResult fitRelaxation(const RelaxationFitRequest& request, const FitControl& control)
+FitResult fitTests(const RelaxationFitRequest& request, const FitControl& control)
 {
     FitResult result;
-    result.model = "visco-elasticity";
+    result.model = modelName;
     Jobs jobs(control, 1);
     jobs.begin(result.model);
     const std::vector<TestData> tests = usableTests(request.tests, result.findings);
@@ -143,6 +143,13 @@ FitResult fitRelaxation(const RelaxationFitRequest& request, const FitControl& c
     describeConstants(problem, p, set, times, result);
     setFitted(result, std::make_shared<ViscoElasticModel>(p[1], tau, modulus));
     return result;
+}
+
+} // namespace
+
+FitResult fitRelaxation(const RelaxationFitRequest& request, const FitControl& control)
+{
+    return fitWithSolver(modelName, [&] { return fitTests(request, control); });
 }
 
 } // namespace vxConstitutive

@@ -103,6 +103,35 @@ TEST_F(Fit, FindsTheConstantsThatMadeTheData)
         DoubleNear(0.3, 1e-6));
 }
 
+TEST_F(Fit, AloneLoadsTheSolver)
+{
+    // With this variable, the loader reports each library that it loads.
+    const auto loaded = [](const std::string& arguments) {
+        const Outcome run = vxtest::shell("LD_DEBUG=files \"$VXMAT\" " + arguments + " 2>&1");
+        EXPECT_EQ(run.status, 0);
+        return run.out;
+    };
+    for (const char* const arguments :
+         {"--version", "show air", "curve 'Elastomer 2 (Mooney-Rivlin)' --mode uniaxial --at 1,2"})
+        EXPECT_THAT(loaded(arguments), AllOf(HasSubstr("libvxMaterialConstitutive"), Not(HasSubstr("glog")),
+                                             Not(HasSubstr("LeastSquaresSolver"))));
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    EXPECT_THAT(loaded("fit uniaxial=" + data + " --model arruda-boyce"), HasSubstr("libvxLeastSquaresSolver.so"));
+}
+
+TEST_F(Fit, SaysThatTheLibraryOfTheSolverIsMissing)
+{
+    const std::string fits = "libvxMaterialConstitutive.so";
+    ASSERT_EQ(vxtest::shell("cp \"$(dirname \"$VXMAT\")\"/../lib/" + fits + ".* '" + folder().path("") + "'").status,
+              0);
+    const std::string data = file("a.csv", neoHookean(0.3, header));
+    const Outcome run = vxtest::shell("LD_LIBRARY_PATH='" + folder().path("") + "' \"$VXMAT\" fit uniaxial=" + data +
+                                      " --model arruda-boyce");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, AllOf(HasSubstr("Arruda-Boyce: the library of the solver cannot be loaded: "),
+                               HasSubstr("libvxLeastSquaresSolver.so")));
+}
+
 TEST_F(Fit, PrintsWhatWasUnderstoodAndTheModelsSideBySide)
 {
     const std::string data = file("a.csv", neoHookean(0.3, header));

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -26,7 +27,9 @@ QString tr(const char* text)
 class Findings
 {
 public:
-    explicit Findings(const InspectedMaterial& inspected) : m_inspected(inspected) {}
+    Findings(const InspectedMaterial& inspected, const vxUnits::UnitSystem& system)
+        : m_inspected(inspected), m_system(system)
+    {}
 
     std::vector<Row> rows() const
     {
@@ -38,7 +41,7 @@ public:
             all.push_back(row(kindOf(finding), idIn(finding.slot), MatGui::findingText(finding)));
             wrong.insert(finding.slot);
         }
-        for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(m_inspected.values))
+        for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(m_inspected.values, m_system))
             if (doubt.remedy || doubt.severity != vxUnits::Severity::Impossible || wrong.count(doubt.id) == 0)
                 all.push_back(doubtRow(doubt)); // otherwise an error says the same
         return all;
@@ -76,23 +79,24 @@ private:
         std::optional<vxUnits::Remedy> remedy = std::exchange(doubt.remedy, std::nullopt);
         Row made = row(tr("Doubt"), idIn(doubt.id), translated(doubt));
         if (remedy)
-            made.cells[FindingColumn::Remedy] = {translated(remedy->message),
-                                                 changesText(*remedy, m_inspected.values, QStringLiteral("\n"))};
+            made.cells[FindingColumn::Remedy] = {
+                translated(remedy->message), changesText(*remedy, m_inspected.values, m_system, QStringLiteral("\n"))};
         made.remedy = std::move(remedy);
         return made;
     }
 
     const InspectedMaterial& m_inspected;
+    const vxUnits::UnitSystem& m_system;
 };
 
 } // namespace
 
-TableContent findingTable(const std::vector<InspectedMaterial>& materials)
+TableContent findingTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system)
 {
     TableContent table{{}, {tr("Kind"), tr("Finding"), tr("Remedy"), tr("Material")}, {}};
     std::size_t more = 0;
     for (const InspectedMaterial& inspected : materials)
-        for (Row& row : Findings(inspected).rows())
+        for (Row& row : Findings(inspected, system).rows())
             if (table.rows.size() < mostFindings)
                 table.rows.push_back(std::move(row));
             else
@@ -103,6 +107,22 @@ TableContent findingTable(const std::vector<InspectedMaterial>& materials)
     if (more != 0)
         table.sentence += QLatin1Char(' ') + tr("The last %1 are not listed.").arg(more);
     return table;
+}
+
+void markFindings(const TableContent& findings, TableContent& values)
+{
+    // The tool tip has them in their order.
+    for (auto finding = findings.rows.rbegin(); finding != findings.rows.rend(); ++finding) {
+        const auto row = std::find_if(values.rows.begin(), values.rows.end(), [&finding](const Row& one) {
+            return one.place.isSet() && one.place == finding->place;
+        });
+        if (row == values.rows.end())
+            continue;
+        Cell& name = row->cells.front();
+        const QString text = finding->cells[FindingColumn::Finding].text;
+        name.toolTip = name.toolTip.isEmpty() ? text : text + QStringLiteral("\n\n") + name.toolTip;
+        name.hasSign = true;
+    }
 }
 
 bool hasErrors(const InspectedMaterial& inspected)

@@ -2,6 +2,7 @@
 
 #include "subject/InspectedMaterial.h"
 #include "table/TableContent.h"
+#include "vxUnits/UnitSystem.h"
 
 namespace vxInspector {
 
@@ -20,8 +21,12 @@ struct FindingColumn
 /// The number of findings in a table. Further ones are counted.
 inline constexpr std::size_t mostFindings = 1000;
 
-/// Returns the errors and warnings of the check, the rows that cannot be read, and the doubts about the values.
-TableContent findingTable(const std::vector<InspectedMaterial>& materials);
+/// Returns the errors and warnings of the check, the rows that cannot be read, and the doubts about the values, with their
+/// numbers in a unit system.
+TableContent findingTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system);
+
+/// Gives the rows of a table of values that have findings a sign, and their names a tool tip with the findings.
+void markFindings(const TableContent& findings, TableContent& values);
 
 /// Returns whether the check finds an error or a warning in a material, or one of its rows cannot be read.
 bool hasErrors(const InspectedMaterial& inspected);

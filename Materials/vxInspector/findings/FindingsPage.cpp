@@ -69,8 +69,9 @@ void FindingsPage::retranslate()
     m_apply->setToolTip(tr("Change the value as the remedy of the selected finding says. The change can be undone."));
 }
 
-void FindingsPage::setContent(TableContent content)
+void FindingsPage::setContent(TableContent content, const vxUnits::UnitSystem& system)
 {
+    m_system = system;
     TabPage::setContent(std::move(content));
     enableButton();
 }
@@ -107,7 +108,7 @@ void FindingsPage::applyRemedy() const
             return;
         MatGui::MaterialView* const editor = SubjectWatch::editorOf(*object);
         const RowPlace place = row->place; // the table is filled again
-        vxInspector::applyRemedy(vxUnits::Remedy(*row->remedy), *object, editor);
+        vxInspector::applyRemedy(vxUnits::Remedy(*row->remedy), *object, editor, m_system);
         // The editor has the step, and gets the keyboard, so that Undo can undo it.
         if (editor != nullptr)
             showInEditor(place);

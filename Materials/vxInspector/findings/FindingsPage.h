@@ -2,6 +2,7 @@
 
 #include "plugin/TabPage.h"
 #include "table/TableContent.h"
+#include "vxUnits/UnitSystem.h"
 
 class QPushButton;
 
@@ -17,7 +18,8 @@ public:
     explicit FindingsPage(QWidget* parent = nullptr);
     ~FindingsPage() override;
 
-    void setContent(TableContent content);
+    /// Shows findings whose numbers are in a unit system.
+    void setContent(TableContent content, const vxUnits::UnitSystem& system);
     void retranslate() override;
 
 private:
@@ -27,6 +29,7 @@ private:
     const Row* currentRow() const;
 
     QPushButton* m_apply;
+    vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
 };
 
 } // namespace vxInspector

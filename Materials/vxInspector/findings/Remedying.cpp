@@ -13,7 +13,6 @@
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
-#include "vxUnits/Quantity.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -71,19 +70,21 @@ void announce(const Mat::MaterialObject& object, const QString& changes)
                               {object.get_project()->getProjectId(), object.getObjectId(), 0});
 }
 
-/// Returns the number of a quantity, or the beginning of its list.
-QString numberText(std::int32_t id, const vxUnits::MaterialValues& values)
+/// Returns the number of a quantity, or its list, in a unit system.
+ValueText textOf(std::int32_t id, const vxUnits::MaterialValues& values, const vxUnits::UnitSystem& system)
 {
     constexpr int most = 60;
     const std::vector<double>& list = values.list(id);
-    return shortened(QString::fromStdString(list.empty() ? vxMat::formatNumber(values.number(id).value_or(0.0))
-                                                         : vxMat::formatNumberList(list)),
-                     most);
+    ValueText text =
+        numbersText(id, list.empty() ? std::vector<double>{values.number(id).value_or(0.0)} : list, values, system);
+    text.number = shortened(text.number, most);
+    return text;
 }
 
 } // namespace
 
-QString changesText(const vxUnits::Remedy& remedy, const vxUnits::MaterialValues& before, const QString& separator)
+QString changesText(const vxUnits::Remedy& remedy, const vxUnits::MaterialValues& before,
+                    const vxUnits::UnitSystem& system, const QString& separator)
 {
     vxUnits::MaterialValues after = before;
     vxUnits::applyRemedy(remedy, after);
@@ -91,23 +92,24 @@ QString changesText(const vxUnits::Remedy& remedy, const vxUnits::MaterialValues
     for (const vxUnits::Change& change : remedy.changes) {
         if (!before.has(change.id))
             continue;
-        const auto unit = vxUnits::unitOfQuantity(change.id, vxUnits::UnitSystem::si(), before.creepExponents());
-        const QString number = numberText(change.id, after);
+        const QString old = textOf(change.id, before, system).number;
+        const ValueText now = textOf(change.id, after, system);
+        if (now.number == old)
+            continue; // the two units are the same
         changes << QCoreApplication::translate("vxInspector::Remedying", "%1: %2 becomes %3")
-                       .arg(quantityName(change.id), numberText(change.id, before),
-                            unit && unit->text() != "1"
-                                ? number + QLatin1Char(' ') + QString::fromStdString(unit->text())
-                                : number);
+                       .arg(quantityName(change.id), old,
+                            now.unit.isEmpty() ? now.number : now.number + QLatin1Char(' ') + now.unit);
     }
     return changes.join(separator);
 }
 
-void applyRemedy(const vxUnits::Remedy& remedy, Mat::MaterialObject& object, MatGui::MaterialView* editor)
+void applyRemedy(const vxUnits::Remedy& remedy, Mat::MaterialObject& object, MatGui::MaterialView* editor,
+                 const vxUnits::UnitSystem& system)
 {
     if (editor != nullptr)
         return applyInEditor(remedy, object, *editor);
     auto before = MatGui::copyOf(*object.getCMaterial());
-    const QString changes = changesText(remedy, vxUnits::MaterialValues(*before), QStringLiteral("; "));
+    const QString changes = changesText(remedy, vxUnits::MaterialValues(*before), system, QStringLiteral("; "));
     vxUnits::applyRemedy(remedy, *object.getCMaterial());
     const vxMsg::MessageProxy::Group step{stepText()};
     if (MatGui::recordChange(object, std::move(before)))

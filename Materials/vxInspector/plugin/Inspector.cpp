@@ -83,7 +83,7 @@ void Inspector::createTabs()
 void Inspector::retranslate()
 {
     m_unitsLabel->setText(tr("&Units:"));
-    m_systems->setToolTip(tr("The unit system of values, comparison and curves. It changes no value."));
+    m_systems->setToolTip(tr("The unit system of values, findings, comparison and curves. It changes no value."));
     const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves"), tr("Fit")};
     for (int tab = 0; tab < m_tabs->count(); ++tab)
         m_tabs->setTabText(tab, titles[tab]);
@@ -128,10 +128,11 @@ void Inspector::refresh()
 
 void Inspector::fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system)
 {
+    if (m_tabs->currentWidget() != m_fit && m_tabs->currentWidget() != m_curves)
+        return fillTable(subject, system);
+    findFindings(subject, system);
     if (m_tabs->currentWidget() == m_fit)
         return m_fit->setSubject(subject, system);
-    if (m_tabs->currentWidget() != m_curves)
-        return fillTable(subject, system);
     const DrawnMaterials drawn = drawnMaterials(subject, m_measurements);
     if (drawn.materials.empty())
         m_curves->setSentence(drawn.sentence);
@@ -139,13 +140,33 @@ void Inspector::fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem
         m_curves->setMaterials(drawn.materials, system, drawn.limit);
 }
 
+/// Returns the findings for the visible tab, and counts them. Materials of a large selection are not counted for the other
+/// tabs, because that would take longer than these tabs.
+TableContent Inspector::findFindings(const Subject& subject, const vxUnits::UnitSystem& system)
+{
+    constexpr std::size_t mostCounted = 10;
+    const bool isShown = m_tabs->currentWidget() == m_findings;
+    const bool isCounted = isShown || subject.materials.size() <= mostCounted;
+    TableContent findings = findingsTab(subject, system, isShown ? mostChecked : isCounted ? mostCounted : 1);
+    setFindingsTitle(isCounted ? findings.rows.size() : 0);
+    return findings;
+}
+
+void Inspector::setFindingsTitle(std::size_t count)
+{
+    const QString title = tr("Findings");
+    const int tab = m_tabs->indexOf(m_findings);
+    m_tabs->setTabText(tab, count == 0 ? title : tr("%1 (%2)").arg(title).arg(count));
+}
+
 void Inspector::fillTable(const Subject& subject, const vxUnits::UnitSystem& system)
 {
+    TableContent findings = findFindings(subject, system);
     const QWidget* const page = m_tabs->currentWidget();
     if (page == m_values)
-        m_values->setContent(valuesTab(subject, system));
+        m_values->setContent(valuesTab(subject, system, findings));
     else if (page == m_findings)
-        m_findings->setContent(findingsTab(subject));
+        m_findings->setContent(std::move(findings), system);
     else if (page == m_cards)
         m_cards->setContent(cardsTab(subject));
     else

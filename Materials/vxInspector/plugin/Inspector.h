@@ -19,9 +19,10 @@ class FitPage;
 class SubjectWatch;
 class TabPage;
 struct Subject;
+struct TableContent;
 
-/// The tabs of the inspector below the choice of the unit system. Only the visible tab is updated, once for all changes
-/// before the event loop is next idle.
+/// The tabs of the inspector below the choice of the unit system. Only the visible tab is updated, and the number of findings
+/// in the title of their tab, once for all changes before the event loop is next idle.
 class Inspector : public QWidget
 {
     Q_OBJECT
@@ -42,8 +43,10 @@ private:
     void retranslate();
     void fillSystems(const vxUnits::UnitSystem& ofProject);
     vxUnits::UnitSystem chosenSystem(const vxUnits::UnitSystem& ofProject) const;
+    TableContent findFindings(const Subject& subject, const vxUnits::UnitSystem& system);
     void fillTable(const Subject& subject, const vxUnits::UnitSystem& system);
     void fillVisibleTab(const Subject& subject, const vxUnits::UnitSystem& system);
+    void setFindingsTitle(std::size_t count);
 
     SubjectWatch& m_watch;
     QLabel* m_unitsLabel;

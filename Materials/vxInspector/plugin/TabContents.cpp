@@ -85,23 +85,24 @@ TableContent projectTable(const Subject& subject)
 
 } // namespace
 
-TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system)
+TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system, const TableContent& findings)
 {
     if (subject.materials.empty())
         return {emptySentence(subject), {}, {}};
     if (subject.kind == Kind::Project)
         return projectTable(subject);
     TableContent table = valueTable(inspect(*subject.materials.front()), system);
+    markFindings(findings, table);
     tellFirst(table, subject);
     return table;
 }
 
-TableContent findingsTab(const Subject& subject)
+TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most)
 {
     if (subject.materials.empty())
         return {emptySentence(subject), {}, {}};
-    TableContent table = findingTable(inspectFirst(subject, mostChecked));
-    tellLimit(table, subject, mostChecked,
+    TableContent table = findingTable(inspectFirst(subject, most), system);
+    tellLimit(table, subject, most,
               QT_TRANSLATE_NOOP("vxInspector::TabContents", "Only the first %1 of %2 materials are checked."));
     return table;
 }

@@ -11,10 +11,11 @@ namespace vxInspector {
 /// The most materials of a selection or a project that are checked. A table that omits materials says so.
 inline constexpr std::size_t mostChecked = 200;
 
-/// Returns the values of the first material; for a project the numbers of its materials.
-TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system);
-/// Returns the findings of all materials.
-TableContent findingsTab(const Subject& subject);
+/// Returns the values of the first material, with a sign for each one that has findings; for a project the numbers of its
+/// materials. `findings` are those of the first material or of more.
+TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system, const TableContent& findings);
+/// Returns the findings of the first materials, at most `most`, in a unit system.
+TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most = mostChecked);
 /// Returns the cards of the first material.
 TableContent cardsTab(const Subject& subject);
 /// Returns the comparison of all materials.

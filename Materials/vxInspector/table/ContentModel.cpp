@@ -1,7 +1,9 @@
 #include "table/ContentModel.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -82,6 +84,8 @@ QVariant ContentModel::data(const QModelIndex& index, int role) const
         return plainToolTip(cell(index).toolTip);
     case Qt::FontRole:
         return fontOf(cell(index));
+    case Qt::DecorationRole:
+        return cell(index).hasSign ? QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning) : QVariant();
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignLeft | Qt::AlignTop);
     default:

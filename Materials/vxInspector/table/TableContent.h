@@ -22,6 +22,7 @@ struct Cell
     bool isBold = false;
     bool isFixed = false;                       ///< shown with characters of equal width
     std::optional<RangeBar> bar = std::nullopt; ///< shown in place of the text
+    bool hasSign = false;                       ///< shown with a warning sign before the text
 
     const QString& copied() const { return whole.isEmpty() ? text : whole; }
 };

@@ -26,21 +26,6 @@ ValueText unconverted(const std::vector<double>& numbers, const vxUnits::Failure
     return {QString::fromStdString(vxMat::formatNumberList(numbers)), {}, translated(failure)};
 }
 
-ValueText numbersText(std::int32_t id, const std::vector<double>& numbers, const vxUnits::MaterialValues& values,
-                      const vxUnits::UnitSystem& system)
-{
-    const auto exponents = values.creepExponents();
-    ValueText texts;
-    for (const double number : numbers) {
-        const auto written = vxUnits::writeQuantity(id, number, system, exponents, digitsIn(system));
-        if (!written)
-            return unconverted(numbers, written.failure());
-        texts.number += (texts.number.isEmpty() ? "" : ", ") + QString::fromStdString(written->number);
-        texts.unit = QString::fromStdString(written->unit);
-    }
-    return texts;
-}
-
 /// Returns a note if the number of a switch looks as if the switch were off.
 QString noteOnSwitch(const vxMat::MaterialProperty& property)
 {
@@ -67,6 +52,21 @@ std::vector<double> numbersOf(const vxMat::HeldProperty& held)
         return {};
     return quantity->form == vxUnits::QuantityForm::NumberList ? held.property->values
                                                                : std::vector<double>{held.property->value};
+}
+
+ValueText numbersText(std::int32_t id, const std::vector<double>& numbers, const vxUnits::MaterialValues& values,
+                      const vxUnits::UnitSystem& system)
+{
+    const auto exponents = values.creepExponents();
+    ValueText texts;
+    for (const double number : numbers) {
+        const auto written = vxUnits::writeQuantity(id, number, system, exponents, digitsIn(system));
+        if (!written)
+            return unconverted(numbers, written.failure());
+        texts.number += (texts.number.isEmpty() ? "" : ", ") + QString::fromStdString(written->number);
+        texts.unit = QString::fromStdString(written->unit);
+    }
+    return texts;
 }
 
 ValueText valueText(const vxMat::HeldProperty& held, const vxUnits::MaterialValues& values,

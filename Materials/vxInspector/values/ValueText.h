@@ -25,6 +25,11 @@ QString quantityName(std::int32_t id, const std::string& otherName = {});
 /// Returns the numbers of a property: the list of a list, otherwise its number; empty for words and switches.
 std::vector<double> numbersOf(const vxMat::HeldProperty& held);
 
+/// Returns the texts of numbers of a quantity, which are in the unit of the catalogue, in a unit system. The exponents of
+/// `values` decide the unit of the factor of a creep law.
+ValueText numbersText(std::int32_t id, const std::vector<double>& numbers, const vxUnits::MaterialValues& values,
+                      const vxUnits::UnitSystem& system);
+
 /// Returns the texts of a property of a material. The slot decides which quantity it is.
 ValueText valueText(const vxMat::HeldProperty& held, const vxUnits::MaterialValues& values,
                     const vxUnits::UnitSystem& system);

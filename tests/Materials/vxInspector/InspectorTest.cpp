@@ -213,6 +213,43 @@ TEST_F(Inspector, AppliesARemedyAsAStepOfTheHistoryIfNoEditorIsOpen)
     EXPECT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
 }
 
+TEST_F(Inspector, ShowsFindingsInTheUnitSystemOfTheValues)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    showDoubt(steel);
+    systems().setCurrentIndex(systems().findText(QStringLiteral("mm-t-s")));
+    EXPECT_TRUE(waitFor([this] {
+        return cell(Findings, findRow(Findings, "Doubt"), FindingColumn::Finding).find("0.2069 MPa") !=
+               std::string::npos;
+    }));
+    click(Findings, findRow(Findings, "Doubt"), FindingColumn::Remedy);
+    QTest::mouseClick(&applyButton(), Qt::LeftButton);
+    EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 2.069e11);
+    EXPECT_THAT(lastMessage(), HasSubstr("Young's modulus: 0.2069 becomes 206900 MPa"));
+}
+
+TEST_F(Inspector, CountsTheFindingsInTheTitleOfTheirTabAndMarksTheirRows)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    EXPECT_EQ(tabs().tabText(Findings), "Findings");
+    const auto hasNoSign = [this](const char* name) {
+        const auto* const model = view(Values).model();
+        return model->index(findRow(Values, name), 0).data(Qt::DecorationRole).value<QIcon>().isNull();
+    };
+    EXPECT_TRUE(hasNoSign("Young's modulus"));
+    setNumber(steel, Id::YoungsModulus, 206900.0);
+    steel.refreshProperties(true);
+    EXPECT_TRUE(waitFor([this] { return tabs().tabText(Findings) == QLatin1String("Findings (1)"); }));
+    EXPECT_FALSE(hasNoSign("Young's modulus"));
+    EXPECT_TRUE(hasNoSign("Density"));
+    turnTo(Cards);
+    setNumber(steel, Id::YoungsModulus, 2e11);
+    steel.refreshProperties(true);
+    EXPECT_TRUE(waitFor([this] { return tabs().tabText(Findings) == QLatin1String("Findings"); }));
+}
+
 TEST_F(Inspector, AppliesARemedyAsAStepOfAnOpenEditor)
 {
     Mat::MaterialObject& steel = addMaterial(newProject());

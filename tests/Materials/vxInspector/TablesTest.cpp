@@ -188,7 +188,7 @@ TEST(EditorRows, ThatCannotBeReadAreNamedWithTheReason)
     EXPECT_THAT(textsOf(values, rowOf(values, "Density"))[3], HasSubstr("cannot be read: "));
     std::vector<InspectedMaterial> all(1);
     all.front() = readRows({sheetRow(Id::Density, "7,85 g/cm^3")});
-    const TableContent findings = findingTable(all);
+    const TableContent findings = findingTable(all, UnitSystem::si());
     EXPECT_THAT(textsOf(findings, 0)[vxInspector::FindingColumn::Finding],
                 HasSubstr(R"(Row 1: The value "7,85 g/cm^3" of "Density" cannot be read: )"));
 }
@@ -262,7 +262,7 @@ TEST(FindingTable, HasErrorsAndDoubtsWithTheirRowsAndRemedies)
     setNumber(all.back(), Id::PoissonsRatio, 0.7);
     all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
     setNumber(all.back(), Id::YoungsModulus, 206900.0);
-    const TableContent table = findingTable(all);
+    const TableContent table = findingTable(all, UnitSystem::si());
     const auto& error = table.rows[rowOf(table, "Error")];
     EXPECT_EQ(error.place.propertyId, Id::PoissonsRatio);
     EXPECT_EQ(error.place.objectId, 7U);
@@ -279,9 +279,49 @@ TEST(FindingTable, SaysWhatARemedyChanges)
     std::vector<InspectedMaterial> all;
     all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
     setNumber(all.back(), Id::YoungsModulus, 206900.0);
-    const TableContent table = findingTable(all);
+    const TableContent table = findingTable(all, UnitSystem::si());
     EXPECT_EQ(table.rows[rowOf(table, "Doubt")].cells[vxInspector::FindingColumn::Remedy].toolTip,
               "Young's modulus: 206900 becomes 2.069e+11 Pa");
+}
+
+TEST(FindingTable, HasItsNumbersInTheUnitSystem)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
+    setNumber(all.back(), Id::YoungsModulus, 206900.0);
+    const TableContent table = findingTable(all, system("mm-t-s"));
+    const auto& doubt = table.rows[rowOf(table, "Doubt")];
+    EXPECT_THAT(doubt.cells[vxInspector::FindingColumn::Finding].text.toStdString(),
+                HasSubstr("Young's modulus = 0.2069 MPa with Density = 7.85e-09 t/mm^3"));
+    EXPECT_EQ(doubt.cells[vxInspector::FindingColumn::Remedy].toolTip, "Young's modulus: 0.2069 becomes 206900 MPa");
+}
+
+TEST(FindingTable, OmitsWhatARemedyDoesNotChange)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Sheet"));
+    // The number of a thermal conductivity is the same in mm-t-s and SI.
+    vxUnits::convertMaterial(*all.back().material, UnitSystem::si(), system("mm-t-s"));
+    all.back().values = vxUnits::MaterialValues(*all.back().material);
+    const TableContent table = findingTable(all, UnitSystem::si());
+    const auto& remedy = table.rows[rowOf(table, "Doubt")].cells[vxInspector::FindingColumn::Remedy];
+    EXPECT_THAT(remedy.text.toStdString(), HasSubstr("mm-t-s"));
+    EXPECT_THAT(remedy.toolTip.toStdString(), HasSubstr("Density: 7.85e-09 becomes 7850 kg/m^3"));
+    EXPECT_THAT(remedy.toolTip.toStdString(), testing::Not(HasSubstr("Thermal conductivity")));
+}
+
+TEST(FindingTable, GivesTheDoubtedRowsOfTheValuesASign)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::StructuralSteel>("Soft"));
+    setNumber(all.back(), Id::YoungsModulus, 206900.0);
+    TableContent values = valueTable(all.back(), UnitSystem::si());
+    markFindings(findingTable(all, UnitSystem::si()), values);
+    const auto& modulus = values.rows[rowOf(values, "Young's modulus")].cells[0];
+    EXPECT_TRUE(modulus.hasSign);
+    EXPECT_THAT(modulus.toolTip.toStdString(), HasSubstr("gives a wave speed of"));
+    EXPECT_EQ(modulus.copied(), "Young's modulus");
+    EXPECT_FALSE(values.rows[rowOf(values, "Density")].cells[0].hasSign);
 }
 
 TEST(FindingTable, SaysOnceThatANumberIsNotFinite)
@@ -289,7 +329,7 @@ TEST(FindingTable, SaysOnceThatANumberIsNotFinite)
     std::vector<InspectedMaterial> all;
     all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
     setNumber(all.back(), Id::Density, infinity);
-    const TableContent table = findingTable(all);
+    const TableContent table = findingTable(all, UnitSystem::si());
     ASSERT_EQ(table.rows.size(), 1U);
     EXPECT_EQ(textsOf(table, 0)[0], "Error");
 }
@@ -298,7 +338,7 @@ TEST(FindingTable, SaysThatNothingIsFound)
 {
     std::vector<InspectedMaterial> all;
     all.push_back(inspected<vxMat::StructuralSteel>("Frame"));
-    const TableContent table = findingTable(all);
+    const TableContent table = findingTable(all, UnitSystem::si());
     EXPECT_TRUE(table.rows.empty());
     EXPECT_EQ(table.sentence, "Nothing is found.");
 }
@@ -308,7 +348,7 @@ TEST(FindingTable, CountsTheFindingsThatItDoesNotList)
     std::vector<InspectedMaterial> all(vxInspector::mostFindings + 5);
     for (InspectedMaterial& empty : all)
         empty.material = std::make_unique<vxMat::CMaterial>(); // a material without properties is one error
-    const TableContent table = findingTable(all);
+    const TableContent table = findingTable(all, UnitSystem::si());
     EXPECT_EQ(table.rows.size(), vxInspector::mostFindings);
     EXPECT_THAT(table.sentence.toStdString(), HasSubstr("Findings: 1005."));
     EXPECT_THAT(table.sentence.toStdString(), HasSubstr("The last 5 are not listed."));

@@ -1,5 +1,6 @@
 #include "Check.h"
 
+#include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
 #include "ProjectFindings.h"
@@ -8,6 +9,7 @@
 #include "vxMaterial/model/MaterialCheck.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/Plausibility.h"
+#include "vxUnits/Quantity.h"
 
 #include <cstddef>
 #include <set>
@@ -36,6 +38,8 @@ struct MaterialDoubt
     std::uint32_t number;
     std::string label;
     vxUnits::Doubt doubt;
+    double value; ///< in `unit`
+    std::string unit;
 };
 
 /// The doubts about the materials of a file: the first of them, and the number of the others.
@@ -43,6 +47,7 @@ struct MaterialDoubts
 {
     std::vector<MaterialDoubt> list;
     std::size_t omitted = 0;
+    std::string system = vxUnits::UnitSystem::si().text(); ///< the unit system of the numbers
 };
 
 /// Returns the slots of a material that an error is about. An error about yield stresses and plastic strains together is in
@@ -57,30 +62,42 @@ std::set<std::int32_t> slotsWithErrors(const vxMat::MaterialBase& material)
     return slots;
 }
 
+MaterialDoubt doubtAbout(const FileMaterial& material, vxUnits::Doubt doubt, const ChosenUnits& units)
+{
+    const vxMat::MaterialBase& values = *material.entry->material;
+    const auto unit = vxUnits::unitOfQuantity(doubt.id, units.system(), vxUnits::creepExponents(values));
+    const double value = units.convert(doubt.value, doubt.id, values);
+    return {material.number, material.label, std::move(doubt), value, unit ? textOf(*unit) : std::string()};
+}
+
 /// Adds the doubts about a material. A doubt about a value that is an error already is only added if it has a remedy.
-void addDoubts(const FileMaterial& material, MaterialDoubts& doubts)
+void addDoubts(const FileMaterial& material, const ChosenUnits& units, MaterialDoubts& doubts)
 {
     const std::set<std::int32_t> errors = slotsWithErrors(*material.entry->material);
-    for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(*material.entry->material)) {
+    for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(*material.entry->material, units.system())) {
         if (!doubt.remedy && errors.count(doubt.id) != 0)
             continue;
         if (doubts.list.size() < vxCAE::mostFindings)
-            doubts.list.push_back({material.number, material.label, std::move(doubt)});
+            doubts.list.push_back(doubtAbout(material, std::move(doubt), units));
         else
             ++doubts.omitted;
     }
 }
 
 /// Returns the doubts about the materials of a file; none if the materials cannot be read.
-MaterialDoubts findDoubts(Input input)
+MaterialDoubts findDoubts(Input input, const ChosenUnits& given)
 try {
     Json::Value kind(Json::objectValue);
     kind["proj_type"] = input.tree.root()["proj_type"].toJsonValue();
     if (!input.project && vxCAE::readProjectKind(kind) == vxCAE::ProjectKind::Analysis)
         return {};
     MaterialDoubts doubts;
-    for (const FileMaterial& material : readMaterials(std::move(input)).materials)
-        addDoubts(material, doubts);
+    const MaterialFile file = readMaterials(std::move(input));
+    std::vector<std::string> unreadable; // is among the findings
+    const ChosenUnits units = given.orOfProject(file.unitSystem, file.path, unreadable);
+    doubts.system = units.system().text();
+    for (const FileMaterial& material : file.materials)
+        addDoubts(material, units, doubts);
     return doubts;
 } catch (const Failure&) {
     return {}; // the findings name the reason
@@ -95,7 +112,8 @@ Json::Value toJson(const std::vector<MaterialDoubt>& doubts)
         json["material"] = one.label;
         json["id"] = one.doubt.id;
         json["quantity"] = vxMat::findPropertyRecord(one.doubt.id)->name;
-        json["value"] = toJsonNumber(one.doubt.value);
+        json["value"] = toJsonNumber(one.value);
+        json["unit"] = one.unit;
         json["message"] = one.doubt.message.text();
         json["impossible"] = one.doubt.severity == vxUnits::Severity::Impossible;
         json["remedy"] = one.doubt.remedy ? Json::Value(one.doubt.remedy->message.text()) : Json::Value();
@@ -128,17 +146,18 @@ void addOmitted(Answer& answer, const std::string& path, const char* kind, std::
 } // namespace
 
 Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Strictness strictness,
-                 Form form)
+                 Form form, const ChosenUnits& units)
 {
     Input input = readInput(path);
     const vxCAE::CheckReport report = check(input, materialsPath);
-    const MaterialDoubts doubts = findDoubts(std::move(input));
+    const MaterialDoubts doubts = findDoubts(std::move(input), units);
     const bool isClean = report.findings.empty() && (doubts.list.empty() || strictness == Strictness::Errors);
     Answer answer;
     answer.status = isClean ? Status::Clean : Status::Findings;
     if (form == Form::Json) {
         Json::Value document;
         document["file"] = path;
+        document["units"] = doubts.system;
         document["findings"] = toJson(report.findings);
         document["notes"] = toJson(report.notes);
         document["doubts"] = toJson(doubts.list);

@@ -282,12 +282,13 @@ void CommandLine::addCheck()
                    "no known material has",
                    "vxmat check analysis.json --materials materials.json", [this] {
                        const Strictness strictness = m_strict ? Strictness::Doubts : Strictness::Errors;
-                       return checkFile(m_file, m_materialsFile, strictness, form());
+                       return checkFile(m_file, m_materialsFile, strictness, form(), units());
                    });
     command->add_option("FILE", m_file, "An exchange document of either kind, or a project; - is standard input")
         ->required();
     addMaterialsFile(command);
     command->add_flag("--strict", m_strict, "Exit with status 1 for doubts too");
+    addUnits(command);
     addForm(command);
 }
 

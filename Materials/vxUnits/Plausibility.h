@@ -3,6 +3,7 @@
 #include "vxMaterial/model/Material.h"
 #include "vxUnits/MaterialValues.h"
 #include "vxUnits/Message.h"
+#include "vxUnits/UnitSystem.h"
 #include "vxUnits/UnitsExport.h"
 
 #include <cstdint>
@@ -49,9 +50,9 @@ struct Remedy
 struct Doubt
 {
     std::int32_t id = 0; ///< the quantity in doubt
-    double value = 0.0;  ///< its number, or the element in doubt of its list
-    std::string lowest;  ///< "10 Pa": the bounds of known materials, for the value or for the relation in the message;
-    std::string highest; ///< empty if there are none
+    double value = 0.0;  ///< its number in the unit of the catalogue, or the element in doubt of its list
+    std::string lowest;  ///< "10 Pa": the bounds of known materials, for the value or for the relation in the message,
+    std::string highest; ///< in the units of the message; empty if there are none
     Message message;
     Severity severity = Severity::Unlikely;
     std::optional<Remedy> remedy;
@@ -76,9 +77,12 @@ struct Relation
 VXUNITS_EXPORT const std::vector<Relation>& relations();
 
 /// Returns the doubts about the values of a material in the catalogue's units, sorted by the ids of the quantities. Empty
-/// for a material without numbers. Takes less than 2 ms for the largest library material.
-VXUNITS_EXPORT std::vector<Doubt> checkPlausibility(const MaterialValues& values);
-VXUNITS_EXPORT std::vector<Doubt> checkPlausibility(const vxMat::MaterialBase& material);
+/// for a material without numbers. The texts show the numbers in the units of `shown`. Takes less than 2 ms for the largest
+/// library material.
+VXUNITS_EXPORT std::vector<Doubt> checkPlausibility(const MaterialValues& values,
+                                                    const UnitSystem& shown = UnitSystem::si());
+VXUNITS_EXPORT std::vector<Doubt> checkPlausibility(const vxMat::MaterialBase& material,
+                                                    const UnitSystem& shown = UnitSystem::si());
 
 /// Returns the text of the unit system that all numbers of a material fit, if it is not the system of the catalogue; empty
 /// otherwise.

@@ -5,6 +5,7 @@
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/Quantity.h"
+#include "vxUnits/Unit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,9 +54,11 @@ constexpr RuleText ruleTexts[] = {
      "Pa"},
     {{"plausibility.water-viscosity", "%1 = %2 with %3: heat and conductivity are those of water, which has %5 to %6."},
      "Pa s"},
-    {{"plausibility.yield-ratio", "%1 = %2 with %3 is a share of the modulus of %4; known solids have %5 to %6."}, "1"},
+    {{"plausibility.yield-ratio",
+      "%1 = %2 with %3 gives a ratio of yield stress to modulus of %4; known solids have %5 to %6."},
+     "1"},
     {{"plausibility.hardening-ratio",
-      "%1 = %2 with %3 is a share of the modulus of %4; known metals have %5 to %6, or 0."},
+      "%1 = %2 with %3 gives a ratio of hardening to modulus of %4; known metals have %5 to %6, or 0."},
      "1"},
     {{"plausibility.initial-modulus",
       "%1 = %2 with %3: the initial modulus of the hyperelastic model is %4 times Young's modulus; %5 to %6 times is "
@@ -88,16 +91,23 @@ constexpr MessageText remedySheetWithHeat{
     "The stresses look like %1, the density like %2, and the specific heat like %3: convert them"};
 constexpr MessageText remedySystem{"plausibility.remedy-system", "The values look like %1: convert the material"};
 
+// The same remedies if the doubt shows the numbers in another unit system than that of the catalogue.
+constexpr MessageText remedyStressesInSi{"plausibility.remedy-stresses-in-si",
+                                         "The numbers of the stresses look like %1, but are in Pa: convert them"};
+constexpr MessageText remedySheetInSi{
+    "plausibility.remedy-sheet-in-si",
+    "The numbers of the stresses look like %1, that of the density like %2, but they are in SI: convert them"};
+constexpr MessageText remedySheetWithHeatInSi{"plausibility.remedy-sheet-with-heat-in-si",
+                                              "The numbers of the stresses look like %1, that of the density like %2, "
+                                              "that of the specific heat like %3, but they "
+                                              "are in SI: convert them"};
+constexpr MessageText remedySystemInSi{"plausibility.remedy-system-in-si",
+                                       "The numbers look like %1, but are in SI: convert the material"};
+
 std::string nameOf(std::int32_t id)
 {
     const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(id);
     return record != nullptr ? record->name : std::to_string(id);
-}
-
-std::string unitOf(std::int32_t id, const MaterialValues& values)
-{
-    const auto unit = unitOfQuantity(id, UnitSystem::si(), values.creepExponents());
-    return unit ? unit->text() : std::string("1");
 }
 
 /// Returns a number with six digits, which are enough for a doubt.
@@ -113,37 +123,100 @@ std::string rounded(double number, const std::string& unit)
     return text + (unit == "1" || unit.empty() ? "" : " " + unit);
 }
 
-/// Returns the first numbers of a list, and "..." if there are more.
-std::string listText(const std::vector<double>& list)
+/// Returns a number as it was typed. A number with many digits is the result of a conversion, and six of them are enough.
+std::string asTyped(double number)
 {
-    constexpr std::size_t most = 8;
-    const std::vector<double> first(list.begin(),
-                                    list.begin() + static_cast<std::ptrdiff_t>(std::min(list.size(), most)));
-    return vxMat::formatNumberList(first) + (list.size() > most ? ", ..." : "");
+    constexpr std::size_t mostTyped = 10;
+    const std::string text = vxMat::formatNumber(number);
+    const std::string mantissa = text.substr(0, text.find('e'));
+    const std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string::npos)
+        return text;
+    const std::size_t digits = mantissa.size() - first - (mantissa.find('.', first) == std::string::npos ? 0 : 1);
+    return digits > mostTyped ? vxMat::formatGeneral(number) : text;
 }
 
-std::string valueText(std::int32_t id, const MaterialValues& values)
+constexpr std::size_t mostInList = 8;
+
+/// Returns the first numbers of a list, and "..." if there are more.
+template <typename Write>
+std::string listText(const std::vector<double>& list, const Write& write)
 {
-    const std::string unit = unitOf(id, values);
-    const auto& list = values.list(id);
-    if (list.empty())
-        return vxMat::formatNumber(values.number(id).value_or(0.0)) + (unit == "1" ? "" : " " + unit);
-    return listText(list) + (unit == "1" ? "" : " " + unit);
+    std::string text;
+    for (std::size_t i = 0; i < std::min(list.size(), mostInList); ++i)
+        text += (i == 0 ? "" : ", ") + write(list[i]);
+    return text + (list.size() > mostInList ? ", ..." : "");
 }
+
+/// Writes the numbers of a material in the unit system in which a doubt shows them.
+class ShownNumbers
+{
+public:
+    ShownNumbers(const MaterialValues& values, const UnitSystem& system) : m_values(values), m_system(system) {}
+
+    /// Returns a number in the unit of a relation with six digits.
+    std::string inUnitOf(const char* relation, double number) const
+    {
+        const auto unit = Unit::parse(relation);
+        if (isStored() || !unit || unit->dimension().isNone())
+            return rounded(number, relation);
+        const Unit shown = m_system.unitOf(unit->dimension());
+        return rounded(convertNumber(number, *unit, shown), shown.text());
+    }
+
+    /// Returns a number in the unit of a quantity with six digits.
+    std::string inUnitOf(std::int32_t id, double number) const
+    {
+        const Units units = unitsOf(id);
+        return rounded(convertNumber(number, units.stored, units.shown), units.shown.text());
+    }
+
+    /// Returns the number or the list of a quantity as it was typed.
+    std::string value(std::int32_t id) const
+    {
+        const Units units = unitsOf(id);
+        const auto write = [&units](double number) {
+            return asTyped(convertNumber(number, units.stored, units.shown));
+        };
+        const auto& list = m_values.list(id);
+        const std::string numbers = list.empty() ? write(m_values.number(id).value_or(0.0)) : listText(list, write);
+        return numbers + (units.shown.text() == "1" ? "" : " " + units.shown.text());
+    }
+
+private:
+    struct Units
+    {
+        Unit stored;
+        Unit shown;
+    };
+
+    bool isStored() const { return m_system == UnitSystem::si(); }
+
+    /// Returns the units of a quantity; those of pure numbers if they are not known.
+    Units unitsOf(std::int32_t id) const
+    {
+        const auto exponents = m_values.creepExponents();
+        const auto stored = unitOfQuantity(id, UnitSystem::si(), exponents);
+        const auto shown = unitOfQuantity(id, m_system, exponents);
+        return stored && shown ? Units{*stored, *shown} : Units();
+    }
+
+    const MaterialValues& m_values;
+    const UnitSystem& m_system;
+};
 
 /// Returns the number or the list of a quantity with six digits, in the unit that a remedy assumes.
 std::string typedText(const Change& change, const MaterialValues& values)
 {
-    std::vector<double> numbers = values.list(change.id);
-    if (numbers.empty())
+    const std::vector<double>& list = values.list(change.id);
+    if (list.empty())
         return rounded(values.number(change.id).value_or(0.0), change.unit);
-    std::transform(numbers.begin(), numbers.end(), numbers.begin(), sixDigits);
-    return listText(numbers) + " " + change.unit;
+    return listText(list, [](double number) { return vxMat::formatNumber(sixDigits(number)); }) + " " + change.unit;
 }
 
 /// Returns the quantities of a finding beside the one in doubt, with their values: "Density", " = 7850 kg/m^3", ", ",
 /// "Specific heat", and so on.
-std::vector<std::string> partsOfOthers(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
+std::vector<std::string> partsOfOthers(const Finding& finding, std::int32_t blamed, const ShownNumbers& numbers)
 {
     std::vector<std::string> parts;
     for (const std::int32_t id : finding.ids) {
@@ -152,7 +225,7 @@ std::vector<std::string> partsOfOthers(const Finding& finding, std::int32_t blam
         if (!parts.empty())
             parts.emplace_back(", ");
         parts.push_back(nameOf(id));
-        parts.push_back(" = " + valueText(id, values));
+        parts.push_back(" = " + numbers.value(id));
     }
     return parts;
 }
@@ -185,12 +258,15 @@ std::string landmark(std::int32_t id, double bound)
 
 } // namespace
 
-Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues& values)
+Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues& values, const UnitSystem& shown)
 {
     const RuleText& rule = ruleTexts[static_cast<std::size_t>(finding.rule)];
-    const std::string unit = *rule.unit == '\0' ? unitOf(blamed, values) : rule.unit;
-    const std::string lowest = rounded(finding.lowest, unit);
-    const std::string highest = rounded(finding.highest, unit);
+    const ShownNumbers numbers(values, shown);
+    const auto bound = [&](double number) {
+        return *rule.unit == '\0' ? numbers.inUnitOf(blamed, number) : numbers.inUnitOf(rule.unit, number);
+    };
+    const std::string lowest = bound(finding.lowest);
+    const std::string highest = bound(finding.highest);
     Doubt doubt;
     doubt.id = blamed;
     const auto& list = values.list(blamed);
@@ -201,28 +277,34 @@ Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues&
         doubt.highest = std::isinf(finding.highest) ? std::string() : highest;
     }
     doubt.severity = finding.severity;
-    std::vector<std::string> others = partsOfOthers(finding, blamed, values);
+    std::vector<std::string> others = partsOfOthers(finding, blamed, numbers);
     doubt.message = {rule.text.id,
                      rule.text.english,
-                     {nameOf(blamed), valueText(blamed, values),
-                      std::accumulate(others.begin(), others.end(), std::string()), rounded(finding.relation, unit),
-                      lowest, highest, landmark(blamed, finding.lowest), landmark(blamed, finding.highest)},
+                     {nameOf(blamed), numbers.value(blamed),
+                      std::accumulate(others.begin(), others.end(), std::string()), bound(finding.relation), lowest,
+                      highest, landmark(blamed, finding.lowest), landmark(blamed, finding.highest)},
                      {{othersPlace, std::move(others)}}};
     return doubt;
 }
 
-Message remedyMessage(const Slip& slip, const MaterialValues& values, const MaterialKind* kind)
+Message remedyMessage(const Slip& slip, const MaterialValues& values, const MaterialKind* kind, const UnitSystem& shown)
 {
+    const bool isStored = shown == UnitSystem::si();
+    const auto message = [isStored](const MessageText& inStored, const MessageText& inOther,
+                                    std::vector<std::string> arguments) {
+        const MessageText& text = isStored ? inStored : inOther;
+        return Message{text.id, text.english, std::move(arguments)};
+    };
     if (!slip.system.empty())
-        return {remedySystem.id, remedySystem.english, {slip.system}};
+        return message(remedySystem, remedySystemInSi, {slip.system});
     const auto heat = std::find_if(slip.changes.begin(), slip.changes.end(),
                                    [](const Change& change) { return change.id == vxMat::PropertyId::SpecificHeat; });
     if (!slip.density.empty() && heat != slip.changes.end())
-        return {remedySheetWithHeat.id, remedySheetWithHeat.english, {slip.unit, slip.density, heat->unit}};
+        return message(remedySheetWithHeat, remedySheetWithHeatInSi, {slip.unit, slip.density, heat->unit});
     if (!slip.density.empty())
-        return {remedySheet.id, remedySheet.english, {slip.unit, slip.density}};
+        return message(remedySheet, remedySheetInSi, {slip.unit, slip.density});
     if (!slip.unit.empty())
-        return {remedyStresses.id, remedyStresses.english, {slip.unit}};
+        return message(remedyStresses, remedyStressesInSi, {slip.unit});
     const Change& change = slip.changes.front();
     const std::string typed = typedText(change, values);
     const Feature feature = featureOf(change.id);
@@ -239,8 +321,9 @@ void addDoubtTexts(std::vector<MessageText>& texts)
 {
     for (const RuleText& one : ruleTexts)
         texts.push_back(one.text);
-    texts.insert(texts.end(), {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySheet,
-                               remedySheetWithHeat, remedySystem});
+    texts.insert(texts.end(),
+                 {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySheet, remedySheetWithHeat,
+                  remedySystem, remedyStressesInSi, remedySheetInSi, remedySheetWithHeatInSi, remedySystemInSi});
 }
 
 } // namespace vxUnits

@@ -163,7 +163,9 @@ class Check
     };
 
 public:
-    explicit Check(const MaterialValues& values) : m_values(values), m_slips(possibleSlips(values)), m_rest(values) {}
+    Check(const MaterialValues& values, const UnitSystem& shown)
+        : m_values(values), m_shown(shown), m_slips(possibleSlips(values)), m_rest(values)
+    {}
 
     std::vector<Doubt> run()
     {
@@ -182,7 +184,7 @@ public:
         addRemedies();
         for (const Finding& finding : original) {
             if (contains(findings, finding))
-                m_doubts.push_back(toDoubt(finding, finding.ids[0], m_values));
+                m_doubts.push_back(toDoubt(finding, finding.ids[0], m_values, m_shown));
         }
         std::stable_sort(m_doubts.begin(), m_doubts.end(),
                          [](const Doubt& one, const Doubt& other) { return one.id < other.id; });
@@ -200,13 +202,13 @@ private:
             const bool told = std::any_of(m_doubts.begin() + static_cast<std::ptrdiff_t>(count), m_doubts.end(),
                                           [blamed](const Doubt& doubt) { return doubt.id == blamed; });
             if (!told && !contains(after, finding))
-                m_doubts.push_back(toDoubt(finding, blamed, m_values));
+                m_doubts.push_back(toDoubt(finding, blamed, m_values, m_shown));
         }
         if (m_doubts.size() == count) {
             Finding unlike{Rule::UnlikeAnyMaterial};
             unlike.ids[0] = slip.changes.front().id;
             unlike.value = m_values.number(unlike.ids[0]).value_or(0.0);
-            m_doubts.push_back(toDoubt(unlike, unlike.ids[0], m_values));
+            m_doubts.push_back(toDoubt(unlike, unlike.ids[0], m_values, m_shown));
         }
         return m_doubts.size() - count;
     }
@@ -222,7 +224,7 @@ private:
         const MaterialKind* const kind = fit.kind;
         auto doubt = m_doubts.begin();
         for (const Explained& one : m_explained) {
-            const Message message = remedyMessage(one.slip, m_values, several ? kind : one.kind);
+            const Message message = remedyMessage(one.slip, m_values, several ? kind : one.kind, m_shown);
             for (std::size_t left = one.doubts; left > 0; --left, ++doubt)
                 doubt->remedy = Remedy{message, one.slip.changes, one.slip.system};
         }
@@ -239,6 +241,7 @@ private:
     }
 
     const MaterialValues& m_values;
+    const UnitSystem& m_shown; ///< the units of the numbers in the texts
     std::vector<Slip> m_slips; ///< that are still possible
     std::vector<Explained> m_explained;
     MaterialValues m_rest; ///< the values with the remedies applied that were found
@@ -260,14 +263,14 @@ std::string Doubt::text(const Translator& translator) const
     return remedy ? message.text(translator) + " " + remedy->message.text(translator) + "." : message.text(translator);
 }
 
-std::vector<Doubt> checkPlausibility(const MaterialValues& values)
+std::vector<Doubt> checkPlausibility(const MaterialValues& values, const UnitSystem& shown)
 {
-    return Check(values).run();
+    return Check(values, shown).run();
 }
 
-std::vector<Doubt> checkPlausibility(const vxMat::MaterialBase& material)
+std::vector<Doubt> checkPlausibility(const vxMat::MaterialBase& material, const UnitSystem& shown)
 {
-    return checkPlausibility(MaterialValues(material));
+    return checkPlausibility(MaterialValues(material), shown);
 }
 
 std::string fittingSystem(const vxMat::MaterialBase& material)

@@ -40,11 +40,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     vxfuzz::writeFile(QString::fromStdString(analysis), first);
     vxfuzz::writeFile(QString::fromStdString(materials), second);
     constexpr auto strictness = commandline::Strictness::Doubts;
-    for (const auto form : {commandline::Form::Text, commandline::Form::Json})
-        attempt([form] { return commandline::checkFile(analysis, materials, strictness, form); });
-    attempt([] { return commandline::checkFile(materials, {}, strictness, commandline::Form::Text); });
-    attempt([] { return commandline::queryFile(analysis, materials, 1, commandline::Form::Text); });
     const commandline::ChosenUnits units("mm-t-s");
+    for (const auto form : {commandline::Form::Text, commandline::Form::Json})
+        attempt([&] { return commandline::checkFile(analysis, materials, strictness, form, units); });
+    attempt([] { return commandline::checkFile(materials, {}, strictness, commandline::Form::Text, {}); });
+    attempt([] { return commandline::queryFile(analysis, materials, 1, commandline::Form::Text); });
     attempt([&units] { return commandline::diffFiles(analysis, materials, commandline::Form::Text, units); });
     return 0;
 }

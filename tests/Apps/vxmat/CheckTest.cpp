@@ -130,6 +130,25 @@ TEST(Check, PrintsDoubtsAsJson)
     EXPECT_EQ(doubts[0]["remedy"], "206900 MPa is usual for steel: multiply by 1e6");
 }
 
+TEST(Check, ShowsDoubtsInTheUnitSystemOfTheOptionOrOfTheProject)
+{
+    const std::string project = vxmat({"new", "Plastic Example 2", "-o", "-"}).out;
+    const std::string wrong =
+        "Young's modulus = 0.2069 MPa with Density = 7.85e-09 t/mm^3 gives a wave speed of 5133.88 "
+        "mm/s; known solids of such a density have 60000 mm/s to 20500000 mm/s.";
+    EXPECT_THAT(vxmat({"check", "-", "--units", "mm-t-s"}, project).out, testing::HasSubstr(wrong));
+    const vxtest::Folder folder;
+    const std::string inProject = folder.file("p.vxmat", project);
+    ASSERT_EQ(vxmat({"set", inProject, "--project-units", "mm-t-s"}).status, 0);
+    EXPECT_THAT(vxmat({"check", inProject}).out, testing::HasSubstr(wrong));
+    EXPECT_THAT(vxmat({"check", inProject, "--units", "SI"}).out, testing::HasSubstr("Young's modulus = 206900 Pa"));
+    const Json::Value json = vxjson::readJsonText(vxmat({"check", inProject, "--json"}).out).document;
+    EXPECT_EQ(json["units"], "mm-t-s");
+    EXPECT_EQ(json["doubts"][0]["value"], 0.2069);
+    EXPECT_EQ(json["doubts"][0]["unit"], "MPa");
+    EXPECT_EQ(vxmat({"check", inProject, "--units", "mm-x"}).status, 2);
+}
+
 /// Returns a document with this element `count` times as material.
 std::string documentOf(const std::string& material, int count)
 {

@@ -3,6 +3,7 @@
 #include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/PropertyId.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -102,6 +103,44 @@ TEST(Doubts, AnotherSystemIsNamedIfAllNumbersFitIt)
     EXPECT_EQ(*values.number(Id::Density), 7850.0);
     EXPECT_EQ(*values.number(Id::SpecificHeat), 490.0);
     EXPECT_TRUE(checkPlausibility(values).empty());
+}
+
+TEST(Doubts, ShowTheirNumbersInAnotherUnitSystem)
+{
+    MaterialValues values;
+    values.setNumber(Id::Density, 7850);
+    values.setNumber(Id::YoungsModulus, 206900);
+    values.setNumber(Id::PoissonsRatio, 0.3);
+    const auto doubts = checkPlausibility(values, *vxUnits::UnitSystem::parse("mm-t-s"));
+    ASSERT_EQ(doubts.size(), 1U);
+    EXPECT_EQ(doubts[0].message.text(),
+              "Young's modulus = 0.2069 MPa with Density = 7.85e-09 t/mm^3 gives a wave speed of 5133.88 mm/s; "
+              "known solids of such a density have 60000 mm/s to 20500000 mm/s.");
+    EXPECT_EQ(doubts[0].lowest, "60000 mm/s");
+    EXPECT_EQ(doubts[0].value, 206900.0) << "remedies change the number of the catalogue";
+    EXPECT_EQ(doubts[0].remedy->message.text(), "206900 MPa is usual for steel: multiply by 1e6");
+}
+
+TEST(Doubts, TellNumbersOfAnotherSystemFromTheSystemInWhichTheyAreShown)
+{
+    MaterialValues values;
+    values.setNumber(Id::Density, 7.85e-9);
+    values.setNumber(Id::YoungsModulus, 206900);
+    values.setNumber(Id::PoissonsRatio, 0.3);
+    const auto doubts = checkPlausibility(values, *vxUnits::UnitSystem::parse("mm-t-s"));
+    ASSERT_FALSE(doubts.empty());
+    EXPECT_THAT(doubts[0].message.text(), testing::HasSubstr("Density = 7.85e-21 t/mm^3"));
+    EXPECT_EQ(doubts[0].remedy->message.text(), "The numbers look like mm-t-s, but are in SI: convert the material");
+}
+
+TEST(Doubts, RoundNumbersWithManyDigits)
+{
+    MaterialValues values;
+    values.setNumber(Id::Density, 0.000734544492961071); // a steel of in-lbf-s, converted as if it were SI
+    values.setNumber(Id::YoungsModulus, 206843);
+    const auto doubts = checkPlausibility(values);
+    ASSERT_FALSE(doubts.empty());
+    EXPECT_THAT(doubts[0].message.text(), testing::HasSubstr("Density = 0.000734544 kg/m^3"));
 }
 
 TEST(Doubts, ThereAreNoneAboutSensibleOrMissingValues)

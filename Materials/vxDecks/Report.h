@@ -12,13 +12,14 @@
 
 namespace vxDecks {
 
-/// The outcome for one quantity of a material.
+/// The outcome for one quantity of a material that is written to a deck, or read from one. "Target" is the deck, or the
+/// material.
 enum class Outcome
 {
-    Carried,      ///< the deck has the same number
-    Converted,    ///< the deck has the same meaning in another unit or form
-    Approximated, ///< the deck has nearly the same meaning
-    Lost,         ///< the deck does not have the quantity
+    Carried,      ///< the target has the same number
+    Converted,    ///< the target has the same meaning in another unit or form
+    Approximated, ///< the target has nearly the same meaning
+    Lost,         ///< the target does not have the quantity
 };
 
 /// Returns "carried", "converted", "approximated" or "lost".
@@ -27,8 +28,8 @@ VXDECKS_EXPORT const char* nameOf(Outcome outcome);
 /// The outcome for one quantity of a material, and the reason.
 struct ReportRow
 {
-    std::int32_t slot = 0; ///< the slot of the property in the material
-    std::string name;      ///< of the quantity, as in the catalogue
+    std::int32_t slot = 0; ///< the slot of the property in the material; 0 for a card of a deck that is not read
+    std::string name;      ///< of the quantity, as in the catalogue; the keyword of a card
     Outcome outcome = Outcome::Lost;
     std::string card;                  ///< the card that has the quantity; empty if it is lost
     std::vector<vxUnits::Message> how; ///< how it is converted or approximated, or why it is lost

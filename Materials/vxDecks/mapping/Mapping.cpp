@@ -1,6 +1,7 @@
 #include "vxDecks/Mapping.h"
 
 #include "texts/DeckTexts.h"
+#include "texts/ReadingTexts.h"
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
@@ -357,6 +358,8 @@ const std::vector<MessageText>& messageTexts()
 {
     static const std::vector<MessageText> all = [] {
         std::vector<MessageText> collected = deckTexts();
+        const std::vector<MessageText> ofReading = readingTexts();
+        collected.insert(collected.end(), ofReading.begin(), ofReading.end());
         for (const Mapping& row : table) {
             const bool known = std::any_of(collected.begin(), collected.end(), [&row](const MessageText& one) {
                 return std::string_view(one.id) == row.how.id;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "vxDecks/DeckReading.h"
+
+#include <istream>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace vxDecks {
+
+/// The functions of a format that can be read, or that is only recognised.
+struct DeckReader
+{
+    Format format = Format::Calculix;
+    /// Returns whether the beginning of a file is in the format.
+    bool (*recognises)(std::string_view beginning) = nullptr;
+    /// Reads materials whose numbers are in a unit system. Adds materials, their reports, foreign cards and notes to the deck.
+    /// The units have no effect in a format with own units. Null if the format cannot be read.
+    void (*read)(std::istream& file, const vxUnits::UnitSystem& units, ReadDeck& deck) = nullptr;
+    /// The characters with which a comment begins; the first comments may declare the units: "** Units: mm, t, s, K, A".
+    /// Empty if numbers have their own units.
+    std::string_view comment;
+};
+
+const DeckReader& calculixReader();
+const DeckReader& lsDynaReader();
+
+/// Returns the units that a line declares as the writers do, "** Units: mm, t, s, K, A"; absent if it does not.
+std::optional<vxUnits::UnitSystem> unitsOfComment(std::string_view line, std::string_view comment);
+
+/// Adds the note about the foreign cards of a deck to its report, if there are any.
+void noteForeignCards(ReadDeck& deck);
+
+} // namespace vxDecks

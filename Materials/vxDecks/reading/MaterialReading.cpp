@@ -1,0 +1,168 @@
+#include "reading/MaterialReading.h"
+
+#include "reading/TextOfDeck.h"
+#include "texts/ReadingTexts.h"
+#include "vxMaterial/model/CataloguedMaterial.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/MaterialValues.h"
+#include "vxUnits/Quantity.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vxDecks {
+
+namespace {
+
+using vxUnits::Message;
+using vxUnits::UnitSystem;
+
+std::string nameOrNumber(const std::string& name, const std::optional<std::uint32_t>& number)
+{
+    if (!name.empty())
+        return toUtf8(name);
+    return number ? std::to_string(*number) : "Material";
+}
+
+bool isFinite(const vxMat::MaterialProperty& property)
+{
+    return std::isfinite(property.value) && std::all_of(property.values.begin(), property.values.end(),
+                                                        [](double number) { return std::isfinite(number); });
+}
+
+/// Returns the message that a number has another unit in the deck; empty if it has not.
+std::vector<Message> unitChange(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
+                                const UnitSystem& units)
+{
+    const auto read = vxUnits::unitOfQuantity(id, units, creep);
+    const auto stored = vxUnits::unitOfQuantity(id, UnitSystem::si(), creep);
+    if (!read || !stored || read->factor() == stored->factor())
+        return {};
+    return {makeMessage(ReadText::ReadOtherUnit, {read->text(), stored->text()})};
+}
+
+} // namespace
+
+MaterialReading::MaterialReading(Format format, const std::string& name, std::optional<std::uint32_t> number)
+    : m_format(format),
+      m_name(nameOrNumber(name, number)),
+      m_number(number),
+      m_material(std::make_unique<vxMat::CMaterial>(m_name.c_str()))
+{
+    if (name.empty())
+        m_notes.push_back(makeMessage(ReadText::NameAdded));
+}
+
+std::optional<double> MaterialReading::number(std::int32_t id) const
+{
+    const vxMat::MaterialProperty* const property = m_material->findProperty(id);
+    return property == nullptr ? std::nullopt : std::optional<double>(property->value);
+}
+
+/// Returns the property of a quantity with its default value.
+vxMat::MaterialProperty& MaterialReading::take(std::int32_t id)
+{
+    auto made = vxMat::findPropertyRecord(id)->create();
+    vxMat::MaterialProperty& property = *made;
+    m_material->setProperty(id, std::move(made));
+    m_forms.erase(id);
+    return property;
+}
+
+void MaterialReading::setNumber(std::int32_t id, double number)
+{
+    take(id).value = number;
+}
+
+void MaterialReading::setList(std::int32_t id, std::vector<double> numbers)
+{
+    take(id).values = std::move(numbers);
+}
+
+void MaterialReading::setWord(std::int32_t id, const std::string& word)
+{
+    take(id).text = word;
+}
+
+void MaterialReading::setSwitch(std::int32_t id)
+{
+    take(id);
+}
+
+void MaterialReading::remove(std::int32_t id)
+{
+    m_material->removeProperty(m_material->findProperty(id));
+    m_forms.erase(id);
+}
+
+void MaterialReading::convert(std::int32_t id, Message how)
+{
+    Form& form = m_forms[id];
+    form.outcome = std::max(form.outcome, Outcome::Converted);
+    form.how.push_back(std::move(how));
+}
+
+void MaterialReading::approximate(std::int32_t id, Message how)
+{
+    Form& form = m_forms[id];
+    form.outcome = Outcome::Approximated;
+    form.how.push_back(std::move(how));
+}
+
+void MaterialReading::lose(const std::string& what, Message why)
+{
+    m_lost.push_back({0, toUtf8(what), Outcome::Lost, {}, {std::move(why)}, false});
+}
+
+void MaterialReading::note(Message message)
+{
+    m_notes.push_back(std::move(message));
+}
+
+ReportRow MaterialReading::rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
+                                 const UnitSystem& units) const
+{
+    ReportRow row{id,   vxMat::findPropertyRecord(id)->name, Outcome::Carried, findMapping(m_format, id)->card, {},
+                  false};
+    if (!hasOwnUnits(m_format))
+        row.how = unitChange(id, creep, units);
+    if (!row.how.empty())
+        row.outcome = Outcome::Converted;
+    if (const auto form = m_forms.find(id); form != m_forms.end()) {
+        row.outcome = std::max(row.outcome, form->second.outcome);
+        row.how.insert(row.how.end(), form->second.how.begin(), form->second.how.end());
+    }
+    return row;
+}
+
+void MaterialReading::loseWhatIsNotFinite()
+{
+    for (const auto& [id, property] : vxMat::propertiesInCatalogueOrder(*m_material)) {
+        const vxUnits::Quantity* const quantity = vxUnits::findQuantity(id);
+        if (quantity == nullptr || !quantity->hasNumber() || isFinite(*property))
+            continue;
+        lose(property->name, makeMessage(ReadText::NotFiniteInCatalogue));
+        remove(id);
+    }
+}
+
+void MaterialReading::finish(const UnitSystem& units, ReadDeck& deck)
+{
+    const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
+    if (!hasOwnUnits(m_format) && units != UnitSystem::si())
+        vxUnits::convertMaterial(*m_material, units, UnitSystem::si());
+    loseWhatIsNotFinite();
+    MaterialReport report;
+    report.name = m_name;
+    report.writtenName = m_name;
+    report.id = m_number.value_or(0);
+    report.notes = std::move(m_notes);
+    for (const auto& [id, property] : vxMat::propertiesInCatalogueOrder(*m_material))
+        report.rows.push_back(rowOf(id, creep, units));
+    report.rows.insert(report.rows.end(), m_lost.begin(), m_lost.end());
+    deck.report.materials.push_back(std::move(report));
+    deck.materials.push_back({std::move(m_name), m_number, std::move(m_material)});
+}
+
+} // namespace vxDecks

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "vxDecks/DeckReading.h"
+#include "vxDecks/Mapping.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vxDecks {
+
+/// One material while it is read: its quantities in the unit system of the deck, and the outcome for each of them and for the
+/// cards that are not taken. finish() converts the numbers to the units of the catalogue.
+class MaterialReading
+{
+public:
+    /// `name` is the name in the deck. If it is empty, the material gets its number, or "Material", as its name. Bytes that
+    /// are not UTF-8 are read as Latin-1.
+    MaterialReading(Format format, const std::string& name, std::optional<std::uint32_t> number);
+
+    const std::string& name() const { return m_name; }
+    bool has(std::int32_t id) const { return m_material->hasProperty(id); }
+    /// Returns the number of a quantity in the unit of the deck; absent if the material does not have it.
+    std::optional<double> number(std::int32_t id) const;
+
+    // Each of these replaces an earlier value.
+    void setNumber(std::int32_t id, double number);
+    void setList(std::int32_t id, std::vector<double> numbers);
+    void setWord(std::int32_t id, const std::string& word);
+    void setSwitch(std::int32_t id);
+    /// Removes a quantity. Does nothing if the material does not have it.
+    void remove(std::int32_t id);
+
+    /// Reports a quantity as read from another form. Quantities are otherwise reported as carried, or as converted if the
+    /// unit differs.
+    void convert(std::int32_t id, vxUnits::Message how);
+    void approximate(std::int32_t id, vxUnits::Message how);
+    /// Reports a card, or a part of one, as not taken. `what` is its keyword: "*EXPANSION".
+    void lose(const std::string& what, vxUnits::Message why);
+    /// Adds a note about the material.
+    void note(vxUnits::Message message);
+
+    /// Adds the material and its report to a deck whose numbers are in a unit system. The object must not be used again.
+    void finish(const vxUnits::UnitSystem& units, ReadDeck& deck);
+
+private:
+    struct Form
+    {
+        Outcome outcome = Outcome::Carried;
+        std::vector<vxUnits::Message> how;
+    };
+
+    vxMat::MaterialProperty& take(std::int32_t id);
+    ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
+                    const vxUnits::UnitSystem& units) const;
+    void loseWhatIsNotFinite();
+
+    Format m_format;
+    std::string m_name;
+    std::optional<std::uint32_t> m_number;
+    std::unique_ptr<vxMat::CMaterial> m_material;
+    std::map<std::int32_t, Form> m_forms;
+    std::vector<ReportRow> m_lost;
+    std::vector<vxUnits::Message> m_notes;
+};
+
+} // namespace vxDecks

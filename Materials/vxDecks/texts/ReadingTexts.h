@@ -1,0 +1,37 @@
+#pragma once
+
+#include "vxUnits/Message.h"
+
+#include <string>
+#include <vector>
+
+namespace vxDecks {
+
+/// The texts of messages about decks that are read. The table in ReadingTexts.cpp has them in this order.
+enum class ReadText : std::size_t
+{
+    ErrorInLine,
+    UnitsNeeded,
+    UnitsNeededFitting,
+    WrittenOnly,
+    Binary,
+    StreamFailed,
+    Units,
+    UnitsDeclared,
+    UnitsOverridden,
+    NotOfMaterials,
+    MoreKinds,
+    Included,
+    ReadOtherUnit,
+    NotFiniteInCatalogue,
+    NoQuantity,
+    NameAdded,
+    Count
+};
+
+vxUnits::Message makeMessage(ReadText text, std::vector<std::string> arguments = {});
+
+/// Returns all texts of this table.
+std::vector<vxUnits::MessageText> readingTexts();
+
+} // namespace vxDecks

@@ -90,6 +90,9 @@ HostStyle::~HostStyle() = default;
 QIcon HostStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option, const QWidget* widget) const
 {
     switch (standardIcon) {
+    case SP_LineEditClearButton:
+        // The base style would load the plug-ins of all picture formats, which makes the start longer (gui_bench).
+        return PictureFactory::getIcon(QStringLiteral("kelta_erase"));
     case SP_ToolBarHorizontalExtensionButton:
         return PictureFactory::getIcon(QStringLiteral("kelta_more_right"));
     case SP_ToolBarVerticalExtensionButton:

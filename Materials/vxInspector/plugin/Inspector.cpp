@@ -17,7 +17,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -181,74 +180,6 @@ void Inspector::changeEvent(QEvent* event)
             retranslate();
             refresh();
         });
-}
-
-InspectorDock::InspectorDock(QWidget* parent) : QWidget(parent), m_hint(new QLabel(this))
-{
-    m_hint->setTextFormat(Qt::PlainText);
-    m_hint->setWordWrap(true);
-    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    (new QVBoxLayout(this))->addWidget(m_hint);
-    retranslate();
-}
-
-InspectorDock::~InspectorDock() = default;
-
-QSize InspectorDock::sizeHint() const
-{
-    constexpr int most = 380; // leaves the editor its usual width at the first start
-    const QFontMetrics font = fontMetrics();
-    return {std::min(56 * font.averageCharWidth(), most), 24 * font.lineSpacing()};
-}
-
-void InspectorDock::retranslate()
-{
-    m_hint->setText(tr("Select a material in the project explorer, or open its editor."));
-}
-
-void InspectorDock::showEvent(QShowEvent* event)
-{
-    QWidget::showEvent(event);
-    // The main window exists when the dock is shown, but not when it is made.
-    if (m_watch == nullptr) {
-        m_watch = new SubjectWatch(this);
-        connect(m_watch, &SubjectWatch::changed, this, &InspectorDock::refreshIfNeeded);
-    }
-    if (m_isPainted)
-        refreshIfNeeded();
-}
-
-void InspectorDock::paintEvent(QPaintEvent* event)
-{
-    QWidget::paintEvent(event);
-    if (!std::exchange(m_isPainted, true))
-        QTimer::singleShot(0, this, &InspectorDock::refreshIfNeeded);
-}
-
-void InspectorDock::refreshIfNeeded()
-{
-    if (isVisible() && m_isPainted)
-        Kelta::guarded(tr("The inspector cannot be updated"), [this] { refresh(); });
-}
-
-void InspectorDock::refresh()
-{
-    if (m_inspector == nullptr && m_watch->current().kind == Subject::Kind::Nothing)
-        return;
-    if (m_inspector == nullptr) {
-        m_inspector = new Inspector(*m_watch, this);
-        layout()->addWidget(m_inspector);
-        delete std::exchange(m_hint, nullptr);
-        m_inspector->show();
-    }
-    m_inspector->refresh();
-}
-
-void InspectorDock::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange && m_hint != nullptr)
-        retranslate();
 }
 
 } // namespace vxInspector

@@ -62,32 +62,4 @@ private:
     std::string m_ofProject; ///< the unit system of the project in the first entry of the choice
 };
 
-/// The content of the inspector's dock. It makes the tabs when there is something to show and the dock is painted for the
-/// first time, so that the start of the program and the first picture of an editor do not wait for it.
-class InspectorDock : public QWidget
-{
-    Q_OBJECT
-
-public:
-    explicit InspectorDock(QWidget* parent = nullptr);
-    ~InspectorDock() override;
-
-    QSize sizeHint() const override;
-
-protected:
-    void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
-
-private:
-    void refreshIfNeeded();
-    void refresh();
-    void retranslate();
-
-    SubjectWatch* m_watch = nullptr;
-    QLabel* m_hint;
-    Inspector* m_inspector = nullptr; ///< null until there is something to show
-    bool m_isPainted = false;
-};
-
 } // namespace vxInspector

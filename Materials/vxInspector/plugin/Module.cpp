@@ -3,7 +3,7 @@
 #include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Kelta/Exceptions.h"
-#include "plugin/Inspector.h"
+#include "plugin/InspectorDock.h"
 
 void initInspector()
 {

@@ -1,0 +1,62 @@
+#include "plugin/InspectorDock.h"
+
+#include "Kelta/Exceptions.h"
+#include "plugin/TabsLibrary.h"
+
+#include <QEvent>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace vxInspector {
+
+InspectorDock::InspectorDock(QWidget* parent) : QWidget(parent), m_hint(new QLabel(this))
+{
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    (new QVBoxLayout(this))->addWidget(m_hint);
+    retranslate();
+}
+
+InspectorDock::~InspectorDock() = default;
+
+QSize InspectorDock::sizeHint() const
+{
+    constexpr int most = 380; // leaves the editor its usual width at the first start
+    const QFontMetrics font = fontMetrics();
+    return {std::min(56 * font.averageCharWidth(), most), 24 * font.lineSpacing()};
+}
+
+void InspectorDock::retranslate()
+{
+    m_hint->setText(tr("Select a material in the project explorer, or open its editor."));
+}
+
+void InspectorDock::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(m_isPainted, true))
+        QTimer::singleShot(0, this,
+                           [this] { Kelta::guarded(tr("The inspector cannot be loaded"), [this] { makeContent(); }); });
+}
+
+void InspectorDock::makeContent()
+{
+    QWidget* const content = loadedTabs()(m_hint);
+    if (content == nullptr)
+        return;
+    layout()->addWidget(content);
+    content->show();
+}
+
+void InspectorDock::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_hint != nullptr)
+        retranslate();
+}
+
+} // namespace vxInspector

@@ -47,7 +47,9 @@ std::size_t findUnit(const std::string& text, std::size_t argument, std::string_
 void addUnitOfAbscissa(const Finding& finding, const UnitSystem& system, std::vector<std::string>& arguments)
 {
     using namespace vxConstitutive;
-    if (finding.id != FindingId::AbscissaOutside && finding.id != FindingId::ResultNotFinite)
+    const bool namesAbscissa = finding.id == FindingId::AbscissaOutside || finding.id == FindingId::ResultNotFinite ||
+                               finding.id == FindingId::NoEquilibrium;
+    if (!namesAbscissa)
         return;
     const auto& quantities = quantityRecords();
     const auto found = std::find_if(quantities.begin(), quantities.end(),

@@ -4,7 +4,6 @@
 #include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace vxConstitutive {
@@ -103,30 +102,6 @@ const std::vector<double>* Curve::find(Quantity quantity) const
     const auto found = std::find_if(columns.begin(), columns.end(),
                                     [quantity](const Column& column) { return column.quantity == quantity; });
     return found == columns.end() ? nullptr : &found->values;
-}
-
-std::vector<double> evenlySpaced(double from, double to, std::size_t count)
-{
-    std::vector<double> values(count, from);
-    for (std::size_t i = 1; i < count; ++i) {
-        const double part = static_cast<double>(i) / static_cast<double>(count - 1);
-        values[i] = from * (1.0 - part) + to * part; // exact at both ends, and without overflow between them
-    }
-    return values;
-}
-
-std::vector<double> spacedByFactor(double from, double to, std::size_t count)
-{
-    if (!(from * to > 0.0))
-        return {};
-    std::vector<double> values = evenlySpaced(std::log(std::fabs(from)), std::log(std::fabs(to)), count);
-    for (double& value : values)
-        value = std::copysign(std::exp(value), from);
-    if (count > 0)
-        values.front() = from;
-    if (count > 1)
-        values.back() = to;
-    return values;
 }
 
 std::string columnName(const Column& column, const vxUnits::Translator& translator)

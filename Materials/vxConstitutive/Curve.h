@@ -165,7 +165,8 @@ struct CurveRequest
 };
 
 /// Return `count` values from `from` to `to`, with equal differences or with equal factors. A single value is `from`. Equal
-/// factors need bounds of the same sign that are not 0; otherwise the result is empty.
+/// factors need bounds of the same sign that are not 0; otherwise the result is empty. The values between the bounds are rounded to
+/// 15 digits, or 13 with equal factors: 6 values from 0.5 to 3 include 1.5 and 2.
 VXCONSTITUTIVE_EXPORT std::vector<double> evenlySpaced(double from, double to, std::size_t count);
 VXCONSTITUTIVE_EXPORT std::vector<double> spacedByFactor(double from, double to, std::size_t count);
 

@@ -42,8 +42,9 @@ void CurveBuilder::append(const double* values, std::size_t count)
     const double abscissa = values[0];
     bool finite = true;
     for (std::size_t i = 0; i < m_curve.columns.size() && i < count; ++i) {
-        m_curve.columns[i].values.push_back(values[i]);
-        finite = finite && std::isfinite(values[i]);
+        const bool inRange = std::fabs(values[i]) <= largest;
+        m_curve.columns[i].values.push_back(inRange || i == 0 ? values[i] : std::numeric_limits<double>::quiet_NaN());
+        finite = finite && inRange;
     }
     if (!finite) {
         m_notFinite.add(abscissa);
@@ -68,6 +69,12 @@ void CurveBuilder::gap(double abscissa)
     m_largestGap = std::max(m_largestGap, abscissa);
 }
 
+void CurveBuilder::noEquilibrium(double abscissa)
+{
+    appendEmpty(abscissa);
+    m_noEquilibrium.add(abscissa);
+}
+
 void CurveBuilder::appendEmpty(double abscissa)
 {
     for (Column& column : m_curve.columns)
@@ -83,13 +90,15 @@ void CurveBuilder::Count::add(double abscissa)
 
 Curve CurveBuilder::take()
 {
-    const auto report = [this](FindingId id, const Count& count) {
+    const ModeRecord& mode = modeRecord(m_request.mode);
+    const auto report = [&](FindingId id, const Count& count) {
         if (count.number > 0)
-            note(makeFinding(id, {std::string(quantityRecord(modeRecord(m_request.mode).abscissa).name), count.first,
-                                  static_cast<double>(count.number)}));
+            note(makeFinding(id, {std::string(quantityRecord(mode.abscissa).name), count.first,
+                                  static_cast<double>(count.number), std::string(mode.name)}));
     };
     report(FindingId::AbscissaOutside, m_outside);
     report(FindingId::ResultNotFinite, m_notFinite);
+    report(FindingId::NoEquilibrium, m_noEquilibrium);
     return std::move(m_curve);
 }
 

@@ -17,6 +17,9 @@ public:
     /// Adds a finding if the model does not have the mode; refused() is true then.
     CurveBuilder(const Model& model, const CurveRequest& request);
 
+    /// The largest magnitude of a value. Differences and other units of larger ones would overflow.
+    static constexpr double largest = 1e300;
+
     bool refused() const { return m_refused; }
     const CurveRequest& request() const { return m_request; }
 
@@ -25,7 +28,7 @@ public:
              Relative relative = Relative::No);
 
     /// Appends a value to each column. Ignores values beyond the last column, so that a caller can pass the values of
-    /// Detail::Full in each case. Counts rows that are not finite.
+    /// Detail::Full in each case. Values beyond `largest` become NaN, and their rows are counted.
     void row(std::initializer_list<double> values);
     void row(const std::vector<double>& values);
 
@@ -34,6 +37,9 @@ public:
 
     /// Appends a row of NaN after the abscissa, which is not counted as an error.
     void gap(double abscissa);
+
+    /// Appends a row of NaN after an abscissa without a state of equilibrium, and counts it.
+    void noEquilibrium(double abscissa);
 
     /// Returns the largest abscissa of a gap.
     double largestGap() const { return m_largestGap; }
@@ -64,6 +70,7 @@ private:
     Curve m_curve;
     Count m_outside;
     Count m_notFinite;
+    Count m_noEquilibrium;
     std::optional<Range> m_range;
     double m_largestGap = -std::numeric_limits<double>::infinity();
     bool m_refused = false;

@@ -88,10 +88,13 @@ constexpr FindingRecord findingTable[]{
     // Curves
     {FindingId::ModeNotOfModel, "mode-not-of-model", Severity::Error, "%2 has no response in the mode %1."},
     {FindingId::AbscissaOutside, "abscissa-outside", Severity::Error,
-     "The model has no value at %3 points. At the first of them, the %1 is %2."},
+     "%4: the model has no value at %3 of the points. At the first of them, the %1 is %2."},
     {FindingId::ResultNotFinite, "result-not-finite", Severity::Error,
-     "No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too "
-     "large, the chains are at their limit, or there is no equilibrium."},
+     "%4: no finite value exists at %3 of the points. At the first of them, the %1 is %2. The constants or the range "
+     "are too large, or the chains are at their limit."},
+    {FindingId::NoEquilibrium, "no-equilibrium", Severity::Error,
+     "%4: there is no equilibrium at %3 of the points. At the first of them, the %1 is %2. There the material resists "
+     "a change of volume too little to keep the lateral surface free of stress. Check D1."},
     {FindingId::UnstableFrom, "unstable-from", Severity::Warning,
      "%1: the material is unstable from %2 on by Drucker's criterion. A solver may fail there."},
     {FindingId::SmallStrainExceeded, "small-strain-exceeded", Severity::Warning,

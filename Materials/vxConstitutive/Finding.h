@@ -57,8 +57,9 @@ enum class FindingId
 
     // Curves
     ModeNotOfModel,        ///< mode, model
-    AbscissaOutside,       ///< abscissa, first value, number
-    ResultNotFinite,       ///< abscissa, first value, number
+    AbscissaOutside,       ///< abscissa, first value, number, mode
+    ResultNotFinite,       ///< abscissa, first value, number, mode
+    NoEquilibrium,         ///< abscissa, first value, number, mode
     UnstableFrom,          ///< mode, abscissa
     SmallStrainExceeded,   ///< strain
     LockingInsideRange,    ///< mode, locking stretch, end of the range

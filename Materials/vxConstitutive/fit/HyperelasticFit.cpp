@@ -240,12 +240,12 @@ FitResult refused(HyperelasticForm form, const HyperelasticFitData& data)
 
 double incompressibleStress(const StrainEnergy& energy, Mode mode, double abscissa)
 {
-    return TestResponse(energy, incompressible()).at(mode, abscissa).nominalStress;
+    return TestResponse(mode, energy, incompressible()).at(abscissa).nominalStress;
 }
 
 double incompressibleInvariant(Mode mode, double abscissa)
 {
-    return TestResponse(StrainEnergy::mooneyRivlin(1.0), incompressible()).firstInvariant(mode, abscissa);
+    return TestResponse(mode, StrainEnergy::mooneyRivlin(1.0), incompressible()).firstInvariant(abscissa);
 }
 
 bool isStable(const HyperelasticConstants& constants, Range range)

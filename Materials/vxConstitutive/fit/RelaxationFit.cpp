@@ -1,3 +1,5 @@
+#include "Spacing.h"
+
 #include "fit/FitSupport.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxConstitutive/response/ViscoElasticModel.h"
@@ -60,7 +62,7 @@ LeastSquares problemOf(const FitSet& set, Range times, const BoundsById& bounds)
 std::vector<std::vector<double>> startsOf(Range times)
 {
     std::vector<std::vector<double>> starts;
-    for (const double tau : spacedByFactor(times.from / 2.0, times.to * 2.0, 8))
+    for (const double tau : spreadByFactor(times.from / 2.0, times.to * 2.0, 8))
         starts.push_back({1.0, 0.5, std::log(tau)});
     return starts;
 }

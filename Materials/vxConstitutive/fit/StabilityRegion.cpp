@@ -1,5 +1,7 @@
 #include "fit/StabilityRegion.h"
 
+#include "Spacing.h"
+
 #include "response/PrincipalStress.h"
 
 #include <algorithm>
@@ -27,7 +29,7 @@ StabilityRegion::StabilityRegion(Range range)
         for (const double end : {range.from, range.to}) {
             if (!(end > 0.0) || end == 1.0)
                 continue;
-            const std::vector<double> stretches = spacedByFactor(1.0, end, statesOfSide + 1);
+            const std::vector<double> stretches = spreadByFactor(1.0, end, statesOfSide + 1);
             std::for_each(stretches.begin() + 1, stretches.end(), [&](double stretch) { add(mode, stretch); });
         }
     }

@@ -67,19 +67,23 @@ void addColumns(CurveBuilder& builder, Mode mode, Detail detail)
 
 void addRow(CurveBuilder& builder, Mode mode, double abscissa, const TestPoint& point)
 {
+    if (!point.inEquilibrium) {
+        builder.noEquilibrium(abscissa);
+        return;
+    }
     const double fifth = mode == Mode::SimpleShear ? point.normalStressDifference : point.lateralStretch;
     builder.row({abscissa, point.nominalStress, point.trueStress, point.slope, fifth, point.volumeRatio});
 }
 
 /// Notes the largest factor between the incompressible curve and the compressible one.
-void compareWithCompressible(CurveBuilder& builder, const TestResponse& compressible, Mode mode)
+void compareWithCompressible(CurveBuilder& builder, TestResponse compressible)
 {
     double largest = 1.0;
     double where = 1.0;
     const auto& abscissas = builder.values(0);
     const auto& stresses = builder.values(1);
     for (std::size_t i = 0; i < abscissas.size(); ++i) {
-        const double other = compressible.at(mode, abscissas[i]).nominalStress;
+        const double other = compressible.at(abscissas[i]).nominalStress;
         const double ratio = std::fabs(stresses[i]) / std::fabs(other);
         const double factor = std::max(ratio, 1.0 / ratio);
         if (std::isfinite(factor) && factor > largest) {
@@ -135,11 +139,11 @@ Curve HyperelasticModel::curve(const CurveRequest& request) const
         return builder.take();
     }
 
-    const TestResponse response(energyOf(m_constants, request.chains), volumetric);
+    TestResponse response(request.mode, energyOf(m_constants, request.chains), volumetric);
     addColumns(builder, request.mode, request.detail);
     for (const double abscissa : request.abscissas) {
         if (builder.checkDomain(abscissa, isInDomain(request.mode, abscissa)))
-            addRow(builder, request.mode, abscissa, response.at(request.mode, abscissa));
+            addRow(builder, request.mode, abscissa, response.at(abscissa));
     }
     noteInstability(builder, response);
     noteChains(builder, response);
@@ -147,18 +151,18 @@ Curve HyperelasticModel::curve(const CurveRequest& request) const
     const bool changesVolume = request.mode != Mode::SimpleShear && request.mode != Mode::Volumetric;
     if (request.compressibility == Compressibility::Incompressible && changesVolume && ratio > 0.0 &&
         ratio < practicallyIncompressible)
-        compareWithCompressible(builder, TestResponse(energyOf(m_constants, request.chains), m_volumetric),
-                                request.mode);
+        compareWithCompressible(builder,
+                                TestResponse(request.mode, energyOf(m_constants, request.chains), m_volumetric));
     return builder.take();
 }
 
-void HyperelasticModel::noteInstability(CurveBuilder& builder, const TestResponse& response) const
+void HyperelasticModel::noteInstability(CurveBuilder& builder, TestResponse& response) const
 {
     const Mode mode = builder.request().mode;
     const std::optional<Range> range = builder.abscissaRange();
     if (!range)
         return;
-    const auto margin = [&](double abscissa) { return response.stabilityMargin(mode, abscissa); };
+    const auto margin = [&](double abscissa) { return response.stabilityMargin(abscissa); };
     const StabilityReport report = findInstability(margin, restOf(mode), *range);
     builder.setUnstable(report.unstable);
     for (const auto& first : {report.firstBelow, report.firstAbove}) {
@@ -167,7 +171,7 @@ void HyperelasticModel::noteInstability(CurveBuilder& builder, const TestRespons
     }
 }
 
-void HyperelasticModel::noteChains(CurveBuilder& builder, const TestResponse& response) const
+void HyperelasticModel::noteChains(CurveBuilder& builder, TestResponse& response) const
 {
     const std::optional<Range> range = builder.abscissaRange();
     const Mode mode = builder.request().mode;
@@ -175,8 +179,8 @@ void HyperelasticModel::noteChains(CurveBuilder& builder, const TestResponse& re
         return;
 
     // The stretch of the chains is largest at one end of the range.
-    const double low = m_energy.partOfLimit(response.firstInvariant(mode, range->from));
-    const double high = m_energy.partOfLimit(response.firstInvariant(mode, range->to));
+    const double low = m_energy.partOfLimit(response.firstInvariant(range->from));
+    const double high = m_energy.partOfLimit(response.firstInvariant(range->to));
     const double part = std::max(low, high);
     const double abscissa = low > high ? range->from : range->to;
     if (part >= 1.0) {
@@ -196,9 +200,8 @@ void HyperelasticModel::noteChains(CurveBuilder& builder, const TestResponse& re
 
 StabilityReport HyperelasticModel::stability(Mode mode, Range range, Compressibility compressibility) const
 {
-    const TestResponse response(m_energy, volumetricOf(m_constants, compressibility));
-    return findInstability([&](double abscissa) { return response.stabilityMargin(mode, abscissa); }, restOf(mode),
-                           range);
+    TestResponse response(mode, m_energy, volumetricOf(m_constants, compressibility));
+    return findInstability([&](double abscissa) { return response.stabilityMargin(abscissa); }, restOf(mode), range);
 }
 
 double HyperelasticModel::lockingStretch(Mode mode) const

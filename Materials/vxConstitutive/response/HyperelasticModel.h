@@ -27,7 +27,8 @@ struct HyperelasticConstants
 /// Rubber: Neo-Hookean, Mooney-Rivlin and Arruda-Boyce, by the energies of StrainEnergy.h.
 ///
 /// With l the stretch of the test, s_i = dW/d(ln l_i) and U the volumetric energy, the true stresses are
-/// sigma_i = (s_i + J dU/dJ)/J. The stretch of a direction without stress follows from sigma_3 = 0. Hence
+/// sigma_i = (s_i + J dU/dJ)/J. The stretch of a direction without stress follows from sigma_3 = 0, on
+/// the branch of solutions that begins at the unloaded state. Where this branch ends, there is no value. Hence
 /// sigma_1 = (s_1 - s_3)/J, and the nominal stress is P = J sigma_1/l in each of these modes:
 ///
 ///  - uniaxial: l_2 = l_3 free. Incompressible: P = 2 (l - l^-2) (W1 + W2/l)
@@ -64,8 +65,8 @@ public:
 
 private:
     void examine();
-    void noteInstability(CurveBuilder& builder, const TestResponse& response) const;
-    void noteChains(CurveBuilder& builder, const TestResponse& response) const;
+    void noteInstability(CurveBuilder& builder, TestResponse& response) const;
+    void noteChains(CurveBuilder& builder, TestResponse& response) const;
 
     HyperelasticConstants m_constants;
     StrainEnergy m_energy;

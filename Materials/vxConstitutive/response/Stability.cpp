@@ -1,5 +1,7 @@
 #include "vxConstitutive/response/Stability.h"
 
+#include "Spacing.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -55,8 +57,8 @@ Sample findMinimum(const Margin& margin, double from, double to)
 /// Returns samples from `rest` to `end`, with the minima between them at which the margin is less than 0.
 std::vector<Sample> sampleWay(const Margin& margin, double rest, double end)
 {
-    const std::vector<double> way = rest > 0.0 && end > 0.0 ? spacedByFactor(rest, end, stabilitySamples + 1)
-                                                            : evenlySpaced(rest, end, stabilitySamples + 1);
+    const std::vector<double> way = rest > 0.0 && end > 0.0 ? spreadByFactor(rest, end, stabilitySamples + 1)
+                                                            : spread(rest, end, stabilitySamples + 1);
     std::vector<Sample> samples;
     for (const double at : way) {
         const Sample sample{at, margin(at)};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "response/PrincipalStress.h"
+#include "response/VolumeBranch.h"
 #include "vxConstitutive/Curve.h"
 #include "vxConstitutive/response/StrainEnergy.h"
 
@@ -8,9 +9,10 @@
 
 namespace vxConstitutive {
 
-/// The measured quantities of a test at one abscissa; NaN if there is no state of equilibrium.
+/// The measured quantities of a test at one abscissa.
 struct TestPoint
 {
+    bool inEquilibrium = true; ///< otherwise the numbers have no meaning
     double nominalStress = 0.0;
     double trueStress = 0.0;
     double slope = 0.0; ///< of the nominal stress by the abscissa
@@ -19,20 +21,20 @@ struct TestPoint
     double volumeRatio = 1.0;
 };
 
-/// The response of a hyperelastic energy in the tests of HyperelasticModel.h.
+/// The response of a hyperelastic energy in a test of HyperelasticModel.h. Numbers beyond those of a double are infinite or NaN.
 class TestResponse
 {
 public:
     /// `volumetric` has no effect if it is incompressible.
-    TestResponse(StrainEnergy energy, VolumetricEnergy volumetric) : m_energy(energy), m_volumetric(volumetric) {}
+    TestResponse(Mode mode, const StrainEnergy& energy, const VolumetricEnergy& volumetric);
 
-    TestPoint at(Mode mode, double abscissa) const;
+    TestPoint at(double abscissa);
 
-    /// Returns a number in Pa that is greater than 0 if the state is stable.
-    double stabilityMargin(Mode mode, double abscissa) const;
+    /// Returns a number in Pa that is greater than 0 if the state is stable; NaN if there is no state of equilibrium.
+    double stabilityMargin(double abscissa);
 
-    /// Returns the first invariant of the shape at an abscissa.
-    double firstInvariant(Mode mode, double abscissa) const;
+    /// Returns the first invariant of the shape at an abscissa; NaN if there is no state of equilibrium.
+    double firstInvariant(double abscissa);
 
 private:
     struct State
@@ -41,16 +43,19 @@ private:
         double logVolumeRatio;
     };
 
-    TestPoint onPath(const TestPath& path, double stretch) const;
+    TestPoint onPath(double stretch);
     TestPoint sheared(double amount) const;
     TestPoint dilated(double stretch) const;
-    State stateAt(Mode mode, double abscissa) const;
+    State stateAt(double abscissa);
 
-    /// Returns ln J at which the third direction has no stress; NaN if there is none.
-    double findLogVolumeRatio(const TestPath& path, double logStretch) const;
+    /// Returns ln J at which the third direction has no stress; nothing if there is none.
+    std::optional<double> logVolumeRatio(double logStretch);
 
+    Mode m_mode;
     StrainEnergy m_energy;
     VolumetricEnergy m_volumetric;
+    const TestPath& m_path;
+    std::optional<VolumeBranch> m_branch; ///< of compressible energies, in tests with a free direction
 };
 
 } // namespace vxConstitutive

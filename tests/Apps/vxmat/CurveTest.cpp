@@ -120,14 +120,26 @@ TEST_F(CurveOfProject, AddsTangentsOnlyIfAsked)
     EXPECT_THAT(numbersOf(lines[1]), near({4.0, 3937500.0, 15750000.0, 1031250.0, 0.5, 1.0}));
 }
 
+TEST_F(CurveOfProject, HasRoundAbscissasBetweenRoundBounds)
+{
+    makeNeoHookean();
+    const std::vector<std::string> lines =
+        curve({file(), "--mode", "uniaxial", "--from", "0.5", "--to", "3", "--points", "6"});
+    ASSERT_EQ(lines.size(), 7U);
+    EXPECT_THAT(lines[3], StartsWith("1.5,"));
+    EXPECT_THAT(lines[4], StartsWith("2,"));
+}
+
 TEST_F(CurveOfProject, LeavesTheCellEmptyWhereThereIsNoValueAndSaysSo)
 {
     makeNeoHookean();
     const Outcome run = vxmat({"curve", file(), "--mode", "uniaxial", "--at", "0, 1, -2"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "stretch [1],nominal stress [Pa],true stress [Pa]\n0,,\n1,0,0\n-2,,\n");
-    EXPECT_EQ(run.err, "vxmat: " + file() +
-                           ": 1 Rubber: The model has no value at 2 points. At the first of them, the stretch is 0.\n");
+    EXPECT_EQ(run.err,
+              "vxmat: " + file() +
+                  ": 1 Rubber: uniaxial tension and compression: the model has no value at 2 of the points. At "
+                  "the first of them, the stretch is 0.\n");
 }
 
 TEST_F(CurveOfProject, IsNotWrittenIfNothingCanBeDrawn)

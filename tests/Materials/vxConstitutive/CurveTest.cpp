@@ -48,6 +48,14 @@ TEST(CurveAbscissas, EvenSpacingEndsExactlyAtBothBounds)
     EXPECT_EQ(evenlySpaced(-1.7e308, 1.7e308, 3), (std::vector<double>{-1.7e308, 0.0, 1.7e308}));
 }
 
+TEST(CurveAbscissas, BetweenTheBoundsAreTheNumbersThatAUserExpects)
+{
+    EXPECT_EQ(evenlySpaced(0.5, 3.0, 6), (std::vector<double>{0.5, 1.0, 1.5, 2.0, 2.5, 3.0}));
+    EXPECT_EQ(evenlySpaced(0.1, 0.7, 7), (std::vector<double>{0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7}));
+    EXPECT_EQ(spacedByFactor(1e-3, 1e3, 7), (std::vector<double>{1e-3, 0.01, 0.1, 1.0, 10.0, 100.0, 1e3}));
+    EXPECT_EQ(evenlySpaced(1.0 / 3.0, 2.0 / 3.0, 3).front(), 1.0 / 3.0); // the bounds keep their digits
+}
+
 TEST(CurveAbscissas, SpacingByFactorsNeedsBoundsOfOneSign)
 {
     const std::vector<double> decades = spacedByFactor(1.0, 1000.0, 4);

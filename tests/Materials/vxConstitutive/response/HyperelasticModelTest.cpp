@@ -123,6 +123,58 @@ TEST(CompressibleStress, TheLateralSurfaceIsFreeOfStress)
     }
 }
 
+// The expected values of the next tests are from a bisection of the stress of the free direction, for energies that hardly resist
+// changes of volume.
+
+TEST(CompressibleStress, HasTheLateralStretchOfItsBranchWhateverTheOrderOfTheStretches)
+{
+    const HyperelasticConstants constants = arrudaBoyce(288091.0, 4.73, 0.0789); // K0 = 25 Pa
+    CurveRequest request;
+    request.mode = Mode::Equibiaxial;
+    request.abscissas = {5.52, 20.0, 2.0, 5.51, 7.0};
+    request.detail = Detail::Full;
+    const Curve curve = HyperelasticModel(constants).curve(request);
+    const std::vector<double> lateral{3.5925979974027467, 0.9283270809698487, 1.9959736980686826, 3.5954971346894053,
+                                      3.0411025442667303};
+    const std::vector<double> nominalStress{41267.91169659723, 131069.94969764267, 596.4123199060627,
+                                            41110.285988062606, 60304.6701468608};
+    for (std::size_t i = 0; i < lateral.size(); ++i) {
+        EXPECT_NEAR(curve.find(Quantity::LateralStretch)->at(i), lateral[i], 1e-11 * lateral[i]);
+        EXPECT_NEAR(curve.find(Quantity::NominalStress)->at(i), nominalStress[i], 1e-9 * nominalStress[i]);
+    }
+}
+
+TEST(CompressibleStress, HasNoValueBeyondTheEndOfTheBranch)
+{
+    // Where the volume is halved, the resistance to compression is largest. A state with the volume ratio 0.03 exists at the
+    // stretch 0.28, but no compression from the unloaded state leads to it.
+    CurveRequest request;
+    request.abscissas = {0.35, 0.3, 0.29, 0.28, 0.1, 0.5};
+    request.detail = Detail::Full;
+    const Curve curve = HyperelasticModel(neoHooke(1.0, 0.3)).curve(request);
+    const std::vector<double>& volumes = *curve.find(Quantity::VolumeRatio);
+    EXPECT_NEAR(volumes[0], 0.6415784630135233, 1e-12);
+    EXPECT_NEAR(volumes[1], 0.49855698691560557, 1e-12);
+    EXPECT_NEAR(volumes[2], 0.4249352988651636, 1e-12);
+    EXPECT_NEAR(volumes[5], 0.8047398862356401, 1e-12);
+    for (const Column& column : curve.columns) {
+        EXPECT_EQ(std::isnan(column.values[3]), &column != &curve.columns.front());
+        EXPECT_EQ(std::isnan(column.values[4]), &column != &curve.columns.front());
+    }
+    EXPECT_EQ(firstArgument(curve.findings, FindingId::NoEquilibrium, 1), "0.28");
+    EXPECT_EQ(firstArgument(curve.findings, FindingId::NoEquilibrium, 2), "2");
+    EXPECT_FALSE(has(curve.findings, FindingId::ResultNotFinite));
+}
+
+TEST(CompressibleStress, NeedsResistanceToChangesOfVolume)
+{
+    // The stiffness of the free direction, K0 + 4/3 mu0, is negative.
+    const Curve curve = curveOf(neoHooke(-1.0, 1.0), Mode::Planar, {1.0, 1.1});
+    EXPECT_EQ(curve.columns[1].values[0], 0.0);
+    EXPECT_TRUE(std::isnan(curve.columns[1].values[1]));
+    EXPECT_TRUE(has(curve.findings, FindingId::NoEquilibrium));
+}
+
 TEST(CompressibleStress, SmallStrainsFollowHookesLawWithTheInitialModuli)
 {
     // mu = 2000 Pa, K = 2000 Pa: E = 9 K mu/(3 K + mu) = 4500 Pa, nu = 0.125.
@@ -377,6 +429,21 @@ TEST(HyperelasticRobustness, AnyConstantsGiveACurveOrFindings)
                 }
             }
         }
+    }
+}
+
+TEST(HyperelasticRobustness, NumbersNearTheLargestDoubleAreNoValues)
+{
+    // A plot from -1e308 to 1e308 has no width that a double can hold.
+    for (const double d1 : {0.0, 1e-308}) {
+        const Curve curve = curveOf(neoHooke(1e308, d1), Mode::Planar, {0.55, 0.9, 1.0, 1.1, 4.0});
+        for (const std::size_t column : {1U, 2U}) {
+            for (const std::size_t row : {0U, 1U, 3U, 4U})
+                EXPECT_TRUE(std::isnan(curve.columns[column].values[row])) << row;
+            EXPECT_EQ(curve.columns[column].values[2], 0.0);
+        }
+        EXPECT_EQ(firstArgument(curve.findings, FindingId::ResultNotFinite, 3), "planar tension (pure shear)");
+        EXPECT_EQ(firstArgument(curve.findings, FindingId::ResultNotFinite, 2), "4");
     }
 }
 

@@ -44,8 +44,8 @@ struct ForeignCard
 };
 
 /// The materials of a deck, and the report of their quantities. The rows of the report are the quantities that a material
-/// has got, in the order of the catalogue, and the cards and parts of cards that it has not got, in the order of the file.
-/// The latter have the slot 0, and the keyword in place of a quantity.
+/// has got, in the order of the catalogue, and then the cards and parts of cards that it has not got. The latter have the
+/// slot 0, and the keyword in place of a quantity. They are refused if the user must give their quantities.
 struct ReadDeck
 {
     std::vector<ReadMaterial> materials; ///< in the order of the file

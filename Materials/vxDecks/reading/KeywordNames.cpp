@@ -2,6 +2,8 @@
 
 #include "reading/DeckReader.h"
 #include "reading/TextOfDeck.h"
+#include "vxMaterial/json/Utf8.h"
+#include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
 #include <map>
@@ -188,24 +190,15 @@ constexpr const char* lsDynaGroups[] = {
     "INTERFACE_", "LOAD_",    "MAT_",      "NODE_",     "PARAMETER_",    "PART_",       "PERTURBATION_",
     "RIGIDWALL_", "SECTION_", "SENSOR_",   "SET_",      "TERMINATION_",  "USER_"};
 
-std::string withoutBlanks(std::string_view text)
-{
-    std::string result;
-    for (const char c : text)
-        if (c != ' ' && c != '\t')
-            result += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
-    return result;
-}
-
 /// Returns the spellings of the manual by the keywords without blanks.
 const std::map<std::string, std::string>& spellings()
 {
     static const std::map<std::string, std::string> all = [] {
         std::map<std::string, std::string> made;
         for (const char* const keyword : familyKeywords)
-            made[withoutBlanks(keyword)] = keyword;
+            made[foldedKeyword(keyword)] = keyword;
         for (const char* const keyword : sharedKeywords)
-            made[withoutBlanks(keyword)] = keyword;
+            made[foldedKeyword(keyword)] = keyword;
         return made;
     }();
     return all;
@@ -251,20 +244,31 @@ std::optional<Format> formatOfKeywords(std::string_view beginning)
 
 } // namespace
 
+std::string foldedKeyword(std::string_view text)
+{
+    std::string result;
+    for (const char c : text)
+        if (c != ' ' && c != '\t')
+            result += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+    return result;
+}
+
 std::string keywordOf(std::string_view line)
 {
     line = trimmed(line);
     if (line.size() < 2 || line[0] != '*' || line[1] == '*')
         return {};
-    std::string keyword = withoutBlanks(line.substr(1, line.find(',') - 1));
+    std::string keyword = foldedKeyword(line.substr(1, line.find(',') - 1));
     const bool isWord = !keyword.empty() && keyword[0] >= 'A' && keyword[0] <= 'Z';
     return isWord ? keyword : std::string();
 }
 
-std::string spelledKeyword(const std::string& keyword)
+std::string spelledKeyword(std::string_view line)
 {
-    const auto found = spellings().find(keyword);
-    return "*" + (found == spellings().end() ? keyword : found->second);
+    const auto found = spellings().find(keywordOf(line));
+    if (found != spellings().end())
+        return "*" + found->second;
+    return vxjson::shortened(vxMat::toUpperAscii(toUtf8(trimmed(line.substr(0, line.find(','))))));
 }
 
 bool isOfKeywordFamily(const std::string& keyword)
@@ -280,12 +284,6 @@ bool recognisesCalculix(std::string_view beginning)
 bool recognisesLsDyna(std::string_view beginning)
 {
     return formatOfKeywords(beginning) == Format::LsDyna;
-}
-
-const DeckReader& calculixReader()
-{
-    static const DeckReader reader{Format::Calculix, recognisesCalculix, nullptr, "**"};
-    return reader;
 }
 
 const DeckReader& lsDynaReader()

@@ -9,9 +9,12 @@ namespace vxDecks {
 /// Empty if the line is a comment, or does not begin with an asterisk and a letter.
 std::string keywordOf(std::string_view line);
 
-/// Returns a keyword as the manual spells it, with the asterisk: "*END STEP" for "ENDSTEP"; "*" and the keyword itself if it
-/// is not of the keyword family of CalculiX.
-std::string spelledKeyword(const std::string& keyword);
+/// Returns a keyword or a parameter in capitals and without blanks.
+std::string foldedKeyword(std::string_view text);
+
+/// Returns the keyword of a keyword line as the manual spells it, with the asterisk: "*END STEP" of "*endstep, x=1". A keyword
+/// that is not of the family stays as it is, in capitals. A long one is shortened.
+std::string spelledKeyword(std::string_view line);
 
 /// Returns whether a keyword is of the keyword family of CalculiX.
 bool isOfKeywordFamily(const std::string& keyword);

@@ -18,6 +18,9 @@ namespace {
 using vxUnits::Message;
 using vxUnits::UnitSystem;
 
+/// The number of lost cards of a material that are told one by one.
+constexpr std::size_t mostLostRows = 100;
+
 std::string nameOrNumber(const std::string& name, const std::optional<std::uint32_t>& number)
 {
     if (!name.empty())
@@ -66,7 +69,7 @@ vxMat::MaterialProperty& MaterialReading::take(std::int32_t id)
     auto made = vxMat::findPropertyRecord(id)->create();
     vxMat::MaterialProperty& property = *made;
     m_material->setProperty(id, std::move(made));
-    m_forms.erase(id);
+    m_forms[id] = {m_card, Outcome::Carried, {}};
     return property;
 }
 
@@ -112,7 +115,20 @@ void MaterialReading::approximate(std::int32_t id, Message how)
 
 void MaterialReading::lose(const std::string& what, Message why)
 {
-    m_lost.push_back({0, toUtf8(what), Outcome::Lost, {}, {std::move(why)}, false});
+    addLost({0, toUtf8(what), Outcome::Lost, {}, {std::move(why)}, false});
+}
+
+void MaterialReading::refuse(const std::string& what, Message why)
+{
+    addLost({0, toUtf8(what), Outcome::Lost, {}, {std::move(why)}, true});
+}
+
+void MaterialReading::addLost(ReportRow row)
+{
+    if (m_lost.size() < mostLostRows)
+        m_lost.push_back(std::move(row));
+    else
+        ++m_omitted;
 }
 
 void MaterialReading::note(Message message)
@@ -130,19 +146,21 @@ ReportRow MaterialReading::rowOf(std::int32_t id, const std::optional<vxUnits::C
     if (!row.how.empty())
         row.outcome = Outcome::Converted;
     if (const auto form = m_forms.find(id); form != m_forms.end()) {
+        if (!form->second.card.empty())
+            row.card = form->second.card;
         row.outcome = std::max(row.outcome, form->second.outcome);
         row.how.insert(row.how.end(), form->second.how.begin(), form->second.how.end());
     }
     return row;
 }
 
-void MaterialReading::loseWhatIsNotFinite()
+void MaterialReading::refuseWhatIsNotFinite()
 {
     for (const auto& [id, property] : vxMat::propertiesInCatalogueOrder(*m_material)) {
         const vxUnits::Quantity* const quantity = vxUnits::findQuantity(id);
         if (quantity == nullptr || !quantity->hasNumber() || isFinite(*property))
             continue;
-        lose(property->name, makeMessage(ReadText::NotFiniteInCatalogue));
+        refuse(property->name, makeMessage(ReadText::NotFiniteInCatalogue));
         remove(id);
     }
 }
@@ -152,7 +170,7 @@ void MaterialReading::finish(const UnitSystem& units, ReadDeck& deck)
     const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
     if (!hasOwnUnits(m_format) && units != UnitSystem::si())
         vxUnits::convertMaterial(*m_material, units, UnitSystem::si());
-    loseWhatIsNotFinite();
+    refuseWhatIsNotFinite();
     MaterialReport report;
     report.name = m_name;
     report.writtenName = m_name;
@@ -161,6 +179,8 @@ void MaterialReading::finish(const UnitSystem& units, ReadDeck& deck)
     for (const auto& [id, property] : vxMat::propertiesInCatalogueOrder(*m_material))
         report.rows.push_back(rowOf(id, creep, units));
     report.rows.insert(report.rows.end(), m_lost.begin(), m_lost.end());
+    if (m_omitted > 0)
+        report.notes.push_back(makeMessage(ReadText::MoreCards, {std::to_string(m_omitted)}));
     deck.report.materials.push_back(std::move(report));
     deck.materials.push_back({std::move(m_name), m_number, std::move(m_material)});
 }

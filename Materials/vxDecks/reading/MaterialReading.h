@@ -25,6 +25,10 @@ public:
     /// Returns the number of a quantity in the unit of the deck; absent if the material does not have it.
     std::optional<double> number(std::int32_t id) const;
 
+    /// Names the card from which the next quantities come, for the report. Without it, the report has the cards of the mapping
+    /// table.
+    void beginCard(const std::string& card) { m_card = card; }
+
     // Each of these replaces an earlier value.
     void setNumber(std::int32_t id, double number);
     void setList(std::int32_t id, std::vector<double> numbers);
@@ -37,8 +41,11 @@ public:
     /// unit differs.
     void convert(std::int32_t id, vxUnits::Message how);
     void approximate(std::int32_t id, vxUnits::Message how);
-    /// Reports a card, or a part of one, as not taken. `what` is its keyword: "*EXPANSION".
+    /// Reports a card, or a part of one, as not taken because the catalogue has no quantity for it. `what` is its keyword:
+    /// "*EXPANSION". Of many cards only the first ones are told one by one.
     void lose(const std::string& what, vxUnits::Message why);
+    /// Reports a card as not taken although the catalogue has its quantities, so that the user must give them.
+    void refuse(const std::string& what, vxUnits::Message why);
     /// Adds a note about the material.
     void note(vxUnits::Message message);
 
@@ -48,6 +55,7 @@ public:
 private:
     struct Form
     {
+        std::string card; ///< empty if it is that of the mapping table
         Outcome outcome = Outcome::Carried;
         std::vector<vxUnits::Message> how;
     };
@@ -55,14 +63,17 @@ private:
     vxMat::MaterialProperty& take(std::int32_t id);
     ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
                     const vxUnits::UnitSystem& units) const;
-    void loseWhatIsNotFinite();
+    void addLost(ReportRow row);
+    void refuseWhatIsNotFinite();
 
     Format m_format;
     std::string m_name;
     std::optional<std::uint32_t> m_number;
     std::unique_ptr<vxMat::CMaterial> m_material;
     std::map<std::int32_t, Form> m_forms;
+    std::string m_card;
     std::vector<ReportRow> m_lost;
+    std::size_t m_omitted = 0; ///< lost cards that m_lost does not have
     std::vector<vxUnits::Message> m_notes;
 };
 

@@ -1,0 +1,598 @@
+#include "reading/CalculixCards.h"
+
+#include "reading/KeywordNames.h"
+#include "texts/DeckTexts.h"
+#include "texts/ReadingTexts.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyId.h"
+#include "writing/ModelReports.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <unordered_map>
+#include <utility>
+
+namespace vxDecks {
+
+namespace {
+
+using Id = vxMat::PropertyId;
+using Numbers = std::vector<double>;
+using vxUnits::Message;
+
+/// Beyond this plastic strain no solid is computed, so that a second point at it means a slope.
+constexpr double unlimitedStrain = 10.0;
+
+/// A second D that is this many times the first one has no effect.
+constexpr double withoutEffect = 1e5;
+
+/// The number of constants in a line of a card, and the number of those that must be given. The temperature follows them.
+struct Constants
+{
+    std::size_t all = 1;
+    std::size_t needed = 1;
+};
+
+Message tooFew(const KeywordCard& card, std::size_t needed)
+{
+    return makeMessage(ReadText::TooFewNumbers, {card.name, std::to_string(needed)});
+}
+
+/// Returns the reason why no numbers of a card can be read; absent if they can.
+std::optional<Message> findObstacle(const KeywordCard& card)
+{
+    if (card.isElsewhere)
+        return makeMessage(ReadText::InAnotherFile);
+    if (card.hasParametersAsNumbers)
+        return makeMessage(ReadText::ByParameters);
+    const std::string dependencies = card.word("DEPENDENCIES");
+    if (!dependencies.empty() && dependencies != "0")
+        return makeMessage(ReadText::MoreThanTemperature);
+    return std::nullopt;
+}
+
+/// Returns the constants of a card that has one line, blank ones as 0. Without them, reports the reason.
+/// \throws DeckError if constants are missing
+std::optional<Numbers> takeConstants(const KeywordCard& card, Constants constants, MaterialReading& material)
+{
+    if (card.rows.empty())
+        throw DeckError(tooFew(card, constants.needed), card.line);
+    if (card.rows.size() > 1) {
+        material.refuse(card.name, makeMessage(ReadText::TemperatureTable));
+        return std::nullopt;
+    }
+    const KeywordCard::Row& row = card.rows.front();
+    if (row.size() > constants.all + 1) {
+        material.refuse(card.name, makeMessage(ReadText::MoreThanTemperature));
+        return std::nullopt;
+    }
+    const auto isMissing = [&row](std::size_t at) { return at >= row.size() || !row[at]; };
+    Numbers numbers;
+    for (std::size_t i = 0; i < constants.all; ++i) {
+        if (i < constants.needed && isMissing(i))
+            throw DeckError(tooFew(card, constants.needed), card.line);
+        numbers.push_back(isMissing(i) ? 0.0 : *row[i]);
+    }
+    return numbers;
+}
+
+bool isGiven(const KeywordCard& card, std::size_t at)
+{
+    const KeywordCard::Row& row = card.rows.front();
+    return at < row.size() && row[at];
+}
+
+/// Returns whether a card with a type is isotropic; otherwise reports the type.
+bool requireIsotropic(const KeywordCard& card, MaterialReading& material)
+{
+    const std::string type = card.word("TYPE");
+    if (type.empty() || type == "ISO" || type == "ISOTROPIC")
+        return true;
+    material.refuse(card.name, makeMessage(ReadText::TypeNotIsotropic, {card.given}));
+    return false;
+}
+
+void readNumber(const KeywordCard& card, std::int32_t id, MaterialReading& material)
+{
+    if (!requireIsotropic(card, material))
+        return;
+    if (const auto constants = takeConstants(card, {1, 1}, material))
+        material.setNumber(id, constants->front());
+}
+
+void readDensity(const KeywordCard& card, MaterialReading& material)
+{
+    readNumber(card, Id::Density, material);
+}
+
+void readSpecificHeat(const KeywordCard& card, MaterialReading& material)
+{
+    readNumber(card, Id::SpecificHeat, material);
+}
+
+void readConductivity(const KeywordCard& card, MaterialReading& material)
+{
+    readNumber(card, Id::ThermalConductivity, material);
+}
+
+void readElectricalConductivity(const KeywordCard& card, MaterialReading& material)
+{
+    readNumber(card, Id::ElectricalConductivity, material);
+}
+
+void readViscosity(const KeywordCard& card, MaterialReading& material)
+{
+    readNumber(card, Id::DynamicViscosity, material);
+}
+
+/// The specific heat of *SPECIFIC HEAT takes precedence.
+void readFluidConstants(const KeywordCard& card, MaterialReading& material)
+{
+    const auto constants = takeConstants(card, {2, 2}, material);
+    if (!constants)
+        return;
+    if (!material.has(Id::SpecificHeat))
+        material.setNumber(Id::SpecificHeat, (*constants)[0]);
+    material.setNumber(Id::DynamicViscosity, (*constants)[1]);
+}
+
+void readElastic(const KeywordCard& card, MaterialReading& material)
+{
+    if (!requireIsotropic(card, material))
+        return;
+    const auto constants = takeConstants(card, {2, 1}, material);
+    if (!constants)
+        return;
+    material.setSwitch(Id::IsotropicElasticity);
+    material.setNumber(Id::YoungsModulus, (*constants)[0]);
+    material.setNumber(Id::PoissonsRatio, (*constants)[1]);
+    if (!isGiven(card, 1))
+        material.convert(Id::PoissonsRatio, makeMessage(ReadText::PoissonAbsent));
+}
+
+void setD1(double d1, MaterialReading& material)
+{
+    material.setNumber(Id::IncompressibilityParameterD1, d1);
+    if (d1 == 0.0)
+        material.approximate(Id::IncompressibilityParameterD1, makeMessage(ReadText::IncompressibleByZero));
+}
+
+void readNeoHooke(const KeywordCard& card, MaterialReading& material)
+{
+    const auto constants = takeConstants(card, {2, 1}, material);
+    if (!constants)
+        return;
+    material.setSwitch(Id::NeoHooke);
+    material.setNumber(Id::MaterialConstantC10, (*constants)[0]);
+    setD1((*constants)[1], material);
+}
+
+void readMooneyRivlin(const KeywordCard& card, MaterialReading& material)
+{
+    const auto constants = takeConstants(card, {3, 2}, material);
+    if (!constants)
+        return;
+    material.setSwitch(Id::MooneyRivlin);
+    material.setNumber(Id::MaterialConstantC10, (*constants)[0]);
+    material.setNumber(Id::MaterialConstantC01, (*constants)[1]);
+    setD1((*constants)[2], material);
+}
+
+void readArrudaBoyce(const KeywordCard& card, MaterialReading& material)
+{
+    const auto constants = takeConstants(card, {3, 2}, material);
+    if (!constants)
+        return;
+    material.setSwitch(Id::ArrudaBoyce);
+    material.setNumber(Id::InitialShearModulusMu, (*constants)[0]);
+    material.setNumber(Id::LimitingNetworkStretch, (*constants)[1]);
+    setD1((*constants)[2], material);
+}
+
+/// The polynomial of the first order is the model of Mooney and Rivlin. That of the second order is too, with C11, if its
+/// other constants are 0.
+void readSecondOrder(const KeywordCard& card, MaterialReading& material)
+{
+    const auto constants = takeConstants(card, {7, 4}, material);
+    if (!constants)
+        return;
+    const Numbers& all = *constants; // C10, C01, C20, C11, C02, D1, D2
+    if (all[2] != 0.0 || all[4] != 0.0) {
+        material.refuse(card.name, makeMessage(ReadText::NoModelForTerms));
+        return;
+    }
+    material.setSwitch(Id::MooneyRivlin);
+    material.setNumber(Id::MaterialConstantC10, all[0]);
+    material.setNumber(Id::MaterialConstantC01, all[1]);
+    material.setNumber(Id::MaterialConstantC11, all[3]);
+    material.convert(Id::MaterialConstantC11, makeMessage(ReadText::FromPolynomial));
+    setD1(all[5], material);
+    if (all[6] != 0.0 && all[6] < withoutEffect * all[5])
+        material.approximate(Id::IncompressibilityParameterD1, makeMessage(ReadText::SecondOrderOfVolume));
+}
+
+/// A form of *HYPERELASTIC, and the order of a form that has one.
+struct HyperelasticForm
+{
+    const char* parameter;
+    const char* order; ///< "" if the form has none
+    void (*read)(const KeywordCard& card, MaterialReading& material);
+};
+
+constexpr HyperelasticForm hyperelasticForms[] = {
+    {"NEOHOOKE", "", readNeoHooke},        {"MOONEY-RIVLIN", "", readMooneyRivlin},
+    {"ARRUDA-BOYCE", "", readArrudaBoyce}, {"REDUCEDPOLYNOMIAL", "1", readNeoHooke},
+    {"POLYNOMIAL", "1", readMooneyRivlin}, {"POLYNOMIAL", "2", readSecondOrder},
+};
+
+/// Without a form, the card is a polynomial; without an order, the order is 1.
+void readHyperelastic(const KeywordCard& card, MaterialReading& material)
+{
+    const std::string given = card.word("N");
+    const std::string order = given.empty() ? "1" : given;
+    const bool isPlain = std::all_of(card.parameters.begin(), card.parameters.end(), [](const auto& parameter) {
+        return parameter.first == "N" || parameter.first == "MODULI";
+    });
+    for (const HyperelasticForm& form : hyperelasticForms) {
+        const bool isForm =
+            card.hasParameter(form.parameter) || (isPlain && form.parameter == std::string("POLYNOMIAL"));
+        if (isForm && !card.hasParameter("TESTDATAINPUT") && (*form.order == '\0' || order == form.order)) {
+            form.read(card, material);
+            return;
+        }
+    }
+    material.refuse(card.name, makeMessage(ReadText::NoModelForKind, {card.given}));
+}
+
+/// The points of a hardening curve.
+struct Curve
+{
+    Numbers stresses;
+    Numbers strains;
+};
+
+/// Returns the points of a curve. Without them, reports the reason.
+/// \throws DeckError if a line has no stress
+std::optional<Curve> takeCurve(const KeywordCard& card, MaterialReading& material)
+{
+    if (card.rows.empty())
+        throw DeckError(tooFew(card, 2), card.line);
+    Curve curve;
+    const auto field = [](const KeywordCard::Row& row, std::size_t at) {
+        return at < row.size() ? row[at] : std::nullopt;
+    };
+    for (const KeywordCard::Row& row : card.rows) {
+        if (!field(row, 0))
+            throw DeckError(tooFew(card, 2), card.line);
+        if (field(row, 2) != field(card.rows.front(), 2)) {
+            material.refuse(card.name, makeMessage(ReadText::TemperatureTable));
+            return std::nullopt;
+        }
+        if (row.size() > 3) {
+            material.refuse(card.name, makeMessage(ReadText::MoreThanTemperature));
+            return std::nullopt;
+        }
+        curve.stresses.push_back(*row[0]);
+        curve.strains.push_back(field(row, 1).value_or(0.0));
+    }
+    return curve;
+}
+
+/// Takes a curve of one point, or of two points of which the second is beyond all strains, as yield stress and modulus.
+/// Returns whether it is one.
+bool takeModulus(const Curve& curve, MaterialReading& material)
+{
+    const std::size_t count = curve.strains.size();
+    if (count > 2 || curve.strains[0] != 0.0 || (count == 2 && curve.strains[1] < unlimitedStrain))
+        return false;
+    const double modulus = count == 1 ? 0.0 : (curve.stresses[1] - curve.stresses[0]) / curve.strains[1];
+    material.setNumber(Id::PlasticInitialYieldStress, curve.stresses[0]);
+    material.setNumber(Id::PlasticHardeningFactor, modulus);
+    material.convert(Id::PlasticHardeningFactor,
+                     count == 1 ? makeMessage(ReadText::FromOnePoint)
+                                : makeMessage(ReadText::FromTwoPoints, {vxMat::formatNumber(curve.strains[1])}));
+    return true;
+}
+
+void takePoints(Curve curve, MaterialReading& material)
+{
+    const bool ascends =
+        std::adjacent_find(curve.strains.begin(), curve.strains.end(), std::greater_equal<>()) == curve.strains.end();
+    const double first = curve.strains.front();
+    material.setList(Id::PlasticYieldStress, std::move(curve.stresses));
+    material.setList(Id::PlasticStrain, std::move(curve.strains));
+    if (first != 0.0)
+        material.approximate(Id::PlasticStrain, makeMessage(ReadText::CurveNotFromZero, {vxMat::formatNumber(first)}));
+    if (!ascends)
+        material.approximate(Id::PlasticStrain, makeMessage(ReadText::CurveNotAscending));
+}
+
+void readPlastic(const KeywordCard& card, MaterialReading& material)
+{
+    const std::string hardening = card.word("HARDENING");
+    const bool isKinematic = hardening == "KINEMATIC";
+    if (!hardening.empty() && !isKinematic && hardening != "ISOTROPIC") {
+        material.refuse(card.name, makeMessage(ReadText::NoModelForKind, {card.given}));
+        return;
+    }
+    if (card.hasParameter("RATE")) {
+        material.refuse(card.name, makeMessage(ReadText::OverStrainRate));
+        return;
+    }
+    auto curve = takeCurve(card, material);
+    if (!curve)
+        return;
+    material.setSwitch(Id::Plasticity);
+    material.setWord(Id::PlasticYieldType, "Mises");
+    const bool isModulus = takeModulus(*curve, material);
+    if (!isModulus)
+        takePoints(std::move(*curve), material);
+    material.setWord(Id::PlasticHardeningType, isKinematic ? "Kinematic" : isModulus ? "Bilinear" : "Multilinear");
+}
+
+/// Returns whether a law is time hardening. Strain hardening is, if the strain rate does not depend on the time.
+bool isTimeHardening(const std::string& law, double m)
+{
+    return law.empty() || law == "NORTON" || law == "TIME" || (law == "STRAIN" && m == 0.0);
+}
+
+void readCreep(const KeywordCard& card, MaterialReading& material)
+{
+    const std::string law = card.word("LAW");
+    const Message noModel = makeMessage(ReadText::NoModelForKind, {card.given});
+    if (!isTimeHardening(law, 0.0)) {
+        material.refuse(card.name, noModel);
+        return;
+    }
+    const auto constants = takeConstants(card, {3, 2}, material);
+    if (!constants)
+        return;
+    const double m = (*constants)[2];
+    if (!isTimeHardening(law, m)) {
+        material.refuse(card.name, noModel);
+        return;
+    }
+    material.setSwitch(Id::Creep);
+    material.setNumber(Id::CreepModulusA, (*constants)[0]);
+    material.setNumber(Id::CreepModulusN, (*constants)[1]);
+    material.setNumber(Id::CreepModulusM, m);
+    if (!isGiven(card, 2))
+        material.convert(Id::CreepModulusM, makeMessage(ReadText::ExponentAbsent));
+    if (law.empty() && m != 0.0)
+        material.note(makeMessage(ReadText::HardeningOfTime));
+}
+
+/// One term of a Prony series, g, k and tau, in one line.
+void readViscoelastic(const KeywordCard& card, MaterialReading& material)
+{
+    if (card.word("TIME") != "PRONY") {
+        material.refuse(card.name, makeMessage(ReadText::OverFrequency));
+        return;
+    }
+    if (card.rows.size() > 1) {
+        material.refuse(card.name, makeMessage(ReadText::SeveralTerms, {std::to_string(card.rows.size())}));
+        return;
+    }
+    const auto constants = takeConstants(card, {3, 1}, material);
+    if (!constants)
+        return;
+    if (!isGiven(card, 2))
+        throw DeckError(tooFew(card, 3), card.line);
+    if ((*constants)[1] != 0.0) {
+        material.refuse(card.name, makeMessage(ReadText::BulkRelaxes));
+        return;
+    }
+    material.setSwitch(Id::ViscoElasticity);
+    material.setNumber(Id::ShearRelaxationModulus, (*constants)[0]);
+    material.setNumber(Id::RelaxationTime, (*constants)[2]);
+}
+
+/// The bulk modulus of a fluid. With the density, it gives the speed of sound.
+void readAcousticMedium(const KeywordCard& card, MaterialReading& material)
+{
+    const bool isBulkModulus = card.parameters.empty() || card.hasParameter("BULKMODULUS");
+    if (!isBulkModulus) {
+        material.refuse(card.name, makeMessage(ReadText::NoModelForKind, {card.given}));
+        return;
+    }
+    const auto constants = takeConstants(card, {1, 1}, material);
+    if (!constants)
+        return;
+    const double squared = constants->front() / material.number(Id::Density).value_or(0.0);
+    if (!(squared > 0.0) || !std::isfinite(squared)) {
+        material.refuse(card.name, makeMessage(ReadText::NoSpeedOfSound));
+        return;
+    }
+    material.setNumber(Id::SpeedOfSound, std::sqrt(squared));
+    material.convert(Id::SpeedOfSound, makeMessage(ReadText::FromBulkModulus));
+}
+
+/// A card of a material whose numbers are read. The cards are read in this order.
+struct CardReader
+{
+    const char* card;
+    void (*read)(const KeywordCard& card, MaterialReading& material);
+};
+
+constexpr CardReader cardReaders[] = {
+    {"*DENSITY", readDensity},
+    {"*SPECIFIC HEAT", readSpecificHeat},
+    {"*CONDUCTIVITY", readConductivity},
+    {"*FLUID CONSTANTS", readFluidConstants},
+    {"*ELASTIC", readElastic},
+    {"*HYPERELASTIC", readHyperelastic},
+    {"*PLASTIC", readPlastic},
+    {"*CREEP", readCreep},
+    {"*ELECTRICAL CONDUCTIVITY", readElectricalConductivity},
+    {"*VISCOSITY", readViscosity},
+    {"*VISCOELASTIC", readViscoelastic},
+    {"*ACOUSTIC MEDIUM", readAcousticMedium},
+};
+
+/// A card of a material that is not read, and the reason.
+struct OtherCard
+{
+    const char* card;
+    ReadText why;
+};
+
+constexpr OtherCard otherCards[] = {
+    {"*DIELECTRIC", ReadText::RelativeInCatalogue},
+    {"*MAGNETIC PERMEABILITY", ReadText::RelativeInCatalogue},
+    {"*ANNEAL TEMPERATURE", ReadText::NoQuantity},
+    {"*BRITTLE CRACKING", ReadText::NoQuantity},
+    {"*BRITTLE FAILURE", ReadText::NoQuantity},
+    {"*BRITTLE SHEAR", ReadText::NoQuantity},
+    {"*CAP HARDENING", ReadText::NoQuantity},
+    {"*CAP PLASTICITY", ReadText::NoQuantity},
+    {"*CONCRETE", ReadText::NoQuantity},
+    {"*CRUSHABLE FOAM", ReadText::NoQuantity},
+    {"*CYCLIC HARDENING", ReadText::NoQuantity},
+    {"*DAMAGE EVOLUTION", ReadText::NoQuantity},
+    {"*DAMAGE INITIATION", ReadText::NoQuantity},
+    {"*DAMAGE STABILIZATION", ReadText::NoQuantity},
+    {"*DAMPING", ReadText::NoQuantity},
+    {"*DEFORMATION PLASTICITY", ReadText::NoQuantity},
+    {"*DEPVAR", ReadText::NoQuantity},
+    {"*DRUCKER PRAGER", ReadText::NoQuantity},
+    {"*DRUCKER PRAGER HARDENING", ReadText::NoQuantity},
+    {"*EOS", ReadText::NoQuantity},
+    {"*EXPANSION", ReadText::NoQuantity},
+    {"*FAIL STRAIN", ReadText::NoQuantity},
+    {"*FAIL STRESS", ReadText::NoQuantity},
+    {"*HYPERFOAM", ReadText::NoQuantity},
+    {"*HYSTERESIS", ReadText::NoQuantity},
+    {"*INELASTIC HEAT FRACTION", ReadText::NoQuantity},
+    {"*JOULE HEAT FRACTION", ReadText::NoQuantity},
+    {"*LATENT HEAT", ReadText::NoQuantity},
+    {"*LOW DENSITY FOAM", ReadText::NoQuantity},
+    {"*MOHR COULOMB", ReadText::NoQuantity},
+    {"*MOHR COULOMB HARDENING", ReadText::NoQuantity},
+    {"*MULLINS EFFECT", ReadText::NoQuantity},
+    {"*NO COMPRESSION", ReadText::NoQuantity},
+    {"*NO TENSION", ReadText::NoQuantity},
+    {"*ORNL", ReadText::NoQuantity},
+    {"*POTENTIAL", ReadText::NoQuantity},
+    {"*RATE DEPENDENT", ReadText::NoQuantity},
+    {"*SHEAR FAILURE", ReadText::NoQuantity},
+    {"*SPECIFIC GAS CONSTANT", ReadText::NoQuantity},
+    {"*SWELLING", ReadText::NoQuantity},
+    {"*TENSILE FAILURE", ReadText::NoQuantity},
+    {"*TRIAXIAL TEST DATA", ReadText::NoQuantity},
+    {"*UNIAXIAL TEST DATA", ReadText::NoQuantity},
+    {"*BIAXIAL TEST DATA", ReadText::NoQuantity},
+    {"*PLANAR TEST DATA", ReadText::NoQuantity},
+    {"*VOLUMETRIC TEST DATA", ReadText::NoQuantity},
+    {"*SHEAR TEST DATA", ReadText::NoQuantity},
+    {"*USER DEFINED FIELD", ReadText::NoQuantity},
+    {"*USER MATERIAL", ReadText::NoQuantity},
+};
+
+/// Returns the rows of a table by the keywords of their cards.
+template <class Card, std::size_t Count>
+std::unordered_map<std::string, const Card*> byKeyword(const Card (&all)[Count])
+{
+    std::unordered_map<std::string, const Card*> made;
+    for (const Card& one : all)
+        made[keywordOf(one.card)] = &one;
+    return made;
+}
+
+const OtherCard* findOtherCard(const std::string& keyword)
+{
+    static const auto all = byKeyword(otherCards);
+    const auto found = all.find(keyword);
+    return found == all.end() ? nullptr : found->second;
+}
+
+void removeAll(const std::vector<std::int32_t>& ids, MaterialReading& material)
+{
+    for (const std::int32_t id : ids)
+        material.remove(id);
+}
+
+/// Without MODULI=INSTANTANEOUS, the elastic constants beside *VISCOELASTIC are those after relaxation. The catalogue has
+/// those before: the shear modulus over 1 - g, with the same bulk modulus.
+void takeInstantaneous(const KeywordCard& elastic, MaterialReading& material)
+{
+    if (elastic.word("MODULI") == "INSTANTANEOUS")
+        return;
+    const double remains = 1.0 - *material.number(Id::ShearRelaxationModulus);
+    const double e = *material.number(Id::YoungsModulus);
+    const double nu = *material.number(Id::PoissonsRatio);
+    const double threeBulk = e / (1.0 - 2.0 * nu);
+    const double shear = e / (2.0 * (1.0 + nu)) / remains;
+    const double instantaneous = 3.0 * threeBulk * shear / (threeBulk + shear);
+    if (!(remains > 0.0) || !std::isfinite(instantaneous)) {
+        removeAll(pronyIds(), material);
+        material.refuse("*VISCOELASTIC", makeMessage(ReadText::RelaxesWholly));
+        return;
+    }
+    material.beginCard(elastic.name);
+    material.setNumber(Id::YoungsModulus, instantaneous);
+    material.setNumber(Id::PoissonsRatio, (threeBulk - 2.0 * shear) / (2.0 * (threeBulk + shear)));
+    for (const std::int32_t id : {Id::YoungsModulus, Id::PoissonsRatio})
+        material.convert(id, makeMessage(ReadText::FromLongTerm));
+}
+
+/// Completes viscoelasticity, which the catalogue has beside linear elasticity only.
+void completeViscoelasticity(const MaterialCards& cards, MaterialReading& material)
+{
+    if (!material.has(Id::ViscoElasticity))
+        return;
+    if (material.has(Id::YoungsModulus)) {
+        takeInstantaneous(cards.at(keywordOf("*ELASTIC")), material);
+        return;
+    }
+    removeAll(pronyIds(), material);
+    material.refuse("*VISCOELASTIC", makeMessage(Text::NeedsModel));
+}
+
+/// Beside plasticity, the solver does not apply the creep law as the catalogue means it.
+void completeCreep(MaterialReading& material)
+{
+    if (!material.has(Id::Creep) || !material.has(Id::Plasticity))
+        return;
+    removeAll(creepIds(), material);
+    material.refuse("*CREEP", makeMessage(Text::CreepBesidePlasticity));
+}
+
+} // namespace
+
+bool isMaterialCard(const std::string& keyword)
+{
+    return hasReadNumbers(keyword) || findOtherCard(keyword) != nullptr;
+}
+
+bool hasReadNumbers(const std::string& keyword)
+{
+    static const auto all = byKeyword(cardReaders);
+    return all.count(keyword) != 0;
+}
+
+Message reasonWithoutNumbers(const std::string& keyword)
+{
+    const OtherCard* const card = findOtherCard(keyword);
+    return makeMessage(card == nullptr ? ReadText::UnknownKeyword : card->why);
+}
+
+void readCards(const MaterialCards& cards, MaterialReading& material)
+{
+    for (const CardReader& reader : cardReaders) {
+        const auto found = cards.find(keywordOf(reader.card));
+        if (found == cards.end())
+            continue;
+        const KeywordCard& card = found->second;
+        if (auto obstacle = findObstacle(card)) {
+            material.refuse(card.name, std::move(*obstacle));
+            continue;
+        }
+        material.beginCard(card.name);
+        reader.read(card, material);
+    }
+    completeViscoelasticity(cards, material);
+    completeCreep(material);
+}
+
+} // namespace vxDecks

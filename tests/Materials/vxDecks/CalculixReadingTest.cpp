@@ -1,0 +1,181 @@
+#include "CommaLocale.h"
+#include "ReadingTesting.h"
+
+#include "vxMaterial/model/PropertyId.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+namespace {
+
+using Id = vxMat::PropertyId;
+using vxDecks::Format;
+using vxDecks::ReadDeck;
+using vxtest::errorOf;
+using vxtest::numberOf;
+using vxtest::readText;
+
+const std::string steel = "*MATERIAL, NAME=Steel\n*ELASTIC\n210000., 0.3\n*DENSITY\n7.85E-9\n";
+
+/// Returns the proposal of the error that the units are needed; "no error" if there is none.
+std::string proposalFor(const std::string& text)
+{
+    try {
+        readText(Format::Calculix, text);
+    } catch (const vxDecks::UnitsNeeded& error) {
+        return error.proposal();
+    }
+    return "no error";
+}
+
+TEST(CalculixReading, NeedsUnitsAndProposesThoseThatFit)
+{
+    EXPECT_EQ(proposalFor(steel), "mm-t-s");
+    EXPECT_EQ(proposalFor("*MATERIAL, NAME=Steel\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850.\n"), "");
+    EXPECT_EQ(
+        errorOf(Format::Calculix, steel, ""),
+        "the deck does not say in which units its numbers are; give the unit system; the numbers look like mm-t-s");
+}
+
+TEST(CalculixReading, NeedsNoUnitsForDecksWithoutMaterials)
+{
+    EXPECT_TRUE(readText(Format::Calculix, "*NODE\n1, 0., 0., 0.\n").materials.empty());
+    EXPECT_TRUE(readText(Format::Calculix, "").materials.empty());
+}
+
+TEST(CalculixReading, TakesTheUnitsThatTheDeckDeclares)
+{
+    const std::string declared = "** a deck\n** Units: mm, t, s, K, A\n" + steel;
+    const ReadDeck deck = readText(Format::Calculix, declared);
+    EXPECT_EQ(deck.report.units, "mm-t-s");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::YoungsModulus), 2.1e11);
+    EXPECT_EQ(vxDecks::declaredUnits(Format::Calculix, declared)->text(), "mm-t-s");
+}
+
+TEST(CalculixReading, TakesDeclaredBaseUnitsOfNoBuiltInSystem)
+{
+    const ReadDeck deck = readText(Format::Calculix, "** units: cm, g, us, K, A\n*MATERIAL, NAME=A\n*DENSITY\n7.85\n");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::Density), 7850.0);
+}
+
+TEST(CalculixReading, TakesNoOtherCommentAsUnits)
+{
+    for (const char* const comment : {"** Units: mm", "** Units: N, mm, MPa", "** Units: mm, t, s, K, A, and more",
+                                      "** The units: mm, t, s, K, A", "** Units:", "* Units: mm, t, s, K, A"})
+        EXPECT_FALSE(vxDecks::declaredUnits(Format::Calculix, std::string(comment) + "\n" + steel)) << comment;
+}
+
+TEST(CalculixReading, PrefersTheUnitsOfTheUserAndSaysSo)
+{
+    const ReadDeck deck = readText(Format::Calculix, "** Units: m, kg, s, K, A\n" + steel, "mm-t-s");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::YoungsModulus), 2.1e11);
+    EXPECT_EQ(deck.report.notes.at(0).text(),
+              "The deck declares the unit system SI, but is read in mm-t-s, which was chosen.");
+}
+
+TEST(CalculixReading, ReportsUnitsThatDiffer)
+{
+    const ReadDeck deck = readText(Format::Calculix, steel, "mm-t-s");
+    const auto lines = toLines(deck.report);
+    EXPECT_EQ(lines.at(1), "Steel: carried: Isotropic elasticity, Poisson's ratio");
+    EXPECT_EQ(lines.at(2), "Steel: converted: Density: from t/mm^3 to kg/m^3");
+    EXPECT_EQ(lines.at(3), "Steel: converted: Young's modulus: from MPa to Pa");
+    EXPECT_EQ(toJson(deck.report)["materials"][0]["quantities"][0]["card"].asString(), "*DENSITY");
+}
+
+TEST(CalculixReading, NamesTheLineOfTextThatIsNoNumber)
+{
+    EXPECT_EQ(errorOf(Format::Calculix, "*MATERIAL, NAME=A\n** comment\n*ELASTIC\n2.1e11, abc\n"),
+              "line 4: \"abc\" is not a number");
+    for (const char* const number :
+         {"1e999", "nan", "inf", "0x10", "1.2.3", "2.1e", "--1", "1 2", "1,5,2,x", "2.1\xFF"})
+        EXPECT_NE(errorOf(Format::Calculix, std::string("*MATERIAL, NAME=A\n*DENSITY\n") + number + "\n"), "")
+            << number;
+}
+
+TEST(CalculixReading, NamesTheCardThatHasTooFewNumbers)
+{
+    EXPECT_EQ(errorOf(Format::Calculix, "*MATERIAL, NAME=A\n*ELASTIC\n*DENSITY\n7850.\n"),
+              "line 2: *ELASTIC has too few numbers; the least is 1");
+    EXPECT_EQ(errorOf(Format::Calculix, "*MATERIAL, NAME=A\n*CREEP\n1.e-10\n"),
+              "line 2: *CREEP has too few numbers; the least is 2");
+    EXPECT_EQ(errorOf(Format::Calculix, "*MATERIAL, NAME=A\n*PLASTIC\n, 0.\n"),
+              "line 2: *PLASTIC has too few numbers; the least is 2");
+}
+
+TEST(CalculixReading, ReadsNothingOfTheNumbersOfForeignCards)
+{
+    const ReadDeck deck =
+        readText(Format::Calculix, "*NODE\nabc, def\n*ELASTIC\nx\n" + steel + "*STEP\n*ELASTIC\ny\n", "SI");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::YoungsModulus), 210000.0);
+    ASSERT_EQ(deck.foreign.size(), 3U);
+    EXPECT_EQ(deck.foreign[1].name, "*ELASTIC");
+    EXPECT_EQ(deck.foreign[1].count, 2U);
+    EXPECT_EQ(deck.foreign[1].line, 3U);
+}
+
+TEST(CalculixReading, KeepsTheOrderAndTheNamesOfMaterials)
+{
+    const ReadDeck deck =
+        readText(Format::Calculix, "*MATERIAL, NAME=b\n*MATERIAL, NAME=\"a, b\"\n*MATERIAL, NAME=b\n", "SI");
+    ASSERT_EQ(deck.materials.size(), 3U);
+    EXPECT_EQ(deck.materials[0].name, "b");
+    EXPECT_EQ(deck.materials[1].name, "a, b");
+    EXPECT_EQ(deck.materials[2].name, "b");
+    EXPECT_FALSE(deck.materials[0].number);
+}
+
+TEST(CalculixReading, TakesTheHeatCapacityOfItsOwnCardRatherThanOfTheFluid)
+{
+    const ReadDeck deck =
+        readText(Format::Calculix, "*MATERIAL, NAME=A\n*FLUID CONSTANTS\n1., 2.\n*SPECIFIC HEAT\n3.\n", "SI");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::SpecificHeat), 3.0);
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::DynamicViscosity), 2.0);
+}
+
+TEST(CalculixReading, ReportsNumbersThatTheUnitOfTheCatalogueCannotHold)
+{
+    const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=A\n*DENSITY\n1e300\n", "mm-t-s");
+    EXPECT_FALSE(deck.materials.at(0).material->hasProperty(Id::Density));
+    EXPECT_EQ(countRefused(deck.report), 1U);
+}
+
+TEST(CalculixReading, ReadsDecimalPointsInALocaleWithCommas)
+{
+    const vxtest::CommaLocale locale;
+    const ReadDeck deck =
+        readText(Format::Calculix, "** Units: mm, t, s, K, A\n*MATERIAL, NAME=A\n*ELASTIC\n2.5D+5,.25\n");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::YoungsModulus), 2.5e11);
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::PoissonsRatio), 0.25);
+}
+
+TEST(DeckReading, RefusesFormatsThatAreOnlyWritten)
+{
+    for (const Format format : {Format::Apdl, Format::LsDyna, Format::Elmer}) {
+        EXPECT_FALSE(vxDecks::canRead(format));
+        EXPECT_EQ(errorOf(format, "*KEYWORD\n"),
+                  std::string("decks of ") + vxDecks::infoOf(format).title + " can be written, but not read");
+    }
+    EXPECT_TRUE(vxDecks::canRead(Format::Calculix));
+}
+
+TEST(DeckReading, TranslatesTheLineAndTheReasonOfAnError)
+{
+    try {
+        readText(Format::Calculix, "*MATERIAL, NAME=A\n*ELASTIC\nx\n", "SI");
+        FAIL();
+    } catch (const vxDecks::DeckError& error) {
+        const auto german = [](const char*, const char* english) {
+            const std::string text = english;
+            if (text == "line %1: %2")
+                return std::string("Zeile %1: %2");
+            return text == R"("%1" is not a number)" ? std::string(R"("%1" ist keine Zahl)") : text;
+        };
+        EXPECT_EQ(error.text(german), "Zeile 3: \"x\" ist keine Zahl");
+        EXPECT_EQ(error.line(), 3U);
+    }
+}
+
+} // namespace

@@ -24,12 +24,13 @@ if [ ${#fuzzers[@]} -eq 0 ]; then
     for program in build/sanitize/bin/*_fuzzer; do fuzzers+=("$(basename "$program")"); done
 fi
 
-# Documents, projects and measured curves of the tests, for the fuzzers that read them.
+# Documents, projects, decks and measured curves of the tests, for the fuzzers that read them.
 seeds_of() {
     case $1 in
         document_fuzzer | import_fuzzer) echo "$root/tests/data/documents" ;;
         project_file_fuzzer | recovery_fuzzer) echo "$root/tests/data/projects" ;;
         test_data_fuzzer) echo "$root/tests/data/rubber" ;;
+        keyword_deck_fuzzer) echo "$root/tests/Materials/vxDecks/corpus/calculix" ;;
     esac
 }
 

@@ -13,6 +13,7 @@
 #include "Files.h"
 #include "Find.h"
 #include "Fit.h"
+#include "Import.h"
 #include "Listings.h"
 #include "NewProject.h"
 #include "Query.h"
@@ -239,13 +240,15 @@ void CommandLine::addSet()
 
 void CommandLine::addImport()
 {
-    CLI::App* const command =
-        addCommand("import", "Make a project file of a material document; the catalogue completes the materials",
-                   "vxmat import materials.json -o parts.vxmat",
-                   [this] { return importDocument(m_file, m_output, existing(), units()); });
-    command->add_option("DOC", m_file, "A material document; - is standard input")->required();
+    CLI::App* const command = addCommand(
+        "import", "Make a project file of a material document, or of the materials of a deck or a whole model",
+        "vxmat import bracket.inp --units mm-t-s -o parts.vxmat", [this] {
+            return importFile({m_file, m_output, existing(), units()}, form());
+        });
+    command->add_option("FILE", m_file, "A material document, or a deck; - is standard input")->required();
     addUnits(command);
     addOutput(command);
+    addForm(command);
 }
 
 void CommandLine::addExport()

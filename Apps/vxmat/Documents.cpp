@@ -116,7 +116,11 @@ projectfile::ProjectRecord readProject(const Input& input)
 
 Input readInput(const std::string& path)
 {
-    std::string text = readFile(path);
+    return parseInput(path, readFile(path));
+}
+
+Input parseInput(const std::string& path, std::string text)
+{
     vxjson::JsonTree tree = parseDocument(path, text);
     Input input{path, std::move(text), std::move(tree), std::nullopt};
     if (projectfile::isProject(input.tree.root()))

@@ -30,6 +30,10 @@ struct Input
 /// an invalid project file
 Input readInput(const std::string& path);
 
+/// Parses a text that was read from `path`.
+/// \throws Failure as readInput() does
+Input parseInput(const std::string& path, std::string text);
+
 /// Returns an exchange document as a value of jsoncpp. Arrays and objects that are nested more deeply than any that a
 /// reader looks at are empty, because in this form they would take a hundred times the memory of the text.
 Json::Value toDocument(const Input& document);

@@ -4,6 +4,7 @@
 
 #include "projectfile/ProjectFile.h"
 #include "projectfile/ProjectStore.h"
+#include "vxDecks/DeckReading.h"
 #include "vxMaterial/json/NumberWords.h"
 
 #include <QFile>
@@ -40,12 +41,24 @@ QString toQString(const std::string& path)
     return name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name;
 }
 
-/// Returns whether an input with this beginning is certainly no JSON document: reading it to the end may take for ever.
-bool isHopeless(const std::string& beginning)
+/// Returns whether an input with this beginning is certainly no JSON document.
+bool cannotBeJson(std::string_view beginning)
 {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (beginning.substr(0, mark.size()) == mark)
+        beginning.remove_prefix(mark.size());
     const std::size_t first = beginning.find_first_not_of(" \t\r\n");
-    return beginning.find('\0') != std::string::npos ||
-           (first != std::string::npos && std::string_view("{[/\xEF").find(beginning[first]) == std::string_view::npos);
+    return beginning.find('\0') != std::string_view::npos ||
+           (first != std::string_view::npos &&
+            std::string_view("{[/").find(beginning[first]) == std::string_view::npos);
+}
+
+/// Returns whether an input with this beginning is certainly not wanted: reading it to the end may take for ever.
+bool isHopeless(const std::string& beginning, Content kind)
+{
+    if (kind == Content::Any || !cannotBeJson(beginning))
+        return false;
+    return kind == Content::Json || !deckFormatOf(beginning);
 }
 
 /// Reads an input of unknown length.
@@ -58,7 +71,7 @@ std::string readAll(const std::string& path, QFile& file, Content kind)
     while (content.size() <= vxjson::longestText && (count = file.read(block.data(), blockSize)) > 0) {
         const bool isFirst = content.empty();
         content.append(block, 0, static_cast<std::size_t>(count));
-        if (isFirst && kind == Content::Json && isHopeless(content))
+        if (isFirst && isHopeless(content, kind))
             break;
     }
     if (count < 0)
@@ -184,6 +197,12 @@ std::string readFile(const std::string& path, Content content)
     if (!opened.open(*descriptor, QIODevice::ReadOnly))
         fail(path, opened.errorString());
     return readAll(path, opened, content);
+}
+
+std::optional<vxDecks::Format> deckFormatOf(std::string_view beginning)
+{
+    return cannotBeJson(beginning) ? vxDecks::recognisedFormat(beginning.substr(0, vxDecks::recognisedLength))
+                                   : std::nullopt;
 }
 
 bool isProjectFile(const std::string& path)

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "vxDecks/Format.h"
 #include "vxMaterial/json/JsonTree.h"
 
 #include <json/value.h>
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace commandline {
 
@@ -19,7 +22,8 @@ bool isFile(const std::string& argument);
 /// What a file that is read may contain.
 enum class Content
 {
-    Json, ///< reading an input of unknown length ends at the first part that cannot be JSON
+    Json,       ///< reading an input of unknown length ends at the first part that cannot be JSON
+    JsonOrDeck, ///< the same, but it may also be a deck
     Any
 };
 
@@ -27,6 +31,9 @@ enum class Content
 /// /dev/fd/3). Refuses other pipes and devices, because reading them may never begin or never end.
 /// \throws Failure if it cannot be read, or is larger than 2 GiB
 std::string readFile(const std::string& path, Content content = Content::Json);
+
+/// Returns the format of the deck that begins with a text; absent if it may be JSON, or is of no format.
+std::optional<vxDecks::Format> deckFormatOf(std::string_view beginning);
 
 /// Returns whether a path is the path of a regular file that is a project file.
 bool isProjectFile(const std::string& path);

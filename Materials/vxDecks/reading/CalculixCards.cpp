@@ -148,7 +148,7 @@ void readElastic(const KeywordCard& card, MaterialReading& material)
     material.setNumber(Id::YoungsModulus, (*constants)[0]);
     material.setNumber(Id::PoissonsRatio, (*constants)[1]);
     if (!isGiven(card, 1))
-        material.convert(Id::PoissonsRatio, makeMessage(ReadText::PoissonAbsent));
+        material.convert(Id::PoissonsRatio, makeMessage(ReadText::ValueAbsent));
 }
 
 void setD1(double d1, MaterialReading& material)
@@ -358,7 +358,7 @@ void readCreep(const KeywordCard& card, MaterialReading& material)
     material.setNumber(Id::CreepModulusN, (*constants)[1]);
     material.setNumber(Id::CreepModulusM, m);
     if (!isGiven(card, 2))
-        material.convert(Id::CreepModulusM, makeMessage(ReadText::ExponentAbsent));
+        material.convert(Id::CreepModulusM, makeMessage(ReadText::ValueAbsent));
     if (law.empty() && m != 0.0)
         material.note(makeMessage(ReadText::HardeningOfTime));
 }

@@ -92,14 +92,16 @@ private:
     std::streambuf& m_rest;
 };
 
-/// Returns the name of the built-in system that fits the numbers of materials as they stand; empty if none does.
+/// Returns the name of the built-in system that fits the numbers of materials as they stand; empty if none fits better than
+/// others.
 std::string fittingSystem(const std::vector<ReadMaterial>& materials)
 {
     std::vector<const vxMat::MaterialBase*> all;
     all.reserve(materials.size());
     for (const ReadMaterial& one : materials)
         all.push_back(one.material.get());
-    return vxUnits::betterFittingSystem(all, UnitSystem::si());
+    const std::string fitting = vxUnits::betterFittingSystem(all, UnitSystem::si());
+    return fitting.empty() ? vxUnits::betterFittingSystem(all, UnitSystem::builtIn()[1]) : fitting; // mm-t-s
 }
 
 void noteUnits(const std::optional<UnitSystem>& declared, const UnitSystem& used, Report& report)
@@ -142,6 +144,7 @@ UnitsNeeded::UnitsNeeded(std::string proposal)
 
 std::optional<Format> recognisedFormat(std::string_view beginning)
 {
+    beginning = withoutMark(beginning);
     for (const DeckReader* const reader : readers())
         if (reader->recognises(beginning))
             return reader->format;
@@ -175,7 +178,7 @@ std::optional<UnitSystem> declaredUnits(Format format, std::string_view beginnin
     const DeckReader* const reader = findReader(format);
     if (reader == nullptr || reader->comment.empty())
         return std::nullopt;
-    std::istringstream text{std::string(beginning)};
+    std::istringstream text{std::string(withoutMark(beginning))};
     std::string line;
     for (int i = 0; i < declaringLines && std::getline(text, line); ++i)
         if (auto units = unitsOfComment(trimmed(line), reader->comment))

@@ -24,6 +24,12 @@ bool isOfDecimalNumber(char c)
 
 } // namespace
 
+std::string_view withoutMark(std::string_view text)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return text.substr(0, mark.size()) == mark ? text.substr(mark.size()) : text;
+}
+
 bool DeckLines::next()
 {
     using Traits = std::streambuf::traits_type;

@@ -8,7 +8,11 @@
 
 namespace vxDecks {
 
-/// The lines of a deck, of which one is in memory at a time. Lines end with a line feed, a carriage return, or both.
+/// Returns a text without the mark of UTF-8 at its beginning, which some editors write.
+std::string_view withoutMark(std::string_view text);
+
+/// The lines of a deck, of which one is in memory at a time. Lines end with a line feed, a carriage return, or both. A mark of
+/// UTF-8 before the first line is skipped.
 class DeckLines
 {
 public:
@@ -23,7 +27,7 @@ public:
     bool next();
 
     /// Returns the line without its end; valid until the next call of next().
-    std::string_view line() const { return m_line; }
+    std::string_view line() const { return m_number == 1 ? withoutMark(m_line) : m_line; }
     /// Returns the number of the line, from 1.
     std::size_t number() const { return m_number; }
     /// Returns whether the line was longer than `longest`.

@@ -33,7 +33,8 @@ std::string proposalFor(const std::string& text)
 TEST(CalculixReading, NeedsUnitsAndProposesThoseThatFit)
 {
     EXPECT_EQ(proposalFor(steel), "mm-t-s");
-    EXPECT_EQ(proposalFor("*MATERIAL, NAME=Steel\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850.\n"), "");
+    EXPECT_EQ(proposalFor("*MATERIAL, NAME=Steel\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850.\n"), "SI");
+    EXPECT_EQ(proposalFor("*MATERIAL, NAME=A\n*EXPANSION\n1.2e-5\n"), "");
     EXPECT_EQ(
         errorOf(Format::Calculix, steel, ""),
         "the deck does not say in which units its numbers are; give the unit system; the numbers look like mm-t-s");
@@ -65,6 +66,14 @@ TEST(CalculixReading, TakesNoOtherCommentAsUnits)
     for (const char* const comment : {"** Units: mm", "** Units: N, mm, MPa", "** Units: mm, t, s, K, A, and more",
                                       "** The units: mm, t, s, K, A", "** Units:", "* Units: mm, t, s, K, A"})
         EXPECT_FALSE(vxDecks::declaredUnits(Format::Calculix, std::string(comment) + "\n" + steel)) << comment;
+}
+
+TEST(CalculixReading, SkipsTheMarkOfUtf8)
+{
+    const std::string mark = "\xEF\xBB\xBF";
+    EXPECT_EQ(readText(Format::Calculix, mark + steel, "SI").materials.size(), 1U);
+    EXPECT_EQ(vxDecks::recognisedFormat(mark + steel), Format::Calculix);
+    EXPECT_EQ(readText(Format::Calculix, mark + "** Units: mm, t, s, K, A\n" + steel).report.units, "mm-t-s");
 }
 
 TEST(CalculixReading, PrefersTheUnitsOfTheUserAndSaysSo)

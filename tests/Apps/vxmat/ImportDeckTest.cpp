@@ -1,0 +1,170 @@
+#include "DataFile.h"
+#include "VxmatTesting.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using vxtest::Folder;
+using vxtest::Outcome;
+using vxtest::shell;
+using vxtest::vxmat;
+
+const std::string deck =
+    "*NODE\n1, 0., 0., 0.\n*MATERIAL, NAME=Frame steel\n*ELASTIC\n210000., 0.3\n*DENSITY\n7.85E-9\n"
+    "*MATERIAL, NAME=Foam\n*DENSITY\n5.E-11\n*STEP\n";
+
+TEST(ImportDeck, MakesAProjectOfTheMaterialsOfAModel)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    const std::string file = folder.file("model.txt", deck);
+    const Outcome run = vxmat({"import", file, "--units", "mm-t-s", "-o", project});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "vxmat: note: Not of materials, and therefore not taken: *NODE (1), *STEP (1).\n"
+                       "vxmat: note: The numbers of the deck are read in the unit system mm-t-s.\n"
+                       "vxmat: note: Frame steel: carried: Isotropic elasticity, Poisson's ratio\n"
+                       "vxmat: note: Frame steel: converted: Density: from t/mm^3 to kg/m^3\n"
+                       "vxmat: note: Frame steel: converted: Young's modulus: from MPa to Pa\n"
+                       "vxmat: note: Foam: converted: Density: from t/mm^3 to kg/m^3\n");
+    const std::string shown = vxmat({"show", project}).out;
+    EXPECT_THAT(shown, HasSubstr("Frame steel"));
+    EXPECT_THAT(shown, HasSubstr("Foam"));
+    const Outcome found = vxmat({"find", project, "E = 210 GPa and density = 7850 kg/m^3"});
+    EXPECT_EQ(found.status, 0) << found.err;
+    EXPECT_THAT(found.out, HasSubstr("Frame steel"));
+}
+
+TEST(ImportDeck, NeedsTheUnitsAndProposesThoseThatFit)
+{
+    const Folder folder;
+    const std::string file = folder.file("model.inp", deck);
+    const Outcome run = vxmat({"import", file, "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "vxmat: " + file +
+                           ": the deck does not say in which units its numbers are; give the unit system; the numbers "
+                           "look like mm-t-s; if they are, give --units mm-t-s\n");
+    EXPECT_THAT(folder.names(), ElementsAre("model.inp"));
+}
+
+TEST(ImportDeck, NotesThatTheNumbersLookLikeOtherUnits)
+{
+    const Folder folder;
+    const std::string file = folder.file("model.inp", deck);
+    const Outcome run = vxmat({"import", file, "--units", "SI", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.err, HasSubstr("note: " + file + ": the numbers look like mm-t-s, not SI; --units gives"));
+}
+
+TEST(ImportDeck, OfTheDeckThatTheProgramWritesGivesTheSameMaterialsAgain)
+{
+    const Folder folder;
+    const std::string project = folder.path("p.vxmat");
+    const std::string written = folder.path("d.inp");
+    ASSERT_EQ(vxmat({"new", "Concrete", "Cast Iron=Iron", "-o", project}).status, 0);
+    ASSERT_EQ(vxmat({"deck", project, "--solver", "calculix", "--units", "mm-t-s", "-o", written}).status, 0);
+    ASSERT_EQ(vxmat({"import", written, "-o", folder.path("q.vxmat")}).status, 0);
+    const Outcome diff = vxmat({"diff", project, folder.path("q.vxmat")});
+    EXPECT_EQ(diff.out, "");
+}
+
+TEST(ImportDeck, IsAFindingIfTheUserMustGiveQuantities)
+{
+    const Folder folder;
+    const std::string file = folder.file("a.inp", "*MATERIAL, NAME=A\n*ELASTIC, TYPE=ORTHO\n1.,2.,3.\n");
+    const Outcome run = vxmat({"import", file, "--units", "SI", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, HasSubstr("A: lost: *ELASTIC: TYPE=ORTHO is not isotropic\n"));
+    EXPECT_THAT(folder.names(), ElementsAre("a.inp", "p.vxmat"));
+}
+
+TEST(ImportDeck, PrintsItsReportAsJson)
+{
+    const Folder folder;
+    const std::string file = folder.file("model.inp", deck);
+    const Json::Value json =
+        vxtest::vxmatJson({"import", file, "--units", "mm-t-s", "--json", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(json["format"], "calculix");
+    EXPECT_EQ(json["units"], "mm-t-s");
+    EXPECT_EQ(json["materials"][0]["name"], "Frame steel");
+    EXPECT_EQ(json["materials"][0]["quantities"][0]["outcome"], "converted");
+    EXPECT_EQ(json["foreign"][1]["name"], "*STEP");
+    EXPECT_EQ(json["foreign"][1]["line"], 11);
+    EXPECT_EQ(vxmat({"import", file, "--units", "mm-t-s", "--json", "-o", "-"}).status, 2);
+}
+
+TEST(ImportDeck, OfADocumentPrintsItsMessagesAsJson)
+{
+    const Folder folder;
+    const std::string document = folder.path("d.json");
+    ASSERT_EQ(vxmat({"export", "Plastic Example 2=7", "-o", document}).status, 0);
+    const Outcome run = vxmat({"import", document, "--json", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, HasSubstr("\"messages\""));
+    EXPECT_THAT(run.out, HasSubstr("documents carry no words"));
+}
+
+TEST(ImportDeck, ReadsStandardInput)
+{
+    const Outcome run = vxmat({"import", "-", "--units", "mm-t-s", "-o", "-"}, deck);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("Frame steel"));
+}
+
+TEST(ImportDeck, EndsReadingAnEndlessInputThatIsNoDeck)
+{
+    EXPECT_EQ(shell("\"$VXMAT\" import - -o - </dev/zero").status, 2);
+    EXPECT_EQ(shell("yes nonsense | \"$VXMAT\" import - -o -").status, 2);
+}
+
+TEST(ImportDeck, NamesTheLineThatCannotBeRead)
+{
+    const Folder folder;
+    const std::string file = folder.file("a.inp", "*MATERIAL, NAME=A\n*DENSITY\n7,85x\n");
+    const Outcome run = vxmat({"import", file, "--units", "SI", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "vxmat: " + file + ": line 3: \"85x\" is not a number\n");
+}
+
+TEST(ImportDeck, RefusesDecksWithoutMaterialsAndFormatsThatAreOnlyWritten)
+{
+    const Folder folder;
+    const std::string mesh = folder.file("mesh.inp", "*NODE\n1, 0., 0., 0.\n");
+    const Outcome empty = vxmat({"import", mesh, "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(empty.status, 2);
+    EXPECT_THAT(empty.err, HasSubstr("vxmat: " + mesh + ": the deck has no materials; no project is written\n"));
+    const std::string dyna = folder.file("a.k", "*KEYWORD\n*MAT_ELASTIC\n");
+    const Outcome other = vxmat({"import", dyna, "--units", "SI", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(other.status, 2);
+    EXPECT_EQ(other.err, "vxmat: " + dyna + ": decks of LS-DYNA can be written, but not read\n");
+    EXPECT_THAT(folder.names(), ElementsAre("a.k", "mesh.inp"));
+}
+
+TEST(ImportDeck, TakesACommentOfADocumentForNoKeyword)
+{
+    const Outcome run = vxmat({"import", "-", "-o", "-"}, "/* the\n*Density\n*/ {\"proj_type\": 2, \"material\": []}");
+    EXPECT_THAT(run.err, testing::Not(HasSubstr("deck")));
+    EXPECT_THAT(run.out, HasSubstr("{"));
+}
+
+TEST(ImportDeck, DoesNotReplaceAProjectUnlessItIsForced)
+{
+    const Folder folder;
+    const std::string file = folder.file("model.inp", deck);
+    const std::string project = folder.path("p.vxmat");
+    ASSERT_EQ(vxmat({"new", "Air", "-o", project}).status, 0);
+    EXPECT_EQ(vxmat({"import", file, "--units", "mm-t-s", "-o", project}).status, 2);
+    EXPECT_EQ(vxmat({"import", file, "--units", "mm-t-s", "--force", "-o", project}).status, 0);
+    EXPECT_EQ(vxmat({"import", file, "--units", "mm-t-s", "--force", "-o", file}).status, 2);
+    EXPECT_EQ(vxtest::readText(file), deck);
+}
+
+} // namespace

@@ -1,5 +1,7 @@
 #include "DecksDocument.h"
 
+#include "MarkdownTable.h"
+
 #include "vxDecks/Mapping.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
@@ -15,22 +17,6 @@ using vxDecks::Transport;
 
 using Cells = std::vector<std::string>;
 
-std::string row(const Cells& cells)
-{
-    std::string text = "|";
-    for (const std::string& cell : cells)
-        text += " " + cell + " |";
-    return text + "\n";
-}
-
-std::string header(const Cells& cells)
-{
-    std::string line = "|";
-    for (std::size_t i = 0; i < cells.size(); ++i)
-        line += "---|";
-    return row(cells) + line + "\n";
-}
-
 std::string code(const std::string& text)
 {
     return text.empty() ? "-" : "`" + text + "`";
@@ -41,7 +27,7 @@ std::string overview()
     Cells heading{"quantity"};
     for (const FormatInfo& format : vxDecks::formats())
         heading.emplace_back(format.title);
-    std::string text = header(heading);
+    std::string text = tableHeader(heading);
     for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
         Cells cells{record.name};
         for (const FormatInfo& format : vxDecks::formats()) {
@@ -49,7 +35,7 @@ std::string overview()
             const bool isCarried = mapping.transport != Transport::None;
             cells.push_back(isCarried ? code(mapping.card) + ", " + nameOf(mapping.proof) : "-");
         }
-        text += row(cells);
+        text += tableRow(cells);
     }
     return text;
 }
@@ -57,12 +43,13 @@ std::string overview()
 std::string detailsOf(const FormatInfo& format)
 {
     std::string text =
-        header({"quantity", "card", "field", "form, or why it is lost", "section of the manual", "proof"});
+        tableHeader({"quantity", "card", "field", "form, or why it is lost", "section of the manual", "proof"});
     for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
         const Mapping& one = *vxDecks::findMapping(format.format, record.id);
         const bool isCarried = one.transport != Transport::None;
-        text += row({record.name, code(one.card), isCarried ? one.field : "-",
-                     *one.how.english ? one.how.english : "as it is", one.manual, isCarried ? nameOf(one.proof) : "-"});
+        text += tableRow({record.name, code(one.card), isCarried ? one.field : "-",
+                          *one.how.english ? one.how.english : "as it is", one.manual,
+                          isCarried ? nameOf(one.proof) : "-"});
     }
     return text;
 }

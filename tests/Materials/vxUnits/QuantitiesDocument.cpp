@@ -1,5 +1,7 @@
 #include "QuantitiesDocument.h"
 
+#include "MarkdownTable.h"
+
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -21,22 +23,6 @@ using vxUnits::QuantityForm;
 using vxUnits::UnitSystem;
 
 using Cells = std::vector<std::string>;
-
-std::string row(const Cells& cells)
-{
-    std::string text = "|";
-    for (const std::string& cell : cells)
-        text += " " + cell + " |";
-    return text + "\n";
-}
-
-std::string header(const Cells& cells)
-{
-    std::string line = "|";
-    for (std::size_t i = 0; i < cells.size(); ++i)
-        line += "---|";
-    return row(cells) + line + "\n";
-}
 
 std::string number(double value)
 {
@@ -77,12 +63,12 @@ std::string catalogueUnitOf(const Quantity& quantity)
 
 std::string meanings()
 {
-    std::string text = header(
+    std::string text = tableHeader(
         {"id", "quantity", "key", "unit", "unit in the catalogue", "what the number means to a solver", "source"});
     for (const Quantity& one : vxUnits::quantities())
-        text +=
-            row({std::to_string(one.id), nameOf(one), "`" + std::string(vxMat::findPropertyRecord(one.id)->key) + "`",
-                 unitOf(one), catalogueUnitOf(one), one.meaning, one.meaningSource});
+        text += tableRow({std::to_string(one.id), nameOf(one),
+                          "`" + std::string(vxMat::findPropertyRecord(one.id)->key) + "`", unitOf(one),
+                          catalogueUnitOf(one), one.meaning, one.meaningSource});
     return text;
 }
 
@@ -96,21 +82,21 @@ std::string rangeText(const std::optional<KnownRange>& range)
 
 std::string ranges()
 {
-    std::string text = header({"quantity", "unit", "solids", "liquids", "gases", "source"});
+    std::string text = tableHeader({"quantity", "unit", "solids", "liquids", "gases", "source"});
     for (const Quantity& one : vxUnits::quantities()) {
         if (*one.rangeSource != '\0')
-            text += row({nameOf(one), one.siUnit, rangeText(one.solids), rangeText(one.liquids), rangeText(one.gases),
-                         one.rangeSource});
+            text += tableRow({nameOf(one), one.siUnit, rangeText(one.solids), rangeText(one.liquids),
+                              rangeText(one.gases), one.rangeSource});
     }
     return text;
 }
 
 std::string relations()
 {
-    std::string text = header({"relation", "of", "for", "lowest", "highest", "unit", "source"});
+    std::string text = tableHeader({"relation", "of", "for", "lowest", "highest", "unit", "source"});
     for (const vxUnits::Relation& one : vxUnits::relations())
-        text += row({one.name, "`" + std::string(one.formula) + "`", one.condition, vxMat::formatGeneral(one.lowest),
-                     vxMat::formatGeneral(one.highest), one.unit, one.source});
+        text += tableRow({one.name, "`" + std::string(one.formula) + "`", one.condition,
+                          vxMat::formatGeneral(one.lowest), vxMat::formatGeneral(one.highest), one.unit, one.source});
     return text;
 }
 
@@ -119,7 +105,7 @@ std::string systems()
     Cells titles{"quantity"};
     for (const UnitSystem& system : UnitSystem::builtIn())
         titles.push_back(system.text());
-    std::string text = header(titles);
+    std::string text = tableHeader(titles);
     const vxUnits::CreepExponents fifthPower{5.0, 0.0};
     for (const Quantity& one : vxUnits::quantities()) {
         if (!one.hasNumber() || (one.dimension.isNone() && one.id != vxMat::PropertyId::CreepModulusA))
@@ -127,14 +113,14 @@ std::string systems()
         Cells cells{nameOf(one) + (one.id == vxMat::PropertyId::CreepModulusA ? ", N = 5, M = 0" : "")};
         for (const UnitSystem& system : UnitSystem::builtIn())
             cells.push_back(vxUnits::unitOfQuantity(one.id, system, fifthPower)->text());
-        text += row(cells);
+        text += tableRow(cells);
     }
     return text;
 }
 
 std::string units()
 {
-    std::string text = header({"unit", "in SI units", "measures"});
+    std::string text = tableHeader({"unit", "in SI units", "measures"});
     for (const vxUnits::Unit& unit : vxUnits::builtInUnits()) {
         const std::string coherent = UnitSystem::si().unitOf(unit.dimension()).text();
         std::string value = number(unit.factor());
@@ -142,22 +128,22 @@ std::string units()
             value += " " + coherent;
         if (unit.isTemperatureScale())
             value += ", from -" + number(unit.zero());
-        text += row({"`" + unit.text() + "`", value, unit.dimension().name()});
+        text += tableRow({"`" + unit.text() + "`", value, unit.dimension().name()});
     }
     return text;
 }
 
 std::string derivedValues()
 {
-    std::string text = header({"value", "symbol", "formula", "unit"});
+    std::string text = tableHeader({"value", "symbol", "formula", "unit"});
     vxUnits::MaterialValues all; // of a material that has everything
     for (const Quantity& one : vxUnits::quantities()) {
         if (one.form == QuantityForm::Number)
             all.setNumber(one.id, one.id == vxMat::PropertyId::PoissonsRatio ? 0.3 : 1.5);
     }
     for (const vxUnits::DerivedValue& one : vxUnits::derivedValues(all))
-        text += row({one.name, one.symbol, "`" + std::string(one.formula) + "`",
-                     UnitSystem::si().unitOf(one.dimension).text()});
+        text += tableRow({one.name, one.symbol, "`" + std::string(one.formula) + "`",
+                          UnitSystem::si().unitOf(one.dimension).text()});
     return text;
 }
 

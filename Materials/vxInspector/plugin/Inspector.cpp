@@ -5,6 +5,7 @@
 #include "curves/CurvesPage.h"
 #include "findings/FindingsPage.h"
 #include "fit/FitPage.h"
+#include "plugin/InspectorTabs.h"
 #include "plugin/TabContents.h"
 #include "plugin/TabPage.h"
 #include "subject/SubjectWatch.h"
@@ -41,7 +42,7 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
       m_watch(watch),
       m_unitsLabel(new QLabel(this)),
       m_systems(new QComboBox(this)),
-      m_tabs(new QTabWidget(this)),
+      m_tabs(new InspectorTabs(this)),
       m_values(new TabPage("inspectorValues", m_tabs)),
       m_findings(new FindingsPage(m_tabs)),
       m_cards(new TabPage("inspectorCards", m_tabs)),
@@ -71,8 +72,6 @@ Inspector::~Inspector() = default;
 
 void Inspector::createTabs()
 {
-    m_tabs->setObjectName(QStringLiteral("inspectorTabs"));
-    m_tabs->setDocumentMode(true);
     for (QWidget* const page :
          {static_cast<QWidget*>(m_values), static_cast<QWidget*>(m_findings), static_cast<QWidget*>(m_cards),
           static_cast<QWidget*>(m_compare), static_cast<QWidget*>(m_curves), static_cast<QWidget*>(m_fit)})
@@ -85,7 +84,7 @@ void Inspector::retranslate()
     m_systems->setToolTip(tr("The unit system of values, findings, comparison and curves. It changes no value."));
     const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves"), tr("Fit")};
     for (int tab = 0; tab < m_tabs->count(); ++tab)
-        m_tabs->setTabText(tab, titles[tab]);
+        m_tabs->setTitle(tab, titles[tab]);
     for (TabPage* const page : {m_values, static_cast<TabPage*>(m_findings), m_cards, m_compare}) {
         page->view().setAccessibleName(titles[m_tabs->indexOf(page)]);
         page->retranslate();
@@ -155,7 +154,7 @@ void Inspector::setFindingsTitle(std::size_t count)
 {
     const QString title = tr("Findings");
     const int tab = m_tabs->indexOf(m_findings);
-    m_tabs->setTabText(tab, count == 0 ? title : tr("%1 (%2)").arg(title).arg(count));
+    m_tabs->setTitle(tab, count == 0 ? title : tr("%1 (%2)").arg(title).arg(count));
 }
 
 void Inspector::fillTable(const Subject& subject, const vxUnits::UnitSystem& system)

@@ -3,7 +3,6 @@
 #include "measured/KeptMeasurements.h"
 #include "vxUnits/UnitSystem.h"
 
-#include <QTabWidget>
 #include <QWidget>
 
 #include <optional>
@@ -16,6 +15,7 @@ namespace vxInspector {
 class CurvesPage;
 class FindingsPage;
 class FitPage;
+class InspectorTabs;
 class SubjectWatch;
 class TabPage;
 struct Subject;
@@ -51,7 +51,7 @@ private:
     SubjectWatch& m_watch;
     QLabel* m_unitsLabel;
     QComboBox* m_systems;
-    QTabWidget* m_tabs;
+    InspectorTabs* m_tabs;
     TabPage* m_values;
     FindingsPage* m_findings;
     TabPage* m_cards;

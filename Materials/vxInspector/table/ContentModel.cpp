@@ -32,13 +32,12 @@ QVariant fontOf(const Cell& cell)
     return font;
 }
 
-/// Returns a tool tip that shows a plain text, whatever characters it contains.
+} // namespace
+
 QString plainToolTip(const QString& text)
 {
     return text.isEmpty() ? text : QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
 }
-
-} // namespace
 
 ContentModel::ContentModel(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -95,9 +94,11 @@ QVariant ContentModel::data(const QModelIndex& index, int role) const
 
 QVariant ContentModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section < columnCount())
-        return m_content.headers[section];
-    return {};
+    if (orientation != Qt::Horizontal || section >= columnCount())
+        return {};
+    if (role == Qt::ToolTipRole)
+        return plainToolTip(m_content.headers[section]); // the label of a material may be elided
+    return role == Qt::DisplayRole ? m_content.headers[section] : QVariant();
 }
 
 } // namespace vxInspector

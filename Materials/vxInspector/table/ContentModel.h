@@ -6,6 +6,9 @@
 
 namespace vxInspector {
 
+/// Returns a tool tip that shows a plain text, whatever characters it contains; empty for an empty text.
+QString plainToolTip(const QString& text);
+
 /// The model of a table of the inspector.
 class ContentModel : public QAbstractTableModel
 {

@@ -2,6 +2,8 @@
 
 #include "Kelta/Exceptions.h"
 #include "table/ContentModel.h"
+#include "table/FrozenColumn.h"
+#include "table/TextPieces.h"
 #include "values/RangeDelegate.h"
 
 #include <QAction>
@@ -10,11 +12,12 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStyle>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <numeric>
 #include <utility>
@@ -45,32 +48,6 @@ std::vector<int> shareWidth(const std::vector<NeededWidth>& needed, int width)
     widths.reserve(needed.size());
     for (const NeededWidth& column : needed)
         widths.push_back(column.*least + static_cast<int>(share * (column.*most - column.*least)));
-    return widths;
-}
-
-bool isNumber(const QString& word)
-{
-    static const QRegularExpression begin(QStringLiteral("^[-+]?[.0-9]"));
-    return begin.match(word).hasMatch();
-}
-
-/// The widths that the words of a text need.
-struct WordWidths
-{
-    int longest = 0;
-    int longestNumber = 0;
-};
-
-WordWidths wordWidths(const QString& text, const QFontMetrics& font)
-{
-    WordWidths widths;
-    for (const QString& line : text.split(QLatin1Char('\n')))
-        for (const QString& word : line.split(QLatin1Char(' '))) {
-            const int width = font.horizontalAdvance(word);
-            widths.longest = std::max(widths.longest, width);
-            if (isNumber(word))
-                widths.longestNumber = std::max(widths.longestNumber, width);
-        }
     return widths;
 }
 
@@ -105,18 +82,37 @@ ContentView::ContentView(QWidget* parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // The header resizes its last column by itself too.
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
-        if (!m_fitting && QApplication::mouseButtons() != Qt::NoButton)
-            m_columnsOfUser.insert(column);
-    });
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
+    horizontalHeader()->viewport()->installEventFilter(this);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &ContentView::noteWidthOfUser);
     connect(this, &QTableView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT chosen(index.row(), index.column()); });
+    m_frozen = new FrozenColumn(*this);
     createActions();
     retranslate();
 }
 
 ContentView::~ContentView() = default;
+
+/// The header resizes its columns by itself too: the last one with the table, also while a mouse button is pressed elsewhere.
+bool ContentView::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == horizontalHeader()->viewport()) {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick)
+            m_isHeaderPressed = true;
+        else if (type == QEvent::MouseButtonRelease)
+            m_isHeaderPressed = false;
+    }
+    return QTableView::eventFilter(object, event);
+}
+
+void ContentView::noteWidthOfUser(int column)
+{
+    const bool isLast = column == m_model->columnCount() - 1;
+    if (m_isHeaderPressed && !m_fitting && !isLast)
+        m_columnsOfUser.insert(column);
+}
 
 void ContentView::createActions()
 {
@@ -202,6 +198,7 @@ void ContentView::resizeEvent(QResizeEvent* event)
     QTableView::resizeEvent(event);
     if (event->size().width() != event->oldSize().width())
         fitColumns();
+    m_frozen->follow();
 }
 
 void ContentView::changeEvent(QEvent* event)
@@ -211,12 +208,24 @@ void ContentView::changeEvent(QEvent* event)
         fitColumns();
 }
 
+void ContentView::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    QTableView::scrollTo(index, hint);
+    if (index.column() <= 0)
+        return;
+    const int hidden = m_frozen->coveredWidth() - visualRect(index).left();
+    if (hidden > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
+}
+
+/// A header of the inspector is whole, but the label of a material may be long.
 NeededWidth ContentView::neededWidth(int column) const
 {
     if (m_columnsOfUser.count(column) != 0)
         return {columnWidth(column), columnWidth(column), columnWidth(column)};
+    constexpr int mostOfHeader = 12; // characters; the rest is elided
     const int header = horizontalHeader()->sectionSizeHint(column);
-    NeededWidth needed{header, header, 0};
+    NeededWidth needed{header, header, std::min(header, mostOfHeader * fontMetrics().averageCharWidth())};
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const NeededWidth ofCell = neededWidth(m_model->index(row, column));
         needed.whole = std::max(needed.whole, ofCell.whole);
@@ -233,22 +242,22 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
         const int bar = sizeHintForIndex(index).width();
         return {bar, bar, bar / 2};
     }
-    // The margins of a cell, and one pixel because advances are rounded.
-    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
-    const QFontMetrics metrics(index.data(Qt::FontRole).value<QFont>().resolve(font()));
+    const QFontMetricsF metrics(index.data(Qt::FontRole).value<QFont>().resolve(font()));
+    const int margin = RangeDelegate::marginOf(*this, cell);
     // The size hint of a wrapped cell would depend on the present width of the column.
-    int whole = 0;
-    for (const QString& line : cell.text.split(QLatin1Char('\n')))
-        whole = std::max(whole, metrics.horizontalAdvance(line) + margin);
+    double line = 0.0;
+    for (const QString& one : cell.text.split(QLatin1Char('\n')))
+        line = std::max(line, metrics.horizontalAdvance(one));
+    const int whole = static_cast<int>(std::ceil(line)) + margin;
     if (cell.isFixed)
         return {whole, whole, whole};
-    constexpr int namePart = 8; // characters of a name in a line
-    const WordWidths words = wordWidths(cell.text, metrics);
-    const int most = viewport()->width() / 3;
-    const int longest = std::min(words.longest + margin, most);
-    const int least = index.column() == 0 ? std::min(longest, namePart * metrics.averageCharWidth() + margin) : longest;
-    const int number = std::min(words.longestNumber + margin, viewport()->width() / 2);
-    return {whole, std::max(longest, number), std::max(least, number)};
+    constexpr int mostOfName = 8; // characters in a line; the rest is elided
+    const PieceWidths pieces = pieceWidths(cell.text, metrics);
+    const int width = viewport()->width();
+    const int longest = std::min(pieces.longest + margin, width / 2);
+    const int least = index.column() == 0 ? mostOfName * fontMetrics().averageCharWidth() + margin : width / 3;
+    const int number = pieces.longestNumber > 0 ? pieces.longestNumber + margin : 0;
+    return {whole, std::max(longest, number), std::max(std::min(longest, least), number)};
 }
 
 void ContentView::fitColumns()
@@ -256,6 +265,8 @@ void ContentView::fitColumns()
     if (m_fitting)
         return;
     const QScopedValueRollback<bool> fitting(m_fitting, true);
+    const int height = fontMetrics().height();
+    setIconSize({height, height});
     std::vector<NeededWidth> needed;
     for (int column = 0; column < m_model->columnCount(); ++column)
         needed.push_back(neededWidth(column));
@@ -264,6 +275,7 @@ void ContentView::fitColumns()
         if (m_columnsOfUser.count(column) == 0)
             setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
     resizeRowsToContents();
+    m_frozen->follow();
 }
 
 } // namespace vxInspector

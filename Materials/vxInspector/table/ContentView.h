@@ -11,17 +11,19 @@ class QAction;
 namespace vxInspector {
 
 class ContentModel;
+class FrozenColumn;
 
 /// The widths of a column that its texts need.
 struct NeededWidth
 {
     int whole;   ///< for texts in one line
     int longest; ///< for the longest word and the header
-    int least;   ///< for what must not be broken: numbers, bars, lines of cards; at most `longest`
+    int least;   ///< for what is always whole: numbers, bars, lines of cards; at most `longest`
 };
 
-/// A table of the inspector. Long texts wrap; the columns share the width. If there is too little of it, names are broken
-/// before numbers and bars. Cells can be copied, as text and as an HTML table at once.
+/// A table of the inspector. Long texts wrap; the columns share the width. If there is too little of it, names are elided
+/// before numbers and bars are cut. The first column stays in sight when the table is scrolled sideways. Cells can be
+/// copied, as text and as an HTML table at once.
 class ContentView : public QTableView
 {
     Q_OBJECT
@@ -41,6 +43,9 @@ public:
     /// Copies all cells with their headers.
     void copyAll() const;
 
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 Q_SIGNALS:
     /// Sent when the user clicks a cell, and when the user presses Return.
     void chosen(int row, int column);
@@ -52,16 +57,19 @@ protected:
 
 private:
     void createActions();
+    void noteWidthOfUser(int column);
     void copy(const TablePart& part) const;
     NeededWidth neededWidth(int column) const;
     NeededWidth neededWidth(const QModelIndex& index) const;
     void fitColumns();
 
     ContentModel* m_model;
+    FrozenColumn* m_frozen = nullptr;
     QAction* m_copy;
     QAction* m_copyAll;
     QAction* m_selectAll;
     std::set<int> m_columnsOfUser; ///< columns whose width the user has set
+    bool m_isHeaderPressed = false;
     bool m_fitting = false;
 };
 

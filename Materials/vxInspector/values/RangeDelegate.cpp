@@ -1,10 +1,13 @@
 #include "values/RangeDelegate.h"
 
 #include "table/ContentModel.h"
+#include "table/TextPieces.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
-#include <QStringList>
+#include <QToolTip>
 
 #include <algorithm>
 #include <optional>
@@ -13,23 +16,15 @@ namespace vxInspector {
 
 namespace {
 
-const std::optional<RangeBar>& barOf(const QModelIndex& index)
+const Cell& cellOf(const QModelIndex& index)
 {
-    return static_cast<const ContentModel*>(index.model())->cell(index).bar;
+    return static_cast<const ContentModel*>(index.model())->cell(index);
 }
 
-/// Returns a text in which words that are wider than `width` can be broken after each character.
-QString breakable(const QString& text, const QFontMetrics& font, int width)
+int textMargin(const QWidget* widget)
 {
-    constexpr QChar breakPlace(0x200b); // has no width
-    QStringList words = text.split(QLatin1Char(' '));
-    for (QString& word : words) {
-        if (font.horizontalAdvance(word) <= width)
-            continue;
-        for (int i = word.size() - 1; i > 0; --i)
-            word.insert(i, breakPlace);
-    }
-    return words.join(QLatin1Char(' '));
+    const QStyle* const style = widget != nullptr ? widget->style() : QApplication::style();
+    return style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
 }
 
 /// Paints one bar into a rectangle.
@@ -98,20 +93,45 @@ private:
 void RangeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (static_cast<const ContentModel*>(index.model())->cell(index).isFixed) {
+    if (cellOf(index).isFixed) {
         option->features &= ~QStyleOptionViewItem::ViewItemFeatures(QStyleOptionViewItem::WrapText);
         return;
     }
-    const QStyle* const style = option->widget != nullptr ? option->widget->style() : QApplication::style();
-    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
-    const int width = option->rect.width() - 2 * margin - 1; // advances are rounded
-    if (width > 0)
-        option->text = breakable(option->text, QFontMetrics(option->font), width);
+    const bool isName = index.column() == 0; // is elided
+    const int width = textWidth(*option, index);
+    if (!isName && width > 0)
+        option->text = breakable(option->text, QFontMetricsF(option->font), width);
+}
+
+int RangeDelegate::marginOf(const QAbstractItemView& view, const Cell& cell)
+{
+    const int margin = textMargin(&view);
+    return 2 * margin + 1 + (cell.hasSign ? view.iconSize().width() + 2 * margin : 0); // advances are rounded
+}
+
+int RangeDelegate::textWidth(const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const auto* const view = qobject_cast<const QAbstractItemView*>(option.widget);
+    return view != nullptr ? option.rect.width() - marginOf(*view, cellOf(index)) : 0;
+}
+
+bool RangeDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                              const QModelIndex& index)
+{
+    if (event == nullptr || view == nullptr || event->type() != QEvent::ToolTip || !index.isValid() ||
+        index.column() != 0)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const Cell& cell = cellOf(index);
+    if (pieceWidths(cell.text, QFontMetricsF(option.font)).longest <= textWidth(option, index))
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QString text = cell.toolTip.isEmpty() ? cell.text : cell.text + QStringLiteral("\n\n") + cell.toolTip;
+    QToolTip::showText(event->globalPos(), plainToolTip(text), view);
+    return true;
 }
 
 void RangeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    const std::optional<RangeBar>& bar = barOf(index);
+    const std::optional<RangeBar>& bar = cellOf(index).bar;
     if (!bar)
         return QStyledItemDelegate::paint(painter, option, index);
     QStyleOptionViewItem background = option;
@@ -126,7 +146,7 @@ void RangeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize RangeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    if (!barOf(index))
+    if (!cellOf(index).bar)
         return QStyledItemDelegate::sizeHint(option, index);
     constexpr int characters = 12;
     return {characters * option.fontMetrics.averageCharWidth(), option.fontMetrics.lineSpacing()};

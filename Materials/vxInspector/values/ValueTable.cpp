@@ -101,7 +101,7 @@ QString materialSentence(const InspectedMaterial& inspected)
 
 TableContent valueTable(const InspectedMaterial& inspected, const vxUnits::UnitSystem& system)
 {
-    TableContent table{materialSentence(inspected), {tr("Quantity"), tr("Value"), tr("Unit"), tr("Known range")}, {}};
+    TableContent table{materialSentence(inspected), {tr("Quantity"), tr("Value"), tr("Unit"), tr("Range")}, {}};
     for (auto& [position, row] : rowsByPosition(inspected, system))
         table.rows.push_back(std::move(row));
     for (const vxUnits::DerivedValue& derived : vxUnits::derivedValues(inspected.values))

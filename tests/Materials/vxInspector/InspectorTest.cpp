@@ -15,8 +15,12 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QToolTip>
 #include <QTranslator>
 #include <QtTest/QtTestGui>
 
@@ -373,7 +377,66 @@ TEST_F(Inspector, ShowsNumbersInOneLineAfterTheTableOfAProject)
     EXPECT_GT(table.columnWidth(value), table.fontMetrics().horizontalAdvance(QStringLiteral("7.6923e+10")));
 }
 
-TEST_F(Inspector, BreaksNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
+TEST_F(Inspector, ShowsAllItsTabsInANarrowDock)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    setNumber(steel, Id::YoungsModulus, 206900.0);
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    QTabBar* const bar = tabs().tabBar();
+    for (const int characters : {60, 45}) {
+        bar->parentWidget()->setFixedWidth(characters * bar->fontMetrics().averageCharWidth());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(bar->tabToolTip(Findings), "Findings (1)");
+        for (int tab = 0; tab < bar->count(); ++tab) {
+            EXPECT_TRUE(bar->rect().contains(bar->tabRect(tab))) << tab << ", " << characters;
+            EXPECT_GT(bar->tabRect(tab).width(), bar->fontMetrics().horizontalAdvance(bar->tabText(tab).left(4)));
+        }
+    }
+}
+
+TEST_F(Inspector, FitsItsColumnsAfterTheMouseHasShownTheirTab)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    setNumber(steel, Id::Density, 1.2345678901e-21);
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
+    ASSERT_TRUE(becomes(Values, "In the project", 1, "1"));
+    turnTo(Findings);
+    select({&steel});
+    ASSERT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
+    // The header gives the second column its earlier width when it is no longer the last one, while the button is down.
+    QTabBar* const bar = tabs().tabBar();
+    QTest::mousePress(bar, Qt::LeftButton, {}, bar->tabRect(Values).center());
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, bar->tabRect(Values).center());
+    ASSERT_TRUE(becomes(Values, "Density", value, "1.2345678901e-21"));
+    const vxInspector::ContentView& table = view(Values);
+    EXPECT_GT(table.columnWidth(value), table.fontMetrics().horizontalAdvance(QStringLiteral("1.2345678901e-21")));
+}
+
+TEST_F(Inspector, KeepsTheWidthOfAColumnThatTheUserHasDragged)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    select({&steel});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    vxInspector::ContentView& table = view(Values);
+    QWidget* const header = table.horizontalHeader()->viewport();
+    const QPoint edge(table.columnViewportPosition(value) - 1, header->height() / 2);
+    const int before = table.columnWidth(0);
+    QTest::mousePress(header, Qt::LeftButton, {}, edge);
+    QTest::mouseMove(header, edge + QPoint(10, 0));
+    QMouseEvent move(QEvent::MouseMove, edge + QPoint(25, 0), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(header, &move);
+    QTest::mouseRelease(header, Qt::LeftButton, {}, edge + QPoint(25, 0));
+    const int dragged = table.columnWidth(0);
+    EXPECT_GT(dragged, before);
+    setNumber(steel, Id::Density, 7000.0);
+    steel.refreshProperties(true);
+    ASSERT_TRUE(becomes(Values, "Density", value, "7000"));
+    EXPECT_EQ(table.columnWidth(0), dragged);
+}
+
+TEST_F(Inspector, ElidesNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
 {
     select({&addMaterial(newProject(), "Shaft", vxMat::eMaterialType::PlasticMaterial1)});
     ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
@@ -387,7 +450,61 @@ TEST_F(Inspector, BreaksNamesBeforeNumbersAndBarsIfTheTableIsNarrow)
         const int bars = table.columnViewportPosition(3);
         EXPECT_LE(bars + 6 * font.averageCharWidth(), table.viewport()->width()) << characters;
         EXPECT_LT(table.columnWidth(0), font.horizontalAdvance(QStringLiteral("Shear modulus (derived)")));
+        EXPECT_EQ(table.horizontalScrollBar()->maximum(), 0) << characters;
     }
+}
+
+TEST_F(Inspector, BreaksNoNameInsideAWord)
+{
+    select({&addMaterial(newProject())});
+    ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
+    vxInspector::ContentView& table = view(Values);
+    const QFontMetrics font = table.fontMetrics();
+    table.setFixedWidth(40 * font.averageCharWidth());
+    QCoreApplication::processEvents();
+    // A word in a column that is too narrow for it has one line, which is elided.
+    const int row = findRow(Values, "Density");
+    table.horizontalHeader()->resizeSection(0, 4 * font.averageCharWidth());
+    EXPECT_EQ(table.sizeHintForIndex(table.model()->index(row, 0)).height(),
+              table.sizeHintForIndex(table.model()->index(row, unit)).height());
+    QHelpEvent help(QEvent::ToolTip, table.visualRect(table.model()->index(row, 0)).center(), QPoint());
+    QApplication::sendEvent(table.viewport(), &help);
+    EXPECT_THAT(QToolTip::text().toStdString(), HasSubstr("Density"));
+    QToolTip::hideText();
+}
+
+TEST_F(Inspector, KeepsTheNamesOfTheComparedQuantitiesInSight)
+{
+    Mat::DocumentMaterial& project = newProject();
+    std::vector<Mat::MaterialObject*> all;
+    for (int i = 0; i < 12; ++i)
+        all.push_back(&addMaterial(project, "Steel " + std::to_string(i)));
+    select(all);
+    turnTo(Compare);
+    ASSERT_TRUE(becomes(Compare, "Density", 3, "7850"));
+    vxInspector::ContentView& table = view(Compare);
+    const auto* const frozen = table.findChild<QTableView*>(QStringLiteral("frozenColumn"));
+    ASSERT_NE(frozen, nullptr);
+    EXPECT_FALSE(frozen->isVisible());
+    const int row = findRow(Compare, "Density");
+    table.setFocus();
+    table.setCurrentIndex(table.model()->index(row, 0));
+    for (int i = 1; i < table.model()->columnCount(); ++i)
+        QTest::keyClick(&table, Qt::Key_Right);
+    ASSERT_GT(table.horizontalScrollBar()->value(), 0);
+    EXPECT_TRUE(frozen->isVisible());
+    EXPECT_EQ(frozen->width(), table.columnWidth(0));
+    EXPECT_EQ(frozen->rowViewportPosition(row), table.rowViewportPosition(row));
+    EXPECT_EQ(frozen->rowHeight(row), table.rowHeight(row));
+    EXPECT_FALSE(frozen->isColumnHidden(0));
+    EXPECT_TRUE(frozen->isColumnHidden(3));
+    QTest::keyClick(&table, Qt::Key_Left);
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(&table, Qt::Key_Left);
+    const QRect current = table.visualRect(table.currentIndex());
+    EXPECT_GE(current.left(), frozen->width()) << "the column does not cover the current cell";
+    table.horizontalScrollBar()->setValue(0);
+    EXPECT_FALSE(frozen->isVisible());
 }
 
 TEST_F(Inspector, CopiesTheSelectedCellsAsTextAndAsATable)

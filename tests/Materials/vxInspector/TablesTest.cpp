@@ -5,6 +5,7 @@
 #include "cards/CardTable.h"
 #include "compare/CompareTable.h"
 #include "findings/FindingTable.h"
+#include "table/TextPieces.h"
 #include "values/RangeBar.h"
 #include "values/ValueTable.h"
 #include "vxMaterial/model/MaterialLibrary.h"
@@ -67,6 +68,14 @@ InspectedMaterial readRows(const std::vector<MatGui::SheetRow>& rows)
     vxInspector::readRows(rows, result);
     result.values = vxUnits::MaterialValues(*result.material);
     return result;
+}
+
+std::vector<std::string> piecesOf(const char* text)
+{
+    std::vector<std::string> pieces;
+    for (const QString& piece : vxInspector::textPieces(QString::fromUtf8(text)))
+        pieces.push_back(piece.trimmed().toStdString());
+    return pieces;
 }
 
 TEST(ValueTable, HasTheValuesOfAMaterialWithTheirUnits)
@@ -191,6 +200,25 @@ TEST(EditorRows, ThatCannotBeReadAreNamedWithTheReason)
     const TableContent findings = findingTable(all, UnitSystem::si());
     EXPECT_THAT(textsOf(findings, 0)[vxInspector::FindingColumn::Finding],
                 HasSubstr(R"(Row 1: The value "7,85 g/cm^3" of "Density" cannot be read: )"));
+}
+
+TEST(TextPieces, AreTheWordsNumbersAndUnitsOfATextWithBlanks)
+{
+    EXPECT_THAT(piecesOf("Density = 7.85e-09 t/mm^3, 2.069e+11 W/(m K)"),
+                ElementsAre("Density", "=", "7.85e-09", "t/mm^3,", "2.069e+11", "W/(m", "K)"));
+}
+
+TEST(TextPieces, AreSingleCharactersOfTextsWithoutBlanks)
+{
+    EXPECT_THAT(piecesOf("\u70ed\u6269\u6563\u738711.569m^2/s"),
+                ElementsAre("\u70ed", "\u6269", "\u6563", "\u7387", "11.569m^2/s"));
+}
+
+TEST(TextPieces, KeepNumbersWholeAndBreakOtherTextsThatAreTooWide)
+{
+    const QFontMetricsF font{QFont()};
+    const QString shown = vxInspector::breakable(QStringLiteral("11.569 abcdefghij"), font, 5.0);
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("11.569 a") + QChar(0x200b) + QLatin1Char('b')));
 }
 
 TEST(RangeBar, IsLogarithmicIfTheRangeSpansDecades)

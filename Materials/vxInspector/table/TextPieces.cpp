@@ -1,0 +1,79 @@
+#include "table/TextPieces.h"
+
+#include <QRegularExpression>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxInspector {
+
+namespace {
+
+/// Returns whether a character belongs to a writing in which lines end between characters.
+bool isOfTextWithoutBlanks(QChar character)
+{
+    constexpr ushort firstRadical = 0x2e80; // the blocks of Chinese, Japanese and Korean begin here
+    return character.unicode() >= firstRadical && character.unicode() != QChar::ReplacementCharacter;
+}
+
+bool isNumber(const QString& piece)
+{
+    static const QRegularExpression number(QStringLiteral("^[-+]?[.0-9][-+.0-9eE]{0,30}[,;:.]?\\s*$"));
+    return number.match(piece).hasMatch();
+}
+
+} // namespace
+
+std::vector<QString> textPieces(const QString& text)
+{
+    std::vector<QString> pieces;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    int begin = 0;
+    const auto add = [&](int end) {
+        if (end > begin)
+            pieces.push_back(text.mid(begin, end - begin));
+        begin = end;
+    };
+    for (int end = 1; end < text.size(); ++end) {
+        if (text[end - 1].isSpace())
+            add(end);
+        else if (isOfTextWithoutBlanks(text[end - 1]) || isOfTextWithoutBlanks(text[end])) {
+            finder.setPosition(end);
+            if (finder.isAtBoundary())
+                add(end);
+        }
+    }
+    add(text.size());
+    return pieces;
+}
+
+PieceWidths pieceWidths(const QString& text, const QFontMetricsF& font)
+{
+    PieceWidths widths;
+    for (const QString& piece : textPieces(text)) {
+        const int width = static_cast<int>(std::ceil(font.horizontalAdvance(piece.trimmed())));
+        widths.longest = std::max(widths.longest, width);
+        if (isNumber(piece))
+            widths.longestNumber = std::max(widths.longestNumber, width);
+    }
+    return widths;
+}
+
+QString breakable(const QString& text, const QFontMetricsF& font, double width)
+{
+    constexpr QChar breakPlace(0x200b); // has no width
+    if (font.horizontalAdvance(text) <= width)
+        return text;
+    QString broken;
+    for (QString piece : textPieces(text)) {
+        if (!isNumber(piece) && font.horizontalAdvance(piece.trimmed()) > width)
+            for (int i = piece.size() - 1; i > 0; --i)
+                if (!piece.at(i).isLowSurrogate())
+                    piece.insert(i, breakPlace);
+        broken += piece;
+    }
+    return broken;
+}
+
+} // namespace vxInspector

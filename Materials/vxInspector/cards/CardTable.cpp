@@ -1,10 +1,14 @@
 #include "cards/CardTable.h"
 
 #include "values/ValueTable.h"
+#include "vxDecks/Deck.h"
+#include "vxInspector/decks/DeckLines.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/gui/FindingText.h"
 
 #include <QCoreApplication>
+
+#include <optional>
 
 namespace vxInspector {
 
@@ -31,6 +35,20 @@ QString sentence(QString text)
     return text;
 }
 
+void addUnreadRows(const InspectedMaterial& inspected, TableContent& table)
+{
+    for (const UnreadRow& unread : inspected.unreadRows)
+        table.rows.push_back({{{tr("Missing"), {}, {}, true},
+                               textCell(tr("Row %1 cannot be read: %2").arg(unread.number).arg(unread.reason))}});
+}
+
+QString reportOf(const DeckLine& line)
+{
+    if (line.quantities.isEmpty())
+        return sentence(line.reason);
+    return line.reason.isEmpty() ? line.quantities : line.quantities + QStringLiteral(": ") + line.reason;
+}
+
 Cell cardCell(const std::string& text)
 {
     QString shown = QString::fromStdString(text);
@@ -51,14 +69,29 @@ TableContent cardTable(const InspectedMaterial& inspected)
     TableContent table{materialSentence(inspected), {tr("Card"), tr("Text")}, {}};
     table.sentence += QLatin1Char(' ') +
                       (set.cards.empty() ? tr("No card applies to it.") : tr("The numbers of cards are in SI units."));
-    for (const UnreadRow& unread : inspected.unreadRows)
-        table.rows.push_back({{{tr("Missing"), {}, {}, true},
-                               textCell(tr("Row %1 cannot be read: %2").arg(unread.number).arg(unread.reason))}});
+    addUnreadRows(inspected, table);
     for (const vxMat::MaterialFinding& doubt : set.doubts)
         table.rows.push_back({{{tr("Missing"), {}, {}, true}, textCell(sentence(MatGui::findingText(doubt)))}});
     for (const vxCAE::SolverCard& card : set.cards)
         table.rows.push_back(
             {{{QCoreApplication::translate("vxCAE::SolverCard", card.name.c_str())}, cardCell(card.text)}});
+    return table;
+}
+
+TableContent deckTable(const InspectedMaterial& inspected, vxDecks::Format format, const vxUnits::UnitSystem& system)
+{
+    const vxDecks::DeckMaterial material{inspected.label.toStdString(), inspected.objectId, inspected.material.get()};
+    const vxDecks::Deck deck = vxDecks::writeDeck(format, {material}, {system, std::nullopt});
+    TableContent table{materialSentence(inspected), {tr("Card"), tr("Text")}, {}};
+    table.sentence += QLatin1Char(' ') + deckRemarks(deck.report);
+    table.rows.push_back({{{tr("Deck")}, cardCell(deck.text)}});
+    addUnreadRows(inspected, table);
+    for (const DeckLine& line : deckLines(deck.report)) {
+        if (line.kind == DeckLine::Kind::Carried)
+            continue;
+        const bool isBold = line.kind <= DeckLine::Kind::Lost;
+        table.rows.push_back({{{nameOf(line.kind), {}, {}, isBold}, textCell(reportOf(line))}});
+    }
     return table;
 }
 

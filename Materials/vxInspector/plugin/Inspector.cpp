@@ -2,6 +2,7 @@
 
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
+#include "cards/CardsPage.h"
 #include "curves/CurvesPage.h"
 #include "findings/FindingsPage.h"
 #include "fit/FitPage.h"
@@ -45,7 +46,7 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
       m_tabs(new InspectorTabs(this)),
       m_values(new TabPage("inspectorValues", m_tabs)),
       m_findings(new FindingsPage(m_tabs)),
-      m_cards(new TabPage("inspectorCards", m_tabs)),
+      m_cards(new CardsPage(m_tabs)),
       m_compare(new TabPage("inspectorCompare", m_tabs)),
       m_curves(new CurvesPage(m_tabs)),
       m_fit(new FitPage(m_tabs))
@@ -64,6 +65,7 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
     retranslate();
     const auto refreshNow = [this] { Kelta::guarded(tr("The inspector cannot be updated"), [this] { refresh(); }); };
     connect(m_tabs, &QTabWidget::currentChanged, this, refreshNow);
+    connect(m_cards, &CardsPage::chosen, this, refreshNow);
     connect(m_curves, &CurvesPage::chosen, this, refreshNow);
     connect(m_systems, QOverload<int>::of(&QComboBox::currentIndexChanged), this, refreshNow);
 }
@@ -81,11 +83,12 @@ void Inspector::createTabs()
 void Inspector::retranslate()
 {
     m_unitsLabel->setText(tr("&Units:"));
-    m_systems->setToolTip(tr("The unit system of values, findings, comparison and curves. It changes no value."));
+    m_systems->setToolTip(tr("The unit system of values, findings, decks, comparison and curves. It changes no value."));
     const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves"), tr("Fit")};
     for (int tab = 0; tab < m_tabs->count(); ++tab)
         m_tabs->setTitle(tab, titles[tab]);
-    for (TabPage* const page : {m_values, static_cast<TabPage*>(m_findings), m_cards, m_compare}) {
+    for (TabPage* const page : {m_values, static_cast<TabPage*>(m_findings), static_cast<TabPage*>(m_cards), m_compare})
+    {
         page->view().setAccessibleName(titles[m_tabs->indexOf(page)]);
         page->retranslate();
     }
@@ -166,7 +169,7 @@ void Inspector::fillTable(const Subject& subject, const vxUnits::UnitSystem& sys
     else if (page == m_findings)
         m_findings->setContent(std::move(findings), system);
     else if (page == m_cards)
-        m_cards->setContent(cardsTab(subject));
+        m_cards->setContent(cardsTab(subject, m_cards->format(), system));
     else
         m_compare->setContent(compareTab(subject, system));
 }

@@ -12,6 +12,7 @@ class QLabel;
 
 namespace vxInspector {
 
+class CardsPage;
 class CurvesPage;
 class FindingsPage;
 class FitPage;
@@ -54,7 +55,7 @@ private:
     InspectorTabs* m_tabs;
     TabPage* m_values;
     FindingsPage* m_findings;
-    TabPage* m_cards;
+    CardsPage* m_cards;
     TabPage* m_compare;
     CurvesPage* m_curves;
     FitPage* m_fit;

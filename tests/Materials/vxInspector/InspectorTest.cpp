@@ -306,6 +306,97 @@ TEST_F(Inspector, ShowsTheCardsOfTypedText)
     }));
 }
 
+/// The tab of the cards with the deck of a solver.
+class DeckCards : public vxtest::InspectorTest
+{
+protected:
+    QComboBox& formats() const { return *tabs().findChild<QComboBox*>(QStringLiteral("cardFormats")); }
+    /// Chooses a format with the keyboard.
+    void choose(const char* title) const
+    {
+        formats().setFocus();
+        QTest::keyClick(&formats(), Qt::Key_Home);
+        for (int i = 0; i < formats().count() && formats().currentText() != QLatin1String(title); ++i)
+            QTest::keyClick(&formats(), Qt::Key_Down);
+        EXPECT_EQ(formats().currentText(), title);
+    }
+    std::string deck() const { return cell(Cards, findRow(Cards, "Deck"), 1); }
+};
+
+TEST_F(DeckCards, AreTheCardsOfTheProgramFirst)
+{
+    select({&addMaterial(newProject())});
+    turnTo(Cards);
+    EXPECT_EQ(formats().currentText(), "The solver of this program");
+    QStringList titles;
+    for (int i = 1; i < formats().count(); ++i)
+        titles << formats().itemText(i);
+    EXPECT_EQ(titles, QStringList({"CalculiX", "Nastran", "Mechanical APDL", "LS-DYNA", "Elmer", "MatML"}));
+    EXPECT_GE(findRow(Cards, "elasticity"), 0);
+}
+
+TEST_F(DeckCards, FollowTheFormatAndTheUnitsOfTheInspector)
+{
+    select({&addMaterial(newProject())});
+    turnTo(Cards);
+    choose("CalculiX");
+    EXPECT_TRUE(waitFor([this] { return deck().find("*ELASTIC\n2e11, 0.3") != std::string::npos; })) << deck();
+    window->findChild<QComboBox*>(QStringLiteral("inspectorUnits"))->setCurrentText(QStringLiteral("mm-t-s"));
+    EXPECT_TRUE(waitFor([this] { return deck().find("*ELASTIC\n2e5, 0.3") != std::string::npos; })) << deck();
+    EXPECT_THAT(sentence(Cards), HasSubstr("mm-t-s"));
+    choose("Nastran");
+    EXPECT_TRUE(waitFor([this] { return deck().find("MAT1") != std::string::npos; })) << deck();
+    choose("The solver of this program");
+    EXPECT_TRUE(waitFor([this] { return findRow(Cards, "elasticity") >= 0; }));
+}
+
+TEST_F(DeckCards, FollowTypedTextAndNameTheRowThatCannotBeRead)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    MatGui::MaterialView& editor = edit(steel);
+    turnTo(Cards);
+    choose("CalculiX");
+    QLineEdit* const line = startTyping(editor, Id::PoissonsRatio, "0.25");
+    EXPECT_TRUE(waitFor([this] { return deck().find("*ELASTIC\n2e11, 0.25") != std::string::npos; })) << deck();
+    QTest::keyClicks(line, "x");
+    EXPECT_TRUE(waitFor([this] { return findRow(Cards, "Missing") >= 0; }));
+    EXPECT_LT(findRow(Cards, "Deck"), findRow(Cards, "Missing"));
+}
+
+TEST_F(DeckCards, SayWhatTheSolverDoesNotTake)
+{
+    select({&addMaterial(newProject(), "Shaft", vxMat::eMaterialType::PlasticMaterial1)});
+    turnTo(Cards);
+    choose("Elmer");
+    ASSERT_TRUE(waitFor([this] { return findRow(Cards, "Lost") >= 0; }));
+    EXPECT_LT(findRow(Cards, "Deck"), findRow(Cards, "Lost"));
+    EXPECT_THAT(cell(Cards, findRow(Cards, "Lost"), 1), HasSubstr("Yield stress"));
+    EXPECT_EQ(findRow(Cards, "Carried"), -1);
+}
+
+TEST_F(DeckCards, AreCopiedAsText)
+{
+    select({&addMaterial(newProject())});
+    turnTo(Cards);
+    choose("CalculiX");
+    auto* const copy = tabs().findChild<QPushButton*>(QStringLiteral("copyCards"));
+    ASSERT_TRUE(waitFor([this] { return deck().find("*MATERIAL") != std::string::npos; }));
+    QTest::keyClick(&formats(), Qt::Key_Tab);
+    EXPECT_TRUE(copy->hasFocus());
+    QTest::keyClick(copy, Qt::Key_Space);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), deck() + '\n');
+}
+
+TEST_F(DeckCards, AreNotOfferedWithoutAMaterial)
+{
+    Mat::DocumentMaterial& project = newProject();
+    addMaterial(project);
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
+    turnTo(Cards);
+    EXPECT_TRUE(says(Cards, "Select a material to see its cards."));
+    EXPECT_FALSE(formats().isVisible());
+}
+
 TEST_F(Inspector, ComparesTheSelectedMaterials)
 {
     Mat::DocumentMaterial& project = newProject();

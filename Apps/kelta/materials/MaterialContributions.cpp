@@ -11,6 +11,7 @@
 #include "Gui/Contributions.h"
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
+#include "decks/DeckExport.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
@@ -56,6 +57,10 @@ void addMaterialCommands(Gui::CommandController& commands)
           {},
           Gui::CommandType::none,
           chooseUnits,
+          [] { return currentMaterialProject() != nullptr; }},
+         {"Mat_ExportDeck", QT_TRANSLATE_NOOP("MaterialCommand", "&Export for solver..."),
+          QT_TRANSLATE_NOOP("MaterialCommand", "Write the materials in the input format of a solver"), "",
+          Qt::CTRL + Qt::SHIFT + Qt::Key_E, Gui::CommandType::none, [] { exportForSolver(); },
           [] { return currentMaterialProject() != nullptr; }}});
 }
 
@@ -76,11 +81,13 @@ void addToBars(Gui::Contributions& contributions)
 {
     contributions.addToMenu("&File", "New", "Mat_NewDoc");
     contributions.addToMenu("&File", "Import", "Std_ImportDocument");
+    contributions.addToMenu("&File", "Import", "Mat_ExportDeck");
     contributions.addToMenu("&Project", "Add", "Mat_AddMaterial");
     contributions.addToMenu("&Project", "Add", "Mat_Edit");
     contributions.addToMenu("&Project", "Import", "Std_ImportDocument");
     contributions.addToMenu("&Project", "Import", "Mat_Import");
     contributions.addToMenu("&Project", "Units", "Mat_Units");
+    contributions.addToMenu("&Material", "Export", "Mat_ExportDeck", workbenchClass);
     contributions.addToMenu("&Material", "Check", "Mat_Check", workbenchClass);
     contributions.addToToolBar("File", "New", "Mat_NewDoc");
     contributions.addToToolBar("File", "Add", "Mat_AddMaterial");

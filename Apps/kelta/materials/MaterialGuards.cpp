@@ -1,5 +1,6 @@
 #include "MaterialGuards.h"
 
+#include "FileReplacing.h"
 #include "MaterialExport.h"
 #include "MaterialProjects.h"
 
@@ -7,22 +8,16 @@
 #include "Gui/FileDialog.h"
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
-#include "kelta/FileService.h"
 #include "kelta/OpeningGuard.h"
 #include "kelta/UnappliedEdits.h"
-#include "projectfile/ProjectFile.h"
-#include "projectfile/ProjectStore.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxMsg/MessageProxy.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include <algorithm>
-#include <exception>
 
 namespace desktop {
 
@@ -69,26 +64,15 @@ bool closeProjects()
     return materialProjects().empty();
 }
 
-/// Asks a question with a button of its own for consent. In a list of commands such a question fails.
-bool consent(const QString& title, const QString& text, const QString& button)
-{
-    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Cancel, Gui::MainWindow::get_main_window_inst());
-    box.setTextFormat(Qt::PlainText);
-    const QAbstractButton* const yes = box.addButton(button, QMessageBox::AcceptRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == yes;
-}
-
 /// Asks whether to close the open material project before another is opened from a file.
 bool mayOpen(const QString& path)
 {
     const auto open = materialProjects();
     return open.empty() ||
-           (consent(tr("Open project"),
-                    tr(R"(Only one material project can be used at a time. Close "%1" and open "%2"?)")
-                        .arg(QString::fromUtf8(open.front()->get_name()), QDir::toNativeSeparators(path)),
-                    tr("&Close and open")) &&
+           (consent({tr("Open project"),
+                     tr(R"(Only one material project can be used at a time. Close "%1" and open "%2"?)")
+                         .arg(QString::fromUtf8(open.front()->get_name()), QDir::toNativeSeparators(path))},
+                    tr("&Close and open"), *Gui::MainWindow::get_main_window_inst()) &&
             closeProjects());
 }
 
@@ -136,51 +120,14 @@ void exportTo(const QString& path, const Mat::DocumentMaterial& project, const R
         reportExport(static_cast<const Mat::DocumentMaterial&>(*exported), path);
 }
 
-/// Returns the use of an existing file as a project: by the name of the open project, or by another program. Empty if
-/// the file is not in use.
-QString findUse(const QString& path)
-{
-    const QString file = QFileInfo(path).canonicalFilePath();
-    if (file.isEmpty())
-        return {};
-    for (const Obj::Project* const project : Obj::Application::get_projects())
-        if (const auto* const files = FileService::instance(); files != nullptr && files->getFile(*project) == file)
-            return tr(R"("%1" is the file of the project "%2", which is open.)")
-                .arg(QDir::toNativeSeparators(path), QString::fromUtf8(project->get_name()));
-    projectfile::FileLock lock(file);
-    return lock.tryLock() || lock.holder().isEmpty()
-               ? QString()
-               : tr("\"%1\" is in use by %2.").arg(QDir::toNativeSeparators(path), lock.holder());
-}
-
-/// Returns a sentence if an existing file is a project file; an empty text otherwise.
-QString findProject(const QString& path)
-{
-    try {
-        if (QFileInfo::exists(path) && projectfile::isProjectText(projectfile::readFile(path)))
-            return tr("\"%1\" is a project file.").arg(QDir::toNativeSeparators(path));
-    } catch (const std::exception&) {
-        // Not readable, and therefore not a project; the export reports whether the file can be written.
-    }
-    return {};
-}
-
-bool mayReplace(const QString& path)
-{
-    QString use = findUse(path);
-    if (use.isEmpty())
-        use = findProject(path);
-    return use.isEmpty() || consent(tr("Export materials"),
-                                    use + QLatin1Char(' ') + tr("Replace it by an exchange document?"), tr("&Replace"));
-}
-
 void guardExport(const Run& run)
 {
     const QString title = tr("Export materials");
+    Gui::MainWindow& mainWindow = *Gui::MainWindow::get_main_window_inst();
     if (const QString obstacle = findObstacle(); !obstacle.isEmpty())
         return refuse(title, obstacle);
     const std::uint32_t projectId = materialProjects().front()->getProjectId();
-    if (!askToApply(*Gui::MainWindow::get_main_window_inst(), *materialProjects().front(),
+    if (!askToApply(mainWindow, *materialProjects().front(),
                     {title, tr("The export contains only applied changes."), tr("&Export without them")}))
         return;
     const QString path = askForFile();
@@ -191,7 +138,8 @@ void guardExport(const Run& run)
     for (const QString& obstacle : {findExportObstacle(*open.front()), findWriteObstacle(path)})
         if (!obstacle.isEmpty())
             return refuse(title, obstacle);
-    if (!mayReplace(path) || Obj::Application::instance().get_project(projectId) == nullptr)
+    if (!mayReplace(path, {title, tr("Replace it by an exchange document?")}, mainWindow) ||
+        Obj::Application::instance().get_project(projectId) == nullptr)
         return;
     exportTo(path, *open.front(), run);
 }

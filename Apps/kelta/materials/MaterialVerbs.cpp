@@ -8,6 +8,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "cells/CellReading.h"
 #include "cells/TypedValue.h"
+#include "decks/DeckExport.h"
 #include "kelta/Batch.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/exchange/CardSet.h"
@@ -180,6 +181,34 @@ Failure exportMaterials(const QStringList& arguments)
     return Batch::invokeCommand(QStringLiteral("Mat_Export"), arguments);
 }
 
+QString namesOfFormats()
+{
+    QStringList names;
+    for (const vxDecks::FormatInfo& format : vxDecks::formats())
+        names << QString::fromLatin1(format.name);
+    return names.join(QStringLiteral(", "));
+}
+
+/// The command opens a dialog.
+Failure exportDeck(const QStringList& arguments)
+{
+    Mat::DocumentMaterial* const project = findProject();
+    if (project == nullptr)
+        return tr("there is no material project");
+    if (arguments.size() < 2 || arguments.size() > 3 || arguments[1].isEmpty())
+        return tr("give a solver, the name of the file to write, and the unit system of the deck if it is not that of "
+                  "the project");
+    const vxDecks::FormatInfo* const format = vxDecks::findFormat(arguments[0].toStdString());
+    if (format == nullptr)
+        return tr("there is no solver \"%1\"; the solvers are: %2").arg(arguments[0], namesOfFormats());
+    if (arguments.size() == 2)
+        return exportForSolver(*project, format->format, arguments[1], std::nullopt);
+    const auto system = vxUnits::UnitSystem::parse(arguments[2].toStdString());
+    if (!system)
+        return vxInspector::translated(system.failure());
+    return exportForSolver(*project, format->format, arguments[1], *system);
+}
+
 Failure printCards(const QStringList& arguments)
 {
     if (!arguments.isEmpty())
@@ -278,6 +307,7 @@ void registerMaterialVerbs()
     Batch::registerVerb(QStringLiteral("Mat_Check"), checkMaterials);
     Batch::registerVerb(QStringLiteral("Mat_NewDoc"), makeProject);
     Batch::registerVerb(QStringLiteral("Mat_Export"), exportMaterials);
+    Batch::registerVerb(QStringLiteral("Mat_ExportDeck"), exportDeck);
     Batch::registerVerb(QStringLiteral("cards"), printCards);
     Batch::registerVerb(QStringLiteral("Mat_Import"), importMaterials);
     Batch::registerVerb(QStringLiteral("Mat_Units"), setUnits);

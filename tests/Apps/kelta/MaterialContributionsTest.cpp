@@ -62,8 +62,9 @@ protected:
 TEST_F(Materials, HaveTheirCommandsInTheMenus)
 {
     EXPECT_THAT(menus(), ElementsAre("&File", "&Edit", "&Project", "&View", "&Material", "&Windows", "&Help"));
-    EXPECT_THAT(menu("&File"), ElementsAre("Mat_NewDoc", "Std_Open", "Std_OpenRecent", "-", "Std_Save", "Std_SaveAs",
-                                           "-", "Std_ImportDocument", "-", "Std_CloseProject", "Std_Quit"));
+    EXPECT_THAT(menu("&File"),
+                ElementsAre("Mat_NewDoc", "Std_Open", "Std_OpenRecent", "-", "Std_Save", "Std_SaveAs", "-",
+                            "Std_ImportDocument", "Mat_ExportDeck", "-", "Std_CloseProject", "Std_Quit"));
     EXPECT_THAT(menu("&Edit"),
                 ElementsAre("Std_Undo", "Std_Redo", "-", "Std_Copy", "Std_Paste", "Std_DuplicateSelection",
                             "Std_Delete", "-", "Std_Find", "Std_SelectAll", "Std_Rename", "Std_Color", "-",
@@ -73,7 +74,7 @@ TEST_F(Materials, HaveTheirCommandsInTheMenus)
     EXPECT_THAT(menu("&View"),
                 ElementsAre("Std_ProjectExplorer", "Std_PropertyPanel", "Std_MessageLog", "Std_ToolBars", "-",
                             "Std_NextPane", "Std_PreviousPane", "-", "Std_ClearMessages", "-", "Std_Language"));
-    EXPECT_THAT(menu("&Material"), ElementsAre("Mat_Export", "-", "Mat_Check"));
+    EXPECT_THAT(menu("&Material"), ElementsAre("Mat_Export", "-", "Mat_ExportDeck", "-", "Mat_Check"));
 }
 
 TEST_F(Materials, HaveTheirCommandsInTheToolbars)

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace desktop {
 
 namespace {
@@ -49,9 +51,16 @@ QColor colorOfFaults(const QWidget& widget)
 
 } // namespace
 
-UnitChoice::UnitChoice(Preference preference, QWidget* parent)
+UnitChoice::UnitChoice(Preference preference, QWidget* parent) : UnitChoice(preference, std::nullopt, parent) {}
+
+UnitChoice::UnitChoice(UnitSystem ofProject, QWidget* parent)
+    : UnitChoice(Preference::Offered, std::optional(std::move(ofProject)), parent)
+{}
+
+UnitChoice::UnitChoice(Preference preference, std::optional<UnitSystem> ofProject, QWidget* parent)
     : QWidget(parent),
       m_preference(preference),
+      m_ofProject(std::move(ofProject)),
       m_systems(new QComboBox(this)),
       m_bases(new QLineEdit(this)),
       m_remark(new QLabel(this))
@@ -102,9 +111,10 @@ void UnitChoice::buildLayout()
 
 void UnitChoice::retranslate()
 {
-    const QString preferred = QString::fromStdString(vxInspector::defaultSystem().text());
+    const QString offered = QString::fromStdString(m_ofProject.value_or(vxInspector::defaultSystem()).text());
     if (const int index = m_systems->findData(QLatin1String(ofPreferences)); index >= 0)
-        m_systems->setItemText(index, tr("As in the preferences (%1)").arg(preferred));
+        m_systems->setItemText(
+            index, (m_ofProject ? tr("As the project (%1)") : tr("As in the preferences (%1)")).arg(offered));
     m_systems->setItemText(m_systems->findData(QLatin1String(ownUnits)), tr("Own base units"));
     m_systems->setAccessibleName(tr("Unit system"));
     m_bases->setAccessibleName(tr("Base units"));
@@ -133,7 +143,7 @@ bool UnitChoice::isPreference() const
 vxUnits::Result<UnitSystem> UnitChoice::read() const
 {
     if (isPreference())
-        return vxInspector::defaultSystem();
+        return m_ofProject.value_or(vxInspector::defaultSystem());
     const QString text = isOwn() ? m_bases->text() : m_systems->currentData().toString();
     return UnitSystem::parse(text.toStdString());
 }

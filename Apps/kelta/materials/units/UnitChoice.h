@@ -6,6 +6,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -26,14 +28,18 @@ public:
         NotOffered,
     };
     explicit UnitChoice(Preference preference, QWidget* parent = nullptr);
+    /// Offers the system of a project, which has an empty text, in place of that of the preferences.
+    explicit UnitChoice(vxUnits::UnitSystem ofProject, QWidget* parent = nullptr);
     ~UnitChoice() override;
 
     /// Shows a system by its text (vxUnits::UnitSystem::text()), or any other text as base units of the user's own. An empty
-    /// text is the system of the preferences if it is offered, and SI otherwise.
+    /// text is the system of the project or of the preferences if it is offered, and SI otherwise.
     void setSystem(const QString& text);
-    /// Returns the text of the chosen system; empty for the system of the preferences and if the base units cannot be
-    /// read.
+    /// Returns the text of the chosen system; empty for the system of the project or of the preferences, and if the base
+    /// units cannot be read.
     QString system() const;
+    /// Returns the chosen system; the reason if the base units cannot be read.
+    vxUnits::Result<vxUnits::UnitSystem> read() const;
     /// Returns whether the chosen system can be read.
     bool isValid() const;
 
@@ -45,6 +51,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    UnitChoice(Preference preference, std::optional<vxUnits::UnitSystem> ofProject, QWidget* parent);
     void fillSystems();
     void buildLayout();
     void retranslate();
@@ -52,9 +59,9 @@ private:
     void showUnits();
     bool isOwn() const;
     bool isPreference() const;
-    vxUnits::Result<vxUnits::UnitSystem> read() const;
 
     Preference m_preference;
+    std::optional<vxUnits::UnitSystem> m_ofProject; ///< in place of the system of the preferences
     QComboBox* m_systems;
     QLineEdit* m_bases; ///< the base units; read-only for built-in systems
     QLabel* m_remark;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "vxDecks/Deck.h"
+#include "vxInspector/decks/DeckLines.h"
+#include "vxMaterial/model/Material.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace Mat {
+class MaterialObject;
+} // namespace Mat
+
+namespace desktop {
+
+/// Copies of the materials of a project. A deck is made of them in another thread while the project may change.
+struct DeckSource
+{
+    std::vector<std::unique_ptr<vxMat::CMaterial>> copies;
+    std::vector<vxDecks::DeckMaterial> materials; ///< refer to the copies
+    std::size_t suppressed = 0;                   ///< the number of suppressed materials, which are in the deck too
+    QString settings; ///< a sentence about data that the project keeps beside the materials; empty if there is none
+};
+
+/// Copies materials, with their labels as names and the numbers that they have in their project.
+std::shared_ptr<const DeckSource> copyForDeck(const std::vector<Mat::MaterialObject*>& objects);
+
+/// The beginning of a text, as many lines as a view shows without delay.
+struct Beginning
+{
+    QString text;
+    std::size_t lines = 0;    ///< of `text`
+    std::size_t allLines = 0; ///< of the whole text
+};
+
+/// A deck, and what a user sees of it.
+struct MadeDeck
+{
+    vxDecks::Deck deck;
+    Beginning beginning;
+    std::vector<vxInspector::DeckLine> lines;
+    QString summary;
+};
+
+/// Makes a deck. May be called in any thread.
+MadeDeck makeDeck(const DeckSource& source, vxDecks::Format format, const vxUnits::UnitSystem& units);
+
+} // namespace desktop

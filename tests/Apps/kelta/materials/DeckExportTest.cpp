@@ -1,0 +1,394 @@
+#include "decks/DeckExport.h"
+
+#include "MaterialsTesting.h"
+#include "UnitChoice.h"
+
+#include "Gui/FileDialog.h"
+#include "Gui/TreeSelectionSingleton.h"
+#include "Obj/Application.h"
+#include "decks/DeckDialog.h"
+#include "kelta/Batch.h"
+#include "projectfile/ProjectStore.h"
+#include "vxInspector/units/ProjectUnits.h"
+#include "vxMaterial/model/MatDBManager.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QtTest/QtTestGui>
+
+namespace {
+
+using desktop::Batch;
+using testing::Contains;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Ne;
+using testing::Not;
+using vxtest::MessageBoxes;
+using vxtest::waitFor;
+
+class DeckExport : public vxtest::Materials
+{
+protected:
+    /// Opens the dialog like the menu entry, and waits for the deck.
+    desktop::DeckDialog& open()
+    {
+        EXPECT_TRUE(run("Mat_ExportDeck"));
+        waitUntilMade();
+        return *dialog();
+    }
+    desktop::DeckDialog* dialog() const
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return window->findChild<desktop::DeckDialog*>();
+    }
+    template <class Part>
+    Part& part(const char* name) const
+    {
+        return *dialog()->findChild<Part*>(QLatin1String(name));
+    }
+    QPushButton& button() const
+    {
+        for (QAbstractButton* const button : dialog()->findChild<QDialogButtonBox*>()->buttons())
+            if (button->text() == QLatin1String("E&xport..."))
+                return *qobject_cast<QPushButton*>(button);
+        throw std::logic_error("the dialog has no such button");
+    }
+    void waitUntilMade() const
+    {
+        ASSERT_NE(dialog(), nullptr);
+        ASSERT_TRUE(waitFor([this] { return button().isEnabled(); }));
+    }
+    void choose(const char* format) const
+    {
+        part<QComboBox>("deckFormats").setCurrentText(QString::fromLatin1(format));
+        waitUntilMade();
+    }
+    void chooseUnits(const char* system) const
+    {
+        part<QComboBox>("unitSystems").setCurrentText(QString::fromLatin1(system));
+        waitUntilMade();
+    }
+    /// Presses the button of the export, and gives the file dialog its answer.
+    void exportTo(const QString& target) const
+    {
+        Gui::FileDialog::answerNext(target);
+        button().click();
+    }
+    std::string preview() const { return part<QPlainTextEdit>("deckPreview").toPlainText().toStdString(); }
+    std::string summary() const { return part<QLabel>("deckSummary").text().toStdString(); }
+    /// Returns the lines of the report, with the cells separated by bars.
+    std::vector<std::string> report() const
+    {
+        const QAbstractItemModel& model = *part<QTableView>("deckReport").model();
+        std::vector<std::string> lines;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model.columnCount(); ++column)
+                cells << model.index(row, column).data().toString();
+            lines.push_back(cells.join(QLatin1Char('|')).toStdString());
+        }
+        return lines;
+    }
+    static std::string contentOf(const QString& path) { return projectfile::readFile(path); }
+    Mat::MaterialObject& addPlastic(const std::string& label)
+    {
+        Mat::MaterialObject& object = addMaterial(project, label);
+        for (const auto& [type, material] : project.getMatMgr().materials)
+            if (material->name == "Plastic Example 1")
+                object.setCMaterial(material.get());
+        object.label.setValue(label);
+        return object;
+    }
+
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    const QString file = path("a.inp");
+};
+
+TEST_F(DeckExport, ShowsTextAndReportBeforeAFileIsWritten)
+{
+    open();
+    EXPECT_THAT(preview(), HasSubstr("*MATERIAL, NAME=Steel\n"));
+    EXPECT_THAT(preview(), HasSubstr("*ELASTIC\n2e11, 0.3\n"));
+    EXPECT_THAT(report(), Contains(testing::AllOf(testing::StartsWith("Carried|"), HasSubstr("Young's modulus"))));
+    EXPECT_THAT(summary(), HasSubstr("Quantities carried: "));
+    EXPECT_THAT(summary(), HasSubstr("The deck is in the unit system SI."));
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(project.getSettings().count(desktop::deckFormatSetting), 0U) << "nothing was exported";
+}
+
+TEST_F(DeckExport, FollowsFormatAndUnits)
+{
+    open();
+    choose("Nastran");
+    EXPECT_THAT(preview(), HasSubstr("MAT1"));
+    choose("CalculiX");
+    chooseUnits("mm-t-s");
+    EXPECT_THAT(preview(), HasSubstr("*ELASTIC\n2e5, 0.3\n"));
+    EXPECT_THAT(report(),
+                Contains(testing::AllOf(testing::StartsWith("Converted|"), HasSubstr("in MPa instead of Pa"))));
+}
+
+TEST_F(DeckExport, BeginsWithTheUnitsOfTheProject)
+{
+    project.setSetting(vxInspector::unitSystemSetting, "mm-t-s");
+    open();
+    EXPECT_EQ(part<QComboBox>("unitSystems").currentText(), "As the project (mm-t-s)");
+    EXPECT_THAT(preview(), HasSubstr("*ELASTIC\n2e5, 0.3\n"));
+}
+
+TEST_F(DeckExport, WritesTheDeckThatItShowsAndSaysWhat)
+{
+    addMaterial(project, "Spare").setSuppressed(true);
+    open();
+    chooseUnits("mm-t-s");
+    const std::string shown = preview();
+    exportTo(file);
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(contentOf(file), shown);
+    EXPECT_THAT(messages().back(),
+                testing::StartsWith("Materials written to \"" + file.toStdString() +
+                                    "\" for CalculiX in mm-t-s: 2. Suppressed materials among them: 1. Quantities "));
+}
+
+TEST_F(DeckExport, KeepsFormatAndUnitsWithTheProjectOutsideTheHistory)
+{
+    const int steps = history().count();
+    open();
+    choose("LS-DYNA");
+    chooseUnits("mm-kg-ms");
+    exportTo(path("a.k"));
+    EXPECT_EQ(project.getSetting(desktop::deckFormatSetting), "lsdyna");
+    EXPECT_EQ(project.getSetting(desktop::deckUnitsSetting), "mm-kg-ms");
+    EXPECT_EQ(history().count(), steps);
+    open();
+    EXPECT_EQ(part<QComboBox>("deckFormats").currentText(), "LS-DYNA");
+    EXPECT_EQ(part<QComboBox>("unitSystems").currentText(), "mm-kg-ms");
+}
+
+TEST_F(DeckExport, BeginsWithTheFirstFormatIfTheKeptOneIsUnknown)
+{
+    project.setSetting(desktop::deckFormatSetting, "other");
+    project.setSetting(desktop::deckUnitsSetting, "furlongs");
+    EXPECT_TRUE(run("Mat_ExportDeck"));
+    EXPECT_EQ(part<QComboBox>("deckFormats").currentText(), "CalculiX");
+    EXPECT_EQ(part<QLineEdit>("baseUnits").text(), "furlongs");
+    EXPECT_FALSE(button().isEnabled());
+    EXPECT_EQ(summary(), "The base units cannot be read.");
+    chooseUnits("SI");
+    EXPECT_THAT(preview(), HasSubstr("*ELASTIC"));
+}
+
+TEST_F(DeckExport, TakesOnlyTheSelectedMaterialsIfTheUserWants)
+{
+    Mat::MaterialObject& skin = addMaterial(project, "Skin");
+    select({&skin});
+    open();
+    EXPECT_EQ(part<QRadioButton>("allMaterials").text(), "&All materials of the project (2)");
+    EXPECT_EQ(part<QRadioButton>("selectedMaterials").text(), "Only the &selected ones (1)");
+    EXPECT_TRUE(part<QRadioButton>("allMaterials").isChecked());
+    part<QRadioButton>("selectedMaterials").click();
+    waitUntilMade();
+    EXPECT_THAT(preview(), HasSubstr("NAME=Skin\n"));
+    EXPECT_THAT(preview(), Not(HasSubstr("NAME=Steel\n")));
+}
+
+TEST_F(DeckExport, OffersNoSelectionIfNoMaterialIsSelected)
+{
+    Gui::TreeSelectionSingleton::instance().setSelection({&project}, {});
+    open();
+    EXPECT_FALSE(part<QRadioButton>("selectedMaterials").isEnabled());
+}
+
+TEST_F(DeckExport, NamesWhatIsLostFirstAndReportsItAfterwards)
+{
+    addPlastic("Shaft");
+    steel.setSetting("measurements", "[1, 2]");
+    open();
+    choose("Elmer");
+    ASSERT_THAT(report(), Not(IsEmpty()));
+    EXPECT_THAT(report().front(), testing::StartsWith("Lost|"));
+    EXPECT_THAT(report(), Contains(testing::AllOf(testing::StartsWith("Lost|"), HasSubstr("Yield stress"),
+                                                  testing::EndsWith("|Shaft"))));
+    EXPECT_THAT(summary(), HasSubstr("A deck carries no data that a project keeps beside its materials. Not written: "
+                                     "measurements."));
+    exportTo(path("a.sif"));
+    EXPECT_THAT(messages(), Contains(testing::AllOf(testing::StartsWith("Shaft: Lost: "), HasSubstr("Yield stress"))));
+    EXPECT_THAT(messages(), Contains(HasSubstr("Not written: measurements.")));
+}
+
+TEST_F(DeckExport, JoinsMaterialsWithTheSameOutcomeInALine)
+{
+    for (int i = 0; i < 4; ++i)
+        addMaterial(project, "Part" + std::to_string(i));
+    addPlastic("Shaft");
+    open();
+    choose("Elmer");
+    EXPECT_THAT(report(), Contains(testing::EndsWith("|Steel, Part0, Part1 and 2 more")));
+    EXPECT_THAT(report(), Contains(testing::EndsWith("|all 6")));
+}
+
+TEST_F(DeckExport, StaysOpenIfTheUserChoosesNoFile)
+{
+    open();
+    exportTo(QString());
+    EXPECT_NE(dialog(), nullptr);
+    EXPECT_TRUE(button().isEnabled());
+}
+
+TEST_F(DeckExport, SaysThatAFileCannotBeWrittenAndStaysOpen)
+{
+    open();
+    const MessageBoxes boxes;
+    exportTo(path("no/such/folder.inp"));
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown().front().text.toStdString(), HasSubstr("folder.inp\" cannot be written: "));
+    EXPECT_EQ(boxes.shown().front().parent, dialog());
+    EXPECT_NE(dialog(), nullptr);
+}
+
+TEST_F(DeckExport, AsksBeforeItReplacesAProjectFile)
+{
+    const std::string text = R"({"format": "vxMaterial project"})";
+    projectfile::writeFile(file, text);
+    open();
+    const MessageBoxes boxes(QMessageBox::Cancel);
+    exportTo(file);
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().text, "\"" + file + "\" is a project file. Replace it by a deck?");
+    EXPECT_EQ(contentOf(file), text);
+    EXPECT_NE(dialog(), nullptr);
+}
+
+TEST_F(DeckExport, AppliesEditsBeforeItOpensIfTheUserWants)
+{
+    type(edit(steel), modulus, "7e10");
+    const MessageBoxes boxes(QMessageBox::Apply);
+    open();
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown().front().title, "Export for solver");
+    EXPECT_THAT(preview(), HasSubstr("*ELASTIC\n7e10, 0.3\n"));
+}
+
+TEST_F(DeckExport, DoesNotOpenIfTheUserCancelsTheQuestionAboutEdits)
+{
+    type(edit(steel), modulus, "7e10");
+    const MessageBoxes boxes(QMessageBox::Cancel);
+    EXPECT_TRUE(run("Mat_ExportDeck"));
+    EXPECT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(DeckExport, SaysThatAProjectHasNoMaterials)
+{
+    Obj::Application::instance().closeAllProjects();
+    newProject("Empty");
+    EXPECT_TRUE(run("Mat_ExportDeck"));
+    EXPECT_EQ(summary(), "The project has no materials.");
+    EXPECT_FALSE(button().isEnabled());
+}
+
+TEST_F(DeckExport, IsDroppedIfTheProjectIsClosedMeanwhile)
+{
+    open();
+    Obj::Application::instance().closeAllProjects();
+    button().click();
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(DeckExport, IsOfferedOnlyForAMaterialProject)
+{
+    Obj::Application::instance().closeAllProjects();
+    EXPECT_FALSE(run("Mat_ExportDeck"));
+}
+
+TEST_F(DeckExport, IsDoneByTheKeyboardAlone)
+{
+    window->updateCommands();
+    QTest::keyClick(window.get(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+    waitUntilMade();
+    ASSERT_TRUE(vxtest::waitUntilActive(dialog()));
+    QStringList order;
+    for (int i = 0; i < 9; ++i) {
+        order << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order.mid(0, 5),
+              QStringList({"deckFormats", "allMaterials", "unitSystems", "deckPreview", "deckReport"}));
+    part<QComboBox>("deckFormats").setFocus();
+    QTest::keyClicks(&part<QComboBox>("deckFormats"), QStringLiteral("Elmer"));
+    waitUntilMade();
+    Gui::FileDialog::answerNext(path("a.sif"));
+    QTest::keyClick(&part<QComboBox>("deckFormats"), Qt::Key_Return);
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_THAT(contentOf(path("a.sif")), HasSubstr("Material 1"));
+}
+
+TEST_F(DeckExport, ShowsTheBeginningOfALargeDeckAndTheReportOfAllMaterials)
+{
+    constexpr int count = 3000;
+    addMaterials(project, count - 1);
+    EXPECT_TRUE(run("Mat_ExportDeck"));
+    EXPECT_FALSE(button().isEnabled()) << "the deck is made while the window stays alive";
+    EXPECT_EQ(summary(), "The deck is being made...");
+    part<QComboBox>("deckFormats").setCurrentText(QStringLiteral("Nastran"));
+    part<QComboBox>("deckFormats").setCurrentText(QStringLiteral("Elmer"));
+    waitUntilMade();
+    EXPECT_EQ(part<QPlainTextEdit>("deckPreview").document()->blockCount(), 2000 + 1);
+    EXPECT_THAT(preview(), HasSubstr("Material 1")) << "the last format that was chosen";
+    EXPECT_THAT(report(), Contains(testing::EndsWith("|all 3000")));
+    exportTo(path("a.sif"));
+    EXPECT_THAT(contentOf(path("a.sif")), HasSubstr("Material 3000"));
+}
+
+TEST_F(DeckExport, CanBeClosedWhileTheDeckIsBeingMade)
+{
+    addMaterials(project, 2000);
+    EXPECT_TRUE(run("Mat_ExportDeck"));
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+// --- Lists of commands ---
+
+TEST_F(DeckExport, IsAVerbOfListsInTheUnitsOfTheProject)
+{
+    project.setSetting(vxInspector::unitSystemSetting, "mm-t-s");
+    EXPECT_EQ(Batch::runCommand("Mat_ExportDeck", {"calculix", file}), std::nullopt);
+    EXPECT_THAT(contentOf(file), HasSubstr("*ELASTIC\n2e5, 0.3\n"));
+    EXPECT_EQ(project.getSettings().count(desktop::deckFormatSetting), 0U) << "the user has chosen nothing";
+}
+
+TEST_F(DeckExport, TakesAUnitSystemInLists)
+{
+    EXPECT_EQ(Batch::runCommand("Mat_ExportDeck", {"CalculiX", file, "mm-t-s"}), std::nullopt);
+    EXPECT_THAT(contentOf(file), HasSubstr("*ELASTIC\n2e5, 0.3\n"));
+}
+
+TEST_F(DeckExport, FailsInListsWithAReason)
+{
+    const auto failure = [](const QStringList& arguments) {
+        const auto reason = Batch::runCommand("Mat_ExportDeck", arguments);
+        return reason ? reason->toStdString() : std::string();
+    };
+    EXPECT_THAT(failure({"calculix"}), testing::StartsWith("give a solver, the name of the file to write"));
+    EXPECT_EQ(failure({"word", file}), "there is no solver \"word\"; the solvers are: calculix, nastran, apdl, lsdyna, "
+                                       "elmer, matml");
+    EXPECT_THAT(failure({"calculix", file, "furlongs"}), HasSubstr("furlongs"));
+    EXPECT_THAT(failure({"calculix", path("no/such/a.inp")}), HasSubstr("cannot be written"));
+    projectfile::writeFile(file, R"({"format": "vxMaterial project"})");
+    EXPECT_THAT(failure({"calculix", file}), HasSubstr("is a project file."));
+    Obj::Application::instance().closeAllProjects();
+    EXPECT_EQ(failure({"calculix", file}), "there is no material project");
+}
+
+} // namespace

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Makes pictures of the main window and of both tabs of the material editor, light and dark.
+# Makes pictures of the main window, of both tabs of the material editor, light and dark, and of two tabs of the
+# inspector in all languages.
 #
-#   docs/screenshots.sh             replaces the pictures of the documentation, docs/images
+#   docs/screenshots.sh             replaces the pictures of the documentation, docs/images and docs/LANGUAGE/images
 #   docs/screenshots.sh all FOLDER  makes pictures of editor and inspector in all languages, at 100 % and 200 %, for a review by
 #                                   eye. Chinese needs a font with its characters, such as Debian's fonts-wqy-zenhei.
 set -euo pipefail
@@ -14,7 +15,7 @@ bin=$PWD/build/default/bin
 # shoot PROGRAM FOLDER LANGUAGE light|dark SCALE SUFFIX
 shoot() {
     QT_SCALE_FACTOR=$5 "$bin/$1" "$2" "$3" "$4" "$6" 2>&1 |
-        { grep -v 'propagateSizeHints\|XDG_RUNTIME_DIR' || true; }
+        { grep -v 'propagateSizeHints\|raise()\|XDG_RUNTIME_DIR' || true; }
 }
 
 if [ "${1:-}" = all ]; then
@@ -41,6 +42,15 @@ rm docs/images/disabled-*.png
 # An empty home folder keeps the user's settings and projects out of the pictures.
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
+for language in en de zh_CN; do
+    guide=docs/$language
+    [ "$language" = en ] && guide=docs
+    mkdir -p "$guide/images"
+    shoot inspector_screenshots "$home" "$language" light 1 "$language"
+    for tab in curves-tab fit-tab; do
+        mv "$home/$tab-$language.png" "$guide/images/$tab.png"
+    done
+done
 pictures=$PWD/docs/images
 cd "$home"
 HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8 \

@@ -52,6 +52,9 @@ if(updater)
 endif()
 
 # The program shows these files.
-foreach(file IN ITEMS doc/vxMaterial/kelta.md vxMaterial/examples/frame.vxmat)
-    require_file(${share}/${file})
+require_file(${share}/vxMaterial/examples/frame.vxmat)
+foreach(language IN ITEMS . de zh_CN)
+    foreach(file IN ITEMS kelta.md images/curves-tab.png images/fit-tab.png)
+        require_file(${share}/doc/vxMaterial/${language}/${file})
+    endforeach()
 endforeach()

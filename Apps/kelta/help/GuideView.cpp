@@ -3,9 +3,11 @@
 #include "Help.h"
 
 #include "Gui/CommandController.h"
+#include "Gui/Translator.h"
 #include "Gui/WindowTitle.h"
 
 #include <QAction>
+#include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -16,6 +18,19 @@
 namespace desktop {
 
 namespace {
+
+constexpr const char* guideName = "kelta.md";
+
+/// Returns the guide in the language of the program; in English if it is not translated into that language.
+QUrl guideUrl()
+{
+    const QDir folder(sharedFile(QStringLiteral("doc/vxMaterial")));
+    for (const QString& language : Gui::Translator::fileLanguagesOf(Gui::Translator::instance()->language()))
+        if (const QString file = folder.filePath(language + QLatin1Char('/') + QLatin1String(guideName));
+            QFileInfo::exists(file))
+            return QUrl::fromLocalFile(file);
+    return QUrl::fromLocalFile(folder.filePath(QLatin1String(guideName)));
+}
 
 QUrl keysUrl()
 {
@@ -93,7 +108,7 @@ GuideView::~GuideView() = default;
 
 void GuideView::showGuide()
 {
-    setSource(QUrl::fromLocalFile(sharedFile(QStringLiteral("doc/vxMaterial/kelta.md"))));
+    setSource(guideUrl());
 }
 
 void GuideView::showKeys()
@@ -114,14 +129,28 @@ QVariant GuideView::loadResource(int type, const QUrl& name)
         return keysAsHtml();
     if (name.isLocalFile() && !QFileInfo(name.toLocalFile()).isReadable())
         return tr("The file %1 of the guide cannot be read. Install the program again.").arg(name.toLocalFile());
+    if (type == QTextDocument::ImageResource && name.isLocalFile()) {
+        m_pictures.insert(name);
+        return fittingPicture(name);
+    }
+    if (type == QTextDocument::MarkdownResource)
+        m_pictures.clear();
     return QTextBrowser::loadResource(type, name);
+}
+
+/// Returns a picture that is not wider than the text.
+QImage GuideView::fittingPicture(const QUrl& name) const
+{
+    const QImage picture(name.toLocalFile());
+    const int width = viewport()->width() - 2 * static_cast<int>(document()->documentMargin());
+    return picture.width() > width ? picture.scaledToWidth(std::max(width, 1), Qt::SmoothTransformation) : picture;
 }
 
 QSize GuideView::sizeHint() const
 {
     constexpr int charactersPerLine = 60;
     const int wanted = fontMetrics().averageCharWidth() * charactersPerLine;
-    return {std::min(wanted, window()->width() * 3 / 10), QTextBrowser::sizeHint().height()};
+    return {std::min(wanted, window()->width() * 3 / 10), window()->height() * 2 / 3};
 }
 
 void GuideView::keyPressEvent(QKeyEvent* event)
@@ -140,6 +169,16 @@ void GuideView::showEvent(QShowEvent* event)
         showGuide();
 }
 
+void GuideView::resizeEvent(QResizeEvent* event)
+{
+    QTextBrowser::resizeEvent(event);
+    if (m_pictures.isEmpty() || event->size().width() == event->oldSize().width())
+        return;
+    for (const QUrl& name : qAsConst(m_pictures))
+        document()->addResource(QTextDocument::ImageResource, name, fittingPicture(name));
+    document()->markContentsDirty(0, document()->characterCount());
+}
+
 void GuideView::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
@@ -148,6 +187,8 @@ void GuideView::changeEvent(QEvent* event)
     setAccessibleName(tr("Guide"));
     if (source() == keysUrl())
         reload();
+    else if (source().fileName() == QLatin1String(guideName))
+        showGuide();
 }
 
 QString GuideView::keysAsHtml() const

@@ -21,17 +21,11 @@ namespace {
 
 constexpr const char* settingsKey = "language";
 
-/// Returns the endings of file names that can serve a language, the best first: "zh_CN", then "zh".
-QStringList endingsFor(const QString& language)
-{
-    return {language, language.section(QLatin1Char('_'), 0, 0)};
-}
-
 /// Returns the files of `names` that serve the language best. Names are compared literally, because patterns would be
 /// compiled at each start of the program.
 QStringList filesFor(const QString& language, const QStringList& names)
 {
-    for (const QString& ending : endingsFor(language)) {
+    for (const QString& ending : Translator::fileLanguagesOf(language)) {
         const QString end = QStringLiteral("_%1.qm").arg(ending);
         QStringList files;
         std::copy_if(names.begin(), names.end(), std::back_inserter(files),
@@ -46,7 +40,7 @@ QStringList filesFor(const QString& language, const QStringList& names)
 /// not installed. The folder of Qt's translations may hold thousands of files, so it is not listed.
 QStringList toolkitFilesFor(const QString& language, const QString& folder)
 {
-    for (const QString& ending : endingsFor(language))
+    for (const QString& ending : Translator::fileLanguagesOf(language))
         if (const QString name = QStringLiteral("qtbase_%1.qm").arg(ending);
             QFileInfo::exists(QDir(folder).filePath(name)))
             return {name};
@@ -106,6 +100,11 @@ QStringList Translator::languages() const
     languages.sort();
     languages.removeDuplicates();
     return languages;
+}
+
+QStringList Translator::fileLanguagesOf(const QString& language)
+{
+    return {language, language.section(QLatin1Char('_'), 0, 0)};
 }
 
 QString Translator::nameOf(const QString& language)

@@ -29,6 +29,8 @@ public:
 
     /// Returns the languages of the program: English, and the languages of the translations in the folders, sorted.
     QStringList languages() const;
+    /// Returns the names under which files can serve a language, the best first: "zh_CN", then "zh".
+    static QStringList fileLanguagesOf(const QString& language);
     /// Returns the name of a language in the language itself: "Deutsch".
     static QString nameOf(const QString& language);
 

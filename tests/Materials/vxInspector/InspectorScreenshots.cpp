@@ -1,4 +1,5 @@
-// Makes pictures of the main window with each tab of the inspector, in one language and one colour scheme.
+// Makes pictures of the main window with each tab of the inspector, and those of two tabs for the guide, in one language
+// and one colour scheme.
 // Usage: inspector_screenshots FOLDER LANGUAGE light|dark SUFFIX
 
 #include "Screenshots.h"
@@ -17,9 +18,15 @@
 #include "vxMaterial/project/Module.h"
 #include "vxMaterial/project/Requests.h"
 
+#include <QDockWidget>
+#include <QHash>
+#include <QImage>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QTabWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -51,6 +58,33 @@ void fitRubber(const Shooting& shooting, vxInspector::FitPage& page)
     page.findChild<QPushButton*>(QStringLiteral("fitStart"))->click();
     while (page.isFitting())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+/// Returns a picture in the 256 colours that it has most, which makes its file small.
+QImage withFewColours(const QImage& picture)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            ++counts[picture.pixel(x, y)];
+    QVector<QRgb> colours = counts.keys().toVector();
+    std::sort(colours.begin(), colours.end(), [&](QRgb one, QRgb other) {
+        return std::make_pair(counts[other], one) < std::make_pair(counts[one], other);
+    });
+    constexpr int most = 256;
+    colours.resize(std::min(colours.size(), most));
+    return picture.convertToFormat(QImage::Format_Indexed8, colours, Qt::ThresholdDither);
+}
+
+/// Takes a small picture of the inspector alone, for the guide.
+void takeInspector(const Shooting& shooting, const char* name, const QSize& size)
+{
+    auto& dock = *shooting.window.findChild<QDockWidget*>(QStringLiteral("Inspector"));
+    dock.setFloating(true);
+    dock.resize(size);
+    Shooting{shooting.folder, shooting.suffix, *dock.widget()}.take(name);
+    const QString file = QStringLiteral("%1/%2-%3.png").arg(shooting.folder, QLatin1String(name), shooting.suffix);
+    withFewColours(QImage(file)).save(file);
 }
 
 void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
@@ -87,6 +121,9 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     shooting.take("inspector-fit-empty");
     fitRubber(shooting, *tabs.findChild<vxInspector::FitPage*>());
     shooting.take("inspector-fit");
+    takeInspector(shooting, "fit-tab", {560, 1240});
+    tabs.setCurrentIndex(4);
+    takeInspector(shooting, "curves-tab", {480, 640});
 }
 
 } // namespace

@@ -5,16 +5,23 @@
 #include "RecentFiles.h"
 
 #include "Gui/ProjectExplorer.h"
+#include "Gui/Translator.h"
 
+#include <QDockWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTextBlock>
 #include <QtTest/QtTestGui>
 
+#include <algorithm>
+#include <functional>
 #include <set>
 
 namespace {
 
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class Help : public vxtest::Files
 {
@@ -78,6 +85,120 @@ TEST_F(Help, OpensTheGuideByF1)
         guide().backward();
     }
     EXPECT_THAT(shown(), HasSubstr("kelta, the desktop application"));
+}
+
+struct Title
+{
+    const char* language;
+    const char* text;
+};
+
+constexpr const char* englishTitle = "kelta, the desktop application";
+constexpr Title titles[] = {{"en", englishTitle},
+                            {"de", "kelta, das Desktop-Programm"},
+                            {"zh_CN", "kelta 桌面应用程序"},
+                            // Another country, another script, and a language of which the program has no texts
+                            {"de_AT", "kelta, das Desktop-Programm"},
+                            {"zh_TW", englishTitle},
+                            {"fr", englishTitle}};
+
+TEST_F(Help, OpensTheGuideInTheLanguageOfTheProgram)
+{
+    for (const auto& [language, title] : titles) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QTest::keyClick(window.get(), Qt::Key_F1);
+        EXPECT_TRUE(guide().isVisible()) << language;
+        EXPECT_THAT(shown(), StartsWith(title)) << language;
+        QTest::keyClick(&guide(), Qt::Key_F1);
+        EXPECT_FALSE(guide().isVisible()) << language;
+    }
+}
+
+/// Chooses a language in the menu "View > Language".
+void chooseLanguage(const char* name)
+{
+    QMenu* const menu =
+        Gui::GuiApplication::Instance->get_command_manager().findCommand("Std_Language")->action()->menu();
+    Q_EMIT menu->aboutToShow();
+    for (QAction* const action : menu->actions())
+        if (action->text() == QString::fromUtf8(name))
+            return action->trigger();
+    FAIL() << name;
+}
+
+TEST_F(Help, ShowsTheGuideInAnotherLanguageOnceTheMenuChangesTheLanguage)
+{
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    chooseLanguage("Deutsch");
+    QCoreApplication::processEvents();
+    EXPECT_THAT(shown(), StartsWith("kelta, das Desktop-Programm"));
+    EXPECT_TRUE(guide().isVisible());
+    // Also if the guide is hidden, and is shown by the menu of docks.
+    QTest::keyClick(&guide(), Qt::Key_Escape);
+    chooseLanguage("简体中文");
+    QCoreApplication::processEvents();
+    window->toggleDock("Guide");
+    EXPECT_THAT(shown(), StartsWith("kelta 桌面应用程序"));
+    // A page that has no translation stays.
+    guide().setSource(guide().source().resolved(QUrl("../project-files.md")));
+    const std::string page = shown();
+    EXPECT_GT(page.size(), 1000U);
+    chooseLanguage("English");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown(), page);
+    ASSERT_TRUE(run("Std_Help"));
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    EXPECT_THAT(shown(), StartsWith(englishTitle));
+}
+
+/// Calls `visit` with each format of the text of a document.
+void visitFormats(const QTextDocument& document, const std::function<void(const QTextCharFormat&)>& visit)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            visit(part.fragment().charFormat());
+}
+
+TEST_F(Help, HasTheSamePagesAndPicturesInEveryLanguage)
+{
+    QStringList namesInEnglish;
+    for (const auto& [language, title] : titles) {
+        Gui::Translator::instance()->setLanguage(QLatin1String(language));
+        QTest::keyClick(window.get(), Qt::Key_F1);
+        QStringList names;
+        visitFormats(*guide().document(), [&](const QTextCharFormat& format) {
+            const QString name = format.isImageFormat() ? format.toImageFormat().name() : format.anchorHref();
+            if (name.isEmpty())
+                return;
+            const QString file = guide().source().resolved(QUrl(name)).toLocalFile();
+            EXPECT_TRUE(QFileInfo(file).isFile()) << file.toStdString();
+            names << QFileInfo(file).fileName();
+        });
+        if (namesInEnglish.isEmpty())
+            namesInEnglish = names;
+        EXPECT_EQ(names, namesInEnglish) << language;
+        QTest::keyClick(&guide(), Qt::Key_F1);
+    }
+    for (const char* const name : {"project-files.md", "module-guide.md", "curves-tab.png", "fit-tab.png"})
+        EXPECT_TRUE(namesInEnglish.contains(QLatin1String(name))) << name;
+}
+
+TEST_F(Help, MakesPicturesAsWideAsTheTextAtMost)
+{
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    const QUrl picture = guide().source().resolved(QUrl("images/fit-tab.png"));
+    const int whole = QImage(picture.toLocalFile()).width();
+    ASSERT_GT(whole, 400);
+    auto* const dock = qobject_cast<QDockWidget*>(guide().parentWidget());
+    dock->setFloating(true);
+    for (const int width : {300, 400, whole + 100, 350}) {
+        dock->resize(width, 500);
+        QCoreApplication::processEvents();
+        const auto shownPicture = guide().document()->resource(QTextDocument::ImageResource, picture).value<QImage>();
+        const int text = guide().viewport()->width() - 2 * static_cast<int>(guide().document()->documentMargin());
+        ASSERT_GT(text, 0);
+        EXPECT_EQ(shownPicture.width(), std::min(text, whole)) << width;
+    }
 }
 
 TEST_F(Help, ShowsTheKeysInTheProgram)

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Checks format, includes, spelling and translations, compiles the measurements, and runs clang-tidy. lint.sh --fast
-# omits the last two, for a hook before each push. lint.sh --all runs clang-tidy also on tests and measurements, which
-# takes twice as long as everything else.
+# Checks format, includes, spelling, translations and translated guides, compiles the measurements, and runs clang-tidy.
+# lint.sh --fast omits the last two, for a hook before each push. lint.sh --all runs clang-tidy also on tests and
+# measurements, which takes twice as long as everything else.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -19,12 +19,15 @@ if sources | xargs grep -nE '^#include "\.\./'; then
 fi
 
 echo "spelling"
-# The list has the names and texts of the product that are misspelled on purpose.
-git ls-files --cached --others --exclude-standard | grep -vE '^fuzz/corpus/|\.(ts|svg|json|expected)$' |
+# The list has the names and texts of the product that are misspelled on purpose. The translated guides are not English.
+git ls-files --cached --others --exclude-standard | grep -vE '^fuzz/corpus/|^docs/(de|zh_CN)/|\.(ts|svg|json|expected)$' |
     xargs codespell --ignore-words packaging/codespell-ignore.txt || failed=1
 
 echo "translations"
 scripts/translations.sh --check || failed=1
+
+echo "guides"
+scripts/check-guides.py || failed=1
 
 [ "${1:-}" = --fast ] && exit $failed
 

@@ -959,6 +959,14 @@ Möchten Sie fortfahren?</translation>
         <source>Choose the unit system in which the project is shown</source>
         <translation>Wählt das Einheitensystem, in dem das Projekt gezeigt wird</translation>
     </message>
+    <message>
+        <source>&amp;Export for solver...</source>
+        <translation>Für Solver &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>Write the materials in the input format of a solver</source>
+        <translation>Die Materialien im Eingabeformat eines Solvers schreiben</translation>
+    </message>
 </context>
 <context>
     <name>MaterialFilter</name>
@@ -1827,6 +1835,14 @@ Trotzdem löschen?</translation>
         <source>&quot;%1&quot; is not a value of &quot;%2&quot;: give red, green, blue and opacity as four numbers from 0 to 1, &quot;0.5, 0, 0, 1&quot;</source>
         <translation>„%1“ ist kein Wert von „%2“: Geben Sie Rot, Grün, Blau und Deckkraft als vier Zahlen von 0 bis 1 an, „0.5, 0, 0, 1“</translation>
     </message>
+    <message>
+        <source>give a solver, the name of the file to write, and the unit system of the deck if it is not that of the project</source>
+        <translation>geben Sie einen Solver, den Namen der zu schreibenden Datei und das Einheitensystem des Decks an, wenn es nicht das des Projekts ist</translation>
+    </message>
+    <message>
+        <source>there is no solver &quot;%1&quot;; the solvers are: %2</source>
+        <translation>es gibt keinen Solver „%1“; die Solver sind: %2</translation>
+    </message>
 </context>
 <context>
     <name>desktop::CellReading</name>
@@ -1853,6 +1869,138 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1 (pure number)</source>
         <translation>%1 (reine Zahl)</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckDialog</name>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>E&amp;xportieren...</translation>
+    </message>
+    <message>
+        <source>Export for solver</source>
+        <translation>Für Solver exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;All materials of the project (%1)</source>
+        <translation>&amp;Alle Materialien des Projekts (%1)</translation>
+    </message>
+    <message>
+        <source>Only the &amp;selected ones (%1)</source>
+        <translation>Nur die aus&amp;gewählten (%1)</translation>
+    </message>
+    <message>
+        <source>Beginning of the deck</source>
+        <translation>Anfang des Decks</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>&amp;Units of the deck:</source>
+        <translation>&amp;Einheiten des Decks:</translation>
+    </message>
+    <message>
+        <source>&amp;Report:</source>
+        <translation>&amp;Bericht:</translation>
+    </message>
+    <message>
+        <source>The deck cannot be shown</source>
+        <translation>Das Deck kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>The deck is being made...</source>
+        <translation>Das Deck wird erstellt...</translation>
+    </message>
+    <message>
+        <source>The project has no materials.</source>
+        <translation>Das Projekt hat keine Materialien.</translation>
+    </message>
+    <message>
+        <source>The base units cannot be read.</source>
+        <translation>Die Basiseinheiten können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Preview:</source>
+        <translation>&amp;Vorschau:</translation>
+    </message>
+    <message>
+        <source>&amp;Preview (the first %1 of %2 lines):</source>
+        <translation>&amp;Vorschau (die ersten %1 von %2 Zeilen):</translation>
+    </message>
+    <message>
+        <source>The deck cannot be made: %1</source>
+        <translation>Das Deck kann nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>The materials cannot be exported</source>
+        <translation>Die Materialien können nicht exportiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckExport</name>
+    <message>
+        <source>Export for solver</source>
+        <translation>Für Solver exportieren</translation>
+    </message>
+    <message>
+        <source>The deck contains only applied changes.</source>
+        <translation>Das Deck enthält nur angewendete Änderungen.</translation>
+    </message>
+    <message>
+        <source>&amp;Export without them</source>
+        <translation>Ohne sie &amp;exportieren</translation>
+    </message>
+    <message>
+        <source>Materials written to &quot;%1&quot; for %2 in %3: %4.</source>
+        <translation>Materialien für %2 in %3 nach „%1“ geschrieben: %4.</translation>
+    </message>
+    <message>
+        <source>Suppressed materials among them: %1.</source>
+        <translation>Davon unterdrückt: %1.</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Replace it by a deck?</source>
+        <translation>Durch ein Deck ersetzen?</translation>
+    </message>
+    <message>
+        <source>The materials were not exported.</source>
+        <translation>Die Materialien wurden nicht exportiert.</translation>
+    </message>
+    <message>
+        <source>A deck carries no data that a project keeps beside its materials. Not written: %1.</source>
+        <translation>Ein Deck enthält keine Daten, die ein Projekt neben seinen Materialien aufbewahrt. Nicht geschrieben: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckReportModel</name>
+    <message>
+        <source>Outcome</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Quantities</source>
+        <translation>Größen</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckReportView</name>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
     </message>
 </context>
 <context>
@@ -2476,6 +2624,10 @@ Trotzdem löschen?</translation>
         <source>Stress in %1, density in %2, thermal conductivity in %3</source>
         <translation>Spannung in %1, Dichte in %2, Wärmeleitfähigkeit in %3</translation>
     </message>
+    <message>
+        <source>As the project (%1)</source>
+        <translation>Wie das Projekt (%1)</translation>
+    </message>
 </context>
 <context>
     <name>desktop::UnitsDisplay</name>
@@ -3037,14 +3189,6 @@ Trotzdem löschen?</translation>
         <translation>%2 hat keine Antwort in der Versuchsart %1.</translation>
     </message>
     <message>
-        <source>The model has no value at %3 points. At the first of them, the %1 is %2.</source>
-        <translation>Das Modell hat an %3 Punkten keinen Wert. Am ersten davon ist %1 %2.</translation>
-    </message>
-    <message>
-        <source>No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too large, the chains are at their limit, or there is no equilibrium.</source>
-        <translation>An %3 Punkten gibt es keinen endlichen Wert. Am ersten davon ist %1 %2. Die Konstanten oder der Bereich sind zu groß, die Ketten sind an ihrer Grenze, oder es gibt kein Gleichgewicht.</translation>
-    </message>
-    <message>
         <source>%1: the material is unstable from %2 on by Drucker&apos;s criterion. A solver may fail there.</source>
         <translation>%1: Das Material ist nach dem Kriterium von Drucker ab %2 instabil. Ein Solver kann dort versagen.</translation>
     </message>
@@ -3255,6 +3399,22 @@ Trotzdem löschen?</translation>
     <message>
         <source>The relaxation time %1 s is outside the measured times, %2 s to %3 s.</source>
         <translation>Die Relaxationszeit %1 s liegt außerhalb der gemessenen Zeiten, %2 s bis %3 s.</translation>
+    </message>
+    <message>
+        <source>%4: the model has no value at %3 of the points. At the first of them, the %1 is %2.</source>
+        <translation>%4: Das Modell hat an %3 der Punkte keinen Wert. Am ersten davon ist %1 %2.</translation>
+    </message>
+    <message>
+        <source>%4: no finite value exists at %3 of the points. At the first of them, the %1 is %2. The constants or the range are too large, or the chains are at their limit.</source>
+        <translation>%4: An %3 der Punkte gibt es keinen endlichen Wert. Am ersten davon ist %1 %2. Die Konstanten oder der Bereich sind zu groß, oder die Ketten sind an ihrer Grenze.</translation>
+    </message>
+    <message>
+        <source>%4: there is no equilibrium at %3 of the points. At the first of them, the %1 is %2. There the material resists a change of volume too little to keep the lateral surface free of stress. Check D1.</source>
+        <translation>%4: An %3 der Punkte gibt es kein Gleichgewicht. Am ersten davon ist %1 %2. Dort widersetzt sich das Material einer Volumenänderung zu wenig, um die Seitenflächen spannungsfrei zu halten. Prüfen Sie D1.</translation>
+    </message>
+    <message>
+        <source>%1: the library of the solver cannot be loaded: %2. Install the program again.</source>
+        <translation>%1: Die Bibliothek des Lösers kann nicht geladen werden: %2. Installieren Sie das Programm neu.</translation>
     </message>
 </context>
 <context>
@@ -3657,6 +3817,41 @@ Trotzdem löschen?</translation>
         <source>Row %1 cannot be read: %2</source>
         <translation>Zeile %1 kann nicht gelesen werden: %2</translation>
     </message>
+    <message>
+        <source>Deck</source>
+        <translation>Deck</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CardsPage</name>
+    <message>
+        <source>The cards cannot be copied</source>
+        <translation>Die Karten können nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>C&amp;ards for:</source>
+        <translation>Ka&amp;rten für:</translation>
+    </message>
+    <message>
+        <source>The solver of this program</source>
+        <translation>Solver dieses Programms</translation>
+    </message>
+    <message>
+        <source>Cards for</source>
+        <translation>Karten für</translation>
+    </message>
+    <message>
+        <source>The solver whose input is shown</source>
+        <translation>Der Solver, dessen Eingabe gezeigt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the text of the cards</source>
+        <translation>Den Text der Karten kopieren</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::CompareTable</name>
@@ -3820,6 +4015,45 @@ Trotzdem löschen?</translation>
     <message>
         <source>This number cannot be read.</source>
         <translation>Diese Zahl kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::DeckLines</name>
+    <message>
+        <source>all %1</source>
+        <translation>alle %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Quantities carried: %1, converted: %2, approximated: %3, lost: %4.</source>
+        <translation>Größen übernommen: %1, umgerechnet: %2, angenähert: %3, verloren: %4.</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Abgelehnt</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Verloren</translation>
+    </message>
+    <message>
+        <source>Approximated</source>
+        <translation>Angenähert</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>Umgerechnet</translation>
+    </message>
+    <message>
+        <source>Carried</source>
+        <translation>Übernommen</translation>
     </message>
 </context>
 <context>
@@ -4196,16 +4430,27 @@ Trotzdem löschen?</translation>
         <translation>Wie das Projekt (%1)</translation>
     </message>
     <message>
-        <source>The unit system of values, comparison and curves. It changes no value.</source>
-        <translation>Das Einheitensystem von Werten, Vergleich und Kurven. Es ändert keinen Wert.</translation>
-    </message>
-    <message>
         <source>Curves</source>
         <translation>Kurven</translation>
     </message>
     <message>
         <source>Fit</source>
         <translation>Anpassung</translation>
+    </message>
+    <message>
+        <source>The unit system of values, findings, decks, comparison and curves. It changes no value.</source>
+        <translation>Das Einheitensystem von Werten, Befunden, Decks, Vergleich und Kurven. Es ändert keinen Wert.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::InspectorContent</name>
+    <message>
+        <source>The inspector cannot be updated</source>
+        <translation>Der Inspektor kann nicht aktualisiert werden</translation>
     </message>
 </context>
 <context>
@@ -4215,8 +4460,8 @@ Trotzdem löschen?</translation>
         <translation>Wählen Sie ein Material im Projektbaum aus, oder öffnen Sie seinen Editor.</translation>
     </message>
     <message>
-        <source>The inspector cannot be updated</source>
-        <translation>Der Inspektor kann nicht aktualisiert werden</translation>
+        <source>The inspector cannot be loaded</source>
+        <translation>Der Inspektor kann nicht geladen werden</translation>
     </message>
 </context>
 <context>
@@ -4474,6 +4719,13 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxInspector::TabsLibrary</name>
+    <message>
+        <source>the file %1 is missing</source>
+        <translation>die Datei %1 fehlt</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::ValueTable</name>
     <message>
         <source>cannot be read: %1</source>
@@ -4508,10 +4760,6 @@ Trotzdem löschen?</translation>
         <translation>Einheit</translation>
     </message>
     <message>
-        <source>Known range</source>
-        <translation>Bekannter Bereich</translation>
-    </message>
-    <message>
         <source>It has no quantities yet.</source>
         <translation>Es hat noch keine Größen.</translation>
     </message>
@@ -4526,6 +4774,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>A switch is on if the material has it, whatever its number. Remove the quantity to switch it off.</source>
         <translation>Ein Schalter ist ein, wenn das Material ihn hat, unabhängig von seiner Zahl. Entfernen Sie die Größe, um ihn auszuschalten.</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
     </message>
 </context>
 <context>
@@ -5400,14 +5652,6 @@ Trotzdem löschen?</translation>
         <translation>%1 = %2 mit %3: Wärme und Leitfähigkeit sind die von Wasser, das %5 bis %6 hat.</translation>
     </message>
     <message>
-        <source>%1 = %2 with %3 is a share of the modulus of %4; known solids have %5 to %6.</source>
-        <translation>%1 = %2 mit %3 ist ein Anteil von %4 am Modul; bekannte Festkörper haben %5 bis %6.</translation>
-    </message>
-    <message>
-        <source>%1 = %2 with %3 is a share of the modulus of %4; known metals have %5 to %6, or 0.</source>
-        <translation>%1 = %2 mit %3 ist ein Anteil von %4 am Modul; bekannte Metalle haben %5 bis %6 oder 0.</translation>
-    </message>
-    <message>
         <source>%1 = %2 with %3: the initial modulus of the hyperelastic model is %4 times Young&apos;s modulus; %5 to %6 times is sensible.</source>
         <translation>%1 = %2 mit %3: Der Anfangsmodul des hyperelastischen Modells ist das %4-Fache des Elastizitätsmoduls; sinnvoll ist das %5- bis %6-Fache.</translation>
     </message>
@@ -5578,6 +5822,30 @@ Trotzdem löschen?</translation>
     <message>
         <source>Searched in labels; did you mean &quot;%1&quot;?</source>
         <translation>In den Bezeichnungen gesucht; meinten Sie „%1“?</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a ratio of yield stress to modulus of %4; known solids have %5 to %6.</source>
+        <translation>%1 = %2 mit %3 ergibt ein Verhältnis von Fließspannung zu Modul von %4; bekannte Festkörper haben %5 bis %6.</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a ratio of hardening to modulus of %4; known metals have %5 to %6, or 0.</source>
+        <translation>%1 = %2 mit %3 ergibt ein Verhältnis von Verfestigung zu Modul von %4; bekannte Metalle haben %5 bis %6 oder 0.</translation>
+    </message>
+    <message>
+        <source>The numbers of the stresses look like %1, but are in Pa: convert them</source>
+        <translation>Die Zahlen der Spannungen sehen nach %1 aus, stehen aber in Pa: umrechnen</translation>
+    </message>
+    <message>
+        <source>The numbers of the stresses look like %1, that of the density like %2, but they are in SI: convert them</source>
+        <translation>Die Zahlen der Spannungen sehen nach %1 aus, die der Dichte nach %2, sie stehen aber in SI: umrechnen</translation>
+    </message>
+    <message>
+        <source>The numbers of the stresses look like %1, that of the density like %2, that of the specific heat like %3, but they are in SI: convert them</source>
+        <translation>Die Zahlen der Spannungen sehen nach %1 aus, die der Dichte nach %2, die der spezifischen Wärmekapazität nach %3, sie stehen aber in SI: umrechnen</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1, but are in SI: convert the material</source>
+        <translation>Die Zahlen sehen nach %1 aus, stehen aber in SI: den Werkstoff umrechnen</translation>
     </message>
 </context>
 <context>

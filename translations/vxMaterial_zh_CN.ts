@@ -959,6 +959,14 @@ Do you want to continue?</source>
         <source>Choose the unit system in which the project is shown</source>
         <translation>选择显示项目所用的单位制</translation>
     </message>
+    <message>
+        <source>&amp;Export for solver...</source>
+        <translation>为求解器导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Write the materials in the input format of a solver</source>
+        <translation>按求解器的输入格式写出材料</translation>
+    </message>
 </context>
 <context>
     <name>MaterialFilter</name>
@@ -1827,6 +1835,14 @@ Delete anyway?</source>
         <source>&quot;%1&quot; is not a value of &quot;%2&quot;: give red, green, blue and opacity as four numbers from 0 to 1, &quot;0.5, 0, 0, 1&quot;</source>
         <translation>“%1”不是“%2”的值：请用 0 到 1 的四个数给出红、绿、蓝和不透明度，例如“0.5, 0, 0, 1”</translation>
     </message>
+    <message>
+        <source>give a solver, the name of the file to write, and the unit system of the deck if it is not that of the project</source>
+        <translation>请给出求解器、要写入的文件名，以及输入文件的单位制（如果不是项目的单位制）</translation>
+    </message>
+    <message>
+        <source>there is no solver &quot;%1&quot;; the solvers are: %2</source>
+        <translation>没有求解器“%1”；可用的求解器：%2</translation>
+    </message>
 </context>
 <context>
     <name>desktop::CellReading</name>
@@ -1853,6 +1869,138 @@ Delete anyway?</source>
     <message>
         <source>%1 (pure number)</source>
         <translation>%1（无量纲）</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckDialog</name>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>导出(&amp;X)...</translation>
+    </message>
+    <message>
+        <source>Export for solver</source>
+        <translation>为求解器导出</translation>
+    </message>
+    <message>
+        <source>&amp;All materials of the project (%1)</source>
+        <translation>项目的全部材料(&amp;A)（%1）</translation>
+    </message>
+    <message>
+        <source>Only the &amp;selected ones (%1)</source>
+        <translation>仅所选材料(&amp;S)（%1）</translation>
+    </message>
+    <message>
+        <source>Beginning of the deck</source>
+        <translation>输入文件的开头</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>格式(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;Units of the deck:</source>
+        <translation>输入文件的单位(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Report:</source>
+        <translation>报告(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>The deck cannot be shown</source>
+        <translation>无法显示输入文件</translation>
+    </message>
+    <message>
+        <source>The deck is being made...</source>
+        <translation>正在生成输入文件...</translation>
+    </message>
+    <message>
+        <source>The project has no materials.</source>
+        <translation>项目中没有材料。</translation>
+    </message>
+    <message>
+        <source>The base units cannot be read.</source>
+        <translation>无法读取基本单位。</translation>
+    </message>
+    <message>
+        <source>&amp;Preview:</source>
+        <translation>预览(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Preview (the first %1 of %2 lines):</source>
+        <translation>预览(&amp;P)（共 %2 行，前 %1 行）：</translation>
+    </message>
+    <message>
+        <source>The deck cannot be made: %1</source>
+        <translation>无法生成输入文件：%1</translation>
+    </message>
+    <message>
+        <source>The materials cannot be exported</source>
+        <translation>无法导出材料</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckExport</name>
+    <message>
+        <source>Export for solver</source>
+        <translation>为求解器导出</translation>
+    </message>
+    <message>
+        <source>The deck contains only applied changes.</source>
+        <translation>输入文件只包含已应用的更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Export without them</source>
+        <translation>不含这些内容导出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Materials written to &quot;%1&quot; for %2 in %3: %4.</source>
+        <translation>已按 %3 为 %2 写入“%1”的材料：%4。</translation>
+    </message>
+    <message>
+        <source>Suppressed materials among them: %1.</source>
+        <translation>其中被抑制的材料：%1。</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Replace it by a deck?</source>
+        <translation>用求解器输入文件替换它吗？</translation>
+    </message>
+    <message>
+        <source>The materials were not exported.</source>
+        <translation>材料未导出。</translation>
+    </message>
+    <message>
+        <source>A deck carries no data that a project keeps beside its materials. Not written: %1.</source>
+        <translation>输入文件不包含项目在材料之外保存的数据。未写出：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckReportModel</name>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Quantities</source>
+        <translation>物理量</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>材料</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckReportView</name>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
     </message>
 </context>
 <context>
@@ -2475,6 +2623,10 @@ Delete anyway?</source>
         <source>Stress in %1, density in %2, thermal conductivity in %3</source>
         <translation>应力 %1，密度 %2，导热系数 %3</translation>
     </message>
+    <message>
+        <source>As the project (%1)</source>
+        <translation>与项目相同（%1）</translation>
+    </message>
 </context>
 <context>
     <name>desktop::UnitsDisplay</name>
@@ -3036,14 +3188,6 @@ Delete anyway?</source>
         <translation>%2在模式%1下没有响应。</translation>
     </message>
     <message>
-        <source>The model has no value at %3 points. At the first of them, the %1 is %2.</source>
-        <translation>模型在%3个点上没有值。其中第一个点的%1为%2。</translation>
-    </message>
-    <message>
-        <source>No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too large, the chains are at their limit, or there is no equilibrium.</source>
-        <translation>%3个点上不存在有限值。其中第一个点的%1为%2。常数或范围过大、分子链已达极限，或不存在平衡。</translation>
-    </message>
-    <message>
         <source>%1: the material is unstable from %2 on by Drucker&apos;s criterion. A solver may fail there.</source>
         <translation>%1：按Drucker准则，材料从%2起不稳定。求解器在那里可能失败。</translation>
     </message>
@@ -3254,6 +3398,22 @@ Delete anyway?</source>
     <message>
         <source>The relaxation time %1 s is outside the measured times, %2 s to %3 s.</source>
         <translation>松弛时间%1 s超出测量时间范围（%2 s至%3 s）。</translation>
+    </message>
+    <message>
+        <source>%4: the model has no value at %3 of the points. At the first of them, the %1 is %2.</source>
+        <translation>%4：模型在%3个点上没有值。其中第一个点的%1为%2。</translation>
+    </message>
+    <message>
+        <source>%4: no finite value exists at %3 of the points. At the first of them, the %1 is %2. The constants or the range are too large, or the chains are at their limit.</source>
+        <translation>%4：%3个点上不存在有限值。其中第一个点的%1为%2。常数或范围过大，或分子链已达极限。</translation>
+    </message>
+    <message>
+        <source>%4: there is no equilibrium at %3 of the points. At the first of them, the %1 is %2. There the material resists a change of volume too little to keep the lateral surface free of stress. Check D1.</source>
+        <translation>%4：%3个点上不存在平衡。其中第一个点的%1为%2。在那里，材料对体积变化的抵抗太小，无法使侧面保持无应力。请检查 D1。</translation>
+    </message>
+    <message>
+        <source>%1: the library of the solver cannot be loaded: %2. Install the program again.</source>
+        <translation>%1：无法加载求解器的库：%2。请重新安装程序。</translation>
     </message>
 </context>
 <context>
@@ -3656,6 +3816,41 @@ Delete anyway?</source>
         <source>Row %1 cannot be read: %2</source>
         <translation>无法读取第 %1 行：%2</translation>
     </message>
+    <message>
+        <source>Deck</source>
+        <translation>输入文件</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::CardsPage</name>
+    <message>
+        <source>The cards cannot be copied</source>
+        <translation>无法复制卡片</translation>
+    </message>
+    <message>
+        <source>C&amp;ards for:</source>
+        <translation>卡片适用于(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>The solver of this program</source>
+        <translation>本程序的求解器</translation>
+    </message>
+    <message>
+        <source>Cards for</source>
+        <translation>卡片适用于</translation>
+    </message>
+    <message>
+        <source>The solver whose input is shown</source>
+        <translation>显示其输入的求解器</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the text of the cards</source>
+        <translation>复制卡片的文本</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::CompareTable</name>
@@ -3819,6 +4014,45 @@ Delete anyway?</source>
     <message>
         <source>This number cannot be read.</source>
         <translation>无法读取此数字。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::DeckLines</name>
+    <message>
+        <source>all %1</source>
+        <translation>全部 %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 及另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Quantities carried: %1, converted: %2, approximated: %3, lost: %4.</source>
+        <translation>物理量：已写入 %1，已换算 %2，近似 %3，丢失 %4。</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>丢失</translation>
+    </message>
+    <message>
+        <source>Approximated</source>
+        <translation>近似</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>已换算</translation>
+    </message>
+    <message>
+        <source>Carried</source>
+        <translation>已写入</translation>
     </message>
 </context>
 <context>
@@ -4195,16 +4429,27 @@ Delete anyway?</source>
         <translation>与项目相同 (%1)</translation>
     </message>
     <message>
-        <source>The unit system of values, comparison and curves. It changes no value.</source>
-        <translation>数值、比较和曲线的单位制。它不改变任何数值。</translation>
-    </message>
-    <message>
         <source>Curves</source>
         <translation>曲线</translation>
     </message>
     <message>
         <source>Fit</source>
         <translation>拟合</translation>
+    </message>
+    <message>
+        <source>The unit system of values, findings, decks, comparison and curves. It changes no value.</source>
+        <translation>数值、检查结果、输入文件、比较和曲线所用的单位制。它不改变任何数值。</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::InspectorContent</name>
+    <message>
+        <source>The inspector cannot be updated</source>
+        <translation>无法更新检查器</translation>
     </message>
 </context>
 <context>
@@ -4214,8 +4459,8 @@ Delete anyway?</source>
         <translation>在项目浏览器中选择一个材料，或打开其编辑器。</translation>
     </message>
     <message>
-        <source>The inspector cannot be updated</source>
-        <translation>无法更新检查器</translation>
+        <source>The inspector cannot be loaded</source>
+        <translation>无法加载检查器</translation>
     </message>
 </context>
 <context>
@@ -4473,6 +4718,13 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxInspector::TabsLibrary</name>
+    <message>
+        <source>the file %1 is missing</source>
+        <translation>缺少文件 %1</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::ValueTable</name>
     <message>
         <source>cannot be read: %1</source>
@@ -4507,10 +4759,6 @@ Delete anyway?</source>
         <translation>单位</translation>
     </message>
     <message>
-        <source>Known range</source>
-        <translation>已知范围</translation>
-    </message>
-    <message>
         <source>It has no quantities yet.</source>
         <translation>它还没有任何量。</translation>
     </message>
@@ -4525,6 +4773,10 @@ Delete anyway?</source>
     <message>
         <source>A switch is on if the material has it, whatever its number. Remove the quantity to switch it off.</source>
         <translation>只要材料具有该开关，它就是打开的，与其数值无关。要关闭它，请删除该量。</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>范围</translation>
     </message>
 </context>
 <context>
@@ -5399,14 +5651,6 @@ Delete anyway?</source>
         <translation>%1 = %2，且 %3：热容和导热率与水相同，水为 %5 至 %6。</translation>
     </message>
     <message>
-        <source>%1 = %2 with %3 is a share of the modulus of %4; known solids have %5 to %6.</source>
-        <translation>%1 = %2，且 %3，与模量之比为 %4；已知固体为 %5 至 %6。</translation>
-    </message>
-    <message>
-        <source>%1 = %2 with %3 is a share of the modulus of %4; known metals have %5 to %6, or 0.</source>
-        <translation>%1 = %2，且 %3，与模量之比为 %4；已知金属为 %5 至 %6，或 0。</translation>
-    </message>
-    <message>
         <source>%1 = %2 with %3: the initial modulus of the hyperelastic model is %4 times Young&apos;s modulus; %5 to %6 times is sensible.</source>
         <translation>%1 = %2，且 %3：超弹性模型的初始模量是杨氏模量的 %4 倍；合理的为 %5 至 %6 倍。</translation>
     </message>
@@ -5577,6 +5821,30 @@ Delete anyway?</source>
     <message>
         <source>Searched in labels; did you mean &quot;%1&quot;?</source>
         <translation>已在标签中搜索；您是想输入“%1”吗？</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a ratio of yield stress to modulus of %4; known solids have %5 to %6.</source>
+        <translation>%1 = %2 与 %3 给出的屈服应力与模量之比为 %4；已知固体为 %5 至 %6。</translation>
+    </message>
+    <message>
+        <source>%1 = %2 with %3 gives a ratio of hardening to modulus of %4; known metals have %5 to %6, or 0.</source>
+        <translation>%1 = %2 与 %3 给出的硬化模量与模量之比为 %4；已知金属为 %5 至 %6，或 0。</translation>
+    </message>
+    <message>
+        <source>The numbers of the stresses look like %1, but are in Pa: convert them</source>
+        <translation>应力的数值像是 %1，但单位是 Pa：请换算</translation>
+    </message>
+    <message>
+        <source>The numbers of the stresses look like %1, that of the density like %2, but they are in SI: convert them</source>
+        <translation>应力的数值像是 %1，密度的数值像是 %2，但单位是 SI：请换算</translation>
+    </message>
+    <message>
+        <source>The numbers of the stresses look like %1, that of the density like %2, that of the specific heat like %3, but they are in SI: convert them</source>
+        <translation>应力的数值像是 %1，密度的数值像是 %2，比热容的数值像是 %3，但单位是 SI：请换算</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1, but are in SI: convert the material</source>
+        <translation>数值像是 %1，但单位是 SI：请换算该材料</translation>
     </message>
 </context>
 <context>

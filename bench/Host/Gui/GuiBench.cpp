@@ -1,4 +1,3 @@
-#include "MaterialContributions.h"
 #include "MaterialFiles.h"
 #include "MaterialFilter.h"
 #include "ProjectFiles.h"
@@ -19,7 +18,6 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QUndoStack>
 
@@ -30,14 +28,12 @@
 #include <vector>
 
 /// Measures the times for which the user waits: commands on 10,000 materials, by the longest time in which the
-/// interface does not react, a filter of as many, project files of 1,000 materials, and the start of the program until its window is painted,
-/// compared with an empty window.
+/// interface does not react, a filter of as many, and project files of 1,000 materials.
 namespace {
 
 constexpr int materialCount = 10000;
 constexpr int fileCount = 1000;
 constexpr double freezeLimit = 100.0; ///< milliseconds
-constexpr double startLimit = 1.5;
 
 double millisecondsOf(const std::function<void()>& action)
 {
@@ -248,87 +244,11 @@ bool measureCommands(int& argc, char** argv)
     return commands.passed() && files && filter;
 }
 
-/// Counts the paint events of the widgets of the program.
-class PaintCount final : public QObject
-{
-public:
-    int value() const { return m_value; }
-
-protected:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        m_value += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-private:
-    int m_value = 0;
-};
-
-/// Shows `window` until it is painted. Returns the exit status: 0 if it was painted.
-int paintOnce(QWidget& window)
-{
-    PaintCount paints;
-    QCoreApplication::instance()->installEventFilter(&paints);
-    window.show();
-    QCoreApplication::processEvents();
-    return paints.value() > 0 ? 0 : 1;
-}
-
-int startEmpty(int& argc, char** argv)
-{
-    QApplication application(argc, argv);
-    QMainWindow window;
-    window.resize(Gui::MainWindow::usualSize);
-    return paintOnce(window);
-}
-
-int startOurs(int& argc, char** argv)
-{
-    Gui::GuiApplication application(argc, argv);
-    Gui::MainWindow window;
-    initMat();
-    initMatGui();
-    desktop::registerMaterialContributions(application);
-    Mat::registerRequests();
-    window.setWorkbench("MatGui::SimModule");
-    return paintOnce(window);
-}
-
-/// Measures the times from the start of each program to its end, the shortest of several, and prints their ratio.
-/// Returns whether the ratio is within its limit.
-bool printStart(const std::string& program)
-{
-    double best[] = {1e9, 1e9};
-    bool painted = true;
-    const char* const flags[] = {"--start-ours", "--start-empty"};
-    for (int repetition = 0; repetition < 15; ++repetition)
-        for (const int side : {0, 1})
-            best[side] = std::min(best[side], millisecondsOf([&] {
-                                      const QStringList arguments(QString::fromLatin1(flags[side]));
-                                      painted =
-                                          QProcess::execute(QString::fromStdString(program), arguments) == 0 && painted;
-                                  }));
-    const double ratio = best[0] / best[1];
-    std::printf("%-50s %8.1f ms %8.1f ms   %.2f   %s %.2f\n", "start until the window is painted / an empty window",
-                best[0], best[1], ratio, ratio <= startLimit ? "within" : "OVER", startLimit);
-    if (!painted)
-        std::printf("    FAILED: a window was not painted\n");
-    return painted && ratio <= startLimit;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const std::string flag = argc > 1 ? argv[1] : "";
-    if (flag == "--start-ours")
-        return startOurs(argc, argv);
-    if (flag == "--start-empty")
-        return startEmpty(argc, argv);
-    const bool commands = measureCommands(argc, argv);
-    const bool start = printStart(argv[0]);
-    return commands && start ? 0 : 1;
+    return measureCommands(argc, argv) ? 0 : 1;
 }

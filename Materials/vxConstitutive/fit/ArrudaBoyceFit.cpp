@@ -1,3 +1,5 @@
+#include "Spacing.h"
+
 #include "fit/HyperelasticFitParts.h"
 #include "vxMaterial/model/PropertyId.h"
 
@@ -5,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace vxConstitutive {
 
@@ -54,10 +57,10 @@ public:
         return std::sqrt(invariant / 3.0);
     }
 
-    /// Returns the parameters of a limiting stretch with the best Mu.
+    /// Returns the parameters of a limiting stretch with the best Mu, within the bounds.
     std::vector<double> startAt(double limitingStretch) const
     {
-        const double theta = inverseSquare(limitingStretch);
+        const double theta = withinBounds(inverseSquare(limitingStretch), m_problem.bounds[1]);
         double product = 0.0;
         double square = 0.0;
         for (const Row& row : m_rows) {
@@ -65,7 +68,7 @@ public:
             product += stress * row.target;
             square += stress * stress;
         }
-        return {square > 0.0 ? product / square : 1.0, theta};
+        return {withinBounds(square > 0.0 ? product / square : 1.0, m_problem.bounds[0]), theta};
     }
 
 private:
@@ -77,6 +80,10 @@ private:
     };
 
     static double inverseSquare(double stretch) { return 1.0 / (stretch * stretch); }
+    static double withinBounds(double value, const Bounds& bounds)
+    {
+        return std::max(bounds.lower, std::min(value, bounds.upper));
+    }
 
     void evaluate(const double* parameters, double* residuals, double* jacobian) const
     {
@@ -96,12 +103,41 @@ private:
     LeastSquares m_problem;
 };
 
-std::vector<std::vector<double>> startsOf(const ArrudaBoyceProblem& problem)
+/// A limiting stretch with the best Mu, as a start of the minimisation.
+struct Candidate
 {
+    std::vector<double> parameters;
+    double cost = 0.0;
+};
+
+/// Returns candidates from short chains to chains far from their limit.
+std::vector<Candidate> candidatesOf(const ArrudaBoyceProblem& series)
+{
+    constexpr std::size_t count = 24;
+    constexpr double shortest = 1.01;
+    constexpr double nearest = 0.6; // of the stretch of the chains in the data
+    constexpr double farthest = 10.0;
+    std::vector<Candidate> candidates;
+    for (const double part : spreadByFactor(nearest, farthest, count)) {
+        Candidate candidate{series.startAt(std::max(part * series.largestChainStretch(), shortest)), 0.0};
+        candidate.cost = costAt(series.problem(), candidate.parameters);
+        candidates.push_back(std::move(candidate));
+    }
+    return candidates;
+}
+
+/// Returns the candidates that are better than their neighbours. The others lead to the same minima.
+std::vector<std::vector<double>> startsOf(const ArrudaBoyceProblem& series)
+{
+    const std::vector<Candidate> candidates = candidatesOf(series);
     std::vector<std::vector<double>> starts;
-    const double chains = problem.largestChainStretch();
-    for (const double part : {0.6, 0.8, 0.95, 1.1, 1.4, 2.0, 4.0, 10.0})
-        starts.push_back(problem.startAt(std::max(part * chains, 1.01)));
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        const double cost = candidates[i].cost;
+        const bool falls = i == 0 || cost < candidates[i - 1].cost;
+        const bool rises = i + 1 == candidates.size() || cost <= candidates[i + 1].cost;
+        if (falls && rises)
+            starts.push_back(candidates[i].parameters);
+    }
     return starts;
 }
 

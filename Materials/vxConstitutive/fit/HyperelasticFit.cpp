@@ -213,7 +213,7 @@ FitResult fitForm(HyperelasticForm form, const HyperelasticFitData& data, Jobs& 
             makeFinding(FindingId::FewPoints, {result.model, static_cast<double>(data.shape.total)}));
     fitVolume(data, minimum.constants, result);
     auto model = std::make_shared<HyperelasticModel>(minimum.constants);
-    if (data.stableRange && !isStable(minimum.constants, *data.stableRange))
+    if (data.stableRange && !minimum.isStable && !isStable(minimum.constants, *data.stableRange))
         result.findings.push_back(makeFinding(FindingId::StabilityNotReached, {result.model}));
     result.stable = stableRangesOf(*model);
     result.change = changeOf(form, minimum.constants);

@@ -51,8 +51,9 @@ struct HyperelasticFitRequest
 /// Fits hyperelastic models to tests. Returns them by residual per freedom, with undetermined and failed models last.
 ///
 /// The tests are compared with the incompressible responses of HyperelasticModel; volumetric tests determine only D1.
-/// Neo-Hookean and Mooney-Rivlin are linear in their constants and have one minimum; Arruda-Boyce starts from many
-/// limiting stretches. Least squares by the Levenberg-Marquardt method of Ceres with exact derivatives.
+/// Neo-Hookean and Mooney-Rivlin are linear in their constants and have one minimum, which is computed directly unless bounds or
+/// stability are active. Arruda-Boyce starts from the best of many limiting stretches. Other least squares are by the
+/// Levenberg-Marquardt method of Ceres with exact derivatives.
 ///
 /// Stability is Drucker's criterion (HyperelasticModel.h). If it is active, the constants are the best stable ones, and
 /// `residualWithoutStability` is the residual without it. Standard errors follow from the derivatives at the result and the

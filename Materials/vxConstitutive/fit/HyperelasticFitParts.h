@@ -31,6 +31,7 @@ struct HyperelasticMinimum
     std::size_t freedoms = 0;
     std::optional<HyperelasticConstants> withoutStability; ///< if the demand for stability changed the result
     bool found = false;
+    bool isStable = false; ///< known to be stable over the demanded range
     std::vector<Finding> findings;
 };
 

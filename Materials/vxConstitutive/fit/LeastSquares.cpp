@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <new>
+#include <optional>
 #include <utility>
 
 namespace vxConstitutive {
@@ -20,15 +21,15 @@ void moveInside(const std::vector<Bounds>& bounds, std::vector<double>& paramete
         parameters[i] = std::max(bounds[i].lower, std::min(parameters[i], bounds[i].upper));
 }
 
-double costAt(const LeastSquares& problem, const std::vector<double>& parameters)
+/// Returns whether each parameter is finite and within its bounds.
+bool isInside(const std::vector<Bounds>& bounds, const std::vector<double>& parameters)
 {
-    std::vector<double> residuals(problem.residuals);
-    if (!problem.evaluate(parameters.data(), residuals.data(), nullptr))
-        return std::numeric_limits<double>::infinity();
-    double sum = 0.0;
-    for (const double residual : residuals)
-        sum += residual * residual;
-    return std::isfinite(sum) ? sum / 2.0 : std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < bounds.size(); ++i) {
+        const double value = parameters[i];
+        if (!std::isfinite(value) || value < bounds[i].lower || value > bounds[i].upper)
+            return false;
+    }
+    return true;
 }
 
 /// The derivatives by the free parameters, in columns of length 1.
@@ -51,7 +52,38 @@ NormalisedJacobian normalised(const RowMajor& jacobian, const std::vector<std::s
     return result;
 }
 
+/// Returns the parameters at the minimum of linear residuals; nothing if it is not determined or not within the bounds.
+std::optional<std::vector<double>> solveDirectly(const LeastSquares& problem, std::vector<double> start)
+{
+    const std::vector<std::size_t> free = freeParameters(problem);
+    if (free.empty() || problem.residuals == 0)
+        return std::nullopt;
+    Eigen::VectorXd residuals(static_cast<Eigen::Index>(problem.residuals));
+    RowMajor full(residuals.size(), static_cast<Eigen::Index>(start.size()));
+    if (!problem.evaluate(start.data(), residuals.data(), full.data()))
+        return std::nullopt;
+    const auto [columns, lengths] = normalised(full, free);
+    const Eigen::ColPivHouseholderQR<Eigen::MatrixXd> decomposition(columns);
+    if (decomposition.rank() < columns.cols())
+        return std::nullopt;
+    const Eigen::VectorXd step = decomposition.solve(residuals).cwiseQuotient(lengths);
+    for (std::size_t i = 0; i < free.size(); ++i)
+        start[free[i]] -= step(static_cast<Eigen::Index>(i));
+    return isInside(problem.bounds, start) ? std::optional(std::move(start)) : std::nullopt;
+}
+
 } // namespace
+
+double costAt(const LeastSquares& problem, const std::vector<double>& parameters)
+{
+    std::vector<double> residuals(problem.residuals);
+    if (!problem.evaluate(parameters.data(), residuals.data(), nullptr))
+        return std::numeric_limits<double>::infinity();
+    double sum = 0.0;
+    for (const double residual : residuals)
+        sum += residual * residual;
+    return std::isfinite(sum) ? sum / 2.0 : std::numeric_limits<double>::infinity();
+}
 
 Minimum minimise(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled)
 {
@@ -74,6 +106,13 @@ Minimum minimise(const LeastSquares& problem, std::vector<double> start, const s
         result.cost = cost;
     }
     return result;
+}
+
+Minimum minimiseLinear(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled)
+{
+    moveInside(problem.bounds, start);
+    const auto parameters = solveDirectly(problem, start);
+    return parameters ? Minimum{*parameters, costAt(problem, *parameters), true} : minimise(problem, start, cancelled);
 }
 
 Minimum minimiseFromMany(const LeastSquares& problem, const std::vector<std::vector<double>>& starts,

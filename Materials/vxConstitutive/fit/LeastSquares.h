@@ -42,6 +42,13 @@ struct Minimum
 /// parameters so far. Throws SolverMissing (SolverLibrary.h).
 Minimum minimise(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled);
 
+/// Minimises residuals that are linear in the parameters: by a direct solution if the minimum is within the bounds, otherwise as
+/// minimise() does.
+Minimum minimiseLinear(const LeastSquares& problem, std::vector<double> start, const std::function<bool()>& cancelled);
+
+/// Returns half of the sum of the squared residuals; infinite if they do not exist.
+double costAt(const LeastSquares& problem, const std::vector<double>& parameters);
+
 /// Returns the best minimum of several starts. Calls `progress` with the finished part after each start.
 /// Throws SolverMissing.
 Minimum minimiseFromMany(const LeastSquares& problem, const std::vector<std::vector<double>>& starts,

@@ -207,7 +207,7 @@ std::optional<std::vector<double>> minimiseStably(const HyperelasticFitData& dat
                                                   const MooneyProblem& mooney, std::vector<double> start)
 {
     const MooneyProblem single(data, 1);
-    const double neoHooke = minimise(single.problem(), {1.0}, data.cancelled).parameters.front();
+    const double neoHooke = minimiseLinear(single.problem(), {1.0}, data.cancelled).parameters.front();
     if (!(neoHooke > 0.0))
         return std::nullopt;
 
@@ -253,7 +253,8 @@ HyperelasticMinimum fitMooneyRivlin(const HyperelasticFitData& data, Hyperelasti
 {
     const MooneyProblem mooney(data, count);
     HyperelasticMinimum result;
-    std::vector<double> best = minimise(mooney.problem(), std::vector<double>(count, 1.0), data.cancelled).parameters;
+    std::vector<double> best =
+        minimiseLinear(mooney.problem(), std::vector<double>(count, 1.0), data.cancelled).parameters;
     const HyperelasticConstants free = constantsOf(form, mooney.expand(best.data()), mooney.scale());
     if (data.stableRange && count > 1 && !isStable(free, *data.stableRange)) {
         auto stable = minimiseStably(data, form, mooney, best);
@@ -265,6 +266,7 @@ HyperelasticMinimum fitMooneyRivlin(const HyperelasticFitData& data, Hyperelasti
         best = std::move(*stable);
         result.withoutStability = free;
     }
+    result.isStable = data.stableRange && count > 1;
     result.constants = constantsOf(form, mooney.expand(best.data()), mooney.scale());
     result.found = true;
     describeConstants(mooney, best, result);

@@ -179,7 +179,7 @@ FitResult fitLine(const PlasticFitRequest& request, const FitControl& control)
         return result;
 
     const LeastSquares problem = bilinearProblem(set, request.bounds);
-    const Minimum minimum = minimise(problem, {0.5, 1.0}, jobs.cancelledFunction());
+    const Minimum minimum = minimiseLinear(problem, {0.5, 1.0}, jobs.cancelledFunction());
     const double scale = set.largestOrdinate;
     const double yield = scale * minimum.parameters[0];
     const double modulus = scale * minimum.parameters[1];

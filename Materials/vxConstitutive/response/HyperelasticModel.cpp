@@ -160,7 +160,7 @@ void HyperelasticModel::noteInstability(CurveBuilder& builder, TestResponse& res
 {
     const Mode mode = builder.request().mode;
     const std::optional<Range> range = builder.abscissaRange();
-    if (!range)
+    if (!range || response.isStableEverywhere())
         return;
     const auto margin = [&](double abscissa) { return response.stabilityMargin(abscissa); };
     const StabilityReport report = findInstability(margin, restOf(mode), *range);
@@ -201,6 +201,8 @@ void HyperelasticModel::noteChains(CurveBuilder& builder, TestResponse& response
 StabilityReport HyperelasticModel::stability(Mode mode, Range range, Compressibility compressibility) const
 {
     TestResponse response(mode, m_energy, volumetricOf(m_constants, compressibility));
+    if (response.isStableEverywhere())
+        return {};
     return findInstability([&](double abscissa) { return response.stabilityMargin(abscissa); }, restOf(mode), range);
 }
 

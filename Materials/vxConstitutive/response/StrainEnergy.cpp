@@ -66,6 +66,13 @@ double StrainEnergy::initialShearModulus() const
     return 2.0 * (atRest.w1 + atRest.w2);
 }
 
+bool StrainEnergy::isConvex() const
+{
+    if (m_form == Form::Series)
+        return m_mu > 0.0 && m_limit > 0.0;
+    return m_form == Form::Polynomial && m_c11 == 0.0 && m_c10 >= 0.0 && m_c01 >= 0.0 && m_c10 + m_c01 > 0.0;
+}
+
 double StrainEnergy::partOfLimit(double i1) const
 {
     return m_form == Form::Polynomial ? 0.0 : std::sqrt(i1 / 3.0) / m_limit;

@@ -61,6 +61,11 @@ public:
     /// Returns the shear modulus at stretch 1, in Pa.
     double initialShearModulus() const;
 
+    /// Returns whether the energy is known to be convex in the logarithms of the stretches, hence stable by Drucker's criterion in
+    /// each state of constant volume. The invariants are sums of exponentials, which are convex; so is a rising convex function
+    /// of one of them.
+    bool isConvex() const;
+
     /// Returns x of the chains at a first invariant; 0 for energies without chains.
     double partOfLimit(double i1) const;
 

@@ -30,6 +30,9 @@ public:
 
     TestPoint at(double abscissa);
 
+    /// Returns whether each state is known to be stable.
+    bool isStableEverywhere() const { return m_volumetric.isIncompressible() && m_energy.isConvex(); }
+
     /// Returns a number in Pa that is greater than 0 if the state is stable; NaN if there is no state of equilibrium.
     double stabilityMargin(double abscissa);
 

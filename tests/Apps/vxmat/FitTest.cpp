@@ -116,6 +116,7 @@ TEST_F(Fit, AloneLoadsTheSolver)
         EXPECT_THAT(loaded(arguments), AllOf(HasSubstr("libvxMaterialConstitutive"), Not(HasSubstr("glog")),
                                              Not(HasSubstr("LeastSquaresSolver"))));
     const std::string data = file("a.csv", neoHookean(0.3, header));
+    EXPECT_THAT(loaded("fit uniaxial=" + data + " --model neo-hooke"), Not(HasSubstr("LeastSquaresSolver"))); // linear
     EXPECT_THAT(loaded("fit uniaxial=" + data + " --model arruda-boyce"), HasSubstr("libvxLeastSquaresSolver.so"));
 }
 

@@ -482,6 +482,23 @@ TEST(HyperelasticFitControl, CanBeCancelledAtAnyMoment)
     }
 }
 
+TEST(HyperelasticFitControl, ASingleMinimumIsLookedForOnce)
+{
+    HyperelasticFitRequest request;
+    request.tests = {vxtest::rubberTest("treloar-uniaxial.csv", Mode::Uniaxial),
+                     vxtest::rubberTest("treloar-equibiaxial.csv", Mode::Equibiaxial)};
+    const auto stepsOf = [&](HyperelasticForm form) {
+        int calls = 0; // one for each step of the minimisation
+        FitControl control;
+        control.cancelled = [&calls] { return ++calls < 0; };
+        request.forms = {form};
+        EXPECT_EQ(fitHyperelastic(request, control).front().status, FitStatus::Done);
+        return calls;
+    };
+    EXPECT_LT(stepsOf(HyperelasticForm::MooneyRivlin), 3); // linear
+    EXPECT_LT(stepsOf(HyperelasticForm::ArrudaBoyce), 20);
+}
+
 TEST(HyperelasticFitRobustness, MissingDataAreReported)
 {
     HyperelasticFitRequest request;

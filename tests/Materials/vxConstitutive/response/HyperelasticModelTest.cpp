@@ -349,6 +349,7 @@ TEST(Stability, GreatStretchesOfAStableMaterialAreStable)
     for (const Mode mode : stretchModes) {
         EXPECT_TRUE(HyperelasticModel(neoHooke(1.0)).stability(mode, {0.02, 50.0}).isStable()) << modeRecord(mode).name;
         EXPECT_TRUE(HyperelasticModel(arrudaBoyce(1.0, 3.0)).stability(mode, {0.05, 20.0}).isStable());
+        EXPECT_TRUE(HyperelasticModel(mooneyRivlin(1.0, 0.5)).stability(mode, {1e-8, 1e8}).isStable());
     }
 }
 

@@ -252,30 +252,35 @@ struct Curve
     Numbers strains;
 };
 
-/// Returns the points of a curve. Without them, reports the reason.
-/// \throws DeckError if a line has no stress
-std::optional<Curve> takeCurve(const KeywordCard& card, MaterialReading& material)
+std::optional<double> fieldOf(const KeywordCard::Row& row, std::size_t at)
 {
-    if (card.rows.empty())
-        throw DeckError(tooFew(card, 2), card.line);
-    Curve curve;
-    const auto field = [](const KeywordCard::Row& row, std::size_t at) {
-        return at < row.size() ? row[at] : std::nullopt;
-    };
+    return at < row.size() ? row[at] : std::nullopt;
+}
+
+/// Returns the reason why the lines of a card are not one curve of stress over strain; absent if they are.
+std::optional<Message> findObstacleToCurve(const KeywordCard& card)
+{
     for (const KeywordCard::Row& row : card.rows) {
-        if (!field(row, 0))
-            throw DeckError(tooFew(card, 2), card.line);
-        if (field(row, 2) != field(card.rows.front(), 2)) {
-            material.refuse(card.name, makeMessage(ReadText::TemperatureTable));
-            return std::nullopt;
-        }
-        if (row.size() > 3) {
-            material.refuse(card.name, makeMessage(ReadText::MoreThanTemperature));
-            return std::nullopt;
-        }
-        curve.stresses.push_back(*row[0]);
-        curve.strains.push_back(field(row, 1).value_or(0.0));
+        if (fieldOf(row, 2) != fieldOf(card.rows.front(), 2))
+            return makeMessage(ReadText::TemperatureTable);
+        if (row.size() > 3)
+            return makeMessage(ReadText::MoreThanTemperature);
     }
+    return std::nullopt;
+}
+
+/// Returns the points of a curve, of which a blank strain is 0.
+/// \throws DeckError if there is no line, or a line has no stress
+Curve takeCurve(const KeywordCard& card)
+{
+    Curve curve;
+    for (const KeywordCard::Row& row : card.rows) {
+        curve.stresses.push_back(fieldOf(row, 0).value_or(std::nan("")));
+        curve.strains.push_back(fieldOf(row, 1).value_or(0.0));
+    }
+    const auto isMissing = [](double stress) { return std::isnan(stress); };
+    if (curve.stresses.empty() || std::any_of(curve.stresses.begin(), curve.stresses.end(), isMissing))
+        throw DeckError(tooFew(card, 2), card.line);
     return curve;
 }
 
@@ -308,26 +313,30 @@ void takePoints(Curve curve, MaterialReading& material)
         material.approximate(Id::PlasticStrain, makeMessage(ReadText::CurveNotAscending));
 }
 
-void readPlastic(const KeywordCard& card, MaterialReading& material)
+/// Returns the reason why a plastic card cannot be read; absent if it can.
+std::optional<Message> findObstacleToPlasticity(const KeywordCard& card)
 {
     const std::string hardening = card.word("HARDENING");
-    const bool isKinematic = hardening == "KINEMATIC";
-    if (!hardening.empty() && !isKinematic && hardening != "ISOTROPIC") {
-        material.refuse(card.name, makeMessage(ReadText::NoModelForKind, {card.given}));
+    if (!hardening.empty() && hardening != "KINEMATIC" && hardening != "ISOTROPIC")
+        return makeMessage(ReadText::NoModelForKind, {card.given});
+    if (card.hasParameter("RATE"))
+        return makeMessage(ReadText::OverStrainRate);
+    return findObstacleToCurve(card);
+}
+
+void readPlastic(const KeywordCard& card, MaterialReading& material)
+{
+    if (auto obstacle = findObstacleToPlasticity(card)) {
+        material.refuse(card.name, std::move(*obstacle));
         return;
     }
-    if (card.hasParameter("RATE")) {
-        material.refuse(card.name, makeMessage(ReadText::OverStrainRate));
-        return;
-    }
-    auto curve = takeCurve(card, material);
-    if (!curve)
-        return;
+    Curve curve = takeCurve(card);
     material.setSwitch(Id::Plasticity);
     material.setWord(Id::PlasticYieldType, "Mises");
-    const bool isModulus = takeModulus(*curve, material);
+    const bool isModulus = takeModulus(curve, material);
     if (!isModulus)
-        takePoints(std::move(*curve), material);
+        takePoints(std::move(curve), material);
+    const bool isKinematic = card.word("HARDENING") == "KINEMATIC";
     material.setWord(Id::PlasticHardeningType, isKinematic ? "Kinematic" : isModulus ? "Bilinear" : "Multilinear");
 }
 
@@ -337,30 +346,28 @@ bool isTimeHardening(const std::string& law, double m)
     return law.empty() || law == "NORTON" || law == "TIME" || (law == "STRAIN" && m == 0.0);
 }
 
+void setCreep(const KeywordCard& card, const Numbers& constants, MaterialReading& material)
+{
+    material.setSwitch(Id::Creep);
+    material.setNumber(Id::CreepModulusA, constants[0]);
+    material.setNumber(Id::CreepModulusN, constants[1]);
+    material.setNumber(Id::CreepModulusM, constants[2]);
+    if (!isGiven(card, 2))
+        material.convert(Id::CreepModulusM, makeMessage(ReadText::ValueAbsent));
+    if (!card.hasParameter("LAW") && constants[2] != 0.0)
+        material.note(makeMessage(ReadText::HardeningOfTime));
+}
+
 void readCreep(const KeywordCard& card, MaterialReading& material)
 {
     const std::string law = card.word("LAW");
-    const Message noModel = makeMessage(ReadText::NoModelForKind, {card.given});
-    if (!isTimeHardening(law, 0.0)) {
-        material.refuse(card.name, noModel);
-        return;
-    }
-    const auto constants = takeConstants(card, {3, 2}, material);
-    if (!constants)
-        return;
-    const double m = (*constants)[2];
-    if (!isTimeHardening(law, m)) {
-        material.refuse(card.name, noModel);
-        return;
-    }
-    material.setSwitch(Id::Creep);
-    material.setNumber(Id::CreepModulusA, (*constants)[0]);
-    material.setNumber(Id::CreepModulusN, (*constants)[1]);
-    material.setNumber(Id::CreepModulusM, m);
-    if (!isGiven(card, 2))
-        material.convert(Id::CreepModulusM, makeMessage(ReadText::ValueAbsent));
-    if (law.empty() && m != 0.0)
-        material.note(makeMessage(ReadText::HardeningOfTime));
+    std::optional<Numbers> constants;
+    if (isTimeHardening(law, 0.0))
+        constants = takeConstants(card, {3, 2}, material);
+    if (constants && isTimeHardening(law, (*constants)[2]))
+        setCreep(card, *constants, material);
+    else if (constants || !isTimeHardening(law, 0.0))
+        material.refuse(card.name, makeMessage(ReadText::NoModelForKind, {card.given}));
 }
 
 /// One term of a Prony series, g, k and tau, in one line.

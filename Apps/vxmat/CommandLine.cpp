@@ -520,6 +520,10 @@ void CommandLine::addDeck()
     command->add_option("NAME|FILE", m_deck.sources, "Library materials, projects or documents; - is standard input")
         ->required();
     command->add_option("--solver", m_deck.solver, "A solver of \"vxmat solvers\"")->type_name("NAME")->required();
+    command->add_option("--dialect", m_deck.dialect, "The keywords of calculix: calculix or commercial")
+        ->type_name("NAME");
+    command->add_option("--fields", m_deck.fields, "The fields of nastran: small, large or free; by default as needed")
+        ->type_name("FORM");
     command->add_option("--ids", m_deck.firstNumber, "The number of the first material; the next ones follow")
         ->type_name("FROM");
     command->add_option("-o,--output", m_deck.output, "The file to write; - is standard output")->type_name("FILE");

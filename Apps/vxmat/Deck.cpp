@@ -76,9 +76,47 @@ const vxDecks::FormatInfo& findSolver(const std::string& name)
     throw Failure("--solver: there is no solver \"" + name + "\"; the solvers are: " + known);
 }
 
-vxDecks::DeckOptions optionsOf(const DeckRequest& request)
+vxDecks::Dialect findDialect(const vxDecks::FormatInfo& format, const std::string& name)
+{
+    if (const vxDecks::DialectInfo* const dialect = vxDecks::findDialect(format.format, name))
+        return dialect->dialect;
+    std::string known;
+    for (const vxDecks::DialectInfo& dialect : vxDecks::dialects()) {
+        if (dialect.format == format.format)
+            known += (known.empty() ? "" : ", ") + std::string(dialect.name);
+    }
+    if (known.empty())
+        throw Failure("--dialect: " + std::string(format.name) + " has no dialects");
+    throw Failure("--dialect: " + std::string(format.name) + " has no dialect \"" + name +
+                  "\"; the dialects are: " + known);
+}
+
+vxDecks::FieldForm findFields(const vxDecks::FormatInfo& format, const std::string& name)
+{
+    if (format.format != vxDecks::Format::Nastran)
+        throw Failure("--fields: only nastran has fields of different forms");
+    if (const auto form = vxDecks::findFieldForm(name))
+        return *form;
+    throw Failure("--fields: there is no form \"" + name + "\"; the forms are: small, large, free");
+}
+
+/// Checks that the numbers from the first one on are in the range of the format.
+void requireNumbers(const vxDecks::FormatInfo& format, std::uint32_t first, std::size_t count)
+{
+    const std::uint32_t largest = format.largestNumber;
+    if (largest == 0 || (first <= largest && count <= largest - first + std::size_t{1}))
+        return;
+    throw Failure("--ids: " + std::to_string(count) + " materials cannot be numbered from " + std::to_string(first) +
+                  "; the largest number in " + format.title + " is " + std::to_string(largest));
+}
+
+vxDecks::DeckOptions optionsOf(const DeckRequest& request, const vxDecks::FormatInfo& format)
 {
     vxDecks::DeckOptions options;
+    if (request.dialect)
+        options.dialect = findDialect(format, *request.dialect);
+    if (request.fields)
+        options.fields = findFields(format, *request.fields);
     if (request.units)
         options.units = readSystem("--units", *request.units);
     if (request.firstNumber)
@@ -133,11 +171,13 @@ Json::Value solversAsJson()
 Answer writeSolverDeck(const DeckRequest& request, Form form)
 {
     const vxDecks::FormatInfo& format = findSolver(request.solver);
-    const vxDecks::DeckOptions options = optionsOf(request);
+    const vxDecks::DeckOptions options = optionsOf(request, format);
     requireNoProject(request.output);
     Answer answer;
     const MaterialNames names;
     const Collected collected = collect(request, names, answer);
+    if (options.firstNumber)
+        requireNumbers(format, *options.firstNumber, collected.materials.size());
     vxDecks::Deck deck = vxDecks::writeDeck(format.format, collected.materials, options);
     if (vxDecks::countRefused(deck.report) > 0)
         answer.status = Status::Findings;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vxDecks {
@@ -21,6 +22,18 @@ struct DeckMaterial
     const vxMat::MaterialBase* material = nullptr; ///< not null; the caller keeps it
 };
 
+/// The form of the fields of bulk data.
+enum class FieldForm
+{
+    AsNeeded, ///< of 8 characters, or of 16 if a number would lose digits in 8
+    Small,    ///< of 8 characters; numbers are rounded
+    Large,    ///< of 16 characters
+    Free,     ///< divided by commas, with as many characters as needed, at most 16
+};
+
+/// Returns the form with a name, "small", "large" or "free", in upper or lower case; absent if there is none.
+VXDECKS_EXPORT std::optional<FieldForm> findFieldForm(std::string_view name);
+
 /// The choices of a user for a deck.
 struct DeckOptions
 {
@@ -30,6 +43,8 @@ struct DeckOptions
     /// The number of the first material; the next materials have the next numbers. If it is absent, the materials keep
     /// their numbers.
     std::optional<std::uint32_t> firstNumber;
+    Dialect dialect = Dialect::Standard;    ///< has no effect in a format without dialects
+    FieldForm fields = FieldForm::AsNeeded; ///< of Nastran; has no effect in other formats
 };
 
 /// The text of a deck, and its report.

@@ -47,6 +47,13 @@ VXDECKS_EXPORT const std::vector<Mapping>& mappings();
 /// Returns the row of a quantity; null if the catalogue does not have the id.
 VXDECKS_EXPORT const Mapping* findMapping(Format format, std::int32_t id);
 
+/// Returns the rows of the format of a dialect, or the rows of all formats for Dialect::Standard.
+VXDECKS_EXPORT const std::vector<Mapping>& mappings(Dialect dialect);
+
+/// Returns the row of a quantity in a dialect of a format; null if the catalogue does not have the id. A format without the
+/// dialect has its standard row.
+VXDECKS_EXPORT const Mapping* findMapping(Format format, std::int32_t id, Dialect dialect);
+
 /// Returns "run", "read by another program" or "not run".
 VXDECKS_EXPORT const char* nameOf(Proof proof);
 

@@ -360,7 +360,9 @@ const std::vector<MessageText>& messageTexts()
         std::vector<MessageText> collected = deckTexts();
         const std::vector<MessageText> ofReading = readingTexts();
         collected.insert(collected.end(), ofReading.begin(), ofReading.end());
-        for (const Mapping& row : table) {
+        std::vector<Mapping> rows = table;
+        rows.insert(rows.end(), mappings(Dialect::Commercial).begin(), mappings(Dialect::Commercial).end());
+        for (const Mapping& row : rows) {
             const bool known = std::any_of(collected.begin(), collected.end(), [&row](const MessageText& one) {
                 return std::string_view(one.id) == row.how.id;
             });

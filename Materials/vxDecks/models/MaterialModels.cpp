@@ -84,14 +84,19 @@ HyperelasticModel makeHyperelastic(const MaterialValues& values, const Hyperelas
     model.kind = kind.kind;
     for (const Need& need : kind.needs)
         model.quantities.push_back(need.id);
-    model.c10 = values.number(Id::MaterialConstantC10).value_or(0.0);
-    model.c01 = values.number(Id::MaterialConstantC01).value_or(0.0);
+    const auto constant = [&](std::int32_t id) {
+        const auto& ids = model.quantities;
+        const bool isUsed = std::find(ids.begin(), ids.end(), id) != ids.end();
+        return isUsed ? values.number(id).value_or(0.0) : 0.0;
+    };
+    model.c10 = constant(Id::MaterialConstantC10);
+    model.c01 = constant(Id::MaterialConstantC01);
     if (kind.kind == HyperelasticKind::MooneyRivlin && values.has(Id::MaterialConstantC11)) {
         model.c11 = values.number(Id::MaterialConstantC11).value_or(0.0);
         model.quantities.push_back(Id::MaterialConstantC11);
     }
-    model.mu = values.number(Id::InitialShearModulusMu).value_or(0.0);
-    model.stretch = values.number(Id::LimitingNetworkStretch).value_or(0.0);
+    model.mu = constant(Id::InitialShearModulusMu);
+    model.stretch = constant(Id::LimitingNetworkStretch);
     if (const auto moduli = vxUnits::initialModuli(values))
         model.shear = moduli->shear;
     if (const double d1 = values.number(Id::IncompressibilityParameterD1).value_or(0.0); d1 != 0.0)

@@ -64,6 +64,12 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
     {"decks.as-parameter", "as a parameter of the yield stress"},
     {"decks.no-card-has-place", "no card of the material has a place for it"},
     {"decks.names-only", "The format has no numbers of materials; the chosen number has no effect."},
+    {"decks.rounded-to-field", "rounded to a field of %1 characters"},
+    {"decks.creep-factor-small",
+     "the solver computes with errors if the factor is below %1; choose another unit system"},
+    {"decks.as-acoustic-bulk", "as the bulk modulus, the density times the square of the speed"},
+    {"decks.as-permittivity", "as the permittivity, times that of vacuum"},
+    {"decks.as-permeability", "as the permeability, times that of vacuum"},
 }};
 
 } // namespace

@@ -63,6 +63,11 @@ enum class Text : std::size_t
     AsParameter,
     NoCardHasPlace,
     NamesOnly,
+    RoundedToField,
+    CreepFactorSmall,
+    AsAcousticBulk,
+    AsPermittivity,
+    AsPermeability,
     Count
 };
 

@@ -26,53 +26,9 @@ std::string materialOf(const MaterialDeck& deck)
     return std::to_string(deck.heading().number);
 }
 
-void writeProperty(MaterialDeck& deck, const char* label, double value)
+void writeProperty(MaterialDeck& deck, std::string_view label, double value)
 {
-    deck.line(std::string("MP,") + label + "," + materialOf(deck) + "," + written(value));
-}
-
-template <std::int32_t Quantity>
-void writeQuantity(MaterialDeck& deck, const char* label)
-{
-    if (const auto number = deck.values().number(Quantity)) {
-        writeProperty(deck, label, *number);
-        deck.carry(Quantity);
-    }
-}
-
-void writeDensity(MaterialDeck& deck)
-{
-    writeQuantity<Id::Density>(deck, "DENS");
-}
-
-void writeSpeedOfSound(MaterialDeck& deck)
-{
-    writeQuantity<Id::SpeedOfSound>(deck, "SONC");
-}
-
-void writeSpecificHeat(MaterialDeck& deck)
-{
-    writeQuantity<Id::SpecificHeat>(deck, "C");
-}
-
-void writeConductivity(MaterialDeck& deck)
-{
-    writeQuantity<Id::ThermalConductivity>(deck, "KXX");
-}
-
-void writeViscosity(MaterialDeck& deck)
-{
-    writeQuantity<Id::DynamicViscosity>(deck, "VISC");
-}
-
-void writePermittivity(MaterialDeck& deck)
-{
-    writeQuantity<Id::RelativePermittivity>(deck, "PERX");
-}
-
-void writePermeability(MaterialDeck& deck)
-{
-    writeQuantity<Id::RelativePermeability>(deck, "MURX");
+    deck.line("MP," + std::string(label) + "," + materialOf(deck) + "," + written(value));
 }
 
 void writeElastic(MaterialDeck& deck)
@@ -95,7 +51,7 @@ void writeResistivity(MaterialDeck& deck)
         deck.refuse({Id::ElectricalConductivity}, makeMessage(Text::NoResistivity, {written(*conductivity)}));
         return;
     }
-    writeProperty(deck, "RSVX", 1.0 / *conductivity);
+    writeProperty(deck, "RSVX", withoutRoundingError(1.0 / *conductivity));
     deck.convert(Id::ElectricalConductivity, makeMessage(Text::AsResistivity));
 }
 
@@ -197,22 +153,22 @@ void beginMaterial(MaterialDeck& deck)
 const CardFormat& apdlFormat()
 {
     static const CardFormat format{Format::Apdl,
-                                   {anyName(), 99999},
+                                   anyName(),
                                    beginDeck,
                                    beginMaterial,
-                                   {{"MP,DENS", writeDensity},
-                                    {"MP,SONC", writeSpeedOfSound},
-                                    {"MP,C", writeSpecificHeat},
-                                    {"MP,KXX", writeConductivity},
-                                    {"MP,VISC", writeViscosity},
+                                   {quantityCard("MP,DENS", "DENS", Id::Density, writeProperty),
+                                    quantityCard("MP,SONC", "SONC", Id::SpeedOfSound, writeProperty),
+                                    quantityCard("MP,C", "C", Id::SpecificHeat, writeProperty),
+                                    quantityCard("MP,KXX", "KXX", Id::ThermalConductivity, writeProperty),
+                                    quantityCard("MP,VISC", "VISC", Id::DynamicViscosity, writeProperty),
                                     {"MP,EX", writeElastic},
                                     {"TB,HYPER", writeHyperelastic},
                                     {"TB,BISO", writePlastic},
                                     {"TB,PRONY", writeProny},
                                     {"TB,CREEP", writeCreep},
                                     {"MP,RSVX", writeResistivity},
-                                    {"MP,PERX", writePermittivity},
-                                    {"MP,MURX", writePermeability}},
+                                    quantityCard("MP,PERX", "PERX", Id::RelativePermittivity, writeProperty),
+                                    quantityCard("MP,MURX", "MURX", Id::RelativePermeability, writeProperty)},
                                    nullptr};
     return format;
 }

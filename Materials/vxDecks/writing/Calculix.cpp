@@ -22,6 +22,7 @@ constexpr std::size_t longestComment = 100;
 /// A smaller D1 is replaced by 0.1 over the shear modulus, a smaller creep factor by this one.
 constexpr double smallestD1 = 1e-10;
 constexpr double smallestCreepFactor = 1e-20;
+constexpr double smallestCommercialCreepFactor = 1e-27;
 
 /// The plastic strain of the second point of a bilinear curve. The solver keeps the stress constant beyond it.
 constexpr double lastStrain = 10.0;
@@ -37,34 +38,16 @@ std::string numbers(std::initializer_list<double> values)
     return text;
 }
 
-void writeNumber(MaterialDeck& deck, const char* card, std::int32_t id)
+void writeEntry(MaterialDeck& deck, std::string_view card, double value)
 {
-    const auto number = deck.values().number(id);
-    if (!number)
-        return;
     deck.line(card);
-    deck.line(numbers({*number}));
-    deck.carry(id);
+    deck.line(numbers({value}));
 }
 
-void writeDensity(MaterialDeck& deck)
+/// Returns the writer of a card that has the number of a quantity.
+CardWriter numberCard(std::string_view card, std::int32_t id)
 {
-    writeNumber(deck, "*DENSITY", Id::Density);
-}
-
-void writeSpecificHeat(MaterialDeck& deck)
-{
-    writeNumber(deck, "*SPECIFIC HEAT", Id::SpecificHeat);
-}
-
-void writeConductivity(MaterialDeck& deck)
-{
-    writeNumber(deck, "*CONDUCTIVITY", Id::ThermalConductivity);
-}
-
-void writeElectricalConductivity(MaterialDeck& deck)
-{
-    writeNumber(deck, "*ELECTRICAL CONDUCTIVITY", Id::ElectricalConductivity);
+    return quantityCard(card, card, id, writeEntry);
 }
 
 void writeFluidConstants(MaterialDeck& deck)
@@ -87,7 +70,9 @@ void writeElastic(MaterialDeck& deck)
     const auto& model = deck.models().elastic.model;
     if (!model)
         return;
-    deck.line("*ELASTIC");
+    // The commercial solver takes the modulus of a viscoelastic solid as the one after a long time, unless told otherwise.
+    const bool isViscoelastic = deck.isCommercial() && deck.models().prony.model;
+    deck.line(isViscoelastic ? "*ELASTIC, MODULI=INSTANTANEOUS" : "*ELASTIC");
     deck.line(numbers({model->youngsModulus, model->poissonsRatio}));
     reportElastic(deck);
 }
@@ -114,6 +99,12 @@ void writeHyperelastic(MaterialDeck& deck)
     const auto& model = deck.models().hyperelastic.model;
     if (!model)
         return;
+    if (deck.isCommercial()) { // which has incompressible solids, with D1 = 0
+        writeConstants(deck, *model, model->d1.value_or(0.0));
+        deck.carry(Id::IncompressibilityParameterD1);
+        reportConstants(deck, *model);
+        return;
+    }
     if (model->d1.value_or(1.0) < smallestD1 || (!model->d1 && bulkOverShear * model->shear > 2.0 / smallestD1)) {
         deck.refuse(hyperelasticIds(), makeMessage(Text::BelowFloor, {"D1 below 1e-10", "K = 20 mu"}));
         return;
@@ -131,7 +122,7 @@ void writeCurve(MaterialDeck& deck, const PlasticModel& model)
         return;
     }
     deck.line(numbers({model.yieldStress, 0.0}));
-    if (model.modulus != 0.0)
+    if (model.modulus != 0.0 || (deck.isCommercial() && model.isKinematic)) // which needs two points then
         deck.line(numbers({model.yieldStress + lastStrain * model.modulus, lastStrain}));
 }
 
@@ -140,9 +131,19 @@ void writePlastic(MaterialDeck& deck)
     const auto& model = deck.models().plastic.model;
     if (!model)
         return;
-    deck.line(model->isKinematic ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC");
+    // The commercial solver has kinematic hardening along a straight line only.
+    const bool isCurved = deck.isCommercial() && model->stresses.size() > 2;
+    if (isCurved && model->isKinematic)
+        deck.refuse({Id::PlasticHardeningType}, makeMessage(Text::CurveIsIsotropic));
+    deck.line(model->isKinematic && !isCurved ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC");
     writeCurve(deck, *model);
     reportPlastic(deck, *model, makeMessage(Text::TwoPoints, {writeWithin(lastStrain, longestNumber)}));
+}
+
+/// A smaller creep factor is replaced by CalculiX; the commercial solver computes with errors then.
+bool isBelowFloor(const MaterialDeck& deck, const CreepModel& model)
+{
+    return model.factor < (deck.isCommercial() ? smallestCommercialCreepFactor : smallestCreepFactor);
 }
 
 void writeCreep(MaterialDeck& deck)
@@ -150,15 +151,65 @@ void writeCreep(MaterialDeck& deck)
     const auto& model = deck.models().creep.model;
     if (!model)
         return;
-    if (deck.models().plastic.model)
+    if (deck.models().plastic.model && !deck.isCommercial())
         deck.refuse(creepIds(), makeMessage(Text::CreepBesidePlasticity));
-    else if (model->factor < smallestCreepFactor)
-        deck.refuse(creepIds(), makeMessage(Text::BelowFloor, {"A below 1e-20", "1e-20"}));
+    else if (isBelowFloor(deck, *model))
+        deck.refuse(creepIds(), deck.isCommercial() ? makeMessage(Text::CreepFactorSmall, {"1e-27"})
+                                                    : makeMessage(Text::BelowFloor, {"A below 1e-20", "1e-20"}));
     else {
-        deck.line("*CREEP");
+        deck.line(deck.isCommercial() ? "*CREEP, LAW=TIME" : "*CREEP");
         deck.line(numbers({model->factor, model->n, model->m}));
         carryAll(deck, creepIds());
     }
+}
+
+/// Writes the ratios of the shear and of the bulk modulus that relax, and the time.
+void writeProny(MaterialDeck& deck)
+{
+    const auto& model = deck.models().prony.model;
+    if (!model)
+        return;
+    deck.line("*VISCOELASTIC, TIME=PRONY");
+    deck.line(numbers({model->ratio, 0.0, model->time}));
+    carryAll(deck, pronyIds());
+}
+
+void writeAcoustic(MaterialDeck& deck)
+{
+    const auto speed = deck.values().number(Id::SpeedOfSound);
+    const auto density = deck.values().number(Id::Density);
+    if (speed && !density)
+        deck.refuse({Id::SpeedOfSound},
+                    makeMessage(Text::NeedsAnother, {vxMat::findPropertyRecord(Id::Density)->name}));
+    if (!speed || !density)
+        return;
+    writeEntry(deck, "*ACOUSTIC MEDIUM, BULK MODULUS", withoutRoundingError(*density * *speed * *speed));
+    deck.convert(Id::SpeedOfSound, makeMessage(Text::AsAcousticBulk));
+}
+
+/// Writes a quantity that is relative to that of vacuum as the absolute one. `vacuum` is in SI units.
+void writeAbsolute(MaterialDeck& deck, const char* card, std::int32_t id, double vacuum,
+                   const vxUnits::Dimension& dimension, Text how)
+{
+    const auto relative = deck.values().number(id);
+    if (!relative)
+        return;
+    writeEntry(deck, card, withoutRoundingError(*relative * vacuum / deck.units().unitOf(dimension).factor()));
+    deck.convert(id, makeMessage(how));
+}
+
+void writePermittivity(MaterialDeck& deck)
+{
+    constexpr double vacuum = 8.8541878128e-12; // F/m, CODATA 2018
+    const vxUnits::Dimension dimension{-3, -1, 4, 0, 2};
+    writeAbsolute(deck, "*DIELECTRIC", Id::RelativePermittivity, vacuum, dimension, Text::AsPermittivity);
+}
+
+void writePermeability(MaterialDeck& deck)
+{
+    constexpr double vacuum = 1.25663706212e-6; // H/m, CODATA 2018
+    const vxUnits::Dimension dimension{1, 1, -2, 0, -2};
+    writeAbsolute(deck, "*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuum, dimension, Text::AsPermeability);
 }
 
 std::string beginDeck(const vxUnits::UnitSystem& units)
@@ -178,18 +229,23 @@ void beginMaterial(MaterialDeck& deck)
 const CardFormat& calculixFormat()
 {
     static const CardFormat format{Format::Calculix,
-                                   {{80, "_-", "M_"}, 0},
+                                   {80, "_-", "M_"},
                                    beginDeck,
                                    beginMaterial,
-                                   {{"*DENSITY", writeDensity},
-                                    {"*SPECIFIC HEAT", writeSpecificHeat},
-                                    {"*CONDUCTIVITY", writeConductivity},
+                                   {numberCard("*DENSITY", Id::Density),
+                                    numberCard("*SPECIFIC HEAT", Id::SpecificHeat),
+                                    numberCard("*CONDUCTIVITY", Id::ThermalConductivity),
                                     {"*FLUID CONSTANTS", writeFluidConstants},
                                     {"*ELASTIC", writeElastic},
                                     {"*HYPERELASTIC", writeHyperelastic},
                                     {"*PLASTIC", writePlastic},
                                     {"*CREEP", writeCreep},
-                                    {"*ELECTRICAL CONDUCTIVITY", writeElectricalConductivity}},
+                                    {"*VISCOELASTIC", writeProny},
+                                    {"*ACOUSTIC MEDIUM", writeAcoustic},
+                                    numberCard("*VISCOSITY", Id::DynamicViscosity),
+                                    {"*DIELECTRIC", writePermittivity},
+                                    {"*MAGNETIC PERMEABILITY", writePermeability},
+                                    numberCard("*ELECTRICAL CONDUCTIVITY", Id::ElectricalConductivity)},
                                    nullptr};
     return format;
 }

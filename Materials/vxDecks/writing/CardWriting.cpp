@@ -14,7 +14,7 @@ class CardDeckWriter : public DeckWriter
 public:
     explicit CardDeckWriter(const CardFormat& format) : m_format(format) {}
 
-    WriterRules rules() const override { return m_format.rules; }
+    NameRules names() const override { return m_format.names; }
     std::string begin(const vxUnits::UnitSystem& units) override { return m_format.begin(units); }
     void write(MaterialDeck& deck) override;
 
@@ -37,19 +37,28 @@ void CardDeckWriter::write(MaterialDeck& deck)
 void CardDeckWriter::writeCards(MaterialDeck& deck) const
 {
     std::set<std::string_view> written{""};
-    for (const Mapping& row : mappings()) {
+    for (const Mapping& row : mappings(deck.options().dialect)) {
         if (row.format != m_format.format || !written.insert(row.card).second)
             continue;
         const auto& cards = m_format.cards;
-        const auto card = std::find_if(cards.begin(), cards.end(), [&row](const CardWriter& one) {
-            return std::string_view(one.card) == row.card;
-        });
+        const auto card =
+            std::find_if(cards.begin(), cards.end(), [&row](const CardWriter& one) { return one.card == row.card; });
         if (card != cards.end())
             card->write(deck);
     }
 }
 
 } // namespace
+
+CardWriter quantityCard(std::string_view card, std::string_view label, std::int32_t id, EntryWriter write)
+{
+    return {card, [label, id, write](MaterialDeck& deck) {
+                if (const auto number = deck.values().number(id)) {
+                    write(deck, label, *number);
+                    deck.carry(id);
+                }
+            }};
+}
 
 std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format)
 {

@@ -1,8 +1,10 @@
 #include "vxDecks/Deck.h"
 
 #include "texts/DeckTexts.h"
+#include "vxMaterial/model/NumberText.h"
 #include "writing/DeckWriter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vxDecks {
@@ -30,16 +32,16 @@ std::unique_ptr<DeckWriter> makeWriter(Format format)
     return makeCardWriter(calculixFormat());
 }
 
-std::vector<std::uint32_t> numbersOf(const std::vector<DeckMaterial>& materials, const WriterRules& rules,
+std::vector<std::uint32_t> numbersOf(const std::vector<DeckMaterial>& materials, std::uint32_t largest,
                                      const DeckOptions& options)
 {
-    if (rules.largestNumber == 0)
+    if (largest == 0)
         return std::vector<std::uint32_t>(materials.size(), 0);
     std::vector<std::optional<std::uint32_t>> wanted;
     wanted.reserve(materials.size());
     for (const DeckMaterial& material : materials)
         wanted.push_back(material.number);
-    return numberMaterials(wanted, options.firstNumber, rules.largestNumber);
+    return numberMaterials(wanted, options.firstNumber, largest);
 }
 
 /// Returns the number that a material should have; absent if any will do.
@@ -65,15 +67,15 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
              const DeckOptions& options)
 {
     const std::unique_ptr<DeckWriter> writer = makeWriter(format);
-    const WriterRules rules = writer->rules();
-    const std::vector<std::uint32_t> numbers = numbersOf(materials, rules, options);
-    Names names(rules.names);
+    const std::uint32_t largest = infoOf(format).largestNumber;
+    const std::vector<std::uint32_t> numbers = numbersOf(materials, largest, options);
+    Names names(writer->names());
     Deck deck{writer->begin(units), {format, units.text(), {}, {}}};
-    if (options.firstNumber && rules.largestNumber == 0)
+    if (options.firstNumber && largest == 0)
         deck.report.notes.push_back(makeMessage(Text::NamesOnly));
     for (std::size_t i = 0; i < materials.size(); ++i) {
         const Heading heading{names.take(materials[i].name), numbers[i]};
-        MaterialDeck one(format, materials[i], heading, units);
+        MaterialDeck one(format, materials[i], heading, units, options);
         writer->write(one);
         deck.text += one.text();
         deck.report.materials.push_back(one.finish());
@@ -83,10 +85,30 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
     return deck;
 }
 
+bool hasDialect(Format format, Dialect dialect)
+{
+    const auto& all = dialects();
+    return std::any_of(all.begin(), all.end(), [format, dialect](const DialectInfo& one) {
+        return one.format == format && one.dialect == dialect;
+    });
+}
+
 } // namespace
 
-Deck writeDeck(Format format, const std::vector<DeckMaterial>& materials, const DeckOptions& options)
+std::optional<FieldForm> findFieldForm(std::string_view name)
 {
+    static const std::vector<std::pair<const char*, FieldForm>> all{
+        {"small", FieldForm::Small}, {"large", FieldForm::Large}, {"free", FieldForm::Free}};
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [name](const auto& one) { return vxMat::equalIgnoringAsciiCase(one.first, name); });
+    return found == all.end() ? std::nullopt : std::optional(found->second);
+}
+
+Deck writeDeck(Format format, const std::vector<DeckMaterial>& materials, const DeckOptions& chosen)
+{
+    DeckOptions options = chosen;
+    if (!hasDialect(format, options.dialect))
+        options.dialect = Dialect::Standard;
     Deck deck = writeIn(options.units.value_or(UnitSystem::si()), format, materials, options);
     const std::size_t refused = countRefused(deck.report);
     if (!options.units && refused > 0) {

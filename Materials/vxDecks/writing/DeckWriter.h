@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,20 +13,14 @@
 
 namespace vxDecks {
 
-/// The rules of a format for names and numbers of materials.
-struct WriterRules
-{
-    NameRules names;
-    std::uint32_t largestNumber = 0; ///< 0 if materials have names only
-};
-
 /// Writes one deck in a format. A writer is used once.
 class DeckWriter
 {
 public:
     virtual ~DeckWriter() = default;
 
-    virtual WriterRules rules() const = 0;
+    /// Returns the rules of the format for the names of materials.
+    virtual NameRules names() const = 0;
     /// Returns the text before the first material.
     virtual std::string begin(const vxUnits::UnitSystem& units) = 0;
     /// Adds the text of a material, and reports its quantities.
@@ -38,15 +33,22 @@ public:
 /// table.
 struct CardWriter
 {
-    const char* card;
-    void (*write)(MaterialDeck& deck);
+    std::string_view card;
+    std::function<void(MaterialDeck& deck)> write;
 };
+
+/// Writes an entry of a card: "DENS" or "Heat Capacity" with its number.
+using EntryWriter = void (*)(MaterialDeck& deck, std::string_view label, double value);
+
+/// Returns the writer of a card with one number, which is that of a quantity as it is. It writes the entry with a function of
+/// the format, and reports the quantity as carried.
+CardWriter quantityCard(std::string_view card, std::string_view label, std::int32_t id, EntryWriter write);
 
 /// A format whose materials consist of cards.
 struct CardFormat
 {
     Format format = Format::Calculix;
-    WriterRules rules;
+    NameRules names;
     std::string (*begin)(const vxUnits::UnitSystem& units) = nullptr;
     void (*beginMaterial)(MaterialDeck& deck) = nullptr; ///< null if a material has no heading
     std::vector<CardWriter> cards;

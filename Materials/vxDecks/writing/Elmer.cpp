@@ -12,43 +12,9 @@ using Id = vxMat::PropertyId;
 constexpr std::size_t longestNumber = 24; // any number with all its digits
 constexpr std::size_t longestName = 80;
 
-void writeEntry(MaterialDeck& deck, const std::string& keyword, double value)
+void writeEntry(MaterialDeck& deck, std::string_view keyword, double value)
 {
-    deck.line("  " + keyword + " = Real " + writeWithin(value, longestNumber));
-}
-
-template <std::int32_t Quantity>
-void writeQuantity(MaterialDeck& deck, const char* keyword)
-{
-    if (const auto number = deck.values().number(Quantity)) {
-        writeEntry(deck, keyword, *number);
-        deck.carry(Quantity);
-    }
-}
-
-void writeDensity(MaterialDeck& deck)
-{
-    writeQuantity<Id::Density>(deck, "Density");
-}
-
-void writeSoundSpeed(MaterialDeck& deck)
-{
-    writeQuantity<Id::SpeedOfSound>(deck, "Sound Speed");
-}
-
-void writeHeatCapacity(MaterialDeck& deck)
-{
-    writeQuantity<Id::SpecificHeat>(deck, "Heat Capacity");
-}
-
-void writeHeatConductivity(MaterialDeck& deck)
-{
-    writeQuantity<Id::ThermalConductivity>(deck, "Heat Conductivity");
-}
-
-void writeViscosity(MaterialDeck& deck)
-{
-    writeQuantity<Id::DynamicViscosity>(deck, "Viscosity");
+    deck.line("  " + std::string(keyword) + " = Real " + writeWithin(value, longestNumber));
 }
 
 void writeElastic(MaterialDeck& deck)
@@ -61,19 +27,10 @@ void writeElastic(MaterialDeck& deck)
     reportElastic(deck);
 }
 
-void writeElectricConductivity(MaterialDeck& deck)
+/// Returns the writer of a card whose name is its keyword.
+CardWriter keywordCard(std::string_view keyword, std::int32_t id)
 {
-    writeQuantity<Id::ElectricalConductivity>(deck, "Electric Conductivity");
-}
-
-void writePermittivity(MaterialDeck& deck)
-{
-    writeQuantity<Id::RelativePermittivity>(deck, "Relative Permittivity");
-}
-
-void writePermeability(MaterialDeck& deck)
-{
-    writeQuantity<Id::RelativePermeability>(deck, "Relative Permeability");
+    return quantityCard(keyword, keyword, id, writeEntry);
 }
 
 std::string beginDeck(const vxUnits::UnitSystem& units)
@@ -100,18 +57,18 @@ void endMaterial(MaterialDeck& deck)
 const CardFormat& elmerFormat()
 {
     static const CardFormat format{Format::Elmer,
-                                   {{longestName, " _-.()", "M_"}, 999999999},
+                                   {longestName, " _-.()", "M_"},
                                    beginDeck,
                                    beginMaterial,
-                                   {{"Density", writeDensity},
-                                    {"Sound Speed", writeSoundSpeed},
-                                    {"Heat Capacity", writeHeatCapacity},
-                                    {"Heat Conductivity", writeHeatConductivity},
-                                    {"Viscosity", writeViscosity},
+                                   {keywordCard("Density", Id::Density),
+                                    keywordCard("Sound Speed", Id::SpeedOfSound),
+                                    keywordCard("Heat Capacity", Id::SpecificHeat),
+                                    keywordCard("Heat Conductivity", Id::ThermalConductivity),
+                                    keywordCard("Viscosity", Id::DynamicViscosity),
                                     {"Youngs Modulus", writeElastic},
-                                    {"Electric Conductivity", writeElectricConductivity},
-                                    {"Relative Permittivity", writePermittivity},
-                                    {"Relative Permeability", writePermeability}},
+                                    keywordCard("Electric Conductivity", Id::ElectricalConductivity),
+                                    keywordCard("Relative Permittivity", Id::RelativePermittivity),
+                                    keywordCard("Relative Permeability", Id::RelativePermeability)},
                                    endMaterial};
     return format;
 }

@@ -154,7 +154,8 @@ void writeViscoelastic(MaterialDeck& deck)
     const ElasticModel& elastic = *deck.models().elastic.model;
     const double shear = shearModulus(elastic);
     writeMaterial(deck, "*MAT_VISCOELASTIC",
-                  {{densityOf(deck), bulkModulus(elastic), shear, (1.0 - model->ratio) * shear, 1.0 / model->time}});
+                  {{densityOf(deck), bulkModulus(elastic), shear, (1.0 - model->ratio) * shear,
+                    withoutRoundingError(1.0 / model->time)}});
     deck.convert(Id::ShearRelaxationModulus, makeMessage(Text::AsLongTermModulus));
     deck.convert(Id::RelaxationTime, makeMessage(Text::AsDecay));
     carryAll(deck, pronyIds());
@@ -187,9 +188,9 @@ void writeHyperelastic(MaterialDeck& deck)
         takeBulkModulus(deck, *model, makeMessage(isArrudaBoyce ? Text::AsBulkModulus : Text::AsPoissonsRatio));
     const double poisson = (3.0 * bulk - 2.0 * model->shear) / (6.0 * bulk + 2.0 * model->shear);
     if (isArrudaBoyce) {
-        // RO, K, G, N: the number of links of a chain is the square of its limiting stretch.
+        // RO, K, G, N: the number of links of a chain is the square of its limiting stretch; LCID, TRAMP, NT
         writeMaterial(deck, "*MAT_ARRUDA_BOYCE_RUBBER",
-                      {{densityOf(deck), bulk, model->mu, model->stretch * model->stretch}, secondRow});
+                      {{densityOf(deck), bulk, model->mu, model->stretch * model->stretch}, {0.0, 0.0, 0.0}});
         deck.convert(Id::LimitingNetworkStretch, makeMessage(Text::AsLinks));
     } else if (model->c11 == 0.0) {
         writeMaterial(deck, "*MAT_MOONEY-RIVLIN_RUBBER",
@@ -258,7 +259,7 @@ std::string beginDeck(const vxUnits::UnitSystem& units)
 const CardFormat& lsDynaFormat()
 {
     static const CardFormat format{Format::LsDyna,
-                                   {anyName(), 99999999},
+                                   anyName(),
                                    beginDeck,
                                    nullptr,
                                    {{"*MAT_ELASTIC", writeElastic},

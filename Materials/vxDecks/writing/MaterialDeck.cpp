@@ -46,8 +46,9 @@ std::optional<Message> reasonOf(std::int32_t id, const MaterialModels& models, c
 
 } // namespace
 
-MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const UnitSystem& units)
-    : m_format(format), m_source(material), m_heading(std::move(heading)), m_units(units)
+MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const UnitSystem& units,
+                           const DeckOptions& options)
+    : m_format(format), m_source(material), m_heading(std::move(heading)), m_units(units), m_options(options)
 {
     m_converted.copyAllFrom(*material.material);
     if (units != UnitSystem::si())
@@ -89,7 +90,7 @@ void MaterialDeck::decide(std::int32_t id, Outcome outcome, std::vector<Message>
 {
     if (!m_source.material->hasProperty(id) || m_rows.count(id) != 0)
         return;
-    const Mapping* const mapping = findMapping(m_format, id);
+    const Mapping* const mapping = findMapping(m_format, id, m_options.dialect);
     const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(id);
     const bool isLost = outcome == Outcome::Lost;
     m_rows[id] = {id, record->name, outcome, isLost ? "" : mapping->card, std::move(how), isLost};
@@ -126,7 +127,7 @@ ReportRow MaterialDeck::lostRow(std::int32_t id) const
 {
     ReportRow row;
     row.slot = id;
-    const Mapping* const mapping = findMapping(m_format, id);
+    const Mapping* const mapping = findMapping(m_format, id, m_options.dialect);
     if (mapping == nullptr) {
         row.name = m_source.material->findProperty(id)->name;
         row.how = {makeMessage(Text::NotInCatalogue)};
@@ -142,8 +143,20 @@ ReportRow MaterialDeck::lostRow(std::int32_t id) const
     return row;
 }
 
+void MaterialDeck::tellRounding()
+{
+    for (const auto& [id, width] : m_rounded) {
+        const auto row = m_rows.find(id);
+        if (row == m_rows.end() || row->second.outcome == Outcome::Lost)
+            continue;
+        row->second.outcome = Outcome::Approximated;
+        row->second.how.push_back(makeMessage(Text::RoundedToField, {std::to_string(width)}));
+    }
+}
+
 MaterialReport MaterialDeck::finish()
 {
+    tellRounding();
     MaterialReport report;
     report.name = m_source.name;
     for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(*m_source.material)) {

@@ -26,7 +26,8 @@ struct Heading
 class MaterialDeck
 {
 public:
-    MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const vxUnits::UnitSystem& units);
+    MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const vxUnits::UnitSystem& units,
+                 const DeckOptions& options);
 
     const Heading& heading() const { return m_heading; }
     /// Returns the name that the user sees.
@@ -34,6 +35,8 @@ public:
     const vxUnits::MaterialValues& values() const { return m_values; }
     const MaterialModels& models() const { return m_models; }
     const vxUnits::UnitSystem& units() const { return m_units; }
+    const DeckOptions& options() const { return m_options; }
+    bool isCommercial() const { return m_options.dialect == Dialect::Commercial; }
 
     /// Adds a line to the text.
     void line(std::string_view text);
@@ -44,6 +47,8 @@ public:
     /// Reports a quantity as written in another form.
     void convert(std::int32_t id, vxUnits::Message how);
     void approximate(std::int32_t id, vxUnits::Message how);
+    /// Reports a quantity, when it has an outcome, as approximated, because its number is rounded to a field.
+    void noteRounding(std::int32_t id, std::size_t width) { m_rounded[id] = width; }
     /// Reports quantities as lost although the format takes them.
     void refuse(const std::vector<std::int32_t>& ids, const vxUnits::Message& why);
 
@@ -55,6 +60,7 @@ public:
 private:
     void removeNumbersThatAreNotFinite();
     void decide(std::int32_t id, Outcome outcome, std::vector<vxUnits::Message> how);
+    void tellRounding();
     ReportRow lostRow(std::int32_t id) const;
     std::vector<vxUnits::Message> unitChange(std::int32_t id) const;
 
@@ -62,10 +68,12 @@ private:
     const DeckMaterial& m_source;
     Heading m_heading;
     vxUnits::UnitSystem m_units;
+    DeckOptions m_options;
     vxMat::CMaterial m_converted;
     vxUnits::MaterialValues m_values;
     MaterialModels m_models;
     std::map<std::int32_t, ReportRow> m_rows;
+    std::map<std::int32_t, std::size_t> m_rounded; ///< the widths of the fields of rounded numbers
     std::string m_text;
 };
 

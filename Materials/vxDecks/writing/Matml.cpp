@@ -99,7 +99,7 @@ void addUnits(pugi::xml_node details, const std::string& unit)
 class MatmlWriter : public DeckWriter
 {
 public:
-    WriterRules rules() const override { return {anyName(), 999999999}; }
+    NameRules names() const override { return anyName(); }
     std::string begin(const vxUnits::UnitSystem& units) override;
     void write(MaterialDeck& deck) override;
     std::string end() override;

@@ -15,8 +15,17 @@ namespace {
 
 using Id = vxMat::PropertyId;
 
+/// A real number, and the quantity that it is made of; 0 if it is made of none.
+struct Real
+{
+    double value;
+    std::int32_t id = 0;
+
+    bool operator==(const Real& other) const { return value == other.value && id == other.id; }
+};
+
 /// A field of an entry: blank, a text or an integer, or a real number.
-using Cell = std::variant<std::monostate, std::string, double>;
+using Cell = std::variant<std::monostate, std::string, Real>;
 using Cells = std::vector<Cell>;
 
 const Cell blank{};
@@ -28,22 +37,27 @@ constexpr std::size_t longestComment = 70;
 Cell cellOf(const MaterialDeck& deck, std::int32_t id)
 {
     const auto number = deck.values().number(id);
-    return number ? Cell(*number) : blank;
+    return number ? Cell(Real{*number, id}) : blank;
 }
 
 std::string textOf(const Cell& cell, std::size_t width)
 {
     if (const auto* const text = std::get_if<std::string>(&cell))
         return *text;
-    if (const auto* const number = std::get_if<double>(&cell))
-        return writeBulkReal(*number, width);
+    if (const auto* const number = std::get_if<Real>(&cell))
+        return writeBulkReal(number->value, width);
     return {};
+}
+
+bool fits(const Cell& cell, std::size_t width)
+{
+    const auto* const number = std::get_if<Real>(&cell);
+    return number == nullptr || isSameNumber(readBulkReal(writeBulkReal(number->value, width)), number->value);
 }
 
 bool fitsSmall(const Cell& cell)
 {
-    const auto* const number = std::get_if<double>(&cell);
-    return number == nullptr || isSameNumber(readBulkReal(writeBulkReal(*number, smallWidth)), *number);
+    return fits(cell, smallWidth);
 }
 
 std::string padded(const std::string& text, std::size_t width)
@@ -51,31 +65,64 @@ std::string padded(const std::string& text, std::size_t width)
     return text + std::string(width - std::min(width, text.size()), ' ');
 }
 
-std::string withoutBlanksAtEnd(std::string line)
+/// Returns a line without the blanks and commas at its end, which have no meaning.
+std::string withoutEnd(std::string line)
 {
-    line.erase(line.find_last_not_of(' ') + 1);
+    line.erase(line.find_last_not_of(" ,") + 1);
     return line;
 }
 
-/// Writes an entry in fields of 8 characters, eight of them in a line, or if a number would lose digits there, in fields of 16
-/// characters, four of them in a line.
+/// The form of an entry: fields of one width, in lines of 64 characters.
+struct EntryForm
+{
+    bool isSmall = true;
+    bool isFree = false; ///< divided by commas
+
+    std::size_t width() const { return isSmall ? smallWidth : largeWidth; }
+    std::size_t perLine() const { return isSmall ? 8 : 4; }
+    const char* continuation() const { return isSmall ? "+" : "*"; }
+    std::string field(const std::string& text, std::size_t wide) const
+    {
+        return isFree ? text + "," : padded(text, wide);
+    }
+};
+
+EntryForm formOf(const MaterialDeck& deck, const Cells& cells)
+{
+    const FieldForm fields = deck.options().fields;
+    const bool fitInSmall = std::all_of(cells.begin(), cells.end(), fitsSmall);
+    const bool isSmall = fields == FieldForm::Small || (fields != FieldForm::Large && fitInSmall);
+    return {isSmall, fields == FieldForm::Free};
+}
+
+void noteRounding(MaterialDeck& deck, const Cells& cells, std::size_t width)
+{
+    for (const Cell& cell : cells) {
+        const auto* const number = std::get_if<Real>(&cell);
+        if (number != nullptr && number->id != 0 && !fits(cell, width))
+            deck.noteRounding(number->id, width);
+    }
+}
+
+/// Writes an entry in the form that the user chose. By default, the fields have 8 characters, or 16 characters if a number
+/// would lose digits.
 void writeEntry(MaterialDeck& deck, const std::string& keyword, Cells cells)
 {
     while (!cells.empty() && cells.back() == blank)
         cells.pop_back();
-    const bool isSmall = std::all_of(cells.begin(), cells.end(), fitsSmall);
-    const std::size_t width = isSmall ? smallWidth : largeWidth;
-    const std::size_t perLine = isSmall ? 8 : 4;
-    const std::string mark = isSmall ? "" : "*";
+    const EntryForm form = formOf(deck, cells);
+    noteRounding(deck, cells, form.width());
+    const std::size_t perLine = form.perLine();
     // An entry in large fields has an even number of lines.
     const std::size_t lines = (cells.size() + 7) / 8 * (8 / perLine);
     for (std::size_t line = 0; line < lines; ++line) {
-        std::string text = padded(line == 0 ? keyword + mark : (isSmall ? "+" : "*"), smallWidth);
+        const std::string mark = form.isSmall ? "" : "*";
+        std::string text = form.field(line == 0 ? keyword + mark : form.continuation(), smallWidth);
         for (std::size_t i = line * perLine; i < (line + 1) * perLine; ++i)
-            text += padded(i < cells.size() ? textOf(cells[i], width) : "", width);
+            text += form.field(i < cells.size() ? textOf(cells[i], form.width()) : "", form.width());
         if (line + 1 < lines)
-            text += isSmall ? "+" : "*";
-        deck.line(withoutBlanksAtEnd(std::move(text)));
+            text += form.continuation();
+        deck.line(withoutEnd(std::move(text)));
     }
 }
 
@@ -91,7 +138,8 @@ void writeMat1(MaterialDeck& deck)
     if (!model)
         return;
     writeEntry(deck, "MAT1",
-               {numberOf(deck), model->youngsModulus, blank, model->poissonsRatio, cellOf(deck, Id::Density)});
+               {numberOf(deck), Real{model->youngsModulus, Id::YoungsModulus}, blank,
+                Real{model->poissonsRatio, Id::PoissonsRatio}, cellOf(deck, Id::Density)});
     reportElastic(deck);
     deck.carry(Id::Density);
 }
@@ -100,10 +148,11 @@ void writeMat1(MaterialDeck& deck)
 void writeStressStrainTable(MaterialDeck& deck, const PlasticModel& model)
 {
     const double youngs = deck.models().elastic.model->youngsModulus;
-    Cells cells{numberOf(deck), blank, blank, blank, blank, blank, blank, blank, 0.0, 0.0};
+    Cells cells{numberOf(deck), blank, blank, blank, blank, blank, blank, blank, Real{0.0}, Real{0.0}};
     for (std::size_t i = 0; i < model.stresses.size(); ++i) {
-        cells.emplace_back(model.strains[i] + model.stresses[i] / youngs);
-        cells.emplace_back(model.stresses[i]);
+        cells.emplace_back(
+            Real{withoutRoundingError(model.strains[i] + model.stresses[i] / youngs), Id::PlasticStrain});
+        cells.emplace_back(Real{model.stresses[i], Id::PlasticYieldStress});
     }
     cells.emplace_back("ENDT");
     writeEntry(deck, "TABLES1", std::move(cells));
@@ -118,8 +167,10 @@ void writeMats1(MaterialDeck& deck)
     const std::string rule = model->isKinematic ? "2" : "1";
     const bool isTabulated = model->source == HardeningSource::Points;
     const Cell table = isTabulated ? Cell(numberOf(deck)) : blank;
-    const Cell modulus = isTabulated ? blank : Cell(model->modulus);
-    writeEntry(deck, "MATS1", {numberOf(deck), table, "PLASTIC", modulus, "1", rule, model->yieldStress});
+    const Cell modulus = isTabulated ? blank : Cell(Real{model->modulus, Id::PlasticHardeningFactor});
+    writeEntry(deck, "MATS1",
+               {numberOf(deck), table, "PLASTIC", modulus, "1", rule,
+                Real{model->yieldStress, isTabulated ? Id::PlasticYieldStress : Id::PlasticInitialYieldStress}});
     if (isTabulated) {
         writeStressStrainTable(deck, *model);
         deck.convert(Id::PlasticStrain, makeMessage(Text::AsTotalStrain));
@@ -137,11 +188,12 @@ void writeMathp(MaterialDeck& deck)
         return;
     }
     const double bulk = takeBulkModulus(deck, *model, makeMessage(Text::AsHalfBulkModulus));
-    Cells cells{numberOf(deck), model->c10, model->c01, bulk / 2.0, cellOf(deck, Id::Density)};
+    Cells cells{numberOf(deck), Real{model->c10, Id::MaterialConstantC10}, Real{model->c01, Id::MaterialConstantC01},
+                Real{withoutRoundingError(bulk / 2.0), Id::IncompressibilityParameterD1}, cellOf(deck, Id::Density)};
     if (model->c11 != 0.0) {
         cells.resize(17);
         cells[9] = "2"; // NA
-        cells.emplace_back(model->c11);
+        cells.emplace_back(Real{model->c11, Id::MaterialConstantC11});
     }
     writeEntry(deck, "MATHP", std::move(cells));
     reportConstants(deck, *model);
@@ -156,9 +208,14 @@ void writeMat4(MaterialDeck& deck)
         deck.refuse(ids, makeMessage(Text::NeedsAnother, {vxMat::findPropertyRecord(Id::ThermalConductivity)->name}));
         return;
     }
+    const bool hasDensity = deck.values().has(Id::Density);
+    if (!hasDensity) // its default would be 1
+        deck.refuse({Id::SpecificHeat},
+                    makeMessage(Text::NeedsAnother, {vxMat::findPropertyRecord(Id::Density)->name}));
     writeEntry(deck, "MAT4",
-               {numberOf(deck), cellOf(deck, Id::ThermalConductivity), cellOf(deck, Id::SpecificHeat),
-                cellOf(deck, Id::Density), blank, cellOf(deck, Id::DynamicViscosity)});
+               {numberOf(deck), cellOf(deck, Id::ThermalConductivity),
+                hasDensity ? cellOf(deck, Id::SpecificHeat) : blank, cellOf(deck, Id::Density), blank,
+                cellOf(deck, Id::DynamicViscosity)});
     carryAll(deck, ids);
     deck.carry(Id::Density);
 }
@@ -192,8 +249,9 @@ void writeCreep(MaterialDeck& deck)
         return;
     }
     writeEntry(deck, "CREEP",
-               {numberOf(deck), blank, blank, "CRLAW", blank, blank, blank, blank, "300", model->factor / power,
-                model->n, blank, power});
+               {numberOf(deck), blank, blank, "CRLAW", blank, blank, blank, blank, "300",
+                Real{withoutRoundingError(model->factor / power), Id::CreepModulusA}, Real{model->n, Id::CreepModulusN},
+                blank, Real{withoutRoundingError(power), Id::CreepModulusM}});
     deck.convert(Id::CreepModulusA, makeMessage(Text::AsTotalCreep));
     deck.convert(Id::CreepModulusM, makeMessage(Text::AsTotalCreep));
     carryAll(deck, creepIds());
@@ -215,7 +273,7 @@ void beginMaterial(MaterialDeck& deck)
 const CardFormat& nastranFormat()
 {
     static const CardFormat format{Format::Nastran,
-                                   {anyName(), 99999999},
+                                   anyName(),
                                    beginDeck,
                                    beginMaterial,
                                    {{"MAT1", writeMat1},

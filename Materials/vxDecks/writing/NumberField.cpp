@@ -116,6 +116,12 @@ double readBulkReal(const std::string& text)
     return vxMat::readNumber(number);
 }
 
+double withoutRoundingError(double calculated)
+{
+    constexpr int safeDigits = 15;
+    return std::isfinite(calculated) ? vxMat::readNumber(rounded(calculated, safeDigits)) : calculated;
+}
+
 std::string writeWithin(double number, std::size_t longest)
 {
     std::string text = withShortExponent(vxMat::formatNumber(number));

@@ -17,6 +17,9 @@ std::string writeBulkReal(double number, std::size_t longest);
 /// Returns the number in a text of writeBulkReal.
 double readBulkReal(const std::string& text);
 
+/// Returns a calculated number with the 15 digits that errors of rounding do not reach: 1e5 for 99999.99999999999.
+double withoutRoundingError(double calculated);
+
 /// Returns whether a number differs from another one by no more than the rounding of a calculation.
 inline bool isSameNumber(double one, double other)
 {

@@ -115,6 +115,36 @@ TEST(Deck, RefusesWhatItDoesNotKnow)
         EXPECT_EQ(vxmat({"deck", "Air", "--solver", "calculix", wrong}).status, 2) << wrong;
 }
 
+TEST(Deck, RefusesNumbersBeyondTheLargestOfTheFormat)
+{
+    const Outcome run = vxmat({"deck", "Concrete", "Cast Iron", "--solver", "apdl", "--ids", "99999"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("--ids: 2 materials cannot be numbered from 99999; the largest number in Mechanical "
+                                   "APDL is 99999"));
+    EXPECT_EQ(vxmat({"deck", "Concrete", "Cast Iron", "--solver", "apdl", "--ids", "99998"}).status, 0);
+    EXPECT_EQ(vxmat({"deck", "Concrete", "--solver", "apdl", "--ids", "100000"}).status, 2);
+}
+
+TEST(Deck, HasTheFieldsThatTheUserChooses)
+{
+    EXPECT_THAT(vxmat({"deck", "Concrete", "--solver", "nastran", "--fields", "free"}).out,
+                HasSubstr("MAT1,1,3.+10,,.18,2300.\n"));
+    EXPECT_THAT(vxmat({"deck", "Concrete", "--solver", "nastran", "--fields", "wide"}).err,
+                HasSubstr("--fields: there is no form \"wide\"; the forms are: small, large, free"));
+    EXPECT_THAT(vxmat({"deck", "Concrete", "--solver", "apdl", "--fields", "small"}).err,
+                HasSubstr("--fields: only nastran has fields of different forms"));
+}
+
+TEST(Deck, HasTheDialectThatTheUserChooses)
+{
+    EXPECT_THAT(vxmat({"deck", "Viscoelastic Example", "--solver", "calculix", "--dialect", "commercial"}).out,
+                HasSubstr("*VISCOELASTIC, TIME=PRONY\n"));
+    EXPECT_THAT(vxmat({"deck", "Air", "--solver", "calculix", "--dialect", "x"}).err,
+                HasSubstr("--dialect: calculix has no dialect \"x\"; the dialects are: calculix, commercial"));
+    EXPECT_THAT(vxmat({"deck", "Air", "--solver", "elmer", "--dialect", "commercial"}).err,
+                HasSubstr("--dialect: elmer has no dialects"));
+}
+
 TEST(Solvers, AreListedWithTheirCards)
 {
     const Outcome run = vxmat({"solvers"});

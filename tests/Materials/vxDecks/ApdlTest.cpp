@@ -22,6 +22,13 @@ vxDecks::Deck deckOf(const vxtest::MaterialMaker& material)
     return vxtest::deckOf(Format::Apdl, material.get(), "mm-t-s");
 }
 
+TEST(ApdlDeck, HasAResistivityWithoutErrorsOfRounding)
+{
+    vxtest::MaterialMaker insulator;
+    insulator.number(Id::ElectricalConductivity, 1e-5); // 1 / 1e-5 is 99999.99999999999
+    EXPECT_THAT(vxtest::deckOf(Format::Apdl, insulator.get(), "SI").text, EndsWith("MP,RSVX,1,1e5\n"));
+}
+
 TEST(ApdlDeck, HasOnePropertyInEachCommand)
 {
     EXPECT_EQ(bodyOf(*vxtest::steel()), "! Material 1: Test\n"

@@ -40,6 +40,21 @@ std::string overview()
     return text;
 }
 
+/// The rows of a dialect that differ from those of its format.
+std::string differencesOf(const vxDecks::DialectInfo& dialect)
+{
+    std::string text = tableHeader({"quantity", "card", "field", "form", "section of the manual", "proof"});
+    for (const Mapping& one : vxDecks::mappings(dialect.dialect)) {
+        const Mapping& standard = *vxDecks::findMapping(one.format, one.id);
+        const bool isOther = std::string(one.card) != standard.card || std::string(one.field) != standard.field ||
+                             one.transport != standard.transport;
+        if (isOther)
+            text += tableRow({vxMat::findPropertyRecord(one.id)->name, code(one.card), one.field,
+                              *one.how.english ? one.how.english : "as it is", one.manual, nameOf(one.proof)});
+    }
+    return text;
+}
+
 std::string detailsOf(const FormatInfo& format)
 {
     std::string text =
@@ -67,6 +82,12 @@ std::string decksTables()
         overview();
     for (const FormatInfo& format : vxDecks::formats())
         text += std::string("\n### ") + format.title + "\n\nAfter: " + format.manual + ".\n\n" + detailsOf(format);
+    for (const vxDecks::DialectInfo& dialect : vxDecks::dialects()) {
+        if (dialect.dialect != vxDecks::Dialect::Standard)
+            text += std::string("\n### Dialect ") + dialect.name + "\n\nAfter: " + dialect.manual +
+                    ". Quantities that " + vxDecks::infoOf(dialect.format).title + " has in another way:\n\n" +
+                    differencesOf(dialect);
+    }
     return text;
 }
 

@@ -100,7 +100,7 @@ TEST(LsDynaDeck, HasTheConstantsOfEachHyperelasticModel)
     // K, mu and the number of links 5^2
     EXPECT_EQ(bodyOf(*vxtest::arrudaBoyce()), "*MAT_ARRUDA_BOYCE_RUBBER_TITLE\nTest\n"
                                               "         1         0      1000         1        25\n"
-                                              "         0         0         0         0\n");
+                                              "         0         0         0\n");
     EXPECT_EQ(outcomeOf(deckOf(*vxtest::arrudaBoyce()), Id::LimitingNetworkStretch),
               "converted: as the number of links of a chain, the square of the stretch");
 }

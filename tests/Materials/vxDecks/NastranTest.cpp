@@ -63,6 +63,81 @@ TEST(NastranDeck, HasRealNumbersWithAPointInEveryField)
     }
 }
 
+Deck deckInFields(vxDecks::FieldForm fields, const vxtest::MaterialMaker& material)
+{
+    vxDecks::DeckOptions options;
+    options.units = *vxUnits::UnitSystem::parse("SI");
+    options.fields = fields;
+    return vxDecks::writeDeck(Format::Nastran, {{"Test", 1, &material.get()}}, options);
+}
+
+TEST(NastranDeck, RoundsToSmallFieldsIfTheUserChoosesThem)
+{
+    auto steel = vxtest::steel();
+    steel->number(Id::YoungsModulus, 206123456789.0);
+    const Deck deck = deckInFields(vxDecks::FieldForm::Small, *steel);
+    EXPECT_THAT(deck.text, testing::HasSubstr("MAT1    1       2.061+11        .3      7850.\n"));
+    EXPECT_EQ(outcomeOf(deck, Id::YoungsModulus), "approximated: rounded to a field of 8 characters");
+    EXPECT_EQ(outcomeOf(deck, Id::PoissonsRatio), "carried");
+    EXPECT_EQ(outcomeOf(deckOf(*steel, "SI"), Id::YoungsModulus), "carried") << "in a large field";
+}
+
+TEST(NastranDeck, HasLargeFieldsIfTheUserChoosesThem)
+{
+    EXPECT_THAT(deckInFields(vxDecks::FieldForm::Large, *vxtest::steel()).text,
+                testing::HasSubstr("MAT1*   1               2.+11                           .3              *\n"
+                                   "*       7850.\n"
+                                   "MAT4*   1               54.             490.            7850.           *\n*\n"));
+}
+
+TEST(NastranDeck, TellsDigitsThatALargeFieldLoses)
+{
+    vxtest::MaterialMaker material;
+    material.number(Id::ThermalConductivity, -1.2345678901234567e-105);
+    EXPECT_EQ(outcomeOf(deckInFields(vxDecks::FieldForm::Large, material), Id::ThermalConductivity),
+              "approximated: rounded to a field of 16 characters");
+}
+
+TEST(NastranDeck, HasFieldsDividedByCommasIfTheUserChoosesThem)
+{
+    auto steel = vxtest::steel();
+    EXPECT_THAT(deckInFields(vxDecks::FieldForm::Free, *steel).text,
+                testing::HasSubstr("MAT1,1,2.+11,,.3,7850.\nMAT4,1,54.,490.,7850.\n"));
+    steel->number(Id::YoungsModulus, 206123456789.0);
+    EXPECT_THAT(deckInFields(vxDecks::FieldForm::Free, *steel).text,
+                testing::HasSubstr("MAT1*,1,206123456789.,,.3,*\n*,7850.\n"));
+    auto mooney = vxtest::mooney();
+    mooney->number(Id::MaterialConstantC11, 1e4);
+    EXPECT_THAT(deckInFields(vxDecks::FieldForm::Free, *mooney).text,
+                testing::HasSubstr("MATHP,1,3.+5,2.+5,5.+8,,,,,+\n+,,2,,,,,,,+\n+,,1.+4\n"));
+}
+
+TEST(NastranDeck, HasFormsOfFieldsByName)
+{
+    EXPECT_EQ(vxDecks::findFieldForm("FREE"), vxDecks::FieldForm::Free);
+    EXPECT_EQ(vxDecks::findFieldForm("small"), vxDecks::FieldForm::Small);
+    EXPECT_EQ(vxDecks::findFieldForm("large"), vxDecks::FieldForm::Large);
+    EXPECT_EQ(vxDecks::findFieldForm("wide"), std::nullopt);
+}
+
+TEST(NastranDeck, RefusesASpecificHeatWithoutADensity)
+{
+    // The default of the density is 1, so that the solver would compute with another heat capacity.
+    vxtest::MaterialMaker material;
+    material.number(Id::ThermalConductivity, 54.0).number(Id::SpecificHeat, 490.0);
+    const Deck deck = deckOf(material, "SI");
+    EXPECT_THAT(deck.text, testing::EndsWith("MAT4    1       54.\n"));
+    EXPECT_EQ(outcomeOf(deck, Id::SpecificHeat), "lost: the card needs Density too");
+}
+
+TEST(NastranDeck, HasOnlyTheConstantsOfTheChosenModel)
+{
+    auto material = vxtest::neoHooke();
+    material->number(Id::MaterialConstantC01, 2e5);
+    EXPECT_EQ(bodyOf(*material), bodyOf(*vxtest::neoHooke()));
+    EXPECT_EQ(outcomeOf(deckOf(*material), Id::MaterialConstantC01), "lost: the material model does not use it");
+}
+
 TEST(NastranDeck, HasBilinearPlasticityByThePlasticModulus)
 {
     auto material = vxtest::bilinear();

@@ -16,7 +16,7 @@ namespace vxUnits {
 /// The exponents of a creep law, strain rate = A stress^n time^m. The unit of A depends on them.
 struct CreepExponents
 {
-    std::optional<double> n; ///< absent if the material does not have it
+    std::optional<double> n; ///< absent if the material does not have it; NaN if it has one that cannot be read
     std::optional<double> m;
 
     bool areBothGiven() const { return n && m; }

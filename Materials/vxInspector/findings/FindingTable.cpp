@@ -6,6 +6,7 @@
 #include "vxMaterial/gui/FindingText.h"
 #include "vxMaterial/model/MaterialCheck.h"
 #include "vxMaterial/model/MaterialProperty.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/Plausibility.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,8 @@ public:
             all.push_back(row(tr("Error"), unread.id, textOf(unread)));
         std::set<std::int32_t> wrong;
         for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(*m_inspected.material)) {
+            if (missesUnread(finding))
+                continue;
             all.push_back(row(kindOf(finding), idIn(finding.slot), MatGui::findingText(finding)));
             wrong.insert(finding.slot);
         }
@@ -48,6 +51,20 @@ public:
     }
 
 private:
+    /// Returns whether a finding says that a quantity is missing whose row cannot be read, which is a finding already.
+    bool missesUnread(const vxMat::MaterialFinding& finding) const
+    {
+        return std::any_of(m_inspected.unreadRows.begin(), m_inspected.unreadRows.end(), [&](const UnreadRow& unread) {
+            const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(unread.id);
+            const auto names = [record](const vxMat::FindingArgument& argument) {
+                return record != nullptr && argument.kind == vxMat::FindingArgument::Kind::QuantityName &&
+                       argument.text == record->name;
+            };
+            return m_inspected.material->findProperty(unread.id) == nullptr &&
+                   std::any_of(finding.arguments.begin(), finding.arguments.end(), names);
+        });
+    }
+
     static QString kindOf(const vxMat::MaterialFinding& finding)
     {
         return finding.severity == vxMat::FindingSeverity::Error ? tr("Error") : tr("Warning");

@@ -20,6 +20,11 @@ TabPage::TabPage(const char* name, QWidget* parent)
     // A long label of a material must not widen the dock.
     m_sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* const layout = new QVBoxLayout(this);
+    // The table gets the width of a narrow dock.
+    QMargins margins = layout->contentsMargins();
+    margins.setRight(0);
+    margins.setLeft(0);
+    layout->setContentsMargins(margins);
     layout->addWidget(m_sentence);
     layout->addWidget(m_view, 1);
     m_view->hide();

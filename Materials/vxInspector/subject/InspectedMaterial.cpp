@@ -7,10 +7,13 @@
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/MaterialProperty.h"
 #include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyId.h"
 #include "vxMaterial/model/PropertyRules.h"
 #include "vxMaterial/project/MaterialObject.h"
 #include "vxUnits/Reading.h"
 
+#include <algorithm>
+#include <cmath>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -43,10 +46,11 @@ bool addPlain(vxMat::MaterialBase& material, const SheetRow& row)
 }
 
 /// Adds the value of a row with units. Returns the reason if it cannot be read.
-std::optional<QString> addWithUnits(vxMat::MaterialBase& material, const SheetRow& row)
+std::optional<QString> addWithUnits(vxMat::MaterialBase& material, const SheetRow& row,
+                                    const std::optional<vxUnits::CreepExponents>& creep)
 {
     const std::string value = row.value.toStdString();
-    const vxUnits::ReadingContext context{nullptr, vxUnits::creepExponents(material)};
+    const vxUnits::ReadingContext context{nullptr, creep};
     if (vxMat::getValueKind(row.id) == vxMat::ValueKind::NumberList) {
         const auto list = vxUnits::readQuantityList(row.id, value, context);
         if (!list)
@@ -59,6 +63,24 @@ std::optional<QString> addWithUnits(vxMat::MaterialBase& material, const SheetRo
         return translated(reading.failure(), value);
     add(material, row, vxMat::formatNumber(reading->value));
     return std::nullopt;
+}
+
+bool isExponent(std::int32_t id)
+{
+    return id == vxMat::PropertyId::CreepModulusN || id == vxMat::PropertyId::CreepModulusM;
+}
+
+/// Returns the exponents of a creep law: NaN for those whose rows cannot be read.
+std::optional<vxUnits::CreepExponents> exponentsOf(const InspectedMaterial& inspected)
+{
+    auto exponents = vxUnits::creepExponents(*inspected.material);
+    for (const UnreadRow& unread : inspected.unreadRows) {
+        if (!isExponent(unread.id))
+            continue;
+        exponents = exponents.value_or(vxUnits::CreepExponents());
+        (unread.id == vxMat::PropertyId::CreepModulusN ? exponents->n : exponents->m) = std::nan("");
+    }
+    return exponents;
 }
 
 /// Returns the rows of an editor that are not applied; absent if it shows the applied material.
@@ -82,9 +104,12 @@ void readRows(const std::vector<SheetRow>& rows, InspectedMaterial& into)
     for (std::size_t i = 0; i < rows.size(); ++i)
         if (!addPlain(*into.material, rows[i]))
             others.push_back(i);
+    std::stable_partition(others.begin(), others.end(), [&rows](std::size_t i) { return isExponent(rows[i].id); });
     for (const std::size_t i : others)
-        if (auto reason = addWithUnits(*into.material, rows[i]))
+        if (auto reason = addWithUnits(*into.material, rows[i], exponentsOf(into)))
             into.unreadRows.push_back({rows[i].id, static_cast<int>(i) + 1, rows[i].value, std::move(*reason)});
+    std::sort(into.unreadRows.begin(), into.unreadRows.end(),
+              [](const UnreadRow& one, const UnreadRow& other) { return one.number < other.number; });
     vxMat::restoreCatalogueTexts(*into.material);
 }
 

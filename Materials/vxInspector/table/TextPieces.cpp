@@ -17,6 +17,18 @@ bool isOfTextWithoutBlanks(QChar character)
     return character.unicode() >= firstRadical && character.unicode() != QChar::ReplacementCharacter;
 }
 
+/// Returns whether a hyphen between the letters of two words is at a place, as in "DRUCKER-PRAGER".
+bool isHyphen(const QString& text, int place)
+{
+    constexpr int fewest = 3; // "mm-t-s" remains whole
+    const auto areLetters = [&text](int begin, int end) {
+        return begin >= 0 && end <= text.size() &&
+               std::all_of(text.begin() + begin, text.begin() + end, [](QChar one) { return one.isLetter(); });
+    };
+    return text[place] == QLatin1Char('-') && areLetters(place - fewest, place) &&
+           areLetters(place + 1, place + 1 + fewest);
+}
+
 bool isNumber(const QString& piece)
 {
     static const QRegularExpression number(QStringLiteral("^[-+]?[.0-9][-+.0-9eE]{0,30}[,;:.]?\\s*$"));
@@ -36,7 +48,7 @@ std::vector<QString> textPieces(const QString& text)
         begin = end;
     };
     for (int end = 1; end < text.size(); ++end) {
-        if (text[end - 1].isSpace())
+        if (text[end - 1].isSpace() || isHyphen(text, end - 1))
             add(end);
         else if (isOfTextWithoutBlanks(text[end - 1]) || isOfTextWithoutBlanks(text[end])) {
             finder.setPosition(end);

@@ -8,7 +8,7 @@
 /// Texts of cells in columns that may be narrower than the texts.
 namespace vxInspector {
 
-/// Returns the pieces of a text between which a line may end: words, numbers and units at blanks, and the characters of
+/// Returns the pieces of a text between which a line may end: words, numbers and units at blanks, words at hyphens, and the characters of
 /// Chinese, Japanese and Korean texts, which have no blanks.
 std::vector<QString> textPieces(const QString& text);
 

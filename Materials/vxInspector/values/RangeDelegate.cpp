@@ -97,6 +97,7 @@ void RangeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIn
         option->features &= ~QStyleOptionViewItem::ViewItemFeatures(QStyleOptionViewItem::WrapText);
         return;
     }
+    option->decorationAlignment = Qt::AlignLeft | Qt::AlignTop;
     const bool isName = index.column() == 0; // is elided
     const int width = textWidth(*option, index);
     if (!isName && width > 0)

@@ -4,6 +4,7 @@
 #include "filter/MeantExpression.h"
 #include "filter/QuantityNames.h"
 #include "units/Reader.h"
+#include "units/Spelling.h"
 #include "units/Texts.h"
 #include "units/UnitReading.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
@@ -292,6 +293,7 @@ bool FilterParser::readRangeOrLabel(std::size_t first, std::size_t last)
     }
     addLabelTests(first, range.name);
     m_next = range.value;
+    m_beginOfCondition = m_tokens[range.name].begin;
     Part value{};
     return beginOperand(partOf(m_tokens[range.name])) && takeValue(m_names.nameOf(range.quantity), value) &&
            addNumberTest(range.quantity, Comparison::Equal, value);
@@ -347,6 +349,7 @@ bool FilterParser::readComparison(std::size_t firstWord, const FilterQuantity& q
     ++m_next;
     const QuantityForm form = formOf(quantity);
     const Part comparison{m_tokens[firstWord].begin, sign.end};
+    m_beginOfCondition = comparison.begin;
     if (form == QuantityForm::Switch)
         return fail(comparison, makeFailure(FaultCode::TakesNoNumber, FilterText::SwitchHasNoValue,
                                             {m_names.nameOf(quantity)}, "has " + m_names.nameOf(quantity)));
@@ -448,8 +451,10 @@ bool FilterParser::refuseValue(const FilterQuantity& quantity, Part value, Failu
         const bool mayBeUnit = !hasUnit && m_tokens[last].text.size() <= longestUnitStart;
         if (m_tokens[last].kind != Kind::Word || mayBeUnit || !readOne(quantity, textOf(before)))
             continue;
-        return fail(value, makeFailure(FaultCode::UnknownUnit, FilterText::UnitOrCondition, {excerpt(textOf(rest))},
-                                       excerpt(textOf(before)) + " and " + excerpt(textOf(rest))));
+        // The suggestion replaces the whole condition.
+        return fail({m_beginOfCondition, value.end},
+                    makeFailure(FaultCode::UnknownUnit, FilterText::UnitOrCondition, {excerpt(textOf(rest))},
+                                excerpt(textOf({m_beginOfCondition, before.end})) + " and " + excerpt(textOf(rest))));
     }
     return fail(value, std::move(failure));
 }

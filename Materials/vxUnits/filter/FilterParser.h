@@ -112,8 +112,9 @@ private:
     ReadingContext m_context;
     const QuantityNames& m_names;
     std::vector<FilterToken> m_tokens;
-    std::size_t m_next = 0;    ///< token
-    bool m_isComplete = false; ///< whether an operand comes before
+    std::size_t m_next = 0;             ///< token
+    std::size_t m_beginOfCondition = 0; ///< of the name of its quantity, in the text
+    bool m_isComplete = false;          ///< whether an operand comes before
     std::vector<Pending> m_pending;
     std::size_t m_depth = 0; ///< of parentheses and `not`
     Filter m_filter;

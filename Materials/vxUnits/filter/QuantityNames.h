@@ -54,8 +54,4 @@ private:
     std::size_t m_longest = 0;
 };
 
-/// Returns the number of letters to add, to remove or to exchange, or to swap with their neighbours, in one text to get the
-/// other. Takes the product of their lengths.
-std::size_t editDistance(std::string_view one, std::string_view other);
-
 } // namespace vxUnits

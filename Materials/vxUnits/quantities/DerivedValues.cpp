@@ -63,7 +63,7 @@ constexpr Derivation derivations[] = {
      [](const Inputs& in) { return in.shearModulus(); }},
     {"bulk-modulus", "Bulk modulus", "K", "E / (3 (1 - 2 nu))", d::pressure,
      [](const Inputs& in) { return in.bulkModulus(); }},
-    {"lame-constant", "First Lame constant", "lambda", "E nu / ((1 + nu) (1 - 2 nu))", d::pressure,
+    {"lame-constant", "First Lam\xC3\xA9 constant", "lambda", "E nu / ((1 + nu) (1 - 2 nu))", d::pressure,
      [](const Inputs& in) { return in.e * in.nu / ((1.0 + in.nu) * (1.0 - 2.0 * in.nu)); }},
     {"constrained-modulus", "Constrained modulus", "M", "K + 4/3 G", d::pressure,
      [](const Inputs& in) { return in.bulkModulus() + 4.0 / 3.0 * in.shearModulus(); }},

@@ -5,6 +5,7 @@
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace vxUnits {
@@ -189,6 +190,9 @@ std::optional<Failure> refuseCreepUnit(const CreepExponents& creep)
     const std::string factor = nameOf(Id::CreepModulusA);
     const std::string n = nameOf(Id::CreepModulusN);
     const std::string m = nameOf(Id::CreepModulusM);
+    const auto isUnread = [](const std::optional<double>& exponent) { return exponent && std::isnan(*exponent); };
+    if (isUnread(creep.n) || isUnread(creep.m))
+        return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreepUnread, {factor, isUnread(creep.n) ? n : m});
     if (!creep.n && !creep.m)
         return makeFailure(FaultCode::UnitNotKnown, Text::UnitOfCreep, {factor, n, m});
     if (!creep.areBothGiven())

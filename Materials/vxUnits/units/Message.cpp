@@ -56,6 +56,7 @@ constexpr std::array<MessageText, static_cast<std::size_t>(Text::Count)> texts{{
     {"units.unit-of-creep-range",
      "The unit of %1 depends on %2, which is not between -50 and 50; convert the number to SI units and write it "
      "without a unit."},
+    {"units.unit-of-creep-unread", "The unit of %1 depends on %2, which cannot be read; correct it first."},
     {"units.database-unreadable",
      R"(The unit "%1" is not built in, and the database of units cannot be read: %2. Install the data of UDUNITS-2, or )"
      "have the environment variable UDUNITS2_XML_PATH name the file udunits2.xml."},
@@ -68,6 +69,8 @@ constexpr std::array<MessageText, static_cast<std::size_t>(Text::Count)> texts{{
      R"(The comma in "%1" may be a decimal sign or separate two numbers; write "%2" or "%3".)"},
     {"units.system-empty", "A unit system needs a name (%1) or its base units (%2)."},
     {"units.system-base-unknown", R"("%1" does not begin with one of length, mass, time, temperature and current.)"},
+    {"units.system-unit-missing", "The unit of %1 is missing; a unit such as %2 is needed."},
+    {"units.system-unit-with-number", R"("%1" begins with a number; %2 needs a unit alone, such as %3.)"},
     {"units.system-base-repeated", "The unit system gives the unit of %1 twice."},
     {"units.system-base-missing", "The unit system gives no unit of %1."},
     {"units.note-calorie", "cal is the International Table calorie, 4.1868 J; cal_th is 4.184 J."},

@@ -277,7 +277,7 @@ bool isBetweenDigits(std::string_view text, std::size_t at)
 /// Returns the list with a point for every comma without a blank after it.
 std::string withPoints(std::string_view text)
 {
-    std::string changed(text);
+    std::string changed(text.substr(0, text.find_last_not_of(", ") + 1));
     for (std::size_t i = 0; i + 1 < changed.size(); ++i) {
         if (changed[i] == ',' && changed[i + 1] != ' ')
             changed[i] = '.';
@@ -386,11 +386,29 @@ private:
                                item.begin == m_items.back().begin && isLetter(item.text.front());
         if (unitAlone)
             m_failure.suggestion = withUnitOfLast();
+        else if (const std::string separated = withCommaAfterUnit(item); !separated.empty())
+            m_failure = makeFailure(FaultCode::SeveralNumbers, Text::SeveralNumbers, {excerpt(item.text)}, separated);
         else if (several && item.text.find(' ') != std::string_view::npos)
             m_failure.suggestion = grouped ? withoutGroups(m_text, ' ') : withCommas(m_text);
         else if (!m_failure.suggestion.empty())
             m_failure.suggestion = std::string(m_text.substr(0, item.begin)) + m_failure.suggestion +
                                    std::string(m_text.substr(item.begin + item.text.size()));
+    }
+
+    /// Returns "250 MPa, 300 MPa" for "250 MPa 300 MPa"; empty if no number follows a unit in the item.
+    std::string withCommaAfterUnit(const Item& item) const
+    {
+        const std::string_view text = item.text;
+        for (std::size_t at = text.find(' '); at != std::string_view::npos; at = text.find(' ', at + 1)) {
+            const std::string_view before = text.substr(0, at);
+            const std::string_view after = text.substr(at + 1);
+            const bool isBetween =
+                at > 0 && (isLetter(before.back()) || before.back() == ')') && !after.empty() && isDigit(after.front());
+            if (isBetween && NumberReader(m_target, before).read() && NumberReader(m_target, after).read())
+                return std::string(m_text.substr(0, item.begin + at)) + "," +
+                       std::string(m_text.substr(item.begin + at));
+        }
+        return {};
     }
 
     /// Returns "250, 300 MPa" for "250, 300, MPa".
@@ -431,7 +449,7 @@ private:
     /// Returns the list with a blank after a comma.
     std::string withBlank(std::size_t comma) const
     {
-        std::string text(m_text);
+        std::string text(m_text.substr(0, m_text.find_last_not_of(", ") + 1));
         return text.insert(comma + 1, " ");
     }
 

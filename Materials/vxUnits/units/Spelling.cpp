@@ -270,4 +270,26 @@ std::string suggestTerms(const std::vector<Term>& terms, const Dimension& target
     return found ? UnitBuilder::build(*found).text() : std::string();
 }
 
+std::size_t editDistance(std::string_view one, std::string_view other)
+{
+    // Three rows of the table of distances between the beginnings of both texts.
+    std::vector<std::size_t> before(other.size() + 1);
+    std::vector<std::size_t> above(other.size() + 1);
+    std::vector<std::size_t> row(other.size() + 1);
+    for (std::size_t j = 0; j <= other.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= one.size(); ++i) {
+        before.swap(above);
+        above.swap(row);
+        row[0] = i;
+        for (std::size_t j = 1; j <= other.size(); ++j) {
+            const std::size_t exchanged = above[j - 1] + (one[i - 1] == other[j - 1] ? 0 : 1);
+            row[j] = std::min({exchanged, above[j] + 1, row[j - 1] + 1});
+            if (i > 1 && j > 1 && one[i - 1] == other[j - 2] && one[i - 2] == other[j - 1])
+                row[j] = std::min(row[j], before[j - 2] + 1);
+        }
+    }
+    return row[other.size()];
+}
+
 } // namespace vxUnits

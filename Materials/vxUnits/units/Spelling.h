@@ -19,4 +19,8 @@ std::string suggestUnit(std::string_view folded, const Dimension* target);
 /// "lb/in^2", "J/(kg degC)" for "J/(kg C)". Empty if no unit is near.
 std::string suggestTerms(const std::vector<Term>& terms, const Dimension& target);
 
+/// Returns the number of letters to add, to remove or to exchange, or to swap with their neighbours, in one text to get the
+/// other. Takes the product of their lengths.
+std::size_t editDistance(std::string_view one, std::string_view other);
+
 } // namespace vxUnits

@@ -163,6 +163,11 @@ private:
     bool readUnit(std::size_t base, std::string_view text)
     {
         const auto wanted = static_cast<Dimension::Base>(base);
+        const std::string& usual = UnitSystem::si().baseUnit(wanted);
+        if (text.empty())
+            return refuse(Text::SystemUnitMissing, {baseWords[base], usual});
+        if (isDigit(text[std::min(text.find_first_not_of("+-."), text.size() - 1)]))
+            return refuse(Text::SystemUnitWithNumber, {excerpt(text), baseWords[base], usual});
         const ParsedUnit parsed = parseUnit(text, text);
         const Dimension dimension(wanted);
         const Dimension given = dimensionOf(parsed.terms);
@@ -172,9 +177,8 @@ private:
         }
         m_failure = parsed.failure;
         if (parsed.valid)
-            m_failure =
-                makeFailure(FaultCode::WrongDimension, Text::WrongDimensionOf,
-                            {excerpt(text), measureOf(given), UnitSystem::si().baseUnit(wanted), baseWords[base]});
+            m_failure = makeFailure(FaultCode::WrongDimension, Text::WrongDimensionOf,
+                                    {excerpt(text), measureOf(given), usual, baseWords[base]});
         else
             m_failure.suggestion = suggestUnit(text, &dimension);
         return false;
@@ -217,6 +221,29 @@ bool isNameOf(const BuiltInSystem& row, std::string_view text)
     return false;
 }
 
+/// Returns the name of the built-in system that differs from a text by at most two letters; empty if there is none.
+std::string nearestSystem(const std::string& text)
+{
+    constexpr std::size_t longest = 12;
+    constexpr std::size_t mostErrors = 2;
+    constexpr std::size_t shortest = 4; // "SI" is near to every short text
+    std::string nearest;
+    std::size_t fewest = mostErrors + 1;
+    if (text.size() < shortest || text.size() > longest)
+        return nearest;
+    std::string lower = text;
+    for (char& c : lower)
+        c = 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    for (const BuiltInSystem& row : builtInSystems) {
+        const std::size_t errors = editDistance(lower, row.name);
+        if (errors < fewest) {
+            fewest = errors;
+            nearest = row.name;
+        }
+    }
+    return nearest;
+}
+
 std::string builtInNames()
 {
     std::string names;
@@ -255,7 +282,13 @@ Result<UnitSystem> UnitSystem::parse(std::string_view text)
                                          [&](const BuiltInSystem& one) { return isNameOf(one, folded.text); });
     if (row != std::end(builtInSystems))
         return builtIn()[static_cast<std::size_t>(row - std::begin(builtInSystems))];
-    return SystemParser().parse(folded.text);
+    auto system = SystemParser().parse(folded.text);
+    if (system)
+        return system;
+    Failure failure = system.failure();
+    if (failure.suggestion.empty())
+        failure.suggestion = nearestSystem(folded.text);
+    return failure;
 }
 
 const std::string& UnitSystem::baseUnit(Dimension::Base base) const

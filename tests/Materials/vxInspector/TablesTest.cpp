@@ -214,6 +214,11 @@ TEST(TextPieces, AreSingleCharactersOfTextsWithoutBlanks)
                 ElementsAre("\u70ed", "\u6269", "\u6563", "\u7387", "11.569m^2/s"));
 }
 
+TEST(TextPieces, EndAtHyphensBetweenWords)
+{
+    EXPECT_THAT(piecesOf("DRUCKER-PRAGER mm-t-s 1e-10"), ElementsAre("DRUCKER-", "PRAGER", "mm-t-s", "1e-10"));
+}
+
 TEST(TextPieces, KeepNumbersWholeAndBreakOtherTextsThatAreTooWide)
 {
     const QFontMetricsF font{QFont()};
@@ -350,6 +355,26 @@ TEST(FindingTable, GivesTheDoubtedRowsOfTheValuesASign)
     EXPECT_THAT(modulus.toolTip.toStdString(), HasSubstr("gives a wave speed of"));
     EXPECT_EQ(modulus.copied(), "Young's modulus");
     EXPECT_FALSE(values.rows[rowOf(values, "Density")].cells[0].hasSign);
+}
+
+TEST(FindingTable, DoesNotCallAValueMissingThatCannotBeRead)
+{
+    std::vector<InspectedMaterial> all(1);
+    all.front() = readRows({sheetRow(Id::IsotropicElasticity, "1"), sheetRow(Id::YoungsModulus, "2e11"),
+                            sheetRow(Id::PoissonsRatio, "0.3 x")});
+    const TableContent table = findingTable(all, UnitSystem::si());
+    ASSERT_EQ(table.rows.size(), 1U);
+    EXPECT_THAT(textsOf(table, 0)[vxInspector::FindingColumn::Finding], HasSubstr("cannot be read"));
+}
+
+TEST(EditorRows, OfACreepLawNameTheExponentThatCannotBeRead)
+{
+    const InspectedMaterial material = readRows({sheetRow(Id::CreepModulusA, "1e-10 MPa^-4.5 s^-1"),
+                                                 sheetRow(Id::CreepModulusN, "4,5"), sheetRow(Id::CreepModulusM, "0")});
+    ASSERT_EQ(material.unreadRows.size(), 2U);
+    EXPECT_EQ(material.unreadRows[0].id, Id::CreepModulusA);
+    EXPECT_EQ(material.unreadRows[0].reason,
+              "The unit of Creep Modulus A depends on Creep Modulus N, which cannot be read; correct it first.");
 }
 
 TEST(FindingTable, SaysOnceThatANumberIsNotFinite)

@@ -311,6 +311,13 @@ TEST(Refusals, NoTemperatureIsBelowTheAbsoluteZero)
     EXPECT_EQ(readNumber("-1 K", kelvin)->value, -1.0) << "a difference may be negative";
 }
 
+TEST(Refusals, OfAListSuggestNoCommaAtItsEnd)
+{
+    EXPECT_EQ(
+        readQuantityList(Id::PlasticYieldStress, "250,300,").failure().text(),
+        "The comma in \"250,300,\" may be a decimal sign or separate two numbers; write \"250.300\" or \"250, 300\".");
+}
+
 TEST(Refusals, OfListsNameTheNumber)
 {
     struct ListRefusal
@@ -345,6 +352,8 @@ TEST(Refusals, OfListsNameTheNumber)
         {"250, 300 kg", FaultCode::WrongDimension, ""},
         {"250, x", FaultCode::NumberMissing, ""},
         {"250, nan", FaultCode::NotFinite, ""},
+        {"250 MPa 300 MPa", FaultCode::SeveralNumbers, "250 MPa, 300 MPa"},
+        {"250 MPa, 300 MPa 350 MPa", FaultCode::SeveralNumbers, "250 MPa, 300 MPa, 350 MPa"},
     };
     for (const ListRefusal& one : lists) {
         const auto reading = readQuantityList(Id::PlasticYieldStress, one.text);

@@ -180,14 +180,19 @@ TEST(UnitSystems, SayWhatIsWrongWithATheirText)
         {"",
          "A unit system needs a name (SI, mm-t-s, mm-kg-ms, cm-g-s, ft-slug-s, in-lbf-s) or its base units (length cm, "
          "mass g, time us)."},
-        {"mm-t", "\"mm-t\" does not begin with one of length, mass, time, temperature and current."},
+        {"mm-t", "\"mm-t\" does not begin with one of length, mass, time, temperature and current. Did you mean "
+                 "\"mm-t-s\"?"},
+        {"mm-kg-m", "\"mm-kg-m\" does not begin with one of length, mass, time, temperature and current. Did you mean "
+                    "\"mm-kg-ms\"?"},
+        {"length cm, mass g, time", "The unit of time is missing; a unit such as s is needed."},
+        {"length -1 m, mass g, time s", "\"-1 m\" begins with a number; length needs a unit alone, such as m."},
         {"length mm, mass t", "The unit system gives no unit of time."},
         {"length mm, length cm, mass t, time s", "The unit system gives the unit of length twice."},
         {"length kg, mass t, time s", "\"kg\" measures mass; length needs a unit such as m."},
         {"length mmm, mass t, time s", "The unit \"mmm\" is not known. Did you mean \"mm\"?"},
         {"length mm, mass ton, time s", "\"ton\" has more than one meaning; write t (1000 kg), short_ton (2000 lb) or "
                                         "long_ton (2240 lb). Did you mean \"t\"?"},
-        {"length, mass t, time s", "\"\" measures a pure number; length needs a unit such as m."},
+        {"length, mass t, time s", "The unit of length is missing; a unit such as m is needed."},
     };
     for (const Refusal& one : refusals) {
         const auto system = UnitSystem::parse(one.text);

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -33,12 +34,20 @@ int idOf(const QModelIndex& cell)
     return cell.sibling(cell.row(), SheetTableView::Id).data().toInt();
 }
 
-/// Returns the number in the row of a quantity; absent if the table has no such row or its text is not one number.
+std::optional<double> numberOf(const QString& text)
+{
+    if (text.trimmed().isEmpty())
+        return std::nullopt;
+    return vxMat::readWholeNumber(text.toStdString()).value_or(std::nan(""));
+}
+
+/// Returns the number in the row of a quantity: NaN if its text is not one number; absent if the table has no such row, or its
+/// text is blank.
 std::optional<double> numberIn(const QAbstractItemModel& rows, int id)
 {
     for (int row = 0; row < rows.rowCount(); ++row)
         if (rows.index(row, SheetTableView::Id).data().toInt() == id)
-            return vxMat::readWholeNumber(rows.index(row, SheetTableView::Value).data().toString().toStdString());
+            return numberOf(rows.index(row, SheetTableView::Value).data().toString());
     return std::nullopt;
 }
 

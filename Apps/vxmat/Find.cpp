@@ -3,6 +3,7 @@
 #include "ChosenUnits.h"
 #include "Documents.h"
 #include "Files.h"
+#include "ForeignNames.h"
 #include "MaterialNames.h"
 #include "TextTable.h"
 
@@ -39,6 +40,10 @@ vxUnits::FilterReading readExpression(const std::string& expression, const UnitS
     vxUnits::ReadingContext context;
     context.plainNumbers = &system;
     vxUnits::FilterReading reading = vxUnits::readFilter(expression, context);
+    if (!reading && reading.failure.code == vxUnits::FaultCode::UnknownQuantity)
+        if (std::string english = findEnglishName(expression.substr(reading.position, reading.length));
+            !english.empty())
+            reading.failure.suggestion = std::move(english);
     if (!reading)
         throw Failure("the expression, character " + std::to_string(characterAt(expression, reading.position)) + ": " +
                       reading.failure.text());

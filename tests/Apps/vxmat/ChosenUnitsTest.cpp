@@ -188,7 +188,7 @@ TEST(ChosenUnits, OfAnImportedDocumentAreNamedIfTheNumbersLookLikeOthers)
         const Outcome run = vxmat(read);
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.err, "vxmat: note: " + document + ": the numbers " + notes[i] +
-                               "; --units gives the unit system of the document\n");
+                               "; --units gives the unit system of its numbers\n");
     }
 }
 
@@ -204,7 +204,7 @@ TEST(ChosenUnits, OfAnImportedDocumentAreNamedForEachMaterialThatDiffersFromTheO
     EXPECT_EQ(run.err,
               "vxmat: note: " + document +
                   ": 3 Structural Steel: the numbers look like mm-t-s, not SI; --units gives the unit system of "
-                  "the document\n");
+                  "its numbers\n");
 }
 
 TEST(ChosenUnits, AreRefusedIfTheyAreNoSystem)

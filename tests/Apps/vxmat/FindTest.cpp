@@ -131,6 +131,15 @@ TEST(Find, RefusesAnExpressionWithThePlaceAndTheNearestSpelling)
     EXPECT_THAT(vxmat({"find", "library", "E > 1 furlongs"}).err, HasSubstr("character 5: "));
 }
 
+TEST(Find, SuggestsTheEnglishNameOfAQuantityInAnotherLanguage)
+{
+    const Outcome german = vxmat({"find", "library", "Dichte > 5"});
+    EXPECT_EQ(german.status, 2);
+    EXPECT_THAT(german.err, testing::HasSubstr("No quantity is called \"Dichte\". Did you mean \"Density\"?"));
+    EXPECT_THAT(vxmat({"find", "library", "schubmodul > 5 GPa"}).err,
+                testing::HasSubstr("Did you mean \"Shear modulus\"?"));
+}
+
 TEST(Find, RefusesUnknownUnitSystemsAndFilesThatCannotBeRead)
 {
     EXPECT_THAT(vxmat({"find", "library", "E > 1", "--units", "cgs?"}).err, HasSubstr("--units: "));

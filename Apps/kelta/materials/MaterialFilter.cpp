@@ -88,8 +88,10 @@ std::vector<Gui::FilterCompletion> MaterialFilter::completionsFor(const QString&
     for (const vxUnits::Completion& one : vxUnits::completionsFor(viewOf(utf8), viewOf(utf8).size(), translatedNames()))
     {
         const int begin = characters(utf8, one.begin);
-        completions.push_back(
-            {begin, cursor - begin, QString::fromStdString(one.text), QString::fromStdString(one.meaning)});
+        const bool isValue = one.kind == vxUnits::CompletionKind::Unit || one.kind == vxUnits::CompletionKind::Word;
+        using Next = Gui::FilterCompletion::Next;
+        completions.push_back({begin, cursor - begin, QString::fromStdString(one.text),
+                               QString::fromStdString(one.meaning), isValue ? Next::End : Next::Word});
     }
     return completions;
 }

@@ -127,7 +127,8 @@ void FilterField::offer()
     });
 }
 
-/// A blank after the text begins the next word.
+/// A blank after the text begins the next word, for which texts are offered. After the end of a condition there is none, so
+/// that the list does not cover what the filter has found.
 bool FilterField::take(int row)
 {
     const auto place = static_cast<std::size_t>(row);
@@ -136,7 +137,8 @@ bool FilterField::take(int row)
     const FilterCompletion chosen = m_offered[place];
     m_completer->popup()->hide();
     const QString rest = text().mid(chosen.begin + chosen.length);
-    const QString inserted = chosen.text + (rest.startsWith(QLatin1Char(' ')) ? QString() : QStringLiteral(" "));
+    const bool hasBlank = chosen.next == FilterCompletion::Next::Word && !rest.startsWith(QLatin1Char(' '));
+    const QString inserted = hasBlank ? chosen.text + QLatin1Char(' ') : chosen.text;
     setText(text().left(chosen.begin) + inserted + rest);
     setCursorPosition(chosen.begin + inserted.size());
     offer();

@@ -24,10 +24,18 @@ struct FilterFault
 /// A text that can follow in an expression. It replaces a part of the text up to the cursor.
 struct FilterCompletion
 {
+    /// What can follow the text.
+    enum class Next
+    {
+        Word, ///< the next word, after a blank
+        End,  ///< the text ends a condition
+    };
+
     int begin = 0;
     int length = 0;
     QString text;
     QString meaning; ///< explains the text in the list; may be empty
+    Next next = Next::Word;
 };
 
 /// The meaning of the text in the field above the project tree. A module registers one by Contributions::setTreeFilter; the

@@ -8,11 +8,12 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLocale>
 
 namespace Gui {
 
 GeneralPage::GeneralPage(QWidget* parent)
-    : PreferencesPage(parent), m_title(new QLabel(this)), m_languages(new QComboBox(this))
+    : PreferencesPage(parent), m_title(new QLabel(this)), m_remark(new QLabel(this)), m_languages(new QComboBox(this))
 {
     m_languages->setObjectName(QStringLiteral("language"));
     for (const LanguageChoice& choice : languageChoices())
@@ -21,6 +22,10 @@ GeneralPage::GeneralPage(QWidget* parent)
     m_languages->setCurrentIndex(m_stored);
     auto* const layout = new QFormLayout(this);
     layout->addRow(m_title, m_languages);
+    layout->addRow(QString(), m_remark);
+    m_remark->setObjectName(QStringLiteral("languageRemark"));
+    m_remark->setTextFormat(Qt::PlainText);
+    m_remark->setWordWrap(true);
     m_title->setBuddy(m_languages);
     setFocusProxy(m_languages);
     retranslate();
@@ -43,8 +48,20 @@ void GeneralPage::store()
 void GeneralPage::retranslate()
 {
     m_title->setText(tr("&Language:"));
+    showRemark();
     // Only the title of the system's language is translated.
     m_languages->setItemText(0, withoutMnemonics(languageChoices().front().title));
+}
+
+/// The language of the start is not stored.
+void GeneralPage::showRemark()
+{
+    const QString chosen = Translator::chosenLanguage();
+    const QString& used = Translator::instance()->language();
+    const bool isOther = used != (chosen.isEmpty() ? QLocale::system().name() : chosen);
+    m_remark->setVisible(isOther);
+    m_remark->setText(isOther ? tr("Now in use: %1, the language given at the start.").arg(Translator::nameOf(used))
+                              : QString());
 }
 
 void GeneralPage::changeEvent(QEvent* event)

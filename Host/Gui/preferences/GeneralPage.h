@@ -24,8 +24,10 @@ protected:
 
 private:
     void retranslate();
+    void showRemark();
 
     QLabel* m_title;
+    QLabel* m_remark;
     QComboBox* m_languages;
     int m_stored = -1; ///< the index of the stored language; -1 if there is no such language
 };

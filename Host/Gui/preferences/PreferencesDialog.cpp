@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
 #include <QShowEvent>
@@ -37,7 +38,11 @@ public:
         page.setAutoFillBackground(false);
     }
 
-    QSize sizeHint() const override { return widget()->sizeHint() + QSize(2, 2); }
+    /// With room for the vertical scroll bar, which would otherwise need a horizontal one.
+    QSize sizeHint() const override
+    {
+        return widget()->sizeHint() + QSize(2 + verticalScrollBar()->sizeHint().width(), 2);
+    }
 };
 
 PreferencesEntry generalEntry()

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
@@ -87,6 +88,7 @@ protected:
         QTest::keyClick(&line, Qt::Key_Delete);
         QTest::keyClicks(&line, QString::fromUtf8(text));
     }
+    QString remark() const { return dialog()->findChild<QLabel*>(QStringLiteral("languageRemark"))->text(); }
     QStringList titles() const
     {
         QStringList texts;
@@ -97,6 +99,19 @@ protected:
 
     std::vector<std::string> stored; ///< the names that pages have stored
 };
+
+TEST_F(Preferences, NameTheLanguageOfTheStartIfItIsNotTheChosenOne)
+{
+    open();
+    EXPECT_EQ(remark(), "");
+    press(QDialogButtonBox::Cancel);
+    Gui::Translator::instance()->setLanguage(QStringLiteral("de"));
+    open();
+    EXPECT_EQ(remark(), "Now in use: Deutsch, the language given at the start.");
+    languages().setCurrentIndex(languages().findData(QStringLiteral("en")));
+    press(QDialogButtonBox::Apply);
+    EXPECT_EQ(remark(), "");
+}
 
 TEST_F(Preferences, HaveTheGeneralPageAndThoseOfModules)
 {

@@ -47,7 +47,8 @@ QString firstDoubt(const ImportedMaterials& imported, const UnitSystem& system)
     for (const ImportedMaterial& entry : imported.materials) {
         const auto doubts = vxUnits::checkPlausibilityIn(system, *entry.material);
         if (!doubts.empty())
-            return QString::fromStdString(entry.label) + QStringLiteral(": ") + vxInspector::translated(doubts.front());
+            return QString::fromStdString(entry.label) + QStringLiteral(": ") +
+                   vxInspector::translated(doubts.front().message);
     }
     return {};
 }

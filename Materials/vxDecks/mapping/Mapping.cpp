@@ -1,5 +1,6 @@
 #include "vxDecks/Mapping.h"
 
+#include "texts/BulkTexts.h"
 #include "texts/DeckTexts.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -360,6 +361,8 @@ const std::vector<MessageText>& messageTexts()
         std::vector<MessageText> collected = deckTexts();
         const std::vector<MessageText> ofReading = readingTexts();
         collected.insert(collected.end(), ofReading.begin(), ofReading.end());
+        const std::vector<MessageText> ofBulk = bulkTexts();
+        collected.insert(collected.end(), ofBulk.begin(), ofBulk.end());
         std::vector<Mapping> rows = table;
         rows.insert(rows.end(), mappings(Dialect::Commercial).begin(), mappings(Dialect::Commercial).end());
         for (const Mapping& row : rows) {

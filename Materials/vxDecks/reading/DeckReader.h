@@ -25,6 +25,8 @@ struct DeckReader
 
 const DeckReader& calculixReader();
 const DeckReader& lsDynaReader();
+const DeckReader& nastranReader();
+const DeckReader& matmlReader();
 
 /// Returns the units that a line declares as the writers do, "** Units: mm, t, s, K, A"; absent if it does not.
 std::optional<vxUnits::UnitSystem> unitsOfComment(std::string_view line, std::string_view comment);

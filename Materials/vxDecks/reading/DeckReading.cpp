@@ -24,7 +24,8 @@ constexpr int declaringLines = 50;
 /// Returns the readers, in the order in which a file is tried.
 const std::vector<const DeckReader*>& readers()
 {
-    static const std::vector<const DeckReader*> all{&calculixReader(), &lsDynaReader()};
+    static const std::vector<const DeckReader*> all{&matmlReader(), &calculixReader(), &lsDynaReader(),
+                                                    &nastranReader()};
     return all;
 }
 

@@ -139,4 +139,14 @@ TEST(ReadingCorpus, HasDecksOfKeywordsThatAreReadAsTheTextsByHandSay)
     compareAll("calculix", vxDecks::Format::Calculix, ".inp", 13);
 }
 
+TEST(ReadingCorpus, HasBulkDataThatIsReadAsTheTextsByHandSay)
+{
+    compareAll("nastran", vxDecks::Format::Nastran, ".bdf", 9);
+}
+
+TEST(ReadingCorpus, HasDocumentsOfMatmlThatAreReadAsTheTextsByHandSay)
+{
+    compareAll("matml", vxDecks::Format::Matml, ".xml", 3);
+}
+
 } // namespace

@@ -1,0 +1,232 @@
+#include "CommaLocale.h"
+#include "ReadingTesting.h"
+#include "SampleMaterials.h"
+
+#include "vxMaterial/model/PropertyId.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <istream>
+#include <streambuf>
+#include <string>
+
+namespace {
+
+using Id = vxMat::PropertyId;
+using testing::HasSubstr;
+using vxDecks::Format;
+using vxDecks::ReadDeck;
+
+ReadDeck readSi(const std::string& text)
+{
+    return vxtest::readText(Format::Nastran, text, "SI");
+}
+
+double modulusOf(const std::string& field)
+{
+    return vxtest::numberOf(readSi("MAT1,1," + field + ",,.3"), Id::YoungsModulus);
+}
+
+std::string errorOf(const std::string& text)
+{
+    return vxtest::errorOf(Format::Nastran, text);
+}
+
+TEST(NastranReading, TakesTheExponentWithoutALetter)
+{
+    EXPECT_EQ(modulusOf("7.85-9"), 7.85e-9);
+    EXPECT_EQ(modulusOf("2.1+11"), 2.1e11);
+    EXPECT_EQ(modulusOf("-1.5-3"), -1.5e-3);
+    EXPECT_EQ(modulusOf("+.3"), 0.3);
+    EXPECT_EQ(modulusOf("2.1E+5"), 2.1e5);
+    EXPECT_EQ(modulusOf("2.1D5"), 2.1e5);
+    EXPECT_EQ(modulusOf("2.1d+05"), 2.1e5);
+    EXPECT_EQ(modulusOf("210000"), 210000.0);
+    EXPECT_EQ(modulusOf("1.-400"), 0.0);
+}
+
+TEST(NastranReading, RefusesAFieldThatIsNotANumberWithItsLineAndName)
+{
+    EXPECT_EQ(errorOf("$ comment\nMAT1,1,steel"), R"(line 2: the field MAT1 E has "STEEL", which is not a number)");
+    for (const char* const text : {"1.2.3", "0x10", "nan", "inf", "1.+", "1,5+", "1.+400", "2.1 E5", "1e5e5", "--1."})
+        EXPECT_THAT(errorOf("MAT1    1       " + std::string(text)), HasSubstr("which is not a number")) << text;
+    EXPECT_EQ(errorOf("MAT4,5,54.\nMAT4,6,,x"), R"(line 2: the field MAT4 CP has "X", which is not a number)");
+    EXPECT_EQ(errorOf("MAT1,1,1.\nMATS1,1,2,PLASTIC\nTABLES1,2\n+,0.,0.,x,1.,ENDT"),
+              R"(line 3: the field TABLES1 has "X", which is not a number)");
+}
+
+TEST(NastranReading, RefusesAMaterialWithoutANumber)
+{
+    EXPECT_EQ(errorOf("MAT1,,1."), R"(line 1: "" is not the number of a material; MAT1 needs a whole number above 0)");
+    for (const char* const number : {"0", "-1", "1.", "A", "99999999999"})
+        EXPECT_THAT(errorOf("MAT1," + std::string(number)), HasSubstr("is not the number of a material")) << number;
+    EXPECT_EQ(readSi("MAT1,4294967295,1.").materials.at(0).number, 4294967295U);
+}
+
+TEST(NastranReading, ReadsTheFieldsOfATableThatMaterialsUseOnly)
+{
+    EXPECT_EQ(errorOf("TABLES1,2\n+,0.,0.,x,1.,ENDT\nMAT1,1,1."), "");
+}
+
+TEST(NastranReading, NeedsUnitsThatTheDeckOrTheUserGives)
+{
+    const std::string steel = "MAT1,1,2.1+5,,.3,7.85-9";
+    EXPECT_THROW((void)vxtest::readText(Format::Nastran, steel), vxDecks::UnitsNeeded);
+    try {
+        (void)vxtest::readText(Format::Nastran, steel);
+    } catch (const vxDecks::UnitsNeeded& needed) {
+        EXPECT_EQ(needed.proposal(), "mm-t-s");
+    }
+    const auto declared = vxtest::readText(Format::Nastran, "$ Units: mm, t, s, K, A\n" + steel);
+    EXPECT_EQ(vxtest::numberOf(declared, Id::YoungsModulus), 2.1e11);
+    EXPECT_EQ(vxtest::numberOf(declared, Id::Density), 7850.0);
+}
+
+TEST(NastranReading, IsRecognisedByTheEntriesOfAModel)
+{
+    const auto isNastran = [](const std::string& text) { return vxDecks::recognisedFormat(text) == Format::Nastran; };
+    EXPECT_TRUE(isNastran("SOL 101\nCEND\nTITLE=x\n"));
+    EXPECT_TRUE(isNastran("$ a\nbegin bulk\n"));
+    EXPECT_TRUE(isNastran("GRID,1,,0.,0.,0."));
+    EXPECT_TRUE(isNastran("MAT1*   1               2.1+5\n"));
+    EXPECT_TRUE(isNastran("mat1\t1\t2.1+5\n"));
+    for (const char* const text : {"", "$ a comment", "MAT1", "MAT1,steel", "MP,EX,1,2.1e5", "*MATERIAL, NAME=MAT1\n",
+                                   "Material 1\n", "{\"MAT1\": 1}", "BEGIN"})
+        EXPECT_FALSE(isNastran(text)) << text;
+}
+
+TEST(NastranReading, ReadsDecksInACommaLocale)
+{
+    const vxtest::CommaLocale locale;
+    EXPECT_EQ(modulusOf("2.15+5"), 2.15e5);
+    EXPECT_EQ(modulusOf("2.15E+5"), 2.15e5);
+}
+
+TEST(NastranReading, TakesLinesWithCarriageReturnsAndAByteOrderMark)
+{
+    const ReadDeck deck = readSi("\xEF\xBB\xBFMAT1,1,2.\r\nMAT1,2,3.\rMAT1,3,4.");
+    ASSERT_EQ(deck.materials.size(), 3U);
+    EXPECT_EQ(deck.materials[2].number, 3U);
+}
+
+TEST(NastranReading, TakesNamesThatAreNotUtf8)
+{
+    EXPECT_EQ(readSi("$ Material 1: St\xE4hl\nMAT1,1,2.").materials.at(0).name, "St\xC3\xA4hl");
+    EXPECT_EQ(readSi("$ Material 1: \xE9\x92\xA2\nMAT1,1,2.").materials.at(0).name, "\xE9\x92\xA2");
+}
+
+TEST(NastranReading, ReadsATruncatedDeckUpToItsEnd)
+{
+    const std::string whole = vxtest::deckOf(Format::Nastran, vxtest::multilinear()->get(), "mm-t-s").text;
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        try {
+            EXPECT_LE(vxtest::readText(Format::Nastran, whole.substr(0, length), "SI").materials.size(), 1U);
+        } catch (const vxDecks::DeckError& error) {
+            EXPECT_THAT(error.what(), HasSubstr("line ")) << length;
+        }
+    }
+}
+
+TEST(NastranReading, RefusesBinaryContent)
+{
+    EXPECT_EQ(errorOf(std::string("MAT1,1,2.\n\0\1\2", 13)), "line 2: the content is binary");
+}
+
+/// A stream of the same line again and again.
+class EndlessLines : public std::streambuf
+{
+public:
+    EndlessLines(std::string line, std::size_t count) : m_line(std::move(line)), m_count(count) {}
+
+protected:
+    int_type underflow() override
+    {
+        if (m_count == 0)
+            return traits_type::eof();
+        --m_count;
+        setg(m_line.data(), m_line.data(), m_line.data() + m_line.size());
+        return traits_type::to_int_type(m_line.front());
+    }
+
+private:
+    std::string m_line;
+    std::size_t m_count;
+};
+
+ReadDeck readLines(const std::string& line, std::size_t count)
+{
+    EndlessLines lines(line, count);
+    std::istream file(&lines);
+    return vxDecks::readDeck(Format::Nastran, file, {vxUnits::UnitSystem::si()});
+}
+
+std::string errorOfLines(const std::string& line, std::size_t count)
+{
+    try {
+        readLines(line, count);
+    } catch (const vxDecks::DeckError& error) {
+        return error.text();
+    }
+    return {};
+}
+
+TEST(NastranReading, CountsTheEntriesOfALargeModelAndKeepsNoneOfThem)
+{
+    const ReadDeck deck = readLines("GRID    1               0.      0.      0.\n+       5.\n", 200000);
+    EXPECT_TRUE(deck.materials.empty());
+    ASSERT_EQ(deck.foreign.size(), 1U);
+    EXPECT_EQ(deck.foreign[0].count, 200000U);
+}
+
+TEST(NastranReading, BoundsWhatOneEntryAndOneMaterialMayHave)
+{
+    EXPECT_THAT(errorOfLines("MAT1    1       1.\n", 200), HasSubstr("the material 1 has more than 100 entries"));
+    // 8 fields in a line: 200,000 fields are 25,000 lines
+    EXPECT_EQ(errorOfLines("+       1.      1.      1.      1.      1.      1.      1.      1.\n", 30000), "");
+    std::string table = "TABLES1,1\n";
+    for (int i = 0; i < 26000; ++i)
+        table += "+       1.      1.      1.      1.      1.      1.      1.      1.\n";
+    EXPECT_THAT(errorOf(table), HasSubstr("the entry TABLES1 has more than 200000 fields"));
+}
+
+TEST(NastranReading, DropsTablesBeyondTheirBoundAndSaysSo)
+{
+    std::string table = "TABLES1 7\n";
+    for (int i = 0; i < 20000; ++i)
+        table += "+       0.      0.      1.      1.      2.      2.      3.      3.\n";
+    // 80,004 points in each; 2,000,000 are kept
+    std::string text;
+    for (int i = 0; i < 25; ++i)
+        text += table;
+    text += "TABLES1 8\n+       0.      0.      1.      1.      ENDT\nMAT1,1,1.\nMATS1,1,8,PLASTIC,,1,1,1.\n";
+    EXPECT_THAT(vxtest::remarkableLines(readSi(text).report).back(),
+                HasSubstr("the table 8 is not read, because the tables of the file have more than 2000000 points"));
+}
+
+TEST(NastranReading, LimitsTheNamesOfForeignEntries)
+{
+    std::string text;
+    for (int i = 0; i < 500; ++i)
+        text += "X" + std::to_string(i) + ",1\n";
+    EXPECT_EQ(readSi(text).foreign.size(), 100U);
+}
+
+TEST(NastranReading, LimitsTheNotesAboutIncludedFiles)
+{
+    const ReadDeck deck = readLines("INCLUDE 'x.bdf'\n", 1000);
+    EXPECT_LE(deck.report.notes.size(), 102U);
+    EXPECT_THAT(deck.report.notes.at(0).text(), HasSubstr("x.bdf"));
+}
+
+TEST(NastranReading, TellsTheFormOfWhatItConverts)
+{
+    const auto deck =
+        vxtest::readText(Format::Nastran, vxtest::deckOf(Format::Nastran, vxtest::neoHooke()->get(), "mm-t-s").text);
+    std::vector<std::string> lines = toLines(deck.report);
+    EXPECT_THAT(lines,
+                testing::Contains("Test: converted: Incompressibility Parameter D1: from 1/MPa to 1/Pa; from half "
+                                  "the bulk modulus, 1 / D1"));
+}
+
+} // namespace

@@ -3,7 +3,9 @@
 #include "FitReport.h"
 #include "FitTarget.h"
 #include "Interruption.h"
+#include "ShownUnits.h"
 
+#include <cmath>
 #include <utility>
 
 namespace commandline {
@@ -23,6 +25,24 @@ std::optional<FitTarget> targetOf(const FitArguments& arguments)
     FitTarget target{*arguments.project, *arguments.label};
     requireTarget(target);
     return target;
+}
+
+/// Returns what --d1 says.
+D1Setting readD1(const FitArguments& arguments)
+{
+    using vxConstitutive::D1Treatment;
+    if (!arguments.d1)
+        return {};
+    if (!arguments.project)
+        throw Failure("--d1 belongs to --into: it says what happens to the D1 of the material");
+    if (*arguments.d1 == "keep")
+        return {D1Treatment::Keep};
+    if (*arguments.d1 == "remove")
+        return {D1Treatment::Remove};
+    const double ratio = readAmount("--d1", *arguments.d1, "1", vxUnits::UnitSystem::si());
+    if (!(ratio > 0.0) || !std::isfinite(ratio))
+        throw Failure("--d1: the ratio of bulk to shear modulus must be greater than 0");
+    return {D1Treatment::Set, ratio};
 }
 
 /// Fits the models; empty if the user ended the fit.
@@ -61,6 +81,7 @@ Json::Value toJson(const std::optional<FitTarget>& target, const FitResult& best
 Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& units, Existing existing)
 {
     std::optional<FitTarget> target = targetOf(arguments);
+    const D1Setting d1 = readD1(arguments);
     Answer answer;
     const std::vector<MeasuredTest> tests = readTests(arguments.tests, units.system(), answer);
     if (answer.status == Status::Error)
@@ -80,7 +101,7 @@ Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& un
         target.reset();
     }
     if (target)
-        writeFit(*target, {&best.change, &fitting.tests(), fitting.record(best)}, existing, answer);
+        writeFit(*target, {&best, &fitting.tests(), fitting.record(best), d1}, existing, answer);
     if (form == Form::Json) {
         Json::Value json = fitToJson(tests, *results, units.system());
         json["written"] = toJson(target, best);

@@ -18,9 +18,10 @@ struct FitArguments
     FitSettings settings;
     std::optional<std::string> project; ///< gets the constants of the best model
     std::optional<std::string> label;   ///< of the material in this project
+    std::optional<std::string> d1;      ///< "keep", "remove", or the ratio of bulk to shear modulus
 };
 
-/// `vxmat fit [MODE=]FILE... --model MODEL|all [--mode MODE] [--into PROJECT --as NAME] [--units SYSTEM] [--json]`: fits
+/// `vxmat fit [MODE=]FILE... --model MODEL|all [--mode MODE] [--into PROJECT --as NAME [--d1 D1]] [--units SYSTEM] [--json]`: fits
 /// models to measured tests and prints what was understood of the files, and the models, best first. With `project`,
 /// writes the best model to a material of this project file.
 ///

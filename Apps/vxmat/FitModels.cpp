@@ -3,13 +3,13 @@
 #include "Answer.h"
 #include "ShownUnits.h"
 
+#include "vxConstitutive/fit/FitBounds.h"
 #include "vxConstitutive/fit/PlasticFit.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxMaterial/model/NumberText.h"
-#include "vxMaterial/model/PropertyId.h"
-#include "vxUnits/Reading.h"
 
 #include <algorithm>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -17,12 +17,10 @@ namespace commandline {
 
 namespace {
 
-using vxConstitutive::Bounds;
 using vxConstitutive::ErrorMeasure;
 using vxConstitutive::FitControl;
 using vxConstitutive::FitResult;
 using vxConstitutive::Mode;
-using vxMat::PropertyId;
 using vxUnits::UnitSystem;
 
 /// What is fixed about a family of models.
@@ -57,81 +55,6 @@ std::string modesOf(FitFamily family)
     for (const Mode mode : families()[static_cast<std::size_t>(family)].modes)
         keys += (keys.empty() ? "" : ", ") + std::string(vxConstitutive::modeRecord(mode).key);
     return keys;
-}
-
-/// A constant of a model that can be bounded.
-struct BoundedConstant
-{
-    const char* symbol; ///< as results show it
-    std::int32_t propertyId;
-    FitFamily family;
-};
-
-const std::vector<BoundedConstant>& boundedConstants()
-{
-    static const std::vector<BoundedConstant> table{
-        {"C10", PropertyId::MaterialConstantC10, FitFamily::Rubber},
-        {"C01", PropertyId::MaterialConstantC01, FitFamily::Rubber},
-        {"C11", PropertyId::MaterialConstantC11, FitFamily::Rubber},
-        {"Mu", PropertyId::InitialShearModulusMu, FitFamily::Rubber},
-        {"lm", PropertyId::LimitingNetworkStretch, FitFamily::Rubber},
-        {"sigma0", PropertyId::PlasticInitialYieldStress, FitFamily::Metal},
-        {"H", PropertyId::PlasticHardeningFactor, FitFamily::Metal},
-        {"A", PropertyId::CreepModulusA, FitFamily::Creep},
-        {"n", PropertyId::CreepModulusN, FitFamily::Creep},
-        {"m", PropertyId::CreepModulusM, FitFamily::Creep},
-        {"g", PropertyId::ShearRelaxationModulus, FitFamily::Relaxation},
-        {"tau", PropertyId::RelaxationTime, FitFamily::Relaxation},
-    };
-    return table;
-}
-
-const BoundedConstant& findConstant(const std::string& symbol, FitFamily family)
-{
-    std::string possible;
-    for (const BoundedConstant& constant : boundedConstants()) {
-        if (constant.family != family)
-            continue;
-        if (symbol == constant.symbol)
-            return constant;
-        possible += (possible.empty() ? "" : ", ") + std::string(constant.symbol);
-    }
-    throw Failure("--bound: \"" + symbol + "\" is not a constant of these models; they have " + possible);
-}
-
-double readConstant(const BoundedConstant& constant, const std::string& text, const UnitSystem& system)
-{
-    vxUnits::ReadingContext context;
-    context.plainNumbers = &system;
-    const bool isCreepFactor = constant.propertyId == PropertyId::CreepModulusA;
-    const auto reading =
-        vxUnits::readQuantity(constant.propertyId, text, isCreepFactor ? vxUnits::ReadingContext() : context);
-    if (!reading)
-        throw Failure("--bound " + std::string(constant.symbol) + ": " + reading.failure().text());
-    return reading->value;
-}
-
-void addBound(const std::string& text, FitFamily family, const UnitSystem& system, vxConstitutive::BoundsById& bounds)
-{
-    const std::size_t sign = text.find('=');
-    if (sign == std::string::npos)
-        throw Failure("--bound: \"" + text + "\" must have the form CONSTANT=LOWER:UPPER or CONSTANT=VALUE");
-    const BoundedConstant& constant = findConstant(text.substr(0, sign), family);
-    const std::string range = text.substr(sign + 1);
-    const std::size_t colon = range.find(':');
-    Bounds read;
-    if (colon == std::string::npos) {
-        read.lower = readConstant(constant, range, system);
-        read.upper = read.lower;
-    } else {
-        if (colon > 0)
-            read.lower = readConstant(constant, range.substr(0, colon), system);
-        if (colon + 1 < range.size())
-            read.upper = readConstant(constant, range.substr(colon + 1), system);
-    }
-    if (read.lower > read.upper)
-        throw Failure("--bound " + std::string(constant.symbol) + ": the lower bound is above the upper one");
-    bounds[constant.propertyId] = read;
 }
 
 FitFamily familyOf(const std::vector<MeasuredTest>& tests)
@@ -279,8 +202,11 @@ Fitting::Fitting(const FitSettings& settings, const std::vector<MeasuredTest>& t
     m_stable = settings.stability != "none";
     if (m_stable && settings.stability && settings.stability != "data")
         m_stableRange = readStretches(*settings.stability);
-    for (const std::string& bound : settings.bounds)
-        addBound(bound, m_family, system, m_bounds);
+    for (const std::string& bound : settings.bounds) {
+        const std::string problem = vxConstitutive::readBound(bound, tests.front().data.mode, system, m_bounds);
+        if (!problem.empty())
+            throw Failure("--bound: " + problem);
+    }
     m_youngsModulus = readOptional("--youngs-modulus", settings.youngsModulus, "Pa", system, 0.0, infinity);
     m_poissonsRatio = readOptional("--poissons-ratio", settings.poissonsRatio, "1", system, -1.0, 0.5);
     m_offset = readOptional("--offset", settings.offset, "1", system, 0.0, 1.0);

@@ -133,6 +133,30 @@ void keepMeasurements(const FitTarget& target, const KeptFit& fit, ObjectRecord&
     }
 }
 
+const char* nameOf(vxConstitutive::D1Treatment treatment)
+{
+    static constexpr const char* sentences[] = {"D1 is kept; --d1 remove or --d1 RATIO changes it",
+                                                "D1 is removed; --d1 keep keeps it, and --d1 RATIO sets it",
+                                                "D1 is set by --d1"};
+    return sentences[static_cast<std::size_t>(treatment)];
+}
+
+/// Returns the change of a material to a fit and to the D1 of the setting. Adds a message about the D1 that the material has.
+vxConstitutive::MaterialChange changeOf(const KeptFit& fit, const vxMat::MaterialBase& material,
+                                        const std::string& label, Answer& answer)
+{
+    const auto volume = fittedVolume(*fit.result, material);
+    if (!volume) {
+        if (fit.d1.treatment)
+            answer.messages.emplace_back("--d1 has no effect: the fit determines D1 itself, or its model has none");
+        return fit.result->change;
+    }
+    const vxConstitutive::D1Treatment treatment = fit.d1.treatment.value_or(volume->usualTreatment());
+    if (volume->finding)
+        answer.messages.push_back(label + ": " + describe(*volume->finding) + " " + nameOf(treatment));
+    return changeOf(*fit.result, *volume, treatment, fit.d1.bulkRatio);
+}
+
 void addDoubts(const vxConstitutive::MaterialChange& change, const vxMat::MaterialBase& material, Answer& answer)
 {
     for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
@@ -161,21 +185,22 @@ void requireTarget(const FitTarget& target)
 
 void writeFit(const FitTarget& target, const KeptFit& fit, Existing existing, Answer& answer)
 {
-    const auto change = [&](const std::string& text) {
+    const auto changed = [&](const std::string& text) {
         ProjectRecord project = readProject(target, text);
         for (const std::string& doubt : project.doubts)
             answer.messages.push_back(target.project + ": " + doubt);
         ObjectRecord& object = findOrAdd(target, project);
-        applyChange(*fit.change, *object.ownMaterial);
+        const vxConstitutive::MaterialChange change = changeOf(fit, *object.ownMaterial, target.label, answer);
+        applyChange(change, *object.ownMaterial);
         keepMeasurements(target, fit, object);
-        addDoubts(*fit.change, *object.ownMaterial, answer);
+        addDoubts(change, *object.ownMaterial, answer);
         try {
             return projectfile::writeProject(project);
         } catch (const projectfile::ContentError& error) {
             throw Failure(target.project + ": " + error.what());
         }
     };
-    changeProjectFile(target.project, change, existing);
+    changeProjectFile(target.project, changed, existing);
 }
 
 } // namespace commandline

@@ -60,7 +60,8 @@ enum class FindingId
     AbscissaOutside,       ///< abscissa, first value, number, mode
     ResultNotFinite,       ///< abscissa, first value, number, mode
     NoEquilibrium,         ///< abscissa, first value, number, mode
-    UnstableFrom,          ///< mode, abscissa
+    UnstableBelow,         ///< mode, abscissa, quantity of the abscissa
+    UnstableFrom,          ///< mode, abscissa, quantity of the abscissa
     SmallStrainExceeded,   ///< strain
     LockingInsideRange,    ///< mode, locking stretch, end of the range
     SeriesFarFromLangevin, ///< abscissa, percent, part
@@ -68,6 +69,7 @@ enum class FindingId
     VolumetricNeedsD1,     ///< model
     NeckingAt,             ///< engineering strain, engineering stress
     StressesMissing,       ///< no argument
+    CreepStrainLarge,      ///< creep strain, stress
     PastLastRow,           ///< plastic strain
     NormalisedByCohesion,  ///< yield type
     NormalisedByModulus,   ///< no argument
@@ -114,6 +116,12 @@ enum class FindingId
     NoElasticPart,           ///< test
     NoPlasticPart,           ///< test
     VolumetricIgnored,       ///< no argument
+    BoundForm,               ///< text
+    BoundUnknown,            ///< symbol, possible symbols
+    BoundOrder,              ///< constant
+    BoundUnreadable,         ///< constant, reason
+    FitKeepsD1,              ///< bulk by shear modulus, Poisson's ratio
+    FitContradictsD1,        ///< bulk by shear modulus, Poisson's ratio
     RatesIgnored,            ///< no argument
     OneStressOnly,           ///< no argument
     RelaxationTimeOutside,   ///< time, first, last

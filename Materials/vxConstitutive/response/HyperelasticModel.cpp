@@ -6,17 +6,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iomanip>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace vxConstitutive {
 
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-/// Below this ratio of bulk to shear modulus, an incompressible curve misrepresents the material: Poisson's ratio is less than
-/// 0.475.
-constexpr double nearlyIncompressible = 20.0;
 
 /// Above this ratio, the incompressible and the compressible curve are not compared.
 constexpr double practicallyIncompressible = 100.0;
@@ -47,11 +46,6 @@ bool isInDomain(Mode mode, double abscissa)
     return std::isfinite(abscissa) && (mode == Mode::SimpleShear || abscissa > 0.0);
 }
 
-double poissonsRatio(double bulk, double shear)
-{
-    return std::isinf(bulk) ? 0.5 : (3.0 * bulk - 2.0 * shear) / (6.0 * bulk + 2.0 * shear);
-}
-
 void addColumns(CurveBuilder& builder, Mode mode, Detail detail)
 {
     const bool shear = mode == Mode::SimpleShear;
@@ -75,6 +69,15 @@ void addRow(CurveBuilder& builder, Mode mode, double abscissa, const TestPoint& 
     builder.row({abscissa, point.nominalStress, point.trueStress, point.slope, fifth, point.volumeRatio});
 }
 
+/// Returns a number for a sentence, with three digits.
+std::string rounded(double number)
+{
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::setprecision(3) << number;
+    return text.str();
+}
+
 /// Notes the largest factor between the incompressible curve and the compressible one.
 void compareWithCompressible(CurveBuilder& builder, TestResponse compressible)
 {
@@ -95,6 +98,11 @@ void compareWithCompressible(CurveBuilder& builder, TestResponse compressible)
 }
 
 } // namespace
+
+double poissonsRatio(double bulk, double shear)
+{
+    return std::isinf(bulk) ? 0.5 : (3.0 * bulk - 2.0 * shear) / (6.0 * bulk + 2.0 * shear);
+}
 
 HyperelasticModel::HyperelasticModel(const HyperelasticConstants& constants)
     : Model(constants.kind),
@@ -165,10 +173,15 @@ void HyperelasticModel::noteInstability(CurveBuilder& builder, TestResponse& res
     const auto margin = [&](double abscissa) { return response.stabilityMargin(abscissa); };
     const StabilityReport report = findInstability(margin, restOf(mode), *range);
     builder.setUnstable(report.unstable);
-    for (const auto& first : {report.firstBelow, report.firstAbove}) {
-        if (first)
-            builder.note(makeFinding(FindingId::UnstableFrom, {std::string(modeRecord(mode).name), *first}));
-    }
+    const auto tell = [&](FindingId id, double abscissa) {
+        const ModeRecord& record = modeRecord(mode);
+        builder.note(makeFinding(
+            id, {std::string(record.name), rounded(abscissa), std::string(quantityRecord(record.abscissa).name)}));
+    };
+    if (report.firstBelow)
+        tell(FindingId::UnstableBelow, *report.firstBelow);
+    if (report.firstAbove)
+        tell(FindingId::UnstableFrom, *report.firstAbove);
 }
 
 void HyperelasticModel::noteChains(CurveBuilder& builder, TestResponse& response) const
@@ -196,6 +209,11 @@ void HyperelasticModel::noteChains(CurveBuilder& builder, TestResponse& response
     const double deviation = percent * (1.0 - series / exact);
     if (deviation > 1.0)
         builder.note(makeFinding(FindingId::SeriesFarFromLangevin, {abscissa, deviation, part}));
+}
+
+double HyperelasticModel::initialShearModulus() const
+{
+    return m_energy.initialShearModulus();
 }
 
 StabilityReport HyperelasticModel::stability(Mode mode, Range range, Compressibility compressibility) const

@@ -24,6 +24,13 @@ struct HyperelasticConstants
     double d1 = 0.0;                      ///< 1/Pa; the bulk modulus is 2/D1; 0 if incompressible
 };
 
+/// Below this ratio of bulk to shear modulus, an incompressible curve misrepresents the material: Poisson's ratio is less than
+/// 0.475.
+inline constexpr double nearlyIncompressible = 20.0;
+
+/// Returns Poisson's ratio of an isotropic elastic material by its bulk and shear modulus; 0.5 if the bulk modulus is infinite.
+VXCONSTITUTIVE_EXPORT double poissonsRatio(double bulk, double shear);
+
 /// Rubber: Neo-Hookean, Mooney-Rivlin and Arruda-Boyce, by the energies of StrainEnergy.h.
 ///
 /// With l the stretch of the test, s_i = dW/d(ln l_i) and U the volumetric energy, the true stresses are
@@ -55,6 +62,9 @@ public:
     std::vector<Mode> modes() const override;
     Curve curve(const CurveRequest& request) const override;
     std::vector<Constant> constants() const override;
+
+    /// Returns the shear modulus at stretch 1, in Pa.
+    double initialShearModulus() const;
 
     /// Returns the ranges between two abscissas of a mode in which Drucker's criterion is violated.
     StabilityReport stability(Mode mode, Range range, Compressibility compressibility = Compressibility::AsGiven) const;

@@ -19,6 +19,23 @@ double signedPower(double a, double x, double n)
     return std::copysign(std::exp(std::log(std::fabs(a)) + n * std::log(std::fabs(x))), a * std::copysign(1.0, x));
 }
 
+/// Notes the largest strain if it is above 1. The stress is that of its column.
+void noteLargeStrain(CurveBuilder& builder)
+{
+    constexpr double largestValid = 1.0;
+    const std::vector<double>& stresses = builder.request().stresses;
+    double largest = largestValid;
+    double stress = 0.0;
+    for (std::size_t i = 0; i < stresses.size(); ++i)
+        for (const double strain : builder.values(i + 1))
+            if (std::isfinite(strain) && std::fabs(strain) > largest) {
+                largest = std::fabs(strain);
+                stress = stresses[i];
+            }
+    if (largest > largestValid)
+        builder.note(makeFinding(FindingId::CreepStrainLarge, {largest, stress}));
+}
+
 } // namespace
 
 NortonModel::NortonModel(double a, double stressExponent, double timeExponent)
@@ -83,6 +100,7 @@ Curve NortonModel::strains(const CurveRequest& request) const
             row.push_back(rate(request.stresses[i], time));
         builder.row(row);
     }
+    noteLargeStrain(builder);
     return builder.take();
 }
 

@@ -145,6 +145,68 @@ TEST_F(Fit, PrintsWhatWasUnderstoodAndTheModelsSideBySide)
         EXPECT_THAT(run.out, HasSubstr(part));
 }
 
+/// A fit into a library rubber whose D1 would make the fitted one as compressible as a gas.
+class FitIntoSoftRubber : public Fit
+{
+protected:
+    FitIntoSoftRubber()
+    {
+        EXPECT_EQ(vxmat({"new", "Elastomer 2 (Mooney-Rivlin)=Seal", "-o", m_project}).status, 0);
+    }
+
+    Outcome fitInto(std::vector<std::string> more = {}) const
+    {
+        const std::string data = file("a.csv", neoHookean(0.5, header)); // the shear modulus is 1 MPa
+        std::vector<std::string> arguments{"fit",    "uniaxial=" + data, "--model", "neo-hooke",
+                                           "--into", m_project,          "--as",    "Seal"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return vxmat(arguments);
+    }
+
+    /// Returns the line of D1 that `show` prints; empty if there is none.
+    std::string d1() const
+    {
+        const std::string text = vxmat({"show", m_project}).out;
+        const std::size_t at = text.find("Incompressibility Parameter D1");
+        return at == std::string::npos ? std::string() : text.substr(at, text.find('\n', at) - at);
+    }
+
+private:
+    std::string m_project = folder().path("soft.vxmat");
+};
+
+TEST_F(FitIntoSoftRubber, RemovesAD1ThatContradictsTheFitAndSaysSo)
+{
+    ASSERT_THAT(d1(), HasSubstr("0.0789"));
+    const Outcome run = fitInto();
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.err, AllOf(HasSubstr("Seal: The fit is incompressible, but the D1 of the material contradicts it"),
+                               HasSubstr("2.53485e-05 times the shear modulus"), HasSubstr("D1 is removed; --d1 keep")));
+    EXPECT_EQ(d1(), "");
+}
+
+TEST_F(FitIntoSoftRubber, KeepsOrSetsD1IfTheUserSaysSo)
+{
+    const Outcome kept = fitInto({"--d1", "keep"});
+    EXPECT_EQ(kept.status, 0);
+    EXPECT_THAT(kept.err, HasSubstr("D1 is kept"));
+    EXPECT_THAT(d1(), HasSubstr("0.0789"));
+    EXPECT_EQ(fitInto({"--d1", "100"}).status, 0);
+    const std::string line = d1();
+    ASSERT_THAT(line, HasSubstr("D1  "));
+    EXPECT_THAT(std::stod(line.substr(line.find("D1  ") + 4)), DoubleNear(2e-8, 1e-13)); // K0 = 100 MPa
+}
+
+TEST_F(FitIntoSoftRubber, RefusesARatioThatIsNoneAndD1WithoutAProject)
+{
+    EXPECT_EQ(fitInto({"--d1", "0"}).status, 2);
+    EXPECT_EQ(fitInto({"--d1", "soft"}).status, 2);
+    const std::string data = file("a.csv", neoHookean(0.5, header));
+    const Outcome run = vxmat({"fit", "uniaxial=" + data, "--model", "neo-hooke", "--d1", "keep"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_THAT(run.err, HasSubstr("--d1 belongs to --into"));
+}
+
 TEST_F(Fit, RanksTheModelsOfPublishedTests)
 {
     const auto test = [](const char* mode) {
@@ -431,8 +493,8 @@ TEST_F(Fit, RefusesAWrongCommandLine)
         {{uniaxial, "--model", "all", "--bound", "C10"}, "--bound: \"C10\" must have the form"},
         {{uniaxial, "--model", "all", "--bound", "n=3"},
          "--bound: \"n\" is not a constant of these models; they have C10"},
-        {{uniaxial, "--model", "all", "--bound", "C10=2:1"}, "--bound C10: the lower bound is above the upper one"},
-        {{uniaxial, "--model", "all", "--bound", "C10=1 kg"}, "--bound C10: "},
+        {{uniaxial, "--model", "all", "--bound", "C10=2:1"}, "--bound: C10: the lower bound is above the upper one"},
+        {{uniaxial, "--model", "all", "--bound", "C10=1 kg"}, "--bound: C10: "},
         {{uniaxial, "--model", "all", "--offset", "0.1"}, "--offset has no effect on these models"},
         {{uniaxial, "--model", "all", "--weight", "-1"}, "--weight: a weight is at least 0"},
         {{uniaxial, "--model", "all", "--separator", "dot"}, "--separator: \"dot\" is not one of comma, semicolon"},

@@ -16,12 +16,13 @@ std::string marked(const std::string& context, const std::string& english)
 
 TEST(FindingText, ArgumentsTakeTheirPlacesEvenIfTheyLookLikePlaces)
 {
-    Finding finding = makeFinding(FindingId::UnstableFrom, {std::string("uniaxial 100%2"), 1.25});
+    Finding finding =
+        makeFinding(FindingId::UnstableFrom, {std::string("uniaxial 100%2"), 1.25, std::string("stretch")});
     EXPECT_EQ(describe(finding),
-              "uniaxial 100%2: the material is unstable from 1.25 on by Drucker's criterion. A solver "
+              "uniaxial 100%2: the material is unstable above the stretch 1.25 by Drucker's criterion. A solver "
               "may fail there.");
     finding.arguments.pop_back();
-    EXPECT_NE(describe(finding).find("%2 on by"), std::string::npos);
+    EXPECT_NE(describe(finding).find("above the %3 1.25 by"), std::string::npos);
 }
 
 TEST(FindingText, PercentSignsThatNameNoArgumentStay)

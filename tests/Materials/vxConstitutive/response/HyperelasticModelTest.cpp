@@ -327,6 +327,15 @@ TEST(Stability, ACurveReportsItsUnstablePartAndItsStart)
     EXPECT_TRUE(curveOf(unstableFromTwo, Mode::Equibiaxial, {1.0, 1.9}).unstable.empty());
 }
 
+TEST(Stability, ACurveSaysOnWhichSideItIsUnstable)
+{
+    // A uniaxial compression to 1/4 is an equibiaxial stretch of 2.
+    const Curve curve = curveOf(unstableFromTwo, Mode::Uniaxial, {0.2, 1.0});
+    EXPECT_EQ(firstArgument(curve.findings, FindingId::UnstableBelow, 1), "0.25");
+    EXPECT_EQ(firstArgument(curve.findings, FindingId::UnstableBelow, 2), "stretch");
+    EXPECT_FALSE(has(curve.findings, FindingId::UnstableFrom));
+}
+
 TEST(Stability, AMaterialWithoutStiffnessIsUnstableFromTheStart)
 {
     for (const double c10 : {0.0, -1.0}) {

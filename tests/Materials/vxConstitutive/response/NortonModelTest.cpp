@@ -41,6 +41,16 @@ TEST(NortonCreep, ConstantsOfMetalsInPascalDoNotLeaveTheRangeOfNumbers)
     EXPECT_NEAR(std::log10(curve.columns[1].values[0]), 66.0, 1e-9);
 }
 
+TEST(NortonCreep, SaysThatStrainsAboveOneAreNotValid)
+{
+    // 1e-30 * 1e8^4 * 10 = 1e3, and 1e-30 * 1e7^4 * 10 = 0.1
+    const NortonModel model(1e-30, 4.0, 0.0);
+    const Curve large = creepOf(model, {0.0, 10.0}, {1e7, 1e8});
+    EXPECT_NEAR(std::stod(vxtest::firstArgument(large.findings, FindingId::CreepStrainLarge)), 1e3, 1e-3);
+    EXPECT_EQ(vxtest::firstArgument(large.findings, FindingId::CreepStrainLarge, 1), "1e+08");
+    EXPECT_FALSE(has(creepOf(model, {0.0, 10.0}, {1e7}).findings, FindingId::CreepStrainLarge));
+}
+
 TEST(NortonCreep, RatesRiseByTheStressExponent)
 {
     CurveRequest request;

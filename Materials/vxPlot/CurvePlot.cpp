@@ -266,7 +266,10 @@ private:
     {
         const auto [style, isNew] = m_styles.emplace(named.test->mode, m_plot.series.size());
         Series series{named.name, SeriesKind::Symbols, style->second, {}, {}};
-        for (std::size_t i = 0; i < std::min(named.test->abscissas.size(), named.test->ordinates.size()); ++i) {
+        const std::size_t count = std::min(named.test->abscissas.size(), named.test->ordinates.size());
+        series.x.reserve(count);
+        series.y.reserve(count);
+        for (std::size_t i = 0; i < count; ++i) {
             const auto [x, y] = pointOf(named.test->mode, named.test->abscissas[i], named.test->ordinates[i]);
             series.x.push_back(m_x.convert(x));
             series.y.push_back(m_y.convert(y));

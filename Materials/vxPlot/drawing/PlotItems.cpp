@@ -18,9 +18,12 @@
 #include <qwt_text.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <numeric>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -45,11 +48,70 @@ public:
     }
 };
 
-/// A curve with gaps where its points are not finite.
+/// What decides on which pixels the points of a plot are.
+struct Projection
+{
+    Projection(const QwtScaleMap& x, const QwtScaleMap& y, const QRectF& canvas)
+        : numbers{x.s1(), x.s2(), x.p1(),        x.p2(),       y.s1(),         y.s2(),
+                  y.p1(), y.p2(), canvas.left(), canvas.top(), canvas.width(), canvas.height()},
+          scales{x.transformation() != nullptr, y.transformation() != nullptr}
+    {}
+    bool operator==(const Projection& other) const { return numbers == other.numbers && scales == other.scales; }
+
+    std::array<double, 12> numbers{};
+    std::array<bool, 2> scales{};
+};
+
+/// The places of points on the canvas of a plot without those that symbols of other points cover.
+class Thinning
+{
+public:
+    /// Symbols closer to each other than `distance`, in pixels, are drawn once.
+    Thinning(const QRectF& canvas, double distance)
+        : m_origin(canvas.topLeft() - QPointF(margin, margin)),
+          m_cell(1.0 / distance),
+          m_columns(cells(canvas.width(), distance)),
+          m_rows(cells(canvas.height(), distance)),
+          m_taken(m_columns * m_rows)
+    {}
+
+    void add(const QPointF& place)
+    {
+        const double column = (place.x() - m_origin.x()) * m_cell;
+        const double row = (place.y() - m_origin.y()) * m_cell;
+        if (!(column >= 0.0 && row >= 0.0 && column < double(m_columns) && row < double(m_rows)))
+            return;
+        const std::size_t index = static_cast<std::size_t>(row) * m_columns + static_cast<std::size_t>(column);
+        if (m_taken[index])
+            return;
+        m_taken[index] = true;
+        m_places.append(place);
+    }
+
+    QPolygonF take() { return std::move(m_places); }
+
+private:
+    static constexpr double margin = 32.0; // pixels, for symbols whose centre is outside the canvas
+
+    static std::size_t cells(double length, double distance)
+    {
+        return static_cast<std::size_t>(std::ceil((std::max(length, 0.0) + 2.0 * margin) / distance)) + 1;
+    }
+
+    QPointF m_origin;
+    double m_cell;
+    std::size_t m_columns;
+    std::size_t m_rows;
+    std::vector<bool> m_taken;
+    QPolygonF m_places;
+};
+
+/// A curve with gaps where its points are not finite. Of many symbols, it draws only those that are seen, and remembers them
+/// until points or axes change.
 class GapCurve : public QwtPlotCurve
 {
 public:
-    explicit GapCurve(const QwtText& name) : QwtPlotCurve(name) {}
+    explicit GapCurve(const QwtText& name) : QwtPlotCurve(name) { setPaintAttribute(FilterPoints); }
 
     void setPoints(const QVector<QPointF>& points)
     {
@@ -67,6 +129,8 @@ public:
             from = i + 1;
         }
         m_bounds = bounds;
+        m_projection.reset();
+        m_points = points;
         setSamples(points);
     }
 
@@ -75,15 +139,52 @@ public:
     void drawSeries(QPainter* painter, const QwtScaleMap& x, const QwtScaleMap& y, const QRectF& canvas, int /*from*/,
                     int /*to*/) const override
     {
-        // Whole pixels would make steps of a smooth curve.
+        if (style() == NoCurve && symbol() != nullptr)
+            return drawSeen(painter, x, y, canvas);
         const bool wasRounding = QwtPainter::roundingAlignment();
-        QwtPainter::setRoundingAlignment(false);
-        for (const auto& [first, last] : m_runs)
+        for (const auto& [first, last] : m_runs) {
+            // Whole pixels would make steps of a smooth curve. Points on the same pixel are left out of a dense one.
+            QwtPainter::setRoundingAlignment(last - first > mostDrawnExactly);
             QwtPlotCurve::drawSeries(painter, x, y, canvas, first, last);
+        }
         QwtPainter::setRoundingAlignment(wasRounding);
     }
 
 private:
+    static constexpr int mostDrawnExactly = 20000;
+    static constexpr int mostSymbolsDrawnExactly = 2000;
+
+    void drawSeen(QPainter* painter, const QwtScaleMap& x, const QwtScaleMap& y, const QRectF& canvas) const
+    {
+        const Projection projection(x, y, canvas);
+        if (!m_projection || !(projection == *m_projection)) {
+            m_projection = projection;
+            findSeen(x, y, canvas);
+        }
+        painter->save();
+        symbol()->drawSymbols(painter, m_seen);
+        painter->restore();
+    }
+
+    void findSeen(const QwtScaleMap& x, const QwtScaleMap& y, const QRectF& canvas) const
+    {
+        const bool isThinned = m_points.size() > mostSymbolsDrawnExactly;
+        const double size = std::max(symbol()->size().width(), 1);
+        Thinning thinning(canvas, isThinned ? std::max(size / 4.0, 1.0) : 1.0);
+        m_seen.clear();
+        for (const auto& [first, last] : m_runs)
+            for (int i = first; i <= last; ++i) {
+                const QPointF& point = m_points[i];
+                const QPointF place(x.transform(point.x()), y.transform(point.y()));
+                if (isThinned)
+                    thinning.add(place);
+                else
+                    m_seen.append(place);
+            }
+        if (isThinned)
+            m_seen = thinning.take();
+    }
+
     /// QRectF::united ignores rectangles without an area.
     static QRectF united(const QRectF& bounds, const QPointF& point)
     {
@@ -93,6 +194,9 @@ private:
 
     std::vector<std::pair<int, int>> m_runs; ///< the first and last points between gaps
     QRectF m_bounds{0.0, 0.0, -1.0, -1.0};
+    QVector<QPointF> m_points;
+    mutable std::optional<Projection> m_projection; ///< of m_seen; absent if m_seen is out of date
+    mutable QPolygonF m_seen;                       ///< the places of the symbols that are drawn, in pixels
 };
 
 /// A band that does not change the range of the axes.
@@ -108,6 +212,14 @@ QwtText plain(const std::string& text)
     return {QString::fromStdString(text), QwtText::PlainText};
 }
 
+/// A text that is broken into lines where it is too long.
+QwtText wrapped(const QString& text)
+{
+    QwtText lines(text, QwtText::PlainText);
+    lines.setRenderFlags(Qt::AlignCenter | Qt::TextWordWrap);
+    return lines;
+}
+
 QString axisTitle(const Axis& axis)
 {
     const QString name = QString::fromStdString(axis.name);
@@ -119,6 +231,18 @@ QString axisTitle(const Axis& axis)
 bool isDrawn(double value, Scale scale)
 {
     return std::fabs(value) <= largestDrawn && (scale == Scale::Linear || value >= smallestOnLogarithmicScale);
+}
+
+/// Returns how many points of a series are missing on logarithmic axes because they are not greater than 0.
+std::size_t countLeftOut(const Series& series, const PlotData& data)
+{
+    const auto isMissing = [](double value, Scale scale) {
+        return scale == Scale::Logarithmic && value < smallestOnLogarithmicScale;
+    };
+    std::size_t missing = 0;
+    for (std::size_t i = 0; i < std::min(series.x.size(), series.y.size()); ++i)
+        missing += isMissing(series.x[i], data.x.scale) || isMissing(series.y[i], data.y.scale) ? 1 : 0;
+    return missing;
 }
 
 QVector<QPointF> pointsOf(const Series& series, const PlotData& data)
@@ -143,12 +267,46 @@ QwtSymbol* makeSymbol(const PlotLook& look, std::size_t style)
                          QSizeF(look.symbolSize, look.symbolSize).toSize());
 }
 
+/// A logarithmic scale that ends where the data end. If it is short, the numbers 2 and 5 of each decade have labels too.
+class LogarithmicScale : public QwtLogScaleEngine
+{
+public:
+    LogarithmicScale() { setAttribute(Floating); }
+
+    QwtScaleDiv divideScale(double from, double to, int majorSteps, int minorSteps, double step) const override
+    {
+        constexpr int fewest = 4; // labels
+        constexpr int whole = 10; // minor steps of a decade
+        QwtScaleDiv marks = QwtLogScaleEngine::divideScale(from, to, majorSteps, std::max(minorSteps, whole), step);
+        QList<double> labels = marks.ticks(QwtScaleDiv::MajorTick);
+        if (labels.size() >= fewest || labels.isEmpty())
+            return marks;
+        QList<double> minor;
+        for (const auto type : {QwtScaleDiv::MediumTick, QwtScaleDiv::MinorTick})
+            for (const double tick : marks.ticks(type))
+                (isLabelled(tick) ? labels : minor).append(tick);
+        std::sort(labels.begin(), labels.end());
+        marks.setTicks(QwtScaleDiv::MajorTick, labels);
+        marks.setTicks(QwtScaleDiv::MediumTick, {});
+        marks.setTicks(QwtScaleDiv::MinorTick, minor);
+        return marks;
+    }
+
+private:
+    static bool isLabelled(double tick)
+    {
+        constexpr double tolerance = 1e-6;
+        const double leading = tick / std::pow(10.0, std::floor(std::log10(tick) + tolerance));
+        return std::fabs(leading - 2.0) < tolerance || std::fabs(leading - 5.0) < tolerance;
+    }
+};
+
 void setScale(QwtPlot& plot, int axis, const Axis& data)
 {
     const bool isLogarithmic = data.scale == Scale::Logarithmic;
     const bool wasLogarithmic = dynamic_cast<QwtLogScaleEngine*>(plot.axisScaleEngine(axis)) != nullptr;
     if (isLogarithmic != wasLogarithmic)
-        plot.setAxisScaleEngine(axis, isLogarithmic ? static_cast<QwtScaleEngine*>(new QwtLogScaleEngine)
+        plot.setAxisScaleEngine(axis, isLogarithmic ? static_cast<QwtScaleEngine*>(new LogarithmicScale)
                                                     : new QwtLinearScaleEngine);
     if (data.range && data.range->from < data.range->to)
         plot.setAxisScale(axis, data.range->from, data.range->to);
@@ -184,13 +342,44 @@ PlotItems::~PlotItems() = default;
 
 void PlotItems::show(const PlotData& data)
 {
-    const bool isSame = hasSameItems(data);
-    m_data = data;
+    const bool hasItems = hasSameKinds(data);
+    const bool isSameScale = data.x.scale == m_data.x.scale && data.y.scale == m_data.y.scale;
+    m_data.title = data.title;
+    m_data.x = data.x;
+    m_data.y = data.y;
+    m_data.bands = data.bands;
     setAxes();
-    if (!isSame)
+    if (!hasItems) {
+        m_data.series = data.series;
         makeItems();
-    setPoints();
+        setPoints();
+    }
+    for (std::size_t i = 0; hasItems && i < data.series.size(); ++i)
+        change(i, data.series[i], isSameScale);
+    setFooter();
     makeBands();
+}
+
+/// Changes only what differs: a test may have a million points.
+void PlotItems::change(std::size_t i, const Series& series, bool isSameScale)
+{
+    Series& shown = m_data.series[i];
+    QwtPlotCurve& curve = *m_curves[i];
+    if (shown.name != series.name) {
+        curve.setTitle(plain(series.name));
+        curve.setVisible(true);
+    }
+    const bool hasOtherStyle = shown.style != series.style;
+    const bool hasSamePoints = isSameScale && shown.x == series.x && shown.y == series.y;
+    shown.name = series.name;
+    shown.style = series.style;
+    if (hasOtherStyle)
+        setStyle(curve, series);
+    if (hasSamePoints)
+        return;
+    shown.x = series.x;
+    shown.y = series.y;
+    setPoints(i);
 }
 
 void PlotItems::setLook(PlotLook look)
@@ -199,15 +388,14 @@ void PlotItems::setLook(PlotLook look)
     colourPlot();
     makeItems();
     setPoints();
+    setFooter();
     makeBands();
     setAxes();
 }
 
-bool PlotItems::hasSameItems(const PlotData& data) const
+bool PlotItems::hasSameKinds(const PlotData& data) const
 {
-    const auto isSame = [](const Series& one, const Series& other) {
-        return one.name == other.name && one.kind == other.kind && one.style == other.style;
-    };
+    const auto isSame = [](const Series& one, const Series& other) { return one.kind == other.kind; };
     return data.series.size() == m_data.series.size() &&
            std::equal(data.series.begin(), data.series.end(), m_data.series.begin(), isSame);
 }
@@ -221,7 +409,6 @@ void PlotItems::makeItems()
         delete band;
     for (const Series& series : m_data.series)
         addCurve(series, m_curves.size() < mostInLegend);
-    setFooter();
 }
 
 void PlotItems::addCurve(const Series& series, bool isInLegend)
@@ -232,20 +419,32 @@ void PlotItems::addCurve(const Series& series, bool isInLegend)
     curve->setLegendAttribute(QwtPlotCurve::LegendShowLine, series.kind == SeriesKind::Line);
     curve->setLegendAttribute(QwtPlotCurve::LegendShowSymbol, series.kind == SeriesKind::Symbols);
     curve->setLegendIconSize(legendIconSize());
-    curve->setPen(m_look.linePen(series.style));
-    if (series.kind == SeriesKind::Symbols) {
-        curve->setStyle(QwtPlotCurve::NoCurve);
-        curve->setSymbol(makeSymbol(m_look, series.style)); // takes ownership
-    }
+    setStyle(*curve, series);
     curve->setZ(series.kind == SeriesKind::Symbols ? 30.0 : 20.0);
     curve->attach(&m_plot);
     m_curves.push_back(curve);
 }
 
+void PlotItems::setStyle(QwtPlotCurve& curve, const Series& series) const
+{
+    curve.setPen(m_look.linePen(series.style));
+    if (series.kind != SeriesKind::Symbols)
+        return;
+    curve.setStyle(QwtPlotCurve::NoCurve);
+    curve.setSymbol(makeSymbol(m_look, series.style)); // takes ownership
+}
+
 void PlotItems::setPoints()
 {
+    m_leftOut.assign(m_curves.size(), 0);
     for (std::size_t i = 0; i < m_curves.size(); ++i)
-        static_cast<GapCurve*>(m_curves[i])->setPoints(pointsOf(m_data.series[i], m_data));
+        setPoints(i);
+}
+
+void PlotItems::setPoints(std::size_t i)
+{
+    static_cast<GapCurve*>(m_curves[i])->setPoints(pointsOf(m_data.series[i], m_data));
+    m_leftOut[i] = countLeftOut(m_data.series[i], m_data);
 }
 
 QSize PlotItems::legendIconSize() const
@@ -289,7 +488,7 @@ void PlotItems::setAxes()
     title.setFont(bold);
     m_plot.setTitle(title);
     const auto setTitle = [this](int axis, const Axis& data) {
-        QwtText text(axisTitle(data), QwtText::PlainText);
+        QwtText text = wrapped(axisTitle(data));
         text.setFont(m_look.font);
         m_plot.setAxisTitle(axis, text);
     };
@@ -299,14 +498,20 @@ void PlotItems::setAxes()
 
 void PlotItems::setFooter()
 {
-    QwtText text;
+    QStringList sentences;
     if (m_data.series.size() > mostInLegend)
-        text = QwtText(QCoreApplication::translate("vxPlot", "The legend shows the first %1 of %2 curves.")
-                           .arg(mostInLegend)
-                           .arg(m_data.series.size()),
-                       QwtText::PlainText);
+        sentences << QCoreApplication::translate("vxPlot", "The legend shows the first %1 of %2 curves.")
+                         .arg(mostInLegend)
+                         .arg(m_data.series.size());
+    const std::size_t leftOut = std::accumulate(m_leftOut.begin(), m_leftOut.end(), std::size_t(0));
+    if (leftOut > 0)
+        sentences << QCoreApplication::translate(
+                         "vxPlot", "Points that are not greater than 0 and missing on a logarithmic axis: %1.")
+                         .arg(leftOut);
+    QwtText text = wrapped(sentences.join(QLatin1Char(' ')));
     text.setFont(m_look.font);
-    m_plot.setFooter(text);
+    if (text != m_plot.footer())
+        m_plot.setFooter(text);
 }
 
 void PlotItems::colourPlot()

@@ -18,8 +18,9 @@ namespace vxPlot {
 /// The most entries of a legend. A line below the plot tells the number of further series.
 inline constexpr std::size_t mostInLegend = 24;
 
-/// Shows plot data in a plot widget of Qwt. The items belong to the plot; the plot must outlive this object. Data with the
-/// same series as before only get new points, so that a plot follows a value while it is dragged.
+/// Shows plot data in a plot widget of Qwt. The items belong to the plot; the plot must outlive this object. Series of the same
+/// kinds as before only get new points, and unchanged points stay, so that a plot follows a value while it is dragged. Of
+/// more than 2000 symbols of a series, those that others cover are not drawn.
 class PlotItems
 {
 public:
@@ -39,10 +40,13 @@ public:
     const PlotData& data() const { return m_data; }
 
 private:
-    bool hasSameItems(const PlotData& data) const;
+    bool hasSameKinds(const PlotData& data) const;
+    void change(std::size_t i, const Series& series, bool isSameScale);
+    void setStyle(QwtPlotCurve& curve, const Series& series) const;
     void makeItems();
     void addCurve(const Series& series, bool isInLegend);
     void setPoints();
+    void setPoints(std::size_t i);
     void makeBands();
     QSize legendIconSize() const;
     void setAxes();
@@ -54,6 +58,7 @@ private:
     PlotData m_data;
     std::vector<QwtPlotCurve*> m_curves;
     std::vector<QwtPlotZoneItem*> m_bands;
+    std::vector<std::size_t> m_leftOut; ///< the points of each series that are missing on logarithmic axes
     QwtPlotGrid* m_grid = nullptr;
 };
 

@@ -1,10 +1,13 @@
 #include "vxPlot/drawing/PlotItems.h"
 
+#include "vxPlot/drawing/Picture.h"
+
 #include <QLabel>
 #include <gmock/gmock.h>
 #include <qwt_legend.h>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_text.h>
 
 namespace {
 
@@ -47,6 +50,77 @@ TEST(PlotItems, ScalesTheAxesToTheCurvesAndNotToTheBands)
     items.show(data);
     plot.replot();
     EXPECT_EQ(plot.axisInterval(QwtPlot::xBottom), QwtInterval(0.25, 0.5));
+}
+
+TEST(PlotItems, KeepsTheItemsWhileOnlyNamesChange)
+{
+    QwtPlot plot;
+    PlotItems items(plot, vxPlot::printedLook());
+    items.show(lines(2, 1.0));
+    const auto before = items.curves();
+    PlotData renamed = lines(2, 1.0);
+    renamed.series[1].name = "Other";
+    items.show(renamed);
+    EXPECT_EQ(items.curves(), before);
+    EXPECT_EQ(items.curves()[1]->title().text(), QStringLiteral("Other"));
+}
+
+/// Returns how many symbols a drawing of a cloud of points has.
+int symbolsOfCloud(std::size_t count)
+{
+    PlotData data;
+    data.series.push_back({"Cloud", SeriesKind::Symbols, 0, {}, {}});
+    for (std::size_t i = 0; i < count; ++i) {
+        data.series[0].x.push_back(double(i % 1000));
+        data.series[0].y.push_back(double((i * 7919) % 997));
+    }
+    const QByteArray drawing = vxPlot::pictureFile(data, vxPlot::PictureFormat::Svg, QSize(400, 300));
+    return drawing.count("<ellipse") + drawing.count("<circle");
+}
+
+TEST(PlotItems, DrawEachOfFewSymbolsAndOfManyOnlyThoseThatAreSeen)
+{
+    EXPECT_EQ(symbolsOfCloud(1500), 1500);
+    // The picture has 30,000 squares of 2 by 2 pixels.
+    const int drawn = symbolsOfCloud(300000);
+    EXPECT_LT(drawn, 30000);
+    EXPECT_GT(drawn, 5000);
+}
+
+TEST(PlotItems, SaysHowManyPointsALogarithmicAxisLeavesOut)
+{
+    QwtPlot plot;
+    PlotItems items(plot, vxPlot::printedLook());
+    PlotData data = lines(1, 2.0);
+    data.series[0].x = {0.5, 1.0, 2.0};
+    data.series[0].y = {-3.0, 0.0, 4.0};
+    items.show(data);
+    EXPECT_EQ(plot.footer().text(), QString());
+    data.y.scale = vxPlot::Scale::Logarithmic;
+    items.show(data);
+    EXPECT_EQ(plot.footer().text(),
+              QStringLiteral("Points that are not greater than 0 and missing on a logarithmic axis: 2."));
+    data.y.scale = vxPlot::Scale::Linear;
+    items.show(data);
+    EXPECT_EQ(plot.footer().text(), QString());
+}
+
+TEST(PlotItems, FitLogarithmicAxesToTheData)
+{
+    QwtPlot plot;
+    PlotItems items(plot, vxPlot::printedLook());
+    PlotData data = lines(1, 2.0);
+    data.series[0].x = {0.4, 4.0};
+    data.series[0].y = {1.0, 2.0};
+    data.x.scale = vxPlot::Scale::Logarithmic;
+    items.show(data);
+    plot.replot();
+    EXPECT_NEAR(plot.axisInterval(QwtPlot::xBottom).minValue(), 0.4, 1e-9);
+    EXPECT_NEAR(plot.axisInterval(QwtPlot::xBottom).maxValue(), 4.0, 1e-9);
+    const QList<double> labels = plot.axisScaleDiv(QwtPlot::xBottom).ticks(QwtScaleDiv::MajorTick);
+    ASSERT_EQ(labels.size(), 3);
+    EXPECT_NEAR(labels[0], 0.5, 1e-9);
+    EXPECT_NEAR(labels[2], 2.0, 1e-9);
 }
 
 TEST(PlotItems, DistinguishesNeighboursByColourAndDashes)

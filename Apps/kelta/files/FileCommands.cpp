@@ -60,9 +60,12 @@ void open(ProjectFiles& files)
 void importDocument(ProjectFiles& files)
 {
     Obj::Project* const project = Obj::Application::get_current_project();
-    const QString path = askForFile(QT_TRANSLATE_NOOP("FileCommand", "Import exchange document"),
-                                    QCoreApplication::translate(context, "Exchange document (*.json)") +
-                                        QStringLiteral(";;") + QCoreApplication::translate(context, "All files (*)"));
+    QStringList filters = documentFilters(project->getTypeId());
+    if (filters.isEmpty())
+        filters << QCoreApplication::translate(context, "Exchange document (*.json)");
+    filters << QCoreApplication::translate(context, "All files (*)");
+    const QString path =
+        askForFile(QT_TRANSLATE_NOOP("FileCommand", "Import document or deck"), filters.join(QStringLiteral(";;")));
     // The project may have been closed while the dialog was open.
     if (!path.isEmpty() && project == Obj::Application::get_current_project())
         files.importDocument(*project, path);
@@ -144,8 +147,9 @@ std::vector<Gui::CommandRow> makeRows(ProjectFiles& files)
          QT_TRANSLATE_NOOP("FileCommand", "Save the project in another file"), "", Qt::CTRL + Qt::SHIFT + Qt::Key_S,
          none, [&files] { files.saveAs(*Obj::Application::get_current_project()); }, hasProject},
         {"Std_ImportDocument",
-         QT_TRANSLATE_NOOP("FileCommand", "I&mport exchange document..."),
-         QT_TRANSLATE_NOOP("FileCommand", "Add the content of an exchange document to the project"),
+         QT_TRANSLATE_NOOP("FileCommand", "I&mport document or deck..."),
+         QT_TRANSLATE_NOOP("FileCommand",
+                           "Add the content of an exchange document or of the deck of a solver to the project"),
          "kelta_import",
          {},
          none,

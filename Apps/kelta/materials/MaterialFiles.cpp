@@ -3,12 +3,16 @@
 #include "MaterialImport.h"
 
 #include "Obj/ContentCodec.h"
+#include "decks/DeckImport.h"
 #include "kelta/DocumentImport.h"
 #include "kelta/FileService.h"
 #include "projectfile/MaterialClasses.h"
 #include "projectfile/MaterialRecord.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/project/MaterialObject.h"
+
+#include <QCoreApplication>
+#include <QStringList>
 
 namespace desktop {
 
@@ -32,6 +36,19 @@ void readContent(Obj::ProjectObject& object, const Json::Value& content)
     projectfile::readMaterial(materialOf(object), content);
 }
 
+QStringList filters()
+{
+    const auto filter = [](const char* text, const QString& patterns) {
+        return QStringLiteral("%1 (%2)").arg(QCoreApplication::translate("desktop::MaterialFiles", text), patterns);
+    };
+    const QString documents = QStringLiteral("*.json");
+    const QString decks = deckPatterns();
+    return {filter(QT_TRANSLATE_NOOP("desktop::MaterialFiles", "Documents and decks"),
+                   documents + QLatin1Char(' ') + decks),
+            filter(QT_TRANSLATE_NOOP("desktop::MaterialFiles", "Exchange documents"), documents),
+            filter(QT_TRANSLATE_NOOP("desktop::MaterialFiles", "Decks of solvers"), decks)};
+}
+
 void tellFiles(Mat::MaterialObject& object)
 {
     if (FileService* const files = FileService::instance())
@@ -44,7 +61,7 @@ void registerMaterialFiles()
 {
     projectfile::registerMaterialClass(objectClass, materialOf);
     Obj::registerContentCodec(objectClass, {writeContent, readContent});
-    registerDocumentImport(projectClass, readMaterialDocument);
+    registerDocumentImport(projectClass, readMaterialDocument, filters);
     MatGui::materialChanged().connect(tellFiles);
 }
 

@@ -4,6 +4,7 @@
 
 #include "Gui/CopyLabels.h"
 #include "Kelta/MessageLog.h"
+#include "decks/DeckImport.h"
 #include "kelta/BusyCursor.h"
 #include "projectfile/ExchangeImport.h"
 #include "projectfile/ProjectStore.h"
@@ -74,22 +75,38 @@ ImportOutcome addMaterials(Obj::Project& project, const projectfile::ImportedMat
     return outcome;
 }
 
+/// Returns the step that adds materials, and then reports sentences about their file.
+ImportStep makeStep(projectfile::ImportedMaterials materials, const QString& path, const QStringList& reports)
+{
+    // The step is a function object that can be copied; the materials cannot be.
+    const auto imported = std::make_shared<projectfile::ImportedMaterials>(std::move(materials));
+    return [imported, path, reports](Obj::Project& project) {
+        ImportOutcome outcome = addMaterials(project, *imported, path);
+        for (const QString& report : reports)
+            if (!report.isEmpty())
+                Kelta::MessageLog::information(path + QStringLiteral(": ") + report);
+        return outcome;
+    };
+}
+
+ImportStep readDeck(const DeckFile& file)
+{
+    auto deck = importDeck(file);
+    return deck ? makeStep(std::move(deck->materials), file.path, deck->reports) : ImportStep();
+}
+
 } // namespace
 
 ImportStep readMaterialDocument(const QString& path)
 {
-    // The step is a function object that can be copied; the materials cannot be.
-    const auto imported = std::make_shared<projectfile::ImportedMaterials>(read(path));
-    const auto units = chooseImportUnits(path, *imported);
+    if (const auto deck = recogniseDeck(path))
+        return readDeck(*deck);
+    projectfile::ImportedMaterials imported = read(path);
+    const auto units = chooseImportUnits(path, imported);
     if (!units)
         return {};
-    const QString report = convertToCatalogue(*imported, *units);
-    return [imported, path, report](Obj::Project& project) {
-        ImportOutcome outcome = addMaterials(project, *imported, path);
-        if (!report.isEmpty())
-            Kelta::MessageLog::information(path + QStringLiteral(": ") + report);
-        return outcome;
-    };
+    const QString report = convertToCatalogue(imported, *units);
+    return makeStep(std::move(imported), path, {report});
 }
 
 } // namespace desktop

@@ -243,11 +243,16 @@ Failure importMaterials(const QStringList&)
 Failure importDocument(const QStringList& arguments)
 {
     if (arguments.size() > 2)
-        return tr("give the name of a document, and the unit system of its numbers if it is not SI");
-    const auto system = vxUnits::UnitSystem::parse(arguments.value(1, QStringLiteral("SI")).toStdString());
-    if (!system)
-        return vxInspector::translated(system.failure());
-    const UnaskedImport unasked(*system);
+        return tr(
+            "give the name of a document or deck, and the unit system of its numbers if it is not SI or declared");
+    std::optional<vxUnits::UnitSystem> units;
+    if (arguments.size() == 2) {
+        const auto system = vxUnits::UnitSystem::parse(arguments[1].toStdString());
+        if (!system)
+            return vxInspector::translated(system.failure());
+        units = *system;
+    }
+    const UnaskedImport unasked(std::move(units));
     return Batch::invokeCommand(QStringLiteral("Std_ImportDocument"), arguments.mid(0, 1));
 }
 

@@ -4,6 +4,7 @@
 #include "kelta/KeltaShellExport.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <string>
@@ -39,14 +40,21 @@ using ImportStep = std::function<ImportOutcome(Obj::Project& project)>;
 /// the user cancels. Throws a std::exception if the file cannot be read or is not such a document.
 using DocumentImport = std::function<ImportStep(const QString& path)>;
 
-/// Registers the import of exchange documents into projects of a class, and of derived classes without an import
-/// of their own. A later import of a class replaces an earlier one.
-KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, DocumentImport import);
+/// Returns the filters of the file dialog for the documents of a module, in the user's language: "Exchange document (*.json)".
+using DocumentFilters = std::function<QStringList()>;
+
+/// Registers the import of documents into projects of a class, and of derived classes without an import of their own. A
+/// later import of a class replaces an earlier one. Without filters, the file dialog shows exchange documents.
+KELTA_SHELL_EXPORT void registerDocumentImport(const std::string& projectClass, DocumentImport import,
+                                               DocumentFilters filters = {});
 
 /// Returns the classes of projects for which an import is registered.
 KELTA_SHELL_EXPORT std::vector<std::string> documentImportClasses();
 
 /// Returns the import into projects of a class; null if neither the class nor a base class has one.
 KELTA_SHELL_EXPORT const DocumentImport* findDocumentImport(Kelta::TypeInfo projectClass);
+
+/// Returns the filters that were registered with this import; empty if there are none.
+KELTA_SHELL_EXPORT QStringList documentFilters(Kelta::TypeInfo projectClass);
 
 } // namespace desktop

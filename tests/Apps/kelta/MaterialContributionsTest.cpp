@@ -86,6 +86,17 @@ TEST_F(Materials, HaveTheirCommandsInTheToolbars)
     EXPECT_THAT(bar("BottomMaterial"), ElementsAre("Mat_Import", "Mat_Export"));
 }
 
+TEST_F(Materials, AreImportedFromDocumentsAndDecks)
+{
+    const QStringList filters = desktop::documentFilters(Mat::DocumentMaterial::getClassTypeId());
+    ASSERT_EQ(filters.size(), 3);
+    EXPECT_THAT(filters[0].toStdString(), testing::StartsWith("Documents and decks (*.json "));
+    EXPECT_THAT(filters[0].toStdString(), HasSubstr(" *.inp"));
+    EXPECT_EQ(filters[1], "Exchange documents (*.json)");
+    EXPECT_THAT(filters[2].toStdString(), testing::StartsWith("Decks of solvers (*."));
+    EXPECT_TRUE(desktop::documentFilters(Obj::Project::getClassTypeId()).isEmpty());
+}
+
 TEST_F(Materials, AreTheOnlyWorkbench)
 {
     const auto& workbenches = Gui::GuiApplication::Instance->contributions().workbenches();

@@ -28,6 +28,7 @@ DeckReportView::DeckReportView(QWidget* parent) : QTableView(parent), m_lines(ne
     setShowGrid(false);
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
@@ -51,7 +52,6 @@ void DeckReportView::fitRows()
     const int rest = viewport()->width() - columnWidth(DeckReportModel::Outcome);
     setColumnWidth(DeckReportModel::Quantities, rest * 30 / 100);
     setColumnWidth(DeckReportModel::Reason, rest * 45 / 100);
-    setColumnWidth(DeckReportModel::Materials, rest * 25 / 100);
     if (m_lines->rowCount() <= mostWrappedRows)
         resizeRowsToContents();
 }

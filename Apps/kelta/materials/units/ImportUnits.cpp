@@ -30,10 +30,10 @@ using projectfile::ImportedMaterial;
 using projectfile::ImportedMaterials;
 using vxUnits::UnitSystem;
 
-std::optional<UnitSystem>& unaskedSystem()
+const UnaskedImport*& unaskedImport()
 {
-    static std::optional<UnitSystem> system;
-    return system;
+    static const UnaskedImport* current = nullptr;
+    return current;
 }
 
 QString tr(const char* text)
@@ -132,20 +132,25 @@ void add(std::string doubt, ImportedMaterials& imported)
 
 } // namespace
 
-UnaskedImport::UnaskedImport(UnitSystem system)
+UnaskedImport::UnaskedImport(std::optional<UnitSystem> system) : m_system(std::move(system))
 {
-    unaskedSystem() = std::move(system);
+    unaskedImport() = this;
 }
 
 UnaskedImport::~UnaskedImport()
 {
-    unaskedSystem() = std::nullopt;
+    unaskedImport() = nullptr;
+}
+
+const UnaskedImport* UnaskedImport::current()
+{
+    return unaskedImport();
 }
 
 std::optional<ImportUnits> chooseImportUnits(const QString& path, const ImportedMaterials& imported)
 {
-    if (unaskedSystem())
-        return ImportUnits{*unaskedSystem()};
+    if (const UnaskedImport* const unasked = UnaskedImport::current())
+        return ImportUnits{unasked->system().value_or(UnitSystem::si())};
     ImportUnitsDialog dialog(path, Gui::MainWindow::get_main_window_inst());
     const auto system = dialog.exec() == QDialog::Accepted ? dialog.system() : std::nullopt;
     if (!system)

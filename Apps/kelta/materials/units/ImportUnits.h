@@ -22,15 +22,22 @@ struct ImportUnits
     bool areConfirmed = false; ///< whether the user has decided about numbers that look like another system
 };
 
-/// While an instance lives, imports take the numbers of documents to be in this system and ask nothing; for a program
-/// without a user.
+/// While an instance lives, imports take the numbers of files to be in its system and ask nothing; for a program without a
+/// user. Without a system, the numbers of exchange documents are in SI, and those of decks in the system that they declare.
 class UnaskedImport
 {
 public:
-    explicit UnaskedImport(vxUnits::UnitSystem system);
+    explicit UnaskedImport(std::optional<vxUnits::UnitSystem> system);
     UnaskedImport(const UnaskedImport&) = delete;
     UnaskedImport& operator=(const UnaskedImport&) = delete;
     ~UnaskedImport();
+
+    /// Returns the instance that lives; null if there is none.
+    static const UnaskedImport* current();
+    const std::optional<vxUnits::UnitSystem>& system() const { return m_system; }
+
+private:
+    std::optional<vxUnits::UnitSystem> m_system;
 };
 
 /// Asks the user for the unit system of the numbers in a document. The proposal is SI, which the format of documents

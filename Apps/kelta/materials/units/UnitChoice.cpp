@@ -85,7 +85,7 @@ UnitChoice::~UnitChoice() = default;
 
 void UnitChoice::fillSystems()
 {
-    if (m_preference == Preference::Offered)
+    if (m_preference != Preference::NotOffered)
         m_systems->addItem(QString(), QLatin1String(ofPreferences));
     for (const UnitSystem& system : UnitSystem::builtIn()) {
         const QString text = QString::fromStdString(system.text());
@@ -112,9 +112,11 @@ void UnitChoice::buildLayout()
 void UnitChoice::retranslate()
 {
     const QString offered = QString::fromStdString(m_ofProject.value_or(vxInspector::defaultSystem()).text());
+    const QString first = m_preference == Preference::Undecided ? tr("Not chosen yet")
+                          : m_ofProject                         ? tr("As the project (%1)").arg(offered)
+                                                                : tr("As in the preferences (%1)").arg(offered);
     if (const int index = m_systems->findData(QLatin1String(ofPreferences)); index >= 0)
-        m_systems->setItemText(
-            index, (m_ofProject ? tr("As the project (%1)") : tr("As in the preferences (%1)")).arg(offered));
+        m_systems->setItemText(index, first);
     m_systems->setItemText(m_systems->findData(QLatin1String(ownUnits)), tr("Own base units"));
     m_systems->setAccessibleName(tr("Unit system"));
     m_bases->setAccessibleName(tr("Base units"));
@@ -140,8 +142,15 @@ bool UnitChoice::isPreference() const
     return m_systems->currentData() == QLatin1String(ofPreferences);
 }
 
+bool UnitChoice::isUndecided() const
+{
+    return m_preference == Preference::Undecided && isPreference();
+}
+
 vxUnits::Result<UnitSystem> UnitChoice::read() const
 {
+    if (isUndecided())
+        return UnitSystem::parse({});
     if (isPreference())
         return m_ofProject.value_or(vxInspector::defaultSystem());
     const QString text = isOwn() ? m_bases->text() : m_systems->currentData().toString();
@@ -179,8 +188,8 @@ void UnitChoice::systemChosen()
 {
     m_bases->setReadOnly(!isOwn());
     m_bases->setEnabled(isOwn());
-    if (const auto chosen = read(); !isOwn() && chosen)
-        m_bases->setText(basesOf(*chosen));
+    if (const auto chosen = read(); !isOwn())
+        m_bases->setText(chosen ? basesOf(*chosen) : QString());
     m_bases->setCursorPosition(0); // a text that is longer than the field shows its start
     showUnits();
     Q_EMIT edited();
@@ -196,7 +205,7 @@ void UnitChoice::showUnits()
                                    unitOf(*chosen, vxUnits::dimensions::density),
                                    unitOf(*chosen, vxUnits::dimensions::thermalConductivity)));
     } else {
-        m_remark->setText(vxInspector::translated(chosen.failure()));
+        m_remark->setText(isUndecided() ? QString() : vxInspector::translated(chosen.failure()));
         colors.setColor(QPalette::WindowText, colorOfFaults(*this));
     }
     m_remark->setPalette(colors);

@@ -26,6 +26,7 @@ public:
     {
         Offered,
         NotOffered,
+        Undecided, ///< not offered; nothing is chosen at first, and the choice is not valid
     };
     explicit UnitChoice(Preference preference, QWidget* parent = nullptr);
     /// Offers the system of a project, which has an empty text, in place of that of the preferences.
@@ -33,7 +34,8 @@ public:
     ~UnitChoice() override;
 
     /// Shows a system by its text (vxUnits::UnitSystem::text()), or any other text as base units of the user's own. An empty
-    /// text is the system of the project or of the preferences if it is offered, and SI otherwise.
+    /// text is the system of the project or of the preferences if it is offered, nothing if the user is undecided, and SI
+    /// otherwise.
     void setSystem(const QString& text);
     /// Returns the text of the chosen system; empty for the system of the project or of the preferences, and if the base
     /// units cannot be read.
@@ -59,6 +61,7 @@ private:
     void showUnits();
     bool isOwn() const;
     bool isPreference() const;
+    bool isUndecided() const;
 
     Preference m_preference;
     std::optional<vxUnits::UnitSystem> m_ofProject; ///< in place of the system of the preferences

@@ -1107,7 +1107,7 @@ TEST_F(ProjectFiles, GiveImportedObjectsLabelsOfTheirOwnAndSaySo)
     EXPECT_THAT(reports.text(), HasSubstr("a.json: Objects with a label that was in use have got another one: "
                                           R"("Beams" is now "Beams copy 2", "Beams" is now "Beams copy 3".)"));
     EXPECT_EQ(window->statusBar()->currentMessage(), "Objects imported: 3, with another label: 2");
-    EXPECT_EQ(history().undoText(), "Import exchange document");
+    EXPECT_EQ(history().undoText(), "Import document or deck");
 }
 
 /// A material document of steel, with its modulus and density in mm-t-s.

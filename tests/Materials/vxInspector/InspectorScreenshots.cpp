@@ -18,6 +18,7 @@
 #include "vxMaterial/project/Module.h"
 #include "vxMaterial/project/Requests.h"
 
+#include <QComboBox>
 #include <QDockWidget>
 #include <QHash>
 #include <QImage>
@@ -104,6 +105,8 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     shooting.take("inspector-findings");
     tabs.setCurrentIndex(2);
     shooting.take("inspector-cards");
+    tabs.findChild<QComboBox*>(QStringLiteral("cardFormats"))->setCurrentText(QStringLiteral("CalculiX"));
+    shooting.take("inspector-cards-deck");
     select({&frame, &shaft, &skin});
     tabs.setCurrentIndex(3);
     shooting.take("inspector-compare");

@@ -120,7 +120,6 @@ void UnitChoice::retranslate()
     m_systems->setItemText(m_systems->findData(QLatin1String(ownUnits)), tr("Own base units"));
     m_systems->setAccessibleName(tr("Unit system"));
     m_bases->setAccessibleName(tr("Base units"));
-    m_bases->setPlaceholderText(QStringLiteral("length cm, mass g, time us"));
 }
 
 void UnitChoice::changeEvent(QEvent* event)
@@ -188,6 +187,7 @@ void UnitChoice::systemChosen()
 {
     m_bases->setReadOnly(!isOwn());
     m_bases->setEnabled(isOwn());
+    m_bases->setPlaceholderText(isOwn() ? QStringLiteral("length cm, mass g, time us") : QString());
     if (const auto chosen = read(); !isOwn())
         m_bases->setText(chosen ? basesOf(*chosen) : QString());
     m_bases->setCursorPosition(0); // a text that is longer than the field shows its start

@@ -57,10 +57,6 @@
         <translation>Projekt öffnen</translation>
     </message>
     <message>
-        <source>Import exchange document</source>
-        <translation>Austauschdokument importieren</translation>
-    </message>
-    <message>
         <source>&amp;Open...</source>
         <translation>Ö&amp;ffnen...</translation>
     </message>
@@ -79,10 +75,6 @@
     <message>
         <source>Save the project in another file</source>
         <translation>Das Projekt in einer anderen Datei speichern</translation>
-    </message>
-    <message>
-        <source>I&amp;mport exchange document...</source>
-        <translation>Austauschdokument i&amp;mportieren...</translation>
     </message>
     <message>
         <source>Open &amp;recent</source>
@@ -105,10 +97,6 @@
         <translation>Ein Projekt aus einer Datei öffnen</translation>
     </message>
     <message>
-        <source>Add the content of an exchange document to the project</source>
-        <translation>Den Inhalt eines Austauschdokuments zum Projekt hinzufügen</translation>
-    </message>
-    <message>
         <source>Recent projects</source>
         <translation>Zuletzt verwendete Projekte</translation>
     </message>
@@ -127,6 +115,18 @@
     <message>
         <source>&amp;Hand over without them</source>
         <translation>Ohne sie &amp;übergeben</translation>
+    </message>
+    <message>
+        <source>Import document or deck</source>
+        <translation>Dokument oder Solverdatei importieren</translation>
+    </message>
+    <message>
+        <source>I&amp;mport document or deck...</source>
+        <translation>Dokument oder Solverdatei i&amp;mportieren...</translation>
+    </message>
+    <message>
+        <source>Add the content of an exchange document or of the deck of a solver to the project</source>
+        <translation>Dem Projekt den Inhalt eines Austauschdokuments oder einer Solverdatei hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -204,6 +204,10 @@
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>Now in use: %1, the language given at the start.</source>
+        <translation>Jetzt verwendet: %1, die beim Start angegebene Sprache.</translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1820,6 @@ Trotzdem löschen?</translation>
         <translation>die Standardausgabe kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
-        <source>give the name of a document, and the unit system of its numbers if it is not SI</source>
-        <translation>geben Sie den Namen eines Dokuments an und das Einheitensystem seiner Zahlen, wenn es nicht SI ist</translation>
-    </message>
-    <message>
         <source>give one unit system at most, and make a material project the current one</source>
         <translation>geben Sie höchstens ein Einheitensystem an und machen Sie ein Materialprojekt zum aktuellen</translation>
     </message>
@@ -1842,6 +1842,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>there is no solver &quot;%1&quot;; the solvers are: %2</source>
         <translation>es gibt keinen Solver „%1“; die Solver sind: %2</translation>
+    </message>
+    <message>
+        <source>give the name of a document or deck, and the unit system of its numbers if it is not SI or declared</source>
+        <translation>geben Sie den Namen eines Dokuments oder einer Solverdatei an, und das Einheitensystem der Zahlen, wenn es nicht SI oder angegeben ist</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +1979,21 @@ Trotzdem löschen?</translation>
     <message>
         <source>A deck carries no data that a project keeps beside its materials. Not written: %1.</source>
         <translation>Ein Deck enthält keine Daten, die ein Projekt neben seinen Materialien aufbewahrt. Nicht geschrieben: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckImport</name>
+    <message>
+        <source>This deck of %1 has no materials.</source>
+        <translation>Diese Datei von %1 hat keine Materialien.</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1, not %2.</source>
+        <translation>Die Zahlen sehen nach %1 aus, nicht nach %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -2130,6 +2149,57 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>desktop::ImportDeckDialog</name>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Import deck</source>
+        <translation>Solverdatei importieren</translation>
+    </message>
+    <message>
+        <source>The deck cannot be shown</source>
+        <translation>Die Solverdatei kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a deck of %2. Materials: %3</source>
+        <translation>„%1“ ist eine Datei von %2. Materialien: %3</translation>
+    </message>
+    <message>
+        <source>&amp;Report:</source>
+        <translation>&amp;Bericht:</translation>
+    </message>
+    <message>
+        <source>Each number in the file has its unit.</source>
+        <translation>Jede Zahl in der Datei hat ihre Einheit.</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers, which the file declares:</source>
+        <translation>&amp;Einheitensystem der Zahlen, das die Datei angibt:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers, which the file does not say:</source>
+        <translation>&amp;Einheitensystem der Zahlen, das die Datei nicht angibt:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers, which the file does not say. They look like %1:</source>
+        <translation>&amp;Einheitensystem der Zahlen, das die Datei nicht angibt. Sie sehen nach %1 aus:</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1. In %2, they would be unusual.</source>
+        <translation>Die Zahlen sehen nach %1 aus. In %2 wären sie ungewöhnlich.</translation>
+    </message>
+    <message>
+        <source>Choose the unit system; then the report is shown.</source>
+        <translation>Wählen Sie das Einheitensystem; dann wird der Bericht gezeigt.</translation>
+    </message>
+    <message>
+        <source>The deck is being read...</source>
+        <translation>Die Solverdatei wird gelesen...</translation>
+    </message>
+</context>
+<context>
     <name>desktop::ImportUnitsDialog</name>
     <message>
         <source>Import exchange document</source>
@@ -2254,6 +2324,21 @@ Trotzdem löschen?</translation>
     <message>
         <source>&quot;%1&quot;: An exchange document carries no data that a project keeps beside a material. Not written: %2.</source>
         <translation>„%1“: Ein Austauschdokument enthält keine Daten, die ein Projekt neben einem Material aufbewahrt. Nicht geschrieben: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialFiles</name>
+    <message>
+        <source>Documents and decks</source>
+        <translation>Dokumente und Solverdateien</translation>
+    </message>
+    <message>
+        <source>Exchange documents</source>
+        <translation>Austauschdokumente</translation>
+    </message>
+    <message>
+        <source>Decks of solvers</source>
+        <translation>Solverdateien</translation>
     </message>
 </context>
 <context>
@@ -2627,6 +2712,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>As the project (%1)</source>
         <translation>Wie das Projekt (%1)</translation>
+    </message>
+    <message>
+        <source>Not chosen yet</source>
+        <translation>Noch nicht gewählt</translation>
     </message>
 </context>
 <context>
@@ -3249,14 +3338,6 @@ Trotzdem löschen?</translation>
         <translation>Jede Zeile hat nur eine Zahl. Wenn es mehr sind, geben Sie das Trennzeichen an.</translation>
     </message>
     <message>
-        <source>%1 lines between or after the numbers are not numbers and are left out. The first is line %2.</source>
-        <translation>%1 Zeilen zwischen oder nach den Zahlen sind keine Zahlen und werden weggelassen. Die erste ist Zeile %2.</translation>
-    </message>
-    <message>
-        <source>%1 lines have a cell that is not a number or belongs to no column. The first is line %2.</source>
-        <translation>%1 Zeilen haben eine Zelle, die keine Zahl ist oder zu keiner Spalte gehört. Die erste ist Zeile %2.</translation>
-    </message>
-    <message>
         <source>The numbers have decimal commas.</source>
         <translation>Die Zahlen haben Dezimalkommas.</translation>
     </message>
@@ -3291,22 +3372,6 @@ Trotzdem löschen?</translation>
     <message>
         <source>Several columns fit. Column &quot;%1&quot; is used.</source>
         <translation>Mehrere Spalten passen. Spalte „%1“ wird verwendet.</translation>
-    </message>
-    <message>
-        <source>%1 points have a smaller abscissa than the point before.</source>
-        <translation>%1 Punkte haben eine kleinere Abszisse als der Punkt davor.</translation>
-    </message>
-    <message>
-        <source>%1 points repeat another point.</source>
-        <translation>%1 Punkte wiederholen einen anderen Punkt.</translation>
-    </message>
-    <message>
-        <source>%1 points are in compression or below 0.</source>
-        <translation>%1 Punkte liegen im Druckbereich oder unter 0.</translation>
-    </message>
-    <message>
-        <source>%1 points are left out: they are incomplete or outside the domain of the test.</source>
-        <translation>%1 Punkte werden weggelassen: Sie sind unvollständig oder außerhalb des Bereichs des Versuchs.</translation>
     </message>
     <message>
         <source>Test &quot;%1&quot;: all measured values are 0.</source>
@@ -3415,6 +3480,74 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1: the library of the solver cannot be loaded: %2. Install the program again.</source>
         <translation>%1: Die Bibliothek des Lösers kann nicht geladen werden: %2. Installieren Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>The model has no value at %3 points. At the first of them, the %1 is %2.</source>
+        <translation>Das Modell hat an %3 Punkten keinen Wert. Am ersten davon ist %1 %2.</translation>
+    </message>
+    <message>
+        <source>No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too large, the chains are at their limit, or there is no equilibrium.</source>
+        <translation>An %3 Punkten gibt es keinen endlichen Wert. Am ersten davon ist %1 %2. Die Konstanten oder der Bereich sind zu groß, die Ketten sind an ihrer Grenze, oder es gibt kein Gleichgewicht.</translation>
+    </message>
+    <message>
+        <source>%1: the material is unstable below the %3 %2 by Drucker&apos;s criterion. A solver may fail there.</source>
+        <translation>%1: Das Material ist nach Druckers Kriterium instabil, wenn die Größe „%3“ kleiner als %2 ist. Ein Solver kann dort scheitern.</translation>
+    </message>
+    <message>
+        <source>%1: the material is unstable above the %3 %2 by Drucker&apos;s criterion. A solver may fail there.</source>
+        <translation>%1: Das Material ist nach Druckers Kriterium instabil, wenn die Größe „%3“ größer als %2 ist. Ein Solver kann dort scheitern.</translation>
+    </message>
+    <message>
+        <source>The creep strain reaches %1 at the stress %2 Pa. No creep law is valid for strains above 1. Check the range, and the units of the creep constants.</source>
+        <translation>Die Kriechdehnung erreicht %1 bei der Spannung %2 Pa. Kein Kriechgesetz gilt für Dehnungen über 1. Prüfen Sie den Bereich und die Einheiten der Kriechkonstanten.</translation>
+    </message>
+    <message>
+        <source>Lines between or after the numbers that are left out, because they are not numbers: %1. The first is line %2.</source>
+        <translation>Zeilen zwischen oder nach den Zahlen, die weggelassen werden, weil sie keine Zahlen sind: %1. Die erste ist Zeile %2.</translation>
+    </message>
+    <message>
+        <source>Lines with a cell that is not a number or belongs to no column: %1. The first is line %2.</source>
+        <translation>Zeilen mit einer Zelle, die keine Zahl ist oder zu keiner Spalte gehört: %1. Die erste ist Zeile %2.</translation>
+    </message>
+    <message>
+        <source>Points with a smaller abscissa than the point before: %1.</source>
+        <translation>Punkte mit kleinerer Abszisse als der Punkt davor: %1.</translation>
+    </message>
+    <message>
+        <source>Points that repeat another point: %1.</source>
+        <translation>Punkte, die einen anderen wiederholen: %1.</translation>
+    </message>
+    <message>
+        <source>Points in compression or below 0: %1.</source>
+        <translation>Punkte im Druckbereich oder unter 0: %1.</translation>
+    </message>
+    <message>
+        <source>Points that are left out, because they are incomplete or outside the domain of the test: %1.</source>
+        <translation>Punkte, die weggelassen werden, weil sie unvollständig sind oder außerhalb des Bereichs des Versuchs liegen: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must have the form CONSTANT=LOWER:UPPER or CONSTANT=VALUE.</source>
+        <translation>„%1“ muss die Form KONSTANTE=UNTERE:OBERE oder KONSTANTE=WERT haben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a constant of these models; they have %2.</source>
+        <translation>„%1“ ist keine Konstante dieser Modelle; sie haben %2.</translation>
+    </message>
+    <message>
+        <source>%1: the lower bound is above the upper one.</source>
+        <translation>%1: Die untere Grenze liegt über der oberen.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The fit is incompressible. With the D1 of the material, the bulk modulus is %1 times the shear modulus (Poisson&apos;s ratio %2).</source>
+        <translation>Die Anpassung ist inkompressibel. Mit dem D1 des Materials ist der Kompressionsmodul das %1-Fache des Schubmoduls (Querkontraktionszahl %2).</translation>
+    </message>
+    <message>
+        <source>The fit is incompressible, but the D1 of the material contradicts it: the bulk modulus would be only %1 times the shear modulus (Poisson&apos;s ratio %2). For rubber it is some hundred times.</source>
+        <translation>Die Anpassung ist inkompressibel, aber das D1 des Materials widerspricht ihr: Der Kompressionsmodul wäre nur das %1-Fache des Schubmoduls (Querkontraktionszahl %2). Bei Gummi ist er einige hundert Mal so groß.</translation>
     </message>
 </context>
 <context>
@@ -5384,6 +5517,10 @@ Trotzdem löschen?</translation>
         <source>The legend shows the first %1 of %2 curves.</source>
         <translation>Die Legende zeigt die ersten %1 von %2 Kurven.</translation>
     </message>
+    <message>
+        <source>Points that are not greater than 0 and missing on a logarithmic axis: %1.</source>
+        <translation>Punkte, die nicht größer als 0 sind und auf einer logarithmischen Achse fehlen: %1.</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Message</name>
@@ -5846,6 +5983,534 @@ Trotzdem löschen?</translation>
     <message>
         <source>The numbers look like %1, but are in SI: convert the material</source>
         <translation>Die Zahlen sehen nach %1 aus, stehen aber in SI: den Werkstoff umrechnen</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2, which cannot be read; correct it first.</source>
+        <translation>Die Einheit von %1 hängt von %2 ab, das nicht gelesen werden kann; berichtigen Sie es zuerst.</translation>
+    </message>
+    <message>
+        <source>The unit of %1 is missing; a unit such as %2 is needed.</source>
+        <translation>Die Einheit von %1 fehlt; nötig ist eine Einheit wie %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins with a number; %2 needs a unit alone, such as %3.</source>
+        <translation>„%1“ beginnt mit einer Zahl; %2 braucht nur eine Einheit, etwa %3.</translation>
+    </message>
+    <message>
+        <source>carried</source>
+        <translation>übernommen</translation>
+    </message>
+    <message>
+        <source>converted</source>
+        <translation>umgerechnet</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>angenähert</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>verloren</translation>
+    </message>
+    <message>
+        <source>The deck is in the unit system %1.</source>
+        <translation>Die Solverdatei ist im Einheitensystem %1.</translation>
+    </message>
+    <message>
+        <source>The deck is in %1, because the solver would misread numbers in %2.</source>
+        <translation>Die Solverdatei ist in %1, weil der Solver Zahlen in %2 falsch lesen würde.</translation>
+    </message>
+    <message>
+        <source>renamed &quot;%1&quot;, because the format does not take the name or has it already</source>
+        <translation>umbenannt in „%1“, weil das Format den Namen nicht zulässt oder schon hat</translation>
+    </message>
+    <message>
+        <source>has the number %1 instead of %2</source>
+        <translation>hat die Nummer %1 statt %2</translation>
+    </message>
+    <message>
+        <source>in %1 instead of %2</source>
+        <translation>in %1 statt %2</translation>
+    </message>
+    <message>
+        <source>as two points of the curve, up to a plastic strain of %1</source>
+        <translation>als zwei Punkte der Kurve, bis zu einer plastischen Dehnung von %1</translation>
+    </message>
+    <message>
+        <source>the initial yield stress is the point at plastic strain 0</source>
+        <translation>die Anfangsfließspannung ist der Punkt bei der plastischen Dehnung 0</translation>
+    </message>
+    <message>
+        <source>the solver has no incompressible solid; the bulk modulus is %1 times the initial shear modulus</source>
+        <translation>der Solver hat keinen inkompressiblen Festkörper; der Kompressionsmodul ist das %1-Fache des Anfangsschubmoduls</translation>
+    </message>
+    <message>
+        <source>as the points of the curve</source>
+        <translation>als Punkte der Kurve</translation>
+    </message>
+    <message>
+        <source>the number is not finite in the unit system of the deck</source>
+        <translation>die Zahl ist im Einheitensystem der Solverdatei nicht endlich</translation>
+    </message>
+    <message>
+        <source>the catalogue does not have the quantity</source>
+        <translation>der Katalog hat die Größe nicht</translation>
+    </message>
+    <message>
+        <source>the card needs %1 too</source>
+        <translation>die Karte braucht auch: %1</translation>
+    </message>
+    <message>
+        <source>the model needs linear elasticity</source>
+        <translation>das Modell braucht lineare Elastizität</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is not possible; the value must be %3</source>
+        <translation>%1 = %2 ist nicht möglich; der Wert muss %3 sein</translation>
+    </message>
+    <message>
+        <source>the material model does not use it</source>
+        <translation>das Materialmodell verwendet es nicht</translation>
+    </message>
+    <message>
+        <source>the hyperelastic model replaces it</source>
+        <translation>das hyperelastische Modell ersetzt es</translation>
+    </message>
+    <message>
+        <source>more than one hyperelastic model is switched on</source>
+        <translation>mehr als ein hyperelastisches Modell ist eingeschaltet</translation>
+    </message>
+    <message>
+        <source>the model is not switched on</source>
+        <translation>das Modell ist nicht eingeschaltet</translation>
+    </message>
+    <message>
+        <source>the format has no card for the yield type &quot;%1&quot; with the quantities of the catalogue</source>
+        <translation>das Format hat keine Karte für die Fließart „%1“ mit den Größen des Katalogs</translation>
+    </message>
+    <message>
+        <source>the hardening type &quot;%1&quot; needs a curve of yield stresses and plastic strains</source>
+        <translation>die Verfestigungsart „%1“ braucht eine Kurve aus Fließspannungen und plastischen Dehnungen</translation>
+    </message>
+    <message>
+        <source>the catalogue does not have the shares of isotropic and kinematic hardening</source>
+        <translation>der Katalog hat die Anteile isotroper und kinematischer Verfestigung nicht</translation>
+    </message>
+    <message>
+        <source>there are %1 yield stresses and %2 plastic strains</source>
+        <translation>es gibt %1 Fließspannungen und %2 plastische Dehnungen</translation>
+    </message>
+    <message>
+        <source>the curve has no points</source>
+        <translation>die Kurve hat keine Punkte</translation>
+    </message>
+    <message>
+        <source>the first plastic strain is %1, but the solver takes the first stress as the yield stress at 0; add a point at 0</source>
+        <translation>die erste plastische Dehnung ist %1, aber der Solver nimmt die erste Spannung als Fließspannung bei 0; fügen Sie einen Punkt bei 0 hinzu</translation>
+    </message>
+    <message>
+        <source>the plastic strains do not ascend</source>
+        <translation>die plastischen Dehnungen steigen nicht</translation>
+    </message>
+    <message>
+        <source>the curve begins with another yield stress, %1</source>
+        <translation>die Kurve beginnt mit einer anderen Fließspannung, %1</translation>
+    </message>
+    <message>
+        <source>the solver replaces %1 by %2; choose another unit system</source>
+        <translation>der Solver ersetzt %1 durch %2; wählen Sie ein anderes Einheitensystem</translation>
+    </message>
+    <message>
+        <source>beside plasticity, the solver applies the law to the overstress only</source>
+        <translation>neben Plastizität wendet der Solver das Gesetz nur auf die Überspannung an</translation>
+    </message>
+    <message>
+        <source>the unit of the factor depends on both exponents, of which one is missing</source>
+        <translation>die Einheit des Faktors hängt von beiden Exponenten ab, von denen einer fehlt</translation>
+    </message>
+    <message>
+        <source>a conductivity of %1 has no resistivity</source>
+        <translation>eine Leitfähigkeit von %1 hat keinen spezifischen Widerstand</translation>
+    </message>
+    <message>
+        <source>as its reciprocal, the resistivity</source>
+        <translation>als Kehrwert, der spezifische Widerstand</translation>
+    </message>
+    <message>
+        <source>as the initial shear modulus, which is twice the constant</source>
+        <translation>als Anfangsschubmodul, der das Doppelte der Konstante ist</translation>
+    </message>
+    <message>
+        <source>as the tangent modulus E H / (E + H), the slope of stress over total strain</source>
+        <translation>als Tangentenmodul E H / (E + H), die Steigung der Spannung über der Gesamtdehnung</translation>
+    </message>
+    <message>
+        <source>as total strains, plastic strain + stress / E</source>
+        <translation>als Gesamtdehnungen, plastische Dehnung + Spannung / E</translation>
+    </message>
+    <message>
+        <source>the format has no eight-chain model</source>
+        <translation>das Format hat kein Achtketten-Modell</translation>
+    </message>
+    <message>
+        <source>as the bulk modulus 2 / D1</source>
+        <translation>als Kompressionsmodul 2 / D1</translation>
+    </message>
+    <message>
+        <source>as half the bulk modulus, 1 / D1</source>
+        <translation>als halber Kompressionsmodul, 1 / D1</translation>
+    </message>
+    <message>
+        <source>as Poisson&apos;s ratio, from the bulk modulus 2 / D1 and the initial shear modulus</source>
+        <translation>als Querkontraktionszahl, aus dem Kompressionsmodul 2 / D1 und dem Anfangsschubmodul</translation>
+    </message>
+    <message>
+        <source>as the number of links of a chain, the square of the stretch</source>
+        <translation>als Zahl der Glieder einer Kette, das Quadrat der Streckung</translation>
+    </message>
+    <message>
+        <source>the solid has the number of the material; a fluid with the same number is not possible</source>
+        <translation>der Festkörper hat die Nummer des Materials; ein Fluid mit derselben Nummer ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>the solver takes only exponents with %1 and %2</source>
+        <translation>der Solver nimmt nur Exponenten mit %1 und %2</translation>
+    </message>
+    <message>
+        <source>as the total form, strain = A / (M + 1) stress^N time^(M + 1)</source>
+        <translation>als Gesamtform, Dehnung = A / (M + 1) Spannung^N Zeit^(M + 1)</translation>
+    </message>
+    <message>
+        <source>the card hardens isotropically along its curve</source>
+        <translation>die Karte verfestigt isotrop entlang ihrer Kurve</translation>
+    </message>
+    <message>
+        <source>another model of the material has its number</source>
+        <translation>ein anderes Modell des Materials hat die Nummer</translation>
+    </message>
+    <message>
+        <source>as the long-term shear modulus (1 - g) G</source>
+        <translation>als Langzeit-Schubmodul (1 - g) G</translation>
+    </message>
+    <message>
+        <source>as the decay constant, 1 / tau</source>
+        <translation>als Abklingkonstante, 1 / tau</translation>
+    </message>
+    <message>
+        <source>as a parameter of the yield stress</source>
+        <translation>als Parameter der Fließspannung</translation>
+    </message>
+    <message>
+        <source>no card of the material has a place for it</source>
+        <translation>keine Karte des Materials hat einen Platz dafür</translation>
+    </message>
+    <message>
+        <source>The format has no numbers of materials; the chosen number has no effect.</source>
+        <translation>Das Format hat keine Nummern von Materialien; die gewählte Nummer wirkt nicht.</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>the deck does not say in which units its numbers are; give the unit system</source>
+        <translation>die Solverdatei nennt die Einheiten ihrer Zahlen nicht; geben Sie das Einheitensystem an</translation>
+    </message>
+    <message>
+        <source>the deck does not say in which units its numbers are; give the unit system; the numbers look like %1</source>
+        <translation>die Solverdatei nennt die Einheiten ihrer Zahlen nicht; geben Sie das Einheitensystem an; die Zahlen sehen nach %1 aus</translation>
+    </message>
+    <message>
+        <source>decks of %1 can be written, but not read</source>
+        <translation>Dateien von %1 können geschrieben, aber nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the content is binary</source>
+        <translation>der Inhalt ist binär</translation>
+    </message>
+    <message>
+        <source>the file cannot be read to its end</source>
+        <translation>die Datei kann nicht bis zu ihrem Ende gelesen werden</translation>
+    </message>
+    <message>
+        <source>The numbers of the deck are read in the unit system %1.</source>
+        <translation>Die Zahlen der Solverdatei werden im Einheitensystem %1 gelesen.</translation>
+    </message>
+    <message>
+        <source>The deck declares the unit system %1.</source>
+        <translation>Die Solverdatei nennt das Einheitensystem %1.</translation>
+    </message>
+    <message>
+        <source>The deck declares the unit system %1, but is read in %2, which was chosen.</source>
+        <translation>Die Solverdatei nennt das Einheitensystem %1, wird aber in %2 gelesen, das gewählt wurde.</translation>
+    </message>
+    <message>
+        <source>Not of materials, and therefore not taken: %1.</source>
+        <translation>Nicht von Materialien und deshalb nicht übernommen: %1.</translation>
+    </message>
+    <message>
+        <source>The file includes &quot;%1&quot; in line %2, which is not read; read this file too.</source>
+        <translation>Die Datei bindet in Zeile %2 „%1“ ein, das nicht gelesen wird; lesen Sie diese Datei auch ein.</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 in %2</translation>
+    </message>
+    <message>
+        <source>the number is too large or too small in the unit of the catalogue</source>
+        <translation>die Zahl ist in der Einheit des Katalogs zu groß oder zu klein</translation>
+    </message>
+    <message>
+        <source>the catalogue has no quantity for it</source>
+        <translation>der Katalog hat dafür keine Größe</translation>
+    </message>
+    <message>
+        <source>has no name in the deck</source>
+        <translation>hat in der Solverdatei keinen Namen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 has too few numbers; the least is %2</source>
+        <translation>%1 hat zu wenige Zahlen; es müssen mindestens %2 sein</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 lines</source>
+        <translation>%1 hat mehr als %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 characters</source>
+        <translation>die Zeile ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>it is a table over temperature, and the catalogue has no such tables</source>
+        <translation>es ist eine Tabelle über der Temperatur, und der Katalog hat keine solchen Tabellen</translation>
+    </message>
+    <message>
+        <source>it depends on more than the temperature</source>
+        <translation>es hängt von mehr als der Temperatur ab</translation>
+    </message>
+    <message>
+        <source>%1 is not isotropic</source>
+        <translation>%1 ist nicht isotrop</translation>
+    </message>
+    <message>
+        <source>the catalogue has no model for %1</source>
+        <translation>der Katalog hat kein Modell für %1</translation>
+    </message>
+    <message>
+        <source>the catalogue has no constants C20 and C02</source>
+        <translation>der Katalog hat keine Konstanten C20 und C02</translation>
+    </message>
+    <message>
+        <source>the card of line %1 is replaced by another one of the same material in line %2</source>
+        <translation>die Karte von Zeile %1 wird durch eine andere desselben Materials in Zeile %2 ersetzt</translation>
+    </message>
+    <message>
+        <source>its numbers are in another file</source>
+        <translation>die Zahlen stehen in einer anderen Datei</translation>
+    </message>
+    <message>
+        <source>its numbers are parameters, which are not evaluated</source>
+        <translation>die Zahlen sind Parameter, die nicht ausgewertet werden</translation>
+    </message>
+    <message>
+        <source>the keyword is not known</source>
+        <translation>das Schlüsselwort ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>line %1: CalculiX reads only the first 20 characters of &quot;%2&quot;</source>
+        <translation>Zeile %1: CalculiX liest nur die ersten 20 Zeichen von „%2“</translation>
+    </message>
+    <message>
+        <source>from two points of the curve, up to a plastic strain of %1</source>
+        <translation>aus zwei Punkten der Kurve, bis zu einer plastischen Dehnung von %1</translation>
+    </message>
+    <message>
+        <source>from one point of the curve: no hardening</source>
+        <translation>aus einem Punkt der Kurve: keine Verfestigung</translation>
+    </message>
+    <message>
+        <source>from a polynomial of the strain energy</source>
+        <translation>aus einem Polynom der Verzerrungsenergie</translation>
+    </message>
+    <message>
+        <source>the term of D2 is not taken</source>
+        <translation>der Term mit D2 wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>0 is read as incompressible; CalculiX itself takes a bulk modulus of 20 shear moduli</source>
+        <translation>0 wird als inkompressibel gelesen; CalculiX selbst nimmt einen Kompressionsmodul von 20 Schubmoduln</translation>
+    </message>
+    <message>
+        <source>the deck has no value; the solver takes 0</source>
+        <translation>die Solverdatei hat keinen Wert; der Solver nimmt 0</translation>
+    </message>
+    <message>
+        <source>The creep law has no LAW. It is read as time hardening, as CalculiX does; relatives take strain hardening.</source>
+        <translation>Das Kriechgesetz hat kein LAW. Es wird wie in CalculiX als Zeitverfestigung gelesen; verwandte Solver nehmen Dehnungsverfestigung.</translation>
+    </message>
+    <message>
+        <source>it has %1 terms, and the catalogue has one</source>
+        <translation>es hat %1 Terme, und der Katalog hat einen</translation>
+    </message>
+    <message>
+        <source>the catalogue has no relaxation of the bulk modulus</source>
+        <translation>der Katalog hat keine Relaxation des Kompressionsmoduls</translation>
+    </message>
+    <message>
+        <source>from the long-term modulus, with a constant bulk modulus</source>
+        <translation>aus dem Langzeitmodul, bei konstantem Kompressionsmodul</translation>
+    </message>
+    <message>
+        <source>the shear modulus relaxes to 0, so that no elasticity of long term belongs to it</source>
+        <translation>der Schubmodul relaxiert bis auf 0, so dass keine Langzeitelastizität dazu gehört</translation>
+    </message>
+    <message>
+        <source>only the relaxation over time by a Prony series is read</source>
+        <translation>nur die Relaxation über der Zeit als Prony-Reihe wird gelesen</translation>
+    </message>
+    <message>
+        <source>it depends on the strain rate</source>
+        <translation>es hängt von der Dehnrate ab</translation>
+    </message>
+    <message>
+        <source>the first plastic strain is %1, not 0; check the curve</source>
+        <translation>die erste plastische Dehnung ist %1, nicht 0; prüfen Sie die Kurve</translation>
+    </message>
+    <message>
+        <source>the plastic strains do not ascend; check the curve</source>
+        <translation>die plastischen Dehnungen steigen nicht; prüfen Sie die Kurve</translation>
+    </message>
+    <message>
+        <source>the value is absolute, and the catalogue has it relative to vacuum</source>
+        <translation>der Wert ist absolut, und der Katalog hat ihn relativ zum Vakuum</translation>
+    </message>
+    <message>
+        <source>from the bulk modulus and the density</source>
+        <translation>aus dem Kompressionsmodul und der Dichte</translation>
+    </message>
+    <message>
+        <source>the speed of sound needs a bulk modulus and a density above 0</source>
+        <translation>die Schallgeschwindigkeit braucht einen Kompressionsmodul und eine Dichte über 0</translation>
+    </message>
+    <message>
+        <source>%1 more cards are not taken</source>
+        <translation>%1 weitere Karten werden nicht übernommen</translation>
+    </message>
+    <message>
+        <source>The file includes other files in more lines, which are not read either.</source>
+        <translation>Die Datei bindet in weiteren Zeilen andere Dateien ein, die auch nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>the solver computes sound only as an analogy of heat conduction</source>
+        <translation>der Solver berechnet Schall nur als Analogie der Wärmeleitung</translation>
+    </message>
+    <message>
+        <source>switched on by the card</source>
+        <translation>durch die Karte eingeschaltet</translation>
+    </message>
+    <message>
+        <source>switched on by a parameter of the card</source>
+        <translation>durch einen Parameter der Karte eingeschaltet</translation>
+    </message>
+    <message>
+        <source>as polynomial of the second order whose other constants have no effect</source>
+        <translation>als Polynom zweiter Ordnung, dessen andere Konstanten nicht wirken</translation>
+    </message>
+    <message>
+        <source>0 is written as a bulk modulus of 500 shear moduli</source>
+        <translation>0 wird als Kompressionsmodul von 500 Schubmoduln geschrieben</translation>
+    </message>
+    <message>
+        <source>the card is of the yield criterion of Mises only</source>
+        <translation>die Karte gilt nur für die Fließbedingung nach Mises</translation>
+    </message>
+    <message>
+        <source>the solver has viscoplasticity only as a creep law of the overstress</source>
+        <translation>der Solver hat Viskoplastizität nur als Kriechgesetz der Überspannung</translation>
+    </message>
+    <message>
+        <source>the solver has no plasticity with internal friction</source>
+        <translation>der Solver hat keine Plastizität mit innerer Reibung</translation>
+    </message>
+    <message>
+        <source>as points of the curve of true stress over plastic strain</source>
+        <translation>als Punkte der Kurve der wahren Spannung über der plastischen Dehnung</translation>
+    </message>
+    <message>
+        <source>the solver has no viscoelastic material</source>
+        <translation>der Solver hat kein viskoelastisches Material</translation>
+    </message>
+    <message>
+        <source>the format has no card for it</source>
+        <translation>das Format hat keine Karte dafür</translation>
+    </message>
+    <message>
+        <source>the card also needs the number of a domain, which depends on the model</source>
+        <translation>die Karte braucht auch die Nummer eines Gebiets, die vom Modell abhängt</translation>
+    </message>
+    <message>
+        <source>as half the bulk modulus, 1 / D1; 0 as a bulk modulus of 500 shear moduli</source>
+        <translation>als halber Kompressionsmodul, 1 / D1; 0 als Kompressionsmodul von 500 Schubmoduln</translation>
+    </message>
+    <message>
+        <source>the card also needs a cohesion, which the catalogue does not have</source>
+        <translation>die Karte braucht auch eine Kohäsion, die der Katalog nicht hat</translation>
+    </message>
+    <message>
+        <source>as total strain, plastic strain + stress / E</source>
+        <translation>als Gesamtdehnung, plastische Dehnung + Spannung / E</translation>
+    </message>
+    <message>
+        <source>in NEO as the initial shear modulus, 2 C10</source>
+        <translation>in NEO als Anfangsschubmodul, 2 C10</translation>
+    </message>
+    <message>
+        <source>the card needs the exponent of a rate law, which the catalogue does not have</source>
+        <translation>die Karte braucht den Exponenten eines Ratengesetzes, den der Katalog nicht hat</translation>
+    </message>
+    <message>
+        <source>as the tangent modulus E H / (E + H)</source>
+        <translation>als Tangentenmodul E H / (E + H)</translation>
+    </message>
+    <message>
+        <source>as the resistivity, its reciprocal</source>
+        <translation>als spezifischer Widerstand, der Kehrwert</translation>
+    </message>
+    <message>
+        <source>as the number of links, the square of the stretch</source>
+        <translation>als Zahl der Glieder, das Quadrat der Streckung</translation>
+    </message>
+    <message>
+        <source>as Poisson&apos;s ratio, or as the bulk modulus 2 / D1; 0 as a bulk modulus of 500 shear moduli</source>
+        <translation>als Querkontraktionszahl oder als Kompressionsmodul 2 / D1; 0 als Kompressionsmodul von 500 Schubmoduln</translation>
+    </message>
+    <message>
+        <source>as the long-term shear modulus, (1 - g) G</source>
+        <translation>als Langzeit-Schubmodul, (1 - g) G</translation>
+    </message>
+    <message>
+        <source>the card also needs the kind of conductor, which depends on the model</source>
+        <translation>die Karte braucht auch die Art des Leiters, die vom Modell abhängt</translation>
+    </message>
+    <message>
+        <source>the solver has neo-Hookean solids only by E and nu, with another energy of volume</source>
+        <translation>der Solver hat Neo-Hooke-Körper nur mit E und nu und einer anderen Volumenenergie</translation>
+    </message>
+    <message>
+        <source>the solver has it only as a function that the user programs</source>
+        <translation>der Solver hat es nur als Funktion, die der Benutzer programmiert</translation>
+    </message>
+    <message>
+        <source>as the text on</source>
+        <translation>als der Text on</translation>
+    </message>
+    <message>
+        <source>as a parameter of the yield stress, if both lists have the same length</source>
+        <translation>als Parameter der Fließspannung, wenn beide Listen gleich lang sind</translation>
     </message>
 </context>
 <context>
@@ -6615,10 +7280,6 @@ Trotzdem löschen?</translation>
         <translation>Kompressionsmodul</translation>
     </message>
     <message>
-        <source>First Lame constant</source>
-        <translation>Erste Lamé-Konstante</translation>
-    </message>
-    <message>
         <source>Constrained modulus</source>
         <translation>Longitudinalmodul</translation>
     </message>
@@ -6829,6 +7490,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>speed of longitudinal waves</source>
         <translation>Geschwindigkeit der Longitudinalwellen</translation>
+    </message>
+    <message>
+        <source>First Lamé constant</source>
+        <translation>Erste Lamé-Konstante</translation>
     </message>
 </context>
 <context>

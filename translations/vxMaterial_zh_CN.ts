@@ -57,10 +57,6 @@
         <translation>打开项目</translation>
     </message>
     <message>
-        <source>Import exchange document</source>
-        <translation>导入交换文档</translation>
-    </message>
-    <message>
         <source>&amp;Open...</source>
         <translation>打开(&amp;O)...</translation>
     </message>
@@ -79,10 +75,6 @@
     <message>
         <source>Save the project in another file</source>
         <translation>将项目保存到另一个文件</translation>
-    </message>
-    <message>
-        <source>I&amp;mport exchange document...</source>
-        <translation>导入交换文档(&amp;M)...</translation>
     </message>
     <message>
         <source>Open &amp;recent</source>
@@ -105,10 +97,6 @@
         <translation>从文件打开项目</translation>
     </message>
     <message>
-        <source>Add the content of an exchange document to the project</source>
-        <translation>将交换文档的内容添加到项目</translation>
-    </message>
-    <message>
         <source>Recent projects</source>
         <translation>最近的项目</translation>
     </message>
@@ -127,6 +115,18 @@
     <message>
         <source>&amp;Hand over without them</source>
         <translation>不含这些内容移交(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Import document or deck</source>
+        <translation>导入文档或输入文件</translation>
+    </message>
+    <message>
+        <source>I&amp;mport document or deck...</source>
+        <translation>导入文档或输入文件(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Add the content of an exchange document or of the deck of a solver to the project</source>
+        <translation>将交换文档或求解器输入文件的内容添加到项目</translation>
     </message>
 </context>
 <context>
@@ -204,6 +204,10 @@
     <message>
         <source>&amp;Language:</source>
         <translation>语言(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Now in use: %1, the language given at the start.</source>
+        <translation>当前使用：%1，即启动时指定的语言。</translation>
     </message>
 </context>
 <context>
@@ -1816,10 +1820,6 @@ Delete anyway?</source>
         <translation>无法写入标准输出：%1</translation>
     </message>
     <message>
-        <source>give the name of a document, and the unit system of its numbers if it is not SI</source>
-        <translation>请给出文档的名称；若其数字不是 SI，请给出单位制</translation>
-    </message>
-    <message>
         <source>give one unit system at most, and make a material project the current one</source>
         <translation>请最多给出一个单位制，并将材料项目设为当前项目</translation>
     </message>
@@ -1842,6 +1842,10 @@ Delete anyway?</source>
     <message>
         <source>there is no solver &quot;%1&quot;; the solvers are: %2</source>
         <translation>没有求解器“%1”；可用的求解器：%2</translation>
+    </message>
+    <message>
+        <source>give the name of a document or deck, and the unit system of its numbers if it is not SI or declared</source>
+        <translation>请给出文档或输入文件的名称，以及数字的单位制（如果不是 SI 或未声明）</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +1979,21 @@ Delete anyway?</source>
     <message>
         <source>A deck carries no data that a project keeps beside its materials. Not written: %1.</source>
         <translation>输入文件不包含项目在材料之外保存的数据。未写出：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckImport</name>
+    <message>
+        <source>This deck of %1 has no materials.</source>
+        <translation>此 %1 输入文件中没有材料。</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1, not %2.</source>
+        <translation>这些数字看起来是 %1，而不是 %2。</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>无法打开文件。</translation>
     </message>
 </context>
 <context>
@@ -2130,6 +2149,57 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>desktop::ImportDeckDialog</name>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Import deck</source>
+        <translation>导入输入文件</translation>
+    </message>
+    <message>
+        <source>The deck cannot be shown</source>
+        <translation>无法显示输入文件</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a deck of %2. Materials: %3</source>
+        <translation>“%1”是 %2 的输入文件。材料：%3</translation>
+    </message>
+    <message>
+        <source>&amp;Report:</source>
+        <translation>报告(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Each number in the file has its unit.</source>
+        <translation>文件中的每个数字都带有单位。</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers, which the file declares:</source>
+        <translation>数字的单位制(&amp;U)（由文件声明）：</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers, which the file does not say:</source>
+        <translation>数字的单位制(&amp;U)（文件中未说明）：</translation>
+    </message>
+    <message>
+        <source>&amp;Unit system of the numbers, which the file does not say. They look like %1:</source>
+        <translation>数字的单位制(&amp;U)（文件中未说明，看起来是 %1）：</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1. In %2, they would be unusual.</source>
+        <translation>这些数字看起来是 %1。按 %2 则不寻常。</translation>
+    </message>
+    <message>
+        <source>Choose the unit system; then the report is shown.</source>
+        <translation>请选择单位制，然后显示报告。</translation>
+    </message>
+    <message>
+        <source>The deck is being read...</source>
+        <translation>正在读取输入文件...</translation>
+    </message>
+</context>
+<context>
     <name>desktop::ImportUnitsDialog</name>
     <message>
         <source>Import exchange document</source>
@@ -2254,6 +2324,21 @@ Delete anyway?</source>
     <message>
         <source>&quot;%1&quot;: An exchange document carries no data that a project keeps beside a material. Not written: %2.</source>
         <translation>“%1”：交换文档不包含项目在材料旁保存的数据。未写入：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MaterialFiles</name>
+    <message>
+        <source>Documents and decks</source>
+        <translation>文档和输入文件</translation>
+    </message>
+    <message>
+        <source>Exchange documents</source>
+        <translation>交换文档</translation>
+    </message>
+    <message>
+        <source>Decks of solvers</source>
+        <translation>求解器输入文件</translation>
     </message>
 </context>
 <context>
@@ -2626,6 +2711,10 @@ Delete anyway?</source>
     <message>
         <source>As the project (%1)</source>
         <translation>与项目相同（%1）</translation>
+    </message>
+    <message>
+        <source>Not chosen yet</source>
+        <translation>尚未选择</translation>
     </message>
 </context>
 <context>
@@ -3248,14 +3337,6 @@ Delete anyway?</source>
         <translation>每行只有一个数。若不止一个，请给出分隔符。</translation>
     </message>
     <message>
-        <source>%1 lines between or after the numbers are not numbers and are left out. The first is line %2.</source>
-        <translation>数字之间或之后有%1行不是数字，已忽略。第一处是第%2行。</translation>
-    </message>
-    <message>
-        <source>%1 lines have a cell that is not a number or belongs to no column. The first is line %2.</source>
-        <translation>%1行含有不是数字或不属于任何列的单元格。第一处是第%2行。</translation>
-    </message>
-    <message>
         <source>The numbers have decimal commas.</source>
         <translation>数字使用小数逗号。</translation>
     </message>
@@ -3290,22 +3371,6 @@ Delete anyway?</source>
     <message>
         <source>Several columns fit. Column &quot;%1&quot; is used.</source>
         <translation>多列符合条件，使用列“%1”。</translation>
-    </message>
-    <message>
-        <source>%1 points have a smaller abscissa than the point before.</source>
-        <translation>%1个点的横坐标小于前一个点。</translation>
-    </message>
-    <message>
-        <source>%1 points repeat another point.</source>
-        <translation>%1个点与其他点重复。</translation>
-    </message>
-    <message>
-        <source>%1 points are in compression or below 0.</source>
-        <translation>%1个点处于压缩状态或低于0。</translation>
-    </message>
-    <message>
-        <source>%1 points are left out: they are incomplete or outside the domain of the test.</source>
-        <translation>%1个点被忽略：它们不完整或超出试验的定义域。</translation>
     </message>
     <message>
         <source>Test &quot;%1&quot;: all measured values are 0.</source>
@@ -3414,6 +3479,74 @@ Delete anyway?</source>
     <message>
         <source>%1: the library of the solver cannot be loaded: %2. Install the program again.</source>
         <translation>%1：无法加载求解器的库：%2。请重新安装程序。</translation>
+    </message>
+    <message>
+        <source>The model has no value at %3 points. At the first of them, the %1 is %2.</source>
+        <translation>模型在%3个点上没有值。其中第一个点的%1为%2。</translation>
+    </message>
+    <message>
+        <source>No finite value exists at %3 points. At the first of them, the %1 is %2. The constants or the range are too large, the chains are at their limit, or there is no equilibrium.</source>
+        <translation>%3个点上不存在有限值。其中第一个点的%1为%2。常数或范围过大、分子链已达极限，或不存在平衡。</translation>
+    </message>
+    <message>
+        <source>%1: the material is unstable below the %3 %2 by Drucker&apos;s criterion. A solver may fail there.</source>
+        <translation>%1：按德鲁克准则，当%3小于 %2 时材料不稳定。求解器在该处可能失败。</translation>
+    </message>
+    <message>
+        <source>%1: the material is unstable above the %3 %2 by Drucker&apos;s criterion. A solver may fail there.</source>
+        <translation>%1：按德鲁克准则，当%3大于 %2 时材料不稳定。求解器在该处可能失败。</translation>
+    </message>
+    <message>
+        <source>The creep strain reaches %1 at the stress %2 Pa. No creep law is valid for strains above 1. Check the range, and the units of the creep constants.</source>
+        <translation>在应力 %2 Pa 下，蠕变应变达到 %1。任何蠕变定律都不适用于大于 1 的应变。请检查范围和蠕变常数的单位。</translation>
+    </message>
+    <message>
+        <source>Lines between or after the numbers that are left out, because they are not numbers: %1. The first is line %2.</source>
+        <translation>数字之间或之后因不是数字而被忽略的行数：%1。第一处为第 %2 行。</translation>
+    </message>
+    <message>
+        <source>Lines with a cell that is not a number or belongs to no column: %1. The first is line %2.</source>
+        <translation>含有非数字或不属于任何列的单元格的行数：%1。第一处为第 %2 行。</translation>
+    </message>
+    <message>
+        <source>Points with a smaller abscissa than the point before: %1.</source>
+        <translation>横坐标小于前一点的点数：%1。</translation>
+    </message>
+    <message>
+        <source>Points that repeat another point: %1.</source>
+        <translation>与其他点重复的点数：%1。</translation>
+    </message>
+    <message>
+        <source>Points in compression or below 0: %1.</source>
+        <translation>受压或小于 0 的点数：%1。</translation>
+    </message>
+    <message>
+        <source>Points that are left out, because they are incomplete or outside the domain of the test: %1.</source>
+        <translation>因不完整或超出试验范围而被忽略的点数：%1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must have the form CONSTANT=LOWER:UPPER or CONSTANT=VALUE.</source>
+        <translation>“%1”的形式必须为 常数=下限:上限 或 常数=值。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a constant of these models; they have %2.</source>
+        <translation>“%1”不是这些模型的常数；它们的常数为 %2。</translation>
+    </message>
+    <message>
+        <source>%1: the lower bound is above the upper one.</source>
+        <translation>%1：下限大于上限。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The fit is incompressible. With the D1 of the material, the bulk modulus is %1 times the shear modulus (Poisson&apos;s ratio %2).</source>
+        <translation>拟合按不可压缩进行。采用材料的 D1 时，体积模量为剪切模量的 %1 倍（泊松比 %2）。</translation>
+    </message>
+    <message>
+        <source>The fit is incompressible, but the D1 of the material contradicts it: the bulk modulus would be only %1 times the shear modulus (Poisson&apos;s ratio %2). For rubber it is some hundred times.</source>
+        <translation>拟合按不可压缩进行，但材料的 D1 与之矛盾：体积模量仅为剪切模量的 %1 倍（泊松比 %2）。橡胶通常为数百倍。</translation>
     </message>
 </context>
 <context>
@@ -5383,6 +5516,10 @@ Delete anyway?</source>
         <source>The legend shows the first %1 of %2 curves.</source>
         <translation>图例显示 %2 条曲线中的前 %1 条。</translation>
     </message>
+    <message>
+        <source>Points that are not greater than 0 and missing on a logarithmic axis: %1.</source>
+        <translation>因不大于 0 而未显示在对数轴上的点数：%1。</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Message</name>
@@ -5845,6 +5982,534 @@ Delete anyway?</source>
     <message>
         <source>The numbers look like %1, but are in SI: convert the material</source>
         <translation>数值像是 %1，但单位是 SI：请换算该材料</translation>
+    </message>
+    <message>
+        <source>The unit of %1 depends on %2, which cannot be read; correct it first.</source>
+        <translation>%1 的单位取决于 %2，而后者无法读取；请先更正。</translation>
+    </message>
+    <message>
+        <source>The unit of %1 is missing; a unit such as %2 is needed.</source>
+        <translation>缺少 %1 的单位；需要 %2 之类的单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins with a number; %2 needs a unit alone, such as %3.</source>
+        <translation>“%1”以数字开头；%2 只需要单位，例如 %3。</translation>
+    </message>
+    <message>
+        <source>carried</source>
+        <translation>已写入</translation>
+    </message>
+    <message>
+        <source>converted</source>
+        <translation>已换算</translation>
+    </message>
+    <message>
+        <source>approximated</source>
+        <translation>近似</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>丢失</translation>
+    </message>
+    <message>
+        <source>The deck is in the unit system %1.</source>
+        <translation>输入文件采用单位制 %1。</translation>
+    </message>
+    <message>
+        <source>The deck is in %1, because the solver would misread numbers in %2.</source>
+        <translation>输入文件采用 %1，因为求解器会误读以 %2 表示的数字。</translation>
+    </message>
+    <message>
+        <source>renamed &quot;%1&quot;, because the format does not take the name or has it already</source>
+        <translation>已改名为“%1”，因为该格式不接受此名称或已有此名称</translation>
+    </message>
+    <message>
+        <source>has the number %1 instead of %2</source>
+        <translation>编号为 %1，而不是 %2</translation>
+    </message>
+    <message>
+        <source>in %1 instead of %2</source>
+        <translation>以 %1 代替 %2</translation>
+    </message>
+    <message>
+        <source>as two points of the curve, up to a plastic strain of %1</source>
+        <translation>写作曲线上的两点，至塑性应变 %1</translation>
+    </message>
+    <message>
+        <source>the initial yield stress is the point at plastic strain 0</source>
+        <translation>初始屈服应力是塑性应变为 0 的点</translation>
+    </message>
+    <message>
+        <source>the solver has no incompressible solid; the bulk modulus is %1 times the initial shear modulus</source>
+        <translation>求解器没有不可压缩固体；体积模量为初始剪切模量的 %1 倍</translation>
+    </message>
+    <message>
+        <source>as the points of the curve</source>
+        <translation>写作曲线上的点</translation>
+    </message>
+    <message>
+        <source>the number is not finite in the unit system of the deck</source>
+        <translation>在输入文件的单位制中该数字不是有限值</translation>
+    </message>
+    <message>
+        <source>the catalogue does not have the quantity</source>
+        <translation>目录中没有该量</translation>
+    </message>
+    <message>
+        <source>the card needs %1 too</source>
+        <translation>卡片还需要：%1</translation>
+    </message>
+    <message>
+        <source>the model needs linear elasticity</source>
+        <translation>该模型需要线弹性</translation>
+    </message>
+    <message>
+        <source>%1 = %2 is not possible; the value must be %3</source>
+        <translation>%1 = %2 不可用；该值必须%3</translation>
+    </message>
+    <message>
+        <source>the material model does not use it</source>
+        <translation>材料模型不使用它</translation>
+    </message>
+    <message>
+        <source>the hyperelastic model replaces it</source>
+        <translation>超弹性模型取代了它</translation>
+    </message>
+    <message>
+        <source>more than one hyperelastic model is switched on</source>
+        <translation>启用了多个超弹性模型</translation>
+    </message>
+    <message>
+        <source>the model is not switched on</source>
+        <translation>该模型未启用</translation>
+    </message>
+    <message>
+        <source>the format has no card for the yield type &quot;%1&quot; with the quantities of the catalogue</source>
+        <translation>对于屈服类型“%1”，该格式没有能使用目录中各量的卡片</translation>
+    </message>
+    <message>
+        <source>the hardening type &quot;%1&quot; needs a curve of yield stresses and plastic strains</source>
+        <translation>硬化类型“%1”需要屈服应力与塑性应变的曲线</translation>
+    </message>
+    <message>
+        <source>the catalogue does not have the shares of isotropic and kinematic hardening</source>
+        <translation>目录中没有等向硬化与随动硬化的比例</translation>
+    </message>
+    <message>
+        <source>there are %1 yield stresses and %2 plastic strains</source>
+        <translation>有 %1 个屈服应力和 %2 个塑性应变</translation>
+    </message>
+    <message>
+        <source>the curve has no points</source>
+        <translation>曲线没有点</translation>
+    </message>
+    <message>
+        <source>the first plastic strain is %1, but the solver takes the first stress as the yield stress at 0; add a point at 0</source>
+        <translation>第一个塑性应变为 %1，但求解器把第一个应力当作塑性应变为 0 时的屈服应力；请添加 0 处的点</translation>
+    </message>
+    <message>
+        <source>the plastic strains do not ascend</source>
+        <translation>塑性应变不是递增的</translation>
+    </message>
+    <message>
+        <source>the curve begins with another yield stress, %1</source>
+        <translation>曲线以另一屈服应力 %1 开始</translation>
+    </message>
+    <message>
+        <source>the solver replaces %1 by %2; choose another unit system</source>
+        <translation>求解器会把 %1 替换为 %2；请选择其他单位制</translation>
+    </message>
+    <message>
+        <source>beside plasticity, the solver applies the law to the overstress only</source>
+        <translation>与塑性并存时，求解器只对超应力应用该定律</translation>
+    </message>
+    <message>
+        <source>the unit of the factor depends on both exponents, of which one is missing</source>
+        <translation>该系数的单位取决于两个指数，而其中一个缺失</translation>
+    </message>
+    <message>
+        <source>a conductivity of %1 has no resistivity</source>
+        <translation>电导率为 %1 时没有电阻率</translation>
+    </message>
+    <message>
+        <source>as its reciprocal, the resistivity</source>
+        <translation>写作其倒数，即电阻率</translation>
+    </message>
+    <message>
+        <source>as the initial shear modulus, which is twice the constant</source>
+        <translation>写作初始剪切模量，即该常数的两倍</translation>
+    </message>
+    <message>
+        <source>as the tangent modulus E H / (E + H), the slope of stress over total strain</source>
+        <translation>写作切线模量 E H / (E + H)，即应力对总应变的斜率</translation>
+    </message>
+    <message>
+        <source>as total strains, plastic strain + stress / E</source>
+        <translation>写作总应变，塑性应变 + 应力 / E</translation>
+    </message>
+    <message>
+        <source>the format has no eight-chain model</source>
+        <translation>该格式没有八链模型</translation>
+    </message>
+    <message>
+        <source>as the bulk modulus 2 / D1</source>
+        <translation>写作体积模量 2 / D1</translation>
+    </message>
+    <message>
+        <source>as half the bulk modulus, 1 / D1</source>
+        <translation>写作体积模量的一半，1 / D1</translation>
+    </message>
+    <message>
+        <source>as Poisson&apos;s ratio, from the bulk modulus 2 / D1 and the initial shear modulus</source>
+        <translation>写作泊松比，由体积模量 2 / D1 和初始剪切模量得到</translation>
+    </message>
+    <message>
+        <source>as the number of links of a chain, the square of the stretch</source>
+        <translation>写作链的链节数，即伸长比的平方</translation>
+    </message>
+    <message>
+        <source>the solid has the number of the material; a fluid with the same number is not possible</source>
+        <translation>固体已使用该材料编号；不能有相同编号的流体</translation>
+    </message>
+    <message>
+        <source>the solver takes only exponents with %1 and %2</source>
+        <translation>求解器只接受满足 %1 和 %2 的指数</translation>
+    </message>
+    <message>
+        <source>as the total form, strain = A / (M + 1) stress^N time^(M + 1)</source>
+        <translation>写作总量形式，应变 = A / (M + 1) 应力^N 时间^(M + 1)</translation>
+    </message>
+    <message>
+        <source>the card hardens isotropically along its curve</source>
+        <translation>该卡片沿其曲线等向硬化</translation>
+    </message>
+    <message>
+        <source>another model of the material has its number</source>
+        <translation>该编号已被此材料的另一模型使用</translation>
+    </message>
+    <message>
+        <source>as the long-term shear modulus (1 - g) G</source>
+        <translation>写作长期剪切模量 (1 - g) G</translation>
+    </message>
+    <message>
+        <source>as the decay constant, 1 / tau</source>
+        <translation>写作衰减常数，1 / tau</translation>
+    </message>
+    <message>
+        <source>as a parameter of the yield stress</source>
+        <translation>写作屈服应力的参数</translation>
+    </message>
+    <message>
+        <source>no card of the material has a place for it</source>
+        <translation>该材料的卡片都没有它的位置</translation>
+    </message>
+    <message>
+        <source>The format has no numbers of materials; the chosen number has no effect.</source>
+        <translation>该格式没有材料编号；所选编号不起作用。</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>the deck does not say in which units its numbers are; give the unit system</source>
+        <translation>文件没有说明其数值的单位；请给出单位制</translation>
+    </message>
+    <message>
+        <source>the deck does not say in which units its numbers are; give the unit system; the numbers look like %1</source>
+        <translation>文件没有说明其数值的单位；请给出单位制；这些数值看起来是 %1</translation>
+    </message>
+    <message>
+        <source>decks of %1 can be written, but not read</source>
+        <translation>%1 的文件可以写出，但不能读取</translation>
+    </message>
+    <message>
+        <source>the content is binary</source>
+        <translation>内容是二进制的</translation>
+    </message>
+    <message>
+        <source>the file cannot be read to its end</source>
+        <translation>文件无法读取到末尾</translation>
+    </message>
+    <message>
+        <source>The numbers of the deck are read in the unit system %1.</source>
+        <translation>文件中的数值按单位制 %1 读取。</translation>
+    </message>
+    <message>
+        <source>The deck declares the unit system %1.</source>
+        <translation>文件声明的单位制是 %1。</translation>
+    </message>
+    <message>
+        <source>The deck declares the unit system %1, but is read in %2, which was chosen.</source>
+        <translation>文件声明的单位制是 %1，但按所选的 %2 读取。</translation>
+    </message>
+    <message>
+        <source>Not of materials, and therefore not taken: %1.</source>
+        <translation>不属于材料，因此未读取：%1。</translation>
+    </message>
+    <message>
+        <source>The file includes &quot;%1&quot; in line %2, which is not read; read this file too.</source>
+        <translation>文件在第 %2 行包含“%1”，该文件未被读取；请另行读取它。</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>从 %1 换算为 %2</translation>
+    </message>
+    <message>
+        <source>the number is too large or too small in the unit of the catalogue</source>
+        <translation>该数值以目录的单位表示时过大或过小</translation>
+    </message>
+    <message>
+        <source>the catalogue has no quantity for it</source>
+        <translation>目录中没有对应的量</translation>
+    </message>
+    <message>
+        <source>has no name in the deck</source>
+        <translation>在文件中没有名称</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation>“%1”不是数值</translation>
+    </message>
+    <message>
+        <source>%1 has too few numbers; the least is %2</source>
+        <translation>%1 的数值太少；至少需要 %2 个</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 lines</source>
+        <translation>%1 超过 %2 行</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 characters</source>
+        <translation>该行超过 %1 个字符</translation>
+    </message>
+    <message>
+        <source>it is a table over temperature, and the catalogue has no such tables</source>
+        <translation>它是随温度变化的表，而目录没有这种表</translation>
+    </message>
+    <message>
+        <source>it depends on more than the temperature</source>
+        <translation>它不仅取决于温度</translation>
+    </message>
+    <message>
+        <source>%1 is not isotropic</source>
+        <translation>%1 不是各向同性的</translation>
+    </message>
+    <message>
+        <source>the catalogue has no model for %1</source>
+        <translation>目录中没有 %1 的模型</translation>
+    </message>
+    <message>
+        <source>the catalogue has no constants C20 and C02</source>
+        <translation>目录中没有常数 C20 和 C02</translation>
+    </message>
+    <message>
+        <source>the card of line %1 is replaced by another one of the same material in line %2</source>
+        <translation>第 %1 行的卡片被同一材料第 %2 行的卡片取代</translation>
+    </message>
+    <message>
+        <source>its numbers are in another file</source>
+        <translation>其数值在另一个文件中</translation>
+    </message>
+    <message>
+        <source>its numbers are parameters, which are not evaluated</source>
+        <translation>其数值是参数，不作计算</translation>
+    </message>
+    <message>
+        <source>the keyword is not known</source>
+        <translation>关键字未知</translation>
+    </message>
+    <message>
+        <source>line %1: CalculiX reads only the first 20 characters of &quot;%2&quot;</source>
+        <translation>第 %1 行：CalculiX 只读取“%2”的前 20 个字符</translation>
+    </message>
+    <message>
+        <source>from two points of the curve, up to a plastic strain of %1</source>
+        <translation>由曲线的两个点得到，直到塑性应变 %1</translation>
+    </message>
+    <message>
+        <source>from one point of the curve: no hardening</source>
+        <translation>由曲线的一个点得到：无硬化</translation>
+    </message>
+    <message>
+        <source>from a polynomial of the strain energy</source>
+        <translation>由应变能的多项式得到</translation>
+    </message>
+    <message>
+        <source>the term of D2 is not taken</source>
+        <translation>含 D2 的项未读取</translation>
+    </message>
+    <message>
+        <source>0 is read as incompressible; CalculiX itself takes a bulk modulus of 20 shear moduli</source>
+        <translation>0 按不可压缩读取；CalculiX 本身取体积模量为 20 倍剪切模量</translation>
+    </message>
+    <message>
+        <source>the deck has no value; the solver takes 0</source>
+        <translation>文件没有该值；求解器取 0</translation>
+    </message>
+    <message>
+        <source>The creep law has no LAW. It is read as time hardening, as CalculiX does; relatives take strain hardening.</source>
+        <translation>蠕变定律没有 LAW。它像 CalculiX 一样按时间硬化读取；同类求解器按应变硬化处理。</translation>
+    </message>
+    <message>
+        <source>it has %1 terms, and the catalogue has one</source>
+        <translation>它有 %1 项，而目录只有一项</translation>
+    </message>
+    <message>
+        <source>the catalogue has no relaxation of the bulk modulus</source>
+        <translation>目录中没有体积模量的松弛</translation>
+    </message>
+    <message>
+        <source>from the long-term modulus, with a constant bulk modulus</source>
+        <translation>由长期模量得到，体积模量不变</translation>
+    </message>
+    <message>
+        <source>the shear modulus relaxes to 0, so that no elasticity of long term belongs to it</source>
+        <translation>剪切模量松弛至 0，因此没有对应的长期弹性</translation>
+    </message>
+    <message>
+        <source>only the relaxation over time by a Prony series is read</source>
+        <translation>只读取以 Prony 级数表示的随时间的松弛</translation>
+    </message>
+    <message>
+        <source>it depends on the strain rate</source>
+        <translation>它取决于应变率</translation>
+    </message>
+    <message>
+        <source>the first plastic strain is %1, not 0; check the curve</source>
+        <translation>第一个塑性应变是 %1，不是 0；请检查曲线</translation>
+    </message>
+    <message>
+        <source>the plastic strains do not ascend; check the curve</source>
+        <translation>塑性应变不是递增的；请检查曲线</translation>
+    </message>
+    <message>
+        <source>the value is absolute, and the catalogue has it relative to vacuum</source>
+        <translation>该值是绝对值，而目录中是相对于真空的值</translation>
+    </message>
+    <message>
+        <source>from the bulk modulus and the density</source>
+        <translation>由体积模量和密度得到</translation>
+    </message>
+    <message>
+        <source>the speed of sound needs a bulk modulus and a density above 0</source>
+        <translation>声速需要大于 0 的体积模量和密度</translation>
+    </message>
+    <message>
+        <source>%1 more cards are not taken</source>
+        <translation>另有 %1 张卡片未读取</translation>
+    </message>
+    <message>
+        <source>The file includes other files in more lines, which are not read either.</source>
+        <translation>文件在更多行中包含其他文件，这些文件也未被读取。</translation>
+    </message>
+    <message>
+        <source>the solver computes sound only as an analogy of heat conduction</source>
+        <translation>求解器只能以热传导类比计算声学</translation>
+    </message>
+    <message>
+        <source>switched on by the card</source>
+        <translation>由卡片启用</translation>
+    </message>
+    <message>
+        <source>switched on by a parameter of the card</source>
+        <translation>由卡片的参数启用</translation>
+    </message>
+    <message>
+        <source>as polynomial of the second order whose other constants have no effect</source>
+        <translation>写作二阶多项式，其余常数不起作用</translation>
+    </message>
+    <message>
+        <source>0 is written as a bulk modulus of 500 shear moduli</source>
+        <translation>0 写作剪切模量 500 倍的体积模量</translation>
+    </message>
+    <message>
+        <source>the card is of the yield criterion of Mises only</source>
+        <translation>该卡片仅适用于 Mises 屈服准则</translation>
+    </message>
+    <message>
+        <source>the solver has viscoplasticity only as a creep law of the overstress</source>
+        <translation>求解器只以超应力的蠕变定律提供黏塑性</translation>
+    </message>
+    <message>
+        <source>the solver has no plasticity with internal friction</source>
+        <translation>求解器没有带内摩擦的塑性</translation>
+    </message>
+    <message>
+        <source>as points of the curve of true stress over plastic strain</source>
+        <translation>写作真实应力—塑性应变曲线上的点</translation>
+    </message>
+    <message>
+        <source>the solver has no viscoelastic material</source>
+        <translation>求解器没有黏弹性材料</translation>
+    </message>
+    <message>
+        <source>the format has no card for it</source>
+        <translation>该格式没有相应的卡片</translation>
+    </message>
+    <message>
+        <source>the card also needs the number of a domain, which depends on the model</source>
+        <translation>卡片还需要区域编号，它取决于模型</translation>
+    </message>
+    <message>
+        <source>as half the bulk modulus, 1 / D1; 0 as a bulk modulus of 500 shear moduli</source>
+        <translation>写作体积模量的一半 1 / D1；0 写作剪切模量 500 倍的体积模量</translation>
+    </message>
+    <message>
+        <source>the card also needs a cohesion, which the catalogue does not have</source>
+        <translation>卡片还需要黏聚力，而目录中没有</translation>
+    </message>
+    <message>
+        <source>as total strain, plastic strain + stress / E</source>
+        <translation>写作总应变，塑性应变 + 应力 / E</translation>
+    </message>
+    <message>
+        <source>in NEO as the initial shear modulus, 2 C10</source>
+        <translation>在 NEO 中写作初始剪切模量 2 C10</translation>
+    </message>
+    <message>
+        <source>the card needs the exponent of a rate law, which the catalogue does not have</source>
+        <translation>卡片需要率定律的指数，而目录中没有</translation>
+    </message>
+    <message>
+        <source>as the tangent modulus E H / (E + H)</source>
+        <translation>写作切线模量 E H / (E + H)</translation>
+    </message>
+    <message>
+        <source>as the resistivity, its reciprocal</source>
+        <translation>写作电阻率，即其倒数</translation>
+    </message>
+    <message>
+        <source>as the number of links, the square of the stretch</source>
+        <translation>写作链节数，即伸长比的平方</translation>
+    </message>
+    <message>
+        <source>as Poisson&apos;s ratio, or as the bulk modulus 2 / D1; 0 as a bulk modulus of 500 shear moduli</source>
+        <translation>写作泊松比或体积模量 2 / D1；0 写作剪切模量 500 倍的体积模量</translation>
+    </message>
+    <message>
+        <source>as the long-term shear modulus, (1 - g) G</source>
+        <translation>写作长期剪切模量，(1 - g) G</translation>
+    </message>
+    <message>
+        <source>the card also needs the kind of conductor, which depends on the model</source>
+        <translation>卡片还需要导体类型，它取决于模型</translation>
+    </message>
+    <message>
+        <source>the solver has neo-Hookean solids only by E and nu, with another energy of volume</source>
+        <translation>求解器的 neo-Hooke 固体只用 E 和 nu，且体积能不同</translation>
+    </message>
+    <message>
+        <source>the solver has it only as a function that the user programs</source>
+        <translation>求解器仅以用户编写的函数提供</translation>
+    </message>
+    <message>
+        <source>as the text on</source>
+        <translation>写作文本 on</translation>
+    </message>
+    <message>
+        <source>as a parameter of the yield stress, if both lists have the same length</source>
+        <translation>若两个列表长度相同，则写作屈服应力的参数</translation>
     </message>
 </context>
 <context>
@@ -6614,10 +7279,6 @@ Delete anyway?</source>
         <translation>体积模量</translation>
     </message>
     <message>
-        <source>First Lame constant</source>
-        <translation>第一拉梅常数</translation>
-    </message>
-    <message>
         <source>Constrained modulus</source>
         <translation>约束模量</translation>
     </message>
@@ -6828,6 +7489,10 @@ Delete anyway?</source>
     <message>
         <source>speed of longitudinal waves</source>
         <translation>纵波速度</translation>
+    </message>
+    <message>
+        <source>First Lamé constant</source>
+        <translation>第一拉梅常数</translation>
     </message>
 </context>
 <context>

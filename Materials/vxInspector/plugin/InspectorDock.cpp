@@ -17,7 +17,10 @@ InspectorDock::InspectorDock(QWidget* parent) : QWidget(parent), m_hint(new QLab
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    (new QVBoxLayout(this))->addWidget(m_hint);
+    auto* const layout = new QVBoxLayout(this);
+    constexpr int margin = 4; // the dock is narrow
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(m_hint);
     retranslate();
 }
 

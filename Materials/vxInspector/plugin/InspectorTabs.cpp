@@ -4,12 +4,13 @@
 #include <QProxyStyle>
 
 #include <algorithm>
+#include <vector>
 
 namespace vxInspector {
 
 namespace {
 
-constexpr int margins = 14; // beside a title, in pixels
+constexpr int margins = 12; // beside a title, in pixels
 
 /// The style of the platform with small margins of the titles.
 class NarrowTabStyle : public QProxyStyle
@@ -34,13 +35,43 @@ NarrowTabBar::NarrowTabBar(QWidget* parent) : QTabBar(parent)
 
 NarrowTabBar::~NarrowTabBar() = default;
 
-/// Short titles remain whole.
 QSize NarrowTabBar::minimumTabSizeHint(int tab) const
 {
-    constexpr int characters = 6;
     QSize size = tabSizeHint(tab);
-    size.setWidth(std::min(size.width(), characters * fontMetrics().averageCharWidth() + margins));
+    size.setWidth(std::min(size.width(), mostWidth()));
     return size;
+}
+
+QSize NarrowTabBar::minimumSizeHint() const
+{
+    return {count() * leastWidth(), QTabBar::minimumSizeHint().height()};
+}
+
+int NarrowTabBar::leastWidth() const
+{
+    constexpr int characters = 4;
+    return characters * fontMetrics().averageCharWidth() + margins;
+}
+
+/// Returns the width of the elided titles: short titles remain whole.
+int NarrowTabBar::mostWidth() const
+{
+    std::vector<int> widths;
+    for (int tab = 0; tab < count(); ++tab)
+        widths.push_back(tabSizeHint(tab).width());
+    std::sort(widths.begin(), widths.end());
+    int room = parentWidget() != nullptr ? parentWidget()->width() : width();
+    int most = room;
+    auto left = static_cast<int>(widths.size());
+    for (const int width : widths) {
+        most = room / left;
+        if (width > most)
+            break;
+        room -= width;
+        --left;
+        most = width;
+    }
+    return std::max(most, leastWidth());
 }
 
 InspectorTabs::InspectorTabs(QWidget* parent) : QTabWidget(parent)

@@ -15,8 +15,14 @@ public:
     explicit NarrowTabBar(QWidget* parent = nullptr);
     ~NarrowTabBar() override;
 
+    QSize minimumSizeHint() const override;
+
 protected:
     QSize minimumTabSizeHint(int tab) const override;
+
+private:
+    int leastWidth() const;
+    int mostWidth() const;
 };
 
 /// The tabs of the inspector.

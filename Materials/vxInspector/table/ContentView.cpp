@@ -223,8 +223,8 @@ NeededWidth ContentView::neededWidth(int column) const
 {
     if (m_columnsOfUser.count(column) != 0)
         return {columnWidth(column), columnWidth(column), columnWidth(column)};
-    constexpr int mostOfHeader = 12; // characters; the rest is elided
-    const int header = horizontalHeader()->sectionSizeHint(column);
+    constexpr int mostOfHeader = 12;                                    // characters; the rest is elided
+    const int header = horizontalHeader()->sectionSizeHint(column) + 2; // advances are rounded
     NeededWidth needed{header, header, std::min(header, mostOfHeader * fontMetrics().averageCharWidth())};
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const NeededWidth ofCell = neededWidth(m_model->index(row, column));
@@ -240,7 +240,7 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
     const Cell& cell = m_model->cell(index);
     if (cell.bar) {
         const int bar = sizeHintForIndex(index).width();
-        return {bar, bar, bar / 2};
+        return {bar, bar * 2 / 3, bar / 2}; // names are whole before bars are wide
     }
     const QFontMetricsF metrics(index.data(Qt::FontRole).value<QFont>().resolve(font()));
     const int margin = RangeDelegate::marginOf(*this, cell);
@@ -254,8 +254,9 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
     constexpr int mostOfName = 8; // characters in a line; the rest is elided
     const PieceWidths pieces = pieceWidths(cell.text, metrics);
     const int width = viewport()->width();
-    const int longest = std::min(pieces.longest + margin, width / 2);
-    const int least = index.column() == 0 ? mostOfName * fontMetrics().averageCharWidth() + margin : width / 3;
+    constexpr int shortText = 4; // characters that are in one line also without blanks
+    const int longest = std::min(cell.text.size() <= shortText ? whole : pieces.longest + margin, width / 2);
+    const int least = index.column() == 0 ? mostOfName * fontMetrics().averageCharWidth() + margin : width * 3 / 7;
     const int number = pieces.longestNumber > 0 ? pieces.longestNumber + margin : 0;
     return {whole, std::max(longest, number), std::max(std::min(longest, least), number)};
 }
@@ -270,6 +271,9 @@ void ContentView::fitColumns()
     std::vector<NeededWidth> needed;
     for (int column = 0; column < m_model->columnCount(); ++column)
         needed.push_back(neededWidth(column));
+    // In a table that is scrolled anyway, the names are whole.
+    if (sumOf(needed, &NeededWidth::least) > viewport()->width())
+        needed.front().least = needed.front().longest;
     const std::vector<int> widths = shareWidth(needed, viewport()->width());
     for (int column = 0; column < m_model->columnCount(); ++column)
         if (m_columnsOfUser.count(column) == 0)

@@ -12,6 +12,17 @@
 
 namespace Gui {
 
+namespace {
+
+/// The texts of the program itself are shown in the locale C too.
+QLocale::Language languageOf(const QString& name)
+{
+    const QLocale::Language language = QLocale(name).language();
+    return language == QLocale::C ? QLocale::English : language;
+}
+
+} // namespace
+
 GeneralPage::GeneralPage(QWidget* parent)
     : PreferencesPage(parent), m_title(new QLabel(this)), m_remark(new QLabel(this)), m_languages(new QComboBox(this))
 {
@@ -43,6 +54,7 @@ void GeneralPage::store()
 {
     m_stored = m_languages->currentIndex();
     Translator::instance()->chooseLanguage(m_languages->currentData().toString());
+    showRemark();
 }
 
 void GeneralPage::retranslate()
@@ -58,7 +70,7 @@ void GeneralPage::showRemark()
 {
     const QString chosen = Translator::chosenLanguage();
     const QString& used = Translator::instance()->language();
-    const bool isOther = used != (chosen.isEmpty() ? QLocale::system().name() : chosen);
+    const bool isOther = languageOf(used) != languageOf(chosen.isEmpty() ? QLocale::system().name() : chosen);
     m_remark->setVisible(isOther);
     m_remark->setText(isOther ? tr("Now in use: %1, the language given at the start.").arg(Translator::nameOf(used))
                               : QString());

@@ -55,6 +55,17 @@ QString FileDialog::getOpenFileName(QWidget* parent, const QString& caption, con
         QFileDialog::getOpenFileName(parent, caption, startFolder(folder), filter, selectedFilter, options));
 }
 
+QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& caption, const QString& folder,
+                                         const QString& filter)
+{
+    QString answer;
+    if (takeAnswer(answer))
+        return answer.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList paths = QFileDialog::getOpenFileNames(parent, caption, startFolder(folder), filter);
+    remembered(paths.value(0));
+    return paths;
+}
+
 QString FileDialog::getSaveFileName(QWidget* parent, const QString& caption, const QString& folder,
                                     const QString& filter, QString* selectedFilter, QFileDialog::Options options)
 {

@@ -4,6 +4,7 @@
 
 #include <QFileDialog>
 #include <QString>
+#include <QStringList>
 
 namespace Gui {
 
@@ -16,13 +17,17 @@ public:
     static QString getOpenFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});
-    /// As above, for a file to write. Asks before an existing file is replaced. Adds the ending of the filter to a name
+    /// As above, for one or more files; empty if the user cancelled.
+    static QStringList getOpenFileNames(QWidget* parent, const QString& caption, const QString& folder,
+                                        const QString& filter);
+    /// As getOpenFileName(), for a file to write. Asks before an existing file is replaced. Adds the ending of the filter to a name
     /// without an ending.
     static QString getSaveFileName(QWidget* parent, const QString& caption, const QString& folder,
                                    const QString& filter, QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = {});
 
-    /// Sets the result of the next call, which then does not ask the user; for programs that a script runs.
+    /// Sets the result of the next call, which then does not ask the user; for programs that a script runs. Several paths are
+    /// separated by line breaks.
     static void answerNext(const QString& path);
     /// Drops the result that answerNext() has set. Returns false if a call has taken the result already, or if there is
     /// none.

@@ -6,13 +6,13 @@
 #include "values/ValueTable.h"
 #include "values/ValueText.h"
 #include "vxConstitutive/MaterialModels.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxPlot/CurvePlot.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
-#include <deque>
 #include <utility>
 
 namespace vxInspector {
@@ -49,15 +49,17 @@ class Curves
 {
 public:
     Curves(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
-           const vxUnits::UnitSystem& system)
-        : m_settings(settings)
+           const vxUnits::UnitSystem& system, CurveCache& cache)
+        : m_settings(settings), m_cache(cache)
     {
+        m_cache.begin();
         for (const DrawnMaterial& inspected : materials)
             m_materials.push_back({inspected, vxConstitutive::modelsOf(*inspected.material)});
         chooseModes();
         chooseTests();
         chooseRange();
         drawCurves();
+        tellParameter();
         m_content.plot = vxPlot::curvePlot(plotRequest(system));
         tellFindings();
         tellSentence();
@@ -150,18 +152,37 @@ private:
             request.mode = mode;
             request.abscissas = abscissasOf(mode, m_content.range, m_horizontal, *modelled.inspected.material);
             request.compressibility = m_settings.compressibility;
+            request.chains = m_settings.chains;
             request.stresses = stressesOfCreep();
-            m_curves.push_back(model.curve(request));
-            m_drawn.push_back({labelOf(modelled.inspected).toStdString(), &m_curves.back()});
+            request.time = m_settings.time.value_or(request.time);
+            request.cohesion = m_settings.cohesion;
+            m_curves.push_back(m_cache.curve(*modelled.inspected.material, model, request));
+            m_drawn.push_back({labelOf(modelled.inspected).toStdString(), m_curves.back().get()});
             m_of.push_back(&modelled.inspected);
             m_content.canBeIncompressible =
                 m_content.canBeIncompressible || isRubber(model) || model.kind() == ModelKind::LinearElasticity;
+            m_content.hasChains = m_content.hasChains || model.kind() == ModelKind::ArrudaBoyce;
+            const bool hasFriction = model.kind() == ModelKind::DruckerPrager || model.kind() == ModelKind::MohrCoulomb;
+            if (m_content.parameter == CurveParameter::None)
+                m_content.parameter = parameterOf(mode, hasFriction);
         });
     }
 
-    /// Returns the stresses of the creep tests; the usual ones if there are none.
+    void tellParameter()
+    {
+        if (m_content.parameter == CurveParameter::Stresses)
+            m_content.usedParameter = stressesOfCreep();
+        else if (m_content.parameter == CurveParameter::Time)
+            m_content.usedParameter = {m_settings.time.value_or(vxConstitutive::CurveRequest().time)};
+        else if (m_content.parameter == CurveParameter::Cohesion && m_settings.cohesion)
+            m_content.usedParameter = {*m_settings.cohesion};
+    }
+
+    /// Returns the stresses of the user; if there are none, those of the creep tests; if there are none, the usual ones.
     std::vector<double> stressesOfCreep() const
     {
+        if (!m_settings.stresses.empty())
+            return m_settings.stresses;
         std::set<double> stresses;
         for (const vxPlot::NamedTest& named : m_tests)
             if (named.test->mode == Mode::Creep)
@@ -195,14 +216,31 @@ private:
         if (m_materials.size() > 1)
             table.headers << tr("Material");
         for (const Modelled& modelled : m_materials) {
-            add(modelled.inspected, modelled.models.findings);
+            for (const Finding& finding : modelled.models.findings)
+                add(modelled.inspected, finding);
             if (modelled.inspected.kept != nullptr && modelled.inspected.kept->fault)
                 add(modelled.inspected, vxConstitutive::Severity::Error, faultText(*modelled.inspected.kept->fault));
         }
         for (std::size_t i = 0; i < m_curves.size(); ++i)
-            add(*m_of[i], m_curves[i].findings);
+            add(*m_of[i], m_curves[i]->findings);
         if (table.rows.empty())
             table.headers.clear();
+    }
+
+    /// A constant whose text cannot be read is not missing.
+    void add(const InspectedMaterial& inspected, const Finding& finding)
+    {
+        const auto isOf = [&finding](const UnreadRow& row) {
+            const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(row.id);
+            return record != nullptr && finding.arguments.size() > 1 && finding.arguments[1] == record->name;
+        };
+        const std::vector<UnreadRow>& rows = inspected.unreadRows;
+        const auto row = std::find_if(rows.begin(), rows.end(), isOf);
+        if (finding.id != vxConstitutive::FindingId::ConstantMissing || row == rows.end())
+            return add(inspected, std::vector{finding});
+        add(inspected, vxConstitutive::Severity::Error,
+            tr("The constant %1 cannot be read: \"%2\". %3")
+                .arg(constitutiveWord(finding.arguments[1]), row->value, row->reason));
     }
 
     void add(const InspectedMaterial& inspected, const std::vector<Finding>& findings)
@@ -244,10 +282,11 @@ private:
     }
 
     const CurveSettings& m_settings;
+    CurveCache& m_cache;
     std::vector<Modelled> m_materials;
     vxPlot::Scale m_horizontal = vxPlot::Scale::Linear;
     vxPlot::Scale m_vertical = vxPlot::Scale::Linear;
-    std::deque<vxConstitutive::Curve> m_curves; // which does not move them
+    std::vector<std::shared_ptr<const vxConstitutive::Curve>> m_curves;
     std::vector<vxPlot::NamedCurve> m_drawn;
     std::vector<vxPlot::NamedTest> m_tests;     ///< of the shown modes
     std::vector<const InspectedMaterial*> m_of; ///< the material of each curve
@@ -281,9 +320,16 @@ std::vector<Mode> shownModes(const std::vector<Mode>& available, const std::set<
 }
 
 CurvesContent curvesOf(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
+                       const vxUnits::UnitSystem& system, CurveCache& cache)
+{
+    return Curves(materials, settings, system, cache).take();
+}
+
+CurvesContent curvesOf(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
                        const vxUnits::UnitSystem& system)
 {
-    return Curves(materials, settings, system).take();
+    CurveCache none;
+    return curvesOf(materials, settings, system, none);
 }
 
 } // namespace vxInspector

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "curves/CurveCache.h"
+#include "curves/CurveParameter.h"
 #include "measured/KeptMeasurements.h"
 #include "subject/InspectedMaterial.h"
 #include "table/TableContent.h"
@@ -36,6 +38,10 @@ struct CurveSettings
     std::optional<vxPlot::Scale> horizontal = {};
     std::optional<vxPlot::Scale> vertical = {};
     vxConstitutive::Compressibility compressibility = vxConstitutive::Compressibility::AsGiven;
+    vxConstitutive::ChainStatistics chains = vxConstitutive::ChainStatistics::FiveTermSeries;
+    std::vector<double> stresses = {};   ///< Pa; of creep curves; empty for those of the tests, or the usual ones
+    std::optional<double> time = {};     ///< s; of creep rates
+    std::optional<double> cohesion = {}; ///< Pa; of yield surfaces with friction
 };
 
 /// The curves of materials.
@@ -45,12 +51,18 @@ struct CurvesContent
     std::vector<vxConstitutive::Mode> modes = {}; ///< that the materials have models or tests of, in the order of Mode
     std::vector<vxConstitutive::Mode> shown = {}; ///< which fit into one plot
     bool canBeIncompressible = false;             ///< whether a shown curve depends on the compressibility
-    vxConstitutive::Range range = {};             ///< SI
+    bool hasChains = false;                       ///< whether a shown curve depends on the law of the chains
+    CurveParameter parameter = CurveParameter::None; ///< what the shown curves need
+    std::vector<double> usedParameter = {};          ///< SI; the numbers of the parameter in the plot
+    vxConstitutive::Range range = {};                ///< SI
     vxPlot::PlotData plot = {};
     TableContent findings = {};
 };
 
-/// Returns the curves and tests of materials in a unit system.
+/// Returns the curves and tests of materials in a unit system. Takes unchanged curves from a cache.
+CurvesContent curvesOf(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
+                       const vxUnits::UnitSystem& system, CurveCache& cache);
+/// Does the same without a cache.
 CurvesContent curvesOf(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
                        const vxUnits::UnitSystem& system);
 

@@ -72,6 +72,8 @@ CurvesPage::CurvesPage(QWidget* parent)
       m_from(makeField(m_controls, "curveFrom")),
       m_toLabel(new QLabel(m_controls)),
       m_to(makeField(m_controls, "curveTo")),
+      m_parameterLabel(new QLabel(m_controls)),
+      m_parameterField(makeField(m_controls, "curveParameter")),
       m_horizontal(makeButton(m_controls, "curveLogX")),
       m_vertical(makeButton(m_controls, "curveLogY")),
       m_plot(new PlotView(this)),
@@ -117,10 +119,15 @@ void CurvesPage::layOut()
     }
     second->addWidget(m_horizontal);
     second->addWidget(m_vertical);
+    auto* const third = new QHBoxLayout;
+    m_parameterLabel->setBuddy(m_parameterField);
+    third->addWidget(m_parameterLabel);
+    third->addWidget(m_parameterField, 1);
     auto* const controls = new QVBoxLayout(m_controls);
     controls->setContentsMargins(0, 0, 0, 0);
     controls->addLayout(first);
     controls->addLayout(second);
+    controls->addLayout(third);
     auto* const buttons = new QHBoxLayout(m_buttons);
     buttons->setContentsMargins(0, 0, 0, 0);
     for (QToolButton* const button : {m_reset, m_copy, m_save})
@@ -147,6 +154,7 @@ void CurvesPage::connectControls()
             }));
     for (QLineEdit* const field : {m_from, m_to})
         connect(field, &QLineEdit::textChanged, this, guard([this] { readRange(); }));
+    connect(m_parameterField, &QLineEdit::textChanged, this, guard([this] { readParameterField(); }));
     connect(m_horizontal, &QToolButton::clicked, this, guard([this] {
                 m_settings.horizontal = m_horizontal->isChecked() ? Scale::Logarithmic : Scale::Linear;
                 Q_EMIT chosen();
@@ -184,6 +192,7 @@ void CurvesPage::retranslate()
     m_plot->retranslate();
     m_findings->retranslate();
     m_ordinatesOf.clear();
+    m_parameter = CurveParameter::None;
 }
 
 void CurvesPage::showControls(bool isShown)
@@ -203,7 +212,11 @@ void CurvesPage::setSentence(const QString& sentence)
 void CurvesPage::setMaterials(const std::vector<DrawnMaterial>& materials, const vxUnits::UnitSystem& system,
                               const QString& limit)
 {
-    CurvesContent content = curvesOf(materials, m_settings, system);
+    const bool hasOtherSystem = m_system != system;
+    m_system = system;
+    if (hasOtherSystem)
+        m_parameter = CurveParameter::None; // the text of its field is in the former units
+    CurvesContent content = curvesOf(materials, m_settings, system, m_cache);
     if (!limit.isEmpty())
         content.sentence += QLatin1Char(' ') + limit;
     content.sentence = content.sentence.trimmed();
@@ -217,11 +230,13 @@ void CurvesPage::showContent(CurvesContent content)
     m_available = content.modes;
     m_shown = content.shown;
     m_canBeIncompressible = content.canBeIncompressible;
+    m_hasChains = content.hasChains;
     showControls(!m_shown.empty());
     if (!m_shown.empty()) {
         showModes();
         fillOrdinates(content);
         fillRange(content);
+        fillParameter(content);
         fillScales(content);
     }
     m_findings->setHidden(content.findings.rows.empty());
@@ -249,8 +264,12 @@ void CurvesPage::fillModeMenu()
             m_modeMenu->addSeparator();
         addMode(m_available[i]);
     }
+    if (m_canBeIncompressible || m_hasChains)
+        m_modeMenu->addSeparator();
     if (m_canBeIncompressible)
         addCompressibility();
+    if (m_hasChains)
+        addChains();
 }
 
 void CurvesPage::addMode(Mode mode)
@@ -266,12 +285,28 @@ void CurvesPage::addMode(Mode mode)
 void CurvesPage::addCompressibility()
 {
     using vxConstitutive::Compressibility;
-    m_modeMenu->addSeparator();
-    QAction* const action = m_modeMenu->addAction(tr("Draw as incompressible"));
+    addSwitch(tr("Draw as incompressible"), m_settings.compressibility == Compressibility::Incompressible,
+              [this](bool isOn) {
+                  m_settings.compressibility = isOn ? Compressibility::Incompressible : Compressibility::AsGiven;
+              });
+}
+
+void CurvesPage::addChains()
+{
+    using vxConstitutive::ChainStatistics;
+    addSwitch(tr("Draw chains by the inverse Langevin function"), m_settings.chains == ChainStatistics::InverseLangevin,
+              [this](bool isOn) {
+                  m_settings.chains = isOn ? ChainStatistics::InverseLangevin : ChainStatistics::FiveTermSeries;
+              });
+}
+
+void CurvesPage::addSwitch(const QString& text, bool isOn, const std::function<void(bool)>& change)
+{
+    QAction* const action = m_modeMenu->addAction(text);
     action->setCheckable(true);
-    action->setChecked(m_settings.compressibility == Compressibility::Incompressible);
-    connect(action, &QAction::triggered, this, [this](bool isOn) {
-        m_settings.compressibility = isOn ? Compressibility::Incompressible : Compressibility::AsGiven;
+    action->setChecked(isOn);
+    connect(action, &QAction::triggered, this, [this, change](bool isNowOn) {
+        change(isNowOn);
         Q_EMIT chosen();
     });
 }
@@ -348,6 +383,48 @@ void CurvesPage::fillRange(const CurvesContent& content)
     rewrite(*m_to, m_settings.to);
 }
 
+/// The field shows the used numbers as a placeholder until the user types others.
+void CurvesPage::fillParameter(const CurvesContent& content)
+{
+    const bool isShown = content.parameter != CurveParameter::None;
+    m_parameterLabel->setVisible(isShown);
+    m_parameterField->setVisible(isShown);
+    m_parameterField->setPlaceholderText(content.usedParameter.empty()
+                                             ? tr("not known: multiples of it")
+                                             : parameterText(content.parameter, content.usedParameter, m_system));
+    if (content.parameter == m_parameter)
+        return;
+    m_parameter = content.parameter;
+    const QString names[] = {QString(), tr("&Stresses:"), tr("T&ime:"), tr("Co&hesion:")};
+    const QString tips[] = {QString(),
+                            tr("The stresses of the creep curves, separated by semicolons, with a unit if you like"),
+                            tr("The time after loading at which the creep rates are drawn"),
+                            tr("The cohesion of the yield surface, which the material does not have")};
+    m_parameterLabel->setText(names[static_cast<std::size_t>(m_parameter)]);
+    m_parameterField->setToolTip(tips[static_cast<std::size_t>(m_parameter)]);
+    std::vector<double> typed;
+    if (m_parameter == CurveParameter::Stresses)
+        typed = m_settings.stresses;
+    else if (const auto& number = m_parameter == CurveParameter::Time ? m_settings.time : m_settings.cohesion)
+        typed = {*number};
+    const QSignalBlocker blocker(m_parameterField);
+    m_parameterField->setText(parameterText(m_parameter, typed, m_system));
+}
+
+void CurvesPage::readParameterField()
+{
+    const QString text = m_parameterField->text();
+    const auto numbers = readParameter(m_parameter, text, m_system);
+    showReadability(*m_parameterField, numbers || text.trimmed().isEmpty());
+    const std::vector<double> read = numbers.value_or(std::vector<double>());
+    const std::optional<double> first = read.empty() ? std::nullopt : std::optional(read.front());
+    if (m_parameter == CurveParameter::Stresses)
+        m_settings.stresses = read;
+    else
+        (m_parameter == CurveParameter::Time ? m_settings.time : m_settings.cohesion) = first;
+    Q_EMIT chosen();
+}
+
 void CurvesPage::fillScales(const CurvesContent& content)
 {
     m_horizontal->setChecked(content.plot.x.scale == Scale::Logarithmic);
@@ -358,7 +435,6 @@ void CurvesPage::fillScales(const CurvesContent& content)
 std::optional<double> CurvesPage::readBound(QLineEdit& field) const
 {
     const QString text = field.text().trimmed();
-    QPalette colours = palette();
     QString problem;
     std::optional<double> number;
     if (!text.isEmpty()) {
@@ -369,11 +445,18 @@ std::optional<double> CurvesPage::readBound(QLineEdit& field) const
         else
             problem = tr("This number cannot be read.");
     }
-    if (!problem.isEmpty())
-        colours.setColor(QPalette::Text, QColor(0xd5, 0x5e, 0x00));
-    field.setPalette(colours);
+    showReadability(field, problem.isEmpty());
     field.setToolTip(problem);
     return number;
+}
+
+/// Colours the text of a field that cannot be read.
+void CurvesPage::showReadability(QLineEdit& field, bool isReadable) const
+{
+    QPalette colours = palette();
+    if (!isReadable)
+        colours.setColor(QPalette::Text, QColor(0xd5, 0x5e, 0x00));
+    field.setPalette(colours);
 }
 
 void CurvesPage::readRange()

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -49,18 +51,27 @@ private:
     void fillModeMenu();
     void addMode(vxConstitutive::Mode mode);
     void addCompressibility();
+    void addChains();
+    void addSwitch(const QString& text, bool isOn, const std::function<void(bool)>& change);
+    void fillParameter(const CurvesContent& content);
+    void readParameterField();
     void fillOrdinates(const CurvesContent& content);
     void fillRange(const CurvesContent& content);
     void fillScales(const CurvesContent& content);
     void chooseMode(vxConstitutive::Mode mode, bool isOn);
     void readRange();
+    void showReadability(QLineEdit& field, bool isReadable) const;
     std::optional<double> readBound(QLineEdit& field) const;
     void showControls(bool isShown);
 
     CurveSettings m_settings;
+    CurveCache m_cache;
     std::vector<vxConstitutive::Mode> m_available; ///< that the materials have
     std::vector<vxConstitutive::Mode> m_shown;
     bool m_canBeIncompressible = false;
+    bool m_hasChains = false;
+    CurveParameter m_parameter = CurveParameter::None;
+    vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
     std::vector<vxConstitutive::Mode> m_ordinatesOf; ///< the modes whose ordinates are in the choice
     std::string m_rangeUnit;
     QString m_modeNames;
@@ -73,6 +84,8 @@ private:
     QLineEdit* m_from;
     QLabel* m_toLabel;
     QLineEdit* m_to;
+    QLabel* m_parameterLabel;
+    QLineEdit* m_parameterField;
     QToolButton* m_horizontal;
     QToolButton* m_vertical;
     PlotView* m_plot;

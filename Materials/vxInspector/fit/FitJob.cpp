@@ -32,6 +32,9 @@ vxConstitutive::HyperelasticFitRequest rubberRequest(const FitOrder& order)
     request.tests =
         testsOf(order.tests, {Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar, Mode::SimpleShear, Mode::Volumetric});
     request.stability = order.stability;
+    request.stableRange = order.stableRange;
+    request.error = order.error;
+    request.bounds = order.bounds;
     return request;
 }
 
@@ -48,6 +51,11 @@ void fitMetal(const FitOrder& order, const FitControl& control, std::vector<FitR
 {
     vxConstitutive::PlasticFitRequest request;
     request.tests = testsOf(order.tests, {Mode::Tensile, Mode::Plastic});
+    request.youngsModulus = order.youngsModulus;
+    request.poissonsRatio = order.poissonsRatio;
+    request.offset = order.offset;
+    request.tolerance = order.tolerance;
+    request.bounds = order.bounds;
     if (request.tests.empty())
         return;
     results.push_back(vxConstitutive::fitMultilinear(request, control));
@@ -58,6 +66,8 @@ void fitCreep(const FitOrder& order, const FitControl& control, std::vector<FitR
 {
     vxConstitutive::NortonFitRequest request;
     request.tests = testsOf(order.tests, {Mode::Creep, Mode::CreepRate});
+    request.error = order.error;
+    request.bounds = order.bounds;
     if (!request.tests.empty())
         results.push_back(vxConstitutive::fitNorton(request, control));
 }
@@ -66,6 +76,8 @@ void fitRelaxing(const FitOrder& order, const FitControl& control, std::vector<F
 {
     vxConstitutive::RelaxationFitRequest request;
     request.tests = testsOf(order.tests, {Mode::Relaxation});
+    request.error = order.error;
+    request.bounds = order.bounds;
     if (!request.tests.empty())
         results.push_back(vxConstitutive::fitRelaxation(request, control));
 }
@@ -84,8 +96,7 @@ std::vector<FitResult> fitAll(const FitOrder& order, const FitControl& control)
 vxConstitutive::FitRecord recordOf(const FitResult& result, const FitOrder& order)
 {
     const bool isRubber = dynamic_cast<const vxConstitutive::HyperelasticModel*>(result.fitted.get()) != nullptr;
-    return isRubber ? recordFit(result, rubberRequest(order))
-                    : recordFit(result, vxConstitutive::ErrorMeasure::OfLargest);
+    return isRubber ? recordFit(result, rubberRequest(order)) : recordFit(result, order.error);
 }
 
 FitJob::FitJob(FitOrder order, QObject* parent) : QObject(parent)

@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -17,6 +18,13 @@ struct FitOrder
 {
     std::vector<vxConstitutive::TestData> tests;
     vxConstitutive::StabilityDemand stability = vxConstitutive::StabilityDemand::OverData;
+    vxConstitutive::Range stableRange = {1.0, 1.0}; ///< stretches, with StabilityDemand::OverRange
+    vxConstitutive::ErrorMeasure error = vxConstitutive::ErrorMeasure::OfLargest;
+    vxConstitutive::BoundsById bounds = {};
+    std::optional<double> youngsModulus = {}; ///< Pa; of a metal; from the curve if absent
+    double poissonsRatio = 0.5;               ///< of a metal
+    double offset = 0.002;                    ///< the plastic strain at which a metal yields
+    double tolerance = 0.005;                 ///< of a multilinear curve, by its largest stress
 };
 
 /// Fits all models that the tests of an order can determine, best first for each kind of model.

@@ -1,13 +1,18 @@
 #include "fit/FitPage.h"
 
 #include "Gui/FileDialog.h"
+#include "Gui/MainWindow.h"
 #include "Kelta/Exceptions.h"
 #include "Obj/Application.h"
 #include "curves/ConstitutiveTexts.h"
+#include "fit/BesideJob.h"
 #include "fit/FitApplying.h"
+#include "fit/FitOptions.h"
 #include "fit/FitTables.h"
+#include "fit/VolumeChoice.h"
 #include "measured/KeptMeasurements.h"
 #include "plot/PlotView.h"
+#include "subject/InspectedMaterial.h"
 #include "subject/SubjectWatch.h"
 #include "table/ContentView.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -16,7 +21,6 @@
 #include "vxUnits/Reading.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
@@ -25,10 +29,13 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -112,21 +119,22 @@ FitPage::FitPage(QWidget* parent)
       m_weightLabel(new QLabel(m_form)),
       m_weight(named(new QLineEdit(m_form), "fitWeight")),
       m_preview(makeText(this, "fitPreview")),
-      m_stable(named(new QCheckBox(this), "fitStable")),
+      m_options(new FitOptions(this)),
+      m_optionsProblem(makeText(this, "fitOptionsProblem")),
       m_fit(named(new QPushButton(this), "fitStart")),
       m_cancel(named(new QPushButton(this), "fitCancel")),
       m_progress(named(new QProgressBar(this), "fitProgress")),
       m_models(named(new ContentView(this), "fitModels")),
       m_constants(named(new ContentView(this), "fitConstants")),
       m_plot(new PlotView(this)),
+      m_volume(new VolumeChoice(this)),
       m_apply(named(new QPushButton(this), "fitApply"))
 {
     setObjectName(QStringLiteral("inspectorFit"));
-    m_stable->setChecked(true);
     m_progress->setRange(0, 100);
-    m_testView->setMaximumHeight(m_testView->fontMetrics().lineSpacing() * 7);
-    for (ContentView* const view : {m_testView, m_models, m_constants})
-        view->setMinimumHeight(view->fontMetrics().lineSpacing() * 6);
+    m_testView->setMaximumHeight(m_testView->fontMetrics().lineSpacing() * 6);
+    for (const auto& [view, lines] : {std::pair(m_testView, 4), std::pair(m_models, 6), std::pair(m_constants, 6)})
+        view->setMinimumHeight(view->fontMetrics().lineSpacing() * lines);
     for (QPushButton* const button : {m_load, m_paste, m_remove, m_fit, m_cancel, m_apply})
         button->setAutoDefault(false);
     layOut();
@@ -156,9 +164,9 @@ FitPage::AxisControls FitPage::makeAxis(const char* name)
 void FitPage::addAxis(QGridLayout& grid, int row, const AxisControls& axis) const
 {
     grid.addWidget(axis.label, row, 0);
-    grid.addWidget(axis.column, row, 1);
-    grid.addWidget(axis.measure, row, 2);
-    grid.addWidget(axis.unit, row, 3);
+    grid.addWidget(axis.column, row, 1, 1, 2);
+    grid.addWidget(axis.measure, row + 1, 1);
+    grid.addWidget(axis.unit, row + 1, 2);
 }
 
 void FitPage::layOut()
@@ -166,14 +174,14 @@ void FitPage::layOut()
     auto* const grid = new QGridLayout(m_form);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(m_modeLabel, 0, 0);
-    grid->addWidget(m_mode, 0, 1, 1, 3);
+    grid->addWidget(m_mode, 0, 1, 1, 2);
     addAxis(*grid, 1, m_abscissa);
-    addAxis(*grid, 2, m_ordinate);
-    grid->addWidget(m_stressLabel, 3, 0);
-    grid->addWidget(m_stress, 3, 1, 1, 3);
-    grid->addWidget(m_weightLabel, 4, 0);
-    grid->addWidget(m_weight, 4, 1);
-    for (const auto& [column, stretch] : {std::pair(1, 3), std::pair(2, 3), std::pair(3, 2)})
+    addAxis(*grid, 3, m_ordinate);
+    grid->addWidget(m_stressLabel, 5, 0);
+    grid->addWidget(m_stress, 5, 1, 1, 2);
+    grid->addWidget(m_weightLabel, 6, 0);
+    grid->addWidget(m_weight, 6, 1);
+    for (const auto& [column, stretch] : {std::pair(1, 3), std::pair(2, 1)})
         grid->setColumnStretch(column, stretch);
     const auto rowOf = [](std::initializer_list<QWidget*> widgets) {
         auto* const row = new QHBoxLayout;
@@ -186,24 +194,25 @@ void FitPage::layOut()
     auto* const layout = new QVBoxLayout(content);
     layout->addWidget(m_sentence);
     layout->addLayout(rowOf({m_load, m_paste, m_remove}));
-    for (QWidget* const widget :
-         {static_cast<QWidget*>(m_testView), m_form, static_cast<QWidget*>(m_preview), static_cast<QWidget*>(m_stable)})
+    for (QWidget* const widget : {static_cast<QWidget*>(m_testView), m_form, static_cast<QWidget*>(m_preview),
+                                  static_cast<QWidget*>(m_options), static_cast<QWidget*>(m_optionsProblem)})
         layout->addWidget(widget);
     layout->addLayout(rowOf({m_fit, m_cancel}));
-    for (QWidget* const widget : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_plot),
-                                  static_cast<QWidget*>(m_models), static_cast<QWidget*>(m_constants)})
+    for (QWidget* const widget :
+         {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_models), static_cast<QWidget*>(m_plot),
+          static_cast<QWidget*>(m_constants), static_cast<QWidget*>(m_volume)})
         layout->addWidget(widget);
     layout->addLayout(rowOf({m_apply}));
     layout->addStretch(1);
     content->setMinimumWidth(1); // it scrolls downwards only
-    auto* const scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
+    m_scroll = new QScrollArea(this);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(content);
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(scroll);
+    whole->addWidget(m_scroll);
 }
 
 void FitPage::connectControls()
@@ -226,6 +235,8 @@ void FitPage::connectControls()
     connect(m_testView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, guard(&FitPage::showForm));
     connect(m_models->selectionModel(), &QItemSelectionModel::currentRowChanged, this, guard(&FitPage::showModel));
     connect(m_mode, QOverload<int>::of(&QComboBox::activated), this, guard(&FitPage::readForm));
+    connect(m_options, &FitOptions::changed, this, guard(&FitPage::enableControls));
+    connect(m_volume, &VolumeChoice::changed, this, guard(&FitPage::enableControls));
     connectAxis(m_abscissa, &TestReadRequest::abscissa);
     connectAxis(m_ordinate, &TestReadRequest::ordinate);
     for (QLineEdit* const field : {m_stress, m_weight})
@@ -283,8 +294,7 @@ void FitPage::retranslate()
     m_stressLabel->setBuddy(m_stress);
     m_weightLabel->setText(tr("&Weight:"));
     m_weightLabel->setBuddy(m_weight);
-    m_stable->setText(tr("&Keep rubber stable"));
-    m_stable->setToolTip(tr("Without this, a fit may be unstable in tests that were not made."));
+    m_options->retranslate();
     m_fit->setText(tr("F&it"));
     m_cancel->setText(tr("&Cancel"));
     m_testView->setAccessibleName(tr("Tests"));
@@ -293,11 +303,13 @@ void FitPage::retranslate()
     for (ContentView* const view : {m_testView, m_models, m_constants})
         view->retranslate();
     m_plot->retranslate();
+    m_volume->retranslate();
     const QSignalBlocker blocker(m_mode);
     m_mode->clear();
     m_mode->addItem(tr("Choose the test"));
     for (const Mode mode : measuredModes())
         m_mode->addItem(constitutiveWord(vxConstitutive::modeRecord(mode).name), static_cast<int>(mode));
+    m_plotted.reset(); // names of the plot are in the language of the user
     showTests();
     showResults();
 }
@@ -315,8 +327,10 @@ void FitPage::setSubject(const Subject& subject, const vxUnits::UnitSystem& syst
     }
     if (m_system != system) {
         m_system = system;
+        showOptions();
         showModel();
     }
+    showVolume();
     enableControls();
 }
 
@@ -332,8 +346,14 @@ void FitPage::readKept(const Mat::MaterialObject& object)
     m_keptText = text;
     m_keptFault = kept.fault;
     const std::vector<vxConstitutive::TestData>& tests = kept.measurements.tests;
-    if (m_hasOwnTests || areSame(tests, readTests()))
-        return;
+    if (areSame(tests, readTests()))
+        m_hasOwnTests = false; // Redo has kept them again
+    else if (!m_hasOwnTests)
+        showKept(tests, isSameMaterial);
+}
+
+void FitPage::showKept(const std::vector<vxConstitutive::TestData>& tests, bool isSameMaterial)
+{
     if (isSameMaterial && !m_tests.empty())
         m_hasOwnTests = true;
     else
@@ -342,6 +362,7 @@ void FitPage::readKept(const Mat::MaterialObject& object)
 
 void FitPage::setTests(const std::vector<vxConstitutive::TestData>& tests)
 {
+    ++m_testsRevision;
     m_tests.clear();
     for (const vxConstitutive::TestData& test : tests)
         if (!vxConstitutive::abscissaMeasures(test.mode).empty())
@@ -350,31 +371,103 @@ void FitPage::setTests(const std::vector<vxConstitutive::TestData>& tests)
     showTests();
 }
 
+/// Runs work in another thread, and then a function in the thread of the interface, even if the work fails.
+void FitPage::runBeside(std::function<void()> work, std::function<void()> whenDone)
+{
+    m_jobsBeside.push_back(std::make_unique<BesideJob>(std::move(work)));
+    BesideJob* const job = m_jobsBeside.back().get();
+    connect(job, &BesideJob::finished, this, [this, job, whenDone = std::move(whenDone)] {
+        const QString failure = job->failure();
+        const auto isJob = [job](const std::unique_ptr<BesideJob>& one) { return one.get() == job; };
+        const auto found = std::find_if(m_jobsBeside.begin(), m_jobsBeside.end(), isJob);
+        found->release()->deleteLater(); // this is a slot of its signal
+        m_jobsBeside.erase(found);
+        Kelta::guarded(tr("The test data cannot be used"), [&] {
+            whenDone();
+            if (!failure.isEmpty())
+                throw std::runtime_error(failure.toStdString());
+        });
+    });
+}
+
 void FitPage::load()
 {
-    const QString path = Gui::FileDialog::getOpenFileName(this, tr("Load test data"), {},
-                                                          tr("Test data (*.csv *.txt *.dat *.tsv);;All files (*)"));
-    if (path.isEmpty())
-        return;
+    const QStringList paths = Gui::FileDialog::getOpenFileNames(
+        this, tr("Load test data"), {}, tr("Test data (*.csv *.txt *.dat *.tsv);;All files (*)"));
+    for (const QString& path : paths)
+        Kelta::guarded(tr("The test data cannot be used"), [this, &path] { loadFile(path); });
+}
+
+void FitPage::loadFile(const QString& path)
+{
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error(tr(R"(The file "%1" cannot be read: %2)").arg(path, file.errorString()).toStdString());
     if (file.size() > mostBytes)
         throw std::runtime_error(tr(R"(The file "%1" is larger than 200 MB and is not read.)").arg(path).toStdString());
-    addTest(loadTest(QFileInfo(path).completeBaseName(), file.readAll().toStdString()));
+    addText(QFileInfo(path).completeBaseName(), file.readAll().toStdString());
 }
 
 void FitPage::paste()
 {
     const QString text = QApplication::clipboard()->text();
     if (!text.isEmpty())
-        addTest(loadTest(tr("Test %1").arg(m_tests.size() + 1), text.toStdString()));
+        addText(tr("Test %1").arg(m_tests.size() + m_loading.size() + 1), text.toStdString());
+}
+
+/// Adds a test with the table in a text, which is read beside the interface if it is long.
+void FitPage::addText(const QString& name, std::string text)
+{
+    constexpr std::size_t mostAtOnce = 500000; // bytes
+    if (text.size() <= mostAtOnce && m_loading.empty())
+        return addTest(loadTest(name, text));
+    const auto loading = std::make_shared<Loading>();
+    m_loading.push_back(loading);
+    runBeside([loading, name, text = std::move(text)] { loading->test = loadTest(name, text); },
+              [this, loading] {
+                  loading->isDone = true;
+                  takeLoaded();
+              });
+    enableControls();
+}
+
+/// Adds the tests whose files have been read, in the order in which the user has chosen them.
+void FitPage::takeLoaded()
+{
+    while (!m_loading.empty() && m_loading.front()->isDone) {
+        const std::shared_ptr<Loading> loading = m_loading.front();
+        m_loading.erase(m_loading.begin());
+        if (loading->test.table != nullptr)
+            addTest(std::move(loading->test));
+    }
+    enableControls();
+}
+
+void FitPage::readBeside(LoadedTest& test)
+{
+    std::function<void()> work = readingLater(test);
+    runBeside(std::move(work), [this, reading = test.pending] { takeReading(reading); });
+}
+
+/// Takes a reading that another thread has made. A test that has changed since waits for another one.
+void FitPage::takeReading(const std::shared_ptr<TestReading>& reading)
+{
+    const auto found = std::find_if(m_tests.begin(), m_tests.end(),
+                                    [&reading](const LoadedTest& test) { return test.pending == reading; });
+    if (found == m_tests.end())
+        return;
+    found->pending = nullptr;
+    found->reading = std::move(*reading);
+    ++m_testsRevision;
+    dropResults();
+    showTests();
 }
 
 void FitPage::addTest(LoadedTest test)
 {
     test.request.name = freeName(test.request.name);
     m_tests.push_back(std::move(test));
+    ++m_testsRevision;
     m_hasOwnTests = true;
     dropResults();
     showTests();
@@ -398,6 +491,7 @@ void FitPage::removeTest()
     if (row < 0 || static_cast<std::size_t>(row) >= m_tests.size())
         return;
     m_tests.erase(m_tests.begin() + row);
+    ++m_testsRevision;
     m_hasOwnTests = !m_tests.empty();
     dropResults();
     showTests();
@@ -432,7 +526,11 @@ void FitPage::readForm()
 
 void FitPage::readCurrent(LoadedTest& test)
 {
-    readAgain(test);
+    if (test.table->rows() > mostReadAtOnce && test.mode)
+        readBeside(test);
+    else
+        readAgain(test);
+    ++m_testsRevision;
     m_hasOwnTests = true;
     dropResults();
     showTests();
@@ -447,8 +545,19 @@ void FitPage::showTests()
     if (!m_tests.empty() && !m_testView->currentIndex().isValid())
         m_testView->setCurrentIndex(
             m_testView->model()->index(std::clamp(row, 0, static_cast<int>(m_tests.size()) - 1), 0));
+    showOptions();
     showForm();
     showModel();
+}
+
+/// Shows the options that belong to the tests.
+void FitPage::showOptions()
+{
+    std::vector<Mode> modes;
+    for (const LoadedTest& test : m_tests)
+        if (test.mode)
+            modes.push_back(*test.mode);
+    m_options->setModes(modes, m_system);
 }
 
 void FitPage::showForm()
@@ -509,23 +618,38 @@ std::vector<vxConstitutive::TestData> FitPage::readTests() const
     return all;
 }
 
+std::vector<const vxConstitutive::TestData*> FitPage::shownTests() const
+{
+    std::vector<const vxConstitutive::TestData*> all;
+    for (const LoadedTest& test : m_tests)
+        if (test.reading.data)
+            all.push_back(&*test.reading.data);
+    return all;
+}
+
+/// Returns whether a file or a test is being read beside the interface.
+bool FitPage::isReading() const
+{
+    return !m_loading.empty() ||
+           std::any_of(m_tests.begin(), m_tests.end(), [](const LoadedTest& test) { return test.pending != nullptr; });
+}
+
 /// Results of other tests must not be taken for those of the present ones.
 void FitPage::dropResults()
 {
     m_job.reset();
     m_results.clear();
+    ++m_resultsRevision;
     showResults();
 }
 
 void FitPage::startFit()
 {
-    FitOrder order{readTests(), m_stable->isChecked() ? vxConstitutive::StabilityDemand::OverData
-                                                      : vxConstitutive::StabilityDemand::None};
-    if (order.tests.empty())
+    FitOrder order{readTests()};
+    if (order.tests.empty() || !m_options->fill(order).isEmpty())
         return;
     dropResults();
     m_order = order;
-    m_hasOwnTests = true;
     m_progress->setValue(0);
     m_progress->setFormat(QStringLiteral("%p %"));
     m_job = std::make_unique<FitJob>(std::move(order));
@@ -543,9 +667,25 @@ void FitPage::finishFit()
     FitJob* const job = m_job.release();
     job->deleteLater(); // this is a slot of its signal
     m_results = job->results();
+    ++m_resultsRevision;
     showResults();
+    QTimer::singleShot(0, this, [this] { scrollToResults(); }); // when the layout has a place for them
     if (!job->failure().isEmpty())
         throw std::runtime_error(tr("The fit has failed: %1").arg(job->failure()).toStdString());
+}
+
+/// Scrolls to the models, and as far towards the button that applies them as the models stay visible.
+void FitPage::scrollToResults()
+{
+    if (m_results.empty())
+        return;
+    m_scroll->widget()->layout()->activate();
+    const int top = m_models->mapTo(m_scroll->widget(), QPoint()).y();
+    const int end = m_apply->mapTo(m_scroll->widget(), QPoint(0, m_apply->height())).y();
+    const int room = m_scroll->viewport()->height();
+    QScrollBar& bar = *m_scroll->verticalScrollBar();
+    if (top < bar.value() || end > bar.value() + room)
+        bar.setValue(std::min(top, std::max(end - room, bar.value())));
 }
 
 void FitPage::showResults()
@@ -569,18 +709,43 @@ void FitPage::showModel()
     const FitResult* const result = currentResult();
     m_constants->setHidden(result == nullptr);
     m_constants->setContent(result != nullptr ? constantTable(*result, m_system) : TableContent{});
-    const std::vector<vxConstitutive::TestData> tests = readTests();
+    showPlot();
+    showVolume();
+    enableControls();
+}
+
+/// Plots only if tests, model or units are others than before: a test may have a million points.
+void FitPage::showPlot()
+{
+    const FitResult* const result = currentResult();
+    PlotKey key{m_testsRevision, m_resultsRevision, result, m_system.text()};
+    if (m_plotted == key)
+        return;
+    m_plotted = std::move(key);
+    const std::vector<const vxConstitutive::TestData*> tests = shownTests();
     m_plot->setHidden(tests.empty());
     if (!tests.empty())
         m_plot->setPlot(
             fitPlot(tests, result != nullptr ? std::vector{result} : std::vector<const FitResult*>{}, m_system));
-    enableControls();
+}
+
+/// Shows what the D1 of the material means for the selected model. Rows of an open editor count.
+void FitPage::showVolume()
+{
+    const FitResult* const result = currentResult();
+    const Mat::MaterialObject* const object = findMaterial(m_target);
+    std::optional<vxConstitutive::FittedVolume> volume;
+    if (result != nullptr && object != nullptr)
+        volume = vxConstitutive::fittedVolume(*result, *inspect(*object, SubjectWatch::editorOf(*object)).material);
+    m_volume->setVolume(volume);
 }
 
 QString FitPage::sentence() const
 {
     if (m_keptFault && m_target.isSet())
         return faultText(*m_keptFault);
+    if (!m_loading.empty())
+        return tr("A table of test data is being read.");
     return m_tests.empty()
                ? tr("Load test data from a file, or paste columns of numbers, to fit the constants of models "
                     "to them.")
@@ -594,13 +759,16 @@ void FitPage::enableControls()
     m_sentence->setText(sentence());
     m_sentence->setHidden(m_sentence->text().isEmpty());
     m_remove->setEnabled(currentTest() != nullptr);
-    m_stable->setHidden(m_tests.empty());
+    FitOrder order;
+    const QString problem = m_tests.empty() ? QString() : m_options->fill(order);
+    m_optionsProblem->setText(problem);
+    m_optionsProblem->setHidden(problem.isEmpty());
     m_fit->setHidden(m_tests.empty());
-    m_fit->setEnabled(!readTests().empty() && !isFitting());
+    m_fit->setEnabled(!shownTests().empty() && !isFitting() && !isReading() && problem.isEmpty());
     m_cancel->setVisible(isFitting());
     m_progress->setVisible(isFitting());
     m_apply->setHidden(m_results.empty());
-    m_apply->setEnabled(hasConstants && m_target.isSet());
+    m_apply->setEnabled(hasConstants && m_target.isSet() && m_volume->isComplete());
     m_apply->setText(
         m_target.isSet()
             ? tr("&Apply to \"%1\"").arg(QString(m_targetLabel).replace(QLatin1Char('&'), QLatin1String("&&")))
@@ -612,6 +780,37 @@ void FitPage::enableControls()
             : tr("Select a material that gets the constants."));
 }
 
+void FitPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    Gui::MainWindow* const window = Gui::MainWindow::get_main_window_inst();
+    if (window == nullptr || m_window == window)
+        return;
+    m_window = window;
+    connect(window, &Gui::MainWindow::closing, this, &FitPage::askBeforeClosing);
+}
+
+void FitPage::askBeforeClosing(bool& refused)
+{
+    if (refused || !m_hasOwnTests || m_tests.empty())
+        return;
+    Kelta::guarded(tr("The program does not close"), [this, &refused] {
+        refused = true;
+        QStringList names;
+        for (const LoadedTest& test : m_tests)
+            names << QStringLiteral("\"%1\"").arg(shortened(QString::fromStdString(test.request.name), 30));
+        QMessageBox box(
+            QMessageBox::Question, tr("Tests are not kept"),
+            tr("These tests of the tab Fit are not kept with a material: %1. If the program closes, they are "
+               "lost. \"Apply\" in the tab keeps them.")
+                .arg(names.mid(0, 10).join(QStringLiteral(", "))),
+            QMessageBox::Discard | QMessageBox::Cancel, window());
+        box.setTextFormat(Qt::PlainText);
+        box.setDefaultButton(QMessageBox::Cancel);
+        refused = box.exec() != QMessageBox::Discard;
+    });
+}
+
 /// Tests that cannot be kept do not prevent the constants from being applied.
 void FitPage::apply()
 {
@@ -619,7 +818,7 @@ void FitPage::apply()
     Mat::MaterialObject* const object = findMaterial(m_target);
     if (result == nullptr || object == nullptr)
         return;
-    const AppliedFit fit{result->change, measurementsWith(*result, *object)};
+    const AppliedFit fit{m_volume->changeOf(*result), measurementsWith(*result, *object)};
     if (fit.measurements) {
         m_keptText = *fit.measurements;
         m_keptFault.reset();

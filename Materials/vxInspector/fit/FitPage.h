@@ -6,20 +6,26 @@
 #include "table/TableContent.h"
 #include "vxUnits/UnitSystem.h"
 
+#include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;
+class QScrollArea;
+
+namespace Gui {
+class MainWindow;
+} // namespace Gui
 
 namespace Mat {
 class MaterialObject;
@@ -27,8 +33,11 @@ class MaterialObject;
 
 namespace vxInspector {
 
+class BesideJob;
 class ContentView;
+class FitOptions;
 class PlotView;
+class VolumeChoice;
 
 /// The tab of the fits: tests from files or the clipboard, models that are fitted to them beside the interface, their
 /// constants and curves, and a button that writes the constants of one model into the selected material and keeps the tests
@@ -53,6 +62,12 @@ public:
     bool isFitting() const { return m_job != nullptr; }
     PlotView& plot() const { return *m_plot; }
 
+    /// Asks whether the program may close although tests are lost that no material keeps. Sets `refused` if it may not.
+    void askBeforeClosing(bool& refused);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     /// The controls of one axis of a test.
     struct AxisControls
@@ -70,10 +85,17 @@ private:
     void connectAxis(const AxisControls& axis, vxConstitutive::ColumnChoice vxConstitutive::TestReadRequest::*choice);
     void retranslateAxis(const AxisControls& axis, const QString& label) const;
 
+    void runBeside(std::function<void()> work, std::function<void()> whenDone);
     void load();
+    void loadFile(const QString& path);
+    void addText(const QString& name, std::string text);
+    void takeLoaded();
+    void readBeside(LoadedTest& test);
+    void takeReading(const std::shared_ptr<vxConstitutive::TestReading>& reading);
     void paste();
     void removeTest();
     void readKept(const Mat::MaterialObject& object);
+    void showKept(const std::vector<vxConstitutive::TestData>& tests, bool isSameMaterial);
     void setTests(const std::vector<vxConstitutive::TestData>& tests);
     std::string freeName(const std::string& name) const;
     LoadedTest* currentTest();
@@ -86,12 +108,18 @@ private:
                   vxConstitutive::ColumnChoice vxConstitutive::TestReading::*understood,
                   const std::vector<vxConstitutive::Measure>& measures) const;
     std::vector<vxConstitutive::TestData> readTests() const;
+    std::vector<const vxConstitutive::TestData*> shownTests() const;
+    bool isReading() const;
+    void showPlot();
     void dropResults();
 
+    void showOptions();
+    void scrollToResults();
     void startFit();
     void finishFit();
     void showResults();
     void showModel();
+    void showVolume();
     void enableControls();
     const vxConstitutive::FitResult* currentResult() const;
     QString sentence() const;
@@ -99,7 +127,33 @@ private:
     std::optional<std::string> measurementsWith(const vxConstitutive::FitResult& result,
                                                 const Mat::MaterialObject& object) const;
 
+    /// A test whose file is read beside the interface.
+    struct Loading
+    {
+        LoadedTest test;
+        bool isDone = false;
+    };
+
+    /// What decides on the content of the plot.
+    struct PlotKey
+    {
+        std::size_t tests = 0;
+        std::size_t results = 0;
+        const vxConstitutive::FitResult* result = nullptr;
+        std::string system;
+
+        bool operator==(const PlotKey& other) const
+        {
+            return tests == other.tests && results == other.results && result == other.result && system == other.system;
+        }
+    };
+
     std::vector<LoadedTest> m_tests;
+    std::size_t m_testsRevision = 0;   ///< changes with m_tests
+    std::size_t m_resultsRevision = 0; ///< changes with m_results
+    std::optional<PlotKey> m_plotted;
+    std::vector<std::shared_ptr<Loading>> m_loading; ///< in the order in which the user has chosen them
+    std::vector<std::unique_ptr<BesideJob>> m_jobsBeside;
     std::vector<vxConstitutive::FitResult> m_results;
     FitOrder m_order;              ///< of the results
     std::unique_ptr<FitJob> m_job; ///< null if no fit runs
@@ -126,14 +180,18 @@ private:
     QLabel* m_weightLabel;
     QLineEdit* m_weight;
     QLabel* m_preview;
-    QCheckBox* m_stable;
+    FitOptions* m_options;
+    QLabel* m_optionsProblem;
     QPushButton* m_fit;
     QPushButton* m_cancel;
     QProgressBar* m_progress;
     ContentView* m_models;
     ContentView* m_constants;
     PlotView* m_plot;
+    VolumeChoice* m_volume;
     QPushButton* m_apply;
+    QScrollArea* m_scroll = nullptr;
+    QPointer<Gui::MainWindow> m_window; ///< that asks before it closes
 };
 
 } // namespace vxInspector

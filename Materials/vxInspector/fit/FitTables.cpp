@@ -25,7 +25,8 @@ using vxConstitutive::FitStatus;
 using vxConstitutive::Mode;
 using vxConstitutive::TestData;
 
-constexpr int digits = 5;
+constexpr int digits = 6;
+constexpr int errorDigits = 3; // a standard error is itself known to few digits
 
 QString tr(const char* text)
 {
@@ -43,8 +44,16 @@ QString percent(double part)
     return QString::number(part * hundred, 'g', 3) + QStringLiteral(" %");
 }
 
+/// A model that is stable in every test has one range, which is that of the search.
 QString stableText(const FitResult& result)
 {
+    const auto isStable = [](const vxConstitutive::StableRange& stable) {
+        return !stable.unstableBelow && !stable.unstableAbove;
+    };
+    if (!result.stable.empty() && std::all_of(result.stable.begin(), result.stable.end(), isStable))
+        return tr("%1 to %2 in all tests")
+            .arg(vxPlot::numberText(result.stable.front().range.from, 4),
+                 vxPlot::numberText(result.stable.front().range.to, 4));
     QStringList parts;
     for (const vxConstitutive::StableRange& stable : result.stable) {
         const QString from =
@@ -85,13 +94,13 @@ Row constantRow(const vxConstitutive::FittedConstant& constant, const vxUnits::U
 {
     const auto si = vxUnits::Unit::parse(constant.unit);
     const vxUnits::Unit unit = si ? system.unitOf(si->dimension()) : vxUnits::Unit();
-    const auto written = [&](double number) {
-        return si ? QString::fromStdString(vxUnits::writeNumber(number, unit, digits))
-                  : vxPlot::numberText(number, digits);
+    const auto written = [&](double number, int shownDigits) {
+        return si ? QString::fromStdString(vxUnits::writeNumber(number, unit, shownDigits))
+                  : vxPlot::numberText(number, shownDigits);
     };
-    QString value = written(constant.value);
+    QString value = written(constant.value, digits);
     if (constant.standardError)
-        value += QStringLiteral(" ± ") + written(*constant.standardError);
+        value += QStringLiteral(" ± ") + written(*constant.standardError, errorDigits);
     const QString unitText = QString::fromStdString(si ? unit.text() : constant.unit);
     return {{{QString::fromStdString(constant.symbol)},
              {value},
@@ -115,14 +124,14 @@ Row findingRow(const vxConstitutive::Finding& finding)
 }
 
 /// The abscissas of the tests of each mode.
-std::map<Mode, vxConstitutive::Range> rangesOf(const std::vector<TestData>& tests)
+std::map<Mode, vxConstitutive::Range> rangesOf(const std::vector<const TestData*>& tests)
 {
     std::map<Mode, vxConstitutive::Range> ranges;
-    for (const TestData& test : tests) {
-        if (test.abscissas.empty())
+    for (const TestData* const test : tests) {
+        if (test->abscissas.empty())
             continue;
-        const auto [least, most] = std::minmax_element(test.abscissas.begin(), test.abscissas.end());
-        const auto [range, isNew] = ranges.emplace(test.mode, vxConstitutive::Range{*least, *most});
+        const auto [least, most] = std::minmax_element(test->abscissas.begin(), test->abscissas.end());
+        const auto [range, isNew] = ranges.emplace(test->mode, vxConstitutive::Range{*least, *most});
         if (!isNew)
             range->second = {std::min(range->second.from, *least), std::max(range->second.to, *most)};
     }
@@ -140,17 +149,17 @@ vxConstitutive::Range withStart(Mode mode, vxConstitutive::Range range)
 }
 
 vxConstitutive::CurveRequest requestOf(Mode mode, const vxConstitutive::Range& range,
-                                       const std::vector<TestData>& tests)
+                                       const std::vector<const TestData*>& tests)
 {
     constexpr std::size_t count = 200;
     vxConstitutive::CurveRequest request;
     request.mode = mode;
     request.abscissas = vxConstitutive::evenlySpaced(range.from, range.to, count);
     request.compressibility = vxConstitutive::Compressibility::Incompressible;
-    for (const TestData& test : tests)
-        if (test.mode == Mode::Creep &&
-            std::find(request.stresses.begin(), request.stresses.end(), test.parameter) == request.stresses.end())
-            request.stresses.push_back(test.parameter);
+    for (const TestData* const test : tests)
+        if (test->mode == Mode::Creep &&
+            std::find(request.stresses.begin(), request.stresses.end(), test->parameter) == request.stresses.end())
+            request.stresses.push_back(test->parameter);
     if (mode == Mode::Volumetric)
         request.compressibility = vxConstitutive::Compressibility::AsGiven;
     return request;
@@ -206,7 +215,7 @@ TableContent constantTable(const FitResult& result, const vxUnits::UnitSystem& s
     return table;
 }
 
-vxPlot::PlotData fitPlot(const std::vector<TestData>& tests, const std::vector<const FitResult*>& results,
+vxPlot::PlotData fitPlot(const std::vector<const TestData*>& tests, const std::vector<const FitResult*>& results,
                          const vxUnits::UnitSystem& system)
 {
     vxPlot::CurvePlotRequest request;
@@ -220,8 +229,8 @@ vxPlot::PlotData fitPlot(const std::vector<TestData>& tests, const std::vector<c
             curves.push_back(result->fitted->curve(requestOf(mode, withStart(mode, range), tests)));
             request.curves.push_back({modelName(*result).toStdString(), &curves.back()});
         }
-    for (const TestData& test : tests)
-        request.tests.push_back({test.name, &test});
+    for (const TestData* const test : tests)
+        request.tests.push_back({test->name, test});
     return vxPlot::curvePlot(request);
 }
 

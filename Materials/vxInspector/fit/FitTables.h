@@ -20,7 +20,7 @@ TableContent modelTable(const std::vector<vxConstitutive::FitResult>& results);
 TableContent constantTable(const vxConstitutive::FitResult& result, const vxUnits::UnitSystem& system);
 
 /// Returns the plot of the tests of one mode, and the curves of the models in the modes that fit to it.
-vxPlot::PlotData fitPlot(const std::vector<vxConstitutive::TestData>& tests,
+vxPlot::PlotData fitPlot(const std::vector<const vxConstitutive::TestData*>& tests,
                          const std::vector<const vxConstitutive::FitResult*>& results,
                          const vxUnits::UnitSystem& system);
 

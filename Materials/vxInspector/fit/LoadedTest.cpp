@@ -17,6 +17,7 @@ using vxConstitutive::Measure;
 using vxConstitutive::Mode;
 using vxConstitutive::Question;
 using vxConstitutive::QuestionKind;
+using vxConstitutive::TestReading;
 
 QString tr(const char* text)
 {
@@ -43,6 +44,14 @@ vxConstitutive::TableColumn siColumn(Measure measure, const std::vector<double>&
     constexpr const char* units[]{"1", "Pa", "s", "1/s"}; // in the order of Dimension
     const vxConstitutive::MeasureRecord& record = vxConstitutive::measureRecord(measure);
     return {constitutiveWord(record.name).toStdString(), units[static_cast<std::size_t>(record.dimension)], numbers};
+}
+
+/// Returns whether a finding asks what a question of the reading asks too.
+bool isQuestion(vxConstitutive::FindingId id)
+{
+    using vxConstitutive::FindingId;
+    return id == FindingId::ColumnNeeded || id == FindingId::MeasureNeeded || id == FindingId::UnitNeeded ||
+           id == FindingId::StressOfTestNeeded;
 }
 
 QString questionText(const Question& question)
@@ -87,14 +96,28 @@ LoadedTest keptTest(const vxConstitutive::TestData& data)
         test.request.stress = data.parameter;
     test.table = std::make_shared<vxConstitutive::TestTable>(std::move(table));
     test.mode = data.mode;
-    readAgain(test);
+    if (data.abscissas.size() <= mostReadAtOnce)
+        readAgain(test);
+    test.reading.abscissa = test.request.abscissa;
+    test.reading.ordinate = test.request.ordinate;
     test.reading.data = data;
     return test;
+}
+
+std::function<void()> readingLater(LoadedTest& test)
+{
+    test.reading = {};
+    test.request.mode = test.mode.value_or(Mode::Uniaxial);
+    test.pending = std::make_shared<TestReading>();
+    return [table = test.table, request = test.request, into = test.pending] {
+        *into = vxConstitutive::takeTest(*table, request, vxConstitutive::unitFactor);
+    };
 }
 
 void readAgain(LoadedTest& test)
 {
     test.reading = {};
+    test.pending = nullptr;
     if (!test.mode)
         return;
     test.request.mode = *test.mode;
@@ -105,6 +128,8 @@ QString readingText(const LoadedTest& test)
 {
     QStringList lines;
     lines << tr("%1 columns, %2 rows.").arg(test.table->columns.size()).arg(test.table->rows());
+    if (test.pending != nullptr)
+        lines << tr("The test is being read.");
     if (!test.mode && !test.table->columns.empty())
         lines << tr("Choose which test it is.");
     if (test.reading.data)
@@ -115,7 +140,8 @@ QString readingText(const LoadedTest& test)
         lines << questionText(question);
     for (const auto* const findings : {&test.table->findings, &test.reading.findings})
         for (const vxConstitutive::Finding& finding : *findings)
-            lines << translated(finding);
+            if (!isQuestion(finding.id))
+                lines << translated(finding);
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -7,6 +7,7 @@
 #include "Gui/MainWindow.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
+#include "plot/PlotView.h"
 #include "plugin/Inspector.h"
 #include "subject/InspectedMaterial.h"
 #include "subject/SubjectWatch.h"
@@ -21,7 +22,9 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <vector>
 
 namespace {
 
@@ -120,6 +123,54 @@ int reportCurves()
     return failures;
 }
 
+/// Returns the shortest of ten times of an action, in milliseconds.
+template <class Action>
+double shortestTime(const Action& action)
+{
+    double shortest = 1e9;
+    for (int i = 0; i < 10; ++i) {
+        const auto time = timed([&action] {
+            action();
+            return 0;
+        });
+        shortest = std::min(shortest, std::chrono::duration<double, std::milli>(time).count());
+    }
+    return shortest;
+}
+
+/// A plot with a million noisy points and a curve is painted again: as it is, and with another curve.
+int reportMillion()
+{
+    vxPlot::PlotData plot;
+    plot.series.push_back({"curve", vxPlot::SeriesKind::Line, 0, {1.0, 4.0}, {0.0, 3.0}});
+    plot.series.push_back({"test", vxPlot::SeriesKind::Symbols, 0, {}, {}});
+    for (std::size_t i = 0; i < 1000000; ++i) {
+        const double stretch = 1.0 + 3e-6 * double(i);
+        plot.series[1].x.push_back(stretch);
+        plot.series[1].y.push_back(stretch - 1.0 + 0.3 * std::sin(double(i * 7919)));
+    }
+    vxInspector::PlotView view;
+    view.resize(400, 300);
+    view.show();
+    view.setPlot(plot);
+    QCoreApplication::processEvents();
+    view.repaint();
+    int failures = report("a million points, painted again", shortestTime([&view] {
+                              view.replot();
+                              view.repaint();
+                          }));
+    std::vector<vxPlot::PlotData> others(10, plot);
+    std::size_t i = 0;
+    const double time = shortestTime([&] {
+        others[i].series[0].y[1] = double(i);
+        view.setPlot(std::move(others[i]));
+        view.repaint();
+        ++i;
+    });
+    failures += report("a million points, another curve", time);
+    return failures;
+}
+
 int reportTabs()
 {
     Gui::MainWindow window;
@@ -150,5 +201,5 @@ int main(int argc, char** argv)
     Mat::registerRequests();
     vxbench::addContest({"table of values in another unit system / plain reads", makeTable, readValues, 0.0});
     const int contests = vxbench::runContests(argc, argv);
-    return argc > 1 ? contests : contests + reportTabs() + reportCurves();
+    return argc > 1 ? contests : contests + reportTabs() + reportCurves() + reportMillion();
 }

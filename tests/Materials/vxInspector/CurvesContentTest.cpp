@@ -3,7 +3,10 @@
 #include "curves/CurvesContent.h"
 
 #include "curves/ConstitutiveTexts.h"
+#include "curves/CurveCache.h"
+#include "curves/CurveParameter.h"
 #include "measured/KeptMeasurements.h"
+#include "vxConstitutive/MaterialModels.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/PropertyId.h"
 
@@ -304,6 +307,106 @@ TEST(CurvesContent, PutsTheArgumentsIntoTheTextsOfFindings)
     const QString text = vxInspector::translated(
         makeFinding(FindingId::ConstantNotPositive, {std::string("Neo-Hookean"), std::string("%2"), -1.0}));
     EXPECT_EQ(text, "Neo-Hookean: the constant %2 is -1. It must be greater than 0.");
+}
+
+InspectedMaterial creeping()
+{
+    return material(
+        "Pipe", {{Id::Creep, "1"}, {Id::CreepModulusA, "1e-44"}, {Id::CreepModulusN, "4"}, {Id::CreepModulusM, "0"}});
+}
+
+TEST(CurvesContent, DrawsCreepAtTheStressesOfTheUser)
+{
+    CurveSettings settings;
+    settings.stresses = {1e8, 3e8};
+    const CurvesContent content = drawn(creeping(), settings);
+    EXPECT_EQ(content.parameter, vxInspector::CurveParameter::Stresses);
+    EXPECT_THAT(content.usedParameter, ElementsAre(1e8, 3e8));
+    ASSERT_EQ(content.plot.series.size(), 2U);
+    // 1e-44 * (3e8)^4 * 3.6e6 = 2.916e-4
+    EXPECT_NEAR(content.plot.series[1].y.back(), 2.916e-4, 1e-12);
+    EXPECT_THAT(drawn(creeping()).usedParameter, ElementsAre(50e6, 100e6, 200e6));
+}
+
+TEST(CurvesContent, DrawsAYieldSurfaceWithTheCohesionOfTheUser)
+{
+    const auto soil = [] {
+        return material("Clay", {{Id::IsotropicElasticity, "1"},
+                                 {Id::Plasticity, "1"},
+                                 {Id::PlasticYieldType, "Mohr-Coulomb"},
+                                 {Id::PlasticFAI, "30"}});
+    };
+    CurveSettings settings;
+    settings.modes = {Mode::Yield};
+    settings.from = 0.0;
+    settings.to = 1e6;
+    EXPECT_EQ(drawn(soil(), settings).parameter, vxInspector::CurveParameter::Cohesion);
+    EXPECT_THAT(drawn(soil(), settings).plot.y.name, HasSubstr("/ cohesion"));
+    settings.cohesion = 1e4;
+    const CurvesContent content = drawn(soil(), settings);
+    EXPECT_THAT(content.plot.y.name, testing::Not(HasSubstr("/ cohesion")));
+    EXPECT_EQ(content.plot.y.unit, "MPa");
+}
+
+TEST(CurvesContent, DrawsChainsByTheInverseLangevinFunction)
+{
+    const auto chains = [] {
+        return material(
+            "Seal", {{Id::ArrudaBoyce, "1"}, {Id::InitialShearModulusMu, "300000"}, {Id::LimitingNetworkStretch, "3"}});
+    };
+    CurveSettings settings;
+    settings.from = 1.0;
+    settings.to = 4.5;
+    const CurvesContent series = drawn(chains(), settings);
+    EXPECT_TRUE(series.hasChains);
+    settings.chains = vxConstitutive::ChainStatistics::InverseLangevin;
+    EXPECT_GT(drawn(chains(), settings).plot.series[0].y.back(), 1.05 * series.plot.series[0].y.back());
+}
+
+TEST(CurvesContent, SaysThatATextIsNoNumberInPlaceOfThatTheConstantIsMissing)
+{
+    InspectedMaterial seal = material("Seal", {{Id::NeoHooke, "1"}});
+    seal.unreadRows.push_back({Id::MaterialConstantC10, 2, "many", "It is not a number."});
+    const CurvesContent content = drawn(std::move(seal));
+    std::vector<std::string> texts;
+    for (const vxInspector::Row& row : content.findings.rows)
+        texts.push_back(row.cells[1].copied().toStdString());
+    EXPECT_THAT(texts, testing::Contains(HasSubstr("cannot be read: \"many\". It is not a number.")));
+    EXPECT_THAT(texts, testing::Not(testing::Contains(HasSubstr("is missing"))));
+}
+
+TEST(CurveCache, ComputesOnlyTheCurvesOfMaterialsThatHaveChanged)
+{
+    vxInspector::CurveCache cache;
+    const auto curveOf = [&cache](const InspectedMaterial& one) {
+        const auto models = vxConstitutive::modelsOf(*one.material);
+        vxConstitutive::CurveRequest request;
+        request.abscissas = {1.0, 2.0};
+        return cache.curve(*one.material, *models.models.front(), request);
+    };
+    cache.begin();
+    const auto seal = curveOf(rubber("Seal"));
+    const auto pad = curveOf(rubber("Pad", "700000"));
+    cache.begin();
+    EXPECT_EQ(curveOf(rubber("Seal")), seal);
+    EXPECT_NE(curveOf(rubber("Pad", "700001")), pad);
+    cache.begin();
+    cache.begin();
+    EXPECT_NE(curveOf(rubber("Seal")), seal); // not asked for by the plot before
+}
+
+TEST(CurveParameters, AreReadInTheUnitsOfTheProject)
+{
+    using vxInspector::CurveParameter;
+    using vxInspector::readParameter;
+    const vxUnits::UnitSystem system = *vxUnits::UnitSystem::parse("mm-t-s");
+    EXPECT_THAT(*readParameter(CurveParameter::Stresses, "50; 1e8 Pa, 0.2 GPa", system),
+                ElementsAre(DoubleNear(5e7, 1.0), DoubleNear(1e8, 1.0), DoubleNear(2e8, 1.0)));
+    EXPECT_FALSE(readParameter(CurveParameter::Stresses, "50; soft", system));
+    EXPECT_FALSE(readParameter(CurveParameter::Time, "1; 2", system));
+    EXPECT_FALSE(readParameter(CurveParameter::Cohesion, "-1", system));
+    EXPECT_FALSE(readParameter(CurveParameter::Stresses, "", system));
+    EXPECT_EQ(parameterText(CurveParameter::Stresses, {5e7, 1e8}, system), "50; 100 MPa");
 }
 
 } // namespace

@@ -332,4 +332,25 @@ TEST_F(CurvesTab, IsReachedByTheKeyboardInTheOrderOfReading)
     }
 }
 
+TEST_F(CurvesTab, DrawsCreepAtStressesThatAreTyped)
+{
+    Mat::MaterialObject& pipe = addMaterial(newProject(), "Pipe", Type::CreepMaterial1);
+    select({&pipe});
+    turnTo(Curves);
+    ASSERT_TRUE(waitFor([this] { return plot().plot().series.size() == 3; }));
+    auto& field = control<QLineEdit>("curveParameter");
+    ASSERT_TRUE(field.isVisible());
+    EXPECT_EQ(field.placeholderText().count(QLatin1Char(';')), 2) << field.placeholderText().toStdString();
+    QTest::keyClicks(&field, "20 MPa");
+    ASSERT_TRUE(waitFor([this] { return plot().plot().series.size() == 1; }));
+    QTest::keyClicks(&field, "; soft");
+    EXPECT_NE(field.palette().color(QPalette::Text), page().palette().color(QPalette::Text));
+}
+
+TEST_F(CurvesTab, HasNoFieldForParametersOfOtherCurves)
+{
+    showRubber();
+    EXPECT_FALSE(control<QLineEdit>("curveParameter").isVisible());
+}
+
 } // namespace

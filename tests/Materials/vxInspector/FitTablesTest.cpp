@@ -113,15 +113,26 @@ TEST(FitTables, RankTheModelsWithTheirResiduals)
     EXPECT_EQ(table.headers.size(), 5);
     for (const vxInspector::Row& row : table.rows) {
         EXPECT_THAT(row.cells[1].text.toStdString(), HasSubstr("%"));
-        EXPECT_THAT(row.cells[4].text.toStdString(), HasSubstr("uniaxial"));
+        // A Neo-Hookean material is stable everywhere.
+        if (row.cells[0].copied() == QStringLiteral("Neo-Hookean")) {
+            EXPECT_EQ(row.cells[4].copied().toStdString(), "0.1 to 10 in all tests");
+        }
     }
+}
+
+TEST(FitTables, NameTheTestsInWhichAModelIsUnstable)
+{
+    vxConstitutive::FitResult result;
+    result.stable = {{Mode::Uniaxial, {0.5, 10.0}, true, false}, {Mode::Planar, {0.1, 10.0}, false, false}};
+    EXPECT_EQ(vxInspector::modelTable({result}).rows[0].cells[4].copied().toStdString(),
+              "uniaxial 0.5 to \u2265 10; planar \u2264 0.1 to \u2265 10");
 }
 
 TEST(FitTables, PlotTheTestBesideTheFittedCurve)
 {
     const auto test = *loaded(rubberTable()).reading.data;
     const auto results = vxInspector::fitAll(vxInspector::FitOrder{{test}}, {});
-    const auto plot = vxInspector::fitPlot({test}, {&results[0], &results[1]}, *vxUnits::UnitSystem::parse("mm-t-s"));
+    const auto plot = vxInspector::fitPlot({&test}, {&results[0], &results[1]}, *vxUnits::UnitSystem::parse("mm-t-s"));
     ASSERT_EQ(plot.series.size(), 3U);
     EXPECT_EQ(plot.series[2].kind, vxPlot::SeriesKind::Symbols);
     EXPECT_NEAR(plot.series[0].y.back(), 3.0 - 1.0 / 9.0, 1e-3);

@@ -16,12 +16,15 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest/QtTestGui>
 
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using vxtest::waitFor;
 
@@ -76,6 +79,8 @@ protected:
         QTest::keyClicks(&mode, QLatin1String(text));
         ASSERT_EQ(mode.currentText().left(int(qstrlen(text))), QLatin1String(text));
     }
+
+    void tabTo(const char* name) const;
 
     void fitRubberFor(Mat::MaterialObject& material) const
     {
@@ -154,6 +159,69 @@ TEST_F(FitTab, LoadsAFile)
     EXPECT_EQ(page().tests()[0].request.name, "tension");
     press("fitRemove");
     EXPECT_TRUE(page().tests().empty());
+}
+
+TEST_F(FitTab, LoadsEachChosenFile)
+{
+    showMaterial();
+    const QTemporaryDir folder;
+    QStringList paths;
+    for (const char* const name : {"a", "b", "c"}) {
+        paths << folder.filePath(QLatin1String(name) + QStringLiteral(".csv"));
+        QFile file(paths.back());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(rubberTable().toUtf8());
+    }
+    paths.insert(1, folder.filePath(QStringLiteral("missing.csv")));
+    Gui::FileDialog::answerNext(paths.join('\n'));
+    press("fitLoad");
+    ASSERT_EQ(page().tests().size(), 3U);
+    EXPECT_EQ(page().tests()[2].request.name, "c");
+    EXPECT_THAT(Kelta::MessageLog::instance().messages().back().text.toStdString(), HasSubstr("missing.csv"));
+}
+
+/// A test with so many rows that it is read beside the interface.
+QString longRubberTable(int rows = 60000)
+{
+    QString text = QStringLiteral("stretch;nominal stress [MPa]\n");
+    for (int i = 1; i <= rows; ++i) {
+        const double stretch = 1.0 + 2.0 * i / rows;
+        text += QString::number(stretch, 'g', 8) + ';' + QString::number(stretch - 1.0 / (stretch * stretch), 'g', 8) +
+                '\n';
+    }
+    return text;
+}
+
+TEST_F(FitTab, ReadsALongTestBesideTheInterface)
+{
+    showMaterial();
+    paste(longRubberTable());
+    EXPECT_TRUE(page().tests().empty());
+    EXPECT_THAT(control<QLabel>("sentence").text().toStdString(), HasSubstr("is being read"));
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    chooseMode("uniaxial");
+    EXPECT_THAT(preview(), HasSubstr("The test is being read."));
+    EXPECT_FALSE(control<QPushButton>("fitStart").isEnabled());
+    ASSERT_TRUE(waitFor([this] { return page().tests()[0].reading.data.has_value(); }));
+    EXPECT_THAT(preview(), HasSubstr("60000 points"));
+    fitTests();
+    press("fitApply");
+    EXPECT_EQ(page().tests()[0].reading.data->abscissas.size(), 60000U);
+}
+
+TEST_F(FitTab, DropsTheReadingOfALongTestThatIsRemovedOrChanged)
+{
+    showMaterial();
+    paste(longRubberTable());
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    chooseMode("uniaxial");
+    QTest::keyClick(&control<QComboBox>("fitMode"), Qt::Key_Down);
+    ASSERT_TRUE(waitFor([this] { return page().tests()[0].reading.data.has_value(); }));
+    EXPECT_EQ(page().tests()[0].reading.data->mode, vxConstitutive::Mode::Equibiaxial);
+    QTest::keyClick(&control<QComboBox>("fitMode"), Qt::Key_Down);
+    press("fitRemove");
+    paste(longRubberTable());
+    window.reset(); // ends while the table is being read
 }
 
 TEST_F(FitTab, AppliesTheConstantsAsOneStepThatCanBeUndone)
@@ -327,6 +395,80 @@ TEST_F(FitTab, KeepsTestsWhoseKeepingIsUndone)
     EXPECT_EQ(page().tests()[0].request.name, "Test 1");
 }
 
+TEST_F(FitTab, FollowsTheSelectionAgainAfterUndoAndRedoOfApply)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    fitRubberFor(seal);
+    press("fitApply");
+    history().undo();
+    QCoreApplication::processEvents();
+    history().redo();
+    QCoreApplication::processEvents();
+    select({&pad});
+    EXPECT_TRUE(waitFor([this] { return page().tests().empty() && page().results().empty(); }));
+}
+
+TEST_F(FitTab, ShowsNoFitOfKeptTestsForAnotherMaterial)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    seal.setSetting(setting, keptText("tension"));
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    fitTests();
+    select({&pad});
+    EXPECT_TRUE(waitFor([this] { return page().tests().empty(); }));
+    EXPECT_TRUE(page().results().empty());
+    EXPECT_FALSE(control<QPushButton>("fitApply").isVisible());
+}
+
+TEST_F(FitTab, RemovesAD1ThatContradictsTheFitAndSaysSoBefore)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    setNumber(seal, Id::IncompressibilityParameterD1, 0.0789);
+    fitRubber();
+    // K0 = 2/0.0789 Pa beside a shear modulus of 1 MPa
+    EXPECT_THAT(control<QLabel>("fitVolume").text().toStdString(),
+                AllOf(HasSubstr("the D1 of the material contradicts it"), HasSubstr("e-05 times the shear modulus")));
+    ASSERT_TRUE(control<QComboBox>("fitD1").isVisible());
+    EXPECT_EQ(control<QComboBox>("fitD1").currentText(), "remove: incompressible");
+    press("fitApply");
+    EXPECT_FALSE(seal.getCMaterial()->hasProperty(Id::IncompressibilityParameterD1));
+    history().undo();
+    EXPECT_EQ(numberOf(seal, Id::IncompressibilityParameterD1), 0.0789);
+}
+
+TEST_F(FitTab, SetsD1ByTheRatioOfBulkToShearModulus)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    fitRubber();
+    QTest::keyClick(&control<QComboBox>("fitD1"), Qt::Key_End);
+    auto& ratio = control<QLineEdit>("fitBulkRatio");
+    ASSERT_TRUE(ratio.isVisible());
+    ratio.selectAll();
+    QTest::keyClicks(&ratio, "-");
+    EXPECT_FALSE(control<QPushButton>("fitApply").isEnabled());
+    ratio.selectAll();
+    QTest::keyClicks(&ratio, "200");
+    press("fitApply");
+    EXPECT_NEAR(numberOf(seal, Id::IncompressibilityParameterD1), 1e-8, 1e-11); // K0 = 200 MPa
+}
+
+TEST_F(FitTab, KeepsAD1ThatFitsUnlessItIsChanged)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    setNumber(seal, Id::IncompressibilityParameterD1, 4e-9); // K0 = 500 MPa
+    fitRubber();
+    EXPECT_EQ(control<QComboBox>("fitD1").currentText(), "keep");
+    EXPECT_THAT(control<QLabel>("fitVolume").text().toStdString(), HasSubstr("With the D1 of the material"));
+    press("fitApply");
+    EXPECT_EQ(numberOf(seal, Id::IncompressibilityParameterD1), 4e-9);
+}
+
 TEST_F(FitTab, GivesEachTestANameOfItsOwn)
 {
     showMaterial();
@@ -368,6 +510,136 @@ TEST_F(FitTab, SurvivesThatMaterialAndWindowGoAwayDuringAFit)
     EXPECT_TRUE(waitFor([this] { return !control<QPushButton>("fitApply").isEnabled(); }));
     press("fitStart");
     window.reset();
+}
+
+TEST_F(FitTab, DropsKeptTestsAndTheirFitWhenTheProjectIsClosedDuringTheFit)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    fitRubber();
+    press("fitApply");
+    press("fitStart");
+    history().clear();
+    EXPECT_TRUE(Obj::Application::instance().closeProject(*seal.get_project()));
+    EXPECT_TRUE(waitFor([this] { return !page().isFitting(); }));
+    EXPECT_TRUE(waitFor([this] { return !control<QPushButton>("fitApply").isEnabled(); }));
+    EXPECT_EQ(control<QPushButton>("fitApply").text(), "&Apply");
+}
+
+/// Presses Tab until a control has the keyboard.
+void FitTab::tabTo(const char* name) const
+{
+    for (int presses = 0; presses < 60; ++presses) {
+        const QWidget* const focused = QApplication::focusWidget();
+        if (focused != nullptr && focused->objectName() == QLatin1String(name))
+            return;
+        QTest::keyClick(focused != nullptr ? QApplication::focusWidget() : &page(), Qt::Key_Tab);
+    }
+    FAIL() << name << " cannot be reached with the Tab key";
+}
+
+TEST_F(FitTab, CanBeUsedWithTheKeyboardAlone)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    window->activateWindow();
+    ASSERT_TRUE(vxtest::waitUntilActive(window.get()));
+    QApplication::clipboard()->setText(rubberTable("stretch;nominal stress\n"));
+    control<QPushButton>("fitLoad").setFocus();
+    tabTo("fitPaste");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    tabTo("fitMode");
+    QTest::keyClicks(QApplication::focusWidget(), "uniaxial");
+    tabTo("fitYUnit");
+    QTest::keyClicks(QApplication::focusWidget(), "MPa");
+    tabTo("fitBounds");
+    QTest::keyClicks(QApplication::focusWidget(), "C10=0:10 MPa");
+    tabTo("fitStart");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    ASSERT_TRUE(waitFor([this] { return !page().isFitting() && !page().results().empty(); }));
+    tabTo("fitModels");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    tabTo("fitD1");
+    tabTo("fitApply");
+    const int steps = history().count();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(history().count(), steps + 1);
+    EXPECT_NE(seal.getSetting(setting), "");
+}
+
+TEST_F(FitTab, FitsWithTheOptionsOfTheUser)
+{
+    showMaterial();
+    paste(rubberTable());
+    chooseMode("uniaxial");
+    EXPECT_FALSE(control<QLineEdit>("fitOffset").isVisible());
+    auto& bounds = control<QLineEdit>("fitBounds");
+    QTest::keyClicks(&bounds, "C10=1 kg");
+    EXPECT_TRUE(control<QLabel>("fitOptionsProblem").isVisible());
+    EXPECT_THAT(control<QLabel>("fitOptionsProblem").text().toStdString(), HasSubstr("Bounds: C10: "));
+    EXPECT_FALSE(control<QPushButton>("fitStart").isEnabled());
+    bounds.selectAll();
+    QTest::keyClicks(&bounds, "C10=0.4 MPa");
+    auto& range = control<QLineEdit>("fitStableRange");
+    QTest::keyClicks(&range, "3:1");
+    EXPECT_FALSE(control<QPushButton>("fitStart").isEnabled());
+    range.selectAll();
+    QTest::keyClicks(&range, "0.5:4");
+    auto& error = control<QComboBox>("fitError");
+    QTest::keyClick(&error, Qt::Key_End);
+    EXPECT_EQ(error.currentText(), "absolute");
+    fitTests();
+    press("fitApply");
+    const auto kept = vxConstitutive::readMeasurements(
+        dynamic_cast<Mat::MaterialObject&>(*Obj::Application::get_current_project()->getObjects().front())
+            .getSetting(setting));
+    ASSERT_EQ(kept.fits.size(), 1U);
+    EXPECT_EQ(kept.fits[0].error, vxConstitutive::ErrorMeasure::Absolute);
+    EXPECT_EQ(kept.fits[0].stability, vxConstitutive::StabilityDemand::OverRange);
+    EXPECT_NEAR(kept.fits[0].constants.at(0).value, 0.4e6, 1e-6);
+}
+
+TEST_F(FitTab, ShowsTheOptionsOfMetalsForATensileTest)
+{
+    showMaterial();
+    paste("engineering strain,nominal stress [MPa]\n0,0\n0.001,200\n0.01,250\n0.05,300\n");
+    chooseMode("tensile");
+    EXPECT_TRUE(control<QLineEdit>("fitOffset").isVisible());
+    EXPECT_TRUE(control<QLineEdit>("fitYoungsModulus").isVisible());
+    EXPECT_FALSE(control<QComboBox>("fitError").isVisible());
+    QTest::keyClicks(&control<QLineEdit>("fitOffset"), "2");
+    EXPECT_THAT(control<QLabel>("fitOptionsProblem").text().toStdString(), HasSubstr("The offset strain must be"));
+}
+
+TEST_F(FitTab, ShowsTheResultsAfterAFit)
+{
+    window->resize(1024, 600);
+    showMaterial();
+    fitRubber();
+    const auto& models = control<vxInspector::ContentView>("fitModels");
+    EXPECT_TRUE(waitFor([&models] { return !models.visibleRegion().isEmpty(); }));
+}
+
+TEST_F(FitTab, AsksBeforeTheProgramClosesWithTestsThatAreNotKept)
+{
+    showMaterial();
+    paste(rubberTable());
+    {
+        const vxtest::MessageBoxes boxes(QMessageBox::Cancel);
+        EXPECT_FALSE(window->close());
+        ASSERT_EQ(boxes.shown().size(), 1U);
+        EXPECT_THAT(boxes.shown()[0].text.toStdString(), HasSubstr("\"Test 1\""));
+    }
+    const vxtest::MessageBoxes boxes(QMessageBox::Discard);
+    EXPECT_TRUE(window->close());
+}
+
+TEST_F(FitTab, DoesNotAskBeforeClosingIfTheTestsAreKept)
+{
+    showMaterial();
+    fitRubber();
+    press("fitApply");
+    const vxtest::MessageBoxes boxes(QMessageBox::Cancel);
+    EXPECT_TRUE(window->close());
+    EXPECT_TRUE(boxes.shown().empty());
 }
 
 TEST_F(FitTab, EndsWithCancel)

@@ -146,7 +146,11 @@ int main(int argc, char** argv)
     Gui::Translator::instance()->setLanguage(QLatin1String(argv[2]));
     Gui::MainWindow window;
     window.setWorkbench("MatGui::SimModule");
+    window.resize(1024, 700);
     window.show();
+    // A narrow screen hides the dock at first.
+    for (QDockWidget* const dock : window.findChildren<QDockWidget*>())
+        dock->show();
     auto& project = static_cast<Mat::DocumentMaterial&>(
         *Obj::Application::instance().createProject("Mat::DocumentMaterial", "Materials"));
     shootTabs({QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[4]), window}, project);

@@ -1,0 +1,30 @@
+#include "fit/BesideJob.h"
+
+#include <exception>
+#include <utility>
+
+namespace vxInspector {
+
+BesideJob::BesideJob(std::function<void()> work, QObject* parent) : QObject(parent)
+{
+    m_thread = std::thread([this, work = std::move(work)] { run(work); });
+}
+
+BesideJob::~BesideJob()
+{
+    m_thread.join();
+}
+
+void BesideJob::run(const std::function<void()>& work)
+{
+    try {
+        work();
+    } catch (const std::exception& problem) {
+        m_failure = QString::fromLocal8Bit(problem.what());
+    } catch (...) {
+        m_failure = QStringLiteral("?");
+    }
+    QMetaObject::invokeMethod(this, &BesideJob::finished, Qt::QueuedConnection);
+}
+
+} // namespace vxInspector

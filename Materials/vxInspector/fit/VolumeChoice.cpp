@@ -1,0 +1,133 @@
+#include "fit/VolumeChoice.h"
+
+#include "curves/ConstitutiveTexts.h"
+#include "vxPlot/drawing/PlotItems.h"
+#include "vxUnits/Reading.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxInspector {
+
+namespace {
+
+using vxConstitutive::D1Treatment;
+using vxConstitutive::FittedVolume;
+
+bool isSame(const std::optional<FittedVolume>& one, const std::optional<FittedVolume>& other)
+{
+    return one.has_value() == other.has_value() &&
+           (!one || (one->shearModulus == other->shearModulus && one->bulkRatio == other->bulkRatio));
+}
+
+} // namespace
+
+VolumeChoice::VolumeChoice(QWidget* parent)
+    : QWidget(parent),
+      m_sentence(new QLabel(this)),
+      m_label(new QLabel(this)),
+      m_treatment(new QComboBox(this)),
+      m_ratio(new QLineEdit(this))
+{
+    m_sentence->setObjectName(QStringLiteral("fitVolume"));
+    m_sentence->setTextFormat(Qt::PlainText);
+    m_sentence->setWordWrap(true);
+    m_sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_treatment->setObjectName(QStringLiteral("fitD1"));
+    m_treatment->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_treatment->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_label->setBuddy(m_treatment);
+    m_ratio->setObjectName(QStringLiteral("fitBulkRatio"));
+    m_ratio->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_ratio->setText(vxPlot::numberText(vxConstitutive::usualBulkRatio, 6));
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_sentence, 0, 0, 1, 3);
+    layout->addWidget(m_label, 1, 0);
+    layout->addWidget(m_treatment, 1, 1);
+    layout->addWidget(m_ratio, 1, 2);
+    layout->setColumnStretch(1, 4);
+    layout->setColumnStretch(2, 1);
+    connect(m_treatment, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+        showChoice();
+        Q_EMIT changed();
+    });
+    connect(m_ratio, &QLineEdit::textChanged, this, &VolumeChoice::changed);
+    retranslate();
+    hide();
+}
+
+VolumeChoice::~VolumeChoice() = default;
+
+void VolumeChoice::retranslate()
+{
+    const QSignalBlocker blocker(m_treatment);
+    const int chosen = std::max(m_treatment->currentIndex(), 0);
+    m_treatment->clear();
+    m_treatment->addItem(tr("keep"), static_cast<int>(D1Treatment::Keep));
+    m_treatment->addItem(tr("remove: incompressible"), static_cast<int>(D1Treatment::Remove));
+    m_treatment->addItem(tr("set the ratio of bulk to shear modulus to"), static_cast<int>(D1Treatment::Set));
+    m_treatment->setCurrentIndex(chosen);
+    m_label->setText(tr("&D1:"));
+    m_treatment->setToolTip(tr("What happens to the compressibility of the material"));
+    m_ratio->setToolTip(tr("The ratio of the initial bulk modulus 2/D1 to the initial shear modulus of the fit"));
+    m_ratio->setAccessibleName(tr("Ratio of bulk to shear modulus"));
+    showSentence();
+    showChoice();
+}
+
+void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume)
+{
+    const bool stays = isSame(volume, m_volume);
+    m_volume = volume;
+    setHidden(!volume);
+    if (stays)
+        return;
+    showSentence();
+    if (volume)
+        m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(volume->usualTreatment())));
+}
+
+void VolumeChoice::showSentence()
+{
+    if (m_volume)
+        m_sentence->setText(m_volume->finding ? translated(*m_volume->finding)
+                                              : tr("The fit is incompressible, and the material has no D1."));
+}
+
+void VolumeChoice::showChoice()
+{
+    m_ratio->setVisible(treatment() == D1Treatment::Set);
+}
+
+D1Treatment VolumeChoice::treatment() const
+{
+    return static_cast<D1Treatment>(m_treatment->currentData().toInt());
+}
+
+std::optional<double> VolumeChoice::bulkRatio() const
+{
+    const auto read = vxUnits::readNumber(m_ratio->text().trimmed().toStdString(), vxUnits::Unit());
+    return read && std::isfinite(read->value) && read->value > 0.0 ? std::optional(read->value) : std::nullopt;
+}
+
+bool VolumeChoice::isComplete() const
+{
+    return !m_volume || treatment() != D1Treatment::Set || bulkRatio().has_value();
+}
+
+vxConstitutive::MaterialChange VolumeChoice::changeOf(const vxConstitutive::FitResult& result) const
+{
+    if (!m_volume)
+        return result.change;
+    return vxConstitutive::changeOf(result, *m_volume, treatment(),
+                                    bulkRatio().value_or(vxConstitutive::usualBulkRatio));
+}
+
+} // namespace vxInspector

@@ -177,8 +177,7 @@ TEST_F(CurveOfProject, TellsWhereItIsUnstableAndThatItIsDrawnIncompressible)
     const Outcome run =
         vxmat({"curve", file(), "--mode", "equibiaxial", "--from", "1", "--to", "3", "--incompressible"});
     EXPECT_EQ(run.status, 0);
-    EXPECT_THAT(run.err,
-                AllOf(HasSubstr("the material is unstable "), HasSubstr("The curve is incompressible, but")));
+    EXPECT_THAT(run.err, AllOf(HasSubstr("the material is unstable "), HasSubstr("The curve is incompressible, but")));
 }
 
 TEST_F(CurveOfProject, HasFindingsInTheUnitsOfTheOption)

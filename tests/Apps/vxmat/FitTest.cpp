@@ -149,10 +149,7 @@ TEST_F(Fit, PrintsWhatWasUnderstoodAndTheModelsSideBySide)
 class FitIntoSoftRubber : public Fit
 {
 protected:
-    FitIntoSoftRubber()
-    {
-        EXPECT_EQ(vxmat({"new", "Elastomer 2 (Mooney-Rivlin)=Seal", "-o", m_project}).status, 0);
-    }
+    FitIntoSoftRubber() { EXPECT_EQ(vxmat({"new", "Elastomer 2 (Mooney-Rivlin)=Seal", "-o", m_project}).status, 0); }
 
     Outcome fitInto(std::vector<std::string> more = {}) const
     {
@@ -180,8 +177,9 @@ TEST_F(FitIntoSoftRubber, RemovesAD1ThatContradictsTheFitAndSaysSo)
     ASSERT_THAT(d1(), HasSubstr("0.0789"));
     const Outcome run = fitInto();
     EXPECT_EQ(run.status, 0);
-    EXPECT_THAT(run.err, AllOf(HasSubstr("Seal: The fit is incompressible, but the D1 of the material contradicts it"),
-                               HasSubstr("2.53485e-05 times the shear modulus"), HasSubstr("D1 is removed; --d1 keep")));
+    EXPECT_THAT(run.err,
+                AllOf(HasSubstr("Seal: The fit is incompressible, but the D1 of the material contradicts it"),
+                      HasSubstr("2.53485e-05 times the shear modulus"), HasSubstr("D1 is removed; --d1 keep")));
     EXPECT_EQ(d1(), "");
 }
 

@@ -100,6 +100,7 @@ ImportedMaterials toObjects(std::vector<vxDecks::ReadMaterial> materials)
 {
     std::set<std::uint32_t> used{0};
     std::vector<bool> keeps;
+    keeps.reserve(materials.size());
     for (const vxDecks::ReadMaterial& one : materials)
         keeps.push_back(one.number && used.insert(*one.number).second);
     ImportedMaterials objects;
@@ -192,24 +193,19 @@ Answer importDeck(std::istream& file, vxDecks::Format format, const ImportReques
     return answer;
 }
 
-/// Opens a file if it is a deck; reading it then needs no memory for its text.
-std::unique_ptr<std::ifstream> openDeck(const std::string& path, std::optional<vxDecks::Format>& format)
-{
-    auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
-    std::string beginning(vxDecks::recognisedLength, '\0');
-    file->read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
-    beginning.resize(static_cast<std::size_t>(file->gcount()));
-    format = deckFormatOf(beginning);
-    file->clear();
-    file->seekg(0);
-    return file;
-}
-
+/// A deck is read from the file, and needs no memory for its text.
 Answer importRegularFile(const ImportRequest& request, Form form)
 {
-    std::optional<vxDecks::Format> format;
-    const auto file = openDeck(request.file, format);
-    return format ? importDeck(*file, *format, request, form) : importDocument(readInput(request.file), request);
+    std::ifstream file(request.file, std::ios::binary);
+    std::string beginning(vxDecks::recognisedLength, '\0');
+    file.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
+    beginning.resize(static_cast<std::size_t>(file.gcount()));
+    const auto format = deckFormatOf(beginning);
+    if (!format)
+        return importDocument(readInput(request.file), request);
+    file.clear();
+    file.seekg(0);
+    return importDeck(file, *format, request, form);
 }
 
 /// Imports standard input or an open file, which can be read only once.
@@ -219,7 +215,7 @@ Answer importStream(const ImportRequest& request, Form form)
     const auto format = deckFormatOf(text);
     if (!format)
         return importDocument(parseInput(request.file, std::move(text)), request);
-    std::istringstream file(std::move(text));
+    std::istringstream file(text);
     return importDeck(file, *format, request, form);
 }
 
@@ -237,8 +233,8 @@ Answer importFile(const ImportRequest& request, Form form)
         Json::Value json;
         json["format"] = Json::Value();
         json["messages"] = Json::arrayValue;
-        for (std::string& message : answer.messages)
-            json["messages"].append(std::move(message));
+        for (const std::string& message : answer.messages)
+            json["messages"].append(message);
         answer.messages.clear();
         answer.text = toJsonText(json);
     }

@@ -33,7 +33,7 @@ struct ReportRow
     Outcome outcome = Outcome::Lost;
     std::string card;                  ///< the card that has the quantity; empty if it is lost
     std::vector<vxUnits::Message> how; ///< how it is converted or approximated, or why it is lost
-    bool refused = false; ///< lost, although the format takes the quantity; the user can do something about it
+    bool refused = false; ///< lost, although the target has a place for it; the user can do something about it
 };
 
 /// The outcome for a material.

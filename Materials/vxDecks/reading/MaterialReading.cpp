@@ -4,6 +4,7 @@
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/MaterialValues.h"
 #include "vxUnits/Quantity.h"
 
@@ -34,10 +35,12 @@ bool isFinite(const vxMat::MaterialProperty& property)
                                                         [](double number) { return std::isfinite(number); });
 }
 
-/// Returns the message that a number has another unit in the deck; empty if it has not.
-std::vector<Message> unitChange(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
+std::vector<Message> findChange(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
                                 const UnitSystem& units)
 {
+    const vxUnits::Quantity* const quantity = vxUnits::findQuantity(id);
+    if (quantity == nullptr || !quantity->hasNumber())
+        return {};
     const auto read = vxUnits::unitOfQuantity(id, units, creep);
     const auto stored = vxUnits::unitOfQuantity(id, UnitSystem::si(), creep);
     if (!read || !stored || read->factor() == stored->factor())
@@ -46,6 +49,15 @@ std::vector<Message> unitChange(std::int32_t id, const std::optional<vxUnits::Cr
 }
 
 } // namespace
+
+std::vector<Message> DeckUnits::change(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep) const
+{
+    if (id == vxMat::PropertyId::CreepModulusA) // depends on the material
+        return findChange(id, creep, m_system);
+    const auto found = m_changes.find(id);
+    return found != m_changes.end() ? found->second
+                                    : m_changes.emplace(id, findChange(id, creep, m_system)).first->second;
+}
 
 MaterialReading::MaterialReading(Format format, const std::string& name, std::optional<std::uint32_t> number)
     : m_format(format),
@@ -137,12 +149,12 @@ void MaterialReading::note(Message message)
 }
 
 ReportRow MaterialReading::rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
-                                 const UnitSystem& units) const
+                                 const DeckUnits& units) const
 {
     ReportRow row{id,   vxMat::findPropertyRecord(id)->name, Outcome::Carried, findMapping(m_format, id)->card, {},
                   false};
     if (!hasOwnUnits(m_format))
-        row.how = unitChange(id, creep, units);
+        row.how = units.change(id, creep);
     if (!row.how.empty())
         row.outcome = Outcome::Converted;
     if (const auto form = m_forms.find(id); form != m_forms.end()) {
@@ -165,11 +177,11 @@ void MaterialReading::refuseWhatIsNotFinite()
     }
 }
 
-void MaterialReading::finish(const UnitSystem& units, ReadDeck& deck)
+void MaterialReading::finish(const DeckUnits& units, ReadDeck& deck)
 {
     const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
-    if (!hasOwnUnits(m_format) && units != UnitSystem::si())
-        vxUnits::convertMaterial(*m_material, units, UnitSystem::si());
+    if (!hasOwnUnits(m_format) && units.system() != UnitSystem::si())
+        vxUnits::convertMaterial(*m_material, units.system(), UnitSystem::si());
     refuseWhatIsNotFinite();
     MaterialReport report;
     report.name = m_name;

@@ -11,6 +11,22 @@
 
 namespace vxDecks {
 
+/// The unit system of a deck, and the messages about the units of its quantities, which are the same for all materials.
+class DeckUnits
+{
+public:
+    // Not explicit, because a unit system says everything; an object for several materials only saves time.
+    DeckUnits(const vxUnits::UnitSystem& system) : m_system(system) {}
+
+    const vxUnits::UnitSystem& system() const { return m_system; }
+    /// Returns the message that a quantity has another unit in the catalogue; empty if it has the same one, or no unit.
+    std::vector<vxUnits::Message> change(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep) const;
+
+private:
+    vxUnits::UnitSystem m_system;
+    mutable std::map<std::int32_t, std::vector<vxUnits::Message>> m_changes; ///< of quantities whose units are fixed
+};
+
 /// One material while it is read: its quantities in the unit system of the deck, and the outcome for each of them and for the
 /// cards that are not taken. finish() converts the numbers to the units of the catalogue.
 class MaterialReading
@@ -50,7 +66,7 @@ public:
     void note(vxUnits::Message message);
 
     /// Adds the material and its report to a deck whose numbers are in a unit system. The object must not be used again.
-    void finish(const vxUnits::UnitSystem& units, ReadDeck& deck);
+    void finish(const DeckUnits& units, ReadDeck& deck);
 
 private:
     struct Form
@@ -61,8 +77,7 @@ private:
     };
 
     vxMat::MaterialProperty& take(std::int32_t id);
-    ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
-                    const vxUnits::UnitSystem& units) const;
+    ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep, const DeckUnits& units) const;
     void addLost(ReportRow row);
     void refuseWhatIsNotFinite();
 

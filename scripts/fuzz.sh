@@ -31,6 +31,8 @@ seeds_of() {
         project_file_fuzzer | recovery_fuzzer) echo "$root/tests/data/projects" ;;
         test_data_fuzzer) echo "$root/tests/data/rubber" ;;
         keyword_deck_fuzzer) echo "$root/tests/Materials/vxDecks/corpus/calculix" ;;
+        bulk_data_fuzzer) echo "$root/tests/Materials/vxDecks/corpus/nastran" ;;
+        matml_fuzzer) echo "$root/tests/Materials/vxDecks/corpus/matml" ;;
     esac
 }
 

@@ -304,7 +304,7 @@ void MatmlMaterial::takeNumbers(const MatmlValue& value)
     const vxUnits::Quantity& quantity = *vxUnits::findQuantity(*declaration.quantity);
     const bool isList = quantity.form == QuantityForm::NumberList;
     if (!value.numbers || (!isList && value.numbers->size() != 1)) {
-        refuse(value, makeMessage(BulkText::DataWithoutNumber, {toUtf8(value.text)}));
+        refuse(value, makeMessage(ReadText::BadNumber, {toUtf8(value.text)}));
         return;
     }
     const CreepExponents creep{m_material.number(Id::CreepModulusN), m_material.number(Id::CreepModulusM)};

@@ -39,8 +39,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(BulkText::Co
      "the table %1 is not read, because the tables of the file have more than %2 points"},
     {"decks.nastran.table-of-other-kind", "the table does not have true stress over strain"},
     {"decks.nastran.table-not-from-origin",
-     "the table is over total strain, but does not begin with the origin and the "
-     "yield point"},
+     "the table is over total strain, but does not begin with the origin and the yield point"},
     {"decks.matml.too-large", "the file has more than %1 MB; divide it into several files"},
     {"decks.matml.not-well-formed", "the XML is not well-formed: %1"},
     {"decks.matml.doctype", "the file has a document type declaration (DOCTYPE), which is not read because it may "
@@ -53,7 +52,6 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(BulkText::Co
     {"decks.matml.unit-not-readable", R"(the unit "%1" is not known)"},
     {"decks.matml.unit-of-other-kind", R"(the unit "%1" does not fit the quantity)"},
     {"decks.matml.value-over-parameter", "the values depend on %1, which the catalogue does not have"},
-    {"decks.matml.data-without-number", R"("%1" is not a number)"},
     {"decks.matml.data-without-word", R"(the quantity does not take the word "%1")"},
 }};
 

@@ -46,7 +46,6 @@ enum class BulkText : std::size_t
     UnitNotReadable,
     UnitOfOtherKind,
     ValueOverParameter,
-    DataWithoutNumber,
     DataWithoutWord,
     Count
 };

@@ -70,12 +70,13 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
     const std::uint32_t largest = infoOf(format).largestNumber;
     const std::vector<std::uint32_t> numbers = numbersOf(materials, largest, options);
     Names names(writer->names());
+    DeckUnits deckUnits(units);
     Deck deck{writer->begin(units), {format, units.text(), {}, {}}};
     if (options.firstNumber && largest == 0)
         deck.report.notes.push_back(makeMessage(Text::NamesOnly));
     for (std::size_t i = 0; i < materials.size(); ++i) {
         const Heading heading{names.take(materials[i].name), numbers[i]};
-        MaterialDeck one(format, materials[i], heading, units, options);
+        MaterialDeck one(format, materials[i], heading, deckUnits, options);
         writer->write(one);
         deck.text += one.text();
         deck.report.materials.push_back(one.finish());

@@ -46,13 +46,12 @@ std::optional<Message> reasonOf(std::int32_t id, const MaterialModels& models, c
 
 } // namespace
 
-MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const UnitSystem& units,
+MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, Heading heading, DeckUnits& units,
                            const DeckOptions& options)
     : m_format(format), m_source(material), m_heading(std::move(heading)), m_units(units), m_options(options)
 {
     m_converted.copyAllFrom(*material.material);
-    if (units != UnitSystem::si())
-        vxUnits::convertMaterial(m_converted, UnitSystem::si(), units);
+    units.convert(m_converted);
     removeNumbersThatAreNotFinite();
     m_values = vxUnits::MaterialValues(m_converted);
     m_models = resolveModels(m_values);
@@ -76,14 +75,12 @@ void MaterialDeck::line(std::string_view text)
 
 std::vector<Message> MaterialDeck::unitChange(std::int32_t id) const
 {
-    if (m_units == UnitSystem::si())
+    if (units() == UnitSystem::si())
         return {};
-    const auto creep = m_values.creepExponents();
-    const auto stored = vxUnits::unitOfQuantity(id, UnitSystem::si(), creep);
-    const auto written = vxUnits::unitOfQuantity(id, m_units, creep);
-    if (!stored || !written || stored->factor() == written->factor())
+    const UnitPair one = unitsOf(id);
+    if (!one.areBothKnown() || one.stored->factor() == one.written->factor())
         return {};
-    return {makeMessage(Text::OtherUnit, {written->text(), stored->text()})};
+    return {makeMessage(Text::OtherUnit, {one.written->text(), one.stored->text()})};
 }
 
 void MaterialDeck::decide(std::int32_t id, Outcome outcome, std::vector<Message> how)

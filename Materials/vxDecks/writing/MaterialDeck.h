@@ -5,6 +5,7 @@
 #include "vxDecks/Mapping.h"
 #include "vxMaterial/model/Material.h"
 #include "vxUnits/MaterialValues.h"
+#include "writing/DeckUnits.h"
 
 #include <cstdint>
 #include <map>
@@ -26,7 +27,8 @@ struct Heading
 class MaterialDeck
 {
 public:
-    MaterialDeck(Format format, const DeckMaterial& material, Heading heading, const vxUnits::UnitSystem& units,
+    /// Keeps a reference to the units.
+    MaterialDeck(Format format, const DeckMaterial& material, Heading heading, DeckUnits& units,
                  const DeckOptions& options);
 
     const Heading& heading() const { return m_heading; }
@@ -34,7 +36,9 @@ public:
     const std::string& userName() const { return m_source.name; }
     const vxUnits::MaterialValues& values() const { return m_values; }
     const MaterialModels& models() const { return m_models; }
-    const vxUnits::UnitSystem& units() const { return m_units; }
+    const vxUnits::UnitSystem& units() const { return m_units.system(); }
+    /// Returns the units of a quantity of the material.
+    UnitPair unitsOf(std::int32_t id) const { return m_units.of(id, m_values.creepExponents()); }
     const DeckOptions& options() const { return m_options; }
     bool isCommercial() const { return m_options.dialect == Dialect::Commercial; }
 
@@ -67,7 +71,7 @@ private:
     Format m_format;
     const DeckMaterial& m_source;
     Heading m_heading;
-    vxUnits::UnitSystem m_units;
+    DeckUnits& m_units;
     DeckOptions m_options;
     vxMat::CMaterial m_converted;
     vxUnits::MaterialValues m_values;

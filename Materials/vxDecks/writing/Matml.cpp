@@ -126,7 +126,7 @@ std::string MatmlWriter::begin(const vxUnits::UnitSystem& units)
 std::string MatmlWriter::declare(const MaterialDeck& deck, const Quantity& quantity)
 {
     std::string unit = "1";
-    if (const auto known = vxUnits::unitOfQuantity(quantity.id, deck.units(), deck.values().creepExponents()))
+    if (const auto known = deck.unitsOf(quantity.id).written)
         unit = known->text();
     std::string& id = m_declared[{quantity.id, unit}];
     if (id.empty()) {

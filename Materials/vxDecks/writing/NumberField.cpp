@@ -3,11 +3,10 @@
 #include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <iomanip>
-#include <locale>
-#include <sstream>
 
 namespace vxDecks {
 
@@ -24,12 +23,17 @@ std::string withShortExponent(const std::string& text)
     return text.substr(0, e + 1) + (negative ? "-" : "") + text.substr(digits);
 }
 
+/// Returns a finite number with a precision as printf does, in any locale with a decimal point.
+std::string inDigits(double number, std::chars_format format, int precision)
+{
+    std::array<char, 64> text{};
+    char* const end = std::to_chars(text.data(), text.data() + text.size(), number, format, precision).ptr;
+    return {text.data(), end};
+}
+
 std::string rounded(double number, int digits)
 {
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << std::setprecision(digits) << number;
-    return withShortExponent(text.str());
+    return withShortExponent(inDigits(number, std::chars_format::general, digits));
 }
 
 /// Returns the digits of a number without a point and without zeros at the end, and sets the exponent of the first digit.
@@ -42,10 +46,7 @@ struct Digits
 
 Digits digitsOf(double number, int count)
 {
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << std::scientific << std::setprecision(count - 1) << std::abs(number);
-    const std::string written = text.str();
+    const std::string written = inDigits(std::abs(number), std::chars_format::scientific, count - 1);
     const std::size_t e = written.find('e');
     std::string digits = written.substr(0, 1) + (count > 1 ? written.substr(2, e - 2) : std::string());
     digits.erase(std::max<std::size_t>(digits.find_last_not_of('0') + 1, 1));

@@ -1,0 +1,45 @@
+#include "writing/DeckUnits.h"
+
+#include "vxMaterial/model/PropertyId.h"
+
+namespace vxDecks {
+
+using vxUnits::CreepExponents;
+using vxUnits::UnitSystem;
+
+UnitPair DeckUnits::lookUp(std::int32_t id, const std::optional<CreepExponents>& creep) const
+{
+    const auto stored = vxUnits::unitOfQuantity(id, UnitSystem::si(), creep);
+    const auto written = vxUnits::unitOfQuantity(id, m_system, creep);
+    UnitPair pair;
+    if (stored)
+        pair.stored = *stored;
+    if (written)
+        pair.written = *written;
+    return pair;
+}
+
+UnitPair DeckUnits::of(std::int32_t id, const std::optional<CreepExponents>& creep)
+{
+    if (id == vxMat::PropertyId::CreepModulusA)
+        return lookUp(id, creep);
+    const auto known = m_known.find(id);
+    return known != m_known.end() ? known->second : m_known.emplace(id, lookUp(id, creep)).first->second;
+}
+
+void DeckUnits::convert(vxMat::MaterialBase& material)
+{
+    if (m_system == UnitSystem::si())
+        return;
+    const auto creep = vxUnits::creepExponents(material);
+    for (const auto& [key, property] : material.properties) {
+        const UnitPair units = of(key, creep);
+        if (!units.areBothKnown())
+            continue;
+        property->value = vxUnits::convertNumber(property->value, *units.stored, *units.written);
+        for (double& number : property->values)
+            number = vxUnits::convertNumber(number, *units.stored, *units.written);
+    }
+}
+
+} // namespace vxDecks

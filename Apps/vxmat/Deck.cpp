@@ -143,6 +143,32 @@ Json::Value toJson(const vxDecks::Mapping& row)
     return json;
 }
 
+Json::Value dialectsOf(vxDecks::Format format)
+{
+    Json::Value list(Json::arrayValue);
+    for (const vxDecks::DialectInfo& dialect : vxDecks::dialects()) {
+        if (dialect.format != format)
+            continue;
+        Json::Value json;
+        json["name"] = dialect.name;
+        json["title"] = dialect.title;
+        json["manual"] = dialect.manual;
+        list.append(std::move(json));
+    }
+    return list;
+}
+
+/// Returns the places of a quantity in the dialects that are not those of the solvers of the formats.
+Json::Value placesInDialects(std::int32_t id)
+{
+    Json::Value places(Json::objectValue);
+    for (const vxDecks::DialectInfo& dialect : vxDecks::dialects()) {
+        if (dialect.dialect != vxDecks::Dialect::Standard)
+            places[dialect.name] = toJson(*vxDecks::findMapping(dialect.format, id, dialect.dialect));
+    }
+    return places;
+}
+
 Json::Value solversAsJson()
 {
     Json::Value document;
@@ -152,6 +178,8 @@ Json::Value solversAsJson()
         json["title"] = format.title;
         json["manual"] = format.manual;
         json["extension"] = format.extension;
+        json["largestNumber"] = format.largestNumber == 0 ? Json::Value() : Json::Value(format.largestNumber);
+        json["dialects"] = dialectsOf(format.format);
         document["solvers"].append(std::move(json));
     }
     for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
@@ -161,6 +189,7 @@ Json::Value solversAsJson()
         json["key"] = record.key;
         for (const vxDecks::FormatInfo& format : vxDecks::formats())
             json["solvers"][format.name] = toJson(*vxDecks::findMapping(format.format, record.id));
+        json["dialects"] = placesInDialects(record.id);
         document["quantities"].append(std::move(json));
     }
     return document;

@@ -1,8 +1,11 @@
 #include "DataFile.h"
+#include "SchemaJudge.h"
 #include "VxmatTesting.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace {
 
@@ -161,6 +164,20 @@ TEST(Solvers, AreListedWithTheirCards)
     const Json::Value& sound = json["quantities"][1]["solvers"]["calculix"];
     EXPECT_TRUE(sound["card"].isNull());
     EXPECT_EQ(sound["how"], "the solver computes sound only as an analogy of heat conduction");
+    EXPECT_EQ(json["quantities"][1]["dialects"]["commercial"]["card"], "*ACOUSTIC MEDIUM");
+    EXPECT_EQ(json["solvers"][0]["dialects"][1]["name"], "commercial");
+    EXPECT_TRUE(json["solvers"][0]["largestNumber"].isNull());
+    EXPECT_EQ(json["solvers"][2]["largestNumber"], 99999);
+}
+
+TEST(Solvers, AreListedAsTheirSchemaSays)
+{
+    const Folder folder;
+    const std::string path = folder.path("solvers.json");
+    std::ofstream(path) << vxmat({"solvers", "--json"}).out;
+    EXPECT_EQ(vxtest::faultsBySchema("solvers.schema.json", {path}), "");
+    std::ofstream(path) << R"({"solvers": [], "quantities": []})";
+    EXPECT_NE(vxtest::faultsBySchema("solvers.schema.json", {path}), "");
 }
 
 } // namespace

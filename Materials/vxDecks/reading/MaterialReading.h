@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vxDecks {
@@ -16,7 +17,7 @@ class DeckUnits
 {
 public:
     // Not explicit, because a unit system says everything; an object for several materials only saves time.
-    DeckUnits(const vxUnits::UnitSystem& system) : m_system(system) {}
+    DeckUnits(vxUnits::UnitSystem system) : m_system(std::move(system)) {}
 
     const vxUnits::UnitSystem& system() const { return m_system; }
     /// Returns the message that a quantity has another unit in the catalogue; empty if it has the same one, or no unit.

@@ -223,7 +223,7 @@ bool isOtherConstant(std::size_t index)
     return index >= first && index < end && index != a11;
 }
 
-/// Reads MATHP: MID, A10, A01, D1, RHO; the next lines have NA, ND and the constants of higher order.
+/// Reads MATHP: MID, A10, A01, D1, RHO; the next lines have the constants of higher order.
 void readMathp(CardReader& card)
 {
     MaterialReading& material = card.material();
@@ -387,16 +387,17 @@ void readMats1(CardReader& card)
         card.refuseAll(makeMessage(BulkText::OtherMeaningWithout, {card.nameOf(2) + " = " + toUtf8(type)}));
         return;
     }
-    const bool hasTable = !card.text(1).empty() && card.text(1) != "0";
+    const bool isTabulated = !card.text(1).empty() && card.text(1) != "0";
     if (!setWord(card, 4, Id::PlasticYieldType, {"Mises", "", "Mohr-Coulomb", "Drucker-Prager"}))
         return;
-    if (!setWord(card, 5, Id::PlasticHardeningType, {hasTable ? "Multilinear" : "Bilinear", "Kinematic", "Combined"})) {
+    if (!setWord(card, 5, Id::PlasticHardeningType,
+                 {isTabulated ? "Multilinear" : "Bilinear", "Kinematic", "Combined"})) {
         material.remove(Id::PlasticYieldType);
         return;
     }
     material.setSwitch(Id::Plasticity);
     readYieldStress(card);
-    if (hasTable) {
+    if (isTabulated) {
         readTable(card);
         return;
     }
@@ -456,7 +457,7 @@ const std::vector<Card>& cards()
           {"GE"},
           {"", taken},
           {"NA", taken},
-          {"ND", taken},
+          {"", taken},
           {},
           {},
           {},

@@ -269,10 +269,11 @@ void DeckDialog::exportDeck()
     Mat::DocumentMaterial* project = findProject(m_projectId);
     if (project == nullptr)
         return QDialog::reject();
-    if (m_made == nullptr)
+    const auto made = m_made; // stays while the user answers
+    if (made == nullptr)
         return;
     const QString path = askForDeckFile(QString::fromUtf8(project->get_name()), format(), *this);
-    if (path.isEmpty() || m_made == nullptr || !saveDeck(*m_made, *m_source, path, *this))
+    if (path.isEmpty() || !saveDeck(*made, *m_source, path, *this))
         return;
     // The project may have been closed while the user answered.
     project = findProject(m_projectId);

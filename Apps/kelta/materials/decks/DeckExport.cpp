@@ -109,12 +109,13 @@ void keepChoice(const DeckChoice& choice, Obj::Project& project)
     project.setSetting(deckUnitsSetting, choice.units.toStdString());
 }
 
-QString askForDeckFile(const QString& proposedName, vxDecks::Format format, QWidget& parent)
+QString askForDeckFile(QString proposedName, vxDecks::Format format, QWidget& parent)
 {
     const vxDecks::FormatInfo& info = vxDecks::infoOf(format);
     const QString extension = QString::fromLatin1(info.extension);
     const QString filter =
         QStringLiteral("%1 (*.%2);;%3").arg(QString::fromLatin1(info.title), extension, tr("All files (*)"));
+    proposedName.replace(QLatin1Char('/'), QLatin1Char('_')); // a project may have such a name, a file may not
     return Gui::FileDialog::getSaveFileName(&parent, title(), proposedName + QLatin1Char('.') + extension, filter);
 }
 

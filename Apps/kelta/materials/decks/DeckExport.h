@@ -41,8 +41,9 @@ DeckChoice lastChoice(const Obj::Project& project);
 /// Keeps a choice with the project, which saves it. Makes no step of the history, since no data changes.
 void keepChoice(const DeckChoice& choice, Obj::Project& project);
 
-/// Asks for the file of a deck. Returns an empty text if the user cancels.
-QString askForDeckFile(const QString& proposedName, vxDecks::Format format, QWidget& parent);
+/// Asks for the file of a deck, and proposes a name, to which the extension of the format is added. Returns an empty text if
+/// the user cancels.
+QString askForDeckFile(QString proposedName, vxDecks::Format format, QWidget& parent);
 
 /// Writes a deck to a file. Asks in front of `parent` before it replaces a project file, and tells the user if the file
 /// cannot be written. Reports the number of materials and what the deck lacks to the message log. Returns whether the file

@@ -14,12 +14,14 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
+#include <QTimer>
 #include <QtTest/QtTestGui>
 
 namespace {
@@ -234,6 +236,27 @@ TEST_F(DeckExport, JoinsMaterialsWithTheSameOutcomeInALine)
     choose("Elmer");
     EXPECT_THAT(report(), Contains(testing::EndsWith("|Steel, Part0, Part1 and 2 more")));
     EXPECT_THAT(report(), Contains(testing::EndsWith("|all 6")));
+}
+
+TEST_F(DeckExport, ProposesAFileWithTheNameOfTheProject)
+{
+    Obj::Application::instance().closeAllProjects();
+    addMaterial(newProject("Rig 1/2"));
+    open();
+    choose("LS-DYNA");
+    QString proposed;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&proposed, &timer] {
+        auto* const files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (files == nullptr)
+            return;
+        timer.stop();
+        proposed = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+        files->reject();
+    });
+    timer.start(0);
+    button().click();
+    EXPECT_EQ(proposed, "Rig 1_2.k");
 }
 
 TEST_F(DeckExport, StaysOpenIfTheUserChoosesNoFile)

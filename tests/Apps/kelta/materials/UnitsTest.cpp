@@ -115,6 +115,31 @@ TEST_F(UnitChoices, ShowATextThatIsNoSystemAsOwnUnits)
     EXPECT_EQ(systemsOf(choice).currentText(), QStringLiteral("As in the preferences (SI)"));
 }
 
+TEST_F(UnitChoices, OfferTheSystemOfAProjectFirst)
+{
+    UnitChoice choice(*vxUnits::UnitSystem::parse("cm-g-s"));
+    EXPECT_EQ(systemsOf(choice).currentText(), QStringLiteral("As the project (cm-g-s)"));
+    EXPECT_EQ(choice.system(), QString());
+    EXPECT_EQ(choice.read()->text(), "cm-g-s");
+    EXPECT_THAT(remarkOf(choice), HasSubstr("density in g/cm^3"));
+    choice.setSystem(QStringLiteral("SI"));
+    EXPECT_EQ(choice.read()->text(), "SI");
+}
+
+TEST_F(UnitChoices, ChooseNothingForAnUndecidedUser)
+{
+    UnitChoice choice(UnitChoice::Preference::Undecided);
+    EXPECT_EQ(systemsOf(choice).currentText(), QStringLiteral("Not chosen yet"));
+    EXPECT_FALSE(choice.isValid());
+    EXPECT_EQ(choice.system(), QString());
+    EXPECT_EQ(remarkOf(choice), "");
+    EXPECT_EQ(basesOf(choice).text(), QString());
+    choice.setSystem(QStringLiteral("mm-t-s"));
+    EXPECT_TRUE(choice.isValid());
+    choice.setSystem(QString());
+    EXPECT_FALSE(choice.isValid());
+}
+
 // --- The unit system of a project ---
 
 class ProjectUnits : public vxtest::Materials

@@ -67,6 +67,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
     {"decks.rounded-to-field", "rounded to a field of %1 characters"},
     {"decks.creep-factor-small",
      "the solver computes with errors if the factor is below %1; choose another unit system"},
+    {"decks.needs-large-strains",
+     "the solver computes it right only in steps with large strains; write NLGEOM behind *STEP"},
     {"decks.as-acoustic-bulk", "as the bulk modulus, the density times the square of the speed"},
     {"decks.as-permittivity", "as the permittivity, times that of vacuum"},
     {"decks.as-permeability", "as the permeability, times that of vacuum"},

@@ -65,6 +65,7 @@ enum class Text : std::size_t
     NamesOnly,
     RoundedToField,
     CreepFactorSmall,
+    NeedsLargeStrains,
     AsAcousticBulk,
     AsPermittivity,
     AsPermeability,

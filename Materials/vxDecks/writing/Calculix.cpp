@@ -135,6 +135,8 @@ void writePlastic(MaterialDeck& deck)
     const bool isCurved = deck.isCommercial() && model->stresses.size() > 2;
     if (isCurved && model->isKinematic)
         deck.refuse({Id::PlasticHardeningType}, makeMessage(Text::CurveIsIsotropic));
+    else if (model->isKinematic && !deck.isCommercial())
+        deck.carry(Id::PlasticHardeningType, makeMessage(Text::NeedsLargeStrains));
     deck.line(model->isKinematic && !isCurved ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC");
     writeCurve(deck, *model);
     reportPlastic(deck, *model, makeMessage(Text::TwoPoints, {writeWithin(lastStrain, longestNumber)}));

@@ -100,6 +100,14 @@ void MaterialDeck::carry(std::int32_t id)
     decide(id, outcome, std::move(change));
 }
 
+void MaterialDeck::carry(std::int32_t id, Message remark)
+{
+    std::vector<Message> all = unitChange(id);
+    const Outcome outcome = all.empty() ? Outcome::Carried : Outcome::Converted;
+    all.push_back(std::move(remark));
+    decide(id, outcome, std::move(all));
+}
+
 void MaterialDeck::convert(std::int32_t id, Message how)
 {
     std::vector<Message> all = unitChange(id);

@@ -48,6 +48,8 @@ public:
     /// Reports a quantity as carried, or as converted if its unit differs from the unit of the catalogue. Does nothing if the
     /// material does not have the quantity.
     void carry(std::int32_t id);
+    /// Does the same, and adds a remark for the user.
+    void carry(std::int32_t id, vxUnits::Message remark);
     /// Reports a quantity as written in another form.
     void convert(std::int32_t id, vxUnits::Message how);
     void approximate(std::int32_t id, vxUnits::Message how);

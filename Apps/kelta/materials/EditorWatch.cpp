@@ -62,6 +62,8 @@ public:
         m_objectRemoved = project.objectRemoved.connect(
             [this, &project](const Obj::ProjectObject& removed) { keepEdits(project, removed); },
             boost::signals2::at_front);
+        // The doubt about a value depends on those of other rows.
+        connect(m_table.model(), &QAbstractItemModel::dataChanged, m_table.viewport(), qOverload<>(&QWidget::update));
         connect(&editor, &Gui::MDIWindow::applying, this, &EditorRecorder::begin);
         connect(&editor, &Gui::MDIWindow::applied, this, &EditorRecorder::record);
     }

@@ -7,9 +7,12 @@
 #include "vxMaterial/model/PropertyId.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
@@ -44,6 +47,20 @@ void markAsUnreadable(QStyleOptionViewItem& option)
     option.font.setUnderline(true);
     option.palette.setColor(QPalette::Text, QColor(0xb3, 0x26, 0x1e));
     option.palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xd6, 0xd2));
+}
+
+/// Paints a warning sign after the text of a cell, or at its end if the text is long.
+void paintSign(QPainter& painter, const QStyleOptionViewItem& option, const QString& text)
+{
+    constexpr int margin = 2;
+    constexpr int mostMeasured = 200; // characters; a list may be long
+    constexpr int distance = 10;      // from the begin of the cell and from the text, together
+    const int size = std::min(option.rect.height() - 2 * margin, option.fontMetrics.height());
+    const int after = option.rect.left() + option.fontMetrics.horizontalAdvance(text.left(mostMeasured)) + distance;
+    const QRect place(std::min(after, option.rect.right() - size - margin), option.rect.center().y() - size / 2, size,
+                      size);
+    const QStyle* const style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+    style->standardIcon(QStyle::SP_MessageBoxWarning, &option, option.widget).paint(&painter, place);
 }
 
 } // namespace
@@ -101,15 +118,20 @@ bool ValueCellDelegate::isUnreadable(const QModelIndex& index) const
 void ValueCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     QStyleOptionViewItem marked(option);
+    const bool isDoubtful = !isUnreadable(index) && !m_doubts.about(index).isEmpty();
     if (isUnreadable(index))
         markAsUnreadable(marked);
     SheetTableDelegate::paint(painter, marked, index);
+    if (isDoubtful)
+        paintSign(*painter, option, index.data().toString());
 }
 
 bool ValueCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                                   const QModelIndex& index)
 {
-    const QString fault = event->type() == QEvent::ToolTip ? findFault(index) : QString();
+    QString fault = event->type() == QEvent::ToolTip ? findFault(index) : QString();
+    if (event->type() == QEvent::ToolTip && fault.isEmpty())
+        fault = m_doubts.about(index);
     if (fault.isEmpty())
         return SheetTableDelegate::helpEvent(event, view, option, index);
     // A tool tip shows a text with markup otherwise.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RowDoubts.h"
+
 #include "vxMaterial/gui/SheetTableDelegate.h"
 
 #include <QString>
@@ -27,9 +29,9 @@ public:
     QString textToStore(const QLineEdit& editor, const QModelIndex& index) const override;
     QString findFault(const QModelIndex& index) const override;
 
-    /// Marks values that cannot be read.
+    /// Marks values that cannot be read, and gives doubtful ones a warning sign.
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Shows the fault of a value as its tool tip.
+    /// Shows the fault of a value, or the doubt about it, as its tool tip.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
@@ -44,6 +46,7 @@ private:
     bool isUnreadable(const QModelIndex& index) const;
 
     mutable std::map<int, Painted> m_painted; ///< by the id of the quantity
+    mutable RowDoubts m_doubts;
 };
 
 } // namespace desktop

@@ -315,6 +315,37 @@ TEST_F(ValueCells, MarkAValueThatCannotBeReadAndExplainIt)
     QToolTip::hideText();
 }
 
+TEST_F(ValueCells, HaveASignAndExplainItIfTheirValueIsDoubtful)
+{
+    const auto picture = [&] {
+        table.clearSelection();
+        return table.viewport()->grab(table.visualRect(cell(editor, modulus))).toImage();
+    };
+    const auto toolTip = [&] {
+        const QPoint place = table.visualRect(cell(editor, modulus)).center();
+        QToolTip::hideText();
+        QHelpEvent help(QEvent::ToolTip, place, table.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(table.viewport(), &help);
+        return QToolTip::text().toStdString();
+    };
+    const auto yellow = [](const QImage& image) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                count += colour.red() > 180 && colour.green() > 140 && colour.blue() < 100 ? 1 : 0;
+            }
+        return count;
+    };
+    EXPECT_EQ(yellow(picture()), 0);
+    EXPECT_THAT(toolTip(), Not(HasSubstr("wave speed")));
+    type(editor, modulus, "206900");
+    EXPECT_GT(yellow(picture()), 10);
+    EXPECT_THAT(toolTip(), HasSubstr("gives a wave speed of"));
+    type(editor, modulus, "2e11");
+    EXPECT_EQ(yellow(picture()), 0);
+}
+
 TEST_F(ValueCells, AreMarkedUntilTheirTextCanBeRead)
 {
     MatGui::MaterialView& plastic = editorOf(eMaterialType::PlasticMaterial1);

@@ -44,24 +44,28 @@ QString percent(double part)
     return QString::number(part * hundred, 'g', 3) + QStringLiteral(" %");
 }
 
-/// A model that is stable in every test has one range, which is that of the search.
+bool isStable(const vxConstitutive::StableRange& stable)
+{
+    return !stable.unstableBelow && !stable.unstableAbove;
+}
+
+/// Returns the stable range in each test in which the model is unstable somewhere, then that of the other tests, which is the
+/// range of the search.
 QString stableText(const FitResult& result)
 {
-    const auto isStable = [](const vxConstitutive::StableRange& stable) {
-        return !stable.unstableBelow && !stable.unstableAbove;
-    };
-    if (!result.stable.empty() && std::all_of(result.stable.begin(), result.stable.end(), isStable))
-        return tr("%1 to %2 in all tests")
-            .arg(vxPlot::numberText(result.stable.front().range.from, 4),
-                 vxPlot::numberText(result.stable.front().range.to, 4));
+    constexpr int shownDigits = 3;
+    const auto number = [](double stretch) { return vxPlot::numberText(stretch, shownDigits); };
     QStringList parts;
     for (const vxConstitutive::StableRange& stable : result.stable) {
-        const QString from =
-            (stable.unstableBelow ? QString() : QStringLiteral("≤ ")) + vxPlot::numberText(stable.range.from, 4);
-        const QString to =
-            (stable.unstableAbove ? QString() : QStringLiteral("≥ ")) + vxPlot::numberText(stable.range.to, 4);
-        parts << tr("%1 %2 to %3").arg(modeText(stable.mode), from, to);
+        const QString from = (stable.unstableBelow ? QString() : QStringLiteral("≤ ")) + number(stable.range.from);
+        const QString to = (stable.unstableAbove ? QString() : QStringLiteral("≥ ")) + number(stable.range.to);
+        if (!isStable(stable))
+            parts << tr("%1 %2 to %3").arg(modeText(stable.mode), from, to);
     }
+    const auto stable = std::find_if(result.stable.begin(), result.stable.end(), isStable);
+    if (stable != result.stable.end())
+        parts << (parts.isEmpty() ? tr("%1 to %2 in all tests") : tr("otherwise %1 to %2"))
+                     .arg(number(stable->range.from), number(stable->range.to));
     return parts.join(QStringLiteral("; "));
 }
 
@@ -188,15 +192,23 @@ TableContent testTable(const std::vector<LoadedTest>& tests)
 
 TableContent modelTable(const std::vector<FitResult>& results)
 {
-    TableContent table{{}, {tr("Model"), tr("Residual"), tr("R²"), tr("Without stability"), tr("Stable")}, {}};
+    const bool hasPrice = std::any_of(results.begin(), results.end(), [](const FitResult& result) {
+        return result.residualWithoutStability.has_value();
+    });
+    TableContent table{{}, {tr("Model"), tr("Residual"), tr("R²")}, {}};
+    if (hasPrice)
+        table.headers << tr("Without stability");
+    table.headers << tr("Stable");
     for (const FitResult& result : results) {
         const bool isDone = result.status != FitStatus::Failed;
-        table.rows.push_back(
-            {{textCell(modelName(result)),
-              {statusText(result)},
-              {isDone ? vxPlot::numberText(result.rSquared, digits) : QString()},
-              {result.residualWithoutStability ? percent(*result.residualWithoutStability) : QString()},
-              textCell(stableText(result))}});
+        Row row{{textCell(modelName(result)),
+                 {statusText(result)},
+                 {isDone ? vxPlot::numberText(result.rSquared, digits) : QString()}}};
+        if (hasPrice)
+            row.cells.push_back(
+                {result.residualWithoutStability ? percent(*result.residualWithoutStability) : QString()});
+        row.cells.push_back(textCell(stableText(result)));
+        table.rows.push_back(std::move(row));
     }
     if (results.empty())
         table.headers.clear();

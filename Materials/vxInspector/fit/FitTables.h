@@ -13,7 +13,8 @@ namespace vxInspector {
 /// Returns the loaded tests: name, kind, points, weight.
 TableContent testTable(const std::vector<LoadedTest>& tests);
 
-/// Returns the models side by side, in the order of the results: residual, R², stable range, the price of stability.
+/// Returns the models side by side, in the order of the results: residual, R², the residual without
+/// stability if it has a price for a model, stable ranges.
 TableContent modelTable(const std::vector<vxConstitutive::FitResult>& results);
 
 /// Returns the constants of a model with units and standard errors, then how well each test is met, then the findings.

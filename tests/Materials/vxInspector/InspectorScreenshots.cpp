@@ -23,6 +23,8 @@
 #include <QHash>
 #include <QImage>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QTabWidget>
 
@@ -124,6 +126,9 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     shooting.take("inspector-fit-empty");
     fitRubber(shooting, *tabs.findChild<vxInspector::FitPage*>());
     shooting.take("inspector-fit");
+    QScrollBar& bar = *tabs.findChild<vxInspector::FitPage*>()->findChild<QScrollArea*>()->verticalScrollBar();
+    bar.setValue(bar.maximum());
+    shooting.take("inspector-fit-apply");
     takeInspector(shooting, "fit-tab", {560, 1240});
     tabs.setCurrentIndex(4);
     takeInspector(shooting, "curves-tab", {480, 640});

@@ -56,9 +56,9 @@ int NarrowTabBar::leastWidth() const
 /// Returns the width of the elided titles: short titles remain whole.
 int NarrowTabBar::mostWidth() const
 {
-    std::vector<int> widths;
+    std::vector<int> widths(static_cast<std::size_t>(count()));
     for (int tab = 0; tab < count(); ++tab)
-        widths.push_back(tabSizeHint(tab).width());
+        widths[static_cast<std::size_t>(tab)] = tabSizeHint(tab).width();
     std::sort(widths.begin(), widths.end());
     int room = parentWidget() != nullptr ? parentWidget()->width() : width();
     int most = room;

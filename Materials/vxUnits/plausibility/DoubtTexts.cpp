@@ -127,7 +127,7 @@ std::string rounded(double number, const std::string& unit)
 std::string asTyped(double number)
 {
     constexpr std::size_t mostTyped = 10;
-    const std::string text = vxMat::formatNumber(number);
+    std::string text = vxMat::formatNumber(number);
     const std::string mantissa = text.substr(0, text.find('e'));
     const std::size_t first = mantissa.find_first_of("123456789");
     if (first == std::string::npos)

@@ -354,6 +354,11 @@ void CommandLine::addCurve()
     addCurveModel(command);
     addUnits(command);
     command
+        ->add_option("--measured", m_curve.measured,
+                     "A file of a measured test, whose points a picture shows; may be repeated")
+        ->type_name("[MODE=]FILE")
+        ->allow_extra_args(false);
+    command
         ->add_option("-o,--output", m_curve.output,
                      "The file to write, a table or a picture; - is standard output, the default")
         ->type_name("FILE.csv|.svg|.png|.pdf");

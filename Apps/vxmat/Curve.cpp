@@ -3,9 +3,12 @@
 #include "CurvePicture.h"
 #include "CurveSeries.h"
 #include "CurveTable.h"
+#include "TestFiles.h"
 
 #include "vxMaterial/model/NumberText.h"
+#include "vxPlot/CurvePlot.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -34,9 +37,13 @@ bool isTableName(const std::string& path)
 }
 
 /// Checks that the name of the output agrees with what is written to it.
-void requireKnownSuffix(const std::string& path, Form form)
+void requireKnownSuffix(const CurveArguments& arguments, Form form)
 {
+    const std::string& path = arguments.output;
     const bool isPicture = pictureFormatOf(path).has_value();
+    if (!isPicture && !arguments.measured.empty())
+        throw Failure(
+            "--measured: only a picture shows measured points; give -o a name that ends in .svg, .png or .pdf");
     if (isPicture && form == Form::Json)
         throw Failure(path + ": --json writes no picture; give another name, or leave out --json");
     if (!isPicture && form == Form::Text && !isTableName(path))
@@ -60,35 +67,94 @@ void write(const std::vector<CurveSeries>& series, const vxConstitutive::CurveRe
         writeCsv(series, system, sink);
 }
 
+/// Adds a note if a comma was probably a decimal sign.
+void noteRepeated(const CurveArguments& arguments, const vxConstitutive::CurveRequest& request, Answer& answer)
+{
+    const std::vector<double>& abscissas = request.abscissas;
+    if (arguments.at && std::adjacent_find(abscissas.begin(), abscissas.end()) != abscissas.end())
+        answer.messages.emplace_back(
+            "note: --at has a number twice in a row; commas separate numbers, the decimal sign is a point");
+}
+
+/// Reads the measured tests of a picture. Sets the status Error if a file does not say what is needed.
+/// \throws Failure for a test that has other axes than the curves
+std::vector<MeasuredTest> readMeasured(const CurveArguments& arguments, vxConstitutive::Mode mode,
+                                       const vxUnits::UnitSystem& system, Answer& answer)
+{
+    TestArguments wanted;
+    wanted.files = arguments.measured;
+    wanted.mode = arguments.mode;
+    std::vector<MeasuredTest> tests = readTests(wanted, system, answer);
+    if (answer.status == Status::Error)
+        answer.messages.emplace_back("--measured needs columns and units in the header of the file, as in "
+                                     "\"stretch [1],nominal stress [MPa]\"");
+    for (const MeasuredTest& test : tests) {
+        if (!vxPlot::fitTogether(mode, test.data.mode))
+            throw Failure("--measured: " + test.file + ": this test has other axes than the mode " +
+                          vxConstitutive::modeRecord(mode).key);
+    }
+    return tests;
+}
+
+void requireOtherFiles(const CurveArguments& arguments)
+{
+    for (const auto* const files : {&arguments.sources, &arguments.measured}) {
+        for (const std::string& file : *files) {
+            if (isFile(file))
+                requireAnotherFile(file, arguments.output);
+        }
+    }
+}
+
+/// What a run draws.
+struct Drawn
+{
+    std::vector<CurveSeries> series;
+    std::vector<MeasuredTest> tests;
+};
+
+std::string contentOf(const CurveArguments& arguments, const Drawn& drawn, const vxConstitutive::CurveRequest& request,
+                      const vxUnits::UnitSystem& system, Form form)
+{
+    const AbscissaScale scale = arguments.logarithmic ? AbscissaScale::Logarithmic : AbscissaScale::Linear;
+    if (const auto format = pictureFormatOf(arguments.output))
+        return makePicture(drawn.series, drawn.tests, request.mode, system, scale, *format);
+    std::string content;
+    write(drawn.series, request, system, form, [&content](const std::string& part) { content += part; });
+    return content;
+}
+
+/// Adds to `answer` what is doubtful, and sets its status if there is nothing to write.
+Drawn draw(const CurveArguments& arguments, const vxConstitutive::CurveRequest& request,
+           const vxUnits::UnitSystem& system, Answer& answer)
+{
+    Drawn drawn;
+    noteRepeated(arguments, request, answer);
+    drawn.tests = readMeasured(arguments, request.mode, system, answer);
+    if (answer.status == Status::Error)
+        return drawn;
+    drawn.series = drawSeries(choiceOf(arguments), request, system, answer);
+    if (drawn.series.empty())
+        answer.status = Status::Findings;
+    return drawn;
+}
+
 } // namespace
 
 Answer printCurves(const CurveArguments& arguments, Form form, const ChosenUnits& units, Existing existing)
 {
-    requireKnownSuffix(arguments.output, form);
+    requireKnownSuffix(arguments, form);
     const vxConstitutive::CurveRequest request = readCurveRequest(arguments, units.system());
     requireModestSize(arguments, request);
-    for (const std::string& source : arguments.sources) {
-        if (isFile(source))
-            requireAnotherFile(source, arguments.output);
-    }
+    requireOtherFiles(arguments);
     Answer answer;
-    const std::vector<CurveSeries> series = drawSeries(choiceOf(arguments), request, units.system(), answer);
-    if (series.empty()) {
-        answer.status = Status::Findings;
+    const Drawn drawn = draw(arguments, request, units.system(), answer);
+    if (drawn.series.empty())
         return answer;
-    }
-    if (arguments.output == standardStream) {
-        write(series, request, units.system(), form, writeStandardOutput);
-        return answer;
-    }
-    std::string content;
-    if (const auto format = pictureFormatOf(arguments.output)) {
-        const AbscissaScale scale = arguments.logarithmic ? AbscissaScale::Logarithmic : AbscissaScale::Linear;
-        content = makePicture(series, request.mode, units.system(), scale, *format);
-    } else {
-        write(series, request, units.system(), form, [&content](const std::string& part) { content += part; });
-    }
-    writeProjectFile(arguments.output, content, existing);
+    if (arguments.output == standardStream)
+        write(drawn.series, request, units.system(), form, writeStandardOutput);
+    else
+        writeProjectFile(arguments.output, contentOf(arguments, drawn, request, units.system(), form), existing);
     return answer;
 }
 

@@ -6,6 +6,7 @@
 
 #include "vxMaterial/model/NumberText.h"
 
+#include <cctype>
 #include <string_view>
 #include <utility>
 
@@ -34,9 +35,29 @@ std::string unitOf(Quantity quantity)
     return vxConstitutive::quantityRecord(quantity).unit;
 }
 
+bool isDigitAt(const std::string& text, std::size_t place)
+{
+    return place < text.size() && std::isdigit(static_cast<unsigned char>(text[place])) != 0;
+}
+
+/// Refuses a list in which some commas are directly between digits and other separators are not: "1,5, 2".
+void refuseDecimalCommas(const std::string& option, const std::string& text)
+{
+    std::size_t between = 0;
+    std::size_t others = 0;
+    for (std::size_t at = text.find_first_of(",;"); at != std::string::npos; at = text.find_first_of(",;", at + 1)) {
+        const bool isBetween = text[at] == ',' && at > 0 && isDigitAt(text, at - 1) && isDigitAt(text, at + 1);
+        ++(isBetween ? between : others);
+    }
+    if (between > 0 && others > 0)
+        throw Failure(option + ": \"" + text +
+                      "\" may have decimal commas; the decimal sign is a point: write \"1.5, 2\" or \"1, 5, 2\"");
+}
+
 std::vector<double> readAmounts(const std::string& option, const std::string& text, const std::string& unit,
                                 const UnitSystem& system)
 {
+    refuseDecimalCommas(option, text);
     std::vector<double> numbers;
     std::string_view rest = text;
     while (true) {

@@ -28,6 +28,7 @@ struct CurveArguments
     std::optional<std::string> stresses; ///< of creep curves, separated by commas or semicolons
     std::optional<std::string> time;     ///< of creep rates
     std::optional<std::string> cohesion; ///< of yield surfaces
+    std::vector<std::string> measured;   ///< files of measured tests whose points a picture shows
     std::string output = "-";            ///< the file to write; "-" for standard output
 };
 

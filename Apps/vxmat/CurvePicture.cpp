@@ -49,18 +49,23 @@ private:
     QtMessageHandler m_before;
 };
 
-vxPlot::PlotData plotOf(const std::vector<CurveSeries>& series, vxConstitutive::Mode mode,
-                        const vxUnits::UnitSystem& system, AbscissaScale scale)
+vxPlot::PlotData plotOf(const std::vector<CurveSeries>& series, const std::vector<MeasuredTest>& tests,
+                        vxConstitutive::Mode mode, const vxUnits::UnitSystem& system, AbscissaScale scale)
 {
     vxPlot::CurvePlotRequest request;
-    request.title = series.size() == 1 ? series.front().title + ", " : std::string();
-    request.title += vxConstitutive::modeRecord(mode).name;
+    request.title = vxConstitutive::modeRecord(mode).name;
     for (const CurveSeries& one : series)
         request.curves.push_back({one.title, &one.curve});
+    for (const MeasuredTest& test : tests)
+        request.tests.push_back({test.data.name, &test.data});
     request.system = system;
     if (scale == AbscissaScale::Logarithmic)
         request.horizontal = vxPlot::Scale::Logarithmic;
-    return curvePlot(request);
+    vxPlot::PlotData plot = curvePlot(request);
+    // The legend names a material by its curve, but not if the material has several.
+    if (series.size() == 1 && plot.series.size() - tests.size() > 1)
+        plot.title = series.front().title + ", " + plot.title;
+    return plot;
 }
 
 } // namespace
@@ -76,11 +81,12 @@ std::optional<std::string> pictureFormatOf(const std::string& path)
     return std::nullopt;
 }
 
-std::string makePicture(const std::vector<CurveSeries>& series, vxConstitutive::Mode mode,
-                        const vxUnits::UnitSystem& system, AbscissaScale scale, const std::string& format)
+std::string makePicture(const std::vector<CurveSeries>& series, const std::vector<MeasuredTest>& tests,
+                        vxConstitutive::Mode mode, const vxUnits::UnitSystem& system, AbscissaScale scale,
+                        const std::string& format)
 {
     vxPlot::WritePicture* const write = loadWriter();
-    const vxPlot::PlotData plot = plotOf(series, mode, system, scale);
+    const vxPlot::PlotData plot = plotOf(series, tests, mode, system, scale);
     std::string bytes;
     std::string error;
     const QuietQt quiet;

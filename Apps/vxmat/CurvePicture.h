@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CurveSeries.h"
+#include "TestFiles.h"
 
 #include "vxUnits/UnitSystem.h"
 
@@ -21,9 +22,11 @@ enum class AbscissaScale
     Logarithmic
 };
 
-/// Returns the content of a picture file of curves of one mode. The library that draws is loaded for it.
+/// Returns the content of a picture file of curves of one mode, with the points of measured tests, which must have the axes of
+/// the curves. The library that draws is loaded for it.
 /// \throws Failure if the library cannot be loaded or cannot make the picture
-std::string makePicture(const std::vector<CurveSeries>& series, vxConstitutive::Mode mode,
-                        const vxUnits::UnitSystem& system, AbscissaScale scale, const std::string& format);
+std::string makePicture(const std::vector<CurveSeries>& series, const std::vector<MeasuredTest>& tests,
+                        vxConstitutive::Mode mode, const vxUnits::UnitSystem& system, AbscissaScale scale,
+                        const std::string& format);
 
 } // namespace commandline

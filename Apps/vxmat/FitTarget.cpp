@@ -168,6 +168,9 @@ void addDoubts(const vxConstitutive::MaterialChange& change, const vxMat::Materi
 
 ProjectRecord readProject(const FitTarget& target, const std::string& text)
 {
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    if (start == std::string::npos || text[start] != '{')
+        throw Failure(target.project + ": is not a project file; --into needs one, such as those of \"vxmat new\"");
     try {
         return projectfile::readProject(text);
     } catch (const projectfile::ContentError& error) {

@@ -74,6 +74,7 @@ enum class FindingId
     NormalisedByCohesion,  ///< yield type
     NormalisedByModulus,   ///< no argument
     NoYieldBeyondApex,     ///< pressure
+    NoYieldBeyondMultiple, ///< pressure by the cohesion
 
     // Test data
     NotText,                ///< offset

@@ -251,14 +251,21 @@ private:
                       m_y(drawn.column.values)};
         m_styles.emplace(curve.mode, series.style);
         for (const vxConstitutive::Range& range : curve.unstable)
-            addBand(range, series);
+            addBand(range, drawn, series);
         m_plot.series.push_back(std::move(series));
     }
 
-    void addBand(const vxConstitutive::Range& range, const Series& series)
+    void addBand(const vxConstitutive::Range& range, const Drawn& drawn, const Series& series)
     {
         const Interval shown{m_x.convert(range.from), m_x.convert(range.to)};
-        m_plot.bands.push_back({translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "unstable")), series.style, shown});
+        m_plot.bands.push_back({bandName(drawn), series.style, shown});
+    }
+
+    std::string bandName(const Drawn& drawn) const
+    {
+        if (m_materials.size() < 2)
+            return translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "unstable"));
+        return replaced(translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "%1: unstable")), "%1", drawn.named.name);
     }
 
     /// Points have the colour of the first curve of their mode.

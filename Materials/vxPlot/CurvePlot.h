@@ -51,7 +51,8 @@ struct CurvePlotRequest
     vxUnits::Translator translator = {}; ///< contexts "vxConstitutive::Word" and "vxPlot"
 };
 
-/// Returns the plot of the curves and tests in the chosen units. The unstable ranges of the curves are its bands. Curves
+/// Returns the plot of the curves and tests in the chosen units. The unstable ranges of the curves are its bands, which
+/// have the name of the material if there are several. Curves
 /// and tests of a mode that does not fit to the first are left out. The name of a series is that of the material, of the
 /// mode and of the column, each only if the plot has several. A true stress of a test is computed as that of an
 /// incompressible material.

@@ -13,6 +13,23 @@ namespace {
 
 constexpr std::string_view blanks = " \t";
 
+/// Returns the place of the quotation mark that closes the one at `open`. Two marks inside are one of the text.
+std::size_t findClosingMark(std::string_view text, std::size_t open)
+{
+    std::size_t at = text.find('"', open + 1);
+    while (at != std::string_view::npos && text.substr(at + 1, 1) == "\"")
+        at = text.find('"', at + 2);
+    return at;
+}
+
+std::string withSingleMarks(std::string_view cell)
+{
+    std::string text(cell);
+    for (std::size_t at = text.find("\"\""); at != std::string::npos; at = text.find("\"\"", at + 1))
+        text.erase(at, 1);
+    return text;
+}
+
 /// Removes the next cell from `rest` and returns it. Separators in quotation marks do not end a cell.
 std::string_view takeCell(std::string_view& rest, char separator)
 {
@@ -20,8 +37,7 @@ std::string_view takeCell(std::string_view& rest, char separator)
     const std::string_view start = trimmed(rest);
     const bool quoted = !start.empty() && start.front() == '"';
     if (quoted) {
-        const std::size_t open = rest.find('"');
-        const std::size_t close = rest.find('"', open + 1);
+        const std::size_t close = findClosingMark(rest, rest.find('"'));
         if (close != std::string_view::npos)
             from = close;
     }
@@ -217,8 +233,9 @@ bool isUnit(std::string_view text, const UnitFactor& units)
            std::any_of(all.begin(), all.end(), [&](Dimension dimension) { return units(text, dimension).has_value(); });
 }
 
-HeaderCell readHeaderCell(std::string_view cell, const UnitFactor& units)
+HeaderCell readHeaderCell(std::string_view marked, const UnitFactor& units)
 {
+    const std::string cell = withSingleMarks(marked);
     if (const auto square = readBrackets(cell, '[', ']'))
         return *square;
     const auto round = readBrackets(cell, '(', ')');
@@ -232,7 +249,7 @@ HeaderCell readHeaderCell(std::string_view cell, const UnitFactor& units)
         if (const auto parts = readAround(cell, at, length, units))
             return *parts;
     }
-    return {std::string(cell), {}};
+    return {cell, {}};
 }
 
 } // namespace vxConstitutive

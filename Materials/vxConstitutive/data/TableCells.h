@@ -50,7 +50,7 @@ struct HeaderCell
 /// Returns whether a text is a unit of one of the dimensions. "1" and "-" are units of numbers.
 bool isUnit(std::string_view text, const UnitFactor& units);
 
-/// Returns the name and unit in "Stress [MPa]", "stress/MPa" and similar texts.
-HeaderCell readHeaderCell(std::string_view cell, const UnitFactor& units);
+/// Returns the name and unit in "Stress [MPa]", "stress/MPa" and similar texts. Two quotation marks are one, as in quoted cells.
+HeaderCell readHeaderCell(std::string_view marked, const UnitFactor& units);
 
 } // namespace vxConstitutive

@@ -106,7 +106,8 @@ Curve FrictionModel::curve(const CurveRequest& request) const
                 {pressure, stress(meridians.compression), stress(meridians.extension), stress(meridians.planeStrain)});
     }
     if (std::isfinite(builder.largestGap()))
-        builder.note(makeFinding(FindingId::NoYieldBeyondApex, {apex}));
+        builder.note(
+            makeFinding(request.cohesion ? FindingId::NoYieldBeyondApex : FindingId::NoYieldBeyondMultiple, {apex}));
     return builder.take();
 }
 

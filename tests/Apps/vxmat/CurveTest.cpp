@@ -130,6 +130,21 @@ TEST_F(CurveOfProject, HasRoundAbscissasBetweenRoundBounds)
     EXPECT_THAT(lines[4], StartsWith("2,"));
 }
 
+TEST_F(CurveOfProject, RefusesCommasThatMayBeDecimalOnes)
+{
+    makeNeoHookean();
+    for (const char* const list : {"1,1 , 2", "1,5; 2", "1, 2,5"}) {
+        const Outcome run = vxmat({"curve", file(), "--mode", "uniaxial", "--at", list});
+        EXPECT_EQ(run.status, 2);
+        EXPECT_THAT(run.err, HasSubstr("--at: \"" + std::string(list) + "\" may have decimal commas"));
+    }
+    const Outcome twice = vxmat({"curve", file(), "--mode", "uniaxial", "--at", "1,1"});
+    EXPECT_EQ(twice.status, 0);
+    EXPECT_THAT(twice.err, HasSubstr("note: --at has a number twice in a row"));
+    EXPECT_EQ(vxmat({"curve", file(), "--mode", "uniaxial", "--at", "1, 2,3 ,4"}).status, 2);
+    EXPECT_EQ(vxmat({"curve", file(), "--mode", "uniaxial", "--at", "1,2,3"}).err, "");
+}
+
 TEST_F(CurveOfProject, LeavesTheCellEmptyWhereThereIsNoValueAndSaysSo)
 {
     makeNeoHookean();
@@ -431,6 +446,31 @@ TEST(Curve, IsAPictureIfTheNameOfTheFileSaysSo)
         vxmat({"curve", mooney, "--mode", "uniaxial", "--at", "1,2", "--json", "-o", folder.path("d.svg")});
     EXPECT_EQ(json.status, 2);
     EXPECT_THAT(json.err, HasSubstr("--json writes no picture"));
+}
+
+TEST(Curve, OfAPictureHasMeasuredPointsBesideIt)
+{
+    const Folder folder;
+    const std::string data = folder.file("pull.csv", "stretch [1],nominal stress [MPa]\n1.2,0.1\n1.5,0.3\n");
+    const std::string picture = folder.path("c.svg");
+    const auto run = [&](const std::string& measured) {
+        return vxmat({"curve", mooney, "--mode", "uniaxial", "--from", "1", "--to", "2", "--measured", measured, "-o",
+                      picture, "--force"});
+    };
+    EXPECT_EQ(run(data).status, 0);
+    const std::string drawn = vxtest::readText(picture);
+    EXPECT_THAT(drawn, HasSubstr("pull.csv"));
+    EXPECT_EQ(drawn.find(mooney), drawn.rfind(mooney)); // in the legend, and not in the title too
+    EXPECT_EQ(run("equibiaxial=" + data).status, 0);
+    EXPECT_THAT(run("relaxation=" + data).err, HasSubstr("pull.csv"));
+    EXPECT_EQ(run("relaxation=" + data).status, 2);
+
+    const Outcome unclear = run(folder.file("b.csv", "stretch,stress\n1.2,0.1\n1.5,0.3\n"));
+    EXPECT_EQ(unclear.status, 2);
+    EXPECT_THAT(unclear.err, HasSubstr("--measured needs columns and units in the header"));
+    const Outcome table = vxmat({"curve", mooney, "--mode", "uniaxial", "--at", "1, 2", "--measured", data});
+    EXPECT_EQ(table.status, 2);
+    EXPECT_THAT(table.err, HasSubstr("--measured: only a picture shows measured points"));
 }
 
 TEST(Curve, NeedsNoLibraryOfWindowsForTables)

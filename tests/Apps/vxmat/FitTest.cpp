@@ -501,7 +501,7 @@ TEST_F(Fit, RefusesAWrongCommandLine)
         {{uniaxial, "--model", "all", "--x-measure", "time"}, "--x-measure: \"time\" is not measured in this test"},
         {{uniaxial, "--model", "all", "--into", "x.vxmat"}, "--into and --as belong together"},
         {{uniaxial, "--model", "all", "--into", "/no/x.vxmat", "--as", "a"}, "/no/x.vxmat: No such file or directory"},
-        {{uniaxial, "--model", "all", "--into", data, "--as", "a"}, data + ": "},
+        {{uniaxial, "--model", "all", "--into", data, "--as", "a"}, data + ": is not a project file"},
         {{"uniaxial=/tmp", "--model", "all"}, "/tmp: Is a directory"},
         {{"uniaxial=/dev/null", "--model", "all"}, "/dev/null: this is a device or a pipe"},
         {{"uniaxial=/no/a.csv", "--model", "all"}, "/no/a.csv: No such file or directory"},

@@ -306,7 +306,7 @@ TEST(CurvesContent, PutsTheArgumentsIntoTheTextsOfFindings)
     using namespace vxConstitutive;
     const QString text = vxInspector::translated(
         makeFinding(FindingId::ConstantNotPositive, {std::string("Neo-Hookean"), std::string("%2"), -1.0}));
-    EXPECT_EQ(text, "Neo-Hookean: the constant %2 is -1. It must be greater than 0.");
+    EXPECT_EQ(text, "Neo-Hookean: the constant %2 is -1 in SI units. It must be greater than 0.");
 }
 
 InspectedMaterial creeping()

@@ -143,6 +143,11 @@ TEST(CurvePlot, ShadesWhereACurveIsUnstable)
     plot = curvePlot(request);
     ASSERT_EQ(plot.bands.size(), 1U);
     EXPECT_EQ(plot.bands[0].name, "unstable");
+    request.curves.push_back({"Mount", &curve});
+    plot = curvePlot(request);
+    ASSERT_EQ(plot.bands.size(), 2U);
+    EXPECT_EQ(plot.bands[0].name, "Seal: unstable");
+    EXPECT_EQ(plot.bands[1].name, "Mount: unstable");
 }
 
 TEST(CurvePlot, TellsTheStressesOfCreepCurvesInTheChosenUnits)

@@ -124,6 +124,16 @@ TEST(TableHeader, NamesAndUnitsAreSeparated)
     }
 }
 
+TEST(TableHeader, TwoMarksInAQuotedNameAreOne)
+{
+    const TestTable table = readTestTable(
+        "strain,\"stress, \"\"eng\"\", 1 [MPa]\",\"\"\"note\"\"\"\n0.1,2,3\n0.2,4,5\n", vxConstitutive::unitFactor);
+    ASSERT_EQ(table.columns.size(), 3U);
+    EXPECT_EQ(table.columns[1].name, "stress, \"eng\", 1");
+    EXPECT_EQ(table.columns[1].unit, "MPa");
+    EXPECT_EQ(table.columns[2].name, "\"note\"");
+}
+
 TEST(TableHeader, UnitsMayBeBelowTheNames)
 {
     const TestTable brackets = read("Strain;Stress\n[%];[MPa]\n1;2\n");

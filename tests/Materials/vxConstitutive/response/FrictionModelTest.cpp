@@ -95,7 +95,10 @@ TEST(FrictionSurface, EndsAtItsApex)
     const Curve curve = yieldOf(ModelKind::MohrCoulomb, 30.0, {apex - 0.1, apex + 1e-9}, 2.0);
     EXPECT_TRUE(std::isnan(curve.columns[1].values[0]));
     EXPECT_NEAR(curve.columns[1].values[1], 0.0, 1e-8);
-    EXPECT_TRUE(has(curve.findings, FindingId::NoYieldBeyondApex));
+    EXPECT_EQ(vxtest::firstArgument(curve.findings, FindingId::NoYieldBeyondApex), "-3.4641"); // Pa
+    const Curve relative = yieldOf(ModelKind::MohrCoulomb, 30.0, {-2.0, 1.0}, std::nullopt);
+    EXPECT_EQ(vxtest::firstArgument(relative.findings, FindingId::NoYieldBeyondMultiple), "-1.73205");
+    EXPECT_FALSE(has(relative.findings, FindingId::NoYieldBeyondApex));
     EXPECT_FALSE(has(curve.findings, FindingId::ResultNotFinite));
 }
 

@@ -3158,10 +3158,6 @@ Trotzdem löschen?</translation>
         <translation>%1: Die Konstante %2 ist %3. Sie muss eine endliche Zahl sein.</translation>
     </message>
     <message>
-        <source>%1: the constant %2 is %3. It must be greater than 0.</source>
-        <translation>%1: Die Konstante %2 ist %3. Sie muss größer als 0 sein.</translation>
-    </message>
-    <message>
         <source>Poisson&apos;s ratio is %1. It must be greater than -1 and less than 0.5.</source>
         <translation>Die Querkontraktionszahl ist %1. Sie muss größer als -1 und kleiner als 0.5 sein.</translation>
     </message>
@@ -3320,10 +3316,6 @@ Trotzdem löschen?</translation>
     <message>
         <source>The instantaneous shear modulus is not known. The curve is a multiple of it.</source>
         <translation>Der Sofort-Schubmodul ist nicht bekannt. Die Kurve ist ein Vielfaches davon.</translation>
-    </message>
-    <message>
-        <source>There is no yield surface below the pressure %1, which is its apex.</source>
-        <translation>Unter dem Druck %1, der Spitze der Fließfläche, gibt es keine Fließfläche.</translation>
     </message>
     <message>
         <source>The data are not text: byte %1 is a character that text does not have. Export the data as CSV.</source>
@@ -3548,6 +3540,18 @@ Trotzdem löschen?</translation>
     <message>
         <source>The fit is incompressible, but the D1 of the material contradicts it: the bulk modulus would be only %1 times the shear modulus (Poisson&apos;s ratio %2). For rubber it is some hundred times.</source>
         <translation>Die Anpassung ist inkompressibel, aber das D1 des Materials widerspricht ihr: Der Kompressionsmodul wäre nur das %1-Fache des Schubmoduls (Querkontraktionszahl %2). Bei Gummi ist er einige hundert Mal so groß.</translation>
+    </message>
+    <message>
+        <source>%1: the constant %2 is %3 in SI units. It must be greater than 0.</source>
+        <translation>%1: Die Konstante %2 ist %3 in SI-Einheiten. Sie muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>There is no yield surface below the pressure %1 Pa, which is its apex.</source>
+        <translation>Unterhalb des Drucks %1 Pa, der ihre Spitze ist, gibt es keine Fließfläche.</translation>
+    </message>
+    <message>
+        <source>There is no yield surface below the pressure of %1 times the cohesion, which is its apex.</source>
+        <translation>Unterhalb eines Drucks vom %1-Fachen der Kohäsion, der ihre Spitze ist, gibt es keine Fließfläche.</translation>
     </message>
 </context>
 <context>
@@ -4070,6 +4074,10 @@ Trotzdem löschen?</translation>
         <source>Materials without a model: %1.</source>
         <translation>Materialien ohne Modell: %1.</translation>
     </message>
+    <message>
+        <source>The constant %1 cannot be read: &quot;%2&quot;. %3</source>
+        <translation>Die Konstante „%1“ kann nicht gelesen werden: „%2“. %3</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::CurvesPage</name>
@@ -4148,6 +4156,38 @@ Trotzdem löschen?</translation>
     <message>
         <source>This number cannot be read.</source>
         <translation>Diese Zahl kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Draw chains by the inverse Langevin function</source>
+        <translation>Ketten mit der inversen Langevin-Funktion zeichnen</translation>
+    </message>
+    <message>
+        <source>not known: multiples of it</source>
+        <translation>unbekannt: Vielfache davon</translation>
+    </message>
+    <message>
+        <source>&amp;Stresses:</source>
+        <translation>&amp;Spannungen:</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>&amp;Zeit:</translation>
+    </message>
+    <message>
+        <source>Co&amp;hesion:</source>
+        <translation>&amp;Kohäsion:</translation>
+    </message>
+    <message>
+        <source>The stresses of the creep curves, separated by semicolons, with a unit if you like</source>
+        <translation>Die Spannungen der Kriechkurven, durch Strichpunkte getrennt, auf Wunsch mit Einheit</translation>
+    </message>
+    <message>
+        <source>The time after loading at which the creep rates are drawn</source>
+        <translation>Die Zeit nach der Belastung, für die die Kriechraten gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>The cohesion of the yield surface, which the material does not have</source>
+        <translation>Die Kohäsion der Fließfläche, die das Material nicht hat</translation>
     </message>
 </context>
 <context>
@@ -4271,6 +4311,113 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxInspector::FitOptions</name>
+    <message>
+        <source>&amp;Keep rubber stable</source>
+        <translation>Gummi stabil &amp;halten</translation>
+    </message>
+    <message>
+        <source>Without this, a fit may be unstable in tests that were not made.</source>
+        <translation>Ohne dies kann eine Anpassung in nicht gemachten Versuchen instabil sein.</translation>
+    </message>
+    <message>
+        <source>at stretc&amp;hes:</source>
+        <translation>bei Streck&amp;ungen:</translation>
+    </message>
+    <message>
+        <source>those of the tests</source>
+        <translation>die der Versuche</translation>
+    </message>
+    <message>
+        <source>The first and the last stretch, such as 0.5:3</source>
+        <translation>Die erste und die letzte Streckung, zum Beispiel 0.5:3</translation>
+    </message>
+    <message>
+        <source>Diff&amp;erences:</source>
+        <translation>Abwe&amp;ichungen:</translation>
+    </message>
+    <message>
+        <source>What is made small: the differences between tests and model, divided by the largest value of their test, by each value, or not divided</source>
+        <translation>Was klein gemacht wird: die Abweichungen zwischen Versuchen und Modell, geteilt durch den größten Wert ihres Versuchs, durch jeden Wert, oder nicht geteilt</translation>
+    </message>
+    <message>
+        <source>by the largest value</source>
+        <translation>durch den größten Wert</translation>
+    </message>
+    <message>
+        <source>by each value</source>
+        <translation>durch jeden Wert</translation>
+    </message>
+    <message>
+        <source>absolute</source>
+        <translation>absolut</translation>
+    </message>
+    <message>
+        <source>&amp;Bounds:</source>
+        <translation>Gre&amp;nzen:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Bounds of constants, or their values, separated by semicolons, such as C10=0:1 MPa; C01=0. The symbols are those of the results.</source>
+        <translation>Grenzen von Konstanten oder ihre Werte, durch Strichpunkte getrennt, zum Beispiel C10=0:1 MPa; C01=0. Die Symbole sind die der Ergebnisse.</translation>
+    </message>
+    <message>
+        <source>&amp;Young&apos;s modulus:</source>
+        <translation>Elastizitäts&amp;modul:</translation>
+    </message>
+    <message>
+        <source>the slope of the curve</source>
+        <translation>die Steigung der Kurve</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio:</source>
+        <translation>Querkontraktionszahl:</translation>
+    </message>
+    <message>
+        <source>&amp;Offset strain:</source>
+        <translation>E&amp;rsatzdehnung:</translation>
+    </message>
+    <message>
+        <source>The plastic strain at which a metal yields</source>
+        <translation>Die plastische Dehnung, bei der ein Metall fließt</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation>Toleranz:</translation>
+    </message>
+    <message>
+        <source>The distance of a multilinear curve from the points, as a part of the largest stress</source>
+        <translation>Der Abstand einer multilinearen Kurve von den Punkten, als Teil der größten Spannung</translation>
+    </message>
+    <message>
+        <source>The stretches of stability must be two numbers greater than 0 that rise, such as 0.5:3.</source>
+        <translation>Die Streckungen der Stabilität müssen zwei steigende Zahlen größer als 0 sein, zum Beispiel 0.5:3.</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus cannot be read, or is not greater than 0.</source>
+        <translation>Der Elastizitätsmodul kann nicht gelesen werden oder ist nicht größer als 0.</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio must be greater than -1 and not greater than 0.5.</source>
+        <translation>Die Querkontraktionszahl muss größer als -1 und darf nicht größer als 0.5 sein.</translation>
+    </message>
+    <message>
+        <source>The offset strain must be greater than 0 and not greater than 1.</source>
+        <translation>Die Ersatzdehnung muss größer als 0 und darf nicht größer als 1 sein.</translation>
+    </message>
+    <message>
+        <source>The tolerance must be greater than 0 and not greater than 1.</source>
+        <translation>Die Toleranz muss größer als 0 und darf nicht größer als 1 sein.</translation>
+    </message>
+    <message>
+        <source>Bounds: %1</source>
+        <translation>Grenzen: %1</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::FitPage</name>
     <message>
         <source>The test data cannot be used</source>
@@ -4343,14 +4490,6 @@ Trotzdem löschen?</translation>
     <message>
         <source>&amp;Weight:</source>
         <translation>&amp;Gewicht:</translation>
-    </message>
-    <message>
-        <source>&amp;Keep rubber stable</source>
-        <translation>Gummi stabil &amp;halten</translation>
-    </message>
-    <message>
-        <source>Without this, a fit may be unstable in tests that were not made.</source>
-        <translation>Ohne dies kann eine Anpassung in nicht gemachten Versuchen instabil sein.</translation>
     </message>
     <message>
         <source>F&amp;it</source>
@@ -4439,6 +4578,22 @@ Trotzdem löschen?</translation>
     <message>
         <source>The tests are not kept with &quot;%1&quot;</source>
         <translation>Die Versuche werden nicht bei &quot;%1&quot; aufbewahrt</translation>
+    </message>
+    <message>
+        <source>A table of test data is being read.</source>
+        <translation>Eine Tabelle mit Versuchsdaten wird gelesen.</translation>
+    </message>
+    <message>
+        <source>The program does not close</source>
+        <translation>Das Programm wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>Tests are not kept</source>
+        <translation>Versuche sind nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps them.</source>
+        <translation>Diese Versuche des Registers „Anpassung“ sind bei keinem Material gespeichert: %1. Wenn das Programm geschlossen wird, gehen sie verloren. „Übernehmen“ im Register speichert sie.</translation>
     </message>
 </context>
 <context>
@@ -4530,6 +4685,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>Remark</source>
         <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>%1 to %2 in all tests</source>
+        <translation>%1 bis %2 in allen Versuchen</translation>
+    </message>
+    <message>
+        <source>otherwise %1 to %2</source>
+        <translation>sonst %1 bis %2</translation>
     </message>
 </context>
 <context>
@@ -4661,6 +4824,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1 points: %2 against %3.</source>
         <translation>%1 Punkte: %2 über %3.</translation>
+    </message>
+    <message>
+        <source>The test is being read.</source>
+        <translation>Der Versuch wird gelesen.</translation>
     </message>
 </context>
 <context>
@@ -4911,6 +5078,41 @@ Trotzdem löschen?</translation>
     <message>
         <source>Range</source>
         <translation>Bereich</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::VolumeChoice</name>
+    <message>
+        <source>keep</source>
+        <translation>behalten</translation>
+    </message>
+    <message>
+        <source>remove: incompressible</source>
+        <translation>entfernen: inkompressibel</translation>
+    </message>
+    <message>
+        <source>set the ratio of bulk to shear modulus to</source>
+        <translation>Verhältnis von Kompressions- zu Schubmodul setzen auf</translation>
+    </message>
+    <message>
+        <source>&amp;D1:</source>
+        <translation>&amp;D1:</translation>
+    </message>
+    <message>
+        <source>What happens to the compressibility of the material</source>
+        <translation>Was mit der Kompressibilität des Materials geschieht</translation>
+    </message>
+    <message>
+        <source>The ratio of the initial bulk modulus 2/D1 to the initial shear modulus of the fit</source>
+        <translation>Das Verhältnis des Anfangskompressionsmoduls 2/D1 zum Anfangsschubmodul der Anpassung</translation>
+    </message>
+    <message>
+        <source>Ratio of bulk to shear modulus</source>
+        <translation>Verhältnis von Kompressions- zu Schubmodul</translation>
+    </message>
+    <message>
+        <source>The fit is incompressible, and the material has no D1.</source>
+        <translation>Die Anpassung ist inkompressibel, und das Material hat kein D1.</translation>
     </message>
 </context>
 <context>
@@ -5520,6 +5722,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>Points that are not greater than 0 and missing on a logarithmic axis: %1.</source>
         <translation>Punkte, die nicht größer als 0 sind und auf einer logarithmischen Achse fehlen: %1.</translation>
+    </message>
+    <message>
+        <source>%1: unstable</source>
+        <translation>%1: instabil</translation>
     </message>
 </context>
 <context>

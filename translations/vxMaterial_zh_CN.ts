@@ -3157,10 +3157,6 @@ Delete anyway?</source>
         <translation>%1：常数%2为%3，必须是有限的数。</translation>
     </message>
     <message>
-        <source>%1: the constant %2 is %3. It must be greater than 0.</source>
-        <translation>%1：常数%2为%3，必须大于0。</translation>
-    </message>
-    <message>
         <source>Poisson&apos;s ratio is %1. It must be greater than -1 and less than 0.5.</source>
         <translation>泊松比为%1，必须大于-1且小于0.5。</translation>
     </message>
@@ -3319,10 +3315,6 @@ Delete anyway?</source>
     <message>
         <source>The instantaneous shear modulus is not known. The curve is a multiple of it.</source>
         <translation>瞬时剪切模量未知。曲线为其倍数。</translation>
-    </message>
-    <message>
-        <source>There is no yield surface below the pressure %1, which is its apex.</source>
-        <translation>在压力%1（屈服面顶点）以下没有屈服面。</translation>
     </message>
     <message>
         <source>The data are not text: byte %1 is a character that text does not have. Export the data as CSV.</source>
@@ -3547,6 +3539,18 @@ Delete anyway?</source>
     <message>
         <source>The fit is incompressible, but the D1 of the material contradicts it: the bulk modulus would be only %1 times the shear modulus (Poisson&apos;s ratio %2). For rubber it is some hundred times.</source>
         <translation>拟合按不可压缩进行，但材料的 D1 与之矛盾：体积模量仅为剪切模量的 %1 倍（泊松比 %2）。橡胶通常为数百倍。</translation>
+    </message>
+    <message>
+        <source>%1: the constant %2 is %3 in SI units. It must be greater than 0.</source>
+        <translation>%1：常数%2为%3（SI 单位）。它必须大于0。</translation>
+    </message>
+    <message>
+        <source>There is no yield surface below the pressure %1 Pa, which is its apex.</source>
+        <translation>压力低于 %1 Pa（屈服面的顶点）时没有屈服面。</translation>
+    </message>
+    <message>
+        <source>There is no yield surface below the pressure of %1 times the cohesion, which is its apex.</source>
+        <translation>压力低于黏聚力的 %1 倍（屈服面的顶点）时没有屈服面。</translation>
     </message>
 </context>
 <context>
@@ -4069,6 +4073,10 @@ Delete anyway?</source>
         <source>Materials without a model: %1.</source>
         <translation>没有模型的材料：%1。</translation>
     </message>
+    <message>
+        <source>The constant %1 cannot be read: &quot;%2&quot;. %3</source>
+        <translation>无法读取常数“%1”：“%2”。%3</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::CurvesPage</name>
@@ -4147,6 +4155,38 @@ Delete anyway?</source>
     <message>
         <source>This number cannot be read.</source>
         <translation>无法读取此数字。</translation>
+    </message>
+    <message>
+        <source>Draw chains by the inverse Langevin function</source>
+        <translation>按反朗之万函数绘制链</translation>
+    </message>
+    <message>
+        <source>not known: multiples of it</source>
+        <translation>未知：以其倍数表示</translation>
+    </message>
+    <message>
+        <source>&amp;Stresses:</source>
+        <translation>应力(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>时间(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>Co&amp;hesion:</source>
+        <translation>粘聚力(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>The stresses of the creep curves, separated by semicolons, with a unit if you like</source>
+        <translation>蠕变曲线的应力，以分号分隔，可带单位</translation>
+    </message>
+    <message>
+        <source>The time after loading at which the creep rates are drawn</source>
+        <translation>绘制蠕变速率所对应的加载后时间</translation>
+    </message>
+    <message>
+        <source>The cohesion of the yield surface, which the material does not have</source>
+        <translation>屈服面的粘聚力（材料没有该值）</translation>
     </message>
 </context>
 <context>
@@ -4270,6 +4310,113 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxInspector::FitOptions</name>
+    <message>
+        <source>&amp;Keep rubber stable</source>
+        <translation>保持橡胶稳定(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Without this, a fit may be unstable in tests that were not made.</source>
+        <translation>否则，拟合在未进行的试验中可能不稳定。</translation>
+    </message>
+    <message>
+        <source>at stretc&amp;hes:</source>
+        <translation>伸长比(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>those of the tests</source>
+        <translation>试验的伸长比</translation>
+    </message>
+    <message>
+        <source>The first and the last stretch, such as 0.5:3</source>
+        <translation>首末伸长比，例如 0.5:3</translation>
+    </message>
+    <message>
+        <source>Diff&amp;erences:</source>
+        <translation>差值(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>What is made small: the differences between tests and model, divided by the largest value of their test, by each value, or not divided</source>
+        <translation>要使之最小的量：试验与模型之差，除以试验的最大值、除以每个值或不相除</translation>
+    </message>
+    <message>
+        <source>by the largest value</source>
+        <translation>按最大值</translation>
+    </message>
+    <message>
+        <source>by each value</source>
+        <translation>按每个值</translation>
+    </message>
+    <message>
+        <source>absolute</source>
+        <translation>绝对</translation>
+    </message>
+    <message>
+        <source>&amp;Bounds:</source>
+        <translation>界限(&amp;B)：</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Bounds of constants, or their values, separated by semicolons, such as C10=0:1 MPa; C01=0. The symbols are those of the results.</source>
+        <translation>常数的界限或值，以分号分隔，例如 C10=0:1 MPa; C01=0。符号与结果中的相同。</translation>
+    </message>
+    <message>
+        <source>&amp;Young&apos;s modulus:</source>
+        <translation>杨氏模量(&amp;Y)：</translation>
+    </message>
+    <message>
+        <source>the slope of the curve</source>
+        <translation>曲线的斜率</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio:</source>
+        <translation>泊松比：</translation>
+    </message>
+    <message>
+        <source>&amp;Offset strain:</source>
+        <translation>残余应变(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>The plastic strain at which a metal yields</source>
+        <translation>金属屈服时的塑性应变</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation>容差：</translation>
+    </message>
+    <message>
+        <source>The distance of a multilinear curve from the points, as a part of the largest stress</source>
+        <translation>多线性曲线与各点的距离，以最大应力的比例表示</translation>
+    </message>
+    <message>
+        <source>The stretches of stability must be two numbers greater than 0 that rise, such as 0.5:3.</source>
+        <translation>稳定性的伸长比必须是两个递增且大于 0 的数，例如 0.5:3。</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus cannot be read, or is not greater than 0.</source>
+        <translation>杨氏模量无法读取，或不大于 0。</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio must be greater than -1 and not greater than 0.5.</source>
+        <translation>泊松比必须大于 -1 且不大于 0.5。</translation>
+    </message>
+    <message>
+        <source>The offset strain must be greater than 0 and not greater than 1.</source>
+        <translation>残余应变必须大于 0 且不大于 1。</translation>
+    </message>
+    <message>
+        <source>The tolerance must be greater than 0 and not greater than 1.</source>
+        <translation>容差必须大于 0 且不大于 1。</translation>
+    </message>
+    <message>
+        <source>Bounds: %1</source>
+        <translation>界限：%1</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::FitPage</name>
     <message>
         <source>The test data cannot be used</source>
@@ -4342,14 +4489,6 @@ Delete anyway?</source>
     <message>
         <source>&amp;Weight:</source>
         <translation>权重(&amp;W)：</translation>
-    </message>
-    <message>
-        <source>&amp;Keep rubber stable</source>
-        <translation>保持橡胶稳定(&amp;K)</translation>
-    </message>
-    <message>
-        <source>Without this, a fit may be unstable in tests that were not made.</source>
-        <translation>否则，拟合在未进行的试验中可能不稳定。</translation>
     </message>
     <message>
         <source>F&amp;it</source>
@@ -4438,6 +4577,22 @@ Delete anyway?</source>
     <message>
         <source>The tests are not kept with &quot;%1&quot;</source>
         <translation>试验未随“%1”保存</translation>
+    </message>
+    <message>
+        <source>A table of test data is being read.</source>
+        <translation>正在读取试验数据表。</translation>
+    </message>
+    <message>
+        <source>The program does not close</source>
+        <translation>程序未关闭</translation>
+    </message>
+    <message>
+        <source>Tests are not kept</source>
+        <translation>试验未保存</translation>
+    </message>
+    <message>
+        <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps them.</source>
+        <translation>“拟合”选项卡中的以下试验未随任何材料保存：%1。关闭程序后将丢失。选项卡中的“应用”可保存它们。</translation>
     </message>
 </context>
 <context>
@@ -4529,6 +4684,14 @@ Delete anyway?</source>
     <message>
         <source>Remark</source>
         <translation>备注</translation>
+    </message>
+    <message>
+        <source>%1 to %2 in all tests</source>
+        <translation>所有试验中为 %1 至 %2</translation>
+    </message>
+    <message>
+        <source>otherwise %1 to %2</source>
+        <translation>其他为 %1 至 %2</translation>
     </message>
 </context>
 <context>
@@ -4660,6 +4823,10 @@ Delete anyway?</source>
     <message>
         <source>%1 points: %2 against %3.</source>
         <translation>%1 个点：%2 对 %3。</translation>
+    </message>
+    <message>
+        <source>The test is being read.</source>
+        <translation>正在读取试验。</translation>
     </message>
 </context>
 <context>
@@ -4910,6 +5077,41 @@ Delete anyway?</source>
     <message>
         <source>Range</source>
         <translation>范围</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::VolumeChoice</name>
+    <message>
+        <source>keep</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>remove: incompressible</source>
+        <translation>移除：不可压缩</translation>
+    </message>
+    <message>
+        <source>set the ratio of bulk to shear modulus to</source>
+        <translation>将体积模量与剪切模量之比设为</translation>
+    </message>
+    <message>
+        <source>&amp;D1:</source>
+        <translation>&amp;D1：</translation>
+    </message>
+    <message>
+        <source>What happens to the compressibility of the material</source>
+        <translation>如何处理材料的可压缩性</translation>
+    </message>
+    <message>
+        <source>The ratio of the initial bulk modulus 2/D1 to the initial shear modulus of the fit</source>
+        <translation>初始体积模量 2/D1 与拟合的初始剪切模量之比</translation>
+    </message>
+    <message>
+        <source>Ratio of bulk to shear modulus</source>
+        <translation>体积模量与剪切模量之比</translation>
+    </message>
+    <message>
+        <source>The fit is incompressible, and the material has no D1.</source>
+        <translation>拟合按不可压缩进行，且材料没有 D1。</translation>
     </message>
 </context>
 <context>
@@ -5519,6 +5721,10 @@ Delete anyway?</source>
     <message>
         <source>Points that are not greater than 0 and missing on a logarithmic axis: %1.</source>
         <translation>因不大于 0 而未显示在对数轴上的点数：%1。</translation>
+    </message>
+    <message>
+        <source>%1: unstable</source>
+        <translation>%1：不稳定</translation>
     </message>
 </context>
 <context>

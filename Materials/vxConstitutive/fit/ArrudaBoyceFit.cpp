@@ -157,29 +157,43 @@ std::vector<ConstantOfFit> fittedConstants(const ArrudaBoyceProblem& series, con
 
 } // namespace
 
+namespace {
+
+HyperelasticConstants constantsOf(const ArrudaBoyceProblem& series, const std::vector<double>& parameters)
+{
+    HyperelasticConstants constants;
+    constants.kind = ModelKind::ArrudaBoyce;
+    constants.mu = parameters[0] * series.scale();
+    constants.limitingStretch = 1.0 / std::sqrt(parameters[1]);
+    return constants;
+}
+
+/// Notes that the limiting stretch has no influence if the chains of the data are far from it.
+void examineLimit(const ArrudaBoyceProblem& series, HyperelasticMinimum& result)
+{
+    constexpr double far = 10.0;
+    const double chains = series.largestChainStretch();
+    if (result.constants.limitingStretch <= far * chains)
+        return;
+    result.fitted.back().determinedInstead = "Mu";
+    result.findings.push_back(makeFinding(FindingId::LimitingStretchInfinite, {chains}));
+}
+
+} // namespace
+
 HyperelasticMinimum fitArrudaBoyce(const HyperelasticFitData& data, const std::function<void(double)>& progress)
 {
     const ArrudaBoyceProblem series(data);
     const LeastSquares& problem = series.problem();
     const Minimum best = minimiseFromMany(problem, startsOf(series), data.cancelled, progress);
     HyperelasticMinimum result;
-    if (best.parameters.empty())
+    result.found = !best.parameters.empty();
+    if (!result.found)
         return result;
-
-    const double limit = 1.0 / std::sqrt(best.parameters[1]);
-    result.constants.kind = ModelKind::ArrudaBoyce;
-    result.constants.mu = best.parameters[0] * series.scale();
-    result.constants.limitingStretch = limit;
-    result.found = true;
+    result.constants = constantsOf(series, best.parameters);
     result.fitted = fittedConstants(series, result.constants, certaintyAt(problem, best.parameters));
     result.freedoms = countFree(problem.bounds);
-
-    // If the chains of the data are far from the limit, it has no influence.
-    constexpr double far = 10.0;
-    if (limit > far * series.largestChainStretch()) {
-        result.fitted.back().determinedInstead = "Mu";
-        result.findings.push_back(makeFinding(FindingId::LimitingStretchInfinite, {series.largestChainStretch()}));
-    }
+    examineLimit(series, result);
     return result;
 }
 

@@ -111,6 +111,30 @@ std::vector<TestData> usableTests(const std::vector<TestData>& tests, std::vecto
     return usable;
 }
 
+namespace {
+
+/// Adds what is doubtful about the points of a test, which has at least one.
+void examinePoints(const TestData& test, std::vector<Finding>& findings)
+{
+    if (largestOf(test) == 0.0)
+        findings.push_back(makeFinding(FindingId::AllZero, {test.name}));
+    if (test.abscissas.size() > mostPoints)
+        findings.push_back(makeFinding(FindingId::Condensed, {test.name, static_cast<double>(test.abscissas.size()),
+                                                              static_cast<double>(mostPoints)}));
+}
+
+/// Adds the points of a test, of which each measured one has a weight.
+void addPoints(const TestData& test, ErrorMeasure error, double weight, FitSet& set)
+{
+    const double largest = largestOf(test);
+    for (FitPoint point : pointsOf(test)) {
+        point.factor = std::sqrt(weight * point.factor) / divisor(error, point.y, largest, set.largestOrdinate);
+        set.points.push_back(point);
+    }
+}
+
+} // namespace
+
 FitSet makeFitSet(const std::vector<const TestData*>& tests, ErrorMeasure error)
 {
     FitSet set;
@@ -124,18 +148,8 @@ FitSet makeFitSet(const std::vector<const TestData*>& tests, ErrorMeasure error)
             set.findings.push_back(makeFinding(FindingId::NoPoints, {test->name}));
             continue;
         }
-        const double largest = largestOf(*test);
-        if (largest == 0.0)
-            set.findings.push_back(makeFinding(FindingId::AllZero, {test->name}));
-        if (test->abscissas.size() > mostPoints)
-            set.findings.push_back(
-                makeFinding(FindingId::Condensed, {test->name, static_cast<double>(test->abscissas.size()),
-                                                   static_cast<double>(mostPoints)}));
-        const double weight = weightOfPoint(*test, error, weights, set.total);
-        for (FitPoint point : pointsOf(*test)) {
-            point.factor = std::sqrt(weight * point.factor) / divisor(error, point.y, largest, set.largestOrdinate);
-            set.points.push_back(point);
-        }
+        examinePoints(*test, set.findings);
+        addPoints(*test, error, weightOfPoint(*test, error, weights, set.total), set);
     }
     return set;
 }

@@ -45,35 +45,56 @@ struct Line
     std::optional<double> standardError;
 };
 
-std::optional<Line> fitLine(const TensileCurve& curve, double lowStress, double highStress)
+/// A measured point of engineering strain and stress.
+struct CurvePoint
 {
-    std::vector<std::size_t> used;
+    double strain = 0.0;
+    double stress = 0.0;
+};
+
+/// Returns the points from a stress to another one, up to the first point above it.
+std::vector<CurvePoint> pointsBetween(const TensileCurve& curve, double lowStress, double highStress)
+{
+    std::vector<CurvePoint> points;
     for (std::size_t i = 0; i < curve.size() && curve.stress[i] <= highStress; ++i) {
         if (curve.stress[i] >= lowStress)
-            used.push_back(i);
+            points.push_back({curve.strain[i], curve.stress[i]});
     }
-    const auto count = static_cast<double>(used.size());
-    double x = 0.0;
-    double y = 0.0;
-    for (const std::size_t i : used) {
-        x += curve.strain[i] / count;
-        y += curve.stress[i] / count;
+    return points;
+}
+
+CurvePoint meanOf(const std::vector<CurvePoint>& points)
+{
+    const auto count = static_cast<double>(points.size());
+    CurvePoint mean{};
+    for (const CurvePoint& point : points) {
+        mean.strain += point.strain / count;
+        mean.stress += point.stress / count;
     }
+    return mean;
+}
+
+/// Returns the line through points; nothing if it does not rise.
+std::optional<Line> fitLine(const std::vector<CurvePoint>& points)
+{
+    const CurvePoint mean = meanOf(points);
     double xx = 0.0;
     double xy = 0.0;
     double yy = 0.0;
-    for (const std::size_t i : used) {
-        xx += (curve.strain[i] - x) * (curve.strain[i] - x);
-        xy += (curve.strain[i] - x) * (curve.stress[i] - y);
-        yy += (curve.stress[i] - y) * (curve.stress[i] - y);
+    for (const CurvePoint& point : points) {
+        const double x = point.strain - mean.strain;
+        const double y = point.stress - mean.stress;
+        xx += x * x;
+        xy += x * y;
+        yy += y * y;
     }
-    if (used.size() < 2 || !(xy > 0.0))
+    if (points.size() < 2 || !(xy > 0.0))
         return std::nullopt;
-    Line line;
-    line.slope = xy / xx;
-    line.foot = x - y / line.slope;
-    if (used.size() > 2)
-        line.standardError = std::sqrt(std::max(0.0, yy - line.slope * xy) / (xx * (count - 2.0)));
+    const double slope = xy / xx;
+    Line line{slope, mean.strain - mean.stress / slope, std::nullopt};
+    if (points.size() > 2)
+        line.standardError =
+            std::sqrt(std::max(0.0, yy - slope * xy) / (xx * (static_cast<double>(points.size()) - 2.0)));
     return line;
 }
 
@@ -107,7 +128,7 @@ std::optional<Line> findElasticLine(const TensileCurve& curve, double offset)
     double yield = 0.5 * *std::max_element(curve.stress.begin(), curve.stress.end());
     std::optional<Line> line;
     for (int step = 0; step < 10; ++step) {
-        const std::optional<Line> next = fitLine(curve, low * yield, high * yield);
+        const std::optional<Line> next = fitLine(pointsBetween(curve, low * yield, high * yield));
         if (!next)
             break;
         line = next;
@@ -145,6 +166,29 @@ std::size_t endOfUniformStrain(const TensileCurve& curve, double yieldStrain)
     return largest == curve.stress.end() ? curve.size() : static_cast<std::size_t>(largest - curve.stress.begin()) + 1;
 }
 
+/// Returns the yield point, and the points after it and before `end`, as true stress against plastic strain.
+TestData hardeningOf(const TestData& test, const TensileCurve& curve, const ElasticConstants& elastic,
+                     const Yield& yield, std::size_t end)
+{
+    TestData plastic;
+    plastic.name = test.name;
+    plastic.mode = Mode::Plastic;
+    plastic.weight = test.weight;
+    plastic.abscissas.push_back(0.0);
+    plastic.ordinates.push_back(trueStress(yield.stress, yield.strain, elastic));
+    for (std::size_t i = 0; i < end; ++i) {
+        if (curve.strain[i] <= yield.strain)
+            continue;
+        const double stress = trueStress(curve.stress[i], curve.strain[i], elastic);
+        const double strain = std::log1p(curve.strain[i]) - stress / elastic.youngsModulus;
+        if (strain > 0.0 && std::isfinite(stress)) {
+            plastic.abscissas.push_back(strain);
+            plastic.ordinates.push_back(stress);
+        }
+    }
+    return plastic;
+}
+
 /// Returns the plastic part of a tensile curve whose strain begins at 0.
 std::optional<TestData> plasticPart(const TestData& test, const TensileCurve& curve, const ElasticConstants& elastic,
                                     double offset, std::vector<Finding>& findings)
@@ -158,23 +202,7 @@ std::optional<TestData> plasticPart(const TestData& test, const TensileCurve& cu
     if (end < curve.size())
         findings.push_back(
             makeFinding(FindingId::CutAtNecking, {curve.strain[end - 1], static_cast<double>(curve.size() - end)}));
-    TestData plastic;
-    plastic.name = test.name;
-    plastic.mode = Mode::Plastic;
-    plastic.weight = test.weight;
-    plastic.abscissas.push_back(0.0);
-    plastic.ordinates.push_back(trueStress(yield->stress, yield->strain, elastic));
-    for (std::size_t i = 0; i < end; ++i) {
-        if (curve.strain[i] <= yield->strain)
-            continue;
-        const double stress = trueStress(curve.stress[i], curve.strain[i], elastic);
-        const double strain = std::log1p(curve.strain[i]) - stress / elastic.youngsModulus;
-        if (strain > 0.0 && std::isfinite(stress)) {
-            plastic.abscissas.push_back(strain);
-            plastic.ordinates.push_back(stress);
-        }
-    }
-    return plastic;
+    return hardeningOf(test, curve, elastic, *yield, end);
 }
 
 /// Returns the elastic line of the first tensile curve that has an elastic part.
@@ -309,33 +337,45 @@ std::vector<HardeningPoint> risingPoints(const HardeningData& data, double toler
     return rising;
 }
 
+namespace {
+
+/// The fewest lines from the first point to a point.
+struct Way
+{
+    std::size_t lines = 0;
+    std::size_t before = 0; ///< the point at which the last line begins
+};
+
+/// Shortens the ways of all points to which a line from a point leads. The line is allowed if its slope is in the wedge that the
+/// points between them leave.
+void shortenWays(const std::vector<HardeningPoint>& points, std::size_t from, double tolerance, std::vector<Way>& ways)
+{
+    double low = -std::numeric_limits<double>::infinity();
+    double high = std::numeric_limits<double>::infinity();
+    for (std::size_t k = from + 1; k < points.size() && low <= high; ++k) {
+        const double length = points[k].plasticStrain - points[from].plasticStrain;
+        const double rise = points[k].stress - points[from].stress;
+        const double slope = rise / length;
+        if (slope >= low && slope <= high && ways[from].lines + 1 < ways[k].lines)
+            ways[k] = {ways[from].lines + 1, from};
+        low = std::max(low, (rise - tolerance) / length);
+        high = std::min(high, (rise + tolerance) / length);
+    }
+}
+
+} // namespace
+
 std::vector<HardeningPoint> reducePoints(const std::vector<HardeningPoint>& points, double tolerance)
 {
     if (points.size() < 3)
         return points;
-    // For each point, finds the fewest lines from the first point to it. A line from i to k is allowed if its slope is in the
-    // wedge that the points between them leave.
     const std::size_t none = points.size();
-    std::vector<std::size_t> lines(points.size(), none);
-    std::vector<std::size_t> before(points.size(), none);
-    lines[0] = 0;
-    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-        double low = -std::numeric_limits<double>::infinity();
-        double high = std::numeric_limits<double>::infinity();
-        for (std::size_t k = i + 1; k < points.size() && low <= high; ++k) {
-            const double length = points[k].plasticStrain - points[i].plasticStrain;
-            const double rise = points[k].stress - points[i].stress;
-            const double slope = rise / length;
-            if (slope >= low && slope <= high && lines[i] + 1 < lines[k]) {
-                lines[k] = lines[i] + 1;
-                before[k] = i;
-            }
-            low = std::max(low, (rise - tolerance) / length);
-            high = std::min(high, (rise + tolerance) / length);
-        }
-    }
+    std::vector<Way> ways(points.size(), Way{none, none});
+    ways[0].lines = 0;
+    for (std::size_t i = 0; i + 1 < points.size(); ++i)
+        shortenWays(points, i, tolerance, ways);
     std::vector<HardeningPoint> reduced;
-    for (std::size_t k = points.size() - 1; k != none; k = before[k])
+    for (std::size_t k = points.size() - 1; k != none; k = ways[k].before)
         reduced.push_back(points[k]);
     std::reverse(reduced.begin(), reduced.end());
     return reduced;

@@ -80,34 +80,46 @@ HyperelasticFitData collect(const HyperelasticFitRequest& request, const std::ve
     return data;
 }
 
+/// Sums over the points of volumetric tests, with the stress that they would have if D1 were 1.
+struct VolumeSums
+{
+    double product = 0.0;  ///< of both stresses
+    double square = 0.0;   ///< of the stress for D1 = 1
+    double measured = 0.0; ///< square of the measured stress
+};
+
+VolumeSums sumVolume(const FitSet& volume, ModelKind kind)
+{
+    const auto form =
+        kind == ModelKind::ArrudaBoyce ? VolumetricEnergy::Form::Logarithmic : VolumetricEnergy::Form::Quadratic;
+    const VolumetricEnergy unit(form, 1.0);
+    VolumeSums sums;
+    for (const FitPoint& point : volume.points) {
+        const double stress = point.factor * unit.kirchhoffStress(std::log(point.x)).value / point.x;
+        sums.product += stress * point.factor * point.y;
+        sums.square += stress * stress;
+        sums.measured += point.factor * point.factor * point.y * point.y;
+    }
+    return sums;
+}
+
 /// Fits D1 by linear least squares in 1/D1, to which the stress is proportional.
 void fitVolume(const HyperelasticFitData& data, HyperelasticConstants& constants, FitResult& result)
 {
     if (!data.volume.usable())
         return;
-    const auto form = constants.kind == ModelKind::ArrudaBoyce ? VolumetricEnergy::Form::Logarithmic
-                                                               : VolumetricEnergy::Form::Quadratic;
-    const VolumetricEnergy unit(form, 1.0);
-    double product = 0.0;
-    double square = 0.0;
-    double measured = 0.0;
-    for (const FitPoint& point : data.volume.points) {
-        const double stress = point.factor * unit.kirchhoffStress(std::log(point.x)).value / point.x;
-        product += stress * point.factor * point.y;
-        square += stress * stress;
-        measured += point.factor * point.factor * point.y * point.y;
-    }
-    if (!(product > 0.0)) {
+    const VolumeSums sums = sumVolume(data.volume, constants.kind);
+    if (!(sums.product > 0.0)) {
         result.findings.push_back(makeFinding(FindingId::VolumetricIgnored));
         return;
     }
-    constants.d1 = square / product;
+    constants.d1 = sums.square / sums.product;
     FittedConstant d1{
         PropertyId::IncompressibilityParameterD1, "D1", "1/Pa", constants.d1, std::nullopt, Determination::Determined};
     const double freedom = static_cast<double>(data.volume.total) - 1.0;
+    const double rest = std::max(0.0, sums.measured - sums.product * sums.product / sums.square);
     if (freedom > 0.0)
-        d1.standardError = std::sqrt(std::max(0.0, measured - product * product / square) / freedom / square) *
-                           constants.d1 * constants.d1;
+        d1.standardError = std::sqrt(rest / freedom / sums.square) * constants.d1 * constants.d1;
     result.constants.push_back(d1);
 }
 
@@ -194,19 +206,9 @@ void judgeShape(const HyperelasticFitData& data, const HyperelasticMinimum& mini
     result.findings.push_back(makeFinding(FindingId::StabilityCost, {result.residual, free.residual}));
 }
 
-FitResult fitForm(HyperelasticForm form, const HyperelasticFitData& data, Jobs& jobs)
+/// Completes the result of a form that has a minimum.
+void useMinimum(HyperelasticForm form, const HyperelasticFitData& data, HyperelasticMinimum& minimum, FitResult& result)
 {
-    FitResult result;
-    result.model = hyperelasticFormRecord(form).name;
-    HyperelasticMinimum minimum = minimumOf(form, data, jobs.progress());
-    result.findings = minimum.findings;
-    const bool cancelled = jobs.cancelled();
-    result.status = cancelled ? FitStatus::Cancelled : FitStatus::Failed;
-    if (cancelled)
-        result.findings.push_back(makeFinding(FindingId::Cancelled, {result.model}));
-    if (!minimum.found)
-        return result;
-
     judgeShape(data, minimum, result);
     if (data.shape.total <= minimum.freedoms)
         result.findings.push_back(
@@ -218,8 +220,19 @@ FitResult fitForm(HyperelasticForm form, const HyperelasticFitData& data, Jobs& 
     result.stable = stableRangesOf(*model);
     result.change = changeOf(form, minimum.constants);
     setFitted(result, std::move(model));
-    if (result.status == FitStatus::Failed)
-        result.status = FitStatus::Done;
+}
+
+FitResult fitForm(HyperelasticForm form, const HyperelasticFitData& data, Jobs& jobs)
+{
+    FitResult result;
+    result.model = hyperelasticFormRecord(form).name;
+    HyperelasticMinimum minimum = minimumOf(form, data, jobs.progress());
+    result.findings = minimum.findings;
+    setStatus(result, jobs);
+    if (minimum.found)
+        useMinimum(form, data, minimum, result);
+    else if (result.status == FitStatus::Done)
+        result.status = FitStatus::Failed;
     return result;
 }
 

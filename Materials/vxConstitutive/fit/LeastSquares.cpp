@@ -131,6 +131,28 @@ Minimum minimiseFromMany(const LeastSquares& problem, const std::vector<std::vec
     return best;
 }
 
+namespace {
+
+/// Stores the covariances of the free parameters, from the eigenvalues of the normal equations: infinite for parameters without
+/// influence.
+void setCovariances(const NormalisedJacobian& jacobian, const std::vector<std::size_t>& free, Certainty& certainty)
+{
+    const std::size_t count = certainty.errors.size();
+    const Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> solver(jacobian.columns.transpose() * jacobian.columns);
+    const Eigen::ArrayXd squares = solver.eigenvalues().cwiseMax(0.0).array();
+    for (Eigen::Index i = 0; i < jacobian.columns.cols(); ++i) {
+        const std::size_t row = free[static_cast<std::size_t>(i)];
+        for (Eigen::Index k = 0; k < jacobian.columns.cols(); ++k) {
+            const Eigen::ArrayXd product = solver.eigenvectors().row(i).array() * solver.eigenvectors().row(k).array();
+            certainty.covariances[row * count + free[static_cast<std::size_t>(k)]] =
+                (product / squares).sum() / (jacobian.lengths(i) * jacobian.lengths(k));
+        }
+        certainty.errors[row] = std::sqrt(certainty.covariance(row, row));
+    }
+}
+
+} // namespace
+
 Certainty certaintyAt(const LeastSquares& problem, const std::vector<double>& parameters)
 {
     const std::size_t count = parameters.size();
@@ -139,24 +161,9 @@ Certainty certaintyAt(const LeastSquares& problem, const std::vector<double>& pa
     certainty.covariances.assign(count * count, 0.0);
     std::vector<double> residuals(problem.residuals);
     RowMajor full(static_cast<Eigen::Index>(problem.residuals), static_cast<Eigen::Index>(count));
-    if (!problem.evaluate(parameters.data(), residuals.data(), full.data()))
-        return certainty;
     const std::vector<std::size_t> free = freeParameters(problem);
-    if (free.empty())
-        return certainty;
-
-    const auto [columns, lengths] = normalised(full, free);
-    const Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> solver(columns.transpose() * columns);
-    const Eigen::ArrayXd squares = solver.eigenvalues().cwiseMax(0.0).array();
-    for (Eigen::Index i = 0; i < columns.cols(); ++i) {
-        const std::size_t row = free[static_cast<std::size_t>(i)];
-        for (Eigen::Index k = 0; k < columns.cols(); ++k) {
-            const Eigen::ArrayXd product = solver.eigenvectors().row(i).array() * solver.eigenvectors().row(k).array();
-            certainty.covariances[row * count + free[static_cast<std::size_t>(k)]] =
-                (product / squares).sum() / (lengths(i) * lengths(k));
-        }
-        certainty.errors[row] = std::sqrt(certainty.covariance(row, row));
-    }
+    if (!free.empty() && problem.evaluate(parameters.data(), residuals.data(), full.data()))
+        setCovariances(normalised(full, free), free, certainty);
     return certainty;
 }
 

@@ -228,6 +228,16 @@ Prediction predictionOf(double a, double n, double m)
 
 constexpr const char* modelName = "Norton creep";
 
+/// Completes the result of a fit that has a minimum.
+void useMinimum(const NortonProblem& norton, const std::vector<double>& p, const NortonFitRequest& request,
+                const std::vector<const TestData*>& tests, const FitSet& set, FitResult& result)
+{
+    const std::size_t freedoms = countFree(norton.problem().bounds);
+    judge(result, tests, request.error, set, predictionOf(norton.a(p), p[1], p[2] - 1.0), freedoms);
+    describeConstants(norton, p, set, freedoms, result);
+    setFitted(result, std::make_shared<NortonModel>(norton.a(p), p[1], p[2] - 1.0));
+}
+
 FitResult fitTests(const NortonFitRequest& request, const FitControl& control)
 {
     FitResult result;
@@ -245,13 +255,8 @@ FitResult fitTests(const NortonFitRequest& request, const FitControl& control)
     const Minimum minimum =
         minimiseFromMany(norton.problem(), norton.starts(), jobs.cancelledFunction(), jobs.progress());
     setStatus(result, jobs);
-    if (minimum.parameters.empty())
-        return result;
-    const std::vector<double>& p = minimum.parameters;
-    const std::size_t freedoms = countFree(norton.problem().bounds);
-    judge(result, used, request.error, set, predictionOf(norton.a(p), p[1], p[2] - 1.0), freedoms);
-    describeConstants(norton, p, set, freedoms, result);
-    setFitted(result, std::make_shared<NortonModel>(norton.a(p), p[1], p[2] - 1.0));
+    if (!minimum.parameters.empty())
+        useMinimum(norton, minimum.parameters, request, used, set, result);
     return result;
 }
 

@@ -167,29 +167,34 @@ void addBilinearConstants(const LeastSquares& problem, const std::vector<double>
 
 constexpr const char* bilinearName = "bilinear hardening";
 
+/// Completes the result of a fit that has a minimum.
+void useMinimum(const LeastSquares& problem, const std::vector<double>& parameters, const HardeningData& data,
+                const FitSet& set, Jobs& jobs, FitResult& result)
+{
+    const double yield = set.largestOrdinate * parameters[0];
+    const double modulus = set.largestOrdinate * parameters[1];
+    auto model = std::make_shared<PlasticModel>(yield, modulus, data.elastic);
+    judge(result, pointersTo(data.tests), ErrorMeasure::OfLargest, set, predictionOf(*model),
+          countFree(problem.bounds));
+    addBilinearConstants(problem, parameters, set, result);
+    addModulus(data, result);
+    result.change = bilinearChange(data, yield, modulus);
+    finish(result, std::move(model), jobs);
+}
+
 FitResult fitLine(const PlasticFitRequest& request, const FitControl& control)
 {
     Jobs jobs(control, 1);
     jobs.begin(bilinearName);
     const HardeningData data = takeHardening(request);
     FitResult result = beginResult(bilinearName, data);
-    const std::vector<const TestData*> tests = pointersTo(data.tests);
-    const FitSet set = makeFitSet(tests, ErrorMeasure::OfLargest);
+    const FitSet set = makeFitSet(pointersTo(data.tests), ErrorMeasure::OfLargest);
     if (!set.usable() || endIfCancelled(jobs, result))
         return result;
 
     const LeastSquares problem = bilinearProblem(set, request.bounds);
     const Minimum minimum = minimiseLinear(problem, {0.5, 1.0}, jobs.cancelledFunction());
-    const double scale = set.largestOrdinate;
-    const double yield = scale * minimum.parameters[0];
-    const double modulus = scale * minimum.parameters[1];
-    auto model = std::make_shared<PlasticModel>(yield, modulus, data.elastic);
-
-    judge(result, tests, ErrorMeasure::OfLargest, set, predictionOf(*model), countFree(problem.bounds));
-    addBilinearConstants(problem, minimum.parameters, set, result);
-    addModulus(data, result);
-    result.change = bilinearChange(data, yield, modulus);
-    finish(result, std::move(model), jobs);
+    useMinimum(problem, minimum.parameters, data, set, jobs, result);
     return result;
 }
 

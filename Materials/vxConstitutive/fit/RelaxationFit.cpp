@@ -27,8 +27,26 @@ Range timesOf(const FitSet& set)
     return times.to > 0.0 ? times : Range{1.0, 1.0};
 }
 
-/// Returns the least squares problem. Its parameters are the instantaneous modulus by the largest measured one, g, and the
-/// logarithm of the relaxation time.
+/// Stores the residuals, and unless it is null their derivatives, at the instantaneous modulus by the largest measured one, g, and
+/// the logarithm of the relaxation time.
+void evaluate(const FitSet& set, const double* p, double* residuals, double* jacobian)
+{
+    const double time = std::exp(p[2]);
+    for (std::size_t i = 0; i < set.points.size(); ++i) {
+        const FitPoint& point = set.points[i];
+        const double factor = point.factor * set.largestOrdinate;
+        const double x = point.x / time;
+        const double decay = std::exp(-x);
+        const double shape = 1.0 - p[1] + p[1] * decay;
+        residuals[i] = factor * p[0] * shape - point.factor * point.y;
+        if (jacobian == nullptr)
+            continue;
+        jacobian[3 * i] = factor * shape;
+        jacobian[3 * i + 1] = factor * p[0] * (decay - 1.0);
+        jacobian[3 * i + 2] = factor * p[0] * p[1] * decay * x;
+    }
+}
+
 LeastSquares problemOf(const FitSet& set, Range times, const BoundsById& bounds)
 {
     constexpr double beyond = 100.0; // the measured times
@@ -40,20 +58,7 @@ LeastSquares problemOf(const FitSet& set, Range times, const BoundsById& bounds)
                       {std::max(0.0, g.lower), std::min(1.0, g.upper)},
                       {std::log(std::max(tau.lower, 1e-300)), std::log(tau.upper)}};
     problem.evaluate = [&set](const double* p, double* residuals, double* jacobian) {
-        const double time = std::exp(p[2]);
-        for (std::size_t i = 0; i < set.points.size(); ++i) {
-            const FitPoint& point = set.points[i];
-            const double factor = point.factor * set.largestOrdinate;
-            const double x = point.x / time;
-            const double decay = std::exp(-x);
-            const double shape = 1.0 - p[1] + p[1] * decay;
-            residuals[i] = factor * p[0] * shape - point.factor * point.y;
-            if (jacobian == nullptr)
-                continue;
-            jacobian[3 * i] = factor * shape;
-            jacobian[3 * i + 1] = factor * p[0] * (decay - 1.0);
-            jacobian[3 * i + 2] = factor * p[0] * p[1] * decay * x;
-        }
+        evaluate(set, p, residuals, jacobian);
         return true;
     };
     return problem;
@@ -67,37 +72,30 @@ std::vector<std::vector<double>> startsOf(Range times)
     return starts;
 }
 
-void describeConstants(const LeastSquares& problem, const std::vector<double>& p, const FitSet& set, Range times,
-                       FitResult& result)
+void describeConstants(const LeastSquares& problem, const std::vector<double>& p, const FitSet& set, FitResult& result)
 {
-    const std::size_t freedoms = countFree(problem.bounds);
+    const double scale = set.largestOrdinate;
     const double tau = std::exp(p[2]);
+    const Bounds& g = problem.bounds[1];
+    const Bounds times{std::exp(problem.bounds[2].lower), std::exp(problem.bounds[2].upper)};
+    const Bounds moduli{-1.0, Bounds().upper};
     const Certainty certainty = certaintyAt(problem, p);
-    addConstant(result,
-                {0,
-                 "G0",
-                 "Pa",
-                 p[0] * set.largestOrdinate,
-                 certainty.errors[0] * set.largestOrdinate,
-                 {-1.0, Bounds().upper},
-                 {}},
-                set.total, freedoms);
-    addConstant(result,
-                {PropertyId::ShearRelaxationModulus, "g", "1", p[1], certainty.errors[1], problem.bounds[1], {}},
-                set.total, freedoms);
-    addConstant(result,
-                {PropertyId::RelaxationTime,
-                 "tau",
-                 "s",
-                 tau,
-                 certainty.errors[2] * tau,
-                 {std::exp(problem.bounds[2].lower), std::exp(problem.bounds[2].upper)},
-                 {}},
-                set.total, freedoms);
+    const ConstantOfFit constants[] = {
+        {0, "G0", "Pa", p[0] * scale, certainty.errors[0] * scale, moduli, {}},
+        {PropertyId::ShearRelaxationModulus, "g", "1", p[1], certainty.errors[1], g, {}},
+        {PropertyId::RelaxationTime, "tau", "s", tau, certainty.errors[2] * tau, times, {}},
+    };
+    for (const ConstantOfFit& constant : constants)
+        addConstant(result, constant, set.total, countFree(problem.bounds));
+}
+
+/// Stores what the material gets, and a doubt about a relaxation time that was not measured.
+void setChange(double g, double tau, Range times, FitResult& result)
+{
     if (tau < times.from || tau > times.to)
         result.findings.push_back(makeFinding(FindingId::RelaxationTimeOutside, {tau, times.from, times.to}));
     result.change.set = {{PropertyId::ViscoElasticity, 1.0, {}, {}},
-                         {PropertyId::ShearRelaxationModulus, p[1], {}, {}},
+                         {PropertyId::ShearRelaxationModulus, g, {}, {}},
                          {PropertyId::RelaxationTime, tau, {}, {}}};
 }
 
@@ -120,6 +118,18 @@ Prediction predictionOf(double modulus, double ratio, double relaxationTime)
 
 constexpr const char* modelName = "visco-elasticity";
 
+/// Completes the result of a fit that has a minimum.
+void useMinimum(const LeastSquares& problem, const std::vector<double>& p, const RelaxationFitRequest& request,
+                const std::vector<const TestData*>& tests, const FitSet& set, FitResult& result)
+{
+    const double modulus = p[0] * set.largestOrdinate;
+    const double tau = std::exp(p[2]);
+    judge(result, tests, request.error, set, predictionOf(modulus, p[1], tau), countFree(problem.bounds));
+    describeConstants(problem, p, set, result);
+    setChange(p[1], tau, timesOf(set), result);
+    setFitted(result, std::make_shared<ViscoElasticModel>(p[1], tau, modulus));
+}
+
 FitResult fitTests(const RelaxationFitRequest& request, const FitControl& control)
 {
     FitResult result;
@@ -136,14 +146,8 @@ FitResult fitTests(const RelaxationFitRequest& request, const FitControl& contro
     const LeastSquares problem = problemOf(set, times, request.bounds);
     const Minimum minimum = minimiseFromMany(problem, startsOf(times), jobs.cancelledFunction(), jobs.progress());
     setStatus(result, jobs);
-    if (minimum.parameters.empty())
-        return result;
-    const std::vector<double>& p = minimum.parameters;
-    const double modulus = p[0] * set.largestOrdinate;
-    const double tau = std::exp(p[2]);
-    judge(result, used, request.error, set, predictionOf(modulus, p[1], tau), countFree(problem.bounds));
-    describeConstants(problem, p, set, times, result);
-    setFitted(result, std::make_shared<ViscoElasticModel>(p[1], tau, modulus));
+    if (!minimum.parameters.empty())
+        useMinimum(problem, minimum.parameters, request, used, set, result);
     return result;
 }
 

@@ -46,27 +46,29 @@ TestPoint TestResponse::onPath(double stretch)
     if (!logVolume)
         return point;
     const PrincipalStress state = principalStress(m_energy, m_path.shape(logStretch, *logVolume));
-    const Triple& h1 = state.stiffness[0];
-    const Triple& h3 = state.stiffness[2];
-
-    // The third stress stays 0, which gives the derivative of the volume by the stretch.
-    double volumeSlope = 0.0;
-    if (m_branch) {
-        const double stiffness = product(h3, m_path.free) + m_volumetric.kirchhoffStress(*logVolume).slope;
-        volumeSlope = -product(h3, m_path.load) / stiffness;
-    }
-    Triple direction{};
-    for (std::size_t i = 0; i < 3; ++i)
-        direction[i] = m_path.load[i] + m_path.free[i] * volumeSlope;
-
+    const Triple direction = directionAt(state, *logVolume);
     const double kirchhoff = state.stress[0] - state.stress[2];
-    const double kirchhoffSlope = product(h1, direction) - product(h3, direction);
+    const double kirchhoffSlope = product(state.stiffness[0], direction) - product(state.stiffness[2], direction);
     point.volumeRatio = std::exp(*logVolume);
     point.nominalStress = kirchhoff / stretch;
     point.trueStress = kirchhoff / point.volumeRatio;
     point.slope = (kirchhoffSlope - kirchhoff) / (stretch * stretch);
     point.lateralStretch = std::exp(m_path.load[2] * logStretch + m_path.free[2] * *logVolume);
     return point;
+}
+
+Triple TestResponse::directionAt(const PrincipalStress& state, double logVolume) const
+{
+    if (!m_branch)
+        return m_path.load;
+    // The third stress stays 0, which gives the derivative of the volume by the stretch.
+    const Triple& third = state.stiffness[2];
+    const double stiffness = product(third, m_path.free) + m_volumetric.kirchhoffStress(logVolume).slope;
+    const double volumeSlope = -product(third, m_path.load) / stiffness;
+    Triple direction = m_path.load;
+    for (std::size_t i = 0; i < direction.size(); ++i)
+        direction[i] += m_path.free[i] * volumeSlope;
+    return direction;
 }
 
 TestPoint TestResponse::sheared(double amount) const

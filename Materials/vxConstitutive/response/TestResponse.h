@@ -51,6 +51,9 @@ private:
     TestPoint dilated(double stretch) const;
     State stateAt(double abscissa);
 
+    /// Returns the derivatives of the logarithms of the stretches by that of the test.
+    Triple directionAt(const PrincipalStress& state, double logVolume) const;
+
     /// Returns ln J at which the third direction has no stress; nothing if there is none.
     std::optional<double> logVolumeRatio(double logStretch);
 

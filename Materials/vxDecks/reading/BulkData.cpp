@@ -240,15 +240,14 @@ void BulkDataReader::continueEntry(const Row& row)
 {
     const std::string_view name = continuationName(row.first);
     const auto waiting = m_waiting.find(name);
-    if (m_open && (name.empty() || name == m_open->continuation)) {
-        append(row);
-    } else if (waiting != m_waiting.end()) {
+    const bool isOfOpen = m_open && (name.empty() || name == m_open->continuation);
+    if (!isOfOpen && waiting != m_waiting.end()) {
         OpenEntry continued = std::move(waiting->second);
         m_waiting.erase(waiting);
         close();
         m_open = std::move(continued);
         append(row);
-    } else if (m_open && m_open->continuation.empty()) {
+    } else if (isOfOpen || (m_open && m_open->continuation.empty())) {
         append(row);
     }
 }

@@ -116,7 +116,7 @@ bool replaceDegrees(std::vector<UnitTerm>& terms)
 void readUnits(const pugi::xml_node& details, MatmlDeclaration& declaration)
 {
     const pugi::xml_node units = matmlChild(details, "Units");
-    if (!units) {
+    if (units.empty()) {
         declaration.unitText = "1";
         declaration.unit = Unit();
         return;

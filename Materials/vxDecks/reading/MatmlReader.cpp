@@ -63,9 +63,9 @@ void parseDocument(const std::string& text, pugi::xml_document& document)
 /// Returns the node behind another one in the order of the document; null at the end.
 pugi::xml_node nextNode(pugi::xml_node node)
 {
-    if (node.first_child())
+    if (!node.first_child().empty())
         return node.first_child();
-    while (node && !node.next_sibling())
+    while (!node.empty() && node.next_sibling().empty())
         node = node.parent();
     return node.next_sibling();
 }
@@ -74,7 +74,7 @@ pugi::xml_node nextNode(pugi::xml_node node)
 pugi::xml_node findMatml(const pugi::xml_document& document)
 {
     pugi::xml_node node = document.first_child();
-    while (node && matmlName(node) != "MatML_Doc")
+    while (!node.empty() && matmlName(node) != "MatML_Doc")
         node = nextNode(node);
     return node;
 }
@@ -222,13 +222,13 @@ void MatmlMaterial::take(const MatmlProperty& property)
 /// Returns whether a property has several values over a parameter that is no quantity, and reports it as lost.
 bool MatmlMaterial::dependsOnParameter(const MatmlProperty& property)
 {
-    for (const MatmlValue& one : property.parameters) {
-        if (one.declaration->quantity || !one.numbers || one.numbers->size() < 2)
-            continue;
-        refuse(property.data, makeMessage(BulkText::ValueOverParameter, {toUtf8(one.declaration->name)}));
-        return true;
-    }
-    return false;
+    const auto found = std::find_if(property.parameters.begin(), property.parameters.end(), [](const MatmlValue& one) {
+        return !one.declaration->quantity && one.numbers && one.numbers->size() > 1;
+    });
+    if (found == property.parameters.end())
+        return false;
+    refuse(property.data, makeMessage(BulkText::ValueOverParameter, {toUtf8(found->declaration->name)}));
+    return true;
 }
 
 /// Takes the plastic strains, which are a parameter of the yield stresses.
@@ -379,7 +379,7 @@ void readMatml(std::istream& file, const UnitSystem& units, ReadDeck& deck)
     pugi::xml_document document;
     parseDocument(readBounded(file), document);
     const pugi::xml_node root = findMatml(document);
-    if (!root)
+    if (root.empty())
         throw DeckError(makeMessage(BulkText::XmlNoMatml), 0);
     const pugi::xml_node metadata = matmlChild(root, "Metadata");
     const MatmlDeclarations properties = readMatmlDeclarations(metadata, "PropertyDetails");

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <optional>
 #include <set>
+#include <sstream>
 
 namespace vxDecks {
 
@@ -23,12 +24,24 @@ using Id = vxMat::PropertyId;
 /// is 0, or the default.
 struct Field
 {
-    const char* name = "";
+    std::string name;
     bool isTaken = false;
     double ineffective = 0.0;
 };
 
-constexpr bool taken = true;
+/// Returns the fields of a list of names: with "*" if the number is taken, with "=1" if 1 is the default; "." is a field
+/// without a name.
+std::vector<Field> fieldsOf(const char* list)
+{
+    std::vector<Field> fields;
+    std::istringstream words{std::string(list)};
+    for (std::string word; words >> word;) {
+        const std::size_t end = std::min(word.find_first_of("*=."), word.size());
+        const bool hasDefault = word.find("=1") != std::string::npos;
+        fields.push_back({word.substr(0, end), word.back() == '*', hasDefault ? 1.0 : 0.0});
+    }
+    return fields;
+}
 
 class CardReader;
 
@@ -78,7 +91,7 @@ private:
 
 std::string CardReader::nameOf(std::size_t index) const
 {
-    const bool isKnown = index < m_card.fields.size() && *m_card.fields[index].name != '\0';
+    const bool isKnown = index < m_card.fields.size() && !m_card.fields[index].name.empty();
     return std::string(m_card.name) + " " + (isKnown ? m_card.fields[index].name : std::to_string(index + 2));
 }
 
@@ -101,8 +114,9 @@ void CardReader::set(std::size_t index, std::int32_t id)
 
 void CardReader::loseOtherFields()
 {
+    static const Field unknown;
     for (std::size_t i = 0; i < m_entry.fields.size(); ++i) {
-        const Field field = i < m_card.fields.size() ? m_card.fields[i] : Field{};
+        const Field& field = i < m_card.fields.size() ? m_card.fields[i] : unknown;
         if (field.isTaken || text(i).empty() || readBulkNumber(text(i)) == field.ineffective)
             continue;
         lose(i, makeMessage(ReadText::NoQuantity));
@@ -431,120 +445,19 @@ void readCreep(CardReader& card)
 const std::vector<Card>& cards()
 {
     static const std::vector<Card> all{
-        {"MAT1",
-         readMat1,
-         {{"MID", taken},
-          {"E", taken},
-          {"G", taken},
-          {"NU", taken},
-          {"RHO", taken},
-          {"A"},
-          {"TREF"},
-          {"GE"},
-          {"ST"},
-          {"SC"},
-          {"SS"},
-          {"MCSID"}}},
-        {"MATHP",
-         readMathp,
-         {{"MID", taken},
-          {"A10", taken},
-          {"A01", taken},
-          {"D1", taken},
-          {"RHO", taken},
-          {"AV"},
-          {"TREF"},
-          {"GE"},
-          {"", taken},
-          {"NA", taken},
-          {"", taken},
-          {},
-          {},
-          {},
-          {},
-          {},
-          {"A20"},
-          {"A11", taken},
-          {"A02"},
-          {"D2"},
-          {},
-          {},
-          {},
-          {},
-          {"A30"},
-          {"A21"},
-          {"A12"},
-          {"A03"},
-          {"D3"},
-          {},
-          {},
-          {},
-          {"A40"},
-          {"A31"},
-          {"A22"},
-          {"A13"},
-          {"A04"},
-          {"D4"},
-          {},
-          {},
-          {"A50"},
-          {"A41"},
-          {"A32"},
-          {"A23"},
-          {"A14"},
-          {"A05"},
-          {"D5"},
-          {},
-          {"TAB1"},
-          {"TAB2"},
-          {"TAB3"},
-          {"TAB4"},
-          {},
-          {},
-          {"TABD"}}},
-        {"MAT10", readMat10, {{"MID", taken}, {"BULK", taken}, {"RHO", taken}, {"C", taken}, {"GE"}, {"ALPHA"}}},
-        {"MAT4",
-         readMat4,
-         {{"MID", taken},
-          {"K", taken},
-          {"CP", taken},
-          {"RHO", taken},
-          {"H"},
-          {"mu", taken},
-          {"HGEN", false, 1.0},
-          {"REFENTH"},
-          {"TCH"},
-          {"TDELTA"},
-          {"QLAT"}}},
-        {"MATS1",
-         readMats1,
-         {{"MID", taken},
-          {"TID", taken},
-          {"TYPE", taken},
-          {"H", taken},
-          {"YF", taken},
-          {"HR", taken},
-          {"LIMIT1", taken},
-          {"LIMIT2", taken},
-          {"STRMEAS", taken}}},
-        {"CREEP",
-         readCreep,
-         {{"MID", taken},
-          {"T0"},
-          {"EXP", false, 1.0},
-          {"FORM", taken},
-          {"TIDKP"},
-          {"TIDCP"},
-          {"TIDCS"},
-          {"THRESH"},
-          {"TYPE", taken},
-          {"a", taken},
-          {"b", taken},
-          {"c"},
-          {"d", taken},
-          {"e"},
-          {"f"},
-          {"g"}}},
+        {"MAT1", readMat1, fieldsOf("MID* E* G* NU* RHO* A TREF GE ST SC SS MCSID")},
+        {"MATHP", readMathp,
+         fieldsOf("MID* A10* A01* D1* RHO* AV TREF GE "
+                  ". NA* .* . . . . . "
+                  "A20 A11* A02 D2 . . . . "
+                  "A30 A21 A12 A03 D3 . . . "
+                  "A40 A31 A22 A13 A04 D4 . . "
+                  "A50 A41 A32 A23 A14 A05 D5 . "
+                  "TAB1 TAB2 TAB3 TAB4 . . TABD ")},
+        {"MAT10", readMat10, fieldsOf("MID* BULK* RHO* C* GE ALPHA")},
+        {"MAT4", readMat4, fieldsOf("MID* K* CP* RHO* H mu* HGEN=1 REFENTH TCH TDELTA QLAT")},
+        {"MATS1", readMats1, fieldsOf("MID* TID* TYPE* H* YF* HR* LIMIT1* LIMIT2* STRMEAS*")},
+        {"CREEP", readCreep, fieldsOf("MID* T0 EXP=1 FORM* TIDKP TIDCP TIDCS THRESH TYPE* a* b* c d* e f g")},
     };
     return all;
 }

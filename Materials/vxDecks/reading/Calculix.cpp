@@ -42,7 +42,7 @@ private:
     void requireWholeLine() const;
 
     DeckLines m_lines;
-    DeckUnits m_units;
+    ReadUnits m_units;
     ReadDeck& m_deck;
     std::unique_ptr<MaterialReading> m_material; ///< null outside of materials
     MaterialCards m_cards;                       ///< of the material, without the card that is being read

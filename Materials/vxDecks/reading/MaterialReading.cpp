@@ -50,7 +50,7 @@ std::vector<Message> findChange(std::int32_t id, const std::optional<vxUnits::Cr
 
 } // namespace
 
-std::vector<Message> DeckUnits::change(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep) const
+std::vector<Message> ReadUnits::change(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep) const
 {
     if (id == vxMat::PropertyId::CreepModulusA) // depends on the material
         return findChange(id, creep, m_system);
@@ -149,7 +149,7 @@ void MaterialReading::note(Message message)
 }
 
 ReportRow MaterialReading::rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
-                                 const DeckUnits& units) const
+                                 const ReadUnits& units) const
 {
     ReportRow row{id,   vxMat::findPropertyRecord(id)->name, Outcome::Carried, findMapping(m_format, id)->card, {},
                   false};
@@ -177,7 +177,7 @@ void MaterialReading::refuseWhatIsNotFinite()
     }
 }
 
-void MaterialReading::finish(const DeckUnits& units, ReadDeck& deck)
+void MaterialReading::finish(const ReadUnits& units, ReadDeck& deck)
 {
     const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
     if (!hasOwnUnits(m_format) && units.system() != UnitSystem::si())

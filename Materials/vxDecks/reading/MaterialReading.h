@@ -13,11 +13,11 @@
 namespace vxDecks {
 
 /// The unit system of a deck, and the messages about the units of its quantities, which are the same for all materials.
-class DeckUnits
+class ReadUnits
 {
 public:
     // Not explicit, because a unit system says everything; an object for several materials only saves time.
-    DeckUnits(vxUnits::UnitSystem system) : m_system(std::move(system)) {}
+    ReadUnits(vxUnits::UnitSystem system) : m_system(std::move(system)) {}
 
     const vxUnits::UnitSystem& system() const { return m_system; }
     /// Returns the message that a quantity has another unit in the catalogue; empty if it has the same one, or no unit.
@@ -67,7 +67,7 @@ public:
     void note(vxUnits::Message message);
 
     /// Adds the material and its report to a deck whose numbers are in a unit system. The object must not be used again.
-    void finish(const DeckUnits& units, ReadDeck& deck);
+    void finish(const ReadUnits& units, ReadDeck& deck);
 
 private:
     struct Form
@@ -78,7 +78,7 @@ private:
     };
 
     vxMat::MaterialProperty& take(std::int32_t id);
-    ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep, const DeckUnits& units) const;
+    ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep, const ReadUnits& units) const;
     void addLost(ReportRow row);
     void refuseWhatIsNotFinite();
 

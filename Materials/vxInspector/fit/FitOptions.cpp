@@ -172,7 +172,7 @@ QString FitOptions::fill(FitOrder& order) const
     FitOrder filled = order;
     filled.error = static_cast<ErrorMeasure>(m_error->currentData().toInt());
     for (const auto part : {&FitOptions::fillStability, &FitOptions::fillHardening, &FitOptions::fillBounds}) {
-        const QString problem = (this->*part)(filled);
+        QString problem = (this->*part)(filled);
         if (!problem.isEmpty())
             return problem;
     }

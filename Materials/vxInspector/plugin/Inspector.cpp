@@ -83,7 +83,8 @@ void Inspector::createTabs()
 void Inspector::retranslate()
 {
     m_unitsLabel->setText(tr("&Units:"));
-    m_systems->setToolTip(tr("The unit system of values, findings, decks, comparison and curves. It changes no value."));
+    m_systems->setToolTip(
+        tr("The unit system of values, findings, decks, comparison and curves. It changes no value."));
     const QString titles[] = {tr("Values"), tr("Findings"), tr("Cards"), tr("Compare"), tr("Curves"), tr("Fit")};
     for (int tab = 0; tab < m_tabs->count(); ++tab)
         m_tabs->setTitle(tab, titles[tab]);

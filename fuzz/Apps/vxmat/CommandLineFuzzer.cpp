@@ -1,5 +1,6 @@
-#include "CommandLine.h"
 #include "Fuzzing.h"
+
+#include "program/CommandLine.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,8 +1,9 @@
-#include "Check.h"
-#include "ChosenUnits.h"
-#include "Diff.h"
 #include "Fuzzing.h"
-#include "Query.h"
+
+#include "documents/Diff.h"
+#include "materials/Check.h"
+#include "materials/Query.h"
+#include "units/ChosenUnits.h"
 
 #include <cstddef>
 #include <cstdint>

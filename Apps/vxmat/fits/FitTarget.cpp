@@ -1,0 +1,209 @@
+#include "fits/FitTarget.h"
+
+#include "projectfile/ProjectFile.h"
+#include "vxMaterial/json/Utf8.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxUnits/Plausibility.h"
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace commandline {
+
+namespace {
+
+using projectfile::ObjectRecord;
+using projectfile::ProjectRecord;
+
+/// Returns the material with a label; null if there is none.
+ObjectRecord* findMaterial(const FitTarget& target, ProjectRecord& project)
+{
+    ObjectRecord* found = nullptr;
+    for (ObjectRecord& object : project.objects) {
+        if (object.material == nullptr || object.label != target.label)
+            continue;
+        if (found != nullptr)
+            throw Failure(target.project + ": several materials have the label \"" + target.label +
+                          "\"; give one of them another label");
+        found = &object;
+    }
+    return found;
+}
+
+/// Returns the first internal name of a new material that no object has.
+std::string freeInternalName(const ProjectRecord& project)
+{
+    std::set<std::string> names;
+    for (const ObjectRecord& object : project.objects)
+        names.insert(object.internalName);
+    const std::string base = "Material";
+    std::string name = base;
+    for (std::size_t number = 1; names.count(name) > 0; ++number)
+        name = base + std::to_string(number);
+    return name;
+}
+
+/// Adds the record of an object to the database of the host, if the project has one.
+void addToDatabase(const ObjectRecord& object, ProjectRecord& project)
+{
+    if (!project.database.isObject())
+        return;
+    Json::Value record;
+    record["obj_id"] = object.objectId;
+    record["class"] = object.className;
+    record["name_internal"] = object.internalName;
+    record["label"] = object.label;
+    project.database["objects"]["object"].append(std::move(record));
+}
+
+ObjectRecord& addMaterial(const FitTarget& target, ProjectRecord& project)
+{
+    if (project.className != projectfile::materialProjectClass)
+        throw Failure(target.project +
+                      ": materials can only be added to a material project; this is a project of the "
+                      "class " +
+                      project.className);
+    if (project.nextObjectId > std::numeric_limits<std::uint32_t>::max())
+        throw Failure(target.project + ": the project has no number left for another material");
+    ObjectRecord object;
+    object.objectId = static_cast<std::uint32_t>(project.nextObjectId++);
+    object.className = projectfile::materialClass;
+    object.internalName = freeInternalName(project);
+    object.label = target.label;
+    object.ownMaterial = std::make_unique<vxMat::CMaterial>(target.label.c_str());
+    object.material = object.ownMaterial.get();
+    addToDatabase(object, project);
+    return project.objects.emplace_back(std::move(object));
+}
+
+ObjectRecord& findOrAdd(const FitTarget& target, ProjectRecord& project)
+{
+    if (target.label.empty() || vxjson::lengthOfUtf8(target.label) != target.label.size())
+        throw Failure("--as: a label that is UTF-8 and not empty is needed");
+    ObjectRecord* const object = findMaterial(target, project);
+    return object != nullptr ? *object : addMaterial(target, project);
+}
+
+void setValue(const vxConstitutive::PropertyValue& value, vxMat::MaterialBase& material)
+{
+    const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(value.propertyId);
+    auto property = record->create();
+    if (record->kind == vxMat::ValueKind::Word)
+        property->text = value.text;
+    else if (record->kind == vxMat::ValueKind::NumberList)
+        property->values = value.values;
+    else if (record->kind != vxMat::ValueKind::ModelSwitch)
+        property->value = value.value;
+    material.setProperty(value.propertyId, std::move(property));
+}
+
+void applyChange(const vxConstitutive::MaterialChange& change, vxMat::MaterialBase& material)
+{
+    for (const std::int32_t propertyId : change.remove)
+        material.removeProperty(material.findProperty(propertyId));
+    for (const vxConstitutive::PropertyValue& value : change.set)
+        setValue(value, material);
+}
+
+vxConstitutive::Measurements readMeasurements(const FitTarget& target, const ObjectRecord& object)
+{
+    const auto setting = object.settings.find(vxConstitutive::measurementsSetting);
+    if (setting == object.settings.end())
+        return {};
+    try {
+        return vxConstitutive::readMeasurements(setting->second);
+    } catch (const vxConstitutive::MeasurementsError& error) {
+        throw Failure(target.project + ": the measurements of " + object.label + " cannot be read: " + error.what());
+    }
+}
+
+/// Keeps the tests and the record of a fit beside the material.
+void keepMeasurements(const FitTarget& target, const KeptFit& fit, ObjectRecord& object)
+{
+    vxConstitutive::Measurements kept = readMeasurements(target, object);
+    kept.addFit(*fit.tests, fit.record);
+    try {
+        object.settings[vxConstitutive::measurementsSetting] = writeMeasurements(kept);
+    } catch (const vxConstitutive::MeasurementsError& error) {
+        throw Failure(target.project + ": the tests cannot be kept: " + error.what());
+    }
+}
+
+const char* nameOf(vxConstitutive::D1Treatment treatment)
+{
+    static constexpr const char* sentences[] = {"D1 is kept; --d1 remove or --d1 RATIO changes it",
+                                                "D1 is removed; --d1 keep keeps it, and --d1 RATIO sets it",
+                                                "D1 is set by --d1"};
+    return sentences[static_cast<std::size_t>(treatment)];
+}
+
+/// Returns the change of a material to a fit and to the D1 of the setting. Adds a message about the D1 that the material has.
+vxConstitutive::MaterialChange changeOf(const KeptFit& fit, const vxMat::MaterialBase& material,
+                                        const std::string& label, Answer& answer)
+{
+    const auto volume = fittedVolume(*fit.result, material);
+    if (!volume) {
+        if (fit.d1.treatment)
+            answer.messages.emplace_back("--d1 has no effect: the fit determines D1 itself, or its model has none");
+        return fit.result->change;
+    }
+    const vxConstitutive::D1Treatment treatment = fit.d1.treatment.value_or(volume->usualTreatment());
+    if (volume->finding)
+        answer.messages.push_back(label + ": " + describe(*volume->finding) + " " + nameOf(treatment));
+    return changeOf(*fit.result, *volume, treatment, fit.d1.bulkRatio);
+}
+
+void addDoubts(const vxConstitutive::MaterialChange& change, const vxMat::MaterialBase& material, Answer& answer)
+{
+    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
+        if (std::any_of(change.set.begin(), change.set.end(),
+                        [&](const vxConstitutive::PropertyValue& value) { return value.propertyId == doubt.id; }))
+            answer.messages.push_back("doubt: " + doubt.text());
+    }
+}
+
+ProjectRecord readProject(const FitTarget& target, const std::string& text)
+{
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    if (start == std::string::npos || text[start] != '{')
+        throw Failure(target.project + ": is not a project file; --into needs one, such as those of \"vxmat new\"");
+    try {
+        return projectfile::readProject(text);
+    } catch (const projectfile::ContentError& error) {
+        throw Failure(target.project + ": " + error.what());
+    }
+}
+
+} // namespace
+
+void requireTarget(const FitTarget& target)
+{
+    ProjectRecord project = readProject(target, readFile(target.project));
+    readMeasurements(target, findOrAdd(target, project));
+}
+
+void writeFit(const FitTarget& target, const KeptFit& fit, Existing existing, Answer& answer)
+{
+    const auto changed = [&](const std::string& text) {
+        ProjectRecord project = readProject(target, text);
+        for (const std::string& doubt : project.doubts)
+            answer.messages.push_back(target.project + ": " + doubt);
+        ObjectRecord& object = findOrAdd(target, project);
+        const vxConstitutive::MaterialChange change = changeOf(fit, *object.ownMaterial, target.label, answer);
+        applyChange(change, *object.ownMaterial);
+        keepMeasurements(target, fit, object);
+        addDoubts(change, *object.ownMaterial, answer);
+        try {
+            return projectfile::writeProject(project);
+        } catch (const projectfile::ContentError& error) {
+            throw Failure(target.project + ": " + error.what());
+        }
+    };
+    changeProjectFile(target.project, changed, existing);
+}
+
+} // namespace commandline

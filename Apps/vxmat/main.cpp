@@ -1,6 +1,0 @@
-#include "CommandLine.h"
-
-int main(int argc, char** argv)
-{
-    return commandline::run(argc, argv);
-}

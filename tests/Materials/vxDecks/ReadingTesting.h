@@ -11,6 +11,9 @@ namespace vxtest {
 /// Reads a text. Without the name of a unit system, the units are not chosen.
 vxDecks::ReadDeck readText(vxDecks::Format format, const std::string& text, const std::string& units = {});
 
+/// Returns the materials of all decks of the corpus, in the order of the names of their files.
+std::vector<vxDecks::ReadMaterial> readCorpus();
+
 /// Returns the number of a quantity of the only material of a deck; the test fails if there is none.
 double numberOf(const vxDecks::ReadDeck& deck, std::int32_t id);
 

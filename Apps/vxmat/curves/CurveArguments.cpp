@@ -50,7 +50,7 @@ void refuseDecimalCommas(const std::string& option, const std::string& text)
     }
     if (between > 0 && others > 0)
         throw Failure(option + ": \"" + text +
-                      "\" may have decimal commas; the decimal sign is a point: write \"1.5, 2\" or \"1, 5, 2\"");
+                      R"(" may have decimal commas; the decimal sign is a point: write "1.5, 2" or "1, 5, 2")");
 }
 
 std::vector<double> readAmounts(const std::string& option, const std::string& text, const std::string& unit,

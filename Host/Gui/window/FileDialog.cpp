@@ -61,7 +61,7 @@ QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& caption
     QString answer;
     if (takeAnswer(answer))
         return answer.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    const QStringList paths = QFileDialog::getOpenFileNames(parent, caption, startFolder(folder), filter);
+    QStringList paths = QFileDialog::getOpenFileNames(parent, caption, startFolder(folder), filter);
     remembered(paths.value(0));
     return paths;
 }

@@ -85,10 +85,15 @@ std::optional<VolumeBranch::State> VolumeBranch::stepTowards(const State& from, 
 {
     const double way = logStretch - from.logStretch;
     double step = std::min({std::fabs(way), largestStep, largestChangeOfVolume / std::fabs(from.slope)});
-    for (bool arrives = step == std::fabs(way); arrives || step >= smallestStep; step *= 0.5) {
-        if (const auto state = stepTo(from, arrives ? logStretch : from.logStretch + std::copysign(step, way)))
+    if (step == std::fabs(way)) {
+        if (const auto state = stepTo(from, logStretch))
             return state;
-        arrives = false;
+        step *= 0.5;
+    }
+    while (step >= smallestStep) {
+        if (const auto state = stepTo(from, from.logStretch + std::copysign(step, way)))
+            return state;
+        step *= 0.5;
     }
     return std::nullopt;
 }

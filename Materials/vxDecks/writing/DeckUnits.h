@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace vxDecks {
 
@@ -24,7 +25,7 @@ struct UnitPair
 class DeckUnits
 {
 public:
-    explicit DeckUnits(const vxUnits::UnitSystem& system) : m_system(system) {}
+    explicit DeckUnits(vxUnits::UnitSystem system) : m_system(std::move(system)) {}
 
     const vxUnits::UnitSystem& system() const { return m_system; }
 

@@ -27,7 +27,7 @@ struct Heading
 class MaterialDeck
 {
 public:
-    /// Keeps a reference to the units.
+    /// Keeps references to the units and the options.
     MaterialDeck(Format format, const DeckMaterial& material, Heading heading, DeckUnits& units,
                  const DeckOptions& options);
 
@@ -74,7 +74,7 @@ private:
     const DeckMaterial& m_source;
     Heading m_heading;
     DeckUnits& m_units;
-    DeckOptions m_options;
+    const DeckOptions& m_options;
     vxMat::CMaterial m_converted;
     vxUnits::MaterialValues m_values;
     MaterialModels m_models;

@@ -95,11 +95,11 @@ public:
     }
 
 private:
-    void add(Entry entry, std::size_t material)
+    void add(const Entry& entry, std::size_t material)
     {
         const auto [place, isNew] = m_places.try_emplace(entry, m_entries.size());
         if (isNew)
-            m_entries.push_back({std::move(entry), {}});
+            m_entries.push_back({entry, {}});
         m_entries[place->second].second.push_back(material);
     }
 

@@ -19,9 +19,9 @@ namespace desktop {
 using vxDecks::ReadDeck;
 using vxUnits::UnitSystem;
 
-ImportDeckDialog::ImportDeckDialog(const DeckFile& file, std::shared_ptr<const ReadDeck> asIs, QWidget* parent)
+ImportDeckDialog::ImportDeckDialog(DeckFile file, std::shared_ptr<const ReadDeck> asIs, QWidget* parent)
     : QDialog(parent),
-      m_file(file),
+      m_file(std::move(file)),
       m_asIs(std::move(asIs)),
       m_title(new QLabel(this)),
       m_unitsTitle(new QLabel(this)),

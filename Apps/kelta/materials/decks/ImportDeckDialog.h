@@ -26,7 +26,7 @@ class ImportDeckDialog : public QDialog
 
 public:
     /// `asIs` is the deck with the numbers of the file, see fittingSystem().
-    ImportDeckDialog(const DeckFile& file, std::shared_ptr<const vxDecks::ReadDeck> asIs, QWidget* parent);
+    ImportDeckDialog(DeckFile file, std::shared_ptr<const vxDecks::ReadDeck> asIs, QWidget* parent);
     ~ImportDeckDialog() override;
 
     /// Returns the deck in the chosen units, once, after the dialog was accepted.

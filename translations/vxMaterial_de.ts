@@ -1995,6 +1995,10 @@ Trotzdem löschen?</translation>
         <source>The file cannot be opened.</source>
         <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
+    <message>
+        <source>Further losses are not listed: %1.</source>
+        <translation>Weitere Verluste sind nicht aufgeführt: %1.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DeckReportModel</name>
@@ -4758,6 +4762,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>The inspector cannot be loaded</source>
         <translation>Der Inspektor kann nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>The inspector cannot be loaded; the message log says why.</source>
+        <translation>Der Inspektor kann nicht geladen werden; das Meldungsprotokoll nennt den Grund.</translation>
     </message>
 </context>
 <context>

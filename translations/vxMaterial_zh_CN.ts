@@ -1995,6 +1995,10 @@ Delete anyway?</source>
         <source>The file cannot be opened.</source>
         <translation>无法打开文件。</translation>
     </message>
+    <message>
+        <source>Further losses are not listed: %1.</source>
+        <translation>其余丢失未列出：%1。</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DeckReportModel</name>
@@ -4757,6 +4761,10 @@ Delete anyway?</source>
     <message>
         <source>The inspector cannot be loaded</source>
         <translation>无法加载检查器</translation>
+    </message>
+    <message>
+        <source>The inspector cannot be loaded; the message log says why.</source>
+        <translation>无法加载检查器；原因见消息日志。</translation>
     </message>
 </context>
 <context>

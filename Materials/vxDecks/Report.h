@@ -43,7 +43,8 @@ struct MaterialReport
     std::string writtenName;             ///< its name in the deck; another one if the format does not take the name
     std::uint32_t id = 0;                ///< its number in the deck; 0 if the format has names only
     std::vector<vxUnits::Message> notes; ///< about the name and the number
-    std::vector<ReportRow> rows;         ///< in the order of the catalogue
+    /// In the order of the catalogue; last those that the material does not have, but the deck needs.
+    std::vector<ReportRow> rows;
 };
 
 /// The report of a deck: the outcome for every quantity of every material.

@@ -85,8 +85,12 @@ std::vector<Message> MaterialDeck::unitChange(std::int32_t id) const
 
 void MaterialDeck::decide(std::int32_t id, Outcome outcome, std::vector<Message> how)
 {
-    if (!m_source.material->hasProperty(id) || m_rows.count(id) != 0)
-        return;
+    if (m_source.material->hasProperty(id) && m_rows.count(id) == 0)
+        addRow(id, outcome, std::move(how));
+}
+
+void MaterialDeck::addRow(std::int32_t id, Outcome outcome, std::vector<Message> how)
+{
     const Mapping* const mapping = findMapping(m_format, id, m_options.dialect);
     const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(id);
     const bool isLost = outcome == Outcome::Lost;
@@ -120,6 +124,14 @@ void MaterialDeck::approximate(std::int32_t id, Message how)
     std::vector<Message> all = unitChange(id);
     all.push_back(std::move(how));
     decide(id, Outcome::Approximated, std::move(all));
+}
+
+void MaterialDeck::assume(std::int32_t id, Message how)
+{
+    if (m_source.material->hasProperty(id))
+        approximate(id, std::move(how));
+    else
+        addRow(id, Outcome::Approximated, {std::move(how)});
 }
 
 void MaterialDeck::refuse(const std::vector<std::int32_t>& ids, const Message& why)
@@ -167,6 +179,10 @@ MaterialReport MaterialDeck::finish()
     for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(*m_source.material)) {
         const auto found = m_rows.find(slot);
         report.rows.push_back(found != m_rows.end() ? found->second : lostRow(slot));
+    }
+    for (const auto& [slot, row] : m_rows) {
+        if (!m_source.material->hasProperty(slot))
+            report.rows.push_back(row);
     }
     return report;
 }

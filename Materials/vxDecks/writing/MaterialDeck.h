@@ -53,6 +53,8 @@ public:
     /// Reports a quantity as written in another form.
     void convert(std::int32_t id, vxUnits::Message how);
     void approximate(std::int32_t id, vxUnits::Message how);
+    /// Does the same for a quantity that the deck needs, also if the material does not have it.
+    void assume(std::int32_t id, vxUnits::Message how);
     /// Reports a quantity, when it has an outcome, as approximated, because its number is rounded to a field.
     void noteRounding(std::int32_t id, std::size_t width) { m_rounded[id] = width; }
     /// Reports quantities as lost although the format takes them.
@@ -66,6 +68,7 @@ public:
 private:
     void removeNumbersThatAreNotFinite();
     void decide(std::int32_t id, Outcome outcome, std::vector<vxUnits::Message> how);
+    void addRow(std::int32_t id, Outcome outcome, std::vector<vxUnits::Message> how);
     void tellRounding();
     ReportRow lostRow(std::int32_t id) const;
     std::vector<vxUnits::Message> unitChange(std::int32_t id) const;

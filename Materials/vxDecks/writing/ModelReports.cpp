@@ -107,8 +107,8 @@ double takeBulkModulus(MaterialDeck& deck, const HyperelasticModel& model, const
         carryOrConvert(deck, Id::IncompressibilityParameterD1, form);
         return 2.0 / *model.d1;
     }
-    deck.approximate(Id::IncompressibilityParameterD1,
-                     makeMessage(Text::BulkModulusLimited, {vxMat::formatNumber(bulkOverShear)}));
+    deck.assume(Id::IncompressibilityParameterD1,
+                makeMessage(Text::BulkModulusLimited, {vxMat::formatNumber(bulkOverShear)}));
     return bulkOverShear * model.shear;
 }
 

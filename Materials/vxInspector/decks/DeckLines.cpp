@@ -111,8 +111,9 @@ private:
         for (std::size_t i = 0; i < std::min(materials.size(), mostNames); ++i)
             names << QString::fromStdString(m_report.materials[materials[i]].name);
         const QString first = names.join(QStringLiteral(", "));
-        return materials.size() <= mostNames ? first
-                                             : tr("%1 and %2 more").arg(first).arg(materials.size() - mostNames);
+        return materials.size() <= mostNames
+                   ? first
+                   : tr("%1 and %2 more").arg(first, QString::number(materials.size() - mostNames));
     }
 
     const vxDecks::Report& m_report;

@@ -1,6 +1,7 @@
 #include "fit/BesideJob.h"
 
-#include <exception>
+#include "Kelta/Exceptions.h"
+
 #include <utility>
 
 namespace vxInspector {
@@ -19,10 +20,8 @@ void BesideJob::run(const std::function<void()>& work)
 {
     try {
         work();
-    } catch (const std::exception& problem) {
-        m_failure = QString::fromLocal8Bit(problem.what());
     } catch (...) {
-        m_failure = QStringLiteral("?");
+        m_failure = Kelta::currentExceptionText();
     }
     QMetaObject::invokeMethod(this, &BesideJob::finished, Qt::QueuedConnection);
 }

@@ -1,5 +1,6 @@
 #include "fit/FitJob.h"
 
+#include "Kelta/Exceptions.h"
 #include "vxConstitutive/fit/PlasticFit.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxConstitutive/response/HyperelasticModel.h"
@@ -122,10 +123,8 @@ void FitJob::run(const FitOrder& order)
     control.cancelled = [this] { return m_cancelled.load(); };
     try {
         m_results = fitAll(order, control);
-    } catch (const std::exception& problem) {
-        m_failure = QString::fromLocal8Bit(problem.what());
     } catch (...) {
-        m_failure = QStringLiteral("?");
+        m_failure = Kelta::currentExceptionText();
     }
     QMetaObject::invokeMethod(this, &FitJob::finished, Qt::QueuedConnection);
 }

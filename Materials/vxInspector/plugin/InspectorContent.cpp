@@ -20,7 +20,11 @@ InspectorContent::InspectorContent(QLabel& hint) : m_watch(new SubjectWatch(this
     connect(m_watch, &SubjectWatch::changed, this, &InspectorContent::refreshIfNeeded);
 }
 
-InspectorContent::~InspectorContent() = default;
+/// The tabs go before the watch, which was made first.
+InspectorContent::~InspectorContent()
+{
+    delete m_inspector;
+}
 
 void InspectorContent::showEvent(QShowEvent* event)
 {

@@ -42,8 +42,14 @@ void InspectorDock::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     if (!std::exchange(m_isPainted, true))
-        QTimer::singleShot(0, this,
-                           [this] { Kelta::guarded(tr("The inspector cannot be loaded"), [this] { makeContent(); }); });
+        QTimer::singleShot(0, this, &InspectorDock::load);
+}
+
+void InspectorDock::load()
+{
+    const bool isMade = Kelta::guarded(tr("The inspector cannot be loaded"), [this] { makeContent(); });
+    if (!isMade && m_hint != nullptr)
+        m_hint->setText(tr("The inspector cannot be loaded; the message log says why."));
 }
 
 void InspectorDock::makeContent()

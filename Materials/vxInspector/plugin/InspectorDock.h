@@ -23,6 +23,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void load();
     void makeContent();
     void retranslate();
 

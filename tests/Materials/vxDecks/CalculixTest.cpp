@@ -158,6 +158,17 @@ TEST(CalculixDeck, HasTheConstantsOfEachHyperelasticModel)
     EXPECT_EQ(outcomeOf(deck, Id::MaterialConstantC10), "lost: the material model does not use it");
 }
 
+TEST(CalculixDeck, TellsTheBulkModulusOfRubberWithoutD1)
+{
+    MaterialMaker rubber;
+    rubber.on(Id::NeoHooke).number(Id::MaterialConstantC10, 5e5);
+    const Deck deck = deckOf(rubber);
+    EXPECT_THAT(deck.text, HasSubstr("*HYPERELASTIC, NEO HOOKE\n5e5, 4e-9\n"));
+    EXPECT_EQ(outcomeOf(deck, Id::IncompressibilityParameterD1),
+              "approximated: the solver has no incompressible solid; the bulk modulus is 500 times the initial shear "
+              "modulus");
+}
+
 TEST(CalculixDeck, ReplacesExactIncompressibilityByALargeBulkModulus)
 {
     MaterialMaker rubber;

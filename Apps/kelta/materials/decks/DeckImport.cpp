@@ -66,12 +66,17 @@ ImportedDeck makeImported(ReadDeck deck)
     std::uint32_t number = 0;
     for (vxDecks::ReadMaterial& one : deck.materials)
         imported.materials.materials.push_back({++number, one.name, std::move(one.material)});
+    std::size_t omitted = 0;
     for (const DeckLine& line : vxInspector::deckLines(deck.report)) {
         const bool isLoss = line.kind == DeckLine::Kind::Refused || line.kind == DeckLine::Kind::Lost ||
                             line.kind == DeckLine::Kind::Approximated;
         if (isLoss && imported.materials.doubts.size() < projectfile::mostDoubts)
             imported.materials.doubts.push_back(sentence(line));
+        else if (isLoss)
+            ++omitted;
     }
+    if (omitted > 0)
+        imported.materials.doubts.push_back(tr("Further losses are not listed: %1.").arg(omitted).toStdString());
     imported.reports << vxInspector::deckRemarks(deck.report) << vxInspector::deckSummary(deck.report);
     return imported;
 }

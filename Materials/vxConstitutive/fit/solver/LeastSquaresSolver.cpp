@@ -2,7 +2,7 @@
 
 #include <ceres/ceres.h>
 #include <cmath>
-#include <exception>
+#include <new>
 #include <utility>
 
 namespace {
@@ -124,7 +124,9 @@ vxSolveLeastSquares(const LeastSquares& problem, const std::function<bool()>& ca
 {
     try {
         return solve(problem, cancelled, parameters);
-    } catch (const std::exception&) {
+    } catch (const std::bad_alloc&) {
         return vxConstitutive::SolverExhausted;
+    } catch (...) {
+        return vxConstitutive::SolverStopped;
     }
 }

@@ -72,6 +72,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
     {"decks.as-acoustic-bulk", "as the bulk modulus, the density times the square of the speed"},
     {"decks.as-permittivity", "as the permittivity, times that of vacuum"},
     {"decks.as-permeability", "as the permeability, times that of vacuum"},
+    {"decks.total-strains-do-not-ascend",
+     "the table needs ascending total strains (plastic strain plus stress / E), also in the digits of its fields"},
 }};
 
 } // namespace

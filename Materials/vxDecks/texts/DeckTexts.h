@@ -69,6 +69,7 @@ enum class Text : std::size_t
     AsAcousticBulk,
     AsPermittivity,
     AsPermeability,
+    TotalStrainsDoNotAscend,
     Count
 };
 

@@ -145,7 +145,7 @@ void writeMat1(MaterialDeck& deck)
 }
 
 /// TABLES1: number, seven blank fields, then pairs of total strain and stress from the origin
-void writeStressStrainTable(MaterialDeck& deck, const PlasticModel& model)
+Cells stressStrainTable(const MaterialDeck& deck, const PlasticModel& model)
 {
     const double youngs = deck.models().elastic.model->youngsModulus;
     Cells cells{numberOf(deck), blank, blank, blank, blank, blank, blank, blank, Real{0.0}, Real{0.0}};
@@ -155,8 +155,24 @@ void writeStressStrainTable(MaterialDeck& deck, const PlasticModel& model)
         cells.emplace_back(Real{model.stresses[i], Id::PlasticYieldStress});
     }
     cells.emplace_back("ENDT");
-    writeEntry(deck, "TABLES1", std::move(cells));
+    return cells;
 }
+
+/// Returns whether each total strain of a table is larger than the one before, in the digits of its field too.
+bool ascends(const MaterialDeck& deck, const Cells& table)
+{
+    const std::size_t width = formOf(deck, table).width();
+    constexpr std::size_t first = 8;
+    for (std::size_t i = first; i + 3 < table.size(); i += 2) {
+        const bool isLarger = std::get<Real>(table[i]).value < std::get<Real>(table[i + 2]).value;
+        if (!isLarger || textOf(table[i], width) == textOf(table[i + 2], width))
+            return false;
+    }
+    return true;
+}
+
+const std::vector<std::int32_t> plasticIds{Id::Plasticity,         Id::PlasticYieldType, Id::PlasticHardeningType,
+                                           Id::PlasticYieldStress, Id::PlasticStrain,    Id::PlasticInitialYieldStress};
 
 /// MATS1: MID, TID, TYPE, H, YF, HR, LIMIT1
 void writeMats1(MaterialDeck& deck)
@@ -167,12 +183,17 @@ void writeMats1(MaterialDeck& deck)
     const std::string rule = model->isKinematic ? "2" : "1";
     const bool isTabulated = model->source == HardeningSource::Points;
     const Cell table = isTabulated ? Cell(numberOf(deck)) : blank;
+    const Cells points = isTabulated ? stressStrainTable(deck, *model) : Cells();
+    if (isTabulated && !ascends(deck, points)) {
+        deck.refuse(plasticIds, makeMessage(Text::TotalStrainsDoNotAscend));
+        return;
+    }
     const Cell modulus = isTabulated ? blank : Cell(Real{model->modulus, Id::PlasticHardeningFactor});
     writeEntry(deck, "MATS1",
                {numberOf(deck), table, "PLASTIC", modulus, "1", rule,
                 Real{model->yieldStress, isTabulated ? Id::PlasticYieldStress : Id::PlasticInitialYieldStress}});
     if (isTabulated) {
-        writeStressStrainTable(deck, *model);
+        writeEntry(deck, "TABLES1", points);
         deck.convert(Id::PlasticStrain, makeMessage(Text::AsTotalStrain));
     }
     reportPlastic(deck, *model, std::nullopt);

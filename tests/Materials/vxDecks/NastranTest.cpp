@@ -158,6 +158,25 @@ TEST(NastranDeck, HasAHardeningCurveOverTotalStrainFromTheOrigin)
               "converted: as total strains, plastic strain + stress / E");
 }
 
+TEST(NastranDeck, RefusesAHardeningCurveWhoseTotalStrainsDoNotAscend)
+{
+    // The stress falls faster than the plastic strain grows: 0.0021749, 0.0020300.
+    auto falling = vxtest::multilinear();
+    falling->list(Id::PlasticYieldStress, {4.5e8, 4.2e8}).list(Id::PlasticStrain, {0.0, 1e-7});
+    const Deck deck = deckOf(*falling);
+    EXPECT_THAT(deck.text, testing::Not(testing::HasSubstr("MATS1")));
+    EXPECT_THAT(outcomeOf(deck, Id::PlasticYieldStress), testing::StartsWith("lost: the table needs ascending total"));
+
+    // Small fields give both strains the same digits.
+    auto close = vxtest::multilinear();
+    close->list(Id::PlasticYieldStress, {4.5e8, 4.5001e8}).list(Id::PlasticStrain, {0.0, 1e-8});
+    vxDecks::DeckOptions options;
+    options.fields = vxDecks::FieldForm::Small;
+    options.units = *vxUnits::UnitSystem::parse("mm-t-s");
+    EXPECT_THAT(writeDeck(Format::Nastran, {{"Close", 1, &close->get()}}, options).text,
+                testing::Not(testing::HasSubstr("TABLES1")));
+}
+
 TEST(NastranDeck, HasHyperelasticConstantsWithHalfTheBulkModulus)
 {
     // K = 2 / D1 = 1000 MPa

@@ -49,16 +49,19 @@ void markAsUnreadable(QStyleOptionViewItem& option)
     option.palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xd6, 0xd2));
 }
 
-/// Paints a warning sign after the text of a cell, or at its end if the text is long.
-void paintSign(QPainter& painter, const QStyleOptionViewItem& option, const QString& text)
+/// Returns the place of a warning sign: after the text of a cell, or at the end of the cell if the text is long.
+QRect signPlace(const QStyleOptionViewItem& option, const QString& text)
 {
     constexpr int margin = 2;
     constexpr int mostMeasured = 200; // characters; a list may be long
     constexpr int distance = 10;      // from the begin of the cell and from the text, together
     const int size = std::min(option.rect.height() - 2 * margin, option.fontMetrics.height());
     const int after = option.rect.left() + option.fontMetrics.horizontalAdvance(text.left(mostMeasured)) + distance;
-    const QRect place(std::min(after, option.rect.right() - size - margin), option.rect.center().y() - size / 2, size,
-                      size);
+    return {std::min(after, option.rect.right() - size - margin), option.rect.center().y() - size / 2, size, size};
+}
+
+void paintSign(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place)
+{
     const QStyle* const style = option.widget != nullptr ? option.widget->style() : QApplication::style();
     style->standardIcon(QStyle::SP_MessageBoxWarning, &option, option.widget).paint(&painter, place);
 }
@@ -121,9 +124,13 @@ void ValueCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     const bool isDoubtful = !isUnreadable(index) && !m_doubts.about(index).isEmpty();
     if (isUnreadable(index))
         markAsUnreadable(marked);
+    const QRect place = isDoubtful ? signPlace(option, index.data().toString()) : QRect();
+    // The sign does not cover the end of a number, which may be its exponent.
+    if (isDoubtful)
+        marked.rect.setRight(place.left() - 1);
     SheetTableDelegate::paint(painter, marked, index);
     if (isDoubtful)
-        paintSign(*painter, option, index.data().toString());
+        paintSign(*painter, option, place);
 }
 
 bool ValueCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

@@ -70,6 +70,7 @@ UnitChoice::UnitChoice(Preference preference, std::optional<UnitSystem> ofProjec
     m_bases->setMaxLength(longestText);
     m_remark->setObjectName(QStringLiteral("unitRemark"));
     setFocusProxy(m_systems);
+    setFocusPolicy(Qt::StrongFocus); // a label gives the focus only to a widget that takes it
     fillSystems();
     buildLayout();
     retranslate();

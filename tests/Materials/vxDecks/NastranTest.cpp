@@ -169,7 +169,7 @@ TEST(NastranDeck, RefusesAHardeningCurveWhoseTotalStrainsDoNotAscend)
 
     // Small fields give both strains the same digits.
     auto close = vxtest::multilinear();
-    close->list(Id::PlasticYieldStress, {4.5e8, 4.5001e8}).list(Id::PlasticStrain, {0.0, 1e-8});
+    close->list(Id::PlasticYieldStress, {4.5e8, 4.500001e8}).list(Id::PlasticStrain, {0.0, 1e-9});
     vxDecks::DeckOptions options;
     options.fields = vxDecks::FieldForm::Small;
     options.units = *vxUnits::UnitSystem::parse("mm-t-s");

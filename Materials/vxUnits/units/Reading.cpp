@@ -398,7 +398,8 @@ private:
     /// Returns "250 MPa, 300 MPa" for "250 MPa 300 MPa"; empty if no number follows a unit in the item.
     std::string withCommaAfterUnit(const Item& item) const
     {
-        const std::string_view text = item.text;
+        constexpr std::size_t longest = 200; // each blank takes a reading of the text
+        const std::string_view text = item.text.size() <= longest ? item.text : std::string_view();
         for (std::size_t at = text.find(' '); at != std::string_view::npos; at = text.find(' ', at + 1)) {
             const std::string_view before = text.substr(0, at);
             const std::string_view after = text.substr(at + 1);

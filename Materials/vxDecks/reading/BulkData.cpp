@@ -169,7 +169,7 @@ void BulkDataReader::read()
         if (m_lines.number() == 1 && line.substr(0, byteOrderMark.size()) == byteOrderMark)
             line.remove_prefix(byteOrderMark.size());
         if (!line.empty() && line.front() == '$') {
-            m_visitor.comment(line);
+            m_visitor.comment(line, m_lines.number());
             continue;
         }
         line = line.substr(0, line.find('$'));

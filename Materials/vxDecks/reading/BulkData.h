@@ -30,8 +30,8 @@ class BulkVisitor
 public:
     virtual ~BulkVisitor() = default;
 
-    /// Takes a comment with its dollar sign.
-    virtual void comment(std::string_view text) = 0;
+    /// Takes a comment with its dollar sign, and its line.
+    virtual void comment(std::string_view text, std::size_t line) = 0;
     /// Is called at BEGIN BULK. What came before belongs to other sections of the file, if this is the first one.
     virtual void beginBulk() = 0;
     /// Takes an INCLUDE statement with the name of the file.

@@ -21,8 +21,8 @@ constexpr std::size_t mostIncluded = 100;
 class CalculixDeck
 {
 public:
-    CalculixDeck(std::istream& file, const vxUnits::UnitSystem& units, ReadDeck& deck)
-        : m_lines(file), m_units(units), m_deck(deck)
+    CalculixDeck(std::istream& file, const vxUnits::UnitSystem& units, DeclaredUnits& declared, ReadDeck& deck)
+        : m_lines(file), m_units(units), m_declared(declared), m_deck(deck)
     {}
 
     void read();
@@ -43,6 +43,7 @@ private:
 
     DeckLines m_lines;
     ReadUnits m_units;
+    DeclaredUnits& m_declared;
     ReadDeck& m_deck;
     std::unique_ptr<MaterialReading> m_material; ///< null outside of materials
     MaterialCards m_cards;                       ///< of the material, without the card that is being read
@@ -66,8 +67,10 @@ void CalculixDeck::read()
 void CalculixDeck::takeLine()
 {
     const std::string_view line = trimmed(m_lines.line());
-    if (isComment(line))
+    if (isComment(line)) {
+        m_declared.check(line, m_lines.number());
         return;
+    }
     if (line.front() != '*') {
         takeData(line);
         return;
@@ -211,9 +214,9 @@ void CalculixDeck::countForeign(std::string_view line)
         foreign.push_back({name, 1, m_lines.number()});
 }
 
-void readCalculix(std::istream& file, const vxUnits::UnitSystem& units, ReadDeck& deck)
+void readCalculix(std::istream& file, const vxUnits::UnitSystem& units, DeclaredUnits& declared, ReadDeck& deck)
 {
-    CalculixDeck(file, units, deck).read();
+    CalculixDeck(file, units, declared, deck).read();
 }
 
 } // namespace

@@ -2,12 +2,31 @@
 
 #include "vxDecks/DeckReading.h"
 
+#include <cstddef>
 #include <istream>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 namespace vxDecks {
+
+/// The unit system that the comments of a deck declare, of which there is only one: decks that are joined from several may
+/// declare others further down.
+class DeclaredUnits
+{
+public:
+    /// `comment` are the characters with which a comment begins. `expected` is the system that the first comments declare, or else
+    /// that of the user; absent if the first declaration counts.
+    DeclaredUnits(std::string_view comment, std::optional<vxUnits::UnitSystem> expected);
+
+    /// Takes a line of the deck, from 1.
+    /// \throws DeckError if it declares another unit system
+    void check(std::string_view line, std::size_t number);
+
+private:
+    std::string_view m_comment;
+    std::optional<vxUnits::UnitSystem> m_expected;
+};
 
 /// The functions of a format that can be read, or that is only recognised.
 struct DeckReader
@@ -16,8 +35,10 @@ struct DeckReader
     /// Returns whether the beginning of a file is in the format.
     bool (*recognises)(std::string_view beginning) = nullptr;
     /// Reads materials whose numbers are in a unit system. Adds materials, their reports, foreign cards and notes to the deck.
-    /// The units have no effect in a format with own units. Null if the format cannot be read.
-    void (*read)(std::istream& file, const vxUnits::UnitSystem& units, ReadDeck& deck) = nullptr;
+    /// Comments are passed to DeclaredUnits::check. The units have no effect in a format with own units. Null if the format
+    /// cannot be read.
+    void (*read)(std::istream& file, const vxUnits::UnitSystem& units, DeclaredUnits& declared,
+                 ReadDeck& deck) = nullptr;
     /// The characters with which a comment begins; the first comments may declare the units: "** Units: mm, t, s, K, A".
     /// Empty if numbers have their own units.
     std::string_view comment;

@@ -116,10 +116,11 @@ void noteUnits(const std::optional<UnitSystem>& declared, const UnitSystem& used
 }
 
 /// Calls a reader. A file buffer that cannot read throws std::ios_base::failure.
-void readAll(const DeckReader& reader, std::istream& file, const UnitSystem& units, ReadDeck& deck)
+void readAll(const DeckReader& reader, std::istream& file, const UnitSystem& units, DeclaredUnits& declared,
+             ReadDeck& deck)
 {
     try {
-        reader.read(file, units, deck);
+        reader.read(file, units, declared, deck);
     } catch (const std::ios_base::failure&) {
         throw DeckError(makeMessage(ReadText::StreamFailed), 0);
     }
@@ -174,6 +175,19 @@ std::optional<UnitSystem> unitsOfComment(std::string_view line, std::string_view
     return systemOfBaseUnits(trimmed(line.substr(title.size())));
 }
 
+DeclaredUnits::DeclaredUnits(std::string_view comment, std::optional<UnitSystem> expected)
+    : m_comment(comment), m_expected(std::move(expected))
+{}
+
+void DeclaredUnits::check(std::string_view line, std::size_t number)
+{
+    auto units = unitsOfComment(trimmed(line), m_comment);
+    if (units && m_expected && *units != *m_expected)
+        throw DeckError(makeMessage(ReadText::OtherUnitsDeclared, {units->text(), m_expected->text()}), number);
+    if (units)
+        m_expected = std::move(units);
+}
+
 std::optional<UnitSystem> declaredUnits(Format format, std::string_view beginning)
 {
     const DeckReader* const reader = findReader(format);
@@ -209,7 +223,8 @@ ReadDeck readDeck(Format format, std::istream& file, const ReadOptions& options)
     const auto units = options.units ? options.units : declared;
     ReadDeck deck;
     deck.report.format = format;
-    readAll(reader, whole, units.value_or(UnitSystem::si()), deck);
+    DeclaredUnits declarations(reader.comment, declared ? declared : options.units);
+    readAll(reader, whole, units.value_or(UnitSystem::si()), declarations, deck);
     noteForeignCards(deck);
     if (hasOwnUnits(format))
         return deck;

@@ -374,7 +374,7 @@ void addElasticity(const MatmlDeclarations& properties, MaterialReading& materia
         material.setSwitch(Id::IsotropicElasticity);
 }
 
-void readMatml(std::istream& file, const UnitSystem& units, ReadDeck& deck)
+void readMatml(std::istream& file, const UnitSystem& units, DeclaredUnits& /*declared*/, ReadDeck& deck)
 {
     pugi::xml_document document;
     parseDocument(readBounded(file), document);

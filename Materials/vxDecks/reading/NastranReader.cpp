@@ -45,9 +45,9 @@ bool isMaterialCard(std::string_view name)
 class MaterialCollector : public BulkVisitor
 {
 public:
-    explicit MaterialCollector(ReadDeck& deck) : m_deck(deck) {}
+    MaterialCollector(DeclaredUnits& declared, ReadDeck& deck) : m_declared(declared), m_deck(deck) {}
 
-    void comment(std::string_view text) override;
+    void comment(std::string_view text, std::size_t line) override;
     void beginBulk() override;
     void include(std::string_view file, std::size_t line) override;
     bool begin(BulkEntry& entry) override;
@@ -62,6 +62,7 @@ private:
     std::string titleOf(const BulkMaterial& material) const;
     void noteEntriesWithoutMaterial();
 
+    DeclaredUnits& m_declared;
     ReadDeck& m_deck;
     std::vector<BulkMaterial> m_materials;
     std::unordered_map<std::uint32_t, std::size_t> m_positions; ///< of the materials, by number
@@ -72,10 +73,11 @@ private:
     bool m_isInBulk = false;
 };
 
-void MaterialCollector::comment(std::string_view text)
+void MaterialCollector::comment(std::string_view text, std::size_t line)
 {
     constexpr std::size_t mostTitles =
         100000; // a bound of memory: comments may name materials that the file does not have
+    m_declared.check(text, line);
     auto title = readBulkTitle(text);
     if (title && !title->number)
         m_nextTitle = std::move(title->name);
@@ -207,9 +209,9 @@ void MaterialCollector::finish(const vxUnits::UnitSystem& units)
     }
 }
 
-void readNastran(std::istream& file, const vxUnits::UnitSystem& units, ReadDeck& deck)
+void readNastran(std::istream& file, const vxUnits::UnitSystem& units, DeclaredUnits& declared, ReadDeck& deck)
 {
-    MaterialCollector collector(deck);
+    MaterialCollector collector(declared, deck);
     readBulkData(file, collector);
     collector.finish(units);
 }

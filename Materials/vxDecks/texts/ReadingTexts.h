@@ -19,6 +19,7 @@ enum class ReadText : std::size_t
     Units,
     UnitsDeclared,
     UnitsOverridden,
+    OtherUnitsDeclared,
     NotOfMaterials,
     Included,
     ReadOtherUnit,

@@ -84,6 +84,31 @@ TEST(CalculixReading, PrefersTheUnitsOfTheUserAndSaysSo)
               "The deck declares the unit system SI, but is read in mm-t-s, which was chosen.");
 }
 
+TEST(CalculixReading, RefusesDecksThatAreJoinedFromSeveralUnitSystems)
+{
+    const std::string inMm = "** Units: mm, t, s, K, A\n" + steel;
+    const std::string inSi = "** Units: m, kg, s, K, A\n*MATERIAL, NAME=B\n*DENSITY\n7850.\n";
+    for (const char* const chosen : {"", "mm-t-s", "SI", "cm-g-s"})
+        EXPECT_EQ(errorOf(Format::Calculix, inMm + inSi, chosen),
+                  "line 7: the deck declares the unit system SI here, but mm-t-s is that of the numbers before; divide "
+                  "it into "
+                  "decks of one unit system each");
+    EXPECT_EQ(readText(Format::Calculix, inMm + inMm).materials.size(), 2U);
+}
+
+TEST(CalculixReading, RefusesUnitsThatAreDeclaredBehindNumbersOfOthers)
+{
+    std::string nodes = "*NODE\n";
+    for (int i = 0; i < 60; ++i)
+        nodes += "1, 0., 0., 0.\n";
+    const std::string deck = steel + nodes + "** Units: m, kg, s, K, A\n";
+    EXPECT_EQ(
+        errorOf(Format::Calculix, deck, "mm-t-s"),
+        "line 67: the deck declares the unit system SI here, but mm-t-s is that of the numbers before; divide it into "
+        "decks of one unit system each");
+    EXPECT_EQ(errorOf(Format::Calculix, deck, "SI"), "");
+}
+
 TEST(CalculixReading, ReportsUnitsThatDiffer)
 {
     const ReadDeck deck = readText(Format::Calculix, steel, "mm-t-s");

@@ -193,7 +193,7 @@ void CalculixDeck::endMaterial()
     endCard();
     if (m_material == nullptr)
         return;
-    readCards(m_cards, *m_material);
+    readCards(m_cards, m_units.system(), *m_material);
     m_material->finish(m_units, m_deck);
     m_material.reset();
     m_cards.clear();

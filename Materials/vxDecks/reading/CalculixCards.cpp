@@ -1,15 +1,17 @@
 #include "reading/CalculixCards.h"
 
+#include "models/Vacuum.h"
+#include "reading/HardeningCurve.h"
 #include "reading/KeywordNames.h"
 #include "texts/DeckTexts.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/ModelReports.h"
+#include "writing/NumberField.h"
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <unordered_map>
 #include <utility>
 
@@ -124,6 +126,25 @@ void readElectricalConductivity(const KeywordCard& card, MaterialReading& materi
 void readViscosity(const KeywordCard& card, MaterialReading& material)
 {
     readNumber(card, Id::DynamicViscosity, material);
+}
+
+/// The number is absolute until takeRelative().
+void readDielectric(const KeywordCard& card, MaterialReading& material)
+{
+    readNumber(card, Id::RelativePermittivity, material);
+}
+
+/// The number, which is absolute until takeRelative(), may have the domain of CalculiX behind it: 1 or 2.
+void readPermeability(const KeywordCard& card, MaterialReading& material)
+{
+    if (card.hasParameter("NONLINEAR")) {
+        material.refuse(card.name, makeMessage(ReadText::NoModelForKind, {card.given}));
+        return;
+    }
+    if (!requireIsotropic(card, material))
+        return;
+    if (const auto constants = takeConstants(card, {2, 1}, material))
+        material.setNumber(Id::RelativePermeability, constants->front());
 }
 
 /// The specific heat of *SPECIFIC HEAT takes precedence.
@@ -300,19 +321,6 @@ bool takeModulus(const Curve& curve, MaterialReading& material)
     return true;
 }
 
-void takePoints(Curve curve, MaterialReading& material)
-{
-    const bool ascends =
-        std::adjacent_find(curve.strains.begin(), curve.strains.end(), std::greater_equal<>()) == curve.strains.end();
-    const double first = curve.strains.front();
-    material.setList(Id::PlasticYieldStress, std::move(curve.stresses));
-    material.setList(Id::PlasticStrain, std::move(curve.strains));
-    if (first != 0.0)
-        material.approximate(Id::PlasticStrain, makeMessage(ReadText::CurveNotFromZero, {vxMat::formatNumber(first)}));
-    if (!ascends)
-        material.approximate(Id::PlasticStrain, makeMessage(ReadText::CurveNotAscending));
-}
-
 /// Returns the reason why a plastic card cannot be read; absent if it can.
 std::optional<Message> findObstacleToPlasticity(const KeywordCard& card)
 {
@@ -335,7 +343,7 @@ void readPlastic(const KeywordCard& card, MaterialReading& material)
     material.setWord(Id::PlasticYieldType, "Mises");
     const bool isModulus = takeModulus(curve, material);
     if (!isModulus)
-        takePoints(std::move(curve), material);
+        setHardeningCurve(material, std::move(curve.stresses), std::move(curve.strains));
     const bool isKinematic = card.word("HARDENING") == "KINEMATIC";
     material.setWord(Id::PlasticHardeningType, isKinematic ? "Kinematic" : isModulus ? "Bilinear" : "Multilinear");
 }
@@ -435,6 +443,8 @@ constexpr CardReader cardReaders[] = {
     {"*VISCOSITY", readViscosity},
     {"*VISCOELASTIC", readViscoelastic},
     {"*ACOUSTIC MEDIUM", readAcousticMedium},
+    {"*DIELECTRIC", readDielectric},
+    {"*MAGNETIC PERMEABILITY", readPermeability},
 };
 
 /// A card of a material that is not read, and the reason.
@@ -445,8 +455,6 @@ struct OtherCard
 };
 
 constexpr OtherCard otherCards[] = {
-    {"*DIELECTRIC", ReadText::RelativeInCatalogue},
-    {"*MAGNETIC PERMEABILITY", ReadText::RelativeInCatalogue},
     {"*ANNEAL TEMPERATURE", ReadText::NoQuantity},
     {"*BRITTLE CRACKING", ReadText::NoQuantity},
     {"*BRITTLE FAILURE", ReadText::NoQuantity},
@@ -528,17 +536,19 @@ void takeInstantaneous(const KeywordCard& elastic, MaterialReading& material)
     const double remains = 1.0 - *material.number(Id::ShearRelaxationModulus);
     const double e = *material.number(Id::YoungsModulus);
     const double nu = *material.number(Id::PoissonsRatio);
-    const double threeBulk = e / (1.0 - 2.0 * nu);
     const double shear = e / (2.0 * (1.0 + nu)) / remains;
-    const double instantaneous = 3.0 * threeBulk * shear / (threeBulk + shear);
+    // The shear modulus over three bulk moduli, which is 0 if the solid is incompressible.
+    const double ratio = (1.0 - 2.0 * nu) / (2.0 * (1.0 + nu)) / remains;
+    const double instantaneous = 3.0 * shear / (1.0 + ratio);
     if (!(remains > 0.0) || !std::isfinite(instantaneous)) {
         removeAll(pronyIds(), material);
-        material.refuse("*VISCOELASTIC", makeMessage(ReadText::RelaxesWholly));
+        material.refuse("*VISCOELASTIC",
+                        makeMessage(remains > 0.0 ? ReadText::NotFiniteInCatalogue : ReadText::RelaxesWholly));
         return;
     }
     material.beginCard(elastic.name);
     material.setNumber(Id::YoungsModulus, instantaneous);
-    material.setNumber(Id::PoissonsRatio, (threeBulk - 2.0 * shear) / (2.0 * (threeBulk + shear)));
+    material.setNumber(Id::PoissonsRatio, (1.0 - 2.0 * ratio) / (2.0 * (1.0 + ratio)));
     for (const std::int32_t id : {Id::YoungsModulus, Id::PoissonsRatio})
         material.convert(id, makeMessage(ReadText::FromLongTerm));
 }
@@ -554,6 +564,17 @@ void completeViscoelasticity(const MaterialCards& cards, MaterialReading& materi
     }
     removeAll(pronyIds(), material);
     material.refuse("*VISCOELASTIC", makeMessage(Text::NeedsModel));
+}
+
+/// Divides an absolute number by that of vacuum, because the catalogue has the relative one.
+void takeRelative(const char* card, std::int32_t id, double vacuum, MaterialReading& material)
+{
+    const auto absolute = material.number(id);
+    if (!absolute)
+        return;
+    material.beginCard(card);
+    material.setNumber(id, withoutRoundingError(*absolute / vacuum));
+    material.convert(id, makeMessage(ReadText::FromAbsolute));
 }
 
 /// Beside plasticity, the solver does not apply the creep law as the catalogue means it.
@@ -584,7 +605,7 @@ Message reasonWithoutNumbers(const std::string& keyword)
     return makeMessage(card == nullptr ? ReadText::UnknownKeyword : card->why);
 }
 
-void readCards(const MaterialCards& cards, MaterialReading& material)
+void readCards(const MaterialCards& cards, const vxUnits::UnitSystem& units, MaterialReading& material)
 {
     for (const CardReader& reader : cardReaders) {
         const auto found = cards.find(keywordOf(reader.card));
@@ -600,6 +621,8 @@ void readCards(const MaterialCards& cards, MaterialReading& material)
     }
     completeViscoelasticity(cards, material);
     completeCreep(material);
+    takeRelative("*DIELECTRIC", Id::RelativePermittivity, vacuumPermittivity().in(units), material);
+    takeRelative("*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuumPermeability().in(units), material);
 }
 
 } // namespace vxDecks

@@ -20,8 +20,8 @@ vxUnits::Message reasonWithoutNumbers(const std::string& keyword);
 /// The cards of a material by their keywords, as in KeywordCard::keyword.
 using MaterialCards = std::map<std::string, KeywordCard>;
 
-/// Gives a material the quantities of its cards, or reports why it does not have them.
+/// Gives a material the quantities of its cards, whose numbers are in a unit system, or reports why it does not have them.
 /// \throws DeckError if a card has too few numbers
-void readCards(const MaterialCards& cards, MaterialReading& material);
+void readCards(const MaterialCards& cards, const vxUnits::UnitSystem& units, MaterialReading& material);
 
 } // namespace vxDecks

@@ -1,6 +1,7 @@
 #include "reading/NastranCards.h"
 
 #include "reading/BulkTitles.h"
+#include "reading/HardeningCurve.h"
 #include "reading/TextOfDeck.h"
 #include "texts/BulkTexts.h"
 #include "texts/DeckTexts.h"
@@ -270,13 +271,6 @@ void readMathp(CardReader& card)
                           : makeMessage(BulkText::BlankMeans, {card.nameOf(3), "1000 (A10 + A01)"}));
 }
 
-/// Sets the points of a table over plastic strain.
-void setCurve(MaterialReading& material, std::vector<double> stresses, std::vector<double> strains)
-{
-    material.setList(Id::PlasticYieldStress, std::move(stresses));
-    material.setList(Id::PlasticStrain, std::move(strains));
-}
-
 /// Sets the points of a table over total strain, which begins at the origin and then has the yield point.
 void setCurveOfTotalStrain(CardReader& card, const BulkTable& table, double youngs)
 {
@@ -291,7 +285,7 @@ void setCurveOfTotalStrain(CardReader& card, const BulkTable& table, double youn
     const bool isOfOtherSlope = contradict(table.stresses[1] / table.strains[1], youngs);
     const bool isRounded = std::abs(strains.front()) > roundedDigits * std::abs(table.strains[1]);
     strains.front() = 0.0;
-    setCurve(material, std::move(stresses), std::move(strains));
+    setHardeningCurve(material, std::move(stresses), std::move(strains));
     if (isOfOtherSlope)
         material.approximate(Id::PlasticStrain, makeMessage(BulkText::OtherFirstSlope));
     else if (isRounded)
@@ -324,6 +318,8 @@ const BulkTable* findTable(CardReader& card)
         return nullptr;
     }
     const BulkTable& table = found->second;
+    if (table.repeatedInLine != 0)
+        card.material().refuse("TABLES1", makeMessage(BulkText::EntryRepeated, {std::to_string(table.repeatedInLine)}));
     if (!table.badNumber.empty())
         throw DeckError(makeMessage(BulkText::FieldWithoutNumber, {"TABLES1", toUtf8(table.badNumber)}), table.line);
     return &table;
@@ -352,8 +348,10 @@ void readTable(CardReader& card)
     const std::size_t count = table.strains.size();
     if (!isPlasticStrain) {
         card.refuse(1, makeMessage(BulkText::TableOfOtherKind));
+    } else if (count == 0) {
+        card.refuse(1, makeMessage(BulkText::TableWithoutPoints));
     } else if (*isPlasticStrain) {
-        setCurve(material, table.stresses, table.strains);
+        setHardeningCurve(material, table.stresses, table.strains);
     } else if (youngs == 0.0) {
         card.refuse(1, makeMessage(Text::NeedsModel));
     } else if (count < 2 || table.strains[0] != 0.0 || table.stresses[0] != 0.0 || table.strains[1] == 0.0) {
@@ -480,6 +478,10 @@ void BulkTables::add(const BulkEntry& entry)
 {
     constexpr std::size_t firstPoint = 8;
     const auto number = readBulkId(entry.field(0));
+    if (const auto known = number ? tables.find(*number) : tables.end(); known != tables.end()) {
+        known->second.repeatedInLine = entry.line;
+        return;
+    }
     const std::size_t size = entry.fields.size() / 2;
     isFull = isFull || points + size > mostPoints;
     if (!number || isFull)

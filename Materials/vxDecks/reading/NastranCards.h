@@ -15,8 +15,9 @@ namespace vxDecks {
 struct BulkTable
 {
     std::size_t line = 0;
-    std::string kind;      ///< the field behind the number; blank for stress over total strain
-    std::string badNumber; ///< the first field that is no number; empty if there is none
+    std::string kind;               ///< the field behind the number; blank for stress over total strain
+    std::size_t repeatedInLine = 0; ///< of the last other table with the same number; 0 if there is none
+    std::string badNumber;          ///< the first field that is no number; empty if there is none
     std::vector<double> strains;
     std::vector<double> stresses;
 };

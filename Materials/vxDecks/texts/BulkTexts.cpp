@@ -40,6 +40,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(BulkText::Co
     {"decks.nastran.table-of-other-kind", "the table does not have true stress over strain"},
     {"decks.nastran.table-not-from-origin",
      "the table is over total strain, but does not begin with the origin and the yield point"},
+    {"decks.nastran.table-without-points", "the table has no points"},
     {"decks.matml.too-large", "the file has more than %1 MB; divide it into several files"},
     {"decks.matml.not-well-formed", "the XML is not well-formed: %1"},
     {"decks.matml.doctype", "the file has a document type declaration (DOCTYPE), which is not read because it may "

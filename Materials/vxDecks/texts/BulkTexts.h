@@ -35,6 +35,7 @@ enum class BulkText : std::size_t
     TableBeyondBound,
     TableOfOtherKind,
     TableNotFromOrigin,
+    TableWithoutPoints,
     XmlTooLarge,
     XmlNotWellFormed,
     XmlDoctype,

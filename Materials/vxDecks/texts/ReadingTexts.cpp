@@ -59,7 +59,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
     {"decks.reading.over-strain-rate", "it depends on the strain rate"},
     {"decks.reading.curve-not-from-zero", "the first plastic strain is %1, not 0; check the curve"},
     {"decks.reading.curve-not-ascending", "the plastic strains do not ascend; check the curve"},
-    {"decks.reading.relative-in-catalogue", "the value is absolute, and the catalogue has it relative to vacuum"},
+    {"decks.reading.from-absolute", "from the absolute value, over that of vacuum"},
     {"decks.reading.from-bulk-modulus", "from the bulk modulus and the density"},
     {"decks.reading.no-speed-of-sound", "the speed of sound needs a bulk modulus and a density above 0"},
     {"decks.reading.more-cards", "%1 more cards are not taken"},

@@ -55,7 +55,7 @@ enum class ReadText : std::size_t
     OverStrainRate,
     CurveNotFromZero,
     CurveNotAscending,
-    RelativeInCatalogue,
+    FromAbsolute,
     FromBulkModulus,
     NoSpeedOfSound,
     MoreCards,

@@ -1,3 +1,4 @@
+#include "models/Vacuum.h"
 #include "texts/DeckTexts.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -189,29 +190,24 @@ void writeAcoustic(MaterialDeck& deck)
     deck.convert(Id::SpeedOfSound, makeMessage(Text::AsAcousticBulk));
 }
 
-/// Writes a quantity that is relative to that of vacuum as the absolute one. `vacuum` is in SI units.
-void writeAbsolute(MaterialDeck& deck, const char* card, std::int32_t id, double vacuum,
-                   const vxUnits::Dimension& dimension, Text how)
+/// Writes a quantity that is relative to that of vacuum as the absolute one.
+void writeAbsolute(MaterialDeck& deck, const char* card, std::int32_t id, const VacuumConstant& vacuum, Text how)
 {
     const auto relative = deck.values().number(id);
     if (!relative)
         return;
-    writeEntry(deck, card, withoutRoundingError(*relative * vacuum / deck.units().unitOf(dimension).factor()));
+    writeEntry(deck, card, withoutRoundingError(*relative * vacuum.in(deck.units())));
     deck.convert(id, makeMessage(how));
 }
 
 void writePermittivity(MaterialDeck& deck)
 {
-    constexpr double vacuum = 8.8541878128e-12; // F/m, CODATA 2018
-    const vxUnits::Dimension dimension{-3, -1, 4, 0, 2};
-    writeAbsolute(deck, "*DIELECTRIC", Id::RelativePermittivity, vacuum, dimension, Text::AsPermittivity);
+    writeAbsolute(deck, "*DIELECTRIC", Id::RelativePermittivity, vacuumPermittivity(), Text::AsPermittivity);
 }
 
 void writePermeability(MaterialDeck& deck)
 {
-    constexpr double vacuum = 1.25663706212e-6; // H/m, CODATA 2018
-    const vxUnits::Dimension dimension{1, 1, -2, 0, -2};
-    writeAbsolute(deck, "*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuum, dimension, Text::AsPermeability);
+    writeAbsolute(deck, "*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuumPermeability(), Text::AsPermeability);
 }
 
 std::string beginDeck(const vxUnits::UnitSystem& units)

@@ -169,6 +169,23 @@ TEST(CalculixReading, TakesTheHeatCapacityOfItsOwnCardRatherThanOfTheFluid)
     EXPECT_DOUBLE_EQ(numberOf(deck, Id::DynamicViscosity), 2.0);
 }
 
+TEST(CalculixReading, RefusesPermeabilityAlongACurve)
+{
+    const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=A\n*MAGNETIC PERMEABILITY, NONLINEAR\n", "SI");
+    EXPECT_EQ(countRefused(deck.report), 1U);
+}
+
+TEST(CalculixReading, TakesTheModulusAtOnceOfAnIncompressibleSolid)
+{
+    // G at once is G of long term over 1 - g, and E = 3 G
+    const ReadDeck deck = readText(
+        Format::Calculix, "*MATERIAL, NAME=A\n*ELASTIC\n3.e6, 0.5\n*VISCOELASTIC, TIME=PRONY\n0.5, 0., 2.\n", "SI");
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::YoungsModulus), 6e6);
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::PoissonsRatio), 0.5);
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::ShearRelaxationModulus), 0.5);
+    EXPECT_EQ(countRefused(deck.report), 0U);
+}
+
 TEST(CalculixReading, ReportsNumbersThatTheUnitOfTheCatalogueCannotHold)
 {
     const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=A\n*DENSITY\n1e300\n", "mm-t-s");

@@ -1,3 +1,4 @@
+#include "ReadingTesting.h"
 #include "SampleMaterials.h"
 
 #include "vxDecks/Mapping.h"
@@ -95,6 +96,18 @@ TEST(CommercialDialect, HasAbsoluteConstantsOfElectromagnetics)
     const std::string mm = deckOf(material, "mm-t-s").text;
     EXPECT_THAT(mm, HasSubstr("*DIELECTRIC\n1.77083756256e-17\n"));
     EXPECT_THAT(mm, HasSubstr("*MAGNETIC PERMEABILITY\n0.00125663706212\n"));
+}
+
+TEST(CommercialDialect, HasElectromagneticsThatComeBack)
+{
+    MaterialMaker material;
+    material.number(Id::RelativePermittivity, 2.0).number(Id::RelativePermeability, 1000.0);
+    for (const char* const units : {"SI", "mm-t-s", "cm-g-s"}) {
+        const vxDecks::ReadDeck read = vxtest::readText(Format::Calculix, deckOf(material, units).text);
+        EXPECT_DOUBLE_EQ(vxtest::numberOf(read, Id::RelativePermittivity), 2.0) << units;
+        EXPECT_DOUBLE_EQ(vxtest::numberOf(read, Id::RelativePermeability), 1000.0) << units;
+        EXPECT_EQ(countRefused(read.report), 0U);
+    }
 }
 
 TEST(CommercialDialect, HasNoEffectInOtherFormats)

@@ -69,6 +69,35 @@ TEST(NastranReading, ReadsTheFieldsOfATableThatMaterialsUseOnly)
     EXPECT_EQ(errorOf("TABLES1,2\n+,0.,0.,x,1.,ENDT\nMAT1,1,1."), "");
 }
 
+/// Reads a solid whose hardening over plastic strain is a table with these fields behind its number.
+std::vector<std::string> remarksOnTable(const std::string& points, const std::string& rest = {})
+{
+    const std::string solid = "MAT1,1,2.1+11,,.3\nMATS1,1,7,PLSTRN\nTABLES1,7\n+," + points + ",ENDT\n" + rest;
+    return vxtest::remarkableLines(readSi(solid).report);
+}
+
+TEST(NastranReading, RefusesATableWithoutPoints)
+{
+    EXPECT_THAT(remarksOnTable(""), testing::Contains("1: lost: MATS1 TID: the table has no points"));
+    EXPECT_THAT(remarksOnTable("-.1,-1.+8"), testing::Contains("1: lost: MATS1 TID: the table has no points"));
+    EXPECT_THAT(remarksOnTable("0.,1.+8"), testing::Not(testing::Contains(HasSubstr("lost"))));
+}
+
+TEST(NastranReading, DoubtsATableOverPlasticStrainThatDoesNotAscendFromZero)
+{
+    EXPECT_THAT(
+        remarksOnTable(".1,3.+8,.05,2.5+8"),
+        testing::Contains("1: approximated: Plastic strain: the first plastic strain is 0.1, not 0; check the curve; "
+                          "the plastic strains do not ascend; check the curve"));
+    EXPECT_THAT(remarksOnTable("0.,2.5+8,.1,3.+8"), testing::Not(testing::Contains(HasSubstr("check the curve"))));
+}
+
+TEST(NastranReading, TellsASecondTableWithTheSameNumber)
+{
+    EXPECT_THAT(remarksOnTable("0.,2.5+8,.1,3.+8", "TABLES1,7\n+,0.,1.+8,.1,2.+8,ENDT\n"),
+                testing::Contains("1: lost: TABLES1: another entry has this number; that of line 5 is not taken"));
+}
+
 TEST(NastranReading, NeedsUnitsThatTheDeckOrTheUserGives)
 {
     const std::string steel = "MAT1,1,2.1+5,,.3,7.85-9";
@@ -200,13 +229,13 @@ TEST(NastranReading, BoundsWhatOneEntryAndOneMaterialMayHave)
 
 TEST(NastranReading, DropsTablesBeyondTheirBoundAndSaysSo)
 {
-    std::string table = "TABLES1 7\n";
+    std::string table;
     for (int i = 0; i < 20000; ++i)
         table += "+       0.      0.      1.      1.      2.      2.      3.      3.\n";
     // 80,004 points in each; 2,000,000 are kept
     std::string text;
     for (int i = 0; i < 25; ++i)
-        text += table;
+        text += "TABLES1 " + std::to_string(100 + i) + "\n" + table;
     text += "TABLES1 8\n+       0.      0.      1.      1.      ENDT\nMAT1,1,1.\nMATS1,1,8,PLASTIC,,1,1,1.\n";
     EXPECT_THAT(vxtest::remarkableLines(readSi(text).report).back(),
                 HasSubstr("the table 8 is not read, because the tables of the file have more than 2000000 points"));

@@ -51,6 +51,7 @@ struct ReadDeck
     std::vector<ReadMaterial> materials; ///< in the order of the file
     Report report;                       ///< with an entry for each material, in the same order
     std::vector<ForeignCard> foreign;    ///< in the order of the file; of many different ones only the first
+    std::size_t moreForeign = 0;         ///< the number of cards of the other ones
 };
 
 /// The reason why a deck cannot be read. what() is the English text, which begins with the line if there is one.

@@ -74,11 +74,14 @@ std::optional<BulkTitle> readListedTitle(std::string_view text)
     return number && isMaterial ? titleOf(number, takePart(text)) : std::nullopt;
 }
 
-/// Reads "Material 7: Steel", or "Material Record : Steel".
-std::optional<BulkTitle> readPlainTitle(std::string_view text)
+std::string_view withoutFirstWord(std::string_view text)
 {
-    if (!beginsWith(text, "Material"))
-        text = trimmed(text.substr(std::min(text.find_first_of(" \t"), text.size())));
+    return trimmed(text.substr(std::min(text.find_first_of(" \t"), text.size())));
+}
+
+/// Reads "Material 7: Steel", or "Material Record : Steel".
+std::optional<BulkTitle> readTitleAtBeginning(std::string_view text)
+{
     if (!takeWord(text, "Material"))
         return std::nullopt;
     if (!takeWord(text, "Record"))
@@ -87,6 +90,15 @@ std::optional<BulkTitle> readPlainTitle(std::string_view text)
     if (text.empty() || (text.front() != ':' && text.front() != '='))
         return std::nullopt;
     return titleOf(number, text.substr(1));
+}
+
+/// Reads such a title behind one word at most, or behind several words if it has a number.
+std::optional<BulkTitle> readPlainTitle(std::string_view text)
+{
+    for (int words = 0; !text.empty(); text = withoutFirstWord(text), ++words)
+        if (auto title = readTitleAtBeginning(text); title && (words < 2 || title->number))
+            return title;
+    return std::nullopt;
 }
 
 } // namespace

@@ -22,7 +22,8 @@ struct BulkTitle
 ///     $HMNAME MAT                     7"Steel" "MAT1"
 ///     $ANSA_NAME_COMMENT;7;MAT1;Steel;...
 ///
-/// with "=" in place of the colon, an asterisk behind the dollar sign, or one word in front of "Material".
+/// with "=" in place of the colon, an asterisk behind the dollar sign, or words in front of "Material":
+/// one, or several if a number follows.
 std::optional<BulkTitle> readBulkTitle(std::string_view comment);
 
 /// Returns the number of a material or a table in a field; absent if it is no whole number above 0.

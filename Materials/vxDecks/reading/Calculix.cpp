@@ -4,6 +4,7 @@
 #include "reading/TextOfDeck.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/json/Utf8.h"
+#include "writing/DeckWriter.h"
 
 #include <algorithm>
 #include <memory>
@@ -29,6 +30,7 @@ public:
 
 private:
     void takeLine();
+    void takeContent(std::string_view line);
     void takeKeyword(const std::string& keyword, std::string_view line);
     void takeOtherKeyword(const std::string& keyword, std::string_view line);
     void takeInclude(const KeywordParameters& parameters);
@@ -50,6 +52,7 @@ private:
     std::optional<KeywordCard> m_card;           ///< the card that is being read, whose numbers are needed
     bool m_hasLongNumber = false;                ///< whether the material has the note about long numbers
     std::size_t m_included = 0;
+    std::string m_comment; ///< in the line above; empty if there is none
 };
 
 bool isComment(std::string_view line)
@@ -57,11 +60,31 @@ bool isComment(std::string_view line)
     return line.empty() || line.substr(0, 2) == "**";
 }
 
+/// Returns whether the writer of decks makes a name of a label, which may have the number of an equal name behind it.
+bool isMadeOf(const std::string& name, const std::string& label)
+{
+    const NameRules& rules = calculixFormat().names;
+    const std::string made = Names(rules).take(label);
+    const std::size_t end = name.find_last_not_of("0123456789");
+    const bool hasNumber = end != std::string::npos && end + 1 < name.size() && name[end] == '_';
+    const std::size_t longest = rules.longest - (hasNumber ? name.size() - end : 0);
+    return name == made || (hasNumber && name.substr(0, end) == made.substr(0, longest));
+}
+
+/// Returns the name of a material: the comment above it, if the writer of decks makes the name of it.
+std::string labelOf(const std::string& name, const std::string& comment)
+{
+    const bool isLabel = !comment.empty() && name.size() <= calculixFormat().names.longest && isMadeOf(name, comment);
+    return isLabel ? comment : name;
+}
+
 void CalculixDeck::read()
 {
     while (m_lines.next())
         takeLine();
     endMaterial();
+    if (m_included > mostIncluded)
+        m_deck.report.notes.push_back(makeMessage(ReadText::MoreIncluded, {std::to_string(m_included - mostIncluded)}));
 }
 
 void CalculixDeck::takeLine()
@@ -69,8 +92,15 @@ void CalculixDeck::takeLine()
     const std::string_view line = trimmed(m_lines.line());
     if (isComment(line)) {
         m_declared.check(line, m_lines.number());
+        m_comment = trimmed(line.substr(std::min<std::size_t>(line.size(), 2)));
         return;
     }
+    takeContent(line);
+    m_comment.clear();
+}
+
+void CalculixDeck::takeContent(std::string_view line)
+{
     if (line.front() != '*') {
         takeData(line);
         return;
@@ -132,11 +162,8 @@ void CalculixDeck::takeInclude(const KeywordParameters& parameters)
 {
     if (m_card)
         m_card->isElsewhere = true;
-    if (++m_included > mostIncluded) {
-        if (m_included == mostIncluded + 1)
-            m_deck.report.notes.push_back(makeMessage(ReadText::MoreIncluded));
+    if (++m_included > mostIncluded)
         return;
-    }
     const auto input = parameters.find("INPUT");
     const std::string file = input == parameters.end() ? std::string() : vxjson::shortened(toUtf8(input->second));
     m_deck.report.notes.push_back(makeMessage(ReadText::Included, {file, std::to_string(m_lines.number())}));
@@ -160,7 +187,7 @@ void CalculixDeck::beginMaterial(const KeywordParameters& parameters)
     endMaterial();
     const auto name = parameters.find("NAME");
     m_material = std::make_unique<MaterialReading>(
-        Format::Calculix, name == parameters.end() ? std::string() : name->second, std::nullopt);
+        Format::Calculix, name == parameters.end() ? std::string() : labelOf(name->second, m_comment), std::nullopt);
 }
 
 void CalculixDeck::beginCard(const std::string& keyword, std::string_view line)
@@ -212,6 +239,8 @@ void CalculixDeck::countForeign(std::string_view line)
         ++found->count;
     else if (foreign.size() < mostForeign)
         foreign.push_back({name, 1, m_lines.number()});
+    else
+        ++m_deck.moreForeign;
 }
 
 void readCalculix(std::istream& file, const vxUnits::UnitSystem& units, DeclaredUnits& declared, ReadDeck& deck)

@@ -76,6 +76,8 @@ std::optional<Numbers> takeConstants(const KeywordCard& card, Constants constant
             throw DeckError(tooFew(card, constants.needed), card.line);
         numbers.push_back(isMissing(i) ? 0.0 : *row[i]);
     }
+    if (!isMissing(constants.all))
+        material.noteTemperature(card.name, *row[constants.all]);
     return numbers;
 }
 
@@ -134,7 +136,7 @@ void readDielectric(const KeywordCard& card, MaterialReading& material)
     readNumber(card, Id::RelativePermittivity, material);
 }
 
-/// The number, which is absolute until takeRelative(), may have the domain of CalculiX behind it: 1 or 2.
+/// The number, which is absolute until takeRelative(), may have the domain of CalculiX behind it, 1 or 2, or the temperature.
 void readPermeability(const KeywordCard& card, MaterialReading& material)
 {
     if (card.hasParameter("NONLINEAR")) {
@@ -143,8 +145,13 @@ void readPermeability(const KeywordCard& card, MaterialReading& material)
     }
     if (!requireIsotropic(card, material))
         return;
-    if (const auto constants = takeConstants(card, {2, 1}, material))
-        material.setNumber(Id::RelativePermeability, constants->front());
+    const auto constants = takeConstants(card, {2, 1}, material);
+    if (!constants)
+        return;
+    material.setNumber(Id::RelativePermeability, constants->front());
+    const double domain = constants->back();
+    if (isGiven(card, 1) && domain != 1.0 && domain != 2.0)
+        material.noteTemperature(card.name, domain);
 }
 
 /// The specific heat of *SPECIFIC HEAT takes precedence.
@@ -339,6 +346,8 @@ void readPlastic(const KeywordCard& card, MaterialReading& material)
         return;
     }
     Curve curve = takeCurve(card);
+    if (const auto temperature = fieldOf(card.rows.front(), 2))
+        material.noteTemperature(card.name, *temperature);
     material.setSwitch(Id::Plasticity);
     material.setWord(Id::PlasticYieldType, "Mises");
     const bool isModulus = takeModulus(curve, material);

@@ -48,6 +48,8 @@ const DeckReader& calculixReader();
 const DeckReader& lsDynaReader();
 const DeckReader& nastranReader();
 const DeckReader& matmlReader();
+const DeckReader& apdlReader();
+const DeckReader& elmerReader();
 
 /// Returns the units that a line declares as the writers do, "** Units: mm, t, s, K, A"; absent if it does not.
 std::optional<vxUnits::UnitSystem> unitsOfComment(std::string_view line, std::string_view comment);

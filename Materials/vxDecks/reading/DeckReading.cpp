@@ -24,8 +24,8 @@ constexpr int declaringLines = 50;
 /// Returns the readers, in the order in which a file is tried.
 const std::vector<const DeckReader*>& readers()
 {
-    static const std::vector<const DeckReader*> all{&matmlReader(), &calculixReader(), &lsDynaReader(),
-                                                    &nastranReader()};
+    static const std::vector<const DeckReader*> all{&matmlReader(),   &calculixReader(), &lsDynaReader(),
+                                                    &nastranReader(), &apdlReader(),     &elmerReader()};
     return all;
 }
 
@@ -209,6 +209,8 @@ void noteForeignCards(ReadDeck& deck)
     for (const ForeignCard& card : deck.foreign)
         list += (list.empty() ? "" : ", ") + card.name + " (" + std::to_string(card.count) + ")";
     deck.report.notes.push_back(makeMessage(ReadText::NotOfMaterials, {list}));
+    if (deck.moreForeign > 0)
+        deck.report.notes.push_back(makeMessage(ReadText::MoreForeign, {std::to_string(deck.moreForeign)}));
 }
 
 ReadDeck readDeck(Format format, std::istream& file, const ReadOptions& options)

@@ -3,6 +3,7 @@
 #include "reading/TextOfDeck.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
+#include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/MaterialValues.h"
@@ -148,6 +149,12 @@ void MaterialReading::note(Message message)
     m_notes.push_back(std::move(message));
 }
 
+void MaterialReading::noteTemperature(const std::string& card, double temperature)
+{
+    std::string& list = m_temperatures[temperature];
+    list += (list.empty() ? "" : ", ") + card;
+}
+
 ReportRow MaterialReading::rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep,
                                  const ReadUnits& units) const
 {
@@ -177,12 +184,24 @@ void MaterialReading::refuseWhatIsNotFinite()
     }
 }
 
+/// Adds the notes that are known when all cards are read.
+void MaterialReading::addLastNotes()
+{
+    for (const auto& [temperature, list] : m_temperatures)
+        note(makeMessage(ReadText::AtTemperature, {list, vxMat::formatNumber(temperature)}));
+    if (m_material->properties.empty())
+        note(makeMessage(ReadText::NothingRead));
+    if (m_omitted > 0)
+        note(makeMessage(ReadText::MoreCards, {std::to_string(m_omitted)}));
+}
+
 void MaterialReading::finish(const ReadUnits& units, ReadDeck& deck)
 {
     const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
     if (!hasOwnUnits(m_format) && units.system() != UnitSystem::si())
         vxUnits::convertMaterial(*m_material, units.system(), UnitSystem::si());
     refuseWhatIsNotFinite();
+    addLastNotes();
     MaterialReport report;
     report.name = m_name;
     report.writtenName = m_name;
@@ -191,8 +210,6 @@ void MaterialReading::finish(const ReadUnits& units, ReadDeck& deck)
     for (const auto& [id, property] : vxMat::propertiesInCatalogueOrder(*m_material))
         report.rows.push_back(rowOf(id, creep, units));
     report.rows.insert(report.rows.end(), m_lost.begin(), m_lost.end());
-    if (m_omitted > 0)
-        report.notes.push_back(makeMessage(ReadText::MoreCards, {std::to_string(m_omitted)}));
     deck.report.materials.push_back(std::move(report));
     deck.materials.push_back({std::move(m_name), m_number, std::move(m_material)});
 }

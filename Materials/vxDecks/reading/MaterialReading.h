@@ -66,6 +66,9 @@ public:
     /// Adds a note about the material.
     void note(vxUnits::Message message);
 
+    /// Notes that the numbers of a card are those at a temperature, in the unit of the deck, which the material does not keep.
+    void noteTemperature(const std::string& card, double temperature);
+
     /// Adds the material and its report to a deck whose numbers are in a unit system. The object must not be used again.
     void finish(const ReadUnits& units, ReadDeck& deck);
 
@@ -81,6 +84,7 @@ private:
     ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep, const ReadUnits& units) const;
     void addLost(ReportRow row);
     void refuseWhatIsNotFinite();
+    void addLastNotes();
 
     Format m_format;
     std::string m_name;
@@ -91,6 +95,7 @@ private:
     std::vector<ReportRow> m_lost;
     std::size_t m_omitted = 0; ///< lost cards that m_lost does not have
     std::vector<vxUnits::Message> m_notes;
+    std::map<double, std::string> m_temperatures; ///< the lists of cards by their temperature
 };
 
 } // namespace vxDecks

@@ -6,6 +6,7 @@
 #include "reading/TextOfDeck.h"
 #include "texts/BulkTexts.h"
 #include "texts/ReadingTexts.h"
+#include "vxMaterial/json/Utf8.h"
 
 #include <algorithm>
 #include <map>
@@ -15,6 +16,10 @@
 namespace vxDecks {
 
 namespace {
+
+/// The number of included files, of different foreign entries, and of different entries without a material that are told one by
+/// one. The others are counted.
+constexpr std::size_t mostTold = 100;
 
 /// The entries that have the same number of a material.
 struct BulkMaterial
@@ -70,6 +75,7 @@ private:
     std::unordered_map<std::string, std::size_t> m_foreign;     ///< positions in the list of the deck
     std::string m_nextTitle;                                    ///< of a comment without a number
     BulkTables m_tables;
+    std::size_t m_included = 0;
     bool m_isInBulk = false;
 };
 
@@ -91,6 +97,7 @@ void MaterialCollector::beginBulk()
     if (std::exchange(m_isInBulk, true))
         return;
     m_deck.foreign.clear();
+    m_deck.moreForeign = 0;
     m_foreign.clear();
     m_materials.clear();
     m_positions.clear();
@@ -99,27 +106,26 @@ void MaterialCollector::beginBulk()
 
 void MaterialCollector::include(std::string_view file, std::size_t line)
 {
-    note(makeMessage(ReadText::Included, {toUtf8(file), std::to_string(line)}));
+    if (++m_included <= mostTold)
+        note(makeMessage(ReadText::Included, {vxjson::shortened(toUtf8(file)), std::to_string(line)}));
 }
 
-/// Adds a note to the report, unless it has so many that nobody reads them.
 void MaterialCollector::note(vxUnits::Message message)
 {
-    constexpr std::size_t mostNotes = 100;
-    if (m_deck.report.notes.size() < mostNotes)
-        m_deck.report.notes.push_back(std::move(message));
+    m_deck.report.notes.push_back(std::move(message));
 }
 
 void MaterialCollector::countForeign(const BulkEntry& entry)
 {
-    constexpr std::size_t mostForeign = 100;
     auto& foreign = m_deck.foreign;
     const auto known = m_foreign.find(entry.name);
     if (known != m_foreign.end()) {
         ++foreign[known->second].count;
-    } else if (foreign.size() < mostForeign) {
+    } else if (foreign.size() < mostTold) {
         m_foreign.emplace(entry.name, foreign.size());
         foreign.push_back({toUtf8(entry.name), 1, entry.line});
+    } else {
+        ++m_deck.moreForeign;
     }
 }
 
@@ -189,13 +195,21 @@ void MaterialCollector::noteEntriesWithoutMaterial()
             ++card.count;
         }
     }
-    for (const auto& [name, card] : cards)
+    std::size_t told = 0;
+    for (const auto& [name, card] : cards) {
+        if (++told > mostTold)
+            break;
         note(makeMessage(BulkText::EntriesNotTaken,
                          {toUtf8(name), std::to_string(card.count), std::to_string(card.line)}));
+    }
+    if (cards.size() > mostTold)
+        note(makeMessage(BulkText::MoreEntriesNotTaken, {std::to_string(cards.size() - mostTold)}));
 }
 
 void MaterialCollector::finish(const vxUnits::UnitSystem& units)
 {
+    if (m_included > mostTold)
+        note(makeMessage(ReadText::MoreIncluded, {std::to_string(m_included - mostTold)}));
     noteEntriesWithoutMaterial();
     std::sort(m_materials.begin(), m_materials.end(),
               [](const BulkMaterial& one, const BulkMaterial& other) { return one.firstLine() < other.firstLine(); });

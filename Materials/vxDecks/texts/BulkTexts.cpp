@@ -14,6 +14,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(BulkText::Co
     {"decks.nastran.field-without-number", R"(the field %1 has "%2", which is not a number)"},
     {"decks.nastran.entries-not-taken",
      "The catalogue has no quantities for %1 (number of entries: %2, first in line %3)."},
+    {"decks.nastran.more-entries-not-taken", "The catalogue has no quantities for %1 more kinds of entries."},
     {"decks.nastran.entry-repeated", "another entry has this number; that of line %1 is not taken"},
     {"decks.nastran.continuation-missing", R"(the continuation "%1" of %2 is not in the file)"},
     {"decks.nastran.temperature-tables", "tables over temperature are not taken"},

@@ -15,6 +15,7 @@ enum class BulkText : std::size_t
     NoMaterialNumber,
     FieldWithoutNumber,
     EntriesNotTaken,
+    MoreEntriesNotTaken,
     EntryRepeated,
     ContinuationMissing,
     TemperatureTables,

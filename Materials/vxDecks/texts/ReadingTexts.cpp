@@ -27,6 +27,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
     {"decks.reading.not-finite", "the number is too large or too small in the unit of the catalogue"},
     {"decks.reading.no-quantity", "the catalogue has no quantity for it"},
     {"decks.reading.name-added", "has no name in the deck"},
+    {"decks.reading.nothing-read", "no quantity is read; the material is empty"},
+    {"decks.reading.at-temperature", "%1: values at temperature %2; the temperature is not kept"},
     {"decks.reading.bad-number", R"("%1" is not a number)"},
     {"decks.reading.too-few-numbers", "%1 has too few numbers; the least is %2"},
     {"decks.reading.too-many-lines", "%1 has more than %2 lines"},
@@ -63,7 +65,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
     {"decks.reading.from-bulk-modulus", "from the bulk modulus and the density"},
     {"decks.reading.no-speed-of-sound", "the speed of sound needs a bulk modulus and a density above 0"},
     {"decks.reading.more-cards", "%1 more cards are not taken"},
-    {"decks.reading.more-included", "The file includes other files in more lines, which are not read either."},
+    {"decks.reading.more-included", "The file includes files in %1 more lines, which are not read."},
+    {"decks.reading.more-foreign", "%1 more cards are not of materials."},
 }};
 
 } // namespace

@@ -26,6 +26,8 @@ enum class ReadText : std::size_t
     NotFiniteInCatalogue,
     NoQuantity,
     NameAdded,
+    NothingRead,
+    AtTemperature,
     BadNumber,
     TooFewNumbers,
     TooManyLines,
@@ -60,6 +62,7 @@ enum class ReadText : std::size_t
     NoSpeedOfSound,
     MoreCards,
     MoreIncluded,
+    MoreForeign,
     Count
 };
 

@@ -161,6 +161,48 @@ TEST(CalculixReading, KeepsTheOrderAndTheNamesOfMaterials)
     EXPECT_FALSE(deck.materials[0].number);
 }
 
+TEST(CalculixReading, TakesTheCommentAboveAMaterialOfWhichItsNameIsMade)
+{
+    const auto nameOf = [](const std::string& text) {
+        return readText(Format::Calculix, text, "SI").materials.at(0).name;
+    };
+    EXPECT_EQ(nameOf("** Steel 1.0038\n*MATERIAL, NAME=Steel_1_0038\n"), "Steel 1.0038");
+    EXPECT_EQ(nameOf("** Steel 1.0038\n*MATERIAL, NAME=Steel_1_0038_12\n"), "Steel 1.0038");
+    EXPECT_EQ(nameOf("** 316L\n*MATERIAL, NAME=M_316L\n"), "316L");
+    EXPECT_EQ(nameOf("** Materials\n*MATERIAL, NAME=Steel\n"), "Steel");
+    EXPECT_EQ(nameOf("** Steel 1.0038\n*NODE\n*MATERIAL, NAME=Steel_1_0038\n"), "Steel_1_0038");
+    EXPECT_EQ(nameOf("**\n*MATERIAL, NAME=M\n"), "M");
+}
+
+TEST(CalculixReading, TellsTheTemperatureThatItDoesNotKeep)
+{
+    const auto notesOf = [](const std::string& cards) {
+        return toLines(readText(Format::Calculix, "*MATERIAL, NAME=A\n" + cards, "SI").report).at(1);
+    };
+    EXPECT_EQ(notesOf("*ELASTIC\n2.1e11, .3, 20\n*CONDUCTIVITY\n45., 20.\n"),
+              "A: *CONDUCTIVITY, *ELASTIC: values at temperature 20; the temperature is not kept");
+    EXPECT_EQ(notesOf("*DENSITY\n7,85e-9\n"), "A: *DENSITY: values at temperature 8.5e-08; the temperature is not kept");
+    EXPECT_EQ(notesOf("*MAGNETIC PERMEABILITY\n1.2e-6, 20.\n"),
+              "A: *MAGNETIC PERMEABILITY: values at temperature 20; the temperature is not kept");
+}
+
+TEST(CalculixReading, TellsThatAMaterialIsEmpty)
+{
+    const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=A\n" + steel, "SI");
+    EXPECT_EQ(toLines(deck.report).at(1), "A: no quantity is read; the material is empty");
+    EXPECT_TRUE(deck.report.materials.at(1).notes.empty());
+}
+
+TEST(CalculixReading, CountsWhatItDoesNotTellOneByOne)
+{
+    std::string text;
+    for (int i = 0; i < 150; ++i)
+        text += "*INCLUDE, INPUT=x\n*FOREIGN" + std::to_string(i) + "\n";
+    const auto lines = toLines(readText(Format::Calculix, text, "SI").report);
+    EXPECT_EQ(lines.at(100), "The file includes files in 50 more lines, which are not read.");
+    EXPECT_EQ(lines.at(102), "50 more cards are not of materials.");
+}
+
 TEST(CalculixReading, TakesTheHeatCapacityOfItsOwnCardRatherThanOfTheFluid)
 {
     const ReadDeck deck =

@@ -72,7 +72,7 @@ TEST(HostileDecks, AreToldInShortHoweverManyKeywordsTheyHave)
     EXPECT_LT(outside.report.notes.size(), 110U);
     const vxDecks::ReadDeck inside = readText(Format::Calculix, "*MATERIAL, NAME=A\n" + text, "SI");
     EXPECT_EQ(inside.report.materials.at(0).rows.size(), 100U);
-    EXPECT_EQ(inside.report.materials.at(0).notes.at(0).text(), "4900 more cards are not taken");
+    EXPECT_EQ(inside.report.materials.at(0).notes.back().text(), "4900 more cards are not taken");
 }
 
 /// A file of any length that is never in memory: nodes, and a material at its end.

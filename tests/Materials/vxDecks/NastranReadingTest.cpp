@@ -256,6 +256,32 @@ TEST(NastranReading, LimitsTheNotesAboutIncludedFiles)
     EXPECT_THAT(deck.report.notes.at(0).text(), HasSubstr("x.bdf"));
 }
 
+TEST(NastranReading, CountsWhatItDoesNotTellOneByOne)
+{
+    std::string text;
+    for (int i = 0; i < 150; ++i) {
+        const std::string number = std::to_string(i);
+        text += "INCLUDE 'x.bdf'\nMATX" + number + "," + std::to_string(i + 1) + "\nX" + number + ",1\n";
+    }
+    const auto lines = toLines(readSi(text).report);
+    ASSERT_GT(lines.size(), 203U);
+    EXPECT_EQ(lines[100], "The file includes files in 50 more lines, which are not read.");
+    EXPECT_EQ(lines[201], "The catalogue has no quantities for 50 more kinds of entries.");
+    EXPECT_EQ(lines[203], "50 more cards are not of materials.");
+}
+
+TEST(NastranReading, TellsThatAMaterialIsEmpty)
+{
+    EXPECT_THAT(toLines(readSi("MAT1,1").report), testing::Contains("1: no quantity is read; the material is empty"));
+}
+
+TEST(NastranReading, TakesATitleBehindSeveralWordsIfItHasANumber)
+{
+    const auto nameOf = [](const std::string& comment) { return readSi(comment + "\nMAT1,1,2.").materials.at(0).name; };
+    EXPECT_EQ(nameOf("$ Written by the pre-processor Material 1 : Steel"), "Steel");
+    EXPECT_EQ(nameOf("$ Properties of the material: see the table"), "1");
+}
+
 TEST(NastranReading, TellsTheFormOfWhatItConverts)
 {
     const auto deck =

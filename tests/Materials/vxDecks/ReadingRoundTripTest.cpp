@@ -148,7 +148,7 @@ int roundTrip(const vxMat::MaterialBase& material, const std::string& units, For
     }
     EXPECT_EQ(read.report.units, hasOwnUnits(format) ? std::string() : deck.report.units);
     if (!material.name.empty()) {
-        EXPECT_EQ(read.materials[0].name, deck.report.materials[0].writtenName);
+        EXPECT_EQ(read.materials[0].name, material.name);
     }
     EXPECT_EQ(countRefused(read.report), 0U) << testing::PrintToString(toLines(read.report));
     int count = 0;

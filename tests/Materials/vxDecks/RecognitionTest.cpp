@@ -17,6 +17,9 @@ TEST(Recognition, KnowsTheDecksThatAreWritten)
 {
     EXPECT_EQ(recognisedFormat(vxtest::deckOf(Format::Calculix, vxtest::steel()->get()).text), Format::Calculix);
     EXPECT_EQ(recognisedFormat(vxtest::deckOf(Format::LsDyna, vxtest::steel()->get()).text), Format::LsDyna);
+    EXPECT_EQ(recognisedFormat(vxtest::deckOf(Format::Apdl, vxtest::steel()->get()).text), Format::Apdl);
+    EXPECT_EQ(recognisedFormat(vxtest::deckOf(Format::Apdl, vxtest::neoHooke()->get()).text), Format::Apdl);
+    EXPECT_EQ(recognisedFormat(vxtest::deckOf(Format::Elmer, vxtest::steel()->get()).text), Format::Elmer);
 }
 
 TEST(Recognition, KnowsAWholeModelByAnyOfItsKeywords)
@@ -39,7 +42,8 @@ TEST(Recognition, TellsTheKeywordFamiliesApart)
 TEST(Recognition, KnowsNoFormatOfOtherTexts)
 {
     for (const char* const text : {"", "\n", "{\"proj_type\": 2}", "* a list\n* of points\n", "**\n**\n", "*", "*1.0\n",
-                                   "strain,stress\n0,0\n0.1,1\n", "*WONDERCARD\n"})
+                                   "strain,stress\n0,0\n0.1,1\n", "*WONDERCARD\n", "MP,1,2\n", "TB,a,b\n",
+                                   "Material 1\n", "Material a\n  x = 1\n"})
         EXPECT_EQ(recognisedFormat(text), std::nullopt) << text;
     EXPECT_EQ(recognisedFormat(std::string(1000, '\0')), std::nullopt);
 }

@@ -15,17 +15,19 @@ namespace vxDecks {
 class DeclaredUnits
 {
 public:
-    /// `comment` are the characters with which a comment begins. `expected` is the system that the first comments declare, or else
-    /// that of the user; absent if the first declaration counts.
-    DeclaredUnits(std::string_view comment, std::optional<vxUnits::UnitSystem> expected);
+    /// `comment` are the characters with which a comment begins. `first` is what the first comments declare; absent if they do not.
+    DeclaredUnits(std::string_view comment, std::optional<vxUnits::UnitSystem> first);
 
     /// Takes a line of the deck, from 1.
     /// \throws DeckError if it declares another unit system
     void check(std::string_view line, std::size_t number);
 
+    /// Returns the unit system that the lines up to here declare; absent if they do not.
+    const std::optional<vxUnits::UnitSystem>& found() const { return m_found; }
+
 private:
     std::string_view m_comment;
-    std::optional<vxUnits::UnitSystem> m_expected;
+    std::optional<vxUnits::UnitSystem> m_found;
 };
 
 /// The functions of a format that can be read, or that is only recognised.

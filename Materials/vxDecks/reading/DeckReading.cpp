@@ -175,17 +175,17 @@ std::optional<UnitSystem> unitsOfComment(std::string_view line, std::string_view
     return systemOfBaseUnits(trimmed(line.substr(title.size())));
 }
 
-DeclaredUnits::DeclaredUnits(std::string_view comment, std::optional<UnitSystem> expected)
-    : m_comment(comment), m_expected(std::move(expected))
+DeclaredUnits::DeclaredUnits(std::string_view comment, std::optional<UnitSystem> first)
+    : m_comment(comment), m_found(std::move(first))
 {}
 
 void DeclaredUnits::check(std::string_view line, std::size_t number)
 {
     auto units = unitsOfComment(trimmed(line), m_comment);
-    if (units && m_expected && *units != *m_expected)
-        throw DeckError(makeMessage(ReadText::OtherUnitsDeclared, {units->text(), m_expected->text()}), number);
+    if (units && m_found && *units != *m_found)
+        throw DeckError(makeMessage(ReadText::OtherUnitsDeclared, {units->text(), m_found->text()}), number);
     if (units)
-        m_expected = std::move(units);
+        m_found = std::move(units);
 }
 
 std::optional<UnitSystem> declaredUnits(Format format, std::string_view beginning)
@@ -225,7 +225,7 @@ ReadDeck readDeck(Format format, std::istream& file, const ReadOptions& options)
     const auto units = options.units ? options.units : declared;
     ReadDeck deck;
     deck.report.format = format;
-    DeclaredUnits declarations(reader.comment, declared ? declared : options.units);
+    DeclaredUnits declarations(reader.comment, declared);
     readAll(reader, whole, units.value_or(UnitSystem::si()), declarations, deck);
     noteForeignCards(deck);
     if (hasOwnUnits(format))
@@ -234,7 +234,7 @@ ReadDeck readDeck(Format format, std::istream& file, const ReadOptions& options)
         throw UnitsNeeded(fittingSystem(deck.materials));
     deck.report.units = units.value_or(UnitSystem::si()).text();
     if (units)
-        noteUnits(declared, *units, deck.report);
+        noteUnits(declarations.found(), *units, deck.report);
     return deck;
 }
 

@@ -18,9 +18,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
     {"decks.reading.units", "The numbers of the deck are read in the unit system %1."},
     {"decks.reading.units-declared", "The deck declares the unit system %1."},
     {"decks.reading.units-overridden", "The deck declares the unit system %1, but is read in %2, which was chosen."},
-    {"decks.reading.other-units-declared", "the deck declares the unit system %1 here, but %2 is that of the numbers "
-                                           "before; divide it into decks of one unit "
-                                           "system each"},
+    {"decks.reading.other-units-declared", "the deck declares the unit system %1 here, but %2 in a line before; divide "
+                                           "it into decks of one unit system each"},
     {"decks.reading.not-of-materials", "Not of materials, and therefore not taken: %1."},
     {"decks.reading.included", R"(The file includes "%1" in line %2, which is not read; read this file too.)"},
     {"decks.reading.other-unit", "from %1 to %2"},

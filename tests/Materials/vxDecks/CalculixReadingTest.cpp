@@ -3,6 +3,7 @@
 
 #include "vxMaterial/model/PropertyId.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -90,23 +91,26 @@ TEST(CalculixReading, RefusesDecksThatAreJoinedFromSeveralUnitSystems)
     const std::string inSi = "** Units: m, kg, s, K, A\n*MATERIAL, NAME=B\n*DENSITY\n7850.\n";
     for (const char* const chosen : {"", "mm-t-s", "SI", "cm-g-s"})
         EXPECT_EQ(errorOf(Format::Calculix, inMm + inSi, chosen),
-                  "line 7: the deck declares the unit system SI here, but mm-t-s is that of the numbers before; divide "
-                  "it into "
-                  "decks of one unit system each");
+                  "line 7: the deck declares the unit system SI here, but mm-t-s in a line before; divide it into "
+                  "decks of one "
+                  "unit system each");
     EXPECT_EQ(readText(Format::Calculix, inMm + inMm).materials.size(), 2U);
 }
 
-TEST(CalculixReading, RefusesUnitsThatAreDeclaredBehindNumbersOfOthers)
+/// A deck of materials that was copied into a model, whose first lines declare nothing.
+TEST(CalculixReading, TellsUnitsThatAreDeclaredFurtherDown)
 {
-    std::string nodes = "*NODE\n";
+    std::string deck = "*NODE\n";
     for (int i = 0; i < 60; ++i)
-        nodes += "1, 0., 0., 0.\n";
-    const std::string deck = steel + nodes + "** Units: m, kg, s, K, A\n";
-    EXPECT_EQ(
-        errorOf(Format::Calculix, deck, "mm-t-s"),
-        "line 67: the deck declares the unit system SI here, but mm-t-s is that of the numbers before; divide it into "
-        "decks of one unit system each");
-    EXPECT_EQ(errorOf(Format::Calculix, deck, "SI"), "");
+        deck += "1, 0., 0., 0.\n";
+    deck += "** Units: mm, t, s, K, A\n" + steel;
+    EXPECT_THROW(readText(Format::Calculix, deck), vxDecks::UnitsNeeded);
+    const auto noteWith = [&deck](const char* units) {
+        return readText(Format::Calculix, deck, units).report.notes.back().text();
+    };
+    EXPECT_EQ(noteWith("mm-t-s"), "The deck declares the unit system mm-t-s.");
+    EXPECT_EQ(noteWith("SI"), "The deck declares the unit system mm-t-s, but is read in SI, which was chosen.");
+    EXPECT_THAT(errorOf(Format::Calculix, deck + "** Units: m, kg, s, K, A\n"), testing::StartsWith("line 68: "));
 }
 
 TEST(CalculixReading, ReportsUnitsThatDiffer)
@@ -181,7 +185,8 @@ TEST(CalculixReading, TellsTheTemperatureThatItDoesNotKeep)
     };
     EXPECT_EQ(notesOf("*ELASTIC\n2.1e11, .3, 20\n*CONDUCTIVITY\n45., 20.\n"),
               "A: *CONDUCTIVITY, *ELASTIC: values at temperature 20; the temperature is not kept");
-    EXPECT_EQ(notesOf("*DENSITY\n7,85e-9\n"), "A: *DENSITY: values at temperature 8.5e-08; the temperature is not kept");
+    EXPECT_EQ(notesOf("*DENSITY\n7,85e-9\n"),
+              "A: *DENSITY: values at temperature 8.5e-08; the temperature is not kept");
     EXPECT_EQ(notesOf("*MAGNETIC PERMEABILITY\n1.2e-6, 20.\n"),
               "A: *MAGNETIC PERMEABILITY: values at temperature 20; the temperature is not kept");
 }

@@ -117,7 +117,7 @@ TEST(NastranReading, RefusesDecksThatAreJoinedFromSeveralUnitSystems)
     const std::string joined = "$ Units: mm, t, s, K, A\nMAT1,1,2.1+5\n$ Units: cm, g, s, K, A\nMAT1,2,2.1+12\n";
     for (const char* const chosen : {"", "SI"})
         EXPECT_THAT(vxtest::errorOf(Format::Nastran, joined, chosen),
-                    HasSubstr("line 3: the deck declares the unit system cm-g-s here, but mm-t-s is that of"));
+                    HasSubstr("line 3: the deck declares the unit system cm-g-s here, but mm-t-s in a line before"));
 }
 
 TEST(NastranReading, IsRecognisedByTheEntriesOfAModel)

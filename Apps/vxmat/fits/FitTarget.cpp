@@ -2,6 +2,7 @@
 
 #include "projectfile/ProjectFile.h"
 #include "vxMaterial/json/Utf8.h"
+#include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/Plausibility.h"
 
@@ -133,12 +134,16 @@ void keepMeasurements(const FitTarget& target, const KeptFit& fit, ObjectRecord&
     }
 }
 
-const char* nameOf(vxConstitutive::D1Treatment treatment)
+/// Returns what happens to the D1 of a material.
+std::string outcomeOf(vxConstitutive::D1Treatment treatment, double bulkRatio)
 {
-    static constexpr const char* sentences[] = {"D1 is kept; --d1 remove or --d1 RATIO changes it",
-                                                "D1 is removed; --d1 keep keeps it, and --d1 RATIO sets it",
-                                                "D1 is set by --d1"};
-    return sentences[static_cast<std::size_t>(treatment)];
+    if (treatment == vxConstitutive::D1Treatment::Keep)
+        return "D1 is kept; --d1 remove or --d1 RATIO changes it";
+    if (treatment == vxConstitutive::D1Treatment::Remove)
+        return "D1 is removed, and the check then reports that it is missing; --d1 keep keeps it, and --d1 RATIO sets "
+               "it";
+    return "D1 is set such that the bulk modulus is " + vxMat::formatNumber(bulkRatio) +
+           " times the shear modulus; --d1 keep, --d1 remove or --d1 RATIO changes this";
 }
 
 /// Returns the change of a material to a fit and to the D1 of the setting. Adds a message about the D1 that the material has.
@@ -153,7 +158,8 @@ vxConstitutive::MaterialChange changeOf(const KeptFit& fit, const vxMat::Materia
     }
     const vxConstitutive::D1Treatment treatment = fit.d1.treatment.value_or(volume->usualTreatment());
     if (volume->finding)
-        answer.messages.push_back(label + ": " + describe(*volume->finding) + " " + nameOf(treatment));
+        answer.messages.push_back(label + ": " + describe(*volume->finding) + " " +
+                                  outcomeOf(treatment, fit.d1.bulkRatio));
     return changeOf(*fit.result, *volume, treatment, fit.d1.bulkRatio);
 }
 

@@ -13,11 +13,11 @@ namespace vxConstitutive {
 enum class D1Treatment
 {
     Keep,   ///< the material keeps its D1
-    Remove, ///< the material has no D1 and is incompressible
+    Remove, ///< the material has no D1 and is incompressible; the check of materials reports that D1 is missing
     Set     ///< D1 is set by the ratio of bulk to shear modulus
 };
 
-/// The ratio of bulk to shear modulus that a user is offered for D1Treatment::Set: Poisson's ratio is 0.499.
+/// The ratio of bulk to shear modulus of D1Treatment::Set if the user has not chosen another one: Poisson's ratio is 0.499.
 inline constexpr double usualBulkRatio = 500.0;
 
 /// The change of volume of a material that gets the constants of a fit which does not determine D1.
@@ -32,8 +32,9 @@ struct FittedVolume
     /// 20 times the shear modulus.
     VXCONSTITUTIVE_EXPORT bool contradictsFit() const;
 
-    /// Returns what happens to D1 if the user has not chosen: it is kept unless it contradicts the fit.
-    D1Treatment usualTreatment() const { return contradictsFit() ? D1Treatment::Remove : D1Treatment::Keep; }
+    /// Returns what happens to D1 if the user has not chosen: it is kept unless it contradicts the fit. Then it is set by
+    /// usualBulkRatio, because models of rubber need D1 and a material without it is not ready.
+    D1Treatment usualTreatment() const { return contradictsFit() ? D1Treatment::Set : D1Treatment::Keep; }
 };
 
 /// Returns what the D1 of a material, in SI units, means for the constants of a fit. A D1 of 0 is none. Absent if the fit has no

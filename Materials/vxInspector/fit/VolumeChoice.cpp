@@ -55,6 +55,7 @@ VolumeChoice::VolumeChoice(QWidget* parent)
     layout->setColumnStretch(1, 4);
     layout->setColumnStretch(2, 1);
     connect(m_treatment, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+        showSentence();
         showChoice();
         Q_EMIT changed();
     });
@@ -72,6 +73,7 @@ void VolumeChoice::retranslate()
     m_treatment->clear();
     m_treatment->addItem(tr("keep"), static_cast<int>(D1Treatment::Keep));
     m_treatment->addItem(tr("remove: incompressible"), static_cast<int>(D1Treatment::Remove));
+    m_treatment->setItemData(1, missingText(), Qt::ToolTipRole);
     m_treatment->addItem(tr("set the ratio of bulk to shear modulus to"), static_cast<int>(D1Treatment::Set));
     m_treatment->setCurrentIndex(chosen);
     m_label->setText(tr("&D1:"));
@@ -89,16 +91,26 @@ void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume)
     setHidden(!volume);
     if (stays)
         return;
-    showSentence();
     if (volume)
         m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(volume->usualTreatment())));
+    showSentence();
 }
 
+/// Says what the fit means for D1, and what the check of materials says if D1 is removed.
 void VolumeChoice::showSentence()
 {
-    if (m_volume)
-        m_sentence->setText(m_volume->finding ? translated(*m_volume->finding)
-                                              : tr("The fit is incompressible, and the material has no D1."));
+    if (!m_volume)
+        return;
+    QString text = m_volume->finding ? translated(*m_volume->finding)
+                                     : tr("The fit is incompressible, and the material has no D1.");
+    if (treatment() == D1Treatment::Remove)
+        text += QLatin1Char(' ') + missingText();
+    m_sentence->setText(text);
+}
+
+QString VolumeChoice::missingText()
+{
+    return tr("The check of materials then reports that D1 is missing.");
 }
 
 void VolumeChoice::showChoice()

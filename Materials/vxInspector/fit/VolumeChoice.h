@@ -41,6 +41,7 @@ private:
     vxConstitutive::D1Treatment treatment() const;
     std::optional<double> bulkRatio() const;
     void showSentence();
+    static QString missingText();
     void showChoice();
 
     std::optional<vxConstitutive::FittedVolume> m_volume;

@@ -26,6 +26,7 @@ namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 using vxtest::waitFor;
 
 /// A tensile test of a Neo-Hookean rubber with C10 = 0.5 MPa.
@@ -426,7 +427,7 @@ TEST_F(FitTab, ShowsNoFitOfKeptTestsForAnotherMaterial)
     EXPECT_FALSE(control<QPushButton>("fitApply").isVisible());
 }
 
-TEST_F(FitTab, RemovesAD1ThatContradictsTheFitAndSaysSoBefore)
+TEST_F(FitTab, ReplacesAD1ThatContradictsTheFitAndSaysSoBefore)
 {
     Mat::MaterialObject& seal = showMaterial();
     setNumber(seal, Id::IncompressibilityParameterD1, 0.0789);
@@ -435,11 +436,27 @@ TEST_F(FitTab, RemovesAD1ThatContradictsTheFitAndSaysSoBefore)
     EXPECT_THAT(control<QLabel>("fitVolume").text().toStdString(),
                 AllOf(HasSubstr("the D1 of the material contradicts it"), HasSubstr("e-05 times the shear modulus")));
     ASSERT_TRUE(control<QComboBox>("fitD1").isVisible());
-    EXPECT_EQ(control<QComboBox>("fitD1").currentText(), "remove: incompressible");
+    EXPECT_EQ(control<QComboBox>("fitD1").currentText(), "set the ratio of bulk to shear modulus to");
+    EXPECT_EQ(control<QLineEdit>("fitBulkRatio").text(), "500");
     press("fitApply");
-    EXPECT_FALSE(seal.getCMaterial()->hasProperty(Id::IncompressibilityParameterD1));
+    EXPECT_NEAR(numberOf(seal, Id::IncompressibilityParameterD1), 4e-9, 1e-12); // K0 = 500 MPa
+    EXPECT_TRUE(waitFor([this] { return control<QComboBox>("fitD1").currentText() == QLatin1String("keep"); }));
     history().undo();
     EXPECT_EQ(numberOf(seal, Id::IncompressibilityParameterD1), 0.0789);
+}
+
+TEST_F(FitTab, SaysThatTheCheckMissesAD1ThatIsRemoved)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    setNumber(seal, Id::IncompressibilityParameterD1, 0.0789);
+    fitRubber();
+    const auto sentence = [this] { return control<QLabel>("fitVolume").text().toStdString(); };
+    EXPECT_THAT(sentence(), Not(HasSubstr("D1 is missing")));
+    QTest::keyClick(&control<QComboBox>("fitD1"), Qt::Key_Up);
+    ASSERT_EQ(control<QComboBox>("fitD1").currentText(), "remove: incompressible");
+    EXPECT_THAT(sentence(), HasSubstr("The check of materials then reports that D1 is missing."));
+    press("fitApply");
+    EXPECT_FALSE(seal.getCMaterial()->hasProperty(Id::IncompressibilityParameterD1));
 }
 
 TEST_F(FitTab, SetsD1ByTheRatioOfBulkToShearModulus)

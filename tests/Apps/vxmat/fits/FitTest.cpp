@@ -168,19 +168,36 @@ protected:
         return at == std::string::npos ? std::string() : text.substr(at, text.find('\n', at) - at);
     }
 
+    /// Returns the number in the line of D1; 0 if there is none.
+    double d1Value() const
+    {
+        const std::string line = d1();
+        const std::size_t at = line.find("D1  ");
+        return at == std::string::npos ? 0.0 : std::stod(line.substr(at + 4));
+    }
+
+    Outcome check() const { return vxmat({"check", m_project}); }
+
 private:
     std::string m_project = folder().path("soft.vxmat");
 };
 
-TEST_F(FitIntoSoftRubber, RemovesAD1ThatContradictsTheFitAndSaysSo)
+TEST_F(FitIntoSoftRubber, ReplacesAD1ThatContradictsTheFitAndSaysSo)
 {
     ASSERT_THAT(d1(), HasSubstr("0.0789"));
     const Outcome run = fitInto();
     EXPECT_EQ(run.status, 0);
-    EXPECT_THAT(run.err,
-                AllOf(HasSubstr("Seal: The fit is incompressible, but the D1 of the material contradicts it"),
-                      HasSubstr("2.53485e-05 times the shear modulus"), HasSubstr("D1 is removed; --d1 keep")));
+    EXPECT_THAT(run.err, AllOf(HasSubstr("Seal: The fit is incompressible, but the D1 of the material contradicts it"),
+                               HasSubstr("2.53485e-05 times the shear modulus"),
+                               HasSubstr("the bulk modulus is 500 times the shear modulus; --d1 keep")));
+    EXPECT_THAT(d1Value(), DoubleNear(4e-9, 1e-14)); // K0 = 500 MPa
+}
+
+TEST_F(FitIntoSoftRubber, RemovesD1OnRequestAndSaysThatTheCheckMissesIt)
+{
+    EXPECT_THAT(fitInto({"--d1", "remove"}).err, HasSubstr("D1 is removed, and the check then reports"));
     EXPECT_EQ(d1(), "");
+    EXPECT_THAT(check().out, HasSubstr("Incompressibility Parameter D1"));
 }
 
 TEST_F(FitIntoSoftRubber, KeepsOrSetsD1IfTheUserSaysSo)
@@ -190,9 +207,7 @@ TEST_F(FitIntoSoftRubber, KeepsOrSetsD1IfTheUserSaysSo)
     EXPECT_THAT(kept.err, HasSubstr("D1 is kept"));
     EXPECT_THAT(d1(), HasSubstr("0.0789"));
     EXPECT_EQ(fitInto({"--d1", "100"}).status, 0);
-    const std::string line = d1();
-    ASSERT_THAT(line, HasSubstr("D1  "));
-    EXPECT_THAT(std::stod(line.substr(line.find("D1  ") + 4)), DoubleNear(2e-8, 1e-13)); // K0 = 100 MPa
+    EXPECT_THAT(d1Value(), DoubleNear(2e-8, 1e-13)); // K0 = 100 MPa
 }
 
 TEST_F(FitIntoSoftRubber, RefusesARatioThatIsNoneAndD1WithoutAProject)

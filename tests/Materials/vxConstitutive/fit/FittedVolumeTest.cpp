@@ -49,9 +49,20 @@ TEST(VolumeOfAFit, TellsWhatAnOldD1WouldMakeOfTheFittedRubber)
     EXPECT_NEAR(volume->shearModulus, 1e6, 1.0);
     EXPECT_NEAR(*volume->bulkRatio, 25.3485e-6, 1e-9);
     EXPECT_TRUE(volume->contradictsFit());
-    EXPECT_EQ(volume->usualTreatment(), D1Treatment::Remove);
+    EXPECT_EQ(volume->usualTreatment(), D1Treatment::Set);
     EXPECT_EQ(volume->finding->id, FindingId::FitContradictsD1);
     EXPECT_NEAR(std::stod(volume->finding->arguments[1]), -0.999886, 1e-5);
+}
+
+TEST(VolumeOfAFit, ReplacesAContradictingD1ByThatOfANearlyIncompressibleRubber)
+{
+    const FitResult fit = rubberFit();
+    const auto volume = fittedVolume(fit, Seal("0.0789"));
+    ASSERT_TRUE(volume);
+    const MaterialChange change = changeOf(fit, *volume, volume->usualTreatment());
+    EXPECT_FALSE(removesD1(change));
+    ASSERT_EQ(change.set.back().propertyId, d1Id);
+    EXPECT_NEAR(change.set.back().value, 4e-9, 1e-14); // K0 = 500 MPa
 }
 
 TEST(VolumeOfAFit, KeepsTheD1OfARubberThatIsNearlyIncompressible)

@@ -94,6 +94,32 @@ bool isSame(const ColumnChoice& one, const ColumnChoice& other)
     return one.column == other.column && one.measure == other.measure && one.unit == other.unit;
 }
 
+/// Returns the names of the tests that fulfil a condition, in quotes; no more than ten.
+template <class Condition>
+QString namesOf(const std::vector<LoadedTest>& tests, const Condition& condition)
+{
+    constexpr int most = 10;
+    QStringList names;
+    for (const LoadedTest& test : tests)
+        if (condition(test))
+            names << QStringLiteral("\"%1\"").arg(shortened(QString::fromStdString(test.request.name), 30));
+    const QString text = names.mid(0, most).join(QStringLiteral(", "));
+    return names.size() > most ? text + QStringLiteral(", …") : text;
+}
+
+bool isOwn(const LoadedTest& test)
+{
+    return !test.isKept;
+}
+
+/// Returns whether a test is in a list as it is.
+bool isAmong(const LoadedTest& test, const std::vector<vxConstitutive::TestData>& tests)
+{
+    return test.reading.data && std::any_of(tests.begin(), tests.end(), [&test](const vxConstitutive::TestData& one) {
+               return one.name == test.reading.data->name && areSame({one}, {*test.reading.data});
+           });
+}
+
 Mat::MaterialObject* findMaterial(const RowPlace& place)
 {
     const Obj::Project* const project = Obj::Application::instance().get_project(place.projectId);
@@ -121,6 +147,7 @@ FitPage::FitPage(QWidget* parent)
       m_preview(makeText(this, "fitPreview")),
       m_options(new FitOptions(this)),
       m_optionsProblem(makeText(this, "fitOptionsProblem")),
+      m_leftOut(makeText(this, "fitLeftOut")),
       m_fit(named(new QPushButton(this), "fitStart")),
       m_cancel(named(new QPushButton(this), "fitCancel")),
       m_progress(named(new QProgressBar(this), "fitProgress")),
@@ -194,8 +221,9 @@ void FitPage::layOut()
     auto* const layout = new QVBoxLayout(content);
     layout->addWidget(m_sentence);
     layout->addLayout(rowOf({m_load, m_paste, m_remove}));
-    for (QWidget* const widget : {static_cast<QWidget*>(m_testView), m_form, static_cast<QWidget*>(m_preview),
-                                  static_cast<QWidget*>(m_options), static_cast<QWidget*>(m_optionsProblem)})
+    for (QWidget* const widget :
+         {static_cast<QWidget*>(m_testView), m_form, static_cast<QWidget*>(m_preview), static_cast<QWidget*>(m_options),
+          static_cast<QWidget*>(m_optionsProblem), static_cast<QWidget*>(m_leftOut)})
         layout->addWidget(widget);
     layout->addLayout(rowOf({m_fit, m_cancel}));
     for (QWidget* const widget :
@@ -346,18 +374,22 @@ void FitPage::readKept(const Mat::MaterialObject& object)
     m_keptText = text;
     m_keptFault = kept.fault;
     const std::vector<vxConstitutive::TestData>& tests = kept.measurements.tests;
-    if (areSame(tests, readTests()))
-        m_hasOwnTests = false; // Redo has kept them again
-    else if (!m_hasOwnTests)
-        showKept(tests, isSameMaterial);
+    if (isSameMaterial || hasOwnTests())
+        markKept(tests, isSameMaterial);
+    if (!hasOwnTests() && !areSame(tests, readTests()))
+        setTests(tests);
 }
 
-void FitPage::showKept(const std::vector<vxConstitutive::TestData>& tests, bool isSameMaterial)
+/// Takes note of the shown tests that a material keeps: Undo and Redo change that. Another material may keep the others.
+void FitPage::markKept(const std::vector<vxConstitutive::TestData>& tests, bool isSameMaterial)
 {
-    if (isSameMaterial && !m_tests.empty())
-        m_hasOwnTests = true;
-    else
-        setTests(tests);
+    for (LoadedTest& test : m_tests)
+        test.isKept = isAmong(test, tests) || (test.isKept && !isSameMaterial);
+}
+
+bool FitPage::hasOwnTests() const
+{
+    return std::any_of(m_tests.begin(), m_tests.end(), isOwn);
 }
 
 void FitPage::setTests(const std::vector<vxConstitutive::TestData>& tests)
@@ -468,7 +500,6 @@ void FitPage::addTest(LoadedTest test)
     test.request.name = freeName(test.request.name);
     m_tests.push_back(std::move(test));
     ++m_testsRevision;
-    m_hasOwnTests = true;
     dropResults();
     showTests();
     m_testView->setCurrentIndex(m_testView->model()->index(static_cast<int>(m_tests.size()) - 1, 0));
@@ -490,9 +521,12 @@ void FitPage::removeTest()
     const int row = m_testView->currentIndex().row();
     if (row < 0 || static_cast<std::size_t>(row) >= m_tests.size())
         return;
+    // The rest of kept tests is a choice of the user, and stays if another material is selected.
+    if (m_tests[static_cast<std::size_t>(row)].isKept)
+        for (LoadedTest& test : m_tests)
+            test.isKept = false;
     m_tests.erase(m_tests.begin() + row);
     ++m_testsRevision;
-    m_hasOwnTests = !m_tests.empty();
     dropResults();
     showTests();
 }
@@ -530,8 +564,8 @@ void FitPage::readCurrent(LoadedTest& test)
         readBeside(test);
     else
         readAgain(test);
+    test.isKept = false;
     ++m_testsRevision;
-    m_hasOwnTests = true;
     dropResults();
     showTests();
     showForm();
@@ -752,6 +786,18 @@ QString FitPage::sentence() const
                : QString();
 }
 
+/// Names the tests that a fit leaves out because they cannot be read yet; empty if there are none, or if nothing can be fitted.
+QString FitPage::leftOutText() const
+{
+    const QString names = namesOf(
+        m_tests, [](const LoadedTest& test) { return !test.reading.data.has_value() && test.pending == nullptr; });
+    if (names.isEmpty() || shownTests().empty())
+        return {};
+    return tr("The fit leaves out these tests, and \"Apply\" does not keep them: %1. Select a test to see what is "
+              "missing.")
+        .arg(names);
+}
+
 void FitPage::enableControls()
 {
     const FitResult* const result = currentResult();
@@ -763,6 +809,8 @@ void FitPage::enableControls()
     const QString problem = m_tests.empty() ? QString() : m_options->fill(order);
     m_optionsProblem->setText(problem);
     m_optionsProblem->setHidden(problem.isEmpty());
+    m_leftOut->setText(leftOutText());
+    m_leftOut->setHidden(m_leftOut->text().isEmpty());
     m_fit->setHidden(m_tests.empty());
     m_fit->setEnabled(!shownTests().empty() && !isFitting() && !isReading() && problem.isEmpty());
     m_cancel->setVisible(isFitting());
@@ -792,18 +840,15 @@ void FitPage::showEvent(QShowEvent* event)
 
 void FitPage::askBeforeClosing(bool& refused)
 {
-    if (refused || !m_hasOwnTests || m_tests.empty())
+    if (refused || !hasOwnTests())
         return;
     Kelta::guarded(tr("The program does not close"), [this, &refused] {
         refused = true;
-        QStringList names;
-        for (const LoadedTest& test : m_tests)
-            names << QStringLiteral("\"%1\"").arg(shortened(QString::fromStdString(test.request.name), 30));
         QMessageBox box(
             QMessageBox::Question, tr("Tests are not kept"),
             tr("These tests of the tab Fit are not kept with a material: %1. If the program closes, they are "
-               "lost. \"Apply\" in the tab keeps them.")
-                .arg(names.mid(0, 10).join(QStringLiteral(", "))),
+               "lost. \"Apply\" in the tab keeps those that the fit uses.")
+                .arg(namesOf(m_tests, isOwn)),
             QMessageBox::Discard | QMessageBox::Cancel, window());
         box.setTextFormat(Qt::PlainText);
         box.setDefaultButton(QMessageBox::Cancel);
@@ -811,7 +856,7 @@ void FitPage::askBeforeClosing(bool& refused)
     });
 }
 
-/// Tests that cannot be kept do not prevent the constants from being applied.
+/// Tests that cannot be kept do not prevent the constants from being applied. Tests that the fit leaves out stay own tests.
 void FitPage::apply()
 {
     const FitResult* const result = currentResult();
@@ -822,7 +867,8 @@ void FitPage::apply()
     if (fit.measurements) {
         m_keptText = *fit.measurements;
         m_keptFault.reset();
-        m_hasOwnTests = false;
+        for (LoadedTest& test : m_tests)
+            test.isKept = test.reading.data.has_value();
     }
     applyFit(fit, *object, SubjectWatch::editorOf(*object));
 }

@@ -95,7 +95,8 @@ private:
     void paste();
     void removeTest();
     void readKept(const Mat::MaterialObject& object);
-    void showKept(const std::vector<vxConstitutive::TestData>& tests, bool isSameMaterial);
+    void markKept(const std::vector<vxConstitutive::TestData>& tests, bool isSameMaterial);
+    bool hasOwnTests() const;
     void setTests(const std::vector<vxConstitutive::TestData>& tests);
     std::string freeName(const std::string& name) const;
     LoadedTest* currentTest();
@@ -123,6 +124,7 @@ private:
     void enableControls();
     const vxConstitutive::FitResult* currentResult() const;
     QString sentence() const;
+    QString leftOutText() const;
     void apply();
     std::optional<std::string> measurementsWith(const vxConstitutive::FitResult& result,
                                                 const Mat::MaterialObject& object) const;
@@ -160,7 +162,6 @@ private:
     vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
     RowPlace m_target; ///< the material that gets the constants
     QString m_targetLabel;
-    bool m_hasOwnTests = false;                   ///< whether tests are not kept as they are here
     RowPlace m_keptOf;                            ///< the material of m_keptText
     std::string m_keptText;                       ///< the measurements of the material, as they were last read
     std::optional<vxjson::JsonError> m_keptFault; ///< of m_keptText
@@ -182,6 +183,7 @@ private:
     QLabel* m_preview;
     FitOptions* m_options;
     QLabel* m_optionsProblem;
+    QLabel* m_leftOut;
     QPushButton* m_fit;
     QPushButton* m_cancel;
     QProgressBar* m_progress;

@@ -101,6 +101,7 @@ LoadedTest keptTest(const vxConstitutive::TestData& data)
     test.reading.abscissa = test.request.abscissa;
     test.reading.ordinate = test.request.ordinate;
     test.reading.data = data;
+    test.isKept = true;
     return test;
 }
 

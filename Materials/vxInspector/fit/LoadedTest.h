@@ -20,7 +20,8 @@ struct LoadedTest
     vxConstitutive::TestReadRequest request = {};
     vxConstitutive::TestReading reading = {}; ///< empty without a mode
     std::shared_ptr<vxConstitutive::TestReading> pending =
-        nullptr; ///< gets the reading; null if the test is not being read
+        nullptr;         ///< gets the reading; null if the test is not being read
+    bool isKept = false; ///< whether a material keeps the test as it is here; otherwise it is the user's own
 };
 
 /// The most rows of a table that are read at once. Larger tables are read beside the interface.

@@ -659,6 +659,64 @@ TEST_F(FitTab, DoesNotAskBeforeClosingIfTheTestsAreKept)
     EXPECT_TRUE(boxes.shown().empty());
 }
 
+TEST_F(FitTab, NamesTheTestsThatAFitLeavesOut)
+{
+    showMaterial();
+    const auto& line = control<QLabel>("fitLeftOut");
+    paste(rubberTable());
+    EXPECT_FALSE(line.isVisible()); // nothing can be fitted
+    chooseMode("uniaxial");
+    EXPECT_FALSE(line.isVisible());
+    paste(rubberTable());
+    ASSERT_TRUE(line.isVisible());
+    EXPECT_THAT(line.text().toStdString(), AllOf(HasSubstr("The fit leaves out these tests"), HasSubstr("\"Test 2\""),
+                                                 Not(HasSubstr("\"Test 1\""))));
+    press("fitRemove"); // the second test
+    EXPECT_FALSE(line.isVisible());
+    EXPECT_EQ(page().tests().size(), 1U);
+}
+
+TEST_F(FitTab, KeepsTheTestsThatTheFitHasLeftOutAsOwnTestsAfterApply)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    Mat::MaterialObject& pad =
+        addMaterial(*dynamic_cast<Mat::DocumentMaterial*>(seal.get_project()), "Pad", vxMat::eMaterialType::Elastomer1);
+    pad.setSetting(setting, keptText("pad test"));
+    paste(rubberTable());
+    chooseMode("uniaxial");
+    paste(rubberTable());
+    fitTests();
+    press("fitApply");
+    select({&pad});
+    ASSERT_TRUE(waitFor([this] { return control<QPushButton>("fitApply").text().contains("Pad"); }));
+    select({&seal});
+    ASSERT_TRUE(waitFor([this] { return control<QPushButton>("fitApply").text().contains("Seal"); }));
+    ASSERT_EQ(page().tests().size(), 2U);
+    EXPECT_TRUE(page().tests()[0].isKept);
+    EXPECT_EQ(page().tests()[1].request.name, "Test 2");
+    const vxtest::MessageBoxes boxes(QMessageBox::Cancel);
+    EXPECT_FALSE(window->close());
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown()[0].text.toStdString(), AllOf(HasSubstr("\"Test 2\""), Not(HasSubstr("\"Test 1\""))));
+}
+
+TEST_F(FitTab, AsksForAKeptTestAgainIfItsKeepingIsUndoneBesideOwnTests)
+{
+    showMaterial();
+    paste(rubberTable());
+    chooseMode("uniaxial");
+    paste(rubberTable());
+    fitTests();
+    press("fitApply");
+    history().undo();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(page().tests()[0].isKept);
+    history().redo();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(page().tests()[0].isKept);
+    EXPECT_FALSE(page().tests()[1].isKept);
+}
+
 TEST_F(FitTab, EndsWithCancel)
 {
     showMaterial();

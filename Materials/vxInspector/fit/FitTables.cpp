@@ -2,6 +2,7 @@
 
 #include "curves/ConstitutiveTexts.h"
 #include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyId.h"
 #include "vxPlot/CurvePlot.h"
 #include "vxPlot/drawing/PlotItems.h"
 #include "vxUnits/Quantity.h"
@@ -112,6 +113,30 @@ Row constantRow(const vxConstitutive::FittedConstant& constant, const vxUnits::U
              textCell(determinationText(constant.determination))}};
 }
 
+/// Returns the list that a fit gives to a quantity; empty if there is none.
+std::vector<double> listOf(const FitResult& result, std::int32_t propertyId)
+{
+    for (const vxConstitutive::PropertyValue& value : result.change.set)
+        if (value.propertyId == propertyId)
+            return value.values;
+    return {};
+}
+
+/// The points of a multilinear hardening curve.
+std::vector<Row> hardeningRows(const FitResult& result, const vxUnits::UnitSystem& system)
+{
+    const std::vector<double> strains = listOf(result, vxMat::PropertyId::PlasticStrain);
+    const std::vector<double> stresses = listOf(result, vxMat::PropertyId::PlasticYieldStress);
+    const vxUnits::Unit unit = system.unitOf(vxUnits::Unit::parse("Pa")->dimension());
+    std::vector<Row> rows;
+    for (std::size_t i = 0; i < std::min(strains.size(), stresses.size()); ++i)
+        rows.push_back({{{tr("Yield stress %1").arg(i + 1)},
+                         {QString::fromStdString(vxUnits::writeNumber(stresses[i], unit, digits))},
+                         {QString::fromStdString(unit.text())},
+                         textCell(tr("at plastic strain %1").arg(vxPlot::numberText(strains[i], digits)))}});
+    return rows;
+}
+
 Row agreementRow(const vxConstitutive::TestAgreement& test)
 {
     return {{textCell(QString::fromStdString(test.test)),
@@ -220,6 +245,8 @@ TableContent constantTable(const FitResult& result, const vxUnits::UnitSystem& s
     TableContent table{{}, {tr("Constant"), tr("Value"), tr("Unit"), tr("Remark")}, {}};
     for (const vxConstitutive::FittedConstant& constant : result.constants)
         table.rows.push_back(constantRow(constant, system));
+    for (Row& row : hardeningRows(result, system))
+        table.rows.push_back(std::move(row));
     for (const vxConstitutive::TestAgreement& test : result.tests)
         table.rows.push_back(agreementRow(test));
     for (const vxConstitutive::Finding& finding : result.findings)

@@ -7,6 +7,7 @@
 #include "fit/FitJob.h"
 #include "fit/LoadedTest.h"
 #include "vxConstitutive/record/Measurements.h"
+#include "vxMaterial/model/PropertyId.h"
 
 #include <QCoreApplication>
 #include <gmock/gmock.h>
@@ -103,6 +104,20 @@ TEST(FitTables, ShowConstantsWithUnitsAndErrors)
         return;
     }
     FAIL() << "there is no Neo-Hookean model";
+}
+
+TEST(FitTables, ShowThePointsOfAHardeningCurve)
+{
+    vxConstitutive::FitResult result;
+    result.change.set = {{vxMat::PropertyId::PlasticStrain, 0.0, {}, {0.0, 0.05}},
+                         {vxMat::PropertyId::PlasticYieldStress, 0.0, {}, {2.5e8, 4e8}}};
+    const auto table = vxInspector::constantTable(result, *vxUnits::UnitSystem::parse("mm-t-s"));
+    ASSERT_EQ(table.rows.size(), 2U);
+    const auto& cells = table.rows[1].cells;
+    EXPECT_EQ(cells[0].text, "Yield stress 2");
+    EXPECT_EQ(cells[1].text, "400");
+    EXPECT_EQ(cells[2].text, "MPa");
+    EXPECT_EQ(cells[3].copied(), "at plastic strain 0.05");
 }
 
 TEST(FitTables, RankTheModelsWithTheirResiduals)

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -133,13 +134,24 @@ void CurvesPage::layOut()
     for (QToolButton* const button : {m_reset, m_copy, m_save})
         buttons->addWidget(button);
     buttons->addStretch(1);
-    auto* const layout = new QVBoxLayout(this);
+    auto* const content = new QWidget;
+    auto* const layout = new QVBoxLayout(content);
     layout->addWidget(m_sentence);
     layout->addWidget(m_controls);
     layout->addWidget(m_plot, 3);
     layout->addWidget(m_buttons);
     layout->addWidget(m_findings, 1);
     layout->addStretch(0);
+    content->setMinimumWidth(1); // it scrolls downwards only
+    // A low window must not become higher than the screen.
+    auto* const scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    auto* const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll);
 }
 
 void CurvesPage::connectControls()

@@ -19,6 +19,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest/QtTestGui>
@@ -110,6 +111,14 @@ protected:
         QTest::mouseRelease(&canvas, Qt::LeftButton, {}, middle + QPoint(20, 20));
     }
 };
+
+TEST_F(CurvesTab, ScrollsInsteadOfMakingALowWindowHigher)
+{
+    showRubber();
+    const int needed = page().findChild<QScrollArea*>()->widget()->minimumSizeHint().height();
+    EXPECT_LT(page().minimumSizeHint().height(), needed);
+    EXPECT_GT(needed, plot().minimumSizeHint().height());
+}
 
 TEST_F(CurvesTab, ShowsTheCurvesOfTheSelectedMaterial)
 {

@@ -4596,8 +4596,12 @@ Trotzdem löschen?</translation>
         <translation>Versuche sind nicht gespeichert</translation>
     </message>
     <message>
-        <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps them.</source>
-        <translation>Diese Versuche des Registers „Anpassung“ sind bei keinem Material gespeichert: %1. Wenn das Programm geschlossen wird, gehen sie verloren. „Übernehmen“ im Register speichert sie.</translation>
+        <source>The fit leaves out these tests, and &quot;Apply&quot; does not keep them: %1. Select a test to see what is missing.</source>
+        <translation>Die Anpassung lässt diese Versuche aus, und „Übernehmen“ speichert sie nicht: %1. Wählen Sie einen Versuch aus, um zu sehen, was fehlt.</translation>
+    </message>
+    <message>
+        <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps those that the fit uses.</source>
+        <translation>Diese Versuche des Registers „Anpassung“ sind bei keinem Material gespeichert: %1. Wenn das Programm geschlossen wird, gehen sie verloren. „Übernehmen“ im Register speichert die, die die Anpassung verwendet.</translation>
     </message>
 </context>
 <context>
@@ -4697,6 +4701,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>otherwise %1 to %2</source>
         <translation>sonst %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Yield stress %1</source>
+        <translation>Fließspannung %1</translation>
+    </message>
+    <message>
+        <source>at plastic strain %1</source>
+        <translation>bei der plastischen Dehnung %1</translation>
     </message>
 </context>
 <context>
@@ -5121,6 +5133,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>The fit is incompressible, and the material has no D1.</source>
         <translation>Die Anpassung ist inkompressibel, und das Material hat kein D1.</translation>
+    </message>
+    <message>
+        <source>The check of materials then reports that D1 is missing.</source>
+        <translation>Die Materialprüfung meldet danach, dass D1 fehlt.</translation>
     </message>
 </context>
 <context>
@@ -6599,10 +6615,6 @@ Trotzdem löschen?</translation>
         <translation>die plastischen Dehnungen steigen nicht; prüfen Sie die Kurve</translation>
     </message>
     <message>
-        <source>the value is absolute, and the catalogue has it relative to vacuum</source>
-        <translation>der Wert ist absolut, und der Katalog hat ihn relativ zum Vakuum</translation>
-    </message>
-    <message>
         <source>from the bulk modulus and the density</source>
         <translation>aus dem Kompressionsmodul und der Dichte</translation>
     </message>
@@ -6613,10 +6625,6 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1 more cards are not taken</source>
         <translation>%1 weitere Karten werden nicht übernommen</translation>
-    </message>
-    <message>
-        <source>The file includes other files in more lines, which are not read either.</source>
-        <translation>Die Datei bindet in weiteren Zeilen andere Dateien ein, die auch nicht gelesen werden.</translation>
     </message>
     <message>
         <source>the solver computes sound only as an analogy of heat conduction</source>
@@ -6897,6 +6905,42 @@ Trotzdem löschen?</translation>
     <message>
         <source>as the permeability, times that of vacuum</source>
         <translation>als Permeabilität, mit der des Vakuums multipliziert</translation>
+    </message>
+    <message>
+        <source>the deck declares the unit system %1 here, but %2 in a line before; divide it into decks of one unit system each</source>
+        <translation>die Solverdatei gibt hier das Einheitensystem %1 an, in einer Zeile davor aber %2; teilen Sie sie in Dateien mit je einem Einheitensystem</translation>
+    </message>
+    <message>
+        <source>from the absolute value, over that of vacuum</source>
+        <translation>aus dem absoluten Wert, geteilt durch den des Vakuums</translation>
+    </message>
+    <message>
+        <source>The file includes files in %1 more lines, which are not read.</source>
+        <translation>Die Datei bindet in %1 weiteren Zeilen Dateien ein, die nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 more cards are not of materials.</source>
+        <translation>%1 weitere Karten gehören nicht zu Materialien.</translation>
+    </message>
+    <message>
+        <source>no quantity is read; the material is empty</source>
+        <translation>keine Größe wird gelesen; das Material ist leer</translation>
+    </message>
+    <message>
+        <source>%1: values at temperature %2; the temperature is not kept</source>
+        <translation>%1: Werte bei der Temperatur %2; die Temperatur wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>The catalogue has no quantities for %1 more kinds of entries.</source>
+        <translation>Der Katalog hat keine Größen für %1 weitere Arten von Einträgen.</translation>
+    </message>
+    <message>
+        <source>the table has no points</source>
+        <translation>die Tabelle hat keine Punkte</translation>
+    </message>
+    <message>
+        <source>the table needs ascending total strains (plastic strain plus stress / E), also in the digits of its fields</source>
+        <translation>die Tabelle braucht aufsteigende Gesamtdehnungen (plastische Dehnung plus Spannung / E), auch in den Ziffern ihrer Felder</translation>
     </message>
 </context>
 <context>

@@ -4595,8 +4595,12 @@ Delete anyway?</source>
         <translation>试验未保存</translation>
     </message>
     <message>
-        <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps them.</source>
-        <translation>“拟合”选项卡中的以下试验未随任何材料保存：%1。关闭程序后将丢失。选项卡中的“应用”可保存它们。</translation>
+        <source>The fit leaves out these tests, and &quot;Apply&quot; does not keep them: %1. Select a test to see what is missing.</source>
+        <translation>拟合略去了以下试验，“应用”也不会保存它们：%1。选择一个试验可查看缺少什么。</translation>
+    </message>
+    <message>
+        <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps those that the fit uses.</source>
+        <translation>“拟合”选项卡中的以下试验未随任何材料保存：%1。关闭程序后将丢失。选项卡中的“应用”可保存拟合所用的试验。</translation>
     </message>
 </context>
 <context>
@@ -4696,6 +4700,14 @@ Delete anyway?</source>
     <message>
         <source>otherwise %1 to %2</source>
         <translation>其他为 %1 至 %2</translation>
+    </message>
+    <message>
+        <source>Yield stress %1</source>
+        <translation>屈服应力 %1</translation>
+    </message>
+    <message>
+        <source>at plastic strain %1</source>
+        <translation>在塑性应变 %1 处</translation>
     </message>
 </context>
 <context>
@@ -5120,6 +5132,10 @@ Delete anyway?</source>
     <message>
         <source>The fit is incompressible, and the material has no D1.</source>
         <translation>拟合按不可压缩进行，且材料没有 D1。</translation>
+    </message>
+    <message>
+        <source>The check of materials then reports that D1 is missing.</source>
+        <translation>材料检查随后会报告缺少 D1。</translation>
     </message>
 </context>
 <context>
@@ -6598,10 +6614,6 @@ Delete anyway?</source>
         <translation>塑性应变不是递增的；请检查曲线</translation>
     </message>
     <message>
-        <source>the value is absolute, and the catalogue has it relative to vacuum</source>
-        <translation>该值是绝对值，而目录中是相对于真空的值</translation>
-    </message>
-    <message>
         <source>from the bulk modulus and the density</source>
         <translation>由体积模量和密度得到</translation>
     </message>
@@ -6612,10 +6624,6 @@ Delete anyway?</source>
     <message>
         <source>%1 more cards are not taken</source>
         <translation>另有 %1 张卡片未读取</translation>
-    </message>
-    <message>
-        <source>The file includes other files in more lines, which are not read either.</source>
-        <translation>文件在更多行中包含其他文件，这些文件也未被读取。</translation>
     </message>
     <message>
         <source>the solver computes sound only as an analogy of heat conduction</source>
@@ -6896,6 +6904,42 @@ Delete anyway?</source>
     <message>
         <source>as the permeability, times that of vacuum</source>
         <translation>写为磁导率，即乘以真空磁导率</translation>
+    </message>
+    <message>
+        <source>the deck declares the unit system %1 here, but %2 in a line before; divide it into decks of one unit system each</source>
+        <translation>文件在此处声明单位制 %1，而在前面的行中声明 %2；请将其拆分为各用一种单位制的文件</translation>
+    </message>
+    <message>
+        <source>from the absolute value, over that of vacuum</source>
+        <translation>由绝对值除以真空值得到</translation>
+    </message>
+    <message>
+        <source>The file includes files in %1 more lines, which are not read.</source>
+        <translation>文件还在另外 %1 行中包含其他文件，这些文件未被读取。</translation>
+    </message>
+    <message>
+        <source>%1 more cards are not of materials.</source>
+        <translation>另有 %1 个卡片不属于材料。</translation>
+    </message>
+    <message>
+        <source>no quantity is read; the material is empty</source>
+        <translation>没有读取任何量；该材料为空</translation>
+    </message>
+    <message>
+        <source>%1: values at temperature %2; the temperature is not kept</source>
+        <translation>%1：温度 %2 下的值；温度不被保留</translation>
+    </message>
+    <message>
+        <source>The catalogue has no quantities for %1 more kinds of entries.</source>
+        <translation>目录中没有另外 %1 种条目对应的量。</translation>
+    </message>
+    <message>
+        <source>the table has no points</source>
+        <translation>该表没有数据点</translation>
+    </message>
+    <message>
+        <source>the table needs ascending total strains (plastic strain plus stress / E), also in the digits of its fields</source>
+        <translation>该表需要递增的总应变（塑性应变加应力/E），其字段的位数也须如此</translation>
     </message>
 </context>
 <context>

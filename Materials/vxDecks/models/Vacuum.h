@@ -7,7 +7,7 @@ namespace vxDecks {
 /// A constant of vacuum, of which the catalogue has the multiple in a material. Solvers may have the absolute value.
 struct VacuumConstant
 {
-    double inSi;
+    double inSi = 1.0;
     vxUnits::Dimension dimension;
 
     /// Returns the constant in the unit of a system.

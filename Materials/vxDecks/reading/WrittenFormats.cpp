@@ -13,7 +13,7 @@ namespace {
 std::string takeLine(std::string_view& text)
 {
     const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    const std::string line = vxMat::toUpperAscii(trimmed(text.substr(0, end)));
+    std::string line = vxMat::toUpperAscii(trimmed(text.substr(0, end)));
     text.remove_prefix(std::min(end + 1, text.size()));
     return line;
 }

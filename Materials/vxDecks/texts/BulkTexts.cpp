@@ -1,5 +1,7 @@
 #include "texts/BulkTexts.h"
 
+#include "texts/TextTable.h"
+
 #include <array>
 #include <utility>
 
@@ -61,8 +63,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(BulkText::Co
 
 vxUnits::Message makeMessage(BulkText text, std::vector<std::string> arguments)
 {
-    const vxUnits::MessageText& one = texts[static_cast<std::size_t>(text)];
-    return {one.id, one.english, std::move(arguments)};
+    return messageOf(texts, text, std::move(arguments));
 }
 
 std::vector<vxUnits::MessageText> bulkTexts()

@@ -1,5 +1,7 @@
 #include "texts/DeckTexts.h"
 
+#include "texts/TextTable.h"
+
 #include <array>
 #include <utility>
 
@@ -80,8 +82,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
 
 vxUnits::Message makeMessage(Text text, std::vector<std::string> arguments)
 {
-    const vxUnits::MessageText& one = texts[static_cast<std::size_t>(text)];
-    return {one.id, one.english, std::move(arguments)};
+    return messageOf(texts, text, std::move(arguments));
 }
 
 std::vector<vxUnits::MessageText> deckTexts()

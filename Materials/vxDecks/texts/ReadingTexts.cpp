@@ -1,5 +1,7 @@
 #include "texts/ReadingTexts.h"
 
+#include "texts/TextTable.h"
+
 #include <array>
 #include <utility>
 
@@ -72,8 +74,7 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
 
 vxUnits::Message makeMessage(ReadText text, std::vector<std::string> arguments)
 {
-    const vxUnits::MessageText& one = texts[static_cast<std::size_t>(text)];
-    return {one.id, one.english, std::move(arguments)};
+    return messageOf(texts, text, std::move(arguments));
 }
 
 std::vector<vxUnits::MessageText> readingTexts()

@@ -1,30 +1,8 @@
-#include "Fuzzing.h"
-
-#include "vxDecks/Deck.h"
-#include "vxDecks/DeckReading.h"
-
-#include <cstdlib>
-#include <sstream>
-#include <vector>
+#include "DeckFuzzing.h"
 
 namespace {
 
 using vxDecks::Format;
-
-/// Aborts unless each material has a name, and each of its quantities a row in the report.
-void requireReports(const vxDecks::ReadDeck& deck)
-{
-    if (deck.materials.size() != deck.report.materials.size())
-        std::abort();
-    for (std::size_t i = 0; i < deck.materials.size(); ++i) {
-        const vxDecks::ReadMaterial& one = deck.materials[i];
-        const bool isComplete = deck.report.materials[i].rows.size() >= one.material->properties.size();
-        if (one.name.empty() || one.material->name != one.name || !isComplete)
-            std::abort();
-    }
-    toLines(deck.report);
-    toJson(deck.report);
-}
 
 /// Aborts unless the deck of the materials that were read can be read too, and has as many materials.
 void requireReadableAgain(const vxDecks::ReadDeck& deck)
@@ -52,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const vxDecks::DeckError&) {
         return 0;
     }
-    requireReports(deck);
+    vxfuzz::requireReports(deck);
     requireReadableAgain(deck);
     return 0;
 }

@@ -27,6 +27,7 @@ function(vx_add_library target)
     list(TRANSFORM arg_SOURCES PREPEND ${folder})
     list(TRANSFORM arg_PUBLIC_HEADERS PREPEND ${folder} OUTPUT_VARIABLE headers)
     add_library(${target} ${type} ${arg_SOURCES} ${headers})
+    vx_group_sources(${target})
     if(arg_ALIAS)
         add_library(${arg_ALIAS} ALIAS ${target})
     endif()
@@ -50,6 +51,30 @@ function(vx_add_library target)
     vx_check_headers_alone(${target} ${arg_INCLUDE_PATH} ${arg_PUBLIC_HEADERS})
 endfunction()
 
+# vx_group_sources(<target>): leaves sources with a tr() of their own out of groups, because sources in a group see each
+# other's unnamed namespaces.
+function(vx_group_sources target)
+    if(NOT VX_UNITY_BUILD)
+        return()
+    endif()
+    get_target_property(sources ${target} SOURCES)
+    foreach(source IN LISTS sources)
+        cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} OUTPUT_VARIABLE file)
+        if(source MATCHES "[.]cpp$" AND EXISTS ${file})
+            file(STRINGS ${file} own_tr REGEX "^(inline )?QString tr\\(const char" LIMIT_COUNT 1)
+            if(own_tr)
+                vx_compile_alone(${source})
+            endif()
+        endif()
+    endforeach()
+endfunction()
+
+# vx_compile_alone(<source>...): leaves sources out of groups, because others of their library use the same names in
+# their unnamed namespaces.
+function(vx_compile_alone)
+    set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # Writes a header that includes `header`. Does not touch a file that has this content already.
 function(vx_forward_header forward header)
     file(CONFIGURE OUTPUT ${forward} CONTENT "#include \"${header}\"\n")
@@ -70,6 +95,7 @@ function(vx_check_headers_alone target include_path)
     add_library(${target}_headers_alone OBJECT ${checks})
     target_link_libraries(${target}_headers_alone PRIVATE ${target} vx_options)
     target_compile_options(${target}_headers_alone PRIVATE -O0 -g0)
+    set_target_properties(${target}_headers_alone PROPERTIES UNITY_BUILD OFF)
 endfunction()
 
 # vx_install_library(<target> EXPORT <set> NAME <name in the package> INCLUDE_PATH <path> HEADERS <file>...)

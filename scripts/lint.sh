@@ -34,10 +34,11 @@ scripts/check-guides.py || failed=1
 echo "clang-tidy"
 # No other check compiles the measurements.
 scripts/build.sh default all benchmarks
-# clang-tidy cannot read the precompiled headers of GCC.
+# The commands of each source, also if sources were compiled in groups; generated headers are those of the build. clang-tidy
+# cannot read the precompiled headers of GCC.
 commands=build/default/clang-tidy
-mkdir -p "$commands"
-sed -E 's/ -Winvalid-pch -include [^ ]+//' build/default/compile_commands.json >"$commands/compile_commands.json"
+cmake -S . -B "$commands" -G Ninja -DVX_UNITY_BUILD=OFF >/dev/null
+sed -i -E "s/ -Winvalid-pch -include [^ ]+//; s:$PWD/$commands:$PWD/build/default:g" "$commands/compile_commands.json"
 # Without this extension, most of the time is spent on the declarations of Qt and of the standard library, in each source.
 extension=$commands/OwnDeclarations.so
 clang++ -std=c++17 -O1 -fPIC -shared -fno-rtti -isystem "$(llvm-config --includedir)" scripts/lint/OwnDeclarations.cpp \

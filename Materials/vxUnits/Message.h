@@ -22,7 +22,8 @@ struct MessageText
 using Translator = std::function<std::string(const char* context, const char* english)>;
 
 /// A message to a user: an English text and its arguments, which are separate so that a program can translate the text.
-/// The English text is the source of translation. An argument that is one of wordTexts() is translated too.
+/// The English text is the source of translation. An argument that is one of wordTexts(), or the name of a quantity, is
+/// translated too, unless its place is in quotation marks: what the user typed is quoted as it was typed.
 struct Message
 {
     const char* id = "";                ///< "units.unknown-unit"; does not change with the English text
@@ -31,8 +32,10 @@ struct Message
     /// The parts of arguments that join several texts, such as "Density = 7850 kg/m^3, Specific heat = 434 J/(kg K)", by the
     /// index of the argument. Each part is translated, in place of the argument.
     std::map<std::size_t, std::vector<std::string>> parts = {};
+    std::vector<Message> further = {}; ///< messages that follow this one
 
-    /// Returns the text with the arguments in their places: in English, or translated.
+    /// Returns the text with the arguments in their places, and those of further messages after a blank: in English, or
+    /// translated.
     VXUNITS_EXPORT std::string text(const Translator& translator = {}) const;
 };
 

@@ -54,13 +54,13 @@ std::optional<QString> addWithUnits(vxMat::MaterialBase& material, const SheetRo
     if (vxMat::getValueKind(row.id) == vxMat::ValueKind::NumberList) {
         const auto list = vxUnits::readQuantityList(row.id, value, context);
         if (!list)
-            return translated(list.failure(), value);
+            return translated(list.failure());
         add(material, row, vxMat::formatNumberList(list->values));
         return std::nullopt;
     }
     const auto reading = vxUnits::readQuantity(row.id, value, context);
     if (!reading)
-        return translated(reading.failure(), value);
+        return translated(reading.failure());
     add(material, row, vxMat::formatNumber(reading->value));
     return std::nullopt;
 }

@@ -11,7 +11,7 @@ std::string translate(const char* context, const char* english)
     return QCoreApplication::translate(context, english).toStdString();
 }
 
-/// Translates the names of quantities too. In a failure, a text that the user has typed may be the same as a name.
+/// Translates the names of quantities too.
 std::string translateWithNames(const char* context, const char* english)
 {
     std::string text = translate(context, english);
@@ -27,16 +27,7 @@ QString translated(const vxUnits::Message& message)
 
 QString translated(const vxUnits::Failure& failure)
 {
-    return QString::fromStdString(failure.text(translate));
-}
-
-QString translated(vxUnits::Failure failure, const std::string& typed)
-{
-    for (std::string& argument : failure.message.arguments) {
-        if (argument != typed)
-            argument = translate("vxMat::PropertyName", argument.c_str());
-    }
-    return translated(failure);
+    return QString::fromStdString(failure.text(translateWithNames));
 }
 
 QString translated(const vxUnits::Doubt& doubt)

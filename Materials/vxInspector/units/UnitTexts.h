@@ -10,11 +10,10 @@
 
 namespace vxInspector {
 
-/// Return the texts of messages about units and values in the user's language. Names of quantities are translated in a
-/// message and in a doubt, but in a failure only if the text of the user is given, which the failure may quote.
+/// Return the texts of messages about units and values in the user's language, with the names of quantities. What the user
+/// typed is quoted as it was typed, even if it is such a name.
 QString translated(const vxUnits::Message& message);
 QString translated(const vxUnits::Failure& failure); ///< with the suggestion
-QString translated(vxUnits::Failure failure, const std::string& typed);
 QString translated(const vxUnits::Doubt& doubt); ///< with the remedy
 
 /// Returns a word of the library of units, such as the name of a derived value, in the user's language.

@@ -8,6 +8,8 @@
 #include "vxUnits/Result.h"
 
 #include <array>
+#include <string>
+#include <string_view>
 
 namespace vxUnits {
 
@@ -100,6 +102,13 @@ std::string fill(std::string_view text, const std::vector<std::string>& argument
     return filled;
 }
 
+/// Returns whether the place of an argument is in quotation marks. What is quoted was typed or read, and may be the same as a
+/// word or the name of a quantity.
+bool isQuoted(std::string_view english, std::size_t argument)
+{
+    return english.find("\"%" + std::to_string(argument + 1) + "\"") != std::string_view::npos;
+}
+
 /// Returns the translations of the parts of an argument, joined.
 std::string translateAll(const std::vector<std::string>& parts, const Translator& translator)
 {
@@ -109,19 +118,29 @@ std::string translateAll(const std::vector<std::string>& parts, const Translator
     return text;
 }
 
+std::vector<std::string> translatedArguments(const Message& message, const Translator& translator)
+{
+    std::vector<std::string> translated;
+    for (std::size_t i = 0; i < message.arguments.size(); ++i) {
+        const std::string& argument = message.arguments[i];
+        if (const auto parts = message.parts.find(i); parts != message.parts.end())
+            translated.push_back(translateAll(parts->second, translator));
+        else
+            translated.push_back(isQuoted(message.english, i) ? argument : translateAll({argument}, translator));
+    }
+    return translated;
+}
+
 } // namespace
 
 std::string Message::text(const Translator& translator) const
 {
-    if (!translator)
-        return fill(english, arguments);
-    std::vector<std::string> translated;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const auto found = parts.find(i);
-        const bool isOne = found == parts.end();
-        translated.push_back(translateAll(isOne ? std::vector{arguments[i]} : found->second, translator));
-    }
-    return fill(translator("vxUnits::Message", english), translated);
+    std::string whole = translator
+                            ? fill(translator("vxUnits::Message", english), translatedArguments(*this, translator))
+                            : fill(english, arguments);
+    for (const Message& message : further)
+        whole += " " + message.text(translator);
+    return whole;
 }
 
 const std::vector<MessageText>& messageTexts()

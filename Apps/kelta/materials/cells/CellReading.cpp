@@ -122,7 +122,7 @@ CellReading accepted(const TypedValue& value, const QString& unit)
 QString reasonOf(vxUnits::Failure failure, const QString& typed)
 {
     failure.suggestion = partToChange(QString::fromStdString(failure.suggestion), typed).toStdString();
-    return vxInspector::translated(std::move(failure), typed.toStdString());
+    return vxInspector::translated(failure);
 }
 
 std::optional<CellReading> readCell(const QModelIndex& cell, const QString& text)

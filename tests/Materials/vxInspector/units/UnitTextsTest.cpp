@@ -1,6 +1,7 @@
 #include "vxInspector/units/UnitTexts.h"
 
 #include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/Filter.h"
 #include "vxUnits/Plausibility.h"
 #include "vxUnits/Reading.h"
 
@@ -64,14 +65,29 @@ TEST(UnitTexts, HaveTheLanguageOfTheUserWithTheirWordsAndSuggestions)
     EXPECT_THAT(refusalOf("2,1 GPa"), EndsWith("Meinten Sie „2.1 GPa“?"));
 }
 
-TEST(UnitTexts, NameTheQuantitiesOfAFailureIfTheTextOfTheUserIsKnown)
+TEST(UnitTexts, NameTheQuantitiesOfAFailureInTheLanguageOfTheUser)
 {
     const Language german("de");
     vxUnits::ReadingContext context;
     context.creep = vxUnits::CreepExponents{4.5, std::nullopt};
     const char* const typed = "1e-10 MPa^-4.5 s^-1";
     const auto failure = vxUnits::readQuantity(vxMat::PropertyId::CreepModulusA, typed, context).failure();
-    EXPECT_THAT(vxInspector::translated(failure, typed).toStdString(), Not(HasSubstr("Creep Modulus")));
+    EXPECT_THAT(vxInspector::translated(failure).toStdString(), Not(HasSubstr("Creep Modulus")));
+}
+
+TEST(UnitTexts, QuoteWhatTheUserTypedAsItWasTyped)
+{
+    const Language german("de");
+    EXPECT_THAT(refusalOf("5 Density"), HasSubstr("Die Einheit „Density“ ist nicht bekannt."));
+    EXPECT_THAT(refusalOf("5 rubber"), HasSubstr("Die Einheit „rubber“ ist nicht bekannt."));
+    const auto filter = vxUnits::readFilter("Density > 5 Density");
+    EXPECT_THAT(vxInspector::translated(filter.failure).toStdString(),
+                HasSubstr("„Density“ ist keine bekannte Einheit"));
+    const auto words = vxUnits::readFilter("steel > 5");
+    EXPECT_THAT(vxInspector::translated(words.failure).toStdString(), HasSubstr("„steel“"));
+    const auto remark = vxUnits::readFilter("Density 7850").remark;
+    ASSERT_TRUE(remark);
+    EXPECT_THAT(vxInspector::translated(*remark).toStdString(), HasSubstr("„Density = 7850“"));
 }
 
 TEST(UnitTexts, NameTheQuantitiesOfADoubtInTheLanguageOfTheUser)

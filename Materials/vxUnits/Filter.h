@@ -174,7 +174,12 @@ inline constexpr std::size_t deepestFilter = 100;
 VXUNITS_EXPORT FilterReading readFilter(std::string_view text, const ReadingContext& context = {},
                                         const FilterNames& names = {});
 
-/// Returns the English name of the quantity of the catalogue that a text probably means; empty if none is near.
-VXUNITS_EXPORT std::string nearestQuantityName(std::string_view typed);
+/// Returns the quantity that filters take a name, key, symbol or id to be: "Young's modulus", "E", "D1", "5". Absent if there
+/// is none.
+VXUNITS_EXPORT std::optional<FilterQuantity> findQuantityNamed(std::string_view name);
+
+/// Returns the English names or symbols of the quantities of the catalogue that a text probably means, at most three; empty if
+/// none is near.
+VXUNITS_EXPORT std::vector<std::string> nearestQuantityNames(std::string_view typed);
 
 } // namespace vxUnits

@@ -129,13 +129,15 @@ Failure setNamedQuantity(const QStringList& arguments)
     Mat::MaterialObject* const object = selectedMaterial();
     if (object == nullptr || arguments.size() != 2)
         return tr("give a quantity and its value, and select exactly one material");
-    for (const auto& [id, quantity] : object->getMatMgr().propertyCatalogue)
-        if (isSame(quantity->name, arguments[0]) || isSame(quantity->key, arguments[0]))
-            return setQuantity(*object, *quantity, arguments[1].toStdString());
-    const QString nearest = QString::fromStdString(vxUnits::nearestQuantityName(arguments[0].toStdString()));
-    return nearest.isEmpty()
-               ? tr("the catalogue has no quantity \"%1\"").arg(arguments[0])
-               : tr(R"(the catalogue has no quantity "%1"; did you mean "%2"?)").arg(arguments[0], nearest);
+    const std::string name = arguments[0].toStdString();
+    const auto& catalogue = object->getMatMgr().propertyCatalogue;
+    const auto named = vxUnits::findQuantityNamed(name);
+    if (const auto found = catalogue.find(named ? named->id : 0); found != catalogue.end())
+        return setQuantity(*object, *found->second, arguments[1].toStdString());
+    const std::vector<std::string> nearest = vxUnits::nearestQuantityNames(name);
+    return nearest.empty() ? tr("the catalogue has no quantity \"%1\"").arg(arguments[0])
+                           : tr(R"(the catalogue has no quantity "%1"; did you mean "%2"?)")
+                                 .arg(arguments[0], QString::fromStdString(nearest.front()));
 }
 
 Failure clearMaterial(const QStringList& arguments)

@@ -49,17 +49,16 @@ std::string suggest(const std::string& text)
     }
     if (names.size() > mostSuggestions)
         return {};
-    if (const std::string nearest = vxUnits::nearestQuantityName(text); names.empty() && !nearest.empty())
-        names.push_back(nearest);
-    return didYouMean(names);
+    return didYouMean(names.empty() ? vxUnits::nearestQuantityNames(text) : names);
 }
 
 const PropertyRecord& findQuantity(const std::string& name)
 {
-    for (const PropertyRecord& record : vxMat::propertyRecords()) {
-        if (equalIgnoringAsciiCase(record.name, name) || equalIgnoringAsciiCase(record.key, name) ||
-            std::to_string(record.id) == name)
-            return record;
+    if (const auto found = vxUnits::findQuantityNamed(name)) {
+        if (found->derived == nullptr)
+            return *vxMat::findPropertyRecord(found->id);
+        throw Failure("\"" + name + "\" is derived and cannot be set: " + found->name() + " = " +
+                      found->derived->formula);
     }
     const std::string question = suggest(name);
     throw Failure("no quantity is called \"" + name +

@@ -227,7 +227,7 @@ void CommandLine::addSet()
         [this] { return setQuantity(m_setting, existing()); });
     command->add_option("PROJECT", m_setting.project, "The project file, which is changed in place")->required();
     command->add_option("MATERIAL", m_setting.material, "The label of the material, or its number");
-    command->add_option("QUANTITY", m_setting.quantity, "The name, key or id of a quantity");
+    command->add_option("QUANTITY", m_setting.quantity, "The name, key, symbol or id of a quantity");
     command->add_option(
         "VALUE", m_setting.value,
         "A number with a unit, or in the unit of the catalogue; a list of numbers; a word; \"on\" for a switch");

@@ -102,18 +102,17 @@ std::optional<FilterQuantity> lookUp(const NameMap& map, const std::string& name
     return found != map.end() ? std::optional<FilterQuantity>(found->second) : std::nullopt;
 }
 
-/// Collects the name that is nearest to a typed text.
-class NearestName
+/// Collects the names that are nearest to a typed text.
+class NearestNames
 {
 public:
-    explicit NearestName(std::string_view typed) : m_typed(foldName(typed.substr(0, mostBytes)))
+    explicit NearestNames(std::string_view typed) : m_typed(foldName(typed.substr(0, mostBytes)))
     {
-        m_fewest = m_typed.size() / lettersPerError + 1;
+        m_fewest = m_typed.size() / lettersPerError;
     }
 
     void compareWith(const std::vector<QuantityName>& names)
     {
-        constexpr std::size_t fewestLetters = 3; // shorter texts are near to any symbol
         if (m_typed.size() < fewestLetters)
             return;
         for (const QuantityName& name : names) {
@@ -121,22 +120,40 @@ public:
                 continue;
             const std::size_t errors =
                 beginsWord(name.folded, m_typed) ? std::size_t(1) : editDistance(m_typed, name.folded);
-            if (errors >= m_fewest)
-                continue;
-            m_fewest = errors;
-            m_nearest = name.text;
+            if (errors <= m_fewest)
+                add(name, errors);
         }
     }
 
-    std::string text() const { return m_nearest; }
+    std::vector<std::string> texts() const
+    {
+        std::vector<std::string> texts;
+        for (const QuantityName* const name : m_nearest)
+            texts.push_back(name->text);
+        return texts;
+    }
 
 private:
     static constexpr std::size_t mostBytes = 60;
     static constexpr std::size_t lettersPerError = 3;
+    static constexpr std::size_t fewestLetters = 3; ///< shorter texts are near to any symbol
+    static constexpr std::size_t mostNames = 3;
+
+    /// Adds a name if it has as few errors as the nearest ones. A quantity keeps its first name.
+    void add(const QuantityName& name, std::size_t errors)
+    {
+        if (errors < m_fewest)
+            m_nearest.clear();
+        m_fewest = errors;
+        const bool isKnown = std::any_of(m_nearest.begin(), m_nearest.end(),
+                                         [&name](const QuantityName* one) { return one->quantity == name.quantity; });
+        if (!isKnown && m_nearest.size() < mostNames)
+            m_nearest.push_back(&name);
+    }
 
     std::string m_typed;
-    std::size_t m_fewest = 0;
-    std::string m_nearest;
+    std::size_t m_fewest = 0; ///< errors of the nearest names; before, the most that are allowed
+    std::vector<const QuantityName*> m_nearest;
 };
 
 } // namespace
@@ -184,23 +201,30 @@ std::optional<FilterQuantity> QuantityNames::find(std::string_view name) const
 
 std::string QuantityNames::nearest(std::string_view typed) const
 {
-    NearestName nearest(typed);
+    NearestNames nearest(typed);
     nearest.compareWith(m_added);
     nearest.compareWith(englishNames());
-    return nearest.text();
+    const std::vector<std::string> texts = nearest.texts();
+    return texts.empty() ? std::string() : texts.front();
 }
 
-std::string nearestQuantityName(std::string_view typed)
+std::optional<FilterQuantity> findQuantityNamed(std::string_view name)
+{
+    static const QuantityNames english{FilterNames()};
+    return english.find(name);
+}
+
+std::vector<std::string> nearestQuantityNames(std::string_view typed)
 {
     static const std::vector<QuantityName> catalogue = [] {
-        std::vector<QuantityName> names;
-        for (const vxMat::PropertyRecord& record : vxMat::propertyRecords())
-            names.push_back({{record.id, nullptr}, record.name, foldName(record.name), false});
+        std::vector<QuantityName> names = englishNames();
+        const auto isDerived = [](const QuantityName& one) { return one.quantity.derived != nullptr; };
+        names.erase(std::remove_if(names.begin(), names.end(), isDerived), names.end());
         return names;
     }();
-    NearestName nearest(typed);
+    NearestNames nearest(typed);
     nearest.compareWith(catalogue);
-    return nearest.text();
+    return nearest.texts();
 }
 
 } // namespace vxUnits

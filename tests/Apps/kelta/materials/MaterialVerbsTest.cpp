@@ -34,6 +34,9 @@ TEST_F(Verbs, SetAQuantity)
     EXPECT_EQ(run("set", {"Young's modulus", "7e10"}), "");
     EXPECT_EQ(run("set", {"Densty", "7850"}), R"(the catalogue has no quantity "Densty"; did you mean "Density"?)");
     EXPECT_EQ(run("set", {"G", "7850"}), R"(the catalogue has no quantity "G")");
+    EXPECT_EQ(run("set", {"D1", "0.4 1/GPa"}), "") << "by its usual symbol";
+    EXPECT_EQ(steel.getCMaterial()->findProperty(25)->value, 0.4e-9);
+    history().undo();
     EXPECT_EQ(modulusOf(steel), 7e10);
     history().undo();
     EXPECT_EQ(modulusOf(steel), 2e11);

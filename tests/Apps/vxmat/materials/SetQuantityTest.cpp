@@ -65,6 +65,34 @@ TEST_F(SetQuantity, TakesAPlainNumberInTheUnitOfTheCatalogue)
     EXPECT_EQ(propertyOf("Frame", 4).value, 7900.0);
 }
 
+TEST_F(SetQuantity, FindsAQuantityByTheSymbolsOfFilters)
+{
+    const std::tuple<const char*, const char*, int, double> cases[] = {
+        {"Mu", "0.4MPa", 23, 0.4e6},
+        {"D1", "0.4 1/GPa", 25, 0.4e-9},
+        {"C10", "0.4 MPa", 26, 0.4e6},
+        {"c01", "5 psi", 27, 34473.78646584181},
+        {"C11", "1 kPa", 128, 1000.0},
+        {"lm", "5", 127, 5.0},
+        {"\xCF\x81", "1.1 g/cm^3", 4, 1100.0},
+        {"E", "2 MPa", 5, 2e6},
+        {"nu", "0.3", 6, 0.3},
+        {"cp", "0.49 kJ/(kg K)", 202, 490.0},
+        {"eta", "1 mPa s", 21, 1e-3},
+        {"phi", "30 deg", 35, 30.0},
+        {"H", "1 GPa", 36, 1e9},
+        {"tau", "1 min", 44, 60.0},
+        {"Youngs modulus", "3 GPa", 5, 3e9},
+        {"epsr", "2.5", 302, 2.5},
+        {"n", "5", 47, 5.0},
+        {"m", "-0.5", 48, -0.5},
+    };
+    for (const auto& [symbol, text, id, value] : cases) {
+        EXPECT_EQ(set("New", symbol, text).status, 0) << symbol;
+        EXPECT_EQ(propertyOf("New", id).value, value) << symbol;
+    }
+}
+
 TEST_F(SetQuantity, AddsAQuantityThatTheMaterialDoesNotHave)
 {
     EXPECT_EQ(set("New", "203", "54 W/(m K)").status, 0);
@@ -110,7 +138,12 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
         {"Frame", "Elasticity", "1",
          "vxmat: no quantity is called \"Elasticity\"; did you mean \"Isotropic elasticity\" or \"Visco-elasticity\"?"},
         {"Frame", "Youngs", "1", "did you mean \"Young's modulus\"?"},
-        {"Frame", "Youngs modulus", "1", "did you mean \"Young's modulus\"?"},
+        {"Frame", "C12", "1 MPa", "vxmat: no quantity is called \"C12\"; did you mean \"C10\" or \"C11\"?"},
+        {"Frame", "G", "80 GPa", "vxmat: \"G\" is derived and cannot be set: Shear modulus = E / (2 (1 + nu))"},
+        {"Frame", "D1", "0.4 MPa",
+         "\"0.4 MPa\" measures pressure or stress; Incompressibility Parameter D1 is its reciprocal and needs a unit "
+         "such as "
+         "1/Pa."},
         {"Frame", "modulus", "1", "did you mean \"Young's modulus\", "},
         {"Frame", "weight", "1", "vxmat: no quantity is called \"weight\"; \"vxmat catalogue\" lists them"},
         {"Frame", "Densty", "1", "vxmat: no quantity is called \"Densty\"; did you mean \"Density\"?"},

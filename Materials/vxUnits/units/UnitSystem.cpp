@@ -32,13 +32,24 @@ struct BuiltInSystem
     const char* density = nullptr;
     const char* viscosity = nullptr;
     const char* specificHeat = nullptr;
+    const char* heatPerVolume = nullptr;
     const char* thermalConductivity = nullptr;
     const char* electricalConductivity = nullptr;
     const char* electricalResistivity = nullptr; ///< null for the reciprocal of the conductivity
 };
 
 constexpr BuiltInSystem builtInSystems[] = {
-    {"SI", "m-kg-s,mks", {"m", "kg", "s", "K", "A"}, "Pa", "kg/m^3", "Pa s", "J/(kg K)", "W/(m K)", "S/m", "Ohm m"},
+    {"SI",
+     "m-kg-s,mks",
+     {"m", "kg", "s", "K", "A"},
+     "Pa",
+     "kg/m^3",
+     "Pa s",
+     "J/(kg K)",
+     "J/(m^3 K)",
+     "W/(m K)",
+     "S/m",
+     "Ohm m"},
     {"mm-t-s",
      "mm-tonne-s,mm-ton-s",
      {"mm", "t", "s", "K", "A"},
@@ -46,10 +57,32 @@ constexpr BuiltInSystem builtInSystems[] = {
      "t/mm^3",
      "MPa s",
      "mJ/(t K)",
+     "mJ/(mm^3 K)",
      "mW/(mm K)",
-     "kS/mm"},
-    {"mm-kg-ms", "", {"mm", "kg", "ms", "K", "A"}, "GPa", "kg/mm^3", "GPa ms", "J/(kg K)", "kW/(mm K)", "S/m"},
-    {"cm-g-s", "cgs", {"cm", "g", "s", "K", "A"}, "dyn/cm^2", "g/cm^3", "P", "erg/(g K)", "erg/(s cm K)", "GS/m"},
+     "kS/mm",
+     "mOhm mm"},
+    {"mm-kg-ms",
+     "",
+     {"mm", "kg", "ms", "K", "A"},
+     "GPa",
+     "kg/mm^3",
+     "GPa ms",
+     "J/(kg K)",
+     "J/(mm^3 K)",
+     "kW/(mm K)",
+     "S/m",
+     "Ohm m"},
+    {"cm-g-s",
+     "cgs",
+     {"cm", "g", "s", "K", "A"},
+     "dyn/cm^2",
+     "g/cm^3",
+     "P",
+     "erg/(g K)",
+     "erg/(cm^3 K)",
+     "erg/(s cm K)",
+     "GS/m",
+     "nOhm m"},
     {"ft-slug-s",
      "",
      {"ft", "slug", "s", "degF", "A"},
@@ -57,6 +90,7 @@ constexpr BuiltInSystem builtInSystems[] = {
      "slug/ft^3",
      "lbf s/ft^2",
      "ft lbf/(slug degF)",
+     "psf/degF",
      "lbf/(s degF)",
      "A^2 s/(lbf ft^2)"},
     {"in-lbf-s",
@@ -66,6 +100,7 @@ constexpr BuiltInSystem builtInSystems[] = {
      "lbf s^2/in^4",
      "psi s",
      "in^2/(s^2 degF)",
+     "psi/degF",
      "lbf/(s degF)",
      "A^2 s/(lbf in^2)"},
 };
@@ -108,7 +143,7 @@ public:
         auto bases = std::make_shared<UnitSystem::Bases>();
         for (std::size_t i = 0; i < baseUnitCount; ++i)
             setBase(*bases, i, row.bases[i]);
-        for (const char* const name : {row.pressure, row.density, row.viscosity, row.specificHeat,
+        for (const char* const name : {row.pressure, row.density, row.viscosity, row.specificHeat, row.heatPerVolume,
                                        row.thermalConductivity, row.electricalConductivity, row.electricalResistivity})
             if (name != nullptr)
                 bases->named.push_back(UnitBuilder::build(termsOf(name)).named(name));

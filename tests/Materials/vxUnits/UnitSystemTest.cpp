@@ -2,10 +2,12 @@
 
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
+#include "vxUnits/DerivedValues.h"
 #include "vxUnits/Quantity.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
@@ -108,6 +110,75 @@ TEST(UnitSystems, WriteEachQuantityInTheirUnit)
         EXPECT_NEAR(value / one.value, 1.0, 5e-16) << one.system << ' ' << one.unit;
         const double back = (*converterOfQuantity(one.id, system, UnitSystem::si()))(value);
         EXPECT_NEAR(back / one.si, 1.0, 5e-16) << one.system << ' ' << one.unit;
+    }
+}
+
+/// The units that engineers write for a dimension in SI, mm-t-s, mm-kg-ms, cm-g-s, ft-slug-s and in-lbf-s.
+struct UnitsOfDimension
+{
+    Dimension dimension;
+    const char* units[6];
+};
+
+const UnitsOfDimension naturalUnits[] = {
+    {d::none, {"1", "1", "1", "1", "1", "1"}},
+    {d::angle, {"deg", "deg", "deg", "deg", "deg", "deg"}},
+    {d::time, {"s", "s", "ms", "s", "s", "s"}},
+    {d::speed, {"m/s", "mm/s", "mm/ms", "cm/s", "ft/s", "in/s"}},
+    {d::density, {"kg/m^3", "t/mm^3", "kg/mm^3", "g/cm^3", "slug/ft^3", "lbf s^2/in^4"}},
+    {d::pressure, {"Pa", "MPa", "GPa", "dyn/cm^2", "psf", "psi"}},
+    {d::compressibility, {"1/Pa", "1/MPa", "1/GPa", "cm^2/dyn", "1/psf", "1/psi"}},
+    {d::dynamicViscosity, {"Pa s", "MPa s", "GPa ms", "P", "lbf s/ft^2", "psi s"}},
+    {d::kinematicViscosity, {"m^2/s", "mm^2/s", "mm^2/ms", "cm^2/s", "ft^2/s", "in^2/s"}},
+    {d::specificHeat, {"J/(kg K)", "mJ/(t K)", "J/(kg K)", "erg/(g K)", "ft lbf/(slug degF)", "in^2/(s^2 degF)"}},
+    {d::thermalConductivity, {"W/(m K)", "mW/(mm K)", "kW/(mm K)", "erg/(s cm K)", "lbf/(s degF)", "lbf/(s degF)"}},
+    {d::electricalConductivity, {"S/m", "kS/mm", "S/m", "GS/m", "A^2 s/(lbf ft^2)", "A^2 s/(lbf in^2)"}},
+    {d::electricalResistivity, {"Ohm m", "mOhm mm", "Ohm m", "nOhm m", "lbf ft^2/(A^2 s)", "lbf in^2/(A^2 s)"}},
+    {d::density * d::specificHeat, {"J/(m^3 K)", "mJ/(mm^3 K)", "J/(mm^3 K)", "erg/(cm^3 K)", "psf/degF", "psi/degF"}},
+    {d::density * d::speed, {"kg/(m^2 s)", "t/(mm^2 s)", "kg/(mm^2 ms)", "g/(cm^2 s)", "slug/(ft^2 s)", "lbf s/in^3"}},
+};
+
+/// Checks that a system writes the natural unit of a dimension, and that this text is read as the same unit.
+void expectNatural(const Dimension& dimension, const char* name)
+{
+    const auto* const row = std::find_if(std::begin(naturalUnits), std::end(naturalUnits),
+                                         [&](const UnitsOfDimension& one) { return one.dimension == dimension; });
+    ASSERT_NE(row, std::end(naturalUnits)) << name;
+    for (std::size_t i = 0; i < UnitSystem::builtIn().size(); ++i) {
+        const Unit unit = UnitSystem::builtIn()[i].unitOf(dimension);
+        EXPECT_EQ(unit.text(), row->units[i]) << name << " in " << UnitSystem::builtIn()[i].text();
+        const auto read = Unit::parse(unit.text());
+        ASSERT_TRUE(read) << unit.text();
+        EXPECT_EQ(read->dimension(), dimension) << unit.text();
+        EXPECT_EQ(read->factor(), unit.factor()) << unit.text();
+        EXPECT_EQ(read->text(), unit.text());
+    }
+}
+
+TEST(UnitSystems, WriteTheUnitsOfEngineersForEveryQuantityAndDerivedValue)
+{
+    for (const vxUnits::Quantity& quantity : vxUnits::quantities()) {
+        if (quantity.hasNumber())
+            expectNatural(quantity.dimension, vxMat::findPropertyRecord(quantity.id)->name);
+    }
+    for (const vxUnits::DerivedQuantity& derived : vxUnits::derivedQuantities())
+        expectNatural(derived.dimension, derived.name);
+}
+
+TEST(UnitSystems, OfAUserWriteUnitsThatAreRead)
+{
+    for (const char* const text : {"length cm, mass g, time us", "length in, mass lb, time ms, temperature degR",
+                                   "length in, mass lbf s^2/in, time s, temperature degF, current mA",
+                                   "length km, mass t, time h, temperature degC", "length um, mass pg, time us"})
+    {
+        const UnitSystem system = parsed(text);
+        for (const UnitsOfDimension& one : naturalUnits) {
+            const Unit unit = system.unitOf(one.dimension);
+            const auto read = Unit::parse(unit.text());
+            ASSERT_TRUE(read) << unit.text();
+            EXPECT_EQ(read->dimension(), one.dimension) << unit.text();
+            EXPECT_NEAR(read->factor() / unit.factor(), 1.0, 1e-15) << unit.text();
+        }
     }
 }
 

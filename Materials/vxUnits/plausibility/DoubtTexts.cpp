@@ -79,8 +79,16 @@ constexpr RuleText ruleTexts[] = {
 };
 static_assert(std::size(ruleTexts) == static_cast<std::size_t>(Rule::Count));
 
+constexpr MessageText anyValue{"plausibility.any-value", "Any of these values may be wrong."};
+constexpr MessageText valuesOfKind{"plausibility.values-of-kind",
+                                   "The other values are those of %1, which has %2 to %3."};
+
 constexpr MessageText remedyUsual{"plausibility.remedy-usual", "%1 is usual for %2: multiply by %3"};
 constexpr MessageText remedyFits{"plausibility.remedy-fits", "%1 would not be doubted: multiply by %2"};
+constexpr MessageText remedyPossible{"plausibility.remedy-possible",
+                                     "One possibility: %1 is usual for %2; then multiply by %3"};
+constexpr MessageText remedyPossiblyFits{"plausibility.remedy-possibly-fits",
+                                         "One possibility: %1 would not be doubted; then multiply by %2"};
 constexpr MessageText remedyReciprocal{"plausibility.remedy-reciprocal",
                                        "%1 is usual for the resistivity of %2: take the reciprocal"};
 constexpr MessageText remedyStresses{"plausibility.remedy-stresses", "The stresses look like %1: convert them"};
@@ -287,7 +295,23 @@ Doubt toDoubt(const Finding& finding, std::int32_t blamed, const MaterialValues&
     return doubt;
 }
 
-Message remedyMessage(const Slip& slip, const MaterialValues& values, const MaterialKind* kind, const UnitSystem& shown)
+std::optional<Message> blameMessage(std::int32_t blamed, const MaterialKind* kind, const UnitSystem& shown)
+{
+    if (kind == nullptr)
+        return Message{anyValue.id, anyValue.english, {}};
+    const Feature feature = featureOf(blamed);
+    if (feature == Feature::Count || !kind->span(feature).known())
+        return std::nullopt;
+    const MaterialValues none;
+    const ShownNumbers numbers(none, shown);
+    const Span& span = kind->span(feature);
+    return Message{valuesOfKind.id,
+                   valuesOfKind.english,
+                   {kind->name, numbers.inUnitOf(blamed, span.lowest), numbers.inUnitOf(blamed, span.highest)}};
+}
+
+Message remedyMessage(const Slip& slip, Certainty certainty, const MaterialValues& values, const MaterialKind* kind,
+                      const UnitSystem& shown)
 {
     const bool isStored = shown == UnitSystem::si();
     const auto message = [isStored](const MessageText& inStored, const MessageText& inOther,
@@ -312,18 +336,21 @@ Message remedyMessage(const Slip& slip, const MaterialValues& values, const Mate
     if (change.reciprocal)
         return {remedyReciprocal.id, remedyReciprocal.english, {typed, kind != nullptr ? kind->name : ""}};
     const std::string factor = factorText(change.factor);
+    const bool isLikely = certainty == Certainty::Likely;
+    const MessageText& text =
+        usual ? (isLikely ? remedyUsual : remedyPossible) : (isLikely ? remedyFits : remedyPossiblyFits);
     if (usual)
-        return {remedyUsual.id, remedyUsual.english, {typed, kind->name, factor}};
-    return {remedyFits.id, remedyFits.english, {typed, factor}};
+        return {text.id, text.english, {typed, kind->name, factor}};
+    return {text.id, text.english, {typed, factor}};
 }
 
 void addDoubtTexts(std::vector<MessageText>& texts)
 {
     for (const RuleText& one : ruleTexts)
         texts.push_back(one.text);
-    texts.insert(texts.end(),
-                 {remedyUsual, remedyFits, remedyReciprocal, remedyStresses, remedySheet, remedySheetWithHeat,
-                  remedySystem, remedyStressesInSi, remedySheetInSi, remedySheetWithHeatInSi, remedySystemInSi});
+    texts.insert(texts.end(), {anyValue, valuesOfKind, remedyUsual, remedyFits, remedyPossible, remedyPossiblyFits,
+                               remedyReciprocal, remedyStresses, remedySheet, remedySheetWithHeat, remedySystem,
+                               remedyStressesInSi, remedySheetInSi, remedySheetWithHeatInSi, remedySystemInSi});
 }
 
 } // namespace vxUnits

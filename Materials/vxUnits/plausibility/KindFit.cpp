@@ -18,6 +18,7 @@ constexpr std::array<double, featureCount> tolerances{0.05, 0.12, 0.025, 0.22, 0
 
 constexpr double missing = 0.5;   ///< for a value that a kind does not have
 constexpr double otherState = 50; ///< for a modulus of a fluid or the viscosity of a solid
+constexpr double otherModel = 9;  ///< for a hyperelastic model of a kind that these models are not made for
 constexpr double inside = 0.15;   ///< at the end of a span; 0 in its middle
 constexpr double farthest = 36.0; ///< of one value; otherwise one absurd value would choose the kind
 constexpr double perDecade = 0.1; ///< so that of two kinds that fit the narrower one is taken
@@ -36,11 +37,12 @@ std::optional<double> firstYield(const MaterialValues& values)
 void addInitialModuli(Features& features, const MaterialValues& values)
 {
     const auto moduli = initialModuli(values);
+    features.hyperelastic = moduli.has_value();
     if (!moduli || values.has(Id::YoungsModulus))
         return;
-    features[static_cast<std::size_t>(Feature::YoungsModulus)] = logarithm(moduli->youngs());
+    features[Feature::YoungsModulus] = logarithm(moduli->youngs());
     if (moduli->bulk)
-        features[static_cast<std::size_t>(Feature::PoissonsRatio)] =
+        features[Feature::PoissonsRatio] =
             (3.0 * *moduli->bulk - 2.0 * moduli->shear) / (6.0 * *moduli->bulk + 2.0 * moduli->shear);
 }
 
@@ -132,23 +134,27 @@ double misfitOf(std::size_t feature, double value, const MaterialKind& kind, con
     return inside * place * place + perDecade * width;
 }
 
+/// Returns whether the initial moduli of hyperelastic models depend on a quantity.
+bool isConstantOfModel(std::int32_t id)
+{
+    return id == Id::MaterialConstantC10 || id == Id::MaterialConstantC01 || id == Id::InitialShearModulusMu ||
+           id == Id::LimitingNetworkStretch || id == Id::IncompressibilityParameterD1;
+}
+
 } // namespace
 
 Features featuresOf(const MaterialValues& values)
 {
-    Features features{};
-    features.fill(std::nan(""));
+    Features features;
+    features.values.fill(std::nan(""));
     for (const std::int32_t id : {Id::Density, Id::YoungsModulus, Id::SpecificHeat, Id::ThermalConductivity,
                                   Id::ElectricalConductivity, Id::SpeedOfSound, Id::DynamicViscosity})
-        features[static_cast<std::size_t>(featureOf(id))] = logarithm(values.number(id));
-    features[static_cast<std::size_t>(Feature::PoissonsRatio)] =
-        values.number(Id::PoissonsRatio).value_or(std::nan(""));
-    features[static_cast<std::size_t>(Feature::YieldStress)] = logarithm(firstYield(values));
+        features[featureOf(id)] = logarithm(values.number(id));
+    features[Feature::PoissonsRatio] = values.number(Id::PoissonsRatio).value_or(std::nan(""));
+    features[Feature::YieldStress] = logarithm(firstYield(values));
     addInitialModuli(features, values);
-    features[static_cast<std::size_t>(Feature::WaveSpeed)] =
-        0.5 * (features[static_cast<std::size_t>(Feature::YoungsModulus)] -
-               features[static_cast<std::size_t>(Feature::Density)]);
-    for (double& feature : features)
+    features[Feature::WaveSpeed] = 0.5 * (features[Feature::YoungsModulus] - features[Feature::Density]);
+    for (double& feature : features.values)
         feature = std::isfinite(feature) ? feature : std::nan("");
     return features;
 }
@@ -157,16 +163,16 @@ KindFit nearestKind(const Features& features)
 {
     std::vector<std::size_t> present;
     for (std::size_t i = 0; i < featureCount; ++i) {
-        if (!std::isnan(features[i]))
+        if (!std::isnan(features.values[i]))
             present.push_back(i);
     }
     const auto& kinds = materialKinds();
     const auto& spans = logSpans();
     KindFit nearest{nullptr, HUGE_VAL, HUGE_VAL};
     for (std::size_t k = 0; k < kinds.size(); ++k) {
-        double misfit = 0.0;
+        double misfit = features.hyperelastic && !kinds[k].elastomer ? otherModel : 0.0;
         for (std::size_t i = 0; i < present.size() && misfit < nearest.cost; ++i)
-            misfit += misfitOf(present[i], features[present[i]], kinds[k], spans[k][present[i]]);
+            misfit += misfitOf(present[i], features.values[present[i]], kinds[k], spans[k][present[i]]);
         const double cost = misfit + kinds[k].rareness;
         if (cost < nearest.cost) {
             nearest.kind = &kinds[k];
@@ -175,6 +181,18 @@ KindFit nearestKind(const Features& features)
         nearest.misfit = std::min(nearest.misfit, misfit);
     }
     return nearest;
+}
+
+void removeFrom(Features& features, std::int32_t id)
+{
+    const Feature feature = isConstantOfModel(id) ? Feature::YoungsModulus : featureOf(id);
+    if (feature == Feature::Count)
+        return;
+    features[feature] = std::nan("");
+    if (feature == Feature::YoungsModulus || feature == Feature::Density)
+        features[Feature::WaveSpeed] = std::nan("");
+    if (isConstantOfModel(id))
+        features[Feature::PoissonsRatio] = std::nan("");
 }
 
 Feature featureOf(std::int32_t id)

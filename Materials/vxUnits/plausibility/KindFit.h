@@ -7,9 +7,16 @@
 
 namespace vxUnits {
 
-/// The features of a material: logarithms to the base of ten, except Poisson's ratio; NaN for a feature that it does not
-/// have.
-using Features = std::array<double, featureCount>;
+/// The features of a material.
+struct Features
+{
+    /// Logarithms to the base of ten, except Poisson's ratio; NaN for a feature that the material does not have.
+    std::array<double, featureCount> values{};
+    bool hyperelastic = false; ///< whether the material has constants of a hyperelastic model
+
+    double& operator[](Feature feature) { return values[static_cast<std::size_t>(feature)]; }
+    double operator[](Feature feature) const { return values[static_cast<std::size_t>(feature)]; }
+};
 
 Features featuresOf(const MaterialValues& values);
 
@@ -26,5 +33,8 @@ KindFit nearestKind(const Features& features);
 
 /// Returns the feature of a quantity; Feature::Count if it is not a feature.
 Feature featureOf(std::int32_t id);
+
+/// Removes what depends on a quantity from the features of a material.
+void removeFrom(Features& features, std::int32_t id);
 
 } // namespace vxUnits

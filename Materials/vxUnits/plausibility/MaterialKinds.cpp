@@ -27,6 +27,13 @@ constexpr MaterialKind common(MaterialKind kind)
     return kind;
 }
 
+/// One of the kinds that hyperelastic models are made for.
+constexpr MaterialKind elastic(MaterialKind kind)
+{
+    kind.elastomer = true;
+    return kind;
+}
+
 /// A fluid: density, speed of sound, specific heat, thermal conductivity, dynamic viscosity, electrical conductivity.
 constexpr MaterialKind fluid(const char* name, Span density, Span sound, Span heat, Span conductivity, Span viscosity,
                              Span electrical)
@@ -136,28 +143,30 @@ constexpr MaterialKind table[] = {
     solid("wood, across the grain, or board", {70, 1450}, {.03e9, 6e9}, {.01, .7}, {.3e6, 60e6}, {1050, 3000},
           {.03, .5}, {1e-17, 1e-2}, {350, 4400}),
     solid("bamboo", {450, 1100}, {5e9, 28e9}, {.15, .5}, {10e6, 350e6}, {1100, 2800}, {.08, .5}, {1e-14, 1e-2}),
-    solid("cork", {80, 320}, {3e6, 80e6}, {-.05, .35}, {.1e6, 4e6}, {1600, 2300}, {.03, .08}, {1e-14, 1e-6}, {90, 700}),
+    elastic(solid("cork", {80, 320}, {3e6, 80e6}, {-.05, .35}, {.1e6, 4e6}, {1600, 2300}, {.03, .08}, {1e-14, 1e-6},
+                  {90, 700})),
     solid("paper, leather or textile", {180, 1350}, {.03e9, 15e9}, {.05, .55}, {1e6, 200e6}, {1100, 2000}, {.03, .3},
           {1e-15, 1e-3}, {150, 4000}),
     solid("bone or tooth", {180, 3050}, {.03e9, 105e9}, {.15, .42}, {.5e6, 450e6}, {700, 2600}, {.2, 1.1}, {1e-4, 1e0},
           {150, 6000}),
-    solid("soft tissue or gel", {900, 1250}, {5, 8e6}, {.35, .499999}, {1, 20e6}, {2200, 4400}, {.2, .68}, {1e-6, 5e0},
-          {.05, 100}),
-    solid("tendon, skin or cartilage", {950, 1400}, {.05e6, 2.5e9}, {.05, .499999}, {.01e6, 200e6}, {2000, 4000},
-          {.2, .7}, {1e-4, 5e0}, {5, 1400}),
+    elastic(solid("soft tissue or gel", {900, 1250}, {5, 8e6}, {.35, .499999}, {1, 20e6}, {2200, 4400}, {.2, .68},
+                  {1e-6, 5e0}, {.05, 100})),
+    elastic(solid("tendon, skin or cartilage", {950, 1400}, {.05e6, 2.5e9}, {.05, .499999}, {.01e6, 200e6},
+                  {2000, 4000}, {.2, .7}, {1e-4, 5e0}, {5, 1400})),
 
     // Plastics and composites
     common(solid("plastic", {980, 1550}, {.9e9, 6e9}, {.3, .46}, {12e6, 160e6}, {900, 2000}, {.1, .5}, {1e-20, 1e-6},
                  {780, 2300})),
-    common(solid("polyolefin", {820, 1000}, {.05e9, 2.3e9}, {.36, .49}, {3e6, 55e6}, {1600, 2700}, {.1, .6},
-                 {1e-20, 1e-8}, {230, 1650})),
-    solid("fluoropolymer", {1650, 2300}, {.25e9, 3e9}, {.34, .49}, {5e6, 80e6}, {850, 1450}, {.1, .4}, {1e-25, 1e-8}),
+    elastic(common(solid("polyolefin", {820, 1000}, {.05e9, 2.3e9}, {.36, .49}, {3e6, 55e6}, {1600, 2700}, {.1, .6},
+                         {1e-20, 1e-8}, {230, 1650}))),
+    elastic(solid("fluoropolymer", {1650, 2300}, {.25e9, 3e9}, {.34, .49}, {5e6, 80e6}, {850, 1450}, {.1, .4},
+                  {1e-25, 1e-8})),
     common(solid("reinforced or filled plastic", {1000, 2600}, {1.5e9, 40e9}, {.22, .45}, {15e6, 450e6}, {750, 1800},
                  {.15, 25}, {1e-18, 1e3}, {1000, 5500})),
-    solid("soft plastic", {850, 1450}, {3e6, 1.2e9}, {.37, .4995}, {1.5e6, 80e6}, {1100, 2500}, {.1, .4}, {1e-19, 1e-4},
-          {40, 1000}),
-    common(solid("rubber", {820, 2150}, {.15e6, 150e6}, {.43, .49999}, {.3e6, 60e6}, {900, 2600}, {.08, 1.8},
-                 {1e-18, 1e3}, {8, 450})),
+    elastic(solid("soft plastic", {850, 1450}, {3e6, 1.2e9}, {.37, .4995}, {1.5e6, 80e6}, {1100, 2500}, {.1, .4},
+                  {1e-19, 1e-4}, {40, 1000})),
+    elastic(common(solid("rubber", {820, 2150}, {.15e6, 150e6}, {.43, .49999}, {.3e6, 60e6}, {900, 2600}, {.08, 1.8},
+                         {1e-18, 1e3}, {8, 450}))),
     solid("ebonite", {1080, 1500}, {.4e9, 4e9}, {.33, .46}, {15e6, 90e6}, {1100, 1700}, {.13, .3}, {1e-18, 1e-9}),
     solid("carbon fibre composite", {1300, 1900}, {4e9, 420e9}, {.02, .6}, {20e6, 4e9}, {650, 1300}, {.3, 120},
           {1e0, 2e5}, {1600, 16000}),
@@ -171,7 +180,8 @@ constexpr MaterialKind table[] = {
           {1e-18, 1e-3}),
 
     // Foams and insulation
-    solid("soft foam", {8, 350}, {1e3, 30e6}, {-.7, .42}, {.2e3, 2e6}, {900, 2500}, {.015, .1}, none, {3, 420}),
+    elastic(
+        solid("soft foam", {8, 350}, {1e3, 30e6}, {-.7, .42}, {.2e3, 2e6}, {900, 2500}, {.015, .1}, none, {3, 420})),
     solid("rigid foam", {10, 900}, {.3e6, 1.5e9}, {.02, .45}, {.02e6, 45e6}, {700, 2300}, {.015, .35}, none,
           {100, 3000}),
     solid("insulating wool or granulate", {5, 400}, {.5e3, 50e6}, {0, .4}, {.1e3, 2e6}, {600, 2200}, {.018, .15}, none,

@@ -37,7 +37,8 @@ struct MaterialKind
 {
     const char* name = ""; ///< a word for messages: "steel"
     std::array<Span, featureCount> spans;
-    double rareness = 1.0; ///< 0 for the common kinds of a desk, which are more likely than others
+    double rareness = 1.0;  ///< 0 for the common kinds of a desk, which are more likely than others
+    bool elastomer = false; ///< whether hyperelastic models are made for it: it bears large elastic strains
 
     const Span& span(Feature feature) const { return spans[static_cast<std::size_t>(feature)]; }
     bool isFluid() const { return span(Feature::Viscosity).known(); }

@@ -115,6 +115,17 @@ void addOwn(std::vector<Slip>& slips, std::int32_t id, const MaterialValues& val
     }
 }
 
+/// Adds errors by one or two digits of a number. They compete with units whose factors happen to fit.
+void addTypingErrors(std::vector<Slip>& slips, std::int32_t id)
+{
+    constexpr std::pair<double, double> factors[] = {{10.0, 1.0}, {0.1, 1.0}, {100.0, 1.8}, {0.01, 1.8}};
+    const Dimension& dimension = findQuantity(id)->dimension;
+    if (dimension.isNone() || dimension == d::angle)
+        return;
+    for (const auto& [factor, rareness] : factors)
+        slips.push_back({{{id, "", factor, false}}, "", "", rareness, "", true});
+}
+
 /// Returns the change of the creep factor from other units of stress and time; absent if the material has no factor, or if
 /// there is no such unit.
 std::optional<Change> creepChange(const MaterialValues& values, const std::string& stress, const std::string& time)
@@ -189,7 +200,7 @@ void addDataSheets(std::vector<Slip>& slips, const MaterialValues& values)
         const char* heat = nullptr; ///< null for the unit of the catalogue
     };
     constexpr Sheet sheets[] = {{"MPa", "g/cm^3", 0.2},  {"MPa", "g/cm^3", 0.2, "kJ/(kg K)"},
-                                {"GPa", "g/cm^3", 0.4},  {"psi", "lb/in^3", 0.6},
+                                {"GPa", "g/cm^3", 0.4},  {"psi", "lb/in^3", 0.0},
                                 {"psi", "lb/ft^3", 0.6}, {"ksi", "lb/in^3", 0.7}};
     if (!values.has(Id::Density))
         return;
@@ -263,8 +274,10 @@ double changed(double number, const Change& change)
 std::vector<Slip> possibleSlips(const MaterialValues& values)
 {
     std::vector<Slip> slips;
-    for (const std::int32_t id : values.numericIds())
+    for (const std::int32_t id : values.numericIds()) {
         addOwn(slips, id, values);
+        addTypingErrors(slips, id);
+    }
     addCreep(slips, values);
     addStresses(slips, values);
     addDataSheets(slips, values);

@@ -52,20 +52,20 @@ const std::map<eMaterialType, std::vector<Deserved>> deserved = {
     // D1 makes the bulk modulus equal to the shear modulus, which is a compressible foam and no rubber; and rubber so soft
     // does not weigh as much as steel.
     {eMaterialType::Elastomer1,
-     {{Id::IncompressibilityParameterD1, "plausibility.bulk-over-shear",
-       "0.001 1/MPa would not be doubted: multiply by 1e-6"},
-      {Id::MaterialConstantC10, "plausibility.wave-speed", ""}}},
+     {{Id::Density, "plausibility.wave-speed", ""},
+      {Id::IncompressibilityParameterD1, "plausibility.bulk-over-shear",
+       "0.001 1/MPa would not be doubted: multiply by 1e-6"}}},
     // Constants below 1 Pa: they are in MPa, and 1/MPa. The density is that of steel, which no unit explains.
     {eMaterialType::Elastomer2,
-     {{Id::IncompressibilityParameterD1, "plausibility.above-range", allMegapascals},
-      {Id::MaterialConstantC10, "plausibility.below-range", allMegapascals},
-      {Id::MaterialConstantC10, "plausibility.wave-speed", ""}}},
+     {{Id::Density, "plausibility.wave-speed", ""},
+      {Id::IncompressibilityParameterD1, "plausibility.above-range", allMegapascals},
+      {Id::MaterialConstantC10, "plausibility.below-range", allMegapascals}}},
     {eMaterialType::Elastomer3,
-     {{Id::InitialShearModulusMu, "plausibility.below-range", allMegapascals},
-      {Id::InitialShearModulusMu, "plausibility.wave-speed", ""},
+     {{Id::Density, "plausibility.wave-speed", ""},
+      {Id::InitialShearModulusMu, "plausibility.below-range", allMegapascals},
       {Id::IncompressibilityParameterD1, "plausibility.above-range", allMegapascals}}},
     // Rubber of 54 kPa with the density of steel; chloroprene rubber has 1230 kg/m3.
-    {eMaterialType::NeopreneRubber, {{Id::MaterialConstantC10, "plausibility.wave-speed", ""}}},
+    {eMaterialType::NeopreneRubber, {{Id::Density, "plausibility.wave-speed", ""}}},
     // A static permittivity below that of vacuum.
     {eMaterialType::EMMaterial2, {{Id::RelativePermittivity, "plausibility.below-range", ""}}},
 };

@@ -441,6 +441,111 @@ TEST(DoubtsAboutRelations, CreepIsWithinReach)
     EXPECT_EQ(doubt.remedy->changes.front().apply(1.8e-20), 1.8e-50);
 }
 
+// --- The value that is wrong ---
+
+MaterialValues withDensity(double density, MaterialValues values)
+{
+    values.setNumber(Id::Density, density);
+    return values;
+}
+
+TEST(Blame, IsOnTheDensityBesideTheConstantsOfARubber)
+{
+    MaterialValues chains;
+    chains.setSwitch(Id::ArrudaBoyce);
+    chains.setNumber(Id::InitialShearModulusMu, 0.4e6);
+    chains.setNumber(Id::LimitingNetworkStretch, 5);
+    MaterialValues incompressible;
+    incompressible.setNumber(Id::MaterialConstantC10, 0.4e6);
+    MaterialValues elastic;
+    elastic.setNumber(Id::YoungsModulus, 3e6);
+    elastic.setNumber(Id::PoissonsRatio, 0.49);
+    for (const MaterialValues& values : {rubber(), chains, incompressible, elastic}) {
+        const Doubt doubt = theDoubt(withDensity(7850, values));
+        EXPECT_EQ(doubt.id, Id::Density);
+        EXPECT_FALSE(doubt.remedy) << doubt.text();
+        EXPECT_THAT(doubt.message.text(), testing::StartsWith("Density = 7850 kg/m^3 with "));
+        EXPECT_THAT(doubt.message.text(),
+                    testing::EndsWith("to 20500 m/s. The other values are those of rubber, which has 820 kg/m^3 to "
+                                      "2150 kg/m^3."));
+    }
+    EXPECT_EQ(theDoubt(withDensity(0.5, rubber())).id, Id::Density) << "too light";
+}
+
+TEST(Blame, IsOnTheHeatBesideTheOtherValuesOfCopper)
+{
+    MaterialValues copper;
+    copper.setNumber(Id::Density, 8300);
+    copper.setNumber(Id::YoungsModulus, 110e9);
+    copper.setNumber(Id::PoissonsRatio, 0.34);
+    copper.setNumber(Id::ThermalConductivity, 401);
+    copper.setNumber(Id::SpecificHeat, 875); // of aluminium
+    const Doubt doubt = theDoubt(copper);
+    EXPECT_EQ(doubt.id, Id::SpecificHeat);
+    EXPECT_THAT(doubt.text(), testing::EndsWith("The other values are those of copper alloy, which has 360 J/(kg K) to "
+                                                "450 J/(kg K)."));
+}
+
+TEST(Blame, IsOpenIfTheOtherValuesDoNotTell)
+{
+    MaterialValues values; // steel in another unit, or rubber with the density of another material
+    values.setNumber(Id::Density, 7850);
+    values.setNumber(Id::YoungsModulus, 3e6);
+    const Doubt doubt = theDoubt(values);
+    EXPECT_FALSE(doubt.remedy) << doubt.text();
+    EXPECT_THAT(doubt.text(), testing::EndsWith("to 20500 m/s. Any of these values may be wrong."));
+}
+
+// --- Remedies that compete ---
+
+MaterialValues metal(double density, double modulus, double ratio)
+{
+    MaterialValues values;
+    values.setNumber(Id::Density, density);
+    values.setNumber(Id::YoungsModulus, modulus);
+    values.setNumber(Id::PoissonsRatio, ratio);
+    return values;
+}
+
+std::string remedyOf(const MaterialValues& values)
+{
+    const auto remedy = theDoubt(values).remedy;
+    return remedy ? remedy->message.text() : "";
+}
+
+TEST(Remedies, AreNamedWithoutReserveForUnitsOfDataSheets)
+{
+    EXPECT_EQ(remedyOf(metal(7850, 210e3, 0.3)), "210000 MPa is usual for steel: multiply by 1e6");
+    EXPECT_EQ(remedyOf(metal(7850, 210, 0.3)), "210 GPa is usual for steel: multiply by 1e9");
+    EXPECT_EQ(remedyOf(metal(7850, 30e6, 0.3)), "3e+07 psi is usual for steel: multiply by 6894.76");
+    EXPECT_EQ(remedyOf(metal(7850, 30000, 0.3)), "30000 ksi is usual for steel: multiply by 6.89476e6");
+    EXPECT_EQ(remedyOf(metal(2.7, 70e9, 0.33)), "2.7 g/cm^3 is usual for aluminium alloy: multiply by 1000");
+    EXPECT_EQ(remedyOf(metal(0.284, 210e9, 0.3)), "0.284 lb/in^3 is usual for steel: multiply by 27679.9");
+    EXPECT_EQ(remedyOf(metal(0.284, 30e6, 0.3)),
+              "The stresses look like psi, and the density like lb/in^3: convert them");
+}
+
+TEST(Remedies, AreOnePossibilityIfAnotherIsAboutAsLikely)
+{
+    // titanium of 270 lb/ft3, or aluminium of 2700 kg/m3 with a digit too few
+    EXPECT_EQ(remedyOf(metal(270, 70e9, 0.33)),
+              "One possibility: 270 lb/ft^3 is usual for titanium alloy; then multiply by 16.0185");
+    // steel of 2.1e6 kgf/cm2, or a foam with the density of steel
+    EXPECT_EQ(remedyOf(metal(7850, 2.1e6, 0.3)),
+              "One possibility: 2100000 kgf/cm^2 is usual for steel; then multiply by 98066.5");
+}
+
+TEST(Remedies, AreNotNamedIfAnErrorOfTypingIsMoreLikely)
+{
+    // 27 slug/ft3 would be gold; 2700 kg/m3 is aluminium
+    EXPECT_EQ(remedyOf(metal(27, 70e9, 0.33)), "");
+    // 2100 ksi would be lead; nothing tells what is wrong
+    EXPECT_EQ(remedyOf(metal(7850, 2100, 0.3)), "");
+    MaterialValues values = metal(7850, 210e9, 0.3);
+    values.setNumber(Id::ThermalConductivity, 6000); // 6 W/(m K) would be a magnet; 60 is steel
+    EXPECT_THAT(remedyOf(values), testing::Not(testing::HasSubstr("permanent magnet: multiply")));
+}
+
 TEST(Relations, HaveBoundsUnitsAndSources)
 {
     EXPECT_GE(vxUnits::relations().size(), 12U);

@@ -2,9 +2,11 @@
 
 #include "vxConstitutive/Curve.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <iterator>
+#include <limits>
 
 namespace vxConstitutive {
 
@@ -32,10 +34,14 @@ std::vector<double> roundedInside(std::vector<double> values, int digits)
 
 std::vector<double> spread(double from, double to, std::size_t count)
 {
+    // The terms of a value that is 0 cancel but for their rounding.
+    const double resolution = 2.0 * std::numeric_limits<double>::epsilon() * std::max(std::fabs(from), std::fabs(to));
     std::vector<double> values(count, from);
     for (std::size_t i = 1; i < count; ++i) {
         const double part = static_cast<double>(i) / static_cast<double>(count - 1);
         values[i] = from * (1.0 - part) + to * part; // exact at both ends, and without overflow between them
+        if (i + 1 < count && std::fabs(values[i]) <= resolution)
+            values[i] = 0.0;
     }
     return values;
 }

@@ -37,6 +37,18 @@ Meridians meridiansOf(double angleInDegrees)
             {std::sqrt(3.0) * 3.0 * tangent / root, std::sqrt(3.0) * 3.0 / root}};
 }
 
+/// Sums that cancel to less than this part of their terms are 0.
+constexpr double resolution = 8.0 * std::numeric_limits<double>::epsilon();
+
+/// Returns the Mises stress on a meridian; exactly 0 at the apex.
+double stressOn(const Meridian& meridian, double pressure, double cohesion)
+{
+    const double frictional = meridian.slope * pressure;
+    const double cohesive = meridian.cohesive * cohesion;
+    const double stress = frictional + cohesive;
+    return std::fabs(stress) <= resolution * std::fabs(cohesive) ? 0.0 : stress;
+}
+
 bool isAngle(double angle)
 {
     return angle >= 0.0 && angle < 90.0;
@@ -94,12 +106,10 @@ Curve FrictionModel::curve(const CurveRequest& request) const
     const double apex = -cohesion / std::tan(m_constants.frictionAngle * pi / 180.0);
     const Meridians meridians = meridiansOf(m_constants.frictionAngle);
     for (const double pressure : request.abscissas) {
-        const auto stress = [&](const Meridian& meridian) {
-            return meridian.slope * pressure + meridian.cohesive * cohesion;
-        };
+        const auto stress = [&](const Meridian& meridian) { return stressOn(meridian, pressure, cohesion); };
         if (!builder.checkDomain(pressure, std::isfinite(pressure)))
             continue;
-        if (pressure < apex)
+        if (pressure < apex - 0.5 * resolution * std::fabs(apex))
             builder.gap(pressure);
         else
             builder.row(

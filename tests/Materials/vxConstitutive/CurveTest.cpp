@@ -7,6 +7,7 @@
 
 #include <set>
 #include <string>
+#include <tuple>
 
 using namespace vxConstitutive;
 
@@ -46,6 +47,14 @@ TEST(CurveAbscissas, EvenSpacingEndsExactlyAtBothBounds)
     EXPECT_EQ(evenlySpaced(3.0, 9.0, 1), (std::vector<double>{3.0}));
     EXPECT_TRUE(evenlySpaced(0.0, 1.0, 0).empty());
     EXPECT_EQ(evenlySpaced(-1.7e308, 1.7e308, 3), (std::vector<double>{-1.7e308, 0.0, 1.7e308}));
+}
+
+TEST(CurveAbscissas, EvenSpacingHasAnExactZero)
+{
+    for (const auto& [from, to, count, zero] : {std::tuple(-0.1, 0.2, 4, 1), std::tuple(-0.2, 0.6, 41, 10),
+                                                std::tuple(-0.7, 0.1, 9, 7), std::tuple(-3e8, 1e8, 13, 9)})
+        EXPECT_EQ(evenlySpaced(from, to, static_cast<std::size_t>(count))[static_cast<std::size_t>(zero)], 0.0) << from;
+    EXPECT_EQ(evenlySpaced(-1e-30, 1.0, 3).front(), -1e-30) << "the bounds are kept";
 }
 
 TEST(CurveAbscissas, BetweenTheBoundsAreTheNumbersThatAUserExpects)

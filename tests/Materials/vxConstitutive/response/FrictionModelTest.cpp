@@ -102,6 +102,18 @@ TEST(FrictionSurface, EndsAtItsApex)
     EXPECT_FALSE(has(curve.findings, FindingId::ResultNotFinite));
 }
 
+TEST(FrictionSurface, HasNoStressAtItsApex)
+{
+    for (const double angle : {5.0, 20.0, 33.0, 45.0, 60.0}) {
+        const double apex = -1.0 / std::tan(angle * M_PI / 180.0);
+        for (const double pressure : {apex, std::nextafter(apex, 0.0), std::nextafter(apex, -1e9)}) {
+            const Curve curve = yieldOf(ModelKind::DruckerPrager, angle, {pressure}, std::nullopt);
+            for (const std::size_t column : {1U, 2U, 3U})
+                EXPECT_EQ(curve.columns[column].values[0], 0.0) << angle;
+        }
+    }
+}
+
 TEST(FrictionConstants, MissingConstantsOfTheCatalogueAreReported)
 {
     FrictionConstants constants;

@@ -66,13 +66,29 @@ void write(const std::vector<CurveSeries>& series, const vxConstitutive::CurveRe
         writeCsv(series, system, sink);
 }
 
-/// Adds a note if a comma was probably a decimal sign.
-void noteRepeated(const CurveArguments& arguments, const vxConstitutive::CurveRequest& request, Answer& answer)
+/// Returns whether a list is two whole numbers with nothing but a comma between them, such as "0,1".
+bool mayBeDecimalComma(const std::string& list)
 {
-    const std::vector<double>& abscissas = request.abscissas;
-    if (arguments.at && std::adjacent_find(abscissas.begin(), abscissas.end()) != abscissas.end())
-        answer.messages.emplace_back(
-            "note: --at has a number twice in a row; commas separate numbers, the decimal sign is a point");
+    const std::size_t comma = list.find(',');
+    const auto isWhole = [](std::string_view text) {
+        return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+    };
+    const std::string_view text = list;
+    return comma != std::string::npos && isWhole(text.substr(0, comma)) && isWhole(text.substr(comma + 1));
+}
+
+/// Adds a note if a comma of a list may have been meant as a decimal sign.
+void noteComma(const std::string& option, const std::optional<std::string>& list, const std::vector<double>& numbers,
+               Answer& answer)
+{
+    if (!list)
+        return;
+    if (std::adjacent_find(numbers.begin(), numbers.end()) != numbers.end())
+        answer.messages.push_back("note: " + option +
+                                  " has a number twice in a row; commas separate numbers, the decimal sign is a point");
+    else if (mayBeDecimalComma(*list))
+        answer.messages.push_back("note: " + option + " " + *list +
+                                  ": these are two numbers; the decimal sign is a point");
 }
 
 /// Reads the measured tests of a picture. Sets the status Error if a file does not say what is needed.
@@ -128,7 +144,8 @@ Drawn draw(const CurveArguments& arguments, const vxConstitutive::CurveRequest& 
            const vxUnits::UnitSystem& system, Answer& answer)
 {
     Drawn drawn;
-    noteRepeated(arguments, request, answer);
+    noteComma("--at", arguments.at, request.abscissas, answer);
+    noteComma("--stress", arguments.stresses, request.stresses, answer);
     drawn.tests = readMeasured(arguments, request.mode, system, answer);
     if (answer.status == Status::Error)
         return drawn;

@@ -145,6 +145,23 @@ TEST_F(CurveOfProject, RefusesCommasThatMayBeDecimalOnes)
     EXPECT_EQ(vxmat({"curve", file(), "--mode", "uniaxial", "--at", "1,2,3"}).err, "");
 }
 
+TEST_F(CurveOfProject, SaysThatASingleCommaSeparatesTwoNumbers)
+{
+    makeNeoHookean();
+    const Outcome run = vxmat({"curve", file(), "--mode", "uniaxial", "--at", "1,2"});
+    EXPECT_EQ(linesOf(run.out).size(), 3U);
+    EXPECT_THAT(run.err, HasSubstr("note: --at 1,2: these are two numbers; the decimal sign is a point"));
+    for (const char* const clear : {"1, 2", "1;2", "1,2,3", "1.5,2", "2"})
+        EXPECT_EQ(vxmat({"curve", file(), "--mode", "uniaxial", "--at", clear}).err, "") << clear;
+}
+
+TEST_F(CurveOfProject, HasAnExactZeroInTheMiddleOfItsRange)
+{
+    makeNeoHookean();
+    EXPECT_THAT(curve({file(), "--mode", "simple-shear", "--from", "-0.1", "--to", "0.2", "--points", "4"})[2],
+                "0,0,0");
+}
+
 TEST_F(CurveOfProject, LeavesTheCellEmptyWhereThereIsNoValueAndSaysSo)
 {
     makeNeoHookean();

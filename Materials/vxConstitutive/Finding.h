@@ -89,6 +89,11 @@ enum class FindingId
     UnitNeeded,             ///< column
     UnitUnknown,            ///< column, unit
     StressOfTestNeeded,     ///< no argument
+    SeveralStresses,        ///< column, number of stresses
+    StressUnitNeeded,       ///< column
+    StressNotConstant,      ///< column, most stresses
+    StressNotInColumn,      ///< column, stress
+    StressDiffers,          ///< column, its stress, the given one
     MeasureAssumed,         ///< column, measure
     ColumnRepeated,         ///< column
     PointsUnsorted,         ///< number

@@ -315,6 +315,7 @@ Json::Value toJson(const FittedConstant& constant, const FitResult& result, cons
 }
 
 Json::Value toJson(const TestAgreement& agreement, const UnitSystem& system)
+    json["stress_column"] = test.stress ? toJson(*test.stress) : Json::Value();
 {
     const ShownUnit unit = showIn(system, ordinateUnitOf(agreement.mode));
     Json::Value json;

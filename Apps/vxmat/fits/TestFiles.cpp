@@ -169,14 +169,16 @@ public:
     {
         std::vector<MeasuredTest> tests;
         for (const TestName& name : m_names) {
-            if (auto test = read(name))
-                tests.push_back(std::move(*test));
+            for (MeasuredTest& test : read(name))
+                tests.push_back(std::move(test));
         }
         return tests;
     }
 
 private:
-    std::optional<MeasuredTest> read(const TestName& name);
+    std::vector<MeasuredTest> read(const TestName& name);
+    std::optional<MeasuredTest> take(const TestName& name, const TestTable& table,
+                                     const vxConstitutive::TestReadRequest& request, const std::string& title);
     vxConstitutive::TableOptions tableOptions(const TestName& name) const;
     ColumnChoice choice(Axis axis, const TestName& name, const TestTable& table) const;
     double weight(const TestName& name) const;
@@ -334,13 +336,28 @@ void TestReader::refuse(const TestName& name, const TestTable& table, const Test
     }
 }
 
+/// Returns a stress in the unit of a system.
+std::string stressText(double stress, const UnitSystem& system)
+{
+    const ShownUnit unit = showIn(system, "Pa");
+    return vxMat::formatGeneral(unit.convert(stress)) + " " + unit.text;
+}
+
 TestAxis axisOf(const ColumnChoice& choice, const TestTable& table)
 {
     const std::size_t column = choice.column.value_or(0);
     return {column, table.columns[column].name, choice.measure.value_or(Measure::Stretch), choice.unit.value_or("1")};
 }
 
-std::optional<MeasuredTest> TestReader::read(const TestName& name)
+std::optional<TestAxis> stressAxisOf(const TestReading& reading, const TestTable& table)
+{
+    if (!reading.stressColumn)
+        return std::nullopt;
+    const vxConstitutive::TableColumn& column = table.columns[*reading.stressColumn];
+    return TestAxis{*reading.stressColumn, column.name, Measure::NominalStress, column.unit};
+}
+
+std::vector<MeasuredTest> TestReader::read(const TestName& name)
 {
     const TestTable table = vxConstitutive::readTestTable(readFile(name.file, Content::Any), vxConstitutive::unitFactor,
                                                           tableOptions(name));
@@ -348,15 +365,40 @@ std::optional<MeasuredTest> TestReader::read(const TestName& name)
     hintAtFormat(name, table);
     if (hasError(table.findings) || table.columns.empty()) {
         m_answer.status = Status::Error;
-        return std::nullopt;
+        return {};
     }
     vxConstitutive::TestReadRequest request{
         shortNameOf(name), name.mode,   choice(Axis::Abscissa, name, table), choice(Axis::Ordinate, name, table),
         std::nullopt,      weight(name)};
     if (const auto text = m_options.find(m_arguments.stresses, name))
         request.stress = readAmount("--stress", *text, "Pa", m_system);
+    std::vector<double> stresses;
+    if (name.mode == Mode::Creep && !request.stress)
+        stresses = vxConstitutive::creepStresses(table, vxConstitutive::unitFactor);
+    std::vector<MeasuredTest> tests;
+    const auto add = [&](const vxConstitutive::TestReadRequest& one, const std::string& title) {
+        if (auto test = take(name, table, one, title))
+            tests.push_back(std::move(*test));
+    };
+    if (stresses.size() < 2) {
+        add(request, titleOf(name));
+        return tests;
+    }
+    for (const double stress : stresses) {
+        vxConstitutive::TestReadRequest one = request;
+        one.stress = stress;
+        const std::string text = " (" + stressText(stress, m_system) + ")";
+        one.name += text;
+        add(one, titleOf(name) + text);
+    }
+    return tests;
+}
+
+std::optional<MeasuredTest> TestReader::take(const TestName& name, const TestTable& table,
+                                             const vxConstitutive::TestReadRequest& request, const std::string& title)
+{
     TestReading reading = takeTest(table, request, vxConstitutive::unitFactor);
-    m_answer.add(messagesAbout(titleOf(name), reading.findings, m_system));
+    m_answer.add(messagesAbout(title, reading.findings, m_system));
     refuse(name, table, reading);
     if (!reading.data || hasError(reading.findings)) {
         m_answer.status = Status::Error;
@@ -369,6 +411,7 @@ std::optional<MeasuredTest> TestReader::read(const TestName& name)
                         table.format,
                         axisOf(reading.abscissa, table),
                         axisOf(reading.ordinate, table),
+                        stressAxisOf(reading, table),
                         reading.leftOut,
                         std::move(findings)};
 }
@@ -385,12 +428,13 @@ std::string describe(const TestAxis& axis)
 std::string describe(const MeasuredTest& test, const UnitSystem& system)
 {
     std::string text = printable(test.data.name) + ": " + vxConstitutive::modeRecord(test.data.mode).name;
-    if (test.data.mode == Mode::Creep) {
-        const ShownUnit unit = showIn(system, "Pa");
-        text += " at " + vxMat::formatNumber(unit.convert(test.data.parameter)) + " " + unit.text;
-    }
-    text += ", " + std::to_string(test.data.abscissas.size()) + " points; " + describe(test.abscissa) + ", " +
+    if (test.data.mode == Mode::Creep)
+        text += " at " + stressText(test.data.parameter, system);
+    const std::size_t points = test.data.abscissas.size();
+    text += ", " + std::to_string(points) + (points == 1 ? " point; " : " points; ") + describe(test.abscissa) + ", " +
             describe(test.ordinate);
+    if (test.stress)
+        text += ", column \"" + printable(test.stress->name) + "\" is the stress in " + printable(test.stress->unit);
     if (test.data.weight != 1.0)
         text += "; weight " + vxMat::formatNumber(test.data.weight);
     return text;

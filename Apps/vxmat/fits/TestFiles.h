@@ -45,7 +45,8 @@ struct MeasuredTest
     vxConstitutive::TableFormat format;
     TestAxis abscissa;
     TestAxis ordinate;
-    std::size_t leftOut = 0; ///< rows that are not points of the test
+    std::optional<TestAxis> stress; ///< the column with the stress of a creep test
+    std::size_t leftOut = 0;        ///< rows that are not points of the test
     std::vector<vxConstitutive::Finding> findings;
 };
 

@@ -1,10 +1,10 @@
 #include "vxConstitutive/data/TestReading.h"
 
-#include "vxMaterial/model/NumberText.h"
+#include "data/CreepStresses.h"
+#include "data/MeasureWords.h"
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 #include <utility>
 
 namespace vxConstitutive {
@@ -64,98 +64,6 @@ const Axes* findAxes(Mode mode)
     const auto found =
         std::find_if(axesTable().begin(), axesTable().end(), [mode](const Axes& axes) { return axes.mode == mode; });
     return found == axesTable().end() ? nullptr : &*found;
-}
-
-bool contains(const std::vector<Measure>& measures, Measure measure)
-{
-    return std::find(measures.begin(), measures.end(), measure) != measures.end();
-}
-
-/// A word of a header, in capitals, and the measures that it may name. The first row with a possible measure is used.
-struct Word
-{
-    std::string_view word;
-    std::vector<Measure> measures;
-};
-
-const std::vector<Word>& words()
-{
-    const std::vector<Measure> strain{Measure::EngineeringStrain, Measure::AmountOfShear, Measure::CreepStrain,
-                                      Measure::PlasticStrain};
-    const std::vector<Measure> stress{Measure::NominalStress, Measure::Modulus, Measure::TrueStress};
-    static const std::vector<Word> table{
-        {"STRETCH", {Measure::Stretch}},
-        {"LAMBDA", {Measure::Stretch}},
-        {"\xCE\xBB", {Measure::Stretch}}, // the Greek letter
-        {"RATE", {Measure::StrainRate}},
-        {"VOLUMETRIC", {Measure::VolumetricStrain}},
-        {"VOLUME", {Measure::VolumeRatio}},
-        {"SHEAR STRAIN", {Measure::AmountOfShear}},
-        {"AMOUNT OF SHEAR", {Measure::AmountOfShear}},
-        {"GAMMA", {Measure::AmountOfShear}},
-        {"PLASTIC", {Measure::PlasticStrain}},
-        {"CREEP", {Measure::CreepStrain}},
-        {"STRAIN", strain},
-        {"ELONGATION", strain},
-        {"EXTENSION", strain},
-        {"DEHNUNG", strain},
-        {"EPSILON", strain},
-        {"\xCE\xB5", strain},
-        {"MODULUS", {Measure::Modulus}},
-        {"MODUL", {Measure::Modulus}},
-        {"PRESSURE", {Measure::Pressure}},
-        {"DRUCK", {Measure::Pressure}},
-        {"STRESS", stress},
-        {"SPANNUNG", stress},
-        {"SIGMA", stress},
-        {"\xCF\x83", stress},
-        {"TIME", {Measure::Time}},
-        {"ZEIT", {Measure::Time}},
-    };
-    return table;
-}
-
-bool hasWord(const std::string& upper, std::initializer_list<std::string_view> list)
-{
-    return std::any_of(list.begin(), list.end(),
-                       [&](std::string_view word) { return upper.find(word) != std::string::npos; });
-}
-
-/// The measure that a header names. `stated` is false if the header does not say whether a strain or stress is true or
-/// engineering.
-struct Recognised
-{
-    Measure measure;
-    bool stated;
-};
-
-std::optional<Recognised> recognise(Measure measure, bool isTrue, bool isEngineering,
-                                    const std::vector<Measure>& possible)
-{
-    if (measure == Measure::EngineeringStrain && isTrue && contains(possible, Measure::TrueStrain))
-        return Recognised{Measure::TrueStrain, true};
-    if (measure == Measure::NominalStress && isTrue && contains(possible, Measure::TrueStress))
-        return Recognised{Measure::TrueStress, true};
-    if (!contains(possible, measure))
-        return std::nullopt;
-    const bool matters = measure == Measure::EngineeringStrain || measure == Measure::NominalStress;
-    return Recognised{measure, isEngineering || !matters};
-}
-
-std::optional<Recognised> recognise(const std::string& name, const std::vector<Measure>& possible)
-{
-    const std::string upper = vxMat::toUpperAscii(name);
-    const bool isTrue = hasWord(upper, {"TRUE", "LOG", "CAUCHY", "HENCKY", "WAHRE"});
-    const bool isEngineering = hasWord(upper, {"ENG", "NOM", "TECH"});
-    for (const Word& word : words()) {
-        if (upper.find(word.word) == std::string::npos)
-            continue;
-        for (const Measure measure : word.measures) {
-            if (const auto found = recognise(measure, isTrue, isEngineering, possible))
-                return found;
-        }
-    }
-    return std::nullopt;
 }
 
 /// Chooses the column, measure and unit of each axis. Adds questions for those that the table does not tell.
@@ -333,20 +241,96 @@ void countUnusual(TestReading& reading)
     note(FindingId::PointsNegative, reading.negative);
 }
 
-void takePoints(const TestTable& table, const TestReadRequest& request, double abscissaFactor, double ordinateFactor,
-                TestReading& reading)
+/// The stress of a creep test, and the rows that have it.
+struct StressOfRows
+{
+    double stress = 0.0;
+    const std::vector<double>* cells = nullptr; ///< null for all rows
+    double factor = 1.0;
+    StressGroup group;
+
+    bool isIn(std::size_t row) const { return cells == nullptr || group.has((*cells)[row] * factor); }
+};
+
+/// Adds a question for the stress of a creep test, with its reason.
+void askForStress(Finding why, TestReading& reading)
+{
+    reading.findings.push_back(std::move(why));
+    reading.questions.push_back({QuestionKind::WhichStress, Axis::Ordinate});
+}
+
+/// Adds a question for the stress of a creep test that the table does not tell.
+void askForStress(const TestTable& table, const std::optional<StressColumn>& column, TestReading& reading)
+{
+    const std::string name = column ? table.columns[column->column].name : std::string();
+    if (!column)
+        askForStress(makeFinding(FindingId::StressOfTestNeeded), reading);
+    else if (!column->factor)
+        askForStress(makeFinding(FindingId::StressUnitNeeded, {name}), reading);
+    else if (column->groups.empty())
+        askForStress(makeFinding(FindingId::StressNotConstant, {name, static_cast<double>(mostCreepStresses)}),
+                     reading);
+    else
+        askForStress(makeFinding(FindingId::SeveralStresses, {name, static_cast<double>(column->groups.size())}),
+                     reading);
+}
+
+/// Returns the stress of a creep test: from the request, or from a column that has a single one.
+StressOfRows chooseStress(const TestTable& table, const TestReadRequest& request, const UnitFactor& units,
+                          TestReading& reading)
+{
+    const std::optional<StressColumn> column = findStressColumn(table, units);
+    const bool isUsable = column && !column->groups.empty();
+    const bool isSingle = isUsable && column->groups.size() == 1;
+    if (!request.stress && !isSingle) {
+        askForStress(table, column, reading);
+        return {};
+    }
+    StressOfRows chosen;
+    chosen.stress = request.stress ? *request.stress : column->groups.front().mean;
+    if (!isUsable)
+        return chosen;
+    const StressGroup* const group = column->findGroup(chosen.stress);
+    const std::string& name = table.columns[column->column].name;
+    if (group == nullptr && isSingle) {
+        reading.findings.push_back(
+            makeFinding(FindingId::StressDiffers, {name, column->groups.front().mean, chosen.stress}));
+        return chosen;
+    }
+    if (group == nullptr) {
+        askForStress(makeFinding(FindingId::StressNotInColumn, {name, chosen.stress}), reading);
+        return chosen;
+    }
+    reading.stressColumn = column->column;
+    chosen.cells = &table.columns[column->column].cells;
+    chosen.factor = *column->factor;
+    chosen.group = *group;
+    return chosen;
+}
+
+/// How the cells of a table become points.
+struct PointReading
+{
+    double abscissaFactor = 1.0;
+    double ordinateFactor = 1.0;
+    StressOfRows stress;
+};
+
+void takePoints(const TestTable& table, const TestReadRequest& request, const PointReading& how, TestReading& reading)
 {
     TestData data;
     data.name = request.name;
     data.mode = request.mode;
-    data.parameter = request.stress.value_or(0.0);
+    data.parameter = request.mode == Mode::Creep ? how.stress.stress : request.stress.value_or(0.0);
     data.weight = request.weight;
     const std::vector<double>& x = table.columns[*reading.abscissa.column].cells;
     const std::vector<double>& y = table.columns[*reading.ordinate.column].cells;
     for (std::size_t i = 0; i < x.size(); ++i) {
-        const double abscissa = canonicalAbscissa(request.mode, *reading.abscissa.measure, x[i] * abscissaFactor);
+        if (!how.stress.isIn(i))
+            continue;
+        const double abscissa = canonicalAbscissa(request.mode, *reading.abscissa.measure, x[i] * how.abscissaFactor);
         const double ordinate =
-            canonicalOrdinate(request.mode, *reading.ordinate.measure, y[i] * ordinateFactor, abscissa);
+            canonicalOrdinate(request.mode, *reading.ordinate.measure, y[i] * how.ordinateFactor, abscissa);
         if (!isInDomain(request.mode, abscissa, ordinate)) {
             ++reading.leftOut;
             continue;
@@ -392,12 +376,10 @@ TestReading takeTest(const TestTable& table, const TestReadRequest& request, con
     AxisReader axes(table, request, units, reading);
     const double abscissaFactor = axes.read(Axis::Abscissa);
     const double ordinateFactor = axes.read(Axis::Ordinate);
-    if (request.mode == Mode::Creep && !request.stress) {
-        reading.findings.push_back(makeFinding(FindingId::StressOfTestNeeded));
-        reading.questions.push_back({QuestionKind::WhichStress, Axis::Ordinate});
-    }
+    const StressOfRows stress =
+        request.mode == Mode::Creep ? chooseStress(table, request, units, reading) : StressOfRows();
     if (reading.questions.empty())
-        takePoints(table, request, abscissaFactor, ordinateFactor, reading);
+        takePoints(table, request, {abscissaFactor, ordinateFactor, stress}, reading);
     return reading;
 }
 

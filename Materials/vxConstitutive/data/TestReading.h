@@ -62,7 +62,7 @@ struct TestReadRequest
     Mode mode = Mode::Uniaxial;
     ColumnChoice abscissa;
     ColumnChoice ordinate;
-    std::optional<double> stress; ///< Pa; of a creep test
+    std::optional<double> stress; ///< Pa; of a creep test; of one of them, if the table has a column of stresses
     double weight = 1.0;
 };
 
@@ -93,6 +93,7 @@ struct TestReading
     std::optional<TestData> data; ///< absent if there are questions
     ColumnChoice abscissa;        ///< as understood
     ColumnChoice ordinate;
+    std::optional<std::size_t> stressColumn; ///< of a table of creep tests whose rows have their stress
     std::vector<Question> questions;
     std::vector<Finding> findings; ///< about the columns and points of this test
     std::size_t leftOut = 0;       ///< rows without a number, or outside the domain of the mode
@@ -105,7 +106,18 @@ struct TestReading
 /// domain of the mode, and counts unusual points. Keeps the order of the points. Never guesses a unit: if one is missing or
 /// unknown, there is a question. A stretch or volume ratio without a unit is a plain number. A strain or stress is taken as
 /// engineering, with a finding, if the header does not say that it is true.
+///
+/// If a table of creep tests has a column of stresses with a unit in its header, the stress of the request chooses the rows; a
+/// measured stress may scatter by 2 %. If the column has one stress, the request need not have it. If it has several,
+/// creepStresses() tells them, and each of them is a test.
 VXCONSTITUTIVE_EXPORT TestReading takeTest(const TestTable& table, const TestReadRequest& request,
                                            const UnitFactor& units);
+
+/// A table of creep tests has at most this number of stresses.
+inline constexpr std::size_t mostCreepStresses = 100;
+
+/// Returns the stresses (Pa, rising) of the creep tests in a table: the means of the groups in its column of stresses. Returns none
+/// if the table has no column whose header names a stress with its unit, or if there are more than mostCreepStresses.
+VXCONSTITUTIVE_EXPORT std::vector<double> creepStresses(const TestTable& table, const UnitFactor& units);
 
 } // namespace vxConstitutive

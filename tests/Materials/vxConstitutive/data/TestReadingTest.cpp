@@ -170,6 +170,81 @@ TEST(TestQuestions, ACreepCurveNeedsItsStress)
     EXPECT_EQ(take(text, request).data->parameter, 1e8);
 }
 
+/// Three creep tests in one table; the load of the second one scatters.
+const char* const creepTable = "Time [h],Creep strain [%],Stress [MPa]\n"
+                               "1,0.1,50\n2,0.2,50\n3,0.3,50\n"
+                               "1,0.8,99.5\n2,1.6,100.5\n"
+                               "1,2.7,150\n2,5.4,150\n3,8.1,\n";
+
+TestReadRequest creepAt(std::optional<double> stress)
+{
+    TestReadRequest request;
+    request.name = "test";
+    request.mode = Mode::Creep;
+    request.stress = stress;
+    return request;
+}
+
+TEST(CreepTable, ItsColumnOfStressesHasATestForEach)
+{
+    const TestTable table = readTestTable(creepTable, unitFactor);
+    EXPECT_EQ(creepStresses(table, unitFactor), (std::vector<double>{50e6, 100e6, 150e6}));
+    const TestReading one = takeTest(table, creepAt(100e6), unitFactor);
+    ASSERT_TRUE(one.data.has_value());
+    EXPECT_EQ(one.stressColumn, 2U);
+    EXPECT_EQ(one.data->abscissas, (std::vector<double>{3600.0, 7200.0}));
+    EXPECT_EQ(one.data->ordinates, (std::vector<double>{0.008, 0.016}));
+    EXPECT_EQ(one.data->parameter, 100e6);
+    EXPECT_EQ(one.leftOut, 0U);
+    EXPECT_EQ(takeTest(table, creepAt(150e6), unitFactor).data->abscissas.size(), 2U) << "the last row has no stress";
+}
+
+TEST(CreepTable, OneStressInTheColumnIsThatOfTheTest)
+{
+    const TestReading known = take("time [s];creep strain [-];sigma [MPa]\n1;0.1;80\n2;0.2;80\n", creepAt({}));
+    ASSERT_TRUE(known.data.has_value());
+    EXPECT_EQ(known.data->parameter, 80e6);
+    EXPECT_EQ(known.data->abscissas.size(), 2U);
+}
+
+TEST(CreepTable, SeveralStressesAreAQuestionForASingleTest)
+{
+    const TestReading reading = take(creepTable, creepAt({}));
+    EXPECT_FALSE(reading.data.has_value());
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichStress, Axis::Ordinate));
+    EXPECT_EQ(firstArgument(reading.findings, FindingId::SeveralStresses, 1), "3");
+    EXPECT_EQ(firstArgument(take(creepTable, creepAt(70e6)).findings, FindingId::StressNotInColumn, 1), "7e+07");
+}
+
+TEST(CreepTable, AGivenStressThatIsNotThatOfTheColumnIsDoubted)
+{
+    const TestReading reading = take("time [s];creep strain [-];stress [MPa]\n1;0.1;80\n2;0.2;80\n", creepAt(90e6));
+    ASSERT_TRUE(reading.data.has_value());
+    EXPECT_EQ(reading.data->parameter, 90e6);
+    EXPECT_EQ(reading.data->abscissas.size(), 2U);
+    EXPECT_TRUE(has(reading.findings, FindingId::StressDiffers));
+}
+
+TEST(CreepTable, AStressWithoutAUnitIsNeverGuessed)
+{
+    const std::string text = "time [s];creep strain [-];stress\n1;0.1;80\n2;0.2;80\n";
+    const TestReading reading = take(text, creepAt({}));
+    EXPECT_EQ(firstArgument(reading.findings, FindingId::StressUnitNeeded), "stress");
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichStress, Axis::Ordinate));
+    EXPECT_TRUE(creepStresses(readTestTable(text, unitFactor), unitFactor).empty());
+    EXPECT_TRUE(take(text, creepAt(80e6)).data.has_value());
+}
+
+TEST(CreepTable, AStressThatRisesAllTheTimeIsNoCreepTest)
+{
+    std::string text = "time [s];creep strain [-];stress [MPa]\n";
+    for (int i = 1; i <= 200; ++i)
+        text += std::to_string(i) + ";0.1;" + std::to_string(std::pow(1.02, i)) + "\n";
+    const TestReading reading = take(text, creepAt({}));
+    EXPECT_TRUE(has(reading.findings, FindingId::StressNotConstant));
+    EXPECT_TRUE(asks(reading, QuestionKind::WhichStress, Axis::Ordinate));
+}
+
 TEST(TestQuestions, AModeWithoutTestDataHasNoColumns)
 {
     EXPECT_FALSE(take("stretch,stress [Pa]\n1.1,2\n", Mode::Yield).data.has_value());

@@ -4,6 +4,8 @@
 #include "plugin/TabsLibrary.h"
 
 #include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -28,9 +30,12 @@ InspectorDock::~InspectorDock() = default;
 
 QSize InspectorDock::sizeHint() const
 {
-    constexpr int most = 380; // leaves the editor its usual width at the first start
+    constexpr int ofSmallScreen = 380; // leaves the editor its usual width at the first start
+    constexpr double part = 0.28;      // of a wide screen
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const int ofScreen = screen != nullptr ? static_cast<int>(part * screen->availableGeometry().width()) : 0;
     const QFontMetrics font = fontMetrics();
-    return {std::min(56 * font.averageCharWidth(), most), 24 * font.lineSpacing()};
+    return {std::min(62 * font.averageCharWidth(), std::max(ofSmallScreen, ofScreen)), 24 * font.lineSpacing()};
 }
 
 void InspectorDock::retranslate()

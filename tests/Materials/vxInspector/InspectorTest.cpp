@@ -6,6 +6,7 @@
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "findings/FindingTable.h"
+#include "plugin/InspectorTabs.h"
 #include "plugin/TabContents.h"
 #include "table/ContentView.h"
 #include "vxInspector/units/ProjectUnits.h"
@@ -474,19 +475,104 @@ TEST_F(Inspector, ShowsAllItsTabsInANarrowDock)
     setNumber(steel, Id::YoungsModulus, 206900.0);
     select({&steel});
     ASSERT_TRUE(becomes(Values, "Density", value, "7850"));
-    QTabBar* const bar = tabs().tabBar();
+    const vxInspector::NarrowTabBar& bar = dynamic_cast<vxInspector::InspectorTabs&>(tabs()).bar();
     for (const int characters : {60, 45}) {
-        bar->parentWidget()->setFixedWidth(characters * bar->fontMetrics().averageCharWidth());
+        bar.parentWidget()->setFixedWidth(characters * bar.parentWidget()->fontMetrics().averageCharWidth());
         QCoreApplication::processEvents();
-        EXPECT_EQ(bar->tabToolTip(Findings), "Findings (1)");
-        for (int tab = 0; tab < bar->count(); ++tab) {
-            EXPECT_TRUE(bar->rect().contains(bar->tabRect(tab))) << tab << ", " << characters;
-            EXPECT_GT(bar->tabRect(tab).width(), bar->fontMetrics().horizontalAdvance(bar->tabText(tab).left(4)));
-            if (bar->tabText(tab).size() <= 5) {
-                EXPECT_GT(bar->tabRect(tab).width(), bar->fontMetrics().horizontalAdvance(bar->tabText(tab)));
-            }
+        EXPECT_EQ(bar.tabToolTip(Findings), "Findings (1)");
+        for (int tab = 0; tab < bar.count(); ++tab) {
+            EXPECT_TRUE(bar.rect().contains(bar.placeOf(tab))) << tab << ", " << characters;
+            EXPECT_GT(bar.placeOf(tab).width(), bar.fontMetrics().horizontalAdvance(bar.tabText(tab)));
         }
     }
+}
+
+/// Tabs with the titles of the inspector in a language, in a dock.
+class Titles : public testing::Test
+{
+protected:
+    static QStringList german() { return {"Werte", "Befunde (12)", "Karten", "Vergleich", "Kurven", "Anpassung"}; }
+
+    Titles()
+    {
+        for (int tab = 0; tab < 6; ++tab)
+            pages.addTab(new QWidget, QString());
+        pages.show();
+    }
+
+    void set(const QStringList& titles, int width)
+    {
+        pages.resize(width, 300);
+        for (int tab = 0; tab < titles.size(); ++tab)
+            pages.setTitle(tab, titles[tab]);
+        QCoreApplication::processEvents();
+    }
+
+    void setPixelSize(int size)
+    {
+        QFont font = pages.font();
+        font.setPixelSize(size);
+        pages.setFont(font);
+    }
+
+    bool areWhole() const
+    {
+        const vxInspector::NarrowTabBar& bar = pages.bar();
+        for (int tab = 0; tab < bar.count(); ++tab)
+            if (bar.placeOf(tab).width() <= bar.fontMetrics().horizontalAdvance(bar.tabText(tab)) ||
+                !bar.rect().contains(bar.placeOf(tab)))
+                return false;
+        return true;
+    }
+
+    int rows() const { return pages.bar().placeOf(5).top() == pages.bar().placeOf(0).top() ? 1 : 2; }
+
+    vxInspector::InspectorTabs pages;
+};
+
+TEST_F(Titles, AreWholeInEachLanguageAndAtEachFontInADockOfTheFirstWidth)
+{
+    const QStringList languages[] = {{"Values", "Findings (120)", "Cards", "Compare", "Curves", "Fit"},
+                                     german(),
+                                     {QString::fromUtf8("\u503c"), QString::fromUtf8("\u7ed3\u679c\uff08120\uff09"),
+                                      QString::fromUtf8("\u5361\u7247"), QString::fromUtf8("\u6bd4\u8f83"),
+                                      QString::fromUtf8("\u66f2\u7ebf"), QString::fromUtf8("\u62df\u5408")}};
+    for (const int size : {11, 13, 16, 18})
+        for (const QStringList& titles : languages) {
+            setPixelSize(size);
+            set(titles, 370);
+            EXPECT_TRUE(areWhole()) << size << ' ' << titles[1].toStdString();
+            EXPECT_GE(pages.bar().fontInfo().pixelSize(), 0.85 * size - 1) << "readable";
+        }
+}
+
+TEST_F(Titles, AreInTwoRowsOnlyIfOneRowIsTooNarrow)
+{
+    setPixelSize(16);
+    set(german(), 370);
+    EXPECT_EQ(rows(), 2);
+    const int height = pages.bar().height();
+    QTest::mouseClick(&pages.bar(), Qt::LeftButton, {}, pages.bar().placeOf(4).center());
+    EXPECT_EQ(pages.currentIndex(), 4);
+    EXPECT_GE(pages.currentWidget()->mapTo(&pages, QPoint()).y(), height) << "the page is below both rows";
+    set(german(), 700);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_LT(pages.bar().height(), height);
+    EXPECT_EQ(pages.bar().fontInfo().pixelSize(), 16);
+    QTest::mouseClick(&pages.bar(), Qt::LeftButton, {}, pages.bar().placeOf(1).center());
+    EXPECT_EQ(pages.currentIndex(), 1);
+    QTest::keyClick(&pages.bar(), Qt::Key_Right);
+    EXPECT_EQ(pages.currentIndex(), 2);
+}
+
+TEST_F(Titles, HaveToolTipsInBothRows)
+{
+    setPixelSize(16);
+    set(german(), 370);
+    QHelpEvent help(QEvent::ToolTip, pages.bar().placeOf(5).center(), QPoint(5, 5));
+    QApplication::sendEvent(&pages.bar(), &help);
+    EXPECT_EQ(QToolTip::text().toStdString(), "Anpassung");
+    QToolTip::hideText();
 }
 
 TEST_F(Inspector, FitsItsColumnsAfterTheMouseHasShownTheirTab)
@@ -500,9 +586,9 @@ TEST_F(Inspector, FitsItsColumnsAfterTheMouseHasShownTheirTab)
     select({&steel});
     ASSERT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
     // The header gives the second column its earlier width when it is no longer the last one, while the button is down.
-    QTabBar* const bar = tabs().tabBar();
-    QTest::mousePress(bar, Qt::LeftButton, {}, bar->tabRect(Values).center());
-    QTest::mouseRelease(bar, Qt::LeftButton, {}, bar->tabRect(Values).center());
+    vxInspector::NarrowTabBar& bar = dynamic_cast<vxInspector::InspectorTabs&>(tabs()).bar();
+    QTest::mousePress(&bar, Qt::LeftButton, {}, bar.placeOf(Values).center());
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, bar.placeOf(Values).center());
     ASSERT_TRUE(becomes(Values, "Density", value, "1.2345678901e-21"));
     const vxInspector::ContentView& table = view(Values);
     EXPECT_GT(table.columnWidth(value), table.fontMetrics().horizontalAdvance(QStringLiteral("1.2345678901e-21")));

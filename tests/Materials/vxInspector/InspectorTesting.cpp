@@ -4,6 +4,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Gui/ViewFeeder.h"
 #include "Obj/Application.h"
+#include "plugin/InspectorTabs.h"
 #include "plugin/Module.h"
 #include "plugin/TabPage.h"
 #include "table/ContentView.h"
@@ -117,8 +118,8 @@ QTabWidget& InspectorTest::tabs() const
 
 void InspectorTest::turnTo(Tab tab) const
 {
-    QTabBar& bar = *tabs().tabBar();
-    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab).center());
+    vxInspector::NarrowTabBar& bar = dynamic_cast<vxInspector::InspectorTabs&>(tabs()).bar();
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.placeOf(tab).center());
     EXPECT_EQ(tabs().currentIndex(), tab);
 }
 

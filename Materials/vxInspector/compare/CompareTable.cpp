@@ -107,10 +107,14 @@ QString commonUnit(const ComparedRow& row)
 Cell toCell(const ComparedValue& value, const ComparedValue& first, const QString& commonUnit)
 {
     const bool hasOwnUnit = commonUnit.isEmpty() && !value.text.unit.isEmpty();
-    const QString text = hasOwnUnit ? value.text.number + QLatin1Char(' ') + value.text.unit : value.text.number;
-    Cell cell = textCell(value.exact.empty() ? QString(QChar(0x2013)) : text);
-    if (!value.text.note.isEmpty())
-        cell.toolTip = value.text.note;
+    ValueText text = value.text;
+    if (value.exact.empty())
+        text.number = QChar(0x2013);
+    Cell cell = valueCell(text);
+    if (hasOwnUnit) {
+        cell.whole = cell.copied() + QLatin1Char(' ') + text.unit;
+        cell.text += QLatin1Char(' ') + text.unit;
+    }
     cell.isBold = value.exact != first.exact;
     return cell;
 }
@@ -118,7 +122,7 @@ Cell toCell(const ComparedValue& value, const ComparedValue& first, const QStrin
 Row toRow(const ComparedRow& compared)
 {
     const QString unit = commonUnit(compared);
-    Row row{{textCell(compared.name), {unit}, {}}};
+    Row row{{textCell(compared.name), unitCell(unit), {}}};
     for (const ComparedValue& value : compared.values)
         row.cells.push_back(toCell(value, compared.values.front(), unit));
     if (std::any_of(row.cells.begin(), row.cells.end(), [](const Cell& cell) { return cell.isBold; }))

@@ -222,15 +222,17 @@ void ContentView::scrollTo(const QModelIndex& index, ScrollHint hint)
 NeededWidth ContentView::neededWidth(int column) const
 {
     if (m_columnsOfUser.count(column) != 0)
-        return {columnWidth(column), columnWidth(column), columnWidth(column)};
+        return {columnWidth(column), columnWidth(column), columnWidth(column), columnWidth(column)};
     constexpr int mostOfHeader = 12;                                    // characters; the rest is elided
     const int header = horizontalHeader()->sectionSizeHint(column) + 2; // advances are rounded
-    NeededWidth needed{header, header, std::min(header, mostOfHeader * fontMetrics().averageCharWidth())};
+    const int leastOfHeader = std::min(header, mostOfHeader * fontMetrics().averageCharWidth());
+    NeededWidth needed{header, header, leastOfHeader, leastOfHeader};
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const NeededWidth ofCell = neededWidth(m_model->index(row, column));
         needed.whole = std::max(needed.whole, ofCell.whole);
         needed.longest = std::max(needed.longest, ofCell.longest);
         needed.least = std::max(needed.least, ofCell.least);
+        needed.broken = std::max(needed.broken, ofCell.broken);
     }
     return needed;
 }
@@ -240,25 +242,30 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
     const Cell& cell = m_model->cell(index);
     if (cell.bar) {
         const int bar = sizeHintForIndex(index).width();
-        return {bar, bar * 2 / 3, bar / 2}; // names are whole before bars are wide
+        return {bar, bar * 2 / 3, bar / 2, bar / 2}; // names are whole before bars are wide
     }
     const QFontMetricsF metrics(index.data(Qt::FontRole).value<QFont>().resolve(font()));
     const int margin = RangeDelegate::marginOf(*this, cell);
     // The size hint of a wrapped cell would depend on the present width of the column.
     double line = 0.0;
-    for (const QString& one : cell.text.split(QLatin1Char('\n')))
+    const QString text = RangeDelegate::shownText(cell);
+    for (const QString& one : text.split(QLatin1Char('\n')))
         line = std::max(line, metrics.horizontalAdvance(one));
     const int whole = static_cast<int>(std::ceil(line)) + margin;
     if (cell.isFixed)
-        return {whole, whole, whole};
-    constexpr int mostOfName = 8; // characters in a line; the rest is elided
-    const PieceWidths pieces = pieceWidths(cell.text, metrics);
+        return {whole, whole, whole, whole};
     const int width = viewport()->width();
+    constexpr int mostOfName = 8; // characters in a line; the rest is elided
+    const PieceWidths pieces = pieceWidths(cell.isInOneLine ? cell.text : text, metrics);
     constexpr int shortText = 4; // characters that are in one line also without blanks
     const int longest = std::min(cell.text.size() <= shortText ? whole : pieces.longest + margin, width / 2);
     const int least = index.column() == 0 ? mostOfName * fontMetrics().averageCharWidth() + margin : width * 3 / 7;
     const int number = pieces.longestNumber > 0 ? pieces.longestNumber + margin : 0;
-    return {whole, std::max(longest, number), std::max(std::min(longest, least), number)};
+    const int broken = std::max(std::min(longest, least), number);
+    if (cell.isInOneLine)
+        return {whole, std::max(std::min(whole, width / 2), broken), std::max(std::min(whole, width / 3), broken),
+                broken};
+    return {whole, std::max(longest, number), broken, broken};
 }
 
 void ContentView::fitColumns()
@@ -271,6 +278,9 @@ void ContentView::fitColumns()
     std::vector<NeededWidth> needed;
     for (int column = 0; column < m_model->columnCount(); ++column)
         needed.push_back(neededWidth(column));
+    if (sumOf(needed, &NeededWidth::least) > viewport()->width())
+        for (NeededWidth& column : needed)
+            column.least = column.broken;
     // In a table that is scrolled anyway, the names are whole.
     if (sumOf(needed, &NeededWidth::least) > viewport()->width())
         needed.front().least = needed.front().longest;

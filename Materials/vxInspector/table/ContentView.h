@@ -18,7 +18,8 @@ struct NeededWidth
 {
     int whole;   ///< for texts in one line
     int longest; ///< for the longest word and the header
-    int least;   ///< for what is always whole: numbers, bars, lines of cards; at most `longest`
+    int least;   ///< for what is always whole: numbers, bars, lines of cards, units; at most `longest`
+    int broken;  ///< as `least`, if units may be broken at their blanks
 };
 
 /// A table of the inspector. Long texts wrap; the columns share the width. If there is too little of it, names are elided

@@ -60,7 +60,6 @@ QString shortened(const QString& text, int most)
 
 Cell textCell(const QString& text)
 {
-    constexpr int mostInToolTip = 2000;
     const QString shown = shortened(text);
     if (shown == text)
         return {text, {}, {}};

@@ -22,6 +22,7 @@ struct Cell
     bool isBold = false;
     bool isFixed = false;                       ///< shown with characters of equal width
     std::optional<RangeBar> bar = std::nullopt; ///< shown in place of the text
+    bool isInOneLine = false;                   ///< shown without breaks at its blanks
     bool hasSign = false;                       ///< shown with a warning sign before the text
 
     const QString& copied() const { return whole.isEmpty() ? text : whole; }
@@ -57,6 +58,8 @@ struct TableContent
 
 /// Returns a text that is at most `most` characters long, with an ellipsis at the end if it was longer.
 QString shortened(const QString& text, int most = 120);
+
+inline constexpr int mostInToolTip = 2000; ///< characters
 
 /// Returns a cell with a text of any length: it shows the beginning, and its tool tip and the clipboard have more.
 Cell textCell(const QString& text);

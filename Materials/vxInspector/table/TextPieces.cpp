@@ -48,7 +48,7 @@ std::vector<QString> textPieces(const QString& text)
         begin = end;
     };
     for (int end = 1; end < text.size(); ++end) {
-        if (text[end - 1].isSpace() || isHyphen(text, end - 1))
+        if ((text[end - 1].isSpace() && text[end - 1] != QChar::Nbsp) || isHyphen(text, end - 1))
             add(end);
         else if (isOfTextWithoutBlanks(text[end - 1]) || isOfTextWithoutBlanks(text[end])) {
             finder.setPosition(end);
@@ -58,6 +58,25 @@ std::vector<QString> textPieces(const QString& text)
     }
     add(text.size());
     return pieces;
+}
+
+QString withWholeUnits(QString text)
+{
+    constexpr int mostInUnit = 12; // characters; longer texts in parentheses are no units, or need more lines
+    for (int begin = text.indexOf(QLatin1String("/(")); begin >= 0;
+         begin = text.indexOf(QLatin1String("/("), begin + 1)) {
+        const int end = text.indexOf(QLatin1Char(')'), begin);
+        if (end < 0)
+            break;
+        if (end - begin <= mostInUnit)
+            std::replace(text.begin() + begin, text.begin() + end, QChar(QLatin1Char(' ')), QChar(QChar::Nbsp));
+    }
+    // The layout ends lines behind a slash.
+    constexpr QChar joiner(0x2060); // has no width
+    for (int i = text.size() - 2; i > 0; --i)
+        if (text[i] == QLatin1Char('/') && text[i - 1].isLetterOrNumber() && !text[i + 1].isSpace())
+            text.insert(i + 1, joiner);
+    return text;
 }
 
 PieceWidths pieceWidths(const QString& text, const QFontMetricsF& font)

@@ -8,9 +8,12 @@
 /// Texts of cells in columns that may be narrower than the texts.
 namespace vxInspector {
 
-/// Returns the pieces of a text between which a line may end: words, numbers and units at blanks, words at hyphens, and the characters of
+/// Returns the pieces of a text between which a line may end: words, numbers and units at blanks that may break, words at hyphens, and the characters of
 /// Chinese, Japanese and Korean texts, which have no blanks.
 std::vector<QString> textPieces(const QString& text);
+
+/// Returns a text whose lines do not end inside a unit such as m/s or W/(m K): its slashes and blanks do not break.
+QString withWholeUnits(QString text);
 
 /// The widths that the pieces of a text need in a line.
 struct PieceWidths

@@ -98,10 +98,21 @@ void RangeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIn
         return;
     }
     option->decorationAlignment = Qt::AlignLeft | Qt::AlignTop;
+    option->text = shownText(cellOf(index));
     const bool isName = index.column() == 0; // is elided
     const int width = textWidth(*option, index);
+    if (cellOf(index).isInOneLine && QFontMetricsF(option->font).horizontalAdvance(option->text) > width)
+        option->text = cellOf(index).text; // may be broken at its blanks
     if (!isName && width > 0)
         option->text = breakable(option->text, QFontMetricsF(option->font), width);
+}
+
+QString RangeDelegate::shownText(const Cell& cell)
+{
+    if (cell.isFixed)
+        return cell.text;
+    QString text = withWholeUnits(cell.text);
+    return cell.isInOneLine ? text.replace(QLatin1Char(' '), QChar(QChar::Nbsp)) : text;
 }
 
 int RangeDelegate::marginOf(const QAbstractItemView& view, const Cell& cell)
@@ -123,7 +134,7 @@ bool RangeDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const 
         index.column() != 0)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const Cell& cell = cellOf(index);
-    if (pieceWidths(cell.text, QFontMetricsF(option.font)).longest <= textWidth(option, index))
+    if (pieceWidths(shownText(cell), QFontMetricsF(option.font)).longest <= textWidth(option, index))
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const QString text = cell.toolTip.isEmpty() ? cell.text : cell.text + QStringLiteral("\n\n") + cell.toolTip;
     QToolTip::showText(event->globalPos(), plainToolTip(text), view);

@@ -21,6 +21,9 @@ public:
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
+    /// Returns the text of a cell as it is painted: units are not broken at their blanks.
+    static QString shownText(const Cell& cell);
+
     /// Returns the width of a cell in a view beside its text: the margins, and the sign.
     static int marginOf(const QAbstractItemView& view, const Cell& cell);
 

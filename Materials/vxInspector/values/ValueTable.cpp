@@ -36,14 +36,6 @@ Cell rangeCell(const vxMat::HeldProperty& held, const vxUnits::UnitSystem& syste
     return cell;
 }
 
-Cell valueCell(const ValueText& text)
-{
-    Cell cell = textCell(text.number);
-    if (!text.note.isEmpty())
-        cell.toolTip = text.note;
-    return cell;
-}
-
 Cell nameCell(std::int32_t id, const std::string& otherName)
 {
     const vxUnits::Quantity* const quantity = vxUnits::findQuantity(id);
@@ -56,7 +48,7 @@ Cell nameCell(std::int32_t id, const std::string& otherName)
 Row heldRow(const InspectedMaterial& inspected, const vxMat::HeldProperty& held, const vxUnits::UnitSystem& system)
 {
     const ValueText text = valueText(held, inspected.values, system);
-    return {{nameCell(held.slot, held.property->name), valueCell(text), {text.unit}, rangeCell(held, system)},
+    return {{nameCell(held.slot, held.property->name), valueCell(text), unitCell(text.unit), rangeCell(held, system)},
             {inspected.projectId, inspected.objectId, held.property->id}};
 }
 
@@ -84,7 +76,9 @@ Row derivedRow(const vxUnits::DerivedValue& derived, const vxUnits::UnitSystem& 
 {
     const ValueText text = valueText(derived, system);
     const QString formula = tr("%1 = %2").arg(QString::fromUtf8(derived.symbol), QString::fromUtf8(derived.formula));
-    return {{{tr("%1 (derived)").arg(derivedName(derived)), formula}, {text.number, formula}, {text.unit}, {}}};
+    Cell value = valueCell(text);
+    value.toolTip = value.toolTip.isEmpty() ? formula : formula + QLatin1Char('\n') + value.toolTip;
+    return {{{tr("%1 (derived)").arg(derivedName(derived)), formula}, value, unitCell(text.unit), {}}};
 }
 
 } // namespace

@@ -8,16 +8,48 @@
 #include "vxUnits/Writing.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace vxInspector {
 
 namespace {
 
-/// Numbers in SI are the stored ones; others are rounded, since they are not exact anyway.
-int digitsIn(const vxUnits::UnitSystem& system)
+constexpr int shownDigits = 8; ///< enough to tell materials apart, few enough for a narrow column
+
+/// Numbers in SI are the stored ones; conversions are exact to 15 digits.
+int allDigitsIn(const vxUnits::UnitSystem& system)
 {
-    constexpr int enough = 10;
-    return system == vxUnits::UnitSystem::si() ? vxUnits::shortestDigits : enough;
+    constexpr int exact = 15;
+    return system == vxUnits::UnitSystem::si() ? vxUnits::shortestDigits : exact;
+}
+
+/// Returns a number with its exponent if it was rounded before the decimal point: the zeros of 206842720000 look exact.
+QString withoutRoundedZeros(const QString& number)
+{
+    const bool isInteger = !number.contains(QLatin1Char('.')) && !number.contains(QLatin1Char('e'));
+    if (!isInteger || number.size() <= shownDigits + 1) // with the sign
+        return number;
+    return QLocale::c().toString(number.toDouble(), 'e', QLocale::FloatingPointShortest);
+}
+
+/// Returns a number without a small exponent, since 200000 is easier to read than 2e+05.
+QString withoutSmallExponent(const std::string& number)
+{
+    constexpr int most = 6;
+    QString text = QString::fromStdString(number);
+    const int mark = text.indexOf(QLatin1String("e+"));
+    const int exponent = mark > 0 ? text.mid(mark + 2).toInt() : 0;
+    const int point = text.indexOf(QLatin1Char('.'));
+    const int decimals = point > 0 ? mark - point - 1 : 0;
+    if (exponent == 0 || exponent > most || decimals > exponent)
+        return text;
+    text.truncate(mark);
+    return text.remove(QLatin1Char('.')) + QString(exponent - decimals, QLatin1Char('0'));
+}
+
+void append(QString& list, const QString& number)
+{
+    list += (list.isEmpty() ? QString() : QStringLiteral(", ")) + number;
 }
 
 /// Returns the numbers of a quantity in the unit that they are stored in, if the unit is not known.
@@ -60,12 +92,16 @@ ValueText numbersText(std::int32_t id, const std::vector<double>& numbers, const
     const auto exponents = values.creepExponents();
     ValueText texts;
     for (const double number : numbers) {
-        const auto written = vxUnits::writeQuantity(id, number, system, exponents, digitsIn(system));
-        if (!written)
-            return unconverted(numbers, written.failure());
-        texts.number += (texts.number.isEmpty() ? "" : ", ") + QString::fromStdString(written->number);
-        texts.unit = QString::fromStdString(written->unit);
+        const auto shown = vxUnits::writeQuantity(id, number, system, exponents, shownDigits);
+        const auto whole = vxUnits::writeQuantity(id, number, system, exponents, allDigitsIn(system));
+        if (!shown || !whole)
+            return unconverted(numbers, (shown ? whole : shown).failure());
+        append(texts.number, withoutRoundedZeros(withoutSmallExponent(shown->number)));
+        append(texts.whole, withoutSmallExponent(whole->number));
+        texts.unit = QString::fromStdString(shown->unit);
     }
+    if (texts.whole == texts.number)
+        texts.whole.clear();
     return texts;
 }
 
@@ -84,9 +120,34 @@ ValueText valueText(const vxUnits::DerivedValue& derived, const vxUnits::UnitSys
 {
     constexpr int digits = 5;
     const vxUnits::Unit unit = system.unitOf(derived.dimension);
-    return {QString::fromStdString(vxUnits::writeNumber(derived.value, unit, digits)),
-            derived.dimension.isNone() ? QString() : QString::fromStdString(unit.text()),
-            {}};
+    ValueText text{withoutSmallExponent(vxUnits::writeNumber(derived.value, unit, digits)),
+                   derived.dimension.isNone() ? QString() : QString::fromStdString(unit.text()),
+                   {},
+                   withoutSmallExponent(vxUnits::writeNumber(derived.value, unit, allDigitsIn(system)))};
+    if (text.whole == text.number)
+        text.whole.clear();
+    return text;
+}
+
+Cell valueCell(const ValueText& value)
+{
+    Cell cell = textCell(value.number);
+    if (!value.whole.isEmpty()) {
+        cell.whole = value.whole;
+        cell.toolTip =
+            shortened(value.unit.isEmpty() ? value.whole : value.whole + QLatin1Char(' ') + value.unit, mostInToolTip);
+    }
+    if (!value.note.isEmpty())
+        cell.toolTip = value.note;
+    return cell;
+}
+
+Cell unitCell(const QString& unit)
+{
+    constexpr int mostInLine = 12; // characters; a longer unit would take the room of the numbers
+    Cell cell{unit};
+    cell.isInOneLine = unit.size() <= mostInLine;
+    return cell;
 }
 
 QString derivedName(const vxUnits::DerivedValue& derived)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "table/TableContent.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxUnits/DerivedValues.h"
 #include "vxUnits/MaterialValues.h"
@@ -14,10 +15,19 @@ namespace vxInspector {
 /// A value of a material as texts in a unit system.
 struct ValueText
 {
-    QString number; ///< "7850"; a word; "on" for a switch
-    QString unit;   ///< "kg/m^3"; empty for pure numbers, words and switches
-    QString note;   ///< the reason if the number is not converted; otherwise empty
+    QString number;     ///< "7850", with at most eight digits; a word; "on" for a switch
+    QString unit;       ///< "kg/m^3"; empty for pure numbers, words and switches
+    QString note;       ///< the reason if the number is not converted; otherwise empty
+    QString whole = {}; ///< the number with all digits; empty if `number` has them
+
+    const QString& exact() const { return whole.isEmpty() ? number : whole; }
 };
+
+/// Returns the cell of a value without its unit. The tool tip and the clipboard have all digits.
+Cell valueCell(const ValueText& value);
+
+/// Returns the cell of a unit, which is not broken at its blanks unless it is long: W/(m K).
+Cell unitCell(const QString& unit);
 
 /// Returns the name of a quantity of the catalogue in the language of the user. For other ids, returns `otherName`.
 QString quantityName(std::int32_t id, const std::string& otherName = {});

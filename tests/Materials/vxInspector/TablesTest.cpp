@@ -22,6 +22,7 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using vxInspector::Cell;
 using vxInspector::InspectedMaterial;
 using vxInspector::TableContent;
 using vxtest::rowOf;
@@ -94,7 +95,7 @@ TEST(ValueTable, ConvertsToAnotherUnitSystem)
     EXPECT_THAT(textsOf(table, rowOf(table, "Density")),
                 ElementsAre("Density", "7.85e-09", "t/mm^3", "within the known range"));
     EXPECT_THAT(textsOf(table, rowOf(table, "Young's modulus")),
-                ElementsAre("Young's modulus", "2e+05", "MPa", "within the known range"));
+                ElementsAre("Young's modulus", "200000", "MPa", "within the known range"));
 }
 
 TEST(ValueTable, MarksDerivedValuesAndHasTheirFormulas)
@@ -146,6 +147,39 @@ TEST(ValueTable, KeepsTheRowOfAValueThatCannotBeReadInItsPlace)
     const TableContent table = valueTable(material, UnitSystem::si());
     EXPECT_EQ(textsOf(table, 0)[0], "Density");
     EXPECT_EQ(textsOf(table, 1)[0], "Young's modulus");
+}
+
+TEST(ValueTable, ShowsEightDigitsOfANumberAndTellsAndCopiesAll)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    // 30e6 psi; 17 digits
+    setNumber(material, Id::YoungsModulus, 206842718795.05084);
+    const auto cellOf = [&material](const UnitSystem& shown) {
+        const TableContent table = valueTable(material, shown);
+        return table.rows[rowOf(table, "Young's modulus")].cells[vxInspector::ValueColumn::Value];
+    };
+    const Cell si = cellOf(UnitSystem::si());
+    EXPECT_EQ(si.text, "2.0684272e+11");
+    EXPECT_EQ(si.copied(), "206842718795.05084");
+    EXPECT_EQ(si.toolTip, "206842718795.05084 Pa");
+    const Cell metric = cellOf(system("mm-t-s"));
+    EXPECT_EQ(metric.text, "206842.72");
+    EXPECT_EQ(metric.copied(), "206842.718795051") << "conversions are exact to 15 digits";
+    EXPECT_EQ(cellOf(system("in-lbf-s")).text, "3e+07");
+}
+
+TEST(ValueTable, WritesNumbersUpToAMillionWithoutAnExponent)
+{
+    InspectedMaterial material = inspected<vxMat::StructuralSteel>("Frame");
+    const auto textOf = [&material](double number) {
+        setNumber(material, Id::YoungsModulus, number);
+        const TableContent table = valueTable(material, UnitSystem::si());
+        return table.rows[rowOf(table, "Young's modulus")].cells[vxInspector::ValueColumn::Value].text.toStdString();
+    };
+    EXPECT_EQ(textOf(2e5), "200000");
+    EXPECT_EQ(textOf(-1.2e6), "-1200000");
+    EXPECT_EQ(textOf(2e7), "2e+07");
+    EXPECT_EQ(textOf(2e-7), "2e-07");
 }
 
 TEST(ValueTable, DerivesNothingFromNumbersThatAreNotFinite)
@@ -224,6 +258,18 @@ TEST(TextPieces, KeepNumbersWholeAndBreakOtherTextsThatAreTooWide)
     const QFontMetricsF font{QFont()};
     const QString shown = vxInspector::breakable(QStringLiteral("11.569 abcdefghij"), font, 5.0);
     EXPECT_TRUE(shown.startsWith(QStringLiteral("11.569 a") + QChar(0x200b) + QLatin1Char('b')));
+}
+
+TEST(TextPieces, DoNotEndInsideAUnit)
+{
+    const auto wholeUnits = [](const char* text) {
+        const std::string whole = vxInspector::withWholeUnits(QString::fromUtf8(text)).toStdString();
+        return piecesOf(whole.c_str());
+    };
+    EXPECT_THAT(wholeUnits("is 1 W/(m K) here"), ElementsAre("is", "1", "W/\u2060(m\u00a0K)", "here"));
+    EXPECT_THAT(wholeUnits("steel/(a text in parentheses, no unit)"), testing::SizeIs(6));
+    EXPECT_THAT(wholeUnits("5 m/s"), ElementsAre("5", "m/\u2060s"));
+    EXPECT_THAT(wholeUnits("open /(m K"), ElementsAre("open", "/(m", "K"));
 }
 
 TEST(RangeBar, IsLogarithmicIfTheRangeSpansDecades)

@@ -16,7 +16,9 @@
 #include <QItemSelectionModel>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace vxInspector {
 
@@ -73,7 +75,19 @@ void FindingsPage::setContent(TableContent content, const vxUnits::UnitSystem& s
 {
     m_system = system;
     TabPage::setContent(std::move(content));
+    selectOnlyRemedy();
     enableButton();
+}
+
+/// The button applies the remedy of the selected finding. If there is only one, nobody has to select it.
+void FindingsPage::selectOnlyRemedy()
+{
+    const std::vector<Row>& rows = view().content().rows;
+    const auto hasRemedy = [](const Row& row) { return row.remedy.has_value(); };
+    if (view().currentIndex().isValid() || std::count_if(rows.begin(), rows.end(), hasRemedy) != 1)
+        return;
+    const auto row = std::find_if(rows.begin(), rows.end(), hasRemedy) - rows.begin();
+    view().setCurrentIndex(view().model()->index(static_cast<int>(row), FindingColumn::Remedy));
 }
 
 const Row* FindingsPage::currentRow() const

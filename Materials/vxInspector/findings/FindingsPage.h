@@ -9,7 +9,7 @@ class QPushButton;
 namespace vxInspector {
 
 /// The tab of the findings. A click on a finding, and Return, show its row in the editor. A button applies the remedy of
-/// the current finding.
+/// the current finding, or the only remedy.
 class FindingsPage : public TabPage
 {
     Q_OBJECT
@@ -23,6 +23,7 @@ public:
     void retranslate() override;
 
 private:
+    void selectOnlyRemedy();
     void enableButton();
     void showPlace(int row, int column) const;
     void applyRemedy() const;

@@ -203,7 +203,6 @@ TEST_F(Inspector, AppliesARemedyAsAStepOfTheHistoryIfNoEditorIsOpen)
 {
     Mat::MaterialObject& steel = addMaterial(newProject());
     const int row = showDoubt(steel);
-    EXPECT_FALSE(applyButton().isEnabled());
     const int steps = history().count();
     click(Findings, row, FindingColumn::Remedy);
     EXPECT_EQ(window->get_active_mdi_window(), nullptr);
@@ -216,6 +215,32 @@ TEST_F(Inspector, AppliesARemedyAsAStepOfTheHistoryIfNoEditorIsOpen)
     history().undo();
     EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 206900.0);
     EXPECT_TRUE(waitFor([this] { return findRow(Findings, "Doubt") >= 0; }));
+}
+
+TEST_F(Inspector, AppliesTheOnlyRemedyWithoutASelection)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    showDoubt(steel);
+    EXPECT_TRUE(applyButton().isEnabled());
+    QTest::mouseClick(&applyButton(), Qt::LeftButton);
+    EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 2.069e11);
+}
+
+TEST_F(Inspector, LetsTheUserChooseOneOfSeveralRemedies)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& steel = addMaterial(project);
+    Mat::MaterialObject& other = addMaterial(project, "Other");
+    setNumber(other, Id::YoungsModulus, 206900.0);
+    setNumber(steel, Id::YoungsModulus, 206900.0);
+    select({&steel, &other});
+    turnTo(Findings);
+    ASSERT_TRUE(waitFor([this] { return view(Findings).model()->rowCount() == 2; }));
+    EXPECT_FALSE(applyButton().isEnabled());
+    click(Findings, 1, FindingColumn::Remedy);
+    QTest::mouseClick(&applyButton(), Qt::LeftButton);
+    EXPECT_EQ(numberOf(other, Id::YoungsModulus), 2.069e11);
+    EXPECT_EQ(numberOf(steel, Id::YoungsModulus), 206900.0);
 }
 
 TEST_F(Inspector, ShowsFindingsInTheUnitSystemOfTheValues)

@@ -57,6 +57,21 @@ QString withBreakPlaces(QString text, const QFont& font, int width)
     return text;
 }
 
+constexpr QChar hyphen('-');
+
+/// Returns whether a line that ends at a place cuts a word. Chinese texts have no words of letters.
+bool cutsWord(const QString& text, int end)
+{
+    constexpr ushort firstRadical = 0x2e80; // the blocks of Chinese, Japanese and Korean begin here
+    const auto isOfWord = [](QChar one) { return one.isLetter() && one.unicode() < firstRadical; };
+    return end > 0 && end < text.size() && isOfWord(text[end - 1]) && isOfWord(text[end]);
+}
+
+int endOf(const QTextLine& line)
+{
+    return line.textStart() + line.textLength();
+}
+
 void layOut(QTextLayout& layout, int width)
 {
     QTextOption option;
@@ -66,6 +81,8 @@ void layOut(QTextLayout& layout, int width)
     qreal height = 0.0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
+        if (cutsWord(layout.text(), endOf(line)))
+            line.setLineWidth(width - QFontMetrics(layout.font()).horizontalAdvance(hyphen));
         line.setPosition(QPointF(0.0, height));
         height += line.height();
     }
@@ -77,7 +94,7 @@ QString lineText(const QString& text, const QTextLine& line)
     QString part = text.mid(line.textStart(), line.textLength());
     if (part.endsWith(QChar::LineSeparator))
         part.chop(1);
-    return part;
+    return cutsWord(text, endOf(line)) ? part + hyphen : part;
 }
 
 } // namespace
@@ -96,6 +113,8 @@ QString wrapCellText(const QString& text, const QFont& font, const QSize& size)
     for (int i = 0; i < layout.lineCount(); ++i) {
         const QTextLine line = layout.lineAt(i);
         if (i > 0 && line.y() + line.height() > size.height()) {
+            if (cutsWord(breakable, line.textStart()))
+                lines.back().chop(1);
             lines.back() = QFontMetrics(font).elidedText(lines.back() + ellipsis, Qt::ElideRight, size.width());
             break;
         }
@@ -110,8 +129,11 @@ QSize cellTextSize(const QString& text, const QFont& font, int width)
     layOut(layout, width);
     const QRectF bounds = layout.boundingRect();
     qreal widest = 0.0;
-    for (int i = 0; i < layout.lineCount(); ++i)
-        widest = std::max(widest, layout.lineAt(i).naturalTextWidth());
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const bool hasHyphen = cutsWord(layout.text(), endOf(layout.lineAt(i)));
+        widest = std::max(widest, layout.lineAt(i).naturalTextWidth() +
+                                      (hasHyphen ? QFontMetrics(font).horizontalAdvance(hyphen) : 0));
+    }
     return {static_cast<int>(std::ceil(widest)), static_cast<int>(std::ceil(bounds.height()))};
 }
 

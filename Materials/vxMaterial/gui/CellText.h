@@ -8,7 +8,7 @@ class QStyleOptionViewItem;
 class QWidget;
 
 /// The drawing of texts in cells of the property table. A long text has several lines. Lines break between words,
-/// after the separators of a list without blanks, and inside a word that is wider than the cell. A number never breaks: one
+/// after the separators of a list without blanks, and, with a hyphen, inside a word that is wider than the cell. A number never breaks: one
 /// that is wider than the cell is cut, and ends with an ellipsis.
 namespace MatGui {
 

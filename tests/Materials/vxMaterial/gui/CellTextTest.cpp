@@ -45,12 +45,36 @@ TEST(CellText, BreaksAListOnlyBetweenItsNumbers)
     EXPECT_TRUE(lines[3].endsWith(QChar(0x2026)));
 }
 
-TEST(CellText, BreaksALongWordThatIsNoNumber)
+TEST(CellText, BreaksALongWordWithHyphens)
 {
     const QString word = QStringLiteral("Elastizitaetskonstantenmatrix");
-    const QStringList lines = linesOf(word, widthOf(word) / 2 + 10);
-    EXPECT_GT(lines.size(), 1);
-    EXPECT_EQ(lines.join(QString()), word);
+    const int width = widthOf(word) / 2 + 10;
+    const QStringList lines = linesOf(word, width);
+    ASSERT_GT(lines.size(), 1);
+    for (const QString& line : lines) {
+        EXPECT_EQ(line.endsWith(QLatin1Char('-')), line != lines.back()) << line.toStdString();
+        EXPECT_LE(widthOf(line), width);
+    }
+    EXPECT_EQ(lines.join(QString()).remove(QLatin1Char('-')), word);
+    EXPECT_LE(MatGui::cellTextSize(word, QApplication::font(), width).width(), width);
+}
+
+TEST(CellText, HasNoHyphenBetweenWordsOrChineseCharacters)
+{
+    const QString name = QStringLiteral("Mass density");
+    EXPECT_EQ(linesOf(name, widthOf(QStringLiteral("density")) + 2), QStringList({"Mass ", "density"}));
+    const QString chinese = QString::fromUtf8("\u5f39\u6027\u6a21\u91cf\u4e0e\u5bc6\u5ea6");
+    EXPECT_FALSE(linesOf(chinese, widthOf(chinese) / 2).join(QString()).contains(QLatin1Char('-')));
+}
+
+TEST(CellText, EndsWithAnEllipsisWithoutAHyphenIfAWordIsCutOff)
+{
+    const QString word = QStringLiteral("Elastizitaetskonstantenmatrix");
+    const QFont font = QApplication::font();
+    const QString shown =
+        MatGui::wrapCellText(word, font, QSize(widthOf(word) / 2, QFontMetrics(font).lineSpacing() + 2));
+    EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
+    EXPECT_FALSE(shown.contains(QLatin1Char('-')));
 }
 
 TEST(CellText, IsCutIfItHasMoreLinesThanTheCell)

@@ -36,6 +36,18 @@ struct ReportRow
     bool refused = false; ///< lost, although the target has a place for it; the user can do something about it
 };
 
+/// A value of a deck that was read although no solver could compute with it.
+struct Finding
+{
+    vxUnits::Message message;
+    std::string card;     ///< "*ELASTIC"
+    std::size_t line = 0; ///< of the card, from 1; 0 if the format has no lines
+};
+
+/// Returns the line, the card and the message: "line 3, *DENSITY: Density = -1 is not possible; the value must be above 0". In
+/// English, or translated.
+VXDECKS_EXPORT std::string textOf(const Finding& finding, const vxUnits::Translator& translator = {});
+
 /// The outcome for a material.
 struct MaterialReport
 {
@@ -43,6 +55,7 @@ struct MaterialReport
     std::string writtenName;             ///< its name in the deck; another one if the format does not take the name
     std::uint32_t id = 0;                ///< its number in the deck; 0 if the format has names only
     std::vector<vxUnits::Message> notes; ///< about the name and the number
+    std::vector<Finding> findings;       ///< of a deck that was read
     /// In the order of the catalogue; last those that the material does not have, but the deck needs.
     std::vector<ReportRow> rows;
 };
@@ -59,8 +72,13 @@ struct Report
 /// Returns the number of quantities that are refused.
 VXDECKS_EXPORT std::size_t countRefused(const Report& report);
 
+/// Returns the number of findings.
+VXDECKS_EXPORT std::size_t countFindings(const Report& report);
+
 /// Returns the report as lines for a user, one for the quantities of a material that have the same outcome for the same
-/// reason: "Steel: lost: Relative permittivity: the format has no card for it". In English, or translated.
+/// reason: "Steel: lost: Relative permittivity: the format has no card for it". If the report has more than 10 materials, those
+/// with the same outcome share a line, which has the first names: "12 materials (Steel, Iron, Copper, ...): carried: Density".
+/// Of reasons that differ in more than three ways, one is an example. In English, or translated.
 VXDECKS_EXPORT std::vector<std::string> toLines(const Report& report, const vxUnits::Translator& translator = {});
 
 /// Returns the report as JSON, with English texts and the ids of the messages.

@@ -201,7 +201,9 @@ bool isWord(const std::string& word, const char* expected)
 Resolved<PlasticModel> resolveHardening(const MaterialValues& values)
 {
     const std::string type = values.word(Id::PlasticHardeningType);
-    const bool hasPoints = !values.list(Id::PlasticYieldStress).empty();
+    // A curve without points is a lack too, unless a modulus can take its place.
+    const bool hasPoints = !values.list(Id::PlasticYieldStress).empty() ||
+                           (values.has(Id::PlasticYieldStress) && !values.has(Id::PlasticInitialYieldStress));
     PlasticModel model;
     model.isKinematic = isWord(type, "Kinematic");
     if (isWord(type, "Combined"))

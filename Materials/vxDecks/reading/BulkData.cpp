@@ -163,11 +163,8 @@ private:
 
 void BulkDataReader::read()
 {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     while (!m_isAtEnd && m_lines.next()) {
         std::string_view line = m_lines.line();
-        if (m_lines.number() == 1 && line.substr(0, byteOrderMark.size()) == byteOrderMark)
-            line.remove_prefix(byteOrderMark.size());
         if (!line.empty() && line.front() == '$') {
             m_visitor.comment(line, m_lines.number());
             continue;

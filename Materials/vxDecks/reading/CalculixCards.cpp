@@ -3,8 +3,10 @@
 #include "models/Vacuum.h"
 #include "reading/HardeningCurve.h"
 #include "reading/KeywordNames.h"
+#include "reading/TextOfDeck.h"
 #include "texts/DeckTexts.h"
 #include "texts/ReadingTexts.h"
+#include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/ModelReports.h"
@@ -160,8 +162,11 @@ void readFluidConstants(const KeywordCard& card, MaterialReading& material)
     const auto constants = takeConstants(card, {2, 2}, material);
     if (!constants)
         return;
-    if (!material.has(Id::SpecificHeat))
+    const auto heat = material.number(Id::SpecificHeat);
+    if (!heat)
         material.setNumber(Id::SpecificHeat, (*constants)[0]);
+    else if (*heat != (*constants)[0])
+        material.lose(card.name, makeMessage(ReadText::OtherSpecificHeat));
     material.setNumber(Id::DynamicViscosity, (*constants)[1]);
 }
 
@@ -437,23 +442,24 @@ struct CardReader
 {
     const char* card;
     void (*read)(const KeywordCard& card, MaterialReading& material);
+    const char* parameters; ///< those that the function reads, in capitals and without blanks, each between blanks
 };
 
 constexpr CardReader cardReaders[] = {
-    {"*DENSITY", readDensity},
-    {"*SPECIFIC HEAT", readSpecificHeat},
-    {"*CONDUCTIVITY", readConductivity},
-    {"*FLUID CONSTANTS", readFluidConstants},
-    {"*ELASTIC", readElastic},
-    {"*HYPERELASTIC", readHyperelastic},
-    {"*PLASTIC", readPlastic},
-    {"*CREEP", readCreep},
-    {"*ELECTRICAL CONDUCTIVITY", readElectricalConductivity},
-    {"*VISCOSITY", readViscosity},
-    {"*VISCOELASTIC", readViscoelastic},
-    {"*ACOUSTIC MEDIUM", readAcousticMedium},
-    {"*DIELECTRIC", readDielectric},
-    {"*MAGNETIC PERMEABILITY", readPermeability},
+    {"*DENSITY", readDensity, ""},
+    {"*SPECIFIC HEAT", readSpecificHeat, ""},
+    {"*CONDUCTIVITY", readConductivity, " TYPE "},
+    {"*FLUID CONSTANTS", readFluidConstants, ""},
+    {"*ELASTIC", readElastic, " TYPE MODULI "},
+    {"*HYPERELASTIC", readHyperelastic, " NEOHOOKE MOONEY-RIVLIN ARRUDA-BOYCE REDUCEDPOLYNOMIAL POLYNOMIAL N MODULI "},
+    {"*PLASTIC", readPlastic, " HARDENING RATE "},
+    {"*CREEP", readCreep, " LAW "},
+    {"*ELECTRICAL CONDUCTIVITY", readElectricalConductivity, " TYPE "},
+    {"*VISCOSITY", readViscosity, ""},
+    {"*VISCOELASTIC", readViscoelastic, " TIME "},
+    {"*ACOUSTIC MEDIUM", readAcousticMedium, " BULKMODULUS "},
+    {"*DIELECTRIC", readDielectric, " TYPE "},
+    {"*MAGNETIC PERMEABILITY", readPermeability, " TYPE NONLINEAR "},
 };
 
 /// A card of a material that is not read, and the reason.
@@ -530,6 +536,17 @@ const OtherCard* findOtherCard(const std::string& keyword)
     return found == all.end() ? nullptr : found->second;
 }
 
+/// Reports the parameters of a card that are not evaluated. They may change the meaning of its numbers.
+void refuseOtherParameters(const KeywordCard& card, const CardReader& reader, MaterialReading& material)
+{
+    for (const auto& [name, value] : card.parameters) {
+        const bool isKnown = name == "DEPENDENCIES" || name == "INPUT" ||
+                             std::string_view(reader.parameters).find(" " + name + " ") != std::string_view::npos;
+        if (!isKnown)
+            material.refuse(card.name, makeMessage(ReadText::ParameterNotRead, {vxjson::shortened(toUtf8(name))}));
+    }
+}
+
 void removeAll(const std::vector<std::int32_t>& ids, MaterialReading& material)
 {
     for (const std::int32_t id : ids)
@@ -555,7 +572,7 @@ void takeInstantaneous(const KeywordCard& elastic, MaterialReading& material)
                         makeMessage(remains > 0.0 ? ReadText::NotFiniteInCatalogue : ReadText::RelaxesWholly));
         return;
     }
-    material.beginCard(elastic.name);
+    material.beginCard(elastic.name, elastic.line);
     material.setNumber(Id::YoungsModulus, instantaneous);
     material.setNumber(Id::PoissonsRatio, (1.0 - 2.0 * ratio) / (2.0 * (1.0 + ratio)));
     for (const std::int32_t id : {Id::YoungsModulus, Id::PoissonsRatio})
@@ -576,12 +593,13 @@ void completeViscoelasticity(const MaterialCards& cards, MaterialReading& materi
 }
 
 /// Divides an absolute number by that of vacuum, because the catalogue has the relative one.
-void takeRelative(const char* card, std::int32_t id, double vacuum, MaterialReading& material)
+void takeRelative(const MaterialCards& cards, const char* card, std::int32_t id, double vacuum,
+                  MaterialReading& material)
 {
     const auto absolute = material.number(id);
     if (!absolute)
         return;
-    material.beginCard(card);
+    material.beginCard(card, cards.at(keywordOf(card)).line);
     material.setNumber(id, withoutRoundingError(*absolute / vacuum));
     material.convert(id, makeMessage(ReadText::FromAbsolute));
 }
@@ -625,13 +643,16 @@ void readCards(const MaterialCards& cards, const vxUnits::UnitSystem& units, Mat
             material.refuse(card.name, std::move(*obstacle));
             continue;
         }
-        material.beginCard(card.name);
+        material.beginCard(card.name, card.line);
+        const std::size_t lost = material.countLost();
         reader.read(card, material);
+        if (material.countLost() == lost)
+            refuseOtherParameters(card, reader, material);
     }
     completeViscoelasticity(cards, material);
     completeCreep(material);
-    takeRelative("*DIELECTRIC", Id::RelativePermittivity, vacuumPermittivity().in(units), material);
-    takeRelative("*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuumPermeability().in(units), material);
+    takeRelative(cards, "*DIELECTRIC", Id::RelativePermittivity, vacuumPermittivity().in(units), material);
+    takeRelative(cards, "*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuumPermeability().in(units), material);
 }
 
 } // namespace vxDecks

@@ -74,12 +74,17 @@ std::string addRow(KeywordCard& card, std::string_view line, std::size_t number)
     KeywordCard::Row row;
     while (!line.empty()) {
         const std::string_view field = takeField(line);
-        row.push_back(readField(card, field, number));
-        if (field.size() > readCharacters && row.back() && longField.empty())
+        const auto value = readField(card, field, number);
+        if (row.size() < mostFields)
+            row.push_back(value);
+        else if (value)
+            row.back() = value;
+        if (field.size() > readCharacters && value && longField.empty())
             longField = field;
     }
     while (!row.empty() && !row.back())
         row.pop_back();
+    row.shrink_to_fit();
     card.rows.push_back(std::move(row));
     return longField;
 }

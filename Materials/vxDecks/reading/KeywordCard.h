@@ -20,7 +20,9 @@ KeywordParameters parametersOf(std::string_view keywordLine);
 /// A card of a material in a deck of keywords, with its lines of data.
 struct KeywordCard
 {
-    using Row = std::vector<std::optional<double>>; ///< the fields of a line; absent if a field is blank
+    /// The fields of a line; absent if a field is blank. Of a line with more fields than any card has, the first ones are kept,
+    /// and the last one that is not blank.
+    using Row = std::vector<std::optional<double>>;
 
     std::string keyword; ///< in capitals, without asterisk and blanks: "SPECIFICHEAT"
     std::string name;    ///< as the manual spells it: "*SPECIFIC HEAT"
@@ -38,6 +40,9 @@ struct KeywordCard
 
 /// The longest card that is kept.
 inline constexpr std::size_t mostRows = 100000;
+
+/// The fields of a line that are kept, so that the memory does not grow with the blank ones. No card has as many.
+inline constexpr std::size_t mostFields = 16;
 
 /// The number of characters of a number that the solver reads.
 inline constexpr std::size_t readCharacters = 20;

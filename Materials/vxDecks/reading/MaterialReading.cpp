@@ -1,6 +1,7 @@
 #include "reading/MaterialReading.h"
 
 #include "reading/TextOfDeck.h"
+#include "reading/ValueFindings.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/model/CataloguedMaterial.h"
 #include "vxMaterial/model/NumberText.h"
@@ -82,7 +83,7 @@ vxMat::MaterialProperty& MaterialReading::take(std::int32_t id)
     auto made = vxMat::findPropertyRecord(id)->create();
     vxMat::MaterialProperty& property = *made;
     m_material->setProperty(id, std::move(made));
-    m_forms[id] = {m_card, Outcome::Carried, {}};
+    m_forms[id] = {m_card, m_line, Outcome::Carried, {}};
     return property;
 }
 
@@ -184,6 +185,20 @@ void MaterialReading::refuseWhatIsNotFinite()
     }
 }
 
+std::vector<Finding> MaterialReading::findings() const
+{
+    std::vector<Finding> all;
+    for (ValueFault& fault : findImpossibleValues(*m_material)) {
+        Finding finding{std::move(fault.message), findMapping(m_format, fault.id)->card, 0};
+        if (const auto form = m_forms.find(fault.id); form != m_forms.end() && !form->second.card.empty()) {
+            finding.card = form->second.card;
+            finding.line = form->second.line;
+        }
+        all.push_back(std::move(finding));
+    }
+    return all;
+}
+
 /// Adds the notes that are known when all cards are read.
 void MaterialReading::addLastNotes()
 {
@@ -197,12 +212,13 @@ void MaterialReading::addLastNotes()
 
 void MaterialReading::finish(const ReadUnits& units, ReadDeck& deck)
 {
+    MaterialReport report;
+    report.findings = findings();
     const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
     if (!hasOwnUnits(m_format) && units.system() != UnitSystem::si())
         vxUnits::convertMaterial(*m_material, units.system(), UnitSystem::si());
     refuseWhatIsNotFinite();
     addLastNotes();
-    MaterialReport report;
     report.name = m_name;
     report.writtenName = m_name;
     report.id = m_number.value_or(0);

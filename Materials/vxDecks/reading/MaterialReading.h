@@ -42,9 +42,13 @@ public:
     /// Returns the number of a quantity in the unit of the deck; absent if the material does not have it.
     std::optional<double> number(std::int32_t id) const;
 
-    /// Names the card from which the next quantities come, for the report. Without it, the report has the cards of the mapping
-    /// table.
-    void beginCard(const std::string& card) { m_card = card; }
+    /// Names the card from which the next quantities come, and its line, for the report. Without it, the report has the cards of
+    /// the mapping table.
+    void beginCard(const std::string& card, std::size_t line)
+    {
+        m_card = card;
+        m_line = line;
+    }
 
     // Each of these replaces an earlier value.
     void setNumber(std::int32_t id, double number);
@@ -63,6 +67,8 @@ public:
     void lose(const std::string& what, vxUnits::Message why);
     /// Reports a card as not taken although the catalogue has its quantities, so that the user must give them.
     void refuse(const std::string& what, vxUnits::Message why);
+    /// Returns the number of cards that are reported as not taken.
+    std::size_t countLost() const { return m_lost.size() + m_omitted; }
     /// Adds a note about the material.
     void note(vxUnits::Message message);
 
@@ -75,7 +81,8 @@ public:
 private:
     struct Form
     {
-        std::string card; ///< empty if it is that of the mapping table
+        std::string card;     ///< empty if it is that of the mapping table
+        std::size_t line = 0; ///< of the card; 0 if it is not known
         Outcome outcome = Outcome::Carried;
         std::vector<vxUnits::Message> how;
     };
@@ -84,6 +91,7 @@ private:
     ReportRow rowOf(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep, const ReadUnits& units) const;
     void addLost(ReportRow row);
     void refuseWhatIsNotFinite();
+    std::vector<Finding> findings() const;
     void addLastNotes();
 
     Format m_format;
@@ -92,6 +100,7 @@ private:
     std::unique_ptr<vxMat::CMaterial> m_material;
     std::map<std::int32_t, Form> m_forms;
     std::string m_card;
+    std::size_t m_line = 0;
     std::vector<ReportRow> m_lost;
     std::size_t m_omitted = 0; ///< lost cards that m_lost does not have
     std::vector<vxUnits::Message> m_notes;

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -29,6 +30,9 @@ using vxUnits::UnitSystem;
 /// The largest document that is read, because the whole document is in memory.
 constexpr std::size_t mostBytes = std::size_t(64) << 20U;
 
+/// The largest number of elements and attributes of a document. In memory, each of them has up to 64 bytes.
+constexpr std::ptrdiff_t mostNodes = 8000000;
+
 std::string readBounded(std::istream& file)
 {
     std::string text;
@@ -43,11 +47,25 @@ std::string readBounded(std::istream& file)
     return text;
 }
 
-/// Reads a document, whose entities are only those of XML itself.
-void parseDocument(const std::string& text, pugi::xml_document& document)
+/// Refuses a document with so many elements and attributes that its tree would be much larger than the document. The text of
+/// an element or an attribute is usually longer than 8 characters.
+void requireModestTree(const std::string& text)
 {
-    const pugi::xml_parse_result result =
-        document.load_buffer(text.data(), text.size(), pugi::parse_default | pugi::parse_doctype);
+    const auto isNode = [](char c) { return c == '<' || c == '='; };
+    if (std::count_if(text.begin(), text.end(), isNode) > mostNodes)
+        throw DeckError(makeMessage(BulkText::XmlTooManyNodes, {std::to_string(mostNodes)}), 0);
+}
+
+/// Parses a document in its text, which the document then needs and which has no other use. Its entities are only those of XML
+/// itself.
+void parseDocument(std::string& text, pugi::xml_document& document)
+{
+    requireModestTree(text);
+    // The parser may replace the last character.
+    const auto last = text.begin() + static_cast<std::ptrdiff_t>(text.empty() ? 0 : text.size() - 1);
+    const auto lines = std::count(text.begin(), last, '\n');
+    const pugi::xml_parse_result result = document.load_buffer_inplace(
+        text.data(), text.size(), pugi::parse_default | pugi::parse_doctype | pugi::parse_embed_pcdata);
     const auto children = document.children();
     const bool hasDoctype = std::any_of(children.begin(), children.end(),
                                         [](const pugi::xml_node& node) { return node.type() == pugi::node_doctype; });
@@ -55,8 +73,9 @@ void parseDocument(const std::string& text, pugi::xml_document& document)
         throw DeckError(makeMessage(BulkText::XmlDoctype), 0);
     if (result)
         return;
-    const auto end = text.begin() + std::min(result.offset, static_cast<std::ptrdiff_t>(text.size()));
-    const auto line = static_cast<std::size_t>(std::count(text.begin(), end, '\n')) + 1;
+    // It has changed the text in front of the fault only.
+    const auto fault = std::min(text.begin() + std::max<std::ptrdiff_t>(result.offset, 0), last);
+    const auto line = static_cast<std::size_t>(lines - std::count(fault, last, '\n')) + 1;
     throw DeckError(makeMessage(BulkText::XmlNotWellFormed, {result.description()}), line);
 }
 
@@ -133,6 +152,7 @@ private:
     void take(const MatmlProperty& property);
     void takeParameters(const MatmlProperty& property);
     void takeStrains(const MatmlProperty& property);
+    void loseParameter(const MatmlProperty& property, const MatmlValue& parameter);
     void takeNumbers(const MatmlValue& value);
     void takeWord(const MatmlValue& value, const vxUnits::Quantity& quantity);
     void takeValue(const MatmlValue& value);
@@ -231,6 +251,18 @@ bool MatmlMaterial::dependsOnParameter(const MatmlProperty& property)
     return true;
 }
 
+/// Reports a parameter that is no quantity: the temperature of the values, or another one.
+void MatmlMaterial::loseParameter(const MatmlProperty& property, const MatmlValue& parameter)
+{
+    // Some programs write this number if there is no temperature.
+    constexpr double noTemperature = 1e-30;
+    const bool isTemperature = vxMat::equalIgnoringAsciiCase(parameter.declaration->name, "Temperature");
+    if (!isTemperature || !parameter.numbers || parameter.numbers->size() != 1)
+        lose(parameter, makeMessage(Text::NotInCatalogue));
+    else if (const double number = parameter.numbers->front(); number == 0.0 || std::abs(number) > noTemperature)
+        m_material.noteTemperature(toUtf8(property.data.declaration->name), number);
+}
+
 /// Takes the plastic strains, which are a parameter of the yield stresses.
 void MatmlMaterial::takeStrains(const MatmlProperty& property)
 {
@@ -238,6 +270,8 @@ void MatmlMaterial::takeStrains(const MatmlProperty& property)
         if (one.declaration->quantity != Id::PlasticStrain) {
             if (one.declaration->quantity)
                 takeValue(one);
+            else
+                loseParameter(property, one);
             continue;
         }
         takeValue(one);
@@ -254,8 +288,8 @@ void MatmlMaterial::takeParameters(const MatmlProperty& property)
     for (const MatmlValue& one : property.parameters) {
         if (one.declaration->quantity)
             takeValue(one);
-        else if (!vxMat::equalIgnoringAsciiCase(one.declaration->name, "Temperature"))
-            lose(one, makeMessage(Text::NotInCatalogue));
+        else
+            loseParameter(property, one);
     }
 }
 
@@ -344,7 +378,18 @@ void countForeign(const pugi::xml_node& parent, std::initializer_list<std::strin
             ++known->count;
         else if (deck.foreign.size() < mostForeign)
             deck.foreign.push_back({shown, 1, 0});
+        else
+            ++deck.moreForeign;
     }
+}
+
+/// Counts the elements of a property and its parameters that are not read.
+void countForeignOfProperty(const pugi::xml_node& property, ReadDeck& deck)
+{
+    countForeign(property, {"Data", "ParameterValue"}, deck);
+    for (const pugi::xml_node& child : property.children())
+        if (matmlName(child) == "ParameterValue")
+            countForeign(child, {"Data"}, deck);
 }
 
 /// Returns the number in the id of a material as the writer writes it, "material_7".
@@ -376,8 +421,9 @@ void addElasticity(const MatmlDeclarations& properties, MaterialReading& materia
 
 void readMatml(std::istream& file, const UnitSystem& units, DeclaredUnits& /*declared*/, ReadDeck& deck)
 {
-    pugi::xml_document document;
-    parseDocument(readBounded(file), document);
+    std::string text = readBounded(file);
+    pugi::xml_document document; // is in the text
+    parseDocument(text, document);
     const pugi::xml_node root = findMatml(document);
     if (root.empty())
         throw DeckError(makeMessage(BulkText::XmlNoMatml), 0);
@@ -395,7 +441,11 @@ void readMatml(std::istream& file, const UnitSystem& units, DeclaredUnits& /*dec
         material.finish(units, deck);
         countForeign(element, {"BulkDetails"}, deck);
         countForeign(bulk, {"Name", "PropertyData"}, deck);
+        for (const pugi::xml_node& property : bulk.children())
+            if (matmlName(property) == "PropertyData")
+                countForeignOfProperty(property, deck);
     }
+    countForeign(root, {"Material", "Metadata"}, deck);
     deck.report.notes.push_back(makeMessage(BulkText::XmlOwnUnits));
 }
 

@@ -78,6 +78,8 @@ public:
     void set(std::size_t index, std::int32_t id);
     void lose(std::size_t index, vxUnits::Message why) { m_material.lose(nameOf(index), std::move(why)); }
     void refuse(std::size_t index, vxUnits::Message why) { m_material.refuse(nameOf(index), std::move(why)); }
+    /// Reports a number that is not kept beside others that give it: as refused, if it contradicts them.
+    void loseRedundant(std::size_t index, double number, double given, const char* formula);
     /// Reports that nothing of the entry is taken although the catalogue has its quantities.
     void refuseAll(vxUnits::Message why) { m_material.refuse(m_card.name, std::move(why)); }
 
@@ -126,7 +128,7 @@ void CardReader::loseOtherFields()
 
 void CardReader::read()
 {
-    m_material.beginCard(m_card.name);
+    m_material.beginCard(m_card.name, m_entry.line);
     m_card.read(*this);
     loseOtherFields();
     if (!m_entry.missing.empty())
@@ -155,6 +157,14 @@ bool contradict(double one, double other)
     return std::abs(one - other) > tolerance * std::abs(other);
 }
 
+void CardReader::loseRedundant(std::size_t index, double number, double given, const char* formula)
+{
+    if (contradict(number, given))
+        refuse(index, makeMessage(BulkText::Contradicts));
+    else
+        lose(index, makeMessage(BulkText::Redundant, {formula}));
+}
+
 void setElastic(CardReader& card, double youngs, std::optional<double> poissons)
 {
     MaterialReading& material = card.material();
@@ -175,8 +185,8 @@ void readMat1(CardReader& card)
     const bool canDivide = shear && *shear != 0.0;
     if (youngs && (poissons || !canDivide)) {
         setElastic(card, *youngs, poissons);
-        if (canDivide && contradict(*shear, *youngs / (2.0 * (1.0 + *poissons))))
-            card.refuse(2, makeMessage(BulkText::Contradicts));
+        if (canDivide)
+            card.loseRedundant(2, *shear, *youngs / (2.0 * (1.0 + *poissons)), "E / (2 (1 + NU))");
     } else if (youngs) {
         setElastic(card, *youngs, withoutRounding(*youngs / (2.0 * *shear) - 1.0, 1.0));
         card.material().convert(Id::PoissonsRatio, makeMessage(BulkText::FromShearModulus, {"E / (2 G) - 1"}));
@@ -205,8 +215,8 @@ void readMat10(CardReader& card)
     } else if (bulk && speed && !density && *speed > 0.0) {
         material.setNumber(Id::Density, *bulk / (*speed * *speed));
         material.convert(Id::Density, makeMessage(BulkText::FromBulkModulus, {"BULK / C^2"}));
-    } else if (bulk && density && speed && contradict(*bulk, *density * *speed * *speed)) {
-        card.refuse(1, makeMessage(BulkText::Contradicts));
+    } else if (bulk && density && speed) {
+        card.loseRedundant(1, *bulk, *density * *speed * *speed, "RHO C^2");
     } else if (bulk && !density && !speed) {
         card.lose(1, makeMessage(ReadText::NoQuantity));
     }
@@ -221,8 +231,8 @@ void readMat4(CardReader& card)
     card.set(5, Id::DynamicViscosity);
     const auto density = card.number(3);
     const auto known = material.number(Id::Density);
-    if (density && known && contradict(*density, *known))
-        card.refuse(3, makeMessage(BulkText::Contradicts));
+    if (density && known && *density != *known)
+        card.loseRedundant(3, *density, *known, "RHO");
     if (!known)
         card.set(3, Id::Density);
     if (!density && material.has(Id::SpecificHeat))
@@ -383,6 +393,8 @@ void readYieldStress(CardReader& card)
     const bool isMises = card.text(4).empty() || card.text(4) == "1";
     if (isMises) {
         card.set(limit, Id::PlasticInitialYieldStress);
+        if (!card.text(angle).empty() && readBulkNumber(card.text(angle)) != 0.0)
+            card.lose(angle, makeMessage(ReadText::NoQuantity));
         return;
     }
     card.set(angle, Id::PlasticFAI);
@@ -410,6 +422,8 @@ void readMats1(CardReader& card)
     material.setSwitch(Id::Plasticity);
     readYieldStress(card);
     if (isTabulated) {
+        if (!card.text(3).empty() && readBulkNumber(card.text(3)) != 0.0)
+            card.lose(3, makeMessage(BulkText::TableReplaces));
         readTable(card);
         return;
     }

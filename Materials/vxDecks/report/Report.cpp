@@ -1,6 +1,5 @@
 #include "vxDecks/Report.h"
 
-#include "texts/DeckTexts.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
 #include <algorithm>
@@ -11,47 +10,6 @@ namespace vxDecks {
 namespace {
 
 using vxUnits::Message;
-using vxUnits::Translator;
-
-std::string joined(const std::vector<Message>& messages, const Translator& translator)
-{
-    std::string text;
-    for (const Message& message : messages)
-        text += (text.empty() ? "" : "; ") + message.text(translator);
-    return text;
-}
-
-/// The quantities of a material that share a line.
-struct Line
-{
-    Outcome outcome;
-    std::string how;
-    std::string names;
-};
-
-std::vector<Line> linesOf(const MaterialReport& material, const Translator& translator)
-{
-    std::vector<Line> lines;
-    for (const ReportRow& row : material.rows) {
-        const std::string how = joined(row.how, translator);
-        const auto same = std::find_if(lines.begin(), lines.end(), [&](const Line& line) {
-            return line.outcome == row.outcome && line.how == how;
-        });
-        if (same != lines.end())
-            same->names += ", " + row.name;
-        else
-            lines.push_back({row.outcome, how, row.name});
-    }
-    std::stable_sort(lines.begin(), lines.end(),
-                     [](const Line& one, const Line& other) { return one.outcome < other.outcome; });
-    return lines;
-}
-
-std::string outcomeText(Outcome outcome, const Translator& translator)
-{
-    static constexpr Text texts[] = {Text::Carried, Text::Converted, Text::Approximated, Text::Lost};
-    return makeMessage(texts[static_cast<std::size_t>(outcome)]).text(translator);
-}
 
 Json::Value toJson(const std::vector<Message>& messages)
 {
@@ -63,6 +21,16 @@ Json::Value toJson(const std::vector<Message>& messages)
         list.append(std::move(item));
     }
     return list;
+}
+
+Json::Value toJson(const Finding& finding)
+{
+    Json::Value json;
+    json["id"] = finding.message.id;
+    json["text"] = finding.message.text();
+    json["card"] = finding.card;
+    json["line"] = finding.line == 0 ? Json::Value() : Json::Value(static_cast<Json::UInt64>(finding.line));
+    return json;
 }
 
 Json::Value toJson(const ReportRow& row)
@@ -86,6 +54,9 @@ Json::Value toJson(const MaterialReport& material)
     json["written_name"] = material.writtenName;
     json["number"] = material.id == 0 ? Json::Value() : Json::Value(material.id);
     json["notes"] = toJson(material.notes);
+    json["findings"] = Json::arrayValue;
+    for (const Finding& finding : material.findings)
+        json["findings"].append(toJson(finding));
     json["quantities"] = Json::arrayValue;
     for (const ReportRow& row : material.rows)
         json["quantities"].append(toJson(row));
@@ -109,25 +80,12 @@ std::size_t countRefused(const Report& report)
     return count;
 }
 
-std::vector<std::string> toLines(const Report& report, const Translator& translator)
+std::size_t countFindings(const Report& report)
 {
-    std::vector<std::string> lines;
-    for (const Message& note : report.notes)
-        lines.push_back(note.text(translator));
-    for (const MaterialReport& material : report.materials) {
-        const std::string title = material.name + ": ";
-        for (const Message& note : material.notes)
-            lines.push_back(title + note.text(translator));
-        for (const Line& line : linesOf(material, translator)) {
-            const std::string why = line.how.empty() ? std::string() : ": " + line.how;
-            lines.push_back(std::string(title)
-                                .append(outcomeText(line.outcome, translator))
-                                .append(": ")
-                                .append(line.names)
-                                .append(why));
-        }
-    }
-    return lines;
+    std::size_t count = 0;
+    for (const MaterialReport& material : report.materials)
+        count += material.findings.size();
+    return count;
 }
 
 Json::Value toJson(const Report& report)

@@ -57,6 +57,10 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(BulkText::Co
     {"decks.matml.unit-of-other-kind", R"(the unit "%1" does not fit the quantity)"},
     {"decks.matml.value-over-parameter", "the values depend on %1, which the catalogue does not have"},
     {"decks.matml.data-without-word", R"(the quantity does not take the word "%1")"},
+    {"decks.nastran.redundant",
+     "the other numbers of the material give it within 1 %: %1; the number itself is not kept"},
+    {"decks.nastran.table-replaces", "the table replaces it"},
+    {"decks.matml.too-many-nodes", "the file has more than %1 elements and attributes; divide it into several files"},
 }};
 
 } // namespace

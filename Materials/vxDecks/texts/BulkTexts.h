@@ -49,6 +49,9 @@ enum class BulkText : std::size_t
     UnitOfOtherKind,
     ValueOverParameter,
     DataWithoutWord,
+    Redundant,
+    TableReplaces,
+    XmlTooManyNodes,
     Count
 };
 

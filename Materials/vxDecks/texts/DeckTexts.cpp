@@ -76,6 +76,11 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
     {"decks.as-permeability", "as the permeability, times that of vacuum"},
     {"decks.total-strains-do-not-ascend",
      "the table needs ascending total strains (plastic strain plus stress / E), also in the digits of its fields"},
+    {"decks.shortened", R"(the name is shortened to "%1"; the format takes %2 bytes of it)"},
+    {"decks.no-word", "the material has no word for it"},
+    {"decks.word-assumed", R"(the material has no word for it; written as "%1")"},
+    {"decks.several-materials", "%1 materials (%2)"},
+    {"decks.example", "for example %1: %2"},
 }};
 
 } // namespace

@@ -70,6 +70,11 @@ enum class Text : std::size_t
     AsPermittivity,
     AsPermeability,
     TotalStrainsDoNotAscend,
+    Shortened,
+    NoWord,
+    WordAssumed,
+    SeveralMaterials,
+    Example,
     Count
 };
 

@@ -68,6 +68,10 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
     {"decks.reading.more-cards", "%1 more cards are not taken"},
     {"decks.reading.more-included", "The file includes files in %1 more lines, which are not read."},
     {"decks.reading.more-foreign", "%1 more cards are not of materials."},
+    {"decks.reading.finding-in-line", "line %1, %2: %3"},
+    {"decks.reading.models-exclude", R"("%1" and "%2" exclude each other; remove one of them)"},
+    {"decks.reading.other-specific-heat", "its specific heat differs from that of *SPECIFIC HEAT, which is taken"},
+    {"decks.reading.parameter-not-read", "the parameter %1 is not evaluated; check the numbers"},
 }};
 
 } // namespace

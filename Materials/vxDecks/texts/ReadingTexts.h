@@ -63,6 +63,10 @@ enum class ReadText : std::size_t
     MoreCards,
     MoreIncluded,
     MoreForeign,
+    FindingInLine,
+    ModelsExclude,
+    OtherSpecificHeat,
+    ParameterNotRead,
     Count
 };
 

@@ -26,9 +26,9 @@ std::string materialOf(const MaterialDeck& deck)
     return std::to_string(deck.heading().number);
 }
 
-void writeProperty(MaterialDeck& deck, std::string_view label, double value)
+void writeProperty(MaterialDeck& deck, std::string_view label, const Real& number)
 {
-    deck.line("MP," + std::string(label) + "," + materialOf(deck) + "," + written(value));
+    deck.line("MP," + std::string(label) + "," + materialOf(deck) + "," + written(number.value));
 }
 
 void writeElastic(MaterialDeck& deck)
@@ -144,8 +144,7 @@ std::string beginDeck(const vxUnits::UnitSystem& units)
 
 void beginMaterial(MaterialDeck& deck)
 {
-    deck.line("! Material " + std::to_string(deck.heading().number) + ": " +
-              commentText(deck.userName(), longestComment));
+    deck.line("! Material " + std::to_string(deck.heading().number) + ": " + deck.heading().name);
 }
 
 } // namespace
@@ -153,7 +152,7 @@ void beginMaterial(MaterialDeck& deck)
 const CardFormat& apdlFormat()
 {
     static const CardFormat format{Format::Apdl,
-                                   anyName(),
+                                   anyText(longestComment),
                                    beginDeck,
                                    beginMaterial,
                                    {quantityCard("MP,DENS", "DENS", Id::Density, writeProperty),

@@ -31,18 +31,19 @@ constexpr double lastStrain = 10.0;
 /// The second D of a polynomial, relative to the first: so large that its term has no effect.
 constexpr double secondD = 1e10;
 
-std::string numbers(std::initializer_list<double> values)
+/// Adds a line of numbers.
+void writeNumbers(MaterialDeck& deck, std::initializer_list<Real> numbers)
 {
     std::string text;
-    for (const double value : values)
-        text += (text.empty() ? "" : ", ") + writeWithin(value, longestNumber);
-    return text;
+    for (const Real& number : numbers)
+        text += (text.empty() ? "" : ", ") + deck.written(number, longestNumber);
+    deck.line(text);
 }
 
-void writeEntry(MaterialDeck& deck, std::string_view card, double value)
+void writeEntry(MaterialDeck& deck, std::string_view card, const Real& number)
 {
     deck.line(card);
-    deck.line(numbers({value}));
+    writeNumbers(deck, {number});
 }
 
 /// Returns the writer of a card that has the number of a quantity.
@@ -62,7 +63,7 @@ void writeFluidConstants(MaterialDeck& deck)
     if (!viscosity || !heat)
         return;
     deck.line("*FLUID CONSTANTS");
-    deck.line(numbers({*heat, *viscosity}));
+    writeNumbers(deck, {{*heat, Id::SpecificHeat}, {*viscosity, Id::DynamicViscosity}});
     deck.carry(Id::DynamicViscosity);
 }
 
@@ -74,24 +75,27 @@ void writeElastic(MaterialDeck& deck)
     // The commercial solver takes the modulus of a viscoelastic solid as the one after a long time, unless told otherwise.
     const bool isViscoelastic = deck.isCommercial() && deck.models().prony.model;
     deck.line(isViscoelastic ? "*ELASTIC, MODULI=INSTANTANEOUS" : "*ELASTIC");
-    deck.line(numbers({model->youngsModulus, model->poissonsRatio}));
+    writeNumbers(deck, {{model->youngsModulus, Id::YoungsModulus}, {model->poissonsRatio, Id::PoissonsRatio}});
     reportElastic(deck);
 }
 
-void writeConstants(MaterialDeck& deck, const HyperelasticModel& model, double d1)
+void writeConstants(MaterialDeck& deck, const HyperelasticModel& model, double lastNumber)
 {
+    const Real c10{model.c10, Id::MaterialConstantC10};
+    const Real c01{model.c01, Id::MaterialConstantC01};
+    const Real d1{lastNumber, Id::IncompressibilityParameterD1};
     if (model.kind == HyperelasticKind::NeoHooke) {
         deck.line("*HYPERELASTIC, NEO HOOKE");
-        deck.line(numbers({model.c10, d1}));
+        writeNumbers(deck, {c10, d1});
     } else if (model.kind == HyperelasticKind::ArrudaBoyce) {
         deck.line("*HYPERELASTIC, ARRUDA-BOYCE");
-        deck.line(numbers({model.mu, model.stretch, d1}));
+        writeNumbers(deck, {{model.mu, Id::InitialShearModulusMu}, {model.stretch, Id::LimitingNetworkStretch}, d1});
     } else if (model.c11 == 0.0) {
         deck.line("*HYPERELASTIC, MOONEY-RIVLIN");
-        deck.line(numbers({model.c10, model.c01, d1}));
+        writeNumbers(deck, {c10, c01, d1});
     } else {
         deck.line("*HYPERELASTIC, POLYNOMIAL, N=2");
-        deck.line(numbers({model.c10, model.c01, 0.0, model.c11, 0.0, d1, d1 * secondD}));
+        writeNumbers(deck, {c10, c01, 0.0, {model.c11, Id::MaterialConstantC11}, 0.0, d1, lastNumber * secondD});
     }
 }
 
@@ -119,12 +123,12 @@ void writeCurve(MaterialDeck& deck, const PlasticModel& model)
 {
     if (model.source == HardeningSource::Points) {
         for (std::size_t i = 0; i < model.stresses.size(); ++i)
-            deck.line(numbers({model.stresses[i], model.strains[i]}));
+            writeNumbers(deck, {{model.stresses[i], Id::PlasticYieldStress}, {model.strains[i], Id::PlasticStrain}});
         return;
     }
-    deck.line(numbers({model.yieldStress, 0.0}));
+    writeNumbers(deck, {{model.yieldStress, Id::PlasticInitialYieldStress}, 0.0});
     if (model.modulus != 0.0 || (deck.isCommercial() && model.isKinematic)) // which needs two points then
-        deck.line(numbers({model.yieldStress + lastStrain * model.modulus, lastStrain}));
+        writeNumbers(deck, {{model.yieldStress + lastStrain * model.modulus, Id::PlasticHardeningFactor}, lastStrain});
 }
 
 void writePlastic(MaterialDeck& deck)
@@ -161,7 +165,8 @@ void writeCreep(MaterialDeck& deck)
                                                     : makeMessage(Text::BelowFloor, {"A below 1e-20", "1e-20"}));
     else {
         deck.line(deck.isCommercial() ? "*CREEP, LAW=TIME" : "*CREEP");
-        deck.line(numbers({model->factor, model->n, model->m}));
+        writeNumbers(
+            deck, {{model->factor, Id::CreepModulusA}, {model->n, Id::CreepModulusN}, {model->m, Id::CreepModulusM}});
         carryAll(deck, creepIds());
     }
 }
@@ -173,7 +178,7 @@ void writeProny(MaterialDeck& deck)
     if (!model)
         return;
     deck.line("*VISCOELASTIC, TIME=PRONY");
-    deck.line(numbers({model->ratio, 0.0, model->time}));
+    writeNumbers(deck, {{model->ratio, Id::ShearRelaxationModulus}, 0.0, {model->time, Id::RelaxationTime}});
     carryAll(deck, pronyIds());
 }
 
@@ -186,7 +191,8 @@ void writeAcoustic(MaterialDeck& deck)
                     makeMessage(Text::NeedsAnother, {vxMat::findPropertyRecord(Id::Density)->name}));
     if (!speed || !density)
         return;
-    writeEntry(deck, "*ACOUSTIC MEDIUM, BULK MODULUS", withoutRoundingError(*density * *speed * *speed));
+    writeEntry(deck, "*ACOUSTIC MEDIUM, BULK MODULUS",
+               {withoutRoundingError(*density * *speed * *speed), Id::SpeedOfSound});
     deck.convert(Id::SpeedOfSound, makeMessage(Text::AsAcousticBulk));
 }
 
@@ -196,7 +202,7 @@ void writeAbsolute(MaterialDeck& deck, const char* card, std::int32_t id, const 
     const auto relative = deck.values().number(id);
     if (!relative)
         return;
-    writeEntry(deck, card, withoutRoundingError(*relative * vacuum.in(deck.units())));
+    writeEntry(deck, card, {withoutRoundingError(*relative * vacuum.in(deck.units())), id});
     deck.convert(id, makeMessage(how));
 }
 

@@ -54,7 +54,7 @@ CardWriter quantityCard(std::string_view card, std::string_view label, std::int3
 {
     return {card, [label, id, write](MaterialDeck& deck) {
                 if (const auto number = deck.values().number(id)) {
-                    write(deck, label, *number);
+                    write(deck, label, {*number, id});
                     deck.carry(id);
                 }
             }};
@@ -63,20 +63,6 @@ CardWriter quantityCard(std::string_view card, std::string_view label, std::int3
 std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format)
 {
     return std::make_unique<CardDeckWriter>(format);
-}
-
-std::string commentText(std::string_view text, std::size_t longest)
-{
-    const auto continuesCharacter = [text](std::size_t at) {
-        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
-    };
-    std::size_t length = std::min(text.size(), longest);
-    while (length > 0 && continuesCharacter(length))
-        --length;
-    std::string comment(text.substr(0, length));
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
-    std::replace_if(comment.begin(), comment.end(), isControl, ' ');
-    return comment;
 }
 
 std::string baseUnits(const vxUnits::UnitSystem& units)

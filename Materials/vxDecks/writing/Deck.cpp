@@ -52,12 +52,21 @@ std::optional<std::uint32_t> expectedNumber(const DeckMaterial& material, std::s
     return material.number;
 }
 
-void noteHeading(MaterialReport& report, const Heading& heading, const std::optional<std::uint32_t>& expected)
+/// Returns the note that a material has another name in the deck than for the user.
+vxUnits::Message renamed(const std::string& name, const std::string& written, const NameRules& rules)
+{
+    const bool isShortened = rules.isText && name.size() > rules.longest;
+    return isShortened ? makeMessage(Text::Shortened, {written, std::to_string(rules.longest)})
+                       : makeMessage(Text::Renamed, {written});
+}
+
+void noteHeading(MaterialReport& report, const Heading& heading, const NameRules& rules,
+                 const std::optional<std::uint32_t>& expected)
 {
     report.writtenName = heading.name;
     report.id = heading.number;
     if (heading.name != report.name)
-        report.notes.push_back(makeMessage(Text::Renamed, {heading.name}));
+        report.notes.push_back(renamed(report.name, heading.name, rules));
     if (expected && heading.number != 0 && *expected != heading.number)
         report.notes.push_back(
             makeMessage(Text::Renumbered, {std::to_string(heading.number), std::to_string(*expected)}));
@@ -69,7 +78,8 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
     const std::unique_ptr<DeckWriter> writer = makeWriter(format);
     const std::uint32_t largest = infoOf(format).largestNumber;
     const std::vector<std::uint32_t> numbers = numbersOf(materials, largest, options);
-    Names names(writer->names());
+    const NameRules rules = writer->names();
+    Names names(rules);
     DeckUnits deckUnits(units);
     Deck deck{writer->begin(units), {format, units.text(), {}, {}}};
     if (options.firstNumber && largest == 0)
@@ -80,7 +90,7 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
         writer->write(one);
         deck.text += one.text();
         deck.report.materials.push_back(one.finish());
-        noteHeading(deck.report.materials.back(), heading, expectedNumber(materials[i], i, options));
+        noteHeading(deck.report.materials.back(), heading, rules, expectedNumber(materials[i], i, options));
     }
     deck.text += writer->end();
     return deck;

@@ -2,6 +2,7 @@
 
 #include "writing/MaterialDeck.h"
 #include "writing/Names.h"
+#include "writing/NumberField.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -38,7 +39,7 @@ struct CardWriter
 };
 
 /// Writes an entry of a card: "DENS" or "Heat Capacity" with its number.
-using EntryWriter = void (*)(MaterialDeck& deck, std::string_view label, double value);
+using EntryWriter = void (*)(MaterialDeck& deck, std::string_view label, const Real& value);
 
 /// Returns the writer of a card with one number, which is that of a quantity as it is. It writes the entry with a function of
 /// the format, and reports the quantity as carried.
@@ -64,10 +65,6 @@ const CardFormat& elmerFormat();
 /// Returns the writer of a format whose materials consist of cards. It writes the cards in the order of the mapping table.
 std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format);
 std::unique_ptr<DeckWriter> makeMatmlWriter();
-
-/// Returns a text of the user for a comment, of at most `longest` bytes and without control characters, so that it stays on
-/// its line.
-std::string commentText(std::string_view text, std::size_t longest);
 
 /// Returns the base units of a system for a comment: "mm, t, s, K, A".
 std::string baseUnits(const vxUnits::UnitSystem& units);

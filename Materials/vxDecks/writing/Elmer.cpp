@@ -12,9 +12,9 @@ using Id = vxMat::PropertyId;
 constexpr std::size_t longestNumber = 24; // any number with all its digits
 constexpr std::size_t longestName = 80;
 
-void writeEntry(MaterialDeck& deck, std::string_view keyword, double value)
+void writeEntry(MaterialDeck& deck, std::string_view keyword, const Real& number)
 {
-    deck.line("  " + std::string(keyword) + " = Real " + writeWithin(value, longestNumber));
+    deck.line("  " + std::string(keyword) + " = Real " + writeWithin(number.value, longestNumber));
 }
 
 void writeElastic(MaterialDeck& deck)

@@ -1,5 +1,4 @@
 #include "texts/DeckTexts.h"
-#include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/DeckWriter.h"
@@ -18,14 +17,14 @@ constexpr std::size_t standardWidth = 10;
 constexpr std::size_t longWidth = 20;
 constexpr std::size_t longestTitle = 70;
 
-using Row = std::vector<double>;
+using Row = std::vector<Real>;
 
 /// The second line of materials that need one, without effect.
 const Row secondRow{0.0, 0.0, 0.0, 0.0};
 
-bool fitsStandard(double number)
+bool fitsStandard(const Real& number)
 {
-    return isSameNumber(vxMat::readNumber(writeWithin(number, standardWidth)), number);
+    return isSameNumber(readWritten(writeWithin(number.value, standardWidth)), number.value);
 }
 
 std::string rightAligned(const std::string& text, std::size_t width)
@@ -46,36 +45,29 @@ void writeKeyword(MaterialDeck& deck, const std::string& keyword, const std::str
         deck.line(title);
     std::string first = rightAligned(std::to_string(number), width);
     for (const Row& row : rows) {
-        for (const double value : row)
-            first += rightAligned(writeWithin(value, width), width);
+        for (const Real& one : row)
+            first += rightAligned(deck.written(one, width), width);
         deck.line(first);
         first.clear();
     }
 }
 
-/// Returns the line of a title. In the first column, "*" would begin a keyword and "$" a comment.
-std::string titleOf(const std::string& name)
-{
-    const bool isKeywordOrComment = !name.empty() && (name[0] == '*' || name[0] == '$');
-    return commentText((isKeywordOrComment ? " " : "") + name, longestTitle);
-}
-
 void writeMaterial(MaterialDeck& deck, const std::string& keyword, const std::vector<Row>& rows)
 {
-    writeKeyword(deck, keyword + "_TITLE", titleOf(deck.heading().name), deck.heading().number, rows);
+    writeKeyword(deck, keyword + "_TITLE", deck.heading().name, deck.heading().number, rows);
     deck.carry(Id::Density);
 }
 
-double densityOf(const MaterialDeck& deck)
+Real densityOf(const MaterialDeck& deck)
 {
-    return deck.values().number(Id::Density).value_or(0.0);
+    return {deck.values().number(Id::Density).value_or(0.0), Id::Density};
 }
 
 /// The numbers that every elastic material begins with: RO, E, PR
 Row elasticRow(const MaterialDeck& deck)
 {
     const ElasticModel& model = *deck.models().elastic.model;
-    return {densityOf(deck), model.youngsModulus, model.poissonsRatio};
+    return {densityOf(deck), {model.youngsModulus, Id::YoungsModulus}, {model.poissonsRatio, Id::PoissonsRatio}};
 }
 
 Row joined(Row row, const Row& more)
@@ -99,8 +91,8 @@ void writeCurve(MaterialDeck& deck, const PlasticModel& model)
 {
     writeKeyword(deck, "*DEFINE_CURVE", "", deck.heading().number, {{0.0, 1.0, 1.0}});
     for (std::size_t i = 0; i < model.stresses.size(); ++i)
-        deck.line(rightAligned(writeWithin(model.strains[i], longWidth), longWidth) +
-                  rightAligned(writeWithin(model.stresses[i], longWidth), longWidth));
+        deck.line(rightAligned(deck.written({model.strains[i], Id::PlasticStrain}, longWidth), longWidth) +
+                  rightAligned(deck.written({model.stresses[i], Id::PlasticYieldStress}, longWidth), longWidth));
 }
 
 void writeTangent(MaterialDeck& deck, const PlasticModel& model)
@@ -109,7 +101,10 @@ void writeTangent(MaterialDeck& deck, const PlasticModel& model)
     const double tangent = youngs * model.modulus / (youngs + model.modulus);
     // SIGY, ETAN, BETA: 1 for isotropic hardening, 0 for kinematic hardening
     writeMaterial(deck, "*MAT_PLASTIC_KINEMATIC",
-                  {joined(elasticRow(deck), {model.yieldStress, tangent, model.isKinematic ? 0.0 : 1.0}), secondRow});
+                  {joined(elasticRow(deck), {{model.yieldStress, Id::PlasticInitialYieldStress},
+                                             {tangent, Id::PlasticHardeningFactor},
+                                             model.isKinematic ? 0.0 : 1.0}),
+                   secondRow});
 }
 
 void writePlastic(MaterialDeck& deck)
@@ -124,7 +119,10 @@ void writePlastic(MaterialDeck& deck)
             deck.refuse({Id::PlasticHardeningType}, makeMessage(Text::CurveIsIsotropic));
         const double number = deck.heading().number;
         writeMaterial(deck, "*MAT_PIECEWISE_LINEAR_PLASTICITY",
-                      {joined(elasticRow(deck), {model->yieldStress}), {0.0, 0.0, number}, {0.0}, {0.0}});
+                      {joined(elasticRow(deck), {{model->yieldStress, Id::PlasticYieldStress}}),
+                       {0.0, 0.0, number},
+                       {0.0},
+                       {0.0}});
         writeCurve(deck, *model);
     }
     reportPlastic(deck, *model, makeMessage(Text::AsTangentModulus));
@@ -154,8 +152,11 @@ void writeViscoelastic(MaterialDeck& deck)
     const ElasticModel& elastic = *deck.models().elastic.model;
     const double shear = shearModulus(elastic);
     writeMaterial(deck, "*MAT_VISCOELASTIC",
-                  {{densityOf(deck), bulkModulus(elastic), shear, (1.0 - model->ratio) * shear,
-                    withoutRoundingError(1.0 / model->time)}});
+                  {{densityOf(deck),
+                    bulkModulus(elastic),
+                    shear,
+                    {(1.0 - model->ratio) * shear, Id::ShearRelaxationModulus},
+                    {withoutRoundingError(1.0 / model->time), Id::RelaxationTime}}});
     deck.convert(Id::ShearRelaxationModulus, makeMessage(Text::AsLongTermModulus));
     deck.convert(Id::RelaxationTime, makeMessage(Text::AsDecay));
     carryAll(deck, pronyIds());
@@ -172,7 +173,10 @@ void writeCreep(MaterialDeck& deck)
         return;
     }
     const double power = model->m + 1.0;
-    writeMaterial(deck, "*MAT_UNIFIED_CREEP", {joined(elasticRow(deck), {model->factor / power, model->n, power})});
+    writeMaterial(deck, "*MAT_UNIFIED_CREEP",
+                  {joined(elasticRow(deck), {{model->factor / power, Id::CreepModulusA},
+                                             {model->n, Id::CreepModulusN},
+                                             {power, Id::CreepModulusM}})});
     deck.convert(Id::CreepModulusA, makeMessage(Text::AsTotalCreep));
     deck.convert(Id::CreepModulusM, makeMessage(Text::AsTotalCreep));
     carryAll(deck, creepIds());
@@ -186,19 +190,26 @@ void writeHyperelastic(MaterialDeck& deck)
     const bool isArrudaBoyce = model->kind == HyperelasticKind::ArrudaBoyce;
     const double bulk =
         takeBulkModulus(deck, *model, makeMessage(isArrudaBoyce ? Text::AsBulkModulus : Text::AsPoissonsRatio));
-    const double poisson = (3.0 * bulk - 2.0 * model->shear) / (6.0 * bulk + 2.0 * model->shear);
+    const Real c10{model->c10, Id::MaterialConstantC10};
+    const Real c01{model->c01, Id::MaterialConstantC01};
+    const Real volume{bulk, Id::IncompressibilityParameterD1};
+    const Real poisson{(3.0 * bulk - 2.0 * model->shear) / (6.0 * bulk + 2.0 * model->shear),
+                       Id::IncompressibilityParameterD1};
     if (isArrudaBoyce) {
         // RO, K, G, N: the number of links of a chain is the square of its limiting stretch; LCID, TRAMP, NT
         writeMaterial(deck, "*MAT_ARRUDA_BOYCE_RUBBER",
-                      {{densityOf(deck), bulk, model->mu, model->stretch * model->stretch}, {0.0, 0.0, 0.0}});
+                      {{densityOf(deck),
+                        volume,
+                        {model->mu, Id::InitialShearModulusMu},
+                        {model->stretch * model->stretch, Id::LimitingNetworkStretch}},
+                       {0.0, 0.0, 0.0}});
         deck.convert(Id::LimitingNetworkStretch, makeMessage(Text::AsLinks));
     } else if (model->c11 == 0.0) {
-        writeMaterial(deck, "*MAT_MOONEY-RIVLIN_RUBBER",
-                      {{densityOf(deck), model->c10, model->c01, poisson}, secondRow});
+        writeMaterial(deck, "*MAT_MOONEY-RIVLIN_RUBBER", {{densityOf(deck), c10, c01, poisson}, secondRow});
     } else {
         // RO, PR, N = 0: the constants are given; C10, C01, C11
         writeMaterial(deck, "*MAT_HYPERELASTIC_RUBBER",
-                      {{densityOf(deck), poisson, 0.0}, {model->c10, model->c01, model->c11}});
+                      {{densityOf(deck), poisson, 0.0}, {c10, c01, {model->c11, Id::MaterialConstantC11}}});
     }
     reportConstants(deck, *model);
 }
@@ -213,7 +224,7 @@ void writeAcoustic(MaterialDeck& deck)
         deck.refuse({Id::SpeedOfSound}, makeMessage(Text::SolidHasNumber));
         return;
     }
-    writeMaterial(deck, "*MAT_ACOUSTIC", {{densityOf(deck), *speed}, secondRow});
+    writeMaterial(deck, "*MAT_ACOUSTIC", {{densityOf(deck), {*speed, Id::SpeedOfSound}}, secondRow});
     deck.carry(Id::SpeedOfSound);
 }
 
@@ -228,7 +239,7 @@ void writeNull(MaterialDeck& deck)
         deck.refuse({Id::DynamicViscosity}, makeMessage(Text::OneModelOnly));
         return;
     }
-    writeMaterial(deck, "*MAT_NULL", {{densityOf(deck), 0.0, *viscosity}});
+    writeMaterial(deck, "*MAT_NULL", {{densityOf(deck), 0.0, {*viscosity, Id::DynamicViscosity}}});
     deck.carry(Id::DynamicViscosity);
 }
 
@@ -245,7 +256,8 @@ void writeThermal(MaterialDeck& deck)
                     makeMessage(Text::NeedsAnother, {vxMat::findPropertyRecord(missing)->name}));
         return;
     }
-    writeMaterial(deck, "*MAT_THERMAL_ISOTROPIC", {{densityOf(deck), 0.0, 0.0}, {*heat, *conductivity}});
+    writeMaterial(deck, "*MAT_THERMAL_ISOTROPIC",
+                  {{densityOf(deck), 0.0, 0.0}, {{*heat, Id::SpecificHeat}, {*conductivity, Id::ThermalConductivity}}});
     carryAll(deck, {Id::SpecificHeat, Id::ThermalConductivity});
 }
 
@@ -259,7 +271,7 @@ std::string beginDeck(const vxUnits::UnitSystem& units)
 const CardFormat& lsDynaFormat()
 {
     static const CardFormat format{Format::LsDyna,
-                                   anyName(),
+                                   anyText(longestTitle, "*$"),
                                    beginDeck,
                                    nullptr,
                                    {{"*MAT_ELASTIC", writeElastic},

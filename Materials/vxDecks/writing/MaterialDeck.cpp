@@ -134,6 +134,14 @@ void MaterialDeck::assume(std::int32_t id, Message how)
         addRow(id, Outcome::Approximated, {std::move(how)});
 }
 
+std::string MaterialDeck::written(const Real& number, std::size_t longest)
+{
+    std::string text = writeWithin(number.value, longest);
+    if (number.id != 0 && !isSameNumber(readWritten(text), number.value))
+        noteRounding(number.id, longest);
+    return text;
+}
+
 void MaterialDeck::refuse(const std::vector<std::int32_t>& ids, const Message& why)
 {
     for (const std::int32_t id : ids)

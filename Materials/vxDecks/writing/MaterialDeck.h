@@ -6,6 +6,7 @@
 #include "vxMaterial/model/Material.h"
 #include "vxUnits/MaterialValues.h"
 #include "writing/DeckUnits.h"
+#include "writing/NumberField.h"
 
 #include <cstdint>
 #include <map>
@@ -57,6 +58,8 @@ public:
     void assume(std::int32_t id, vxUnits::Message how);
     /// Reports a quantity, when it has an outcome, as approximated, because its number is rounded to a field.
     void noteRounding(std::int32_t id, std::size_t width) { m_rounded[id] = width; }
+    /// Returns the text of a number of at most `longest` characters, and notes the rounding of its quantity.
+    std::string written(const Real& number, std::size_t longest);
     /// Reports quantities as lost although the format takes them.
     void refuse(const std::vector<std::int32_t>& ids, const vxUnits::Message& why);
 

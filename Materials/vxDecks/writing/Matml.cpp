@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <pugixml.hpp>
 #include <sstream>
 #include <utility>
@@ -99,7 +100,7 @@ void addUnits(pugi::xml_node details, const std::string& unit)
 class MatmlWriter : public DeckWriter
 {
 public:
-    NameRules names() const override { return anyName(); }
+    NameRules names() const override { return anyText(longestText); }
     std::string begin(const vxUnits::UnitSystem& units) override;
     void write(MaterialDeck& deck) override;
     std::string end() override;
@@ -116,6 +117,16 @@ private:
     std::map<std::int32_t, int> m_counts;       ///< of the declarations of each quantity
     bool m_hasParameter = false;
 };
+
+/// Returns the reason why a quantity has nothing to write; absent if it has.
+std::optional<vxUnits::Message> emptinessOf(const MaterialDeck& deck, const Quantity& quantity)
+{
+    if (quantity.form == QuantityForm::Word && deck.values().word(quantity.id).empty())
+        return makeMessage(Text::NoWord);
+    if (quantity.form == QuantityForm::NumberList && deck.values().list(quantity.id).empty())
+        return makeMessage(Text::CurveEmpty);
+    return std::nullopt;
+}
 
 std::string MatmlWriter::begin(const vxUnits::UnitSystem& units)
 {
@@ -185,7 +196,12 @@ void MatmlWriter::write(MaterialDeck& deck)
             deck.refuse({record.id}, makeMessage(Text::FactorNeedsExponents));
             continue;
         }
-        addProperty(deck, bulk, *vxUnits::findQuantity(record.id));
+        const Quantity& quantity = *vxUnits::findQuantity(record.id);
+        if (const auto reason = emptinessOf(deck, quantity)) {
+            deck.refuse({record.id}, *reason);
+            continue;
+        }
+        addProperty(deck, bulk, quantity);
         deck.carry(record.id);
     }
     std::string text = printed(material, 1);

@@ -11,13 +11,23 @@ namespace {
 using Id = vxMat::PropertyId;
 using vxUnits::Message;
 
+/// Reports a word as carried, or as assumed if the material has none, as in exchange documents.
+void reportWord(MaterialDeck& deck, std::int32_t id, const char* assumed)
+{
+    if (deck.values().word(id).empty())
+        deck.approximate(id, makeMessage(Text::WordAssumed, {assumed}));
+    else
+        deck.carry(id);
+}
+
 /// Reports the hardening type. The types of which formats have only the curve are converted.
 void reportHardeningType(MaterialDeck& deck, const PlasticModel& model)
 {
     const std::string type = vxMat::toUpperAscii(deck.values().word(Id::PlasticHardeningType));
     const bool hasOwnForm = type != "SWIFT" && type != "RAMBERG-OSGOOD";
-    if (hasOwnForm || model.source == HardeningSource::Modulus)
-        deck.carry(Id::PlasticHardeningType);
+    const bool isModulus = model.source == HardeningSource::Modulus;
+    if (hasOwnForm || isModulus)
+        reportWord(deck, Id::PlasticHardeningType, isModulus ? "Bilinear" : "Multilinear");
     else
         deck.convert(Id::PlasticHardeningType, makeMessage(Text::PointsOfCurve));
 }
@@ -86,7 +96,8 @@ void reportElastic(MaterialDeck& deck)
 
 void reportPlastic(MaterialDeck& deck, const PlasticModel& model, const std::optional<Message>& modulusForm)
 {
-    carryAll(deck, {Id::Plasticity, Id::PlasticYieldType});
+    deck.carry(Id::Plasticity);
+    reportWord(deck, Id::PlasticYieldType, "Mises");
     reportHardeningType(deck, model);
     reportInitialYield(deck, model);
     if (model.source == HardeningSource::Modulus)

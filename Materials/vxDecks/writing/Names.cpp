@@ -21,6 +21,20 @@ bool isAsciiDigit(char c)
 
 } // namespace
 
+std::string commentText(std::string_view text, std::size_t longest)
+{
+    const auto continuesCharacter = [text](std::size_t at) {
+        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+    };
+    std::size_t length = std::min(text.size(), longest);
+    while (length > 0 && continuesCharacter(length))
+        --length;
+    std::string comment(text.substr(0, length));
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+    std::replace_if(comment.begin(), comment.end(), isControl, ' ');
+    return comment;
+}
+
 std::string Names::clean(const std::string& name) const
 {
     std::string cleaned;
@@ -38,10 +52,16 @@ std::string Names::clean(const std::string& name) const
     return cleaned;
 }
 
+std::string Names::textOf(const std::string& name) const
+{
+    const bool needsBlank = !name.empty() && std::strchr(m_rules.notFirst, name.front()) != nullptr;
+    return commentText((needsBlank ? " " : "") + name, m_rules.longest);
+}
+
 std::string Names::take(const std::string& name)
 {
-    if (m_rules.longest == 0)
-        return name;
+    if (m_rules.isText)
+        return textOf(name);
     const std::string wanted = clean(name);
     std::string free = wanted;
     for (int count = 2; !m_taken.insert(vxMat::toUpperAscii(free)).second; ++count) {

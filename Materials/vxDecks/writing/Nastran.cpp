@@ -15,15 +15,6 @@ namespace {
 
 using Id = vxMat::PropertyId;
 
-/// A real number, and the quantity that it is made of; 0 if it is made of none.
-struct Real
-{
-    double value;
-    std::int32_t id = 0;
-
-    bool operator==(const Real& other) const { return value == other.value && id == other.id; }
-};
-
 /// A field of an entry: blank, a text or an integer, or a real number.
 using Cell = std::variant<std::monostate, std::string, Real>;
 using Cells = std::vector<Cell>;
@@ -285,8 +276,7 @@ std::string beginDeck(const vxUnits::UnitSystem& units)
 
 void beginMaterial(MaterialDeck& deck)
 {
-    deck.line("$ Material " + std::to_string(deck.heading().number) + ": " +
-              commentText(deck.userName(), longestComment));
+    deck.line("$ Material " + std::to_string(deck.heading().number) + ": " + deck.heading().name);
 }
 
 } // namespace
@@ -294,7 +284,7 @@ void beginMaterial(MaterialDeck& deck)
 const CardFormat& nastranFormat()
 {
     static const CardFormat format{Format::Nastran,
-                                   anyName(),
+                                   anyText(longestComment),
                                    beginDeck,
                                    beginMaterial,
                                    {{"MAT1", writeMat1},

@@ -95,6 +95,11 @@ int neededDigits(double number)
 
 } // namespace
 
+double readWritten(const std::string& text)
+{
+    return vxMat::readWholeNumber(text).value_or(std::nan(""));
+}
+
 std::string writeBulkReal(double number, std::size_t longest)
 {
     if (number == 0.0)
@@ -114,13 +119,13 @@ double readBulkReal(const std::string& text)
     const std::size_t sign = number.find_last_of("+-");
     if (sign != std::string::npos && sign > 0)
         number.insert(sign, "e");
-    return vxMat::readNumber(number);
+    return readWritten(number);
 }
 
 double withoutRoundingError(double calculated)
 {
     constexpr int safeDigits = 15;
-    return std::isfinite(calculated) ? vxMat::readNumber(rounded(calculated, safeDigits)) : calculated;
+    return std::isfinite(calculated) ? readWritten(rounded(calculated, safeDigits)) : calculated;
 }
 
 std::string writeWithin(double number, std::size_t longest)

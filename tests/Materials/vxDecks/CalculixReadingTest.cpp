@@ -216,6 +216,71 @@ TEST(CalculixReading, TakesTheHeatCapacityOfItsOwnCardRatherThanOfTheFluid)
     EXPECT_DOUBLE_EQ(numberOf(deck, Id::DynamicViscosity), 2.0);
 }
 
+TEST(CalculixReading, TellsAnotherSpecificHeatOfTheFluid)
+{
+    const auto remarks = [](const char* heat) {
+        return vxtest::remarkableLines(
+            readText(Format::Calculix,
+                     std::string("*MATERIAL, NAME=A\n*FLUID CONSTANTS\n1., 2.\n*SPECIFIC HEAT\n") + heat + "\n", "SI")
+                .report);
+    };
+    EXPECT_THAT(remarks("3."), testing::Contains("A: lost: *FLUID CONSTANTS: its specific heat differs from that of "
+                                                 "*SPECIFIC HEAT, which is taken"));
+    EXPECT_THAT(remarks("1."), testing::Not(testing::Contains(testing::HasSubstr("lost"))));
+}
+
+TEST(CalculixReading, TellsParametersThatItDoesNotEvaluate)
+{
+    const ReadDeck deck =
+        readText(Format::Calculix,
+                 "*MATERIAL, NAME=A\n*ELASTIC, type=iso\n2.e11, .3\n*PLASTIC, SCALE STRESS=2.\n1.e8, 0.\n", "SI");
+    EXPECT_THAT(vxtest::remarkableLines(deck.report),
+                testing::Contains("A: lost: *PLASTIC: the parameter SCALESTRESS is not evaluated; check the numbers"));
+    EXPECT_EQ(countRefused(deck.report), 1U);
+    EXPECT_DOUBLE_EQ(numberOf(deck, Id::PlasticInitialYieldStress), 1e8);
+}
+
+TEST(CalculixReading, TellsImpossibleValuesWithTheirLineAndCard)
+{
+    const auto findings = [](const std::string& cards) {
+        const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=A\n" + cards, "mm-t-s");
+        std::vector<std::string> texts;
+        for (const vxDecks::Finding& finding : deck.report.materials.at(0).findings)
+            texts.push_back(textOf(finding));
+        return texts;
+    };
+    using testing::ElementsAre;
+    EXPECT_THAT(findings("*DENSITY\n-7.85e-9\n"),
+                ElementsAre("line 2, *DENSITY: Density = -7.85e-09 is not possible; the value must be above 0"));
+    for (const char* const ratio : {"0.5", "-1.", "0.7"})
+        EXPECT_THAT(findings(std::string("*DENSITY\n1.\n*ELASTIC\n2., ") + ratio + "\n"),
+                    ElementsAre(testing::StartsWith("line 4, *ELASTIC: Poisson's ratio = ")))
+            << ratio;
+    EXPECT_THAT(findings("*ELASTIC\n2., .3\n*HYPERELASTIC, NEO HOOKE\n1., .1\n"),
+                ElementsAre("line 4, *HYPERELASTIC: \"Isotropic elasticity\" and \"Neo-Hookean\" exclude each other; "
+                            "remove one of them"));
+    EXPECT_THAT(findings("*PLASTIC\n1., 0.\n2., .2\n3., .1\n"),
+                ElementsAre("line 2, *PLASTIC: the plastic strains do not ascend; check the curve"));
+    EXPECT_THAT(findings("*HYPERELASTIC, MOONEY-RIVLIN\n1., -2., .1\n"),
+                ElementsAre("line 2, *HYPERELASTIC: C10 + C01 = -1 is not possible; the value must be above 0"));
+    EXPECT_THAT(findings("*CREEP\n1.e-20, -5., -1.\n"),
+                ElementsAre("line 2, *CREEP: Creep Modulus N = -5 is not possible; the value must be above 0",
+                            "line 2, *CREEP: Creep Modulus M = -1 is not possible; the value must be above -1"));
+    EXPECT_THAT(findings("*DENSITY\n7.85e-9\n*ELASTIC\n2.e5, 0.\n*PLASTIC\n250., 0.\n300., .1\n*CONDUCTIVITY\n0.\n"),
+                testing::IsEmpty());
+}
+
+TEST(CalculixReading, HasItsFindingsInJson)
+{
+    const Json::Value json =
+        toJson(readText(Format::Calculix, "*MATERIAL, NAME=A\n*DENSITY\n-1.\n", "SI").report)["materials"][0];
+    ASSERT_EQ(json["findings"].size(), 1U);
+    EXPECT_EQ(json["findings"][0]["line"].asUInt(), 2U);
+    EXPECT_EQ(json["findings"][0]["card"], "*DENSITY");
+    EXPECT_EQ(json["findings"][0]["id"], "decks.value-outside");
+    EXPECT_EQ(json["findings"][0]["text"], "Density = -1 is not possible; the value must be above 0");
+}
+
 TEST(CalculixReading, RefusesPermeabilityAlongACurve)
 {
     const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=A\n*MAGNETIC PERMEABILITY, NONLINEAR\n", "SI");

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <streambuf>
 #include <string>
+#include <sys/resource.h>
 
 namespace {
 
@@ -60,6 +61,27 @@ TEST(HostileDecks, EndCardsThatNeverEnd)
     for (int i = 0; i < 100001; ++i)
         text += "1,1\n";
     EXPECT_EQ(errorOf(Format::Calculix, text), "line 100003: *PLASTIC has more than 100000 lines");
+}
+
+/// Returns the most memory that this process has had so far, in bytes.
+std::size_t mostMemory()
+{
+    rusage usage = {};
+    EXPECT_EQ(getrusage(RUSAGE_SELF, &usage), 0);
+    return static_cast<std::size_t>(usage.ru_maxrss) * 1024;
+}
+
+TEST(HostileDecks, TakeNoMemoryForBlankFields)
+{
+    // 200 lines with 60,000 fields each would take 16 bytes for each field.
+    const std::string line = "1." + std::string(60000, ',') + "2.\n";
+    std::string text = "*MATERIAL, NAME=A\n*PLASTIC\n";
+    for (int i = 0; i < 200; ++i)
+        text += line;
+    const std::size_t before = mostMemory();
+    const vxDecks::ReadDeck deck = readText(Format::Calculix, text, "SI");
+    EXPECT_LT(mostMemory(), before + 2 * text.size());
+    EXPECT_EQ(countRefused(deck.report), 1U) << "the number far behind is not lost in silence";
 }
 
 TEST(HostileDecks, AreToldInShortHoweverManyKeywordsTheyHave)

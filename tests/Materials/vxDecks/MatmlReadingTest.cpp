@@ -172,6 +172,36 @@ TEST(MatmlReading, RefusesDocumentsThatAreTooLarge)
               "the file has more than 64 MB; divide it into several files");
 }
 
+TEST(MatmlReading, RefusesDocumentsWhoseTreeWouldBeMuchLarger)
+{
+    EXPECT_EQ(errorOf("<MatML_Doc>" + repeated("<a/>", 8000000) + "</MatML_Doc>"),
+              "the file has more than 8000000 elements and attributes; divide it into several files");
+}
+
+TEST(MatmlReading, NamesTheLineOfAFaultBehindTextsThatTheParserChanges)
+{
+    const std::string before = "<MatML_Doc\n a='1'\n b='&lt;&lt;\n'>\r\n<Name\n>&amp;&amp;\r\n</Name\n>\n";
+    EXPECT_THAT(errorOf(before + "<a></b>\n\n"), HasSubstr("line 9: the XML is not well-formed"));
+}
+
+TEST(MatmlReading, TellsElementsAndParametersThatItDoesNotTake)
+{
+    const auto remarksOn = [](const std::string& rest) {
+        std::string document = documentOf("Density", "<Units name=\"kg/m3\"/>", "7850");
+        document.insert(document.find("</PropertyData>"), rest);
+        document.insert(document.find("<PropertyDetails"),
+                        "<ParameterDetails id=\"t\"><Name>Temperature</Name><Unitless/></ParameterDetails>"
+                        "<ParameterDetails id=\"h\"><Name>Humidity</Name><Unitless/></ParameterDetails>");
+        return vxtest::remarkableLines(readXml(document).report);
+    };
+    EXPECT_THAT(remarksOn("<Qualifier>Orthotropic</Qualifier>"),
+                Contains("Not of materials, and therefore not taken: Qualifier (1)."));
+    EXPECT_THAT(remarksOn("<ParameterValue parameter=\"t\"><Data>20</Data></ParameterValue>"),
+                Contains("M: Density: values at temperature 20; the temperature is not kept"));
+    EXPECT_THAT(remarksOn("<ParameterValue parameter=\"h\"><Data>0.5</Data></ParameterValue>"),
+                Contains("M: lost: Humidity: the catalogue does not have the quantity"));
+}
+
 TEST(MatmlReading, ReadsOrRefusesDocumentsWhereverTheyAreCutOrChanged)
 {
     const std::string whole = vxtest::deckOf(Format::Matml, vxtest::multilinear()->get(), "mm-t-s").text;

@@ -85,10 +85,10 @@ TEST(NastranReading, RefusesATableWithoutPoints)
 
 TEST(NastranReading, DoubtsATableOverPlasticStrainThatDoesNotAscendFromZero)
 {
-    EXPECT_THAT(
-        remarksOnTable(".1,3.+8,.05,2.5+8"),
-        testing::Contains("1: approximated: Plastic strain: the first plastic strain is 0.1, not 0; check the curve; "
-                          "the plastic strains do not ascend; check the curve"));
+    EXPECT_THAT(remarksOnTable(".1,3.+8,.05,2.5+8"),
+                testing::IsSupersetOf(
+                    {"1: approximated: Plastic strain: the first plastic strain is 0.1, not 0; check the curve",
+                     "1: line 2, MATS1: the plastic strains do not ascend; check the curve"}));
     EXPECT_THAT(remarksOnTable("0.,2.5+8,.1,3.+8"), testing::Not(testing::Contains(HasSubstr("check the curve"))));
 }
 
@@ -96,6 +96,50 @@ TEST(NastranReading, TellsASecondTableWithTheSameNumber)
 {
     EXPECT_THAT(remarksOnTable("0.,2.5+8,.1,3.+8", "TABLES1,7\n+,0.,1.+8,.1,2.+8,ENDT\n"),
                 testing::Contains("1: lost: TABLES1: another entry has this number; that of line 5 is not taken"));
+}
+
+TEST(NastranReading, TellsNumbersThatOthersGive)
+{
+    const auto remarksOn = [](const std::string& text) { return vxtest::remarkableLines(readSi(text).report); };
+    EXPECT_THAT(remarksOn("MAT1,1,2.6+5,1.+5,.3"),
+                testing::Contains("1: lost: MAT1 G: the other numbers of the material give it within 1 %: "
+                                  "E / (2 (1 + NU)); the number itself is not kept"));
+    EXPECT_THAT(remarksOn("MAT1,1,2.6+5,1.005+5,.3"), testing::Contains(HasSubstr("lost: MAT1 G: the other numbers")));
+    EXPECT_THAT(remarksOn("MAT1,1,2.6+5,1.2+5,.3"),
+                testing::Contains(HasSubstr("lost: MAT1 G: the number contradicts")));
+    EXPECT_THAT(remarksOn("MAT10,1,4.+9,1.+3,2.+3"),
+                testing::Contains(HasSubstr("lost: MAT10 BULK: the other numbers")));
+    EXPECT_THAT(remarksOn("MAT1,1,2.+11,,.3,7850.\nMAT4,1,54.,490.,7860."),
+                testing::Contains(HasSubstr("lost: MAT4 RHO: the other numbers")));
+    EXPECT_THAT(remarksOn("MAT1,1,2.+11,,.3,7850.\nMAT4,1,54.,490.,7850."),
+                testing::Not(testing::Contains(HasSubstr("lost"))));
+}
+
+TEST(NastranReading, TellsFieldsOfPlasticityThatHaveNoEffect)
+{
+    const std::string table = "TABLES1,7\n+,0.,2.5+8,.1,3.+8,ENDT\n";
+    const auto remarksOn = [&table](const std::string& fields) {
+        return vxtest::remarkableLines(readSi("MAT1,1,2.1+11,,.3\nMATS1,1," + fields + "\n" + table).report);
+    };
+    EXPECT_THAT(remarksOn("7,PLSTRN,1.+9"), testing::Contains("1: lost: MATS1 H: the table replaces it"));
+    EXPECT_THAT(remarksOn(",PLASTIC,1.+9,1,1,2.5+8,3.+8"),
+                testing::Contains("1: lost: MATS1 LIMIT2: the catalogue has no quantity for it"));
+}
+
+TEST(NastranReading, TellsImpossibleValuesWithTheirLineAndEntry)
+{
+    const ReadDeck deck = readSi("$ a comment\nMAT1,1,-2.+11,,.5,-7850.\nMAT4,1,-54.,-490.,-7850.");
+    EXPECT_THAT(toLines(deck.report),
+                testing::IsSupersetOf(
+                    {"1: line 2, MAT1: Density = -7850 is not possible; the value must be above 0",
+                     "1: line 2, MAT1: Young's modulus = -2e+11 is not possible; the value must be above 0",
+                     "1: line 2, MAT1: Poisson's ratio = 0.5 is not possible; the value must be above -1 and below 0.5",
+                     "1: line 3, MAT4: Specific heat = -490 is not possible; the value must be above 0",
+                     "1: line 3, MAT4: Thermal conductivity = -54 is not possible; the value must be 0 or above"}));
+    EXPECT_EQ(vxDecks::countFindings(deck.report), 5U);
+    double density = 0.0;
+    EXPECT_TRUE(deck.materials.at(0).material->getPropertyValue(Id::Density, density));
+    EXPECT_EQ(density, -7850.0) << "the values are read";
 }
 
 TEST(NastranReading, NeedsUnitsThatTheDeckOrTheUserGives)

@@ -80,9 +80,14 @@ std::string errorOf(vxDecks::Format format, const std::string& text, const std::
 std::vector<std::string> remarkableLines(const vxDecks::Report& report)
 {
     std::vector<std::string> lines;
-    for (const std::string& line : toLines(report))
-        if (line.find(": carried: ") == std::string::npos && line.find(": converted: ") == std::string::npos)
-            lines.push_back(line);
+    const auto add = [&lines](const vxDecks::Report& part) {
+        for (const std::string& line : toLines(part))
+            if (line.find(": carried: ") == std::string::npos && line.find(": converted: ") == std::string::npos)
+                lines.push_back(line);
+    };
+    add({report.format, report.units, report.notes, {}});
+    for (const vxDecks::MaterialReport& material : report.materials)
+        add({report.format, report.units, {}, {material}});
     return lines;
 }
 

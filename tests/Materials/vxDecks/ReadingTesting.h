@@ -20,7 +20,7 @@ double numberOf(const vxDecks::ReadDeck& deck, std::int32_t id);
 /// Returns the text of the error of a text that cannot be read; empty if it can be read.
 std::string errorOf(vxDecks::Format format, const std::string& text, const std::string& units = "SI");
 
-/// Returns the lines of a report that tell more than that a quantity is taken.
+/// Returns the lines of a report that tell more than that a quantity is taken, material by material.
 std::vector<std::string> remarkableLines(const vxDecks::Report& report);
 
 } // namespace vxtest

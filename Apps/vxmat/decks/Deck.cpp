@@ -10,6 +10,7 @@
 #include "vxDecks/Mapping.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -24,9 +25,53 @@ struct Collected
     std::vector<std::unique_ptr<vxCAE::MaterialEntry>> entries; ///< of the files
 };
 
+/// Returns the slots of the numbers that a material of a document does not have, and that its reader reads as 0.
+std::vector<std::int32_t> missingNumbers(const Json::Value& material)
+{
+    std::vector<std::int32_t> slots;
+    for (const Json::Value& property : material["Props"]) {
+        const auto slot = static_cast<std::int32_t>(property["prop_type"].asUInt());
+        const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(slot);
+        if (record != nullptr && record->kind == vxMat::ValueKind::Number && property["prop_value"].isNull())
+            slots.push_back(slot);
+    }
+    return slots;
+}
+
+/// Leaves out the quantities whose numbers a document does not have, and tells them.
+void removeMissingNumbers(const Json::Value& document, MaterialFile& file, Answer& answer)
+{
+    for (const Json::Value& element : document["material"]) {
+        const auto material = std::find_if(file.materials.begin(), file.materials.end(), [&element](const auto& one) {
+            return one.number == element["mat_id"].asUInt();
+        });
+        for (const std::int32_t slot : missingNumbers(element)) {
+            vxMat::CMaterial& made = *material->entry->material;
+            const vxMat::MaterialProperty* const property = made.findProperty(slot);
+            if (property == nullptr || property->value != 0.0)
+                continue;
+            answer.messages.push_back(file.path + ": " + material->label + ": the document has no number for " +
+                                      vxMat::findPropertyRecord(slot)->name + "; the deck does not have it");
+            answer.status = Status::Findings;
+            made.removeProperty(property);
+        }
+    }
+}
+
+MaterialFile readSource(const std::string& path, Answer& answer)
+{
+    Input input = readInput(path);
+    if (input.project)
+        return readMaterials(std::move(input));
+    const Json::Value document = toDocument(input);
+    MaterialFile file = readMaterials(std::move(input));
+    removeMissingNumbers(document, file, answer);
+    return file;
+}
+
 void addFromFile(const std::string& path, Collected& collected, Answer& answer)
 {
-    MaterialFile file = readMaterials(path);
+    MaterialFile file = readSource(path, answer);
     answer.add(file.doubts);
     if (file.materials.empty()) {
         answer.messages.push_back(path + ": holds no materials");

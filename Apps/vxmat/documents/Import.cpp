@@ -11,7 +11,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <set>
 #include <sstream>
@@ -23,19 +25,31 @@ namespace {
 
 using ImportedMaterials = std::vector<projectfile::ImportedMaterial>;
 
-std::string noteOnSystem(const std::string& subject, const std::string& fitting, const vxUnits::UnitSystem& assumed)
+std::string doubtAboutSystem(const std::string& subject, const std::string& fitting, const vxUnits::UnitSystem& assumed)
 {
-    return "note: " + subject + ": the numbers look like " + fitting + ", not " + assumed.text() +
+    return subject + ": the numbers look like " + fitting + ", not " + assumed.text() +
            "; --units gives the unit system of its numbers";
 }
 
-std::string titleOf(const projectfile::ImportedMaterial& imported, const std::string& document)
+std::string titleOf(const projectfile::ImportedMaterial& imported)
 {
-    return document + ": " + std::to_string(imported.objectId) + " " + imported.label;
+    return std::to_string(imported.objectId) + " " + imported.label;
 }
 
-/// Returns notes about numbers that look like another system than the assumed one: one note if this system explains most
-/// doubts about all materials, otherwise one for each such material.
+/// Returns "3 Steel" or "12 materials (3 Steel, 4 Iron, 7 Copper, ...)".
+std::string titleOf(const std::vector<const projectfile::ImportedMaterial*>& materials)
+{
+    constexpr std::size_t mostNames = 3;
+    if (materials.size() == 1)
+        return titleOf(*materials.front());
+    std::string names;
+    for (std::size_t i = 0; i < std::min(materials.size(), mostNames); ++i)
+        names += (names.empty() ? "" : ", ") + titleOf(*materials[i]);
+    return std::to_string(materials.size()) + " materials (" + names + (materials.size() > mostNames ? ", ...)" : ")");
+}
+
+/// Returns doubts about numbers that look like another system than the assumed one: one doubt if this system explains most
+/// doubts about all materials, otherwise one for each system that such materials look like.
 std::vector<std::string> findOtherSystems(const ImportedMaterials& materials, const vxUnits::UnitSystem& assumed,
                                           const std::string& document)
 {
@@ -43,14 +57,17 @@ std::vector<std::string> findOtherSystems(const ImportedMaterials& materials, co
     for (const projectfile::ImportedMaterial& imported : materials)
         all.push_back(imported.material.get());
     if (const std::string fitting = vxUnits::betterFittingSystem(all, assumed); !fitting.empty())
-        return {noteOnSystem(document, fitting, assumed)};
-    std::vector<std::string> notes;
+        return {doubtAboutSystem(document, fitting, assumed)};
+    std::map<std::string, std::vector<const projectfile::ImportedMaterial*>> bySystem;
     for (const projectfile::ImportedMaterial& imported : materials) {
         const std::string fitting = vxUnits::betterFittingSystem({imported.material.get()}, assumed);
         if (!fitting.empty())
-            notes.push_back(noteOnSystem(titleOf(imported, document), fitting, assumed));
+            bySystem[fitting].push_back(&imported);
     }
-    return notes;
+    std::vector<std::string> doubts;
+    for (const auto& [fitting, some] : bySystem)
+        doubts.push_back(doubtAboutSystem(document + ": " + titleOf(some), fitting, assumed));
+    return doubts;
 }
 
 /// Converts materials from the given units. Returns notes about numbers that stay unchanged.
@@ -59,7 +76,7 @@ std::vector<std::string> convert(ImportedMaterials& materials, const ChosenUnits
     std::vector<std::string> notes;
     for (projectfile::ImportedMaterial& imported : materials)
         if (const std::string note = units.revert(*imported.material); !note.empty())
-            notes.push_back("note: " + titleOf(imported, document) + ": " + note);
+            notes.push_back("note: " + document + ": " + titleOf(imported) + ": " + note);
     return notes;
 }
 
@@ -81,7 +98,8 @@ Answer importDocument(Input input, const ImportRequest& request)
         projectfile::ImportedMaterials imported = projectfile::importExchange(text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
-        notes = findOtherSystems(imported.materials, request.units.system(), document);
+        for (const std::string& doubt : findOtherSystems(imported.materials, request.units.system(), document))
+            notes.push_back("note: " + doubt);
         for (std::string& note : convert(imported.materials, request.units, document))
             notes.push_back(std::move(note));
         writeNewProject(request.output, std::move(imported.materials), request.existing, answer);
@@ -115,7 +133,7 @@ ImportedMaterials toObjects(std::vector<vxDecks::ReadMaterial> materials)
     return objects;
 }
 
-/// Returns the notes of findOtherSystems about materials whose numbers were read in a unit system.
+/// Returns the doubts of findOtherSystems about materials whose numbers were read in a unit system.
 std::vector<std::string> findOtherSystemsOfDeck(const ImportedMaterials& materials, const std::string& units,
                                                 const std::string& path)
 {
@@ -184,10 +202,13 @@ Answer importDeck(std::istream& file, vxDecks::Format format, const ImportReques
         answer.status = Status::Error;
         return answer;
     }
-    if (countRefused(deck.report) > 0)
+    if (countRefused(deck.report) > 0 || countFindings(deck.report) > 0)
         answer.status = Status::Findings;
     ImportedMaterials objects = toObjects(std::move(deck.materials));
-    answer.add(findOtherSystemsOfDeck(objects, deck.report.units, request.file));
+    const std::vector<std::string> doubts = findOtherSystemsOfDeck(objects, deck.report.units, request.file);
+    if (!doubts.empty())
+        answer.status = Status::Findings;
+    answer.add(doubts);
     writeNewProject(request.output, std::move(objects), request.existing, answer);
     return answer;
 }

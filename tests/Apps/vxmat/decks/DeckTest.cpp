@@ -79,6 +79,33 @@ TEST(Deck, OfADocumentSaysThatWordsAndListsAreMissing)
     EXPECT_EQ(vxtest::readText(document), before) << "a file that is read is not overwritten";
 }
 
+TEST(Deck, OfADocumentHasNoNumberThatTheDocumentDoesNotHave)
+{
+    const Folder folder;
+    const std::string document =
+        folder.file("m.json", R"({"proj_type": 2, "material": [{"mat_id": 1, "mat_name": "A", "Props": [
+                       {"prop_type": 4, "prop_key": "rho", "prop_name": "Density"},
+                       {"prop_type": 203, "prop_key": "k", "prop_name": "Thermal conductivity", "prop_value": 0}]}]})");
+    const Outcome run = vxmat({"deck", document, "--solver", "calculix"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, HasSubstr("vxmat: " + document +
+                                   ": A: the document has no number for Density; the deck does not have it\n"));
+    EXPECT_THAT(run.err, testing::Not(HasSubstr("carried: Density")));
+    EXPECT_THAT(run.out, testing::Not(HasSubstr("*DENSITY")));
+    EXPECT_THAT(run.out, HasSubstr("*CONDUCTIVITY\n0\n")) << "a number of 0 is one";
+}
+
+TEST(Deck, OfADocumentTellsTheListsThatAreMissing)
+{
+    const Folder folder;
+    const std::string document = folder.path("m.json");
+    ASSERT_EQ(vxmat({"export", "Plastic Example 1", "-o", document}).status, 0);
+    const Outcome run = vxmat({"deck", document, "--solver", "calculix"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, HasSubstr("lost: Plasticity, Yield type, Hardening type, Yield stress, Plastic strain: the "
+                                   "curve has no points\n"));
+}
+
 TEST(Deck, NumbersMaterialsFromTheChosenNumber)
 {
     const Folder folder;

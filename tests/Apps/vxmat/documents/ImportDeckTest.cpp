@@ -54,13 +54,13 @@ TEST(ImportDeck, NeedsTheUnitsAndProposesThoseThatFit)
     EXPECT_THAT(folder.names(), ElementsAre("model.inp"));
 }
 
-TEST(ImportDeck, NotesThatTheNumbersLookLikeOtherUnits)
+TEST(ImportDeck, IsAFindingIfTheNumbersLookLikeOtherUnits)
 {
     const Folder folder;
     const std::string file = folder.file("model.inp", deck);
     const Outcome run = vxmat({"import", file, "--units", "SI", "-o", folder.path("p.vxmat")});
-    EXPECT_EQ(run.status, 0);
-    EXPECT_THAT(run.err, HasSubstr("note: " + file + ": the numbers look like mm-t-s, not SI; --units gives"));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, HasSubstr("vxmat: " + file + ": the numbers look like mm-t-s, not SI; --units gives"));
 }
 
 TEST(ImportDeck, OfTheDeckThatTheProgramWritesGivesTheSameMaterialsAgain)
@@ -83,6 +83,26 @@ TEST(ImportDeck, IsAFindingIfTheUserMustGiveQuantities)
     EXPECT_EQ(run.status, 1);
     EXPECT_THAT(run.err, HasSubstr("A: lost: *ELASTIC: TYPE=ORTHO is not isotropic\n"));
     EXPECT_THAT(folder.names(), ElementsAre("a.inp", "p.vxmat"));
+}
+
+TEST(ImportDeck, IsAFindingIfAValueIsImpossible)
+{
+    const Folder folder;
+    const std::string file =
+        folder.file("a.inp", "*MATERIAL, NAME=A\n*DENSITY\n-7850.\n*ELASTIC\n2.1e11, 0.5\n*PLASTIC\n"
+                             "2.5e8, 0.\n3e8, 0.1\n3.1e8, 0.05\n");
+    const Outcome run = vxmat({"import", file, "--units", "SI", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, HasSubstr("note: A: line 2, *DENSITY: Density = -7850 is not possible; the value must be "
+                                   "above 0\n"));
+    EXPECT_THAT(run.err, HasSubstr("note: A: line 4, *ELASTIC: Poisson's ratio = 0.5 is not possible; the value must "
+                                   "be above -1 and below 0.5\n"));
+    EXPECT_THAT(run.err, HasSubstr("note: A: line 6, *PLASTIC: the plastic strains do not ascend; check the curve\n"));
+    EXPECT_THAT(vxmat({"show", folder.path("p.vxmat")}).out, HasSubstr("-7850")) << "it is imported";
+    const Outcome asJson = vxmat({"import", file, "--units", "SI", "--json", "--force", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(asJson.status, 1);
+    EXPECT_THAT(asJson.out, HasSubstr("\"card\" : \"*DENSITY\""));
+    EXPECT_THAT(asJson.out, HasSubstr("\"line\" : 2"));
 }
 
 TEST(ImportDeck, PrintsItsReportAsJson)

@@ -78,10 +78,11 @@ TableContent cardTable(const InspectedMaterial& inspected)
     return table;
 }
 
-TableContent deckTable(const InspectedMaterial& inspected, vxDecks::Format format, const vxUnits::UnitSystem& system)
+TableContent deckTable(const InspectedMaterial& inspected, const DeckForm& form, const vxUnits::UnitSystem& system)
 {
     const vxDecks::DeckMaterial material{inspected.label.toStdString(), inspected.objectId, inspected.material.get()};
-    const vxDecks::Deck deck = vxDecks::writeDeck(format, {material}, {system, std::nullopt});
+    const vxDecks::Deck deck =
+        vxDecks::writeDeck(form.format, {material}, {system, std::nullopt, form.dialect, form.fields});
     TableContent table{materialSentence(inspected), {tr("Card"), tr("Text")}, {}};
     table.sentence += QLatin1Char(' ') + deckRemarks(deck.report);
     table.rows.push_back({{{tr("Deck")}, cardCell(deck.text)}});

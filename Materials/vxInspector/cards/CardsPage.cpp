@@ -6,10 +6,13 @@
 #include <QBoxLayout>
 #include <QClipboard>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 namespace vxInspector {
@@ -34,12 +37,17 @@ CardsPage::CardsPage(QWidget* parent)
       m_controls(new QWidget(this)),
       m_label(new QLabel(m_controls)),
       m_formats(new QComboBox(m_controls)),
+      m_forms(new QComboBox(m_controls)),
       m_copy(new QPushButton(m_controls))
 {
     createControls();
     CardsPage::retranslate();
     m_controls->hide();
-    connect(m_formats, qOverload<int>(&QComboBox::currentIndexChanged), this, &CardsPage::chosen);
+    connect(m_formats, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
+        offerForms();
+        Q_EMIT chosen();
+    });
+    connect(m_forms, qOverload<int>(&QComboBox::currentIndexChanged), this, &CardsPage::chosen);
     connect(m_copy, &QPushButton::clicked, this,
             [this] { Kelta::guarded(tr("The cards cannot be copied"), [this] { copyCards(); }); });
 }
@@ -53,16 +61,21 @@ void CardsPage::createControls()
     m_formats->addItem(QString());
     for (const vxDecks::FormatInfo& format : vxDecks::formats())
         m_formats->addItem(QString::fromLatin1(format.title), static_cast<int>(format.format));
+    m_forms->setObjectName(QStringLiteral("cardForms"));
+    m_forms->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_copy->setObjectName(QStringLiteral("copyCards"));
     m_copy->setAutoDefault(false);
     m_label->setBuddy(m_formats);
-    auto* const line = new QHBoxLayout(m_controls);
-    line->setContentsMargins({});
-    line->addWidget(m_label);
-    line->addWidget(m_formats, 1);
-    line->addWidget(m_copy);
+    auto* const grid = new QGridLayout(m_controls);
+    grid->setContentsMargins({});
+    grid->addWidget(m_label, 0, 0);
+    grid->addWidget(m_formats, 0, 1);
+    grid->addWidget(m_copy, 0, 2);
+    grid->addWidget(m_forms, 1, 0, 1, 3);
+    grid->setColumnStretch(1, 1);
     static_cast<QBoxLayout*>(layout())->insertWidget(0, m_controls);
-    setTabOrder(m_formats, m_copy);
+    setTabOrder(m_formats, m_forms);
+    setTabOrder(m_forms, m_copy);
     setTabOrder(m_copy, &view());
 }
 
@@ -70,6 +83,27 @@ std::optional<vxDecks::Format> CardsPage::format() const
 {
     const QVariant chosen = m_formats->currentData();
     return chosen.isValid() ? std::optional(static_cast<vxDecks::Format>(chosen.toInt())) : std::nullopt;
+}
+
+std::optional<DeckForm> CardsPage::form() const
+{
+    const auto chosen = format();
+    return chosen ? std::optional(deckForm(*chosen, m_forms->currentData().toString().toStdString())) : std::nullopt;
+}
+
+/// Fills the list of forms for the chosen format, and keeps the chosen form if the format has it. A format with a single
+/// form has no list.
+void CardsPage::offerForms()
+{
+    const QSignalBlocker blocker(m_forms);
+    const QVariant before = m_forms->currentData();
+    const auto chosen = format();
+    m_forms->clear();
+    if (chosen)
+        for (const DeckForm& one : deckForms(*chosen))
+            m_forms->addItem(one.title, QString::fromStdString(one.name));
+    m_forms->setCurrentIndex(std::max(m_forms->findData(before), 0));
+    m_forms->setHidden(m_forms->count() == 0);
 }
 
 void CardsPage::setContent(TableContent content)
@@ -86,6 +120,9 @@ void CardsPage::retranslate()
     m_formats->setItemText(0, tr("The solver of this program"));
     m_formats->setAccessibleName(tr("Cards for"));
     m_formats->setToolTip(tr("The solver whose input is shown"));
+    m_forms->setAccessibleName(tr("Form of the text"));
+    m_forms->setToolTip(tr("The form in which the solver reads its input"));
+    offerForms();
     m_copy->setText(tr("&Copy"));
     m_copy->setToolTip(tr("Copy the text of the cards"));
 }

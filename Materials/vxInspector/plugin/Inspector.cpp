@@ -170,7 +170,7 @@ void Inspector::fillTable(const Subject& subject, const vxUnits::UnitSystem& sys
     else if (page == m_findings)
         m_findings->setContent(std::move(findings), system);
     else if (page == m_cards)
-        m_cards->setContent(cardsTab(subject, m_cards->format(), system));
+        m_cards->setContent(cardsTab(subject, m_cards->form(), system));
     else
         m_compare->setContent(compareTab(subject, system));
 }

@@ -107,14 +107,14 @@ TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& syst
     return table;
 }
 
-TableContent cardsTab(const Subject& subject, std::optional<vxDecks::Format> format, const vxUnits::UnitSystem& system)
+TableContent cardsTab(const Subject& subject, const std::optional<DeckForm>& form, const vxUnits::UnitSystem& system)
 {
     if (subject.materials.empty())
         return {emptySentence(subject), {}, {}};
     if (subject.kind == Kind::Project)
         return {tr("Select a material to see its cards."), {}, {}};
     const InspectedMaterial inspected = inspect(*subject.materials.front());
-    TableContent table = format ? deckTable(inspected, *format, system) : cardTable(inspected);
+    TableContent table = form ? deckTable(inspected, *form, system) : cardTable(inspected);
     tellFirst(table, subject);
     return table;
 }

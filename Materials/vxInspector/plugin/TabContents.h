@@ -3,7 +3,7 @@
 #include "curves/CurvesContent.h"
 #include "subject/Subject.h"
 #include "table/TableContent.h"
-#include "vxDecks/Format.h"
+#include "vxInspector/decks/DeckForms.h"
 #include "vxUnits/UnitSystem.h"
 
 #include <optional>
@@ -19,9 +19,9 @@ inline constexpr std::size_t mostChecked = 200;
 TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system, const TableContent& findings);
 /// Returns the findings of the first materials, at most `most`, in a unit system.
 TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most = mostChecked);
-/// Returns the cards of the first material: as a deck in a format and a unit system, or those that the solver of the
-/// program gets if there is no format.
-TableContent cardsTab(const Subject& subject, std::optional<vxDecks::Format> format, const vxUnits::UnitSystem& system);
+/// Returns the cards of the first material: as a deck in a form of a format and a unit system, or those that the
+/// solver of the program gets if there is no form.
+TableContent cardsTab(const Subject& subject, const std::optional<DeckForm>& form, const vxUnits::UnitSystem& system);
 /// Returns the comparison of all materials.
 TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& system);
 

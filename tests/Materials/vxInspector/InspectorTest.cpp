@@ -400,6 +400,23 @@ TEST_F(DeckCards, SayWhatTheSolverDoesNotTake)
     EXPECT_EQ(findRow(Cards, "Carried"), -1);
 }
 
+TEST_F(DeckCards, FollowTheFormOfTheFormat)
+{
+    auto& forms = *tabs().findChild<QComboBox*>(QStringLiteral("cardForms"));
+    select({&addMaterial(newProject())});
+    turnTo(Cards);
+    EXPECT_FALSE(forms.isVisible());
+    choose("Nastran");
+    EXPECT_TRUE(forms.isVisible());
+    EXPECT_EQ(forms.currentText(), "Fields of 8 characters, of 16 if a number needs them");
+    EXPECT_TRUE(waitFor([this] { return deck().find("\nMAT1    1") != std::string::npos; })) << deck();
+    forms.setFocus();
+    QTest::keyClick(&forms, Qt::Key_End);
+    EXPECT_TRUE(waitFor([this] { return deck().find("\nMAT1,1,2.+11") != std::string::npos; })) << deck();
+    choose("Elmer");
+    EXPECT_FALSE(forms.isVisible());
+}
+
 TEST_F(DeckCards, AreCopiedAsText)
 {
     select({&addMaterial(newProject())});
@@ -408,6 +425,7 @@ TEST_F(DeckCards, AreCopiedAsText)
     auto* const copy = tabs().findChild<QPushButton*>(QStringLiteral("copyCards"));
     ASSERT_TRUE(waitFor([this] { return deck().find("*MATERIAL") != std::string::npos; }));
     QTest::keyClick(&formats(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // past the forms
     EXPECT_TRUE(copy->hasFocus());
     QTest::keyClick(copy, Qt::Key_Space);
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), deck() + '\n');

@@ -3,12 +3,16 @@
 #include "Gui/MainWindow.h"
 #include "Kelta/MessageLog.h"
 #include "kelta/UnappliedEdits.h"
+#include "vxInspector/units/ProjectUnits.h"
+#include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/gui/FindingText.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
+#include "vxUnits/Plausibility.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <vector>
 
 namespace desktop {
@@ -28,6 +32,21 @@ Kelta::LogLink linkTo(const Mat::MaterialObject& object, std::int32_t slot)
 {
     const vxMat::MaterialProperty* const property = object.getCMaterial()->findProperty(slot);
     return {object.get_project()->getProjectId(), object.getObjectId(), property != nullptr ? property->id : slot};
+}
+
+/// Returns the slot of a doubt, which knows its quantity by the id.
+std::int32_t slotOf(const vxUnits::Doubt& doubt, const vxMat::MaterialBase& material)
+{
+    for (const auto& [slot, property] : material.properties)
+        if (property->id == doubt.id)
+            return slot;
+    return doubt.id;
+}
+
+void tellOmitted(std::size_t findings)
+{
+    if (findings > mostReported)
+        Kelta::MessageLog::warning(tr("Further findings are not listed: %1.").arg(findings - mostReported));
 }
 
 /// Checks one material and writes its findings to the message log, up to the limit for all materials together.
@@ -71,13 +90,44 @@ Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object)
     return {findings.isEmpty() ? Level::Ready : Level::WithFindings, findings};
 }
 
+std::vector<CheckedValue> findingsAndDoubts(const vxMat::MaterialBase& material, const vxUnits::UnitSystem& shown)
+{
+    std::vector<CheckedValue> all;
+    for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(material))
+        all.push_back({finding.slot, MatGui::findingText(finding)});
+    const std::size_t findings = all.size();
+    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material, shown)) {
+        const std::int32_t slot = slotOf(doubt, material);
+        const bool isFound = std::any_of(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(findings),
+                                         [slot](const CheckedValue& one) { return one.slot == slot; });
+        if (!isFound)
+            all.push_back({slot, vxInspector::translated(doubt)});
+    }
+    return all;
+}
+
+std::size_t reportImported(const std::vector<const Mat::MaterialObject*>& objects)
+{
+    std::size_t found = 0;
+    std::size_t materials = 0;
+    for (const Mat::MaterialObject* const object : objects) {
+        const auto all = findingsAndDoubts(*object->getCMaterial(), vxInspector::shownSystem(*object->get_project()));
+        const QString label = QString::fromStdString(object->label.getValue());
+        materials += all.empty() ? 0 : 1;
+        for (const CheckedValue& one : all)
+            if (++found <= mostReported)
+                Kelta::MessageLog::warning(tr("\"%1\": %2").arg(label, one.text), linkTo(*object, one.slot));
+    }
+    tellOmitted(found);
+    return materials;
+}
+
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project)
 {
     CheckSummary summary;
     for (const Mat::MaterialObject* const object : Mat::materialsOf(project))
         checkMaterial(*object, summary);
-    if (summary.findings > mostReported)
-        Kelta::MessageLog::warning(tr("Further findings are not listed: %1.").arg(summary.findings - mostReported));
+    tellOmitted(summary.findings);
     if (const Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst())
         summary.unapplied = findUnapplied(*mainWindow, project).size();
     return summary;

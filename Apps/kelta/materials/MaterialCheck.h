@@ -5,11 +5,21 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
+#include <vector>
 
 namespace Mat {
 class DocumentMaterial;
 class MaterialObject;
 } // namespace Mat
+
+namespace vxMat {
+class MaterialBase;
+} // namespace vxMat
+
+namespace vxUnits {
+class UnitSystem;
+} // namespace vxUnits
 
 namespace desktop {
 
@@ -28,6 +38,21 @@ struct CheckSummary
 /// Checks all materials of a project by vxMat::checkMaterial and writes each finding, with the label of its material,
 /// to the message log as a warning that leads to the row of the finding; after the first 1000 findings only a line that says that there are more.
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project);
+
+/// A finding of vxMat::checkMaterial, or a doubt about a value (vxUnits/Plausibility.h), in the language of the user.
+struct CheckedValue
+{
+    std::int32_t slot = 0; ///< of the property to change; 0 for the whole material
+    QString text;
+};
+
+/// Returns the findings about a material, and then the doubts about its other values, with the numbers in a unit system. May
+/// be called in any thread.
+std::vector<CheckedValue> findingsAndDoubts(const vxMat::MaterialBase& material, const vxUnits::UnitSystem& shown);
+
+/// Checks materials that were imported. Writes what findingsAndDoubts() returns to the message log like checkAndReport().
+/// Returns the number of materials that it is about.
+std::size_t reportImported(const std::vector<const Mat::MaterialObject*>& objects);
 
 /// Returns the status of a material for the tree, by the same check.
 Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object);

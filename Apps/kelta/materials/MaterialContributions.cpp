@@ -15,9 +15,12 @@
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
+#include <QCoreApplication>
 #include <QKeySequence>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace desktop {
 
@@ -43,6 +46,24 @@ void chooseUnits()
     openProjectUnits(*currentMaterialProject(), *Gui::MainWindow::get_main_window_inst());
 }
 
+bool hasMaterials(const Mat::DocumentMaterial& project)
+{
+    const std::vector<Obj::ProjectObject*> objects = project.getObjects();
+    return std::any_of(objects.begin(), objects.end(), [](const Obj::ProjectObject* object) {
+        return dynamic_cast<const Mat::MaterialObject*>(object) != nullptr;
+    });
+}
+
+/// Returns the reason why there is nothing to export; empty if there is something.
+QString whyNotExported()
+{
+    const Mat::DocumentMaterial* const project = currentMaterialProject();
+    if (project == nullptr)
+        return QCoreApplication::translate(commandContext, "no material project is open");
+    return hasMaterials(*project) ? QString()
+                                  : QCoreApplication::translate(commandContext, "the project has no materials");
+}
+
 void addMaterialCommands(Gui::CommandController& commands)
 {
     Gui::addCommands(
@@ -58,10 +79,17 @@ void addMaterialCommands(Gui::CommandController& commands)
           Gui::CommandType::none,
           chooseUnits,
           [] { return currentMaterialProject() != nullptr; }},
-         {"Mat_ExportDeck", QT_TRANSLATE_NOOP("MaterialCommand", "&Export for solver..."),
-          QT_TRANSLATE_NOOP("MaterialCommand", "Write the materials in the input format of a solver"), "",
-          Qt::CTRL + Qt::SHIFT + Qt::Key_E, Gui::CommandType::none, [] { exportForSolver(); },
-          [] { return currentMaterialProject() != nullptr; }}});
+         {"Mat_ExportDeck",
+          QT_TRANSLATE_NOOP("MaterialCommand", "&Export for solver..."),
+          QT_TRANSLATE_NOOP("MaterialCommand", "Write the materials in the input format of a solver"),
+          "",
+          Qt::CTRL + Qt::SHIFT + Qt::Key_E,
+          Gui::CommandType::none,
+          [] { exportForSolver(); },
+          [] { return currentMaterialProject() != nullptr && hasMaterials(*currentMaterialProject()); },
+          {},
+          {},
+          whyNotExported}});
 }
 
 /// The keys of commands of the materials module, which has none for them.

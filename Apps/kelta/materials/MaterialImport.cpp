@@ -1,8 +1,10 @@
 #include "MaterialImport.h"
 
 #include "ImportUnits.h"
+#include "MaterialCheck.h"
 
 #include "Gui/CopyLabels.h"
+#include "Gui/MainWindow.h"
 #include "Kelta/MessageLog.h"
 #include "decks/DeckImport.h"
 #include "kelta/BusyCursor.h"
@@ -89,10 +91,27 @@ ImportStep makeStep(projectfile::ImportedMaterials materials, const QString& pat
     };
 }
 
+/// Checks the materials of a deck, and shows the findings.
+void reportFindings(const ImportOutcome& outcome)
+{
+    std::vector<const Mat::MaterialObject*> objects;
+    for (const Obj::ProjectObject* const object : outcome.objects)
+        objects.push_back(static_cast<const Mat::MaterialObject*>(object));
+    Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
+    if (reportImported(objects) > 0 && mainWindow != nullptr)
+        mainWindow->showMessages();
+}
+
 ImportStep readDeck(const DeckFile& file)
 {
     auto deck = importDeck(file);
-    return deck ? makeStep(std::move(deck->materials), file.path, deck->reports) : ImportStep();
+    if (!deck)
+        return {};
+    return [add = makeStep(std::move(deck->materials), file.path, deck->reports)](Obj::Project& project) {
+        ImportOutcome outcome = add(project);
+        reportFindings(outcome);
+        return outcome;
+    };
 }
 
 } // namespace

@@ -9,7 +9,9 @@
 #include "cells/CellReading.h"
 #include "cells/TypedValue.h"
 #include "decks/DeckExport.h"
+#include "decks/DeckMaking.h"
 #include "kelta/Batch.h"
+#include "vxInspector/units/ProjectUnits.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/exchange/CardSet.h"
 #include "vxMaterial/gui/FindingText.h"
@@ -203,12 +205,14 @@ Failure exportDeck(const QStringList& arguments)
     const vxDecks::FormatInfo* const format = vxDecks::findFormat(arguments[0].toStdString());
     if (format == nullptr)
         return tr("there is no solver \"%1\"; the solvers are: %2").arg(arguments[0], namesOfFormats());
-    if (arguments.size() == 2)
-        return exportForSolver(*project, format->format, arguments[1], std::nullopt);
-    const auto system = vxUnits::UnitSystem::parse(arguments[2].toStdString());
-    if (!system)
-        return vxInspector::translated(system.failure());
-    return exportForSolver(*project, format->format, arguments[1], *system);
+    DeckRequest request{vxInspector::deckForm(format->format, {}), vxInspector::shownSystem(*project)};
+    if (arguments.size() > 2) {
+        const auto system = vxUnits::UnitSystem::parse(arguments[2].toStdString());
+        if (!system)
+            return vxInspector::translated(system.failure());
+        request.units = *system;
+    }
+    return exportForSolver(*project, request, arguments[1]);
 }
 
 Failure printCards(const QStringList& arguments)

@@ -20,6 +20,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -59,6 +60,21 @@ QWidget* titled(QLabel* title, QWidget* view, QWidget* parent)
     return part;
 }
 
+/// Returns the title of the preview, which says what the preview leaves out.
+QString titleOf(const Beginning& beginning)
+{
+    const QString lines = QString::number(beginning.lines);
+    const QString all = QString::number(beginning.allLines);
+    const QString longest = QString::number(longestLine);
+    if (beginning.lines == beginning.allLines)
+        return beginning.hasCutLines ? DeckDialog::tr("&Preview (long lines are cut after %1 characters):").arg(longest)
+                                     : DeckDialog::tr("&Preview:");
+    return beginning.hasCutLines
+               ? DeckDialog::tr("&Preview (the first %1 of %2 lines, long lines cut after %3 characters):")
+                     .arg(lines, all, longest)
+               : DeckDialog::tr("&Preview (the first %1 of %2 lines):").arg(lines, all);
+}
+
 } // namespace
 
 DeckDialog::DeckDialog(const Mat::DocumentMaterial& project, QWidget& parent)
@@ -66,6 +82,8 @@ DeckDialog::DeckDialog(const Mat::DocumentMaterial& project, QWidget& parent)
       m_projectId(project.getProjectId()),
       m_selected(selectedIn(project)),
       m_formats(new QComboBox(this)),
+      m_formsTitle(new QLabel(this)),
+      m_forms(new QComboBox(this)),
       m_all(new QRadioButton(this)),
       m_onlySelected(new QRadioButton(this)),
       m_units(new UnitChoice(vxInspector::shownSystem(project), this)),
@@ -97,6 +115,11 @@ void DeckDialog::createFields(const Mat::DocumentMaterial& project)
     for (const vxDecks::FormatInfo& info : vxDecks::formats())
         m_formats->addItem(QString::fromLatin1(info.title), static_cast<int>(info.format));
     m_formats->setCurrentIndex(m_formats->findData(static_cast<int>(last.format)));
+    m_formsTitle->setText(tr("F&orm:"));
+    m_formsTitle->setBuddy(m_forms);
+    m_forms->setObjectName(QStringLiteral("deckForms"));
+    m_forms->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    offerForms(last.form);
     m_units->setSystem(last.units);
     m_all->setObjectName(QStringLiteral("allMaterials"));
     m_all->setText(tr("&All materials of the project (%1)").arg(Mat::materialsOf(project).size()));
@@ -131,11 +154,13 @@ QWidget* DeckDialog::buildChoices()
     layout->setContentsMargins({});
     layout->addWidget(formatTitle, 0, 0);
     layout->addWidget(m_formats, 1, 0);
-    layout->addWidget(m_all, 2, 0);
-    layout->addWidget(m_onlySelected, 3, 0);
+    layout->addWidget(m_formsTitle, 2, 0);
+    layout->addWidget(m_forms, 3, 0);
+    layout->addWidget(m_all, 4, 0);
+    layout->addWidget(m_onlySelected, 5, 0);
     layout->addWidget(unitsTitle, 0, 1);
-    layout->addWidget(m_units, 1, 1, 4, 1);
-    layout->setRowStretch(4, 1);
+    layout->addWidget(m_units, 1, 1, 6, 1);
+    layout->setRowStretch(6, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     return choices;
@@ -171,8 +196,12 @@ void DeckDialog::buildLayout()
 
 void DeckDialog::connectFields()
 {
-    const auto updateNow = [this] { Kelta::guarded(tr("The deck cannot be shown"), [this] { update(); }); };
-    connect(m_formats, qOverload<int>(&QComboBox::currentIndexChanged), this, updateNow);
+    const auto updateNow = [this] { Kelta::guarded(tr("The deck cannot be shown"), [this] { followChoices(); }); };
+    connect(m_formats, qOverload<int>(&QComboBox::currentIndexChanged), this, [this, updateNow] {
+        offerForms({});
+        updateNow();
+    });
+    connect(m_forms, qOverload<int>(&QComboBox::currentIndexChanged), this, updateNow);
     connect(m_units, &UnitChoice::edited, this, updateNow);
     connect(m_all, &QRadioButton::toggled, this,
             [this] { Kelta::guarded(tr("The deck cannot be shown"), [this] { takeMaterials(); }); });
@@ -181,6 +210,23 @@ void DeckDialog::connectFields()
 vxDecks::Format DeckDialog::format() const
 {
     return static_cast<vxDecks::Format>(m_formats->currentData().toInt());
+}
+
+std::string DeckDialog::form() const
+{
+    return m_forms->currentData().toString().toStdString();
+}
+
+/// Fills the list of forms for the chosen format. A format with a single form has no list.
+void DeckDialog::offerForms(const std::string& chosen)
+{
+    const QSignalBlocker blocker(m_forms);
+    m_forms->clear();
+    for (const vxInspector::DeckForm& one : vxInspector::deckForms(format()))
+        m_forms->addItem(one.title, QString::fromStdString(one.name));
+    m_forms->setCurrentIndex(std::max(m_forms->findData(QString::fromStdString(chosen)), 0));
+    m_forms->setHidden(m_forms->count() == 0);
+    m_formsTitle->setHidden(m_forms->count() == 0);
 }
 
 void DeckDialog::takeMaterials()
@@ -197,11 +243,11 @@ void DeckDialog::takeMaterials()
                                      }),
                       objects.end());
     m_source = copyForDeck(objects);
-    update();
+    followChoices();
 }
 
 /// The old text stays until the new one is made, so that the view does not flicker.
-void DeckDialog::update()
+void DeckDialog::followChoices()
 {
     m_export->setEnabled(false);
     m_made.reset();
@@ -217,9 +263,10 @@ void DeckDialog::update()
 
 void DeckDialog::makeDeck(const vxUnits::UnitSystem& units)
 {
-    m_making.begin([this, source = m_source, format = format(), units]() -> LatestTask::Finish {
+    const DeckRequest request{vxInspector::deckForm(format(), form()), units};
+    m_making.begin([this, source = m_source, request](const std::atomic<bool>&) -> LatestTask::Finish {
         try {
-            auto made = std::make_shared<const MadeDeck>(desktop::makeDeck(*source, format, units));
+            auto made = std::make_shared<const MadeDeck>(desktop::makeDeck(*source, request));
             return [this, made = std::move(made)] {
                 Kelta::guarded(tr("The deck cannot be shown"), [&] { showDeck(made); });
             };
@@ -241,10 +288,7 @@ void DeckDialog::showDeck(std::shared_ptr<const MadeDeck> made)
     m_made = std::move(made);
     const Beginning& beginning = m_made->beginning;
     m_preview->setPlainText(beginning.text);
-    m_previewTitle->setText(
-        beginning.lines == beginning.allLines
-            ? tr("&Preview:")
-            : tr("&Preview (the first %1 of %2 lines):").arg(beginning.lines).arg(beginning.allLines));
+    m_previewTitle->setText(titleOf(beginning));
     m_report->setLines(m_made->lines);
     QStringList sentences{m_made->summary, vxInspector::deckRemarks(m_made->deck.report)};
     if (!m_source->settings.isEmpty())
@@ -278,7 +322,7 @@ void DeckDialog::exportDeck()
     // The project may have been closed while the user answered.
     project = findProject(m_projectId);
     if (project != nullptr)
-        keepChoice({format(), m_units->system()}, *project);
+        keepChoice({format(), form(), m_units->system()}, *project);
     QDialog::accept();
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 class QComboBox;
@@ -30,7 +31,7 @@ namespace desktop {
 class DeckReportView;
 class UnitChoice;
 
-/// The dialog of the export for a solver: format, units and materials of the deck, and below them the beginning of its text
+/// The dialog of the export for a solver: format, form, units and materials of the deck, and below them the beginning of its text
 /// and the report of what it carries, converts, approximates and loses. Both follow the choices; they are made in another
 /// thread. "Export" asks for the file. The dialog stays open if no file is written.
 class DeckDialog : public QDialog
@@ -51,8 +52,10 @@ private:
     QWidget* buildChoices();
     QWidget* buildViews();
     vxDecks::Format format() const;
+    std::string form() const;
+    void offerForms(const std::string& chosen);
     void takeMaterials();
-    void update();
+    void followChoices();
     void makeDeck(const vxUnits::UnitSystem& units);
     void clearDeck();
     void showDeck(std::shared_ptr<const MadeDeck> made);
@@ -65,6 +68,8 @@ private:
     std::shared_ptr<const MadeDeck> m_made; ///< null while it is being made, and if it cannot be made
     LatestTask m_making;
     QComboBox* m_formats; // in the order of the keyboard
+    QLabel* m_formsTitle;
+    QComboBox* m_forms;
     QRadioButton* m_all;
     QRadioButton* m_onlySelected;
     UnitChoice* m_units;

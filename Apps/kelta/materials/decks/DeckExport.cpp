@@ -13,7 +13,6 @@
 #include "kelta/BusyCursor.h"
 #include "kelta/UnappliedEdits.h"
 #include "projectfile/ProjectStore.h"
-#include "vxInspector/units/ProjectUnits.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
 
@@ -99,6 +98,7 @@ DeckChoice lastChoice(const Obj::Project& project)
     DeckChoice choice;
     if (const vxDecks::FormatInfo* const format = vxDecks::findFormat(project.getSetting(deckFormatSetting)))
         choice.format = format->format;
+    choice.form = project.getSetting(deckFormSetting);
     choice.units = QString::fromStdString(project.getSetting(deckUnitsSetting));
     return choice;
 }
@@ -106,6 +106,7 @@ DeckChoice lastChoice(const Obj::Project& project)
 void keepChoice(const DeckChoice& choice, Obj::Project& project)
 {
     project.setSetting(deckFormatSetting, vxDecks::infoOf(choice.format).name);
+    project.setSetting(deckFormSetting, choice.form);
     project.setSetting(deckUnitsSetting, choice.units.toStdString());
 }
 
@@ -144,14 +145,13 @@ void exportForSolver()
         openDeckDialog(project, *Gui::MainWindow::get_main_window_inst());
 }
 
-std::optional<QString> exportForSolver(Mat::DocumentMaterial& project, vxDecks::Format format, const QString& path,
-                                       const std::optional<vxUnits::UnitSystem>& units)
+std::optional<QString> exportForSolver(Mat::DocumentMaterial& project, const DeckRequest& request, const QString& path)
 {
     if (!mayExport(project))
         return tr("The materials were not exported.");
     const BusyCursor busy;
     const auto source = copyForDeck(Mat::materialsOf(project));
-    const MadeDeck made = makeDeck(*source, format, units.value_or(vxInspector::shownSystem(project)));
+    const MadeDeck made = makeDeck(*source, request);
     return saveDeck(made, *source, path, *Gui::MainWindow::get_main_window_inst())
                ? std::nullopt
                : std::optional(tr("The materials were not exported."));

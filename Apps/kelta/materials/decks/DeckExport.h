@@ -1,11 +1,11 @@
 #pragma once
 
 #include "vxDecks/Format.h"
-#include "vxUnits/UnitSystem.h"
 
 #include <QString>
 
 #include <optional>
+#include <string>
 
 class QWidget;
 
@@ -19,19 +19,23 @@ class Project;
 
 namespace desktop {
 
+struct DeckRequest;
 struct DeckSource;
 struct MadeDeck;
 
-/// The settings of a project with the format and the unit system of its last deck. The setting of the units has the text
+/// The settings of a project with the format, its form and the unit system of the last deck. The setting of the form has the
+/// name of a form, see vxInspector/decks/DeckForms.h, and is empty for the usual one. The setting of the units has the text
 /// of a system, and is missing for that of the project.
 inline constexpr const char* deckFormatSetting = "deck_format";
+inline constexpr const char* deckFormSetting = "deck_form";
 inline constexpr const char* deckUnitsSetting = "deck_units";
 
 /// What the user chose for the last deck of a project.
 struct DeckChoice
 {
     vxDecks::Format format = vxDecks::Format::Calculix;
-    QString units; ///< the text of a system; empty for that of the project
+    std::string form; ///< the name of a form of the format; empty for the usual one
+    QString units;    ///< the text of a system; empty for that of the project
 };
 
 /// Returns what the user chose for the last deck of a project; the first format and the units of the project if there was
@@ -53,9 +57,7 @@ bool saveDeck(const MadeDeck& made, const DeckSource& source, const QString& pat
 /// Asks about changes that are not applied, and opens the dialog of the export for the current project.
 void exportForSolver();
 
-/// Writes the materials of a project to a file in a format, in the units of the project if none are given; for a list of
-/// commands. Returns the reason if that fails.
-std::optional<QString> exportForSolver(Mat::DocumentMaterial& project, vxDecks::Format format, const QString& path,
-                                       const std::optional<vxUnits::UnitSystem>& units);
+/// Writes the materials of a project to a file; for a list of commands. Returns the reason if that fails.
+std::optional<QString> exportForSolver(Mat::DocumentMaterial& project, const DeckRequest& request, const QString& path);
 
 } // namespace desktop

@@ -4,7 +4,6 @@
 
 #include "Gui/MainWindow.h"
 #include "decks/ImportDeckDialog.h"
-#include "kelta/BusyCursor.h"
 #include "vxInspector/decks/DeckLines.h"
 #include "vxUnits/SystemFit.h"
 
@@ -50,6 +49,34 @@ QByteArray beginningOf(const QString& path)
     return file.read(static_cast<qint64>(vxDecks::recognisedLength));
 }
 
+/// A file whose reading fails when it is stopped.
+class StoppableFile : public std::filebuf
+{
+public:
+    explicit StoppableFile(const std::atomic<bool>* isStopped) : m_isStopped(isStopped) {}
+
+protected:
+    int_type underflow() override
+    {
+        check();
+        return std::filebuf::underflow();
+    }
+    std::streamsize xsgetn(char* text, std::streamsize count) override
+    {
+        check();
+        return std::filebuf::xsgetn(text, count);
+    }
+
+private:
+    void check() const
+    {
+        if (m_isStopped != nullptr && *m_isStopped)
+            throw std::ios_base::failure("stopped");
+    }
+
+    const std::atomic<bool>* m_isStopped; ///< null if the reading cannot be stopped
+};
+
 /// Returns a sentence for the message log.
 std::string sentence(const DeckLine& line)
 {
@@ -81,14 +108,6 @@ ImportedDeck makeImported(ReadDeck deck)
     return imported;
 }
 
-void requireMaterials(const DeckFile& file, const ReadDeck& deck)
-{
-    if (deck.materials.empty())
-        throw errorAbout(
-            file.path,
-            tr("This deck of %1 has no materials.").arg(QString::fromLatin1(vxDecks::infoOf(file.format).title)));
-}
-
 /// Reads a deck for a list of commands. Doubts that its numbers are in the given system if they look like another one.
 ImportedDeck importUnasked(const DeckFile& file, const std::optional<UnitSystem>& units)
 {
@@ -118,16 +137,25 @@ std::optional<DeckFile> recogniseDeck(const QString& path)
     return DeckFile{path, *format, vxDecks::declaredUnits(*format, text)};
 }
 
-ReadDeck readDeckFile(const DeckFile& file, const std::optional<UnitSystem>& units)
+ReadDeck readDeckFile(const DeckFile& file, const std::optional<UnitSystem>& units, const std::atomic<bool>* isStopped)
 {
-    std::ifstream stream(QFile::encodeName(file.path).constData(), std::ios::binary);
-    if (!stream)
+    StoppableFile content(isStopped);
+    if (content.open(QFile::encodeName(file.path).constData(), std::ios::in | std::ios::binary) == nullptr)
         throw errorAbout(file.path, tr("The file cannot be opened."));
+    std::istream stream(&content);
     try {
         return vxDecks::readDeck(file.format, stream, {units});
     } catch (const vxDecks::DeckError& error) {
         throw errorAbout(file.path, QString::fromStdString(error.text(translate)));
     }
+}
+
+void requireMaterials(const DeckFile& file, const ReadDeck& deck)
+{
+    if (deck.materials.empty())
+        throw errorAbout(
+            file.path,
+            tr("This deck of %1 has no materials.").arg(QString::fromLatin1(vxDecks::infoOf(file.format).title)));
 }
 
 std::string fittingSystem(const ReadDeck& asIs, const UnitSystem& assumed)
@@ -142,13 +170,7 @@ std::optional<ImportedDeck> importDeck(const DeckFile& file)
 {
     if (const auto* const unasked = UnaskedImport::current())
         return importUnasked(file, unasked->system());
-    std::shared_ptr<const ReadDeck> asIs;
-    {
-        const BusyCursor busy;
-        asIs = std::make_shared<const ReadDeck>(readDeckFile(file, UnitSystem::si()));
-    }
-    requireMaterials(file, *asIs);
-    ImportDeckDialog dialog(file, std::move(asIs), Gui::MainWindow::get_main_window_inst());
+    ImportDeckDialog dialog(file, Gui::MainWindow::get_main_window_inst());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return makeImported(dialog.takeDeck());

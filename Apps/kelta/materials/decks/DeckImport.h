@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <optional>
 #include <string>
 
@@ -24,9 +25,15 @@ struct DeckFile
 /// is not a regular file that can be read.
 std::optional<DeckFile> recogniseDeck(const QString& path);
 
-/// Reads a deck; without a unit system, in the units that it declares. May be called in any thread.
+/// Reads a deck; without a unit system, in the units that it declares. Ends early with an exception when the flag becomes
+/// true, unless it is null. May be called in any thread.
 /// \throws std::runtime_error with the path and the reason, in the user's language
-vxDecks::ReadDeck readDeckFile(const DeckFile& file, const std::optional<vxUnits::UnitSystem>& units);
+vxDecks::ReadDeck readDeckFile(const DeckFile& file, const std::optional<vxUnits::UnitSystem>& units,
+                               const std::atomic<bool>* isStopped = nullptr);
+
+/// Throws if a deck has no materials.
+/// \throws std::runtime_error with the path, in the user's language
+void requireMaterials(const DeckFile& file, const vxDecks::ReadDeck& deck);
 
 /// Returns the name of the built-in unit system that the numbers of a deck fit better than an assumed one; empty if there is
 /// none. `asIs` is the deck as readDeckFile() reads it in SI, so that its numbers are those of the file.
@@ -39,9 +46,10 @@ struct ImportedDeck
     QStringList reports;                      ///< further sentences for the message log
 };
 
-/// Reads a deck. Asks the user for the unit system, and shows the report, before. Absent if the user cancels. While an
-/// UnaskedImport lives, asks nothing: the numbers are in its system, or in the one that the deck declares.
-/// \throws std::runtime_error if the deck cannot be read or has no materials
+/// Reads a deck in a dialog, in which the user chooses the unit system and sees the report, or why the deck cannot be read.
+/// Absent if the user cancels. While an UnaskedImport lives, asks nothing: the numbers are in its system, or in the one that
+/// the deck declares.
+/// \throws std::runtime_error without a dialog, if the deck cannot be read or has no materials
 std::optional<ImportedDeck> importDeck(const DeckFile& file);
 
 /// Returns the patterns of the names of decks that can be read, for file dialogs: "*.inp *.k".

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <set>
+#include <string_view>
 #include <utility>
 
 namespace desktop {
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::size_t mostLines = 2000;
 constexpr int longestBeginning = 400000;
+constexpr std::size_t mostBytesOfLine = 4U * longestLine; // a character has at most four
 
 /// Returns a sentence about the data that a project keeps beside materials, such as measurements; empty if there is none.
 QString describeSettings(const std::vector<Mat::MaterialObject*>& objects)
@@ -31,23 +33,36 @@ QString describeSettings(const std::vector<Mat::MaterialObject*>& objects)
                                .arg(QStringList(names.begin(), names.end()).join(QStringLiteral(", ")));
 }
 
+/// Returns the beginning of a line, without a part of a character at its end.
+QString shortened(QString line)
+{
+    line.truncate(longestLine);
+    if (line.at(line.size() - 1).isHighSurrogate())
+        line.chop(1);
+    return line + QChar(0x2026);
+}
+
+} // namespace
+
 Beginning beginningOf(const std::string& text)
 {
     Beginning beginning;
     beginning.allLines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-    std::size_t end = 0;
-    while (beginning.lines < mostLines && end < static_cast<std::size_t>(longestBeginning)) {
-        const std::size_t newline = text.find('\n', end);
-        if (newline == std::string::npos)
-            break;
-        end = newline + 1;
+    beginning.allLines += text.empty() || text.back() == '\n' ? 0 : 1;
+    std::string_view rest = text;
+    while (!rest.empty() && beginning.lines < mostLines && beginning.text.size() < longestBeginning) {
+        const std::size_t newline = std::min(rest.find('\n'), rest.size());
+        const QString line = QString::fromUtf8(rest.data(), static_cast<int>(std::min(newline, mostBytesOfLine)));
+        const bool isCut = newline > mostBytesOfLine || line.size() > longestLine;
+        beginning.text += isCut ? shortened(line) : line;
+        if (newline < rest.size())
+            beginning.text += QLatin1Char('\n');
+        beginning.hasCutLines |= isCut;
         ++beginning.lines;
+        rest.remove_prefix(std::min(newline + 1, rest.size()));
     }
-    beginning.text = QString::fromUtf8(text.data(), static_cast<int>(end));
     return beginning;
 }
-
-} // namespace
 
 std::shared_ptr<const DeckSource> copyForDeck(const std::vector<Mat::MaterialObject*>& objects)
 {
@@ -64,10 +79,11 @@ std::shared_ptr<const DeckSource> copyForDeck(const std::vector<Mat::MaterialObj
     return source;
 }
 
-MadeDeck makeDeck(const DeckSource& source, vxDecks::Format format, const vxUnits::UnitSystem& units)
+MadeDeck makeDeck(const DeckSource& source, const DeckRequest& request)
 {
     MadeDeck made;
-    made.deck = vxDecks::writeDeck(format, source.materials, {units, std::nullopt});
+    made.deck = vxDecks::writeDeck(request.form.format, source.materials,
+                                   {request.units, std::nullopt, request.form.dialect, request.form.fields});
     made.beginning = beginningOf(made.deck.text);
     made.lines = vxInspector::deckLines(made.deck.report);
     made.summary = vxInspector::deckSummary(made.deck.report);

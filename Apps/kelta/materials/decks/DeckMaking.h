@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vxDecks/Deck.h"
+#include "vxInspector/decks/DeckForms.h"
 #include "vxInspector/decks/DeckLines.h"
 #include "vxMaterial/model/Material.h"
 
@@ -8,6 +9,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace Mat {
@@ -28,12 +30,26 @@ struct DeckSource
 /// Copies materials, with their labels as names and the numbers that they have in their project.
 std::shared_ptr<const DeckSource> copyForDeck(const std::vector<Mat::MaterialObject*>& objects);
 
-/// The beginning of a text, as many lines as a view shows without delay.
+/// The beginning of a text, as much of it as a view shows without delay.
 struct Beginning
 {
     QString text;
     std::size_t lines = 0;    ///< of `text`
     std::size_t allLines = 0; ///< of the whole text
+    bool hasCutLines = false; ///< whether a line of `text` ends after longestLine characters, with an ellipsis
+};
+
+/// The number of characters of a line that a view shows.
+inline constexpr int longestLine = 1000;
+
+/// Returns the beginning of a text in UTF-8.
+Beginning beginningOf(const std::string& text);
+
+/// How a user wants a deck.
+struct DeckRequest
+{
+    vxInspector::DeckForm form;
+    vxUnits::UnitSystem units = vxUnits::UnitSystem::si();
 };
 
 /// A deck, and what a user sees of it.
@@ -46,6 +62,6 @@ struct MadeDeck
 };
 
 /// Makes a deck. May be called in any thread.
-MadeDeck makeDeck(const DeckSource& source, vxDecks::Format format, const vxUnits::UnitSystem& units);
+MadeDeck makeDeck(const DeckSource& source, const DeckRequest& request);
 
 } // namespace desktop

@@ -4,13 +4,19 @@
 
 #include "Kelta/Exceptions.h"
 #include "decks/DeckReportView.h"
+#include "decks/ValuesOfDeckModel.h"
 
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -19,14 +25,32 @@ namespace desktop {
 using vxDecks::ReadDeck;
 using vxUnits::UnitSystem;
 
-ImportDeckDialog::ImportDeckDialog(DeckFile file, std::shared_ptr<const ReadDeck> asIs, QWidget* parent)
+namespace {
+
+/// Returns a widget with a title above a view.
+QWidget* titled(const QString& title, QWidget* view, QWidget* parent)
+{
+    auto* const part = new QWidget(parent);
+    auto* const label = new QLabel(title, part);
+    label->setBuddy(view);
+    auto* const layout = new QVBoxLayout(part);
+    layout->setContentsMargins({});
+    layout->addWidget(label);
+    layout->addWidget(view, 1);
+    return part;
+}
+
+} // namespace
+
+ImportDeckDialog::ImportDeckDialog(DeckFile file, QWidget* parent)
     : QDialog(parent),
       m_file(std::move(file)),
-      m_asIs(std::move(asIs)),
       m_title(new QLabel(this)),
       m_unitsTitle(new QLabel(this)),
       m_units(new UnitChoice(UnitChoice::Preference::Undecided, this)),
       m_doubt(new QLabel(this)),
+      m_materials(new QTableView(this)),
+      m_values(new ValuesOfDeckModel(this)),
       m_report(new DeckReportView(this)),
       m_summary(new QLabel(this)),
       m_import(new QPushButton(tr("&Import"), this))
@@ -36,22 +60,22 @@ ImportDeckDialog::ImportDeckDialog(DeckFile file, std::shared_ptr<const ReadDeck
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setWindowTitle(tr("Import deck"));
     createFields();
+    createMaterials();
     buildLayout();
-    resize(800, 560);
-    proposeUnits();
+    resize(900, 640);
+    askForUnits();
     connect(m_units, &UnitChoice::edited, this,
-            [this] { Kelta::guarded(tr("The deck cannot be shown"), [this] { update(); }); });
-    update();
+            [this] { Kelta::guarded(tr("The deck cannot be shown"), [this] { unitsChosen(); }); });
+    readFile();
 }
 
 ImportDeckDialog::~ImportDeckDialog() = default;
 
 void ImportDeckDialog::createFields()
 {
-    m_title->setText(tr("\"%1\" is a deck of %2. Materials: %3")
-                         .arg(QFileInfo(m_file.path).fileName(),
-                              QString::fromLatin1(vxDecks::infoOf(m_file.format).title),
-                              QString::number(m_asIs->materials.size())));
+    m_title->setText(
+        tr("\"%1\" is a deck of %2.")
+            .arg(QFileInfo(m_file.path).fileName(), QString::fromLatin1(vxDecks::infoOf(m_file.format).title)));
     m_unitsTitle->setBuddy(m_units);
     m_doubt->setObjectName(QStringLiteral("unitDoubt"));
     m_summary->setObjectName(QStringLiteral("deckSummary"));
@@ -62,78 +86,95 @@ void ImportDeckDialog::createFields()
     m_unitsTitle->setWordWrap(true);
 }
 
+void ImportDeckDialog::createMaterials()
+{
+    m_materials->setObjectName(QStringLiteral("materialsOfDeck"));
+    m_materials->setAccessibleName(tr("Materials"));
+    m_materials->setModel(m_values);
+    m_materials->setTabKeyNavigation(false);
+    m_materials->setEditTriggers(QTableView::NoEditTriggers);
+    m_materials->setSelectionBehavior(QTableView::SelectRows);
+    m_materials->setAlternatingRowColors(true);
+    m_materials->setShowGrid(false);
+    m_materials->verticalHeader()->hide();
+    QHeaderView& header = *m_materials->horizontalHeader();
+    header.setHighlightSections(false);
+    header.setStretchLastSection(true);
+    header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header.setResizeContentsPrecision(100); // the rows that decide the widths
+}
+
 void ImportDeckDialog::buildLayout()
 {
-    auto* const reportTitle = new QLabel(tr("&Report:"), this);
-    reportTitle->setBuddy(m_report);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->addButton(m_import, QDialogButtonBox::AcceptRole);
     m_import->setDefault(true);
+    auto* const views = new QSplitter(Qt::Vertical, this);
+    views->addWidget(titled(tr("&Materials:"), m_materials, views));
+    views->addWidget(titled(tr("&Report:"), m_report, views));
+    views->setChildrenCollapsible(false);
     auto* const layout = new QVBoxLayout(this);
-    for (QWidget* const part :
-         {static_cast<QWidget*>(m_title), static_cast<QWidget*>(m_unitsTitle), static_cast<QWidget*>(m_units),
-          static_cast<QWidget*>(m_doubt), static_cast<QWidget*>(reportTitle)})
+    for (QWidget* const part : {static_cast<QWidget*>(m_title), static_cast<QWidget*>(m_unitsTitle),
+                                static_cast<QWidget*>(m_units), static_cast<QWidget*>(m_doubt)})
         layout->addWidget(part);
-    layout->addWidget(m_report, 1);
+    layout->addWidget(views, 1);
     layout->addWidget(m_summary);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &ImportDeckDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ImportDeckDialog::reject);
 }
 
-void ImportDeckDialog::proposeUnits()
+void ImportDeckDialog::askForUnits()
 {
     const bool hasUnits = vxDecks::hasOwnUnits(m_file.format);
     m_units->setHidden(hasUnits);
     m_doubt->setHidden(hasUnits);
-    if (hasUnits)
-        return m_unitsTitle->setText(tr("Each number in the file has its unit."));
-    m_units->setFocus();
-    if (m_file.declared) {
-        m_unitsTitle->setText(tr("&Unit system of the numbers, which the file declares:"));
-        return m_units->setSystem(QString::fromStdString(m_file.declared->text()));
+    if (hasUnits) {
+        m_unitsTitle->setText(tr("Each number in the file has its unit."));
+        m_materials->setFocus();
+        return;
     }
-    const std::string fitting = fittingSystem(*m_asIs, UnitSystem::si());
-    if (fitting.empty())
-        return m_unitsTitle->setText(tr("&Unit system of the numbers, which the file does not say:"));
-    m_unitsTitle->setText(tr("&Unit system of the numbers, which the file does not say. They look like %1:")
-                              .arg(QString::fromStdString(fitting)));
-    m_units->setSystem(QString::fromStdString(fitting));
+    m_units->setFocus();
+    m_unitsTitle->setText(m_file.declared ? tr("&Unit system of the numbers, which the file declares:")
+                                          : tr("&Unit system of the numbers, which the file does not say:"));
+    if (m_file.declared)
+        m_units->setSystem(QString::fromStdString(m_file.declared->text()));
 }
 
-/// Returns a sentence if the numbers look like another system than the chosen one; an empty text otherwise.
-QString ImportDeckDialog::doubtAbout(const UnitSystem& units) const
+/// Returns the units that the user has chosen or the file declares; absent if each number has its unit.
+std::optional<UnitSystem> ImportDeckDialog::chosenUnits() const
 {
-    const std::string fitting = fittingSystem(*m_asIs, units);
-    return fitting.empty() ? QString()
-                           : tr("The numbers look like %1. In %2, they would be unusual.")
-                                 .arg(QString::fromStdString(fitting), QString::fromStdString(units.text()));
+    if (vxDecks::hasOwnUnits(m_file.format))
+        return std::nullopt;
+    const auto units = m_units->read();
+    return units ? std::optional<UnitSystem>(*units) : std::nullopt;
 }
 
-void ImportDeckDialog::update()
+void ImportDeckDialog::unitsChosen()
+{
+    m_hasChosen = true;
+    readFile();
+}
+
+/// Reads the file for the choice that the dialog shows now. The old tables stay until they are replaced, so that they do
+/// not flicker.
+void ImportDeckDialog::readFile()
 {
     m_import->setEnabled(false);
-    m_reading.reset();
-    m_task.drop();
-    if (vxDecks::hasOwnUnits(m_file.format))
-        return read(std::nullopt);
-    const auto units = m_units->read();
-    m_doubt->setText(units ? doubtAbout(*units) : QString());
-    if (units)
-        return read(*units);
-    m_report->setLines({});
-    m_summary->setText(tr("Choose the unit system; then the report is shown."));
-}
-
-void ImportDeckDialog::read(const std::optional<UnitSystem>& units)
-{
+    m_preview.reset();
     m_summary->setText(tr("The deck is being read..."));
-    m_task.begin([this, file = m_file, units]() -> LatestTask::Finish {
+    const auto units = chosenUnits();
+    const bool isDecided = units || vxDecks::hasOwnUnits(m_file.format);
+    m_task.begin([this, file = m_file, survey = m_survey, units,
+                  isDecided](const std::atomic<bool>& isDropped) -> LatestTask::Finish {
         try {
-            auto reading = std::make_shared<Reading>();
-            reading->deck = readDeckFile(file, units);
-            reading->lines = vxInspector::deckLines(reading->deck.report);
-            reading->summary = vxInspector::deckSummary(reading->deck.report);
+            Reading reading;
+            const bool isCurrent = survey != nullptr && survey->state == stateOf(file.path);
+            reading.survey = isCurrent ? survey : surveyDeck(file, isDropped);
+            if (isDecided)
+                reading.preview = previewDeck(file, *reading.survey, units, isDropped);
+            else
+                reading.values = valuesOf(*reading.survey, std::nullopt);
             return [this, reading = std::move(reading)] {
                 Kelta::guarded(tr("The deck cannot be shown"), [&] { showReading(reading); });
             };
@@ -143,29 +184,87 @@ void ImportDeckDialog::read(const std::optional<UnitSystem>& units)
     });
 }
 
-void ImportDeckDialog::showReading(std::shared_ptr<Reading> reading)
+void ImportDeckDialog::showReading(const Reading& reading)
 {
-    m_reading = std::move(reading);
-    m_report->setLines(m_reading->lines);
-    m_summary->setText(m_reading->summary + QLatin1Char(' ') + vxInspector::deckRemarks(m_reading->deck.report));
+    const bool isNew = reading.survey != m_survey;
+    m_survey = reading.survey;
+    if (isNew && proposeUnits())
+        return readFile();
+    if (reading.preview != nullptr)
+        return showPreview(reading.preview);
+    showValues(reading.values);
+    m_report->setLines({});
+    m_doubt->setText(m_hasChosen || !m_survey->fitting.empty()
+                         ? QString()
+                         : tr("The numbers are usual in several unit systems, so that none is proposed."));
+    m_summary->setText(tr("Choose the unit system; then the report is shown."));
+}
+
+/// Shows what the survey has found. Returns whether it proposes a unit system; the user's own choice stays.
+bool ImportDeckDialog::proposeUnits()
+{
+    m_title->setText(tr("\"%1\" is a deck of %2. Materials: %3")
+                         .arg(QFileInfo(m_file.path).fileName(),
+                              QString::fromLatin1(vxDecks::infoOf(m_file.format).title),
+                              QString::number(m_survey->asIs.materials.size())));
+    if (vxDecks::hasOwnUnits(m_file.format) || m_file.declared || m_survey->fitting.empty())
+        return false;
+    const QString fitting = QString::fromStdString(m_survey->fitting);
+    m_unitsTitle->setText(
+        tr("&Unit system of the numbers, which the file does not say. They look like %1:").arg(fitting));
+    if (m_hasChosen)
+        return false;
+    const QSignalBlocker blocker(m_units);
+    m_units->setSystem(fitting);
+    return true;
+}
+
+void ImportDeckDialog::showValues(const ValuesOfDeck& values)
+{
+    m_values->setValues(values);
+    m_materials->resizeColumnsToContents();
+    // Long names leave room for the numbers.
+    m_materials->setColumnWidth(0, std::min(m_materials->columnWidth(0), m_materials->viewport()->width() / 3));
+}
+
+void ImportDeckDialog::showPreview(std::shared_ptr<DeckPreview> preview)
+{
+    m_preview = std::move(preview);
+    showValues(m_preview->values);
+    m_report->setLines(m_preview->lines);
+    const auto units = chosenUnits();
+    const bool isProposed = units && !m_file.declared && units->text() == m_survey->fitting;
+    m_doubt->setText(isProposed && m_preview->doubt.isEmpty() ? m_survey->reason : m_preview->doubt);
+    QStringList sentences{m_preview->summary, vxInspector::deckRemarks(m_preview->deck.report)};
+    if (m_preview->withFindings > 0)
+        sentences << tr("Materials with findings: %1.").arg(m_preview->withFindings);
+    if (m_hasFileChanged)
+        sentences.prepend(tr("The file has changed and was read again. Check the report before you import it."));
+    m_summary->setText(sentences.join(QLatin1Char(' ')));
     m_import->setEnabled(true);
 }
 
 void ImportDeckDialog::showFailure(const QString& reason)
 {
+    showValues({});
     m_report->setLines({});
+    m_doubt->clear();
     m_summary->setText(reason);
 }
 
 ReadDeck ImportDeckDialog::takeDeck()
 {
-    return std::move(m_reading->deck);
+    return std::move(m_preview->deck);
 }
 
 void ImportDeckDialog::accept()
 {
-    if (m_reading != nullptr)
-        QDialog::accept();
+    if (m_preview == nullptr)
+        return;
+    if (m_survey->state == stateOf(m_file.path))
+        return QDialog::accept();
+    m_hasFileChanged = true;
+    readFile();
 }
 
 } // namespace desktop

@@ -11,7 +11,10 @@ LatestTask::LatestTask(QObject* parent) : QObject(parent)
     connect(&m_watcher, &QFutureWatcherBase::finished, this, &LatestTask::finish);
 }
 
-LatestTask::~LatestTask() = default;
+LatestTask::~LatestTask()
+{
+    drop();
+}
 
 void LatestTask::begin(Work work)
 {
@@ -20,21 +23,23 @@ void LatestTask::begin(Work work)
         m_next = std::move(work);
         return;
     }
-    m_isWanted = true;
-    m_watcher.setFuture(QtConcurrent::run(std::move(work)));
+    m_isDropped = std::make_shared<std::atomic<bool>>(false);
+    m_watcher.setFuture(
+        QtConcurrent::run([work = std::move(work), isDropped = m_isDropped] { return work(*isDropped); }));
 }
 
 void LatestTask::drop()
 {
     m_next.reset();
-    m_isWanted = false;
+    if (const auto isDropped = std::exchange(m_isDropped, nullptr))
+        *isDropped = true;
 }
 
 void LatestTask::finish()
 {
     if (m_next)
         return begin(*std::exchange(m_next, std::nullopt));
-    if (std::exchange(m_isWanted, false))
+    if (std::exchange(m_isDropped, nullptr) != nullptr)
         m_watcher.result()();
 }
 

@@ -3,13 +3,15 @@
 #include <QFutureWatcher>
 #include <QObject>
 
+#include <atomic>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace desktop {
 
 /// Carries out works in another thread, one at a time. A new work replaces the ones before it: those that have not begun are
-/// dropped, and the result of the present one is. The destructor waits for nothing.
+/// dropped, and the present one is told that its result is not wanted. The destructor drops all works and waits for nothing.
 class LatestTask : public QObject
 {
     Q_OBJECT
@@ -17,8 +19,9 @@ class LatestTask : public QObject
 public:
     /// Uses the result, in the thread of the task.
     using Finish = std::function<void()>;
-    /// Does the work in another thread. Refers to nothing that may be destroyed before it ends. Throws nothing.
-    using Work = std::function<Finish()>;
+    /// Does the work in another thread. Ends early, with any result, when the flag becomes true. Refers to nothing that may
+    /// be destroyed before it ends. Throws nothing.
+    using Work = std::function<Finish(const std::atomic<bool>& isDropped)>;
 
     explicit LatestTask(QObject* parent = nullptr);
     ~LatestTask() override;
@@ -33,8 +36,8 @@ private:
     void finish();
 
     QFutureWatcher<Finish> m_watcher;
-    std::optional<Work> m_next; ///< that begins when the present one has ended
-    bool m_isWanted = false;    ///< whether the result of the present work is used
+    std::optional<Work> m_next;                     ///< that begins when the present one has ended
+    std::shared_ptr<std::atomic<bool>> m_isDropped; ///< of the present work; null if its result is not used
 };
 
 } // namespace desktop

@@ -3,7 +3,9 @@
 #include "MaterialsTesting.h"
 #include "UnitChoice.h"
 
+#include "Gui/CommandController.h"
 #include "Gui/FileDialog.h"
+#include "Gui/GuiApplication.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "decks/DeckDialog.h"
@@ -11,10 +13,14 @@
 #include "projectfile/ProjectStore.h"
 #include "vxInspector/units/ProjectUnits.h"
 #include "vxMaterial/model/MatDBManager.h"
+#include "vxMaterial/model/PropertyId.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -137,6 +143,126 @@ TEST_F(DeckExport, FollowsFormatAndUnits)
     EXPECT_THAT(preview(), HasSubstr("*ELASTIC\n2e5, 0.3\n"));
     EXPECT_THAT(report(),
                 Contains(testing::AllOf(testing::StartsWith("Converted|"), HasSubstr("in MPa instead of Pa"))));
+}
+
+/// Returns the entries of a list.
+QStringList entriesOf(const QComboBox& list)
+{
+    QStringList entries;
+    for (int i = 0; i < list.count(); ++i)
+        entries << list.itemText(i);
+    return entries;
+}
+
+TEST_F(DeckExport, OffersTheFormsThatTheFormatHas)
+{
+    open();
+    const QComboBox& forms = part<QComboBox>("deckForms");
+    EXPECT_EQ(entriesOf(forms),
+              QStringList({"As CalculiX reads it", "As the commercial relative of CalculiX reads it"}));
+    choose("Nastran");
+    EXPECT_TRUE(forms.isVisible());
+    EXPECT_EQ(entriesOf(forms), QStringList({"Fields of 8 characters, of 16 if a number needs them",
+                                             "Small fields: 8 characters, numbers are rounded",
+                                             "Large fields: 16 characters", "Free fields, separated by commas"}));
+    for (const char* const format : {"Mechanical APDL", "LS-DYNA", "Elmer", "MatML"}) {
+        choose(format);
+        EXPECT_FALSE(forms.isVisible()) << format;
+    }
+}
+
+TEST_F(DeckExport, WritesTheFieldsOfBulkDataInTheChosenForm)
+{
+    setNumber(steel, modulus, 2.0612345e11);
+    open();
+    choose("Nastran");
+    const auto chooseForm = [this](int index) {
+        part<QComboBox>("deckForms").setCurrentIndex(index);
+        waitUntilMade();
+    };
+    EXPECT_THAT(preview(), HasSubstr("\nMAT1*   ")) << "a number needs 16 characters";
+    chooseForm(1);
+    EXPECT_THAT(preview(), HasSubstr("\nMAT1    1       2.061+11"));
+    chooseForm(2);
+    EXPECT_THAT(preview(), HasSubstr("\nMAT1*   1               "));
+    chooseForm(3);
+    EXPECT_THAT(preview(), HasSubstr("\nMAT1*,1,2.0612345+11,"));
+}
+
+TEST_F(DeckExport, WritesTheCommercialDialectIfItIsChosen)
+{
+    steel.getCMaterial()->addProperty(vxMat::PropertyId::RelativePermeability, "Relative permeability", "5", "mu_r",
+                                      "");
+    open();
+    EXPECT_THAT(preview(), Not(HasSubstr("*MAGNETIC PERMEABILITY")));
+    part<QComboBox>("deckForms").setCurrentIndex(1);
+    waitUntilMade();
+    EXPECT_THAT(preview(), HasSubstr("*MAGNETIC PERMEABILITY"));
+}
+
+TEST_F(DeckExport, KeepsTheFormWithTheProject)
+{
+    open();
+    choose("Nastran");
+    part<QComboBox>("deckForms").setCurrentIndex(3);
+    waitUntilMade();
+    exportTo(path("a.bdf"));
+    EXPECT_EQ(project.getSetting(desktop::deckFormSetting), "free");
+    open();
+    EXPECT_EQ(part<QComboBox>("deckForms").currentText(), "Free fields, separated by commas");
+    choose("CalculiX");
+    exportTo(path("a.inp"));
+    EXPECT_EQ(project.getSetting(desktop::deckFormSetting), "") << "the usual form";
+}
+
+TEST_F(DeckExport, BeginsWithTheUsualFormIfTheFormatDoesNotHaveTheKeptOne)
+{
+    project.setSetting(desktop::deckFormSetting, "free");
+    open();
+    EXPECT_EQ(part<QComboBox>("deckForms").currentText(), "As CalculiX reads it");
+}
+
+TEST_F(DeckExport, ShowsTheBeginningOfLongLinesAndSaysSo)
+{
+    steel.label.setValue(std::string(5000, 'x'));
+    open();
+    choose("MatML");
+    const auto title = [this] {
+        for (const QLabel* const label : dialog()->findChildren<QLabel*>())
+            if (label->buddy() == &part<QPlainTextEdit>("deckPreview"))
+                return label->text().toStdString();
+        return std::string();
+    };
+    EXPECT_EQ(title(), "&Preview (long lines are cut after 1000 characters):");
+    for (const QString& line : part<QPlainTextEdit>("deckPreview").toPlainText().split(QLatin1Char('\n')))
+        EXPECT_LE(line.size(), 1001);
+    exportTo(path("a.xml"));
+    EXPECT_THAT(contentOf(path("a.xml")), HasSubstr(std::string(1500, 'x'))) << "the file has the whole line";
+}
+
+TEST(BeginningOfADeck, EndsAfterAsManyLinesAndCharactersAsAViewShows)
+{
+    const desktop::Beginning whole = desktop::beginningOf("one\ntwo");
+    EXPECT_EQ(whole.text, "one\ntwo") << "a last line without an end";
+    EXPECT_EQ(whole.lines, 2U);
+    EXPECT_EQ(whole.allLines, 2U);
+    EXPECT_FALSE(whole.hasCutLines);
+    EXPECT_EQ(desktop::beginningOf("").lines, 0U);
+
+    std::string smileys;
+    for (int i = 0; i < 600; ++i)
+        smileys += "\xF0\x9F\x98\x80"; // two units of UTF-16 each
+    const desktop::Beginning cut = desktop::beginningOf("a" + smileys + "\nb\n");
+    EXPECT_TRUE(cut.hasCutLines);
+    EXPECT_EQ(cut.text, QString::fromStdString("a" + smileys.substr(0, 499 * 4)) + QChar(0x2026) + "\nb\n");
+
+    std::string lines;
+    for (int i = 0; i < 10000; ++i)
+        lines += std::string(2000, 'y') + '\n';
+    const desktop::Beginning beginning = desktop::beginningOf(lines);
+    EXPECT_LE(beginning.text.size(), 402000);
+    EXPECT_EQ(beginning.allLines, 10000U);
+    EXPECT_LT(beginning.lines, 2000U);
 }
 
 TEST_F(DeckExport, BeginsWithTheUnitsOfTheProject)
@@ -310,13 +436,47 @@ TEST_F(DeckExport, DoesNotOpenIfTheUserCancelsTheQuestionAboutEdits)
     EXPECT_EQ(dialog(), nullptr);
 }
 
-TEST_F(DeckExport, SaysThatAProjectHasNoMaterials)
+TEST_F(DeckExport, IsNotOfferedForAProjectWithoutMaterialsAndSaysWhy)
 {
+    const QAction& entry =
+        *Gui::GuiApplication::Instance->get_command_manager().findCommand("Mat_ExportDeck")->action();
+    window->updateCommands();
+    EXPECT_TRUE(entry.isEnabled());
+    EXPECT_EQ(entry.text(), "&Export for solver...");
     Obj::Application::instance().closeAllProjects();
     newProject("Empty");
-    EXPECT_TRUE(run("Mat_ExportDeck"));
-    EXPECT_EQ(summary(), "The project has no materials.");
-    EXPECT_FALSE(button().isEnabled());
+    window->updateCommands();
+    EXPECT_FALSE(entry.isEnabled());
+    EXPECT_EQ(entry.text(), "&Export for solver...: the project has no materials");
+    EXPECT_FALSE(run("Mat_ExportDeck"));
+    Obj::Application::instance().closeAllProjects();
+    window->updateCommands();
+    EXPECT_EQ(entry.text(), "&Export for solver...: no material project is open");
+}
+
+TEST_F(DeckExport, SaysThatAFolderTakesNoFiles)
+{
+    const QString folder = path("closed");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
+    if (QFileInfo(folder).isWritable())
+        GTEST_SKIP() << "the user may write everywhere";
+    open();
+    const MessageBoxes boxes;
+    exportTo(folder + "/a.inp");
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown().front().text.toStdString(), HasSubstr("cannot be written"));
+    EXPECT_NE(dialog(), nullptr);
+}
+
+TEST_F(DeckExport, ReplacesAnotherDeck)
+{
+    projectfile::writeFile(file, "*MATERIAL, NAME=Old\n");
+    open();
+    const MessageBoxes boxes;
+    exportTo(file);
+    EXPECT_THAT(boxes.shown(), IsEmpty()) << "the dialog of files has asked";
+    EXPECT_THAT(contentOf(file), Not(HasSubstr("Old")));
 }
 
 TEST_F(DeckExport, IsDroppedIfTheProjectIsClosedMeanwhile)
@@ -344,8 +504,8 @@ TEST_F(DeckExport, IsDoneByTheKeyboardAlone)
         order << QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order.mid(0, 5),
-              QStringList({"deckFormats", "allMaterials", "unitSystems", "deckPreview", "deckReport"}));
+    EXPECT_EQ(order.mid(0, 6),
+              QStringList({"deckFormats", "deckForms", "allMaterials", "unitSystems", "deckPreview", "deckReport"}));
     part<QComboBox>("deckFormats").setFocus();
     QTest::keyClicks(&part<QComboBox>("deckFormats"), QStringLiteral("Elmer"));
     waitUntilMade();

@@ -10,11 +10,14 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
+#include <QThreadPool>
 #include <QTimer>
 
+#include <atomic>
 #include <functional>
 
 namespace {
@@ -92,9 +95,15 @@ std::string textsOf(const ImportDeckDialog& dialog)
     return texts;
 }
 
-std::vector<std::string> reportOf(const ImportDeckDialog& dialog)
+std::string summaryOf(const ImportDeckDialog& dialog)
 {
-    const QAbstractItemModel& table = *dialog.findChild<QTableView*>(QStringLiteral("deckReport"))->model();
+    return dialog.findChild<QLabel*>(QStringLiteral("deckSummary"))->text().toStdString();
+}
+
+/// Returns the rows of a table of the dialog, with the cells separated by bars.
+std::vector<std::string> rowsOf(const ImportDeckDialog& dialog, const char* name)
+{
+    const QAbstractItemModel& table = *dialog.findChild<QTableView*>(QLatin1String(name))->model();
     std::vector<std::string> lines;
     for (int row = 0; row < table.rowCount(); ++row) {
         QStringList cells;
@@ -103,6 +112,32 @@ std::vector<std::string> reportOf(const ImportDeckDialog& dialog)
         lines.push_back(cells.join(QLatin1Char('|')).toStdString());
     }
     return lines;
+}
+
+std::vector<std::string> reportOf(const ImportDeckDialog& dialog)
+{
+    return rowsOf(dialog, "deckReport");
+}
+
+std::vector<std::string> materialsOf(const ImportDeckDialog& dialog)
+{
+    return rowsOf(dialog, "materialsOfDeck");
+}
+
+std::vector<std::string> headersOf(const ImportDeckDialog& dialog)
+{
+    const QAbstractItemModel& table = *dialog.findChild<QTableView*>(QStringLiteral("materialsOfDeck"))->model();
+    std::vector<std::string> titles;
+    for (int column = 0; column < table.columnCount(); ++column)
+        titles.push_back(table.headerData(column, Qt::Horizontal).toString().toStdString());
+    return titles;
+}
+
+/// Returns all findings about a material, which the tool tip shows.
+std::string tipOfFindings(const ImportDeckDialog& dialog, int row)
+{
+    const QAbstractItemModel& table = *dialog.findChild<QTableView*>(QStringLiteral("materialsOfDeck"))->model();
+    return table.index(row, table.columnCount() - 1).data(Qt::ToolTipRole).toString().toStdString();
 }
 
 class DeckImport : public vxtest::Materials
@@ -130,6 +165,16 @@ protected:
         EXPECT_TRUE(waitUntilRead(dialog));
         importOf(dialog).click();
     }
+    /// Returns the messages that lead to a material, with its label before them.
+    std::vector<std::string> linkedMessages() const
+    {
+        std::vector<std::string> texts;
+        for (const Kelta::LogMessage& message : Kelta::MessageLog::instance().messages())
+            for (const Mat::MaterialObject* const object : Mat::materialsOf(project))
+                if (message.link.projectId == project.getProjectId() && message.link.objectId == object->getObjectId())
+                    texts.push_back(object->label.getValue() + (" -> " + message.text.toStdString()));
+        return texts;
+    }
     double modulusOfFirst() const { return modulusOf(*Mat::materialsOf(project).front()); }
 
     Mat::DocumentMaterial& project = newProject();
@@ -140,6 +185,7 @@ protected:
 TEST_F(DeckImport, ProposesTheUnitsThatTheNumbersFitAndConverts)
 {
     const auto added = import(model, [](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
         EXPECT_THAT(textsOf(dialog), HasSubstr("\"model.inp\" is a deck of CalculiX. Materials: 2"));
         EXPECT_THAT(textsOf(dialog), HasSubstr("which the file does not say. They look like mm-t-s:"));
         EXPECT_EQ(systemsOf(dialog).currentText(), "mm-t-s");
@@ -149,29 +195,103 @@ TEST_F(DeckImport, ProposesTheUnitsThatTheNumbersFitAndConverts)
     EXPECT_DOUBLE_EQ(modulusOfFirst(), 2.1e11);
 }
 
+TEST_F(DeckImport, GivesTheReasonForItsProposal)
+{
+    import(model, [](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_THAT(textsOf(dialog), HasSubstr("In SI, they would be unusual. Bracket: "));
+});
+} // namespace
+
 TEST_F(DeckImport, DoubtsUnitsThatTheNumbersDoNotFitWithoutChangingTheChoice)
 {
     import(model, [](ImportDeckDialog& dialog) {
         systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
-    EXPECT_THAT(textsOf(dialog), HasSubstr("The numbers look like mm-t-s. In SI, they would be unusual."));
+    ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_THAT(textsOf(dialog), HasSubstr("The numbers look like mm-t-s. In SI, they would be unusual. Bracket: "));
+    EXPECT_EQ(systemsOf(dialog).currentText(), "SI");
     accept(dialog);
 });
 EXPECT_DOUBLE_EQ(modulusOfFirst(), 210000.0);
-} // namespace
+}
+
+TEST_F(DeckImport, KeepsUnitsThatAreChosenBeforeTheFileIsRead)
+{
+    import(model, [](ImportDeckDialog& dialog) {
+        systemsOf(dialog).setCurrentText(QStringLiteral("mm-kg-ms"));
+    ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_EQ(systemsOf(dialog).currentText(), "mm-kg-ms");
+    EXPECT_THAT(textsOf(dialog), HasSubstr("They look like mm-t-s:"));
+});
+}
+
+TEST_F(DeckImport, ShowsTheMaterialsWithTheirValuesInTheChosenUnits)
+{
+    import(model, [](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_THAT(headersOf(dialog),
+                ElementsAre("Material", "Young's modulus", "Poisson's ratio", "Density", "Findings"));
+    EXPECT_THAT(materialsOf(dialog),
+                ElementsAre("Bracket|210000 MPa|0.3|7.85e-09 t/mm^3|", "Pin|70000 MPa|0.33|2.7e-09 t/mm^3|"));
+    systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
+    ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_THAT(materialsOf(dialog).front(), StartsWith("Bracket|210000 Pa|0.3|7.85e-09 kg/m^3|"));
+    EXPECT_THAT(materialsOf(dialog).front(), testing::Not(testing::EndsWith("|"))) << "a doubt";
+});
+}
+
+TEST_F(DeckImport, NamesTheMaterialThatIsInOtherUnitsThanTheOthers)
+{
+    const std::string text = "*MATERIAL, NAME=A\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850\n"
+                             "*MATERIAL, NAME=B\n*ELASTIC\n7e10, 0.33\n*DENSITY\n2700\n"
+                             "*MATERIAL, NAME=C\n*ELASTIC\n1.1e11, 0.34\n*DENSITY\n8900\n"
+                             "*MATERIAL, NAME=Odd\n*ELASTIC\n210000, 0.3\n*DENSITY\n7.85e-9\n";
+    import(text, [](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_EQ(systemsOf(dialog).currentText(), "SI") << "proposed, because most numbers fit it";
+    const auto materials = materialsOf(dialog);
+    ASSERT_EQ(materials.size(), 4U);
+    EXPECT_THAT(materials[0], testing::EndsWith("|"));
+    EXPECT_THAT(materials[3], testing::AllOf(StartsWith("Odd|210000 Pa|"), testing::Not(testing::EndsWith("|"))));
+    EXPECT_THAT(textsOf(dialog), HasSubstr("Materials with findings: 1."));
+    accept(dialog);
+});
+EXPECT_THAT(linkedMessages(), Contains(StartsWith("Odd -> \"Odd\": ")));
+}
+
+TEST_F(DeckImport, TellsImpossibleValuesBeforeAndAfterTheImport)
+{
+    const std::string text = "*MATERIAL, NAME=Good\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850\n"
+                             "*MATERIAL, NAME=Bad\n*ELASTIC\n2.1e11, 0.6\n*DENSITY\n-7850\n";
+    import(text, [](ImportDeckDialog& dialog) {
+        systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
+    ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_THAT(materialsOf(dialog)[0], testing::EndsWith("|"));
+    EXPECT_THAT(tipOfFindings(dialog, 1), testing::AllOf(HasSubstr("Poisson's ratio"), HasSubstr("Density")));
+    accept(dialog);
+});
+EXPECT_THAT(linkedMessages(), Contains(testing::AllOf(StartsWith("Bad -> "), HasSubstr("Poisson's ratio"))));
+EXPECT_THAT(linkedMessages(), Contains(testing::AllOf(StartsWith("Bad -> "), HasSubstr("Density"))));
+EXPECT_THAT(linkedMessages(), testing::Not(Contains(StartsWith("Good -> "))));
+}
 
 TEST_F(DeckImport, GuessesNoUnitsIfNothingShowsThem)
 {
-    const std::string text = "*MATERIAL, NAME=A\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850\n";
+    const std::string text = "*MATERIAL, NAME=A\n*CONDUCTIVITY\n1.5\n";
     import(text, [](ImportDeckDialog& dialog) {
-        EXPECT_EQ(systemsOf(dialog).currentText(), "Not chosen yet");
-    EXPECT_FALSE(importOf(dialog).isEnabled());
-    EXPECT_THAT(textsOf(dialog), HasSubstr("Choose the unit system; then the report is shown."));
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    EXPECT_TRUE(dialog.isVisible());
-    systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
-    accept(dialog);
+        ASSERT_TRUE(waitFor([&] { return materialsOf(dialog).size() == 1;
+}));
+EXPECT_THAT(materialsOf(dialog), ElementsAre("A|1.5|")) << "without a unit";
+EXPECT_EQ(systemsOf(dialog).currentText(), "Not chosen yet");
+EXPECT_FALSE(importOf(dialog).isEnabled());
+EXPECT_THAT(textsOf(dialog), HasSubstr("The numbers are usual in several unit systems"));
+EXPECT_THAT(textsOf(dialog), HasSubstr("Choose the unit system; then the report is shown."));
+QTest::keyClick(&dialog, Qt::Key_Return);
+EXPECT_TRUE(dialog.isVisible());
+systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
+accept(dialog);
 });
-EXPECT_DOUBLE_EQ(modulusOfFirst(), 2.1e11);
+EXPECT_THAT(labels(), ElementsAre("A"));
 }
 
 TEST_F(DeckImport, TakesTheUnitsThatTheFileDeclares)
@@ -194,6 +314,66 @@ TEST_F(DeckImport, ShowsTheReportBeforeAnythingIsAdded)
     EXPECT_THAT(labels(), IsEmpty());
 });
 EXPECT_THAT(labels(), IsEmpty()) << "the user has closed the dialog";
+}
+
+TEST_F(DeckImport, ReadsAFileAgainThatHasChangedSinceItWasShown)
+{
+    const auto added = import(model, [this](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
+        projectfile::writeFile(file, std::string(model) + "*MATERIAL, NAME=Nut\n*DENSITY\n8.e-9\n");
+        importOf(dialog).click();
+        EXPECT_TRUE(dialog.isVisible()) << "the user has not seen the new content yet";
+        ASSERT_TRUE(waitUntilRead(dialog));
+        EXPECT_THAT(textsOf(dialog), HasSubstr("The file has changed and was read again."));
+        EXPECT_EQ(materialsOf(dialog).size(), 3U);
+        importOf(dialog).click();
+    });
+    EXPECT_THAT(added, ElementsAre("Bracket", "Pin", "Nut"));
+}
+
+TEST_F(DeckImport, SaysThatTheFileHasGone)
+{
+    import(model, [this](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
+    QFile::remove(file);
+    importOf(dialog).click();
+    EXPECT_TRUE(waitFor([&] { return textsOf(dialog).find("The file cannot be opened.") != std::string::npos; }));
+    EXPECT_FALSE(importOf(dialog).isEnabled());
+});
+EXPECT_THAT(labels(), IsEmpty());
+}
+
+/// A deck with many cards that are not of materials.
+std::string longDeck()
+{
+    std::string text = std::string(model) + "*NODE\n";
+    for (int i = 0; i < 500000; ++i)
+        text += std::to_string(i) + ", 0.123456789, 0.123456789, 0.123456789\n";
+    return text;
+}
+
+TEST_F(DeckImport, CanBeClosedWhileALongFileIsRead)
+{
+    import(longDeck(), [](ImportDeckDialog& dialog) {
+        EXPECT_FALSE(importOf(dialog).isEnabled()) << "the window is alive before the file is read";
+    EXPECT_EQ(summaryOf(dialog), "The deck is being read...");
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+});
+EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone(vxtest::patience));
+EXPECT_THAT(labels(), IsEmpty());
+}
+
+TEST_F(DeckImport, StopsReadingIfNobodyWantsTheResult)
+{
+    projectfile::writeFile(file, model);
+    const auto deck = desktop::recogniseDeck(file);
+    ASSERT_TRUE(deck);
+    std::atomic<bool> isStopped = false;
+    EXPECT_EQ(desktop::surveyDeck(*deck, isStopped)->asIs.materials.size(), 2U);
+    isStopped = true;
+    EXPECT_THROW(desktop::surveyDeck(*deck, isStopped), std::runtime_error);
+    EXPECT_THROW(desktop::readDeckFile(*deck, vxUnits::UnitSystem::si(), &isStopped), std::runtime_error);
 }
 
 TEST_F(DeckImport, IsOneStepAndReportsWhatIsNotTaken)
@@ -219,23 +399,34 @@ TEST_F(DeckImport, ReadsWhatTheExportHasWritten)
 
 TEST_F(DeckImport, SaysWhereADeckIsWrong)
 {
+    import("*MATERIAL, NAME=A\n*ELASTIC\nstiff, 0.3\n", [this](ImportDeckDialog& dialog) {
+        EXPECT_TRUE(waitFor([&] { return summaryOf(dialog) != "The deck is being read...";
+}));
+EXPECT_THAT(summaryOf(dialog), testing::AllOf(StartsWith(file.toStdString()), HasSubstr("line 3")));
+EXPECT_FALSE(importOf(dialog).isEnabled());
+});
+EXPECT_THAT(labels(), IsEmpty());
+}
+
+TEST_F(DeckImport, SaysThatADeckHasNoMaterials)
+{
+    import("*HEADING\nA bracket\n*NODE\n1, 0.0, 0.0, 0.0\n", [](ImportDeckDialog& dialog) {
+        EXPECT_TRUE(waitFor([&] { return summaryOf(dialog) != "The deck is being read...";
+}));
+EXPECT_THAT(summaryOf(dialog), testing::EndsWith(": This deck of CalculiX has no materials."));
+EXPECT_FALSE(importOf(dialog).isEnabled());
+});
+}
+
+TEST_F(DeckImport, FailsWithoutADialogIfNobodyCanBeAsked)
+{
     projectfile::writeFile(file, "*MATERIAL, NAME=A\n*ELASTIC\nstiff, 0.3\n");
+    const desktop::UnaskedImport unasked(vxUnits::UnitSystem::si());
     try {
         readMaterialDocument(file);
         FAIL() << "the deck is read";
     } catch (const std::exception& error) {
         EXPECT_THAT(error.what(), testing::AllOf(StartsWith(file.toStdString()), HasSubstr("line 3")));
-    }
-}
-
-TEST_F(DeckImport, SaysThatADeckHasNoMaterials)
-{
-    projectfile::writeFile(file, "*HEADING\nA bracket\n*NODE\n1, 0.0, 0.0, 0.0\n");
-    try {
-        readMaterialDocument(file);
-        FAIL() << "the deck is read";
-    } catch (const std::exception& error) {
-        EXPECT_THAT(error.what(), testing::EndsWith(": This deck of CalculiX has no materials."));
     }
 }
 

@@ -1837,7 +1837,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>give a solver, the name of the file to write, and the unit system of the deck if it is not that of the project</source>
-        <translation>geben Sie einen Solver, den Namen der zu schreibenden Datei und das Einheitensystem des Decks an, wenn es nicht das des Projekts ist</translation>
+        <translation>geben Sie einen Solver, den Namen der zu schreibenden Datei und das Einheitensystem der Solverdatei an, wenn es nicht das des Projekts ist</translation>
     </message>
     <message>
         <source>there is no solver &quot;%1&quot;; the solvers are: %2</source>
@@ -1895,7 +1895,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Beginning of the deck</source>
-        <translation>Anfang des Decks</translation>
+        <translation>Anfang der Solverdatei</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
@@ -1903,7 +1903,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&amp;Units of the deck:</source>
-        <translation>&amp;Einheiten des Decks:</translation>
+        <translation>&amp;Einheiten der Solverdatei:</translation>
     </message>
     <message>
         <source>&amp;Report:</source>
@@ -1911,11 +1911,11 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The deck cannot be shown</source>
-        <translation>Das Deck kann nicht gezeigt werden</translation>
+        <translation>Die Solverdatei kann nicht gezeigt werden</translation>
     </message>
     <message>
         <source>The deck is being made...</source>
-        <translation>Das Deck wird erstellt...</translation>
+        <translation>Die Solverdatei wird erstellt...</translation>
     </message>
     <message>
         <source>The project has no materials.</source>
@@ -1935,11 +1935,23 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The deck cannot be made: %1</source>
-        <translation>Das Deck kann nicht erstellt werden: %1</translation>
+        <translation>Die Solverdatei kann nicht erstellt werden: %1</translation>
     </message>
     <message>
         <source>The materials cannot be exported</source>
         <translation>Die Materialien können nicht exportiert werden</translation>
+    </message>
+    <message>
+        <source>&amp;Preview (long lines are cut after %1 characters):</source>
+        <translation>&amp;Vorschau (lange Zeilen sind nach %1 Zeichen abgeschnitten):</translation>
+    </message>
+    <message>
+        <source>&amp;Preview (the first %1 of %2 lines, long lines cut after %3 characters):</source>
+        <translation>&amp;Vorschau (die ersten %1 von %2 Zeilen, lange nach %3 Zeichen abgeschnitten):</translation>
+    </message>
+    <message>
+        <source>F&amp;orm:</source>
+        <translation>F&amp;orm:</translation>
     </message>
 </context>
 <context>
@@ -1950,7 +1962,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The deck contains only applied changes.</source>
-        <translation>Das Deck enthält nur angewendete Änderungen.</translation>
+        <translation>Die Solverdatei enthält nur angewendete Änderungen.</translation>
     </message>
     <message>
         <source>&amp;Export without them</source>
@@ -1970,7 +1982,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Replace it by a deck?</source>
-        <translation>Durch ein Deck ersetzen?</translation>
+        <translation>Durch eine Solverdatei ersetzen?</translation>
     </message>
     <message>
         <source>The materials were not exported.</source>
@@ -1978,7 +1990,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>A deck carries no data that a project keeps beside its materials. Not written: %1.</source>
-        <translation>Ein Deck enthält keine Daten, die ein Projekt neben seinen Materialien aufbewahrt. Nicht geschrieben: %1.</translation>
+        <translation>Eine Solverdatei enthält keine Daten, die ein Projekt neben seinen Materialien aufbewahrt. Nicht geschrieben: %1.</translation>
     </message>
 </context>
 <context>
@@ -1998,6 +2010,17 @@ Trotzdem löschen?</translation>
     <message>
         <source>Further losses are not listed: %1.</source>
         <translation>Weitere Verluste sind nicht aufgeführt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckPreview</name>
+    <message>
+        <source>In %1, they would be unusual. %2</source>
+        <translation>In %1 wären sie ungewöhnlich. %2</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1. In %2, they would be unusual. %3</source>
+        <translation>Die Zahlen sehen nach %1 aus. In %2 wären sie ungewöhnlich. %3</translation>
     </message>
 </context>
 <context>
@@ -2168,7 +2191,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a deck of %2. Materials: %3</source>
-        <translation>„%1“ ist eine Datei von %2. Materialien: %3</translation>
+        <translation>„%1“ ist eine Solverdatei für %2. Materialien: %3</translation>
     </message>
     <message>
         <source>&amp;Report:</source>
@@ -2191,16 +2214,36 @@ Trotzdem löschen?</translation>
         <translation>&amp;Einheitensystem der Zahlen, das die Datei nicht angibt. Sie sehen nach %1 aus:</translation>
     </message>
     <message>
-        <source>The numbers look like %1. In %2, they would be unusual.</source>
-        <translation>Die Zahlen sehen nach %1 aus. In %2 wären sie ungewöhnlich.</translation>
-    </message>
-    <message>
         <source>Choose the unit system; then the report is shown.</source>
         <translation>Wählen Sie das Einheitensystem; dann wird der Bericht gezeigt.</translation>
     </message>
     <message>
         <source>The deck is being read...</source>
         <translation>Die Solverdatei wird gelesen...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a deck of %2.</source>
+        <translation>„%1“ ist eine Solverdatei für %2.</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materialien</translation>
+    </message>
+    <message>
+        <source>&amp;Materials:</source>
+        <translation>&amp;Materialien:</translation>
+    </message>
+    <message>
+        <source>The numbers are usual in several unit systems, so that none is proposed.</source>
+        <translation>Die Zahlen sind in mehreren Einheitensystemen üblich; deshalb wird keines vorgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Materials with findings: %1.</source>
+        <translation>Materialien mit Befunden: %1.</translation>
+    </message>
+    <message>
+        <source>The file has changed and was read again. Check the report before you import it.</source>
+        <translation>Die Datei hat sich geändert und wurde neu gelesen. Prüfen Sie den Bericht, bevor Sie sie importieren.</translation>
     </message>
 </context>
 <context>
@@ -2758,6 +2801,17 @@ Trotzdem löschen?</translation>
     <message>
         <source>Projects that have no unit system of their own are shown in it. &quot;Project &gt; Units&quot; gives a project its own.</source>
         <translation>Projekte ohne eigenes Einheitensystem werden darin gezeigt. „Projekt &gt; Einheiten“ gibt einem Projekt ein eigenes.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ValuesOfDeckModel</name>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
     </message>
 </context>
 <context>
@@ -3557,6 +3611,26 @@ Trotzdem löschen?</translation>
         <source>There is no yield surface below the pressure of %1 times the cohesion, which is its apex.</source>
         <translation>Unterhalb eines Drucks vom %1-Fachen der Kohäsion, der ihre Spitze ist, gibt es keine Fließfläche.</translation>
     </message>
+    <message>
+        <source>Column &quot;%1&quot; has %2 stresses, each of which is a creep test. Choose one of them.</source>
+        <translation>Spalte „%1“ hat %2 Spannungen, von denen jede ein Kriechversuch ist. Wählen Sie eine aus.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has the stress of the creep test, but no unit of stress. Write the unit behind its name, or give the stress.</source>
+        <translation>Spalte „%1“ hat die Spannung des Kriechversuchs, aber keine Einheit einer Spannung. Schreiben Sie die Einheit hinter den Namen, oder geben Sie die Spannung an.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has more than %2 different stresses, but a creep test has a constant one. Give the stress.</source>
+        <translation>Spalte „%1“ hat mehr als %2 verschiedene Spannungen, aber ein Kriechversuch hat eine gleichbleibende. Geben Sie die Spannung an.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has several stresses, but none is %2 Pa.</source>
+        <translation>Spalte „%1“ hat mehrere Spannungen, aber keine davon ist %2 Pa.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has the stress %2 Pa, but %3 Pa is given and used.</source>
+        <translation>Spalte „%1“ hat die Spannung %2 Pa, aber %3 Pa ist angegeben und wird verwendet.</translation>
+    </message>
 </context>
 <context>
     <name>vxConstitutive::Word</name>
@@ -3960,7 +4034,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Deck</source>
-        <translation>Deck</translation>
+        <translation>Solverdatei</translation>
     </message>
 </context>
 <context>
@@ -3992,6 +4066,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>Copy the text of the cards</source>
         <translation>Den Text der Karten kopieren</translation>
+    </message>
+    <message>
+        <source>Form of the text</source>
+        <translation>Form des Textes</translation>
+    </message>
+    <message>
+        <source>The form in which the solver reads its input</source>
+        <translation>Die Form, in der der Solver seine Eingabe liest</translation>
     </message>
 </context>
 <context>
@@ -4195,6 +4277,33 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxInspector::DeckForms</name>
+    <message>
+        <source>As CalculiX reads it</source>
+        <translation>Wie CalculiX sie liest</translation>
+    </message>
+    <message>
+        <source>As the commercial relative of CalculiX reads it</source>
+        <translation>Wie der kommerzielle Verwandte von CalculiX sie liest</translation>
+    </message>
+    <message>
+        <source>Fields of 8 characters, of 16 if a number needs them</source>
+        <translation>Felder von 8 Zeichen, von 16, wenn eine Zahl sie braucht</translation>
+    </message>
+    <message>
+        <source>Small fields: 8 characters, numbers are rounded</source>
+        <translation>Kleine Felder: 8 Zeichen, Zahlen werden gerundet</translation>
+    </message>
+    <message>
+        <source>Large fields: 16 characters</source>
+        <translation>Große Felder: 16 Zeichen</translation>
+    </message>
+    <message>
+        <source>Free fields, separated by commas</source>
+        <translation>Freie Felder, durch Kommas getrennt</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::DeckLines</name>
     <message>
         <source>all %1</source>
@@ -4311,7 +4420,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Apply fit to &quot;%1&quot;</source>
-        <translation>Anpassung auf &quot;%1&quot; anwenden</translation>
+        <translation>Anpassung auf „%1“ anwenden</translation>
     </message>
 </context>
 <context>
@@ -4581,7 +4690,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The tests are not kept with &quot;%1&quot;</source>
-        <translation>Die Versuche werden nicht bei &quot;%1&quot; aufbewahrt</translation>
+        <translation>Die Versuche werden nicht bei „%1“ aufbewahrt</translation>
     </message>
     <message>
         <source>A table of test data is being read.</source>
@@ -4751,7 +4860,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The unit system of values, findings, decks, comparison and curves. It changes no value.</source>
-        <translation>Das Einheitensystem von Werten, Befunden, Decks, Vergleich und Kurven. Es ändert keinen Wert.</translation>
+        <translation>Das Einheitensystem von Werten, Befunden, Solverdateien, Vergleich und Kurven. Es ändert keinen Wert.</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -6942,6 +7051,70 @@ Trotzdem löschen?</translation>
         <source>the table needs ascending total strains (plastic strain plus stress / E), also in the digits of its fields</source>
         <translation>die Tabelle braucht aufsteigende Gesamtdehnungen (plastische Dehnung plus Spannung / E), auch in den Ziffern ihrer Felder</translation>
     </message>
+    <message>
+        <source>Any of these values may be wrong.</source>
+        <translation>Jeder dieser Werte kann falsch sein.</translation>
+    </message>
+    <message>
+        <source>The other values are those of %1, which has %2 to %3.</source>
+        <translation>Die übrigen Werte passen zu %1; dafür sind %2 bis %3 üblich.</translation>
+    </message>
+    <message>
+        <source>One possibility: %1 is usual for %2; then multiply by %3</source>
+        <translation>Eine Möglichkeit: %1 ist üblich für %2; dann mit %3 multiplizieren</translation>
+    </message>
+    <message>
+        <source>One possibility: %1 would not be doubted; then multiply by %2</source>
+        <translation>Eine Möglichkeit: %1 wäre nicht zweifelhaft; dann mit %2 multiplizieren</translation>
+    </message>
+    <message>
+        <source>the name is shortened to &quot;%1&quot;; the format takes %2 bytes of it</source>
+        <translation>der Name ist auf „%1“ gekürzt; das Format nimmt %2 Byte davon</translation>
+    </message>
+    <message>
+        <source>the material has no word for it</source>
+        <translation>das Material hat kein Wort dafür</translation>
+    </message>
+    <message>
+        <source>the material has no word for it; written as &quot;%1&quot;</source>
+        <translation>das Material hat kein Wort dafür; geschrieben als „%1“</translation>
+    </message>
+    <message>
+        <source>%1 materials (%2)</source>
+        <translation>%1 Materialien (%2)</translation>
+    </message>
+    <message>
+        <source>for example %1: %2</source>
+        <translation>zum Beispiel %1: %2</translation>
+    </message>
+    <message>
+        <source>line %1, %2: %3</source>
+        <translation>Zeile %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; exclude each other; remove one of them</source>
+        <translation>„%1“ und „%2“ schließen einander aus; entfernen Sie eines davon</translation>
+    </message>
+    <message>
+        <source>its specific heat differs from that of *SPECIFIC HEAT, which is taken</source>
+        <translation>ihre spezifische Wärme weicht von der in *SPECIFIC HEAT ab, die übernommen wird</translation>
+    </message>
+    <message>
+        <source>the parameter %1 is not evaluated; check the numbers</source>
+        <translation>der Parameter %1 wird nicht ausgewertet; prüfen Sie die Zahlen</translation>
+    </message>
+    <message>
+        <source>the other numbers of the material give it within 1 %: %1; the number itself is not kept</source>
+        <translation>die anderen Zahlen des Materials ergeben sie auf 1 % genau: %1; die Zahl selbst bleibt nicht erhalten</translation>
+    </message>
+    <message>
+        <source>the table replaces it</source>
+        <translation>die Tabelle ersetzt es</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 elements and attributes; divide it into several files</source>
+        <translation>die Datei hat mehr als %1 Elemente und Attribute; teilen Sie sie in mehrere Dateien</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Word</name>
@@ -7924,6 +8097,38 @@ Trotzdem löschen?</translation>
     <message>
         <source>First Lamé constant</source>
         <translation>Erste Lamé-Konstante</translation>
+    </message>
+    <message>
+        <source>above 0</source>
+        <translation>über 0</translation>
+    </message>
+    <message>
+        <source>0 or above</source>
+        <translation>0 oder darüber</translation>
+    </message>
+    <message>
+        <source>above 1</source>
+        <translation>über 1</translation>
+    </message>
+    <message>
+        <source>above -1</source>
+        <translation>über -1</translation>
+    </message>
+    <message>
+        <source>above -1 and below 0.5</source>
+        <translation>über -1 und unter 0.5</translation>
+    </message>
+    <message>
+        <source>above 0 and at most 1</source>
+        <translation>über 0 und höchstens 1</translation>
+    </message>
+    <message>
+        <source>finite</source>
+        <translation>endlich</translation>
+    </message>
+    <message>
+        <source>a logarithmic strain</source>
+        <translation>eine logarithmische Dehnung</translation>
     </message>
 </context>
 <context>

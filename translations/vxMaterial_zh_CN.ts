@@ -1941,6 +1941,18 @@ Delete anyway?</source>
         <source>The materials cannot be exported</source>
         <translation>无法导出材料</translation>
     </message>
+    <message>
+        <source>&amp;Preview (long lines are cut after %1 characters):</source>
+        <translation>预览(&amp;P)（过长的行在 %1 个字符后截断）：</translation>
+    </message>
+    <message>
+        <source>&amp;Preview (the first %1 of %2 lines, long lines cut after %3 characters):</source>
+        <translation>预览(&amp;P)（前 %1 行，共 %2 行；过长的行在 %3 个字符后截断）：</translation>
+    </message>
+    <message>
+        <source>F&amp;orm:</source>
+        <translation>形式(&amp;O)：</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DeckExport</name>
@@ -1998,6 +2010,17 @@ Delete anyway?</source>
     <message>
         <source>Further losses are not listed: %1.</source>
         <translation>其余丢失未列出：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DeckPreview</name>
+    <message>
+        <source>In %1, they would be unusual. %2</source>
+        <translation>若采用 %1，它们就不寻常。%2</translation>
+    </message>
+    <message>
+        <source>The numbers look like %1. In %2, they would be unusual. %3</source>
+        <translation>这些数值看起来是 %1。若采用 %2，它们就不寻常。%3</translation>
     </message>
 </context>
 <context>
@@ -2191,16 +2214,36 @@ Delete anyway?</source>
         <translation>数字的单位制(&amp;U)（文件中未说明，看起来是 %1）：</translation>
     </message>
     <message>
-        <source>The numbers look like %1. In %2, they would be unusual.</source>
-        <translation>这些数字看起来是 %1。按 %2 则不寻常。</translation>
-    </message>
-    <message>
         <source>Choose the unit system; then the report is shown.</source>
         <translation>请选择单位制，然后显示报告。</translation>
     </message>
     <message>
         <source>The deck is being read...</source>
         <translation>正在读取输入文件...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a deck of %2.</source>
+        <translation>“%1”是 %2 的输入文件。</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>&amp;Materials:</source>
+        <translation>材料(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>The numbers are usual in several unit systems, so that none is proposed.</source>
+        <translation>这些数值在多种单位制中都属正常，因此不作建议。</translation>
+    </message>
+    <message>
+        <source>Materials with findings: %1.</source>
+        <translation>有检查结果的材料：%1。</translation>
+    </message>
+    <message>
+        <source>The file has changed and was read again. Check the report before you import it.</source>
+        <translation>文件已更改并重新读取。导入之前请检查报告。</translation>
     </message>
 </context>
 <context>
@@ -2757,6 +2800,17 @@ Delete anyway?</source>
     <message>
         <source>Projects that have no unit system of their own are shown in it. &quot;Project &gt; Units&quot; gives a project its own.</source>
         <translation>没有自己单位制的项目以此显示。“项目 &gt; 单位”为项目设置自己的单位制。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ValuesOfDeckModel</name>
+    <message>
+        <source>Material</source>
+        <translation>材料</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
     </message>
 </context>
 <context>
@@ -3556,6 +3610,26 @@ Delete anyway?</source>
         <source>There is no yield surface below the pressure of %1 times the cohesion, which is its apex.</source>
         <translation>压力低于黏聚力的 %1 倍（屈服面的顶点）时没有屈服面。</translation>
     </message>
+    <message>
+        <source>Column &quot;%1&quot; has %2 stresses, each of which is a creep test. Choose one of them.</source>
+        <translation>列“%1”有%2个应力，每个应力对应一次蠕变试验。请选择其中一个。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has the stress of the creep test, but no unit of stress. Write the unit behind its name, or give the stress.</source>
+        <translation>列“%1”是蠕变试验的应力，但没有应力单位。请在列名后写出单位，或给出应力。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has more than %2 different stresses, but a creep test has a constant one. Give the stress.</source>
+        <translation>列“%1”有超过%2个不同的应力，而蠕变试验的应力是恒定的。请给出应力。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has several stresses, but none is %2 Pa.</source>
+        <translation>列“%1”有多个应力，但其中没有%2 Pa。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; has the stress %2 Pa, but %3 Pa is given and used.</source>
+        <translation>列“%1”的应力为%2 Pa，但给定并使用的是%3 Pa。</translation>
+    </message>
 </context>
 <context>
     <name>vxConstitutive::Word</name>
@@ -3992,6 +4066,14 @@ Delete anyway?</source>
         <source>Copy the text of the cards</source>
         <translation>复制卡片的文本</translation>
     </message>
+    <message>
+        <source>Form of the text</source>
+        <translation>文本的形式</translation>
+    </message>
+    <message>
+        <source>The form in which the solver reads its input</source>
+        <translation>求解器读取输入的形式</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::CompareTable</name>
@@ -4191,6 +4273,33 @@ Delete anyway?</source>
     <message>
         <source>The cohesion of the yield surface, which the material does not have</source>
         <translation>屈服面的粘聚力（材料没有该值）</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::DeckForms</name>
+    <message>
+        <source>As CalculiX reads it</source>
+        <translation>CalculiX 所读取的形式</translation>
+    </message>
+    <message>
+        <source>As the commercial relative of CalculiX reads it</source>
+        <translation>CalculiX 的商业同源求解器所读取的形式</translation>
+    </message>
+    <message>
+        <source>Fields of 8 characters, of 16 if a number needs them</source>
+        <translation>8 字符字段，数字需要时用 16 字符</translation>
+    </message>
+    <message>
+        <source>Small fields: 8 characters, numbers are rounded</source>
+        <translation>小字段：8 字符，数字会被舍入</translation>
+    </message>
+    <message>
+        <source>Large fields: 16 characters</source>
+        <translation>大字段：16 字符</translation>
+    </message>
+    <message>
+        <source>Free fields, separated by commas</source>
+        <translation>自由字段，以逗号分隔</translation>
     </message>
 </context>
 <context>
@@ -5352,11 +5461,11 @@ Delete anyway?</source>
     </message>
     <message>
         <source>Input &quot;Mises&quot;, &quot;Mohr-Coulomb&quot;, or &quot;Drucker-Prager&quot;</source>
-        <translation>输入 &quot;Mises&quot;, &quot;Mohr-Coulomb&quot; 或 &quot;Drucker-Prager&quot;</translation>
+        <translation>输入“Mises”、“Mohr-Coulomb”或“Drucker-Prager”</translation>
     </message>
     <message>
         <source>Input &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot;, or &quot;Combined&quot;</source>
-        <translation>输入 &quot;Bilinear&quot;, &quot;Multilinear&quot;, &quot;Swift&quot;, &quot;Ramberg-Osgood&quot;, &quot;Kinematic&quot; 或 &quot;Combined&quot;</translation>
+        <translation>输入“Bilinear”、“Multilinear”、“Swift”、“Ramberg-Osgood”、“Kinematic”或“Combined”</translation>
     </message>
     <message>
         <source>Vector; values are separated by comma</source>
@@ -6941,6 +7050,70 @@ Delete anyway?</source>
         <source>the table needs ascending total strains (plastic strain plus stress / E), also in the digits of its fields</source>
         <translation>该表需要递增的总应变（塑性应变加应力/E），其字段的位数也须如此</translation>
     </message>
+    <message>
+        <source>Any of these values may be wrong.</source>
+        <translation>这些值中的任何一个都可能有误。</translation>
+    </message>
+    <message>
+        <source>The other values are those of %1, which has %2 to %3.</source>
+        <translation>其他值符合%1，其通常值为 %2 至 %3。</translation>
+    </message>
+    <message>
+        <source>One possibility: %1 is usual for %2; then multiply by %3</source>
+        <translation>一种可能：%1 对%2是常见的；此时乘以 %3</translation>
+    </message>
+    <message>
+        <source>One possibility: %1 would not be doubted; then multiply by %2</source>
+        <translation>一种可能：%1 不会有疑问；此时乘以 %2</translation>
+    </message>
+    <message>
+        <source>the name is shortened to &quot;%1&quot;; the format takes %2 bytes of it</source>
+        <translation>名称缩短为“%1”；该格式最多取其 %2 个字节</translation>
+    </message>
+    <message>
+        <source>the material has no word for it</source>
+        <translation>材料没有相应的词</translation>
+    </message>
+    <message>
+        <source>the material has no word for it; written as &quot;%1&quot;</source>
+        <translation>材料没有相应的词；写为“%1”</translation>
+    </message>
+    <message>
+        <source>%1 materials (%2)</source>
+        <translation>%1 个材料（%2）</translation>
+    </message>
+    <message>
+        <source>for example %1: %2</source>
+        <translation>例如 %1：%2</translation>
+    </message>
+    <message>
+        <source>line %1, %2: %3</source>
+        <translation>第 %1 行，%2：%3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; exclude each other; remove one of them</source>
+        <translation>“%1”与“%2”互相排斥；请删除其中之一</translation>
+    </message>
+    <message>
+        <source>its specific heat differs from that of *SPECIFIC HEAT, which is taken</source>
+        <translation>其比热与 *SPECIFIC HEAT 的不同，采用后者</translation>
+    </message>
+    <message>
+        <source>the parameter %1 is not evaluated; check the numbers</source>
+        <translation>参数 %1 不予处理；请检查数值</translation>
+    </message>
+    <message>
+        <source>the other numbers of the material give it within 1 %: %1; the number itself is not kept</source>
+        <translation>材料的其他数值在 1 % 以内给出该值：%1；该数值本身不保留</translation>
+    </message>
+    <message>
+        <source>the table replaces it</source>
+        <translation>由表格代替</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 elements and attributes; divide it into several files</source>
+        <translation>文件中的元素和属性超过 %1 个；请将其拆分为多个文件</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Word</name>
@@ -7923,6 +8096,38 @@ Delete anyway?</source>
     <message>
         <source>First Lamé constant</source>
         <translation>第一拉梅常数</translation>
+    </message>
+    <message>
+        <source>above 0</source>
+        <translation>大于 0</translation>
+    </message>
+    <message>
+        <source>0 or above</source>
+        <translation>大于或等于 0</translation>
+    </message>
+    <message>
+        <source>above 1</source>
+        <translation>大于 1</translation>
+    </message>
+    <message>
+        <source>above -1</source>
+        <translation>大于 -1</translation>
+    </message>
+    <message>
+        <source>above -1 and below 0.5</source>
+        <translation>大于 -1 且小于 0.5</translation>
+    </message>
+    <message>
+        <source>above 0 and at most 1</source>
+        <translation>大于 0 且不超过 1</translation>
+    </message>
+    <message>
+        <source>finite</source>
+        <translation>有限</translation>
+    </message>
+    <message>
+        <source>a logarithmic strain</source>
+        <translation>对数应变</translation>
     </message>
 </context>
 <context>

@@ -86,13 +86,15 @@ void DockSet::add(const DockEntry& entry)
     std::unique_ptr<QWidget> content;
     if (!Kelta::guarded(failure, [&] { content.reset(entry.make()); }) || content == nullptr)
         return;
-    auto* const dock = new QDockWidget(entry.title.translated(), &m_window);
+    QDockWidget* const standIn = find(entry.name);
+    QDockWidget* const dock = standIn != nullptr ? standIn : new QDockWidget(&m_window);
     dock->setObjectName(nameOf(entry));
+    dock->setWindowTitle(entry.title.translated());
     shrinkToOneLine(*content);
     dock->setWidget(content.release());
     new DockFocus(*dock, m_window); // the dock owns it
     m_entries.push_back(entry);
-    if (m_window.restoreDockWidget(dock))
+    if (standIn != nullptr || m_window.restoreDockWidget(dock))
         return;
     m_window.addDockWidget(areaOf(entry.area), dock);
     if (entry.visibility == DockVisibility::HiddenAtFirst || isTooWideFor(m_window, entry.area))
@@ -106,7 +108,8 @@ void DockSet::addContributed(const Contributions& contributions, CommandControll
     const std::vector<DockEntry>& entries = contributions.docks();
     for (; m_contributedCount < entries.size(); ++m_contributedCount) {
         const DockEntry& entry = entries[m_contributedCount];
-        if (find(entry.name) == nullptr)
+        const QDockWidget* const dock = find(entry.name);
+        if (dock == nullptr || dock->widget() == nullptr)
             add(entry);
         addToggleCommand(entry, commands);
     }

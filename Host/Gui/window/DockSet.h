@@ -19,8 +19,9 @@ class DockSet
 public:
     explicit DockSet(QMainWindow& window) : m_window(window) {}
 
-    /// Makes a dock at its place in the layout of the user. If its content cannot be made, there is no dock,
-    /// and the reason is reported to the message log.
+    /// Makes a dock at its place in the layout of the user, or gives the dock of this name without a content, which stands
+    /// in for it, its content. If the content cannot be made, no dock is made, and the reason is reported to the message
+    /// log.
     void add(const DockEntry& entry);
     /// Makes the missing docks of modules, each with a command that shows and hides it.
     void addContributed(const Contributions& contributions, CommandController& commands);

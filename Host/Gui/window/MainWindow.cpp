@@ -4,20 +4,19 @@
 #include "Gui/GuiApplication.h"
 #include "Gui/GuiProject.h"
 #include "Gui/MDIWindow.h"
-#include "Gui/MessageLogView.h"
 #include "Gui/ProjectExplorer.h"
 #include "Gui/PropertyPanel.h"
 #include "Gui/StdSimModule.h"
 #include "Gui/TreeSelectionSingleton.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
-#include "tree/ExplorerPane.h"
 #include "vxMsg/MessageProxy.h"
 #include "window/CenterArea.h"
 #include "window/DockSet.h"
 #include "window/DocumentArea.h"
 #include "window/Panes.h"
 #include "window/WelcomePage.h"
+#include "window/WindowOutline.h"
 #include "workbench/MenuBuilder.h"
 #include "workbench/WorkbenchBars.h"
 #include "workbench/WorkbenchSwitch.h"
@@ -29,8 +28,6 @@
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
-#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QUndoStack>
@@ -44,35 +41,8 @@ namespace {
 
 MainWindow* theMainWindow = nullptr;
 
-constexpr const char* geometryKey = "window/geometry";
-constexpr const char* stateKey = "window/state";
-
 /// The time for which a result stays in the status bar.
 constexpr int statusMilliseconds = 10000;
-
-constexpr const char* explorerDock = "ProjectExplorer";
-constexpr const char* propertiesDock = "PropertyPanel";
-constexpr const char* messagesDock = "MessageLog";
-
-/// Returns the size of the window at its first start: less than the screen, so that its frame fits too.
-QSize firstSize()
-{
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? MainWindow::usualSize.boundedTo(screen->availableSize() * 9 / 10)
-                             : MainWindow::usualSize;
-}
-
-bool deservesAttention(const Kelta::LogMessage& message)
-{
-    return message.severity != Kelta::LogMessage::Severity::Information;
-}
-
-/// Returns whether the message log has a warning or an error.
-bool logDeservesAttention()
-{
-    const auto& messages = Kelta::MessageLog::instance().messages();
-    return std::any_of(messages.begin(), messages.end(), deservesAttention);
-}
 
 bool isInDock(const QWidget* widget)
 {
@@ -97,22 +67,26 @@ void leaveEditor()
 
 MainWindow::MainWindow(QWidget* parent) : MainWindow(GuiApplication::Instance->contributions(), parent) {}
 
-MainWindow::MainWindow(Contributions& contributions, QWidget* parent)
+MainWindow::MainWindow(Contributions& contributions, QWidget* parent) : MainWindow(contributions, Parts::All, parent) {}
+
+MainWindow::MainWindow(Parts parts, QWidget* parent)
+    : MainWindow(GuiApplication::Instance->contributions(), parts, parent)
+{}
+
+MainWindow::MainWindow(Contributions& contributions, Parts parts, QWidget* parent)
     : QMainWindow(parent),
       m_application(*GuiApplication::Instance),
       m_contributions(contributions),
-      m_selection(TreeSelectionSingleton::instance())
+      m_selection(TreeSelectionSingleton::instance()),
+      m_docks(std::make_unique<DockSet>(*this)),
+      m_bars(std::make_unique<WorkbenchBars>(*this, m_application.get_command_manager(), m_contributions))
 {
     theMainWindow = this;
     setObjectName(QStringLiteral("mainWindow"));
     createCenter();
-    createDocks();
     // A message may be wider than the window.
     connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QStatusBar::setToolTip);
-    watchProjects();
-    watchRequests();
-    watchWindow();
-    resizeWithDocks(firstSize());
+    createFirstParts(parts);
 }
 
 MainWindow::~MainWindow()
@@ -285,16 +259,6 @@ void MainWindow::tellStep(const QString& sentence, const QString& step)
     statusBar()->showMessage(sentence.arg(step), statusMilliseconds);
 }
 
-void MainWindow::showMessages()
-{
-    m_docks->show(messagesDock);
-}
-
-void MainWindow::showProjectExplorer()
-{
-    m_docks->show(explorerDock);
-}
-
 void MainWindow::focusNextPane()
 {
     Panes(*this).move(Panes::Step::Next);
@@ -303,29 +267,6 @@ void MainWindow::focusNextPane()
 void MainWindow::focusPreviousPane()
 {
     Panes(*this).move(Panes::Step::Previous);
-}
-
-void MainWindow::focusDock(const std::string& name)
-{
-    m_docks->show(name);
-    if (QDockWidget* const dock = m_docks->find(name))
-        Panes::focus(*dock);
-}
-
-void MainWindow::toggleDock(const std::string& name)
-{
-    m_docks->toggle(name);
-}
-
-bool MainWindow::hasDock(const std::string& name) const
-{
-    return m_docks->find(name) != nullptr;
-}
-
-bool MainWindow::isDockShown(const std::string& name) const
-{
-    const QDockWidget* const dock = m_docks->find(name);
-    return dock != nullptr && dock->toggleViewAction()->isChecked();
 }
 
 QMenu* MainWindow::createPopupMenu()
@@ -339,35 +280,14 @@ QMenu* MainWindow::createPopupMenu()
     return menu;
 }
 
-void MainWindow::resizeWithDocks(const QSize& size)
-{
-    // In a small window the labels in the explorer are more important than the proportion.
-    constexpr int widest = 290;
-    const int legible = std::min(22 * fontMetrics().averageCharWidth(), size.width() * 2 / 5);
-    resize(size);
-    resizeDocks({m_docks->find(explorerDock), m_docks->find(propertiesDock)}, {320, 220}, Qt::Vertical);
-    resizeDocks({m_docks->find(explorerDock)}, {std::min(widest, std::max(legible, size.width() / 4))}, Qt::Horizontal);
-    resizeDocks({m_docks->find(messagesDock)}, {std::min(110, size.height() / 6)}, Qt::Vertical);
-}
-
-void MainWindow::saveLayout() const
-{
-    QSettings settings;
-    settings.setValue(QLatin1String(geometryKey), saveGeometry());
-    settings.setValue(QLatin1String(stateKey), saveState());
-}
-
-void MainWindow::restoreLayout()
-{
-    const QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(geometryKey)).toByteArray());
-    restoreState(settings.value(QLatin1String(stateKey)).toByteArray());
-    showMessagesIfDue();
-}
-
 void MainWindow::updateCommands()
 {
     m_update.stop();
+    if (!isComplete()) {
+        m_welcome->showOutline(m_outline->page);
+        Q_EMIT updated();
+        return;
+    }
     const bool hasDocuments = !getMdiWindows().isEmpty();
     m_center->setCurrentWidget(hasDocuments ? static_cast<QWidget*>(m_documents) : m_welcome);
     m_welcome->refresh(Obj::Application::get_current_project());
@@ -377,7 +297,8 @@ void MainWindow::updateCommands()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    finishEditing();
+    if (isComplete())
+        finishEditing();
     bool refused = false;
     Q_EMIT closing(refused);
     event->setAccepted(!refused);
@@ -398,47 +319,6 @@ void MainWindow::createCenter()
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_documents);
     setCentralWidget(new CenterArea(m_center));
-}
-
-void MainWindow::createDocks()
-{
-    m_explorer = new ProjectExplorer(*this, m_application, m_selection);
-    m_properties = new PropertyPanel(m_application, m_selection);
-    m_log = new MessageLogView;
-    m_docks = std::make_unique<DockSet>(*this);
-    for (const DockEntry& entry : hostDocks())
-        m_docks->add(entry);
-    showMessagesIfDue();
-    m_bars = std::make_unique<WorkbenchBars>(*this, m_application.get_command_manager(), m_contributions);
-}
-
-std::vector<DockEntry> MainWindow::hostDocks()
-{
-    // The edges of the docks are a sufficient frame.
-    const auto frameless = [](QFrame* view) {
-        view->setFrameShape(QFrame::NoFrame);
-        return view;
-    };
-    constexpr const char* context = "Gui::MainWindow";
-    return {{explorerDock,
-             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Project explorer")},
-             DockArea::Left,
-             [=] { return new ExplorerPane(*m_explorer, m_contributions); }},
-            {propertiesDock,
-             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Properties")},
-             DockArea::Left,
-             [=] { return frameless(m_properties); }},
-            {messagesDock,
-             {context, QT_TRANSLATE_NOOP("Gui::MainWindow", "Messages")},
-             DockArea::Bottom,
-             [=] { return frameless(m_log); },
-             DockVisibility::HiddenAtFirst}};
-}
-
-/// The messages are hidden until the user should read one of them.
-void MainWindow::showMessagesIfDue()
-{
-    m_docks->find(messagesDock)->setVisible(logDeservesAttention());
 }
 
 void MainWindow::watchProjects()
@@ -477,7 +357,7 @@ void MainWindow::watchWindow()
     });
     connect(&Kelta::MessageLog::instance(), &Kelta::MessageLog::reported, this,
             [this](const Kelta::LogMessage& message) {
-                if (deservesAttention(message))
+                if (message.severity != Kelta::LogMessage::Severity::Information)
                     showMessages();
             });
     connect(&m_contributions, &Contributions::changed, this, [this] {
@@ -558,21 +438,6 @@ void MainWindow::buildBars()
     addWorkbenchCommands(m_contributions, commands);
     m_bars->build(*m_workbench);
     addShortcuts();
-}
-
-QList<QDockWidget*> MainWindow::docks() const
-{
-    return findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-void MainWindow::showWantedDocks()
-{
-    if (!m_knownWorkbenches.insert(m_workbench->getTypeId().get_name()).second)
-        return;
-    const std::unique_ptr<ToolBarGadget> wanted(m_workbench->build_docking_windows());
-    for (const auto& gadget : wanted->items())
-        if (QDockWidget* const dock = m_docks->find(gadget->command()))
-            dock->show();
 }
 
 void MainWindow::addShortcuts()

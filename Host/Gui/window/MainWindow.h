@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <boost/signals2/connection.hpp>
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -38,6 +39,7 @@ class TreeSelectionSingleton;
 class WelcomePage;
 class WorkbenchBars;
 struct DockEntry;
+struct WindowOutline;
 
 /// The main window of the program. Document windows are in its middle. The project explorer, the property panel,
 /// the message log and the docks of modules surround them. The active workbench and modules provide the menus and
@@ -54,7 +56,26 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     /// As above with other contributions, which must outlive the window.
     explicit MainWindow(Contributions& contributions, QWidget* parent = nullptr);
+
+    /// The parts of a window that is just made.
+    enum class Parts
+    {
+        All,
+        /// The outline of the window as it was when it was last closed: the welcome page with its texts, the titles of the
+        /// menus, and the space of toolbars and docks. It is shown before modules are loaded. If the settings have no
+        /// outline in the language of the user, as at the first start, all parts.
+        OutlineFirst,
+    };
+    explicit MainWindow(Parts parts, QWidget* parent = nullptr);
+    MainWindow(Contributions& contributions, Parts parts, QWidget* parent = nullptr);
     ~MainWindow() override;
+
+    /// Returns whether the window has all parts.
+    bool isComplete() const { return m_outline == nullptr; }
+    /// Makes the missing parts, calls `addModules`, which loads the modules and activates a workbench, and restores the
+    /// layout of the last run; the parts of an outline keep their places. Must be called once, before the user acts on the
+    /// window. An outline knows no explorer, documents or commands.
+    void complete(const std::function<void()>& addModules);
 
     /// Returns the main window; null before it is made and after it was destroyed.
     static MainWindow* get_main_window_inst();
@@ -163,6 +184,8 @@ protected:
 
 private:
     void createCenter();
+    void createFirstParts(Parts parts);
+    void createHostParts();
     void createDocks();
     void showMessagesIfDue();
     std::vector<DockEntry> hostDocks();
@@ -192,6 +215,7 @@ private:
     ProjectExplorer* m_explorer = nullptr;
     PropertyPanel* m_properties = nullptr;
     MessageLogView* m_log = nullptr;
+    std::unique_ptr<WindowOutline> m_outline; ///< null if the window is complete
     std::unique_ptr<DockSet> m_docks;
     std::unique_ptr<WorkbenchBars> m_bars;
     std::unique_ptr<StdSimModule> m_workbench;

@@ -105,10 +105,36 @@ WelcomePage::~WelcomePage() = default;
 
 void WelcomePage::refresh(const Obj::Project* project)
 {
+    const WelcomeStep step = stepOf(project);
     const std::vector<const WelcomeEntry*> entries = entriesFor(project, m_contributions.welcomeEntries());
-    showTexts(stepOf(project), entries);
-    showButtons(stepOf(project), entries);
-    showLists(stepOf(project));
+    const PageOutline outline = outlineOf(step, entries);
+    showTexts(outline);
+    showButtons(outline.buttons);
+    for (QPushButton* const button : m_buttons)
+        button->setEnabled(canRun(button->objectName().toStdString(), entries));
+    showLists(step);
+}
+
+PageOutline WelcomePage::outline() const
+{
+    return outlineOf(WelcomeStep::NoProject, entriesFor(nullptr, m_contributions.welcomeEntries()));
+}
+
+void WelcomePage::showOutline(const PageOutline& outline)
+{
+    showTexts(outline);
+    showButtons(outline.buttons);
+    showLists(WelcomeStep::NoProject);
+    // The first widget that gets the focus is one of the complete window.
+    for (QPushButton* const button : findChildren<QPushButton*>())
+        button->setFocusPolicy(Qt::NoFocus);
+}
+
+void WelcomePage::removeOutline()
+{
+    replaceButtons({});
+    replaceLinks({}, {});
+    m_shownLinks.clear();
 }
 
 void WelcomePage::buildLayout()
@@ -127,29 +153,36 @@ void WelcomePage::buildLayout()
     m_buttonRow->addStretch();
 }
 
-void WelcomePage::showTexts(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries)
+PageOutline WelcomePage::outlineOf(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries) const
 {
     const bool hasModules = !m_contributions.welcomeEntries().empty();
     const HostTexts& host = hasModules ? hostTexts[static_cast<std::size_t>(step)] : withoutModules;
     QStringList texts;
     for (const WelcomeEntry* const entry : entries)
         texts << entry->text.translated();
-    m_title->setText(haveOneTitle(entries) ? entries.front()->title.translated() : tr(host.title));
-    m_text->setText(texts.isEmpty() ? tr(host.text) : texts.join(QLatin1Char('\n')));
+    PageOutline outline{haveOneTitle(entries) ? entries.front()->title.translated() : tr(host.title),
+                        texts.isEmpty() ? tr(host.text) : texts.join(QLatin1Char('\n')),
+                        {}};
+    for (const std::string& name : offeredCommands(step, entries))
+        outline.buttons.push_back({QString::fromStdString(name), m_commands.findCommand(name)->get_menu_info()});
+    return outline;
 }
 
-void WelcomePage::showButtons(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries)
+void WelcomePage::showTexts(const PageOutline& outline)
 {
-    const std::vector<std::string> names = offeredCommands(step, entries);
-    const auto shows = [](const QPushButton* button, const std::string& name) {
-        return button->objectName().toStdString() == name;
+    m_title->setText(outline.title);
+    m_text->setText(outline.text);
+}
+
+void WelcomePage::showButtons(const std::vector<PageOutline::Button>& buttons)
+{
+    const auto shows = [](const QPushButton* shown, const PageOutline::Button& button) {
+        return shown->objectName() == button.command;
     };
-    if (!std::equal(m_buttons.begin(), m_buttons.end(), names.begin(), names.end(), shows))
-        replaceButtons(names);
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        m_buttons[i]->setText(m_commands.findCommand(names[i])->get_menu_info());
-        m_buttons[i]->setEnabled(canRun(names[i], entries));
-    }
+    if (!std::equal(m_buttons.begin(), m_buttons.end(), buttons.begin(), buttons.end(), shows))
+        replaceButtons(buttons);
+    for (std::size_t i = 0; i < buttons.size(); ++i)
+        m_buttons[i]->setText(buttons[i].text);
 }
 
 /// Returns the existing commands, each once. Opening a file and the example of the program are always offered.
@@ -169,7 +202,7 @@ std::vector<std::string> WelcomePage::offeredCommands(WelcomeStep step,
     return names;
 }
 
-void WelcomePage::replaceButtons(const std::vector<std::string>& names)
+void WelcomePage::replaceButtons(const std::vector<PageOutline::Button>& buttons)
 {
     // A button's own command may replace the button, so the button is destroyed later.
     for (QPushButton* const button : m_buttons) {
@@ -178,16 +211,17 @@ void WelcomePage::replaceButtons(const std::vector<std::string>& names)
         button->deleteLater();
     }
     m_buttons.clear();
-    for (const std::string& name : names)
-        addButton(name);
+    for (const PageOutline::Button& button : buttons)
+        addButton(button.command);
     setFocusProxy(m_buttons.empty() ? nullptr : m_buttons.front());
 }
 
-void WelcomePage::addButton(const std::string& commandName)
+void WelcomePage::addButton(const QString& commandName)
 {
     auto* const button = new QPushButton(this);
-    button->setObjectName(QString::fromStdString(commandName));
-    connect(button, &QPushButton::clicked, this, [this, commandName] { m_commands.runCommand(commandName); });
+    button->setObjectName(commandName);
+    connect(button, &QPushButton::clicked, this,
+            [this, name = commandName.toStdString()] { m_commands.runCommand(name); });
     // Before the stretch at the end of the row.
     m_buttonRow->insertWidget(m_buttonRow->count() - 1, button);
     m_buttons.push_back(button);

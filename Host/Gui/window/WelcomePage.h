@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Gui/Contributions.h"
+#include "window/WindowOutline.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -34,13 +35,22 @@ public:
     /// Shows the possible next steps. `project` is the current project; null if no project is open.
     void refresh(const Obj::Project* project);
 
+    /// Returns the texts that the page has while no project is open.
+    PageOutline outline() const;
+    /// Shows these texts, and the lists of contributions, as if no project were open. Its buttons do not get the keyboard
+    /// focus.
+    void showOutline(const PageOutline& outline);
+    /// Removes the buttons and lists that showOutline has made. The next refresh makes others.
+    void removeOutline();
+
 private:
     void buildLayout();
-    void showTexts(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries);
-    void showButtons(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries);
+    PageOutline outlineOf(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries) const;
+    void showTexts(const PageOutline& outline);
+    void showButtons(const std::vector<PageOutline::Button>& buttons);
     std::vector<std::string> offeredCommands(WelcomeStep step, const std::vector<const WelcomeEntry*>& entries) const;
-    void replaceButtons(const std::vector<std::string>& names);
-    void addButton(const std::string& commandName);
+    void replaceButtons(const std::vector<PageOutline::Button>& buttons);
+    void addButton(const QString& commandName);
     void showLists(WelcomeStep step);
     void replaceLinks(const QString& title, const std::vector<WelcomeLink>& links);
 

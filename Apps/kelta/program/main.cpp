@@ -1,3 +1,4 @@
+#include "Start.h"
 #include "Startup.h"
 #include "TitleUpdate.h"
 #include "UserSettings.h"
@@ -83,7 +84,7 @@ int saveScreenshot(Gui::MainWindow& window, const std::string& path)
     return failure ? 2 : 0;
 }
 
-int runAlone(Gui::MainWindow& window, const Options& options)
+int runRequests(Gui::MainWindow& window, const Options& options)
 {
     int status = 0;
     if (!options.batch.empty())
@@ -145,12 +146,38 @@ desktop::ProjectFiles::Options optionsOfFiles(const Options& options)
             options.takesLocksOver ? Locks::TakeOver : Locks::Ask};
 }
 
-void warn(Gui::MainWindow& window, const QString& text)
+/// Adds files and their rules to a window.
+void prepare(Gui::MainWindow& window, const Options& options)
 {
-    if (text.isEmpty())
-        return;
-    Kelta::MessageLog::warning(text);
-    window.showMessages();
+    desktop::startFiles(window, optionsOfFiles(options));
+    QObject::connect(&window, &Gui::MainWindow::updated, [&window] { desktop::updateTitle(window); });
+    QObject::connect(&window, &Gui::MainWindow::closing,
+                     [&window](bool& refused) { askBeforeClosing(window, refused); });
+}
+
+int runAlone(const Options& options)
+{
+    Gui::MainWindow window;
+    prepare(window, options);
+    const bool loaded = desktop::loadModules(window);
+    // A picture does not depend on the screen.
+    window.resizeWithDocks(Gui::MainWindow::usualSize);
+    // The reason is in the message log, which the user may have hidden.
+    if (!loaded)
+        window.showMessages();
+    window.show();
+    const int status = openFilesAlone(options.files) ? runRequests(window, options) : 2;
+    // A module is missing, so a part of the requested work may not have been done.
+    return status == 0 && !loaded ? 1 : status;
+}
+
+int runForUser(const Options& options)
+{
+    Gui::MainWindow window(Gui::MainWindow::Parts::OutlineFirst);
+    prepare(window, options);
+    desktop::Start start(window, [&options] { openFiles(options.files); });
+    start.show();
+    return QApplication::exec();
 }
 
 int runWithWindows(int& argc, char** argv, const Options& options)
@@ -182,35 +209,9 @@ int runWithWindows(int& argc, char** argv, const Options& options)
             Gui::Translator::instance()->restoreLanguage();
     }
 
-    int status = 0;
-    {
-        Gui::MainWindow window;
-        warn(window, doubt);
-        desktop::startFiles(window, optionsOfFiles(options));
-        QObject::connect(&window, &Gui::MainWindow::updated, [&window] { desktop::updateTitle(window); });
-        const bool loaded = desktop::loadModules(window);
-        QObject::connect(&window, &Gui::MainWindow::closing,
-                         [&window](bool& refused) { askBeforeClosing(window, refused); });
-        if (!runsAlone(options))
-            window.restoreLayout();
-        else
-            // A picture does not depend on the screen.
-            window.resizeWithDocks(Gui::MainWindow::usualSize);
-        // The reason is in the message log, which the user may have hidden.
-        if (!loaded)
-            window.showMessages();
-        window.show();
-        if (runsAlone(options)) {
-            status = openFilesAlone(options.files) ? runAlone(window, options) : 2;
-        } else {
-            // After the window is shown, because opening may ask questions.
-            QTimer::singleShot(0, &window, [&options] { openFiles(options.files); });
-            status = QApplication::exec();
-        }
-        // A module is missing, so a part of the requested work may not have been done.
-        if (runsAlone(options) && !loaded && status == 0)
-            status = 1;
-    }
+    if (!doubt.isEmpty())
+        Kelta::MessageLog::warning(doubt);
+    const int status = runsAlone(options) ? runAlone(options) : runForUser(options);
     desktop::shutDown();
     return status;
 }

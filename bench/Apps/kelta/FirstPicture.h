@@ -3,35 +3,58 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
+#include <QTimer>
 #include <QWidget>
+
+#include <unistd.h>
+#include <utility>
 
 namespace vxbench {
 
-/// Counts the paint events of the widgets of the program.
-class PaintCount final : public QObject
+/// Tells the measuring program that a moment has come.
+inline void tell(char moment)
+{
+    static_cast<void>(write(STDOUT_FILENO, &moment, 1));
+}
+
+constexpr char painted = 'p';
+constexpr char completed = 'c';
+
+/// Tells when a window has been painted for the first time, and the picture has been given to the screen.
+class PaintWatch final : public QObject
 {
 public:
-    int value() const { return m_value; }
+    /// `part` is a part of the window, or the window, that must have been painted too. Install the watch last: the filter
+    /// that was installed last sees an event first.
+    PaintWatch(const QWidget& window, const QWidget& part) : m_window(window), m_part(part)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool hasTold() const { return m_hasTold; }
 
 protected:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    bool eventFilter(QObject* watched, QEvent* event) override
     {
-        m_value += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint && watched == &m_part)
+            m_isPainted = true;
+        // The other widgets are painted after the window, before the event loop is idle.
+        if (event->type() == QEvent::Paint && watched == &m_window)
+            QTimer::singleShot(0, this, &PaintWatch::tellOnce);
         return false;
     }
 
 private:
-    int m_value = 0;
-};
+    void tellOnce()
+    {
+        if (m_isPainted && !std::exchange(m_hasTold, true))
+            tell(painted);
+    }
 
-/// Shows `window` until it is painted. Returns the exit status: 0 if it was painted.
-inline int paintOnce(QWidget& window)
-{
-    PaintCount paints;
-    QCoreApplication::instance()->installEventFilter(&paints);
-    window.show();
-    QCoreApplication::processEvents();
-    return paints.value() > 0 ? 0 : 1;
-}
+    const QWidget& m_window;
+    const QWidget& m_part;
+    bool m_isPainted = false;
+    bool m_hasTold = false;
+};
 
 } // namespace vxbench

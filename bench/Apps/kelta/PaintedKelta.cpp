@@ -1,4 +1,5 @@
 #include "FirstPicture.h"
+#include "Start.h"
 #include "Startup.h"
 #include "UserSettings.h"
 
@@ -7,7 +8,19 @@
 #include "Gui/PictureFactory.h"
 #include "Gui/Translator.h"
 
-/// Starts like kelta with a user, paints the window, and ends.
+#include <QLabel>
+
+namespace {
+
+/// Returns the title of the welcome page, which is painted with the other texts of the page.
+const QLabel& titleIn(const Gui::MainWindow& window)
+{
+    return *window.findChild<QWidget*>(QStringLiteral("welcomePage"))->findChild<QLabel*>();
+}
+
+} // namespace
+
+/// Starts like kelta with a user. Tells when the welcome page is painted and when the window is complete, and ends.
 int main(int argc, char** argv)
 {
     Gui::GuiApplication application(argc, argv);
@@ -16,14 +29,23 @@ int main(int argc, char** argv)
     QGuiApplication::setWindowIcon(Gui::PictureFactory::getIcon(QStringLiteral("kelta")));
     desktop::chooseUserSettings();
     Gui::Translator::instance()->restoreLanguage();
-    int status = 0;
+    bool isComplete = false;
+    bool hasWorkbench = false;
     {
-        Gui::MainWindow window;
+        Gui::MainWindow window(Gui::MainWindow::Parts::OutlineFirst);
         desktop::startFiles(window, {});
-        const bool loaded = desktop::loadModules(window);
-        window.restoreLayout();
-        status = loaded ? vxbench::paintOnce(window) : 1;
+        desktop::Start start(window, [&] { isComplete = true; });
+        start.show();
+        const vxbench::PaintWatch watch(window, titleIn(window));
+        while (!watch.hasTold() || !isComplete)
+            QCoreApplication::processEvents();
+        // The complete window is painted.
+        QCoreApplication::processEvents();
+        vxbench::tell(vxbench::completed);
+        // For the next start.
+        window.saveLayout();
+        hasWorkbench = window.getWorkbench() != nullptr;
     }
     desktop::shutDown();
-    return status;
+    return hasWorkbench ? 0 : 1;
 }

@@ -297,6 +297,7 @@ Json::Value toJson(const MeasuredTest& test, const UnitSystem& system)
     json["decimal_mark"] = std::string(1, test.format.decimalMark);
     json["x"] = toJson(test.abscissa);
     json["y"] = toJson(test.ordinate);
+    json["stress_column"] = test.stress ? toJson(*test.stress) : Json::Value();
     json["findings"] = findingsToJson(test.findings, system);
     return json;
 }
@@ -315,7 +316,6 @@ Json::Value toJson(const FittedConstant& constant, const FitResult& result, cons
 }
 
 Json::Value toJson(const TestAgreement& agreement, const UnitSystem& system)
-    json["stress_column"] = test.stress ? toJson(*test.stress) : Json::Value();
 {
     const ShownUnit unit = showIn(system, ordinateUnitOf(agreement.mode));
     Json::Value json;

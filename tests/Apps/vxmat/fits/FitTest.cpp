@@ -379,32 +379,6 @@ TEST_F(Fit, WritesNothingIfTheProjectIsOpenElsewhere)
 {
     const std::string data = file("a.csv", neoHookean(0.3, header));
     const std::string target = project();
-TEST_F(Fit, ReadsCreepCurvesAtSeveralStressesFromOneFile)
-{
-    // strain = 1e-9 (s/MPa)^3 t in h
-    std::string table = "Time [h],Strain [1],Stress [MPa]\n";
-    for (const int stress : {50, 100}) {
-        for (int hours = 0; hours <= 4; ++hours)
-            table += std::to_string(hours) + "," + std::to_string(1e-9 * stress * stress * stress * hours) + "," +
-                     std::to_string(stress) + "\n";
-    }
-    const std::string data = file("creep.csv", table);
-    const Outcome run = vxmat({"fit", "creep=" + data, "--model", "norton", "--bound", "m=0", "--units", "mm-t-s"});
-    EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_THAT(run.out,
-                HasSubstr("creep.csv (50 MPa): creep at 50 MPa, 5 points; column \"Time\" is the time in h, column "
-                          "\"Strain\" is the creep strain in 1, column \"Stress\" is the stress in MPa\n"
-                          "creep.csv (100 MPa): creep at 100 MPa, 5 points"));
-    const Json::Value json = fitJson({"creep=" + data, "--model", "norton", "--bound", "m=0"});
-    EXPECT_THAT(constantOf(json["fits"][0], "n")["value"].asDouble(), DoubleNear(3.0, 1e-3));
-    ASSERT_EQ(json["tests"].size(), 2U);
-    EXPECT_EQ(json["tests"][1]["stress"].asDouble(), 1e8);
-    EXPECT_EQ(json["tests"][1]["stress_column"]["name"].asString(), "Stress");
-    const Json::Value one = fitJson({"creep=" + data, "--model", "norton", "--stress", "100 MPa", "--bound", "n=3"});
-    ASSERT_EQ(one["tests"].size(), 1U);
-    EXPECT_EQ(one["tests"][0]["points"].asInt(), 5);
-}
-
     const std::string before = vxtest::readText(target);
     projectfile::FileLock lock(QString::fromStdString(target));
     ASSERT_TRUE(lock.tryLock());
@@ -486,14 +460,38 @@ TEST_F(Fit, FindsNortonsConstantsFromRates)
     EXPECT_THAT(constantOf(json["fits"][0], "A")["unit"].asString(), HasSubstr("MPa"));
 }
 
+TEST_F(Fit, ReadsCreepCurvesAtSeveralStressesFromOneFile)
+{
+    // strain = 1e-9 (s/MPa)^3 t in h
+    std::string table = "Time [h],Strain [1],Stress [MPa]\n";
+    for (const int stress : {50, 100}) {
+        for (int hours = 0; hours <= 4; ++hours)
+            table += std::to_string(hours) + "," + std::to_string(1e-9 * stress * stress * stress * hours) + "," +
+                     std::to_string(stress) + "\n";
+    }
+    const std::string data = file("creep.csv", table);
+    const Outcome run = vxmat({"fit", "creep=" + data, "--model", "norton", "--bound", "m=0", "--units", "mm-t-s"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_THAT(run.out,
+                HasSubstr("creep.csv (50 MPa): creep at 50 MPa, 5 points; column \"Time\" is the time in h, column "
+                          "\"Strain\" is the creep strain in 1, column \"Stress\" is the stress in MPa\n"
+                          "creep.csv (100 MPa): creep at 100 MPa, 5 points"));
+    const Json::Value json = fitJson({"creep=" + data, "--model", "norton", "--bound", "m=0"});
+    EXPECT_THAT(constantOf(json["fits"][0], "n")["value"].asDouble(), DoubleNear(3.0, 1e-3));
+    ASSERT_EQ(json["tests"].size(), 2U);
+    EXPECT_EQ(json["tests"][1]["stress"].asDouble(), 1e8);
+    EXPECT_EQ(json["tests"][1]["stress_column"]["name"].asString(), "Stress");
+    const Json::Value one = fitJson({"creep=" + data, "--model", "norton", "--stress", "100 MPa", "--bound", "n=3"});
+    ASSERT_EQ(one["tests"].size(), 1U);
+    EXPECT_EQ(one["tests"][0]["points"].asInt(), 5);
+}
+
 TEST_F(Fit, FindsRelaxation)
 {
     std::string text = "time [s],modulus [MPa]\n";
     for (int i = 0; i <= 20; ++i)
         text += std::to_string(i) + "," + std::to_string(2.0 * (0.6 + 0.4 * std::exp(-i / 5.0))) + "\n";
     const Json::Value json = fitJson({"relaxation=" + file("r.csv", text), "--model", "visco-elasticity"});
-    const std::string creep =
-        file("d.csv", "time [h],strain [%],stress [MPa]\n1,0.1,10\n2,0.2,10\n1,0.8,20\n2,1.6,20\n");
     EXPECT_THAT(constantOf(json["fits"][0], "g")["value"].asDouble(), DoubleNear(0.4, 1e-5));
     EXPECT_THAT(constantOf(json["fits"][0], "tau")["value"].asDouble(), DoubleNear(5.0, 1e-3));
     EXPECT_TRUE(constantOf(json["fits"][0], "G0")["id"].isNull());
@@ -575,6 +573,8 @@ TEST_F(Fit, PrintsJsonThatFitsItsSchema)
     const std::string rubber = file("a.csv", neoHookean(0.3, header));
     const std::string metal = file("b.csv", tensileTest());
     const std::string rates = file("c.csv", "stress [MPa],strain rate [1/h]\n10,1e-6\n20,8e-6\n30,2.7e-5\n40,6.4e-5\n");
+    const std::string creep =
+        file("d.csv", "time [h],strain [%],stress [MPa]\n1,0.1,10\n2,0.2,10\n1,0.8,20\n2,1.6,20\n");
     const std::string target = project();
     std::vector<std::string> files;
     for (const std::vector<std::string>& run : std::vector<std::vector<std::string>>{

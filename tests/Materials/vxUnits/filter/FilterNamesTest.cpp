@@ -87,6 +87,44 @@ TEST(FilterNames, AreInMessagesAndSuggestions)
     EXPECT_EQ(readFilter("Dichte 7850", {}, german()).remark->arguments.front(), "Dichte = 7850");
 }
 
+TEST(QuantityNames, AreFoundByNameKeySymbolAndId)
+{
+    const std::pair<const char*, std::int32_t> names[] = {
+        {"Young's modulus", Id::YoungsModulus},
+        {"youngs MODULUS", Id::YoungsModulus},
+        {"E", Id::YoungsModulus},
+        {"5", Id::YoungsModulus},
+        {"HyperD1", Id::IncompressibilityParameterD1},
+        {"D1", Id::IncompressibilityParameterD1},
+        {"d1", Id::IncompressibilityParameterD1},
+        {"Mu", Id::InitialShearModulusMu},
+        {"C10", Id::MaterialConstantC10},
+        {"C01", Id::MaterialConstantC01},
+        {"C11", Id::MaterialConstantC11},
+        {"lm", Id::LimitingNetworkStretch},
+        {"cp", Id::SpecificHeat},
+        {"H", Id::PlasticHardeningFactor},
+        {"\xCE\xBD", Id::PoissonsRatio},
+    };
+    for (const auto& [name, id] : names) {
+        const auto found = vxUnits::findQuantityNamed(name);
+        ASSERT_TRUE(found) << name;
+        EXPECT_EQ(found->id, id) << name;
+    }
+    EXPECT_EQ(vxUnits::findQuantityNamed("G"), (FilterQuantity{0, &derived("G")}));
+    EXPECT_FALSE(vxUnits::findQuantityNamed("C12"));
+    EXPECT_FALSE(vxUnits::findQuantityNamed(""));
+    EXPECT_FALSE(vxUnits::findQuantityNamed(std::string(100000, 'E')));
+}
+
+TEST(QuantityNames, AreSuggestedForNearOnes)
+{
+    EXPECT_THAT(vxUnits::nearestQuantityNames("densty"), ElementsAre("Density"));
+    EXPECT_THAT(vxUnits::nearestQuantityNames("C12"), ElementsAre("C10", "C11"));
+    EXPECT_THAT(vxUnits::nearestQuantityNames("weight"), testing::IsEmpty());
+    EXPECT_THAT(vxUnits::nearestQuantityNames("G"), testing::IsEmpty());
+}
+
 TEST(FilterNames, YieldToEnglishOnes)
 {
     const FilterNames names{{{Id::YoungsModulus, nullptr}, "Density"}};

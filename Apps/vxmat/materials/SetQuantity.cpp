@@ -57,11 +57,11 @@ const PropertyRecord& findQuantity(const std::string& name)
     if (const auto found = vxUnits::findQuantityNamed(name)) {
         if (found->derived == nullptr)
             return *vxMat::findPropertyRecord(found->id);
-        throw Failure("\"" + name + "\" is derived and cannot be set: " + found->name() + " = " +
+        throw Failure("\"" + excerpt(name) + "\" is derived and cannot be set: " + found->name() + " = " +
                       found->derived->formula);
     }
     const std::string question = suggest(name);
-    throw Failure("no quantity is called \"" + name +
+    throw Failure("no quantity is called \"" + excerpt(name) +
                   (question.empty() ? R"("; "vxmat catalogue" lists them)" : "\"; " + question));
 }
 
@@ -72,7 +72,7 @@ const PropertyRecord& findQuantity(const std::string& name)
         if (object.material != nullptr)
             labels.push_back(object.label);
     const std::string question = didYouMean(nearestNames(setting.material, labels));
-    throw Failure(setting.project + ": no material has the label or number \"" + setting.material + "\"" +
+    throw Failure(setting.project + ": no material has the label or number \"" + excerpt(setting.material) + "\"" +
                   (question.empty() ? question : "; " + question));
 }
 
@@ -91,7 +91,7 @@ ObjectRecord& findMaterial(const Setting& setting, ProjectRecord& project)
     if (found.empty())
         refuseMaterial(setting, project);
     if (found.size() > 1)
-        throw Failure(setting.project + ": several materials have the label \"" + setting.material +
+        throw Failure(setting.project + ": several materials have the label \"" + excerpt(setting.material) +
                       "\"; give the number");
     return *found.front();
 }
@@ -118,7 +118,7 @@ struct ReadValue
 ReadValue readSwitch(const PropertyRecord& quantity, const std::string& value)
 {
     if (!equalIgnoringAsciiCase(value, "on") && value != "1")
-        refuse(quantity, "\"" + value + R"(" is not a value of a switch; give "on")");
+        refuse(quantity, "\"" + excerpt(value) + R"(" is not a value of a switch; give "on")");
     return {quantity.create(), "on", {}};
 }
 

@@ -294,6 +294,18 @@ std::string printable(const std::string& text)
     return shown;
 }
 
+std::string excerpt(const std::string& text)
+{
+    constexpr std::size_t longest = 60;
+    if (text.size() <= longest)
+        return text;
+    const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
+    std::size_t end = longest;
+    while (end > 0 && continues(text[end]))
+        --end;
+    return text.substr(0, end) + "...";
+}
+
 Json::Value toJsonNumber(double number)
 {
     const std::string_view word = vxjson::wordOfNumber(number);

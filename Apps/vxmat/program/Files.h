@@ -76,6 +76,9 @@ void writeStandardOutput(const std::string& text);
 /// such as \u001b, because they could imitate lines of this program or control the terminal.
 std::string printable(const std::string& text);
 
+/// Returns a text from a command line for messages: of a text of more than 60 bytes the beginning, with "...".
+std::string excerpt(const std::string& text);
+
 /// Returns a number for --json. A number that is not finite becomes the text "Infinity", "-Infinity" or "NaN".
 Json::Value toJsonNumber(double number);
 

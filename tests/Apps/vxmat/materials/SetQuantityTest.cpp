@@ -160,6 +160,19 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
     EXPECT_EQ(vxtest::readText(file()), before);
 }
 
+TEST_F(SetQuantity, QuotesTheBeginningOfLongTexts)
+{
+    std::string longText(100000, 'x');
+    longText.insert(59, "\xC3\xA4"); // the end of the excerpt is not inside a letter
+    for (const Outcome& run : {set(longText, "E", "1 GPa"), set("Frame", longText, "1 GPa"),
+                               set("Frame", "E", longText), set("Frame", "Plasticity", longText)})
+    {
+        EXPECT_EQ(run.status, 2);
+        EXPECT_LT(run.err.size(), 400U);
+        EXPECT_THAT(run.err, HasSubstr("xxx...\""));
+    }
+}
+
 TEST_F(SetQuantity, FindsAMaterialByItsNumber)
 {
     EXPECT_EQ(set("1", "E", "70 GPa").out, "Frame: Young's modulus: 70 GPa = 7e+10 Pa\n");

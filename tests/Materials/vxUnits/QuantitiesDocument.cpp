@@ -175,6 +175,10 @@ A material whose values are outside one of these bounds is in doubt. In addition
 ascend, each of them needs one yield stress, and yield stresses must not fall. A material that is like none of about a hundred
 kinds of materials is in doubt if a usual error of one unit makes it like one of them.
 
+A doubt is about the value without which the other ones are those of a known kind. A remedy is the most likely error of units:
+powers of ten before other factors, common kinds of materials before exotic ones. It is called one possibility if an unrelated
+error explains the values about as well, and is not named if a missing or additional digit explains them better.
+
 )" + relations() +
            R"(
 Errors by less than a factor of about two are not found, nor errors that stay within the span of the kind of material:

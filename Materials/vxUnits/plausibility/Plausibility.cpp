@@ -124,7 +124,7 @@ struct Explanation
 /// Returns whether two slips have nearly the same effect on the quantities that both change, and change at least one together.
 bool areRelated(const Slip& one, const Slip& other)
 {
-    constexpr double sameFactor = 2.0;
+    constexpr double sameFactor = 1.5;
     std::size_t common = 0;
     for (const Change& change : one.changes) {
         for (const Change& second : other.changes) {

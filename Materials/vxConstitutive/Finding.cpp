@@ -230,6 +230,17 @@ constexpr FindingRecord findingTable[]{
      "The relaxation time %1 s is outside the measured times, %2 s to %3 s."},
     {FindingId::SolverUnavailable, "solver-unavailable", Severity::Error,
      "%1: the library of the solver cannot be loaded: %2. Install the program again."},
+    {FindingId::ModulusDiffers, "modulus-differs", Severity::Warning,
+     "Young's modulus of the first part of the curve is %1 Pa. It differs by %3 % from the given %2 Pa, with which the "
+     "elastic part is taken off."},
+    {FindingId::RankedForConstants, "ranked-for-constants", Severity::Note,
+     "The residual is less than that of %1 (%3 instead of %2), but not by so much that %5 free constants are better "
+     "than "
+     "%4."},
+    {FindingId::RankedForDoubts, "ranked-for-doubts", Severity::Note,
+     "The residual is less than that of %1 (%3 instead of %2), but the data do not determine all constants well, or "
+     "the "
+     "model is not as stable as requested."},
 };
 
 std::string textOf(const FindingArgument& argument)

@@ -132,6 +132,9 @@ enum class FindingId
     OneStressOnly,           ///< no argument
     RelaxationTimeOutside,   ///< time, first, last
     SolverUnavailable,       ///< model, reason
+    ModulusDiffers,          ///< Young's modulus of the curve, the given one, percent
+    RankedForConstants,      ///< first model, its residual, this residual, its constants, these constants
+    RankedForDoubts,         ///< first model, its residual, this residual
 };
 
 /// A remark for the user about a model, curve, test or fit. Its text is made from a table, so that a user interface can

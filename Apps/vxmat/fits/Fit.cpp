@@ -4,6 +4,7 @@
 #include "fits/FitTarget.h"
 #include "program/Interruption.h"
 #include "units/ShownUnits.h"
+#include "vxMaterial/model/NumberText.h"
 
 #include <cmath>
 #include <utility>
@@ -43,6 +44,20 @@ D1Setting readD1(const FitArguments& arguments)
     if (!(ratio > 0.0) || !std::isfinite(ratio))
         throw Failure("--d1: the ratio of bulk to shear modulus must be greater than 0");
     return {D1Treatment::Set, ratio};
+}
+
+/// Returns the settings with an amount for Young's modulus of the material; absent for that of the curve.
+FitSettings settingsFor(const FitArguments& arguments, const std::optional<FitTarget>& target)
+{
+    FitSettings settings = arguments.settings;
+    if (settings.youngsModulus == "curve")
+        settings.youngsModulus.reset();
+    if (settings.youngsModulus != "material")
+        return settings;
+    if (!target)
+        throw Failure("--youngs-modulus material: give the material with --into and --as");
+    settings.youngsModulus = vxMat::formatNumber(youngsModulusOf(*target)) + " Pa";
+    return settings;
 }
 
 /// Fits the models; empty if the user ended the fit.
@@ -86,7 +101,7 @@ Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& un
     const std::vector<MeasuredTest> tests = readTests(arguments.tests, units.system(), answer);
     if (answer.status == Status::Error)
         return answer;
-    const Fitting fitting(arguments.settings, tests, units.system());
+    const Fitting fitting(settingsFor(arguments, target), tests, units.system());
     const auto results = run(fitting);
     if (!results) {
         answer.messages.emplace_back("the fit was ended; nothing is written");
@@ -101,7 +116,7 @@ Answer fitModels(const FitArguments& arguments, Form form, const ChosenUnits& un
         target.reset();
     }
     if (target)
-        writeFit(*target, {&best, &fitting.tests(), fitting.record(best), d1}, existing, answer);
+        writeFit(*target, {&best, &fitting.tests(), fitting.record(best), d1, &units.system()}, existing, answer);
     if (form == Form::Json) {
         Json::Value json = fitToJson(tests, *results, units.system());
         json["written"] = toJson(target, best);

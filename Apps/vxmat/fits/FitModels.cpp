@@ -4,6 +4,7 @@
 #include "units/ShownUnits.h"
 #include "vxConstitutive/fit/FitBounds.h"
 #include "vxConstitutive/fit/PlasticFit.h"
+#include "vxConstitutive/fit/Ranking.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxMaterial/model/NumberText.h"
 
@@ -248,9 +249,7 @@ std::vector<FitResult> Fitting::fitMetal(const FitControl& control) const
         const bool isMultilinear = std::string_view(model->key) == "multilinear";
         results.push_back(isMultilinear ? fitMultilinear(request, control) : fitBilinear(request, control));
     }
-    std::stable_sort(results.begin(), results.end(), [](const FitResult& one, const FitResult& other) {
-        return std::pair(!one.fitted, one.residualPerFreedom) < std::pair(!other.fitted, other.residualPerFreedom);
-    });
+    rankFits(results);
     return results;
 }
 

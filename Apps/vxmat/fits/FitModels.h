@@ -14,11 +14,11 @@ namespace commandline {
 /// How models are fitted, as it was typed.
 struct FitSettings
 {
-    std::vector<std::string> models;      ///< keys, or "all"
-    std::optional<std::string> stability; ///< "data", "none" or FROM:TO
-    std::optional<std::string> error;     ///< "largest", "each" or "absolute"
-    std::vector<std::string> bounds;      ///< CONSTANT=LOWER:UPPER or CONSTANT=VALUE
-    std::optional<std::string> youngsModulus;
+    std::vector<std::string> models;          ///< keys, or "all"
+    std::optional<std::string> stability;     ///< "data", "none" or FROM:TO
+    std::optional<std::string> error;         ///< "largest", "each" or "absolute"
+    std::vector<std::string> bounds;          ///< CONSTANT=LOWER:UPPER or CONSTANT=VALUE
+    std::optional<std::string> youngsModulus; ///< "curve", which is usual, "material", or an amount
     std::optional<std::string> poissonsRatio;
     std::optional<std::string> offset;
     std::optional<std::string> tolerance;

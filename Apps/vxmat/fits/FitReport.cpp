@@ -5,6 +5,7 @@
 #include "program/Files.h"
 #include "program/TextTable.h"
 #include "units/ShownUnits.h"
+#include "vxConstitutive/fit/EstimateText.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/Quantity.h"
@@ -31,8 +32,10 @@ using vxUnits::UnitSystem;
 
 constexpr const char* absent = "-";
 
-/// A standard error is itself known to few digits.
-constexpr int errorDigits = 3;
+std::string residualText(double residual)
+{
+    return vxConstitutive::roundedText(residual, vxConstitutive::residualDigits);
+}
 
 std::string rounded(double number)
 {
@@ -124,17 +127,18 @@ const char* ordinateUnitOf(vxConstitutive::Mode mode)
 
 std::string textOf(const ShownConstant& constant, Determination determination)
 {
-    const std::string value = rounded(constant.value);
+    const std::string value = vxConstitutive::estimateText(constant.value, constant.standardError);
     if (constant.standardError)
-        return value + " \xC2\xB1 " + vxUnits::writeNumber(*constant.standardError, vxUnits::Unit(), errorDigits);
+        return value + " \xC2\xB1 " + vxConstitutive::roundedText(*constant.standardError, vxConstitutive::errorDigits);
     return determination == Determination::Determined ? value : value + " (" + nameOf(determination) + ")";
 }
 
 std::string textOf(const StableRange& range)
 {
-    const std::string from = range.unstableBelow ? rounded(range.range.from) : "below " + rounded(range.range.from);
-    const std::string to = range.unstableAbove ? rounded(range.range.to) : "above " + rounded(range.range.to);
-    return from + " to " + to;
+    constexpr int digits = 4;
+    const std::string from = vxConstitutive::roundedText(range.range.from, digits);
+    const std::string to = vxConstitutive::roundedText(range.range.to, digits);
+    return (range.unstableBelow ? "" : "below ") + from + " to " + (range.unstableAbove ? "" : "above ") + to;
 }
 
 /// A table with a column for each model.
@@ -207,6 +211,16 @@ void addConstants(ModelTable& table, const std::vector<FitResult>& results, cons
     }
 }
 
+/// Adds the Young's modulus with which the elastic part of tensile tests was taken off, if it was given.
+void addGivenModulus(ModelTable& table, const UnitSystem& system)
+{
+    const ShownUnit unit = showIn(system, "Pa");
+    table.add("E, given [" + unit.text + "]", [&](const FitResult& result) {
+        const bool isGiven = result.youngsModulus && findConstant(result, "E") == nullptr;
+        return isGiven ? rounded(unit.convert(*result.youngsModulus)) : std::string();
+    });
+}
+
 const TestAgreement* findAgreement(const FitResult& result, const std::string& test)
 {
     const auto found = std::find_if(result.tests.begin(), result.tests.end(),
@@ -224,11 +238,15 @@ void addAgreement(ModelTable& table, const std::vector<MeasuredTest>& tests)
             });
         }
     };
-    table.add("residual", [](const FitResult& result) { return rounded(result.residual); });
+    table.add("residual", [](const FitResult& result) { return residualText(result.residual); });
     table.add("residual without stability", [](const FitResult& result) {
-        return result.residualWithoutStability ? rounded(*result.residualWithoutStability) : std::string();
+        return result.residualWithoutStability ? residualText(*result.residualWithoutStability) : std::string();
     });
-    table.add("residual per freedom", [](const FitResult& result) { return rounded(result.residualPerFreedom); });
+    table.add("residual per freedom", [](const FitResult& result) { return residualText(result.residualPerFreedom); });
+    table.add("free constants", [](const FitResult& result) { return std::to_string(result.freeConstants); });
+    table.add("criterion", [](const FitResult& result) {
+        return std::isfinite(result.criterion) ? residualText(result.criterion) : std::string();
+    });
     table.add("R2", [](const FitResult& result) { return rounded(result.rSquared); });
     add("relative error, ", &TestAgreement::relativeError, percentOf);
     add("largest error, ", &TestAgreement::largestError, percentOf);
@@ -357,6 +375,18 @@ Json::Value hardeningToJson(const FitResult& result, const UnitSystem& system)
     return json;
 }
 
+Json::Value modulusToJson(const FitResult& result, const UnitSystem& system)
+{
+    if (!result.youngsModulus)
+        return {};
+    const ShownUnit unit = showIn(system, "Pa");
+    Json::Value json;
+    json["value"] = toJsonNumber(unit.convert(*result.youngsModulus));
+    json["unit"] = unit.text;
+    json["from_curve"] = findConstant(result, "E") != nullptr;
+    return json;
+}
+
 Json::Value toJson(const FitResult& result, const UnitSystem& system)
 {
     Json::Value json;
@@ -373,9 +403,12 @@ Json::Value toJson(const FitResult& result, const UnitSystem& system)
     const bool isFitted = result.fitted != nullptr;
     json["residual"] = isFitted ? toJsonNumber(result.residual) : Json::Value();
     json["residual_per_freedom"] = isFitted ? toJsonNumber(result.residualPerFreedom) : Json::Value();
+    json["free_constants"] = static_cast<Json::UInt64>(result.freeConstants);
+    json["criterion"] = std::isfinite(result.criterion) ? toJsonNumber(result.criterion) : Json::Value();
     json["r_squared"] = isFitted ? toJsonNumber(result.rSquared) : Json::Value();
     json["residual_without_stability"] =
         result.residualWithoutStability ? toJsonNumber(*result.residualWithoutStability) : Json::Value();
+    json["youngs_modulus"] = modulusToJson(result, system);
     json["hardening"] = hardeningToJson(result, system);
     json["findings"] = findingsToJson(shownFindings(result, system), system);
     return json;
@@ -391,9 +424,14 @@ std::string fitText(const std::vector<MeasuredTest>& tests, const std::vector<Fi
         text += describe(test, system) + "\n";
     ModelTable table(results);
     addConstants(table, results, system);
+    addGivenModulus(table, system);
     addAgreement(table, tests);
     addStability(table);
     text += "\n" + table.text();
+    if (results.size() > 1)
+        text +=
+            "\nThe models are ranked by the criterion, the least first: it adds a price for each free constant to the "
+            "residual.\n";
     for (const FitResult& result : results)
         text += hardeningText(result, system);
     return text;

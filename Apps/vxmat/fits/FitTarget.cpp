@@ -1,12 +1,16 @@
 #include "fits/FitTarget.h"
 
 #include "projectfile/ProjectFile.h"
+#include "units/ShownUnits.h"
+#include "vxConstitutive/fit/EstimateText.h"
 #include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
+#include "vxMaterial/model/PropertyId.h"
 #include "vxUnits/Plausibility.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <memory>
 #include <set>
@@ -163,6 +167,31 @@ vxConstitutive::MaterialChange changeOf(const KeptFit& fit, const vxMat::Materia
     return changeOf(*fit.result, *volume, treatment, fit.d1.bulkRatio);
 }
 
+/// Adds a message if Young's modulus of a fit replaces another one of the material.
+void noteModulus(const KeptFit& fit, const vxMat::MaterialBase& material, const std::string& label, Answer& answer)
+{
+    const vxMat::MaterialProperty* const kept = material.findProperty(vxMat::PropertyId::YoungsModulus);
+    if (!fit.result->youngsModulus || kept == nullptr || !(kept->value > 0.0))
+        return;
+    constexpr double percent = 100.0;
+    constexpr double close = 1e-6;
+    const double fitted = *fit.result->youngsModulus;
+    const double difference = fitted / kept->value - 1.0;
+    if (!(std::fabs(difference) > close))
+        return;
+    const vxConstitutive::FittedConstant* const measured = fit.result->find(vxMat::PropertyId::YoungsModulus);
+    const ShownUnit unit = showIn(*fit.system, "Pa");
+    std::optional<double> error;
+    if (measured != nullptr && measured->standardError)
+        error = unit.convert(*measured->standardError);
+    answer.messages.push_back(
+        label + ": Young's modulus becomes " + vxConstitutive::estimateText(unit.convert(fitted), error) + " " +
+        unit.text + ", with which the elastic part was taken off; that of the material was " +
+        vxMat::formatGeneral(unit.convert(kept->value)) + " " + unit.text + " (" +
+        vxConstitutive::roundedText(percent * difference, vxConstitutive::errorDigits) +
+        " %). --youngs-modulus material takes the elastic part off with that of the material, and keeps it");
+}
+
 void addDoubts(const vxConstitutive::MaterialChange& change, const vxMat::MaterialBase& material, Answer& answer)
 {
     for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material)) {
@@ -192,6 +221,18 @@ void requireTarget(const FitTarget& target)
     readMeasurements(target, findOrAdd(target, project));
 }
 
+double youngsModulusOf(const FitTarget& target)
+{
+    ProjectRecord project = readProject(target, readFile(target.project));
+    const ObjectRecord* const object = findMaterial(target, project);
+    const vxMat::MaterialProperty* const modulus =
+        object != nullptr ? object->material->findProperty(vxMat::PropertyId::YoungsModulus) : nullptr;
+    if (modulus == nullptr || !(modulus->value > 0.0))
+        throw Failure("--youngs-modulus material: " + target.project + " has no material \"" + target.label +
+                      "\" with a Young's modulus");
+    return modulus->value;
+}
+
 void writeFit(const FitTarget& target, const KeptFit& fit, Existing existing, Answer& answer)
 {
     const auto changed = [&](const std::string& text) {
@@ -200,6 +241,7 @@ void writeFit(const FitTarget& target, const KeptFit& fit, Existing existing, An
             answer.messages.push_back(target.project + ": " + doubt);
         ObjectRecord& object = findOrAdd(target, project);
         const vxConstitutive::MaterialChange change = changeOf(fit, *object.ownMaterial, target.label, answer);
+        noteModulus(fit, *object.ownMaterial, target.label, answer);
         applyChange(change, *object.ownMaterial);
         keepMeasurements(target, fit, object);
         addDoubts(change, *object.ownMaterial, answer);

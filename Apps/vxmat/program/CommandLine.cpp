@@ -465,8 +465,12 @@ void CommandLine::addFitSettings(CLI::App* command)
                      "Bounds of a constant, CONSTANT=LOWER:UPPER, or its value, CONSTANT=VALUE; may be repeated")
         ->type_name("BOUND")
         ->allow_extra_args(false);
-    command->add_option("--youngs-modulus", settings.youngsModulus, "Of a metal, instead of the slope of the curve")
-        ->type_name("STRESS");
+    command
+        ->add_option(
+            "--youngs-modulus", settings.youngsModulus,
+            "Of a metal, with which the elastic part is taken off: the slope of the curve (curve, the default), "
+            "that of the material of --as (material), or a value")
+        ->type_name("MODULUS");
     command->add_option("--poissons-ratio", settings.poissonsRatio, "Of a metal; 0.5 if not given")
         ->type_name("NUMBER");
     command->add_option("--offset", settings.offset, "The plastic strain at which a metal yields; 0.2 % if not given")

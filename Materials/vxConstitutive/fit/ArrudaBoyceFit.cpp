@@ -1,6 +1,7 @@
 #include "Spacing.h"
 
 #include "fit/HyperelasticFitParts.h"
+#include "vxConstitutive/fit/EstimateText.h"
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
@@ -176,7 +177,7 @@ void examineLimit(const ArrudaBoyceProblem& series, HyperelasticMinimum& result)
     if (result.constants.limitingStretch <= far * chains)
         return;
     result.fitted.back().determinedInstead = "Mu";
-    result.findings.push_back(makeFinding(FindingId::LimitingStretchInfinite, {chains}));
+    result.findings.push_back(makeFinding(FindingId::LimitingStretchInfinite, {roundedText(chains, residualDigits)}));
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -115,12 +116,17 @@ struct FitResult
     std::vector<FittedConstant> constants;
     std::vector<TestAgreement> tests;
     double residual = 0.0; ///< root of the weighted mean square of the differences (ErrorMeasure) over all points
-    double residualPerFreedom = 0.0; ///< residual for the number of points less the number of constants; ranks models
+    double residualPerFreedom = 0.0; ///< residual for the number of points less the number of constants
     double rSquared = 0.0;           ///< over all tests
-    std::optional<double> residualWithoutStability; ///< if the demand for stability changed the result
-    std::vector<StableRange> stable;                ///< of hyperelastic models
-    std::shared_ptr<const Model> fitted;            ///< null if the fit failed
-    MaterialChange change;                          ///< the fit itself changes no material
+    std::size_t points = 0;          ///< of all tests together
+    std::size_t freeConstants = 0;   ///< constants that are not fixed; points of a multilinear curve
+    double resolution = 0.0; ///< residuals of this size tell nothing: 0.1 % of the largest ordinate (of each ordinate)
+    double criterion = std::numeric_limits<double>::infinity(); ///< ranks models, the least first (Ranking.h)
+    std::optional<double> residualWithoutStability;             ///< if the demand for stability changed the result
+    std::optional<double> youngsModulus; ///< Pa; with which the elastic part of tensile tests was taken off
+    std::vector<StableRange> stable;     ///< of hyperelastic models
+    std::shared_ptr<const Model> fitted; ///< null if the fit failed
+    MaterialChange change;               ///< the fit itself changes no material
     std::vector<Finding> findings;
 
     /// Returns the constant of a property; null if there is none.

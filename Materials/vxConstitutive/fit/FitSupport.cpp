@@ -1,11 +1,13 @@
 #include "fit/FitSupport.h"
 
 #include "fit/SolverLibrary.h"
+#include "vxConstitutive/fit/EstimateText.h"
+#include "vxMaterial/model/NumberText.h"
+#include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <tuple>
 #include <utility>
 
 namespace vxConstitutive {
@@ -17,6 +19,10 @@ constexpr std::size_t mostPoints = 2000;
 
 /// Relative differences are never divided by less than this part of the largest ordinate.
 constexpr double smallestPart = 0.01;
+
+/// The part of the largest ordinate below which differences tell nothing about a model: machines of ISO 7500-1, class 0.5, may
+/// be wrong by 0.5 % of the force.
+constexpr double resolutionOfTests = 0.001;
 
 double largestOf(const TestData& test)
 {
@@ -213,6 +219,9 @@ void judge(FitResult& result, const std::vector<const TestData*>& tests, ErrorMe
     result.residual = std::sqrt(all.weighted);
     result.residualPerFreedom = result.residual * std::sqrt(static_cast<double>(set.total) / freedom);
     result.rSquared = all.spread > 0.0 ? 1.0 - all.squares / all.spread : 0.0;
+    result.points = set.total;
+    result.freeConstants = freedoms;
+    result.resolution = resolutionOfTests * (error == ErrorMeasure::Absolute ? set.largestOrdinate : 1.0);
 }
 
 namespace {
@@ -253,8 +262,9 @@ void addConstant(FitResult& result, const ConstantOfFit& constant, std::size_t p
         constexpr double percent = 100.0;
         if (error > poor * std::fabs(constant.value)) {
             fitted.determination = Determination::Poor;
-            result.findings.push_back(makeFinding(FindingId::PoorlyDetermined,
-                                                  {constant.symbol, percent * error / std::fabs(constant.value)}));
+            result.findings.push_back(
+                makeFinding(FindingId::PoorlyDetermined,
+                            {constant.symbol, roundedText(percent * error / std::fabs(constant.value), errorDigits)}));
         }
     }
     result.constants.push_back(std::move(fitted));
@@ -331,23 +341,26 @@ FitResult fitWithSolver(const std::string& model, const std::function<FitResult(
     }
 }
 
-void setFitted(FitResult& result, std::shared_ptr<const Model> model)
+namespace {
+
+/// Returns a finding of a fitted model, with the digits that the standard errors justify.
+Finding ofFit(Finding finding, const FitResult& result)
 {
-    result.findings.insert(result.findings.end(), model->findings().begin(), model->findings().end());
-    result.fitted = std::move(model);
+    const FittedConstant* const mu = result.find(vxMat::PropertyId::InitialShearModulusMu);
+    if (finding.id != FindingId::InitialModulusDerived || mu == nullptr || !mu->standardError)
+        return finding;
+    const double initial = vxMat::readNumber(finding.arguments[1]);
+    const double part = *mu->standardError / std::fabs(mu->value);
+    return makeFinding(finding.id, {estimateText(mu->value, mu->standardError), estimateText(initial, part * initial)});
 }
 
-void rank(std::vector<FitResult>& results)
+} // namespace
+
+void setFitted(FitResult& result, std::shared_ptr<const Model> model)
 {
-    const auto key = [](const FitResult& result) {
-        const bool undetermined =
-            std::any_of(result.constants.begin(), result.constants.end(), [](const FittedConstant& constant) {
-                return constant.determination == Determination::Undetermined;
-            });
-        return std::tuple(!result.fitted, undetermined, result.residualPerFreedom);
-    };
-    std::stable_sort(results.begin(), results.end(),
-                     [&](const FitResult& a, const FitResult& b) { return key(a) < key(b); });
+    for (const Finding& finding : model->findings())
+        result.findings.push_back(ofFit(finding, result));
+    result.fitted = std::move(model);
 }
 
 const FittedConstant* FitResult::find(std::int32_t propertyId) const

@@ -102,7 +102,4 @@ FitResult fitWithSolver(const std::string& model, const std::function<FitResult(
 /// Stores the fitted model in a result and adds its findings.
 void setFitted(FitResult& result, std::shared_ptr<const Model> model);
 
-/// Sorts results by residual per freedom. Failed results are last; results with undetermined constants are before them.
-void rank(std::vector<FitResult>& results);
-
 } // namespace vxConstitutive

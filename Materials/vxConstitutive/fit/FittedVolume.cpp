@@ -1,5 +1,6 @@
 #include "vxConstitutive/fit/FittedVolume.h"
 
+#include "vxConstitutive/fit/EstimateText.h"
 #include "vxConstitutive/response/HyperelasticModel.h"
 #include "vxMaterial/model/MaterialProperty.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -36,8 +37,9 @@ std::optional<FittedVolume> fittedVolume(const FitResult& result, const vxMat::M
     if (d1 == nullptr || d1->value == 0.0)
         return volume;
     volume.bulkRatio = 2.0 / d1->value / volume.shearModulus;
-    volume.finding = makeFinding(volume.contradictsFit() ? FindingId::FitContradictsD1 : FindingId::FitKeepsD1,
-                                 {*volume.bulkRatio, poissonsRatio(*volume.bulkRatio, 1.0)});
+    volume.finding =
+        makeFinding(volume.contradictsFit() ? FindingId::FitContradictsD1 : FindingId::FitKeepsD1,
+                    {roundedText(*volume.bulkRatio, residualDigits), poissonsRatio(*volume.bulkRatio, 1.0)});
     return volume;
 }
 

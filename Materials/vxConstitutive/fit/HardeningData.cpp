@@ -1,6 +1,7 @@
 #include "fit/HardeningData.h"
 
 #include "fit/FitSupport.h"
+#include "vxConstitutive/fit/EstimateText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -217,6 +218,18 @@ std::optional<Line> modulusOf(const std::vector<TestData>& tests, double offset)
     return std::nullopt;
 }
 
+/// Adds a finding if the given Young's modulus is not that of the curve.
+void compareModuli(const Line& measured, double given, std::vector<Finding>& findings)
+{
+    constexpr double percent = 100.0;
+    constexpr double close = 0.01; // about the accuracy of an extensometer
+    const double difference = measured.slope / given - 1.0;
+    if (std::fabs(difference) > close)
+        findings.push_back(
+            makeFinding(FindingId::ModulusDiffers, {estimateText(measured.slope, measured.standardError), given,
+                                                    roundedText(percent * difference, errorDigits)}));
+}
+
 void takeTensile(const PlasticFitRequest& request, const TestData& test, HardeningData& data)
 {
     TensileCurve curve = sorted(test);
@@ -226,8 +239,10 @@ void takeTensile(const PlasticFitRequest& request, const TestData& test, Hardeni
             strain -= line ? line->foot : 0.0;
     }
     auto plastic = plasticPart(test, curve, *data.elastic, request.offset, data.findings);
-    if (plastic)
-        data.tests.push_back(std::move(*plastic));
+    if (!plastic)
+        return;
+    data.tests.push_back(std::move(*plastic));
+    data.hasTensile = true;
 }
 
 /// Returns all points in rising order.
@@ -302,12 +317,16 @@ HardeningData takeHardening(const PlasticFitRequest& request)
 {
     HardeningData data;
     const std::vector<TestData> tests = usableTests(request.tests, data.findings);
+    const auto line = modulusOf(tests, request.offset);
     if (request.youngsModulus && *request.youngsModulus > 0.0) {
         data.elastic = ElasticConstants{*request.youngsModulus, request.poissonsRatio};
-    } else if (const auto line = modulusOf(tests, request.offset)) {
+        if (line)
+            compareModuli(*line, *request.youngsModulus, data.findings);
+    } else if (line) {
         data.modulus = MeasuredModulus{line->slope, line->standardError};
         data.elastic = ElasticConstants{line->slope, request.poissonsRatio};
-        data.findings.push_back(makeFinding(FindingId::ModulusFromCurve, {line->slope}));
+        data.findings.push_back(
+            makeFinding(FindingId::ModulusFromCurve, {estimateText(line->slope, line->standardError)}));
     }
     for (const TestData& test : tests) {
         if (test.mode == Mode::Plastic && !test.abscissas.empty())
@@ -327,7 +346,7 @@ std::vector<HardeningPoint> risingPoints(const HardeningData& data, double toler
     const double fall = largestFall(points);
     const double largest = data.largestStress();
     if (fall > tolerance * largest)
-        findings.push_back(makeFinding(FindingId::StressFalls, {percent * fall / largest}));
+        findings.push_back(makeFinding(FindingId::StressFalls, {roundedText(percent * fall / largest, errorDigits)}));
 
     std::vector<HardeningPoint> rising;
     for (const Block& block : risingBlocks(points))

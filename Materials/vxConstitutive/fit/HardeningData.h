@@ -21,6 +21,7 @@ struct HardeningData
     std::vector<TestData> tests; ///< true stress against plastic strain, one for each test with a plastic part
     std::optional<MeasuredModulus> modulus;  ///< if it was taken from the curves
     std::optional<ElasticConstants> elastic; ///< absent if there are no tensile tests and no given modulus
+    bool hasTensile = false; ///< there are tensile tests, whose elastic part was taken off with `elastic`
     std::vector<Finding> findings;
 
     double largestStress() const;

@@ -3,6 +3,8 @@
 #include "fit/HyperelasticFitParts.h"
 #include "response/PrincipalStress.h"
 #include "response/TestResponse.h"
+#include "vxConstitutive/fit/EstimateText.h"
+#include "vxConstitutive/fit/Ranking.h"
 #include "vxMaterial/model/PropertyId.h"
 
 #include <algorithm>
@@ -203,7 +205,8 @@ void judgeShape(const HyperelasticFitData& data, const HyperelasticMinimum& mini
     FitResult free;
     judge(free, data.shapeTests, data.error, data.shape, predictionOf(*minimum.withoutStability), minimum.freedoms);
     result.residualWithoutStability = free.residual;
-    result.findings.push_back(makeFinding(FindingId::StabilityCost, {result.residual, free.residual}));
+    result.findings.push_back(makeFinding(FindingId::StabilityCost, {roundedText(result.residual, residualDigits),
+                                                                     roundedText(free.residual, residualDigits)}));
 }
 
 /// Completes the result of a form that has a minimum.
@@ -300,7 +303,7 @@ std::vector<FitResult> fitHyperelastic(const HyperelasticFitRequest& request, co
         if (data.shape.usable())
             own.insert(own.begin(), data.shape.findings.begin(), data.shape.findings.end());
     }
-    rank(results);
+    rankFits(results);
     return results;
 }
 

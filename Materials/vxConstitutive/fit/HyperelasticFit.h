@@ -48,7 +48,7 @@ struct HyperelasticFitRequest
     BoundsById bounds;           ///< of C10 26, C01 27, C11 128, Mu 23 and the limiting stretch 127
 };
 
-/// Fits hyperelastic models to tests. Returns them by residual per freedom, with undetermined and failed models last.
+/// Fits hyperelastic models to tests. Returns them best first (Ranking.h).
 ///
 /// The tests are compared with the incompressible responses of HyperelasticModel; volumetric tests determine only D1.
 /// Neo-Hookean and Mooney-Rivlin are linear in their constants and have one minimum, which is computed directly unless bounds or

@@ -34,6 +34,8 @@ FitResult beginResult(const char* model, const HardeningData& data)
     result.findings = data.findings;
     if (data.tests.empty())
         result.findings.push_back(makeFinding(FindingId::DataMissing, {result.model}));
+    if (data.hasTensile)
+        result.youngsModulus = data.elastic->youngsModulus;
     return result;
 }
 
@@ -48,8 +50,8 @@ void addModulus(const HardeningData& data, FitResult& result)
 MaterialChange misesChange(const char* hardening, const HardeningData& data)
 {
     MaterialChange change;
-    if (data.modulus)
-        change.set.push_back({PropertyId::YoungsModulus, data.modulus->value, {}, {}});
+    if (data.hasTensile)
+        change.set.push_back({PropertyId::YoungsModulus, data.elastic->youngsModulus, {}, {}});
     change.set.push_back({PropertyId::Plasticity, 1.0, {}, {}});
     change.set.push_back({PropertyId::PlasticYieldType, 0.0, "Mises", {}});
     change.set.push_back({PropertyId::PlasticHardeningType, 0.0, hardening, {}});

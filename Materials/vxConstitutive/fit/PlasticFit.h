@@ -25,7 +25,9 @@ struct PlasticFitRequest
 /// The part of a tensile curve after the largest force is left out, since the bar necks there. If no Young's modulus is given,
 /// it is the slope between a tenth and half of the offset yield stress; the foot of this line becomes strain 0. The first row
 /// is the offset yield stress at plastic strain 0. After it, ep = ln(1 + e) - sigma/E at the true stress sigma. If noise makes
-/// the stress fall with the plastic strain, neighbours are averaged until it rises. Throws only std::bad_alloc.
+/// the stress fall with the plastic strain, neighbours are averaged until it rises. A given Young's modulus that differs by more
+/// than 1 % from that of the curve has a finding. FitResult::change sets the Young's modulus with which the elastic part was taken
+/// off, because the hardening curve belongs to it. Throws only std::bad_alloc.
 VXCONSTITUTIVE_EXPORT FitResult fitMultilinear(const PlasticFitRequest& request, const FitControl& control = {});
 
 /// Fits an initial yield stress and a hardening modulus to the same points, by least squares of the true stress.

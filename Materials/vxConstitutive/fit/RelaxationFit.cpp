@@ -1,6 +1,7 @@
 #include "Spacing.h"
 
 #include "fit/FitSupport.h"
+#include "vxConstitutive/fit/EstimateText.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxConstitutive/response/ViscoElasticModel.h"
 #include "vxMaterial/model/PropertyId.h"
@@ -93,7 +94,8 @@ void describeConstants(const LeastSquares& problem, const std::vector<double>& p
 void setChange(double g, double tau, Range times, FitResult& result)
 {
     if (tau < times.from || tau > times.to)
-        result.findings.push_back(makeFinding(FindingId::RelaxationTimeOutside, {tau, times.from, times.to}));
+        result.findings.push_back(
+            makeFinding(FindingId::RelaxationTimeOutside, {roundedText(tau, residualDigits), times.from, times.to}));
     result.change.set = {{PropertyId::ViscoElasticity, 1.0, {}, {}},
                          {PropertyId::ShearRelaxationModulus, g, {}, {}},
                          {PropertyId::RelaxationTime, tau, {}, {}}};

@@ -158,6 +158,44 @@ TEST(MultilinearFit, TakesYoungsModulusFromTheCurveAndMovesItsFoot)
     EXPECT_EQ(fitMultilinear(request).find(PropertyId::YoungsModulus), nullptr);
 }
 
+TEST(MultilinearFit, SaysThatTheGivenModulusIsNotThatOfTheCurve)
+{
+    const PlasticModel model({{0.0, 300e6}, {0.1, 500e6}}, steel);
+    PlasticFitRequest request;
+    request.tests = {tensileTest(model, 0.1, 5001)};
+    request.youngsModulus = 1.005 * 210e9;
+    EXPECT_FALSE(has(fitMultilinear(request).findings, FindingId::ModulusDiffers));
+    request.youngsModulus = 190e9;
+    for (const FitResult& result : {fitMultilinear(request), fitBilinear(request)}) {
+        ASSERT_TRUE(has(result.findings, FindingId::ModulusDiffers));
+        EXPECT_NEAR(std::stod(firstArgument(result.findings, FindingId::ModulusDiffers, 0)), 210e9, 1e9);
+        EXPECT_EQ(firstArgument(result.findings, FindingId::ModulusDiffers, 1), "1.9e+11");
+        EXPECT_NEAR(std::stod(firstArgument(result.findings, FindingId::ModulusDiffers, 2)), 10.5, 0.5);
+        EXPECT_EQ(result.youngsModulus, 190e9);
+    }
+}
+
+TEST(MultilinearFit, SetsTheModulusWithWhichTheElasticPartWasTakenOff)
+{
+    const PlasticModel model({{0.0, 300e6}, {0.1, 500e6}}, steel);
+    const auto modulusOf = [](const FitResult& result) {
+        for (const PropertyValue& value : result.change.set) {
+            if (value.propertyId == PropertyId::YoungsModulus)
+                return value.value;
+        }
+        return 0.0;
+    };
+    PlasticFitRequest request;
+    request.tests = {tensileTest(model, 0.1, 5001)};
+    EXPECT_NEAR(modulusOf(fitMultilinear(request)), 210e9, 1e9);
+    request.youngsModulus = 200e9;
+    EXPECT_EQ(modulusOf(fitMultilinear(request)), 200e9);
+    EXPECT_EQ(modulusOf(fitBilinear(request)), 200e9);
+    request.tests = {makeTest(Mode::Plastic, evenlySpaced(0.0, 0.1, 11), [](double ep) { return 3e8 + 1e9 * ep; })};
+    EXPECT_EQ(modulusOf(fitMultilinear(request)), 0.0) << "nothing was taken off";
+    EXPECT_FALSE(fitMultilinear(request).youngsModulus.has_value());
+}
+
 TEST(MultilinearFit, AveragesNoiseUntilTheStressDoesNotFall)
 {
     std::mt19937 random(5);

@@ -100,6 +100,11 @@ TEST_F(Treloar, ArrudaBoyceFitsUniaxialTensionBetterThanThePublishedConstants)
     const FitResult all = fit(HyperelasticForm::ArrudaBoyce, {m_uniaxial, m_equibiaxial, m_planar});
     EXPECT_NEAR(all.find(PropertyId::InitialShearModulusMu)->value, 0.27e6, 0.1 * 0.27e6);
     EXPECT_NEAR(all.find(PropertyId::LimitingNetworkStretch)->value, std::sqrt(26.5), 0.1 * std::sqrt(26.5));
+
+    // Texts have four digits: the standard error of Mu is 2 %.
+    const FindingId derived = FindingId::InitialModulusDerived;
+    EXPECT_EQ(vxtest::firstArgument(all.findings, derived, 0), "288100");
+    EXPECT_EQ(vxtest::firstArgument(all.findings, derived, 1), "296200");
 }
 
 TEST_F(Treloar, NeoHookeanHasThePublishedModulusAtModerateStrains)

@@ -1,11 +1,9 @@
 #include "vxConstitutive/Finding.h"
 
-#include "vxConstitutive/Texts.h"
 #include "vxMaterial/model/NumberText.h"
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
 #include <utility>
 
 namespace vxConstitutive {
@@ -249,12 +247,6 @@ std::string textOf(const FindingArgument& argument)
     return number != nullptr ? vxMat::formatGeneral(*number) : std::get<std::string>(argument);
 }
 
-/// Returns whether a text has an argument in quotation marks.
-bool isQuoted(std::string_view text, std::size_t argument)
-{
-    return text.find("\"%" + std::to_string(argument + 1) + '"') != std::string_view::npos;
-}
-
 } // namespace
 
 const std::vector<FindingRecord>& findingRecords()
@@ -266,21 +258,6 @@ const std::vector<FindingRecord>& findingRecords()
 const FindingRecord& findingRecord(FindingId id)
 {
     return findingTable[static_cast<std::size_t>(id)];
-}
-
-std::string describe(const Finding& finding, const vxUnits::Translator& translator)
-{
-    const FindingRecord& record = findingRecord(finding.id);
-    if (!translator)
-        return vxUnits::Message{record.key, record.text, finding.arguments}.text();
-    vxUnits::Message message{record.key, "", finding.arguments};
-    for (std::size_t i = 0; i < message.arguments.size(); ++i) {
-        if (!isQuoted(record.text, i))
-            message.arguments[i] = translatedWord(message.arguments[i], translator);
-    }
-    const std::string text = translator("vxConstitutive::Finding", record.text);
-    message.english = text.c_str();
-    return message.text();
 }
 
 bool hasError(const std::vector<Finding>& findings)

@@ -2,6 +2,7 @@
 
 #include "vxConstitutive/ConstitutiveExport.h"
 #include "vxUnits/Message.h"
+#include "vxUnits/UnitSystem.h"
 
 #include <initializer_list>
 #include <string>
@@ -162,8 +163,9 @@ VXCONSTITUTIVE_EXPORT const FindingRecord& findingRecord(FindingId id);
 
 /// Returns the text of a finding with its arguments in their places: in English, or translated. The context is
 /// "vxConstitutive::Finding" for the text. Arguments are translated as words (Texts.h), except those that the text has in
-/// quotation marks: they are texts of the user.
-VXCONSTITUTIVE_EXPORT std::string describe(const Finding& finding, const vxUnits::Translator& translator = {});
+/// quotation marks: they are texts of the user. Stresses and times are in the units of `system`.
+VXCONSTITUTIVE_EXPORT std::string describe(const Finding& finding, const vxUnits::Translator& translator = {},
+                                           const vxUnits::UnitSystem& system = vxUnits::UnitSystem::si());
 
 /// Returns whether one of the findings is an error.
 VXCONSTITUTIVE_EXPORT bool hasError(const std::vector<Finding>& findings);

@@ -21,9 +21,9 @@ QString constitutiveWord(std::string_view english)
     return QString::fromStdString(vxConstitutive::translatedWord(english, constitutiveTranslator()));
 }
 
-QString translated(const vxConstitutive::Finding& finding)
+QString translated(const vxConstitutive::Finding& finding, const vxUnits::UnitSystem& system)
 {
-    return QString::fromStdString(vxConstitutive::describe(finding, constitutiveTranslator()));
+    return QString::fromStdString(vxConstitutive::describe(finding, constitutiveTranslator(), system));
 }
 
 QString severityText(vxConstitutive::Severity severity)

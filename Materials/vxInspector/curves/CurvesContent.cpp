@@ -50,7 +50,7 @@ class Curves
 public:
     Curves(const std::vector<DrawnMaterial>& materials, const CurveSettings& settings,
            const vxUnits::UnitSystem& system, CurveCache& cache)
-        : m_settings(settings), m_cache(cache)
+        : m_settings(settings), m_system(system), m_cache(cache)
     {
         m_cache.begin();
         for (const DrawnMaterial& inspected : materials)
@@ -60,7 +60,7 @@ public:
         chooseRange();
         drawCurves();
         tellParameter();
-        m_content.plot = vxPlot::curvePlot(plotRequest(system));
+        m_content.plot = vxPlot::curvePlot(plotRequest());
         tellFindings();
         tellSentence();
     }
@@ -196,7 +196,7 @@ private:
         return inspected.isSuppressed ? tr("%1 (suppressed)").arg(label) : label;
     }
 
-    vxPlot::CurvePlotRequest plotRequest(const vxUnits::UnitSystem& system) const
+    vxPlot::CurvePlotRequest plotRequest() const
     {
         vxPlot::CurvePlotRequest request;
         request.curves = m_drawn;
@@ -204,7 +204,7 @@ private:
         request.ordinates = m_settings.ordinates;
         request.horizontal = m_horizontal;
         request.vertical = m_vertical;
-        request.system = system;
+        request.system = m_system;
         request.translator = constitutiveTranslator();
         return request;
     }
@@ -246,7 +246,7 @@ private:
     void add(const InspectedMaterial& inspected, const std::vector<Finding>& findings)
     {
         for (const Finding& finding : findings)
-            add(inspected, vxConstitutive::findingRecord(finding.id).severity, translated(finding));
+            add(inspected, vxConstitutive::findingRecord(finding.id).severity, translated(finding, m_system));
     }
 
     /// A finding that holds for several curves of a material is told once.
@@ -282,6 +282,7 @@ private:
     }
 
     const CurveSettings& m_settings;
+    const vxUnits::UnitSystem& m_system;
     CurveCache& m_cache;
     std::vector<Modelled> m_materials;
     vxPlot::Scale m_horizontal = vxPlot::Scale::Linear;

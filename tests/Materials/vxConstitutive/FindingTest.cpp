@@ -1,6 +1,6 @@
 #include "vxConstitutive/Finding.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <string>
 
@@ -52,6 +52,31 @@ TEST(FindingText, EachWordOfAListIsTranslated)
 {
     const Finding finding = makeFinding(FindingId::ColumnNeeded, {std::string("stretch, true strain")});
     EXPECT_EQ(describe(finding, marked), "[No column was found for: <stretch>, <true strain>. Choose a column.]");
+}
+
+TEST(FindingText, NumbersAreInTheUnitsOfTheSystem)
+{
+    const auto system = *vxUnits::UnitSystem::parse("mm-t-s");
+    const auto imperial = *vxUnits::UnitSystem::parse("in-lbf-s");
+    const Finding moduli = makeFinding(FindingId::InitialModulusDerived, {2.5e5, 4e5});
+    EXPECT_EQ(describe(moduli), "Mu, the factor of the series, is 250000 Pa. The initial shear modulus is 400000 Pa.");
+    EXPECT_EQ(describe(moduli, {}, system),
+              "Mu, the factor of the series, is 0.25 MPa. The initial shear modulus is 0.4 MPa.");
+    // 1 psi is 6894.757293168 Pa.
+    EXPECT_EQ(describe(makeFinding(FindingId::NoYieldBeyondApex, {-6894757.293168}), {}, imperial),
+              "There is no yield surface below the pressure -1000 psi, which is its apex.");
+    EXPECT_EQ(describe(makeFinding(FindingId::D1Negative, {std::string("Neo-Hooke"), -2e-6}), {}, system),
+              "Neo-Hooke: D1 is -2 1/MPa. A bulk modulus cannot be negative. The curve is incompressible.");
+    EXPECT_EQ(describe(moduli, marked, system),
+              "[Mu, the factor of the series, is <0.25> MPa. The initial shear modulus is <0.4> MPa.]");
+}
+
+TEST(FindingText, AnAbscissaHasItsUnit)
+{
+    const auto system = *vxUnits::UnitSystem::parse("mm-kg-ms");
+    const Finding time = makeFinding(FindingId::AbscissaOutside, {std::string("time"), 0.5, 3.0, std::string("creep")});
+    EXPECT_THAT(describe(time), testing::EndsWith("the time is 0.5 s."));
+    EXPECT_THAT(describe(time, {}, system), testing::EndsWith("the time is 500 ms."));
 }
 
 TEST(FindingText, OnlyErrorsAreErrors)

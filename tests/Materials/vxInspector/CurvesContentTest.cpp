@@ -178,6 +178,20 @@ TEST(CurvesContent, TellsAFindingOfAMaterialOnce)
     EXPECT_EQ(count, 1);
 }
 
+TEST(CurvesContent, TellsFindingsInTheUnitSystemOfThePlot)
+{
+    const auto findingIn = [](const char* system) {
+        const CurvesContent content = drawn(material("Seal", {{Id::MooneyRivlin, "1"},
+                                                              {Id::MaterialConstantC10, "-500000"},
+                                                              {Id::MaterialConstantC01, "-100000"}}),
+                                            {}, system);
+        return content.findings.rows.empty() ? std::string() : content.findings.rows[0].cells[1].text.toStdString();
+    };
+    // The initial shear modulus is 2 (C10 + C01).
+    EXPECT_THAT(findingIn("SI"), testing::HasSubstr("the initial shear modulus is -1.2e+06 Pa."));
+    EXPECT_THAT(findingIn("mm-t-s"), testing::HasSubstr("the initial shear modulus is -1.2 MPa."));
+}
+
 TEST(CurvesContent, MarksSuppressedMaterials)
 {
     InspectedMaterial suppressed = rubber();

@@ -7,6 +7,7 @@
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
 #include "cells/CellReading.h"
+#include "cells/TableColours.h"
 #include "cells/ValueCellDelegate.h"
 #include "vxMaterial/gui/MaterialChange.h"
 #include "vxMaterial/gui/MaterialView.h"
@@ -57,6 +58,7 @@ public:
           m_kept(kept)
     {
         m_table.setItemDelegateForColumn(MatGui::SheetTableView::Value, &m_delegate);
+        followDarkColours(m_table);
         // Connected at the front, because another listener closes the editor.
         Obj::Project& project = *material().get_project();
         m_objectRemoved = project.objectRemoved.connect(

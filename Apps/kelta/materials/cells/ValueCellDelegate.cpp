@@ -1,6 +1,8 @@
 #include "ValueCellDelegate.h"
 
 #include "CellReading.h"
+#include "ShownNumber.h"
+#include "TableColours.h"
 #include "ValueEditing.h"
 
 #include "vxMaterial/gui/SheetTableView.h"
@@ -45,7 +47,9 @@ bool leavesForWhile(const QEvent& event)
 void markAsUnreadable(QStyleOptionViewItem& option)
 {
     option.font.setUnderline(true);
-    option.palette.setColor(QPalette::Text, QColor(0xb3, 0x26, 0x1e));
+    const QColor dark(0xb3, 0x26, 0x1e);
+    const QColor bright(0xff, 0xb4, 0xab);
+    option.palette.setColor(QPalette::Text, isDark(option.palette) ? bright : dark);
     option.palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xd6, 0xd2));
 }
 
@@ -131,6 +135,15 @@ void ValueCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     SheetTableDelegate::paint(painter, marked, index);
     if (isDoubtful)
         paintSign(*painter, option, place);
+}
+
+void ValueCellDelegate::drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+                                    const QString& text) const
+{
+    const QStyle* const style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1;
+    const QString shown = withMagnitudeInSight(text, QFontMetrics(option.font), option.rect.width() - 2 * margin);
+    SheetTableDelegate::drawDisplay(painter, option, rect, shown);
 }
 
 bool ValueCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

@@ -31,6 +31,9 @@ public:
 
     /// Marks values that cannot be read, and gives doubtful ones a warning sign.
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// Shows the magnitude of a number also in a narrow cell.
+    void drawDisplay(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
+                     const QString& text) const override;
     /// Shows the fault of a value, or the doubt about it, as its tool tip.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;

@@ -1,5 +1,7 @@
 #include "ValueHint.h"
 
+#include "TableColours.h"
+
 #include <QAccessible>
 
 #include <algorithm>
@@ -13,11 +15,17 @@ constexpr int gap = 2;     ///< between the editor and the note
 constexpr int padding = 6; ///< around the text, without the border
 constexpr int narrowest = 120;
 
-/// The style sheets of the tones, in their order.
-constexpr std::array<const char*, 3> styles{
+using Styles = std::array<const char*, 3>; ///< the style sheets of the tones, in their order
+
+constexpr Styles lightStyles{
     "color: #102a43; background: #eaf3fd; border: 1px solid #7fb0df; border-radius: 3px;",
     "color: #8c1d18; background: #fdecea; border: 1px solid #d9867f; border-radius: 3px;",
     "color: #ffffff; background: #b3261e; border: 1px solid #7a1510; border-radius: 3px;",
+};
+constexpr Styles darkStyles{
+    "color: #dcebfa; background: #1d3b58; border: 1px solid #5b8fc0; border-radius: 3px;",
+    "color: #ffdad6; background: #5a1d19; border: 1px solid #c4655e; border-radius: 3px;",
+    "color: #ffffff; background: #b3261e; border: 1px solid #f2b8b5; border-radius: 3px;",
 };
 
 /// Returns the part of a widget that no widget around it cuts off. A window with docks can be narrower than its content.
@@ -67,7 +75,8 @@ void ValueHint::say(const QString& text, Tone tone)
 
 void ValueHint::setTone(Tone tone)
 {
-    const QString style = QLatin1String(styles.at(static_cast<std::size_t>(tone)));
+    const QString style = QLatin1String(
+        (isDark(parentWidget()->palette()) ? darkStyles : lightStyles).at(static_cast<std::size_t>(tone)));
     if (styleSheet() != style)
         setStyleSheet(style);
 }

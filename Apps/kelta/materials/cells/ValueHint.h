@@ -5,8 +5,8 @@
 namespace desktop {
 
 /// A note beside the editor of a table cell, inside the visible part of the table: below the editor if there is room, otherwise above it or
-/// at its side, so that the typed text stays visible. It takes neither the keyboard nor the mouse. Its colours fit the
-/// table, which is white in dark colour schemes too.
+/// at its side, so that the typed text stays visible. It takes neither the keyboard nor the mouse. Its colours fit those of
+/// the table.
 class ValueHint : public QLabel
 {
 public:

@@ -1,7 +1,9 @@
 #include "CommaLocale.h"
 #include "MaterialsTesting.h"
+#include "Screenshots.h"
 
 #include "Gui/Translator.h"
+#include "cells/ShownNumber.h"
 #include "vxMaterial/gui/SheetTableView.h"
 #include "vxMaterial/model/MatDBManager.h"
 #include "vxMaterial/model/NumberText.h"
@@ -20,6 +22,7 @@
 #include <QTranslator>
 #include <QtTest/QtTestGui>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -782,6 +785,89 @@ TEST_F(ValueCells, KeepTheirHintWhenTheTableIsScrolledAndResized)
     ASSERT_NE(hintOf(editor), nullptr);
     EXPECT_FALSE(hintOf(editor)->geometry().intersects(line.geometry()));
     EXPECT_LE(hintOf(editor)->geometry().left(), line.geometry().right());
+}
+
+/// Gives the program dark colours, and the earlier ones when it goes.
+class DarkColours
+{
+public:
+    DarkColours() : m_before(QGuiApplication::palette()) { QApplication::setPalette(vxtest::darkColours()); }
+    ~DarkColours() { QApplication::setPalette(m_before); }
+
+private:
+    QPalette m_before;
+};
+
+/// Returns the mean lightness of a picture, from 0 to 255.
+int lightnessOf(const QPixmap& picture)
+{
+    return picture.toImage().scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0).lightness();
+}
+
+TEST_F(ValueCells, AreDarkWithBrightTextIfTheProgramIs)
+{
+    EXPECT_GT(lightnessOf(table.viewport()->grab()), 200);
+    {
+        const DarkColours dark;
+        EXPECT_LT(lightnessOf(table.viewport()->grab()), 80);
+        EXPECT_EQ(table.palette().color(QPalette::Text), vxtest::darkColours().color(QPalette::Text));
+        QLineEdit& line = typeInto(editor, density, "7.85 g/cm^3");
+        EXPECT_LT(lightnessOf(line.grab()), 120);
+        ASSERT_NE(hintOf(editor), nullptr);
+        EXPECT_LT(lightnessOf(const_cast<QLabel*>(hintOf(editor))->grab()), 128);
+        QTest::keyClick(&line, Qt::Key_Escape);
+    }
+    EXPECT_GT(lightnessOf(table.viewport()->grab()), 200) << "the colours of the program are light again";
+}
+
+TEST_F(ValueCells, OfAnEditorThatIsOpenedInDarkColoursAreDark)
+{
+    const DarkColours dark;
+    const MatGui::MaterialView& opened = editorOf(eMaterialType::StructuralSteel);
+    EXPECT_LT(lightnessOf(tableOf(opened).viewport()->grab()), 80);
+}
+
+TEST_F(ValueCells, MarkAnUnreadableTextReadablyInDarkColours)
+{
+    const DarkColours dark;
+    typeInto(editor, density, "7,85");
+    clickOn(editor, modulus);
+    int brightest = 0;
+    const QImage shown = table.viewport()->grab(table.visualRect(cell(editor, density))).toImage();
+    for (int x = 0; x < shown.width(); ++x)
+        for (int y = 0; y < shown.height(); ++y)
+            if (const QColor pixel = shown.pixelColor(x, y); pixel.red() > pixel.green() + 40)
+                brightest = std::max(brightest, pixel.lightness());
+    EXPECT_GT(brightest, 180);
+}
+
+TEST_F(ValueCells, ShowTheMagnitudeOfALongNumberInANarrowColumn)
+{
+    using desktop::withMagnitudeInSight;
+    const QFontMetrics font = table.fontMetrics();
+    const int narrow = font.horizontalAdvance(QString::fromUtf8("2.0684\u2026e+11")) + 1;
+    const auto shown = [&](const char* text) {
+        return withMagnitudeInSight(QString::fromLatin1(text), font, narrow).toStdString();
+    };
+    EXPECT_EQ(shown("206842718795.05084"), "2.0684\u2026e+11");
+    EXPECT_EQ(shown("2.0684271879505084e+11"), "2.0684\u2026e+11");
+    EXPECT_EQ(shown("2e+11"), "2e+11");
+    EXPECT_EQ(shown("20000000000000000000"), "2e+19");
+    EXPECT_EQ(shown("0.33333333333333331"), "0.33333333333333331") << "its beginning shows its magnitude";
+    EXPECT_EQ(shown("Drucker-Prager and other words"), "Drucker-Prager and other words");
+    EXPECT_EQ(shown("450000000, 608000000"), "450000000, 608000000") << "lists have several lines";
+}
+
+TEST_F(ValueCells, PaintNumbersOfDifferentMagnitudeDifferentlyInANarrowColumn)
+{
+    const auto pictureOf = [this](const char* number) {
+        type(editor, modulus, number);
+        const int width = table.fontMetrics().horizontalAdvance(QStringLiteral("2.0684.e+11"));
+        table.setColumnWidth(MatGui::SheetTableView::Value, width + 8);
+        table.setCurrentIndex({});
+        return table.viewport()->grab(table.visualRect(cell(editor, modulus))).toImage();
+    };
+    EXPECT_NE(pictureOf("206842718795.05084"), pictureOf("20684271879505.084"));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "curves/CurveSeries.h"
 #include "curves/CurveTable.h"
 #include "fits/TestFiles.h"
+#include "materials/ModelKeys.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxPlot/CurvePlot.h"
 

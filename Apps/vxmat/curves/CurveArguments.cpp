@@ -1,9 +1,9 @@
 #include "curves/CurveArguments.h"
 
+#include "materials/ModelKeys.h"
 #include "program/Answer.h"
 #include "program/Arguments.h"
 #include "units/ShownUnits.h"
-#include "vxMaterial/model/NumberText.h"
 
 #include <cctype>
 #include <string_view>
@@ -17,16 +17,6 @@ using vxConstitutive::CurveRequest;
 using vxConstitutive::Mode;
 using vxConstitutive::Quantity;
 using vxUnits::UnitSystem;
-
-/// Returns the keys of records, separated by commas.
-template <class Records>
-std::string keysOf(const Records& records)
-{
-    std::string keys;
-    for (const auto& record : records)
-        keys += (keys.empty() ? "" : ", ") + std::string(record.key);
-    return keys;
-}
 
 /// Returns the unit of SI in which the library keeps a quantity.
 std::string unitOf(Quantity quantity)
@@ -125,23 +115,6 @@ void requireMode(const CurveArguments& arguments, Mode mode)
 }
 
 } // namespace
-
-Mode readMode(const std::string& option, const std::string& key)
-{
-    if (const auto mode = vxConstitutive::findMode(key))
-        return *mode;
-    throw Failure(option + ": \"" + key + "\" is not a mode; the modes are " + keysOf(vxConstitutive::modeRecords()));
-}
-
-vxConstitutive::ModelKind readModelKind(const std::string& option, const std::string& key)
-{
-    for (const vxConstitutive::ModelRecord& record : vxConstitutive::modelRecords()) {
-        if (vxMat::equalIgnoringAsciiCase(key, record.key))
-            return record.kind;
-    }
-    throw Failure(option + ": \"" + key + "\" is not a model; the models are " +
-                  keysOf(vxConstitutive::modelRecords()));
-}
 
 CurveRequest readCurveRequest(const CurveArguments& arguments, const UnitSystem& system)
 {

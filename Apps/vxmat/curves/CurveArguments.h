@@ -1,7 +1,6 @@
 #pragma once
 
 #include "vxConstitutive/Curve.h"
-#include "vxConstitutive/Model.h"
 #include "vxUnits/UnitSystem.h"
 
 #include <optional>
@@ -42,13 +41,5 @@ inline constexpr std::size_t mostCurvePoints = 1000000;
 /// \throws Failure with the name of the option if a mode or number cannot be read, if options are missing or contradict
 /// each other, or if there are too many points
 vxConstitutive::CurveRequest readCurveRequest(const CurveArguments& arguments, const vxUnits::UnitSystem& system);
-
-/// Returns the kind of model with a key, for `option`.
-/// \throws Failure if there is none
-vxConstitutive::ModelKind readModelKind(const std::string& option, const std::string& key);
-
-/// Returns the mode with a key, for `option`.
-/// \throws Failure if there is none; the message lists the modes
-vxConstitutive::Mode readMode(const std::string& option, const std::string& key);
 
 } // namespace commandline

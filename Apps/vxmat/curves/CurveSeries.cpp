@@ -1,8 +1,8 @@
 #include "curves/CurveSeries.h"
 
 #include "documents/Documents.h"
+#include "documents/MaterialNames.h"
 #include "materials/Findings.h"
-#include "materials/MaterialNames.h"
 #include "program/Files.h"
 #include "vxConstitutive/MaterialModels.h"
 #include "vxMaterial/model/PropertyId.h"

@@ -1,7 +1,7 @@
 #include "decks/Deck.h"
 
 #include "documents/Documents.h"
-#include "materials/MaterialNames.h"
+#include "documents/MaterialNames.h"
 #include "program/Arguments.h"
 #include "program/Files.h"
 #include "program/TextTable.h"

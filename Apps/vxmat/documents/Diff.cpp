@@ -1,7 +1,7 @@
 #include "documents/Diff.h"
 
-#include "curves/Measured.h"
 #include "documents/Documents.h"
+#include "documents/Measured.h"
 #include "program/Files.h"
 #include "units/ChosenUnits.h"
 #include "vxConstitutive/record/Measurements.h"

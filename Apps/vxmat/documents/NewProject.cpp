@@ -1,6 +1,6 @@
 #include "documents/NewProject.h"
 
-#include "materials/MaterialNames.h"
+#include "documents/MaterialNames.h"
 #include "program/Arguments.h"
 #include "vxMaterial/json/Utf8.h"
 

@@ -1,7 +1,7 @@
 #include "fits/TestFiles.h"
 
-#include "curves/CurveArguments.h"
 #include "materials/Findings.h"
+#include "materials/ModelKeys.h"
 #include "program/Arguments.h"
 #include "program/Files.h"
 #include "units/ShownUnits.h"

@@ -1,7 +1,7 @@
 #include "materials/Cards.h"
 
 #include "documents/Documents.h"
-#include "materials/MaterialNames.h"
+#include "documents/MaterialNames.h"
 #include "program/Files.h"
 #include "units/ChosenUnits.h"
 #include "vxMaterial/exchange/CardSet.h"

@@ -1,8 +1,8 @@
 #include "materials/Find.h"
 
 #include "documents/Documents.h"
+#include "documents/MaterialNames.h"
 #include "materials/ForeignNames.h"
-#include "materials/MaterialNames.h"
 #include "program/Files.h"
 #include "program/TextTable.h"
 #include "units/ChosenUnits.h"

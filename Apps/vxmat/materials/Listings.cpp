@@ -1,8 +1,8 @@
 #include "materials/Listings.h"
 
-#include "curves/Measured.h"
 #include "documents/Documents.h"
-#include "materials/MaterialNames.h"
+#include "documents/MaterialNames.h"
+#include "documents/Measured.h"
 #include "program/Files.h"
 #include "program/TextTable.h"
 #include "units/ChosenUnits.h"

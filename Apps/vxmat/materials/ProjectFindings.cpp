@@ -1,6 +1,6 @@
 #include "materials/ProjectFindings.h"
 
-#include "curves/Measured.h"
+#include "documents/Measured.h"
 #include "vxConstitutive/record/Measurements.h"
 #include "vxMaterial/model/MaterialCheck.h"
 #include "vxMaterial/model/PropertyCatalogue.h"

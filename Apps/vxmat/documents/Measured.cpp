@@ -1,4 +1,4 @@
-#include "curves/Measured.h"
+#include "documents/Measured.h"
 
 #include "program/Files.h"
 #include "vxConstitutive/Curve.h"

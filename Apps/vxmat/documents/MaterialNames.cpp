@@ -1,4 +1,4 @@
-#include "materials/MaterialNames.h"
+#include "documents/MaterialNames.h"
 
 #include "program/Answer.h"
 #include "program/Suggestions.h"

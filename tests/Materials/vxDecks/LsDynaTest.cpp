@@ -105,6 +105,23 @@ TEST(LsDynaDeck, HasTheConstantsOfEachHyperelasticModel)
               "converted: as the number of links of a chain, the square of the stretch");
 }
 
+TEST(LsDynaDeck, ReportsTheKeywordThatHasAQuantity)
+{
+    const auto cardOf = [](const vxtest::MaterialMaker& material, std::int32_t id) {
+        const vxDecks::Deck deck = deckOf(material);
+        const std::string card = vxtest::rowOf(deck, id).card;
+        EXPECT_THAT(deck.text, HasSubstr(card + "_TITLE"));
+        return card;
+    };
+    EXPECT_EQ(cardOf(*vxtest::arrudaBoyce(), Id::InitialShearModulusMu), "*MAT_ARRUDA_BOYCE_RUBBER");
+    EXPECT_EQ(cardOf(*vxtest::arrudaBoyce(), Id::LimitingNetworkStretch), "*MAT_ARRUDA_BOYCE_RUBBER");
+    EXPECT_EQ(cardOf(*vxtest::multilinear(), Id::PlasticStrain), "*MAT_PIECEWISE_LINEAR_PLASTICITY");
+    EXPECT_EQ(cardOf(*vxtest::bilinear(), Id::PlasticHardeningFactor), "*MAT_PLASTIC_KINEMATIC");
+    auto mooney = vxtest::mooney();
+    mooney->number(Id::MaterialConstantC11, 1e4);
+    EXPECT_EQ(cardOf(*mooney, Id::MaterialConstantC11), "*MAT_HYPERELASTIC_RUBBER");
+}
+
 TEST(LsDynaDeck, HasRelaxationAsModuliAndDecay)
 {
     auto material = vxtest::prony();

@@ -1,10 +1,10 @@
+#include "naming/Names.h"
 #include "reading/CalculixCards.h"
 #include "reading/DeckReader.h"
 #include "reading/KeywordNames.h"
 #include "reading/TextOfDeck.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/json/Utf8.h"
-#include "writing/DeckWriter.h"
 
 #include <algorithm>
 #include <memory>
@@ -63,7 +63,7 @@ bool isComment(std::string_view line)
 /// Returns whether the writer of decks makes a name of a label, which may have the number of an equal name behind it.
 bool isMadeOf(const std::string& name, const std::string& label)
 {
-    const NameRules& rules = calculixFormat().names;
+    const NameRules rules = calculixNames();
     const std::string made = Names(rules).take(label);
     const std::size_t end = name.find_last_not_of("0123456789");
     const bool hasNumber = end != std::string::npos && end + 1 < name.size() && name[end] == '_';
@@ -74,7 +74,7 @@ bool isMadeOf(const std::string& name, const std::string& label)
 /// Returns the name of a material: the comment above it, if the writer of decks makes the name of it.
 std::string labelOf(const std::string& name, const std::string& comment)
 {
-    const bool isLabel = !comment.empty() && name.size() <= calculixFormat().names.longest && isMadeOf(name, comment);
+    const bool isLabel = !comment.empty() && name.size() <= calculixNames().longest && isMadeOf(name, comment);
     return isLabel ? comment : name;
 }
 

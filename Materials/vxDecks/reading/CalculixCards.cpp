@@ -1,6 +1,8 @@
 #include "reading/CalculixCards.h"
 
+#include "models/ModelQuantities.h"
 #include "models/Vacuum.h"
+#include "numbers/NumberField.h"
 #include "reading/HardeningCurve.h"
 #include "reading/KeywordNames.h"
 #include "reading/TextOfDeck.h"
@@ -9,8 +11,6 @@
 #include "vxMaterial/json/Utf8.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
-#include "writing/ModelReports.h"
-#include "writing/NumberField.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,11 +1,11 @@
 #include "vxDecks/DeckReading.h"
 
+#include "naming/BaseUnits.h"
 #include "reading/DeckReader.h"
 #include "reading/TextOfDeck.h"
 #include "texts/ReadingTexts.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxUnits/SystemFit.h"
-#include "writing/DeckWriter.h"
 
 #include <algorithm>
 #include <sstream>

@@ -1,8 +1,8 @@
+#include "numbers/NumberField.h"
 #include "texts/DeckTexts.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/DeckWriter.h"
 #include "writing/ModelReports.h"
-#include "writing/NumberField.h"
 
 #include <cmath>
 #include <initializer_list>

@@ -1,10 +1,10 @@
 #include "models/Vacuum.h"
+#include "numbers/NumberField.h"
 #include "texts/DeckTexts.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/DeckWriter.h"
 #include "writing/ModelReports.h"
-#include "writing/NumberField.h"
 
 #include <initializer_list>
 
@@ -233,7 +233,7 @@ void beginMaterial(MaterialDeck& deck)
 const CardFormat& calculixFormat()
 {
     static const CardFormat format{Format::Calculix,
-                                   {80, "_-", "M_"},
+                                   calculixNames(),
                                    beginDeck,
                                    beginMaterial,
                                    {numberCard("*DENSITY", Id::Density),

@@ -7,8 +7,6 @@ namespace vxDecks {
 
 namespace {
 
-using vxUnits::Dimension;
-
 class CardDeckWriter : public DeckWriter
 {
 public:
@@ -63,15 +61,6 @@ CardWriter quantityCard(std::string_view card, std::string_view label, std::int3
 std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format)
 {
     return std::make_unique<CardDeckWriter>(format);
-}
-
-std::string baseUnits(const vxUnits::UnitSystem& units)
-{
-    std::string text;
-    for (const auto base :
-         {Dimension::Length, Dimension::Mass, Dimension::Time, Dimension::Temperature, Dimension::Current})
-        text += (text.empty() ? "" : ", ") + units.baseUnit(base);
-    return text;
 }
 
 } // namespace vxDecks

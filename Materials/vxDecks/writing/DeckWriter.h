@@ -1,8 +1,9 @@
 #pragma once
 
+#include "naming/BaseUnits.h"
+#include "naming/Names.h"
+#include "numbers/NumberField.h"
 #include "writing/MaterialDeck.h"
-#include "writing/Names.h"
-#include "writing/NumberField.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -65,8 +66,5 @@ const CardFormat& elmerFormat();
 /// Returns the writer of a format whose materials consist of cards. It writes the cards in the order of the mapping table.
 std::unique_ptr<DeckWriter> makeCardWriter(const CardFormat& format);
 std::unique_ptr<DeckWriter> makeMatmlWriter();
-
-/// Returns the base units of a system for a comment: "mm, t, s, K, A".
-std::string baseUnits(const vxUnits::UnitSystem& units);
 
 } // namespace vxDecks

@@ -1,7 +1,7 @@
+#include "numbers/NumberField.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/DeckWriter.h"
 #include "writing/ModelReports.h"
-#include "writing/NumberField.h"
 
 namespace vxDecks {
 

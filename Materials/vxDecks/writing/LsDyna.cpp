@@ -1,9 +1,9 @@
+#include "numbers/NumberField.h"
 #include "texts/DeckTexts.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "writing/DeckWriter.h"
 #include "writing/ModelReports.h"
-#include "writing/NumberField.h"
 
 #include <algorithm>
 

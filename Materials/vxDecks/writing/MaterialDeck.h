@@ -1,12 +1,12 @@
 #pragma once
 
 #include "models/MaterialModels.h"
+#include "numbers/NumberField.h"
 #include "vxDecks/Deck.h"
 #include "vxDecks/Mapping.h"
 #include "vxMaterial/model/Material.h"
 #include "vxUnits/MaterialValues.h"
 #include "writing/DeckUnits.h"
-#include "writing/NumberField.h"
 
 #include <cstdint>
 #include <map>

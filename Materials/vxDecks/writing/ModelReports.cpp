@@ -57,32 +57,6 @@ void carryOrConvert(MaterialDeck& deck, std::int32_t id, const std::optional<Mes
 
 } // namespace
 
-const std::vector<std::int32_t>& hyperelasticIds()
-{
-    static const std::vector<std::int32_t> ids{Id::NeoHooke,
-                                               Id::MooneyRivlin,
-                                               Id::ArrudaBoyce,
-                                               Id::InitialShearModulusMu,
-                                               Id::LimitingNetworkStretch,
-                                               Id::MaterialConstantC01,
-                                               Id::MaterialConstantC10,
-                                               Id::MaterialConstantC11,
-                                               Id::IncompressibilityParameterD1};
-    return ids;
-}
-
-const std::vector<std::int32_t>& creepIds()
-{
-    static const std::vector<std::int32_t> ids{Id::Creep, Id::CreepModulusA, Id::CreepModulusN, Id::CreepModulusM};
-    return ids;
-}
-
-const std::vector<std::int32_t>& pronyIds()
-{
-    static const std::vector<std::int32_t> ids{Id::ViscoElasticity, Id::ShearRelaxationModulus, Id::RelaxationTime};
-    return ids;
-}
-
 void carryAll(MaterialDeck& deck, const std::vector<std::int32_t>& ids)
 {
     for (const std::int32_t id : ids)

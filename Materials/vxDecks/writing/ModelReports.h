@@ -1,5 +1,6 @@
 #pragma once
 
+#include "models/ModelQuantities.h"
 #include "writing/MaterialDeck.h"
 
 #include <cstdint>
@@ -7,10 +8,6 @@
 #include <vector>
 
 namespace vxDecks {
-
-const std::vector<std::int32_t>& hyperelasticIds();
-const std::vector<std::int32_t>& creepIds();
-const std::vector<std::int32_t>& pronyIds();
 
 /// Reports several quantities as carried.
 void carryAll(MaterialDeck& deck, const std::vector<std::int32_t>& ids);

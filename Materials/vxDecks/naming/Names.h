@@ -27,6 +27,12 @@ inline NameRules anyText(std::size_t longest, const char* notFirst = "")
     return {longest, "", "", true, notFirst};
 }
 
+/// Returns the rules of the keyword family of CalculiX.
+inline NameRules calculixNames()
+{
+    return {80, "_-", "M_"};
+}
+
 /// Returns a text of the user for a comment, of at most `longest` bytes and without control characters, so that it stays on
 /// its line.
 std::string commentText(std::string_view text, std::size_t longest);

@@ -1,4 +1,4 @@
-#include "writing/Names.h"
+#include "naming/Names.h"
 
 #include "vxMaterial/model/NumberText.h"
 

@@ -1,4 +1,4 @@
-#include "writing/NumberField.h"
+#include "numbers/NumberField.h"
 
 #include "vxMaterial/model/NumberText.h"
 

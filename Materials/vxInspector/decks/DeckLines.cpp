@@ -70,6 +70,8 @@ public:
         for (std::size_t i = 0; i < report.materials.size(); ++i) {
             for (const vxUnits::Message& note : report.materials[i].notes)
                 add({Kind::Remark, {}, translated(note)}, i);
+            for (const vxDecks::Finding& finding : report.materials[i].findings)
+                add({Kind::Remark, {}, QString::fromStdString(textOf(finding, translateWithNames))}, i);
             for (const vxDecks::ReportRow& row : report.materials[i].rows)
                 add({kindOf(row), QCoreApplication::translate("vxMat::PropertyName", row.name.c_str()),
                      joined(row.how, QStringLiteral("; "))},

@@ -18,7 +18,7 @@ struct DeckLine
         Refused, ///< lost, although the format takes the quantity; the user can do something about it
         Lost,
         Approximated,
-        Remark, ///< about the name or the number of a material
+        Remark, ///< about the name or the number of a material, or an impossible value
         Converted,
         Carried,
     };

@@ -11,14 +11,13 @@ std::string translate(const char* context, const char* english)
     return QCoreApplication::translate(context, english).toStdString();
 }
 
-/// Translates the names of quantities too.
+} // namespace
+
 std::string translateWithNames(const char* context, const char* english)
 {
     std::string text = translate(context, english);
     return text == english ? translate("vxMat::PropertyName", english) : text;
 }
-
-} // namespace
 
 QString translated(const vxUnits::Message& message)
 {

@@ -16,6 +16,9 @@ QString translated(const vxUnits::Message& message);
 QString translated(const vxUnits::Failure& failure); ///< with the suggestion
 QString translated(const vxUnits::Doubt& doubt); ///< with the remedy
 
+/// Translates a text of a message, or the name of a quantity in it (vxUnits::Translator).
+std::string translateWithNames(const char* context, const char* english);
+
 /// Returns a word of the library of units, such as the name of a derived value, in the user's language.
 QString translatedWord(const char* english);
 

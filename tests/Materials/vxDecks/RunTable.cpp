@@ -2,19 +2,19 @@
 
 #include "DataFile.h"
 #include "MarkdownTable.h"
+#include "TableAtEnd.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
-#include <iostream>
 #include <vector>
 
 namespace vxtest {
 
 namespace {
 
+constexpr const char* documentVariable = "VX_DECK_RUNS";
 constexpr const char* heading = "## Runs of CalculiX\n";
 
 constexpr const char* introduction = R"(
@@ -61,23 +61,16 @@ std::string figure(double value)
     return text;
 }
 
-std::string percent(double value)
-{
-    // Deviations below the resolution of the solver's output are not told apart.
-    char text[32] = "less than 0.0001";
-    if (value >= 1e-6)
-        std::snprintf(text, sizeof text, "%.2g", value * 100.0);
-    return text;
-}
-
 std::string tableText()
 {
+    if (rows().empty())
+        return {};
     std::string text = tableHeader({"analysis", "built-in materials", "of the corpus", "random materials", "decks",
                                     "unit systems", "largest difference", "reference", "largest deviation, %"});
     std::size_t decks = 0;
     for (const RunRow& row : rows()) {
         std::vector<std::string> cells = beginning(row);
-        cells.insert(cells.end(), {figure(row.difference), row.reference, percent(row.deviation)});
+        cells.insert(cells.end(), {figure(row.difference), row.reference, percentText(row.deviation)});
         text += tableRow(cells);
         decks += decksOf(row);
     }
@@ -94,29 +87,15 @@ void writeInto(const std::string& path)
         << document.substr(0, begin) << heading << introduction << tableText() << document.substr(end);
 }
 
-/// Prints the table, or writes it, after the last test.
-class TableAtEnd : public ::testing::Environment
-{
-public:
-    void TearDown() override
-    {
-        if (rows().empty())
-            return;
-        std::cout << tableText();
-        const char* const path = std::getenv("VX_DECK_RUNS"); // NOLINT(concurrency-mt-unsafe): one thread
-        if (path != nullptr)
-            writeInto(path);
-    }
-};
-
-[[maybe_unused]] const ::testing::Environment* const tableAtEnd = ::testing::AddGlobalTestEnvironment(new TableAtEnd);
+[[maybe_unused]] const ::testing::Environment* const tableAtEnd =
+    ::testing::AddGlobalTestEnvironment(new TableAtEnd(documentVariable, tableText, writeInto));
 
 } // namespace
 
 void recordRun(const RunRow& row)
 {
     rows().push_back(row);
-    if (std::getenv("VX_DECK_RUNS") != nullptr) // NOLINT(concurrency-mt-unsafe): one thread
+    if (documentToWrite(documentVariable) != nullptr)
         return;
     std::string cells = tableRow(beginning(row));
     cells.pop_back(); // the end of the line

@@ -1,19 +1,19 @@
 #include "AgreementTable.h"
 
 #include "DataFile.h"
+#include "TableAtEnd.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
-#include <iostream>
 
 namespace vxtest {
 
 namespace {
+
+constexpr const char* documentVariable = "VX_AGREEMENT_TABLE";
 
 std::vector<AgreementRow>& rows()
 {
@@ -29,15 +29,14 @@ std::string beginning(const AgreementRow& row)
 
 std::string textOf(const AgreementRow& row)
 {
-    // Differences below the resolution of the solver's output are not told apart.
-    char difference[32] = "less than 0.0001";
-    if (row.difference >= 1e-6)
-        std::snprintf(difference, sizeof difference, "%.2g", row.difference * 100.0);
-    return beginning(row) + std::to_string(row.points) + " | " + difference + " | " + row.remark + " |\n";
+    return beginning(row) + std::to_string(row.points) + " | " + percentText(row.difference) + " | " + row.remark +
+           " |\n";
 }
 
 std::string tableText()
 {
+    if (rows().empty())
+        return {};
     std::string text = "| model | test | range | points | largest difference, % | remark |\n"
                        "|---|---|---|---|---|---|\n";
     for (const AgreementRow& row : rows())
@@ -71,29 +70,20 @@ Not proved by this solver:
 - The inverse Langevin function: solvers compute the five-term series.
 )";
 
-/// Prints the table, or writes it, after the last test.
-class TableAtEnd : public ::testing::Environment
+void writeDocument(const std::string& path)
 {
-public:
-    void TearDown() override
-    {
-        if (rows().empty())
-            return;
-        std::cout << tableText();
-        const char* const path = std::getenv("VX_AGREEMENT_TABLE"); // NOLINT(concurrency-mt-unsafe): one thread
-        if (path != nullptr)
-            std::ofstream(path) << introduction << tableText() << unproved;
-    }
-};
+    std::ofstream(path) << introduction << tableText() << unproved;
+}
 
-[[maybe_unused]] const ::testing::Environment* const tableAtEnd = ::testing::AddGlobalTestEnvironment(new TableAtEnd);
+[[maybe_unused]] const ::testing::Environment* const tableAtEnd =
+    ::testing::AddGlobalTestEnvironment(new TableAtEnd(documentVariable, tableText, writeDocument));
 
 } // namespace
 
 void recordAgreement(const AgreementRow& row)
 {
     rows().push_back(row);
-    if (std::getenv("VX_AGREEMENT_TABLE") != nullptr) // NOLINT(concurrency-mt-unsafe): one thread
+    if (documentToWrite(documentVariable) != nullptr)
         return;
     EXPECT_NE(readText(VX_AGREEMENT_DOC).find(beginning(row)), std::string::npos)
         << "docs/solver-agreement.md has no row " << beginning(row) << "; update it as its introduction says";

@@ -59,9 +59,9 @@ QString whyNotExported()
 {
     const Mat::DocumentMaterial* const project = currentMaterialProject();
     if (project == nullptr)
-        return QCoreApplication::translate(commandContext, "no material project is open");
+        return QCoreApplication::translate("MaterialCommand", "no material project is open");
     return hasMaterials(*project) ? QString()
-                                  : QCoreApplication::translate(commandContext, "the project has no materials");
+                                  : QCoreApplication::translate("MaterialCommand", "the project has no materials");
 }
 
 void addMaterialCommands(Gui::CommandController& commands)

@@ -8,6 +8,7 @@
 #include "Obj/Application.h"
 #include "decks/DeckExport.h"
 #include "decks/DeckReportView.h"
+#include "decks/TitledView.h"
 #include "vxInspector/units/ProjectUnits.h"
 #include "vxMaterial/project/DocumentMaterial.h"
 #include "vxMaterial/project/MaterialObject.h"
@@ -47,17 +48,6 @@ std::vector<std::uint32_t> selectedIn(const Mat::DocumentMaterial& project)
             ids.push_back(object->getObjectId());
     std::sort(ids.begin(), ids.end());
     return ids;
-}
-
-/// Returns a widget with a title above a view.
-QWidget* titled(QLabel* title, QWidget* view, QWidget* parent)
-{
-    auto* const part = new QWidget(parent);
-    auto* const layout = new QVBoxLayout(part);
-    layout->setContentsMargins({});
-    layout->addWidget(title);
-    layout->addWidget(view, 1);
-    return part;
 }
 
 /// Returns the title of the preview, which says what the preview leaves out.
@@ -168,12 +158,9 @@ QWidget* DeckDialog::buildChoices()
 
 QWidget* DeckDialog::buildViews()
 {
-    auto* const reportTitle = new QLabel(tr("&Report:"), this);
-    m_previewTitle->setBuddy(m_preview);
-    reportTitle->setBuddy(m_report);
     auto* const views = new QSplitter(Qt::Vertical, this);
-    views->addWidget(titled(m_previewTitle, m_preview, views));
-    views->addWidget(titled(reportTitle, m_report, views));
+    views->addWidget(makeTitledView(m_previewTitle, m_preview));
+    views->addWidget(makeTitledView(new QLabel(tr("&Report:"), this), m_report));
     views->setChildrenCollapsible(false);
     views->setStretchFactor(0, 1);
     views->setStretchFactor(1, 1);

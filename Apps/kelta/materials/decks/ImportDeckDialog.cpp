@@ -4,6 +4,7 @@
 
 #include "Kelta/Exceptions.h"
 #include "decks/DeckReportView.h"
+#include "decks/TitledView.h"
 #include "decks/ValuesOfDeckModel.h"
 
 #include <QDialogButtonBox>
@@ -24,23 +25,6 @@ namespace desktop {
 
 using vxDecks::ReadDeck;
 using vxUnits::UnitSystem;
-
-namespace {
-
-/// Returns a widget with a title above a view.
-QWidget* titled(const QString& title, QWidget* view, QWidget* parent)
-{
-    auto* const part = new QWidget(parent);
-    auto* const label = new QLabel(title, part);
-    label->setBuddy(view);
-    auto* const layout = new QVBoxLayout(part);
-    layout->setContentsMargins({});
-    layout->addWidget(label);
-    layout->addWidget(view, 1);
-    return part;
-}
-
-} // namespace
 
 ImportDeckDialog::ImportDeckDialog(DeckFile file, QWidget* parent)
     : QDialog(parent),
@@ -110,8 +94,8 @@ void ImportDeckDialog::buildLayout()
     buttons->addButton(m_import, QDialogButtonBox::AcceptRole);
     m_import->setDefault(true);
     auto* const views = new QSplitter(Qt::Vertical, this);
-    views->addWidget(titled(tr("&Materials:"), m_materials, views));
-    views->addWidget(titled(tr("&Report:"), m_report, views));
+    views->addWidget(makeTitledView(new QLabel(tr("&Materials:"), this), m_materials));
+    views->addWidget(makeTitledView(new QLabel(tr("&Report:"), this), m_report));
     views->setChildrenCollapsible(false);
     auto* const layout = new QVBoxLayout(this);
     for (QWidget* const part : {static_cast<QWidget*>(m_title), static_cast<QWidget*>(m_unitsTitle),

@@ -9,6 +9,7 @@
 #include "Gui/TreeSelectionSingleton.h"
 #include "Obj/Application.h"
 #include "decks/DeckDialog.h"
+#include "decks/DeckMaking.h"
 #include "kelta/Batch.h"
 #include "projectfile/ProjectStore.h"
 #include "vxInspector/units/ProjectUnits.h"
@@ -169,6 +170,21 @@ TEST_F(DeckExport, OffersTheFormsThatTheFormatHas)
         choose(format);
         EXPECT_FALSE(forms.isVisible()) << format;
     }
+}
+
+TEST(FormsOfDecks, HaveTheNamesOfTheCommandLine)
+{
+    for (const vxDecks::DialectInfo& dialect : vxDecks::dialects()) {
+        if (dialect.dialect == vxDecks::Dialect::Standard)
+            continue;
+        EXPECT_EQ(vxInspector::deckForm(dialect.format, dialect.name).dialect, dialect.dialect) << dialect.name;
+    }
+    for (const char* const name : {"small", "large", "free"}) {
+        const vxInspector::DeckForm form = vxInspector::deckForm(vxDecks::Format::Nastran, name);
+        EXPECT_EQ(form.fields, vxDecks::findFieldForm(name)) << name;
+        EXPECT_EQ(form.name, name);
+    }
+    EXPECT_EQ(vxInspector::deckForm(vxDecks::Format::Elmer, "small").format, vxDecks::Format::Elmer);
 }
 
 TEST_F(DeckExport, WritesTheFieldsOfBulkDataInTheChosenForm)

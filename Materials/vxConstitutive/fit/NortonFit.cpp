@@ -189,6 +189,14 @@ std::vector<const TestData*> chooseTests(const std::vector<TestData>& tests, std
     return curves;
 }
 
+/// Returns the exponent m of a fit of m + 1; exactly 0 for secondary creep, whose m + 1 is 1 but for rounding.
+double timeExponent(const std::vector<double>& p)
+{
+    constexpr double resolution = 1e-14;
+    const double m = p[2] - 1.0;
+    return std::fabs(m) < resolution ? 0.0 : m;
+}
+
 void describeConstants(const NortonProblem& norton, const std::vector<double>& p, const FitSet& set,
                        std::size_t freedoms, FitResult& result)
 {
@@ -205,14 +213,14 @@ void describeConstants(const NortonProblem& norton, const std::vector<double>& p
                 freedoms);
     addConstant(
         result,
-        {PropertyId::CreepModulusM, "m", "1", p[2] - 1.0, certainty.errors[2], {q.lower - 1.0, q.upper - 1.0}, {}},
+        {PropertyId::CreepModulusM, "m", "1", timeExponent(p), certainty.errors[2], {q.lower - 1.0, q.upper - 1.0}, {}},
         set.total, freedoms);
     if (onlyOne)
         result.findings.push_back(makeFinding(FindingId::OneStressOnly));
     result.change.set = {{PropertyId::Creep, 1.0, {}, {}},
                          {PropertyId::CreepModulusA, norton.a(p), {}, {}},
                          {PropertyId::CreepModulusN, p[1], {}, {}},
-                         {PropertyId::CreepModulusM, p[2] - 1.0, {}, {}}};
+                         {PropertyId::CreepModulusM, timeExponent(p), {}, {}}};
 }
 
 Prediction predictionOf(double a, double n, double m)
@@ -233,9 +241,9 @@ void useMinimum(const NortonProblem& norton, const std::vector<double>& p, const
                 const std::vector<const TestData*>& tests, const FitSet& set, FitResult& result)
 {
     const std::size_t freedoms = countFree(norton.problem().bounds);
-    judge(result, tests, request.error, set, predictionOf(norton.a(p), p[1], p[2] - 1.0), freedoms);
+    judge(result, tests, request.error, set, predictionOf(norton.a(p), p[1], timeExponent(p)), freedoms);
     describeConstants(norton, p, set, freedoms, result);
-    setFitted(result, std::make_shared<NortonModel>(norton.a(p), p[1], p[2] - 1.0));
+    setFitted(result, std::make_shared<NortonModel>(norton.a(p), p[1], timeExponent(p)));
 }
 
 FitResult fitTests(const NortonFitRequest& request, const FitControl& control)

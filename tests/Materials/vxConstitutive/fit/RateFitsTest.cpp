@@ -90,6 +90,17 @@ TEST(NortonFit, OneStressDoesNotDetermineItsExponent)
     EXPECT_NEAR(std::log10(fittedValue(result, PropertyId::CreepModulusA)), -46.0, 1e-6);
 }
 
+TEST(NortonFit, SecondaryCreepHasATimeExponentOfExactlyZero)
+{
+    NortonFitRequest request;
+    request.tests = {
+        makeTest(Mode::Creep, {0.0, 3600.0, 7200.0, 10800.0, 14400.0}, [](double t) { return 1e-3 * t / 3600.0; })};
+    request.tests[0].parameter = 1e8;
+    request.bounds[PropertyId::CreepModulusN] = {3.0, 3.0};
+    const FitResult result = fitNorton(request);
+    EXPECT_EQ(fittedValue(result, PropertyId::CreepModulusM), 0.0);
+}
+
 TEST(NortonFit, StandardErrorsCoverTheScatterOfManyFits)
 {
     // The scatter of the results of many fits with different noise must agree with the standard errors.

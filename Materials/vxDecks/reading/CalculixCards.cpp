@@ -3,6 +3,7 @@
 #include "models/ModelQuantities.h"
 #include "models/Vacuum.h"
 #include "numbers/NumberField.h"
+#include "reading/CardsWithoutQuantity.h"
 #include "reading/HardeningCurve.h"
 #include "reading/KeywordNames.h"
 #include "reading/TextOfDeck.h"
@@ -14,7 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <unordered_map>
+#include <set>
 #include <utility>
 
 namespace vxDecks {
@@ -462,80 +463,6 @@ constexpr CardReader cardReaders[] = {
     {"*MAGNETIC PERMEABILITY", readPermeability, " TYPE NONLINEAR "},
 };
 
-/// A card of a material that is not read, and the reason.
-struct OtherCard
-{
-    const char* card;
-    ReadText why;
-};
-
-constexpr OtherCard otherCards[] = {
-    {"*ANNEAL TEMPERATURE", ReadText::NoQuantity},
-    {"*BRITTLE CRACKING", ReadText::NoQuantity},
-    {"*BRITTLE FAILURE", ReadText::NoQuantity},
-    {"*BRITTLE SHEAR", ReadText::NoQuantity},
-    {"*CAP HARDENING", ReadText::NoQuantity},
-    {"*CAP PLASTICITY", ReadText::NoQuantity},
-    {"*CONCRETE", ReadText::NoQuantity},
-    {"*CRUSHABLE FOAM", ReadText::NoQuantity},
-    {"*CYCLIC HARDENING", ReadText::NoQuantity},
-    {"*DAMAGE EVOLUTION", ReadText::NoQuantity},
-    {"*DAMAGE INITIATION", ReadText::NoQuantity},
-    {"*DAMAGE STABILIZATION", ReadText::NoQuantity},
-    {"*DAMPING", ReadText::NoQuantity},
-    {"*DEFORMATION PLASTICITY", ReadText::NoQuantity},
-    {"*DEPVAR", ReadText::NoQuantity},
-    {"*DRUCKER PRAGER", ReadText::NoQuantity},
-    {"*DRUCKER PRAGER HARDENING", ReadText::NoQuantity},
-    {"*EOS", ReadText::NoQuantity},
-    {"*EXPANSION", ReadText::NoQuantity},
-    {"*FAIL STRAIN", ReadText::NoQuantity},
-    {"*FAIL STRESS", ReadText::NoQuantity},
-    {"*HYPERFOAM", ReadText::NoQuantity},
-    {"*HYSTERESIS", ReadText::NoQuantity},
-    {"*INELASTIC HEAT FRACTION", ReadText::NoQuantity},
-    {"*JOULE HEAT FRACTION", ReadText::NoQuantity},
-    {"*LATENT HEAT", ReadText::NoQuantity},
-    {"*LOW DENSITY FOAM", ReadText::NoQuantity},
-    {"*MOHR COULOMB", ReadText::NoQuantity},
-    {"*MOHR COULOMB HARDENING", ReadText::NoQuantity},
-    {"*MULLINS EFFECT", ReadText::NoQuantity},
-    {"*NO COMPRESSION", ReadText::NoQuantity},
-    {"*NO TENSION", ReadText::NoQuantity},
-    {"*ORNL", ReadText::NoQuantity},
-    {"*POTENTIAL", ReadText::NoQuantity},
-    {"*RATE DEPENDENT", ReadText::NoQuantity},
-    {"*SHEAR FAILURE", ReadText::NoQuantity},
-    {"*SPECIFIC GAS CONSTANT", ReadText::NoQuantity},
-    {"*SWELLING", ReadText::NoQuantity},
-    {"*TENSILE FAILURE", ReadText::NoQuantity},
-    {"*TRIAXIAL TEST DATA", ReadText::NoQuantity},
-    {"*UNIAXIAL TEST DATA", ReadText::NoQuantity},
-    {"*BIAXIAL TEST DATA", ReadText::NoQuantity},
-    {"*PLANAR TEST DATA", ReadText::NoQuantity},
-    {"*VOLUMETRIC TEST DATA", ReadText::NoQuantity},
-    {"*SHEAR TEST DATA", ReadText::NoQuantity},
-    {"*USER DEFINED FIELD", ReadText::NoQuantity},
-    {"*USER MATERIAL", ReadText::NoQuantity},
-};
-
-/// Returns the rows of a table by the keywords of their cards.
-template <class Card, std::size_t Count>
-std::unordered_map<std::string, const Card*> byKeyword(const Card (&all)[Count])
-{
-    std::unordered_map<std::string, const Card*> made;
-    for (const Card& one : all)
-        made[keywordOf(one.card)] = &one;
-    return made;
-}
-
-const OtherCard* findOtherCard(const std::string& keyword)
-{
-    static const auto all = byKeyword(otherCards);
-    const auto found = all.find(keyword);
-    return found == all.end() ? nullptr : found->second;
-}
-
 /// Reports the parameters of a card that are not evaluated. They may change the meaning of its numbers.
 void refuseOtherParameters(const KeywordCard& card, const CardReader& reader, MaterialReading& material)
 {
@@ -615,21 +542,25 @@ void completeCreep(MaterialReading& material)
 
 } // namespace
 
-bool isMaterialCard(const std::string& keyword)
-{
-    return hasReadNumbers(keyword) || findOtherCard(keyword) != nullptr;
-}
-
 bool hasReadNumbers(const std::string& keyword)
 {
-    static const auto all = byKeyword(cardReaders);
+    static const std::set<std::string> all = [] {
+        std::set<std::string> made;
+        for (const CardReader& one : cardReaders)
+            made.insert(keywordOf(one.card));
+        return made;
+    }();
     return all.count(keyword) != 0;
+}
+
+bool isMaterialCard(const std::string& keyword)
+{
+    return hasReadNumbers(keyword) || isCardWithoutQuantity(keyword);
 }
 
 Message reasonWithoutNumbers(const std::string& keyword)
 {
-    const OtherCard* const card = findOtherCard(keyword);
-    return makeMessage(card == nullptr ? ReadText::UnknownKeyword : card->why);
+    return makeMessage(isCardWithoutQuantity(keyword) ? ReadText::NoQuantity : ReadText::UnknownKeyword);
 }
 
 void readCards(const MaterialCards& cards, const vxUnits::UnitSystem& units, MaterialReading& material)

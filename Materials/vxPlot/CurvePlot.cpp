@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 #include <map>
 #include <set>
 #include <tuple>
@@ -125,6 +126,7 @@ public:
         for (const NamedTest& test : request.tests)
             if (fitTogether(m_mode, test.test->mode))
                 add(test);
+        cutFaint();
     }
 
     PlotData take() { return std::move(m_plot); }
@@ -241,18 +243,46 @@ private:
             append(shortModeName(drawn.named.curve->mode, m_request.translator));
         if (m_columns.size() > 1)
             append(columnName(drawn.column));
-        return name;
+        return drawn.named.isMeasured
+                   ? name
+                   : replaced(translated("vxPlot", QT_TRANSLATE_NOOP("vxPlot", "%1 (not measured)")), "%1", name);
     }
 
     void add(const Drawn& drawn)
     {
         const Curve& curve = *drawn.named.curve;
-        Series series{nameOf(drawn), SeriesKind::Line, m_plot.series.size(), m_x(curve.columns.front().values),
-                      m_y(drawn.column.values)};
+        Series series{nameOf(drawn),
+                      SeriesKind::Line,
+                      m_plot.series.size(),
+                      m_x(curve.columns.front().values),
+                      m_y(drawn.column.values),
+                      !drawn.named.isMeasured};
         m_styles.emplace(curve.mode, series.style);
         for (const vxConstitutive::Range& range : curve.unstable)
             addBand(range, drawn, series);
         m_plot.series.push_back(std::move(series));
+    }
+
+    /// A curve far outside of the measured range must not press the others flat.
+    void cutFaint()
+    {
+        constexpr double room = 0.5; // of the span of the others
+        double least = std::numeric_limits<double>::infinity();
+        double most = -least;
+        for (const Series& series : m_plot.series)
+            for (const double y : series.y)
+                if (!series.isFaint && std::isfinite(y)) {
+                    least = std::min(least, y);
+                    most = std::max(most, y);
+                }
+        const double beyond = room * (most - least);
+        if (!(most > least))
+            return;
+        for (Series& series : m_plot.series)
+            if (series.isFaint)
+                std::replace_if(
+                    series.y.begin(), series.y.end(), [&](double y) { return y < least - beyond || y > most + beyond; },
+                    std::numeric_limits<double>::quiet_NaN());
     }
 
     void addBand(const vxConstitutive::Range& range, const Drawn& drawn, const Series& series)
@@ -272,7 +302,7 @@ private:
     void add(const NamedTest& named)
     {
         const auto [style, isNew] = m_styles.emplace(named.test->mode, m_plot.series.size());
-        Series series{named.name, SeriesKind::Symbols, style->second, {}, {}};
+        Series series{named.name, SeriesKind::Symbols, style->second, {}, {}, false};
         const std::size_t count = std::min(named.test->abscissas.size(), named.test->ordinates.size());
         series.x.reserve(count);
         series.y.reserve(count);

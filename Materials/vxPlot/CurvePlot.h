@@ -29,6 +29,7 @@ struct NamedCurve
 {
     std::string name; ///< of the material; may be empty
     const vxConstitutive::Curve* curve = nullptr;
+    bool isMeasured = true; ///< false if there are tests, but none of the mode of the curve
 };
 
 /// Measured points of a plot.
@@ -54,7 +55,8 @@ struct CurvePlotRequest
 /// Returns the plot of the curves and tests in the chosen units. The unstable ranges of the curves are its bands, which
 /// have the name of the material if there are several. Curves
 /// and tests of a mode that does not fit to the first are left out. The name of a series is that of the material, of the
-/// mode and of the column, each only if the plot has several. A true stress of a test is computed as that of an
+/// mode and of the column, each only if the plot has several. A curve that is not measured is faint, its name says so, and it is
+/// cut where its values are far beyond those of the other curves. A true stress of a test is computed as that of an
 /// incompressible material.
 PlotData curvePlot(const CurvePlotRequest& request);
 

@@ -44,6 +44,7 @@ struct Series
     std::size_t style = 0; ///< the number of colour, dashes and symbol; series of one style belong together
     std::vector<double> x;
     std::vector<double> y; ///< as many as `x`; NaN is a gap
+    bool isFaint = false;  ///< a line that is thin and dotted, because no measured points belong to it
 };
 
 /// A shaded range of the horizontal axis.

@@ -125,18 +125,14 @@ private:
     void chooseRange()
     {
         std::optional<Range> all;
-        const auto include = [&all](const Range& one) {
-            all = all ? Range{std::min(all->from, one.from), std::max(all->to, one.to)} : one;
-        };
-        forEachCurve([&include](const Modelled& modelled, const Model& model, Mode mode) {
-            include(usualRange(model, mode, *modelled.inspected.material));
+        const auto include = [&all](const Range& one) { all = all ? united(*all, one) : one; };
+        forEachCurve([this, &include](const Modelled& modelled, const Model& model, Mode mode) {
+            m_ranges.push_back(isRubber(model) ? rangeByTests(modelled, mode) : std::nullopt);
+            include(m_ranges.back().value_or(usualRange(model, mode, *modelled.inspected.material)));
         });
         for (const vxPlot::NamedTest& named : m_tests)
-            for (const double abscissa : named.test->abscissas) {
-                // The curve is drawn against the stretch, and the test is measured with the volume ratio.
-                const double drawn = named.test->mode == Mode::Volumetric ? std::cbrt(abscissa) : abscissa;
-                include({drawn, drawn});
-            }
+            if (const auto range = rangeOf(*named.test))
+                include(*range);
         Range range = all.value_or(Range{});
         range.from = m_settings.from.value_or(range.from);
         range.to = m_settings.to.value_or(range.to);
@@ -145,19 +141,82 @@ private:
         m_content.range = range;
     }
 
+    /// Returns the range of a curve of rubber: somewhat more than that of the tests of its mode; without such tests, that of all
+    /// tests. Absent if the material has no tests in the modes of a stretch.
+    static std::optional<Range> rangeByTests(const Modelled& modelled, Mode mode)
+    {
+        constexpr double beyond = 0.1;
+        std::optional<Range> own;
+        std::optional<Range> all;
+        for (const TestData& test : testsOf(modelled)) {
+            const auto range = isStretchTest(test.mode) ? rangeOf(test) : std::nullopt;
+            if (!range)
+                continue;
+            all = all ? united(*all, *range) : range;
+            if (test.mode == mode)
+                own = own ? united(*own, *range) : range;
+        }
+        if (!isStretchTest(mode) || !all)
+            return std::nullopt;
+        const Range range = united(own.value_or(*all), {1.0, 1.0});
+        if (!own)
+            return range;
+        return Range{range.from * std::pow(range.from, beyond), range.to + (range.to - 1.0) * beyond};
+    }
+
+    static bool isStretchTest(Mode mode)
+    {
+        return mode == Mode::Uniaxial || mode == Mode::Equibiaxial || mode == Mode::Planar;
+    }
+
+    static bool isMeasured(const Modelled& modelled, Mode mode)
+    {
+        const std::vector<TestData>& tests = testsOf(modelled);
+        return std::any_of(tests.begin(), tests.end(), [mode](const TestData& test) { return test.mode == mode; });
+    }
+
+    static Range united(const Range& one, const Range& other)
+    {
+        return {std::min(one.from, other.from), std::max(one.to, other.to)};
+    }
+
+    /// Returns the range of a test as its curve is drawn; absent if the test has no points.
+    static std::optional<Range> rangeOf(const TestData& test)
+    {
+        if (test.abscissas.empty())
+            return std::nullopt;
+        const auto [least, most] = std::minmax_element(test.abscissas.begin(), test.abscissas.end());
+        // The curve is drawn against the stretch, and the test is measured with the volume ratio.
+        return test.mode == Mode::Volumetric ? Range{std::cbrt(*least), std::cbrt(*most)} : Range{*least, *most};
+    }
+
+    /// Returns whether a curve has no tests although the material has tests in other modes that are shown with it.
+    bool isBesideTests(const Modelled& modelled, const Model& model, Mode mode) const
+    {
+        return isRubber(model) && !isMeasured(modelled, mode) && rangeByTests(modelled, mode).has_value();
+    }
+
+    /// Returns the range of the next curve. A range of the user is that of all curves.
+    Range nextRange() const
+    {
+        const bool isChosen = m_settings.from || m_settings.to;
+        return isChosen ? m_content.range : m_ranges[m_curves.size()].value_or(m_content.range);
+    }
+
     void drawCurves()
     {
         forEachCurve([this](const Modelled& modelled, const Model& model, Mode mode) {
             vxConstitutive::CurveRequest request;
             request.mode = mode;
-            request.abscissas = abscissasOf(mode, m_content.range, m_horizontal, *modelled.inspected.material);
+            request.abscissas = abscissasOf(mode, nextRange(), m_horizontal, *modelled.inspected.material);
             request.compressibility = m_settings.compressibility;
             request.chains = m_settings.chains;
             request.stresses = stressesOfCreep();
             request.time = m_settings.time.value_or(request.time);
             request.cohesion = m_settings.cohesion;
             m_curves.push_back(m_cache.curve(*modelled.inspected.material, model, request));
-            m_drawn.push_back({labelOf(modelled.inspected).toStdString(), m_curves.back().get()});
+            m_drawn.push_back({labelOf(modelled.inspected).toStdString(), m_curves.back().get(),
+                               !isBesideTests(modelled, model, mode)});
             m_of.push_back(&modelled.inspected);
             m_content.canBeIncompressible =
                 m_content.canBeIncompressible || isRubber(model) || model.kind() == ModelKind::LinearElasticity;
@@ -287,6 +346,7 @@ private:
     std::vector<Modelled> m_materials;
     vxPlot::Scale m_horizontal = vxPlot::Scale::Linear;
     vxPlot::Scale m_vertical = vxPlot::Scale::Linear;
+    std::vector<std::optional<Range>> m_ranges; ///< of the curves; absent for that of the axis
     std::vector<std::shared_ptr<const vxConstitutive::Curve>> m_curves;
     std::vector<vxPlot::NamedCurve> m_drawn;
     std::vector<vxPlot::NamedTest> m_tests;     ///< of the shown modes

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <deque>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace vxInspector {
@@ -26,6 +27,7 @@ using vxConstitutive::FitStatus;
 using vxConstitutive::Mode;
 using vxConstitutive::TestData;
 
+constexpr Mode rubberModes[]{Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar};
 constexpr int digits = 6;
 constexpr int errorDigits = 3; // a standard error is itself known to few digits
 
@@ -167,6 +169,30 @@ std::map<Mode, vxConstitutive::Range> rangesOf(const std::vector<const TestData*
     return ranges;
 }
 
+bool hasMode(const vxConstitutive::Model& model, Mode mode)
+{
+    const std::vector<Mode> modes = model.modes();
+    return std::find(modes.begin(), modes.end(), mode) != modes.end();
+}
+
+/// Returns the modes in which rubber is usually tested and was not, over the range of the tests.
+std::map<Mode, vxConstitutive::Range> notMeasured(const std::map<Mode, vxConstitutive::Range>& measured)
+{
+    std::map<Mode, vxConstitutive::Range> others;
+    std::optional<vxConstitutive::Range> all;
+    for (const Mode mode : rubberModes) {
+        const auto found = measured.find(mode);
+        if (found == measured.end())
+            continue;
+        const vxConstitutive::Range& one = found->second;
+        all = all ? vxConstitutive::Range{std::min(all->from, one.from), std::max(all->to, one.to)} : one;
+    }
+    for (const Mode mode : rubberModes)
+        if (all && measured.count(mode) == 0)
+            others.emplace(mode, *all);
+    return others;
+}
+
 /// Curves begin where the test begins: at stretch 1, or at 0.
 vxConstitutive::Range withStart(Mode mode, vxConstitutive::Range range)
 {
@@ -261,13 +287,19 @@ vxPlot::PlotData fitPlot(const std::vector<const TestData*>& tests, const std::v
     request.system = system;
     request.translator = constitutiveTranslator();
     std::deque<vxConstitutive::Curve> curves; // which does not move them
-    for (const auto& [mode, range] : rangesOf(tests))
+    const auto add = [&](Mode mode, const vxConstitutive::Range& range, bool isMeasured) {
         for (const FitResult* const result : results) {
-            if (result->fitted == nullptr)
+            if (result->fitted == nullptr || (!isMeasured && !hasMode(*result->fitted, mode)))
                 continue;
             curves.push_back(result->fitted->curve(requestOf(mode, withStart(mode, range), tests)));
-            request.curves.push_back({modelName(*result).toStdString(), &curves.back()});
+            request.curves.push_back({modelName(*result).toStdString(), &curves.back(), isMeasured});
         }
+    };
+    const std::map<Mode, vxConstitutive::Range> measured = rangesOf(tests);
+    for (const auto& [mode, range] : measured)
+        add(mode, range, true);
+    for (const auto& [mode, range] : notMeasured(measured))
+        add(mode, range, false);
     for (const TestData* const test : tests)
         request.tests.push_back({test->name, test});
     return vxPlot::curvePlot(request);

@@ -49,7 +49,8 @@ public:
 protected:
     QwtText trackerTextF(const QPointF& point) const override
     {
-        QwtText text(numberWithUnit(point.x(), m_data.x) + QStringLiteral(", ") + numberWithUnit(point.y(), m_data.y),
+        QwtText text(numberOn(QwtPlot::xBottom, point.x(), m_data.x) + QStringLiteral(", ") +
+                         numberOn(QwtPlot::yLeft, point.y(), m_data.y),
                      QwtText::PlainText);
         text.setBackgroundBrush(plot()->palette().color(QPalette::Window));
         text.setColor(plot()->palette().color(QPalette::Text));
@@ -57,6 +58,14 @@ protected:
     }
 
 private:
+    /// Rounding errors of the place of a pixel are no value: they are 0.
+    QString numberOn(int scale, double number, const vxPlot::Axis& axis) const
+    {
+        constexpr double rounding = 1e-9;
+        const bool isZero = std::fabs(number) < rounding * std::fabs(plot()->axisScaleDiv(scale).range());
+        return numberWithUnit(isZero && axis.scale == vxPlot::Scale::Linear ? 0.0 : number, axis);
+    }
+
     static QString numberWithUnit(double number, const vxPlot::Axis& axis)
     {
         constexpr int digits = 4;
@@ -191,6 +200,14 @@ void PlotView::showData()
 {
     m_items->show(m_data);
     showHidden();
+    m_items->fitLabels(canvas()->width());
+    replot();
+}
+
+void PlotView::resizeEvent(QResizeEvent* event)
+{
+    QwtPlot::resizeEvent(event);
+    m_items->fitLabels(canvas()->width());
     replot();
 }
 

@@ -369,10 +369,11 @@ void PlotItems::change(std::size_t i, const Series& series, bool isSameScale)
         curve.setTitle(plain(series.name));
         curve.setVisible(true);
     }
-    const bool hasOtherStyle = shown.style != series.style;
+    const bool hasOtherStyle = shown.style != series.style || shown.isFaint != series.isFaint;
     const bool hasSamePoints = isSameScale && shown.x == series.x && shown.y == series.y;
     shown.name = series.name;
     shown.style = series.style;
+    shown.isFaint = series.isFaint;
     if (hasOtherStyle)
         setStyle(curve, series);
     if (hasSamePoints)
@@ -427,7 +428,7 @@ void PlotItems::addCurve(const Series& series, bool isInLegend)
 
 void PlotItems::setStyle(QwtPlotCurve& curve, const Series& series) const
 {
-    curve.setPen(m_look.linePen(series.style));
+    curve.setPen(series.isFaint ? m_look.faintPen(series.style) : m_look.linePen(series.style));
     if (series.kind != SeriesKind::Symbols)
         return;
     curve.setStyle(QwtPlotCurve::NoCurve);
@@ -512,6 +513,19 @@ void PlotItems::setFooter()
     text.setFont(m_look.font);
     if (text != m_plot.footer())
         m_plot.setFooter(text);
+}
+
+void PlotItems::fitLabels(int width)
+{
+    constexpr int most = 8; // labels, which is what Qwt takes
+    constexpr int fewest = 2;
+    const int axis = QwtPlot::xBottom;
+    for (int labels = most; labels >= fewest; --labels) {
+        m_plot.setAxisMaxMajor(axis, labels);
+        m_plot.updateAxes();
+        if (m_plot.axisScaleDraw(axis)->minLength(m_plot.axisFont(axis)) <= width)
+            return;
+    }
 }
 
 void PlotItems::colourPlot()

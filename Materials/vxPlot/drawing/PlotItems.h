@@ -34,6 +34,10 @@ public:
 
     void setLook(PlotLook look);
 
+    /// Takes so few labels of the horizontal axis that they do not overlap in a canvas of this width in pixels. The caller
+    /// replots.
+    void fitLabels(int width);
+
     /// The items in the order of the series and bands of the shown data.
     const std::vector<QwtPlotCurve*>& curves() const { return m_curves; }
     const std::vector<QwtPlotZoneItem*>& bands() const { return m_bands; }

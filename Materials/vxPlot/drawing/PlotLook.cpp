@@ -35,6 +35,11 @@ QPen PlotLook::linePen(std::size_t style) const
     return {colour(style), lineWidth, dashes[style % std::size(dashes)], Qt::FlatCap, Qt::RoundJoin};
 }
 
+QPen PlotLook::faintPen(std::size_t style) const
+{
+    return {colour(style), lineWidth / 2.0, Qt::DotLine, Qt::FlatCap, Qt::RoundJoin};
+}
+
 PlotLook printedLook()
 {
     QFont font(QStringLiteral("DejaVu Sans"));

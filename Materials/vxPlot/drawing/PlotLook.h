@@ -27,6 +27,8 @@ struct PlotLook
 
     QColor colour(std::size_t style) const { return series[style % series.size()]; }
     QPen linePen(std::size_t style) const;
+    /// Returns the pen of a line to which no measured points belong: thin and dotted.
+    QPen faintPen(std::size_t style) const;
 };
 
 /// Returns the look of pictures: black on white, whatever the colours and the screen of the user.

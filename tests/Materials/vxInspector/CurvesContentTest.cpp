@@ -259,10 +259,39 @@ InspectedMaterial withTests(InspectedMaterial one, std::vector<vxConstitutive::T
 TEST(CurvesContent, ShowsTheKeptTestsOfTheShownModes)
 {
     const CurvesContent content = drawn(withTests(rubber(), {tension(), tension(Mode::SimpleShear)}));
-    EXPECT_THAT(namesOf(content), ElementsAre("uniaxial", "equibiaxial", "planar", "tension"));
+    EXPECT_THAT(namesOf(content),
+                ElementsAre("uniaxial", "equibiaxial (not measured)", "planar (not measured)", "tension"));
     EXPECT_EQ(content.plot.series[3].kind, vxPlot::SeriesKind::Symbols);
     EXPECT_EQ(content.plot.series[3].style, content.plot.series[0].style);
     EXPECT_THAT(content.plot.series[3].y, ElementsAre(testing::DoubleEq(1.0), testing::DoubleEq(1.75)));
+}
+
+TEST(CurvesContent, DrawsEachModeOverItsOwnTestAndTheOthersOverAllTests)
+{
+    vxConstitutive::TestData balloon{"balloon", Mode::Equibiaxial, {0.8, 1.2, 1.5}, {-1e6, 1e6, 2e6}};
+    vxConstitutive::TestData bar{"bar", Mode::Uniaxial, {1.5, 3.0}, {1e6, 3e6}};
+    const CurvesContent content = drawn(withTests(rubber(), {balloon, bar}));
+    const auto& series = content.plot.series;
+    ASSERT_EQ(series.size(), 5U);
+    EXPECT_DOUBLE_EQ(series[0].x.front(), 1.0); // a bar begins at stretch 1
+    EXPECT_DOUBLE_EQ(series[0].x.back(), 3.2);  // a tenth more than measured
+    EXPECT_DOUBLE_EQ(series[1].x.back(), 1.55);
+    EXPECT_LT(series[1].x.front(), 0.8);
+    EXPECT_GT(series[1].x.front(), 0.7);
+    EXPECT_DOUBLE_EQ(series[2].x.front(), 0.8);
+    EXPECT_DOUBLE_EQ(series[2].x.back(), 3.0);
+    EXPECT_FALSE(series[0].isFaint);
+    EXPECT_TRUE(series[2].isFaint);
+    EXPECT_DOUBLE_EQ(content.range.to, 3.2);
+}
+
+TEST(CurvesContent, DrawsAllModesOverTheRangeOfTheUser)
+{
+    CurveSettings settings;
+    settings.to = 5.0;
+    const CurvesContent content = drawn(withTests(rubber(), {tension()}), settings);
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_DOUBLE_EQ(content.plot.series.at(i).x.back(), 5.0);
 }
 
 TEST(CurvesContent, NamesTheMaterialOfATestIfThereAreSeveral)

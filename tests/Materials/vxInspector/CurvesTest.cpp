@@ -25,10 +25,14 @@
 #include <QtTest/QtTestGui>
 #include <qwt_legend.h>
 #include <qwt_legend_label.h>
+#include <qwt_picker.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
+#include <qwt_scale_map.h>
+#include <qwt_text.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -191,10 +195,10 @@ TEST_F(CurvesTab, ShowsTheTestsThatTheMaterialKeeps)
         {{{"tension", vxConstitutive::Mode::Uniaxial, {1.5, 2.0, 7.0}, {1e6, 1.75e6, 3e6}}}, {}});
     EXPECT_TRUE(vxMsg::MessageProxy::instance().setSetting(seal, vxConstitutive::measurementsSetting, text));
     ASSERT_TRUE(waitFor([this] { return names().size() == 4; }));
-    EXPECT_THAT(names(), ElementsAre("uniaxial", "equibiaxial", "planar", "tension"));
+    EXPECT_THAT(names(), ElementsAre("uniaxial", "equibiaxial (not measured)", "planar (not measured)", "tension"));
     EXPECT_EQ(plot().plot().series[3].kind, vxPlot::SeriesKind::Symbols);
     EXPECT_THAT(plot().plot().series[3].y, ElementsAre(1e6, 1.75e6, 3e6));
-    EXPECT_EQ(plot().plot().series[0].x.back(), 7.0);
+    EXPECT_DOUBLE_EQ(plot().plot().series[0].x.back(), 7.6); // a tenth more than measured
     history().undo();
     EXPECT_TRUE(waitFor([this] { return names().size() == 3; }));
 }
@@ -289,6 +293,28 @@ TEST_F(CurvesTab, ZoomsAndShowsEverythingAgain)
     EXPECT_TRUE(plot().isZoomed());
     QTest::keyClick(&plot(), Qt::Key_Home);
     EXPECT_FALSE(plot().isZoomed());
+}
+
+TEST_F(CurvesTab, ShowsNoRoundingErrorsBesideTheCrossHair)
+{
+    showRubber();
+    QCoreApplication::processEvents();
+    // Each pixel is a tenth, and 0 is on a pixel.
+    for (int round = 0; round < 3; ++round) { // the labels of the axis change the canvas
+        const QwtScaleMap map = plot().canvasMap(QwtPlot::yLeft);
+        const double above = map.p1() - std::floor((map.p1() + map.p2()) / 2.0);
+        plot().zoomTo(QRectF(1.0, -0.1 * above, 1.0, 0.1 * map.pDist()));
+        QCoreApplication::processEvents();
+    }
+    const QwtPicker* const picker = plot().canvas()->findChild<QwtPicker*>();
+    ASSERT_NE(picker, nullptr);
+    bool showsZero = false;
+    for (int y = 0; y < plot().canvas()->height(); ++y) {
+        const std::string text = picker->trackerText(QPoint(50, y)).text().toStdString();
+        EXPECT_THAT(text, testing::Not(testing::HasSubstr("e-1")));
+        showsZero = showsZero || text.find(", 0 ") != std::string::npos;
+    }
+    EXPECT_TRUE(showsZero);
 }
 
 TEST_F(CurvesTab, CopiesPictureAndTable)

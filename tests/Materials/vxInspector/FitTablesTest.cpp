@@ -150,10 +150,13 @@ TEST(FitTables, PlotTheTestBesideTheFittedCurve)
     const auto test = *loaded(rubberTable()).reading.data;
     const auto results = vxInspector::fitAll(vxInspector::FitOrder{{test}}, {});
     const auto plot = vxInspector::fitPlot({&test}, {&results[0], &results[1]}, *vxUnits::UnitSystem::parse("mm-t-s"));
-    ASSERT_EQ(plot.series.size(), 3U);
-    EXPECT_EQ(plot.series[2].kind, vxPlot::SeriesKind::Symbols);
+    ASSERT_EQ(plot.series.size(), 7U); // two models in three modes, and the test
+    EXPECT_EQ(plot.series[6].kind, vxPlot::SeriesKind::Symbols);
     EXPECT_NEAR(plot.series[0].y.back(), 3.0 - 1.0 / 9.0, 1e-3);
-    EXPECT_NEAR(plot.series[2].y.back(), 3.0 - 1.0 / 9.0, 1e-5);
+    EXPECT_NEAR(plot.series[6].y.back(), 3.0 - 1.0 / 9.0, 1e-5);
+    for (std::size_t i = 0; i < 6; ++i)
+        EXPECT_EQ(plot.series[i].isFaint, i >= 2) << plot.series[i].name; // only a bar was tested
+    EXPECT_DOUBLE_EQ(plot.series[5].x.back(), 3.0);
 }
 
 TEST(FitTables, FitTheModelsOfTheKindOfTheTests)

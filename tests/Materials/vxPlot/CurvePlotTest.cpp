@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 namespace {
 
 using testing::DoubleNear;
@@ -58,6 +60,20 @@ TEST(CurvePlot, ShowsStressAgainstStretchInTheChosenUnits)
     EXPECT_EQ(plot.series[0].kind, SeriesKind::Line);
     EXPECT_THAT(plot.series[0].x, ElementsAre(1.0, 2.0));
     EXPECT_THAT(plot.series[0].y, ElementsAre(DoubleNear(0.0, 1e-12), DoubleNear(1.75, 1e-12)));
+}
+
+TEST(CurvePlot, CutsACurveThatIsNotMeasuredFarBeyondTheOthers)
+{
+    const Curve measured = rubber(Mode::Uniaxial, {1.0, 2.0});
+    const Curve other = rubber(Mode::Equibiaxial, {0.3, 1.0, 2.0}); // 2 C10 (l - l^-5): -411 MPa, 0, 1.97 MPa
+    CurvePlotRequest request = in("mm-t-s");
+    request.curves = {{"Seal", &measured}, {"Seal", &other, false}};
+    const PlotData plot = curvePlot(request);
+    ASSERT_THAT(namesOf(plot), ElementsAre("uniaxial", "equibiaxial (not measured)"));
+    EXPECT_FALSE(plot.series[0].isFaint);
+    EXPECT_TRUE(plot.series[1].isFaint);
+    EXPECT_TRUE(std::isnan(plot.series[1].y[0]));
+    EXPECT_THAT(plot.series[1].y[2], DoubleNear(1.96875, 1e-9));
 }
 
 TEST(CurvePlot, ShowsTrueStressIfAskedTo)

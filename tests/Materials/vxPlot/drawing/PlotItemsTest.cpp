@@ -7,6 +7,7 @@
 #include <qwt_legend.h>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_scale_draw.h>
 #include <qwt_text.h>
 
 namespace {
@@ -50,6 +51,25 @@ TEST(PlotItems, ScalesTheAxesToTheCurvesAndNotToTheBands)
     items.show(data);
     plot.replot();
     EXPECT_EQ(plot.axisInterval(QwtPlot::xBottom), QwtInterval(0.25, 0.5));
+}
+
+TEST(PlotItems, TakesFewerLabelsInANarrowPlot)
+{
+    constexpr int width = 250;
+    QwtPlot plot;
+    PlotItems items(plot, vxPlot::printedLook());
+    PlotData data = lines(1, 1.0);
+    data.series[0].x = {0.0, 3.6e6}; // an hour of creep in s
+    items.show(data);
+    const auto need = [&plot] {
+        return plot.axisScaleDraw(QwtPlot::xBottom)->minLength(plot.axisFont(QwtPlot::xBottom));
+    };
+    plot.updateAxes();
+    ASSERT_GT(need(), width);
+    items.fitLabels(width);
+    EXPECT_LE(need(), width);
+    items.fitLabels(2000);
+    EXPECT_GT(need(), width);
 }
 
 TEST(PlotItems, KeepsTheItemsWhileOnlyNamesChange)

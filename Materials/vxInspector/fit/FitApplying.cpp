@@ -106,4 +106,10 @@ void applyFit(const AppliedFit& fit, Mat::MaterialObject& object, MatGui::Materi
         vxMsg::MessageProxy::instance().setSetting(object, vxConstitutive::measurementsSetting, *fit.measurements);
 }
 
+void setMeasurements(Mat::MaterialObject& object, const std::string& text, const QString& step)
+{
+    const vxMsg::MessageProxy::Group group(step);
+    vxMsg::MessageProxy::instance().setSetting(object, vxConstitutive::measurementsSetting, text);
+}
+
 } // namespace vxInspector

@@ -2,6 +2,8 @@
 
 #include "vxConstitutive/fit/Fit.h"
 
+#include <QString>
+
 #include <optional>
 #include <string>
 
@@ -27,5 +29,8 @@ struct AppliedFit
 /// of the material, is not null, changes its rows instead of the material, as one step of its own undo stack; only the
 /// measurements are then a step of the history.
 void applyFit(const AppliedFit& fit, Mat::MaterialObject& object, MatGui::MaterialView* editor);
+
+/// Stores the measurements `text` with a material, as a step of the history with the text `step`. An empty text removes them.
+void setMeasurements(Mat::MaterialObject& object, const std::string& text, const QString& step);
 
 } // namespace vxInspector

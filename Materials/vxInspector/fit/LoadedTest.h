@@ -1,5 +1,6 @@
 #pragma once
 
+#include "table/TableContent.h"
 #include "vxConstitutive/data/TestReading.h"
 #include "vxConstitutive/data/TestTable.h"
 
@@ -20,8 +21,9 @@ struct LoadedTest
     vxConstitutive::TestReadRequest request = {};
     vxConstitutive::TestReading reading = {}; ///< empty without a mode
     std::shared_ptr<vxConstitutive::TestReading> pending =
-        nullptr;         ///< gets the reading; null if the test is not being read
-    bool isKept = false; ///< whether a material keeps the test as it is here; otherwise it is the user's own
+        nullptr;          ///< gets the reading; null if the test is not being read
+    bool isKept = false;  ///< whether a material keeps the test as it is here; otherwise it is the user's own
+    RowPlace keeper = {}; ///< the material that keeps the test, or kept it last; not set if there was none
 };
 
 /// The most rows of a table that are read at once. Larger tables are read beside the interface.

@@ -68,20 +68,40 @@ VolumeChoice::~VolumeChoice() = default;
 
 void VolumeChoice::retranslate()
 {
-    const QSignalBlocker blocker(m_treatment);
-    const int chosen = std::max(m_treatment->currentIndex(), 0);
-    m_treatment->clear();
-    m_treatment->addItem(tr("keep"), static_cast<int>(D1Treatment::Keep));
-    m_treatment->addItem(tr("remove: incompressible"), static_cast<int>(D1Treatment::Remove));
-    m_treatment->setItemData(1, missingText(), Qt::ToolTipRole);
-    m_treatment->addItem(tr("set the ratio of bulk to shear modulus to"), static_cast<int>(D1Treatment::Set));
-    m_treatment->setCurrentIndex(chosen);
+    fillChoices(std::max(m_treatment->currentIndex(), 0));
     m_label->setText(tr("&D1:"));
     m_treatment->setToolTip(tr("What happens to the compressibility of the material"));
     m_ratio->setToolTip(tr("The ratio of the initial bulk modulus 2/D1 to the initial shear modulus of the fit"));
     m_ratio->setAccessibleName(tr("Ratio of bulk to shear modulus"));
     showSentence();
     showChoice();
+}
+
+bool VolumeChoice::hasD1() const
+{
+    return m_volume && m_volume->bulkRatio;
+}
+
+/// A material without D1 has none to keep or to remove.
+void VolumeChoice::fillChoices(int chosen)
+{
+    const QSignalBlocker blocker(m_treatment);
+    m_treatment->clear();
+    if (hasD1()) {
+        m_treatment->addItem(tr("keep"), static_cast<int>(D1Treatment::Keep));
+        m_treatment->addItem(tr("remove: incompressible"), static_cast<int>(D1Treatment::Remove));
+    } else {
+        m_treatment->addItem(tr("none: incompressible"), static_cast<int>(D1Treatment::Keep));
+    }
+    m_treatment->setItemData(m_treatment->count() - 1, missingText(), Qt::ToolTipRole);
+    m_treatment->addItem(tr("set the ratio of bulk to shear modulus to"), static_cast<int>(D1Treatment::Set));
+    m_treatment->setCurrentIndex(std::min(chosen, m_treatment->count() - 1));
+}
+
+/// The check of materials reports a rubber without D1, and some solvers take another ratio for it.
+D1Treatment VolumeChoice::usualTreatment() const
+{
+    return hasD1() ? m_volume->usualTreatment() : D1Treatment::Set;
 }
 
 void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume)
@@ -91,9 +111,11 @@ void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume)
     setHidden(!volume);
     if (stays)
         return;
+    fillChoices(0);
     if (volume)
-        m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(volume->usualTreatment())));
+        m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(usualTreatment())));
     showSentence();
+    showChoice();
 }
 
 /// Says what the fit means for D1, and what the check of materials says if D1 is removed.
@@ -103,7 +125,7 @@ void VolumeChoice::showSentence()
         return;
     QString text = m_volume->finding ? translated(*m_volume->finding)
                                      : tr("The fit is incompressible, and the material has no D1.");
-    if (treatment() == D1Treatment::Remove)
+    if (treatment() == D1Treatment::Remove || (treatment() == D1Treatment::Keep && !hasD1()))
         text += QLatin1Char(' ') + missingText();
     m_sentence->setText(text);
 }

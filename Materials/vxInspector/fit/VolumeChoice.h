@@ -13,7 +13,7 @@ class QLineEdit;
 namespace vxInspector {
 
 /// Says what the D1 of a material means for the constants of an incompressible fit, and asks what happens to it: it is kept,
-/// removed, or set by the ratio of bulk to shear modulus. Hidden if there is no such fit.
+/// removed, or set by the ratio of bulk to shear modulus, which is the usual choice for a material without D1. Hidden if there is no such fit.
 class VolumeChoice : public QWidget
 {
     Q_OBJECT
@@ -40,6 +40,9 @@ Q_SIGNALS:
 private:
     vxConstitutive::D1Treatment treatment() const;
     std::optional<double> bulkRatio() const;
+    bool hasD1() const;
+    void fillChoices(int chosen);
+    vxConstitutive::D1Treatment usualTreatment() const;
     void showSentence();
     static QString missingText();
     void showChoice();

@@ -49,7 +49,7 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
       m_cards(new CardsPage(m_tabs)),
       m_compare(new TabPage("inspectorCompare", m_tabs)),
       m_curves(new CurvesPage(m_tabs)),
-      m_fit(new FitPage(m_tabs))
+      m_fit(new FitPage(m_measurements, m_tabs))
 {
     m_systems->setObjectName(QStringLiteral("inspectorUnits"));
     m_systems->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -68,6 +68,7 @@ Inspector::Inspector(SubjectWatch& watch, QWidget* parent)
     connect(m_cards, &CardsPage::chosen, this, refreshNow);
     connect(m_curves, &CurvesPage::chosen, this, refreshNow);
     connect(m_systems, QOverload<int>::of(&QComboBox::currentIndexChanged), this, refreshNow);
+    connect(&m_measurements, &MeasurementsCache::done, this, refreshNow);
 }
 
 Inspector::~Inspector() = default;

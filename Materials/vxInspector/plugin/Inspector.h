@@ -50,6 +50,7 @@ private:
     void setFindingsTitle(std::size_t count);
 
     SubjectWatch& m_watch;
+    MeasurementsCache m_measurements; ///< before the pages that use it
     QLabel* m_unitsLabel;
     QComboBox* m_systems;
     InspectorTabs* m_tabs;
@@ -59,7 +60,6 @@ private:
     TabPage* m_compare;
     CurvesPage* m_curves;
     FitPage* m_fit;
-    MeasurementsCache m_measurements;
     std::string m_ofProject; ///< the unit system of the project in the first entry of the choice
 };
 

@@ -17,10 +17,14 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QtTest/QtTestGui>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -98,6 +102,34 @@ protected:
             {{{name, vxConstitutive::Mode::Uniaxial, {1.5, 2.0, 3.0}, {1e6, 1.75e6, 3e6}}}, {}});
     }
 
+    /// Opens the menu of the button that removes, and clicks the entry that begins with a text.
+    void chooseRemoval(const char* beginning) const
+    {
+        auto& button = control<QPushButton>("fitRemove");
+        ASSERT_NE(button.menu(), nullptr);
+        QMenu& menu = *button.menu();
+        menu.popup(button.mapToGlobal(QPoint()));
+        for (QAction* const action : menu.actions())
+            if (action->text().startsWith(QLatin1String(beginning)))
+                return QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+        menu.close();
+        FAIL() << beginning << " is not in the menu";
+    }
+
+    std::string applied() const
+    {
+        const auto& label = control<QLabel>("fitApplied");
+        return label.isVisible() ? label.text().toStdString() : std::string();
+    }
+
+    void removeQuantity(Mat::MaterialObject& object, int id) const
+    {
+        vxMat::MaterialBase& material = *object.getCMaterial();
+        material.removeProperty(material.findProperty(id));
+        object.refreshProperties(true);
+        QCoreApplication::processEvents();
+    }
+
     static constexpr const char* setting = vxConstitutive::measurementsSetting;
 
     std::string preview() const { return control<QLabel>("fitPreview").text().toStdString(); }
@@ -159,6 +191,21 @@ TEST_F(FitTab, LoadsAFile)
     ASSERT_EQ(page().tests().size(), 1U);
     EXPECT_EQ(page().tests()[0].request.name, "tension");
     press("fitRemove");
+    EXPECT_TRUE(page().tests().empty());
+}
+
+TEST_F(FitTab, RefusesAPipeWhichWouldNeverEnd)
+{
+    showMaterial();
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(QStringLiteral("pipe.csv"));
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    for (const QString& path : {pipe, QStringLiteral("/dev/zero")}) {
+        Gui::FileDialog::answerNext(path);
+        press("fitLoad");
+        EXPECT_THAT(Kelta::MessageLog::instance().messages().back().text.toStdString(),
+                    AllOf(HasSubstr(path.toStdString()), HasSubstr("this is not a file")));
+    }
     EXPECT_TRUE(page().tests().empty());
 }
 
@@ -311,9 +358,10 @@ TEST_F(FitTab, DoesNotOverwriteMeasurementsThatItCannotRead)
     press("fitApply");
     EXPECT_EQ(seal.getSetting(setting), "{\"version\": 99}");
     EXPECT_NEAR(numberOf(seal, Id::MaterialConstantC10), 0.5e6, 500.0);
-    ASSERT_FALSE(Kelta::MessageLog::instance().messages().empty());
-    EXPECT_THAT(Kelta::MessageLog::instance().messages().back().text.toStdString(),
-                HasSubstr("The tests are not kept with \"Seal\""));
+    const auto& messages = Kelta::MessageLog::instance().messages();
+    ASSERT_GE(messages.size(), 2U);
+    EXPECT_THAT(messages[messages.size() - 2].text.toStdString(), HasSubstr("The tests are not kept with \"Seal\""));
+    EXPECT_THAT(messages.back().text.toStdString(), HasSubstr("The tests are not kept."));
 }
 
 TEST_F(FitTab, KeepsTheTestsOfAMaterialWithAnOpenEditor)
@@ -348,7 +396,9 @@ TEST_F(FitTab, LoadsTheTestsThatAMaterialKeeps)
     EXPECT_THAT(preview(), HasSubstr("3 points: \"nominal stress\" as nominal stress in Pa against \"stretch\""));
     fitTests();
     EXPECT_FALSE(page().results().empty());
-    press("fitRemove");
+    chooseRemoval("Test \"tension\" from this tab");
+    EXPECT_TRUE(page().tests().empty());
+    EXPECT_EQ(seal.getSetting(setting), keptText("tension"));
     select({&pad});
     ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
     EXPECT_EQ(page().tests()[0].request.name, "pad test");
@@ -427,6 +477,227 @@ TEST_F(FitTab, ShowsNoFitOfKeptTestsForAnotherMaterial)
     EXPECT_FALSE(control<QPushButton>("fitApply").isVisible());
 }
 
+TEST_F(FitTab, RemovesAKeptTestFromTheMaterialAsAStepThatCanBeUndone)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    fitRubber();
+    press("fitApply");
+    const std::string kept = seal.getSetting(setting);
+    const int steps = history().count();
+    chooseRemoval("Test \"Test 1\" from the material \"Seal\"");
+    EXPECT_EQ(seal.getSetting(setting), ""); // the record of the fit has no test any more
+    EXPECT_TRUE(page().tests().empty());
+    EXPECT_EQ(history().count(), steps + 1);
+    EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
+                HasSubstr("\"Seal\" does not keep the test \"Test 1\" any more."));
+    history().undo();
+    EXPECT_EQ(seal.getSetting(setting), kept);
+    EXPECT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    EXPECT_TRUE(page().tests()[0].isKept);
+}
+
+TEST_F(FitTab, KeepsTheOtherTestsAndTheirFitsIfOneTestIsRemovedFromTheMaterial)
+{
+    Mat::MaterialObject& seal = addMaterial(newProject(), "Seal", vxMat::eMaterialType::Elastomer1);
+    auto kept = vxConstitutive::readMeasurements(keptText("tension"));
+    kept.tests.push_back(kept.tests[0]);
+    kept.tests[1].name = "other";
+    kept.fits.resize(2);
+    kept.fits[0].tests.resize(1);
+    kept.fits[0].tests[0].test = "tension";
+    kept.fits[1].tests = kept.fits[0].tests;
+    kept.fits[1].tests.push_back(kept.fits[0].tests[0]);
+    kept.fits[1].tests[1].test = "other";
+    seal.setSetting(setting, vxConstitutive::writeMeasurements(kept));
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 2; }));
+    chooseRemoval("Test \"tension\" from the material");
+    const auto left = vxConstitutive::readMeasurements(seal.getSetting(setting));
+    ASSERT_EQ(left.tests.size(), 1U);
+    EXPECT_EQ(left.tests[0].name, "other");
+    ASSERT_EQ(left.fits.size(), 1U);
+    EXPECT_EQ(left.fits[0].tests.size(), 2U);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(page().tests().size(), 1U);
+    EXPECT_TRUE(page().tests()[0].isKept);
+}
+
+TEST_F(FitTab, RemovesAllKeptTestsBesideOwnOnesFromAMaterialWhoseFitIsThrownAway)
+{
+    Mat::MaterialObject& seal = addMaterial(newProject(), "Seal", vxMat::eMaterialType::Elastomer1);
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().isVisible(); }));
+    EXPECT_FALSE(control<QPushButton>("fitRemove").isEnabled());
+    fitRubber();
+    EXPECT_EQ(control<QPushButton>("fitRemove").menu(), nullptr); // nothing is kept yet
+    press("fitApply");
+    removeQuantity(seal, Id::NeoHooke);
+    paste(rubberTable());
+    chooseRemoval("All tests and records of fits from the material \"Seal\"");
+    EXPECT_EQ(seal.getSetting(setting), "");
+    ASSERT_EQ(page().tests().size(), 1U);
+    EXPECT_EQ(page().tests()[0].request.name, "Test 2");
+    history().undo();
+    EXPECT_EQ(vxConstitutive::readMeasurements(seal.getSetting(setting)).tests.size(), 1U);
+}
+
+TEST_F(FitTab, SaysWhatApplyHasWrittenUntilItIsUndone)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    setNumber(seal, Id::IncompressibilityParameterD1, 4e-9); // K0 = 500 MPa
+    fitRubber();
+    EXPECT_EQ(applied(), "");
+    press("fitApply");
+    EXPECT_THAT(applied(), AllOf(HasSubstr("Written to \"Seal\": "), HasSubstr("Neo-Hooke"), HasSubstr("C10 = "),
+                                 HasSubstr("Pa"), HasSubstr("Kept tests: \"Test 1\".")));
+    EXPECT_EQ(window->statusBar()->currentMessage().toStdString(), applied());
+    QCoreApplication::processEvents();
+    EXPECT_NE(applied(), "");
+    history().undo();
+    EXPECT_TRUE(waitFor([this] { return applied().empty(); }));
+    history().redo();
+    EXPECT_TRUE(waitFor([this] { return !applied().empty(); }));
+}
+
+TEST_F(FitTab, SaysThatApplyHasChangedTheTableOfAnOpenEditor)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    MatGui::MaterialView& editor = edit(seal);
+    fitRubber();
+    press("fitApply");
+    EXPECT_THAT(applied(), HasSubstr("Written to the table of \"Seal\", which is not applied yet: "));
+    editor.getUndoStack()->undo();
+    EXPECT_TRUE(waitFor([this] { return applied().empty(); }));
+}
+
+TEST_F(FitTab, KnowsThatTheKeepingIsUndoneWhileAnotherMaterialIsSelected)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    Mat::MaterialObject& pad =
+        addMaterial(*dynamic_cast<Mat::DocumentMaterial*>(seal.get_project()), "Pad", vxMat::eMaterialType::Elastomer1);
+    paste(rubberTable());
+    chooseMode("uniaxial");
+    paste(rubberTable());
+    fitTests();
+    const int steps = history().count();
+    press("fitApply");
+    ASSERT_EQ(history().count(), steps + 1);
+    select({&pad});
+    ASSERT_TRUE(waitFor([this] { return control<QPushButton>("fitApply").text().contains("Pad"); }));
+    EXPECT_TRUE(page().tests().at(0).isKept);
+    history().undo();
+    EXPECT_TRUE(waitFor([this] { return !page().tests().at(0).isKept; }));
+    const vxtest::MessageBoxes boxes(QMessageBox::Cancel);
+    EXPECT_FALSE(window->close());
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_THAT(boxes.shown()[0].text.toStdString(), HasSubstr("\"Test 1\""));
+    history().redo();
+    EXPECT_TRUE(waitFor([this] { return page().tests().at(0).isKept; }));
+}
+
+TEST_F(FitTab, ReadsLongKeptTestsBesideTheInterface)
+{
+    Mat::MaterialObject& seal = addMaterial(newProject(), "Seal", vxMat::eMaterialType::Elastomer1);
+    vxConstitutive::TestData test{"long", vxConstitutive::Mode::Uniaxial, {}, {}};
+    for (int i = 1; i <= 40000; ++i) {
+        test.abscissas.push_back(1.0 + i / 3e4);
+        test.ordinates.push_back(1e6 * i / 3e4);
+    }
+    seal.setSetting(setting, vxConstitutive::writeMeasurements({{test}, {}}));
+    turnTo(Fit);
+    select({&seal});
+    ASSERT_TRUE(waitFor([this] { return control<QPushButton>("fitLoad").isVisible(); }));
+    const auto& sentence = control<QLabel>("sentence");
+    ASSERT_TRUE(waitFor([&] { return sentence.text().contains("is being read"); }));
+    EXPECT_TRUE(page().tests().empty());
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    EXPECT_EQ(page().tests()[0].reading.data->abscissas.size(), 40000U);
+    EXPECT_TRUE(page().tests()[0].isKept);
+    EXPECT_FALSE(sentence.isVisible());
+}
+
+TEST_F(FitTab, SetsAD1ForAMaterialThatHasNone)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    removeQuantity(seal, Id::IncompressibilityParameterD1);
+    fitRubber();
+    auto& treatment = control<QComboBox>("fitD1");
+    ASSERT_EQ(treatment.count(), 2);
+    EXPECT_EQ(treatment.currentText(), "set the ratio of bulk to shear modulus to");
+    EXPECT_TRUE(control<QLineEdit>("fitBulkRatio").isVisible());
+    const auto sentence = [this] { return control<QLabel>("fitVolume").text().toStdString(); };
+    EXPECT_EQ(sentence(), "The fit is incompressible, and the material has no D1.");
+    QTest::keyClick(&treatment, Qt::Key_Up);
+    EXPECT_EQ(treatment.currentText(), "none: incompressible");
+    EXPECT_THAT(sentence(), HasSubstr("The check of materials then reports that D1 is missing."));
+    press("fitApply");
+    EXPECT_FALSE(seal.getCMaterial()->hasProperty(Id::IncompressibilityParameterD1));
+    QTest::keyClick(&treatment, Qt::Key_Down);
+    press("fitApply");
+    EXPECT_NEAR(numberOf(seal, Id::IncompressibilityParameterD1), 4e-9, 1e-12); // K0 = 500 MPa
+}
+
+/// A tensile test of a steel with Young's modulus 180 GPa that yields at 270 MPa.
+QString tensileTable()
+{
+    QString text = QStringLiteral("engineering strain [mm/mm],nominal stress [MPa]\n");
+    for (int i = 0; i <= 15; ++i)
+        text += QString::number(i * 1e-4, 'g', 10) + ',' + QString::number(i * 18.0) + '\n';
+    for (int i = 1; i <= 20; ++i)
+        text += QString::number(0.0015 + i * 0.005, 'g', 10) + ',' + QString::number(270.0 + 5.0 * i) + '\n';
+    return text;
+}
+
+TEST_F(FitTab, AsksWhichYoungsModulusAFitOfAMetalTakes)
+{
+    Mat::MaterialObject& bar = addMaterial(newProject(), "Bar"); // with 200 GPa
+    setNumber(bar, Id::YoungsModulus, 2e11);
+    select({&bar});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().isVisible(); }));
+    paste(tensileTable());
+    chooseMode("tensile");
+    press("fitStart");
+    const auto isDone = [this] { return !page().isFitting() && !page().results().empty(); };
+    ASSERT_TRUE(waitFor(isDone));
+    const auto& sentence = control<QLabel>("fitModulus");
+    ASSERT_TRUE(sentence.isVisible());
+    EXPECT_THAT(sentence.text().toStdString(), AllOf(HasSubstr("(−10 %)"), HasSubstr("with that of the curve")));
+    auto& choice = control<QComboBox>("fitModulusChoice");
+    EXPECT_THAT(choice.itemText(0).toStdString(), HasSubstr("of the curve: 1"));
+    QTest::keyClick(&choice, Qt::Key_Down);
+    ASSERT_TRUE(waitFor(isDone));
+    EXPECT_THAT(sentence.text().toStdString(), HasSubstr("with that of the material, which keeps it"));
+    EXPECT_EQ(choice.currentIndex(), 1);
+    press("fitApply");
+    EXPECT_EQ(numberOf(bar, Id::YoungsModulus), 2e11);
+    QTest::keyClick(&choice, Qt::Key_Up);
+    ASSERT_TRUE(waitFor(isDone));
+    press("fitApply");
+    EXPECT_NEAR(numberOf(bar, Id::YoungsModulus), 1.8e11, 1e6);
+    EXPECT_TRUE(waitFor([&] { return !sentence.isVisible(); })); // they are the same now
+}
+
+TEST_F(FitTab, SaysThatAnEnteredYoungsModulusIsNotThatOfTheMaterial)
+{
+    Mat::MaterialObject& bar = addMaterial(newProject(), "Bar");
+    setNumber(bar, Id::YoungsModulus, 2e11);
+    select({&bar});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().isVisible(); }));
+    paste(tensileTable());
+    chooseMode("tensile");
+    QTest::keyClicks(&control<QLineEdit>("fitYoungsModulus"), "190 GPa");
+    press("fitStart");
+    ASSERT_TRUE(waitFor([this] { return !page().isFitting() && !page().results().empty(); }));
+    const auto& sentence = control<QLabel>("fitModulus");
+    ASSERT_TRUE(sentence.isVisible());
+    EXPECT_THAT(sentence.text().toStdString(), HasSubstr("(−5 % beside the material)"));
+    EXPECT_FALSE(control<QComboBox>("fitModulusChoice").isVisible());
+}
+
 TEST_F(FitTab, ReplacesAD1ThatContradictsTheFitAndSaysSoBefore)
 {
     Mat::MaterialObject& seal = showMaterial();
@@ -494,14 +765,15 @@ TEST_F(FitTab, GivesEachTestANameOfItsOwn)
     EXPECT_EQ(page().tests().at(1).request.name, "tension (2)");
 }
 
-TEST_F(FitTab, ShowsTheTestAndTheCurveOfTheSelectedModel)
+TEST_F(FitTab, ShowsTheTestAndTheCurvesOfTheSelectedModel)
 {
     showMaterial();
     fitRubber();
     const vxPlot::PlotData& plot = page().plot().plot();
-    ASSERT_EQ(plot.series.size(), 2U);
-    EXPECT_EQ(plot.series[0].name, "Neo-Hookean");
-    EXPECT_EQ(plot.series[1].kind, vxPlot::SeriesKind::Symbols);
+    ASSERT_EQ(plot.series.size(), 4U);
+    EXPECT_EQ(plot.series[0].name, "uniaxial");
+    EXPECT_EQ(plot.series[1].name, "equibiaxial (not measured)");
+    EXPECT_EQ(plot.series[3].kind, vxPlot::SeriesKind::Symbols);
     auto& constants = control<vxInspector::ContentView>("fitConstants");
     EXPECT_EQ(constants.model()->index(0, 0).data().toString(), "C10");
 }

@@ -1,4 +1,4 @@
-#include "fit/BesideJob.h"
+#include "measured/BesideJob.h"
 
 #include "Kelta/Exceptions.h"
 

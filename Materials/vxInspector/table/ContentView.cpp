@@ -268,11 +268,25 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
     return {whole, std::max(longest, number), broken, broken};
 }
 
+/// A scroll bar that appears with the new heights of the rows takes width from the columns, so they are fitted again.
 void ContentView::fitColumns()
 {
     if (m_fitting)
         return;
     const QScopedValueRollback<bool> fitting(m_fitting, true);
+    constexpr int mostPasses = 3; // the bar may go with the new widths
+    for (int pass = 0; pass < mostPasses; ++pass) {
+        const int width = viewport()->width();
+        fitToWidth();
+        updateGeometries();
+        if (viewport()->width() == width)
+            break;
+    }
+    m_frozen->follow();
+}
+
+void ContentView::fitToWidth()
+{
     const int height = fontMetrics().height();
     setIconSize({height, height});
     std::vector<NeededWidth> needed;
@@ -289,7 +303,6 @@ void ContentView::fitColumns()
         if (m_columnsOfUser.count(column) == 0)
             setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
     resizeRowsToContents();
-    m_frozen->follow();
 }
 
 } // namespace vxInspector

@@ -63,6 +63,7 @@ private:
     NeededWidth neededWidth(int column) const;
     NeededWidth neededWidth(const QModelIndex& index) const;
     void fitColumns();
+    void fitToWidth();
 
     ContentModel* m_model;
     FrozenColumn* m_frozen = nullptr;

@@ -102,6 +102,8 @@ private:
         std::string unitMeant = suggestTerms(terms, wanted);
         if (unitMeant.empty())
             unitMeant = suggestUnit(m_number.rest, &wanted);
+        if (unitMeant.empty() && isStressForItsReciprocal(unit, wanted))
+            unitMeant = Unit::parse("1/(" + unit.text() + ")")->text();
         const std::string suggestion = typedWith(unitMeant);
         const std::string measure = measureOf(unit.dimension());
         if (m_target.name.empty())
@@ -111,6 +113,13 @@ private:
             return failure(FaultCode::WrongDimension, Text::NotPure, {measure, m_target.name}, suggestion);
         return failure(FaultCode::WrongDimension, Text::WrongDimensionOf,
                        {measure, m_target.unit.text(), m_target.name}, suggestion);
+    }
+
+    /// Returns whether a unit lacks "1/", or has it too much: "0.4 MPa" for an incompressibility parameter.
+    static bool isStressForItsReciprocal(const Unit& unit, const Dimension& wanted)
+    {
+        const bool isStress = wanted == dimensions::pressure || wanted == dimensions::compressibility;
+        return isStress && unit.dimension() == dimensions::none / wanted;
     }
 
     Failure refuseResistivity(const Unit& unit) const

@@ -39,7 +39,7 @@ const Refusal refusals[] = {
     {e, "   \t ", FaultCode::Empty, ""},
     {e, "GPa", FaultCode::NumberMissing, "1 GPa"},
     {rho, "GPa", FaultCode::NumberMissing, ""},
-    {e, "/MPa", FaultCode::NumberMissing, ""},
+    {e, "/MPa", FaultCode::NumberMissing, "1 MPa"},
     {e, "abc", FaultCode::NumberMissing, ""},
     {e, "-", FaultCode::NumberMissing, ""},
     {e, "- 5 MPa", FaultCode::NumberMissing, "-5 MPa"},
@@ -219,6 +219,8 @@ TEST(Refusals, NamesTheThingItsValueAndWhatToDo)
               "\"2e-8 ohm.m\" measures electrical resistivity; Electrical conductivity is its reciprocal and needs a "
               "unit such "
               "as S/m. Did you mean \"5e+07 S/m\"?");
+    EXPECT_EQ(vxUnits::readQuantity(Id::IncompressibilityParameterD1, "0.4MPa").failure().suggestion, "0.4 1/MPa");
+    EXPECT_EQ(vxUnits::readQuantity(Id::YoungsModulus, "5 1/GPa").failure().suggestion, "5 GPa");
 }
 
 TEST(Refusals, NamesTheExponentThatTheUnitOfCreepLacksAndKeepsTheUnit)

@@ -71,7 +71,7 @@ TEST_F(SetQuantity, FindsAQuantityByTheSymbolsOfFilters)
         {"Mu", "0.4MPa", 23, 0.4e6},
         {"D1", "0.4 1/GPa", 25, 0.4e-9},
         {"C10", "0.4 MPa", 26, 0.4e6},
-        {"c01", "5 psi", 27, 34473.78646584181},
+        {"c01", "5 kPa", 27, 5000.0},
         {"C11", "1 kPa", 128, 1000.0},
         {"lm", "5", 127, 5.0},
         {"\xCF\x81", "1.1 g/cm^3", 4, 1100.0},
@@ -141,9 +141,9 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
         {"Frame", "C12", "1 MPa", "vxmat: no quantity is called \"C12\"; did you mean \"C10\" or \"C11\"?"},
         {"Frame", "G", "80 GPa", "vxmat: \"G\" is derived and cannot be set: Shear modulus = E / (2 (1 + nu))"},
         {"Frame", "D1", "0.4 MPa",
-         "\"0.4 MPa\" measures pressure or stress; Incompressibility Parameter D1 is its reciprocal and needs a unit "
-         "such as "
-         "1/Pa."},
+         "\"0.4 MPa\" measures pressure or stress; Incompressibility Parameter D1 needs a unit such as 1/Pa. Did you "
+         "mean "
+         "\"0.4 1/MPa\"?"},
         {"Frame", "modulus", "1", "did you mean \"Young's modulus\", "},
         {"Frame", "weight", "1", "vxmat: no quantity is called \"weight\"; \"vxmat catalogue\" lists them"},
         {"Frame", "Densty", "1", "vxmat: no quantity is called \"Densty\"; did you mean \"Density\"?"},

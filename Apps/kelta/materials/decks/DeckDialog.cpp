@@ -159,8 +159,8 @@ QWidget* DeckDialog::buildChoices()
 QWidget* DeckDialog::buildViews()
 {
     auto* const views = new QSplitter(Qt::Vertical, this);
-    views->addWidget(makeTitledView(m_previewTitle, m_preview));
-    views->addWidget(makeTitledView(new QLabel(tr("&Report:"), this), m_report));
+    views->addWidget(makeTitledView(m_previewTitle, m_preview, views));
+    views->addWidget(makeTitledView(new QLabel(tr("&Report:"), this), m_report, views));
     views->setChildrenCollapsible(false);
     views->setStretchFactor(0, 1);
     views->setStretchFactor(1, 1);

@@ -94,8 +94,8 @@ void ImportDeckDialog::buildLayout()
     buttons->addButton(m_import, QDialogButtonBox::AcceptRole);
     m_import->setDefault(true);
     auto* const views = new QSplitter(Qt::Vertical, this);
-    views->addWidget(makeTitledView(new QLabel(tr("&Materials:"), this), m_materials));
-    views->addWidget(makeTitledView(new QLabel(tr("&Report:"), this), m_report));
+    views->addWidget(makeTitledView(new QLabel(tr("&Materials:"), this), m_materials, views));
+    views->addWidget(makeTitledView(new QLabel(tr("&Report:"), this), m_report, views));
     views->setChildrenCollapsible(false);
     auto* const layout = new QVBoxLayout(this);
     for (QWidget* const part : {static_cast<QWidget*>(m_title), static_cast<QWidget*>(m_unitsTitle),

@@ -5,9 +5,9 @@
 
 namespace desktop {
 
-QWidget* makeTitledView(QLabel* title, QWidget* view)
+QWidget* makeTitledView(QLabel* title, QWidget* view, QWidget* parent)
 {
-    auto* const part = new QWidget;
+    auto* const part = new QWidget(parent);
     auto* const layout = new QVBoxLayout(part);
     layout->setContentsMargins({});
     layout->addWidget(title);

@@ -6,7 +6,7 @@ class QWidget;
 namespace desktop {
 
 /// Returns a widget with a title above a view, which gets the keyboard by the mnemonic of the title. The widget takes
-/// ownership of both.
-QWidget* makeTitledView(QLabel* title, QWidget* view);
+/// ownership of both. A parent in the window of the view keeps the order of the keyboard.
+QWidget* makeTitledView(QLabel* title, QWidget* view, QWidget* parent);
 
 } // namespace desktop

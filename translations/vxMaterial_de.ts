@@ -971,6 +971,14 @@ Möchten Sie fortfahren?</translation>
         <source>Write the materials in the input format of a solver</source>
         <translation>Die Materialien im Eingabeformat eines Solvers schreiben</translation>
     </message>
+    <message>
+        <source>no material project is open</source>
+        <translation>kein Materialprojekt ist geöffnet</translation>
+    </message>
+    <message>
+        <source>the project has no materials</source>
+        <translation>das Projekt hat keine Materialien</translation>
+    </message>
 </context>
 <context>
     <name>MaterialFilter</name>
@@ -3631,6 +3639,18 @@ Trotzdem löschen?</translation>
         <source>Column &quot;%1&quot; has the stress %2 Pa, but %3 Pa is given and used.</source>
         <translation>Spalte „%1“ hat die Spannung %2 Pa, aber %3 Pa ist angegeben und wird verwendet.</translation>
     </message>
+    <message>
+        <source>Young&apos;s modulus of the first part of the curve is %1 Pa. It differs by %3 % from the given %2 Pa, with which the elastic part is taken off.</source>
+        <translation>Der Elastizitätsmodul des ersten Teils der Kurve ist %1 Pa. Er weicht um %3 % von den angegebenen %2 Pa ab, mit denen der elastische Anteil abgezogen wird.</translation>
+    </message>
+    <message>
+        <source>The residual is less than that of %1 (%3 instead of %2), but not by so much that %5 free constants are better than %4.</source>
+        <translation>Der Restfehler ist kleiner als der von %1 (%3 statt %2), aber nicht um so viel, dass %5 freie Konstanten besser sind als %4.</translation>
+    </message>
+    <message>
+        <source>The residual is less than that of %1 (%3 instead of %2), but the data do not determine all constants well, or the model is not as stable as requested.</source>
+        <translation>Der Restfehler ist kleiner als der von %1 (%3 statt %2), aber die Daten bestimmen nicht alle Konstanten gut, oder das Modell ist nicht so stabil wie verlangt.</translation>
+    </message>
 </context>
 <context>
     <name>vxConstitutive::Word</name>
@@ -4004,6 +4024,37 @@ Trotzdem löschen?</translation>
     <message>
         <source>Inspector</source>
         <translation>Inspektor</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::AppliedText</name>
+    <message>
+        <source>%1: %2 values</source>
+        <translation>%1: %2 Werte</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>The tests are not kept.</source>
+        <translation>Die Versuche werden nicht aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Kept tests: %1.</source>
+        <translation>Aufbewahrte Versuche: %1.</translation>
+    </message>
+    <message>
+        <source>Written to the table of &quot;%1&quot;, which is not applied yet: %2.</source>
+        <translation>In die Tabelle von „%1“ geschrieben, die noch nicht angewendet ist: %2.</translation>
+    </message>
+    <message>
+        <source>Written to &quot;%1&quot;: %2.</source>
+        <translation>In „%1“ geschrieben: %2.</translation>
+    </message>
+    <message>
+        <source>Removed: %1.</source>
+        <translation>Entfernt: %1.</translation>
     </message>
 </context>
 <context>
@@ -4541,70 +4592,6 @@ Trotzdem löschen?</translation>
         <translation>Die Konstanten können nicht übernommen werden</translation>
     </message>
     <message>
-        <source>Column</source>
-        <translation>Spalte</translation>
-    </message>
-    <message>
-        <source>Measured quantity</source>
-        <translation>Gemessene Größe</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
-    </message>
-    <message>
-        <source>The column of the file</source>
-        <translation>Die Spalte der Datei</translation>
-    </message>
-    <message>
-        <source>What the column measures</source>
-        <translation>Was die Spalte misst</translation>
-    </message>
-    <message>
-        <source>The unit of the column, such as MPa or %</source>
-        <translation>Die Einheit der Spalte, etwa MPa oder %</translation>
-    </message>
-    <message>
-        <source>&amp;Load…</source>
-        <translation>&amp;Laden…</translation>
-    </message>
-    <message>
-        <source>Load test data from a file with columns of numbers</source>
-        <translation>Versuchsdaten aus einer Datei mit Zahlenspalten laden</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>Ein&amp;fügen</translation>
-    </message>
-    <message>
-        <source>Take columns of numbers from the clipboard</source>
-        <translation>Zahlenspalten aus der Zwischenablage übernehmen</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Entfernen</translation>
-    </message>
-    <message>
-        <source>&amp;Test:</source>
-        <translation>&amp;Versuch:</translation>
-    </message>
-    <message>
-        <source>Hori&amp;zontal:</source>
-        <translation>&amp;Waagerecht:</translation>
-    </message>
-    <message>
-        <source>&amp;Vertical:</source>
-        <translation>&amp;Senkrecht:</translation>
-    </message>
-    <message>
-        <source>&amp;Stress:</source>
-        <translation>S&amp;pannung:</translation>
-    </message>
-    <message>
-        <source>&amp;Weight:</source>
-        <translation>&amp;Gewicht:</translation>
-    </message>
-    <message>
         <source>F&amp;it</source>
         <translation>&amp;Anpassen</translation>
     </message>
@@ -4613,52 +4600,12 @@ Trotzdem löschen?</translation>
         <translation>A&amp;bbrechen</translation>
     </message>
     <message>
-        <source>Tests</source>
-        <translation>Versuche</translation>
-    </message>
-    <message>
-        <source>Fitted models</source>
-        <translation>Angepasste Modelle</translation>
-    </message>
-    <message>
-        <source>Constants of the model</source>
-        <translation>Konstanten des Modells</translation>
-    </message>
-    <message>
-        <source>Choose the test</source>
-        <translation>Versuch wählen</translation>
-    </message>
-    <message>
-        <source>Load test data</source>
-        <translation>Versuchsdaten laden</translation>
-    </message>
-    <message>
-        <source>Test data (*.csv *.txt *.dat *.tsv);;All files (*)</source>
-        <translation>Versuchsdaten (*.csv *.txt *.dat *.tsv);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; cannot be read: %2</source>
         <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is larger than 200 MB and is not read.</source>
         <translation>Die Datei „%1“ ist größer als 200 MB und wird nicht gelesen.</translation>
-    </message>
-    <message>
-        <source>Test %1</source>
-        <translation>Versuch %1</translation>
-    </message>
-    <message>
-        <source> Pa</source>
-        <translation> Pa</translation>
-    </message>
-    <message>
-        <source>by its header</source>
-        <translation>nach der Überschrift</translation>
-    </message>
-    <message>
-        <source>Column %1</source>
-        <translation>Spalte %1</translation>
     </message>
     <message>
         <source>The result of the fit cannot be shown</source>
@@ -4821,6 +4768,13 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxInspector::FitTests</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>Die Versuchsdaten können nicht verwendet werden</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::Inspector</name>
     <message>
         <source>The inspector cannot be updated</source>
@@ -4899,6 +4853,10 @@ Trotzdem löschen?</translation>
         <source>The tests cannot be written: %1.</source>
         <translation>Die Versuche können nicht geschrieben werden: %1.</translation>
     </message>
+    <message>
+        <source>The kept tests cannot be read</source>
+        <translation>Die aufbewahrten Versuche können nicht gelesen werden</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::LoadedTest</name>
@@ -4957,6 +4915,41 @@ Trotzdem löschen?</translation>
     <message>
         <source>The test is being read.</source>
         <translation>Der Versuch wird gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::ModulusChoice</name>
+    <message>
+        <source>&amp;Modulus:</source>
+        <translation>&amp;Modul:</translation>
+    </message>
+    <message>
+        <source>The Young&apos;s modulus with which the elastic part is taken off the measured strain</source>
+        <translation>Der Elastizitätsmodul, mit dem der elastische Teil von der gemessenen Dehnung abgezogen wird</translation>
+    </message>
+    <message>
+        <source>of the curve: %1</source>
+        <translation>der Kurve: %1</translation>
+    </message>
+    <message>
+        <source>of the material: %1</source>
+        <translation>des Materials: %1</translation>
+    </message>
+    <message>
+        <source>The elastic part is taken off with Young&apos;s modulus %1 (%3 beside the material). The material keeps its %2.</source>
+        <translation>Der elastische Teil wird mit dem Elastizitätsmodul %1 abgezogen (%3 gegenüber dem Material). Das Material behält seine %2.</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus is %1 by the curve and %2 in the material (%3).</source>
+        <translation>Der Elastizitätsmodul ist %1 nach der Kurve und %2 im Material (%3).</translation>
+    </message>
+    <message>
+        <source>Unless you choose otherwise, the elastic part is taken off with that of the curve, and &quot;Apply&quot; writes it.</source>
+        <translation>Wenn Sie nichts anderes wählen, wird der elastische Teil mit dem der Kurve abgezogen, und „Übernehmen“ schreibt ihn.</translation>
+    </message>
+    <message>
+        <source>The elastic part is taken off with that of the material, which keeps it.</source>
+        <translation>Der elastische Teil wird mit dem des Materials abgezogen, das ihn behält.</translation>
     </message>
 </context>
 <context>
@@ -5081,6 +5074,17 @@ Trotzdem löschen?</translation>
     </message>
 </context>
 <context>
+    <name>vxInspector::ResultPanel</name>
+    <message>
+        <source>Fitted models</source>
+        <translation>Angepasste Modelle</translation>
+    </message>
+    <message>
+        <source>Constants of the model</source>
+        <translation>Konstanten des Modells</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::TabContents</name>
     <message>
         <source>The project has no materials yet.</source>
@@ -5152,6 +5156,152 @@ Trotzdem löschen?</translation>
     <message>
         <source>the file %1 is missing</source>
         <translation>die Datei %1 fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::TestForm</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>Die Versuchsdaten können nicht verwendet werden</translation>
+    </message>
+    <message>
+        <source>&amp;Test:</source>
+        <translation>&amp;Versuch:</translation>
+    </message>
+    <message>
+        <source>Hori&amp;zontal:</source>
+        <translation>&amp;Waagerecht:</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical:</source>
+        <translation>&amp;Senkrecht:</translation>
+    </message>
+    <message>
+        <source>&amp;Stress:</source>
+        <translation>S&amp;pannung:</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>&amp;Gewicht:</translation>
+    </message>
+    <message>
+        <source>Choose the test</source>
+        <translation>Versuch wählen</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>Measured quantity</source>
+        <translation>Gemessene Größe</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>The column of the file</source>
+        <translation>Die Spalte der Datei</translation>
+    </message>
+    <message>
+        <source>What the column measures</source>
+        <translation>Was die Spalte misst</translation>
+    </message>
+    <message>
+        <source>The unit of the column, such as MPa or %</source>
+        <translation>Die Einheit der Spalte, etwa MPa oder %</translation>
+    </message>
+    <message>
+        <source> Pa</source>
+        <translation> Pa</translation>
+    </message>
+    <message>
+        <source>by its header</source>
+        <translation>nach der Überschrift</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::TestPanel</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>Die Versuchsdaten können nicht verwendet werden</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>&amp;Laden…</translation>
+    </message>
+    <message>
+        <source>Load test data from a file with columns of numbers</source>
+        <translation>Versuchsdaten aus einer Datei mit Zahlenspalten laden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ein&amp;fügen</translation>
+    </message>
+    <message>
+        <source>Take columns of numbers from the clipboard</source>
+        <translation>Zahlenspalten aus der Zwischenablage übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>Versuche</translation>
+    </message>
+    <message>
+        <source>Load test data</source>
+        <translation>Versuchsdaten laden</translation>
+    </message>
+    <message>
+        <source>Test data (*.csv *.txt *.dat *.tsv);;All files (*)</source>
+        <translation>Versuchsdaten (*.csv *.txt *.dat *.tsv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Test %1</source>
+        <translation>Versuch %1</translation>
+    </message>
+    <message>
+        <source>Take the test out of this tab, or remove what the material keeps</source>
+        <translation>Den Versuch aus diesem Reiter nehmen oder entfernen, was das Material aufbewahrt</translation>
+    </message>
+    <message>
+        <source>Take the test out of this tab</source>
+        <translation>Den Versuch aus diesem Reiter nehmen</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; from this tab</source>
+        <translation>Versuch „%1“ aus diesem Reiter</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; from the material &quot;%2&quot;</source>
+        <translation>Versuch „%1“ aus dem Material „%2“</translation>
+    </message>
+    <message>
+        <source>All tests and records of fits from the material &quot;%1&quot;</source>
+        <translation>Alle Versuche und Aufzeichnungen von Anpassungen aus dem Material „%1“</translation>
+    </message>
+    <message>
+        <source>Remove test &quot;%1&quot; from &quot;%2&quot;</source>
+        <translation>Versuch „%1“ aus „%2“ entfernen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not keep the test &quot;%2&quot; any more. Undo brings it back.</source>
+        <translation>„%1“ bewahrt den Versuch „%2“ nicht mehr auf. „Rückgängig“ bringt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>Remove tests and fits from &quot;%1&quot;</source>
+        <translation>Versuche und Anpassungen aus „%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; keeps no tests any more. Undo brings them back.</source>
+        <translation>„%1“ bewahrt keine Versuche mehr auf. „Rückgängig“ bringt sie zurück.</translation>
     </message>
 </context>
 <context>
@@ -5246,6 +5396,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>The check of materials then reports that D1 is missing.</source>
         <translation>Die Materialprüfung meldet danach, dass D1 fehlt.</translation>
+    </message>
+    <message>
+        <source>none: incompressible</source>
+        <translation>keines: inkompressibel</translation>
     </message>
 </context>
 <context>
@@ -5859,6 +6013,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>%1: unstable</source>
         <translation>%1: instabil</translation>
+    </message>
+    <message>
+        <source>%1 (not measured)</source>
+        <translation>%1 (nicht gemessen)</translation>
     </message>
 </context>
 <context>

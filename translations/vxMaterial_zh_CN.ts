@@ -971,6 +971,14 @@ Do you want to continue?</source>
         <source>Write the materials in the input format of a solver</source>
         <translation>按求解器的输入格式写出材料</translation>
     </message>
+    <message>
+        <source>no material project is open</source>
+        <translation>没有打开的材料项目</translation>
+    </message>
+    <message>
+        <source>the project has no materials</source>
+        <translation>项目没有材料</translation>
+    </message>
 </context>
 <context>
     <name>MaterialFilter</name>
@@ -3630,6 +3638,18 @@ Delete anyway?</source>
         <source>Column &quot;%1&quot; has the stress %2 Pa, but %3 Pa is given and used.</source>
         <translation>列“%1”的应力为%2 Pa，但给定并使用的是%3 Pa。</translation>
     </message>
+    <message>
+        <source>Young&apos;s modulus of the first part of the curve is %1 Pa. It differs by %3 % from the given %2 Pa, with which the elastic part is taken off.</source>
+        <translation>曲线起始段的杨氏模量为%1 Pa，与给定的%2 Pa相差%3 %。扣除弹性部分时使用给定值。</translation>
+    </message>
+    <message>
+        <source>The residual is less than that of %1 (%3 instead of %2), but not by so much that %5 free constants are better than %4.</source>
+        <translation>残差小于%1（%3，而非%2），但减小的幅度不足以说明%5个自由常数优于%4个。</translation>
+    </message>
+    <message>
+        <source>The residual is less than that of %1 (%3 instead of %2), but the data do not determine all constants well, or the model is not as stable as requested.</source>
+        <translation>残差小于%1（%3，而非%2），但数据不能很好地确定所有常数，或者模型未达到要求的稳定性。</translation>
+    </message>
 </context>
 <context>
     <name>vxConstitutive::Word</name>
@@ -4003,6 +4023,37 @@ Delete anyway?</source>
     <message>
         <source>Inspector</source>
         <translation>检查器</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::AppliedText</name>
+    <message>
+        <source>%1: %2 values</source>
+        <translation>%1：%2 个值</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%1 = %2</translation>
+    </message>
+    <message>
+        <source>The tests are not kept.</source>
+        <translation>试验未保存。</translation>
+    </message>
+    <message>
+        <source>Kept tests: %1.</source>
+        <translation>保存的试验：%1。</translation>
+    </message>
+    <message>
+        <source>Written to the table of &quot;%1&quot;, which is not applied yet: %2.</source>
+        <translation>已写入“%1”的表格（尚未应用）：%2。</translation>
+    </message>
+    <message>
+        <source>Written to &quot;%1&quot;: %2.</source>
+        <translation>已写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>Removed: %1.</source>
+        <translation>已移除：%1。</translation>
     </message>
 </context>
 <context>
@@ -4540,70 +4591,6 @@ Delete anyway?</source>
         <translation>无法应用常数</translation>
     </message>
     <message>
-        <source>Column</source>
-        <translation>列</translation>
-    </message>
-    <message>
-        <source>Measured quantity</source>
-        <translation>测量的量</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>单位</translation>
-    </message>
-    <message>
-        <source>The column of the file</source>
-        <translation>文件中的列</translation>
-    </message>
-    <message>
-        <source>What the column measures</source>
-        <translation>该列测量的量</translation>
-    </message>
-    <message>
-        <source>The unit of the column, such as MPa or %</source>
-        <translation>该列的单位，例如 MPa 或 %</translation>
-    </message>
-    <message>
-        <source>&amp;Load…</source>
-        <translation>加载(&amp;L)…</translation>
-    </message>
-    <message>
-        <source>Load test data from a file with columns of numbers</source>
-        <translation>从含数字列的文件加载试验数据</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>粘贴(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Take columns of numbers from the clipboard</source>
-        <translation>从剪贴板获取数字列</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>移除(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Test:</source>
-        <translation>试验(&amp;T)：</translation>
-    </message>
-    <message>
-        <source>Hori&amp;zontal:</source>
-        <translation>水平(&amp;Z)：</translation>
-    </message>
-    <message>
-        <source>&amp;Vertical:</source>
-        <translation>垂直(&amp;V)：</translation>
-    </message>
-    <message>
-        <source>&amp;Stress:</source>
-        <translation>应力(&amp;S)：</translation>
-    </message>
-    <message>
-        <source>&amp;Weight:</source>
-        <translation>权重(&amp;W)：</translation>
-    </message>
-    <message>
         <source>F&amp;it</source>
         <translation>拟合(&amp;I)</translation>
     </message>
@@ -4612,52 +4599,12 @@ Delete anyway?</source>
         <translation>取消(&amp;C)</translation>
     </message>
     <message>
-        <source>Tests</source>
-        <translation>试验</translation>
-    </message>
-    <message>
-        <source>Fitted models</source>
-        <translation>已拟合的模型</translation>
-    </message>
-    <message>
-        <source>Constants of the model</source>
-        <translation>模型的常数</translation>
-    </message>
-    <message>
-        <source>Choose the test</source>
-        <translation>选择试验</translation>
-    </message>
-    <message>
-        <source>Load test data</source>
-        <translation>加载试验数据</translation>
-    </message>
-    <message>
-        <source>Test data (*.csv *.txt *.dat *.tsv);;All files (*)</source>
-        <translation>试验数据 (*.csv *.txt *.dat *.tsv);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; cannot be read: %2</source>
         <translation>无法读取文件“%1”：%2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is larger than 200 MB and is not read.</source>
         <translation>文件“%1”大于 200 MB，未读取。</translation>
-    </message>
-    <message>
-        <source>Test %1</source>
-        <translation>试验 %1</translation>
-    </message>
-    <message>
-        <source> Pa</source>
-        <translation> Pa</translation>
-    </message>
-    <message>
-        <source>by its header</source>
-        <translation>按标题</translation>
-    </message>
-    <message>
-        <source>Column %1</source>
-        <translation>第 %1 列</translation>
     </message>
     <message>
         <source>The result of the fit cannot be shown</source>
@@ -4820,6 +4767,13 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxInspector::FitTests</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>无法使用试验数据</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::Inspector</name>
     <message>
         <source>The inspector cannot be updated</source>
@@ -4898,6 +4852,10 @@ Delete anyway?</source>
         <source>The tests cannot be written: %1.</source>
         <translation>无法写入试验：%1。</translation>
     </message>
+    <message>
+        <source>The kept tests cannot be read</source>
+        <translation>无法读取保存的试验</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::LoadedTest</name>
@@ -4956,6 +4914,41 @@ Delete anyway?</source>
     <message>
         <source>The test is being read.</source>
         <translation>正在读取试验。</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::ModulusChoice</name>
+    <message>
+        <source>&amp;Modulus:</source>
+        <translation>模量(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>The Young&apos;s modulus with which the elastic part is taken off the measured strain</source>
+        <translation>用于从测得的应变中减去弹性部分的杨氏模量</translation>
+    </message>
+    <message>
+        <source>of the curve: %1</source>
+        <translation>曲线的：%1</translation>
+    </message>
+    <message>
+        <source>of the material: %1</source>
+        <translation>材料的：%1</translation>
+    </message>
+    <message>
+        <source>The elastic part is taken off with Young&apos;s modulus %1 (%3 beside the material). The material keeps its %2.</source>
+        <translation>弹性部分用杨氏模量 %1 减去（与材料相比 %3）。材料保留其 %2。</translation>
+    </message>
+    <message>
+        <source>Young&apos;s modulus is %1 by the curve and %2 in the material (%3).</source>
+        <translation>杨氏模量按曲线为 %1，材料中为 %2（%3）。</translation>
+    </message>
+    <message>
+        <source>Unless you choose otherwise, the elastic part is taken off with that of the curve, and &quot;Apply&quot; writes it.</source>
+        <translation>除非您另作选择，弹性部分用曲线的杨氏模量减去，“应用”会写入它。</translation>
+    </message>
+    <message>
+        <source>The elastic part is taken off with that of the material, which keeps it.</source>
+        <translation>弹性部分用材料的杨氏模量减去，材料保留该值。</translation>
     </message>
 </context>
 <context>
@@ -5080,6 +5073,17 @@ Delete anyway?</source>
     </message>
 </context>
 <context>
+    <name>vxInspector::ResultPanel</name>
+    <message>
+        <source>Fitted models</source>
+        <translation>已拟合的模型</translation>
+    </message>
+    <message>
+        <source>Constants of the model</source>
+        <translation>模型的常数</translation>
+    </message>
+</context>
+<context>
     <name>vxInspector::TabContents</name>
     <message>
         <source>The project has no materials yet.</source>
@@ -5151,6 +5155,152 @@ Delete anyway?</source>
     <message>
         <source>the file %1 is missing</source>
         <translation>缺少文件 %1</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::TestForm</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>无法使用试验数据</translation>
+    </message>
+    <message>
+        <source>&amp;Test:</source>
+        <translation>试验(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Hori&amp;zontal:</source>
+        <translation>水平(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical:</source>
+        <translation>垂直(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>&amp;Stress:</source>
+        <translation>应力(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>权重(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>Choose the test</source>
+        <translation>选择试验</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Measured quantity</source>
+        <translation>测量的量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>The column of the file</source>
+        <translation>文件中的列</translation>
+    </message>
+    <message>
+        <source>What the column measures</source>
+        <translation>该列测量的量</translation>
+    </message>
+    <message>
+        <source>The unit of the column, such as MPa or %</source>
+        <translation>该列的单位，例如 MPa 或 %</translation>
+    </message>
+    <message>
+        <source> Pa</source>
+        <translation> Pa</translation>
+    </message>
+    <message>
+        <source>by its header</source>
+        <translation>按标题</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>第 %1 列</translation>
+    </message>
+</context>
+<context>
+    <name>vxInspector::TestPanel</name>
+    <message>
+        <source>The test data cannot be used</source>
+        <translation>无法使用试验数据</translation>
+    </message>
+    <message>
+        <source>&amp;Load…</source>
+        <translation>加载(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Load test data from a file with columns of numbers</source>
+        <translation>从含数字列的文件加载试验数据</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Take columns of numbers from the clipboard</source>
+        <translation>从剪贴板获取数字列</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation>试验</translation>
+    </message>
+    <message>
+        <source>Load test data</source>
+        <translation>加载试验数据</translation>
+    </message>
+    <message>
+        <source>Test data (*.csv *.txt *.dat *.tsv);;All files (*)</source>
+        <translation>试验数据 (*.csv *.txt *.dat *.tsv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Test %1</source>
+        <translation>试验 %1</translation>
+    </message>
+    <message>
+        <source>Take the test out of this tab, or remove what the material keeps</source>
+        <translation>将试验从该选项卡中取出，或移除材料保存的内容</translation>
+    </message>
+    <message>
+        <source>Take the test out of this tab</source>
+        <translation>将试验从该选项卡中取出</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; from this tab</source>
+        <translation>从该选项卡移除试验“%1”</translation>
+    </message>
+    <message>
+        <source>Test &quot;%1&quot; from the material &quot;%2&quot;</source>
+        <translation>从材料“%2”移除试验“%1”</translation>
+    </message>
+    <message>
+        <source>All tests and records of fits from the material &quot;%1&quot;</source>
+        <translation>从材料“%1”移除所有试验和拟合记录</translation>
+    </message>
+    <message>
+        <source>Remove test &quot;%1&quot; from &quot;%2&quot;</source>
+        <translation>从“%2”移除试验“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not keep the test &quot;%2&quot; any more. Undo brings it back.</source>
+        <translation>“%1”不再保存试验“%2”。撤销可将其恢复。</translation>
+    </message>
+    <message>
+        <source>Remove tests and fits from &quot;%1&quot;</source>
+        <translation>从“%1”移除试验和拟合</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; keeps no tests any more. Undo brings them back.</source>
+        <translation>“%1”不再保存任何试验。撤销可将其恢复。</translation>
     </message>
 </context>
 <context>
@@ -5245,6 +5395,10 @@ Delete anyway?</source>
     <message>
         <source>The check of materials then reports that D1 is missing.</source>
         <translation>材料检查随后会报告缺少 D1。</translation>
+    </message>
+    <message>
+        <source>none: incompressible</source>
+        <translation>无：不可压缩</translation>
     </message>
 </context>
 <context>
@@ -5858,6 +6012,10 @@ Delete anyway?</source>
     <message>
         <source>%1: unstable</source>
         <translation>%1：不稳定</translation>
+    </message>
+    <message>
+        <source>%1 (not measured)</source>
+        <translation>%1（未测量）</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,7 @@ struct Finding
     vxUnits::Message message;
     std::string card;     ///< "*ELASTIC"
     std::size_t line = 0; ///< of the card, from 1; 0 if the format has no lines
+    std::int32_t id = 0;  ///< vxMat::PropertyId of the quantity
 };
 
 /// Returns the line, the card and the message: "line 3, *DENSITY: Density = -1 is not possible; the value must be above 0". In

@@ -189,7 +189,7 @@ std::vector<Finding> MaterialReading::findings() const
 {
     std::vector<Finding> all;
     for (ValueFault& fault : findImpossibleValues(*m_material)) {
-        Finding finding{std::move(fault.message), findMapping(m_format, fault.id)->card, 0};
+        Finding finding{std::move(fault.message), findMapping(m_format, fault.id)->card, 0, fault.id};
         if (const auto form = m_forms.find(fault.id); form != m_forms.end() && !form->second.card.empty()) {
             finding.card = form->second.card;
             finding.line = form->second.line;

@@ -28,6 +28,7 @@ Json::Value toJson(const Finding& finding)
     Json::Value json;
     json["id"] = finding.message.id;
     json["text"] = finding.message.text();
+    json["key"] = vxMat::findPropertyRecord(finding.id)->key;
     json["card"] = finding.card;
     json["line"] = finding.line == 0 ? Json::Value() : Json::Value(static_cast<Json::UInt64>(finding.line));
     return json;

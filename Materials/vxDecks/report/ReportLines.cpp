@@ -60,7 +60,7 @@ struct Part
     Kind kind = Kind::Note;
     std::string quantity; ///< empty if the part is not about one
     std::string text;     ///< the reason; may be empty
-    std::string ids;      ///< of the messages in the text
+    std::string ids;      ///< of the messages in the text; parts with the same ones may share a line
 };
 
 std::vector<Part> partsOf(const MaterialReport& material, const Translator& translator)
@@ -69,7 +69,8 @@ std::vector<Part> partsOf(const MaterialReport& material, const Translator& tran
     for (const Message& note : material.notes)
         parts.push_back({Kind::Note, {}, note.text(translator), note.id});
     for (const Finding& finding : material.findings)
-        parts.push_back({Kind::Finding, {}, textOf(finding, translator), finding.message.id});
+        parts.push_back(
+            {Kind::Finding, {}, textOf(finding, translator), finding.message.id + (";" + std::to_string(finding.id))});
     for (const ReportRow& row : material.rows)
         parts.push_back({kindOf(row.outcome), row.name, joined(row.how, translator), idsOf(row.how)});
     return parts;

@@ -270,6 +270,19 @@ TEST(CalculixReading, TellsImpossibleValuesWithTheirLineAndCard)
                 testing::IsEmpty());
 }
 
+TEST(CalculixReading, TellsTheFindingsOfManyMaterialsByQuantity)
+{
+    std::string text;
+    for (int i = 0; i < 12; ++i)
+        text += "*MATERIAL, NAME=A\n*DENSITY\n-1.\n*ELASTIC\n2.e5, 0.5\n";
+    EXPECT_THAT(toLines(readText(Format::Calculix, text, "SI").report),
+                testing::IsSupersetOf(
+                    {"12 materials (A, A, A, ...): for example A: line 2, *DENSITY: Density = -1 is not possible; the "
+                     "value must be above 0",
+                     "12 materials (A, A, A, ...): for example A: line 4, *ELASTIC: Poisson's ratio = 0.5 is not "
+                     "possible; the value must be above -1 and below 0.5"}));
+}
+
 TEST(CalculixReading, HasItsFindingsInJson)
 {
     const Json::Value json =
@@ -277,6 +290,7 @@ TEST(CalculixReading, HasItsFindingsInJson)
     ASSERT_EQ(json["findings"].size(), 1U);
     EXPECT_EQ(json["findings"][0]["line"].asUInt(), 2U);
     EXPECT_EQ(json["findings"][0]["card"], "*DENSITY");
+    EXPECT_EQ(json["findings"][0]["key"], "rho");
     EXPECT_EQ(json["findings"][0]["id"], "decks.value-outside");
     EXPECT_EQ(json["findings"][0]["text"], "Density = -1 is not possible; the value must be above 0");
 }

@@ -402,9 +402,9 @@ TEST_F(DeckCards, SayWhatTheSolverDoesNotTake)
 
 TEST_F(DeckCards, FollowTheFormOfTheFormat)
 {
-    auto& forms = *tabs().findChild<QComboBox*>(QStringLiteral("cardForms"));
     select({&addMaterial(newProject())});
     turnTo(Cards);
+    auto& forms = *tabs().findChild<QComboBox*>(QStringLiteral("cardForms"));
     EXPECT_FALSE(forms.isVisible());
     choose("Nastran");
     EXPECT_TRUE(forms.isVisible());

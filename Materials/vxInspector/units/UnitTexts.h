@@ -14,7 +14,7 @@ namespace vxInspector {
 /// typed is quoted as it was typed, even if it is such a name.
 QString translated(const vxUnits::Message& message);
 QString translated(const vxUnits::Failure& failure); ///< with the suggestion
-QString translated(const vxUnits::Doubt& doubt); ///< with the remedy
+QString translated(const vxUnits::Doubt& doubt);     ///< with the remedy
 
 /// Translates a text of a message, or the name of a quantity in it (vxUnits::Translator).
 std::string translateWithNames(const char* context, const char* english);

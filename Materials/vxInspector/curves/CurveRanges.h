@@ -1,19 +1,12 @@
 #pragma once
 
 #include "vxConstitutive/Curve.h"
-#include "vxConstitutive/Model.h"
 #include "vxMaterial/model/Material.h"
 #include "vxPlot/PlotData.h"
 
 #include <vector>
 
 namespace vxInspector {
-
-/// The part of the horizontal axis that shows what is typical of a model in a mode, in SI units: up to the rows of a
-/// hardening table, to the necking of a bar, to the limit of the chains, around the relaxation time. `material` holds
-/// the constants of the model.
-vxConstitutive::Range usualRange(const vxConstitutive::Model& model, vxConstitutive::Mode mode,
-                                 const vxMat::MaterialBase& material);
 
 /// Whether the curves of a mode are usually drawn on logarithmic axes.
 struct UsualScales

@@ -6,6 +6,7 @@
 #include "values/ValueTable.h"
 #include "values/ValueText.h"
 #include "vxConstitutive/MaterialModels.h"
+#include "vxConstitutive/UsualRange.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxPlot/CurvePlot.h"
 
@@ -128,7 +129,7 @@ private:
         const auto include = [&all](const Range& one) { all = all ? united(*all, one) : one; };
         forEachCurve([this, &include](const Modelled& modelled, const Model& model, Mode mode) {
             m_ranges.push_back(isRubber(model) ? rangeByTests(modelled, mode) : std::nullopt);
-            include(m_ranges.back().value_or(usualRange(model, mode, *modelled.inspected.material)));
+            include(m_ranges.back().value_or(vxConstitutive::usualRange(model, mode, *modelled.inspected.material)));
         });
         for (const vxPlot::NamedTest& named : m_tests)
             if (const auto range = rangeOf(*named.test))

@@ -1,7 +1,9 @@
 #include "findings/FindingTable.h"
 
+#include "curves/ConstitutiveTexts.h"
 #include "findings/Remedying.h"
 #include "values/ValueText.h"
+#include "vxConstitutive/ModelDoubts.h"
 #include "vxInspector/units/UnitTexts.h"
 #include "vxMaterial/gui/FindingText.h"
 #include "vxMaterial/model/MaterialCheck.h"
@@ -28,8 +30,9 @@ QString tr(const char* text)
 class Findings
 {
 public:
-    Findings(const InspectedMaterial& inspected, const vxUnits::UnitSystem& system)
-        : m_inspected(inspected), m_system(system)
+    /// The models are not examined if `cache` is null.
+    Findings(const InspectedMaterial& inspected, const vxUnits::UnitSystem& system, CurveCache* cache)
+        : m_inspected(inspected), m_system(system), m_cache(cache)
     {}
 
     std::vector<Row> rows() const
@@ -47,10 +50,22 @@ public:
         for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(m_inspected.values, m_system))
             if (doubt.remedy || doubt.severity != vxUnits::Severity::Impossible || wrong.count(doubt.id) == 0)
                 all.push_back(doubtRow(doubt)); // otherwise an error says the same
+        for (const vxConstitutive::ModelDoubt& doubt : modelDoubts())
+            if (wrong.count(doubt.propertyId) == 0)
+                all.push_back(row(tr("Doubt"), idIn(doubt.propertyId), translated(doubt.finding, m_system)));
         return all;
     }
 
 private:
+    std::vector<vxConstitutive::ModelDoubt> modelDoubts() const
+    {
+        if (m_cache == nullptr)
+            return {};
+        const vxMat::MaterialBase& material = *m_inspected.material;
+        return vxConstitutive::doubtsAboutModels(
+            material, [&](const auto& model, const auto& request) { return m_cache->curve(material, model, request); });
+    }
+
     /// Returns whether a finding says that a quantity is missing whose row cannot be read, which is a finding already.
     bool missesUnread(const vxMat::MaterialFinding& finding) const
     {
@@ -104,16 +119,26 @@ private:
 
     const InspectedMaterial& m_inspected;
     const vxUnits::UnitSystem& m_system;
+    CurveCache* m_cache;
 };
 
 } // namespace
 
 TableContent findingTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system)
 {
+    CurveCache none;
+    return findingTable(materials, system, none);
+}
+
+TableContent findingTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system,
+                          CurveCache& cache)
+{
+    cache.begin();
     TableContent table{{}, {tr("Kind"), tr("Finding"), tr("Remedy"), tr("Material")}, {}};
     std::size_t more = 0;
+    std::size_t seen = 0;
     for (const InspectedMaterial& inspected : materials)
-        for (Row& row : Findings(inspected, system).rows())
+        for (Row& row : Findings(inspected, system, seen++ < mostExamined ? &cache : nullptr).rows())
             if (table.rows.size() < mostFindings)
                 table.rows.push_back(std::move(row));
             else
@@ -123,6 +148,9 @@ TableContent findingTable(const std::vector<InspectedMaterial>& materials, const
     table.sentence = table.rows.empty() ? tr("Nothing is found.") : tr("Findings: %1.").arg(table.rows.size() + more);
     if (more != 0)
         table.sentence += QLatin1Char(' ') + tr("The last %1 are not listed.").arg(more);
+    if (materials.size() > mostExamined)
+        table.sentence +=
+            QLatin1Char(' ') + tr("Only the models of the first %1 materials are examined.").arg(mostExamined);
     return table;
 }
 

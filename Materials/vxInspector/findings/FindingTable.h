@@ -1,5 +1,6 @@
 #pragma once
 
+#include "curves/CurveCache.h"
 #include "subject/InspectedMaterial.h"
 #include "table/TableContent.h"
 #include "vxUnits/UnitSystem.h"
@@ -21,8 +22,14 @@ struct FindingColumn
 /// The number of findings in a table. Further ones are counted.
 inline constexpr std::size_t mostFindings = 1000;
 
-/// Returns the errors and warnings of the check, the rows that cannot be read, and the doubts about the values, with their
-/// numbers in a unit system.
+/// The number of materials whose models are examined: the curves of rubbers take longer than the other findings.
+inline constexpr std::size_t mostExamined = 10;
+
+/// Returns the errors and warnings of the check, the rows that cannot be read, the doubts about the values, and those about
+/// the models of the first materials, with their numbers in a unit system. Takes curves of unchanged materials from a cache.
+TableContent findingTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system,
+                          CurveCache& cache);
+/// Does the same without a cache.
 TableContent findingTable(const std::vector<InspectedMaterial>& materials, const vxUnits::UnitSystem& system);
 
 /// Gives the rows of a table of values that have findings a sign, and their names a tool tip with the findings.

@@ -150,7 +150,8 @@ TableContent Inspector::findFindings(const Subject& subject, const vxUnits::Unit
     constexpr std::size_t mostCounted = 10;
     const bool isShown = m_tabs->currentWidget() == m_findings;
     const bool isCounted = isShown || subject.materials.size() <= mostCounted;
-    TableContent findings = findingsTab(subject, system, isShown ? mostChecked : isCounted ? mostCounted : 1);
+    const std::size_t most = isShown ? mostChecked : isCounted ? mostCounted : 1;
+    TableContent findings = findingsTab(subject, system, most, m_findingCurves);
     setFindingsTitle(isCounted ? findings.rows.size() : 0);
     return findings;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "curves/CurveCache.h"
 #include "measured/KeptMeasurements.h"
 #include "vxUnits/UnitSystem.h"
 
@@ -51,6 +52,7 @@ private:
 
     SubjectWatch& m_watch;
     MeasurementsCache m_measurements; ///< before the pages that use it
+    CurveCache m_findingCurves;       ///< in which the findings look for instabilities
     QLabel* m_unitsLabel;
     QComboBox* m_systems;
     InspectorTabs* m_tabs;

@@ -97,11 +97,11 @@ TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system
     return table;
 }
 
-TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most)
+TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most, CurveCache& cache)
 {
     if (subject.materials.empty())
         return {emptySentence(subject), {}, {}};
-    TableContent table = findingTable(inspectFirst(subject, most), system);
+    TableContent table = findingTable(inspectFirst(subject, most), system, cache);
     tellLimit(table, subject, most,
               QT_TRANSLATE_NOOP("vxInspector::TabContents", "Only the first %1 of %2 materials are checked."));
     return table;

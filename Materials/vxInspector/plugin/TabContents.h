@@ -17,8 +17,10 @@ inline constexpr std::size_t mostChecked = 200;
 /// Returns the values of the first material, with a sign for each one that has findings; for a project the numbers of its
 /// materials. `findings` are those of the first material or of more.
 TableContent valuesTab(const Subject& subject, const vxUnits::UnitSystem& system, const TableContent& findings);
-/// Returns the findings of the first materials, at most `most`, in a unit system.
-TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most = mostChecked);
+/// Returns the findings of the first materials, at most `most`, in a unit system. Takes curves of unchanged materials from a
+/// cache.
+TableContent findingsTab(const Subject& subject, const vxUnits::UnitSystem& system, std::size_t most,
+                         CurveCache& cache);
 /// Returns the cards of the first material: as a deck in a form of a format and a unit system, or those that the
 /// solver of the program gets if there is no form.
 TableContent cardsTab(const Subject& subject, const std::optional<DeckForm>& form, const vxUnits::UnitSystem& system);

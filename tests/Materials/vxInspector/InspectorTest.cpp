@@ -27,6 +27,8 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
+#include <memory>
 
 namespace {
 
@@ -319,6 +321,29 @@ TEST_F(Inspector, LeadsFromAFindingToItsRowByAClickAndByReturn)
     QTest::keyClick(&view(Findings), Qt::Key_Return);
     EXPECT_EQ(table.currentIndex().row(), table.findRow(Id::YoungsModulus));
     EXPECT_TRUE(table.hasFocus());
+}
+
+TEST_F(Inspector, DoubtsAModelWhileItsConstantIsTypedAndLeadsToItsRow)
+{
+    Mat::MaterialObject& rubber = addMaterial(newProject());
+    rubber.getCMaterial()->clearProperties();
+    for (const auto& [id, number] : std::map<std::int32_t, double>{{Id::Density, 1100.0},
+                                                                   {Id::NeoHooke, 1.0},
+                                                                   {Id::MaterialConstantC10, 5e5},
+                                                                   {Id::InitialShearModulusMu, 1e6},
+                                                                   {Id::IncompressibilityParameterD1, 1e-9}})
+        rubber.getCMaterial()->setProperty(id, std::make_unique<vxMat::MaterialProperty>(id, "", "", number));
+    MatGui::MaterialView& editor = edit(rubber);
+    turnTo(Findings);
+    EXPECT_EQ(tabs().tabText(Findings), "Findings");
+    startTyping(editor, Id::InitialShearModulusMu, "3e6");
+    EXPECT_TRUE(waitFor([this] { return tabs().tabText(Findings) == QLatin1String("Findings (1)"); }));
+    const int row = findRow(Findings, "Doubt");
+    EXPECT_THAT(cell(Findings, row, FindingColumn::Finding),
+                HasSubstr("C10 is 500000 Pa, but half of Mu is 1.5e+06 Pa"));
+    click(Findings, row, FindingColumn::Finding);
+    MatGui::SheetTableView& table = tableOf(editor);
+    EXPECT_EQ(table.currentIndex().row(), table.findRow(Id::MaterialConstantC10));
 }
 
 TEST_F(Inspector, ShowsTheCardsOfTypedText)

@@ -14,8 +14,10 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace {
 
@@ -431,6 +433,59 @@ TEST(FindingTable, SaysOnceThatANumberIsNotFinite)
     const TableContent table = findingTable(all, UnitSystem::si());
     ASSERT_EQ(table.rows.size(), 1U);
     EXPECT_EQ(textsOf(table, 0)[0], "Error");
+}
+
+/// Returns a Neo-Hookean rubber whose C10 and Mu contradict each other, with numbers in SI.
+InspectedMaterial doubtfulRubber()
+{
+    InspectedMaterial rubber;
+    rubber.objectId = 7;
+    rubber.label = QStringLiteral("Seal");
+    rubber.material = std::make_unique<vxMat::CMaterial>();
+    for (const auto& [id, number] : std::map<std::int32_t, double>{{Id::Density, 1100.0},
+                                                                   {Id::NeoHooke, 1.0},
+                                                                   {Id::MaterialConstantC10, 5e5},
+                                                                   {Id::InitialShearModulusMu, 3e6},
+                                                                   {Id::IncompressibilityParameterD1, 1e-9}})
+        rubber.material->setProperty(id, std::make_unique<vxMat::MaterialProperty>(id, "", "", number));
+    rubber.values = vxUnits::MaterialValues(*rubber.material);
+    return rubber;
+}
+
+TEST(FindingTable, HasTheDoubtsAboutModelsInTheUnitSystemWithTheirRows)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(doubtfulRubber());
+    const TableContent table = findingTable(all, system("mm-t-s"));
+    ASSERT_EQ(table.rows.size(), 1U) << table.sentence.toStdString();
+    EXPECT_EQ(textsOf(table, 0)[0], "Doubt");
+    EXPECT_EQ(textsOf(table, 0)[1],
+              "C10 is 0.5 MPa, but half of Mu is 1.5 MPa. The curve uses C10. Remove one of the two constants.");
+    EXPECT_EQ(table.rows[0].place.propertyId, Id::MaterialConstantC10);
+    EXPECT_EQ(table.sentence, "Findings: 1.");
+}
+
+TEST(FindingTable, ExaminesTheModelsOfTheFirstMaterialsOnly)
+{
+    std::vector<InspectedMaterial> all(vxInspector::mostExamined + 1);
+    for (InspectedMaterial& one : all)
+        one = doubtfulRubber();
+    const TableContent table = findingTable(all, UnitSystem::si());
+    EXPECT_EQ(table.rows.size(), vxInspector::mostExamined);
+    EXPECT_EQ(table.sentence, "Findings: 10. Only the models of the first 10 materials are examined.");
+}
+
+TEST(FindingTable, HasTheFirstUnstableStretchOfEachTest)
+{
+    std::vector<InspectedMaterial> all;
+    all.push_back(inspected<vxMat::Elastomer1>("Pad"));
+    const TableContent table = findingTable(all, UnitSystem::si());
+    const auto isUnstable = [](const vxInspector::Row& row) {
+        return row.place.propertyId == Id::IncompressibilityParameterD1 &&
+               row.cells[vxInspector::FindingColumn::Finding].copied().contains(
+                   QStringLiteral("the material is unstable below the stretch "));
+    };
+    EXPECT_EQ(std::count_if(table.rows.begin(), table.rows.end(), isUnstable), 3);
 }
 
 TEST(FindingTable, SaysThatNothingIsFound)

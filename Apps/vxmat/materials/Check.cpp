@@ -4,6 +4,7 @@
 #include "materials/ProjectFindings.h"
 #include "program/Files.h"
 #include "units/ChosenUnits.h"
+#include "vxConstitutive/ModelDoubts.h"
 #include "vxMaterial/exchange/DocumentCheck.h"
 #include "vxMaterial/model/MaterialCheck.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
@@ -36,9 +37,13 @@ struct MaterialDoubt
 {
     std::uint32_t number;
     std::string label;
-    vxUnits::Doubt doubt;
-    double value; ///< in `unit`
-    std::string unit;
+    std::int32_t id;
+    std::string message;
+    std::string text;                 ///< the message, with the remedy if there is one
+    std::optional<double> value = {}; ///< in `unit`; absent if a model is doubted
+    std::string unit = {};
+    bool isImpossible = false;
+    std::optional<std::string> remedy = {};
 };
 
 /// The doubts about the materials of a file: the first of them, and the number of the others.
@@ -61,25 +66,38 @@ std::set<std::int32_t> slotsWithErrors(const vxMat::MaterialBase& material)
     return slots;
 }
 
-MaterialDoubt doubtAbout(const FileMaterial& material, vxUnits::Doubt doubt, const ChosenUnits& units)
+MaterialDoubt doubtAbout(const FileMaterial& material, const vxUnits::Doubt& doubt, const ChosenUnits& units)
 {
     const vxMat::MaterialBase& values = *material.entry->material;
     const auto unit = vxUnits::unitOfQuantity(doubt.id, units.system(), vxUnits::creepExponents(values));
-    const double value = units.convert(doubt.value, doubt.id, values);
-    return {material.number, material.label, std::move(doubt), value, unit ? textOf(*unit) : std::string()};
+    MaterialDoubt made{material.number, material.label, doubt.id, doubt.message.text(), doubt.text()};
+    made.value = units.convert(doubt.value, doubt.id, values);
+    made.unit = unit ? textOf(*unit) : std::string();
+    made.isImpossible = doubt.severity == vxUnits::Severity::Impossible;
+    if (doubt.remedy)
+        made.remedy = doubt.remedy->message.text();
+    return made;
 }
 
-/// Adds the doubts about a material. A doubt about a value that is an error already is only added if it has a remedy.
+/// Adds the doubts about a material, first those about values, then those about its models. A doubt about a value that is an
+/// error already is only added if it has a remedy.
 void addDoubts(const FileMaterial& material, const ChosenUnits& units, MaterialDoubts& doubts)
 {
-    const std::set<std::int32_t> errors = slotsWithErrors(*material.entry->material);
-    for (vxUnits::Doubt& doubt : vxUnits::checkPlausibility(*material.entry->material, units.system())) {
-        if (!doubt.remedy && errors.count(doubt.id) != 0)
-            continue;
+    const auto add = [&doubts](MaterialDoubt doubt) {
         if (doubts.list.size() < vxCAE::mostFindings)
-            doubts.list.push_back(doubtAbout(material, std::move(doubt), units));
+            doubts.list.push_back(std::move(doubt));
         else
             ++doubts.omitted;
+    };
+    const vxMat::MaterialBase& values = *material.entry->material;
+    const std::set<std::int32_t> errors = slotsWithErrors(values);
+    for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(values, units.system()))
+        if (doubt.remedy || errors.count(doubt.id) == 0)
+            add(doubtAbout(material, doubt, units));
+    for (const vxConstitutive::ModelDoubt& doubt : vxConstitutive::doubtsAboutModels(values)) {
+        const std::string text = describe(doubt.finding, {}, units.system());
+        if (errors.count(doubt.propertyId) == 0)
+            add({material.number, material.label, doubt.propertyId, text, text});
     }
 }
 
@@ -109,13 +127,13 @@ Json::Value toJson(const std::vector<MaterialDoubt>& doubts)
         Json::Value json;
         json["number"] = one.number;
         json["material"] = one.label;
-        json["id"] = one.doubt.id;
-        json["quantity"] = vxMat::findPropertyRecord(one.doubt.id)->name;
-        json["value"] = toJsonNumber(one.value);
+        json["id"] = one.id;
+        json["quantity"] = vxMat::findPropertyRecord(one.id)->name;
+        json["value"] = one.value ? toJsonNumber(*one.value) : Json::Value();
         json["unit"] = one.unit;
-        json["message"] = one.doubt.message.text();
-        json["impossible"] = one.doubt.severity == vxUnits::Severity::Impossible;
-        json["remedy"] = one.doubt.remedy ? Json::Value(one.doubt.remedy->message.text()) : Json::Value();
+        json["message"] = one.message;
+        json["impossible"] = one.isImpossible;
+        json["remedy"] = one.remedy ? Json::Value(*one.remedy) : Json::Value();
         list.append(std::move(json));
     }
     return list;
@@ -170,7 +188,7 @@ Answer checkFile(const std::string& path, const std::optional<std::string>& mate
         answer.text += path + ": " + printable(finding.path) + ": " + printable(finding.message) + "\n";
     for (const MaterialDoubt& one : doubts.list) {
         answer.text += path + ": doubt: " + std::to_string(one.number) + " " + printable(one.label) + ": " +
-                       printable(one.doubt.text()) + "\n";
+                       printable(one.text) + "\n";
     }
     for (const vxCAE::Finding& note : report.notes)
         answer.messages.push_back(path + ": note: " + note.path + ": " + note.message);

@@ -18,7 +18,7 @@ enum class Strictness
 
 /// `vxmat check FILE`: prints the errors in a document or project, one line each with its JSON path. `materialsPath` is
 /// the material document or project that belongs to an analysis document; absent if there is none. Doubts about the values
-/// of materials follow, if the materials can be read, with their numbers in `units`, or in the unit system of the project
+/// and models of materials follow, if the materials can be read, with their numbers in `units`, or in the unit system of the project
 /// if none is given. They are no errors, but with Strictness::Doubts the status is Findings for them too.
 /// \throws Failure if a file cannot be read
 Answer checkFile(const std::string& path, const std::optional<std::string>& materialsPath, Strictness strictness,

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -128,6 +129,39 @@ TEST(Check, PrintsDoubtsAsJson)
     EXPECT_EQ(doubts[0]["value"], 206900.0);
     EXPECT_EQ(doubts[0]["impossible"], false);
     EXPECT_EQ(doubts[0]["remedy"], "206900 MPa is usual for steel: multiply by 1e6");
+}
+
+/// Returns a project with a Neo-Hookean rubber whose C10 is 0.5 MPa and whose Mu is 3 MPa.
+std::string rubberThatContradictsItself(const vxtest::Folder& folder)
+{
+    const std::string project =
+        folder.file("rubber.vxmat", vxmat({"new", "Elastomer 1 (Neo-Hookean)=Seal", "-o", "-"}).out);
+    using Change = std::pair<std::string, std::string>;
+    for (const auto& [quantity, value] :
+         {Change{"Density", "1100 kg/m^3"}, Change{"C10", "0.5 MPa"}, Change{"Mu", "3 MPa"}, Change{"D1", "1e-9 1/Pa"}})
+    {
+        const Outcome run = vxmat({"set", project, "Seal", quantity, value});
+        EXPECT_EQ(run.status, 0) << run.err;
+    }
+    return project;
+}
+
+TEST(Check, PrintsDoubtsAboutModels)
+{
+    const vxtest::Folder folder;
+    const std::string project = rubberThatContradictsItself(folder);
+    const Outcome run = vxmat({"check", project, "--units", "mm-t-s"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, project +
+                           ": doubt: 1 Seal: C10 is 0.5 MPa, but half of Mu is 1.5 MPa. The curve uses C10. Remove "
+                           "one of the two constants.\n");
+    EXPECT_EQ(vxmat({"check", project, "--strict"}).status, 1);
+    const Json::Value doubts = vxjson::readJsonText(vxmat({"check", project, "--json"}).out).document["doubts"];
+    ASSERT_EQ(doubts.size(), 1U);
+    EXPECT_EQ(doubts[0]["id"], 26);
+    EXPECT_TRUE(doubts[0]["value"].isNull());
+    EXPECT_EQ(doubts[0]["impossible"], false);
+    EXPECT_TRUE(doubts[0]["remedy"].isNull());
 }
 
 TEST(Check, ShowsDoubtsInTheUnitSystemOfTheOptionOrOfTheProject)

@@ -2,6 +2,7 @@
 
 #include "Kelta/Exceptions.h"
 #include "vxConstitutive/fit/PlasticFit.h"
+#include "vxConstitutive/fit/Ranking.h"
 #include "vxConstitutive/fit/RateFits.h"
 #include "vxConstitutive/response/HyperelasticModel.h"
 
@@ -59,8 +60,11 @@ void fitMetal(const FitOrder& order, const FitControl& control, std::vector<FitR
     request.bounds = order.bounds;
     if (request.tests.empty())
         return;
-    results.push_back(vxConstitutive::fitMultilinear(request, control));
-    results.push_back(vxConstitutive::fitBilinear(request, control));
+    std::vector<FitResult> metals;
+    metals.push_back(vxConstitutive::fitMultilinear(request, control));
+    metals.push_back(vxConstitutive::fitBilinear(request, control));
+    vxConstitutive::rankFits(metals);
+    std::move(metals.begin(), metals.end(), std::back_inserter(results));
 }
 
 void fitCreep(const FitOrder& order, const FitControl& control, std::vector<FitResult>& results)

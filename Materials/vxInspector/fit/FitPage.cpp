@@ -332,7 +332,7 @@ void FitPage::showVolume()
     std::optional<vxConstitutive::FittedVolume> volume;
     if (result != nullptr && object != nullptr)
         volume = vxConstitutive::fittedVolume(*result, *inspectWithEditor(*object).material);
-    m_volume->setVolume(volume);
+    m_volume->setVolume(volume, m_system);
 }
 
 /// Returns the Young's modulus of the material that gets the constants, in Pa; absent if it has none greater than 0.

@@ -147,10 +147,11 @@ Row agreementRow(const vxConstitutive::TestAgreement& test)
              {tr("R² %1, %2 points").arg(vxPlot::numberText(test.rSquared, digits)).arg(test.points)}}};
 }
 
-Row findingRow(const vxConstitutive::Finding& finding)
+Row findingRow(const vxConstitutive::Finding& finding, const vxUnits::UnitSystem& system)
 {
-    Cell cell = textCell(translated(finding));
-    cell.text = translated(finding);
+    const QString text = translated(finding, system);
+    Cell cell = textCell(text);
+    cell.text = text;
     return {{{severityText(vxConstitutive::findingRecord(finding.id).severity)}, {}, {}, cell}};
 }
 
@@ -276,7 +277,7 @@ TableContent constantTable(const FitResult& result, const vxUnits::UnitSystem& s
     for (const vxConstitutive::TestAgreement& test : result.tests)
         table.rows.push_back(agreementRow(test));
     for (const vxConstitutive::Finding& finding : result.findings)
-        table.rows.push_back(findingRow(finding));
+        table.rows.push_back(findingRow(finding, system));
     return table;
 }
 

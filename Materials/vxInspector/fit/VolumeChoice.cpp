@@ -104,13 +104,16 @@ D1Treatment VolumeChoice::usualTreatment() const
     return hasD1() ? m_volume->usualTreatment() : D1Treatment::Set;
 }
 
-void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume)
+void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume, const vxUnits::UnitSystem& system)
 {
     const bool stays = isSame(volume, m_volume);
     m_volume = volume;
+    m_system = system;
     setHidden(!volume);
-    if (stays)
+    if (stays) {
+        showSentence();
         return;
+    }
     fillChoices(0);
     if (volume)
         m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(usualTreatment())));
@@ -123,7 +126,7 @@ void VolumeChoice::showSentence()
 {
     if (!m_volume)
         return;
-    QString text = m_volume->finding ? translated(*m_volume->finding)
+    QString text = m_volume->finding ? translated(*m_volume->finding, m_system)
                                      : tr("The fit is incompressible, and the material has no D1.");
     if (treatment() == D1Treatment::Remove || (treatment() == D1Treatment::Keep && !hasD1()))
         text += QLatin1Char(' ') + missingText();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vxConstitutive/fit/FittedVolume.h"
+#include "vxUnits/UnitSystem.h"
 
 #include <QWidget>
 
@@ -22,9 +23,9 @@ public:
     explicit VolumeChoice(QWidget* parent = nullptr);
     ~VolumeChoice() override;
 
-    /// Shows the volume of a fit; the widget is hidden if it is absent. The choice of the user stays while the volume is the
+    /// Shows the volume of a fit in a unit system; the widget is hidden if it is absent. The choice of the user stays while the volume is the
     /// same as before; otherwise it is the usual treatment.
-    void setVolume(const std::optional<vxConstitutive::FittedVolume>& volume);
+    void setVolume(const std::optional<vxConstitutive::FittedVolume>& volume, const vxUnits::UnitSystem& system);
 
     /// Returns the change of the material to a fit, which must be that of the volume, and to the chosen D1.
     vxConstitutive::MaterialChange changeOf(const vxConstitutive::FitResult& result) const;
@@ -48,6 +49,7 @@ private:
     void showChoice();
 
     std::optional<vxConstitutive::FittedVolume> m_volume;
+    vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
     QLabel* m_sentence;
     QLabel* m_label;
     QComboBox* m_treatment;

@@ -120,6 +120,28 @@ TEST(FitTables, ShowThePointsOfAHardeningCurve)
     EXPECT_EQ(cells[3].copied(), "at plastic strain 0.05");
 }
 
+TEST(FitTables, HaveFindingsInTheUnitSystem)
+{
+    vxConstitutive::FitResult result;
+    result.findings = {vxConstitutive::makeFinding(vxConstitutive::FindingId::ModulusFromCurve, {2e11})};
+    const auto table = vxInspector::constantTable(result, *vxUnits::UnitSystem::parse("mm-t-s"));
+    EXPECT_THAT(table.rows.at(0).cells[3].copied().toStdString(), HasSubstr(" 200000 MPa"));
+}
+
+// The points scatter around a line by 1 % of the largest stress. The many rows of a table that follows them are not worth it.
+TEST(FitTables, RankModelsOfMetalsByResidualAndNumberOfConstants)
+{
+    std::string text = "plastic strain [1],true stress [MPa]\n";
+    for (int i = 0; i <= 20; ++i)
+        text += std::to_string(0.01 * i) + ',' + std::to_string(200.0 + 10.0 * i + (i % 2 == 0 ? 4.0 : -4.0)) + '\n';
+    const LoadedTest test = loaded(text, Mode::Plastic);
+    ASSERT_TRUE(test.reading.data) << readingText(test).toStdString();
+    const auto results = vxInspector::fitAll(vxInspector::FitOrder{{*test.reading.data}}, {});
+    ASSERT_EQ(results.size(), 2U);
+    EXPECT_LE(results[0].criterion, results[1].criterion);
+    EXPECT_EQ(results[0].model, "bilinear hardening");
+}
+
 TEST(FitTables, RankTheModelsWithTheirResiduals)
 {
     const auto results = vxInspector::fitAll(vxInspector::FitOrder{{*loaded(rubberTable()).reading.data}}, {});

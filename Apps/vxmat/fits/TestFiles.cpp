@@ -102,16 +102,22 @@ class OptionReader
 public:
     explicit OptionReader(const std::vector<TestName>& tests) : m_tests(tests) {}
 
-    /// Returns the value for a test: the last one that is about this test, otherwise the last one about all tests.
-    std::optional<std::string> find(const std::vector<std::string>& values, const TestName& test) const
+    /// Returns the value for a test: the last one that is about this test, otherwise the one about all tests. Throws
+    /// Failure if there are two about all tests: whoever gives a value per file means one for each.
+    std::optional<std::string> find(const std::string& option, const std::vector<std::string>& values,
+                                    const TestName& test) const
     {
         std::optional<std::string> general;
         std::optional<std::string> own;
         for (const std::string& value : values) {
             const std::size_t sign = signOf(value);
-            if (sign == std::string::npos)
+            if (sign == std::string::npos) {
+                if (general && *general != value)
+                    throw Failure(option + ": \"" + *general + "\" and \"" + value +
+                                  "\" are both for all tests; say for which test each is, such as " + option +
+                                  " \"1=" + *general + "\"");
                 general = value;
-            else if (means(value.substr(0, sign), test))
+            } else if (means(value.substr(0, sign), test))
                 own = value.substr(sign + 1);
         }
         return own ? own : general;
@@ -202,10 +208,10 @@ private:
 vxConstitutive::TableOptions TestReader::tableOptions(const TestName& name) const
 {
     vxConstitutive::TableOptions options;
-    if (const auto text = m_options.find(m_arguments.separators, name))
+    if (const auto text = m_options.find("--separator", m_arguments.separators, name))
         options.separator = readCharacter(
             "--separator", *text, {{"comma", ','}, {"semicolon", ';'}, {"tab", '\t'}, {"space", ' '}, {"bar", '|'}});
-    if (const auto text = m_options.find(m_arguments.decimalMarks, name))
+    if (const auto text = m_options.find("--decimal-mark", m_arguments.decimalMarks, name))
         options.decimalMark = readCharacter("--decimal-mark", *text, {{"point", '.'}, {"comma", ','}});
     return options;
 }
@@ -256,17 +262,19 @@ ColumnChoice TestReader::choice(Axis axis, const TestName& name, const TestTable
     const bool isAbscissa = axis == Axis::Abscissa;
     const std::string letter = isAbscissa ? "--x" : "--y";
     ColumnChoice choice;
-    if (const auto text = m_options.find(isAbscissa ? m_arguments.xColumns : m_arguments.yColumns, name))
+    if (const auto text =
+            m_options.find(letter + "-column", isAbscissa ? m_arguments.xColumns : m_arguments.yColumns, name))
         choice.column = readColumn(letter + "-column", *text, table);
-    if (const auto text = m_options.find(isAbscissa ? m_arguments.xMeasures : m_arguments.yMeasures, name))
+    if (const auto text =
+            m_options.find(letter + "-measure", isAbscissa ? m_arguments.xMeasures : m_arguments.yMeasures, name))
         choice.measure = readMeasure(letter + "-measure", *text, axis, name.mode);
-    choice.unit = m_options.find(isAbscissa ? m_arguments.xUnits : m_arguments.yUnits, name);
+    choice.unit = m_options.find(letter + "-unit", isAbscissa ? m_arguments.xUnits : m_arguments.yUnits, name);
     return choice;
 }
 
 double TestReader::weight(const TestName& name) const
 {
-    const auto text = m_options.find(m_arguments.weights, name);
+    const auto text = m_options.find("--weight", m_arguments.weights, name);
     if (!text)
         return 1.0;
     const double weight = readAmount("--weight", *text, "1", m_system);
@@ -370,7 +378,7 @@ std::vector<MeasuredTest> TestReader::read(const TestName& name)
     vxConstitutive::TestReadRequest request{
         shortNameOf(name), name.mode,   choice(Axis::Abscissa, name, table), choice(Axis::Ordinate, name, table),
         std::nullopt,      weight(name)};
-    if (const auto text = m_options.find(m_arguments.stresses, name))
+    if (const auto text = m_options.find("--stress", m_arguments.stresses, name))
         request.stress = readAmount("--stress", *text, "Pa", m_system);
     std::vector<double> stresses;
     if (name.mode == Mode::Creep && !request.stress)

@@ -455,6 +455,10 @@ TEST_F(Fit, RefusesAWrongCommandLine)
         {{uniaxial, "--model", "all", "--bound", "C10=1 kg"}, "--bound: C10: "},
         {{uniaxial, "--model", "all", "--offset", "0.1"}, "--offset has no effect on these models"},
         {{uniaxial, "--model", "all", "--weight", "-1"}, "--weight: a weight is at least 0"},
+        {{"creep=" + data, "creep=" + data, "--model", "norton", "--stress", "50 MPa", "--stress", "80 MPa"},
+         "--stress: \"50 MPa\" and \"80 MPa\" are both for all tests; say for which test each is, such as --stress "
+         "\"1="},
+        {{uniaxial, "--model", "all", "--y-unit", "MPa", "--y-unit", "kPa"}, "--y-unit: \"MPa\" and \"kPa\" are both"},
         {{uniaxial, "--model", "all", "--separator", "dot"}, "--separator: \"dot\" is not one of comma, semicolon"},
         {{uniaxial, "--model", "all", "--x-column", "7"},
          "--x-column: there is no column \"7\"; the columns are 1 \"str"},

@@ -471,6 +471,7 @@ void FitPage::apply()
     applyFit(fit, *object, editor);
     m_applied = Applied{m_target, std::move(applied)};
     showApplied();
+    QTimer::singleShot(0, m_appliedText, [this] { m_scroll->ensureWidgetVisible(m_appliedText, 0, 0); }); // laid out
     m_panel->showRemovals();
     Gui::MainWindow::announce(m_appliedText->text(), Kelta::LogMessage::Severity::Information,
                               {m_target.projectId, m_target.objectId, 0});

@@ -33,7 +33,8 @@ VolumeChoice::VolumeChoice(QWidget* parent)
       m_sentence(new QLabel(this)),
       m_label(new QLabel(this)),
       m_treatment(new QComboBox(this)),
-      m_ratio(new QLineEdit(this))
+      m_ratio(new QLineEdit(this)),
+      m_times(new QLabel(this))
 {
     m_sentence->setObjectName(QStringLiteral("fitVolume"));
     m_sentence->setTextFormat(Qt::PlainText);
@@ -50,9 +51,10 @@ VolumeChoice::VolumeChoice(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_sentence, 0, 0, 1, 3);
     layout->addWidget(m_label, 1, 0);
-    layout->addWidget(m_treatment, 1, 1);
-    layout->addWidget(m_ratio, 1, 2);
-    layout->setColumnStretch(1, 4);
+    layout->addWidget(m_treatment, 1, 1, 1, 2);
+    layout->addWidget(m_ratio, 2, 1);
+    layout->addWidget(m_times, 2, 2);
+    layout->setColumnStretch(1, 1);
     layout->setColumnStretch(2, 1);
     connect(m_treatment, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
         showSentence();
@@ -71,6 +73,7 @@ void VolumeChoice::retranslate()
     fillChoices(std::max(m_treatment->currentIndex(), 0));
     m_label->setText(tr("&D1:"));
     m_treatment->setToolTip(tr("What happens to the compressibility of the material"));
+    m_times->setText(tr("times the shear modulus"));
     m_ratio->setToolTip(tr("The ratio of the initial bulk modulus 2/D1 to the initial shear modulus of the fit"));
     m_ratio->setAccessibleName(tr("Ratio of bulk to shear modulus"));
     showSentence();
@@ -94,7 +97,7 @@ void VolumeChoice::fillChoices(int chosen)
         m_treatment->addItem(tr("none: incompressible"), static_cast<int>(D1Treatment::Keep));
     }
     m_treatment->setItemData(m_treatment->count() - 1, missingText(), Qt::ToolTipRole);
-    m_treatment->addItem(tr("set the ratio of bulk to shear modulus to"), static_cast<int>(D1Treatment::Set));
+    m_treatment->addItem(tr("set the bulk modulus to"), static_cast<int>(D1Treatment::Set));
     m_treatment->setCurrentIndex(std::min(chosen, m_treatment->count() - 1));
 }
 
@@ -141,6 +144,7 @@ QString VolumeChoice::missingText()
 void VolumeChoice::showChoice()
 {
     m_ratio->setVisible(treatment() == D1Treatment::Set);
+    m_times->setVisible(treatment() == D1Treatment::Set);
 }
 
 D1Treatment VolumeChoice::treatment() const

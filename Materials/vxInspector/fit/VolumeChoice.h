@@ -54,6 +54,7 @@ private:
     QLabel* m_label;
     QComboBox* m_treatment;
     QLineEdit* m_ratio;
+    QLabel* m_times;
 };
 
 } // namespace vxInspector

@@ -21,6 +21,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTemporaryDir>
 #include <QtTest/QtTestGui>
 
@@ -625,7 +627,7 @@ TEST_F(FitTab, SetsAD1ForAMaterialThatHasNone)
     fitRubber();
     auto& treatment = control<QComboBox>("fitD1");
     ASSERT_EQ(treatment.count(), 2);
-    EXPECT_EQ(treatment.currentText(), "set the ratio of bulk to shear modulus to");
+    EXPECT_EQ(treatment.currentText(), "set the bulk modulus to");
     EXPECT_TRUE(control<QLineEdit>("fitBulkRatio").isVisible());
     const auto sentence = [this] { return control<QLabel>("fitVolume").text().toStdString(); };
     EXPECT_EQ(sentence(), "The fit is incompressible, and the material has no D1.");
@@ -707,13 +709,29 @@ TEST_F(FitTab, ReplacesAD1ThatContradictsTheFitAndSaysSoBefore)
     EXPECT_THAT(control<QLabel>("fitVolume").text().toStdString(),
                 AllOf(HasSubstr("the D1 of the material contradicts it"), HasSubstr("e-05 times the shear modulus")));
     ASSERT_TRUE(control<QComboBox>("fitD1").isVisible());
-    EXPECT_EQ(control<QComboBox>("fitD1").currentText(), "set the ratio of bulk to shear modulus to");
+    EXPECT_EQ(control<QComboBox>("fitD1").currentText(), "set the bulk modulus to");
     EXPECT_EQ(control<QLineEdit>("fitBulkRatio").text(), "500");
     press("fitApply");
     EXPECT_NEAR(numberOf(seal, Id::IncompressibilityParameterD1), 4e-9, 1e-12); // K0 = 500 MPa
     EXPECT_TRUE(waitFor([this] { return control<QComboBox>("fitD1").currentText() == QLatin1String("keep"); }));
     history().undo();
     EXPECT_EQ(numberOf(seal, Id::IncompressibilityParameterD1), 0.0789);
+}
+
+TEST_F(FitTab, ShowsTheWholeChoiceOfD1AndWhatApplyHasWritten)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    setNumber(seal, Id::IncompressibilityParameterD1, 0.0789);
+    fitRubber();
+    const auto& treatment = control<QComboBox>("fitD1");
+    QStyleOptionComboBox option;
+    option.initFrom(&treatment);
+    const QRect field =
+        treatment.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &treatment);
+    EXPECT_GE(field.width(), treatment.fontMetrics().horizontalAdvance(treatment.currentText()));
+    press("fitApply");
+    const auto& written = control<QLabel>("fitApplied");
+    EXPECT_TRUE(waitFor([&written] { return written.visibleRegion().boundingRect() == written.rect(); }));
 }
 
 TEST_F(FitTab, SaysThatTheCheckMissesAD1ThatIsRemoved)

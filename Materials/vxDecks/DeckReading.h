@@ -4,6 +4,7 @@
 #include "vxDecks/Format.h"
 #include "vxDecks/Report.h"
 #include "vxMaterial/model/Material.h"
+#include "vxMaterial/model/MaterialCheck.h"
 #include "vxUnits/Message.h"
 #include "vxUnits/UnitSystem.h"
 
@@ -115,5 +116,11 @@ VXDECKS_EXPORT std::optional<vxUnits::UnitSystem> declaredUnits(Format format, s
 /// the content is binary, or the stream fails
 /// \throws std::bad_alloc
 VXDECKS_EXPORT ReadDeck readDeck(Format format, std::istream& file, const ReadOptions& options);
+
+/// Returns the findings of vxMat::checkMaterial() about a material that was read, without those that its report tells already:
+/// impossible values, and that the material is empty. Programs show them after MaterialReport::findings, so that all of them
+/// agree on what is wrong with a deck.
+VXDECKS_EXPORT std::vector<vxMat::MaterialFinding> findingsBesides(const MaterialReport& report,
+                                                                   const vxMat::MaterialBase& material);
 
 } // namespace vxDecks

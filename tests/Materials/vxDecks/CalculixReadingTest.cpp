@@ -355,4 +355,25 @@ TEST(DeckReading, TranslatesTheLineAndTheReasonOfAnError)
     }
 }
 
+TEST(FindingsBesides, LeaveOutTheValueAndTheExclusionThatTheReportTellsAndKeepWhatAModelLacks)
+{
+    const ReadDeck deck = readText(
+        Format::Calculix, "*MATERIAL, NAME=Both\n*ELASTIC\n2.1e11, 0.6\n*HYPERELASTIC, NEO HOOKE\n1e6, 1e-9\n", "SI");
+    deck.materials[0].material->removeProperty(
+        deck.materials[0].material->findProperty(Id::IncompressibilityParameterD1));
+    ASSERT_EQ(deck.report.materials[0].findings.size(), 2U) << "the ratio, and the second model";
+    std::vector<std::string> texts;
+    for (const auto& one : vxDecks::findingsBesides(deck.report.materials[0], *deck.materials[0].material))
+        texts.push_back(vxMat::toText(one));
+    EXPECT_THAT(texts,
+                testing::ElementsAre(
+                    "\"Neo-Hookean\" needs \"Incompressibility Parameter D1\", which the material does not have."));
+}
+
+TEST(FindingsBesides, AreNoneForAMaterialWithoutQuantities)
+{
+    const ReadDeck deck = readText(Format::Calculix, "*MATERIAL, NAME=Empty\n*DAMPING, ALPHA=1.\n", "SI");
+    EXPECT_TRUE(vxDecks::findingsBesides(deck.report.materials[0], *deck.materials[0].material).empty());
+}
+
 } // namespace

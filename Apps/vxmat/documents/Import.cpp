@@ -152,6 +152,20 @@ std::vector<std::string> findOtherSystemsOfDeck(const ImportedMaterials& materia
     return findOtherSystems(inDeck, *system, path);
 }
 
+/// Returns the findings about materials besides those that the report tells. Materials with the same finding share a text.
+std::vector<std::string> findBesides(const ImportedMaterials& materials, const vxDecks::Report& report,
+                                     const std::string& path)
+{
+    std::map<std::string, std::vector<const projectfile::ImportedMaterial*>> byText;
+    for (std::size_t i = 0; i < materials.size(); ++i)
+        for (const vxMat::MaterialFinding& one : vxDecks::findingsBesides(report.materials[i], *materials[i].material))
+            byText[toText(one)].push_back(&materials[i]);
+    std::vector<std::string> texts;
+    for (const auto& [text, some] : byText)
+        texts.push_back(std::string(path).append(": ").append(titleOf(some)).append(": ").append(text));
+    return texts;
+}
+
 vxDecks::ReadDeck readDeckFile(std::istream& file, vxDecks::Format format, const ImportRequest& request)
 {
     vxDecks::ReadOptions options;
@@ -206,8 +220,10 @@ Answer importDeck(std::istream& file, vxDecks::Format format, const ImportReques
         answer.status = Status::Findings;
     ImportedMaterials objects = toObjects(std::move(deck.materials));
     const std::vector<std::string> doubts = findOtherSystemsOfDeck(objects, deck.report.units, request.file);
-    if (!doubts.empty())
+    const std::vector<std::string> findings = findBesides(objects, deck.report, request.file);
+    if (!doubts.empty() || !findings.empty())
         answer.status = Status::Findings;
+    answer.add(findings);
     answer.add(doubts);
     writeNewProject(request.output, std::move(objects), request.existing, answer);
     return answer;

@@ -105,6 +105,18 @@ TEST(ImportDeck, IsAFindingIfAValueIsImpossible)
     EXPECT_THAT(asJson.out, HasSubstr("\"line\" : 2"));
 }
 
+TEST(ImportDeck, IsAFindingIfTheCheckOfMaterialsFindsMoreThanImpossibleValues)
+{
+    const Folder folder;
+    const std::string file = folder.file("a.inp", "*MATERIAL, NAME=A\n*DENSITY\n7850.\n*ELASTIC\n2.1e11\n"
+                                                  "*MATERIAL, NAME=B\n*ELASTIC\n2.1e11, 0.6\n");
+    const Outcome run = vxmat({"import", file, "--units", "SI", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.err, HasSubstr("a.inp: 1 A: \"Poisson's ratio\" is 0; it must be from 0.001 to 0.499.\n"));
+    EXPECT_THAT(run.err, HasSubstr("note: B: line 7, *ELASTIC: Poisson's ratio = 0.6"));
+    EXPECT_THAT(run.err, testing::Not(HasSubstr("\"Poisson's ratio\" is 0.6"))) << "it is told once";
+}
+
 TEST(ImportDeck, PrintsItsReportAsJson)
 {
     const Folder folder;

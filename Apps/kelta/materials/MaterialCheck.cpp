@@ -90,33 +90,35 @@ Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object)
     return {findings.isEmpty() ? Level::Ready : Level::WithFindings, findings};
 }
 
-std::vector<CheckedValue> findingsAndDoubts(const vxMat::MaterialBase& material, const vxUnits::UnitSystem& shown)
+std::vector<CheckedValue> doubtsBesides(const std::vector<CheckedValue>& findings, const vxMat::MaterialBase& material,
+                                        const vxUnits::UnitSystem& shown)
 {
-    std::vector<CheckedValue> all;
-    for (const vxMat::MaterialFinding& finding : vxMat::checkMaterial(material))
-        all.push_back({finding.slot, MatGui::findingText(finding)});
-    const std::size_t findings = all.size();
+    std::vector<CheckedValue> doubts;
     for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibility(material, shown)) {
         const std::int32_t slot = slotOf(doubt, material);
-        const bool isFound = std::any_of(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(findings),
-                                         [slot](const CheckedValue& one) { return one.slot == slot; });
+        const bool isFound =
+            std::any_of(findings.begin(), findings.end(), [slot](const CheckedValue& one) { return one.slot == slot; });
         if (!isFound)
-            all.push_back({slot, vxInspector::translated(doubt)});
+            doubts.push_back({slot, vxInspector::translated(doubt)});
     }
-    return all;
+    return doubts;
 }
 
-std::size_t reportImported(const std::vector<const Mat::MaterialObject*>& objects)
+std::size_t reportImported(const std::vector<const Mat::MaterialObject*>& objects,
+                           const std::vector<std::vector<CheckedValue>>& findings)
 {
     std::size_t found = 0;
     std::size_t materials = 0;
-    for (const Mat::MaterialObject* const object : objects) {
-        const auto all = findingsAndDoubts(*object->getCMaterial(), vxInspector::shownSystem(*object->get_project()));
-        const QString label = QString::fromStdString(object->label.getValue());
-        materials += all.empty() ? 0 : 1;
-        for (const CheckedValue& one : all)
-            if (++found <= mostReported)
-                Kelta::MessageLog::warning(tr("\"%1\": %2").arg(label, one.text), linkTo(*object, one.slot));
+    for (std::size_t i = 0; i < std::min(objects.size(), findings.size()); ++i) {
+        const Mat::MaterialObject& object = *objects[i];
+        const auto doubts =
+            doubtsBesides(findings[i], *object.getCMaterial(), vxInspector::shownSystem(*object.get_project()));
+        const QString label = QString::fromStdString(object.label.getValue());
+        materials += findings[i].empty() && doubts.empty() ? 0 : 1;
+        for (const auto& list : {findings[i], doubts})
+            for (const CheckedValue& one : list)
+                if (++found <= mostReported)
+                    Kelta::MessageLog::warning(tr("\"%1\": %2").arg(label, one.text), linkTo(object, one.slot));
     }
     tellOmitted(found);
     return materials;

@@ -39,20 +39,22 @@ struct CheckSummary
 /// to the message log as a warning that leads to the row of the finding; after the first 1000 findings only a line that says that there are more.
 CheckSummary checkAndReport(const Mat::DocumentMaterial& project);
 
-/// A finding of vxMat::checkMaterial, or a doubt about a value (vxUnits/Plausibility.h), in the language of the user.
+/// A finding about a material, or a doubt about a value (vxUnits/Plausibility.h), in the language of the user.
 struct CheckedValue
 {
     std::int32_t slot = 0; ///< of the property to change; 0 for the whole material
     QString text;
 };
 
-/// Returns the findings about a material, and then the doubts about its other values, with the numbers in a unit system. May
-/// be called in any thread.
-std::vector<CheckedValue> findingsAndDoubts(const vxMat::MaterialBase& material, const vxUnits::UnitSystem& shown);
+/// Returns the doubts about the values of a material that have no findings, with the numbers in a unit system. May be called in
+/// any thread.
+std::vector<CheckedValue> doubtsBesides(const std::vector<CheckedValue>& findings, const vxMat::MaterialBase& material,
+                                        const vxUnits::UnitSystem& shown);
 
-/// Checks materials that were imported. Writes what findingsAndDoubts() returns to the message log like checkAndReport().
-/// Returns the number of materials that it is about.
-std::size_t reportImported(const std::vector<const Mat::MaterialObject*>& objects);
+/// Writes the findings about each of the materials that were imported, and the doubts about their other values, to the message
+/// log like checkAndReport(). Returns the number of materials that it is about.
+std::size_t reportImported(const std::vector<const Mat::MaterialObject*>& objects,
+                           const std::vector<std::vector<CheckedValue>>& findings);
 
 /// Returns the status of a material for the tree, by the same check.
 Gui::ObjectStatus judgeMaterial(const Mat::MaterialObject& object);

@@ -91,14 +91,14 @@ ImportStep makeStep(projectfile::ImportedMaterials materials, const QString& pat
     };
 }
 
-/// Checks the materials of a deck, and shows the findings.
-void reportFindings(const ImportOutcome& outcome)
+/// Shows the findings about the materials of a deck.
+void reportFindings(const ImportOutcome& outcome, const std::vector<std::vector<CheckedValue>>& findings)
 {
     std::vector<const Mat::MaterialObject*> objects;
     for (const Obj::ProjectObject* const object : outcome.objects)
         objects.push_back(static_cast<const Mat::MaterialObject*>(object));
     Gui::MainWindow* const mainWindow = Gui::MainWindow::get_main_window_inst();
-    if (reportImported(objects) > 0 && mainWindow != nullptr)
+    if (reportImported(objects, findings) > 0 && mainWindow != nullptr)
         mainWindow->showMessages();
 }
 
@@ -107,9 +107,10 @@ ImportStep readDeck(const DeckFile& file)
     auto deck = importDeck(file);
     if (!deck)
         return {};
-    return [add = makeStep(std::move(deck->materials), file.path, deck->reports)](Obj::Project& project) {
+    return [add = makeStep(std::move(deck->materials), file.path, deck->reports),
+            findings = std::move(deck->findings)](Obj::Project& project) {
         ImportOutcome outcome = add(project);
-        reportFindings(outcome);
+        reportFindings(outcome, findings);
         return outcome;
     };
 }

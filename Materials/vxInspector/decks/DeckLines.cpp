@@ -65,13 +65,14 @@ struct Entry
 class Entries
 {
 public:
-    explicit Entries(const vxDecks::Report& report) : m_report(report)
+    Entries(const vxDecks::Report& report, const std::vector<std::vector<DeckFinding>>& findings) : m_report(report)
     {
+        for (std::size_t i = 0; i < std::min(findings.size(), report.materials.size()); ++i)
+            for (const DeckFinding& finding : findings[i])
+                add({finding.kind, {}, finding.text}, i);
         for (std::size_t i = 0; i < report.materials.size(); ++i) {
             for (const vxUnits::Message& note : report.materials[i].notes)
                 add({Kind::Remark, {}, translated(note)}, i);
-            for (const vxDecks::Finding& finding : report.materials[i].findings)
-                add({Kind::Remark, {}, QString::fromStdString(textOf(finding, translateWithNames))}, i);
             for (const vxDecks::ReportRow& row : report.materials[i].rows)
                 add({kindOf(row), QCoreApplication::translate("vxMat::PropertyName", row.name.c_str()),
                      joined(row.how, QStringLiteral("; "))},
@@ -125,9 +126,9 @@ private:
 
 } // namespace
 
-std::vector<DeckLine> deckLines(const vxDecks::Report& report)
+std::vector<DeckLine> deckLines(const vxDecks::Report& report, const std::vector<std::vector<DeckFinding>>& findings)
 {
-    return Entries(report).lines();
+    return Entries(report, findings).lines();
 }
 
 QString deckRemarks(const vxDecks::Report& report)
@@ -150,9 +151,11 @@ QString deckSummary(const vxDecks::Report& report)
 
 QString nameOf(DeckLine::Kind kind)
 {
-    static constexpr const char* names[] = {QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Refused"),
+    static constexpr const char* names[] = {QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Finding"),
+                                            QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Refused"),
                                             QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Lost"),
                                             QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Approximated"),
+                                            QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Doubt"),
                                             QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Remark"),
                                             QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Converted"),
                                             QT_TRANSLATE_NOOP("vxInspector::DeckLines", "Carried")};

@@ -15,22 +15,33 @@ struct DeckLine
 {
     enum class Kind
     {
+        Finding, ///< a value with which no solver can compute, or what a material lacks
         Refused, ///< lost, although the format takes the quantity; the user can do something about it
         Lost,
         Approximated,
-        Remark, ///< about the name or the number of a material, or an impossible value
+        Doubt,  ///< about a value that no known material has
+        Remark, ///< about the name or the number of a material
         Converted,
         Carried,
     };
     Kind kind = Kind::Lost;
-    QString quantities; ///< their names; empty for a remark
+    QString quantities; ///< their names; empty for a finding, doubt or remark
     QString reason;     ///< how they are converted or approximated, or why they are lost; may be empty
     QString materials;  ///< the first names, and the number of the others
 };
 
-/// Returns the lines of a report, the worst outcomes first. The remarks about the whole deck are not among them. May be
-/// called in any thread.
-std::vector<DeckLine> deckLines(const vxDecks::Report& report);
+/// A finding or doubt about a material, in the user's language.
+struct DeckFinding
+{
+    DeckLine::Kind kind = DeckLine::Kind::Finding;
+    QString text;
+};
+
+/// Returns the lines of a report, the worst outcomes first. The remarks about the whole deck are not among them. `findings` are
+/// those about each material of a deck that was read, in the order of the report; MaterialReport::findings are not used, since
+/// only the caller knows what else is wrong with a material. May be called in any thread.
+std::vector<DeckLine> deckLines(const vxDecks::Report& report,
+                                const std::vector<std::vector<DeckFinding>>& findings = {});
 
 /// Returns the remarks of a report about the whole deck as sentences, such as its unit system.
 QString deckRemarks(const vxDecks::Report& report);

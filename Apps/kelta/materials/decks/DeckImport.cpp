@@ -5,6 +5,8 @@
 #include "Gui/MainWindow.h"
 #include "decks/ImportDeckDialog.h"
 #include "vxInspector/decks/DeckLines.h"
+#include "vxInspector/units/UnitTexts.h"
+#include "vxMaterial/gui/FindingText.h"
 #include "vxUnits/SystemFit.h"
 
 #include <QCoreApplication>
@@ -90,6 +92,7 @@ std::string sentence(const DeckLine& line)
 ImportedDeck makeImported(ReadDeck deck)
 {
     ImportedDeck imported;
+    imported.findings = findingsOf(deck);
     std::uint32_t number = 0;
     for (vxDecks::ReadMaterial& one : deck.materials)
         imported.materials.materials.push_back({++number, one.name, std::move(one.material)});
@@ -156,6 +159,20 @@ void requireMaterials(const DeckFile& file, const ReadDeck& deck)
         throw errorAbout(
             file.path,
             tr("This deck of %1 has no materials.").arg(QString::fromLatin1(vxDecks::infoOf(file.format).title)));
+}
+
+std::vector<std::vector<CheckedValue>> findingsOf(const ReadDeck& deck)
+{
+    std::vector<std::vector<CheckedValue>> all;
+    for (std::size_t i = 0; i < deck.materials.size(); ++i) {
+        const vxDecks::MaterialReport& report = deck.report.materials[i];
+        std::vector<CheckedValue>& findings = all.emplace_back();
+        for (const vxDecks::Finding& one : report.findings)
+            findings.push_back({one.id, QString::fromStdString(textOf(one, vxInspector::translateWithNames))});
+        for (const vxMat::MaterialFinding& one : vxDecks::findingsBesides(report, *deck.materials[i].material))
+            findings.push_back({one.slot, MatGui::findingText(one)});
+    }
+    return all;
 }
 
 std::string fittingSystem(const ReadDeck& asIs, const UnitSystem& assumed)

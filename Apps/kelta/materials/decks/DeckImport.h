@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MaterialCheck.h"
+
 #include "projectfile/ExchangeImport.h"
 #include "vxDecks/DeckReading.h"
 #include "vxUnits/UnitSystem.h"
@@ -10,6 +12,7 @@
 #include <atomic>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace desktop {
 
@@ -42,9 +45,14 @@ std::string fittingSystem(const vxDecks::ReadDeck& asIs, const vxUnits::UnitSyst
 /// The materials of a deck for a project.
 struct ImportedDeck
 {
-    projectfile::ImportedMaterials materials; ///< the doubts are what the user must check
-    QStringList reports;                      ///< further sentences for the message log
+    projectfile::ImportedMaterials materials;        ///< the doubts are what the user must check
+    QStringList reports;                             ///< further sentences for the message log
+    std::vector<std::vector<CheckedValue>> findings; ///< about each material
 };
+
+/// Returns what is wrong with each material of a deck: the impossible values, with their lines in the file, and what
+/// vxMat::checkMaterial() finds besides them. May be called in any thread.
+std::vector<std::vector<CheckedValue>> findingsOf(const vxDecks::ReadDeck& deck);
 
 /// Reads a deck in a dialog, in which the user chooses the unit system and sees the report, or why the deck cannot be read.
 /// Absent if the user cancels. While an UnaskedImport lives, asks nothing: the numbers are in its system, or in the one that

@@ -23,6 +23,8 @@ namespace desktop {
 namespace {
 
 using vxDecks::ReadDeck;
+using vxInspector::DeckFinding;
+using vxInspector::DeckLine;
 using vxUnits::MaterialValues;
 using vxUnits::UnitSystem;
 using Id = vxMat::PropertyId;
@@ -105,25 +107,40 @@ QString valueText(std::int32_t id, const MaterialValues& values, const std::opti
     return unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
 }
 
-/// Returns the findings and doubts about a material, each in a line.
-QString findingsAbout(const vxMat::MaterialBase& material, const UnitSystem& shown)
+/// Returns the numbers of findings and doubts about a material: "Findings: 2, doubts: 1"; empty if there are none.
+QString countsText(std::size_t findings, std::size_t doubts)
 {
-    QStringList texts;
-    for (const CheckedValue& one : findingsAndDoubts(material, shown))
-        texts << one.text;
-    return texts.join(QLatin1Char('\n'));
+    if (findings > 0 && doubts > 0)
+        return tr("Findings: %1, doubts: %2").arg(findings).arg(doubts);
+    if (findings > 0)
+        return tr("Findings: %1").arg(findings);
+    return doubts > 0 ? tr("Doubts: %1").arg(doubts) : QString();
 }
 
-/// Checks the materials that were read, and shows the result beside their values.
-void check(DeckPreview& preview, const UnitSystem& shown, const std::atomic<bool>& isStopped)
+/// Returns the findings and doubts about the materials that were read, and counts them beside their values.
+std::vector<std::vector<DeckFinding>> check(DeckPreview& preview, const UnitSystem& shown,
+                                            const std::atomic<bool>& isStopped)
 {
-    const std::size_t count = std::min(preview.deck.materials.size(), preview.values.materials.size());
-    for (std::size_t i = 0; i < count; ++i) {
+    std::vector<std::vector<DeckFinding>> all;
+    const auto findings = findingsOf(preview.deck);
+    for (std::size_t i = 0; i < std::min(findings.size(), preview.values.materials.size()); ++i) {
         stopIf(isStopped);
+        const auto doubts = doubtsBesides(findings[i], *preview.deck.materials[i].material, shown);
+        QStringList texts;
+        std::vector<DeckFinding>& lines = all.emplace_back();
+        for (const CheckedValue& one : findings[i])
+            lines.push_back({DeckLine::Kind::Finding, one.text});
+        for (const CheckedValue& one : doubts)
+            lines.push_back({DeckLine::Kind::Doubt, one.text});
+        for (const DeckFinding& one : lines)
+            texts << one.text;
         ValuesOfDeck::Material& row = preview.values.materials[i];
-        row.findings = findingsAbout(*preview.deck.materials[i].material, shown);
-        preview.withFindings += row.findings.isEmpty() ? 0 : 1;
+        row.findings = countsText(findings[i].size(), doubts.size());
+        row.findingTexts = texts.join(QLatin1Char('\n'));
+        preview.withFindings += findings[i].empty() ? 0 : 1;
+        preview.withDoubts += doubts.empty() ? 0 : 1;
     }
+    return all;
 }
 
 } // namespace
@@ -167,11 +184,10 @@ std::shared_ptr<DeckPreview> previewDeck(const DeckFile& file, const SurveyedDec
 {
     auto preview = std::make_shared<DeckPreview>();
     preview->deck = readDeckFile(file, units, &isStopped);
-    preview->lines = vxInspector::deckLines(preview->deck.report);
     preview->summary = vxInspector::deckSummary(preview->deck.report);
     const UnitSystem shown = units.value_or(UnitSystem::si());
     preview->values = valuesOf(survey, shown);
-    check(*preview, shown, isStopped);
+    preview->lines = vxInspector::deckLines(preview->deck.report, check(*preview, shown, isStopped));
     const std::string fitting = units ? fittingSystem(survey.asIs, shown) : std::string();
     if (!fitting.empty())
         preview->doubt = tr("The numbers look like %1. In %2, they would be unusual. %3")

@@ -51,8 +51,9 @@ struct ValuesOfDeck
     struct Material
     {
         QString name;
-        QStringList values; ///< one for each quantity; empty if the material does not have it
-        QString findings;   ///< and doubts about the material in the chosen units, in lines; empty if there are none
+        QStringList values;   ///< one for each quantity; empty if the material does not have it
+        QString findings;     ///< the numbers of findings and doubts in the chosen units; empty if there are none
+        QString findingTexts; ///< the findings and doubts, each in a line
     };
     QStringList quantities;
     std::vector<Material> materials;
@@ -66,10 +67,11 @@ ValuesOfDeck valuesOf(const SurveyedDeck& survey, const std::optional<vxUnits::U
 struct DeckPreview
 {
     vxDecks::ReadDeck deck;
-    std::vector<vxInspector::DeckLine> lines;
+    std::vector<vxInspector::DeckLine> lines; ///< with findings and doubts
     QString summary;
     ValuesOfDeck values;          ///< with findings
     std::size_t withFindings = 0; ///< the number of materials
+    std::size_t withDoubts = 0;   ///< the number of materials with values that no known material has
     QString doubt; ///< a sentence if the numbers look like another system than the chosen one; otherwise empty
 };
 

@@ -37,9 +37,10 @@ QVariant ValuesOfDeckModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
-    const QString text = textOf(index);
-    // A row has one line; the tool tip has all of them.
-    return role == Qt::DisplayRole ? text.section(QLatin1Char('\n'), 0, 0) : text;
+    const bool isFindings = index.column() == columnCount({}) - 1;
+    return role == Qt::ToolTipRole && isFindings
+               ? m_values.materials[static_cast<std::size_t>(index.row())].findingTexts
+               : textOf(index);
 }
 
 QVariant ValuesOfDeckModel::headerData(int section, Qt::Orientation orientation, int role) const

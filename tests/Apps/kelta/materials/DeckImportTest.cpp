@@ -17,6 +17,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 
@@ -37,6 +38,10 @@ constexpr const char* model =
     "*NODE\n1, 0.0, 0.0, 0.0\n"
     "*MATERIAL, NAME=Bracket\n*DENSITY\n7.85e-9,\n*ELASTIC\n210000., 0.3\n*DAMPING, ALPHA=0.1\n"
     "*MATERIAL, NAME=Pin\n*ELASTIC\n70000., 0.33\n*DENSITY\n2.7e-9\n";
+
+const std::string impossibleDensity = "line 9, *DENSITY: Density = -7850 is not possible; the value must be above 0";
+const std::string impossibleRatio =
+    "line 7, *ELASTIC: Poisson's ratio = 0.6 is not possible; the value must be above -1 and below 0.5";
 
 /// Waits for the dialog of the import, and uses it as the user does.
 class User : public QObject
@@ -253,7 +258,8 @@ TEST_F(DeckImport, NamesTheMaterialThatIsInOtherUnitsThanTheOthers)
     ASSERT_EQ(materials.size(), 4U);
     EXPECT_THAT(materials[0], testing::EndsWith("|"));
     EXPECT_THAT(materials[3], testing::AllOf(StartsWith("Odd|210000 Pa|"), testing::Not(testing::EndsWith("|"))));
-    EXPECT_THAT(textsOf(dialog), HasSubstr("Materials with findings: 1."));
+    EXPECT_THAT(textsOf(dialog), HasSubstr("Materials with doubts: 1."));
+    EXPECT_THAT(textsOf(dialog), testing::Not(HasSubstr("Materials with findings")));
     accept(dialog);
 });
 EXPECT_THAT(linkedMessages(), Contains(StartsWith("Odd -> \"Odd\": ")));
@@ -267,12 +273,33 @@ TEST_F(DeckImport, TellsImpossibleValuesBeforeAndAfterTheImport)
         systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
     ASSERT_TRUE(waitUntilRead(dialog));
     EXPECT_THAT(materialsOf(dialog)[0], testing::EndsWith("|"));
-    EXPECT_THAT(tipOfFindings(dialog, 1), testing::AllOf(HasSubstr("Poisson's ratio"), HasSubstr("Density")));
+    EXPECT_THAT(materialsOf(dialog)[1], testing::EndsWith("|Findings: 2"));
+    EXPECT_EQ(tipOfFindings(dialog, 1), impossibleDensity + "\n" + impossibleRatio);
+    EXPECT_THAT(textsOf(dialog), HasSubstr("Materials with findings: 1."));
+    const auto report = reportOf(dialog);
+    ASSERT_GE(report.size(), 2U);
+    EXPECT_EQ(report[0], "Finding||" + impossibleDensity + "|Bad");
+    EXPECT_EQ(report[1], "Finding||" + impossibleRatio + "|Bad");
+    EXPECT_EQ(std::count_if(report.begin(), report.end(),
+                            [](const std::string& line) { return line.find("-7850") != std::string::npos; }),
+              1)
+        << "it is told once";
     accept(dialog);
 });
-EXPECT_THAT(linkedMessages(), Contains(testing::AllOf(StartsWith("Bad -> "), HasSubstr("Poisson's ratio"))));
-EXPECT_THAT(linkedMessages(), Contains(testing::AllOf(StartsWith("Bad -> "), HasSubstr("Density"))));
-EXPECT_THAT(linkedMessages(), testing::Not(Contains(StartsWith("Good -> "))));
+EXPECT_THAT(linkedMessages(),
+            ElementsAre("Bad -> \"Bad\": " + impossibleDensity, "Bad -> \"Bad\": " + impossibleRatio));
+}
+
+TEST_F(DeckImport, TellsWhatAMaterialLacksBesidesItsImpossibleValues)
+{
+    import("*MATERIAL, NAME=Seal\n*DENSITY\n-1000.\n*ELASTIC\n2.1e11\n", [](ImportDeckDialog& dialog) {
+        systemsOf(dialog).setCurrentText(QStringLiteral("SI"));
+    ASSERT_TRUE(waitUntilRead(dialog));
+    EXPECT_THAT(reportOf(dialog), Contains("Finding||\"Poisson's ratio\" is 0; it must be from 0.001 to 0.499.|Seal"));
+    accept(dialog);
+});
+EXPECT_THAT(linkedMessages(),
+            ElementsAre(HasSubstr("line 2, *DENSITY: Density = -1000"), HasSubstr("\"Poisson's ratio\" is 0")));
 }
 
 TEST_F(DeckImport, GuessesNoUnitsIfNothingShowsThem)

@@ -4,23 +4,26 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <sstream>
 
 namespace {
 
-TEST(DeckLines, HaveTheImpossibleValuesOfADeckAsRemarks)
+TEST(DeckLines, HaveTheFindingsOfADeckFirstAndShareEqualOnes)
 {
-    std::istringstream file("*MATERIAL, NAME=Foam\n*DENSITY\n-30.\n");
+    using Kind = vxInspector::DeckLine::Kind;
+    std::istringstream file(
+        "*MATERIAL, NAME=Foam\n*DENSITY\n-30.\n*DAMPING, ALPHA=1.\n*MATERIAL, NAME=Wool\n*DENSITY\n-30.\n");
     const auto deck = vxDecks::readDeck(vxDecks::Format::Calculix, file, {vxUnits::UnitSystem::si()});
-    const auto lines = vxInspector::deckLines(deck.report);
-    const auto found = std::find_if(lines.begin(), lines.end(), [](const vxInspector::DeckLine& line) {
-        return line.kind == vxInspector::DeckLine::Kind::Remark;
-    });
-    ASSERT_NE(found, lines.end());
-    EXPECT_EQ(found->reason.toStdString(),
-              "line 2, *DENSITY: Density = -30 is not possible; the value must be above 0");
-    EXPECT_EQ(found->materials.toStdString(), "Foam");
+    const auto lines = vxInspector::deckLines(
+        deck.report, {{{Kind::Finding, "not possible"}}, {{Kind::Finding, "not possible"}, {Kind::Doubt, "unusual"}}});
+    ASSERT_EQ(lines.size(), 4U) << "the report's own findings are not told again";
+    EXPECT_EQ(lines[0].kind, Kind::Finding);
+    EXPECT_EQ(lines[0].reason.toStdString(), "not possible");
+    EXPECT_EQ(lines[0].materials.toStdString(), "Foam, Wool");
+    EXPECT_EQ(lines[1].kind, Kind::Lost);
+    EXPECT_EQ(lines[2].kind, Kind::Doubt);
+    EXPECT_EQ(lines[2].materials.toStdString(), "Wool");
+    EXPECT_EQ(lines[3].kind, Kind::Carried);
 }
 
 } // namespace

@@ -51,6 +51,12 @@ bool logDeservesAttention()
     });
 }
 
+/// Returns whether QMainWindow::restoreState can read a state. The parts of an outline would be in wrong places without.
+bool isReadable(const QByteArray& state)
+{
+    return QMainWindow().restoreState(state);
+}
+
 /// Lays out what has changed. Otherwise the event loop would do so, and might paint the window before.
 void settleLayouts(const QMainWindow& window)
 {
@@ -61,12 +67,15 @@ void settleLayouts(const QMainWindow& window)
 
 } // namespace
 
-/// Makes the outline of the last run, or all parts of the host if there is none.
+/// Makes the outline of the last run, or all parts of the host if there is none or the places of its parts are unknown.
 void MainWindow::createFirstParts(Parts parts)
 {
+    const QSettings settings;
+    std::optional<WindowOutline> outline;
     if (parts == Parts::OutlineFirst)
-        if (std::optional<WindowOutline> outline = readOutline(QSettings(), Translator::instance()->language()))
-            m_outline = std::make_unique<WindowOutline>(*std::move(outline));
+        outline = readOutline(settings, Translator::instance()->language());
+    if (outline && isReadable(settings.value(QLatin1String(stateKey)).toByteArray()))
+        m_outline = std::make_unique<WindowOutline>(*std::move(outline));
     if (isComplete()) {
         createHostParts();
         return resizeWithDocks(firstSize());

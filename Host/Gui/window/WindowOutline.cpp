@@ -53,16 +53,18 @@ QStringList fieldsOf(const std::vector<WindowOutline::Bar>& bars)
     return fields;
 }
 
-/// Settings may have been edited: an unknown area is the upper one, and sizes have limits.
+/// Settings may have been edited: an unknown area is the upper one, and sizes have limits. A bar that is too long is cut;
+/// one that is too high would make the window higher, and it would stay so.
 std::vector<WindowOutline::Bar> barsOf(const QStringList& fields)
 {
-    const int most = 4096;
-    const auto length = [&](const QString& field) { return std::clamp(field.toInt(), 0, most); };
+    constexpr int longest = 4096;
+    constexpr int highest = 96;
+    const auto length = [](const QString& field, int most) { return std::clamp(field.toInt(), 0, most); };
     std::vector<WindowOutline::Bar> bars;
     for (int i = 0; i + fieldsOfBar <= fields.size(); i += fieldsOfBar)
         bars.push_back({fields[i],
                         fields[i + 1].toInt() == Qt::BottomToolBarArea ? Qt::BottomToolBarArea : Qt::TopToolBarArea,
-                        QSize(length(fields[i + 2]), length(fields[i + 3]))});
+                        QSize(length(fields[i + 2], longest), length(fields[i + 3], highest))});
     return bars;
 }
 

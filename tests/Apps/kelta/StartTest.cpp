@@ -13,6 +13,7 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -60,6 +61,7 @@ protected:
         store("bars", {"File", "4", "200", "30"});
         store("docks", {"ProjectExplorer", "Project explorer", "Inspector", "Inspector"});
         store("page", {"Remembered title", "Remembered text", "Mat_NewDoc", "&New"});
+        QSettings().setValue("window/state", QMainWindow().saveState());
         window = std::make_unique<Gui::MainWindow>(Gui::MainWindow::Parts::OutlineFirst);
         desktop::startFiles(*window, {});
         start = std::make_unique<desktop::Start>(*window, [this] { ++completions; });

@@ -237,10 +237,9 @@ TEST_F(WindowOutline, SurvivesSettingsThatWereEdited)
 {
     window->saveLayout();
     QSettings settings;
-    settings.setValue("window/outline/bars", QStringList{"Edit", "x", "-7", "99999999999", "half"});
+    settings.setValue("window/outline/bars", QStringList{"Edit", "x", "-7", "3000", "Edit", "4", "99999999999", "half"});
     settings.setValue("window/outline/docks", QStringList{"ProjectExplorer", "A", "ProjectExplorer", "B", "half"});
     settings.setValue("window/geometry", QByteArray("no geometry"));
-    settings.setValue("window/state", QByteArray("no state"));
     window = std::make_unique<MainWindow>(contributionsOfNextStart, MainWindow::Parts::OutlineFirst);
     ASSERT_FALSE(window->isComplete());
     window->updateCommands();
@@ -249,6 +248,18 @@ TEST_F(WindowOutline, SurvivesSettingsThatWereEdited)
     complete();
     EXPECT_TRUE(window->getProjectExplorer().isVisible());
     EXPECT_LE(window->height(), 600);
+}
+
+TEST_F(WindowOutline, IsNotUsedIfThePlacesOfItsPartsCannotBeRead)
+{
+    window->saveLayout();
+    QSettings().setValue("window/state", QByteArray("no state"));
+    addModule(contributionsOfNextStart);
+    window = std::make_unique<MainWindow>(contributionsOfNextStart, MainWindow::Parts::OutlineFirst);
+    window->show();
+    complete();
+    EXPECT_EQ(window->dockWidgetArea(dock("Gauges")), Qt::RightDockWidgetArea);
+    EXPECT_EQ(window->dockWidgetArea(dock("ProjectExplorer")), Qt::LeftDockWidgetArea);
 }
 
 } // namespace

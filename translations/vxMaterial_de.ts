@@ -2030,6 +2030,18 @@ Trotzdem löschen?</translation>
         <source>The numbers look like %1. In %2, they would be unusual. %3</source>
         <translation>Die Zahlen sehen nach %1 aus. In %2 wären sie ungewöhnlich. %3</translation>
     </message>
+    <message>
+        <source>Findings: %1, doubts: %2</source>
+        <translation>Befunde: %1, Zweifel: %2</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Befunde: %1</translation>
+    </message>
+    <message>
+        <source>Doubts: %1</source>
+        <translation>Zweifel: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DeckReportModel</name>
@@ -2252,6 +2264,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>The file has changed and was read again. Check the report before you import it.</source>
         <translation>Die Datei hat sich geändert und wurde neu gelesen. Prüfen Sie den Bericht, bevor Sie sie importieren.</translation>
+    </message>
+    <message>
+        <source>Materials with doubts: %1.</source>
+        <translation>Materialien mit Zweifeln: %1.</translation>
     </message>
 </context>
 <context>
@@ -4392,6 +4408,14 @@ Trotzdem löschen?</translation>
         <source>Carried</source>
         <translation>Übernommen</translation>
     </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>Doubt</source>
+        <translation>Zweifel</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FindingTable</name>
@@ -4442,6 +4466,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>Note</source>
         <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Only the models of the first %1 materials are examined.</source>
+        <translation>Nur die Modelle der ersten %1 Materialien werden untersucht.</translation>
     </message>
 </context>
 <context>
@@ -5370,10 +5398,6 @@ Trotzdem löschen?</translation>
         <translation>entfernen: inkompressibel</translation>
     </message>
     <message>
-        <source>set the ratio of bulk to shear modulus to</source>
-        <translation>Verhältnis von Kompressions- zu Schubmodul setzen auf</translation>
-    </message>
-    <message>
         <source>&amp;D1:</source>
         <translation>&amp;D1:</translation>
     </message>
@@ -5400,6 +5424,14 @@ Trotzdem löschen?</translation>
     <message>
         <source>none: incompressible</source>
         <translation>keines: inkompressibel</translation>
+    </message>
+    <message>
+        <source>times the shear modulus</source>
+        <translation>mal den Schubmodul</translation>
+    </message>
+    <message>
+        <source>set the bulk modulus to</source>
+        <translation>Kompressionsmodul setzen auf</translation>
     </message>
 </context>
 <context>

@@ -2030,6 +2030,18 @@ Delete anyway?</source>
         <source>The numbers look like %1. In %2, they would be unusual. %3</source>
         <translation>这些数值看起来是 %1。若采用 %2，它们就不寻常。%3</translation>
     </message>
+    <message>
+        <source>Findings: %1, doubts: %2</source>
+        <translation>检查结果：%1，疑问：%2</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>检查结果：%1</translation>
+    </message>
+    <message>
+        <source>Doubts: %1</source>
+        <translation>疑问：%1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DeckReportModel</name>
@@ -2252,6 +2264,10 @@ Delete anyway?</source>
     <message>
         <source>The file has changed and was read again. Check the report before you import it.</source>
         <translation>文件已更改并重新读取。导入之前请检查报告。</translation>
+    </message>
+    <message>
+        <source>Materials with doubts: %1.</source>
+        <translation>有疑问的材料：%1。</translation>
     </message>
 </context>
 <context>
@@ -4391,6 +4407,14 @@ Delete anyway?</source>
         <source>Carried</source>
         <translation>已写入</translation>
     </message>
+    <message>
+        <source>Finding</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>Doubt</source>
+        <translation>疑问</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FindingTable</name>
@@ -4441,6 +4465,10 @@ Delete anyway?</source>
     <message>
         <source>Note</source>
         <translation>提示</translation>
+    </message>
+    <message>
+        <source>Only the models of the first %1 materials are examined.</source>
+        <translation>只检查前 %1 个材料的模型。</translation>
     </message>
 </context>
 <context>
@@ -5369,10 +5397,6 @@ Delete anyway?</source>
         <translation>移除：不可压缩</translation>
     </message>
     <message>
-        <source>set the ratio of bulk to shear modulus to</source>
-        <translation>将体积模量与剪切模量之比设为</translation>
-    </message>
-    <message>
         <source>&amp;D1:</source>
         <translation>&amp;D1：</translation>
     </message>
@@ -5399,6 +5423,14 @@ Delete anyway?</source>
     <message>
         <source>none: incompressible</source>
         <translation>无：不可压缩</translation>
+    </message>
+    <message>
+        <source>times the shear modulus</source>
+        <translation>倍剪切模量</translation>
+    </message>
+    <message>
+        <source>set the bulk modulus to</source>
+        <translation>将体积模量设为</translation>
     </message>
 </context>
 <context>

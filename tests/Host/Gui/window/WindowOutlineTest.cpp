@@ -237,7 +237,8 @@ TEST_F(WindowOutline, SurvivesSettingsThatWereEdited)
 {
     window->saveLayout();
     QSettings settings;
-    settings.setValue("window/outline/bars", QStringList{"Edit", "x", "-7", "3000", "Edit", "4", "99999999999", "half"});
+    settings.setValue("window/outline/bars",
+                      QStringList{"Edit", "x", "-7", "3000", "Edit", "4", "99999999999", "half"});
     settings.setValue("window/outline/docks", QStringList{"ProjectExplorer", "A", "ProjectExplorer", "B", "half"});
     settings.setValue("window/geometry", QByteArray("no geometry"));
     window = std::make_unique<MainWindow>(contributionsOfNextStart, MainWindow::Parts::OutlineFirst);

@@ -151,6 +151,8 @@ std::optional<PlasticModel::Necking> PlasticModel::necking() const
     if (!m_elastic)
         return std::nullopt;
     const double lateral = 2.0 * m_elastic->poissonsRatio / m_elastic->youngsModulus;
+    // The force can be largest within several segments: a plateau after yield is one, and hardening passes it.
+    std::optional<Necking> largest;
     for (std::size_t i = 0; i < m_points.size(); ++i) {
         const double modulus = modulusOf(i);
         const HardeningPoint& from = m_points[i];
@@ -163,9 +165,10 @@ std::optional<PlasticModel::Necking> PlasticModel::necking() const
         const double plastic = from.plasticStrain + (modulus > 0.0 ? (stress - from.stress) / modulus : 0.0);
         const Necking result{std::expm1(plastic + stress / m_elastic->youngsModulus),
                              stress * std::exp(-plastic - lateral * stress), stress};
-        return std::isfinite(result.engineeringStrain) ? std::optional(result) : std::nullopt;
+        if (!largest || result.engineeringStress > largest->engineeringStress)
+            largest = result;
     }
-    return std::nullopt;
+    return largest && std::isfinite(largest->engineeringStrain) ? largest : std::nullopt;
 }
 
 void PlasticModel::addTensileRow(CurveBuilder& builder, double strain) const

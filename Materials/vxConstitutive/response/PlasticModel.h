@@ -36,7 +36,8 @@ struct ElasticConstants
 ///
 ///     ds = 0:     H (1/sigma - 2 nu/E) = 1     or, with nu = 0.5 and E infinite, H = sigma
 ///
-/// After it, the curve is NaN. In compression (e < 0), the bar does not neck.
+/// If this holds at several strains, as on a plateau after yield, the bar necks where the force is largest of all. After it,
+/// the curve is NaN. In compression (e < 0), the bar does not neck.
 ///
 /// The yield surface in the meridian plane is the Mises stress sigma_0 at every pressure.
 ///

@@ -121,6 +121,31 @@ TEST(Necking, AtACornerWhereTheModulusDropsBelowTheStress)
     EXPECT_NEAR(neck->engineeringStrain, std::expm1(0.1 + 679.0 / 206900.0), 1e-12);
 }
 
+TEST(Necking, IsNotAtAPlateauAfterYieldIfTheForceRisesLater)
+{
+    // A plateau of 285 MPa up to 2 %, then hardening that is above the stress up to 0.2.
+    const PlasticModel model({{0.0, 285.0}, {0.02, 285.1}, {0.1, 445.1}, {0.2, 500.0}, {0.3, 510.0}}, steel);
+    const auto neck = model.necking();
+    ASSERT_TRUE(neck.has_value());
+    EXPECT_NEAR(neck->trueStress, 500.0, 1e-9);
+    EXPECT_NEAR(neck->engineeringStrain, std::expm1(0.2 + 500.0 / 206900.0), 1e-12);
+    CurveRequest request;
+    request.mode = Mode::Tensile;
+    request.abscissas = {0.01, 0.05};
+    const Curve curve = model.curve(request);
+    for (const double stress : curve.columns[1].values)
+        EXPECT_TRUE(std::isfinite(stress));
+    EXPECT_TRUE(curve.unstable.empty());
+}
+
+TEST(Necking, IsAtTheFirstPlateauIfTheForceStaysBelowIt)
+{
+    const PlasticModel model({{0.0, 500.0}, {0.2, 501.0}, {0.21, 515.0}}, steel); // 515 exp(-0.21) is 417
+    const auto neck = model.necking();
+    ASSERT_TRUE(neck.has_value());
+    EXPECT_NEAR(neck->trueStress, 500.0, 1e-9);
+}
+
 TEST(Necking, EndsTheCurve)
 {
     const PlasticModel model(example, steel);

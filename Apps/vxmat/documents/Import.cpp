@@ -48,25 +48,32 @@ std::string titleOf(const std::vector<const projectfile::ImportedMaterial*>& mat
     return std::to_string(materials.size()) + " materials (" + names + (materials.size() > mostNames ? ", ...)" : ")");
 }
 
+struct DoubtsAboutSystem
+{
+    std::vector<std::string> texts;
+    bool areAboutAll =
+        false; ///< whether most numbers of the file look like another system, and not those of a few materials
+};
+
 /// Returns doubts about numbers that look like another system than the assumed one: one doubt if this system explains most
 /// doubts about all materials, otherwise one for each system that such materials look like.
-std::vector<std::string> findOtherSystems(const ImportedMaterials& materials, const vxUnits::UnitSystem& assumed,
-                                          const std::string& document)
+DoubtsAboutSystem findOtherSystems(const ImportedMaterials& materials, const vxUnits::UnitSystem& assumed,
+                                   const std::string& document)
 {
     std::vector<const vxMat::MaterialBase*> all;
     for (const projectfile::ImportedMaterial& imported : materials)
         all.push_back(imported.material.get());
     if (const std::string fitting = vxUnits::betterFittingSystem(all, assumed); !fitting.empty())
-        return {doubtAboutSystem(document, fitting, assumed)};
+        return {{doubtAboutSystem(document, fitting, assumed)}, true};
     std::map<std::string, std::vector<const projectfile::ImportedMaterial*>> bySystem;
     for (const projectfile::ImportedMaterial& imported : materials) {
         const std::string fitting = vxUnits::betterFittingSystem({imported.material.get()}, assumed);
         if (!fitting.empty())
             bySystem[fitting].push_back(&imported);
     }
-    std::vector<std::string> doubts;
+    DoubtsAboutSystem doubts;
     for (const auto& [fitting, some] : bySystem)
-        doubts.push_back(doubtAboutSystem(document + ": " + titleOf(some), fitting, assumed));
+        doubts.texts.push_back(doubtAboutSystem(document + ": " + titleOf(some), fitting, assumed));
     return doubts;
 }
 
@@ -98,7 +105,7 @@ Answer importDocument(Input input, const ImportRequest& request)
         projectfile::ImportedMaterials imported = projectfile::importExchange(text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
-        for (const std::string& doubt : findOtherSystems(imported.materials, request.units.system(), document))
+        for (const std::string& doubt : findOtherSystems(imported.materials, request.units.system(), document).texts)
             notes.push_back("note: " + doubt);
         for (std::string& note : convert(imported.materials, request.units, document))
             notes.push_back(std::move(note));
@@ -134,8 +141,8 @@ ImportedMaterials toObjects(std::vector<vxDecks::ReadMaterial> materials)
 }
 
 /// Returns the doubts of findOtherSystems about materials whose numbers were read in a unit system.
-std::vector<std::string> findOtherSystemsOfDeck(const ImportedMaterials& materials, const std::string& units,
-                                                const std::string& path)
+DoubtsAboutSystem findOtherSystemsOfDeck(const ImportedMaterials& materials, const std::string& units,
+                                         const std::string& path)
 {
     const auto system = vxUnits::UnitSystem::parse(units);
     if (!system)
@@ -219,12 +226,14 @@ Answer importDeck(std::istream& file, vxDecks::Format format, const ImportReques
     if (countRefused(deck.report) > 0 || countFindings(deck.report) > 0)
         answer.status = Status::Findings;
     ImportedMaterials objects = toObjects(std::move(deck.materials));
-    const std::vector<std::string> doubts = findOtherSystemsOfDeck(objects, deck.report.units, request.file);
+    const DoubtsAboutSystem doubts = findOtherSystemsOfDeck(objects, deck.report.units, request.file);
+    const bool isDoubtful = !doubts.texts.empty() && (doubts.areAboutAll || request.units.areGiven());
     const std::vector<std::string> findings = findBesides(objects, deck.report, request.file);
-    if (!doubts.empty() || !findings.empty())
+    if (isDoubtful || !findings.empty())
         answer.status = Status::Findings;
     answer.add(findings);
-    answer.add(doubts);
+    for (const std::string& doubt : doubts.texts)
+        answer.messages.push_back((isDoubtful ? "" : "note: ") + doubt);
     writeNewProject(request.output, std::move(objects), request.existing, answer);
     return answer;
 }

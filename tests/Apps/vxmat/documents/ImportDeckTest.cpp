@@ -75,6 +75,25 @@ TEST(ImportDeck, OfTheDeckThatTheProgramWritesGivesTheSameMaterialsAgain)
     EXPECT_EQ(diff.out, "");
 }
 
+TEST(ImportDeck, NotesAMaterialInOtherUnitsThanTheDeckDeclaresButHasAFindingIfTheUserGivesThem)
+{
+    const Folder folder;
+    const std::string text = "*MATERIAL, NAME=A\n*ELASTIC\n210000., 0.3\n*DENSITY\n7.85e-9\n"
+                             "*MATERIAL, NAME=B\n*ELASTIC\n70000., 0.33\n*DENSITY\n2.7e-9\n"
+                             "*MATERIAL, NAME=C\n*ELASTIC\n110000., 0.34\n*DENSITY\n8.9e-9\n"
+                             "*MATERIAL, NAME=Odd\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850.\n";
+    const std::string doubt =
+        "4 Odd: the numbers look like SI, not mm-t-s; --units gives the unit system of its numbers\n";
+    const std::string declared = folder.file("d.inp", "** Units: mm, t, s, K, A\n" + text);
+    const Outcome noted = vxmat({"import", declared, "-o", folder.path("d.vxmat")});
+    EXPECT_EQ(noted.status, 0) << noted.err;
+    EXPECT_THAT(noted.err, HasSubstr("note: " + declared + ": " + doubt));
+    const std::string bare = folder.file("b.inp", text);
+    const Outcome found = vxmat({"import", bare, "--units", "mm-t-s", "-o", folder.path("b.vxmat")});
+    EXPECT_EQ(found.status, 1);
+    EXPECT_THAT(found.err, HasSubstr("vxmat: " + bare + ": " + doubt));
+}
+
 TEST(ImportDeck, IsAFindingIfTheUserMustGiveQuantities)
 {
     const Folder folder;

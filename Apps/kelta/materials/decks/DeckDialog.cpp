@@ -91,7 +91,7 @@ DeckDialog::DeckDialog(const Mat::DocumentMaterial& project, QWidget& parent)
     createViews();
     buildLayout();
     connectFields();
-    resize(900, 640);
+    resizeDeckDialog(*this);
     m_formats->setFocus();
     takeMaterials();
 }

@@ -46,7 +46,7 @@ ImportDeckDialog::ImportDeckDialog(DeckFile file, QWidget* parent)
     createFields();
     createMaterials();
     buildLayout();
-    resize(900, 640);
+    resizeDeckDialog(*this);
     askForUnits();
     connect(m_units, &UnitChoice::edited, this,
             [this] { Kelta::guarded(tr("The deck cannot be shown"), [this] { unitsChosen(); }); });

@@ -1,6 +1,7 @@
 #include "decks/TitledView.h"
 
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace desktop {
@@ -14,6 +15,14 @@ QWidget* makeTitledView(QLabel* title, QWidget* view, QWidget* parent)
     layout->addWidget(view, 1);
     title->setBuddy(view);
     return part;
+}
+
+void resizeDeckDialog(QWidget& dialog)
+{
+    constexpr QSize usual(900, 640);
+    const QScreen* const screen = dialog.screen();
+    // The rest is for the frame of the window.
+    dialog.resize(screen != nullptr ? usual.boundedTo(screen->availableSize() * 95 / 100) : usual);
 }
 
 } // namespace desktop

@@ -9,4 +9,7 @@ namespace desktop {
 /// ownership of both. A parent in the window of the view keeps the order of the keyboard.
 QWidget* makeTitledView(QLabel* title, QWidget* view, QWidget* parent);
 
+/// Gives a dialog of decks its usual size, or that of its screen if that is smaller, so that its buttons can be seen.
+void resizeDeckDialog(QWidget& dialog);
+
 } // namespace desktop

@@ -27,6 +27,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTimer>
 #include <QtTest/QtTestGui>
@@ -132,6 +133,14 @@ TEST_F(DeckExport, ShowsTextAndReportBeforeAFileIsWritten)
     QTest::keyClick(dialog(), Qt::Key_Escape);
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_EQ(project.getSettings().count(desktop::deckFormatSetting), 0U) << "nothing was exported";
+}
+
+TEST_F(DeckExport, FitsOnItsScreen)
+{
+    open();
+    const QSize screen = dialog()->screen()->availableSize();
+    EXPECT_LE(dialog()->width(), screen.width());
+    EXPECT_LE(dialog()->height(), screen.height());
 }
 
 TEST_F(DeckExport, FollowsFormatAndUnits)

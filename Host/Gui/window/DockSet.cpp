@@ -10,6 +10,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 
+#include <algorithm>
 #include <memory>
 
 namespace Gui {
@@ -43,8 +44,10 @@ void shrinkToOneLine(QWidget& content)
 bool isTooWideFor(const QMainWindow& window, DockArea area)
 {
     constexpr int charactersOfThreeColumns = 80;
+    constexpr int leastOfThreeColumns = 640; // for small fonts too, since buttons and margins do not shrink with them
     return area == DockArea::Right &&
-           window.width() < charactersOfThreeColumns * window.fontMetrics().averageCharWidth();
+           window.width() < std::max(leastOfThreeColumns,
+                                     charactersOfThreeColumns * window.fontMetrics().averageCharWidth());
 }
 
 QString nameOf(const DockEntry& entry)
@@ -133,6 +136,15 @@ void DockSet::toggle(const std::string& name) const
 {
     if (QDockWidget* const dock = find(name))
         dock->setVisible(!dock->isVisible());
+}
+
+void DockSet::makeRoomForDocuments() const
+{
+    if (!isTooWideFor(m_window, DockArea::Right))
+        return;
+    for (QDockWidget* const dock : m_window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (!dock->isFloating() && m_window.dockWidgetArea(dock) == Qt::RightDockWidgetArea)
+            dock->hide();
 }
 
 void DockSet::retranslate() const

@@ -32,6 +32,8 @@ public:
     void show(const std::string& name) const;
     /// Shows a hidden dock, or hides a visible dock. Does nothing if there is no such dock.
     void toggle(const std::string& name) const;
+    /// Hides the docks at the right of a window that is too narrow for them and documents.
+    void makeRoomForDocuments() const;
     /// Sets all titles in the language of the user.
     void retranslate() const;
 

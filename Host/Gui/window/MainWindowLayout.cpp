@@ -29,6 +29,7 @@ namespace {
 
 constexpr const char* geometryKey = "window/geometry";
 constexpr const char* stateKey = "window/state";
+constexpr const char* widthKey = "window/width";
 
 constexpr const char* explorerDock = "ProjectExplorer";
 constexpr const char* propertiesDock = "PropertyPanel";
@@ -223,6 +224,7 @@ void MainWindow::saveLayout() const
     writeOutline(settings, Gui::outlineOf(*this, Translator::instance()->language(), m_welcome->outline()));
     settings.setValue(QLatin1String(geometryKey), saveGeometry());
     settings.setValue(QLatin1String(stateKey), saveState());
+    settings.setValue(QLatin1String(widthKey), width());
 }
 
 void MainWindow::restoreLayout()
@@ -230,6 +232,9 @@ void MainWindow::restoreLayout()
     const QSettings settings;
     restoreGeometry(settings.value(QLatin1String(geometryKey)).toByteArray());
     restoreState(settings.value(QLatin1String(stateKey)).toByteArray());
+    // The screen is smaller, or its scale factor larger. Otherwise the user has wanted the docks in a window of this width.
+    if (width() < settings.value(QLatin1String(widthKey)).toInt())
+        m_docks->makeRoomForDocuments();
     showMessagesIfDue();
 }
 

@@ -226,6 +226,43 @@ TEST_F(WindowOutline, IsNotUsedInAnotherLanguage)
     Gui::Translator::instance()->setLanguage(QStringLiteral("en"));
 }
 
+/// Stores the layout as it is, with a window that fits into a smaller screen.
+class SmallerScreen : public WindowOutline
+{
+protected:
+    void storeNarrowWindow()
+    {
+        window->saveLayout();
+        window->resize(400, 560);
+        QSettings().setValue("window/geometry", window->saveGeometry());
+    }
+};
+
+TEST_F(SmallerScreen, HidesTheDocksThatWouldLeaveDocumentsNoRoom)
+{
+    storeNarrowWindow();
+    addModule(contributionsOfNextStart);
+    window = std::make_unique<MainWindow>(contributionsOfNextStart, MainWindow::Parts::OutlineFirst);
+    window->updateCommands();
+    window->show();
+    settle();
+    EXPECT_FALSE(shows("Gauges"));
+    complete();
+    EXPECT_FALSE(shows("Gauges"));
+    EXPECT_TRUE(shows("ProjectExplorer"));
+}
+
+TEST_F(SmallerScreen, KeepsTheDocksThatTheUserHasShownThere)
+{
+    window->resize(400, 560);
+    settle();
+    addModule(contributionsOfNextStart);
+    startAgain();
+    complete();
+    EXPECT_LE(window->width(), 420);
+    EXPECT_TRUE(shows("Gauges"));
+}
+
 TEST_F(WindowOutline, IsNotUsedAtTheFirstStart)
 {
     window = std::make_unique<MainWindow>(contributionsOfNextStart, MainWindow::Parts::OutlineFirst);

@@ -163,6 +163,17 @@ TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstInANarrowWindow)
     EXPECT_TRUE(dock("Gauges")->isVisible());
 }
 
+TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstInANarrowWindowWithASmallFontToo)
+{
+    QFont font = window->font();
+    font.setPixelSize(7);
+    window->setFont(font);
+    window->resizeWithDocks({576, 340}); // a screen of 1280 x 800 at 200 %
+    contributions.addDock(dockEntry("Gauges", "All gauges", Gui::DockVisibility::ShownAtFirst));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Gauges") != nullptr; }));
+    EXPECT_FALSE(dock("Gauges")->isVisible());
+}
+
 TEST_F(Contributed, DocksThatAreHiddenAtFirstAreShownWhenAWorkbenchWantsThem)
 {
     contributions.addDock(dockEntry("NoSuchDock", "Wanted by the test workbench", Gui::DockVisibility::HiddenAtFirst));

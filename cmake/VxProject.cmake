@@ -44,6 +44,10 @@ add_library(vx_options INTERFACE)
 # Qt 5 writes the keys of a shortcut as the sum of two enumerations, Qt::CTRL + Qt::Key_D, of which Clang warns.
 target_compile_options(vx_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                             $<$<CXX_COMPILER_ID:Clang>:-Wno-enum-enum-conversion>)
+if(VX_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # A local name may hide one of another source of the group. GCC and lint check this in single sources.
+    target_compile_options(vx_options INTERFACE -Wno-shadow)
+endif()
 if(VX_WARNINGS_AS_ERRORS)
     target_compile_options(vx_options INTERFACE -Werror)
 endif()

@@ -15,7 +15,7 @@ namespace vxConstitutive {
 struct ModelDoubt
 {
     Finding finding;
-    std::int32_t propertyId; ///< vxMat::PropertyId of the quantity that it is about
+    std::int32_t propertyId{}; ///< vxMat::PropertyId of the quantity that it is about
 };
 
 /// Returns a curve of a model.

@@ -83,7 +83,12 @@ std::vector<std::string> convert(ImportedMaterials& materials, const ChosenUnits
     std::vector<std::string> notes;
     for (projectfile::ImportedMaterial& imported : materials)
         if (const std::string note = units.revert(*imported.material); !note.empty())
-            notes.push_back("note: " + document + ": " + titleOf(imported) + ": " + note);
+            notes.push_back(std::string("note: ")
+                                .append(document)
+                                .append(": ")
+                                .append(titleOf(imported))
+                                .append(": ")
+                                .append(note));
     return notes;
 }
 
@@ -168,6 +173,7 @@ std::vector<std::string> findBesides(const ImportedMaterials& materials, const v
         for (const vxMat::MaterialFinding& one : vxDecks::findingsBesides(report.materials[i], *materials[i].material))
             byText[toText(one)].push_back(&materials[i]);
     std::vector<std::string> texts;
+    texts.reserve(byText.size());
     for (const auto& [text, some] : byText)
         texts.push_back(std::string(path).append(": ").append(titleOf(some)).append(": ").append(text));
     return texts;

@@ -113,9 +113,16 @@ public:
             const std::size_t sign = signOf(value);
             if (sign == std::string::npos) {
                 if (general && *general != value)
-                    throw Failure(option + ": \"" + *general + "\" and \"" + value +
-                                  "\" are both for all tests; say for which test each is, such as " + option +
-                                  " \"1=" + *general + "\"");
+                    throw Failure(std::string(option)
+                                      .append(": \"")
+                                      .append(*general)
+                                      .append("\" and \"")
+                                      .append(value)
+                                      .append("\" are both for all tests; say for which test each is, such as ")
+                                      .append(option)
+                                      .append(" \"1=")
+                                      .append(*general)
+                                      .append("\""));
                 general = value;
             } else if (means(value.substr(0, sign), test))
                 own = value.substr(sign + 1);

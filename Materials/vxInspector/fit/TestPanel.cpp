@@ -195,7 +195,7 @@ void TestPanel::fillRemoveMenu()
         add(tr("Test \"%1\" from this tab").arg(shortened(QString::fromStdString(test->request.name), 30)),
             &TestPanel::remove);
     if (keeper != nullptr)
-        add(tr("Test \"%1\" from the material \"%2\"")
+        add(tr(R"(Test "%1" from the material "%2")")
                 .arg(shortened(QString::fromStdString(test->request.name), 30), labelOf(*keeper)),
             &TestPanel::removeFromMaterial);
     if (keepsSomething(m_tests))
@@ -221,9 +221,9 @@ void TestPanel::removeFromMaterial()
     const KeptText kept = withoutTest(material->getSetting(vxConstitutive::measurementsSetting), name);
     m_tests.takeOut(row);
     m_tests.noteRemoved(*material, kept);
-    setMeasurements(*material, kept.text, tr("Remove test \"%1\" from \"%2\"").arg(shownName, label));
+    setMeasurements(*material, kept.text, tr(R"(Remove test "%1" from "%2")").arg(shownName, label));
     Gui::MainWindow::announce(
-        tr("\"%1\" does not keep the test \"%2\" any more. Undo brings it back.").arg(label, shownName));
+        tr(R"("%1" does not keep the test "%2" any more. Undo brings it back.)").arg(label, shownName));
 }
 
 /// Tests of the user stay.

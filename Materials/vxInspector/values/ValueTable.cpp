@@ -27,8 +27,9 @@ Cell rangeCell(const vxMat::HeldProperty& held, const vxUnits::UnitSystem& syste
 {
     const vxUnits::Quantity* const quantity = vxUnits::findQuantity(held.slot);
     Cell cell;
-    if (quantity != nullptr && quantity->hasNumber())
-        cell.bar = rangeBar(*quantity, numbersOf(held));
+    if (quantity == nullptr || !quantity->hasNumber())
+        return cell;
+    cell.bar = rangeBar(*quantity, numbersOf(held));
     if (cell.bar) {
         cell.text = rangeText(*cell.bar);
         cell.toolTip = cell.text + QLatin1Char('\n') + rangeToolTip(*quantity, system);

@@ -133,6 +133,7 @@ std::vector<std::string> translatedArguments(const Message& message, const Trans
 
 } // namespace
 
+// NOLINTNEXTLINE(misc-no-recursion): messages that follow another have none of their own
 std::string Message::text(const Translator& translator) const
 {
     std::string whole = translator

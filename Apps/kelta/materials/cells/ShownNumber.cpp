@@ -35,7 +35,7 @@ QString withMagnitudeInSight(const QString& text, const QFontMetrics& font, int 
     const int mark = exact.indexOf(QLatin1Char('e'));
     constexpr int fewest = 3; // characters of the mantissa
     for (int kept = mark; kept >= std::min(fewest, mark); --kept) {
-        const QString shown = exact.left(kept) + (kept < mark ? QString(ellipsis) : QString()) + exact.mid(mark);
+        QString shown = exact.left(kept) + (kept < mark ? QString(ellipsis) : QString()) + exact.mid(mark);
         if (font.horizontalAdvance(shown) <= width)
             return shown;
     }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t mostLines = 2000;
 constexpr int longestBeginning = 400000;
-constexpr std::size_t mostBytesOfLine = 4U * longestLine; // a character has at most four
+constexpr std::size_t mostBytesOfLine = std::size_t{4} * longestLine; // a character has at most four
 
 /// Returns a sentence about the data that a project keeps beside materials, such as measurements; empty if there is none.
 QString describeSettings(const std::vector<Mat::MaterialObject*>& objects)

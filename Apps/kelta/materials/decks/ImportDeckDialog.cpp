@@ -222,7 +222,7 @@ void ImportDeckDialog::showPreview(std::shared_ptr<DeckPreview> preview)
     QStringList sentences{m_preview->summary, vxInspector::deckRemarks(m_preview->deck.report)};
     if (m_preview->withFindings > 0)
         sentences << tr("Materials with findings: %1.").arg(m_preview->withFindings);
-    if (m_preview->withDoubts)
+    if (m_preview->withDoubts > 0)
         sentences << tr("Materials with doubts: %1.").arg(m_preview->withDoubts);
     if (m_hasFileChanged)
         sentences.prepend(tr("The file has changed and was read again. Check the report before you import it."));

@@ -23,6 +23,7 @@ constexpr std::array<MessageText, static_cast<std::size_t>(Text::Count)> texts{{
     {"units.not-finite", R"("%1" is not a finite number.)"},
     {"units.hexadecimal", R"("%1" is a hexadecimal number; write it in decimals.)"},
     {"units.exponent-without-digits", R"(The exponent in "%1" has no digits.)"},
+    {"units.exponent-apart", R"(The exponent in "%1" must follow the number without a blank.)"},
     {"units.exponent-not-whole", R"(The exponent in "%1" is not a whole number.)"},
     {"units.exponent-letter", R"(The exponent in "%1" must be written with the letter e.)"},
     {"units.two-points", R"("%1" has more than one decimal point.)"},
@@ -70,6 +71,7 @@ constexpr std::array<MessageText, static_cast<std::size_t>(Text::Count)> texts{{
     {"units.list-comma-not-clear",
      R"(The comma in "%1" may be a decimal sign or separate two numbers; write "%2" or "%3".)"},
     {"units.system-empty", "A unit system needs a name (%1) or its base units (%2)."},
+    {"units.system-unknown", R"("%1" is neither the name of a unit system nor base units such as "%2".)"},
     {"units.system-base-unknown", R"("%1" does not begin with one of length, mass, time, temperature and current.)"},
     {"units.system-unit-missing", "The unit of %1 is missing; a unit such as %2 is needed."},
     {"units.system-unit-with-number", R"("%1" begins with a number; %2 needs a unit alone, such as %3.)"},
@@ -185,6 +187,21 @@ Failure makeFailure(FaultCode code, Text text, std::vector<std::string> argument
     return {code, makeMessage(text, std::move(arguments)), std::move(suggestion)};
 }
 
+namespace {
+
+/// Returns whether a character can be quoted: it is none of the controls, of which some turn the direction of the text
+/// around them.
+bool isShown(std::uint32_t character)
+{
+    const bool control = character < 0x20 || (character >= 0x7F && character <= 0x9F);
+    const bool direction = character == 0x61C || character == 0x200E || character == 0x200F ||
+                           (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
+    const bool lineEnd = character == 0x2028 || character == 0x2029;
+    return !control && !direction && !lineEnd;
+}
+
+} // namespace
+
 std::string excerpt(std::string_view text)
 {
     constexpr std::size_t longest = 60;
@@ -193,8 +210,7 @@ std::string excerpt(std::string_view text)
         const CodePoint point = readCodePoint(text, at);
         if (at + point.length > longest)
             return quoted + "...";
-        const bool shown = point.value >= 0x20 && point.value != 0x7F && (point.value < 0x80 || point.value > 0x9F);
-        quoted += !point.valid || !shown ? std::string("?") : std::string(text.substr(at, point.length));
+        quoted += !point.valid || !isShown(point.value) ? std::string("?") : std::string(text.substr(at, point.length));
         at += point.length;
     }
     return quoted;

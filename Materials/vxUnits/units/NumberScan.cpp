@@ -192,15 +192,36 @@ private:
     bool readExponentDigits()
     {
         const std::size_t begin = m_reader.position();
-        if (m_reader.peek() == '+' || m_reader.peek() == '-')
-            m_reader.skip();
+        skipSign();
+        const std::string_view sign = m_reader.from(begin);
         if (m_reader.takeWhile(isDigit).empty())
-            return refuse(FaultCode::MalformedNumber, Text::ExponentWithoutDigits);
+            return refuseWithoutExponent(sign);
         if (m_reader.peek() == '.' && isDigit(m_reader.peek(1)))
             return refuse(FaultCode::MalformedNumber, Text::ExponentNotWhole);
         m_number.exponent = readExponent(m_reader.from(begin));
         m_exponent = true;
         return true;
+    }
+
+    void skipSign()
+    {
+        if (m_reader.peek() == '+' || m_reader.peek() == '-')
+            m_reader.skip();
+    }
+
+    /// Refuses "1e GPa", and "1e 5", whose digits are apart.
+    bool refuseWithoutExponent(std::string_view sign)
+    {
+        m_reader.skipBlanks();
+        return isDigit(m_reader.peek()) ? refuseApart(sign)
+                                        : refuse(FaultCode::MalformedNumber, Text::ExponentWithoutDigits);
+    }
+
+    /// Refuses a number with a blank in its exponent. The reader is before the digits of the exponent.
+    bool refuseApart(std::string_view sign)
+    {
+        return refuse(FaultCode::MalformedNumber, Text::ExponentApart,
+                      corrected(m_number.mantissa + "e" + std::string(sign)));
     }
 
     /// Refuses "2.1D11", as some solvers write it. Without digits after it, the letter is the unit of days.
@@ -217,7 +238,10 @@ private:
     /// Refuses "2.1+11", as some solvers write it, and "200-210", which is a range.
     bool refuseSignWithoutLetter()
     {
-        const bool exponent = m_number.mantissa.find('.') != std::string::npos;
+        std::size_t end = 1;
+        while (isDigit(m_reader.peek(end)))
+            ++end;
+        const bool exponent = m_number.mantissa.find('.') != std::string::npos && m_reader.peek(end) != '.';
         if (!exponent)
             return refuse(FaultCode::SeveralNumbers, Text::SeveralNumbers);
         return refuse(FaultCode::MalformedNumber, Text::ExponentLetter, corrected(m_number.mantissa + "e"));
@@ -252,11 +276,32 @@ private:
         return m_reader.skipPowerSign();
     }
 
+    /// Refuses "1 e5", whose exponent is apart, and "200 - 210", a range.
+    bool checkSignAndExponent()
+    {
+        const std::size_t begin = m_reader.position();
+        const bool letter = !m_exponent && (m_reader.peek() == 'e' || m_reader.peek() == 'E');
+        m_reader.skip(letter ? 1 : 0);
+        m_reader.skipBlanks();
+        const std::size_t signBegin = m_reader.position();
+        skipSign();
+        const std::string_view sign = m_reader.from(signBegin);
+        m_reader.skipBlanks();
+        if (isDigit(m_reader.peek()) && letter)
+            return refuseApart(sign);
+        if (isDigit(m_reader.peek()) && !sign.empty())
+            return refuse(FaultCode::SeveralNumbers, Text::SeveralNumbers);
+        m_reader.goTo(begin);
+        return true;
+    }
+
     /// Checks that no second number follows, except the 1 of "1/Pa".
     bool checkWhatFollows()
     {
         const std::size_t end = m_reader.position();
         m_reader.skipBlanks();
+        if (!checkSignAndExponent())
+            return false;
         if (!isDigit(m_reader.peek()) || isReciprocal()) {
             m_reader.goTo(end);
             return true;

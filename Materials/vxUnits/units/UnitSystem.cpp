@@ -21,6 +21,7 @@ namespace {
 constexpr std::size_t baseUnitCount = 5;
 
 constexpr const char* baseWords[baseUnitCount] = {"length", "mass", "time", "temperature", "current"};
+constexpr const char* exampleOfBases = "length cm, mass g, time us";
 
 /// The base units of a built-in system, and the derived units that engineers do not write as products of base units.
 struct BuiltInSystem
@@ -160,7 +161,7 @@ public:
             const auto* const from = folded.data() + begin;
             const auto* const end = std::find_if(from, folded.data() + folded.size(), isSeparator);
             if (!readBase(trimmed({from, static_cast<std::size_t>(end - from)})))
-                return std::move(m_failure);
+                return m_hasBase ? std::move(m_failure) : unknownName(folded);
             begin = static_cast<std::size_t>(end - folded.data()) + 1;
         }
         return complete();
@@ -171,6 +172,11 @@ private:
     {
         bases.terms[base] = termsOf(unit);
         bases.texts[base] = UnitBuilder::build(bases.terms[base]).text();
+    }
+
+    static Failure unknownName(const std::string& text)
+    {
+        return makeFailure(FaultCode::MalformedUnitSystem, Text::SystemUnknown, {excerpt(text), exampleOfBases});
     }
 
     bool refuse(Text text, std::vector<std::string> arguments)
@@ -189,6 +195,7 @@ private:
         });
         if (found == std::end(baseWords))
             return refuse(Text::SystemBaseUnknown, {excerpt(text)});
+        m_hasBase = true;
         const auto base = static_cast<std::size_t>(found - std::begin(baseWords));
         if (!m_bases->texts[base].empty())
             return refuse(Text::SystemBaseRepeated, {*found});
@@ -237,6 +244,7 @@ private:
 
     std::shared_ptr<UnitSystem::Bases> m_bases = std::make_shared<UnitSystem::Bases>();
     Failure m_failure;
+    bool m_hasBase = false; ///< whether a word for a base unit was read
 };
 
 namespace {
@@ -256,6 +264,20 @@ bool isNameOf(const BuiltInSystem& row, std::string_view text)
     return false;
 }
 
+/// Returns a text in lower case, with one "-" for each separator of units: "mm-t-s" for "mm, T, s".
+std::string hyphenated(const std::string& text)
+{
+    std::string hyphens;
+    for (const char c : text) {
+        const bool separates = isSeparator(c) || c == ' ' || c == '-' || c == '/';
+        if (!separates)
+            hyphens += 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+        else if (!hyphens.empty() && hyphens.back() != '-')
+            hyphens += '-';
+    }
+    return hyphens;
+}
+
 /// Returns the name of the built-in system that differs from a text by at most two letters; empty if there is none.
 std::string nearestSystem(const std::string& text)
 {
@@ -266,17 +288,30 @@ std::string nearestSystem(const std::string& text)
     std::size_t fewest = mostErrors + 1;
     if (text.size() < shortest || text.size() > longest)
         return nearest;
-    std::string lower = text;
-    for (char& c : lower)
-        c = 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    const std::string typed = hyphenated(text);
     for (const BuiltInSystem& row : builtInSystems) {
-        const std::size_t errors = editDistance(lower, row.name);
+        const std::size_t errors = editDistance(typed, hyphenated(row.name));
         if (errors < fewest) {
             fewest = errors;
             nearest = row.name;
         }
     }
     return nearest;
+}
+
+/// Returns the text with a comma before each word for a base unit that only a blank separates; empty if there is none.
+std::string withCommasBeforeBases(std::string text)
+{
+    bool changed = false;
+    for (const char* const word : baseWords) {
+        const std::string apart = std::string(" ") + word + " ";
+        const std::size_t at = text.find(apart);
+        if (at == std::string::npos || at == 0 || isSeparator(text[at - 1]))
+            continue;
+        text.insert(at, ",");
+        changed = true;
+    }
+    return changed ? text : std::string();
 }
 
 std::string builtInNames()
@@ -311,8 +346,7 @@ Result<UnitSystem> UnitSystem::parse(std::string_view text)
     if (folded.fault != FoldedText::Fault::None)
         return failureOf(folded, text);
     if (folded.text.empty())
-        return makeFailure(FaultCode::MalformedUnitSystem, Text::SystemEmpty,
-                           {builtInNames(), "length cm, mass g, time us"});
+        return makeFailure(FaultCode::MalformedUnitSystem, Text::SystemEmpty, {builtInNames(), exampleOfBases});
     const auto* const row = std::find_if(std::begin(builtInSystems), std::end(builtInSystems),
                                          [&](const BuiltInSystem& one) { return isNameOf(one, folded.text); });
     if (row != std::end(builtInSystems))
@@ -321,7 +355,10 @@ Result<UnitSystem> UnitSystem::parse(std::string_view text)
     if (system)
         return system;
     Failure failure = system.failure();
-    if (failure.suggestion.empty())
+    const std::string separated = withCommasBeforeBases(folded.text);
+    if (!separated.empty() && SystemParser().parse(separated))
+        failure.suggestion = separated;
+    else if (failure.suggestion.empty())
         failure.suggestion = nearestSystem(folded.text);
     return failure;
 }

@@ -76,6 +76,20 @@ const Refusal refusals[] = {
     {e, "206'900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
     {e, "206_900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
     {e, "206’900 MPa", FaultCode::ThousandsSeparator, "206900 MPa"},
+    {e, "200 - 210 GPa", FaultCode::SeveralNumbers, ""},
+    {e, "200 -210 GPa", FaultCode::SeveralNumbers, ""},
+    {e, "2.0-2.1 GPa", FaultCode::SeveralNumbers, ""},
+    {e, "1e3 - 1e4", FaultCode::SeveralNumbers, ""},
+    {e, "1 e5 Pa", FaultCode::MalformedNumber, "1e5 Pa"},
+    {e, "1 E5", FaultCode::MalformedNumber, "1e5"},
+    {e, "-2.1 e+11 Pa", FaultCode::MalformedNumber, "-2.1e+11 Pa"},
+    {e, "2.1 e 11", FaultCode::MalformedNumber, "2.1e11"},
+    {e, "2.1e 11 Pa", FaultCode::MalformedNumber, "2.1e11 Pa"},
+    {e, "2.1 e - 3 GPa", FaultCode::MalformedNumber, "2.1e-3 GPa"},
+    {e, "1e- 5 Pa", FaultCode::MalformedNumber, "1e-5 Pa"},
+    {e, "2.1*10^ 11 Pa", FaultCode::MalformedNumber, "2.1e11 Pa"},
+    {e, "2,1 e11", FaultCode::DecimalComma, "2.1e11"},
+    {e, "1 e5 furlong", FaultCode::MalformedNumber, ""},
     {e, "5 5 MPa", FaultCode::SeveralNumbers, ""},
     {e, "1.5,5 Pa", FaultCode::SeveralNumbers, ""},
     {e, "1.2 10^6 Pa", FaultCode::SeveralNumbers, "1.2*10^6 Pa"},
@@ -248,6 +262,20 @@ TEST(Refusals, QuoteWhatWasTyped)
     EXPECT_EQ(readQuantityList(Id::PlasticStrain, "0 10 20 %").failure().message.arguments.front(), "0 10 20 %");
     EXPECT_EQ(readQuantity(e, "210 [GPa]").failure().message.arguments,
               (std::vector<std::string>{"210 [GPa]", "U+005B"}));
+}
+
+TEST(Refusals, QuoteNoCharacterThatTurnsTheTextAroundIt)
+{
+    EXPECT_EQ(readQuantity(e, "1 \u202EPa").failure().text(),
+              "\"1 ?Pa\" contains the character U+202E, which no number and no unit has.");
+    EXPECT_EQ(readQuantity(e, "1 \u2067Pa").failure().message.arguments.front(), "1 ?Pa");
+}
+
+TEST(Refusals, OfAnExponentApartFromItsNumberSaySo)
+{
+    EXPECT_EQ(readQuantity(e, "1 e5 Pa").failure().text(),
+              "The exponent in \"1 e5 Pa\" must follow the number without a blank. Did you mean \"1e5 Pa\"?");
+    EXPECT_EQ(readNumber("1 eV", *Unit::parse("J"))->understood, "1 eV = 1.602176634e-19 J") << "is no exponent";
 }
 
 TEST(Refusals, OfAListSayWhichNumberHasNoUnit)

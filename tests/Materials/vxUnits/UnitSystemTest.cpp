@@ -287,10 +287,14 @@ TEST(UnitSystems, SayWhatIsWrongWithATheirText)
         {"",
          "A unit system needs a name (SI, mm-t-s, mm-kg-ms, cm-g-s, ft-slug-s, in-lbf-s) or its base units (length cm, "
          "mass g, time us)."},
-        {"mm-t", "\"mm-t\" does not begin with one of length, mass, time, temperature and current. Did you mean "
-                 "\"mm-t-s\"?"},
-        {"mm-kg-m", "\"mm-kg-m\" does not begin with one of length, mass, time, temperature and current. Did you mean "
-                    "\"mm-kg-ms\"?"},
+        {"mm-t", "\"mm-t\" is neither the name of a unit system nor base units such as \"length cm, mass g, time us\". "
+                 "Did you mean \"mm-t-s\"?"},
+        {"mm, kg, ms", "\"mm, kg, ms\" is neither the name of a unit system nor base units such as \"length cm, mass "
+                       "g, time us\". Did you mean \"mm-kg-ms\"?"},
+        {"ips", "\"ips\" is neither the name of a unit system nor base units such as \"length cm, mass g, time us\"."},
+        {"length mm, tonnes t, time s",
+         "\"tonnes t\" does not begin with one of length, mass, time, temperature and current."},
+        {"length mm mass t time s", "The unit \"mass\" is not known. Did you mean \"length mm, mass t, time s\"?"},
         {"length cm, mass g, time", "The unit of time is missing; a unit such as s is needed."},
         {"length -1 m, mass g, time s", "\"-1 m\" begins with a number; length needs a unit alone, such as m."},
         {"length mm, mass t", "The unit system gives no unit of time."},

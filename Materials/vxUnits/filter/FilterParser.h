@@ -82,6 +82,7 @@ private:
     bool readRangeOrLabel(std::size_t first, std::size_t last);
     bool refuseComparison(std::size_t first, std::size_t last);
     bool refuseValueFirst(std::size_t first, std::size_t last);
+    bool refuseSecondComparison(std::size_t first);
     bool refuseValue(const FilterQuantity& quantity, Part value, Failure failure);
     bool finish();
 

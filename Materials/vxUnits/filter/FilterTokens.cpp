@@ -45,6 +45,27 @@ struct Keyword
 };
 constexpr Keyword keywords[] = {{"and", Kind::And}, {"or", Kind::Or}, {"not", Kind::Not}, {"has", Kind::Has}};
 
+/// A sign or word that users write for a keyword.
+struct OtherKeyword
+{
+    const char* typed;
+    const char* meant;
+};
+constexpr OtherKeyword signsForKeywords[] = {{"&", "and"}, {"&&", "and"}, {"|", "or"}, {"||", "or"}, {"!", "not"}};
+constexpr OtherKeyword wordsForKeywords[] = {
+    {",", "and"},  {";", "and"},  {"+", "and"},    {"und", "and"}, {"oder", "or"}, {"nicht", "not"}, {"且", "and"},
+    {"和", "and"}, {"与", "and"}, {"并且", "and"}, {"或", "or"},   {"或者", "or"}, {"非", "not"},    {"不", "not"},
+};
+
+template <std::size_t count>
+const char* keywordIn(const OtherKeyword (&table)[count], std::string_view typed)
+{
+    for (const OtherKeyword& one : table)
+        if (vxMat::equalIgnoringAsciiCase(typed, one.typed))
+            return one.meant;
+    return nullptr;
+}
+
 bool isBlank(std::uint32_t character)
 {
     return character <= ' ' || character == 0x7F || character == 0xA0 || character == 0x3000 || character == 0x202F ||
@@ -151,6 +172,17 @@ private:
 };
 
 } // namespace
+
+const char* keywordOfSign(std::string_view sign)
+{
+    return keywordIn(signsForKeywords, sign);
+}
+
+const char* keywordOfWord(std::string_view word)
+{
+    const char* const meant = keywordOfSign(word);
+    return meant != nullptr ? meant : keywordIn(wordsForKeywords, word);
+}
 
 const char* spellingOf(Comparison comparison)
 {

@@ -49,6 +49,11 @@ struct FilterToken
     bool isKeyword() const { return kind >= Kind::And && kind <= Kind::Has; }
 };
 
+/// Returns the keyword that is meant by a sign, "and" for "&"; null for other texts.
+const char* keywordOfSign(std::string_view sign);
+/// Returns the keyword that is meant by a sign or by a word of another language, "and" for "und"; null for other texts.
+const char* keywordOfWord(std::string_view word);
+
 /// Splits a filter expression, which must be UTF-8. The last token is End. Full-width signs and typographic quotes are the
 /// same as plain ones.
 std::vector<FilterToken> splitFilter(std::string_view text);

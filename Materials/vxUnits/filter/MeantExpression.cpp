@@ -14,13 +14,12 @@ namespace {
 
 using Kind = FilterToken::Kind;
 
-/// A sign or word that users write, and its spelling in filters.
+/// A sign or word that users write for a comparison, and its spelling in filters.
 struct Spelling
 {
     const char* typed;
     const char* meant;
 };
-constexpr Spelling operators[] = {{"&", "and"}, {"&&", "and"}, {"|", "or"}, {"||", "or"}, {"!", "not"}};
 constexpr Spelling comparisons[] = {
     {"~", "="},      {":", "="},     {"\xE2\x89\x88", "="}, {"is", "="},    {"equals", "="}, {"about", "="},
     {"around", "="}, {"above", ">"}, {"over", ">"},         {"below", "<"}, {"under", "<"},  {"..", "<="},
@@ -57,6 +56,9 @@ public:
         : m_text(text), m_context(context), m_names(names), m_parser(text, context, names)
     {
         m_isReadable = static_cast<bool>(m_parser.read());
+        const auto& tokens = m_parser.tokens();
+        m_hasComparison = std::any_of(tokens.begin(), tokens.end(),
+                                      [](const FilterToken& one) { return one.kind == Kind::Comparison; });
     }
 
     /// Returns the expression; empty if there is no such part.
@@ -116,11 +118,12 @@ private:
                 return;
     }
 
+    /// Beside a comparison, "und" is more likely an operator than a part of a label.
     void mendOperator(std::size_t at)
     {
         const std::string_view word = token(at).text;
         const std::string_view behind = m_text.substr(token(at).end);
-        if (const char* const meant = meaningOf(operators, word))
+        if (const char* const meant = m_hasComparison ? keywordOfWord(word) : keywordOfSign(word))
             offer({before(at), meant, behind});
         else if (word.front() == '!')
             offer({before(at), "not ", word.substr(1), behind});
@@ -207,6 +210,7 @@ private:
     const QuantityNames& m_names;
     FilterParser m_parser;
     bool m_isReadable = false;
+    bool m_hasComparison = false;
     std::size_t m_last = 0; ///< end of the words that are mended
     std::string m_mended;
 };

@@ -74,6 +74,22 @@ const Refusal refusals[] = {
     {"E > 5 GPa old steel", FaultCode::UnknownUnit, 0, "E > 5 GPa old steel",
      R"("old steel" is not a known unit; write "and" before another condition. Did you mean "E > 5 GPa and old steel"?)"},
     {"E > 1 GPa < 5 GPa", malformed, 10, "<", "\"<\" follows a comparison; write \"and\" between two comparisons."},
+    {"E > 1 GPa und rho < 3", malformed, 0, "E > 1 GPa und rho",
+     "\"<\" follows a comparison; write \"and\" between two comparisons. Did you mean \"E > 1 GPa and rho\"?"},
+    {"steel E > 1 GPa || rho < 3", malformed, 6, "E > 1 GPa || rho",
+     "\"<\" follows a comparison; write \"and\" between two comparisons. Did you mean \"E > 1 GPa or rho\"?"},
+    {"E > 1 GPa, Young's modulus < 3", malformed, 0, "E > 1 GPa, Young's modulus",
+     "\"<\" follows a comparison; write \"and\" between two comparisons. Did you mean \"E > 1 GPa and Young's "
+     "modulus\"?"},
+    {"E > 1 GPa rho < 3", malformed, 0, "E > 1 GPa rho",
+     "\"<\" follows a comparison; write \"and\" between two comparisons. Did you mean \"E > 1 GPa and rho\"?"},
+    {"E > 1 GPa 或 rho < 3", malformed, 0, "E > 1 GPa 或 rho",
+     "\"<\" follows a comparison; write \"and\" between two comparisons. Did you mean \"E > 1 GPa or rho\"?"},
+    {"E > 1 GPa oder steel", FaultCode::UnknownUnit, 0, "E > 1 GPa oder steel",
+     "\"oder steel\" is not a known unit; write \"and\" before another condition. Did you mean \"E > 1 GPa or "
+     "steel\"?"},
+    {"E > 100 und rho", FaultCode::UnknownUnit, 0, "E > 100 und rho",
+     "\"und rho\" is not a known unit; write \"and\" before another condition. Did you mean \"E > 100 and rho\"?"},
     {"rho 1..2 nu > 0.3", malformed, 12, ">", "\">\" follows a comparison; write \"and\" between two comparisons."},
     {"E > 1..2 GPa", malformed, 4, "1..2 GPa", "\"1..2 GPa\" is a range; only \"=\" and \"!=\" compare it."},
     {"E 1..2 gpa", FaultCode::UnknownUnit, 2, "1..2 gpa",
@@ -107,7 +123,8 @@ TEST(FilterRefusals, SuggestWhatIsTakenInPlaceOfTheFault)
     for (const char* const expression :
          {"densty > 5", "yuongs modulus < 5 GPa and steel", "E > 2,1 GPa", "100 GPa < E", "Yield type = Misses",
           "Yield type < Mises", "creep = 1", "1 GPa < E < 5 GPa", "E > 5 steel", "E > 5 GPa old steel",
-          "has creeep and E > 1", "\"steel", "E 1..2 gpa"})
+          "has creeep and E > 1", "\"steel", "E 1..2 gpa", "E > 1 GPa und rho < 3 g/cm3", "steel E > 1 GPa; rho < 3",
+          "E > 1 GPa oder steel"})
     {
         const FilterReading reading = readFilter(expression);
         ASSERT_FALSE(reading) << expression;

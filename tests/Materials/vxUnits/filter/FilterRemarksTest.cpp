@@ -40,6 +40,10 @@ TEST(FilterRemarks, SuggestTheConditionThatWordsForLabelsLookLike)
         {"!steel", "not steel"},
         {"! steel", "not steel"},
         {"rho rho > 1", "rho > 1"},
+        {"steel und E > 5", "steel and E > 5"},
+        {"steel Oder E > 5", "steel or E > 5"},
+        {"nicht E > 5", "not E > 5"},
+        {"钢 且 E > 5", "钢 and E > 5"},
         // Labels and other conditions beside the words
         {"steel E 200 GPa", "steel E = 200 GPa"},
         {"E 200 GPa steel", "E = 200 GPa and steel"},

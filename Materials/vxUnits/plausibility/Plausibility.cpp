@@ -209,6 +209,8 @@ std::optional<Explanation> bestExplanation(const MaterialValues& values, const s
         return best;
     if (hasRest) {
         best = bestExplanation(values, slips, rest, Trust::AllButDensity, Demand::NearSomeKind);
+        if (best && !isDecimal(*best->slip)) // is more often a coincidence; the density may be right
+            best->support = std::max(best->support, Support::Rivalled);
         if (best)
             return best;
     }

@@ -533,6 +533,12 @@ TEST(Remedies, AreOnePossibilityIfAnotherIsAboutAsLikely)
     // steel of 2.1e6 kgf/cm2, or a foam with the density of steel
     EXPECT_EQ(remedyOf(metal(7850, 2.1e6, 0.3)),
               "One possibility: 2100000 kgf/cm^2 is usual for steel; then multiply by 98066.5");
+    // 1 Msi would be an alkali metal, which the density contradicts
+    MaterialValues values = metal(7850, 1, 0.3);
+    values.setNumber(Id::SpecificHeat, 460.5);
+    values.setNumber(Id::ThermalConductivity, 51.9);
+    values.setNumber(Id::ElectricalConductivity, 5.8e7);
+    EXPECT_THAT(remedyOf(values), testing::Not(testing::HasSubstr("metal: multiply")));
 }
 
 TEST(Remedies, AreNotNamedIfAnErrorOfTypingIsMoreLikely)

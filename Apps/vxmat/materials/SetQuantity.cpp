@@ -184,7 +184,7 @@ void setValue(const Setting& setting, ProjectRecord& project, Answer& answer)
     const PropertyRecord& quantity = findQuantity(setting.quantity);
     ObjectRecord& object = findMaterial(setting, project);
     vxMat::MaterialBase& material = *object.ownMaterial;
-    ReadValue read = readValue(quantity, setting.value, material);
+    ReadValue read = readValue(quantity, *setting.value, material);
     material.setProperty(quantity.id, std::move(read.property));
     answer.text += printable(object.label) + ": " + quantity.name + ": " + printable(read.understood) + "\n";
     if (*read.note.id != '\0')
@@ -207,8 +207,8 @@ void setUnits(const std::string& system, ProjectRecord& project, Answer& answer)
 
 bool hasMaterial(const Setting& setting)
 {
-    const bool isComplete = !setting.material.empty() && !setting.quantity.empty() && !setting.value.empty();
-    const bool isAbsent = setting.material.empty() && setting.quantity.empty() && setting.value.empty();
+    const bool isComplete = !setting.material.empty() && !setting.quantity.empty() && setting.value;
+    const bool isAbsent = setting.material.empty() && setting.quantity.empty() && !setting.value;
     if (!isComplete && (!isAbsent || !setting.projectUnits))
         throw Failure("give a material, a quantity and a value, or --project-units");
     return isComplete;

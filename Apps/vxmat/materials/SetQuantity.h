@@ -14,7 +14,8 @@ struct Setting
     std::string project;  ///< the path of the project file
     std::string material; ///< the label of a material, or its number
     std::string quantity; ///< the name, key, symbol or id of a quantity, as filters take it
-    std::string value;    ///< a number with or without a unit, a list of numbers, a word, or "on" for a switch
+    std::optional<std::string>
+        value; ///< a number with or without a unit, a list of numbers, a word, or "on" for a switch
     std::optional<std::string> projectUnits; ///< the unit system in which the project is shown; empty to remove it
 };
 

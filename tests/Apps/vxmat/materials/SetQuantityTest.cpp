@@ -129,6 +129,8 @@ TEST_F(SetQuantity, RefusesWhatCannotBeReadOrBreaksARule)
     const std::string before = vxtest::readText(file());
     const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
         {"Frame", "E", "2,1e11", "vxmat: Young's modulus: \"2,1e11\" has a decimal comma"},
+        {"Frame", "E", "", "vxmat: Young's modulus: Nothing was typed; a number is needed."},
+        {"Frame", "Yield stress", "", "vxmat: Yield stress: Nothing was typed"},
         {"Frame", "E", "210 kg",
          "vxmat: Young's modulus: \"210 kg\" measures mass; Young's modulus needs a unit such as Pa."},
         {"Frame", "rho", "-5", "vxmat: Density: Mass density must be positive!"},

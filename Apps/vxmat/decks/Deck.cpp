@@ -7,6 +7,7 @@
 #include "program/TextTable.h"
 #include "units/ChosenUnits.h"
 #include "vxDecks/Deck.h"
+#include "vxDecks/DeckReading.h"
 #include "vxDecks/Mapping.h"
 #include "vxMaterial/model/PropertyCatalogue.h"
 
@@ -222,6 +223,7 @@ Json::Value solversAsJson()
         json["title"] = format.title;
         json["manual"] = format.manual;
         json["extension"] = format.extension;
+        json["canRead"] = vxDecks::canRead(format.format);
         json["largestNumber"] = format.largestNumber == 0 ? Json::Value() : Json::Value(format.largestNumber);
         json["dialects"] = dialectsOf(format.format);
         document["solvers"].append(std::move(json));
@@ -237,6 +239,41 @@ Json::Value solversAsJson()
         document["quantities"].append(std::move(json));
     }
     return document;
+}
+
+/// Returns the names of the dialects of a format, apart from that of its solver; "-" if there are none.
+std::string dialectNames(vxDecks::Format format)
+{
+    std::string names;
+    for (const vxDecks::DialectInfo& dialect : vxDecks::dialects()) {
+        if (dialect.format == format && dialect.dialect != vxDecks::Dialect::Standard)
+            names += (names.empty() ? "" : ", ") + std::string(dialect.name);
+    }
+    return names.empty() ? "-" : names;
+}
+
+TextTable solverTable()
+{
+    TextTable table({"Solver", "Title", "Decks are", "File", "Dialects"});
+    for (const vxDecks::FormatInfo& format : vxDecks::formats())
+        table.add({format.name, format.title, vxDecks::canRead(format.format) ? "written, read" : "written",
+                   std::string(".").append(format.extension), dialectNames(format.format)});
+    return table;
+}
+
+TextTable cardTable()
+{
+    TextTable::Row heading{"Quantity", "Key"};
+    for (const vxDecks::FormatInfo& format : vxDecks::formats())
+        heading.emplace_back(format.name);
+    TextTable table(heading);
+    for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
+        TextTable::Row row{record.name, record.key};
+        for (const vxDecks::FormatInfo& format : vxDecks::formats())
+            row.push_back(cardOf(*vxDecks::findMapping(format.format, record.id)));
+        table.add(row);
+    }
+    return table;
 }
 
 } // namespace
@@ -275,17 +312,7 @@ Answer listSolvers(Form form)
 {
     if (form == Form::Json)
         return {toJsonText(solversAsJson()), {}, Status::Clean};
-    TextTable::Row heading{"Quantity", "Key"};
-    for (const vxDecks::FormatInfo& format : vxDecks::formats())
-        heading.emplace_back(format.name);
-    TextTable table(heading);
-    for (const vxMat::PropertyRecord& record : vxMat::propertyRecords()) {
-        TextTable::Row row{record.name, record.key};
-        for (const vxDecks::FormatInfo& format : vxDecks::formats())
-            row.push_back(cardOf(*vxDecks::findMapping(format.format, record.id)));
-        table.add(row);
-    }
-    return {table.text(), {}, Status::Clean};
+    return {solverTable().text() + "\n" + cardTable().text(), {}, Status::Clean};
 }
 
 } // namespace commandline

@@ -5,6 +5,7 @@
 #include "projectfile/ExchangeImport.h"
 #include "units/ChosenUnits.h"
 #include "vxDecks/DeckReading.h"
+#include "vxMaterial/model/PropertyCatalogue.h"
 #include "vxUnits/MaterialValues.h"
 #include "vxUnits/SystemFit.h"
 
@@ -48,12 +49,30 @@ std::string titleOf(const std::vector<const projectfile::ImportedMaterial*>& mat
     return std::to_string(materials.size()) + " materials (" + names + (materials.size() > mostNames ? ", ...)" : ")");
 }
 
-struct DoubtsAboutSystem
+/// A doubt that numbers are in the assumed unit system.
+struct DoubtAboutSystem
 {
-    std::vector<std::string> texts;
-    bool areAboutAll =
-        false; ///< whether most numbers of the file look like another system, and not those of a few materials
+    std::string fitting;                ///< the system that they look like
+    std::vector<std::string> materials; ///< labels; empty if most numbers of the file are meant
+    std::string text;
 };
+
+using DoubtsAboutSystem = std::vector<DoubtAboutSystem>;
+
+/// Returns whether the doubts are about most numbers of the file, and not about those of a few materials.
+bool areAboutAll(const DoubtsAboutSystem& doubts)
+{
+    return doubts.size() == 1 && doubts.front().materials.empty();
+}
+
+std::vector<std::string> labelsOf(const std::vector<const projectfile::ImportedMaterial*>& materials)
+{
+    std::vector<std::string> labels;
+    labels.reserve(materials.size());
+    for (const projectfile::ImportedMaterial* const one : materials)
+        labels.push_back(one->label);
+    return labels;
+}
 
 /// Returns doubts about numbers that look like another system than the assumed one: one doubt if this system explains most
 /// doubts about all materials, otherwise one for each system that such materials look like.
@@ -64,7 +83,7 @@ DoubtsAboutSystem findOtherSystems(const ImportedMaterials& materials, const vxU
     for (const projectfile::ImportedMaterial& imported : materials)
         all.push_back(imported.material.get());
     if (const std::string fitting = vxUnits::betterFittingSystem(all, assumed); !fitting.empty())
-        return {{doubtAboutSystem(document, fitting, assumed)}, true};
+        return {{fitting, {}, doubtAboutSystem(document, fitting, assumed)}};
     std::map<std::string, std::vector<const projectfile::ImportedMaterial*>> bySystem;
     for (const projectfile::ImportedMaterial& imported : materials) {
         const std::string fitting = vxUnits::betterFittingSystem({imported.material.get()}, assumed);
@@ -73,7 +92,8 @@ DoubtsAboutSystem findOtherSystems(const ImportedMaterials& materials, const vxU
     }
     DoubtsAboutSystem doubts;
     for (const auto& [fitting, some] : bySystem)
-        doubts.texts.push_back(doubtAboutSystem(document + ": " + titleOf(some), fitting, assumed));
+        doubts.push_back(
+            {fitting, labelsOf(some), doubtAboutSystem(document + ": " + titleOf(some), fitting, assumed)});
     return doubts;
 }
 
@@ -110,8 +130,8 @@ Answer importDocument(Input input, const ImportRequest& request)
         projectfile::ImportedMaterials imported = projectfile::importExchange(text);
         for (const std::string& doubt : imported.doubts)
             answer.messages.push_back(std::string(document).append(": ").append(doubt));
-        for (const std::string& doubt : findOtherSystems(imported.materials, request.units.system(), document).texts)
-            notes.push_back("note: " + doubt);
+        for (const DoubtAboutSystem& doubt : findOtherSystems(imported.materials, request.units.system(), document))
+            notes.push_back("note: " + doubt.text);
         for (std::string& note : convert(imported.materials, request.units, document))
             notes.push_back(std::move(note));
         writeNewProject(request.output, std::move(imported.materials), request.existing, answer);
@@ -164,13 +184,25 @@ DoubtsAboutSystem findOtherSystemsOfDeck(const ImportedMaterials& materials, con
     return findOtherSystems(inDeck, *system, path);
 }
 
-/// Returns the findings about materials besides those that the report tells. Materials with the same finding share a text.
-std::vector<std::string> findBesides(const ImportedMaterials& materials, const vxDecks::Report& report,
-                                     const std::string& path)
+/// The findings about each material besides those that the report tells.
+using FindingsBesides = std::vector<std::vector<vxMat::MaterialFinding>>;
+
+FindingsBesides findingsOf(const ImportedMaterials& materials, const vxDecks::Report& report)
+{
+    FindingsBesides findings;
+    findings.reserve(materials.size());
+    for (std::size_t i = 0; i < materials.size(); ++i)
+        findings.push_back(vxDecks::findingsBesides(report.materials[i], *materials[i].material));
+    return findings;
+}
+
+/// Returns the findings as texts. Materials with the same finding share a text.
+std::vector<std::string> toTexts(const FindingsBesides& findings, const ImportedMaterials& materials,
+                                 const std::string& path)
 {
     std::map<std::string, std::vector<const projectfile::ImportedMaterial*>> byText;
     for (std::size_t i = 0; i < materials.size(); ++i)
-        for (const vxMat::MaterialFinding& one : vxDecks::findingsBesides(report.materials[i], *materials[i].material))
+        for (const vxMat::MaterialFinding& one : findings[i])
             byText[toText(one)].push_back(&materials[i]);
     std::vector<std::string> texts;
     texts.reserve(byText.size());
@@ -195,51 +227,106 @@ vxDecks::ReadDeck readDeckFile(std::istream& file, vxDecks::Format format, const
     }
 }
 
-Json::Value toJson(const vxDecks::ReadDeck& deck)
+Json::Value toJson(const std::vector<vxDecks::ForeignCard>& cards)
 {
-    Json::Value json = vxDecks::toJson(deck.report);
-    json["foreign"] = Json::arrayValue;
-    for (const vxDecks::ForeignCard& card : deck.foreign) {
+    Json::Value list(Json::arrayValue);
+    for (const vxDecks::ForeignCard& card : cards) {
         Json::Value item;
         item["name"] = card.name;
         item["count"] = static_cast<Json::UInt64>(card.count);
         item["line"] = static_cast<Json::UInt64>(card.line);
-        json["foreign"].append(std::move(item));
+        list.append(std::move(item));
     }
+    return list;
+}
+
+/// Returns a finding in the form of those of the report, without a card and a line.
+Json::Value toJson(const vxMat::MaterialFinding& finding)
+{
+    const vxMat::PropertyRecord* const record = vxMat::findPropertyRecord(finding.slot);
+    Json::Value json;
+    json["id"] = Json::Value();
+    json["text"] = toText(finding);
+    json["key"] = record == nullptr ? Json::Value() : Json::Value(record->key);
+    json["card"] = Json::Value();
+    json["line"] = Json::Value();
     return json;
 }
 
-void addReport(const vxDecks::ReadDeck& deck, Form form, Answer& answer)
+Json::Value toJson(const DoubtsAboutSystem& doubts)
 {
-    if (form == Form::Json) {
-        answer.text = toJsonText(toJson(deck));
-        return;
+    Json::Value list(Json::arrayValue);
+    for (const DoubtAboutSystem& doubt : doubts) {
+        Json::Value item;
+        item["system"] = doubt.fitting;
+        item["materials"] = Json::Value();
+        for (const std::string& label : doubt.materials)
+            item["materials"].append(label);
+        item["text"] = doubt.text;
+        list.append(std::move(item));
     }
-    for (const std::string& line : toLines(deck.report))
+    return list;
+}
+
+/// The findings of an import besides its report.
+struct Besides
+{
+    FindingsBesides findings; ///< of each material
+    DoubtsAboutSystem doubts;
+    bool areDoubtsFindings = false; ///< and not only notes
+
+    bool areFindings() const
+    {
+        return areDoubtsFindings ||
+               std::any_of(findings.begin(), findings.end(), [](const auto& some) { return !some.empty(); });
+    }
+};
+
+Besides findBesides(const ImportedMaterials& materials, const vxDecks::Report& report, const ImportRequest& request)
+{
+    Besides besides{findingsOf(materials, report), findOtherSystemsOfDeck(materials, report.units, request.file)};
+    besides.areDoubtsFindings = !besides.doubts.empty() && (areAboutAll(besides.doubts) || request.units.areGiven());
+    return besides;
+}
+
+std::string jsonTextOf(const vxDecks::ReadDeck& deck, const Besides& besides)
+{
+    Json::Value json = vxDecks::toJson(deck.report);
+    for (std::size_t i = 0; i < besides.findings.size(); ++i)
+        for (const vxMat::MaterialFinding& one : besides.findings[i])
+            json["materials"][static_cast<Json::ArrayIndex>(i)]["findings"].append(toJson(one));
+    json["foreign"] = toJson(deck.foreign);
+    json["doubts"] = toJson(besides.doubts);
+    return toJsonText(json);
+}
+
+void addTexts(const vxDecks::Report& report, const Besides& besides, const ImportedMaterials& materials,
+              const std::string& path, Answer& answer)
+{
+    for (const std::string& line : toLines(report))
         answer.messages.push_back("note: " + line);
+    answer.add(toTexts(besides.findings, materials, path));
+    for (const DoubtAboutSystem& doubt : besides.doubts)
+        answer.messages.push_back((besides.areDoubtsFindings ? "" : "note: ") + doubt.text);
 }
 
 Answer importDeck(std::istream& file, vxDecks::Format format, const ImportRequest& request, Form form)
 {
     vxDecks::ReadDeck deck = readDeckFile(file, format, request);
+    ImportedMaterials objects = toObjects(std::move(deck.materials));
+    const Besides besides = findBesides(objects, deck.report, request);
     Answer answer;
-    addReport(deck, form, answer);
-    if (deck.materials.empty()) {
+    if (form == Form::Json)
+        answer.text = jsonTextOf(deck, besides);
+    else
+        addTexts(deck.report, besides, objects, request.file, answer);
+    if (objects.empty()) {
         answer.messages.push_back(request.file + ": the deck has no materials; no project is written");
         answer.status = Status::Error;
         return answer;
     }
-    if (countRefused(deck.report) > 0 || countFindings(deck.report) > 0)
+    if (countRefused(deck.report) > 0 || countFindings(deck.report) > 0 || besides.areFindings())
         answer.status = Status::Findings;
-    ImportedMaterials objects = toObjects(std::move(deck.materials));
-    const DoubtsAboutSystem doubts = findOtherSystemsOfDeck(objects, deck.report.units, request.file);
-    const bool isDoubtful = !doubts.texts.empty() && (doubts.areAboutAll || request.units.areGiven());
-    const std::vector<std::string> findings = findBesides(objects, deck.report, request.file);
-    if (isDoubtful || !findings.empty())
-        answer.status = Status::Findings;
-    answer.add(findings);
-    for (const std::string& doubt : doubts.texts)
-        answer.messages.push_back((isDoubtful ? "" : "note: ") + doubt);
     writeNewProject(request.output, std::move(objects), request.existing, answer);
     return answer;
 }

@@ -549,7 +549,7 @@ void CommandLine::addDeck()
 
 void CommandLine::addSolvers()
 {
-    CLI::App* const command = addCommand("solvers", "List the solvers, and their card for each quantity",
+    CLI::App* const command = addCommand("solvers", "List the solvers, whether their decks can be read, and their card for each quantity",
                                          "vxmat solvers", [this] { return listSolvers(form()); });
     addForm(command);
 }

@@ -197,6 +197,19 @@ TEST(Solvers, AreListedWithTheirCards)
     EXPECT_EQ(json["solvers"][2]["largestNumber"], 99999);
 }
 
+TEST(Solvers, AreListedWithWhetherTheirDecksCanBeRead)
+{
+    const Outcome run = vxmat({"solvers"});
+    EXPECT_THAT(run.out, testing::StartsWith("Solver "));
+    EXPECT_THAT(run.out, testing::ContainsRegex("calculix +CalculiX +written, read +\\.inp +commercial\n"));
+    EXPECT_THAT(run.out, testing::ContainsRegex("lsdyna +LS-DYNA +written +\\.k +-\n"));
+    std::string readable;
+    const Json::Value json = vxmatJson({"solvers", "--json"});
+    for (const Json::Value& solver : json["solvers"])
+        readable += solver["canRead"].asBool() ? solver["name"].asString() + " " : "";
+    EXPECT_EQ(readable, "calculix nastran matml ");
+}
+
 TEST(Solvers, AreListedAsTheirSchemaSays)
 {
     const Folder folder;

@@ -1,6 +1,8 @@
 #include "DataFile.h"
 #include "VxmatTesting.h"
 
+#include "vxMaterial/json/JsonText.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -149,6 +151,28 @@ TEST(ImportDeck, PrintsItsReportAsJson)
     EXPECT_EQ(json["foreign"][1]["name"], "*STEP");
     EXPECT_EQ(json["foreign"][1]["line"], 11);
     EXPECT_EQ(vxmat({"import", file, "--units", "mm-t-s", "--json", "-o", "-"}).status, 2);
+}
+
+TEST(ImportDeck, PrintsAllItsFindingsAsJsonAndNoneOnStandardError)
+{
+    const Folder folder;
+    const std::string file = folder.file("a.inp", "*MATERIAL, NAME=A\n*DENSITY\n7850.\n*ELASTIC\n2.1e11\n"
+                                                  "*MATERIAL, NAME=B\n*DENSITY\n7850.\n*ELASTIC\n2.1e11, 0.3\n"
+                                                  "*MATERIAL, NAME=Odd\n*DENSITY\n7.85e-9\n*ELASTIC\n210000., 0.3\n");
+    const Outcome run = vxmat({"import", file, "--units", "SI", "--json", "-o", folder.path("p.vxmat")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "");
+    const Json::Value json = vxjson::readJsonText(run.out).document;
+    ASSERT_EQ(json["materials"][0]["findings"].size(), 1U);
+    const Json::Value& finding = json["materials"][0]["findings"][0];
+    EXPECT_EQ(finding["text"], R"("Poisson's ratio" is 0; it must be from 0.001 to 0.499.)");
+    EXPECT_EQ(finding["key"], "nu");
+    EXPECT_TRUE(finding["line"].isNull());
+    EXPECT_TRUE(json["materials"][1]["findings"].empty());
+    ASSERT_EQ(json["doubts"].size(), 1U);
+    EXPECT_EQ(json["doubts"][0]["system"], "mm-t-s");
+    EXPECT_EQ(json["doubts"][0]["materials"][0], "Odd");
+    EXPECT_THAT(json["doubts"][0]["text"].asString(), HasSubstr("3 Odd: the numbers look like mm-t-s, not SI"));
 }
 
 TEST(ImportDeck, OfADocumentPrintsItsMessagesAsJson)

@@ -325,17 +325,6 @@ void readBulkData(std::istream& file, BulkVisitor& visitor)
     BulkDataReader(file, visitor).read();
 }
 
-std::optional<double> readBulkNumber(std::string_view field)
-{
-    std::string number(field);
-    const std::size_t sign = number.find_last_of("+-");
-    const bool hasExponent = sign != std::string::npos && sign > 0;
-    const auto isDigitOrPoint = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
-    if (hasExponent && isDigitOrPoint(number[sign - 1]))
-        number.insert(sign, "e");
-    return readDeckNumber(number);
-}
-
 bool isBulkData(std::string_view beginning)
 {
     std::istringstream lines{std::string(beginning)};

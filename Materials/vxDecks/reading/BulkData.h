@@ -52,10 +52,6 @@ public:
 /// \throws std::bad_alloc
 void readBulkData(std::istream& file, BulkVisitor& visitor);
 
-/// Returns the real or integer number in a field: "7.85-9", "2.1E5", "1.D-3", ".3", "210000". Absent if the text is not a
-/// number, or if a double cannot hold it. A decimal point in any locale.
-std::optional<double> readBulkNumber(std::string_view field);
-
 /// Returns whether the beginning of a file is bulk data: it has a section of Nastran or the entry of a model or a material.
 bool isBulkData(std::string_view beginning);
 

@@ -157,11 +157,13 @@ void CalculixDeck::takeOtherKeyword(const std::string& keyword, std::string_view
     countForeign(line);
 }
 
-/// An included file may have the numbers of the card before it.
+/// An included file has the numbers of a card that has none yet. Behind numbers, it mostly begins with another keyword.
 void CalculixDeck::takeInclude(const KeywordParameters& parameters)
 {
-    if (m_card)
+    if (m_card && m_card->rows.empty())
         m_card->isElsewhere = true;
+    else if (m_card && m_card->includedBehind == 0)
+        m_card->includedBehind = m_lines.number();
     if (++m_included > mostIncluded)
         return;
     const auto input = parameters.find("INPUT");
@@ -174,6 +176,7 @@ void CalculixDeck::takeData(std::string_view line)
     if (!m_card)
         return;
     requireWholeLine();
+    m_card->isElsewhere = m_card->isElsewhere || m_card->includedBehind != 0; // some of its lines are
     const std::string longField = addRow(*m_card, line, m_lines.number());
     if (longField.empty() || m_hasLongNumber)
         return;

@@ -577,6 +577,8 @@ void readCards(const MaterialCards& cards, const vxUnits::UnitSystem& units, Mat
         material.beginCard(card.name, card.line);
         const std::size_t lost = material.countLost();
         reader.read(card, material);
+        if (card.includedBehind != 0)
+            material.note(makeMessage(ReadText::MayGoOnElsewhere, {card.name, std::to_string(card.includedBehind)}));
         if (material.countLost() == lost)
             refuseOtherParameters(card, reader, material);
     }

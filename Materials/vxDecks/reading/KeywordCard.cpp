@@ -38,7 +38,7 @@ std::optional<double> readField(KeywordCard& card, std::string_view field, std::
         card.hasParametersAsNumbers = true;
         return std::nullopt;
     }
-    const auto number = readDeckNumber(field);
+    const auto number = readFortranNumber(field);
     if (!number)
         throw DeckError(makeMessage(ReadText::BadNumber, {vxjson::shortened(toUtf8(field))}), line);
     return number;

@@ -32,6 +32,8 @@ struct KeywordCard
     std::vector<Row> rows;
     bool hasParametersAsNumbers = false; ///< whether a field is a parameter: "<modulus>"
     bool isElsewhere = false;            ///< whether lines of data are in another file
+    std::size_t includedBehind =
+        0; ///< the line of a file that is included behind the data, which may go on in it; or 0
 
     bool hasParameter(const char* parameter) const { return parameters.count(parameter) != 0; }
     /// Returns the value of a parameter in capitals and without blanks; empty if there is none.

@@ -103,7 +103,7 @@ std::optional<double> CardReader::number(std::size_t index) const
     const std::string_view field = text(index);
     if (field.empty())
         return std::nullopt;
-    const auto number = readBulkNumber(field);
+    const auto number = readFortranNumber(field);
     if (!number)
         throw DeckError(makeMessage(BulkText::FieldWithoutNumber, {nameOf(index), toUtf8(field)}), m_entry.line);
     return number;
@@ -120,7 +120,7 @@ void CardReader::loseOtherFields()
     static const Field unknown;
     for (std::size_t i = 0; i < m_entry.fields.size(); ++i) {
         const Field& field = i < m_card.fields.size() ? m_card.fields[i] : unknown;
-        if (field.isTaken || text(i).empty() || readBulkNumber(text(i)) == field.ineffective)
+        if (field.isTaken || text(i).empty() || readFortranNumber(text(i)) == field.ineffective)
             continue;
         lose(i, makeMessage(ReadText::NoQuantity));
     }
@@ -254,7 +254,7 @@ void readMathp(CardReader& card)
     MaterialReading& material = card.material();
     card.set(4, Id::Density);
     for (std::size_t i = 0; i < 48; ++i) {
-        if (isOtherConstant(i) && !card.text(i).empty() && readBulkNumber(card.text(i)) != 0.0) {
+        if (isOtherConstant(i) && !card.text(i).empty() && readFortranNumber(card.text(i)) != 0.0) {
             card.refuseAll(makeMessage(BulkText::OtherMeaningWithout, {card.nameOf(i)}));
             return;
         }
@@ -393,7 +393,7 @@ void readYieldStress(CardReader& card)
     const bool isMises = card.text(4).empty() || card.text(4) == "1";
     if (isMises) {
         card.set(limit, Id::PlasticInitialYieldStress);
-        if (!card.text(angle).empty() && readBulkNumber(card.text(angle)) != 0.0)
+        if (!card.text(angle).empty() && readFortranNumber(card.text(angle)) != 0.0)
             card.lose(angle, makeMessage(ReadText::NoQuantity));
         return;
     }
@@ -422,7 +422,7 @@ void readMats1(CardReader& card)
     material.setSwitch(Id::Plasticity);
     readYieldStress(card);
     if (isTabulated) {
-        if (!card.text(3).empty() && readBulkNumber(card.text(3)) != 0.0)
+        if (!card.text(3).empty() && readFortranNumber(card.text(3)) != 0.0)
             card.lose(3, makeMessage(BulkText::TableReplaces));
         readTable(card);
         return;
@@ -508,8 +508,8 @@ void BulkTables::add(const BulkEntry& entry)
         const std::string_view stress = entry.fields[i + 1];
         if ((strain.empty() && stress.empty()) || strain == "SKIP" || stress == "SKIP")
             continue;
-        const auto x = readBulkNumber(strain);
-        const auto y = readBulkNumber(stress);
+        const auto x = readFortranNumber(strain);
+        const auto y = readFortranNumber(stress);
         if (!x || !y) {
             table.badNumber = x ? stress : strain;
             break;

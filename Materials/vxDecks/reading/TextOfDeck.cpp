@@ -84,6 +84,17 @@ std::optional<double> readDeckNumber(std::string_view text)
     return read && std::isfinite(*read) ? read : std::nullopt;
 }
 
+std::optional<double> readFortranNumber(std::string_view text)
+{
+    std::string number(trimmed(text));
+    const std::size_t sign = number.find_last_of("+-");
+    const bool hasExponent = sign != std::string::npos && sign > 0;
+    const auto isDigitOrPoint = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
+    if (hasExponent && isDigitOrPoint(number[sign - 1]))
+        number.insert(number.begin() + static_cast<std::ptrdiff_t>(sign), 'e');
+    return readDeckNumber(number);
+}
+
 std::string toUtf8(std::string_view text)
 {
     const bool isUtf8 = vxjson::lengthOfUtf8(text) == text.size();

@@ -50,6 +50,10 @@ std::string_view trimmed(std::string_view text);
 /// double is 0.
 std::optional<double> readDeckNumber(std::string_view text);
 
+/// Returns the number that is the whole text, as solvers in Fortran read it: as readDeckNumber(), and an exponent with a sign
+/// needs no letter, "7.85-9".
+std::optional<double> readFortranNumber(std::string_view text);
+
 /// Returns a text of a deck in UTF-8: bytes that are not UTF-8 are read as Latin-1, control characters become blanks.
 std::string toUtf8(std::string_view text);
 

@@ -41,6 +41,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(ReadText::Co
     {"decks.reading.no-model-for-terms", "the catalogue has no constants C20 and C02"},
     {"decks.reading.repeated", "the card of line %1 is replaced by another one of the same material in line %2"},
     {"decks.reading.in-another-file", "its numbers are in another file"},
+    {"decks.reading.may-go-on-elsewhere",
+     "%1 ends where line %2 includes a file. If that file begins with more numbers of the card, they are missing."},
     {"decks.reading.by-parameters", "its numbers are parameters, which are not evaluated"},
     {"decks.reading.unknown-keyword", "the keyword is not known"},
     {"decks.reading.long-number", R"(line %1: CalculiX reads only the first 20 characters of "%2")"},

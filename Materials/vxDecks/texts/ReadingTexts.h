@@ -39,6 +39,7 @@ enum class ReadText : std::size_t
     NoModelForTerms,
     Repeated,
     InAnotherFile,
+    MayGoOnElsewhere,
     ByParameters,
     UnknownKeyword,
     LongNumber,

@@ -123,6 +123,19 @@ TEST(CalculixReading, ReportsUnitsThatDiffer)
     EXPECT_EQ(toJson(deck.report)["materials"][0]["quantities"][0]["card"].asString(), "*DENSITY");
 }
 
+/// CalculiX 2.20 computes with these numbers.
+TEST(CalculixReading, TakesExponentsWithoutALetterAsTheSolverDoes)
+{
+    const auto density = [](const std::string& number) {
+        return numberOf(readText(Format::Calculix, "*MATERIAL, NAME=A\n*DENSITY\n" + number + "\n", "SI"), Id::Density);
+    };
+    EXPECT_EQ(density("7.85+3"), 7850.0);
+    EXPECT_EQ(density("785000-02"), 7850.0);
+    EXPECT_EQ(density("+.785+4,"), 7850.0);
+    EXPECT_EQ(density(" 7.85D+3 "), 7850.0);
+    EXPECT_EQ(errorOf(Format::Calculix, "*MATERIAL, NAME=A\n*DENSITY\n7.85+\n"), R"(line 3: "7.85+" is not a number)");
+}
+
 TEST(CalculixReading, NamesTheLineOfTextThatIsNoNumber)
 {
     EXPECT_EQ(errorOf(Format::Calculix, "*MATERIAL, NAME=A\n** comment\n*ELASTIC\n2.1e11, abc\n"),

@@ -27,6 +27,8 @@ the deck in the first unit system, one with the deck in the second. The table ha
 of both cubes, which the solver itself subtracts, and the largest deviation from a reference that does not use the deck: a curve of
 `vxMaterial::constitutive` in percent of its largest value, or a formula.
 Materials "of the corpus" are read from decks as people write them; those whose new decks are complete, and have a curve, are run.
+Materials of the corpus that have plasticity or creep without linear elasticity are not: no solver computes them, and their new decks
+refuse the model.
 
 )";
 

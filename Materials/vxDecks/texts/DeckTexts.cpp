@@ -79,6 +79,8 @@ constexpr std::array<vxUnits::MessageText, static_cast<std::size_t>(Text::Count)
     {"decks.shortened", R"(the name is shortened to "%1"; the format takes %2 bytes of it)"},
     {"decks.no-word", "the material has no word for it"},
     {"decks.word-assumed", R"(the material has no word for it; written as "%1")"},
+    {"decks.other-name", R"(the material names it "%1"; the deck has it under its own name)"},
+    {"decks.nothing-written", "no card of the deck has anything of the material"},
     {"decks.several-materials", "%1 materials (%2)"},
     {"decks.example", "for example %1: %2"},
 }};

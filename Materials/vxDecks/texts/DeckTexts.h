@@ -73,6 +73,8 @@ enum class Text : std::size_t
     Shortened,
     NoWord,
     WordAssumed,
+    OtherName,
+    NothingWritten,
     SeveralMaterials,
     Example,
     Count

@@ -72,6 +72,15 @@ void noteHeading(MaterialReport& report, const Heading& heading, const NameRules
             makeMessage(Text::Renumbered, {std::to_string(heading.number), std::to_string(*expected)}));
 }
 
+/// Notes that no card has anything of a material. A model that uses it does not run.
+void noteNothing(MaterialReport& report)
+{
+    const bool isNothing = std::all_of(report.rows.begin(), report.rows.end(),
+                                       [](const ReportRow& row) { return row.outcome == Outcome::Lost; });
+    if (isNothing)
+        report.notes.push_back(makeMessage(Text::NothingWritten));
+}
+
 Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMaterial>& materials,
              const DeckOptions& options)
 {
@@ -91,6 +100,7 @@ Deck writeIn(const UnitSystem& units, Format format, const std::vector<DeckMater
         deck.text += one.text();
         deck.report.materials.push_back(one.finish());
         noteHeading(deck.report.materials.back(), heading, rules, expectedNumber(materials[i], i, options));
+        noteNothing(deck.report.materials.back());
     }
     deck.text += writer->end();
     return deck;

@@ -179,9 +179,22 @@ void MaterialDeck::tellRounding()
     }
 }
 
+/// The built-in acoustic materials name their speed of sound "Density".
+void MaterialDeck::tellOtherNames()
+{
+    for (auto& [id, row] : m_rows) {
+        const vxMat::MaterialProperty* const property = m_source.material->findProperty(id);
+        if (property == nullptr || property->id == id || row.outcome == Outcome::Lost)
+            continue;
+        row.outcome = std::max(row.outcome, Outcome::Converted);
+        row.how.push_back(makeMessage(Text::OtherName, {property->name}));
+    }
+}
+
 MaterialReport MaterialDeck::finish()
 {
     tellRounding();
+    tellOtherNames();
     MaterialReport report;
     report.name = m_source.name;
     for (const auto& [slot, property] : vxMat::propertiesInCatalogueOrder(*m_source.material)) {

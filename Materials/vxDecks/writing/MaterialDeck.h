@@ -73,6 +73,7 @@ private:
     void decide(std::int32_t id, Outcome outcome, std::vector<vxUnits::Message> how);
     void addRow(std::int32_t id, Outcome outcome, std::vector<vxUnits::Message> how);
     void tellRounding();
+    void tellOtherNames();
     ReportRow lostRow(std::int32_t id) const;
     std::vector<vxUnits::Message> unitChange(std::int32_t id) const;
 

@@ -23,6 +23,29 @@ TEST(Report, HasARowForEachPropertyOfEveryLibraryMaterial)
     }
 }
 
+TEST(Report, TellsThatAMaterialHasAQuantityUnderAnotherName)
+{
+    const vxMat::MaterialBase& water = vxtest::libraryMaterial(vxMat::eMaterialType::AcousticMaterial1);
+    for (const Format format : {Format::Nastran, Format::Apdl, Format::LsDyna, Format::Elmer, Format::Matml}) {
+        EXPECT_EQ(vxtest::outcomeOf(vxtest::deckOf(format, water, "SI"), Id::SpeedOfSound),
+                  "converted: the material names it \"Density\"; the deck has it under its own name");
+        EXPECT_EQ(vxtest::outcomeOf(vxtest::deckOf(format, water, "SI"), Id::Density), "carried");
+    }
+    EXPECT_EQ(vxtest::outcomeOf(vxtest::deckOf(Format::Calculix, water, "SI"), Id::SpeedOfSound),
+              "lost: the solver computes sound only as an analogy of heat conduction");
+}
+
+TEST(Report, TellsOfWhichMaterialsTheDeckHasNothing)
+{
+    const std::string nothing = "Test: no card of the deck has anything of the material";
+    const vxMat::MaterialBase& chains = vxtest::libraryMaterial(vxMat::eMaterialType::Elastomer3);
+    EXPECT_THAT(toLines(vxtest::deckOf(Format::Nastran, chains, "SI").report), Contains(nothing));
+    EXPECT_THAT(toLines(vxtest::deckOf(Format::Apdl, chains, "SI").report), testing::Not(Contains(nothing)));
+    const vxMat::CMaterial empty("Test");
+    for (const vxDecks::FormatInfo& format : vxDecks::formats())
+        EXPECT_THAT(toLines(vxtest::deckOf(format.format, empty, "SI").report), Contains(nothing)) << format.name;
+}
+
 TEST(Report, JoinsQuantitiesOfTheSameOutcomeForTheSameReason)
 {
     auto material = vxtest::elastic();

@@ -5,6 +5,7 @@
 #include "vxUnits/MaterialValues.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vxUnits {
 
@@ -25,6 +26,16 @@ struct Evidence
     double cost = 0.0;
 };
 
+/// Returns whether a finding is about units. A value that is wrong in any unit, such as a negative density, says nothing about
+/// the system of the others.
+bool isAboutUnits(const Finding& finding)
+{
+    constexpr Rule ofAnyUnit[] = {Rule::NotFinite,     Rule::NotPositive,   Rule::Negative,      Rule::RatioOutside,
+                                  Rule::RatioNearHalf, Rule::BulkOverShear, Rule::InitialShear,  Rule::ListLengths,
+                                  Rule::StrainStart,   Rule::StrainOrder,   Rule::HardeningFalls};
+    return std::find(std::begin(ofAnyUnit), std::end(ofAnyUnit), finding.rule) == std::end(ofAnyUnit);
+}
+
 MaterialValues toSi(const UnitSystem& system, const vxMat::MaterialBase& material)
 {
     vxMat::MaterialBase converted;
@@ -38,7 +49,8 @@ Evidence evidenceAgainst(const UnitSystem& system, const Materials& materials)
     Evidence evidence;
     for (const vxMat::MaterialBase* const material : materials) {
         const MaterialValues values = toSi(system, *material);
-        const std::size_t findings = applyRules(values).size();
+        const std::vector<Finding> all = applyRules(values);
+        const auto findings = std::count_if(all.begin(), all.end(), isAboutUnits);
         const KindFit fit = nearestKind(featuresOf(values));
         const bool isDoubted = findings > 0 || fit.misfit > farFromAll;
         evidence.doubted += isDoubted ? 1 : 0;

@@ -114,6 +114,21 @@ TEST(SystemFit, ComparesWithASystemOfTheUser)
     EXPECT_EQ(Numbers().fitting(), "") << "no materials";
 }
 
+TEST(SystemFit, IsNotHiddenByValuesThatAreWrongInAnyUnit)
+{
+    auto steel = std::make_unique<vxMat::StructuralSteelNL>();
+    auto strains = std::make_unique<vxMat::MaterialProperty>();
+    strains->values = {0.0, 0.1, 0.05};
+    steel->setProperty(vxMat::PropertyId::PlasticStrain, std::move(strains));
+    auto aluminium = std::make_unique<vxMat::AluminumAlloy>();
+    aluminium->properties.at(vxMat::PropertyId::Density)->value = -1.0;
+    Numbers numbers;
+    numbers.add(std::move(steel));
+    numbers.add(std::move(aluminium));
+    EXPECT_EQ(numbers.fitting(*UnitSystem::parse("mm-t-s")), "SI");
+    EXPECT_EQ(numbers.fitting(UnitSystem::si()), "");
+}
+
 TEST(SystemFit, IsNoneIfOneNumberIsUnusual)
 {
     auto steel = std::make_unique<vxMat::StructuralSteel>();

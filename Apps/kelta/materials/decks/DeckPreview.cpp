@@ -42,14 +42,20 @@ void stopIf(const std::atomic<bool>& isStopped)
         throw std::runtime_error("stopped");
 }
 
-/// Returns the first doubt about the materials of a deck in a system, with the name of its material; empty if there is none.
-QString firstDoubt(const ReadDeck& asIs, const UnitSystem& system)
+/// Returns the first doubt about the materials of a deck in a system that is none in the fitting system, with the name of its
+/// material; empty if there is none.
+QString firstDoubt(const ReadDeck& asIs, const UnitSystem& system, const std::string& fitting)
 {
+    const auto parsed = UnitSystem::parse(fitting);
+    const UnitSystem other = parsed ? *parsed : UnitSystem::si();
     for (const vxDecks::ReadMaterial& one : asIs.materials) {
-        const auto doubts = vxUnits::checkPlausibilityIn(system, *one.material);
-        if (!doubts.empty())
-            return QString::fromStdString(one.name) + QStringLiteral(": ") +
-                   vxInspector::translated(doubts.front().message);
+        const auto unfit = vxUnits::checkPlausibilityIn(other, *one.material);
+        for (const vxUnits::Doubt& doubt : vxUnits::checkPlausibilityIn(system, *one.material)) {
+            const bool isInBoth =
+                std::any_of(unfit.begin(), unfit.end(), [&doubt](const auto& two) { return two.id == doubt.id; });
+            if (!isInBoth)
+                return QString::fromStdString(one.name) + QStringLiteral(": ") + vxInspector::translated(doubt.message);
+        }
     }
     return {};
 }
@@ -61,8 +67,9 @@ void findFittingSystem(SurveyedDeck& survey)
         survey.fitting = fittingSystem(survey.asIs, assumed);
         if (survey.fitting.empty())
             continue;
-        survey.reason = tr("In %1, they would be unusual. %2")
-                            .arg(QString::fromStdString(assumed.text()), firstDoubt(survey.asIs, assumed));
+        survey.reason =
+            tr("In %1, they would be unusual. %2")
+                .arg(QString::fromStdString(assumed.text()), firstDoubt(survey.asIs, assumed, survey.fitting));
         return;
     }
 }
@@ -192,7 +199,7 @@ std::shared_ptr<DeckPreview> previewDeck(const DeckFile& file, const SurveyedDec
     if (!fitting.empty())
         preview->doubt = tr("The numbers look like %1. In %2, they would be unusual. %3")
                              .arg(QString::fromStdString(fitting), QString::fromStdString(shown.text()),
-                                  firstDoubt(survey.asIs, shown));
+                                  firstDoubt(survey.asIs, shown, fitting));
     return preview;
 }
 

@@ -520,14 +520,14 @@ void completeViscoelasticity(const MaterialCards& cards, MaterialReading& materi
 }
 
 /// Divides an absolute number by that of vacuum, because the catalogue has the relative one.
-void takeRelative(const MaterialCards& cards, const char* card, std::int32_t id, double vacuum,
-                  MaterialReading& material)
+void takeRelative(const MaterialCards& cards, const char* card, std::int32_t id, const VacuumConstant& vacuum,
+                  const vxUnits::UnitSystem& units, MaterialReading& material)
 {
     const auto absolute = material.number(id);
     if (!absolute)
         return;
     material.beginCard(card, cards.at(keywordOf(card)).line);
-    material.setNumber(id, withoutRoundingError(*absolute / vacuum));
+    material.setNumber(id, withoutRoundingError(*absolute / vacuum.in(units)));
     material.convert(id, makeMessage(ReadText::FromAbsolute));
 }
 
@@ -584,8 +584,8 @@ void readCards(const MaterialCards& cards, const vxUnits::UnitSystem& units, Mat
     }
     completeViscoelasticity(cards, material);
     completeCreep(material);
-    takeRelative(cards, "*DIELECTRIC", Id::RelativePermittivity, vacuumPermittivity().in(units), material);
-    takeRelative(cards, "*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuumPermeability().in(units), material);
+    takeRelative(cards, "*DIELECTRIC", Id::RelativePermittivity, vacuumPermittivity(), units, material);
+    takeRelative(cards, "*MAGNETIC PERMEABILITY", Id::RelativePermeability, vacuumPermeability(), units, material);
 }
 
 } // namespace vxDecks

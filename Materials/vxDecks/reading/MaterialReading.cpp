@@ -55,10 +55,10 @@ std::vector<Message> findChange(std::int32_t id, const std::optional<vxUnits::Cr
 std::vector<Message> ReadUnits::change(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep) const
 {
     if (id == vxMat::PropertyId::CreepModulusA) // depends on the material
-        return findChange(id, creep, m_system);
+        return findChange(id, creep, system());
     const auto found = m_changes.find(id);
     return found != m_changes.end() ? found->second
-                                    : m_changes.emplace(id, findChange(id, creep, m_system)).first->second;
+                                    : m_changes.emplace(id, findChange(id, creep, system())).first->second;
 }
 
 MaterialReading::MaterialReading(Format format, const std::string& name, std::optional<std::uint32_t> number)
@@ -215,8 +215,8 @@ void MaterialReading::finish(const ReadUnits& units, ReadDeck& deck)
     MaterialReport report;
     report.findings = findings();
     const auto creep = vxUnits::MaterialValues(*m_material).creepExponents();
-    if (!hasOwnUnits(m_format) && units.system() != UnitSystem::si())
-        vxUnits::convertMaterial(*m_material, units.system(), UnitSystem::si());
+    if (!hasOwnUnits(m_format))
+        units.convert(*m_material);
     refuseWhatIsNotFinite();
     addLastNotes();
     report.name = m_name;

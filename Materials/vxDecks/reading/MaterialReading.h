@@ -1,5 +1,6 @@
 #pragma once
 
+#include "numbers/DeckUnits.h"
 #include "vxDecks/DeckReading.h"
 #include "vxDecks/Mapping.h"
 
@@ -12,19 +13,26 @@
 
 namespace vxDecks {
 
-/// The unit system of a deck, and the messages about the units of its quantities, which are the same for all materials.
+/// The unit system of a deck, and the units of its quantities, which are looked up once for all materials.
 class ReadUnits
 {
 public:
-    // Not explicit, because a unit system says everything; an object for several materials only saves time.
-    ReadUnits(vxUnits::UnitSystem system) : m_system(std::move(system)) {}
+    explicit ReadUnits(vxUnits::UnitSystem system) : m_units(std::move(system)) {}
 
-    const vxUnits::UnitSystem& system() const { return m_system; }
+    const vxUnits::UnitSystem& system() const { return m_units.system(); }
+    /// Returns the unit of a quantity in the catalogue, up to the next call; absent if it has no numbers.
+    const std::optional<vxUnits::Unit>& catalogueUnit(std::int32_t id,
+                                                      const std::optional<vxUnits::CreepExponents>& creep) const
+    {
+        return m_units.of(id, creep).stored;
+    }
+    /// Converts the numbers of a material to the units of the catalogue.
+    void convert(vxMat::MaterialBase& material) const { m_units.convertToCatalogue(material); }
     /// Returns the message that a quantity has another unit in the catalogue; empty if it has the same one, or no unit.
     std::vector<vxUnits::Message> change(std::int32_t id, const std::optional<vxUnits::CreepExponents>& creep) const;
 
 private:
-    vxUnits::UnitSystem m_system;
+    mutable DeckUnits m_units;                                               ///< remembers units
     mutable std::map<std::int32_t, std::vector<vxUnits::Message>> m_changes; ///< of quantities whose units are fixed
 };
 

@@ -139,8 +139,8 @@ class MatmlMaterial
 {
 public:
     MatmlMaterial(const pugi::xml_node& bulk, const MatmlDeclarations& properties, const MatmlDeclarations& parameters,
-                  MaterialReading& material)
-        : m_bulk(bulk), m_properties(properties), m_parameters(parameters), m_material(material)
+                  const ReadUnits& units, MaterialReading& material)
+        : m_bulk(bulk), m_properties(properties), m_parameters(parameters), m_units(units), m_material(material)
     {}
 
     void read();
@@ -171,6 +171,7 @@ private:
     const pugi::xml_node& m_bulk;
     const MatmlDeclarations& m_properties;
     const MatmlDeclarations& m_parameters;
+    const ReadUnits& m_units;
     MaterialReading& m_material;
     std::vector<MatmlValue> m_last; ///< the factor of creep, whose unit depends on the exponents
 };
@@ -342,7 +343,7 @@ void MatmlMaterial::takeNumbers(const MatmlValue& value)
         return;
     }
     const CreepExponents creep{m_material.number(Id::CreepModulusN), m_material.number(Id::CreepModulusM)};
-    const auto target = vxUnits::unitOfQuantity(quantity.id, UnitSystem::si(), creep);
+    const auto& target = m_units.catalogueUnit(quantity.id, creep);
     const Unit* const unit = target ? unitOf(declaration, *target) : nullptr;
     if (unit == nullptr) {
         const bool isKnown = declaration.unit || declaration.degree;
@@ -430,15 +431,16 @@ void readMatml(std::istream& file, const UnitSystem& units, DeclaredUnits& /*dec
     const pugi::xml_node metadata = matmlChild(root, "Metadata");
     const MatmlDeclarations properties = readMatmlDeclarations(metadata, "PropertyDetails");
     const MatmlDeclarations parameters = readMatmlDeclarations(metadata, "ParameterDetails");
+    const ReadUnits readUnits(units);
     for (const pugi::xml_node& element : root.children()) {
         if (matmlName(element) != "Material")
             continue;
         const pugi::xml_node bulk = matmlChild(element, "BulkDetails");
         MaterialReading material(Format::Matml, textOf(matmlChild(bulk, "Name")),
                                  numberOfId(element.attribute("id").value()));
-        MatmlMaterial(bulk, properties, parameters, material).read();
+        MatmlMaterial(bulk, properties, parameters, readUnits, material).read();
         addElasticity(properties, material);
-        material.finish(units, deck);
+        material.finish(readUnits, deck);
         countForeign(element, {"BulkDetails"}, deck);
         countForeign(bulk, {"Name", "PropertyData"}, deck);
         for (const pugi::xml_node& property : bulk.children())

@@ -213,11 +213,12 @@ void MaterialCollector::finish(const vxUnits::UnitSystem& units)
     noteEntriesWithoutMaterial();
     std::sort(m_materials.begin(), m_materials.end(),
               [](const BulkMaterial& one, const BulkMaterial& other) { return one.firstLine() < other.firstLine(); });
+    const ReadUnits readUnits(units);
     for (BulkMaterial& material : m_materials) {
         if (material.isRead()) {
             MaterialReading reading(Format::Nastran, titleOf(material), material.number);
             readBulkCards(material.entries, m_tables, reading);
-            reading.finish(units, m_deck);
+            reading.finish(readUnits, m_deck);
         }
         material.entries = {};
     }

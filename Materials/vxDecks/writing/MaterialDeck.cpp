@@ -51,7 +51,7 @@ MaterialDeck::MaterialDeck(Format format, const DeckMaterial& material, Heading 
     : m_format(format), m_source(material), m_heading(std::move(heading)), m_units(units), m_options(options)
 {
     m_converted.copyAllFrom(*material.material);
-    units.convert(m_converted);
+    units.convertToDeck(m_converted);
     removeNumbersThatAreNotFinite();
     m_values = vxUnits::MaterialValues(m_converted);
     m_models = resolveModels(m_values);
@@ -77,7 +77,7 @@ std::vector<Message> MaterialDeck::unitChange(std::int32_t id) const
 {
     if (units() == UnitSystem::si())
         return {};
-    const UnitPair one = unitsOf(id);
+    const UnitPair& one = unitsOf(id);
     if (!one.areBothKnown() || one.stored->factor() == one.written->factor())
         return {};
     return {makeMessage(Text::OtherUnit, {one.written->text(), one.stored->text()})};

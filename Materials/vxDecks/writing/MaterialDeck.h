@@ -1,12 +1,12 @@
 #pragma once
 
 #include "models/MaterialModels.h"
+#include "numbers/DeckUnits.h"
 #include "numbers/NumberField.h"
 #include "vxDecks/Deck.h"
 #include "vxDecks/Mapping.h"
 #include "vxMaterial/model/Material.h"
 #include "vxUnits/MaterialValues.h"
-#include "writing/DeckUnits.h"
 
 #include <cstdint>
 #include <map>
@@ -39,7 +39,7 @@ public:
     const MaterialModels& models() const { return m_models; }
     const vxUnits::UnitSystem& units() const { return m_units.system(); }
     /// Returns the units of a quantity of the material.
-    UnitPair unitsOf(std::int32_t id) const { return m_units.of(id, m_values.creepExponents()); }
+    const UnitPair& unitsOf(std::int32_t id) const { return m_units.of(id, m_values.creepExponents()); }
     const DeckOptions& options() const { return m_options; }
     bool isCommercial() const { return m_options.dialect == Dialect::Commercial; }
 

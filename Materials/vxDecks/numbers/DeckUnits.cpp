@@ -1,4 +1,4 @@
-#include "writing/DeckUnits.h"
+#include "numbers/DeckUnits.h"
 
 #include "vxMaterial/model/PropertyId.h"
 
@@ -19,26 +19,36 @@ UnitPair DeckUnits::lookUp(std::int32_t id, const std::optional<CreepExponents>&
     return pair;
 }
 
-UnitPair DeckUnits::of(std::int32_t id, const std::optional<CreepExponents>& creep)
+const UnitPair& DeckUnits::of(std::int32_t id, const std::optional<CreepExponents>& creep)
 {
     if (id == vxMat::PropertyId::CreepModulusA)
-        return lookUp(id, creep);
+        return m_known[id] = lookUp(id, creep);
     const auto known = m_known.find(id);
     return known != m_known.end() ? known->second : m_known.emplace(id, lookUp(id, creep)).first->second;
 }
 
-void DeckUnits::convert(vxMat::MaterialBase& material)
+void DeckUnits::convertToDeck(vxMat::MaterialBase& material)
+{
+    convert(material, &UnitPair::stored, &UnitPair::written);
+}
+
+void DeckUnits::convertToCatalogue(vxMat::MaterialBase& material)
+{
+    convert(material, &UnitPair::written, &UnitPair::stored);
+}
+
+void DeckUnits::convert(vxMat::MaterialBase& material, Side from, Side to)
 {
     if (m_system == UnitSystem::si())
         return;
     const auto creep = vxUnits::creepExponents(material);
     for (const auto& [key, property] : material.properties) {
-        const UnitPair units = of(key, creep);
+        const UnitPair& units = of(key, creep);
         if (!units.areBothKnown())
             continue;
-        property->value = vxUnits::convertNumber(property->value, *units.stored, *units.written);
+        property->value = vxUnits::convertNumber(property->value, *(units.*from), *(units.*to));
         for (double& number : property->values)
-            number = vxUnits::convertNumber(number, *units.stored, *units.written);
+            number = vxUnits::convertNumber(number, *(units.*from), *(units.*to));
     }
 }
 

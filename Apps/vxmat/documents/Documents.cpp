@@ -2,6 +2,7 @@
 
 #include "program/Answer.h"
 #include "program/Files.h"
+#include "vxDecks/DeckReading.h"
 
 #include <algorithm>
 #include <array>
@@ -112,11 +113,25 @@ projectfile::ProjectRecord readProject(const Input& input)
     }
 }
 
+/// Refuses a deck, of which the reader of JSON would only say that its first character is wrong.
+void requireNoDeck(const std::string& path, const std::string& text)
+{
+    const auto format = deckFormatOf(text);
+    if (!format)
+        return;
+    const std::string title = vxDecks::infoOf(*format).title;
+    throw Failure(path + ": this is a deck of " + title +
+                  (vxDecks::canRead(*format) ? "; 'vxmat import' makes a project of it"
+                                             : ", which can be written, but not read"));
+}
+
 } // namespace
 
 Input readInput(const std::string& path)
 {
-    return parseInput(path, readFile(path));
+    std::string text = readFile(path);
+    requireNoDeck(path, text);
+    return parseInput(path, std::move(text));
 }
 
 Input parseInput(const std::string& path, std::string text)

@@ -187,6 +187,22 @@ TEST(ImportDeck, OfADocumentPrintsItsMessagesAsJson)
     EXPECT_THAT(run.out, HasSubstr("documents carry no words"));
 }
 
+TEST(ImportDeck, IsNamedByCommandsThatReadNoDecks)
+{
+    const Folder folder;
+    const std::string file = folder.file("model.inp", deck);
+    for (const std::string command : {"show", "check", "cards"}) {
+        const Outcome run = vxmat({command, file});
+        EXPECT_EQ(run.status, 2) << command;
+        EXPECT_EQ(run.err, "vxmat: " + file + ": this is a deck of CalculiX; 'vxmat import' makes a project of it\n");
+    }
+    EXPECT_THAT(vxmat({"deck", file, "--solver", "nastran"}).err,
+                HasSubstr("this is a deck of CalculiX; 'vxmat import'"));
+    const std::string dyna = folder.file("a.k", "*KEYWORD\n*MAT_ELASTIC\n");
+    EXPECT_EQ(vxmat({"show", dyna}).err,
+              "vxmat: " + dyna + ": this is a deck of LS-DYNA, which can be written, but not read\n");
+}
+
 TEST(ImportDeck, ReadsStandardInput)
 {
     const Outcome run = vxmat({"import", "-", "--units", "mm-t-s", "-o", "-"}, deck);

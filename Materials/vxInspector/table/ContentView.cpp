@@ -51,6 +51,36 @@ std::vector<int> shareWidth(const std::vector<NeededWidth>& needed, int width)
     return widths;
 }
 
+/// Sets the least widths of columns that share a width. If bars and long texts can be so narrow, the names in the first
+/// column are whole; otherwise units are broken for them. If there is too little width nevertheless, names are elided. They
+/// are whole in a table that is scrolled anyway.
+void limitLeast(std::vector<NeededWidth>& needed, int width)
+{
+    if (needed.empty())
+        return;
+    const auto withLeast = [&needed](int NeededWidth::*ofNames, int NeededWidth::*ofOthers) {
+        std::vector<NeededWidth> columns = needed;
+        for (NeededWidth& column : columns)
+            column.least = column.*ofOthers;
+        columns.front().least = needed.front().*ofNames;
+        return columns;
+    };
+    const std::pair<int NeededWidth::*, int NeededWidth::*> inOrderOfPreference[] = {
+        {&NeededWidth::longest, &NeededWidth::least},
+        {&NeededWidth::longest, &NeededWidth::broken},
+        {&NeededWidth::least, &NeededWidth::least},
+        {&NeededWidth::broken, &NeededWidth::broken},
+    };
+    for (const auto& [ofNames, ofOthers] : inOrderOfPreference) {
+        std::vector<NeededWidth> columns = withLeast(ofNames, ofOthers);
+        if (sumOf(columns, &NeededWidth::least) <= width) {
+            needed = std::move(columns);
+            return;
+        }
+    }
+    needed = withLeast(&NeededWidth::longest, &NeededWidth::broken);
+}
+
 /// Returns the row of a table with the same place and the same first cell; -1 if there is none.
 int findRow(const TableContent& table, const Row& row)
 {
@@ -258,8 +288,10 @@ NeededWidth ContentView::neededWidth(const QModelIndex& index) const
     constexpr int mostOfName = 8; // characters in a line; the rest is elided
     const PieceWidths pieces = pieceWidths(cell.isInOneLine ? cell.text : text, metrics);
     constexpr int shortText = 4; // characters that are in one line also without blanks
-    const int longest = std::min(cell.text.size() <= shortText ? whole : pieces.longest + margin, width / 2);
-    const int least = index.column() == 0 ? mostOfName * fontMetrics().averageCharWidth() + margin : width * 3 / 7;
+    const bool isName = index.column() == 0;
+    const int most = isName ? width * 3 / 5 : width / 2;
+    const int longest = std::min(cell.text.size() <= shortText ? whole : pieces.longest + margin, most);
+    const int least = isName ? mostOfName * fontMetrics().averageCharWidth() + margin : width * 3 / 7;
     const int number = pieces.longestNumber > 0 ? pieces.longestNumber + margin : 0;
     const int broken = std::max(std::min(longest, least), number);
     if (cell.isInOneLine)
@@ -292,12 +324,7 @@ void ContentView::fitToWidth()
     std::vector<NeededWidth> needed;
     for (int column = 0; column < m_model->columnCount(); ++column)
         needed.push_back(neededWidth(column));
-    if (sumOf(needed, &NeededWidth::least) > viewport()->width())
-        for (NeededWidth& column : needed)
-            column.least = column.broken;
-    // In a table that is scrolled anyway, the names are whole.
-    if (sumOf(needed, &NeededWidth::least) > viewport()->width())
-        needed.front().least = needed.front().longest;
+    limitLeast(needed, viewport()->width());
     const std::vector<int> widths = shareWidth(needed, viewport()->width());
     for (int column = 0; column < m_model->columnCount(); ++column)
         if (m_columnsOfUser.count(column) == 0)

@@ -22,8 +22,8 @@ struct NeededWidth
     int broken;  ///< as `least`, if units may be broken at their blanks
 };
 
-/// A table of the inspector. Long texts wrap; the columns share the width. If there is too little of it, names are elided
-/// before numbers and bars are cut. The first column stays in sight when the table is scrolled sideways. Cells can be
+/// A table of the inspector. Long texts wrap; the columns share the width. If there is too little of it, bars become narrow
+/// and units are broken first; then names are elided, before numbers and bars are cut. The first column stays in sight when the table is scrolled sideways. Cells can be
 /// copied, as text and as an HTML table at once.
 class ContentView : public QTableView
 {

@@ -22,12 +22,15 @@ constexpr int pixelsInInch = 96;
 class PrintedPlot
 {
 public:
-    explicit PrintedPlot(const PlotData& data) : m_items(m_plot, printedLook())
+    PrintedPlot(const PlotData& data, const QSize& size) : m_items(m_plot, printedLook())
     {
         auto* const legend = new QwtLegend;
         m_plot.insertLegend(legend, QwtPlot::BottomLegend); // takes ownership
         legend->setFont(printedLook().font);
         m_items.show(data);
+        // The renderer takes the distances of an axis to its labels from the size that the widget has.
+        m_plot.resize(size);
+        m_plot.updateLayout();
         m_plot.replot();
     }
 
@@ -99,13 +102,13 @@ void writePdf(PrintedPlot& plot, const PlotData& data, const QSize& size, QBuffe
 
 QImage plotImage(const PlotData& plot, const QSize& size)
 {
-    PrintedPlot printed(plot);
+    PrintedPlot printed(plot, size);
     return image(printed, size);
 }
 
 QByteArray pictureFile(const PlotData& plot, PictureFormat format, const QSize& size)
 {
-    PrintedPlot printed(plot);
+    PrintedPlot printed(plot, size);
     QByteArray bytes;
     QBuffer file(&bytes);
     file.open(QIODevice::WriteOnly);

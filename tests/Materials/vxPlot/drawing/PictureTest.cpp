@@ -4,7 +4,9 @@
 #include <QSvgRenderer>
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -47,6 +49,53 @@ int countNear(const QImage& image, const QColor& colour)
             count += distance < 30 ? 1 : 0;
         }
     return count;
+}
+
+/// Returns the number of dark points in a column of an image.
+int darkOn(const QImage& image, int column)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        count += qGray(image.pixel(column, y)) < 60 ? 1 : 0;
+    return count;
+}
+
+/// Returns the middles of the lines that cross a column of an image: points that are darker than a limit.
+std::vector<double> linesAcross(const QImage& image, int column, int darkness)
+{
+    std::vector<double> middles;
+    int begin = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        const bool isLine = qGray(image.pixel(column, y)) < darkness;
+        if (isLine && begin < 0)
+            begin = y;
+        if (!isLine && begin >= 0)
+            middles.push_back(0.5 * (begin + y - 1));
+        if (!isLine)
+            begin = -1;
+    }
+    return middles;
+}
+
+TEST(Picture, HasTheTicksOfItsAxisAtTheGridAlsoWithALineBelowThePlot)
+{
+    PlotData plot = parabola();
+    plot.bands.clear();
+    plot.series.resize(30, plot.series[0]); // more than the legend names, which the line below says
+    const QImage image = QImage::fromData(pictureFile(plot, PictureFormat::Png, {900, 600}));
+    int axis = 0; // the column with most dark points on the left
+    for (int column = 0; column < image.width() / 4; ++column)
+        if (darkOn(image, column) > darkOn(image, axis))
+            axis = column;
+    const std::vector<double> ticks = linesAcross(image, axis - 13, 60); // the short ones end before
+    const std::vector<double> grid = linesAcross(image, axis + 30, 240);
+    ASSERT_GE(ticks.size(), 3U);
+    for (const double tick : ticks) {
+        double distance = 1e9;
+        for (const double line : grid)
+            distance = std::min(distance, std::fabs(line - tick));
+        EXPECT_LE(distance, 2.0) << "the tick at " << tick;
+    }
 }
 
 TEST(Picture, IsAnImageWithTheCurveInItsColour)

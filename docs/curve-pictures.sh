@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 if [ -z "${VXMAT:-}" ]; then
-    scripts/build.sh default vxmat vxMaterialPlotPictures
+    scripts/build.sh default vxmat vxPlotPictures
     VXMAT=$PWD/build/default/bin/vxmat
 fi
 data=tests/data/rubber

@@ -138,6 +138,16 @@ void keepMeasurements(const FitTarget& target, const KeptFit& fit, ObjectRecord&
     }
 }
 
+/// Returns what a material without D1 gets.
+std::string outcomeWithoutD1(vxConstitutive::D1Treatment treatment, double bulkRatio)
+{
+    if (treatment == vxConstitutive::D1Treatment::Set)
+        return "D1 is set such that the bulk modulus is " + vxMat::formatNumber(bulkRatio) +
+               " times the shear modulus; --d1 RATIO sets another one, and --d1 remove leaves the material "
+               "incompressible";
+    return "It stays without D1, and the check then reports that D1 is missing; --d1 RATIO sets it";
+}
+
 /// Returns what happens to the D1 of a material.
 std::string outcomeOf(vxConstitutive::D1Treatment treatment, double bulkRatio)
 {
@@ -150,7 +160,7 @@ std::string outcomeOf(vxConstitutive::D1Treatment treatment, double bulkRatio)
            " times the shear modulus; --d1 keep, --d1 remove or --d1 RATIO changes this";
 }
 
-/// Returns the change of a material to a fit and to the D1 of the setting. Adds a message about the D1 that the material has.
+/// Returns the change of a material to a fit and to the D1 of the setting. Adds a message about D1.
 vxConstitutive::MaterialChange changeOf(const KeptFit& fit, const vxMat::MaterialBase& material,
                                         const std::string& label, Answer& answer)
 {
@@ -161,9 +171,11 @@ vxConstitutive::MaterialChange changeOf(const KeptFit& fit, const vxMat::Materia
         return fit.result->change;
     }
     const vxConstitutive::D1Treatment treatment = fit.d1.treatment.value_or(volume->usualTreatment());
-    if (volume->finding)
-        answer.messages.push_back(label + ": " + describe(*volume->finding) + " " +
-                                  outcomeOf(treatment, fit.d1.bulkRatio));
+    answer.messages.push_back(label + ": " +
+                              (volume->finding
+                                   ? describe(*volume->finding) + " " + outcomeOf(treatment, fit.d1.bulkRatio)
+                                   : "The fit is incompressible, and the material has no D1. " +
+                                         outcomeWithoutD1(treatment, fit.d1.bulkRatio)));
     return changeOf(*fit.result, *volume, treatment, fit.d1.bulkRatio);
 }
 

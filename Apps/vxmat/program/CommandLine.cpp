@@ -432,8 +432,8 @@ void CommandLine::addFit()
         ->add_option(
             "--d1", m_fit.d1,
             "What happens to the D1 of the material if the fit has no volumetric test: keep, remove, or the ratio "
-            "of bulk to shear modulus that D1 is set to; if not given, D1 is kept, or set to 500 if it contradicts the "
-            "fit")
+            "of bulk to shear modulus that D1 is set to; if not given, D1 is kept, or set to 500 if it is missing or "
+            "contradicts the fit")
         ->type_name("D1");
     command->add_flag("--force", m_force, "Take over a lock that a program on another computer has left");
     addUnits(command);

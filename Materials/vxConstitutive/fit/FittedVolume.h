@@ -32,9 +32,9 @@ struct FittedVolume
     /// 20 times the shear modulus.
     VXCONSTITUTIVE_EXPORT bool contradictsFit() const;
 
-    /// Returns what happens to D1 if the user has not chosen: it is kept unless it contradicts the fit. Then it is set by
-    /// usualBulkRatio, because models of rubber need D1 and a material without it is not ready.
-    D1Treatment usualTreatment() const { return contradictsFit() ? D1Treatment::Set : D1Treatment::Keep; }
+    /// Returns what happens to D1 if the user has not chosen: it is kept unless it is missing or contradicts the fit. Then it is
+    /// set by usualBulkRatio, because the check of materials reports a rubber without D1, and some solvers take another ratio for it.
+    D1Treatment usualTreatment() const { return bulkRatio && !contradictsFit() ? D1Treatment::Keep : D1Treatment::Set; }
 };
 
 /// Returns what the D1 of a material, in SI units, means for the constants of a fit. A D1 of 0 is none. Absent if the fit has no

@@ -101,12 +101,6 @@ void VolumeChoice::fillChoices(int chosen)
     m_treatment->setCurrentIndex(std::min(chosen, m_treatment->count() - 1));
 }
 
-/// The check of materials reports a rubber without D1, and some solvers take another ratio for it.
-D1Treatment VolumeChoice::usualTreatment() const
-{
-    return hasD1() ? m_volume->usualTreatment() : D1Treatment::Set;
-}
-
 void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume, const vxUnits::UnitSystem& system)
 {
     const bool stays = isSame(volume, m_volume);
@@ -119,7 +113,7 @@ void VolumeChoice::setVolume(const std::optional<FittedVolume>& volume, const vx
     }
     fillChoices(0);
     if (volume)
-        m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(usualTreatment())));
+        m_treatment->setCurrentIndex(m_treatment->findData(static_cast<int>(m_volume->usualTreatment())));
     showSentence();
     showChoice();
 }

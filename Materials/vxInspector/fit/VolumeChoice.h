@@ -43,7 +43,6 @@ private:
     std::optional<double> bulkRatio() const;
     bool hasD1() const;
     void fillChoices(int chosen);
-    vxConstitutive::D1Treatment usualTreatment() const;
     void showSentence();
     static QString missingText();
     void showChoice();

@@ -163,6 +163,24 @@ TEST_F(FitIntoSoftRubber, KeepsOrSetsD1IfTheUserSaysSo)
     EXPECT_THAT(d1Value(), DoubleNear(2e-8, 1e-13)); // K0 = 100 MPa
 }
 
+/// The shear modulus is 1 MPa, so a bulk modulus of 500 MPa is D1 = 2/K0 = 4e-9 1/Pa.
+TEST_F(FitIntoSoftRubber, GivesANewMaterialTheD1ThatTheCheckNeedsAndSaysSo)
+{
+    ASSERT_EQ(fitInto({"--d1", "remove"}).status, 0);
+    ASSERT_EQ(d1(), "");
+    const Outcome without = fitInto({"--d1", "keep"});
+    EXPECT_THAT(without.err,
+                HasSubstr("Seal: The fit is incompressible, and the material has no D1. It stays without D1, "
+                          "and the check then reports that D1 is missing"));
+    EXPECT_EQ(d1(), "");
+    const Outcome usual = fitInto();
+    EXPECT_THAT(usual.err,
+                HasSubstr("Seal: The fit is incompressible, and the material has no D1. D1 is set such that the "
+                          "bulk modulus is 500 times the shear modulus; --d1 RATIO sets another one"));
+    EXPECT_THAT(d1Value(), DoubleNear(4e-9, 1e-14));
+    EXPECT_THAT(check().out, Not(HasSubstr("Incompressibility Parameter D1")));
+}
+
 TEST_F(FitIntoSoftRubber, RefusesARatioThatIsNoneAndD1WithoutAProject)
 {
     EXPECT_EQ(fitInto({"--d1", "0"}).status, 2);

@@ -82,7 +82,7 @@ TEST(VolumeOfAFit, ANegativeD1ContradictsTheFit)
     EXPECT_TRUE(volume->contradictsFit());
 }
 
-TEST(VolumeOfAFit, NothingIsKnownOfTheVolumeWithoutD1)
+TEST(VolumeOfAFit, AMissingD1IsSetUnlessTheUserWantsNone)
 {
     const Seal zero("0");
     const vxMat::CMaterial none("Pad");
@@ -90,7 +90,8 @@ TEST(VolumeOfAFit, NothingIsKnownOfTheVolumeWithoutD1)
         const auto volume = fittedVolume(rubberFit(), *material);
         ASSERT_TRUE(volume);
         EXPECT_FALSE(volume->bulkRatio || volume->finding);
-        EXPECT_EQ(volume->usualTreatment(), D1Treatment::Keep);
+        EXPECT_FALSE(volume->contradictsFit());
+        EXPECT_EQ(volume->usualTreatment(), D1Treatment::Set);
     }
 }
 

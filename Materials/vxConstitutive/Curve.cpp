@@ -104,6 +104,11 @@ const std::vector<double>* Curve::find(Quantity quantity) const
     return found == columns.end() ? nullptr : &found->values;
 }
 
+bool gives(const CurveRequest& request, const Finding& finding)
+{
+    return finding.id == FindingId::CohesionMissing && request.cohesion.has_value();
+}
+
 std::string columnName(const Column& column, const vxUnits::Translator& translator)
 {
     std::string name = translatedWord(quantityRecord(column.quantity).name, translator);

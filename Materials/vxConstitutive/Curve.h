@@ -164,6 +164,9 @@ struct CurveRequest
     std::optional<double> cohesion; ///< Pa; of yield surfaces, since the catalogue has no cohesion
 };
 
+/// Returns whether a request gives what a finding of the model asks for, such as the cohesion. The finding is then not told.
+VXCONSTITUTIVE_EXPORT bool gives(const CurveRequest& request, const Finding& finding);
+
 /// Return `count` values from `from` to `to`, with equal differences or with equal factors. A single value is `from`. Equal
 /// factors need bounds of the same sign that are not 0; otherwise the result is empty. The values between the bounds are rounded to
 /// 15 digits, or 13 with equal factors: 6 values from 0.5 to 3 include 1.5 and 2.

@@ -118,6 +118,9 @@ void Drawing::add(const std::string& source, std::optional<std::uint32_t> number
 void Drawing::draw(const Model& model, CurveSeries series)
 {
     series.curve = model.curve(m_request);
+    series.findings.erase(std::remove_if(series.findings.begin(), series.findings.end(),
+                                         [this](const Finding& finding) { return gives(m_request, finding); }),
+                          series.findings.end());
     std::vector<Finding> own = std::move(series.curve.findings);
     series.curve.findings.clear();
     series.findings.insert(series.findings.end(), own.begin(), own.end());

@@ -275,9 +275,12 @@ private:
         table.headers = QStringList{tr("Kind"), tr("Finding")};
         if (m_materials.size() > 1)
             table.headers << tr("Material");
+        vxConstitutive::CurveRequest settled;
+        settled.cohesion = m_settings.cohesion;
         for (const Modelled& modelled : m_materials) {
             for (const Finding& finding : modelled.models.findings)
-                add(modelled.inspected, finding);
+                if (!gives(settled, finding))
+                    add(modelled.inspected, finding);
             if (modelled.inspected.kept != nullptr && modelled.inspected.kept->fault)
                 add(modelled.inspected, vxConstitutive::Severity::Error, faultText(*modelled.inspected.kept->fault));
         }

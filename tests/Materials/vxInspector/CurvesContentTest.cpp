@@ -385,8 +385,15 @@ TEST(CurvesContent, DrawsAYieldSurfaceWithTheCohesionOfTheUser)
     settings.to = 1e6;
     EXPECT_EQ(drawn(soil(), settings).parameter, vxInspector::CurveParameter::Cohesion);
     EXPECT_THAT(drawn(soil(), settings).plot.y.name, HasSubstr("/ cohesion"));
+    const auto asks = [](const CurvesContent& content) {
+        return std::any_of(content.findings.rows.begin(), content.findings.rows.end(), [](const vxInspector::Row& row) {
+            return row.cells[1].copied().contains("Give a cohesion");
+        });
+    };
+    EXPECT_TRUE(asks(drawn(soil(), settings)));
     settings.cohesion = 1e4;
     const CurvesContent content = drawn(soil(), settings);
+    EXPECT_FALSE(asks(content)) << "the user has given one";
     EXPECT_THAT(content.plot.y.name, testing::Not(HasSubstr("/ cohesion")));
     EXPECT_EQ(content.plot.y.unit, "MPa");
 }

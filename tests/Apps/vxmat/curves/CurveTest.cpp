@@ -212,6 +212,18 @@ TEST_F(CurveOfProject, TellsWhereItIsUnstableAndThatItIsDrawnIncompressible)
     EXPECT_THAT(run.err, AllOf(HasSubstr("the material is unstable "), HasSubstr("The curve is incompressible, but")));
 }
 
+TEST_F(CurveOfProject, AsksForTheCohesionOfAYieldSurfaceOnlyIfThereIsNone)
+{
+    set("Plasticity", "on");
+    set("Yield type", "Mohr-Coulomb");
+    set("Internal frictional angle", "30");
+    std::vector<std::string> arguments{"curve", file(), "--mode", "yield", "--at", "0, 100 kPa"};
+    EXPECT_THAT(vxmat(arguments).err, HasSubstr("Give a cohesion with the curve"));
+    arguments.insert(arguments.end(), {"--cohesion", "20 kPa"});
+    EXPECT_THAT(vxmat(arguments).err,
+                AllOf(testing::Not(HasSubstr("Give a cohesion")), HasSubstr("no dilation angle")));
+}
+
 TEST_F(CurveOfProject, HasFindingsInTheUnitsOfTheOption)
 {
     set("Arruda-Boyce", "on");

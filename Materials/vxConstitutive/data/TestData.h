@@ -24,6 +24,33 @@ enum class Dimension
 /// UTF-8 without brackets: "MPa", "%", "mm/mm", "1/h". See unitFactor().
 using UnitFactor = std::function<std::optional<double>(std::string_view unit, Dimension dimension)>;
 
+/// The quantity that a column was measured as.
+enum class Measure
+{
+    Stretch,
+    EngineeringStrain,
+    TrueStrain, ///< logarithmic
+    VolumeRatio,
+    VolumetricStrain, ///< volume ratio - 1
+    AmountOfShear,
+    PlasticStrain, ///< logarithmic
+    NominalStress, ///< engineering
+    TrueStress,
+    Pressure, ///< positive in compression
+    Time,
+    CreepStrain,
+    StrainRate,
+    Modulus
+};
+
+/// A column of a file, as the file and the user name it.
+struct MeasuredColumn
+{
+    std::string name; ///< without the unit; empty if the file has none
+    std::string unit; ///< "MPa"
+    Measure measure = Measure::Stretch;
+};
+
 /// The data of a test in SI units. Their meaning depends on the mode:
 ///
 /// | mode | abscissa | ordinate | parameter |
@@ -44,6 +71,9 @@ struct TestData
     std::vector<double> ordinates; ///< as many as abscissas
     double parameter = 0.0;
     double weight = 1.0; ///< in a fit of several tests; a test is left out unless its weight is greater than 0
+    std::optional<MeasuredColumn> abscissaColumn =
+        std::nullopt; ///< where the abscissas are from; absent if it is not known
+    std::optional<MeasuredColumn> ordinateColumn = std::nullopt; ///< likewise of the ordinates
 };
 
 /// Returns whether a point of a test, in the meaning of TestData, is finite and inside the domain of its mode.

@@ -1,6 +1,7 @@
 #include "vxConstitutive/data/TestReading.h"
 
 #include "data/CreepStresses.h"
+#include "data/MeasureConversion.h"
 #include "data/MeasureWords.h"
 
 #include <algorithm>
@@ -180,33 +181,6 @@ private:
     TestReading& m_reading;
 };
 
-/// Returns the abscissa in the meaning of TestData.
-double canonicalAbscissa(Mode mode, Measure measure, double value)
-{
-    if (mode == Mode::Tensile && measure == Measure::Stretch)
-        return value - 1.0;
-    if (mode == Mode::Tensile && measure == Measure::TrueStrain)
-        return std::expm1(value);
-    if (mode == Mode::Tensile)
-        return value;
-    if (measure == Measure::EngineeringStrain || measure == Measure::VolumetricStrain)
-        return 1.0 + value;
-    return measure == Measure::TrueStrain ? std::exp(value) : value;
-}
-
-/// Returns the ordinate in the meaning of TestData. Nominal stresses follow from true ones at constant volume.
-double canonicalOrdinate(Mode mode, Measure measure, double value, double abscissa)
-{
-    if (measure == Measure::Pressure)
-        return -value;
-    if (measure != Measure::TrueStress)
-        return value;
-    if (mode == Mode::Tensile)
-        return value / (1.0 + abscissa);
-    const bool stretched = mode == Mode::Uniaxial || mode == Mode::Equibiaxial || mode == Mode::Planar;
-    return stretched ? value / abscissa : value;
-}
-
 /// Returns the abscissa of the unloaded state.
 double restOf(Mode mode)
 {
@@ -316,6 +290,11 @@ struct PointReading
     StressOfRows stress;
 };
 
+MeasuredColumn columnOf(const TestTable& table, const ColumnChoice& choice)
+{
+    return {table.columns[*choice.column].name, *choice.unit, *choice.measure};
+}
+
 void takePoints(const TestTable& table, const TestReadRequest& request, const PointReading& how, TestReading& reading)
 {
     TestData data;
@@ -323,6 +302,8 @@ void takePoints(const TestTable& table, const TestReadRequest& request, const Po
     data.mode = request.mode;
     data.parameter = request.mode == Mode::Creep ? how.stress.stress : request.stress.value_or(0.0);
     data.weight = request.weight;
+    data.abscissaColumn = columnOf(table, reading.abscissa);
+    data.ordinateColumn = columnOf(table, reading.ordinate);
     const std::vector<double>& x = table.columns[*reading.abscissa.column].cells;
     const std::vector<double>& y = table.columns[*reading.ordinate.column].cells;
     for (std::size_t i = 0; i < x.size(); ++i) {

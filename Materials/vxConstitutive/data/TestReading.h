@@ -11,25 +11,6 @@
 
 namespace vxConstitutive {
 
-/// The quantity that a column was measured as.
-enum class Measure
-{
-    Stretch,
-    EngineeringStrain,
-    TrueStrain, ///< logarithmic
-    VolumeRatio,
-    VolumetricStrain, ///< volume ratio - 1
-    AmountOfShear,
-    PlasticStrain, ///< logarithmic
-    NominalStress, ///< engineering
-    TrueStress,
-    Pressure, ///< positive in compression
-    Time,
-    CreepStrain,
-    StrainRate,
-    Modulus
-};
-
 /// The fixed properties of a measure.
 struct MeasureRecord
 {
@@ -112,6 +93,18 @@ struct TestReading
 /// creepStresses() tells them, and each of them is a test.
 VXCONSTITUTIVE_EXPORT TestReading takeTest(const TestTable& table, const TestReadRequest& request,
                                            const UnitFactor& units);
+
+/// A table of two columns, and how takeTest() reads the same test from it.
+struct TableOfTest
+{
+    TestTable table;
+    TestReadRequest request;
+};
+
+/// Returns a test as it was measured: its columns have the names, units and measures of the file. An axis whose column is not known,
+/// or has an unknown unit, is in SI, with an empty name and the usual measure of its mode. takeTest() returns the same points, but
+/// for the rounding of the conversion. The mode of the test must have measures.
+VXCONSTITUTIVE_EXPORT TableOfTest tableOfTest(const TestData& test, const UnitFactor& units);
 
 /// A table of creep tests has at most this number of stresses.
 inline constexpr std::size_t mostCreepStresses = 100;

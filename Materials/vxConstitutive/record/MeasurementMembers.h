@@ -24,6 +24,14 @@ struct Finite
 template <class Number>
 Finite(Number&) -> Finite<Number>;
 
+template <class Visit, class Column>
+void visitMembers(Column& column, const Visit& visit, const MeasuredColumn* /*kind*/)
+{
+    visit("name", column.name);
+    visit("unit", column.unit);
+    visit("measure", column.measure);
+}
+
 template <class Visit, class Test>
 void visitMembers(Test& test, const Visit& visit, const TestData* /*kind*/)
 {
@@ -31,6 +39,8 @@ void visitMembers(Test& test, const Visit& visit, const TestData* /*kind*/)
     visit("mode", test.mode);
     visit("parameter", Finite{test.parameter});
     visit("weight", Finite{test.weight});
+    visit("abscissa_column", test.abscissaColumn);
+    visit("ordinate_column", test.ordinateColumn);
     visit("abscissas", test.abscissas);
     visit("ordinates", test.ordinates);
 }

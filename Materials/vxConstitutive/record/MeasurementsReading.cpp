@@ -1,9 +1,11 @@
 #include "record/MeasurementMembers.h"
 #include "vxConstitutive/Curve.h"
+#include "vxConstitutive/data/TestReading.h"
 #include "vxMaterial/json/JsonPath.h"
 #include "vxMaterial/json/JsonTree.h"
 #include "vxMaterial/json/NumberWords.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <type_traits>
@@ -66,6 +68,14 @@ public:
         const auto mode = findMode(node.text());
         demand(mode.has_value(), R"("%1" must be the name of a mode)");
         field = *mode;
+    }
+    void read(JsonNode node, Measure& field)
+    {
+        const auto& all = measureRecords();
+        const auto found = std::find_if(all.begin(), all.end(),
+                                        [&](const MeasureRecord& record) { return node.text() == record.key; });
+        demand(found != all.end(), R"("%1" must be the name of a measured quantity)");
+        field = found->measure;
     }
     void read(JsonNode node, std::vector<double>& field)
     {

@@ -1,5 +1,6 @@
 #include "record/MeasurementMembers.h"
 #include "vxConstitutive/Curve.h"
+#include "vxConstitutive/data/TestReading.h"
 #include "vxMaterial/json/JsonWriter.h"
 #include "vxMaterial/json/NumberWords.h"
 
@@ -24,6 +25,7 @@ public:
     void write(std::int64_t number) { m_writer.whole(number); }
     void write(std::size_t number) { m_writer.whole(std::uint64_t{number}); }
     void write(Mode mode) { m_writer.text(modeRecord(mode).key); }
+    void write(Measure measure) { m_writer.text(measureRecord(measure).key); }
     void write(members::Finite<const double> finite) { m_writer.number(finite.number); }
     void write(double number)
     {

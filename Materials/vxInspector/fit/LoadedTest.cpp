@@ -38,12 +38,11 @@ QString columnText(const LoadedTest& test, const vxConstitutive::ColumnChoice& c
              QString::fromStdString(*choice.unit));
 }
 
-/// Returns a column of numbers in SI units.
-vxConstitutive::TableColumn siColumn(Measure measure, const std::vector<double>& numbers)
+/// Names a column that has no name of a file by what it measures.
+void nameColumn(vxConstitutive::TableColumn& column, Measure measure)
 {
-    constexpr const char* units[]{"1", "Pa", "s", "1/s"}; // in the order of Dimension
-    const vxConstitutive::MeasureRecord& record = vxConstitutive::measureRecord(measure);
-    return {constitutiveWord(record.name).toStdString(), units[static_cast<std::size_t>(record.dimension)], numbers};
+    if (column.name.empty())
+        column.name = constitutiveWord(vxConstitutive::measureRecord(measure).name).toStdString();
 }
 
 /// Returns whether a finding asks what a question of the reading asks too.
@@ -81,20 +80,12 @@ LoadedTest loadTest(const QString& name, const std::string& bytes)
 
 LoadedTest keptTest(const vxConstitutive::TestData& data)
 {
-    // The first measures are those of TestData, except that a pressure has the other sign.
-    const Measure abscissa = vxConstitutive::abscissaMeasures(data.mode).front();
-    const Measure ordinate =
-        data.mode == Mode::Volumetric ? Measure::TrueStress : vxConstitutive::ordinateMeasures(data.mode).front();
-    vxConstitutive::TestTable table;
-    table.columns = {siColumn(abscissa, data.abscissas), siColumn(ordinate, data.ordinates)};
+    vxConstitutive::TableOfTest made = vxConstitutive::tableOfTest(data, vxConstitutive::unitFactor);
+    nameColumn(made.table.columns[0], *made.request.abscissa.measure);
+    nameColumn(made.table.columns[1], *made.request.ordinate.measure);
     LoadedTest test;
-    test.request.name = data.name;
-    test.request.abscissa = {0, abscissa, table.columns[0].unit};
-    test.request.ordinate = {1, ordinate, table.columns[1].unit};
-    test.request.weight = data.weight;
-    if (data.mode == Mode::Creep)
-        test.request.stress = data.parameter;
-    test.table = std::make_shared<vxConstitutive::TestTable>(std::move(table));
+    test.request = std::move(made.request);
+    test.table = std::make_shared<vxConstitutive::TestTable>(std::move(made.table));
     test.mode = data.mode;
     if (data.abscissas.size() <= mostReadAtOnce)
         readAgain(test);

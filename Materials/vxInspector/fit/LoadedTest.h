@@ -32,7 +32,8 @@ inline constexpr std::size_t mostReadAtOnce = 20000;
 /// Returns the table in the bytes of a file or in pasted text, without a mode.
 LoadedTest loadTest(const QString& name, const std::string& bytes);
 
-/// Returns a test that a material keeps, with a table of its points in SI units. Its mode must be one of measuredModes().
+/// Returns a test that a material keeps, with a table of its points as they were measured. Its mode must be one of
+/// measuredModes().
 LoadedTest keptTest(const vxConstitutive::TestData& data);
 
 /// Takes the test from its table again after the user has changed the mode or the request.

@@ -250,6 +250,62 @@ TEST(TestQuestions, AModeWithoutTestDataHasNoColumns)
     EXPECT_FALSE(take("stretch,stress [Pa]\n1.1,2\n", Mode::Yield).data.has_value());
 }
 
+/// A test that is read from the table of its points has the same points again, and the table is that of the file.
+TEST(TableOfTest, HasTheColumnsOfTheFile)
+{
+    const struct
+    {
+        const char* text;
+        Mode mode;
+    } files[] = {
+        {"Dehnung [%];wahre Spannung [MPa]\n10;1.1\n50;3\n", Mode::Planar},
+        {"true strain [1],nominal stress [kPa]\n-0.5,-20\n0.5,30\n", Mode::Uniaxial},
+        {"true strain [%],true stress [GPa]\n1,0.3\n5,0.4\n", Mode::Tensile},
+        {"stretch [1],true stress [GPa]\n1.25,0.3\n1.5,0.4\n", Mode::Tensile},
+        {"volumetric strain [%],pressure [MPa]\n-1,10\n-2,21\n", Mode::Volumetric},
+        {"volume ratio [1],true stress [MPa]\n0.99,-10\n0.98,-21\n", Mode::Volumetric},
+        {"amount of shear [%],shear stress [psi]\n10,14.5\n", Mode::SimpleShear},
+        {"stress [MPa],strain rate [1/h]\n100,1e-5\n", Mode::CreepRate},
+        {"time [h],shear modulus [MPa]\n0,3\n1,2\n", Mode::Relaxation},
+    };
+    for (const auto& file : files) {
+        const TestTable table = readTestTable(file.text, unitFactor);
+        TestReadRequest request;
+        request.mode = file.mode;
+        request.weight = 2.0;
+        const TestReading reading = takeTest(table, request, unitFactor);
+        ASSERT_TRUE(reading.data.has_value()) << file.text;
+        const TableOfTest made = tableOfTest(*reading.data, unitFactor);
+        ASSERT_EQ(made.table.columns.size(), 2U);
+        for (std::size_t i = 0; i < 2; ++i) {
+            EXPECT_EQ(made.table.columns[i].name, table.columns[i].name) << file.text;
+            EXPECT_EQ(made.table.columns[i].unit, table.columns[i].unit) << file.text;
+            ASSERT_EQ(made.table.columns[i].cells.size(), table.columns[i].cells.size());
+            for (std::size_t row = 0; row < table.rows(); ++row)
+                EXPECT_NEAR(made.table.columns[i].cells[row], table.columns[i].cells[row],
+                            1e-13 * std::max(1.0, std::fabs(table.columns[i].cells[row])))
+                    << file.text;
+        }
+        const TestReading again = takeTest(made.table, made.request, unitFactor);
+        ASSERT_TRUE(again.data.has_value()) << file.text;
+        EXPECT_EQ(again.data->weight, 2.0);
+        EXPECT_TRUE(again.findings.empty() || !has(again.findings, FindingId::MeasureAssumed));
+    }
+}
+
+TEST(TableOfTest, IsInSiIfTheFileIsNotKnownOrHasAnUnknownUnit)
+{
+    TestData data{"bulk", Mode::Volumetric, {0.98}, {-2e7}};
+    data.ordinateColumn = {"Druck", "shekel", Measure::Pressure};
+    data.abscissaColumn = {"Zeit", "s", Measure::Time}; // no abscissa of this mode
+    const TableOfTest made = tableOfTest(data, unitFactor);
+    EXPECT_EQ(made.table.columns[0].cells, std::vector<double>{0.98});
+    EXPECT_EQ(made.table.columns[0].unit, "1");
+    EXPECT_EQ(made.table.columns[1].cells, std::vector<double>{-2e7}) << "tension is positive";
+    EXPECT_EQ(made.table.columns[1].unit, "Pa");
+    EXPECT_EQ(made.table.columns[1].name, "");
+}
+
 TEST(TestPoints, UnusualPointsAreCounted)
 {
     const TestReading reading =

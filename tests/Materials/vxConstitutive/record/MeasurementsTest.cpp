@@ -21,6 +21,8 @@ Measurements sample()
 {
     Measurements measurements;
     measurements.tests.push_back({"tension", Mode::Uniaxial, {1.0, 1.5, 0.1}, {0.0, -0.0, 1e-308}, 0.0, 1.0});
+    measurements.tests.back().abscissaColumn = {"Dehnung \"1\"", "%", Measure::EngineeringStrain};
+    measurements.tests.back().ordinateColumn = {"", "MPa", Measure::TrueStress};
     measurements.tests.push_back({"Kriechen \"\xC2\xB5\"\n", Mode::Creep, {0.0, 3600.0}, {1e-5, 1.0 / 3.0}, 2e6, 0.5});
     FitRecord& fit = measurements.fits.emplace_back();
     fit.model = "Mooney-Rivlin";
@@ -45,6 +47,8 @@ Measurements sample()
 constexpr const char* sampleText =
     R"({"version": 1, "tests": [)"
     R"({"name": "tension", "mode": "uniaxial", "parameter": 0, "weight": 1, )"
+    R"("abscissa_column": {"name": "Dehnung \"1\"", "unit": "%", "measure": "engineering-strain"}, )"
+    R"("ordinate_column": {"name": "", "unit": "MPa", "measure": "true-stress"}, )"
     R"("abscissas": [1, 1.5, 0.1], "ordinates": [0, -0.0, 1e-308]}, )"
     "{\"name\": \"Kriechen \\\"\xC2\xB5\\\"\\n\", "
     R"("mode": "creep", "parameter": 2e+06, "weight": 0.5, )"
@@ -106,6 +110,11 @@ TEST(Measurements, ReadBackAsTheyWere)
     EXPECT_THAT(read.tests[1].abscissas, ElementsAre(0.0, 3600.0));
     EXPECT_THAT(read.tests[1].ordinates, ElementsAre(1e-5, 1.0 / 3.0));
     EXPECT_TRUE(std::signbit(read.tests[0].ordinates[1])) << "negative zero stays";
+    ASSERT_TRUE(read.tests[0].abscissaColumn && read.tests[0].ordinateColumn);
+    EXPECT_EQ(read.tests[0].abscissaColumn->name, "Dehnung \"1\"");
+    EXPECT_EQ(read.tests[0].ordinateColumn->unit, "MPa");
+    EXPECT_EQ(read.tests[0].ordinateColumn->measure, Measure::TrueStress);
+    EXPECT_FALSE(read.tests[1].abscissaColumn) << "of a test whose file is not known";
     ASSERT_EQ(read.fits.size(), 2U);
     const FitRecord& fit = read.fits[0];
     EXPECT_EQ(fit.model, "Mooney-Rivlin");
@@ -183,6 +192,9 @@ TEST(Measurements, AreRefusedWithTheirPlace)
         {R"("mode": "uniaxial")", R"("mode": "sideways")", R"("tests[0].mode" must be the name of a mode)"},
         {R"("mode": "uniaxial")", R"("mode": 0)", R"("tests[0].mode" must be the name of a mode)"},
         {R"("weight": 1)", R"("weight": "NaN")", R"("tests[0].weight" must be a finite number)"},
+        {R"("measure": "true-stress")", R"("measure": "stress")",
+         R"("tests[0].ordinate_column.measure" must be the name of a measured quantity)"},
+        {R"("unit": "%", )", "", R"("tests[0].abscissa_column.unit" is missing)"},
         {"[1, 1.5, 0.1]", R"([1, "NaN", 0.1])", R"("tests[0].abscissas[1]" must be a finite number)"},
         {"[1, 1.5, 0.1]", "[1, [1.5], 0.1]", R"("tests[0].abscissas[1]" must be a finite number)"},
         {"[1, 1.5, 0.1]", "1", R"("tests[0].abscissas" must be an array)"},

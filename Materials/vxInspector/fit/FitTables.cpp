@@ -1,6 +1,7 @@
 #include "fit/FitTables.h"
 
 #include "curves/ConstitutiveTexts.h"
+#include "vxConstitutive/fit/EstimateText.h"
 #include "vxMaterial/model/NumberText.h"
 #include "vxMaterial/model/PropertyId.h"
 #include "vxPlot/CurvePlot.h"
@@ -29,7 +30,6 @@ using vxConstitutive::TestData;
 
 constexpr Mode rubberModes[]{Mode::Uniaxial, Mode::Equibiaxial, Mode::Planar};
 constexpr int digits = 6;
-constexpr int errorDigits = 3; // a standard error is itself known to few digits
 
 QString tr(const char* text)
 {
@@ -96,18 +96,19 @@ QString determinationText(Determination determination)
     return {};
 }
 
-/// A constant in a unit system; the factor of creep stays in SI units, since its unit depends on the exponents.
+/// A constant in a unit system, with the digits that its standard error justifies; the factor of creep stays in SI units, since its unit depends on the exponents.
 Row constantRow(const vxConstitutive::FittedConstant& constant, const vxUnits::UnitSystem& system)
 {
     const auto si = vxUnits::Unit::parse(constant.unit);
     const vxUnits::Unit unit = si ? system.unitOf(si->dimension()) : vxUnits::Unit();
-    const auto written = [&](double number, int shownDigits) {
-        return si ? QString::fromStdString(vxUnits::writeNumber(number, unit, shownDigits))
-                  : vxPlot::numberText(number, shownDigits);
-    };
-    QString value = written(constant.value, digits);
+    const auto converted = [&](double number) { return si ? vxUnits::convertNumber(number, *si, unit) : number; };
+    std::optional<double> error;
     if (constant.standardError)
-        value += QStringLiteral(" ± ") + written(*constant.standardError, errorDigits);
+        error = converted(*constant.standardError);
+    QString value = QString::fromStdString(vxConstitutive::estimateText(converted(constant.value), error));
+    if (error)
+        value += QStringLiteral(" ± ") +
+                 QString::fromStdString(vxConstitutive::roundedText(*error, vxConstitutive::errorDigits));
     const QString unitText = QString::fromStdString(si ? unit.text() : constant.unit);
     return {{{QString::fromStdString(constant.symbol)},
              {value},

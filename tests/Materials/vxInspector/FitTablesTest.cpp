@@ -108,6 +108,16 @@ TEST(FitTables, ShowConstantsWithUnitsAndErrors)
     FAIL() << "there is no Neo-Hookean model";
 }
 
+TEST(FitTables, ShowTheDigitsOfAConstantThatItsStandardErrorJustifies)
+{
+    vxConstitutive::FitResult result;
+    result.constants.push_back({vxMat::PropertyId::MaterialConstantC10, "C10", "Pa", 406123.4, 1234.0});
+    result.constants.push_back({0, "lm", "1", 4.729966, 0.0701});
+    const auto table = vxInspector::constantTable(result, *vxUnits::UnitSystem::parse("mm-t-s"));
+    EXPECT_EQ(table.rows.at(0).cells[1].text, "0.4061 ± 0.0012");
+    EXPECT_EQ(table.rows.at(1).cells[1].text, "4.73 ± 0.07");
+}
+
 TEST(FitTables, ShowThePointsOfAHardeningCurve)
 {
     vxConstitutive::FitResult result;

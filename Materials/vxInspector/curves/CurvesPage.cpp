@@ -5,6 +5,7 @@
 #include "curves/CurveRanges.h"
 #include "plot/PlotView.h"
 #include "table/ContentView.h"
+#include "table/ViewHeight.h"
 #include "vxPlot/CurvePlot.h"
 #include "vxUnits/Reading.h"
 #include "vxUnits/Writing.h"
@@ -12,6 +13,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -29,6 +31,10 @@ namespace {
 
 using vxConstitutive::Mode;
 using vxPlot::Scale;
+
+// The tab scrolls if there is no room for both.
+constexpr int leastPlotLines = 16;
+constexpr int mostFindingLines = 12;
 
 QToolButton* makeButton(QWidget* parent, const char* name)
 {
@@ -97,6 +103,7 @@ CurvesPage::CurvesPage(QWidget* parent)
     m_modeMenu->setObjectName(QStringLiteral("curveModeMenu"));
     m_copy->setPopupMode(QToolButton::InstantPopup);
     m_findings->setObjectName(QStringLiteral("curveFindings"));
+    m_plot->setMinimumHeight(fontMetrics().lineSpacing() * leastPlotLines);
     for (QToolButton* const scale : {m_horizontal, m_vertical})
         scale->setCheckable(true);
     layOut();
@@ -138,10 +145,9 @@ void CurvesPage::layOut()
     auto* const layout = new QVBoxLayout(content);
     layout->addWidget(m_sentence);
     layout->addWidget(m_controls);
-    layout->addWidget(m_plot, 3);
+    layout->addWidget(m_plot, 1);
     layout->addWidget(m_buttons);
-    layout->addWidget(m_findings, 1);
-    layout->addStretch(0);
+    layout->addWidget(m_findings);
     content->setMinimumWidth(1); // it scrolls downwards only
     // A low window must not become higher than the screen.
     auto* const scroll = new QScrollArea(this);
@@ -156,6 +162,9 @@ void CurvesPage::layOut()
 
 void CurvesPage::connectControls()
 {
+    // Rows become higher when the table becomes narrower.
+    connect(m_findings->verticalHeader(), &QHeaderView::sectionResized, this,
+            [this] { fitHeight(*m_findings, mostFindingLines); });
     const auto guard = [](auto action) {
         return [action] { Kelta::guarded(tr("The curves cannot be drawn"), action); };
     };
@@ -253,6 +262,7 @@ void CurvesPage::showContent(CurvesContent content)
     }
     m_findings->setHidden(content.findings.rows.empty());
     m_findings->setContent(std::move(content.findings));
+    fitHeight(*m_findings, mostFindingLines);
     m_plot->setPlot(std::move(content.plot));
 }
 

@@ -14,6 +14,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QHeaderView>
 #include <QImage>
 #include <QLabel>
 #include <QMenu>
@@ -115,6 +116,23 @@ protected:
         QTest::mouseRelease(&canvas, Qt::LeftButton, {}, middle + QPoint(20, 20));
     }
 };
+
+TEST_F(CurvesTab, ShowsTheFindingsBelowThePlotAsWholeLines)
+{
+    Mat::MaterialObject& pad = addMaterial(newProject(), "Pad", Type::Elastomer2);
+    setNumber(pad, Id::MaterialConstantC01, -0.05); // unstable in each test
+    select({&pad});
+    turnTo(Curves);
+    auto& findings = control<vxInspector::ContentView>("curveFindings");
+    ASSERT_TRUE(waitFor([&] { return findings.isVisible() && findings.model()->rowCount() >= 4; }));
+    const int line = findings.fontMetrics().lineSpacing();
+    const auto isWhole = [&] { return findings.height() >= std::min(findings.verticalHeader()->length(), 11 * line); };
+    EXPECT_TRUE(waitFor(isWhole)) << findings.height() << " of " << findings.verticalHeader()->length();
+    window->resize(window->width(), 500);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(waitFor(isWhole)) << "also in a low window, whose tab scrolls";
+    EXPECT_GE(plot().height(), plot().fontMetrics().lineSpacing() * 16);
+}
 
 TEST_F(CurvesTab, ScrollsInsteadOfMakingALowWindowHigher)
 {

@@ -5,10 +5,12 @@
 #include "curves/ConstitutiveTexts.h"
 #include "fit/FitApplying.h"
 #include "fit/FitOptions.h"
+#include "fit/FitTables.h"
 #include "fit/ModulusChoice.h"
 #include "fit/ResultPanel.h"
 #include "fit/TestPanel.h"
 #include "fit/VolumeChoice.h"
+#include "measured/BesideJob.h"
 #include "subject/InspectedMaterial.h"
 #include "subject/SubjectWatch.h"
 #include "vxMaterial/model/MaterialProperty.h"
@@ -224,12 +226,29 @@ void FitPage::addTest(LoadedTest test)
     m_tests->add(std::move(test));
 }
 
-/// Results of other tests must not be taken for those of the present ones.
+/// Results of other tests must not be taken for those of the present ones. Tests that have been fitted before get their results
+/// again.
 void FitPage::takeChangedTests()
 {
+    keepResults();
     m_curveModulus.reset();
     showOptions();
     dropResults();
+    const std::vector<const vxConstitutive::TestData*> tests = m_tests->data();
+    const FinishedFit* const earlier = tests.size() == m_tests->all().size() ? m_finished.of(tests) : nullptr;
+    if (earlier == nullptr)
+        return;
+    m_order = earlier->order;
+    m_curveModulus = earlier->curveModulus;
+    m_results->setResults(earlier->results, earlier->model);
+    showModel();
+}
+
+/// Keeps the present results, for the case that their tests are shown again.
+void FitPage::keepResults()
+{
+    if (const FitResult* const current = m_results->current())
+        m_finished.keep({m_order, m_results->results(), current->model, m_curveModulus});
 }
 
 /// Shows the options that belong to the tests.
@@ -365,10 +384,19 @@ QString FitPage::sentence() const
         return faultText(*m_tests->keptThere()->fault);
     if (m_tests->isLoading())
         return tr("A table of test data is being read.");
-    return m_tests->all().empty()
-               ? tr("Load test data from a file, or paste columns of numbers, to fit the constants of models "
-                    "to them.")
-               : QString();
+    if (m_tests->all().empty())
+        return tr("Load test data from a file, or paste columns of numbers, to fit the constants of models "
+                  "to them.");
+    return keptFitText();
+}
+
+/// Tells the latest fit that the material keeps, unless there is one in this tab.
+QString FitPage::keptFitText() const
+{
+    const KeptMeasurements* const kept = m_tests->keptThere();
+    const bool isShown = kept != nullptr && !kept->measurements.fits.empty() && m_target.isSet() &&
+                         !m_tests->hasOwn() && m_results->results().empty() && !isFitting();
+    return isShown ? recordText(kept->measurements.fits.back(), m_system) : QString();
 }
 
 /// Names the tests that a fit leaves out because they cannot be read yet; empty if there are none, or if nothing can be fitted.
@@ -407,7 +435,7 @@ void FitPage::enableApply()
     const FitResult* const result = m_results->current();
     const bool hasConstants = result != nullptr && !result->change.set.empty();
     m_apply->setHidden(m_results->results().empty());
-    m_apply->setEnabled(hasConstants && m_target.isSet() && m_volume->isComplete());
+    m_apply->setEnabled(hasConstants && m_target.isSet() && m_volume->isComplete() && m_writing == nullptr);
     m_apply->setText(
         m_target.isSet()
             ? tr("&Apply to \"%1\"").arg(QString(m_targetLabel).replace(QLatin1Char('&'), QLatin1String("&&")))
@@ -450,51 +478,93 @@ void FitPage::askBeforeClosing(bool& refused)
     });
 }
 
-/// Tests that cannot be kept do not prevent the constants from being applied. Tests that the fit leaves out stay own tests.
 void FitPage::apply()
 {
     const FitResult* const result = m_results->current();
-    Mat::MaterialObject* const object = materialAt(m_target);
-    if (result == nullptr || object == nullptr)
+    if (result == nullptr || materialAt(m_target) == nullptr || m_writing != nullptr)
         return;
-    MatGui::MaterialView* const editor = SubjectWatch::editorOf(*object);
-    const std::optional<KeptText> kept = measurementsWith(*result, *object);
-    const AppliedFit fit{m_volume->changeOf(*result), kept ? std::optional(kept->text) : std::nullopt};
+    writeTests(std::make_shared<Applying>(Applying{m_target,
+                                                   m_targetLabel,
+                                                   *result,
+                                                   m_volume->changeOf(*result),
+                                                   m_order.tests,
+                                                   recordOf(*result, m_order),
+                                                   {},
+                                                   {}}));
+}
+
+/// Makes the text in which the material keeps the tests. This takes seconds for long tests, so it is then done beside the interface.
+void FitPage::writeTests(const std::shared_ptr<Applying>& applying)
+{
+    constexpr std::size_t mostAtOnce = 500000; // bytes
+    applying->before = materialAt(applying->material)->getSetting(vxConstitutive::measurementsSetting);
+    const auto write = [applying] { applying->kept = addFit(applying->before, applying->tests, applying->record); };
+    std::size_t points = 0;
+    for (const vxConstitutive::TestData& test : applying->tests)
+        points += test.abscissas.size();
+    if (applying->before.size() <= mostAtOnce && points <= mostReadAtOnce) {
+        Kelta::guarded(tr("The tests are not kept with \"%1\"").arg(applying->label), write);
+        return finishApply(*applying);
+    }
+    m_writing = std::make_unique<BesideJob>(write);
+    connect(m_writing.get(), &BesideJob::finished, this, [this, applying] {
+        Kelta::guarded(tr("The constants cannot be applied"), [&] { takeWrittenTests(applying); });
+    });
+    showApplied();
+    enableControls();
+}
+
+/// The user may have changed or closed anything since Apply.
+void FitPage::takeWrittenTests(const std::shared_ptr<Applying>& applying)
+{
+    BesideJob* const job = m_writing.release();
+    job->deleteLater(); // this is a slot of its signal
+    Kelta::guarded(tr("The tests are not kept with \"%1\"").arg(applying->label), [job] {
+        if (!job->failure().isEmpty())
+            throw std::runtime_error(job->failure().toStdString());
+    });
+    const Mat::MaterialObject* const object = materialAt(applying->material);
+    if (object != nullptr && object->getSetting(vxConstitutive::measurementsSetting) != applying->before)
+        return writeTests(applying);
+    if (object != nullptr)
+        finishApply(*applying);
+    showApplied();
+    enableControls();
+}
+
+/// Tests that cannot be kept do not prevent the constants from being applied. Tests that the fit leaves out stay own tests.
+void FitPage::finishApply(const Applying& applying)
+{
+    Mat::MaterialObject& object = *materialAt(applying.material);
+    MatGui::MaterialView* const editor = SubjectWatch::editorOf(object);
+    const AppliedFit fit{applying.change, applying.kept ? std::optional(applying.kept->text) : std::nullopt};
     AppliedResult applied{
-        *result, fit.change, {}, removedBy(fit.change, inspectWithEditor(*object)), editor != nullptr};
-    if (kept) {
-        m_tests->noteKept(*object, *kept);
+        applying.result, fit.change, {}, removedBy(fit.change, inspectWithEditor(object)), editor != nullptr};
+    if (applying.kept) {
+        m_tests->noteKept(object, *applying.kept);
         applied.tests.emplace();
-        for (const vxConstitutive::TestData& test : m_order.tests)
+        for (const vxConstitutive::TestData& test : applying.tests)
             *applied.tests << QString::fromStdString(test.name);
     }
-    applyFit(fit, *object, editor);
-    m_applied = Applied{m_target, std::move(applied)};
+    applyFit(fit, object, editor);
+    m_applied = Applied{applying.material, std::move(applied)};
     showApplied();
     QTimer::singleShot(0, m_appliedText, [this] { m_scroll->ensureWidgetVisible(m_appliedText, 0, 0); }); // laid out
     m_panel->showRemovals();
-    Gui::MainWindow::announce(m_appliedText->text(), Kelta::LogMessage::Severity::Information,
-                              {m_target.projectId, m_target.objectId, 0});
+    Gui::MainWindow::announce(appliedText(m_applied->fit, inspectWithEditor(object), m_system),
+                              Kelta::LogMessage::Severity::Information,
+                              {applying.material.projectId, applying.material.objectId, 0});
 }
 
-/// Returns the measurements of a material with the tests and the fit; absent if they cannot be kept, which the message log
-/// tells.
-std::optional<KeptText> FitPage::measurementsWith(const FitResult& result, const Mat::MaterialObject& object) const
-{
-    std::optional<KeptText> kept;
-    Kelta::guarded(tr("The tests are not kept with \"%1\"").arg(m_targetLabel), [&] {
-        kept = addFit(object.getSetting(vxConstitutive::measurementsSetting), m_order.tests, recordOf(result, m_order));
-    });
-    return kept;
-}
-
-/// Says what the last Apply has written, as long as the selected material has it.
+/// Says that Apply is at work, or what the last one has written, as long as the selected material has it.
 void FitPage::showApplied()
 {
     const Mat::MaterialObject* const object =
         m_applied && m_applied->material == m_target ? materialAt(m_target) : nullptr;
     QString text;
-    if (object != nullptr) {
+    if (m_writing != nullptr) {
+        text = tr("The tests are being written for the material.");
+    } else if (object != nullptr) {
         const InspectedMaterial inspected = inspectWithEditor(*object);
         if (hasWritten(m_applied->fit.change, inspected))
             text = appliedText(m_applied->fit, inspected, m_system);

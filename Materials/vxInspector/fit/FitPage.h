@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fit/AppliedText.h"
+#include "fit/FinishedFits.h"
 #include "fit/FitJob.h"
 #include "fit/FitTests.h"
 #include "subject/Subject.h"
@@ -29,6 +30,7 @@ class MaterialObject;
 
 namespace vxInspector {
 
+class BesideJob;
 class FitOptions;
 class ModulusChoice;
 class PlotView;
@@ -38,8 +40,8 @@ class VolumeChoice;
 
 /// The tab of the fits: tests from files or the clipboard, models that are fitted to them beside the interface, their
 /// constants and curves, and a button that writes the constants of one model into the selected material and keeps the tests
-/// with it. Shows the tests that the selected material keeps. Tests that the user has loaded or changed stay while the user
-/// selects other materials, until they are kept.
+/// with it. Shows the tests that the selected material keeps, and their latest fit, if they have been fitted here. Tests that the
+/// user has loaded or changed stay while the user selects other materials, until they are kept.
 class FitPage : public QWidget
 {
     Q_OBJECT
@@ -68,6 +70,19 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// A fit that is about to be written into a material.
+    struct Applying
+    {
+        RowPlace material;
+        QString label; ///< of the material
+        vxConstitutive::FitResult result;
+        vxConstitutive::MaterialChange change;
+        std::vector<vxConstitutive::TestData> tests;
+        vxConstitutive::FitRecord record;
+        std::string before;           ///< what the material keeps
+        std::optional<KeptText> kept; ///< what it will keep; absent if the tests cannot be kept
+    };
+
     void layOut();
     QWidget* makeContent();
     void connectControls();
@@ -78,6 +93,7 @@ private:
     void fitWith(std::optional<double> youngsModulus);
     void finishFit();
     void dropResults();
+    void keepResults();
     void chooseModulus(bool isOfMaterial);
 
     void showModel();
@@ -88,11 +104,13 @@ private:
     void enableApply();
     std::optional<double> modulusOfMaterial() const;
     QString sentence() const;
+    QString keptFitText() const;
     QString leftOutText() const;
 
     void apply();
-    std::optional<KeptText> measurementsWith(const vxConstitutive::FitResult& result,
-                                             const Mat::MaterialObject& object) const;
+    void writeTests(const std::shared_ptr<Applying>& applying);
+    void takeWrittenTests(const std::shared_ptr<Applying>& applying);
+    void finishApply(const Applying& applying);
     void showApplied();
 
     /// A fit that has been written into a material.
@@ -104,10 +122,12 @@ private:
 
     FitTests* m_tests;
     FitOrder m_order; ///< of the results
+    FinishedFits m_finished;
     std::optional<double>
         m_curveModulus;            ///< Pa; that the last fit to the present tests has found; absent if there was none
     std::string m_wantedModel;     ///< that is selected after the next fit; empty for the best one
     std::unique_ptr<FitJob> m_job; ///< null if no fit runs
+    std::unique_ptr<BesideJob> m_writing; ///< makes the text of long tests for Apply; null if there is nothing to make
     vxUnits::UnitSystem m_system = vxUnits::UnitSystem::si();
     RowPlace m_target; ///< the material that gets the constants
     QString m_targetLabel;

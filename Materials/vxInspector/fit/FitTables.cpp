@@ -224,6 +224,20 @@ vxConstitutive::CurveRequest requestOf(Mode mode, const vxConstitutive::Range& r
 
 } // namespace
 
+QString recordText(const vxConstitutive::FitRecord& fit, const vxUnits::UnitSystem& system)
+{
+    QStringList constants;
+    for (const vxConstitutive::FittedConstant& constant : fit.constants) {
+        const Row row = constantRow(constant, system);
+        constants
+            << QStringLiteral("%1 = %2 %3").arg(row.cells[0].text, row.cells[1].text, row.cells[2].text).trimmed();
+    }
+    const QString text =
+        tr("The material was fitted to these tests: %1, residual %2, R² %3.")
+            .arg(constitutiveWord(fit.model), percent(fit.residual), vxPlot::numberText(fit.rSquared, digits));
+    return constants.isEmpty() ? text : text + QLatin1Char('\n') + constants.join(QStringLiteral(", "));
+}
+
 QString modelName(const FitResult& result)
 {
     return constitutiveWord(result.model);

@@ -3,6 +3,7 @@
 #include "fit/LoadedTest.h"
 #include "table/TableContent.h"
 #include "vxConstitutive/fit/Fit.h"
+#include "vxConstitutive/record/Measurements.h"
 #include "vxPlot/PlotData.h"
 #include "vxUnits/UnitSystem.h"
 
@@ -24,6 +25,9 @@ TableContent constantTable(const vxConstitutive::FitResult& result, const vxUnit
 vxPlot::PlotData fitPlot(const std::vector<const vxConstitutive::TestData*>& tests,
                          const std::vector<const vxConstitutive::FitResult*>& results,
                          const vxUnits::UnitSystem& system);
+
+/// Returns a sentence about a fit that a material keeps: the model, its constants, residual and R².
+QString recordText(const vxConstitutive::FitRecord& fit, const vxUnits::UnitSystem& system);
 
 /// Returns the name of a fitted model in the user's language.
 QString modelName(const vxConstitutive::FitResult& result);

@@ -245,7 +245,7 @@ void FitTests::noteKept(const Mat::MaterialObject& material, const KeptText& kep
     if (placeOf(material) == m_followed)
         m_keptThere = kept.measurements;
     for (LoadedTest& test : m_tests)
-        if (test.reading.data) {
+        if (isAmong(test, testsOf(kept.measurements.get()))) {
             test.isKept = true;
             test.keeper = placeOf(material);
         }

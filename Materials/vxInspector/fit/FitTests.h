@@ -55,7 +55,7 @@ public:
     void follow(const Mat::MaterialObject& material);
     /// Takes note of the tests that materials have come to keep or do not keep any more.
     void checkKept();
-    /// Takes note that a material is about to keep these measurements, with all tests that are read.
+    /// Takes note that a material is about to keep these measurements.
     void noteKept(const Mat::MaterialObject& material, const KeptText& kept);
     /// Takes note that a material is about to keep fewer measurements, or none. Shows no tests in their place.
     void noteRemoved(const Mat::MaterialObject& material, const KeptText& kept);

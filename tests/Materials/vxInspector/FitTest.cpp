@@ -259,6 +259,54 @@ TEST_F(FitTab, ReadsALongTestBesideTheInterface)
     EXPECT_EQ(page().tests()[0].reading.data->abscissas.size(), 60000U);
 }
 
+TEST_F(FitTab, WritesALongTestForApplyBesideTheInterface)
+{
+    Mat::MaterialObject& seal = showMaterial();
+    const int steps = history().count();
+    paste(longRubberTable());
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    chooseMode("uniaxial");
+    ASSERT_TRUE(waitFor([this] { return page().tests()[0].reading.data.has_value(); }));
+    fitTests();
+    press("fitApply");
+    EXPECT_EQ(applied(), "The tests are being written for the material.");
+    EXPECT_FALSE(control<QPushButton>("fitApply").isEnabled());
+    EXPECT_EQ(seal.getSetting(setting), "") << "nothing is written before all can be";
+    ASSERT_TRUE(waitFor([&] { return !seal.getSetting(setting).empty(); }));
+    EXPECT_EQ(history().count(), steps + 1);
+    EXPECT_THAT(applied(), HasSubstr("Seal"));
+    EXPECT_TRUE(page().tests()[0].isKept);
+    EXPECT_TRUE(control<QPushButton>("fitApply").isEnabled());
+    EXPECT_EQ(vxConstitutive::readMeasurements(seal.getSetting(setting)).tests.at(0).abscissas.size(), 60000U);
+    history().undo();
+    EXPECT_EQ(seal.getSetting(setting), "");
+}
+
+TEST_F(FitTab, AppliesALongTestToTheMaterialOfTheButtonThoughAnotherOneIsSelected)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().isVisible(); }));
+    paste(longRubberTable());
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    chooseMode("uniaxial");
+    ASSERT_TRUE(waitFor([this] { return page().tests()[0].reading.data.has_value(); }));
+    fitTests();
+    press("fitApply");
+    seal.setSetting(setting, keptText("meanwhile"));
+    select({&pad});
+    ASSERT_TRUE(waitFor([&] { return seal.getSetting(setting).size() > 100000; }));
+    EXPECT_EQ(vxConstitutive::readMeasurements(seal.getSetting(setting)).tests.size(), 2U) << "also those of meanwhile";
+    EXPECT_EQ(pad.getSetting(setting), "");
+    press("fitApply"); // now to the other one, which goes away
+    history().clear();
+    Obj::Application::instance().closeAllProjects();
+    EXPECT_TRUE(waitFor([this] { return applied().empty(); }));
+}
+
 TEST_F(FitTab, DropsTheReadingOfALongTestThatIsRemovedOrChanged)
 {
     showMaterial();
@@ -477,6 +525,91 @@ TEST_F(FitTab, ShowsNoFitOfKeptTestsForAnotherMaterial)
     EXPECT_TRUE(waitFor([this] { return page().tests().empty(); }));
     EXPECT_TRUE(page().results().empty());
     EXPECT_FALSE(control<QPushButton>("fitApply").isVisible());
+}
+
+TEST_F(FitTab, ShowsKeptTestsWithTheColumnsAndUnitsOfTheirFile)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().isVisible(); }));
+    paste(QStringLiteral("Dehnung;Kraft pro Fläche\n%;MPa\n50;1.1\n100;1.75\n200;2.9\n"));
+    chooseMode("uniaxial");
+    control<QComboBox>("fitYColumn").setFocus();
+    QTest::keyClick(&control<QComboBox>("fitYColumn"), Qt::Key_End);
+    QTest::keyClicks(&control<QComboBox>("fitYMeasure"), "nominal");
+    const std::string understood = "3 points: \"Kraft pro Fl\xC3\xA4"
+                                   "che\" as nominal stress in MPa against \"Dehnung\" as "
+                                   "engineering strain in %.";
+    ASSERT_THAT(preview(), HasSubstr(understood));
+    fitTests();
+    press("fitApply");
+    select({&pad});
+    ASSERT_TRUE(waitFor([this] { return page().tests().empty(); }));
+    select({&seal});
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    EXPECT_THAT(preview(), HasSubstr(understood));
+    EXPECT_EQ(control<QLineEdit>("fitYUnit").text(), "MPa");
+    EXPECT_EQ(page().tests()[0].table->columns[0].cells, (std::vector<double>{50.0, 100.0, 200.0}));
+}
+
+TEST_F(FitTab, ShowsTheFitOfKeptTestsAgainAfterALookAtAnotherMaterial)
+{
+    Mat::DocumentMaterial& project = newProject();
+    Mat::MaterialObject& seal = addMaterial(project, "Seal", vxMat::eMaterialType::Elastomer1);
+    Mat::MaterialObject& pad = addMaterial(project, "Pad", vxMat::eMaterialType::Elastomer1);
+    fitRubberFor(seal);
+    const std::size_t models = page().results().size();
+    press("fitApply");
+    select({&pad});
+    ASSERT_TRUE(waitFor([this] { return page().tests().empty() && page().results().empty(); }));
+    select({&seal});
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    EXPECT_EQ(page().results().size(), models);
+    auto& shown = control<vxInspector::ContentView>("fitModels");
+    EXPECT_EQ(shown.currentIndex().siblingAtColumn(0).data().toString(), "Neo-Hookean")
+        << "the model that was selected";
+    EXPECT_TRUE(control<QPushButton>("fitApply").isEnabled());
+    EXPECT_EQ(control<QPushButton>("fitApply").text(), "&Apply to \"Seal\"");
+    EXPECT_THAT(applied(), HasSubstr("Seal")) << "what Apply has written before";
+}
+
+TEST_F(FitTab, TellsTheFitThatAMaterialOfAProjectKeeps)
+{
+    Mat::MaterialObject& seal = addMaterial(newProject(), "Seal", vxMat::eMaterialType::Elastomer1);
+    vxConstitutive::Measurements kept = vxConstitutive::readMeasurements(keptText("tension"));
+    vxConstitutive::FitRecord& fit = kept.fits.emplace_back();
+    fit.model = "Neo-Hookean";
+    fit.constants.push_back({Id::MaterialConstantC10, "C10", "Pa", 406123.4, 1234.0});
+    fit.residual = 0.0316;
+    fit.rSquared = 0.98765;
+    seal.setSetting(setting, vxConstitutive::writeMeasurements(kept));
+    select({&seal});
+    turnTo(Fit);
+    ASSERT_TRUE(waitFor([this] { return page().tests().size() == 1; }));
+    const auto& sentence = control<QLabel>("sentence");
+    EXPECT_EQ(sentence.text(), "The material was fitted to these tests: Neo-Hookean, residual 3.16 %, R² 0.98765.\n"
+                               "C10 = 406100 ± 1200 Pa");
+    EXPECT_TRUE(sentence.isVisible());
+    fitTests();
+    EXPECT_FALSE(sentence.isVisible()) << "there is a fit in the tab";
+}
+
+TEST_F(FitTab, ShowsAFitAgainIfTheChangeOfItsTestIsTakenBack)
+{
+    showMaterial();
+    fitRubber();
+    auto& weight = control<QLineEdit>("fitWeight");
+    weight.selectAll();
+    QTest::keyClicks(&weight, "3");
+    QTest::keyClick(&weight, Qt::Key_Return);
+    EXPECT_TRUE(page().results().empty());
+    weight.selectAll();
+    QTest::keyClicks(&weight, "1");
+    QTest::keyClick(&weight, Qt::Key_Return);
+    EXPECT_FALSE(page().results().empty());
 }
 
 TEST_F(FitTab, RemovesAKeptTestFromTheMaterialAsAStepThatCanBeUndone)

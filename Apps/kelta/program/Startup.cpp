@@ -43,6 +43,17 @@ bool loadModules(Gui::MainWindow& window)
     return hasWorkbench && !modules.loaded.isEmpty() && modules.failed.empty();
 }
 
+void keepStartPicture(Gui::MainWindow& window)
+{
+    // Otherwise the user has not closed the window, and its layout is not stored.
+    if (window.isVisible() || !window.isComplete())
+        return;
+    FileService::instance()->end();
+    vxMsg::MessageProxy::instance().undoStack().clear();
+    Obj::Application::instance().closeAllProjects();
+    window.keepStartPicture();
+}
+
 void shutDown()
 {
     if (FileService* const files = FileService::instance())

@@ -177,7 +177,9 @@ int runForUser(const Options& options)
     prepare(window, options);
     desktop::Start start(window, [&options] { openFiles(options.files); });
     start.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    desktop::keepStartPicture(window);
+    return status;
 }
 
 int runWithWindows(int& argc, char** argv, const Options& options)

@@ -15,6 +15,7 @@
 #include "window/DockSet.h"
 #include "window/DocumentArea.h"
 #include "window/Panes.h"
+#include "window/StartPicture.h"
 #include "window/WelcomePage.h"
 #include "window/WindowOutline.h"
 #include "workbench/MenuBuilder.h"
@@ -83,9 +84,6 @@ MainWindow::MainWindow(Contributions& contributions, Parts parts, QWidget* paren
 {
     theMainWindow = this;
     setObjectName(QStringLiteral("mainWindow"));
-    createCenter();
-    // A message may be wider than the window.
-    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QStatusBar::setToolTip);
     createFirstParts(parts);
 }
 
@@ -97,7 +95,8 @@ MainWindow::~MainWindow()
     for (const QDockWidget* const dock : docks())
         disconnect(dock->toggleViewAction(), nullptr, this, nullptr);
     // The document windows are destroyed while the main window is still accessible.
-    m_documents->removeAll();
+    if (m_documents != nullptr)
+        m_documents->removeAll();
     theMainWindow = nullptr;
 }
 
@@ -132,12 +131,12 @@ void MainWindow::set_active_mdi_window(MDIWindow* window)
 
 MDIWindow* MainWindow::get_active_mdi_window() const
 {
-    return m_documents->activeWindow();
+    return m_documents != nullptr ? m_documents->activeWindow() : nullptr;
 }
 
 QList<MDIWindow*> MainWindow::getMdiWindows() const
 {
-    return m_documents->windows();
+    return m_documents != nullptr ? m_documents->windows() : QList<MDIWindow*>();
 }
 
 MDIWindow* MainWindow::editorOf(const Obj::ProjectObject& object) const
@@ -284,7 +283,8 @@ void MainWindow::updateCommands()
 {
     m_update.stop();
     if (!isComplete()) {
-        m_welcome->showOutline(m_outline->page);
+        if (m_outline != nullptr)
+            m_welcome->showOutline(m_outline->page);
         Q_EMIT updated();
         return;
     }
@@ -311,7 +311,7 @@ void MainWindow::changeEvent(QEvent* event)
         retranslate();
 }
 
-void MainWindow::createCenter()
+void MainWindow::createFrame()
 {
     m_center = new QStackedWidget(this);
     m_welcome = new WelcomePage(m_application.get_command_manager(), m_contributions);
@@ -319,6 +319,8 @@ void MainWindow::createCenter()
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_documents);
     setCentralWidget(new CenterArea(m_center));
+    // A message may be wider than the window.
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QStatusBar::setToolTip);
 }
 
 void MainWindow::watchProjects()

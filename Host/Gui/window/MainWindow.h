@@ -34,6 +34,7 @@ class MDIWindow;
 class MessageLogView;
 class ProjectExplorer;
 class PropertyPanel;
+class StartPicture;
 class StdSimModule;
 class TreeSelectionSingleton;
 class WelcomePage;
@@ -61,9 +62,10 @@ public:
     enum class Parts
     {
         All,
-        /// The outline of the window as it was when it was last closed: the welcome page with its texts, the titles of the
-        /// menus, and the space of toolbars and docks. It is shown before modules are loaded. If the settings have no
-        /// outline in the language of the user, as at the first start, all parts.
+        /// What can be shown before modules are loaded: the picture that keepStartPicture has kept. If there is none for
+        /// this start, the outline of the window as it was when it was last closed: the welcome page with its texts, the
+        /// titles of the menus, and the space of toolbars and docks. If the settings have no outline in the language of
+        /// the user, as at the first start, all parts.
         OutlineFirst,
     };
     explicit MainWindow(Parts parts, QWidget* parent = nullptr);
@@ -71,10 +73,10 @@ public:
     ~MainWindow() override;
 
     /// Returns whether the window has all parts.
-    bool isComplete() const { return m_outline == nullptr; }
+    bool isComplete() const { return m_picture == nullptr && m_outline == nullptr; }
     /// Makes the missing parts, calls `addModules`, which loads the modules and activates a workbench, and restores the
     /// layout of the last run; the parts of an outline keep their places. Must be called once, before the user acts on the
-    /// window. An outline knows no explorer, documents or commands.
+    /// window. A picture or an outline knows no explorer, documents or commands.
     void complete(const std::function<void()>& addModules);
 
     /// Returns the main window; null before it is made and after it was destroyed.
@@ -165,6 +167,9 @@ public:
     /// Stores place and size of the window and its docks in the settings, and restores them from there.
     void saveLayout() const;
     void restoreLayout();
+    /// Keeps the picture that the next start shows first. For the end of the program, when saveLayout has been called, the
+    /// user sees the window no more, and all projects are closed.
+    void keepStartPicture();
 
     /// Enables the commands that are applicable now, and shows the welcome page if no document is open. The window
     /// calls it after every change, when the event loop is next idle.
@@ -180,11 +185,14 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void createCenter();
+    void createFrame();
     void createFirstParts(Parts parts);
+    bool createPicture();
+    void createFrameForPicture();
     void createHostParts();
     void createDocks();
     void showMessagesIfDue();
@@ -215,7 +223,8 @@ private:
     ProjectExplorer* m_explorer = nullptr;
     PropertyPanel* m_properties = nullptr;
     MessageLogView* m_log = nullptr;
-    std::unique_ptr<WindowOutline> m_outline; ///< null if the window is complete
+    std::unique_ptr<StartPicture> m_picture;  ///< null unless the window is a picture
+    std::unique_ptr<WindowOutline> m_outline; ///< null unless the window is an outline
     std::unique_ptr<DockSet> m_docks;
     std::unique_ptr<WorkbenchBars> m_bars;
     std::unique_ptr<StdSimModule> m_workbench;

@@ -11,6 +11,7 @@
 #include "tree/ExplorerPane.h"
 #include "window/DockSet.h"
 #include "window/Panes.h"
+#include "window/StartPicture.h"
 #include "window/WelcomePage.h"
 #include "window/WindowOutline.h"
 
@@ -20,6 +21,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
+#include <QStatusBar>
 
 #include <algorithm>
 
@@ -68,9 +70,13 @@ void settleLayouts(const QMainWindow& window)
 
 } // namespace
 
-/// Makes the outline of the last run, or all parts of the host if there is none or the places of its parts are unknown.
+/// Makes the picture or the outline of the last run, or all parts of the host if there is none or the places of its parts
+/// are unknown.
 void MainWindow::createFirstParts(Parts parts)
 {
+    if (parts == Parts::OutlineFirst && createPicture())
+        return;
+    createFrame();
     const QSettings settings;
     std::optional<WindowOutline> outline;
     if (parts == Parts::OutlineFirst)
@@ -86,13 +92,59 @@ void MainWindow::createFirstParts(Parts parts)
     restoreLayout();
 }
 
+bool MainWindow::createPicture()
+{
+    const QSettings settings;
+    const QByteArray geometry = settings.value(QLatin1String(geometryKey)).toByteArray();
+    // On a smaller screen, docks are hidden that the picture shows.
+    if (!restoreGeometry(geometry) || width() < settings.value(QLatin1String(widthKey)).toInt())
+        return false;
+    if (std::optional<StartPicture> picture = StartPicture::read(*this))
+        m_picture = std::make_unique<StartPicture>(*std::move(picture));
+    setAttribute(Qt::WA_OpaquePaintEvent, m_picture != nullptr);
+    return m_picture != nullptr;
+}
+
+void MainWindow::createFrameForPicture()
+{
+    m_picture.reset();
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+    createFrame();
+    // Otherwise the event loop would show them, and might paint the window before.
+    for (QWidget* const part : {centralWidget(), static_cast<QWidget*>(statusBar()), static_cast<QWidget*>(menuBar())})
+        part->show();
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    if (m_picture != nullptr)
+        m_picture->paint(*this);
+    else
+        QMainWindow::paintEvent(event);
+}
+
+void MainWindow::keepStartPicture()
+{
+    // In the same order as at the next start, which shows only its own messages.
+    restoreState(QSettings().value(QLatin1String(stateKey)).toByteArray());
+    if (QDockWidget* const messages = m_docks->find(messagesDock))
+        messages->hide();
+    statusBar()->clearMessage();
+    updateCommands();
+    settleLayouts(*this);
+    StartPicture::keep(*this);
+}
+
 void MainWindow::complete(const std::function<void()>& addModules)
 {
     if (isComplete()) {
         addModules();
         return restoreLayout();
     }
-    const QByteArray places = saveState();
+    const QByteArray places =
+        m_outline != nullptr ? saveState() : QSettings().value(QLatin1String(stateKey)).toByteArray();
+    if (m_picture != nullptr)
+        createFrameForPicture();
     m_outline.reset();
     removeOutlineMenus(*this);
     m_welcome->removeOutline();

@@ -10,7 +10,7 @@ int main(int argc, char** argv)
     QMainWindow window;
     window.resize(1440, 860);
     window.show();
-    const vxbench::PaintWatch watch(window, window);
+    const vxbench::PaintWatch watch(window);
     while (!watch.hasTold())
         QCoreApplication::processEvents();
     return 0;

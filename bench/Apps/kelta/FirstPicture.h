@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <ctime>
+#include <functional>
 #include <utility>
 
 namespace vxbench {
@@ -25,9 +26,10 @@ constexpr char completed = 'c';
 class PaintWatch final : public QObject
 {
 public:
-    /// `part` is a part of the window, or the window, that must have been painted too. Install the watch last: the filter
-    /// that was installed last sees an event first.
-    PaintWatch(const QObject& window, const QObject& part) : m_window(window), m_part(part)
+    /// Calls `told` after the message. Install the watch last: the filter that was installed last sees an event first.
+    explicit PaintWatch(
+        const QObject& window, std::function<void()> told = [] {})
+        : m_window(window), m_told(std::move(told))
     {
         QCoreApplication::instance()->installEventFilter(this);
     }
@@ -37,8 +39,6 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint && watched == &m_part)
-            m_isPainted = true;
         // The other widgets are painted after the window, before the event loop is idle.
         if (event->type() == QEvent::Paint && watched == &m_window)
             QTimer::singleShot(0, this, &PaintWatch::tellOnce);
@@ -48,13 +48,14 @@ protected:
 private:
     void tellOnce()
     {
-        if (m_isPainted && !std::exchange(m_hasTold, true))
-            tell(painted);
+        if (std::exchange(m_hasTold, true))
+            return;
+        tell(painted);
+        m_told();
     }
 
     const QObject& m_window;
-    const QObject& m_part;
-    bool m_isPainted = false;
+    std::function<void()> m_told;
     bool m_hasTold = false;
 };
 

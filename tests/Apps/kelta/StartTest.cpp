@@ -47,6 +47,11 @@ private:
     std::function<void()> m_read;
 };
 
+bool hasProject()
+{
+    return Obj::Application::get_current_project() != nullptr;
+}
+
 /// The second start of a user, whose settings have the outline of the first.
 class Start : public testing::Test
 {
@@ -77,7 +82,6 @@ protected:
     {
         return Gui::GuiApplication::Instance->get_command_manager().findCommand("Mat_NewDoc") != nullptr;
     }
-    static bool hasProject() { return Obj::Application::get_current_project() != nullptr; }
     bool waitUntilComplete() const
     {
         return vxtest::waitFor([this] { return completions == 1; });
@@ -169,6 +173,42 @@ TEST(SecondStart, LosesNoClickOnAButtonOfThePage)
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
         EXPECT_TRUE(window.isComplete());
         EXPECT_NE(Obj::Application::get_current_project(), nullptr);
+    });
+    desktop::shutDown();
+}
+
+TEST(StartFromAPicture, LosesNoClickOnAButtonThatThePictureShows)
+{
+    QPoint place;
+    const auto startWindow = [](const std::function<void(Gui::MainWindow&)>& use) {
+        Gui::MainWindow window(Gui::MainWindow::Parts::OutlineFirst);
+        desktop::startFiles(window, {});
+        int completions = 0;
+        desktop::Start start(window, [&] { ++completions; });
+        start.show();
+        use(window);
+        EXPECT_TRUE(vxtest::waitFor([&] { return completions == 1; }));
+        window.saveLayout();
+        window.hide();
+        desktop::keepStartPicture(window);
+    };
+    startWindow([](const Gui::MainWindow&) {});
+    startWindow([&](Gui::MainWindow& window) {
+        EXPECT_EQ(window.findChild<QPushButton*>(), nullptr) << "the window is a picture";
+        ASSERT_TRUE(vxtest::waitFor([&] { return window.isComplete(); }));
+        const auto* const button = window.findChild<QPushButton*>("Mat_NewDoc");
+        place = button->mapTo(&window, button->rect().center());
+        // The next start has this project no more.
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+        EXPECT_TRUE(hasProject());
+    });
+    EXPECT_FALSE(hasProject());
+    startWindow([&](Gui::MainWindow& window) {
+        ASSERT_FALSE(window.isComplete());
+        EXPECT_EQ(window.findChild<QPushButton*>(), nullptr) << "the window is a picture";
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+        EXPECT_TRUE(window.isComplete());
+        EXPECT_TRUE(hasProject());
     });
     desktop::shutDown();
 }

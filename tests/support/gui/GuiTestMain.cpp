@@ -33,7 +33,7 @@ private:
     void OnTestStart(const testing::TestInfo& /*test*/) override
     {
         m_home = std::make_unique<QTemporaryDir>();
-        for (const char* const variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        for (const char* const variable : {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
             qputenv(variable, QFile::encodeName(m_home->path()));
         // QSettings reads the environment only once.
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_home->path());

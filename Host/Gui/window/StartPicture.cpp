@@ -1,0 +1,243 @@
+#include "window/StartPicture.h"
+
+#include "Gui/Translator.h"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QDataStream>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QSaveFile>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QWidget>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <utility>
+
+namespace Gui {
+
+namespace {
+
+using Word = std::uint32_t;
+
+// The file is a list of words in the byte order of the machine: a mark, the width and the height in pixels, the key, a
+// checksum of all other words, and then runs of equal pixels, line after line, each with its length and its colour. Most
+// of a window consists of long runs, so the file is small, and fast to read.
+constexpr Word mark = 0x4b535031; // for this layout
+constexpr std::size_t keyLength = 5;
+constexpr std::size_t widthPlace = 1;
+constexpr std::size_t heightPlace = 2;
+constexpr std::size_t keyPlace = 3;
+constexpr std::size_t sumPlace = keyPlace + keyLength;
+constexpr std::size_t runsPlace = sumPlace + 1;
+
+constexpr int longestSide = 16384;
+constexpr std::size_t mostWords = 1U << 19U;
+
+using Key = std::array<Word, keyLength>;
+
+QString pathOfFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/start-picture");
+}
+
+QByteArray contentOfSettings()
+{
+    QFile file(QSettings().fileName());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Returns what decides how a window looks, apart from the settings.
+QByteArray lookOf(const QWidget& window)
+{
+    const QStyle* style = QApplication::style();
+    if (const auto* const proxy = qobject_cast<const QProxyStyle*>(style))
+        style = proxy->baseStyle();
+    QByteArray look;
+    QDataStream stream(&look, QIODevice::WriteOnly);
+    stream << QCoreApplication::applicationVersion() << Translator::instance()->language() << style->objectName()
+           << QGuiApplication::palette() << QApplication::font() << qApp->styleSheet()
+           << QGuiApplication::layoutDirection() << window.devicePixelRatioF() << window.logicalDpiX()
+           << window.logicalDpiY();
+    return look;
+}
+
+/// Returns nothing if there are no settings.
+std::optional<Key> keyOf(const QWidget& window)
+{
+    const QByteArray settings = contentOfSettings();
+    if (settings.isEmpty())
+        return std::nullopt;
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(settings);
+    hash.addData(lookOf(window));
+    Key key;
+    std::memcpy(key.data(), hash.result().constData(), sizeof key);
+    return key;
+}
+
+QSize pixelsOf(const QWidget& window)
+{
+    return (QSizeF(window.size()) * window.devicePixelRatioF()).toSize();
+}
+
+/// A window that fills the screen gets its size when it is shown, but it is as wide as the screen.
+bool fits(QSize picture, const QWidget& window)
+{
+    constexpr Qt::WindowStates large = Qt::WindowMaximized | Qt::WindowFullScreen;
+    if ((window.windowState() & large) == 0)
+        return picture == pixelsOf(window);
+    const QScreen* const screen = window.screen();
+    return screen != nullptr && picture.width() == qRound(screen->availableSize().width() * window.devicePixelRatioF());
+}
+
+Word checksumOf(const std::vector<Word>& words)
+{
+    Word sum = 0;
+    for (std::size_t place = 0; place < words.size(); ++place)
+        if (place != sumPlace)
+            sum = sum * 31 + words[place];
+    return sum;
+}
+
+/// Returns whether the runs fill the lines of the picture.
+bool isWhole(const std::vector<Word>& words)
+{
+    const Word width = words[widthPlace];
+    Word lines = 0;
+    Word filled = 0; // of a line
+    for (std::size_t place = runsPlace; place + 1 < words.size(); place += 2) {
+        const Word length = words[place];
+        if (length == 0 || length > width - filled)
+            return false;
+        filled += length;
+        if (filled == width) {
+            filled = 0;
+            ++lines;
+        }
+    }
+    return filled == 0 && lines == words[heightPlace];
+}
+
+/// A pipe or a device may never end.
+std::vector<Word> readWords(const QString& path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const qint64 size = file.size();
+    constexpr qint64 wordSize = sizeof(Word);
+    if (size % wordSize != 0 || size / wordSize > static_cast<qint64>(mostWords))
+        return {};
+    std::vector<Word> words(static_cast<std::size_t>(size / wordSize));
+    return file.read(reinterpret_cast<char*>(words.data()), size) == size ? words : std::vector<Word>();
+}
+
+bool isPicture(const std::vector<Word>& words)
+{
+    return words.size() > runsPlace && words.front() == mark && words[widthPlace] <= longestSide &&
+           words[heightPlace] <= longestSide && words[widthPlace] != 0 && words[sumPlace] == checksumOf(words) &&
+           isWhole(words);
+}
+
+void appendRuns(const QImage& image, std::vector<Word>& words)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        const auto* const end = line + image.width();
+        for (const QRgb* first = line; first != end && words.size() < mostWords;) {
+            const QRgb colour = *first;
+            const QRgb* const last = std::find_if(first, end, [colour](QRgb other) { return other != colour; });
+            words.push_back(static_cast<Word>(last - first));
+            words.push_back(colour);
+            first = last;
+        }
+    }
+}
+
+QImage imageOf(QWidget& window)
+{
+    QImage image(pixelsOf(window), QImage::Format_RGB32);
+    image.setDevicePixelRatio(window.devicePixelRatioF());
+    image.fill(window.palette().color(QPalette::Window));
+    window.render(&image);
+    return image;
+}
+
+/// The picture shows the names of files, which concern nobody else.
+void write(const std::vector<Word>& words)
+{
+    const QString path = pathOfFile();
+    QSaveFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly))
+        return;
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    file.write(reinterpret_cast<const char*>(words.data()), static_cast<qint64>(words.size() * sizeof(Word)));
+    file.commit();
+}
+
+} // namespace
+
+StartPicture::StartPicture(std::vector<std::uint32_t> words) : m_words(std::move(words)) {}
+
+std::optional<StartPicture> StartPicture::read(const QWidget& window)
+{
+    StartPicture picture(readWords(pathOfFile()));
+    if (!isPicture(picture.m_words) || !fits(picture.size(), window))
+        return std::nullopt;
+    const std::optional<Key> key = keyOf(window);
+    if (!key || !std::equal(key->begin(), key->end(), picture.m_words.begin() + keyPlace))
+        return std::nullopt;
+    return picture;
+}
+
+void StartPicture::keep(QWidget& window)
+{
+    const std::optional<Key> key = keyOf(window);
+    if (!key)
+        return;
+    const QImage image = imageOf(window);
+    std::vector<Word> words{mark, static_cast<Word>(image.width()), static_cast<Word>(image.height())};
+    words.insert(words.end(), key->begin(), key->end());
+    words.push_back(0); // the checksum
+    appendRuns(image, words);
+    words[sumPlace] = checksumOf(words);
+    if (words.size() < mostWords)
+        write(words);
+    else
+        QFile::remove(pathOfFile());
+}
+
+/// Paints a few lines at a time, because these stay in the cache of the processor.
+void StartPicture::paint(QWidget& window) const
+{
+    constexpr int linesAtATime = 32;
+    const QSize pixels = size();
+    const qreal ratio = window.devicePixelRatioF();
+    QPainter painter(&window);
+    QImage band(pixels.width(), linesAtATime, QImage::Format_RGB32);
+    band.setDevicePixelRatio(ratio);
+    auto* const begin = reinterpret_cast<QRgb*>(band.bits());
+    auto run = m_words.begin() + runsPlace;
+    for (int top = 0; top < pixels.height(); top += linesAtATime) {
+        const int lines = std::min(linesAtATime, pixels.height() - top);
+        for (QRgb *next = begin, *const end = begin + std::ptrdiff_t{lines} * pixels.width(); next < end; run += 2)
+            next = std::fill_n(next, std::min<std::ptrdiff_t>(*run, end - next), *(run + 1));
+        painter.drawImage(QPointF(0, top / ratio), band, QRectF(0, 0, pixels.width(), lines));
+    }
+}
+
+QSize StartPicture::size() const
+{
+    return {static_cast<int>(m_words[widthPlace]), static_cast<int>(m_words[heightPlace])};
+}
+
+} // namespace Gui

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QSaveFile>
@@ -184,6 +185,18 @@ void write(const std::vector<Word>& words)
     file.commit();
 }
 
+/// Returns the memory in which a window is painted; null if it is not the memory of an image with pixels as in the file,
+/// or begins elsewhere than the window.
+QImage* memoryOf(const QPainter& painter)
+{
+    auto* const image = dynamic_cast<QImage*>(painter.paintEngine()->paintDevice());
+    const QTransform place = painter.deviceTransform();
+    const bool hasPixels =
+        image != nullptr && image->isDetached() &&
+        (image->format() == QImage::Format_RGB32 || image->format() == QImage::Format_ARGB32_Premultiplied);
+    return hasPixels && place.dx() == 0.0 && place.dy() == 0.0 ? image : nullptr;
+}
+
 } // namespace
 
 StartPicture::StartPicture(std::vector<std::uint32_t> words) : m_words(std::move(words)) {}
@@ -216,22 +229,27 @@ void StartPicture::keep(QWidget& window)
         QFile::remove(pathOfFile());
 }
 
-/// Paints a few lines at a time, because these stay in the cache of the processor.
 void StartPicture::paint(QWidget& window) const
 {
-    constexpr int linesAtATime = 32;
-    const QSize pixels = size();
-    const qreal ratio = window.devicePixelRatioF();
     QPainter painter(&window);
-    QImage band(pixels.width(), linesAtATime, QImage::Format_RGB32);
-    band.setDevicePixelRatio(ratio);
-    auto* const begin = reinterpret_cast<QRgb*>(band.bits());
+    // A copy of the whole picture would take longer than the runs.
+    if (QImage* const screen = memoryOf(painter); screen != nullptr && screen->size() == size())
+        return fill(*screen);
+    QImage image(size(), QImage::Format_RGB32);
+    fill(image);
+    image.setDevicePixelRatio(window.devicePixelRatioF());
+    painter.drawImage(0, 0, image);
+}
+
+void StartPicture::fill(QImage& image) const
+{
     auto run = m_words.begin() + runsPlace;
-    for (int top = 0; top < pixels.height(); top += linesAtATime) {
-        const int lines = std::min(linesAtATime, pixels.height() - top);
-        for (QRgb *next = begin, *const end = begin + std::ptrdiff_t{lines} * pixels.width(); next < end; run += 2)
-            next = std::fill_n(next, std::min<std::ptrdiff_t>(*run, end - next), *(run + 1));
-        painter.drawImage(QPointF(0, top / ratio), band, QRectF(0, 0, pixels.width(), lines));
+    for (int y = 0; y < image.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); run += 2) {
+            std::fill_n(line + x, *run, *(run + 1));
+            x += static_cast<int>(*run);
+        }
     }
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+class QImage;
 class QWidget;
 
 namespace Gui {
@@ -33,6 +34,7 @@ private:
     explicit StartPicture(std::vector<std::uint32_t> words);
 
     QSize size() const;
+    void fill(QImage& image) const;
 
     std::vector<std::uint32_t> m_words; ///< the file: see StartPicture.cpp
 };

@@ -95,9 +95,9 @@ int main(int argc, char** argv)
         runs.run("empty_window", home.path(), empty);
         runs.run("painted_kelta", newHome.path(), first);
     }
-    bool within = judge("start until the first picture / an empty window", later.painted, empty.painted, 1.6);
-    within = judge("start until the window is complete / the same", later.complete, empty.painted, 3.2) && within;
-    within = judge("first start of a user, until painted / the same", first.painted, empty.painted, 2.4) && within;
+    bool within = judge("start until the first picture / an empty window", later.painted, empty.painted, 1.3);
+    within = judge("start until the window is complete / the same", later.complete, empty.painted, 2.9) && within;
+    within = judge("first start of a user, until painted / the same", first.painted, empty.painted, 2.3) && within;
     if (!runs.passed())
         std::printf("    FAILED: a program failed or did not paint its window as it is\n");
     return runs.passed() && within ? 0 : 1;

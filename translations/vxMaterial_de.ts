@@ -4687,6 +4687,10 @@ Trotzdem löschen?</translation>
         <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps those that the fit uses.</source>
         <translation>Diese Versuche des Registers „Anpassung“ sind bei keinem Material gespeichert: %1. Wenn das Programm geschlossen wird, gehen sie verloren. „Übernehmen“ im Register speichert die, die die Anpassung verwendet.</translation>
     </message>
+    <message>
+        <source>The tests are being written for the material.</source>
+        <translation>Die Versuche werden für das Material geschrieben.</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FitTables</name>
@@ -4793,6 +4797,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>at plastic strain %1</source>
         <translation>bei der plastischen Dehnung %1</translation>
+    </message>
+    <message>
+        <source>The material was fitted to these tests: %1, residual %2, R² %3.</source>
+        <translation>Das Material wurde an diese Versuche angepasst: %1, Restfehler %2, R² %3.</translation>
     </message>
 </context>
 <context>
@@ -7305,6 +7313,26 @@ Trotzdem löschen?</translation>
         <source>the file has more than %1 elements and attributes; divide it into several files</source>
         <translation>die Datei hat mehr als %1 Elemente und Attribute; teilen Sie sie in mehrere Dateien</translation>
     </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; must follow the number without a blank.</source>
+        <translation>Der Exponent in „%1“ muss ohne Leerzeichen auf die Zahl folgen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither the name of a unit system nor base units such as &quot;%2&quot;.</source>
+        <translation>„%1“ ist weder der Name eines Einheitensystems noch eine Angabe von Grundeinheiten wie „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 ends where line %2 includes a file. If that file begins with more numbers of the card, they are missing.</source>
+        <translation>%1 endet dort, wo Zeile %2 eine Datei einbindet. Beginnt diese Datei mit weiteren Zahlen der Karte, so fehlen sie.</translation>
+    </message>
+    <message>
+        <source>the material names it &quot;%1&quot;; the deck has it under its own name</source>
+        <translation>das Material nennt sie „%1“; die Solverdatei hat sie unter ihrem eigenen Namen</translation>
+    </message>
+    <message>
+        <source>no card of the deck has anything of the material</source>
+        <translation>keine Karte der Solverdatei hat etwas von dem Material</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Word</name>
@@ -8082,7 +8110,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Longitudinal wave speed</source>
-        <translation>Longitudinalwellengeschwindigkeit</translation>
+        <translation>Longitudinale Wellengeschwindigkeit</translation>
     </message>
     <message>
         <source>Shear wave speed</source>
@@ -8494,6 +8522,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>&quot;%1&quot; must have as many ordinates as abscissas</source>
         <translation>„%1“ muss ebenso viele Ordinaten wie Abszissen haben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be the name of a measured quantity</source>
+        <translation>&quot;%1&quot; muss der Name einer Messgröße sein</translation>
     </message>
 </context>
 </TS>

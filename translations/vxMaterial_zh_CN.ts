@@ -4686,6 +4686,10 @@ Delete anyway?</source>
         <source>These tests of the tab Fit are not kept with a material: %1. If the program closes, they are lost. &quot;Apply&quot; in the tab keeps those that the fit uses.</source>
         <translation>“拟合”选项卡中的以下试验未随任何材料保存：%1。关闭程序后将丢失。选项卡中的“应用”可保存拟合所用的试验。</translation>
     </message>
+    <message>
+        <source>The tests are being written for the material.</source>
+        <translation>正在为该材料写入试验数据。</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::FitTables</name>
@@ -4792,6 +4796,10 @@ Delete anyway?</source>
     <message>
         <source>at plastic strain %1</source>
         <translation>在塑性应变 %1 处</translation>
+    </message>
+    <message>
+        <source>The material was fitted to these tests: %1, residual %2, R² %3.</source>
+        <translation>该材料已按这些试验拟合：%1，残差 %2，R² %3。</translation>
     </message>
 </context>
 <context>
@@ -7304,6 +7312,26 @@ Delete anyway?</source>
         <source>the file has more than %1 elements and attributes; divide it into several files</source>
         <translation>文件中的元素和属性超过 %1 个；请将其拆分为多个文件</translation>
     </message>
+    <message>
+        <source>The exponent in &quot;%1&quot; must follow the number without a blank.</source>
+        <translation>“%1”中的指数必须紧跟在数字之后，中间不能有空格。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither the name of a unit system nor base units such as &quot;%2&quot;.</source>
+        <translation>“%1”既不是单位制的名称，也不是诸如“%2”的基本单位。</translation>
+    </message>
+    <message>
+        <source>%1 ends where line %2 includes a file. If that file begins with more numbers of the card, they are missing.</source>
+        <translation>%1 在第 %2 行引入文件处结束。如果该文件以该卡片的更多数值开头，则这些数值缺失。</translation>
+    </message>
+    <message>
+        <source>the material names it &quot;%1&quot;; the deck has it under its own name</source>
+        <translation>材料将其命名为“%1”；求解器文件使用其自身的名称</translation>
+    </message>
+    <message>
+        <source>no card of the deck has anything of the material</source>
+        <translation>求解器文件中没有任何卡片包含该材料的内容</translation>
+    </message>
 </context>
 <context>
     <name>vxUnits::Word</name>
@@ -8493,6 +8521,10 @@ Delete anyway?</source>
     <message>
         <source>&quot;%1&quot; must have as many ordinates as abscissas</source>
         <translation>“%1”的纵坐标与横坐标数量必须相同</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be the name of a measured quantity</source>
+        <translation>“%1”必须是测量量的名称</translation>
     </message>
 </context>
 </TS>

@@ -45,8 +45,13 @@ constexpr std::size_t mostWords = 1U << 19U;
 
 using Key = std::array<Word, keyLength>;
 
-QString pathOfFile()
+/// Returns nothing if neither HOME nor XDG_CACHE_HOME names a folder. Qt would then use the root folder.
+std::optional<QString> pathOfFile()
 {
+    const QString home = qEnvironmentVariable("HOME");
+    const bool hasHome = QDir::isAbsolutePath(home) && QFileInfo(home).isDir();
+    if (!hasHome && !QDir::isAbsolutePath(qEnvironmentVariable("XDG_CACHE_HOME")))
+        return std::nullopt;
     return QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/start-picture");
 }
 
@@ -174,9 +179,8 @@ QImage imageOf(QWidget& window)
 }
 
 /// The picture shows the names of files, which concern nobody else.
-void write(const std::vector<Word>& words)
+void write(const QString& path, const std::vector<Word>& words)
 {
-    const QString path = pathOfFile();
     QSaveFile file(path);
     if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly))
         return;
@@ -203,7 +207,10 @@ StartPicture::StartPicture(std::vector<std::uint32_t> words) : m_words(std::move
 
 std::optional<StartPicture> StartPicture::read(const QWidget& window)
 {
-    StartPicture picture(readWords(pathOfFile()));
+    const std::optional<QString> path = pathOfFile();
+    if (!path)
+        return std::nullopt;
+    StartPicture picture(readWords(*path));
     if (!isPicture(picture.m_words) || !fits(picture.size(), window))
         return std::nullopt;
     const std::optional<Key> key = keyOf(window);
@@ -214,8 +221,9 @@ std::optional<StartPicture> StartPicture::read(const QWidget& window)
 
 void StartPicture::keep(QWidget& window)
 {
+    const std::optional<QString> path = pathOfFile();
     const std::optional<Key> key = keyOf(window);
-    if (!key)
+    if (!path || !key)
         return;
     const QImage image = imageOf(window);
     std::vector<Word> words{mark, static_cast<Word>(image.width()), static_cast<Word>(image.height())};
@@ -224,9 +232,9 @@ void StartPicture::keep(QWidget& window)
     appendRuns(image, words);
     words[sumPlace] = checksumOf(words);
     if (words.size() < mostWords)
-        write(words);
+        write(*path, words);
     else
-        QFile::remove(pathOfFile());
+        QFile::remove(*path);
 }
 
 void StartPicture::paint(QWidget& window) const

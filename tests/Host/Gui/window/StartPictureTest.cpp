@@ -272,6 +272,21 @@ TEST_F(StartPicture, IsForTheUserAlone)
     EXPECT_LT(QFileInfo(file()).size(), 1 << 20) << "a fraction of the pixels";
 }
 
+TEST_F(StartPicture, IsNotKeptWithoutAFolderOfTheUser)
+{
+    const QByteArray home = qgetenv("HOME");
+    const QByteArray cache = qgetenv("XDG_CACHE_HOME");
+    qunsetenv("HOME");
+    qunsetenv("XDG_CACHE_HOME");
+    const QString inRootFolder = file();
+    close();
+    EXPECT_FALSE(QFileInfo::exists(inRootFolder));
+    startNext();
+    EXPECT_FALSE(showsPicture());
+    qputenv("HOME", home);
+    qputenv("XDG_CACHE_HOME", cache);
+}
+
 TEST_F(StartPicture, IsNotKeptWithoutSettings)
 {
     QFile::remove(QSettings().fileName());

@@ -51,34 +51,17 @@ std::vector<int> shareWidth(const std::vector<NeededWidth>& needed, int width)
     return widths;
 }
 
-/// Sets the least widths of columns that share a width. If bars and long texts can be so narrow, the names in the first
-/// column are whole; otherwise units are broken for them. If there is too little width nevertheless, names are elided. They
-/// are whole in a table that is scrolled anyway.
+/// Sets the least widths of columns that share a width. If the names in the first column are not whole beside narrow bars,
+/// units are broken for them, and the names get the rest of the width. They are whole if the table is scrolled anyway.
 void limitLeast(std::vector<NeededWidth>& needed, int width)
 {
     if (needed.empty())
         return;
-    const auto withLeast = [&needed](int NeededWidth::*ofNames, int NeededWidth::*ofOthers) {
-        std::vector<NeededWidth> columns = needed;
-        for (NeededWidth& column : columns)
-            column.least = column.*ofOthers;
-        columns.front().least = needed.front().*ofNames;
-        return columns;
-    };
-    const std::pair<int NeededWidth::*, int NeededWidth::*> inOrderOfPreference[] = {
-        {&NeededWidth::longest, &NeededWidth::least},
-        {&NeededWidth::longest, &NeededWidth::broken},
-        {&NeededWidth::least, &NeededWidth::least},
-        {&NeededWidth::broken, &NeededWidth::broken},
-    };
-    for (const auto& [ofNames, ofOthers] : inOrderOfPreference) {
-        std::vector<NeededWidth> columns = withLeast(ofNames, ofOthers);
-        if (sumOf(columns, &NeededWidth::least) <= width) {
-            needed = std::move(columns);
-            return;
-        }
-    }
-    needed = withLeast(&NeededWidth::longest, &NeededWidth::broken);
+    NeededWidth& names = needed.front();
+    const auto rest = [&] { return width - sumOf(needed, &NeededWidth::least) + names.least; };
+    if (rest() < names.longest)
+        std::for_each(needed.begin() + 1, needed.end(), [](NeededWidth& other) { other.least = other.broken; });
+    names.least = rest() < names.least ? names.longest : std::min(rest(), names.longest);
 }
 
 /// Returns the row of a table with the same place and the same first cell; -1 if there is none.

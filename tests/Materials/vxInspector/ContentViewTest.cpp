@@ -101,4 +101,19 @@ TEST(ContentView, HasNamesWholeBeforeUnitsInOneLineAndWideBars)
     EXPECT_GE(view.columnWidth(3), 6 * character);
 }
 
+TEST(ContentView, GivesNamesThatAreElidedAllTheWidthThatOthersCanSpare)
+{
+    const QString name = QStringLiteral("Longitudinalwellengeschwindigkeit");
+    ContentView view;
+    const int character = view.fontMetrics().averageCharWidth();
+    const int wanted = view.fontMetrics().horizontalAdvance(name);
+    view.resize(wanted + 12 * character, 240);
+    view.show();
+    view.setContent(values(name));
+    EXPECT_LT(view.columnWidth(0), wanted);
+    EXPECT_GT(view.columnWidth(0), wanted / 2);
+    EXPECT_LT(view.columnWidth(2), view.fontMetrics().horizontalAdvance(QStringLiteral("kg mm^2 ms^-3")));
+    EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
+}
+
 } // namespace

@@ -52,7 +52,8 @@ std::vector<int> shareWidth(const std::vector<NeededWidth>& needed, int width)
 }
 
 /// Sets the least widths of columns that share a width. If the names in the first column are not whole beside narrow bars,
-/// units are broken for them, and the names get the rest of the width. They are whole if the table is scrolled anyway.
+/// units are broken for them, and the names get the rest of the width. In a table that is scrolled anyway, they are whole
+/// if they leave half of the width, so that they can stay in sight.
 void limitLeast(std::vector<NeededWidth>& needed, int width)
 {
     if (needed.empty())
@@ -61,7 +62,8 @@ void limitLeast(std::vector<NeededWidth>& needed, int width)
     const auto rest = [&] { return width - sumOf(needed, &NeededWidth::least) + names.least; };
     if (rest() < names.longest)
         std::for_each(needed.begin() + 1, needed.end(), [](NeededWidth& other) { other.least = other.broken; });
-    names.least = rest() < names.least ? names.longest : std::min(rest(), names.longest);
+    const bool isScrolled = rest() < names.least;
+    names.least = std::min(isScrolled ? width / 2 : rest(), names.longest);
 }
 
 /// Returns the row of a table with the same place and the same first cell; -1 if there is none.

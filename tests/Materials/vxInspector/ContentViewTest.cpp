@@ -116,4 +116,22 @@ TEST(ContentView, GivesNamesThatAreElidedAllTheWidthThatOthersCanSpare)
     EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
 }
 
+TEST(ContentView, KeepsLongNamesInSightIfItIsScrolled)
+{
+    const QString name = QStringLiteral("Longitudinalwellengeschwindigkeit");
+    TableContent table = values(name);
+    for (int i = 0; i < 12; ++i) {
+        table.headers << QStringLiteral("Steel");
+        table.rows.front().cells.push_back(Cell{QStringLiteral("1.2345678e-11")});
+    }
+    ContentView view;
+    view.resize(view.fontMetrics().horizontalAdvance(name) * 7 / 4, 240);
+    view.show();
+    view.setContent(table);
+    QApplication::processEvents();
+    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
+    const auto* const names = view.findChild<QTableView*>(QStringLiteral("frozenColumn"));
+    EXPECT_TRUE(names->isVisible());
+}
+
 } // namespace

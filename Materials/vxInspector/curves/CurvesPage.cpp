@@ -33,7 +33,7 @@ using vxConstitutive::Mode;
 using vxPlot::Scale;
 
 // The tab scrolls if there is no room for both.
-constexpr int leastPlotLines = 16;
+constexpr int plotLines = 16;
 constexpr int mostFindingLines = 12;
 
 QToolButton* makeButton(QWidget* parent, const char* name)
@@ -103,7 +103,7 @@ CurvesPage::CurvesPage(QWidget* parent)
     m_modeMenu->setObjectName(QStringLiteral("curveModeMenu"));
     m_copy->setPopupMode(QToolButton::InstantPopup);
     m_findings->setObjectName(QStringLiteral("curveFindings"));
-    m_plot->setMinimumHeight(fontMetrics().lineSpacing() * leastPlotLines);
+    m_plot->setUsualHeight(plotLines);
     for (QToolButton* const scale : {m_horizontal, m_vertical})
         scale->setCheckable(true);
     layOut();
@@ -162,9 +162,11 @@ void CurvesPage::layOut()
 
 void CurvesPage::connectControls()
 {
-    // Rows become higher when the table becomes narrower.
-    connect(m_findings->verticalHeader(), &QHeaderView::sectionResized, this,
-            [this] { fitHeight(*m_findings, mostFindingLines); });
+    // Rows become higher when the table becomes narrower, one after the other.
+    m_findingsChange.setSingleShot(true);
+    connect(m_findings->verticalHeader(), &QHeaderView::sectionResized, &m_findingsChange,
+            [this] { m_findingsChange.start(0); });
+    connect(&m_findingsChange, &QTimer::timeout, this, [this] { fitHeight(*m_findings, mostFindingLines); });
     const auto guard = [](auto action) {
         return [action] { Kelta::guarded(tr("The curves cannot be drawn"), action); };
     };

@@ -2,6 +2,7 @@
 
 #include "curves/CurvesContent.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -94,6 +95,7 @@ private:
     QToolButton* m_copy;
     QToolButton* m_save;
     ContentView* m_findings;
+    QTimer m_findingsChange; ///< runs while rows of the findings change their heights
 };
 
 } // namespace vxInspector

@@ -165,7 +165,7 @@ void PlotView::retranslate()
 QSize PlotView::sizeHint() const
 {
     const QFontMetrics font = fontMetrics();
-    return {font.averageCharWidth() * 50, font.lineSpacing() * 22};
+    return {font.averageCharWidth() * 50, font.lineSpacing() * m_usualHeight};
 }
 
 QSize PlotView::minimumSizeHint() const

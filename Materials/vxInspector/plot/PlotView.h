@@ -43,6 +43,8 @@ public:
     void save();
 
     void retranslate();
+    /// Sets the height that the plot has if there is no more room, in lines of text.
+    void setUsualHeight(int lines) { m_usualHeight = lines; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -64,6 +66,7 @@ private:
     void showHidden();
     void updateLook();
 
+    int m_usualHeight = 22; ///< lines of text
     vxPlot::PlotData m_data;
     std::unique_ptr<vxPlot::PlotItems> m_items;
     std::set<std::string> m_hidden;

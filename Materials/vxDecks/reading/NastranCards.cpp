@@ -272,7 +272,7 @@ void readMathp(CardReader& card)
         material.setNumber(Id::MaterialConstantC11, a11);
     const double halfBulk = half.value_or(1000.0 * (a10 + a01));
     if (halfBulk == 0.0) {
-        card.lose(3, makeMessage(ReadText::NoQuantity));
+        material.refuse(card.nameOf(3), makeMessage(Text::ValueOutside, {"D1", "0", "above 0"}));
         return;
     }
     material.setNumber(Id::IncompressibilityParameterD1, 1.0 / halfBulk);

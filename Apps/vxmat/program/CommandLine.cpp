@@ -549,8 +549,9 @@ void CommandLine::addDeck()
 
 void CommandLine::addSolvers()
 {
-    CLI::App* const command = addCommand("solvers", "List the solvers, whether their decks can be read, and their card for each quantity",
-                                         "vxmat solvers", [this] { return listSolvers(form()); });
+    CLI::App* const command =
+        addCommand("solvers", "List the solvers, whether their decks can be read, and their card for each quantity",
+                   "vxmat solvers", [this] { return listSolvers(form()); });
     addForm(command);
 }
 

@@ -127,7 +127,7 @@ TableContent compareTab(const Subject& subject, const vxUnits::UnitSystem& syste
         return {tr("Select two or more materials to compare them."), {}, {}};
     TableContent table = compareTable(inspectFirst(subject, mostCompared), system);
     tellLimit(table, subject, mostCompared,
-              QT_TRANSLATE_NOOP("vxInspector::TabContents", "Only the first %1 of %2 materials are shown."));
+              QT_TRANSLATE_NOOP("vxInspector::TabContents", "Only the first %1 of %2 materials are compared."));
     return table;
 }
 

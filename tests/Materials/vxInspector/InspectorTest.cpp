@@ -520,7 +520,7 @@ TEST_F(Inspector, LimitsWhatItShowsOfTenThousandMaterialsAndSaysSo)
     turnTo(Findings);
     EXPECT_THAT(sentence(Findings), HasSubstr("Only the first 200 of 10000 materials are checked."));
     turnTo(Compare);
-    EXPECT_THAT(sentence(Compare), HasSubstr("Only the first 20 of 10000 materials are shown."));
+    EXPECT_THAT(sentence(Compare), HasSubstr("Only the first 20 of 10000 materials are compared."));
     EXPECT_EQ(view(Compare).model()->columnCount(), 3 + 20);
 }
 

@@ -511,7 +511,14 @@ void FitPage::writeTests(const std::shared_ptr<Applying>& applying)
         Kelta::guarded(tr("The constants cannot be applied"), [&] { takeWrittenTests(applying); });
     });
     showApplied();
+    scrollToApplied();
     enableControls();
+}
+
+/// Scrolls to what Apply says, when the layout has a place for it.
+void FitPage::scrollToApplied()
+{
+    QTimer::singleShot(0, m_appliedText, [this] { m_scroll->ensureWidgetVisible(m_appliedText, 0, 0); });
 }
 
 /// The user may have changed or closed anything since Apply.
@@ -549,7 +556,7 @@ void FitPage::finishApply(const Applying& applying)
     applyFit(fit, object, editor);
     m_applied = Applied{applying.material, std::move(applied)};
     showApplied();
-    QTimer::singleShot(0, m_appliedText, [this] { m_scroll->ensureWidgetVisible(m_appliedText, 0, 0); }); // laid out
+    scrollToApplied();
     m_panel->showRemovals();
     Gui::MainWindow::announce(appliedText(m_applied->fit, inspectWithEditor(object), m_system),
                               Kelta::LogMessage::Severity::Information,

@@ -112,6 +112,7 @@ private:
     void takeWrittenTests(const std::shared_ptr<Applying>& applying);
     void finishApply(const Applying& applying);
     void showApplied();
+    void scrollToApplied();
 
     /// A fit that has been written into a material.
     struct Applied

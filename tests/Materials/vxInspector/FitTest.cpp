@@ -272,6 +272,8 @@ TEST_F(FitTab, WritesALongTestForApplyBesideTheInterface)
     EXPECT_EQ(applied(), "The tests are being written for the material.");
     EXPECT_FALSE(control<QPushButton>("fitApply").isEnabled());
     EXPECT_EQ(seal.getSetting(setting), "") << "nothing is written before all can be";
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(control<QLabel>("fitApplied").visibleRegion().isEmpty()) << "the tab scrolls to it";
     ASSERT_TRUE(waitFor([&] { return !seal.getSetting(setting).empty(); }));
     EXPECT_EQ(history().count(), steps + 1);
     EXPECT_THAT(applied(), HasSubstr("Seal"));

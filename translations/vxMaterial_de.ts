@@ -5186,6 +5186,10 @@ Trotzdem löschen?</translation>
         <source>A project is selected. Select one or more materials to see their curves.</source>
         <translation>Ein Projekt ist ausgewählt. Wählen Sie ein oder mehrere Materialien aus, um ihre Kurven zu sehen.</translation>
     </message>
+    <message>
+        <source>Only the first %1 of %2 materials are compared.</source>
+        <translation>Nur die ersten %1 von %2 Materialien werden verglichen.</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::TabsLibrary</name>

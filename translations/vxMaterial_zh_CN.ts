@@ -5185,6 +5185,10 @@ Delete anyway?</source>
         <source>A project is selected. Select one or more materials to see their curves.</source>
         <translation>已选择一个项目。请选择一个或多个材料以查看其曲线。</translation>
     </message>
+    <message>
+        <source>Only the first %1 of %2 materials are compared.</source>
+        <translation>仅比较 %2 个材料中的前 %1 个。</translation>
+    </message>
 </context>
 <context>
     <name>vxInspector::TabsLibrary</name>

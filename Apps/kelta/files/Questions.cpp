@@ -2,11 +2,11 @@
 
 #include "FilePaths.h"
 
+#include "Gui/Translator.h"
 #include "projectfile/ProjectStore.h"
 
 #include <QAbstractButton>
 #include <QFileInfo>
-#include <QLocale>
 #include <QPushButton>
 
 #include <algorithm>
@@ -65,7 +65,8 @@ bool Questions::mayTakeOver(const QString& inUse, const QString& danger) const
 
 bool Questions::mayReplace(const QString& path, Difference difference) const
 {
-    const QString time = QLocale().toString(QFileInfo(path).lastModified(), QLocale::ShortFormat);
+    const QString time =
+        Gui::Translator::instance()->locale().toString(QFileInfo(path).lastModified(), QLocale::ShortFormat);
     const QString text = difference == Difference::OlderThanRecoveredProject
                              ? tr("\"%1\" was last changed on %2, before the project was recovered.")
                              : tr("\"%1\" has been changed by another program, on %2.");

@@ -7,12 +7,11 @@
 #include "Sessions.h"
 
 #include "Gui/MainWindow.h"
+#include "Gui/Translator.h"
 #include "Kelta/Exceptions.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Application.h"
 #include "kelta/UnappliedEdits.h"
-
-#include <QLocale>
 
 #include <exception>
 #include <memory>
@@ -66,7 +65,7 @@ void Recovery::offer()
         return;
     QStringList times;
     for (const RecoveryCopy& copy : copies)
-        times << QLocale().toString(copy.time(), QLocale::ShortFormat);
+        times << Gui::Translator::instance()->locale().toString(copy.time(), QLocale::ShortFormat);
     const Choice choice = m_questions.askAboutCopies(times);
     for (RecoveryCopy& copy : copies)
         if (choice == Choice::Discard || (choice == Choice::Recover && recover(copy)))

@@ -89,6 +89,16 @@ void Translator::setLanguage(const QString& language)
     refresh();
 }
 
+QLocale Translator::locale() const
+{
+    const QLocale system = QLocale::system();
+    const QLocale ofTexts(m_language);
+    if (system.language() == ofTexts.language())
+        return system;
+    const bool isEnglish = ofTexts.language() == QLocale::English || ofTexts.language() == QLocale::C;
+    return isEnglish ? QLocale::c() : ofTexts;
+}
+
 QStringList Translator::languages() const
 {
     QStringList languages{QStringLiteral("en")};

@@ -2,6 +2,7 @@
 
 #include "Gui/GuiExport.h"
 
+#include <QLocale>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -26,6 +27,9 @@ public:
     /// "de" or "zh_CN"; "en" for the texts of the program itself. The initial language is that of the system.
     const QString& language() const { return m_language; }
     void setLanguage(const QString& language);
+    /// Returns how dates are written in texts: as in the system if that has the language of the program, else as is usual in
+    /// the language. Dates in English, on other systems, have the name of the month, because 11/12/26 has two meanings.
+    QLocale locale() const;
 
     /// Returns the languages of the program: English, and the languages of the translations in the folders, sorted.
     QStringList languages() const;

@@ -44,7 +44,7 @@ void shrinkToOneLine(QWidget& content)
 bool isTooWideFor(const QMainWindow& window, DockArea area)
 {
     constexpr int charactersOfThreeColumns = 80;
-    constexpr int leastOfThreeColumns = 640; // for small fonts too, since buttons and margins do not shrink with them
+    constexpr int leastOfThreeColumns = 800; // for small fonts too, since buttons and margins do not shrink with them
     return area == DockArea::Right &&
            window.width() <
                std::max(leastOfThreeColumns, charactersOfThreeColumns * window.fontMetrics().averageCharWidth());

@@ -5,6 +5,7 @@
 #include "Gui/MessageLogView.h"
 
 #include <QAction>
+#include <QDateTime>
 #include <QDir>
 #include <QDockWidget>
 #include <QFile>
@@ -145,6 +146,17 @@ TEST_F(Language, IsThatOfQtsOwnTextsToo)
     EXPECT_EQ(cancel(), QStringLiteral("取消"));
     Translator::instance()->setLanguage(QStringLiteral("xx"));
     EXPECT_EQ(cancel(), "Cancel");
+}
+
+TEST_F(Language, IsThatOfDatesToo)
+{
+    const QDateTime time(QDate(2026, 2, 1), QTime(15, 4));
+    const auto shown = [time] { return Translator::instance()->locale().toString(time, QLocale::ShortFormat); };
+    EXPECT_THAT(shown().toStdString(), HasSubstr("1 Feb 2026"));
+    Translator::instance()->setLanguage(QStringLiteral("de"));
+    EXPECT_EQ(shown(), "01.02.26 15:04");
+    Translator::instance()->setLanguage(QStringLiteral("zh_CN"));
+    EXPECT_THAT(shown().toStdString(), HasSubstr("2026/2/1"));
 }
 
 TEST_F(Language, SaysWhenItChanges)

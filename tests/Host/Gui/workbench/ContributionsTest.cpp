@@ -168,7 +168,7 @@ TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstInANarrowWindowWithAS
     QFont font = window->font();
     font.setPixelSize(7);
     window->setFont(font);
-    window->resizeWithDocks({576, 340}); // a screen of 1280 x 800 at 200 %
+    window->resizeWithDocks({720, 430}); // a screen of 1600 x 1000 at 200 %
     contributions.addDock(dockEntry("Gauges", "All gauges", Gui::DockVisibility::ShownAtFirst));
     ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Gauges") != nullptr; }));
     EXPECT_FALSE(dock("Gauges")->isVisible());

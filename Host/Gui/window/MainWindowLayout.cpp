@@ -94,10 +94,7 @@ void MainWindow::createFirstParts(Parts parts)
 
 bool MainWindow::createPicture()
 {
-    const QSettings settings;
-    const QByteArray geometry = settings.value(QLatin1String(geometryKey)).toByteArray();
-    // On a smaller screen, docks are hidden that the picture shows.
-    if (!restoreGeometry(geometry) || width() < settings.value(QLatin1String(widthKey)).toInt())
+    if (!restoreGeometry(QSettings().value(QLatin1String(geometryKey)).toByteArray()))
         return false;
     if (std::optional<StartPicture> picture = StartPicture::read(*this))
         m_picture = std::make_unique<StartPicture>(*std::move(picture));

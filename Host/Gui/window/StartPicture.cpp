@@ -85,7 +85,7 @@ std::optional<Key> keyOf(const QWidget& window)
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(settings);
     hash.addData(lookOf(window));
-    Key key;
+    Key key{};
     std::memcpy(key.data(), hash.result().constData(), sizeof key);
     return key;
 }
@@ -95,14 +95,17 @@ QSize pixelsOf(const QWidget& window)
     return (QSizeF(window.size()) * window.devicePixelRatioF()).toSize();
 }
 
-/// A window that fills the screen gets its size when it is shown, but it is as wide as the screen.
+/// A window that fills the screen gets its size when it is shown: the width of the screen without a frame.
 bool fits(QSize picture, const QWidget& window)
 {
     constexpr Qt::WindowStates large = Qt::WindowMaximized | Qt::WindowFullScreen;
     if ((window.windowState() & large) == 0)
         return picture == pixelsOf(window);
+    constexpr int widestFrame = 16;
     const QScreen* const screen = window.screen();
-    return screen != nullptr && picture.width() == qRound(screen->availableSize().width() * window.devicePixelRatioF());
+    const qreal frame =
+        screen != nullptr ? screen->availableSize().width() - picture.width() / window.devicePixelRatioF() : -1.0;
+    return frame >= 0.0 && frame <= widestFrame;
 }
 
 Word checksumOf(const std::vector<Word>& words)
@@ -243,6 +246,8 @@ void StartPicture::paint(QWidget& window) const
     // A copy of the whole picture would take longer than the runs.
     if (QImage* const screen = memoryOf(painter); screen != nullptr && screen->size() == size())
         return fill(*screen);
+    if (size() != pixelsOf(window))
+        painter.fillRect(window.rect(), window.palette().window());
     QImage image(size(), QImage::Format_RGB32);
     fill(image);
     image.setDevicePixelRatio(window.devicePixelRatioF());

@@ -138,6 +138,21 @@ TEST_F(StartPicture, IsReplacedWithTheSamePartsAtTheSamePlaces)
     EXPECT_LT(differenceOf(shown(), before), 0.01);
 }
 
+TEST_F(StartPicture, ShowsAMaximizedWindow)
+{
+    window->showMaximized();
+    settle();
+    const QImage before = shown();
+    const auto placesBefore = places();
+    ASSERT_GT(before.width(), 700);
+    close();
+    startNext();
+    ASSERT_TRUE(showsPicture());
+    EXPECT_LT(differenceOf(shown(), before), 0.01);
+    complete();
+    EXPECT_EQ(places(), placesBefore);
+}
+
 TEST_F(StartPicture, KeepsHiddenPartsHidden)
 {
     dock("PropertyPanel")->hide();

@@ -188,7 +188,8 @@ void write(const QString& path, const std::vector<Word>& words)
     if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly))
         return;
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    file.write(reinterpret_cast<const char*>(words.data()), static_cast<qint64>(words.size() * sizeof(Word)));
+    file.write(reinterpret_cast<const char*>(words.data()),
+               static_cast<qint64>(words.size()) * static_cast<qint64>(sizeof(Word)));
     file.commit();
 }
 
@@ -197,7 +198,7 @@ void write(const QString& path, const std::vector<Word>& words)
 QImage* memoryOf(const QPainter& painter)
 {
     auto* const image = dynamic_cast<QImage*>(painter.paintEngine()->paintDevice());
-    const QTransform place = painter.deviceTransform();
+    const QTransform& place = painter.deviceTransform();
     const bool hasPixels =
         image != nullptr && image->isDetached() &&
         (image->format() == QImage::Format_RGB32 || image->format() == QImage::Format_ARGB32_Premultiplied);

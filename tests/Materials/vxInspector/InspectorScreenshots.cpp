@@ -129,9 +129,9 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     QScrollBar& bar = *tabs.findChild<vxInspector::FitPage*>()->findChild<QScrollArea*>()->verticalScrollBar();
     bar.setValue(bar.maximum());
     shooting.take("inspector-fit-apply");
-    takeInspector(shooting, "fit-tab", {560, 1240});
+    takeInspector(shooting, "fit-tab", {560, 1620});
     tabs.setCurrentIndex(4);
-    takeInspector(shooting, "curves-tab", {480, 640});
+    takeInspector(shooting, "curves-tab", {480, 800});
 }
 
 } // namespace

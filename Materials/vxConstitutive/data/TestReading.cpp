@@ -290,7 +290,7 @@ struct PointReading
     StressOfRows stress;
 };
 
-MeasuredColumn columnOf(const TestTable& table, const ColumnChoice& choice)
+MeasuredColumn measuredColumn(const TestTable& table, const ColumnChoice& choice)
 {
     return {table.columns[*choice.column].name, *choice.unit, *choice.measure};
 }
@@ -302,8 +302,8 @@ void takePoints(const TestTable& table, const TestReadRequest& request, const Po
     data.mode = request.mode;
     data.parameter = request.mode == Mode::Creep ? how.stress.stress : request.stress.value_or(0.0);
     data.weight = request.weight;
-    data.abscissaColumn = columnOf(table, reading.abscissa);
-    data.ordinateColumn = columnOf(table, reading.ordinate);
+    data.abscissaColumn = measuredColumn(table, reading.abscissa);
+    data.ordinateColumn = measuredColumn(table, reading.ordinate);
     const std::vector<double>& x = table.columns[*reading.abscissa.column].cells;
     const std::vector<double>& y = table.columns[*reading.ordinate.column].cells;
     for (std::size_t i = 0; i < x.size(); ++i) {

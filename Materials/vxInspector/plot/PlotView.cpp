@@ -9,9 +9,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFileInfo>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSaveFile>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <qwt_legend.h>
 #include <qwt_picker_machine.h>
@@ -159,7 +161,6 @@ void PlotView::retranslate()
     setAccessibleName(tr("Plot"));
     setToolTip(tr("Drag a rectangle or turn the wheel to zoom; Home shows everything. A click on the legend hides a "
                   "curve."));
-    canvas()->setToolTip(QString());
 }
 
 QSize PlotView::sizeHint() const
@@ -202,6 +203,15 @@ void PlotView::showData()
     showHidden();
     m_items->fitLabels(canvas()->width());
     replot();
+}
+
+/// A tool tip over the curves would hide them.
+bool PlotView::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || !canvas()->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
+        return QwtPlot::event(event);
+    QToolTip::hideText();
+    return true;
 }
 
 void PlotView::resizeEvent(QResizeEvent* event)

@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
 #include <QMenu>
@@ -23,6 +24,7 @@
 #include <QScrollArea>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QToolTip>
 #include <QtTest/QtTestGui>
 #include <qwt_legend.h>
 #include <qwt_legend_label.h>
@@ -30,6 +32,7 @@
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
 #include <qwt_scale_map.h>
+#include <qwt_scale_widget.h>
 #include <qwt_text.h>
 
 #include <algorithm>
@@ -132,6 +135,21 @@ TEST_F(CurvesTab, ShowsTheFindingsBelowThePlotAsWholeLines)
     QCoreApplication::processEvents();
     EXPECT_TRUE(waitFor(isWhole)) << "also in a low window, whose tab scrolls";
     EXPECT_NEAR(plot().height(), plot().fontMetrics().lineSpacing() * 16, 20);
+}
+
+TEST_F(CurvesTab, HasItsToolTipBesideTheCurvesOnly)
+{
+    showRubber();
+    const auto showsToolTip = [](QWidget& widget) {
+        QToolTip::hideText();
+        const QPoint middle = widget.rect().center();
+        QHelpEvent help(QEvent::ToolTip, middle, widget.mapToGlobal(middle));
+        QApplication::sendEvent(&widget, &help);
+        return !QToolTip::text().isEmpty();
+    };
+    EXPECT_FALSE(showsToolTip(*plot().canvas())) << "it would hide the curves";
+    EXPECT_TRUE(showsToolTip(*plot().axisWidget(QwtPlot::yLeft)));
+    QToolTip::hideText();
 }
 
 TEST_F(CurvesTab, ScrollsInsteadOfMakingALowWindowHigher)

@@ -208,6 +208,19 @@ TEST_F(DeckImport, GivesTheReasonForItsProposal)
 });
 } // namespace
 
+TEST_F(DeckImport, ProposesUnitsAlthoughAValueIsWrongInAnyUnitAndGivesAReasonThatIsAboutUnits)
+{
+    const std::string wrong = "*MATERIAL, NAME=Bracket\n*ELASTIC\n2.1e11, 0.3\n*DENSITY\n7850.\n"
+                              "*MATERIAL, NAME=Pin\n*ELASTIC\n7.1e10, 0.33\n*DENSITY\n-1.\n";
+    const auto added = import(wrong, [](ImportDeckDialog& dialog) {
+        ASSERT_TRUE(waitUntilRead(dialog));
+        EXPECT_EQ(systemsOf(dialog).currentText(), "SI");
+        EXPECT_THAT(textsOf(dialog), HasSubstr("In mm-t-s, they would be unusual. Bracket: "));
+        accept(dialog);
+    });
+    EXPECT_THAT(added, ElementsAre("Bracket", "Pin"));
+}
+
 TEST_F(DeckImport, DoubtsUnitsThatTheNumbersDoNotFitWithoutChangingTheChoice)
 {
     import(model, [](ImportDeckDialog& dialog) {

@@ -49,8 +49,14 @@ void markAsUnreadable(QStyleOptionViewItem& option)
     option.font.setUnderline(true);
     const QColor dark(0xb3, 0x26, 0x1e);
     const QColor bright(0xff, 0xb4, 0xab);
+    const QColor brightest(0xff, 0xd6, 0xd2);
     option.palette.setColor(QPalette::Text, isDark(option.palette) ? bright : dark);
-    option.palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xd6, 0xd2));
+    // A selection is dark only while the table has the keyboard.
+    constexpr int middle = 128;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const bool isLight = option.palette.color(group, QPalette::Highlight).lightness() > middle;
+        option.palette.setColor(group, QPalette::HighlightedText, isLight ? dark : brightest);
+    }
 }
 
 /// Returns the place of a warning sign: after the text of a cell, or at the end of the cell if the text is long.

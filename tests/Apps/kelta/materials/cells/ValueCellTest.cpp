@@ -318,6 +318,23 @@ TEST_F(ValueCells, MarkAValueThatCannotBeReadAndExplainIt)
     QToolTip::hideText();
 }
 
+TEST_F(ValueCells, ThatCannotBeReadAreLegibleInASelectionWithoutTheKeyboard)
+{
+    typeInto(editor, modulus, "210 GPas");
+    clickOn(editor, density);
+    table.setCurrentIndex(cell(editor, modulus));
+    table.clearFocus();
+    window->findChild<QWidget*>("projectExplorer")->setFocus();
+    const QImage shown = table.viewport()->grab(table.visualRect(cell(editor, modulus))).toImage();
+    const QRgb background = shown.pixel(shown.width() - 4, 4);
+    int darkest = 255;
+    for (int y = 4; y < shown.height() - 4; ++y)
+        for (int x = 4; x < shown.width() - 4; ++x)
+            darkest = std::min(darkest, qGray(shown.pixel(x, y)));
+    ASSERT_GT(qGray(background), 150) << "the selection is pale";
+    EXPECT_LT(darkest, 110);
+}
+
 TEST_F(ValueCells, HaveASignAndExplainItIfTheirValueIsDoubtful)
 {
     const auto picture = [&] {

@@ -4,7 +4,6 @@
 #include "Gui/WindowTitle.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QEvent>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -142,7 +141,8 @@ bool DocumentArea::eventFilter(QObject* watched, QEvent* event)
 /// If the window that is about to close has the keyboard focus, and closes, says so when the event loop is next idle.
 void DocumentArea::watchFocus(const QMdiSubWindow& frame)
 {
-    const QWidget* const focus = QApplication::focusWidget();
+    // While a question about the window closes, no window is active.
+    const QWidget* const focus = window()->focusWidget();
     if (focus == nullptr || !frame.isAncestorOf(focus))
         return;
     QTimer::singleShot(0, this, [this, closing = QPointer<const QMdiSubWindow>(&frame)] {

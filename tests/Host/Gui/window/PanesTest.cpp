@@ -4,6 +4,7 @@
 
 #include "Gui/MessageLogView.h"
 
+#include <QDialog>
 #include <QDockWidget>
 #include <QLineEdit>
 
@@ -89,6 +90,26 @@ TEST_F(PanesTest, GiveTheFocusToTheExplorerWhenTheDocumentCloses)
     EXPECT_EQ(window->getMdiWindows().size(), 1);
     EXPECT_TRUE(vxtest::waitFor([&] { return document == nullptr; }));
     window->remove_mdi_window(addDocument());
+    EXPECT_TRUE(vxtest::waitFor([this] { return QApplication::focusWidget() == &explorer(); }));
+}
+
+TEST_F(PanesTest, GiveTheFocusToTheExplorerWhenTheDocumentClosesDuringAQuestion)
+{
+    Gui::MDIWindow* const document = addDocument();
+    auto* const next = new QDockWidget(window.get());
+    next->setWidget(new QLineEdit(next));
+    window->addDockWidget(Qt::RightDockWidgetArea, next);
+    // The window gives the keyboard to the first widget of this order when it becomes active without a focus.
+    QWidget::setTabOrder(next->widget(), &explorer());
+    document->setFocus();
+    QDialog question(window.get());
+    QLineEdit answer(&question);
+    question.open();
+    answer.setFocus();
+    ASSERT_TRUE(vxtest::waitFor([&] { return QApplication::focusWidget() == &answer; }));
+    document->parentWidget()->close();
+    question.hide();
+    window->activateWindow();
     EXPECT_TRUE(vxtest::waitFor([this] { return QApplication::focusWidget() == &explorer(); }));
 }
 

@@ -40,14 +40,15 @@ void shrinkToOneLine(QWidget& content)
         content.setMinimumSize(characters * font.averageCharWidth(), lines * font.lineSpacing());
 }
 
-/// Returns whether a dock beside the documents would leave them no room.
-bool isTooWideFor(const QMainWindow& window, DockArea area)
+/// Returns whether a dock right of the documents would leave no room for them and the explorer.
+bool isTooWide(const QDockWidget& dock, const QMainWindow& window)
 {
-    constexpr int charactersOfThreeColumns = 80;
-    constexpr int leastOfThreeColumns = 800; // for small fonts too, since buttons and margins do not shrink with them
-    return area == DockArea::Right &&
-           window.width() <
-               std::max(leastOfThreeColumns, charactersOfThreeColumns * window.fontMetrics().averageCharWidth());
+    constexpr int charactersOfTwoColumns = 68;
+    constexpr int leastOfTwoColumns = 580; // for small fonts too, since buttons and margins do not shrink with them
+    const int twoColumns =
+        std::max(leastOfTwoColumns, charactersOfTwoColumns * window.fontMetrics().averageCharWidth());
+    const QWidget* const content = dock.widget(); // null while only the outline of the dock is shown
+    return window.width() < twoColumns + (content != nullptr ? content->sizeHint().width() : dock.width());
 }
 
 QString nameOf(const DockEntry& entry)
@@ -100,7 +101,8 @@ void DockSet::add(const DockEntry& entry)
     if (standIn != nullptr || m_window.restoreDockWidget(dock))
         return;
     m_window.addDockWidget(areaOf(entry.area), dock);
-    if (entry.visibility == DockVisibility::HiddenAtFirst || isTooWideFor(m_window, entry.area))
+    const bool isBeside = entry.area == DockArea::Right;
+    if (entry.visibility == DockVisibility::HiddenAtFirst || (isBeside && isTooWide(*dock, m_window)))
         dock->hide();
     else if (m_window.isVisible())
         dock->show();
@@ -140,10 +142,9 @@ void DockSet::toggle(const std::string& name) const
 
 void DockSet::makeRoomForDocuments() const
 {
-    if (!isTooWideFor(m_window, DockArea::Right))
-        return;
     for (QDockWidget* const dock : m_window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        if (!dock->isFloating() && m_window.dockWidgetArea(dock) == Qt::RightDockWidgetArea)
+        if (!dock->isFloating() && m_window.dockWidgetArea(dock) == Qt::RightDockWidgetArea &&
+            isTooWide(*dock, m_window))
             dock->hide();
 }
 

@@ -163,12 +163,22 @@ TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstInANarrowWindow)
     EXPECT_TRUE(dock("Gauges")->isVisible());
 }
 
+TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstOnAScreenThatHasNoRoomForThreeColumns)
+{
+    window->resizeWithDocks({921, 630}); // a screen of 1024 x 700
+    contributions.addDock({"Gauges", {"Test", "All gauges"}, Gui::DockArea::Right, [] {
+                               return new QLabel(QString(60, QLatin1Char('0')));
+                           }});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Gauges") != nullptr; }));
+    EXPECT_FALSE(dock("Gauges")->isVisible());
+}
+
 TEST_F(Contributed, DocksBesideTheDocumentsAreHiddenAtFirstInANarrowWindowWithASmallFontToo)
 {
     QFont font = window->font();
     font.setPixelSize(7);
     window->setFont(font);
-    window->resizeWithDocks({720, 430}); // a screen of 1600 x 1000 at 200 %
+    window->resizeWithDocks({576, 340}); // a screen of 1280 x 800 at 200 %
     contributions.addDock(dockEntry("Gauges", "All gauges", Gui::DockVisibility::ShownAtFirst));
     ASSERT_TRUE(QTest::qWaitFor([this] { return dock("Gauges") != nullptr; }));
     EXPECT_FALSE(dock("Gauges")->isVisible());

@@ -38,6 +38,9 @@ InspectorTest::InspectorTest()
     window->activateWindow();
     if (!waitUntilActive(window.get()))
         throw std::logic_error("the window does not get the keyboard");
+    // The first window on the screen of tests has no room for the inspector.
+    if (!window->isDockShown("Inspector"))
+        window->toggleDock("Inspector");
 }
 
 InspectorTest::~InspectorTest()

@@ -65,6 +65,8 @@ void SubjectWatch::watchHost()
         m_projects.erase(project.getProjectId());
         noteLater();
     });
+    // An editor may be open already when the inspector is shown for the first time.
+    followWindow();
 }
 
 void SubjectWatch::noteLater()

@@ -852,6 +852,14 @@ TEST_F(Inspector, CanBeHiddenAndShowsThePresentMaterialWhenShownAgain)
     EXPECT_TRUE(says(Values, "Skin"));
 }
 
+TEST_F(Inspector, ShowsTheMaterialOfAnEditorThatWasOpenedBeforeTheInspectorWasFirstShown)
+{
+    Mat::MaterialObject& steel = addMaterial(newProject());
+    edit(steel);
+    ASSERT_EQ(window->findChild<QTabWidget*>(QStringLiteral("inspectorTabs")), nullptr);
+    EXPECT_TRUE(becomes(Values, "Density", value, "7850"));
+}
+
 TEST_F(Inspector, SurvivesTheCloseOfItsProjectAndEditor)
 {
     Mat::MaterialObject& steel = addMaterial(newProject());

@@ -103,8 +103,13 @@ ObjectRecord& findMaterial(const Setting& setting, ProjectRecord& project)
 
 void requireRule(const PropertyRecord& quantity, const char* fault)
 {
-    if (fault != nullptr)
-        refuse(quantity, std::string(vxMat::withoutRowNumber(fault)));
+    if (fault == nullptr)
+        return;
+    const std::string reason(vxMat::withoutRowNumber(fault));
+    // The reasons of some rules begin with the name.
+    if (reason.rfind(quantity.name, 0) == 0)
+        throw Failure(reason);
+    refuse(quantity, reason);
 }
 
 /// A property with the value that was read, and how it was read.

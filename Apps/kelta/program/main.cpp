@@ -17,6 +17,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -182,6 +183,21 @@ int runForUser(const Options& options)
     return status;
 }
 
+/// Throws CLI::ValidationError if there are no texts in the language. The language of a country is that of its texts: de for
+/// de_AT.
+void setLanguage(const QString& language)
+{
+    Gui::Translator& translator = *Gui::Translator::instance();
+    const QStringList available = translator.languages();
+    const QStringList wanted = Gui::Translator::fileLanguagesOf(language);
+    if (std::none_of(wanted.begin(), wanted.end(), [&](const QString& name) { return available.contains(name); })) {
+        const QString reason = QStringLiteral("\"%1\" is not one of %2")
+                                   .arg(desktop::Batch::printable(language), available.join(QStringLiteral(", ")));
+        throw CLI::ValidationError("--language", reason.toStdString());
+    }
+    translator.setLanguage(language);
+}
+
 int runWithWindows(int& argc, char** argv, const Options& options)
 {
     if (runsAlone(options) && !hasDisplay() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -198,7 +214,7 @@ int runWithWindows(int& argc, char** argv, const Options& options)
     QGuiApplication::setDesktopFileName(QStringLiteral("kelta"));
     QGuiApplication::setWindowIcon(Gui::PictureFactory::getIcon(QStringLiteral("kelta")));
     if (!options.language.empty())
-        Gui::Translator::instance()->setLanguage(QString::fromStdString(options.language));
+        setLanguage(QString::fromStdString(options.language));
     std::optional<QTemporaryDir> settings;
     QString doubt;
     if (runsAlone(options)) {

@@ -335,6 +335,19 @@ TEST_F(Batch, SpeaksTheLanguageItIsAskedTo)
     EXPECT_EQ(errorsOf(outcome), "list.batch:1: es gibt keinen Befehl „Mat_Nowhere“\n");
 }
 
+TEST_F(Batch, RefusesALanguageWithoutTexts)
+{
+    vxtest::writeFile(path("list.batch"), "Mat_Nowhere\n");
+    for (const char* const language : {"xx", "german", "zh_TW"}) {
+        const Outcome outcome = run({"--language", language, "--batch", "list.batch"});
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_THAT(errorsOf(outcome),
+                    StartsWith("--language: \"" + std::string(language) + "\" is not one of de, en, zh_CN\n"));
+    }
+    const Outcome austrian = run({"--language", "de_AT", "--batch", "list.batch"});
+    EXPECT_EQ(errorsOf(austrian), "list.batch:1: es gibt keinen Befehl „Mat_Nowhere“\n");
+}
+
 TEST_F(Batch, SavesAScreenshot)
 {
     EXPECT_EQ(run({"--screenshot", "window.png"}).status, 0);

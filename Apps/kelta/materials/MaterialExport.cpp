@@ -33,11 +33,17 @@ QString labelOf(const Obj::ProjectObject& object)
     return QString::fromStdString(object.label.getValue());
 }
 
+/// Returns the name of a property in the language of the user. A name that is not of the catalogue is returned as it is.
+QString shownName(const vxMat::MaterialProperty& property)
+{
+    return QCoreApplication::translate("vxMat::PropertyName", property.name.c_str());
+}
+
 /// Returns the sentence about a property of an object for which readers refuse a document.
 QString describe(const vxCAE::ExportObstacle& obstacle, const Mat::MaterialObject& object)
 {
     const auto& [slot, property] = obstacle.held;
-    const QString name = QString::fromStdString(property->name);
+    const QString name = shownName(*property);
     if (obstacle.fault == vxCAE::ExportFault::NegativeSlot)
         return tr("The property \"%1\" of \"%2\" has the number %3. Readers of exchange documents refuse numbers below "
                   "0. Make the material again without this property, then export again.")
@@ -57,7 +63,7 @@ void reportLosses(const Mat::MaterialObject& object)
 {
     QStringList lost;
     for (const auto& [slot, property] : vxCAE::findLostValues(*object.getCMaterial()))
-        lost << QString::fromStdString(property->name);
+        lost << shownName(*property);
     if (!lost.isEmpty())
         Kelta::MessageLog::warning(tr("\"%1\": An exchange document carries no words and lists. Not written: %2.")
                                        .arg(labelOf(object), quoted(lost)));

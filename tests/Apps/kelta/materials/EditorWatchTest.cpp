@@ -404,6 +404,13 @@ TEST_P(Language, LeavesNoTranslationInDocuments)
         }
 }
 
+TEST_P(Language, NamesWhatAnExportLosesAsTheEditorDoes)
+{
+    const std::string yieldStress = GetParam() == std::string("de") ? "Fließspannung" : "屈服应力";
+    ASSERT_TRUE(run("Mat_Export", path("a.json")));
+    EXPECT_THAT(messages(), testing::Contains(testing::HasSubstr('"' + yieldStress + '"')));
+}
+
 INSTANTIATE_TEST_SUITE_P(OfTheProgram, Language, testing::Values("de", "zh_CN"),
                          [](const testing::TestParamInfo<const char*>& language) {
                              return std::string(language.param);

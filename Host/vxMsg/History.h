@@ -30,6 +30,8 @@ public:
     /// names the object or the number of objects.
     void beginGroup(const QString& text);
     void endGroup();
+    /// Makes the first command provide the text of the open group. Does nothing without a group.
+    void nameGroupByItsFirstCommand() { m_text.clear(); }
     bool isInGroup() const { return m_groupDepth > 0; }
 
     /// A position in the history, after the commands that have been recorded.

@@ -409,6 +409,11 @@ MessageProxy::Group::~Group()
     instance().m_history->endGroup();
 }
 
+void MessageProxy::nameStepByItsFirstRequest()
+{
+    m_history->nameGroupByItsFirstCommand();
+}
+
 void MessageProxy::pushDone(std::unique_ptr<QUndoCommand> command)
 {
     m_history->record(std::move(command));

@@ -93,6 +93,11 @@ public:
         Obj::RemovalGuard m_guard;
     };
 
+    /// Gives the step in progress the text of its first request in place of the text of its outermost group. A command
+    /// that cannot be undone itself, such as an export, calls this after it has applied edits. Does nothing without a
+    /// group.
+    void nameStepByItsFirstRequest();
+
     /// Records a command that has been carried out already: its first redo must do nothing. During an undo or
     /// redo nothing can be recorded: the history then ends, and the command is destroyed.
     void pushDone(std::unique_ptr<QUndoCommand> command);

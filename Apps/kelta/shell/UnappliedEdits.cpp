@@ -9,6 +9,7 @@
 #include "Gui/WindowTitle.h"
 #include "Kelta/MessageLog.h"
 #include "Obj/Project.h"
+#include "vxMsg/MessageProxy.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -70,7 +71,12 @@ bool mayContinue(Gui::MainWindow& mainWindow, const QPointer<Gui::MDIWindow>& wi
         return true;
     mainWindow.set_active_mdi_window(window);
     const Choice choice = ask(mainWindow, *window, question);
-    return choice == Choice::Continue || (choice == Choice::Apply && apply(window));
+    if (choice != Choice::Apply)
+        return choice == Choice::Continue;
+    const bool applied = apply(window);
+    // The edits can be undone, the command that asks (such as an export) cannot be.
+    vxMsg::MessageProxy::instance().nameStepByItsFirstRequest();
+    return applied;
 }
 
 } // namespace

@@ -177,6 +177,20 @@ TEST_F(Export, AppliesEditsIfTheUserWants)
     EXPECT_EQ(writtenModulus(), 7e10);
 }
 
+TEST_F(Export, LeavesAStepThatIsNamedAfterTheEditsThatItHasApplied)
+{
+    MatGui::MaterialView& editor = edit(steel);
+    type(editor, modulus, "6e10");
+    apply(editor);
+    const QString nameOfEdits = history().undoText();
+    EXPECT_THAT(nameOfEdits.toStdString(), HasSubstr("\"Steel\""));
+    type(editor, modulus, "7e10");
+    exportAnswering(QMessageBox::Apply);
+    EXPECT_EQ(history().undoText(), nameOfEdits);
+    history().undo();
+    EXPECT_EQ(modulusOf(steel), 6e10);
+}
+
 TEST_F(Export, WritesWithoutEditsIfTheUserWants)
 {
     type(edit(steel), modulus, "7e10");

@@ -142,11 +142,15 @@ public:
         if (style() == NoCurve && symbol() != nullptr)
             return drawSeen(painter, x, y, canvas);
         const bool wasRounding = QwtPainter::roundingAlignment();
+        const bool wasSplitting = QwtPainter::polylineSplitting();
+        // The pattern would begin again in each piece of a split line, and dashes longer than a piece would make a solid line.
+        QwtPainter::setPolylineSplitting(wasSplitting && pen().style() == Qt::SolidLine);
         for (const auto& [first, last] : m_runs) {
             // Whole pixels would make steps of a smooth curve. Points on the same pixel are left out of a dense one.
             QwtPainter::setRoundingAlignment(last - first > mostDrawnExactly);
             QwtPlotCurve::drawSeries(painter, x, y, canvas, first, last);
         }
+        QwtPainter::setPolylineSplitting(wasSplitting);
         QwtPainter::setRoundingAlignment(wasRounding);
     }
 

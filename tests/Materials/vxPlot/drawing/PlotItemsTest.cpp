@@ -2,6 +2,7 @@
 
 #include "vxPlot/drawing/Picture.h"
 
+#include <QImage>
 #include <QLabel>
 #include <gmock/gmock.h>
 #include <qwt_legend.h>
@@ -152,6 +153,34 @@ TEST(PlotItems, DistinguishesNeighboursByColourAndDashes)
             for (std::size_t other = 0; other < i; ++other)
                 EXPECT_NE(look.linePen(i), look.linePen(other));
         }
+}
+
+TEST(PlotItems, ShowTheDashesOfACurveWithManyPointsOnTheScreen)
+{
+    QwtPlot plot;
+    plot.resize(400, 300);
+    PlotItems items(plot, vxPlot::printedLook());
+    PlotData data = lines(2, 1.0);
+    data.series.erase(data.series.begin()); // a solid line
+    data.series[0].x.clear();
+    data.series[0].y.clear();
+    for (int i = 0; i <= 1000; ++i) {
+        data.series[0].x.push_back(0.001 * i);
+        data.series[0].y.push_back(0.001 * i);
+    }
+    items.show(data);
+    plot.replot();
+    const QImage canvas = plot.canvas()->grab().toImage();
+    int gaps = 0;
+    bool wasLine = false;
+    for (int column = 0; column < canvas.width(); ++column) {
+        bool isLine = false;
+        for (int row = 0; row < canvas.height(); ++row)
+            isLine = isLine || canvas.pixelColor(column, row).saturation() > 60;
+        gaps += wasLine && !isLine ? 1 : 0;
+        wasLine = isLine;
+    }
+    EXPECT_GT(gaps, 5);
 }
 
 /// The ratio of contrast of two colours by the Web Content Accessibility Guidelines 2.1; 3 is enough for lines.

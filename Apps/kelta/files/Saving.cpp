@@ -39,29 +39,38 @@ bool Saving::save(Obj::Project& project)
     const Session* const session = m_sessions.find(project);
     if (session == nullptr)
         return false;
-    return session->path.isEmpty() ? saveAs(project) : saveTo(project, session->path);
+    if (session->path.isEmpty())
+        return saveAs(project);
+    return mayLeaveEdits(project) && saveTo(project, m_sessions.find(project)->path);
 }
 
 bool Saving::saveAs(Obj::Project& project)
 {
-    const Session* const session = m_sessions.find(project);
-    if (session == nullptr)
+    // This question comes first, because a name is of no use if the user cancels.
+    if (m_sessions.find(project) == nullptr || !mayLeaveEdits(project))
         return false;
-    const QString proposed = session->path.isEmpty() ? proposedName(project) : session->path;
+    const Session& session = *m_sessions.find(project);
+    const std::uint32_t projectId = project.getProjectId();
+    const QString proposed = session.path.isEmpty() ? proposedName(project) : session.path;
     const QString chosen =
         Gui::FileDialog::getSaveFileName(&m_mainWindow, tr("Save project"), proposed, tr("Project (*.vxmat)"));
-    return !chosen.isEmpty() && saveTo(project, canonicalPath(chosen));
+    // The project may have been closed while the user chose.
+    const bool isOpen = Obj::Application::instance().get_project(projectId) != nullptr;
+    return isOpen && !chosen.isEmpty() && saveTo(project, canonicalPath(chosen));
+}
+
+bool Saving::mayLeaveEdits(Obj::Project& project) const
+{
+    const std::uint32_t projectId = project.getProjectId();
+    const bool mayContinue =
+        askToApply(m_mainWindow, project,
+                   {tr("Save project"), tr("The file contains only applied changes."), tr("&Save without them")});
+    // The project may have been closed while the user answered.
+    return mayContinue && Obj::Application::instance().get_project(projectId) != nullptr;
 }
 
 bool Saving::saveTo(Obj::Project& project, const QString& path)
 {
-    const std::uint32_t projectId = project.getProjectId();
-    if (!askToApply(m_mainWindow, project,
-                    {tr("Save project"), tr("The file contains only applied changes."), tr("&Save without them")}))
-        return false;
-    // The project may have been closed while the user answered.
-    if (Obj::Application::instance().get_project(projectId) == nullptr)
-        return false;
     Session& session = *m_sessions.find(project);
     try {
         if (!mayWrite(session, path))

@@ -33,6 +33,8 @@ public:
     bool saveAs(Obj::Project& project);
 
 private:
+    /// Asks about the unapplied edits of the project. Returns false if the user cancels or the project has been closed.
+    bool mayLeaveEdits(Obj::Project& project) const;
     bool saveTo(Obj::Project& project, const QString& path);
     void write(Obj::Project& project, Session& session, const QString& path) const;
     /// Returns whether a project may be written to a file, and takes its lock. Asks the user if another program uses

@@ -707,6 +707,18 @@ TEST_F(ProjectFiles, AskAboutChangesInEditorsBeforeSaving)
     EXPECT_TRUE(isModified()) << "the file has what was applied";
 }
 
+TEST_F(ProjectFiles, AskAboutChangesInEditorsBeforeTheyAskForAFile)
+{
+    newProject();
+    editModulus(addMaterial(), QStringLiteral("1e9"));
+    for (const char* const command : {"Std_Save", "Std_SaveAs"}) {
+        const Answers answers({"Cancel"});
+        run(command);
+        EXPECT_THAT(answers.boxes(), testing::SizeIs(1)) << command;
+        EXPECT_THAT(text(answers.boxes()), HasSubstr("have not been applied.")) << command;
+    }
+}
+
 TEST_F(ProjectFiles, SaveNothingWhenAnEditorCannotApply)
 {
     newProject();

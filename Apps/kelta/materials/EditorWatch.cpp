@@ -7,6 +7,7 @@
 #include "Kelta/Exceptions.h"
 #include "Obj/Project.h"
 #include "cells/CellReading.h"
+#include "cells/ListNames.h"
 #include "cells/TableColours.h"
 #include "cells/ValueCellDelegate.h"
 #include "vxMaterial/gui/MaterialChange.h"
@@ -59,6 +60,7 @@ public:
     {
         m_table.setItemDelegateForColumn(MatGui::SheetTableView::Value, &m_delegate);
         followDarkColours(m_table);
+        ListNames::fitInto(editor);
         // Connected at the front, because another listener closes the editor.
         Obj::Project& project = *material().get_project();
         m_objectRemoved = project.objectRemoved.connect(

@@ -329,8 +329,9 @@ void ProjectExplorer::showMenu(const QModelIndex& index, const QPoint& position)
         node->build_context_menu("Tree", &items);
         if (!items.hasItems())
             items << (m_model.objectAt(index) != nullptr ? "Std_Delete" : "Std_CloseProject");
+        items << MenuItem::separator << "Std_Rename";
         if (findColor(*node) != nullptr)
-            items << MenuItem::separator << "Std_Color";
+            items << "Std_Color";
     } else {
         for (const std::string& command : m_window.contributions().treeMenu())
             items << command.c_str();

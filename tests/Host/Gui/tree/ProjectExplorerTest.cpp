@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QMenu>
 
+#include <functional>
+
 namespace {
 
 using testing::ElementsAre;
@@ -75,6 +77,27 @@ protected:
         QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
         QApplication::sendEvent(explorer().viewport(), &event);
         return offered;
+    }
+
+    /// Opens the context menu at a position, chooses an entry by the keyboard, which closes the menu first, and calls
+    /// `then` at once: later, the offscreen platform activates the window again, which ends the edit of a label.
+    void chooseByKeysAt(const QPoint& place, const QString& entry, const std::function<void()>& then) const
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            timer.stop();
+            for (QAction* const action : menu->actions())
+                if (action->text() == entry)
+                    menu->setActiveAction(action);
+            QTest::keyClick(menu, menu->activeAction() != nullptr ? Qt::Key_Return : Qt::Key_Escape);
+            then();
+        });
+        timer.start(1);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(explorer().viewport(), &event);
     }
 
     /// Presses the menu key, and triggers the entry "Show it" of the context menu that opens.
@@ -299,6 +322,15 @@ TEST_F(Explorer, RenamesByF2AndTyping)
     EXPECT_EQ(first.label.getValue(), "First");
 }
 
+TEST_F(Explorer, RenamesByTheMenu)
+{
+    QTest::mouseClick(explorer().viewport(), Qt::RightButton, {}, placeOf(second));
+    window->updateCommands();
+    chooseByKeysAt(placeOf(second), "Rena&me", [this] { typeLabel("Beam"); });
+    EXPECT_EQ(second.label.getValue(), "Beam");
+    EXPECT_EQ(first.label.getValue(), "First");
+}
+
 TEST_F(Explorer, KeepsTheLabelWhenRenamingIsGivenUp)
 {
     click(first);
@@ -346,7 +378,7 @@ TEST_F(Explorer, SurvivesTheRemovalOfTheRowThatIsRenamed)
 TEST_F(Explorer, OffersWhatTheNodeDoes)
 {
     EXPECT_EQ(contextMenuAt(placeOf(first)),
-              QStringList({"Show it", "-", "&Copy", "-", "&Suppress", "-", "C&olor..."}));
+              QStringList({"Show it", "-", "&Copy", "-", "&Suppress", "-", "Rena&me", "C&olor..."}));
 }
 
 TEST_F(Explorer, HandsTheEditModeOfAChosenActionToTheNode)
@@ -357,13 +389,14 @@ TEST_F(Explorer, HandsTheEditModeOfAChosenActionToTheNode)
 
 TEST_F(Explorer, OffersToCloseAProjectWhoseNodeHasNoMenu)
 {
-    EXPECT_EQ(contextMenuAt(explorer().visualRect(model().indexOf(project)).center()), QStringList({"&Close project"}));
+    EXPECT_EQ(contextMenuAt(explorer().visualRect(model().indexOf(project)).center()),
+              QStringList({"&Close project", "-", "Rena&me"}));
 }
 
 TEST_F(Explorer, OffersToDeleteAnObjectWhoseNodeHasNoMenu)
 {
     Obj::ProjectObject& plain = *project.add_object("Obj::ProjectObjectGroup", "Plain");
-    EXPECT_EQ(contextMenuAt(placeOf(plain)), QStringList({"Dele&te"}));
+    EXPECT_EQ(contextMenuAt(placeOf(plain)), QStringList({"Dele&te", "-", "Rena&me"}));
 }
 
 TEST_F(Explorer, SelectsTheRowOnWhichTheMenuOpens)

@@ -578,6 +578,8 @@ void MaterialView::openQuestion()
     question->setTextFormat(Qt::PlainText);
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setDefaultButton(QMessageBox::Apply);
+    // The standard text of the button has no mnemonic.
+    question->button(QMessageBox::Discard)->setText(tr("&Discard"));
     connect(question, &QDialog::finished, this, &MaterialView::answerQuestion, Qt::QueuedConnection);
     closingWindows() = {this, {}};
     // The user must see the values in question, also if several windows close.

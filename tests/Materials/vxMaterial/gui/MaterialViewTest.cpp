@@ -601,6 +601,17 @@ TEST(MaterialView, AsksWhetherToApplyTheChangesBeforeItCloses)
     EXPECT_TRUE(boxes[0].hasDefaultButton);
 }
 
+TEST(MaterialView, DiscardsByAKeyOfItsQuestion)
+{
+    Editor editor;
+    editor.typeValue(4, "2700");
+    close();
+    const auto question = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+    ASSERT_TRUE(vxtest::waitFor([&] { return question() != nullptr && question()->isActiveWindow(); }));
+    QTest::keyClick(question(), Qt::Key_D, Qt::AltModifier);
+    EXPECT_TRUE(vxtest::waitFor([&] { return editor.isClosed(); }));
+}
+
 TEST(MaterialView, ShowsTheLabelLiterallyInItsQuestion)
 {
     for (const char* const label : {"<b>Steel</b>", "%1 %2", "结构钢", ""}) {

@@ -19,6 +19,8 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTextCodec>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QTextStream>
 #include <QTimer>
 
@@ -51,6 +53,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("desktop::Batch", text);
 }
 
+/// Returns the text of a box without the markup that the box would not show.
+QString shownText(const QMessageBox& box)
+{
+    const bool isRich =
+        box.textFormat() == Qt::RichText || (box.textFormat() == Qt::AutoText && Qt::mightBeRichText(box.text()));
+    return isRich ? QTextDocumentFragment::fromHtml(box.text()).toPlainText() : box.text();
+}
+
 QString describe(const QDialog& dialog)
 {
     return tr("the dialog \"%1\" needs a user").arg(dialog.windowTitle());
@@ -76,7 +86,7 @@ private:
         auto* const box = qobject_cast<QMessageBox*>(modal);
         if (box == nullptr)
             return closeDialog(qobject_cast<QDialog*>(modal));
-        const QString text = box->windowTitle() + QStringLiteral(": ") + box->text();
+        const QString text = box->windowTitle() + QStringLiteral(": ") + shownText(*box);
         complain(text);
         const bool isFailure = box->icon() == QMessageBox::Critical || box->icon() == QMessageBox::Warning;
         if (isFailure && m_failure.isEmpty())

@@ -89,6 +89,14 @@ TEST_F(Batch, ReadsStandardInput)
     EXPECT_EQ(run({"--batch", "-"}).status, 0);
 }
 
+TEST_F(Batch, WritesBoxesWithMarkupAsPlainText)
+{
+    const Outcome outcome = runBatch("Std_About\n");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(errorsOf(outcome), HasSubstr("kelta "));
+    EXPECT_THAT(errorsOf(outcome), testing::Not(HasSubstr("<")));
+}
+
 TEST_F(Batch, AnswersBoxesAndFailsWhenTheyWarn)
 {
     const Outcome outcome = runBatch("Mat_NewDoc\nMat_Export no/such/folder.json\n");

@@ -842,6 +842,10 @@ Unterdrückt</translation>
         <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
         <translation>Zeile %1: Der Wert „%2“ von „%3“ kann nicht gelesen werden. %4</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
 </context>
 <context>
     <name>MatGui::SheetTableView</name>

@@ -842,6 +842,10 @@ Suppressed</source>
         <source>Row %1: The value &quot;%2&quot; of &quot;%3&quot; cannot be read. %4</source>
         <translation>第 %1 行：无法读取“%3”的值“%2”。%4</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>MatGui::SheetTableView</name>

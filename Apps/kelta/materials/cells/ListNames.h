@@ -7,7 +7,7 @@ class QWidget;
 namespace desktop {
 
 /// Shows the names in the lists of a material editor as wide as the list is. A name that is too long loses its middle, because
-/// names of quantities often differ at their end only: "Mater…nt C10". Its tool tip has the whole name.
+/// names of quantities often differ at their end only, as "Material Constant C10" and "C01" do. Its tool tip has the whole name.
 class ListNames : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -7,6 +7,7 @@
 #include "fit/FitOptions.h"
 #include "fit/FitTables.h"
 #include "fit/ModulusChoice.h"
+#include "fit/PageWheel.h"
 #include "fit/ResultPanel.h"
 #include "fit/TestPanel.h"
 #include "fit/VolumeChoice.h"
@@ -129,6 +130,7 @@ void FitPage::layOut()
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(m_scroll);
+    new PageWheel(this);
 }
 
 QWidget* FitPage::makeContent()

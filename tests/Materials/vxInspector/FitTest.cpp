@@ -20,10 +20,13 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 #include <QtTest/QtTestGui>
 
 #include <sys/stat.h>
@@ -1140,6 +1143,31 @@ TEST_F(FitTab, AsksForAKeptTestAgainIfItsKeepingIsUndoneBesideOwnTests)
     QCoreApplication::processEvents();
     EXPECT_TRUE(page().tests()[0].isKept);
     EXPECT_FALSE(page().tests()[1].isKept);
+}
+
+/// Turns the wheel downwards over the middle of a widget.
+void turnWheel(QWidget& widget)
+{
+    const QPoint middle = widget.rect().center();
+    QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    // Only events of the system go on to the parents of a widget.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(&widget, &event);
+}
+
+TEST_F(FitTab, ScrollsWithTheWheelOverListsThatDoNotHaveTheKeyboard)
+{
+    showMaterial();
+    fitRubber();
+    auto& mode = control<QComboBox>("fitMode");
+    control<QPushButton>("fitStart").setFocus();
+    QScrollBar& bar = *page().findChild<QScrollArea*>()->verticalScrollBar();
+    bar.setValue(0);
+    turnWheel(mode);
+    EXPECT_EQ(mode.currentText().left(8), "uniaxial");
+    EXPECT_FALSE(page().results().empty()) << "a changed test drops its results";
+    EXPECT_GT(bar.value(), 0);
 }
 
 TEST_F(FitTab, EndsWithCancel)

@@ -52,9 +52,11 @@ for language in en de zh_CN; do
     done
 done
 pictures=$PWD/docs/images
+# The first window on the offscreen screen, which is small, hides the inspector; on the screens of users it is shown.
 cd "$home"
 HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8 \
     "$bin/kelta" --batch - 2>/dev/null <<END
+Dock_Inspector
 screenshot $pictures/start.png
 Mat_NewDoc
 Mat_AddMaterial

@@ -3,6 +3,7 @@
 // Usage: inspector_screenshots FOLDER LANGUAGE light|dark SUFFIX
 
 #include "Screenshots.h"
+#include "Waiting.h"
 
 #include "Gui/GuiApplication.h"
 #include "Gui/MainWindow.h"
@@ -29,6 +30,7 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -100,8 +102,12 @@ void shootTabs(const Shooting& shooting, Mat::DocumentMaterial& project)
     };
     select({&frame});
     Gui::GuiApplication::Instance->get_view_feeder(&frame)->on_double_clicked();
+    // The inspector loads its tabs after its first picture, which takes longer on a busy machine.
+    const auto find = [&] { return shooting.window.findChild<QTabWidget*>(QStringLiteral("inspectorTabs")); };
+    if (!vxtest::waitFor([&] { return find() != nullptr; }))
+        throw std::runtime_error("the inspector has no tabs");
     shooting.take("inspector-values");
-    auto& tabs = *shooting.window.findChild<QTabWidget*>(QStringLiteral("inspectorTabs"));
+    QTabWidget& tabs = *find();
     select({&shaft});
     tabs.setCurrentIndex(1);
     shooting.take("inspector-findings");

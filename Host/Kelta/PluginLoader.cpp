@@ -159,7 +159,7 @@ void PluginLoader::Run::load(const QString& name)
     m_chain.removeLast();
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): see load
+// NOLINTNEXTLINE(misc-no-recursion): as deep as the chain of modules that need each other
 void PluginLoader::Run::tryToLoad(const QString& name, const QString& file)
 {
     try {
@@ -174,7 +174,7 @@ void PluginLoader::Run::tryToLoad(const QString& name, const QString& file)
     }
 }
 
-// NOLINTNEXTLINE(misc-no-recursion): see load
+// NOLINTNEXTLINE(misc-no-recursion): as deep as the chain of modules that need each other
 void PluginLoader::Run::loadNeeds(const ModuleDescriptor& descriptor)
 {
     for (const auto& [need, version] : descriptor.needs) {

@@ -189,8 +189,8 @@ Failure makeFailure(FaultCode code, Text text, std::vector<std::string> argument
 
 namespace {
 
-/// Returns whether a character can be quoted: it is none of the controls, of which some turn the direction of the text
-/// around them.
+/// Returns false if a character must not be quoted: a control character, a line separator, or a character that changes the
+/// direction of the text around it.
 bool isShown(std::uint32_t character)
 {
     const bool control = character < 0x20 || (character >= 0x7F && character <= 0x9F);

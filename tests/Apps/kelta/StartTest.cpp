@@ -152,20 +152,26 @@ TEST_F(Start, ReportsADamagedModuleWhenTheWindowIsComplete)
     EXPECT_TRUE(hasModules());
 }
 
+/// Shows the window of a start, calls `use` at once, and `end` when the window is complete and its layout is stored.
+void runOnce(
+    const std::function<void(Gui::MainWindow&)>& use,
+    const std::function<void(Gui::MainWindow&)>& end = [](Gui::MainWindow&) {})
+{
+    Gui::MainWindow window(Gui::MainWindow::Parts::OutlineFirst);
+    desktop::startFiles(window, {});
+    int completions = 0;
+    desktop::Start start(window, [&] { ++completions; });
+    start.show();
+    use(window);
+    EXPECT_TRUE(vxtest::waitFor([&] { return completions == 1; }));
+    window.saveLayout();
+    end(window);
+}
+
 TEST(SecondStart, LosesNoClickOnAButtonOfThePage)
 {
-    const auto startWindow = [](const std::function<void(Gui::MainWindow&)>& use) {
-        Gui::MainWindow window(Gui::MainWindow::Parts::OutlineFirst);
-        desktop::startFiles(window, {});
-        int completions = 0;
-        desktop::Start start(window, [&] { ++completions; });
-        start.show();
-        use(window);
-        EXPECT_TRUE(vxtest::waitFor([&] { return completions == 1; }));
-        window.saveLayout();
-    };
-    startWindow([](const Gui::MainWindow&) {});
-    startWindow([](Gui::MainWindow& window) {
+    runOnce([](const Gui::MainWindow&) {});
+    runOnce([](Gui::MainWindow& window) {
         ASSERT_FALSE(window.isComplete());
         const auto* const button = window.findChild<QPushButton*>("Mat_NewDoc");
         ASSERT_NE(button, nullptr);
@@ -181,16 +187,10 @@ TEST(StartFromAPicture, LosesNoClickOnAButtonThatThePictureShows)
 {
     QPoint place;
     const auto startWindow = [](const std::function<void(Gui::MainWindow&)>& use) {
-        Gui::MainWindow window(Gui::MainWindow::Parts::OutlineFirst);
-        desktop::startFiles(window, {});
-        int completions = 0;
-        desktop::Start start(window, [&] { ++completions; });
-        start.show();
-        use(window);
-        EXPECT_TRUE(vxtest::waitFor([&] { return completions == 1; }));
-        window.saveLayout();
-        window.hide();
-        desktop::keepStartPicture(window);
+        runOnce(use, [](Gui::MainWindow& window) {
+            window.hide();
+            desktop::keepStartPicture(window);
+        });
     };
     startWindow([](const Gui::MainWindow&) {});
     startWindow([&](Gui::MainWindow& window) {

@@ -79,68 +79,58 @@ protected:
         return offered;
     }
 
+    /// Sends an event that opens a context menu, and calls `use` when the menu is open.
+    void useMenu(QContextMenuEvent::Reason reason, const QPoint& place, const std::function<void(QMenu&)>& use) const
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            timer.stop();
+            use(*menu);
+        });
+        timer.start(1);
+        QContextMenuEvent event(reason, place, explorer().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(explorer().viewport(), &event);
+    }
+
     /// Opens the context menu at a position, chooses an entry by the keyboard, which closes the menu first, and calls
     /// `then` at once: later, the offscreen platform activates the window again, which ends the edit of a label.
     void chooseByKeysAt(const QPoint& place, const QString& entry, const std::function<void()>& then) const
     {
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            if (menu == nullptr)
-                return;
-            timer.stop();
-            for (QAction* const action : menu->actions())
+        useMenu(QContextMenuEvent::Mouse, place, [&](QMenu& menu) {
+            for (QAction* const action : menu.actions())
                 if (action->text() == entry)
-                    menu->setActiveAction(action);
-            QTest::keyClick(menu, menu->activeAction() != nullptr ? Qt::Key_Return : Qt::Key_Escape);
+                    menu.setActiveAction(action);
+            QTest::keyClick(&menu, menu.activeAction() != nullptr ? Qt::Key_Return : Qt::Key_Escape);
             then();
         });
-        timer.start(1);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
-        QApplication::sendEvent(explorer().viewport(), &event);
     }
 
-    /// Presses the menu key, and triggers the entry "Show it" of the context menu that opens.
+    /// Presses the menu key, of which the platform makes an event, and triggers the entry "Show it" of the context menu.
     void showByMenuKey() const
     {
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            if (menu == nullptr)
-                return;
-            timer.stop();
-            for (QAction* const action : menu->actions())
+        useMenu(QContextMenuEvent::Keyboard, {}, [](QMenu& menu) {
+            for (QAction* const action : menu.actions())
                 if (action->text() == QStringLiteral("Show it"))
                     action->trigger();
-            menu->close();
+            menu.close();
         });
-        timer.start(1);
-        // The platform makes this event from the key.
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
-        QApplication::sendEvent(explorer().viewport(), &event);
     }
 
     /// Chooses an entry of the menu "Display as" of the first object.
     void chooseDisplayMode(const QString& mode) const
     {
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            if (menu == nullptr)
-                return;
-            timer.stop();
-            for (const QMenu* const choices : menu->findChildren<QMenu*>())
+        useMenu(QContextMenuEvent::Mouse, placeOf(first), [&mode](QMenu& menu) {
+            for (const QMenu* const choices : menu.findChildren<QMenu*>())
                 for (QAction* const action : choices->actions()) {
                     EXPECT_EQ(action->isChecked(), action->text() == QStringLiteral("Shaded"));
                     if (action->text() == mode)
                         action->trigger();
                 }
-            menu->close();
+            menu.close();
         });
-        timer.start(1);
-        const QPoint place = placeOf(first);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
-        QApplication::sendEvent(explorer().viewport(), &event);
     }
 
     std::vector<Obj::ProjectObject*> selectedObjects() const

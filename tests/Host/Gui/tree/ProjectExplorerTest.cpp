@@ -56,29 +56,6 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    /// Returns the entries of the context menu at a position. Triggers the entry `choose`, and closes the menu.
-    QStringList contextMenuAt(const QPoint& place, const QString& choose = {}) const
-    {
-        QStringList offered;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            if (menu == nullptr)
-                return;
-            timer.stop();
-            for (QAction* const action : menu->actions()) {
-                offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
-                if (action->text() == choose)
-                    action->trigger();
-            }
-            menu->close();
-        });
-        timer.start(1);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, explorer().viewport()->mapToGlobal(place));
-        QApplication::sendEvent(explorer().viewport(), &event);
-        return offered;
-    }
-
     /// Sends an event that opens a context menu, and calls `use` when the menu is open.
     void useMenu(QContextMenuEvent::Reason reason, const QPoint& place, const std::function<void(QMenu&)>& use) const
     {
@@ -93,6 +70,21 @@ protected:
         timer.start(1);
         QContextMenuEvent event(reason, place, explorer().viewport()->mapToGlobal(place));
         QApplication::sendEvent(explorer().viewport(), &event);
+    }
+
+    /// Returns the entries of the context menu at a position. Triggers the entry `choose`, and closes the menu.
+    QStringList contextMenuAt(const QPoint& place, const QString& choose = {}) const
+    {
+        QStringList offered;
+        useMenu(QContextMenuEvent::Mouse, place, [&](QMenu& menu) {
+            for (QAction* const action : menu.actions()) {
+                offered << (action->isSeparator() ? QStringLiteral("-") : action->text());
+                if (action->text() == choose)
+                    action->trigger();
+            }
+            menu.close();
+        });
+        return offered;
     }
 
     /// Opens the context menu at a position, chooses an entry by the keyboard, which closes the menu first, and calls
